@@ -1,0 +1,64 @@
+# One static library for each folder below src/, its sources being whatever lies in the folder, so
+# that a new file needs no change here.
+find_package(Threads REQUIRED)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+find_program(QUILLON_CCACHE ccache)
+if(QUILLON_CCACHE)
+  set(CMAKE_C_COMPILER_LAUNCHER ${QUILLON_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${QUILLON_CCACHE})
+endif()
+
+add_library(quillon_options INTERFACE)
+# Designated initializers name the fields that matter and leave the others at their defaults.
+target_compile_options(quillon_options INTERFACE -Wall -Wextra -Wshadow -Wconversion -Werror
+                                                 -Wno-missing-field-initializers)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # GCC 12 sees an overlap in `"text" + std::string` where there is none (its bug 105651).
+  target_compile_options(quillon_options INTERFACE -Wno-restrict)
+endif()
+target_include_directories(quillon_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_link_libraries(quillon_options INTERFACE Threads::Threads)
+if(QUILLON_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(QUILLON_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# quillon_library(<folder> [linked libraries...])
+function(quillon_library folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
+       ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
+  if(WIN32)
+    file(GLOB system CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/win32/*.cpp)
+  else()
+    file(GLOB system CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/posix/*.cpp)
+  endif()
+  if(NOT sources MATCHES "[.]cpp" AND NOT system)
+    add_library(quillon_${folder} INTERFACE)
+    target_link_libraries(quillon_${folder} INTERFACE quillon_options ${ARGN})
+    return()
+  endif()
+  add_library(quillon_${folder} STATIC ${sources} ${system})
+  target_link_libraries(quillon_${folder} PUBLIC quillon_options ${ARGN})
+endfunction()
+
+# quillon_test(<folder> [linked libraries...]): one fat test program for each folder of tests/.
+function(quillon_test folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
+       ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${folder}_test ${sources})
+  target_link_libraries(${folder}_test PRIVATE quillon_test_support ${ARGN})
+  target_precompile_headers(${folder}_test REUSE_FROM quillon_test_support)
+  add_test(NAME ${folder} COMMAND ${folder}_test)
+endfunction()

@@ -1,0 +1,65 @@
+// The compression interface as Create sees it: a list of paths, then one call that makes an archive
+// of them. Results are numbers, because the status list tells them by number.
+#pragma once
+
+#include "helpers/number_text.h"
+#include "helpers/text.h"
+#include "platform/ask.h"
+#include "platform/host.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace quillon {
+
+/// What a call of the compression interface answers; 0 and below is success.
+namespace CompressionResult {
+    inline constexpr Integer kDone = 0;
+    inline constexpr Integer kSourceMissing = 4;
+    inline constexpr Integer kSourceChanged = 5; // it shrank or grew while it was read
+    inline constexpr Integer kNothingToDo = 12; // the list held no file
+    inline constexpr Integer kCancelled = 14; // no further disk came
+    inline constexpr Integer kDiskFull = 15;
+    inline constexpr Integer kCannotWrite = 16;
+    inline constexpr Integer kNoReadAccess = 18;
+}
+
+/// Where the pieces of a spanned archive go.
+class DiskSource {
+public:
+    virtual ~DiskSource() = default;
+
+    /// The folder of disk `number` (2 and up), ready to be written; nothing when none comes.
+    virtual std::optional<Text> NextDisk(int number) = 0;
+    /// Bytes that the disk in this folder can still take.
+    virtual std::uint64_t Capacity(const Text& folder) const = 0;
+};
+
+/// One list at a time, in the order: init, reset, add each path, create, (disk count), free.
+class CompressionInterface {
+public:
+    CompressionInterface(Host& host, Ask& ask, DiskSource& disks);
+    ~CompressionInterface();
+    CompressionInterface(const CompressionInterface&) = delete;
+    CompressionInterface& operator=(const CompressionInterface&) = delete;
+
+    /// `workPath` is the folder for unfinished archives, empty for the system's; `logFlag` 1 logs to
+    /// DYNAZIP.LOG in the Windows folder; `level` is 0 (stored) or 5 (deflate).
+    void IfcInitDynaZipStruct(const Text& workPath, Integer logFlag, Integer level);
+    void IfcResetFileList();
+    /// `row` is the key of the FILELIST.INF row that the file serves ("F7"), empty for none. A path
+    /// that comes again is stored once, and serves both rows. 0 is failure.
+    Integer IfcAddFileListItem(const Text& path, const Text& row = {});
+    Integer IfcCreateZipFile(const Text& target, Integer floppySpanning, const Text& password);
+    /// Entries carry the file names alone.
+    Integer IfcCreateDesignZipFile(const Text& target);
+    Integer IfcGetNrFloppiesUsed() const;
+    void IfcFreeFileList();
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
+} // namespace quillon

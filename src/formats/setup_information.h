@@ -1,0 +1,35 @@
+// QNSETUP.INF read back: what the setup runtime knows of the project. The tables that the writer
+// walks stand beside this reader, so that both agree.
+#pragma once
+
+#include "helpers/number_text.h"
+#include "helpers/text.h"
+#include "project/records.h"
+
+#include <string_view>
+
+namespace quillon {
+
+struct SetupInformation {
+    // Every field that the file carries, under the names of the project; the file list is empty.
+    Project project;
+
+    Text toolVersion;
+    bool isPreview = false;
+    Text XProductVersion; // the version text itself, not the file it came from
+    int Floppies = 0; // 0 where the file has no such key or only its placeholder
+    Flag PlaceCompressedFilesInFolderSetupFiles = kOff;
+    Flag CreateFolderStructureInFolderSetupFiles = kOff;
+    int DesWidth = 0; // pixels
+    int DesHeight = 0;
+    Flag UseComponents = kOff;
+    Long Files = 0;
+    Long TotalSize = 0; // kilobytes
+    // False where the type mark or the file's end is missing, or a list does not end.
+    bool isWhole = false;
+};
+
+/// Reads QNSETUP.INF from the bytes on file. The password comes back in plain.
+SetupInformation ReadSetupInformation(std::string_view bytes);
+
+} // namespace quillon

@@ -1,0 +1,86 @@
+#include "helpers/utf8.h"
+
+namespace quillon {
+
+namespace {
+
+struct Lead {
+    int followers;
+    char32_t bits;
+    char32_t smallest;
+};
+
+Lead ReadLead(unsigned char byte)
+{
+    if (byte < 0x80)
+        return {0, byte, 0};
+    if (byte >= 0xC2 && byte <= 0xDF)
+        return {1, byte & 0x1FU, 0x80};
+    if ((byte & 0xF0U) == 0xE0)
+        return {2, byte & 0x0FU, 0x800};
+    if (byte >= 0xF0 && byte <= 0xF4)
+        return {3, byte & 0x07U, 0x10000};
+    return {-1, 0, 0};
+}
+
+bool IsScalarValue(char32_t value)
+{
+    return value <= 0x10FFFF && (value < 0xD800 || value > 0xDFFF);
+}
+
+} // namespace
+
+char32_t NextCodePoint(std::string_view text, std::size_t& position)
+{
+    const Lead lead = ReadLead(static_cast<unsigned char>(text[position++]));
+    if (lead.followers < 0)
+        return kReplacementCharacter;
+
+    char32_t value = lead.bits;
+    std::size_t behind = position;
+    for (int i = 0; i < lead.followers; ++i, ++behind) {
+        const auto byte = behind < text.size() ? static_cast<unsigned char>(text[behind]) : 0U;
+        if ((byte & 0xC0U) != 0x80)
+            return kReplacementCharacter;
+        value = (value << 6U) | (byte & 0x3FU);
+    }
+    if (value < lead.smallest || !IsScalarValue(value))
+        return kReplacementCharacter;
+    position = behind;
+    return value;
+}
+
+void AppendCodePoint(std::string& text, char32_t codePoint)
+{
+    const auto append = [&text](char32_t byte) { text += static_cast<char>(byte); };
+    if (codePoint < 0x80) {
+        append(codePoint);
+    } else if (codePoint < 0x800) {
+        append(0xC0U | (codePoint >> 6U));
+        append(0x80U | (codePoint & 0x3FU));
+    } else if (codePoint < 0x10000) {
+        append(0xE0U | (codePoint >> 12U));
+        append(0x80U | ((codePoint >> 6U) & 0x3FU));
+        append(0x80U | (codePoint & 0x3FU));
+    } else {
+        append(0xF0U | (codePoint >> 18U));
+        append(0x80U | ((codePoint >> 12U) & 0x3FU));
+        append(0x80U | ((codePoint >> 6U) & 0x3FU));
+        append(0x80U | (codePoint & 0x3FU));
+    }
+}
+
+bool IsUtf8(std::string_view text)
+{
+    std::string again;
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t start = position;
+        again.clear();
+        AppendCodePoint(again, NextCodePoint(text, position));
+        if (again != text.substr(start, position - start))
+            return false;
+    }
+    return true;
+}
+
+} // namespace quillon

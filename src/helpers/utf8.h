@@ -1,0 +1,21 @@
+// Walking over UTF-8. A byte that starts no valid sequence is taken as U+FFFD and skipped alone, so
+// that no text, however damaged, can stop the walk.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+inline constexpr char32_t kReplacementCharacter = 0xFFFD;
+
+/// The code point that begins at `position`, which is moved behind it.
+/// `position` must lie inside the text.
+char32_t NextCodePoint(std::string_view text, std::size_t& position);
+
+void AppendCodePoint(std::string& text, char32_t codePoint);
+
+/// False where any byte is no part of a well-formed sequence.
+bool IsUtf8(std::string_view text);
+
+} // namespace quillon

@@ -1,0 +1,108 @@
+#include "helpers/windows_path.h"
+
+#include "helpers/utf8.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr char kBackslash = '\\';
+
+bool IsDriveRoot(std::string_view path)
+{
+    return path.size() == 3 && path[1] == ':' && path[2] == kBackslash;
+}
+
+} // namespace
+
+Text ExtractFilename(std::string_view path)
+{
+    const std::size_t last = path.rfind(kBackslash);
+    if (last != std::string_view::npos)
+        path.remove_prefix(last + 1);
+    return FirstCharacters(path, kLongestPath);
+}
+
+Text ExtractDirectory(std::string_view path)
+{
+    const std::size_t last = path.rfind(kBackslash);
+    if (last == std::string_view::npos)
+        return {};
+    const std::string_view withBackslash = path.substr(0, last + 1);
+    const bool keepsIt = IsDriveRoot(withBackslash);
+    return FirstCharacters(keepsIt ? withBackslash : path.substr(0, last), kLongestPath);
+}
+
+Text ChangeFilenameExt(std::string_view name, std::string_view extension)
+{
+    const std::size_t nameStart = name.find_last_of(kBackslash);
+    const std::size_t point = name.rfind('.');
+    const bool hasPoint = point != std::string_view::npos &&
+                          (nameStart == std::string_view::npos || point > nameStart);
+    Text changed(hasPoint ? name.substr(0, point) : name);
+    return FirstCharacters(changed.append(".").append(extension), kLongestPath);
+}
+
+Text ExtensionFromFirstPoint(std::string_view name)
+{
+    const std::size_t point = name.find('.');
+    return point == std::string_view::npos ? Text() : Text(name.substr(point + 1));
+}
+
+Text RemoveLastBackslash(std::string_view path)
+{
+    if (!path.empty() && path.back() == kBackslash)
+        path.remove_suffix(1);
+    return FirstCharacters(path, kLongestPath);
+}
+
+Text RemoveDupBackslashesEx(std::string_view path)
+{
+    Text single;
+    for (std::size_t i = 0; i < path.size(); ++i) {
+        const bool repeats = i > 1 && path[i] == kBackslash && path[i - 1] == kBackslash;
+        if (!repeats)
+            single += path[i];
+    }
+    return FirstCharacters(single, kLongestPath);
+}
+
+Text JoinPath(std::string_view folder, std::string_view name)
+{
+    Text path(folder);
+    if (!path.empty() && path.back() != kBackslash)
+        path += kBackslash;
+    return path.append(name);
+}
+
+Text FormatPathForDisplay(std::string_view path)
+{
+    const Text lower = LowerCase(path);
+    Text shown;
+    bool startsWord = true;
+    for (std::size_t position = 0; position < lower.size();) {
+        const std::size_t start = position;
+        const char32_t letter = NextCodePoint(lower, position);
+        const std::string_view character(lower.data() + start, position - start);
+        shown += startsWord ? UpperCase(character) : Text(character);
+        startsWord = letter == U'\\';
+    }
+    return shown;
+}
+
+Text PrettyPath(std::string_view path)
+{
+    return FormatPathForDisplay(path);
+}
+
+Text WithoutDrive(std::string_view path)
+{
+    const std::size_t colon = path.find(':');
+    if (colon != std::string_view::npos)
+        path.remove_prefix(colon + 1);
+    while (!path.empty() && path.front() == kBackslash)
+        path.remove_prefix(1);
+    return Text(path);
+}
+
+} // namespace quillon

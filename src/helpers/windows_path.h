@@ -1,0 +1,44 @@
+// Windows paths as texts. The functions here only cut and join; whether anything lies at a path is
+// the file system's to say.
+#pragma once
+
+#include "helpers/text.h"
+
+namespace quillon {
+
+// The longest path that the tool's path functions answer with, in characters.
+inline constexpr std::size_t kLongestPath = 300;
+
+/// What stands behind the last backslash; the whole path where there is none.
+Text ExtractFilename(std::string_view path);
+
+/// What stands before the last backslash; of "C:\a.txt" it is "C:\", with the backslash that makes
+/// it a root. Empty where the path has no folder.
+Text ExtractDirectory(std::string_view path);
+
+/// The name with what stands behind its last point replaced by `extension` (given without point); a
+/// name without a point gets one.
+Text ChangeFilenameExt(std::string_view name, std::string_view extension);
+
+/// Everything behind the first point from the left, so that `a.b.ttf` has the extension `b.ttf`.
+Text ExtensionFromFirstPoint(std::string_view name);
+
+Text RemoveLastBackslash(std::string_view path);
+
+/// Each run of backslashes made single, but the two that begin a network path.
+Text RemoveDupBackslashesEx(std::string_view path);
+
+/// The folder and the name joined by exactly one backslash.
+Text JoinPath(std::string_view folder, std::string_view name);
+
+/// Display case: all in lower case, then an upper-case letter first and behind each backslash.
+Text FormatPathForDisplay(std::string_view path);
+
+/// The casing in which the tool's own paths are shown and stored; it is the display case.
+Text PrettyPath(std::string_view path);
+
+/// Without the drive and the backslash behind it: "c:\data\a.txt" gives "data\a.txt". A network
+/// path loses its leading backslashes.
+Text WithoutDrive(std::string_view path);
+
+} // namespace quillon

@@ -1,0 +1,43 @@
+// The user, as the logic sees one: boxes to answer, choices to make, lines to read. The desktop
+// tool shows windows, the command-line program prints and answers from its switches, and the tests
+// have their answers laid ready.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace quillon {
+
+enum class Answer { Yes, No, Cancel };
+
+class Ask {
+public:
+    virtual ~Ask() = default;
+
+    // Boxes with an OK button alone: the information, exclamation and stop signs.
+    virtual void Inform(const Text& title, const Text& text) = 0;
+    virtual void Warn(const Text& title, const Text& text) = 0;
+    virtual void Critical(const Text& title, const Text& text) = 0;
+
+    /// A Yes/No question with an exclamation mark.
+    /// `stops` says which answer ends the command, for a program that has nobody to ask.
+    enum class Stops { OnYes, OnNo };
+    virtual bool YesNo(const Text& title, const Text& text, Stops stops) = 0;
+    /// An OK/Cancel question; true is OK. Cancel always ends the command.
+    virtual bool OkCancel(const Text& title, const Text& text) = 0;
+    /// A Yes/No/Cancel question with a question mark.
+    virtual Answer YesNoCancel(const Text& title, const Text& text) = 0;
+
+    /// A line of the progress list of a long command.
+    virtual void AddStatusLine(const Text& line) = 0;
+    /// How far a long step is, in bytes. `total` 0 ends the display of progress.
+    virtual void ShowProgress(std::uint64_t done, std::uint64_t total) = 0;
+    virtual void ShowBusyPointer(bool busy) = 0;
+    virtual void Beep() = 0;
+    /// Lets pending events run, so that a window stays alive during long work.
+    virtual void YieldToEvents() = 0;
+};
+
+} // namespace quillon

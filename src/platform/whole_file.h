@@ -1,0 +1,36 @@
+// Small files as one piece: the text files that the tool writes and reads.
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <string>
+
+namespace quillon {
+
+/// All bytes of the file. Throws as `OpenInput` does.
+std::string ReadWholeFile(const FileSystem& files, const Text& path);
+
+void WriteWholeFile(FileSystem& files, const Text& path, std::string_view bytes);
+
+/// A text file on its way out: Windows-1252, CR LF behind every line. Lines are collected and
+/// written in large pieces, so a failed write may show some lines late, and in `Close` at the
+/// latest. One that is destroyed without `Close`, because its writer failed, leaves the lines so
+/// far.
+class AnsiTextFile {
+public:
+    AnsiTextFile(FileSystem& files, const Text& path);
+    ~AnsiTextFile();
+    AnsiTextFile(const AnsiTextFile&) = delete;
+    AnsiTextFile& operator=(const AnsiTextFile&) = delete;
+
+    void Line(std::string_view text = {});
+    void Close();
+
+private:
+    void Flush();
+
+    std::unique_ptr<OutputFile> file_;
+    std::string pending_;
+};
+
+} // namespace quillon

@@ -1,0 +1,59 @@
+#include "helpers/text.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+TEST(UpperAndLowerCase, CoverTheLettersOfWindows1252)
+{
+    EXPECT_EQ(UpperCase("abcåäöéÿšœžþß÷"), "ABCÅÄÖÉŸŠŒŽÞß÷");
+    EXPECT_EQ(LowerCase("ABCÅÄÖÉŸŠŒŽÞ×"), "abcåäöéÿšœžþ×");
+    EXPECT_EQ(LowerCase("ДЖ Σ"), "ДЖ Σ") << "letters that no project can hold stay as they are";
+}
+
+TEST(Comparison, IgnoresCaseByCodePoint)
+{
+    EXPECT_TRUE(EqualIgnoreCase("Ärende.TXT", "äRENDE.txt"));
+    EXPECT_FALSE(EqualIgnoreCase("a", "ab"));
+    EXPECT_LT(CompareIgnoreCase("a", "B"), 0);
+    EXPECT_LT(CompareIgnoreCase("a", "ab"), 0);
+    EXPECT_GT(CompareIgnoreCase("å", "z"), 0);
+}
+
+TEST(TrimBlanks, TakesBlanksAndTabsOffBothEnds)
+{
+    EXPECT_EQ(TrimBlanks(" \t a b \t"), "a b");
+    EXPECT_EQ(TrimBlanks(" \t "), "");
+    EXPECT_EQ(TrimBlanks(""), "");
+}
+
+TEST(ReplaceAll, DoesNotLookAtWhatItPutIn)
+{
+    EXPECT_EQ(ReplaceAll("aaa", "a", "aa"), "aaaaaa");
+    EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
+}
+
+TEST(SplitLines, CutsAtEachLineBreakAndAtNothingElse)
+{
+    EXPECT_EQ(SplitLines(""), (std::vector<Text>{""}));
+    EXPECT_EQ(SplitLines("a\r\n\r\nb\nc\rd"), (std::vector<Text>{"a", "", "b\nc\rd"}));
+    EXPECT_EQ(SplitLines("a\r\n"), (std::vector<Text>{"a", ""}));
+}
+
+TEST(StrBetween, NeedsBothMarks)
+{
+    EXPECT_EQ(StrBetween("a \"b\" \"c\"", "\"", "\""), "b");
+    EXPECT_EQ(StrBetween("a \"b", "\"", "\""), "");
+    EXPECT_EQ(StrBetween("a]b[", "[", "]"), "");
+    EXPECT_EQ(StrBetween("[" + Text(3000, 'x') + "]", "[", "]").size(), 2000U);
+}
+
+TEST(Characters, AreCountedAndCutWhole)
+{
+    EXPECT_EQ(CharacterCount("åäö"), 3U);
+    EXPECT_EQ(FirstCharacters("åäö", 2), "åä");
+    EXPECT_EQ(FirstCharacters("å", 5), "å");
+    EXPECT_EQ(CharacterCount("\xC3"), 1U) << "a broken sequence counts as one";
+}
+
+} // namespace quillon

@@ -1,0 +1,70 @@
+#include "support/scripted_ask.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace quillon::test {
+
+ScriptedAsk::ScriptedAsk(std::deque<ExpectedBox> script) : script_(std::move(script)) {}
+
+ScriptedAsk::~ScriptedAsk()
+{
+    for (const ExpectedBox& box : script_)
+        ADD_FAILURE() << "the box \"" << box.title << "\" never came up";
+}
+
+void ScriptedAsk::Inform(const Text& title, const Text& text)
+{
+    Next(BoxKind::Inform, title, text);
+}
+
+void ScriptedAsk::Warn(const Text& title, const Text& text)
+{
+    Next(BoxKind::Warn, title, text);
+}
+
+void ScriptedAsk::Critical(const Text& title, const Text& text)
+{
+    Next(BoxKind::Critical, title, text);
+}
+
+bool ScriptedAsk::YesNo(const Text& title, const Text& text, Stops)
+{
+    return Next(BoxKind::YesNo, title, text) == Answer::Yes;
+}
+
+bool ScriptedAsk::OkCancel(const Text& title, const Text& text)
+{
+    return Next(BoxKind::OkCancel, title, text) == Answer::Yes;
+}
+
+Answer ScriptedAsk::YesNoCancel(const Text& title, const Text& text)
+{
+    return Next(BoxKind::YesNoCancel, title, text);
+}
+
+void ScriptedAsk::ShowProgress(std::uint64_t done, std::uint64_t total)
+{
+    progressDone = done;
+    progressTotal = total;
+}
+
+Answer ScriptedAsk::Next(BoxKind kind, const Text& title, const Text& text)
+{
+    shown.push_back({kind, title, text});
+    if (script_.empty()) {
+        ADD_FAILURE() << "nobody expected the box \"" << title << "\": " << text;
+        return Answer::Cancel;
+    }
+    const ExpectedBox expected = script_.front();
+    script_.pop_front();
+    EXPECT_EQ(kind, expected.kind) << title;
+    EXPECT_EQ(title, expected.title);
+    if (!expected.text.empty()) {
+        EXPECT_EQ(text, expected.text);
+    }
+    return expected.answer;
+}
+
+} // namespace quillon::test
