@@ -1,0 +1,48 @@
+# Sourced by ./run and ./test: puts in place what a fresh Debian 12 lacks.
+# shellcheck shell=bash
+
+BUILD_PACKAGES=(
+    ca-certificates ccache cmake g++ libdeflate-dev libssl-dev ninja-build nlohmann-json3-dev zlib1g-dev
+    g++-mingw-w64-i686 g++-mingw-w64-x86-64 libz-mingw-w64-dev
+)
+TEST_PACKAGES=(
+    clang libbenchmark-dev libclang-rt-14-dev libgmock-dev libgtest-dev
+    debootstrap p7zip-full procps unzip wine64 zip
+)
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "This needs root or sudo: $*" >&2
+        return 1
+    fi
+}
+
+# install_packages NAME...: installs those that are missing, and asks for nothing when none is.
+install_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' \
+            || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    echo "Installing: ${missing[*]}"
+    as_root apt-get update -q
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -q -y --no-install-recommends "${missing[@]}"
+}
+
+# build PRESET: configures and builds; the wall of compiler lines is kept for a failure.
+build() {
+    local log="build/$1.log"
+    mkdir -p build
+    echo "Building $1 ..."
+    if ! { cmake --preset "$1" && cmake --build --preset "$1"; } >"$log" 2>&1; then
+        tail -n 60 "$log"
+        echo "The build of $1 failed; all of its output is in $log." >&2
+        return 1
+    fi
+}
