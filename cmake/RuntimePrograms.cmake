@@ -1,0 +1,55 @@
+# The programs of the setup runtime, for the cross build. What several of them share lies directly in
+# src/runtime/win32; what belongs to one lies in a folder there that is named after it.
+set(win32 ${CMAKE_CURRENT_SOURCE_DIR}/runtime/win32)
+file(GLOB shared CONFIGURE_DEPENDS ${win32}/*.cpp)
+if(shared)
+  add_library(quillon_runtime_win32 STATIC ${shared})
+  target_link_libraries(quillon_runtime_win32 PUBLIC quillon_runtime quillon_platform)
+else()
+  add_library(quillon_runtime_win32 INTERFACE)
+  target_link_libraries(quillon_runtime_win32 INTERFACE quillon_runtime quillon_platform)
+endif()
+
+# Below all other libraries, so that the linker meets it behind them and before libstdc++.
+add_library(quillon_lean STATIC ${win32}/lean/failures.cpp)
+target_link_libraries(quillon_options INTERFACE quillon_lean)
+# Programs begin at wWinMain.
+target_link_options(quillon_options INTERFACE -municode)
+
+# quillon_runtime_program(<folder of the sources> <file name> <folder> [linked libraries...])
+function(quillon_runtime_program source file folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${win32}/${source}/*.cpp ${win32}/${source}/*.rc
+       ${win32}/${source}/*.def)
+  if(NOT sources MATCHES "[.]cpp")
+    return()
+  endif()
+  get_filename_component(name ${file} NAME_WLE)
+  get_filename_component(ending ${file} LAST_EXT)
+  if(ending STREQUAL ".DLL")
+    add_library(${source} SHARED ${sources})
+    # Only the program itself: nobody links against an import library of it.
+    set_target_properties(${source} PROPERTIES ENABLE_EXPORTS OFF)
+  else()
+    add_executable(${source} WIN32 ${sources})
+  endif()
+  set_target_properties(
+    ${source} PROPERTIES PREFIX "" OUTPUT_NAME ${name} SUFFIX ${ending}
+                         RUNTIME_OUTPUT_DIRECTORY ${folder}
+                         ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/implib)
+  target_link_libraries(${source} PRIVATE quillon_runtime_win32 ${ARGN})
+endfunction()
+
+set(release ${QUILLON_RELEASE_FOLDER})
+quillon_runtime_program(setup32 SETUP32.EXE ${release})
+quillon_runtime_program(qns32x QNS32X.EXE ${release}/Small32 comctl32 ole32 uuid shell32)
+quillon_runtime_program(dunzip32 DUNZIP32.DLL ${release})
+quillon_runtime_program(qnreg32 QNREG32.EXE ${release} ole32)
+quillon_runtime_program(qnxreg2 QNXREG2.EXE ${release} ole32)
+quillon_runtime_program(qnxunin QNXUNIN.EXE ${release} comctl32 ole32 uuid shell32)
+if(TARGET qns32x)
+  # The full version shows JPEG pictures too; nothing that is shown so far knows the difference.
+  add_custom_command(
+    TARGET qns32x POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${release}/Full32
+    COMMAND ${CMAKE_COMMAND} -E copy ${release}/Small32/QNS32X.EXE ${release}/Full32/QNS32X.EXE)
+endif()
