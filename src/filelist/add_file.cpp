@@ -1,0 +1,220 @@
+#include "filelist/add_file.h"
+
+#include "filelist/file_name_case.h"
+#include "filelist/file_version.h"
+#include "filelist/row_options.h"
+#include "filelist/system_files.h"
+#include "helpers/ansi_text.h"
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr double kBytesPerKilobyte = 1024;
+
+constexpr const char* kBadCharactersTitle = "Ogiltiga tecken hittade";
+
+constexpr const char* kAlreadyInList =
+    "Filen är redan inlagd i fillistan! Ska samma fil in i fillistan fler gånger måste den plockas "
+    "från en annan källkatalog! Har den nya filen samma filnamn och destinationskatalog som en "
+    "befintlig fil kan den inte heller adderas till fillistan!";
+
+Text ReasonText(const RunError& error, const Text& path)
+{
+    switch (error.Number()) {
+    case ErrorNumber::kFileNotFound:
+        return "Filen existerar inte vid källsökvägen '" + path + "'!";
+    case ErrorNumber::kPathNotFound:
+        return "En av mapparna som specificeras i källsökvägen '" + path + "' existerar inte!";
+    default:
+        return "Fel # " + NumberText(error.Number()) + " inträffade!";
+    }
+}
+
+Text ForeignCharactersText(const Text& path)
+{
+    return "Filen '" + path +
+           "' har tecken i namn, källsökväg eller destination som inte kan lagras i projektet! "
+           "Byt namn på filen eller katalogen och addera den på nytt. Filen kan ej adderas till "
+           "fillistan!";
+}
+
+} // namespace
+
+FileAdding::FileAdding(FileList& files, Host host, Ask& ask) : files_(files), host_(host), ask_(ask)
+{
+}
+
+FileAdding::~FileAdding()
+{
+    if (!finished_)
+        Finish();
+}
+
+NewPlaces FileAdding::Finish()
+{
+    finished_ = true;
+    duplicates_.reset();
+    return SortRows(files_);
+}
+
+std::optional<std::size_t> FileAdding::AddFileToFileList(const FileToAdd& file)
+{
+    if (!file.TrapErrors)
+        return AddOrRefuse(file);
+    try {
+        return AddOrRefuse(file);
+    } catch (const RunError& error) {
+        ask_.Critical("Fel", "Filen '" + file.FileName + "' kan ej adderas till fillistan. " +
+                                 ReasonText(error, file.SourcePath));
+        return std::nullopt;
+    }
+}
+
+std::optional<std::size_t> FileAdding::AddOrRefuse(const FileToAdd& file)
+{
+    if (IsGuardedHere(file.FileName, file.SourcePath) || IsRefusedAsDuplicate(file) ||
+        IsRefusedForItsCharacters(file) || IsHidden(file.SourcePath))
+        return std::nullopt;
+
+    FileListRow row;
+    row[Filename] = file.FileName;
+    row[Destination] = file.Destination;
+    return AppendRow(std::move(row), [&](FileListRow& filled) {
+        FillFromDisk(filled, file.SourcePath);
+        filled[CopyOptions] = StartingCopyOptions(file.FileName, file.UseVersionRules, [&] {
+            return !FileVersionText(host_.files, file.SourcePath).empty();
+        });
+        filled[ComponentNumber] = file.ComponentNr;
+        filled[Extension] = ExtensionFromFirstPoint(file.FileName);
+        filled[Source] = LowerCase(file.SourcePath);
+        // Kept: a font goes to the font folder whatever the caller chose; the user may move it.
+        if (EqualIgnoreCase(filled[Extension], "ttf"))
+            filled[Destination] = "%FONTDIR";
+    });
+}
+
+std::optional<std::size_t> FileAdding::AddSystemFileToFileList(const Text& fileName,
+                                                               bool isRuntimeFile)
+{
+    try {
+        return AddSystemFile(fileName, isRuntimeFile);
+    } catch (const RunError& error) {
+        if (error.Number() == ErrorNumber::kFileNotFound)
+            ask_.Critical("Kan ej addera en fil",
+                          "Filen '" + fileName +
+                              "' existerar inte i systemkatalogen! Kan ej addera den till "
+                              "fillistan!");
+        else
+            ask_.Critical("Fel", "Kan ej öppna filen '" + fileName + "'!");
+        return std::nullopt;
+    }
+}
+
+std::optional<std::size_t> FileAdding::AddSystemFile(const Text& fileName, bool isRuntimeFile)
+{
+    const Text path = LowerCase(JoinPath(host_.machine.GetSystemDir(), fileName));
+    if (IsGuardedHere(fileName, path))
+        return std::nullopt;
+    if (!AnsiText::Holds(path)) {
+        ask_.Critical(kBadCharactersTitle, ForeignCharactersText(path));
+        return std::nullopt;
+    }
+    if (IsHidden(path))
+        return std::nullopt;
+
+    FileListRow row;
+    row[Filename] = FormatFileNameCase(fileName);
+    row[Destination] = "%SYSDIR";
+    return AppendRow(std::move(row), [&](FileListRow& filled) {
+        FillFromDisk(filled, path);
+        filled[CopyOptions] = StartingSystemFileOptions(fileName, isRuntimeFile);
+        filled[Extension] = ExtensionFromFirstPoint(filled[Filename]);
+        filled[Source] = path;
+    });
+}
+
+bool FileAdding::IsGuardedHere(const Text& fileName, const Text& sourcePath) const
+{
+    return host_.machine.IsWindowsXP() && IsProtectedOnWindowsXP(fileName) &&
+           EqualIgnoreCase(ExtractDirectory(sourcePath), host_.machine.GetSystemDir());
+}
+
+bool FileAdding::IsRefusedAsDuplicate(const FileToAdd& file)
+{
+    if (!file.CheckDuplicates)
+        return false;
+    if (!duplicates_)
+        duplicates_.emplace(files_);
+    if (!duplicates_->IsFileAlreadyInList(file.FileName, file.SourcePath, file.Destination))
+        return false;
+    if (file.ShowDuplicateMessage)
+        ask_.Inform("Quillon", kAlreadyInList);
+    return true;
+}
+
+bool FileAdding::IsRefusedForItsCharacters(const FileToAdd& file)
+{
+    if (ContainsText(file.SourcePath, ";")) {
+        ask_.Critical(kBadCharactersTitle,
+                      "Källsökvägen till filen '" + file.SourcePath +
+                          "' innehåller ogiltiga tecken! Filen kan ej adderas till fillistan!");
+        return true;
+    }
+    // The project file could not hold these, and '?' in their place would name another file.
+    if (!AnsiText::Holds(file.FileName + file.SourcePath + file.Destination)) {
+        ask_.Critical(kBadCharactersTitle, ForeignCharactersText(file.SourcePath));
+        return true;
+    }
+    return false;
+}
+
+bool FileAdding::IsHidden(const Text& path) const
+{
+    try {
+        return host_.files.Facts(path).isHidden;
+    } catch (const RunError&) {
+        return false; // its row fails with the reason when size and date are read
+    }
+}
+
+void FileAdding::FillFromDisk(FileListRow& row, const Text& path) const
+{
+    const FileFacts facts = host_.files.Facts(path);
+    if (facts.isFolder)
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+    row[Size] = FormatNumber(static_cast<double>(facts.size) / kBytesPerKilobyte, "0.0",
+                             host_.machine.DecimalSign());
+    row[Date] = DateText(facts.modified);
+    row[Time] = TimeText(facts.modified);
+}
+
+// A row exists from before its file is looked at, so a failure of `fill` leaves it in the list.
+template <class Fill>
+std::size_t FileAdding::AppendRow(FileListRow row, Fill fill)
+{
+    if (files_.rows.size() >= kMostRows)
+        throw RunError(ErrorNumber::kOverflow);
+    try {
+        fill(row);
+    } catch (const RunError&) {
+        Append(std::move(row));
+        throw;
+    }
+    return Append(std::move(row));
+}
+
+std::size_t FileAdding::Append(FileListRow row)
+{
+    files_.rows.push_back(std::move(row));
+    if (duplicates_)
+        duplicates_->NoteNewRow();
+    return files_.rows.size() - 1;
+}
+
+} // namespace quillon

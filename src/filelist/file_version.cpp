@@ -1,0 +1,10 @@
+#include "filelist/file_version.h"
+
+namespace quillon {
+
+Text FileVersionText(const FileSystem&, const Text&)
+{
+    return {};
+}
+
+} // namespace quillon

@@ -1,0 +1,29 @@
+// The order of the file list: a stable sort by the text of one column, ignoring case. Dates sort
+// rightly because they are written year first; sizes are never sorted by.
+#pragma once
+
+#include "project/file_list.h"
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace quillon {
+
+/// What a row is sorted by: its column without regard to case.
+Text SortText(const FileListRow& row, Column key);
+
+/// For each row number from before the sort, where the row stands now; a view moves its selection
+/// by it.
+using NewPlaces = std::vector<std::size_t>;
+
+/// Brings the rows into the order that the list keeps; one that isn't sorted stays as it is.
+NewPlaces SortRows(FileList& list);
+
+/// Sorts by this key from now on.
+NewPlaces SortRowsBy(FileList& list, Column key, bool descending = false);
+
+/// A click on the column with this header.
+NewPlaces HandleColumnClick(FileList& list, std::string_view header);
+
+} // namespace quillon

@@ -1,0 +1,18 @@
+// What the file list tells about itself: the first pane of the status bar, and the refusals of
+// commands that work on rows.
+#pragma once
+
+#include "platform/ask.h"
+#include "project/file_list.h"
+
+namespace quillon {
+
+/// "2 objekt,   30,0 kb" for `MainStatusBar`.
+Text StatusBarText(const FileList& list, char decimalSign, Ask& ask);
+
+enum class CommandNeeds { Rows, SelectedRow };
+
+/// False, and tells why, when the list is empty.
+bool HasRowsForCommand(const FileList& list, CommandNeeds needs, Ask& ask);
+
+} // namespace quillon
