@@ -10,12 +10,14 @@
 
 namespace quillon {
 
+inline constexpr const char* kFileListType = "FileList";
+
 struct InstallRow {
     int number = 0; // the n of the key "F<n>"
-    Text name; // at the destination; "<Dir>" on an empty-folder row
+    Text name;      // at the destination; "<Dir>" on an empty-folder row
     Text destination;
     std::uint64_t size = 0; // bytes
-    Text sourceFolder; // without drive, lower case
+    Text sourceFolder;      // without drive, lower case
     Text iconMarker;
     Text copyOptions;
     int component = 0; // 0 belongs to none

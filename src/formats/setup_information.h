@@ -10,14 +10,18 @@
 
 namespace quillon {
 
+// The file holds positions in pixels; back in the records they are twips, this many to the pixel.
+inline constexpr int kTwipsPerPixel = 15;
+
 struct SetupInformation {
-    // Every field that the file carries, under the names of the project; the file list is empty.
+    // Every field that the file carries, under the names of the project; the file list is empty,
+    // and a path that the file holds without its folder has none.
     Project project;
 
     Text toolVersion;
     bool isPreview = false;
     Text XProductVersion; // the version text itself, not the file it came from
-    int Floppies = 0; // 0 where the file has no such key or only its placeholder
+    int Floppies = 0;     // 0 where the file has no such key or only its placeholder
     Flag PlaceCompressedFilesInFolderSetupFiles = kOff;
     Flag CreateFolderStructureInFolderSetupFiles = kOff;
     int DesWidth = 0; // pixels

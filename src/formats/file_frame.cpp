@@ -1,0 +1,137 @@
+#include "formats/file_frame.h"
+
+#include "helpers/product.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::string_view kOrigin = "Origin";
+constexpr std::string_view kId = "ID";
+
+class FrameReader {
+public:
+    explicit FrameReader(std::vector<FrameSection> known) : known_(std::move(known)) {}
+
+    /// False behind the end of the file.
+    bool Take(const Text& line)
+    {
+        const bool inList = current_ && current_->kind != FrameSection::Kind::Keys;
+        if (inList && line == kEndOfList)
+            current_ = nullptr;
+        else if (line == kEndOfFile && !IsTextOfList())
+            return false;
+        else if (FrameSection* const next = inList ? nullptr : Head(line))
+            current_ = next;
+        else if (current_)
+            current_->lines.push_back(line);
+        return true;
+    }
+
+    std::vector<FrameSection> Found() &&
+    {
+        std::erase_if(known_, [&](const FrameSection& section) {
+            return std::ranges::find(found_, section.name) == found_.end();
+        });
+        return std::move(known_);
+    }
+
+private:
+    bool IsTextOfList() const
+    {
+        if (!current_ || current_->kind == FrameSection::Kind::Keys)
+            return false;
+        return current_->kind == FrameSection::Kind::List || !current_->lines.empty();
+    }
+
+    FrameSection* Head(std::string_view line)
+    {
+        if (line.size() < 2 || line.front() != '[' || line.back() != ']')
+            return nullptr;
+        const std::string_view name = line.substr(1, line.size() - 2);
+        const auto section = std::ranges::find_if(known_, [&](const FrameSection& candidate) {
+            return EqualIgnoreCase(candidate.name, name);
+        });
+        if (section == known_.end() || std::ranges::count(found_, section->name) != 0)
+            return nullptr;
+        found_.push_back(section->name);
+        return &*section;
+    }
+
+    std::vector<FrameSection> known_;
+    std::vector<Text> found_;
+    FrameSection* current_ = nullptr;
+};
+
+bool IsLineOf(const Text& line, std::string_view key)
+{
+    const std::size_t equals = line.find('=');
+    return equals != line.npos && EqualIgnoreCase(TrimBlanks(line.substr(0, equals)), key);
+}
+
+Text ValueOf(std::string_view line)
+{
+    line.remove_prefix(line.find('=') + 1);
+    if (line.starts_with(' '))
+        line.remove_prefix(1);
+    return Text(line);
+}
+
+} // namespace
+
+std::optional<Text> FrameSection::Value(std::string_view key) const
+{
+    const auto line = std::ranges::find_if(
+        lines, [&](const Text& candidate) { return IsLineOf(candidate, key); });
+    return line == lines.end() ? std::nullopt : std::optional(ValueOf(*line));
+}
+
+std::optional<Text> FrameSection::ValueUpTo(std::string_view key, std::string_view nextKey) const
+{
+    auto line = std::ranges::find_if(
+        lines, [&](const Text& candidate) { return IsLineOf(candidate, key); });
+    if (line == lines.end())
+        return std::nullopt;
+    Text value = ValueOf(*line);
+    for (++line; line != lines.end() && !IsLineOf(*line, nextKey); ++line)
+        value.append(kLineBreak).append(*line);
+    return value;
+}
+
+const FrameSection* FileFrame::Find(std::string_view name) const
+{
+    const auto section = std::ranges::find(sections, name, &FrameSection::name);
+    return section == sections.end() ? nullptr : &*section;
+}
+
+std::vector<Text> FileHeadLines(std::string_view fileType)
+{
+    return {
+        "[" + Text(kOrigin) + "]",     "Info = " + Text(kOriginInfo), "",
+        "[" + Text(kId) + "]",         "App = " + Text(kTypeMark),    "Ver = " + Text(kToolVersion),
+        "FileType = " + Text(fileType)};
+}
+
+FileFrame ReadFileFrame(const Text& text, std::string_view fileType,
+                        std::vector<FrameSection> known)
+{
+    known.push_back({Text(kOrigin)});
+    known.push_back({Text(kId)});
+    FrameReader reader(std::move(known));
+    const std::vector<Text> lines = SplitLines(text);
+    const auto end =
+        std::ranges::find_if_not(lines, [&](const Text& line) { return reader.Take(line); });
+
+    FileFrame frame{.sections = std::move(reader).Found()};
+    if (const FrameSection* const id = frame.Find(kId)) {
+        frame.toolVersion = id->Value("Ver").value_or("");
+        frame.subType = id->Value("FileSubType").value_or("");
+        frame.isWhole = end != lines.end() && id->Value("App") == kTypeMark &&
+                        id->Value("FileType") == fileType;
+    }
+    return frame;
+}
+
+} // namespace quillon
