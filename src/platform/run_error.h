@@ -11,6 +11,7 @@ namespace quillon {
 /// The numbers in use. A status line or a box names any of them; some have words of their own.
 namespace ErrorNumber {
 inline constexpr int kNone = 0;
+inline constexpr int kCannotStart = 5;
 inline constexpr int kOverflow = 6;
 inline constexpr int kSubscriptOutOfRange = 9;
 inline constexpr int kTypeMismatch = 13;

@@ -1,0 +1,221 @@
+#include "platform/win32/win_files.h"
+
+#include "helpers/windows_path.h"
+#include "platform/win32/open_file.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_failure.h"
+#include "platform/win32/win_time.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+DWORD AttributesOf(const Text& path)
+{
+    return path.find('\0') == Text::npos ? GetFileAttributesW(WidePath(path).c_str())
+                                         : INVALID_FILE_ATTRIBUTES;
+}
+
+bool Has(DWORD attributes, DWORD attribute)
+{
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
+}
+
+// Windows denies access to a folder that is taken for a file, and to a file that is
+// write-protected, as it does where rights are missing. Users are told of two different things.
+[[noreturn]] void FailAtFile(const Text& path)
+{
+    const DWORD errorCode = GetLastError();
+    const DWORD kind = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;
+    if (errorCode == ERROR_ACCESS_DENIED && Has(AttributesOf(path), kind))
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+    throw WindowsFailure(errorCode, path);
+}
+
+// The records of FindFirstFile and of GetFileAttributesEx share these members.
+template <class Record>
+FileFacts FactsOf(const Record& record)
+{
+    const DWORD attributes = record.dwFileAttributes;
+    const bool isFolder = Has(attributes, FILE_ATTRIBUTE_DIRECTORY);
+    const auto size = static_cast<std::uint64_t>(record.nFileSizeHigh) << 32U;
+    return {.size = isFolder ? 0 : size | record.nFileSizeLow,
+            .modified = LocalTimeOf(record.ftLastWriteTime),
+            .isFolder = isFolder,
+            .isReadOnly = Has(attributes, FILE_ATTRIBUTE_READONLY),
+            .isHidden = Has(attributes, FILE_ATTRIBUTE_HIDDEN),
+            .isArchive = Has(attributes, FILE_ATTRIBUTE_ARCHIVE),
+            .isSystem = Has(attributes, FILE_ATTRIBUTE_SYSTEM)};
+}
+
+FileHandle OpenOrFail(const Text& path, DWORD access, DWORD sharing, DWORD creation)
+{
+    FileHandle file(CreateFileW(WidePath(path).c_str(), access, sharing, nullptr, creation,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen())
+        FailAtFile(path);
+    return file;
+}
+
+std::wstring RootOf(const Text& path)
+{
+    return Wide(RemoveLastBackslash(path) + "\\");
+}
+
+} // namespace
+
+bool WinFiles::FileExists(const Text& path) const
+{
+    const DWORD attributes = AttributesOf(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && !Has(attributes, FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool WinFiles::DirExists(const Text& path) const
+{
+    return Has(AttributesOf(path), FILE_ATTRIBUTE_DIRECTORY);
+}
+
+FileFacts WinFiles::Facts(const Text& path) const
+{
+    WIN32_FILE_ATTRIBUTE_DATA record{};
+    if (!GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &record))
+        FailAsWindowsSays(path);
+    return FactsOf(record);
+}
+
+std::vector<FolderEntry> WinFiles::List(const Text& folder) const
+{
+    // The mark for all names counts towards the limit of a path.
+    const std::wstring pattern = WidePath(JoinPath(folder, "*"));
+    WIN32_FIND_DATAW record{};
+    const HANDLE search = FindFirstFileW(pattern.c_str(), &record);
+    if (search == INVALID_HANDLE_VALUE) {
+        // The root of an empty drive holds not even ".".
+        if (GetLastError() == ERROR_FILE_NOT_FOUND && DirExists(folder))
+            return {};
+        throw RunError(ErrorNumber::kPathNotFound, folder);
+    }
+    std::vector<FolderEntry> entries;
+    do {
+        const Text name = Narrow(record.cFileName);
+        if (name != "." && name != "..")
+            entries.push_back({name, FactsOf(record)});
+    } while (FindNextFileW(search, &record));
+    FindClose(search);
+    std::sort(entries.begin(), entries.end(),
+              [](const FolderEntry& a, const FolderEntry& b) { return a.name < b.name; });
+    return entries;
+}
+
+std::unique_ptr<InputFile> WinFiles::OpenInput(const Text& path) const
+{
+    return std::make_unique<WinInputFile>(OpenOrFail(path, GENERIC_READ, kShareAll, OPEN_EXISTING),
+                                          path);
+}
+
+std::unique_ptr<OutputFile> WinFiles::OpenOutput(const Text& path)
+{
+    return std::make_unique<WinOutputFile>(
+        OpenOrFail(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS), path);
+}
+
+bool WinFiles::DirCreate(const Text& path)
+{
+    if (DirExists(path))
+        return true;
+    const Text parent = ExtractDirectory(RemoveLastBackslash(path));
+    if (path.empty() || parent == path)
+        return false;
+    if (!parent.empty() && !DirCreate(parent))
+        return false;
+    return CreateDirectoryW(WidePath(path).c_str(), nullptr) != 0 || DirExists(path);
+}
+
+void WinFiles::CopyContent(const Text& from, const Text& to)
+{
+    if (CopyFileW(WidePath(from).c_str(), WidePath(to).c_str(), FALSE))
+        return;
+    const DWORD errorCode = GetLastError();
+    const bool isSourceMissing = !FileExists(from) && !DirExists(from);
+    SetLastError(errorCode);
+    if (isSourceMissing || DirExists(from))
+        FailAtFile(from);
+    FailAtFile(to);
+}
+
+void WinFiles::RemoveFile(const Text& path)
+{
+    if (!DeleteFileW(WidePath(path).c_str()))
+        FailAtFile(path);
+}
+
+void WinFiles::RemoveFolder(const Text& path)
+{
+    if (!RemoveDirectoryW(WidePath(path).c_str()))
+        FailAsWindowsSays(path);
+}
+
+void WinFiles::Rename(const Text& from, const Text& to)
+{
+    if (!MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(),
+                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_COPY_ALLOWED))
+        FailAtFile(FileExists(from) || DirExists(from) ? to : from);
+}
+
+void WinFiles::SetModified(const Text& path, const LocalTime& time)
+{
+    // A folder opens with this flag only, and a read-only file with this right only.
+    const FileHandle file(CreateFileW(WidePath(path).c_str(), FILE_WRITE_ATTRIBUTES, kShareAll,
+                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    const FILETIME moment = MomentOf(time);
+    if (!file.IsOpen() || !SetFileTime(file.Get(), nullptr, nullptr, &moment))
+        FailAsWindowsSays(path);
+}
+
+void WinFiles::SetReadOnly(const Text& path, bool readOnly)
+{
+    const std::wstring wide = WidePath(path);
+    const DWORD attributes = GetFileAttributesW(wide.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        FailAsWindowsSays(path);
+    const DWORD changed = readOnly ? attributes | FILE_ATTRIBUTE_READONLY
+                                   : attributes & ~DWORD(FILE_ATTRIBUTE_READONLY);
+    if (changed != attributes && !SetFileAttributesW(wide.c_str(), changed))
+        FailAsWindowsSays(path);
+}
+
+std::uint64_t WinFiles::FreeSpace(const Text& folder) const
+{
+    ULARGE_INTEGER free{};
+    if (!GetDiskFreeSpaceExW(WidePath(folder).c_str(), &free, nullptr, nullptr))
+        FailAsWindowsSays(folder);
+    return free.QuadPart;
+}
+
+DriveKind WinFiles::DriveType(const Text& root) const
+{
+    const UINT kind = GetDriveTypeW(RootOf(root).c_str());
+    return kind <= DRIVE_CDROM ? static_cast<DriveKind>(kind) : DriveKind::Unknown;
+}
+
+Text WinFiles::GetVolumeName(const Text& root) const
+{
+    wchar_t name[MAX_PATH + 1] = {};
+    GetVolumeInformationW(RootOf(root).c_str(), name, MAX_PATH, nullptr, nullptr, nullptr, nullptr,
+                          0);
+    return Narrow(name);
+}
+
+Text WinFiles::ShortPath(const Text& path) const
+{
+    const std::wstring wide = WidePath(path);
+    std::wstring shortPath(kLongestPath, L'\0');
+    const DWORD length = GetShortPathNameW(wide.c_str(), shortPath.data(), kLongestPath);
+    return length > 0 && length < kLongestPath ? Narrow(shortPath.substr(0, length)) : path;
+}
+
+} // namespace quillon
