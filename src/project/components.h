@@ -1,0 +1,10 @@
+// The nine optional parts of an installation.
+#pragma once
+
+#include "project/records.h"
+
+namespace quillon {
+
+bool IsAnyComponentInUse(const Project& project);
+
+} // namespace quillon

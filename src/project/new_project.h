@@ -1,0 +1,15 @@
+// A new project, and what of the one before it lives on.
+#pragma once
+
+#include "project/records.h"
+
+namespace quillon {
+
+/// Gives every field the value of a new project. `Comments`, the picture names of the slide show
+/// and the last destination choice keep what the project before had.
+void ResetToNewProject(Project& project, OpenProjectState& state, const Text& toolFolder);
+
+/// The side picture that the setup's dialogs have until the user chooses another.
+Text DefaultDlgBitmap(const Text& toolFolder);
+
+} // namespace quillon

@@ -1,0 +1,200 @@
+// Writes the project file: its head, the settings sections by their tables, the lists, the
+// components and the rows.
+#include "helpers/line_breaks.h"
+#include "platform/run_error.h"
+#include "platform/whole_file.h"
+#include "project/components.h"
+#include "project/file_rows.h"
+#include "project/list_sections.h"
+#include "project/project_file.h"
+#include "project/section_walk.h"
+#include "project/tool_identity.h"
+#include "project/total_size.h"
+
+namespace quillon {
+
+namespace {
+
+Text FlagText(bool on)
+{
+    return on ? "1" : "0";
+}
+
+Text Pixels(Integer twips, int twipsPerPixel)
+{
+    return NumberText(RoundToEven(static_cast<double>(twips) / twipsPerPixel));
+}
+
+Text TextOnFile(Stored form, const Text& value)
+{
+    switch (form) {
+    case Stored::AsLines:
+    case Stored::AsLongLines:
+        return EncodeLineBreaks(value);
+    case Stored::AsFirstLine:
+        return FirstLineOnly(value);
+    case Stored::AsFlagText:
+        return FlagText(IsTrueText(value));
+    default:
+        return value;
+    }
+}
+
+Text NumberOnFile(Stored form, Long value, const ScreenMetrics& screen)
+{
+    switch (form) {
+    case Stored::AsFlag:
+    case Stored::AsFlagOnIfMissing:
+    case Stored::AsFlagReadAsNumber:
+        return FlagText(value != 0);
+    case Stored::AsPixelsX:
+        return Pixels(static_cast<Integer>(value), screen.TPPX);
+    case Stored::AsPixelsY:
+        return Pixels(static_cast<Integer>(value), screen.TPPY);
+    default:
+        return NumberText(value);
+    }
+}
+
+// A section that the file may do without.
+template <class Record>
+bool IsWritten(const Record&)
+{
+    return true;
+}
+
+bool IsWritten(const section::RunAppSelfX& program)
+{
+    return !program.ProgramFilename.empty();
+}
+
+class SectionWriter {
+public:
+    SectionWriter(AnsiTextFile& file, const ScreenMetrics& screen) : file_(file), screen_(screen) {}
+
+    void Begin(const Text& name) { file_.Line("[" + name + "]"); }
+    void End() { file_.Line(); }
+
+    template <class Record, std::size_t count>
+    void Section(const char* name, const ProjectKey<Record> (&keys)[count], Record& record)
+    {
+        if (!IsWritten(record))
+            return;
+        Begin(name);
+        Keys(keys, record);
+        End();
+    }
+
+    template <class Record, std::size_t count>
+    void Keys(const ProjectKey<Record> (&keys)[count], const Record& record)
+    {
+        for (const auto& key : keys)
+            Setting(key.name, ValueOnFile(key, record));
+    }
+
+    template <class Record, std::size_t count>
+    void Keys(const ProjectKey<Record> (&keys)[count], const Record& record, int number)
+    {
+        for (const auto& key : keys)
+            Setting(key.name + NumberText(number), ValueOnFile(key, record));
+    }
+
+    void NumberedText(const char* key, int number, const Text& text, int)
+    {
+        Setting(key + NumberText(number), text);
+    }
+
+    void Setting(const Text& key, const Text& value) { file_.Line(key + " = " + value); }
+
+private:
+    template <class Record>
+    Text ValueOnFile(const ProjectKey<Record>& key, const Record& record) const
+    {
+        if (const auto text = std::get_if<Text Record::*>(&key.field))
+            return TextOnFile(key.form, record.**text);
+        if (const auto number = std::get_if<Integer Record::*>(&key.field))
+            return NumberOnFile(key.form, record.**number, screen_);
+        return NumberOnFile(key.form, record.*std::get<Long Record::*>(key.field), screen_);
+    }
+
+    AnsiTextFile& file_;
+    const ScreenMetrics& screen_;
+};
+
+void WriteHead(SectionWriter& writer)
+{
+    writer.Begin("Origin");
+    writer.Setting("Info", kFileOrigin);
+    writer.End();
+    writer.Begin("ID");
+    writer.Setting("App", kTypeMark);
+    writer.Setting("Ver", kToolVersion);
+    writer.End();
+}
+
+// Kept: saving changes the project, which shows the group's name from then on.
+void FillEmptyProgramGroup(Project& project)
+{
+    Text& group = project.ProgramGroup.ProgramGroup;
+    if (group.empty())
+        group = project.ProjectName.ProjectName;
+}
+
+void WriteComponents(SectionWriter& writer, Project& project)
+{
+    const bool used = IsAnyComponentInUse(project);
+    writer.Begin("FileComponents");
+    writer.Setting("UseComponents", FlagText(used));
+    if (used)
+        VisitComponents(writer, project);
+    writer.End();
+}
+
+void WriteFileListInfo(SectionWriter& writer, const FileList& list, Host& host, Ask& ask)
+{
+    const auto totalSize = SumOfSizes(list.rows, host.machine.DecimalSign());
+    if (!totalSize)
+        TellSizesUnreadable(ask);
+    writer.Begin("FileListInfo");
+    writer.Setting("Files", NumberText(static_cast<std::int64_t>(list.rows.size())));
+    writer.Setting("TotalSize", NumberText(totalSize.value_or(0)));
+    writer.End();
+}
+
+void WriteFileList(AnsiTextFile& file, const FileList& list)
+{
+    file.Line("[FileList]");
+    std::size_t number = 0;
+    for (const FileListRow& row : list.rows) {
+        if (number == kMostRows)
+            throw RunError(ErrorNumber::kOverflow);
+        file.Line(FileRowLine(++number, row));
+    }
+    // Kept: a list without rows has no end either.
+    if (list.rows.empty())
+        return;
+    file.Line(kListEnd);
+    file.Line();
+}
+
+} // namespace
+
+void WriteProjectFile(Project& project, const Text& path, Host& host, Ask& ask,
+                      const ScreenMetrics& screen)
+{
+    AnsiTextFile file(host.files, path);
+    SectionWriter writer(file, screen);
+
+    FillEmptyProgramGroup(project);
+    WriteHead(writer);
+    VisitSettingsSections(writer, project);
+    WriteListSections(file, project.Lists);
+    WriteComponents(writer, project);
+    WriteFileListInfo(writer, project.Files, host, ask);
+    WriteFileList(file, project.Files);
+    file.Line("-(EOF)-");
+    file.Line();
+    file.Close();
+}
+
+} // namespace quillon

@@ -1,0 +1,32 @@
+#include "project/total_size.h"
+
+#include <cmath>
+#include <limits>
+
+namespace quillon {
+
+std::optional<Long> SumOfSizes(const std::vector<FileListRow>& rows, char decimalSign)
+{
+    double sum = 0;
+    for (const FileListRow& row : rows) {
+        if (row[Size].empty())
+            continue;
+        const auto size = FloatingNumber(row[Size], decimalSign);
+        if (!size)
+            return std::nullopt;
+        sum += *size;
+    }
+    // Tested before rounding: a list from a damaged file can sum up to more than any integer holds.
+    if (std::fabs(sum) > double(std::numeric_limits<Long>::max()))
+        return std::nullopt;
+    return static_cast<Long>(RoundToEven(sum));
+}
+
+void TellSizesUnreadable(Ask& ask)
+{
+    ask.Critical(
+        "Fel", "Ett fel inträffade totalsumman av filstorlekarna skulle beräknas i fillistan! Kan "
+               "bero på att decimalavskiljaren inte är av standardtyp (punkt eller komma).");
+}
+
+} // namespace quillon

@@ -1,0 +1,43 @@
+// What the tests of the project file share: a machine with a tool folder, a project on disk and
+// the golden files.
+#pragma once
+
+#include "project/project_file.h"
+#include "support/memory_host.h"
+#include "support/scripted_ask.h"
+
+#include <string>
+
+namespace quillon::test {
+
+inline constexpr const char* kToolFolder = "C:\\QUILLON";
+inline constexpr const char* kDefaultBitmap = "C:\\Quillon\\Res\\SetupDef.bmp";
+inline constexpr const char* kPath = "C:\\Projekt\\prov.qnp";
+
+/// The bytes of a file below tests/golden/project/.
+std::string GoldenBytes(const std::string& name);
+
+Project NewProject();
+
+/// The bytes with the first occurrence of `from` replaced; fails the test when there is none.
+std::string With(std::string bytes, const std::string& from, const std::string& to);
+
+/// Without the whole section, up to the next header.
+std::string WithoutSection(std::string bytes, const std::string& name);
+
+/// A project file on a machine in memory, to be read and written.
+struct ProjectOnDisk {
+    ProjectOnDisk();
+
+    /// Reads these bytes; boxes go to `ask`.
+    ReadEnd Load(const std::string& bytes, ScriptedAsk& ask);
+    /// The same where no box may come up.
+    ReadEnd Load(const std::string& bytes);
+    std::string Save();
+
+    MemoryHost machine;
+    Project project = NewProject();
+    int beeps = 0; // of the last load
+};
+
+} // namespace quillon::test
