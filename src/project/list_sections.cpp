@@ -1,6 +1,7 @@
 #include "project/list_sections.h"
 
 #include "helpers/ansi_text.h"
+#include "helpers/product.h"
 #include "platform/run_error.h"
 
 #include <algorithm>
@@ -67,7 +68,7 @@ void WriteListSections(AnsiTextFile& file, const section::Lists& lists)
             WriteMarkedLines(file, lists.*list.text);
         else
             file.Line(lists.*list.text);
-        file.Line(kListEnd);
+        file.Line(kEndOfList);
         file.Line();
     }
 }
@@ -102,7 +103,7 @@ bool ReadTextList(ListLines& lines, const ListSection& list, Text& text)
     std::string bytes;
     bool isFirst = true;
     auto line = lines.Next();
-    for (; line && *line != kListEnd; line = lines.Next()) {
+    for (; line && *line != kEndOfList; line = lines.Next()) {
         if (!isFirst)
             bytes.append(kLineBreak);
         isFirst = false;

@@ -11,8 +11,6 @@
 
 namespace quillon {
 
-inline constexpr std::string_view kListEnd = "....";
-
 struct ListSection {
     // How a line of the text stands on file: as it is, or behind a ">" that keeps it from being
     // taken for a section of the project file.

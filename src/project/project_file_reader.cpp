@@ -1,6 +1,7 @@
 // Reads the project file. The settings sections come back by the tables that wrote them; what a
 // table can't say of reading stands in the functions called AfterReading.
 #include "helpers/line_breaks.h"
+#include "helpers/product.h"
 #include "platform/run_error.h"
 #include "project/file_rows.h"
 #include "project/list_sections.h"
@@ -8,7 +9,6 @@
 #include "project/profile_reader.h"
 #include "project/project_file.h"
 #include "project/section_walk.h"
-#include "project/tool_identity.h"
 
 namespace quillon {
 
@@ -249,7 +249,7 @@ ReadEnd ReadFileList(ReadRun& run)
         const auto line = lines.Next();
         if (!line)
             return ReadEnd::Stopped;
-        if (*line == kListEnd)
+        if (*line == kEndOfList)
             return ReadEnd::Whole;
         if (!AddRowFromLine(*line, decimalSign, run.project.Files.rows))
             return ReadEnd::RowsCut;

@@ -1,6 +1,7 @@
 // Writes the project file: its head, the settings sections by their tables, the lists, the
 // components and the rows.
 #include "helpers/line_breaks.h"
+#include "helpers/product.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "project/components.h"
@@ -8,7 +9,6 @@
 #include "project/list_sections.h"
 #include "project/project_file.h"
 #include "project/section_walk.h"
-#include "project/tool_identity.h"
 #include "project/total_size.h"
 
 namespace quillon {
@@ -104,7 +104,10 @@ public:
         Setting(key + NumberText(number), text);
     }
 
-    void Setting(const Text& key, const Text& value) { file_.Line(key + " = " + value); }
+    void Setting(const Text& key, std::string_view value)
+    {
+        file_.Line((key + " = ").append(value));
+    }
 
 private:
     template <class Record>
@@ -124,7 +127,7 @@ private:
 void WriteHead(SectionWriter& writer)
 {
     writer.Begin("Origin");
-    writer.Setting("Info", kFileOrigin);
+    writer.Setting("Info", kOriginInfo);
     writer.End();
     writer.Begin("ID");
     writer.Setting("App", kTypeMark);
@@ -173,7 +176,7 @@ void WriteFileList(AnsiTextFile& file, const FileList& list)
     // Kept: a list without rows has no end either.
     if (list.rows.empty())
         return;
-    file.Line(kListEnd);
+    file.Line(kEndOfList);
     file.Line();
 }
 
@@ -192,7 +195,7 @@ void WriteProjectFile(Project& project, const Text& path, Host& host, Ask& ask,
     WriteComponents(writer, project);
     WriteFileListInfo(writer, project.Files, host, ask);
     WriteFileList(file, project.Files);
-    file.Line("-(EOF)-");
+    file.Line(kEndOfFile);
     file.Line();
     file.Close();
 }
