@@ -1,0 +1,163 @@
+#include "platform/posix/name_lookup.h"
+
+#include "helpers/text.h"
+
+#include <cstdint>
+#include <dirent.h>
+#include <memory>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::size_t kMostKeptNames = 300000;
+constexpr std::int64_t kMillisecond = 1000000;
+constexpr std::int64_t kSecond = 1000 * kMillisecond;
+
+// A folder's stamp moves in ticks of the kernel's clock, of at most 10 ms, and on some file systems
+// in whole seconds or two. Two changes within a tick look like one.
+constexpr std::int64_t kTickOfTheKernel = 20 * kMillisecond;
+constexpr std::int64_t kTickOfWholeSeconds = 2 * kSecond + kTickOfTheKernel;
+
+// While this program fills a folder, the stamp moves all the time and can't tell another program's
+// change from its own; the listing is renewed so often.
+constexpr std::int64_t kRenewWhileFilling = 100 * kMillisecond;
+
+std::int64_t Nanoseconds(const timespec& time)
+{
+    return static_cast<std::int64_t>(time.tv_sec) * kSecond + time.tv_nsec;
+}
+
+timespec Now()
+{
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    return now;
+}
+
+bool Exists(const std::string& path)
+{
+    struct stat facts {};
+    return lstat(path.c_str(), &facts) == 0;
+}
+
+std::string FolderOf(const std::string& path)
+{
+    return path.substr(0, path.rfind('/'));
+}
+
+} // namespace
+
+bool NameLookup::Stamp::operator==(const Stamp& other) const
+{
+    return device == other.device && node == other.node &&
+           Nanoseconds(modified) == Nanoseconds(other.modified) &&
+           Nanoseconds(changed) == Nanoseconds(other.changed);
+}
+
+void NameLookup::Listing::Add(const std::string& name)
+{
+    const auto [place, isNew] = names.emplace(LowerCase(name), name);
+    if (!isNew && name < place->second)
+        place->second = name;
+}
+
+std::optional<NameLookup::Stamp> NameLookup::StampOf(const std::string& folder)
+{
+    struct stat facts {};
+    if (stat(folder.empty() ? "/" : folder.c_str(), &facts) != 0 || !S_ISDIR(facts.st_mode))
+        return std::nullopt;
+    return Stamp{facts.st_dev, facts.st_ino, facts.st_mtim, facts.st_ctim};
+}
+
+bool NameLookup::IsStillGood(const Listing& listing, const Stamp& now)
+{
+    if (!(listing.stamp == now))
+        return false;
+    const std::int64_t age = Nanoseconds(Now()) - Nanoseconds(listing.listedAt);
+    return listing.settled || (listing.changedByUs && age >= 0 && age < kRenewWhileFilling);
+}
+
+NameLookup::Listing NameLookup::ReadNames(const std::string& folder, const Stamp& stamp)
+{
+    Listing listing{.stamp = stamp, .listedAt = Now()};
+    const bool wholeSeconds = stamp.modified.tv_nsec == 0;
+    const std::int64_t tick = wholeSeconds ? kTickOfWholeSeconds : kTickOfTheKernel;
+    listing.settled = Nanoseconds(listing.listedAt) - Nanoseconds(stamp.modified) > tick;
+
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(
+        opendir(folder.empty() ? "/" : folder.c_str()), closedir);
+    while (const dirent* entry = entries ? readdir(entries.get()) : nullptr)
+        listing.Add(entry->d_name);
+    return listing;
+}
+
+std::optional<std::string> NameLookup::Find(const std::string& folder, std::string_view name)
+{
+    const std::optional<Stamp> stamp = StampOf(folder);
+    if (!stamp)
+        return std::nullopt;
+
+    const std::lock_guard lock(mutex_);
+    auto kept = listings_.find(folder);
+    if (kept == listings_.end() || !IsStillGood(kept->second, *stamp)) {
+        if (keptNames_ > kMostKeptNames) {
+            listings_.clear();
+            keptNames_ = 0;
+        }
+        kept = listings_.insert_or_assign(folder, ReadNames(folder, *stamp)).first;
+        keptNames_ += kept->second.names.size();
+    }
+    const auto found = kept->second.names.find(LowerCase(name));
+    if (found == kept->second.names.end())
+        return std::nullopt;
+    return found->second;
+}
+
+std::string NameLookup::Resolve(const std::string& root, const std::vector<std::string_view>& parts)
+{
+    std::string asGiven = root;
+    for (const std::string_view part : parts)
+        asGiven.append("/").append(part);
+    if (Exists(asGiven))
+        return asGiven;
+
+    std::string path = root;
+    bool isMissing = false;
+    for (const std::string_view part : parts) {
+        const std::string exact = path + "/" + std::string(part);
+        std::optional<std::string> found;
+        if (!isMissing && !Exists(exact))
+            found = Find(path, part);
+        isMissing = isMissing || (!found && !Exists(exact));
+        path = found ? path + "/" + *found : exact;
+    }
+    return path;
+}
+
+void NameLookup::NoteCreated(const std::string& path)
+{
+    const std::string folder = FolderOf(path);
+    const std::lock_guard lock(mutex_);
+    const auto kept = listings_.find(folder);
+    if (kept == listings_.end())
+        return;
+    const std::optional<Stamp> stamp = StampOf(folder);
+    const std::int64_t age = Nanoseconds(Now()) - Nanoseconds(kept->second.listedAt);
+    if (!stamp || age < 0 || age >= kRenewWhileFilling) {
+        listings_.erase(kept);
+        return;
+    }
+    kept->second.Add(path.substr(folder.size() + 1));
+    kept->second.stamp = *stamp;
+    kept->second.settled = false;
+    kept->second.changedByUs = true;
+}
+
+void NameLookup::NoteChanged(const std::string& folder)
+{
+    const std::lock_guard lock(mutex_);
+    listings_.erase(folder);
+}
+
+} // namespace quillon

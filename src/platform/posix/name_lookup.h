@@ -1,0 +1,61 @@
+// Finds names without regard to case on a file system that tells upper from lower case: the exact
+// spelling first, then the one that differs in case alone, and of several the first in byte order.
+//
+// Projects store source paths in lower case, so a look-up that misses the exact spelling is common
+// and lists the folder. The listing is kept for as long as it is certain to be what a new one would
+// give.
+#pragma once
+
+#include <map>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <sys/stat.h>
+#include <time.h>
+#include <vector>
+
+namespace quillon {
+
+class NameLookup {
+public:
+    /// The path of `parts` below `root` (a host path without trailing slash) with the spelling that
+    /// the disk has. Parts from the first missing one on keep the spelling given.
+    std::string Resolve(const std::string& root, const std::vector<std::string_view>& parts);
+
+    /// This program has made the file or folder at the host path.
+    void NoteCreated(const std::string& path);
+    /// This program has removed or renamed something in the folder.
+    void NoteChanged(const std::string& folder);
+
+private:
+    struct Stamp {
+        dev_t device;
+        ino_t node;
+        timespec modified;
+        timespec changed;
+
+        bool operator==(const Stamp& other) const;
+    };
+    struct Listing {
+        std::map<std::string, std::string> names; // lower case -> first spelling in byte order
+        Stamp stamp;
+        timespec listedAt;
+        // Nothing had changed in the folder for long enough that its stamp tells the next change.
+        bool settled = false;
+        bool changedByUs = false;
+
+        void Add(const std::string& name);
+    };
+
+    static std::optional<Stamp> StampOf(const std::string& folder);
+    static bool IsStillGood(const Listing& listing, const Stamp& now);
+    static Listing ReadNames(const std::string& folder, const Stamp& stamp);
+    std::optional<std::string> Find(const std::string& folder, std::string_view name);
+
+    std::mutex mutex_;
+    std::map<std::string, Listing> listings_; // by host path
+    std::size_t keptNames_ = 0;
+};
+
+} // namespace quillon

@@ -1,0 +1,283 @@
+#include "platform/posix/posix_files.h"
+
+#include "platform/posix/disk_facts.h"
+#include "platform/posix/file_facts.h"
+#include "platform/posix/open_file.h"
+#include "platform/posix/posix_error.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::size_t kCopyPiece = 256 * 1024;
+constexpr mode_t kWriteBits = S_IWUSR | S_IWGRP | S_IWOTH;
+
+std::string FolderOf(const std::string& hostPath)
+{
+    const std::size_t last = hostPath.rfind('/');
+    return last == 0 ? "/" : hostPath.substr(0, last);
+}
+
+bool IsFolder(const std::string& hostPath)
+{
+    struct stat facts {};
+    return stat(hostPath.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
+}
+
+[[noreturn]] void Fail(const Text& path, const std::string& hostPath, Doing doing)
+{
+    const int errorCode = errno;
+    throw PosixFailure(errorCode, path, doing, IsFolder(FolderOf(hostPath)));
+}
+
+std::string HostPath(const DriveMap& drives, const Text& path)
+{
+    const bool canBe = path.find('\0') == Text::npos;
+    const auto hostPath = drives.ToHost(path);
+    if (!hostPath)
+        throw RunError(canBe ? ErrorNumber::kPathNotFound : ErrorNumber::kBadFileName, path);
+    return *hostPath;
+}
+
+struct stat StatOf(const Text& path, const std::string& hostPath)
+{
+    struct stat facts {};
+    if (stat(hostPath.c_str(), &facts) != 0)
+        Fail(path, hostPath, Doing::Reading);
+    return facts;
+}
+
+// A file whose owner may not write it has what Windows calls the read-only attribute. It must hold
+// for an administrator too, whom the system itself would not stop.
+void RefuseReadOnly(const Text& path, const std::string& hostPath)
+{
+    struct stat facts {};
+    const bool exists = stat(hostPath.c_str(), &facts) == 0;
+    if (exists && S_ISREG(facts.st_mode) && (facts.st_mode & S_IWUSR) == 0)
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+}
+
+/// Non-blocking, so that a pipe that nobody writes to can't hold the program up.
+Descriptor OpenToRead(const Text& path, const std::string& hostPath)
+{
+    Descriptor file(open(hostPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!file.IsOpen())
+        Fail(path, hostPath, Doing::Reading);
+    struct stat facts {};
+    if (fstat(file.Number(), &facts) != 0)
+        Fail(path, hostPath, Doing::Reading);
+    if (!S_ISREG(facts.st_mode))
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+    return file;
+}
+
+void CopyBytes(InputFile& from, OutputFile& to)
+{
+    std::vector<std::byte> piece(kCopyPiece);
+    while (const std::size_t count = from.Read(piece))
+        to.Write(std::span(piece).first(count));
+}
+
+} // namespace
+
+bool PosixFiles::FileExists(const Text& path) const
+{
+    const auto hostPath = drives_.ToHost(path);
+    struct stat facts {};
+    return hostPath && stat(hostPath->c_str(), &facts) == 0 && !S_ISDIR(facts.st_mode);
+}
+
+bool PosixFiles::DirExists(const Text& path) const
+{
+    const auto hostPath = drives_.ToHost(path);
+    return hostPath && IsFolder(*hostPath);
+}
+
+FileFacts PosixFiles::Facts(const Text& path) const
+{
+    return FactsOf(StatOf(path, HostPath(drives_, path)));
+}
+
+std::vector<FolderEntry> PosixFiles::List(const Text& folder) const
+{
+    const std::string hostPath = HostPath(drives_, folder);
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(hostPath.c_str()), closedir);
+    if (!listing)
+        throw PosixFailure(errno, folder, Doing::Reading, false);
+
+    std::vector<FolderEntry> entries;
+    while (const dirent* entry = readdir(listing.get())) {
+        const std::string name = entry->d_name;
+        struct stat facts {};
+        // A link that leads nowhere is listed all the same, so that its loss shows when it is read.
+        const bool found =
+            fstatat(dirfd(listing.get()), name.c_str(), &facts, 0) == 0 ||
+            fstatat(dirfd(listing.get()), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0;
+        if (found && name != "." && name != "..")
+            entries.push_back({name, FactsOf(facts)});
+    }
+    std::sort(entries.begin(), entries.end(),
+              [](const FolderEntry& a, const FolderEntry& b) { return a.name < b.name; });
+    return entries;
+}
+
+std::unique_ptr<InputFile> PosixFiles::OpenInput(const Text& path) const
+{
+    const std::string hostPath = HostPath(drives_, path);
+    Descriptor file = OpenToRead(path, hostPath);
+    struct stat facts {};
+    if (fstat(file.Number(), &facts) != 0)
+        Fail(path, hostPath, Doing::Reading);
+    return std::make_unique<PosixInputFile>(std::move(file), std::uint64_t(facts.st_size), path);
+}
+
+std::unique_ptr<OutputFile> PosixFiles::OpenOutput(const Text& path)
+{
+    const std::string hostPath = HostPath(drives_, path);
+    RefuseReadOnly(path, hostPath);
+    Descriptor file(
+        open(hostPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0666));
+    if (!file.IsOpen())
+        Fail(path, hostPath, Doing::Writing);
+    drives_.Names().NoteCreated(hostPath);
+    return std::make_unique<PosixOutputFile>(std::move(file), path);
+}
+
+bool PosixFiles::DirCreate(const Text& path)
+{
+    const auto hostPath = drives_.ToHost(path);
+    if (!hostPath)
+        return false;
+    for (std::size_t end = 1; end != std::string::npos;) {
+        end = hostPath->find('/', end + 1);
+        const std::string folder = hostPath->substr(0, end);
+        if (IsFolder(folder))
+            continue;
+        if (mkdir(folder.c_str(), 0777) != 0 && !IsFolder(folder))
+            return false;
+        drives_.Names().NoteCreated(folder);
+    }
+    return true;
+}
+
+void PosixFiles::CopyContent(const Text& from, const Text& to)
+{
+    const std::string source = HostPath(drives_, from);
+    const std::string target = HostPath(drives_, to);
+    const struct stat facts = StatOf(from, source);
+    struct stat old {};
+    const bool isReplaced = stat(target.c_str(), &old) == 0;
+    // Emptying the target first would empty the source.
+    if (isReplaced && old.st_dev == facts.st_dev && old.st_ino == facts.st_ino)
+        throw RunError(ErrorNumber::kPermissionDenied, to);
+
+    const auto input = OpenInput(from);
+    const auto output = OpenOutput(to);
+    try {
+        CopyBytes(*input, *output);
+        output->Close();
+    } catch (const RunError&) {
+        // Half a file looks like a whole one.
+        unlink(target.c_str());
+        drives_.Names().NoteChanged(FolderOf(target));
+        throw;
+    }
+    const std::array<timespec, 2> times{facts.st_atim, facts.st_mtim};
+    if (utimensat(AT_FDCWD, target.c_str(), times.data(), 0) != 0)
+        Fail(to, target, Doing::Writing);
+}
+
+void PosixFiles::RemoveFile(const Text& path)
+{
+    const std::string hostPath = HostPath(drives_, path);
+    if (IsFolder(hostPath))
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+    RefuseReadOnly(path, hostPath);
+    if (unlink(hostPath.c_str()) != 0)
+        Fail(path, hostPath, Doing::Reading);
+    drives_.Names().NoteChanged(FolderOf(hostPath));
+}
+
+void PosixFiles::RemoveFolder(const Text& path)
+{
+    const std::string hostPath = HostPath(drives_, path);
+    if (rmdir(hostPath.c_str()) != 0) {
+        const Doing doing =
+            errno == ENOTDIR && !IsFolder(hostPath) ? Doing::Writing : Doing::Reading;
+        throw PosixFailure(errno, path, doing, false);
+    }
+    drives_.Names().NoteChanged(FolderOf(hostPath));
+}
+
+void PosixFiles::Rename(const Text& from, const Text& to)
+{
+    const std::string source = HostPath(drives_, from);
+    std::string target = HostPath(drives_, to);
+    StatOf(from, source);
+    // A new spelling of the same name: the look-up has found the old one.
+    if (target == source)
+        target = FolderOf(source) + "/" + to.substr(to.find_last_of("\\/") + 1);
+    if (rename(source.c_str(), target.c_str()) == 0) {
+        drives_.Names().NoteChanged(FolderOf(source));
+        drives_.Names().NoteChanged(FolderOf(target));
+        return;
+    }
+    if (errno != EXDEV || IsFolder(source))
+        Fail(to, target, Doing::Writing);
+    CopyContent(from, to);
+    RemoveFile(from);
+}
+
+void PosixFiles::SetModified(const Text& path, const LocalTime& time)
+{
+    const std::string hostPath = HostPath(drives_, path);
+    const timespec moment{.tv_sec = MomentOf(time), .tv_nsec = 0};
+    const std::array<timespec, 2> times{timespec{.tv_sec = 0, .tv_nsec = UTIME_OMIT}, moment};
+    if (utimensat(AT_FDCWD, hostPath.c_str(), times.data(), 0) != 0)
+        Fail(path, hostPath, Doing::Reading);
+}
+
+void PosixFiles::SetReadOnly(const Text& path, bool readOnly)
+{
+    const std::string hostPath = HostPath(drives_, path);
+    const mode_t mode = StatOf(path, hostPath).st_mode & 07777;
+    const mode_t changed = readOnly ? mode & ~kWriteBits : mode | S_IWUSR;
+    if (chmod(hostPath.c_str(), changed) != 0)
+        Fail(path, hostPath, Doing::Reading);
+}
+
+std::uint64_t PosixFiles::FreeSpace(const Text& folder) const
+{
+    const std::string hostPath = HostPath(drives_, folder);
+    const auto space = FreeSpaceOf(hostPath);
+    if (!space)
+        throw PosixFailure(errno, folder, Doing::Reading, false);
+    return *space;
+}
+
+DriveKind PosixFiles::DriveType(const Text& root) const
+{
+    const auto hostPath = drives_.ToHost(root);
+    if (!hostPath || !IsFolder(*hostPath))
+        return DriveKind::NoRoot;
+    // These two letters belong to floppy drives, whatever stands in for one.
+    const bool isFloppyLetter = std::string_view("AaBb").find(root[0]) != std::string_view::npos;
+    return isFloppyLetter ? DriveKind::Removable : KindOfDisk(*hostPath);
+}
+
+Text PosixFiles::GetVolumeName(const Text& root) const
+{
+    const auto hostPath = drives_.ToHost(root);
+    return hostPath ? FirstCharacters(LabelOfDisk(*hostPath), kLongestVolumeName) : Text();
+}
+
+} // namespace quillon

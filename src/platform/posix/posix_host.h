@@ -1,0 +1,23 @@
+// Everything that a program on a POSIX machine hands to the product, in one piece that main()
+// makes.
+#pragma once
+
+#include "platform/host.h"
+#include "platform/posix/posix_machine.h"
+
+namespace quillon {
+
+struct PosixHost {
+    explicit PosixHost(MachineSettings settings = ReadMachineSettings());
+    PosixHost(const PosixHost&) = delete;
+    PosixHost& operator=(const PosixHost&) = delete;
+
+    // A line for each setting that could not be used, to be shown to the user.
+    std::vector<Text> complaints;
+    DriveMap drives;
+    PosixFiles files;
+    PosixMachine machine;
+    Host host{files, machine};
+};
+
+} // namespace quillon

@@ -1,0 +1,178 @@
+#include "platform/posix/posix_machine.h"
+
+#include "helpers/windows_path.h"
+#include "platform/posix/file_facts.h"
+#include "platform/posix/start_program.h"
+#include "platform/run_error.h"
+
+#include <cerrno>
+#include <ctime>
+#include <langinfo.h>
+#include <locale.h>
+#include <sys/random.h>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::size_t kLongestFolder = 260;
+constexpr std::size_t kLongestOwner = 256;
+
+constexpr const char* kWindows = "C:\\Windows";
+constexpr const char* kSystem = "C:\\Windows\\System32";
+constexpr const char* kFonts = "C:\\Windows\\Fonts";
+constexpr const char* kProgramFiles = "C:\\Program Files";
+constexpr const char* kUsers = "C:\\Users";
+// Where drive C: is one of a Windows-like system, the user has a documents folder there already.
+constexpr const char* kOwnDocuments = "C:\\Mina dokument";
+
+bool IsWebAddress(const Text& path)
+{
+    return path.find("://") != Text::npos || path.starts_with("mailto:");
+}
+
+void StartOrFail(const std::vector<std::string>& command, const Text& path)
+{
+    if (command.front().empty() || !StartDetached(command))
+        throw RunError(ErrorNumber::kCannotStart, path);
+}
+
+} // namespace
+
+PosixMachine::PosixMachine(const MachineSettings& settings, const DriveMap& drives,
+                           PosixFiles& files, RegistryFiles registry)
+    : drives_(drives), files_(files), registry_(std::move(registry)),
+      tempFolder_(settings.tempFolder), user_(settings.user), fullName_(settings.fullName)
+{
+    for (const char* folder : {kWindows, kSystem, kFonts})
+        files.DirCreate(folder);
+    if (GetMyDocumentsDir().empty())
+        files.DirCreate(kOwnDocuments);
+}
+
+Text PosixMachine::IfThere(const Text& path) const
+{
+    return files_.DirExists(path) ? FirstCharacters(path, kLongestFolder) : Text();
+}
+
+Text PosixMachine::UserFolder() const
+{
+    return JoinPath(kUsers, user_);
+}
+
+Text PosixMachine::GetWindowsDir() const
+{
+    return IfThere(kWindows);
+}
+
+Text PosixMachine::GetSystemDir() const
+{
+    return IfThere(kSystem);
+}
+
+Text PosixMachine::GetProgramFilesDir() const
+{
+    return IfThere(kProgramFiles);
+}
+
+Text PosixMachine::GetMyDocumentsDir() const
+{
+    const Text ofUser = user_.empty() ? Text() : IfThere(JoinPath(UserFolder(), "Documents"));
+    return ofUser.empty() ? IfThere(kOwnDocuments) : ofUser;
+}
+
+Text PosixMachine::GetSysAppDataDirectory() const
+{
+    return IfThere(JoinPath(UserFolder(), "AppData\\Roaming"));
+}
+
+Text PosixMachine::GetSysLocalAppDataDirectory() const
+{
+    return IfThere(JoinPath(UserFolder(), "AppData\\Local"));
+}
+
+Text PosixMachine::GetSysTemplatesDirectory() const
+{
+    return IfThere(JoinPath(UserFolder(), "AppData\\Roaming\\Microsoft\\Windows\\Templates"));
+}
+
+Text PosixMachine::GetTempDir() const
+{
+    return RemoveLastBackslash(drives_.ToWindows(tempFolder_).value_or(""));
+}
+
+std::optional<Text> PosixMachine::ReadRegistryValue(RegistryRoot root, const Text& subKey,
+                                                    const Text& valueName) const
+{
+    return registry_.Read(root, subKey, valueName);
+}
+
+RegisteredOwner PosixMachine::GetWindowsRegisteredOwner() const
+{
+    constexpr auto kRoot = RegistryRoot::LocalMachine;
+    for (const char* key : {"Software\\Microsoft\\Windows NT\\CurrentVersion",
+                            "Software\\Microsoft\\Windows\\CurrentVersion"})
+        if (const auto owner = registry_.Read(kRoot, key, "RegisteredOwner"))
+            return {
+                FirstCharacters(*owner, kLongestOwner),
+                FirstCharacters(registry_.Read(kRoot, key, "RegisteredOrganization").value_or(""),
+                                kLongestOwner)};
+    return {FirstCharacters(fullName_, kLongestOwner), ""};
+}
+
+char PosixMachine::DecimalSign() const
+{
+    // The process itself stays in the "C" locale, on which number texts rely.
+    const locale_t ofUser = newlocale(LC_NUMERIC_MASK, "", nullptr);
+    if (ofUser == nullptr)
+        return '.';
+    const char sign = *nl_langinfo_l(RADIXCHAR, ofUser);
+    freelocale(ofUser);
+    return sign == ',' ? ',' : '.';
+}
+
+LocalTime PosixMachine::Now() const
+{
+    return LocalTimeOf(std::time(nullptr));
+}
+
+std::uint32_t PosixMachine::Random(std::uint32_t below)
+{
+    if (below == 0)
+        return 0;
+    // Numbers beyond the last whole multiple would favour the small ones, so they are drawn again.
+    const std::uint64_t range = std::uint64_t(1) << 32U;
+    const std::uint64_t fair = range - range % below;
+    std::uint32_t drawn = 0;
+    do {
+        while (getrandom(&drawn, sizeof drawn, 0) != ssize_t(sizeof drawn) && errno == EINTR) {
+        }
+    } while (drawn >= fair);
+    return drawn % below;
+}
+
+std::string PosixMachine::Existing(const Text& path) const
+{
+    files_.Facts(path); // throws where nothing stands
+    return *drives_.ToHost(path);
+}
+
+void PosixMachine::StartProgram(const Text& program, const Text& arguments)
+{
+    const std::string hostPath = Existing(program);
+    std::vector<std::string> command;
+    if (LowerCase(program).ends_with(".exe"))
+        command.push_back(FindOnPath("wine"));
+    command.push_back(hostPath);
+    for (std::string& argument : SplitArguments(arguments))
+        command.push_back(std::move(argument));
+    StartOrFail(command, program);
+}
+
+void PosixMachine::OpenDocument(const Text& path)
+{
+    const std::string target = IsWebAddress(path) ? path : Existing(path);
+    StartOrFail({FindOnPath("xdg-open"), target}, path);
+}
+
+} // namespace quillon

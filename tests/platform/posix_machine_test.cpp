@@ -1,0 +1,246 @@
+#include "platform/posix/posix_host.h"
+
+#include "platform/posix/start_program.h"
+#include "platform/run_error.h"
+#include "support/temp_folder.h"
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillon {
+namespace {
+
+class PosixMachineTest : public testing::Test {
+protected:
+    test::TempFolder disk;
+
+    MachineSettings Settings() const
+    {
+        MachineSettings settings;
+        settings.drives = {{'Z', "/"}, {'C', disk.Path("c")}, {'S', disk.Path()}};
+        settings.tempFolder = disk.Path("tmp");
+        settings.user = "ulla";
+        settings.fullName = "Ulla Ek";
+        return settings;
+    }
+};
+
+TEST_F(PosixMachineTest, MakesTheFoldersOfDriveCOnFirstUse)
+{
+    PosixHost host(Settings());
+    for (const char* folder :
+         {"c/Windows", "c/Windows/System32", "c/Windows/Fonts", "c/Mina dokument"})
+        EXPECT_TRUE(disk.Has(folder)) << folder;
+    EXPECT_EQ(host.machine.GetWindowsDir(), "C:\\Windows");
+    EXPECT_EQ(host.machine.GetSystemDir(), "C:\\Windows\\System32");
+    EXPECT_EQ(host.machine.GetMyDocumentsDir(), "C:\\Mina dokument");
+    EXPECT_EQ(host.machine.GetTempDir(), "S:\\tmp");
+}
+
+TEST_F(PosixMachineTest, HasNoFoldersThatAreNotThere)
+{
+    PosixHost host(Settings());
+    EXPECT_EQ(host.machine.GetProgramFilesDir(), "");
+    EXPECT_EQ(host.machine.GetSysAppDataDirectory(), "");
+    EXPECT_EQ(host.machine.GetSysLocalAppDataDirectory(), "");
+    EXPECT_EQ(host.machine.GetSysTemplatesDirectory(), "");
+}
+
+TEST_F(PosixMachineTest, TakesDriveCFromAnotherSystemAsItIs)
+{
+    disk.PutFolder("c/windows/system32");
+    disk.PutFolder("c/users/ulla/Documents");
+    disk.PutFolder("c/users/ulla/AppData/Roaming/Microsoft/Windows/Templates");
+    disk.PutFolder("c/users/ulla/AppData/Local");
+    disk.PutFolder("c/Program Files");
+    PosixHost host(Settings());
+    EXPECT_FALSE(disk.Has("c/Windows"));
+    EXPECT_FALSE(disk.Has("c/Mina dokument"));
+    EXPECT_EQ(host.machine.GetMyDocumentsDir(), "C:\\Users\\ulla\\Documents");
+    EXPECT_EQ(host.machine.GetProgramFilesDir(), "C:\\Program Files");
+    EXPECT_EQ(host.machine.GetSysAppDataDirectory(), "C:\\Users\\ulla\\AppData\\Roaming");
+    EXPECT_EQ(host.machine.GetSysLocalAppDataDirectory(), "C:\\Users\\ulla\\AppData\\Local");
+    EXPECT_EQ(host.machine.GetSysTemplatesDirectory(),
+              "C:\\Users\\ulla\\AppData\\Roaming\\Microsoft\\Windows\\Templates");
+}
+
+TEST_F(PosixMachineTest, GoesOnWhereDriveCCannotBeMade)
+{
+    disk.Put("c", "a file stands in its way");
+    PosixHost host(Settings());
+    EXPECT_EQ(host.machine.GetWindowsDir(), "");
+    EXPECT_TRUE(host.files.FileExists("S:\\c"));
+}
+
+TEST_F(PosixMachineTest, ReadsTheRegistryAndTellsOfFilesThatItCannotRead)
+{
+    disk.Put("a.reg", "REGEDIT4\n[HKEY_LOCAL_MACHINE\\k]\n\"v\"=\"" + Text(2000, 'x') + "\"\n");
+    disk.Put("b.reg", "no export");
+    MachineSettings settings = Settings();
+    settings.registryFiles = {disk.Path("a.reg"), disk.Path("b.reg"), disk.Path("c.reg")};
+    PosixHost host(settings);
+    EXPECT_EQ(host.machine.GetRegKeyStr(RegistryRoot::LocalMachine, "K", "V"), Text(1024, 'x'));
+    EXPECT_EQ(host.machine.GetRegKeyStr(RegistryRoot::LocalMachine, "K", "W"), "");
+    ASSERT_EQ(host.complaints.size(), 2U);
+    EXPECT_EQ(host.complaints[0],
+              "QUILLON_REGISTRY: '" + disk.Path("b.reg") +
+                  "' is no registry export; its first line must be REGEDIT4 or Windows Registry "
+                  "Editor Version 5.00.");
+    EXPECT_EQ(host.complaints[1],
+              "QUILLON_REGISTRY: '" + disk.Path("c.reg") + "' can't be read (error 53).");
+}
+
+TEST_F(PosixMachineTest, KnowsTheOwnerFromTheRegistryElseFromTheSystem)
+{
+    EXPECT_EQ(PosixHost(Settings()).machine.GetWindowsRegisteredOwner().owner, "Ulla Ek");
+    disk.Put("a.reg",
+             "REGEDIT4\n[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion]\n"
+             "\"RegisteredOwner\"=\"Bo\"\n\"RegisteredOrganization\"=\"Firma AB\"\n");
+    MachineSettings settings = Settings();
+    settings.registryFiles = {disk.Path("a.reg")};
+    const RegisteredOwner owner = PosixHost(settings).machine.GetWindowsRegisteredOwner();
+    EXPECT_EQ(owner.owner, "Bo");
+    EXPECT_EQ(owner.organization, "Firma AB");
+}
+
+TEST_F(PosixMachineTest, DrawsEveryNumberBelowTheLimitAndNoOther)
+{
+    PosixHost host(Settings());
+    std::map<std::uint32_t, int> drawn;
+    for (int i = 0; i < 2000; ++i)
+        ++drawn[host.machine.Random(7)];
+    EXPECT_EQ(drawn.size(), 7U);
+    EXPECT_EQ(drawn.rbegin()->first, 6U);
+    EXPECT_EQ(host.machine.Random(1), 0U);
+    EXPECT_EQ(host.machine.Random(0), 0U);
+}
+
+TEST_F(PosixMachineTest, TakesTheDecimalSignFromTheUsersLocaleAndLeavesTheProcessAlone)
+{
+    PosixHost host(Settings());
+    setenv("LC_ALL", "C", 1);
+    EXPECT_EQ(host.machine.DecimalSign(), '.');
+    setenv("LC_ALL", "no_such_locale", 1);
+    EXPECT_EQ(host.machine.DecimalSign(), '.');
+    unsetenv("LC_ALL");
+    EXPECT_EQ(std::to_string(0.5), "0.500000");
+}
+
+/// Waits, as long as it takes, for what a program of the test writes into a pipe.
+std::string ReadPipe(const std::string& path)
+{
+    const int pipe = open(path.c_str(), O_RDONLY);
+    std::string text;
+    char character = 0;
+    while (read(pipe, &character, 1) == 1)
+        text += character;
+    close(pipe);
+    return text;
+}
+
+TEST_F(PosixMachineTest, StartsAProgramWithItsArguments)
+{
+    disk.Put("Prog.sh", "#!/bin/sh\nprintf '%s|' \"$@\" > " + disk.Path("pipe") + "\n");
+    chmod(disk.Path("Prog.sh").c_str(), 0700);
+    ASSERT_EQ(mkfifo(disk.Path("pipe").c_str(), 0600), 0);
+    PosixHost host(Settings());
+    host.machine.StartProgram("S:\\PROG.SH", "one \"two three\" /x:\\\"q\\\"");
+    EXPECT_EQ(ReadPipe(disk.Path("pipe")), "one|two three|/x:\"q\"|");
+}
+
+class PathVariable {
+public:
+    explicit PathVariable(const std::string& path) : before_(std::getenv("PATH"))
+    {
+        setenv("PATH", path.c_str(), 1);
+    }
+    ~PathVariable() { setenv("PATH", before_.c_str(), 1); }
+
+private:
+    std::string before_;
+};
+
+TEST_F(PosixMachineTest, StartsAWindowsProgramByWineAndADocumentByTheDesktop)
+{
+    for (const char* starter : {"bin/wine", "bin/xdg-open"}) {
+        disk.Put(starter, "#!/bin/sh\necho \"$0 $*\" > " + disk.Path("pipe") + "\n");
+        chmod(disk.Path(starter).c_str(), 0700);
+    }
+    disk.Put("Setup.Exe", "MZ");
+    disk.Put("Help.txt", "");
+    ASSERT_EQ(mkfifo(disk.Path("pipe").c_str(), 0600), 0);
+    PosixHost host(Settings());
+    const PathVariable path(disk.Path("bin"));
+    host.machine.StartProgram("S:\\setup.exe", "/TEST");
+    EXPECT_EQ(ReadPipe(disk.Path("pipe")),
+              disk.Path("bin/wine") + " " + disk.Path("Setup.Exe") + " /TEST\n");
+    host.machine.OpenDocument("S:\\help.TXT");
+    EXPECT_EQ(ReadPipe(disk.Path("pipe")),
+              disk.Path("bin/xdg-open") + " " + disk.Path("Help.txt") + "\n");
+    host.machine.OpenDocument("https://example.org/a b");
+    EXPECT_EQ(ReadPipe(disk.Path("pipe")),
+              disk.Path("bin/xdg-open") + " https://example.org/a b\n");
+}
+
+TEST_F(PosixMachineTest, TellsWhyAProgramCannotBeStarted)
+{
+    disk.Put("setup.exe", "MZ");
+    disk.Put("plain.txt", "no program");
+    PosixHost host(Settings());
+    const PathVariable path(disk.Path("nowhere"));
+    const auto failure = [&](const Text& program) {
+        return RunErrorNumber([&] { host.machine.StartProgram(program, ""); });
+    };
+    EXPECT_EQ(failure("S:\\missing.exe"), 53);
+    EXPECT_EQ(failure("S:\\missing\\a.exe"), 76);
+    EXPECT_EQ(failure("S:\\setup.exe"), 5);
+    EXPECT_EQ(failure("S:\\plain.txt"), 5);
+    EXPECT_EQ(RunErrorNumber([&] { host.machine.OpenDocument("S:\\plain.txt"); }), 5);
+    EXPECT_EQ(RunErrorNumber([&] { host.machine.OpenDocument("S:\\missing.txt"); }), 53);
+}
+
+TEST(SplitArguments, CutsALineAsAWindowsProgramDoes)
+{
+    using Words = std::vector<std::string>;
+    EXPECT_EQ(SplitArguments(""), Words{});
+    EXPECT_EQ(SplitArguments("  a \t b "), (Words{"a", "b"}));
+    EXPECT_EQ(SplitArguments("\"a b\"c \"\""), (Words{"a bc", ""}));
+    EXPECT_EQ(SplitArguments("C:\\dir\\a.txt"), (Words{"C:\\dir\\a.txt"}));
+}
+
+TEST(AddDrives, TakesLettersAndTellsOfWhatIsNone)
+{
+    MachineSettings settings;
+    AddDrives("S=/srv/src;;a=/mnt/floppy;C=/c;1=/x;Q;T=", settings);
+    ASSERT_EQ(settings.drives.size(), 2U);
+    EXPECT_EQ(settings.drives[0].letter, 'S');
+    EXPECT_EQ(settings.drives[0].folder, "/srv/src");
+    EXPECT_EQ(settings.drives[1].letter, 'a');
+    EXPECT_EQ(settings.complaints,
+              (std::vector<Text>{
+                  "QUILLON_DRIVES: 'C=/c' can't be: C: is set by QUILLON_DRIVE_C, Z: is /.",
+                  "QUILLON_DRIVES: '1=/x' is no drive; write a letter, '=' and a folder.",
+                  "QUILLON_DRIVES: 'Q' is no drive; write a letter, '=' and a folder.",
+                  "QUILLON_DRIVES: 'T=' is no drive; write a letter, '=' and a folder."}));
+}
+
+TEST(ReadMachineSettings, FindsDriveCUnderTheUsersDataUnlessItIsNamed)
+{
+    unsetenv("QUILLON_DRIVE_C");
+    setenv("XDG_DATA_HOME", "/data/of/user", 1);
+    EXPECT_EQ(ReadMachineSettings().drives[1].folder, "/data/of/user/quillon/drive_c");
+    unsetenv("XDG_DATA_HOME");
+    const std::string home = std::getenv("HOME");
+    EXPECT_EQ(ReadMachineSettings().drives[1].folder, home + "/.local/share/quillon/drive_c");
+    setenv("QUILLON_DRIVE_C", "/mnt/c", 1);
+    setenv("QUILLON_REGISTRY", "/a.reg;/b.reg", 1);
+    EXPECT_EQ(ReadMachineSettings().drives[1].folder, "/mnt/c");
+    EXPECT_EQ(ReadMachineSettings().registryFiles.size(), 2U);
+    unsetenv("QUILLON_DRIVE_C");
+    unsetenv("QUILLON_REGISTRY");
+}
+
+} // namespace
+} // namespace quillon
