@@ -1,14 +1,17 @@
 #include "platform/posix/disk_facts.h"
 
+#include "platform/posix/open_file.h"
+
 #include <algorithm>
 #include <array>
+#include <fcntl.h>
 #include <filesystem>
-#include <fstream>
 #include <linux/magic.h>
 #include <sys/stat.h>
 #include <sys/statfs.h>
 #include <sys/statvfs.h>
 #include <sys/sysmacros.h>
+#include <unistd.h>
 
 namespace quillon {
 
@@ -32,9 +35,9 @@ bool IsRemovable(dev_t device)
     const std::string folder =
         "/sys/dev/block/" + std::to_string(major(device)) + ":" + std::to_string(minor(device));
     for (const char* place : {"/removable", "/../removable"}) {
+        const Descriptor file(open((folder + place).c_str(), O_RDONLY | O_CLOEXEC));
         char word = '0';
-        std::ifstream(folder + place) >> word;
-        if (word == '1')
+        if (file.IsOpen() && read(file.Number(), &word, 1) == 1 && word == '1')
             return true;
     }
     return false;
