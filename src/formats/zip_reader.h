@@ -19,7 +19,7 @@
 namespace quillon {
 
 struct ZipEntry {
-    Text name; // '/' between folders
+    Text name;    // '/' between folders
     Text comment; // in FILEDATA.DAT the rows that the entry serves: "F1" or "F1 F7"
     std::uint64_t size = 0;
     std::uint64_t packedSize = 0;
@@ -27,6 +27,7 @@ struct ZipEntry {
     LocalTime modified;
     bool isStored = false;
     bool isEncrypted = false;
+    bool hasCrc = true; // false under AE-2, which authenticates instead
     // Where the entry's local header stands, and the real method below an encryption.
     std::uint64_t headerPosition = 0;
     std::uint16_t method = 0;

@@ -1,0 +1,317 @@
+#include "formats/zip_directory.h"
+
+#include "formats/zip_encryption.h"
+#include "helpers/ansi_text.h"
+#include "helpers/utf8.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon::zip {
+
+namespace {
+
+constexpr std::uint64_t kLongestComment = 0xFFFF;
+// Deflate spends at least two bits on 258 bytes. A size beyond that is a lie, told so that somebody
+// reserves the space.
+constexpr std::uint64_t kMostPerPackedByte = 1032;
+
+/// Where the directory lies and what it shall hold.
+struct Place {
+    std::uint64_t position = 0;
+    std::uint64_t size = 0;
+    std::uint64_t entries = 0;
+    std::uint64_t endRecord = 0; // the record that must follow the directory at once
+};
+
+void Require(bool condition, const char* what)
+{
+    if (!condition)
+        RefuseArchive(what);
+}
+
+Text AsText(std::span<const std::byte> bytes)
+{
+    return Text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+}
+
+/// Walks over the directory with a buffer that holds at least one record.
+class DirectoryCursor {
+public:
+    DirectoryCursor(InputFile& archive, std::uint64_t position, std::uint64_t size)
+        : archive_(archive), next_(position), left_(size)
+    {
+    }
+
+    /// The next `count` bytes, good until the next call.
+    std::span<const std::byte> Take(std::size_t count)
+    {
+        if (buffer_.size() - used_ < count)
+            Refill(count);
+        const auto taken = std::span<const std::byte>(buffer_).subspan(used_, count);
+        used_ += count;
+        return taken;
+    }
+    bool IsAtEnd() const { return left_ == 0 && used_ == buffer_.size(); }
+
+private:
+    static constexpr std::size_t kPiece = 64 * 1024;
+
+    void Refill(std::size_t count)
+    {
+        buffer_.erase(buffer_.begin(), buffer_.begin() + static_cast<std::ptrdiff_t>(used_));
+        used_ = 0;
+        const std::size_t kept = buffer_.size();
+        const auto added = static_cast<std::size_t>(
+            std::min<std::uint64_t>(left_, std::max(kPiece, count - kept)));
+        Require(kept + added >= count, "the directory ends inside an entry");
+        buffer_.resize(kept + added);
+        ReadExactly(archive_, next_, std::span(buffer_).subspan(kept));
+        next_ += added;
+        left_ -= added;
+    }
+
+    InputFile& archive_;
+    std::uint64_t next_;
+    std::uint64_t left_;
+    Bytes buffer_;
+    std::size_t used_ = 0;
+};
+
+template <class Record>
+std::optional<Record> RecordAt(InputFile& archive, std::uint64_t position)
+{
+    Bytes bytes(kRecordSize<Record>);
+    ReadExactly(archive, position, bytes);
+    return ReadRecord<Record>(bytes);
+}
+
+[[noreturn]] void RefuseWithoutEnd(InputFile& archive)
+{
+    if (archive.Size() >= kRecordSize<LocalHeader> && RecordAt<LocalHeader>(archive, 0))
+        RefuseArchive("the archive is cut: its end record is missing");
+    throw ZipError(ZipError::Kind::NotAnArchive, "no ZIP archive");
+}
+
+// The end record is the one whose comment reaches exactly to the end of the file. Where a comment
+// holds a second such record, the archive means two things at once.
+std::uint64_t FindEndRecord(InputFile& archive)
+{
+    const std::uint64_t size = archive.Size();
+    const std::uint64_t tailSize = std::min(size, kRecordSize<EndRecord> + kLongestComment);
+    const std::uint64_t begin = size - tailSize;
+    Bytes tail(static_cast<std::size_t>(tailSize));
+    ReadExactly(archive, begin, tail);
+    std::optional<std::size_t> found;
+    for (std::size_t at = 0; at + kRecordSize<EndRecord> <= tail.size(); ++at) {
+        const auto rest = std::span<const std::byte>(tail).subspan(at);
+        const auto record = ReadRecord<EndRecord>(rest);
+        if (!record || kRecordSize<EndRecord> + record->commentLength != rest.size())
+            continue;
+        Require(!found, "two end records");
+        found = at;
+    }
+    if (!found)
+        RefuseWithoutEnd(archive);
+    return begin + *found;
+}
+
+bool Agree(std::uint64_t small, std::uint64_t full, std::uint64_t large)
+{
+    return small == full || small == large;
+}
+
+Place PlaceFromZip64(InputFile& archive, const EndRecord& end, const Zip64Locator& locator,
+                     std::uint64_t locatorPosition)
+{
+    const std::uint64_t position = locator.endRecordPosition;
+    Require(locator.disk == 0 && locator.disks <= 1, "parts on other disks");
+    Require(position <= locatorPosition &&
+                locatorPosition - position >= kRecordSize<Zip64EndRecord>,
+            "the ZIP64 end record lies outside of the archive");
+    const auto large = RecordAt<Zip64EndRecord>(archive, position);
+    Require(large.has_value(), "the ZIP64 end record is missing");
+    Require(large->recordSize == locatorPosition - position - Zip64EndRecord::kLeadSize,
+            "the ZIP64 end record has a wrong size");
+    Require(large->disk == 0 && large->directoryDisk == 0 && large->entriesOnDisk == large->entries,
+            "parts on other disks");
+    Require(Agree(end.entries, kFull16, large->entries) &&
+                Agree(end.directorySize, kFull32, large->directorySize) &&
+                Agree(end.directoryPosition, kFull32, large->directoryPosition),
+            "the two end records disagree");
+    return {large->directoryPosition, large->directorySize, large->entries, position};
+}
+
+Place FindDirectory(InputFile& archive)
+{
+    const std::uint64_t endPosition = FindEndRecord(archive);
+    const EndRecord end = *RecordAt<EndRecord>(archive, endPosition);
+    Require(end.disk == 0 && end.directoryDisk == 0 && end.entriesOnDisk == end.entries,
+            "parts on other disks");
+    if (endPosition >= kRecordSize<Zip64Locator>) {
+        const std::uint64_t locatorPosition = endPosition - kRecordSize<Zip64Locator>;
+        if (const auto locator = RecordAt<Zip64Locator>(archive, locatorPosition))
+            return PlaceFromZip64(archive, end, *locator, locatorPosition);
+    }
+    return {end.directoryPosition, end.directorySize, end.entries, endPosition};
+}
+
+void RequireSoundPlace(const Place& place)
+{
+    Require(place.position <= place.endRecord && place.size == place.endRecord - place.position,
+            "the directory does not lie before the end record");
+    Require(place.entries <= place.size / kRecordSize<CentralHeader>,
+            "the directory is too small for its entries");
+}
+
+void RequireSupported(const CentralHeader& header, const Extras& extras)
+{
+    const auto refuse = [](const char* what) { throw ZipError(ZipError::Kind::Unsupported, what); };
+    if ((header.flags & (Flag::kPatchData | Flag::kStrongEncryption | Flag::kMaskedHeader)) != 0)
+        refuse("a kind of entry that nobody here writes");
+    const bool isEncrypted = (header.flags & Flag::kEncrypted) != 0;
+    if (isEncrypted != (header.method == Method::kAes))
+        refuse("an encryption other than AES");
+    if (isEncrypted) {
+        Require(extras.aes.has_value(), "the kind of encryption is missing");
+        const AesExtra& aes = *extras.aes;
+        const bool isKnownVersion = aes.version == AesExtra::kAe1 || aes.version == AesExtra::kAe2;
+        if (!isKnownVersion || aes.vendor != AesExtra::kVendor || aes.strength != AesExtra::kAes256)
+            refuse("an encryption other than AES-256");
+    }
+    const std::uint16_t method = isEncrypted ? extras.aes->method : header.method;
+    if (method != Method::kStored && method != Method::kDeflated)
+        refuse("a compression other than deflate");
+}
+
+void RequireSoundSizes(const ZipEntry& entry, const Place& place)
+{
+    Require(entry.packedSize <= place.position, "an entry larger than the archive");
+    const std::uint64_t around = entry.isEncrypted ? kEncryptionSize : 0;
+    Require(entry.packedSize >= around, "an encrypted entry without room for its keys");
+    const std::uint64_t packed = entry.packedSize - around;
+    if (entry.isStored)
+        Require(entry.size == packed, "a stored entry of two sizes");
+    else
+        Require(entry.size <= packed * kMostPerPackedByte, "a size that no deflate reaches");
+}
+
+ZipEntry EntryFrom(const CentralHeader& header, const Extras& extras)
+{
+    ZipEntry entry;
+    entry.size = extras.zip64.size.value_or(header.size);
+    entry.packedSize = extras.zip64.packedSize.value_or(header.packedSize);
+    entry.headerPosition = extras.zip64.headerPosition.value_or(header.headerPosition);
+    entry.crc = header.crc;
+    entry.modified = FromDosTime(header.date, header.time);
+    entry.isEncrypted = header.method == Method::kAes;
+    entry.method = entry.isEncrypted ? extras.aes->method : header.method;
+    entry.isStored = entry.method == Method::kStored;
+    entry.hasCrc = !entry.isEncrypted || extras.aes->version == AesExtra::kAe1;
+    return entry;
+}
+
+std::optional<std::uint64_t> ComesFromZip64(std::uint32_t field)
+{
+    return field == kFull32 ? std::optional<std::uint64_t>(field) : std::nullopt;
+}
+
+ZipEntry ReadEntry(DirectoryCursor& cursor, const Place& place, Directory::Room& room)
+{
+    const auto header = ReadRecord<CentralHeader>(cursor.Take(kRecordSize<CentralHeader>));
+    Require(header.has_value(), "an entry of the directory is missing");
+    Require(header->disk == 0, "an entry on another disk");
+    const Text name = DecodeText(cursor.Take(header->nameLength), header->flags);
+    Require(!name.empty() && name.find('\0') == Text::npos, "an entry without a usable name");
+    Extras extras;
+    extras.zip64 = {ComesFromZip64(header->size), ComesFromZip64(header->packedSize),
+                    ComesFromZip64(header->headerPosition)};
+    ReadExtras(cursor.Take(header->extraLength), extras);
+    RequireSupported(*header, extras);
+    ZipEntry entry = EntryFrom(*header, extras);
+    entry.name = name;
+    entry.comment = DecodeText(cursor.Take(header->commentLength), header->flags);
+    RequireSoundSizes(entry, place);
+    const std::uint64_t least = kRecordSize<LocalHeader> + header->nameLength + entry.packedSize;
+    Require(entry.headerPosition <= place.position &&
+                least <= place.position - entry.headerPosition,
+            "an entry outside of the archive");
+    room = {entry.headerPosition, entry.headerPosition + least};
+    return entry;
+}
+
+// Entries that share bytes are how a small file pretends to be an enormous one.
+void SpreadRooms(std::vector<Directory::Room>& rooms, const Place& place)
+{
+    std::ranges::sort(rooms, {}, &Directory::Room::begin);
+    for (std::size_t i = 0; i < rooms.size(); ++i) {
+        const std::uint64_t next = i + 1 < rooms.size() ? rooms[i + 1].begin : place.position;
+        Require(rooms[i].end <= next, "entries that overlap");
+        rooms[i].end = next;
+    }
+}
+
+} // namespace
+
+void RefuseArchive(const char* what)
+{
+    throw ZipError(ZipError::Kind::Damaged, what);
+}
+
+void ReadExactly(InputFile& archive, std::uint64_t position, std::span<std::byte> bytes)
+{
+    archive.Seek(position);
+    while (!bytes.empty()) {
+        const std::size_t got = archive.Read(bytes);
+        Require(got > 0, "the archive is shorter than it says");
+        bytes = bytes.subspan(got);
+    }
+}
+
+// Programs that do not write UTF-8 write the code page of their time; a name in plain ASCII is the
+// same in all of them.
+Text DecodeText(std::span<const std::byte> bytes, std::uint16_t flags)
+{
+    Text text = AsText(bytes);
+    if (IsUtf8(text))
+        return text;
+    Require((flags & Flag::kUtf8) == 0, "a text that is no UTF-8");
+    return AnsiText::FromBytes(text);
+}
+
+void ReadExtras(std::span<const std::byte> bytes, Extras& extras)
+{
+    bool hasZip64 = false;
+    while (!bytes.empty()) {
+        ExtraHead head;
+        Require(ReadFields(bytes, head), "an extra field that is cut");
+        bytes = bytes.subspan(FieldsSize(head));
+        Require(head.length <= bytes.size(), "an extra field that is cut");
+        const auto field = bytes.first(head.length);
+        bytes = bytes.subspan(head.length);
+        if (head.id == Zip64Extra::kId) {
+            Require(!std::exchange(hasZip64, true), "two ZIP64 fields");
+            Require(ReadFields(field, extras.zip64), "a ZIP64 field that is cut");
+        } else if (head.id == AesExtra::kId) {
+            Require(!extras.aes, "two AES fields");
+            Require(ReadFields(field, extras.aes.emplace()), "an AES field that is cut");
+        }
+    }
+}
+
+Directory ReadDirectory(InputFile& archive)
+{
+    const Place place = FindDirectory(archive);
+    RequireSoundPlace(place);
+    Directory directory;
+    directory.entries.reserve(static_cast<std::size_t>(place.entries));
+    directory.rooms.reserve(static_cast<std::size_t>(place.entries));
+    DirectoryCursor cursor(archive, place.position, place.size);
+    for (std::uint64_t i = 0; i < place.entries; ++i)
+        directory.entries.push_back(ReadEntry(cursor, place, directory.rooms.emplace_back()));
+    Require(cursor.IsAtEnd(), "the directory holds more than its entries");
+    SpreadRooms(directory.rooms, place);
+    return directory;
+}
+
+} // namespace quillon::zip
