@@ -1,0 +1,333 @@
+#include "filelist/add_file.h"
+
+#include "filelist/list_builder.h"
+#include "helpers/number_text.h"
+#include "platform/run_error.h"
+#include "support/memory_host.h"
+#include "support/scripted_ask.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+using testing::ElementsAre;
+
+namespace {
+
+constexpr const char* kAlreadyInList =
+    "Filen är redan inlagd i fillistan! Ska samma fil in i fillistan fler gånger måste den plockas "
+    "från en annan källkatalog! Har den nya filen samma filnamn och destinationskatalog som en "
+    "befintlig fil kan den inte heller adderas till fillistan!";
+
+const Text kSystem = "C:\\WINDOWS\\SYSTEM32";
+
+FileToAdd FileAt(const Text& folder, const Text& name)
+{
+    return {.FileName = name, .SourcePath = folder + "\\" + name, .Destination = "%DESTDIR"};
+}
+
+class AddFile : public testing::Test {
+protected:
+    AddFile() { list.sorted = false; }
+
+    std::optional<std::size_t> Add(const FileToAdd& file, std::deque<ExpectedBox> boxes = {})
+    {
+        ScriptedAsk ask(std::move(boxes));
+        return FileAdding(list, machine.host, ask).AddFileToFileList(file);
+    }
+    std::optional<std::size_t> AddSystem(const Text& name, bool isRuntimeFile,
+                                         std::deque<ExpectedBox> boxes = {})
+    {
+        ScriptedAsk ask(std::move(boxes));
+        return FileAdding(list, machine.host, ask).AddSystemFileToFileList(name, isRuntimeFile);
+    }
+    int FailureOf(const FileToAdd& file)
+    {
+        return RunErrorNumber([&] { Add(file); });
+    }
+
+    MemoryHost machine;
+    FileList list;
+};
+
+using AddSystemFile = AddFile;
+
+} // namespace
+
+TEST_F(AddFile, FillsTheRowFromTheFile)
+{
+    machine.files.Put("C:\\Data\\Läs.Txt", std::string(1587, 'x'), {2004, 2, 9, 7, 5, 59});
+    FileToAdd file = FileAt("C:\\Data", "Läs.Txt");
+    file.ComponentNr = "3";
+    EXPECT_EQ(Add(file), 0U);
+    ASSERT_EQ(list.rows.size(), 1U);
+    EXPECT_THAT(list.rows[0].columns,
+                ElementsAre("Läs.Txt", "%DESTDIR", "1,5", "2004-02-09", "07:05", "", "D", "3",
+                            "Txt", "c:\\data\\läs.txt", "", "", "", "", ""));
+}
+
+TEST_F(AddFile, WritesTheSizeWithTheLocalesDecimalSign)
+{
+    machine.machine.decimalSign = '.';
+    machine.files.Put("C:\\D\\one", "x");
+    machine.files.Put("C:\\D\\empty", "");
+    machine.files.Put("C:\\D\\large", std::string(1024 * 1024 + 512, 'x'));
+    for (const char* const name : {"one", "empty", "large"})
+        Add(FileAt("C:\\D", name));
+    EXPECT_EQ(list.rows[0][Size], "0.0") << "a byte is less than shows";
+    EXPECT_EQ(list.rows[1][Size], "0.0");
+    EXPECT_EQ(list.rows[2][Size], "1024.5");
+}
+
+TEST_F(AddFile, SendsFontsToTheFontFolder)
+{
+    for (const char* const name : {"a.ttf", "A.TTF", "a.b.ttf"}) {
+        machine.files.Put(Text("C:\\D\\") + name, "x");
+        FileToAdd file = FileAt("C:\\D", name);
+        file.Destination = "%WINDIR";
+        Add(file);
+    }
+    EXPECT_EQ(list.rows[0][Destination], "%FONTDIR");
+    EXPECT_EQ(list.rows[1][Destination], "%FONTDIR");
+    EXPECT_EQ(list.rows[2][Extension], "b.ttf");
+    EXPECT_EQ(list.rows[2][Destination], "%WINDIR") << "its extension begins at the first point";
+}
+
+TEST_F(AddFile, DropsHiddenFilesSilently)
+{
+    machine.files.Put("C:\\D\\a.txt", "x");
+    machine.files.At("C:\\D\\a.txt").facts.isHidden = true;
+    EXPECT_EQ(Add(FileAt("C:\\D", "a.txt")), std::nullopt);
+    EXPECT_TRUE(list.rows.empty());
+}
+
+TEST_F(AddFile, DropsGuardedSystemFilesOnWindowsXPOnly)
+{
+    const char* const names[] = {"OLEPRO32.DLL", "OLEAUT32.dll", "comcat.dll", "ASYCFILT.DLL",
+                                 "STDOLE2.TLB"};
+    for (const char* const name : names) {
+        machine.files.Put(kSystem + "\\" + name, "x");
+        machine.files.Put(Text("C:\\Redist\\") + name, "x");
+    }
+    machine.machine.windowsXP = true;
+    for (const char* const name : names) {
+        EXPECT_EQ(Add(FileAt("c:\\windows\\System32", name)), std::nullopt) << name;
+        EXPECT_NE(Add(FileAt("C:\\Redist", name)), std::nullopt) << "from another folder: " << name;
+    }
+    EXPECT_EQ(list.rows.size(), 5U);
+    machine.machine.windowsXP = false;
+    for (const char* const name : names)
+        EXPECT_NE(Add(FileAt(kSystem, name)), std::nullopt) << name;
+}
+
+TEST_F(AddFile, RefusesADuplicateSilentlyOrWithABoxAsTold)
+{
+    machine.files.Put("C:\\D\\a.txt", "x");
+    FileToAdd file = FileAt("C:\\D", "a.txt");
+    EXPECT_EQ(Add(file), 0U);
+    EXPECT_EQ(Add(file), 1U) << "without the test it stands twice";
+    file.CheckDuplicates = true;
+    EXPECT_EQ(Add(file), std::nullopt);
+    file.ShowDuplicateMessage = true;
+    EXPECT_EQ(Add(file, {{BoxKind::Inform, "Quillon", kAlreadyInList}}), std::nullopt);
+    EXPECT_EQ(list.rows.size(), 2U);
+}
+
+TEST_F(AddFile, TestsRowsOfTheSameCommandToo)
+{
+    machine.files.Put("C:\\D\\a.txt", "x");
+    machine.files.Put("C:\\E\\a.txt", "x");
+    FileToAdd file = FileAt("C:\\D", "a.txt");
+    file.CheckDuplicates = true;
+    ScriptedAsk ask;
+    FileAdding adding(list, machine.host, ask);
+    EXPECT_EQ(adding.AddFileToFileList(file), 0U);
+    EXPECT_EQ(adding.AddFileToFileList(file), std::nullopt);
+    file.SourcePath = "C:\\E\\a.txt";
+    EXPECT_EQ(adding.AddFileToFileList(file), std::nullopt) << "the same destination";
+    file.Destination = "%WINDIR";
+    EXPECT_EQ(adding.AddFileToFileList(file), 1U);
+}
+
+TEST_F(AddFile, ComparesAFontByTheFolderItReallyWentTo)
+{
+    machine.files.Put("C:\\D\\a.ttf", "x");
+    machine.files.Put("C:\\E\\a.ttf", "x");
+    FileToAdd file = FileAt("C:\\D", "a.ttf");
+    file.CheckDuplicates = true;
+    EXPECT_EQ(Add(file), 0U);
+    file = FileAt("C:\\E", "a.ttf");
+    file.CheckDuplicates = true;
+    EXPECT_EQ(Add(file), 1U) << "%DESTDIR is not where the first one stands";
+    file.Destination = "%fontdir";
+    file.SourcePath = "C:\\F\\a.ttf";
+    EXPECT_EQ(Add(file), std::nullopt);
+}
+
+TEST_F(AddFile, RefusesASemicolonInTheSourcePath)
+{
+    machine.files.Put("C:\\a;b\\c.txt", "x");
+    EXPECT_EQ(
+        Add(FileAt("C:\\a;b", "c.txt"),
+            {{BoxKind::Critical, "Ogiltiga tecken hittade",
+              "Källsökvägen till filen 'C:\\a;b\\c.txt' innehåller ogiltiga tecken! Filen kan "
+              "ej adderas till fillistan!"}}),
+        std::nullopt);
+    EXPECT_TRUE(list.rows.empty());
+}
+
+TEST_F(AddFile, RefusesCharactersThatTheProjectFileLacks)
+{
+    const Text text =
+        "Filen 'C:\\D\\ж.txt' har tecken i namn, källsökväg eller destination som inte "
+        "kan lagras i projektet! Byt namn på filen eller katalogen och addera den på "
+        "nytt. Filen kan ej adderas till fillistan!";
+    const ExpectedBox box{BoxKind::Critical, "Ogiltiga tecken hittade", text};
+    EXPECT_EQ(Add(FileAt("C:\\D", "ж.txt"), {box}), std::nullopt);
+
+    FileToAdd renamed = FileAt("C:\\D", "ж.txt");
+    renamed.FileName = "a.txt";
+    EXPECT_EQ(Add(renamed, {box}), std::nullopt) << "the path alone";
+
+    machine.files.Put("C:\\D\\å€.txt", "x");
+    EXPECT_NE(Add(FileAt("C:\\D", "å€.txt")), std::nullopt);
+    FileToAdd astray = FileAt("C:\\D", "å€.txt");
+    astray.Destination = "%DESTDIR\\ж";
+    EXPECT_EQ(Add(astray, {{BoxKind::Critical, "Ogiltiga tecken hittade"}}), std::nullopt);
+    EXPECT_EQ(list.rows.size(), 1U);
+}
+
+TEST_F(AddFile, PassesFailuresToTheCallerAndKeepsTheRowAsFarAsItWasFilled)
+{
+    machine.files.PutFolder("C:\\D");
+    EXPECT_EQ(FailureOf(FileAt("C:\\D", "gone.txt")), ErrorNumber::kFileNotFound);
+    EXPECT_EQ(FailureOf(FileAt("C:\\Gone", "a.txt")), ErrorNumber::kPathNotFound);
+    EXPECT_EQ(FailureOf(FileAt("C:", "D")), ErrorNumber::kPathFileAccess) << "a folder";
+    ASSERT_EQ(list.rows.size(), 3U);
+    FileListRow unfilled = MakeRow("gone.txt", "%DESTDIR");
+    EXPECT_EQ(list.rows[0], unfilled);
+}
+
+TEST_F(AddFile, TellsTrappedFailuresWithTheirReason)
+{
+    machine.files.PutFolder("C:\\D");
+    struct {
+        const char* folder;
+        const char* name;
+        const char* text;
+    } const failures[] = {
+        {"C:\\D", "a.txt",
+         "Filen 'a.txt' kan ej adderas till fillistan. Filen existerar inte vid källsökvägen "
+         "'C:\\D\\a.txt'!"},
+        {"C:\\Gone", "a.txt",
+         "Filen 'a.txt' kan ej adderas till fillistan. En av mapparna som specificeras i "
+         "källsökvägen 'C:\\Gone\\a.txt' existerar inte!"},
+        {"C:", "D", "Filen 'D' kan ej adderas till fillistan. Fel # 75 inträffade!"},
+    };
+    for (const auto& failure : failures) {
+        FileToAdd file = FileAt(failure.folder, failure.name);
+        file.TrapErrors = true;
+        EXPECT_EQ(Add(file, {{BoxKind::Critical, "Fel", failure.text}}), std::nullopt);
+    }
+    EXPECT_EQ(list.rows.size(), 3U) << "the rows stay";
+}
+
+TEST_F(AddFile, OverflowsAtTheRowThatA16BitNumberCannotCount)
+{
+    machine.files.Put("C:\\D\\last.txt", "x");
+    list.rows.resize(32766);
+    FileToAdd file = FileAt("C:\\D", "last.txt");
+    EXPECT_EQ(Add(file), 32766U);
+    EXPECT_EQ(FailureOf(file), ErrorNumber::kOverflow);
+    EXPECT_EQ(FailureOf(FileAt("C:\\D", "gone.txt")), ErrorNumber::kOverflow)
+        << "the row comes before the look at the file";
+    file.TrapErrors = true;
+    Add(file, {{BoxKind::Critical, "Fel",
+                "Filen 'last.txt' kan ej adderas till fillistan. Fel # 6 inträffade!"}});
+    EXPECT_EQ(list.rows.size(), 32767U);
+}
+
+TEST_F(AddFile, PutsRowsOfASortedListWhereTheyBelongWhenTheCommandEnds)
+{
+    for (const char* const name : {"b", "d", "a", "C"})
+        machine.files.Put(Text("C:\\D\\") + name, "x");
+    list.sorted = true;
+    list.rows = {MakeRow("b", "%OLD"), MakeRow("x", "%OLD")};
+    ScriptedAsk ask;
+    FileAdding adding(list, machine.host, ask);
+    for (const char* const name : {"d", "b", "a", "C"})
+        adding.AddFileToFileList(FileAt("C:\\D", name));
+    EXPECT_THAT(NamesOf(list), ElementsAre("b", "x", "d", "b", "a", "C"));
+    EXPECT_THAT(adding.Finish(), ElementsAre(1, 5, 4, 2, 0, 3));
+    EXPECT_THAT(NamesOf(list), ElementsAre("a", "b", "b", "C", "d", "x"));
+    EXPECT_EQ(list.rows[1][Destination], "%OLD") << "new rows stand behind their equals";
+}
+
+TEST_F(AddFile, KeepsTheOrderWhenAFailureEndsTheCommand)
+{
+    machine.files.Put("C:\\D\\a", "x");
+    list.sorted = true;
+    list.rows = {MakeRow("b")};
+    ScriptedAsk ask;
+    EXPECT_EQ(RunErrorNumber([&] {
+                  FileAdding adding(list, machine.host, ask);
+                  adding.AddFileToFileList(FileAt("C:\\D", "a"));
+                  adding.AddFileToFileList(FileAt("C:\\D", "0"));
+              }),
+              ErrorNumber::kFileNotFound);
+    EXPECT_THAT(NamesOf(list), ElementsAre("0", "a", "b"));
+}
+
+TEST_F(AddSystemFile, TakesTheFileFromTheSystemFolder)
+{
+    machine.files.Put(kSystem + "\\msvbvm60.dll", std::string(2048, 'x'), {2001, 8, 23, 12, 0, 0});
+    EXPECT_EQ(AddSystem("MSVBVM60.DLL", true), 0U);
+    EXPECT_THAT(list.rows[0].columns,
+                ElementsAre("Msvbvm60.dll", "%SYSDIR", "2,0", "2001-08-23", "12:00", "", "VRAW", "",
+                            "dll", "c:\\windows\\system32\\msvbvm60.dll", "", "", "", "", ""));
+    EXPECT_EQ(AddSystem("msvbvm60.dll", false), 1U) << "no duplicate test";
+    EXPECT_EQ(list.rows[1][CopyOptions], "VA");
+}
+
+TEST_F(AddSystemFile, LeavesFontsInTheSystemFolder)
+{
+    machine.files.Put(kSystem + "\\a.ttf", "x");
+    AddSystem("a.ttf", false);
+    EXPECT_EQ(list.rows[0][Destination], "%SYSDIR");
+}
+
+TEST_F(AddSystemFile, DropsHiddenAndGuardedFilesSilently)
+{
+    machine.files.Put(kSystem + "\\a.dll", "x");
+    machine.files.At(kSystem + "\\a.dll").facts.isHidden = true;
+    machine.files.Put(kSystem + "\\comcat.dll", "x");
+    machine.machine.windowsXP = true;
+    EXPECT_EQ(AddSystem("a.dll", false), std::nullopt);
+    EXPECT_EQ(AddSystem("COMCAT.DLL", true), std::nullopt);
+    EXPECT_TRUE(list.rows.empty());
+    machine.machine.windowsXP = false;
+    EXPECT_EQ(AddSystem("COMCAT.DLL", true), 0U);
+}
+
+TEST_F(AddSystemFile, AlwaysTellsFailures)
+{
+    machine.files.PutFolder(kSystem + "\\drivers");
+    EXPECT_EQ(
+        AddSystem("gone.dll", false,
+                  {{BoxKind::Critical, "Kan ej addera en fil",
+                    "Filen 'gone.dll' existerar inte i systemkatalogen! Kan ej addera den till "
+                    "fillistan!"}}),
+        std::nullopt);
+    EXPECT_EQ(
+        AddSystem("drivers", false, {{BoxKind::Critical, "Fel", "Kan ej öppna filen 'drivers'!"}}),
+        std::nullopt);
+    EXPECT_EQ(AddSystem("no\\gone.dll", false,
+                        {{BoxKind::Critical, "Fel", "Kan ej öppna filen 'no\\gone.dll'!"}}),
+              std::nullopt);
+    EXPECT_EQ(list.rows.size(), 3U) << "the rows stay as far as they were filled";
+    EXPECT_EQ(AddSystem("ж.dll", false, {{BoxKind::Critical, "Ogiltiga tecken hittade"}}),
+              std::nullopt);
+    EXPECT_EQ(list.rows.size(), 3U);
+}
+
+} // namespace quillon::test

@@ -1,0 +1,41 @@
+#include "filelist/components.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+using testing::ElementsAre;
+
+TEST(ComponentListEntries, KeepTheNumbersOfTheComponentsInUse)
+{
+    Project project;
+    EXPECT_THAT(ComponentListEntries(project), ElementsAre("Ingen komponent"));
+
+    project.FileComponents[1].Comp = 1;
+    project.FileComponents[1].CompName = "Hjälp";
+    project.FileComponents[2].CompName = "Ej i bruk";
+    project.FileComponents[4].Comp = 1;
+    EXPECT_THAT(ComponentListEntries(project),
+                ElementsAre("Ingen komponent", "Komponent nr 2 - 'Hjälp'", "Komponent nr 5 - ''"));
+}
+
+TEST(ListEntry, GivesDestinationAndNumberOfEachComponent)
+{
+    for (int n = 1; n <= 9; ++n) {
+        const Text number = NumberText(n);
+        const Text entry = "Komponent nr " + number + " - 'Komponent nr 7'";
+        EXPECT_EQ(GetCompDirFromListEntry(entry), "%COMPDIR" + number);
+        EXPECT_EQ(GetCompNrFromListEntry(entry), number);
+    }
+}
+
+TEST(ListEntry, GivesTheMainFolderForAnyOtherText)
+{
+    for (const char* const entry : {"Ingen komponent", "", "Komponent nr ", "Komponent nr 0",
+                                    "Komponent nr x", "komponent nr 1", " Komponent nr 1"}) {
+        EXPECT_EQ(GetCompDirFromListEntry(entry), "%DESTDIR") << entry;
+        EXPECT_EQ(GetCompNrFromListEntry(entry), "") << entry;
+    }
+}
+
+} // namespace quillon::test

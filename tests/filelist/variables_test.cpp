@@ -1,0 +1,138 @@
+#include "filelist/variables.h"
+
+#include "support/memory_host.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+namespace {
+
+std::map<Text, Text> ValuesByName(Project& project, const Host& host)
+{
+    std::map<Text, Text> values;
+    for (const VariableValue& value : ListVariableValues(project, host))
+        values[value.Variable] = value.Value;
+    return values;
+}
+
+} // namespace
+
+TEST(Variables, StandInTheOrderOfThePreview)
+{
+    const char* const names[] = {
+        "%DESTDIR",      "%COMPDIR1",       "%COMPDIR2",    "%COMPDIR3",       "%COMPDIR4",
+        "%COMPDIR5",     "%COMPDIR6",       "%COMPDIR7",    "%COMPDIR8",       "%COMPDIR9",
+        "%SYSDIR",       "%WINDIR",         "%SRCDIR",      "%PROGRAMFILES",   "%COMMONFILES",
+        "%FONTDIR",      "%DAODIR",         "%MYDOCUMENTS", "%APPDATADIR",     "%LOCALAPPDATADIR",
+        "%TEMPLATESDIR", "%WORDSTARTUPDIR", "%DESTDRIVE",   "%SRCDRIVE",       "%PROJECTNAME",
+        "%PROGRAMGROUP", "%COMPANY",        "%PRODUCTNAME", "%PRODUCTVERSION", "%XPRODUCTVERSION",
+        "%DATE",         "%TIME",           "%USERCOMPANY", "%USERNAME",       "%USERADDRESS",
+        "%USERPHONE",    "%USERFAX",        "%USEREMAIL",   "%REG1",           "%REG2",
+        "%REG3"};
+    ASSERT_EQ(kVariables.size(), std::size(names));
+    for (std::size_t i = 0; i < kVariables.size(); ++i)
+        EXPECT_EQ(kVariables[i].name, names[i]);
+}
+
+TEST(ListVariableValues, HasNoComponentsWithoutOneInUse)
+{
+    MemoryHost machine;
+    Project project;
+    const auto values = ListVariableValues(project, machine.host);
+    ASSERT_EQ(values.size(), kVariables.size() - kComponentCount);
+    EXPECT_EQ(values[0].Variable, "%DESTDIR");
+    EXPECT_EQ(values[1].Variable, "%SYSDIR");
+}
+
+TEST(ListVariableValues, ListsTickedComponentsBehindTheMainFolder)
+{
+    MemoryHost machine;
+    Project project;
+    project.FileComponents[1] = {.Comp = 1, .CompDir = "%DESTDIR\\Två"};
+    project.FileComponents[2] = {.Comp = 0, .CompDir = "%DESTDIR\\Tre"};
+    project.FileComponents[8] = {.Comp = 1, .CompDir = "%DESTDIR\\Nio"};
+    const auto values = ListVariableValues(project, machine.host);
+    EXPECT_EQ(values[1].Variable, "%COMPDIR2");
+    EXPECT_EQ(values[1].Value, "%DESTDIR\\Två");
+    EXPECT_EQ(values[2].Variable, "%COMPDIR9");
+    EXPECT_EQ(values[2].Value, "%DESTDIR\\Nio");
+    EXPECT_EQ(values[3].Variable, "%SYSDIR");
+}
+
+TEST(ListVariableValues, ShowsThisMachineInDisplayCase)
+{
+    MemoryHost machine;
+    Project project;
+    auto values = ValuesByName(project, machine.host);
+    EXPECT_EQ(values["%SYSDIR"], "C:\\Windows\\System32");
+    EXPECT_EQ(values["%WINDIR"], "C:\\Windows");
+    EXPECT_EQ(values["%FONTDIR"], "C:\\Windows\\Fonts");
+    EXPECT_EQ(values["%APPDATADIR"], "C:\\Data\\Roaming");
+    EXPECT_EQ(values["%LOCALAPPDATADIR"], "C:\\Data\\Local");
+    EXPECT_EQ(values["%TEMPLATESDIR"], "C:\\Data\\Mallar");
+    EXPECT_EQ(values["%PROGRAMFILES"], "C:\\Program");
+    EXPECT_EQ(values["%COMMONFILES"], "C:\\Program\\Vanliga filer");
+    EXPECT_EQ(values["%MYDOCUMENTS"], "C:\\Mina dokument");
+    EXPECT_EQ(values["%DATE"], "2004-03-01");
+    EXPECT_EQ(values["%TIME"], "14:25:36");
+}
+
+TEST(ListVariableValues, ShowsNothingForWhatOnlyTheTargetKnows)
+{
+    MemoryHost machine;
+    Project project;
+    auto values = ValuesByName(project, machine.host);
+    for (const char* const name :
+         {"%SRCDIR", "%DAODIR", "%WORDSTARTUPDIR", "%DESTDRIVE", "%SRCDRIVE", "%XPRODUCTVERSION"}) {
+        ASSERT_EQ(values.count(name), 1U) << name;
+        EXPECT_EQ(values[name], "") << name;
+    }
+}
+
+TEST(ListVariableValues, ShowsTheProjectsOwnTexts)
+{
+    MemoryHost machine;
+    Project project;
+    project.InstallDirectories.DestinationDirectory = "%PROGRAMFILES\\App";
+    project.ProjectName.ProjectName = "Projektet";
+    project.ProgramGroup.ProgramGroup = "Gruppen";
+    project.Version = {.CompanyName = "Firma", .ProductName = "Produkt", .ProductVersion = "1.2"};
+    project.LicenseData = {"Bolag", "Namn", "Adress", "Tfn", "Fax", "Epost"};
+    auto values = ValuesByName(project, machine.host);
+    EXPECT_EQ(values["%DESTDIR"], "%PROGRAMFILES\\App") << "never expanded";
+    EXPECT_EQ(values["%PROJECTNAME"], "Projektet");
+    EXPECT_EQ(values["%PROGRAMGROUP"], "Gruppen");
+    EXPECT_EQ(values["%COMPANY"], "Firma");
+    EXPECT_EQ(values["%PRODUCTNAME"], "Produkt");
+    EXPECT_EQ(values["%PRODUCTVERSION"], "1.2");
+    EXPECT_EQ(values["%USERCOMPANY"], "Bolag");
+    EXPECT_EQ(values["%USERNAME"], "Namn");
+    EXPECT_EQ(values["%USERADDRESS"], "Adress");
+    EXPECT_EQ(values["%USERPHONE"], "Tfn");
+    EXPECT_EQ(values["%USERFAX"], "Fax");
+    EXPECT_EQ(values["%USEREMAIL"], "Epost");
+}
+
+TEST(ListVariableValues, PutsOwnVariablesInBracketsUnlessEmpty)
+{
+    MemoryHost machine;
+    Project project;
+    project.RegPrivateVar.Reg1 = "HKLM\\Software\\A :: B";
+    project.RegPrivateVar.Reg3 = "c";
+    auto values = ValuesByName(project, machine.host);
+    EXPECT_EQ(values["%REG1"], "[HKLM\\Software\\A :: B]");
+    EXPECT_EQ(values["%REG2"], "") << "not []";
+    EXPECT_EQ(values["%REG3"], "[c]");
+}
+
+TEST(ListVariableValues, FillsAnEmptyProgramGroupInTheProjectItself)
+{
+    MemoryHost machine;
+    Project project;
+    project.ProjectName.ProjectName = "Projektet";
+    EXPECT_EQ(ValuesByName(project, machine.host)["%PROGRAMGROUP"], "Projektet");
+    EXPECT_EQ(project.ProgramGroup.ProgramGroup, "Projektet");
+}
+
+} // namespace quillon::test
