@@ -1,0 +1,80 @@
+#include "runtime/copy_decision.h"
+
+#include "helpers/number_text.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+CopyDecision Keep(Text reason)
+{
+    return {CopyVerdict::Keep, std::move(reason)};
+}
+
+// Takes the first number off a version.
+std::int64_t TakePart(std::string_view& version)
+{
+    version.remove_prefix(std::min(version.find_first_not_of(" .,"), version.size()));
+    const std::int64_t part = LeadingNumber(version);
+    version.remove_prefix(std::min(version.find_first_of(".,"), version.size()));
+    return part;
+}
+
+std::optional<CopyDecision> DecideByVersion(std::string_view options, const ComparedFile& existing,
+                                            const ComparedFile& ours)
+{
+    if (existing.version.empty())
+        return std::nullopt;
+    if (ours.version.empty())
+        return Keep("den befintliga filen har version " + existing.version +
+                    ", den nya saknar version");
+    const int order = CompareVersions(existing.version, ours.version);
+    if (order > 0)
+        return Keep("den befintliga filen har nyare version (" + existing.version + ")");
+    if (order == 0 && HasOption(options, CopyOption::kNotIfEqualVersion))
+        return Keep("den befintliga filen har samma version (" + existing.version + ")");
+    return std::nullopt;
+}
+
+// Archives and old file systems keep every other second only.
+LocalTime EvenSeconds(LocalTime time)
+{
+    time.second -= time.second % 2;
+    return time;
+}
+
+} // namespace
+
+int CompareVersions(std::string_view left, std::string_view right)
+{
+    while (!left.empty() || !right.empty()) {
+        const std::int64_t a = TakePart(left);
+        const std::int64_t b = TakePart(right);
+        if (a != b)
+            return a < b ? -1 : 1;
+    }
+    return 0;
+}
+
+CopyDecision DecideCopy(std::string_view options, const ComparedFile& existing,
+                        const ComparedFile& ours)
+{
+    if (HasOption(options, CopyOption::kNeverReplace))
+        return Keep("filen finns redan och ska aldrig ersättas");
+    if (existing.isReadOnly && !HasOption(options, CopyOption::kWriteProtected))
+        return Keep("den befintliga filen är skrivskyddad");
+    if (HasOption(options, CopyOption::kVersionCheck))
+        if (const auto decided = DecideByVersion(options, existing, ours))
+            return *decided;
+    if (HasOption(options, CopyOption::kDateCheck) &&
+        EvenSeconds(existing.modified) > EvenSeconds(ours.modified))
+        return Keep("den befintliga filen är nyare (" + DateText(existing.modified) + " " +
+                    TimeTextWithSeconds(existing.modified) + ")");
+    if (HasOption(options, CopyOption::kWarnIfExists))
+        return {CopyVerdict::Ask, {}};
+    return {};
+}
+
+} // namespace quillon

@@ -1,0 +1,33 @@
+// What the setup and the uninstaller tell whoever started them. The numbers are those that Windows
+// itself uses for the same ends, so that scripts and deployment tools know them.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <exception>
+#include <utility>
+
+namespace quillon {
+
+enum class ExitCode : int {
+    Done = 0,
+    DiskFull = 112,
+    Cancelled = 1602,
+    Failed = 1603, // and undone: the machine is as it was before
+    BadSwitch = 1639,
+};
+
+/// Ends the installation. `what` is for the user and the log, in the user's language.
+class SetupFailure : public std::exception {
+public:
+    SetupFailure(ExitCode code, Text what) : code_(code), what_(std::move(what)) {}
+
+    ExitCode Code() const { return code_; }
+    const char* what() const noexcept override { return what_.c_str(); }
+
+private:
+    ExitCode code_;
+    Text what_;
+};
+
+} // namespace quillon

@@ -1,0 +1,47 @@
+// Changes single values of an INI file and leaves every other byte as it is: comments, order, blank
+// lines, the kind of line breaks. Sections and names ignore case; the first of two equal ones
+// counts, as the system's own profile functions read.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <optional>
+#include <string>
+
+namespace quillon {
+
+/// An INI file as bytes on file. Texts that go in and out are in the same encoding as the bytes.
+class IniText {
+public:
+    explicit IniText(std::string bytes) : bytes_(std::move(bytes)) {}
+
+    const std::string& Bytes() const { return bytes_; }
+
+    bool HasSection(std::string_view section) const;
+    /// Without the blanks round it.
+    std::optional<std::string> Value(std::string_view section, std::string_view name) const;
+
+    /// An empty section is made at the end of the file where it is missing.
+    void MakeSection(std::string_view section);
+    /// Replaces the value, or adds it behind the last value of its section.
+    void SetValue(std::string_view section, std::string_view name, std::string_view value);
+    void RemoveValue(std::string_view section, std::string_view name);
+    /// Removes the section's line if the section holds nothing but blank lines.
+    void RemoveEmptySection(std::string_view section);
+
+private:
+    struct Line {
+        std::size_t begin = 0;
+        std::size_t end = 0;  // without the line break
+        std::size_t next = 0; // behind the line break
+    };
+    Line LineAt(std::size_t begin) const;
+    std::string_view TextOf(const Line& line) const;
+    std::optional<Line> FindSection(std::string_view section) const;
+    std::optional<Line> FindValue(std::string_view section, std::string_view name) const;
+    void Insert(std::size_t at, std::string text);
+
+    std::string bytes_;
+};
+
+} // namespace quillon

@@ -1,0 +1,68 @@
+// The texts that the setup shows, from the package's language file: an INI file in the project's
+// language. A text that the file lacks is shown in Swedish, so that an old or damaged language file
+// never stops an installation.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <array>
+#include <cstddef>
+
+namespace quillon {
+
+/// In the order of the table of texts.
+enum class Message {
+    Extract,
+    NoRuntime,
+    Title,
+    Checking,
+    Copying,
+    Settings,
+    Undoing,
+    Cancel,
+    CancelQuestion,
+    InsertDisk,
+    FileExists,
+    BadSwitch,
+    NeedsPassword,
+    WrongPassword,
+    WrongSystem,
+    WrongSystemQuestion,
+    Damaged,
+    DiskFull,
+    Failed,
+    RestartNeeded,
+    UninstallIcon,
+    UninstallTitle,
+    UninstallQuestion,
+    UninstallRunning,
+    UninstallDone,
+    UninstallPartly,
+    UninstallNoLog,
+    Count
+};
+
+struct MessageKey {
+    const char* section;
+    const char* key;
+    const char* swedish;
+};
+const MessageKey& KeyOf(Message message);
+
+class LanguageTexts {
+public:
+    /// The Swedish texts.
+    LanguageTexts();
+    /// The texts of a language file, given as its bytes.
+    explicit LanguageTexts(std::string bytes);
+
+    const Text& operator[](Message message) const { return texts_[std::size_t(message)]; }
+    /// With `inserted` in the place of "%1".
+    Text operator()(Message message, std::string_view inserted) const;
+    void Set(Message message, Text text) { texts_[std::size_t(message)] = std::move(text); }
+
+private:
+    std::array<Text, std::size_t(Message::Count)> texts_;
+};
+
+} // namespace quillon

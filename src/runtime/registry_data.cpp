@@ -1,0 +1,122 @@
+#include "runtime/registry_data.h"
+
+#include "helpers/utf8.h"
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr char32_t kFirstBeyondOneUnit = 0x10000;
+constexpr char32_t kHighSurrogate = 0xD800;
+constexpr char32_t kLowSurrogate = 0xDC00;
+constexpr char32_t kBehindSurrogates = 0xE000;
+
+void AppendUnit(std::string& bytes, char32_t unit)
+{
+    bytes += static_cast<char>(unit & 0xFFU);
+    bytes += static_cast<char>(unit >> 8U & 0xFFU);
+}
+
+char32_t UnitAt(std::string_view bytes, std::size_t at)
+{
+    const auto low = static_cast<unsigned char>(bytes[at]);
+    const auto high = static_cast<unsigned char>(bytes[at + 1]);
+    return char32_t(low) | char32_t(high) << 8U;
+}
+
+int HexDigit(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    const char lower = static_cast<char>(c | 0x20);
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
+} // namespace
+
+RegistryData TextData(std::string_view text)
+{
+    RegistryData data{kRegistryText, {}};
+    for (std::size_t at = 0; at < text.size();) {
+        const char32_t code = NextCodePoint(text, at);
+        if (code >= kFirstBeyondOneUnit) {
+            AppendUnit(data.bytes, kHighSurrogate + ((code - kFirstBeyondOneUnit) >> 10U));
+            AppendUnit(data.bytes, kLowSurrogate + ((code - kFirstBeyondOneUnit) & 0x3FFU));
+        } else {
+            AppendUnit(data.bytes, code);
+        }
+    }
+    AppendUnit(data.bytes, 0);
+    return data;
+}
+
+RegistryData NumberData(std::uint32_t number)
+{
+    RegistryData data{kRegistryNumber, {}};
+    AppendUnit(data.bytes, number & 0xFFFFU);
+    AppendUnit(data.bytes, number >> 16U);
+    return data;
+}
+
+RegistryData BytesData(std::string bytes)
+{
+    return {kRegistryBytes, std::move(bytes)};
+}
+
+std::optional<Text> TextOf(const RegistryData& data)
+{
+    if (data.type != kRegistryText && data.type != kRegistryExpandText)
+        return std::nullopt;
+    Text text;
+    for (std::size_t at = 0; at + 1 < data.bytes.size(); at += 2) {
+        char32_t code = UnitAt(data.bytes, at);
+        if (code == 0)
+            break;
+        const bool isHigh = code >= kHighSurrogate && code < kLowSurrogate;
+        const char32_t low = isHigh && at + 3 < data.bytes.size() ? UnitAt(data.bytes, at + 2) : 0;
+        if (low >= kLowSurrogate && low < kBehindSurrogates) {
+            code = kFirstBeyondOneUnit + ((code - kHighSurrogate) << 10U) + (low - kLowSurrogate);
+            at += 2;
+        }
+        AppendCodePoint(text, code);
+    }
+    return text;
+}
+
+std::optional<std::uint32_t> NumberOf(const RegistryData& data)
+{
+    if (data.type != kRegistryNumber || data.bytes.size() != 4)
+        return std::nullopt;
+    return UnitAt(data.bytes, 0) | UnitAt(data.bytes, 2) << 16U;
+}
+
+Text HexText(std::string_view bytes)
+{
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    Text hex;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        hex += kDigits[byte >> 4U];
+        hex += kDigits[byte & 15U];
+    }
+    return hex;
+}
+
+std::optional<std::string> BytesOfHex(std::string_view hex)
+{
+    if (hex.size() % 2 != 0)
+        return std::nullopt;
+    std::string bytes;
+    for (std::size_t at = 0; at < hex.size(); at += 2) {
+        const int high = HexDigit(hex[at]);
+        const int low = HexDigit(hex[at + 1]);
+        if (high < 0 || low < 0)
+            return std::nullopt;
+        bytes += static_cast<char>(high * 16 + low);
+    }
+    return bytes;
+}
+
+} // namespace quillon

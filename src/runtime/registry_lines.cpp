@@ -1,0 +1,160 @@
+#include "runtime/registry_lines.h"
+
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::string_view kValueMark = " :: ";
+constexpr std::string_view kDeleteMark = "DELETE=";
+constexpr std::string_view kUninstallMark = "UNINSTALL=";
+constexpr std::string_view kDefaultValueName = "(Standard)";
+constexpr std::int64_t kLowestNumber = -2147483648LL;
+constexpr std::int64_t kHighestNumber = 4294967295LL;
+
+Text ValueName(std::string_view name)
+{
+    return EqualIgnoreCase(name, kDefaultValueName) ? Text() : Text(name);
+}
+
+RegistryLine Unreadable(Text reason)
+{
+    RegistryLine line;
+    line.reason = std::move(reason);
+    return line;
+}
+
+// A typed DWORD: digits with an optional sign, either as a signed or as an unsigned number.
+bool ReadNumber(std::string_view text, std::uint32_t& number)
+{
+    const bool plus = !text.empty() && text[0] == '+';
+    const std::string_view digits = text.substr(plus || text.substr(0, 1) == "-" ? 1 : 0);
+    const auto isDigit = [](unsigned char c) { return std::isdigit(c) != 0; };
+    if (digits.empty() || !std::all_of(digits.begin(), digits.end(), isDigit))
+        return false;
+    const std::int64_t value = LeadingNumber(plus ? digits : text);
+    number = static_cast<std::uint32_t>(value);
+    return value >= kLowestNumber && value <= kHighestNumber;
+}
+
+// Bytes as pairs of digits with blanks between them.
+bool ReadBytes(std::string_view text, std::string& bytes)
+{
+    for (std::size_t at = 0; at < text.size(); at += 3) {
+        const auto byte = BytesOfHex(text.substr(at, 2));
+        const bool separated = at + 2 >= text.size() || text[at + 2] == ' ';
+        if (!byte || byte->empty() || !separated)
+            return false;
+        bytes += *byte;
+    }
+    return true;
+}
+
+void ReadData(RegistryLine& line, std::string_view data)
+{
+    if (data.size() >= 2 && data.front() == '"' && data.back() == '"') {
+        line.kind = RegistryLine::Kind::TextValue;
+        line.text = data.substr(1, data.size() - 2);
+    } else if (!data.empty() && data.front() == '!') {
+        if (ReadBytes(TrimBlanks(data.substr(1)), line.bytes))
+            line.kind = RegistryLine::Kind::BytesValue;
+        else
+            line.reason = "binärdata är inte hexadecimala tal med mellanslag emellan";
+    } else if (ReadNumber(data, line.number)) {
+        line.kind = RegistryLine::Kind::NumberValue;
+    } else {
+        line.reason = "data är varken text inom citattecken, ett tal eller binärdata";
+    }
+}
+
+// Removing one of these with all below it would take the system along.
+bool IsSystemKey(const RegistryKey& key)
+{
+    constexpr std::string_view kNever[] = {"", "SOFTWARE", "SYSTEM", "SOFTWARE\\Microsoft",
+                                           "SOFTWARE\\Classes"};
+    return std::any_of(std::begin(kNever), std::end(kNever),
+                       [&](std::string_view never) { return EqualIgnoreCase(key.subKey, never); });
+}
+
+bool ReadKey(RegistryLine& line, std::string_view text)
+{
+    const std::size_t rootEnd = std::min(text.find('\\'), text.size());
+    const auto root = RootNamed(TrimBlanks(text.substr(0, rootEnd)));
+    if (!root) {
+        line.reason = "raden börjar inte med någon av registrets rotnycklar";
+        return false;
+    }
+    const std::string_view subKey = text.substr(std::min(rootEnd + 1, text.size()));
+    line.key = {*root, RemoveLastBackslash(RemoveDupBackslashesEx(subKey))};
+    if (line.key.subKey.empty())
+        line.reason = "subnyckel saknas";
+    return !line.key.subKey.empty();
+}
+
+RegistryLine ReadRemoval(RegistryLine::Kind kind, std::string_view text)
+{
+    RegistryLine line;
+    const std::size_t mark = text.find(kValueMark);
+    if (!ReadKey(line, text.substr(0, mark)))
+        return line;
+    line.hasValue = mark != Text::npos;
+    if (line.hasValue)
+        line.valueName = ValueName(text.substr(mark + kValueMark.size()));
+    else if (IsSystemKey(line.key))
+        return Unreadable("nyckeln hör till systemet och får inte tas bort");
+    line.kind = kind;
+    return line;
+}
+
+RegistryLine ReadAddition(std::string_view text)
+{
+    RegistryLine line;
+    const std::size_t mark = text.find(kValueMark);
+    if (!ReadKey(line, text.substr(0, mark)))
+        return line;
+    if (mark == Text::npos) {
+        line.kind = RegistryLine::Kind::Key;
+        return line;
+    }
+    const std::string_view value = text.substr(mark + kValueMark.size());
+    const std::size_t equals = value.find('=');
+    if (equals == Text::npos)
+        return Unreadable("likhetstecken saknas efter värdets namn");
+    line.hasValue = true;
+    line.valueName = ValueName(value.substr(0, equals));
+    ReadData(line, value.substr(equals + 1));
+    return line;
+}
+
+bool BeginsWith(std::string_view text, std::string_view mark)
+{
+    return EqualIgnoreCase(text.substr(0, mark.size()), mark);
+}
+
+} // namespace
+
+RegistryLine ReadRegistryLine(std::string_view line)
+{
+    const Text text = TrimBlanks(line);
+    if (BeginsWith(text, kDeleteMark))
+        return ReadRemoval(RegistryLine::Kind::Delete, text.substr(kDeleteMark.size()));
+    if (BeginsWith(text, kUninstallMark))
+        return ReadRemoval(RegistryLine::Kind::Uninstall, text.substr(kUninstallMark.size()));
+    return ReadAddition(text);
+}
+
+std::vector<RegistryListLine> ReadRegistryLines(std::string_view list)
+{
+    std::vector<RegistryListLine> lines;
+    for (const Text& line : SplitLines(list))
+        if (!TrimBlanks(line).empty())
+            lines.push_back({line, ReadRegistryLine(line)});
+    return lines;
+}
+
+} // namespace quillon

@@ -1,0 +1,84 @@
+// The machine that a product is installed on, beyond its files: registry, shortcuts, fonts,
+// programs that register themselves. Windows has the real one; the tests have a twin in memory.
+//
+// Failures are `RunError`s with the numbers of the file system; their path names the registry key.
+#pragma once
+
+#include "platform/machine.h"
+#include "runtime/registry_data.h"
+
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+/// The systems that a project can name. A system newer than Windows XP counts as Windows XP.
+enum class SystemKind { Win95, Win95OSR2, Win98, WinME, WinNT4, WinNT4SP3, Win2000, WinXP };
+
+enum class TargetFolder {
+    CommonFiles,
+    Fonts,
+    Desktop,
+    StartMenu,
+    Programs,
+    // The same three for all users of the machine.
+    CommonDesktop,
+    CommonStartMenu,
+    CommonPrograms,
+};
+
+struct RegistryKey {
+    RegistryRoot root = RegistryRoot::LocalMachine;
+    Text subKey; // without a leading backslash
+
+    bool operator==(const RegistryKey&) const = default;
+};
+
+/// "HKEY_LOCAL_MACHINE\Software\Firma", for logs and failures.
+Text KeyText(const RegistryKey& key);
+/// The root of that name, and its name.
+std::optional<RegistryRoot> RootNamed(std::string_view name);
+Text RootName(RegistryRoot root);
+
+struct Shortcut {
+    Text program;
+    Text arguments;
+    Text workFolder;
+    Text iconFile; // empty: the program's own
+    Text description;
+};
+
+/// What a self-registering file said.
+enum class Registration { Done, NotSelfRegistering, Failed };
+
+class Target {
+public:
+    virtual ~Target() = default;
+
+    virtual SystemKind System() const = 0;
+    /// Without a trailing backslash; empty where the system has no such folder.
+    virtual Text Folder(TargetFolder folder) const = 0;
+
+    virtual bool KeyExists(const RegistryKey& key) const = 0;
+    virtual std::vector<Text> SubKeys(const RegistryKey& key) const = 0;
+    virtual std::vector<Text> ValueNames(const RegistryKey& key) const = 0;
+    virtual std::optional<RegistryData> ReadValue(const RegistryKey& key,
+                                                  const Text& name) const = 0;
+    /// With all missing keys above it; nothing happens where it exists.
+    virtual void MakeKey(const RegistryKey& key) = 0;
+    /// Into a key that exists.
+    virtual void WriteValue(const RegistryKey& key, const Text& name, const RegistryData& data) = 0;
+    virtual void RemoveValue(const RegistryKey& key, const Text& name) = 0;
+    /// A key without subkeys; its values go with it.
+    virtual void RemoveKey(const RegistryKey& key) = 0;
+
+    virtual void MakeShortcut(const Text& path, const Shortcut& shortcut) = 0;
+    /// Lets the file register itself (`on`) or take its registration back.
+    virtual Registration RegisterServer(const Text& path, bool on) = 0;
+    /// Makes a font known to running programs, or withdraws it so that its file can go.
+    virtual void AnnounceFont(const Text& path, bool on) = 0;
+    /// Puts `from` in the place of `to` when the machine starts next; an empty `to` removes `from`.
+    virtual void MoveAtRestart(const Text& from, const Text& to) = 0;
+};
+
+} // namespace quillon

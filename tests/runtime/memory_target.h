@@ -1,0 +1,59 @@
+// A Windows machine in memory, for what is not a file: its registry is a map, shortcuts are small
+// files, and every change can be made to fail.
+#pragma once
+
+#include "runtime/target.h"
+#include "support/memory_host.h"
+
+#include <functional>
+#include <map>
+#include <set>
+#include <vector>
+
+namespace quillon::test {
+
+class MemoryTarget : public Target {
+public:
+    struct KeyNode {
+        Text subKey;                                          // as first written
+        std::map<Text, std::pair<Text, RegistryData>> values; // by lower-cased name
+        bool operator==(const KeyNode&) const = default;
+    };
+
+    /// Shortcuts are written as files here.
+    explicit MemoryTarget(FileSystem* files = nullptr) : files_(files) {}
+
+    SystemKind System() const override { return system; }
+    Text Folder(TargetFolder folder) const override;
+    bool KeyExists(const RegistryKey& key) const override;
+    std::vector<Text> SubKeys(const RegistryKey& key) const override;
+    std::vector<Text> ValueNames(const RegistryKey& key) const override;
+    std::optional<RegistryData> ReadValue(const RegistryKey& key, const Text& name) const override;
+    void MakeKey(const RegistryKey& key) override;
+    void WriteValue(const RegistryKey& key, const Text& name, const RegistryData& data) override;
+    void RemoveValue(const RegistryKey& key, const Text& name) override;
+    void RemoveKey(const RegistryKey& key) override;
+    void MakeShortcut(const Text& path, const Shortcut& shortcut) override;
+    Registration RegisterServer(const Text& path, bool on) override;
+    void AnnounceFont(const Text& path, bool on) override;
+    void MoveAtRestart(const Text& from, const Text& to) override;
+
+    /// The value's text, "<none>" where there is none.
+    Text TextAt(const RegistryKey& key, const Text& name) const;
+
+    /// Called before each change; may throw.
+    std::function<void()> beforeChange = [] {};
+
+    SystemKind system = SystemKind::Win2000;
+    std::map<std::pair<RegistryRoot, Text>, KeyNode> keys;
+    std::set<Text> registered;
+    std::map<Text, Registration> registrationAnswers; // Done where not named
+    std::set<Text> fonts;
+    std::vector<std::pair<Text, Text>> movesAtRestart;
+    bool hasCommonFolders = true;
+
+private:
+    FileSystem* files_;
+};
+
+} // namespace quillon::test

@@ -1,0 +1,85 @@
+#include "runtime/switches.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+TEST(ReadSwitches, TakesAnEmptyCommandLine)
+{
+    const Switches switches = ReadSwitches("  ");
+    EXPECT_FALSE(switches.silent);
+    EXPECT_EQ(switches.destination, "");
+    EXPECT_EQ(switches.password, std::nullopt);
+    EXPECT_EQ(switches.badSwitch, std::nullopt);
+}
+
+TEST(ReadSwitches, IgnoresTheCaseOfNames)
+{
+    const Switches switches =
+        ReadSwitches(R"(/s /dir="C:\Ny mapp" /log="C:\temp\en logg.txt" /Password=Hemligt)");
+    EXPECT_TRUE(switches.silent);
+    EXPECT_EQ(switches.destination, R"(C:\Ny mapp)");
+    EXPECT_EQ(switches.logFile, R"(C:\temp\en logg.txt)");
+    EXPECT_EQ(switches.password, "Hemligt");
+    EXPECT_EQ(switches.badSwitch, std::nullopt);
+}
+
+struct FolderCase {
+    const char* line;
+    const char* folder;
+    bool silent;
+};
+
+class FolderSwitch : public testing::TestWithParam<FolderCase> {};
+
+TEST_P(FolderSwitch, IsRead)
+{
+    const Switches switches = ReadSwitches(GetParam().line);
+    EXPECT_EQ(switches.destination, GetParam().folder);
+    EXPECT_EQ(switches.silent, GetParam().silent);
+    EXPECT_EQ(switches.badSwitch, std::nullopt);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , FolderSwitch,
+    testing::Values(FolderCase{R"(/D=C:\App)", R"(C:\App)", false},
+                    FolderCase{R"(/D=C:\Program Files\App /S)", R"(C:\Program Files\App)", true},
+                    FolderCase{R"(/S /D=C:\Program Files\App)", R"(C:\Program Files\App)", true},
+                    FolderCase{R"(/D="C:\App" /S)", R"(C:\App)", true},
+                    FolderCase{R"(/DIR="C:\App\" /S)", R"(C:\App)", true},
+                    FolderCase{R"(/DIR=\\server\del\App)", R"(\\server\del\App)", false},
+                    FolderCase{R"(/D=C:\A /D=C:\B)", R"(C:\B)", false}));
+
+class BadSwitch : public testing::TestWithParam<std::pair<const char*, const char*>> {};
+
+TEST_P(BadSwitch, IsNamedAsItWasGiven)
+{
+    EXPECT_EQ(ReadSwitches(GetParam().first).badSwitch, GetParam().second);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , BadSwitch,
+    testing::Values(std::pair{"/S /X", "/X"}, std::pair{"/SILENT", "/SILENT"},
+                    std::pair{"/S=1", "/S=1"}, std::pair{"setup", "setup"}, std::pair{"-S", "-S"},
+                    std::pair{"/D", "/D"}, std::pair{"/D=", "/D="}, std::pair{"/D=App", "/D=App"},
+                    std::pair{"/DIR=\"C:App\"", "/DIR=\"C:App\""}, std::pair{"/LOG=", "/LOG="},
+                    std::pair{"/LOG=\"\"", "/LOG=\"\""}, std::pair{"/PASSWORD", "/PASSWORD"},
+                    std::pair{"/A /B", "/A"}));
+
+TEST(ReadSwitches, TakesAnEmptyPasswordAsOne)
+{
+    EXPECT_EQ(ReadSwitches("/PASSWORD=").password, "");
+}
+
+TEST(IsWholePath, WantsADriveOrAServer)
+{
+    EXPECT_TRUE(IsWholePath(R"(C:\)"));
+    EXPECT_TRUE(IsWholePath(R"(\\server\del)"));
+    EXPECT_FALSE(IsWholePath(""));
+    EXPECT_FALSE(IsWholePath("C:"));
+    EXPECT_FALSE(IsWholePath(R"(\App)"));
+    EXPECT_FALSE(IsWholePath(R"(%FEL\App)"));
+    EXPECT_FALSE(IsWholePath(R"(\\)"));
+}
+
+} // namespace quillon
