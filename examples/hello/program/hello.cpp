@@ -29,7 +29,7 @@ std::wstring NameToGreet()
     std::wstring file(path);
     file = file.substr(0, file.rfind(L'\\') + 1) + L"Hej.ini";
     wchar_t name[80] = {};
-    GetPrivateProfileStringW(L"Hälsning", L"Namn", L"vän", name, 80, file.c_str());
+    GetPrivateProfileStringW(L"Hej", L"Namn", L"du", name, 80, file.c_str());
     return name;
 }
 
