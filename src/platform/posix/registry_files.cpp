@@ -2,6 +2,7 @@
 
 #include "helpers/ansi_text.h"
 #include "helpers/number_text.h"
+#include "helpers/utf16.h"
 #include "helpers/utf8.h"
 
 #include <charconv>
@@ -24,38 +25,6 @@ constexpr RootName kRoots[] = {
     {"HKEY_CURRENT_CONFIG", RegistryRoot::CurrentConfig},
     {"HKEY_DYN_DATA", RegistryRoot::DynData},
 };
-
-constexpr bool IsHighSurrogate(char32_t unit)
-{
-    return unit >= 0xD800 && unit < 0xDC00;
-}
-
-constexpr bool IsLowSurrogate(char32_t unit)
-{
-    return unit >= 0xDC00 && unit < 0xE000;
-}
-
-Text FromUtf16(std::string_view bytes)
-{
-    const auto unitAt = [&](std::size_t i) {
-        return static_cast<char32_t>(static_cast<unsigned char>(bytes[i])) |
-               static_cast<char32_t>(static_cast<unsigned char>(bytes[i + 1])) << 8U;
-    };
-    Text text;
-    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-        const char32_t unit = unitAt(i);
-        const bool isPair =
-            IsHighSurrogate(unit) && i + 3 < bytes.size() && IsLowSurrogate(unitAt(i + 2));
-        if (isPair) {
-            i += 2;
-            AppendCodePoint(text, 0x10000 + ((unit - 0xD800) << 10U) + (unitAt(i) - 0xDC00));
-        } else {
-            const bool isHalf = IsHighSurrogate(unit) || IsLowSurrogate(unit);
-            AppendCodePoint(text, isHalf ? kReplacementCharacter : unit);
-        }
-    }
-    return text;
-}
 
 /// Exports come in UTF-16, the old kind in the code page; a file written here by hand is UTF-8.
 Text Decode(std::string_view bytes)

@@ -1,0 +1,47 @@
+#include "helpers/utf16.h"
+
+#include "helpers/utf8.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr bool IsHighSurrogate(char32_t unit)
+{
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+
+constexpr bool IsLowSurrogate(char32_t unit)
+{
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+
+char32_t UnitAt(std::string_view bytes, std::size_t position)
+{
+    const auto low = static_cast<unsigned char>(bytes[position]);
+    const auto high = static_cast<unsigned char>(bytes[position + 1]);
+    return static_cast<char32_t>(low) | static_cast<char32_t>(high) << 8U;
+}
+
+} // namespace
+
+Text FromUtf16(std::string_view bytes)
+{
+    Text text;
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const char32_t unit = UnitAt(bytes, i);
+        const bool isPair =
+            IsHighSurrogate(unit) && i + 3 < bytes.size() && IsLowSurrogate(UnitAt(bytes, i + 2));
+        if (isPair) {
+            i += 2;
+            const char32_t low = UnitAt(bytes, i);
+            AppendCodePoint(text, 0x10000 + ((unit - 0xD800) << 10U) + (low - 0xDC00));
+        } else {
+            const bool isHalf = IsHighSurrogate(unit) || IsLowSurrogate(unit);
+            AppendCodePoint(text, isHalf ? kReplacementCharacter : unit);
+        }
+    }
+    return text;
+}
+
+} // namespace quillon

@@ -1,0 +1,311 @@
+// The layout is told in Microsoft's "PE Format" and "VS_VERSIONINFO" pages. Every offset comes from
+// the file and is trusted no further than reading there gives bytes.
+#include "helpers/version_resource.h"
+
+#include "helpers/number_text.h"
+#include "helpers/utf16.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::size_t kLongestVersionText = 300;
+
+constexpr std::uint16_t kMagic32 = 0x10B;
+constexpr std::uint16_t kMagic64 = 0x20B;
+constexpr std::size_t kResourceDirectory = 2;  // of the optional header's table
+constexpr std::uint32_t kVersionResource = 16; // the type's number in the resource tree
+constexpr std::uint32_t kIsFolder = 0x80000000;
+
+// More than any program has; a damaged count ends here.
+constexpr std::size_t kMostSections = 96;
+constexpr std::size_t kMostEntries = 1024;
+constexpr std::size_t kMostLanguages = 64;
+// A version block tells its length in 16 bits.
+constexpr std::size_t kLongestResource = 0xFFFF;
+
+std::uint32_t NumberAt(std::string_view bytes, std::size_t position, std::size_t size)
+{
+    std::uint32_t number = 0;
+    for (std::size_t i = size; i-- > 0;)
+        number = number << 8U | static_cast<unsigned char>(bytes[position + i]);
+    return number;
+}
+
+std::uint16_t ShortAt(std::string_view bytes, std::size_t position)
+{
+    return static_cast<std::uint16_t>(NumberAt(bytes, position, 2));
+}
+
+std::uint32_t LongAt(std::string_view bytes, std::size_t position)
+{
+    return NumberAt(bytes, position, 4);
+}
+
+struct Section {
+    std::uint32_t address;
+    std::uint32_t fileSize;
+    std::uint32_t filePosition;
+};
+
+/// The parts of the program that hold its resources.
+class ProgramFile {
+public:
+    explicit ProgramFile(const ReadFileAt& read) : read_(read) {}
+
+    /// False where the file is no program or has no resources.
+    bool ReadHeaders();
+    /// The version resources, of all languages.
+    std::vector<std::string> VersionResources() const;
+
+private:
+    /// Exactly so many bytes, or nothing.
+    std::optional<std::string> Bytes(std::uint64_t position, std::size_t count) const;
+    bool ReadSections(std::uint64_t position, std::size_t count);
+    std::optional<std::uint64_t> FilePosition(std::uint32_t address) const;
+
+    struct TreeEntry {
+        std::uint32_t id;
+        std::uint32_t offset;
+    };
+    std::vector<TreeEntry> Folder(std::uint32_t offset) const;
+    std::optional<std::string> Leaf(std::uint32_t offset) const;
+
+    const ReadFileAt& read_;
+    std::vector<Section> sections_;
+    std::uint64_t tree_ = 0; // where the resource tree stands in the file
+};
+
+std::optional<std::string> ProgramFile::Bytes(std::uint64_t position, std::size_t count) const
+{
+    std::string bytes(count, '\0');
+    const std::size_t got = read_(position, std::as_writable_bytes(std::span(bytes)));
+    if (got != count)
+        return std::nullopt;
+    return bytes;
+}
+
+bool ProgramFile::ReadHeaders()
+{
+    constexpr std::size_t kDosHeaderSize = 64;
+    constexpr std::size_t kFileHeaderSize = 24; // with the mark before it
+    const auto dosHeader = Bytes(0, kDosHeaderSize);
+    if (!dosHeader || !dosHeader->starts_with("MZ"))
+        return false;
+    const std::uint64_t start = LongAt(*dosHeader, 60);
+    const auto fileHeader = Bytes(start, kFileHeaderSize);
+    if (!fileHeader || fileHeader->compare(0, 4, "PE\0\0", 4) != 0)
+        return false;
+
+    const std::size_t sectionCount = ShortAt(*fileHeader, 6);
+    const std::size_t optionalSize = ShortAt(*fileHeader, 20);
+    const auto optional = Bytes(start + kFileHeaderSize, optionalSize);
+    if (!optional || optionalSize < 2)
+        return false;
+    const std::uint16_t magic = ShortAt(*optional, 0);
+    if (magic != kMagic32 && magic != kMagic64)
+        return false;
+    const std::size_t table = magic == kMagic32 ? 96 : 112;
+    const std::size_t entry = table + kResourceDirectory * 8;
+    if (entry + 8 > optionalSize || LongAt(*optional, table - 4) <= kResourceDirectory)
+        return false;
+
+    if (!ReadSections(start + kFileHeaderSize + optionalSize, sectionCount))
+        return false;
+    const auto tree = FilePosition(LongAt(*optional, entry));
+    tree_ = tree.value_or(0);
+    return tree.has_value();
+}
+
+bool ProgramFile::ReadSections(std::uint64_t position, std::size_t count)
+{
+    constexpr std::size_t kSectionSize = 40;
+    const auto table = Bytes(position, std::min(count, kMostSections) * kSectionSize);
+    if (!table)
+        return false;
+    for (std::size_t i = 0; i < table->size(); i += kSectionSize)
+        sections_.push_back(
+            {LongAt(*table, i + 12), LongAt(*table, i + 16), LongAt(*table, i + 20)});
+    return true;
+}
+
+std::optional<std::uint64_t> ProgramFile::FilePosition(std::uint32_t address) const
+{
+    for (const Section& section : sections_)
+        if (address >= section.address && address - section.address < section.fileSize)
+            return std::uint64_t(section.filePosition) + (address - section.address);
+    return std::nullopt;
+}
+
+std::vector<ProgramFile::TreeEntry> ProgramFile::Folder(std::uint32_t offset) const
+{
+    constexpr std::size_t kHeadSize = 16;
+    constexpr std::size_t kEntrySize = 8;
+    const auto head = Bytes(tree_ + offset, kHeadSize);
+    if (!head)
+        return {};
+    const std::size_t count = std::size_t(ShortAt(*head, 12)) + ShortAt(*head, 14);
+    const auto table =
+        Bytes(tree_ + offset + kHeadSize, std::min(count, kMostEntries) * kEntrySize);
+    if (!table)
+        return {};
+    std::vector<TreeEntry> entries;
+    for (std::size_t i = 0; i < table->size(); i += kEntrySize)
+        entries.push_back({LongAt(*table, i), LongAt(*table, i + 4)});
+    return entries;
+}
+
+std::optional<std::string> ProgramFile::Leaf(std::uint32_t offset) const
+{
+    const auto entry = Bytes(tree_ + offset, 16);
+    if (!entry)
+        return std::nullopt;
+    const auto position = FilePosition(LongAt(*entry, 0));
+    if (!position)
+        return std::nullopt;
+    return Bytes(*position, std::min<std::size_t>(LongAt(*entry, 4), kLongestResource));
+}
+
+std::vector<std::string> ProgramFile::VersionResources() const
+{
+    std::vector<std::string> resources;
+    for (const TreeEntry& type : Folder(0)) {
+        if (type.id != kVersionResource || (type.offset & kIsFolder) == 0)
+            continue;
+        // A program has one version resource; only its languages are many.
+        for (const TreeEntry& name : Folder(type.offset & ~kIsFolder)) {
+            if ((name.offset & kIsFolder) == 0)
+                continue;
+            for (const TreeEntry& language : Folder(name.offset & ~kIsFolder))
+                if (auto leaf = Leaf(language.offset & ~kIsFolder);
+                    leaf && resources.size() < kMostLanguages)
+                    resources.push_back(std::move(*leaf));
+            return resources;
+        }
+    }
+    return resources;
+}
+
+constexpr std::size_t Aligned(std::size_t position)
+{
+    return (position + 3) & ~std::size_t(3);
+}
+
+/// A part of the resource: a name, then a value or parts of its own, or both.
+struct Block {
+    Text name;
+    std::string_view body;
+    std::size_t valueLength;
+};
+
+/// Takes the block at the front of `bytes`; nothing, and an end of the walk, where there is none.
+std::optional<Block> TakeBlock(std::string_view& bytes)
+{
+    constexpr std::size_t kHeadSize = 6;
+    if (bytes.size() < kHeadSize)
+        return std::nullopt;
+    const std::size_t length = ShortAt(bytes, 0);
+    if (length < kHeadSize || length > bytes.size())
+        return std::nullopt;
+    const std::string_view block = bytes.substr(0, length);
+    bytes.remove_prefix(std::min(Aligned(length), bytes.size()));
+
+    std::size_t nameEnd = kHeadSize;
+    while (nameEnd + 1 < length && ShortAt(block, nameEnd) != 0)
+        nameEnd += 2;
+    return Block{.name = FromUtf16(block.substr(kHeadSize, nameEnd - kHeadSize)),
+                 .body = block.substr(std::min(Aligned(nameEnd + 2), length)),
+                 .valueLength = ShortAt(block, 2)};
+}
+
+// The value's length counts units in some programs and bytes in others; its zero is reliable.
+Text TextValue(std::string_view value)
+{
+    std::size_t end = 0;
+    while (end + 1 < value.size() && ShortAt(value, end) != 0)
+        end += 2;
+    return FirstCharacters(FromUtf16(value.substr(0, end)), kLongestVersionText);
+}
+
+struct TextName {
+    const char* name;
+    Text FileVersionData::*text;
+};
+constexpr TextName kTexts[] = {
+    {"FileVersion", &FileVersionData::FileVersion},
+    {"ProductName", &FileVersionData::ProductName},
+    {"CompanyName", &FileVersionData::CompanyName},
+    {"FileDescription", &FileVersionData::FileDescription},
+    {"LegalCopyright", &FileVersionData::LegalCopyright},
+    {"ProductVersion", &FileVersionData::ProductVersion},
+};
+
+void TakeTexts(std::string_view languages, FileVersionData& data)
+{
+    while (const auto language = TakeBlock(languages)) {
+        std::string_view texts = language->body;
+        while (const auto text = TakeBlock(texts))
+            for (const TextName& known : kTexts)
+                if ((data.*known.text).empty() && EqualIgnoreCase(text->name, known.name))
+                    data.*known.text = TextValue(text->body);
+    }
+}
+
+/// "1.2.3.4" of the two numbers that hold two parts each; empty where all are 0, which means that
+/// nobody set them.
+Text FourNumbers(std::string_view fixed, std::size_t position)
+{
+    const std::uint32_t high = LongAt(fixed, position);
+    const std::uint32_t low = LongAt(fixed, position + 4);
+    if (high == 0 && low == 0)
+        return {};
+    return NumberText(high >> 16U) + "." + NumberText(high & 0xFFFFU) + "." +
+           NumberText(low >> 16U) + "." + NumberText(low & 0xFFFFU);
+}
+
+void TakeFixedNumbers(std::string_view fixed, FileVersionData& data)
+{
+    constexpr std::size_t kFixedSize = 52;
+    constexpr std::uint32_t kFixedMark = 0xFEEF04BD;
+    if (fixed.size() < kFixedSize || LongAt(fixed, 0) != kFixedMark)
+        return;
+    if (data.FileVersion.empty())
+        data.FileVersion = FourNumbers(fixed, 8);
+    if (data.ProductVersion.empty())
+        data.ProductVersion = FourNumbers(fixed, 16);
+}
+
+} // namespace
+
+FileVersionData GetFileVersionData(const ReadFileAt& read)
+{
+    FileVersionData data;
+    ProgramFile file(read);
+    if (!file.ReadHeaders())
+        return data;
+
+    std::string_view fixedNumbers;
+    const std::vector<std::string> resources = file.VersionResources();
+    for (std::string_view resource : resources) {
+        const auto root = TakeBlock(resource);
+        if (!root || root->name != "VS_VERSION_INFO")
+            continue;
+        if (fixedNumbers.empty())
+            fixedNumbers = root->body.substr(0, root->valueLength);
+        std::string_view parts =
+            root->body.substr(std::min(Aligned(root->valueLength), root->body.size()));
+        while (const auto part = TakeBlock(parts))
+            if (part->name == "StringFileInfo")
+                TakeTexts(part->body, data);
+    }
+    TakeFixedNumbers(fixedNumbers, data);
+    return data;
+}
+
+} // namespace quillon
