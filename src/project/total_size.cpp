@@ -5,11 +5,12 @@
 
 namespace quillon {
 
-std::optional<Long> SumOfSizes(const std::vector<FileListRow>& rows, char decimalSign)
+std::optional<Long> SumOfSizes(const std::vector<FileListRow>& rows, char decimalSign,
+                               const std::function<bool(const FileListRow&)>& counts)
 {
     double sum = 0;
     for (const FileListRow& row : rows) {
-        if (row[Size].empty())
+        if (row[Size].empty() || (counts && !counts(row)))
             continue;
         const auto size = FloatingNumber(row[Size], decimalSign);
         if (!size)
@@ -17,7 +18,8 @@ std::optional<Long> SumOfSizes(const std::vector<FileListRow>& rows, char decima
         sum += *size;
     }
     // Tested before rounding: a list from a damaged file can sum up to more than any integer holds.
-    if (std::fabs(sum) > double(std::numeric_limits<Long>::max()))
+    constexpr double kBeyondLong = std::numeric_limits<Long>::max() + 0.5;
+    if (std::fabs(sum) >= kBeyondLong)
         return std::nullopt;
     return static_cast<Long>(RoundToEven(sum));
 }

@@ -1,0 +1,62 @@
+// A finished package folder: what its two INF files say, and where the bytes of each row lie. The
+// tool verifies packages by it, and the setup runtime finds its files by it.
+#pragma once
+
+#include "formats/install_row.h"
+#include "formats/setup_information.h"
+#include "formats/zip_reader.h"
+#include "platform/file_system.h"
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+inline constexpr const char* kFileListName = "FILELIST.INF";
+inline constexpr const char* kSetupInformationName = "QNSETUP.INF";
+inline constexpr const char* kFileContainerName = "FILEDATA.DAT";
+inline constexpr const char* kDesignContainerName = "DESOBJ.DAT";
+inline constexpr const char* kSetupFilesFolder = "SetupFiles";
+
+/// The values of `TargetMedia`.
+enum class Medium { Floppy = 1, CompressedCd = 2, CdTree = 3, Internet = 4 };
+
+/// Where the bytes of a row lie.
+struct RowBytes {
+    // A row has None when it makes a folder or never had a source.
+    enum class Place { None, Container, LooseFile, Missing };
+
+    Place place = Place::None;
+    std::size_t entry = 0; // of the container
+    Text path;             // of the loose file, or where one was expected
+
+    bool operator==(const RowBytes&) const = default;
+};
+
+struct Package {
+    Text folder;
+    SetupInformation setup;
+    std::vector<InstallRow> rows;
+    std::vector<RowBytes> bytes; // of the row at the same place
+    std::optional<ZipReader> container;
+    // What was wrong with the package as a whole, a line each.
+    std::vector<Text> faults;
+};
+
+/// The folder of a floppy package's disk: the package's own for the first, "disk2" in it and so on.
+Text DiskFolder(const Text& packageFolder, int disk);
+
+/// Reads what there is to read. Whatever is missing or damaged is told in `faults` or by the place
+/// of a row; nothing is thrown for it.
+Package OpenPackage(const FileSystem& files, const Text& folder);
+
+/// Hands the bytes of a row to `sink`, piece by piece; none where it has no bytes. Throws
+/// `ZipError` or `RunError`: 53 for a row whose bytes are missing.
+void ExtractRow(const FileSystem& files, Package& package, std::size_t row,
+                const ZipReader::Sink& sink);
+
+/// Reads everything in the package and tells each fault in a line; a package without one is whole.
+std::vector<Text> VerifyPackage(const FileSystem& files, Package& package);
+
+} // namespace quillon
