@@ -4,6 +4,7 @@
 #include "helpers/number_text.h"
 #include "platform/run_error.h"
 #include "support/memory_host.h"
+#include "support/program_file.h"
 #include "support/scripted_ask.h"
 
 #include <gmock/gmock.h>
@@ -91,6 +92,31 @@ TEST_F(AddFile, SendsFontsToTheFontFolder)
     EXPECT_EQ(list.rows[1][Destination], "%FONTDIR");
     EXPECT_EQ(list.rows[2][Extension], "b.ttf");
     EXPECT_EQ(list.rows[2][Destination], "%WINDIR") << "its extension begins at the first point";
+}
+
+TEST_F(AddFile, LooksForAVersionInProgramsAndLibrariesOnlyUnderVersionRules)
+{
+    const std::string versioned = MakeProgramFile({.languages = {{{"FileVersion", "1.0"}}}});
+    machine.files.Put("C:\\D\\new.exe", versioned);
+    machine.files.Put("C:\\D\\new.dll", versioned);
+    machine.files.Put("C:\\D\\new.txt", versioned);
+    machine.files.Put("C:\\D\\old.exe", "MZ");
+    machine.files.Put("C:\\D\\shut.dll", versioned);
+    machine.files.At("C:\\D\\shut.dll").unreadable = true;
+    struct {
+        const char* name;
+        bool useVersionRules;
+        const char* options;
+    } const files[] = {{"new.exe", true, "V"},  {"new.exe", false, "D"},  {"new.dll", true, "VA"},
+                       {"new.txt", true, "D"},  {"new.dll", false, "DA"}, {"old.exe", true, "D"},
+                       {"shut.dll", true, "DA"}};
+    for (const auto& told : files) {
+        FileToAdd file = FileAt("C:\\D", told.name);
+        file.UseVersionRules = told.useVersionRules;
+        const auto row = Add(file);
+        ASSERT_TRUE(row) << told.name;
+        EXPECT_EQ(list.rows[*row][CopyOptions], told.options) << told.name;
+    }
 }
 
 TEST_F(AddFile, DropsHiddenFilesSilently)

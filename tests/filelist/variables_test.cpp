@@ -1,6 +1,7 @@
 #include "filelist/variables.h"
 
 #include "support/memory_host.h"
+#include "support/program_file.h"
 
 #include <gmock/gmock.h>
 
@@ -112,6 +113,21 @@ TEST(ListVariableValues, ShowsTheProjectsOwnTexts)
     EXPECT_EQ(values["%USERPHONE"], "Tfn");
     EXPECT_EQ(values["%USERFAX"], "Fax");
     EXPECT_EQ(values["%USEREMAIL"], "Epost");
+}
+
+TEST(ListVariableValues, ReadsTheVersionOfTheNamedFileWithPoints)
+{
+    MemoryHost machine;
+    Project project;
+    machine.files.Put("C:\\a.exe", MakeProgramFile({.languages = {{{"FileVersion", "1,2,0,5"}}}}));
+    machine.files.Put("C:\\a.txt", "no program");
+    const auto versionOf = [&](const Text& path) {
+        project.Version.XProductVersionFName = path;
+        return ValuesByName(project, machine.host)["%XPRODUCTVERSION"];
+    };
+    EXPECT_EQ(versionOf("C:\\a.exe"), "1.2.0.5");
+    EXPECT_EQ(versionOf("C:\\a.txt"), "");
+    EXPECT_EQ(versionOf("C:\\gone.exe"), "");
 }
 
 TEST(ListVariableValues, PutsOwnVariablesInBracketsUnlessEmpty)
