@@ -61,6 +61,14 @@ FileHandle OpenOrFail(const Text& path, DWORD access, DWORD sharing, DWORD creat
     return file;
 }
 
+// Windows refuses by itself, but Wine lets an administrator through.
+void RefuseReadOnly(const Text& path)
+{
+    const DWORD attributes = AttributesOf(path);
+    if (Has(attributes, FILE_ATTRIBUTE_READONLY) && !Has(attributes, FILE_ATTRIBUTE_DIRECTORY))
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+}
+
 std::wstring RootOf(const Text& path)
 {
     return Wide(RemoveLastBackslash(path) + "\\");
@@ -119,6 +127,7 @@ std::unique_ptr<InputFile> WinFiles::OpenInput(const Text& path) const
 
 std::unique_ptr<OutputFile> WinFiles::OpenOutput(const Text& path)
 {
+    RefuseReadOnly(path);
     return std::make_unique<WinOutputFile>(
         OpenOrFail(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS), path);
 }
@@ -127,11 +136,11 @@ bool WinFiles::DirCreate(const Text& path)
 {
     if (DirExists(path))
         return true;
-    const Text parent = ExtractDirectory(RemoveLastBackslash(path));
-    if (path.empty() || parent == path)
-        return false;
-    if (!parent.empty() && !DirCreate(parent))
-        return false;
+    // A folder above that fails shows at the last one. The functions for paths would cut a long
+    // one.
+    const std::size_t last = path.find_last_of("\\/");
+    if (last != Text::npos && last > 0 && path[last - 1] != ':')
+        DirCreate(path.substr(0, last));
     return CreateDirectoryW(WidePath(path).c_str(), nullptr) != 0 || DirExists(path);
 }
 
@@ -149,6 +158,7 @@ void WinFiles::CopyContent(const Text& from, const Text& to)
 
 void WinFiles::RemoveFile(const Text& path)
 {
+    RefuseReadOnly(path);
     if (!DeleteFileW(WidePath(path).c_str()))
         FailAtFile(path);
 }

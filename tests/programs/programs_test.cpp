@@ -1,0 +1,89 @@
+// The Windows programs as files: of the right machine, and small enough together for one floppy
+// disk beside a product's own first piece.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kRelease32 = fs::path(QUILLON_TOOL_FOLDER) / "Release";
+const fs::path kRelease64 =
+    fs::path(QUILLON_TOOL_FOLDER).parent_path() / "runtime-x86_64" / "Release";
+constexpr const char* kPrograms[] = {"SETUP32.EXE",  "Small32/QNS32X.EXE", "Full32/QNS32X.EXE",
+                                     "DUNZIP32.DLL", "QNREG32.EXE",        "QNXREG2.EXE",
+                                     "QNXUNIN.EXE"};
+
+constexpr std::uintmax_t kRoomForAll = 800 * 1024;
+constexpr unsigned kMachine386 = 0x014C;
+constexpr unsigned kMachineAmd64 = 0x8664;
+constexpr unsigned kPe32 = 0x010B;
+constexpr unsigned kPe32Plus = 0x020B;
+
+struct Headers {
+    unsigned machine = 0;
+    unsigned timeStamp = 0;
+    unsigned kind = 0;
+    unsigned subsystem = 0;
+};
+
+unsigned NumberAt(const std::string& bytes, std::size_t position, int size)
+{
+    unsigned number = 0;
+    for (int i = size; i-- > 0;)
+        number = number << 8U | static_cast<unsigned char>(bytes.at(position + std::size_t(i)));
+    return number;
+}
+
+Headers ReadHeaders(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    if (bytes.size() < 0x40 || !bytes.starts_with("MZ"))
+        return {};
+    const std::size_t start = NumberAt(bytes, 0x3C, 4);
+    if (bytes.substr(start, 4) != std::string("PE\0\0", 4))
+        return {};
+    return {.machine = NumberAt(bytes, start + 4, 2),
+            .timeStamp = NumberAt(bytes, start + 8, 4),
+            .kind = NumberAt(bytes, start + 24, 2),
+            .subsystem = NumberAt(bytes, start + 24 + 68, 2)};
+}
+
+void ExpectAll(const fs::path& folder, unsigned machine, unsigned kind)
+{
+    for (const char* name : kPrograms) {
+        const Headers headers = ReadHeaders(folder / name);
+        EXPECT_EQ(headers.machine, machine) << folder / name;
+        EXPECT_EQ(headers.kind, kind) << folder / name;
+        // The same sources give the same bytes, whenever they are built.
+        EXPECT_EQ(headers.timeStamp, 0U) << folder / name;
+        constexpr unsigned kWindows = 2; // a console program would open a black window
+        if (fs::path(name).extension() == ".EXE")
+            EXPECT_EQ(headers.subsystem, kWindows) << folder / name;
+    }
+}
+
+TEST(SetupRuntime, IsMadeFor32BitMachines)
+{
+    ExpectAll(kRelease32, kMachine386, kPe32);
+}
+
+TEST(SetupRuntime, HasATwinFor64BitWine)
+{
+    ExpectAll(kRelease64, kMachineAmd64, kPe32Plus);
+}
+
+TEST(SetupRuntime, LeavesRoomOnTheFirstDisk)
+{
+    std::uintmax_t sum = 0;
+    for (const char* name : kPrograms)
+        sum += fs::file_size(kRelease32 / name);
+    EXPECT_GT(sum, 0U);
+    EXPECT_LT(sum, kRoomForAll);
+}
+
+} // namespace

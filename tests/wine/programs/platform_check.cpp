@@ -1,0 +1,276 @@
+// platform_check FOLDER LOG: tries the Windows side of src/platform on an empty folder. What fails
+// is written to the log, a line each; the exit code is the number of failures.
+#include "helpers/windows_path.h"
+#include "platform/crypto.h"
+#include "platform/run_error.h"
+#include "platform/whole_file.h"
+#include "platform/win32/registry_key.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_files.h"
+#include "platform/win32/win_machine.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+using namespace quillon;
+
+namespace {
+
+class Checks {
+public:
+    void Expect(bool holds, const Text& what)
+    {
+        ++count_;
+        if (!holds)
+            failures_.push_back(what);
+    }
+
+    template <class Work>
+    void ExpectFailure(int number, Work work, const Text& what)
+    {
+        const int got = RunErrorNumber(work);
+        Expect(got == number, what + ": " + std::to_string(got));
+    }
+
+    Text Log() const
+    {
+        Text log = std::to_string(count_) + " checks\n";
+        for (const Text& failure : failures_)
+            log += failure + "\n";
+        return log;
+    }
+    int Failures() const { return static_cast<int>(failures_.size()); }
+
+private:
+    int count_ = 0;
+    std::vector<Text> failures_;
+};
+
+Text Hex(std::span<const std::byte> bytes)
+{
+    constexpr char kDigits[] = "0123456789abcdef";
+    Text hex;
+    for (const std::byte byte : bytes) {
+        hex += kDigits[std::to_integer<unsigned>(byte) >> 4U];
+        hex += kDigits[std::to_integer<unsigned>(byte) & 15U];
+    }
+    return hex;
+}
+
+std::span<const std::byte> BytesOf(std::string_view text)
+{
+    return std::as_bytes(std::span(text.data(), text.size()));
+}
+
+Text Derived(std::string_view password, std::string_view salt, unsigned rounds, std::size_t length)
+{
+    std::vector<std::byte> key(length);
+    DeriveKey(password, BytesOf(salt), rounds, key);
+    return Hex(key);
+}
+
+Text Code(std::string_view key, std::string_view text)
+{
+    HmacSha1 code(BytesOf(key));
+    code.Add(BytesOf(text.substr(0, 2)));
+    code.Add(BytesOf(text.substr(2)));
+    return Hex(code.Finish());
+}
+
+// The vectors of RFC 6070, RFC 2202 and FIPS 197.
+void CheckCrypto(Checks& checks)
+{
+    checks.Expect(Derived("password", "salt", 4096, 20) ==
+                      "4b007901b765489abead49d926f721d065a429c1",
+                  "a derived key");
+    checks.Expect(Derived("passwordPASSWORDpassword", "saltSALTsaltSALTsaltSALTsaltSALTsalt", 4096,
+                          25) == "3d2eec4fe41c849b80c8d83662c0e44a8b291a964cf2f07038",
+                  "a derived key of two blocks");
+    checks.Expect(Code("Jefe", "what do ya want for nothing?") ==
+                      "effcdf6ae5eb2fa2d27416d5f184df9c259a7c79",
+                  "a code");
+    checks.Expect(
+        Code(Text(80, '\xaa'), "Test Using Larger Than Block-Size Key - Hash Key First") ==
+            "aa4ae5e15272d00e95705637ce8a3b55ed402112",
+        "a code by a long key");
+
+    std::array<std::byte, kAes256KeySize> key{};
+    for (std::size_t i = 0; i < key.size(); ++i)
+        key[i] = std::byte(i);
+    std::vector<std::byte> blocks;
+    for (unsigned i = 0; i < 2 * kAesBlockSize; ++i)
+        blocks.push_back(std::byte(i % kAesBlockSize * 0x11));
+    std::vector<std::byte> encrypted(blocks.size());
+    AesEncryptor encryptor(key);
+    encryptor.EncryptBlocks(blocks, encrypted);
+    const Text one = "8ea2b7ca516745bfeafc49904b496089";
+    checks.Expect(Hex(encrypted) == one + one, "two blocks");
+    encryptor.EncryptBlocks(blocks, blocks);
+    checks.Expect(Hex(blocks) == one + one, "two blocks in place");
+}
+
+void CheckReadingAndWriting(Checks& checks, WinFiles& files, const Text& folder)
+{
+    const Text path = JoinPath(folder, "Räksmörgås € 日本.txt");
+    WriteWholeFile(files, path, "hello world");
+    checks.Expect(ReadWholeFile(files, path) == "hello world", "what was written comes back");
+    {
+        const auto output = files.OpenOutput(path);
+        output->Write(BytesOf("HELLO all"));
+        output->WriteAt(2, BytesOf("--"));
+        output->Write(BytesOf("!"));
+        checks.Expect(output->Position() == 10, "the position is behind the last byte");
+        output->Close();
+    }
+    checks.Expect(ReadWholeFile(files, path) == "HE--O all!", "an overwritten file");
+    const auto input = files.OpenInput(path);
+    std::array<std::byte, 4> piece{};
+    input->Seek(8);
+    checks.Expect(input->Read(piece) == 2 && piece[1] == std::byte('!'), "reading at the end");
+    checks.Expect(input->Read(piece) == 0 && input->Size() == 10, "reading behind the end");
+    checks.Expect(files.FileExists(LowerCase(path)) && !files.DirExists(path), "a file is there");
+    checks.Expect(files.DirExists(folder) && !files.FileExists(folder), "a folder is there");
+}
+
+void CheckFacts(Checks& checks, WinFiles& files, const Text& folder)
+{
+    const Text path = JoinPath(folder, "facts.bin");
+    WriteWholeFile(files, path, "12345");
+    for (const LocalTime& time : {LocalTime{2004, 1, 15, 13, 14, 16}, {2004, 7, 15, 13, 14, 16}}) {
+        files.SetModified(path, time);
+        checks.Expect(files.Facts(path).modified == time, "the time of " + DateText(time));
+    }
+    files.SetModified(folder, {2003, 5, 6, 7, 8, 10});
+    checks.Expect(files.Facts(folder).modified == LocalTime{2003, 5, 6, 7, 8, 10},
+                  "the time of a folder");
+    files.SetReadOnly(path, true);
+    checks.Expect(files.Facts(path).isReadOnly && files.Facts(path).size == 5, "read-only");
+    checks.ExpectFailure(
+        ErrorNumber::kPathFileAccess, [&] { files.OpenOutput(path); },
+        "writing over a read-only file");
+    files.SetReadOnly(path, false);
+    files.OpenOutput(path)->Close();
+    checks.Expect(files.Facts(path).size == 0, "an existing file is emptied");
+}
+
+void CheckFailures(Checks& checks, WinFiles& files, const Text& folder)
+{
+    using namespace ErrorNumber;
+    const Text missing = JoinPath(folder, "none.txt");
+    const Text lost = JoinPath(folder, "none\\none.txt");
+    checks.ExpectFailure(
+        kFileNotFound, [&] { files.OpenInput(missing); }, "a missing file");
+    checks.ExpectFailure(
+        kPathNotFound, [&] { files.OpenInput(lost); }, "a missing folder");
+    checks.ExpectFailure(
+        kFileNotFound, [&] { files.Facts(missing); }, "facts of a missing file");
+    checks.ExpectFailure(
+        kPathNotFound, [&] { files.OpenOutput(lost); }, "output without folder");
+    checks.ExpectFailure(
+        kPathFileAccess, [&] { files.OpenOutput(folder); }, "output on a folder");
+    checks.ExpectFailure(
+        kPathFileAccess, [&] { files.OpenInput(folder); }, "input of a folder");
+    checks.ExpectFailure(
+        kFileNotFound, [&] { files.RemoveFile(missing); }, "removing no file");
+    checks.ExpectFailure(
+        kPathNotFound, [&] { files.List(missing); }, "listing no folder");
+    checks.ExpectFailure(
+        kBadFileName, [&] { files.OpenInput(Text("a\0b", 3)); }, "a NUL in a name");
+    checks.ExpectFailure(
+        kPathFileAccess, [&] { files.RemoveFolder(folder); }, "a full folder");
+    checks.ExpectFailure(
+        kFileNotFound, [&] { files.CopyContent(missing, missing + "2"); }, "copying no file");
+    checks.Expect(!files.DirCreate("Q:\\none\\none"), "a folder on no drive");
+}
+
+void CheckFolders(Checks& checks, WinFiles& files, const Text& folder)
+{
+    const Text deep = JoinPath(folder, "a\\b\\c");
+    checks.Expect(files.DirCreate(deep) && files.DirExists(deep), "a folder with its parents");
+    checks.Expect(files.DirCreate(deep), "a folder that is there");
+    WriteWholeFile(files, JoinPath(deep, "z.txt"), "z");
+    files.CopyContent(JoinPath(deep, "z.txt"), JoinPath(deep, "A.txt"));
+    files.SetModified(JoinPath(deep, "z.txt"), {2001, 2, 3, 4, 5, 6});
+    files.CopyContent(JoinPath(deep, "z.txt"), JoinPath(deep, "A.txt"));
+    checks.Expect(files.Facts(JoinPath(deep, "A.txt")).modified == LocalTime{2001, 2, 3, 4, 5, 6},
+                  "a copy keeps its date");
+    const auto entries = files.List(deep);
+    checks.Expect(entries.size() == 2 && entries[0].name == "A.txt" && entries[1].name == "z.txt",
+                  "a listing in order");
+    files.Rename(JoinPath(deep, "z.txt"), JoinPath(deep, "A.txt"));
+    checks.Expect(files.List(deep).size() == 1, "renaming replaces");
+    files.RemoveFile(JoinPath(deep, "A.txt"));
+    files.RemoveFolder(deep);
+    checks.Expect(!files.DirExists(deep), "a removed folder");
+
+    Text longPath = folder;
+    for (int i = 0; i < 12; ++i)
+        longPath = JoinPath(longPath, Text(30, static_cast<char>('a' + i)));
+    checks.Expect(files.DirCreate(longPath), "a path of 370 characters");
+    WriteWholeFile(files, JoinPath(longPath, "x.txt"), "far");
+    checks.Expect(ReadWholeFile(files, JoinPath(longPath, "x.txt")) == "far", "a file far down");
+    checks.Expect(files.List(longPath).size() == 1, "a listing far down");
+}
+
+void CheckDrives(Checks& checks, WinFiles& files, const Text& folder)
+{
+    checks.Expect(files.FreeSpace(folder) > 0, "room on the disk");
+    checks.Expect(files.DriveType("C:\\") == DriveKind::Fixed, "drive C: is fixed");
+    checks.Expect(files.DriveType("Q:\\") == DriveKind::NoRoot, "there is no drive Q:");
+    checks.Expect(!files.ShortPath(folder).empty(), "a short path");
+}
+
+void CheckMachine(Checks& checks, const WinFiles& files)
+{
+    WinMachine machine;
+    for (const Text& folder :
+         {machine.GetWindowsDir(), machine.GetSystemDir(), machine.GetProgramFilesDir(),
+          machine.GetMyDocumentsDir(), machine.GetSysAppDataDirectory(),
+          machine.GetSysLocalAppDataDirectory(), machine.GetTempDir()})
+        checks.Expect(files.DirExists(folder) && !folder.ends_with("\\"), "the folder " + folder);
+    checks.Expect(EqualIgnoreCase(machine.GetWindowsDir(), "C:\\windows"), "the Windows folder");
+    checks.Expect(machine.Now().year >= 2024, "the clock");
+    checks.Expect(machine.Random(1) == 0, "a number out of one");
+    unsigned seen = 0;
+    for (int i = 0; i < 200; ++i)
+        seen |= 1U << machine.Random(4);
+    checks.Expect(seen == 0xF, "numbers out of four");
+    checks.Expect(machine.DecimalSign() == '.' || machine.DecimalSign() == ',', "a decimal sign");
+
+    constexpr auto kRoot = RegistryRoot::LocalMachine;
+    const Text key = "Software\\Microsoft\\Windows\\CurrentVersion";
+    const auto found = machine.ReadRegistryValue(kRoot, key, "ProgramFilesDir");
+    checks.Expect(found == machine.GetProgramFilesDir(), "a value of the registry");
+    checks.Expect(!machine.ReadRegistryValue(kRoot, key, "none"), "a missing value");
+    checks.Expect(!machine.ReadRegistryValue(kRoot, "none\\none", ""), "a missing key");
+    checks.ExpectFailure(
+        ErrorNumber::kFileNotFound, [&] { machine.StartProgram("C:\\none.exe", ""); },
+        "starting no program");
+}
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
+{
+    int count = 0;
+    wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
+    if (arguments == nullptr || count != 3)
+        return 1000;
+    Checks checks;
+    WinFiles files;
+    const Text folder = Narrow(arguments[1]);
+    try {
+        CheckCrypto(checks);
+        CheckReadingAndWriting(checks, files, folder);
+        CheckFacts(checks, files, folder);
+        CheckFailures(checks, files, folder);
+        CheckFolders(checks, files, folder);
+        CheckDrives(checks, files, folder);
+        CheckMachine(checks, files);
+    } catch (const std::exception& failure) {
+        checks.Expect(false, Text("a failure that nobody caught: ") + failure.what());
+    }
+    WriteWholeFile(files, Narrow(arguments[2]), checks.Log());
+    return checks.Failures();
+}
