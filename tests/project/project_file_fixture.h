@@ -25,6 +25,16 @@ std::string With(std::string bytes, const std::string& from, const std::string& 
 /// Without the whole section, up to the next header.
 std::string WithoutSection(std::string bytes, const std::string& name);
 
+/// The file with the value of one key replaced, and that value; keys are looked for as they are
+/// written, "Key = value". Both fail the test when the key is missing.
+std::string WithValue(const std::string& bytes, const std::string& section, const std::string& key,
+                      const std::string& value);
+std::string ValueIn(const std::string& bytes, const std::string& section, const std::string& key);
+
+/// The file without the line of one key.
+std::string WithoutKey(const std::string& bytes, const std::string& section,
+                       const std::string& key);
+
 /// A project file on a machine in memory, to be read and written.
 struct ProjectOnDisk {
     ProjectOnDisk();
@@ -34,6 +44,8 @@ struct ProjectOnDisk {
     /// The same where no box may come up.
     ReadEnd Load(const std::string& bytes);
     std::string Save();
+    /// A load that must come to its good end, and a save.
+    std::string Resave(const std::string& bytes);
 
     MemoryHost machine;
     Project project = NewProject();
