@@ -15,15 +15,15 @@ namespace quillon {
 
 /// What a call of the compression interface answers; 0 and below is success.
 namespace CompressionResult {
-    inline constexpr Integer kDone = 0;
-    inline constexpr Integer kSourceMissing = 4;
-    inline constexpr Integer kSourceChanged = 5; // it shrank or grew while it was read
-    inline constexpr Integer kNothingToDo = 12; // the list held no file
-    inline constexpr Integer kCancelled = 14; // no further disk came
-    inline constexpr Integer kDiskFull = 15;
-    inline constexpr Integer kCannotWrite = 16;
-    inline constexpr Integer kNoReadAccess = 18;
-}
+inline constexpr Integer kDone = 0;
+inline constexpr Integer kSourceMissing = 4;
+inline constexpr Integer kSourceChanged = 5; // it shrank or grew while it was read
+inline constexpr Integer kNothingToDo = 12;  // the list held no file
+inline constexpr Integer kCancelled = 14;    // no further disk came
+inline constexpr Integer kDiskFull = 15;
+inline constexpr Integer kCannotWrite = 16;
+inline constexpr Integer kNoReadAccess = 18;
+} // namespace CompressionResult
 
 /// Where the pieces of a spanned archive go.
 class DiskSource {
@@ -44,8 +44,8 @@ public:
     CompressionInterface(const CompressionInterface&) = delete;
     CompressionInterface& operator=(const CompressionInterface&) = delete;
 
-    /// `workPath` is the folder for unfinished archives, empty for the system's; `logFlag` 1 logs to
-    /// DYNAZIP.LOG in the Windows folder; `level` is 0 (stored) or 5 (deflate).
+    /// `workPath` is the folder for unfinished archives, empty for the system's; `logFlag` 1 logs
+    /// to DYNAZIP.LOG in the Windows folder; `level` is 0 (stored) or 5 (deflate).
     void IfcInitDynaZipStruct(const Text& workPath, Integer logFlag, Integer level);
     void IfcResetFileList();
     /// `row` is the key of the FILELIST.INF row that the file serves ("F7"), empty for none. A path

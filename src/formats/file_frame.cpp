@@ -108,10 +108,15 @@ const FrameSection* FileFrame::Find(std::string_view name) const
 
 std::vector<Text> FileHeadLines(std::string_view fileType)
 {
-    return {
-        "[" + Text(kOrigin) + "]",     "Info = " + Text(kOriginInfo), "",
-        "[" + Text(kId) + "]",         "App = " + Text(kTypeMark),    "Ver = " + Text(kToolVersion),
-        "FileType = " + Text(fileType)};
+    std::vector<Text> lines;
+    lines.push_back("[" + Text(kOrigin) + "]");
+    lines.push_back("Info = " + Text(kOriginInfo));
+    lines.push_back("");
+    lines.push_back("[" + Text(kId) + "]");
+    lines.push_back("App = " + Text(kTypeMark));
+    lines.push_back("Ver = " + Text(kToolVersion));
+    lines.push_back("FileType = " + Text(fileType));
+    return lines;
 }
 
 FileFrame ReadFileFrame(const Text& text, std::string_view fileType,

@@ -2,6 +2,7 @@
 // builder and the reader beside this file are two visitors of `EachInfSection`.
 #pragma once
 
+#include "formats/package_files.h"
 #include "formats/setup_information.h"
 #include "project/key_table.h"
 
@@ -415,12 +416,6 @@ inline constexpr InfKey<SetupInformation> kFileListInfo[] = {
 // clang-format on
 
 } // namespace inf
-
-// The values of TargetMedia.
-inline constexpr Integer kMediaFloppy = 1;
-inline constexpr Integer kMediaCdCompressed = 2;
-inline constexpr Integer kMediaCdTree = 3;
-inline constexpr Integer kMediaInternet = 4;
 
 template <class Visitor>
 void EachSettingsSection(Project& project, SetupInformation& info, Visitor& visit)

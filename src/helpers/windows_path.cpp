@@ -2,6 +2,8 @@
 
 #include "helpers/utf8.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -11,6 +13,14 @@ constexpr char kBackslash = '\\';
 bool IsDriveRoot(std::string_view path)
 {
     return path.size() == 3 && path[1] == ':' && path[2] == kBackslash;
+}
+
+// How many leading parts no ".." takes away: the drive, or the server and its share.
+std::size_t PartsOfRoot(const std::vector<std::string_view>& parts, bool isNetwork)
+{
+    if (isNetwork)
+        return 2;
+    return !parts.empty() && parts[0].ends_with(':') ? 1 : 0;
 }
 
 } // namespace
@@ -73,6 +83,28 @@ Text JoinPath(std::string_view folder, std::string_view name)
     if (!path.empty() && path.back() != kBackslash)
         path += kBackslash;
     return path.append(name);
+}
+
+Text ResolvePath(std::string_view path)
+{
+    const Text backslashed = ReplaceAll(path, "/", "\\");
+    std::string_view rest = backslashed;
+    std::vector<std::string_view> parts;
+    const bool isNetwork = rest.starts_with("\\\\");
+    const bool isRooted = rest.starts_with(kBackslash);
+    while (!rest.empty()) {
+        const std::string_view part = rest.substr(0, rest.find(kBackslash));
+        rest.remove_prefix(std::min(part.size() + 1, rest.size()));
+        if (part == ".." && parts.size() > PartsOfRoot(parts, isNetwork))
+            parts.pop_back();
+        if (!part.empty() && part != "." && part != "..")
+            parts.push_back(part);
+    }
+    Text resolved(isNetwork ? "\\\\" : isRooted ? "\\" : "");
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        resolved.append(i == 0 ? "" : "\\").append(parts[i]);
+    const bool isDriveAlone = parts.size() == 1 && parts[0].ends_with(':');
+    return isDriveAlone ? resolved + kBackslash : resolved;
 }
 
 Text FormatPathForDisplay(std::string_view path)

@@ -31,6 +31,10 @@ Text RemoveDupBackslashesEx(std::string_view path);
 /// The folder and the name joined by exactly one backslash.
 Text JoinPath(std::string_view folder, std::string_view name);
 
+/// The path with its "." and ".." worked out, slashes as backslashes and no backslash twice. A ".."
+/// at the root of a drive or of a network share leads nowhere.
+Text ResolvePath(std::string_view path);
+
 /// Display case: all in lower case, then an upper-case letter first and behind each backslash.
 Text FormatPathForDisplay(std::string_view path);
 

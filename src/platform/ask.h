@@ -32,6 +32,8 @@ public:
 
     /// A line of the progress list of a long command.
     virtual void AddStatusLine(const Text& line) = 0;
+    /// Empties that list before a new command; what was printed stays printed.
+    virtual void ClearStatusLines() {}
     /// How far a long step is, in bytes. `total` 0 ends the display of progress.
     virtual void ShowProgress(std::uint64_t done, std::uint64_t total) = 0;
     virtual void ShowBusyPointer(bool busy) = 0;

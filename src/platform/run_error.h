@@ -4,6 +4,7 @@
 #include "helpers/text.h"
 
 #include <exception>
+#include <optional>
 #include <utility>
 
 namespace quillon {
@@ -51,6 +52,19 @@ int RunErrorNumber(Work work)
         work();
         return ErrorNumber::kNone;
     } catch (const RunError& error) {
+        return error.Number();
+    }
+}
+
+/// The same, and keeps the failure for a caller that tells the file as well.
+template <class Work>
+int RunErrorNumber(Work work, std::optional<RunError>& failure)
+{
+    try {
+        work();
+        return ErrorNumber::kNone;
+    } catch (const RunError& error) {
+        failure = error;
         return error.Number();
     }
 }

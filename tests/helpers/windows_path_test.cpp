@@ -68,4 +68,26 @@ TEST(WithoutDrive, LeavesTheWayBelowTheRoot)
     EXPECT_EQ(WithoutDrive("\\\\server\\x\\a"), "server\\x\\a");
 }
 
+TEST(ResolvePath, WorksOutDotsAndBackslashes)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"C:\\Data\\..\\App\\a.txt", "C:\\App\\a.txt"},
+        {"C:\\Data\\.\\a.txt", "C:\\Data\\a.txt"},
+        {"C:\\Data\\\\a.txt", "C:\\Data\\a.txt"},
+        {"C:/Data/b/../a.txt", "C:\\Data\\a.txt"},
+        {"C:\\..\\..\\a.txt", "C:\\a.txt"},
+        {"C:\\Data\\..", "C:\\"},
+        {"C:\\", "C:\\"},
+        {"C:\\Data\\...\\a.txt", "C:\\Data\\...\\a.txt"},
+        {"\\\\server\\share\\..\\..\\a.txt", "\\\\server\\share\\a.txt"},
+        {"\\\\server\\share\\x\\..\\a.txt", "\\\\server\\share\\a.txt"},
+        {"\\x\\..\\a.txt", "\\a.txt"},
+        {"a.txt", "a.txt"},
+        {"..\\a.txt", "a.txt"},
+        {"", ""},
+    };
+    for (const auto& [path, resolved] : cases)
+        EXPECT_EQ(ResolvePath(path), resolved) << path;
+}
+
 } // namespace quillon

@@ -36,6 +36,7 @@ public:
     bool OkCancel(const Text& title, const Text& text) override;
     Answer YesNoCancel(const Text& title, const Text& text) override;
     void AddStatusLine(const Text& line) override { statusLines.push_back(line); }
+    void ClearStatusLines() override { statusLines.clear(); }
     void ShowProgress(std::uint64_t done, std::uint64_t total) override;
     void ShowBusyPointer(bool busy) override { busyPointer = busy; }
     void Beep() override { ++beeps; }

@@ -1,0 +1,278 @@
+#include "builder/create.h"
+
+#include "builder/autorun_file.h"
+#include "builder/create_checks.h"
+#include "builder/design_container.h"
+#include "builder/file_container.h"
+#include "builder/file_list_file.h"
+#include "builder/one_by_one.h"
+#include "builder/remove_quietly.h"
+#include "builder/runtime_files.h"
+#include "builder/setup_info_file.h"
+#include "filelist/sort.h"
+#include "helpers/windows_path.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+// From this many rows on the uninstaller wants the list in the order of the folders.
+constexpr std::size_t kRowsWorthSorting = 1000;
+
+Text MediumWord(Integer targetMedia)
+{
+    return std::ranges::find(kMedia, targetMedia, &Medium::TargetMedia)->word;
+}
+
+void EnableButtons(CreateForm& form, bool enabled)
+{
+    form.isCmdCreateEnabled = enabled;
+    form.isCmdOptionsEnabled = enabled;
+}
+
+void Prepare(CreateRun& run)
+{
+    CreateForm& form = run.form;
+    if (form.KeepCompressedFilesOneAndOne == 1)
+        form.UseCompression = 0;
+    run.project.Compression.KeepCompressedFilesOneAndOne = form.KeepCompressedFilesOneAndOne;
+    run.project.Compression.CompressFiles = form.UseCompression == 1 ? kOn : kOff;
+    run.project.OperatingSystem.TargetOperatingSystem = form.cbOS;
+    // Kept: it stays on in the project when the target is changed back.
+    if (form.cbOS == 1)
+        run.project.InstallOptions.DontInstallSysFilesOnNewWin = kOn;
+    if (run.options.CreateZipLogFile != kOff)
+        RemoveQuietly(run.host.files, run.host.machine.GetWindowsDir() + "\\DYNAZIP.LOG");
+    run.CreateFailed = false;
+    run.FloppiesUsed = 0;
+}
+
+Step Begin(CreateRun& run)
+{
+    EnableButtons(run.form, false);
+    run.DestDir = RemoveLastBackslash(run.form.tDestinationDir);
+    run.ask.ClearStatusLines();
+    run.ask.AddStatusLine("** Skapar 32 bitars installationsuppsättning för " +
+                          MediumWord(run.form.TargetMedia) + " **");
+    if (run.options.CreateZipLogFile != kOff)
+        run.ask.AddStatusLine("- Loggning av komprimeringsprocessen är påkopplad");
+    if (run.options.UseTempZipPath != kOff)
+        run.ask.AddStatusLine("- Temporär komprimeringskatalog används");
+    return Step::GoOn;
+}
+
+// The view keeps this order afterwards; a shorter list keeps the user's own.
+Step SortLongList(CreateRun& run)
+{
+    const bool sorts = run.project.Files.rows.size() >= kRowsWorthSorting &&
+                       run.project.InstallOptions.UninstallSupport != kOff;
+    if (sorts) {
+        run.ask.AddStatusLine("Sorterar fillista efter destinationskatalog");
+        SortRowsBy(run.project.Files, Destination);
+    }
+    return Step::GoOn;
+}
+
+bool HoldsAnyFile(const FileSystem& files, const Text& folder)
+{
+    return std::ranges::any_of(files.List(folder),
+                               [](const FolderEntry& entry) { return !entry.facts.isFolder; });
+}
+
+// Everything in the folder goes into the self-extracting program.
+Step ClearInternetFolder(CreateRun& run)
+{
+    if (run.form.TargetMedia != kMediaInternet)
+        return Step::GoOn;
+    for (const Text& name : {Text("INSTALL.ZIP"), Text("INSTALL.ADX"),
+                             run.project.InstallOptionsInternet.SelfExtractFilename})
+        RemoveQuietly(run.host.files, run.InDestination(name));
+    if (!HoldsAnyFile(run.host.files, run.DestDir))
+        return Step::GoOn;
+    const bool goOn = run.ask.YesNo(
+        "Katalogen är ej tom",
+        "Katalogen '" + run.DestDir +
+            "', där den självuppackande installationsfilen ska skapas i är ej tom! Katalogen bör "
+            "vara tom eftersom samtliga filer i denna katalog kommer att adderas till den "
+            "självuppackande filen, varvid det finns risk att oönskade filer kommer ingå i "
+            "installationsprogrammet! Vill du fortsätta?",
+        Ask::Stops::OnNo);
+    if (goOn)
+        return Step::GoOn;
+    run.ask.AddStatusLine("Avbryter!");
+    run.isCancelled = true;
+    return Step::Stop;
+}
+
+Step WriteAutorun(CreateRun& run)
+{
+    if (run.project.InstallOptions.CreateAutorunFile != kOff) {
+        run.ask.AddStatusLine("Skapar AUTORUN.INF");
+        WriteAutorunFile(run.host.files, run.InDestination(PackageFile::kAutorun),
+                         run.project.InstallOptions.SetupName);
+    }
+    return Step::GoOn;
+}
+
+void DeleteFileListFile(CreateRun& run)
+{
+    RemoveQuietly(run.host.files, run.InDestination(PackageFile::kFileList));
+}
+
+void DeleteSetupInfoFile(CreateRun& run)
+{
+    RemoveQuietly(run.host.files, run.InDestination(PackageFile::kSetupInformation));
+}
+
+// A source that has gone ends the command, and an earlier run's QNSETUP.INF must not stay beside
+// the broken list.
+Step TellMissingSource(CreateRun& run, const Text& line, const Text& title, const Text& text)
+{
+    run.ask.AddStatusLine(line);
+    run.ask.Critical(title, text);
+    DeleteSetupInfoFile(run);
+    return Step::Stop;
+}
+
+Step WriteFileList(CreateRun& run)
+{
+    run.project.Media.TargetMedia = run.form.TargetMedia;
+    DeleteFileListFile(run);
+    run.ask.AddStatusLine("Skapar FILELIST.INF");
+    FileListOutcome outcome;
+    const int error = WriteFileListFile(run.InDestination(PackageFile::kFileList), run.project,
+                                        run.host, outcome);
+    run.FilesInList = outcome.FilesInList;
+    run.failure = outcome.failure;
+    switch (error) {
+    case ErrorNumber::kNone:
+        return Step::GoOn;
+    case ErrorNumber::kFileNotFound:
+        return TellMissingSource(
+            run, "Fil saknas! Avbryter processen.", "Fil saknas",
+            "En eller flera filer har försvunnit från källkatalogen sedan du lade in dessa i "
+            "fillistan! Välj menyalternativet 'Lista'-'Uppdatera Lista' för att lokalisera de "
+            "saknade filerna i fillistan.");
+    case ErrorNumber::kPathNotFound:
+        return TellMissingSource(
+            run, "Källkatalog existerar inte! Avbryter processen.", "Källkatalog existerar inte",
+            "En källkatalog till en fil i fillistan existerar inte på hårddisken längre! "
+            "Antagligen har katalogen tagits bort eller så har den fått ett nytt namn sedan du "
+            "lade in filen till fillistan. Välj menyalternativet 'Lista'-'Uppdatera Lista' för att "
+            "lokalisera de berörda filerna.");
+    default:
+        run.ask.AddStatusLine("Fel #" + NumberText(error) +
+                              " inträffade när FILELIST.INF skulle skapas.");
+        return Step::Stop;
+    }
+}
+
+// Behind the file list, because it tells how many rows that has.
+Step WriteSetupInfo(CreateRun& run)
+{
+    DeleteSetupInfoFile(run);
+    run.ask.AddStatusLine("Skapar QNSETUP.INF");
+    SetupInfoInput input{run.project, run.host, run.ask, run.options, run.surface, run.FilesInList};
+    const int error = WriteSetupInfoFile(run.InDestination(PackageFile::kSetupInformation), input,
+                                         SetupInfoMode::Create);
+    run.failure = input.failure;
+    if (error == ErrorNumber::kNone)
+        return Step::GoOn;
+    run.ask.AddStatusLine("Fel #" + NumberText(error) +
+                          " inträffade när QNSETUP.INF skulle skapas.");
+    return Step::Stop;
+}
+
+Step CopyLanguageFile(CreateRun& run)
+{
+    const Text& name = run.project.Language.LanguageFile;
+    run.ask.AddStatusLine("Kopierar " + name);
+    run.host.files.CopyContent(run.options.ToolFolder + "\\Language\\" + name,
+                               run.InDestination(name));
+    return Step::GoOn;
+}
+
+Step BuildSelfExtractingPackage(CreateRun& run)
+{
+    CreateFileContainer(run, false);
+    const Text& program = run.project.RunAppSelfX.ProgramFilename;
+    if (!program.empty()) {
+        const Text name = ExtractFilename(program);
+        run.ask.AddStatusLine("Kopierar " + UpperCase(name));
+        RunErrorNumber([&] { run.host.files.CopyContent(program, run.InDestination(name)); });
+    }
+    run.ask.AddStatusLine("Den här versionen kan ännu inte skapa självuppackande filer!");
+    run.ask.AddStatusLine("Kan ej skapa " +
+                          UpperCase(run.project.InstallOptionsInternet.SelfExtractFilename) + "!");
+    return Step::Stop;
+}
+
+Step PlaceProjectFiles(CreateRun& run)
+{
+    switch (run.form.TargetMedia) {
+    case kMediaFloppy:
+        CreateFileContainer(run, true);
+        return Step::GoOn;
+    case kMediaCdCompressed:
+        if (run.form.KeepCompressedFilesOneAndOne == 0)
+            CreateFileContainer(run, false);
+        else
+            CopyFilesOneByOne(run);
+        return Step::GoOn;
+    case kMediaInternet:
+        return BuildSelfExtractingPackage(run);
+    default: // The user lays the files of a tree out.
+        return Step::GoOn;
+    }
+}
+
+Step TellEnd(CreateRun& run)
+{
+    if (!run.CreateFailed && run.project.Media.TargetMedia == kMediaFloppy)
+        run.ask.AddStatusLine(
+            "Antal skapade installationsdisketter: " + NumberText(run.FloppiesUsed) + " st");
+    run.ask.AddStatusLine(run.CreateFailed ? "Processen avbruten!" : "Färdig!");
+    return Step::GoOn;
+}
+
+constexpr Step (*kStepsInOrder[])(CreateRun&) = {
+    Begin,           SortLongList,     ClearInternetFolder,   CopySetupExe,
+    CopyRuntimeExe,  CopyUnzipLibrary, CopyRegistryHelper,    CopySecondRegistryHelper,
+    CopyUninstaller, CopyLicenseRtf,   WriteAutorun,          WriteFileList,
+    WriteSetupInfo,  CopyLanguageFile, CreateDesignContainer, PlaceProjectFiles,
+    TellEnd};
+
+CreateResult RunPipeline(CreateRun& run)
+{
+    const bool wentThrough =
+        std::ranges::all_of(kStepsInOrder, [&](auto step) { return step(run) == Step::GoOn; });
+    if (!run.isCancelled)
+        run.ask.Beep();
+    EnableButtons(run.form, true);
+    if (run.isCancelled)
+        return CreateResult::Stopped;
+    const bool isWhole = wentThrough && !run.CreateFailed && !run.isIncomplete;
+    return isWhole ? CreateResult::Done : CreateResult::Failed;
+}
+
+} // namespace
+
+CreateResult RunCreate(CreateRun& run)
+{
+    try {
+        Prepare(run);
+        if (RunChecks(run) == Check::Stopped)
+            return CreateResult::Stopped;
+        return RunPipeline(run);
+    } catch (const RunError& error) {
+        // Kept: the buttons stay disabled until the form is opened anew.
+        run.failure = error;
+        run.ask.AddStatusLine("Kan ej skapa!");
+        run.ask.Critical("Fel", "Fel! Kan ej skriva till destinationsenheten!");
+        return CreateResult::Failed;
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,45 @@
+// One run of Create: what its checks and steps share.
+#pragma once
+
+#include "builder/compression_interface.h"
+#include "builder/create_form.h"
+#include "builder/create_options.h"
+#include "platform/run_error.h"
+
+#include <optional>
+
+namespace quillon {
+
+/// Whether a check lets Create go on. A check that stops has shown its box.
+enum class Check { Passed, Stopped };
+
+/// Whether the pipeline goes on behind a step. A step that stops it has told why.
+enum class Step { GoOn, Stop };
+
+struct CreateRun {
+    Project& project;
+    OpenProjectState& state;
+    CreateForm& form;
+    const CreateOptions& options;
+    Host& host;
+    Ask& ask;
+    CompressionInterface& compression;
+    DesignSurface surface = {};
+
+    Text DestDir = {};
+    // A compression failed; the pipeline goes on and tells it at its end.
+    bool CreateFailed = false;
+    Integer FloppiesUsed = 0;
+    Long FilesInList = 0;
+
+    // An answer in the middle of the pipeline ended it.
+    bool isCancelled = false;
+    // The package lacks something although the status lines end as after a success.
+    bool isIncomplete = false;
+    // What the machine could not do, where a status line tells it without the file.
+    std::optional<RunError> failure = {};
+
+    Text InDestination(const Text& name) const { return DestDir + "\\" + name; }
+};
+
+} // namespace quillon

@@ -1,0 +1,97 @@
+#include "builder/file_container.h"
+
+#include "builder/compression_setup.h"
+#include "builder/file_list_file.h"
+#include "builder/remove_quietly.h"
+#include "builder/source_address.h"
+#include "filelist/system_files.h"
+#include "project/profile_writer.h"
+
+namespace quillon {
+
+namespace {
+
+// False when the list took a file no more; the run is marked as failed then.
+bool AddProjectFiles(CreateRun& run)
+{
+    Long row = 0;
+    for (const FileListRow& file : run.project.Files.rows) {
+        if (IsFileSkippedForTargetOS(file[Filename],
+                                     run.project.OperatingSystem.TargetOperatingSystem))
+            continue;
+        ++row;
+        if (!file.HasSource())
+            continue;
+        const Text path = ConvertLongFilenameToShortFilename(run.host.files, file[Source]);
+        if (run.compression.IfcAddFileListItem(path, FileListRowKey(row)) == 0) {
+            run.ask.AddStatusLine("Fel inträffade! Kan ej addera filen " + file[Filename] +
+                                  " till filtabell!");
+            run.CreateFailed = true;
+            return false;
+        }
+        run.ask.AddStatusLine("Adderar '" + file[Filename] + "'");
+    }
+    return true;
+}
+
+Text ContainerPassword(const Project& project)
+{
+    const bool asksForPassword = project.DialogBoxes.PasswordDlg == 1;
+    return asksForPassword ? project.DialogBoxData.CorrectPassword : Text();
+}
+
+void TellSuccess(CreateRun& run, bool spanning)
+{
+    if (!spanning)
+        run.ask.AddStatusLine("Skriver filtabell");
+    run.ask.AddStatusLine("Stänger FILEDATA.DAT");
+    // Kept: the file's name is misspelt in this line.
+    run.ask.AddStatusLine("Antal filer som adderats till FILEDATA.DTA: " +
+                          ConvertLongToString(run.FilesInList) + " st");
+}
+
+void WriteFloppyCount(CreateRun& run)
+{
+    run.ask.AddStatusLine("Uppdaterar QNSETUP.INF med diskettinformation");
+    WriteProfileValue(run.host.files, run.InDestination(PackageFile::kSetupInformation), "Media",
+                      "Floppies", NumberText(run.FloppiesUsed));
+}
+
+} // namespace
+
+void TellCompressionError(Ask& ask, const Text& what, Integer result, const Text& missingReadRight)
+{
+    ask.AddStatusLine(" Komprimering av " + what + " misslyckades!");
+    ask.AddStatusLine(" DynaZip rapporterade fel #" + NumberText(result) + "!");
+    if (result == CompressionResult::kNoReadAccess)
+        ask.AddStatusLine(" Felmeddelande: " + missingReadRight);
+}
+
+void CreateFileContainer(CreateRun& run, bool spanning)
+{
+    InitCompression(run, CompressionLevel(run.form));
+    run.ask.AddStatusLine("Öppnar FILEDATA.DAT");
+    if (!AddProjectFiles(run))
+        return;
+
+    run.ask.AddStatusLine("Kopierar och komprimerar filer");
+    const Text target = run.InDestination(PackageFile::kFileContainer);
+    RemoveQuietly(run.host.files, target);
+    const Integer result =
+        run.compression.IfcCreateZipFile(target, spanning ? 1 : 0, ContainerPassword(run.project));
+    const bool failed = result > CompressionResult::kDone;
+    if (failed) {
+        TellCompressionError(run.ask, "filer", result,
+                             "Saknar läsrättigheter till en eller flera filer!");
+        run.ask.AddStatusLine(Text(" Kan ej skapa ") + PackageFile::kFileContainer);
+        run.CreateFailed = true;
+    }
+    run.FloppiesUsed = spanning ? run.compression.IfcGetNrFloppiesUsed() : Integer(0);
+    run.compression.IfcFreeFileList();
+    if (!failed)
+        TellSuccess(run, spanning);
+    if (spanning)
+        WriteFloppyCount(run);
+}
+
+} // namespace quillon

@@ -1,0 +1,98 @@
+#include "builder/file_list_file.h"
+
+#include "builder/source_address.h"
+#include "filelist/system_files.h"
+#include "formats/file_frame.h"
+#include "formats/install_row.h"
+#include "helpers/ansi_text.h"
+#include "helpers/product.h"
+#include "platform/whole_file.h"
+
+namespace quillon {
+
+namespace {
+
+struct Viewer {
+    std::string_view name;
+    int code;
+};
+
+constexpr Viewer kViewers[] = {{"Notepad", 1}, {"Winhelp", 2}, {"WordPad", 3}, {"Write", 4}};
+
+int ViewerCode(const Text& name)
+{
+    for (const Viewer& viewer : kViewers)
+        if (viewer.name == name)
+            return viewer.code;
+    return 0;
+}
+
+InstallRow MakeInstallRow(const FileListRow& row, Long number, const FileSystem& files)
+{
+    InstallRow made{.number = int(number),
+                    .name = row[Filename],
+                    .destination = row[Destination],
+                    .iconMarker = row[IconMarker],
+                    .copyOptions = row[CopyOptions],
+                    .component = int(LeadingNumber(row[ComponentNumber])),
+                    .iconTitle = row[IconDesc],
+                    .iconParameters = row[IconPar],
+                    .workFolder = row[IconWorkDir],
+                    .iconFile = row[IconFile],
+                    .viewer = ViewerCode(row[IconDocReader])};
+    if (row.HasSource()) {
+        // The very path that the container reads, so that size and content are of one file.
+        const Text source = ConvertLongFilenameToShortFilename(files, row[Source]);
+        const FileFacts facts = files.Facts(source);
+        if (facts.isFolder)
+            throw RunError(ErrorNumber::kFileNotFound, source);
+        made.size = facts.size;
+        made.sourceFolder = SourceFolderOnMedium(source);
+    }
+    return made;
+}
+
+void WriteRow(AnsiTextFile& file, const InstallRow& row)
+{
+    const Text line = InstallRowLine(row);
+    // A question mark in place of a letter would send the runtime after another file.
+    if (!AnsiText::Holds(line))
+        throw RunError(ErrorNumber::kBadFileName, row.name);
+    file.Line(line);
+}
+
+} // namespace
+
+Text FileListRowKey(Long n)
+{
+    return "F" + ConvertLongToString(n);
+}
+
+int WriteFileListFile(const Text& path, const Project& project, const Host& host,
+                      FileListOutcome& outcome)
+{
+    const auto write = [&] {
+        AnsiTextFile file(host.files, path);
+        for (const Text& line : FileHeadLines(kFileListType))
+            file.Line(line);
+        file.Line();
+        file.Line("[FileList]");
+        for (const FileListRow& row : project.Files.rows) {
+            if (IsFileSkippedForTargetOS(row[Filename],
+                                         project.OperatingSystem.TargetOperatingSystem))
+                continue;
+            WriteRow(file, MakeInstallRow(row, outcome.FilesInList + 1, host.files));
+            ++outcome.FilesInList;
+        }
+        if (!project.Files.rows.empty()) {
+            file.Line(kEndOfList);
+            file.Line();
+        }
+        file.Line(kEndOfFile);
+        file.Line();
+        file.Close();
+    };
+    return RunErrorNumber(write, outcome.failure);
+}
+
+} // namespace quillon

@@ -1,0 +1,109 @@
+#include "builder/one_by_one.h"
+
+#include "builder/compression_setup.h"
+#include "builder/file_container.h"
+#include "builder/source_address.h"
+#include "filelist/system_files.h"
+#include "helpers/windows_path.h"
+
+namespace quillon {
+
+namespace {
+
+// Behind the names of files that lie all in one folder, so that none of them looks runnable.
+constexpr char kNameMark = '_';
+
+// Where the routine stands, for the line that tells its failure.
+struct Layout {
+    Text base;
+    Text folder;
+};
+
+void MakeFolder(CreateRun& run, const Text& folder)
+{
+    if (!run.host.files.DirCreate(folder))
+        throw RunError(ErrorNumber::kPathFileAccess, folder);
+}
+
+void MakeBaseFolder(CreateRun& run, const Text& folder)
+{
+    if (run.host.files.DirExists(folder)) {
+        run.ask.AddStatusLine("Katalogen '" + folder + "' existerar redan. Behöver ej skapa.");
+        return;
+    }
+    run.ask.AddStatusLine("Skapar '" + folder + "'");
+    MakeFolder(run, folder);
+}
+
+// A folder below %DESTDIR lands below a plain folder DESTDIR.
+Text FolderInTree(const Text& base, const Text& destination)
+{
+    const Text plain = RemoveLastBackslash(destination);
+    return base + "\\" + (plain.starts_with('%') ? plain.substr(1) : plain);
+}
+
+void CopyPlain(CreateRun& run, Layout& layout, const FileListRow& row)
+{
+    const bool keepsTree = run.options.CreateFolderStructureInFolderSetupFiles != kOff;
+    layout.folder = keepsTree ? FolderInTree(layout.base, row[Destination]) : layout.base;
+    if (keepsTree && !run.host.files.DirExists(layout.folder))
+        MakeFolder(run, layout.folder);
+    const Text target = layout.folder + "\\" + row[Filename];
+    run.host.files.CopyContent(ConvertLongFilenameToShortFilename(run.host.files, row[Source]),
+                               keepsTree ? target : target + kNameMark);
+    run.ask.AddStatusLine("Kopierar '" + row[Filename] + "'");
+}
+
+void CopyCompressed(CreateRun& run, const Layout& layout, const FileListRow& row)
+{
+    run.compression.IfcInitDynaZipStruct("", 0, CompressionLevel(run.form));
+    run.compression.IfcResetFileList();
+    const Text source = ConvertLongFilenameToShortFilename(run.host.files, row[Source]);
+    Integer result = CompressionResult::kSourceMissing;
+    if (run.compression.IfcAddFileListItem(source) != 0)
+        result =
+            run.compression.IfcCreateZipFile(layout.base + "\\" + row[Filename] + kNameMark, 0, "");
+    run.compression.IfcFreeFileList();
+    if (result > CompressionResult::kDone) {
+        TellCompressionError(run.ask, "'" + row[Filename] + "'", result,
+                             "Saknar läsrättigheter till fil!");
+        run.CreateFailed = true;
+        return;
+    }
+    run.ask.AddStatusLine("Kopierar och komprimerar '" + row[Filename] + "'");
+}
+
+void CopyAllFiles(CreateRun& run, Layout& layout)
+{
+    if (run.options.PlaceCompressedFilesInFolderSetupFiles != kOff)
+        MakeBaseFolder(run, layout.base);
+    for (const FileListRow& row : run.project.Files.rows) {
+        const bool isLeftOut =
+            !row.HasSource() ||
+            IsFileSkippedForTargetOS(row[Filename],
+                                     run.project.OperatingSystem.TargetOperatingSystem);
+        if (isLeftOut)
+            continue;
+        if (CompressionLevel(run.form) == kStoredLevel)
+            CopyPlain(run, layout, row);
+        else
+            CopyCompressed(run, layout, row);
+    }
+}
+
+} // namespace
+
+void CopyFilesOneByOne(CreateRun& run)
+{
+    const bool inSubfolder = run.options.PlaceCompressedFilesInFolderSetupFiles != kOff;
+    const Text base = inSubfolder ? run.InDestination(PackageFile::kOneByOneFolder) : run.DestDir;
+    Layout layout{base, base};
+    const auto copyAll = [&] { CopyAllFiles(run, layout); };
+    if (RunErrorNumber(copyAll, run.failure) == ErrorNumber::kNone)
+        return;
+    // Kept: said also of a file that can't be copied.
+    run.ask.AddStatusLine("Kan ej skapa katalogen '" + layout.folder + "'!");
+    run.isIncomplete = true;
+}
+
+} // namespace quillon
