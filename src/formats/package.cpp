@@ -25,11 +25,6 @@ bool KeepsFilesOneByOne(const SetupInformation& setup)
            setup.project.Compression.KeepCompressedFilesOneAndOne != 0;
 }
 
-bool UsesContainer(const SetupInformation& setup)
-{
-    return MediumOf(setup) != Medium::CdTree && !KeepsFilesOneByOne(setup);
-}
-
 Text FailureText(const RunError& error)
 {
     return "Fel # " + NumberText(error.Number());
@@ -66,21 +61,6 @@ void ReadInfFiles(const FileSystem& files, Package& package)
     package.rows = std::move(list.rows);
 }
 
-Text LooseFilePath(const Package& package, const InstallRow& row)
-{
-    if (MediumOf(package.setup) == Medium::CdTree)
-        return JoinPath(JoinPath(package.folder, row.sourceFolder), row.name);
-
-    const bool hasOwnFolder = package.setup.PlaceCompressedFilesInFolderSetupFiles != kOff;
-    const Text base = hasOwnFolder ? JoinPath(package.folder, kSetupFilesFolder) : package.folder;
-    if (package.setup.CreateFolderStructureInFolderSetupFiles == kOff)
-        return JoinPath(base, row.name + "_");
-    Text folder = RemoveLastBackslash(row.destination);
-    if (folder.starts_with('%'))
-        folder.erase(0, 1);
-    return JoinPath(JoinPath(base, folder), row.name);
-}
-
 // The pieces of the container, one for each disk; nothing where one is missing.
 std::unique_ptr<InputFile> OpenPieces(const FileSystem& files, Package& package)
 {
@@ -114,22 +94,6 @@ void OpenContainer(const FileSystem& files, Package& package)
 
 using EntryOfRow = std::map<int, std::size_t>; // by the row's number
 
-// The numbers in a comment such as "F1 F7"; a word that names no row counts as row 0.
-std::vector<int> RowNumbers(std::string_view comment)
-{
-    std::vector<int> numbers;
-    while (!comment.empty()) {
-        const std::string_view word = comment.substr(0, comment.find(' '));
-        comment.remove_prefix(std::min(word.size() + 1, comment.size()));
-        int number = 0;
-        const char* const end = word.data() + word.size();
-        const bool isKey =
-            word.starts_with('F') && std::from_chars(word.data() + 1, end, number).ptr == end;
-        numbers.push_back(isKey ? number : 0);
-    }
-    return numbers;
-}
-
 EntryOfRow FindEntries(Package& package)
 {
     EntryOfRow found;
@@ -157,15 +121,13 @@ bool HasSource(const InstallRow& row)
 
 RowBytes MissingBytes(const InstallRow& row, Text expectedPath)
 {
-    // A row without a source is written like an empty file from a drive's root: no folder, size 0.
-    const bool mayHaveNone = row.size == 0 && row.sourceFolder.empty();
-    return {.place = mayHaveNone ? RowBytes::Place::None : RowBytes::Place::Missing,
+    return {.place = MayLackSource(row) ? RowBytes::Place::None : RowBytes::Place::Missing,
             .path = std::move(expectedPath)};
 }
 
 RowBytes FindLooseFile(const FileSystem& files, const Package& package, const InstallRow& row)
 {
-    Text path = LooseFilePath(package, row);
+    Text path = LooseFilePath(package.folder, package.setup, row);
     if (!files.FileExists(path))
         return MissingBytes(row, std::move(path));
     return {.place = RowBytes::Place::LooseFile, .path = std::move(path)};
@@ -195,6 +157,46 @@ void FindBytesOfRows(const FileSystem& files, Package& package)
 }
 
 } // namespace
+
+bool UsesContainer(const SetupInformation& setup)
+{
+    return MediumOf(setup) != Medium::CdTree && !KeepsFilesOneByOne(setup);
+}
+
+std::vector<int> RowNumbers(std::string_view comment)
+{
+    std::vector<int> numbers;
+    while (!comment.empty()) {
+        const std::string_view word = comment.substr(0, comment.find(' '));
+        comment.remove_prefix(std::min(word.size() + 1, comment.size()));
+        int number = 0;
+        const char* const end = word.data() + word.size();
+        const bool isKey =
+            word.starts_with('F') && std::from_chars(word.data() + 1, end, number).ptr == end;
+        numbers.push_back(isKey ? number : 0);
+    }
+    return numbers;
+}
+
+Text LooseFilePath(const Text& packageFolder, const SetupInformation& setup, const InstallRow& row)
+{
+    if (MediumOf(setup) == Medium::CdTree)
+        return JoinPath(JoinPath(packageFolder, row.sourceFolder), row.name);
+
+    const bool hasOwnFolder = setup.PlaceCompressedFilesInFolderSetupFiles != kOff;
+    const Text base = hasOwnFolder ? JoinPath(packageFolder, kSetupFilesFolder) : packageFolder;
+    if (setup.CreateFolderStructureInFolderSetupFiles == kOff)
+        return JoinPath(base, row.name + "_");
+    Text folder = RemoveLastBackslash(row.destination);
+    if (folder.starts_with('%'))
+        folder.erase(0, 1);
+    return JoinPath(JoinPath(base, folder), row.name);
+}
+
+bool MayLackSource(const InstallRow& row)
+{
+    return row.size == 0 && row.sourceFolder.empty();
+}
 
 Text DiskFolder(const Text& packageFolder, int disk)
 {

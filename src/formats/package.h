@@ -47,6 +47,20 @@ struct Package {
 /// The folder of a floppy package's disk: the package's own for the first, "disk2" in it and so on.
 Text DiskFolder(const Text& packageFolder, int disk);
 
+/// True where the rows' bytes lie in the container and not in files by themselves.
+bool UsesContainer(const SetupInformation& setup);
+
+/// The numbers of the rows that an entry's comment, such as "F1 F7", names; 0 for a word that names
+/// none.
+std::vector<int> RowNumbers(std::string_view comment);
+
+/// Where a row's bytes lie in a package without a container.
+Text LooseFilePath(const Text& packageFolder, const SetupInformation& setup, const InstallRow& row);
+
+/// True where the row may have been written without a source: it looks like an empty file from a
+/// drive's root, with no folder and the size 0.
+bool MayLackSource(const InstallRow& row);
+
 /// Reads what there is to read. Whatever is missing or damaged is told in `faults` or by the place
 /// of a row; nothing is thrown for it.
 Package OpenPackage(const FileSystem& files, const Text& folder);

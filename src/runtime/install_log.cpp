@@ -1,5 +1,7 @@
 #include "runtime/install_log.h"
 
+#include "platform/whole_file.h"
+
 #include <algorithm>
 
 namespace quillon {
@@ -87,6 +89,15 @@ std::optional<std::vector<LogRecord>> ReadInstallLog(std::string_view bytes)
         at = end + kLineBreak.size();
     }
     return records;
+}
+
+std::optional<Text> ProductOfLog(const FileSystem& files, const Text& path)
+{
+    const auto records = ReadInstallLog(ReadWholeFile(files, path));
+    for (const LogRecord& record : records.value_or(std::vector<LogRecord>{}))
+        if (record.kind == RecordKind::Product)
+            return record.fields[0];
+    return std::nullopt;
 }
 
 void InstallLog::Open(FileSystem& files, const Text& path)

@@ -47,12 +47,16 @@ std::optional<LogRecord> ReadLogRecord(std::string_view line);
 /// broke off in the middle is left out.
 std::optional<std::vector<LogRecord>> ReadInstallLog(std::string_view bytes);
 
+/// The product that a log file is of; nothing where the file is no log.
+std::optional<Text> ProductOfLog(const FileSystem& files, const Text& path);
+
 class InstallLog {
 public:
     /// Writes to the file from now on, beginning with all records so far.
     void Open(FileSystem& files, const Text& path);
     void Close();
-    bool IsOpen() const { return file_ != nullptr; }
+    /// Writes no more; the file can be removed.
+    void Abandon() { file_.reset(); }
 
     void Add(RecordKind kind, std::vector<Text> fields);
     /// Whether there is a record of that kind with this path, ignoring case.

@@ -1,0 +1,169 @@
+#include "runtime/file_installer.h"
+
+#include "helpers/version_resource.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "runtime/copy_decision.h"
+
+namespace quillon {
+
+namespace {
+
+// A file that someone holds open can be told by nothing but the refusal to move it.
+bool IsInUse(const RunError& error)
+{
+    return error.Number() == ErrorNumber::kPermissionDenied ||
+           error.Number() == ErrorNumber::kPathFileAccess;
+}
+
+} // namespace
+
+RegistryKey SharedFilesKey()
+{
+    return {RegistryRoot::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\SharedDLLs"};
+}
+
+Text VersionOfFile(const FileSystem& files, const Text& path)
+{
+    const auto file = files.OpenInput(path);
+    return GetFileVersionData([&](std::uint64_t position, std::span<std::byte> buffer) {
+               file->Seek(position);
+               std::size_t total = 0;
+               for (std::size_t got = 1; got > 0 && total < buffer.size(); total += got)
+                   got = file->Read(buffer.subspan(total));
+               return total;
+           })
+        .FileVersion;
+}
+
+FileInstaller::FileInstaller(const InstallInput& input, Changes& changes, InstallLog& record)
+    : input_(input), changes_(changes), record_(record)
+{
+}
+
+void FileInstaller::InstallAll()
+{
+    for (const PlannedFile& file : input_.plan.files)
+        total_ += file.row->size;
+    for (const PlannedFile& file : input_.plan.files)
+        InstallOne(file);
+}
+
+void FileInstaller::InstallOne(const PlannedFile& file)
+{
+    FileSystem& files = input_.host.files;
+    const Text& options = file.row->copyOptions;
+    if (!input_.package.HasBytes(*file.row)) {
+        input_.log.Skipped(file.path, "paketet har ingen källfil till raden");
+        return;
+    }
+    changes_.MakeFolder(ExtractDirectory(file.path));
+    const bool existed = files.FileExists(file.path);
+    // A version can only be read from a file on disk, so such a file is written in any case.
+    const bool decidesLate = existed && HasOption(options, CopyOption::kVersionCheck);
+    bool wanted = decidesLate || IsWanted(file, {});
+    Text staged;
+    if (wanted) {
+        staged = Stage(file);
+        wanted = !decidesLate || IsWanted(file, staged);
+    }
+    const bool atRestart = wanted && !Put(file, staged);
+    if (!wanted && !staged.empty())
+        files.RemoveFile(staged);
+    if (HasOption(options, CopyOption::kShared) && !HasOption(options, CopyOption::kNeverUninstall))
+        CountSharedFile(file, existed);
+    if (wanted)
+        NoteWhatFollows(file, atRestart);
+}
+
+bool FileInstaller::IsWanted(const PlannedFile& file, const Text& staged)
+{
+    const FileSystem& files = input_.host.files;
+    if (files.DirExists(file.path))
+        throw RunError(ErrorNumber::kPathFileAccess, file.path);
+    if (!files.FileExists(file.path))
+        return true;
+    const FileFacts facts = files.Facts(file.path);
+    ComparedFile existing{facts.modified, {}, facts.isReadOnly};
+    ComparedFile ours{input_.package.Modified(*file.row), {}, false};
+    if (!staged.empty()) {
+        existing.version = VersionOfFile(files, file.path);
+        ours.version = VersionOfFile(files, staged);
+    }
+    CopyDecision decision = DecideCopy(file.row->copyOptions, existing, ours);
+    if (decision.verdict == CopyVerdict::Ask) {
+        const bool replace =
+            !input_.silent &&
+            input_.ask.YesNo(input_.setup.project.ProjectName.ProjectName,
+                             input_.texts(Message::FileExists, file.path), Ask::Stops::OnNo);
+        decision = {replace ? CopyVerdict::Copy : CopyVerdict::Keep,
+                    input_.silent ? "filen finns redan och ingen kan tillfrågas"
+                                  : "filen finns redan och ska behållas"};
+    }
+    if (decision.verdict == CopyVerdict::Keep)
+        input_.log.Skipped(file.path, decision.reason);
+    return decision.verdict == CopyVerdict::Copy;
+}
+
+Text FileInstaller::Stage(const PlannedFile& file)
+{
+    const Text staged = changes_.StagingPath(file.path);
+    const auto output = input_.host.files.OpenOutput(staged);
+    input_.package.Extract(*file.row, [&](std::span<const std::byte> bytes) {
+        output->Write(bytes);
+        done_ += bytes.size();
+        input_.ask.ShowProgress(done_, total_);
+        input_.ask.YieldToEvents();
+    });
+    output->Close();
+    input_.host.files.SetModified(staged, input_.package.Modified(*file.row));
+    return staged;
+}
+
+// False where the file takes its place when the machine starts next.
+bool FileInstaller::Put(const PlannedFile& file, const Text& staged)
+{
+    const Text& options = file.row->copyOptions;
+    FileSystem& files = input_.host.files;
+    const auto recorded = HasOption(options, CopyOption::kNeverUninstall) ? Changes::Recorded::No
+                                                                          : Changes::Recorded::Yes;
+    if (files.FileExists(file.path) && HasOption(options, CopyOption::kBackup))
+        changes_.KeepBackup(file.path);
+    if (HasOption(options, CopyOption::kSetWriteProtection))
+        files.SetReadOnly(staged, true);
+    try {
+        changes_.PutFile(staged, file.path, recorded);
+        input_.log.Line("Kopierar " + file.path);
+        return true;
+    } catch (const RunError& error) {
+        if (!IsInUse(error) || !HasOption(options, CopyOption::kActiveFile))
+            throw;
+        changes_.PutFileAtRestart(staged, file.path, recorded);
+        input_.log.Line("Filen " + file.path + " används och ersätts när datorn startas om");
+        return false;
+    }
+}
+
+// A file that was there before and that nobody counted has a user already.
+void FileInstaller::CountSharedFile(const PlannedFile& file, bool existed)
+{
+    if (record_.Has(RecordKind::Shared, file.path))
+        return;
+    const auto data = input_.target.ReadValue(SharedFilesKey(), file.path);
+    const std::uint32_t before = data ? NumberOf(*data).value_or(0) : existed ? 1 : 0;
+    // The key first, since it can go only when the count in it has gone.
+    changes_.MakeKey(SharedFilesKey());
+    record_.Add(RecordKind::Shared, {file.path});
+    changes_.WriteValue(SharedFilesKey(), file.path, NumberData(before + 1), Changes::Recorded::No);
+}
+
+void FileInstaller::NoteWhatFollows(const PlannedFile& file, bool atRestart)
+{
+    const Text& options = file.row->copyOptions;
+    if (HasOption(options, CopyOption::kRegister))
+        (atRestart ? toRegisterAtRestart_ : toRegister_).push_back(file.path);
+    if (HasOption(options, CopyOption::kFont))
+        fonts_.push_back(file);
+}
+
+} // namespace quillon

@@ -1,0 +1,44 @@
+// Puts the planned files in their places, one after the other: writes each beside its place first,
+// decides about a file that is already there by the row's copy options, and exchanges the two.
+#pragma once
+
+#include "runtime/install.h"
+
+namespace quillon {
+
+class FileInstaller {
+public:
+    FileInstaller(const InstallInput& input, Changes& changes, InstallLog& record);
+
+    void InstallAll();
+
+    /// What is to be registered when everything is in its place, in the order of the rows.
+    const std::vector<Text>& FilesToRegister() const { return toRegister_; }
+    const std::vector<Text>& FilesToRegisterAtRestart() const { return toRegisterAtRestart_; }
+    const std::vector<PlannedFile>& Fonts() const { return fonts_; }
+
+private:
+    void InstallOne(const PlannedFile& file);
+    bool IsWanted(const PlannedFile& file, const Text& staged);
+    Text Stage(const PlannedFile& file);
+    bool Put(const PlannedFile& file, const Text& staged);
+    void CountSharedFile(const PlannedFile& file, bool existed);
+    void NoteWhatFollows(const PlannedFile& file, bool atRestart);
+
+    const InstallInput& input_;
+    Changes& changes_;
+    InstallLog& record_;
+    std::vector<Text> toRegister_;
+    std::vector<Text> toRegisterAtRestart_;
+    std::vector<PlannedFile> fonts_;
+    std::uint64_t done_ = 0;
+    std::uint64_t total_ = 0;
+};
+
+/// Where the system counts the products that use a shared file.
+RegistryKey SharedFilesKey();
+
+/// The version of a program or library; empty where it has none.
+Text VersionOfFile(const FileSystem& files, const Text& path);
+
+} // namespace quillon

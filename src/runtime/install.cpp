@@ -1,0 +1,257 @@
+#include "runtime/install.h"
+
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "platform/whole_file.h"
+#include "runtime/file_installer.h"
+#include "runtime/ini_changes.h"
+#include "runtime/package_names.h"
+#include "runtime/planned_shortcuts.h"
+#include "runtime/uninstall_entry.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+class Installation {
+public:
+    Installation(const InstallInput& input)
+        : input_(input), changes_(input.host, input.target, record_, input.log),
+          files_(input, changes_, record_)
+    {
+    }
+
+    InstallResult Run()
+    {
+        try {
+            DoEverything();
+        } catch (...) {
+            input_.log.Line("Installationen avbryts. Alla ändringar återställs.");
+            input_.ask.AddStatusLine(input_.texts[Message::Undoing]);
+            record_.Abandon();
+            changes_.Undo();
+            throw;
+        }
+        changes_.Commit();
+        return {changes_.NeedsRestart()};
+    }
+
+private:
+    void DoEverything();
+    void OpenRecord();
+    void DeleteOldProgramGroup();
+    void WriteRegistry();
+    void WriteRegistryLine(const RegistryLine& line);
+    void RegisterFiles();
+    void RegisterOne(const Text& path);
+    void RegisterAtRestart();
+    void RegisterFonts();
+    void PutHelper(const char* helper, const Text& path);
+    void PutUninstaller();
+
+    const InstallInput& input_;
+    InstallLog record_;
+    Changes changes_;
+    FileInstaller files_;
+};
+
+void Installation::DoEverything()
+{
+    for (const SkippedPart& part : input_.plan.skipped)
+        input_.log.Skipped(part.what, part.reason);
+    input_.ask.AddStatusLine(input_.texts[Message::Copying]);
+    changes_.MakeFolder(input_.plan.mainFolder);
+    OpenRecord();
+    DeleteOldProgramGroup();
+    for (const Text& folder : input_.plan.folders)
+        changes_.MakeFolder(folder);
+    files_.InstallAll();
+    input_.ask.AddStatusLine(input_.texts[Message::Settings]);
+    WriteRegistry();
+    WriteIniFiles({input_.host.files, changes_, record_, input_.log}, input_.plan.ini);
+    RegisterFiles();
+    RegisterFonts();
+    PutUninstaller();
+    for (const PlannedShortcut& planned : input_.plan.shortcuts)
+        changes_.MakeShortcut(planned.path, planned.shortcut);
+    RegisterAtRestart();
+    record_.Close();
+    changes_.Finish();
+}
+
+// The record of an earlier installation of the same product goes on: what it made is ours too.
+void Installation::OpenRecord()
+{
+    if (!input_.plan.hasUninstaller)
+        return;
+    const Text& path = input_.plan.installLog;
+    FileSystem& files = input_.host.files;
+    if (files.FileExists(path)) {
+        record_.TakeOver(
+            ReadInstallLog(ReadWholeFile(files, path)).value_or(std::vector<LogRecord>{}));
+        changes_.RemoveFile(path);
+    }
+    record_.Add(RecordKind::Product, {input_.setup.project.ProjectName.ProjectName});
+    for (const Message message :
+         {Message::UninstallTitle, Message::UninstallQuestion, Message::UninstallRunning,
+          Message::UninstallDone, Message::UninstallPartly})
+        record_.Add(RecordKind::Message, {Text(KeyOf(message).key), input_.texts[message]});
+    changes_.MakeUnrecordedFile(path);
+    record_.Open(files, path);
+}
+
+// Only shortcuts go, and the group stays where anything else lies in it.
+void Installation::DeleteOldProgramGroup()
+{
+    const Text& group = input_.plan.programGroup;
+    const bool wanted = input_.setup.project.InstallOptions.DeleteProgGroup != kOff;
+    if (!wanted || group.empty() || !input_.host.files.DirExists(group))
+        return;
+    for (const FolderEntry& entry : input_.host.files.List(group)) {
+        const Text path = JoinPath(group, entry.name);
+        if (entry.facts.isFolder ||
+            !EqualIgnoreCase(
+                entry.name.substr(entry.name.size() - std::min<std::size_t>(4, entry.name.size())),
+                ".lnk"))
+            continue;
+        changes_.RemoveFile(path);
+        input_.log.Line("Tar bort den gamla genvägen " + path);
+    }
+}
+
+void Installation::WriteRegistry()
+{
+    for (const RegistryLine& line : input_.plan.registry)
+        WriteRegistryLine(line);
+}
+
+void Installation::WriteRegistryLine(const RegistryLine& line)
+{
+    using Kind = RegistryLine::Kind;
+    const Text root = RootName(line.key.root);
+    const Text name = KeyText(line.key) + (line.hasValue ? " :: " + line.valueName : "");
+    switch (line.kind) {
+    case Kind::Key:
+        changes_.MakeKey(line.key);
+        break;
+    case Kind::TextValue:
+        changes_.WriteValue(line.key, line.valueName, TextData(line.text));
+        break;
+    case Kind::NumberValue:
+        changes_.WriteValue(line.key, line.valueName, NumberData(line.number));
+        break;
+    case Kind::BytesValue:
+        changes_.WriteValue(line.key, line.valueName, BytesData(line.bytes));
+        break;
+    case Kind::Delete:
+        if (line.hasValue)
+            changes_.RemoveValue(line.key, line.valueName);
+        else
+            changes_.RemoveKeyWithAllBelow(line.key);
+        input_.log.Line("Tar bort ur registret: " + name);
+        return;
+    case Kind::Uninstall:
+        if (line.hasValue)
+            record_.Add(RecordKind::UninstallValue, {root, line.key.subKey, line.valueName});
+        else
+            record_.Add(RecordKind::UninstallKey, {root, line.key.subKey});
+        return;
+    case Kind::Unreadable:
+        return;
+    }
+    input_.log.Line("Skriver till registret: " + name);
+}
+
+void Installation::RegisterFiles()
+{
+    for (const Text& path : files_.FilesToRegister())
+        RegisterOne(path);
+    for (const Text& path : input_.plan.registerFiles)
+        if (input_.host.files.FileExists(path))
+            RegisterOne(path);
+        else
+            input_.log.Skipped("registreringen av " + path, "filen finns inte");
+}
+
+void Installation::RegisterOne(const Text& path)
+{
+    switch (changes_.RegisterServer(path)) {
+    case Registration::Done:
+        input_.log.Line("Registrerar " + path);
+        break;
+    case Registration::NotSelfRegistering:
+        input_.log.Skipped("registreringen av " + path, "filen kan inte registrera sig själv");
+        break;
+    case Registration::Failed:
+        input_.log.Skipped("registreringen av " + path, "filen kunde inte registreras");
+        break;
+    }
+}
+
+// Files that are in use take their place when the machine starts; a helper registers them then.
+void Installation::RegisterAtRestart()
+{
+    const std::vector<Text>& paths = files_.FilesToRegisterAtRestart();
+    if (paths.empty())
+        return;
+    const Text helper = JoinPath(input_.plan.mainFolder, "QNXREG2.EXE");
+    PutHelper(RuntimeFile::kSecondRegistryHelper, helper);
+    Text command = "\"" + helper + "\"";
+    for (const Text& path : paths) {
+        record_.Add(RecordKind::Registered, {path});
+        command += " \"" + path + "\"";
+    }
+    changes_.WriteValue(
+        {RegistryRoot::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"},
+        "QNXREG2 " + input_.setup.project.ProjectName.ProjectName, TextData(command),
+        Changes::Recorded::No);
+}
+
+void Installation::RegisterFonts()
+{
+    const RegistryKey key{RegistryRoot::LocalMachine,
+                          input_.target.System() >= SystemKind::WinNT4
+                              ? "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts"
+                              : "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Fonts"};
+    const Text fontFolder = input_.target.Folder(TargetFolder::Fonts);
+    for (const PlannedFile& font : files_.Fonts()) {
+        const Text description = input_.variables.Expand(font.row->iconTitle);
+        const bool marked = description.find("(TrueType)") != Text::npos;
+        const bool inFontFolder = EqualIgnoreCase(ExtractDirectory(font.path), fontFolder);
+        changes_.WriteValue(key, description + (marked ? "" : " (TrueType)"),
+                            TextData(inFontFolder ? font.row->name : font.path));
+        changes_.AnnounceFont(font.path);
+        input_.log.Line("Registrerar teckensnittet " + font.path);
+    }
+}
+
+void Installation::PutHelper(const char* helper, const Text& path)
+{
+    const Text staged = changes_.StagingPath(path);
+    input_.host.files.CopyContent(JoinPath(input_.helpersFolder, helper), staged);
+    changes_.PutFile(staged, path);
+}
+
+void Installation::PutUninstaller()
+{
+    if (!input_.plan.hasUninstaller)
+        return;
+    const Text path = UninstallerPath(input_.plan.mainFolder);
+    const Text staged = changes_.StagingPath(path);
+    input_.host.files.CopyContent(JoinPath(input_.helpersFolder, RuntimeFile::kUninstaller),
+                                  staged);
+    // The uninstaller goes last and by itself, and stays where another product needs it.
+    changes_.PutFile(staged, path, Changes::Recorded::No);
+    WriteUninstallEntry(input_, changes_);
+}
+
+} // namespace
+
+InstallResult Install(const InstallInput& input)
+{
+    return Installation(input).Run();
+}
+
+} // namespace quillon

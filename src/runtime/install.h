@@ -1,0 +1,33 @@
+// Does what the plan says: folders, files, registry, INI files, registrations, shortcuts,
+// uninstaller. Whatever fails, everything done so far is undone before the failure is passed on.
+#pragma once
+
+#include "platform/ask.h"
+#include "runtime/changes.h"
+#include "runtime/install_plan.h"
+#include "runtime/package_reader.h"
+
+namespace quillon {
+
+struct InstallInput {
+    Host& host;
+    Target& target;
+    Ask& ask;
+    TextLog& log;
+    const LanguageTexts& texts;
+    const SetupInformation& setup;
+    const SetupVariables& variables;
+    const InstallPlan& plan;
+    const PackageReader& package;
+    Text helpersFolder; // where the runtime's own programs lie while it works
+    bool silent = false;
+};
+
+struct InstallResult {
+    bool needsRestart = false;
+};
+
+/// Throws `RunError`, `ZipError` or `SetupFailure`, after having undone everything.
+InstallResult Install(const InstallInput& input);
+
+} // namespace quillon

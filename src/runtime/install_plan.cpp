@@ -1,0 +1,174 @@
+#include "runtime/install_plan.h"
+
+#include "helpers/windows_path.h"
+#include "runtime/exit_codes.h"
+#include "runtime/install_log.h"
+#include "runtime/later_stages.h"
+#include "runtime/package_reader.h"
+#include "runtime/planned_shortcuts.h"
+#include "runtime/switches.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::string_view kNewWindowsBringThem[] = {"OLEAUT32.DLL", "OLEPRO32.DLL", "ASYCFILT.DLL",
+                                                     "COMCAT.DLL",   "MSVCRT.DLL",   "MFC42.DLL",
+                                                     "STDOLE2.TLB"};
+
+const section::FileComponent* ComponentInUse(const PlanInput& input, int component)
+{
+    if (input.setup.UseComponents == kOff || component < 1 || component > int(kComponentCount))
+        return nullptr;
+    const auto& record = input.setup.project.FileComponents[std::size_t(component) - 1];
+    return record.Comp == 1 ? &record : nullptr;
+}
+
+bool FindsNoEarlierVersion(const PlanInput& input, const section::FileComponent& component)
+{
+    return component.CompAdvOnlyUpdate != 0 &&
+           !input.host.files.FileExists(input.variables.ExpandPath(component.CompAdvUpdateRefFile));
+}
+
+// Why the row is left out; empty where it is not.
+Text ReasonToSkip(const PlanInput& input, const InstallRow& row)
+{
+    if (!IsComponentInstalled(input, row.component))
+        return "komponent " + NumberText(row.component) + " installeras inte";
+    const bool dontTouch = input.setup.project.InstallOptions.DontInstallSysFilesOnNewWin != kOff;
+    if (dontTouch && IsSystemFileOfNewWindows(row.name) && IsNewWindows(input.target.System()))
+        return "systemfilen ingår redan i den här versionen av Windows";
+    return {};
+}
+
+// A folder without a drive lies below the main folder.
+Text DestinationOf(const PlanInput& input, const InstallRow& row)
+{
+    const Text folder = input.variables.ExpandPath(row.destination);
+    const bool isBelow =
+        !folder.empty() && folder[0] != '%' && folder[0] != '\\' && folder.find(':') == Text::npos;
+    const Text whole = isBelow ? JoinPath(input.variables.Value("%DESTDIR"), folder) : folder;
+    const bool isOneName = row.name.find_first_of("\\/:") == Text::npos && !row.name.empty();
+    const bool staysBelow = whole.find("\\..") == Text::npos && row.name != "..";
+    if (!IsWholePath(whole) || !isOneName || !staysBelow)
+        throw SetupFailure(
+            ExitCode::Failed,
+            input.texts(Message::Damaged, row.name + " saknar giltig mapp: " + row.destination));
+    return whole;
+}
+
+void PlanRows(const PlanInput& input, InstallPlan& plan)
+{
+    for (const InstallRow& row : input.rows) {
+        const Text folder = DestinationOf(input, row);
+        const Text path = IsEmptyFolderRow(row) ? folder : JoinPath(folder, row.name);
+        const Text reason = ReasonToSkip(input, row);
+        if (!reason.empty())
+            plan.skipped.push_back({path, reason});
+        else if (IsEmptyFolderRow(row))
+            plan.folders.push_back(path);
+        else
+            plan.files.push_back({&row, path});
+    }
+}
+
+void ExpandRegistryLine(const PlanInput& input, RegistryLine& line)
+{
+    line.text = input.variables.Expand(line.text);
+    if (!IsTrueText(input.setup.project.InstallOptions.ExpandVariablesInRegistryKeys))
+        return;
+    line.key.subKey =
+        RemoveLastBackslash(RemoveDupBackslashesEx(input.variables.Expand(line.key.subKey)));
+    line.valueName = input.variables.Expand(line.valueName);
+}
+
+void PlanRegistry(const PlanInput& input, InstallPlan& plan)
+{
+    for (RegistryListLine& line : ReadRegistryLines(input.setup.project.Lists.Registry)) {
+        if (line.read.kind == RegistryLine::Kind::Unreadable) {
+            plan.skipped.push_back({"registerraden \"" + line.line + "\"", line.read.reason});
+        } else if (line.read.key.root == RegistryRoot::DynData) {
+            plan.skipped.push_back(
+                {"registerraden \"" + line.line + "\"", "HKEY_DYN_DATA kan inte ändras"});
+        } else {
+            ExpandRegistryLine(input, line.read);
+            plan.registry.push_back(std::move(line.read));
+        }
+    }
+}
+
+void PlanIni(const PlanInput& input, InstallPlan& plan)
+{
+    IniList list = ReadIniLines(input.setup.project.Lists.INIFiles);
+    for (const IniList::Unreadable& line : list.unreadable)
+        plan.skipped.push_back({"INI-raden \"" + line.line + "\"", line.reason});
+    for (IniLine& line : list.lines) {
+        // As the system itself does with a bare name.
+        const Text file = input.variables.ExpandPath(line.file);
+        line.file = IsWholePath(file) ? file : JoinPath(input.host.machine.GetWindowsDir(), file);
+        line.section = input.variables.Expand(line.section);
+        line.name = input.variables.Expand(line.name);
+        line.value = input.variables.Expand(line.value);
+        plan.ini.push_back(std::move(line));
+    }
+}
+
+void PlanRegistrations(const PlanInput& input, InstallPlan& plan)
+{
+    for (const Text& line : SplitLines(input.setup.project.Lists.RegisterFileList))
+        if (!TrimBlanks(line).empty())
+            plan.registerFiles.push_back(input.variables.ExpandPath(line));
+}
+
+} // namespace
+
+bool IsComponentInstalled(const PlanInput& input, int number)
+{
+    const section::FileComponent* const component = ComponentInUse(input, number);
+    if (component == nullptr)
+        return true;
+    const bool isTicked = component->CompDefault != 0 || component->CompMustAlwaysBeInstalled != 0;
+    return isTicked && !FindsNoEarlierVersion(input, *component);
+}
+
+bool IsSystemFileOfNewWindows(std::string_view name)
+{
+    return std::any_of(std::begin(kNewWindowsBringThem), std::end(kNewWindowsBringThem),
+                       [&](std::string_view file) { return EqualIgnoreCase(file, name); });
+}
+
+bool IsNewWindows(SystemKind system)
+{
+    return system == SystemKind::WinME || system == SystemKind::Win2000 ||
+           system == SystemKind::WinXP;
+}
+
+Text ChooseInstallLog(const FileSystem& files, const Text& mainFolder, const Text& product)
+{
+    for (int n = 1;; ++n) {
+        const Text path =
+            JoinPath(mainFolder, "QNXUNIN" + (n == 1 ? Text() : NumberText(n)) + ".LOG");
+        if (!files.FileExists(path) || ProductOfLog(files, path) == product)
+            return path;
+    }
+}
+
+InstallPlan MakeInstallPlan(const PlanInput& input)
+{
+    InstallPlan plan;
+    plan.mainFolder = input.variables.Value("%DESTDIR");
+    plan.hasUninstaller = input.setup.project.InstallOptions.UninstallSupport != kOff;
+    plan.installLog = ChooseInstallLog(input.host.files, plan.mainFolder,
+                                       input.setup.project.ProjectName.ProjectName);
+    plan.skipped = PartsOfLaterStages(input.setup);
+    PlanRows(input, plan);
+    PlanShortcuts(input, plan);
+    PlanRegistry(input, plan);
+    PlanIni(input, plan);
+    PlanRegistrations(input, plan);
+    return plan;
+}
+
+} // namespace quillon

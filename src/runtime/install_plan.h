@@ -1,0 +1,69 @@
+// What an installation will do, worked out before anything is done: which files go where, which are
+// left out and why, and everything else that the package asks for.
+#pragma once
+
+#include "formats/install_row.h"
+#include "formats/setup_information.h"
+#include "platform/host.h"
+#include "runtime/ini_lines.h"
+#include "runtime/language_file.h"
+#include "runtime/registry_lines.h"
+#include "runtime/setup_variables.h"
+
+namespace quillon {
+
+struct PlannedFile {
+    const InstallRow* row;
+    Text path;
+};
+
+struct PlannedShortcut {
+    Text path;
+    Shortcut shortcut;
+};
+
+/// Something that the package asks for and that is not done.
+struct SkippedPart {
+    Text what;
+    Text reason;
+};
+
+struct InstallPlan {
+    Text mainFolder;
+    std::vector<Text> folders; // of the rows that make an empty one
+    std::vector<PlannedFile> files;
+    std::vector<PlannedShortcut> shortcuts;
+    Text programGroup; // the folder of the group; empty where no shortcut goes into it
+    std::vector<RegistryLine> registry;
+    std::vector<IniLine> ini; // whole paths as files
+    std::vector<Text> registerFiles;
+    std::vector<SkippedPart> skipped;
+    bool hasUninstaller = false;
+    Text installLog; // where the record of this installation is kept
+};
+
+struct PlanInput {
+    const SetupInformation& setup;
+    const std::vector<InstallRow>& rows;
+    const SetupVariables& variables;
+    const LanguageTexts& texts;
+    const Host& host;
+    const Target& target;
+};
+
+/// Throws `SetupFailure` where a row has no place to go to.
+InstallPlan MakeInstallPlan(const PlanInput& input);
+
+/// False for a component that the user could choose and that is not ticked from the start, or that
+/// only updates an earlier version and finds none.
+bool IsComponentInstalled(const PlanInput& input, int component);
+
+/// The product's own log in the main folder, or the first free name: products that share a main
+/// folder keep a log each.
+Text ChooseInstallLog(const FileSystem& files, const Text& mainFolder, const Text& product);
+
+/// True for the files that Windows ME and newer systems bring themselves.
+bool IsSystemFileOfNewWindows(std::string_view name);
+bool IsNewWindows(SystemKind system);
+
+} // namespace quillon

@@ -1,0 +1,163 @@
+#include "runtime/package_reader.h"
+
+#include "formats/package.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "project/file_list.h"
+#include "runtime/exit_codes.h"
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::size_t kPieceSize = 64 * 1024;
+
+void CopyAll(InputFile& from, const ZipReader::Sink& sink)
+{
+    std::vector<std::byte> piece(kPieceSize);
+    for (std::size_t got = from.Read(piece); got > 0; got = from.Read(piece))
+        sink(std::span(piece).first(got));
+}
+
+} // namespace
+
+bool IsEmptyFolderRow(const InstallRow& row)
+{
+    return row.name == kEmptyFolderName;
+}
+
+PackageReader::PackageReader(const PackageInput& input) : input_(input)
+{
+    if (UsesContainer(input_.setup))
+        FindInContainer();
+    else
+        FindByThemselves();
+    for (const InstallRow& row : input_.rows)
+        if (!IsEmptyFolderRow(row) && !HasBytes(row) && !MayLackSource(row))
+            throw SetupFailure(ExitCode::Failed,
+                               input_.texts(Message::Damaged, row.name + " saknas"));
+}
+
+PackageReader::~PackageReader()
+{
+    container_.reset();
+    if (!joinedFile_.empty())
+        RunErrorNumber([&] { input_.host.files.RemoveFile(joinedFile_); });
+}
+
+void PackageReader::FindInContainer()
+{
+    bool hasFiles = false;
+    for (const InstallRow& row : input_.rows)
+        hasFiles = hasFiles || !IsEmptyFolderRow(row);
+    if (!hasFiles)
+        return;
+    container_ = input_.openContainer(ContainerPath());
+    for (const ZipEntry& entry : container_->Entries())
+        for (const int number : RowNumbers(entry.comment))
+            places_[number] = {&entry, {}};
+}
+
+Text PackageReader::ContainerPath()
+{
+    const int disks = input_.setup.Floppies;
+    if (input_.setup.project.Media.TargetMedia == int(Medium::Floppy) && disks > 1)
+        return JoinDisks(disks);
+    return JoinPath(input_.packageFolder, kFileContainerName);
+}
+
+// The pieces of all disks become one file first, since an archive is read from its end.
+Text PackageReader::JoinDisks(int disks)
+{
+    joinedFile_ = JoinPath(input_.workFolder, kFileContainerName);
+    const auto joined = input_.host.files.OpenOutput(joinedFile_);
+    for (int disk = 1; disk <= disks; ++disk)
+        AppendDisk(disk, *joined);
+    joined->Close();
+    return joinedFile_;
+}
+
+void PackageReader::AppendDisk(int disk, OutputFile& joined)
+{
+    FileSystem& files = input_.host.files;
+    const Text ownFolder = DiskFolder(input_.packageFolder, disk);
+    const bool hasOwnFolder = disk > 1 && files.DirExists(ownFolder);
+    const Text piece =
+        JoinPath(hasOwnFolder ? ownFolder : input_.packageFolder, kFileContainerName);
+    if (disk > 1 && !hasOwnFolder) {
+        const Text ask = input_.texts(Message::InsertDisk, NumberText(disk));
+        if (input_.silent)
+            throw SetupFailure(ExitCode::Failed,
+                               input_.texts(Message::Damaged, ownFolder + " saknas"));
+        do {
+            if (!input_.ask.OkCancel(input_.setup.project.ProjectName.ProjectName, ask))
+                throw SetupFailure(ExitCode::Cancelled, {});
+        } while (!files.FileExists(piece));
+    }
+    input_.log.Line("Läser " + piece);
+    CopyAll(*files.OpenInput(piece), [&](auto bytes) { joined.Write(bytes); });
+}
+
+void PackageReader::FindByThemselves()
+{
+    for (const InstallRow& row : input_.rows) {
+        const Text path = LooseFilePath(input_.packageFolder, input_.setup, row);
+        if (!IsEmptyFolderRow(row) && input_.host.files.FileExists(path))
+            places_[row.number] = {nullptr, path};
+    }
+}
+
+bool PackageReader::HasBytes(const InstallRow& row) const
+{
+    return places_.count(row.number) > 0;
+}
+
+const PackageReader::Place& PackageReader::PlaceOf(const InstallRow& row) const
+{
+    return places_.at(row.number);
+}
+
+void PackageReader::CheckEverything()
+{
+    for (const InstallRow& row : input_.rows) {
+        if (!HasBytes(row))
+            continue;
+        const Place& place = PlaceOf(row);
+        const std::uint64_t size =
+            place.entry ? place.entry->size : input_.host.files.Facts(place.path).size;
+        if (size != row.size)
+            throw SetupFailure(ExitCode::Failed,
+                               input_.texts(Message::Damaged, row.name + " har fel längd"));
+    }
+    if (!container_)
+        return;
+    std::uint64_t total = 0;
+    for (const ZipEntry& entry : container_->Entries())
+        total += entry.size;
+    std::uint64_t done = 0;
+    for (const ZipEntry& entry : container_->Entries())
+        container_->Extract(entry, input_.password, [&](std::span<const std::byte> bytes) {
+            done += bytes.size();
+            input_.ask.ShowProgress(done, total);
+            input_.ask.YieldToEvents();
+        });
+}
+
+LocalTime PackageReader::Modified(const InstallRow& row) const
+{
+    const Place& place = PlaceOf(row);
+    return place.entry ? place.entry->modified : input_.host.files.Facts(place.path).modified;
+}
+
+void PackageReader::Extract(const InstallRow& row, const ZipReader::Sink& sink) const
+{
+    const Place& place = PlaceOf(row);
+    if (place.entry)
+        container_->Extract(*place.entry, input_.password, sink);
+    else
+        CopyAll(*input_.host.files.OpenInput(place.path), sink);
+}
+
+} // namespace quillon

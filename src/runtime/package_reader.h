@@ -1,0 +1,69 @@
+// Finds and reads the bytes of each row, whatever the medium: an archive on a CD, an archive cut to
+// fit floppy disks, files kept one by one, or the tree of the sources.
+#pragma once
+
+#include "formats/install_row.h"
+#include "formats/setup_information.h"
+#include "platform/ask.h"
+#include "platform/host.h"
+#include "runtime/container.h"
+#include "runtime/language_file.h"
+#include "runtime/text_log.h"
+
+#include <map>
+
+namespace quillon {
+
+struct PackageInput {
+    Host& host;
+    Ask& ask;
+    TextLog& log;
+    const LanguageTexts& texts;
+    const SetupInformation& setup;
+    const std::vector<InstallRow>& rows;
+    const OpenContainer& openContainer;
+    Text packageFolder;
+    Text workFolder; // private to this installation
+    Text password;
+    bool silent = false;
+};
+
+class PackageReader {
+public:
+    /// Finds every row. Throws `SetupFailure` where the package lacks one.
+    explicit PackageReader(const PackageInput& input);
+    ~PackageReader();
+    PackageReader(const PackageReader&) = delete;
+    PackageReader& operator=(const PackageReader&) = delete;
+
+    /// Reads everything once: lengths everywhere, and in an archive every CRC. Throws `ZipError`,
+    /// or `SetupFailure`.
+    void CheckEverything();
+
+    /// False on a row that makes a folder, and on one that never had a source.
+    bool HasBytes(const InstallRow& row) const;
+    LocalTime Modified(const InstallRow& row) const;
+    void Extract(const InstallRow& row, const ZipReader::Sink& sink) const;
+
+private:
+    struct Place {
+        const ZipEntry* entry = nullptr; // null: a file by itself
+        Text path;
+    };
+
+    void FindInContainer();
+    void FindByThemselves();
+    Text ContainerPath();
+    Text JoinDisks(int disks);
+    void AppendDisk(int disk, OutputFile& joined);
+    const Place& PlaceOf(const InstallRow& row) const;
+
+    PackageInput input_;
+    std::unique_ptr<Container> container_;
+    Text joinedFile_;
+    std::map<int, Place> places_; // by the rows' numbers
+};
+
+bool IsEmptyFolderRow(const InstallRow& row);
+
+} // namespace quillon

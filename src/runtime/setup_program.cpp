@@ -1,0 +1,236 @@
+#include "runtime/setup_program.h"
+
+#include "formats/package.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "platform/whole_file.h"
+#include "runtime/install.h"
+#include "runtime/package_names.h"
+
+#include <map>
+
+namespace quillon {
+
+namespace {
+
+class SetupProgram {
+public:
+    SetupProgram(const SetupInput& input, const LoadedPackage& package)
+        : input_(input), package_(package), texts_(package.texts)
+    {
+    }
+
+    ExitCode Run();
+
+private:
+    ExitCode Fail(ExitCode code, const Text& text);
+    void OpenLog();
+    void CheckSwitches() const;
+    void CheckPackage() const;
+    void CheckPassword() const;
+    void CheckSystem();
+    void CheckFreeSpace(const InstallPlan& plan) const;
+    void KeepHelpers() const;
+    void InstallPackage();
+
+    const SetupInput& input_;
+    const LoadedPackage& package_;
+    const LanguageTexts& texts_;
+    TextLog log_;
+};
+
+Flag IsMeantFor(const section::TargetOS& systems, SystemKind system)
+{
+    switch (system) {
+    case SystemKind::Win95:
+        return systems.TargetOS_Win95;
+    case SystemKind::Win95OSR2:
+        return systems.TargetOS_Win95OSR2;
+    case SystemKind::Win98:
+        return systems.TargetOS_Win98;
+    case SystemKind::WinME:
+        return systems.TargetOS_WinME;
+    case SystemKind::WinNT4:
+        return systems.TargetOS_WinNT4;
+    case SystemKind::WinNT4SP3:
+        return systems.TargetOS_WinNT4SP3;
+    case SystemKind::Win2000:
+        return systems.TargetOS_Win2000;
+    case SystemKind::WinXP:
+        break;
+    }
+    return systems.TargetOS_WinXP;
+}
+
+ExitCode SetupProgram::Fail(ExitCode code, const Text& text)
+{
+    const Text& project = package_.setup.project.ProjectName.ProjectName;
+    log_.Line("Avslutar med kod " + NumberText(int(code)) + (text.empty() ? "" : ": " + text));
+    log_.Close();
+    if (!text.empty() && !input_.switches.silent)
+        input_.ask.Critical(texts_(Message::Title, project), text);
+    return code;
+}
+
+ExitCode SetupProgram::Run()
+{
+    try {
+        OpenLog();
+        CheckSwitches();
+        CheckPackage();
+        CheckPassword();
+        CheckSystem();
+        InstallPackage();
+        log_.Line("Klart.");
+        log_.Close();
+        return ExitCode::Done;
+    } catch (const SetupFailure& failure) {
+        return Fail(failure.Code(), failure.what());
+    } catch (const ZipError& error) {
+        if (error.Reason() == ZipError::Kind::WrongPassword)
+            return Fail(ExitCode::Failed, texts_[Message::WrongPassword]);
+        return Fail(ExitCode::Failed, texts_(Message::Damaged, error.what()));
+    } catch (const RunError& error) {
+        if (error.Number() == ErrorNumber::kDiskFull)
+            return Fail(ExitCode::DiskFull, texts_(Message::DiskFull, error.Path()));
+        return Fail(ExitCode::Failed, texts_(Message::Failed, error.what()));
+    }
+}
+
+void SetupProgram::OpenLog()
+{
+    if (input_.switches.logFile.empty())
+        return;
+    log_ = TextLog(input_.host.files, input_.host.machine, input_.switches.logFile);
+    log_.Line("Installation av " + package_.setup.project.ProjectName.ProjectName + " från " +
+              input_.switches.packageFolder);
+}
+
+void SetupProgram::CheckSwitches() const
+{
+    if (input_.switches.badSwitch)
+        throw SetupFailure(ExitCode::BadSwitch,
+                           texts_(Message::BadSwitch, *input_.switches.badSwitch));
+}
+
+void SetupProgram::CheckPackage() const
+{
+    if (!package_.fault.empty())
+        throw SetupFailure(ExitCode::Failed, texts_(Message::Damaged, package_.fault));
+}
+
+void SetupProgram::CheckPassword() const
+{
+    const Project& project = package_.setup.project;
+    const Text& correct = project.DialogBoxData.CorrectPassword;
+    if (project.DialogBoxes.PasswordDlg != 1 || correct.empty())
+        return;
+    if (!input_.switches.password)
+        throw SetupFailure(ExitCode::Failed, texts_[Message::NeedsPassword]);
+    if (*input_.switches.password != correct)
+        throw SetupFailure(ExitCode::Failed, texts_[Message::WrongPassword]);
+}
+
+void SetupProgram::CheckSystem()
+{
+    const section::TargetOS& systems = package_.setup.project.TargetOS;
+    if (IsMeantFor(systems, input_.target.System()) != kOff)
+        return;
+    if (systems.TargetOS_StopIfWrong != kOff)
+        throw SetupFailure(ExitCode::Failed, texts_[Message::WrongSystem]);
+    if (systems.TargetOS_WarnIfWrong == kOff)
+        return;
+    log_.Line("Paketet är inte avsett för den här versionen av Windows");
+    const Text title = texts_(Message::Title, package_.setup.project.ProjectName.ProjectName);
+    if (!input_.switches.silent &&
+        !input_.ask.YesNo(title, texts_[Message::WrongSystemQuestion], Ask::Stops::OnNo))
+        throw SetupFailure(ExitCode::Cancelled, {});
+}
+
+// Files that are replaced are counted in full: the old ones stay until everything is in its place.
+void SetupProgram::CheckFreeSpace(const InstallPlan& plan) const
+{
+    std::map<Text, std::uint64_t> needed;
+    for (const PlannedFile& file : plan.files)
+        if (file.path[1] == ':')
+            needed[UpperCase(file.path.substr(0, 3))] += file.row->size;
+    for (const auto& [root, bytes] : needed)
+        if (input_.host.files.FreeSpace(root) < bytes)
+            throw RunError(ErrorNumber::kDiskFull, root);
+}
+
+// The package may lie on a disk that is changed while its files are read.
+void SetupProgram::KeepHelpers() const
+{
+    FileSystem& files = input_.host.files;
+    for (const char* helper : {RuntimeFile::kRegistryHelper, RuntimeFile::kSecondRegistryHelper,
+                               RuntimeFile::kUninstaller}) {
+        const Text path = JoinPath(input_.switches.packageFolder, helper);
+        if (files.FileExists(path))
+            files.CopyContent(path, JoinPath(input_.workFolder, helper));
+    }
+}
+
+void SetupProgram::InstallPackage()
+{
+    const SetupVariables variables =
+        MakeSetupVariables({package_.setup, input_.host, input_.target,
+                            input_.switches.packageFolder, input_.switches.destination});
+    const InstallPlan plan = MakeInstallPlan(
+        {package_.setup, package_.rows, variables, texts_, input_.host, input_.target});
+    KeepHelpers();
+    input_.ask.AddStatusLine(texts_[Message::Checking]);
+    PackageReader reader({input_.host, input_.ask, log_, texts_, package_.setup, package_.rows,
+                          input_.openContainer, input_.switches.packageFolder, input_.workFolder,
+                          package_.setup.project.DialogBoxData.CorrectPassword,
+                          input_.switches.silent});
+    reader.CheckEverything();
+    CheckFreeSpace(plan);
+    const InstallResult result =
+        Install({input_.host, input_.target, input_.ask, log_, texts_, package_.setup, variables,
+                 plan, reader, input_.workFolder, input_.switches.silent});
+    if (!result.needsRestart)
+        return;
+    log_.Line(texts_[Message::RestartNeeded]);
+    const Flag never = package_.setup.project.InstallOptions.NeverRestartWindows;
+    if (!input_.switches.silent && never == kOff)
+        input_.ask.Inform(texts_(Message::Title, package_.setup.project.ProjectName.ProjectName),
+                          texts_[Message::RestartNeeded]);
+}
+
+} // namespace
+
+LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder)
+{
+    LoadedPackage package;
+    const auto read = [&](const Text& name, auto take) {
+        const int failure =
+            RunErrorNumber([&] { take(ReadWholeFile(files, JoinPath(packageFolder, name))); });
+        if (failure != ErrorNumber::kNone && package.fault.empty())
+            package.fault = name + " saknas eller kan inte läsas";
+    };
+    read(kSetupInformationName,
+         [&](const std::string& bytes) { package.setup = ReadSetupInformation(bytes); });
+    read(kFileListName, [&](const std::string& bytes) {
+        InstallFileList list = ReadInstallFileList(bytes);
+        package.rows = std::move(list.rows);
+        if (!list.isWhole)
+            package.fault = "FILELIST.INF är avbruten";
+    });
+    if (package.fault.empty() && !package.setup.isWhole)
+        package.fault = "QNSETUP.INF är avbruten";
+    if (package.fault.empty() && package.setup.Files != Long(package.rows.size()))
+        package.fault = "QNSETUP.INF och FILELIST.INF hör inte ihop";
+    const Text language = JoinPath(packageFolder, package.setup.project.Language.LanguageFile);
+    // Without it everything is said in Swedish.
+    if (files.FileExists(language))
+        RunErrorNumber([&] { package.texts = LanguageTexts(ReadWholeFile(files, language)); });
+    return package;
+}
+
+ExitCode RunSetup(const SetupInput& input, const LoadedPackage& package)
+{
+    return SetupProgram(input, package).Run();
+}
+
+} // namespace quillon

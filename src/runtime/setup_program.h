@@ -1,0 +1,36 @@
+// The setup as a whole: from the switches and a package folder to an exit code. What the programs
+// for Windows add is a window, the machine's own registry, and the library that reads archives.
+#pragma once
+
+#include "platform/ask.h"
+#include "runtime/container.h"
+#include "runtime/exit_codes.h"
+#include "runtime/install_plan.h"
+#include "runtime/switches.h"
+#include "runtime/text_log.h"
+
+namespace quillon {
+
+struct LoadedPackage {
+    SetupInformation setup;
+    std::vector<InstallRow> rows;
+    LanguageTexts texts;
+    Text fault; // what is wrong with the package; empty where nothing is
+};
+
+/// Reads both INF files and the language file. Whatever is missing is told in `fault`.
+LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder);
+
+struct SetupInput {
+    Host& host;
+    Target& target;
+    Ask& ask;
+    OpenContainer openContainer;
+    Switches switches;
+    Text workFolder; // exists, and is removed by the caller
+};
+
+/// Installs, and tells the user and the log what went wrong.
+ExitCode RunSetup(const SetupInput& input, const LoadedPackage& package);
+
+} // namespace quillon

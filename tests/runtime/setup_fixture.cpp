@@ -1,0 +1,189 @@
+#include "setup_fixture.h"
+
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "runtime/uninstall.h"
+
+namespace quillon::test {
+
+namespace {
+
+constexpr const char* kPackageFolder = "D:\\Paket";
+constexpr const char* kWorkFolder = "W:\\Arbete";
+constexpr const char* kLogFile = "L:\\logg.txt";
+
+} // namespace
+
+std::unique_ptr<OutputFile> FailingFiles::OpenOutput(const Text& path)
+{
+    BeforeChange(path);
+
+    class Output : public OutputFile {
+    public:
+        Output(std::unique_ptr<OutputFile> file, FailingFiles& files, Text path)
+            : file_(std::move(file)), files_(files), path_(std::move(path))
+        {
+        }
+        void Write(std::span<const std::byte> bytes) override
+        {
+            files_.BeforeChange(path_);
+            file_->Write(bytes);
+        }
+        void WriteAt(std::uint64_t position, std::span<const std::byte> bytes) override
+        {
+            files_.BeforeChange(path_);
+            file_->WriteAt(position, bytes);
+        }
+        std::uint64_t Position() const override { return file_->Position(); }
+        void Close() override
+        {
+            files_.BeforeChange(path_);
+            file_->Close();
+        }
+
+    private:
+        std::unique_ptr<OutputFile> file_;
+        FailingFiles& files_;
+        Text path_;
+    };
+    return std::make_unique<Output>(files_.OpenOutput(path), *this, path);
+}
+
+void FailingFiles::BeforeChange(const Text& path)
+{
+    if (path != kLogFile)
+        beforeChange();
+}
+
+void FailingFiles::RemoveFile(const Text& path)
+{
+    BeforeChange(path);
+    if (inUse.count(path) > 0)
+        throw RunError(ErrorNumber::kPermissionDenied, path);
+    files_.RemoveFile(path);
+}
+
+void FailingFiles::Rename(const Text& from, const Text& to)
+{
+    BeforeChange(from);
+    if (inUse.count(from) > 0)
+        throw RunError(ErrorNumber::kPermissionDenied, from);
+    files_.Rename(from, to);
+}
+
+MemoryContainer::MemoryContainer(std::vector<Source> sources, int damagedEntry)
+    : sources_(std::move(sources)), damagedEntry_(damagedEntry)
+{
+    for (const Source& source : sources_) {
+        ZipEntry entry;
+        entry.comment = source.comment;
+        entry.size = source.bytes.size();
+        entry.modified = source.modified;
+        entry.headerPosition = entries_.size();
+        entries_.push_back(entry);
+    }
+}
+
+void MemoryContainer::Extract(const ZipEntry& entry, const Text&, const ZipReader::Sink& sink)
+{
+    const Source& source = sources_[entry.headerPosition];
+    sink(std::as_bytes(std::span(source.bytes)));
+    if (int(entry.headerPosition) == damagedEntry_)
+        throw ZipError(ZipError::Kind::Damaged, "CRC");
+}
+
+SetupFixture::SetupFixture()
+{
+    project.ProjectName.ProjectName = "Exempel";
+    project.ProgramGroup.ProgramGroup = "Exempelgrupp";
+    project.InstallDirectories.DestinationDirectory = "%PROGRAMFILES\\Exempel";
+    project.InstallOptions.UninstallSupport = kOn;
+    memory.files.PutFolder(kWorkFolder);
+    memory.files.PutFolder("L:\\");
+    memory.files.PutFolder("C:\\Program");
+    memory.files.PutFolder("C:\\WINDOWS\\SYSTEM32");
+    memory.files.PutFolder("C:\\Ulla\\Start-meny\\Program");
+    memory.files.PutFolder("C:\\Ulla\\Skrivbord");
+    memory.files.Put(JoinPath(kPackageFolder, "QNXUNIN.BIN"), "uninstaller");
+    memory.files.Put(JoinPath(kPackageFolder, "QNXREG2.BIN"), "second helper");
+    target.keys[{RegistryRoot::LocalMachine, "software"}] = {"SOFTWARE", {}};
+    target.keys[{RegistryRoot::LocalMachine, "software\\microsoft"}] = {"SOFTWARE\\Microsoft", {}};
+}
+
+InstallRow& SetupFixture::AddFile(const Text& name, const Text& destination,
+                                  const std::string& bytes, const Text& options, LocalTime modified)
+{
+    InstallRow row;
+    row.number = int(package.rows.size()) + 1;
+    row.name = name;
+    row.destination = destination;
+    row.size = bytes.size();
+    row.sourceFolder = "src";
+    row.copyOptions = options;
+    sources.push_back({"F" + NumberText(row.number), bytes, modified});
+    package.rows.push_back(row);
+    return package.rows.back();
+}
+
+InstallRow& SetupFixture::AddFolder(const Text& destination)
+{
+    InstallRow row;
+    row.number = int(package.rows.size()) + 1;
+    row.name = kEmptyFolderName;
+    row.destination = destination;
+    package.rows.push_back(row);
+    return package.rows.back();
+}
+
+ExitCode SetupFixture::Install(const Text& switches)
+{
+    Switches read = ReadSwitches(switches);
+    read.packageFolder = kPackageFolder;
+    read.logFile = kLogFile;
+    SilentAsk silent;
+    return RunSetup({host, target, ask ? *ask : silent,
+                     [this](const Text& path) {
+                         openedContainer = path;
+                         return std::make_unique<MemoryContainer>(sources, damagedEntry);
+                     },
+                     read, kWorkFolder},
+                    package);
+}
+
+ExitCode SetupFixture::UninstallProduct()
+{
+    const Text path = "C:\\Program\\Exempel\\QNXUNIN.LOG";
+    const auto product = ReadInstalledProduct(files, path);
+    if (!product) {
+        ADD_FAILURE() << "no install log";
+        return ExitCode::Failed;
+    }
+    SilentAsk silent;
+    TextLog log(files, memory.machine, kLogFile);
+    return Uninstall({host, target, silent, log, path, *product});
+}
+
+MachineState SetupFixture::State() const
+{
+    MachineState state;
+    for (const auto& [key, node] : memory.files.nodes) {
+        if (key.substr(0, 2) == "l:" || key.substr(0, 2) == "w:")
+            continue;
+        const LocalTime& time = node.facts.modified;
+        state.files[key] = node.bytes
+                               ? *node.bytes + "|" + DateText(time) + " " +
+                                     TimeTextWithSeconds(time) + (node.facts.isReadOnly ? "|r" : "")
+                               : "<folder>";
+    }
+    state.registry = target.keys;
+    state.registered = target.registered;
+    state.fonts = target.fonts;
+    return state;
+}
+
+Text SetupFixture::Log() const
+{
+    return *memory.files.nodes.at(LowerCase(kLogFile)).bytes;
+}
+
+} // namespace quillon::test
