@@ -2,6 +2,7 @@
 // of them. Results are numbers, because the status list tells them by number.
 #pragma once
 
+#include "builder/compression_result.h"
 #include "helpers/number_text.h"
 #include "helpers/text.h"
 #include "platform/ask.h"
@@ -12,18 +13,6 @@
 #include <optional>
 
 namespace quillon {
-
-/// What a call of the compression interface answers; 0 and below is success.
-namespace CompressionResult {
-inline constexpr Integer kDone = 0;
-inline constexpr Integer kSourceMissing = 4;
-inline constexpr Integer kSourceChanged = 5; // it shrank or grew while it was read
-inline constexpr Integer kNothingToDo = 12;  // the list held no file
-inline constexpr Integer kCancelled = 14;    // no further disk came
-inline constexpr Integer kDiskFull = 15;
-inline constexpr Integer kCannotWrite = 16;
-inline constexpr Integer kNoReadAccess = 18;
-} // namespace CompressionResult
 
 /// Where the pieces of a spanned archive go.
 class DiskSource {

@@ -1,0 +1,274 @@
+#include "builder/compression_interface.h"
+
+#include "builder/compression_log.h"
+#include "builder/spanned_archive.h"
+#include "builder/zip_writer.h"
+#include "formats/container_names.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+
+#include <limits>
+#include <unordered_map>
+#include <vector>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::size_t kLongestComment = 0xFFFF;
+constexpr std::uint32_t kTemporaryNames = 100000000;
+constexpr std::uint64_t kProgressSteps = 200;
+
+/// A file that is gone when its work is done, whatever happens.
+class TemporaryFile {
+public:
+    TemporaryFile(Host& host, const Text& folder) : files_(host.files)
+    {
+        do
+            path_ =
+                JoinPath(folder, "QN" + NumberText(host.machine.Random(kTemporaryNames)) + ".TMP");
+        while (files_.FileExists(path_) || files_.DirExists(path_));
+    }
+    ~TemporaryFile()
+    {
+        RunErrorNumber([this] {
+            if (files_.FileExists(path_))
+                files_.RemoveFile(path_);
+        });
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    const Text& Path() const { return path_; }
+
+private:
+    FileSystem& files_;
+    Text path_;
+};
+
+/// Shows progress from time to time, not for each of many thousand small files.
+class ProgressDisplay {
+public:
+    explicit ProgressDisplay(Ask& ask) : ask_(ask) {}
+    ~ProgressDisplay() { ask_.ShowProgress(0, 0); }
+    ProgressDisplay(const ProgressDisplay&) = delete;
+    ProgressDisplay& operator=(const ProgressDisplay&) = delete;
+
+    void Show(std::uint64_t done, std::uint64_t total)
+    {
+        if (total == 0 || (done < next_ && done > last_ && done < total))
+            return;
+        last_ = done;
+        next_ = done + total / kProgressSteps;
+        ask_.ShowProgress(done, total);
+        ask_.YieldToEvents();
+    }
+
+private:
+    Ask& ask_;
+    std::uint64_t last_ = 0;
+    std::uint64_t next_ = 0;
+};
+
+/// What is the same for two spellings of one path.
+Text PathKey(const Text& path)
+{
+    const bool hasDrive = path.size() >= 2 && path[1] == ':';
+    return LowerCase(path.substr(0, hasDrive ? 2 : 0)) + ContainerEntryName(path);
+}
+
+} // namespace
+
+struct CompressionInterface::State {
+    struct Item {
+        Text path;
+        Text rows;
+    };
+    struct Order {
+        Text target;
+        bool spans = false;
+        bool namesOnly = false;
+        Text password;
+    };
+
+    Host& host;
+    Ask& ask;
+    DiskSource& disks;
+    Text workPath;
+    bool logs = false;
+    bool deflates = true;
+    std::vector<Item> items = {};
+    std::unordered_map<Text, std::size_t> itemOfPath = {};
+    Integer disksUsed = 0;
+
+    void Add(const Text& path, const Text& row);
+    Integer Create(const Order& order);
+
+private:
+    Text FolderForUnfinished(const Order& order) const;
+    std::vector<ZipSource> Sources(const Order& order) const;
+    void Pack(const Order& order, const Text& unfinished, CompressionLog& log);
+    void Deliver(const Order& order, const Text& finished);
+    void MoveIntoPlace(const Text& finished, const Text& target);
+};
+
+// A comment has an end. Where so many rows share one source that their names don't fit, the source
+// is stored once more for the rest of them.
+void CompressionInterface::State::Add(const Text& path, const Text& row)
+{
+    const auto [found, isNew] = itemOfPath.try_emplace(PathKey(path), items.size());
+    if (!isNew) {
+        Text& rows = items[found->second].rows;
+        if (rows.size() + 1 + row.size() <= kLongestComment) {
+            if (!row.empty())
+                rows.append(rows.empty() ? "" : " ").append(row);
+            return;
+        }
+        found->second = items.size();
+    }
+    items.push_back({path, row});
+}
+
+Integer CompressionInterface::State::Create(const Order& order)
+{
+    disksUsed = 0;
+    if (items.empty())
+        return CompressionResult::kNothingToDo;
+    CompressionLog log;
+    Integer result = CompressionResult::kDone;
+    try {
+        const TemporaryFile unfinished(host, FolderForUnfinished(order));
+        Pack(order, unfinished.Path(), log);
+        Deliver(order, unfinished.Path());
+    } catch (const CompressionFailure& failure) {
+        result = failure.Result();
+        if (!failure.Path().empty())
+            log.AddFailure(failure.Path(), result);
+    } catch (const RunError& error) {
+        result = ResultOfWriting(error);
+    }
+    if (logs)
+        log.Write(host, order.target, result);
+    return result;
+}
+
+// An archive that shall not be cut grows beside its target, where it only needs a new name at the
+// end.
+Text CompressionInterface::State::FolderForUnfinished(const Order& order) const
+{
+    if (!workPath.empty())
+        return workPath;
+    return order.spans ? host.machine.GetTempDir() : ExtractDirectory(order.target);
+}
+
+std::vector<ZipSource> CompressionInterface::State::Sources(const Order& order) const
+{
+    std::vector<ZipSource> sources;
+    sources.reserve(items.size());
+    for (const Item& item : items) {
+        const Text name = ContainerEntryName(item.path);
+        const std::size_t folderEnd = order.namesOnly ? name.rfind('/') : Text::npos;
+        sources.push_back(
+            {item.path, folderEnd == Text::npos ? name : name.substr(folderEnd + 1), item.rows});
+    }
+    return sources;
+}
+
+void CompressionInterface::State::Pack(const Order& order, const Text& unfinished,
+                                       CompressionLog& log)
+{
+    ProgressDisplay progress(ask);
+    const ZipWatch watch{
+        .onEntry = [&](const ZipEntryReport& entry) { log.AddEntry(entry); },
+        .onProgress = [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); }};
+    const auto output = host.files.OpenOutput(unfinished);
+    WriteZip(host.files, Sources(order), *output, {.deflate = deflates, .password = order.password},
+             watch);
+    output->Close();
+}
+
+void CompressionInterface::State::Deliver(const Order& order, const Text& finished)
+{
+    if (!order.spans) {
+        MoveIntoPlace(finished, order.target);
+        return;
+    }
+    ProgressDisplay progress(ask);
+    const Spanning spanning =
+        CutOntoDisks(host.files, finished, order.target, disks,
+                     [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); });
+    disksUsed = spanning.disksUsed;
+    if (spanning.result != CompressionResult::kDone)
+        throw CompressionFailure(spanning.result, {});
+}
+
+// A file can't be renamed onto another disk; there it is copied.
+void CompressionInterface::State::MoveIntoPlace(const Text& finished, const Text& target)
+{
+    FileSystem& files = host.files;
+    if (files.FileExists(target))
+        files.RemoveFile(target);
+    if (RunErrorNumber([&] { files.Rename(finished, target); }) == ErrorNumber::kNone)
+        return;
+    try {
+        files.CopyContent(finished, target);
+    } catch (const RunError&) {
+        RunErrorNumber([&] {
+            if (files.FileExists(target))
+                files.RemoveFile(target);
+        });
+        throw;
+    }
+}
+
+CompressionInterface::CompressionInterface(Host& host, Ask& ask, DiskSource& disks)
+    : state_(new State{host, ask, disks, {}})
+{
+}
+
+CompressionInterface::~CompressionInterface() = default;
+
+void CompressionInterface::IfcInitDynaZipStruct(const Text& workPath, Integer logFlag,
+                                                Integer level)
+{
+    state_->workPath = RemoveLastBackslash(workPath);
+    state_->logs = logFlag == 1;
+    state_->deflates = level > 0;
+}
+
+void CompressionInterface::IfcResetFileList()
+{
+    state_->items.clear();
+    state_->itemOfPath.clear();
+}
+
+Integer CompressionInterface::IfcAddFileListItem(const Text& path, const Text& row)
+{
+    if (ContainerEntryName(path).empty())
+        return 0;
+    state_->Add(path, row);
+    return 1;
+}
+
+Integer CompressionInterface::IfcCreateZipFile(const Text& target, Integer floppySpanning,
+                                               const Text& password)
+{
+    return state_->Create({.target = target, .spans = floppySpanning != 0, .password = password});
+}
+
+Integer CompressionInterface::IfcCreateDesignZipFile(const Text& target)
+{
+    return state_->Create({.target = target, .namesOnly = true});
+}
+
+Integer CompressionInterface::IfcGetNrFloppiesUsed() const
+{
+    return state_->disksUsed;
+}
+
+void CompressionInterface::IfcFreeFileList()
+{
+    IfcResetFileList();
+}
+
+} // namespace quillon

@@ -1,0 +1,25 @@
+// DYNAZIP.LOG in the Windows folder: for each archive a heading, a line for each of its files and
+// the result.
+#pragma once
+
+#include "builder/zip_writer.h"
+#include "helpers/number_text.h"
+#include "platform/host.h"
+
+#include <vector>
+
+namespace quillon {
+
+class CompressionLog {
+public:
+    void AddEntry(const ZipEntryReport& entry);
+    /// The file that ended the work.
+    void AddFailure(const Text& path, Integer result);
+    /// Writes what was added behind what the file holds; a log that has grown large begins anew.
+    void Write(Host& host, const Text& target, Integer result);
+
+private:
+    std::vector<Text> lines_;
+};
+
+} // namespace quillon
