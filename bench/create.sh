@@ -26,7 +26,7 @@ choose_files() {
     for folder in /usr/lib /usr/share /usr/bin; do
         find "$folder" -xdev -type f -printf '%s\t%p\n' 2>/dev/null | LC_ALL=C sort -t $'\t' -k 2 \
             | LC_ALL=C awk -F '\t' -v wanted=180000000 '
-                sum >= wanted { exit }
+                sum >= wanted { next }
                 $2 !~ /^[-A-Za-z0-9_.+~@=,()\/]+$/ || $2 ~ /\.(\/|$)/ || length($2) > 180 { next }
                 tolower($2) in seen { next }
                 { seen[tolower($2)]; sum += $1; print substr($2, 2) }'
