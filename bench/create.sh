@@ -140,5 +140,5 @@ cmake --build --preset release --target benchmarks >>build/release.log 2>&1
 
 compare_programs
 growth "$bin/file_list_bench"
-growth "$bin/project_file_bench"
+growth "$bin/project_bench"
 exit "$failed"

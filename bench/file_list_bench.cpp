@@ -3,7 +3,7 @@
 #include "filelist/add_file.h"
 #include "filelist/sort.h"
 #include "helpers/number_text.h"
-#include "memory_machine.h"
+#include "support/one_file_host.h"
 
 #include <benchmark/benchmark.h>
 
@@ -23,13 +23,13 @@ FileToAdd FileNumber(std::int64_t number)
 
 void AddFiles(benchmark::State& state, bool sorted)
 {
-    SmallFilesEverywhere files;
-    PlainMachine machine;
-    NobodyToAsk ask;
+    test::OneFile files("some bytes");
+    test::PlainMachine machine;
+    test::SilentUser user;
     for (auto _ : state) {
         FileList list;
         list.sorted = sorted;
-        FileAdding adding(list, {files, machine}, ask);
+        FileAdding adding(list, {files, machine}, user);
         for (std::int64_t number = 0; number < state.range(0); ++number)
             adding.AddFileToFileList(FileNumber(number));
         adding.Finish();

@@ -2,10 +2,10 @@
 // for measuring what Create takes. Each file gets its row the way the user's commands make rows.
 #include "filelist/add_file.h"
 #include "helpers/windows_path.h"
-#include "memory_machine.h"
 #include "platform/posix/posix_host.h"
 #include "project/new_project.h"
 #include "project/project_file.h"
+#include "support/one_file_host.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -38,7 +38,7 @@ int MakeProject(const char* folder, const char* projectFile)
         std::fprintf(stderr, "make_project: give absolute paths without backslashes\n");
         return EXIT_FAILURE;
     }
-    NobodyToAsk ask;
+    test::SilentUser user; // who counts the rows sees what was refused
     Project project;
     OpenProjectState state;
     ResetToNewProject(project, state, "C:\\Quillon");
@@ -46,10 +46,10 @@ int MakeProject(const char* folder, const char* projectFile)
     project.InstallDirectories.DestinationDirectory = "%PROGRAMFILES\\Matning";
     project.Files.sorted = false; // a tree keeps the order in which it was walked
     {
-        FileAdding adding(project.Files, posix.host, ask);
+        FileAdding adding(project.Files, posix.host, user);
         AddFolder(adding, posix.files, *windowsFolder, "%DESTDIR");
     }
-    WriteProjectFile(project, *windowsProject, posix.host, ask);
+    WriteProjectFile(project, *windowsProject, posix.host, user);
     std::printf("%zu\n", project.Files.rows.size());
     return EXIT_SUCCESS;
 }
