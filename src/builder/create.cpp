@@ -89,7 +89,7 @@ Step ClearInternetFolder(CreateRun& run)
     for (const Text& name : {Text("INSTALL.ZIP"), Text("INSTALL.ADX"),
                              run.project.InstallOptionsInternet.SelfExtractFilename})
         RemoveQuietly(run.host.files, run.InDestination(name));
-    if (!HoldsAnyFile(run.host.files, run.DestDir))
+    if (!HoldsAnyFile(run.host.files, run.InDestination("")))
         return Step::GoOn;
     const bool goOn = run.ask.YesNo(
         "Katalogen är ej tom",

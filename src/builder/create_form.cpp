@@ -20,10 +20,9 @@ CreateForm OpenCreateForm(Project& project, OpenProjectState& state)
 {
     const Flag wasDirty = state.ProjectIsDirty;
     CreateForm form;
-    const bool isKnownSystem =
-        std::size_t(std::max<int>(project.OperatingSystem.TargetOperatingSystem, 0)) <
-        kTargetOperatingSystems.size();
-    form.cbOS = isKnownSystem ? project.OperatingSystem.TargetOperatingSystem : Integer(0);
+    const int system = project.OperatingSystem.TargetOperatingSystem;
+    if (system > 0 && system < int(kTargetOperatingSystems.size()))
+        form.cbOS = project.OperatingSystem.TargetOperatingSystem;
     form.UseCompression = project.Compression.CompressFiles != kOff ? 1 : 0;
     form.KeepCompressedFilesOneAndOne = project.Compression.KeepCompressedFilesOneAndOne;
 

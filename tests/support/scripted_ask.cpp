@@ -29,8 +29,9 @@ void ScriptedAsk::Critical(const Text& title, const Text& text)
     Next(BoxKind::Critical, title, text);
 }
 
-bool ScriptedAsk::YesNo(const Text& title, const Text& text, Stops)
+bool ScriptedAsk::YesNo(const Text& title, const Text& text, Stops stopsOn)
 {
+    stops.push_back(stopsOn);
     return Next(BoxKind::YesNo, title, text) == Answer::Yes;
 }
 

@@ -44,6 +44,8 @@ public:
 
     /// Everything that was shown, for a test that looks afterwards.
     std::vector<ExpectedBox> shown;
+    // For each Yes/No question, which answer it said to end the command.
+    std::vector<Stops> stops;
     std::vector<Text> statusLines;
     int beeps = 0;
     bool busyPointer = false;

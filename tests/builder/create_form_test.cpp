@@ -1,0 +1,187 @@
+#include "builder/create_form.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+namespace {
+
+class Form : public testing::Test {
+protected:
+    Form()
+    {
+        project.LastDirectories = {"C:\\Ut", "C:\\Cd", "C:\\Trad", "C:\\Natet"};
+        project.Media.TargetMedia = kMediaCdTree;
+    }
+
+    Project project;
+    OpenProjectState state;
+};
+
+} // namespace
+
+TEST(Media, AreNamedAsOnTheForm)
+{
+    EXPECT_STREQ(kMedia[0].caption, "&Diskett");
+    EXPECT_STREQ(kMedia[1].caption, "&CD/DVD");
+    EXPECT_STREQ(kMedia[2].caption, "CD/DVD (fä&rdigt träd)");
+    EXPECT_STREQ(kMedia[3].caption, "&Internet");
+    EXPECT_STREQ(kTargetOperatingSystems[0], "Alla Windows-versioner (fr.o.m Windows 95)");
+    EXPECT_STREQ(kTargetOperatingSystems[1], "Endast Windows ME, Windows 2000 och Windows XP");
+}
+
+TEST_F(Form, OpensWithTheProjectsValues)
+{
+    project.OperatingSystem.TargetOperatingSystem = 1;
+    project.Compression.CompressFiles = kOff;
+    project.Compression.KeepCompressedFilesOneAndOne = 1;
+    const CreateForm form = OpenCreateForm(project, state);
+    EXPECT_EQ(form.TargetMedia, kMediaCdTree);
+    EXPECT_EQ(form.tDestinationDir, "C:\\Ut");
+    EXPECT_EQ(form.cbOS, 1);
+    EXPECT_EQ(form.UseCompression, 0);
+    EXPECT_EQ(form.KeepCompressedFilesOneAndOne, 1);
+    EXPECT_TRUE(form.isCmdCreateEnabled);
+    EXPECT_TRUE(form.isCmdSelectDirectoryEnabled);
+}
+
+TEST_F(Form, OpensOnTheFirstFloppyDrive)
+{
+    project.Media.TargetMedia = kMediaFloppy;
+    const CreateForm form = OpenCreateForm(project, state);
+    EXPECT_EQ(form.tDestinationDir, "A:\\");
+    EXPECT_FALSE(form.isCmdSelectDirectoryEnabled);
+    EXPECT_EQ(project.LastDirectories.CreatationDestDir, "C:\\Ut");
+}
+
+TEST_F(Form, LeavesTheProjectUnmarkedWhenItOpens)
+{
+    OpenCreateForm(project, state);
+    EXPECT_EQ(state.ProjectIsDirty, kOff);
+    state.ProjectIsDirty = kOn;
+    OpenCreateForm(project, state);
+    EXPECT_EQ(state.ProjectIsDirty, kOn);
+}
+
+TEST_F(Form, TakesTheDestinationOverAsLastFolderWhenItOpens)
+{
+    OpenCreateForm(project, state);
+    EXPECT_EQ(project.LastDirectories.LastDir_Create_CdTree, "C:\\Ut");
+    EXPECT_EQ(project.LastDirectories.LastDir_Create_CdCompress, "C:\\Cd");
+}
+
+TEST_F(Form, OpensOnTheCdForAProjectThatNamesNoMedium)
+{
+    for (const Integer medium : std::initializer_list<Integer>{0, 5, -1}) {
+        project.Media.TargetMedia = medium;
+        EXPECT_EQ(OpenCreateForm(project, state).TargetMedia, kMediaCdCompressed);
+    }
+}
+
+TEST_F(Form, OpensOnAllSystemsForAProjectThatNamesAnUnknownOne)
+{
+    for (const Integer system : std::initializer_list<Integer>{2, -1}) {
+        project.OperatingSystem.TargetOperatingSystem = system;
+        EXPECT_EQ(OpenCreateForm(project, state).cbOS, 0);
+    }
+}
+
+TEST_F(Form, PutsItsChoicesBackWhenItCloses)
+{
+    CreateForm form = OpenCreateForm(project, state);
+    form.tDestinationDir = "D:\\Nytt";
+    form.TargetMedia = kMediaInternet;
+    form.cbOS = 1;
+    form.UseCompression = 0;
+    form.KeepCompressedFilesOneAndOne = 1;
+    CloseCreateForm(form, project);
+    EXPECT_EQ(project.LastDirectories.CreatationDestDir, "D:\\Nytt");
+    EXPECT_EQ(project.Media.TargetMedia, kMediaInternet);
+    EXPECT_EQ(project.OperatingSystem.TargetOperatingSystem, 1);
+    EXPECT_EQ(project.Compression.CompressFiles, kOff);
+    EXPECT_EQ(project.Compression.KeepCompressedFilesOneAndOne, 1);
+    form.UseCompression = 1;
+    CloseCreateForm(form, project);
+    EXPECT_EQ(project.Compression.CompressFiles, kOn);
+}
+
+TEST_F(Form, ShowsEachMediumsLastFolder)
+{
+    CreateForm form = OpenCreateForm(project, state);
+    const std::pair<Integer, const char*> cases[] = {{kMediaFloppy, "A:\\"},
+                                                     {kMediaCdCompressed, "C:\\Cd"},
+                                                     {kMediaCdTree, "C:\\Ut"},
+                                                     {kMediaInternet, "C:\\Natet"}};
+    for (const auto& [medium, folder] : cases) {
+        state.ProjectIsDirty = kOff;
+        ClickMedium(form, medium, project, state);
+        EXPECT_EQ(form.TargetMedia, medium);
+        EXPECT_EQ(form.tDestinationDir, folder);
+        EXPECT_EQ(form.isCmdSelectDirectoryEnabled, medium != kMediaFloppy);
+        EXPECT_EQ(state.ProjectIsDirty, kOn);
+    }
+}
+
+TEST_F(Form, KeepsATypedFolderForItsMedium)
+{
+    CreateForm form = OpenCreateForm(project, state);
+    ClickMedium(form, kMediaInternet, project, state);
+    ChangeDestinationDir(form, "D:\\X", project);
+    EXPECT_EQ(project.LastDirectories.LastDir_Create_Internet, "D:\\X");
+
+    ClickMedium(form, kMediaFloppy, project, state);
+    ChangeDestinationDir(form, "B:\\", project);
+    EXPECT_EQ(form.tDestinationDir, "B:\\");
+    const section::LastDirectories& last = project.LastDirectories;
+    for (const Text& folder : {last.CreatationDestDir, last.LastDir_Create_CdCompress,
+                               last.LastDir_Create_CdTree, last.LastDir_Create_Internet})
+        EXPECT_NE(folder, "B:\\");
+}
+
+struct CompressCase {
+    Integer medium;
+    Integer keep;
+    bool useEnabled;
+    bool keepEnabled;
+    Integer use;
+};
+
+TEST(CompressOptions, EnablesByMediumAndChoice)
+{
+    const CompressCase cases[] = {
+        {kMediaFloppy, 0, true, false, 1},      {kMediaFloppy, 1, false, false, 0},
+        {kMediaCdCompressed, 0, true, true, 1}, {kMediaCdCompressed, 1, false, true, 0},
+        {kMediaCdTree, 0, false, false, 1},     {kMediaCdTree, 1, false, false, 0},
+        {kMediaInternet, 0, true, false, 1},    {kMediaInternet, 1, false, false, 0},
+    };
+    for (const CompressCase& expected : cases) {
+        CreateForm form;
+        form.TargetMedia = expected.medium;
+        form.KeepCompressedFilesOneAndOne = expected.keep;
+        const CompressOptionsForm options = OpenCompressOptions(form);
+        EXPECT_EQ(options.isCUseCompressionEnabled, expected.useEnabled) << expected.medium;
+        EXPECT_EQ(options.isCKeepCompressedFilesOneAndOneEnabled, expected.keepEnabled);
+        EXPECT_EQ(options.cUseCompression, expected.use);
+        EXPECT_EQ(options.cKeepCompressedFilesOneAndOne, expected.keep);
+    }
+}
+
+TEST(CompressOptions, ClearsCompressionWhileFilesAreKeptOneByOne)
+{
+    CreateForm form;
+    CompressOptionsForm options = OpenCompressOptions(form);
+    ClickKeepCompressedFilesOneAndOne(options, 1);
+    EXPECT_EQ(options.cUseCompression, 0);
+    EXPECT_FALSE(options.isCUseCompressionEnabled);
+    ClickKeepCompressedFilesOneAndOne(options, 0);
+    EXPECT_EQ(options.cUseCompression, 0);
+    EXPECT_TRUE(options.isCUseCompressionEnabled);
+    EXPECT_EQ(form.UseCompression, 1);
+
+    ClickKeepCompressedFilesOneAndOne(options, 1);
+    StoreCompressOptions(options, form);
+    EXPECT_EQ(form.UseCompression, 0);
+    EXPECT_EQ(form.KeepCompressedFilesOneAndOne, 1);
+}
+
+} // namespace quillon

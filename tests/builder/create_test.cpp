@@ -1,0 +1,525 @@
+#include "builder/create.h"
+
+#include "create_desk.h"
+#include "formats/install_row.h"
+#include "formats/setup_information.h"
+#include "support/golden.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+using test::BoxKind;
+using test::CreateDesk;
+using test::ExpectedBox;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::UnorderedElementsAre;
+
+namespace {
+
+const ExpectedBox kFirstDisk{BoxKind::OkCancel, "Diskett", "Stoppa in diskett nr 1!"};
+const ExpectedBox kCannotWrite{BoxKind::Critical, "Fel",
+                               "Fel! Kan ej skriva till destinationsenheten!"};
+
+// A project that takes every step of the pipeline.
+void AskForEverything(CreateDesk& desk)
+{
+    desk.project.InstallOptions.UninstallSupport = kOn;
+    desk.project.InstallOptions.CreateAutorunFile = kOn;
+    desk.project.Files.rows[0][CopyOptions] = "VRA";
+    desk.project.DialogBoxes.LicenseInfoRtfDlg = 1;
+    desk.project.DialogBoxData.LicenseFilenameRtf = "C:\\Data\\licens.rtf";
+    desk.machine.files.Put("C:\\Data\\licens.rtf", "{\\rtf1}");
+    desk.project.DesBackground.PictureFilename = "C:\\Bilder\\Bakgrund.JPG";
+    desk.machine.files.Put("C:\\Bilder\\Bakgrund.JPG", "jpeg");
+    desk.AddFile("b.txt");
+    FileListRow folder;
+    folder[Filename] = kEmptyFolderName;
+    folder[Destination] = "%DESTDIR\\Tom";
+    desk.project.Files.rows.push_back(folder);
+}
+
+const std::vector<Text> kEveryRuntimeLine = {
+    "Kopierar SETUP.EXE",     "Kopierar QNS32X.EXE  (Full Version)",
+    "Kopierar DUNZIP32.DLL",  "Kopierar QNREG32.EXE",
+    "Kopierar QNXREG2.EXE",   "Kopierar QNXUNIN.EXE",
+    "Kopierar LICENSE.RTF",   "Skapar AUTORUN.INF",
+    "Skapar FILELIST.INF",    "Skapar QNSETUP.INF",
+    "Kopierar SWEDISH.LNG",   "Öppnar DESOBJ.DAT",
+    "Adderar 'Bakgrund.JPG'", "Kopierar och komprimerar filer",
+    "Stänger DESOBJ.DAT"};
+
+std::vector<Text> Lines(std::initializer_list<std::vector<Text>> parts)
+{
+    std::vector<Text> lines;
+    for (const std::vector<Text>& part : parts)
+        lines.insert(lines.end(), part.begin(), part.end());
+    return lines;
+}
+
+} // namespace
+
+TEST(RunCreate, TellsEveryStepOfACompressedCd)
+{
+    CreateDesk desk;
+    AskForEverything(desk);
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_THAT(desk.statusLines,
+                ElementsAreArray(Lines(
+                    {{"** Skapar 32 bitars installationsuppsättning för CD (komprimerat) **"},
+                     kEveryRuntimeLine,
+                     {"Öppnar FILEDATA.DAT", "Adderar 'a.txt'", "Adderar 'b.txt'",
+                      "Kopierar och komprimerar filer", "Skriver filtabell", "Stänger FILEDATA.DAT",
+                      "Antal filer som adderats till FILEDATA.DTA: 3 st", "Färdig!"}})));
+    EXPECT_EQ(desk.beeps, 1);
+    EXPECT_TRUE(desk.form.isCmdCreateEnabled);
+    EXPECT_TRUE(desk.form.isCmdOptionsEnabled);
+    EXPECT_THAT(desk.Package(),
+                UnorderedElementsAre("SETUP.EXE", "QNS32X.BIN", "DUNZIP32.DLL", "QNREG32.BIN",
+                                     "QNXREG2.BIN", "QNXUNIN.BIN", "LICENSE.RTF", "AUTORUN.INF",
+                                     "FILELIST.INF", "QNSETUP.INF", "SWEDISH.LNG", "DESOBJ.DAT",
+                                     "FILEDATA.DAT"));
+}
+
+TEST(RunCreate, TellsEveryStepOfATree)
+{
+    CreateDesk desk;
+    AskForEverything(desk);
+    desk.Choose(kMediaCdTree);
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_THAT(
+        desk.statusLines,
+        ElementsAreArray(
+            Lines({{"** Skapar 32 bitars installationsuppsättning för CD (träd, okomprimerat) **"},
+                   kEveryRuntimeLine,
+                   {"Färdig!"}})));
+    EXPECT_FALSE(desk.Has("FILEDATA.DAT"));
+    EXPECT_TRUE(desk.Has("DESOBJ.DAT"));
+    EXPECT_TRUE(desk.Has("FILELIST.INF"));
+    EXPECT_TRUE(desk.Has("QNSETUP.INF"));
+}
+
+TEST(RunCreate, TellsEveryStepOfFloppies)
+{
+    CreateDesk desk;
+    AskForEverything(desk);
+    desk.Choose(kMediaFloppy);
+    EXPECT_EQ(desk.Create({kFirstDisk}), CreateResult::Done);
+    EXPECT_THAT(
+        desk.statusLines,
+        ElementsAreArray(Lines({{"** Skapar 32 bitars installationsuppsättning för diskett **"},
+                                kEveryRuntimeLine,
+                                {"Öppnar FILEDATA.DAT", "Adderar 'a.txt'", "Adderar 'b.txt'",
+                                 "Kopierar och komprimerar filer", "Stänger FILEDATA.DAT",
+                                 "Antal filer som adderats till FILEDATA.DTA: 3 st",
+                                 "Uppdaterar QNSETUP.INF med diskettinformation",
+                                 "Antal skapade installationsdisketter: 1 st", "Färdig!"}})));
+    const std::string written = desk.Get("QNSETUP.INF");
+    EXPECT_NE(written.find("TargetMedia = 1\r\nFloppies=1\r\n\r\n[Compression]"), Text::npos);
+    EXPECT_EQ(ReadSetupInformation(written).Floppies, 1);
+}
+
+TEST(RunCreate, TellsWhatTheInternetMediumLacks)
+{
+    CreateDesk desk;
+    desk.Choose(kMediaInternet);
+    desk.project.RunAppSelfX.ProgramFilename = "C:\\Data\\starta.exe";
+    desk.machine.files.Put("C:\\Data\\starta.exe", "start");
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_THAT(
+        desk.statusLines,
+        ElementsAre("** Skapar 32 bitars installationsuppsättning för Internet **",
+                    "Kopierar SETUP.EXE", "Kopierar QNS32X.EXE  (Small Version)",
+                    "Kopierar DUNZIP32.DLL", "Skapar FILELIST.INF", "Skapar QNSETUP.INF",
+                    "Kopierar SWEDISH.LNG", "Öppnar DESOBJ.DAT", "Kopierar och komprimerar filer",
+                    "Stänger DESOBJ.DAT", "Inga skärmobjekt kopierade - raderar DESOBJ.DAT",
+                    "Öppnar FILEDATA.DAT", "Adderar 'a.txt'", "Kopierar och komprimerar filer",
+                    "Skriver filtabell", "Stänger FILEDATA.DAT",
+                    "Antal filer som adderats till FILEDATA.DTA: 1 st", "Kopierar STARTA.EXE",
+                    "Den här versionen kan ännu inte skapa självuppackande filer!",
+                    "Kan ej skapa SELF.EXE!"));
+    EXPECT_EQ(desk.beeps, 1);
+    EXPECT_TRUE(desk.form.isCmdCreateEnabled);
+    EXPECT_EQ(desk.Get("starta.exe"), "start");
+}
+
+TEST(RunCreate, IgnoresAProgramThatCannotBeCopiedForTheInternet)
+{
+    CreateDesk desk;
+    desk.Choose(kMediaInternet);
+    desk.project.RunAppSelfX.ProgramFilename = "C:\\Data\\saknas.exe";
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines.back(), "Kan ej skapa SELF.EXE!");
+}
+
+TEST(RunCreate, ClearsTheInternetFolderAndAsksForTheRest)
+{
+    CreateDesk desk;
+    desk.Choose(kMediaInternet);
+    for (const char* name : {"INSTALL.ZIP", "INSTALL.ADX", "self.exe", "kvar.txt"})
+        desk.machine.files.Put(Text("C:\\Ut\\") + name, "old");
+    const ExpectedBox notEmpty{
+        BoxKind::YesNo, "Katalogen är ej tom",
+        "Katalogen 'C:\\Ut', där den självuppackande installationsfilen ska skapas i är ej tom! "
+        "Katalogen bör vara tom eftersom samtliga filer i denna katalog kommer att adderas till "
+        "den självuppackande filen, varvid det finns risk att oönskade filer kommer ingå i "
+        "installationsprogrammet! Vill du fortsätta?",
+        Answer::No};
+    EXPECT_EQ(desk.Create({notEmpty}), CreateResult::Stopped);
+    EXPECT_THAT(desk.Package(), ElementsAre("kvar.txt"));
+    EXPECT_THAT(
+        desk.statusLines,
+        ElementsAre("** Skapar 32 bitars installationsuppsättning för Internet **", "Avbryter!"));
+    EXPECT_EQ(desk.stops, std::vector(1, Ask::Stops::OnNo));
+    EXPECT_TRUE(desk.form.isCmdCreateEnabled);
+    EXPECT_TRUE(desk.form.isCmdOptionsEnabled);
+    EXPECT_EQ(desk.beeps, 0);
+}
+
+TEST(RunCreate, DoesNotAskForAnInternetFolderThatHoldsFoldersAlone)
+{
+    CreateDesk desk;
+    desk.Choose(kMediaInternet);
+    desk.machine.files.PutFolder("C:\\Ut\\mapp");
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+}
+
+TEST(RunCreate, TellsTheToolsOptions)
+{
+    CreateDesk desk;
+    desk.options.CreateZipLogFile = kOn;
+    desk.options.UseTempZipPath = kOn;
+    desk.machine.files.PutFolder("C:\\Quillon\\TEMP");
+    desk.machine.files.Put("C:\\WINDOWS\\DYNAZIP.LOG", "left over");
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_EQ(desk.statusLines[1], "- Loggning av komprimeringsprocessen är påkopplad");
+    EXPECT_EQ(desk.statusLines[2], "- Temporär komprimeringskatalog används");
+    const std::string log = desk.machine.files.Get("C:\\WINDOWS\\DYNAZIP.LOG");
+    EXPECT_FALSE(log.empty());
+    EXPECT_EQ(log.find("left over"), Text::npos);
+}
+
+TEST(RunCreate, LeavesTheLogOfAnEarlierRunWithoutLogging)
+{
+    CreateDesk desk;
+    desk.machine.files.Put("C:\\WINDOWS\\DYNAZIP.LOG", "left over");
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_EQ(desk.machine.files.Get("C:\\WINDOWS\\DYNAZIP.LOG"), "left over");
+}
+
+TEST(RunCreate, ClearsTheStatusListWhenItBegins)
+{
+    CreateDesk desk;
+    desk.With([](CreateRun& run) {
+        run.ask.AddStatusLine("of an earlier run");
+        return RunCreate(run);
+    });
+    EXPECT_EQ(desk.statusLines.front(),
+              "** Skapar 32 bitars installationsuppsättning för CD (komprimerat) **");
+}
+
+TEST(RunCreate, WritesAutorunOnEveryMedium)
+{
+    for (const Integer medium : {kMediaFloppy, kMediaCdCompressed, kMediaCdTree, kMediaInternet}) {
+        CreateDesk desk;
+        desk.Choose(medium);
+        desk.project.InstallOptions.CreateAutorunFile = kOn;
+        desk.project.InstallOptions.SetupName = "INSTALL.EXE";
+        if (medium == kMediaFloppy)
+            (void)desk.Create({kFirstDisk});
+        else
+            (void)desk.Create();
+        EXPECT_TRUE(
+            test::SameBytes(desk.Get("AUTORUN.INF"), test::GoldenFile("builder/AUTORUN.INF")));
+    }
+}
+
+TEST(RunCreate, KeepsWhatTheFormChose)
+{
+    CreateDesk desk;
+    desk.Choose(kMediaCdTree);
+    desk.form.cbOS = 1;
+    desk.form.UseCompression = 0;
+    desk.project.InstallOptions.DontInstallSysFilesOnNewWin = kOff;
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_EQ(desk.project.Media.TargetMedia, kMediaCdTree);
+    EXPECT_EQ(desk.project.OperatingSystem.TargetOperatingSystem, 1);
+    EXPECT_EQ(desk.project.InstallOptions.DontInstallSysFilesOnNewWin, kOn);
+    EXPECT_EQ(desk.project.Compression.CompressFiles, kOff);
+    EXPECT_EQ(desk.project.ProgramGroup.ProgramGroup, "Demo");
+}
+
+// Kept: choosing new systems turns it on, and choosing all systems again leaves it on.
+TEST(RunCreate, LeavesDontInstallSysFilesOnNewWinOn)
+{
+    CreateDesk desk;
+    desk.project.InstallOptions.DontInstallSysFilesOnNewWin = kOff;
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_EQ(desk.project.InstallOptions.DontInstallSysFilesOnNewWin, kOff);
+    desk.form.cbOS = 1;
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    desk.form.cbOS = 0;
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_EQ(desk.project.InstallOptions.DontInstallSysFilesOnNewWin, kOn);
+}
+
+TEST(RunCreate, ChangesTheProjectAlsoWhenACheckStopsIt)
+{
+    CreateDesk desk;
+    desk.form.cbOS = 1;
+    desk.form.KeepCompressedFilesOneAndOne = 1;
+    desk.project.ProjectName.ProjectName.clear();
+    EXPECT_EQ(desk.Create({{BoxKind::Inform, "Fel"}}), CreateResult::Stopped);
+    EXPECT_EQ(desk.project.OperatingSystem.TargetOperatingSystem, 1);
+    EXPECT_EQ(desk.project.InstallOptions.DontInstallSysFilesOnNewWin, kOn);
+    EXPECT_EQ(desk.project.Compression.KeepCompressedFilesOneAndOne, 1);
+    EXPECT_EQ(desk.project.Compression.CompressFiles, kOff);
+}
+
+TEST(RunCreate, LeavesSevenSystemFilesOutForNewWindows)
+{
+    CreateDesk desk;
+    desk.form.cbOS = 1;
+    for (const char* name : {"OLEAUT32.DLL", "OLEPRO32.DLL", "ASYCFILT.DLL", "COMCAT.DLL",
+                             "MSVCRT.DLL", "MFC42.DLL", "STDOLE2.TLB"})
+        desk.AddFile(name, "x", "%SYSDIR");
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_EQ(ReadInstallFileList(desk.Get("FILELIST.INF")).rows.size(), 1u);
+    EXPECT_EQ(desk.statusLines[desk.statusLines.size() - 2],
+              "Antal filer som adderats till FILEDATA.DTA: 1 st");
+    EXPECT_EQ(ReadSetupInformation(desk.Get("QNSETUP.INF")).Files, 1);
+}
+
+class ManyFiles : public testing::TestWithParam<std::size_t> {
+protected:
+    ManyFiles()
+    {
+        desk.project.Files.rows.clear();
+        const FileListRow row = desk.AddFile("a.txt", "x", "%DESTDIR\\b");
+        desk.project.Files.rows.assign(GetParam() - 1, row);
+        desk.AddFile("first.txt", "x", "%DESTDIR\\A");
+    }
+
+    CreateDesk desk;
+};
+
+TEST_P(ManyFiles, AreSortedByFolderForTheUninstallerFrom1000On)
+{
+    const bool sorts = GetParam() >= 1000;
+    desk.project.InstallOptions.UninstallSupport = kOn;
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_EQ(desk.statusLines[1] == "Sorterar fillista efter destinationskatalog", sorts);
+    EXPECT_EQ(desk.project.Files.rows.front()[Filename], sorts ? "first.txt" : "a.txt");
+    EXPECT_EQ(desk.project.Files.sortKey, sorts ? Destination : Filename);
+    EXPECT_FALSE(desk.project.Files.sortDescending);
+    const InstallFileList written = ReadInstallFileList(desk.Get("FILELIST.INF"));
+    ASSERT_EQ(written.rows.size(), GetParam());
+    EXPECT_EQ(written.rows.front().name, sorts ? "first.txt" : "a.txt");
+}
+
+TEST_P(ManyFiles, KeepTheUsersOrderWithoutUninstaller)
+{
+    desk.Choose(kMediaCdTree);
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_EQ(desk.project.Files.rows.front()[Filename], "a.txt");
+    EXPECT_EQ(desk.statusLines[1], "Kopierar SETUP.EXE");
+}
+
+INSTANTIATE_TEST_SUITE_P(RunCreate, ManyFiles, testing::Values(999, 1000));
+
+TEST(RunCreate, EndsAtAMissingSource)
+{
+    CreateDesk desk;
+    desk.machine.files.Put("C:\\Ut\\QNSETUP.INF", "of an earlier run");
+    desk.project.Files.rows.push_back(test::Row("x.txt", "%DESTDIR", "c:\\data\\x.txt"));
+    EXPECT_EQ(desk.Create({{BoxKind::Critical, "Fil saknas",
+                            "En eller flera filer har försvunnit från källkatalogen sedan du lade "
+                            "in dessa i fillistan! Välj menyalternativet 'Lista'-'Uppdatera Lista' "
+                            "för att lokalisera de saknade filerna i fillistan."}}),
+              CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines.back(), "Fil saknas! Avbryter processen.");
+    EXPECT_EQ(desk.failure->Path(), "c:\\data\\x.txt");
+    EXPECT_EQ(desk.beeps, 1);
+    EXPECT_TRUE(desk.form.isCmdCreateEnabled);
+    EXPECT_FALSE(desk.Has("QNSETUP.INF"));
+    EXPECT_TRUE(
+        desk.Get("FILELIST.INF").ends_with("F1=a.txt;%DESTDIR;5;data; ;D ;0; ; ; ; ;0;\r\n"));
+    EXPECT_FALSE(desk.Has("FILEDATA.DAT"));
+}
+
+TEST(RunCreate, EndsAtAMissingSourceFolder)
+{
+    CreateDesk desk;
+    desk.project.Files.rows[0][Source] = "c:\\borta\\a.txt";
+    EXPECT_EQ(desk.Create({{BoxKind::Critical, "Källkatalog existerar inte",
+                            "En källkatalog till en fil i fillistan existerar inte på hårddisken "
+                            "längre! Antagligen har katalogen tagits bort eller så har den fått "
+                            "ett nytt namn sedan du lade in filen till fillistan. Välj "
+                            "menyalternativet 'Lista'-'Uppdatera Lista' för att lokalisera de "
+                            "berörda filerna."}}),
+              CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines.back(), "Källkatalog existerar inte! Avbryter processen.");
+    EXPECT_FALSE(desk.Has("QNSETUP.INF"));
+    EXPECT_TRUE(desk.Has("FILELIST.INF"));
+}
+
+TEST(RunCreate, TellsAnyOtherFailureOfTheFileListByItsNumber)
+{
+    for (const int number : {61, 70, 75}) {
+        CreateDesk desk;
+        desk.machine.files.Put("C:\\Ut\\QNSETUP.INF", "of an earlier run");
+        desk.machine.files.RefuseOutput("C:\\Ut\\FILELIST.INF", number);
+        EXPECT_EQ(desk.Create(), CreateResult::Failed);
+        EXPECT_EQ(desk.statusLines.back(),
+                  "Fel #" + NumberText(number) + " inträffade när FILELIST.INF skulle skapas.");
+        EXPECT_TRUE(desk.Has("QNSETUP.INF"));
+        EXPECT_EQ(desk.beeps, 1);
+    }
+}
+
+TEST(RunCreate, TellsAFailureOfTheSetupInformationByItsNumber)
+{
+    for (const int number : {53, 61, 76}) {
+        CreateDesk desk;
+        desk.machine.files.RefuseOutput("C:\\Ut\\QNSETUP.INF", number);
+        EXPECT_EQ(desk.Create(), CreateResult::Failed);
+        EXPECT_EQ(desk.statusLines.back(),
+                  "Fel #" + NumberText(number) + " inträffade när QNSETUP.INF skulle skapas.");
+        EXPECT_EQ(desk.beeps, 1);
+        EXPECT_FALSE(desk.Has("SWEDISH.LNG"));
+    }
+}
+
+TEST(RunCreate, LeavesTheButtonsDisabledAfterAFailureThatNoStepHandles)
+{
+    CreateDesk desk;
+    desk.project.Language.LanguageFile = "SAKNAS.LNG";
+    EXPECT_EQ(desk.Create({kCannotWrite}), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines[desk.statusLines.size() - 2], "Kopierar SAKNAS.LNG");
+    EXPECT_EQ(desk.statusLines.back(), "Kan ej skapa!");
+    EXPECT_EQ(desk.failure->Path(), "C:\\Quillon\\Language\\SAKNAS.LNG");
+    EXPECT_FALSE(desk.form.isCmdCreateEnabled);
+    EXPECT_FALSE(desk.form.isCmdOptionsEnabled);
+    EXPECT_EQ(desk.beeps, 0);
+    EXPECT_TRUE(desk.Has("QNSETUP.INF"));
+}
+
+TEST(RunCreate, TakesARefusedAutorunFileForSuchAFailure)
+{
+    CreateDesk desk;
+    desk.project.InstallOptions.CreateAutorunFile = kOn;
+    desk.machine.files.RefuseOutput("C:\\Ut\\AUTORUN.INF", 75);
+    EXPECT_EQ(desk.Create({kCannotWrite}), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines.back(), "Kan ej skapa!");
+}
+
+TEST(RunCreate, EndsWithTheDesignContainer)
+{
+    CreateDesk desk;
+    desk.project.DesSound.BackSoundFilename = "C:\\Bilder\\saknas.wav";
+    EXPECT_EQ(desk.Create({{BoxKind::Critical, "Hittar inte objekt"}}), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines.back(), "Processen avbruten!");
+    EXPECT_EQ(desk.beeps, 1);
+    EXPECT_TRUE(desk.form.isCmdCreateEnabled);
+    EXPECT_FALSE(desk.Has("FILEDATA.DAT"));
+}
+
+TEST(RunCreate, SaysThatAFailedCompressionBrokeItOff)
+{
+    CreateDesk desk;
+    desk.machine.files.At("C:\\Data\\a.txt").unreadable = true;
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines.back(), "Processen avbruten!");
+    EXPECT_EQ(desk.beeps, 1);
+    EXPECT_TRUE(desk.form.isCmdCreateEnabled);
+}
+
+TEST(RunCreate, TellsNoFloppyCountAfterAFailedCompression)
+{
+    CreateDesk desk;
+    desk.Choose(kMediaFloppy);
+    desk.machine.files.At("C:\\Data\\a.txt").unreadable = true;
+    EXPECT_EQ(desk.Create({kFirstDisk}), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines[desk.statusLines.size() - 2],
+              "Uppdaterar QNSETUP.INF med diskettinformation");
+    EXPECT_EQ(desk.statusLines.back(), "Processen avbruten!");
+}
+
+TEST(RunCreate, OverwritesThePackageOfAnEarlierRun)
+{
+    CreateDesk desk;
+    AskForEverything(desk);
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    const std::string first = desk.Get("FILEDATA.DAT");
+    for (const Text& name : desk.Package())
+        desk.machine.files.Put("C:\\Ut\\" + name, std::string(100'000, 'x'));
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_TRUE(test::SameBytes(desk.Get("FILEDATA.DAT"), first));
+    for (const Text& name : desk.Package())
+        EXPECT_EQ(desk.Get(name).find("xxxx"), Text::npos) << name;
+}
+
+// Each write of a run fails once, from the first to the last: the run ends as a failure, says so,
+// and asks nothing but what it would ask anyway.
+class FullDisk : public testing::TestWithParam<Integer> {};
+
+TEST_P(FullDisk, EndsEveryRunAsAFailure)
+{
+    int writes = 0;
+    for (CreateResult result = CreateResult::Failed; result != CreateResult::Done;) {
+        ++writes;
+        ASSERT_LT(writes, 200);
+        CreateDesk desk;
+        AskForEverything(desk);
+        desk.Choose(GetParam());
+        desk.machine.files.FailFromWrite(writes, 61);
+        result = desk.With([](CreateRun& run) {
+            struct AnyBox : test::ScriptedAsk {
+                bool OkCancel(const Text&, const Text&) override { return true; }
+                void Critical(const Text& title, const Text& text) override
+                {
+                    EXPECT_EQ(title, kCannotWrite.title);
+                    EXPECT_EQ(text, kCannotWrite.text);
+                    ++criticals;
+                }
+                int criticals = 0;
+            } ask;
+            CreateRun own{.project = run.project,
+                          .state = run.state,
+                          .form = run.form,
+                          .options = run.options,
+                          .host = run.host,
+                          .ask = ask,
+                          .compression = run.compression};
+            const CreateResult ended = RunCreate(own);
+            const Text last = ask.statusLines.back();
+            EXPECT_EQ(last == "Kan ej skapa!", ask.criticals == 1) << last;
+            const bool isIncomplete = own.isIncomplete && last == "Färdig!";
+            EXPECT_EQ(ended == CreateResult::Done, last == "Färdig!" && !isIncomplete) << last;
+            return ended;
+        });
+    }
+    EXPECT_GT(writes, 10);
+}
+
+INSTANTIATE_TEST_SUITE_P(RunCreate, FullDisk,
+                         testing::Values(kMediaFloppy, kMediaCdCompressed, kMediaCdTree));
+
+TEST(RunCreate, GivesTheSamePackageTwiceButForTheScrambledPassword)
+{
+    CreateDesk first;
+    CreateDesk second;
+    for (CreateDesk* desk : {&first, &second}) {
+        AskForEverything(*desk);
+        desk->project.DialogBoxData.CorrectPassword = "Hemligt1";
+    }
+    second.machine.machine.now.second = 59;
+    ASSERT_EQ(first.Create(), CreateResult::Done);
+    ASSERT_EQ(second.Create(), CreateResult::Done);
+    for (const Text& name : first.Package())
+        EXPECT_EQ(first.Get(name) == second.Get(name), name != "QNSETUP.INF") << name;
+}
+
+} // namespace quillon
