@@ -1,5 +1,7 @@
 #include "helpers/text.h"
 
+#include "helpers/ansi_text.h"
+
 #include <gtest/gtest.h>
 
 namespace quillon {
@@ -9,6 +11,25 @@ TEST(UpperAndLowerCase, CoverTheLettersOfWindows1252)
     EXPECT_EQ(UpperCase("abcåäöéÿšœžþß÷"), "ABCÅÄÖÉŸŠŒŽÞß÷");
     EXPECT_EQ(LowerCase("ABCÅÄÖÉŸŠŒŽÞ×"), "abcåäöéÿšœžþ×");
     EXPECT_EQ(LowerCase("ДЖ Σ"), "ДЖ Σ") << "letters that no project can hold stay as they are";
+}
+
+TEST(UpperAndLowerCase, PairEveryLetterOfTheCodePageAndTouchNothingElse)
+{
+    const Text lower = "abcdefghijklmnopqrstuvwxyzàáâãäåæçèéêëìíîïðñòóôõöøùúûüýþšœžÿ";
+    const Text upper = "ABCDEFGHIJKLMNOPQRSTUVWXYZÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞŠŒŽŸ";
+    EXPECT_EQ(UpperCase(lower), upper);
+    EXPECT_EQ(LowerCase(upper), lower);
+    EXPECT_EQ(UpperCase(upper), upper);
+    EXPECT_EQ(LowerCase(lower), lower);
+
+    const Text letters = lower + upper;
+    for (int byte = 0; byte < 256; ++byte) {
+        const Text character = AnsiText::FromBytes(std::string(1, static_cast<char>(byte)));
+        if (letters.find(character) != Text::npos)
+            continue;
+        EXPECT_EQ(UpperCase(character), character) << byte;
+        EXPECT_EQ(LowerCase(character), character) << byte;
+    }
 }
 
 TEST(Comparison, IgnoresCaseByCodePoint)

@@ -105,6 +105,23 @@ TEST_F(PosixMachineTest, KnowsTheOwnerFromTheRegistryElseFromTheSystem)
     EXPECT_EQ(owner.organization, "Firma AB");
 }
 
+TEST_F(PosixMachineTest, CutsOwnerAndOrganizationAt256Characters)
+{
+    disk.Put("a.reg",
+             "REGEDIT4\n[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion]\n"
+             "\"RegisteredOwner\"=\"" +
+                 std::string(300, 'o') + "\"\n\"RegisteredOrganization\"=\"" +
+                 std::string(300, 'f') + "\"\n");
+    MachineSettings settings = Settings();
+    settings.registryFiles = {disk.Path("a.reg")};
+    const RegisteredOwner owner = PosixHost(settings).machine.GetWindowsRegisteredOwner();
+    EXPECT_EQ(owner.owner, Text(256, 'o'));
+    EXPECT_EQ(owner.organization, Text(256, 'f'));
+    settings.registryFiles.clear();
+    settings.fullName = Text(300, 'n');
+    EXPECT_EQ(PosixHost(settings).machine.GetWindowsRegisteredOwner().owner, Text(256, 'n'));
+}
+
 TEST_F(PosixMachineTest, DrawsEveryNumberBelowTheLimitAndNoOther)
 {
     PosixHost host(Settings());
@@ -126,6 +143,25 @@ TEST_F(PosixMachineTest, TakesTheDecimalSignFromTheUsersLocaleAndLeavesTheProces
     EXPECT_EQ(host.machine.DecimalSign(), '.');
     unsetenv("LC_ALL");
     EXPECT_EQ(std::to_string(0.5), "0.500000");
+}
+
+TEST_F(PosixMachineTest, KnowsADecimalComma)
+{
+    // A locale with nothing but a decimal comma, in the form that the C library compiles one to:
+    // head, where each of its six fields begins, the fields. No machine need have one installed.
+    constexpr std::string_view kNumbersWithComma(
+        "\x14\x11\x03\x20\x06\0\0\0"
+        "\x20\0\0\0\x22\0\0\0\x23\0\0\0\x24\0\0\0\x28\0\0\0\x2C\0\0\0"
+        ",\0\0\0,\0\0\0\0\0\0\0ANSI_X3.4-1968\0",
+        59);
+    disk.Put("locales/comma/LC_NUMERIC", std::string(kNumbersWithComma));
+    PosixHost host(Settings());
+    setenv("LOCPATH", disk.Path("locales").c_str(), 1);
+    setenv("LC_ALL", "comma", 1);
+    EXPECT_EQ(host.machine.DecimalSign(), ',');
+    unsetenv("LC_ALL");
+    unsetenv("LOCPATH");
+    EXPECT_EQ(host.machine.DecimalSign(), '.');
 }
 
 /// Waits, as long as it takes, for what a program of the test writes into a pipe.
