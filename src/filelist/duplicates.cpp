@@ -3,6 +3,7 @@
 #include "helpers/number_text.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace quillon {
 
@@ -11,10 +12,19 @@ namespace {
 // Shorter lists are searched from end to end.
 constexpr std::size_t kHalvedFrom = 100;
 
-// The name stands first, so that rows of one key have one name.
-Text KeyOf(const Text& upperName, std::string_view place)
+std::size_t HashOf(std::string_view upperName, std::string_view upperText)
 {
-    return upperName + '\0' + UpperCase(place);
+    const std::hash<std::string_view> hash;
+    return hash(upperName) * 31 + hash(upperText);
+}
+
+// Compares as the texts do, up to where the number ends.
+std::uint64_t FirstBytes(std::string_view text)
+{
+    std::uint64_t bytes = 0;
+    for (std::size_t i = 0; i < sizeof bytes; ++i)
+        bytes = (bytes << 8U) | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0U);
+    return bytes;
 }
 
 } // namespace
@@ -27,11 +37,8 @@ bool IsFilenameInFileList(const FileList& list, std::string_view fileName)
 }
 
 DuplicateIndex::DuplicateIndex(const FileList& list)
-    : list_(list), ordersByName_(list.sorted && list.sortKey == Filename),
-      firstHalf_([this](RowNumber left, RowNumber right) { return StandsBefore(left, right); }),
-      secondHalf_(firstHalf_.key_comp())
+    : list_(list), ordersByName_(list.sorted && list.sortKey == Filename)
 {
-    upperNames_.reserve(list.rows.size());
     while (upperNames_.size() < list.rows.size())
         NoteNewRow();
 }
@@ -39,35 +46,53 @@ DuplicateIndex::DuplicateIndex(const FileList& list)
 void DuplicateIndex::NoteNewRow()
 {
     const auto number = static_cast<RowNumber>(upperNames_.size());
-    const FileListRow& row = list_.rows[number];
-    const Text& upperName = upperNames_.emplace_back(UpperCase(row[Filename]));
-    const auto note = [number](OccurrencesByText& all, const Text& key) {
-        all.try_emplace(key, Occurrences{number, number}).first->second.last = number;
-    };
-    note(bySource_, KeyOf(upperName, row[Source]));
-    note(byDestination_, KeyOf(upperName, row[Destination]));
+    upperNames_.push_back(UpperCase(list_.rows[number][Filename]));
+    Note(source_, number);
+    Note(destination_, number);
     if (ordersByName_)
-        PlaceInHalf(number);
+        rowsByName_.Insert(Ordered(number));
 }
 
-void DuplicateIndex::PlaceInHalf(RowNumber row)
+template <class AnyPlace>
+auto DuplicateIndex::Find(AnyPlace& place, std::size_t hash, const Text& upperName,
+                          std::string_view text) const
+    -> decltype(&place.occurrences.begin()->second)
 {
-    const bool comesFirst = !firstHalf_.empty() && StandsBefore(row, *firstHalf_.rbegin());
-    (comesFirst ? firstHalf_ : secondHalf_).insert(row);
-    while (firstHalf_.size() > MiddleCount())
-        secondHalf_.insert(firstHalf_.extract(std::prev(firstHalf_.end())));
-    while (firstHalf_.size() < MiddleCount())
-        firstHalf_.insert(secondHalf_.extract(secondHalf_.begin()));
+    auto [found, end] = place.occurrences.equal_range(hash);
+    for (; found != end; ++found) {
+        const RowNumber first = found->second.first;
+        if (upperNames_[first] == upperName &&
+            EqualIgnoreCase(list_.rows[first][place.column], text))
+            return &found->second;
+    }
+    return nullptr;
 }
 
-bool DuplicateIndex::StandsBefore(RowNumber left, RowNumber right) const
+void DuplicateIndex::Note(Place& place, RowNumber number)
+{
+    const Text& text = list_.rows[number][place.column];
+    const std::size_t hash = HashOf(upperNames_[number], UpperCase(text));
+    if (Occurrences* const known = Find(place, hash, upperNames_[number], text))
+        known->last = number;
+    else
+        place.occurrences.emplace(hash, Occurrences{number, number});
+}
+
+DuplicateIndex::OrderedRow DuplicateIndex::Ordered(RowNumber number) const
+{
+    return {FirstBytes(upperNames_[number]), number};
+}
+
+bool DuplicateIndex::StandsBefore(const OrderedRow& left, const OrderedRow& right) const
 {
     if (ordersByName_) {
-        const int order = upperNames_[left].compare(upperNames_[right]);
+        if (left.nameStart != right.nameStart)
+            return (left.nameStart < right.nameStart) != list_.sortDescending;
+        const int order = upperNames_[left.number].compare(upperNames_[right.number]);
         if (order != 0)
             return (order < 0) != list_.sortDescending;
     }
-    return left < right;
+    return left.number < right.number;
 }
 
 bool DuplicateIndex::HalvesTheList() const
@@ -80,33 +105,33 @@ std::size_t DuplicateIndex::MiddleCount() const
     return static_cast<std::size_t>(RoundToEven(static_cast<double>(upperNames_.size()) / 2));
 }
 
-DuplicateIndex::RowNumber DuplicateIndex::MiddleRow() const
+DuplicateIndex::OrderedRow DuplicateIndex::MiddleRow() const
 {
-    return ordersByName_ ? *firstHalf_.rbegin() : static_cast<RowNumber>(MiddleCount() - 1);
+    const std::size_t place = MiddleCount() - 1;
+    return ordersByName_ ? rowsByName_.At(place) : Ordered(static_cast<RowNumber>(place));
 }
 
-bool DuplicateIndex::LiesInSpan(const OccurrencesByText& all, const Text& key,
-                                const Text& upperName) const
+bool DuplicateIndex::LiesInSpan(const Place& place, const Text& upperName,
+                                std::string_view text) const
 {
-    const auto found = all.find(key);
-    if (found == all.end())
-        return false;
-    if (!HalvesTheList())
-        return true;
-    const RowNumber middle = MiddleRow();
+    const std::size_t hash = HashOf(upperName, UpperCase(text));
+    const Occurrences* const found = Find(place, hash, upperName, text);
+    if (!found || !HalvesTheList())
+        return found != nullptr;
+    const OrderedRow middle = MiddleRow();
     // Kept: one step of halving, and as if the list stood in ascending order, whether it does or
     // not. Both halves hold the middle row.
-    if (upperName > upperNames_[middle])
-        return !StandsBefore(found->second.last, middle);
-    return !StandsBefore(middle, found->second.first);
+    if (upperName > upperNames_[middle.number])
+        return !StandsBefore(Ordered(found->last), middle);
+    return !StandsBefore(middle, Ordered(found->first));
 }
 
 bool DuplicateIndex::IsFileAlreadyInList(std::string_view fileName, std::string_view sourcePath,
                                          std::string_view destination) const
 {
     const Text upperName = UpperCase(fileName);
-    return LiesInSpan(bySource_, KeyOf(upperName, sourcePath), upperName) ||
-           LiesInSpan(byDestination_, KeyOf(upperName, destination), upperName);
+    return LiesInSpan(source_, upperName, sourcePath) ||
+           LiesInSpan(destination_, upperName, destination);
 }
 
 } // namespace quillon

@@ -3,11 +3,10 @@
 // its outcome; the index here gives the same outcome without the walk.
 #pragma once
 
+#include "filelist/sorted_blocks.h"
 #include "project/file_list.h"
 
 #include <cstdint>
-#include <functional>
-#include <set>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -33,31 +32,49 @@ public:
 
 private:
     using RowNumber = std::uint32_t;
-    // Rows of one name keep the order of their numbers, however the list is sorted, so the first
-    // and the last tell whether any of them lies in a span.
+    // The rows of one name and place. They keep the order of their numbers, however the list is
+    // sorted, so the first and the last tell whether any of them lies in a span.
     struct Occurrences {
         RowNumber first;
         RowNumber last;
     };
-    using OccurrencesByText = std::unordered_map<Text, Occurrences>;
-    using OrderedRows = std::set<RowNumber, std::function<bool(RowNumber, RowNumber)>>;
+    using OccurrencesByHash = std::unordered_multimap<std::size_t, Occurrences>;
+    struct Place {
+        Column column;
+        OccurrencesByHash occurrences;
+    };
 
-    bool StandsBefore(RowNumber left, RowNumber right) const;
+    // `nameStart` holds the first bytes of the row's name, which settle most comparisons.
+    struct OrderedRow {
+        std::uint64_t nameStart;
+        RowNumber number;
+    };
+    struct InListOrder {
+        const DuplicateIndex* index;
+        bool operator()(const OrderedRow& left, const OrderedRow& right) const
+        {
+            return index->StandsBefore(left, right);
+        }
+    };
+
+    OrderedRow Ordered(RowNumber number) const;
+    bool StandsBefore(const OrderedRow& left, const OrderedRow& right) const;
     bool HalvesTheList() const;
     std::size_t MiddleCount() const;
-    RowNumber MiddleRow() const;
-    bool LiesInSpan(const OccurrencesByText& all, const Text& key, const Text& upperName) const;
-    void PlaceInHalf(RowNumber row);
+    OrderedRow MiddleRow() const;
+    void Note(Place& place, RowNumber number);
+    template <class AnyPlace>
+    auto Find(AnyPlace& place, std::size_t hash, const Text& upperName, std::string_view text) const
+        -> decltype(&place.occurrences.begin()->second);
+    bool LiesInSpan(const Place& place, const Text& upperName, std::string_view text) const;
 
     const FileList& list_;
     std::vector<Text> upperNames_;
-    OccurrencesByText bySource_;
-    OccurrencesByText byDestination_;
-    // The sorted list in two halves, the middle row being the last of the first one. Both are empty
-    // while the list isn't sorted by name: the rows then stand as they are.
+    Place source_{Source, {}};
+    Place destination_{Destination, {}};
+    // Empty while the list isn't sorted by name: the rows then stand as they are.
     bool ordersByName_;
-    OrderedRows firstHalf_;
-    OrderedRows secondHalf_;
+    SortedBlocks<OrderedRow, InListOrder> rowsByName_{InListOrder{this}};
 };
 
 } // namespace quillon
