@@ -122,7 +122,8 @@ compare_programs() {
 # The best of several repetitions, by the processor's time: what else runs here does not count.
 growth() {
     local program=$1 name small large
-    "$program" --benchmark_format=csv --benchmark_repetitions=5 2>/dev/null \
+    "$program" --benchmark_filter='^(Add|Save|Load)' --benchmark_format=csv \
+        --benchmark_repetitions=5 2>/dev/null \
         | awk -F , '/\/(8000|32000)"?,/ {
               gsub(/"/, "", $1)
               if (!($1 in best) || $4 < best[$1]) best[$1] = $4

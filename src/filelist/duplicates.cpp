@@ -53,29 +53,21 @@ void DuplicateIndex::NoteNewRow()
         rowsByName_.Insert(Ordered(number));
 }
 
-template <class AnyPlace>
-auto DuplicateIndex::Find(AnyPlace& place, std::size_t hash, const Text& upperName,
-                          std::string_view text) const
-    -> decltype(&place.occurrences.begin()->second)
+auto DuplicateIndex::HasNameAndText(const Place& place, const Text& upperName,
+                                    std::string_view text) const
 {
-    auto [found, end] = place.occurrences.equal_range(hash);
-    for (; found != end; ++found) {
-        const RowNumber first = found->second.first;
-        if (upperNames_[first] == upperName &&
-            EqualIgnoreCase(list_.rows[first][place.column], text))
-            return &found->second;
-    }
-    return nullptr;
+    return [this, column = place.column, &upperName, text](RowNumber number) {
+        return upperNames_[number] == upperName &&
+               EqualIgnoreCase(list_.rows[number][column], text);
+    };
 }
 
 void DuplicateIndex::Note(Place& place, RowNumber number)
 {
+    const Text& upperName = upperNames_[number];
     const Text& text = list_.rows[number][place.column];
-    const std::size_t hash = HashOf(upperNames_[number], UpperCase(text));
-    if (Occurrences* const known = Find(place, hash, upperNames_[number], text))
-        known->last = number;
-    else
-        place.occurrences.emplace(hash, Occurrences{number, number});
+    place.rows.Add(number, HashOf(upperName, UpperCase(text)),
+                   HasNameAndText(place, upperName, text));
 }
 
 DuplicateIndex::OrderedRow DuplicateIndex::Ordered(RowNumber number) const
@@ -114,8 +106,8 @@ DuplicateIndex::OrderedRow DuplicateIndex::MiddleRow() const
 bool DuplicateIndex::LiesInSpan(const Place& place, const Text& upperName,
                                 std::string_view text) const
 {
-    const std::size_t hash = HashOf(upperName, UpperCase(text));
-    const Occurrences* const found = Find(place, hash, upperName, text);
+    const AlikeRows* const found =
+        place.rows.Find(HashOf(upperName, UpperCase(text)), HasNameAndText(place, upperName, text));
     if (!found || !HalvesTheList())
         return found != nullptr;
     const OrderedRow middle = MiddleRow();

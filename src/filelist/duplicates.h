@@ -3,12 +3,13 @@
 // its outcome; the index here gives the same outcome without the walk.
 #pragma once
 
+#include "filelist/row_table.h"
 #include "filelist/sorted_blocks.h"
 #include "project/file_list.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace quillon {
@@ -31,17 +32,12 @@ public:
     void NoteNewRow();
 
 private:
-    using RowNumber = std::uint32_t;
-    // The rows of one name and place. They keep the order of their numbers, however the list is
-    // sorted, so the first and the last tell whether any of them lies in a span.
-    struct Occurrences {
-        RowNumber first;
-        RowNumber last;
-    };
-    using OccurrencesByHash = std::unordered_multimap<std::size_t, Occurrences>;
+    // The rows by their name and the text of one column. Rows of one name keep the order of their
+    // numbers, however the list is sorted, so the first and the last tell whether any of them lies
+    // in a span.
     struct Place {
         Column column;
-        OccurrencesByHash occurrences;
+        RowTable rows = {};
     };
 
     // `nameStart` holds the first bytes of the row's name, which settle most comparisons.
@@ -63,15 +59,13 @@ private:
     std::size_t MiddleCount() const;
     OrderedRow MiddleRow() const;
     void Note(Place& place, RowNumber number);
-    template <class AnyPlace>
-    auto Find(AnyPlace& place, std::size_t hash, const Text& upperName, std::string_view text) const
-        -> decltype(&place.occurrences.begin()->second);
+    auto HasNameAndText(const Place& place, const Text& upperName, std::string_view text) const;
     bool LiesInSpan(const Place& place, const Text& upperName, std::string_view text) const;
 
     const FileList& list_;
     std::vector<Text> upperNames_;
-    Place source_{Source, {}};
-    Place destination_{Destination, {}};
+    Place source_{Source};
+    Place destination_{Destination};
     // Empty while the list isn't sorted by name: the rows then stand as they are.
     bool ordersByName_;
     SortedBlocks<OrderedRow, InListOrder> rowsByName_{InListOrder{this}};

@@ -1,0 +1,76 @@
+// A hash table of rows that is one array: with thousands of rows, what a look-up costs is mostly
+// the memory that it touches.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace quillon {
+
+using RowNumber = std::uint32_t;
+
+/// Rows that are alike in what the table is about, by the first and the last of them.
+struct AlikeRows {
+    RowNumber first;
+    RowNumber last;
+};
+
+class RowTable {
+public:
+    /// `isAlike` tells of the first row of an entry whether it is what is looked for. Null where
+    /// there is none.
+    template <class IsAlike>
+    const AlikeRows* Find(std::size_t hash, IsAlike isAlike) const
+    {
+        const Slot& slot = slots_[SlotOf(hash, isAlike)];
+        return slot.isFree ? nullptr : &slot.rows;
+    }
+
+    /// Rows come in rising order.
+    template <class IsAlike>
+    void Add(RowNumber number, std::size_t hash, IsAlike isAlike)
+    {
+        Slot& slot = slots_[SlotOf(hash, isAlike)];
+        slot.rows.last = number;
+        if (!slot.isFree)
+            return;
+        slot = {static_cast<Hash>(hash), {number, number}, false};
+        if (++used_ * 2 > slots_.size())
+            Grow();
+    }
+
+private:
+    using Hash = std::uint32_t;
+    struct Slot {
+        Hash hash = 0;
+        AlikeRows rows{};
+        bool isFree = true;
+    };
+
+    // The slot of such rows, or the free one where they would go.
+    template <class IsAlike>
+    std::size_t SlotOf(std::size_t hash, IsAlike isAlike) const
+    {
+        std::size_t place = static_cast<Hash>(hash) % slots_.size();
+        while (!slots_[place].isFree && (slots_[place].hash != static_cast<Hash>(hash) ||
+                                         !isAlike(slots_[place].rows.first)))
+            place = (place + 1) % slots_.size();
+        return place;
+    }
+
+    void Grow()
+    {
+        std::vector<Slot> old(slots_.size() * 2);
+        old.swap(slots_);
+        const auto nothingIsAlike = [](RowNumber) { return false; };
+        for (const Slot& slot : old)
+            if (!slot.isFree)
+                slots_[SlotOf(slot.hash, nothingIsAlike)] = slot;
+    }
+
+    std::vector<Slot> slots_ = std::vector<Slot>(256); // always a power of two, at most half full
+    std::size_t used_ = 0;
+};
+
+} // namespace quillon
