@@ -86,10 +86,10 @@ TEST_F(PosixMachineTest, ReadsTheRegistryAndTellsOfFilesThatItCannotRead)
     ASSERT_EQ(host.complaints.size(), 2U);
     EXPECT_EQ(host.complaints[0],
               "QUILLON_REGISTRY: '" + disk.Path("b.reg") +
-                  "' is no registry export; its first line must be REGEDIT4 or Windows Registry "
-                  "Editor Version 5.00.");
+                  "' är ingen registerexport; första raden ska vara REGEDIT4 eller Windows "
+                  "Registry Editor Version 5.00.");
     EXPECT_EQ(host.complaints[1],
-              "QUILLON_REGISTRY: '" + disk.Path("c.reg") + "' can't be read (error 53).");
+              "QUILLON_REGISTRY: '" + disk.Path("c.reg") + "' kan ej läsas (Fel # 53).");
 }
 
 TEST_F(PosixMachineTest, KnowsTheOwnerFromTheRegistryElseFromTheSystem)
@@ -256,10 +256,10 @@ TEST(AddDrives, TakesLettersAndTellsOfWhatIsNone)
     EXPECT_EQ(settings.drives[1].letter, 'a');
     EXPECT_EQ(settings.complaints,
               (std::vector<Text>{
-                  "QUILLON_DRIVES: 'C=/c' can't be: C: is set by QUILLON_DRIVE_C, Z: is /.",
-                  "QUILLON_DRIVES: '1=/x' is no drive; write a letter, '=' and a folder.",
-                  "QUILLON_DRIVES: 'Q' is no drive; write a letter, '=' and a folder.",
-                  "QUILLON_DRIVES: 'T=' is no drive; write a letter, '=' and a folder."}));
+                  "QUILLON_DRIVES: 'C=/c' går ej: C: anges med QUILLON_DRIVE_C, Z: är /.",
+                  "QUILLON_DRIVES: '1=/x' är ingen enhet; skriv en bokstav, '=' och en katalog.",
+                  "QUILLON_DRIVES: 'Q' är ingen enhet; skriv en bokstav, '=' och en katalog.",
+                  "QUILLON_DRIVES: 'T=' är ingen enhet; skriv en bokstav, '=' och en katalog."}));
 }
 
 TEST(ReadMachineSettings, FindsDriveCUnderTheUsersDataUnlessItIsNamed)

@@ -69,11 +69,12 @@ void AddDrives(std::string_view list, MachineSettings& settings)
         const bool isTaken =
             isDrive && std::string_view("CcZz").find(entry[0]) != std::string_view::npos;
         if (!isDrive)
-            settings.complaints.push_back("QUILLON_DRIVES: '" + entry +
-                                          "' is no drive; write a letter, '=' and a folder.");
+            settings.complaints.push_back(
+                "QUILLON_DRIVES: '" + entry +
+                "' är ingen enhet; skriv en bokstav, '=' och en katalog.");
         else if (isTaken)
             settings.complaints.push_back("QUILLON_DRIVES: '" + entry +
-                                          "' can't be: C: is set by QUILLON_DRIVE_C, Z: is /.");
+                                          "' går ej: C: anges med QUILLON_DRIVE_C, Z: är /.");
         else
             settings.drives.push_back({entry[0], entry.substr(2)});
     }

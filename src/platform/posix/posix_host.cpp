@@ -3,6 +3,8 @@
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 
+#include <filesystem>
+
 namespace quillon {
 
 namespace {
@@ -16,10 +18,10 @@ RegistryFiles ReadRegistryFiles(const std::vector<std::string>& hostPaths, const
             const Text path = drives.ToWindows(hostPath).value_or("");
             if (!registry.Add(ReadWholeFile(files, path)))
                 complaints.push_back("QUILLON_REGISTRY: '" + hostPath +
-                                     "' is no registry export; its first line must be REGEDIT4 or "
-                                     "Windows Registry Editor Version 5.00.");
+                                     "' är ingen registerexport; första raden ska vara REGEDIT4 "
+                                     "eller Windows Registry Editor Version 5.00.");
         } catch (const RunError& error) {
-            complaints.push_back("QUILLON_REGISTRY: '" + hostPath + "' can't be read (error " +
+            complaints.push_back("QUILLON_REGISTRY: '" + hostPath + "' kan ej läsas (Fel # " +
                                  std::to_string(error.Number()) + ").");
         }
     }
@@ -33,6 +35,13 @@ PosixHost::PosixHost(MachineSettings settings)
       machine(settings, drives, files,
               ReadRegistryFiles(settings.registryFiles, drives, files, complaints))
 {
+}
+
+Text PosixHost::ProgramFolder() const
+{
+    std::error_code unknown;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", unknown);
+    return drives.ToWindows(program.parent_path().string()).value_or("");
 }
 
 } // namespace quillon

@@ -12,6 +12,9 @@ struct PosixHost {
     PosixHost(const PosixHost&) = delete;
     PosixHost& operator=(const PosixHost&) = delete;
 
+    /// The folder that the running program lies in, as a Windows path.
+    Text ProgramFolder() const;
+
     // A line for each setting that could not be used, to be shown to the user.
     std::vector<Text> complaints;
     DriveMap drives;

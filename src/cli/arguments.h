@@ -1,0 +1,62 @@
+// The command line as data: which calls there are, what each takes and what each option may hold.
+// Reading the arguments and printing the help walk the same table.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillon::cli {
+
+struct CallContext;
+
+// The exit codes that scripts rely on.
+enum class Exit {
+    Done = 0,
+    Stopped = 1, // by a check, a question or a failure
+    Usage = 2,
+    Unreadable = 3, // a file that can't be read, or is none of ours
+};
+
+struct Option {
+    const char* name;  // with its dashes
+    const char* value; // what stands behind it; null for a switch
+    const char* help;
+    // The words that the value may be, between bars; null where it is free.
+    const char* words = nullptr;
+};
+
+struct Call {
+    const char* name;
+    std::vector<const char*> operands; // all of them have to be there
+    std::vector<Option> options;
+    const char* help;
+    Exit (*run)(const CallContext& context);
+};
+
+struct Arguments {
+    const Call* call = nullptr;
+    std::vector<std::string> operands;
+    std::map<std::string, std::string> options; // a switch has an empty value
+
+    bool Has(const std::string& option) const { return options.count(option) > 0; }
+    std::optional<std::string> Value(const std::string& option) const;
+};
+
+/// What the user got wrong, in a line.
+struct UsageError {
+    Text text;
+};
+
+/// Throws `UsageError`. Behind "--" nothing is an option.
+Arguments ReadArguments(const std::vector<std::string>& words, std::span<const Call> calls);
+
+/// The whole help; every line fits on a screen of 100 columns.
+Text HelpText(std::span<const Call> calls);
+
+} // namespace quillon::cli

@@ -1,0 +1,46 @@
+// What a call of the program works with, and what it may say.
+#pragma once
+
+#include "cli/arguments.h"
+#include "platform/host.h"
+#include "platform/run_error.h"
+
+#include <functional>
+#include <iosfwd>
+#include <nlohmann/json.hpp>
+
+namespace quillon::cli {
+
+// Keys stand in the order in which they were set.
+using Json = nlohmann::ordered_json;
+
+/// Why a call ends before it has done its work.
+struct CallFailure {
+    Text text;
+    Exit exit;
+};
+
+struct CallContext {
+    const Arguments& arguments;
+    Host& host;
+    Text toolFolder;
+    // A path of this machine as a Windows path; nothing where it can't be one.
+    std::function<std::optional<Text>(const std::string& hostPath)> toWindows;
+    std::ostream& out;
+    std::ostream& err;
+
+    /// An operand as a Windows path, which it may be already. Throws `UsageError`.
+    Text PathOperand(std::size_t number) const { return Path(arguments.operands.at(number)); }
+    Text Path(const std::string& argument) const;
+    bool WantsJson() const { return arguments.Has("--json"); }
+
+    /// Prints the one object of a call that was asked for JSON; its exit code goes in with it.
+    Exit PrintJson(Json object, Exit exit) const;
+    /// Tells a failure: a line on the error output, and under "error" where JSON was asked for.
+    Exit Fail(const Text& text, Exit exit) const;
+};
+
+/// Why the file or folder could not be read or written, in a line that names it.
+Text FailureText(const RunError& error, const Text& path);
+
+} // namespace quillon::cli

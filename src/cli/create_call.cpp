@@ -1,0 +1,137 @@
+// quillonc create: Create as its form runs it, the form filled from the switches.
+#include "builder/create.h"
+#include "cli/calls.h"
+#include "cli/console_ask.h"
+#include "cli/folder_disks.h"
+#include "cli/open_project.h"
+#include "helpers/windows_path.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+
+namespace quillon::cli {
+
+namespace {
+
+struct MediumWord {
+    std::string_view word;
+    Integer targetMedia;
+};
+constexpr std::array<MediumWord, 4> kMediumWords{{{"floppy", kMediaFloppy},
+                                                  {"cd", kMediaCdCompressed},
+                                                  {"tree", kMediaCdTree},
+                                                  {"internet", kMediaInternet}}};
+
+Text WordOfMedium(Integer targetMedia)
+{
+    return Text(std::ranges::find(kMediumWords, targetMedia, &MediumWord::targetMedia)->word);
+}
+
+// The order is that of a user's hands: choosing a medium puts that medium's last folder into the
+// form, so the folder is told afterwards.
+CreateForm FillForm(const CallContext& context, Session& session)
+{
+    const Arguments& arguments = context.arguments;
+    CreateForm form = OpenCreateForm(session.project, session.state);
+    if (const auto word = arguments.Value("--medium"))
+        ClickMedium(form, std::ranges::find(kMediumWords, *word, &MediumWord::word)->targetMedia,
+                    session.project, session.state);
+    if (const auto folder = arguments.Value("--to"))
+        ChangeDestinationDir(form, context.Path(*folder), session.project);
+    if (const auto system = arguments.Value("--os"))
+        form.cbOS = *system == "new" ? 1 : 0;
+    if (arguments.Has("--no-compress"))
+        form.UseCompression = 0;
+    if (arguments.Has("--separate"))
+        form.KeepCompressedFilesOneAndOne = 1;
+    return form;
+}
+
+const char* ResultWord(CreateResult result)
+{
+    switch (result) {
+    case CreateResult::Done:
+        return "done";
+    case CreateResult::Stopped:
+        return "stopped";
+    default:
+        return "failed";
+    }
+}
+
+Json BoxesJson(const ConsoleAsk& ask)
+{
+    Json boxes = Json::array();
+    for (const ConsoleAsk::Box& box : ask.boxes) {
+        Json object = {{"title", box.title}, {"text", box.text}};
+        if (box.answer)
+            object["answer"] = *box.answer;
+        boxes.push_back(std::move(object));
+    }
+    return boxes;
+}
+
+/// The line for the one who has to mend it; the tool's own lines and boxes often name no file.
+Text FailureLine(const CreateRun& run)
+{
+    return run.failure ? FailureText(*run.failure, run.form.tDestinationDir)
+                       : Text("Installationen är ej hel; statusraderna visar vad som saknas.");
+}
+
+Exit Tell(const CallContext& context, const ConsoleAsk& ask, const CreateRun& run,
+          CreateResult result)
+{
+    const bool failed = result == CreateResult::Failed;
+    if (failed)
+        context.err << FailureLine(run) << "\n";
+    const Exit exit = result == CreateResult::Done ? Exit::Done : Exit::Stopped;
+    if (!context.WantsJson())
+        return exit;
+    Json object = {{"result", ResultWord(result)},
+                   {"medium", WordOfMedium(run.form.TargetMedia)},
+                   {"folder", run.form.tDestinationDir},
+                   {"files", run.FilesInList},
+                   {"floppies", run.FloppiesUsed},
+                   {"status", ask.statusLines},
+                   {"boxes", BoxesJson(ask)}};
+    if (failed)
+        object["error"] = FailureLine(run);
+    return context.PrintJson(std::move(object), exit);
+}
+
+} // namespace
+
+Exit CreatePackage(const CallContext& context)
+{
+    const Text path = context.PathOperand(0);
+    const auto answers = context.arguments.Has("--continue") ? ConsoleAsk::Answers::ThatGoOn
+                                                             : ConsoleAsk::Answers::ThatStop;
+    ConsoleAsk ask(context.WantsJson() ? nullptr : &context.out, context.err, answers);
+    Session session = NewSession(context.host, ask, context.toolFolder);
+    // The tool would go on with a part; a package that lacks files would come out.
+    if (OpenProject(session, path) == Opened::InPart)
+        throw CallFailure{PartlyReadText(path) + " Ingen installation skapas.", Exit::Unreadable};
+
+    CreateForm form = FillForm(context, session);
+    if (form.TargetMedia == kMediaInternet)
+        throw CallFailure{"Mediet internet kan ännu ej skapas; välj floppy, cd eller tree.",
+                          Exit::Stopped};
+    // The steps would cut a longer one and write somewhere else.
+    if (CharacterCount(form.tDestinationDir) > kLongestPath)
+        throw CallFailure{"Destinationskatalogen är längre än " + NumberText(kLongestPath) +
+                              " tecken: '" + form.tDestinationDir + "'.",
+                          Exit::Stopped};
+    FolderDisks disks(context.host, form.tDestinationDir);
+    CompressionInterface compression(context.host, ask, disks);
+    CreateRun run{.project = session.project,
+                  .state = session.state,
+                  .form = form,
+                  .options = session.options,
+                  .host = context.host,
+                  .ask = ask,
+                  .compression = compression};
+    return Tell(context, ask, run, RunCreate(run));
+}
+
+} // namespace quillon::cli

@@ -1,0 +1,74 @@
+#include "cli/folder_disks.h"
+
+#include "formats/package.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+
+#include <algorithm>
+
+namespace quillon::cli {
+
+namespace {
+
+constexpr std::uint64_t kClusterSize = 512;
+
+bool IsDriveRoot(const Text& folder)
+{
+    const Text path = RemoveLastBackslash(folder);
+    return path.size() == 2 && path[1] == ':';
+}
+
+std::uint64_t WholeClusters(std::uint64_t size)
+{
+    return (size + kClusterSize - 1) / kClusterSize * kClusterSize;
+}
+
+/// "disk2" and the like, which are disks of their own.
+bool IsDiskName(const Text& name)
+{
+    const Text lower = LowerCase(name);
+    constexpr std::string_view kDisk = "disk";
+    return lower.starts_with(kDisk) && lower.size() > kDisk.size() &&
+           std::all_of(lower.begin() + kDisk.size(), lower.end(),
+                       [](char digit) { return digit >= '0' && digit <= '9'; });
+}
+
+} // namespace
+
+FolderDisks::FolderDisks(Host& host, Text packageFolder)
+    : host_(host), packageFolder_(RemoveLastBackslash(packageFolder))
+{
+}
+
+std::optional<Text> FolderDisks::NextDisk(int number)
+{
+    const Text folder = DiskFolder(packageFolder_, number);
+    if (!host_.files.DirCreate(folder))
+        return std::nullopt;
+    // One that can't be removed can't be written either, and that failure has words of its own.
+    RunErrorNumber([&] { host_.files.RemoveFile(JoinPath(folder, kFileContainerName)); });
+    return folder;
+}
+
+std::uint64_t FolderDisks::Capacity(const Text& folder) const
+{
+    if (IsDriveRoot(folder))
+        return host_.files.FreeSpace(JoinPath(folder, ""));
+    const bool isPackageFolder = EqualIgnoreCase(RemoveLastBackslash(folder), packageFolder_);
+    const std::uint64_t used = Used(folder, isPackageFolder);
+    return used < kDiskCapacity ? kDiskCapacity - used : 0;
+}
+
+std::uint64_t FolderDisks::Used(const Text& folder, bool isPackageFolder) const
+{
+    std::uint64_t used = 0;
+    for (const FolderEntry& entry : host_.files.List(folder)) {
+        if (!entry.facts.isFolder)
+            used += WholeClusters(entry.facts.size);
+        else if (!isPackageFolder || !IsDiskName(entry.name))
+            used += Used(JoinPath(folder, entry.name), false);
+    }
+    return used;
+}
+
+} // namespace quillon::cli

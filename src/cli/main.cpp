@@ -1,0 +1,63 @@
+// quillonc: the tool without a window, for scripts and build servers.
+#include "cli/calls.h"
+#include "cli/open_project.h"
+#include "helpers/product.h"
+#include "platform/posix/posix_host.h"
+#include "platform/run_error.h"
+
+#include <iostream>
+
+namespace {
+
+using namespace quillon;
+using namespace quillon::cli;
+
+Exit RunCall(const Arguments& arguments)
+{
+    PosixHost host;
+    for (const Text& complaint : host.complaints)
+        std::cerr << complaint << "\n";
+    const CallContext context{
+        .arguments = arguments,
+        .host = host.host,
+        .toolFolder = host.ProgramFolder(),
+        .toWindows = [&](const std::string& hostPath) { return host.drives.ToWindows(hostPath); },
+        .out = std::cout,
+        .err = std::cerr};
+    try {
+        return arguments.call->run(context);
+    } catch (const CallFailure& failure) {
+        return context.Fail(failure.text, failure.exit);
+    } catch (const RunError& error) {
+        return context.Fail(FailureText(error, ""), Exit::Stopped);
+    }
+}
+
+Exit Run(const std::vector<std::string>& words)
+{
+    const std::string first = words.empty() ? "" : words[0];
+    if (first == "--help" || first == "-h") {
+        std::cout << HelpText(AllCalls());
+        return Exit::Done;
+    }
+    if (first == "--version") {
+        std::cout << kToolVersion << "\n";
+        return Exit::Done;
+    }
+    try {
+        return RunCall(ReadArguments(words, AllCalls()));
+    } catch (const UsageError& error) {
+        std::cerr << error.text << "\nquillonc --help visar alla anrop.\n";
+        return Exit::Usage;
+    }
+}
+
+} // namespace
+
+int main(int count, char** words)
+{
+    const Exit exit = Run({words + 1, words + count});
+    // A script must not take a cut output for a whole one.
+    std::cout.flush();
+    return std::cout ? static_cast<int>(exit) : static_cast<int>(Exit::Stopped);
+}

@@ -1,0 +1,19 @@
+// Projects on their way in, with every way told in which that can go wrong.
+#pragma once
+
+#include "cli/call_context.h"
+#include "shell/session.h"
+
+namespace quillon::cli {
+
+/// Nothing read is more than a part of a file; the tool itself goes on with a part in silence.
+enum class Opened { Whole, InPart };
+
+/// Opens the project as the tool does when a user opens one. Throws `CallFailure` for a file that
+/// can't be read or isn't a project.
+Opened OpenProject(Session& session, const Text& path);
+
+/// A line that says that only a part of the project could be read.
+Text PartlyReadText(const Text& path);
+
+} // namespace quillon::cli

@@ -1,0 +1,159 @@
+// quillonc list and quillonc verify: what lies in a finished package, and whether it is whole.
+#include "cli/calls.h"
+#include "formats/package.h"
+#include "helpers/number_text.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <ostream>
+
+namespace quillon::cli {
+
+namespace {
+
+Text HexText(std::uint32_t number)
+{
+    char digits[9];
+    std::snprintf(digits, sizeof digits, "%08X", static_cast<unsigned>(number));
+    return digits;
+}
+
+const char* PlaceName(RowBytes::Place place)
+{
+    switch (place) {
+    case RowBytes::Place::Container:
+        return "container";
+    case RowBytes::Place::LooseFile:
+        return "file";
+    case RowBytes::Place::Missing:
+        return "missing";
+    default:
+        return "none";
+    }
+}
+
+Json RowJson(const Package& package, std::size_t number)
+{
+    const InstallRow& row = package.rows[number];
+    const RowBytes& bytes = package.bytes[number];
+    Json object = {{"row", "F" + NumberText(row.number)},
+                   {"name", row.name},
+                   {"destination", row.destination},
+                   {"component", row.component},
+                   {"size", row.size},
+                   {"place", PlaceName(bytes.place)}};
+    if (bytes.place == RowBytes::Place::Container) {
+        const ZipEntry& entry = package.container->Entries()[bytes.entry];
+        object["entry"] = entry.name;
+        object["entrySize"] = entry.size;
+        object["packedSize"] = entry.packedSize;
+        object["crc"] = entry.hasCrc ? Json(HexText(entry.crc)) : Json();
+    } else if (!bytes.path.empty()) {
+        object["path"] = bytes.path;
+    }
+    return object;
+}
+
+using Table = std::vector<std::vector<Text>>;
+
+/// Numbers stand to the right in their columns.
+void PrintTable(std::ostream& out, const Table& table)
+{
+    constexpr std::size_t kFirstNumber = 3;
+    constexpr std::size_t kLastNumber = 4;
+    std::vector<std::size_t> widths;
+    for (const auto& line : table)
+        for (std::size_t i = 0; i < line.size(); ++i) {
+            widths.resize(std::max(widths.size(), i + 1));
+            widths[i] = std::max(widths[i], CharacterCount(line[i]));
+        }
+    for (const auto& line : table) {
+        Text printed;
+        for (std::size_t i = 0; i < line.size(); ++i) {
+            const Text blanks(widths[i] - CharacterCount(line[i]), ' ');
+            const bool isRight = i >= kFirstNumber && i <= kLastNumber;
+            printed += (i > 0 ? "  " : "") + (isRight ? blanks + line[i] : line[i] + blanks);
+        }
+        printed.resize(printed.find_last_not_of(' ') + 1);
+        out << printed << "\n";
+    }
+}
+
+std::vector<Text> RowLine(const Package& package, std::size_t number)
+{
+    const InstallRow& row = package.rows[number];
+    const RowBytes& bytes = package.bytes[number];
+    std::vector<Text> line = {"F" + NumberText(row.number), row.name, row.destination,
+                              std::to_string(row.size)};
+    switch (bytes.place) {
+    case RowBytes::Place::Container: {
+        const ZipEntry& entry = package.container->Entries()[bytes.entry];
+        line.push_back(std::to_string(entry.packedSize));
+        line.push_back(entry.hasCrc ? HexText(entry.crc) : "-");
+        line.push_back(entry.name);
+        break;
+    }
+    case RowBytes::Place::None:
+        line.insert(line.end(), {"-", "-", "-"});
+        break;
+    case RowBytes::Place::LooseFile:
+        line.insert(line.end(), {"-", "-", bytes.path});
+        break;
+    case RowBytes::Place::Missing:
+        line.insert(line.end(), {"-", "-", "(saknas) " + bytes.path});
+        break;
+    }
+    return line;
+}
+
+Package OpenFolder(const CallContext& context, const Text& folder)
+{
+    if (!context.host.files.DirExists(folder))
+        throw CallFailure{"Katalogen '" + folder + "' finns inte.", Exit::Unreadable};
+    return OpenPackage(context.host.files, folder);
+}
+
+} // namespace
+
+Exit ListPackage(const CallContext& context)
+{
+    const Text folder = context.PathOperand(0);
+    const Package package = OpenFolder(context, folder);
+    for (const Text& fault : package.faults)
+        context.err << fault << "\n";
+    const Exit exit = package.faults.empty() ? Exit::Done : Exit::Unreadable;
+
+    if (context.WantsJson()) {
+        Json rows = Json::array();
+        for (std::size_t i = 0; i < package.rows.size(); ++i)
+            rows.push_back(RowJson(package, i));
+        return context.PrintJson(
+            {{"folder", folder}, {"rows", std::move(rows)}, {"faults", package.faults}}, exit);
+    }
+    Table table = {{"Rad", "Namn", "Destination", "Storlek", "Packad", "CRC", "Post"}};
+    for (std::size_t i = 0; i < package.rows.size(); ++i)
+        table.push_back(RowLine(package, i));
+    PrintTable(context.out, table);
+    return exit;
+}
+
+Exit VerifyPackageFolder(const CallContext& context)
+{
+    const Text folder = context.PathOperand(0);
+    Package package = OpenFolder(context, folder);
+    const std::vector<Text> faults = VerifyPackage(context.host.files, package);
+    const Exit exit = faults.empty() ? Exit::Done : Exit::Stopped;
+    if (context.WantsJson())
+        return context.PrintJson({{"folder", folder},
+                                  {"isWhole", faults.empty()},
+                                  {"rows", package.rows.size()},
+                                  {"faults", faults}},
+                                 exit);
+    for (const Text& fault : faults)
+        context.out << fault << "\n";
+    if (faults.empty())
+        context.out << "Installationen är hel: " << package.rows.size() << " rader.\n";
+    return exit;
+}
+
+} // namespace quillon::cli

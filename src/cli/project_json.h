@@ -1,0 +1,13 @@
+// The open project as one JSON object: a member for each section, under the names of the file.
+#pragma once
+
+#include "cli/call_context.h"
+#include "project/records.h"
+
+namespace quillon::cli {
+
+/// Values are those of the model: texts, and numbers with 0 and -1 for flags. A row is an array of
+/// its fifteen texts.
+Json ProjectJson(const Project& project);
+
+} // namespace quillon::cli

@@ -1,0 +1,40 @@
+// quillonc resave: reads a project and saves it anew, as a user does who opens and saves it.
+#include "cli/calls.h"
+#include "cli/console_ask.h"
+#include "cli/open_project.h"
+#include "platform/run_error.h"
+#include "shell/lifecycle.h"
+
+#include <ostream>
+
+namespace quillon::cli {
+
+Exit ResaveProject(const CallContext& context)
+{
+    const Text in = context.PathOperand(0);
+    const Text out = context.PathOperand(1);
+    const auto after = context.arguments.Value("--after");
+
+    ConsoleAsk ask(nullptr, context.err);
+    Session session = NewSession(context.host, ask, context.toolFolder);
+    if (after)
+        OpenProject(session, context.Path(*after));
+    const Opened opened = OpenProject(session, in);
+    if (opened == Opened::InPart)
+        context.err << PartlyReadText(in) << "\n";
+
+    session.state.ProjectFileName = out;
+    try {
+        SaveProject(session);
+    } catch (const RunError& error) {
+        return context.Fail(FailureText(error, out), Exit::Stopped);
+    }
+    if (!context.WantsJson())
+        return Exit::Done;
+    return context.PrintJson({{"project", out},
+                              {"isWhole", opened == Opened::Whole},
+                              {"files", session.project.Files.rows.size()}},
+                             Exit::Done);
+}
+
+} // namespace quillon::cli

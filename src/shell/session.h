@@ -1,0 +1,32 @@
+// What lives as long as the process: the open project, the options of the tool, its last files. One
+// is made in main() and handed down by reference.
+#pragma once
+
+#include "builder/create_options.h"
+#include "platform/ask.h"
+#include "platform/host.h"
+#include "project/records.h"
+
+#include <array>
+
+namespace quillon {
+
+struct Session {
+    Host& host;
+    Ask& ask;
+
+    Project project;
+    OpenProjectState state;
+
+    // Where programs and data of the tool lie is `options.ToolFolder`.
+    CreateOptions options;
+    // Newest first; a free slot is empty.
+    std::array<Text, 4> RecentFiles;
+    // What the status bar says of a command that takes its time.
+    Text StatusText;
+};
+
+/// A session with a new project, and the options of a tool that was never set up.
+Session NewSession(Host& host, Ask& ask, const Text& toolFolder);
+
+} // namespace quillon

@@ -1,0 +1,70 @@
+#include "cli/folder_disks.h"
+
+#include "support/memory_host.h"
+
+namespace quillon::cli {
+namespace {
+
+class FolderDisksTest : public testing::Test {
+protected:
+    test::MemoryHost memory;
+    FolderDisks disks{memory.host, "C:\\Ut\\"};
+
+    void SetUp() override { memory.files.PutFolder("C:\\Ut"); }
+};
+
+TEST_F(FolderDisksTest, AnEmptyFolderHoldsAWholeDisk)
+{
+    EXPECT_EQ(disks.Capacity("C:\\Ut"), 1457664U);
+}
+
+TEST_F(FolderDisksTest, FilesTakeWholeClusters)
+{
+    memory.files.Put("C:\\Ut\\a", "");
+    memory.files.Put("C:\\Ut\\b", "1");
+    memory.files.Put("C:\\Ut\\c", std::string(513, 'x'));
+    memory.files.Put("C:\\Ut\\sub\\d", std::string(512, 'x'));
+    EXPECT_EQ(disks.Capacity("C:\\Ut\\"), 1457664U - 512 - 1024 - 512);
+}
+
+TEST_F(FolderDisksTest, OtherDisksInThePackageFolderTakeNothingOfTheFirst)
+{
+    memory.files.Put("C:\\Ut\\disk2\\FILEDATA.DAT", std::string(1000, 'x'));
+    memory.files.Put("C:\\Ut\\Disk10\\FILEDATA.DAT", std::string(1000, 'x'));
+    memory.files.Put("C:\\Ut\\disk\\a", "1");
+    memory.files.Put("C:\\Ut\\disk2x\\a", "1");
+    EXPECT_EQ(disks.Capacity("C:\\Ut"), 1457664U - 1024);
+    EXPECT_EQ(disks.Capacity("C:\\Ut\\disk2"), 1457664U - 1024);
+}
+
+TEST_F(FolderDisksTest, AFolderThatHoldsTooMuchHasNoRoom)
+{
+    memory.files.Put("C:\\Ut\\big", std::string(1457665, 'x'));
+    EXPECT_EQ(disks.Capacity("C:\\Ut"), 0U);
+}
+
+TEST_F(FolderDisksTest, TheRootOfADriveHasWhatIsFreeThere)
+{
+    memory.files.capacities["a:\\"] = 730112;
+    memory.files.Put("A:\\a", std::string(112, 'x'));
+    EXPECT_EQ(disks.Capacity("A:\\"), 730000U);
+    EXPECT_EQ(disks.Capacity("A:"), 730000U);
+}
+
+TEST_F(FolderDisksTest, MakesTheNextDiskAndTakesAnOldPieceOut)
+{
+    memory.files.Put("C:\\Ut\\disk2\\FILEDATA.DAT", "old");
+    EXPECT_EQ(disks.NextDisk(2), "C:\\Ut\\disk2");
+    EXPECT_FALSE(memory.files.FileExists("C:\\Ut\\disk2\\FILEDATA.DAT"));
+    EXPECT_EQ(disks.NextDisk(3), "C:\\Ut\\disk3");
+    EXPECT_TRUE(memory.files.DirExists("C:\\Ut\\disk3"));
+}
+
+TEST_F(FolderDisksTest, NoDiskComesWhereItsFolderCannotBeMade)
+{
+    memory.files.refuseFolders = true;
+    EXPECT_EQ(disks.NextDisk(2), std::nullopt);
+}
+
+} // namespace
+} // namespace quillon::cli
