@@ -1,6 +1,8 @@
 // The whole file against files written by hand, byte by byte.
 #include "project_file_fixture.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 using test::GoldenBytes;

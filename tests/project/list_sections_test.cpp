@@ -258,6 +258,18 @@ TEST(Lists, TellTheUserOnlyOfTheFirstOneThatDoesNotEnd)
     ExpectSilentStop(full.substr(0, full.find("RAKNARE")), "AutoexecBat");
 }
 
+TEST(Lists, AreReadFromTheFirstLineThatLooksLikeTheirHeader)
+{
+    ProjectOnDisk disk;
+    disk.project.Lists.RunScriptBefore = "a\r\n[RunScriptAfter]\r\nb\r\n[Version]\r\nComments = c";
+    disk.project.Lists.RunScriptAfter = "never seen again";
+    disk.project.Version.Comments = "first";
+    const std::string saved = disk.Save();
+    EXPECT_EQ(disk.Load(saved), ReadEnd::Whole);
+    EXPECT_EQ(disk.project.Lists.RunScriptAfter, "b\r\n[Version]\r\nComments = c");
+    EXPECT_EQ(disk.project.Version.Comments, "first");
+}
+
 TEST(Lists, MayEndWithTheFile)
 {
     std::string bytes = GoldenBytes("missing_keys/without_keys.qnp");
