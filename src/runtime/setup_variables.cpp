@@ -97,14 +97,14 @@ void SetComponentFolders(SetupVariables& variables, const VariableSources& sourc
 
 } // namespace
 
-void SetupVariables::Set(Text name, Text value)
+void SetupVariables::Set(std::string_view name, std::string_view value)
 {
     for (auto& [known, old] : values_)
         if (known == name) {
-            old = std::move(value);
+            old.assign(value);
             return;
         }
-    values_.emplace_back(std::move(name), std::move(value));
+    values_.emplace_back(name, value);
 }
 
 Text SetupVariables::Value(std::string_view name) const

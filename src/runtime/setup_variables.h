@@ -14,7 +14,7 @@ namespace quillon {
 class SetupVariables {
 public:
     /// `name` begins with '%'.
-    void Set(Text name, Text value);
+    void Set(std::string_view name, std::string_view value);
     Text Value(std::string_view name) const;
 
     /// Replaces each known variable; where two names fit, the longer one is meant. A word that is

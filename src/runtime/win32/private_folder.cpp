@@ -1,0 +1,48 @@
+#include "runtime/win32/private_folder.h"
+
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_failure.h"
+#include "runtime/changes.h"
+
+#include <windows.h>
+
+namespace quillon {
+
+PrivateFolder::PrivateFolder(Host& host) : host_(host)
+{
+    const Text parent = RemoveLastBackslash(host.machine.GetTempDir());
+    host.files.DirCreate(parent);
+    // Only a folder that did not exist before is private, so its making has to say so itself.
+    do {
+        path_ = JoinPath(parent, "QN" + NumberText(host.machine.Random(1000000)) + ".TMP");
+        if (CreateDirectoryW(WidePath(path_).c_str(), nullptr))
+            return;
+    } while (GetLastError() == ERROR_ALREADY_EXISTS);
+    FailAsWindowsSays(path_);
+}
+
+PrivateFolder::~PrivateFolder()
+{
+    RunErrorNumber([&] {
+        for (const FolderEntry& entry : host_.files.List(path_))
+            RemoveEvenReadOnly(host_.files, JoinPath(path_, entry.name));
+        host_.files.RemoveFolder(path_);
+    });
+}
+
+Text ProgramPath()
+{
+    std::wstring path(32768, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return Narrow(path);
+}
+
+Text ProgramFolder()
+{
+    return ExtractDirectory(ProgramPath());
+}
+
+} // namespace quillon

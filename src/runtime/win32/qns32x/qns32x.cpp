@@ -1,0 +1,71 @@
+// QNS32X: the setup proper. The starter copies it to a private folder and hands it the package's
+// folder, so that the disk with the package can be changed while it works.
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_files.h"
+#include "platform/win32/win_machine.h"
+#include "runtime/package_names.h"
+#include "runtime/setup_program.h"
+#include "runtime/silent_ask.h"
+#include "runtime/win32/library_container.h"
+#include "runtime/win32/private_folder.h"
+#include "runtime/win32/win_target.h"
+#include "runtime/win32/window_ask.h"
+
+#include <objbase.h>
+
+using namespace quillon;
+
+namespace {
+
+Text UnzipLibrary(const FileSystem& files, const Text& packageFolder)
+{
+    const Text own = JoinPath(ProgramFolder(), RuntimeFile::kUnzipLibrary);
+    return files.FileExists(own) ? own : JoinPath(packageFolder, RuntimeFile::kUnzipLibrary);
+}
+
+ExitCode RunOnWindows(HINSTANCE instance, Switches switches)
+{
+    WinFiles files;
+    WinMachine machine;
+    Host host{files, machine};
+    if (switches.packageFolder.empty())
+        switches.packageFolder = ProgramFolder();
+    const LoadedPackage package = LoadPackage(files, switches.packageFolder);
+    const PrivateFolder work(host);
+    WinTarget target(JoinPath(work.Path(), RuntimeFile::kRegistryHelper));
+    const auto run = [&](Ask& ask) {
+        return RunSetup({host, target, ask,
+                         LibraryContainers(UnzipLibrary(files, switches.packageFolder)), switches,
+                         work.Path()},
+                        package);
+    };
+    if (switches.silent) {
+        SilentAsk silent;
+        return run(silent);
+    }
+    WindowAsk window(instance,
+                     package.texts(Message::Title, package.setup.project.ProjectName.ProjectName),
+                     package.texts);
+    window.Show();
+    return run(window);
+}
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
+{
+    OleInitialize(nullptr);
+    const Switches switches = ReadSwitches(Narrow(commandLine));
+    ExitCode code = ExitCode::Failed;
+    try {
+        code = RunOnWindows(instance, switches);
+    } catch (const std::exception& error) {
+        // Nothing was changed: what an installation does is undone before a failure comes here.
+        if (!switches.silent)
+            MessageBoxW(nullptr, Wide(error.what()).c_str(), L"Quillon", MB_OK | MB_ICONSTOP);
+    }
+    OleUninitialize();
+    return static_cast<int>(code);
+}

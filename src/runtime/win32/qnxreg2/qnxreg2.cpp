@@ -1,0 +1,22 @@
+// QNXREG2: registers, after the machine was started again, the files that were in use when they
+// were installed. Its exit code is the number of files that could not be registered.
+#include "runtime/win32/register_server.h"
+
+#include <objbase.h>
+#include <shellapi.h>
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int)
+{
+    int count = 0;
+    LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
+    if (words == nullptr)
+        return 1;
+    SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX | SEM_NOGPFAULTERRORBOX);
+    OleInitialize(nullptr);
+    int failed = 0;
+    for (int i = 1; i < count; ++i)
+        if (quillon::RegisterServerFile(words[i], true) != quillon::kRegistrationDone)
+            ++failed;
+    OleUninitialize();
+    return failed;
+}

@@ -1,0 +1,123 @@
+// QNXUNIN: removes a product. Its command line names the product's install log; without a name it
+// takes the one beside itself.
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_files.h"
+#include "platform/win32/win_machine.h"
+#include "runtime/silent_ask.h"
+#include "runtime/switches.h"
+#include "runtime/uninstall.h"
+#include "runtime/win32/private_folder.h"
+#include "runtime/win32/win_target.h"
+#include "runtime/win32/window_ask.h"
+
+#include <objbase.h>
+
+using namespace quillon;
+
+namespace {
+
+struct CommandLine {
+    Text logPath;
+    Switches switches;
+};
+
+// The name of the log comes first, and may be left out.
+CommandLine ReadCommandLine(const Text& line)
+{
+    const Text text = TrimBlanks(line);
+    CommandLine read{JoinPath(ProgramFolder(), "QNXUNIN.LOG"), {}};
+    std::size_t end = 0;
+    if (text.substr(0, 1) == "\"") {
+        end = std::min(text.find('"', 1), text.size() - 1) + 1;
+        read.logPath = ReplaceAll(text.substr(0, end), "\"", "");
+    } else if (!text.empty() && text[0] != '/') {
+        end = std::min(text.find(' '), text.size());
+        read.logPath = text.substr(0, end);
+    }
+    read.switches = ReadSwitches(std::string_view(text).substr(end));
+    return read;
+}
+
+// A running program can't be deleted, but it can be moved: out of the product's folder, so that the
+// folder can go, and to where files are removed when the machine starts next.
+void MoveSelfAway(const Host& host)
+{
+    const std::wstring self = WidePath(ProgramPath());
+    const std::wstring away = WidePath(JoinPath(
+        host.machine.GetTempDir(), "QNXUNIN" + NumberText(host.machine.Random(1000000)) + ".TMP"));
+    if (MoveFileExW(self.c_str(), away.c_str(), 0))
+        MoveFileExW(away.c_str(), nullptr, MOVEFILE_DELAY_UNTIL_REBOOT);
+}
+
+ExitCode RunUninstall(Host& host, Ask& ask, const CommandLine& line,
+                      const InstalledProduct& product)
+{
+    TextLog log;
+    if (!line.switches.logFile.empty())
+        log = TextLog(host.files, host.machine, line.switches.logFile);
+    WinTarget target;
+    MoveSelfAway(host);
+    const ExitCode code = Uninstall({host, target, ask, log, line.logPath, product});
+    log.Close();
+    return code;
+}
+
+ExitCode RunWithWindow(HINSTANCE instance, Host& host, const CommandLine& line,
+                       const std::optional<InstalledProduct>& product)
+{
+    const LanguageTexts texts = product ? product->texts : LanguageTexts();
+    const Text name = product ? product->name : Text();
+    const Text title = texts(Message::UninstallTitle, name);
+    WindowAsk window(instance, title, texts);
+    if (line.switches.badSwitch) {
+        window.Critical(title, texts(Message::BadSwitch, *line.switches.badSwitch));
+        return ExitCode::BadSwitch;
+    }
+    if (!product) {
+        window.Critical(title, texts(Message::UninstallNoLog, line.logPath));
+        return ExitCode::Failed;
+    }
+    if (!window.YesNo(title, texts(Message::UninstallQuestion, name), Ask::Stops::OnNo))
+        return ExitCode::Cancelled;
+    window.Show();
+    const ExitCode code = RunUninstall(host, window, line, *product);
+    window.Hide();
+    window.Inform(
+        title,
+        texts(code == ExitCode::Done ? Message::UninstallDone : Message::UninstallPartly, name));
+    return code;
+}
+
+ExitCode RunSilently(Host& host, const CommandLine& line,
+                     const std::optional<InstalledProduct>& product)
+{
+    if (line.switches.badSwitch)
+        return ExitCode::BadSwitch;
+    SilentAsk silent;
+    return product ? RunUninstall(host, silent, line, *product) : ExitCode::Failed;
+}
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
+{
+    OleInitialize(nullptr);
+    const CommandLine line = ReadCommandLine(Narrow(commandLine));
+    ExitCode code = ExitCode::Failed;
+    try {
+        WinFiles files;
+        WinMachine machine;
+        Host host{files, machine};
+        const auto product = ReadInstalledProduct(files, line.logPath);
+        code = line.switches.silent ? RunSilently(host, line, product)
+                                    : RunWithWindow(instance, host, line, product);
+    } catch (const std::exception& error) {
+        if (!line.switches.silent)
+            MessageBoxW(nullptr, Wide(error.what()).c_str(), L"Quillon", MB_OK | MB_ICONSTOP);
+    }
+    OleUninitialize();
+    return static_cast<int>(code);
+}

@@ -1,0 +1,65 @@
+#include "runtime/win32/register_server.h"
+
+#include <objbase.h>
+
+#include <cwchar>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kLongestPath = 1024;
+
+bool IsProgram(const wchar_t* path)
+{
+    const wchar_t* const point = wcsrchr(path, L'.');
+    return point != nullptr && lstrcmpiW(point, L".EXE") == 0;
+}
+
+int RegisterProgram(const wchar_t* path, bool on)
+{
+    wchar_t line[kLongestPath + 32];
+    if (wcslen(path) > kLongestPath)
+        return kRegistrationFailed;
+    lstrcpyW(line, L"\"");
+    lstrcatW(line, path);
+    lstrcatW(line, on ? L"\" /regserver" : L"\" /unregserver");
+    return RunAndWait(path, line) == 0 ? kRegistrationDone : kRegistrationFailed;
+}
+
+} // namespace
+
+int RunAndWait(const wchar_t* program, wchar_t* commandLine)
+{
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(program, commandLine, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &startup, &process))
+        return -1;
+    WaitForSingleObject(process.hProcess, INFINITE);
+    DWORD code = 0;
+    GetExitCodeProcess(process.hProcess, &code);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return static_cast<int>(code);
+}
+
+int RegisterServerFile(const wchar_t* path, bool on)
+{
+    if (IsProgram(path))
+        return RegisterProgram(path, on);
+    const HMODULE library = LoadLibraryExW(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    if (library == nullptr)
+        return kRegistrationFailed;
+    using EntryPoint = HRESULT(STDAPICALLTYPE*)();
+    const auto entry = reinterpret_cast<EntryPoint>(reinterpret_cast<void*>(
+        GetProcAddress(library, on ? "DllRegisterServer" : "DllUnregisterServer")));
+    int result = kNotSelfRegistering;
+    if (entry != nullptr)
+        result = SUCCEEDED(entry()) ? kRegistrationDone : kRegistrationFailed;
+    FreeLibrary(library);
+    return result;
+}
+
+} // namespace quillon

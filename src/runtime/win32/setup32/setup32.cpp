@@ -1,0 +1,177 @@
+// SETUP32: what the user starts. It unpacks nothing: it copies the setup proper and its library to
+// a private folder, starts it there with the package's folder and its own switches, waits, cleans
+// up and ends with the same code. Written without the standard library, since it is the first thing
+// to be read from a slow disk.
+#include <windows.h>
+
+#include <cwchar>
+
+namespace {
+
+constexpr int kLongestPath = 32768;
+constexpr DWORD kFailed = 1603;
+
+struct Paths {
+    wchar_t package[kLongestPath];
+    wchar_t work[kLongestPath];
+    wchar_t program[kLongestPath];
+    wchar_t library[kLongestPath];
+    wchar_t scratch[kLongestPath];
+    wchar_t commandLine[kLongestPath];
+    wchar_t message[1024];
+};
+
+void Join(wchar_t* to, const wchar_t* folder, const wchar_t* name)
+{
+    lstrcpyW(to, folder);
+    if (to[0] != 0 && to[wcslen(to) - 1] != L'\\')
+        lstrcatW(to, L"\\");
+    lstrcatW(to, name);
+}
+
+// The folder of the running program; of a program at a root it keeps the backslash.
+void FindPackageFolder(wchar_t* folder)
+{
+    GetModuleFileNameW(nullptr, folder, kLongestPath);
+    wchar_t* const last = wcsrchr(folder, L'\\');
+    if (last != nullptr)
+        last[last - folder == 2 ? 1 : 0] = 0;
+}
+
+bool IsSilent(const wchar_t* line)
+{
+    bool quoted = false;
+    for (bool begins = true; *line != 0; ++line) {
+        const bool isSwitch = (line[1] | 0x20) == L's' && (line[2] == 0 || line[2] == L' ');
+        if (begins && !quoted && line[0] == L'/' && isSwitch)
+            return true;
+        quoted = quoted != (*line == L'"');
+        begins = *line == L' ' || *line == L'\t';
+    }
+    return false;
+}
+
+// A text of the language file that the package names.
+void ReadMessage(Paths& paths, const wchar_t* key, const wchar_t* otherwise)
+{
+    wchar_t language[MAX_PATH];
+    Join(paths.scratch, paths.package, L"QNSETUP.INF");
+    GetPrivateProfileStringW(L"Language", L"LanguageFile", L"SWEDISH.LNG", language, MAX_PATH,
+                             paths.scratch);
+    Join(paths.scratch, paths.package, language);
+    GetPrivateProfileStringW(L"PreLoader", key, otherwise, paths.message, 1024, paths.scratch);
+}
+
+int Refuse(Paths& paths, bool silent)
+{
+    if (silent)
+        return kFailed;
+    ReadMessage(paths, L"Msg_NoRuntime",
+                L"Installationen kan inte startas. Filen '%1' saknas eller kan inte l\u00E4sas.");
+    wchar_t* const mark = wcsstr(paths.message, L"%1");
+    lstrcpynW(paths.scratch, paths.message,
+              mark == nullptr ? 1024 : static_cast<int>(mark - paths.message) + 1);
+    if (mark != nullptr) {
+        lstrcatW(paths.scratch, L"QNS32X.BIN");
+        lstrcatW(paths.scratch, mark + 2);
+    }
+    MessageBoxW(nullptr, paths.scratch, L"Quillon", MB_OK | MB_ICONSTOP | MB_SETFOREGROUND);
+    return kFailed;
+}
+
+HWND ShowWaitWindow(Paths& paths)
+{
+    ReadMessage(paths, L"Msg_Extract", L"F\u00F6rbereder installationen. V\u00E4nta...");
+    constexpr int kWidth = 320;
+    constexpr int kHeight = 60;
+    const HWND window = CreateWindowExW(WS_EX_DLGMODALFRAME, L"STATIC", paths.message,
+                                        WS_POPUP | WS_VISIBLE | SS_CENTER | SS_CENTERIMAGE,
+                                        (GetSystemMetrics(SM_CXSCREEN) - kWidth) / 2,
+                                        (GetSystemMetrics(SM_CYSCREEN) - kHeight) / 2, kWidth,
+                                        kHeight, nullptr, nullptr, nullptr, nullptr);
+    SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)),
+                 TRUE);
+    UpdateWindow(window);
+    return window;
+}
+
+// A folder that did not exist before, so that nobody has laid anything into it.
+bool MakeWorkFolder(Paths& paths)
+{
+    GetTempPathW(kLongestPath, paths.scratch);
+    for (DWORD n = GetTickCount(), last = n + 1000; n != last; ++n) {
+        wchar_t name[32];
+        wsprintfW(name, L"QN%lu.TMP", n);
+        Join(paths.work, paths.scratch, name);
+        if (CreateDirectoryW(paths.work, nullptr))
+            return true;
+    }
+    return false;
+}
+
+bool CopyToWorkFolder(Paths& paths, wchar_t* to, const wchar_t* from, const wchar_t* name)
+{
+    Join(paths.scratch, paths.package, from);
+    Join(to, paths.work, name);
+    if (!CopyFileW(paths.scratch, to, TRUE))
+        return false;
+    // What comes from a CD is write-protected, and would stay behind.
+    SetFileAttributesW(to, FILE_ATTRIBUTE_NORMAL);
+    return true;
+}
+
+DWORD RunSetup(Paths& paths, const wchar_t* switches, HWND waitWindow, bool& started)
+{
+    if (wcslen(paths.program) + wcslen(paths.package) + wcslen(switches) + 64 > kLongestPath)
+        return kFailed;
+    lstrcpyW(paths.commandLine, L"\"");
+    lstrcatW(paths.commandLine, paths.program);
+    lstrcatW(paths.commandLine, L"\" /PACKAGE=\"");
+    lstrcatW(paths.commandLine, paths.package);
+    lstrcatW(paths.commandLine, L"\" ");
+    lstrcatW(paths.commandLine, switches);
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(paths.program, paths.commandLine, nullptr, nullptr, FALSE, 0, nullptr,
+                        nullptr, &startup, &process))
+        return kFailed;
+    started = true;
+    if (waitWindow != nullptr) {
+        WaitForInputIdle(process.hProcess, 10000);
+        DestroyWindow(waitWindow);
+    }
+    WaitForSingleObject(process.hProcess, INFINITE);
+    DWORD code = kFailed;
+    GetExitCodeProcess(process.hProcess, &code);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return code;
+}
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR switches, int)
+{
+    // Too large for the stack; the system takes it back when the program ends.
+    auto* const memory =
+        static_cast<Paths*>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, sizeof(Paths)));
+    if (memory == nullptr)
+        return kFailed;
+    Paths& paths = *memory;
+    FindPackageFolder(paths.package);
+    const bool silent = IsSilent(switches);
+    const HWND waitWindow = silent ? nullptr : ShowWaitWindow(paths);
+    if (!MakeWorkFolder(paths))
+        return Refuse(paths, silent);
+    const bool copied = CopyToWorkFolder(paths, paths.program, L"QNS32X.BIN", L"QNS32X.EXE") &&
+                        CopyToWorkFolder(paths, paths.library, L"DUNZIP32.DLL", L"DUNZIP32.DLL");
+    bool started = false;
+    DWORD code = kFailed;
+    if (copied)
+        code = RunSetup(paths, switches, waitWindow, started);
+    DeleteFileW(paths.program);
+    DeleteFileW(paths.library);
+    RemoveDirectoryW(paths.work);
+    return started ? static_cast<int>(code) : Refuse(paths, silent);
+}

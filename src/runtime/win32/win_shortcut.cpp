@@ -1,0 +1,54 @@
+// Shortcuts, which only the shell itself can write.
+#include "platform/run_error.h"
+#include "platform/win32/wide_text.h"
+#include "runtime/win32/win_target.h"
+
+#include <shlobj.h>
+
+namespace quillon {
+
+namespace {
+
+// A pointer to a COM object, released with it.
+template <class Interface>
+class ComPointer {
+public:
+    ComPointer() = default;
+    ~ComPointer()
+    {
+        if (object_ != nullptr)
+            object_->Release();
+    }
+    ComPointer(const ComPointer&) = delete;
+    ComPointer& operator=(const ComPointer&) = delete;
+
+    Interface* operator->() const { return object_; }
+    void** Out() { return reinterpret_cast<void**>(&object_); }
+
+private:
+    Interface* object_ = nullptr;
+};
+
+} // namespace
+
+void WinTarget::MakeShortcut(const Text& path, const Shortcut& shortcut)
+{
+    const auto check = [&](HRESULT result) {
+        if (FAILED(result))
+            throw RunError(ErrorNumber::kPathFileAccess, path);
+    };
+    ComPointer<IShellLinkW> link;
+    check(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                           link.Out()));
+    check(link->SetPath(Wide(shortcut.program).c_str()));
+    check(link->SetArguments(Wide(shortcut.arguments).c_str()));
+    check(link->SetWorkingDirectory(Wide(shortcut.workFolder).c_str()));
+    check(link->SetDescription(Wide(shortcut.description).c_str()));
+    if (!shortcut.iconFile.empty())
+        check(link->SetIconLocation(Wide(shortcut.iconFile).c_str(), 0));
+    ComPointer<IPersistFile> file;
+    check(link->QueryInterface(IID_IPersistFile, file.Out()));
+    check(file->Save(Wide(path).c_str(), TRUE));
+}
+
+} // namespace quillon

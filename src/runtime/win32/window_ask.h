@@ -1,0 +1,50 @@
+// The setup's one window: a line that tells what is being done, a bar, and a button to cancel.
+// Boxes stand in front of it.
+#pragma once
+
+#include "platform/ask.h"
+#include "runtime/language_file.h"
+
+#include <windows.h>
+
+namespace quillon {
+
+class WindowAsk : public Ask {
+public:
+    WindowAsk(HINSTANCE instance, const Text& title, const LanguageTexts& texts);
+    ~WindowAsk() override;
+    WindowAsk(const WindowAsk&) = delete;
+    WindowAsk& operator=(const WindowAsk&) = delete;
+
+    void Show();
+    void Hide();
+
+    void Inform(const Text& title, const Text& text) override;
+    void Warn(const Text& title, const Text& text) override;
+    void Critical(const Text& title, const Text& text) override;
+    bool YesNo(const Text& title, const Text& text, Stops stops) override;
+    bool OkCancel(const Text& title, const Text& text) override;
+    Answer YesNoCancel(const Text& title, const Text& text) override;
+    void AddStatusLine(const Text& line) override;
+    void ShowProgress(std::uint64_t done, std::uint64_t total) override;
+    void ShowBusyPointer(bool) override {}
+    void Beep() override;
+    /// Throws `SetupFailure` of the code `Cancelled` after the user has cancelled and confirmed it.
+    void YieldToEvents() override;
+
+private:
+    int ShowBox(const Text& title, const Text& text, UINT kind);
+    HWND AddControl(const wchar_t* kind, const Text& text, DWORD style, RECT place, int id);
+    void PumpMessages();
+    static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data);
+
+    const LanguageTexts& texts_;
+    Text title_;
+    HWND window_ = nullptr;
+    HWND status_ = nullptr;
+    HWND bar_ = nullptr;
+    int shownProgress_ = -1;
+    bool cancelPressed_ = false;
+};
+
+} // namespace quillon
