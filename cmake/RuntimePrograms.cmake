@@ -1,20 +1,14 @@
 # The programs of the setup runtime, for the cross build. What several of them share lies directly in
-# src/runtime/win32; what belongs to one lies in a folder there that is named after it.
+# src/runtime/win32 and is a part of the runtime library; what belongs to one lies in a folder there
+# that is named after it.
 set(win32 ${CMAKE_CURRENT_SOURCE_DIR}/runtime/win32)
-file(GLOB shared CONFIGURE_DEPENDS ${win32}/*.cpp)
-if(shared)
-  add_library(quillon_runtime_win32 STATIC ${shared})
-  target_link_libraries(quillon_runtime_win32 PUBLIC quillon_runtime quillon_platform)
-else()
-  add_library(quillon_runtime_win32 INTERFACE)
-  target_link_libraries(quillon_runtime_win32 INTERFACE quillon_runtime quillon_platform)
-endif()
 
 # Below all other libraries, so that the linker meets it behind them and before libstdc++.
 add_library(quillon_lean STATIC ${win32}/lean/failures.cpp)
 target_link_libraries(quillon_options INTERFACE quillon_lean)
-# Programs begin at wWinMain.
-target_link_options(quillon_options INTERFACE -municode)
+# Programs begin at wWinMain. They are linked in one piece, since GCC 12 breaks down over symbols that
+# two pieces of a program share.
+target_link_options(quillon_options INTERFACE -municode -flto-partition=one)
 
 # quillon_runtime_program(<folder of the sources> <file name> <folder> [linked libraries...])
 function(quillon_runtime_program source file folder)
@@ -36,7 +30,7 @@ function(quillon_runtime_program source file folder)
     ${source} PROPERTIES PREFIX "" OUTPUT_NAME ${name} SUFFIX ${ending}
                          RUNTIME_OUTPUT_DIRECTORY ${folder}
                          ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/implib)
-  target_link_libraries(${source} PRIVATE quillon_runtime_win32 ${ARGN})
+  target_link_libraries(${source} PRIVATE quillon_runtime quillon_platform ${ARGN})
 endfunction()
 
 set(release ${QUILLON_RELEASE_FOLDER})

@@ -31,9 +31,7 @@ string(APPEND flags " -DUNICODE -D_UNICODE -D_WIN32_WINNT=0x0501 -DWINVER=0x0501
 string(APPEND flags " -D_WIN32_IE=0x0600 -DNOMINMAX -DWIN32_LEAN_AND_MEAN")
 set(CMAKE_C_FLAGS_INIT "${flags}")
 set(CMAKE_CXX_FLAGS_INIT "${flags}")
-# In several pieces, GCC 12 stops with an internal error (in binds_to_current_def_p) on larger programs.
-set(link "-static -s -flto-partition=one -Wl,--gc-sections -Wl,--no-insert-timestamp")
 # Resource scripts are UTF-8 like all sources.
 set(CMAKE_RC_FLAGS_INIT "-c 65001")
-set(CMAKE_EXE_LINKER_FLAGS_INIT "${link}")
-set(CMAKE_SHARED_LINKER_FLAGS_INIT "${link}")
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -s -Wl,--gc-sections -Wl,--no-insert-timestamp")
+set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static -s -Wl,--gc-sections -Wl,--no-insert-timestamp")
