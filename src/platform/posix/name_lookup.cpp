@@ -116,20 +116,24 @@ std::optional<std::string> NameLookup::Find(const std::string& folder, std::stri
 
 std::string NameLookup::Resolve(const std::string& root, const std::vector<std::string_view>& parts)
 {
-    std::string asGiven = root;
-    for (const std::string_view part : parts)
-        asGiven.append("/").append(part);
-    if (Exists(asGiven))
-        return asGiven;
-
     std::string path = root;
+    for (const std::string_view part : parts)
+        path.append("/").append(part);
+
+    // The exact spelling counts first on every level, so what exists of it is kept. It is sought
+    // from the end: most often all of it exists, or all but the name.
+    std::size_t kept = parts.size();
+    for (; kept > 0 && !Exists(path); --kept)
+        path.resize(path.size() - parts[kept - 1].size() - 1);
+
     bool isMissing = false;
-    for (const std::string_view part : parts) {
-        const std::string exact = path + "/" + std::string(part);
+    for (std::size_t i = kept; i < parts.size(); ++i) {
+        const std::string exact = path + "/" + std::string(parts[i]);
         std::optional<std::string> found;
-        if (!isMissing && !Exists(exact))
-            found = Find(path, part);
-        isMissing = isMissing || (!found && !Exists(exact));
+        if (!isMissing && (i == kept || !Exists(exact))) {
+            found = Find(path, parts[i]);
+            isMissing = !found;
+        }
         path = found ? path + "/" + *found : exact;
     }
     return path;
