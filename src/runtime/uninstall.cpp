@@ -37,6 +37,8 @@ private:
     void RemoveUninstaller();
     void RemoveFolders();
     bool IsStillShared(const Text& path) const;
+    bool IsKeptInWindows(std::size_t index) const;
+    bool StaysBehind(const Text& path) const;
     RegistryKey KeyOfRecord(const std::vector<Text>& fields) const
     {
         return {RootNamed(fields[0]).value_or(RegistryRoot::CurrentUser), fields[1]};
@@ -89,9 +91,11 @@ void Uninstallation::TakeBack(std::size_t index)
     case RecordKind::Shared:
         return ReleaseShared(fields[0]);
     case RecordKind::Font:
-        return input_.target.AnnounceFont(fields[0], false);
+        if (!StaysBehind(fields[0]))
+            input_.target.AnnounceFont(fields[0], false);
+        return;
     case RecordKind::Registered:
-        if (files_.FileExists(fields[0]))
+        if (files_.FileExists(fields[0]) && !StaysBehind(fields[0]))
             input_.target.RegisterServer(fields[0], false);
         return;
     case RecordKind::Key:
@@ -137,17 +141,42 @@ void Uninstallation::RemoveFile(const Text& path)
     }
 }
 
-void Uninstallation::RemoveReplaced(std::size_t index)
+// A file that was in the Windows folder before us, and of which there is no backup.
+bool Uninstallation::IsKeptInWindows(std::size_t index) const
 {
     const Text& path = records_[index].fields[0];
     const bool comesBack = index > 0 && records_[index - 1].kind == RecordKind::Backup &&
                            EqualIgnoreCase(records_[index - 1].fields[0], path) &&
                            files_.FileExists(records_[index - 1].fields[1]);
     const Text windows = LowerCase(input_.host.machine.GetWindowsDir()) + "\\";
-    if (!comesBack && LowerCase(path).compare(0, windows.size(), windows) == 0)
+    return !comesBack && LowerCase(path).compare(0, windows.size(), windows) == 0;
+}
+
+void Uninstallation::RemoveReplaced(std::size_t index)
+{
+    const Text& path = records_[index].fields[0];
+    if (IsKeptInWindows(index))
         input_.log.Skipped(path, "filen fanns i Windows redan före installationen");
     else
         RemoveFile(path);
+}
+
+// Whether the file is still needed by others after us, so that what they know of it has to stay.
+bool Uninstallation::StaysBehind(const Text& path) const
+{
+    const auto count = input_.target.ReadValue(SharedFilesKey(), path);
+    bool madeByUs = false;
+    bool kept = false;
+    for (std::size_t i = 0; i < records_.size(); ++i) {
+        const LogRecord& record = records_[i];
+        if (!EqualIgnoreCase(record.fields[0], path))
+            continue;
+        if (record.kind == RecordKind::Shared && count && NumberOf(*count).value_or(0) > 1)
+            return true;
+        madeByUs = madeByUs || record.kind == RecordKind::File;
+        kept = kept || (record.kind == RecordKind::Replaced && IsKeptInWindows(i));
+    }
+    return kept && !madeByUs;
 }
 
 void Uninstallation::RestoreBackup(const Text& path, const Text& backup)

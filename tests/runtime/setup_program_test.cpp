@@ -1,0 +1,317 @@
+#include "setup_fixture.h"
+
+#include "platform/run_error.h"
+#include "runtime/file_installer.h"
+
+namespace quillon {
+
+using test::BoxKind;
+using test::ExpectedBox;
+using test::MachineState;
+using test::ScriptedAsk;
+using testing::HasSubstr;
+
+const Text kMain = "C:\\Program\\Exempel";
+
+class SetupProgramTest : public test::SetupFixture {
+protected:
+    SetupProgramTest() { AddFile("prog.exe", "%DESTDIR", "program"); }
+
+    // Installs, and holds that nothing has changed afterwards.
+    ExitCode InstallInVain(const Text& switches = "/S")
+    {
+        const MachineState before = State();
+        const ExitCode code = Install(switches);
+        EXPECT_EQ(State(), before);
+        return code;
+    }
+};
+
+TEST_F(SetupProgramTest, RefusesABadSwitch)
+{
+    EXPECT_EQ(InstallInVain("/S /FEL"), ExitCode::BadSwitch);
+    EXPECT_THAT(Log(), HasSubstr("Växeln '/FEL' är okänd eller felaktig."));
+}
+
+TEST_F(SetupProgramTest, ShowsWhatIsWrongUnlessItIsSilent)
+{
+    ScriptedAsk script({{BoxKind::Critical, "Installation av Exempel",
+                         "Växeln '/FEL' är okänd eller felaktig. Tillåtna växlar är /S, /D=mapp, "
+                         "/DIR=\"mapp\", /LOG=\"fil\" och /PASSWORD=lösenord."}});
+    ask = &script;
+    EXPECT_EQ(InstallInVain("/FEL"), ExitCode::BadSwitch);
+}
+
+TEST_F(SetupProgramTest, WritesNothingOutOfADamagedArchive)
+{
+    AddFile("andra.txt", "%DESTDIR", "text");
+    damagedEntry = 1;
+    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("Installationsfilerna är skadade eller ofullständiga (CRC)."));
+}
+
+TEST_F(SetupProgramTest, WritesNothingWhereARowLacksItsBytes)
+{
+    sources.clear();
+    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("prog.exe saknas"));
+}
+
+TEST_F(SetupProgramTest, WritesNothingWhereALengthIsWrong)
+{
+    package.rows[0].size += 1;
+    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("prog.exe har fel längd"));
+}
+
+TEST_F(SetupProgramTest, WritesNothingOfAPackageWithAFault)
+{
+    package.fault = "QNSETUP.INF är avbruten";
+    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("QNSETUP.INF är avbruten"));
+}
+
+TEST_F(SetupProgramTest, PassesOverARowThatNeverHadASource)
+{
+    InstallRow& row = AddFile("tom", "%DESTDIR", "");
+    row.sourceFolder.clear();
+    sources.pop_back();
+    EXPECT_EQ(Install(), ExitCode::Done);
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\tom"));
+    EXPECT_THAT(Log(), HasSubstr("paketet har ingen källfil till raden"));
+}
+
+struct PasswordCase {
+    const char* switches;
+    ExitCode code;
+    const char* inLog;
+};
+class PasswordTest : public SetupProgramTest, public testing::WithParamInterface<PasswordCase> {};
+
+TEST_P(PasswordTest, IsAskedForByAPackageWithAPasswordPage)
+{
+    project.DialogBoxes.PasswordDlg = 1;
+    project.DialogBoxData.CorrectPassword = "Hemligt";
+    const MachineState before = State();
+    EXPECT_EQ(Install(GetParam().switches), GetParam().code);
+    EXPECT_THAT(Log(), HasSubstr(GetParam().inLog));
+    EXPECT_EQ(State() == before, GetParam().code != ExitCode::Done);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , PasswordTest,
+    testing::Values(PasswordCase{"/S /PASSWORD=Hemligt", ExitCode::Done, "Klart."},
+                    PasswordCase{"/S /PASSWORD=hemligt", ExitCode::Failed,
+                                 "Lösenordet är felaktigt."},
+                    PasswordCase{"/S", ExitCode::Failed, "Installationen kräver ett lösenord."}));
+
+TEST_F(SetupProgramTest, AsksForNoPasswordWithoutThePage)
+{
+    project.DialogBoxData.CorrectPassword = "Hemligt";
+    EXPECT_EQ(Install(), ExitCode::Done);
+}
+
+TEST_F(SetupProgramTest, TellsBeforehandThatTheDiskIsTooSmall)
+{
+    memory.files.capacities["c:\\"] = 4;
+    EXPECT_EQ(InstallInVain(), ExitCode::DiskFull);
+    EXPECT_THAT(Log(), HasSubstr("Det finns inte tillräckligt med ledigt utrymme (C:\\)."));
+}
+
+TEST_F(SetupProgramTest, StopsOnTheWrongSystem)
+{
+    target.system = SystemKind::WinXP;
+    project.TargetOS.TargetOS_WinXP = kOff;
+    project.TargetOS.TargetOS_StopIfWrong = kOn;
+    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_THAT(Log(),
+                HasSubstr("Programmet kan inte installeras på den här versionen av Windows."));
+}
+
+TEST_F(SetupProgramTest, WarnsOfTheWrongSystem)
+{
+    target.system = SystemKind::WinNT4;
+    project.TargetOS.TargetOS_WinNT4 = kOff;
+    {
+        ScriptedAsk script(
+            {{BoxKind::YesNo, "Installation av Exempel",
+              "Programmet är inte avsett för den här versionen av Windows. Vill du fortsätta ändå?",
+              Answer::No}});
+        ask = &script;
+        EXPECT_EQ(InstallInVain(""), ExitCode::Cancelled);
+    }
+    ask = nullptr;
+    EXPECT_EQ(Install(), ExitCode::Done);
+    EXPECT_THAT(Log(), HasSubstr("Paketet är inte avsett för den här versionen av Windows"));
+}
+
+TEST_F(SetupProgramTest, EndsAsCancelledAndUndoneWhenTheUserCancels)
+{
+    class CancellingAsk : public SilentAsk {
+    public:
+        void YieldToEvents() override
+        {
+            if (++calls == 3)
+                throw SetupFailure(ExitCode::Cancelled, {});
+        }
+        int calls = 0;
+    } cancelling;
+    AddFile("b.txt", "%DESTDIR", "b");
+    ask = &cancelling;
+    // The first two calls come from the check of the archive, the third from the first file.
+    EXPECT_EQ(InstallInVain(""), ExitCode::Cancelled);
+    EXPECT_EQ(cancelling.calls, 3);
+}
+
+class BadDestination : public SetupProgramTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(BadDestination, IsRefusedBeforeAnythingIsWritten)
+{
+    AddFile("fel.txt", GetParam(), "x");
+    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("fel.txt saknar giltig mapp: " + Text(GetParam())));
+}
+
+INSTANTIATE_TEST_SUITE_P(, BadDestination,
+                         testing::Values("%OKÄND\\Data", "%DESTDIR\\..\\Annan", "\\Data", "",
+                                         "D:"));
+
+TEST_F(SetupProgramTest, PutsAFolderWithoutADriveBelowTheMainOne)
+{
+    AddFile("a.txt", "Data", "a");
+    EXPECT_EQ(Install("/S /D=E:\\Ny mapp"), ExitCode::Done) << Log();
+    EXPECT_EQ(memory.files.Get("E:\\Ny mapp\\Data\\a.txt"), "a");
+    EXPECT_EQ(memory.files.Get("E:\\Ny mapp\\prog.exe"), "program");
+}
+
+TEST_F(SetupProgramTest, InstallsTheComponentsThatAreTickedFromTheStart)
+{
+    package.setup.UseComponents = kOn;
+    auto& components = project.FileComponents;
+    components[0] = {.Comp = 1, .CompDir = "Ett", .CompDefault = 1};
+    components[1] = {.Comp = 1, .CompDefault = 0};
+    components[2] = {.Comp = 1, .CompDefault = 0, .CompMustAlwaysBeInstalled = 1};
+    components[3] = {.Comp = 0, .CompDefault = 0};
+    components[4] = {.Comp = 1,
+                     .CompDefault = 1,
+                     .CompAdvOnlyUpdate = 1,
+                     .CompAdvUpdateRefFile = "%DESTDIR\\finns inte.exe"};
+    components[5] = {.Comp = 1,
+                     .CompDefault = 1,
+                     .CompAdvOnlyUpdate = 1,
+                     .CompAdvUpdateRefFile = "%WINDIR\\finns.exe"};
+    memory.files.Put("C:\\WINDOWS\\finns.exe", "");
+    for (int n = 1; n <= 6; ++n)
+        AddFile(NumberText(n) + ".txt", n == 1 ? "%COMPDIR1" : "%DESTDIR", "x").component = n;
+    EXPECT_EQ(Install(), ExitCode::Done);
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\Ett\\1.txt"));
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\2.txt"));
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\3.txt"));
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\4.txt"));
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\5.txt"));
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\6.txt"));
+    EXPECT_THAT(Log(), HasSubstr("2.txt: komponent 2 installeras inte"));
+}
+
+TEST_F(SetupProgramTest, LeavesSystemFilesToNewWindows)
+{
+    for (const char* name : {"OLEAUT32.DLL", "olepro32.dll", "ASYCFILT.DLL", "COMCAT.DLL",
+                             "MSVCRT.DLL", "MFC42.DLL", "STDOLE2.TLB", "MSVBVM60.DLL"})
+        AddFile(name, "%SYSDIR", name);
+    EXPECT_EQ(Install(), ExitCode::Done);
+    EXPECT_FALSE(memory.files.FileExists("C:\\WINDOWS\\SYSTEM32\\OLEPRO32.DLL"));
+    EXPECT_TRUE(memory.files.FileExists("C:\\WINDOWS\\SYSTEM32\\MSVBVM60.DLL"));
+    EXPECT_THAT(Log(), HasSubstr("STDOLE2.TLB: systemfilen ingår redan"));
+    target.system = SystemKind::Win98;
+    EXPECT_EQ(Install(), ExitCode::Done);
+    EXPECT_TRUE(memory.files.FileExists("C:\\WINDOWS\\SYSTEM32\\STDOLE2.TLB"));
+}
+
+TEST_F(SetupProgramTest, NamesEveryPartOfALaterStage)
+{
+    project.Lists.RunScriptBefore = "x";
+    project.Lists.AutoexecBat = "x";
+    project.RunAppAfter.AppFileName1 = "x";
+    project.ShowDocAfter.DocFileName = "x";
+    project.NET.NET_TestIfInstalled = kOn;
+    project.InstallOptions.RestartWindows = kOn;
+    EXPECT_EQ(Install(), ExitCode::Done);
+    for (const char* what : {"dialogrutan WelcomeDlg", "skriptet före", "AUTOEXEC.BAT", "program 1",
+                             "dokumentet", ".NET Framework", "omstarten"})
+        EXPECT_THAT(Log(), HasSubstr(what));
+}
+
+TEST_F(SetupProgramTest, ReadsFilesThatAreKeptOneByOne)
+{
+    sources.clear();
+    project.Media.TargetMedia = 2;
+    project.Compression.KeepCompressedFilesOneAndOne = 1;
+    package.setup.PlaceCompressedFilesInFolderSetupFiles = kOn;
+    const LocalTime time{2004, 5, 6, 7, 8, 9};
+    memory.files.Put("D:\\Paket\\SetupFiles\\prog.exe_", "program", time);
+    EXPECT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(memory.files.Get(kMain + "\\prog.exe"), "program");
+    EXPECT_EQ(memory.files.Facts(kMain + "\\prog.exe").modified, time);
+    EXPECT_EQ(openedContainer, "");
+}
+
+TEST_F(SetupProgramTest, ReadsTheTreeOfTheSources)
+{
+    sources.clear();
+    project.Media.TargetMedia = 3;
+    memory.files.Put("D:\\Paket\\src\\prog.exe", "program");
+    EXPECT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(memory.files.Get(kMain + "\\prog.exe"), "program");
+}
+
+TEST_F(SetupProgramTest, JoinsThePiecesOfAllDisks)
+{
+    project.Media.TargetMedia = 1;
+    package.setup.Floppies = 3;
+    memory.files.Put("D:\\Paket\\FILEDATA.DAT", "ett");
+    memory.files.Put("D:\\Paket\\disk2\\FILEDATA.DAT", "två");
+    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("D:\\Paket\\disk3 saknas"));
+    memory.files.Put("D:\\Paket\\disk3\\FILEDATA.DAT", "tre");
+    EXPECT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(openedContainer, "W:\\Arbete\\FILEDATA.DAT");
+    // The joined archive goes when it has been read.
+    EXPECT_FALSE(memory.files.FileExists(openedContainer));
+}
+
+TEST_F(SetupProgramTest, AsksForTheNextDiskUntilItIsThere)
+{
+    project.Media.TargetMedia = 1;
+    package.setup.Floppies = 2;
+    memory.files.Put("D:\\Paket\\FILEDATA.DAT", "ett");
+    ScriptedAsk script({{BoxKind::OkCancel, "Exempel", "Stoppa in diskett nr 2!", Answer::No}});
+    ask = &script;
+    EXPECT_EQ(InstallInVain(""), ExitCode::Cancelled);
+}
+
+TEST(LoadPackageTest, TellsWhatIsMissingOrBroken)
+{
+    test::MemoryHost memory;
+    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault, "QNSETUP.INF saknas eller kan inte läsas");
+    memory.files.Put("D:\\P\\QNSETUP.INF", "skräp");
+    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault, "FILELIST.INF saknas eller kan inte läsas");
+    memory.files.Put("D:\\P\\FILELIST.INF", "skräp");
+    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault, "FILELIST.INF är avbruten");
+    memory.files.Put("D:\\P\\FILELIST.INF",
+                     "[Origin]\r\n\r\n[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\nFileType = FileList"
+                     "\r\n\r\n[FileList]\r\n-(EOF)-\r\n\r\n");
+    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault, "QNSETUP.INF är avbruten");
+    const Text setup = "[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\nFileType = Options\r\n\r\n"
+                       "[ProjectName]\r\nProjectName = Prov\r\n\r\n[FileListInfo]\r\nFiles = ";
+    memory.files.Put("D:\\P\\QNSETUP.INF", setup + "1\r\n\r\n-(EOF)-\r\n\r\n");
+    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault,
+              "QNSETUP.INF och FILELIST.INF hör inte ihop");
+    memory.files.Put("D:\\P\\QNSETUP.INF", setup + "0\r\n\r\n-(EOF)-\r\n\r\n");
+    memory.files.Put("D:\\P\\SWEDISH.LNG", "[Setup]\r\nButton_Cancel=Stopp\r\n");
+    const LoadedPackage package = LoadPackage(memory.files, "D:\\P");
+    EXPECT_EQ(package.fault, "");
+    EXPECT_EQ(package.setup.project.ProjectName.ProjectName, "Prov");
+    EXPECT_EQ(package.texts[Message::Cancel], "Stopp");
+}
+
+} // namespace quillon

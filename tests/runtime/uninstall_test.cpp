@@ -1,0 +1,171 @@
+#include "setup_fixture.h"
+
+#include "runtime/uninstall.h"
+
+namespace quillon {
+
+using test::MachineState;
+using testing::HasSubstr;
+
+const Text kMain = "C:\\Program\\Exempel";
+const RegistryKey kFirma{RegistryRoot::LocalMachine, "SOFTWARE\\Firma"};
+
+class UninstallTest : public test::SetupFixture {
+protected:
+    UninstallTest() { AddFile("prog.exe", "%DESTDIR\\Bin", "program"); }
+};
+
+TEST_F(UninstallTest, LeavesWhatTheUserHasAdded)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    memory.files.Put(kMain + "\\Bin\\egen.txt", "min");
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\Bin\\prog.exe"));
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\QNXUNIN.EXE"));
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\QNXUNIN.LOG"));
+    EXPECT_EQ(memory.files.Get(kMain + "\\Bin\\egen.txt"), "min");
+    EXPECT_THAT(Log(), HasSubstr(kMain + ": mappen är inte tom"));
+}
+
+TEST_F(UninstallTest, GoesThroughAllInstallationsOfAProduct)
+{
+    const MachineState before = State();
+    project.Lists.Registry = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Version=\"1\"";
+    project.Lists.INIFiles = "-- A.INI --\r\n[S]\r\nx=1";
+    AddFile("delad.dll", "%SYSDIR", "v1", "S");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    project.Lists.Registry = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Version=\"2\"";
+    project.Lists.INIFiles = "-- A.INI --\r\n[S]\r\nx=2\r\ny=3";
+    AddFile("ny.txt", "%DESTDIR\\Ny", "ny");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(target.TextAt(kFirma, "Version"), "2");
+    ASSERT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(State().files, before.files) << Log();
+    EXPECT_EQ(State(), before);
+}
+
+TEST_F(UninstallTest, LeavesTheUninstallerToAnotherProductInTheSameFolder)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    project.ProjectName.ProjectName = "Annat";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\QNXUNIN2.LOG"));
+    ASSERT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\QNXUNIN.EXE"));
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\QNXUNIN.LOG"));
+}
+
+TEST_F(UninstallTest, LeavesAFileThatWasInWindowsBefore)
+{
+    memory.files.Put("C:\\WINDOWS\\gammal.dll", "gammal", {2003, 1, 1, 0, 0, 0});
+    AddFile("gammal.dll", "%WINDIR", "ny", "DR");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(memory.files.Get("C:\\WINDOWS\\gammal.dll"), "ny");
+    EXPECT_EQ(target.registered.count("C:\\WINDOWS\\gammal.dll"), 1U);
+    EXPECT_THAT(Log(), HasSubstr("filen fanns i Windows redan före installationen"));
+}
+
+TEST_F(UninstallTest, KeepsAValueThatChangedSinceButTakesItsOwnAway)
+{
+    target.MakeKey(kFirma);
+    target.WriteValue(kFirma, "Gammalt", TextData("före"));
+    target.WriteValue(kFirma, "Orört", TextData("före"));
+    project.Lists.Registry = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Gammalt=\"vårt\"\r\n"
+                             "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Orört=\"vårt\"\r\n"
+                             "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Nytt=\"vårt\"";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    target.WriteValue(kFirma, "Gammalt", TextData("ändrat"));
+    target.WriteValue(kFirma, "Nytt", TextData("ändrat"));
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(target.TextAt(kFirma, "Gammalt"), "ändrat");
+    EXPECT_EQ(target.TextAt(kFirma, "Orört"), "före");
+    EXPECT_EQ(target.TextAt(kFirma, "Nytt"), "<none>");
+}
+
+TEST_F(UninstallTest, DoesWhatTheRegistryListAsksForAtBothEnds)
+{
+    target.MakeKey({RegistryRoot::LocalMachine, "SOFTWARE\\Firma\\Bort\\Djup"});
+    target.WriteValue(kFirma, "Bort", TextData("x"));
+    project.Lists.Registry = "DELETE=HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma\\Bort\r\n"
+                             "DELETE=HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Bort\r\n"
+                             "DELETE=HKEY_LOCAL_MACHINE\\SOFTWARE\\Finns\\Inte\r\n"
+                             "UNINSTALL=HKEY_CURRENT_USER\\Firma\\Prog\r\n"
+                             "UNINSTALL=HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Kvar";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_FALSE(target.KeyExists({RegistryRoot::LocalMachine, "SOFTWARE\\Firma\\Bort"}));
+    EXPECT_EQ(target.TextAt(kFirma, "Bort"), "<none>");
+    // The program itself writes these while it is used.
+    target.MakeKey({RegistryRoot::CurrentUser, "Firma\\Prog\\Inställningar"});
+    target.WriteValue(kFirma, "Kvar", TextData("x"));
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_FALSE(target.KeyExists({RegistryRoot::CurrentUser, "Firma\\Prog"}));
+    EXPECT_TRUE(target.KeyExists({RegistryRoot::CurrentUser, "Firma"}));
+    EXPECT_EQ(target.TextAt(kFirma, "Kvar"), "<none>");
+}
+
+TEST_F(UninstallTest, ExpandsVariablesInKeysOnlyWhereTheProjectSaysSo)
+{
+    project.ProjectName.ProjectName = "Exempel";
+    project.Lists.Registry = "HKEY_CURRENT_USER\\%PROJECTNAME :: %PROJECTNAME=\"%PROJECTNAME\"";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(target.TextAt({RegistryRoot::CurrentUser, "Exempel"}, "Exempel"), "Exempel");
+    project.InstallOptions.ExpandVariablesInRegistryKeys = "0";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(target.TextAt({RegistryRoot::CurrentUser, "%PROJECTNAME"}, "%PROJECTNAME"),
+              "Exempel");
+}
+
+TEST_F(UninstallTest, GoesOnWhenOneFileCanNotBeRemovedAndLeavesItToTheNextStart)
+{
+    AddFile("b.txt", "%DESTDIR\\Bin", "b");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    files.inUse.insert(kMain + "\\Bin\\prog.exe");
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\Bin\\b.txt"));
+    ASSERT_EQ(target.movesAtRestart.size(), 1U);
+    EXPECT_EQ(target.movesAtRestart[0], std::pair(kMain + "\\Bin\\prog.exe", Text()));
+}
+
+TEST_F(UninstallTest, ShowsTheTextsOfTheInstallation)
+{
+    package.texts.Set(Message::UninstallQuestion, "Fjern %1?");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const auto product = ReadInstalledProduct(files, kMain + "\\QNXUNIN.LOG");
+    ASSERT_TRUE(product);
+    EXPECT_EQ(product->name, "Exempel");
+    EXPECT_EQ(product->texts(Message::UninstallQuestion, "X"), "Fjern X?");
+    EXPECT_FALSE(ReadInstalledProduct(files, "C:\\finns inte"));
+}
+
+TEST_F(UninstallTest, WritesTheEntryOfTheSystemsListAndTakesItAway)
+{
+    project.Version = {"Firma AB", "Exempelprogram", "", "1.2", "", ""};
+    const RegistryKey entry{RegistryRoot::LocalMachine,
+                            "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Exempel"};
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const Text command = "\"" + kMain + "\\QNXUNIN.EXE\" \"" + kMain + "\\QNXUNIN.LOG\"";
+    EXPECT_EQ(target.TextAt(entry, "DisplayName"), "Exempelprogram");
+    EXPECT_EQ(target.TextAt(entry, "DisplayVersion"), "1.2");
+    EXPECT_EQ(target.TextAt(entry, "Publisher"), "Firma AB");
+    EXPECT_EQ(target.TextAt(entry, "UninstallString"), command);
+    EXPECT_EQ(target.TextAt(entry, "QuietUninstallString"), command + " /S");
+    EXPECT_EQ(target.TextAt(entry, "InstallLocation"), kMain);
+    EXPECT_EQ(target.TextAt(entry, "InstallDate"), "20040301");
+    EXPECT_EQ(target.ReadValue(entry, "EstimatedSize"), NumberData(1));
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_FALSE(target.KeyExists(entry));
+}
+
+TEST_F(UninstallTest, IsNotOfferedWithoutUninstallSupport)
+{
+    project.InstallOptions.UninstallSupport = kOff;
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\QNXUNIN.EXE"));
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\QNXUNIN.LOG"));
+    EXPECT_FALSE(
+        target.KeyExists({RegistryRoot::LocalMachine,
+                          "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Exempel"}));
+}
+
+} // namespace quillon
