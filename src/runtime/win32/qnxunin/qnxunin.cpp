@@ -42,14 +42,53 @@ CommandLine ReadCommandLine(const Text& line)
 }
 
 // A running program can't be deleted, but it can be moved: out of the product's folder, so that the
-// folder can go, and to where files are removed when the machine starts next.
-void MoveSelfAway(const Host& host)
+// folder can go. Empty where it can't even be moved, from one drive to another.
+Text MoveSelfAway(const Host& host)
 {
-    const std::wstring self = WidePath(ProgramPath());
-    const std::wstring away = WidePath(JoinPath(
-        host.machine.GetTempDir(), "QNXUNIN" + NumberText(host.machine.Random(1000000)) + ".TMP"));
-    if (MoveFileExW(self.c_str(), away.c_str(), 0))
-        MoveFileExW(away.c_str(), nullptr, MOVEFILE_DELAY_UNTIL_REBOOT);
+    const Text away = JoinPath(host.machine.GetTempDir(),
+                               "QNXUNIN" + NumberText(host.machine.Random(1000000)) + ".TMP");
+    const bool moved = MoveFileExW(WidePath(ProgramPath()).c_str(), WidePath(away).c_str(), 0);
+    return moved ? away : Text();
+}
+
+constexpr std::string_view kCleanSwitch = "/CLEAN=";
+
+// Starts a second copy of this program, which waits for this one's end and deletes its file. The
+// copy's own file goes when the last handle to it is closed, and that is the one it inherits.
+void RemoveSelfAtEnd(const Text& away)
+{
+    const Text copy = away + ".EXE";
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    HANDLE self = nullptr;
+    DuplicateHandle(GetCurrentProcess(), GetCurrentProcess(), GetCurrentProcess(), &self,
+                    SYNCHRONIZE, TRUE, 0);
+    if (!CopyFileW(WidePath(away).c_str(), WidePath(copy).c_str(), TRUE))
+        return;
+    const HANDLE last =
+        CreateFileW(WidePath(copy).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                    &inherited, OPEN_EXISTING, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    std::wstring line = Wide("\"" + copy + "\" " + Text(kCleanSwitch) +
+                             NumberText(reinterpret_cast<INT_PTR>(self)) + " " + away);
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (CreateProcessW(Wide(copy).c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                       &startup, &process)) {
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+    }
+    CloseHandle(last);
+}
+
+// The second copy's whole work: "/CLEAN=<the first one's handle> <the first one's file>".
+int CleanUp(std::string_view line)
+{
+    const std::string_view rest = line.substr(kCleanSwitch.size());
+    const auto parent = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(LeadingNumber(rest)));
+    WaitForSingleObject(parent, INFINITE);
+    const std::size_t blank = rest.find(' ');
+    const bool hasPath = blank != std::string_view::npos;
+    return hasPath && DeleteFileW(WidePath(Text(rest.substr(blank + 1))).c_str()) ? 0 : 1;
 }
 
 ExitCode RunUninstall(Host& host, Ask& ask, const CommandLine& line,
@@ -59,9 +98,11 @@ ExitCode RunUninstall(Host& host, Ask& ask, const CommandLine& line,
     if (!line.switches.logFile.empty())
         log = TextLog(host.files, host.machine, line.switches.logFile);
     WinTarget target;
-    MoveSelfAway(host);
+    const Text away = MoveSelfAway(host);
     const ExitCode code = Uninstall({host, target, ask, log, line.logPath, product});
     log.Close();
+    if (!away.empty())
+        RemoveSelfAtEnd(away);
     return code;
 }
 
@@ -104,8 +145,11 @@ ExitCode RunSilently(Host& host, const CommandLine& line,
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
 {
+    const Text given = TrimBlanks(Narrow(commandLine));
+    if (given.substr(0, kCleanSwitch.size()) == kCleanSwitch)
+        return CleanUp(given);
     OleInitialize(nullptr);
-    const CommandLine line = ReadCommandLine(Narrow(commandLine));
+    const CommandLine line = ReadCommandLine(given);
     ExitCode code = ExitCode::Failed;
     try {
         WinFiles files;
