@@ -2,6 +2,7 @@
 
 #include "helpers/text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <dirent.h>
 #include <memory>
@@ -20,8 +21,10 @@ constexpr std::int64_t kTickOfTheKernel = 20 * kMillisecond;
 constexpr std::int64_t kTickOfWholeSeconds = 2 * kSecond + kTickOfTheKernel;
 
 // While this program fills a folder, the stamp moves all the time and can't tell another program's
-// change from its own; the listing is renewed so often.
+// change from its own; the listing is renewed so often, but never for more than a small part of the
+// time, since a folder of many files takes long to list.
 constexpr std::int64_t kRenewWhileFilling = 100 * kMillisecond;
+constexpr std::int64_t kListingTimesToWait = 20;
 
 std::int64_t Nanoseconds(const timespec& time)
 {
@@ -57,9 +60,28 @@ bool NameLookup::Stamp::operator==(const Stamp& other) const
 
 void NameLookup::Listing::Add(const std::string& name)
 {
-    const auto [place, isNew] = names.emplace(LowerCase(name), name);
-    if (!isNew && name < place->second)
-        place->second = name;
+    std::vector<std::string>& spellings = names[LowerCase(name)];
+    const auto place = std::lower_bound(spellings.begin(), spellings.end(), name);
+    if (place == spellings.end() || *place != name)
+        spellings.insert(place, name);
+}
+
+void NameLookup::Listing::Remove(const std::string& name)
+{
+    const auto found = names.find(LowerCase(name));
+    if (found == names.end())
+        return;
+    std::erase(found->second, name);
+    if (found->second.empty())
+        names.erase(found);
+}
+
+bool NameLookup::Listing::IsFresh() const
+{
+    const std::int64_t age = Nanoseconds(Now()) - Nanoseconds(listedAt);
+    const std::int64_t limit =
+        std::max(kRenewWhileFilling, kListingTimesToWait * nanosecondsToList);
+    return age >= 0 && age < limit;
 }
 
 std::optional<NameLookup::Stamp> NameLookup::StampOf(const std::string& folder)
@@ -72,10 +94,7 @@ std::optional<NameLookup::Stamp> NameLookup::StampOf(const std::string& folder)
 
 bool NameLookup::IsStillGood(const Listing& listing, const Stamp& now)
 {
-    if (!(listing.stamp == now))
-        return false;
-    const std::int64_t age = Nanoseconds(Now()) - Nanoseconds(listing.listedAt);
-    return listing.settled || (listing.changedByUs && age >= 0 && age < kRenewWhileFilling);
+    return listing.stamp == now && (listing.settled || (listing.changedByUs && listing.IsFresh()));
 }
 
 NameLookup::Listing NameLookup::ReadNames(const std::string& folder, const Stamp& stamp)
@@ -89,6 +108,7 @@ NameLookup::Listing NameLookup::ReadNames(const std::string& folder, const Stamp
         opendir(folder.empty() ? "/" : folder.c_str()), closedir);
     while (const dirent* entry = entries ? readdir(entries.get()) : nullptr)
         listing.Add(entry->d_name);
+    listing.nanosecondsToList = Nanoseconds(Now()) - Nanoseconds(listing.listedAt);
     return listing;
 }
 
@@ -111,7 +131,7 @@ std::optional<std::string> NameLookup::Find(const std::string& folder, std::stri
     const auto found = kept->second.names.find(LowerCase(name));
     if (found == kept->second.names.end())
         return std::nullopt;
-    return found->second;
+    return found->second.front();
 }
 
 std::string NameLookup::Resolve(const std::string& root, const std::vector<std::string_view>& parts)
@@ -139,29 +159,36 @@ std::string NameLookup::Resolve(const std::string& root, const std::vector<std::
     return path;
 }
 
-void NameLookup::NoteCreated(const std::string& path)
+NameLookup::Listing* NameLookup::ListingToChange(const std::string& folder)
 {
-    const std::string folder = FolderOf(path);
-    const std::lock_guard lock(mutex_);
     const auto kept = listings_.find(folder);
     if (kept == listings_.end())
-        return;
+        return nullptr;
     const std::optional<Stamp> stamp = StampOf(folder);
-    const std::int64_t age = Nanoseconds(Now()) - Nanoseconds(kept->second.listedAt);
-    if (!stamp || age < 0 || age >= kRenewWhileFilling) {
+    if (!stamp || !kept->second.IsFresh()) {
         listings_.erase(kept);
-        return;
+        return nullptr;
     }
-    kept->second.Add(path.substr(folder.size() + 1));
     kept->second.stamp = *stamp;
     kept->second.settled = false;
     kept->second.changedByUs = true;
+    return &kept->second;
 }
 
-void NameLookup::NoteChanged(const std::string& folder)
+void NameLookup::NoteCreated(const std::string& path)
 {
     const std::lock_guard lock(mutex_);
-    listings_.erase(folder);
+    const std::string folder = FolderOf(path);
+    if (Listing* listing = ListingToChange(folder))
+        listing->Add(path.substr(folder.size() + 1));
+}
+
+void NameLookup::NoteRemoved(const std::string& path)
+{
+    const std::lock_guard lock(mutex_);
+    const std::string folder = FolderOf(path);
+    if (Listing* listing = ListingToChange(folder))
+        listing->Remove(path.substr(folder.size() + 1));
 }
 
 } // namespace quillon

@@ -6,13 +6,14 @@
 // give.
 #pragma once
 
-#include <map>
+#include <cstdint>
 #include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
 #include <time.h>
+#include <unordered_map>
 #include <vector>
 
 namespace quillon {
@@ -25,8 +26,8 @@ public:
 
     /// This program has made the file or folder at the host path.
     void NoteCreated(const std::string& path);
-    /// This program has removed or renamed something in the folder.
-    void NoteChanged(const std::string& folder);
+    /// This program has removed it.
+    void NoteRemoved(const std::string& path);
 
 private:
     struct Stamp {
@@ -38,23 +39,29 @@ private:
         bool operator==(const Stamp& other) const;
     };
     struct Listing {
-        std::map<std::string, std::string> names; // lower case -> first spelling in byte order
+        // Lower case -> the spellings, in byte order.
+        std::unordered_map<std::string, std::vector<std::string>> names;
         Stamp stamp;
         timespec listedAt;
+        std::int64_t nanosecondsToList = 0;
         // Nothing had changed in the folder for long enough that its stamp tells the next change.
         bool settled = false;
         bool changedByUs = false;
 
         void Add(const std::string& name);
+        void Remove(const std::string& name);
+        bool IsFresh() const;
     };
 
     static std::optional<Stamp> StampOf(const std::string& folder);
     static bool IsStillGood(const Listing& listing, const Stamp& now);
+    /// The listing of the folder that holds the path, if it may follow this program's own change.
+    Listing* ListingToChange(const std::string& folder);
     static Listing ReadNames(const std::string& folder, const Stamp& stamp);
     std::optional<std::string> Find(const std::string& folder, std::string_view name);
 
     std::mutex mutex_;
-    std::map<std::string, Listing> listings_; // by host path
+    std::unordered_map<std::string, Listing> listings_; // by host path
     std::size_t keptNames_ = 0;
 };
 

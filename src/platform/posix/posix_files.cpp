@@ -188,7 +188,7 @@ void PosixFiles::CopyContent(const Text& from, const Text& to)
     } catch (const RunError&) {
         // Half a file looks like a whole one.
         unlink(target.c_str());
-        drives_.Names().NoteChanged(FolderOf(target));
+        drives_.Names().NoteRemoved(target);
         throw;
     }
     const std::array<timespec, 2> times{facts.st_atim, facts.st_mtim};
@@ -204,7 +204,7 @@ void PosixFiles::RemoveFile(const Text& path)
     RefuseReadOnly(path, hostPath);
     if (unlink(hostPath.c_str()) != 0)
         Fail(path, hostPath, Doing::Reading);
-    drives_.Names().NoteChanged(FolderOf(hostPath));
+    drives_.Names().NoteRemoved(hostPath);
 }
 
 void PosixFiles::RemoveFolder(const Text& path)
@@ -215,7 +215,7 @@ void PosixFiles::RemoveFolder(const Text& path)
             errno == ENOTDIR && !IsFolder(hostPath) ? Doing::Writing : Doing::Reading;
         throw PosixFailure(errno, path, doing, false);
     }
-    drives_.Names().NoteChanged(FolderOf(hostPath));
+    drives_.Names().NoteRemoved(hostPath);
 }
 
 void PosixFiles::Rename(const Text& from, const Text& to)
@@ -227,8 +227,8 @@ void PosixFiles::Rename(const Text& from, const Text& to)
     if (target == source)
         target = FolderOf(source) + "/" + to.substr(to.find_last_of("\\/") + 1);
     if (rename(source.c_str(), target.c_str()) == 0) {
-        drives_.Names().NoteChanged(FolderOf(source));
-        drives_.Names().NoteChanged(FolderOf(target));
+        drives_.Names().NoteRemoved(source);
+        drives_.Names().NoteCreated(target);
         return;
     }
     if (errno != EXDEV || IsFolder(source))
