@@ -1,13 +1,13 @@
 #include "builder/deflate_block.h"
 
+#include "builder/deflate_walk.h"
+
 #include <libdeflate.h>
-#include <zlib.h>
 
 #include <array>
 #include <cassert>
 #include <cstdint>
 #include <new>
-#include <stdexcept>
 
 namespace quillon {
 
@@ -21,43 +21,6 @@ constexpr int kLibdeflateLevel = 4;
 constexpr std::array<std::byte, 4> kEmptyStoredBlock{std::byte{0}, std::byte{0}, std::byte{0xFF},
                                                      std::byte{0xFF}};
 constexpr std::size_t kRoomToOpen = 1 + kEmptyStoredBlock.size();
-
-/// Where a deflate stream must be changed so that another can follow.
-struct StreamEnd {
-    std::uint64_t lastBlockBit = 0;
-    std::uint64_t endBit = 0;
-};
-
-// zlib's inflate can stop at the border of every block. Nothing cheaper finds the last block, since
-// only decoding tells where a block ends; it costs a small part of the time of the deflating.
-StreamEnd FindStreamEnd(std::span<const std::byte> stream)
-{
-    constexpr unsigned kAtBorder = 128;
-    constexpr unsigned kInLastBlock = 64;
-    constexpr unsigned kUnusedBits = 7;
-    z_stream inflater{};
-    if (inflateInit2(&inflater, -MAX_WBITS) != Z_OK)
-        throw std::bad_alloc();
-    const std::unique_ptr<z_stream, int (*)(z_stream*)> ender(&inflater, inflateEnd);
-    std::vector<Bytef> ignored(64 * 1024);
-    // zlib does not write to its input; its type is older than const.
-    inflater.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(stream.data()));
-    inflater.avail_in = static_cast<uInt>(stream.size());
-    StreamEnd end;
-    for (;;) {
-        inflater.next_out = ignored.data();
-        inflater.avail_out = static_cast<uInt>(ignored.size());
-        if (inflate(&inflater, Z_BLOCK) != Z_OK)
-            throw std::logic_error("libdeflate made a stream that zlib can't read");
-        const auto state = static_cast<unsigned>(inflater.data_type);
-        if ((state & kAtBorder) == 0)
-            continue;
-        const std::uint64_t bit = std::uint64_t(inflater.total_in) * 8 - (state & kUnusedBits);
-        ((state & kInLastBlock) != 0 ? end.endBit : end.lastBlockBit) = bit;
-        if ((state & kInLastBlock) != 0)
-            return end;
-    }
-}
 
 /// Takes the end mark off a stream and fills it up to a whole byte. `stream` has room behind it.
 std::size_t OpenStream(std::span<std::byte> buffer, std::size_t size)
