@@ -131,7 +131,10 @@ Exit CreatePackage(const CallContext& context)
                   .host = context.host,
                   .ask = ask,
                   .compression = compression};
-    return Tell(context, ask, run, RunCreate(run));
+    const CreateResult result = RunCreate(run);
+    if (result == CreateResult::Done && form.TargetMedia == kMediaFloppy)
+        disks.RemoveDisksBehind(run.FloppiesUsed);
+    return Tell(context, ask, run, result);
 }
 
 } // namespace quillon::cli

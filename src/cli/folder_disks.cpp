@@ -50,6 +50,21 @@ std::optional<Text> FolderDisks::NextDisk(int number)
     return folder;
 }
 
+void FolderDisks::RemoveDisksBehind(int lastDisk)
+{
+    for (int number = lastDisk + 1;; ++number) {
+        const Text folder = DiskFolder(packageFolder_, number);
+        const Text piece = JoinPath(folder, kFileContainerName);
+        if (!host_.files.FileExists(piece))
+            return;
+        // What cannot go stays, and so does a folder that holds something of the user's.
+        RunErrorNumber([&] {
+            host_.files.RemoveFile(piece);
+            host_.files.RemoveFolder(folder);
+        });
+    }
+}
+
 std::uint64_t FolderDisks::Capacity(const Text& folder) const
 {
     if (IsDriveRoot(folder))

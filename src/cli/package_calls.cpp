@@ -4,7 +4,6 @@
 #include "helpers/number_text.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <ostream>
 
 namespace quillon::cli {
@@ -13,9 +12,15 @@ namespace {
 
 Text HexText(std::uint32_t number)
 {
-    char digits[9];
-    std::snprintf(digits, sizeof digits, "%08X", static_cast<unsigned>(number));
+    Text digits;
+    for (unsigned shift = 32; shift > 0; shift -= 4)
+        digits += "0123456789ABCDEF"[number >> (shift - 4) & 15U];
     return digits;
+}
+
+Text SizeText(std::uint64_t size)
+{
+    return NumberText(static_cast<std::int64_t>(size));
 }
 
 const char* PlaceName(RowBytes::Place place)
@@ -84,11 +89,11 @@ std::vector<Text> RowLine(const Package& package, std::size_t number)
     const InstallRow& row = package.rows[number];
     const RowBytes& bytes = package.bytes[number];
     std::vector<Text> line = {"F" + NumberText(row.number), row.name, row.destination,
-                              std::to_string(row.size)};
+                              SizeText(row.size)};
     switch (bytes.place) {
     case RowBytes::Place::Container: {
         const ZipEntry& entry = package.container->Entries()[bytes.entry];
-        line.push_back(std::to_string(entry.packedSize));
+        line.push_back(SizeText(entry.packedSize));
         line.push_back(entry.hasCrc ? HexText(entry.crc) : "-");
         line.push_back(entry.name);
         break;

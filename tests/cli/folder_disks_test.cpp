@@ -60,6 +60,20 @@ TEST_F(FolderDisksTest, MakesTheNextDiskAndTakesAnOldPieceOut)
     EXPECT_TRUE(memory.files.DirExists("C:\\Ut\\disk3"));
 }
 
+TEST_F(FolderDisksTest, ClearsTheDisksOfAnEarlierPackageAway)
+{
+    for (const char* folder : {"disk2", "disk3", "disk4"})
+        memory.files.Put(Text("C:\\Ut\\") + folder + "\\FILEDATA.DAT", "old");
+    memory.files.Put("C:\\Ut\\disk4\\letter.txt", "the user's own");
+    memory.files.Put("C:\\Ut\\disk6\\FILEDATA.DAT", "no disk of a row");
+    disks.RemoveDisksBehind(2);
+    EXPECT_TRUE(memory.files.FileExists("C:\\Ut\\disk2\\FILEDATA.DAT"));
+    EXPECT_FALSE(memory.files.DirExists("C:\\Ut\\disk3"));
+    EXPECT_FALSE(memory.files.FileExists("C:\\Ut\\disk4\\FILEDATA.DAT"));
+    EXPECT_TRUE(memory.files.FileExists("C:\\Ut\\disk4\\letter.txt"));
+    EXPECT_TRUE(memory.files.FileExists("C:\\Ut\\disk6\\FILEDATA.DAT"));
+}
+
 TEST_F(FolderDisksTest, NoDiskComesWhereItsFolderCannotBeMade)
 {
     memory.files.refuseFolders = true;

@@ -254,6 +254,12 @@ TEST_F(Floppies, FillOneDiskAfterTheOther)
     }
     std::filesystem::remove(disk.Path("out/disk2/FILEDATA.DAT"));
     EXPECT_EQ(Quillonc({"verify", out}).exitCode, 1);
+
+    disk.Put("src/big.bin", Noise(2000000));
+    EXPECT_EQ(Create(saved, {"--medium", "floppy", "--continue"}).exitCode, 0);
+    EXPECT_TRUE(disk.Has("out/disk2"));
+    EXPECT_FALSE(disk.Has("out/disk3"));
+    EXPECT_EQ(Quillonc({"verify", out}).exitCode, 0);
 }
 
 TEST_F(Floppies, TheRootOfADriveIsADiskOfItsOwnSize)
