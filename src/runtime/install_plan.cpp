@@ -79,8 +79,7 @@ void ExpandRegistryLine(const PlanInput& input, RegistryLine& line)
     line.text = input.variables.Expand(line.text);
     if (!IsTrueText(input.setup.project.InstallOptions.ExpandVariablesInRegistryKeys))
         return;
-    line.key.subKey =
-        RemoveLastBackslash(RemoveDupBackslashesEx(input.variables.Expand(line.key.subKey)));
+    line.key.subKey = PlainSubKey(input.variables.Expand(line.key.subKey));
     line.valueName = input.variables.Expand(line.valueName);
 }
 
@@ -94,7 +93,10 @@ void PlanRegistry(const PlanInput& input, InstallPlan& plan)
                 {"registerraden \"" + line.line + "\"", "HKEY_DYN_DATA kan inte ändras"});
         } else {
             ExpandRegistryLine(input, line.read);
-            plan.registry.push_back(std::move(line.read));
+            if (RemovesSystemKey(line.read))
+                plan.skipped.push_back({"registerraden \"" + line.line + "\"", kSystemKeyReason});
+            else
+                plan.registry.push_back(std::move(line.read));
         }
     }
 }

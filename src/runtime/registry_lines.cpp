@@ -1,7 +1,6 @@
 #include "runtime/registry_lines.h"
 
 #include "helpers/number_text.h"
-#include "helpers/windows_path.h"
 
 #include <algorithm>
 #include <cctype>
@@ -72,15 +71,6 @@ void ReadData(RegistryLine& line, std::string_view data)
     }
 }
 
-// Removing one of these with all below it would take the system along.
-bool IsSystemKey(const RegistryKey& key)
-{
-    constexpr std::string_view kNever[] = {"", "SOFTWARE", "SYSTEM", "SOFTWARE\\Microsoft",
-                                           "SOFTWARE\\Classes"};
-    return std::any_of(std::begin(kNever), std::end(kNever),
-                       [&](std::string_view never) { return EqualIgnoreCase(key.subKey, never); });
-}
-
 bool ReadKey(RegistryLine& line, std::string_view text)
 {
     const std::size_t rootEnd = std::min(text.find('\\'), text.size());
@@ -90,7 +80,7 @@ bool ReadKey(RegistryLine& line, std::string_view text)
         return false;
     }
     const std::string_view subKey = text.substr(std::min(rootEnd + 1, text.size()));
-    line.key = {*root, RemoveLastBackslash(RemoveDupBackslashesEx(subKey))};
+    line.key = {*root, PlainSubKey(subKey)};
     if (line.key.subKey.empty())
         line.reason = "subnyckel saknas";
     return !line.key.subKey.empty();
@@ -105,9 +95,9 @@ RegistryLine ReadRemoval(RegistryLine::Kind kind, std::string_view text)
     line.hasValue = mark != Text::npos;
     if (line.hasValue)
         line.valueName = ValueName(text.substr(mark + kValueMark.size()));
-    else if (IsSystemKey(line.key))
-        return Unreadable("nyckeln hör till systemet och får inte tas bort");
     line.kind = kind;
+    if (RemovesSystemKey(line))
+        return Unreadable(kSystemKeyReason);
     return line;
 }
 
@@ -137,6 +127,29 @@ bool BeginsWith(std::string_view text, std::string_view mark)
 }
 
 } // namespace
+
+Text PlainSubKey(std::string_view subKey)
+{
+    Text plain;
+    for (const char character : subKey)
+        if (character != '\\' || (!plain.empty() && plain.back() != '\\'))
+            plain += character;
+    if (plain.ends_with('\\'))
+        plain.pop_back();
+    return plain;
+}
+
+bool RemovesSystemKey(const RegistryLine& line)
+{
+    constexpr std::string_view kNever[] = {"", "SOFTWARE", "SYSTEM", "SOFTWARE\\Microsoft",
+                                           "SOFTWARE\\Classes"};
+    const bool removes =
+        line.kind == RegistryLine::Kind::Delete || line.kind == RegistryLine::Kind::Uninstall;
+    return removes && !line.hasValue &&
+           std::any_of(std::begin(kNever), std::end(kNever), [&](std::string_view never) {
+               return EqualIgnoreCase(line.key.subKey, never);
+           });
+}
 
 RegistryLine ReadRegistryLine(std::string_view line)
 {

@@ -89,6 +89,21 @@ TEST_F(InstallTest, PutsEverythingInItsPlace)
                   "||Avinstallera Exempel");
 }
 
+TEST_F(InstallTest, RemovesNoSystemKeyThatAnEmptyVariableLeavesOver)
+{
+    FillMachine();
+    const RegistryKey firma{RegistryRoot::LocalMachine, "SOFTWARE\\Firma"};
+    project.Version.CompanyName = "";
+    project.Lists.Registry = "DELETE=HKEY_LOCAL_MACHINE\\SOFTWARE\\%COMPANY";
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_EQ(target.TextAt(firma, "Version"), "0.9");
+    EXPECT_THAT(Log(), HasSubstr("nyckeln hör till systemet och får inte tas bort"));
+
+    project.Version.CompanyName = "Firma";
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_FALSE(target.KeyExists(firma)) << "the same line, its variable filled";
+}
+
 TEST_F(InstallTest, LeavesNoTemporaryFiles)
 {
     FillMachine();

@@ -110,6 +110,18 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair{R"(DELETE=HKEY_LOCAL_MACHINE\SOFTWARE)", kOfSystem},
                     std::pair{R"(UNINSTALL=HKEY_LOCAL_MACHINE\software\microsoft)", kOfSystem}));
 
+TEST(PlainSubKey, HasSingleBackslashesAndIsNeverCut)
+{
+    EXPECT_EQ(PlainSubKey("SOFTWARE\\\\Firma\\\\\\Prog"), "SOFTWARE\\Firma\\Prog");
+    EXPECT_EQ(PlainSubKey("\\\\SOFTWARE\\Firma\\\\"), "SOFTWARE\\Firma");
+    EXPECT_EQ(PlainSubKey("\\"), "");
+    EXPECT_EQ(PlainSubKey(""), "");
+    Text longKey = "SOFTWARE";
+    longKey.append("\\").append(250, 'a').append("\\").append(250, 'b');
+    EXPECT_EQ(PlainSubKey(longKey), longKey);
+    EXPECT_EQ(ReadRegistryLine("HKEY_LOCAL_MACHINE\\" + longKey).key.subKey, longKey);
+}
+
 TEST(ReadRegistryLines, LeavesEmptyLinesOutAndKeepsTheOrder)
 {
     const auto lines = ReadRegistryLines("HKEY_USERS\\b\r\n\r\n  \r\nfel\r\nHKEY_USERS\\a\r\n");
