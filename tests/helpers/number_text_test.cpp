@@ -2,10 +2,26 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace quillon {
+
+TEST(NumberText, IsPlainDecimal)
+{
+    EXPECT_EQ(NumberText(0), "0");
+    EXPECT_EQ(NumberText(1234567890123), "1234567890123");
+    EXPECT_EQ(ConvertLongToString(std::numeric_limits<Long>::min()), "-2147483648");
+}
 
 TEST(LeadingNumber, StopsAtTheFirstOtherCharacter)
 {
+    EXPECT_EQ(LeadingNumber("1234567890"), 1234567890);
+    EXPECT_EQ(LeadingNumber("9:"), 9);
+    EXPECT_EQ(LeadingNumber("0"), 0);
+    EXPECT_EQ(LeadingNumber("-"), 0);
+    EXPECT_EQ(LeadingNumber("--7"), 0);
+    EXPECT_EQ(LeadingNumber("-+7"), 0);
+    EXPECT_EQ(LeadingNumber(" 7"), 0);
     EXPECT_EQ(LeadingNumber("12x"), 12);
     EXPECT_EQ(LeadingNumber("-7"), -7);
     EXPECT_EQ(LeadingNumber("+7"), 0);
