@@ -1,10 +1,13 @@
 #include "platform/posix/posix_files.h"
 
+#include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "support/temp_folder.h"
 
+#include <csignal>
 #include <sys/fsuid.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -67,6 +70,7 @@ TEST_F(PosixFilesTest, TellsAMissingFileFromAMissingFolder)
     EXPECT_EQ(Failure([&] { files.Facts("S:\\a.txt"); }), 53);
     EXPECT_EQ(Failure([&] { files.Facts("S:\\b\\a.txt"); }), 76);
     EXPECT_EQ(Failure([&] { files.Facts("Q:\\a.txt"); }), 76);
+    EXPECT_EQ(Failure([&] { files.Facts("Z:\\no such name"); }), 53) << "the root is a folder too";
     EXPECT_EQ(Failure([&] { files.OpenInput("S:\\a.txt"); }), 53);
     EXPECT_EQ(Failure([&] { files.OpenInput("S:\\b\\a.txt"); }), 76);
     EXPECT_EQ(Failure([&] { files.OpenOutput("S:\\b\\a.txt"); }), 76);
@@ -270,6 +274,46 @@ TEST_F(PosixFilesTest, CopiesContentAndDateAndReplacesTheTarget)
     EXPECT_EQ(files.Facts("S:\\to.bin").modified, (LocalTime{2003, 5, 6, 7, 8, 9}));
 }
 
+/// For its life no file may grow beyond this size; a write that would fails.
+class SizeLimit {
+public:
+    explicit SizeLimit(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~SizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, signal_);
+    }
+
+private:
+    void (*signal_)(int);
+    rlimit before_{};
+};
+
+TEST_F(PosixFilesTest, LeavesNoHalfCopyBehind)
+{
+    disk.Put("from.bin", std::string(700000, 'x'));
+    disk.Put("to.bin", "the file before");
+    {
+        const SizeLimit limit(300000);
+        EXPECT_EQ(Failure([&] { files.CopyContent("S:\\from.bin", "S:\\to.bin"); }), 57);
+    }
+    EXPECT_FALSE(disk.Has("to.bin"));
+    EXPECT_TRUE(disk.Has("from.bin"));
+}
+
+TEST_F(PosixFilesTest, RemovesNoDeviceThoughACopyToItFails)
+{
+    disk.Put("from.bin", "abc");
+    create_symlink("/dev/full", disk.Path("full"));
+    EXPECT_EQ(Failure([&] { files.CopyContent("S:\\from.bin", "S:\\full"); }), 61);
+    EXPECT_TRUE(disk.Has("full"));
+}
+
 TEST_F(PosixFilesTest, RefusesToCopyAFileOntoItself)
 {
     disk.Put("a.txt", "abc");
@@ -295,6 +339,25 @@ TEST_F(PosixFilesTest, RenamesAndChangesTheCaseOfAName)
     files.Rename("S:\\b.txt", "S:\\B.TXT");
     EXPECT_EQ(files.List("S:\\")[0].name, "B.TXT");
     EXPECT_EQ(Failure([&] { files.Rename("S:\\c.txt", "S:\\d.txt"); }), 53);
+}
+
+TEST_F(PosixFilesTest, RenamesAcrossDisksWithDateAndContent)
+{
+    const std::string memoryDisk = "/dev/shm";
+    struct stat here {};
+    struct stat there {};
+    if (stat(memoryDisk.c_str(), &there) != 0 || access(memoryDisk.c_str(), W_OK) != 0 ||
+        stat(disk.Path().c_str(), &here) != 0 || here.st_dev == there.st_dev)
+        GTEST_SKIP() << "this machine has no second disk at " << memoryDisk;
+
+    disk.Put("a.txt", "abc");
+    files.SetModified("S:\\a.txt", {2003, 5, 6, 7, 8, 9});
+    const Text target = "Z:\\dev\\shm\\" + ExtractFilename(*drives.ToWindows(disk.Path())) + ".txt";
+    files.Rename("S:\\a.txt", target);
+    EXPECT_FALSE(disk.Has("a.txt"));
+    EXPECT_EQ(ReadWholeFile(files, target), "abc");
+    EXPECT_EQ(files.Facts(target).modified, (LocalTime{2003, 5, 6, 7, 8, 9}));
+    files.RemoveFile(target);
 }
 
 TEST_F(PosixFilesTest, KnowsRoomAndKindOfADrive)

@@ -186,9 +186,11 @@ void PosixFiles::CopyContent(const Text& from, const Text& to)
         CopyBytes(*input, *output);
         output->Close();
     } catch (const RunError&) {
-        // Half a file looks like a whole one.
-        unlink(target.c_str());
-        drives_.Names().NoteRemoved(target);
+        // Half a file looks like a whole one. What is no file, such as a device, stays.
+        if (!isReplaced || S_ISREG(old.st_mode)) {
+            unlink(target.c_str());
+            drives_.Names().NoteRemoved(target);
+        }
         throw;
     }
     const std::array<timespec, 2> times{facts.st_atim, facts.st_mtim};
