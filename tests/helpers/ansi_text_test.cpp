@@ -31,13 +31,4 @@ TEST(AnsiText, SaysWhatItCannotHold)
     EXPECT_EQ(AnsiText::ToBytes("aΩ"), "a?");
 }
 
-TEST(Utf8, TakesNoOverlongOrHalfSequence)
-{
-    EXPECT_FALSE(IsUtf8("\xC0\xAF"));
-    EXPECT_FALSE(IsUtf8("\xED\xA0\x80"));
-    EXPECT_FALSE(IsUtf8("\xF4\x90\x80\x80"));
-    EXPECT_FALSE(IsUtf8("\xE2\x82"));
-    EXPECT_TRUE(IsUtf8("\xF0\x9F\x99\x82"));
-}
-
 } // namespace quillon
