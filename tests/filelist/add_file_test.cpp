@@ -202,6 +202,32 @@ TEST_F(AddFile, RefusesASemicolonInTheSourcePath)
     EXPECT_TRUE(list.rows.empty());
 }
 
+TEST_F(AddFile, AsksItsQuestionsInAFixedOrder)
+{
+    machine.machine.windowsXP = true;
+    machine.files.Put(kSystem + "\\COMCAT.DLL", "x");
+    list.rows = {MakeRow("COMCAT.DLL", "%DESTDIR"), MakeRow("c.txt", "%DESTDIR")};
+    FileToAdd file = FileAt(kSystem, "COMCAT.DLL");
+    file.CheckDuplicates = file.ShowDuplicateMessage = true;
+    EXPECT_EQ(Add(file), std::nullopt) << "guarded before known: no box";
+
+    file = FileAt("C:\\a;b", "c.txt");
+    machine.files.Put(file.SourcePath, "x");
+    machine.files.At(file.SourcePath).facts.isHidden = true;
+    file.CheckDuplicates = file.ShowDuplicateMessage = true;
+    EXPECT_EQ(Add(file, {{BoxKind::Inform, "Quillon", kAlreadyInList}}), std::nullopt)
+        << "known before badly named";
+    file.CheckDuplicates = false;
+    EXPECT_EQ(Add(file, {{BoxKind::Critical, "Ogiltiga tecken hittade"}}), std::nullopt)
+        << "badly named before hidden";
+
+    list.rows.resize(32767);
+    file = FileAt("C:\\D", "hidden.txt");
+    machine.files.Put(file.SourcePath, "x");
+    machine.files.At(file.SourcePath).facts.isHidden = true;
+    EXPECT_EQ(Add(file), std::nullopt) << "hidden before there is no room";
+}
+
 TEST_F(AddFile, RefusesCharactersThatTheProjectFileLacks)
 {
     const Text text =

@@ -17,6 +17,14 @@ std::map<Text, Text> ValuesByName(Project& project, const Host& host)
     return values;
 }
 
+// A machine that tells all its folders in capitals.
+class LoudMachine : public FixedMachine {
+public:
+    Text GetSysAppDataDirectory() const override { return "C:\\DATA\\ROAMING"; }
+    Text GetSysLocalAppDataDirectory() const override { return "C:\\DATA\\LOCAL"; }
+    Text GetSysTemplatesDirectory() const override { return "C:\\DATA\\MALLAR"; }
+};
+
 } // namespace
 
 TEST(Variables, StandInTheOrderOfThePreview)
@@ -63,9 +71,10 @@ TEST(ListVariableValues, ListsTickedComponentsBehindTheMainFolder)
 
 TEST(ListVariableValues, ShowsThisMachineInDisplayCase)
 {
-    MemoryHost machine;
+    MemoryFiles files;
+    LoudMachine machine;
     Project project;
-    auto values = ValuesByName(project, machine.host);
+    auto values = ValuesByName(project, Host{files, machine});
     EXPECT_EQ(values["%SYSDIR"], "C:\\Windows\\System32");
     EXPECT_EQ(values["%WINDIR"], "C:\\Windows");
     EXPECT_EQ(values["%FONTDIR"], "C:\\Windows\\Fonts");
