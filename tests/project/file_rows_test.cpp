@@ -6,18 +6,13 @@
 
 namespace quillon {
 
-using test::GoldenBytes;
+using test::Full;
 using test::ProjectOnDisk;
 using test::ValueIn;
 using test::With;
 using test::WithValue;
 
 namespace {
-
-std::string Full()
-{
-    return GoldenBytes("full/full.qnp");
-}
 
 // The full project with these lines for its rows.
 std::string WithRows(const std::string& files, const std::string& rows)

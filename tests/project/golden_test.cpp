@@ -1,5 +1,6 @@
 // The whole file against files written by hand, byte by byte.
 #include "project_file_fixture.h"
+#include "support/golden.h"
 
 #include <algorithm>
 
@@ -7,26 +8,7 @@ namespace quillon {
 
 using test::GoldenBytes;
 using test::ProjectOnDisk;
-
-namespace {
-
-// Tells the first difference by line and in hexadecimal; a whole file in a failure message helps
-// nobody.
-testing::AssertionResult SameBytes(const std::string& actual, const std::string& expected)
-{
-    if (actual == expected)
-        return testing::AssertionSuccess();
-    const auto places =
-        std::mismatch(actual.begin(), actual.end(), expected.begin(), expected.end());
-    const auto line = 1 + std::count(actual.begin(), places.first, '\n');
-    const auto offset = static_cast<std::size_t>(places.first - actual.begin());
-    return testing::AssertionFailure()
-           << "line " << line << ", byte " << offset << ": is "
-           << testing::PrintToString(actual.substr(offset, 40)) << ", should be "
-           << testing::PrintToString(expected.substr(offset, 40));
-}
-
-} // namespace
+using test::SameBytes;
 
 TEST(GoldenProjectFile, TheEmptyProjectIsWrittenToTheByte)
 {

@@ -7,6 +7,8 @@
 
 namespace quillon {
 
+using test::Empty;
+using test::Full;
 using test::GoldenBytes;
 using test::ProjectOnDisk;
 using test::ValueIn;
@@ -14,16 +16,6 @@ using test::With;
 using test::WithValue;
 
 namespace {
-
-std::string Full()
-{
-    return GoldenBytes("full/full.qnp");
-}
-
-std::string Empty()
-{
-    return GoldenBytes("empty/empty.qnp");
-}
 
 bool Contains(const std::string& bytes, const std::string& part)
 {
@@ -34,6 +26,18 @@ Text section::Lists::*const kPlainLists[] = {
     &section::Lists::RunScriptBefore, &section::Lists::RunScriptAfter,
     &section::Lists::Registry,        &section::Lists::AutoexecBat,
     &section::Lists::ConfigSys,       &section::Lists::RegisterFileList};
+
+// A user whose pointer must be back to normal before a box comes up.
+class WaitingUser : public test::ScriptedAsk {
+public:
+    using ScriptedAsk::ScriptedAsk;
+
+    void Critical(const Text& title, const Text& text) override
+    {
+        EXPECT_FALSE(busyPointer);
+        ScriptedAsk::Critical(title, text);
+    }
+};
 
 // Loads a file whose read must stop without a word.
 void ExpectSilentStop(const std::string& bytes, const char* what)
@@ -245,12 +249,10 @@ TEST(Lists, TellTheUserOnlyOfTheFirstOneThatDoesNotEnd)
 {
     const std::string full = Full();
     ProjectOnDisk disk;
-    test::ScriptedAsk ask{
-        {{test::BoxKind::Critical, "Fel", "Projektfilen är skadad eller felaktig!"}}};
+    WaitingUser ask{{{test::BoxKind::Critical, "Fel", "Projektfilen är skadad eller felaktig!"}}};
     ask.busyPointer = true;
     const std::size_t cut = full.find("MsgBox");
     EXPECT_EQ(disk.Load(full.substr(0, cut + 3), ask), ReadEnd::Damaged);
-    EXPECT_FALSE(ask.busyPointer);
     EXPECT_EQ(ask.beeps, 0);
     EXPECT_EQ(disk.project.Lists.RunScriptBefore, "' före\r\nMsg");
 

@@ -1,18 +1,25 @@
 #include "project_file_fixture.h"
 
 #include "project/new_project.h"
+#include "support/golden.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 namespace quillon::test {
 
 std::string GoldenBytes(const std::string& name)
 {
-    std::ifstream file(QUILLON_TEST_DATA "/golden/project/" + name, std::ios::binary);
-    EXPECT_TRUE(file) << "no golden file " << name;
-    return {std::istreambuf_iterator<char>(file), {}};
+    return GoldenFile("project/" + name);
+}
+
+std::string Full()
+{
+    return GoldenBytes("full/full.qnp");
+}
+
+std::string Empty()
+{
+    return GoldenBytes("empty/empty.qnp");
 }
 
 Project NewProject()

@@ -16,6 +16,9 @@ inline constexpr const char* kPath = "C:\\Projekt\\prov.qnp";
 
 /// The bytes of a file below tests/golden/project/.
 std::string GoldenBytes(const std::string& name);
+/// The two that most tests start from: a project with something in every field, and a new one.
+std::string Full();
+std::string Empty();
 
 Project NewProject();
 

@@ -5,17 +5,12 @@
 
 namespace quillon {
 
-using test::GoldenBytes;
+using test::Full;
 using test::ProjectOnDisk;
 using test::ValueIn;
 using test::WithValue;
 
 namespace {
-
-std::string Full()
-{
-    return GoldenBytes("full/full.qnp");
-}
 
 struct TextKey {
     const char* section;

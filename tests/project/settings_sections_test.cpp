@@ -7,6 +7,8 @@
 
 namespace quillon {
 
+using test::Empty;
+using test::Full;
 using test::GoldenBytes;
 using test::NewProject;
 using test::ProjectOnDisk;
@@ -17,16 +19,6 @@ using test::WithoutSection;
 using test::WithValue;
 
 namespace {
-
-std::string Full()
-{
-    return GoldenBytes("full/full.qnp");
-}
-
-std::string Empty()
-{
-    return GoldenBytes("empty/empty.qnp");
-}
 
 // Gives every field a value that no other field has.
 class DistinctValues {
