@@ -21,11 +21,6 @@ namespace {
 // From this many rows on the uninstaller wants the list in the order of the folders.
 constexpr std::size_t kRowsWorthSorting = 1000;
 
-Text MediumWord(Integer targetMedia)
-{
-    return std::ranges::find(kMedia, targetMedia, &Medium::TargetMedia)->word;
-}
-
 void EnableButtons(CreateForm& form, bool enabled)
 {
     form.isCmdCreateEnabled = enabled;
@@ -54,8 +49,8 @@ Step Begin(CreateRun& run)
     EnableButtons(run.form, false);
     run.DestDir = RemoveLastBackslash(run.form.tDestinationDir);
     run.ask.ClearStatusLines();
-    run.ask.AddStatusLine("** Skapar 32 bitars installationsuppsättning för " +
-                          MediumWord(run.form.TargetMedia) + " **");
+    run.ask.AddStatusLine(Text("** Skapar 32 bitars installationsuppsättning för ") +
+                          ChoiceOf(run.form.TargetMedia).word + " **");
     if (run.options.CreateZipLogFile != kOff)
         run.ask.AddStatusLine("- Loggning av komprimeringsprocessen är påkopplad");
     if (run.options.UseTempZipPath != kOff)
@@ -84,7 +79,7 @@ bool HoldsAnyFile(const FileSystem& files, const Text& folder)
 // Everything in the folder goes into the self-extracting program.
 Step ClearInternetFolder(CreateRun& run)
 {
-    if (run.form.TargetMedia != kMediaInternet)
+    if (run.form.TargetMedia != Medium::Internet)
         return Step::GoOn;
     for (const Text& name : {Text("INSTALL.ZIP"), Text("INSTALL.ADX"),
                              run.project.InstallOptionsInternet.SelfExtractFilename})
@@ -110,7 +105,7 @@ Step WriteAutorun(CreateRun& run)
 {
     if (run.project.InstallOptions.CreateAutorunFile != kOff) {
         run.ask.AddStatusLine("Skapar AUTORUN.INF");
-        WriteAutorunFile(run.host.files, run.InDestination(PackageFile::kAutorun),
+        WriteAutorunFile(run.host.files, run.InDestination(kAutorunName),
                          run.project.InstallOptions.SetupName);
     }
     return Step::GoOn;
@@ -118,12 +113,12 @@ Step WriteAutorun(CreateRun& run)
 
 void DeleteFileListFile(CreateRun& run)
 {
-    RemoveQuietly(run.host.files, run.InDestination(PackageFile::kFileList));
+    RemoveQuietly(run.host.files, run.InDestination(kFileListName));
 }
 
 void DeleteSetupInfoFile(CreateRun& run)
 {
-    RemoveQuietly(run.host.files, run.InDestination(PackageFile::kSetupInformation));
+    RemoveQuietly(run.host.files, run.InDestination(kSetupInformationName));
 }
 
 // A source that has gone ends the command, and an earlier run's QNSETUP.INF must not stay beside
@@ -138,12 +133,12 @@ Step TellMissingSource(CreateRun& run, const Text& line, const Text& title, cons
 
 Step WriteFileList(CreateRun& run)
 {
-    run.project.Media.TargetMedia = run.form.TargetMedia;
+    run.project.Media.TargetMedia = Integer(run.form.TargetMedia);
     DeleteFileListFile(run);
     run.ask.AddStatusLine("Skapar FILELIST.INF");
     FileListOutcome outcome;
-    const int error = WriteFileListFile(run.InDestination(PackageFile::kFileList), run.project,
-                                        run.host, outcome);
+    const int error =
+        WriteFileListFile(run.InDestination(kFileListName), run.project, run.host, outcome);
     run.FilesInList = outcome.FilesInList;
     run.failure = outcome.failure;
     switch (error) {
@@ -175,8 +170,8 @@ Step WriteSetupInfo(CreateRun& run)
     DeleteSetupInfoFile(run);
     run.ask.AddStatusLine("Skapar QNSETUP.INF");
     SetupInfoInput input{run.project, run.host, run.ask, run.options, run.surface, run.FilesInList};
-    const int error = WriteSetupInfoFile(run.InDestination(PackageFile::kSetupInformation), input,
-                                         SetupInfoMode::Create);
+    const int error =
+        WriteSetupInfoFile(run.InDestination(kSetupInformationName), input, SetupInfoMode::Create);
     run.failure = input.failure;
     if (error == ErrorNumber::kNone)
         return Step::GoOn;
@@ -212,25 +207,26 @@ Step BuildSelfExtractingPackage(CreateRun& run)
 Step PlaceProjectFiles(CreateRun& run)
 {
     switch (run.form.TargetMedia) {
-    case kMediaFloppy:
+    case Medium::Floppy:
         CreateFileContainer(run, true);
         return Step::GoOn;
-    case kMediaCdCompressed:
+    case Medium::CompressedCd:
         if (run.form.KeepCompressedFilesOneAndOne == 0)
             CreateFileContainer(run, false);
         else
             CopyFilesOneByOne(run);
         return Step::GoOn;
-    case kMediaInternet:
+    case Medium::Internet:
         return BuildSelfExtractingPackage(run);
-    default: // The user lays the files of a tree out.
-        return Step::GoOn;
+    case Medium::CdTree: // The user lays its files out.
+        break;
     }
+    return Step::GoOn;
 }
 
 Step TellEnd(CreateRun& run)
 {
-    if (!run.CreateFailed && run.project.Media.TargetMedia == kMediaFloppy)
+    if (!run.CreateFailed && run.form.TargetMedia == Medium::Floppy)
         run.ask.AddStatusLine(
             "Antal skapade installationsdisketter: " + NumberText(run.FloppiesUsed) + " st");
     run.ask.AddStatusLine(run.CreateFailed ? "Processen avbruten!" : "Färdig!");

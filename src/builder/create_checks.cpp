@@ -26,7 +26,7 @@ bool Holds(const Names& names, const Text& name)
 
 bool IsCd(const CreateForm& form)
 {
-    return form.TargetMedia == kMediaCdCompressed || form.TargetMedia == kMediaCdTree;
+    return form.TargetMedia == Medium::CompressedCd || form.TargetMedia == Medium::CdTree;
 }
 
 Check CheckProject(CreateRun& run)
@@ -102,8 +102,8 @@ Check CheckNotOntoCd(CreateRun& run)
 Check CheckSelfExtractIcon(CreateRun& run)
 {
     const Text& icon = run.project.InstallOptionsInternet.SelfExtractIconFilename;
-    const bool isMissing =
-        run.form.TargetMedia == kMediaInternet && !icon.empty() && !run.host.files.FileExists(icon);
+    const bool isMissing = run.form.TargetMedia == Medium::Internet && !icon.empty() &&
+                           !run.host.files.FileExists(icon);
     if (!isMissing)
         return Check::Passed;
     run.ask.Critical(
@@ -117,7 +117,7 @@ Check CheckSelfExtractIcon(CreateRun& run)
 Check CheckSelfExtractName(CreateRun& run)
 {
     const Text& name = run.project.InstallOptionsInternet.SelfExtractFilename;
-    const bool isSame = run.form.TargetMedia == kMediaInternet &&
+    const bool isSame = run.form.TargetMedia == Medium::Internet &&
                         UpperCase(run.project.InstallOptions.SetupName) == UpperCase(name);
     if (!isSame)
         return Check::Passed;
@@ -131,7 +131,7 @@ Check CheckSelfExtractName(CreateRun& run)
 
 Check CheckReservedFilenames(CreateRun& run)
 {
-    const bool besideTheRuntime = run.form.TargetMedia == kMediaCdCompressed &&
+    const bool besideTheRuntime = run.form.TargetMedia == Medium::CompressedCd &&
                                   run.form.KeepCompressedFilesOneAndOne != 0 &&
                                   run.options.PlaceCompressedFilesInFolderSetupFiles == kOff;
     const Text name = besideTheRuntime ? FindReservedFilename(run.project) : Text();
@@ -149,7 +149,7 @@ Check CheckReservedFilenames(CreateRun& run)
 
 Check CheckFirstFloppy(CreateRun& run)
 {
-    const bool goesOn = run.form.TargetMedia != kMediaFloppy ||
+    const bool goesOn = run.form.TargetMedia != Medium::Floppy ||
                         run.ask.OkCancel("Diskett", "Stoppa in diskett nr 1!");
     return goesOn ? Check::Passed : Check::Stopped;
 }
@@ -266,12 +266,12 @@ Text FindReservedFilename(const Project& project)
     const std::string_view reserved[] = {project.InstallOptions.SetupName,
                                          "QNS32X.EXE",
                                          "QNS32X.BIN",
-                                         PackageFile::kSetupInformation,
-                                         PackageFile::kFileList,
+                                         kSetupInformationName,
+                                         kFileListName,
                                          project.Language.LanguageFile,
                                          "DUNZIP32.DLL",
-                                         PackageFile::kFileContainer,
-                                         PackageFile::kDesignContainer,
+                                         kFileContainerName,
+                                         kDesignContainerName,
                                          "QNXREG2.EXE",
                                          "QNXREG2.BIN",
                                          "QNREG32.EXE",

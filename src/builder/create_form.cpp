@@ -8,13 +8,20 @@ namespace {
 
 constexpr const char* kFirstFloppyDrive = "A:\\";
 
-const Medium* FindMedium(Integer targetMedia)
+Medium MediumOfProject(const Project& project)
 {
-    const auto medium = std::ranges::find(kMedia, targetMedia, &Medium::TargetMedia);
-    return medium == kMedia.end() ? nullptr : &*medium;
+    for (const MediumChoice& choice : kMedia)
+        if (Integer(choice.medium) == project.Media.TargetMedia)
+            return choice.medium;
+    return CreateForm().TargetMedia;
 }
 
 } // namespace
+
+const MediumChoice& ChoiceOf(Medium medium)
+{
+    return *std::ranges::find(kMedia, medium, &MediumChoice::medium);
+}
 
 CreateForm OpenCreateForm(Project& project, OpenProjectState& state)
 {
@@ -26,9 +33,8 @@ CreateForm OpenCreateForm(Project& project, OpenProjectState& state)
     form.UseCompression = project.Compression.CompressFiles != kOff ? 1 : 0;
     form.KeepCompressedFilesOneAndOne = project.Compression.KeepCompressedFilesOneAndOne;
 
-    const Integer medium = project.Media.TargetMedia;
-    ClickMedium(form, FindMedium(medium) ? medium : form.TargetMedia, project, state);
-    if (medium != kMediaFloppy)
+    ClickMedium(form, MediumOfProject(project), project, state);
+    if (form.TargetMedia != Medium::Floppy)
         ChangeDestinationDir(form, project.LastDirectories.CreatationDestDir, project);
     state.ProjectIsDirty = wasDirty;
     return form;
@@ -39,26 +45,25 @@ void CloseCreateForm(const CreateForm& form, Project& project)
     project.LastDirectories.CreatationDestDir = form.tDestinationDir;
     project.Compression.CompressFiles = form.UseCompression == 1 ? kOn : kOff;
     project.Compression.KeepCompressedFilesOneAndOne = form.KeepCompressedFilesOneAndOne;
-    project.Media.TargetMedia = form.TargetMedia;
+    project.Media.TargetMedia = Integer(form.TargetMedia);
     project.OperatingSystem.TargetOperatingSystem = form.cbOS;
 }
 
-void ClickMedium(CreateForm& form, Integer targetMedia, Project& project, OpenProjectState& state)
+void ClickMedium(CreateForm& form, Medium medium, Project& project, OpenProjectState& state)
 {
-    const Medium& medium = *FindMedium(targetMedia);
-    form.TargetMedia = targetMedia;
+    const MediumChoice& choice = ChoiceOf(medium);
+    form.TargetMedia = medium;
     form.tDestinationDir =
-        medium.lastFolder ? project.LastDirectories.*medium.lastFolder : Text(kFirstFloppyDrive);
-    form.isCmdSelectDirectoryEnabled = targetMedia != kMediaFloppy;
+        choice.lastFolder ? project.LastDirectories.*choice.lastFolder : Text(kFirstFloppyDrive);
+    form.isCmdSelectDirectoryEnabled = medium != Medium::Floppy;
     state.ProjectIsDirty = kOn;
 }
 
 void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project)
 {
     form.tDestinationDir = folder;
-    const Medium& medium = *FindMedium(form.TargetMedia);
-    if (medium.lastFolder)
-        project.LastDirectories.*medium.lastFolder = folder;
+    if (const auto lastFolder = ChoiceOf(form.TargetMedia).lastFolder)
+        project.LastDirectories.*lastFolder = folder;
 }
 
 CompressOptionsForm OpenCompressOptions(const CreateForm& form)
@@ -66,8 +71,8 @@ CompressOptionsForm OpenCompressOptions(const CreateForm& form)
     CompressOptionsForm options;
     options.cUseCompression = form.UseCompression;
     ClickKeepCompressedFilesOneAndOne(options, form.KeepCompressedFilesOneAndOne);
-    options.isCKeepCompressedFilesOneAndOneEnabled = form.TargetMedia == kMediaCdCompressed;
-    if (form.TargetMedia == kMediaCdTree)
+    options.isCKeepCompressedFilesOneAndOneEnabled = form.TargetMedia == Medium::CompressedCd;
+    if (form.TargetMedia == Medium::CdTree)
         options.isCUseCompressionEnabled = false;
     return options;
 }

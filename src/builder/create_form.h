@@ -9,8 +9,8 @@
 
 namespace quillon {
 
-struct Medium {
-    Integer TargetMedia;
+struct MediumChoice {
+    Medium medium;
     const char* radioButton;
     const char* caption;
     const char* word; // in the status lines
@@ -19,13 +19,16 @@ struct Medium {
 };
 
 // clang-format off
-inline constexpr std::array<Medium, 4> kMedia{{
-    {kMediaFloppy,       "oFloppy",        "&Diskett",                "diskett",                 nullptr},
-    {kMediaCdCompressed, "oCD_Compress",   "&CD/DVD",                 "CD (komprimerat)",        &section::LastDirectories::LastDir_Create_CdCompress},
-    {kMediaCdTree,       "oCD_NoCompress", "CD/DVD (fä&rdigt träd)",  "CD (träd, okomprimerat)", &section::LastDirectories::LastDir_Create_CdTree},
-    {kMediaInternet,     "oInternet",      "&Internet",               "Internet",                &section::LastDirectories::LastDir_Create_Internet},
+inline constexpr std::array<MediumChoice, 4> kMedia{{
+    {Medium::Floppy,       "oFloppy",        "&Diskett",                "diskett",                 nullptr},
+    {Medium::CompressedCd, "oCD_Compress",   "&CD/DVD",                 "CD (komprimerat)",        &section::LastDirectories::LastDir_Create_CdCompress},
+    {Medium::CdTree,       "oCD_NoCompress", "CD/DVD (fä&rdigt träd)",  "CD (träd, okomprimerat)", &section::LastDirectories::LastDir_Create_CdTree},
+    {Medium::Internet,     "oInternet",      "&Internet",               "Internet",                &section::LastDirectories::LastDir_Create_Internet},
 }};
 // clang-format on
+
+/// What the form offers for this medium.
+const MediumChoice& ChoiceOf(Medium medium);
 
 /// The rows of `cbOS`; the place in this list is `TargetOperatingSystem`.
 inline constexpr std::array<const char*, 2> kTargetOperatingSystems{
@@ -33,7 +36,7 @@ inline constexpr std::array<const char*, 2> kTargetOperatingSystems{
 
 struct CreateForm {
     Text tDestinationDir;
-    Integer TargetMedia = kMediaCdCompressed; // the radio button that is selected
+    Medium TargetMedia = Medium::CompressedCd; // the radio button that is selected
     Integer cbOS = 0;
     Integer UseCompression = 1;               // 0 or 1
     Integer KeepCompressedFilesOneAndOne = 0; // 0 or 1
@@ -53,7 +56,7 @@ CreateForm OpenCreateForm(Project& project, OpenProjectState& state);
 void CloseCreateForm(const CreateForm& form, Project& project);
 
 /// A click on the radio button of this medium.
-void ClickMedium(CreateForm& form, Integer targetMedia, Project& project, OpenProjectState& state);
+void ClickMedium(CreateForm& form, Medium medium, Project& project, OpenProjectState& state);
 
 /// Any change of the text in `tDestinationDir`, typed or chosen.
 void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project);

@@ -3,6 +3,7 @@
 
 #include "helpers/number_text.h"
 #include "helpers/text.h"
+#include "project/project_file.h"
 
 namespace quillon {
 
@@ -25,8 +26,7 @@ inline CreateOptions DefaultCreateOptions(const Text& toolFolder)
 
 /// The setup's background as the tool shows it. These values hold where there is no window.
 struct DesignSurface {
-    int TPPX = 15; // twips to the pixel
-    int TPPY = 15;
+    ScreenMetrics screen;
     int width = 640; // pixels
     int height = 480;
 };

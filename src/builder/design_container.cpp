@@ -37,7 +37,7 @@ Step CreateDesignContainer(CreateRun& run)
     }
 
     run.ask.AddStatusLine("Kopierar och komprimerar filer");
-    const Text target = run.InDestination(PackageFile::kDesignContainer);
+    const Text target = run.InDestination(kDesignContainerName);
     RemoveQuietly(run.host.files, target);
     const Integer result = run.compression.IfcCreateDesignZipFile(target);
     run.compression.IfcFreeFileList();

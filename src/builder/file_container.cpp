@@ -53,8 +53,8 @@ void TellSuccess(CreateRun& run, bool spanning)
 void WriteFloppyCount(CreateRun& run)
 {
     run.ask.AddStatusLine("Uppdaterar QNSETUP.INF med diskettinformation");
-    WriteProfileValue(run.host.files, run.InDestination(PackageFile::kSetupInformation), "Media",
-                      "Floppies", NumberText(run.FloppiesUsed));
+    WriteProfileValue(run.host.files, run.InDestination(kSetupInformationName), "Media", "Floppies",
+                      NumberText(run.FloppiesUsed));
 }
 
 } // namespace
@@ -75,7 +75,7 @@ void CreateFileContainer(CreateRun& run, bool spanning)
         return;
 
     run.ask.AddStatusLine("Kopierar och komprimerar filer");
-    const Text target = run.InDestination(PackageFile::kFileContainer);
+    const Text target = run.InDestination(kFileContainerName);
     RemoveQuietly(run.host.files, target);
     const Integer result =
         run.compression.IfcCreateZipFile(target, spanning ? 1 : 0, ContainerPassword(run.project));
@@ -83,7 +83,7 @@ void CreateFileContainer(CreateRun& run, bool spanning)
     if (failed) {
         TellCompressionError(run.ask, "filer", result,
                              "Saknar läsrättigheter till en eller flera filer!");
-        run.ask.AddStatusLine(Text(" Kan ej skapa ") + PackageFile::kFileContainer);
+        run.ask.AddStatusLine(Text(" Kan ej skapa ") + kFileContainerName);
         run.CreateFailed = true;
     }
     run.FloppiesUsed = spanning ? run.compression.IfcGetNrFloppiesUsed() : Integer(0);

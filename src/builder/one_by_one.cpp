@@ -96,7 +96,7 @@ void CopyAllFiles(CreateRun& run, Layout& layout)
 void CopyFilesOneByOne(CreateRun& run)
 {
     const bool inSubfolder = run.options.PlaceCompressedFilesInFolderSetupFiles != kOff;
-    const Text base = inSubfolder ? run.InDestination(PackageFile::kOneByOneFolder) : run.DestDir;
+    const Text base = inSubfolder ? run.InDestination(kSetupFilesFolder) : run.DestDir;
     Layout layout{base, base};
     const auto copyAll = [&] { CopyAllFiles(run, layout); };
     if (RunErrorNumber(copyAll, run.failure) == ErrorNumber::kNone)

@@ -56,10 +56,10 @@ bool NeedsUninstaller(const Project& project)
 }
 
 // clang-format off
-constexpr ReleaseFile kUnzipLibrary          = {"DUNZIP32.DLL", PackageFile::kUnzipLibrary,         IsAlwaysNeeded};
-constexpr ReleaseFile kRegistryHelper        = {"QNREG32.EXE",  PackageFile::kRegistryHelper,       NeedsRegistryHelper};
-constexpr ReleaseFile kSecondRegistryHelper  = {"QNXREG2.EXE",  PackageFile::kSecondRegistryHelper, NeedsSecondRegistryHelper};
-constexpr ReleaseFile kUninstaller           = {"QNXUNIN.EXE",  PackageFile::kUninstaller,          NeedsUninstaller};
+constexpr ReleaseFile kUnzipLibrary          = {"DUNZIP32.DLL", kUnzipLibraryName,         IsAlwaysNeeded};
+constexpr ReleaseFile kRegistryHelper        = {"QNREG32.EXE",  kRegistryHelperName,       NeedsRegistryHelper};
+constexpr ReleaseFile kSecondRegistryHelper  = {"QNXREG2.EXE",  kSecondRegistryHelperName, NeedsSecondRegistryHelper};
+constexpr ReleaseFile kUninstaller           = {"QNXUNIN.EXE",  kUninstallerName,          NeedsUninstaller};
 // clang-format on
 
 Text ReleasePath(const CreateRun& run, const Text& name)
@@ -101,9 +101,9 @@ Step CopyRuntimeExe(CreateRun& run)
 {
     const Text name = "QNS32X.EXE";
     const bool full = UsesJpegPictures(run.project);
-    return CopyIntoPackage(run, {ReleasePath(run, (full ? "Full32\\" : "Small32\\") + name),
-                                 PackageFile::kRuntime, name,
-                                 full ? "  (Full Version)" : "  (Small Version)"});
+    return CopyIntoPackage(run,
+                           {ReleasePath(run, (full ? "Full32\\" : "Small32\\") + name),
+                            kRuntimeName, name, full ? "  (Full Version)" : "  (Small Version)"});
 }
 
 Step CopyUnzipLibrary(CreateRun& run)
@@ -131,7 +131,7 @@ Step CopyLicenseRtf(CreateRun& run)
     const Text& license = run.project.DialogBoxData.LicenseFilenameRtf;
     if (run.project.DialogBoxes.LicenseInfoRtfDlg != 1 || license.empty())
         return Step::GoOn;
-    return CopyIntoPackage(run, {license, PackageFile::kLicenseRtf, PackageFile::kLicenseRtf});
+    return CopyIntoPackage(run, {license, kLicenseRtfName, kLicenseRtfName});
 }
 
 } // namespace quillon

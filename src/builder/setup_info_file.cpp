@@ -97,9 +97,9 @@ public:
         case InfForm::AsCheckBox:
             return FlagText(value == kTicked);
         case InfForm::AsPxX:
-            return PixelText(value, in_.surface.TPPX);
+            return PixelText(value, in_.surface.screen.TPPX);
         case InfForm::AsPxY:
-            return PixelText(value, in_.surface.TPPY);
+            return PixelText(value, in_.surface.screen.TPPY);
         case InfForm::AsFloppies:
             return kFloppiesPlaceholder;
         default:

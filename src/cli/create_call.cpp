@@ -16,16 +16,16 @@ namespace {
 
 struct MediumWord {
     std::string_view word;
-    Integer targetMedia;
+    Medium medium;
 };
-constexpr std::array<MediumWord, 4> kMediumWords{{{"floppy", kMediaFloppy},
-                                                  {"cd", kMediaCdCompressed},
-                                                  {"tree", kMediaCdTree},
-                                                  {"internet", kMediaInternet}}};
+constexpr std::array<MediumWord, 4> kMediumWords{{{"floppy", Medium::Floppy},
+                                                  {"cd", Medium::CompressedCd},
+                                                  {"tree", Medium::CdTree},
+                                                  {"internet", Medium::Internet}}};
 
-Text WordOfMedium(Integer targetMedia)
+Text WordOfMedium(Medium medium)
 {
-    return Text(std::ranges::find(kMediumWords, targetMedia, &MediumWord::targetMedia)->word);
+    return Text(std::ranges::find(kMediumWords, medium, &MediumWord::medium)->word);
 }
 
 // The order is that of a user's hands: choosing a medium puts that medium's last folder into the
@@ -35,7 +35,7 @@ CreateForm FillForm(const CallContext& context, Session& session)
     const Arguments& arguments = context.arguments;
     CreateForm form = OpenCreateForm(session.project, session.state);
     if (const auto word = arguments.Value("--medium"))
-        ClickMedium(form, std::ranges::find(kMediumWords, *word, &MediumWord::word)->targetMedia,
+        ClickMedium(form, std::ranges::find(kMediumWords, *word, &MediumWord::word)->medium,
                     session.project, session.state);
     if (const auto folder = arguments.Value("--to"))
         ChangeDestinationDir(form, context.Path(*folder), session.project);
@@ -114,7 +114,7 @@ Exit CreatePackage(const CallContext& context)
         throw CallFailure{PartlyReadText(path) + " Ingen installation skapas.", Exit::Unreadable};
 
     CreateForm form = FillForm(context, session);
-    if (form.TargetMedia == kMediaInternet)
+    if (form.TargetMedia == Medium::Internet)
         throw CallFailure{"Mediet internet kan ännu ej skapas; välj floppy, cd eller tree.",
                           Exit::Stopped};
     // The steps would cut a longer one and write somewhere else.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "formats/install_row.h"
+#include "formats/package_files.h"
 #include "formats/setup_information.h"
 #include "formats/zip_reader.h"
 #include "platform/file_system.h"
@@ -12,15 +13,6 @@
 #include <vector>
 
 namespace quillon {
-
-inline constexpr const char* kFileListName = "FILELIST.INF";
-inline constexpr const char* kSetupInformationName = "QNSETUP.INF";
-inline constexpr const char* kFileContainerName = "FILEDATA.DAT";
-inline constexpr const char* kDesignContainerName = "DESOBJ.DAT";
-inline constexpr const char* kSetupFilesFolder = "SetupFiles";
-
-/// The values of `TargetMedia`.
-enum class Medium { Floppy = 1, CompressedCd = 2, CdTree = 3, Internet = 4 };
 
 /// Where the bytes of a row lie.
 struct RowBytes {

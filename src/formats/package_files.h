@@ -6,27 +6,23 @@
 
 namespace quillon {
 
-// The values of TargetMedia.
-inline constexpr Integer kMediaFloppy = 1;
-inline constexpr Integer kMediaCdCompressed = 2;
-inline constexpr Integer kMediaCdTree = 3;
-inline constexpr Integer kMediaInternet = 4;
-
-namespace PackageFile {
-inline constexpr const char* kFileList = "FILELIST.INF";
-inline constexpr const char* kSetupInformation = "QNSETUP.INF";
-inline constexpr const char* kFileContainer = "FILEDATA.DAT";
-inline constexpr const char* kDesignContainer = "DESOBJ.DAT";
-inline constexpr const char* kAutorun = "AUTORUN.INF";
-inline constexpr const char* kLicenseRtf = "LICENSE.RTF";
-// On the medium nothing but the starter looks runnable.
-inline constexpr const char* kRuntime = "QNS32X.BIN";
-inline constexpr const char* kUnzipLibrary = "DUNZIP32.DLL";
-inline constexpr const char* kRegistryHelper = "QNREG32.BIN";
-inline constexpr const char* kSecondRegistryHelper = "QNXREG2.BIN";
-inline constexpr const char* kUninstaller = "QNXUNIN.BIN";
+inline constexpr const char* kFileListName = "FILELIST.INF";
+inline constexpr const char* kSetupInformationName = "QNSETUP.INF";
+inline constexpr const char* kFileContainerName = "FILEDATA.DAT";
+inline constexpr const char* kDesignContainerName = "DESOBJ.DAT";
+inline constexpr const char* kAutorunName = "AUTORUN.INF";
+inline constexpr const char* kLicenseRtfName = "LICENSE.RTF";
 // Where files that are kept one by one lie.
-inline constexpr const char* kOneByOneFolder = "SetupFiles";
-} // namespace PackageFile
+inline constexpr const char* kSetupFilesFolder = "SetupFiles";
+
+// On the medium nothing but the starter looks runnable.
+inline constexpr const char* kRuntimeName = "QNS32X.BIN";
+inline constexpr const char* kUnzipLibraryName = "DUNZIP32.DLL";
+inline constexpr const char* kRegistryHelperName = "QNREG32.BIN";
+inline constexpr const char* kSecondRegistryHelperName = "QNXREG2.BIN";
+inline constexpr const char* kUninstallerName = "QNXUNIN.BIN";
+
+/// The values of `TargetMedia`.
+enum class Medium : Integer { Floppy = 1, CompressedCd = 2, CdTree = 3, Internet = 4 };
 
 } // namespace quillon

@@ -420,9 +420,9 @@ inline constexpr InfKey<SetupInformation> kFileListInfo[] = {
 template <class Visitor>
 void EachSettingsSection(Project& project, SetupInformation& info, Visitor& visit)
 {
-    const bool isFloppy = project.Media.TargetMedia == kMediaFloppy;
-    const bool startsProgram =
-        project.Media.TargetMedia == kMediaInternet && !project.RunAppSelfX.ProgramFilename.empty();
+    const bool isFloppy = project.Media.TargetMedia == Integer(Medium::Floppy);
+    const bool startsProgram = project.Media.TargetMedia == Integer(Medium::Internet) &&
+                               !project.RunAppSelfX.ProgramFilename.empty();
     visit("ProjectName", Keys(inf::kProjectName, project.ProjectName));
     visit("Version", Keys(inf::kVersion, project.Version),
           KeysIf(!project.Version.XProductVersionFName.empty(), inf::kXProductVersion, info));

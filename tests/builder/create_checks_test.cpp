@@ -14,7 +14,7 @@ using test::Row;
 
 namespace {
 
-constexpr Integer kAnyMedium = 0;
+constexpr Medium kAnyMedium{};
 const Text kSystemFolder = "c:\\windows\\system32\\";
 
 // A way in which Create is stopped before it begins, and the box that tells it. Cases of one check
@@ -22,7 +22,7 @@ const Text kSystemFolder = "c:\\windows\\system32\\";
 struct Refusal {
     const char* name;
     int check;
-    Integer medium;
+    Medium medium;
     void (*spoil)(CreateDesk&);
     std::vector<ExpectedBox> boxes;
 };
@@ -106,21 +106,21 @@ const std::vector<Refusal>& Refusals()
            "'Avinstallation' i dialogrutan 'Inställningar för installationsprogram'."}}},
         {"onto a CD",
          6,
-         kMediaCdCompressed,
+         Medium::CompressedCd,
          PutOntoCd,
          {{BoxKind::Critical, "Fel",
            "Du kan ej skapa direkt på en CD eller DVD-skiva från Quillon. Du måste först skapa på "
            "hårddisken och sen bränna installationen med ett CD eller DVD-brännarprogram."}}},
         {"a tree onto a CD",
          6,
-         kMediaCdTree,
+         Medium::CdTree,
          PutOntoCd,
          {{BoxKind::Critical, "Fel",
            "Du kan ej skapa direkt på en CD eller DVD-skiva från Quillon. Du måste först skapa på "
            "hårddisken och sen bränna installationen med ett CD eller DVD-brännarprogram."}}},
         {"no icon",
          7,
-         kMediaInternet,
+         Medium::Internet,
          [](CreateDesk& desk) {
              desk.project.InstallOptionsInternet.SelfExtractIconFilename = "C:\\saknas.ico";
          },
@@ -130,7 +130,7 @@ const std::vector<Refusal>& Refusals()
            "katalog eller välj en ny."}}},
         {"one name for two programs",
          7,
-         kMediaInternet,
+         Medium::Internet,
          [](CreateDesk& desk) {
              desk.project.InstallOptionsInternet.SelfExtractFilename = "Setup.exe";
          },
@@ -140,7 +140,7 @@ const std::vector<Refusal>& Refusals()
            "knappen 'Inställningar' för att ändra."}}},
         {"reserved name",
          8,
-         kMediaCdCompressed,
+         Medium::CompressedCd,
          [](CreateDesk& desk) {
              desk.form.KeepCompressedFilesOneAndOne = 1;
              desk.options.PlaceCompressedFilesInFolderSetupFiles = kOff;
@@ -154,7 +154,7 @@ const std::vector<Refusal>& Refusals()
            "filnamn."}}},
         {"no first floppy",
          9,
-         kMediaFloppy,
+         Medium::Floppy,
          [](CreateDesk&) {},
          {{BoxKind::OkCancel, "Diskett", "Stoppa in diskett nr 1!", Answer::No}}},
         {"no folder wanted",
@@ -214,7 +214,7 @@ TEST(Checks, LetTheFirstRefusalWin)
             if (!sameMedium || first.check == second.check)
                 continue;
             CreateDesk desk;
-            const Integer medium = std::max(first.medium, second.medium);
+            const Medium medium = std::max(first.medium, second.medium);
             if (medium != kAnyMedium)
                 desk.Choose(medium);
             second.spoil(desk);
@@ -424,7 +424,7 @@ TEST(Checks, TakeReservedNamesWhereFilesLieInAFolderOfTheirOwn)
 TEST(Checks, NeverQuestionTheRootOfADrive)
 {
     CreateDesk desk;
-    desk.form.TargetMedia = kMediaCdTree;
+    desk.form.TargetMedia = Medium::CdTree;
     desk.form.tDestinationDir = "C:\\";
     EXPECT_EQ(desk.Create(), CreateResult::Done);
     EXPECT_TRUE(desk.machine.files.FileExists("C:\\QNSETUP.INF"));
@@ -446,7 +446,7 @@ TEST(Checks, AskADriveForItsKindOnCdMediaAlone)
 {
     CreateDesk desk;
     desk.machine.files.driveKinds["c:\\"] = DriveKind::Cd;
-    desk.Choose(kMediaFloppy);
+    desk.Choose(Medium::Floppy);
     EXPECT_EQ(desk.Create({{BoxKind::OkCancel, "Diskett", "Stoppa in diskett nr 1!"}}),
               CreateResult::Done);
 }

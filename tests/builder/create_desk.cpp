@@ -28,7 +28,7 @@ CreateDesk::CreateDesk()
     machine.files.PutFolder("C:\\TEMP");
     machine.files.PutFolder("C:\\WINDOWS\\SYSTEM32");
     machine.files.PutFolder("C:\\Ut");
-    Choose(kMediaCdCompressed);
+    Choose(Medium::CompressedCd);
 }
 
 CreateResult CreateDesk::Create(std::deque<ExpectedBox> script)
@@ -43,9 +43,9 @@ FileListRow& CreateDesk::AddFile(const Text& name, const Text& bytes, const Text
     return project.Files.rows.back();
 }
 
-void CreateDesk::Choose(Integer targetMedia)
+void CreateDesk::Choose(Medium medium)
 {
-    form.TargetMedia = targetMedia;
+    form.TargetMedia = medium;
     form.tDestinationDir = "C:\\Ut";
 }
 

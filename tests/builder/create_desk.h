@@ -41,7 +41,7 @@ public:
     FileListRow& AddFile(const Text& name, const Text& bytes = "bytes",
                          const Text& destination = "%DESTDIR");
     /// Chooses the medium with C:\Ut as destination.
-    void Choose(Integer targetMedia);
+    void Choose(Medium medium);
     bool Has(const Text& name) const { return machine.files.FileExists("C:\\Ut\\" + name); }
     std::string Get(const Text& name) const { return machine.files.Get("C:\\Ut\\" + name); }
     /// The names of all files below C:\Ut, with their folders.

@@ -11,7 +11,7 @@ protected:
     Form()
     {
         project.LastDirectories = {"C:\\Ut", "C:\\Cd", "C:\\Trad", "C:\\Natet"};
-        project.Media.TargetMedia = kMediaCdTree;
+        project.Media.TargetMedia = Integer(Medium::CdTree);
     }
 
     Project project;
@@ -36,7 +36,7 @@ TEST_F(Form, OpensWithTheProjectsValues)
     project.Compression.CompressFiles = kOff;
     project.Compression.KeepCompressedFilesOneAndOne = 1;
     const CreateForm form = OpenCreateForm(project, state);
-    EXPECT_EQ(form.TargetMedia, kMediaCdTree);
+    EXPECT_EQ(form.TargetMedia, Medium::CdTree);
     EXPECT_EQ(form.tDestinationDir, "C:\\Ut");
     EXPECT_EQ(form.cbOS, 1);
     EXPECT_EQ(form.UseCompression, 0);
@@ -47,7 +47,7 @@ TEST_F(Form, OpensWithTheProjectsValues)
 
 TEST_F(Form, OpensOnTheFirstFloppyDrive)
 {
-    project.Media.TargetMedia = kMediaFloppy;
+    project.Media.TargetMedia = Integer(Medium::Floppy);
     const CreateForm form = OpenCreateForm(project, state);
     EXPECT_EQ(form.tDestinationDir, "A:\\");
     EXPECT_FALSE(form.isCmdSelectDirectoryEnabled);
@@ -74,7 +74,7 @@ TEST_F(Form, OpensOnTheCdForAProjectThatNamesNoMedium)
 {
     for (const Integer medium : std::initializer_list<Integer>{0, 5, -1}) {
         project.Media.TargetMedia = medium;
-        EXPECT_EQ(OpenCreateForm(project, state).TargetMedia, kMediaCdCompressed);
+        EXPECT_EQ(OpenCreateForm(project, state).TargetMedia, Medium::CompressedCd);
     }
 }
 
@@ -90,13 +90,13 @@ TEST_F(Form, PutsItsChoicesBackWhenItCloses)
 {
     CreateForm form = OpenCreateForm(project, state);
     form.tDestinationDir = "D:\\Nytt";
-    form.TargetMedia = kMediaInternet;
+    form.TargetMedia = Medium::Internet;
     form.cbOS = 1;
     form.UseCompression = 0;
     form.KeepCompressedFilesOneAndOne = 1;
     CloseCreateForm(form, project);
     EXPECT_EQ(project.LastDirectories.CreatationDestDir, "D:\\Nytt");
-    EXPECT_EQ(project.Media.TargetMedia, kMediaInternet);
+    EXPECT_EQ(project.Media.TargetMedia, Integer(Medium::Internet));
     EXPECT_EQ(project.OperatingSystem.TargetOperatingSystem, 1);
     EXPECT_EQ(project.Compression.CompressFiles, kOff);
     EXPECT_EQ(project.Compression.KeepCompressedFilesOneAndOne, 1);
@@ -108,16 +108,16 @@ TEST_F(Form, PutsItsChoicesBackWhenItCloses)
 TEST_F(Form, ShowsEachMediumsLastFolder)
 {
     CreateForm form = OpenCreateForm(project, state);
-    const std::pair<Integer, const char*> cases[] = {{kMediaFloppy, "A:\\"},
-                                                     {kMediaCdCompressed, "C:\\Cd"},
-                                                     {kMediaCdTree, "C:\\Ut"},
-                                                     {kMediaInternet, "C:\\Natet"}};
+    const std::pair<Medium, const char*> cases[] = {{Medium::Floppy, "A:\\"},
+                                                    {Medium::CompressedCd, "C:\\Cd"},
+                                                    {Medium::CdTree, "C:\\Ut"},
+                                                    {Medium::Internet, "C:\\Natet"}};
     for (const auto& [medium, folder] : cases) {
         state.ProjectIsDirty = kOff;
         ClickMedium(form, medium, project, state);
         EXPECT_EQ(form.TargetMedia, medium);
         EXPECT_EQ(form.tDestinationDir, folder);
-        EXPECT_EQ(form.isCmdSelectDirectoryEnabled, medium != kMediaFloppy);
+        EXPECT_EQ(form.isCmdSelectDirectoryEnabled, medium != Medium::Floppy);
         EXPECT_EQ(state.ProjectIsDirty, kOn);
     }
 }
@@ -125,11 +125,11 @@ TEST_F(Form, ShowsEachMediumsLastFolder)
 TEST_F(Form, KeepsATypedFolderForItsMedium)
 {
     CreateForm form = OpenCreateForm(project, state);
-    ClickMedium(form, kMediaInternet, project, state);
+    ClickMedium(form, Medium::Internet, project, state);
     ChangeDestinationDir(form, "D:\\X", project);
     EXPECT_EQ(project.LastDirectories.LastDir_Create_Internet, "D:\\X");
 
-    ClickMedium(form, kMediaFloppy, project, state);
+    ClickMedium(form, Medium::Floppy, project, state);
     ChangeDestinationDir(form, "B:\\", project);
     EXPECT_EQ(form.tDestinationDir, "B:\\");
     const section::LastDirectories& last = project.LastDirectories;
@@ -139,7 +139,7 @@ TEST_F(Form, KeepsATypedFolderForItsMedium)
 }
 
 struct CompressCase {
-    Integer medium;
+    Medium medium;
     Integer keep;
     bool useEnabled;
     bool keepEnabled;
@@ -149,17 +149,17 @@ struct CompressCase {
 TEST(CompressOptions, EnablesByMediumAndChoice)
 {
     const CompressCase cases[] = {
-        {kMediaFloppy, 0, true, false, 1},      {kMediaFloppy, 1, false, false, 0},
-        {kMediaCdCompressed, 0, true, true, 1}, {kMediaCdCompressed, 1, false, true, 0},
-        {kMediaCdTree, 0, false, false, 1},     {kMediaCdTree, 1, false, false, 0},
-        {kMediaInternet, 0, true, false, 1},    {kMediaInternet, 1, false, false, 0},
+        {Medium::Floppy, 0, true, false, 1},      {Medium::Floppy, 1, false, false, 0},
+        {Medium::CompressedCd, 0, true, true, 1}, {Medium::CompressedCd, 1, false, true, 0},
+        {Medium::CdTree, 0, false, false, 1},     {Medium::CdTree, 1, false, false, 0},
+        {Medium::Internet, 0, true, false, 1},    {Medium::Internet, 1, false, false, 0},
     };
     for (const CompressCase& expected : cases) {
         CreateForm form;
         form.TargetMedia = expected.medium;
         form.KeepCompressedFilesOneAndOne = expected.keep;
         const CompressOptionsForm options = OpenCompressOptions(form);
-        EXPECT_EQ(options.isCUseCompressionEnabled, expected.useEnabled) << expected.medium;
+        EXPECT_EQ(options.isCUseCompressionEnabled, expected.useEnabled) << int(expected.medium);
         EXPECT_EQ(options.isCKeepCompressedFilesOneAndOneEnabled, expected.keepEnabled);
         EXPECT_EQ(options.cUseCompression, expected.use);
         EXPECT_EQ(options.cKeepCompressedFilesOneAndOne, expected.keep);

@@ -3,6 +3,7 @@
 #include "create_desk.h"
 #include "formats/install_row.h"
 #include "formats/setup_information.h"
+#include "formats/zip_reader.h"
 #include "support/golden.h"
 
 #include <gmock/gmock.h>
@@ -87,7 +88,7 @@ TEST(RunCreate, TellsEveryStepOfATree)
 {
     CreateDesk desk;
     AskForEverything(desk);
-    desk.Choose(kMediaCdTree);
+    desk.Choose(Medium::CdTree);
     EXPECT_EQ(desk.Create(), CreateResult::Done);
     EXPECT_THAT(
         desk.statusLines,
@@ -105,7 +106,7 @@ TEST(RunCreate, TellsEveryStepOfFloppies)
 {
     CreateDesk desk;
     AskForEverything(desk);
-    desk.Choose(kMediaFloppy);
+    desk.Choose(Medium::Floppy);
     EXPECT_EQ(desk.Create({kFirstDisk}), CreateResult::Done);
     EXPECT_THAT(
         desk.statusLines,
@@ -124,7 +125,7 @@ TEST(RunCreate, TellsEveryStepOfFloppies)
 TEST(RunCreate, TellsWhatTheInternetMediumLacks)
 {
     CreateDesk desk;
-    desk.Choose(kMediaInternet);
+    desk.Choose(Medium::Internet);
     desk.project.RunAppSelfX.ProgramFilename = "C:\\Data\\starta.exe";
     desk.machine.files.Put("C:\\Data\\starta.exe", "start");
     EXPECT_EQ(desk.Create(), CreateResult::Failed);
@@ -148,7 +149,7 @@ TEST(RunCreate, TellsWhatTheInternetMediumLacks)
 TEST(RunCreate, IgnoresAProgramThatCannotBeCopiedForTheInternet)
 {
     CreateDesk desk;
-    desk.Choose(kMediaInternet);
+    desk.Choose(Medium::Internet);
     desk.project.RunAppSelfX.ProgramFilename = "C:\\Data\\saknas.exe";
     EXPECT_EQ(desk.Create(), CreateResult::Failed);
     EXPECT_EQ(desk.statusLines.back(), "Kan ej skapa SELF.EXE!");
@@ -157,7 +158,7 @@ TEST(RunCreate, IgnoresAProgramThatCannotBeCopiedForTheInternet)
 TEST(RunCreate, ClearsTheInternetFolderAndAsksForTheRest)
 {
     CreateDesk desk;
-    desk.Choose(kMediaInternet);
+    desk.Choose(Medium::Internet);
     for (const char* name : {"INSTALL.ZIP", "INSTALL.ADX", "self.exe", "kvar.txt"})
         desk.machine.files.Put(Text("C:\\Ut\\") + name, "old");
     const ExpectedBox notEmpty{
@@ -181,7 +182,7 @@ TEST(RunCreate, ClearsTheInternetFolderAndAsksForTheRest)
 TEST(RunCreate, DoesNotAskForAnInternetFolderThatHoldsFoldersAlone)
 {
     CreateDesk desk;
-    desk.Choose(kMediaInternet);
+    desk.Choose(Medium::Internet);
     desk.machine.files.PutFolder("C:\\Ut\\mapp");
     EXPECT_EQ(desk.Create(), CreateResult::Failed);
 }
@@ -222,12 +223,13 @@ TEST(RunCreate, ClearsTheStatusListWhenItBegins)
 
 TEST(RunCreate, WritesAutorunOnEveryMedium)
 {
-    for (const Integer medium : {kMediaFloppy, kMediaCdCompressed, kMediaCdTree, kMediaInternet}) {
+    for (const Medium medium :
+         {Medium::Floppy, Medium::CompressedCd, Medium::CdTree, Medium::Internet}) {
         CreateDesk desk;
         desk.Choose(medium);
         desk.project.InstallOptions.CreateAutorunFile = kOn;
         desk.project.InstallOptions.SetupName = "INSTALL.EXE";
-        if (medium == kMediaFloppy)
+        if (medium == Medium::Floppy)
             (void)desk.Create({kFirstDisk});
         else
             (void)desk.Create();
@@ -239,12 +241,12 @@ TEST(RunCreate, WritesAutorunOnEveryMedium)
 TEST(RunCreate, KeepsWhatTheFormChose)
 {
     CreateDesk desk;
-    desk.Choose(kMediaCdTree);
+    desk.Choose(Medium::CdTree);
     desk.form.cbOS = 1;
     desk.form.UseCompression = 0;
     desk.project.InstallOptions.DontInstallSysFilesOnNewWin = kOff;
     EXPECT_EQ(desk.Create(), CreateResult::Done);
-    EXPECT_EQ(desk.project.Media.TargetMedia, kMediaCdTree);
+    EXPECT_EQ(desk.project.Media.TargetMedia, Integer(Medium::CdTree));
     EXPECT_EQ(desk.project.OperatingSystem.TargetOperatingSystem, 1);
     EXPECT_EQ(desk.project.InstallOptions.DontInstallSysFilesOnNewWin, kOn);
     EXPECT_EQ(desk.project.Compression.CompressFiles, kOff);
@@ -321,7 +323,7 @@ TEST_P(ManyFiles, AreSortedByFolderForTheUninstallerFrom1000On)
 
 TEST_P(ManyFiles, KeepTheUsersOrderWithoutUninstaller)
 {
-    desk.Choose(kMediaCdTree);
+    desk.Choose(Medium::CdTree);
     EXPECT_EQ(desk.Create(), CreateResult::Done);
     EXPECT_EQ(desk.project.Files.rows.front()[Filename], "a.txt");
     EXPECT_EQ(desk.statusLines[1], "Kopierar SETUP.EXE");
@@ -439,7 +441,7 @@ TEST(RunCreate, SaysThatAFailedCompressionBrokeItOff)
 TEST(RunCreate, TellsNoFloppyCountAfterAFailedCompression)
 {
     CreateDesk desk;
-    desk.Choose(kMediaFloppy);
+    desk.Choose(Medium::Floppy);
     desk.machine.files.At("C:\\Data\\a.txt").unreadable = true;
     EXPECT_EQ(desk.Create({kFirstDisk}), CreateResult::Failed);
     EXPECT_EQ(desk.statusLines[desk.statusLines.size() - 2],
@@ -461,9 +463,57 @@ TEST(RunCreate, OverwritesThePackageOfAnEarlierRun)
         EXPECT_EQ(desk.Get(name).find("xxxx"), Text::npos) << name;
 }
 
+TEST(RunCreate, EndsAtANameThatTheCodePageLacks)
+{
+    CreateDesk desk;
+    desk.AddFile("смета.txt");
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines.back(), "Fel #52 inträffade när FILELIST.INF skulle skapas.");
+    EXPECT_EQ(desk.failure->Path(), "смета.txt");
+    EXPECT_FALSE(desk.Has("FILEDATA.DAT"));
+}
+
+TEST(RunCreate, EndsAtADestinationThatIsReadOnly)
+{
+    CreateDesk desk;
+    AskForEverything(desk);
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    const std::vector<Text> before = desk.Package();
+    for (const Text& name : before)
+        desk.machine.files.RefuseOutput("C:\\Ut\\" + name, 75);
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_THAT(desk.statusLines,
+                ElementsAre("** Skapar 32 bitars installationsuppsättning för CD (komprimerat) **",
+                            "Kopierar SETUP.EXE", "Fel! Kan ej kopiera SETUP.EXE!"));
+    EXPECT_EQ(desk.failure->Number(), 75);
+    EXPECT_THAT(desk.Package(), ElementsAreArray(before));
+}
+
+TEST(RunCreate, EndsAtAFullFloppy)
+{
+    CreateDesk desk;
+    desk.Choose(Medium::Floppy);
+    desk.form.tDestinationDir = "A:\\";
+    desk.machine.files.capacities["a:\\"] = 0;
+    EXPECT_EQ(desk.Create({kFirstDisk}), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines.back(), "Fel! Kan ej kopiera SETUP.EXE!");
+    EXPECT_EQ(desk.failure->Number(), 61);
+}
+
+TEST(RunCreate, StoresOneSourceOfTwoRowsOnce)
+{
+    CreateDesk desk;
+    desk.project.Files.rows.push_back(
+        test::Row("kopia.txt", "%DESTDIR\\Doc", "c:\\data\\..\\data\\a.txt"));
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    const ZipReader container(desk.machine.files.OpenInput("C:\\Ut\\FILEDATA.DAT"));
+    ASSERT_EQ(container.Entries().size(), 1u);
+    EXPECT_EQ(container.Entries()[0].comment, "F1 F2");
+}
+
 // Each write of a run fails once, from the first to the last: the run ends as a failure, says so,
 // and asks nothing but what it would ask anyway.
-class FullDisk : public testing::TestWithParam<Integer> {};
+class FullDisk : public testing::TestWithParam<Medium> {};
 
 TEST_P(FullDisk, EndsEveryRunAsAFailure)
 {
@@ -505,7 +555,7 @@ TEST_P(FullDisk, EndsEveryRunAsAFailure)
 }
 
 INSTANTIATE_TEST_SUITE_P(RunCreate, FullDisk,
-                         testing::Values(kMediaFloppy, kMediaCdCompressed, kMediaCdTree));
+                         testing::Values(Medium::Floppy, Medium::CompressedCd, Medium::CdTree));
 
 TEST(RunCreate, GivesTheSamePackageTwiceButForTheScrambledPassword)
 {

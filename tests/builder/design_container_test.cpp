@@ -127,7 +127,6 @@ TEST_F(DesignContainer, GoesOnAfterAFailureThatItDoesNotTell)
 TEST_F(DesignContainer, IsNoWholePackageAfterSuchAFailure)
 {
     desk.AddFile("a.txt");
-    desk.project.Media.TargetMedia = kMediaCdCompressed;
     desk.project.Files.rows[0][IconMarker] = "Ikon";
     desk.machine.files.Put("C:\\Data\\licens.rtf", "{\\rtf1}");
     desk.machine.files.Put("C:\\Quillon\\Language\\ENGLISH.LNG", "");

@@ -139,7 +139,7 @@ TEST_F(OneByOne, TakesThePlaceOfTheContainerOnACompressedCdAlone)
 
 TEST_F(OneByOne, OnlyClearsTheCompressionOnFloppies)
 {
-    desk.Choose(kMediaFloppy);
+    desk.Choose(Medium::Floppy);
     desk.form.UseCompression = 1;
     EXPECT_EQ(desk.Create({{test::BoxKind::OkCancel, "Diskett"}}), CreateResult::Done);
     EXPECT_FALSE(desk.machine.files.DirExists("C:\\Ut\\SetupFiles"));

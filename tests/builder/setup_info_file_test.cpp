@@ -236,8 +236,8 @@ TEST_F(WriteSetupInfo, ScramblesThePasswordByTheClock)
 
 TEST_F(WriteSetupInfo, RoundsPixelsHalfwayToTheEvenNeighbour)
 {
-    surface.TPPX = 12;
-    surface.TPPY = 20;
+    surface.screen.TPPX = 12;
+    surface.screen.TPPY = 20;
     project.DesTextBox.BoxXPos = 18;
     project.DesTextBox.BoxYPos = 30;
     EXPECT_TRUE(Holds(Written(), "BoxXPos = 2\r\nBoxYPos = 2\r\n"));

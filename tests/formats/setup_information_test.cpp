@@ -1,6 +1,7 @@
 #include "formats/setup_information.h"
 
 #include "formats/scramble.h"
+#include "support/golden.h"
 
 #include <gtest/gtest.h>
 
@@ -46,6 +47,15 @@ TEST(ReadSetupInformation, IsNotWholeWithAListThatDoesNotEnd)
     EXPECT_TRUE(ReadSections("[Registry]\r\n\r\n....\r\n\r\n").isWhole);
     EXPECT_FALSE(ReadSections("[Registry]\r\n\r\n\r\n").isWhole);
     EXPECT_FALSE(ReadSections("[INIFiles]\r\n>a\r\n").isWhole);
+}
+
+TEST(ReadSetupInformation, IsNotWholeWhereverTheFileIsCut)
+{
+    const std::string whole = test::GoldenFile("builder/full_project/QNSETUP.INF");
+    const std::size_t lastMark = whole.find("-(EOF)-") + 7;
+    for (std::size_t length = 0; length < lastMark; ++length)
+        ASSERT_FALSE(ReadSetupInformation(whole.substr(0, length)).isWhole) << length;
+    EXPECT_TRUE(ReadSetupInformation(whole.substr(0, lastMark)).isWhole);
 }
 
 TEST(ReadSetupInformation, TakesAValueAsItStands)
