@@ -87,18 +87,23 @@ void ExpectOtherProgramsTest(const std::string& archive, const std::string& pass
     EXPECT_EQ(byUnzip.exitCode, 0) << byUnzip.output;
 }
 
-std::string UnpackBy7z(const std::string& archive, const std::string& entry,
-                       const std::string& password)
+std::map<std::string, std::string> UnpackBy7z(const std::string& archive,
+                                              const std::string& password)
 {
     const TemporaryFolder folder;
-    const std::string path = folder.Put("a.zip", archive);
-    const std::string command = "LC_ALL=C.UTF-8 7z x -y '-p" + password + "' -o" + folder.Path() +
-                                "/out " + path + " '" + entry + "'";
-    const Outcome unpacked = RunCommand(command);
+    const std::string target = folder.Path() + "/out/";
+    const Outcome unpacked = RunCommand("LC_ALL=C.UTF-8 7z x -y '-p" + password + "' -o" + target +
+                                        " " + folder.Put("a.zip", archive));
     EXPECT_EQ(unpacked.exitCode, 0) << unpacked.output;
-    std::ifstream file(folder.Path() + "/out/" + entry, std::ios::binary);
-    EXPECT_TRUE(file.is_open()) << entry << "\n" << unpacked.output;
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::map<std::string, std::string> contents;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(target)) {
+        if (!entry.is_regular_file())
+            continue;
+        std::ifstream file(entry.path(), std::ios::binary);
+        contents[entry.path().string().substr(target.size())] = {
+            std::istreambuf_iterator<char>(file), {}};
+    }
+    return contents;
 }
 
 ZipReader OpenArchive(const std::string& archive)

@@ -36,9 +36,9 @@ Outcome RunCommand(const std::string& command);
 /// knows no AES.
 void ExpectOtherProgramsTest(const std::string& archive, const std::string& password = {});
 
-/// The contents of an entry as 7z unpacks it.
-std::string UnpackBy7z(const std::string& archive, const std::string& entry,
-                       const std::string& password = {});
+/// All entries as 7z unpacks them, by name.
+std::map<std::string, std::string> UnpackBy7z(const std::string& archive,
+                                              const std::string& password = {});
 
 ZipReader OpenArchive(const std::string& archive);
 
