@@ -132,7 +132,7 @@ Exit CreatePackage(const CallContext& context)
                   .ask = ask,
                   .compression = compression};
     const CreateResult result = RunCreate(run);
-    if (result == CreateResult::Done && form.TargetMedia == kMediaFloppy)
+    if (result == CreateResult::Done && form.TargetMedia == Medium::Floppy)
         disks.RemoveDisksBehind(run.FloppiesUsed);
     return Tell(context, ask, run, result);
 }
