@@ -7,7 +7,6 @@
 #include "project/file_list.h"
 
 #include <algorithm>
-#include <charconv>
 #include <map>
 
 namespace quillon {
@@ -17,12 +16,6 @@ namespace {
 Medium MediumOf(const SetupInformation& setup)
 {
     return static_cast<Medium>(setup.project.Media.TargetMedia);
-}
-
-bool KeepsFilesOneByOne(const SetupInformation& setup)
-{
-    return MediumOf(setup) == Medium::CompressedCd &&
-           setup.project.Compression.KeepCompressedFilesOneAndOne != 0;
 }
 
 Text FailureText(const RunError& error)
@@ -157,51 +150,6 @@ void FindBytesOfRows(const FileSystem& files, Package& package)
 }
 
 } // namespace
-
-bool UsesContainer(const SetupInformation& setup)
-{
-    return MediumOf(setup) != Medium::CdTree && !KeepsFilesOneByOne(setup);
-}
-
-std::vector<int> RowNumbers(std::string_view comment)
-{
-    std::vector<int> numbers;
-    while (!comment.empty()) {
-        const std::string_view word = comment.substr(0, comment.find(' '));
-        comment.remove_prefix(std::min(word.size() + 1, comment.size()));
-        int number = 0;
-        const char* const end = word.data() + word.size();
-        const bool isKey =
-            word.starts_with('F') && std::from_chars(word.data() + 1, end, number).ptr == end;
-        numbers.push_back(isKey ? number : 0);
-    }
-    return numbers;
-}
-
-Text LooseFilePath(const Text& packageFolder, const SetupInformation& setup, const InstallRow& row)
-{
-    if (MediumOf(setup) == Medium::CdTree)
-        return JoinPath(JoinPath(packageFolder, row.sourceFolder), row.name);
-
-    const bool hasOwnFolder = setup.PlaceCompressedFilesInFolderSetupFiles != kOff;
-    const Text base = hasOwnFolder ? JoinPath(packageFolder, kSetupFilesFolder) : packageFolder;
-    if (setup.CreateFolderStructureInFolderSetupFiles == kOff)
-        return JoinPath(base, row.name + "_");
-    Text folder = RemoveLastBackslash(row.destination);
-    if (folder.starts_with('%'))
-        folder.erase(0, 1);
-    return JoinPath(JoinPath(base, folder), row.name);
-}
-
-bool MayLackSource(const InstallRow& row)
-{
-    return row.size == 0 && row.sourceFolder.empty();
-}
-
-Text DiskFolder(const Text& packageFolder, int disk)
-{
-    return disk == 1 ? packageFolder : JoinPath(packageFolder, "disk" + NumberText(disk));
-}
 
 Package OpenPackage(const FileSystem& files, const Text& folder)
 {

@@ -167,8 +167,6 @@ void CheckAuthentication(InputFile& archive, const Data& data, EntryCipher& ciph
 
 } // namespace
 
-ZipError::ZipError(Kind kind, Text what) : kind_(kind), what_(std::move(what)) {}
-
 struct ZipReader::State {
     std::unique_ptr<InputFile> archive;
     Directory directory;

@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace quillon {
@@ -38,7 +39,7 @@ public:
     enum class Kind { NotAnArchive, Damaged, WrongPassword, Unsupported };
 
     /// `what` says in English what was wrong, for a log.
-    ZipError(Kind kind, Text what);
+    ZipError(Kind kind, Text what) : kind_(kind), what_(std::move(what)) {}
 
     Kind Reason() const { return kind_; }
     const char* what() const noexcept override { return what_.c_str(); }
