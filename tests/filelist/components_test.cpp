@@ -17,6 +17,13 @@ TEST(ComponentListEntries, KeepTheNumbersOfTheComponentsInUse)
     project.FileComponents[4].Comp = 1;
     EXPECT_THAT(ComponentListEntries(project),
                 ElementsAre("Ingen komponent", "Komponent nr 2 - 'Hjälp'", "Komponent nr 5 - ''"));
+
+    for (section::FileComponent& component : project.FileComponents)
+        component = {.Comp = 1, .CompName = "x"};
+    const std::vector<Text> entries = ComponentListEntries(project);
+    ASSERT_EQ(entries.size(), 10U);
+    EXPECT_EQ(entries[1], "Komponent nr 1 - 'x'");
+    EXPECT_EQ(entries[9], "Komponent nr 9 - 'x'");
 }
 
 TEST(ListEntry, GivesDestinationAndNumberOfEachComponent)
