@@ -42,6 +42,15 @@ int MakeProject(const char* folder, const char* projectFile)
     Project project;
     OpenProjectState state;
     ResetToNewProject(project, state, "C:\\Quillon");
+    // The pictures of the setup's dialogs lie beside the tool, and this program is none.
+    project.DialogBoxes.DlgBitmap.clear();
+    for (Text section::DialogBoxData::*picture :
+         {&section::DialogBoxData::WelcomeDlgBitmap, &section::DialogBoxData::GeneralDlgBitmap,
+          &section::DialogBoxData::GeneralDlgBitmap2,
+          &section::DialogBoxData::StartInstallDlgBitmap,
+          &section::DialogBoxData::InstallCompleteDlgBitmap,
+          &section::DialogBoxData::NameCompanyDlgBitmap})
+        (project.DialogBoxData.*picture).clear();
     project.ProjectName.ProjectName = "Mätning";
     project.InstallDirectories.DestinationDirectory = "%PROGRAMFILES\\Matning";
     project.Files.sorted = false; // a tree keeps the order in which it was walked
