@@ -10,6 +10,10 @@ find_program(QUILLON_CCACHE ccache)
 if(QUILLON_CCACHE)
   set(CMAKE_C_COMPILER_LAUNCHER ${QUILLON_CCACHE})
   set(CMAKE_CXX_COMPILER_LAUNCHER ${QUILLON_CCACHE})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Without this ccache keeps nothing that is compiled with a precompiled header.
+    add_compile_options(-fpch-preprocess)
+  endif()
 endif()
 
 add_library(quillon_options INTERFACE)

@@ -2,11 +2,12 @@
 # shellcheck shell=bash
 
 BUILD_PACKAGES=(
-    ca-certificates ccache cmake g++ libdeflate-dev libssl-dev ninja-build nlohmann-json3-dev zlib1g-dev
+    ca-certificates ccache cmake g++ libbenchmark-dev libdeflate-dev libgmock-dev libgtest-dev
+    libssl-dev ninja-build nlohmann-json3-dev zlib1g-dev
     g++-mingw-w64-i686 g++-mingw-w64-x86-64 libz-mingw-w64-dev
 )
 TEST_PACKAGES=(
-    clang libbenchmark-dev libclang-rt-14-dev libgmock-dev libgtest-dev
+    clang libclang-rt-14-dev
     debootstrap p7zip-full procps unzip wine64 zip
 )
 
@@ -35,14 +36,22 @@ install_packages() {
         apt-get install -q -y --no-install-recommends "${missing[@]}"
 }
 
-# build PRESET: configures and builds; the wall of compiler lines is kept for a failure.
+# What was compiled in one checkout serves the next one too.
+export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1
+export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_ctime,include_file_mtime
+
+# build PRESET [TARGET...]: configures and builds; the wall of compiler lines is kept for a failure.
 build() {
-    local log="build/$1.log"
+    local preset="$1" log="build/$1.log"
+    shift
+    local targets=()
+    [ $# -gt 0 ] && targets=(--target "$@")
     mkdir -p build
-    echo "Building $1 ..."
-    if ! { cmake --preset "$1" && cmake --build --preset "$1"; } >"$log" 2>&1; then
+    echo "Building $preset ..."
+    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" "${targets[@]}"; } \
+        >"$log" 2>&1; then
         tail -n 60 "$log"
-        echo "The build of $1 failed; all of its output is in $log." >&2
+        echo "The build of $preset failed; all of its output is in $log." >&2
         return 1
     fi
 }
