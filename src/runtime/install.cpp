@@ -9,8 +9,6 @@
 #include "runtime/planned_shortcuts.h"
 #include "runtime/uninstall_entry.h"
 
-#include <algorithm>
-
 namespace quillon {
 
 namespace {
@@ -111,10 +109,7 @@ void Installation::DeleteOldProgramGroup()
         return;
     for (const FolderEntry& entry : input_.host.files.List(group)) {
         const Text path = JoinPath(group, entry.name);
-        if (entry.facts.isFolder ||
-            !EqualIgnoreCase(
-                entry.name.substr(entry.name.size() - std::min<std::size_t>(4, entry.name.size())),
-                ".lnk"))
+        if (entry.facts.isFolder || !LowerCase(entry.name).ends_with(".lnk"))
             continue;
         changes_.RemoveFile(path);
         input_.log.Line("Tar bort den gamla genvägen " + path);
