@@ -1,6 +1,6 @@
 // Reads the packages' containers, which are ordinary ZIP files: stored and deflated entries, ZIP64,
 // UTF-8 names, WinZip AES-256 (AE-1 and AE-2). The source of the format is PKWARE's APPNOTE.TXT
-// 6.3.x and WinZip's AES specification. An archive is never trusted: every length and offset is
+// 6.3.x and WinZip's paper on its AES. An archive is never trusted: every length and offset is
 // checked against the file before it is used.
 #pragma once
 
