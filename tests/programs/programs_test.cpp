@@ -2,6 +2,7 @@
 // disk beside a product's own first piece.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -82,6 +83,9 @@ TEST(SetupRuntime, LeavesRoomOnTheFirstDisk)
     std::uintmax_t sum = 0;
     for (const char* name : kPrograms)
         sum += fs::file_size(kRelease32 / name);
+    // A package carries one of the two versions.
+    sum -= std::min(fs::file_size(kRelease32 / "Small32/QNS32X.EXE"),
+                    fs::file_size(kRelease32 / "Full32/QNS32X.EXE"));
     EXPECT_GT(sum, 0U);
     EXPECT_LT(sum, kRoomForAll);
 }

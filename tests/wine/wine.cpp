@@ -171,15 +171,31 @@ WinePrefix::~WinePrefix()
 
 unsigned WinePrefix::Run(const std::string& program, const std::string& arguments) const
 {
+    return RunCommandLine('"' + program + '"' + (arguments.empty() ? "" : ' ' + arguments));
+}
+
+unsigned WinePrefix::RunCommandLine(const std::string& command) const
+{
     const fs::path file = folder_ / "command";
     const fs::path code = folder_ / "command.code";
     fs::remove(code);
-    const std::string command = '"' + program + '"' + (arguments.empty() ? "" : ' ' + arguments);
     std::ofstream(file, std::ios::binary) << command;
     const ProgramResult result = RunWine(folder_, {OnZ(WorkFolder() / "runner.exe"), OnZ(file)});
     EXPECT_TRUE(fs::exists(code)) << command << " did not run:\n" << result.output;
     const std::string text = ReadFile(code);
     return text.empty() ? ~0U : static_cast<unsigned>(std::stoul(text));
+}
+
+void WinePrefix::WaitForAll() const
+{
+    RunWine(folder_, {"wineserver", "-w"});
+}
+
+void WinePrefix::Restart() const
+{
+    WaitForAll();
+    const ProgramResult started = RunWine(folder_, {"wineboot"});
+    EXPECT_EQ(started.exitCode, 0) << started.output;
 }
 
 void WinePrefix::Stop() const

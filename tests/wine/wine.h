@@ -36,6 +36,13 @@ public:
     /// line. Fails the test where the program can't be started.
     unsigned Run(const std::string& program, const std::string& arguments = {}) const;
 
+    /// A whole command line, as the system's list of installed programs keeps one.
+    unsigned RunCommandLine(const std::string& commandLine) const;
+
+    /// Starts the machine anew, which removes what could not go while it ran.
+    void Restart() const;
+    /// Waits until every program in the prefix has ended by itself.
+    void WaitForAll() const;
     /// Ends the server, which only then writes the registry.
     void Stop() const;
 

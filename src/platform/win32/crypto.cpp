@@ -1,5 +1,7 @@
-// The primitives by CryptoAPI, which every Windows since XP has.
+// AES by CryptoAPI, which every Windows since XP has; the codes by a SHA-1 of our own.
 #include "platform/crypto.h"
+
+#include "platform/win32/sha1.h"
 
 #include <algorithm>
 #include <cassert>
@@ -42,49 +44,13 @@ private:
     HCRYPTPROV handle_ = 0;
 };
 
-class Sha1 {
-public:
-    explicit Sha1(const Provider& provider)
-    {
-        Demand(CryptCreateHash(provider.Get(), CALG_SHA1, 0, 0, &hash_));
-    }
-    // A copy goes on from where the original stands.
-    Sha1(const Sha1& other) { Demand(CryptDuplicateHash(other.hash_, nullptr, 0, &hash_)); }
-    Sha1& operator=(const Sha1&) = delete;
-    ~Sha1() { CryptDestroyHash(hash_); }
-
-    void Add(std::span<const std::byte> bytes)
-    {
-        while (!bytes.empty()) {
-            const std::size_t piece = std::min<std::size_t>(bytes.size(), 1U << 30U);
-            Demand(CryptHashData(hash_, reinterpret_cast<const BYTE*>(bytes.data()),
-                                 static_cast<DWORD>(piece), 0));
-            bytes = bytes.subspan(piece);
-        }
-    }
-
-    Digest Finish()
-    {
-        Digest digest;
-        DWORD size = kSha1Size;
-        Demand(
-            CryptGetHashParam(hash_, HP_HASHVAL, reinterpret_cast<BYTE*>(digest.data()), &size, 0));
-        return digest;
-    }
-
-private:
-    HCRYPTHASH hash_ = 0;
-};
-
-// The two digests of an HMAC (RFC 2104), each with its padded key already in it. The system's own
-// HMAC wants its key imported each time, which a thousand rounds would feel.
+// The two digests of an HMAC (RFC 2104), each with its padded key already in it.
 struct Keyed {
-    Keyed(const Provider& provider, std::span<const std::byte> key)
-        : inner(provider), outer(provider)
+    explicit Keyed(std::span<const std::byte> key)
     {
         std::array<std::byte, kHmacBlock> block{};
         if (key.size() > kHmacBlock) {
-            Sha1 shortened(provider);
+            Sha1 shortened;
             shortened.Add(key);
             const Digest digest = shortened.Finish();
             std::copy(digest.begin(), digest.end(), block.begin());
@@ -128,8 +94,7 @@ Digest HmacOf(const Keyed& keyed, std::span<const std::byte> first,
 void DeriveKey(std::string_view password, std::span<const std::byte> salt, unsigned rounds,
                std::span<std::byte> key)
 {
-    const Provider provider;
-    const Keyed keyed(provider, std::as_bytes(std::span(password)));
+    const Keyed keyed(std::as_bytes(std::span(password)));
     for (unsigned number = 1; !key.empty(); ++number) {
         const std::array<std::byte, 4> counter{std::byte(number >> 24U), std::byte(number >> 16U),
                                                std::byte(number >> 8U), std::byte(number)};
@@ -188,9 +153,8 @@ void AesEncryptor::EncryptBlocks(std::span<const std::byte> in, std::span<std::b
 }
 
 struct HmacSha1::State {
-    explicit State(std::span<const std::byte> key) : keyed(provider, key), running(keyed.inner) {}
+    explicit State(std::span<const std::byte> key) : keyed(key), running(keyed.inner) {}
 
-    Provider provider;
     Keyed keyed;
     Sha1 running;
 };
