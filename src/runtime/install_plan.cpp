@@ -1,5 +1,6 @@
 #include "runtime/install_plan.h"
 
+#include "formats/new_windows_files.h"
 #include "helpers/windows_path.h"
 #include "runtime/exit_codes.h"
 #include "runtime/install_log.h"
@@ -13,10 +14,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr std::string_view kNewWindowsBringThem[] = {"OLEAUT32.DLL", "OLEPRO32.DLL", "ASYCFILT.DLL",
-                                                     "COMCAT.DLL",   "MSVCRT.DLL",   "MFC42.DLL",
-                                                     "STDOLE2.TLB"};
 
 const section::FileComponent* ComponentInUse(const PlanInput& input, int component)
 {
@@ -38,7 +35,7 @@ Text ReasonToSkip(const PlanInput& input, const InstallRow& row)
     if (!IsComponentInstalled(input, row.component))
         return "komponent " + NumberText(row.component) + " installeras inte";
     const bool dontTouch = input.setup.project.InstallOptions.DontInstallSysFilesOnNewWin != kOff;
-    if (dontTouch && IsSystemFileOfNewWindows(row.name) && IsNewWindows(input.target.System()))
+    if (dontTouch && IsPartOfNewWindows(row.name) && IsNewWindows(input.target.System()))
         return "systemfilen ingår redan i den här versionen av Windows";
     return {};
 }
@@ -133,12 +130,6 @@ bool IsComponentInstalled(const PlanInput& input, int number)
         return true;
     const bool isTicked = component->CompDefault != 0 || component->CompMustAlwaysBeInstalled != 0;
     return isTicked && !FindsNoEarlierVersion(input, *component);
-}
-
-bool IsSystemFileOfNewWindows(std::string_view name)
-{
-    return std::any_of(std::begin(kNewWindowsBringThem), std::end(kNewWindowsBringThem),
-                       [&](std::string_view file) { return EqualIgnoreCase(file, name); });
 }
 
 bool IsNewWindows(SystemKind system)

@@ -62,8 +62,6 @@ bool IsComponentInstalled(const PlanInput& input, int component);
 /// folder keep a log each.
 Text ChooseInstallLog(const FileSystem& files, const Text& mainFolder, const Text& product);
 
-/// True for the files that Windows ME and newer systems bring themselves.
-bool IsSystemFileOfNewWindows(std::string_view name);
 bool IsNewWindows(SystemKind system);
 
 } // namespace quillon

@@ -1,0 +1,12 @@
+// The files of Windows that later versions of Windows bring themselves. A package for these
+// versions alone leaves them out, and a setup that is told to leaves them as they are there.
+#pragma once
+
+#include <string_view>
+
+namespace quillon {
+
+/// Without regard to case.
+bool IsPartOfNewWindows(std::string_view fileName);
+
+} // namespace quillon
