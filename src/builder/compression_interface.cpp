@@ -100,11 +100,13 @@ struct CompressionInterface::State {
     std::vector<Item> items = {};
     std::unordered_map<Text, std::size_t> itemOfPath = {};
     Integer disksUsed = 0;
+    std::optional<CompressionFailure> failure = {};
 
     void Add(const Text& path, const Text& row);
     Integer Create(const Order& order);
 
 private:
+    void Make(const Order& order, CompressionLog& log);
     Text FolderForUnfinished(const Order& order) const;
     std::vector<ZipSource> Sources(const Order& order) const;
     void Pack(const Order& order, const Text& unfinished, CompressionLog& log);
@@ -132,24 +134,33 @@ void CompressionInterface::State::Add(const Text& path, const Text& row)
 Integer CompressionInterface::State::Create(const Order& order)
 {
     disksUsed = 0;
-    if (items.empty())
-        return CompressionResult::kNothingToDo;
+    failure.reset();
     CompressionLog log;
-    Integer result = CompressionResult::kDone;
     try {
-        const TemporaryFile unfinished(host, FolderForUnfinished(order));
-        Pack(order, unfinished.Path(), log);
-        Deliver(order, unfinished.Path());
-    } catch (const CompressionFailure& failure) {
-        result = failure.Result();
-        if (!failure.Path().empty())
-            log.AddFailure(failure.Path(), result);
+        Make(order, log);
+    } catch (const CompressionFailure& reason) {
+        failure = reason;
     } catch (const RunError& error) {
-        result = ResultOfWriting(error);
+        failure.emplace(ResultOfWriting(error), error.Path());
     }
-    if (logs)
+    const Integer result = failure ? failure->Result() : CompressionResult::kDone;
+    if (logs && !items.empty())
         log.Write(host, order.target, result);
     return result;
+}
+
+void CompressionInterface::State::Make(const Order& order, CompressionLog& log)
+{
+    if (items.empty())
+        throw CompressionFailure(CompressionResult::kNothingToDo, {});
+    const TemporaryFile unfinished(host, FolderForUnfinished(order));
+    try {
+        Pack(order, unfinished.Path(), log);
+    } catch (const CompressionFailure& source) {
+        log.AddFailure(source.Path(), source.Result());
+        throw;
+    }
+    Deliver(order, unfinished.Path());
 }
 
 // An archive that shall not be cut grows beside its target, where it only needs a new name at the
@@ -199,7 +210,7 @@ void CompressionInterface::State::Deliver(const Order& order, const Text& finish
                      [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); });
     disksUsed = spanning.disksUsed;
     if (spanning.result != CompressionResult::kDone)
-        throw CompressionFailure(spanning.result, {});
+        throw CompressionFailure(spanning.result, spanning.path);
 }
 
 // A file can't be renamed onto another disk; there it is copied.
@@ -269,6 +280,11 @@ Integer CompressionInterface::IfcGetNrFloppiesUsed() const
 void CompressionInterface::IfcFreeFileList()
 {
     IfcResetFileList();
+}
+
+const std::optional<CompressionFailure>& CompressionInterface::LastFailure() const
+{
+    return state_->failure;
 }
 
 } // namespace quillon

@@ -46,6 +46,9 @@ public:
     Integer IfcGetNrFloppiesUsed() const;
     void IfcFreeFileList();
 
+    /// Why the last archive could not be made, with the file concerned; nothing where it was made.
+    const std::optional<CompressionFailure>& LastFailure() const;
+
 private:
     struct State;
     std::unique_ptr<State> state_;

@@ -24,7 +24,7 @@ inline constexpr Integer kNoReadAccess = 18;
 /// An archive that can't be finished.
 class CompressionFailure : public std::exception {
 public:
-    /// `path` is the source concerned, empty where none is to blame.
+    /// `path` is the source, or what could not be written; empty where no file is to blame.
     CompressionFailure(Integer result, Text path);
 
     Integer Result() const { return result_; }

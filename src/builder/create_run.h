@@ -38,6 +38,8 @@ struct CreateRun {
     bool isIncomplete = false;
     // What the machine could not do, where a status line tells it without the file.
     std::optional<RunError> failure = {};
+    // The same of a container; its status lines have a number and no name.
+    std::optional<CompressionFailure> compressionFailure = {};
 
     Text InDestination(const Text& name) const { return DestDir + "\\" + name; }
 };

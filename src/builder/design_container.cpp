@@ -22,6 +22,13 @@ Step TellMissingObject(CreateRun& run, const Text& path)
     return Step::Stop;
 }
 
+// Kept: no status line tells of a failed design container.
+void TakeUntoldFailure(CreateRun& run)
+{
+    run.isIncomplete = true;
+    run.compressionFailure = run.compression.LastFailure();
+}
+
 } // namespace
 
 Step CreateDesignContainer(CreateRun& run)
@@ -45,8 +52,7 @@ Step CreateDesignContainer(CreateRun& run)
     if (result == CompressionResult::kNothingToDo)
         run.ask.AddStatusLine("Inga skärmobjekt kopierade - raderar DESOBJ.DAT");
     else if (result > CompressionResult::kDone)
-        // Kept: no status line tells of a failed design container.
-        run.isIncomplete = true;
+        TakeUntoldFailure(run);
     return Step::GoOn;
 }
 

@@ -85,6 +85,7 @@ void CreateFileContainer(CreateRun& run, bool spanning)
                              "Saknar läsrättigheter till en eller flera filer!");
         run.ask.AddStatusLine(Text(" Kan ej skapa ") + kFileContainerName);
         run.CreateFailed = true;
+        run.compressionFailure = run.compression.LastFailure();
     }
     run.FloppiesUsed = spanning ? run.compression.IfcGetNrFloppiesUsed() : Integer(0);
     run.compression.IfcFreeFileList();

@@ -68,6 +68,7 @@ void CopyCompressed(CreateRun& run, const Layout& layout, const FileListRow& row
         TellCompressionError(run.ask, "'" + row[Filename] + "'", result,
                              "Saknar läsrättigheter till fil!");
         run.CreateFailed = true;
+        run.compressionFailure.emplace(result, source);
         return;
     }
     run.ask.AddStatusLine("Kopierar och komprimerar '" + row[Filename] + "'");

@@ -16,6 +16,7 @@ constexpr std::size_t kPieceOfWork = 64 * 1024;
 
 struct NoDisk {
     Integer result;
+    Text path = {};
 };
 
 class DiskCutter {
@@ -32,7 +33,7 @@ public:
         WritePiece(disksUsed);
         while (left_ > 0) {
             if (disksUsed == std::numeric_limits<Integer>::max())
-                throw NoDisk{CompressionResult::kDiskFull};
+                throw NoDisk{CompressionResult::kDiskFull, PiecePath()};
             TakeNextDisk(disksUsed + 1);
             WritePiece(disksUsed);
         }
@@ -74,7 +75,7 @@ private:
     {
         pieceSize_ = std::min(Room(), left_);
         if (pieceSize_ == 0)
-            throw NoDisk{CompressionResult::kDiskFull};
+            throw NoDisk{CompressionResult::kDiskFull, PiecePath()};
         pieceBegin_.clear();
         const auto output = files_.OpenOutput(PiecePath());
         ++disksUsed;
@@ -113,8 +114,10 @@ Spanning CutOntoDisks(FileSystem& files, const Text& archive, const Text& target
         DiskCutter(files, archive, target, disks, progress).Run(spanning.disksUsed);
     } catch (const NoDisk& reason) {
         spanning.result = reason.result;
+        spanning.path = reason.path;
     } catch (const RunError& error) {
         spanning.result = ResultOfWriting(error);
+        spanning.path = error.Path();
     }
     return spanning;
 }

@@ -286,12 +286,7 @@ void ZipWriting::EndEntry(const Pending& pending)
 void WriteZip(const FileSystem& files, std::span<const ZipSource> sources, OutputFile& target,
               const ZipOptions& options, const ZipWatch& watch)
 {
-    try {
-        ZipWriting(files, sources, target, options, watch).Run();
-    } catch (const RunError& error) {
-        // Failures of the sources have their result already; this one is the target's.
-        throw CompressionFailure(ResultOfWriting(error), {});
-    }
+    ZipWriting(files, sources, target, options, watch).Run();
 }
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 // What a call of the program works with, and what it may say.
 #pragma once
 
+#include "builder/compression_result.h"
 #include "cli/arguments.h"
 #include "platform/host.h"
 #include "platform/run_error.h"
@@ -42,5 +43,7 @@ struct CallContext {
 
 /// Why the file or folder could not be read or written, in a line that names it.
 Text FailureText(const RunError& error, const Text& path);
+/// The same of an archive; the status lines tell its number alone.
+Text FailureText(const CompressionFailure& failure);
 
 } // namespace quillon::cli

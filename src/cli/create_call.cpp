@@ -75,8 +75,11 @@ Json BoxesJson(const ConsoleAsk& ask)
 /// The line for the one who has to mend it; the tool's own lines and boxes often name no file.
 Text FailureLine(const CreateRun& run)
 {
-    return run.failure ? FailureText(*run.failure, run.form.tDestinationDir)
-                       : Text("Installationen är ej hel; statusraderna visar vad som saknas.");
+    if (run.failure)
+        return FailureText(*run.failure, run.form.tDestinationDir);
+    if (run.compressionFailure)
+        return FailureText(*run.compressionFailure);
+    return "Installationen är ej hel; statusraderna visar vad som saknas.";
 }
 
 Exit Tell(const CallContext& context, const ConsoleAsk& ask, const CreateRun& run,

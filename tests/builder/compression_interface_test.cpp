@@ -2,10 +2,11 @@
 
 #include "builder/archive_tools.h"
 #include "builder/tricky_files.h"
-#include "formats/container_names.h"
+#include "formats/package.h"
 #include "helpers/windows_path.h"
 #include "support/scripted_ask.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <random>
@@ -110,6 +111,11 @@ protected:
         for (const auto& [key, node] : files.nodes)
             EXPECT_EQ(key.find(".tmp"), Text::npos) << key;
     }
+    Text PathOfFailure() const
+    {
+        const auto& failure = zip.LastFailure();
+        return failure ? failure->Path() : "(none)";
+    }
     std::string Archive() { return files.Get(kTarget); }
 
     static constexpr const char* kTarget = "C:\\Out\\FILEDATA.DAT";
@@ -184,12 +190,12 @@ TEST_F(Compression, ServesMoreRowsThanOneCommentHolds)
     }
     EXPECT_EQ(Create(), kDone);
     const ZipReader reader = OpenArchive(Archive());
-    std::vector<Text> served;
+    std::vector<int> served;
     for (const ZipEntry& entry : reader.Entries())
-        for (const Text& row : ServedRows(entry.comment))
+        for (const int row : RowNumbers(entry.comment))
             served.push_back(row);
     ASSERT_EQ(served.size(), 32767U);
-    EXPECT_EQ(served.back(), "F32767");
+    EXPECT_EQ(served.back(), 32767);
     EXPECT_EQ(reader.Entries().size(), 4U);
 }
 
@@ -255,6 +261,7 @@ TEST_F(Compression, LeavesNothingBehindWhenASourceFails)
     Put("C:\\b.txt", "b");
     files.RemoveFile("C:\\b.txt");
     EXPECT_EQ(Create(), kSourceMissing);
+    EXPECT_EQ(PathOfFailure(), "C:\\b.txt");
     files.Put("C:\\b.txt", "b");
     files.At("C:\\b.txt").unreadable = true;
     EXPECT_EQ(Create(), kNoReadAccess);
@@ -287,8 +294,10 @@ TEST_F(Compression, BuildsTheArchiveInTheWorkPath)
     Begin("D:\\Work\\");
     Put("E:\\a.txt", Noise(10000));
     EXPECT_EQ(Create(), kDiskFull) << "the disk of the work path is the one that fills";
+    EXPECT_THAT(PathOfFailure(), testing::StartsWith("D:\\Work\\QN"));
     files.capacities.clear();
     EXPECT_EQ(Create(), kDone);
+    EXPECT_FALSE(zip.LastFailure());
     EXPECT_EQ(UnpackAll(Archive()).size(), 1U);
     Begin("D:\\Missing");
     Put("E:\\a.txt", "a");
@@ -441,6 +450,7 @@ TEST_F(Compression, TellsADiskThatDoesNotCome)
     disks.folders.emplace_back(std::nullopt);
     Put("C:\\noise.bin", Noise(3 * kFloppy));
     EXPECT_EQ(CreateOnDisks(), kCancelled);
+    EXPECT_EQ(PathOfFailure(), "");
     EXPECT_EQ(zip.IfcGetNrFloppiesUsed(), 2) << "the disks used count also after a failure";
     EXPECT_EQ(files.Get("E:\\FILEDATA.DAT").size(), kFloppy) << "what is on the disks stays";
 }
@@ -451,10 +461,12 @@ TEST_F(Compression, TellsADiskThatIsFullMissingOrReadOnly)
     Put("C:\\noise.bin", Noise(2 * kFloppy - 10000));
     files.Put("E:\\full.bin", std::string(kFloppy, 'x'));
     EXPECT_EQ(CreateOnDisks(), kDiskFull);
+    EXPECT_EQ(PathOfFailure(), "e:\\FILEDATA.DAT");
     EXPECT_EQ(zip.IfcGetNrFloppiesUsed(), 1);
     files.RemoveFile("E:\\full.bin");
     files.RefuseOutput("E:\\FILEDATA.DAT", ErrorNumber::kPathFileAccess);
     EXPECT_EQ(CreateOnDisks(), kCannotWrite);
+    EXPECT_EQ(PathOfFailure(), "e:\\FILEDATA.DAT");
     EXPECT_EQ(zip.IfcGetNrFloppiesUsed(), 1);
     disks.folders[0] = "E:\\missing";
     EXPECT_EQ(CreateOnDisks(), kCannotWrite);

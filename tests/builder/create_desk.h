@@ -59,6 +59,7 @@ public:
     std::vector<Ask::Stops> stops;
     int beeps = 0;
     std::optional<RunError> failure;
+    std::optional<CompressionFailure> compressionFailure;
     bool CreateFailed = false;
     Integer FloppiesUsed = 0;
 };
@@ -81,6 +82,7 @@ auto CreateDesk::With(Work work, std::deque<ExpectedBox> script)
     stops = ask.stops;
     beeps = ask.beeps;
     failure = run.failure;
+    compressionFailure = run.compressionFailure;
     CreateFailed = run.CreateFailed;
     FloppiesUsed = run.FloppiesUsed;
     return result;

@@ -121,6 +121,8 @@ TEST_F(DesignContainer, GoesOnAfterAFailureThatItDoesNotTell)
     EXPECT_EQ(desk.With(step), Step::GoOn);
     EXPECT_EQ(desk.statusLines.back(), "Stänger DESOBJ.DAT");
     EXPECT_TRUE(isIncomplete);
+    ASSERT_TRUE(desk.compressionFailure);
+    EXPECT_EQ(desk.compressionFailure->Path(), "c:\\quillon\\rtf\\text.rtf");
     EXPECT_FALSE(desk.CreateFailed);
 }
 

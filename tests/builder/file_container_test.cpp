@@ -131,6 +131,8 @@ TEST_F(FileContainer, HasWordsForAMissingReadRight)
                     " Felmeddelande: Saknar läsrättigheter till en eller flera filer!",
                     " Kan ej skapa FILEDATA.DAT"));
     EXPECT_TRUE(desk.CreateFailed);
+    ASSERT_TRUE(desk.compressionFailure);
+    EXPECT_EQ(desk.compressionFailure->Path(), "c:\\data\\a.txt");
     EXPECT_FALSE(desk.Has("FILEDATA.DAT"));
 }
 

@@ -170,6 +170,8 @@ TEST_F(OneByOne, GoesOnBehindAFileThatCannotBeCompressed)
                             " Felmeddelande: Saknar läsrättigheter till fil!",
                             "Kopierar och komprimerar 'b.txt'"));
     EXPECT_TRUE(desk.CreateFailed);
+    ASSERT_TRUE(desk.compressionFailure);
+    EXPECT_EQ(desk.compressionFailure->Path(), "c:\\data\\a.txt");
 }
 
 } // namespace quillon

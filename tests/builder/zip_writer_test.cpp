@@ -326,13 +326,12 @@ TEST_F(ZipWriter, NoticesThatASecretChangedBetweenItsTwoReadings)
 
 TEST_F(ZipWriter, TellsAFullAndAnUnwritableTarget)
 {
-    using namespace CompressionResult;
     Put("C:\\a.txt", Noise(9 * kMiB));
     for (int write = 1; write <= 3; ++write) {
-        files.FailFromWrite(write, ErrorNumber::kDiskFull);
-        EXPECT_EQ(Failure(), std::pair(int{kDiskFull}, Text()));
-        files.FailFromWrite(write, ErrorNumber::kDeviceIo);
-        EXPECT_EQ(Failure(), std::pair(int{kCannotWrite}, Text()));
+        for (const int number : {ErrorNumber::kDiskFull, ErrorNumber::kDeviceIo}) {
+            files.FailFromWrite(write, number);
+            EXPECT_EQ(RunErrorNumber([&] { Write({}); }), number);
+        }
         files.FailFromWrite(std::numeric_limits<int>::max(), 0);
     }
 }

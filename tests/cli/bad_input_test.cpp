@@ -8,11 +8,15 @@ namespace quillon::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
 const std::vector<std::string> kNothing;
+// What a failed compression leaves in the destination.
+const std::vector<std::string> kAllButTheContainer = {
+    "DUNZIP32.DLL", "FILELIST.INF", "QNS32X.BIN", "QNSETUP.INF", "SETUP.EXE", "SWEDISH.LNG"};
 
 class BadInput : public Workshop {
 protected:
@@ -151,7 +155,9 @@ TEST_F(BadInput, ASourceFolderThatIsMissing)
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_THAT(run.out, HasSubstr("Källkatalog existerar inte! Avbryter processen.\n"));
     EXPECT_THAT(run.err, StartsWith("Källkatalog existerar inte: En källkatalog till en fil"));
-    EXPECT_FALSE(disk.Has("out/QNSETUP.INF"));
+    EXPECT_THAT(run.err, EndsWith("\nKatalogen till 's:\\gone\\a.txt' finns inte.\n"));
+    EXPECT_THAT(Names("out"),
+                ElementsAre("DUNZIP32.DLL", "FILELIST.INF", "QNS32X.BIN", "SETUP.EXE"));
 }
 
 TEST_F(BadInput, ASourceThatMayNotBeRead)
@@ -163,8 +169,51 @@ TEST_F(BadInput, ASourceThatMayNotBeRead)
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_THAT(run.out, HasSubstr(" DynaZip rapporterade fel #18!\n Felmeddelande: Saknar "
                                    "läsrättigheter till en eller flera filer!\n"));
-    EXPECT_THAT(run.out, HasSubstr("Processen avbruten!\n"));
-    EXPECT_FALSE(disk.Has("out/FILEDATA.DAT"));
+    EXPECT_THAT(run.out, EndsWith("Processen avbruten!\n"));
+    EXPECT_EQ(run.err, "Åtkomst nekas till 's:\\a.txt'.\n");
+    EXPECT_THAT(Names("out"), ElementsAreArray(kAllButTheContainer));
+}
+
+// Files whose length is a lie are what a file looks like that changes while it is read: those of
+// /proc say that they are empty, those of /sys that they fill a page.
+TEST_F(BadInput, ASourceThatGrowsOrShrinksWhileItIsRead)
+{
+    for (const char* changing : {"/proc/version", "/sys/devices/system/cpu/possible"}) {
+        if (!std::filesystem::exists(changing))
+            GTEST_SKIP() << "this machine has no " << changing;
+        std::filesystem::remove(disk.Path("src/a.txt"));
+        std::filesystem::create_symlink(changing, disk.Path("src/a.txt"));
+        const ProgramRun run = Create(SaveProjectOf({"Data\\b.txt", "a.txt"}));
+        EXPECT_EQ(run.exitCode, 1) << changing;
+        EXPECT_THAT(run.out, EndsWith(" DynaZip rapporterade fel #5!\n Kan ej skapa FILEDATA.DAT\n"
+                                      "Processen avbruten!\n"));
+        EXPECT_EQ(run.err, "Filen 's:\\a.txt' ändrades medan den lästes.\n") << changing;
+        EXPECT_THAT(Names("out"), ElementsAreArray(kAllButTheContainer));
+    }
+}
+
+TEST_F(BadInput, APictureThatMayNotBeRead)
+{
+    disk.Put("src/bild.bmp", "BM");
+    chmod(disk.Path("src/bild.bmp").c_str(), 0);
+    chmod(out.c_str(), 0777);
+    Project project = MakeProject({"a.txt"});
+    project.DesBackground.PictureFilename = "s:\\bild.bmp";
+    const ProgramRun run = Quillonc({"create", Save(project), "--to", out}, RunAs::Nobody);
+    EXPECT_EQ(run.exitCode, 1);
+    // The status lines say nothing of it.
+    EXPECT_THAT(run.out, EndsWith("Färdig!\n"));
+    EXPECT_EQ(run.err, "Åtkomst nekas till 's:\\bild.bmp'.\n");
+    EXPECT_FALSE(disk.Has("out/DESOBJ.DAT"));
+}
+
+TEST_F(BadInput, RowsThatAreAllFolders)
+{
+    const ProgramRun run = Create(SaveProjectOf({"Tom\\"}));
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_THAT(run.out, HasSubstr(" DynaZip rapporterade fel #12!\n"));
+    EXPECT_EQ(run.err, "Fillistan har inga filer att packa, endast tomma kataloger.\n");
+    EXPECT_THAT(Names("out"), ElementsAreArray(kAllButTheContainer));
 }
 
 TEST_F(BadInput, ADestinationThatIsReadOnly)
@@ -193,6 +242,7 @@ TEST_F(BadInput, NoDestinationAtAll)
 {
     const ProgramRun run = Quillonc({"create", SaveProjectOf({"a.txt"})});
     EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, "");
     EXPECT_THAT(run.err, StartsWith("Destinationskatalog saknas: "));
 }
 
@@ -210,6 +260,7 @@ TEST_F(BadInput, ADestinationThatIsFull)
         GTEST_SKIP() << "this machine mounts no small disk for a test: " << run.err;
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_THAT(run.out, HasSubstr(" DynaZip rapporterade fel #15!\n"));
+    EXPECT_THAT(run.err, StartsWith("Disken är full: '" + WindowsPath(out)));
     EXPECT_THAT(run.out, EndsWith("Processen avbruten!\nDUNZIP32.DLL\nFILELIST.INF\n"
                                   "QNS32X.BIN\nQNSETUP.INF\nSETUP.EXE\nSWEDISH.LNG\n"));
 }
@@ -288,6 +339,9 @@ TEST_F(BadInput, ANameThatTheCodePageLacks)
     const ProgramRun lost = Create(SaveProjectOf({"?.txt"}));
     EXPECT_EQ(lost.exitCode, 1);
     EXPECT_THAT(lost.out, HasSubstr("Fil saknas! Avbryter processen.\n"));
+    EXPECT_THAT(lost.err, EndsWith("\nFilen 's:\\?.txt' finns inte.\n"));
+    EXPECT_FALSE(disk.Has("Ωμέγα 🙂/QNSETUP.INF"))
+        << "the whole one of before would pass for this";
 }
 
 TEST_F(BadInput, AToolWithoutItsRuntime)

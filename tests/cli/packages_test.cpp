@@ -281,6 +281,7 @@ TEST_F(Floppies, EndInAClearErrorWhereTheNextDiskCannotBeMade)
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_THAT(run.out, HasSubstr(" DynaZip rapporterade fel #14!\n"));
     EXPECT_THAT(run.out, HasSubstr("Processen avbruten!\n"));
+    EXPECT_EQ(run.err, "Diskett: Stoppa in diskett nr 1!\nNästa diskett saknas.\n");
     EXPECT_THAT(run.out, Not(HasSubstr("Färdig!")));
 }
 
