@@ -3,20 +3,21 @@
 #include "helpers/windows_path.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace quillon {
 
 namespace {
 
-/// The parts between the characters of `separators`, empty ones left out.
-std::vector<Text> PartsOf(std::string_view text, std::string_view separators)
+/// The names between the separators of folders, empty ones left out.
+std::vector<Text> PartsOf(std::string_view path)
 {
     std::vector<Text> parts;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find_first_of(separators), text.size());
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find_first_of("\\/"), path.size());
         if (end > 0)
-            parts.emplace_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
+            parts.emplace_back(path.substr(0, end));
+        path.remove_prefix(std::min(end + 1, path.size()));
     }
     return parts;
 }
@@ -26,7 +27,7 @@ std::vector<Text> PartsOf(std::string_view text, std::string_view separators)
 Text ContainerEntryName(std::string_view path)
 {
     std::vector<Text> walked;
-    for (Text& part : PartsOf(WithoutDrive(LowerCase(path)), "\\/")) {
+    for (Text& part : PartsOf(WithoutDrive(LowerCase(path)))) {
         if (part == "." || (part == ".." && walked.empty()))
             continue;
         if (part == "..")
@@ -38,11 +39,6 @@ Text ContainerEntryName(std::string_view path)
     for (const Text& part : walked)
         name.append(name.empty() ? "" : "/").append(part);
     return name;
-}
-
-std::vector<Text> ServedRows(std::string_view comment)
-{
-    return PartsOf(comment, " ");
 }
 
 } // namespace quillon

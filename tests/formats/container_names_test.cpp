@@ -21,11 +21,4 @@ TEST(ContainerEntryName, NeverLeadsOutOfTheArchive)
     EXPECT_EQ(ContainerEntryName(""), "");
 }
 
-TEST(ServedRows, AreTheWordsOfTheComment)
-{
-    EXPECT_EQ(ServedRows("F1"), std::vector<Text>{"F1"});
-    EXPECT_EQ(ServedRows("F1 F7"), (std::vector<Text>{"F1", "F7"}));
-    EXPECT_TRUE(ServedRows("").empty());
-}
-
 } // namespace quillon
