@@ -20,7 +20,7 @@ Medium MediumOf(const SetupInformation& setup)
 
 Text FailureText(const RunError& error)
 {
-    return "Fel # " + NumberText(error.Number());
+    return "Fel #" + NumberText(error.Number());
 }
 
 // The bytes of one of the package's INF files; nothing, and told, where it can't be read.

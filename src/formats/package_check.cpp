@@ -24,7 +24,7 @@ Text FailureText(const ZipError& error)
 
 Text FailureText(const RunError& error)
 {
-    return "kan ej läsas (Fel # " + NumberText(error.Number()) + ")";
+    return "kan ej läsas (Fel #" + NumberText(error.Number()) + ")";
 }
 
 // Runs `read`; the words for what went wrong, or nothing.
@@ -93,9 +93,9 @@ void CheckEntries(ZipReader& archive, const char* archiveName, const Text& passw
         const Text failure =
             FailureOf([&] { archive.Extract(entry, password, [](std::span<const std::byte>) {}); });
         if (!failure.empty())
-            faults.push_back(Text(archiveName) + ": posten '" + entry.name + "' " +
-                             (entry.comment.empty() ? "" : "(" + entry.comment + ") ") + failure +
-                             ".");
+            faults.push_back(Text(archiveName) + ": posten '" + entry.name + "'" +
+                             (entry.comment.empty() ? "" : " (" + entry.comment + ")") + ": " +
+                             failure + ".");
     }
 }
 

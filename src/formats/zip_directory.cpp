@@ -64,7 +64,7 @@ private:
         const std::size_t kept = buffer_.size();
         const auto added = static_cast<std::size_t>(
             std::min<std::uint64_t>(left_, std::max(kPiece, count - kept)));
-        Require(kept + added >= count, "the directory ends inside an entry");
+        Require(kept + added >= count, "förteckningen slutar mitt i en post");
         buffer_.resize(kept + added);
         ReadExactly(archive_, next_, std::span(buffer_).subspan(kept));
         next_ += added;
@@ -89,8 +89,8 @@ std::optional<Record> RecordAt(InputFile& archive, std::uint64_t position)
 [[noreturn]] void RefuseWithoutEnd(InputFile& archive)
 {
     if (archive.Size() >= kRecordSize<LocalHeader> && RecordAt<LocalHeader>(archive, 0))
-        RefuseArchive("the archive is cut: its end record is missing");
-    throw ZipError(ZipError::Kind::NotAnArchive, "no ZIP archive");
+        RefuseArchive("arkivet är avkortat, dess slutpost saknas");
+    throw ZipError(ZipError::Kind::NotAnArchive, "filen är inget ZIP-arkiv");
 }
 
 // The end record is the one whose comment reaches exactly to the end of the file. Where a comment
@@ -108,7 +108,7 @@ std::uint64_t FindEndRecord(InputFile& archive)
         const auto record = ReadRecord<EndRecord>(rest);
         if (!record || kRecordSize<EndRecord> + record->commentLength != rest.size())
             continue;
-        Require(!found, "two end records");
+        Require(!found, "det finns två slutposter");
         found = at;
     }
     if (!found)
@@ -125,20 +125,20 @@ Place PlaceFromZip64(InputFile& archive, const EndRecord& end, const Zip64Locato
                      std::uint64_t locatorPosition)
 {
     const std::uint64_t position = locator.endRecordPosition;
-    Require(locator.disk == 0 && locator.disks <= 1, "parts on other disks");
+    Require(locator.disk == 0 && locator.disks <= 1, "delar ligger på andra diskar");
     Require(position <= locatorPosition &&
                 locatorPosition - position >= kRecordSize<Zip64EndRecord>,
-            "the ZIP64 end record lies outside of the archive");
+            "ZIP64-slutposten ligger utanför arkivet");
     const auto large = RecordAt<Zip64EndRecord>(archive, position);
-    Require(large.has_value(), "the ZIP64 end record is missing");
+    Require(large.has_value(), "ZIP64-slutposten saknas");
     Require(large->recordSize == locatorPosition - position - Zip64EndRecord::kLeadSize,
-            "the ZIP64 end record has a wrong size");
+            "ZIP64-slutposten har fel storlek");
     Require(large->disk == 0 && large->directoryDisk == 0 && large->entriesOnDisk == large->entries,
-            "parts on other disks");
+            "delar ligger på andra diskar");
     Require(Agree(end.entries, kFull16, large->entries) &&
                 Agree(end.directorySize, kFull32, large->directorySize) &&
                 Agree(end.directoryPosition, kFull32, large->directoryPosition),
-            "the two end records disagree");
+            "de två slutposterna säger olika");
     return {large->directoryPosition, large->directorySize, large->entries, position};
 }
 
@@ -147,7 +147,7 @@ Place FindDirectory(InputFile& archive)
     const std::uint64_t endPosition = FindEndRecord(archive);
     const EndRecord end = *RecordAt<EndRecord>(archive, endPosition);
     Require(end.disk == 0 && end.directoryDisk == 0 && end.entriesOnDisk == end.entries,
-            "parts on other disks");
+            "delar ligger på andra diskar");
     if (endPosition >= kRecordSize<Zip64Locator>) {
         const std::uint64_t locatorPosition = endPosition - kRecordSize<Zip64Locator>;
         if (const auto locator = RecordAt<Zip64Locator>(archive, locatorPosition))
@@ -159,41 +159,41 @@ Place FindDirectory(InputFile& archive)
 void RequireSoundPlace(const Place& place)
 {
     Require(place.position <= place.endRecord && place.size == place.endRecord - place.position,
-            "the directory does not lie before the end record");
+            "förteckningen ligger inte före slutposten");
     Require(place.entries <= place.size / kRecordSize<CentralHeader>,
-            "the directory is too small for its entries");
+            "förteckningen är för liten för sina poster");
 }
 
 void RequireSupported(const CentralHeader& header, const Extras& extras)
 {
     const auto refuse = [](const char* what) { throw ZipError(ZipError::Kind::Unsupported, what); };
     if ((header.flags & (Flag::kPatchData | Flag::kStrongEncryption | Flag::kMaskedHeader)) != 0)
-        refuse("a kind of entry that nobody here writes");
+        refuse("en post är av okänt slag");
     const bool isEncrypted = (header.flags & Flag::kEncrypted) != 0;
     if (isEncrypted != (header.method == Method::kAes))
-        refuse("an encryption other than AES");
+        refuse("en post har en annan kryptering än AES");
     if (isEncrypted) {
-        Require(extras.aes.has_value(), "the kind of encryption is missing");
+        Require(extras.aes.has_value(), "krypteringens art saknas");
         const AesExtra& aes = *extras.aes;
         const bool isKnownVersion = aes.version == AesExtra::kAe1 || aes.version == AesExtra::kAe2;
         if (!isKnownVersion || aes.vendor != AesExtra::kVendor || aes.strength != AesExtra::kAes256)
-            refuse("an encryption other than AES-256");
+            refuse("en post har en annan kryptering än AES-256");
     }
     const std::uint16_t method = isEncrypted ? extras.aes->method : header.method;
     if (method != Method::kStored && method != Method::kDeflated)
-        refuse("a compression other than deflate");
+        refuse("en post har en annan packning än deflate");
 }
 
 void RequireSoundSizes(const ZipEntry& entry, const Place& place)
 {
-    Require(entry.packedSize <= place.position, "an entry larger than the archive");
+    Require(entry.packedSize <= place.position, "en post är större än arkivet");
     const std::uint64_t around = entry.isEncrypted ? kEncryptionSize : 0;
-    Require(entry.packedSize >= around, "an encrypted entry without room for its keys");
+    Require(entry.packedSize >= around, "en krypterad post saknar plats för sina nycklar");
     const std::uint64_t packed = entry.packedSize - around;
     if (entry.isStored)
-        Require(entry.size == packed, "a stored entry of two sizes");
+        Require(entry.size == packed, "en lagrad post anger två storlekar");
     else
-        Require(entry.size <= packed * kMostPerPackedByte, "a size that no deflate reaches");
+        Require(entry.size <= packed * kMostPerPackedByte, "en post anger en orimlig storlek");
 }
 
 ZipEntry EntryFrom(const CentralHeader& header, const Extras& extras)
@@ -219,10 +219,10 @@ std::optional<std::uint64_t> ComesFromZip64(std::uint32_t field)
 ZipEntry ReadEntry(DirectoryCursor& cursor, const Place& place, Directory::Room& room)
 {
     const auto header = ReadRecord<CentralHeader>(cursor.Take(kRecordSize<CentralHeader>));
-    Require(header.has_value(), "an entry of the directory is missing");
-    Require(header->disk == 0, "an entry on another disk");
+    Require(header.has_value(), "en post saknas i förteckningen");
+    Require(header->disk == 0, "en post ligger på en annan disk");
     const Text name = DecodeText(cursor.Take(header->nameLength), header->flags);
-    Require(!name.empty() && name.find('\0') == Text::npos, "an entry without a usable name");
+    Require(!name.empty() && name.find('\0') == Text::npos, "en post saknar ett användbart namn");
     Extras extras;
     extras.zip64 = {ComesFromZip64(header->size), ComesFromZip64(header->packedSize),
                     ComesFromZip64(header->headerPosition)};
@@ -235,7 +235,7 @@ ZipEntry ReadEntry(DirectoryCursor& cursor, const Place& place, Directory::Room&
     const std::uint64_t least = kRecordSize<LocalHeader> + header->nameLength + entry.packedSize;
     Require(entry.headerPosition <= place.position &&
                 least <= place.position - entry.headerPosition,
-            "an entry outside of the archive");
+            "en post ligger utanför arkivet");
     room = {entry.headerPosition, entry.headerPosition + least};
     return entry;
 }
@@ -246,7 +246,7 @@ void SpreadRooms(std::vector<Directory::Room>& rooms, const Place& place)
     std::ranges::sort(rooms, {}, &Directory::Room::begin);
     for (std::size_t i = 0; i < rooms.size(); ++i) {
         const std::uint64_t next = i + 1 < rooms.size() ? rooms[i + 1].begin : place.position;
-        Require(rooms[i].end <= next, "entries that overlap");
+        Require(rooms[i].end <= next, "poster överlappar varandra");
         rooms[i].end = next;
     }
 }
@@ -263,7 +263,7 @@ void ReadExactly(InputFile& archive, std::uint64_t position, std::span<std::byte
     archive.Seek(position);
     while (!bytes.empty()) {
         const std::size_t got = archive.Read(bytes);
-        Require(got > 0, "the archive is shorter than it says");
+        Require(got > 0, "arkivet är kortare än det anger");
         bytes = bytes.subspan(got);
     }
 }
@@ -275,7 +275,7 @@ Text DecodeText(std::span<const std::byte> bytes, std::uint16_t flags)
     Text text = AsText(bytes);
     if (IsUtf8(text))
         return text;
-    Require((flags & Flag::kUtf8) == 0, "a text that is no UTF-8");
+    Require((flags & Flag::kUtf8) == 0, "en text är ej UTF-8");
     return AnsiText::FromBytes(text);
 }
 
@@ -284,17 +284,17 @@ void ReadExtras(std::span<const std::byte> bytes, Extras& extras)
     bool hasZip64 = false;
     while (!bytes.empty()) {
         ExtraHead head;
-        Require(ReadFields(bytes, head), "an extra field that is cut");
+        Require(ReadFields(bytes, head), "ett extra fält är avkortat");
         bytes = bytes.subspan(FieldsSize(head));
-        Require(head.length <= bytes.size(), "an extra field that is cut");
+        Require(head.length <= bytes.size(), "ett extra fält är avkortat");
         const auto field = bytes.first(head.length);
         bytes = bytes.subspan(head.length);
         if (head.id == Zip64Extra::kId) {
-            Require(!std::exchange(hasZip64, true), "two ZIP64 fields");
-            Require(ReadFields(field, extras.zip64), "a ZIP64 field that is cut");
+            Require(!std::exchange(hasZip64, true), "en post har två ZIP64-fält");
+            Require(ReadFields(field, extras.zip64), "ett ZIP64-fält är avkortat");
         } else if (head.id == AesExtra::kId) {
-            Require(!extras.aes, "two AES fields");
-            Require(ReadFields(field, extras.aes.emplace()), "an AES field that is cut");
+            Require(!extras.aes, "en post har två AES-fält");
+            Require(ReadFields(field, extras.aes.emplace()), "ett AES-fält är avkortat");
         }
     }
 }
@@ -309,7 +309,7 @@ Directory ReadDirectory(InputFile& archive)
     DirectoryCursor cursor(archive, place.position, place.size);
     for (std::uint64_t i = 0; i < place.entries; ++i)
         directory.entries.push_back(ReadEntry(cursor, place, directory.rooms.emplace_back()));
-    Require(cursor.IsAtEnd(), "the directory holds more than its entries");
+    Require(cursor.IsAtEnd(), "förteckningen rymmer mer än sina poster");
     SpreadRooms(directory.rooms, place);
     return directory;
 }

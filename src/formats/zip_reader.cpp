@@ -32,7 +32,7 @@ public:
 
     void Write(std::span<const std::byte> bytes)
     {
-        Require(bytes.size() <= entry_.size - written_, "an entry holds more than its size");
+        Require(bytes.size() <= entry_.size - written_, "en post är längre än den anger");
         if (bytes.empty())
             return;
         crc_ = crc32(crc_, reinterpret_cast<const Bytef*>(bytes.data()),
@@ -43,8 +43,8 @@ public:
 
     void Finish() const
     {
-        Require(written_ == entry_.size, "an entry holds less than its size");
-        Require(!entry_.hasCrc || crc_ == entry_.crc, "an entry's CRC is wrong");
+        Require(written_ == entry_.size, "en post är kortare än den anger");
+        Require(!entry_.hasCrc || crc_ == entry_.crc, "kontrollsumman (CRC) stämmer inte");
     }
 
 private:
@@ -70,7 +70,7 @@ public:
         stream_.next_in = reinterpret_cast<Bytef*>(packed.data());
         stream_.avail_in = static_cast<uInt>(packed.size());
         do {
-            Require(!isDone_, "an entry goes on behind its end");
+            Require(!isDone_, "en post fortsätter efter sitt slut");
             Step(output);
         } while (stream_.avail_in > 0 || stream_.avail_out == 0);
     }
@@ -84,7 +84,7 @@ private:
         const int result = inflate(&stream_, Z_NO_FLUSH);
         // No progress is what it answers when the last full buffer was all that there was.
         Require(result == Z_OK || result == Z_STREAM_END || result == Z_BUF_ERROR,
-                "an entry's data are damaged");
+                "en posts data är skadade");
         isDone_ = result == Z_STREAM_END;
         output.Write(std::span<const std::byte>(out_).first(out_.size() - stream_.avail_out));
         if (isDone_)
@@ -109,7 +109,7 @@ void RequireSameSizes(const LocalHeader& header, const Extras& extras, const Zip
     Require(extras.zip64.size.value_or(header.size) == entry.size &&
                 extras.zip64.packedSize.value_or(header.packedSize) == entry.packedSize &&
                 header.crc == entry.crc,
-            "an entry's two headers disagree");
+            "en posts två huvuden säger olika");
 }
 
 // The local header repeats what the directory says. A program that reads from the front goes by
@@ -119,10 +119,10 @@ Data FindData(InputFile& archive, const ZipEntry& entry, const Directory::Room& 
     Bytes bytes(kRecordSize<LocalHeader>);
     ReadExactly(archive, room.begin, bytes);
     const auto header = ReadRecord<LocalHeader>(bytes);
-    Require(header.has_value(), "an entry's header is missing");
+    Require(header.has_value(), "en posts huvud saknas");
     const std::uint64_t behind = std::uint64_t(header->nameLength) + header->extraLength;
     const std::uint64_t left = room.end - room.begin - bytes.size();
-    Require(behind <= left && entry.packedSize <= left - behind, "an entry's header is too long");
+    Require(behind <= left && entry.packedSize <= left - behind, "en posts huvud är för långt");
 
     const std::uint64_t behindHeader = room.begin + bytes.size();
     bytes.resize(static_cast<std::size_t>(behind));
@@ -138,7 +138,7 @@ Data FindData(InputFile& archive, const ZipEntry& entry, const Directory::Room& 
     const std::uint16_t method = extras.aes && isEncrypted ? extras.aes->method : header->method;
     Require(DecodeText(all.first(header->nameLength), header->flags) == entry.name &&
                 isEncrypted == entry.isEncrypted && method == entry.method,
-            "an entry's two headers disagree");
+            "en posts två huvuden säger olika");
     RequireSameSizes(*header, extras, entry);
     return {behindHeader + behind, behindHeader + behind + entry.packedSize};
 }
@@ -154,7 +154,7 @@ std::unique_ptr<EntryCipher> OpenCipher(InputFile& archive, Data& data, const Te
     data.end -= kAuthenticationSize;
     auto cipher = std::make_unique<EntryCipher>(password, salt);
     if (cipher->PasswordVerifier() != verifier)
-        throw ZipError(ZipError::Kind::WrongPassword, "wrong password");
+        throw ZipError(ZipError::Kind::WrongPassword, "lösenordet stämmer inte");
     return cipher;
 }
 
@@ -162,7 +162,7 @@ void CheckAuthentication(InputFile& archive, const Data& data, EntryCipher& ciph
 {
     Authentication onFile{};
     ReadExactly(archive, data.end, onFile);
-    Require(onFile == cipher.Finish(), "an entry was tampered with");
+    Require(onFile == cipher.Finish(), "en krypterad post är ändrad");
 }
 
 } // namespace
@@ -176,7 +176,7 @@ struct ZipReader::State {
         const auto room = std::ranges::lower_bound(directory.rooms, entry.headerPosition, {},
                                                    &Directory::Room::begin);
         Require(room != directory.rooms.end() && room->begin == entry.headerPosition,
-                "no such entry");
+                "posten finns inte");
         return *room;
     }
 };
@@ -221,7 +221,7 @@ void ZipReader::Extract(const ZipEntry& entry, const Text& password, const Sink&
     }
     if (cipher)
         CheckAuthentication(archive, data, *cipher);
-    Require(!inflater || inflater->IsDone(), "an entry ends too early");
+    Require(!inflater || inflater->IsDone(), "en post slutar för tidigt");
     output.Finish();
 }
 

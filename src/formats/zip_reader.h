@@ -38,7 +38,7 @@ class ZipError : public std::exception {
 public:
     enum class Kind { NotAnArchive, Damaged, WrongPassword, Unsupported };
 
-    /// `what` says in English what was wrong, for a log.
+    /// `what` says what was wrong, in words for a line about the archive.
     ZipError(Kind kind, Text what) : kind_(kind), what_(std::move(what)) {}
 
     Kind Reason() const { return kind_; }

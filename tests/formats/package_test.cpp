@@ -71,6 +71,23 @@ using FloppyPackage = PackageFolder;
 
 } // namespace
 
+TEST(RowNumbers, AreTheNumbersOfTheCommentsKeys)
+{
+    const std::pair<const char*, std::vector<int>> cases[] = {{"", {}},
+                                                              {"F1", {1}},
+                                                              {"F1 F7", {1, 7}},
+                                                              {"F32767", {32767}},
+                                                              {"F", {0}},
+                                                              {"1", {0}},
+                                                              {"F1x F2", {0, 2}},
+                                                              {"f1", {0}},
+                                                              {"F1  F2 ", {1, 0, 2}},
+                                                              {"a comment", {0, 0}},
+                                                              {"F99999999999999", {0}}};
+    for (const auto& [comment, numbers] : cases)
+        EXPECT_EQ(RowNumbers(comment), numbers) << comment;
+}
+
 TEST_F(CompressedPackage, FindsEntriesByTheRowsThatTheirCommentsName)
 {
     PutLists({Row(1, "a.txt", 3), FolderRow(2), Row(3, "renamed.txt", 5), Row(4, "twin.txt", 3)});
@@ -103,7 +120,7 @@ TEST_F(CompressedPackage, OpensWithThePasswordOfItsSetupInformation)
 
     PutFile("FILEDATA.DAT", MakeArchive({{"a.txt", "F1", "abc", "Annat"}}));
     EXPECT_THAT(Verify(),
-                ElementsAre("FILEDATA.DAT: posten 'a.txt' (F1) lösenordet stämmer inte."));
+                ElementsAre("FILEDATA.DAT: posten 'a.txt' (F1): lösenordet stämmer inte."));
 }
 
 TEST_F(CompressedPackage, NeedsNoContainerForFoldersAlone)
@@ -134,9 +151,7 @@ TEST_F(CompressedPackage, TellsADamagedContainer)
 {
     PutLists({Row(1, "a.txt", 3)});
     PutFile("FILEDATA.DAT", "no archive at all");
-    const auto faults = Verify();
-    ASSERT_EQ(faults.size(), 1U);
-    EXPECT_THAT(faults[0], testing::StartsWith("FILEDATA.DAT är skadad: "));
+    EXPECT_THAT(Verify(), ElementsAre("FILEDATA.DAT är skadad: filen är inget ZIP-arkiv."));
 }
 
 TEST_F(CompressedPackage, TellsAContainerThatCannotBeRead)
@@ -144,7 +159,7 @@ TEST_F(CompressedPackage, TellsAContainerThatCannotBeRead)
     PutLists({Row(1, "a.txt", 3)});
     PutFile("FILEDATA.DAT", "x");
     files.At(kFolder + "\\FILEDATA.DAT").unreadable = true;
-    EXPECT_THAT(Verify(), ElementsAre("FILEDATA.DAT kan ej läsas: Fel # 70."));
+    EXPECT_THAT(Verify(), ElementsAre("FILEDATA.DAT kan ej läsas: Fel #70."));
 }
 
 TEST_F(CompressedPackage, TellsRowsWithoutBytesWrongSizesAndWrongChecksums)
@@ -155,8 +170,8 @@ TEST_F(CompressedPackage, TellsRowsWithoutBytesWrongSizesAndWrongChecksums)
         Verify(),
         ElementsAre("F1 'a.txt': storleken är 3 byte i paketet men 4 byte i FILELIST.INF.",
                     "F2 'b.txt': filen saknas i paketet.",
-                    "FILEDATA.DAT: posten 'c.txt' (F3) innehållet är skadat (an entry's CRC "
-                    "is wrong)."));
+                    "FILEDATA.DAT: posten 'c.txt' (F3): innehållet är skadat (kontrollsumman "
+                    "(CRC) stämmer inte)."));
 }
 
 TEST_F(CompressedPackage, TellsEntriesThatServeNoRowAndRowsServedTwice)
@@ -195,7 +210,7 @@ TEST_F(CompressedPackage, TellsInfFilesThatAreMissingUnreadableOrNotWhole)
 
     PutLists({});
     files.At(kFolder + "\\FILELIST.INF").unreadable = true;
-    EXPECT_THAT(Verify(), ElementsAre("FILELIST.INF kan ej läsas: Fel # 70."));
+    EXPECT_THAT(Verify(), ElementsAre("FILELIST.INF kan ej läsas: Fel #70."));
 }
 
 TEST_F(CompressedPackage, TellsACountThatDisagrees)
@@ -210,10 +225,11 @@ TEST_F(CompressedPackage, ReadsTheDesignContainerWhereThereIsOne)
     PutFile("DESOBJ.DAT", MakeArchive({{"bild.bmp", "", "x"}}));
     EXPECT_THAT(Verify(), IsEmpty());
     PutFile("DESOBJ.DAT", MakeArchive({{"bild.bmp", "", "x", "", true}}));
-    EXPECT_THAT(Verify(), ElementsAre("DESOBJ.DAT: posten 'bild.bmp' innehållet är skadat (an "
-                                      "entry's CRC is wrong)."));
+    EXPECT_THAT(Verify(), ElementsAre("DESOBJ.DAT: posten 'bild.bmp': innehållet är skadat "
+                                      "(kontrollsumman (CRC) stämmer inte)."));
     PutFile("DESOBJ.DAT", "");
-    EXPECT_THAT(Verify(), ElementsAre(testing::StartsWith("DESOBJ.DAT: innehållet är skadat (")));
+    EXPECT_THAT(Verify(),
+                ElementsAre("DESOBJ.DAT: innehållet är skadat (filen är inget ZIP-arkiv)."));
 }
 
 TEST_F(OneByOnePackage, FindsFilesUnderTheirNamesWithAnUnderscore)
@@ -255,7 +271,7 @@ TEST_F(OneByOnePackage, TellsFilesThatAreMissingUnreadableOrOfAnotherSize)
     EXPECT_THAT(Verify(),
                 ElementsAre("F1 'a.txt': filen saknas i paketet: 'D:\\Paket\\SetupFiles\\a.txt_'.",
                             "F2 'b.txt': storleken är 2 byte i paketet men 3 byte i FILELIST.INF.",
-                            "F3 'c.txt': kan ej läsas (Fel # 70)."));
+                            "F3 'c.txt': kan ej läsas (Fel #70)."));
 }
 
 TEST_F(OneByOnePackage, IsACompressedCdOnly)

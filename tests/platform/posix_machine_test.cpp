@@ -92,7 +92,7 @@ TEST_F(PosixMachineTest, ReadsTheRegistryAndTellsOfFilesThatItCannotRead)
                   "' är ingen registerexport; första raden ska vara REGEDIT4 eller Windows "
                   "Registry Editor Version 5.00.");
     EXPECT_EQ(host.complaints[1],
-              "QUILLON_REGISTRY: '" + disk.Path("c.reg") + "' kan ej läsas (Fel # 53).");
+              "QUILLON_REGISTRY: '" + disk.Path("c.reg") + "' kan ej läsas (Fel #53).");
 }
 
 TEST_F(PosixMachineTest, KnowsTheOwnerFromTheRegistryElseFromTheSystem)

@@ -21,7 +21,7 @@ RegistryFiles ReadRegistryFiles(const std::vector<std::string>& hostPaths, const
                                      "' är ingen registerexport; första raden ska vara REGEDIT4 "
                                      "eller Windows Registry Editor Version 5.00.");
         } catch (const RunError& error) {
-            complaints.push_back("QUILLON_REGISTRY: '" + hostPath + "' kan ej läsas (Fel # " +
+            complaints.push_back("QUILLON_REGISTRY: '" + hostPath + "' kan ej läsas (Fel #" +
                                  std::to_string(error.Number()) + ").");
         }
     }
