@@ -5,6 +5,7 @@
 #include "platform/posix/posix_host.h"
 #include "platform/run_error.h"
 
+#include <algorithm>
 #include <iostream>
 
 namespace {
@@ -33,10 +34,18 @@ Exit RunCall(const Arguments& arguments)
     }
 }
 
+// Also behind a call: who asks there wants to know what it takes.
+bool AsksForHelp(const std::vector<std::string>& words)
+{
+    const auto last = std::ranges::find(words, "--");
+    return std::any_of(words.begin(), last,
+                       [](const std::string& word) { return word == "--help" || word == "-h"; });
+}
+
 Exit Run(const std::vector<std::string>& words)
 {
     const std::string first = words.empty() ? "" : words[0];
-    if (first == "--help" || first == "-h") {
+    if (AsksForHelp(words)) {
         std::cout << HelpText(AllCalls());
         return Exit::Done;
     }

@@ -6,6 +6,7 @@
 #include "helpers/line_breaks.h"
 
 #include <ostream>
+#include <utility>
 
 namespace quillon::cli {
 
@@ -28,6 +29,14 @@ void PrintValue(std::ostream& out, const Text& key, const Text& value)
         out << "    " << line << "\n";
 }
 
+void PrintRow(std::ostream& out, const Json& row)
+{
+    const char* separator = "";
+    for (const Json& column : row)
+        out << std::exchange(separator, ";") << column.get<Text>();
+    out << "\n";
+}
+
 void PrintSection(std::ostream& out, const Text& name, const Json& section)
 {
     out << "[" << name << "]\n";
@@ -37,12 +46,8 @@ void PrintSection(std::ostream& out, const Text& name, const Json& section)
     else if (section.is_string() && !section.get<Text>().empty())
         out << section.get<Text>() << "\n";
     else if (section.is_array())
-        for (const Json& row : section) {
-            Text line;
-            for (const Json& column : row)
-                line += (line.empty() ? "" : ";") + column.get<Text>();
-            out << line << "\n";
-        }
+        for (const Json& row : section)
+            PrintRow(out, row);
     out << "\n";
 }
 

@@ -27,6 +27,13 @@ TEST_F(ProjectCalls, TellsItsVersionAndItsHelp)
     EXPECT_EQ(version.exitCode, 0);
     const ProgramRun help = Quillonc({"--help"});
     EXPECT_EQ(help.exitCode, 0);
+    EXPECT_EQ(help.err, "");
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"-h"}, {"create", "--help"}, {"list", "a", "-h"}}) {
+        const ProgramRun behind = Quillonc(words);
+        EXPECT_EQ(behind.exitCode, 0);
+        EXPECT_EQ(behind.out, help.out);
+    }
     EXPECT_THAT(help.out, testing::HasSubstr("--medium floppy|cd|tree|internet"));
     EXPECT_FALSE(disk.Has("c")) << "help needs no drive C:";
 }
@@ -40,6 +47,7 @@ TEST_F(ProjectCalls, TellsOfWrongUsage)
                                                   {"show", ""},
                                                   {"create", "p.qnp", "--medium", "dvd"},
                                                   {"resave", "a.qnp"},
+                                                  {"show", "--", "a", "--help"},
                                                   {"list", "--after", "x"}}) {
         const ProgramRun run = Quillonc(words);
         EXPECT_EQ(run.exitCode, 2);
@@ -163,13 +171,15 @@ TEST_F(ProjectCalls, ShowsEverySectionOfAFullProjectFile)
 
 TEST_F(ProjectCalls, ShowsAProjectToPeople)
 {
-    Project project = MakeProject({"a.txt"});
+    Project project = MakeProject({"a.txt", "b.txt"});
+    project.Files.rows[1][Filename] = "";
     project.DialogBoxData.LicenseText = "one\r\ntwo";
     const ProgramRun run = Quillonc({"show", Save(project)});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_THAT(run.out, testing::HasSubstr("[ProjectName]\nProjectName = Prov\n\n"));
     EXPECT_THAT(run.out, testing::HasSubstr("LicenseText =\n    one\n    two\n"));
     EXPECT_THAT(run.out, testing::HasSubstr("[FileList]\na.txt;%DESTDIR;0.0;"));
+    EXPECT_THAT(run.out, testing::HasSubstr("\n;%DESTDIR;0.0;"));
 }
 
 } // namespace
