@@ -1,7 +1,11 @@
 #include "filelist/variables.h"
 
 #include "filelist/file_version.h"
+#include "formats/variable_names.h"
 #include "helpers/windows_path.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace quillon {
 
@@ -12,14 +16,43 @@ constexpr const char* kProgramFilesShown = "C:\\Program";
 constexpr const char* kCommonFilesShown = "C:\\Program\\Vanliga filer";
 constexpr const char* kDocumentsShown = "C:\\Mina dokument";
 
-template <std::size_t Number>
-const Text& ComponentFolder(const Project& project)
+using Meaning = VariableMeaning;
+
+/// The field of the project whose text is the variable's value.
+struct ProjectValue {
+    Meaning meaning;
+    const Text& (*field)(const Project&);
+};
+
+#define QUILLON_FIELD(field) [](const Project& project) -> const Text& { return project.field; }
+
+// clang-format off
+constexpr ProjectValue kProjectValues[] = {
+    {Meaning::MainFolder,     QUILLON_FIELD(InstallDirectories.DestinationDirectory)},
+    {Meaning::ProjectName,    QUILLON_FIELD(ProjectName.ProjectName)},
+    {Meaning::ProgramGroup,   QUILLON_FIELD(ProgramGroup.ProgramGroup)},
+    {Meaning::CompanyName,    QUILLON_FIELD(Version.CompanyName)},
+    {Meaning::ProductName,    QUILLON_FIELD(Version.ProductName)},
+    {Meaning::ProductVersion, QUILLON_FIELD(Version.ProductVersion)},
+    {Meaning::UserCompany,    QUILLON_FIELD(LicenseData.UserCompany)},
+    {Meaning::UserName,       QUILLON_FIELD(LicenseData.UserName)},
+    {Meaning::UserAddress,    QUILLON_FIELD(LicenseData.UserAddress)},
+    {Meaning::UserPhone,      QUILLON_FIELD(LicenseData.UserPhone)},
+    {Meaning::UserFax,        QUILLON_FIELD(LicenseData.UserFax)},
+    {Meaning::UserEmail,      QUILLON_FIELD(LicenseData.Useremail)},
+};
+// clang-format on
+
+#undef QUILLON_FIELD
+
+const section::FileComponent& ComponentOf(const VariableName& variable, const Project& project)
 {
-    return project.FileComponents[Number - 1].CompDir;
+    return project.FileComponents[static_cast<std::size_t>(variable.number) - 1];
 }
 
-Text BracketedOwnVariable(const Text& content)
+Text BracketedOwnVariable(const section::RegPrivateVar& own, int number)
 {
+    const Text& content = number == 1 ? own.Reg1 : number == 2 ? own.Reg2 : own.Reg3;
     return content.empty() ? Text() : "[" + content + "]";
 }
 
@@ -34,106 +67,57 @@ Text FontFolder(const Machine& machine)
     return JoinPath(machine.GetWindowsDir(), "Fonts");
 }
 
-Text ValueFromMachine(const Variable& variable, const Project& project, const Host& host)
+Text ValueFromMachine(Meaning meaning, const Project& project, const Host& host)
 {
     const Machine& machine = host.machine;
-    switch (variable.meaning) {
-    case VariableMeaning::SystemFolder:
+    switch (meaning) {
+    case Meaning::SystemFolder:
         return FormatPathForDisplay(machine.GetSystemDir());
-    case VariableMeaning::WindowsFolder:
+    case Meaning::WindowsFolder:
         return FormatPathForDisplay(machine.GetWindowsDir());
-    case VariableMeaning::FontFolder:
+    case Meaning::FontFolder:
         return FormatPathForDisplay(FontFolder(machine));
-    case VariableMeaning::ApplicationDataFolder:
+    case Meaning::ApplicationDataFolder:
         return FormatPathForDisplay(machine.GetSysAppDataDirectory());
-    case VariableMeaning::LocalApplicationDataFolder:
+    case Meaning::LocalApplicationDataFolder:
         return FormatPathForDisplay(machine.GetSysLocalAppDataDirectory());
-    case VariableMeaning::TemplatesFolder:
+    case Meaning::TemplatesFolder:
         return FormatPathForDisplay(machine.GetSysTemplatesDirectory());
-    case VariableMeaning::ProgramFilesFolder:
+    case Meaning::ProgramFilesFolder:
         return kProgramFilesShown;
-    case VariableMeaning::CommonFilesFolder:
+    case Meaning::CommonFilesFolder:
         return kCommonFilesShown;
-    case VariableMeaning::DocumentsFolder:
+    case Meaning::DocumentsFolder:
         return kDocumentsShown;
-    case VariableMeaning::ProductVersionOfFile:
+    case Meaning::ProductVersionOfFile:
         return VersionOfNamedFile(project, host);
-    case VariableMeaning::InstallationDate:
+    case Meaning::InstallationDate:
         return DateText(machine.Now());
-    case VariableMeaning::InstallationTime:
+    case Meaning::InstallationTime:
         return TimeTextWithSeconds(machine.Now());
     default:
         return {}; // known on the target machine only
     }
 }
 
-Text ValueOf(const Variable& variable, const Project& project, const Host& host)
+Text ValueOf(const VariableName& variable, const Project& project, const Host& host)
 {
-    if (!variable.field)
-        return ValueFromMachine(variable, project, host);
-    const Text& value = variable.field(project);
-    return variable.meaning == VariableMeaning::OwnVariable ? BracketedOwnVariable(value) : value;
+    if (variable.meaning == Meaning::ComponentFolder)
+        return ComponentOf(variable, project).CompDir;
+    if (variable.meaning == Meaning::OwnVariable)
+        return BracketedOwnVariable(project.RegPrivateVar, variable.number);
+    const auto* const value =
+        std::ranges::find(kProjectValues, variable.meaning, &ProjectValue::meaning);
+    return value != std::end(kProjectValues) ? value->field(project)
+                                             : ValueFromMachine(variable.meaning, project, host);
 }
 
-bool IsListed(const Variable& variable, const Project& project)
+bool IsListed(const VariableName& variable, const Project& project)
 {
-    return variable.meaning != VariableMeaning::ComponentFolder ||
-           project.FileComponents[static_cast<std::size_t>(variable.number) - 1].Comp != 0;
+    return variable.meaning != Meaning::ComponentFolder || ComponentOf(variable, project).Comp != 0;
 }
-
-using Meaning = VariableMeaning;
 
 } // namespace
-
-#define QUILLON_FIELD(field) [](const Project& project) -> const Text& { return project.field; }
-
-// clang-format off
-constinit const std::array<Variable, 41> kVariables{{
-    {"%DESTDIR", Meaning::MainFolder, QUILLON_FIELD(InstallDirectories.DestinationDirectory)},
-    {"%COMPDIR1", Meaning::ComponentFolder, ComponentFolder<1>, 1},
-    {"%COMPDIR2", Meaning::ComponentFolder, ComponentFolder<2>, 2},
-    {"%COMPDIR3", Meaning::ComponentFolder, ComponentFolder<3>, 3},
-    {"%COMPDIR4", Meaning::ComponentFolder, ComponentFolder<4>, 4},
-    {"%COMPDIR5", Meaning::ComponentFolder, ComponentFolder<5>, 5},
-    {"%COMPDIR6", Meaning::ComponentFolder, ComponentFolder<6>, 6},
-    {"%COMPDIR7", Meaning::ComponentFolder, ComponentFolder<7>, 7},
-    {"%COMPDIR8", Meaning::ComponentFolder, ComponentFolder<8>, 8},
-    {"%COMPDIR9", Meaning::ComponentFolder, ComponentFolder<9>, 9},
-    {"%SYSDIR", Meaning::SystemFolder},
-    {"%WINDIR", Meaning::WindowsFolder},
-    {"%SRCDIR", Meaning::SetupFolder},
-    {"%PROGRAMFILES", Meaning::ProgramFilesFolder},
-    {"%COMMONFILES", Meaning::CommonFilesFolder},
-    {"%FONTDIR", Meaning::FontFolder},
-    {"%DAODIR", Meaning::DataAccessFolder},
-    {"%MYDOCUMENTS", Meaning::DocumentsFolder},
-    {"%APPDATADIR", Meaning::ApplicationDataFolder},
-    {"%LOCALAPPDATADIR", Meaning::LocalApplicationDataFolder},
-    {"%TEMPLATESDIR", Meaning::TemplatesFolder},
-    {"%WORDSTARTUPDIR", Meaning::WordStartupFolder},
-    {"%DESTDRIVE", Meaning::MainFolderDrive},
-    {"%SRCDRIVE", Meaning::SetupDrive},
-    {"%PROJECTNAME", Meaning::ProjectName, QUILLON_FIELD(ProjectName.ProjectName)},
-    {"%PROGRAMGROUP", Meaning::ProgramGroup, QUILLON_FIELD(ProgramGroup.ProgramGroup)},
-    {"%COMPANY", Meaning::CompanyName, QUILLON_FIELD(Version.CompanyName)},
-    {"%PRODUCTNAME", Meaning::ProductName, QUILLON_FIELD(Version.ProductName)},
-    {"%PRODUCTVERSION", Meaning::ProductVersion, QUILLON_FIELD(Version.ProductVersion)},
-    {"%XPRODUCTVERSION", Meaning::ProductVersionOfFile},
-    {"%DATE", Meaning::InstallationDate},
-    {"%TIME", Meaning::InstallationTime},
-    {"%USERCOMPANY", Meaning::UserCompany, QUILLON_FIELD(LicenseData.UserCompany)},
-    {"%USERNAME", Meaning::UserName, QUILLON_FIELD(LicenseData.UserName)},
-    {"%USERADDRESS", Meaning::UserAddress, QUILLON_FIELD(LicenseData.UserAddress)},
-    {"%USERPHONE", Meaning::UserPhone, QUILLON_FIELD(LicenseData.UserPhone)},
-    {"%USERFAX", Meaning::UserFax, QUILLON_FIELD(LicenseData.UserFax)},
-    {"%USEREMAIL", Meaning::UserEmail, QUILLON_FIELD(LicenseData.Useremail)},
-    {"%REG1", Meaning::OwnVariable, QUILLON_FIELD(RegPrivateVar.Reg1), 1},
-    {"%REG2", Meaning::OwnVariable, QUILLON_FIELD(RegPrivateVar.Reg2), 2},
-    {"%REG3", Meaning::OwnVariable, QUILLON_FIELD(RegPrivateVar.Reg3), 3},
-}};
-// clang-format on
-
-#undef QUILLON_FIELD
 
 std::vector<VariableValue> ListVariableValues(Project& project, const Host& host)
 {
@@ -141,7 +125,7 @@ std::vector<VariableValue> ListVariableValues(Project& project, const Host& host
         project.ProgramGroup.ProgramGroup = project.ProjectName.ProjectName;
 
     std::vector<VariableValue> values;
-    for (const Variable& variable : kVariables)
+    for (const VariableName& variable : kVariableNames)
         if (IsListed(variable, project))
             values.push_back({Text(variable.name), ValueOf(variable, project, host)});
     return values;

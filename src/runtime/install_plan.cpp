@@ -46,7 +46,9 @@ Text DestinationOf(const PlanInput& input, const InstallRow& row)
     const Text folder = input.variables.ExpandPath(row.destination);
     const bool isBelow =
         !folder.empty() && folder[0] != '%' && folder[0] != '\\' && folder.find(':') == Text::npos;
-    const Text whole = isBelow ? JoinPath(input.variables.Value("%DESTDIR"), folder) : folder;
+    const Text whole =
+        isBelow ? JoinPath(input.variables.Value(NameOf(VariableMeaning::MainFolder)), folder)
+                : folder;
     const bool isOneName = row.name.find_first_of("\\/:") == Text::npos && !row.name.empty();
     const bool staysBelow = whole.find("\\..") == Text::npos && row.name != "..";
     if (!IsWholePath(whole) || !isOneName || !staysBelow)
@@ -151,7 +153,7 @@ Text ChooseInstallLog(const FileSystem& files, const Text& mainFolder, const Tex
 InstallPlan MakeInstallPlan(const PlanInput& input)
 {
     InstallPlan plan;
-    plan.mainFolder = input.variables.Value("%DESTDIR");
+    plan.mainFolder = input.variables.Value(NameOf(VariableMeaning::MainFolder));
     plan.hasUninstaller = input.setup.project.InstallOptions.UninstallSupport != kOff;
     plan.installLog = ChooseInstallLog(input.host.files, plan.mainFolder,
                                        input.setup.project.ProjectName.ProjectName);

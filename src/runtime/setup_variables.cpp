@@ -7,6 +7,8 @@ namespace quillon {
 
 namespace {
 
+using Meaning = VariableMeaning;
+
 constexpr std::string_view kValueMark = " :: ";
 
 Text DriveOf(const Text& path)
@@ -18,34 +20,34 @@ void SetMachineFolders(SetupVariables& variables, const VariableSources& sources
 {
     const Machine& machine = sources.host.machine;
     const Text commonFiles = sources.target.Folder(TargetFolder::CommonFiles);
-    variables.Set("%SYSDIR", machine.GetSystemDir());
-    variables.Set("%WINDIR", machine.GetWindowsDir());
-    variables.Set("%PROGRAMFILES", machine.GetProgramFilesDir());
-    variables.Set("%COMMONFILES", commonFiles);
-    variables.Set("%FONTDIR", sources.target.Folder(TargetFolder::Fonts));
-    variables.Set("%DAODIR", commonFiles + "\\Microsoft Shared\\DAO");
-    variables.Set("%MYDOCUMENTS", machine.GetMyDocumentsDir());
-    variables.Set("%APPDATADIR", machine.GetSysAppDataDirectory());
-    variables.Set("%LOCALAPPDATADIR", machine.GetSysLocalAppDataDirectory());
-    variables.Set("%TEMPLATESDIR", machine.GetSysTemplatesDirectory());
-    variables.Set("%WORDSTARTUPDIR",
+    variables.Set(Meaning::SystemFolder, machine.GetSystemDir());
+    variables.Set(Meaning::WindowsFolder, machine.GetWindowsDir());
+    variables.Set(Meaning::ProgramFilesFolder, machine.GetProgramFilesDir());
+    variables.Set(Meaning::CommonFilesFolder, commonFiles);
+    variables.Set(Meaning::FontFolder, sources.target.Folder(TargetFolder::Fonts));
+    variables.Set(Meaning::DataAccessFolder, commonFiles + "\\Microsoft Shared\\DAO");
+    variables.Set(Meaning::DocumentsFolder, machine.GetMyDocumentsDir());
+    variables.Set(Meaning::ApplicationDataFolder, machine.GetSysAppDataDirectory());
+    variables.Set(Meaning::LocalApplicationDataFolder, machine.GetSysLocalAppDataDirectory());
+    variables.Set(Meaning::TemplatesFolder, machine.GetSysTemplatesDirectory());
+    variables.Set(Meaning::WordStartupFolder,
                   JoinPath(machine.GetSysAppDataDirectory(), "Microsoft\\Word\\STARTUP"));
-    variables.Set("%SRCDIR", RemoveLastBackslash(sources.packageFolder));
-    variables.Set("%SRCDRIVE", DriveOf(sources.packageFolder));
+    variables.Set(Meaning::SetupFolder, RemoveLastBackslash(sources.packageFolder));
+    variables.Set(Meaning::SetupDrive, DriveOf(sources.packageFolder));
 }
 
 void SetProjectTexts(SetupVariables& variables, const VariableSources& sources)
 {
     const Project& project = sources.setup.project;
     const LocalTime now = sources.host.machine.Now();
-    variables.Set("%PROJECTNAME", project.ProjectName.ProjectName);
-    variables.Set("%PROGRAMGROUP", project.ProgramGroup.ProgramGroup);
-    variables.Set("%COMPANY", project.Version.CompanyName);
-    variables.Set("%PRODUCTNAME", project.Version.ProductName);
-    variables.Set("%PRODUCTVERSION", project.Version.ProductVersion);
-    variables.Set("%XPRODUCTVERSION", sources.setup.XProductVersion);
-    variables.Set("%DATE", DateText(now));
-    variables.Set("%TIME", TimeTextWithSeconds(now));
+    variables.Set(Meaning::ProjectName, project.ProjectName.ProjectName);
+    variables.Set(Meaning::ProgramGroup, project.ProgramGroup.ProgramGroup);
+    variables.Set(Meaning::CompanyName, project.Version.CompanyName);
+    variables.Set(Meaning::ProductName, project.Version.ProductName);
+    variables.Set(Meaning::ProductVersion, project.Version.ProductVersion);
+    variables.Set(Meaning::ProductVersionOfFile, sources.setup.XProductVersion);
+    variables.Set(Meaning::InstallationDate, DateText(now));
+    variables.Set(Meaning::InstallationTime, TimeTextWithSeconds(now));
 }
 
 void SetUser(SetupVariables& variables, const VariableSources& sources)
@@ -54,12 +56,13 @@ void SetUser(SetupVariables& variables, const VariableSources& sources)
     RegisteredOwner owner;
     if (sources.setup.project.DialogBoxData.GetNameCompanyFromRegistry != kOff)
         owner = sources.host.machine.GetWindowsRegisteredOwner();
-    variables.Set("%USERCOMPANY", user.UserCompany.empty() ? owner.organization : user.UserCompany);
-    variables.Set("%USERNAME", user.UserName.empty() ? owner.owner : user.UserName);
-    variables.Set("%USERADDRESS", user.UserAddress);
-    variables.Set("%USERPHONE", user.UserPhone);
-    variables.Set("%USERFAX", user.UserFax);
-    variables.Set("%USEREMAIL", user.Useremail);
+    variables.Set(Meaning::UserCompany,
+                  user.UserCompany.empty() ? owner.organization : user.UserCompany);
+    variables.Set(Meaning::UserName, user.UserName.empty() ? owner.owner : user.UserName);
+    variables.Set(Meaning::UserAddress, user.UserAddress);
+    variables.Set(Meaning::UserPhone, user.UserPhone);
+    variables.Set(Meaning::UserFax, user.UserFax);
+    variables.Set(Meaning::UserEmail, user.Useremail);
 }
 
 // A main folder without a drive lies on the drive of Windows, so that it means the same folder
@@ -77,21 +80,21 @@ void SetMainFolder(SetupVariables& variables, const VariableSources& sources)
     const Text folder = sources.destination.empty()
                             ? WithDrive(variables.ExpandPath(own), sources.host.machine)
                             : sources.destination;
-    variables.Set("%DESTDIR", folder);
-    variables.Set("%DESTDRIVE", DriveOf(folder));
+    variables.Set(Meaning::MainFolder, folder);
+    variables.Set(Meaning::MainFolderDrive, DriveOf(folder));
 }
 
 // A component's folder may be told by variables, as a whole path, or as a folder below the main
 // one; a component without a folder goes to the main one.
 void SetComponentFolders(SetupVariables& variables, const VariableSources& sources)
 {
-    const Text mainFolder = variables.Value("%DESTDIR");
+    const Text mainFolder = variables.Value(NameOf(Meaning::MainFolder));
     int number = 0;
     for (const section::FileComponent& component : sources.setup.project.FileComponents) {
         const Text folder = variables.ExpandPath(component.CompDir);
         const bool isWhole = IsWholePath(folder);
         const Text below = folder.empty() ? mainFolder : JoinPath(mainFolder, folder);
-        variables.Set("%COMPDIR" + NumberText(++number), isWhole ? folder : below);
+        variables.Set(NameOf(Meaning::ComponentFolder, ++number), isWhole ? folder : below);
     }
 }
 
@@ -145,9 +148,12 @@ SetupVariables MakeSetupVariables(const VariableSources& sources)
     SetProjectTexts(variables, sources);
     SetUser(variables, sources);
     const section::RegPrivateVar& own = sources.setup.project.RegPrivateVar;
-    variables.Set("%REG1", PrivateVariableValue(sources.host.machine, own.Reg1));
-    variables.Set("%REG2", PrivateVariableValue(sources.host.machine, own.Reg2));
-    variables.Set("%REG3", PrivateVariableValue(sources.host.machine, own.Reg3));
+    variables.Set(NameOf(Meaning::OwnVariable, 1),
+                  PrivateVariableValue(sources.host.machine, own.Reg1));
+    variables.Set(NameOf(Meaning::OwnVariable, 2),
+                  PrivateVariableValue(sources.host.machine, own.Reg2));
+    variables.Set(NameOf(Meaning::OwnVariable, 3),
+                  PrivateVariableValue(sources.host.machine, own.Reg3));
     // The main folder may be told by any of the variables so far, the components' folders by it.
     SetMainFolder(variables, sources);
     SetComponentFolders(variables, sources);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "formats/setup_information.h"
+#include "formats/variable_names.h"
 #include "platform/host.h"
 #include "runtime/target.h"
 
@@ -15,6 +16,7 @@ class SetupVariables {
 public:
     /// `name` begins with '%'.
     void Set(std::string_view name, std::string_view value);
+    void Set(VariableMeaning meaning, std::string_view value) { Set(NameOf(meaning), value); }
     Text Value(std::string_view name) const;
 
     /// Replaces each known variable; where two names fit, the longer one is meant. A word that is

@@ -70,6 +70,13 @@ TEST_F(SetupVariablesTest, StandForWhatTheyMeanOnThisMachine)
         EXPECT_EQ(variables.Expand(variable), value) << variable;
 }
 
+TEST_F(SetupVariablesTest, KnowEveryWordThatTheToolOffers)
+{
+    const SetupVariables variables = Make();
+    for (const VariableName& variable : kVariableNames)
+        EXPECT_EQ(variables.Expand(variable.name), variables.Value(variable.name)) << variable.name;
+}
+
 TEST_F(SetupVariablesTest, LetTheLongerNameWin)
 {
     SetupVariables variables;
