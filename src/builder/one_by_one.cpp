@@ -10,9 +10,6 @@ namespace quillon {
 
 namespace {
 
-// Behind the names of files that lie all in one folder, so that none of them looks runnable.
-constexpr char kNameMark = '_';
-
 // Where the routine stands, for the line that tells its failure.
 struct Layout {
     Text base;
@@ -35,22 +32,15 @@ void MakeBaseFolder(CreateRun& run, const Text& folder)
     MakeFolder(run, folder);
 }
 
-// A folder below %DESTDIR lands below a plain folder DESTDIR.
-Text FolderInTree(const Text& base, const Text& destination)
-{
-    const Text plain = RemoveLastBackslash(destination);
-    return base + "\\" + (plain.starts_with('%') ? plain.substr(1) : plain);
-}
-
 void CopyPlain(CreateRun& run, Layout& layout, const FileListRow& row)
 {
     const bool keepsTree = run.options.CreateFolderStructureInFolderSetupFiles != kOff;
     layout.folder = keepsTree ? FolderInTree(layout.base, row[Destination]) : layout.base;
     if (keepsTree && !run.host.files.DirExists(layout.folder))
         MakeFolder(run, layout.folder);
-    const Text target = layout.folder + "\\" + row[Filename];
+    const Text name = keepsTree ? row[Filename] : MarkedName(row[Filename]);
     run.host.files.CopyContent(ConvertLongFilenameToShortFilename(run.host.files, row[Source]),
-                               keepsTree ? target : target + kNameMark);
+                               JoinPath(layout.folder, name));
     run.ask.AddStatusLine("Kopierar '" + row[Filename] + "'");
 }
 
@@ -61,8 +51,8 @@ void CopyCompressed(CreateRun& run, const Layout& layout, const FileListRow& row
     const Text source = ConvertLongFilenameToShortFilename(run.host.files, row[Source]);
     Integer result = CompressionResult::kSourceMissing;
     if (run.compression.IfcAddFileListItem(source) != 0)
-        result =
-            run.compression.IfcCreateZipFile(layout.base + "\\" + row[Filename] + kNameMark, 0, "");
+        result = run.compression.IfcCreateZipFile(JoinPath(layout.base, MarkedName(row[Filename])),
+                                                  0, "");
     run.compression.IfcFreeFileList();
     if (result > CompressionResult::kDone) {
         TellCompressionError(run.ask, "'" + row[Filename] + "'", result,

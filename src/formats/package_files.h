@@ -3,6 +3,7 @@
 #pragma once
 
 #include "helpers/number_text.h"
+#include "helpers/text.h"
 
 namespace quillon {
 
@@ -21,6 +22,13 @@ inline constexpr const char* kUnzipLibraryName = "DUNZIP32.DLL";
 inline constexpr const char* kRegistryHelperName = "QNREG32.BIN";
 inline constexpr const char* kSecondRegistryHelperName = "QNXREG2.BIN";
 inline constexpr const char* kUninstallerName = "QNXUNIN.BIN";
+
+/// The name of a file that is kept by itself, in one folder with all the others: none of these
+/// names looks runnable.
+Text MarkedName(const Text& name);
+/// The folder of such a file where the folders of the destinations are kept, with plain names: what
+/// goes below %DESTDIR lies below a folder DESTDIR in `base`.
+Text FolderInTree(const Text& base, const Text& destination);
 
 /// The values of `TargetMedia`.
 enum class Medium : Integer { Floppy = 1, CompressedCd = 2, CdTree = 3, Internet = 4 };

@@ -52,11 +52,8 @@ Text LooseFilePath(const Text& packageFolder, const SetupInformation& setup, con
     const bool hasOwnFolder = setup.PlaceCompressedFilesInFolderSetupFiles != kOff;
     const Text base = hasOwnFolder ? JoinPath(packageFolder, kSetupFilesFolder) : packageFolder;
     if (setup.CreateFolderStructureInFolderSetupFiles == kOff)
-        return JoinPath(base, row.name + "_");
-    Text folder = RemoveLastBackslash(row.destination);
-    if (folder.starts_with('%'))
-        folder.erase(0, 1);
-    return JoinPath(JoinPath(base, folder), row.name);
+        return JoinPath(base, MarkedName(row.name));
+    return JoinPath(FolderInTree(base, row.destination), row.name);
 }
 
 bool MayLackSource(const InstallRow& row)

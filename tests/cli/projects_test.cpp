@@ -99,6 +99,11 @@ TEST_F(ProjectCalls, OpensAnEarlierProjectFirst)
     // Startup lines live on in the next project that has none.
     EXPECT_THAT(disk.Get("alone.qnp"), testing::Not(testing::HasSubstr("SET A=1")));
     EXPECT_THAT(disk.Get("after.qnp"), testing::HasSubstr("SET A=1"));
+
+    const ProgramRun gone = Quillonc({"resave", in, disk.Path("x.qnp"), "--after", "S:\\gone.qnp"});
+    EXPECT_EQ(gone.exitCode, 3);
+    EXPECT_EQ(gone.err, "Filen 'S:\\gone.qnp' finns inte.\n");
+    EXPECT_FALSE(disk.Has("x.qnp"));
 }
 
 TEST_F(ProjectCalls, SavesOverTheProjectItself)
