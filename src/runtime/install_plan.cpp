@@ -43,7 +43,8 @@ Text ReasonToSkip(const PlanInput& input, const InstallRow& row)
 // A folder without a drive lies below the main folder.
 Text DestinationOf(const PlanInput& input, const InstallRow& row)
 {
-    const Text folder = input.variables.ExpandPath(row.destination);
+    // Windows takes a slash for a backslash, so both have to look the same to the tests below.
+    const Text folder = ReplaceAll(input.variables.ExpandPath(row.destination), "/", "\\");
     const bool isBelow =
         !folder.empty() && folder[0] != '%' && folder[0] != '\\' && folder.find(':') == Text::npos;
     const Text whole =
