@@ -251,19 +251,12 @@ void Uninstallation::RemoveKeyWithAllBelow(const RegistryKey& key)
     input_.log.Line("Tar bort ur registret: " + KeyText(key));
 }
 
-// Products that share a main folder share the uninstaller too; it goes with the last log.
 void Uninstallation::RemoveUninstaller()
 {
-    const Text folder = ExtractDirectory(input_.logPath);
+    const Text uninstaller = UninstallerPath(ExtractDirectory(input_.logPath));
+    if (GoesWithProduct(files_, input_.logPath, uninstaller))
+        RemoveFile(uninstaller);
     RemoveFile(input_.logPath);
-    const std::vector<FolderEntry> entries = files_.List(folder);
-    const bool isNeeded =
-        std::any_of(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
-            const Text name = UpperCase(entry.name);
-            return name.substr(0, 7) == "QNXUNIN" && ExtensionFromFirstPoint(name) == "LOG";
-        });
-    if (!isNeeded)
-        RemoveFile(UninstallerPath(folder));
 }
 
 void Uninstallation::RemoveFolders()
@@ -311,6 +304,20 @@ std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, co
 ExitCode Uninstall(const UninstallInput& input)
 {
     return Uninstallation(input).Run();
+}
+
+bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& uninstaller)
+{
+    const Text folder = ExtractDirectory(logPath);
+    const Text own = files.ShortPath(UninstallerPath(folder));
+    if (!EqualIgnoreCase(files.ShortPath(uninstaller), own) || !files.DirExists(folder))
+        return false;
+    const std::vector<FolderEntry> entries = files.List(folder);
+    return std::none_of(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
+        const Text name = UpperCase(entry.name);
+        const bool isLog = name.starts_with("QNXUNIN") && ExtensionFromFirstPoint(name) == "LOG";
+        return isLog && !EqualIgnoreCase(name, ExtractFilename(logPath));
+    });
 }
 
 } // namespace quillon

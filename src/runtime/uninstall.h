@@ -41,4 +41,8 @@ struct UninstallInput {
 /// `Failed` where something could not be removed; the rest is.
 ExitCode Uninstall(const UninstallInput& input);
 
+/// Products that share a main folder share the uninstaller in it: true where this product's going
+/// takes along the program at `uninstaller`.
+bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& uninstaller);
+
 } // namespace quillon

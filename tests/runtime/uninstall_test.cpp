@@ -50,7 +50,13 @@ TEST_F(UninstallTest, LeavesTheUninstallerToAnotherProductInTheSameFolder)
     project.ProjectName.ProjectName = "Annat";
     ASSERT_EQ(Install(), ExitCode::Done);
     EXPECT_TRUE(memory.files.FileExists(kMain + "\\QNXUNIN2.LOG"));
+    const Text uninstaller = kMain + "\\qnxunin.exe";
+    EXPECT_FALSE(GoesWithProduct(files, kMain + "\\QNXUNIN.LOG", uninstaller));
+    EXPECT_FALSE(GoesWithProduct(files, kMain + "\\qnxunin2.log", uninstaller));
     ASSERT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_TRUE(GoesWithProduct(files, kMain + "\\QNXUNIN2.LOG", uninstaller));
+    EXPECT_FALSE(GoesWithProduct(files, "D:\\Kopia\\QNXUNIN2.LOG", uninstaller))
+        << "another folder's";
     EXPECT_TRUE(memory.files.FileExists(kMain + "\\QNXUNIN.EXE"));
     EXPECT_FALSE(memory.files.FileExists(kMain + "\\QNXUNIN.LOG"));
 }

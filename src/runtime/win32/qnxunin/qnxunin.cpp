@@ -42,9 +42,12 @@ CommandLine ReadCommandLine(const Text& line)
 }
 
 // A running program can't be deleted, but it can be moved: out of the product's folder, so that the
-// folder can go. Empty where it can't even be moved, from one drive to another.
-Text MoveSelfAway(const Host& host)
+// folder can go. Empty where it has to stay, and where it can't even be moved, from one drive to
+// another.
+Text MoveSelfAway(const Host& host, const Text& logPath)
 {
+    if (!GoesWithProduct(host.files, logPath, ProgramPath()))
+        return {};
     const Text away = JoinPath(host.machine.GetTempDir(),
                                "QNXUNIN" + NumberText(host.machine.Random(1000000)) + ".TMP");
     const bool moved = MoveFileExW(WidePath(ProgramPath()).c_str(), WidePath(away).c_str(), 0);
@@ -98,7 +101,7 @@ ExitCode RunUninstall(Host& host, Ask& ask, const CommandLine& line,
     if (!line.switches.logFile.empty())
         log = TextLog(host.files, host.machine, line.switches.logFile);
     WinTarget target;
-    const Text away = MoveSelfAway(host);
+    const Text away = MoveSelfAway(host, line.logPath);
     const ExitCode code = Uninstall({host, target, ask, log, line.logPath, product});
     log.Close();
     if (!away.empty())
