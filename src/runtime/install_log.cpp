@@ -1,6 +1,7 @@
 #include "runtime/install_log.h"
 
 #include "platform/whole_file.h"
+#include "runtime/registry_lines.h"
 
 #include <algorithm>
 
@@ -49,6 +50,21 @@ Text Unescape(std::string_view field)
     return text;
 }
 
+bool NamesRegistry(RecordKind kind)
+{
+    return kind == RecordKind::Key || kind == RecordKind::Value ||
+           kind == RecordKind::UninstallKey || kind == RecordKind::UninstallValue;
+}
+
+bool IsSound(const LogRecord& record)
+{
+    if (!NamesRegistry(record.kind))
+        return true;
+    const auto root = RootNamed(record.fields[0]);
+    const bool isWholeKey = record.kind == RecordKind::UninstallKey;
+    return root && !(isWholeKey && IsSystemKey({*root, record.fields[1]}));
+}
+
 } // namespace
 
 Text LogRecordLine(const LogRecord& record)
@@ -67,9 +83,12 @@ std::optional<LogRecord> ReadLogRecord(std::string_view line)
         parts.push_back(Unescape(line.substr(at, end - at)));
         at = end + 1;
     }
-    for (std::size_t kind = 0; kind < std::size(kWords); ++kind)
-        if (parts[0] == kWords[kind].word && parts.size() == kWords[kind].fields + 1)
-            return LogRecord{RecordKind(kind), {parts.begin() + 1, parts.end()}};
+    for (std::size_t kind = 0; kind < std::size(kWords); ++kind) {
+        if (parts[0] != kWords[kind].word || parts.size() != kWords[kind].fields + 1)
+            continue;
+        const LogRecord record{RecordKind(kind), {parts.begin() + 1, parts.end()}};
+        return IsSound(record) ? std::optional(record) : std::nullopt;
+    }
     return std::nullopt;
 }
 

@@ -40,7 +40,8 @@ struct LogRecord {
 };
 
 Text LogRecordLine(const LogRecord& record);
-/// Nothing where the word is unknown or fields are missing.
+/// Nothing where the word is unknown, fields are missing, or the registry's root or key is none:
+/// from a damaged log nothing may be removed that was not installed.
 std::optional<LogRecord> ReadLogRecord(std::string_view line);
 
 /// The records of a log file from its bytes; nothing where it is no such log. A last line that

@@ -139,16 +139,20 @@ Text PlainSubKey(std::string_view subKey)
     return plain;
 }
 
-bool RemovesSystemKey(const RegistryLine& line)
+bool IsSystemKey(const RegistryKey& key)
 {
     constexpr std::string_view kNever[] = {"", "SOFTWARE", "SYSTEM", "SOFTWARE\\Microsoft",
                                            "SOFTWARE\\Classes"};
+    const Text subKey = PlainSubKey(key.subKey);
+    return std::any_of(std::begin(kNever), std::end(kNever),
+                       [&](std::string_view never) { return EqualIgnoreCase(subKey, never); });
+}
+
+bool RemovesSystemKey(const RegistryLine& line)
+{
     const bool removes =
         line.kind == RegistryLine::Kind::Delete || line.kind == RegistryLine::Kind::Uninstall;
-    return removes && !line.hasValue &&
-           std::any_of(std::begin(kNever), std::end(kNever), [&](std::string_view never) {
-               return EqualIgnoreCase(line.key.subKey, never);
-           });
+    return removes && !line.hasValue && IsSystemKey(line.key);
 }
 
 RegistryLine ReadRegistryLine(std::string_view line)

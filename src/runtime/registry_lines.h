@@ -24,9 +24,12 @@ struct RegistryLine {
 
 RegistryLine ReadRegistryLine(std::string_view line);
 
-/// A sub key as the registry takes it: no backslash twice, none at either end. A key has no limit of
-/// its own, and one that was cut would be another key.
+/// A sub key as the registry takes it: no backslash twice, none at either end. A key has no limit
+/// of its own, and one that was cut would be another key.
 Text PlainSubKey(std::string_view subKey);
+
+/// True for a key that the system itself lives in, and for a root.
+bool IsSystemKey(const RegistryKey& key);
 
 /// True where a line would take the system along: a whole key of its own with all below it. A
 /// variable that turns out empty makes such a key of a harmless one.

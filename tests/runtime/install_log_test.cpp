@@ -28,6 +28,19 @@ TEST(LogRecord, IsRefusedWithAnUnknownWordOrWrongFields)
     EXPECT_EQ(ReadLogRecord(""), std::nullopt);
 }
 
+TEST(LogRecord, IsRefusedWhereItNamesNoKeyThatASetupMakes)
+{
+    EXPECT_TRUE(ReadLogRecord("UNINSTALLKEY\tHKEY_CURRENT_USER\tFirma"));
+    EXPECT_EQ(ReadLogRecord("UNINSTALLKEY\tHKEY_CURRENT_USE\tFirma"), std::nullopt);
+    EXPECT_EQ(ReadLogRecord("KEY\t\tFirma"), std::nullopt);
+    EXPECT_EQ(ReadLogRecord("UNINSTALLVALUE\tX\tFirma\tv"), std::nullopt);
+    EXPECT_EQ(ReadLogRecord("VALUE\tX\tFirma\tv\t1\t\t\t"), std::nullopt);
+    for (const char* key : {"", "\\", "software", "SOFTWARE\\Microsoft\\", "System"})
+        EXPECT_EQ(ReadLogRecord(Text("UNINSTALLKEY\tHKEY_LOCAL_MACHINE\t") + key), std::nullopt)
+            << key;
+    EXPECT_TRUE(ReadLogRecord("KEY\tHKEY_LOCAL_MACHINE\tSOFTWARE")) << "goes only if it is empty";
+}
+
 TEST(ReadInstallLog, LeavesABrokenOffLastLineOut)
 {
     const auto records =
