@@ -233,7 +233,7 @@ void Changes::Undo()
     for (; !undo_.empty(); undo_.pop_back()) {
         try {
             undo_.back()();
-        } catch (const RunError& error) {
+        } catch (const std::exception& error) { // whatever it is, the steps before it have to go on
             log_.Line(Text("Kan inte återställa: ") + error.what());
         }
     }

@@ -156,6 +156,18 @@ TEST_F(InstallTest, LeavesTheMachineAsItWasWhereverItFails)
     EXPECT_GT(failAt, 100);
 }
 
+TEST_F(InstallTest, GoesOnTakingBackWhateverOneStepThrows)
+{
+    InstallLog record;
+    TextLog log;
+    Changes changes(host, target, record, log);
+    changes.MakeFolder("C:\\Ny");
+    changes.MakeKey({RegistryRoot::LocalMachine, "SOFTWARE\\Ny"});
+    target.beforeChange = [] { throw std::bad_alloc(); };
+    EXPECT_NO_THROW(changes.Undo());
+    EXPECT_FALSE(memory.files.DirExists("C:\\Ny"));
+}
+
 TEST_F(InstallTest, TellsAFullDiskByItsOwnCode)
 {
     FillMachine();
