@@ -185,7 +185,8 @@ void Installation::RegisterOne(const Text& path)
     }
 }
 
-// Files that are in use take their place when the machine starts; a helper registers them then.
+// Files that are in use take their place when the machine starts; a helper registers them then. One
+// command for each, since the system passes over a command of more than 260 characters.
 void Installation::RegisterAtRestart()
 {
     const std::vector<Text>& paths = files_.FilesToRegisterAtRestart();
@@ -193,15 +194,14 @@ void Installation::RegisterAtRestart()
         return;
     const Text helper = JoinPath(input_.plan.mainFolder, "QNXREG2.EXE");
     PutHelper(RuntimeFile::kSecondRegistryHelper, helper);
-    Text command = "\"" + helper + "\"";
-    for (const Text& path : paths) {
-        record_.Add(RecordKind::Registered, {path});
-        command += " \"" + path + "\"";
+    const RegistryKey key{RegistryRoot::LocalMachine,
+                          "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"};
+    const Text name = "QNXREG2 " + input_.setup.project.ProjectName.ProjectName;
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        record_.Add(RecordKind::Registered, {paths[i]});
+        changes_.WriteValue(key, name + (i == 0 ? "" : " " + NumberText(i + 1)),
+                            TextData("\"" + helper + "\" \"" + paths[i] + "\""));
     }
-    changes_.WriteValue(
-        {RegistryRoot::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"},
-        "QNXREG2 " + input_.setup.project.ProjectName.ProjectName, TextData(command),
-        Changes::Recorded::No);
 }
 
 void Installation::RegisterFonts()

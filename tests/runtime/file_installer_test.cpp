@@ -118,6 +118,23 @@ TEST_F(CopyOptionsTest, ALetsAFileInUseBeReplacedAtTheNextStart)
     EXPECT_THAT(Log(), HasSubstr("ersätts när datorn startas om"));
 }
 
+TEST_F(CopyOptionsTest, EachFileInUseIsRegisteredByACommandOfItsOwn)
+{
+    const Text second = "C:\\Program\\Exempel\\b.dll";
+    files.inUse = {kFile, second};
+    memory.files.Put(second, "gammal", kOlder);
+    AddFile("b.dll", "%DESTDIR", "ny", "RA");
+    EXPECT_EQ(InstallOver("RA", kOlder), ExitCode::Done) << Log();
+    const RegistryKey key{RegistryRoot::LocalMachine,
+                          "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"};
+    const Text helper = "\"C:\\Program\\Exempel\\QNXREG2.EXE\" ";
+    EXPECT_EQ(target.TextAt(key, "QNXREG2 Exempel"), helper + "\"" + second + "\"");
+    EXPECT_EQ(target.TextAt(key, "QNXREG2 Exempel 2"), helper + "\"" + kFile + "\"");
+    files.inUse.clear();
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(target.TextAt(key, "QNXREG2 Exempel"), "<none>") << "before the next start";
+}
+
 TEST_F(CopyOptionsTest, AFileInUseEndsTheInstallationWithoutA)
 {
     memory.files.Put(kFile, "gammal", kOlder);
