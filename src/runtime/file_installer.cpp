@@ -23,6 +23,14 @@ RegistryKey SharedFilesKey()
     return {RegistryRoot::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\SharedDLLs"};
 }
 
+std::optional<std::uint32_t> CountOfUsers(const Target& target, const Text& path)
+{
+    auto data = target.ReadValue(SharedFilesKey(), path);
+    if (data && data->type == kRegistryBytes)
+        data->type = kRegistryNumber;
+    return data ? NumberOf(*data) : std::nullopt;
+}
+
 Text VersionOfFile(const FileSystem& files, const Text& path)
 {
     const auto file = files.OpenInput(path);
@@ -149,8 +157,7 @@ void FileInstaller::CountSharedFile(const PlannedFile& file, bool existed)
 {
     if (record_.Has(RecordKind::Shared, file.path))
         return;
-    const auto data = input_.target.ReadValue(SharedFilesKey(), file.path);
-    const std::uint32_t before = data ? NumberOf(*data).value_or(0) : existed ? 1 : 0;
+    const std::uint32_t before = CountOfUsers(input_.target, file.path).value_or(existed ? 1 : 0);
     // The key first, since it can go only when the count in it has gone.
     changes_.MakeKey(SharedFilesKey());
     record_.Add(RecordKind::Shared, {file.path});

@@ -161,22 +161,22 @@ void Uninstallation::RemoveReplaced(std::size_t index)
         RemoveFile(path);
 }
 
-// Whether the file is still needed by others after us, so that what they know of it has to stay.
+// Whether the file is still there after us, so that what the system knows of it has to stay.
 bool Uninstallation::StaysBehind(const Text& path) const
 {
-    const auto count = input_.target.ReadValue(SharedFilesKey(), path);
-    bool madeByUs = false;
-    bool kept = false;
+    const std::uint32_t users = CountOfUsers(input_.target, path).value_or(0);
+    bool goes = false;
     for (std::size_t i = 0; i < records_.size(); ++i) {
         const LogRecord& record = records_[i];
         if (!EqualIgnoreCase(record.fields[0], path))
             continue;
-        if (record.kind == RecordKind::Shared && count && NumberOf(*count).value_or(0) > 1)
+        const bool isShared = record.kind == RecordKind::Shared;
+        if (isShared && users > 1)
             return true;
-        madeByUs = madeByUs || record.kind == RecordKind::File;
-        kept = kept || (record.kind == RecordKind::Replaced && IsKeptInWindows(i));
+        goes = goes || record.kind == RecordKind::File || (isShared && users == 1) ||
+               (record.kind == RecordKind::Replaced && !IsKeptInWindows(i));
     }
-    return kept && !madeByUs;
+    return !goes;
 }
 
 void Uninstallation::RestoreBackup(const Text& path, const Text& backup)
@@ -187,13 +187,15 @@ void Uninstallation::RestoreBackup(const Text& path, const Text& backup)
     input_.log.Line("Lägger tillbaka " + path);
 }
 
-// The product that goes last takes a shared file along.
+// The product that goes last takes a shared file along. Where the count has been lost nobody knows
+// who is last, and only a file of our own goes, by its own record.
 void Uninstallation::ReleaseShared(const Text& path)
 {
-    const auto data = input_.target.ReadValue(SharedFilesKey(), path);
-    const std::uint32_t count = data ? NumberOf(*data).value_or(0) : 0;
-    if (count > 1) {
-        input_.target.WriteValue(SharedFilesKey(), path, NumberData(count - 1));
+    const auto count = CountOfUsers(input_.target, path);
+    if (!count)
+        return;
+    if (*count > 1) {
+        input_.target.WriteValue(SharedFilesKey(), path, NumberData(*count - 1));
         stillShared_.push_back(path);
         return;
     }

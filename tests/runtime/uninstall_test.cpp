@@ -1,5 +1,6 @@
 #include "setup_fixture.h"
 
+#include "runtime/file_installer.h"
 #include "runtime/uninstall.h"
 
 namespace quillon {
@@ -70,6 +71,43 @@ TEST_F(UninstallTest, LeavesAFileThatWasInWindowsBefore)
     EXPECT_EQ(memory.files.Get("C:\\WINDOWS\\gammal.dll"), "ny");
     EXPECT_EQ(target.registered.count("C:\\WINDOWS\\gammal.dll"), 1U);
     EXPECT_THAT(Log(), HasSubstr("filen fanns i Windows redan före installationen"));
+}
+
+TEST_F(UninstallTest, LeavesTheRegistrationOfAFileThatStays)
+{
+    const Text foreign = "C:\\WINDOWS\\SYSTEM32\\annan.ocx";
+    memory.files.Put(foreign, "annans");
+    project.Lists.RegisterFileList = foreign + "\r\n%DESTDIR\\Bin\\prog.exe";
+    AddFile("kvar.dll", "%SYSDIR", "kvar", "R*");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(target.registered.size(), 3U);
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(target.registered, (std::set<Text>{foreign, "C:\\WINDOWS\\SYSTEM32\\kvar.dll"}));
+}
+
+TEST_F(UninstallTest, LeavesASharedFileThatWasKeptWhereItsCountIsLost)
+{
+    const Text shared = "C:\\WINDOWS\\SYSTEM32\\delad.dll";
+    memory.files.Put(shared, "annans", {2005, 1, 1, 0, 0, 0});
+    AddFile("delad.dll", "%SYSDIR", "vår", "DS");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    target.RemoveValue(SharedFilesKey(), shared);
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(memory.files.Get(shared), "annans");
+}
+
+TEST_F(UninstallTest, GoesOnCountingFromTheFourBytesOfAnOlderSetup)
+{
+    const Text shared = "C:\\WINDOWS\\SYSTEM32\\delad.dll";
+    memory.files.Put(shared, "annans", {2003, 1, 1, 0, 0, 0});
+    target.MakeKey(SharedFilesKey());
+    target.WriteValue(SharedFilesKey(), shared, BytesData(std::string("\3\0\0\0", 4)));
+    AddFile("delad.dll", "%SYSDIR", "vår", "DS");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(target.ReadValue(SharedFilesKey(), shared), NumberData(4));
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(target.ReadValue(SharedFilesKey(), shared), NumberData(3));
+    EXPECT_TRUE(memory.files.FileExists(shared));
 }
 
 TEST_F(UninstallTest, KeepsAValueThatChangedSinceButTakesItsOwnAway)
