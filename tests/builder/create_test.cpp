@@ -253,6 +253,19 @@ TEST(RunCreate, KeepsWhatTheFormChose)
     EXPECT_EQ(desk.project.ProgramGroup.ProgramGroup, "Demo");
 }
 
+TEST(RunCreate, ChangesTheProjectsMediumOnlyBehindTheRuntimeFiles)
+{
+    CreateDesk desk;
+    desk.project.Media.TargetMedia = Integer(Medium::Floppy);
+    desk.machine.files.RemoveFile("C:\\Quillon\\Release\\DUNZIP32.DLL");
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_EQ(desk.project.Media.TargetMedia, Integer(Medium::Floppy));
+    desk.machine.files.Put("C:\\Quillon\\Release\\DUNZIP32.DLL", "x");
+    desk.project.Files.rows[0][Source] = "c:\\data\\saknas.txt";
+    EXPECT_EQ(desk.Create({{BoxKind::Critical, "Fil saknas"}}), CreateResult::Failed);
+    EXPECT_EQ(desk.project.Media.TargetMedia, Integer(Medium::CompressedCd));
+}
+
 // Kept: choosing new systems turns it on, and choosing all systems again leaves it on.
 TEST(RunCreate, LeavesDontInstallSysFilesOnNewWinOn)
 {

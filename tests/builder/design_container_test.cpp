@@ -68,6 +68,30 @@ TEST_F(DesignContainer, LeavesOutATextBoxThatIsNotShown)
     EXPECT_EQ(EntryNames(desk).front(), "bakgrund.jpg");
 }
 
+// The runtime shows these before anybody was asked for a password.
+TEST_F(DesignContainer, IsAlwaysCompressedAndNeverEncrypted)
+{
+    desk.form.UseCompression = 0;
+    desk.project.DialogBoxes.PasswordDlg = 1;
+    desk.project.DialogBoxData.CorrectPassword = "Hemligt1";
+    desk.machine.files.Put("C:\\Bilder\\p1.bmp", std::string(10'000, 'x'));
+    EXPECT_EQ(desk.With(CreateDesignContainer), Step::GoOn);
+    const ZipReader container(desk.machine.files.OpenInput("C:\\Ut\\DESOBJ.DAT"));
+    for (const ZipEntry& entry : container.Entries()) {
+        EXPECT_EQ(entry.isStored, entry.name != "p1.bmp") << entry.name;
+        EXPECT_FALSE(entry.isEncrypted) << entry.name;
+    }
+}
+
+TEST_F(DesignContainer, GrowsInTheToolsOwnTemporaryFolderWhereTheOptionSaysSo)
+{
+    desk.options.UseTempZipPath = kOn;
+    desk.options.TempZipPath = "D:\\Saknas";
+    EXPECT_EQ(desk.With(CreateDesignContainer), Step::GoOn);
+    ASSERT_TRUE(desk.compressionFailure);
+    EXPECT_EQ(desk.compressionFailure->Result(), CompressionResult::kCannotWrite);
+}
+
 TEST_F(DesignContainer, IsNotMadeWithoutObjects)
 {
     desk.project = Project();

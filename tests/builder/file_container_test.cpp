@@ -146,6 +146,17 @@ TEST_F(FileContainer, TellsAFullDestinationByNumber)
     EXPECT_EQ(desk.statusLines.back(), " Kan ej skapa FILEDATA.DAT");
 }
 
+TEST_F(FileContainer, GrowsInTheToolsOwnTemporaryFolderWhereTheOptionSaysSo)
+{
+    desk.AddFile("a.txt");
+    desk.options.TempZipPath = "D:\\Saknas";
+    Make();
+    EXPECT_FALSE(desk.CreateFailed);
+    desk.options.UseTempZipPath = kOn;
+    Make();
+    EXPECT_EQ(desk.statusLines[4], " DynaZip rapporterade fel #16!");
+}
+
 TEST_F(FileContainer, EndsAtAFileThatTheListDoesNotTake)
 {
     desk.AddFile("a.txt");

@@ -159,6 +159,21 @@ TEST_F(OneByOne, CompressesEachFileAtALevel)
     EXPECT_EQ(container.Entries().at(0).name, "data/a.txt");
 }
 
+TEST_F(OneByOne, CompressesWithoutLogAndTemporaryFolder)
+{
+    desk.form.UseCompression = 1;
+    desk.options.CreateZipLogFile = kOn;
+    desk.options.UseTempZipPath = kOn;
+    desk.options.TempZipPath = "D:\\Saknas";
+    desk.project.DialogBoxes.PasswordDlg = 1;
+    desk.project.DialogBoxData.CorrectPassword = "Hemligt1";
+    Copy();
+    EXPECT_FALSE(desk.CreateFailed);
+    const ZipReader container(desk.machine.files.OpenInput("C:\\Ut\\SetupFiles\\a.txt_"));
+    EXPECT_FALSE(container.Entries().at(0).isEncrypted);
+    EXPECT_FALSE(desk.machine.files.FileExists("C:\\WINDOWS\\DYNAZIP.LOG"));
+}
+
 TEST_F(OneByOne, GoesOnBehindAFileThatCannotBeCompressed)
 {
     desk.form.UseCompression = 1;
