@@ -48,6 +48,18 @@ CreateForm FillForm(const CallContext& context, Session& session)
     return form;
 }
 
+void RefuseWhatCannotBeMade(const CreateForm& form)
+{
+    if (form.TargetMedia == Medium::Internet)
+        throw CallFailure{"Mediet internet kan ännu ej skapas; välj floppy, cd eller tree.",
+                          Exit::Stopped};
+    // The steps would cut a longer one and write somewhere else.
+    if (CharacterCount(form.tDestinationDir) > kLongestPath)
+        throw CallFailure{"Destinationskatalogen är längre än " + NumberText(kLongestPath) +
+                              " tecken: '" + form.tDestinationDir + "'.",
+                          Exit::Stopped};
+}
+
 const char* ResultWord(CreateResult result)
 {
     switch (result) {
@@ -117,14 +129,7 @@ Exit CreatePackage(const CallContext& context)
         throw CallFailure{PartlyReadText(path) + " Ingen installation skapas.", Exit::Unreadable};
 
     CreateForm form = FillForm(context, session);
-    if (form.TargetMedia == Medium::Internet)
-        throw CallFailure{"Mediet internet kan ännu ej skapas; välj floppy, cd eller tree.",
-                          Exit::Stopped};
-    // The steps would cut a longer one and write somewhere else.
-    if (CharacterCount(form.tDestinationDir) > kLongestPath)
-        throw CallFailure{"Destinationskatalogen är längre än " + NumberText(kLongestPath) +
-                              " tecken: '" + form.tDestinationDir + "'.",
-                          Exit::Stopped};
+    RefuseWhatCannotBeMade(form);
     FolderDisks disks(context.host, form.tDestinationDir);
     CompressionInterface compression(context.host, ask, disks);
     CreateRun run{.project = session.project,

@@ -84,7 +84,7 @@ private:
         const int result = inflate(&stream_, Z_NO_FLUSH);
         // No progress is what it answers when the last full buffer was all that there was.
         Require(result == Z_OK || result == Z_STREAM_END || result == Z_BUF_ERROR,
-                "en posts data är skadade");
+                "packade data går ej att packa upp");
         isDone_ = result == Z_STREAM_END;
         output.Write(std::span<const std::byte>(out_).first(out_.size() - stream_.avail_out));
         if (isDone_)
