@@ -3,6 +3,7 @@
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/win32/locked_folder.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
 #include "runtime/changes.h"
@@ -18,7 +19,7 @@ PrivateFolder::PrivateFolder(Host& host) : host_(host)
     // Only a folder that did not exist before is private, so its making has to say so itself.
     do {
         path_ = JoinPath(parent, "QN" + NumberText(host.machine.Random(1000000)) + ".TMP");
-        if (CreateDirectoryW(WidePath(path_).c_str(), nullptr))
+        if (MakeLockedFolder(WidePath(path_).c_str()))
             return;
     } while (GetLastError() == ERROR_ALREADY_EXISTS);
     FailAsWindowsSays(path_);

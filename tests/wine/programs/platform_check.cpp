@@ -4,6 +4,7 @@
 #include "platform/crypto.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
+#include "platform/win32/locked_folder.h"
 #include "platform/win32/registry_key.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
@@ -11,6 +12,7 @@
 
 #include <windows.h>
 
+#include <aclapi.h>
 #include <shellapi.h>
 
 using namespace quillon;
@@ -249,6 +251,47 @@ void CheckMachine(Checks& checks, const WinFiles& files)
         "starting no program");
 }
 
+// Whether everyone has some right to the folder. Wine gives the rights of the Unix folder here.
+bool IsOpenToEveryone(const Text& folder)
+{
+    BYTE everyone[SECURITY_MAX_SID_SIZE];
+    DWORD size = sizeof everyone;
+    ACL* list = nullptr;
+    void* security = nullptr;
+    std::wstring path = Wide(folder);
+    if (!CreateWellKnownSid(WinWorldSid, nullptr, everyone, &size) ||
+        GetNamedSecurityInfoW(path.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr,
+                              nullptr, &list, nullptr, &security) != ERROR_SUCCESS)
+        return true;
+    bool isOpen = list == nullptr;
+    void* entry = nullptr;
+    for (DWORD i = 0; list != nullptr && GetAce(list, i, &entry); ++i) {
+        auto* const allowed = static_cast<ACCESS_ALLOWED_ACE*>(entry);
+        isOpen = isOpen || (allowed->Header.AceType == ACCESS_ALLOWED_ACE_TYPE &&
+                            EqualSid(&allowed->SidStart, everyone));
+    }
+    LocalFree(security);
+    return isOpen;
+}
+
+void CheckLockedFolder(Checks& checks, FileSystem& files, const Text& folder)
+{
+    const Text open = JoinPath(folder, "open");
+    const Text locked = JoinPath(folder, "locked");
+    files.DirCreate(open);
+    checks.Expect(IsOpenToEveryone(open), "any folder is open to everyone");
+    checks.Expect(MakeLockedFolder(Wide(locked).c_str()), "making a locked folder");
+    checks.Expect(!IsOpenToEveryone(locked), "a locked folder is closed to everyone");
+    checks.Expect(!MakeLockedFolder(Wide(locked).c_str()) && GetLastError() == ERROR_ALREADY_EXISTS,
+                  "a locked folder is always a new one");
+    const Text file = JoinPath(locked, "a.txt");
+    WriteWholeFile(files, file, "text");
+    checks.Expect(ReadWholeFile(files, file) == "text", "a file in a locked folder");
+    files.RemoveFile(file);
+    files.RemoveFolder(locked);
+    checks.Expect(!files.DirExists(locked), "removing a locked folder");
+}
+
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
@@ -268,6 +311,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
         CheckFolders(checks, files, folder);
         CheckDrives(checks, files, folder);
         CheckMachine(checks, files);
+        CheckLockedFolder(checks, files, folder);
     } catch (const std::exception& failure) {
         checks.Expect(false, Text("a failure that nobody caught: ") + failure.what());
     }

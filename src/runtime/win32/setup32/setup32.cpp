@@ -2,6 +2,8 @@
 // a private folder, starts it there with the package's folder and its own switches, waits, cleans
 // up and ends with the same code. Written without the standard library, since it is the first thing
 // to be read from a slow disk.
+#include "platform/win32/locked_folder.h"
+
 #include <windows.h>
 
 #include <cwchar>
@@ -103,7 +105,7 @@ bool MakeWorkFolder(Paths& paths)
         wchar_t name[32];
         wsprintfW(name, L"QN%lu.TMP", n);
         Join(paths.work, paths.scratch, name);
-        if (CreateDirectoryW(paths.work, nullptr))
+        if (quillon::MakeLockedFolder(paths.work))
             return true;
     }
     return false;
