@@ -30,6 +30,11 @@ Text FirstFreeName(const FileSystem& files, const Text& path, NameOf nameOf)
 
 } // namespace
 
+Text NameBeside(const FileSystem& files, const Text& path)
+{
+    return FirstFreeName(files, path, AsideName);
+}
+
 void RemoveEvenReadOnly(FileSystem& files, const Text& path)
 {
     if (files.Facts(path).isReadOnly)
@@ -69,14 +74,14 @@ void Changes::MakeFolder(const Text& folder)
 
 Text Changes::StagingPath(const Text& path)
 {
-    const Text staged = FirstFreeName(host_.files, path, AsideName);
+    const Text staged = NameBeside(host_.files, path);
     OnUndo([this, staged] { RemoveIfThere(staged); });
     return staged;
 }
 
 void Changes::PutAside(const Text& path)
 {
-    const Text aside = FirstFreeName(host_.files, path, AsideName);
+    const Text aside = NameBeside(host_.files, path);
     OnUndo([this, aside, path] {
         if (host_.files.FileExists(aside))
             host_.files.Rename(aside, path);

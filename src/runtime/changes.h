@@ -69,6 +69,9 @@ private:
     std::vector<std::pair<Text, Text>> atRestart_;
 };
 
+/// A free name beside `path` for a file that stands there for a short time.
+Text NameBeside(const FileSystem& files, const Text& path);
+
 /// Takes the write protection off first, if there is one.
 void RemoveEvenReadOnly(FileSystem& files, const Text& path);
 

@@ -2,6 +2,7 @@
 
 #include "helpers/ansi_text.h"
 #include "helpers/windows_path.h"
+#include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "runtime/ini_text.h"
 
@@ -50,6 +51,19 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
     work.changes.PutFile(staged, path, Changes::Recorded::No);
 }
 
+// The old file stays until the new one is whole, since others' lines stand in it too.
+void RewriteFile(FileSystem& files, const Text& path, std::string_view bytes)
+{
+    const Text staged = NameBeside(files, path);
+    try {
+        WriteWholeFile(files, staged, bytes);
+        files.Rename(staged, path);
+    } catch (const RunError&) {
+        RunErrorNumber([&] { files.RemoveFile(staged); });
+        throw;
+    }
+}
+
 } // namespace
 
 void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines)
@@ -86,7 +100,7 @@ void TakeBackIniChange(FileSystem& files, const LogRecord& record)
             ini.SetValue(section, name, AnsiText::ToBytes(record.fields[5]));
     }
     if (ini.Bytes() != before)
-        WriteWholeFile(files, path, ini.Bytes());
+        RewriteFile(files, path, ini.Bytes());
 }
 
 } // namespace quillon

@@ -1,6 +1,8 @@
 #include "setup_fixture.h"
 
+#include "platform/run_error.h"
 #include "runtime/file_installer.h"
+#include "runtime/ini_changes.h"
 #include "runtime/uninstall.h"
 
 namespace quillon {
@@ -169,6 +171,30 @@ TEST_F(UninstallTest, GoesOnWhenOneFileCanNotBeRemovedAndLeavesItToTheNextStart)
     EXPECT_FALSE(memory.files.FileExists(kMain + "\\Bin\\b.txt"));
     ASSERT_EQ(target.movesAtRestart.size(), 1U);
     EXPECT_EQ(target.movesAtRestart[0], std::pair(kMain + "\\Bin\\prog.exe", Text()));
+}
+
+TEST_F(UninstallTest, LosesNoLineOfAnIniFileOnAFullDisk)
+{
+    const Text path = "C:\\WINDOWS\\A.INI";
+    memory.files.Put(path, "[S]\r\nannat=1\r\n");
+    project.Lists.INIFiles = "-- A.INI --\r\n[S]\r\nx=1";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const auto record = ReadLogRecord("INIVALUE\tC:\\WINDOWS\\A.INI\tS\tx\t1\t\t");
+    ASSERT_TRUE(record);
+    int change = 0;
+    for (const int failAt : {1, 2, 3, 4}) {
+        change = 0;
+        files.beforeChange = [&] {
+            if (++change == failAt)
+                throw RunError(ErrorNumber::kDiskFull, "full");
+        };
+        EXPECT_THROW(TakeBackIniChange(files, *record), RunError) << failAt;
+        EXPECT_EQ(memory.files.Get(path), "[S]\r\nannat=1\r\nx=1\r\n") << failAt;
+        EXPECT_FALSE(memory.files.FileExists("C:\\WINDOWS\\~qn1.tmp")) << failAt;
+    }
+    files.beforeChange = [] {};
+    TakeBackIniChange(files, *record);
+    EXPECT_EQ(memory.files.Get(path), "[S]\r\nannat=1\r\n");
 }
 
 TEST_F(UninstallTest, ShowsTheTextsOfTheInstallation)
