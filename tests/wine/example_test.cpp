@@ -199,6 +199,22 @@ TEST(ExampleSetup, LeavesTheUsersOwnFilesWhenItIsRemoved)
     EXPECT_EQ(left.size(), 2U) << FolderDifference({}, left);
 }
 
+TEST(ExampleSetup, LeavesTheUninstallerToAnotherProductInItsFolder)
+{
+    const fs::path package = MakePackage(ExampleOrder());
+    const WinePrefix prefix;
+    ASSERT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
+    const auto uninstall = RegistryText(prefix).Value(kUninstallKey, "QuietUninstallString");
+    ASSERT_TRUE(uninstall.has_value());
+    const fs::path mainFolder = prefix.OnHost(kMainFolder);
+    fs::copy_file(mainFolder / "QNXUNIN.LOG", mainFolder / "QNXUNIN2.LOG");
+
+    EXPECT_EQ(prefix.RunCommandLine(*uninstall), 0U);
+    prefix.Restart();
+    EXPECT_TRUE(fs::exists(mainFolder / "QNXUNIN.EXE"));
+    EXPECT_FALSE(fs::exists(mainFolder / "QNXUNIN.LOG"));
+}
+
 TEST(ExampleSetup, WritesNothingWhenThePackageIsDamaged)
 {
     const fs::path package = MakePackage(ExampleOrder());
