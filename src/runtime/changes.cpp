@@ -233,17 +233,20 @@ void Changes::Commit()
     putAside_.clear();
 }
 
-void Changes::Undo()
+bool Changes::Undo()
 {
+    bool whole = true;
     for (; !undo_.empty(); undo_.pop_back()) {
         try {
             undo_.back()();
         } catch (const std::exception& error) { // whatever it is, the steps before it have to go on
+            whole = false;
             log_.Line(Text("Kan inte återställa: ") + error.what());
         }
     }
     putAside_.clear();
     atRestart_.clear();
+    return whole;
 }
 
 } // namespace quillon

@@ -52,7 +52,8 @@ public:
     void Finish();
     /// The changes stay; what was put aside goes away.
     void Commit();
-    void Undo();
+    /// False where something could not be taken back; the log tells what.
+    bool Undo();
 
 private:
     void PutAside(const Text& path);

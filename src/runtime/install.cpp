@@ -3,6 +3,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
+#include "runtime/exit_codes.h"
 #include "runtime/file_installer.h"
 #include "runtime/ini_changes.h"
 #include "runtime/package_names.h"
@@ -25,11 +26,13 @@ public:
     {
         try {
             DoEverything();
-        } catch (...) {
+        } catch (const std::exception& error) {
             input_.log.Line("Installationen avbryts. Alla ändringar återställs.");
             input_.ask.AddStatusLine(input_.texts[Message::Undoing]);
             record_.Abandon();
-            changes_.Undo();
+            if (!changes_.Undo())
+                throw SetupFailure(ExitCode::Failed,
+                                   TrimBlanks(input_.texts(Message::NotUndone, error.what())));
             throw;
         }
         changes_.Commit();

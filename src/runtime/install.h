@@ -27,7 +27,8 @@ struct InstallResult {
     bool needsRestart = false;
 };
 
-/// Throws `RunError`, `ZipError` or `SetupFailure`, after having undone everything.
+/// Throws `RunError`, `ZipError` or `SetupFailure`, after having undone everything; where that
+/// can't be done the `SetupFailure` says so.
 InstallResult Install(const InstallInput& input);
 
 } // namespace quillon

@@ -28,6 +28,7 @@ constexpr MessageKey kMessages[] = {
     {"Setup",     "Err_Damaged",             "Installationsfilerna är skadade eller ofullständiga (%1). Ingenting har installerats. Hämta installationen på nytt."},
     {"Setup",     "Err_DiskFull",            "Det finns inte tillräckligt med ledigt utrymme (%1). Frigör utrymme och försök igen."},
     {"Setup",     "Err_Failed",              "Installationen misslyckades och alla ändringar har återställts (%1)."},
+    {"Setup",     "Err_NotUndone",           "Installationen avbröts, men alla ändringar kunde inte återställas. %1"},
     {"Setup",     "Msg_RestartNeeded",       "Datorn måste startas om innan programmet kan användas."},
     {"Setup",     "Icon_Uninstall",          "Avinstallera %1"},
     {"Uninstall", "Title",                   "Avinstallation av %1"},

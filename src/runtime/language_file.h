@@ -31,6 +31,7 @@ enum class Message {
     Damaged,
     DiskFull,
     Failed,
+    NotUndone,
     RestartNeeded,
     UninstallIcon,
     UninstallTitle,
