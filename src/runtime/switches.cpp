@@ -40,7 +40,8 @@ bool ApplySwitch(Switches& switches, std::string_view name, std::optional<Text> 
         return true;
     }
     if (EqualIgnoreCase(name, "/D") || EqualIgnoreCase(name, "/DIR")) {
-        switches.destination = RemoveLastBackslash(*value);
+        // In its plain form, for it becomes a part of every path, and of the record of them.
+        switches.destination = ResolvePath(*value);
         return IsWholePath(*value);
     }
     if (EqualIgnoreCase(name, "/LOG")) {

@@ -184,6 +184,13 @@ TEST_F(SetupProgramTest, PutsAFolderWithoutADriveBelowTheMainOne)
     EXPECT_EQ(memory.files.Get("E:\\Ny mapp\\prog.exe"), "program");
 }
 
+TEST_F(SetupProgramTest, InstallsToTheRootOfADrive)
+{
+    EXPECT_EQ(Install("/S /D=E:\\"), ExitCode::Done) << Log();
+    EXPECT_EQ(memory.files.Get("E:\\prog.exe"), "program");
+    EXPECT_TRUE(memory.files.FileExists("E:\\QNXUNIN.LOG"));
+}
+
 TEST_F(SetupProgramTest, InstallsTheComponentsThatAreTickedFromTheStart)
 {
     package.setup.UseComponents = kOn;

@@ -47,6 +47,8 @@ INSTANTIATE_TEST_SUITE_P(
                     FolderCase{R"(/S /D=C:\Program Files\App)", R"(C:\Program Files\App)", true},
                     FolderCase{R"(/D="C:\App" /S)", R"(C:\App)", true},
                     FolderCase{R"(/DIR="C:\App\" /S)", R"(C:\App)", true},
+                    FolderCase{R"(/D=C:\)", R"(C:\)", false},
+                    FolderCase{R"(/D=C:\Bort\..\App/Ett\\Två\. /S)", R"(C:\App\Ett\Två)", true},
                     FolderCase{R"(/DIR=\\server\del\App)", R"(\\server\del\App)", false},
                     FolderCase{R"(/D=C:\A /D=C:\B)", R"(C:\B)", false}));
 
