@@ -296,6 +296,33 @@ TEST_F(SetupProgramTest, AsksForTheNextDiskUntilItIsThere)
     EXPECT_EQ(InstallInVain(""), ExitCode::Cancelled);
 }
 
+TEST_F(SetupProgramTest, AsksAgainWhileTheDriveIsEmpty)
+{
+    class DiskAsk : public SilentAsk {
+    public:
+        explicit DiskAsk(test::MemoryFiles& files) : files_(files) {}
+        bool OkCancel(const Text&, const Text& text) override
+        {
+            EXPECT_EQ(text, "Stoppa in diskett nr 2!");
+            if (++calls == 1)
+                files_.RemoveFile("D:\\Paket\\FILEDATA.DAT");
+            else
+                files_.Put("D:\\Paket\\FILEDATA.DAT", "två");
+            return true;
+        }
+        int calls = 0;
+
+    private:
+        test::MemoryFiles& files_;
+    } diskAsk(memory.files);
+    project.Media.TargetMedia = 1;
+    package.setup.Floppies = 2;
+    memory.files.Put("D:\\Paket\\FILEDATA.DAT", "ett");
+    ask = &diskAsk;
+    EXPECT_EQ(Install(""), ExitCode::Done) << Log();
+    EXPECT_EQ(diskAsk.calls, 2);
+}
+
 TEST(LoadPackageTest, TellsWhatIsMissingOrBroken)
 {
     test::MemoryHost memory;
