@@ -3,7 +3,6 @@
 #include "helpers/version_resource.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/copy_decision.h"
 
 namespace quillon {
 
@@ -99,18 +98,21 @@ bool FileInstaller::IsWanted(const PlannedFile& file, const Text& staged)
         ours.version = VersionOfFile(files, staged);
     }
     CopyDecision decision = DecideCopy(file.row->copyOptions, existing, ours);
-    if (decision.verdict == CopyVerdict::Ask) {
-        const bool replace =
-            !input_.silent &&
-            input_.ask.YesNo(input_.setup.project.ProjectName.ProjectName,
-                             input_.texts(Message::FileExists, file.path), Ask::Stops::OnNo);
-        decision = {replace ? CopyVerdict::Copy : CopyVerdict::Keep,
-                    input_.silent ? "filen finns redan och ingen kan tillfrågas"
-                                  : "filen finns redan och ska behållas"};
-    }
+    if (decision.verdict == CopyVerdict::Ask)
+        decision = AskWhetherToReplace(file.path);
     if (decision.verdict == CopyVerdict::Keep)
         input_.log.Skipped(file.path, decision.reason);
     return decision.verdict == CopyVerdict::Copy;
+}
+
+CopyDecision FileInstaller::AskWhetherToReplace(const Text& path)
+{
+    if (input_.silent)
+        return {CopyVerdict::Keep, "filen finns redan och ingen kan tillfrågas"};
+    const bool replace =
+        input_.ask.YesNo(input_.setup.project.ProjectName.ProjectName,
+                         input_.texts(Message::FileExists, path), Ask::Stops::OnNo);
+    return {replace ? CopyVerdict::Copy : CopyVerdict::Keep, "filen finns redan och ska behållas"};
 }
 
 Text FileInstaller::Stage(const PlannedFile& file)

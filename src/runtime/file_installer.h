@@ -2,6 +2,7 @@
 // decides about a file that is already there by the row's copy options, and exchanges the two.
 #pragma once
 
+#include "runtime/copy_decision.h"
 #include "runtime/install.h"
 
 namespace quillon {
@@ -20,6 +21,7 @@ public:
 private:
     void InstallOne(const PlannedFile& file);
     bool IsWanted(const PlannedFile& file, const Text& staged);
+    CopyDecision AskWhetherToReplace(const Text& path);
     Text Stage(const PlannedFile& file);
     bool Put(const PlannedFile& file, const Text& staged);
     void CountSharedFile(const PlannedFile& file, bool existed);
