@@ -42,6 +42,7 @@ public:
 private:
     void DoEverything();
     void OpenRecord();
+    void ShareMainFolder();
     void DeleteOldProgramGroup();
     void WriteRegistry();
     void WriteRegistryLine(const RegistryLine& line);
@@ -94,6 +95,7 @@ void Installation::OpenRecord()
             ReadInstallLog(ReadWholeFile(files, path)).value_or(std::vector<LogRecord>{}));
         changes_.RemoveFile(path);
     }
+    ShareMainFolder();
     record_.Add(RecordKind::Product, {input_.setup.project.ProjectName.ProjectName});
     for (const Message message :
          {Message::UninstallTitle, Message::UninstallQuestion, Message::UninstallRunning,
@@ -101,6 +103,20 @@ void Installation::OpenRecord()
         record_.Add(RecordKind::Message, {Text(KeyOf(message).key), input_.texts[message]});
     changes_.MakeUnrecordedFile(path);
     record_.Open(files, path);
+}
+
+// Of products that share a main folder, the last to go takes along the folder that the first one
+// made.
+void Installation::ShareMainFolder()
+{
+    const Text inside = LowerCase(input_.plan.mainFolder) + "\\";
+    for (const Text& log : InstallLogsIn(input_.host.files, input_.plan.mainFolder)) {
+        const auto records = ReadInstallLog(ReadWholeFile(input_.host.files, log));
+        for (const LogRecord& record : records.value_or(std::vector<LogRecord>{}))
+            if (record.kind == RecordKind::Folder &&
+                inside.starts_with(LowerCase(record.fields[0]) + "\\"))
+                record_.Add(RecordKind::Folder, record.fields);
+    }
 }
 
 // Only shortcuts go, and the group stays where anything else lies in it.

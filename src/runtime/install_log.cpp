@@ -1,5 +1,6 @@
 #include "runtime/install_log.h"
 
+#include "helpers/windows_path.h"
 #include "platform/whole_file.h"
 #include "runtime/registry_lines.h"
 
@@ -108,6 +109,19 @@ std::optional<std::vector<LogRecord>> ReadInstallLog(std::string_view bytes)
         at = end + kLineBreak.size();
     }
     return records;
+}
+
+std::vector<Text> InstallLogsIn(const FileSystem& files, const Text& mainFolder)
+{
+    std::vector<Text> logs;
+    if (!files.DirExists(mainFolder))
+        return logs;
+    for (const FolderEntry& entry : files.List(mainFolder)) {
+        const Text name = UpperCase(entry.name);
+        if (name.starts_with("QNXUNIN") && ExtensionFromFirstPoint(name) == "LOG")
+            logs.push_back(JoinPath(mainFolder, entry.name));
+    }
+    return logs;
 }
 
 std::optional<Text> ProductOfLog(const FileSystem& files, const Text& path)

@@ -48,6 +48,9 @@ std::optional<LogRecord> ReadLogRecord(std::string_view line);
 /// broke off in the middle is left out.
 std::optional<std::vector<LogRecord>> ReadInstallLog(std::string_view bytes);
 
+/// The logs of all products that share a main folder.
+std::vector<Text> InstallLogsIn(const FileSystem& files, const Text& mainFolder);
+
 /// The product that a log file is of; nothing where the file is no log.
 std::optional<Text> ProductOfLog(const FileSystem& files, const Text& path);
 

@@ -312,14 +312,11 @@ bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& u
 {
     const Text folder = ExtractDirectory(logPath);
     const Text own = files.ShortPath(UninstallerPath(folder));
-    if (!EqualIgnoreCase(files.ShortPath(uninstaller), own) || !files.DirExists(folder))
+    if (!EqualIgnoreCase(files.ShortPath(uninstaller), own))
         return false;
-    const std::vector<FolderEntry> entries = files.List(folder);
-    return std::none_of(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
-        const Text name = UpperCase(entry.name);
-        const bool isLog = name.starts_with("QNXUNIN") && ExtensionFromFirstPoint(name) == "LOG";
-        return isLog && !EqualIgnoreCase(name, ExtractFilename(logPath));
-    });
+    const std::vector<Text> logs = InstallLogsIn(files, folder);
+    return std::all_of(logs.begin(), logs.end(),
+                       [&](const Text& log) { return EqualIgnoreCase(log, logPath); });
 }
 
 } // namespace quillon

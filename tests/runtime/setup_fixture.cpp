@@ -150,9 +150,8 @@ ExitCode SetupFixture::Install(const Text& switches)
                     package);
 }
 
-ExitCode SetupFixture::UninstallProduct()
+ExitCode SetupFixture::UninstallProduct(const Text& path)
 {
-    const Text path = "C:\\Program\\Exempel\\QNXUNIN.LOG";
     const auto product = ReadInstalledProduct(files, path);
     if (!product) {
         ADD_FAILURE() << "no install log";

@@ -111,7 +111,7 @@ protected:
     InstallRow& AddFolder(const Text& destination);
 
     ExitCode Install(const Text& switches = "/S");
-    ExitCode UninstallProduct();
+    ExitCode UninstallProduct(const Text& log = "C:\\Program\\Exempel\\QNXUNIN.LOG");
     MachineState State() const;
     /// The text of the log that Install writes.
     Text Log() const;

@@ -64,6 +64,18 @@ TEST_F(UninstallTest, LeavesTheUninstallerToAnotherProductInTheSameFolder)
     EXPECT_FALSE(memory.files.FileExists(kMain + "\\QNXUNIN.LOG"));
 }
 
+TEST_F(UninstallTest, TakesTheFolderThatProductsShareAlongWithTheLast)
+{
+    const MachineState before = State();
+    ASSERT_EQ(Install(), ExitCode::Done);
+    project.ProjectName.ProjectName = "Annat";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    ASSERT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_TRUE(memory.files.DirExists(kMain));
+    ASSERT_EQ(UninstallProduct(kMain + "\\QNXUNIN2.LOG"), ExitCode::Done);
+    EXPECT_EQ(State().files, before.files) << Log();
+}
+
 TEST_F(UninstallTest, LeavesAFileThatWasInWindowsBefore)
 {
     memory.files.Put("C:\\WINDOWS\\gammal.dll", "gammal", {2003, 1, 1, 0, 0, 0});
