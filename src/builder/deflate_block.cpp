@@ -13,8 +13,8 @@ namespace quillon {
 
 namespace {
 
-// The level at which libdeflate beats the size of zlib's level 5 in a third of its time.
-constexpr int kLibdeflateLevel = 4;
+// The level at which libdeflate comes within a hundredth of zlib's level 5 in less than half its time.
+constexpr int kLibdeflateLevel = 3;
 
 // An empty stored block: three bits, the rest of the byte, a length of 0 and its complement. It
 // brings a stream to a whole byte.
