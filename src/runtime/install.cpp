@@ -218,7 +218,7 @@ void Installation::RegisterAtRestart()
     const Text name = "QNXREG2 " + input_.setup.project.ProjectName.ProjectName;
     for (std::size_t i = 0; i < paths.size(); ++i) {
         record_.Add(RecordKind::Registered, {paths[i]});
-        changes_.WriteValue(key, name + (i == 0 ? "" : " " + NumberText(i + 1)),
+        changes_.WriteValue(key, name + (i == 0 ? "" : " " + NumberText(std::int64_t(i) + 1)),
                             TextData("\"" + helper + "\" \"" + paths[i] + "\""));
     }
 }
