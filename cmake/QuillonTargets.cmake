@@ -68,3 +68,14 @@ function(quillon_test folder)
   target_precompile_headers(${folder}_test REUSE_FROM quillon_test_support)
   add_test(NAME ${folder} COMMAND ${folder}_test)
 endfunction()
+
+# quillon_window_test(<folder> [linked libraries...]): the same for tests that drive windows.
+function(quillon_window_test folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
+       ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
+  add_executable(${folder}_test ${sources} support/window_main.cpp support/window_test.cpp)
+  target_link_libraries(${folder}_test PRIVATE quillon_test_support Qt6::Test ${ARGN})
+  target_precompile_headers(${folder}_test PRIVATE <QtWidgets/QtWidgets> <QtTest/QTest>
+                            <gtest/gtest.h>)
+  add_test(NAME ${folder} COMMAND ${folder}_test)
+endfunction()

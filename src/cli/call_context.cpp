@@ -46,46 +46,4 @@ Exit CallContext::Fail(const Text& text, Exit exit) const
     return exit;
 }
 
-Text FailureText(const RunError& error, const Text& path)
-{
-    const Text& named = error.Path().empty() ? path : error.Path();
-    switch (error.Number()) {
-    case ErrorNumber::kFileNotFound:
-        return "Filen '" + named + "' finns inte.";
-    case ErrorNumber::kPathNotFound:
-        return "Katalogen till '" + named + "' finns inte.";
-    case ErrorNumber::kPermissionDenied:
-        return "Åtkomst nekas till '" + named + "'.";
-    case ErrorNumber::kPathFileAccess:
-        return "'" + named + "' är ingen vanlig fil, eller så är den skrivskyddad.";
-    case ErrorNumber::kDiskFull:
-        return "Disken är full: '" + named + "'.";
-    default:
-        return "Fel #" + NumberText(error.Number()) + ": '" + named + "'.";
-    }
-}
-
-Text FailureText(const CompressionFailure& failure)
-{
-    const Text named = failure.Path().empty() ? Text() : " '" + failure.Path() + "'";
-    switch (failure.Result()) {
-    case CompressionResult::kSourceMissing:
-        return "Filen" + named + " finns inte.";
-    case CompressionResult::kSourceChanged:
-        return "Filen" + named + " ändrades medan den lästes.";
-    case CompressionResult::kSourceDamaged:
-        return "Filen" + named + " kan ej läsas till sitt slut.";
-    case CompressionResult::kNothingToDo:
-        return "Fillistan har inga filer att packa, endast tomma kataloger.";
-    case CompressionResult::kCancelled:
-        return "Nästa diskett saknas.";
-    case CompressionResult::kDiskFull:
-        return "Disken är full:" + named + ".";
-    case CompressionResult::kNoReadAccess:
-        return "Åtkomst nekas till" + named + ".";
-    default:
-        return "Det går ej att skriva till" + named + ".";
-    }
-}
-
 } // namespace quillon::cli

@@ -1,10 +1,9 @@
 // What a call of the program works with, and what it may say.
 #pragma once
 
-#include "builder/compression_result.h"
 #include "cli/arguments.h"
 #include "platform/host.h"
-#include "platform/run_error.h"
+#include "shell/failure_text.h"
 
 #include <functional>
 #include <iosfwd>
@@ -40,10 +39,5 @@ struct CallContext {
     /// Tells a failure: a line on the error output, and under "error" where JSON was asked for.
     Exit Fail(const Text& text, Exit exit) const;
 };
-
-/// Why the file or folder could not be read or written, in a line that names it.
-Text FailureText(const RunError& error, const Text& path);
-/// The same of an archive; the status lines tell its number alone.
-Text FailureText(const CompressionFailure& failure);
 
 } // namespace quillon::cli

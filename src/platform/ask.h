@@ -7,10 +7,21 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace quillon {
 
 enum class Answer { Yes, No, Cancel };
+
+/// What a file dialog is opened with. Folders and names are Windows paths.
+struct FileQuestion {
+    Text title;
+    Text folder;   // where it opens; empty, or no longer there: where the system thinks best
+    Text fileName; // what stands in its name field
+    // Captions and their patterns by turns: "Projektfiler (*.qnp)|*.qnp|Alla filer (*.*)|*.*".
+    Text filter;
+    Text defaultExtension; // ".qnp", for a typed name that has none
+};
 
 class Ask {
 public:
@@ -30,6 +41,22 @@ public:
     /// A Yes/No/Cancel question with a question mark.
     virtual Answer YesNoCancel(const Text& title, const Text& text) = 0;
 
+    // Choices. Nothing, or no name at all, is a cancelled dialog; a user who can't be asked cancels
+    // them all.
+    virtual std::optional<Text> OpenFile(const FileQuestion&) { return {}; }
+    virtual std::vector<Text> OpenFiles(const FileQuestion&) { return {}; }
+    virtual std::optional<Text> SaveFile(const FileQuestion&) { return {}; }
+    /// A folder, picked in a tree that opens at `folder` below a line that says what it is for.
+    virtual std::optional<Text> SelectDir(const Text& /*text*/, const Text& /*folder*/)
+    {
+        return {};
+    }
+    /// One line of text.
+    virtual std::optional<Text> XInputBox(const Text& /*title*/, const Text& /*prompt*/)
+    {
+        return {};
+    }
+
     /// A line of the progress list of a long command.
     virtual void AddStatusLine(const Text& line) = 0;
     /// Empties that list before a new command; what was printed stays printed.
@@ -37,6 +64,8 @@ public:
     /// How far a long step is, in bytes. `total` 0 ends the display of progress.
     virtual void ShowProgress(std::uint64_t done, std::uint64_t total) = 0;
     virtual void ShowBusyPointer(bool busy) = 0;
+    /// What the status bar says while a command takes its time; an empty text gives the bar back.
+    virtual void ShowStatusText(const Text&) {}
     virtual void Beep() = 0;
     /// Lets pending events run, so that a window stays alive during long work.
     virtual void YieldToEvents() = 0;

@@ -6,6 +6,7 @@
 #include "helpers/number_text.h"
 #include "helpers/text.h"
 
+#include <cstddef>
 #include <variant>
 
 namespace quillon {
@@ -22,5 +23,15 @@ struct Key {
     Form form;
     int limit = 0;
 };
+
+/// The longest text that comes back for this field, in bytes on file. A window takes no more.
+template <class Section, class Form, std::size_t Rows>
+int LongestText(const Key<Section, Form> (&table)[Rows], Text Section::*field)
+{
+    for (const Key<Section, Form>& key : table)
+        if (const auto* text = std::get_if<Text Section::*>(&key.field); text && *text == field)
+            return key.limit - 1;
+    return 0;
+}
 
 } // namespace quillon

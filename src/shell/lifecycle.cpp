@@ -9,23 +9,21 @@ namespace {
 /// The pointer and the status bar of a command that takes its time.
 class BusyWith {
 public:
-    BusyWith(Session& session, const Text& statusText)
-        : session_(session), before_(session.StatusText)
+    BusyWith(Ask& ask, const Text& statusText) : ask_(ask)
     {
-        session_.ask.ShowBusyPointer(true);
-        session_.StatusText = statusText;
+        ask_.ShowBusyPointer(true);
+        ask_.ShowStatusText(statusText);
     }
     ~BusyWith()
     {
-        session_.ask.ShowBusyPointer(false);
-        session_.StatusText = before_;
+        ask_.ShowBusyPointer(false);
+        ask_.ShowStatusText("");
     }
     BusyWith(const BusyWith&) = delete;
     BusyWith& operator=(const BusyWith&) = delete;
 
 private:
-    Session& session_;
-    Text before_;
+    Ask& ask_;
 };
 
 } // namespace
@@ -34,7 +32,7 @@ std::optional<ReadEnd> LoadProject(Session& session)
 {
     if (session.state.ProjectFileName.empty())
         return std::nullopt;
-    const BusyWith busy(session, "Öppnar projekt...");
+    const BusyWith busy(session.ask, "Öppnar projekt...");
     session.project.Files.rows.clear();
     const ReadEnd end = ReadProjectFile(session.project, session.state.ProjectFileName,
                                         session.host, session.ask, session.options.ToolFolder);
@@ -48,7 +46,7 @@ void SaveProject(Session& session)
 {
     if (session.state.ProjectFileName.empty())
         return;
-    const BusyWith busy(session, "Sparar projekt...");
+    const BusyWith busy(session.ask, "Sparar projekt...");
     WriteProjectFile(session.project, session.state.ProjectFileName, session.host, session.ask);
     session.state.ProjectIsDirty = kOff;
     HandleRecentFilesMenu(session);

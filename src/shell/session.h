@@ -6,6 +6,7 @@
 #include "platform/ask.h"
 #include "platform/host.h"
 #include "project/records.h"
+#include "shell/settings.h"
 
 #include <array>
 
@@ -20,10 +21,17 @@ struct Session {
 
     // Where programs and data of the tool lie is `options.ToolFolder`.
     CreateOptions options;
+    quillon::Settings Settings;
     // Newest first; a free slot is empty.
     std::array<Text, 4> RecentFiles;
-    // What the status bar says of a command that takes its time.
-    Text StatusText;
+
+    // Where the next file dialog opens; held for the life of the process.
+    Text ProjectsFolder;
+    Text LastInstallFilesDir = "C:\\";
+    Text LastDepFileDir = "C:\\";
+
+    // The design tab's surface, whose size goes into the package; the window keeps it up to date.
+    DesignSurface surface;
 };
 
 /// A session with a new project, and the options of a tool that was never set up.

@@ -61,7 +61,8 @@ TEST_F(Lifecycle, SavesAndLoadsAProject)
     EXPECT_TRUE(session.project.Files.rows.empty());
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
     EXPECT_FALSE(ask.busyPointer);
-    EXPECT_EQ(session.StatusText, "");
+    EXPECT_EQ(ask.statusTexts,
+              (std::vector<Text>{"Sparar projekt...", "", "Öppnar projekt...", ""}));
 }
 
 TEST_F(Lifecycle, DoesNothingWithoutAFileName)
@@ -77,12 +78,11 @@ TEST_F(Lifecycle, DoesNothingWithoutAFileName)
 
 TEST_F(Lifecycle, TheStatusTextComesBackBehindALongCommand)
 {
-    session.StatusText = "2 objekt";
     Save(kPath, "Prov");
-    EXPECT_EQ(session.StatusText, "2 objekt");
     memory.files.FailFromWrite(1, ErrorNumber::kDiskFull);
     EXPECT_THROW(SaveProject(session), RunError);
-    EXPECT_EQ(session.StatusText, "2 objekt");
+    EXPECT_EQ(ask.statusTexts,
+              (std::vector<Text>{"Sparar projekt...", "", "Sparar projekt...", ""}));
     EXPECT_FALSE(ask.busyPointer);
 }
 

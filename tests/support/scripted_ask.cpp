@@ -12,6 +12,7 @@ ScriptedAsk::~ScriptedAsk()
 {
     for (const ExpectedBox& box : script_)
         ADD_FAILURE() << "the box \"" << box.title << "\" never came up";
+    EXPECT_TRUE(choices.empty()) << "there are choices that nobody asked for";
 }
 
 void ScriptedAsk::Inform(const Text& title, const Text& text)
@@ -49,6 +50,49 @@ void ScriptedAsk::ShowProgress(std::uint64_t done, std::uint64_t total)
 {
     progressDone = done;
     progressTotal = total;
+}
+
+std::optional<Text> ScriptedAsk::OpenFile(const FileQuestion& question)
+{
+    return NextOneChoice(question);
+}
+
+std::vector<Text> ScriptedAsk::OpenFiles(const FileQuestion& question)
+{
+    return NextChoice(question);
+}
+
+std::optional<Text> ScriptedAsk::SaveFile(const FileQuestion& question)
+{
+    return NextOneChoice(question);
+}
+
+std::optional<Text> ScriptedAsk::SelectDir(const Text& text, const Text& folder)
+{
+    return NextOneChoice({.title = text, .folder = folder});
+}
+
+std::optional<Text> ScriptedAsk::XInputBox(const Text& title, const Text& prompt)
+{
+    return NextOneChoice({.title = title, .filter = prompt});
+}
+
+std::vector<Text> ScriptedAsk::NextChoice(const FileQuestion& question)
+{
+    questions.push_back(question);
+    if (choices.empty()) {
+        ADD_FAILURE() << "nobody expected the choice \"" << question.title << "\"";
+        return {};
+    }
+    const Choice choice = choices.front();
+    choices.pop_front();
+    return choice.chosen;
+}
+
+std::optional<Text> ScriptedAsk::NextOneChoice(const FileQuestion& question)
+{
+    const std::vector<Text> chosen = NextChoice(question);
+    return chosen.empty() ? std::nullopt : std::optional(chosen.front());
 }
 
 Answer ScriptedAsk::Next(BoxKind kind, const Text& title, const Text& text)

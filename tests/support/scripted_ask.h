@@ -39,7 +39,23 @@ public:
     void ClearStatusLines() override { statusLines.clear(); }
     void ShowProgress(std::uint64_t done, std::uint64_t total) override;
     void ShowBusyPointer(bool busy) override { busyPointer = busy; }
+    void ShowStatusText(const Text& text) override { statusTexts.push_back(text); }
     void Beep() override { ++beeps; }
+    std::optional<Text> OpenFile(const FileQuestion& question) override;
+    std::vector<Text> OpenFiles(const FileQuestion& question) override;
+    std::optional<Text> SaveFile(const FileQuestion& question) override;
+    std::optional<Text> SelectDir(const Text& text, const Text& folder) override;
+    std::optional<Text> XInputBox(const Text& title, const Text& prompt) override;
+
+    /// What the next choices give, in order; a choice beyond them fails the test. `chosen` empty is
+    /// a cancelled dialog.
+    struct Choice {
+        std::vector<Text> chosen;
+    };
+    std::deque<Choice> choices;
+    // What the choices were opened with: title, folder, name and filter of a file dialog; text and
+    // folder of SelectDir; title and prompt (as the filter) of XInputBox.
+    std::vector<FileQuestion> questions;
     void YieldToEvents() override {}
 
     /// Everything that was shown, for a test that looks afterwards.
@@ -47,6 +63,7 @@ public:
     // For each Yes/No question, which answer it said to end the command.
     std::vector<Stops> stops;
     std::vector<Text> statusLines;
+    std::vector<Text> statusTexts;
     int beeps = 0;
     bool busyPointer = false;
     std::uint64_t progressDone = 0;
@@ -54,6 +71,9 @@ public:
 
 private:
     Answer Next(BoxKind kind, const Text& title, const Text& text);
+
+    std::vector<Text> NextChoice(const FileQuestion& question);
+    std::optional<Text> NextOneChoice(const FileQuestion& question);
 
     std::deque<ExpectedBox> script_;
 };

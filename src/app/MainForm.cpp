@@ -1,0 +1,163 @@
+#include "app/MainForm.h"
+
+#include "app/ComponentsPage.h"
+#include "app/DesignPage.h"
+#include "app/DialogsPage.h"
+#include "app/FilesPage.h"
+#include "app/IniFilesPage.h"
+#include "app/RegistryPage.h"
+#include "app/actions.h"
+#include "app/command_bars.h"
+#include "filelist/status_text.h"
+#include "helpers/product.h"
+#include "helpers/windows_path.h"
+#include "shell/failure_text.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::array<const char*, kTabCount> kTabCaptions{"  Fillista  ",    "  Design  ",
+                                                          "  Dialogrutor  ", "  Registry  ",
+                                                          "  INI-filer  ",   "  Komponenter  "};
+
+} // namespace
+
+MainForm::MainForm(Session& session) : session_(session)
+{
+    setObjectName("MainForm");
+    MakePages();
+    MakeStatusBar();
+    bars_ = std::make_unique<CommandBars>(
+        *this, [this](int id) { RunCommand(id); },
+        [](int id) { return FindAction(id) != nullptr; });
+    bars_->ShowToolbar(SelectedTab());
+    connect(MainTab_, &QTabWidget::currentChanged, this,
+            [this] { bars_->ShowToolbar(SelectedTab()); });
+    ShowSettings();
+    ShowRecentFiles();
+    ShowProject();
+}
+
+MainForm::~MainForm() = default;
+
+void MainForm::MakePages()
+{
+    files_ = new FilesPage(session_);
+    pages_ = {files_,
+              new DesignPage(session_),
+              new DialogsPage(session_),
+              new RegistryPage(session_),
+              new IniFilesPage(session_),
+              new ComponentsPage(session_)};
+    MainTab_ = new QTabWidget;
+    MainTab_->setObjectName("MainTab");
+    for (std::size_t i = 0; i < pages_.size(); ++i)
+        MainTab_->addTab(pages_[i], QString::fromUtf8(kTabCaptions[i]).trimmed());
+    setCentralWidget(MainTab_);
+}
+
+void MainForm::MakeStatusBar()
+{
+    statusBar()->setObjectName("MainStatusBar");
+    statusPane_ = new QLabel;
+    statusPane_->setObjectName("MainStatusBarPane1");
+    statusBar()->addWidget(statusPane_, 1);
+}
+
+void MainForm::ShowProject()
+{
+    ShowTitle();
+    for (Page* page : pages_)
+        page->ShowSession();
+    UpdateStatusBar();
+}
+
+void MainForm::ShowTitle()
+{
+    const Text name = ExtractFilename(session_.state.ProjectFileName);
+    setWindowTitle(ToQt(Text(kProductName) + " - [" + name + "]"));
+}
+
+void MainForm::ShowRecentFiles()
+{
+    bars_->ShowRecentFiles(session_.RecentFiles);
+}
+
+void MainForm::ShowSettings()
+{
+    const HideTabs& hide = session_.Settings.HideTabs;
+    const std::pair<Tab, Integer> hidden[] = {{Tab::Registry, hide.HideTabRegistry},
+                                              {Tab::IniFiles, hide.HideTabINIFiles},
+                                              {Tab::Components, hide.HideTabComponents}};
+    for (const auto& [tab, isHidden] : hidden) {
+        MainTab_->setTabVisible(static_cast<int>(tab), isHidden == 0);
+        bars_->ShowTabEntry(tab, isHidden == 0);
+    }
+}
+
+void MainForm::ShowTab(Tab tab)
+{
+    PageOf(tab).ShowSession();
+}
+
+void MainForm::SelectTab(Tab tab)
+{
+    MainTab_->setCurrentIndex(static_cast<int>(tab));
+    MainTab_->setFocus();
+}
+
+Tab MainForm::SelectedTab() const
+{
+    return static_cast<Tab>(MainTab_->currentIndex());
+}
+
+void MainForm::ShowFileList(const std::vector<std::size_t>&)
+{
+    PageOf(Tab::Files).ShowSession();
+    UpdateStatusBar();
+}
+
+std::vector<std::size_t> MainForm::SelectedRows() const
+{
+    return {};
+}
+
+void MainForm::UpdateStatusBar()
+{
+    statusPane_->setText(ToQt(
+        StatusBarText(session_.project.Files, session_.host.machine.DecimalSign(), session_.ask)));
+}
+
+void MainForm::RunCommand(int id)
+{
+    const Action action = FindAction(id);
+    if (!action)
+        return;
+    // Nothing may be thrown through Qt.
+    try {
+        action(*this);
+    } catch (const RunError& error) {
+        session_.ask.Critical("Fel", FailureText(error, session_.state.ProjectFileName));
+    }
+}
+
+void MainForm::ShowStatusText(const Text& text)
+{
+    if (text.empty())
+        statusBar()->clearMessage();
+    else
+        statusBar()->showMessage(ToQt(text));
+    // The command that sets it is about to keep the window from painting.
+    statusBar()->repaint();
+}
+
+void MainForm::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+}
+
+} // namespace quillon

@@ -1,0 +1,64 @@
+// The main window: six pages behind tabs, the command bars, the status bar. What it shows is the
+// session's; what its commands do is in the table of actions.
+#pragma once
+
+#include "shell/main_window.h"
+#include "shell/session.h"
+#include "ui/Page.h"
+
+#include <QMainWindow>
+#include <array>
+#include <functional>
+#include <map>
+
+class QAction;
+class QLabel;
+class QTabWidget;
+class QToolBar;
+
+namespace quillon {
+
+class CommandBars;
+class FilesPage;
+
+class MainForm : public QMainWindow, public MainWindow {
+public:
+    explicit MainForm(Session& session);
+    ~MainForm() override;
+
+    Session& GetSession() { return session_; }
+
+    void ShowProject() override;
+    void ShowTitle() override;
+    void ShowRecentFiles() override;
+    void ShowSettings() override;
+    void ShowTab(Tab tab) override;
+    void SelectTab(Tab tab) override;
+    Tab SelectedTab() const override;
+    void ShowFileList(const std::vector<std::size_t>& selectedRows) override;
+    std::vector<std::size_t> SelectedRows() const override;
+    void UpdateStatusBar() override;
+
+    /// Runs the command with this id; one without an action does nothing.
+    void RunCommand(int id);
+
+    /// What a status text of a long command says; an empty one gives the bar back.
+    void ShowStatusText(const Text& text);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void MakePages();
+    void MakeStatusBar();
+    Page& PageOf(Tab tab) { return *pages_[static_cast<std::size_t>(tab)]; }
+
+    Session& session_;
+    QTabWidget* MainTab_ = nullptr;
+    QLabel* statusPane_ = nullptr;
+    std::array<Page*, kTabCount> pages_{};
+    FilesPage* files_ = nullptr;
+    std::unique_ptr<CommandBars> bars_;
+};
+
+} // namespace quillon

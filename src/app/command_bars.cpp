@@ -1,0 +1,121 @@
+#include "app/command_bars.h"
+
+#include "helpers/windows_path.h"
+#include "ui/icons.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+#include <vector>
+
+namespace quillon {
+
+namespace {
+
+struct Shortcut {
+    int id;
+    QKeySequence keys;
+};
+
+// Keys that people know from other programs. Those of the file list are the list's own.
+const std::vector<Shortcut>& Shortcuts()
+{
+    static const std::vector<Shortcut> shortcuts = {{101, QKeySequence::New},
+                                                    {102, QKeySequence::Open},
+                                                    {103, QKeySequence::Save},
+                                                    {153, QKeySequence(Qt::Key_F1)},
+                                                    {124, QKeySequence(Qt::Key_F5)}};
+    return shortcuts;
+}
+
+} // namespace
+
+CommandBars::CommandBars(QMainWindow& window, Run run, CanRun canRun)
+    : window_(window), run_(std::move(run)), canRun_(std::move(canRun))
+{
+    MakeMenus();
+    for (const Command& command : ToolbarOnlyCommands())
+        MakeAction(command);
+    for (const auto& [id, keys] : Shortcuts())
+        ActionOf(id)->setShortcut(keys);
+    toolbar_ = window_.addToolBar("Standard");
+    toolbar_->setObjectName("Standard");
+    toolbar_->setMovable(false);
+    toolbar_->setContextMenuPolicy(Qt::PreventContextMenu);
+}
+
+void CommandBars::MakeMenus()
+{
+    std::vector<QMenu*> open;
+    for (const MenuRow& row : MenuBarRows()) {
+        const QString caption = ToQt(row.command.caption);
+        switch (row.part) {
+        case MenuPart::Menu:
+            open = {window_.menuBar()->addMenu(caption)};
+            break;
+        case MenuPart::Submenu:
+            open.push_back(open.back()->addMenu(caption));
+            break;
+        case MenuPart::SubmenuEnd:
+            open.pop_back();
+            break;
+        case MenuPart::Line:
+            open.back()->addSeparator();
+            break;
+        case MenuPart::Entry:
+            open.back()->addAction(MakeAction(row.command));
+            break;
+        }
+    }
+}
+
+QAction* CommandBars::MakeAction(const Command& command)
+{
+    const int id = command.id;
+    auto* action = new QAction(ToQt(command.caption), &window_);
+    action->setObjectName(QString("cmd%1").arg(id));
+    action->setToolTip(ToQt(command.tooltip));
+    action->setIcon(CommandIcon(id));
+    action->setIconVisibleInMenu(true);
+    action->setMenuRole(QAction::NoRole);
+    action->setEnabled(canRun_(id));
+    QObject::connect(action, &QAction::triggered, &window_, [this, id] { run_(id); });
+    actions_[id] = action;
+    return action;
+}
+
+void CommandBars::ShowToolbar(Tab tab)
+{
+    toolbar_->clear();
+    for (const int id : ToolbarIds(tab))
+        if (id == 0)
+            toolbar_->addSeparator();
+        else
+            toolbar_->addAction(ActionOf(id));
+}
+
+void CommandBars::ShowRecentFiles(const std::array<Text, kRecentFileCount>& files)
+{
+    for (int slot = 0; slot < kRecentFileCount; ++slot) {
+        const Text& file = files[static_cast<std::size_t>(slot)];
+        QAction* action = ActionOf(kFirstRecentFile + slot);
+        // The mark of a free slot stands alone, so that the list of a new machine is not empty.
+        action->setVisible(!file.empty() || slot == 0);
+        const Text name = file.empty() ? Text(kFreeSlot) : ExtractFilename(file);
+        action->setText(ToQt(name).replace('&', "&&"));
+        action->setStatusTip(ToQt(file));
+    }
+}
+
+void CommandBars::ShowTabEntry(Tab tab, bool visible)
+{
+    constexpr int kFirstTabCommand = 147;
+    ActionOf(kFirstTabCommand + static_cast<int>(tab))->setVisible(visible);
+}
+
+QAction* CommandBars::ActionOf(int id) const
+{
+    const auto found = actions_.find(id);
+    return found == actions_.end() ? nullptr : found->second;
+}
+
+} // namespace quillon

@@ -1,0 +1,43 @@
+// The menu bar and the toolbar "Standard", built from the table of commands. A toolbar is built
+// anew for each tab.
+#pragma once
+
+#include "shell/command_table.h"
+#include "shell/session.h"
+
+#include <functional>
+#include <map>
+
+class QAction;
+class QMainWindow;
+class QToolBar;
+
+namespace quillon {
+
+class CommandBars {
+public:
+    using Run = std::function<void(int id)>;
+    using CanRun = std::function<bool(int id)>;
+
+    /// Ids that `canRun` denies are shown disabled.
+    CommandBars(QMainWindow& window, Run run, CanRun canRun);
+
+    void ShowToolbar(Tab tab);
+    void ShowRecentFiles(const std::array<Text, kRecentFileCount>& files);
+    /// Hides the entry of the tab in the window menu, or shows it.
+    void ShowTabEntry(Tab tab, bool visible);
+
+    QAction* ActionOf(int id) const;
+
+private:
+    void MakeMenus();
+    QAction* MakeAction(const Command& command);
+
+    QMainWindow& window_;
+    Run run_;
+    CanRun canRun_;
+    std::map<int, QAction*> actions_;
+    QToolBar* toolbar_ = nullptr;
+};
+
+} // namespace quillon

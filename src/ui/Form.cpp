@@ -1,0 +1,125 @@
+#include "ui/Form.h"
+
+#include "shell/session.h"
+#include "ui/qt_text.h"
+#include "ui/typed_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+Form::Form(const char* name, const Text& title, QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QString::fromLatin1(name));
+    setWindowTitle(ToQt(title));
+}
+
+bool Form::ShowModal()
+{
+    OK = false;
+    exec();
+    return OK;
+}
+
+QLineEdit* Form::Field(QLineEdit*& member, const char* name, Text& value, int longest)
+{
+    auto* field = Named(member, name, new QLineEdit(ToQt(value)));
+    LimitTyping(field, longest);
+    Bind([field, &value] { value = FromQt(field->text()); });
+    return field;
+}
+
+QPlainTextEdit* Form::Area(QPlainTextEdit*& member, const char* name, Text& value, int longest)
+{
+    auto* area = Named(member, name, new QPlainTextEdit(LinesToQt(value)));
+    area->setTabChangesFocus(true);
+    LimitTyping(area, longest);
+    Bind([area, &value] { value = LinesFromQt(area->toPlainText()); });
+    return area;
+}
+
+QCheckBox* Form::Check(QCheckBox*& member, const char* name, const Text& caption, Flag& value)
+{
+    auto* box = Named(member, name, new QCheckBox(ToQt(caption)));
+    box->setChecked(value != kOff);
+    Bind([box, &value] { value = box->isChecked() ? kOn : kOff; });
+    return box;
+}
+
+QCheckBox* Form::Check01(QCheckBox*& member, const char* name, const Text& caption, Integer& value)
+{
+    auto* box = Named(member, name, new QCheckBox(ToQt(caption)));
+    box->setChecked(value != 0);
+    Bind([box, &value] { value = box->isChecked() ? 1 : 0; });
+    return box;
+}
+
+QComboBox* Form::Choice(QComboBox*& member, const char* name, std::span<const char* const> rows,
+                        Integer& value)
+{
+    auto* list = Named(member, name, new QComboBox);
+    for (const char* row : rows)
+        list->addItem(QString::fromUtf8(row));
+    list->setCurrentIndex(value >= 0 && value < list->count() ? value : -1);
+    Bind([list, &value] {
+        if (list->currentIndex() >= 0)
+            value = static_cast<Integer>(list->currentIndex());
+    });
+    return list;
+}
+
+QPushButton* Form::Button(QPushButton*& member, const char* name, const Text& caption,
+                          std::function<void()> press)
+{
+    auto* button = Named(member, name, new QPushButton(ToQt(caption)));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [press = std::move(press)] { press(); });
+    return button;
+}
+
+Piece Form::OkCancel()
+{
+    Button(NAMED(cmdOK), "OK", [this] { PressOk(); });
+    Button(NAMED(cmdCancel), "Avbryt", [this] { reject(); });
+    cmdOK->setDefault(true);
+    cmdOK->setMinimumWidth(cmdCancel->sizeHint().width());
+    return Across({Stretch(), cmdOK, cmdCancel});
+}
+
+Piece Form::OkOnly()
+{
+    Button(NAMED(cmdOK), "OK", [this] { PressOk(); });
+    cmdOK->setDefault(true);
+    return Across({Stretch(), cmdOK});
+}
+
+void Form::Arrange(Piece pieces)
+{
+    quillon::Arrange(this, pieces);
+}
+
+void Form::PressOk()
+{
+    // A field that is still being typed in is left now, with its checks.
+    if (QWidget* focus = focusWidget(); focus && cmdOK)
+        cmdOK->setFocus();
+    if (!MayClose())
+        return;
+    for (const auto& store : stores_)
+        store();
+    OK = true;
+    Store();
+    accept();
+}
+
+EditorForm::EditorForm(const char* name, const Text& title, Session& session, QWidget* parent)
+    : Form(name, title, parent), session_(session)
+{
+}
+
+void EditorForm::Store()
+{
+    session_.state.ProjectIsDirty = kOn;
+}
+
+} // namespace quillon

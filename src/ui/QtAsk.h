@@ -1,0 +1,47 @@
+// The user of the desktop program: boxes and dialogs over whatever window is in front.
+#pragma once
+
+#include "platform/ask.h"
+#include "platform/host.h"
+#include "ui/host_paths.h"
+
+#include <functional>
+
+class QWidget;
+
+namespace quillon {
+
+class QtAsk : public Ask {
+public:
+    QtAsk(Host& host, HostPaths paths) : host_(host), paths_(std::move(paths)) {}
+
+    void Inform(const Text& title, const Text& text) override;
+    void Warn(const Text& title, const Text& text) override;
+    void Critical(const Text& title, const Text& text) override;
+    bool YesNo(const Text& title, const Text& text, Stops stops) override;
+    bool OkCancel(const Text& title, const Text& text) override;
+    Answer YesNoCancel(const Text& title, const Text& text) override;
+
+    std::optional<Text> OpenFile(const FileQuestion& question) override;
+    std::vector<Text> OpenFiles(const FileQuestion& question) override;
+    std::optional<Text> SaveFile(const FileQuestion& question) override;
+    std::optional<Text> SelectDir(const Text& text, const Text& folder) override;
+    std::optional<Text> XInputBox(const Text& title, const Text& prompt) override;
+
+    // Status lines belong to the form that shows them, which puts itself in between.
+    void AddStatusLine(const Text&) override {}
+    void ShowProgress(std::uint64_t, std::uint64_t) override {}
+    void ShowBusyPointer(bool busy) override;
+    void ShowStatusText(const Text& text) override;
+    void Beep() override;
+    void YieldToEvents() override;
+
+    /// Where `ShowStatusText` goes: the status bar of the main window.
+    std::function<void(const Text&)> onStatusText;
+
+private:
+    Host& host_;
+    HostPaths paths_;
+};
+
+} // namespace quillon

@@ -1,0 +1,140 @@
+#include "ui/form_kit.h"
+
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+// A caption of "&Namn:" is read aloud as "Namn".
+QString Spoken(const Text& caption)
+{
+    QString spoken = ToQt(caption).remove(QRegularExpression("&(?!&)")).trimmed();
+    while (spoken.endsWith(':'))
+        spoken.chop(1);
+    return spoken;
+}
+
+/// The widget of a piece that a caption leads to: the piece itself or the first that takes keys.
+QWidget* Reached(const Piece& piece)
+{
+    if (piece.widget)
+        return piece.widget;
+    for (int i = 0; piece.layout && i < piece.layout->count(); ++i)
+        if (QWidget* widget = piece.layout->itemAt(i)->widget();
+            widget && widget->focusPolicy() != Qt::NoFocus)
+            return widget;
+    return nullptr;
+}
+
+QLabel* Caption(const Text& caption, const Piece& piece)
+{
+    auto* label = new QLabel(ToQt(caption));
+    if (QWidget* widget = Reached(piece)) {
+        label->setBuddy(widget);
+        if (widget->accessibleName().isEmpty())
+            widget->setAccessibleName(Spoken(caption));
+    }
+    return label;
+}
+
+void Add(QBoxLayout* box, const Piece& piece)
+{
+    if (piece.widget)
+        box->addWidget(piece.widget, piece.stretch);
+    else if (piece.layout)
+        box->addLayout(piece.layout, piece.stretch);
+    else
+        box->addStretch(piece.stretch);
+}
+
+Piece Arranged(QBoxLayout* box, Pieces pieces)
+{
+    for (const Piece& piece : pieces)
+        Add(box, piece);
+    return box;
+}
+
+} // namespace
+
+Piece Down(Pieces pieces)
+{
+    return Arranged(new QVBoxLayout, pieces);
+}
+
+Piece Across(Pieces pieces)
+{
+    return Arranged(new QHBoxLayout, pieces);
+}
+
+Piece Stretch()
+{
+    Piece room;
+    room.stretch = 1;
+    return room;
+}
+
+Piece Growing(Piece piece, int stretch)
+{
+    piece.stretch = stretch;
+    return piece;
+}
+
+QGroupBox* Frame(const Text& caption, Pieces pieces)
+{
+    auto* frame = new QGroupBox(ToQt(caption).trimmed());
+    frame->setLayout(Down(pieces).layout);
+    // A lone field in a frame has the frame's caption for a name.
+    for (const Piece& piece : pieces)
+        if (piece.widget && piece.widget->inherits("QLineEdit") &&
+            piece.widget->accessibleName().isEmpty())
+            piece.widget->setAccessibleName(Spoken(caption));
+    return frame;
+}
+
+Piece Fields(std::initializer_list<LabelledPiece> rows)
+{
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(1, 1);
+    int line = 0;
+    for (const LabelledPiece& row : rows) {
+        grid->addWidget(Caption(row.caption, row.piece), line, 0);
+        if (row.piece.widget)
+            grid->addWidget(row.piece.widget, line, 1);
+        else
+            grid->addLayout(row.piece.layout, line, 1);
+        ++line;
+    }
+    return grid;
+}
+
+Piece Above(const Text& caption, Piece piece)
+{
+    auto* box = new QVBoxLayout;
+    box->addWidget(Caption(caption, piece));
+    Piece below = piece;
+    below.stretch = 1;
+    Add(box, below);
+    return box;
+}
+
+QLabel* Note(const Text& text)
+{
+    auto* label = new QLabel(ToQt(text));
+    label->setWordWrap(true);
+    return label;
+}
+
+void Arrange(QWidget* widget, Piece pieces)
+{
+    QLayout* layout = pieces.layout;
+    if (!layout) {
+        layout = new QVBoxLayout;
+        layout->addWidget(pieces.widget);
+    }
+    widget->setLayout(layout);
+}
+
+} // namespace quillon

@@ -1,0 +1,79 @@
+// How a form is declared: where its pieces stand, what they are called, what they say. Pieces have
+// no positions in pixels, so that no font, scale or text can break a form.
+//
+//   Down({Fields({{"&Namn:", Field(NAMED(tName), name)}}), Stretch(), OkCancel()})
+#pragma once
+
+#include "helpers/text.h"
+
+#include <QString>
+#include <initializer_list>
+#include <vector>
+
+class QBoxLayout;
+class QGroupBox;
+class QLabel;
+class QLayout;
+class QWidget;
+
+// The member that holds a control and, from the same word, the control's object name.
+#define NAMED(control) control, #control
+
+namespace quillon {
+
+/// A piece of a form: a widget, a layout of pieces, or room that grows.
+struct Piece {
+    Piece(QWidget* shown) : widget(shown) {}
+    Piece(QLayout* arranged) : layout(arranged) {}
+
+    QWidget* widget = nullptr;
+    QLayout* layout = nullptr;
+    int stretch = 0;
+
+private:
+    Piece() = default;
+    friend Piece Stretch();
+};
+
+using Pieces = std::initializer_list<Piece>;
+
+Piece Down(Pieces pieces);
+Piece Across(Pieces pieces);
+/// Room that takes what is left over.
+Piece Stretch();
+/// The piece takes `stretch` parts of what is left over.
+Piece Growing(Piece piece, int stretch = 1);
+
+/// A box with a caption round a column of pieces. The blanks with which captions are set off do not
+/// show.
+QGroupBox* Frame(const Text& caption, Pieces pieces);
+
+struct LabelledPiece {
+    Text caption; // "&" stands before the letter that leads to the piece
+    Piece piece;
+};
+/// Captions to the left, pieces to the right, both in line. A caption names its piece for screen
+/// readers too.
+Piece Fields(std::initializer_list<LabelledPiece> rows);
+/// The caption stands above its piece.
+Piece Above(const Text& caption, Piece piece);
+
+/// Running text; it wraps where the form is narrower.
+QLabel* Note(const Text& text);
+
+/// Gives a widget its object name, and the words that a screen reader says where no caption stands
+/// beside it.
+template <class Widget>
+Widget* Named(Widget*& member, const char* name, Widget* widget, const Text& spokenName = {})
+{
+    member = widget;
+    widget->setObjectName(QString::fromLatin1(name));
+    if (!spokenName.empty())
+        widget->setAccessibleName(QString::fromStdString(spokenName));
+    return widget;
+}
+
+/// Fills a widget with the pieces.
+void Arrange(QWidget* widget, Piece pieces);
+
+} // namespace quillon

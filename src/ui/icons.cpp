@@ -1,0 +1,10 @@
+#include "ui/icons.h"
+
+namespace quillon {
+
+QIcon CommandIcon(int)
+{
+    return {};
+}
+
+} // namespace quillon

@@ -1,0 +1,21 @@
+// What may be typed. A project holds the characters of Windows-1252 and texts up to a length of
+// their own; an edit field takes no more, so that nothing is lost when the project is saved.
+#pragma once
+
+#include <functional>
+
+class QLineEdit;
+class QPlainTextEdit;
+class QWidget;
+
+namespace quillon {
+
+/// From now on characters that no project can hold are taken out again with a beep, typed, pasted
+/// or dropped. `longest` is in bytes on file, 0 is any length.
+void LimitTyping(QLineEdit* field, int longest);
+void LimitTyping(QPlainTextEdit* field, int longest);
+
+/// Runs `leave` whenever the keyboard leaves the widget for another one of its window.
+void OnLeave(QWidget* widget, std::function<void()> leave);
+
+} // namespace quillon
