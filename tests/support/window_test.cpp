@@ -11,7 +11,8 @@ void SavePicture(QWidget& window, const std::string& name)
     std::filesystem::create_directories(folder);
     const QPixmap picture = window.grab();
     ASSERT_FALSE(picture.isNull());
-    const std::string file = (folder / (name + ".png")).string();
+    const std::string scale = window.devicePixelRatioF() > 1 ? "@2x" : "";
+    const std::string file = (folder / (name + scale + ".png")).string();
     EXPECT_TRUE(picture.save(QString::fromStdString(file))) << file;
 }
 

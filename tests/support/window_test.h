@@ -78,7 +78,8 @@ inline void OnNextDialog(std::function<void(QDialog&)> use)
     });
 }
 
-/// Keeps a picture of the window as build/<preset>/screens/<name>.png, to be looked at.
+/// Keeps a picture of the window as build/<preset>/screens/<name>.png, to be looked at; at twice the
+/// scale the name ends in "@2x".
 void SavePicture(QWidget& window, const std::string& name);
 
 /// A session on a machine in memory, with a user whose answers are laid ready.
