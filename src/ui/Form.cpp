@@ -34,7 +34,7 @@ QPlainTextEdit* Form::Area(QPlainTextEdit*& member, const char* name, Text& valu
     auto* area = Named(member, name, new QPlainTextEdit(LinesToQt(value)));
     area->setTabChangesFocus(true);
     LimitTyping(area, longest);
-    Bind([area, &value] { value = LinesFromQt(area->toPlainText()); });
+    Bind([area, &value] { value = LinesFromQt(TypedText(area)); });
     return area;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/QtAsk.h"
 
+#include "ui/XInputBox.h"
 #include "ui/file_dialog.h"
 #include "ui/qt_text.h"
 
@@ -103,9 +104,8 @@ std::optional<Text> QtAsk::SelectDir(const Text& text, const Text& folder)
 
 std::optional<Text> QtAsk::XInputBox(const Text& title, const Text& prompt)
 {
-    static_cast<void>(title);
-    static_cast<void>(prompt);
-    return {};
+    quillon::XInputBox form(title, prompt, WindowInFront());
+    return form.ShowModal() ? std::optional(form.Input) : std::nullopt;
 }
 
 void QtAsk::ShowBusyPointer(bool busy)

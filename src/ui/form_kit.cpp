@@ -120,6 +120,12 @@ Piece Above(const Text& caption, Piece piece)
     return box;
 }
 
+QWidget* RoomFor(int letters, QWidget* widget)
+{
+    widget->setMinimumWidth(letters * widget->fontMetrics().averageCharWidth());
+    return widget;
+}
+
 QLabel* Note(const Text& text)
 {
     auto* label = new QLabel(ToQt(text));

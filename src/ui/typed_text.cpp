@@ -4,13 +4,15 @@
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
+#include <limits>
+#include <utility>
 
 namespace quillon {
 
 namespace {
 
 /// The text without the characters that no file can hold, and cut to `longest` bytes on file.
-QString Holdable(const QString& text, int longest)
+QString Holdable(const QString& text, int longest = std::numeric_limits<int>::max())
 {
     QString kept;
     int length = 0;
@@ -20,13 +22,71 @@ QString Holdable(const QString& text, int longest)
         const int bytes = point == '\n' ? 2 : 1;
         if (!AnsiText::Holds(FromQt(character)))
             continue;
-        if (longest > 0 && length + bytes > longest)
+        if (length + bytes > longest)
             break;
         length += bytes;
         kept += character;
     }
     return kept;
 }
+
+QString WithLineFeeds(QString raw)
+{
+    return raw.replace(QChar::ParagraphSeparator, '\n').replace(QChar::LineSeparator, '\n');
+}
+
+int BytesOnFile(const QString& text)
+{
+    return static_cast<int>(text.size() + text.count('\n'));
+}
+
+// Takes back out of an area what was just put in and cannot stay. What stood there before is never
+// cut, not even where a project came with more than may be typed.
+class AreaLimit : public QObject {
+public:
+    AreaLimit(QPlainTextEdit* area, int longest) : QObject(area), area_(area), longest_(longest)
+    {
+        connect(area->document(), &QTextDocument::contentsChange, this,
+                [this](int position, int, int added) {
+                    position_ = position;
+                    added_ = added;
+                });
+        connect(area, &QPlainTextEdit::textChanged, this, [this] { TakeBack(); });
+    }
+
+private:
+    void TakeBack()
+    {
+        const int end =
+            std::min(position_ + std::exchange(added_, 0), area_->document()->characterCount() - 1);
+        if (end <= position_)
+            return;
+        QTextCursor cursor(area_->document());
+        cursor.setPosition(position_);
+        cursor.setPosition(end, QTextCursor::KeepAnchor);
+        const QString added = WithLineFeeds(cursor.selectedText());
+        const QString kept = Holdable(added, RoomFor(added));
+        if (kept == added)
+            return;
+        cursor.insertText(kept);
+        // Undoing the correction would bring the wrong characters back.
+        area_->document()->clearUndoRedoStacks();
+        QApplication::beep();
+    }
+
+    /// How many bytes of what was added there is room for.
+    int RoomFor(const QString& added) const
+    {
+        if (longest_ == 0)
+            return std::numeric_limits<int>::max();
+        return std::max(0, longest_ - BytesOnFile(TypedText(area_)) + BytesOnFile(added));
+    }
+
+    QPlainTextEdit* area_;
+    int longest_;
+    int position_ = 0;
+    int added_ = 0;
+};
 
 class LeaveWatch : public QObject {
 public:
@@ -63,7 +123,7 @@ void LimitTyping(QLineEdit* field, int longest)
     if (longest > 0)
         field->setMaxLength(longest);
     QObject::connect(field, &QLineEdit::textEdited, field, [field](const QString& text) {
-        const QString kept = Holdable(text, 0);
+        const QString kept = Holdable(text);
         if (kept == text)
             return;
         const auto taken = text.size() - kept.size();
@@ -76,19 +136,12 @@ void LimitTyping(QLineEdit* field, int longest)
 
 void LimitTyping(QPlainTextEdit* field, int longest)
 {
-    QObject::connect(field, &QPlainTextEdit::textChanged, field, [field, longest] {
-        const QString text = field->toPlainText();
-        const QString kept = Holdable(text, longest);
-        if (kept == text)
-            return;
-        const auto taken = text.size() - kept.size();
-        const int caret = field->textCursor().position() - static_cast<int>(taken);
-        field->setPlainText(kept);
-        QTextCursor cursor = field->textCursor();
-        cursor.setPosition(std::clamp(caret, 0, static_cast<int>(kept.size())));
-        field->setTextCursor(cursor);
-        QApplication::beep();
-    });
+    new AreaLimit(field, longest);
+}
+
+QString TypedText(const QPlainTextEdit* area)
+{
+    return WithLineFeeds(area->document()->toRawText());
 }
 
 void OnLeave(QWidget* widget, std::function<void()> leave)

@@ -6,6 +6,7 @@
 
 class QLineEdit;
 class QPlainTextEdit;
+class QString;
 class QWidget;
 
 namespace quillon {
@@ -14,6 +15,10 @@ namespace quillon {
 /// or dropped. `longest` is in bytes on file, 0 is any length.
 void LimitTyping(QLineEdit* field, int longest);
 void LimitTyping(QPlainTextEdit* field, int longest);
+
+/// What stands in the area, blank for blank: Qt's own plain text makes usual blanks of those that
+/// do not break.
+QString TypedText(const QPlainTextEdit* area);
 
 /// Runs `leave` whenever the keyboard leaves the widget for another one of its window.
 void OnLeave(QWidget* widget, std::function<void()> leave);

@@ -83,6 +83,55 @@ TEST_F(FormKit, TakesNoCharacterThatAProjectCannotHold)
     EXPECT_EQ(form.tText->toPlainText(), "12345678\n");
 }
 
+TEST_F(FormKit, RefusesWhatIsTypedIntoAFullAreaAndCutsNothingElse)
+{
+    DlgProbe form(session);
+    ShowActive(form);
+    form.tText->setPlainText("1234567890");
+    form.tText->moveCursor(QTextCursor::Start);
+    TypeKeys(*form.tText, "x");
+    EXPECT_EQ(form.tText->toPlainText(), "1234567890");
+    EXPECT_EQ(form.tText->textCursor().position(), 0);
+    // Of a longer piece there is as much as there is room for.
+    form.tText->setPlainText("12345678");
+    form.tText->moveCursor(QTextCursor::Start);
+    form.tText->insertPlainText("abcd");
+    EXPECT_EQ(form.tText->toPlainText(), "ab12345678");
+}
+
+TEST_F(FormKit, KeepsWhatAProjectCameWithBeyondTheLimit)
+{
+    session.project.Version.Comments = "1234567890abcdef";
+    DlgProbe form(session);
+    ShowActive(form);
+    form.tText->moveCursor(QTextCursor::End);
+    TypeKeys(*form.tText, "x");
+    EXPECT_EQ(form.tText->toPlainText(), "1234567890abcdef");
+    QTest::keyClick(form.tText, Qt::Key_Backspace);
+    EXPECT_EQ(form.tText->toPlainText(), "1234567890abcde");
+}
+
+TEST_F(FormKit, NeverBringsBackByUndoWhatItHasTakenOut)
+{
+    DlgProbe form(session);
+    ShowActive(form);
+    form.tText->insertPlainText("abc");
+    form.tText->undo();
+    EXPECT_EQ(form.tText->toPlainText(), "");
+    form.tText->insertPlainText("\u65e5d");
+    form.tText->undo();
+    EXPECT_EQ(form.tText->toPlainText(), "d");
+}
+
+TEST_F(FormKit, KeepsBlanksThatDoNotBreak)
+{
+    session.project.Version.Comments = "a\u00a0b";
+    DlgProbe form(session);
+    ShowActive(form);
+    Click(form, "cmdOK");
+    EXPECT_EQ(session.project.Version.Comments, "a\u00a0b");
+}
+
 TEST_F(FormKit, NamesItsControlsForScreenReaders)
 {
     DlgProbe form(session);

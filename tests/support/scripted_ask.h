@@ -29,6 +29,9 @@ public:
     ScriptedAsk(const ScriptedAsk&) = delete;
     ScriptedAsk& operator=(const ScriptedAsk&) = delete;
 
+    /// One more box at the end of the script, for a user who is made before the test begins.
+    void Expect(ExpectedBox box) { script_.push_back(std::move(box)); }
+
     void Inform(const Text& title, const Text& text) override;
     void Warn(const Text& title, const Text& text) override;
     void Critical(const Text& title, const Text& text) override;

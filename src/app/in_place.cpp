@@ -1,0 +1,63 @@
+#include "app/in_place.h"
+
+#include "ui/qt_text.h"
+#include "ui/typed_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+void Change(Session& session, Text& value, Text typed)
+{
+    if (value == typed)
+        return;
+    value = std::move(typed);
+    session.state.ProjectIsDirty = kOn;
+}
+
+} // namespace
+
+QLineEdit* EditInPlace(QLineEdit*& member, const char* name, Session& session, Text& value,
+                       int longest)
+{
+    auto* field = Named(member, name, new QLineEdit);
+    LimitTyping(field, longest);
+    QObject::connect(field, &QLineEdit::textChanged, field,
+                     [field, &session, &value] { Change(session, value, FromQt(field->text())); });
+    return field;
+}
+
+QPlainTextEdit* EditInPlace(QPlainTextEdit*& member, const char* name, Session& session,
+                            Text& value, int longest)
+{
+    auto* area = Named(member, name, new QPlainTextEdit);
+    area->setTabChangesFocus(true);
+    LimitTyping(area, longest);
+    QObject::connect(area, &QPlainTextEdit::textChanged, area, [area, &session, &value] {
+        Change(session, value, LinesFromQt(TypedText(area)));
+    });
+    return area;
+}
+
+void ShowInPlace(QLineEdit* field, const Text& value)
+{
+    const QString text = ToQt(value);
+    if (field->text() == text)
+        return;
+    const QSignalBlocker silence(field);
+    field->setText(text);
+    field->setCursorPosition(0);
+}
+
+void ShowInPlace(QPlainTextEdit* field, const Text& value)
+{
+    const QString text = LinesToQt(value);
+    if (TypedText(field) == text)
+        return;
+    const QSignalBlocker silence(field);
+    field->setPlainText(text);
+}
+
+} // namespace quillon

@@ -1,0 +1,24 @@
+// Fields of the main window that edit the project in place: what is typed stands in the project at
+// once and marks it changed; what is only shown marks nothing.
+#pragma once
+
+#include "shell/session.h"
+#include "ui/form_kit.h"
+
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace quillon {
+
+/// A field that edits `value`; `longest` is in bytes on file (see `LongestText`).
+QLineEdit* EditInPlace(QLineEdit*& member, const char* name, Session& session, Text& value,
+                       int longest);
+/// The same for a text of several lines.
+QPlainTextEdit* EditInPlace(QPlainTextEdit*& member, const char* name, Session& session,
+                            Text& value, int longest);
+
+/// Shows the value of the project. A field that shows it already keeps its caret and its undo.
+void ShowInPlace(QLineEdit* field, const Text& value);
+void ShowInPlace(QPlainTextEdit* field, const Text& value);
+
+} // namespace quillon

@@ -1,0 +1,57 @@
+#include "filelist/variable_prefix.h"
+
+#include <array>
+
+namespace quillon {
+
+namespace {
+
+struct VariablePrefix {
+    std::string_view prefix;
+    // By PrefixTable; empty where the field does not know the variable.
+    std::array<std::string_view, 4> completion;
+};
+
+// A field for a folder gets no backslash, since the variable's own folder may be meant; a field for
+// a file needs one in front of the name. A component's number is the user's to type.
+// clang-format off
+constexpr VariablePrefix kPrefixes[] = {
+    // main folder                 program, document     folder             icon file
+    {"%PR",   {"%PROGRAMFILES\\", "%PROGRAMFILES\\", "%PROGRAMFILES\\", "%PROGRAMFILES\\"}},
+    {"%MY",   {"%MYDOCUMENTS\\",  "%MYDOCUMENTS\\",  "%MYDOCUMENTS\\",  "%MYDOCUMENTS\\"}},
+    {"%DE",   {"",                "%DESTDIR\\",      "%DESTDIR",        "%DESTDIR\\"}},
+    {"%WI",   {"",                "%WINDIR\\",       "",                ""}},
+    {"%SY",   {"",                "%SYSDIR\\",       "",                ""}},
+    {"%FO",   {"",                "",                "%FONTDIR",        ""}},
+    {"%COMM", {"",                "%COMMONFILES\\",  "%COMMONFILES\\",  "%COMMONFILES\\"}},
+    {"%COMP", {"",                "%COMPDIR\\",      "%COMPDIR",        "%COMPDIR\\"}},
+};
+// clang-format on
+
+} // namespace
+
+std::optional<Text> CompleteVariablePrefix(std::string_view text, PrefixTable table)
+{
+    for (const VariablePrefix& row : kPrefixes) {
+        const std::string_view completion = row.completion[static_cast<std::size_t>(table)];
+        if (row.prefix == text && !completion.empty())
+            return Text(completion);
+    }
+    return std::nullopt;
+}
+
+void WarnIfLowerCaseVariable(std::string_view text, const Text& fieldName, Ask& ask)
+{
+    // Kept: only the first variable is looked at, and only its first letter.
+    const std::size_t mark = text.find('%');
+    if (mark == std::string_view::npos)
+        return;
+    const Text letter = FirstCharacters(text.substr(mark + 1), 1);
+    if (UpperCase(letter) == letter)
+        return;
+    ask.Warn("Variabelnamn ej korrekt",
+             "Du har angett en variabel med gemener i fältet '" + fieldName +
+                 "'! En variabel får endast bestå av versaler, tex '%DESTDIR'.");
+}
+
+} // namespace quillon

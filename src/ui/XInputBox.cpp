@@ -1,0 +1,20 @@
+#include "ui/XInputBox.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kUsualNameLength = 40;
+
+} // namespace
+
+XInputBox::XInputBox(const Text& title, const Text& prompt, QWidget* parent)
+    : Form("XInputBox", title, parent)
+{
+    Arrange(Down({Above(prompt, RoomFor(kUsualNameLength, Field(NAMED(tInput), Input))), Stretch(),
+                  OkCancel()}));
+}
+
+} // namespace quillon

@@ -1,0 +1,17 @@
+// Pictures that users choose, read through the machine's files. They come from anywhere: a file
+// that is damaged, huge or no picture at all is simply no picture.
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <optional>
+
+class QImage;
+
+namespace quillon {
+
+/// Bitmaps, JPEG, GIF and PNG pictures and icons, told apart by what is in the file. Nothing comes
+/// back where there is no such picture or one too large to show; nothing is thrown.
+std::optional<QImage> LoadPicture(const FileSystem& files, const Text& path);
+
+} // namespace quillon
