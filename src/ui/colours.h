@@ -1,0 +1,23 @@
+// Colours that follow from a palette: what icons, bars and marks are drawn in, on light and dark.
+#pragma once
+
+#include <QColor>
+
+class QPalette;
+
+namespace quillon {
+
+/// How far two colours stand apart for the eye: 1 is not at all, 21 is black on white. From 3 on a
+/// line is told from its ground, from 4.5 on a text can be read.
+double Contrast(const QColor& one, const QColor& other);
+
+/// `share` of `other`, the rest of `one`.
+QColor Mixed(const QColor& one, const QColor& other, double share);
+
+bool IsDark(const QPalette& palette);
+
+/// The palette's colour for what is selected, as light or dark as it must be to be told from the
+/// window's ground.
+QColor AccentColour(const QPalette& palette);
+
+} // namespace quillon
