@@ -1,5 +1,6 @@
 #include "ui/QtAsk.h"
 
+#include "ui/SelectDir.h"
 #include "ui/XInputBox.h"
 #include "ui/file_dialog.h"
 #include "ui/qt_text.h"
@@ -97,9 +98,8 @@ std::optional<Text> QtAsk::SaveFile(const FileQuestion& question)
 
 std::optional<Text> QtAsk::SelectDir(const Text& text, const Text& folder)
 {
-    static_cast<void>(text);
-    static_cast<void>(folder);
-    return {};
+    quillon::SelectDir form(host_.files, *this, text, folder, WindowInFront());
+    return form.ShowModal() ? std::optional(form.Folder) : std::nullopt;
 }
 
 std::optional<Text> QtAsk::XInputBox(const Text& title, const Text& prompt)

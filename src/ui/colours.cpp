@@ -44,7 +44,7 @@ bool IsDark(const QPalette& palette)
 
 QColor AccentColour(const QPalette& palette)
 {
-    constexpr double kTold = 3.2;
+    constexpr double kTold = 4;
     const QColor ground = palette.color(QPalette::Window);
     const QColor selection = palette.color(QPalette::Active, QPalette::Highlight);
     const QColor wanted = selection.hslSaturationF() < 0.25F ? kBlue : selection;
