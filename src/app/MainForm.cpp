@@ -8,10 +8,13 @@
 #include "app/RegistryPage.h"
 #include "app/actions.h"
 #include "app/command_bars.h"
+#include "app/window_place.h"
 #include "filelist/status_text.h"
 #include "helpers/product.h"
 #include "helpers/windows_path.h"
 #include "shell/failure_text.h"
+#include "shell/project_commands.h"
+#include "shell/settings_file.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -106,6 +109,8 @@ void MainForm::ShowTab(Tab tab)
 
 void MainForm::SelectTab(Tab tab)
 {
+    if (!MainTab_->isTabVisible(static_cast<int>(tab)))
+        return;
     MainTab_->setCurrentIndex(static_cast<int>(tab));
     MainTab_->setFocus();
 }
@@ -155,8 +160,22 @@ void MainForm::ShowStatusText(const Text& text)
     statusBar()->repaint();
 }
 
+void MainForm::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    // The window is to be seen before a long project is read or a question comes up.
+    if (auto activate = std::exchange(onFirstActivation, nullptr))
+        QTimer::singleShot(0, this, std::move(activate));
+}
+
 void MainForm::closeEvent(QCloseEvent* event)
 {
+    if (!MayCloseMainWindow(session_, *this)) {
+        event->ignore();
+        return;
+    }
+    KeepWindowPlace(*this, session_.Settings.WindowPlace);
+    WriteDataToIniFile(session_);
     event->accept();
 }
 

@@ -45,7 +45,11 @@ public:
     /// What a status text of a long command says; an empty one gives the bar back.
     void ShowStatusText(const Text& text);
 
+    /// Run once, behind the first time that the window is shown.
+    std::function<void()> onFirstActivation;
+
 protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

@@ -1,6 +1,11 @@
 #include "app/actions.h"
 
 #include "app/MainForm.h"
+#include "shell/forms/DlgAbout.h"
+#include "shell/forms/DlgEditorOptions.h"
+#include "shell/forms/DlgVersionInfo.h"
+#include "shell/help.h"
+#include "shell/project_commands.h"
 
 #include <map>
 
@@ -14,15 +19,42 @@ void Select(MainForm& form)
     form.SelectTab(tab);
 }
 
+template <std::size_t slot>
+void OpenRecent(MainForm& form)
+{
+    OpenRecentFile(form.GetSession(), form, slot);
+}
+
+void Help(MainForm& form)
+{
+    ShowHelp(form.GetSession());
+}
+
 // clang-format off
 const std::map<int, Action> kActions = {
+    {101, [](MainForm& form) { NewProject(form.GetSession(), form); }},
+    {102, [](MainForm& form) { OpenProject(form.GetSession(), form); }},
+    {103, [](MainForm& form) { SaveProjectCommand(form.GetSession(), form); }},
+    {104, [](MainForm& form) { SaveProjectAs(form.GetSession(), form); }},
     {112, [](MainForm& form) { form.close(); }},
+    {145, [](MainForm& form) { ShowVersionInfo(form.GetSession(), &form); }},
+    {146, [](MainForm& form) { ShowEditorOptions(form.GetSession(), form, &form); }},
     {147, Select<Tab::Files>},
     {148, Select<Tab::Design>},
     {149, Select<Tab::Dialogs>},
     {150, Select<Tab::Registry>},
     {151, Select<Tab::IniFiles>},
     {152, Select<Tab::Components>},
+    {153, Help},
+    {154, Help},
+    {155, Help},
+    {156, [](MainForm& form) { ShowSupport(form.GetSession()); }},
+    {158, [](MainForm& form) { ShowAbout(&form); }},
+    {291, OpenRecent<0>},
+    {292, OpenRecent<1>},
+    {293, OpenRecent<2>},
+    {294, OpenRecent<3>},
+    {302, Help},
 };
 // clang-format on
 

@@ -1,22 +1,67 @@
 // quillon: the desktop program. Its whole command line is the path of one project.
 #include "app/MainForm.h"
+#include "app/command_line.h"
+#include "app/window_place.h"
+#include "helpers/product.h"
 #include "platform/posix/posix_host.h"
+#include "shell/forms/DlgCreateFoldersAtMyDoc.h"
+#include "shell/start.h"
 #include "ui/QtAsk.h"
+#include "ui/qt_text.h"
 
-#include <QApplication>
+#include <QtWidgets>
+
+namespace {
+
+using namespace quillon;
+
+HostPaths PathsOf(const PosixHost& machine)
+{
+    return {.toHost = [&](const Text& path) { return machine.drives.ToHost(path); },
+            .toWindows = [&](const std::string& path) { return machine.drives.ToWindows(path); }};
+}
+
+/// Settings of the machine that could not be used, all in one box.
+void TellComplaints(const std::vector<Text>& complaints, Ask& ask)
+{
+    Text lines;
+    for (const Text& complaint : complaints)
+        lines.append(lines.empty() ? "" : "\r\n\r\n").append(complaint);
+    if (!lines.empty())
+        ask.Warn(Text(kProductName), lines);
+}
+
+} // namespace
 
 int main(int count, char** words)
 {
-    using namespace quillon;
-    QApplication application(count, words);
+    // Qt sees the program's name alone: a project may be called like one of its switches.
+    int one = 1;
+    QApplication application(one, words);
+    QApplication::setApplicationName("quillon");
+    QApplication::setApplicationDisplayName(ToQt(kProductName));
+
     PosixHost machine;
-    const HostPaths paths{
-        .toHost = [&](const Text& path) { return machine.drives.ToHost(path); },
-        .toWindows = [&](const std::string& path) { return machine.drives.ToWindows(path); }};
+    const HostPaths paths = PathsOf(machine);
+    const auto project =
+        ProjectOfCommandLine({words + 1, static_cast<std::size_t>(std::max(count, 1) - 1)}, paths);
+    if (!project)
+        machine.complaints.push_back("Projektets namn på kommandoraden går ej att använda.");
+    // Behind the command line, whose path may be a relative one.
+    if (const auto folder = paths.toHost(machine.ProgramFolder()))
+        QDir::setCurrent(QString::fromStdString(*folder));
+
     QtAsk ask(machine.host, paths);
     Session session = NewSession(machine.host, ask, machine.ProgramFolder());
+    StartSession(session);
     MainForm form(session);
     ask.onStatusText = [&](const Text& text) { form.ShowStatusText(text); };
+    form.onFirstActivation = [&] {
+        TellComplaints(machine.complaints, ask);
+        ActivateForTheFirstTime(session, form, project.value_or(""),
+                                [&] { OfferProjectsFolder(session, &form); });
+    };
+    RestoreWindowPlace(form, session.Settings.WindowPlace);
     form.show();
     return QApplication::exec();
 }

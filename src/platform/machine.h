@@ -38,6 +38,8 @@ public:
     virtual Text GetSysTemplatesDirectory() const = 0;
     /// Where a file may lie for the length of one command.
     virtual Text GetTempDir() const = 0;
+    /// Where the tool keeps what its user has set. It need not be there yet.
+    virtual Text GetSettingsDir() const = 0;
 
     /// The text of a registry value (an empty name is the key's default value); nothing when the
     /// key or the value is missing.

@@ -49,6 +49,12 @@ void WriteProfileValue(FileSystem& files, const Text& path, const Text& section,
                        const Text& value)
 {
     std::string bytes = files.FileExists(path) ? ReadWholeFile(files, path) : std::string();
+    SetProfileValue(bytes, section, key, value);
+    WriteWholeFile(files, path, bytes);
+}
+
+void SetProfileValue(std::string& bytes, const Text& section, const Text& key, const Text& value)
+{
     const std::string sectionName = AnsiText::ToBytes(section);
     const std::string keyName = AnsiText::ToBytes(key);
     const std::string valueBytes = AnsiText::ToBytes(value);
@@ -59,7 +65,6 @@ void WriteProfileValue(FileSystem& files, const Text& path, const Text& section,
         const std::string header = "[" + sectionName + "]" + std::string(kLineBreak);
         InsertLines(bytes, bytes.size(), header + SettingLine(keyName, valueBytes));
     }
-    WriteWholeFile(files, path, bytes);
 }
 
 } // namespace quillon

@@ -4,6 +4,8 @@
 
 #include "platform/file_system.h"
 
+#include <string>
+
 namespace quillon {
 
 /// The first key of that name takes the value, in the form "Key=value" without blanks. A missing
@@ -11,5 +13,8 @@ namespace quillon {
 /// file is made. Throws `RunError` when the file can't be read or written.
 void WriteProfileValue(FileSystem& files, const Text& path, const Text& section, const Text& key,
                        const Text& value);
+
+/// The same in the bytes of such a file, for a writer of many values.
+void SetProfileValue(std::string& bytes, const Text& section, const Text& key, const Text& value);
 
 } // namespace quillon

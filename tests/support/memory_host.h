@@ -81,6 +81,7 @@ public:
     Text GetSysLocalAppDataDirectory() const override { return "C:\\Data\\Local"; }
     Text GetSysTemplatesDirectory() const override { return "C:\\Data\\Mallar"; }
     Text GetTempDir() const override { return "C:\\TEMP"; }
+    Text GetSettingsDir() const override { return settingsDir; }
     std::optional<Text> ReadRegistryValue(RegistryRoot root, const Text& subKey,
                                           const Text& valueName) const override;
     RegisteredOwner GetWindowsRegisteredOwner() const override { return owner; }
@@ -99,6 +100,7 @@ public:
     char decimalSign = ',';
     LocalTime now{2004, 3, 1, 14, 25, 36};
     std::uint32_t nextRandom = 0; // counts up by one, modulo what is asked for
+    Text settingsDir = "C:\\Data\\Roaming\\Quillon";
     std::vector<std::pair<Text, Text>> started;
     int startFailure = 0;
 };

@@ -96,6 +96,7 @@ public:
     Text GetSysLocalAppDataDirectory() const override { return {}; }
     Text GetSysTemplatesDirectory() const override { return {}; }
     Text GetTempDir() const override { return {}; }
+    Text GetSettingsDir() const override { return {}; }
     std::optional<Text> ReadRegistryValue(RegistryRoot, const Text&, const Text&) const override
     {
         return std::nullopt;

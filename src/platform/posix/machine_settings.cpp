@@ -39,6 +39,16 @@ std::string DataFolder()
     return (home.empty() ? Variable("TMPDIR") : home) + "/.local/share";
 }
 
+/// The folder for what the tool remembers of its user, by the same convention.
+std::string SettingsFolder()
+{
+    const std::string named = Variable("XDG_CONFIG_HOME");
+    if (named.starts_with("/"))
+        return named + "/quillon";
+    const std::string home = Variable("HOME");
+    return home.empty() ? std::string() : home + "/.config/quillon";
+}
+
 std::string FolderOfDriveC()
 {
     const std::string named = Variable("QUILLON_DRIVE_C");
@@ -88,6 +98,7 @@ MachineSettings ReadMachineSettings()
     settings.registryFiles = SplitList(Variable("QUILLON_REGISTRY"));
     if (const std::string temp = Variable("TMPDIR"); !temp.empty())
         settings.tempFolder = temp;
+    settings.settingsFolder = SettingsFolder();
     ReadUser(settings);
     return settings;
 }

@@ -13,6 +13,7 @@ struct MachineSettings {
     std::vector<MappedDrive> drives;
     std::vector<std::string> registryFiles; // host paths
     std::string tempFolder = "/tmp";        // a host path
+    std::string settingsFolder;             // the same; empty where the user has no folder at all
     Text user;                              // the log-in name
     Text fullName;
     // Settings that could not be understood, a line for the user each.

@@ -42,7 +42,8 @@ void StartOrFail(const std::vector<std::string>& command, const Text& path)
 PosixMachine::PosixMachine(const MachineSettings& settings, const DriveMap& drives,
                            PosixFiles& files, RegistryFiles registry)
     : drives_(drives), files_(files), registry_(std::move(registry)),
-      tempFolder_(settings.tempFolder), user_(settings.user), fullName_(settings.fullName)
+      tempFolder_(settings.tempFolder), settingsFolder_(settings.settingsFolder),
+      user_(settings.user), fullName_(settings.fullName)
 {
     for (const char* folder : {kWindows, kSystem, kFonts})
         files.DirCreate(folder);
@@ -99,6 +100,11 @@ Text PosixMachine::GetSysTemplatesDirectory() const
 Text PosixMachine::GetTempDir() const
 {
     return RemoveLastBackslash(drives_.ToWindows(tempFolder_).value_or(""));
+}
+
+Text PosixMachine::GetSettingsDir() const
+{
+    return settingsFolder_.empty() ? Text() : drives_.ToWindows(settingsFolder_).value_or("");
 }
 
 std::optional<Text> PosixMachine::ReadRegistryValue(RegistryRoot root, const Text& subKey,

@@ -24,6 +24,7 @@ public:
     Text GetSysLocalAppDataDirectory() const override;
     Text GetSysTemplatesDirectory() const override;
     Text GetTempDir() const override;
+    Text GetSettingsDir() const override;
 
     std::optional<Text> ReadRegistryValue(RegistryRoot root, const Text& subKey,
                                           const Text& valueName) const override;
@@ -49,6 +50,7 @@ private:
     const PosixFiles& files_;
     RegistryFiles registry_;
     std::string tempFolder_;
+    std::string settingsFolder_;
     Text user_;
     Text fullName_;
 };

@@ -91,6 +91,12 @@ Text WinMachine::GetTempDir() const
     return FolderFrom([](wchar_t* path, DWORD size) { return GetTempPathW(size, path); });
 }
 
+Text WinMachine::GetSettingsDir() const
+{
+    const Text data = GetSysAppDataDirectory();
+    return data.empty() ? Text() : JoinPath(data, "Quillon");
+}
+
 std::optional<Text> WinMachine::ReadRegistryValue(RegistryRoot root, const Text& subKey,
                                                   const Text& valueName) const
 {

@@ -15,6 +15,7 @@ public:
     Text GetSysLocalAppDataDirectory() const override;
     Text GetSysTemplatesDirectory() const override;
     Text GetTempDir() const override;
+    Text GetSettingsDir() const override;
 
     std::optional<Text> ReadRegistryValue(RegistryRoot root, const Text& subKey,
                                           const Text& valueName) const override;

@@ -1,0 +1,15 @@
+// The command line: all of it is the path of one project. There are no switches.
+#pragma once
+
+#include "ui/host_paths.h"
+
+#include <span>
+
+namespace quillon {
+
+/// The Windows path that the words behind the program's name stand for; empty without any. A path
+/// of this machine, a relative one too, is turned into one; a Windows path stays as it stands.
+/// Nothing where no Windows path can hold the name.
+std::optional<Text> ProjectOfCommandLine(std::span<char* const> words, const HostPaths& paths);
+
+} // namespace quillon

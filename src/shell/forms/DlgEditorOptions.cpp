@@ -1,0 +1,106 @@
+#include "shell/forms/DlgEditorOptions.h"
+
+#include "helpers/windows_path.h"
+#include "shell/session.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+// By `BarsStyle`.
+constexpr const char* kBarsStyles[] = {"Windows XP", "Office 2000", "Office XP", "Office 2003"};
+
+QWidget* TabOf(Piece pieces)
+{
+    auto* tab = new QWidget;
+    Arrange(tab, pieces);
+    return tab;
+}
+
+} // namespace
+
+DlgEditorOptions::DlgEditorOptions(Session& session, QWidget* parent)
+    : Form("DlgEditorOptions", "Alternativ", parent)
+{
+    Named(NAMED(tabOptions), new QTabWidget, "Alternativ");
+    tabOptions->addTab(FileListTab(session), "Fillista");
+    tabOptions->addTab(WindowTab(session), "Fönster");
+    tabOptions->addTab(CreateTab(session), "Skapa");
+    Arrange(Down({Growing(tabOptions), OkCancel()}));
+}
+
+QWidget* DlgEditorOptions::FileListTab(Session& session)
+{
+    ListOptions& options = session.Settings.ListOptions;
+    return TabOf(Down({
+        Check(NAMED(cShowAlsoSourcePathInFileList), "Visa även &källkatalog i fillistan",
+              options.ShowAlsoSourcePathInFileList),
+        Check(NAMED(cFileListShowGridLines), "Visa &rutnät i fillistan",
+              options.ShowGridLinesInFileList),
+        Check(NAMED(cOldStyleAddDialogBox), "Använd den äldre &dialogrutan när filer adderas",
+              options.OldStyleAddDialogBox),
+        Stretch(),
+    }));
+}
+
+QWidget* DlgEditorOptions::WindowTab(Session& session)
+{
+    HideTabs& hide = session.Settings.HideTabs;
+    return TabOf(Down({
+        Frame("Dölj flikar",
+              {
+                  Check(NAMED(cHideRegistry), "&Registry", hide.HideTabRegistry),
+                  Check(NAMED(cHideINIFiles), "&INI-filer", hide.HideTabINIFiles),
+                  Check(NAMED(cHideComponents), "&Komponenter", hide.HideTabComponents),
+              }),
+        Fields({{"&Utseende på menyer och verktygsfält:",
+                 Choice(NAMED(cbCBarsStyle), kBarsStyles,
+                        session.Settings.WindowOptions.CBarsCurrentStyle)}}),
+        Stretch(),
+    }));
+}
+
+QWidget* DlgEditorOptions::CreateTab(Session& session)
+{
+    CreateOptions& options = session.options;
+    QWidget* tab = TabOf(Down({
+        Check(NAMED(cUpdateSetupDateTime), "Ge setup-programmet dagens &datum och tid",
+              options.UpdateSetupExeDateTime),
+        Check(NAMED(cPlaceCompressedFilesInFolderSetupFiles),
+              "Lägg &komprimerade filer i katalogen \\SetupFiles",
+              options.PlaceCompressedFilesInFolderSetupFiles),
+        Check(NAMED(cCreateFolderStructureInFolderSetupFiles),
+              "Skapa katalog&struktur i katalogen \\SetupFiles",
+              options.CreateFolderStructureInFolderSetupFiles),
+        Frame("Gäller tills programmet avslutas",
+              {
+                  Check(NAMED(cUseTempZipPath), "Komprimera i en &egen arbetskatalog",
+                        options.UseTempZipPath),
+                  Check(NAMED(cCreateZipLogFile), "Skriv en &loggfil över komprimeringen",
+                        options.CreateZipLogFile),
+              }),
+        Stretch(),
+    }));
+    cUseTempZipPath->setToolTip(ToQt(PrettyPath(options.TempZipPath)));
+    connect(cPlaceCompressedFilesInFolderSetupFiles, &QCheckBox::toggled, this,
+            [this] { TurnOnOffSetupFilesOpt2(); });
+    TurnOnOffSetupFilesOpt2();
+    return tab;
+}
+
+void DlgEditorOptions::TurnOnOffSetupFilesOpt2()
+{
+    cCreateFolderStructureInFolderSetupFiles->setEnabled(
+        cPlaceCompressedFilesInFolderSetupFiles->isChecked());
+}
+
+void ShowEditorOptions(Session& session, MainWindow& window, QWidget* parent)
+{
+    if (DlgEditorOptions(session, parent).ShowModal())
+        window.ShowSettings();
+}
+
+} // namespace quillon

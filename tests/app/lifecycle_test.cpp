@@ -1,0 +1,387 @@
+// The life of projects and of the window, driven by the commands' ids.
+#include "app/MainForm.h"
+#include "app/command_line.h"
+#include "app/window_place.h"
+#include "platform/run_error.h"
+#include "shell/forms/DlgCreateFoldersAtMyDoc.h"
+#include "shell/lifecycle.h"
+#include "shell/settings_file.h"
+#include "shell/start.h"
+#include "support/window_test.h"
+
+namespace quillon::test {
+namespace {
+
+constexpr const char* kA = "C:\\P\\a.qnp";
+constexpr const char* kB = "C:\\P\\b.qnp";
+constexpr const char* kOffered = "C:\\Mina dokument\\Quillon\\Mina projekt";
+
+ExpectedBox SaveQuestion(Answer answer)
+{
+    return {BoxKind::YesNoCancel, "Tavrell Quillon 2004",
+            "Vissa inställningar har ändrats. Vill du spara dessa?", answer};
+}
+
+/// A machine with two projects, a user with a script, and the window.
+class Desk {
+public:
+    explicit Desk(std::deque<ExpectedBox> boxes = {}, std::deque<ScriptedAsk::Choice> choices = {})
+        : ask(std::move(boxes))
+    {
+        ask.choices = std::move(choices);
+        machine.files.Put("C:\\Quillon\\Res\\SetupDef.bmp", "BM");
+        machine.files.PutFolder("C:\\P");
+        for (const char* file : {kA, kB})
+            Put(file);
+        StartSession(session);
+    }
+
+    void Put(const Text& file)
+    {
+        ScriptedAsk nobody;
+        Session other = NewSession(machine.host, nobody, "C:\\Quillon");
+        other.state.ProjectFileName = file;
+        other.project.ProjectName.ProjectName = file;
+        SaveProject(other);
+    }
+
+    /// Shows the window as main() does and waits until its first activation is over. The offer of
+    /// folders, where it comes, is answered Yes.
+    void Activate(const Text& commandLine = "")
+    {
+        bool isActive = false;
+        form.onFirstActivation = [&] {
+            ActivateForTheFirstTime(session, form, commandLine, [&] {
+                titleAtOffer = Title();
+                OnNextDialog([](QDialog& offer) { Click(offer, "CmdYes"); });
+                OfferProjectsFolder(session, &form);
+            });
+            isActive = true;
+        };
+        form.show();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isActive; }));
+    }
+
+    void Change()
+    {
+        session.project.ProjectName.ProjectName = "Ändrat";
+        session.state.ProjectIsDirty = kOn;
+    }
+
+    Text Title() const { return FromQt(form.windowTitle()); }
+    const Text& Name() const { return session.project.ProjectName.ProjectName; }
+    QAction& Entry(int id) { return Find<QAction>(QString("cmd%1").arg(id)); }
+
+    template <class Object>
+    Object& Find(const QString& name)
+    {
+        auto* found = form.findChild<Object*>(name);
+        if (!found)
+            qFatal("there is no %s", qPrintable(name));
+        return *found;
+    }
+
+    Text titleAtOffer;
+    MemoryHost machine;
+    ScriptedAsk ask;
+    Session session = NewSession(machine.host, ask, "C:\\Quillon");
+    MainForm form{session};
+};
+
+TEST(LifecycleByCommand, BeginsANewProjectOnTheFirstTab)
+{
+    Desk desk({SaveQuestion(Answer::No)});
+    desk.session.state.ProjectFileName = kA;
+    desk.Change();
+    desk.form.SelectTab(Tab::Dialogs);
+    desk.form.RunCommand(101);
+    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [noname]");
+    EXPECT_EQ(desk.Name(), "");
+    EXPECT_EQ(desk.form.SelectedTab(), Tab::Files);
+    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
+}
+
+TEST(LifecycleByCommand, OpensAProject)
+{
+    Desk desk({}, {{{kA}}});
+    desk.form.SelectTab(Tab::Design);
+    desk.form.RunCommand(102);
+    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [a.qnp]");
+    EXPECT_EQ(desk.Name(), kA);
+    EXPECT_EQ(desk.form.SelectedTab(), Tab::Design);
+    EXPECT_EQ(desk.Entry(291).text(), "a.qnp");
+}
+
+TEST(LifecycleByCommand, SavesAndSavesUnderAnotherName)
+{
+    Desk desk({}, {{{"C:\\P\\c.qnp"}}, {{"C:\\P\\d.qnp"}}});
+    desk.Change();
+    desk.form.RunCommand(103);
+    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [c.qnp]");
+    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
+    desk.form.RunCommand(103);
+    desk.form.RunCommand(104);
+    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [d.qnp]");
+    EXPECT_TRUE(desk.machine.files.FileExists("C:\\P\\d.qnp"));
+    EXPECT_EQ(desk.Entry(291).text(), "d.qnp");
+    EXPECT_EQ(desk.Entry(292).text(), "c.qnp");
+}
+
+TEST(LifecycleByCommand, TellsWhyAProjectCannotBeSaved)
+{
+    Desk desk({{BoxKind::Critical, "Fel", "Disken är full: 'C:\\P\\a.qnp'."}});
+    desk.session.state.ProjectFileName = kA;
+    desk.Change();
+    desk.machine.files.FailFromWrite(1, ErrorNumber::kDiskFull);
+    desk.form.RunCommand(103);
+    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOn);
+}
+
+TEST(LifecycleByCommand, OpensEachRecentFileByItsOwnCommand)
+{
+    Desk desk;
+    const std::array<Text, 4> files{"C:\\P\\1.qnp", "C:\\P\\2.qnp", "C:\\P\\3.qnp", "C:\\P\\4.qnp"};
+    for (const Text& file : files)
+        desk.Put(file);
+    for (std::size_t slot = 0; slot < files.size(); ++slot) {
+        desk.session.RecentFiles = files;
+        desk.form.RunCommand(291 + static_cast<int>(slot));
+        EXPECT_EQ(desk.Name(), files[slot]);
+        EXPECT_EQ(desk.session.RecentFiles[0], files[slot]);
+    }
+    desk.session.RecentFiles = {kA};
+    desk.form.RunCommand(293);
+    EXPECT_EQ(desk.Name(), files[3]) << "a free slot does nothing";
+}
+
+TEST(LifecycleByCommand, KeepsTheEntryOfAProjectThatVanished)
+{
+    Desk desk({{BoxKind::Critical, "Fel", "Kaj ej öppna 'C:\\P\\borta.qnp'!"}});
+    desk.session.RecentFiles = {"C:\\P\\borta.qnp"};
+    desk.form.ShowRecentFiles();
+    desk.form.RunCommand(291);
+    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [noname]");
+    EXPECT_EQ(desk.Entry(291).text(), "borta.qnp");
+}
+
+// Kept: a refused file stands in the title and among the recent files.
+TEST(LifecycleByCommand, NamesARefusedFileInItsTitle)
+{
+    Desk desk({{BoxKind::Warn, "Fel filformat"}}, {{{"C:\\P\\x.txt"}}});
+    desk.machine.files.Put("C:\\P\\x.txt", "no project");
+    desk.form.RunCommand(102);
+    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [x.txt]");
+    EXPECT_EQ(desk.Entry(291).text(), "x.txt");
+}
+
+TEST(RecentFilesMenu, ShowsTheMarkOfAFreeSlotOnANewMachineAndFillsFromTheTop)
+{
+    Desk desk;
+    EXPECT_EQ(desk.Entry(291).text(), "(tom)");
+    EXPECT_TRUE(desk.Entry(291).isVisible());
+    for (const int id : {292, 293, 294})
+        EXPECT_FALSE(desk.Entry(id).isVisible()) << id;
+    desk.session.RecentFiles = {"C:\\P\\R&D.qnp", kB};
+    desk.form.ShowRecentFiles();
+    EXPECT_EQ(desk.Entry(291).text(), "R&&D.qnp");
+    EXPECT_EQ(desk.Entry(292).text(), "b.qnp");
+    EXPECT_FALSE(desk.Entry(293).isVisible());
+}
+
+struct Closing {
+    const char* name;
+    Answer answer;
+    bool isNamed;
+    std::deque<ScriptedAsk::Choice> choices;
+    bool closes;
+};
+
+class CloseWindow : public testing::TestWithParam<Closing> {};
+
+TEST_P(CloseWindow, AsksAboutChangesAndWritesTheSettingsWhereItCloses)
+{
+    const Closing& closing = GetParam();
+    Desk desk({SaveQuestion(closing.answer)}, closing.choices);
+    desk.form.show();
+    if (closing.isNamed)
+        desk.session.state.ProjectFileName = kA;
+    desk.Change();
+    desk.form.RunCommand(112);
+    EXPECT_EQ(desk.form.isVisible(), !closing.closes);
+    EXPECT_EQ(desk.session.state.ProjectIsDirty != kOff,
+              !closing.closes || closing.answer == Answer::No);
+    EXPECT_EQ(desk.machine.files.FileExists(SettingsFile(desk.machine.machine)), closing.closes);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, CloseWindow,
+    testing::Values(Closing{"Yes", Answer::Yes, true, {}, true},
+                    Closing{"YesAndAName", Answer::Yes, false, {{{"C:\\P\\n.qnp"}}}, true},
+                    Closing{"YesAndNoName", Answer::Yes, false, {{}}, false},
+                    Closing{"No", Answer::No, true, {}, true},
+                    Closing{"Cancel", Answer::Cancel, true, {}, false}),
+    [](const auto& one) { return one.param.name; });
+
+TEST(CloseWindowUnchanged, LeavesSizeAndRecentFilesInTheSettings)
+{
+    Desk desk;
+    desk.form.resize(1000, 700);
+    desk.form.show();
+    desk.session.RecentFiles = {kB};
+    desk.form.close();
+    Session next = NewSession(desk.machine.host, desk.ask, "C:\\Quillon");
+    StartSession(next);
+    EXPECT_EQ(next.RecentFiles[0], kB);
+    EXPECT_EQ(next.Settings.WindowPlace.Width, 1000);
+    EXPECT_EQ(next.Settings.WindowPlace.Height, 700);
+    EXPECT_EQ(next.Settings.WindowPlace.Maximized, kOff);
+}
+
+TEST(WindowPlaceTest, ComesBackAsItWasLeftAndFitsTheScreen)
+{
+    QMainWindow window;
+    RestoreWindowPlace(window, {.Width = 640, .Height = 480});
+    EXPECT_EQ(window.size(), QSize(640, 480));
+    EXPECT_FALSE(window.isMaximized());
+
+    QMainWindow large;
+    RestoreWindowPlace(large, {.Width = 16000, .Height = 16000, .Maximized = kOn});
+    const QSize screen = large.screen()->availableSize();
+    EXPECT_TRUE(large.isMaximized());
+    EXPECT_LE(large.width(), screen.width());
+
+    QMainWindow first;
+    RestoreWindowPlace(first, {});
+    EXPECT_GT(first.width(), 300);
+    EXPECT_LE(first.height(), screen.height());
+
+    WindowPlace kept;
+    large.show();
+    KeepWindowPlace(large, kept);
+    EXPECT_EQ(kept.Maximized, kOn);
+}
+
+TEST(FirstActivation, OffersFoldersOnceAndBehindTheProject)
+{
+    Desk desk;
+    desk.Activate(kA);
+    EXPECT_EQ(desk.titleAtOffer, "Tavrell Quillon 2004 - [a.qnp]");
+    EXPECT_TRUE(desk.machine.files.DirExists(kOffered));
+    EXPECT_EQ(desk.session.ProjectsFolder, kOffered);
+    EXPECT_FALSE(desk.form.onFirstActivation) << "a later activation does nothing";
+    desk.form.close();
+
+    Session next = NewSession(desk.machine.host, desk.ask, "C:\\Quillon");
+    StartSession(next);
+    EXPECT_EQ(next.Settings.WindowOptions.MyDocFolderAutoCreateDone, kOn);
+    EXPECT_EQ(next.ProjectsFolder, kOffered);
+}
+
+TEST(FirstActivation, OpensTheProjectOfTheCommandLine)
+{
+    Desk desk;
+    desk.session.Settings.WindowOptions.MyDocFolderAutoCreateDone = kOn;
+    desk.Activate(kA);
+    EXPECT_EQ(desk.titleAtOffer, "") << "the offer was answered in another run";
+    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [a.qnp]");
+    EXPECT_EQ(desk.Name(), kA);
+    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
+    EXPECT_EQ(desk.Entry(291).text(), "a.qnp");
+}
+
+TEST(FirstActivation, GoesOnUnderTheNameOfAProjectThatIsNotThere)
+{
+    Desk desk({{BoxKind::Warn, "Fel filformat"}});
+    desk.session.Settings.WindowOptions.MyDocFolderAutoCreateDone = kOn;
+    desk.Activate("C:\\P\\borta.qnp");
+    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [borta.qnp]");
+}
+
+TEST(FirstActivation, HidesTabsAndTheirEntries)
+{
+    Desk desk;
+    desk.session.Settings.WindowOptions.MyDocFolderAutoCreateDone = kOn;
+    desk.session.Settings.HideTabs = {kOn, kOff, kOn};
+    desk.Activate();
+    const auto& tabs = desk.Find<QTabWidget>("MainTab");
+    const std::pair<int, bool> expected[] = {{3, false}, {4, true}, {5, false}};
+    for (const auto& [tab, isVisible] : expected) {
+        EXPECT_EQ(tabs.isTabVisible(tab), isVisible) << tab;
+        EXPECT_EQ(desk.Entry(147 + tab).isVisible(), isVisible) << tab;
+    }
+    EXPECT_EQ(desk.form.SelectedTab(), Tab::Files);
+    desk.form.RunCommand(150);
+    EXPECT_EQ(desk.form.SelectedTab(), Tab::Files) << "a hidden tab can't be reached";
+}
+
+TEST(OptionsByCommand, HideATabAtOnce)
+{
+    Desk desk;
+    desk.form.show();
+    OnNextDialog([](QDialog& form) {
+        test::Find<QCheckBox>(form, "cHideINIFiles").setChecked(true);
+        Click(form, "cmdOK");
+    });
+    desk.form.RunCommand(146);
+    EXPECT_FALSE(desk.Find<QTabWidget>("MainTab").isTabVisible(4));
+    EXPECT_FALSE(desk.Entry(151).isVisible());
+    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
+}
+
+TEST(ShellByCommand, ShowsItsDialogs)
+{
+    Desk desk;
+    desk.form.show();
+    const std::pair<int, const char*> dialogs[] = {
+        {145, "DlgVersionInfo"}, {146, "DlgEditorOptions"}, {158, "DlgAbout"}};
+    for (const auto& [id, name] : dialogs) {
+        Text shown;
+        OnNextDialog([&](QDialog& form) { shown = FromQt(form.objectName()); });
+        desk.form.RunCommand(id);
+        EXPECT_EQ(shown, name);
+    }
+}
+
+TEST(ShellByCommand, OpensTheHelpFileAndTellsOfSupport)
+{
+    Desk desk({{BoxKind::Inform, "Support"}});
+    for (const int id : {153, 154, 155, 302})
+        desk.form.RunCommand(id);
+    ASSERT_EQ(desk.machine.machine.started.size(), 4U);
+    EXPECT_EQ(desk.machine.machine.started[3].first, "C:\\Quillon\\QN.HLP");
+    desk.form.RunCommand(156);
+}
+
+struct Line {
+    std::vector<const char*> words;
+    std::optional<Text> project;
+};
+
+TEST(CommandLine, IsThePathOfOneProject)
+{
+    const HostPaths paths{.toHost = {}, .toWindows = [](const std::string& path) {
+                              return path.find('\\') == std::string::npos
+                                         ? std::optional(Text("Z:\\(" + path + ")"))
+                                         : std::nullopt;
+                          }};
+    const Line lines[] = {
+        {{}, ""},
+        {{"C:\\P\\a.qnp"}, "C:\\P\\a.qnp"},
+        {{"c:/P/a.qnp"}, "c:/P/a.qnp"},
+        {{"\\\\server\\p\\a.qnp"}, "\\\\server\\p\\a.qnp"},
+        {{"C:\\Mina", "projekt\\a.qnp"}, "C:\\Mina projekt\\a.qnp"},
+        {{"/home/x/p.qnp"}, "Z:\\(/home/x/p.qnp)"},
+        {{"mitt", "projekt.qnp"}, "Z:\\(mitt projekt.qnp)"},
+        {{"-style"}, "Z:\\(-style)"},
+        {{"/home/a\\b.qnp"}, std::nullopt},
+    };
+    for (const Line& line : lines) {
+        std::vector<char*> words;
+        for (const char* word : line.words)
+            words.push_back(const_cast<char*>(word));
+        EXPECT_EQ(ProjectOfCommandLine(words, paths), line.project);
+    }
+}
+
+} // namespace
+} // namespace quillon::test
