@@ -24,8 +24,8 @@ DlgVersionInfo::DlgVersionInfo(Session& session, QWidget* parent)
     Version& version = session.project.Version;
     Arrange(Down({
         Fields({
-            {"&Företagsnamn:",
-             Field(NAMED(tVerOrganization), version.CompanyName, Longest(&Version::CompanyName))},
+            {"&Företagsnamn:", RoomFor(45, Field(NAMED(tVerOrganization), version.CompanyName,
+                                                 Longest(&Version::CompanyName)))},
             {"&Produktnamn:",
              Field(NAMED(tVerProductName), version.ProductName, Longest(&Version::ProductName))},
             {"&Beskrivning:",
