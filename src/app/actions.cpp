@@ -1,6 +1,7 @@
 #include "app/actions.h"
 
 #include "app/MainForm.h"
+#include "builder/forms/DlgCreate.h"
 #include "shell/forms/DlgAbout.h"
 #include "shell/forms/DlgEditorOptions.h"
 #include "shell/forms/DlgVersionInfo.h"
@@ -30,12 +31,20 @@ void Help(MainForm& form)
     ShowHelp(form.GetSession());
 }
 
+void Create(MainForm& form)
+{
+    Session& session = form.GetSession();
+    ShowCreate(session, form, &form,
+               [&](QWidget* parent) { ShowEditorOptions(session, form, parent); });
+}
+
 // clang-format off
 const std::map<int, Action> kActions = {
     {101, [](MainForm& form) { NewProject(form.GetSession(), form); }},
     {102, [](MainForm& form) { OpenProject(form.GetSession(), form); }},
     {103, [](MainForm& form) { SaveProjectCommand(form.GetSession(), form); }},
     {104, [](MainForm& form) { SaveProjectAs(form.GetSession(), form); }},
+    {108, Create},
     {112, [](MainForm& form) { form.close(); }},
     {145, [](MainForm& form) { ShowVersionInfo(form.GetSession(), &form); }},
     {146, [](MainForm& form) { ShowEditorOptions(form.GetSession(), form, &form); }},

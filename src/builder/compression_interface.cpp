@@ -211,6 +211,8 @@ void CompressionInterface::State::Deliver(const Order& order, const Text& finish
     disksUsed = spanning.disksUsed;
     if (spanning.result != CompressionResult::kDone)
         throw CompressionFailure(spanning.result, spanning.path);
+    if (disksUsed > 1 && !disks.FirstDiskAgain())
+        throw CompressionFailure(CompressionResult::kCancelled, {});
 }
 
 // A file can't be renamed onto another disk; there it is copied.

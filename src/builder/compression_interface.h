@@ -19,8 +19,11 @@ class DiskSource {
 public:
     virtual ~DiskSource() = default;
 
-    /// The folder of disk `number` (2 and up), ready to be written; nothing when none comes.
+    /// The folder of disk `number` (2 and up), ready to be written; nothing when none comes. It is
+    /// asked again for a disk that turns out to be the one before.
     virtual std::optional<Text> NextDisk(int number) = 0;
+    /// Behind the last disk: whether the first one, with the package's own files, is at hand again.
+    virtual bool FirstDiskAgain() { return true; }
     /// Bytes that the disk in this folder can still take.
     virtual std::uint64_t Capacity(const Text& folder) const = 0;
 };

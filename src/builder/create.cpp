@@ -66,6 +66,7 @@ Step SortLongList(CreateRun& run)
     if (sorts) {
         run.ask.AddStatusLine("Sorterar fillista efter destinationskatalog");
         SortRowsBy(run.project.Files, Destination);
+        run.isListSorted = true;
     }
     return Step::GoOn;
 }

@@ -149,9 +149,7 @@ Check CheckReservedFilenames(CreateRun& run)
 
 Check CheckFirstFloppy(CreateRun& run)
 {
-    const bool goesOn = run.form.TargetMedia != Medium::Floppy ||
-                        run.ask.OkCancel("Diskett", "Stoppa in diskett nr 1!");
-    return goesOn ? Check::Passed : Check::Stopped;
+    return run.form.TargetMedia == Medium::Floppy ? AskForFloppy(run.ask, 1) : Check::Passed;
 }
 
 Check CheckDestinationExists(CreateRun& run)
@@ -282,6 +280,13 @@ Text FindReservedFilename(const Project& project)
         if (Holds(reserved, UpperCase(row[Filename])))
             return row[Filename];
     return {};
+}
+
+Check AskForFloppy(Ask& ask, int number)
+{
+    return ask.OkCancel("Diskett", "Stoppa in diskett nr " + NumberText(number) + "!")
+               ? Check::Passed
+               : Check::Stopped;
 }
 
 Check RunChecks(CreateRun& run)

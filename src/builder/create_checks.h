@@ -17,6 +17,9 @@ namespace quillon {
 /// The name of the first row that would overwrite a file of the package itself, or an empty text.
 Text FindReservedFilename(const Project& project);
 
+/// Asks for the disk that is to be written next.
+[[nodiscard]] Check AskForFloppy(Ask& ask, int number);
+
 /// All checks in their order; the first that stops ends it.
 [[nodiscard]] Check RunChecks(CreateRun& run);
 

@@ -1,5 +1,7 @@
 #include "builder/create_form.h"
 
+#include "helpers/windows_path.h"
+
 #include <algorithm>
 
 namespace quillon {
@@ -35,7 +37,7 @@ CreateForm OpenCreateForm(Project& project, OpenProjectState& state)
 
     ClickMedium(form, MediumOfProject(project), project, state);
     if (form.TargetMedia != Medium::Floppy)
-        ChangeDestinationDir(form, project.LastDirectories.CreatationDestDir, project);
+        ChangeDestinationDir(form, project.LastDirectories.CreatationDestDir, project, state);
     state.ProjectIsDirty = wasDirty;
     return form;
 }
@@ -59,11 +61,33 @@ void ClickMedium(CreateForm& form, Medium medium, Project& project, OpenProjectS
     state.ProjectIsDirty = kOn;
 }
 
-void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project)
+void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project,
+                          OpenProjectState& state)
 {
     form.tDestinationDir = folder;
+    state.ProjectIsDirty = kOn;
     if (const auto lastFolder = ChoiceOf(form.TargetMedia).lastFolder)
         project.LastDirectories.*lastFolder = folder;
+}
+
+Text WhyNotMade(const CreateForm& form)
+{
+    if (form.TargetMedia == Medium::Internet)
+        return "Installationer för Internet kan ännu ej skapas! Välj ett annat medium.";
+    // The steps would cut a longer one and write somewhere else.
+    if (CharacterCount(form.tDestinationDir) > kLongestPath)
+        return "Destinationskatalogen är längre än " + NumberText(kLongestPath) + " tecken: '" +
+               form.tDestinationDir + "'.";
+    return {};
+}
+
+Text ProgressText(std::uint64_t done, std::uint64_t total, char decimalSign)
+{
+    constexpr double kMegabyte = 1024.0 * 1024.0;
+    const auto megabytes = [decimalSign](std::uint64_t bytes) {
+        return FormatNumber(static_cast<double>(bytes) / kMegabyte, "0.0", decimalSign);
+    };
+    return megabytes(done) + " av " + megabytes(total) + " MB";
 }
 
 CompressOptionsForm OpenCompressOptions(const CreateForm& form)

@@ -59,7 +59,15 @@ void CloseCreateForm(const CreateForm& form, Project& project);
 void ClickMedium(CreateForm& form, Medium medium, Project& project, OpenProjectState& state);
 
 /// Any change of the text in `tDestinationDir`, typed or chosen.
-void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project);
+void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project,
+                          OpenProjectState& state);
+
+/// Why no package can be made of what the form holds, which it says before anything is written; an
+/// empty text where one can.
+Text WhyNotMade(const CreateForm& form);
+
+/// How far a long step is: "12,3 av 45,6 MB".
+Text ProgressText(std::uint64_t done, std::uint64_t total, char decimalSign);
 
 /// The dialog of `cmdCompressOptions`.
 struct CompressOptionsForm {

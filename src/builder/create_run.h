@@ -32,6 +32,8 @@ struct CreateRun {
     Integer FloppiesUsed = 0;
     Long FilesInList = 0;
 
+    // The rows of the file list stand in another order than before.
+    bool isListSorted = false;
     // An answer in the middle of the pipeline ended it.
     bool isCancelled = false;
     // The package lacks something although the status lines end as after a success.

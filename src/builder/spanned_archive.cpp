@@ -44,13 +44,13 @@ private:
 
     void TakeNextDisk(int number)
     {
-        const std::optional<Text> folder = disks_.NextDisk(number);
-        if (!folder)
-            throw NoDisk{CompressionResult::kCancelled};
-        const bool isSameDrive = EqualIgnoreCase(*folder, folder_);
-        folder_ = *folder;
-        if (isSameDrive && HoldsThePieceBefore())
-            throw NoDisk{CompressionResult::kCancelled};
+        const Text pieceBefore = PiecePath();
+        do {
+            const std::optional<Text> folder = disks_.NextDisk(number);
+            if (!folder)
+                throw NoDisk{CompressionResult::kCancelled};
+            folder_ = *folder;
+        } while (EqualIgnoreCase(PiecePath(), pieceBefore) && HoldsThePieceBefore());
     }
 
     // A disk that nobody changed would lose the piece that was just written to it.

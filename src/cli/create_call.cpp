@@ -1,10 +1,9 @@
 // quillonc create: Create as its form runs it, the form filled from the switches.
 #include "builder/create.h"
+#include "builder/folder_disks.h"
 #include "cli/calls.h"
 #include "cli/console_ask.h"
-#include "cli/folder_disks.h"
 #include "cli/open_project.h"
-#include "helpers/windows_path.h"
 
 #include <algorithm>
 #include <array>
@@ -38,7 +37,7 @@ CreateForm FillForm(const CallContext& context, Session& session)
         ClickMedium(form, std::ranges::find(kMediumWords, *word, &MediumWord::word)->medium,
                     session.project, session.state);
     if (const auto folder = arguments.Value("--to"))
-        ChangeDestinationDir(form, context.Path(*folder), session.project);
+        ChangeDestinationDir(form, context.Path(*folder), session.project, session.state);
     if (const auto system = arguments.Value("--os"))
         form.cbOS = *system == "new" ? 1 : 0;
     if (arguments.Has("--no-compress"))
@@ -46,18 +45,6 @@ CreateForm FillForm(const CallContext& context, Session& session)
     if (arguments.Has("--separate"))
         form.KeepCompressedFilesOneAndOne = 1;
     return form;
-}
-
-void RefuseWhatCannotBeMade(const CreateForm& form)
-{
-    if (form.TargetMedia == Medium::Internet)
-        throw CallFailure{"Mediet internet kan ännu ej skapas; välj floppy, cd eller tree.",
-                          Exit::Stopped};
-    // The steps would cut a longer one and write somewhere else.
-    if (CharacterCount(form.tDestinationDir) > kLongestPath)
-        throw CallFailure{"Destinationskatalogen är längre än " + NumberText(kLongestPath) +
-                              " tecken: '" + form.tDestinationDir + "'.",
-                          Exit::Stopped};
 }
 
 const char* ResultWord(CreateResult result)
@@ -84,22 +71,12 @@ Json BoxesJson(const ConsoleAsk& ask)
     return boxes;
 }
 
-/// The line for the one who has to mend it; the tool's own lines and boxes often name no file.
-Text FailureLine(const CreateRun& run)
-{
-    if (run.failure)
-        return FailureText(*run.failure, run.form.tDestinationDir);
-    if (run.compressionFailure)
-        return FailureText(*run.compressionFailure);
-    return "Installationen är ej hel; statusraderna visar vad som saknas.";
-}
-
 Exit Tell(const CallContext& context, const ConsoleAsk& ask, const CreateRun& run,
           CreateResult result)
 {
     const bool failed = result == CreateResult::Failed;
     if (failed)
-        context.err << FailureLine(run) << "\n";
+        context.err << FailureText(run) << "\n";
     const Exit exit = result == CreateResult::Done ? Exit::Done : Exit::Stopped;
     if (!context.WantsJson())
         return exit;
@@ -111,7 +88,7 @@ Exit Tell(const CallContext& context, const ConsoleAsk& ask, const CreateRun& ru
                    {"status", ask.statusLines},
                    {"boxes", BoxesJson(ask)}};
     if (failed)
-        object["error"] = FailureLine(run);
+        object["error"] = FailureText(run);
     return context.PrintJson(std::move(object), exit);
 }
 
@@ -129,7 +106,8 @@ Exit CreatePackage(const CallContext& context)
         throw CallFailure{PartlyReadText(path) + " Ingen installation skapas.", Exit::Unreadable};
 
     CreateForm form = FillForm(context, session);
-    RefuseWhatCannotBeMade(form);
+    if (const Text reason = WhyNotMade(form); !reason.empty())
+        throw CallFailure{reason, Exit::Stopped};
     FolderDisks disks(context.host, form.tDestinationDir);
     CompressionInterface compression(context.host, ask, disks);
     CreateRun run{.project = session.project,

@@ -46,4 +46,13 @@ Text FailureText(const CompressionFailure& failure)
     }
 }
 
+Text FailureText(const CreateRun& run)
+{
+    if (run.failure)
+        return FailureText(*run.failure, run.form.tDestinationDir);
+    if (run.compressionFailure)
+        return FailureText(*run.compressionFailure);
+    return "Installationen är ej hel; statusraderna visar vad som saknas.";
+}
+
 } // namespace quillon

@@ -1,7 +1,7 @@
 // Failures of the machine in words for the one who has to mend them.
 #pragma once
 
-#include "builder/compression_result.h"
+#include "builder/create_run.h"
 #include "platform/run_error.h"
 
 namespace quillon {
@@ -11,5 +11,7 @@ namespace quillon {
 Text FailureText(const RunError& error, const Text& path);
 /// The same of an archive; the status lines tell its number alone.
 Text FailureText(const CompressionFailure& failure);
+/// The same of a run of Create that failed; its status lines and boxes often name no file.
+Text FailureText(const CreateRun& run);
 
 } // namespace quillon

@@ -18,6 +18,27 @@ protected:
     OpenProjectState state;
 };
 
+TEST_F(Form, RefusesWhatCannotBeMade)
+{
+    CreateForm form = OpenCreateForm(project, state);
+    EXPECT_EQ(WhyNotMade(form), "");
+    form.tDestinationDir = "C:\\" + Text(298, 'x');
+    EXPECT_EQ(WhyNotMade(form),
+              "Destinationskatalogen är längre än 300 tecken: '" + form.tDestinationDir + "'.");
+    form.TargetMedia = Medium::Internet;
+    EXPECT_EQ(WhyNotMade(form),
+              "Installationer för Internet kan ännu ej skapas! Välj ett annat medium.");
+}
+
+TEST(ProgressText, CountsMegabytes)
+{
+    constexpr std::uint64_t kMB = 1024 * 1024;
+    EXPECT_EQ(ProgressText(0, 1, ','), "0,0 av 0,0 MB");
+    EXPECT_EQ(ProgressText(kMB / 2, 3 * kMB, '.'), "0.5 av 3.0 MB");
+    EXPECT_EQ(ProgressText(123 * kMB / 10, 4560 * kMB / 10, ','), "12,3 av 456,0 MB");
+    EXPECT_EQ(ProgressText(1500 * kMB, 5000 * kMB, ','), "1500,0 av 5000,0 MB");
+}
+
 } // namespace
 
 TEST(Media, AreNamedAsOnTheForm)
@@ -126,11 +147,13 @@ TEST_F(Form, KeepsATypedFolderForItsMedium)
 {
     CreateForm form = OpenCreateForm(project, state);
     ClickMedium(form, Medium::Internet, project, state);
-    ChangeDestinationDir(form, "D:\\X", project);
+    state.ProjectIsDirty = kOff;
+    ChangeDestinationDir(form, "D:\\X", project, state);
+    EXPECT_EQ(state.ProjectIsDirty, kOn);
     EXPECT_EQ(project.LastDirectories.LastDir_Create_Internet, "D:\\X");
 
     ClickMedium(form, Medium::Floppy, project, state);
-    ChangeDestinationDir(form, "B:\\", project);
+    ChangeDestinationDir(form, "B:\\", project, state);
     EXPECT_EQ(form.tDestinationDir, "B:\\");
     const section::LastDirectories& last = project.LastDirectories;
     for (const Text& folder : {last.CreatationDestDir, last.LastDir_Create_CdCompress,

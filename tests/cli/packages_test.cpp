@@ -167,10 +167,10 @@ TEST_F(Packages, TheInternetMediumIsRefusedInAClearLine)
     const ProgramRun run = Create(project, {"--medium", "internet"});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, "Mediet internet kan ännu ej skapas; välj floppy, cd eller tree.\n");
+    EXPECT_EQ(run.err, "Installationer för Internet kan ännu ej skapas! Välj ett annat medium.\n");
     EXPECT_EQ(Names("out"), std::vector<std::string>{});
     const Json object = ObjectOf(Create(project, {"--medium", "internet", "--json"}));
-    EXPECT_EQ(object["error"], "Mediet internet kan ännu ej skapas; välj floppy, cd eller tree.");
+    EXPECT_EQ(object["error"], "Installationer för Internet kan ännu ej skapas! Välj ett annat medium.");
 }
 
 TEST_F(Packages, AQuestionStopsUnlessToldToGoOn)

@@ -1,12 +1,13 @@
-#include "cli/folder_disks.h"
+#include "builder/folder_disks.h"
 
+#include "builder/create_checks.h"
 #include "formats/package.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 
 #include <algorithm>
 
-namespace quillon::cli {
+namespace quillon {
 
 namespace {
 
@@ -50,6 +51,29 @@ std::optional<Text> FolderDisks::NextDisk(int number)
     return folder;
 }
 
+std::optional<Text> AskedDisks::NextDisk(int number)
+{
+    if (!IsDriveRoot(packageFolder_))
+        return FolderDisks::NextDisk(number);
+    return AskUntil(number, "") ? std::optional(packageFolder_) : std::nullopt;
+}
+
+// The number of disks goes into a file of the first one.
+bool AskedDisks::FirstDiskAgain()
+{
+    return !IsDriveRoot(packageFolder_) || AskUntil(1, kSetupInformationName);
+}
+
+bool AskedDisks::AskUntil(int number, const Text& isThere)
+{
+    const FileSystem& files = host_.files;
+    const Text path = JoinPath(packageFolder_, isThere);
+    while (AskForFloppy(ask_, number) == Check::Passed)
+        if (isThere.empty() ? files.DirExists(path) : files.FileExists(path))
+            return true;
+    return false;
+}
+
 void FolderDisks::RemoveDisksBehind(int lastDisk)
 {
     for (int number = lastDisk + 1;; ++number) {
@@ -86,4 +110,4 @@ std::uint64_t FolderDisks::Used(const Text& folder, bool isPackageFolder) const
     return used;
 }
 
-} // namespace quillon::cli
+} // namespace quillon

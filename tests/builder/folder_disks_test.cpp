@@ -1,8 +1,8 @@
-#include "cli/folder_disks.h"
+#include "builder/folder_disks.h"
 
 #include "support/memory_host.h"
 
-namespace quillon::cli {
+namespace quillon {
 namespace {
 
 class FolderDisksTest : public testing::Test {
@@ -81,4 +81,4 @@ TEST_F(FolderDisksTest, NoDiskComesWhereItsFolderCannotBeMade)
 }
 
 } // namespace
-} // namespace quillon::cli
+} // namespace quillon
