@@ -6,7 +6,8 @@ namespace quillon {
 
 namespace {
 
-constexpr int kPictureSize = 64; // pixels of 96 dpi, for a line of text of 16
+// The pictures are drawn for 48 pixels of 96 dpi, where a line of text has some 16.
+constexpr int kPictureSize = 48;
 constexpr int kUsualLine = 16;
 
 int PictureSize(const QWidget& widget)
