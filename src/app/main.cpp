@@ -7,7 +7,6 @@
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
 #include "shell/start.h"
 #include "ui/QtAsk.h"
-#include "ui/qt_text.h"
 
 #include <QtWidgets>
 
@@ -38,8 +37,8 @@ int main(int count, char** words)
     // Qt sees the program's name alone: a project may be called like one of its switches.
     int one = 1;
     QApplication application(one, words);
+    // No display name, which Qt would put behind the title of every window.
     QApplication::setApplicationName("quillon");
-    QApplication::setApplicationDisplayName(ToQt(kProductName));
 
     PosixHost machine;
     const HostPaths paths = PathsOf(machine);

@@ -10,7 +10,7 @@ namespace {
 QSize FirstSize(const QMainWindow& window, const QSize& screen)
 {
     const int letter = window.fontMetrics().averageCharWidth();
-    const QSize comfortable(letter * 150, letter * 95);
+    const QSize comfortable(letter * 175, letter * 110);
     return comfortable.expandedTo(screen * 0.6);
 }
 

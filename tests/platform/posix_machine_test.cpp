@@ -69,6 +69,16 @@ TEST_F(PosixMachineTest, TakesDriveCFromAnotherSystemAsItIs)
               "C:\\Users\\ulla\\AppData\\Roaming\\Microsoft\\Windows\\Templates");
 }
 
+TEST_F(PosixMachineTest, KeepsSettingsWhereTheUserHasThem)
+{
+    MachineSettings settings = Settings();
+    settings.settingsFolder = disk.Path("config/quillon");
+    PosixHost host(settings);
+    EXPECT_EQ(host.machine.GetSettingsDir(), "S:\\config\\quillon");
+    EXPECT_FALSE(disk.Has("config")) << "the first one to write makes it";
+    EXPECT_EQ(PosixHost(Settings()).machine.GetSettingsDir(), "");
+}
+
 TEST_F(PosixMachineTest, GoesOnWhereDriveCCannotBeMade)
 {
     disk.Put("c", "a file stands in its way");
@@ -283,6 +293,21 @@ TEST(ReadMachineSettings, FindsDriveCUnderTheUsersDataUnlessItIsNamed)
     EXPECT_EQ(ReadMachineSettings().registryFiles.size(), 2U);
     unsetenv("QUILLON_DRIVE_C");
     unsetenv("QUILLON_REGISTRY");
+}
+
+TEST(ReadMachineSettings, FindsTheFolderForSettingsByTheDesktopsConvention)
+{
+    const std::string home = std::getenv("HOME");
+    setenv("XDG_CONFIG_HOME", "/config/of/user", 1);
+    EXPECT_EQ(ReadMachineSettings().settingsFolder, "/config/of/user/quillon");
+    // The convention takes absolute paths alone.
+    setenv("XDG_CONFIG_HOME", "config", 1);
+    EXPECT_EQ(ReadMachineSettings().settingsFolder, home + "/.config/quillon");
+    unsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(ReadMachineSettings().settingsFolder, home + "/.config/quillon");
+    unsetenv("HOME");
+    EXPECT_EQ(ReadMachineSettings().settingsFolder, "");
+    setenv("HOME", home.c_str(), 1);
 }
 
 } // namespace
