@@ -26,6 +26,7 @@ TEST(DlgAboutTest, LooksRight)
     DlgAbout form;
     ShowActive(form);
     SavePicture(form, "DlgAbout");
+    SaveDarkPicture(form, "DlgAbout");
 }
 
 } // namespace

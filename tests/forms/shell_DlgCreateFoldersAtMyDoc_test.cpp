@@ -52,6 +52,7 @@ TEST_F(DlgCreateFoldersAtMyDocTest, LooksRight)
     DlgCreateFoldersAtMyDoc form(session);
     ShowActive(form);
     SavePicture(form, "DlgCreateFoldersAtMyDoc");
+    SaveDarkPicture(form, "DlgCreateFoldersAtMyDoc");
 }
 
 } // namespace

@@ -120,6 +120,7 @@ TEST_F(DlgEditorOptionsTest, LooksRightOnEachTab)
     for (int tab = 0; tab < form.tabOptions->count(); ++tab) {
         form.tabOptions->setCurrentIndex(tab);
         SavePicture(form, "DlgEditorOptions" + std::to_string(tab + 1));
+        SaveDarkPicture(form, "DlgEditorOptions" + std::to_string(tab + 1));
     }
 }
 

@@ -60,6 +60,7 @@ TEST_F(DlgVersionInfoTest, LooksRight)
     ShowActive(form);
     EXPECT_TRUE(form.tVerOrganization->hasFocus());
     SavePicture(form, "DlgVersionInfo");
+    SaveDarkPicture(form, "DlgVersionInfo");
 }
 
 } // namespace

@@ -16,4 +16,19 @@ void SavePicture(QWidget& window, const std::string& name)
     EXPECT_TRUE(picture.save(QString::fromStdString(file))) << file;
 }
 
+void SaveDarkPicture(QWidget& window, const std::string& name)
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
+    dark.setColor(QPalette::Base, QColor(35, 35, 35));
+    dark.setColor(QPalette::ToolTipBase, QColor(53, 53, 53));
+    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    dark.setColor(QPalette::Link, QColor(90, 170, 250));
+    QApplication::setPalette(dark);
+    QCoreApplication::processEvents();
+    SavePicture(window, name + "-dark");
+    QApplication::setPalette(before);
+    QCoreApplication::processEvents();
+}
+
 } // namespace quillon::test

@@ -81,6 +81,8 @@ inline void OnNextDialog(std::function<void(QDialog&)> use)
 /// Keeps a picture of the window as build/<preset>/screens/<name>.png, to be looked at; at twice the
 /// scale the name ends in "@2x".
 void SavePicture(QWidget& window, const std::string& name);
+/// The same as <name>-dark.png, under a dark colour scheme.
+void SaveDarkPicture(QWidget& window, const std::string& name);
 
 /// A session on a machine in memory, with a user whose answers are laid ready.
 class WindowTest : public testing::Test {

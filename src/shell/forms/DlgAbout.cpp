@@ -21,8 +21,8 @@ DlgAbout::DlgAbout(QWidget* parent) : Form("DlgAbout", "Om " + Text(kProductName
     Arrange(Down({
         lProductName,
         lVersion,
-        Note("Skapar installationsprogram för Windows: filer, registervärden, INI-filer, "
-             "genvägar och de sidor som användaren ser."),
+        RoomFor(50, Note("Skapar installationsprogram för Windows: filer, registervärden, "
+                         "INI-filer, genvägar och de sidor som användaren ser.")),
         Stretch(),
         OkOnly(),
     }));
