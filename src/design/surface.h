@@ -1,0 +1,49 @@
+// The preview surface of the setup's background: where it stands on its tab, and what it is painted
+// with.
+#pragma once
+
+#include "platform/ask.h"
+#include "project/records.h"
+
+namespace quillon {
+
+/// In twips, from the top left of the tab's page.
+struct SurfacePlace {
+    Long Left = 0;
+    Long Top = 0;
+    Long Width = 0;
+    Long Height = 0;
+};
+
+/// What the tab's row of captions takes of the height that `PlaceDesignArea` reckons with.
+inline constexpr Long kTabCaptionsHeight = 325;
+
+/// `tabWidth` and `tabHeight` are the whole of `MainTab`, with its captions. A tab too small for a
+/// surface leaves its size as it was.
+void PlaceDesignArea(SurfacePlace& surface, Long tabWidth, Long tabHeight, bool hasTallCaption);
+
+/// Whether windows on this machine have captions that take room from the surface.
+bool HasTallCaption(bool isWindowsXP, int captionPixels);
+
+/// The ways of a blend, as the painter counts them.
+enum class BlendStyle : Integer { ToTheRight, ToTheLeft, Upwards, Downwards, Outwards };
+
+struct SurfacePaint {
+    bool UsePicture = false;
+    bool StretchPicture = false;
+    Colour ColorFrom = 0;
+    Colour ColorTo = 0;
+    Long BlendDepth = 100;
+    quillon::BlendStyle BlendStyle = quillon::BlendStyle::Downwards;
+};
+
+/// The colours of the record. Kept: a single colour is a blend from the colour to itself, and
+/// leaves the depth of the blend before it.
+void SetBlend(SurfacePaint& paint, const section::DesBackground& background);
+
+inline constexpr int kInvalidPicture = 481;
+
+/// Kept: of the ways in which a picture can fail only these two say a word.
+void ShowErrorBoxIfPictureError(Ask& ask, int errorNumber);
+
+} // namespace quillon
