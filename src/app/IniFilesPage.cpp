@@ -1,5 +1,8 @@
 #include "app/IniFilesPage.h"
 
+#include "actions/ini_list.h"
+#include "app/in_place.h"
+
 #include <QtWidgets>
 
 namespace quillon {
@@ -7,8 +10,39 @@ namespace quillon {
 IniFilesPage::IniFilesPage(Session& session) : session_(session)
 {
     setObjectName("IniFilesPage");
+    EditListInPlace(NAMED(editINIList), session, session.project.Lists.INIFiles, kLongestIniList);
+    Arrange(this,
+            Across({Growing(Above("INI-filer, sektioner o&ch värden:", editINIList)),
+                    Down({Button(NAMED(cmdNewINIfile), "&Ny INI-fil...", [this] { AddFile(); }),
+                          Button(NAMED(cmdAddINIsection), "Lägg till s&ektion...",
+                                 [this] { AddSection(); }),
+                          Button(NAMED(cmdAddINIvalue), "Lägg till &värde..."),
+                          Button(NAMED(cmdVariables2), "Varia&bler..."), Stretch()})}));
 }
 
-void IniFilesPage::ShowSession() {}
+void IniFilesPage::ShowSession()
+{
+    ShowInPlace(editINIList, session_.project.Lists.INIFiles);
+}
+
+void IniFilesPage::AddFile()
+{
+    const auto name = session_.ask.XInputBox("Lägg till ny INI-fil", "&Filnamn:");
+    if (name && !name->empty())
+        Append(IniFileToAppend(session_.project.Lists.INIFiles, *name));
+}
+
+void IniFilesPage::AddSection()
+{
+    const auto section = session_.ask.XInputBox("Lägg till sektion", "&Sektion:");
+    if (section && !section->empty())
+        Append(IniSectionToAppend(session_.project.Lists.INIFiles, *section));
+}
+
+void IniFilesPage::Append(const Text& lines)
+{
+    if (HasRoomInIniList(session_.project.Lists.INIFiles, lines, session_.ask))
+        AppendInPlace(editINIList, lines);
+}
 
 } // namespace quillon

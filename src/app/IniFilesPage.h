@@ -1,4 +1,4 @@
-// The tab "INI-filer".
+// The tab "INI-filer": the INI entries of the setup as one free text.
 #pragma once
 
 #include "shell/session.h"
@@ -11,9 +11,19 @@ public:
     explicit IniFilesPage(Session& session);
 
     void ShowSession() override;
+    QPlainTextEdit* Editor() override { return editINIList; }
 
 private:
+    void AddFile();
+    void AddSection();
+    void Append(const Text& lines);
+
     Session& session_;
+    QPlainTextEdit* editINIList = nullptr;
+    QPushButton* cmdNewINIfile = nullptr;
+    QPushButton* cmdAddINIsection = nullptr;
+    QPushButton* cmdAddINIvalue = nullptr;
+    QPushButton* cmdVariables2 = nullptr;
 };
 
 } // namespace quillon

@@ -55,7 +55,7 @@ void MainForm::MakePages()
               new DialogsPage(session_),
               new RegistryPage(session_),
               new IniFilesPage(session_),
-              new ComponentsPage(session_)};
+              new ComponentsPage(session_, [this] { ShowSettings(); })};
     MainTab_ = new QTabWidget;
     MainTab_->setObjectName("MainTab");
     for (std::size_t i = 0; i < pages_.size(); ++i)

@@ -39,6 +39,8 @@ public:
     std::vector<std::size_t> SelectedRows() const override;
     void UpdateStatusBar() override;
 
+    Page& SelectedPage() { return PageOf(SelectedTab()); }
+
     /// Runs the command with this id; one without an action does nothing.
     void RunCommand(int id);
 

@@ -1,5 +1,9 @@
 #include "app/RegistryPage.h"
 
+#include "actions/unsavable_line.h"
+#include "app/in_place.h"
+#include "ui/qt_text.h"
+
 #include <QtWidgets>
 
 namespace quillon {
@@ -7,8 +11,41 @@ namespace quillon {
 RegistryPage::RegistryPage(Session& session) : session_(session)
 {
     setObjectName("RegistryPage");
+    EditListInPlace(NAMED(editRegistryList), session, session.project.Lists.Registry, 0);
+    Named(NAMED(sRegistryWarning), Note({}));
+    connect(editRegistryList, &QPlainTextEdit::textChanged, this, [this] { ShowWarning(); });
+    Arrange(this, Down({Growing(Across({
+                            Growing(Above("Nycklar och värden i Re&gistry:", editRegistryList)),
+                            Buttons(),
+                        })),
+                        sRegistryWarning}));
 }
 
-void RegistryPage::ShowSession() {}
+Piece RegistryPage::Buttons()
+{
+    return Down({Button(NAMED(cmdAddRegistryKey), "Lägg &till..."),
+                 Button(NAMED(cmdDeleteRegistryKey), "Radera vid &installation..."),
+                 Button(NAMED(cmdUninstallRegistryKey), "A&vlägsna vid avinstallation..."),
+                 Button(NAMED(cmdVariables1), "Varia&bler..."), Stretch()});
+}
+
+void RegistryPage::ShowSession()
+{
+    ShowInPlace(editRegistryList, session_.project.Lists.Registry);
+    ShowWarning();
+}
+
+// The list is free text and never refused, but what would not come back from the file is told while
+// there is time.
+void RegistryPage::ShowWarning()
+{
+    const auto line = FindUnsavableLine(session_.project.Lists.Registry);
+    sRegistryWarning->setVisible(line.has_value());
+    if (line)
+        sRegistryWarning->setText(
+            ToQt("Raden '" + *line +
+                 "' har en egen betydelse i projektfilen. Det som står från och med den raden kan "
+                 "gå förlorat när projektet öppnas igen."));
+}
 
 } // namespace quillon

@@ -1,8 +1,10 @@
-// The tab "Registry".
+// The tab "Registry": the registry changes of the setup as one free text.
 #pragma once
 
 #include "shell/session.h"
 #include "ui/Page.h"
+
+class QLabel;
 
 namespace quillon {
 
@@ -11,9 +13,19 @@ public:
     explicit RegistryPage(Session& session);
 
     void ShowSession() override;
+    QPlainTextEdit* Editor() override { return editRegistryList; }
 
 private:
+    Piece Buttons();
+    void ShowWarning();
+
     Session& session_;
+    QPlainTextEdit* editRegistryList = nullptr;
+    QLabel* sRegistryWarning = nullptr;
+    QPushButton* cmdAddRegistryKey = nullptr;
+    QPushButton* cmdDeleteRegistryKey = nullptr;
+    QPushButton* cmdUninstallRegistryKey = nullptr;
+    QPushButton* cmdVariables1 = nullptr;
 };
 
 } // namespace quillon

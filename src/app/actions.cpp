@@ -1,6 +1,7 @@
 #include "app/actions.h"
 
 #include "app/MainForm.h"
+#include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
 #include "shell/forms/DlgAbout.h"
 #include "shell/forms/DlgEditorOptions.h"
@@ -44,8 +45,11 @@ const std::map<int, Action> kActions = {
     {102, [](MainForm& form) { OpenProject(form.GetSession(), form); }},
     {103, [](MainForm& form) { SaveProjectCommand(form.GetSession(), form); }},
     {104, [](MainForm& form) { SaveProjectAs(form.GetSession(), form); }},
+    {107, ImportIniFile},
     {108, Create},
     {112, [](MainForm& form) { form.close(); }},
+    {136, CopyText},
+    {137, PasteText},
     {145, [](MainForm& form) { ShowVersionInfo(form.GetSession(), &form); }},
     {146, [](MainForm& form) { ShowEditorOptions(form.GetSession(), form, &form); }},
     {147, Select<Tab::Files>},

@@ -17,6 +17,16 @@ void Change(Session& session, Text& value, Text typed)
     session.state.ProjectIsDirty = kOn;
 }
 
+QFont FixedFont()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    // A desktop without such a setting names its usual font. Not every font of one width says so.
+    const QFontMetrics letters(font);
+    if (letters.horizontalAdvance("il") != letters.horizontalAdvance("MW"))
+        font.setFamily("monospace");
+    return font;
+}
+
 } // namespace
 
 QLineEdit* EditInPlace(QLineEdit*& member, const char* name, Session& session, Text& value,
@@ -29,10 +39,12 @@ QLineEdit* EditInPlace(QLineEdit*& member, const char* name, Session& session, T
     return field;
 }
 
-QPlainTextEdit* EditInPlace(QPlainTextEdit*& member, const char* name, Session& session,
-                            Text& value, int longest)
+QPlainTextEdit* EditListInPlace(QPlainTextEdit*& member, const char* name, Session& session,
+                                Text& value, int longest)
 {
     auto* area = Named(member, name, new QPlainTextEdit);
+    area->setFont(FixedFont());
+    area->setLineWrapMode(QPlainTextEdit::NoWrap);
     area->setTabChangesFocus(true);
     LimitTyping(area, longest);
     QObject::connect(area, &QPlainTextEdit::textChanged, area, [area, &session, &value] {
@@ -51,13 +63,21 @@ void ShowInPlace(QLineEdit* field, const Text& value)
     field->setCursorPosition(0);
 }
 
-void ShowInPlace(QPlainTextEdit* field, const Text& value)
+void ShowInPlace(QPlainTextEdit* area, const Text& value)
 {
     const QString text = LinesToQt(value);
-    if (TypedText(field) == text)
+    if (TypedText(area) == text)
         return;
-    const QSignalBlocker silence(field);
-    field->setPlainText(text);
+    const QSignalBlocker silence(area);
+    area->setPlainText(text);
+}
+
+void AppendInPlace(QPlainTextEdit* area, const Text& lines)
+{
+    area->moveCursor(QTextCursor::End);
+    area->insertPlainText(LinesToQt(lines));
+    area->ensureCursorVisible();
+    area->setFocus();
 }
 
 } // namespace quillon

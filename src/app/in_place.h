@@ -13,12 +13,15 @@ namespace quillon {
 /// A field that edits `value`; `longest` is in bytes on file (see `LongestText`).
 QLineEdit* EditInPlace(QLineEdit*& member, const char* name, Session& session, Text& value,
                        int longest);
-/// The same for a text of several lines.
-QPlainTextEdit* EditInPlace(QPlainTextEdit*& member, const char* name, Session& session,
-                            Text& value, int longest);
+/// An area that edits a list, a line a row, in letters of one width. `longest` 0 is any length.
+QPlainTextEdit* EditListInPlace(QPlainTextEdit*& member, const char* name, Session& session,
+                                Text& value, int longest);
 
 /// Shows the value of the project. A field that shows it already keeps its caret and its undo.
 void ShowInPlace(QLineEdit* field, const Text& value);
-void ShowInPlace(QPlainTextEdit* field, const Text& value);
+void ShowInPlace(QPlainTextEdit* area, const Text& value);
+
+/// Puts lines at the end of a list, as typing does, and goes on behind them.
+void AppendInPlace(QPlainTextEdit* area, const Text& lines);
 
 } // namespace quillon

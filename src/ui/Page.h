@@ -5,6 +5,10 @@
 #include "ui/form_kit.h"
 
 #include <QWidget>
+#include <functional>
+
+class QPlainTextEdit;
+class QPushButton;
 
 namespace quillon {
 
@@ -15,6 +19,14 @@ public:
     /// Brings every control in line with the session. It changes nothing, so it marks nothing
     /// changed.
     virtual void ShowSession() = 0;
+
+    /// The text that copy and paste are about; null on a page that has none.
+    virtual QPlainTextEdit* Editor() { return nullptr; }
+
+protected:
+    /// A button that has nothing to run is disabled.
+    QPushButton* Button(QPushButton*& member, const char* name, const Text& caption,
+                        std::function<void()> press = {});
 };
 
 } // namespace quillon

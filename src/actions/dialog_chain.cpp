@@ -1,0 +1,39 @@
+#include "actions/dialog_chain.h"
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+using section::DialogBoxes;
+
+using Rivals = std::pair<DialogSwitch, DialogSwitch>;
+
+constexpr Rivals kAgreements{&DialogBoxes::LicenseInfoDlg, &DialogBoxes::LicenseInfoRtfDlg};
+constexpr Rivals kDestinations{&DialogBoxes::DestinationDlg, &DialogBoxes::DestinationDriveDlg};
+
+/// The other one of the two; null where the page is none of them.
+DialogSwitch RivalOf(DialogSwitch page, const Rivals& rivals)
+{
+    if (page == rivals.first)
+        return rivals.second;
+    return page == rivals.second ? rivals.first : nullptr;
+}
+
+} // namespace
+
+bool PressDialogPage(DialogBoxes& pages, DialogSwitch page)
+{
+    const DialogSwitch rival = RivalOf(page, kAgreements);
+    return rival && std::exchange(pages.*rival, Integer{0}) != 0;
+}
+
+void TickDialogPage(DialogBoxes& pages, DialogSwitch page, bool ticked)
+{
+    pages.*page = ticked ? 1 : 0;
+    if (const DialogSwitch rival = RivalOf(page, kDestinations); rival && ticked)
+        pages.*rival = 0;
+}
+
+} // namespace quillon

@@ -1,0 +1,27 @@
+// The list of INI entries: what the buttons beside it put at its end. The list is free text; lines
+// stand in it in the order in which the setup carries them out.
+#pragma once
+
+#include "platform/ask.h"
+#include "platform/file_system.h"
+
+#include <string_view>
+
+namespace quillon {
+
+/// The longest list that the project file holds, in bytes on file.
+inline constexpr int kLongestIniList = 32767;
+
+/// Whether so much more can stand at the end of the list; where not, a box says so.
+bool HasRoomInIniList(std::string_view list, std::string_view added, Ask& ask);
+
+/// What a new file, whose name was typed, puts at the end of the list.
+Text IniFileToAppend(std::string_view list, std::string_view fileName);
+/// The same for a section. The next line begins behind it.
+Text IniSectionToAppend(std::string_view list, std::string_view section);
+
+/// Asks for an INI file and gives what all of it puts at the end of the list; empty where there is
+/// nothing to put. A failure is told, and the lines before it come back.
+Text OpenINIFileIntoList(std::string_view list, const FileSystem& files, Ask& ask);
+
+} // namespace quillon

@@ -1,0 +1,34 @@
+#include "app/text_commands.h"
+
+#include "actions/ini_list.h"
+#include "app/MainForm.h"
+#include "app/in_place.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+void CopyText(MainForm& form)
+{
+    if (QPlainTextEdit* editor = form.SelectedPage().Editor())
+        editor->copy();
+}
+
+void PasteText(MainForm& form)
+{
+    if (QPlainTextEdit* editor = form.SelectedPage().Editor())
+        editor->paste();
+}
+
+void ImportIniFile(MainForm& form)
+{
+    if (form.SelectedTab() != Tab::IniFiles)
+        return;
+    const Session& session = form.GetSession();
+    const Text lines =
+        OpenINIFileIntoList(session.project.Lists.INIFiles, session.host.files, session.ask);
+    if (!lines.empty())
+        AppendInPlace(form.SelectedPage().Editor(), lines);
+}
+
+} // namespace quillon

@@ -1,0 +1,185 @@
+#include "app/IniFilesPage.h"
+
+#include "actions/ini_list.h"
+#include "app/MainForm.h"
+#include "support/window_test.h"
+
+namespace quillon::test {
+namespace {
+
+class IniFilesPageTest : public WindowTest {
+protected:
+    void SetUp() override
+    {
+        page.ShowSession();
+        ShowActive(page);
+    }
+
+    void Press(const char* button, const Text& answer)
+    {
+        ask.choices.push_back({{answer}});
+        Click(page, button);
+    }
+
+    IniFilesPage page{session};
+    QPlainTextEdit& editor = Find<QPlainTextEdit>(page, "editINIList");
+    Text& list = session.project.Lists.INIFiles;
+};
+
+TEST_F(IniFilesPageTest, WritesWhatIsTypedToTheProject)
+{
+    TypeKeys(editor, "a=");
+    QTest::keyClick(&editor, Qt::Key_Return);
+    EXPECT_EQ(list, "a=\r\n");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(IniFilesPageTest, MarksNothingChangedByShowing)
+{
+    list = "-- WIN.INI --\r\n[A]\r\nb=c";
+    page.ShowSession();
+    EXPECT_EQ(editor.toPlainText(), "-- WIN.INI --\n[A]\nb=c");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    SavePicture(page, "IniFilesPage");
+}
+
+TEST_F(IniFilesPageTest, AddsFilesAndSectionsAtTheEnd)
+{
+    Press("cmdNewINIfile", "win");
+    EXPECT_EQ(list, "-- WIN.INI --");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    editor.moveCursor(QTextCursor::Start);
+    Press("cmdAddINIsection", "Settings");
+    EXPECT_EQ(list, "-- WIN.INI --\r\n[Settings]\r\n");
+    EXPECT_TRUE(editor.textCursor().atEnd());
+    EXPECT_TRUE(editor.hasFocus());
+    TypeKeys(editor, "a=b");
+    Press("cmdNewINIfile", "app.ini");
+    EXPECT_EQ(list, "-- WIN.INI --\r\n[Settings]\r\na=b\r\n\r\n-- APP.INI --");
+    EXPECT_EQ(ask.questions.at(0).title, "Lägg till ny INI-fil");
+    EXPECT_EQ(ask.questions.at(0).filter, "&Filnamn:");
+    EXPECT_EQ(ask.questions.at(1).title, "Lägg till sektion");
+    EXPECT_EQ(ask.questions.at(1).filter, "&Sektion:");
+}
+
+TEST_F(IniFilesPageTest, BeginsAnEmptyListWithASection)
+{
+    Press("cmdAddINIsection", "A");
+    EXPECT_EQ(list, "[A]\r\n");
+}
+
+TEST_F(IniFilesPageTest, AddsNothingWithoutAnAnswer)
+{
+    for (const char* button : {"cmdNewINIfile", "cmdAddINIsection"}) {
+        Press(button, "");
+        ask.choices.push_back({});
+        Click(page, button);
+    }
+    EXPECT_EQ(list, "");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(IniFilesPageTest, UndoesWhatAButtonAdded)
+{
+    TypeKeys(editor, "x");
+    Press("cmdAddINIsection", "A");
+    editor.undo();
+    EXPECT_EQ(list, "x");
+    editor.redo();
+    EXPECT_EQ(list, "x\r\n[A]\r\n");
+}
+
+TEST_F(IniFilesPageTest, TakesNoMoreThanTheProjectFileHolds)
+{
+    list = Text(kLongestIniList - 1, 'x');
+    page.ShowSession();
+    editor.moveCursor(QTextCursor::Start);
+    TypeKeys(editor, "ab");
+    EXPECT_EQ(list, "a" + Text(kLongestIniList - 1, 'x'));
+    const Text full = list;
+    ask.Expect({BoxKind::Critical, "Fel",
+                "Listan över INI-filer kan innehålla högst 32767 tecken! Ingenting har lagts "
+                "till."});
+    Press("cmdAddINIsection", "A");
+    EXPECT_EQ(list, full);
+}
+
+TEST_F(IniFilesPageTest, SpeaksItsList)
+{
+    EXPECT_EQ(editor.fontMetrics().horizontalAdvance("ill1"),
+              editor.fontMetrics().horizontalAdvance("WMW%"));
+    EXPECT_EQ(editor.accessibleName(), "INI-filer, sektioner och värden");
+}
+
+class TextCommandsTest : public WindowTest {
+protected:
+    QPlainTextEdit& Editor(const char* name) { return Find<QPlainTextEdit>(form, name); }
+
+    MainForm form{session};
+};
+
+TEST_F(TextCommandsTest, ImportAnIniFileIntoTheListInView)
+{
+    machine.files.Put("C:\\Data\\min.ini", "[A]\r\nb=c\r\n");
+    form.SelectTab(Tab::IniFiles);
+    ask.choices = {{{"C:\\Data\\min.ini"}}, {{"C:\\Data\\min.ini"}}};
+    form.RunCommand(107);
+    EXPECT_EQ(session.project.Lists.INIFiles, "-- MIN.INI --\r\n[A]\r\nb=c");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    form.RunCommand(107);
+    EXPECT_EQ(session.project.Lists.INIFiles,
+              "-- MIN.INI --\r\n[A]\r\nb=c\r\n\r\n-- MIN.INI --\r\n[A]\r\nb=c");
+    Editor("editINIList").undo();
+    EXPECT_EQ(session.project.Lists.INIFiles, "-- MIN.INI --\r\n[A]\r\nb=c");
+}
+
+TEST_F(TextCommandsTest, ImportNothingOnCancelOrOnAnotherTab)
+{
+    form.SelectTab(Tab::IniFiles);
+    ask.choices = {{}};
+    form.RunCommand(107);
+    for (const Tab tab : {Tab::Files, Tab::Design, Tab::Dialogs, Tab::Registry, Tab::Components}) {
+        form.SelectTab(tab);
+        form.RunCommand(107);
+    }
+    EXPECT_EQ(ask.questions.size(), 1U);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(TextCommandsTest, CopyAndPasteTheTextOfTheTab)
+{
+    struct Row {
+        Tab tab;
+        const char* editor;
+        Text* list;
+    };
+    section::Lists& lists = session.project.Lists;
+    for (const Row& row : {Row{Tab::Registry, "editRegistryList", &lists.Registry},
+                           Row{Tab::IniFiles, "editINIList", &lists.INIFiles}}) {
+        form.SelectTab(row.tab);
+        Editor(row.editor).setPlainText("ab\ncd");
+        Editor(row.editor).selectAll();
+        form.RunCommand(136);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "ab\ncd");
+        Editor(row.editor).moveCursor(QTextCursor::End);
+        session.state.ProjectIsDirty = kOff;
+        form.RunCommand(137);
+        EXPECT_EQ(*row.list, "ab\r\ncdab\r\ncd");
+        EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    }
+}
+
+TEST_F(TextCommandsTest, CopyAndPasteNothingOnOtherTabs)
+{
+    QGuiApplication::clipboard()->setText("klipp");
+    for (const Tab tab : {Tab::Files, Tab::Design, Tab::Dialogs, Tab::Components}) {
+        form.SelectTab(tab);
+        form.RunCommand(136);
+        form.RunCommand(137);
+    }
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "klipp");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+} // namespace
+} // namespace quillon::test
