@@ -1,6 +1,6 @@
 #include "builder/create_checks.h"
 
-#include "builder/redist_folder.h"
+#include "filelist/redist_folder.h"
 #include "filelist/system_files.h"
 #include "helpers/windows_path.h"
 

@@ -45,13 +45,14 @@ void ProfileReader::SetIniBytes(std::string bytes)
 {
     bytes_ = std::move(bytes);
     sections_ = ProfileSections(bytes_);
-    IndexKeys();
+    keysOfSections_.clear();
+    SelectKeys();
 }
 
 void ProfileReader::SetIniSection(const Text& name)
 {
-    section_ = AnsiText::ToBytes(name);
-    IndexKeys();
+    section_ = FoldedName(AnsiText::ToBytes(name));
+    SelectKeys();
 }
 
 Text ProfileReader::ReadIniString(const Text& key, int limit) const
@@ -93,22 +94,31 @@ Text ProfileReader::ReadText(const Text& key, int limit) const
 
 std::optional<std::string_view> ProfileReader::Find(const Text& key) const
 {
-    const auto found = keys_.find(FoldedName(AnsiText::ToBytes(key)));
-    return found == keys_.end() ? std::nullopt : std::optional(BareValue(found->second));
+    if (!keys_)
+        return std::nullopt;
+    const auto found = keys_->find(FoldedName(AnsiText::ToBytes(key)));
+    return found == keys_->end() ? std::nullopt : std::optional(BareValue(found->second));
 }
 
-void ProfileReader::IndexKeys()
+void ProfileReader::SelectKeys()
 {
-    keys_.clear();
-    const auto range = sections_.Find(section_);
-    if (!range)
-        return;
-    for (std::size_t position = range->begin; position < range->end;) {
+    auto known = keysOfSections_.find(section_);
+    if (known == keysOfSections_.end())
+        if (const auto range = sections_.Find(section_))
+            known = keysOfSections_.emplace(section_, KeysIn(*range)).first;
+    keys_ = known == keysOfSections_.end() ? nullptr : &known->second;
+}
+
+ProfileReader::Keys ProfileReader::KeysIn(ProfileSections::Range range) const
+{
+    Keys keys;
+    for (std::size_t position = range.begin; position < range.end;) {
         const ProfileLine line = ProfileLineAt(bytes_, position);
         position = line.next;
         if (const auto entry = EntryOfLine(line.text))
-            keys_.try_emplace(FoldedName(entry->key), entry->value);
+            keys.try_emplace(FoldedName(entry->key), entry->value);
     }
+    return keys;
 }
 
 } // namespace quillon

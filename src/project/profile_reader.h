@@ -51,17 +51,22 @@ public:
     std::string_view Bytes() const { return bytes_; }
 
 private:
+    using Keys = std::unordered_map<std::string, std::string_view>; // by folded name
+
     std::optional<std::string_view> Find(const Text& key) const;
-    void IndexKeys();
+    void SelectKeys();
+    Keys KeysIn(ProfileSections::Range range) const;
     Text ReadText(const Text& key, int limit) const;
     Flag ReadFlag(const Text& key, Flag whenMissing) const;
 
     std::string bytes_;
     ProfileSections sections_;
-    std::string section_;
-    // The keys of the current section alone: a project's longest section is its list of rows, of
-    // which no key is ever asked for.
-    std::unordered_map<std::string, std::string_view> keys_;
+    std::string section_; // by its folded name
+    // Only of the sections that were asked for: a project's longest section is its list of rows, of
+    // which no key is ever read. They stay, since some files are read by going back and forth
+    // between their sections.
+    std::unordered_map<std::string, Keys> keysOfSections_;
+    const Keys* keys_ = nullptr; // of the current section; null where the file has no such
 };
 
 } // namespace quillon

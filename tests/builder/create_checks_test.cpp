@@ -1,6 +1,6 @@
 #include "builder/create_checks.h"
 
-#include "builder/redist_folder.h"
+#include "filelist/redist_folder.h"
 #include "create_desk.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,4 @@
-#include "builder/redist_folder.h"
-
-#include "helpers/windows_path.h"
+#include "filelist/redist_folder.h"
 
 namespace quillon {
 
@@ -19,15 +17,33 @@ std::string_view ProgramOfCommand(std::string_view command)
     return command.substr(0, extension == Text::npos ? extension : extension + kExtension.size());
 }
 
-} // namespace
+std::string_view WithoutFirstCharacter(std::string_view text)
+{
+    return text.substr(FirstCharacters(text, 1).size());
+}
 
-Text RedistFolder(const Machine& machine)
+// `programOf` finds the program's path in the command line that opens a project.
+template <class ProgramOf>
+Text FolderBesideProgram(const Machine& machine, ProgramOf programOf)
 {
     const Text command = machine.GetRegKeyStr(RegistryRoot::ClassesRoot,
                                               "VisualBasic.Project\\shell\\open\\command", "");
     if (command.empty())
         return {};
-    return JoinPath(ExtractDirectory(ProgramOfCommand(command)), "Wizards\\PDWizard\\Redist");
+    const std::string_view program = programOf(std::string_view(command));
+    return Text(program.substr(0, program.rfind('\\'))) + "\\Wizards\\PDWizard\\Redist";
+}
+
+} // namespace
+
+Text RedistFolder(const Machine& machine)
+{
+    return FolderBesideProgram(machine, ProgramOfCommand);
+}
+
+Text GetDirectoryToVB6RedistDir(const Machine& machine)
+{
+    return FolderBesideProgram(machine, WithoutFirstCharacter);
 }
 
 } // namespace quillon
