@@ -1,0 +1,200 @@
+#include "importers/dependency_file.h"
+
+#include "filelist/use_filter.h"
+#include "helpers/windows_path.h"
+#include "platform/failure_text.h"
+#include "platform/whole_file.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr int kMostKeys = 1000;
+// Gaps in the numbering, all of a section together, after which it counts as ended.
+constexpr int kMostMisses = 15;
+constexpr int kValueLimit = 200;
+
+// Dependency files hold some hundred lines. A larger one than this is something else by that name.
+constexpr std::uint64_t kLargestDepFile = std::uint64_t{32} << 20;
+constexpr std::size_t kMostBytesHeld = std::size_t{64} << 20;
+
+Text UsedFile(const ProfileReader& reader, int number)
+{
+    return reader.ReadIniString("Uses" + NumberText(number), kValueLimit);
+}
+
+// Not by the tool's own path functions, which cut long paths. A drive's root gives the drive alone,
+// so that a name can be joined to it like to any other folder.
+Text FolderOf(const Text& path)
+{
+    const std::size_t last = path.rfind('\\');
+    return last == Text::npos ? Text() : path.substr(0, last);
+}
+
+Text NameOf(const Text& path)
+{
+    return path.substr(path.rfind('\\') + 1);
+}
+
+bool HasPoint(const Text& path)
+{
+    return path.find('.') != Text::npos;
+}
+
+} // namespace
+
+Text ResolveDepPath(std::string_view value, std::string_view baseFolder)
+{
+    if (value.starts_with("..")) {
+        const std::size_t last = baseFolder.rfind('\\');
+        if (last == std::string_view::npos)
+            return {};
+        const std::size_t upwards = FirstCharacters(value, std::string_view("..\\").size()).size();
+        return Text(baseFolder.substr(0, last + 1)).append(value.substr(upwards));
+    }
+    if (value.starts_with('\\'))
+        return FirstCharacters(baseFolder, std::string_view("C:").size()).append(value);
+    return Text(baseFolder).append("\\").append(value);
+}
+
+bool DependencyFiles::AddFilesToFileListViaDepFile(const DepSection& section)
+{
+    ask_.ShowStatusText("Adderar filer...");
+    try {
+        // Kept: the walk never ends at its first number, so this box doesn't come up, and a file
+        // without the section is passed without a word.
+        if (AddFilesOf(section, *ReaderFor(section.DepFile)) == 1) {
+            ask_.Inform("Inga filer hittades",
+                        "Hittade inga matchande filer i DEP-filen. Kontrollera att du valt rätt "
+                        "DEP-fil och binär fil.");
+            return false;
+        }
+    } catch (const RunError& error) {
+        ask_.Critical("Fel", FailureText(error, section.DepFile));
+    }
+    return true;
+}
+
+void DependencyFiles::AddWithSecondLevel(const DepSection& section)
+{
+    if (!AddFilesToFileListViaDepFile(section))
+        return;
+    const auto reader = ReaderFor(section.DepFile);
+    for (int i = 1; i <= kMostKeys; ++i) {
+        reader->SetIniSection(section.SectionName);
+        const Text value = UsedFile(*reader, i);
+        if (value.empty())
+            return;
+        const Text path = ResolveDepPath(value, section.BaseFolder);
+        AddFilesToFileListViaDepFile({.DepFile = ChangeFilenameExt(path, "DEP"),
+                                      .SectionName = NameOf(path),
+                                      .BaseFolder = FolderOf(path),
+                                      .Destination = section.Destination});
+    }
+}
+
+void DependencyFiles::FollowActiveXDepFile(const Text& fileName)
+{
+    const Text systemFolder = host_.machine.GetSystemDir();
+    AddWithSecondLevel({.DepFile = systemFolder + "\\" + ChangeFilenameExt(fileName, "DEP"),
+                        .SectionName = fileName,
+                        .BaseFolder = systemFolder,
+                        .Destination = "%SYSDIR"});
+}
+
+// The number at which the walk ended.
+int DependencyFiles::AddFilesOf(const DepSection& section, ProfileReader& reader)
+{
+    Done& done = DoneFor(section);
+    reader.SetIniSection(section.SectionName);
+    int misses = 0;
+    int number = 1;
+    for (; number <= kMostKeys; ++number) {
+        const Text value = UsedFile(reader, number);
+        if (value.empty()) {
+            if (++misses > kMostMisses)
+                break;
+            continue;
+        }
+        const Text path = ResolveDepPath(value, section.BaseFolder);
+        if (!HasPoint(path))
+            continue;
+        AddFile(value, path, section.Destination, done);
+        // Kept: behind a name without a point the walk goes on in the section that it came to.
+        if (AddFilesOfInnerSection(LowerCase(NameOf(value)), section, reader, done) ==
+            Walked::ToItsEnd)
+            reader.SetIniSection(section.SectionName);
+    }
+    return number;
+}
+
+DependencyFiles::Walked DependencyFiles::AddFilesOfInnerSection(const Text& name,
+                                                                const DepSection& origin,
+                                                                ProfileReader& reader, Done& done)
+{
+    reader.SetIniSection(name);
+    if (const auto known = done.sections.find(name); known != done.sections.end())
+        return known->second;
+    const Walked walked = AddFilesOfCurrentSection(origin, reader, done);
+    done.sections.emplace(name, walked);
+    return walked;
+}
+
+DependencyFiles::Walked DependencyFiles::AddFilesOfCurrentSection(const DepSection& origin,
+                                                                  const ProfileReader& reader,
+                                                                  Done& done)
+{
+    for (int i = 1; i <= kMostKeys; ++i) {
+        const Text value = UsedFile(reader, i);
+        if (value.empty())
+            break;
+        const Text path = ResolveDepPath(value, origin.BaseFolder);
+        if (!HasPoint(path))
+            return Walked::UpToANameWithoutPoint;
+        AddFile(value, path, origin.Destination, done);
+    }
+    return Walked::ToItsEnd;
+}
+
+void DependencyFiles::AddFile(const Text& value, const Text& path, const Text& destination,
+                              Done& done)
+{
+    if (!done.values.insert(value).second)
+        return;
+    AddFileToFileListView_UseFilter(adding_, host_.machine,
+                                    {.FileName = LowerCase(NameOf(value)),
+                                     .SourcePath = LowerCase(path),
+                                     .Destination = destination,
+                                     .CheckDuplicates = true,
+                                     .UseVersionRules = true});
+}
+
+DependencyFiles::Done& DependencyFiles::DoneFor(const DepSection& section)
+{
+    return done_[{LowerCase(section.DepFile), section.BaseFolder, section.Destination}];
+}
+
+// Shared, since a reader that is at work may leave the table to make room for another. A failure is
+// thrown once; afterwards the file counts as empty, like one that is not there.
+std::shared_ptr<ProfileReader> DependencyFiles::ReaderFor(const Text& depFile)
+{
+    const Text key = LowerCase(depFile);
+    if (const auto known = readers_.find(key); known != readers_.end())
+        return known->second;
+    if (bytesHeld_ > kMostBytesHeld) {
+        readers_.clear();
+        bytesHeld_ = 0;
+    }
+    const auto reader = readers_.emplace(key, std::make_shared<ProfileReader>()).first->second;
+    if (!host_.files.FileExists(depFile))
+        return reader;
+    if (host_.files.Facts(depFile).size > kLargestDepFile) {
+        ask_.Critical("Fel", "Filen '" + depFile + "' är för stor för att vara en DEP-fil.");
+        return reader;
+    }
+    reader->SetIniBytes(ReadWholeFile(host_.files, depFile));
+    bytesHeld_ += reader->Bytes().size();
+    return reader;
+}
+
+} // namespace quillon

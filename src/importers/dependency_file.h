@@ -1,0 +1,79 @@
+// Dependency files (.DEP), in which a wizard for setups notes which files a component needs. The
+// section of a component names its files under Uses1, Uses2 and so on; each of these may have a
+// section there, or a dependency file, of its own.
+#pragma once
+
+#include "filelist/add_file.h"
+#include "project/profile_reader.h"
+
+#include <array>
+#include <map>
+#include <memory>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace quillon {
+
+/// The path that a value stands for, seen from the component's folder. Kept: of several "..\" only
+/// the first is worked out. Empty where ".." leads out of a folder that has no parent.
+Text ResolveDepPath(std::string_view value, std::string_view baseFolder);
+
+/// The place in a dependency file that names a component's files.
+struct DepSection {
+    Text DepFile;
+    Text SectionName;
+    Text BaseFolder;  // of the component
+    Text Destination; // for its files
+};
+
+/// Follows dependency files for one command, which adds the files through one `FileAdding`. Each
+/// file is read once, however often it is come back to.
+class DependencyFiles {
+public:
+    DependencyFiles(FileAdding& adding, Host host, Ask& ask)
+        : adding_(adding), host_(host), ask_(ask)
+    {
+    }
+    DependencyFiles(const DependencyFiles&) = delete;
+    DependencyFiles& operator=(const DependencyFiles&) = delete;
+
+    /// Adds the files that the section names and those that their own sections in the same file
+    /// name. A failure is told in a box and ends the section; rows added so far stay. False where
+    /// the file was found to name nothing.
+    bool AddFilesToFileListViaDepFile(const DepSection& section);
+
+    /// The same, and then for each file of the section the dependency file that lies beside it.
+    void AddWithSecondLevel(const DepSection& section);
+
+    /// All that a component of the system folder needs, by the dependency file beside it.
+    void FollowActiveXDepFile(const Text& fileName);
+
+private:
+    enum class Walked { ToItsEnd, UpToANameWithoutPoint };
+
+    // What was done with one file for one folder and destination. What is named again is in the
+    // list already, so nothing is done twice: files that name each other in thousands of lines
+    // would take hours.
+    struct Done {
+        std::unordered_set<Text> values;
+        std::unordered_map<Text, Walked> sections; // by the name of the file that led there
+    };
+
+    int AddFilesOf(const DepSection& section, ProfileReader& reader);
+    Walked AddFilesOfInnerSection(const Text& name, const DepSection& origin, ProfileReader& reader,
+                                  Done& done);
+    Walked AddFilesOfCurrentSection(const DepSection& origin, const ProfileReader& reader,
+                                    Done& done);
+    void AddFile(const Text& value, const Text& path, const Text& destination, Done& done);
+    Done& DoneFor(const DepSection& section);
+    std::shared_ptr<ProfileReader> ReaderFor(const Text& depFile);
+
+    FileAdding& adding_;
+    Host host_;
+    Ask& ask_;
+    std::map<Text, std::shared_ptr<ProfileReader>> readers_; // by lower-cased path
+    std::size_t bytesHeld_ = 0;
+    std::map<std::array<Text, 3>, Done> done_; // by file, folder and destination
+};
+
+} // namespace quillon
