@@ -64,6 +64,7 @@ TEST_F(RegistryPageTest, TellsALineThatTheProjectFileWouldNotGiveBack)
     TypeKeys(editor, "....");
     EXPECT_TRUE(warning.isVisible());
     EXPECT_TRUE(warning.text().startsWith("Raden '....' har en egen betydelse"));
+    QApplication::processEvents();
     SavePicture(page, "RegistryPage-varning");
     TypeKeys(editor, ".");
     EXPECT_FALSE(warning.isVisible());
