@@ -1,14 +1,54 @@
 #include "app/FilesPage.h"
 
+#include "app/FileListView.h"
+#include "ui/qt_text.h"
+
 #include <QtWidgets>
 
 namespace quillon {
 
-FilesPage::FilesPage(Session& session) : session_(session)
+FilesPage::FilesPage(Session& session, HostPaths paths)
+    : session_(session), paths_(std::move(paths)),
+      list_(new FileListView(session.project, session.Settings))
 {
     setObjectName("FilesPage");
+    setAcceptDrops(true);
+    Arrange(this, Down({Growing(list_)}));
 }
 
-void FilesPage::ShowSession() {}
+void FilesPage::ShowSession()
+{
+    list_->ShowComponentColumns();
+    list_->ShowRows({});
+}
+
+void FilesPage::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (onDrop && event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void FilesPage::dropEvent(QDropEvent* event)
+{
+    // The files stay where they are, whatever the other program proposes.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    TakeDropped(*event->mimeData());
+}
+
+void FilesPage::TakeDropped(const QMimeData& dropped)
+{
+    std::vector<Text> taken;
+    std::vector<Text> refused;
+    for (const QUrl& url : dropped.urls()) {
+        const std::string file = url.toLocalFile().toStdString();
+        const auto path = file.empty() ? std::nullopt : paths_.toWindows(file);
+        if (path)
+            taken.push_back(*path);
+        else
+            refused.push_back(FromQt(file.empty() ? url.toDisplayString() : url.toLocalFile()));
+    }
+    QTimer::singleShot(0, this, [this, taken, refused] { onDrop(taken, refused); });
+}
 
 } // namespace quillon

@@ -3,12 +3,14 @@
 #include "app/ComponentsPage.h"
 #include "app/DesignPage.h"
 #include "app/DialogsPage.h"
+#include "app/FileListView.h"
 #include "app/FilesPage.h"
 #include "app/IniFilesPage.h"
 #include "app/RegistryPage.h"
 #include "app/actions.h"
 #include "app/command_bars.h"
 #include "app/window_place.h"
+#include "filelist/forms/list_commands.h"
 #include "filelist/status_text.h"
 #include "helpers/product.h"
 #include "helpers/windows_path.h"
@@ -29,11 +31,12 @@ constexpr std::array<const char*, kTabCount> kTabCaptions{"  Fillista  ",    "  
 
 } // namespace
 
-MainForm::MainForm(Session& session) : session_(session)
+MainForm::MainForm(Session& session, HostPaths paths) : session_(session)
 {
     setObjectName("MainForm");
-    MakePages();
+    MakePages(paths);
     MakeStatusBar();
+    ConnectFileList();
     bars_ = std::make_unique<CommandBars>(
         *this, [this](int id) { RunCommand(id); },
         [](int id) { return FindAction(id) != nullptr; });
@@ -47,9 +50,9 @@ MainForm::MainForm(Session& session) : session_(session)
 
 MainForm::~MainForm() = default;
 
-void MainForm::MakePages()
+void MainForm::MakePages(const HostPaths& paths)
 {
-    files_ = new FilesPage(session_);
+    files_ = new FilesPage(session_, paths);
     pages_ = {files_,
               new DesignPage(session_),
               new DialogsPage(session_),
@@ -69,6 +72,18 @@ void MainForm::MakeStatusBar()
     statusPane_ = new QLabel;
     statusPane_->setObjectName("MainStatusBarPane1");
     statusBar()->addWidget(statusPane_, 1);
+}
+
+void MainForm::ConnectFileList()
+{
+    constexpr int kDeleteRows = 114;
+    FileListView& list = files_->List();
+    list.onDelete = [this] { RunCommand(kDeleteRows); };
+    list.onSelection = [this] { ShowSelection(); };
+    list.onColumnClick = [this](const Text& header) { ClickColumn(session_, *this, header); };
+    files_->onDrop = [this](const std::vector<Text>& paths, const std::vector<Text>& refused) {
+        RunGuarded([&] { AddDropped(session_, *this, paths, refused); });
+    };
 }
 
 void MainForm::ShowProject()
@@ -100,6 +115,7 @@ void MainForm::ShowSettings()
         MainTab_->setTabVisible(static_cast<int>(tab), isHidden == 0);
         bars_->ShowTabEntry(tab, isHidden == 0);
     }
+    files_->List().ShowSettings();
 }
 
 void MainForm::ShowTab(Tab tab)
@@ -120,31 +136,46 @@ Tab MainForm::SelectedTab() const
     return static_cast<Tab>(MainTab_->currentIndex());
 }
 
-void MainForm::ShowFileList(const std::vector<std::size_t>&)
+void MainForm::ShowFileList(const std::vector<std::size_t>& selectedRows)
 {
-    PageOf(Tab::Files).ShowSession();
+    files_->List().ShowRows(selectedRows);
     UpdateStatusBar();
 }
 
 std::vector<std::size_t> MainForm::SelectedRows() const
 {
-    return {};
+    return files_->List().SelectedRows();
 }
 
 void MainForm::UpdateStatusBar()
 {
+    paneTellsSelection_ = false;
     statusPane_->setText(ToQt(
         StatusBarText(session_.project.Files, session_.host.machine.DecimalSign(), session_.ask)));
 }
 
+void MainForm::ShowSelection()
+{
+    const std::size_t count = files_->List().SelectedRowCount();
+    if (count >= 2) {
+        paneTellsSelection_ = true;
+        statusPane_->setText(ToQt(SelectionText(count)));
+    } else if (paneTellsSelection_) {
+        UpdateStatusBar();
+    }
+}
+
 void MainForm::RunCommand(int id)
 {
-    const Action action = FindAction(id);
-    if (!action)
-        return;
+    if (const Action action = FindAction(id))
+        RunGuarded([&] { action(*this); });
+}
+
+void MainForm::RunGuarded(const std::function<void()>& run)
+{
     // Nothing may be thrown through Qt.
     try {
-        action(*this);
+        run();
     } catch (const RunError& error) {
         session_.ask.Critical("Fel", FailureText(error, session_.state.ProjectFileName));
     }

@@ -5,6 +5,7 @@
 #include "shell/main_window.h"
 #include "shell/session.h"
 #include "ui/Page.h"
+#include "ui/host_paths.h"
 
 #include <QMainWindow>
 #include <array>
@@ -23,7 +24,8 @@ class FilesPage;
 
 class MainForm : public QMainWindow, public MainWindow {
 public:
-    explicit MainForm(Session& session);
+    /// `paths` tells where lies what is dropped on the window.
+    explicit MainForm(Session& session, HostPaths paths = {});
     ~MainForm() override;
 
     Session& GetSession() { return session_; }
@@ -55,7 +57,10 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void MakePages();
+    void MakePages(const HostPaths& paths);
+    void ConnectFileList();
+    void ShowSelection();
+    void RunGuarded(const std::function<void()>& run);
     void MakeStatusBar();
     Page& PageOf(Tab tab) { return *pages_[static_cast<std::size_t>(tab)]; }
 
@@ -64,6 +69,8 @@ private:
     QLabel* statusPane_ = nullptr;
     std::array<Page*, kTabCount> pages_{};
     FilesPage* files_ = nullptr;
+    // The first pane tells of selected rows instead of all.
+    bool paneTellsSelection_ = false;
     std::unique_ptr<CommandBars> bars_;
 };
 

@@ -3,6 +3,7 @@
 #include "app/MainForm.h"
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
+#include "filelist/forms/list_commands.h"
 #include "shell/forms/DlgAbout.h"
 #include "shell/forms/DlgEditorOptions.h"
 #include "shell/forms/DlgVersionInfo.h"
@@ -48,6 +49,9 @@ const std::map<int, Action> kActions = {
     {107, ImportIniFile},
     {108, Create},
     {112, [](MainForm& form) { form.close(); }},
+    {114, [](MainForm& form) { DeleteRowsCommand(form.GetSession(), form); }},
+    {115, [](MainForm& form) { SortListCommand(form.GetSession(), form, &form); }},
+    {124, [](MainForm& form) { UpdateFileListCommand(form.GetSession(), form); }},
     {136, CopyText},
     {137, PasteText},
     {145, [](MainForm& form) { ShowVersionInfo(form.GetSession(), &form); }},
@@ -63,6 +67,8 @@ const std::map<int, Action> kActions = {
     {155, Help},
     {156, [](MainForm& form) { ShowSupport(form.GetSession()); }},
     {158, [](MainForm& form) { ShowAbout(&form); }},
+    {205, [](MainForm& form) { AddFilesCommand(form.GetSession(), form); }},
+    {207, [](MainForm& form) { AddEmptyDirectoryCommand(form.GetSession(), form); }},
     {291, OpenRecent<0>},
     {292, OpenRecent<1>},
     {293, OpenRecent<2>},

@@ -1,5 +1,6 @@
 // quillon: the desktop program. Its whole command line is the path of one project.
 #include "app/MainForm.h"
+#include "app/ask_forms.h"
 #include "app/command_line.h"
 #include "app/window_place.h"
 #include "helpers/product.h"
@@ -53,7 +54,8 @@ int main(int count, char** words)
     QtAsk ask(machine.host, paths);
     Session session = NewSession(machine.host, ask, machine.ProgramFolder());
     StartSession(session);
-    MainForm form(session);
+    MainForm form(session, paths);
+    ConnectFileListForms(ask, session);
     ask.onStatusText = [&](const Text& text) { form.ShowStatusText(text); };
     form.onFirstActivation = [&] {
         TellComplaints(machine.complaints, ask);

@@ -2,6 +2,7 @@
 
 #include "filelist/file_name_case.h"
 #include "filelist/file_version.h"
+#include "filelist/row_facts.h"
 #include "filelist/row_options.h"
 #include "filelist/system_files.h"
 #include "helpers/ansi_text.h"
@@ -14,8 +15,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr double kBytesPerKilobyte = 1024;
 
 constexpr const char* kBadCharactersTitle = "Ogiltiga tecken hittade";
 
@@ -188,10 +187,7 @@ void FileAdding::FillFromDisk(FileListRow& row, const Text& path) const
     const FileFacts facts = host_.files.Facts(path);
     if (facts.isFolder)
         throw RunError(ErrorNumber::kPathFileAccess, path);
-    row[Size] = FormatNumber(static_cast<double>(facts.size) / kBytesPerKilobyte, "0.0",
-                             host_.machine.DecimalSign());
-    row[Date] = DateText(facts.modified);
-    row[Time] = TimeText(facts.modified);
+    FillFromFacts(row, facts, host_.machine.DecimalSign());
 }
 
 // A row exists from before its file is looked at, so a failure of `fill` leaves it in the list.

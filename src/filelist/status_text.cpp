@@ -12,6 +12,11 @@ Text StatusBarText(const FileList& list, char decimalSign, Ask& ask)
            FormatNumber(total, "## ##0.0", decimalSign) + " kb";
 }
 
+Text SelectionText(std::size_t selectedRows)
+{
+    return NumberText(static_cast<std::int64_t>(selectedRows)) + " markerade objekt";
+}
+
 bool HasRowsForCommand(const FileList& list, CommandNeeds needs, Ask& ask)
 {
     if (!list.rows.empty())

@@ -23,6 +23,13 @@ struct FileQuestion {
     Text defaultExtension; // ".qnp", for a typed name that has none
 };
 
+/// What the choice of a destination is opened with.
+struct DestinationQuestion {
+    enum class Place { User, System, Windows };
+    Place place = Place::User;
+    Text folder; // what stands in the field of the user's own folder
+};
+
 class Ask {
 public:
     virtual ~Ask() = default;
@@ -56,6 +63,10 @@ public:
     {
         return {};
     }
+    /// The folder on the target machine, with variables, where new files go.
+    virtual std::optional<Text> ChooseDestination(const DestinationQuestion&) { return {}; }
+    /// One of the entries of `lbCompList`.
+    virtual std::optional<Text> ChooseComponent(const std::vector<Text>& /*entries*/) { return {}; }
 
     /// A line of the progress list of a long command.
     virtual void AddStatusLine(const Text& line) = 0;

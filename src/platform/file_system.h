@@ -25,6 +25,8 @@ struct FileFacts {
     bool isHidden = false;
     bool isArchive = false;
     bool isSystem = false;
+    // The same on every way that leads to a folder, links included; 0 where the system tells none.
+    std::uint64_t identity = 0;
 };
 
 struct FolderEntry {

@@ -108,6 +108,20 @@ std::optional<Text> QtAsk::XInputBox(const Text& title, const Text& prompt)
     return form.ShowModal() ? std::optional(form.Input) : std::nullopt;
 }
 
+std::optional<Text> QtAsk::ChooseDestination(const DestinationQuestion& question)
+{
+    if (!onChooseDestination)
+        return {};
+    return onChooseDestination(question, WindowInFront());
+}
+
+std::optional<Text> QtAsk::ChooseComponent(const std::vector<Text>& entries)
+{
+    if (!onChooseComponent)
+        return {};
+    return onChooseComponent(entries, WindowInFront());
+}
+
 void QtAsk::ShowBusyPointer(bool busy)
 {
     if (busy)

@@ -27,6 +27,8 @@ public:
     std::optional<Text> SaveFile(const FileQuestion& question) override;
     std::optional<Text> SelectDir(const Text& text, const Text& folder) override;
     std::optional<Text> XInputBox(const Text& title, const Text& prompt) override;
+    std::optional<Text> ChooseDestination(const DestinationQuestion& question) override;
+    std::optional<Text> ChooseComponent(const std::vector<Text>& entries) override;
 
     // Status lines belong to the form that shows them, which puts itself in between.
     void AddStatusLine(const Text&) override {}
@@ -38,6 +40,12 @@ public:
 
     /// Where `ShowStatusText` goes: the status bar of the main window.
     std::function<void(const Text&)> onStatusText;
+
+    // The choices whose forms belong to the file list; a hook that is not set cancels.
+    std::function<std::optional<Text>(const DestinationQuestion&, QWidget* parent)>
+        onChooseDestination;
+    std::function<std::optional<Text>(const std::vector<Text>& entries, QWidget* parent)>
+        onChooseComponent;
 
 private:
     Host& host_;

@@ -20,6 +20,12 @@ TEST(StatusBarText, TellsRowsAndWholeKilobytes)
     EXPECT_EQ(StatusBarText(list, '.', ask), "2 objekt,  12 356.0 kb");
 }
 
+TEST(SelectionText, CountsTheSelectedRows)
+{
+    EXPECT_EQ(SelectionText(2), "2 markerade objekt");
+    EXPECT_EQ(SelectionText(32767), "32767 markerade objekt");
+}
+
 TEST(HasRowsForCommand, RefusesAnEmptyListInTheWordsOfTheCommandsNeed)
 {
     ScriptedAsk ask({{BoxKind::Inform, "Info",

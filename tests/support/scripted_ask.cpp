@@ -77,6 +77,23 @@ std::optional<Text> ScriptedAsk::XInputBox(const Text& title, const Text& prompt
     return NextOneChoice({.title = title, .filter = prompt});
 }
 
+std::optional<Text> ScriptedAsk::ChooseDestination(const DestinationQuestion& question)
+{
+    constexpr const char* kOptionButtons[] = {"oUserDirectory", "oSystemDirectory",
+                                              "oWindowsDirectory"};
+    return NextOneChoice({.title = "ChooseDestination",
+                          .folder = question.folder,
+                          .filter = kOptionButtons[static_cast<int>(question.place)]});
+}
+
+std::optional<Text> ScriptedAsk::ChooseComponent(const std::vector<Text>& entries)
+{
+    Text filter;
+    for (const Text& entry : entries)
+        filter += (filter.empty() ? "" : "|") + entry;
+    return NextOneChoice({.title = "ChooseComponent", .filter = filter});
+}
+
 std::vector<Text> ScriptedAsk::NextChoice(const FileQuestion& question)
 {
     questions.push_back(question);

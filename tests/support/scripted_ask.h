@@ -49,6 +49,8 @@ public:
     std::optional<Text> SaveFile(const FileQuestion& question) override;
     std::optional<Text> SelectDir(const Text& text, const Text& folder) override;
     std::optional<Text> XInputBox(const Text& title, const Text& prompt) override;
+    std::optional<Text> ChooseDestination(const DestinationQuestion& question) override;
+    std::optional<Text> ChooseComponent(const std::vector<Text>& entries) override;
 
     /// What the next choices give, in order; a choice beyond them fails the test. `chosen` empty is
     /// a cancelled dialog.
@@ -57,7 +59,9 @@ public:
     };
     std::deque<Choice> choices;
     // What the choices were opened with: title, folder, name and filter of a file dialog; text and
-    // folder of SelectDir; title and prompt (as the filter) of XInputBox.
+    // folder of SelectDir; title and prompt (as the filter) of XInputBox; "ChooseDestination", its
+    // folder and its option button (as the filter); "ChooseComponent" and its entries, with "|"
+    // between them (as the filter).
     std::vector<FileQuestion> questions;
     void YieldToEvents() override {}
 

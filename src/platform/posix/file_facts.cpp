@@ -2,13 +2,26 @@
 
 namespace quillon {
 
+namespace {
+
+std::uint64_t IdentityOf(const struct stat& facts)
+{
+    // Devices are few and their numbers small, inodes of one device differ.
+    constexpr int kAboveInodes = 44;
+    return (static_cast<std::uint64_t>(facts.st_dev) << kAboveInodes) ^
+           static_cast<std::uint64_t>(facts.st_ino);
+}
+
+} // namespace
+
 FileFacts FactsOf(const struct stat& facts)
 {
     const bool isFolder = S_ISDIR(facts.st_mode);
     return {.size = isFolder ? 0 : static_cast<std::uint64_t>(facts.st_size),
             .modified = LocalTimeOf(facts.st_mtim.tv_sec),
             .isFolder = isFolder,
-            .isReadOnly = (facts.st_mode & S_IWUSR) == 0};
+            .isReadOnly = (facts.st_mode & S_IWUSR) == 0,
+            .identity = isFolder ? IdentityOf(facts) : 0};
 }
 
 LocalTime LocalTimeOf(time_t moment)

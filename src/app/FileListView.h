@@ -1,0 +1,60 @@
+// The file list: rows in columns that the user can widen, sort by and hide through the settings.
+#pragma once
+
+#include "app/FileListModel.h"
+#include "filelist/column_widths.h"
+#include "project/records.h"
+#include "shell/settings.h"
+
+#include <QTreeView>
+#include <functional>
+#include <vector>
+
+namespace quillon {
+
+class FileListView : public QTreeView {
+public:
+    FileListView(const Project& project, quillon::Settings& settings);
+
+    /// The rows anew, these of them selected.
+    void ShowRows(const std::vector<std::size_t>& selectedRows);
+    /// Rising.
+    std::vector<std::size_t> SelectedRows() const;
+    std::size_t SelectedRowCount() const;
+
+    /// Grid lines and columns as the settings and the components want them.
+    void ShowSettings();
+    /// Component numbers are shown while the project has components.
+    void ShowComponentColumns();
+
+    // What the user does to the list; set by who carries it out.
+    std::function<void(const Text& header)> onColumnClick;
+    std::function<void()> onSelection;
+    std::function<void()> onDelete;
+
+protected:
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void MakeHeader();
+    void ArrangeColumns();
+    int WidthOf(const ListColumn& column) const;
+    int DestinationWidth() const;
+    int Pixels(int twips) const;
+    bool IsShown(Column column) const;
+    void NoteWidth(int section, int width);
+    void ShowSortIndicator();
+    void SelectRows(const std::vector<std::size_t>& rows);
+
+    const Project& project_;
+    quillon::Settings& settings_;
+    FileListModel model_;
+    // Widths that change while this is set are not the user's.
+    bool isArranging_ = false;
+};
+
+} // namespace quillon

@@ -1,0 +1,18 @@
+#include "app/ask_forms.h"
+
+#include "filelist/forms/list_commands.h"
+#include "ui/QtAsk.h"
+
+namespace quillon {
+
+void ConnectFileListForms(QtAsk& ask, Session& session)
+{
+    ask.onChooseDestination = [&session](const DestinationQuestion& question, QWidget* parent) {
+        return ChooseDestination(session, question, parent);
+    };
+    ask.onChooseComponent = [](const std::vector<Text>& entries, QWidget* parent) {
+        return ChooseComponent(entries, parent);
+    };
+}
+
+} // namespace quillon

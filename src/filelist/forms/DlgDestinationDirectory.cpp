@@ -1,0 +1,106 @@
+#include "filelist/forms/DlgDestinationDirectory.h"
+
+#include "filelist/destination_choice.h"
+#include "filelist/forms/DlgDestDirVars.h"
+#include "ui/qt_text.h"
+#include "ui/typed_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+DlgDestinationDirectory::DlgDestinationDirectory(const DestinationQuestion& question,
+                                                 Session& session, QWidget* parent)
+    : Form("DlgDestinationDirectory", "Destinationskatalog", parent), session_(session)
+{
+    MakeOptions(question.place);
+    MakeDirectory(question.folder);
+    Button(NAMED(CmdVars), "Va&riabler...", [this] { PickVariable(); });
+    Arrange(Down({
+        Note("Välj den katalog på mottagarens hårddisk som filerna ska kopieras till."),
+        Frame("Destinationskatalog", {oUserDirectory, Across({Growing(ctDirectory), CmdVars}),
+                                      oSystemDirectory, oWindowsDirectory}),
+        Stretch(),
+        OkCancel(),
+    }));
+    EnableDirectory();
+}
+
+void DlgDestinationDirectory::MakeOptions(DestinationQuestion::Place place)
+{
+    Named(NAMED(oUserDirectory), new QRadioButton("&Egen katalog:"));
+    Named(NAMED(oSystemDirectory), new QRadioButton("Windows &systemkatalog (%SYSDIR)"));
+    Named(NAMED(oWindowsDirectory), new QRadioButton("&Windowskatalogen (%WINDIR)"));
+    for (QRadioButton* option : {oUserDirectory, oSystemDirectory, oWindowsDirectory})
+        connect(option, &QRadioButton::toggled, this, [this] { EnableDirectory(); });
+    QRadioButton* const options[] = {oUserDirectory, oSystemDirectory, oWindowsDirectory};
+    options[static_cast<int>(place)]->setChecked(true);
+}
+
+void DlgDestinationDirectory::MakeDirectory(const Text& folder)
+{
+    Named(NAMED(ctDirectory), new QComboBox, "Egen katalog");
+    ctDirectory->setEditable(true);
+    ctDirectory->setInsertPolicy(QComboBox::NoInsert);
+    // Qt's own completion ignores case and would finish a folder that is still being typed.
+    ctDirectory->setCompleter(nullptr);
+    ctDirectory->setMinimumContentsLength(40);
+    for (const Text& recent : RecentDestinationDirectories(session_.state))
+        ctDirectory->addItem(ToQt(recent));
+    ctDirectory->setEditText(ToQt(folder));
+    LimitTyping(ctDirectory->lineEdit(), 0);
+}
+
+void DlgDestinationDirectory::EnableDirectory()
+{
+    if (ctDirectory)
+        ctDirectory->setEnabled(oUserDirectory->isChecked());
+}
+
+void DlgDestinationDirectory::showEvent(QShowEvent* event)
+{
+    Form::showEvent(event);
+    if (oUserDirectory->isChecked()) {
+        ctDirectory->setFocus();
+        ctDirectory->lineEdit()->selectAll();
+    }
+}
+
+void DlgDestinationDirectory::PickVariable()
+{
+    DlgDestDirVars form(this);
+    if (!form.ShowModal())
+        return;
+    oUserDirectory->setChecked(true);
+    ctDirectory->setEditText(ToQt(form.Variable));
+    ctDirectory->setFocus();
+    ctDirectory->lineEdit()->end(false);
+}
+
+DestinationQuestion::Place DlgDestinationDirectory::Place() const
+{
+    if (oSystemDirectory->isChecked())
+        return DestinationQuestion::Place::System;
+    if (oWindowsDirectory->isChecked())
+        return DestinationQuestion::Place::Windows;
+    return DestinationQuestion::Place::User;
+}
+
+bool DlgDestinationDirectory::MayClose()
+{
+    const auto destination =
+        MakeDestination(Place(), FromQt(ctDirectory->currentText()), session_.ask);
+    if (destination)
+        Destination = *destination;
+    else
+        ctDirectory->setFocus();
+    return destination.has_value();
+}
+
+void DlgDestinationDirectory::Store()
+{
+    if (Place() == DestinationQuestion::Place::User)
+        RememberDestination(session_.state, Destination);
+}
+
+} // namespace quillon

@@ -1,0 +1,96 @@
+#include "filelist/forms/list_commands.h"
+
+#include "filelist/add_files_command.h"
+#include "filelist/dropped_files.h"
+#include "filelist/forms/DlgCompShortList.h"
+#include "filelist/forms/DlgDestinationDirectory.h"
+#include "filelist/forms/DlgSortList.h"
+#include "filelist/list_maintenance.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+ListWork WorkOn(Session& session)
+{
+    return {session.project, session.state, session.host, session.ask};
+}
+
+/// Shows the rows again, those selected that were before.
+void ShowMoved(MainWindow& window, const NewPlaces& places)
+{
+    std::vector<std::size_t> selected;
+    for (const std::size_t row : window.SelectedRows())
+        selected.push_back(places[row]);
+    std::ranges::sort(selected);
+    window.ShowFileList(selected);
+}
+
+void ShowOutcome(MainWindow& window, const std::optional<NewPlaces>& places)
+{
+    if (places)
+        ShowMoved(window, *places);
+    else
+        window.UpdateStatusBar();
+}
+
+} // namespace
+
+void AddFilesCommand(Session& session, MainWindow& window)
+{
+    ShowOutcome(window, AddFilesCommand(WorkOn(session), session.LastInstallFilesDir));
+}
+
+void AddEmptyDirectoryCommand(Session& session, MainWindow& window)
+{
+    ShowOutcome(window, AddEmptyDirectoryCommand(WorkOn(session)));
+}
+
+void DeleteRowsCommand(Session& session, MainWindow& window)
+{
+    if (DeleteRowsCommand(WorkOn(session), window.SelectedRows()))
+        window.ShowFileList({});
+}
+
+void UpdateFileListCommand(Session& session, MainWindow& window)
+{
+    UpdateFileListCommand(WorkOn(session),
+                          [&](const NewPlaces& places) { ShowMoved(window, places); });
+}
+
+void SortListCommand(Session& session, MainWindow& window, QWidget* parent)
+{
+    DlgSortList form(session.project, parent);
+    if (form.ShowModal())
+        ShowMoved(window, SortRowsBy(session.project.Files, form.Key));
+}
+
+void ClickColumn(Session& session, MainWindow& window, const Text& header)
+{
+    ShowMoved(window, HandleColumnClick(session.project.Files, header));
+}
+
+void AddDropped(Session& session, MainWindow& window, const std::vector<Text>& paths,
+                const std::vector<Text>& refused)
+{
+    RefuseDropped(session.ask, refused);
+    if (!paths.empty())
+        ShowOutcome(window, AddDroppedPaths(WorkOn(session), paths));
+}
+
+std::optional<Text> ChooseDestination(Session& session, const DestinationQuestion& question,
+                                      QWidget* parent)
+{
+    DlgDestinationDirectory form(question, session, parent);
+    return form.ShowModal() ? std::optional(form.Destination) : std::nullopt;
+}
+
+std::optional<Text> ChooseComponent(const std::vector<Text>& entries, QWidget* parent)
+{
+    DlgCompShortList form(entries, parent);
+    return form.ShowModal() ? std::optional(form.Entry) : std::nullopt;
+}
+
+} // namespace quillon

@@ -1,0 +1,114 @@
+#include "filelist/list_maintenance.h"
+
+#include "filelist/row_facts.h"
+#include "helpers/number_text.h"
+#include "platform/run_error.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kFilesMissing =
+    "En eller flera filer har försvunnit från källkatalogen sedan du lade in dessa i fillistan! De "
+    "filer som saknas har markerats med <Filen saknas> i kolumnen 'Destination'. Du bör radera "
+    "bort dessa från fillistan (och sedan eventuellt lägga in dom på nytt om de är flyttade till "
+    "en annan katalog).";
+
+std::optional<FileFacts> FactsOfFile(const FileSystem& files, const Text& path)
+{
+    try {
+        const FileFacts facts = files.Facts(path);
+        return facts.isFolder ? std::nullopt : std::optional(facts);
+    } catch (const RunError&) {
+        return std::nullopt;
+    }
+}
+
+// Kept: all options and the destination are lost, so a file that comes back stays marked.
+void MarkAsMissing(FileListRow& row)
+{
+    for (std::size_t i = 0; i < kColumnCount; ++i)
+        if (i != Filename && i != Source)
+            row.columns[i].clear();
+    row[Destination] = "<Filen saknas>";
+    row[Size] = "0";
+}
+
+/// True when the row's file is gone.
+bool UpdateRow(FileListRow& row, const Host& host)
+{
+    const auto facts = FactsOfFile(host.files, row[Source]);
+    if (facts)
+        FillFromFacts(row, *facts, host.machine.DecimalSign());
+    else
+        MarkAsMissing(row);
+    return !facts;
+}
+
+} // namespace
+
+std::optional<NewPlaces> AddEmptyDirectoryCommand(const ListWork& work)
+{
+    const auto folder = work.ask.XInputBox("Addera tom katalog", "&Katalog:");
+    if (!folder || folder->empty())
+        return std::nullopt;
+    FileList& files = work.project.Files;
+    if (files.rows.size() >= kMostRows) {
+        work.ask.Critical("Fel", "Fillistan rymmer högst " + NumberText(kMostRows) +
+                                     " rader. Katalogen '" + *folder +
+                                     "' kan ej adderas till fillistan!");
+        return std::nullopt;
+    }
+    // Kept: the answer stands in the row as it was typed, whatever it is.
+    FileListRow& row = files.rows.emplace_back();
+    row[Filename] = kEmptyFolderName;
+    row[Destination] = *folder;
+    work.state.ProjectIsDirty = kOn;
+    return SortRows(files);
+}
+
+void UpdateFileListCommand(const ListWork& work, const std::function<void(const NewPlaces&)>& show)
+{
+    FileList& files = work.project.Files;
+    if (files.rows.empty())
+        return;
+    work.ask.ShowStatusText("Uppdaterar fillista...");
+    std::size_t missing = 0;
+    for (FileListRow& row : files.rows)
+        if (row.HasSource() && UpdateRow(row, work.host))
+            ++missing;
+    work.ask.ShowStatusText("");
+    work.state.ProjectIsDirty = kOn;
+    show(SortRows(files));
+    if (missing > 0)
+        work.ask.Warn("Filer saknas", kFilesMissing);
+}
+
+bool DeleteRowsCommand(const ListWork& work, std::span<const std::size_t> selectedRows)
+{
+    if (selectedRows.empty())
+        return false;
+    const bool goes = work.ask.YesNo("Fillista",
+                                     selectedRows.size() == 1
+                                         ? "Vill du ta bort det markerade objektet från listan?"
+                                         : "Vill du ta bort de markerade objekten från listan?",
+                                     Ask::Stops::OnNo);
+    if (!goes)
+        return false;
+    std::vector<FileListRow>& rows = work.project.Files.rows;
+    std::vector<FileListRow> kept;
+    kept.reserve(rows.size());
+    auto selected = selectedRows.begin();
+    for (std::size_t number = 0; number < rows.size(); ++number)
+        if (selected != selectedRows.end() && *selected == number)
+            ++selected;
+        else
+            kept.push_back(std::move(rows[number]));
+    rows = std::move(kept);
+    work.state.ProjectIsDirty = kOn;
+    return true;
+}
+
+} // namespace quillon

@@ -1,0 +1,25 @@
+// The commands that keep the rows of the file list true: refresh, delete, a row for an empty
+// folder.
+#pragma once
+
+#include "filelist/list_work.h"
+#include "filelist/sort.h"
+
+#include <functional>
+#include <optional>
+#include <span>
+
+namespace quillon {
+
+/// Asks for a folder that the setup makes empty. Where each of the former rows stands afterwards;
+/// nothing where the list is as it was.
+std::optional<NewPlaces> AddEmptyDirectoryCommand(const ListWork& work);
+
+/// Brings size, date and time of every row in line with its file, and marks those whose file is
+/// gone. `show` brings the list to the user before a box tells of these.
+void UpdateFileListCommand(const ListWork& work, const std::function<void(const NewPlaces&)>& show);
+
+/// Takes the selected rows (rising numbers) out, if the user says so; true when they are gone.
+bool DeleteRowsCommand(const ListWork& work, std::span<const std::size_t> selectedRows);
+
+} // namespace quillon
