@@ -20,6 +20,33 @@ constexpr int kSourceWidth = 4200;
 
 constexpr double kUsualDpi = 96;
 
+// Wide fonts need more than the twips of the columns with texts of one length.
+QString WidestText(Column column)
+{
+    switch (column) {
+    case Date:
+        return "2004-12-30";
+    case Time:
+        return "12:30";
+    case IconMarker:
+        return "IkonD";
+    default:
+        return {};
+    }
+}
+
+// Rows a little higher than their text are easier to follow.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), size.height() + option.fontMetrics.height() / 3};
+    }
+};
+
 constexpr const char* kHintOfEmptyList =
     "Fillistan är tom.\n\nDra hit filer och kataloger, eller välj Addera filer.";
 
@@ -43,6 +70,7 @@ FileListView::FileListView(const Project& project, quillon::Settings& settings)
     // Files are dropped on the page, of which the list is a part.
     setAcceptDrops(false);
     viewport()->setAcceptDrops(false);
+    setItemDelegate(new RowDelegate(this));
     MakeHeader();
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (onSelection)
@@ -167,8 +195,16 @@ int FileListView::WidthOf(const ListColumn& column) const
     case Source:
         return Pixels(kSourceWidth);
     default:
-        return Pixels(column.width);
+        return std::max(Pixels(column.width), LeastWidth(column));
     }
+}
+
+int FileListView::LeastWidth(const ListColumn& column) const
+{
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header()) +
+                            style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this));
+    return margin + std::max(header()->fontMetrics().horizontalAdvance(ToQt(column.header)),
+                             fontMetrics().horizontalAdvance(WidestText(column.column)));
 }
 
 // A large window has room for long destinations, so the column takes what the others leave.

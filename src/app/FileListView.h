@@ -43,6 +43,7 @@ private:
     void MakeHeader();
     void ArrangeColumns();
     int WidthOf(const ListColumn& column) const;
+    int LeastWidth(const ListColumn& column) const;
     int DestinationWidth() const;
     int Pixels(int twips) const;
     bool IsShown(Column column) const;

@@ -1,6 +1,7 @@
 #include "app/FilesPage.h"
 
 #include "app/FileListView.h"
+#include "app/ProjectHeader.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -8,16 +9,17 @@
 namespace quillon {
 
 FilesPage::FilesPage(Session& session, HostPaths paths)
-    : session_(session), paths_(std::move(paths)),
+    : session_(session), paths_(std::move(paths)), header_(new ProjectHeader(session)),
       list_(new FileListView(session.project, session.Settings))
 {
     setObjectName("FilesPage");
     setAcceptDrops(true);
-    Arrange(this, Down({Growing(list_)}));
+    Arrange(this, Down({header_, Growing(list_)}));
 }
 
 void FilesPage::ShowSession()
 {
+    header_->ShowSession();
     list_->ShowComponentColumns();
     list_->ShowRows({});
 }

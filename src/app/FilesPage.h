@@ -13,6 +13,7 @@ class QMimeData;
 namespace quillon {
 
 class FileListView;
+class ProjectHeader;
 
 class FilesPage : public Page {
 public:
@@ -34,6 +35,7 @@ private:
 
     Session& session_;
     HostPaths paths_;
+    ProjectHeader* header_ = nullptr;
     FileListView* list_ = nullptr;
 };
 

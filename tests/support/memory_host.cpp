@@ -143,6 +143,8 @@ const MemoryFiles::Node& MemoryFiles::Existing(const Text& path) const
 
 FileFacts MemoryFiles::Facts(const Text& path) const
 {
+    if (nodes.count(KeyOf(path)) == 0 && DirExists(path))
+        return {.isFolder = true}; // a drive's root, which nobody put there
     return Existing(path).facts;
 }
 
@@ -150,6 +152,9 @@ std::vector<FolderEntry> MemoryFiles::List(const Text& folder) const
 {
     if (!DirExists(folder))
         throw RunError(ErrorNumber::kPathNotFound, folder);
+    if (const auto found = nodes.find(KeyOf(folder));
+        found != nodes.end() && found->second.unreadable)
+        throw RunError(ErrorNumber::kPermissionDenied, folder);
     std::vector<FolderEntry> entries;
     const Text inside = KeyOf(folder) + "\\";
     for (const auto& [key, node] : nodes) {

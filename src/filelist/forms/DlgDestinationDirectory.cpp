@@ -2,6 +2,7 @@
 
 #include "filelist/destination_choice.h"
 #include "filelist/forms/DlgDestDirVars.h"
+#include "ui/complete_variable.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
 
@@ -49,6 +50,7 @@ void DlgDestinationDirectory::MakeDirectory(const Text& folder)
         ctDirectory->addItem(ToQt(recent));
     ctDirectory->setEditText(ToQt(folder));
     LimitTyping(ctDirectory->lineEdit(), 0);
+    CompleteVariables(ctDirectory->lineEdit(), PrefixTable::Folder);
 }
 
 void DlgDestinationDirectory::EnableDirectory()
