@@ -144,7 +144,7 @@ TEST_F(FilesPageTest, GivesItsColumnsTheirWidthsInTwipsOfTheFont)
         << "in a wide font, too, a date is read whole";
     EXPECT_EQ(list->header()->length(), list->viewport()->width())
         << "the destination has what the others leave";
-    form->resize(300, 400);
+    list->resize(300, 400);
     EXPECT_NEAR(width(Destination), 2800 * pixelsPerTwip, 1) << "and never less than its own";
 }
 
