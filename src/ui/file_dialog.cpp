@@ -1,5 +1,7 @@
 #include "ui/file_dialog.h"
 
+#include "helpers/ansi_text.h"
+#include "ui/file_dialog_parts.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -22,28 +24,138 @@ QStringList NameFilters(const Text& filter)
     return filters;
 }
 
-void Prepare(QFileDialog& dialog, const FileQuestion& question, const HostPaths& paths)
+bool IsWindowsPath(const QString& typed)
 {
-    dialog.setWindowTitle(ToQt(question.title));
-    dialog.setNameFilters(NameFilters(question.filter));
-    if (const auto folder = paths.toHost(question.folder); folder && !question.folder.empty())
-        if (QDir(QString::fromStdString(*folder)).exists())
-            dialog.setDirectory(QString::fromStdString(*folder));
-    if (!question.defaultExtension.empty())
-        dialog.setDefaultSuffix(ToQt(question.defaultExtension).remove(0, 1));
-    if (question.fileName.find('*') == Text::npos)
-        dialog.selectFile(ToQt(question.fileName));
+    static const QRegularExpression drive("^[A-Za-z]:[\\\\/]");
+    return drive.match(typed).hasMatch();
 }
 
-std::vector<Text> Chosen(QFileDialog& dialog, const HostPaths& paths)
+/// Qt's own dialog everywhere, since that of a desktop speaks the desktop's language and knows no
+/// drive letters.
+class FileDialog : public QFileDialog {
+public:
+    FileDialog(const FileQuestion& question, const HostPaths& paths, QWidget* parent);
+
+    std::vector<Text> Ask();
+
+protected:
+    void accept() override;
+
+private:
+    void OpenFolder(const Text& folder);
+    void LetWindowsPathsBeTyped();
+    bool TakeTypedWindowsPath();
+    bool RefusesAFile();
+    void Refuse(const QString& text);
+
+    const HostPaths& paths_;
+    FilePictures pictures_;
+};
+
+FileDialog::FileDialog(const FileQuestion& question, const HostPaths& paths, QWidget* parent)
+    : QFileDialog(parent), paths_(paths)
 {
+    setObjectName("FileDialog");
+    setOption(QFileDialog::DontUseNativeDialog);
+    setIconProvider(&pictures_);
+    setProxyModel(new SwedishColumns(this));
+    setViewMode(QFileDialog::Detail);
+    setWindowTitle(ToQt(question.title));
+    setNameFilters(NameFilters(question.filter));
+    OpenFolder(question.folder);
+    if (!question.defaultExtension.empty())
+        setDefaultSuffix(ToQt(question.defaultExtension).remove(0, 1));
+    if (!question.fileName.empty() && question.fileName.find('*') == Text::npos)
+        selectFile(ToQt(question.fileName));
+    DrawButtons(*this);
+    LayOut(*this);
+    LetWindowsPathsBeTyped();
+}
+
+/// Qt turns the button off for a name that is no file of this machine's.
+void FileDialog::LetWindowsPathsBeTyped()
+{
+    auto* field = findChild<QLineEdit*>("fileNameEdit");
+    auto* buttons = findChild<QDialogButtonBox*>("buttonBox");
+    connect(field, &QLineEdit::textChanged, this, [this, buttons](const QString& typed) {
+        const auto which =
+            acceptMode() == AcceptSave ? QDialogButtonBox::Save : QDialogButtonBox::Open;
+        if (IsWindowsPath(typed.trimmed()))
+            buttons->button(which)->setEnabled(true);
+    });
+}
+
+void FileDialog::OpenFolder(const Text& folder)
+{
+    // Where there is no such folder Qt opens the one that was chosen in last.
+    const auto hostFolder = folder.empty() ? std::nullopt : paths_.toHost(folder);
+    if (hostFolder && QDir(QString::fromStdString(*hostFolder)).exists())
+        setDirectory(QString::fromStdString(*hostFolder));
+}
+
+std::vector<Text> FileDialog::Ask()
+{
+    const Places places(*this, paths_);
     std::vector<Text> files;
-    if (dialog.exec() != QDialog::Accepted)
-        return files;
-    for (const QString& file : dialog.selectedFiles())
-        if (const auto path = paths.toWindows(file.toStdString()))
-            files.push_back(*path);
+    if (exec() == QDialog::Accepted)
+        for (const QString& file : selectedFiles())
+            if (const auto path = paths_.toWindows(file.toStdString()))
+                files.push_back(*path);
     return files;
+}
+
+void FileDialog::accept()
+{
+    if (TakeTypedWindowsPath() && !RefusesAFile())
+        QFileDialog::accept();
+}
+
+/// A typed "C:\Data\a.txt" is looked up where drive C: lies here. False where there is no such
+/// drive.
+bool FileDialog::TakeTypedWindowsPath()
+{
+    auto* field = findChild<QLineEdit*>("fileNameEdit");
+    if (!field || !IsWindowsPath(field->text().trimmed()))
+        return true;
+    const QString typed = field->text().trimmed();
+    const auto hostPath = paths_.toHost(FromQt(typed));
+    if (!hostPath) {
+        Refuse("Enheten " + typed.left(2).toUpper() +
+               " finns inte på den här datorn. Enheter anges i miljövariabeln QUILLON_DRIVES.");
+        return false;
+    }
+    field->setText(QString::fromStdString(*hostPath));
+    return true;
+}
+
+/// Whether a chosen file has a name that no project can hold. It would vanish from the project, or
+/// name another file.
+bool FileDialog::RefusesAFile()
+{
+    for (const QString& file : selectedFiles()) {
+        if (QFileInfo(file).isDir())
+            continue;
+        const auto path = paths_.toWindows(file.toStdString());
+        if (path && AnsiText::Holds(*path))
+            continue;
+        Refuse(path ? "Filen '" + file +
+                          "' kan inte användas, eftersom namnet eller sökvägen innehåller tecken "
+                          "som inte får plats i ett projekt. Byt namn på filen eller katalogen!"
+                    : "Filen '" + file +
+                          "' kan inte användas, eftersom dess sökväg inte går att skriva som en "
+                          "sökväg i Windows. Byt namn på filen eller katalogen!");
+        return true;
+    }
+    return false;
+}
+
+void FileDialog::Refuse(const QString& text)
+{
+    QMessageBox box(QMessageBox::Information, "Fel", text, QMessageBox::NoButton, this);
+    box.setObjectName("MsgBox");
+    box.setTextFormat(Qt::PlainText);
+    box.addButton(QMessageBox::Ok)->setText("OK");
+    box.exec();
 }
 
 std::optional<Text> First(const std::vector<Text>& files)
@@ -56,28 +168,25 @@ std::optional<Text> First(const std::vector<Text>& files)
 std::optional<Text> ChooseFileToOpen(const FileQuestion& question, const HostPaths& paths,
                                      QWidget* parent)
 {
-    QFileDialog dialog(parent);
+    FileDialog dialog(question, paths, parent);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    Prepare(dialog, question, paths);
-    return First(Chosen(dialog, paths));
+    return First(dialog.Ask());
 }
 
 std::vector<Text> ChooseFilesToOpen(const FileQuestion& question, const HostPaths& paths,
                                     QWidget* parent)
 {
-    QFileDialog dialog(parent);
+    FileDialog dialog(question, paths, parent);
     dialog.setFileMode(QFileDialog::ExistingFiles);
-    Prepare(dialog, question, paths);
-    return Chosen(dialog, paths);
+    return dialog.Ask();
 }
 
 std::optional<Text> ChooseFileToSave(const FileQuestion& question, const HostPaths& paths,
                                      QWidget* parent)
 {
-    QFileDialog dialog(parent);
+    FileDialog dialog(question, paths, parent);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    Prepare(dialog, question, paths);
-    return First(Chosen(dialog, paths));
+    return First(dialog.Ask());
 }
 
 } // namespace quillon

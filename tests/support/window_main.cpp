@@ -1,4 +1,6 @@
 // main() of the tests that drive windows: real widgets on a screen in memory.
+#include "ui/swedish_texts.h"
+
 #include <QApplication>
 #include <cstdio>
 #include <cstdlib>
@@ -29,5 +31,6 @@ int main(int count, char** words)
     testing::InitGoogleTest(&count, words);
     QApplication application(count, words);
     QApplication::setStyle("Fusion");
+    quillon::InstallSwedishTexts(application);
     return RUN_ALL_TESTS();
 }

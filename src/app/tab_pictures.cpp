@@ -1,0 +1,36 @@
+#include "app/tab_pictures.h"
+
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+#include "shell/main_window.h"
+#include "ui/icons.h"
+#include "ui/picture.h"
+
+#include <QtWidgets>
+#include <array>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::array<const char*, kTabCount> kOwnPictures{
+    "tab-files", "tab-design", "tab-dialogs", "tab-registry", "tab-ini", "tab-components"};
+
+QIcon TabPicture(const FileSystem& files, const Text& toolFolder, int tab)
+{
+    const Text file = "Res\\tab" + std::to_string(tab + 1) + ".bmp";
+    // The bitmaps are larger than they show, so that they stay sharp on a fine screen.
+    if (const auto picture = LoadPicture(files, JoinPath(toolFolder, file)))
+        return QIcon(QPixmap::fromImage(*picture));
+    return NamedIcon(kOwnPictures[static_cast<std::size_t>(tab)]);
+}
+
+} // namespace
+
+void ShowTabPictures(QTabWidget& tabs, const FileSystem& files, const Text& toolFolder)
+{
+    for (int tab = 0; tab < tabs.count(); ++tab)
+        tabs.setTabIcon(tab, TabPicture(files, toolFolder, tab));
+}
+
+} // namespace quillon

@@ -1,0 +1,180 @@
+#include "ui/file_dialog.h"
+
+#include "support/temp_folder.h"
+#include "support/window_test.h"
+
+#include <fstream>
+
+namespace quillon::test {
+namespace {
+
+class FileDialogTest : public testing::Test {
+protected:
+    FileDialogTest()
+    {
+        std::filesystem::create_directories(Root() + "/Data");
+        for (const char* name : {"a.qnp", "b.qnp", "c.txt", "日.qnp", "d\\e.qnp"})
+            std::ofstream(Root() + "/Data/" + name) << "x";
+        question.title = "Öppna projekt";
+        question.folder = "C:\\Data";
+        question.filter = "Projektfiler (*.qnp)|*.qnp|Alla filer (*.*)|*.*";
+        question.defaultExtension = ".qnp";
+        paths.toHost = [this](const Text& path) -> std::optional<std::string> {
+            if (path.empty() || (path[0] != 'C' && path[0] != 'c'))
+                return std::nullopt;
+            std::string inside = path.substr(2);
+            std::ranges::replace(inside, '\\', '/');
+            return Root() + inside;
+        };
+        paths.toWindows = [this](const std::string& path) -> std::optional<Text> {
+            if (path.compare(0, Root().size(), Root()) != 0)
+                return "Z:" + path;
+            std::string inside = path.substr(Root().size());
+            if (inside.find('\\') != std::string::npos)
+                return std::nullopt;
+            std::ranges::replace(inside, '/', '\\');
+            return "C:" + inside;
+        };
+    }
+
+    std::string Root() const { return folder_.Path(); }
+
+    static void Enter(QDialog& dialog, const QString& name)
+    {
+        Find<QLineEdit>(dialog, "fileNameEdit").setText(name);
+        static_cast<QFileDialog&>(dialog)
+            .findChild<QDialogButtonBox*>("buttonBox")
+            ->buttons()
+            .first()
+            ->click();
+    }
+
+    /// Enters a name that is refused, and gives back the box that said so.
+    static QString RefusalOf(QDialog& dialog, const QString& name)
+    {
+        QString text;
+        OnNextDialog([&](QDialog& box) {
+            text = dynamic_cast<QMessageBox&>(box).text();
+            SavePicture(box, "MsgBox-refused-file");
+        });
+        Enter(dialog, name);
+        return text;
+    }
+
+    FileQuestion question;
+    HostPaths paths;
+
+private:
+    TempFolder folder_;
+};
+
+TEST_F(FileDialogTest, OpensInTheFolderWithTitleAndFilters)
+{
+    OnNextDialog([&](QDialog& dialog) {
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(files.windowTitle(), "Öppna projekt");
+        EXPECT_EQ(files.directory().path().toStdString(), Root() + "/Data");
+        EXPECT_EQ(files.nameFilters(), QStringList({"Projektfiler (*.qnp)", "Alla filer (*)"}));
+        EXPECT_TRUE(files.testOption(QFileDialog::DontUseNativeDialog));
+        Enter(dialog, "a.qnp");
+    });
+    EXPECT_EQ(ChooseFileToOpen(question, paths, nullptr), "C:\\Data\\a.qnp");
+}
+
+TEST_F(FileDialogTest, GivesNothingOnCancel)
+{
+    OnNextDialog([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(ChooseFileToOpen(question, paths, nullptr), std::nullopt);
+}
+
+TEST_F(FileDialogTest, OpensSeveralFiles)
+{
+    OnNextDialog([](QDialog& dialog) { Enter(dialog, "\"a.qnp\" \"b.qnp\""); });
+    const std::vector<Text> both{"C:\\Data\\a.qnp", "C:\\Data\\b.qnp"};
+    EXPECT_EQ(ChooseFilesToOpen(question, paths, nullptr), both);
+}
+
+TEST_F(FileDialogTest, GivesASavedNameItsExtension)
+{
+    OnNextDialog([](QDialog& dialog) { Enter(dialog, "nytt"); });
+    EXPECT_EQ(ChooseFileToSave(question, paths, nullptr), "C:\\Data\\nytt.qnp");
+}
+
+TEST_F(FileDialogTest, AsksBeforeItOverwrites)
+{
+    OnNextDialog([](QDialog& dialog) {
+        OnNextDialog([](QDialog& box) {
+            EXPECT_TRUE(dynamic_cast<QMessageBox&>(box).text().contains("a.qnp"));
+            box.reject();
+        });
+        Enter(dialog, "a.qnp");
+        EXPECT_TRUE(dialog.isVisible());
+    });
+    EXPECT_EQ(ChooseFileToSave(question, paths, nullptr), std::nullopt);
+}
+
+TEST_F(FileDialogTest, TakesATypedWindowsPath)
+{
+    OnNextDialog([](QDialog& dialog) { Enter(dialog, "c:\\Data\\b.qnp"); });
+    EXPECT_EQ(ChooseFileToOpen(question, paths, nullptr), "C:\\Data\\b.qnp");
+}
+
+TEST_F(FileDialogTest, TellsOfADriveThatIsNotThere)
+{
+    OnNextDialog([](QDialog& dialog) {
+        EXPECT_EQ(RefusalOf(dialog, "s:\\b.qnp"),
+                  "Enheten S: finns inte på den här datorn. Enheter anges i miljövariabeln "
+                  "QUILLON_DRIVES.");
+        EXPECT_TRUE(dialog.isVisible());
+    });
+    EXPECT_EQ(ChooseFileToOpen(question, paths, nullptr), std::nullopt);
+}
+
+TEST_F(FileDialogTest, RefusesNamesThatNoProjectHolds)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"日.qnp", "tecken som inte får plats i ett projekt"},
+        {"d\\e.qnp", "inte går att skriva som en sökväg i Windows"}};
+    for (const auto& [name, reason] : cases) {
+        OnNextDialog([name = name, reason = reason](QDialog& dialog) {
+            EXPECT_TRUE(RefusalOf(dialog, name).contains(reason)) << name;
+            EXPECT_TRUE(dialog.isVisible());
+        });
+        EXPECT_EQ(ChooseFileToOpen(question, paths, nullptr), std::nullopt);
+    }
+}
+
+TEST_F(FileDialogTest, RemembersTheLastFolderWhereNoneIsGiven)
+{
+    OnNextDialog([](QDialog& dialog) { Enter(dialog, "a.qnp"); });
+    EXPECT_TRUE(ChooseFileToOpen(question, paths, nullptr));
+    for (const char* folder : {"", "C:\\Borta", "X:\\"}) {
+        question.folder = folder;
+        OnNextDialog([&](QDialog& dialog) {
+            EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path().toStdString(),
+                      Root() + "/Data");
+        });
+        EXPECT_FALSE(ChooseFileToOpen(question, paths, nullptr));
+    }
+}
+
+TEST_F(FileDialogTest, OffersHomeAndDrivesAndShowsSwedishColumns)
+{
+    OnNextDialog([&](QDialog& dialog) {
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        const QList<QUrl> places = files.sidebarUrls();
+        ASSERT_EQ(places.size(), 2);
+        EXPECT_EQ(places[0].toLocalFile(), QDir::homePath());
+        EXPECT_EQ(QDir(places[1].toLocalFile()).path().toStdString(), Root());
+        auto& view = Find<QTreeView>(dialog, "treeView");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return view.model()->rowCount(view.rootIndex()) > 0; }));
+        const QModelIndex row = view.model()->index(0, 1, view.rootIndex());
+        EXPECT_EQ(row.data().toString(), "1 byte");
+        EXPECT_EQ(row.siblingAtColumn(2).data().toString(), "QNP-fil");
+        SavePicture(dialog, "FileDialog");
+    });
+    EXPECT_FALSE(ChooseFileToOpen(question, paths, nullptr));
+}
+
+} // namespace
+} // namespace quillon::test
