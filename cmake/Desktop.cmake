@@ -1,10 +1,13 @@
 # The desktop program. Qt's headers take long to compile, so the form kit's precompiled header serves
 # all windows; no class of ours needs moc.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg DBus)
 
 set(CMAKE_AUTORCC ON)
 file(GLOB icons CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/ui/*.qrc)
 quillon_library(ui quillon_shell Qt6::Widgets Qt6::Svg)
+# For one file alone, which finds the headers beside those of Widgets; flags of their own would cost
+# all windows their precompiled header.
+target_link_libraries(quillon_ui INTERFACE $<LINK_ONLY:Qt6::DBus>)
 target_sources(quillon_ui PRIVATE ${icons})
 target_precompile_headers(quillon_ui PRIVATE <QtWidgets/QtWidgets>)
 

@@ -8,7 +8,9 @@
 #include "app/IniFilesPage.h"
 #include "app/RegistryPage.h"
 #include "app/actions.h"
+#include "app/bars_look.h"
 #include "app/command_bars.h"
+#include "app/tab_pictures.h"
 #include "app/window_place.h"
 #include "filelist/forms/list_commands.h"
 #include "filelist/status_text.h"
@@ -63,6 +65,7 @@ void MainForm::MakePages(const HostPaths& paths)
     MainTab_->setObjectName("MainTab");
     for (std::size_t i = 0; i < pages_.size(); ++i)
         MainTab_->addTab(pages_[i], QString::fromUtf8(kTabCaptions[i]).trimmed());
+    ShowTabPictures(*MainTab_, session_.host.files, session_.options.ToolFolder);
     setCentralWidget(MainTab_);
 }
 
@@ -116,6 +119,7 @@ void MainForm::ShowSettings()
         bars_->ShowTabEntry(tab, isHidden == 0);
     }
     files_->List().ShowSettings();
+    ApplyBarsLook(*this, static_cast<BarsStyle>(session_.Settings.WindowOptions.CBarsCurrentStyle));
 }
 
 void MainForm::ShowTab(Tab tab)

@@ -1,6 +1,10 @@
 // quillon: the desktop program. Its whole command line is the path of one project.
 #include "app/MainForm.h"
+<<<<<<< HEAD
 #include "app/ask_forms.h"
+=======
+#include "app/appearance.h"
+>>>>>>> eeb70c4 (Give the bars four looks, and go dark where the desktop is dark)
 #include "app/command_line.h"
 #include "app/window_place.h"
 #include "helpers/product.h"
@@ -40,6 +44,7 @@ int main(int count, char** words)
     QApplication application(one, words);
     // No display name, which Qt would put behind the title of every window.
     QApplication::setApplicationName("quillon");
+    PrepareAppearance(application);
 
     PosixHost machine;
     const HostPaths paths = PathsOf(machine);
