@@ -1,10 +1,7 @@
 // quillon: the desktop program. Its whole command line is the path of one project.
 #include "app/MainForm.h"
-<<<<<<< HEAD
-#include "app/ask_forms.h"
-=======
 #include "app/appearance.h"
->>>>>>> eeb70c4 (Give the bars four looks, and go dark where the desktop is dark)
+#include "app/ask_forms.h"
 #include "app/command_line.h"
 #include "app/window_place.h"
 #include "helpers/product.h"
