@@ -1,6 +1,8 @@
 #include "builder/compression_interface.h"
 
 #include "builder/compression_log.h"
+#include "builder/copy_alive.h"
+#include "builder/progress_display.h"
 #include "builder/spanned_archive.h"
 #include "builder/zip_writer.h"
 #include "formats/container_names.h"
@@ -17,7 +19,6 @@ namespace {
 
 constexpr std::size_t kLongestComment = 0xFFFF;
 constexpr std::uint32_t kTemporaryNames = 100000000;
-constexpr std::uint64_t kProgressSteps = 200;
 
 /// A file that is gone when its work is done, whatever happens.
 class TemporaryFile {
@@ -44,30 +45,6 @@ public:
 private:
     FileSystem& files_;
     Text path_;
-};
-
-/// Shows progress from time to time, not for each of many thousand small files.
-class ProgressDisplay {
-public:
-    explicit ProgressDisplay(Ask& ask) : ask_(ask) {}
-    ~ProgressDisplay() { ask_.ShowProgress(0, 0); }
-    ProgressDisplay(const ProgressDisplay&) = delete;
-    ProgressDisplay& operator=(const ProgressDisplay&) = delete;
-
-    void Show(std::uint64_t done, std::uint64_t total)
-    {
-        if (total == 0 || (done < next_ && done > last_ && done < total))
-            return;
-        last_ = done;
-        next_ = done + total / kProgressSteps;
-        ask_.ShowProgress(done, total);
-        ask_.YieldToEvents();
-    }
-
-private:
-    Ask& ask_;
-    std::uint64_t last_ = 0;
-    std::uint64_t next_ = 0;
 };
 
 /// What is the same for two spellings of one path.
@@ -191,7 +168,8 @@ void CompressionInterface::State::Pack(const Order& order, const Text& unfinishe
     ProgressDisplay progress(ask);
     const ZipWatch watch{
         .onEntry = [&](const ZipEntryReport& entry) { log.AddEntry(entry); },
-        .onProgress = [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); }};
+        .onProgress = [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); },
+        .onYield = [&] { ask.YieldToEvents(); }};
     const auto output = host.files.OpenOutput(unfinished);
     WriteZip(host.files, Sources(order), *output, {.deflate = deflates, .password = order.password},
              watch);
@@ -205,9 +183,11 @@ void CompressionInterface::State::Deliver(const Order& order, const Text& finish
         return;
     }
     ProgressDisplay progress(ask);
-    const Spanning spanning =
-        CutOntoDisks(host.files, finished, order.target, disks,
-                     [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); });
+    const Spanning spanning = CutOntoDisks(host.files, finished, order.target, disks,
+                                           [&](std::uint64_t done, std::uint64_t total) {
+                                               progress.Show(done, total);
+                                               ask.YieldToEvents();
+                                           });
     disksUsed = spanning.disksUsed;
     if (spanning.result != CompressionResult::kDone)
         throw CompressionFailure(spanning.result, spanning.path);
@@ -224,7 +204,7 @@ void CompressionInterface::State::MoveIntoPlace(const Text& finished, const Text
     if (RunErrorNumber([&] { files.Rename(finished, target); }) == ErrorNumber::kNone)
         return;
     try {
-        files.CopyContent(finished, target);
+        CopyAlive(files, ask, finished, target);
     } catch (const RunError&) {
         RunErrorNumber([&] {
             if (files.FileExists(target))

@@ -1,7 +1,9 @@
 #include "builder/one_by_one.h"
 
 #include "builder/compression_setup.h"
+#include "builder/copy_alive.h"
 #include "builder/file_container.h"
+#include "builder/progress_display.h"
 #include "builder/source_address.h"
 #include "filelist/system_files.h"
 #include "helpers/windows_path.h"
@@ -39,8 +41,9 @@ void CopyPlain(CreateRun& run, Layout& layout, const FileListRow& row)
     if (keepsTree && !run.host.files.DirExists(layout.folder))
         MakeFolder(run, layout.folder);
     const Text name = keepsTree ? row[Filename] : MarkedName(row[Filename]);
-    run.host.files.CopyContent(ConvertLongFilenameToShortFilename(run.host.files, row[Source]),
-                               JoinPath(layout.folder, name));
+    CopyAlive(run.host.files, run.ask,
+              ConvertLongFilenameToShortFilename(run.host.files, row[Source]),
+              JoinPath(layout.folder, name));
     run.ask.AddStatusLine("Kopierar '" + row[Filename] + "'");
 }
 
@@ -64,21 +67,39 @@ void CopyCompressed(CreateRun& run, const Layout& layout, const FileListRow& row
     run.ask.AddStatusLine("Kopierar och komprimerar '" + row[Filename] + "'");
 }
 
+bool IsLeftOut(const CreateRun& run, const FileListRow& row)
+{
+    return !row.HasSource() ||
+           IsFileSkippedForTargetOS(row[Filename],
+                                    run.project.OperatingSystem.TargetOperatingSystem);
+}
+
+// A source that has gone is told where its turn comes.
+std::uint64_t SourceSize(const CreateRun& run, const FileListRow& row)
+{
+    std::uint64_t size = 0;
+    RunErrorNumber([&] { size = run.host.files.Facts(row[Source]).size; });
+    return size;
+}
+
 void CopyAllFiles(CreateRun& run, Layout& layout)
 {
     if (run.options.PlaceCompressedFilesInFolderSetupFiles != kOff)
         MakeBaseFolder(run, layout.base);
+    std::uint64_t total = 0;
+    for (const FileListRow& row : run.project.Files.rows)
+        total += IsLeftOut(run, row) ? 0 : SourceSize(run, row);
+    ProgressDisplay progress(run.ask);
+    std::uint64_t done = 0;
     for (const FileListRow& row : run.project.Files.rows) {
-        const bool isLeftOut =
-            !row.HasSource() ||
-            IsFileSkippedForTargetOS(row[Filename],
-                                     run.project.OperatingSystem.TargetOperatingSystem);
-        if (isLeftOut)
+        if (IsLeftOut(run, row))
             continue;
         if (CompressionLevel(run.form) == kStoredLevel)
             CopyPlain(run, layout, row);
         else
             CopyCompressed(run, layout, row);
+        done += SourceSize(run, row);
+        progress.Show(done, total);
     }
 }
 

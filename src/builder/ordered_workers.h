@@ -2,10 +2,12 @@
 // what is made of them does not depend on how many threads there are.
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <cstddef>
 #include <deque>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -53,12 +55,18 @@ public:
 
     bool IsIdle() const { return slots_.empty(); }
 
-    /// Waits for the oldest job that was not handed back yet.
-    Result Next()
+    /// Waits for the oldest job that was not handed back yet, and calls `whileWaiting` from time
+    /// to time if it is not empty.
+    Result Next(const std::function<void()>& whileWaiting = {})
     {
         std::unique_lock lock(mutex_);
         Slot& oldest = *slots_.front();
-        resultCame_.wait(lock, [&] { return oldest.isDone; });
+        while (!resultCame_.wait_for(lock, kBetweenCalls, [&] { return oldest.isDone; })) {
+            lock.unlock();
+            if (whileWaiting)
+                whileWaiting();
+            lock.lock();
+        }
         const std::unique_ptr<Slot> slot = std::move(slots_.front());
         slots_.pop_front();
         if (slot->failure)
@@ -67,6 +75,8 @@ public:
     }
 
 private:
+    static constexpr std::chrono::milliseconds kBetweenCalls{30};
+
     struct Slot {
         explicit Slot(Job itsJob) : job(std::move(itsJob)) {}
 

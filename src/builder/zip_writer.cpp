@@ -65,6 +65,11 @@ private:
         std::unique_ptr<zip::EntryCipher> cipher;
     };
 
+    void Yield() const
+    {
+        if (watch_.onYield)
+            watch_.onYield();
+    }
     void Survey();
     void SubmitSource(std::size_t source);
     void Submit(std::size_t source, const SourceBlock& block);
@@ -124,6 +129,7 @@ void ZipWriting::Survey()
 {
     facts_.reserve(sources_.size());
     for (const ZipSource& source : sources_) {
+        Yield();
         ReadingSource(source.path, [&] { facts_.push_back(files_.Facts(source.path)); });
         if (facts_.back().isFolder)
             throw CompressionFailure(CompressionResult::kNoReadAccess, source.path);
@@ -172,6 +178,7 @@ bool ZipWriting::ShrinksInParts(const Text& path, std::uint64_t size)
         for (std::uint64_t begin = 0; begin < size && saved < enough; begin += kBlockSize) {
             sample.resize(
                 static_cast<std::size_t>(std::min<std::uint64_t>(kSampleSize, size - begin)));
+            Yield();
             file->Seek(begin);
             ReadSource(*file, path, sample);
             const std::size_t packed = sampler_.DeflateIfSmaller(sample).size();
@@ -190,6 +197,7 @@ ZipWriting::Secret ZipWriting::DigestContent(const Text& path, std::uint64_t siz
         const auto file = OpenSource(files_, path, size);
         for (std::uint64_t begin = 0; begin < size; begin += piece.size()) {
             piece.resize(static_cast<std::size_t>(std::min(kMiB, size - begin)));
+            Yield();
             ReadSource(*file, path, piece);
             hmac.Add(piece);
             secret.crc = libdeflate_crc32(secret.crc, piece.data(), piece.size());
@@ -205,7 +213,8 @@ void ZipWriting::WriteOldest()
     const Pending pending = pending_.front();
     pending_.pop_front();
     onTheWay_ -= pending.block.length + kBlockOverhead;
-    PackedBlock packed = workers_.Next();
+    Yield();
+    PackedBlock packed = workers_.Next(watch_.onYield);
     if (pending.block.IsFirst())
         BeginEntry(pending, packed);
     WriteBlock(pending, packed);

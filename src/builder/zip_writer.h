@@ -31,11 +31,13 @@ struct ZipEntryReport {
     std::uint64_t packedSize = 0;
 };
 
-/// What the writer tells while it works, always from the calling thread. Either may be empty.
+/// What the writer tells while it works, always from the calling thread. Each may be empty.
 struct ZipWatch {
     std::function<void(const ZipEntryReport&)> onEntry;
     /// Bytes of the sources that are packed, and of all of them.
     std::function<void(std::uint64_t done, std::uint64_t total)> onProgress;
+    /// Called often, also while a thread is waited for, so that a window stays alive.
+    std::function<void()> onYield;
 };
 
 /// Writes an archive of the sources in their order. Throws `CompressionFailure` where a source
