@@ -1,6 +1,9 @@
 #include "builder/folder_disks.h"
 
+#include "platform/posix/posix_host.h"
 #include "support/memory_host.h"
+#include "support/scripted_ask.h"
+#include "support/temp_folder.h"
 
 namespace quillon {
 namespace {
@@ -78,6 +81,46 @@ TEST_F(FolderDisksTest, NoDiskComesWhereItsFolderCannotBeMade)
 {
     memory.files.refuseFolders = true;
     EXPECT_EQ(disks.NextDisk(2), std::nullopt);
+}
+
+using test::BoxKind;
+using test::ScriptedAsk;
+
+test::ExpectedBox DiskBox(const Text& number, Answer answer = Answer::Yes)
+{
+    return {BoxKind::OkCancel, "Diskett", "Stoppa in diskett nr " + number + "!", answer};
+}
+
+TEST(AskedDisks, AskForTheNextDiskUntilTheDriveHasOne)
+{
+    const test::TempFolder disk;
+    PosixHost system{MachineSettings{.drives = {{'A', disk.Path("floppy")}}, .tempFolder = "/tmp"}};
+    ScriptedAsk ask({DiskBox("2"), DiskBox("2", Answer::Cancel), DiskBox("3")});
+    AskedDisks disks(system.host, ask, "A:\\");
+    EXPECT_EQ(disks.NextDisk(2), std::nullopt) << "the drive was empty, and then came a Cancel";
+    disk.PutFolder("floppy");
+    EXPECT_EQ(disks.NextDisk(3), "A:");
+}
+
+TEST(AskedDisks, AskForTheFirstDiskUntilItIsThere)
+{
+    test::MemoryHost memory;
+    memory.files.PutFolder("A:\\");
+    ScriptedAsk ask({DiskBox("1"), DiskBox("1", Answer::Cancel), DiskBox("1")});
+    AskedDisks disks(memory.host, ask, "A:\\");
+    EXPECT_FALSE(disks.FirstDiskAgain());
+    memory.files.Put("A:\\QNSETUP.INF", "");
+    EXPECT_TRUE(disks.FirstDiskAgain());
+}
+
+TEST(AskedDisks, AskNothingWhereFoldersStandForDisks)
+{
+    test::MemoryHost memory;
+    memory.files.PutFolder("C:\\Ut");
+    ScriptedAsk ask;
+    AskedDisks disks(memory.host, ask, "C:\\Ut");
+    EXPECT_EQ(disks.NextDisk(2), "C:\\Ut\\disk2");
+    EXPECT_TRUE(disks.FirstDiskAgain());
 }
 
 } // namespace

@@ -38,6 +38,30 @@ protected:
     bool isIncomplete = false;
 };
 
+class ProgressAsk : public test::ScriptedAsk {
+public:
+    void ShowProgress(std::uint64_t done, std::uint64_t total) override
+    {
+        steps.emplace_back(done, total);
+    }
+
+    std::vector<std::pair<std::uint64_t, std::uint64_t>> steps;
+};
+
+TEST_F(OneByOne, TellsHowFarItIs)
+{
+    desk.project.Files.rows.clear();
+    desk.AddFile("a.bin", Text(300, 'a'));
+    desk.AddFile("b.bin", Text(100, 'b'));
+    ProgressAsk ask;
+    CompressionInterface compression(desk.machine.host, ask, desk.disks);
+    CreateRun run{desk.project, desk.state,  desk.form, desk.options, desk.machine.host,
+                  ask,          compression, {},        "C:\\Ut"};
+    CopyFilesOneByOne(run);
+    using Steps = std::vector<std::pair<std::uint64_t, std::uint64_t>>;
+    EXPECT_EQ(ask.steps, (Steps{{300, 400}, {400, 400}, {0, 0}}));
+}
+
 } // namespace
 
 TEST_F(OneByOne, MarksTheNamesInAFolderOfTheirOwn)

@@ -227,6 +227,19 @@ TEST_F(ZipWriter, WritesAnEmptyArchive)
     EXPECT_TRUE(OpenArchive(archive).Entries().empty());
 }
 
+// A window has to live through all of it: the look at the sources, the samples of a large one, the
+// reading of it for a password, and the packing.
+TEST_F(ZipWriter, YieldsOftenAlsoInsideALargeSource)
+{
+    Put("C:\\b.txt", Prose(9 * kMiB));
+    for (const auto& [password, least] : {std::pair{"", 6}, std::pair{"hemligt", 15}}) {
+        int yields = 0;
+        CountingOutput output;
+        WriteZip(files, sources, output, {.password = password}, {.onYield = [&] { ++yields; }});
+        EXPECT_GE(yields, least) << password;
+    }
+}
+
 TEST_F(ZipWriter, TellsProgressInBytesOfTheSources)
 {
     Put("C:\\a.txt", Prose(1000));
