@@ -68,6 +68,7 @@ const std::map<int, Action> kActions = {
     {156, [](MainForm& form) { ShowSupport(form.GetSession()); }},
     {158, [](MainForm& form) { ShowAbout(&form); }},
     {205, [](MainForm& form) { AddFilesCommand(form.GetSession(), form); }},
+    {206, [](MainForm& form) { AddTreeCommand(form.GetSession(), form, &form); }},
     {207, [](MainForm& form) { AddEmptyDirectoryCommand(form.GetSession(), form); }},
     {291, OpenRecent<0>},
     {292, OpenRecent<1>},

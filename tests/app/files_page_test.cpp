@@ -435,15 +435,10 @@ TEST_F(FilesPageTest, HasItsPicturesOnLightAndDark)
     OpenThreeRows();
     Select({1});
     SavePicture(*form, "FilesPage");
-    const QPalette light = QApplication::palette();
-    QPalette dark(QColor(45, 45, 48), QColor(45, 45, 48));
-    dark.setColor(QPalette::Base, QColor(30, 30, 30));
-    QApplication::setPalette(dark);
-    SavePicture(*form, "FilesPage_dark");
+    SaveDarkPicture(*form, "FilesPage");
     session.project.Files.rows.clear();
     form->ShowFileList({});
-    SavePicture(*form, "FilesPage_empty_dark");
-    QApplication::setPalette(light);
+    SaveDarkPicture(*form, "FilesPage_empty");
 }
 
 } // namespace

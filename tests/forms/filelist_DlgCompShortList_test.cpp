@@ -31,6 +31,7 @@ TEST_F(DlgCompShortListTest, OffersTheEntriesWithTheFirstChosen)
     ShowActive(form);
     EXPECT_EQ(form.focusWidget(), form.lbCompList);
     SavePicture(form, "DlgCompShortList");
+    SaveDarkPicture(form, "DlgCompShortList");
 }
 
 TEST_F(DlgCompShortListTest, TakesTheChosenEntryByKeysAndEnter)

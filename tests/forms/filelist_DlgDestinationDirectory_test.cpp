@@ -185,6 +185,7 @@ TEST_F(DlgDestinationDirectoryTest, HasItsPicture)
     DlgDestinationDirectory form({Place::User, "%DESTDIR\\Bilder"}, session, nullptr);
     ShowActive(form);
     SavePicture(form, "DlgDestinationDirectory");
+    SaveDarkPicture(form, "DlgDestinationDirectory");
 }
 
 } // namespace

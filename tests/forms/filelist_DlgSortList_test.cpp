@@ -20,6 +20,7 @@ TEST_F(DlgSortListTest, StartsWithTheNameChosen)
             << choice.control;
     ShowActive(form);
     SavePicture(form, "DlgSortList");
+    SaveDarkPicture(form, "DlgSortList");
 }
 
 TEST_F(DlgSortListTest, OffersComponentsOnlyWhereOneIsInUse)

@@ -190,6 +190,17 @@ TEST_F(PosixFilesTest, ListsALinkThatLeadsNowhereSoThatItsLossShows)
     EXPECT_EQ(Failure([&] { files.OpenInput("S:\\link"); }), 53);
 }
 
+TEST_F(PosixFilesTest, TellsThatALinkLeadsToTheSameFolder)
+{
+    disk.Put("data/sub/a.txt", "abc");
+    create_symlink(disk.Path("data"), disk.Path("data/sub/back"));
+    const auto identity = files.Facts("S:\\data").identity;
+    EXPECT_NE(identity, 0U);
+    EXPECT_EQ(files.Facts("S:\\data\\sub\\back").identity, identity);
+    EXPECT_NE(files.Facts("S:\\data\\sub").identity, identity);
+    EXPECT_EQ(files.Facts("S:\\data\\sub\\a.txt").identity, 0U);
+}
+
 TEST_F(PosixFilesTest, ReadsFromAnyPositionAndStopsAtTheEnd)
 {
     disk.Put("a.txt", "0123456789");

@@ -1,10 +1,12 @@
 #include "filelist/forms/list_commands.h"
 
 #include "filelist/add_files_command.h"
+#include "filelist/add_tree_command.h"
 #include "filelist/dropped_files.h"
 #include "filelist/forms/DlgCompShortList.h"
 #include "filelist/forms/DlgDestinationDirectory.h"
 #include "filelist/forms/DlgSortList.h"
+#include "filelist/forms/RecursiveCollect.h"
 #include "filelist/list_maintenance.h"
 
 #include <algorithm>
@@ -41,6 +43,18 @@ void ShowOutcome(MainWindow& window, const std::optional<NewPlaces>& places)
 void AddFilesCommand(Session& session, MainWindow& window)
 {
     ShowOutcome(window, AddFilesCommand(WorkOn(session), session.LastInstallFilesDir));
+}
+
+void AddTreeCommand(Session& session, MainWindow& window, QWidget* parent)
+{
+    const ListWork work = WorkOn(session);
+    const auto tree = ChooseTree(work);
+    if (!tree)
+        return;
+    RecursiveCollect form(work, *tree, parent);
+    form.ShowModal();
+    session.state.ProjectIsDirty = kOn;
+    ShowMoved(window, form.Places());
 }
 
 void AddEmptyDirectoryCommand(Session& session, MainWindow& window)

@@ -9,6 +9,7 @@ class QWidget;
 namespace quillon {
 
 void AddFilesCommand(Session& session, MainWindow& window);
+void AddTreeCommand(Session& session, MainWindow& window, QWidget* parent);
 void AddEmptyDirectoryCommand(Session& session, MainWindow& window);
 void DeleteRowsCommand(Session& session, MainWindow& window);
 void UpdateFileListCommand(Session& session, MainWindow& window);

@@ -1,0 +1,92 @@
+#include "filelist/forms/RecursiveCollect.h"
+
+#include "filelist/add_tree_command.h"
+#include "platform/run_error.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+#include <numeric>
+
+namespace quillon {
+
+namespace {
+
+// A folder of many files must not hold the count still.
+constexpr int kFilesBetweenLooks = 200;
+
+} // namespace
+
+RecursiveCollect::RecursiveCollect(const ListWork& work, const TreeToAdd& tree, QWidget* parent)
+    : Form("RecursiveCollect", "Samlar ihop filer från underkataloger", parent), work_(work),
+      tree_(tree), places_(work.project.Files.rows.size())
+{
+    std::iota(places_.begin(), places_.end(), std::size_t(0));
+    const auto option = [&](QRadioButton*& member, const char* name, TreeForm form) {
+        const Text caption = TreeFormCaption(form, tree.BaseDestination);
+        return Named(member, name, new QRadioButton(ToQt(caption)));
+    };
+    Named(NAMED(sStartDirect), Note(tree.StartDirectory));
+    option(NAMED(oReplaceLevel1InTree), TreeForm::ReplaceStart)->setChecked(true);
+    option(NAMED(oConcatTree), TreeForm::WholePath);
+    Named(NAMED(sSearchStatus), new QLabel);
+    Named(NAMED(sNumberFiles), new QLabel("0"));
+    Button(NAMED(cmdStart), "Addera &filer", [this] { Start(); });
+    Button(NAMED(cmdClose), "&Stäng", [this] { reject(); });
+    cmdStart->setDefault(true);
+    Arrange(Down({
+        Note("Välj hur katalogträdet ska läggas in i fillistan och tryck sedan på Addera filer."),
+        Frame("Startkatalog", {sStartDirect}),
+        Frame("Destination", {oReplaceLevel1InTree, oConcatTree}),
+        Across({sSearchStatus, Stretch(), new QLabel("Antal filer:"), sNumberFiles}),
+        Stretch(),
+        Across({Stretch(), cmdStart, cmdClose}),
+    }));
+    oReplaceLevel1InTree->setFocus();
+}
+
+void RecursiveCollect::Start()
+{
+    FileList& files = work_.project.Files;
+    tree_.CheckDuplicates = !files.rows.empty();
+    tree_.form = oConcatTree->isChecked() ? TreeForm::WholePath : TreeForm::ReplaceStart;
+    seen_ = 0;
+    sNumberFiles->setText("0");
+    sSearchStatus->setText("Söker...");
+    cmdStart->setEnabled(false); // the events of a running walk must not begin another one
+    FileAdding adding(files, work_.host, work_.ask);
+    Collect(adding);
+    const NewPlaces moved = adding.Finish();
+    for (std::size_t& place : places_)
+        place = moved[place];
+    sNumberFiles->setText(QString::number(seen_));
+    cmdStart->setEnabled(true);
+}
+
+void RecursiveCollect::Collect(FileAdding& adding)
+{
+    try {
+        AddTree(adding, work_.host.files, tree_,
+                {.enteredFolder = [this] { LetWindowLive(); }, .sawFile = [this] { CountFile(); }});
+        sSearchStatus->setText("Klar!");
+    } catch (const RunError&) {
+        sSearchStatus->setText("Fel inträffade!");
+    }
+}
+
+void RecursiveCollect::CountFile()
+{
+    ++seen_;
+    if (seen_ % kFilesBetweenLooks == 0)
+        LetWindowLive();
+}
+
+void RecursiveCollect::LetWindowLive()
+{
+    sNumberFiles->setText(QString::number(seen_));
+    // Closing does not stop the walk, but without this window in front the user could reach the
+    // list that is being filled.
+    if (isVisible())
+        work_.ask.YieldToEvents();
+}
+
+} // namespace quillon

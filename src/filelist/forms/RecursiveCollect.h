@@ -1,0 +1,40 @@
+// The collection of files from a folder tree: how the tree maps to destinations, the walk, and its
+// count.
+#pragma once
+
+#include "filelist/list_work.h"
+#include "filelist/tree_walk.h"
+#include "ui/Form.h"
+
+class QLabel;
+
+namespace quillon {
+
+class RecursiveCollect : public Form {
+public:
+    RecursiveCollect(const ListWork& work, const TreeToAdd& tree, QWidget* parent);
+
+    /// Where the rows from before stand now.
+    const NewPlaces& Places() const { return places_; }
+
+    QLabel* sStartDirect = nullptr;
+    QRadioButton* oReplaceLevel1InTree = nullptr;
+    QRadioButton* oConcatTree = nullptr;
+    QLabel* sSearchStatus = nullptr;
+    QLabel* sNumberFiles = nullptr;
+    QPushButton* cmdStart = nullptr;
+    QPushButton* cmdClose = nullptr;
+
+private:
+    void Start();
+    void Collect(FileAdding& adding);
+    void CountFile();
+    void LetWindowLive();
+
+    const ListWork work_;
+    TreeToAdd tree_;
+    NewPlaces places_;
+    int seen_ = 0;
+};
+
+} // namespace quillon
