@@ -29,6 +29,7 @@ endfunction()
 quillon_forms(filelist)
 quillon_forms(actions)
 quillon_forms(design)
+quillon_forms(importers)
 quillon_forms(builder)
 quillon_forms(shell)
 

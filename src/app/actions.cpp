@@ -4,6 +4,7 @@
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
 #include "filelist/forms/list_commands.h"
+#include "importers/forms/DlgCompareLstFile.h"
 #include "shell/forms/DlgAbout.h"
 #include "shell/forms/DlgEditorOptions.h"
 #include "shell/forms/DlgVersionInfo.h"
@@ -52,6 +53,7 @@ const std::map<int, Action> kActions = {
     {114, [](MainForm& form) { DeleteRowsCommand(form.GetSession(), form); }},
     {115, [](MainForm& form) { SortListCommand(form.GetSession(), form, &form); }},
     {124, [](MainForm& form) { UpdateFileListCommand(form.GetSession(), form); }},
+    {113, [](MainForm& form) { ShowCompareLstFile(form.GetSession(), &form); }},
     {136, CopyText},
     {137, PasteText},
     {145, [](MainForm& form) { ShowVersionInfo(form.GetSession(), &form); }},
