@@ -5,6 +5,7 @@
 #include "builder/forms/DlgCreate.h"
 #include "filelist/forms/list_commands.h"
 #include "importers/forms/DlgCompareLstFile.h"
+#include "importers/forms/dep_command.h"
 #include "shell/forms/DlgAbout.h"
 #include "shell/forms/DlgEditorOptions.h"
 #include "shell/forms/DlgVersionInfo.h"
@@ -50,10 +51,10 @@ const std::map<int, Action> kActions = {
     {107, ImportIniFile},
     {108, Create},
     {112, [](MainForm& form) { form.close(); }},
+    {113, [](MainForm& form) { ShowCompareLstFile(form.GetSession(), &form); }},
     {114, [](MainForm& form) { DeleteRowsCommand(form.GetSession(), form); }},
     {115, [](MainForm& form) { SortListCommand(form.GetSession(), form, &form); }},
     {124, [](MainForm& form) { UpdateFileListCommand(form.GetSession(), form); }},
-    {113, [](MainForm& form) { ShowCompareLstFile(form.GetSession(), &form); }},
     {136, CopyText},
     {137, PasteText},
     {145, [](MainForm& form) { ShowVersionInfo(form.GetSession(), &form); }},
@@ -72,6 +73,7 @@ const std::map<int, Action> kActions = {
     {205, [](MainForm& form) { AddFilesCommand(form.GetSession(), form); }},
     {206, [](MainForm& form) { AddTreeCommand(form.GetSession(), form, &form); }},
     {207, [](MainForm& form) { AddEmptyDirectoryCommand(form.GetSession(), form); }},
+    {208, [](MainForm& form) { AddDepFileCommand(form.GetSession(), form); }},
     {291, OpenRecent<0>},
     {292, OpenRecent<1>},
     {293, OpenRecent<2>},

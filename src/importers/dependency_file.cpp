@@ -23,14 +23,6 @@ Text UsedFile(const ProfileReader& reader, int number)
     return reader.ReadIniString("Uses" + NumberText(number), kValueLimit);
 }
 
-// Not by the tool's own path functions, which cut long paths. A drive's root gives the drive alone,
-// so that a name can be joined to it like to any other folder.
-Text FolderOf(const Text& path)
-{
-    const std::size_t last = path.rfind('\\');
-    return last == Text::npos ? Text() : path.substr(0, last);
-}
-
 Text NameOf(const Text& path)
 {
     return path.substr(path.rfind('\\') + 1);
@@ -42,6 +34,13 @@ bool HasPoint(const Text& path)
 }
 
 } // namespace
+
+Text FolderForNames(const Text& path)
+{
+    // The tool's own function cuts long paths, and these must stay whole.
+    const std::size_t last = path.rfind('\\');
+    return last == Text::npos ? Text() : path.substr(0, last);
+}
 
 Text ResolveDepPath(std::string_view value, std::string_view baseFolder)
 {
@@ -88,7 +87,7 @@ void DependencyFiles::AddWithSecondLevel(const DepSection& section)
         const Text path = ResolveDepPath(value, section.BaseFolder);
         AddFilesToFileListViaDepFile({.DepFile = ChangeFilenameExt(path, "DEP"),
                                       .SectionName = NameOf(path),
-                                      .BaseFolder = FolderOf(path),
+                                      .BaseFolder = FolderForNames(path),
                                       .Destination = section.Destination});
     }
 }

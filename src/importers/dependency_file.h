@@ -18,6 +18,10 @@ namespace quillon {
 /// the first is worked out. Empty where ".." leads out of a folder that has no parent.
 Text ResolveDepPath(std::string_view value, std::string_view baseFolder);
 
+/// The folder of a component, in the form that `ResolveDepPath` takes: that of a file in a drive's
+/// root is the drive alone.
+Text FolderForNames(const Text& path);
+
 /// The place in a dependency file that names a component's files.
 struct DepSection {
     Text DepFile;

@@ -8,8 +8,7 @@
 #include "filelist/forms/DlgSortList.h"
 #include "filelist/forms/RecursiveCollect.h"
 #include "filelist/list_maintenance.h"
-
-#include <algorithm>
+#include "shell/moved_rows.h"
 
 namespace quillon {
 
@@ -20,20 +19,10 @@ ListWork WorkOn(Session& session)
     return {session.project, session.state, session.host, session.ask};
 }
 
-/// Shows the rows again, those selected that were before.
-void ShowMoved(MainWindow& window, const NewPlaces& places)
-{
-    std::vector<std::size_t> selected;
-    for (const std::size_t row : window.SelectedRows())
-        selected.push_back(places[row]);
-    std::ranges::sort(selected);
-    window.ShowFileList(selected);
-}
-
 void ShowOutcome(MainWindow& window, const std::optional<NewPlaces>& places)
 {
     if (places)
-        ShowMoved(window, *places);
+        ShowMovedRows(window, *places);
     else
         window.UpdateStatusBar();
 }
@@ -71,19 +60,19 @@ void DeleteRowsCommand(Session& session, MainWindow& window)
 void UpdateFileListCommand(Session& session, MainWindow& window)
 {
     UpdateFileListCommand(WorkOn(session),
-                          [&](const NewPlaces& places) { ShowMoved(window, places); });
+                          [&](const NewPlaces& places) { ShowMovedRows(window, places); });
 }
 
 void SortListCommand(Session& session, MainWindow& window, QWidget* parent)
 {
     DlgSortList form(session.project, parent);
     if (form.ShowModal())
-        ShowMoved(window, SortRowsBy(session.project.Files, form.Key));
+        ShowMovedRows(window, SortRowsBy(session.project.Files, form.Key));
 }
 
 void ClickColumn(Session& session, MainWindow& window, const Text& header)
 {
-    ShowMoved(window, HandleColumnClick(session.project.Files, header));
+    ShowMovedRows(window, HandleColumnClick(session.project.Files, header));
 }
 
 void AddDropped(Session& session, MainWindow& window, const std::vector<Text>& paths,

@@ -1,0 +1,17 @@
+#include "importers/forms/dep_command.h"
+
+#include "importers/add_dep_file.h"
+#include "shell/moved_rows.h"
+
+namespace quillon {
+
+void AddDepFileCommand(Session& session, MainWindow& window)
+{
+    const auto places =
+        AddDepFileCommand(ListWork{session.project, session.state, session.host, session.ask},
+                          session.LastDepFileDir);
+    if (places)
+        ShowMovedRows(window, *places);
+}
+
+} // namespace quillon

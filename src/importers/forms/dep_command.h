@@ -1,0 +1,11 @@
+// The command for dependency files as the window runs it: on the session, shown in the window.
+#pragma once
+
+#include "shell/main_window.h"
+#include "shell/session.h"
+
+namespace quillon {
+
+void AddDepFileCommand(Session& session, MainWindow& window);
+
+} // namespace quillon
