@@ -43,7 +43,7 @@ void AddTreeCommand(Session& session, MainWindow& window, QWidget* parent)
     RecursiveCollect form(work, *tree, parent);
     form.ShowModal();
     session.state.ProjectIsDirty = kOn;
-    ShowMoved(window, form.Places());
+    ShowMovedRows(window, form.Places());
 }
 
 void AddEmptyDirectoryCommand(Session& session, MainWindow& window)
