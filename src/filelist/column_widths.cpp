@@ -49,7 +49,8 @@ Text ColumnWidthsText(const ColumnWidths& widths)
 {
     Text text;
     for (const auto& [column, width] : widths)
-        text += (text.empty() ? "" : " ") + NumberText(column) + ":" + NumberText(width);
+        text += (text.empty() ? "" : " ") + NumberText(static_cast<std::int64_t>(column)) + ":" +
+                NumberText(width);
     return text;
 }
 
