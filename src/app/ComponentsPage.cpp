@@ -1,6 +1,7 @@
 #include "app/ComponentsPage.h"
 
 #include "app/in_place.h"
+#include "filelist/forms/DlgCompMoreData.h"
 #include "project/dialog_keys.h"
 
 #include <QtWidgets>
@@ -40,7 +41,8 @@ void ComponentsPage::MakeRow(std::size_t component, QGridLayout& grid)
     EditInPlace(row.tCompDir, name("tCompDir").c_str(), session_, stored.CompDir,
                 LongestText(section::kFileComponent, &section::FileComponent::CompDir));
     row.tCompDir->setAccessibleName(QString::fromStdString("Katalog för komponent nr " + number));
-    Button(row.cmdCompData, name("cmdCompData").c_str(), "Mer...");
+    Button(row.cmdCompData, name("cmdCompData").c_str(), "Mer...",
+           [this, component] { ShowCompMoreData(session_, component, this); });
     row.cmdCompData->setAccessibleName(
         QString::fromStdString("Mer inställningar för komponent nr " + number));
 
@@ -74,8 +76,8 @@ void ComponentsPage::ShowEnabled(std::size_t component)
 {
     const Row& row = rows_[component];
     const bool inUse = session_.project.FileComponents[component].Comp != 0;
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{row.tCompName, row.sCompDir, row.tCompDir})
+    QWidget* const controls[] = {row.tCompName, row.sCompDir, row.tCompDir, row.cmdCompData};
+    for (QWidget* control : controls)
         control->setEnabled(inUse);
 }
 

@@ -4,6 +4,7 @@
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
 #include "filelist/forms/list_commands.h"
+#include "filelist/forms/row_commands.h"
 #include "importers/forms/DlgCompareLstFile.h"
 #include "importers/forms/dep_command.h"
 #include "shell/forms/DlgAbout.h"
@@ -54,6 +55,8 @@ const std::map<int, Action> kActions = {
     {113, [](MainForm& form) { ShowCompareLstFile(form.GetSession(), &form); }},
     {114, [](MainForm& form) { DeleteRowsCommand(form.GetSession(), form); }},
     {115, [](MainForm& form) { SortListCommand(form.GetSession(), form, &form); }},
+    {120, [](MainForm& form) { ChangeDestinationCommand(form.GetSession(), form); }},
+    {121, [](MainForm& form) { ShowDestinationDirectoriesCommand(form.GetSession(), &form); }},
     {124, [](MainForm& form) { UpdateFileListCommand(form.GetSession(), form); }},
     {136, CopyText},
     {137, PasteText},
@@ -74,6 +77,9 @@ const std::map<int, Action> kActions = {
     {206, [](MainForm& form) { AddTreeCommand(form.GetSession(), form, &form); }},
     {207, [](MainForm& form) { AddEmptyDirectoryCommand(form.GetSession(), form); }},
     {208, [](MainForm& form) { AddDepFileCommand(form.GetSession(), form); }},
+    {209, [](MainForm& form) { FindReplaceDestinationCommand(form.GetSession(), form, &form); }},
+    {210, [](MainForm& form) { FindReplaceSourceCommand(form.GetSession(), form, &form); }},
+    {211, [](MainForm& form) { FindReplaceOptionsCommand(form.GetSession(), form, &form); }},
     {291, OpenRecent<0>},
     {292, OpenRecent<1>},
     {293, OpenRecent<2>},

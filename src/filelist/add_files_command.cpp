@@ -44,14 +44,16 @@ void AddManyFiles(FileAdding& adding, const std::vector<Text>& paths, const AddT
 
 } // namespace
 
-std::optional<NewPlaces> AddFilesCommand(const ListWork& work, Text& lastAddFilesDirectory)
+std::optional<NewPlaces> AddFilesCommand(const ListWork& work, Text& lastAddFilesDirectory,
+                                         FileQuestion::Look look)
 {
     FileList& files = work.project.Files;
     const std::size_t rowsBefore = files.rows.size();
     const std::vector<Text> paths = work.ask.OpenFiles({.title = "Addera filer",
                                                         .folder = lastAddFilesDirectory,
                                                         .fileName = "*.*",
-                                                        .filter = kFilter});
+                                                        .filter = kFilter,
+                                                        .look = look});
     if (paths.empty())
         return std::nullopt;
     const std::optional<AddTarget> target = ChooseAddTarget(work, paths);

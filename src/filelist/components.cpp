@@ -34,4 +34,16 @@ Text GetCompNrFromListEntry(std::string_view entry)
     return digit >= '1' && digit <= '9' ? Text(1, digit) : Text();
 }
 
+Text UsableComponentNumber(const Text& typed, const Project& project, char decimalSign)
+{
+    const double value = FloatingNumber(typed, decimalSign).value_or(0);
+    if (!(value > 0 && value < 10))
+        return {};
+    const std::int64_t number = RoundToEven(value);
+    if (number < 1 || number > static_cast<std::int64_t>(kComponentCount))
+        return {};
+    const bool isInUse = project.FileComponents[static_cast<std::size_t>(number) - 1].Comp != 0;
+    return isInUse ? NumberText(number) : Text();
+}
+
 } // namespace quillon

@@ -1,4 +1,4 @@
-// The choice of a component for new files, by the entries of the list that offers it.
+// The choice of a component for files: by the entries of the list that offers it, or by its number.
 #pragma once
 
 #include "project/records.h"
@@ -16,5 +16,8 @@ Text GetCompDirFromListEntry(std::string_view entry);
 
 /// "1" to "9", or an empty text.
 Text GetCompNrFromListEntry(std::string_view entry);
+
+/// What a typed number is worth: "1" to "9" for a component in use, else an empty text.
+Text UsableComponentNumber(const Text& typed, const Project& project, char decimalSign);
 
 } // namespace quillon

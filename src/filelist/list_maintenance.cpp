@@ -111,4 +111,37 @@ bool DeleteRowsCommand(const ListWork& work, std::span<const std::size_t> select
     return true;
 }
 
+std::optional<NewPlaces> ChangeDestinationCommand(const ListWork& work,
+                                                  std::span<const std::size_t> selectedRows)
+{
+    FileList& files = work.project.Files;
+    if (selectedRows.empty())
+        return std::nullopt;
+    const Text proposed =
+        selectedRows.size() == 1 ? files.rows[selectedRows.front()][Destination] : "%DESTDIR";
+    const auto destination =
+        work.ask.ChooseDestination({DestinationQuestion::Place::User, proposed});
+    if (!destination)
+        return std::nullopt;
+    for (const std::size_t number : selectedRows)
+        files.rows[number][Destination] = *destination;
+    work.state.ProjectIsDirty = kOn;
+    return SortRows(files);
+}
+
+std::vector<Text> DestinationsOf(const FileList& files)
+{
+    // Looking at them must not change the order of the list, so they are sorted beside it.
+    FileList byDestination;
+    for (const FileListRow& row : files.rows)
+        if (!row[Destination].empty())
+            byDestination.rows.emplace_back()[Destination] = row[Destination];
+    SortRowsBy(byDestination, Destination);
+    std::vector<Text> destinations;
+    for (const FileListRow& row : byDestination.rows)
+        if (destinations.empty() || destinations.back() != row[Destination])
+            destinations.push_back(row[Destination]);
+    return destinations;
+}
+
 } // namespace quillon

@@ -1,5 +1,5 @@
-// The commands that keep the rows of the file list true: refresh, delete, a row for an empty
-// folder.
+// The commands that keep the rows of the file list true: refresh, delete, another destination, a
+// row for an empty folder.
 #pragma once
 
 #include "filelist/list_work.h"
@@ -21,5 +21,12 @@ void UpdateFileListCommand(const ListWork& work, const std::function<void(const 
 
 /// Takes the selected rows (rising numbers) out, if the user says so; true when they are gone.
 bool DeleteRowsCommand(const ListWork& work, std::span<const std::size_t> selectedRows);
+
+/// Asks for the destination of the selected rows. Nothing where the list is as it was.
+std::optional<NewPlaces> ChangeDestinationCommand(const ListWork& work,
+                                                  std::span<const std::size_t> selectedRows);
+
+/// All destinations of the rows, in their order.
+std::vector<Text> DestinationsOf(const FileList& files);
 
 } // namespace quillon

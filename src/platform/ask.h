@@ -21,6 +21,9 @@ struct FileQuestion {
     // Captions and their patterns by turns: "Projektfiler (*.qnp)|*.qnp|Alla filer (*.*)|*.*".
     Text filter;
     Text defaultExtension; // ".qnp", for a typed name that has none
+    // Files with size and date, or as in older dialogs their names alone, in columns.
+    enum class Look { Details, NamesOnly };
+    Look look = Look::Details;
 };
 
 /// What the choice of a destination is opened with.

@@ -59,7 +59,8 @@ FileDialog::FileDialog(const FileQuestion& question, const HostPaths& paths, QWi
     setOption(QFileDialog::DontUseNativeDialog);
     setIconProvider(&pictures_);
     setProxyModel(new SwedishColumns(this));
-    setViewMode(QFileDialog::Detail);
+    setViewMode(question.look == FileQuestion::Look::Details ? QFileDialog::Detail
+                                                             : QFileDialog::List);
     setWindowTitle(ToQt(question.title));
     setNameFilters(NameFilters(question.filter));
     OpenFolder(question.folder);

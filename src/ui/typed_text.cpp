@@ -88,6 +88,53 @@ private:
     int added_ = 0;
 };
 
+// Looks at what was just put in alone, as `AreaLimit` does.
+class OneLine : public QObject {
+public:
+    explicit OneLine(QPlainTextEdit* area) : QObject(area), area_(area)
+    {
+        area->installEventFilter(this);
+        connect(area->document(), &QTextDocument::contentsChange, this,
+                [this](int position, int, int added) {
+                    position_ = position;
+                    added_ = added;
+                });
+        connect(area, &QPlainTextEdit::textChanged, this, [this] { TakeBreaksOut(); });
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
+            return false;
+        // A key that is ignored goes on to the form; with Ctrl or Shift it ends here.
+        const bool isPlain = !(key->modifiers() & ~Qt::KeypadModifier);
+        event->setAccepted(!isPlain);
+        return true;
+    }
+
+private:
+    void TakeBreaksOut()
+    {
+        const int end =
+            std::min(position_ + std::exchange(added_, 0), area_->document()->characterCount() - 1);
+        if (end <= position_)
+            return;
+        QTextCursor cursor(area_->document());
+        cursor.setPosition(position_);
+        cursor.setPosition(end, QTextCursor::KeepAnchor);
+        QString added = WithLineFeeds(cursor.selectedText());
+        if (added.contains('\n'))
+            cursor.insertText(added.replace('\n', ' '));
+    }
+
+    QPlainTextEdit* area_;
+    int position_ = 0;
+    int added_ = 0;
+};
+
 class LeaveWatch : public QObject {
 public:
     LeaveWatch(QWidget* widget, std::function<void()> leave)
@@ -137,6 +184,11 @@ void LimitTyping(QLineEdit* field, int longest)
 void LimitTyping(QPlainTextEdit* field, int longest)
 {
     new AreaLimit(field, longest);
+}
+
+void KeepOneLine(QPlainTextEdit* area)
+{
+    new OneLine(area);
 }
 
 QString TypedText(const QPlainTextEdit* area)

@@ -31,7 +31,9 @@ void ShowOutcome(MainWindow& window, const std::optional<NewPlaces>& places)
 
 void AddFilesCommand(Session& session, MainWindow& window)
 {
-    ShowOutcome(window, AddFilesCommand(WorkOn(session), session.LastInstallFilesDir));
+    const bool oldStyle = session.Settings.ListOptions.OldStyleAddDialogBox != kOff;
+    const auto look = oldStyle ? FileQuestion::Look::NamesOnly : FileQuestion::Look::Details;
+    ShowOutcome(window, AddFilesCommand(WorkOn(session), session.LastInstallFilesDir, look));
 }
 
 void AddTreeCommand(Session& session, MainWindow& window, QWidget* parent)

@@ -1,0 +1,22 @@
+// The path that a row's file is taken from.
+#pragma once
+
+#include "ui/Form.h"
+
+namespace quillon {
+
+class DlgChangeSrcPath : public EditorForm {
+public:
+    DlgChangeSrcPath(const Text& source, Session& session, QWidget* parent);
+
+    // After OK.
+    Text Source;
+    bool Accepted() const { return OK; }
+
+    QLineEdit* tFileSrcDir = nullptr;
+
+protected:
+    bool MayClose() override;
+};
+
+} // namespace quillon

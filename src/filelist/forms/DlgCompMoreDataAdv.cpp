@@ -1,0 +1,48 @@
+#include "filelist/forms/DlgCompMoreDataAdv.h"
+
+#include "project/dialog_keys.h"
+#include "ui/typed_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+using section::FileComponent;
+
+int Longest(Text FileComponent::*field)
+{
+    return LongestText(section::kFileComponent, field);
+}
+
+} // namespace
+
+DlgCompMoreDataAdv::DlgCompMoreDataAdv(FileComponent& component, Session& session, QWidget* parent)
+    : EditorForm("DlgCompMoreDataAdv", "Komponent - avancerade inställningar", session, parent)
+{
+    Check01(NAMED(cOnlyUpdate),
+            "&Denna komponent får endast installeras om en tidigare version redan finns "
+            "installerad",
+            component.CompAdvOnlyUpdate);
+    Field(NAMED(tUpdateReferenceFile), component.CompAdvUpdateRefFile,
+          Longest(&FileComponent::CompAdvUpdateRefFile));
+    Field(NAMED(tUpdateInfoBoxTitle), component.CompAdvUpdateInfoBoxTitle,
+          Longest(&FileComponent::CompAdvUpdateInfoBoxTitle));
+    Area(NAMED(tUpdateInfoBoxText), component.CompAdvUpdateInfoBoxText,
+         Longest(&FileComponent::CompAdvUpdateInfoBoxText));
+    KeepOneLine(tUpdateInfoBoxText);
+    Arrange(Down({
+        Frame("Uppdatering av komponent",
+              {
+                  cOnlyUpdate,
+                  Fields({{"&Referensfil:", tUpdateReferenceFile}}),
+                  Note("Om inte komponenten är installerad sen tidigare ska följande text visas i "
+                       "en informationsruta:"),
+                  Fields({{"&Titel:", tUpdateInfoBoxTitle}, {"Te&xt:", tUpdateInfoBoxText}}),
+              }),
+        OkCancel(),
+    }));
+}
+
+} // namespace quillon

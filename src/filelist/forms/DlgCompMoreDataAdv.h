@@ -1,0 +1,22 @@
+// When a component is installed over an earlier version only, and what is told otherwise.
+#pragma once
+
+#include "project/records.h"
+#include "ui/Form.h"
+
+namespace quillon {
+
+class DlgCompMoreDataAdv : public EditorForm {
+public:
+    /// OK stores in `component`, which may be a copy of the project's.
+    DlgCompMoreDataAdv(section::FileComponent& component, Session& session, QWidget* parent);
+
+    bool Accepted() const { return OK; }
+
+    QCheckBox* cOnlyUpdate = nullptr;
+    QLineEdit* tUpdateReferenceFile = nullptr;
+    QLineEdit* tUpdateInfoBoxTitle = nullptr;
+    QPlainTextEdit* tUpdateInfoBoxText = nullptr;
+};
+
+} // namespace quillon
