@@ -26,6 +26,7 @@ protected:
         EXPECT_EQ(Of<QLineEdit>("tCompName", number).isEnabled(), inUse) << number;
         EXPECT_EQ(Of<QLabel>("sCompDir", number).isEnabled(), inUse) << number;
         EXPECT_EQ(Of<QLineEdit>("tCompDir", number).isEnabled(), inUse) << number;
+        EXPECT_EQ(Of<QPushButton>("cmdCompData", number).isEnabled(), inUse) << number;
     }
 
     int columnsShown = 0;
@@ -88,6 +89,25 @@ TEST_F(ComponentsPageTest, WritesEachTypedChangeToTheProject)
     Type(page, "tCompDir9", "D:\\Nio");
     EXPECT_EQ(components[8].CompDir, "D:\\Nio");
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(ComponentsPageTest, OpensTheFurtherSettingsOfEachComponent)
+{
+    for (int number = 1; number <= 9; ++number) {
+        Click(page, ("cComp" + std::to_string(number)).c_str());
+        Type(page, ("tCompName" + std::to_string(number)).c_str(), "Del");
+        session.state.ProjectIsDirty = kOff;
+        OnNextDialog([&](QDialog& form) {
+            EXPECT_EQ(form.objectName(), "DlgCompMoreData");
+            EXPECT_EQ(FromQt(Find<QLabel>(form, "sComponent").text()),
+                      "Del   (# " + std::to_string(number) + ")");
+            Click(form, "cCanChangeDestDir");
+            Click(form, "cmdOK");
+        });
+        Click(page, ("cmdCompData" + std::to_string(number)).c_str());
+        EXPECT_EQ(components[static_cast<std::size_t>(number - 1)].CompCanChangeDir, 1);
+        EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    }
 }
 
 TEST_F(ComponentsPageTest, TakesNoMoreThanTheProjectFileHolds)

@@ -4,6 +4,7 @@
 #include "app/MainForm.h"
 
 #include "filelist/list_builder.h"
+#include "shell/settings_file.h"
 #include "support/window_test.h"
 
 #include <gmock/gmock.h>
@@ -210,6 +211,27 @@ TEST_F(FilesPageTest, KeepsTheWidthsThatTheUserSets)
     EXPECT_EQ(session.Settings.WindowPlace.ColumnWidths, "0:180 1:240 9:333");
 }
 
+TEST_F(FilesPageTest, FindsTheWidthsAgainTheNextTimeItStarts)
+{
+    OpenThreeRows();
+    const double scale = list->logicalDpiX() / 96.0;
+    list->header()->resizeSection(Filename, static_cast<int>(222 * scale));
+    list->header()->resizeSection(Destination, static_cast<int>(311 * scale));
+    const int usualSize = list->columnWidth(Size);
+    ASSERT_TRUE(form->close());
+    form.reset();
+
+    Session next = NewSession(machine.host, ask, "C:\\Quillon");
+    ReadDataFromIniFile(next);
+    MainForm window(next);
+    window.resize(1000, 600);
+    ShowActive(window);
+    auto& shown = Find<FileListView>(window, "ListViewFiles");
+    EXPECT_NEAR(shown.columnWidth(Filename), 222 * scale, 1);
+    EXPECT_NEAR(shown.columnWidth(Destination), 311 * scale, 1);
+    EXPECT_EQ(shown.columnWidth(Size), usualSize);
+}
+
 TEST_F(FilesPageTest, SortsByAClickOnEachHeader)
 {
     OpenThreeRows();
@@ -346,6 +368,47 @@ TEST_F(FilesPageTest, TellsOfNoRowsWhenTheFileDialogIsCancelled)
     ask.choices = {{}};
     form->RunCommand(205);
     EXPECT_EQ(StatusText(), "0 objekt,   0,0 kb");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(FilesPageTest, AddsFilesFromTheDialogWithTheLookOfTheSettings)
+{
+    OpenWindow({});
+    ask.choices = {{}, {}};
+    form->RunCommand(205);
+    session.Settings.ListOptions.OldStyleAddDialogBox = kOn;
+    form->RunCommand(205);
+    EXPECT_EQ(ask.questions[0].look, FileQuestion::Look::Details);
+    EXPECT_EQ(ask.questions[1].look, FileQuestion::Look::NamesOnly);
+}
+
+TEST_F(FilesPageTest, AddsATreeByItsCommand)
+{
+    OpenThreeRows();
+    machine.files.Put("C:\\Data\\App\\prog.exe", std::string(1024, 'x'));
+    machine.files.Put("C:\\Data\\App\\Sub\\aa.txt", std::string(1024, 'x'));
+    ask.choices = {{{"C:\\Data\\App"}}};
+    Select({1});
+    OnNextDialog([](QDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), "RecursiveCollect");
+        Click(dialog, "cmdStart");
+        EXPECT_EQ(Find<QLabel>(dialog, "sNumberFiles").text(), "2");
+        Click(dialog, "cmdClose");
+    });
+    form->RunCommand(206);
+    EXPECT_THAT(ShownNames(), ElementsAre("a.txt", "aa.txt", "b.txt", "c.txt", "prog.exe"));
+    EXPECT_EQ(session.project.Files.rows[1][Destination], "%DESTDIR\\Sub");
+    EXPECT_THAT(form->SelectedRows(), ElementsAre(2)) << "the same row as before";
+    EXPECT_EQ(StatusText(), "5 objekt,   6,0 kb");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(FilesPageTest, AddsNoTreeWhenNoFolderIsChosen)
+{
+    OpenThreeRows();
+    ask.choices = {{}};
+    form->RunCommand(206);
+    EXPECT_EQ(ShownNames().size(), 3U);
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
 

@@ -45,4 +45,17 @@ TEST(ListEntry, GivesTheMainFolderForAnyOtherText)
     }
 }
 
+TEST(ComponentNumber, CountsWhileItsComponentIsInUse)
+{
+    Project project;
+    project.FileComponents[1].Comp = 1;
+    project.FileComponents[8].Comp = kOn;
+    const std::pair<Text, Text> cases[] = {
+        {"2", "2"},  {"9", "9"},  {"02", "2"}, {" 2 ", "2"},  {"+2", "2"}, {"2,4", "2"}, {"1", ""},
+        {"5", ""},   {"0", ""},   {"10", ""},  {"-2", ""},    {"", ""},    {"två", ""},  {"2x", ""},
+        {"0,4", ""}, {"9,6", ""}, {"22", ""},  {"99999", ""}, {"2.4", ""}};
+    for (const auto& [typed, number] : cases)
+        EXPECT_EQ(UsableComponentNumber(typed, project, ','), number) << typed;
+}
+
 } // namespace quillon::test

@@ -232,4 +232,71 @@ TEST_F(DeleteRows, LeavesTheRowsOnNo)
     EXPECT_EQ(state.ProjectIsDirty, kOff);
 }
 
+TEST_F(ListMaintenance, GivesSelectedRowsAnotherDestination)
+{
+    Rows() = {MakeRow("a", "%DESTDIR"), MakeRow("<Dir>", "%WINDIR"), MakeRow("c", "%SYSDIR")};
+    ScriptedAsk ask;
+    ask.choices = {{{"%FONTDIR"}}};
+    EXPECT_THAT(*ChangeDestinationCommand(Work(ask), std::vector<std::size_t>{0, 1}),
+                ElementsAre(1, 0, 2))
+        << "the names rule the order, and \"<\" stands before letters";
+    EXPECT_EQ(ask.questions[0].folder, "%DESTDIR");
+    EXPECT_EQ(ask.questions[0].filter, "oUserDirectory");
+    EXPECT_EQ(Rows()[0][Destination], "%FONTDIR");
+    EXPECT_EQ(Rows()[1][Destination], "%FONTDIR");
+    EXPECT_EQ(Rows()[2][Destination], "%SYSDIR");
+    EXPECT_EQ(state.ProjectIsDirty, kOn);
+}
+
+TEST_F(ListMaintenance, ProposesTheDestinationOfASingleRow)
+{
+    Rows() = {MakeRow("a", "%DESTDIR"), MakeRow("b", "%SYSDIR\\Sub")};
+    ScriptedAsk ask;
+    ask.choices = {{}};
+    EXPECT_FALSE(ChangeDestinationCommand(Work(ask), std::vector<std::size_t>{1}));
+    EXPECT_EQ(ask.questions[0].folder, "%SYSDIR\\Sub");
+    EXPECT_EQ(Rows()[1][Destination], "%SYSDIR\\Sub");
+    EXPECT_EQ(state.ProjectIsDirty, kOff);
+}
+
+TEST_F(ListMaintenance, PutsRowsWhereTheirNewDestinationBelongs)
+{
+    Rows() = {MakeRow("x", "%A"), MakeRow("y", "%B"), MakeRow("z", "%C")};
+    project.Files.sortKey = Destination;
+    ScriptedAsk ask;
+    ask.choices = {{{"%D"}}};
+    EXPECT_THAT(*ChangeDestinationCommand(Work(ask), std::vector<std::size_t>{0}),
+                ElementsAre(2, 0, 1));
+    EXPECT_THAT(NamesOf(project.Files), ElementsAre("y", "z", "x"));
+}
+
+TEST_F(ListMaintenance, AsksForNoDestinationWithoutRows)
+{
+    ScriptedAsk ask;
+    EXPECT_FALSE(ChangeDestinationCommand(Work(ask), {}));
+    Rows() = {MakeRow("a")};
+    EXPECT_FALSE(ChangeDestinationCommand(Work(ask), {}));
+    EXPECT_TRUE(ask.questions.empty());
+}
+
+TEST_F(ListMaintenance, TellsAllDestinationsInTheirOrder)
+{
+    EXPECT_THAT(DestinationsOf(project.Files), testing::IsEmpty());
+    Rows() = {MakeRow("a", "%WINDIR"),     MakeRow("b", "%DESTDIR"), MakeRow("c", ""),
+              MakeRow("d", "%DESTDIR\\Å"), MakeRow("e", "%DESTDIR"), MakeRow("f", "%WINDIR")};
+    project.Files.sortKey = IconMarker;
+    project.Files.sortDescending = true;
+    const FileList before = project.Files;
+    EXPECT_THAT(DestinationsOf(project.Files), ElementsAre("%DESTDIR", "%DESTDIR\\Å", "%WINDIR"));
+    EXPECT_EQ(project.Files.rows, before.rows) << "looking changes no order";
+    EXPECT_EQ(project.Files.sortKey, IconMarker);
+}
+
+// Kept: a row is looked at beside the one before it alone, by its letters as they stand.
+TEST_F(ListMaintenance, TellsDestinationsInCapitalsAndSmallLettersEach)
+{
+    Rows() = {MakeRow("a", "%DESTDIR\\X"), MakeRow("b", "%destdir\\x")};
+    EXPECT_THAT(DestinationsOf(project.Files), ElementsAre("%DESTDIR\\X", "%destdir\\x"));
+}
+
 } // namespace quillon::test

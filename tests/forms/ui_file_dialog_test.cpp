@@ -81,6 +81,26 @@ TEST_F(FileDialogTest, OpensInTheFolderWithTitleAndFilters)
     EXPECT_EQ(ChooseFileToOpen(question, paths, nullptr), "C:\\Data\\a.qnp");
 }
 
+TEST_F(FileDialogTest, ShowsNamesAloneToWhoeverWantsTheOlderLook)
+{
+    OnNextDialog([](QDialog& dialog) {
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).viewMode(), QFileDialog::Detail);
+        EXPECT_TRUE(Find<QTreeView>(dialog, "treeView").isVisible());
+    });
+    EXPECT_TRUE(ChooseFilesToOpen(question, paths, nullptr).empty());
+    question.look = FileQuestion::Look::NamesOnly;
+    OnNextDialog([](QDialog& dialog) {
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).viewMode(), QFileDialog::List);
+        auto& view = Find<QListView>(dialog, "listView");
+        EXPECT_TRUE(view.isVisible());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return view.model()->rowCount(view.rootIndex()) > 0; }));
+        EXPECT_FALSE(Find<QTreeView>(dialog, "treeView").isVisible());
+        SavePicture(dialog, "FileDialog-names");
+        Enter(dialog, "a.qnp");
+    });
+    EXPECT_EQ(ChooseFilesToOpen(question, paths, nullptr), std::vector<Text>{"C:\\Data\\a.qnp"});
+}
+
 TEST_F(FileDialogTest, GivesNothingOnCancel)
 {
     OnNextDialog([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });

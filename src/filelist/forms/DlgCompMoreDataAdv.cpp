@@ -39,7 +39,8 @@ DlgCompMoreDataAdv::DlgCompMoreDataAdv(FileComponent& component, Session& sessio
                   Fields({{"&Referensfil:", tUpdateReferenceFile}}),
                   Note("Om inte komponenten är installerad sen tidigare ska följande text visas i "
                        "en informationsruta:"),
-                  Fields({{"&Titel:", tUpdateInfoBoxTitle}, {"Te&xt:", tUpdateInfoBoxText}}),
+                  Fields({{"&Titel:", tUpdateInfoBoxTitle}}),
+                  Growing(Above("Te&xt:", tUpdateInfoBoxText)),
               }),
         OkCancel(),
     }));
