@@ -16,8 +16,8 @@ namespace quillon {
 void LimitTyping(QLineEdit* field, int longest);
 void LimitTyping(QPlainTextEdit* field, int longest);
 
-/// From now on no line break comes into an area whose text the project file holds in one line: Enter
-/// presses the form's default button, and breaks that are pasted become blanks.
+/// From now on no line break comes into an area whose text the project file holds in one line:
+/// Enter presses the form's default button, and breaks that are pasted become blanks.
 void KeepOneLine(QPlainTextEdit* area);
 
 /// What stands in the area, blank for blank: Qt's own plain text makes usual blanks of those that

@@ -9,22 +9,14 @@
 namespace quillon::test {
 namespace {
 
-const std::set<std::string> kLaterButtons = {"cmdAddINIvalue",
-                                             "cmdAddRegistryKey",
-                                             "cmdDeleteRegistryKey",
-                                             "cmdDestDirDlg",
-                                             "cmdDestDriveDlg",
-                                             "cmdGeneralInfoDlg",
-                                             "cmdGeneralInfoDlg2",
-                                             "cmdInstallCompletedDlg",
-                                             "cmdLicenseInfoDlg",
-                                             "cmdLicenseInfoRtfDlg",
-                                             "cmdNameCompanyDlg",
-                                             "cmdPasswordDlg",
-                                             "cmdStartInstallDlg",
-                                             "cmdUninstallRegistryKey",
-                                             "cmdVariables1",
-                                             "cmdVariables2",
+const std::set<std::string> kLaterButtons = {"cmdAddINIvalue",       "cmdAddRegistryKey",
+                                             "cmdDeleteRegistryKey", "cmdDestDirDlg",
+                                             "cmdDestDriveDlg",      "cmdGeneralInfoDlg",
+                                             "cmdGeneralInfoDlg2",   "cmdInstallCompletedDlg",
+                                             "cmdLicenseInfoDlg",    "cmdLicenseInfoRtfDlg",
+                                             "cmdNameCompanyDlg",    "cmdPasswordDlg",
+                                             "cmdStartInstallDlg",   "cmdUninstallRegistryKey",
+                                             "cmdVariables1",        "cmdVariables2",
                                              "cmdWelcomeDlg"};
 
 TEST_F(WindowTest, DisablesTheButtonsWhoseWindowsComeLaterAndNoOthers)
