@@ -114,6 +114,20 @@ TEST_F(DlgCompMoreDataTest, TakesNoLineBreakInItsText)
     EXPECT_EQ(component.CompText, "En Två Tre");
 }
 
+TEST_F(DlgCompMoreDataTest, LeavesLineBreaksThatTheTextHasAlready)
+{
+    component.CompText = "En\r\nTvå";
+    DlgCompMoreData form(2, session, nullptr);
+    ShowActive(form);
+    form.tCompText->moveCursor(QTextCursor::End);
+    QApplication::clipboard()->setText(" till\nsist");
+    form.tCompText->paste();
+    form.tCompText->moveCursor(QTextCursor::Start);
+    TypeKeys(*form.tCompText, "Nr ");
+    Click(form, "cmdOK");
+    EXPECT_EQ(component.CompText, "Nr En\r\nTvå till sist");
+}
+
 TEST_F(DlgCompMoreDataTest, TakesNoMoreThanTheProjectFileHolds)
 {
     DlgCompMoreData form(2, session, nullptr);
