@@ -10,7 +10,7 @@ BUILD_PACKAGES=(
 TEST_PACKAGES=(
     clang libclang-rt-14-dev
     debootstrap p7zip-full procps unzip wine64 zip
-    imagemagick openbox xdotool xvfb
+    at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi xdotool xvfb
 )
 
 as_root() {

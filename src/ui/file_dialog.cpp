@@ -45,6 +45,7 @@ private:
     void OpenFolder(const Text& folder);
     void LetWindowsPathsBeTyped();
     bool TakeTypedWindowsPath();
+    void LetTypedNamesCount();
     bool RefusesAFile();
     void Refuse(const QString& text);
 
@@ -107,8 +108,24 @@ std::vector<Text> FileDialog::Ask()
 
 void FileDialog::accept()
 {
+    LetTypedNamesCount();
     if (TakeTypedWindowsPath() && !RefusesAFile())
         QFileDialog::accept();
+}
+
+/// While `"a.txt" "b.txt"` is typed, Qt selects the first of them in the list, and would then take
+/// the selection for the answer.
+void FileDialog::LetTypedNamesCount()
+{
+    auto* field = findChild<QLineEdit*>("fileNameEdit");
+    const QString typed = field->text();
+    if (typed.count('"') <= 2)
+        return;
+    for (auto* view : findChildren<QAbstractItemView*>())
+        if (view->selectionModel() &&
+            (view->objectName() == "treeView" || view->objectName() == "listView"))
+            view->clearSelection();
+    field->setText(typed);
 }
 
 /// A typed "C:\Data\a.txt" is looked up where drive C: lies here. False where there is no such

@@ -114,6 +114,23 @@ TEST_F(FileDialogTest, OpensSeveralFiles)
     EXPECT_EQ(ChooseFilesToOpen(question, paths, nullptr), both);
 }
 
+TEST_F(FileDialogTest, TakesSeveralNamesTypedWhileTheListFollows)
+{
+    OnNextDialog([&](QDialog& dialog) {
+        auto& field = Find<QLineEdit>(dialog, "fileNameEdit");
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            return Find<QTreeView>(dialog, "treeView")
+                       .model()
+                       ->rowCount(Find<QTreeView>(dialog, "treeView").rootIndex()) > 0;
+        }));
+        field.setFocus();
+        TypeKeys(field, "\"a.qnp\" \"b.qnp\"");
+        QTest::keyClick(&field, Qt::Key_Return);
+    });
+    EXPECT_EQ(ChooseFilesToOpen(question, paths, nullptr),
+              (std::vector<Text>{"C:\\Data\\a.qnp", "C:\\Data\\b.qnp"}));
+}
+
 TEST_F(FileDialogTest, GivesASavedNameItsExtension)
 {
     OnNextDialog([](QDialog& dialog) { Enter(dialog, "nytt"); });
