@@ -96,7 +96,8 @@ private:
         if (read_.operands.size() < wanted.size())
             throw UsageError{Text("Kommandot ") + read_.call->name + " saknar " +
                              wanted[read_.operands.size()] + "."};
-        if (read_.operands.size() > wanted.size())
+        const bool takesMore = !wanted.empty() && Text(wanted.back()).ends_with("...");
+        if (read_.operands.size() > wanted.size() && !takesMore)
             throw UsageError{"'" + read_.operands[wanted.size()] + "' är en uppgift för mycket."};
     }
 

@@ -33,7 +33,8 @@ struct Option {
 
 struct Call {
     const char* name;
-    std::vector<const char*> operands; // all of them have to be there
+    // All of them have to be there; a last one that ends in "..." may come many times.
+    std::vector<const char*> operands;
     std::vector<Option> options;
     const char* help;
     Exit (*run)(const CallContext& context);

@@ -13,6 +13,20 @@ Exit ShowProject(const CallContext& context);
 Exit ListPackage(const CallContext& context);
 Exit VerifyPackageFolder(const CallContext& context);
 
+// Calls that change a project.
+Exit NewProject(const CallContext& context);
+Exit SetFields(const CallContext& context);
+Exit AddFiles(const CallContext& context);
+Exit AddTreeOfFiles(const CallContext& context);
+Exit AddEmptyFolder(const CallContext& context);
+Exit AddByDepFile(const CallContext& context);
+Exit RemoveRows(const CallContext& context);
+Exit RefreshRows(const CallContext& context);
+Exit SortFileList(const CallContext& context);
+Exit SetCopyOptions(const CallContext& context);
+
+Exit CompareLstFile(const CallContext& context);
+
 /// In the order in which the help shows them.
 std::span<const Call> AllCalls();
 

@@ -1,6 +1,7 @@
 // quillonc create: Create as its form runs it, the form filled from the switches.
 #include "builder/create.h"
 #include "builder/folder_disks.h"
+#include "cli/box_json.h"
 #include "cli/calls.h"
 #include "cli/console_ask.h"
 #include "cli/open_project.h"
@@ -57,18 +58,6 @@ const char* ResultWord(CreateResult result)
     default:
         return "failed";
     }
-}
-
-Json BoxesJson(const ConsoleAsk& ask)
-{
-    Json boxes = Json::array();
-    for (const ConsoleAsk::Box& box : ask.boxes) {
-        Json object = {{"title", box.title}, {"text", box.text}};
-        if (box.answer)
-            object["answer"] = *box.answer;
-        boxes.push_back(std::move(object));
-    }
-    return boxes;
 }
 
 Exit Tell(const CallContext& context, const ConsoleAsk& ask, const CreateRun& run,

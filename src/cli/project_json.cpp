@@ -72,20 +72,26 @@ Json ProjectJson(const Project& project)
 {
     // The walk is made for readers too and wants a project that may change.
     Project copy = project;
-    JsonWriter writer;
-    VisitSettingsSections(writer, copy);
-    writer.Begin("FileComponents");
-    VisitComponents(writer, copy);
-    writer.End();
-
-    Json whole = writer.Take();
-    for (const ListSection& list : kListSections)
-        whole[list.name] = project.Lists.*list.text;
+    Json whole = SettingsJson(copy);
     Json rows = Json::array();
     for (const FileListRow& row : project.Files.rows)
         rows.push_back(row.columns);
     whole["FileList"] = std::move(rows);
     return whole;
+}
+
+Json SettingsJson(Project& project)
+{
+    JsonWriter writer;
+    VisitSettingsSections(writer, project);
+    writer.Begin("FileComponents");
+    VisitComponents(writer, project);
+    writer.End();
+
+    Json settings = writer.Take();
+    for (const ListSection& list : kListSections)
+        settings[list.name] = project.Lists.*list.text;
+    return settings;
 }
 
 } // namespace quillon::cli

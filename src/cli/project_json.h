@@ -10,4 +10,7 @@ namespace quillon::cli {
 /// its fifteen texts.
 Json ProjectJson(const Project& project);
 
+/// The same without the rows; nothing is changed.
+Json SettingsJson(Project& project);
+
 } // namespace quillon::cli

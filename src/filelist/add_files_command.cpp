@@ -3,6 +3,8 @@
 #include "filelist/add_target.h"
 #include "helpers/windows_path.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -29,15 +31,24 @@ void AddSingleFile(FileAdding& adding, const Text& path, const AddTarget& target
     adding.AddFileToFileList(file);
 }
 
-// With several files a duplicate is left out without a word, and an empty list is not searched.
+bool LieInOneFolder(const std::vector<Text>& paths)
+{
+    const Text folder = ExtractDirectory(paths.front());
+    return std::ranges::all_of(
+        paths, [&](const Text& path) { return EqualIgnoreCase(ExtractDirectory(path), folder); });
+}
+
+// With several files a duplicate is left out without a word. An empty list is not searched: the
+// files of a folder have names of their own. Those of several folders may not.
 void AddManyFiles(FileAdding& adding, const std::vector<Text>& paths, const AddTarget& target,
                   bool listHadRows)
 {
+    const bool searches = listHadRows || !LieInOneFolder(paths);
     for (const Text& path : paths) {
         FileToAdd file = FileFrom(path, target);
         if (FirstCharacters(file.FileName, 2).ends_with(':'))
             continue;
-        file.CheckDuplicates = listHadRows;
+        file.CheckDuplicates = searches;
         adding.AddFileToFileList(file);
     }
 }

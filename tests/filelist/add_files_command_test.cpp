@@ -223,6 +223,13 @@ TEST_F(AddFilesBoxes, SearchesNoDuplicatesWhenManyFilesComeToAnEmptyList)
     EXPECT_EQ(Rows().size(), 2U);
 }
 
+TEST_F(AddFilesBoxes, SearchesDuplicatesAmongFilesOfSeveralFolders)
+{
+    Pick({"C:\\One\\a.txt", "C:\\Two\\A.TXT", "C:\\Two\\b.txt"});
+    RunWith({});
+    EXPECT_THAT(NamesOf(project.Files), ElementsAre("a.txt", "b.txt"));
+}
+
 TEST_F(AddFilesBoxes, KeepsTheRowsFromBeforeAFailure)
 {
     Pick({"C:\\D\\a.txt", "C:\\D\\b.txt", "C:\\D\\c.txt"});

@@ -371,6 +371,41 @@ TEST_F(PosixFilesTest, RenamesAcrossDisksWithDateAndContent)
     files.RemoveFile(target);
 }
 
+TEST_F(PosixFilesTest, PutsAFileInThePlaceOfAnotherThatKeepsItsRightsAndLinks)
+{
+    disk.Put("old.txt", "old");
+    disk.Put("new.txt", "new");
+    chmod(disk.Path("old.txt").c_str(), 0640);
+    disk.PutFolder("links");
+    std::filesystem::create_symlink("../old.txt", disk.Path("links/link.txt"));
+    files.Replace("S:\\new.txt", "S:\\links\\LINK.TXT");
+    EXPECT_FALSE(disk.Has("new.txt"));
+    EXPECT_EQ(disk.Get("old.txt"), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(disk.Path("links/link.txt")));
+    struct stat facts {};
+    stat(disk.Path("old.txt").c_str(), &facts);
+    EXPECT_EQ(facts.st_mode & 07777U, 0640U);
+}
+
+TEST_F(PosixFilesTest, PutsAFileWhereNoneIs)
+{
+    disk.Put("new.txt", "new");
+    files.Replace("S:\\new.txt", "S:\\name.txt");
+    EXPECT_EQ(disk.Get("name.txt"), "new");
+    EXPECT_EQ(Failure([&] { files.Replace("S:\\gone.txt", "S:\\name.txt"); }), 53);
+    EXPECT_EQ(disk.Get("name.txt"), "new");
+}
+
+TEST_F(PosixFilesTest, ReplacesNoFileThatMayNotBeWritten)
+{
+    disk.Put("old.txt", "old");
+    disk.Put("new.txt", "new");
+    chmod(disk.Path("old.txt").c_str(), 0444);
+    EXPECT_EQ(Failure([&] { files.Replace("S:\\new.txt", "S:\\old.txt"); }), 75);
+    EXPECT_EQ(disk.Get("old.txt"), "old");
+    EXPECT_EQ(disk.Get("new.txt"), "new");
+}
+
 TEST_F(PosixFilesTest, KnowsRoomAndKindOfADrive)
 {
     EXPECT_GT(files.FreeSpace("S:\\"), 0U);

@@ -80,6 +80,18 @@ Descriptor OpenToRead(const Text& path, const std::string& hostPath)
     return file;
 }
 
+/// Gives the file the owner and the rights of another; false where that is not for this user to do.
+bool TakesOver(const std::string& hostPath, const struct stat& other)
+{
+    struct stat own {};
+    if (stat(hostPath.c_str(), &own) != 0)
+        return false;
+    const bool isOther = own.st_uid != other.st_uid || own.st_gid != other.st_gid;
+    if (isOther && chown(hostPath.c_str(), other.st_uid, other.st_gid) != 0)
+        return false;
+    return chmod(hostPath.c_str(), other.st_mode & 07777U) == 0;
+}
+
 void CopyBytes(InputFile& from, OutputFile& to)
 {
     std::vector<std::byte> piece(kCopyPiece);
@@ -235,6 +247,26 @@ void PosixFiles::Rename(const Text& from, const Text& to)
     }
     if (errno != EXDEV || IsFolder(source))
         Fail(to, target, Doing::Writing);
+    CopyContent(from, to);
+    RemoveFile(from);
+}
+
+void PosixFiles::Replace(const Text& from, const Text& to)
+{
+    const std::string source = HostPath(drives_, from);
+    const std::string named = HostPath(drives_, to);
+    struct stat old {};
+    if (stat(named.c_str(), &old) != 0)
+        return Rename(from, to);
+    RefuseReadOnly(to, named);
+    if (access(named.c_str(), W_OK) != 0)
+        Fail(to, named, Doing::Writing);
+    // Behind a link lies the file that the name stands for.
+    const std::unique_ptr<char, void (*)(void*)> real(realpath(named.c_str(), nullptr), free);
+    if (real && TakesOver(source, old) && rename(source.c_str(), real.get()) == 0) {
+        drives_.Names().NoteRemoved(source);
+        return;
+    }
     CopyContent(from, to);
     RemoveFile(from);
 }

@@ -23,6 +23,7 @@ public:
     void RemoveFile(const Text& path) override;
     void RemoveFolder(const Text& path) override;
     void Rename(const Text& from, const Text& to) override;
+    void Replace(const Text& from, const Text& to) override;
     void SetModified(const Text& path, const LocalTime& time) override;
     void SetReadOnly(const Text& path, bool readOnly) override;
 

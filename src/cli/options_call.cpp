@@ -1,0 +1,60 @@
+// quillonc options: the copy options of rows, as the dialog for them gives them.
+#include "cli/calls.h"
+#include "cli/project_edit.h"
+#include "cli/row_pattern.h"
+#include "filelist/row_options.h"
+
+#include <algorithm>
+
+namespace quillon::cli {
+
+namespace {
+
+// At most one of these says what becomes of a file that is there already.
+constexpr std::string_view kOneOfThese = "DVN";
+
+Text OfferedLetters()
+{
+    Text letters;
+    for (const CopyOption& option : kCopyOptions)
+        if (!option.control.empty())
+            letters += option.letter;
+    return letters;
+}
+
+// Told as a mistake where the dialog would not let it be ticked, or would drop it.
+Text OrderedOptions(const Text& typed)
+{
+    const Text letters = UpperCase(typed);
+    const Text offered = OfferedLetters();
+    if (letters.find_first_not_of(offered) != Text::npos)
+        throw UsageError{"'" + typed + "' är inga kopieringsinställningar; välj bland " + offered +
+                         "."};
+    const auto isChosen = [&](char letter) { return letters.find(letter) != Text::npos; };
+    if (std::ranges::count_if(kOneOfThese, isChosen) > 1)
+        throw UsageError{"Högst en av inställningarna D, V och N kan väljas."};
+    if (isChosen('E') && !isChosen('V'))
+        throw UsageError{"Inställningen E kan väljas endast tillsammans med V."};
+    Text ordered;
+    std::ranges::copy_if(offered, std::back_inserter(ordered), isChosen);
+    return ordered;
+}
+
+} // namespace
+
+Exit SetCopyOptions(const CallContext& context)
+{
+    const Text options = OrderedOptions(context.arguments.operands[2]);
+    ProjectEdit edit(context, context.PathOperand(0));
+    const auto rows = SelectRows(edit.Files(), std::span(context.arguments.operands).subspan(1, 1));
+    const auto hasSource = [&](std::size_t row) { return edit.Files().rows[row].HasSource(); };
+    if (std::ranges::none_of(rows, hasSource))
+        throw CallFailure{"Tomma kataloger har inga kopieringsinställningar.", Exit::Stopped};
+    for (const std::size_t row : rows)
+        edit.Files().rows[row][CopyOptions] = options;
+    return edit.Save("Kopieringsinställningar '" + options + "' för rader: " +
+                         NumberText(static_cast<std::int64_t>(rows.size())) + "\n",
+                     {{"options", options}, {"changedRows", RowsJson(edit.Files(), rows)}});
+}
+
+} // namespace quillon::cli

@@ -1,0 +1,188 @@
+#include "cli/project_edit.h"
+
+#include "cli/box_json.h"
+#include "cli/open_project.h"
+#include "cli/project_json.h"
+#include "helpers/ansi_text.h"
+#include "helpers/number_text.h"
+#include "platform/run_error.h"
+#include "project/project_file.h"
+
+#include <array>
+#include <ostream>
+
+namespace quillon::cli {
+
+namespace {
+
+constexpr const char* kNothingSaved = " Inget är sparat.";
+
+// Beside the project, so that it can take its place at once.
+Text FreeNameBeside(const FileSystem& files, const Text& path)
+{
+    for (int number = 1;; ++number) {
+        const Text name = path + ".tmp" + NumberText(number);
+        if (!files.FileExists(name) && !files.DirExists(name))
+            return name;
+    }
+}
+
+void RemoveQuietly(FileSystem& files, const Text& path)
+{
+    try {
+        files.RemoveFile(path);
+    } catch (const RunError&) {
+        // What brought the call here is what the user has to know.
+    }
+}
+
+Text ValueText(const Json& value)
+{
+    return value.is_string() ? value.get<Text>() : value.dump();
+}
+
+void DemandSameValue(const Text& name, const Json& wanted, const Json& before, const Json& again)
+{
+    if (wanted == before || wanted == again)
+        return;
+    throw CallFailure{"Värdet av " + name +
+                          " kan ej lagras i projektfilen som det är: det skulle läsas som '" +
+                          ValueText(again) + "'." + kNothingSaved,
+                      Exit::Stopped};
+}
+
+// The project as it is read next time must have what the call has changed.
+void DemandSameSettings(const Json& wanted, const Json& before, const Json& again)
+{
+    for (const auto& [section, keys] : wanted.items()) {
+        if (!keys.is_object()) {
+            DemandSameValue(section, keys, before[section], again[section]);
+            continue;
+        }
+        for (const auto& [key, value] : keys.items())
+            DemandSameValue(Text(section).append(".").append(key), value,
+                            before[section].value(key, Json()), again[section].value(key, Json()));
+    }
+}
+
+void DemandSameRows(const std::vector<FileListRow>& wanted, const std::vector<FileListRow>& again)
+{
+    for (std::size_t i = 0; i < wanted.size(); ++i)
+        if (i >= again.size() || wanted[i] != again[i])
+            throw CallFailure{"Raden " + NumberText(static_cast<std::int64_t>(i) + 1) + " ('" +
+                                  wanted[i][Filename] + "', '" + wanted[i][Destination] +
+                                  "') har tecken som inte kan lagras i projektfilen." +
+                                  kNothingSaved,
+                              Exit::Stopped};
+}
+
+} // namespace
+
+ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin begin)
+    : ask(context.err, context.arguments.Has("--continue") ? ConsoleAsk::Answers::ThatGoOn
+                                                           : ConsoleAsk::Answers::ThatStop),
+      session(NewSession(context.host, ask, context.toolFolder)), context_(context), path_(path),
+      isNew_(begin == Begin::WithANewProject)
+{
+    if (!isNew_) {
+        if (OpenProject(session, path) == Opened::InPart)
+            throw CallFailure{PartlyReadText(path) + kNothingSaved, Exit::Unreadable};
+    } else if (context.host.files.FileExists(path) || context.host.files.DirExists(path)) {
+        throw CallFailure{"'" + path + "' finns redan." + kNothingSaved, Exit::Stopped};
+    }
+    // What was told while opening is no fault of the work that follows.
+    ask.refusals.clear();
+    settingsBefore_ = SettingsJson(session.project);
+    rowsBefore_ = Files().rows;
+}
+
+void ProjectEdit::DemandNothingRefused() const
+{
+    if (!ask.refusals.empty() && !context_.arguments.Has("--continue"))
+        throw CallFailure{ask.refusals.front() + kNothingSaved, Exit::Stopped};
+}
+
+Exit ProjectEdit::Save(const Text& lines, Json members)
+{
+    DemandNothingRefused();
+    const bool changed = HasChanged();
+    if (changed)
+        Write();
+    if (!context_.WantsJson()) {
+        context_.out << lines << (changed ? "" : "Projektet är oförändrat.\n");
+        return Exit::Done;
+    }
+    Json object = {{"project", path_}, {"changed", changed}, {"files", Files().rows.size()}};
+    object.update(members);
+    object["boxes"] = BoxesJson(ask);
+    return context_.PrintJson(std::move(object), Exit::Done);
+}
+
+bool ProjectEdit::HasChanged()
+{
+    return isNew_ || Files().rows != rowsBefore_ ||
+           SettingsJson(session.project) != settingsBefore_;
+}
+
+void ProjectEdit::Write()
+{
+    FileSystem& files = context_.host.files;
+    const Text file = FreeNameBeside(files, path_);
+    try {
+        WriteAndLookAt(file);
+        files.Replace(file, path_);
+    } catch (const RunError& error) {
+        RemoveQuietly(files, file);
+        throw CallFailure{FailureText(RunError(error.Number()), path_) + kNothingSaved,
+                          Exit::Stopped};
+    }
+}
+
+void ProjectEdit::WriteAndLookAt(const Text& file)
+{
+    WriteProjectFile(session.project, file, session.host, ask);
+    try {
+        DemandSameAgain(file);
+    } catch (const CallFailure&) {
+        RemoveQuietly(session.host.files, file);
+        throw;
+    }
+}
+
+void ProjectEdit::DemandSameAgain(const Text& file)
+{
+    std::ostream nowhere(nullptr);
+    ConsoleAsk nobody(nullptr, nowhere);
+    Session again = NewSession(session.host, nobody, session.options.ToolFolder);
+    ReadProjectFile(again.project, file, session.host, nobody, session.options.ToolFolder);
+    DemandSameSettings(SettingsJson(session.project), settingsBefore_, SettingsJson(again.project));
+    DemandSameRows(Files().rows, again.project.Files.rows);
+}
+
+void DemandReadableFile(const FileSystem& files, const Text& path)
+{
+    if (files.DirExists(path))
+        throw CallFailure{"'" + path + "' är en katalog och ingen fil." + kNothingSaved,
+                          Exit::Unreadable};
+    try {
+        std::array<std::byte, 1> first{};
+        files.OpenInput(path)->Read(first);
+    } catch (const RunError& error) {
+        throw CallFailure{FailureText(error, path) + kNothingSaved, Exit::Unreadable};
+    }
+}
+
+Json RowsJson(const FileList& files, const std::vector<std::size_t>& rows)
+{
+    Json objects = Json::array();
+    for (const std::size_t number : rows) {
+        const FileListRow& row = files.rows[number];
+        objects.push_back({{"row", number + 1},
+                           {"name", row[Filename]},
+                           {"destination", row[Destination]},
+                           {"source", row[Source]}});
+    }
+    return objects;
+}
+
+} // namespace quillon::cli

@@ -1,0 +1,240 @@
+#include "cli/project_field.h"
+
+#include "helpers/ansi_text.h"
+#include "helpers/line_breaks.h"
+#include "project/list_sections.h"
+#include "project/section_walk.h"
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
+namespace quillon::cli {
+
+namespace {
+
+constexpr std::size_t kLongestMarkedList = 32767;
+constexpr const char* kComponents = "FileComponents";
+constexpr std::string_view kOneComponent = "FileComponent";
+
+bool IsPixels(Stored form)
+{
+    return form == Stored::AsPixelsX || form == Stored::AsPixelsY;
+}
+
+bool IsFlag(Stored form)
+{
+    return form == Stored::AsFlag || form == Stored::AsFlagOnIfMissing ||
+           form == Stored::AsFlagReadAsNumber || form == Stored::AsFlagText;
+}
+
+Text WindowsLines(const Text& value)
+{
+    return ReplaceAll(ReplaceAll(value, kLineBreak, "\n"), "\n", kLineBreak);
+}
+
+// A value on its way into a field, and all that can be wrong with it.
+class NewValue {
+public:
+    NewValue(const Text& field, const Text& value) : field_(field), value_(value)
+    {
+        if (!AnsiText::Holds(value))
+            Refuse("kan ej vara '" + value + "': det har tecken som inte kan lagras i projektet.");
+    }
+
+    Text TextFor(Stored form, int limit) const
+    {
+        if (form == Stored::AsFlagText)
+            return NumberText(IsOn() ? kOn : kOff);
+        if (form == Stored::AsNumberText)
+            return NumberText(NumberFor<Integer>());
+        const bool hasLines = form == Stored::AsLines || form == Stored::AsLongLines;
+        const Text text = hasLines ? WindowsLines(value_) : value_;
+        if (!hasLines && text.find_first_of("\r\n") != Text::npos)
+            Refuse("ryms på en rad; värdet har flera.");
+        DemandLength(AnsiText::ToBytes(EncodeLineBreaks(text)).size(),
+                     static_cast<std::size_t>(limit - 1));
+        return text;
+    }
+
+    template <class Number>
+    Number NumberFor(Stored form) const
+    {
+        if (!IsFlag(form))
+            return NumberFor<Number>();
+        const bool isRead1 = form == Stored::AsFlagReadAsNumber;
+        return static_cast<Number>(!IsOn() ? kOff : isRead1 ? 1 : kOn);
+    }
+
+    Text ListText(ListSection::Lines lines) const
+    {
+        const Text text = WindowsLines(value_);
+        if (lines == ListSection::Lines::Marked)
+            DemandLength(AnsiText::ToBytes(text).size(), kLongestMarkedList);
+        return text;
+    }
+
+    [[noreturn]] void Refuse(const Text& why) const { throw UsageError{field_ + " " + why}; }
+
+private:
+    template <class Number>
+    Number NumberFor() const
+    {
+        using Limits = std::numeric_limits<Number>;
+        const std::int64_t number = LeadingNumber(value_);
+        if (NumberText(number) != value_ || number < Limits::min() || number > Limits::max())
+            Refuse("kan ej vara '" + value_ + "'; det är ett heltal från " +
+                   NumberText(Limits::min()) + " till " + NumberText(Limits::max()) + ".");
+        return static_cast<Number>(number);
+    }
+
+    bool IsOn() const
+    {
+        if (value_ == "1" || value_ == "-1")
+            return true;
+        if (value_ != "0")
+            Refuse("kan ej vara '" + value_ + "'; det är på (1 eller -1) eller av (0).");
+        return false;
+    }
+
+    void DemandLength(std::size_t length, std::size_t longest) const
+    {
+        if (length > longest)
+            Refuse("rymmer högst " + NumberText(static_cast<std::int64_t>(longest)) +
+                   " tecken; värdet har " + NumberText(static_cast<std::int64_t>(length)) + ".");
+    }
+
+    const Text& field_;
+    const Text& value_;
+};
+
+/// Walks the tables that the project file's writer and reader walk.
+class FieldSetter {
+public:
+    FieldSetter(const Text& section, const Text& key, const NewValue& value)
+        : section_(section), key_(key), value_(value)
+    {
+    }
+
+    bool hasSection = false;
+    bool hasKey = false;
+
+    void Begin(const char* name)
+    {
+        isHere_ = EqualIgnoreCase(name, section_);
+        hasSection = hasSection || isHere_;
+    }
+    void End() {}
+
+    template <class Record, std::size_t count>
+    void Section(const char* name, const ProjectKey<Record> (&keys)[count], Record& record)
+    {
+        Begin(name);
+        Keys(keys, record);
+    }
+
+    template <class Record, std::size_t count>
+    void Keys(const ProjectKey<Record> (&keys)[count], Record& record)
+    {
+        for (const auto& key : keys)
+            Put(key, key.name, record);
+    }
+
+    template <class Record, std::size_t count>
+    void Keys(const ProjectKey<Record> (&keys)[count], Record& record, int number)
+    {
+        for (const auto& key : keys)
+            Put(key, key.name + NumberText(number), record);
+    }
+
+    void NumberedText(const char* key, int number, Text& text, int limit)
+    {
+        if (IsMeant(key + NumberText(number)))
+            text = value_.TextFor(Stored::AsText, limit);
+    }
+
+private:
+    bool IsMeant(const Text& name)
+    {
+        const bool isMeant = isHere_ && EqualIgnoreCase(name, key_);
+        hasKey = hasKey || isMeant;
+        return isMeant;
+    }
+
+    // The pixels of a place are made for the file alone; the twips beside them are the place.
+    template <class Record>
+    void Put(const ProjectKey<Record>& key, const Text& name, Record& record)
+    {
+        if (IsPixels(key.form) || !IsMeant(name))
+            return;
+        if (const auto text = std::get_if<Text Record::*>(&key.field))
+            record.** text = value_.TextFor(key.form, key.limit);
+        else if (const auto number = std::get_if<Integer Record::*>(&key.field))
+            record.** number = value_.NumberFor<Integer>(key.form);
+        else
+            record.*std::get<Long Record::*>(key.field) = value_.NumberFor<Long>(key.form);
+    }
+
+    const Text& section_;
+    const Text& key_;
+    const NewValue& value_;
+    bool isHere_ = false;
+};
+
+struct Address {
+    Text section;
+    Text key;
+};
+
+// A single component has its number behind the section, as a person says it; the file has it behind
+// the key.
+Address AddressOf(const Text& field)
+{
+    const std::size_t point = field.find('.');
+    Address address{field.substr(0, point), field.substr(point + 1)};
+    const Text number =
+        address.section.substr(std::min(kOneComponent.size(), address.section.size()));
+    const bool isOne = number.size() == 1 && number[0] >= '1' && number[0] <= '9' &&
+                       EqualIgnoreCase(address.section, Text(kOneComponent) + number);
+    return isOne ? Address{kComponents, address.key + number} : address;
+}
+
+void SetList(Project& project, const Text& field, const NewValue& value)
+{
+    const auto list =
+        std::find_if(std::begin(kListSections), std::end(kListSections),
+                     [&](const ListSection& other) { return EqualIgnoreCase(other.name, field); });
+    if (list == std::end(kListSections))
+        throw UsageError{"'" + field +
+                         "' är varken en lista eller ett avsnitt med en nyckel, som "
+                         "Version.ProductName."};
+    project.Lists.*list->text = value.ListText(list->lines);
+}
+
+} // namespace
+
+void SetField(Project& project, const Text& field, const Text& value)
+{
+    const NewValue newValue(field, value);
+    if (field.find('.') == Text::npos)
+        return SetList(project, field, newValue);
+
+    const Address address = AddressOf(field);
+    FieldSetter setter(address.section, address.key, newValue);
+    try {
+        VisitSettingsSections(setter, project);
+    } catch (const RunError&) {
+        newValue.Refuse("kan ej vara '" + value + "'; projektet rymmer högst " +
+                        NumberText(static_cast<std::int64_t>(section::kMostAnimPictures)) +
+                        " bilder.");
+    }
+    setter.Begin(kComponents);
+    VisitComponents(setter, project);
+    if (!setter.hasSection)
+        throw UsageError{"Projektet har inget avsnitt '" + address.section + "'."};
+    if (!setter.hasKey)
+        throw UsageError{"Avsnittet " + address.section + " har ingen nyckel '" + address.key +
+                         "'."};
+}
+
+} // namespace quillon::cli

@@ -1,0 +1,74 @@
+// quillonc new and quillonc set: a project's fields.
+#include "cli/calls.h"
+#include "cli/project_edit.h"
+#include "cli/project_field.h"
+#include "filelist/main_directory.h"
+
+namespace quillon::cli {
+
+namespace {
+
+Text DemandValue(const CallContext& context, const char* option)
+{
+    const auto value = context.arguments.Value(option);
+    if (!value)
+        throw UsageError{Text("Kommandot ") + context.arguments.call->name + " saknar växeln " +
+                         option + "."};
+    return *value;
+}
+
+// The main folder obeys the rules of its field in the window.
+void CheckMainFolder(ProjectEdit& edit)
+{
+    Text& folder = edit.session.project.InstallDirectories.DestinationDirectory;
+    folder = CheckMainDirectory(folder, edit.ask);
+    edit.DemandNothingRefused();
+}
+
+struct Assignment {
+    Text field;
+    Text value;
+};
+
+Assignment AssignmentIn(const Text& argument)
+{
+    const std::size_t sign = argument.find('=');
+    if (sign == Text::npos || sign == 0)
+        throw UsageError{"'" + argument + "' saknar formen FÄLT=VÄRDE."};
+    return {TrimBlanks(argument.substr(0, sign)), argument.substr(sign + 1)};
+}
+
+} // namespace
+
+Exit NewProject(const CallContext& context)
+{
+    const Text name = DemandValue(context, "--name");
+    const Text folder = DemandValue(context, "--destination");
+    const Text path = context.PathOperand(0);
+    ProjectEdit edit(context, path, ProjectEdit::Begin::WithANewProject);
+    SetField(edit.session.project, "ProjectName.ProjectName", name);
+    SetField(edit.session.project, "InstallDirectories.DestinationDirectory", folder);
+    CheckMainFolder(edit);
+    const Text& checked = edit.session.project.InstallDirectories.DestinationDirectory;
+    return edit.Save("Nytt projekt: " + path + "\n", {{"name", name}, {"destination", checked}});
+}
+
+Exit SetFields(const CallContext& context)
+{
+    ProjectEdit edit(context, context.PathOperand(0));
+    Project& project = edit.session.project;
+    const Text folderBefore = project.InstallDirectories.DestinationDirectory;
+    Text lines;
+    Json set = Json::object();
+    for (std::size_t i = 1; i < context.arguments.operands.size(); ++i) {
+        const Assignment assignment = AssignmentIn(context.arguments.operands[i]);
+        SetField(project, assignment.field, assignment.value);
+        set[assignment.field] = assignment.value;
+        lines += assignment.field + " = " + assignment.value + "\n";
+    }
+    if (project.InstallDirectories.DestinationDirectory != folderBefore)
+        CheckMainFolder(edit);
+    return edit.Save(lines, {{"set", std::move(set)}});
+}
+
+} // namespace quillon::cli

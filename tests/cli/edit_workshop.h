@@ -1,0 +1,36 @@
+// A workshop for the calls that change a project, with sources to add.
+#pragma once
+
+#include "workshop.h"
+
+#include "helpers/text.h"
+
+namespace quillon::test {
+
+class EditWorkshop : public Workshop {
+protected:
+    EditWorkshop();
+
+    /// A call on the project "p.qnp" of the workshop.
+    ProgramRun Edit(std::vector<std::string> words, RunAs user = RunAs::Self) const;
+    /// The same, which must get its work done; what it prints comes back.
+    std::string Done(std::vector<std::string> words) const;
+    /// The same with --json.
+    Json DoneAsObject(std::vector<std::string> words) const;
+
+    /// The call ends with this code and says this, and the project and the folder it lies in are as
+    /// they were, to the date.
+    void ExpectRefused(const std::vector<std::string>& words, int exitCode, const std::string& err,
+                       RunAs user = RunAs::Self) const;
+    /// The call is done and leaves the project as it is.
+    void ExpectUntouched(const std::vector<std::string>& words) const;
+
+    /// The project as `quillonc show` tells it.
+    Json Show() const;
+    /// Column `column` of each row.
+    std::vector<std::string> Rows(std::size_t column) const;
+
+    std::string project = disk.Path("p.qnp");
+};
+
+} // namespace quillon::test

@@ -1,0 +1,159 @@
+// quillonc new and quillonc set.
+#include "edit_workshop.h"
+
+namespace quillon::test {
+namespace {
+
+using testing::HasSubstr;
+
+class SettingsCalls : public EditWorkshop {
+protected:
+    static std::string ProductNameOf(std::size_t characters)
+    {
+        std::string assignment = "Version.ProductName=";
+        assignment.append(characters, 'x');
+        return assignment;
+    }
+};
+
+TEST_F(SettingsCalls, MakesANewProject)
+{
+    const std::string path = disk.Path("ny.qnp");
+    const ProgramRun run =
+        Quillonc({"new", path, "--name", "Räkna", "--destination", "%PROGRAMFILES\\Räkna\\"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_THAT(run.out, HasSubstr("Nytt projekt: "));
+    project = path;
+    const Json shown = Show();
+    EXPECT_EQ(shown["isWhole"], true);
+    EXPECT_EQ(shown["ProjectName"]["ProjectName"], "Räkna");
+    EXPECT_EQ(shown["InstallDirectories"]["DestinationDirectory"], "%PROGRAMFILES\\Räkna");
+    EXPECT_EQ(shown["Media"]["TargetMedia"], 2);
+    EXPECT_TRUE(shown["FileList"].empty());
+    const Json object = ObjectOf(
+        Quillonc({"new", disk.Path("två.qnp"), "--name", "A", "--destination", "C:\\A", "--json"}));
+    EXPECT_EQ(object["changed"], true);
+    EXPECT_EQ(object["destination"], "C:\\A");
+}
+
+TEST_F(SettingsCalls, RefusesANewProjectThatCanBeNone)
+{
+    const auto refused = [&](std::vector<std::string> words, int exitCode, const std::string& err) {
+        words.insert(words.begin(), {"new", disk.Path("ny.qnp")});
+        const ProgramRun run = Quillonc(words);
+        EXPECT_EQ(run.exitCode, exitCode);
+        EXPECT_THAT(run.err, HasSubstr(err));
+        EXPECT_FALSE(disk.Has("ny.qnp"));
+    };
+    refused({"--destination", "C:\\A"}, 2, "saknar växeln --name");
+    refused({"--name", "A"}, 2, "saknar växeln --destination");
+    refused({"--name", std::string(200, 'n'), "--destination", "C:\\A"}, 2, "rymmer högst 199");
+    refused({"--name", "A", "--destination", "C:"}, 1, "måste innehålla ett katalognamn");
+    refused({"--name", "A", "--destination", "%SYSDIR\\A"}, 1, "som variabel i huvudkatalogen!");
+    // One that is there is nobody's to overwrite.
+    ExpectRefused({"new", "--name", "A", "--destination", "C:\\A"}, 1, "finns redan.");
+    const ProgramRun lost =
+        Quillonc({"new", disk.Path("gone/p.qnp"), "--name", "A", "--destination", "C:\\A"});
+    EXPECT_EQ(lost.exitCode, 1);
+    EXPECT_THAT(lost.err, HasSubstr("Katalogen till"));
+}
+
+TEST_F(SettingsCalls, SetsFieldsOfEveryForm)
+{
+    struct Case {
+        const char* assignment;
+        const char* section;
+        const char* key;
+        Json value;
+    };
+    const std::vector<Case> cases = {
+        {"Version.ProductName=Hej = du", "Version", "ProductName", "Hej = du"},
+        {"version.comments=Å", "Version", "Comments", "Å"},
+        {"Media.TargetMedia=3", "Media", "TargetMedia", 3},
+        {"DesBackground.BackColor1=16711680", "DesBackground", "BackColor1", 16711680},
+        {"DesTextBox.BoxXPosTwips=-300", "DesTextBox", "BoxXPosTwips", -300},
+        {"InstallOptions.UninstallSupport=1", "InstallOptions", "UninstallSupport", -1},
+        {"InstallOptions.DeleteProgGroup=0", "InstallOptions", "DeleteProgGroup", 0},
+        {"Compression.CompressFiles=0", "Compression", "CompressFiles", 0},
+        {"DialogBoxes.PasswordDlg=-1", "DialogBoxes", "PasswordDlg", 1},
+        {"InstallOptions.ExpandVariablesInDialogBoxes=0", "InstallOptions",
+         "ExpandVariablesInDialogBoxes", "0"},
+        {"DesTextBox.BoxText=one\ntwo", "DesTextBox", "BoxText", "one\r\ntwo"},
+        {"DialogBoxData.LicenseText=a\r\n\r\nb", "DialogBoxData", "LicenseText", "a\r\n\r\nb"},
+        {"DesPictures.PictureFilename2=s:\\b.bmp", "DesPictures", "PictureFilename2", "s:\\b.bmp"},
+        {"DesPicturesAnim.NrAnimPictures=2", "DesPicturesAnim", "NrAnimPictures", 2},
+        {"DesPicturesAnim.P2=s:\\c.bmp", "DesPicturesAnim", "P2", "s:\\c.bmp"},
+        {"FileComponent3.Comp=1", "FileComponents", "Comp3", 1},
+        {"FileComponent3.CompName=Hjälp", "FileComponents", "CompName3", "Hjälp"},
+        {"FileComponents.CompDir9=%DESTDIR", "FileComponents", "CompDir9", "%DESTDIR"},
+        {"InstallDirectories.DestinationDirectory=C:\\Ny\\", "InstallDirectories",
+         "DestinationDirectory", "C:\\Ny"},
+    };
+    std::vector<std::string> words = {"set"};
+    for (const Case& one : cases)
+        words.emplace_back(one.assignment);
+    EXPECT_THAT(Done(words), HasSubstr("Version.ProductName = Hej = du\n"));
+    const Json shown = Show();
+    for (const Case& one : cases)
+        EXPECT_EQ(shown[one.section][one.key], one.value) << one.assignment;
+    ExpectUntouched(words);
+}
+
+TEST_F(SettingsCalls, SetsTheTextsOfTheLists)
+{
+    const Json object = DoneAsObject(
+        {"set", "Registry=one\ntwo", "INIFiles=[FileList]\r\nA=1", "runscriptbefore="});
+    EXPECT_EQ(object["set"]["Registry"], "one\ntwo");
+    EXPECT_EQ(Show()["Registry"], "one\r\ntwo");
+    EXPECT_EQ(Show()["INIFiles"], "[FileList]\r\nA=1");
+    Done({"set", "Registry="});
+    EXPECT_EQ(Show()["Registry"], "");
+}
+
+TEST_F(SettingsCalls, RefusesFieldsThatAreNotThere)
+{
+    ExpectRefused({"set", "Version.Product=1"}, 2, "Avsnittet Version har ingen nyckel 'Product'.");
+    ExpectRefused({"set", "Nothing.Key=1"}, 2, "Projektet har inget avsnitt 'Nothing'.");
+    ExpectRefused({"set", "FileList=x"}, 2, "'FileList' är varken en lista eller");
+    ExpectRefused({"set", "FileComponent0.CompName=x"}, 2, "inget avsnitt 'FileComponent0'");
+    ExpectRefused({"set", "DesPictures.PictureFilename4=x"}, 2, "ingen nyckel");
+    ExpectRefused({"set", "DesPicturesAnim.P1=x"}, 2, "ingen nyckel 'P1'");
+    // The pixels are made from the twips.
+    ExpectRefused({"set", "DesTextBox.BoxXPos=3"}, 2, "ingen nyckel 'BoxXPos'");
+    ExpectRefused({"set", "Version.ProductName"}, 2, "saknar formen FÄLT=VÄRDE");
+    ExpectRefused({"set"}, 2, "saknar FÄLT=VÄRDE...");
+}
+
+TEST_F(SettingsCalls, RefusesValuesThatAFieldCannotHold)
+{
+    ExpectRefused(
+        {"set", "Version.Comments=a", "Media.TargetMedia=32768"}, 2,
+        "Media.TargetMedia kan ej vara '32768'; det är ett heltal från -32768 till 32767.");
+    for (const char* value : {"", "3x", " 3", "1.5", "+3", "03"})
+        ExpectRefused({"set", std::string("Media.TargetMedia=") + value}, 2, "är ett heltal");
+    ExpectRefused({"set", "DesBackground.BackColor1=2147483648"}, 2, "till 2147483647.");
+    ExpectRefused({"set", "InstallOptions.UninstallSupport=2"}, 2, "på (1 eller -1) eller av (0)");
+    ExpectRefused({"set", ProductNameOf(200)}, 2, "rymmer högst 199 tecken; värdet har 200.");
+    ExpectRefused({"set", "Version.ProductName=a\nb"}, 2, "ryms på en rad");
+    ExpectRefused({"set", "Version.ProductName=Ω"}, 2, "tecken som inte kan lagras");
+    ExpectRefused({"set", "DesPicturesAnim.NrAnimPictures=22"}, 2, "högst 21 bilder");
+    ExpectRefused({"set", "InstallDirectories.DestinationDirectory=C:"}, 1, "katalognamn");
+    Done({"set", ProductNameOf(199)});
+}
+
+TEST_F(SettingsCalls, RefusesValuesThatWouldNotComeBackFromTheFile)
+{
+    ExpectRefused({"set", "Version.ProductName= x"}, 1,
+                  "Värdet av Version.ProductName kan ej lagras i projektfilen som det är: det "
+                  "skulle läsas som 'x'.");
+    ExpectRefused({"set", "Version.ProductName=\"x\""}, 1, "skulle läsas som 'x'");
+    ExpectRefused({"set", "Registry=a\n....\nb"}, 1, "Värdet av Registry");
+    ExpectRefused({"set", "DialogBoxes.DlgBitmap=s:\\gone.bmp"}, 1, "DialogBoxes.DlgBitmap");
+    ExpectRefused({"set", "FileComponent3.CompName=x"}, 1, "FileComponents.CompName3");
+    ExpectRefused(
+        {"set", "InstallOptions.RestartWindows=1", "InstallOptions.NeverRestartWindows=1"}, 1,
+        "InstallOptions.NeverRestartWindows");
+}
+
+} // namespace
+} // namespace quillon::test
