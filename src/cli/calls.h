@@ -23,6 +23,7 @@ Exit AddByDepFile(const CallContext& context);
 Exit RemoveRows(const CallContext& context);
 Exit RefreshRows(const CallContext& context);
 Exit SortFileList(const CallContext& context);
+Exit ReplaceTexts(const CallContext& context);
 Exit SetCopyOptions(const CallContext& context);
 
 Exit CompareLstFile(const CallContext& context);

@@ -67,6 +67,30 @@ TEST_F(ListCalls, SortsByEachKeyOfTheDialog)
     ExpectRefused({"sort"}, 2, "saknar växeln --by");
 }
 
+TEST_F(ListCalls, ReplacesDestinationsSourcesAndOptions)
+{
+    EXPECT_EQ(Done({"replace", "destinations", "%DESTDIR", "%WINDIR"}), "Ändrade rader: 1\n");
+    EXPECT_THAT(Rows(Destination), ElementsAre("%DESTDIR\\Sub", "%DESTDIR\\Sub", "%WINDIR"));
+    EXPECT_EQ(DoneAsObject({"replace", "destinations", "Sub", "Data", "--part"})["replaced"], 2);
+    EXPECT_EQ(Rows(Destination)[0], "%DESTDIR\\Data");
+    // The whole source takes the replacement, name included.
+    Done({"replace", "sources", "s:\\app", "s:\\new"});
+    EXPECT_THAT(Rows(Source), ElementsAre("s:\\app\\sub\\a.txt", "s:\\app\\sub\\b.dll", "s:\\new"));
+    Done({"options", "1", "V"});
+    Done({"replace", "options", "V", "da"});
+    EXPECT_EQ(Rows(CopyOptions)[0], "DA");
+    ExpectUntouched({"replace", "options", "V", "D"});
+}
+
+TEST_F(ListCalls, RefusesReplacementsThatNoRowCanHold)
+{
+    ExpectRefused({"replace", "destinations", "%DESTDIR", "a;b"}, 1, "Inget är sparat.");
+    ExpectRefused({"replace", "destinations", "%DESTDIR", "Ω"}, 1, "Inget är sparat.");
+    ExpectRefused({"replace", "names", "a", "b"}, 2, "'names' kan ej ersättas");
+    ExpectRefused({"replace", "options", "D", "V", "--part"}, 2, "utan --part");
+    ExpectRefused({"replace", "options", "D", "V*"}, 2, "endast bokstäverna A till Z");
+}
+
 TEST_F(ListCalls, GivesRowsTheirCopyOptionsInTheOrderOfTheTable)
 {
     EXPECT_EQ(Done({"options", "*.*", "*aev"}), "Kopieringsinställningar 'VAE*' för rader: 3\n");
