@@ -1,5 +1,6 @@
 #include "shell/project_commands.h"
 
+#include "filelist/sort.h"
 #include "helpers/product.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -11,11 +12,9 @@ namespace quillon {
 
 namespace {
 
-constexpr const char* kNewProjectName = "noname";
-
 bool IsNeverSaved(const Session& session)
 {
-    return session.state.ProjectFileName == kNewProjectName;
+    return session.state.ProjectFileName == kUnsavedProjectName;
 }
 
 FileQuestion ProjectFileQuestion(const Session& session, const Text& title)
@@ -102,6 +101,8 @@ void OpenNamedProject(Session& session, MainWindow& window, const Text& file)
     session.state.ProjectFileName = file;
     window.ShowTitle();
     LoadProject(session);
+    // The arrow in the list's header holds for what is opened too; no change of the project.
+    SortRows(session.project.Files);
     window.ShowProject();
     window.ShowRecentFiles();
 }

@@ -197,20 +197,28 @@ TEST(OpenProjectTest, EntersARefusedFileAmongTheRecentFiles)
     EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
 }
 
-// The list is read in its order, and goes on being a sorted one for what is added later.
-TEST(OpenProjectTest, LeavesTheOrderOfTheFile)
+// The file's rows come into the order that the list has, as its header says, and that is no change.
+TEST(OpenProjectTest, SortsTheRowsAsTheListIsSorted)
 {
-    Desk desk({}, {{{"C:\\P\\rader.qnp"}}});
-    desk.session.project.Files.rows.resize(2);
-    desk.session.project.Files.rows[0][Filename] = "z.txt";
-    desk.session.project.Files.rows[1][Filename] = "a.txt";
+    Desk desk({}, {{{"C:\\P\\rader.qnp"}}, {{"C:\\P\\rader.qnp"}}});
+    FileList& files = desk.session.project.Files;
+    files.rows.resize(2);
+    files.rows[0][Filename] = "z.txt";
+    files.rows[0][Date] = "2003-01-01";
+    files.rows[1][Filename] = "a.txt";
+    files.rows[1][Date] = "2004-01-01";
     desk.session.state.ProjectFileName = "C:\\P\\rader.qnp";
     SaveProject(desk.session);
     NewProject(desk.session, desk.window);
     OpenProject(desk.session, desk.window);
-    ASSERT_EQ(desk.session.project.Files.rows.size(), 2U);
-    EXPECT_EQ(desk.session.project.Files.rows[0][Filename], "z.txt");
-    EXPECT_TRUE(desk.session.project.Files.sorted);
+    ASSERT_EQ(files.rows.size(), 2U);
+    EXPECT_EQ(files.rows[0][Filename], "a.txt");
+    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
+
+    files.sortKey = Date;
+    OpenProject(desk.session, desk.window);
+    ASSERT_EQ(files.rows.size(), 2U);
+    EXPECT_EQ(files.rows[0][Filename], "z.txt");
 }
 
 TEST(OpenRecentFileTest, MovesTheThirdToTheFront)
