@@ -6,6 +6,7 @@
 #include "helpers/ansi_text.h"
 #include "helpers/number_text.h"
 #include "platform/run_error.h"
+#include "platform/whole_file.h"
 #include "project/project_file.h"
 
 #include <array>
@@ -90,6 +91,8 @@ ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin beg
     } else if (context.host.files.FileExists(path) || context.host.files.DirExists(path)) {
         throw CallFailure{"'" + path + "' finns redan." + kNothingSaved, Exit::Stopped};
     }
+    if (!isNew_)
+        bytesBefore_ = ReadWholeFile(context.host.files, path);
     // What was told while opening is no fault of the work that follows.
     ask.refusals.clear();
     settingsBefore_ = SettingsJson(session.project);
@@ -143,6 +146,7 @@ void ProjectEdit::WriteAndLookAt(const Text& file)
     WriteProjectFile(session.project, file, session.host, ask);
     try {
         DemandSameAgain(file);
+        DemandNobodyElseSaved();
     } catch (const CallFailure&) {
         RemoveQuietly(session.host.files, file);
         throw;
@@ -157,6 +161,17 @@ void ProjectEdit::DemandSameAgain(const Text& file)
     ReadProjectFile(again.project, file, session.host, nobody, session.options.ToolFolder);
     DemandSameSettings(SettingsJson(session.project), settingsBefore_, SettingsJson(again.project));
     DemandSameRows(Files().rows, again.project.Files.rows);
+}
+
+// Two calls at the same time would both begin with the same project, and the later one would undo
+// what the first one saved.
+void ProjectEdit::DemandNobodyElseSaved() const
+{
+    const FileSystem& files = context_.host.files;
+    if (isNew_ ? files.FileExists(path_) : ReadWholeFile(files, path_) != bytesBefore_)
+        throw CallFailure{"'" + path_ + "' har under tiden sparats av ett annat program." +
+                              kNothingSaved,
+                          Exit::Stopped};
 }
 
 void DemandReadableFile(const FileSystem& files, const Text& path)

@@ -36,10 +36,12 @@ private:
     void Write();
     void WriteAndLookAt(const Text& file);
     void DemandSameAgain(const Text& file);
+    void DemandNobodyElseSaved() const;
 
     const CallContext& context_;
     Text path_;
     bool isNew_;
+    std::string bytesBefore_;
     Json settingsBefore_;
     std::vector<FileListRow> rowsBefore_;
 };
