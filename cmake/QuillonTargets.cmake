@@ -73,7 +73,8 @@ endfunction()
 function(quillon_window_test folder)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
-  add_executable(${folder}_test ${sources} support/window_main.cpp support/window_test.cpp)
+  add_executable(${folder}_test ${sources} support/window_main.cpp support/window_test.cpp
+                 support/window_looks.cpp)
   target_link_libraries(${folder}_test PRIVATE quillon_test_support Qt6::Test ${ARGN})
   target_precompile_headers(${folder}_test PRIVATE <QtWidgets/QtWidgets> <QtTest/QTest>
                             <gtest/gtest.h>)

@@ -60,11 +60,11 @@ void MainForm::MakePages(const HostPaths& paths)
               new DialogsPage(session_),
               new RegistryPage(session_),
               new IniFilesPage(session_),
-              new ComponentsPage(session_, [this] { ShowSettings(); })};
+              new ComponentsPage(session_, [this] { files_->List().ShowComponentColumns(); })};
     MainTab_ = new QTabWidget;
     MainTab_->setObjectName("MainTab");
     for (std::size_t i = 0; i < pages_.size(); ++i)
-        MainTab_->addTab(pages_[i], QString::fromUtf8(kTabCaptions[i]).trimmed());
+        MainTab_->addTab(pages_[i], kTabCaptions[i]);
     ShowTabPictures(*MainTab_, session_.host.files, session_.options.ToolFolder);
     setCentralWidget(MainTab_);
 }

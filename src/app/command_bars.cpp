@@ -71,7 +71,9 @@ void CommandBars::MakeMenus()
 QAction* CommandBars::MakeAction(const Command& command)
 {
     const int id = command.id;
-    auto* action = new QAction(ToQt(command.caption), &window_);
+    // What has no place in a menu is read aloud, and shown where the bar is too narrow, by its tip.
+    const std::string_view caption = command.caption.empty() ? command.tooltip : command.caption;
+    auto* action = new QAction(ToQt(caption), &window_);
     action->setObjectName(QString("cmd%1").arg(id));
     action->setToolTip(ToQt(command.tooltip));
     action->setIcon(CommandIcon(id));

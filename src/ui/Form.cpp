@@ -98,6 +98,21 @@ void Form::Arrange(Piece pieces)
     quillon::Arrange(this, pieces);
 }
 
+bool Form::event(QEvent* event)
+{
+    const bool isHandled = QDialog::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        KeepTextWhole();
+    return isHandled;
+}
+
+// A layout does not ask for the lines that running text has in a narrow form.
+void Form::KeepTextWhole()
+{
+    if (layout() && layout()->hasHeightForWidth())
+        setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
+}
+
 void Form::PressOk()
 {
     // A field that is still being typed in is left now, with its checks.

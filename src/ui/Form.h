@@ -57,6 +57,8 @@ protected:
     /// Lays the pieces out; the first control that takes keys gets them.
     void Arrange(Piece pieces);
 
+    bool event(QEvent* event) override;
+
     /// Whether OK may close the form; where not, it has told why.
     virtual bool MayClose() { return true; }
     /// Behind the bound fields on OK: what else is to be stored.
@@ -67,6 +69,7 @@ protected:
 
 private:
     void PressOk();
+    void KeepTextWhole();
 
     std::vector<std::function<void()>> stores_;
 };

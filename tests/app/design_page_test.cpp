@@ -137,13 +137,12 @@ TEST_F(DesignPageTest, PaintsAPictureInItsOwnSize)
     Show();
     const QImage shown = Shown();
     const QRgb green = qRgb(0, 255, 0);
-    const int x = shown.width() / 2;
-    const int y = shown.height() / 2;
-    EXPECT_EQ(shown.pixel(0, 0), green);
-    EXPECT_EQ(shown.pixel(x, y - 5), kRedPixel);
-    EXPECT_EQ(shown.pixel(x, y + 5), kBluePixel);
-    EXPECT_EQ(shown.pixel(x, y - 13), green);
-    EXPECT_EQ(shown.pixel(x - 22, y), green);
+    const QPoint middle = Surface().rect().center();
+    EXPECT_EQ(PixelAt(shown, {0, 0}), green);
+    EXPECT_EQ(PixelAt(shown, middle - QPoint(0, 5)), kRedPixel);
+    EXPECT_EQ(PixelAt(shown, middle + QPoint(0, 5)), kBluePixel);
+    EXPECT_EQ(PixelAt(shown, middle - QPoint(0, 13)), green);
+    EXPECT_EQ(PixelAt(shown, middle - QPoint(22, 0)), green);
 }
 
 TEST_F(DesignPageTest, TakesAPictureThatIsNoneOutOfTheProject)

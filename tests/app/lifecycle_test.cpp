@@ -240,8 +240,8 @@ TEST(CloseWindowUnchanged, LeavesSizeAndRecentFilesInTheSettings)
 TEST(WindowPlaceTest, ComesBackAsItWasLeftAndFitsTheScreen)
 {
     QMainWindow window;
-    RestoreWindowPlace(window, {.Width = 640, .Height = 480});
-    EXPECT_EQ(window.size(), QSize(640, 480));
+    RestoreWindowPlace(window, {.Width = 320, .Height = 240});
+    EXPECT_EQ(window.size(), QSize(320, 240));
     EXPECT_FALSE(window.isMaximized());
 
     QMainWindow large;

@@ -170,15 +170,15 @@ TEST_F(DlgCreateTest, TheMouseHighlightsOnePictureAtATime)
         return names;
     };
     EXPECT_TRUE(highlighted().empty());
+    // The mouse may lie where the first picture is.
+    MoveMouse(form, {3, form.height() / 2});
     for (QWidget* outside : {static_cast<QWidget*>(&form), static_cast<QWidget*>(form.FrameType)}) {
         for (const MediumCase& medium : kCases) {
             auto& picture = Find<QAbstractButton>(form, medium.picture);
-            QTest::mouseMove(&picture);
-            QApplication::processEvents();
+            MoveMouse(picture, picture.rect().center());
             EXPECT_EQ(highlighted(), std::vector<Text>{medium.picture});
         }
-        QTest::mouseMove(outside, {3, outside->height() / 2});
-        QApplication::processEvents();
+        MoveMouse(*outside, {3, outside->height() / 2});
         EXPECT_TRUE(highlighted().empty()) << FromQt(outside->objectName());
     }
 }
@@ -596,8 +596,7 @@ TEST_F(DlgCreateTest, Picture)
     Open();
     DlgCreate form(*session, nullptr);
     ShowActive(form);
-    QTest::mouseMove(form.PictureFloppy);
-    QApplication::processEvents();
+    MoveMouse(*form.PictureFloppy, {10, 10});
     SavePicture(form, "DlgCreate");
     QPalette dark(QColor(53, 53, 53));
     dark.setColor(QPalette::Base, QColor(35, 35, 35));

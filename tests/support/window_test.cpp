@@ -1,11 +1,30 @@
 #include "support/window_test.h"
 
+#include "support/window_looks.h"
+#include "ui/Form.h"
+
 #include <filesystem>
+#include <gmock/gmock.h>
 
 namespace quillon::test {
 
+namespace {
+
+/// Faults of a form that no eye has to look for.
+void ExpectGoodLooks(QWidget& window)
+{
+    if (!dynamic_cast<Form*>(&window))
+        return;
+    EXPECT_THAT(UnnamedControls(window), testing::IsEmpty());
+    EXPECT_THAT(CutCaptions(window), testing::IsEmpty());
+    EXPECT_THAT(SharedAccessLetters(window), testing::IsEmpty());
+}
+
+} // namespace
+
 void SavePicture(QWidget& window, const std::string& name)
 {
+    ExpectGoodLooks(window);
     const std::filesystem::path folder =
         std::filesystem::path(QUILLON_TOOL_FOLDER).parent_path() / "screens";
     std::filesystem::create_directories(folder);

@@ -56,6 +56,20 @@ inline Text TextIn(QWidget& root, const char* name)
     return FromQt(Find<QLineEdit>(root, name).text());
 }
 
+/// Moves the mouse over a widget, also where its window is larger than the screen.
+inline void MoveMouse(QWidget& widget, QPoint place)
+{
+    QWidget* window = widget.window();
+    QTest::mouseMove(window->windowHandle(), widget.mapTo(window, place));
+    QApplication::processEvents();
+}
+
+/// The pixel of a grabbed picture at a place of its widget, whatever the scale of the screen.
+inline QRgb PixelAt(const QImage& picture, QPoint place)
+{
+    return picture.pixel((QPointF(place) * picture.devicePixelRatio()).toPoint());
+}
+
 /// Shows a window as on a screen, so that focus moves in it.
 inline void ShowActive(QWidget& window)
 {
@@ -78,8 +92,8 @@ inline void OnNextDialog(std::function<void(QDialog&)> use)
     });
 }
 
-/// Keeps a picture of the window as build/<preset>/screens/<name>.png, to be looked at; at twice the
-/// scale the name ends in "@2x".
+/// Keeps a picture of the window as build/<preset>/screens/<name>.png, to be looked at; at twice
+/// the scale the name ends in "@2x".
 void SavePicture(QWidget& window, const std::string& name);
 /// The same as <name>-dark.png, under a dark colour scheme.
 void SaveDarkPicture(QWidget& window, const std::string& name);

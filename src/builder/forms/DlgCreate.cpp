@@ -120,6 +120,7 @@ Piece DlgCreate::MakeStatus()
     lblProgress->setMinimumWidth(
         lblProgress->fontMetrics().horizontalAdvance("8888,8 av 8888,8 MB"));
     Button(NAMED(cmdOpenFolder), "", [this] { OpenFolder(); });
+    cmdOpenFolder->setAccessibleName("Öppna katalogen med den färdiga installationen");
     cmdOpenFolder->setFlat(true);
     cmdOpenFolder->setCursor(Qt::PointingHandCursor);
     QFont underlined = font();

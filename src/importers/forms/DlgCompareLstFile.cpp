@@ -31,6 +31,7 @@ DlgCompareLstFile::DlgCompareLstFile(Session& session, QWidget* parent)
         Growing(Above("&Filer som saknas i fillistan:", RoomFor(kLettersOfAPath, ListOfFiles))),
         Across({CmdHelp, Stretch(), cmdClose}),
     }));
+    CmdSelectLstFile->setDefault(true);
     CmdSelectLstFile->setFocus();
 }
 

@@ -1,0 +1,243 @@
+// What holds for every window: it can be read whole at its least size and in large letters, heard
+// by name, and used by keys alone.
+#include "app/MainForm.h"
+#include "builder/forms/DlgCompressOptions.h"
+#include "builder/forms/DlgCreate.h"
+#include "filelist/forms/DlgChCompNr.h"
+#include "filelist/forms/DlgChangeSrcPath.h"
+#include "filelist/forms/DlgCompMoreData.h"
+#include "filelist/forms/DlgCompMoreDataAdv.h"
+#include "filelist/forms/DlgCompShortList.h"
+#include "filelist/forms/DlgDestDirVars.h"
+#include "filelist/forms/DlgDestinationDirectory.h"
+#include "filelist/forms/DlgFindReplaceData.h"
+#include "filelist/forms/DlgShowDestDirectories.h"
+#include "filelist/forms/DlgSortList.h"
+#include "filelist/forms/RecursiveCollect.h"
+#include "importers/forms/DlgCompareLstFile.h"
+#include "shell/forms/DlgAbout.h"
+#include "shell/forms/DlgCreateFoldersAtMyDoc.h"
+#include "shell/forms/DlgEditorOptions.h"
+#include "shell/forms/DlgVersionInfo.h"
+#include "support/window_looks.h"
+#include "support/window_test.h"
+#include "ui/SelectDir.h"
+#include "ui/XInputBox.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// What the windows of this test show.
+struct Subject {
+    Session& session;
+    CreateForm& create;
+};
+
+struct WindowCase {
+    const char* name;
+    std::unique_ptr<QDialog> (*make)(Subject subject);
+};
+
+template <class Dialog, class... Arguments>
+std::unique_ptr<QDialog> Made(Arguments&&... arguments)
+{
+    return std::make_unique<Dialog>(std::forward<Arguments>(arguments)..., nullptr);
+}
+
+template <class Dialog>
+std::unique_ptr<QDialog> OfSession(Subject subject)
+{
+    return Made<Dialog>(subject.session);
+}
+
+ListWork WorkOn(Session& session)
+{
+    return {session.project, session.state, session.host, session.ask};
+}
+
+section::FileComponent& FirstComponent(Subject subject)
+{
+    return subject.session.project.FileComponents.front();
+}
+
+const TreeToAdd kTree{.StartDirectory = "C:\\Data\\Program", .BaseDestination = "%DESTDIR"};
+const std::vector<Text> kComponents{"Ingen komponent", "Komponent nr 1 - 'Ordböcker'"};
+
+// clang-format off
+const WindowCase kWindows[] = {
+    {"DlgAbout", [](Subject) { return Made<DlgAbout>(); }},
+    {"DlgChangeSrcPath", [](Subject of) { return Made<DlgChangeSrcPath>("c:\\data\\a.txt", of.session); }},
+    {"DlgChCompNr", [](Subject of) { return Made<DlgChCompNr>("1", of.session); }},
+    {"DlgCompareLstFile", OfSession<DlgCompareLstFile>},
+    {"DlgCompMoreData", [](Subject of) { return Made<DlgCompMoreData>(0U, of.session); }},
+    {"DlgCompMoreDataAdv", [](Subject of) { return Made<DlgCompMoreDataAdv>(FirstComponent(of), of.session); }},
+    {"DlgCompressOptions", [](Subject of) { return Made<DlgCompressOptions>(of.session, of.create); }},
+    {"DlgCompShortList", [](Subject) { return Made<DlgCompShortList>(kComponents); }},
+    {"DlgCreate", OfSession<DlgCreate>},
+    {"DlgCreateFoldersAtMyDoc", OfSession<DlgCreateFoldersAtMyDoc>},
+    {"DlgDestDirVars", [](Subject) { return Made<DlgDestDirVars>(); }},
+    {"DlgDestinationDirectory", [](Subject of) { return Made<DlgDestinationDirectory>(DestinationQuestion{}, of.session); }},
+    {"DlgEditorOptions", OfSession<DlgEditorOptions>},
+    {"DlgFindReplaceData", [](Subject of) { return Made<DlgFindReplaceData>(ReplaceIn::Destinations, "%DESTDIR", of.session); }},
+    {"DlgShowDestDirectories", [](Subject) { return Made<DlgShowDestDirectories>(); }},
+    {"DlgSortList", [](Subject of) { return Made<DlgSortList>(of.session.project); }},
+    {"DlgVersionInfo", OfSession<DlgVersionInfo>},
+    {"RecursiveCollect", [](Subject of) { return Made<RecursiveCollect>(WorkOn(of.session), kTree); }},
+    {"SelectDir", [](Subject of) { return Made<SelectDir>(of.session.host.files, of.session.ask, "Välj en katalog.", "C:\\Data"); }},
+    {"XInputBox", [](Subject) { return Made<XInputBox>("Lägg till sektion", "&Sektion:"); }},
+};
+// clang-format on
+
+class EveryWindow : public WindowTest {
+protected:
+    EveryWindow()
+    {
+        machine.files.PutFolder("C:\\Data\\Program");
+        for (section::FileComponent& component : session.project.FileComponents)
+            component.Comp = 1;
+    }
+
+    void TearDown() override { QApplication::setFont(usualFont); }
+
+    void UseLargeLetters()
+    {
+        QFont large = usualFont;
+        large.setPointSizeF(large.pointSizeF() * 1.5);
+        QApplication::setFont(large);
+    }
+
+    /// Does this with each dialog, on each of its tabs, at its least size.
+    void WithEachDialog(const std::function<void(QDialog&)>& look)
+    {
+        for (const WindowCase& window : kWindows) {
+            SCOPED_TRACE(window.name);
+            const auto dialog = window.make({session, create});
+            ShowActive(*dialog);
+            dialog->resize(0, 0);
+            auto* tabs = dialog->findChild<QTabWidget*>();
+            for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
+                if (tabs)
+                    tabs->setCurrentIndex(tab);
+                QApplication::processEvents();
+                look(*dialog);
+            }
+        }
+    }
+
+    /// Does this with the main window on each of its tabs, at its least size.
+    void WithEachTab(const std::function<void(MainForm&)>& look)
+    {
+        MainForm form(session);
+        ShowActive(form);
+        form.resize(0, 0);
+        for (int tab = 0; tab < kTabCount; ++tab) {
+            SCOPED_TRACE(tab);
+            form.SelectTab(static_cast<Tab>(tab));
+            QApplication::processEvents();
+            look(form);
+        }
+    }
+
+    void LookForCutCaptions()
+    {
+        WithEachDialog([](QDialog& dialog) { EXPECT_THAT(CutCaptions(dialog), IsEmpty()); });
+        WithEachTab([](MainForm& form) { EXPECT_THAT(CutCaptions(form), IsEmpty()); });
+    }
+
+    CreateForm create;
+    const QFont usualFont = QApplication::font();
+};
+
+TEST_F(EveryWindow, NamesEachControlThatTakesTheFocus)
+{
+    WithEachDialog([](QDialog& dialog) { EXPECT_THAT(UnnamedControls(dialog), IsEmpty()); });
+    WithEachTab([](MainForm& form) { EXPECT_THAT(UnnamedControls(form), IsEmpty()); });
+}
+
+TEST_F(EveryWindow, ShowsItsCaptionsWhole)
+{
+    LookForCutCaptions();
+}
+
+TEST_F(EveryWindow, ShowsItsCaptionsWholeInLargeLetters)
+{
+    UseLargeLetters();
+    LookForCutCaptions();
+}
+
+TEST_F(EveryWindow, GivesEachAccessLetterOnce)
+{
+    WithEachDialog([](QDialog& dialog) { EXPECT_THAT(SharedAccessLetters(dialog), IsEmpty()); });
+    WithEachTab([](MainForm& form) {
+        EXPECT_THAT(SharedAccessLetters(form), IsEmpty());
+        EXPECT_THAT(SharedMenuLetters(form), IsEmpty());
+    });
+}
+
+TEST_F(EveryWindow, LeadsTheTabKeyDownwardsAndToTheRight)
+{
+    WithEachDialog([](QDialog& dialog) { EXPECT_THAT(StepsBackByTab(dialog), IsEmpty()); });
+    WithEachTab([](MainForm& form) { EXPECT_THAT(StepsBackByTab(form), IsEmpty()); });
+}
+
+TEST_F(EveryWindow, HasAButtonForEnterAndClosesByEsc)
+{
+    WithEachDialog([](QDialog& dialog) {
+        const auto buttons = dialog.findChildren<QPushButton*>();
+        EXPECT_EQ(std::ranges::count_if(buttons, &QPushButton::isDefault), 1);
+        if (!dialog.isVisible()) // closed on a tab before this one
+            return;
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+}
+
+TEST_F(EveryWindow, NamesEachButtonOfItsToolbar)
+{
+    WithEachTab([](MainForm& form) {
+        for (QToolButton* button : Find<QToolBar>(form, "Standard").findChildren<QToolButton*>()) {
+            if (button->objectName() == "qt_toolbar_ext_button")
+                continue;
+            const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(button);
+            EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty())
+                << button->defaultAction()->objectName().toStdString();
+        }
+    });
+}
+
+// The checks see what they are to see.
+TEST(WindowLooks, FindFaults)
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    auto* field = new QLineEdit;
+    field->setObjectName("tField");
+    auto* button = new QPushButton("&Mycket lång text på en knapp");
+    button->setObjectName("cmdLong");
+    button->setMaximumWidth(30);
+    auto* other = new QCheckBox("Något &med samma bokstav");
+    for (QWidget* widget : {static_cast<QWidget*>(field), static_cast<QWidget*>(button),
+                            static_cast<QWidget*>(other)})
+        window.layout()->addWidget(widget);
+    ShowActive(window);
+    EXPECT_THAT(UnnamedControls(window), ElementsAre("QLineEdit tField"));
+    EXPECT_THAT(CutCaptions(window),
+                ElementsAre(testing::StartsWith("QPushButton cmdLong needs ")));
+    EXPECT_THAT(SharedAccessLetters(window),
+                ElementsAre("m: &Mycket lång text på en knapp, Något &med samma bokstav"));
+    EXPECT_THAT(StepsBackByTab(window), IsEmpty());
+    QWidget::setTabOrder(field, other);
+    QWidget::setTabOrder(other, button);
+    EXPECT_THAT(StepsBackByTab(window),
+                ElementsAre("QCheckBox without a name before QPushButton cmdLong"));
+    field->setAccessibleName("Namn");
+    EXPECT_THAT(UnnamedControls(window), IsEmpty());
+}
+
+} // namespace
+} // namespace quillon::test
