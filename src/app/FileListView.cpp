@@ -76,6 +76,10 @@ FileListView::FileListView(const Project& project, quillon::Settings& settings)
         if (onSelection)
             onSelection();
     });
+    connect(this, &QTreeView::doubleClicked, this, [this] {
+        if (onDoubleClick)
+            onDoubleClick();
+    });
 }
 
 void FileListView::MakeHeader()
@@ -280,6 +284,25 @@ void FileListView::keyPressEvent(QKeyEvent* event)
         onDelete();
     else
         QTreeView::keyPressEvent(event);
+}
+
+void FileListView::mouseReleaseEvent(QMouseEvent* event)
+{
+    QTreeView::mouseReleaseEvent(event);
+    if (event->button() == Qt::RightButton && onPopup)
+        onPopup(event->globalPosition().toPoint());
+}
+
+// Systems differ in when they ask for a menu by mouse; here it comes with the button's release, so
+// only the menu key is left.
+void FileListView::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+    if (event->reason() != QContextMenuEvent::Keyboard || !onPopup)
+        return;
+    const QRect row = visualRect(currentIndex());
+    const bool isInView = row.isValid() && viewport()->rect().contains(row.center());
+    onPopup(viewport()->mapToGlobal(isInView ? row.center() : viewport()->rect().center()));
 }
 
 void FileListView::resizeEvent(QResizeEvent* event)

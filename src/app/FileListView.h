@@ -31,12 +31,16 @@ public:
     std::function<void(const Text& header)> onColumnClick;
     std::function<void()> onSelection;
     std::function<void()> onDelete;
+    std::function<void()> onDoubleClick;
+    std::function<void(QPoint onScreen)> onPopup;
 
 protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -17,7 +17,8 @@ IniFilesPage::IniFilesPage(Session& session) : session_(session)
                           Button(NAMED(cmdAddINIsection), "Lägg till s&ektion...",
                                  [this] { AddSection(); }),
                           Button(NAMED(cmdAddINIvalue), "Lägg till &värde..."),
-                          Button(NAMED(cmdVariables2), "Varia&bler..."), Stretch()})}));
+                          Button(NAMED(cmdVariables2), "Varia&bler...", [this] { AddVariable(); }),
+                          Stretch()})}));
 }
 
 void IniFilesPage::ShowSession()
@@ -37,6 +38,12 @@ void IniFilesPage::AddSection()
     const auto section = session_.ask.XInputBox("Lägg till sektion", "&Sektion:");
     if (section && !section->empty())
         Append(IniSectionToAppend(session_.project.Lists.INIFiles, *section));
+}
+
+void IniFilesPage::AddVariable()
+{
+    if (const auto variable = session_.ask.ChooseVariable())
+        Append(*variable);
 }
 
 void IniFilesPage::Append(const Text& lines)

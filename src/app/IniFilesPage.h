@@ -16,6 +16,7 @@ public:
 private:
     void AddFile();
     void AddSection();
+    void AddVariable();
     void Append(const Text& lines);
 
     Session& session_;

@@ -10,6 +10,7 @@
 #include "app/actions.h"
 #include "app/bars_look.h"
 #include "app/command_bars.h"
+#include "app/popup_file_list.h"
 #include "app/tab_pictures.h"
 #include "app/window_place.h"
 #include "filelist/forms/list_commands.h"
@@ -80,8 +81,11 @@ void MainForm::MakeStatusBar()
 void MainForm::ConnectFileList()
 {
     constexpr int kDeleteRows = 114;
+    constexpr int kFileInfo = 119;
     FileListView& list = files_->List();
     list.onDelete = [this] { RunCommand(kDeleteRows); };
+    list.onDoubleClick = [this] { RunCommand(kFileInfo); };
+    list.onPopup = [this](QPoint place) { ShowPopupFileList(*this, place); };
     list.onSelection = [this] { ShowSelection(); };
     list.onColumnClick = [this](const Text& header) { ClickColumn(session_, *this, header); };
     files_->onDrop = [this](const std::vector<Text>& paths, const std::vector<Text>& refused) {
@@ -172,7 +176,12 @@ void MainForm::ShowSelection()
 void MainForm::RunCommand(int id)
 {
     if (const Action action = FindAction(id))
-        RunGuarded([&] { action(*this); });
+        Run(action);
+}
+
+void MainForm::Run(Action action)
+{
+    RunGuarded([&] { action(*this); });
 }
 
 void MainForm::RunGuarded(const std::function<void()>& run)

@@ -2,6 +2,7 @@
 // session's; what its commands do is in the table of actions.
 #pragma once
 
+#include "app/actions.h"
 #include "shell/main_window.h"
 #include "shell/session.h"
 #include "ui/Page.h"
@@ -45,6 +46,7 @@ public:
 
     /// Runs the command with this id; one without an action does nothing.
     void RunCommand(int id);
+    void Run(Action action);
 
     /// What a status text of a long command says; an empty one gives the bar back.
     void ShowStatusText(const Text& text);

@@ -26,13 +26,20 @@ Piece RegistryPage::Buttons()
     return Down({Button(NAMED(cmdAddRegistryKey), "Lägg &till..."),
                  Button(NAMED(cmdDeleteRegistryKey), "Radera vid &installation..."),
                  Button(NAMED(cmdUninstallRegistryKey), "A&vlägsna vid avinstallation..."),
-                 Button(NAMED(cmdVariables1), "Varia&bler..."), Stretch()});
+                 Button(NAMED(cmdVariables1), "Varia&bler...", [this] { AddVariable(); }),
+                 Stretch()});
 }
 
 void RegistryPage::ShowSession()
 {
     ShowInPlace(editRegistryList, session_.project.Lists.Registry);
     ShowWarning();
+}
+
+void RegistryPage::AddVariable()
+{
+    if (const auto variable = session_.ask.ChooseVariable())
+        AppendInPlace(editRegistryList, *variable);
 }
 
 // The list is free text and never refused, but what would not come back from the file is told while

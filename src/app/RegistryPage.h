@@ -17,6 +17,7 @@ public:
 
 private:
     Piece Buttons();
+    void AddVariable();
     void ShowWarning();
 
     Session& session_;

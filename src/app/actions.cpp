@@ -3,7 +3,9 @@
 #include "app/MainForm.h"
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
+#include "filelist/forms/DlgVariables.h"
 #include "filelist/forms/list_commands.h"
+#include "filelist/forms/per_file_commands.h"
 #include "filelist/forms/row_commands.h"
 #include "importers/forms/DlgCompareLstFile.h"
 #include "importers/forms/dep_command.h"
@@ -55,11 +57,15 @@ const std::map<int, Action> kActions = {
     {113, [](MainForm& form) { ShowCompareLstFile(form.GetSession(), &form); }},
     {114, [](MainForm& form) { DeleteRowsCommand(form.GetSession(), form); }},
     {115, [](MainForm& form) { SortListCommand(form.GetSession(), form, &form); }},
+    {116, [](MainForm& form) { IconCommand(form.GetSession(), form, &form); }},
+    {117, [](MainForm& form) { CopyOptionsCommand(form.GetSession(), form, &form); }},
+    {119, [](MainForm& form) { FileInfoCommand(form.GetSession(), form, &form); }},
     {120, [](MainForm& form) { ChangeDestinationCommand(form.GetSession(), form); }},
     {121, [](MainForm& form) { ShowDestinationDirectoriesCommand(form.GetSession(), &form); }},
     {124, [](MainForm& form) { UpdateFileListCommand(form.GetSession(), form); }},
     {136, CopyText},
     {137, PasteText},
+    {144, [](MainForm& form) { ShowVariables(form.GetSession(), &form); }},
     {145, [](MainForm& form) { ShowVersionInfo(form.GetSession(), &form); }},
     {146, [](MainForm& form) { ShowEditorOptions(form.GetSession(), form, &form); }},
     {147, Select<Tab::Files>},

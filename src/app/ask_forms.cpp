@@ -1,5 +1,6 @@
 #include "app/ask_forms.h"
 
+#include "filelist/forms/DlgVariables.h"
 #include "filelist/forms/list_commands.h"
 #include "ui/QtAsk.h"
 
@@ -13,6 +14,7 @@ void ConnectFileListForms(QtAsk& ask, Session& session)
     ask.onChooseComponent = [](const std::vector<Text>& entries, QWidget* parent) {
         return ChooseComponent(entries, parent);
     };
+    ask.onChooseVariable = [&session](QWidget* parent) { return ChooseVariable(session, parent); };
 }
 
 } // namespace quillon

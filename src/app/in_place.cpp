@@ -75,7 +75,12 @@ void ShowInPlace(QPlainTextEdit* area, const Text& value)
 void AppendInPlace(QPlainTextEdit* area, const Text& lines)
 {
     area->moveCursor(QTextCursor::End);
-    area->insertPlainText(LinesToQt(lines));
+    // A step of its own for undo, even where it goes on with a line that was typed.
+    QTextCursor cursor = area->textCursor();
+    cursor.beginEditBlock();
+    cursor.insertText(LinesToQt(lines));
+    cursor.endEditBlock();
+    area->setTextCursor(cursor);
     area->ensureCursorVisible();
     area->setFocus();
 }

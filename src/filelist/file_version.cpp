@@ -1,11 +1,10 @@
 #include "filelist/file_version.h"
 
-#include "helpers/version_resource.h"
 #include "platform/run_error.h"
 
 namespace quillon {
 
-Text FileVersionText(const FileSystem& files, const Text& path)
+FileVersionData VersionDataOfFile(const FileSystem& files, const Text& path)
 {
     try {
         const auto file = files.OpenInput(path);
@@ -13,10 +12,15 @@ Text FileVersionText(const FileSystem& files, const Text& path)
             file->Seek(position);
             return file->Read(buffer);
         };
-        return GetFileVersionData(read).FileVersion;
+        return GetFileVersionData(read);
     } catch (const RunError&) {
         return {};
     }
+}
+
+Text FileVersionText(const FileSystem& files, const Text& path)
+{
+    return VersionDataOfFile(files, path).FileVersion;
 }
 
 } // namespace quillon

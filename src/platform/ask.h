@@ -71,6 +71,9 @@ public:
     /// One of the entries of `lbCompList`.
     virtual std::optional<Text> ChooseComponent(const std::vector<Text>& /*entries*/) { return {}; }
 
+    /// One of the variables, to be put into a text; never an empty one.
+    virtual std::optional<Text> ChooseVariable() { return {}; }
+
     /// A line of the progress list of a long command.
     virtual void AddStatusLine(const Text& line) = 0;
     /// Empties that list before a new command; what was printed stays printed.

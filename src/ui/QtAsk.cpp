@@ -122,6 +122,13 @@ std::optional<Text> QtAsk::ChooseComponent(const std::vector<Text>& entries)
     return onChooseComponent(entries, WindowInFront());
 }
 
+std::optional<Text> QtAsk::ChooseVariable()
+{
+    if (!onChooseVariable)
+        return {};
+    return onChooseVariable(WindowInFront());
+}
+
 void QtAsk::ShowBusyPointer(bool busy)
 {
     if (busy)

@@ -30,6 +30,8 @@ public:
     std::optional<Text> ChooseDestination(const DestinationQuestion& question) override;
     std::optional<Text> ChooseComponent(const std::vector<Text>& entries) override;
 
+    std::optional<Text> ChooseVariable() override;
+
     // Status lines belong to the form that shows them, which puts itself in between.
     void AddStatusLine(const Text&) override {}
     void ShowProgress(std::uint64_t, std::uint64_t) override {}
@@ -46,6 +48,7 @@ public:
         onChooseDestination;
     std::function<std::optional<Text>(const std::vector<Text>& entries, QWidget* parent)>
         onChooseComponent;
+    std::function<std::optional<Text>(QWidget* parent)> onChooseVariable;
 
 private:
     Host& host_;

@@ -126,6 +126,17 @@ QWidget* RoomFor(int letters, QWidget* widget)
     return widget;
 }
 
+void AtMostOne(std::initializer_list<QCheckBox*> boxes)
+{
+    for (QCheckBox* box : boxes)
+        for (QCheckBox* other : boxes)
+            if (other != box)
+                QObject::connect(box, &QCheckBox::toggled, other, [other](bool isTicked) {
+                    if (isTicked)
+                        other->setChecked(false);
+                });
+}
+
 QLabel* Note(const Text& text)
 {
     auto* label = new QLabel(ToQt(text));

@@ -11,6 +11,7 @@
 #include <vector>
 
 class QBoxLayout;
+class QCheckBox;
 class QGroupBox;
 class QLabel;
 class QLayout;
@@ -60,6 +61,9 @@ Piece Above(const Text& caption, Piece piece);
 
 /// The widget, wide enough for this many usual letters of its font.
 QWidget* RoomFor(int letters, QWidget* widget);
+
+/// Ticking one of the boxes unticks the others from now on; none may be ticked, too.
+void AtMostOne(std::initializer_list<QCheckBox*> boxes);
 
 /// Running text; it wraps where the form is narrower.
 QLabel* Note(const Text& text);

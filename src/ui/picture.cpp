@@ -5,7 +5,9 @@
 
 #include <QtWidgets>
 #include <algorithm>
+#include <functional>
 #include <iterator>
+#include <tuple>
 
 namespace quillon {
 
@@ -14,27 +16,117 @@ namespace {
 // Beyond these a file is a mistake, or made to bring the program down.
 constexpr std::uint64_t kMostBytes = 128U << 20;
 constexpr qint64 kMostPixels = 30'000'000;
+constexpr int kMostIcons = 64;
+constexpr int kLargestIcon = 1024;
 
 constexpr const char* kFormats[] = {"bmp", "gif", "ico", "jpeg", "jpg", "png"};
 
-std::optional<QImage> ReadPicture(const FileSystem& files, const Text& path)
+/// Reads the pictures of one file, whose bytes it holds.
+class PictureFile {
+public:
+    PictureFile(const FileSystem& files, const Text& path)
+    {
+        if (path.empty() || files.Facts(path).size > kMostBytes)
+            return;
+        bytes_ = ReadWholeFile(files, path);
+        view_ = QByteArray::fromRawData(bytes_.data(), static_cast<qsizetype>(bytes_.size()));
+        buffer_.setBuffer(&view_);
+        buffer_.open(QIODevice::ReadOnly);
+        reader_.setDevice(&buffer_);
+        // A camera's picture may stand on its side in the file.
+        reader_.setAutoTransform(true);
+    }
+    PictureFile(const PictureFile&) = delete;
+    PictureFile& operator=(const PictureFile&) = delete;
+
+    bool IsIcon() { return reader_.device() && reader_.format() == "ico"; }
+
+    std::optional<QImage> Read()
+    {
+        if (!reader_.device())
+            return std::nullopt;
+        const QByteArray format = reader_.format();
+        const QSize size = reader_.size();
+        if (std::find(std::begin(kFormats), std::end(kFormats), format) == std::end(kFormats) ||
+            size.isEmpty() || qint64{size.width()} * size.height() > kMostPixels)
+            return std::nullopt;
+        QImage picture = reader_.read();
+        return picture.isNull() ? std::nullopt : std::optional(std::move(picture));
+    }
+
+    std::vector<QImage> ReadIcons()
+    {
+        std::vector<QImage> icons;
+        for (int i = 0; i < std::min(reader_.imageCount(), kMostIcons); ++i)
+            if (QImage icon; reader_.jumpToImage(i) && reader_.read(&icon) && IsIconSize(icon))
+                icons.push_back(std::move(icon));
+        return icons;
+    }
+
+private:
+    static bool IsIconSize(const QImage& icon)
+    {
+        return !icon.isNull() && std::max(icon.width(), icon.height()) <= kLargestIcon;
+    }
+
+    std::string bytes_;
+    QByteArray view_;
+    QBuffer buffer_;
+    QImageReader reader_;
+};
+
+/// How many bits a dot had in the icon file; what was read has always the same.
+int DepthInFile(const QImage& icon)
 {
-    if (path.empty() || files.Facts(path).size > kMostBytes)
+    return icon.text("_q_icoOrigDepth").toInt();
+}
+
+/// The largest first, each size once.
+void KeepBestOfEachSize(std::vector<QImage>& icons)
+{
+    const auto rank = [](const QImage& icon) {
+        return std::tuple(icon.width(), icon.height(), DepthInFile(icon));
+    };
+    std::ranges::stable_sort(icons, std::greater(), rank);
+    const auto again = std::ranges::unique(icons, {}, &QImage::size);
+    icons.erase(again.begin(), again.end());
+}
+
+/// In columns, none higher than the first icon.
+QImage BesideEachOther(const std::vector<QImage>& icons)
+{
+    constexpr int kGap = 8;
+    int height = 0;
+    for (const QImage& icon : icons)
+        height = std::max(height, icon.height());
+    std::vector<QPoint> places;
+    QPoint place;
+    int width = 0;
+    for (const QImage& icon : icons) {
+        if (place.y() + icon.height() > height)
+            place = {width + kGap, 0};
+        places.push_back(place);
+        width = std::max(width, place.x() + icon.width());
+        place.ry() += icon.height() + kGap;
+    }
+    QImage all(width, height, QImage::Format_ARGB32_Premultiplied);
+    all.fill(Qt::transparent);
+    QPainter painter(&all);
+    for (std::size_t i = 0; i < icons.size(); ++i)
+        painter.drawImage(places[i], icons[i]);
+    return all;
+}
+
+std::optional<QImage> ReadIconPicture(const FileSystem& files, const Text& path)
+{
+    PictureFile file(files, path);
+    if (!file.IsIcon())
+        return file.Read();
+    std::vector<QImage> icons = file.ReadIcons();
+    if (icons.empty())
         return std::nullopt;
-    const std::string bytes = ReadWholeFile(files, path);
-    QByteArray view = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    QBuffer buffer(&view);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    const QByteArray format = reader.format();
-    const QSize size = reader.size();
-    if (std::find(std::begin(kFormats), std::end(kFormats), format) == std::end(kFormats) ||
-        size.isEmpty() || qint64{size.width()} * size.height() > kMostPixels)
-        return std::nullopt;
-    // A camera's picture may stand on its side in the file.
-    reader.setAutoTransform(true);
-    QImage picture = reader.read();
-    return picture.isNull() ? std::nullopt : std::optional(std::move(picture));
+    KeepBestOfEachSize(icons);
+    return BesideEachOther(icons);
 }
 
 } // namespace
@@ -42,7 +134,16 @@ std::optional<QImage> ReadPicture(const FileSystem& files, const Text& path)
 std::optional<QImage> LoadPicture(const FileSystem& files, const Text& path)
 {
     try {
-        return ReadPicture(files, path);
+        return PictureFile(files, path).Read();
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+std::optional<QImage> LoadIconPicture(const FileSystem& files, const Text& path)
+{
+    try {
+        return ReadIconPicture(files, path);
     } catch (const std::exception&) {
         return std::nullopt;
     }

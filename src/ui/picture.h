@@ -14,4 +14,8 @@ namespace quillon {
 /// back where there is no such picture or one too large to show; nothing is thrown.
 std::optional<QImage> LoadPicture(const FileSystem& files, const Text& path);
 
+/// An icon in all sizes that its file has, each in its best colours, beside each other. A file that
+/// holds another kind of picture gives that one.
+std::optional<QImage> LoadIconPicture(const FileSystem& files, const Text& path);
+
 } // namespace quillon

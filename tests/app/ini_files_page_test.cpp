@@ -79,6 +79,22 @@ TEST_F(IniFilesPageTest, AddsNothingWithoutAnAnswer)
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
 
+TEST_F(IniFilesPageTest, AddsAVariableAtTheEnd)
+{
+    TypeKeys(editor, "Path=");
+    editor.moveCursor(QTextCursor::Start);
+    Press("cmdVariables2", "%WINDIR");
+    EXPECT_EQ(list, "Path=%WINDIR");
+    EXPECT_TRUE(editor.hasFocus());
+    editor.undo();
+    EXPECT_EQ(list, "Path=");
+    session.state.ProjectIsDirty = kOff;
+    ask.choices = {{}};
+    Click(page, "cmdVariables2");
+    EXPECT_EQ(list, "Path=") << "nothing was chosen";
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
 TEST_F(IniFilesPageTest, UndoesWhatAButtonAdded)
 {
     TypeKeys(editor, "x");

@@ -73,6 +73,25 @@ TEST_F(RegistryPageTest, TellsALineThatTheProjectFileWouldNotGiveBack)
     EXPECT_TRUE(warning.isVisible());
 }
 
+TEST_F(RegistryPageTest, AddsAVariableAtTheEnd)
+{
+    TypeKeys(editor, "Path=");
+    editor.moveCursor(QTextCursor::Start);
+    ask.choices = {{{"%DESTDIR"}}, {}};
+    Click(page, "cmdVariables1");
+    EXPECT_EQ(list, "Path=%DESTDIR");
+    EXPECT_TRUE(editor.hasFocus());
+    EXPECT_TRUE(editor.textCursor().atEnd());
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    editor.undo();
+    EXPECT_EQ(list, "Path=");
+    session.state.ProjectIsDirty = kOff;
+    Click(page, "cmdVariables1");
+    EXPECT_EQ(list, "Path=") << "nothing was chosen";
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    EXPECT_EQ(ask.questions.at(0).title, "ChooseVariable");
+}
+
 TEST_F(RegistryPageTest, IsReadInLettersOfOneWidthAndByName)
 {
     EXPECT_EQ(editor.fontMetrics().horizontalAdvance("ill1"),

@@ -94,6 +94,11 @@ std::optional<Text> ScriptedAsk::ChooseComponent(const std::vector<Text>& entrie
     return NextOneChoice({.title = "ChooseComponent", .filter = filter});
 }
 
+std::optional<Text> ScriptedAsk::ChooseVariable()
+{
+    return NextOneChoice({.title = "ChooseVariable"});
+}
+
 std::vector<Text> ScriptedAsk::NextChoice(const FileQuestion& question)
 {
     questions.push_back(question);

@@ -51,6 +51,7 @@ public:
     std::optional<Text> XInputBox(const Text& title, const Text& prompt) override;
     std::optional<Text> ChooseDestination(const DestinationQuestion& question) override;
     std::optional<Text> ChooseComponent(const std::vector<Text>& entries) override;
+    std::optional<Text> ChooseVariable() override;
 
     /// What the next choices give, in order; a choice beyond them fails the test. `chosen` empty is
     /// a cancelled dialog.
@@ -61,7 +62,7 @@ public:
     // What the choices were opened with: title, folder, name and filter of a file dialog; text and
     // folder of SelectDir; title and prompt (as the filter) of XInputBox; "ChooseDestination", its
     // folder and its option button (as the filter); "ChooseComponent" and its entries, with "|"
-    // between them (as the filter).
+    // between them (as the filter); "ChooseVariable".
     std::vector<FileQuestion> questions;
     void YieldToEvents() override {}
 

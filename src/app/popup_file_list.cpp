@@ -1,0 +1,97 @@
+#include "app/popup_file_list.h"
+
+#include "app/MainForm.h"
+#include "filelist/forms/row_commands.h"
+#include "project/components.h"
+#include "shell/command_table.h"
+#include "ui/icons.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+// An entry runs the command of its id, under the command's caption, or else its own action. One
+// that has neither yet is shown disabled.
+struct PopupEntry {
+    const char* name; // null is a line between groups
+    int id = 0;
+    const char* caption = nullptr;
+    Action action = nullptr;
+};
+
+constexpr const char* kComponentNumber = "mPopupCompNr";
+
+void ChangeComponentNumber(MainForm& form)
+{
+    ChangeComponentNumberCommand(form.GetSession(), form, &form);
+}
+
+void ChangeSource(MainForm& form)
+{
+    ChangeSourceCommand(form.GetSession(), form, &form);
+}
+
+// clang-format off
+constexpr PopupEntry kEntries[] = {
+    {"mPopupCopyOptions", 117},
+    {"mPopupIcon",        116},
+    {kComponentNumber,    0, "Flytta till k&omponent...", ChangeComponentNumber},
+    {nullptr},
+    {"mPopupDestDir",     120},
+    {"mPopupSrcFile",     0, "Ändra käl&lfil...", ChangeSource},
+    {nullptr},
+    {"mPopupDeleteFiles", 114},
+    {nullptr},
+    {"mPopupShowDoc",     0, "Visa dokument &efter installation..."},
+    {"mPopupFileInfo",    119},
+};
+// clang-format on
+
+Action ActionOf(const PopupEntry& entry)
+{
+    return entry.id != 0 ? FindAction(entry.id) : entry.action;
+}
+
+QString CaptionOf(const PopupEntry& entry)
+{
+    const Command* command = FindCommand(entry.id);
+    return command ? ToQt(command->caption) : QString::fromUtf8(entry.caption);
+}
+
+void AddEntry(const PopupEntry& entry, MainForm& form, QMenu& menu)
+{
+    const Action action = ActionOf(entry);
+    QAction* shown = menu.addAction(CaptionOf(entry));
+    shown->setObjectName(entry.name);
+    if (entry.id != 0)
+        shown->setIcon(CommandIcon(entry.id));
+    shown->setEnabled(action != nullptr);
+    shown->setVisible(entry.name != kComponentNumber ||
+                      IsAnyComponentInUse(form.GetSession().project));
+    QObject::connect(shown, &QAction::triggered, &form, [&form, action] { form.Run(action); });
+}
+
+} // namespace
+
+QMenu* MakePopupFileList(MainForm& form)
+{
+    auto* menu = new QMenu(&form);
+    menu->setObjectName("menuPopupFileList");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const PopupEntry& entry : kEntries)
+        if (entry.name)
+            AddEntry(entry, form, *menu);
+        else
+            menu->addSeparator();
+    return menu;
+}
+
+void ShowPopupFileList(MainForm& form, const QPoint& onScreen)
+{
+    MakePopupFileList(form)->popup(onScreen);
+}
+
+} // namespace quillon

@@ -1,0 +1,26 @@
+// How the setup copies a file: a box for each letter of the column "Inst".
+#pragma once
+
+#include "filelist/copy_options.h"
+#include "ui/Form.h"
+
+namespace quillon {
+
+class DlgCopyOptions : public Form {
+public:
+    DlgCopyOptions(const CopyOptionTicks& ticks, QWidget* parent);
+
+    // After OK.
+    Text Letters;
+
+protected:
+    void Store() override;
+
+private:
+    QCheckBox* BoxOf(char letter) const;
+    QCheckBox* MakeBox(std::size_t number, bool isTicked);
+
+    std::array<QCheckBox*, kCopyOptionBoxes> boxes_{}; // in the order of kCopyOptions
+};
+
+} // namespace quillon

@@ -1,0 +1,24 @@
+// Where the icon of a file stands beside the program group.
+#pragma once
+
+#include "filelist/icon_row.h"
+#include "ui/Form.h"
+
+namespace quillon {
+
+class DlgIconOptions : public Form {
+public:
+    DlgIconOptions(const IconPlaces& places, QWidget* parent);
+
+    // After OK.
+    IconPlaces Places;
+
+    QCheckBox* cIconOnDesktop = nullptr;
+    QCheckBox* cIconOnStartMenu = nullptr;
+    QCheckBox* cIconOnProgramMenu = nullptr;
+
+protected:
+    void Store() override;
+};
+
+} // namespace quillon
