@@ -195,8 +195,8 @@ TEST_F(PerFileCommands, StandInThePopupMenu)
     EXPECT_THAT(names, ElementsAre("mPopupCopyOptions", "mPopupIcon", "mPopupCompNr",
                                    "mPopupDestDir", "mPopupSrcFile", "mPopupDeleteFiles",
                                    "mPopupShowDoc", "mPopupFileInfo"));
-    for (const char* name :
-         {"mPopupCopyOptions", "mPopupIcon", "mPopupDeleteFiles", "mPopupFileInfo"})
+    for (const char* name : {"mPopupCopyOptions", "mPopupIcon", "mPopupDestDir", "mPopupSrcFile",
+                             "mPopupDeleteFiles", "mPopupFileInfo"})
         EXPECT_TRUE(menu.findChild<QAction*>(name)->isEnabled()) << name;
     EXPECT_FALSE(menu.findChild<QAction*>("mPopupShowDoc")->isEnabled());
     SavePicture(menu, "menuPopupFileList");
@@ -205,10 +205,13 @@ TEST_F(PerFileCommands, StandInThePopupMenu)
 
 TEST_F(PerFileCommands, AreRunFromThePopupMenu)
 {
+    session.project.FileComponents[4] = {.Comp = 1, .CompName = "Fem"};
     OpenRows();
     for (const auto& [entry, dialog] :
          {std::pair{"mPopupCopyOptions", "DlgCopyOptions"}, std::pair{"mPopupIcon", "DlgIcon"},
-          std::pair{"mPopupFileInfo", "DlgFileInfo"}}) {
+          std::pair{"mPopupFileInfo", "DlgFileInfo"},
+          std::pair{"mPopupSrcFile", "DlgChangeSrcPath"},
+          std::pair{"mPopupCompNr", "DlgChCompNr"}}) {
         QMenu& menu = OpenPopup(1);
         Text shown;
         OnNextDialog([&](QDialog& opened) { shown = FromQt(opened.objectName()); });
