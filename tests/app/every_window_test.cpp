@@ -4,15 +4,23 @@
 #include "builder/forms/DlgCompressOptions.h"
 #include "builder/forms/DlgCreate.h"
 #include "filelist/forms/DlgChCompNr.h"
+#include "filelist/forms/DlgChVariables.h"
 #include "filelist/forms/DlgChangeSrcPath.h"
 #include "filelist/forms/DlgCompMoreData.h"
 #include "filelist/forms/DlgCompMoreDataAdv.h"
 #include "filelist/forms/DlgCompShortList.h"
+#include "filelist/forms/DlgCopyOptions.h"
 #include "filelist/forms/DlgDestDirVars.h"
 #include "filelist/forms/DlgDestinationDirectory.h"
+#include "filelist/forms/DlgFileInfo.h"
 #include "filelist/forms/DlgFindReplaceData.h"
+#include "filelist/forms/DlgIcon.h"
+#include "filelist/forms/DlgIconOptions.h"
+#include "filelist/forms/DlgIconX.h"
+#include "filelist/forms/DlgMDADetails.h"
 #include "filelist/forms/DlgShowDestDirectories.h"
 #include "filelist/forms/DlgSortList.h"
+#include "filelist/forms/DlgVariables.h"
 #include "filelist/forms/RecursiveCollect.h"
 #include "importers/forms/DlgCompareLstFile.h"
 #include "shell/forms/DlgAbout.h"
@@ -68,24 +76,37 @@ section::FileComponent& FirstComponent(Subject subject)
 const TreeToAdd kTree{.StartDirectory = "C:\\Data\\Program", .BaseDestination = "%DESTDIR"};
 const std::vector<Text> kComponents{"Ingen komponent", "Komponent nr 1 - 'Ordböcker'"};
 
+FileListRow& FirstRow(Subject subject)
+{
+    return subject.session.project.Files.rows.front();
+}
+
 // clang-format off
 const WindowCase kWindows[] = {
     {"DlgAbout", [](Subject) { return Made<DlgAbout>(); }},
     {"DlgChangeSrcPath", [](Subject of) { return Made<DlgChangeSrcPath>("c:\\data\\a.txt", of.session); }},
     {"DlgChCompNr", [](Subject of) { return Made<DlgChCompNr>("1", of.session); }},
+    {"DlgChVariables", OfSession<DlgChVariables>},
     {"DlgCompareLstFile", OfSession<DlgCompareLstFile>},
     {"DlgCompMoreData", [](Subject of) { return Made<DlgCompMoreData>(0U, of.session); }},
     {"DlgCompMoreDataAdv", [](Subject of) { return Made<DlgCompMoreDataAdv>(FirstComponent(of), of.session); }},
     {"DlgCompressOptions", [](Subject of) { return Made<DlgCompressOptions>(of.session, of.create); }},
     {"DlgCompShortList", [](Subject) { return Made<DlgCompShortList>(kComponents); }},
+    {"DlgCopyOptions", [](Subject) { return Made<DlgCopyOptions>(CopyOptionTicks{}); }},
     {"DlgCreate", OfSession<DlgCreate>},
     {"DlgCreateFoldersAtMyDoc", OfSession<DlgCreateFoldersAtMyDoc>},
     {"DlgDestDirVars", [](Subject) { return Made<DlgDestDirVars>(); }},
     {"DlgDestinationDirectory", [](Subject of) { return Made<DlgDestinationDirectory>(DestinationQuestion{}, of.session); }},
     {"DlgEditorOptions", OfSession<DlgEditorOptions>},
+    {"DlgFileInfo", [](Subject of) { return Made<DlgFileInfo>(FirstRow(of), of.session); }},
     {"DlgFindReplaceData", [](Subject of) { return Made<DlgFindReplaceData>(ReplaceIn::Destinations, "%DESTDIR", of.session); }},
+    {"DlgIcon", [](Subject of) { return Made<DlgIcon>(FirstRow(of), of.session); }},
+    {"DlgIconOptions", [](Subject) { return Made<DlgIconOptions>(IconPlaces{}); }},
+    {"DlgIconX", [](Subject of) { return Made<DlgIconX>(FirstRow(of), of.session); }},
+    {"DlgMDADetails", OfSession<DlgMDADetails>},
     {"DlgShowDestDirectories", [](Subject) { return Made<DlgShowDestDirectories>(); }},
     {"DlgSortList", [](Subject of) { return Made<DlgSortList>(of.session.project); }},
+    {"DlgVariables", [](Subject of) { return Made<DlgVariables>(of.session, DlgVariables::Use::Picker); }},
     {"DlgVersionInfo", OfSession<DlgVersionInfo>},
     {"RecursiveCollect", [](Subject of) { return Made<RecursiveCollect>(WorkOn(of.session), kTree); }},
     {"SelectDir", [](Subject of) { return Made<SelectDir>(of.session.host.files, of.session.ask, "Välj en katalog.", "C:\\Data"); }},
@@ -98,6 +119,11 @@ protected:
     EveryWindow()
     {
         machine.files.PutFolder("C:\\Data\\Program");
+        // A package with options of its own, so that their button shows.
+        machine.files.Put("C:\\Data\\MDAC_TYP.ZIP", "x");
+        FileListRow& row = session.project.Files.rows.emplace_back();
+        row[Filename] = "MDAC_TYP.ZIP";
+        row[Source] = "c:\\data\\mdac_typ.zip";
         for (section::FileComponent& component : session.project.FileComponents)
             component.Comp = 1;
     }
