@@ -79,4 +79,9 @@ function(quillon_window_test folder)
   target_precompile_headers(${folder}_test PRIVATE <QtWidgets/QtWidgets> <QtTest/QTest>
                             <gtest/gtest.h>)
   add_test(NAME ${folder} COMMAND ${folder}_test)
+  if(NOT QUILLON_SANITIZE)
+    # Once more on a screen of twice the points, whose pictures end in "@2x".
+    add_test(NAME ${folder}_200 COMMAND ${folder}_test)
+    set_tests_properties(${folder}_200 PROPERTIES ENVIRONMENT QT_SCALE_FACTOR=2)
+  endif()
 endfunction()

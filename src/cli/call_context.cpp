@@ -1,6 +1,7 @@
 #include "cli/call_context.h"
 
 #include "helpers/number_text.h"
+#include "helpers/windows_path.h"
 
 #include <cctype>
 #include <ostream>
@@ -23,7 +24,7 @@ Text CallContext::Path(const std::string& argument) const
     if (argument.empty())
         throw UsageError{"En sökväg är tom."};
     if (IsWindowsPath(argument))
-        return ReplaceAll(argument, "/", "\\");
+        return ResolvePath(argument);
     const auto path = toWindows(argument);
     if (!path)
         throw UsageError{"Sökvägen '" + argument +

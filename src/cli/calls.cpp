@@ -80,7 +80,7 @@ std::span<const Call> AllCalls()
          RefreshRows},
         {"sort",
          {"PROJEKT"},
-         {{"--by", "NYCKEL", "Vad raderna sorteras efter",
+         {{"--by", "NYCKEL", "Vad raderna sorteras efter; name om inget anges",
            "name|destination|date|time|component|extension"},
           kJson},
          "Sorterar fillistan.",

@@ -40,11 +40,12 @@ std::vector<std::size_t> SelectByOperands(const CallContext& context, const File
     return SelectRows(files, std::span(context.arguments.operands).subspan(first, count));
 }
 
-std::vector<std::size_t> RowsWithoutFile(const FileList& files)
+// The mark of a vanished file stays on its row when the file comes back.
+std::vector<std::size_t> RowsWithoutFile(const FileList& list, const FileSystem& files)
 {
     std::vector<std::size_t> rows;
-    for (std::size_t i = 0; i < files.rows.size(); ++i)
-        if (files.rows[i][Destination] == "<Filen saknas>")
+    for (std::size_t i = 0; i < list.rows.size(); ++i)
+        if (list.rows[i].HasSource() && !files.FileExists(list.rows[i][Source]))
             rows.push_back(i);
     return rows;
 }
@@ -66,7 +67,7 @@ Exit RefreshRows(const CallContext& context)
 {
     ProjectEdit edit(context, context.PathOperand(0));
     UpdateFileListCommand(edit.Work(), [](const NewPlaces&) {});
-    const auto missing = RowsWithoutFile(edit.Files());
+    const auto missing = RowsWithoutFile(edit.Files(), context.host.files);
     return edit.Save("Uppdaterade rader: " + CountText(edit.Files().rows.size()) +
                          ", filer som saknas: " + CountText(missing.size()) + "\n",
                      {{"missing", RowsJson(edit.Files(), missing)}});
@@ -74,16 +75,14 @@ Exit RefreshRows(const CallContext& context)
 
 Exit SortFileList(const CallContext& context)
 {
-    const auto word = context.arguments.Value("--by");
-    if (!word)
-        throw UsageError{"Kommandot sort saknar växeln --by."};
+    const std::string word = context.arguments.Value("--by").value_or("name");
     ProjectEdit edit(context, context.PathOperand(0));
-    const Column key = std::ranges::find(kSortWords, *word, &SortWord::word)->key;
+    const Column key = std::ranges::find(kSortWords, word, &SortWord::word)->key;
     if (key == ComponentNumber && !IsAnyComponentInUse(edit.session.project))
         throw CallFailure{"Projektet har inga komponenter.", Exit::Stopped};
     SortRowsBy(edit.Files(), key);
     return edit.Save("Sorterade rader: " + CountText(edit.Files().rows.size()) + "\n",
-                     {{"by", *word}});
+                     {{"by", word}});
 }
 
 Exit CompareLstFile(const CallContext& context)

@@ -2,7 +2,7 @@
 #include "cli/calls.h"
 #include "cli/project_edit.h"
 #include "cli/row_pattern.h"
-#include "filelist/row_options.h"
+#include "filelist/copy_options.h"
 
 #include <algorithm>
 
@@ -35,9 +35,9 @@ Text OrderedOptions(const Text& typed)
         throw UsageError{"Högst en av inställningarna D, V och N kan väljas."};
     if (isChosen('E') && !isChosen('V'))
         throw UsageError{"Inställningen E kan väljas endast tillsammans med V."};
-    Text ordered;
-    std::ranges::copy_if(offered, std::back_inserter(ordered), isChosen);
-    return ordered;
+    CopyOptionTicks ticks{};
+    std::ranges::transform(offered, ticks.begin(), isChosen);
+    return CopyOptionLetters(ticks);
 }
 
 } // namespace
@@ -50,8 +50,7 @@ Exit SetCopyOptions(const CallContext& context)
     const auto hasSource = [&](std::size_t row) { return edit.Files().rows[row].HasSource(); };
     if (std::ranges::none_of(rows, hasSource))
         throw CallFailure{"Tomma kataloger har inga kopieringsinställningar.", Exit::Stopped};
-    for (const std::size_t row : rows)
-        edit.Files().rows[row][CopyOptions] = options;
+    quillon::SetCopyOptions(edit.Files(), rows, options);
     return edit.Save("Kopieringsinställningar '" + options + "' för rader: " +
                          NumberText(static_cast<std::int64_t>(rows.size())) + "\n",
                      {{"options", options}, {"changedRows", RowsJson(edit.Files(), rows)}});

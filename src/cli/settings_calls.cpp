@@ -17,7 +17,8 @@ Text DemandValue(const CallContext& context, const char* option)
     return *value;
 }
 
-// The main folder obeys the rules of its field in the window.
+// The rules of the main folder's field in the window. Nobody is there to correct it, so what the
+// window only tells ends the call.
 void CheckMainFolder(ProjectEdit& edit)
 {
     Text& folder = edit.session.project.InstallDirectories.DestinationDirectory;

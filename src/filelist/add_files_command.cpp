@@ -70,7 +70,7 @@ std::optional<NewPlaces> AddFilesCommand(const ListWork& work, Text& lastAddFile
     const std::optional<AddTarget> target = ChooseAddTarget(work, paths);
     if (!target)
         return std::nullopt;
-    if (LiesInRoot(paths.front())) {
+    if (std::ranges::any_of(paths, LiesInRoot)) {
         RefuseFilesInRoot(work.ask);
         return std::nullopt;
     }

@@ -97,7 +97,7 @@ void SetIconOfIconFile(FileListRow& row, RowIcon icon)
 
 void CheckExternalIconFile(const Text& path, Ask& ask)
 {
-    if (path.size() >= 2 && path[1] == ':')
+    if (CharacterCount(path) >= 2 && FirstCharacters(path, 2).ends_with(':'))
         ask.Inform("Viktig Information", kDriveInIconFile);
     const Text upperPath = UpperCase(path);
     if (ContainsText(upperPath, ".JPG") || ContainsText(upperPath, ".JPEG"))

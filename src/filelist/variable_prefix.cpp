@@ -54,4 +54,12 @@ void WarnIfLowerCaseVariable(std::string_view text, const Text& fieldName, Ask& 
                  "'! En variabel får endast bestå av versaler, tex '%DESTDIR'.");
 }
 
+Text TidyProgramPath(std::string_view typed)
+{
+    if (typed.ends_with('\\'))
+        typed.remove_suffix(1);
+    const std::size_t variable = typed.find("\\%");
+    return Text(variable == std::string_view::npos ? typed : typed.substr(variable + 1));
+}
+
 } // namespace quillon

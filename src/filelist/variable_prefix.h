@@ -26,4 +26,8 @@ std::optional<Text> CompleteVariablePrefix(std::string_view text, PrefixTable ta
 /// caption of the field as the user reads it.
 void WarnIfLowerCaseVariable(std::string_view text, const Text& fieldName, Ask& ask);
 
+/// A program's or document's path as its field is left: without a trailing backslash, and without
+/// the folders that a file dialog put in front of a variable.
+Text TidyProgramPath(std::string_view typed);
+
 } // namespace quillon

@@ -228,9 +228,8 @@ void SelectDir::FollowTree()
 Text SelectDir::TypedFolder() const
 {
     const Text typed = TrimBlanks(FromQt(sDirectory->text()));
-    if (typed.size() == 2 && typed[1] == ':')
-        return typed + "\\";
-    return typed.size() > 3 ? RemoveLastBackslash(typed) : typed;
+    // In its plain form: rows take their sources from it, and compare them as texts.
+    return ResolvePath(typed);
 }
 
 void SelectDir::FollowTyping()
@@ -267,7 +266,9 @@ void SelectDir::MakeNewDirectory()
 bool SelectDir::MayClose()
 {
     const Text folder = TypedFolder();
-    if (!RootOf(folder).empty() && files_.DirExists(folder))
+    // "C:Data" has no place that is the same for everybody.
+    const bool isWhole = folder.size() > 2 && folder[2] == '\\';
+    if (isWhole && !RootOf(folder).empty() && files_.DirExists(folder))
         return true;
     ask_.Inform("Katalogen existerar inte", folder.empty()
                                                 ? "Välj en katalog först!"

@@ -84,7 +84,7 @@ Piece Growing(Piece piece, int stretch)
 
 QGroupBox* Frame(const Text& caption, Pieces pieces)
 {
-    auto* frame = new QGroupBox(ToQt(caption).trimmed());
+    auto* frame = new QGroupBox(ToQt(caption));
     frame->setLayout(Down(pieces).layout);
     // A lone field in a frame has the frame's caption for a name.
     for (const Piece& piece : pieces)

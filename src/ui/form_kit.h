@@ -45,8 +45,7 @@ Piece Stretch();
 /// The piece takes `stretch` parts of what is left over.
 Piece Growing(Piece piece, int stretch = 1);
 
-/// A box with a caption round a column of pieces. The blanks with which captions are set off do not
-/// show.
+/// A box with a caption round a column of pieces.
 QGroupBox* Frame(const Text& caption, Pieces pieces);
 
 struct LabelledPiece {

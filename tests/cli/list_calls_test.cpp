@@ -64,7 +64,12 @@ TEST_F(ListCalls, SortsByEachKeyOfTheDialog)
     EXPECT_THAT(Rows(Filename), ElementsAre("a.txt", "b.dll", "Prog.exe"));
     ExpectRefused({"sort", "--by", "component"}, 1, "Projektet har inga komponenter.");
     ExpectRefused({"sort", "--by", "size"}, 2, "kan ej vara 'size'");
-    ExpectRefused({"sort"}, 2, "saknar växeln --by");
+    Done({"sort", "--by", "destination"});
+    // What stands in an order of its own keeps it.
+    ExpectUntouched({"refresh"});
+    ExpectUntouched({"sort", "--by", "destination"});
+    EXPECT_EQ(DoneAsObject({"sort"})["by"], "name");
+    ExpectUntouched({"sort", "--by", "name"});
 }
 
 TEST_F(ListCalls, ReplacesDestinationsSourcesAndOptions)

@@ -64,5 +64,20 @@ TEST(WarnIfLowerCaseVariable, LooksAtTheFirstLetterOfTheFirstVariableAlone)
         WarnIfLowerCaseVariable(text, "Filnamn", ask);
 }
 
+TEST(TidyProgramPath, DropsTheLastBackslashAndWhatStandsBeforeAVariable)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"C:\\Temp\\%DESTDIR\\Prog.exe", "%DESTDIR\\Prog.exe"},
+        {"%DESTDIR\\", "%DESTDIR"},
+        {"C:\\%WINDIR\\", "%WINDIR"},
+        {"C:\\a\\%DESTDIR\\%REG1", "%DESTDIR\\%REG1"},
+        {"C:\\Prog.exe", "C:\\Prog.exe"},
+        {"\\", ""},
+        {"", ""},
+    };
+    for (const auto& [typed, tidied] : cases)
+        EXPECT_EQ(TidyProgramPath(typed), tidied) << typed;
+}
+
 } // namespace
 } // namespace quillon::test

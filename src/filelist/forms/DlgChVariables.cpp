@@ -94,7 +94,14 @@ void DlgChVariables::SelectFile()
         session_.ask.OpenFile({.title = "Välj fil",
                                .folder = "c:\\",
                                .filter = "Binära filer (*.dll;*.ocx;*.exe)|*.dll;*.ocx;*.exe"});
-    if (path)
+    if (!path)
+        return;
+    // The field would cut it, and name another file.
+    if (ToQt(*path).size() > tVerXProductVersion->maxLength())
+        session_.ask.Inform("Ogiltig fil", "Sökvägen '" + *path + "' är längre än " +
+                                               NumberText(tVerXProductVersion->maxLength()) +
+                                               " tecken!");
+    else
         tVerXProductVersion->setText(ToQt(*path));
 }
 

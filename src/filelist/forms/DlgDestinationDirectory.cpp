@@ -2,6 +2,7 @@
 
 #include "filelist/destination_choice.h"
 #include "filelist/forms/DlgDestDirVars.h"
+#include "helpers/windows_path.h"
 #include "ui/complete_variable.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
@@ -49,7 +50,7 @@ void DlgDestinationDirectory::MakeDirectory(const Text& folder)
     for (const Text& recent : RecentDestinationDirectories(session_.state))
         ctDirectory->addItem(ToQt(recent));
     ctDirectory->setEditText(ToQt(folder));
-    LimitTyping(ctDirectory->lineEdit(), 0);
+    LimitTyping(ctDirectory->lineEdit(), static_cast<int>(kLongestPath));
     CompleteVariables(ctDirectory->lineEdit(), PrefixTable::Folder);
 }
 
