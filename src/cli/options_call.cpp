@@ -47,8 +47,7 @@ Exit SetCopyOptions(const CallContext& context)
     const Text options = OrderedOptions(context.arguments.operands[2]);
     ProjectEdit edit(context, context.PathOperand(0));
     const auto rows = SelectRows(edit.Files(), std::span(context.arguments.operands).subspan(1, 1));
-    const auto hasSource = [&](std::size_t row) { return edit.Files().rows[row].HasSource(); };
-    if (std::ranges::none_of(rows, hasSource))
+    if (!CanHaveCopyOptions(edit.Files(), rows))
         throw CallFailure{"Tomma kataloger har inga kopieringsinställningar.", Exit::Stopped};
     quillon::SetCopyOptions(edit.Files(), rows, options);
     return edit.Save("Kopieringsinställningar '" + options + "' för rader: " +

@@ -119,14 +119,4 @@ bool CheckCommandLine(const Text& commandLine, Ask& ask)
     return !ask.YesNo("Kommandoraden", kNoQuotes, Ask::Stops::OnYes);
 }
 
-bool CanStandInRow(const Text& text, const Text& fieldName, Ask& ask)
-{
-    if (!ContainsText(text, ";"))
-        return true;
-    ask.Critical("Ogiltiga tecken hittade",
-                 "Fältet '" + fieldName +
-                     "' innehåller ogiltiga tecken! Semikolon skiljer fälten åt i fillistan.");
-    return false;
-}
-
 } // namespace quillon

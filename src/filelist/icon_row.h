@@ -54,7 +54,4 @@ void CheckExternalIconFile(const Text& path, Ask& ask);
 /// its end.
 bool CheckCommandLine(const Text& commandLine, Ask& ask);
 
-/// False, and tells why, where a text holds what ends a field of the file list.
-bool CanStandInRow(const Text& text, const Text& fieldName, Ask& ask);
-
 } // namespace quillon

@@ -67,6 +67,9 @@ public:
     virtual void StartProgram(const Text& program, const Text& arguments) = 0;
     /// Opens a document in the program that the system assigns to it; the same failures.
     virtual void OpenDocument(const Text& path) = 0;
+    /// Opens a text file, whatever its extension, in Windows' own editor or, on another system, in
+    /// the one that its user has chosen for texts; the same failures.
+    virtual void EditTextFile(const Text& path) = 0;
 };
 
 } // namespace quillon

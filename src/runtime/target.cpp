@@ -1,39 +1,30 @@
 #include "runtime/target.h"
 
+#include "platform/registry_roots.h"
+
 namespace quillon {
 
 namespace {
 
-struct NamedRoot {
-    const char* name;
-    const char* shortName;
-    RegistryRoot root;
-};
-
-constexpr NamedRoot kRoots[] = {
-    {"HKEY_CLASSES_ROOT", "HKCR", RegistryRoot::ClassesRoot},
-    {"HKEY_CURRENT_USER", "HKCU", RegistryRoot::CurrentUser},
-    {"HKEY_LOCAL_MACHINE", "HKLM", RegistryRoot::LocalMachine},
-    {"HKEY_USERS", "HKU", RegistryRoot::Users},
-    {"HKEY_CURRENT_CONFIG", "HKCC", RegistryRoot::CurrentConfig},
-    {"HKEY_DYN_DATA", "HKDD", RegistryRoot::DynData},
-};
+// The short names, in the order of the long ones.
+constexpr std::array<const char*, kRegistryRoots.size()> kShortNames = {"HKCR", "HKCU", "HKLM",
+                                                                        "HKU",  "HKCC", "HKDD"};
 
 } // namespace
 
 std::optional<RegistryRoot> RootNamed(std::string_view name)
 {
-    for (const NamedRoot& row : kRoots)
-        if (EqualIgnoreCase(name, row.name) || EqualIgnoreCase(name, row.shortName))
-            return row.root;
+    for (std::size_t i = 0; i < kRegistryRoots.size(); ++i)
+        if (EqualIgnoreCase(name, kRegistryRoots[i]) || EqualIgnoreCase(name, kShortNames[i]))
+            return RegistryRootAt(i);
     return std::nullopt;
 }
 
 Text RootName(RegistryRoot root)
 {
-    for (const NamedRoot& row : kRoots)
-        if (row.root == root)
-            return row.name;
+    for (std::size_t i = 0; i < kRegistryRoots.size(); ++i)
+        if (RegistryRootAt(i) == root)
+            return kRegistryRoots[i];
     return {};
 }
 

@@ -40,30 +40,51 @@ int BytesOnFile(const QString& text)
     return static_cast<int>(text.size() + text.count('\n'));
 }
 
+// The text that was put into an area by the change that its watcher is told of.
+class AddedText {
+public:
+    explicit AddedText(QPlainTextEdit* area) : area_(area)
+    {
+        QObject::connect(area->document(), &QTextDocument::contentsChange, area,
+                         [this](int position, int, int added) {
+                             position_ = position;
+                             added_ = added;
+                         });
+    }
+
+    /// Has it selected; nothing is where nothing was added since the last call.
+    QTextCursor Take()
+    {
+        const int end =
+            std::min(position_ + std::exchange(added_, 0), area_->document()->characterCount() - 1);
+        QTextCursor cursor(area_->document());
+        if (end > position_) {
+            cursor.setPosition(position_);
+            cursor.setPosition(end, QTextCursor::KeepAnchor);
+        }
+        return cursor;
+    }
+
+private:
+    QPlainTextEdit* area_;
+    int position_ = 0;
+    int added_ = 0;
+};
+
 // Takes back out of an area what was just put in and cannot stay. What stood there before is never
 // cut, not even where a project came with more than may be typed.
 class AreaLimit : public QObject {
 public:
-    AreaLimit(QPlainTextEdit* area, int longest) : QObject(area), area_(area), longest_(longest)
+    AreaLimit(QPlainTextEdit* area, int longest)
+        : QObject(area), area_(area), added_(area), longest_(longest)
     {
-        connect(area->document(), &QTextDocument::contentsChange, this,
-                [this](int position, int, int added) {
-                    position_ = position;
-                    added_ = added;
-                });
         connect(area, &QPlainTextEdit::textChanged, this, [this] { TakeBack(); });
     }
 
 private:
     void TakeBack()
     {
-        const int end =
-            std::min(position_ + std::exchange(added_, 0), area_->document()->characterCount() - 1);
-        if (end <= position_)
-            return;
-        QTextCursor cursor(area_->document());
-        cursor.setPosition(position_);
-        cursor.setPosition(end, QTextCursor::KeepAnchor);
+        QTextCursor cursor = added_.Take();
         const QString added = WithLineFeeds(cursor.selectedText());
         const QString kept = Holdable(added, RoomFor(added));
         if (kept == added)
@@ -83,22 +104,16 @@ private:
     }
 
     QPlainTextEdit* area_;
+    AddedText added_;
     int longest_;
-    int position_ = 0;
-    int added_ = 0;
 };
 
 // Looks at what was just put in alone, as `AreaLimit` does.
 class OneLine : public QObject {
 public:
-    explicit OneLine(QPlainTextEdit* area) : QObject(area), area_(area)
+    explicit OneLine(QPlainTextEdit* area) : QObject(area), added_(area)
     {
         area->installEventFilter(this);
-        connect(area->document(), &QTextDocument::contentsChange, this,
-                [this](int position, int, int added) {
-                    position_ = position;
-                    added_ = added;
-                });
         connect(area, &QPlainTextEdit::textChanged, this, [this] { TakeBreaksOut(); });
     }
 
@@ -118,21 +133,13 @@ public:
 private:
     void TakeBreaksOut()
     {
-        const int end =
-            std::min(position_ + std::exchange(added_, 0), area_->document()->characterCount() - 1);
-        if (end <= position_)
-            return;
-        QTextCursor cursor(area_->document());
-        cursor.setPosition(position_);
-        cursor.setPosition(end, QTextCursor::KeepAnchor);
+        QTextCursor cursor = added_.Take();
         QString added = WithLineFeeds(cursor.selectedText());
         if (added.contains('\n'))
             cursor.insertText(added.replace('\n', ' '));
     }
 
-    QPlainTextEdit* area_;
-    int position_ = 0;
-    int added_ = 0;
+    AddedText added_;
 };
 
 class LeaveWatch : public QObject {

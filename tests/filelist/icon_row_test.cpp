@@ -204,14 +204,5 @@ TEST(CheckCommandLine, SaysWhichAnswerStopsWhoCannotBeAsked)
     EXPECT_EQ(ask.stops, (std::vector{Ask::Stops::OnNo, Ask::Stops::OnYes}));
 }
 
-TEST(CanStandInRow, RefusesWhatEndsAField)
-{
-    ScriptedAsk ask({{BoxKind::Critical, "Ogiltiga tecken hittade",
-                      "Fältet 'Parametrar' innehåller ogiltiga tecken! Semikolon skiljer fälten åt "
-                      "i fillistan."}});
-    EXPECT_TRUE(CanStandInRow("a:b", "Parametrar", ask));
-    EXPECT_FALSE(CanStandInRow("a;b", "Parametrar", ask));
-}
-
 } // namespace
 } // namespace quillon::test

@@ -187,7 +187,8 @@ TEST_F(DlgIconTest, StaysOpenOverASemicolon)
         Type(form, name, "a;b");
         ask.Expect({BoxKind::Critical, "Ogiltiga tecken hittade",
                     Text("Fältet '") + spoken +
-                        "' innehåller ogiltiga tecken! Semikolon skiljer fälten åt i fillistan."});
+                        "' innehåller ogiltiga tecken! Semikolon kan inte användas, eftersom det "
+                        "skiljer fälten i projektfilen åt."});
         Click(form, "cmdOK");
         EXPECT_TRUE(form.isVisible());
         EXPECT_TRUE(Find<QLineEdit>(form, name).hasFocus()) << name;

@@ -305,4 +305,9 @@ void FixedMachine::OpenDocument(const Text& path)
     StartProgram(path, "");
 }
 
+void FixedMachine::EditTextFile(const Text& path)
+{
+    StartProgram("NOTEPAD.EXE", path);
+}
+
 } // namespace quillon::test

@@ -92,6 +92,7 @@ public:
     std::uint32_t Random(std::uint32_t below) override;
     void StartProgram(const Text& program, const Text& arguments) override;
     void OpenDocument(const Text& path) override;
+    void EditTextFile(const Text& path) override;
 
     using RegistryKey = std::tuple<RegistryRoot, Text, Text>;
     std::map<RegistryKey, Text> registry;

@@ -109,6 +109,7 @@ public:
     std::uint32_t Random(std::uint32_t) override { return 0; }
     void StartProgram(const Text&, const Text&) override {}
     void OpenDocument(const Text&) override {}
+    void EditTextFile(const Text&) override {}
 };
 
 class SilentUser : public Ask {

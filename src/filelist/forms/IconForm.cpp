@@ -1,6 +1,7 @@
 #include "filelist/forms/IconForm.h"
 
 #include "filelist/forms/DlgIconOptions.h"
+#include "filelist/row_text.h"
 #include "shell/session.h"
 #include "ui/complete_variable.h"
 #include "ui/qt_text.h"
@@ -39,7 +40,8 @@ void IconForm::ChoosePlace()
 
 bool IconForm::CanStore(QLineEdit* field)
 {
-    if (CanStandInRow(FromQt(field->text()), FromQt(field->accessibleName()), session_.ask))
+    if (MayStandInRow(FromQt(field->text()), "Fältet '" + FromQt(field->accessibleName()) + "'",
+                      session_.ask))
         return true;
     field->setFocus();
     return false;

@@ -181,4 +181,10 @@ void PosixMachine::OpenDocument(const Text& path)
     StartOrFail({FindOnPath("xdg-open"), target}, path);
 }
 
+// The desktop tells a text from what is in the file, so its extension need not be known to it.
+void PosixMachine::EditTextFile(const Text& path)
+{
+    OpenDocument(path);
+}
+
 } // namespace quillon

@@ -39,6 +39,7 @@ public:
 
     void StartProgram(const Text& program, const Text& arguments) override;
     void OpenDocument(const Text& path) override;
+    void EditTextFile(const Text& path) override;
 
 private:
     /// The path where it is a folder, else empty.

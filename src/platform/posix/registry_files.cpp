@@ -4,6 +4,7 @@
 #include "helpers/number_text.h"
 #include "helpers/utf16.h"
 #include "helpers/utf8.h"
+#include "platform/registry_roots.h"
 
 #include <charconv>
 
@@ -12,19 +13,6 @@ namespace quillon {
 namespace {
 
 constexpr std::string_view kFirstLines[] = {"REGEDIT4", "Windows Registry Editor Version 5.00"};
-
-struct RootName {
-    std::string_view name;
-    RegistryRoot root;
-};
-constexpr RootName kRoots[] = {
-    {"HKEY_CLASSES_ROOT", RegistryRoot::ClassesRoot},
-    {"HKEY_CURRENT_USER", RegistryRoot::CurrentUser},
-    {"HKEY_LOCAL_MACHINE", RegistryRoot::LocalMachine},
-    {"HKEY_USERS", RegistryRoot::Users},
-    {"HKEY_CURRENT_CONFIG", RegistryRoot::CurrentConfig},
-    {"HKEY_DYN_DATA", RegistryRoot::DynData},
-};
 
 /// Exports come in UTF-16, the old kind in the code page; a file written here by hand is UTF-8.
 Text Decode(std::string_view bytes)
@@ -90,9 +78,9 @@ KeyLine ReadKeyLine(std::string_view line)
     key.isRemoval = !line.empty() && line.front() == '-';
     line.remove_prefix(key.isRemoval ? 1 : 0);
     const std::size_t nameEnd = line.find('\\');
-    for (const RootName& known : kRoots)
-        if (EqualIgnoreCase(line.substr(0, nameEnd), known.name))
-            key.root = known.root;
+    for (std::size_t i = 0; i < kRegistryRoots.size(); ++i)
+        if (EqualIgnoreCase(line.substr(0, nameEnd), kRegistryRoots[i]))
+            key.root = RegistryRootAt(i);
     if (nameEnd != std::string_view::npos)
         key.subKey = LowerCase(line.substr(nameEnd + 1));
     return key;

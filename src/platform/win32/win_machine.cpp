@@ -174,4 +174,9 @@ void WinMachine::OpenDocument(const Text& path)
     OpenByShell(path, {});
 }
 
+void WinMachine::EditTextFile(const Text& path)
+{
+    OpenByShell("NOTEPAD.EXE", path);
+}
+
 } // namespace quillon

@@ -30,6 +30,7 @@ public:
 
     void StartProgram(const Text& program, const Text& arguments) override;
     void OpenDocument(const Text& path) override;
+    void EditTextFile(const Text& path) override;
 };
 
 } // namespace quillon

@@ -1,0 +1,21 @@
+#include "filelist/row_text.h"
+
+#include "support/scripted_ask.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+TEST(MayStandInRow, RefusesWhatEndsAField)
+{
+    ScriptedAsk ask(
+        {{BoxKind::Critical, "Ogiltiga tecken hittade",
+          "Fältet 'Parametrar' innehåller ogiltiga tecken! Semikolon kan inte användas, "
+          "eftersom det skiljer fälten i projektfilen åt."}});
+    EXPECT_TRUE(MayStandInRow("a:b", "Fältet 'Parametrar'", ask));
+    EXPECT_FALSE(MayStandInRow("a;b", "Fältet 'Parametrar'", ask));
+}
+
+} // namespace
+} // namespace quillon::test
