@@ -5,6 +5,7 @@
 #include "ui/typed_text.h"
 
 #include <QtWidgets>
+#include <algorithm>
 
 namespace quillon {
 
@@ -25,6 +26,7 @@ QLineEdit* Form::Field(QLineEdit*& member, const char* name, Text& value, int lo
 {
     auto* field = Named(member, name, new QLineEdit(ToQt(value)));
     LimitTyping(field, longest);
+    limits_.push_back({field, longest});
     Bind([field, &value] { value = FromQt(field->text()); });
     return field;
 }
@@ -34,6 +36,7 @@ QPlainTextEdit* Form::Area(QPlainTextEdit*& member, const char* name, Text& valu
     auto* area = Named(member, name, new QPlainTextEdit(LinesToQt(value)));
     area->setTabChangesFocus(true);
     LimitTyping(area, longest);
+    limits_.push_back({area, longest});
     Bind([area, &value] { value = LinesFromQt(TypedText(area)); });
     return area;
 }
@@ -118,7 +121,10 @@ void Form::PressOk()
     // A field that is still being typed in is left now, with its checks.
     if (QWidget* focus = focusWidget(); focus && cmdOK)
         cmdOK->setFocus();
-    if (!MayClose())
+    const auto isTooLong = [](const Limit& limit) {
+        return TellIfTooLong(limit.field, limit.longest);
+    };
+    if (std::ranges::any_of(limits_, isTooLong) || !MayClose())
         return;
     for (const auto& store : stores_)
         store();

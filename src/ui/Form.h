@@ -71,7 +71,14 @@ private:
     void PressOk();
     void KeepTextWhole();
 
+    // A field whose text the project file cuts at a length.
+    struct Limit {
+        QWidget* field;
+        int longest;
+    };
+
     std::vector<std::function<void()>> stores_;
+    std::vector<Limit> limits_;
 };
 
 /// A form that edits the open project: OK marks it changed.

@@ -11,21 +11,14 @@ namespace quillon {
 
 namespace {
 
-/// The text without the characters that no file can hold, and cut to `longest` bytes on file.
-QString Holdable(const QString& text, int longest = std::numeric_limits<int>::max())
+/// The text without the characters that no file can hold.
+QString Holdable(const QString& text)
 {
     QString kept;
-    int length = 0;
     for (const uint point : text.toUcs4()) {
         const QString character = QString::fromUcs4(reinterpret_cast<const char32_t*>(&point), 1);
-        // A line break stands for two bytes.
-        const int bytes = point == '\n' ? 2 : 1;
-        if (!AnsiText::Holds(FromQt(character)))
-            continue;
-        if (length + bytes > longest)
-            break;
-        length += bytes;
-        kept += character;
+        if (AnsiText::Holds(FromQt(character)))
+            kept += character;
     }
     return kept;
 }
@@ -35,9 +28,18 @@ QString WithLineFeeds(QString raw)
     return raw.replace(QChar::ParagraphSeparator, '\n').replace(QChar::LineSeparator, '\n');
 }
 
+// A line break stands for two bytes.
 int BytesOnFile(const QString& text)
 {
     return static_cast<int>(text.size() + text.count('\n'));
+}
+
+void TellTooLong(QWidget* field, int longest)
+{
+    QToolTip::showText(field->mapToGlobal(QPoint(0, field->height())),
+                       QString("Texten är för lång. Här får högst %1 tecken stå.").arg(longest),
+                       field);
+    QApplication::beep();
 }
 
 // The text that was put into an area by the change that its watcher is told of.
@@ -72,24 +74,47 @@ private:
 };
 
 // Takes back out of an area what was just put in and cannot stay. What stood there before is never
-// cut, not even where a project came with more than may be typed.
+// cut, not even where a project came with more than may be typed; and of a piece that is too long
+// nothing is taken, since half of it might go unnoticed.
 class AreaLimit : public QObject {
 public:
     AreaLimit(QPlainTextEdit* area, int longest)
         : QObject(area), area_(area), added_(area), longest_(longest)
     {
+        Remember();
         connect(area, &QPlainTextEdit::textChanged, this, [this] { TakeBack(); });
     }
 
 private:
     void TakeBack()
     {
+        if (isRestoring_)
+            return;
         QTextCursor cursor = added_.Take();
         const QString added = WithLineFeeds(cursor.selectedText());
-        const QString kept = Holdable(added, RoomFor(added));
-        if (kept == added)
-            return;
-        cursor.insertText(kept);
+        QString kept = Holdable(added);
+        const bool isTooLong = BytesOnFile(kept) > RoomFor(added);
+        if (isTooLong)
+            kept.clear();
+        if (kept != added)
+            Replace(cursor, added, kept);
+        if (isTooLong)
+            TellTooLong(area_, longest_);
+        Remember();
+    }
+
+    void Replace(QTextCursor& cursor, const QString& added, const QString& kept)
+    {
+        const QScopedValueRollback isRestoring(isRestoring_, true);
+        const bool hasReplaced = TypedText(area_).size() != before_.size() + added.size();
+        if (kept.isEmpty() && longest_ > 0 && hasReplaced) {
+            area_->setPlainText(before_);
+            cursor = area_->textCursor();
+            cursor.movePosition(QTextCursor::End);
+            area_->setTextCursor(cursor);
+        } else {
+            cursor.insertText(kept);
+        }
         // Undoing the correction would bring the wrong characters back.
         area_->document()->clearUndoRedoStacks();
         QApplication::beep();
@@ -103,9 +128,55 @@ private:
         return std::max(0, longest_ - BytesOnFile(TypedText(area_)) + BytesOnFile(added));
     }
 
+    void Remember()
+    {
+        if (longest_ > 0)
+            before_ = TypedText(area_);
+    }
+
     QPlainTextEdit* area_;
     AddedText added_;
     int longest_;
+    QString before_;
+    bool isRestoring_ = false;
+};
+
+// The same for a line.
+class LineLimit : public QObject {
+public:
+    explicit LineLimit(QLineEdit* field) : QObject(field), field_(field), before_(field->text())
+    {
+        connect(field, &QLineEdit::inputRejected, this, [this] { TellOfRoom(); });
+        connect(field, &QLineEdit::textEdited, this,
+                [this](const QString& text) { TakeBack(text); });
+        // What the signal says may have been taken back already.
+        connect(field, &QLineEdit::textChanged, this, [this] { before_ = field_->text(); });
+    }
+
+private:
+    /// The field takes as much as it has room for before it tells that it has no more.
+    void TellOfRoom()
+    {
+        if (field_->text().size() < field_->maxLength())
+            return;
+        isCut_ = field_->text() != before_;
+        TellTooLong(field_, field_->maxLength());
+    }
+
+    void TakeBack(const QString& text)
+    {
+        const QString kept = std::exchange(isCut_, false) ? before_ : Holdable(text);
+        if (kept == text)
+            return;
+        const int caret = field_->cursorPosition() - static_cast<int>(text.size() - kept.size());
+        field_->setText(kept);
+        field_->setCursorPosition(std::max(caret, 0));
+        QApplication::beep();
+    }
+
+    QLineEdit* field_;
+    QString before_;
+    bool isCut_ = false;
 };
 
 // Looks at what was just put in alone, as `AreaLimit` does.
@@ -174,23 +245,27 @@ private:
 
 void LimitTyping(QLineEdit* field, int longest)
 {
+    // Setting it cuts what a project may have come with.
     if (longest > 0)
-        field->setMaxLength(longest);
-    QObject::connect(field, &QLineEdit::textEdited, field, [field](const QString& text) {
-        const QString kept = Holdable(text);
-        if (kept == text)
-            return;
-        const auto taken = text.size() - kept.size();
-        const int caret = field->cursorPosition() - static_cast<int>(taken);
-        field->setText(kept);
-        field->setCursorPosition(std::max(caret, 0));
-        QApplication::beep();
-    });
+        field->setMaxLength(std::max(longest, static_cast<int>(field->text().size())));
+    new LineLimit(field);
 }
 
 void LimitTyping(QPlainTextEdit* field, int longest)
 {
     new AreaLimit(field, longest);
+}
+
+bool TellIfTooLong(QWidget* field, int longest)
+{
+    const auto* const line = qobject_cast<QLineEdit*>(field);
+    const auto* const area = qobject_cast<QPlainTextEdit*>(field);
+    const QString text = line ? line->text() : area ? TypedText(area) : QString();
+    if (longest == 0 || BytesOnFile(text) <= longest)
+        return false;
+    field->setFocus();
+    TellTooLong(field, longest);
+    return true;
 }
 
 void KeepOneLine(QPlainTextEdit* area)

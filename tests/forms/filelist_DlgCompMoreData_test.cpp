@@ -132,22 +132,25 @@ TEST_F(DlgCompMoreDataTest, TakesNoMoreThanTheProjectFileHolds)
 {
     DlgCompMoreData form(2, session, nullptr);
     ShowActive(form);
-    QApplication::clipboard()->setText(QString(300, 'x'));
-    form.tCompText->paste();
-    OpenAdvanced(form, [](QDialog& advanced) {
-        for (const char* name : {"tUpdateReferenceFile", "tUpdateInfoBoxTitle"}) {
-            Find<QLineEdit>(advanced, name).selectAll();
-            Find<QLineEdit>(advanced, name).paste();
+    const auto pasteTwice = [](auto& field, int longest) {
+        for (const int length : {longest, longest + 1}) {
+            QApplication::clipboard()->setText(QString(length, length == longest ? 'x' : 'y'));
+            field.selectAll();
+            field.paste();
         }
-        QApplication::clipboard()->setText(QString(400, 'y'));
-        Area(advanced, "tUpdateInfoBoxText").paste();
+    };
+    pasteTwice(*form.tCompText, 249);
+    OpenAdvanced(form, [&](QDialog& advanced) {
+        pasteTwice(Find<QLineEdit>(advanced, "tUpdateReferenceFile"), 127);
+        pasteTwice(Find<QLineEdit>(advanced, "tUpdateInfoBoxTitle"), 127);
+        pasteTwice(Area(advanced, "tUpdateInfoBoxText"), 299);
         Click(advanced, "cmdOK");
     });
     Click(form, "cmdOK");
     EXPECT_EQ(component.CompText, Text(249, 'x'));
     EXPECT_EQ(component.CompAdvUpdateRefFile, Text(127, 'x'));
     EXPECT_EQ(component.CompAdvUpdateInfoBoxTitle, Text(127, 'x'));
-    EXPECT_EQ(component.CompAdvUpdateInfoBoxText, Text(299, 'y'));
+    EXPECT_EQ(component.CompAdvUpdateInfoBoxText, Text(299, 'x'));
 }
 
 TEST_F(DlgCompMoreDataTest, KeepsAdvancedValuesUntilOk)

@@ -79,7 +79,10 @@ TEST_F(FormKit, TakesNoCharacterThatAProjectCannotHold)
     form.tText->insertPlainText("日b\nö");
     EXPECT_EQ(form.tText->toPlainText(), "b\nö");
     // A line break is two bytes on file.
-    form.tText->setPlainText("12345678\n9");
+    form.tText->setPlainText("12345678");
+    form.tText->moveCursor(QTextCursor::End);
+    form.tText->insertPlainText("\n");
+    TypeKeys(*form.tText, "9");
     EXPECT_EQ(form.tText->toPlainText(), "12345678\n");
 }
 
@@ -92,11 +95,20 @@ TEST_F(FormKit, RefusesWhatIsTypedIntoAFullAreaAndCutsNothingElse)
     TypeKeys(*form.tText, "x");
     EXPECT_EQ(form.tText->toPlainText(), "1234567890");
     EXPECT_EQ(form.tText->textCursor().position(), 0);
-    // Of a longer piece there is as much as there is room for.
+    // Of a piece that is too long nothing is taken.
     form.tText->setPlainText("12345678");
     form.tText->moveCursor(QTextCursor::Start);
     form.tText->insertPlainText("abcd");
-    EXPECT_EQ(form.tText->toPlainText(), "ab12345678");
+    EXPECT_EQ(form.tText->toPlainText(), "12345678");
+    EXPECT_EQ(QToolTip::text(), "Texten är för lång. Här får högst 10 tecken stå.");
+    // What it was to replace is still there.
+    form.tText->moveCursor(QTextCursor::StartOfWord);
+    form.tText->moveCursor(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
+    form.tText->insertPlainText("abcdefghijk");
+    EXPECT_EQ(form.tText->toPlainText(), "12345678");
+    form.tText->selectAll();
+    form.tText->insertPlainText("abcdefghij");
+    EXPECT_EQ(form.tText->toPlainText(), "abcdefghij");
 }
 
 TEST_F(FormKit, KeepsWhatAProjectCameWithBeyondTheLimit)
@@ -109,6 +121,50 @@ TEST_F(FormKit, KeepsWhatAProjectCameWithBeyondTheLimit)
     EXPECT_EQ(form.tText->toPlainText(), "1234567890abcdef");
     QTest::keyClick(form.tText, Qt::Key_Backspace);
     EXPECT_EQ(form.tText->toPlainText(), "1234567890abcde");
+}
+
+TEST_F(FormKit, RefusesAPieceThatALineHasNoRoomForAndSaysSo)
+{
+    DlgProbe form(session);
+    ShowActive(form);
+    Type(form, "tName", "123456789");
+    form.tName->setCursorPosition(4);
+    form.tName->insert("ab");
+    EXPECT_EQ(TextIn(form, "tName"), "123456789");
+    EXPECT_EQ(form.tName->cursorPosition(), 4);
+    EXPECT_EQ(QToolTip::text(), "Texten är för lång. Här får högst 10 tecken stå.");
+    form.tName->insert("a");
+    EXPECT_EQ(TextIn(form, "tName"), "1234a56789");
+    TypeKeys(*form.tName, "b");
+    EXPECT_EQ(TextIn(form, "tName"), "1234a56789");
+    QTest::keyClick(form.tName, Qt::Key_Backspace);
+    EXPECT_EQ(TextIn(form, "tName"), "123456789");
+    // What it was to replace is still there.
+    form.tName->selectAll();
+    form.tName->insert("abcdefghijk");
+    EXPECT_EQ(TextIn(form, "tName"), "123456789");
+}
+
+TEST_F(FormKit, StaysOpenOverATextThatTheProjectFileWouldCut)
+{
+    session.project.Version.CompanyName = "1234567890abc";
+    session.project.Version.Comments = "1234567890abc";
+    DlgProbe form(session);
+    ShowActive(form);
+    EXPECT_EQ(TextIn(form, "tName"), "1234567890abc");
+    Click(form, "cmdOK");
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_TRUE(form.tName->hasFocus());
+    EXPECT_EQ(QToolTip::text(), "Texten är för lång. Här får högst 10 tecken stå.");
+    Type(form, "tName", "123");
+    Click(form, "cmdOK");
+    EXPECT_TRUE(form.tText->hasFocus());
+    EXPECT_EQ(session.project.Version.CompanyName, "1234567890abc");
+    form.tText->setPlainText("1234567890");
+    Click(form, "cmdOK");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(session.project.Version.CompanyName, "123");
+    EXPECT_EQ(session.project.Version.Comments, "1234567890");
 }
 
 TEST_F(FormKit, NeverBringsBackByUndoWhatItHasTakenOut)
