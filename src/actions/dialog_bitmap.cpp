@@ -1,6 +1,6 @@
 #include "actions/dialog_bitmap.h"
 
-#include "helpers/ansi_text.h"
+#include "actions/kept_path.h"
 #include "helpers/windows_path.h"
 #include "project/dialog_keys.h"
 #include "project/new_project.h"
@@ -9,25 +9,7 @@ namespace quillon {
 
 namespace {
 
-/// Whether the project file gives the path back as it is; where not, a box says why.
-bool CanKeepPath(const Text& path, Ask& ask)
-{
-    const int longest = LongestText(section::kDialogBoxes, &section::DialogBoxes::DlgBitmap);
-    if (!AnsiText::Holds(path)) {
-        ask.Critical("Ogiltiga tecken hittade",
-                     "Bilden '" + path +
-                         "' kan ej väljas. Namnet innehåller tecken som inte kan lagras i ett "
-                         "projekt. Byt namn på filen eller katalogen och försök igen.");
-        return false;
-    }
-    if (CharacterCount(path) > static_cast<std::size_t>(longest)) {
-        ask.Critical("Fel", "Bilden '" + path +
-                                "' kan ej väljas. Sökvägen är för lång för att kunna lagras i ett "
-                                "projekt. Lägg bilden i en katalog närmare roten.");
-        return false;
-    }
-    return true;
-}
+constexpr PathKind kPicture{"Bilden", "Lägg bilden i en katalog närmare roten."};
 
 } // namespace
 
@@ -40,7 +22,8 @@ std::optional<Text> ChooseDlgBitmap(Text& folder, Ask& ask)
     if (!path || path->empty())
         return std::nullopt;
     folder = ExtractDirectory(*path);
-    return CanKeepPath(*path, ask) ? path : std::nullopt;
+    const int longest = LongestText(section::kDialogBoxes, &section::DialogBoxes::DlgBitmap);
+    return CanKeepPath(*path, longest, kPicture, ask) ? path : std::nullopt;
 }
 
 std::optional<Text> StandardDlgBitmap(const FileSystem& files, const Text& toolFolder, Ask& ask)

@@ -1,5 +1,7 @@
 #include "actions/dialog_chain.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace quillon {
@@ -22,6 +24,12 @@ DialogSwitch RivalOf(DialogSwitch page, const Rivals& rivals)
 }
 
 } // namespace
+
+const char* CaptionOf(DialogSwitch page)
+{
+    const auto* const found = std::ranges::find(kDialogChain, page, &DialogChainPage::isOn);
+    return found != std::end(kDialogChain) ? found->caption : "";
+}
 
 bool PressDialogPage(DialogBoxes& pages, DialogSwitch page)
 {

@@ -30,6 +30,9 @@ inline constexpr DialogChainPage kDialogChain[] = {
 };
 // clang-format on
 
+/// What the page of this switch is called.
+const char* CaptionOf(DialogSwitch page);
+
 /// A press on the page's box, before its tick turns: of the two agreement pages the other one goes
 /// off, whichever way the tick is about to turn. True when that changed anything.
 bool PressDialogPage(section::DialogBoxes& pages, DialogSwitch page);

@@ -1,10 +1,14 @@
 #include "app/DialogsPage.h"
 
 #include "actions/dialog_bitmap.h"
-#include "ui/PathLabel.h"
-#include "ui/PictureView.h"
-#include "ui/picture.h"
-#include "ui/qt_text.h"
+#include "actions/forms/DlgDestDirDlg.h"
+#include "actions/forms/DlgDestDriveDlg.h"
+#include "actions/forms/DlgGeneral.h"
+#include "actions/forms/DlgLicenseInfo.h"
+#include "actions/forms/DlgLicenseInfoRtf.h"
+#include "actions/forms/DlgNameCompany.h"
+#include "actions/forms/DlgPassword.h"
+#include "actions/forms/PictureChoice.h"
 
 #include <QtWidgets>
 
@@ -12,25 +16,46 @@ namespace quillon {
 
 namespace {
 
-// The controls of each page of the chain, in its order.
+using section::DialogBoxes;
+
+constexpr PictureChoiceNames kSharedPicture{"Bild i alla dialogrutor", "cmdSelectDlgBitmap",
+                                            "cmdStdDlgBitmap", "sDlgBitmapFilename",
+                                            "PictureDlgBitmap"};
+
+template <class Editor>
+void Edit(Session& session, QWidget* parent)
+{
+    Editor(session, parent).ShowModal();
+}
+
+template <DialogSwitch page>
+void EditGeneral(Session& session, QWidget* parent)
+{
+    DlgGeneral(GeneralPageOf(page), session, parent).ShowModal();
+}
+
+// The controls of each page of the chain, in its order, and what its button opens.
 struct TickControls {
     const char* box;
     const char* edit; // none for a page that has a command of its own
+    void (*open)(Session& session, QWidget* parent);
 };
+// clang-format off
 constexpr TickControls kControls[] = {
-    {"cWelcomeDlg", "cmdWelcomeDlg"},
-    {"cGeneralInfoDlg", "cmdGeneralInfoDlg"},
-    {"cGeneralInfoDlg2", "cmdGeneralInfoDlg2"},
-    {"cLicenseInfoDlg", "cmdLicenseInfoDlg"},
-    {"cLicenseInfoRtfDlg", "cmdLicenseInfoRtfDlg"},
-    {"cPasswordDlg", "cmdPasswordDlg"},
-    {"cNameCompanyDlg", "cmdNameCompanyDlg"},
-    {"cDestinationDlg", "cmdDestDirDlg"},
-    {"cDestinationDriveDlg", "cmdDestDriveDlg"},
-    {"cSelectProgGroup", nullptr},
-    {"cStartInstallDlg", "cmdStartInstallDlg"},
-    {"cInstallCompletedDlg", "cmdInstallCompletedDlg"},
+    {"cWelcomeDlg",          "cmdWelcomeDlg",          EditGeneral<&DialogBoxes::WelcomeDlg>},
+    {"cGeneralInfoDlg",      "cmdGeneralInfoDlg",      EditGeneral<&DialogBoxes::GeneralInfoDlg>},
+    {"cGeneralInfoDlg2",     "cmdGeneralInfoDlg2",     EditGeneral<&DialogBoxes::GeneralInfoDlg2>},
+    {"cLicenseInfoDlg",      "cmdLicenseInfoDlg",      Edit<DlgLicenseInfo>},
+    {"cLicenseInfoRtfDlg",   "cmdLicenseInfoRtfDlg",   Edit<DlgLicenseInfoRtf>},
+    {"cPasswordDlg",         "cmdPasswordDlg",         Edit<DlgPassword>},
+    {"cNameCompanyDlg",      "cmdNameCompanyDlg",      Edit<DlgNameCompany>},
+    {"cDestinationDlg",      "cmdDestDirDlg",          Edit<DlgDestDirDlg>},
+    {"cDestinationDriveDlg", "cmdDestDriveDlg",        Edit<DlgDestDriveDlg>},
+    {"cSelectProgGroup",     nullptr,                  nullptr},
+    {"cStartInstallDlg",     "cmdStartInstallDlg",     EditGeneral<&DialogBoxes::StartInstallDlg>},
+    {"cInstallCompletedDlg", "cmdInstallCompletedDlg", EditGeneral<&DialogBoxes::InstallCompletedDlg>},
 };
+// clang-format on
 static_assert(std::size(kControls) == std::size(kDialogChain));
 
 } // namespace
@@ -38,7 +63,11 @@ static_assert(std::size(kControls) == std::size(kDialogChain));
 DialogsPage::DialogsPage(Session& session) : session_(session)
 {
     setObjectName("DialogsPage");
-    Arrange(this, Across({TicksFrame(), Growing(PictureFrame())}));
+    picture_ = new PictureChoice(kSharedPicture, session, [this](const Text& path) {
+        UseDlgBitmap(session_.project, path);
+        session_.state.ProjectIsDirty = kOn;
+    });
+    Arrange(this, Across({TicksFrame(), Growing(picture_)}));
 }
 
 QGroupBox* DialogsPage::TicksFrame()
@@ -54,7 +83,10 @@ QGroupBox* DialogsPage::TicksFrame()
             grid->setRowMinimumHeight(line, grid->itemAtPosition(0, 1)->sizeHint().height());
         if (const char* name = kControls[page].edit) {
             QPushButton* edit = nullptr;
-            grid->addWidget(Button(edit, name, "Redigera..."), line, 1);
+            const auto open = kControls[page].open;
+            grid->addWidget(
+                Button(edit, name, "Redigera...", [this, open] { open(session_, window()); }), line,
+                1);
             edit->setAccessibleName("Redigera " + boxes_[page]->text());
         }
     }
@@ -73,42 +105,16 @@ QCheckBox* DialogsPage::TickBox(std::size_t page)
     return box;
 }
 
-QGroupBox* DialogsPage::PictureFrame()
-{
-    Button(NAMED(cmdSelectDlgBitmap), "&Välj bild...", [this] {
-        UsePicture(ChooseDlgBitmap(session_.Settings.Directories.LastDlgPictureDir, session_.ask));
-    });
-    Button(NAMED(cmdStdDlgBitmap), "S&tandardbild", [this] {
-        UsePicture(
-            StandardDlgBitmap(session_.host.files, session_.options.ToolFolder, session_.ask));
-    });
-    Named(NAMED(PictureDlgBitmap), new PictureView, "Bild i dialogrutorna");
-    Named(NAMED(sDlgBitmapFilename), new PathLabel);
-    return Frame("Bild i alla dialogrutor",
-                 {Growing(PictureDlgBitmap), sDlgBitmapFilename,
-                  Across({cmdSelectDlgBitmap, cmdStdDlgBitmap, Stretch()})});
-}
-
 void DialogsPage::ShowSession()
 {
     ShowTicks();
-    ShowPicture();
+    picture_->ShowBitmap(session_.project.DialogBoxes.DlgBitmap);
 }
 
 void DialogsPage::ShowTicks()
 {
     for (std::size_t page = 0; page < boxes_.size(); ++page)
         boxes_[page]->setChecked(session_.project.DialogBoxes.*kDialogChain[page].isOn != 0);
-}
-
-void DialogsPage::ShowPicture()
-{
-    const Text& path = session_.project.DialogBoxes.DlgBitmap;
-    sDlgBitmapFilename->ShowPath(ToQt(path));
-    if (const auto picture = LoadPicture(session_.host.files, path))
-        PictureDlgBitmap->ShowPicture(*picture);
-    else
-        PictureDlgBitmap->ShowNote(path.empty() ? "Ingen bild är vald" : "Bilden kan inte visas");
 }
 
 void DialogsPage::Press(DialogSwitch page)
@@ -124,15 +130,6 @@ void DialogsPage::Tick(DialogSwitch page, bool ticked)
     TickDialogPage(session_.project.DialogBoxes, page, ticked);
     session_.state.ProjectIsDirty = kOn;
     ShowTicks();
-}
-
-void DialogsPage::UsePicture(const std::optional<Text>& path)
-{
-    if (!path)
-        return;
-    UseDlgBitmap(session_.project, *path);
-    session_.state.ProjectIsDirty = kOn;
-    ShowPicture();
 }
 
 } // namespace quillon

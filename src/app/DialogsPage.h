@@ -1,4 +1,5 @@
-// The tab "Dialogrutor": which pages the setup shows, and the picture that they share.
+// The tab "Dialogrutor": which pages the setup shows, the way to their editors, and the picture
+// that they share.
 #pragma once
 
 #include "actions/dialog_chain.h"
@@ -10,12 +11,10 @@
 
 class QCheckBox;
 class QGroupBox;
-class QPushButton;
 
 namespace quillon {
 
-class PathLabel;
-class PictureView;
+class PictureChoice;
 
 class DialogsPage : public Page {
 public:
@@ -25,21 +24,15 @@ public:
 
 private:
     QGroupBox* TicksFrame();
-    QGroupBox* PictureFrame();
     QCheckBox* TickBox(std::size_t page);
     void ShowTicks();
-    void ShowPicture();
 
     void Press(DialogSwitch page);
     void Tick(DialogSwitch page, bool ticked);
-    void UsePicture(const std::optional<Text>& path);
 
     Session& session_;
     std::array<QCheckBox*, std::size(kDialogChain)> boxes_{};
-    QPushButton* cmdSelectDlgBitmap = nullptr;
-    QPushButton* cmdStdDlgBitmap = nullptr;
-    PathLabel* sDlgBitmapFilename = nullptr;
-    PictureView* PictureDlgBitmap = nullptr;
+    PictureChoice* picture_ = nullptr;
 };
 
 } // namespace quillon

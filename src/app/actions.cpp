@@ -1,5 +1,6 @@
 #include "app/actions.h"
 
+#include "actions/forms/DlgProgramGroup.h"
 #include "app/MainForm.h"
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
@@ -62,6 +63,7 @@ const std::map<int, Action> kActions = {
     {119, [](MainForm& form) { FileInfoCommand(form.GetSession(), form, &form); }},
     {120, [](MainForm& form) { ChangeDestinationCommand(form.GetSession(), form); }},
     {121, [](MainForm& form) { ShowDestinationDirectoriesCommand(form.GetSession(), &form); }},
+    {123, [](MainForm& form) { ShowProgramGroup(form.GetSession(), &form); }},
     {124, [](MainForm& form) { UpdateFileListCommand(form.GetSession(), form); }},
     {136, CopyText},
     {137, PasteText},

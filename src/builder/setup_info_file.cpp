@@ -11,6 +11,7 @@
 #include "helpers/windows_path.h"
 #include "platform/whole_file.h"
 #include "project/components.h"
+#include "project/program_group.h"
 
 namespace quillon {
 
@@ -233,13 +234,6 @@ SetupInformation InformationBesideProject(const SetupInfoInput& in)
         GetTotalSizeOfFilesX(project.Files, project.OperatingSystem.TargetOperatingSystem,
                              in.host.machine.DecimalSign(), in.ask);
     return info;
-}
-
-// Kept: writing changes the project.
-void FillEmptyProgramGroup(Project& project)
-{
-    if (project.ProgramGroup.ProgramGroup.empty())
-        project.ProgramGroup.ProgramGroup = project.ProjectName.ProjectName;
 }
 
 void WriteHead(AnsiTextFile& file, SetupInfoMode mode)

@@ -3,6 +3,7 @@
 #include "filelist/file_version.h"
 #include "formats/variable_names.h"
 #include "helpers/windows_path.h"
+#include "project/program_group.h"
 
 #include <algorithm>
 #include <iterator>
@@ -121,8 +122,7 @@ bool IsListed(const VariableName& variable, const Project& project)
 
 std::vector<VariableValue> ListVariableValues(Project& project, const Host& host)
 {
-    if (project.ProgramGroup.ProgramGroup.empty())
-        project.ProgramGroup.ProgramGroup = project.ProjectName.ProjectName;
+    FillEmptyProgramGroup(project);
 
     std::vector<VariableValue> values;
     for (const VariableName& variable : kVariableNames)

@@ -7,6 +7,7 @@
 #include "project/components.h"
 #include "project/file_rows.h"
 #include "project/list_sections.h"
+#include "project/program_group.h"
 #include "project/project_file.h"
 #include "project/section_walk.h"
 #include "project/total_size.h"
@@ -133,14 +134,6 @@ void WriteHead(SectionWriter& writer)
     writer.Setting("App", kTypeMark);
     writer.Setting("Ver", kToolVersion);
     writer.End();
-}
-
-// Kept: saving changes the project, which shows the group's name from then on.
-void FillEmptyProgramGroup(Project& project)
-{
-    Text& group = project.ProgramGroup.ProgramGroup;
-    if (group.empty())
-        group = project.ProjectName.ProjectName;
 }
 
 void WriteComponents(SectionWriter& writer, Project& project)

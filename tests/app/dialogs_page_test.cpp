@@ -1,6 +1,7 @@
 #include "app/DialogsPage.h"
 
 #include "helpers/windows_path.h"
+#include "support/bitmap_maker.h"
 #include "support/window_test.h"
 #include "ui/PathLabel.h"
 #include "ui/PictureView.h"
@@ -12,17 +13,6 @@ constexpr const char* kBoxes[] = {"cWelcomeDlg",      "cGeneralInfoDlg",    "cGe
                                   "cLicenseInfoDlg",  "cLicenseInfoRtfDlg", "cPasswordDlg",
                                   "cNameCompanyDlg",  "cDestinationDlg",    "cDestinationDriveDlg",
                                   "cSelectProgGroup", "cStartInstallDlg",   "cInstallCompletedDlg"};
-
-std::string Bitmap(QColor colour, int width = 100, int height = 200)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(colour);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "bmp");
-    return bytes.toStdString();
-}
 
 class DialogsPageTest : public WindowTest {
 protected:
@@ -180,6 +170,83 @@ TEST_F(DialogsPageTest, ChangesNothingWhenNoPictureIsChosen)
     EXPECT_FALSE(TakeDirty());
 }
 
+TEST_F(DialogsPageTest, OpensAnEditorForEachPageTickedOrNot)
+{
+    struct Case {
+        const char* button;
+        const char* form;
+        const char* caption;
+    };
+    // clang-format off
+    constexpr Case kCases[] = {
+        {"cmdWelcomeDlg",          "DlgGeneral",        "Välkommen"},
+        {"cmdGeneralInfoDlg",      "DlgGeneral",        "Generell information"},
+        {"cmdGeneralInfoDlg2",     "DlgGeneral",        "Generell information 2"},
+        {"cmdLicenseInfoDlg",      "DlgLicenseInfo",    "Licensinformation"},
+        {"cmdLicenseInfoRtfDlg",   "DlgLicenseInfoRtf", "Licensinformation (RTF)"},
+        {"cmdPasswordDlg",         "DlgPassword",       "Lösenord"},
+        {"cmdNameCompanyDlg",      "DlgNameCompany",    "Registrering (lokalt)"},
+        {"cmdDestDirDlg",          "DlgDestDirDlg",     "Destinationskatalog"},
+        {"cmdDestDriveDlg",        "DlgDestDriveDlg",   "Enhet"},
+        {"cmdStartInstallDlg",     "DlgGeneral",        "Starta installation"},
+        {"cmdInstallCompletedDlg", "DlgGeneral",        "Installationen avslutad"},
+    };
+    // clang-format on
+    for (const Integer ticked : {Integer{0}, Integer{1}})
+        for (const Case& one : kCases) {
+            for (const DialogChainPage& each : kDialogChain)
+                pages.*each.isOn = ticked;
+            page.ShowSession();
+            bool isShown = false;
+            OnNextDialog([&](QDialog& form) {
+                isShown = true;
+                EXPECT_EQ(form.objectName(), one.form);
+                EXPECT_EQ(form.windowTitle(), one.caption);
+                EXPECT_TRUE(form.isModal());
+                QTest::keyClick(&form, Qt::Key_Escape);
+            });
+            Click(page, one.button);
+            EXPECT_TRUE(isShown) << one.button;
+            EXPECT_FALSE(TakeDirty()) << one.button;
+        }
+}
+
+TEST_F(DialogsPageTest, KeepsTheTextsOfAPageThatIsSwitchedOff)
+{
+    OnNextDialog([](QDialog& form) {
+        Type(form, "tDialogTitle", "Hej!");
+        Click(form, "cmdOK");
+    });
+    Click(page, "cmdWelcomeDlg");
+    EXPECT_TRUE(TakeDirty());
+    Click(page, "cWelcomeDlg");
+    EXPECT_EQ(session.project.DialogBoxData.WelcomeDlgTitle, "Hej!");
+    OnNextDialog([](QDialog& form) { EXPECT_EQ(TextIn(form, "tDialogTitle"), "Hej!"); });
+    Click(page, "cmdWelcomeDlg");
+    Click(page, "cWelcomeDlg");
+    OnNextDialog([](QDialog& form) { EXPECT_EQ(TextIn(form, "tDialogTitle"), "Hej!"); });
+    Click(page, "cmdWelcomeDlg");
+}
+
+TEST_F(DialogsPageTest, LeavesTheSharedPictureToAPageWithOneOfItsOwn)
+{
+    const Text shared = ShownPath();
+    machine.files.Put("D:\\egen.bmp", Bitmap(Qt::red));
+    ask.choices = {{{"D:\\egen.bmp"}}, {{"D:\\alla.bmp"}}};
+    OnNextDialog([](QDialog& form) {
+        Click(form, "cmdSelectBitmap");
+        Click(form, "cmdOK");
+    });
+    Click(page, "cmdStartInstallDlg");
+    const section::DialogBoxData& data = session.project.DialogBoxData;
+    EXPECT_EQ(data.StartInstallDlgBitmap, "D:\\egen.bmp");
+    EXPECT_EQ(data.WelcomeDlgBitmap, shared);
+    EXPECT_EQ(pages.DlgBitmap, shared);
+    EXPECT_EQ(ShownPath(), shared);
+    Click(page, "cmdSelectDlgBitmap");
+    EXPECT_EQ(data.StartInstallDlgBitmap, "D:\\alla.bmp");
+}
+
 TEST_F(DialogsPageTest, GoesBackToTheStandardPicture)
 {
     pages.DlgBitmap = "D:\\annan.bmp";
@@ -204,12 +271,14 @@ TEST_F(DialogsPageTest, KeepsThePictureWhenTheStandardOneIsMissing)
 TEST_F(DialogsPageTest, SaysWhyThereIsNoPicture)
 {
     machine.files.Put("C:\\trasig.bmp", "BM och inget mer");
-    for (const char* path : {"C:\\finns\\inte.bmp", "C:\\trasig.bmp"}) {
+    for (const auto& [path, note] :
+         {std::pair{"C:\\finns\\inte.bmp", "Bildfilen finns inte"},
+          std::pair{"C:\\trasig.bmp", "Bilden kan inte visas: den är skadad eller för stor"}}) {
         pages.DlgBitmap = path;
         page.ShowSession();
         EXPECT_FALSE(Picture().HasPicture());
-        EXPECT_EQ(Picture().ShownNote(), "Bilden kan inte visas");
-        EXPECT_EQ(Picture().accessibleDescription(), "Bilden kan inte visas");
+        EXPECT_EQ(Picture().ShownNote(), note);
+        EXPECT_EQ(Picture().accessibleDescription(), note);
     }
     SavePicture(page, "DialogsPage-trasig-bild");
     pages.DlgBitmap = "";

@@ -1,5 +1,14 @@
 // What holds for every window: it can be read whole at its least size and in large letters, heard
 // by name, and used by keys alone.
+#include "actions/forms/DlgDestDirAdvUpdate.h"
+#include "actions/forms/DlgDestDirDlg.h"
+#include "actions/forms/DlgDestDriveDlg.h"
+#include "actions/forms/DlgGeneral.h"
+#include "actions/forms/DlgLicenseInfo.h"
+#include "actions/forms/DlgLicenseInfoRtf.h"
+#include "actions/forms/DlgNameCompany.h"
+#include "actions/forms/DlgPassword.h"
+#include "actions/forms/DlgProgramGroup.h"
 #include "app/MainForm.h"
 #include "builder/forms/DlgCompressOptions.h"
 #include "builder/forms/DlgCreate.h"
@@ -95,15 +104,24 @@ const WindowCase kWindows[] = {
     {"DlgCopyOptions", [](Subject) { return Made<DlgCopyOptions>(CopyOptionTicks{}); }},
     {"DlgCreate", OfSession<DlgCreate>},
     {"DlgCreateFoldersAtMyDoc", OfSession<DlgCreateFoldersAtMyDoc>},
+    {"DlgDestDirAdvUpdate", [](Subject of) { return Made<DlgDestDirAdvUpdate>(of.session.project.Updates, of.session); }},
+    {"DlgDestDirDlg", OfSession<DlgDestDirDlg>},
     {"DlgDestDirVars", [](Subject) { return Made<DlgDestDirVars>(); }},
     {"DlgDestinationDirectory", [](Subject of) { return Made<DlgDestinationDirectory>(DestinationQuestion{}, of.session); }},
+    {"DlgDestDriveDlg", OfSession<DlgDestDriveDlg>},
     {"DlgEditorOptions", OfSession<DlgEditorOptions>},
     {"DlgFileInfo", [](Subject of) { return Made<DlgFileInfo>(FirstRow(of), of.session); }},
     {"DlgFindReplaceData", [](Subject of) { return Made<DlgFindReplaceData>(ReplaceIn::Destinations, "%DESTDIR", of.session); }},
+    {"DlgGeneral", [](Subject of) { return Made<DlgGeneral>(kGeneralPages[0], of.session); }},
     {"DlgIcon", [](Subject of) { return Made<DlgIcon>(FirstRow(of), of.session); }},
     {"DlgIconOptions", [](Subject) { return Made<DlgIconOptions>(IconPlaces{}); }},
     {"DlgIconX", [](Subject of) { return Made<DlgIconX>(FirstRow(of), of.session); }},
+    {"DlgLicenseInfo", OfSession<DlgLicenseInfo>},
+    {"DlgLicenseInfoRtf", OfSession<DlgLicenseInfoRtf>},
     {"DlgMDADetails", OfSession<DlgMDADetails>},
+    {"DlgNameCompany", OfSession<DlgNameCompany>},
+    {"DlgPassword", OfSession<DlgPassword>},
+    {"DlgProgramGroup", OfSession<DlgProgramGroup>},
     {"DlgShowDestDirectories", [](Subject) { return Made<DlgShowDestDirectories>(); }},
     {"DlgSortList", [](Subject of) { return Made<DlgSortList>(of.session.project); }},
     {"DlgVariables", [](Subject of) { return Made<DlgVariables>(of.session, DlgVariables::Use::Picker); }},

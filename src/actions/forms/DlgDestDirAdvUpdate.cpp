@@ -1,0 +1,47 @@
+#include "actions/forms/DlgDestDirAdvUpdate.h"
+
+#include "platform/registry_roots.h"
+#include "project/dialog_keys.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+using section::Updates;
+
+constexpr int kLettersOfAKey = 45;
+
+int Longest(Text Updates::*field)
+{
+    return LongestText(section::kUpdates, field);
+}
+
+} // namespace
+
+DlgDestDirAdvUpdate::DlgDestDirAdvUpdate(Updates& updates, Session& session, QWidget* parent)
+    : EditorForm("DlgDestDirAdvUpdate", "Uppdateringar - Avancerat", session, parent)
+{
+    Choice(NAMED(ComboHKEY), kRegistryRoots, updates.AdvUpdateRegHKEYIndex);
+    Field(NAMED(tSubKey), updates.AdvUpdateRegSubKey, Longest(&Updates::AdvUpdateRegSubKey));
+    Field(NAMED(tValueName), updates.AdvUpdateRegValueName,
+          Longest(&Updates::AdvUpdateRegValueName));
+    Check(NAMED(cAlwaysUseUserDefKey),
+          "H&ämta alltid uppdateringsinformation från ovanstående nyckel ifall den existerar",
+          updates.AdvUpdateRegAlwaysUseUserDefKey);
+    Arrange(Down({
+        Note("Om inte uppdateringinformation finns vid det normala stället i Registry kan du här "
+             "ange ett alternativt ställe som ska avläsas istället."),
+        Frame("Registry - nyckel/värde", {Fields({
+                                             {"&HKEY:", ComboHKEY},
+                                             {"&Subnyckel:", RoomFor(kLettersOfAKey, tSubKey)},
+                                             {"&Namn på värde:", tValueName},
+                                         })}),
+        cAlwaysUseUserDefKey,
+        Stretch(),
+        OkCancel(),
+    }));
+}
+
+} // namespace quillon

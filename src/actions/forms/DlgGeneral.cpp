@@ -1,0 +1,46 @@
+#include "actions/forms/DlgGeneral.h"
+
+#include "actions/forms/PictureChoice.h"
+#include "actions/forms/previews.h"
+#include "ui/qt_text.h"
+#include "ui/typed_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kLettersOfAField = 50;
+
+} // namespace
+
+DlgGeneral::DlgGeneral(const GeneralPage& page, Session& session, QWidget* parent)
+    : PageEditor("DlgGeneral", page.isOn, session, parent)
+{
+    Line(NAMED(tDialogTitle), page.title);
+    Lines(NAMED(tDialogText), page.text);
+    Arrange(Down({
+        Growing(Across({
+            Growing(Down({
+                        Above("T&itel:", RoomFor(kLettersOfAField, tDialogTitle)),
+                        Growing(Above("Te&xt:", tDialogText)),
+                    }),
+                    2),
+            Growing(OwnPicture(page.bitmap, bitmap_)),
+        })),
+        Ending([this] { Test(); }),
+    }));
+    tDialogTitle->setFocus();
+}
+
+void DlgGeneral::Test()
+{
+    ShowInstDlgGeneral(session_,
+                       {.title = FromQt(tDialogTitle->text()),
+                        .text = LinesFromQt(TypedText(tDialogText)),
+                        .bitmap = bitmap_},
+                       this);
+}
+
+} // namespace quillon

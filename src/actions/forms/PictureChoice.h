@@ -1,0 +1,48 @@
+// The side picture of a setup's pages: how it looks, where it lies, and the buttons to choose
+// another. The tab for the pages shows the one of all pages, an editor that of its own page.
+#pragma once
+
+#include <QGroupBox>
+#include <functional>
+
+#include "helpers/text.h"
+
+#include <optional>
+
+class QPushButton;
+
+namespace quillon {
+
+class PathLabel;
+class PictureView;
+struct Session;
+
+/// What the controls are called, and what stands on the frame.
+struct PictureChoiceNames {
+    const char* caption;
+    const char* select;
+    const char* standard;
+    const char* filename;
+    const char* picture;
+};
+
+class PictureChoice : public QGroupBox {
+public:
+    /// `onChoice` is told the path of a picture that the user has chosen; it is shown already.
+    PictureChoice(const PictureChoiceNames& names, Session& session,
+                  std::function<void(const Text& path)> onChoice);
+
+    /// Shows what lies there now, or says why there is nothing to show.
+    void ShowBitmap(const Text& path);
+
+private:
+    QPushButton* Button(const char* name, const char* caption,
+                        std::function<std::optional<Text>()> choose);
+
+    Session& session_;
+    std::function<void(const Text&)> onChoice_;
+    PathLabel* filename_ = nullptr;
+    PictureView* picture_ = nullptr;
+};
+
+} // namespace quillon

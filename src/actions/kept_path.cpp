@@ -1,0 +1,24 @@
+#include "actions/kept_path.h"
+
+#include "helpers/ansi_text.h"
+
+namespace quillon {
+
+bool CanKeepPath(const Text& path, int longest, const PathKind& kind, Ask& ask)
+{
+    const Text refusal = Text(kind.thing) + " '" + path + "' kan ej väljas. ";
+    if (!AnsiText::Holds(path)) {
+        ask.Critical("Ogiltiga tecken hittade",
+                     refusal + "Namnet innehåller tecken som inte kan lagras i ett projekt. Byt "
+                               "namn på filen eller katalogen och försök igen.");
+        return false;
+    }
+    if (CharacterCount(path) > static_cast<std::size_t>(longest)) {
+        ask.Critical("Fel", refusal + "Sökvägen är för lång för att kunna lagras i ett projekt. " +
+                                kind.advice);
+        return false;
+    }
+    return true;
+}
+
+} // namespace quillon
