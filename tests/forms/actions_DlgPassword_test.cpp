@@ -59,6 +59,26 @@ TEST_F(DlgPasswordTest, HoldsItsTextInOneLine)
     EXPECT_EQ(data.PasswordDialogText, Text(199, 'x'));
 }
 
+TEST_F(DlgPasswordTest, SaysWhenTheProjectFileKeepsAnotherPassword)
+{
+    DlgPassword form(session, nullptr);
+    ShowActive(form);
+    EXPECT_FALSE(form.sPasswordNote->isVisible());
+    Type(form, "tPassword", "'Sesam'");
+    EXPECT_TRUE(form.sPasswordNote->isVisible());
+    EXPECT_TRUE(
+        form.sPasswordNote->text().startsWith("När projektet öppnas igen är lösenordet 'Sesam': "));
+    QApplication::processEvents();
+    SavePicture(form, "DlgPassword-citattecken");
+    Click(form, "cmdOK");
+    EXPECT_EQ(data.CorrectPassword, "'Sesam'") << "a note is no refusal";
+    DlgPassword again(session, nullptr);
+    ShowActive(again);
+    EXPECT_TRUE(again.sPasswordNote->isVisible());
+    Type(again, "tPassword", "Sesam");
+    EXPECT_FALSE(again.sPasswordNote->isVisible());
+}
+
 TEST_F(DlgPasswordTest, LooksRight)
 {
     data.CorrectPassword = "Sesam";

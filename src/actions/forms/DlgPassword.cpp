@@ -1,6 +1,7 @@
 #include "actions/forms/DlgPassword.h"
 
 #include "actions/forms/previews.h"
+#include "actions/install_password.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
 
@@ -32,13 +33,29 @@ DlgPassword::DlgPassword(Session& session, QWidget* parent)
     KeepOneLine(tDialogText);
     SetHeightInLines(tDialogText, kLinesOfText);
     Line(NAMED(tPassword), &DialogBoxData::CorrectPassword);
+    Named(NAMED(sPasswordNote), Note({}));
+    sPasswordNote->setTextFormat(Qt::PlainText);
+    connect(tPassword, &QLineEdit::textChanged, this, [this] { ShowPasswordNote(); });
     Arrange(Down({
         Above("&Text:", RoomFor(kLettersOfALine, tDialogText)),
         Above("&Korrekt lösenord:", tPassword),
+        sPasswordNote,
         Stretch(),
         Ending([this] { Test(); }),
     }));
+    ShowPasswordNote();
     tDialogText->setFocus();
+}
+
+void DlgPassword::ShowPasswordNote()
+{
+    const auto kept = PasswordAfterReopening(FromQt(tPassword->text()));
+    sPasswordNote->setVisible(kept.has_value());
+    if (kept)
+        sPasswordNote->setText(
+            ToQt("När projektet öppnas igen är lösenordet '" + *kept +
+                 "': projektfilen behåller inte blanksteg i början och slutet eller citattecken "
+                 "runt om."));
 }
 
 void DlgPassword::Test()

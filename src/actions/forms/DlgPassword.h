@@ -3,6 +3,8 @@
 
 #include "actions/forms/PageEditor.h"
 
+class QLabel;
+
 namespace quillon {
 
 class DlgPassword : public PageEditor {
@@ -11,8 +13,11 @@ public:
 
     QPlainTextEdit* tDialogText = nullptr;
     QLineEdit* tPassword = nullptr;
+    // Says what the project file does not give back as it was typed.
+    QLabel* sPasswordNote = nullptr;
 
 private:
+    void ShowPasswordNote();
     void Test();
 };
 

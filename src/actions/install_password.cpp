@@ -1,0 +1,13 @@
+#include "actions/install_password.h"
+
+#include "project/profile_lines.h"
+
+namespace quillon {
+
+std::optional<Text> PasswordAfterReopening(const Text& typed)
+{
+    const Text kept(BareValue(typed));
+    return kept == typed ? std::nullopt : std::optional(kept);
+}
+
+} // namespace quillon
