@@ -101,6 +101,7 @@ TEST_F(DlgDestDirDlgTest, TakesTheAdvancedValuesWhenBothAreLeftWithOk)
     for (const Case& one :
          {Case{"cmdCancel", "cmdCancel", false}, Case{"cmdOK", "cmdCancel", false},
           Case{"cmdCancel", "cmdOK", false}, Case{"cmdOK", "cmdOK", true}}) {
+        session.state.ProjectIsDirty = kOff;
         DlgDestDirDlg form(session, nullptr);
         ShowActive(form);
         OnNextDialog([&](QDialog& advanced) {
@@ -117,6 +118,9 @@ TEST_F(DlgDestDirDlgTest, TakesTheAdvancedValuesWhenBothAreLeftWithOk)
         EXPECT_EQ(updates.AdvUpdateRegSubKey, one.isStored ? "\\SOFTWARE\\Firma" : "");
         EXPECT_EQ(updates.AdvUpdateRegValueName, one.isStored ? "Katalog" : "");
         EXPECT_EQ(updates.AdvUpdateRegAlwaysUseUserDefKey, one.isStored ? kOn : kOff);
+        // Kept: any OK marks the project, also one whose values are given up afterwards.
+        const bool isMarked = one.inner == Text("cmdOK") || one.outer == Text("cmdOK");
+        EXPECT_EQ(session.state.ProjectIsDirty, isMarked ? kOn : kOff);
     }
 }
 

@@ -2,11 +2,10 @@
 // another. The tab for the pages shows the one of all pages, an editor that of its own page.
 #pragma once
 
-#include <QGroupBox>
-#include <functional>
-
 #include "helpers/text.h"
 
+#include <QGroupBox>
+#include <functional>
 #include <optional>
 
 class QPushButton;
