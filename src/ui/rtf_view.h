@@ -1,0 +1,33 @@
+// Formatted text on white paper, as an agreement is printed: whatever colours the desktop has, a
+// writer chose the inks for white. To be read only.
+#pragma once
+
+#include "formats/rtf_text.h"
+#include "platform/file_system.h"
+
+#include <QTextEdit>
+
+namespace quillon {
+
+class RtfView : public QTextEdit {
+public:
+    explicit RtfView(const Text& spokenName);
+
+    /// Shows the file, or says in its place why it can't be shown. A file that ends too early is
+    /// shown with a word about it above.
+    void ShowFile(const FileSystem& files, const Text& path);
+
+    void ShowText(const RtfText& text);
+    void ShowNote(const Text& note);
+
+    /// What was said about the file; empty where it is shown whole.
+    const QString& ShownNote() const { return note_; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+private:
+    QString note_;
+};
+
+} // namespace quillon
