@@ -123,7 +123,11 @@ bool IsListed(const VariableName& variable, const Project& project)
 std::vector<VariableValue> ListVariableValues(Project& project, const Host& host)
 {
     FillEmptyProgramGroup(project);
+    return ReadVariableValues(project, host);
+}
 
+std::vector<VariableValue> ReadVariableValues(const Project& project, const Host& host)
+{
     std::vector<VariableValue> values;
     for (const VariableName& variable : kVariableNames)
         if (IsListed(variable, project))

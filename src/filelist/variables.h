@@ -18,4 +18,7 @@ struct VariableValue {
 /// project itself and not only in the list.
 std::vector<VariableValue> ListVariableValues(Project& project, const Host& host);
 
+/// The same rows for a look at a project that stays as it is.
+std::vector<VariableValue> ReadVariableValues(const Project& project, const Host& host);
+
 } // namespace quillon

@@ -9,6 +9,13 @@
 #include "actions/forms/DlgNameCompany.h"
 #include "actions/forms/DlgPassword.h"
 #include "actions/forms/DlgProgramGroup.h"
+#include "actions/forms/InstDlgDestDir.h"
+#include "actions/forms/InstDlgDestDrive.h"
+#include "actions/forms/InstDlgGeneral.h"
+#include "actions/forms/InstDlgLicenseInfo.h"
+#include "actions/forms/InstDlgLicenseInfoRtf.h"
+#include "actions/forms/InstDlgNameCompany.h"
+#include "actions/forms/InstDlgPassword.h"
 #include "app/MainForm.h"
 #include "builder/forms/DlgCompressOptions.h"
 #include "builder/forms/DlgCreate.h"
@@ -85,6 +92,12 @@ section::FileComponent& FirstComponent(Subject subject)
 const TreeToAdd kTree{.StartDirectory = "C:\\Data\\Program", .BaseDestination = "%DESTDIR"};
 const std::vector<Text> kComponents{"Ingen komponent", "Komponent nr 1 - 'Ordböcker'"};
 
+// More than a page of the setup can show at once.
+const Text kLongTitle = ReplaceAll(Text(40, 'x'), "x", "lång ");
+const Text kLongText = ReplaceAll(Text(300, 'x'), "x", "En rad.\r\n");
+const LicensePreview kLongLicense{kLongTitle, kLongText, kLongTitle};
+constexpr DiskSpacePreview kAllSpace{.showsSpace = true, .hasSpaceButton = true};
+
 FileListRow& FirstRow(Subject subject)
 {
     return subject.session.project.Files.rows.front();
@@ -126,6 +139,13 @@ const WindowCase kWindows[] = {
     {"DlgSortList", [](Subject of) { return Made<DlgSortList>(of.session.project); }},
     {"DlgVariables", [](Subject of) { return Made<DlgVariables>(of.session, DlgVariables::Use::Picker); }},
     {"DlgVersionInfo", OfSession<DlgVersionInfo>},
+    {"InstDlgDestDir", [](Subject of) { return Made<InstDlgDestDir>(kAllSpace, of.session); }},
+    {"InstDlgDestDrive", [](Subject of) { return Made<InstDlgDestDrive>(kAllSpace, of.session); }},
+    {"InstDlgGeneral", [](Subject of) { return Made<InstDlgGeneral>(GeneralPreview{.title = kLongTitle, .text = kLongText}, of.session); }},
+    {"InstDlgLicenseInfo", [](Subject of) { return Made<InstDlgLicenseInfo>(kLongLicense, of.session); }},
+    {"InstDlgLicenseInfoRtf", [](Subject of) { return Made<InstDlgLicenseInfoRtf>(kLongLicense, of.session); }},
+    {"InstDlgNameCompany", [](Subject of) { return Made<InstDlgNameCompany>(NameCompanyPreview{.asksAddress = true}, of.session); }},
+    {"InstDlgPassword", [](Subject of) { return Made<InstDlgPassword>(kLongTitle, of.session); }},
     {"RecursiveCollect", [](Subject of) { return Made<RecursiveCollect>(WorkOn(of.session), kTree); }},
     {"SelectDir", [](Subject of) { return Made<SelectDir>(of.session.host.files, of.session.ask, "Välj en katalog.", "C:\\Data"); }},
     {"XInputBox", [](Subject) { return Made<XInputBox>("Lägg till sektion", "&Sektion:"); }},

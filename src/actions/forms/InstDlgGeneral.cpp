@@ -1,0 +1,21 @@
+#include "actions/forms/InstDlgGeneral.h"
+
+#include "ui/RunningText.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+InstDlgGeneral::InstDlgGeneral(const GeneralPreview& page, Session& session, QWidget* parent)
+    : InstDlg("InstDlgGeneral", page.title, page.bitmap, session, parent)
+{
+    Named(NAMED(sText), new RunningText(Shown(page.text), "Text"));
+    ArrangePage(sText);
+}
+
+void ShowInstDlgGeneral(Session& session, const GeneralPreview& page, QWidget* parent)
+{
+    InstDlgGeneral(page, session, parent).ShowModal();
+}
+
+} // namespace quillon

@@ -1,0 +1,26 @@
+#include "actions/forms/InstDlgLicenseInfo.h"
+
+#include "formats/page_layout.h"
+#include "ui/RunningText.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+InstDlgLicenseInfo::InstDlgLicenseInfo(const LicensePreview& page, Session& session,
+                                       QWidget* parent)
+    : InstDlg("InstDlgLicenseInfo", page.title, {}, session, parent)
+{
+    Named(NAMED(sLicenseText), new RunningText(Shown(page.license), "Licensavtal"));
+    sLicenseText->LieOnPaper();
+    Paragraph(NAMED(sFootText), page.footText, "Fottext", PageLayout::kHighestFootText);
+    sFootText->setVisible(!page.footText.empty());
+    ArrangePage(Down({Growing(sLicenseText), sFootText}), Buttons::YesNo);
+}
+
+void ShowInstDlgLicenseInfo(Session& session, const LicensePreview& page, QWidget* parent)
+{
+    InstDlgLicenseInfo(page, session, parent).ShowModal();
+}
+
+} // namespace quillon

@@ -1,0 +1,28 @@
+#include "actions/forms/InstDlgLicenseInfoRtf.h"
+
+#include "formats/page_layout.h"
+#include "shell/session.h"
+#include "ui/RunningText.h"
+#include "ui/rtf_view.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+InstDlgLicenseInfoRtf::InstDlgLicenseInfoRtf(const LicensePreview& page, Session& session,
+                                             QWidget* parent)
+    : InstDlg("InstDlgLicenseInfoRtf", page.title, {}, session, parent)
+{
+    Named(NAMED(RtfLicense), new RtfView("Licensavtal"));
+    RtfLicense->ShowFile(session.host.files, page.license);
+    Paragraph(NAMED(sFootText), page.footText, "Fottext", PageLayout::kHighestFootText);
+    sFootText->setVisible(!page.footText.empty());
+    ArrangePage(Down({Growing(RtfLicense), sFootText}), Buttons::YesNo);
+}
+
+void ShowInstDlgLicenseInfoRtf(Session& session, const LicensePreview& page, QWidget* parent)
+{
+    InstDlgLicenseInfoRtf(page, session, parent).ShowModal();
+}
+
+} // namespace quillon
