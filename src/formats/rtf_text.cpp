@@ -1,12 +1,12 @@
 #include "formats/rtf_text.h"
 
+#include "formats/rtf_fonts.h"
 #include "formats/rtf_tokens.h"
 #include "formats/rtf_words.h"
 #include "helpers/code_page.h"
 #include "helpers/utf8.h"
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 namespace quillon {
@@ -18,16 +18,7 @@ using Place = RtfState::Place;
 
 // Deeper groups than any writer makes share the state of the deepest one that is kept.
 constexpr std::size_t kMostGroups = 200;
-constexpr std::size_t kMostFonts = 1000;
 constexpr std::size_t kMostColours = 1000;
-constexpr std::size_t kLongestFontName = 100;
-
-struct FileFont {
-    RtfFont font;
-    int charset = 1; // of the document
-    int codePage = 0;
-    int place = -1; // in `RtfText::fonts`, once text is written in it
-};
 
 char32_t CombinePair(char32_t high, char32_t low)
 {
@@ -61,7 +52,6 @@ private:
     void TakeSymbol(std::string_view symbol);
     void TakeWord(const RtfToken& word);
     bool TakeDocumentWord(std::string_view word, int number);
-    void TakeFontWord(std::string_view word, int number);
     void TakeColourWord(std::string_view word, int number);
     void TakeUnicode(int number);
     void TakeBytes(const RtfToken& token);
@@ -70,10 +60,8 @@ private:
     void Put(char32_t character);
     RtfStyle StyleNow();
     void EndParagraph();
-    void EndFontName();
 
-    int PlaceOfFont(int number);
-    FileFont* FontNow();
+    int FontNow();
     int CodePageNow();
 
     RtfTokens tokens_;
@@ -87,9 +75,7 @@ private:
 
     int codePage_ = kWindows1252;
     int defaultFont_ = -1;
-    std::map<int, FileFont> fonts_;
-    int fontInTable_ = 0;
-    Text fontName_;
+    RtfFonts fonts_;
     std::vector<Colour> colours_;
     Colour colour_ = kNoColour;
 
@@ -154,7 +140,7 @@ void RtfReader::CloseGroup()
         return;
     }
     if (State().place == Place::Fonts)
-        EndFontName();
+        fonts_.EndName();
     if (groups_.size() == 1 && !paragraph_.runs.empty())
         EndParagraph();
     groups_.pop_back();
@@ -177,7 +163,7 @@ void RtfReader::TakeWord(const RtfToken& token)
     else if (IsRtfAside(word))
         State().place = Place::Nowhere;
     else if (State().place == Place::Fonts)
-        TakeFontWord(word, number);
+        fonts_.TakeWord(word, number);
     else if (State().place == Place::Colours)
         TakeColourWord(word, number);
     else if (const char32_t character = RtfCharacter(word))
@@ -212,30 +198,6 @@ bool RtfReader::TakeDocumentWord(std::string_view word, int number)
     return true;
 }
 
-void RtfReader::TakeFontWord(std::string_view word, int number)
-{
-    if (word == "f") {
-        EndFontName();
-        fontInTable_ = number;
-        if (fonts_.size() < kMostFonts)
-            fonts_.try_emplace(number);
-    }
-    const auto found = fonts_.find(fontInTable_);
-    if (found == fonts_.end())
-        return;
-    FileFont& font = found->second;
-    if (word == "fcharset")
-        font.charset = number;
-    else if (word == "cpg")
-        font.codePage = number;
-    else if (word == "froman")
-        font.font.family = RtfFont::Family::Roman;
-    else if (word == "fswiss")
-        font.font.family = RtfFont::Family::Swiss;
-    else if (word == "fmodern")
-        font.font.family = RtfFont::Family::Modern;
-}
-
 void RtfReader::TakeColourWord(std::string_view word, int number)
 {
     const int shift = word == "red" ? 0 : word == "green" ? 8 : word == "blue" ? 16 : -1;
@@ -263,8 +225,11 @@ void RtfReader::TakeBytes(const RtfToken& token)
 {
     if (token.text.empty())
         TakeByte(token.byte);
-    for (const char byte : token.text)
+    for (const char byte : token.text) {
+        if (IsAtEnd())
+            return;
         TakeByte(static_cast<unsigned char>(byte));
+    }
 }
 
 void RtfReader::TakeByte(unsigned char byte)
@@ -274,15 +239,13 @@ void RtfReader::TakeByte(unsigned char byte)
         return;
     }
     if (State().place == Place::Fonts && byte == ';')
-        return EndFontName();
+        return fonts_.EndName();
     if (State().place == Place::Colours) {
         if (byte == ';' && colours_.size() < kMostColours)
             colours_.push_back(std::exchange(colour_, kNoColour));
         return;
     }
-    const FileFont* font = FontNow();
-    const bool isSign =
-        State().place == Place::Body && font && font->charset == kSymbolCharset && byte >= ' ';
+    const bool isSign = State().place == Place::Body && byte >= ' ' && fonts_.IsOfSigns(FontNow());
     Put(isSign ? SymbolCharacter(byte) : CodePointOf(CodePageNow(), byte));
 }
 
@@ -290,11 +253,8 @@ void RtfReader::Put(char32_t character)
 {
     if (character < ' ' && character != '\t' && character != '\n')
         return;
-    if (State().place == Place::Fonts) {
-        if (fontName_.size() < kLongestFontName)
-            AppendCodePoint(fontName_, character);
-        return;
-    }
+    if (State().place == Place::Fonts)
+        return fonts_.TakeCharacter(character);
     if (State().place != Place::Body || State().isHidden)
         return;
     const RtfStyle style = StyleNow();
@@ -321,7 +281,7 @@ RtfStyle RtfReader::StyleNow()
         return isKnown ? colours_[static_cast<std::size_t>(number)] : kNoColour;
     };
     RtfStyle style = state.style;
-    style.font = PlaceOfFont(state.fontNumber >= 0 ? state.fontNumber : defaultFont_);
+    style.font = fonts_.PlaceIn(text_.fonts, FontNow());
     style.ink = colour(state.inkNumber);
     style.ground = colour(state.groundNumber);
     return style;
@@ -347,43 +307,17 @@ void RtfReader::EndParagraph()
     text_.paragraphs.push_back(std::exchange(paragraph_, {}));
 }
 
-void RtfReader::EndFontName()
+/// The number of the font of the text that comes, or of the name that stands in the table of fonts.
+int RtfReader::FontNow()
 {
-    const auto found = fonts_.find(fontInTable_);
-    if (found != fonts_.end() && found->second.font.name.empty())
-        found->second.font.name = TrimBlanks(fontName_);
-    fontName_.clear();
-}
-
-/// Where the font stands in the text's own list. Signs are told by characters that any font has.
-int RtfReader::PlaceOfFont(int number)
-{
-    const auto found = fonts_.find(number);
-    if (found == fonts_.end() || found->second.charset == kSymbolCharset)
-        return -1;
-    FileFont& font = found->second;
-    if (font.place < 0) {
-        font.place = static_cast<int>(text_.fonts.size());
-        text_.fonts.push_back(font.font);
-    }
-    return font.place;
-}
-
-/// The font of the text that comes, or of the name that stands in the table of fonts.
-FileFont* RtfReader::FontNow()
-{
-    const auto found = fonts_.find(State().place == Place::Fonts ? fontInTable_
-                                   : State().fontNumber >= 0     ? State().fontNumber
-                                                                 : defaultFont_);
-    return found == fonts_.end() ? nullptr : &found->second;
+    if (State().place == Place::Fonts)
+        return fonts_.NumberInTable();
+    return State().fontNumber >= 0 ? State().fontNumber : defaultFont_;
 }
 
 int RtfReader::CodePageNow()
 {
-    const FileFont* font = FontNow();
-    const int codePage = !font                 ? 0
-                         : font->codePage != 0 ? font->codePage
-                                               : CodePageOfCharset(font->charset);
+    const int codePage = fonts_.CodePage(FontNow());
     return codePage != 0 ? codePage : codePage_;
 }
 

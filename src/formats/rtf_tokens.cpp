@@ -126,9 +126,12 @@ std::optional<int> RtfTokens::ReadNumber()
 std::optional<RtfToken> RtfTokens::ReadHexByte()
 {
     Take(1);
-    const int high = rest_.size() > 1 ? HexDigit(rest_[0]) : -1;
-    const int low = high >= 0 ? HexDigit(rest_[1]) : -1;
-    if (low < 0)
+    const bool isCut = rest_.size() < 2;
+    const int high = isCut ? -1 : HexDigit(rest_[0]);
+    const int low = isCut ? -1 : HexDigit(rest_[1]);
+    if (isCut)
+        Take(2);
+    if (high < 0 || low < 0)
         return std::nullopt;
     Take(2);
     return RtfToken{.kind = Kind::Bytes, .byte = static_cast<unsigned char>(high * 16 + low)};

@@ -140,6 +140,15 @@ std::optional<QImage> LoadPicture(const FileSystem& files, const Text& path)
     }
 }
 
+QString WhyNoPicture(const FileSystem& files, const Text& path)
+{
+    if (path.empty())
+        return "Ingen bild är vald";
+    if (!files.FileExists(path))
+        return "Bildfilen finns inte";
+    return "Bilden kan inte visas: den är skadad eller för stor";
+}
+
 std::optional<QImage> LoadIconPicture(const FileSystem& files, const Text& path)
 {
     try {

@@ -1,10 +1,12 @@
 #include "actions/forms/InstDlgGeneral.h"
 
+#include "actions/forms/DlgGeneral.h"
 #include "forms/preview_test.h"
 
 namespace quillon::test {
 namespace {
 
+constexpr char kDamaged[] = "Bilden kan inte visas: den är skadad eller för stor";
 const Text kLongWord(200, 'W');
 
 class InstDlgGeneralTest : public PreviewTest {
@@ -57,7 +59,7 @@ TEST_F(InstDlgGeneralTest, LeavesEverythingAsItWas)
 TEST_F(InstDlgGeneralTest, ShowsThePageSOwnPicture)
 {
     page.bitmap = "C:\\Bilder\\egen.bmp";
-    machine.files.Put(page.bitmap, BitmapOf(Qt::red, {164, 314}));
+    machine.files.Put(page.bitmap, Bitmap(Qt::red, 164, 314));
     InstDlgGeneral form(page, session, nullptr);
     ShowActive(form);
     const QImage shown = form.PictureDlg->grab().toImage();
@@ -67,7 +69,7 @@ TEST_F(InstDlgGeneralTest, ShowsThePageSOwnPicture)
 TEST_F(InstDlgGeneralTest, KeepsTheShapeOfAPicture)
 {
     page.bitmap = "C:\\Bilder\\bred.bmp";
-    machine.files.Put(page.bitmap, BitmapOf(Qt::red, {200, 100}));
+    machine.files.Put(page.bitmap, Bitmap(Qt::red, 200, 100));
     InstDlgGeneral form(page, session, nullptr);
     ShowActive(form);
     const QImage shown = form.PictureDlg->grab().toImage();
@@ -80,7 +82,7 @@ TEST_F(InstDlgGeneralTest, KeepsTheShapeOfAPicture)
 
 TEST_F(InstDlgGeneralTest, FallsBackOnTheSharedPicture)
 {
-    machine.files.Put("D:\\delad.bmp", BitmapOf(Qt::green, {164, 314}));
+    machine.files.Put("D:\\delad.bmp", Bitmap(Qt::green, 164, 314));
     session.project.DialogBoxes.DlgBitmap = "D:\\delad.bmp";
     for (const char* bitmap : {"", "C:\\finns\\inte.bmp"}) {
         page.bitmap = bitmap;
@@ -94,19 +96,15 @@ TEST_F(InstDlgGeneralTest, FallsBackOnTheSharedPicture)
 
 TEST_F(InstDlgGeneralTest, SaysWhyThereIsNoPicture)
 {
-    const std::string whole = BitmapOf(Qt::red, {164, 314});
-    std::string huge = whole;
-    for (const std::size_t place : {18U, 22U})
-        huge.replace(place, 4, std::string("\xFF\xFF\x00\x00", 4));
     machine.files.Put("C:\\skadad.bmp", "BM" + std::string(300, 'x'));
-    machine.files.Put("C:\\huvud.bmp", whole.substr(0, 20));
-    machine.files.Put("C:\\stor.bmp", huge);
+    machine.files.Put("C:\\huvud.bmp", Bitmap(Qt::red).substr(0, 20));
+    machine.files.Put("C:\\stor.bmp", BitmapHead(65535, 65535));
     for (const auto& [bitmap, shared, note] :
-         {std::tuple{"", "", "Ingen bild är vald"}, std::tuple{"C:\\a.bmp", "", "Bilden saknas"},
-          std::tuple{"C:\\a.bmp", "C:\\b.bmp", "Bilden saknas"},
-          std::tuple{"C:\\skadad.bmp", "", "Bilden kan inte visas"},
-          std::tuple{"C:\\huvud.bmp", "", "Bilden kan inte visas"},
-          std::tuple{"C:\\stor.bmp", "", "Bilden kan inte visas"}}) {
+         {std::tuple{"", "", "Ingen bild är vald"},
+          std::tuple{"C:\\a.bmp", "", "Bildfilen finns inte"},
+          std::tuple{"C:\\a.bmp", "C:\\b.bmp", "Bildfilen finns inte"},
+          std::tuple{"C:\\skadad.bmp", "", kDamaged}, std::tuple{"C:\\huvud.bmp", "", kDamaged},
+          std::tuple{"C:\\stor.bmp", "", kDamaged}}) {
         page.bitmap = bitmap;
         session.project.DialogBoxes.DlgBitmap = shared;
         InstDlgGeneral form(page, session, nullptr);
@@ -159,7 +157,22 @@ TEST_F(InstDlgGeneralTest, LooksRight)
     ShowActive(form);
     SavePicture(form, "InstDlgGeneral");
     SaveDarkPicture(form, "InstDlgGeneral");
-    SaveSideBySide({{"Rubrik", page.title}, {"Text", page.text}}, form, "InstDlgGeneral");
+}
+
+TEST_F(InstDlgGeneralTest, ShowsTheEditorsFieldsAsTheyStand)
+{
+    DlgGeneral editor(GeneralPageOf(&section::DialogBoxes::WelcomeDlg), session, nullptr);
+    ShowActive(editor);
+    Type(editor, "tDialogTitle", page.title);
+    editor.tDialogText->setPlainText(LinesToQt(page.text));
+    ask.choices = {{{"D:\\egen.bmp"}}};
+    machine.files.Put("D:\\egen.bmp", Bitmap(QColor(0x80, 0xA0, 0x60), 164, 314));
+    Click(editor, "cmdSelectBitmap");
+    ShowPreviewOf(editor, "InstDlgGeneral", [](QDialog& preview) {
+        EXPECT_EQ(preview.windowTitle(), "Välkommen till Receptboken");
+    });
+    EXPECT_EQ(session.project.DialogBoxData.WelcomeDlgTitle, "Välkommen");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
 
 TEST_F(InstDlgGeneralTest, LooksRightWithLongTexts)

@@ -1,5 +1,6 @@
 #include "actions/forms/InstDlgNameCompany.h"
 
+#include "actions/forms/DlgNameCompany.h"
 #include "forms/preview_test.h"
 
 namespace quillon::test {
@@ -66,7 +67,7 @@ TEST_F(InstDlgNameCompanyTest, KeepsTheProjectSProposalWhereTheMachineKnowsNone)
 
 TEST_F(InstDlgNameCompanyTest, ShowsItsOwnPicture)
 {
-    machine.files.Put("C:\\egen.bmp", BitmapOf(Qt::red, {164, 314}));
+    machine.files.Put("C:\\egen.bmp", Bitmap(Qt::red, 164, 314));
     InstDlgNameCompany form({.bitmap = "C:\\egen.bmp"}, session, nullptr);
     ShowActive(form);
     const QImage shown = form.PictureDlg->grab().toImage();
@@ -91,15 +92,24 @@ TEST_F(InstDlgNameCompanyTest, LeavesEverythingAsItWas)
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
 
+TEST_F(InstDlgNameCompanyTest, ShowsTheEditorsFieldsAsTheyStand)
+{
+    DlgNameCompany editor(session, nullptr);
+    ShowActive(editor);
+    editor.cExtendedInfo->setChecked(true);
+    editor.cGetNameCompanyFromRegistry->setChecked(true);
+    ShowPreviewOf(editor, "InstDlgNameCompany", [](QDialog& preview) {
+        EXPECT_EQ(TextIn(preview, "tUserName"), "Ulla Ek");
+        EXPECT_EQ(TextIn(preview, "tUserAddress"), "");
+    });
+}
+
 TEST_F(InstDlgNameCompanyTest, LooksRight)
 {
     InstDlgNameCompany all({.asksAddress = true, .takesRegisteredOwner = true}, session, nullptr);
     ShowActive(all);
     SavePicture(all, "InstDlgNameCompany");
     SaveDarkPicture(all, "InstDlgNameCompany");
-    SaveSideBySide({{"Fråga även efter adressuppgifter", "Ja"},
-                    {"Hämta namn och företag från Registry", "Ja"}},
-                   all, "InstDlgNameCompany");
     InstDlgNameCompany few({}, session, nullptr);
     ShowActive(few);
     SavePicture(few, "InstDlgNameCompany-few");

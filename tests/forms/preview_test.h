@@ -4,6 +4,7 @@
 
 #include "actions/forms/InstDlg.h"
 #include "actions/forms/SidePicture.h"
+#include "support/bitmap_maker.h"
 #include "support/window_test.h"
 #include "ui/RunningText.h"
 
@@ -20,19 +21,6 @@ inline std::string BytesOfFile(const std::string& path)
     EXPECT_FALSE(bytes.str().empty()) << path;
     return bytes.str();
 }
-
-inline std::string BitmapOf(const QColor& colour, QSize size)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(colour);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(image.save(&buffer, "bmp"));
-    return bytes.toStdString();
-}
-
-using Typed = std::vector<std::pair<Text, Text>>;
 
 class PreviewTest : public WindowTest {
 protected:
@@ -76,26 +64,34 @@ protected:
         EXPECT_FALSE(page.isVisible());
     }
 
-    /// What was typed at the left, what is shown at the right.
-    static void SaveSideBySide(const Typed& typed, QWidget& preview, const std::string& name)
+    /// Opens the preview of what stands in an editor, looks at it, and keeps a picture of both
+    /// beside each other.
+    static void ShowPreviewOf(QDialog& editor, const std::string& name,
+                              const std::function<void(QDialog&)>& look)
+    {
+        bool isShown = false;
+        OnNextDialog([&](QDialog& preview) {
+            isShown = true;
+            EXPECT_EQ(preview.objectName().toStdString(), name);
+            look(preview);
+            SaveSideBySide(editor, preview, name + "_side_by_side");
+        });
+        Click(editor, "cmdTest");
+        EXPECT_TRUE(isShown) << name;
+        EXPECT_TRUE(editor.isVisible()) << "closing the preview leads back";
+    }
+
+    static void SaveSideBySide(QWidget& left, QWidget& right, const std::string& name)
     {
         QWidget both;
-        auto* fields = new QFormLayout;
-        fields->setRowWrapPolicy(QFormLayout::WrapAllRows);
-        for (const auto& [caption, text] : typed) {
-            auto* field = new QPlainTextEdit(LinesToQt(text));
-            const qsizetype lines = std::clamp<qsizetype>(1 + text.size() / 40, 1, 12);
-            field->setFixedHeight(static_cast<int>(lines + 1) * field->fontMetrics().lineSpacing());
-            fields->addRow(ToQt(caption), field);
-        }
-        auto* shown = new QLabel;
-        shown->setPixmap(preview.grab());
         auto* across = new QHBoxLayout(&both);
-        across->addLayout(fields, 1);
-        across->addWidget(shown);
+        for (QWidget* window : {&left, &right}) {
+            auto* picture = new QLabel;
+            picture->setPixmap(window->grab());
+            across->addWidget(picture);
+        }
         both.resize(both.sizeHint());
-        both.show();
-        SavePicture(both, name + "_side_by_side");
+        SavePicture(both, name);
     }
 
     static constexpr char kStandard[] = "C:\\Quillon\\Res\\SetupDef.bmp";

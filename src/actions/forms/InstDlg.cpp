@@ -80,9 +80,7 @@ void InstDlg::MakePicture(const Text& bitmap)
     if (const auto picture = LoadPicture(files, path))
         PictureDlg->ShowPicture(*picture);
     else
-        PictureDlg->ShowNote(path.empty()              ? "Ingen bild är vald"
-                             : !files.FileExists(path) ? "Bilden saknas"
-                                                       : "Bilden kan inte visas");
+        PictureDlg->ShowNote(WhyNoPicture(files, path));
 }
 
 void InstDlg::MakeTitle(const Text& title)

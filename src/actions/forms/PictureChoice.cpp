@@ -12,20 +12,6 @@
 
 namespace quillon {
 
-namespace {
-
-/// Why there is no picture to see.
-QString Excuse(const FileSystem& files, const Text& path)
-{
-    if (path.empty())
-        return "Ingen bild är vald";
-    if (!files.FileExists(path))
-        return "Bildfilen finns inte";
-    return "Bilden kan inte visas: den är skadad eller för stor";
-}
-
-} // namespace
-
 PictureChoice::PictureChoice(const PictureChoiceNames& names, Session& session,
                              std::function<void(const Text&)> onChoice)
     : QGroupBox(QString::fromUtf8(names.caption)), session_(session), onChoice_(std::move(onChoice))
@@ -63,7 +49,7 @@ void PictureChoice::ShowBitmap(const Text& path)
     if (const auto picture = LoadPicture(files, path))
         picture_->ShowPicture(*picture);
     else
-        picture_->ShowNote(Excuse(files, path));
+        picture_->ShowNote(WhyNoPicture(files, path));
 }
 
 } // namespace quillon

@@ -1,0 +1,50 @@
+// Formatted text of any content: what comes out is well formed, within its limits, and no larger
+// than the file could make it.
+#include "formats/rtf_text.h"
+#include "helpers/utf8.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+using namespace quillon;
+
+namespace {
+
+void Require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+void RequireText(const Text& text)
+{
+    Require(IsUtf8(text));
+    for (const char byte : text)
+        Require(static_cast<unsigned char>(byte) >= ' ' || byte == '\t' || byte == '\n');
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    const auto text = ReadRtf({reinterpret_cast<const char*>(bytes), size});
+    if (!text)
+        return 0;
+    Require(text->paragraphs.size() <= kMostRtfParagraphs);
+    for (const RtfFont& font : text->fonts)
+        Require(IsUtf8(font.name));
+    std::size_t length = 0;
+    std::size_t runs = 0;
+    for (const RtfParagraph& paragraph : text->paragraphs)
+        for (const RtfRun& run : paragraph.runs) {
+            RequireText(run.text);
+            Require(!run.text.empty());
+            Require(run.style.font < static_cast<int>(text->fonts.size()));
+            length += run.text.size();
+            ++runs;
+        }
+    Require(runs <= kMostRtfRuns && runs <= size);
+    // A word of five letters, "\zwnj" with its blank, is what gives most text for least room.
+    Require(length <= 4 * size && length <= kLongestRtfText + 4);
+    return 0;
+}
