@@ -4,6 +4,7 @@
 #include "app/MainForm.h"
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
+#include "builder/forms/DlgTest.h"
 #include "filelist/forms/DlgVariables.h"
 #include "filelist/forms/list_commands.h"
 #include "filelist/forms/per_file_commands.h"
@@ -54,6 +55,7 @@ const std::map<int, Action> kActions = {
     {104, [](MainForm& form) { SaveProjectAs(form.GetSession(), form); }},
     {107, ImportIniFile},
     {108, Create},
+    {109, [](MainForm& form) { ShowTest(form.GetSession(), &form); }},
     {112, [](MainForm& form) { form.close(); }},
     {113, [](MainForm& form) { ShowCompareLstFile(form.GetSession(), &form); }},
     {114, [](MainForm& form) { DeleteRowsCommand(form.GetSession(), form); }},
@@ -92,6 +94,7 @@ const std::map<int, Action> kActions = {
     {292, OpenRecent<1>},
     {293, OpenRecent<2>},
     {294, OpenRecent<3>},
+    {301, [](MainForm& form) { ShowDesignPreview(form.GetSession()); }},
     {302, Help},
 };
 // clang-format on

@@ -1,12 +1,13 @@
 // The texts that the setup shows, from the package's language file: an INI file in the project's
-// language. A text that the file lacks is shown in Swedish, so that an old or damaged language file
-// never stops an installation.
+// language. A text that the file lacks, or that can't be meant, is shown in Swedish, so that an old
+// or damaged language file never stops an installation.
 #pragma once
 
 #include "helpers/text.h"
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 
 namespace quillon {
 
@@ -34,6 +35,31 @@ enum class Message {
     NotUndone,
     RestartNeeded,
     UninstallIcon,
+    PageWelcome,
+    PageGeneralInfo,
+    PageGeneralInfo2,
+    PageLicenseInfo,
+    PageLicenseInfoRtf,
+    PagePassword,
+    PageNameCompany,
+    PageDestination,
+    PageDestinationDrive,
+    PageProgramGroup,
+    PageStartInstall,
+    PageInstallCompleted,
+    TestTitle,
+    PreviewTitle,
+    Unnamed,
+    TestNothing,
+    TestPages,
+    TestNoPages,
+    Screen,
+    ScreenTitle,
+    ScreenSubTitle,
+    ScreenSize,
+    ScreenPicture,
+    Close,
+    TestFiles,
     UninstallTitle,
     UninstallQuestion,
     UninstallRunning,
@@ -50,12 +76,16 @@ struct MessageKey {
 };
 const MessageKey& KeyOf(Message message);
 
+/// No file of texts is larger; what is, isn't read.
+inline constexpr std::uint64_t kLargestLanguageFile = 16 * 1024 * 1024;
+
 class LanguageTexts {
 public:
     /// The Swedish texts.
     LanguageTexts();
-    /// The texts of a language file, given as its bytes.
-    explicit LanguageTexts(std::string bytes);
+    /// The texts of a language file, given as its bytes: Windows-1252, or UTF-8 or UTF-16 as an
+    /// editor of today may have saved it.
+    explicit LanguageTexts(std::string_view bytes);
 
     const Text& operator[](Message message) const { return texts_[std::size_t(message)]; }
     /// With `inserted` in the place of "%1".

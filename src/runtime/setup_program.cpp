@@ -198,33 +198,64 @@ void SetupProgram::InstallPackage()
                           texts_[Message::RestartNeeded]);
 }
 
+template <class Take>
+void ReadPart(const FileSystem& files, const Text& folder, const Text& name, LoadedPackage& package,
+              Take take)
+{
+    const int failure = RunErrorNumber([&] { take(ReadWholeFile(files, JoinPath(folder, name))); });
+    if (failure != ErrorNumber::kNone && package.fault.empty())
+        package.fault = name + " saknas eller kan inte läsas";
+}
+
+LoadedPackage ReadSetupInformationFile(const FileSystem& files, const Text& folder)
+{
+    LoadedPackage package;
+    ReadPart(files, folder, kSetupInformationName, package,
+             [&](const std::string& bytes) { package.setup = ReadSetupInformation(bytes); });
+    return package;
+}
+
+void TellBrokenInformation(LoadedPackage& package)
+{
+    if (package.fault.empty() && !package.setup.isWhole)
+        package.fault = "QNSETUP.INF är avbruten";
+}
+
+// Without it everything is said in Swedish.
+void ReadLanguage(const FileSystem& files, const Text& folder, LoadedPackage& package)
+{
+    const Text path = JoinPath(folder, package.setup.project.Language.LanguageFile);
+    RunErrorNumber([&] {
+        if (files.FileExists(path) && files.Facts(path).size <= kLargestLanguageFile)
+            package.texts = LanguageTexts(ReadWholeFile(files, path));
+    });
+}
+
 } // namespace
 
 LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder)
 {
-    LoadedPackage package;
-    const auto read = [&](const Text& name, auto take) {
-        const int failure =
-            RunErrorNumber([&] { take(ReadWholeFile(files, JoinPath(packageFolder, name))); });
-        if (failure != ErrorNumber::kNone && package.fault.empty())
-            package.fault = name + " saknas eller kan inte läsas";
-    };
-    read(kSetupInformationName,
-         [&](const std::string& bytes) { package.setup = ReadSetupInformation(bytes); });
-    read(kFileListName, [&](const std::string& bytes) {
+    LoadedPackage package = ReadSetupInformationFile(files, packageFolder);
+    ReadPart(files, packageFolder, kFileListName, package, [&](const std::string& bytes) {
         InstallFileList list = ReadInstallFileList(bytes);
         package.rows = std::move(list.rows);
         if (!list.isWhole)
             package.fault = "FILELIST.INF är avbruten";
     });
-    if (package.fault.empty() && !package.setup.isWhole)
-        package.fault = "QNSETUP.INF är avbruten";
+    TellBrokenInformation(package);
+    if (package.fault.empty() && package.setup.isPreview)
+        package.fault = "QNSETUP.INF är skriven för en förhandsgranskning";
     if (package.fault.empty() && package.setup.Files != Long(package.rows.size()))
         package.fault = "QNSETUP.INF och FILELIST.INF hör inte ihop";
-    const Text language = JoinPath(packageFolder, package.setup.project.Language.LanguageFile);
-    // Without it everything is said in Swedish.
-    if (files.FileExists(language))
-        RunErrorNumber([&] { package.texts = LanguageTexts(ReadWholeFile(files, language)); });
+    ReadLanguage(files, packageFolder, package);
+    return package;
+}
+
+LoadedPackage LoadSetupInformation(const FileSystem& files, const Text& packageFolder)
+{
+    LoadedPackage package = ReadSetupInformationFile(files, packageFolder);
+    TellBrokenInformation(package);
+    ReadLanguage(files, packageFolder, package);
     return package;
 }
 

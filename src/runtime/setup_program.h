@@ -21,6 +21,9 @@ struct LoadedPackage {
 /// Reads both INF files and the language file. Whatever is missing is told in `fault`.
 LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder);
 
+/// The same without the file list, of files that may be made for a preview alone.
+LoadedPackage LoadSetupInformation(const FileSystem& files, const Text& packageFolder);
+
 struct SetupInput {
     Host& host;
     Target& target;

@@ -3,6 +3,7 @@
 #include "helpers/windows_path.h"
 
 #include <cctype>
+#include <utility>
 
 namespace quillon {
 
@@ -25,6 +26,21 @@ std::size_t EndOfSwitch(std::string_view line, std::size_t start)
     return line.size();
 }
 
+constexpr std::pair<std::string_view, TestMode> kTestModes[] = {{"/TEST", TestMode::Test},
+                                                                {"/PREVIEW", TestMode::Preview}};
+
+// Nobody can be shown both.
+bool SetTestMode(Switches& switches, std::string_view name)
+{
+    for (const auto& [word, mode] : kTestModes)
+        if (EqualIgnoreCase(name, word)) {
+            const bool isOther = switches.testMode && switches.testMode != mode;
+            switches.testMode = switches.testMode.value_or(mode);
+            return !isOther;
+        }
+    return false;
+}
+
 // Sets the field that the switch names; false where there is no such switch or its value is no
 // good.
 bool ApplySwitch(Switches& switches, std::string_view name, std::optional<Text> value)
@@ -34,7 +50,7 @@ bool ApplySwitch(Switches& switches, std::string_view name, std::optional<Text> 
         return !value;
     }
     if (!value)
-        return false;
+        return SetTestMode(switches, name);
     if (EqualIgnoreCase(name, "/PASSWORD")) {
         switches.password = value;
         return true;
@@ -78,6 +94,15 @@ Switches ReadSwitches(std::string_view commandLine)
             switches.badSwitch = Text(given);
         at = commandLine.find_first_not_of(" \t", end);
     }
+    return switches;
+}
+
+Switches ReadUninstallerSwitches(std::string_view commandLine)
+{
+    Switches switches = ReadSwitches(commandLine);
+    for (const auto& [word, mode] : kTestModes)
+        if (switches.testMode == mode && !switches.badSwitch)
+            switches.badSwitch = Text(word);
     return switches;
 }
 

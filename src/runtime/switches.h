@@ -8,17 +8,25 @@
 
 namespace quillon {
 
+/// What the tool starts the setup for: nothing is installed then.
+enum class TestMode { Test, Preview };
+
 struct Switches {
-    bool silent = false;           // /S
-    Text destination;              // /D= or /DIR=
-    Text logFile;                  // /LOG=
-    std::optional<Text> password;  // /PASSWORD=
-    Text packageFolder;            // /PACKAGE=, which the starter adds for the program proper
-    std::optional<Text> badSwitch; // the first one that is none, as it was given
+    bool silent = false;              // /S
+    Text destination;                 // /D= or /DIR=
+    Text logFile;                     // /LOG=
+    std::optional<Text> password;     // /PASSWORD=
+    Text packageFolder;               // /PACKAGE=, which the starter adds for the program proper
+    std::optional<TestMode> testMode; // /TEST or /PREVIEW
+    std::optional<Text> badSwitch;    // the first one that is none, as it was given
 };
 
 /// `commandLine` is what stands behind the program's own name.
 Switches ReadSwitches(std::string_view commandLine);
+
+/// The same for the uninstaller, which has no test mode: one that was asked for a test must not
+/// remove anything.
+Switches ReadUninstallerSwitches(std::string_view commandLine);
 
 /// Drive and folder, or a network path: a folder that means the same wherever the setup is started.
 bool IsWholePath(std::string_view path);

@@ -19,6 +19,7 @@
 #include "app/MainForm.h"
 #include "builder/forms/DlgCompressOptions.h"
 #include "builder/forms/DlgCreate.h"
+#include "builder/forms/DlgTest.h"
 #include "filelist/forms/DlgChCompNr.h"
 #include "filelist/forms/DlgChVariables.h"
 #include "filelist/forms/DlgChangeSrcPath.h"
@@ -137,6 +138,7 @@ const WindowCase kWindows[] = {
     {"DlgProgramGroup", OfSession<DlgProgramGroup>},
     {"DlgShowDestDirectories", [](Subject) { return Made<DlgShowDestDirectories>(); }},
     {"DlgSortList", [](Subject of) { return Made<DlgSortList>(of.session.project); }},
+    {"DlgTest", OfSession<DlgTest>},
     {"DlgVariables", [](Subject of) { return Made<DlgVariables>(of.session, DlgVariables::Use::Picker); }},
     {"DlgVersionInfo", OfSession<DlgVersionInfo>},
     {"InstDlgDestDir", [](Subject of) { return Made<InstDlgDestDir>(kAllSpace, of.session); }},

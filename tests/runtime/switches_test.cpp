@@ -66,11 +66,33 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair{"/D", "/D"}, std::pair{"/D=", "/D="}, std::pair{"/D=App", "/D=App"},
                     std::pair{"/DIR=\"C:App\"", "/DIR=\"C:App\""}, std::pair{"/LOG=", "/LOG="},
                     std::pair{"/LOG=\"\"", "/LOG=\"\""}, std::pair{"/PASSWORD", "/PASSWORD"},
-                    std::pair{"/A /B", "/A"}));
+                    std::pair{"/A /B", "/A"}, std::pair{"/TEST=1", "/TEST=1"},
+                    std::pair{"/PREVIEWS", "/PREVIEWS"}));
 
 TEST(ReadSwitches, TakesAnEmptyPasswordAsOne)
 {
     EXPECT_EQ(ReadSwitches("/PASSWORD=").password, "");
+}
+
+TEST(ReadSwitches, KnowsTheTwoTestModes)
+{
+    EXPECT_EQ(ReadSwitches("/S").testMode, std::nullopt);
+    EXPECT_EQ(ReadSwitches(" /TEST").testMode, TestMode::Test);
+    EXPECT_EQ(ReadSwitches("/test /S /TEST").testMode, TestMode::Test);
+    const Switches preview = ReadSwitches("/LOG=a /Preview");
+    EXPECT_EQ(preview.testMode, TestMode::Preview);
+    EXPECT_EQ(preview.badSwitch, std::nullopt);
+    const Switches both = ReadSwitches("/PREVIEW /TEST");
+    EXPECT_EQ(both.testMode, TestMode::Preview);
+    EXPECT_EQ(both.badSwitch, "/TEST");
+}
+
+TEST(ReadUninstallerSwitches, KnowNoTestMode)
+{
+    EXPECT_EQ(ReadUninstallerSwitches("/S /TEST").badSwitch, "/TEST");
+    EXPECT_EQ(ReadUninstallerSwitches("/preview").badSwitch, "/PREVIEW");
+    EXPECT_EQ(ReadUninstallerSwitches("/X /TEST").badSwitch, "/X");
+    EXPECT_EQ(ReadUninstallerSwitches("/S").badSwitch, std::nullopt);
 }
 
 TEST(IsWholePath, WantsADriveOrAServer)

@@ -10,6 +10,7 @@
 #include "runtime/silent_ask.h"
 #include "runtime/win32/library_container.h"
 #include "runtime/win32/private_folder.h"
+#include "runtime/win32/test_window.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
 
@@ -25,13 +26,28 @@ Text UnzipLibrary(const FileSystem& files, const Text& packageFolder)
     return files.FileExists(own) ? own : JoinPath(packageFolder, RuntimeFile::kUnzipLibrary);
 }
 
-ExitCode RunOnWindows(HINSTANCE instance, Switches switches)
+// No private folder either: a test leaves nothing on the machine.
+ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches)
 {
-    WinFiles files;
-    WinMachine machine;
-    Host host{files, machine};
-    if (switches.packageFolder.empty())
-        switches.packageFolder = ProgramFolder();
+    const LoadedPackage package =
+        LoadForTest(host.files, switches.packageFolder, *switches.testMode);
+    const auto run = [&](Ask& ask) {
+        return RunTest({host, ask, switches,
+                        [&](const TestWindow& window) { ShowTestWindow(instance, window); }},
+                       package);
+    };
+    if (switches.silent) {
+        SilentAsk silent;
+        return run(silent);
+    }
+    // For its boxes; it is not shown itself.
+    WindowAsk boxes(instance, {}, package.texts);
+    return run(boxes);
+}
+
+ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switches)
+{
+    FileSystem& files = host.files;
     const LoadedPackage package = LoadPackage(files, switches.packageFolder);
     const PrivateFolder work(host);
     WinTarget target(JoinPath(work.Path(), RuntimeFile::kRegistryHelper));
@@ -50,6 +66,17 @@ ExitCode RunOnWindows(HINSTANCE instance, Switches switches)
                      package.texts);
     window.Show();
     return run(window);
+}
+
+ExitCode RunOnWindows(HINSTANCE instance, Switches switches)
+{
+    WinFiles files;
+    WinMachine machine;
+    Host host{files, machine};
+    if (switches.packageFolder.empty())
+        switches.packageFolder = ProgramFolder();
+    return switches.testMode ? TestOnWindows(instance, host, switches)
+                             : InstallOnWindows(instance, host, switches);
 }
 
 } // namespace

@@ -37,7 +37,7 @@ CommandLine ReadCommandLine(const Text& line)
         end = std::min(text.find(' '), text.size());
         read.logPath = text.substr(0, end);
     }
-    read.switches = ReadSwitches(std::string_view(text).substr(end));
+    read.switches = ReadUninstallerSwitches(std::string_view(text).substr(end));
     return read;
 }
 

@@ -1,0 +1,128 @@
+#include "builder/test_run.h"
+
+#include "builder/create_checks.h"
+#include "builder/file_list_file.h"
+#include "builder/setup_info_file.h"
+#include "formats/package_files.h"
+#include "helpers/windows_path.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kTestTitle = "Kan ej testa";
+constexpr const char* kPreviewTitle = "Kan ej förhandsgranska";
+constexpr const char* kRuntime = "Qns32x.exe";
+// The setup takes its files from folders: this medium has neither disks nor one file for all.
+constexpr Integer kTestMedium = 2;
+
+bool Fail(TestRun& run, const char* title, int error, const Text& what)
+{
+    run.ask.Critical(title, "Fel #" + NumberText(error) + " inträffade när " + what + "!");
+    return false;
+}
+
+bool MakeFolder(TestRun& run, const char* title, const Text& folder)
+{
+    if (run.host.files.DirExists(folder) || run.host.files.DirCreate(folder))
+        return true;
+    run.failure = RunError(ErrorNumber::kPathNotFound, folder);
+    return Fail(run, title, ErrorNumber::kPathNotFound, "katalogen '" + folder + "' skulle skapas");
+}
+
+bool WriteFileList(TestRun& run, const Project& project, const Text& folder)
+{
+    FileListOutcome outcome;
+    const int error =
+        WriteFileListFile(JoinPath(folder, kFileListName), project, run.host, outcome);
+    run.FilesInList = outcome.FilesInList;
+    if (error == ErrorNumber::kNone)
+        return true;
+    run.failure = outcome.failure;
+    switch (error) {
+    case ErrorNumber::kFileNotFound:
+        run.ask.Critical(kTestTitle,
+                         "Ett fel inträffade när fillista-filen FILELIST.INF skulle skapas! En "
+                         "eller flera filer kan inte hittas på hårddisken. Sannolikt har de "
+                         "flyttats eller fått nya filnamn.");
+        return false;
+    case ErrorNumber::kPathNotFound:
+        run.ask.Critical(kTestTitle,
+                         "Ett fel inträffade när fillista-filen FILELIST.INF skulle skapas! Kan ej "
+                         "hitta angivna källsökvägar/mappar på hårddisken. Sannolikt har en eller "
+                         "flera mappar fått nya namn eller flyttats.");
+        return false;
+    default:
+        return Fail(run, kTestTitle, error, "fillista-filen FILELIST.INF skulle skapas");
+    }
+}
+
+bool WriteSetupInfo(TestRun& run, Project& project, const Text& folder, SetupInfoMode mode)
+{
+    SetupInfoInput input{project, run.host, run.ask, run.options, run.surface, run.FilesInList};
+    const int error = WriteSetupInfoFile(JoinPath(folder, kSetupInformationName), input, mode);
+    if (error == ErrorNumber::kNone)
+        return true;
+    run.failure = input.failure;
+    return Fail(run, mode == SetupInfoMode::Preview ? kPreviewTitle : kTestTitle, error,
+                "informationsfilen QNSETUP.INF skulle skapas");
+}
+
+bool CopyLanguageFile(TestRun& run, const Text& folder)
+{
+    const Text& name = run.project.Language.LanguageFile;
+    const auto copy = [&] {
+        // A project from elsewhere must not name a file outside the two folders.
+        if (ExtractFilename(name) != name || name.empty())
+            throw RunError(ErrorNumber::kBadFileName, name);
+        run.host.files.CopyContent(JoinPath(run.options.ToolFolder + "\\Language", name),
+                                   JoinPath(folder, name));
+    };
+    const int error = RunErrorNumber(copy, run.failure);
+    return error == ErrorNumber::kNone ||
+           Fail(run, kTestTitle, error, "språkfilen '" + name + "' skulle kopieras");
+}
+
+bool StartRuntime(TestRun& run, const char* title, const Text& argument)
+{
+    const auto start = [&] {
+        run.host.machine.StartProgram(JoinPath(TestFolder(run.options), kRuntime), argument);
+    };
+    const int error = RunErrorNumber(start, run.failure);
+    return error == ErrorNumber::kNone ||
+           Fail(run, title, error, "32-bitars inladdaren 'QNS32X.EXE' skulle anropas");
+}
+
+} // namespace
+
+Text TestFolder(const CreateOptions& options)
+{
+    return options.ToolFolder + "\\Test";
+}
+
+bool WriteTestFiles(TestRun& run, const Text& folder)
+{
+    if (ValidateProjectForAction(run.project, run.ask, "simulera") == Check::Stopped)
+        return false;
+    Project project = run.project;
+    project.Media.TargetMedia = kTestMedium;
+    return MakeFolder(run, kTestTitle, folder) && WriteFileList(run, project, folder) &&
+           WriteSetupInfo(run, project, folder, SetupInfoMode::TestRun) &&
+           CopyLanguageFile(run, folder);
+}
+
+bool StartSimulation(TestRun& run)
+{
+    return WriteTestFiles(run, TestFolder(run.options)) && StartRuntime(run, kTestTitle, "/TEST");
+}
+
+bool StartDesignPreview(TestRun& run)
+{
+    const Text folder = TestFolder(run.options);
+    Project project = run.project;
+    return MakeFolder(run, kPreviewTitle, folder) &&
+           WriteSetupInfo(run, project, folder, SetupInfoMode::Preview) &&
+           StartRuntime(run, kPreviewTitle, "/PREVIEW");
+}
+
+} // namespace quillon

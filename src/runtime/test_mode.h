@@ -1,0 +1,36 @@
+// What the setup does when its author tries it from the tool: it reads its files, shows what it
+// would show, and installs nothing. Nothing is written but the log that /LOG= asks for.
+#pragma once
+
+#include "runtime/setup_program.h"
+
+namespace quillon {
+
+/// What the one window of a test shows until the user closes it.
+struct TestWindow {
+    Text title;              // names the project
+    Text note;               // that nothing is installed
+    Text heading;            // what the lines are
+    std::vector<Text> lines; // the pages in their order, or what is on the screen
+    Text close;              // the caption of the button
+};
+
+/// For a test of everything.
+TestWindow DescribePages(const LoadedPackage& package);
+/// For the preview of the screen behind the pages.
+TestWindow DescribeScreen(const LoadedPackage& package);
+
+/// Both INF files and the language file for a test, all but FILELIST.INF for a preview.
+LoadedPackage LoadForTest(const FileSystem& files, const Text& folder, TestMode mode);
+
+struct TestInput {
+    Host& host;
+    Ask& ask;
+    const Switches& switches;
+    /// Shows the window and waits for its end; not called under /S.
+    std::function<void(const TestWindow& window)> show;
+};
+
+ExitCode RunTest(const TestInput& input, const LoadedPackage& package);
+
+} // namespace quillon

@@ -1,0 +1,281 @@
+#include "runtime/test_mode.h"
+
+#include "platform/run_error.h"
+#include "runtime/silent_ask.h"
+#include "support/golden.h"
+#include "support/memory_host.h"
+#include "support/scripted_ask.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+using test::BoxKind;
+using test::ExpectedBox;
+using test::GoldenFile;
+using test::MemoryHost;
+using test::ScriptedAsk;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+const Text kFolder = "C:\\Quillon\\Test";
+const Text kSetup = kFolder + "\\QNSETUP.INF";
+const Text kList = kFolder + "\\FILELIST.INF";
+
+class TestModeTest : public testing::Test {
+protected:
+    TestModeTest()
+    {
+        memory.files.Put(kSetup, ReplaceAll(GoldenFile("builder/full_project/QNSETUP_test_run.INF"),
+                                            "\r\nFiles = 7\r\n", "\r\nFiles = 0\r\n"));
+        memory.files.Put(kList, GoldenFile("builder/file_list/FILELIST_no_rows.INF"));
+    }
+
+    /// A run on what lies in the folder, which it must leave as it is but for the log.
+    ExitCode Run(const Text& line, std::deque<ExpectedBox> script = {})
+    {
+        ScriptedAsk user(std::move(script));
+        SilentAsk nobody;
+        const Switches switches = ReadSwitches(line);
+        const LoadedPackage package = LoadForTest(memory.files, kFolder, *switches.testMode);
+        const std::map<Text, std::string> before = Files();
+        shown.clear();
+        const ExitCode code =
+            RunTest({memory.host, switches.silent ? static_cast<Ask&>(nobody) : user, switches,
+                     [&](const TestWindow& window) { shown.push_back(window); }},
+                    package);
+        std::map<Text, std::string> after = Files();
+        after.erase("c:\\log.txt");
+        EXPECT_EQ(after, before);
+        return code;
+    }
+    std::map<Text, std::string> Files() const
+    {
+        std::map<Text, std::string> all;
+        for (const auto& [path, node] : memory.files.nodes)
+            all[path] = node.bytes ? *node.bytes : "folder";
+        return all;
+    }
+
+    MemoryHost memory;
+    std::vector<TestWindow> shown;
+};
+
+Project WithPages()
+{
+    Project project;
+    project.ProjectName.ProjectName = "Räkna";
+    return project;
+}
+
+TestWindow PagesOf(const Project& project, const LanguageTexts& texts = {})
+{
+    LoadedPackage package;
+    package.setup.project = project;
+    package.texts = texts;
+    return DescribePages(package);
+}
+
+} // namespace
+
+TEST(DescribePages, NamesTheProjectAndItsPagesInOrder)
+{
+    Project project = WithPages();
+    project.DialogBoxData.WelcomeDlgTitle = "Hej!";
+    project.DialogBoxData.InstallCompleteDlgTitle = " ";
+    project.DialogBoxes.PasswordDlg = 1;
+    project.DialogBoxes.DestinationDlg = 0;
+    const TestWindow window = PagesOf(project);
+    EXPECT_EQ(window.title, "Test av Räkna");
+    EXPECT_EQ(window.note, "Det här är ett test. Ingenting installeras.");
+    EXPECT_EQ(window.heading, "Dialogrutor som installationen visar:");
+    EXPECT_THAT(window.lines, ElementsAre("1. Hej!", "2. Lösenord", "3. Installationen avslutad"));
+    EXPECT_EQ(window.close, "Stäng");
+}
+
+TEST(DescribePages, KnowsEveryPage)
+{
+    Project project = WithPages();
+    project.DialogBoxes = {1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, {}};
+    project.DialogBoxData.LicenseTitle = "Avtal";
+    project.DialogBoxData.LicenseTitleRtf = "Avtal i RTF";
+    EXPECT_THAT(PagesOf(project).lines,
+                ElementsAre("1. Välkommen", "2. Generell information", "3. Generell information 2",
+                            "4. Avtal", "5. Avtal i RTF", "6. Lösenord", "7. Registrering (lokalt)",
+                            "8. Destinationskatalog", "9. Enhet", "10. Välj programgrupp",
+                            "11. Starta installation", "12. Installationen avslutad"));
+}
+
+TEST(DescribePages, HasWordsForAPageWithoutATitle)
+{
+    Project project = WithPages();
+    project.DialogBoxes = {1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, {}};
+    project.DialogBoxData = {};
+    for (Text section::DialogBoxData::*title :
+         {&section::DialogBoxData::WelcomeDlgTitle, &section::DialogBoxData::GeneralDlgTitle,
+          &section::DialogBoxData::GeneralDlgTitle2, &section::DialogBoxData::LicenseTitle,
+          &section::DialogBoxData::LicenseTitleRtf, &section::DialogBoxData::StartInstallDlgTitle,
+          &section::DialogBoxData::InstallCompleteDlgTitle})
+        (project.DialogBoxData.*title).clear();
+    EXPECT_THAT(PagesOf(project).lines,
+                ElementsAre("1. Välkommen", "2. Generell information", "3. Generell information 2",
+                            "4. Licensinformation", "5. Licensinformation (RTF)", "6. Lösenord",
+                            "7. Registrering (lokalt)", "8. Destinationskatalog", "9. Enhet",
+                            "10. Välj programgrupp", "11. Starta installation",
+                            "12. Installationen avslutad"));
+}
+
+TEST(DescribePages, SaysThatThereIsNone)
+{
+    Project project;
+    project.DialogBoxes = {0, 0, 0, 0, 0, -1, 2, 0, 0, 0, 0, 0, {}};
+    const TestWindow window = PagesOf(project);
+    EXPECT_EQ(window.title, "Test av ett projekt utan namn");
+    EXPECT_EQ(window.heading, "Installationen visar inga dialogrutor.");
+    EXPECT_THAT(window.lines, IsEmpty());
+}
+
+TEST(DescribePages, SpeaksTheLanguageOfTheProject)
+{
+    const LanguageTexts english("[Pages]\nPage_Destination=Folder\n[Test]\nTitle=Test of %1\n"
+                                "Button_Close=Close\n");
+    const TestWindow window = PagesOf(WithPages(), english);
+    EXPECT_EQ(window.title, "Test of Räkna");
+    EXPECT_EQ(window.close, "Close");
+    EXPECT_THAT(window.lines,
+                ElementsAre("1. Välkommen", "2. Folder", "3. Installationen avslutad"));
+}
+
+TEST(DescribeScreen, TellsWhatIsOnIt)
+{
+    LoadedPackage package;
+    package.setup.project = WithPages();
+    package.setup.project.DesTitle.TitleText = "Räkna 2";
+    package.setup.DesWidth = 640;
+    package.setup.DesHeight = 480;
+    TestWindow window = DescribeScreen(package);
+    EXPECT_EQ(window.title, "Förhandsgranskning av Räkna");
+    EXPECT_EQ(window.heading, "Installationsskärmen:");
+    EXPECT_THAT(window.lines, ElementsAre("Titel: Räkna 2", "Storlek: 640 x 480 bildpunkter"));
+    package.setup.project.DesSubTitle.SubTitleText = "Bättre";
+    package.setup.project.DesBackground.PictureFilename = "c:\\b.bmp";
+    window = DescribeScreen(package);
+    EXPECT_THAT(window.lines,
+                ElementsAre("Titel: Räkna 2", "Undertitel: Bättre",
+                            "Storlek: 640 x 480 bildpunkter", "Bakgrundsbild: c:\\b.bmp"));
+}
+
+TEST_F(TestModeTest, ShowsTheWindowAndInstallsNothing)
+{
+    EXPECT_EQ(Run("/TEST"), ExitCode::Done);
+    ASSERT_EQ(shown.size(), 1U);
+    const LoadedPackage package = LoadForTest(memory.files, kFolder, TestMode::Test);
+    const TestWindow window = DescribePages(package);
+    EXPECT_EQ(shown[0].title, "Test av " + package.setup.project.ProjectName.ProjectName);
+    EXPECT_EQ(shown[0].lines, window.lines);
+    EXPECT_THAT(window.lines, testing::Not(IsEmpty()));
+}
+
+TEST_F(TestModeTest, NeedsNoFileListForAPreview)
+{
+    memory.files.RemoveFile(kList);
+    EXPECT_EQ(Run("/PREVIEW"), ExitCode::Done);
+    memory.files.Put(kSetup, GoldenFile("builder/full_project/QNSETUP_preview.INF"));
+    EXPECT_EQ(Run("/preview"), ExitCode::Done);
+    EXPECT_EQ(shown.size(), 1U);
+}
+
+TEST_F(TestModeTest, WritesWhatItShowsToTheLogThatIsAskedFor)
+{
+    EXPECT_EQ(Run("/PREVIEW /S /LOG=C:\\log.txt"), ExitCode::Done);
+    EXPECT_THAT(shown, IsEmpty());
+    const std::string log = memory.files.Get("C:\\log.txt");
+    EXPECT_THAT(log, HasSubstr("Förhandsgranskning av "));
+    EXPECT_THAT(log, HasSubstr("Installationsskärmen:"));
+    EXPECT_THAT(log, HasSubstr("Storlek: "));
+}
+
+TEST_F(TestModeTest, IsSilentWithoutATrace)
+{
+    EXPECT_EQ(Run("/S /PREVIEW"), ExitCode::Done);
+    EXPECT_THAT(shown, IsEmpty());
+    EXPECT_FALSE(memory.files.FileExists("C:\\log.txt"));
+    memory.files.RemoveFile(kSetup);
+    EXPECT_EQ(Run("/S /PREVIEW"), ExitCode::Failed);
+}
+
+struct FaultCase {
+    const char* what;
+    const char* fault;
+    std::function<void(MemoryHost& memory)> spoil;
+};
+
+TEST_F(TestModeTest, TellsOfFilesThatAreMissingOrBroken)
+{
+    const FaultCase cases[] = {
+        {"no list", "FILELIST.INF saknas eller kan inte läsas",
+         [](MemoryHost& memory) { memory.files.RemoveFile(kList); }},
+        {"a cut list", "FILELIST.INF är avbruten",
+         [](MemoryHost& memory) { memory.files.Put(kList, "[FileList]\r\n"); }},
+        {"files of two runs", "QNSETUP.INF och FILELIST.INF hör inte ihop",
+         [](MemoryHost& memory) {
+             memory.files.Put(kList, GoldenFile("builder/file_list/FILELIST.INF"));
+         }},
+        {"a preview", "QNSETUP.INF är skriven för en förhandsgranskning",
+         [](MemoryHost& memory) {
+             memory.files.Put(kSetup, GoldenFile("builder/full_project/QNSETUP_preview.INF"));
+         }},
+    };
+    for (const FaultCase& one : cases) {
+        SCOPED_TRACE(one.what);
+        memory.files.Put(kList, GoldenFile("builder/file_list/FILELIST_no_rows.INF"));
+        one.spoil(memory);
+        EXPECT_EQ(Run("/TEST",
+                      {{BoxKind::Critical, "",
+                        "Testet kan inte visas (" + Text(one.fault) + "). Starta det på nytt."}}),
+                  ExitCode::Failed);
+        EXPECT_THAT(shown, IsEmpty());
+    }
+}
+
+TEST_F(TestModeTest, RefusesABadSwitch)
+{
+    for (const Text line : {"/TEST /X", "/X /TEST"})
+        EXPECT_EQ(Run(line, {{BoxKind::Critical, ""}}), ExitCode::BadSwitch);
+    EXPECT_EQ(Run("/S /PREVIEW /X"), ExitCode::BadSwitch);
+}
+
+TEST_F(TestModeTest, TellsOfALogThatCanNotBeWritten)
+{
+    memory.files.RefuseOutput("C:\\log.txt", ErrorNumber::kPermissionDenied);
+    EXPECT_EQ(Run("/PREVIEW /LOG=C:\\log.txt", {{BoxKind::Critical, ""}}), ExitCode::Failed);
+    EXPECT_THAT(shown, IsEmpty());
+}
+
+TEST_F(TestModeTest, TakesTheLanguageFileOfItsFolder)
+{
+    const LoadedPackage before = LoadForTest(memory.files, kFolder, TestMode::Preview);
+    const Text name = before.setup.project.Language.LanguageFile;
+    ASSERT_NE(name, "");
+    memory.files.Put(kFolder + "\\" + name, "[Test]\r\nButton_Close=Close\r\n");
+    EXPECT_EQ(Run("/PREVIEW"), ExitCode::Done);
+    EXPECT_EQ(shown[0].close, "Close");
+    memory.files.At(kFolder + "\\" + name).unreadable = true;
+    EXPECT_EQ(Run("/PREVIEW"), ExitCode::Done);
+    EXPECT_EQ(shown[0].close, "Stäng");
+}
+
+TEST_F(TestModeTest, ReadsNoLanguageFileThatIsFarTooLarge)
+{
+    const LoadedPackage before = LoadForTest(memory.files, kFolder, TestMode::Preview);
+    const Text path = kFolder + "\\" + before.setup.project.Language.LanguageFile;
+    memory.files.Put(path,
+                     "[Test]\r\nButton_Close=Close\r\n" + std::string(kLargestLanguageFile, ' '));
+    EXPECT_EQ(Run("/PREVIEW"), ExitCode::Done);
+    EXPECT_EQ(shown[0].close, "Stäng");
+}
+
+} // namespace quillon
