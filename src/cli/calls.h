@@ -8,6 +8,7 @@
 namespace quillon::cli {
 
 Exit CreatePackage(const CallContext& context);
+Exit TestProject(const CallContext& context);
 Exit ResaveProject(const CallContext& context);
 Exit ShowProject(const CallContext& context);
 Exit ListPackage(const CallContext& context);

@@ -102,7 +102,7 @@ TEST_F(TestRunTest, WarnsOfNoSystemFiles)
 TEST_F(TestRunTest, TakesTheMediumOfACdWhateverTheProjectsOwn)
 {
     project.RunAppSelfX.ProgramFilename = "c:\\data\\a.txt";
-    for (const Integer medium : {1, 2, 3, 4, 77}) {
+    for (const Integer medium : std::initializer_list<Integer>{1, 2, 3, 4, 77}) {
         project.Media.TargetMedia = medium;
         EXPECT_TRUE(Simulate());
         const std::string written = Get(kSetupInformationName);

@@ -39,10 +39,15 @@ unsigned NumberAt(const std::string& bytes, std::size_t position, int size)
     return number;
 }
 
-Headers ReadHeaders(const fs::path& path)
+std::string BytesOf(const fs::path& path)
 {
     std::ifstream file(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+Headers ReadHeaders(const fs::path& path)
+{
+    const std::string bytes = BytesOf(path);
     if (bytes.size() < 0x40 || !bytes.starts_with("MZ"))
         return {};
     const std::size_t start = NumberAt(bytes, 0x3C, 4);
@@ -76,6 +81,15 @@ TEST(SetupRuntime, IsMadeFor32BitMachines)
 TEST(SetupRuntime, HasATwinFor64BitWine)
 {
     ExpectAll(kRelease64, kMachineAmd64, kPe32Plus);
+}
+
+TEST(SetupRuntime, HasACopyForTestRunsBesideIt)
+{
+    for (const fs::path& release : {kRelease32, kRelease64}) {
+        const std::string copy = BytesOf(release.parent_path() / "Test" / "Qns32x.exe");
+        EXPECT_TRUE(copy == BytesOf(release / "Small32" / "QNS32X.EXE")) << release;
+        EXPECT_TRUE(copy.starts_with("MZ")) << release;
+    }
 }
 
 TEST(SetupRuntime, LeavesRoomOnTheFirstDisk)

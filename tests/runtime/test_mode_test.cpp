@@ -217,16 +217,14 @@ TEST_F(TestModeTest, TellsOfFilesThatAreMissingOrBroken)
 {
     const FaultCase cases[] = {
         {"no list", "FILELIST.INF saknas eller kan inte läsas",
-         [](MemoryHost& memory) { memory.files.RemoveFile(kList); }},
+         [](MemoryHost& on) { on.files.RemoveFile(kList); }},
         {"a cut list", "FILELIST.INF är avbruten",
-         [](MemoryHost& memory) { memory.files.Put(kList, "[FileList]\r\n"); }},
+         [](MemoryHost& on) { on.files.Put(kList, "[FileList]\r\n"); }},
         {"files of two runs", "QNSETUP.INF och FILELIST.INF hör inte ihop",
-         [](MemoryHost& memory) {
-             memory.files.Put(kList, GoldenFile("builder/file_list/FILELIST.INF"));
-         }},
+         [](MemoryHost& on) { on.files.Put(kList, GoldenFile("builder/file_list/FILELIST.INF")); }},
         {"a preview", "QNSETUP.INF är skriven för en förhandsgranskning",
-         [](MemoryHost& memory) {
-             memory.files.Put(kSetup, GoldenFile("builder/full_project/QNSETUP_preview.INF"));
+         [](MemoryHost& on) {
+             on.files.Put(kSetup, GoldenFile("builder/full_project/QNSETUP_preview.INF"));
          }},
     };
     for (const FaultCase& one : cases) {
@@ -234,7 +232,7 @@ TEST_F(TestModeTest, TellsOfFilesThatAreMissingOrBroken)
         memory.files.Put(kList, GoldenFile("builder/file_list/FILELIST_no_rows.INF"));
         one.spoil(memory);
         EXPECT_EQ(Run("/TEST",
-                      {{BoxKind::Critical, "",
+                      {{BoxKind::Critical, "Test av Räkna",
                         "Testet kan inte visas (" + Text(one.fault) + "). Starta det på nytt."}}),
                   ExitCode::Failed);
         EXPECT_THAT(shown, IsEmpty());
@@ -244,14 +242,16 @@ TEST_F(TestModeTest, TellsOfFilesThatAreMissingOrBroken)
 TEST_F(TestModeTest, RefusesABadSwitch)
 {
     for (const Text line : {"/TEST /X", "/X /TEST"})
-        EXPECT_EQ(Run(line, {{BoxKind::Critical, ""}}), ExitCode::BadSwitch);
+        EXPECT_EQ(Run(line, {{BoxKind::Critical, "Test av Räkna"}}), ExitCode::BadSwitch);
     EXPECT_EQ(Run("/S /PREVIEW /X"), ExitCode::BadSwitch);
 }
 
 TEST_F(TestModeTest, TellsOfALogThatCanNotBeWritten)
 {
     memory.files.RefuseOutput("C:\\log.txt", ErrorNumber::kPermissionDenied);
-    EXPECT_EQ(Run("/PREVIEW /LOG=C:\\log.txt", {{BoxKind::Critical, ""}}), ExitCode::Failed);
+    EXPECT_EQ(
+        Run("/PREVIEW /LOG=C:\\log.txt", {{BoxKind::Critical, "Förhandsgranskning av Räkna"}}),
+        ExitCode::Failed);
     EXPECT_THAT(shown, IsEmpty());
 }
 

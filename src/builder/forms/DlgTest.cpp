@@ -9,6 +9,8 @@ namespace quillon {
 
 namespace {
 
+constexpr int kLettersOfALine = 48;
+
 TestRun RunOf(Session& session)
 {
     return {session.project, session.host, session.ask, session.options, session.surface};
@@ -26,8 +28,8 @@ DlgTest::DlgTest(Session& session, QWidget* parent)
     Button(NAMED(cmdCancel), "Avbryt", [this] { reject(); });
     cmdStartTest->setDefault(true);
     Arrange(Down({
-        Note("Här kan du prova installationsprogrammets dialogrutor och installationsskärm innan "
-             "du skapar installationen."),
+        RoomFor(kLettersOfALine, Note("Här kan du prova installationsprogrammets dialogrutor och "
+                                      "installationsskärm innan du skapar installationen.")),
         Note("Ingenting komprimeras och ingenting installeras på datorn. Filerna i fillistan måste "
              "finnas på hårddisken, men de kopieras inte. Projektet ändras inte av testet."),
         Stretch(),
