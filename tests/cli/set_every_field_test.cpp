@@ -32,7 +32,7 @@ bool IsFlag(Stored form)
 /// A flag other than it is in a new project.
 void Turn(FieldCase& one, Stored form, bool isOn)
 {
-    one.value = isOn ? "0" : "1";
+    one.value = std::string(1, isOn ? '0' : '1');
     one.shown = isOn ? 0 : form == Stored::AsFlagReadAsNumber ? 1 : -1;
 }
 
@@ -181,21 +181,32 @@ TEST_F(SetEveryField, RefusesFlagsThatAreNone)
                               one.Name() + " kan ej vara '" + value + "'; det är på");
 }
 
+/// Among them lines that look like a section and almost like the end of the list.
+std::string LinesOf(const ListSection& list, std::string_view lineBreak)
+{
+    std::string text(list.name);
+    for (const char* line : {"[1]", "rad 3;å", "", "..."})
+        text.append(lineBreak).append(line);
+    return text;
+}
+
 TEST_F(SetEveryField, SetsEveryListAndReadsItBack)
 {
     std::vector<std::string> words = {"set"};
     for (const ListSection& list : kListSections)
-        words.push_back(std::string(list.name) + "=[" + list.name + "]\nrad 2;å\n\nrad 4");
+        words.push_back(std::string(list.name).append("=").append(LinesOf(list, "\n")));
     Done(words);
-    const Json shown = Show();
+    Json shown = Show();
     for (const ListSection& list : kListSections)
-        EXPECT_EQ(shown[list.name], "[" + std::string(list.name) + "]\r\nrad 2;å\r\n\r\nrad 4")
-            << list.name;
+        EXPECT_EQ(shown[list.name], LinesOf(list, kLineBreak)) << list.name;
     ExpectUntouched(words);
+    words = {"set"};
     for (const ListSection& list : kListSections)
-        Done({"set", std::string(list.name) + "="});
+        words.push_back(std::string(list.name).append("="));
+    Done(words);
+    shown = Show();
     for (const ListSection& list : kListSections)
-        EXPECT_EQ(Show()[list.name], "") << list.name;
+        EXPECT_EQ(shown[list.name], "") << list.name;
 }
 
 } // namespace
