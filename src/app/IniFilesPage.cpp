@@ -1,5 +1,6 @@
 #include "app/IniFilesPage.h"
 
+#include "actions/forms/DlgAddINIentry.h"
 #include "actions/ini_list.h"
 #include "app/in_place.h"
 
@@ -11,14 +12,15 @@ IniFilesPage::IniFilesPage(Session& session) : session_(session)
 {
     setObjectName("IniFilesPage");
     EditListInPlace(NAMED(editINIList), session, session.project.Lists.INIFiles, kLongestIniList);
-    Arrange(this,
-            Across({Growing(Above("INI-filer, sektioner o&ch värden:", editINIList)),
-                    Down({Button(NAMED(cmdNewINIfile), "&Ny INI-fil...", [this] { AddFile(); }),
-                          Button(NAMED(cmdAddINIsection), "Lägg till s&ektion...",
-                                 [this] { AddSection(); }),
-                          Button(NAMED(cmdAddINIvalue), "Lägg till &värde..."),
-                          Button(NAMED(cmdVariables2), "Varia&bler...", [this] { AddVariable(); }),
-                          Stretch()})}));
+    Arrange(
+        this,
+        Across({Growing(Above("INI-filer, sektioner o&ch värden:", editINIList)),
+                Down({Button(NAMED(cmdNewINIfile), "&Ny INI-fil...", [this] { AddFile(); }),
+                      Button(NAMED(cmdAddINIsection), "Lägg till s&ektion...",
+                             [this] { AddSection(); }),
+                      Button(NAMED(cmdAddINIvalue), "Lägg till &värde...", [this] { AddValue(); }),
+                      Button(NAMED(cmdVariables2), "Varia&bler...", [this] { AddVariable(); }),
+                      Stretch()})}));
 }
 
 void IniFilesPage::ShowSession()
@@ -38,6 +40,13 @@ void IniFilesPage::AddSection()
     const auto section = session_.ask.XInputBox("Lägg till sektion", "&Sektion:");
     if (section && !section->empty())
         Append(IniSectionToAppend(session_.project.Lists.INIFiles, *section));
+}
+
+void IniFilesPage::AddValue()
+{
+    DlgAddINIentry form(session_.project.Lists.INIFiles, session_.ask, this);
+    if (form.ShowModal() && !form.Lines.empty())
+        AppendInPlace(editINIList, form.Lines);
 }
 
 void IniFilesPage::AddVariable()

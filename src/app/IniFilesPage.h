@@ -16,6 +16,7 @@ public:
 private:
     void AddFile();
     void AddSection();
+    void AddValue();
     void AddVariable();
     void Append(const Text& lines);
 

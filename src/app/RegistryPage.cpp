@@ -1,5 +1,8 @@
 #include "app/RegistryPage.h"
 
+#include "actions/forms/DlgAddRegKey.h"
+#include "actions/forms/DlgDeleteRegKey.h"
+#include "actions/forms/DlgUninstallRegKey.h"
 #include "actions/unsavable_line.h"
 #include "app/in_place.h"
 #include "ui/qt_text.h"
@@ -23,17 +26,28 @@ RegistryPage::RegistryPage(Session& session) : session_(session)
 
 Piece RegistryPage::Buttons()
 {
-    return Down({Button(NAMED(cmdAddRegistryKey), "Lägg &till..."),
-                 Button(NAMED(cmdDeleteRegistryKey), "Radera vid &installation..."),
-                 Button(NAMED(cmdUninstallRegistryKey), "A&vlägsna vid avinstallation..."),
-                 Button(NAMED(cmdVariables1), "Varia&bler...", [this] { AddVariable(); }),
-                 Stretch()});
+    return Down(
+        {Button(NAMED(cmdAddRegistryKey), "Lägg &till...", [this] { AddLine<DlgAddRegKey>(); }),
+         Button(NAMED(cmdDeleteRegistryKey), "Radera vid &installation...",
+                [this] { AddLine<DlgDeleteRegKey>(); }),
+         Button(NAMED(cmdUninstallRegistryKey), "A&vlägsna vid avinstallation...",
+                [this] { AddLine<DlgUninstallRegKey>(); }),
+         Button(NAMED(cmdVariables1), "Varia&bler...", [this] { AddVariable(); }), Stretch()});
 }
 
 void RegistryPage::ShowSession()
 {
     ShowInPlace(editRegistryList, session_.project.Lists.Registry);
     ShowWarning();
+}
+
+template <class Dialog>
+void RegistryPage::AddLine()
+{
+    Dialog form(session_.ask, this);
+    if (form.ShowModal())
+        AppendInPlace(editRegistryList,
+                      RegistryLineToAppend(session_.project.Lists.Registry, form.Line));
 }
 
 void RegistryPage::AddVariable()

@@ -17,6 +17,8 @@ public:
 
 private:
     Piece Buttons();
+    template <class Dialog>
+    void AddLine();
     void AddVariable();
     void ShowWarning();
 

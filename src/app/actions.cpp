@@ -1,5 +1,6 @@
 #include "app/actions.h"
 
+#include "actions/forms/DlgInstallOptions.h"
 #include "actions/forms/DlgProgramGroup.h"
 #include "app/MainForm.h"
 #include "app/text_commands.h"
@@ -69,6 +70,7 @@ const std::map<int, Action> kActions = {
     {124, [](MainForm& form) { UpdateFileListCommand(form.GetSession(), form); }},
     {136, CopyText},
     {137, PasteText},
+    {138, [](MainForm& form) { ShowInstallOptions(form.GetSession(), &form); }},
     {144, [](MainForm& form) { ShowVariables(form.GetSession(), &form); }},
     {145, [](MainForm& form) { ShowVersionInfo(form.GetSession(), &form); }},
     {146, [](MainForm& form) { ShowEditorOptions(form.GetSession(), form, &form); }},

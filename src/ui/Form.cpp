@@ -57,6 +57,15 @@ QCheckBox* Form::Check01(QCheckBox*& member, const char* name, const Text& capti
     return box;
 }
 
+QRadioButton* Form::Option(QRadioButton*& member, const char* name, const Text& caption,
+                           Flag& value)
+{
+    auto* option = Named(member, name, new QRadioButton(ToQt(caption)));
+    option->setChecked(value != kOff);
+    Bind([option, &value] { value = option->isChecked() ? kOn : kOff; });
+    return option;
+}
+
 QComboBox* Form::Choice(QComboBox*& member, const char* name, std::span<const char* const> rows,
                         Integer& value)
 {

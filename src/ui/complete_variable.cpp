@@ -43,4 +43,14 @@ void CompleteVariables(QLineEdit* field, PrefixTable table)
     new VariableCompleter(field, table);
 }
 
+void AppendVariable(QLineEdit* field, Ask& ask)
+{
+    if (const auto variable = ask.ChooseVariable()) {
+        // Put in as typing is, so that it can be undone.
+        field->end(false);
+        field->insert(ToQt(*variable));
+    }
+    field->setFocus();
+}
+
 } // namespace quillon

@@ -120,6 +120,13 @@ Piece Above(const Text& caption, Piece piece)
     return box;
 }
 
+QWidget* Together(Piece pieces)
+{
+    auto* widget = new QWidget;
+    Arrange(widget, pieces);
+    return widget;
+}
+
 QWidget* RoomFor(int letters, QWidget* widget)
 {
     widget->setMinimumWidth(letters * widget->fontMetrics().averageCharWidth());

@@ -58,6 +58,9 @@ Piece Fields(std::initializer_list<LabelledPiece> rows);
 /// The caption stands above its piece.
 Piece Above(const Text& caption, Piece piece);
 
+/// The pieces as one widget, such as a tab.
+QWidget* Together(Piece pieces);
+
 /// The widget, wide enough for this many usual letters of its font.
 QWidget* RoomFor(int letters, QWidget* widget);
 

@@ -1,5 +1,6 @@
 #include "actions/ini_list.h"
 
+#include "helpers/ansi_text.h"
 #include "platform/run_error.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"
@@ -31,6 +32,13 @@ TEST(IniSectionToAppend, StandsOnALineOfItsOwn)
 {
     EXPECT_EQ(IniSectionToAppend("", "Settings"), "[Settings]\r\n");
     EXPECT_EQ(IniSectionToAppend("-- WIN.INI --", "Settings"), "\r\n[Settings]\r\n");
+}
+
+TEST(IniValueToAppend, EndsItsLineAndBeginsNone)
+{
+    EXPECT_EQ(IniValueToAppend("Path", "%DESTDIR"), "Path=%DESTDIR\r\n");
+    EXPECT_EQ(IniValueToAppend("Name", ""), "Name=\r\n");
+    EXPECT_EQ(IniValueToAppend("a=b", "c=d"), "a=b=c=d\r\n");
 }
 
 class OpenINIFileIntoListTest : public testing::Test {
@@ -135,6 +143,26 @@ TEST_F(OpenINIFileIntoListTest, RefusesAFileThatTheListHasNoRoomFor)
     EXPECT_EQ(Opened(std::string(room + 1, 'x')), "");
     ask.Expect({BoxKind::Critical, "Fel"});
     EXPECT_EQ(Opened(std::string(1000000, 'x')), "");
+}
+
+TEST_F(OpenINIFileIntoListTest, RefusesTenMegabytes)
+{
+    std::string lines;
+    while (lines.size() < 10'000'000)
+        lines += "Namn=V\xE4rde\r\n";
+    ask.Expect({BoxKind::Critical, "Fel"});
+    EXPECT_EQ(Opened(lines, "x"), "");
+}
+
+TEST_F(OpenINIFileIntoListTest, TakesEveryByteOfALine)
+{
+    std::string bytes;
+    for (int byte = 1; byte < 256; ++byte)
+        if (byte != '\r' && byte != '\n')
+            bytes += static_cast<char>(byte);
+    const Text lines = Opened(bytes);
+    EXPECT_EQ(lines, "-- MIN.INI --\r\n" + AnsiText::FromBytes(bytes));
+    EXPECT_TRUE(AnsiText::Holds(lines));
 }
 
 TEST_F(OpenINIFileIntoListTest, RefusesANameThatNoProjectCanHold)

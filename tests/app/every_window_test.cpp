@@ -1,14 +1,22 @@
 // What holds for every window: it can be read whole at its least size and in large letters, heard
 // by name, and used by keys alone.
+#include "actions/forms/DlgAddINIentry.h"
+#include "actions/forms/DlgAddRegKey.h"
+#include "actions/forms/DlgDeleteRegKey.h"
 #include "actions/forms/DlgDestDirAdvUpdate.h"
 #include "actions/forms/DlgDestDirDlg.h"
 #include "actions/forms/DlgDestDriveDlg.h"
 #include "actions/forms/DlgGeneral.h"
+#include "actions/forms/DlgGetRegKey.h"
+#include "actions/forms/DlgInstallOptInternetAdv.h"
+#include "actions/forms/DlgInstallOptions.h"
 #include "actions/forms/DlgLicenseInfo.h"
 #include "actions/forms/DlgLicenseInfoRtf.h"
 #include "actions/forms/DlgNameCompany.h"
 #include "actions/forms/DlgPassword.h"
 #include "actions/forms/DlgProgramGroup.h"
+#include "actions/forms/DlgTestNETFramework.h"
+#include "actions/forms/DlgUninstallRegKey.h"
 #include "actions/forms/InstDlgDestDir.h"
 #include "actions/forms/InstDlgDestDrive.h"
 #include "actions/forms/InstDlgGeneral.h"
@@ -61,6 +69,7 @@ using testing::IsEmpty;
 struct Subject {
     Session& session;
     CreateForm& create;
+    InternetAdvanced& advanced;
 };
 
 struct WindowCase {
@@ -107,6 +116,8 @@ FileListRow& FirstRow(Subject subject)
 // clang-format off
 const WindowCase kWindows[] = {
     {"DlgAbout", [](Subject) { return Made<DlgAbout>(); }},
+    {"DlgAddINIentry", [](Subject of) { return Made<DlgAddINIentry>(of.session.project.Lists.INIFiles, of.session.ask); }},
+    {"DlgAddRegKey", [](Subject of) { return Made<DlgAddRegKey>(of.session.ask); }},
     {"DlgChangeSrcPath", [](Subject of) { return Made<DlgChangeSrcPath>("c:\\data\\a.txt", of.session); }},
     {"DlgChCompNr", [](Subject of) { return Made<DlgChCompNr>("1", of.session); }},
     {"DlgChVariables", OfSession<DlgChVariables>},
@@ -118,18 +129,22 @@ const WindowCase kWindows[] = {
     {"DlgCopyOptions", [](Subject) { return Made<DlgCopyOptions>(CopyOptionTicks{}); }},
     {"DlgCreate", OfSession<DlgCreate>},
     {"DlgCreateFoldersAtMyDoc", OfSession<DlgCreateFoldersAtMyDoc>},
+    {"DlgDeleteRegKey", [](Subject of) { return Made<DlgDeleteRegKey>(of.session.ask); }},
     {"DlgDestDirAdvUpdate", [](Subject of) { return Made<DlgDestDirAdvUpdate>(of.session.project.Updates, of.session); }},
     {"DlgDestDirDlg", OfSession<DlgDestDirDlg>},
     {"DlgDestDirVars", [](Subject) { return Made<DlgDestDirVars>(); }},
-    {"DlgDestinationDirectory", [](Subject of) { return Made<DlgDestinationDirectory>(DestinationQuestion{}, of.session); }},
     {"DlgDestDriveDlg", OfSession<DlgDestDriveDlg>},
+    {"DlgDestinationDirectory", [](Subject of) { return Made<DlgDestinationDirectory>(DestinationQuestion{}, of.session); }},
     {"DlgEditorOptions", OfSession<DlgEditorOptions>},
     {"DlgFileInfo", [](Subject of) { return Made<DlgFileInfo>(FirstRow(of), of.session); }},
     {"DlgFindReplaceData", [](Subject of) { return Made<DlgFindReplaceData>(ReplaceIn::Destinations, "%DESTDIR", of.session); }},
     {"DlgGeneral", [](Subject of) { return Made<DlgGeneral>(kGeneralPages[0], of.session); }},
+    {"DlgGetRegKey", [](Subject of) { return Made<DlgGetRegKey>(of.session.project.RunAppSelfX, of.session); }},
     {"DlgIcon", [](Subject of) { return Made<DlgIcon>(FirstRow(of), of.session); }},
     {"DlgIconOptions", [](Subject) { return Made<DlgIconOptions>(IconPlaces{}); }},
     {"DlgIconX", [](Subject of) { return Made<DlgIconX>(FirstRow(of), of.session); }},
+    {"DlgInstallOptInternetAdv", [](Subject of) { return Made<DlgInstallOptInternetAdv>(of.advanced, of.session); }},
+    {"DlgInstallOptions", OfSession<DlgInstallOptions>},
     {"DlgLicenseInfo", OfSession<DlgLicenseInfo>},
     {"DlgLicenseInfoRtf", OfSession<DlgLicenseInfoRtf>},
     {"DlgMDADetails", OfSession<DlgMDADetails>},
@@ -139,6 +154,8 @@ const WindowCase kWindows[] = {
     {"DlgShowDestDirectories", [](Subject) { return Made<DlgShowDestDirectories>(); }},
     {"DlgSortList", [](Subject of) { return Made<DlgSortList>(of.session.project); }},
     {"DlgTest", OfSession<DlgTest>},
+    {"DlgTestNETFramework", OfSession<DlgTestNETFramework>},
+    {"DlgUninstallRegKey", [](Subject of) { return Made<DlgUninstallRegKey>(of.session.ask); }},
     {"DlgVariables", [](Subject of) { return Made<DlgVariables>(of.session, DlgVariables::Use::Picker); }},
     {"DlgVersionInfo", OfSession<DlgVersionInfo>},
     {"InstDlgDestDir", [](Subject of) { return Made<InstDlgDestDir>(kAllSpace, of.session); }},
@@ -182,7 +199,7 @@ protected:
     {
         for (const WindowCase& window : kWindows) {
             SCOPED_TRACE(window.name);
-            const auto dialog = window.make({session, create});
+            const auto dialog = window.make({session, create, advanced});
             ShowActive(*dialog);
             dialog->resize(0, 0);
             auto* tabs = dialog->findChild<QTabWidget*>();
@@ -216,6 +233,7 @@ protected:
     }
 
     CreateForm create;
+    InternetAdvanced advanced;
     const QFont usualFont = QApplication::font();
 };
 

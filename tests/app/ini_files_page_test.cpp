@@ -2,6 +2,7 @@
 
 #include "actions/ini_list.h"
 #include "app/MainForm.h"
+#include "helpers/ansi_text.h"
 #include "support/window_test.h"
 
 namespace quillon::test {
@@ -79,6 +80,47 @@ TEST_F(IniFilesPageTest, AddsNothingWithoutAnAnswer)
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
 
+TEST_F(IniFilesPageTest, AddsAValueAtTheEnd)
+{
+    list = "[A]\r\n";
+    page.ShowSession();
+    const auto enter = [](const char* name, const char* value, const char* button) {
+        OnNextDialog([=](QDialog& dialog) {
+            Type(dialog, "tName", name);
+            Type(dialog, "tValue", value);
+            Click(dialog, button);
+        });
+    };
+    enter("a", "b", "cmdCancel");
+    Click(page, "cmdAddINIvalue");
+    enter("", "", "cmdOK");
+    Click(page, "cmdAddINIvalue");
+    EXPECT_EQ(list, "[A]\r\n");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    enter("Path", "%DESTDIR", "cmdOK");
+    Click(page, "cmdAddINIvalue");
+    EXPECT_EQ(list, "[A]\r\nPath=%DESTDIR\r\n");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    EXPECT_EQ(page.focusWidget(), &editor);
+    enter("Name", "", "cmdOK");
+    Click(page, "cmdAddINIvalue");
+    EXPECT_EQ(list, "[A]\r\nPath=%DESTDIR\r\nName=\r\n");
+    editor.undo();
+    EXPECT_EQ(list, "[A]\r\nPath=%DESTDIR\r\n");
+}
+
+// Kept: a value goes on right behind the head of a file.
+TEST_F(IniFilesPageTest, AddsAValueOnTheLineOfAFilesHead)
+{
+    Press("cmdNewINIfile", "win");
+    OnNextDialog([](QDialog& dialog) {
+        Type(dialog, "tName", "a");
+        Click(dialog, "cmdOK");
+    });
+    Click(page, "cmdAddINIvalue");
+    EXPECT_EQ(list, "-- WIN.INI --a=\r\n");
+}
+
 TEST_F(IniFilesPageTest, AddsAVariableAtTheEnd)
 {
     TypeKeys(editor, "Path=");
@@ -147,6 +189,34 @@ TEST_F(TextCommandsTest, ImportAnIniFileIntoTheListInView)
               "-- MIN.INI --\r\n[A]\r\nb=c\r\n\r\n-- MIN.INI --\r\n[A]\r\nb=c");
     Editor("editINIList").undo();
     EXPECT_EQ(session.project.Lists.INIFiles, "-- MIN.INI --\r\n[A]\r\nb=c");
+}
+
+TEST_F(TextCommandsTest, ImportEveryByteOfALine)
+{
+    std::string bytes;
+    for (int byte = 1; byte < 256; ++byte)
+        if (byte != '\r' && byte != '\n')
+            bytes += static_cast<char>(byte);
+    machine.files.Put("C:\\Data\\skräp.ini", bytes);
+    form.SelectTab(Tab::IniFiles);
+    ask.choices = {{{"C:\\Data\\skräp.ini"}}};
+    form.RunCommand(107);
+    EXPECT_EQ(session.project.Lists.INIFiles, "-- SKRÄP.INI --\r\n" + AnsiText::FromBytes(bytes));
+}
+
+TEST_F(TextCommandsTest, ImportNothingOfAFileThatIsTooLong)
+{
+    machine.files.Put("C:\\Data\\lang.ini", std::string(10'000'000, 'x'));
+    session.project.Lists.INIFiles = "[A]";
+    form.ShowProject();
+    form.SelectTab(Tab::IniFiles);
+    ask.choices = {{{"C:\\Data\\lang.ini"}}};
+    ask.Expect({BoxKind::Critical, "Fel",
+                "Listan över INI-filer kan innehålla högst 32767 tecken! Ingenting har lagts "
+                "till."});
+    form.RunCommand(107);
+    EXPECT_EQ(session.project.Lists.INIFiles, "[A]");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
 
 TEST_F(TextCommandsTest, ImportNothingOnCancelOrOnAnotherTab)

@@ -92,6 +92,47 @@ TEST_F(RegistryPageTest, AddsAVariableAtTheEnd)
     EXPECT_EQ(ask.questions.at(0).title, "ChooseVariable");
 }
 
+TEST_F(RegistryPageTest, AddsALineFromEachOfItsDialogs)
+{
+    struct Row {
+        const char* button;
+        const char* dialog;
+        const char* line;
+    };
+    Text lines;
+    for (const Row& row :
+         {Row{"cmdAddRegistryKey", "DlgAddRegKey", "HKEY_CLASSES_ROOT\\.qnp"},
+          Row{"cmdDeleteRegistryKey", "DlgDeleteRegKey", "DELETE=HKEY_CLASSES_ROOT\\.qnp"},
+          Row{"cmdUninstallRegistryKey", "DlgUninstallRegKey",
+              "UNINSTALL=HKEY_CLASSES_ROOT\\.qnp"}}) {
+        SCOPED_TRACE(row.button);
+        session.state.ProjectIsDirty = kOff;
+        OnNextDialog([&](QDialog& dialog) {
+            EXPECT_EQ(dialog.objectName(), row.dialog);
+            Type(dialog, "tSubKey", ".qnp");
+            Click(dialog, "cmdCancel");
+        });
+        Click(page, row.button);
+        EXPECT_EQ(list, lines);
+        EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+        editor.moveCursor(QTextCursor::Start);
+        OnNextDialog([](QDialog& dialog) {
+            Type(dialog, "tSubKey", ".qnp\\");
+            Click(dialog, "cmdOK");
+        });
+        Click(page, row.button);
+        lines += (lines.empty() ? "" : "\r\n") + Text(row.line);
+        EXPECT_EQ(list, lines);
+        EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+        EXPECT_EQ(page.focusWidget(), &editor);
+        EXPECT_TRUE(editor.textCursor().atEnd());
+    }
+    editor.undo();
+    EXPECT_EQ(list, "HKEY_CLASSES_ROOT\\.qnp\r\nDELETE=HKEY_CLASSES_ROOT\\.qnp");
+    editor.redo();
+    EXPECT_EQ(list, lines);
+}
+
 TEST_F(RegistryPageTest, IsReadInLettersOfOneWidthAndByName)
 {
     EXPECT_EQ(editor.fontMetrics().horizontalAdvance("ill1"),

@@ -13,13 +13,6 @@ namespace {
 // By `BarsStyle`.
 constexpr const char* kBarsStyles[] = {"Windows XP", "Office 2000", "Office XP", "Office 2003"};
 
-QWidget* TabOf(Piece pieces)
-{
-    auto* tab = new QWidget;
-    Arrange(tab, pieces);
-    return tab;
-}
-
 } // namespace
 
 DlgEditorOptions::DlgEditorOptions(Session& session, QWidget* parent)
@@ -35,7 +28,7 @@ DlgEditorOptions::DlgEditorOptions(Session& session, QWidget* parent)
 QWidget* DlgEditorOptions::FileListTab(Session& session)
 {
     ListOptions& options = session.Settings.ListOptions;
-    return TabOf(Down({
+    return Together(Down({
         Check(NAMED(cShowAlsoSourcePathInFileList), "Visa även &källkatalog i fillistan",
               options.ShowAlsoSourcePathInFileList),
         Check(NAMED(cFileListShowGridLines), "Visa &rutnät i fillistan",
@@ -49,7 +42,7 @@ QWidget* DlgEditorOptions::FileListTab(Session& session)
 QWidget* DlgEditorOptions::WindowTab(Session& session)
 {
     HideTabs& hide = session.Settings.HideTabs;
-    return TabOf(Down({
+    return Together(Down({
         Frame("Dölj flikar",
               {
                   Check(NAMED(cHideRegistry), "&Registry", hide.HideTabRegistry),
@@ -66,7 +59,7 @@ QWidget* DlgEditorOptions::WindowTab(Session& session)
 QWidget* DlgEditorOptions::CreateTab(Session& session)
 {
     CreateOptions& options = session.options;
-    QWidget* tab = TabOf(Down({
+    QWidget* tab = Together(Down({
         Check(NAMED(cUpdateSetupDateTime), "Ge setup-programmet dagens &datum och tid",
               options.UpdateSetupExeDateTime),
         Check(NAMED(cPlaceCompressedFilesInFolderSetupFiles),

@@ -1,0 +1,111 @@
+#include "actions/forms/DlgInstallOptInternetAdv.h"
+
+#include "actions/forms/DlgGetRegKey.h"
+#include "actions/kept_path.h"
+#include "project/install_keys.h"
+#include "shell/session.h"
+#include "ui/PathLabel.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+using section::RunAppSelfX;
+
+namespace {
+
+constexpr int kLettersOfParameters = 50;
+constexpr PathKind kProgram{"Programmet", "Lägg programmet i en katalog närmare roten."};
+
+int Longest(Text RunAppSelfX::*field)
+{
+    return LongestText(section::kRunAppSelfX, field);
+}
+
+} // namespace
+
+DlgInstallOptInternetAdv::DlgInstallOptInternetAdv(InternetAdvanced& values, Session& session,
+                                                   QWidget* parent)
+    : EditorForm("DlgInstallOptInternetAdv", "Internet - Avancerat", session, parent),
+      values_(values), edited_(values)
+{
+    Check(NAMED(cADExpandEXEInWinTempMap),
+          "&Packa upp filerna i den självuppackande installationen i Windows temporära katalog",
+          edited_.ExpandEXEInWinTempMap);
+    Arrange(Down({
+        cADExpandEXEInWinTempMap,
+        ProgramFrame(),
+        ReturnValuesFrame(),
+        Stretch(),
+        OkCancel(),
+    }));
+}
+
+Piece DlgInstallOptInternetAdv::ProgramFrame()
+{
+    RunAppSelfX& program = edited_.program;
+    Named(NAMED(sProgramFilename), new PathLabel);
+    sProgramFilename->ShowPath(ToQt(program.ProgramFilename));
+    Field(NAMED(tParam), program.Param, Longest(&RunAppSelfX::Param));
+    Option(NAMED(oVisible), "Programmet är &visuellt och har ett grafiskt gränssnitt",
+           program.VisibleWin);
+    Named(NAMED(oInvisible),
+          new QRadioButton("Programmet är &osynligt och saknar ett grafiskt gränssnitt"));
+    oInvisible->setChecked(program.VisibleWin == kOff);
+    return Frame(
+        "Kör ett program i den självuppackande installationen",
+        {Fields({{"Programfil:", sProgramFilename}}),
+         Across({Button(NAMED(cmdSelectProgram), "Vä&lj program...", [this] { SelectProgram(); }),
+                 Button(NAMED(cmdReset), "Ta bort program", [this] { Reset(); }), Stretch()}),
+         Above("&Inparametrar till program:", RoomFor(kLettersOfParameters, tParam)), oVisible,
+         oInvisible});
+}
+
+Piece DlgInstallOptInternetAdv::ReturnValuesFrame()
+{
+    RunAppSelfX& program = edited_.program;
+    Field(NAMED(tReturnValueExit), program.ReturnValueExit, Longest(&RunAppSelfX::ReturnValueExit));
+    Field(NAMED(tReturnValueBack), program.ReturnValueBack, Longest(&RunAppSelfX::ReturnValueBack));
+    Field(NAMED(tReturnValueDD), program.ReturnValueDD, Longest(&RunAppSelfX::ReturnValueDD));
+    Button(NAMED(CmdSelRegKey), "&Specificera nyckel i Registry...",
+           [this] { DlgGetRegKey(edited_.program, session_, this).ShowModal(); });
+    return Frame("Hantering av returvärden",
+                 {Fields({
+                      {"&Avbryt vid följande returvärde:", tReturnValueExit},
+                      {"&Backa vid följande returvärde:", tReturnValueBack},
+                      {"&Ge %DESTDIR ett nytt värde vid följande returvärde:", tReturnValueDD},
+                  }),
+                  Across({Stretch(), CmdSelRegKey})});
+}
+
+void DlgInstallOptInternetAdv::SelectProgram()
+{
+    const auto path = session_.ask.OpenFile({.title = "Välj programfil",
+                                             .folder = "C:\\",
+                                             .filter = "Programfiler (*.exe)|*.exe",
+                                             .defaultExtension = ".exe"});
+    if (!path || path->empty() ||
+        !CanKeepPath(*path, Longest(&RunAppSelfX::ProgramFilename), kProgram, session_.ask))
+        return;
+    edited_.program.ProgramFilename = *path;
+    sProgramFilename->ShowPath(ToQt(*path));
+}
+
+// What belongs to the program goes with it, as it does when the project is saved without one.
+void DlgInstallOptInternetAdv::Reset()
+{
+    edited_.program = {};
+    sProgramFilename->ShowPath({});
+    for (QLineEdit* field : {tParam, tReturnValueExit, tReturnValueBack, tReturnValueDD})
+        field->clear();
+    oInvisible->setChecked(true);
+}
+
+void DlgInstallOptInternetAdv::Store()
+{
+    values_ = edited_;
+    EditorForm::Store();
+}
+
+} // namespace quillon

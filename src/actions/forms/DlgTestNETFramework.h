@@ -1,0 +1,18 @@
+// The test for the .NET Framework on its own, for whoever has just brought in a project that needs
+// it.
+#pragma once
+
+#include "actions/forms/NetFrameworkForm.h"
+
+namespace quillon {
+
+class DlgTestNETFramework : public NetFrameworkForm {
+public:
+    DlgTestNETFramework(Session& session, QWidget* parent)
+        : NetFrameworkForm("DlgTestNETFramework", "Microsoft .NET Framework", session, parent)
+    {
+        Arrange(Down({NetFrameworkTest(), Stretch(), OkCancel()}));
+    }
+};
+
+} // namespace quillon

@@ -1,0 +1,83 @@
+#include "actions/forms/RegistryKeyForm.h"
+
+#include "platform/registry_roots.h"
+#include "ui/qt_text.h"
+#include "ui/typed_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kLettersOfAKey = 60;
+
+} // namespace
+
+RegistryKeyForm::RegistryKeyForm(const char* name, const Text& title, Ask& ask, QWidget* parent)
+    : Form(name, title, parent), ask_(ask)
+{
+    Named(NAMED(ComboHKEY), new QComboBox);
+    for (const char* root : kRegistryRoots)
+        ComboHKEY->addItem(root);
+    connect(ComboHKEY, &QComboBox::activated, this, [this] { ChooseRoot(); });
+    Named(NAMED(tSubKey), new QLineEdit);
+    LimitTyping(tSubKey, 0);
+    OnLeave(tSubKey, [this] { LeaveSubKey(); });
+}
+
+Piece RegistryKeyForm::KeyRows()
+{
+    return Fields({{"&HKEY:", ComboHKEY}, {"&Subnyckel:", RoomFor(kLettersOfAKey, tSubKey)}});
+}
+
+Text RegistryKeyForm::Root() const
+{
+    return FromQt(ComboHKEY->currentText());
+}
+
+Text RegistryKeyForm::SubKey() const
+{
+    return FromQt(tSubKey->text());
+}
+
+void RegistryKeyForm::ChooseRoot()
+{
+    tSubKey->setText(ToQt(SubKeyOnChoiceOfRoot(SubKey(), Root())));
+}
+
+void RegistryKeyForm::LeaveSubKey()
+{
+    tSubKey->setText(ToQt(SubKeyOnLeave(SubKey())));
+}
+
+bool RegistryKeyForm::MayClose()
+{
+    LeaveSubKey();
+    const bool may = HasSubKey(SubKey(), ask_);
+    if (!may)
+        tSubKey->setFocus();
+    return may;
+}
+
+RemoveRegKeyForm::RemoveRegKeyForm(const char* name, const Text& title, RegistryRemoval when,
+                                   Ask& ask, QWidget* parent)
+    : RegistryKeyForm(name, title, ask, parent), when_(when)
+{
+    Named(NAMED(tValue), new QLineEdit);
+    LimitTyping(tValue, 0);
+    Arrange(Down({
+        KeyRows(),
+        Frame("Namn på värde", {Fields({{"&Värde:", tValue}})}),
+        Stretch(),
+        OkCancel(),
+    }));
+    tSubKey->setFocus();
+}
+
+void RemoveRegKeyForm::Store()
+{
+    Line = MakeRegistryRemovalLine(when_, Root(), SubKey(), FromQt(tValue->text()));
+}
+
+} // namespace quillon
