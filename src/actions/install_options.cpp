@@ -93,6 +93,14 @@ void SetTrueText(Text& value, bool isTrue)
         value = NumberText(FlagOf(isTrue));
 }
 
+bool HasValuesWithoutProgram(const section::RunAppSelfX& program)
+{
+    return program.ProgramFilename.empty() &&
+           !(program.Param.empty() && program.ReturnValueExit.empty() &&
+             program.ReturnValueBack.empty() && program.ReturnValueDD.empty() &&
+             program.DD_sSubKey.empty() && program.DD_sValueName.empty());
+}
+
 InternetAdvanced InternetAdvancedOf(const Project& project)
 {
     return {project.InstallOptionsInternet.ExpandEXEInWinTempMap, project.RunAppSelfX};

@@ -66,6 +66,8 @@ struct InternetAdvanced {
     Flag ExpandEXEInWinTempMap = kOff;
     section::RunAppSelfX program;
 };
+/// Whether the project file would leave out what is there of the program, since there is none.
+bool HasValuesWithoutProgram(const section::RunAppSelfX& program);
 InternetAdvanced InternetAdvancedOf(const Project& project);
 void SetInternetAdvanced(Project& project, const InternetAdvanced& advanced);
 

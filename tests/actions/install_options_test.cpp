@@ -127,6 +127,22 @@ TEST(SetTrueText, KeepsTheWordsThatSayTheSame)
     }
 }
 
+TEST(HasValuesWithoutProgram, LooksAtAllThatTheProjectFileWouldLeaveOut)
+{
+    using section::RunAppSelfX;
+    EXPECT_FALSE(HasValuesWithoutProgram({}));
+    EXPECT_FALSE(HasValuesWithoutProgram({.DD_iHKEYIndex = "2"}));
+    for (Text RunAppSelfX::*field :
+         {&RunAppSelfX::Param, &RunAppSelfX::ReturnValueExit, &RunAppSelfX::ReturnValueBack,
+          &RunAppSelfX::ReturnValueDD, &RunAppSelfX::DD_sSubKey, &RunAppSelfX::DD_sValueName}) {
+        RunAppSelfX program;
+        program.*field = Text("1");
+        EXPECT_TRUE(HasValuesWithoutProgram(program));
+        program.ProgramFilename = Text("C:\\a.exe");
+        EXPECT_FALSE(HasValuesWithoutProgram(program));
+    }
+}
+
 TEST(InternetAdvanced, GoesToTheProjectAndBack)
 {
     Project project;

@@ -57,6 +57,18 @@ TEST_F(DlgAddRegKeyTest, PresetsTheSubkeyOfTheChosenRoot)
     EXPECT_EQ(TextIn(form, "tSubKey"), "\\x");
 }
 
+TEST_F(DlgAddRegKeyTest, GoesOnBehindAPresetThatIsReachedByTab)
+{
+    Choose(form.ComboHKEY, 2);
+    QTest::keyClick(form.ComboHKEY, Qt::Key_Tab);
+    TypeKeys(*form.tSubKey, "Firma");
+    EXPECT_EQ(TextIn(form, "tSubKey"), "\\SOFTWARE\\Firma");
+    form.ComboHKEY->setFocus();
+    QTest::keyClick(form.ComboHKEY, Qt::Key_Tab);
+    TypeKeys(*form.tSubKey, "x");
+    EXPECT_EQ(TextIn(form, "tSubKey"), "x");
+}
+
 TEST_F(DlgAddRegKeyTest, PutsABackslashInFrontWhenTheSubkeyIsLeft)
 {
     Type(form, "tSubKey", "Software");

@@ -184,6 +184,27 @@ TEST_F(DlgInstallOptInternetAdvTest, ChangesNothingOnCancel)
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
 
+TEST_F(DlgInstallOptInternetAdvTest, TellsWhatIsNotSavedWithoutAProgram)
+{
+    Open();
+    EXPECT_FALSE(form->sProgramWarning->isVisible());
+    OnNextDialog([](QDialog& place) {
+        Type(place, "tSubKey", "x");
+        Click(place, "cmdOK");
+    });
+    Click(*form, "CmdSelRegKey");
+    EXPECT_TRUE(form->sProgramWarning->isVisible());
+    Click(*form, "cmdReset");
+    EXPECT_FALSE(form->sProgramWarning->isVisible());
+    Type(*form, "tReturnValueExit", "1");
+    EXPECT_TRUE(form->sProgramWarning->isVisible());
+    QApplication::processEvents();
+    SavePicture(*form, "DlgInstallOptInternetAdv-varning");
+    ask.choices = {{{"C:\\a.exe"}}};
+    Click(*form, "cmdSelectProgram");
+    EXPECT_FALSE(form->sProgramWarning->isVisible());
+}
+
 TEST_F(DlgInstallOptInternetAdvTest, LooksRight)
 {
     Fill();

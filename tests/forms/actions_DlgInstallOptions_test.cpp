@@ -128,6 +128,8 @@ TEST_F(DlgInstallOptionsTest, KeepsASetupNameThatIsNotOffered)
     options.SetupName = "Mitt.exe";
     Open();
     EXPECT_EQ(form->ComboSetupFilename->currentIndex(), -1);
+    EXPECT_EQ(form->ComboSetupFilename->placeholderText(), "Mitt.exe");
+    SavePicture(*form, "DlgInstallOptions-eget-namn");
     Click(*form, "cmdOK");
     EXPECT_EQ(options.SetupName, "Mitt.exe");
     Open();
@@ -345,6 +347,8 @@ TEST_F(DlgInstallOptionsTest, KeepsAdvancedValuesUntilOk)
     EXPECT_EQ(program.Param, "/a");
     Click(*form, "cmdCancel");
     EXPECT_EQ(program.Param, "/a");
+    // Kept: any OK marks the project, also one whose values are given up afterwards.
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
     EXPECT_EQ(session.project.InstallOptionsInternet.ExpandEXEInWinTempMap, kOn);
     Open(kInternet);
     change("/a", "/d", "cmdOK");

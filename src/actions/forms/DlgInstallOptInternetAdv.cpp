@@ -37,9 +37,15 @@ DlgInstallOptInternetAdv::DlgInstallOptInternetAdv(InternetAdvanced& values, Ses
         cADExpandEXEInWinTempMap,
         ProgramFrame(),
         ReturnValuesFrame(),
+        Named(NAMED(sProgramWarning),
+              Note("Inparametrar, returvärden och nyckel sparas bara tillsammans med en "
+                   "programfil.")),
         Stretch(),
         OkCancel(),
     }));
+    for (QLineEdit* field : {tParam, tReturnValueExit, tReturnValueBack, tReturnValueDD})
+        connect(field, &QLineEdit::textChanged, this, [this] { ShowWarning(); });
+    ShowWarning();
 }
 
 Piece DlgInstallOptInternetAdv::ProgramFrame()
@@ -68,8 +74,7 @@ Piece DlgInstallOptInternetAdv::ReturnValuesFrame()
     Field(NAMED(tReturnValueExit), program.ReturnValueExit, Longest(&RunAppSelfX::ReturnValueExit));
     Field(NAMED(tReturnValueBack), program.ReturnValueBack, Longest(&RunAppSelfX::ReturnValueBack));
     Field(NAMED(tReturnValueDD), program.ReturnValueDD, Longest(&RunAppSelfX::ReturnValueDD));
-    Button(NAMED(CmdSelRegKey), "&Specificera nyckel i Registry...",
-           [this] { DlgGetRegKey(edited_.program, session_, this).ShowModal(); });
+    Button(NAMED(CmdSelRegKey), "&Specificera nyckel i Registry...", [this] { SelectRegKey(); });
     return Frame("Hantering av returvärden",
                  {Fields({
                       {"&Avbryt vid följande returvärde:", tReturnValueExit},
@@ -90,6 +95,13 @@ void DlgInstallOptInternetAdv::SelectProgram()
         return;
     edited_.program.ProgramFilename = *path;
     sProgramFilename->ShowPath(ToQt(*path));
+    ShowWarning();
+}
+
+void DlgInstallOptInternetAdv::SelectRegKey()
+{
+    DlgGetRegKey(edited_.program, session_, this).ShowModal();
+    ShowWarning();
 }
 
 // What belongs to the program goes with it, as it does when the project is saved without one.
@@ -100,6 +112,17 @@ void DlgInstallOptInternetAdv::Reset()
     for (QLineEdit* field : {tParam, tReturnValueExit, tReturnValueBack, tReturnValueDD})
         field->clear();
     oInvisible->setChecked(true);
+    ShowWarning();
+}
+
+void DlgInstallOptInternetAdv::ShowWarning()
+{
+    RunAppSelfX shown = edited_.program;
+    shown.Param = FromQt(tParam->text());
+    shown.ReturnValueExit = FromQt(tReturnValueExit->text());
+    shown.ReturnValueBack = FromQt(tReturnValueBack->text());
+    shown.ReturnValueDD = FromQt(tReturnValueDD->text());
+    sProgramWarning->setVisible(HasValuesWithoutProgram(shown));
 }
 
 void DlgInstallOptInternetAdv::Store()

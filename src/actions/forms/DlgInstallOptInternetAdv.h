@@ -5,6 +5,8 @@
 #include "actions/install_options.h"
 #include "ui/Form.h"
 
+class QLabel;
+
 namespace quillon {
 
 class PathLabel;
@@ -25,6 +27,7 @@ public:
     QLineEdit* tReturnValueBack = nullptr;
     QLineEdit* tReturnValueDD = nullptr;
     QPushButton* CmdSelRegKey = nullptr;
+    QLabel* sProgramWarning = nullptr;
 
 protected:
     void Store() override;
@@ -33,7 +36,9 @@ private:
     Piece ProgramFrame();
     Piece ReturnValuesFrame();
     void SelectProgram();
+    void SelectRegKey();
     void Reset();
+    void ShowWarning();
 
     InternetAdvanced& values_;
     InternetAdvanced edited_;

@@ -69,13 +69,14 @@ QWidget* DlgInstallOptions::GeneralTab()
     }));
 }
 
-// A name that is not offered chooses none, and stays unless one is chosen.
+// A name that is not offered chooses none; it is shown, and stays unless one is chosen.
 void DlgInstallOptions::MakeSetupNames()
 {
     Text& setupName = session_.project.InstallOptions.SetupName;
     Named(NAMED(ComboSetupFilename), new QComboBox);
     for (const char* name : kSetupNames)
         ComboSetupFilename->addItem(name);
+    ComboSetupFilename->setPlaceholderText(ToQt(setupName));
     ComboSetupFilename->setCurrentIndex(SetupNameRow(setupName).value_or(-1));
     Bind([this, &setupName] {
         if (ComboSetupFilename->currentIndex() >= 0)

@@ -12,6 +12,18 @@ namespace {
 
 constexpr int kLettersOfAKey = 60;
 
+// A field that is reached by keys selects its text, and the first letter would replace a preset
+// that is there to be gone on with.
+class SubKeyField : public QLineEdit {
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QLineEdit::focusInEvent(event);
+        if (hasSelectedText() && text().endsWith('\\'))
+            end(false);
+    }
+};
+
 } // namespace
 
 RegistryKeyForm::RegistryKeyForm(const char* name, const Text& title, Ask& ask, QWidget* parent)
@@ -21,7 +33,7 @@ RegistryKeyForm::RegistryKeyForm(const char* name, const Text& title, Ask& ask, 
     for (const char* root : kRegistryRoots)
         ComboHKEY->addItem(root);
     connect(ComboHKEY, &QComboBox::activated, this, [this] { ChooseRoot(); });
-    Named(NAMED(tSubKey), new QLineEdit);
+    Named(tSubKey, "tSubKey", static_cast<QLineEdit*>(new SubKeyField));
     LimitTyping(tSubKey, 0);
     OnLeave(tSubKey, [this] { LeaveSubKey(); });
 }
