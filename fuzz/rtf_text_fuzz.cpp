@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const auto text = ReadRtf({reinterpret_cast<const char*>(bytes), size});
     if (!text)
         return 0;
-    Require(text->paragraphs.size() <= kMostRtfParagraphs);
+    Require(text->paragraphs.size() <= kMostRtfLines + 1);
     for (const RtfFont& font : text->fonts)
         Require(IsUtf8(font.name));
     std::size_t length = 0;

@@ -60,6 +60,8 @@ private:
     void Put(char32_t character);
     RtfStyle StyleNow();
     void EndParagraph();
+    void StoreParagraph();
+    bool MayBreakLine();
 
     int FontNow();
     int CodePageNow();
@@ -80,6 +82,7 @@ private:
     Colour colour_ = kNoColour;
 
     std::size_t length_ = 0;
+    std::size_t lines_ = 0;
     std::size_t runs_ = 0;
 };
 
@@ -95,7 +98,7 @@ RtfText RtfReader::Read()
             Take(*token);
     }
     if (!groups_.empty() && !paragraph_.runs.empty())
-        EndParagraph();
+        StoreParagraph();
     return std::move(text_);
 }
 
@@ -142,7 +145,7 @@ void RtfReader::CloseGroup()
     if (State().place == Place::Fonts)
         fonts_.EndName();
     if (groups_.size() == 1 && !paragraph_.runs.empty())
-        EndParagraph();
+        StoreParagraph();
     groups_.pop_back();
 }
 
@@ -257,6 +260,8 @@ void RtfReader::Put(char32_t character)
         return fonts_.TakeCharacter(character);
     if (State().place != Place::Body || State().isHidden)
         return;
+    if (character == '\n' && !MayBreakLine())
+        return;
     const RtfStyle style = StyleNow();
     if (paragraph_.runs.empty() || paragraph_.runs.back().style != style) {
         if (++runs_ > kMostRtfRuns) {
@@ -289,12 +294,12 @@ RtfStyle RtfReader::StyleNow()
 
 void RtfReader::EndParagraph()
 {
-    if (text_.paragraphs.size() >= kMostRtfParagraphs) {
-        text_.fault = RtfText::Fault::TooLong;
-        return;
-    }
-    if (State().place != Place::Body)
-        return;
+    if (State().place == Place::Body && MayBreakLine())
+        StoreParagraph();
+}
+
+void RtfReader::StoreParagraph()
+{
     const RtfState& state = State();
     paragraph_.alignment = state.alignment;
     paragraph_.leftIndent = state.leftIndent;
@@ -305,6 +310,13 @@ void RtfReader::EndParagraph()
     paragraph_.tabs.assign(state.tabs.begin(),
                            state.tabs.begin() + static_cast<std::ptrdiff_t>(state.tabCount));
     text_.paragraphs.push_back(std::exchange(paragraph_, {}));
+}
+
+bool RtfReader::MayBreakLine()
+{
+    if (++lines_ > kMostRtfLines)
+        text_.fault = RtfText::Fault::TooLong;
+    return lines_ <= kMostRtfLines;
 }
 
 /// The number of the font of the text that comes, or of the name that stands in the table of fonts.

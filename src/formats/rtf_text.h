@@ -59,7 +59,7 @@ struct RtfText {
 
 // Where the reader ends a text. A book of a thousand pages is shorter.
 inline constexpr std::size_t kLongestRtfText = 2'000'000; // in bytes of UTF-8
-inline constexpr std::size_t kMostRtfParagraphs = 50'000;
+inline constexpr std::size_t kMostRtfLines = 50'000;      // paragraphs and the breaks in them
 inline constexpr std::size_t kMostRtfRuns = 100'000;
 
 /// Nothing where the bytes are no RTF at all.

@@ -15,6 +15,8 @@ namespace {
 constexpr std::uint64_t kMostBytes = 32U << 20U;
 constexpr double kTwipsPerInch = 1440;
 constexpr double kTabsPerInch = 2; // where a paragraph has none of its own
+constexpr qsizetype kMostLettersOfBlock = 8000;
+constexpr int kMostRunsOfBlock = 400;
 const QColor kPaper = Qt::white;
 const QColor kInk = Qt::black;
 const QColor kNoteInk(0x80, 0x30, 0x00);
@@ -43,8 +45,7 @@ public:
             else
                 cursor_.insertBlock(ShapeOf(paragraph));
             isFirst = false;
-            for (const RtfRun& run : paragraph.runs)
-                cursor_.insertText(Lines(run.text), LookOf(run.style));
+            WriteRuns(paragraph);
         }
         cursor_.endEditBlock();
     }
@@ -52,9 +53,30 @@ public:
 private:
     double Points(int twips) const { return twips * pointsPerTwip_; }
 
-    static QString Lines(const Text& text)
+    void WriteRuns(const RtfParagraph& paragraph)
     {
-        return ToQt(text).replace('\n', QChar::LineSeparator);
+        lettersOfBlock_ = runsOfBlock_ = 0;
+        for (const RtfRun& run : paragraph.runs) {
+            const QTextCharFormat look = LookOf(run.style);
+            const QString text = ToQt(run.text).replace('\n', QChar::LineSeparator);
+            for (qsizetype at = 0; at < text.size(); at += kMostLettersOfBlock) {
+                const QString piece = text.mid(at, kMostLettersOfBlock);
+                KeepBlockShort(paragraph, piece);
+                cursor_.insertText(piece, look);
+            }
+        }
+    }
+
+    /// The time that Qt takes for a block grows with its square. What nobody writes as one
+    /// paragraph goes on in another.
+    void KeepBlockShort(const RtfParagraph& paragraph, const QString& piece)
+    {
+        lettersOfBlock_ += piece.size();
+        if (lettersOfBlock_ > kMostLettersOfBlock || ++runsOfBlock_ > kMostRunsOfBlock) {
+            lettersOfBlock_ = piece.size();
+            runsOfBlock_ = 1;
+            cursor_.insertBlock(ShapeOf(paragraph));
+        }
     }
 
     QTextBlockFormat ShapeOf(const RtfParagraph& paragraph) const
@@ -123,6 +145,8 @@ private:
     const RtfText& text_;
     QTextCursor cursor_;
     double pointsPerTwip_;
+    qsizetype lettersOfBlock_ = 0;
+    int runsOfBlock_ = 0;
 };
 
 Text NoteOf(RtfText::Fault fault)

@@ -284,7 +284,11 @@ TEST(ReadRtf, EndsWhatHasNoEnd)
 
     const RtfText paragraphs = read(Repeated("\\par", 1'000'000));
     EXPECT_EQ(paragraphs.fault, RtfText::Fault::TooLong);
-    EXPECT_EQ(paragraphs.paragraphs.size(), kMostRtfParagraphs);
+    EXPECT_EQ(paragraphs.paragraphs.size(), kMostRtfLines);
+
+    const RtfText breaks = read(Repeated("\\line", 1'000'000));
+    EXPECT_EQ(breaks.fault, RtfText::Fault::TooLong);
+    EXPECT_EQ(breaks.paragraphs.at(0).runs.at(0).text.size(), kMostRtfLines);
 
     const RtfText runs = read(Repeated("\\b a\\b0 b", 200'000));
     EXPECT_EQ(runs.fault, RtfText::Fault::TooLong);

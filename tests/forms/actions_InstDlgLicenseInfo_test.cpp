@@ -194,7 +194,7 @@ TEST_F(InstDlgLicenseInfoRtfTest, ShowsTheBeginningOfAnEndlessText)
     view.ShowFile(machine.files, kRtfFile);
     EXPECT_EQ(view.ShownNote(),
               "Texten är för lång för att visas i sin helhet. Här visas dess början.");
-    EXPECT_LE(view.document()->blockCount(), static_cast<int>(kMostRtfParagraphs) + 1);
+    EXPECT_LE(view.document()->blockCount(), static_cast<int>(kMostRtfLines) + 1);
 }
 
 TEST_F(InstDlgLicenseInfoRtfTest, ShowsTheEditorsFieldsAsTheyStand)
