@@ -118,11 +118,13 @@ bool Form::event(QEvent* event)
     return isHandled;
 }
 
-// A layout does not ask for the lines that running text has in a narrow form.
+// A layout does not ask for the lines that running text has in a narrow form. Before a form is
+// shown it may be narrower than it ever can be, which would open it much too high.
 void Form::KeepTextWhole()
 {
     if (layout() && layout()->hasHeightForWidth())
-        setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
+        setMinimumHeight(layout()->totalMinimumHeightForWidth(
+            std::max(width(), layout()->totalMinimumSize().width())));
 }
 
 void Form::PressOk()
