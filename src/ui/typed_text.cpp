@@ -23,6 +23,15 @@ QString Holdable(const QString& text)
     return kept;
 }
 
+/// What was copied from several lines as one, without the end of the last.
+QString InOneLine(QString text)
+{
+    text.replace("\r\n", "\n").replace('\r', '\n');
+    while (text.endsWith('\n'))
+        text.chop(1);
+    return text.replace('\n', ' ');
+}
+
 QString WithLineFeeds(QString raw)
 {
     return raw.replace(QChar::ParagraphSeparator, '\n').replace(QChar::LineSeparator, '\n');
@@ -165,13 +174,16 @@ private:
 
     void TakeBack(const QString& text)
     {
-        const QString kept = std::exchange(isCut_, false) ? before_ : Holdable(text);
+        // A line that is pasted with its break would stand as two in the project file.
+        const QString line = InOneLine(text);
+        const QString kept = std::exchange(isCut_, false) ? before_ : Holdable(line);
         if (kept == text)
             return;
         const int caret = field_->cursorPosition() - static_cast<int>(text.size() - kept.size());
         field_->setText(kept);
         field_->setCursorPosition(std::max(caret, 0));
-        QApplication::beep();
+        if (kept != line)
+            QApplication::beep();
     }
 
     QLineEdit* field_;

@@ -13,7 +13,7 @@ namespace quillon {
 
 /// From now on characters that no project can hold are taken out again with a beep, typed, pasted
 /// or dropped; so is the whole of what is put in where there is no room for it, and the field says
-/// why. `longest` is in bytes on file, 0 is any length.
+/// why. `longest` is in bytes on file, 0 is any length. Line breaks in a line become blanks.
 void LimitTyping(QLineEdit* field, int longest);
 void LimitTyping(QPlainTextEdit* field, int longest);
 

@@ -145,6 +145,30 @@ TEST_F(FormKit, RefusesAPieceThatALineHasNoRoomForAndSaysSo)
     EXPECT_EQ(TextIn(form, "tName"), "123456789");
 }
 
+TEST_F(FormKit, TakesPastedLinesAsOne)
+{
+    struct Row {
+        const char* pasted;
+        const char* within; // "12", between the two
+        const char* behind; // "12"
+    };
+    for (const auto& [pasted, within, behind] :
+         {Row{"ab\n", "1ab 2", "12ab"}, Row{"ab\r\n\r\n", "1ab  2", "12ab"},
+          Row{"a\r\nb", "1a b2", "12a b"}, Row{"a\n\rb", "1a  b2", "12a  b"},
+          Row{"\r", "1 2", "12"}, Row{"日\nb", "1 b2", "12 b"}})
+        for (const bool isWithin : {true, false}) {
+            DlgProbe form(session);
+            ShowActive(form);
+            Type(form, "tName", "12");
+            form.tName->setCursorPosition(isWithin ? 1 : 2);
+            QGuiApplication::clipboard()->setText(pasted);
+            form.tName->paste();
+            const Text line = isWithin ? within : behind;
+            EXPECT_EQ(TextIn(form, "tName"), line);
+            EXPECT_EQ(form.tName->cursorPosition(), static_cast<int>(line.size()) - isWithin);
+        }
+}
+
 TEST_F(FormKit, StaysOpenOverATextThatTheProjectFileWouldCut)
 {
     session.project.Version.CompanyName = "1234567890abc";
