@@ -258,6 +258,19 @@ TEST_F(DialogsPageTest, GoesBackToTheStandardPicture)
     EXPECT_TRUE(TakeDirty());
 }
 
+TEST_F(DialogsPageTest, KeepsTheStandardPictureOfTheToolThatItWasChosenIn)
+{
+    Click(page, "cmdStdDlgBitmap");
+    session.options.ToolFolder = "D:\\Annan";
+    machine.files.RemoveFile("C:\\Quillon\\Res\\SetupDef.bmp");
+    machine.files.Put("D:\\Annan\\Res\\SetupDef.bmp", Bitmap(Qt::darkBlue));
+    page.ShowSession();
+    EXPECT_EQ(ShownPath(), "C:\\Quillon\\Res\\SetupDef.bmp");
+    EXPECT_EQ(Picture().ShownNote(), "Bildfilen finns inte");
+    Click(page, "cmdStdDlgBitmap");
+    EXPECT_EQ(ShownPath(), "D:\\Annan\\Res\\SetupDef.bmp");
+}
+
 TEST_F(DialogsPageTest, KeepsThePictureWhenTheStandardOneIsMissing)
 {
     pages.DlgBitmap = "D:\\annan.bmp";

@@ -189,7 +189,7 @@ TEST_F(DlgDestDirAdvUpdateTest, ShowsAndStoresItsFields)
     ShowActive(form);
     EXPECT_EQ(form.windowTitle(), "Uppdateringar - Avancerat");
     EXPECT_EQ(form.findChild<QGroupBox*>()->title(), "Registry - nyckel/värde");
-    EXPECT_EQ(FromQt(form.cAlwaysUseUserDefKey->text().remove('&')),
+    EXPECT_EQ(form.cAlwaysUseUserDefKey->text(),
               "Hämta alltid uppdateringsinformation från ovanstående nyckel ifall den existerar");
     bool hasSentence = false;
     for (const QLabel* label : form.findChildren<QLabel*>())

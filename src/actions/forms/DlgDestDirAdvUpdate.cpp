@@ -28,7 +28,7 @@ DlgDestDirAdvUpdate::DlgDestDirAdvUpdate(Updates& updates, Session& session, QWi
     Field(NAMED(tValueName), updates.AdvUpdateRegValueName,
           Longest(&Updates::AdvUpdateRegValueName));
     Check(NAMED(cAlwaysUseUserDefKey),
-          "H&ämta alltid uppdateringsinformation från ovanstående nyckel ifall den existerar",
+          "Hämta alltid uppdateringsinformation från ovanstående nyckel ifall den existerar",
           updates.AdvUpdateRegAlwaysUseUserDefKey);
     Arrange(Down({
         Note("Om inte uppdateringinformation finns vid det normala stället i Registry kan du här "
