@@ -327,6 +327,28 @@ TEST_F(DlgInstallOptionsTest, LetsGoOfAWrongFileNameOnCancel)
     EXPECT_TRUE(ask.shown.empty());
 }
 
+TEST_F(DlgInstallOptionsTest, LetsTheMouseUseTheButtonsBesideAWrongFileName)
+{
+    Open(kInternet);
+    Type(*form, "tSelfExtractFilename", "self");
+    ask.choices = {{{"C:\\Data\\p.ico"}}};
+    Click(*form, "cmdBrowseIcon");
+    EXPECT_EQ(TextIn(*form, "tSelfExtractIconFilename"), "C:\\Data\\p.ico");
+    bool isShown = false;
+    OnNextDialog([&](QDialog& advanced) {
+        isShown = true;
+        Click(advanced, "cmdOK");
+    });
+    Click(*form, "CmdInternetAdvanced");
+    EXPECT_TRUE(isShown);
+    QApplication::processEvents();
+    EXPECT_TRUE(ask.shown.empty());
+    EXPECT_EQ(form->focusWidget(), form->tSelfExtractFilename);
+    ask.Expect({BoxKind::Critical, "Fel namntillägg"});
+    Click(*form, "cmdOK");
+    EXPECT_TRUE(form->isVisible());
+}
+
 TEST_F(DlgInstallOptionsTest, KeepsAdvancedValuesUntilOk)
 {
     section::RunAppSelfX& program = session.project.RunAppSelfX;
