@@ -8,6 +8,8 @@ Text FailureText(const RunError& error, const Text& path)
 {
     const Text& named = error.Path().empty() ? path : error.Path();
     switch (error.Number()) {
+    case ErrorNumber::kCannotStart:
+        return "'" + named + "' kan ej öppnas. Det saknas ett program för den sortens fil.";
     case ErrorNumber::kFileNotFound:
         return "Filen '" + named + "' finns inte.";
     case ErrorNumber::kPathNotFound:

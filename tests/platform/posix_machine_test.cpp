@@ -1,6 +1,7 @@
 #include "platform/posix/posix_host.h"
 
 #include "platform/posix/start_program.h"
+#include "platform/posix/text_editor.h"
 #include "platform/run_error.h"
 #include "support/temp_folder.h"
 
@@ -235,6 +236,104 @@ TEST_F(PosixMachineTest, StartsAWindowsProgramByWineAndADocumentByTheDesktop)
     host.machine.OpenDocument("https://example.org/a b");
     EXPECT_EQ(ReadPipe(disk.Path("pipe")),
               disk.Path("bin/xdg-open") + " https://example.org/a b\n");
+}
+
+class EditedTexts : public PosixMachineTest {
+protected:
+    EditedTexts()
+    {
+        for (const char* program : {"xdg-open", "pen", "x-terminal-emulator"})
+            PutProgram(program, "for word; do printf '%s|' \"$word\"; done > " + disk.Path("pipe"));
+        disk.Put("NORSK.LNG", "; Tekster\n[Setup]\nTitle=Installasjon av %1\n");
+        mkfifo(disk.Path("pipe").c_str(), 0600);
+        setenv("XDG_DATA_HOME", disk.Path("home").c_str(), 1);
+        setenv("XDG_DATA_DIRS", disk.Path("share").c_str(), 1);
+    }
+    ~EditedTexts() override
+    {
+        unsetenv("XDG_DATA_HOME");
+        unsetenv("XDG_DATA_DIRS");
+    }
+    /// A program that writes its own name first, then what the lines print.
+    void PutProgram(const std::string& name, const std::string& lines)
+    {
+        const std::string own = "set -- " + name + " \"$@\"\n";
+        disk.Put("bin/" + name, "#!/bin/sh\n" + own + lines + "\n");
+        chmod(disk.Path("bin/" + name).c_str(), 0700);
+    }
+    /// Has the desktop answer so when it is asked for the editor of plain texts.
+    void ChooseEditor(const std::string& entry)
+    {
+        PutProgram("xdg-mime", "[ \"$2 $3 $4\" = 'query default text/plain' ] && echo " + entry);
+    }
+    std::string Edit()
+    {
+        PosixHost host(Settings());
+        const PathVariable path(disk.Path("bin"));
+        host.machine.EditTextFile("S:\\norsk.lng");
+        return ReadPipe(disk.Path("pipe"));
+    }
+
+    const std::string file = disk.Path("NORSK.LNG");
+};
+
+TEST_F(EditedTexts, OpenInTheEditorThatTheUserHasForTexts)
+{
+    ChooseEditor("a-pen.desktop");
+    disk.Put("share/applications/a/pen.desktop", "[Desktop Entry]\nExec=pen --new %F\n");
+    EXPECT_EQ(Edit(), "pen|--new|" + file + "|");
+    disk.Put("home/applications/a-pen.desktop", "[Desktop Entry]\nExec=pen\nTerminal=true\n");
+    EXPECT_EQ(Edit(), "x-terminal-emulator|-e|pen|" + file + "|") << "the user's own comes first";
+}
+
+TEST_F(EditedTexts, OpenAsDocumentsWhereNoEditorIsChosenOrItCannotBeStarted)
+{
+    const std::string asDocument = "xdg-open|" + file + "|";
+    EXPECT_EQ(Edit(), asDocument) << "there is nobody to ask";
+    ChooseEditor("");
+    EXPECT_EQ(Edit(), asDocument) << "none is chosen";
+    ChooseEditor("pen.desktop");
+    EXPECT_EQ(Edit(), asDocument) << "it is not installed";
+    for (const char* entry :
+         {"", "[Desktop Entry]\nName=Pen\n", "[Desktop Entry]\nExec=quill %f\n",
+          "[Desktop Entry]\nExec=/no/such/quill %f\n", "[Other]\nExec=pen %f\n"}) {
+        disk.Put("share/applications/pen.desktop", entry);
+        EXPECT_EQ(Edit(), asDocument) << entry;
+    }
+}
+
+TEST_F(EditedTexts, TellWhyTheyCannotBeOpened)
+{
+    PosixHost host(Settings());
+    const PathVariable path(disk.Path("nowhere"));
+    const auto failure = [&](const Text& text) {
+        return RunErrorNumber([&] { host.machine.EditTextFile(text); });
+    };
+    EXPECT_EQ(failure("S:\\NORSK.LNG"), 5);
+    EXPECT_EQ(failure("S:\\DANSK.LNG"), 53);
+    EXPECT_EQ(failure("S:\\Language\\DANSK.LNG"), 76);
+}
+
+TEST(CommandOfDesktopEntry, PutsTheFileWhereTheEntryWantsIt)
+{
+    using Words = std::vector<std::string>;
+    const std::pair<const char*, Words> cases[] = {
+        {"Exec=ed %f", {"ed", "/a b"}},
+        {"Exec=ed %U --wait", {"ed", "/a b", "--wait"}},
+        {"Exec = ed %u \r", {"ed", "/a b"}},
+        {"Exec=\"/opt/my ed/ed\" %F", {"/opt/my ed/ed", "/a b"}},
+        {"Exec=ed --caption %c %i %k", {"ed", "--caption", "/a b"}},
+        {"Exec=ed\nTerminal=false", {"ed", "/a b"}},
+        {"Exec=vi %f\nTerminal=true", {"x-terminal-emulator", "-e", "vi", "/a b"}},
+        {"Exec=ed %f\n[Desktop Action new]\nExec=ed --new", {"ed", "/a b"}},
+        {"TryExec=vi\nExec[sv]=si\nExec=ed", {"ed", "/a b"}},
+        {"Exec=", {}},
+        {"Name=ed", {}},
+    };
+    for (const auto& [keys, command] : cases)
+        EXPECT_EQ(CommandOfDesktopEntry(std::string("[Desktop Entry]\n") + keys, "/a b"), command)
+            << keys;
+    EXPECT_EQ(CommandOfDesktopEntry("", "/a b"), Words{});
 }
 
 TEST_F(PosixMachineTest, TellsWhyAProgramCannotBeStarted)

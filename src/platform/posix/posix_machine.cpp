@@ -3,6 +3,7 @@
 #include "helpers/windows_path.h"
 #include "platform/posix/file_facts.h"
 #include "platform/posix/start_program.h"
+#include "platform/posix/text_editor.h"
 #include "platform/run_error.h"
 
 #include <cerrno>
@@ -181,10 +182,11 @@ void PosixMachine::OpenDocument(const Text& path)
     StartOrFail({FindOnPath("xdg-open"), target}, path);
 }
 
-// The desktop tells a text from what is in the file, so its extension need not be known to it.
 void PosixMachine::EditTextFile(const Text& path)
 {
-    OpenDocument(path);
+    const std::vector<std::string> editor = TextEditorCommand(Existing(path));
+    if (editor.empty() || !StartDetached(editor))
+        OpenDocument(path);
 }
 
 } // namespace quillon
