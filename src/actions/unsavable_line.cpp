@@ -10,9 +10,9 @@ namespace quillon {
 
 namespace {
 
-// Sections behind the lists; those in front of them are found first.
-constexpr std::string_view kLaterSections[] = {"RegisterFiles", "FileComponents", "FileListInfo",
-                                               "FileList"};
+// Sections between and behind the lists; those in front of them are found first.
+constexpr std::string_view kLaterSections[] = {"Configuration", "RegisterFiles", "FileComponents",
+                                               "FileListInfo", "FileList"};
 
 bool IsHeaderOf(std::string_view line, std::string_view section)
 {
@@ -37,6 +37,13 @@ std::optional<Text> FindUnsavableLine(std::string_view list)
         if (IsMark(line))
             return line;
     return std::nullopt;
+}
+
+Text UnsavableLineWarning(const Text& line)
+{
+    return "Raden '" + line +
+           "' har en egen betydelse i projektfilen. Det som står från och med den raden kan gå "
+           "förlorat när projektet öppnas igen.";
 }
 
 } // namespace quillon

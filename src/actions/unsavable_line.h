@@ -13,4 +13,7 @@ namespace quillon {
 /// it whole; nothing where all do.
 std::optional<Text> FindUnsavableLine(std::string_view list);
 
+/// What the user is told of such a line while there is time.
+Text UnsavableLineWarning(const Text& line);
+
 } // namespace quillon

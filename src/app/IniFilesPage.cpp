@@ -3,6 +3,7 @@
 #include "actions/forms/DlgAddINIentry.h"
 #include "actions/ini_list.h"
 #include "app/in_place.h"
+#include "ui/list_area.h"
 
 #include <QtWidgets>
 
@@ -46,7 +47,7 @@ void IniFilesPage::AddValue()
 {
     DlgAddINIentry form(session_.project.Lists.INIFiles, session_.ask, this);
     if (form.ShowModal() && !form.Lines.empty())
-        AppendInPlace(editINIList, form.Lines);
+        AppendLines(editINIList, form.Lines);
 }
 
 void IniFilesPage::AddVariable()
@@ -58,7 +59,7 @@ void IniFilesPage::AddVariable()
 void IniFilesPage::Append(const Text& lines)
 {
     if (HasRoomInIniList(session_.project.Lists.INIFiles, lines, session_.ask))
-        AppendInPlace(editINIList, lines);
+        AppendLines(editINIList, lines);
 }
 
 } // namespace quillon

@@ -5,6 +5,7 @@
 #include "actions/forms/DlgUninstallRegKey.h"
 #include "actions/unsavable_line.h"
 #include "app/in_place.h"
+#include "ui/list_area.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -46,14 +47,14 @@ void RegistryPage::AddLine()
 {
     Dialog form(session_.ask, this);
     if (form.ShowModal())
-        AppendInPlace(editRegistryList,
-                      RegistryLineToAppend(session_.project.Lists.Registry, form.Line));
+        AppendLines(editRegistryList,
+                    RegistryLineToAppend(session_.project.Lists.Registry, form.Line));
 }
 
 void RegistryPage::AddVariable()
 {
     if (const auto variable = session_.ask.ChooseVariable())
-        AppendInPlace(editRegistryList, *variable);
+        AppendLines(editRegistryList, *variable);
 }
 
 // The list is free text and never refused, but what would not come back from the file is told while
@@ -63,10 +64,7 @@ void RegistryPage::ShowWarning()
     const auto line = FindUnsavableLine(session_.project.Lists.Registry);
     sRegistryWarning->setVisible(line.has_value());
     if (line)
-        sRegistryWarning->setText(
-            ToQt("Raden '" + *line +
-                 "' har en egen betydelse i projektfilen. Det som står från och med den raden kan "
-                 "gå förlorat när projektet öppnas igen."));
+        sRegistryWarning->setText(ToQt(UnsavableLineWarning(*line)));
 }
 
 } // namespace quillon

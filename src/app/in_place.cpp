@@ -1,5 +1,6 @@
 #include "app/in_place.h"
 
+#include "ui/list_area.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
 
@@ -15,16 +16,6 @@ void Change(Session& session, Text& value, Text typed)
         return;
     value = std::move(typed);
     session.state.ProjectIsDirty = kOn;
-}
-
-QFont FixedFont()
-{
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    // A desktop without such a setting names its usual font. Not every font of one width says so.
-    const QFontMetrics letters(font);
-    if (letters.horizontalAdvance("il") != letters.horizontalAdvance("MW"))
-        font.setFamily("monospace");
-    return font;
 }
 
 } // namespace
@@ -43,8 +34,7 @@ QPlainTextEdit* EditListInPlace(QPlainTextEdit*& member, const char* name, Sessi
                                 Text& value, int longest)
 {
     auto* area = Named(member, name, new QPlainTextEdit);
-    area->setFont(FixedFont());
-    area->setLineWrapMode(QPlainTextEdit::NoWrap);
+    ShowAsList(area);
     area->setTabChangesFocus(true);
     LimitTyping(area, longest);
     QObject::connect(area, &QPlainTextEdit::textChanged, area, [area, &session, &value] {
@@ -70,19 +60,6 @@ void ShowInPlace(QPlainTextEdit* area, const Text& value)
         return;
     const QSignalBlocker silence(area);
     area->setPlainText(text);
-}
-
-void AppendInPlace(QPlainTextEdit* area, const Text& lines)
-{
-    area->moveCursor(QTextCursor::End);
-    // A step of its own for undo, even where it goes on with a line that was typed.
-    QTextCursor cursor = area->textCursor();
-    cursor.beginEditBlock();
-    cursor.insertText(LinesToQt(lines));
-    cursor.endEditBlock();
-    area->setTextCursor(cursor);
-    area->ensureCursorVisible();
-    area->setFocus();
 }
 
 } // namespace quillon

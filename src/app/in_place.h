@@ -21,7 +21,4 @@ QPlainTextEdit* EditListInPlace(QPlainTextEdit*& member, const char* name, Sessi
 void ShowInPlace(QLineEdit* field, const Text& value);
 void ShowInPlace(QPlainTextEdit* area, const Text& value);
 
-/// Puts lines at the end of a list, as typing does, and goes on behind them.
-void AppendInPlace(QPlainTextEdit* area, const Text& lines);
-
 } // namespace quillon

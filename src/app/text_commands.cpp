@@ -2,7 +2,7 @@
 
 #include "actions/ini_list.h"
 #include "app/MainForm.h"
-#include "app/in_place.h"
+#include "ui/list_area.h"
 
 #include <QtWidgets>
 
@@ -28,7 +28,7 @@ void ImportIniFile(MainForm& form)
     const Text lines =
         OpenINIFileIntoList(session.project.Lists.INIFiles, session.host.files, session.ask);
     if (!lines.empty())
-        AppendInPlace(form.SelectedPage().Editor(), lines);
+        AppendLines(form.SelectedPage().Editor(), lines);
 }
 
 } // namespace quillon

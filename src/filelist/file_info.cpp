@@ -8,8 +8,6 @@ namespace quillon {
 
 namespace {
 
-constexpr const char* kFileIsGone = "<Filen saknas>";
-
 void FillFromDisk(FileInfo& info, const FileSystem& files, const Text& path)
 {
     try {

@@ -32,7 +32,7 @@ void MarkAsMissing(FileListRow& row)
     for (std::size_t i = 0; i < kColumnCount; ++i)
         if (i != Filename && i != Source)
             row.columns[i].clear();
-    row[Destination] = "<Filen saknas>";
+    row[Destination] = kFileIsGone;
     row[Size] = "0";
 }
 

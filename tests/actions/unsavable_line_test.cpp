@@ -22,7 +22,8 @@ TEST(FindUnsavableLine, TellsTheLinesThatDoNotComeBack)
 {
     for (const Text& line : std::initializer_list<Text>{
              "....", "[INIFiles]", "[AutoexecBat]", "[ConfigSys]", "[RegisterFileList]",
-             "[FileList]", "[FileListInfo]", "[FileComponents]", "[RegisterFiles]", "[registry]"}) {
+             "[FileList]", "[FileListInfo]", "[FileComponents]", "[RegisterFiles]",
+             "[Configuration]", "[registry]"}) {
         EXPECT_EQ(FindUnsavableLine("a\r\n" + line + "\r\n....x\r\n....\r\nb"), line);
         EXPECT_EQ(FindUnsavableLine(line), line);
     }
@@ -41,6 +42,30 @@ TEST(FindUnsavableLine, IsRightAboutTheEndOfAList)
     Project read;
     ReadProjectFile(read, "C:\\p.qnp", machine.host, ask, "C:\\Quillon");
     EXPECT_EQ(read.Lists.Registry, "a");
+}
+
+// The flags of the lists stand between the scripts and the lists.
+TEST(FindUnsavableLine, IsRightAboutAScriptWithTheHeaderOfTheFlags)
+{
+    MemoryHost machine;
+    machine.files.Put("C:\\Quillon\\Res\\SetupDef.bmp", "");
+    ScriptedAsk ask;
+    OpenProjectState state;
+    Project project;
+    ResetToNewProject(project, state, "C:\\Quillon");
+    project.Lists.RunScriptBefore = "a\r\n[Configuration]";
+    project.Lists.Registry = "HKEY_USERS\\x";
+    WriteProjectFile(project, "C:\\p.qnp", machine.host, ask);
+    Project read;
+    ReadProjectFile(read, "C:\\p.qnp", machine.host, ask, "C:\\Quillon");
+    EXPECT_EQ(read.Lists.Registry, "");
+}
+
+TEST(UnsavableLineWarning, NamesTheLine)
+{
+    EXPECT_EQ(UnsavableLineWarning("...."),
+              "Raden '....' har en egen betydelse i projektfilen. Det som står från och med den "
+              "raden kan gå förlorat när projektet öppnas igen.");
 }
 
 } // namespace
