@@ -1,7 +1,13 @@
 #include "app/actions.h"
 
+#include "actions/forms/DlgAutoexecConfig.h"
 #include "actions/forms/DlgInstallOptions.h"
+#include "actions/forms/DlgLanguage.h"
 #include "actions/forms/DlgProgramGroup.h"
+#include "actions/forms/DlgRegisterFiles.h"
+#include "actions/forms/DlgRunAppAfter.h"
+#include "actions/forms/DlgRunScript.h"
+#include "actions/forms/DlgShowDocAfter.h"
 #include "app/MainForm.h"
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
@@ -63,14 +69,21 @@ const std::map<int, Action> kActions = {
     {115, [](MainForm& form) { SortListCommand(form.GetSession(), form, &form); }},
     {116, [](MainForm& form) { IconCommand(form.GetSession(), form, &form); }},
     {117, [](MainForm& form) { CopyOptionsCommand(form.GetSession(), form, &form); }},
+    {118, [](MainForm& form) { RegisterFontCommand(form.GetSession(), form, &form); }},
     {119, [](MainForm& form) { FileInfoCommand(form.GetSession(), form, &form); }},
     {120, [](MainForm& form) { ChangeDestinationCommand(form.GetSession(), form); }},
     {121, [](MainForm& form) { ShowDestinationDirectoriesCommand(form.GetSession(), &form); }},
+    {122, [](MainForm& form) { ShowRegisterFiles(form.GetSession(), &form); }},
     {123, [](MainForm& form) { ShowProgramGroup(form.GetSession(), &form); }},
     {124, [](MainForm& form) { UpdateFileListCommand(form.GetSession(), form); }},
     {136, CopyText},
     {137, PasteText},
     {138, [](MainForm& form) { ShowInstallOptions(form.GetSession(), &form); }},
+    {139, [](MainForm& form) { ShowLanguage(form.GetSession(), &form); }},
+    {140, [](MainForm& form) { ShowRunAppAfter(form.GetSession(), &form); }},
+    {141, [](MainForm& form) { ShowDocAfter(form.GetSession(), &form); }},
+    {142, [](MainForm& form) { ShowRunScript(form.GetSession(), &form); }},
+    {143, [](MainForm& form) { ShowAutoexecConfig(form.GetSession(), &form); }},
     {144, [](MainForm& form) { ShowVariables(form.GetSession(), &form); }},
     {145, [](MainForm& form) { ShowVersionInfo(form.GetSession(), &form); }},
     {146, [](MainForm& form) { ShowEditorOptions(form.GetSession(), form, &form); }},

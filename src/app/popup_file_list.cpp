@@ -1,5 +1,6 @@
 #include "app/popup_file_list.h"
 
+#include "actions/forms/DlgShowDocAfter.h"
 #include "app/MainForm.h"
 #include "filelist/forms/row_commands.h"
 #include "project/components.h"
@@ -34,6 +35,11 @@ void ChangeSource(MainForm& form)
     ChangeSourceCommand(form.GetSession(), form, &form);
 }
 
+void ShowDocument(MainForm& form)
+{
+    ShowDocOfRowAfter(form.GetSession(), form, &form);
+}
+
 // clang-format off
 constexpr PopupEntry kEntries[] = {
     {"mPopupCopyOptions", 117},
@@ -45,7 +51,7 @@ constexpr PopupEntry kEntries[] = {
     {nullptr},
     {"mPopupDeleteFiles", 114},
     {nullptr},
-    {"mPopupShowDoc",     0, "Visa dokument &efter installation..."},
+    {"mPopupShowDoc",     0, "Visa dokument &efter installation...", ShowDocument},
     {"mPopupFileInfo",    119},
 };
 // clang-format on

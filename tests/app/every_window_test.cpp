@@ -2,6 +2,7 @@
 // by name, and used by keys alone.
 #include "actions/forms/DlgAddINIentry.h"
 #include "actions/forms/DlgAddRegKey.h"
+#include "actions/forms/DlgAutoexecConfig.h"
 #include "actions/forms/DlgDeleteRegKey.h"
 #include "actions/forms/DlgDestDirAdvUpdate.h"
 #include "actions/forms/DlgDestDirDlg.h"
@@ -10,11 +11,16 @@
 #include "actions/forms/DlgGetRegKey.h"
 #include "actions/forms/DlgInstallOptInternetAdv.h"
 #include "actions/forms/DlgInstallOptions.h"
+#include "actions/forms/DlgLanguage.h"
 #include "actions/forms/DlgLicenseInfo.h"
 #include "actions/forms/DlgLicenseInfoRtf.h"
 #include "actions/forms/DlgNameCompany.h"
 #include "actions/forms/DlgPassword.h"
 #include "actions/forms/DlgProgramGroup.h"
+#include "actions/forms/DlgRegisterFiles.h"
+#include "actions/forms/DlgRunAppAfter.h"
+#include "actions/forms/DlgRunScript.h"
+#include "actions/forms/DlgShowDocAfter.h"
 #include "actions/forms/DlgTestNETFramework.h"
 #include "actions/forms/DlgUninstallRegKey.h"
 #include "actions/forms/InstDlgDestDir.h"
@@ -43,6 +49,7 @@
 #include "filelist/forms/DlgIconOptions.h"
 #include "filelist/forms/DlgIconX.h"
 #include "filelist/forms/DlgMDADetails.h"
+#include "filelist/forms/DlgRegisterFont.h"
 #include "filelist/forms/DlgShowDestDirectories.h"
 #include "filelist/forms/DlgSortList.h"
 #include "filelist/forms/DlgVariables.h"
@@ -118,6 +125,7 @@ const WindowCase kWindows[] = {
     {"DlgAbout", [](Subject) { return Made<DlgAbout>(); }},
     {"DlgAddINIentry", [](Subject of) { return Made<DlgAddINIentry>(of.session.project.Lists.INIFiles, of.session.ask); }},
     {"DlgAddRegKey", [](Subject of) { return Made<DlgAddRegKey>(of.session.ask); }},
+    {"DlgAutoexecConfig", OfSession<DlgAutoexecConfig>},
     {"DlgChangeSrcPath", [](Subject of) { return Made<DlgChangeSrcPath>("c:\\data\\a.txt", of.session); }},
     {"DlgChCompNr", [](Subject of) { return Made<DlgChCompNr>("1", of.session); }},
     {"DlgChVariables", OfSession<DlgChVariables>},
@@ -145,13 +153,19 @@ const WindowCase kWindows[] = {
     {"DlgIconX", [](Subject of) { return Made<DlgIconX>(FirstRow(of), of.session); }},
     {"DlgInstallOptInternetAdv", [](Subject of) { return Made<DlgInstallOptInternetAdv>(of.advanced, of.session); }},
     {"DlgInstallOptions", OfSession<DlgInstallOptions>},
+    {"DlgLanguage", OfSession<DlgLanguage>},
     {"DlgLicenseInfo", OfSession<DlgLicenseInfo>},
     {"DlgLicenseInfoRtf", OfSession<DlgLicenseInfoRtf>},
     {"DlgMDADetails", OfSession<DlgMDADetails>},
     {"DlgNameCompany", OfSession<DlgNameCompany>},
     {"DlgPassword", OfSession<DlgPassword>},
     {"DlgProgramGroup", OfSession<DlgProgramGroup>},
+    {"DlgRegisterFiles", OfSession<DlgRegisterFiles>},
+    {"DlgRegisterFont", [](Subject of) { return Made<DlgRegisterFont>(FirstRow(of), of.session); }},
+    {"DlgRunAppAfter", OfSession<DlgRunAppAfter>},
+    {"DlgRunScript", OfSession<DlgRunScript>},
     {"DlgShowDestDirectories", [](Subject) { return Made<DlgShowDestDirectories>(); }},
+    {"DlgShowDocAfter", OfSession<DlgShowDocAfter>},
     {"DlgSortList", [](Subject of) { return Made<DlgSortList>(of.session.project); }},
     {"DlgTest", OfSession<DlgTest>},
     {"DlgTestNETFramework", OfSession<DlgTestNETFramework>},

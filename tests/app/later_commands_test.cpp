@@ -11,9 +11,9 @@ namespace {
 
 // clang-format off
 const std::set<int> kLaterCommands = {
-    105, 110, 118, 122,
+    105, 110,
     125, 126, 127, 128, 129, 130, 131, 132, 133, 134, 135,
-    139, 140, 141, 142, 143, 157,
+    157,
     201, 202, 203,
 };
 // clang-format on

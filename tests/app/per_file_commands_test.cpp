@@ -79,7 +79,7 @@ protected:
 TEST_F(PerFileCommands, TellOfAnEmptyList)
 {
     Open();
-    for (const int id : {116, 117, 119}) {
+    for (const int id : {116, 117, 118, 119}) {
         ask.Expect({BoxKind::Inform, "Info", kNoFiles});
         EXPECT_EQ(DialogOf(id), "") << id;
     }
@@ -90,7 +90,7 @@ TEST_F(PerFileCommands, DoNothingWithoutARowThatHasAFile)
     OpenRows();
     for (const std::vector<std::size_t>& rows : {std::vector<std::size_t>{}, {0}}) {
         form->ShowFileList(rows);
-        for (const int id : {116, 117, 119})
+        for (const int id : {116, 117, 118, 119})
             EXPECT_EQ(DialogOf(id), "") << id;
     }
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
@@ -162,6 +162,65 @@ TEST_F(PerFileCommands, KeepTheOrderOfTheListAndTheSelection)
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
 }
 
+TEST_F(PerFileCommands, RegisterAFont)
+{
+    OpenRows();
+    session.project.Files.rows[3][Extension] = "ttf";
+    form->ShowFileList({3, 1});
+    OnNextDialog([](QDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), "DlgCopyOptions");
+        Click(dialog, "cSharedFile");
+        Click(dialog, "cmdOK");
+    });
+    form->RunCommand(117);
+    EXPECT_EQ(CellOf(1, CopyOptions), "S");
+    session.state.ProjectIsDirty = kOff;
+    form->ShowFileList({3});
+    OnNextDialog([](QDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), "DlgRegisterFont");
+        Type(dialog, "tFontDesc", "Blad");
+        Click(dialog, "cmdOK");
+    });
+    form->RunCommand(118);
+    EXPECT_EQ(CellOf(3, CopyOptions), "DWFN") << "its other options are lost";
+    EXPECT_EQ(CellOf(3, IconDesc), "Blad");
+    EXPECT_EQ(list->model()->index(3, CopyOptions).data().toString(), "DWFN");
+    EXPECT_EQ(CellOf(1, CopyOptions), "S");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(PerFileCommands, RegisterNothingButFonts)
+{
+    OpenRows();
+    form->ShowFileList({1});
+    ask.Expect({BoxKind::Inform, "Info"});
+    EXPECT_EQ(DialogOf(118), "");
+    EXPECT_EQ(CellOf(1, CopyOptions), "VA");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(PerFileCommands, ShowTheFileOfTheRowAsTheDocument)
+{
+    OpenRows();
+    section::ShowDocAfter& document = session.project.ShowDocAfter;
+    document.DocFileName = "gammal.txt";
+    const auto choose = [&](const char* button) {
+        OnNextDialog([button](QDialog& dialog) {
+            EXPECT_EQ(TextIn(dialog, "tDocumentFileName"), "%DESTDIR\\a.exe");
+            Click(dialog, button);
+        });
+        QMenu& menu = OpenPopup(1);
+        menu.findChild<QAction*>("mPopupShowDoc")->trigger();
+        menu.close();
+    };
+    choose("cmdCancel");
+    EXPECT_EQ(document.DocFileName, "gammal.txt");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    choose("cmdOK");
+    EXPECT_EQ(document.DocFileName, "%DESTDIR\\a.exe");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
 TEST_F(PerFileCommands, ShowTheFileOfADoubleClickedRow)
 {
     OpenRows();
@@ -196,9 +255,8 @@ TEST_F(PerFileCommands, StandInThePopupMenu)
                                    "mPopupDestDir", "mPopupSrcFile", "mPopupDeleteFiles",
                                    "mPopupShowDoc", "mPopupFileInfo"));
     for (const char* name : {"mPopupCopyOptions", "mPopupIcon", "mPopupDestDir", "mPopupSrcFile",
-                             "mPopupDeleteFiles", "mPopupFileInfo"})
+                             "mPopupDeleteFiles", "mPopupShowDoc", "mPopupFileInfo"})
         EXPECT_TRUE(menu.findChild<QAction*>(name)->isEnabled()) << name;
-    EXPECT_FALSE(menu.findChild<QAction*>("mPopupShowDoc")->isEnabled());
     SavePicture(menu, "menuPopupFileList");
     menu.close();
 }
@@ -211,6 +269,7 @@ TEST_F(PerFileCommands, AreRunFromThePopupMenu)
          {std::pair{"mPopupCopyOptions", "DlgCopyOptions"}, std::pair{"mPopupIcon", "DlgIcon"},
           std::pair{"mPopupFileInfo", "DlgFileInfo"},
           std::pair{"mPopupSrcFile", "DlgChangeSrcPath"},
+          std::pair{"mPopupShowDoc", "DlgShowDocAfter"},
           std::pair{"mPopupCompNr", "DlgChCompNr"}}) {
         QMenu& menu = OpenPopup(1);
         Text shown;

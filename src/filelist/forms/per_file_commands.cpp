@@ -5,6 +5,7 @@
 #include "filelist/forms/DlgFileInfo.h"
 #include "filelist/forms/DlgIcon.h"
 #include "filelist/forms/DlgIconX.h"
+#include "filelist/forms/DlgRegisterFont.h"
 #include "filelist/status_text.h"
 #include "shell/moved_rows.h"
 
@@ -59,6 +60,17 @@ bool OpenIconDialogBox(Session& session, FileListRow& row, QWidget* parent)
     default:
         return false;
     }
+}
+
+void RegisterFontCommand(Session& session, MainWindow& window, QWidget* parent)
+{
+    const std::vector<std::size_t> rows = RowsForCommand(session, window);
+    if (rows.empty())
+        return;
+    FileListRow& row = session.project.Files.rows[rows.front()];
+    if (row.HasSource() && IsFontToRegister(row, session.ask) &&
+        DlgRegisterFont(row, session, parent).ShowModal())
+        ShowChange(session, window);
 }
 
 void FileInfoCommand(Session& session, MainWindow& window, QWidget* parent)

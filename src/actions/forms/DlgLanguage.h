@@ -1,0 +1,31 @@
+// The language of the setup: one of the files beside the tool.
+#pragma once
+
+#include "ui/Form.h"
+
+class QListWidget;
+
+namespace quillon {
+
+class DlgLanguage : public EditorForm {
+public:
+    DlgLanguage(Session& session, QWidget* parent);
+
+    QListWidget* FileListX = nullptr;
+    QPushButton* cmdAddLanguage = nullptr;
+    QPushButton* cmdEditLanguage = nullptr;
+
+protected:
+    bool MayClose() override;
+    void Store() override;
+
+private:
+    /// Lists the files anew, this one selected; none where it is not among them.
+    void ShowFiles(const Text& selected);
+    Text SelectedFile() const;
+    void AddLanguage();
+};
+
+void ShowLanguage(Session& session, QWidget* parent);
+
+} // namespace quillon

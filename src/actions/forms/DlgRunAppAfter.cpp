@@ -1,0 +1,55 @@
+#include "actions/forms/DlgRunAppAfter.h"
+
+#include "actions/forms/target_file_field.h"
+#include "project/install_keys.h"
+#include "shell/session.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+using section::RunAppAfter;
+
+constexpr int kLettersOfAField = 50;
+
+int Longest(Text RunAppAfter::*field)
+{
+    return LongestText(section::kRunAppAfter, field);
+}
+
+QWidget* ProgramFrame(const Text& caption, QLineEdit* name, QLineEdit* parameters)
+{
+    return Frame(caption, {Fields({
+                              {"Filnamn:", RoomFor(kLettersOfAField, name)},
+                              {"Parametrar:", parameters},
+                          })});
+}
+
+} // namespace
+
+DlgRunAppAfter::DlgRunAppAfter(Session& session, QWidget* parent)
+    : EditorForm("DlgRunAppAfter", "Kör följande program efter installation", session, parent)
+{
+    RunAppAfter& run = session.project.RunAppAfter;
+    Field(NAMED(tProgramName1), run.AppFileName1, Longest(&RunAppAfter::AppFileName1));
+    Field(NAMED(tParameters1), run.AppParam1, Longest(&RunAppAfter::AppParam1));
+    Field(NAMED(tProgramName2), run.AppFileName2, Longest(&RunAppAfter::AppFileName2));
+    Field(NAMED(tParameters2), run.AppParam2, Longest(&RunAppAfter::AppParam2));
+    for (QLineEdit* program : {tProgramName1, tProgramName2})
+        EditTargetFile(program, "Filnamn", session.ask);
+    Arrange(Down({
+        ProgramFrame("Program 1", tProgramName1, tParameters1),
+        ProgramFrame("Program 2", tProgramName2, tParameters2),
+        Stretch(),
+        OkCancel(),
+    }));
+}
+
+void ShowRunAppAfter(Session& session, QWidget* parent)
+{
+    DlgRunAppAfter(session, parent).ShowModal();
+}
+
+} // namespace quillon

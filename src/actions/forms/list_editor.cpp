@@ -1,0 +1,51 @@
+#include "actions/forms/list_editor.h"
+
+#include "actions/unsavable_line.h"
+#include "ui/list_area.h"
+#include "ui/qt_text.h"
+#include "ui/typed_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kUsualLineLength = 60;
+
+std::optional<Text> UnsavableLineIn(const QPlainTextEdit* area)
+{
+    return FindUnsavableLine(LinesFromQt(TypedText(area)));
+}
+
+QString WarningOf(const std::optional<Text>& line)
+{
+    return line ? ToQt(UnsavableLineWarning(*line)) : QString();
+}
+
+} // namespace
+
+QLabel* UnsavableLineNote(QLabel*& member, const char* name, QPlainTextEdit* area)
+{
+    const auto line = UnsavableLineIn(area);
+    QLabel* note = Named(member, name, Note({}));
+    note->setText(WarningOf(line));
+    // One that is to be seen comes up with its form; shown now, it would be a window of its own.
+    if (!line)
+        note->hide();
+    QObject::connect(area, &QPlainTextEdit::textChanged, note, [note, area] {
+        const auto present = UnsavableLineIn(area);
+        note->setText(WarningOf(present));
+        note->setVisible(present.has_value());
+    });
+    return note;
+}
+
+Piece ListEditor(QPlainTextEdit* area, QLabel* note)
+{
+    ShowAsList(area);
+    RoomFor(kUsualLineLength, area);
+    return Down({Growing(area), note});
+}
+
+} // namespace quillon

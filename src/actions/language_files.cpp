@@ -1,0 +1,130 @@
+#include "actions/language_files.h"
+
+#include "helpers/ansi_text.h"
+#include "helpers/windows_path.h"
+#include "platform/failure_text.h"
+#include "project/install_keys.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::string_view kExtension = ".LNG";
+
+// Windows takes these for devices, whatever extension stands behind them.
+constexpr std::array<std::string_view, 4> kDevices{"CON", "PRN", "AUX", "NUL"};
+
+bool IsDevice(std::string_view upperName)
+{
+    const std::string_view base = upperName.substr(0, upperName.find('.'));
+    const bool isPort = base.size() == 4 && (base.starts_with("COM") || base.starts_with("LPT")) &&
+                        base[3] >= '1' && base[3] <= '9';
+    return isPort || std::ranges::find(kDevices, base) != kDevices.end();
+}
+
+bool CanBeFileName(const Text& name)
+{
+    const auto isForbidden = [](char character) {
+        const bool isControl = static_cast<unsigned char>(character) < ' ';
+        return isControl || std::string_view("\\/:*?\"<>|").find(character) != Text::npos;
+    };
+    return std::ranges::none_of(name, isForbidden) && !name.ends_with('.') &&
+           !name.ends_with(' ') && !IsDevice(UpperCase(name));
+}
+
+bool IsLanguageFile(const FolderEntry& entry)
+{
+    return !entry.facts.isFolder && UpperCase(entry.name).ends_with(kExtension);
+}
+
+/// Does the work; false, and tells what failed, where it could not be done.
+template <class Work>
+bool DidOrTold(Work work, const Text& path, Ask& ask)
+{
+    std::optional<RunError> failure;
+    if (RunErrorNumber(work, failure) == ErrorNumber::kNone)
+        return true;
+    ask.Critical("Fel", FailureText(*failure, path));
+    return false;
+}
+
+} // namespace
+
+Text LanguageFolder(const Text& toolFolder)
+{
+    return JoinPath(toolFolder, "Language");
+}
+
+std::vector<Text> LanguageFiles(const FileSystem& files, const Text& toolFolder, Ask& ask)
+{
+    const Text folder = LanguageFolder(toolFolder);
+    std::vector<Text> names;
+    if (!files.DirExists(folder))
+        return names;
+    const auto list = [&] {
+        for (const FolderEntry& entry : files.List(folder))
+            if (IsLanguageFile(entry))
+                names.push_back(entry.name);
+    };
+    if (!DidOrTold(list, folder, ask))
+        names.clear();
+    std::ranges::stable_sort(names, [](const Text& left, const Text& right) {
+        return CompareIgnoreCase(left, right) < 0;
+    });
+    return names;
+}
+
+// Kept: a name that has the extension somewhere gets no second one.
+Text LanguageFileName(std::string_view typed)
+{
+    Text name = UpperCase(TrimBlanks(typed));
+    if (!ContainsText(name, kExtension))
+        name += kExtension;
+    return name;
+}
+
+bool CanBeLanguageFile(const Text& name, Ask& ask)
+{
+    const int longest = LongestText(section::kLanguage, &section::Language::LanguageFile);
+    Text reason;
+    if (!CanBeFileName(name))
+        reason = "kan inte vara ett filnamn i Windows. Tecknen \\ / : * ? \" < > | är inte "
+                 "tillåtna, och inte heller namn på enheter som CON.";
+    else if (!AnsiText::Holds(name))
+        reason = "innehåller tecken som inte får plats i ett projekt. Byt namn på filen!";
+    else if (CharacterCount(name) > static_cast<std::size_t>(longest))
+        reason = "är längre än " + NumberText(longest) + " tecken.";
+    if (reason.empty())
+        return true;
+    ask.Inform("Ogiltigt filnamn", "'" + name + "' " + reason);
+    return false;
+}
+
+std::optional<Text> AddLanguage(const Host& host, const Text& toolFolder, Ask& ask)
+{
+    const auto typed = ask.XInputBox("Ny språkfil", "&Filnamn:");
+    if (!typed || TrimBlanks(*typed).empty())
+        return {};
+    const Text name = LanguageFileName(*typed);
+    if (!CanBeLanguageFile(name, ask))
+        return {};
+    const Text reference = JoinPath(LanguageFolder(toolFolder), kReferenceLanguage);
+    const Text copy = JoinPath(LanguageFolder(toolFolder), name);
+    // The reference is there under its own name already.
+    const auto make = [&] {
+        if (name != kReferenceLanguage)
+            host.files.CopyContent(reference, copy);
+    };
+    return DidOrTold(make, copy, ask) ? std::optional(name) : std::nullopt;
+}
+
+void EditLanguage(const Host& host, const Text& toolFolder, const Text& name, Ask& ask)
+{
+    const Text path = JoinPath(LanguageFolder(toolFolder), name);
+    DidOrTold([&] { host.machine.EditTextFile(path); }, path, ask);
+}
+
+} // namespace quillon
