@@ -95,6 +95,10 @@ Piece Form::OkCancel()
     Button(NAMED(cmdCancel), "Avbryt", [this] { reject(); });
     cmdOK->setDefault(true);
     cmdOK->setMinimumWidth(cmdCancel->sizeHint().width());
+    // A press by mouse leaves no field: the box of a check would take the release, and the button
+    // stay down. OK leaves the field when it is pressed whole, and Cancel wants no checks.
+    for (QPushButton* button : {cmdOK, cmdCancel})
+        button->setFocusPolicy(Qt::TabFocus);
     return Across({Stretch(), cmdOK, cmdCancel});
 }
 

@@ -121,6 +121,29 @@ TEST_F(DlgRunAppAfterTest, LeavesTheFieldOnOk)
     EXPECT_EQ(run.AppFileName2, "%destdir\\x");
 }
 
+TEST_F(DlgRunAppAfterTest, ChecksTheFieldOnceTheMouseHasPressedOkWhole)
+{
+    DlgRunAppAfter form(session, nullptr);
+    ShowActive(form);
+    Type(form, "tProgramName1", "%destdir\\x");
+    QTest::mousePress(form.cmdOK, Qt::LeftButton);
+    EXPECT_TRUE(ask.shown.empty()) << "a box now would take the release";
+    ask.Expect({BoxKind::Warn, "Variabelnamn ej korrekt", kLowerCase});
+    QTest::mouseRelease(form.cmdOK, Qt::LeftButton);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(run.AppFileName1, "%destdir\\x");
+}
+
+TEST_F(DlgRunAppAfterTest, ChecksNothingOnCancel)
+{
+    DlgRunAppAfter form(session, nullptr);
+    ShowActive(form);
+    Type(form, "tProgramName1", "%destdir\\x");
+    Click(form, "cmdCancel");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_TRUE(ask.shown.empty());
+}
+
 TEST_F(DlgRunAppAfterTest, TakesNoMoreThanTheProjectHolds)
 {
     DlgRunAppAfter form(session, nullptr);
