@@ -1,7 +1,6 @@
 #include "actions/dialog_bitmap.h"
 
 #include "actions/kept_path.h"
-#include "helpers/windows_path.h"
 #include "project/dialog_keys.h"
 #include "project/new_project.h"
 
@@ -15,15 +14,10 @@ constexpr PathKind kPicture{"Bilden", "Lägg bilden i en katalog närmare roten.
 
 std::optional<Text> ChooseDlgBitmap(Text& folder, Ask& ask)
 {
-    const auto path = ask.OpenFile({.title = "Välj bild",
-                                    .folder = folder,
-                                    .filter = "Bitmappar (*.bmp)|*.bmp",
-                                    .defaultExtension = ".bmp"});
-    if (!path || path->empty())
-        return std::nullopt;
-    folder = ExtractDirectory(*path);
-    const int longest = LongestText(section::kDialogBoxes, &section::DialogBoxes::DlgBitmap);
-    return CanKeepPath(*path, longest, kPicture, ask) ? path : std::nullopt;
+    return ChooseKeptPath(
+        {.title = "Välj bild", .filter = "Bitmappar (*.bmp)|*.bmp", .defaultExtension = ".bmp"},
+        folder, LongestText(section::kDialogBoxes, &section::DialogBoxes::DlgBitmap), kPicture,
+        ask);
 }
 
 std::optional<Text> StandardDlgBitmap(const FileSystem& files, const Text& toolFolder, Ask& ask)

@@ -1,8 +1,11 @@
 #include "actions/kept_path.h"
 
 #include "helpers/ansi_text.h"
+#include "helpers/windows_path.h"
 
 namespace quillon {
+
+namespace {
 
 bool CanKeepPath(const Text& path, int longest, const PathKind& kind, Ask& ask)
 {
@@ -19,6 +22,19 @@ bool CanKeepPath(const Text& path, int longest, const PathKind& kind, Ask& ask)
         return false;
     }
     return true;
+}
+
+} // namespace
+
+std::optional<Text> ChooseKeptPath(FileQuestion question, Text& folder, int longest,
+                                   const PathKind& kind, Ask& ask)
+{
+    question.folder = folder;
+    auto path = ask.OpenFile(question);
+    if (!path || path->empty())
+        return std::nullopt;
+    folder = ExtractDirectory(*path);
+    return CanKeepPath(*path, longest, kind, ask) ? path : std::nullopt;
 }
 
 } // namespace quillon

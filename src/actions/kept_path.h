@@ -1,7 +1,10 @@
-// Files that a project names by their paths: whether the project file can hold such a path.
+// Files that a project names by their paths: how they are chosen, so that the project file can hold
+// the path.
 #pragma once
 
 #include "platform/ask.h"
+
+#include <optional>
 
 namespace quillon {
 
@@ -11,8 +14,10 @@ struct PathKind {
     const char* advice; // "Lägg bilden i en katalog närmare roten."
 };
 
-/// Whether the project file gives the path back as it is, in `longest` bytes; where not, a box says
-/// why.
-bool CanKeepPath(const Text& path, int longest, const PathKind& kind, Ask& ask);
+/// Asks for a file; `folder` is where the dialog opens, and afterwards where the user went. Nothing
+/// where the user cancelled, or chose a file whose path the project file would not give back from
+/// `longest` bytes, which a box says.
+std::optional<Text> ChooseKeptPath(FileQuestion question, Text& folder, int longest,
+                                   const PathKind& kind, Ask& ask);
 
 } // namespace quillon

@@ -86,12 +86,13 @@ Piece DlgInstallOptInternetAdv::ReturnValuesFrame()
 
 void DlgInstallOptInternetAdv::SelectProgram()
 {
-    const auto path = session_.ask.OpenFile({.title = "Välj programfil",
-                                             .folder = "C:\\",
-                                             .filter = "Programfiler (*.exe)|*.exe",
-                                             .defaultExtension = ".exe"});
-    if (!path || path->empty() ||
-        !CanKeepPath(*path, Longest(&RunAppSelfX::ProgramFilename), kProgram, session_.ask))
+    Text folder = "C:\\";
+    const auto path =
+        ChooseKeptPath({.title = "Välj programfil",
+                        .filter = "Programfiler (*.exe)|*.exe",
+                        .defaultExtension = ".exe"},
+                       folder, Longest(&RunAppSelfX::ProgramFilename), kProgram, session_.ask);
+    if (!path)
         return;
     edited_.program.ProgramFilename = *path;
     sProgramFilename->ShowPath(ToQt(*path));

@@ -253,11 +253,10 @@ QPushButton* DlgInstallOptions::BrowseButton(QPushButton*& member, const char* n
     return button;
 }
 
-void DlgInstallOptions::Browse(QLineEdit& field, int longest, FileQuestion question)
+void DlgInstallOptions::Browse(QLineEdit& field, int longest, const FileQuestion& question)
 {
-    question.folder = "C:\\";
-    const auto path = session_.ask.OpenFile(question);
-    if (path && !path->empty() && CanKeepPath(*path, longest, kFile, session_.ask))
+    Text folder = "C:\\";
+    if (const auto path = ChooseKeptPath(question, folder, longest, kFile, session_.ask))
         field.setText(ToQt(*path));
 }
 

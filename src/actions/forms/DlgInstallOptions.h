@@ -62,7 +62,7 @@ private:
     QCheckBox* CheckText(QCheckBox*& member, const char* name, const Text& caption, Text& value);
     QPushButton* BrowseButton(QPushButton*& member, const char* name, const Text& caption,
                               QLineEdit*& field, int longest, const FileQuestion& question);
-    void Browse(QLineEdit& field, int longest, FileQuestion question);
+    void Browse(QLineEdit& field, int longest, const FileQuestion& question);
 
     section::InstallOptions ShownUninstall() const;
     void ShowUninstall(const section::InstallOptions& options);
