@@ -41,9 +41,9 @@ DlgInstallOptions::DlgInstallOptions(Session& session, QWidget* parent)
     XTab->addTab(internetTab_ = InternetTab(), "Internet");
     XTab->addTab(SignTab(), "Signering");
     Arrange(Down({Growing(XTab), OkCancel()}));
-    // A press must not make a field be left whose check stands in the way of the click: the box
-    // would take the release, and the button stay down.
-    for (QPushButton* button : {cmdOK, cmdCancel, cmdBrowseIcon, CmdInternetAdvanced})
+    // As with OK, a press by mouse must not make the file name be left, whose box would take the
+    // release.
+    for (QPushButton* button : {cmdBrowseIcon, CmdInternetAdvanced})
         button->setFocusPolicy(Qt::TabFocus);
     GatherSigning();
     connect(cUseSign, &QCheckBox::toggled, this, [this] { EnableSigning(); });
