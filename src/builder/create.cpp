@@ -5,6 +5,7 @@
 #include "builder/design_container.h"
 #include "builder/file_container.h"
 #include "builder/file_list_file.h"
+#include "builder/language_copy.h"
 #include "builder/one_by_one.h"
 #include "builder/remove_quietly.h"
 #include "builder/runtime_files.h"
@@ -185,8 +186,7 @@ Step CopyLanguageFile(CreateRun& run)
 {
     const Text& name = run.project.Language.LanguageFile;
     run.ask.AddStatusLine("Kopierar " + name);
-    run.host.files.CopyContent(run.options.ToolFolder + "\\Language\\" + name,
-                               run.InDestination(name));
+    CopyLanguageTo(run.DestDir, name, run.options.ToolFolder, run.host.files);
     return Step::GoOn;
 }
 

@@ -2,6 +2,7 @@
 
 #include "builder/create_checks.h"
 #include "builder/file_list_file.h"
+#include "builder/language_copy.h"
 #include "builder/setup_info_file.h"
 #include "formats/package_files.h"
 #include "helpers/windows_path.h"
@@ -71,13 +72,7 @@ bool WriteSetupInfo(TestRun& run, Project& project, const Text& folder, SetupInf
 bool CopyLanguageFile(TestRun& run, const Text& folder)
 {
     const Text& name = run.project.Language.LanguageFile;
-    const auto copy = [&] {
-        // A project from elsewhere must not name a file outside the two folders.
-        if (ExtractFilename(name) != name || name.empty())
-            throw RunError(ErrorNumber::kBadFileName, name);
-        run.host.files.CopyContent(JoinPath(run.options.ToolFolder + "\\Language", name),
-                                   JoinPath(folder, name));
-    };
+    const auto copy = [&] { CopyLanguageTo(folder, name, run.options.ToolFolder, run.host.files); };
     const int error = RunErrorNumber(copy, run.failure);
     return error == ErrorNumber::kNone ||
            Fail(run, kTestTitle, error, "språkfilen '" + name + "' skulle kopieras");

@@ -421,6 +421,22 @@ TEST(RunCreate, LeavesTheButtonsDisabledAfterAFailureThatNoStepHandles)
     EXPECT_TRUE(desk.Has("QNSETUP.INF"));
 }
 
+TEST(RunCreate, TakesNoLanguageFileFromOutsideItsFolder)
+{
+    for (const char* name : {"", "..\\QUILLON.INI", "..\\..\\SECRET.TXT", "../../SECRET.TXT",
+                             "C:\\SECRET.TXT", "C:X"}) {
+        CreateDesk desk;
+        desk.machine.files.Put("C:\\SECRET.TXT", "secret");
+        desk.machine.files.Put("C:\\Quillon\\QUILLON.INI", "settings");
+        desk.project.Language.LanguageFile = name;
+        EXPECT_EQ(desk.Create({kCannotWrite}), CreateResult::Failed) << name;
+        ASSERT_TRUE(desk.failure) << name;
+        EXPECT_EQ(desk.failure->Number(), ErrorNumber::kBadFileName);
+        EXPECT_EQ(desk.failure->Path(), name);
+        EXPECT_FALSE(desk.machine.files.FileExists("C:\\QUILLON.INI")) << name;
+    }
+}
+
 TEST(RunCreate, TakesARefusedAutorunFileForSuchAFailure)
 {
     CreateDesk desk;

@@ -220,7 +220,9 @@ TEST_F(TestRunTest, TellsWhyTheLanguageFileCouldNotBeCopied)
     refuses("ENGLISH.LNG", 53);
     refuses("", 52);
     refuses("..\\..\\SECRET.TXT", 52);
+    refuses("../../SECRET.TXT", 52);
     refuses("C:\\SECRET.TXT", 52);
+    refuses("C:SECRET.TXT", 52);
     desk.machine.files.RemoveFile("C:\\Quillon\\Language\\SWEDISH.LNG");
     desk.machine.files.RemoveFolder("C:\\Quillon\\Language");
     refuses("SWEDISH.LNG", 76);

@@ -1,0 +1,16 @@
+#include "builder/language_copy.h"
+
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+
+namespace quillon {
+
+void CopyLanguageTo(const Text& folder, const Text& name, const Text& toolFolder, FileSystem& files)
+{
+    // A project from elsewhere must not name a file outside the two folders.
+    if (name.empty() || name.find_first_of("\\/:") != Text::npos)
+        throw RunError(ErrorNumber::kBadFileName, name);
+    files.CopyContent(JoinPath(toolFolder + "\\Language", name), JoinPath(folder, name));
+}
+
+} // namespace quillon
