@@ -122,6 +122,21 @@ TEST_F(DlgShowDocAfterTest, PutsTheDocumentInOrderWhenItsFieldIsLeft)
     EXPECT_EQ(TextIn(form, "tDocumentFileName"), "%destdir\\x");
 }
 
+TEST_F(DlgShowDocAfterTest, LetsTheMouseTickABoxBesideAVariableInSmallLetters)
+{
+    DlgShowDocAfter form(session, nullptr);
+    ShowActive(form);
+    Type(form, "tDocumentFileName", "%destdir\\x.rtf");
+    Click(form, "cShowCheckBox");
+    Click(form, "cUseInternalRTFBox");
+    EXPECT_TRUE(form.cShowCheckBox->isChecked());
+    EXPECT_TRUE(form.cUseInternalRTFBox->isChecked());
+    EXPECT_TRUE(ask.shown.empty()) << "the box comes when the field is left";
+    ask.Expect({BoxKind::Warn, "Variabelnamn ej korrekt"});
+    Click(form, "cmdOK");
+    EXPECT_FALSE(form.isVisible());
+}
+
 TEST_F(DlgShowDocAfterTest, TakesNoMoreThanTheProjectHolds)
 {
     DlgShowDocAfter form(session, nullptr);

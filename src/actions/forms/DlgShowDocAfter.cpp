@@ -37,6 +37,10 @@ DlgShowDocAfter::DlgShowDocAfter(Session& session, QWidget* parent)
           shown.UseInternalRTFBox);
     Field(NAMED(tInternalRTFBoxDlgTitle), shown.InternalRTFBoxDlgTitle,
           Longest(&Document::InternalRTFBoxDlgTitle));
+    // As with OK and Cancel, a press must not leave the document's field: the box of its check
+    // would take the release, and nothing be ticked.
+    for (QCheckBox* box : {cShowCheckBox, cUseInternalRTFBox})
+        box->setFocusPolicy(Qt::TabFocus);
     Arrange(Down({
         Above("Visa följande dokument efter installationen",
               RoomFor(kLettersOfAField, tDocumentFileName)),
