@@ -163,6 +163,7 @@ TEST_F(DlgLanguageTest, StaysOpenOverAFileThatNoProjectCanName)
     ask.Expect({BoxKind::Inform, "Ogiltigt filnamn"});
     Click(form, "cmdOK");
     EXPECT_TRUE(form.isVisible());
+    EXPECT_TRUE(form.FileListX->hasFocus());
     EXPECT_EQ(language, "SWEDISH.LNG");
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }

@@ -69,7 +69,10 @@ void DlgLanguage::AddLanguage()
 
 bool DlgLanguage::MayClose()
 {
-    return SelectedFile().empty() || CanBeLanguageFile(SelectedFile(), session_.ask);
+    if (SelectedFile().empty() || CanBeLanguageFile(SelectedFile(), session_.ask))
+        return true;
+    FileListX->setFocus();
+    return false;
 }
 
 void DlgLanguage::Store()
