@@ -136,6 +136,10 @@ TEST_F(DlgRegisterFontTest, StaysOpenOverASemicolon)
     EXPECT_TRUE(form.tFontDesc->hasFocus());
     EXPECT_EQ(row, before);
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    Click(form, "cRegisterFont");
+    Click(form, "cmdOK");
+    EXPECT_FALSE(form.isVisible()) << "the name is not stored";
+    EXPECT_EQ(row[IconDesc], "");
 }
 
 } // namespace

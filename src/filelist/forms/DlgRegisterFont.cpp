@@ -45,7 +45,8 @@ bool DlgRegisterFont::MayClose()
 {
     if (tFontDesc->text().isEmpty())
         cRegisterFont->setChecked(false);
-    if (MayStandInRow(FromQt(tFontDesc->text()), "Fältet 'Typsnittsnamn'", session_.ask))
+    if (!cRegisterFont->isChecked() ||
+        MayStandInRow(FromQt(tFontDesc->text()), "Fältet 'Typsnittsnamn'", session_.ask))
         return true;
     tFontDesc->setFocus();
     return false;
