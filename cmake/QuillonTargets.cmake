@@ -76,8 +76,13 @@ function(quillon_window_test folder)
   add_executable(${folder}_test ${sources} support/window_main.cpp support/window_test.cpp
                  support/window_looks.cpp)
   target_link_libraries(${folder}_test PRIVATE quillon_test_support Qt6::Test ${ARGN})
-  target_precompile_headers(${folder}_test PRIVATE <QtWidgets/QtWidgets> <QtTest/QTest>
-                            <gtest/gtest.h>)
+  # Compiled once for all of them.
+  if(TARGET forms_test AND NOT folder STREQUAL "forms")
+    target_precompile_headers(${folder}_test REUSE_FROM forms_test)
+  else()
+    target_precompile_headers(${folder}_test PRIVATE <QtWidgets/QtWidgets> <QtTest/QTest>
+                              <gtest/gtest.h>)
+  endif()
   add_test(NAME ${folder} COMMAND ${folder}_test)
   if(NOT QUILLON_SANITIZE)
     # Once more on a screen of twice the points, whose pictures end in "@2x".

@@ -42,12 +42,12 @@ quillon_runtime_program(qnxreg2 QNXREG2.EXE ${release} ole32)
 quillon_runtime_program(qnxunin QNXUNIN.EXE ${release} comctl32 ole32 uuid shell32)
 if(TARGET qns32x)
   # The full version shows JPEG pictures too; nothing that is shown so far knows the difference. The
-  # third copy is the one that a test run starts: its folder takes the files of the project that is
-  # tried, and stands beside Release in the tool's own folder.
-  cmake_path(GET release PARENT_PATH tool)
+  # third copy is the one that a test run starts, in a folder that takes the files of the project that
+  # is tried.
   add_custom_command(
     TARGET qns32x POST_BUILD
-    COMMAND ${CMAKE_COMMAND} -E make_directory ${release}/Full32 ${tool}/Test
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${release}/Full32 ${QUILLON_TEST_FOLDER}
     COMMAND ${CMAKE_COMMAND} -E copy ${release}/Small32/QNS32X.EXE ${release}/Full32/QNS32X.EXE
-    COMMAND ${CMAKE_COMMAND} -E copy ${release}/Small32/QNS32X.EXE ${tool}/Test/Qns32x.exe)
+    COMMAND ${CMAKE_COMMAND} -E copy ${release}/Small32/QNS32X.EXE 
+            ${QUILLON_TEST_FOLDER}/Qns32x.exe)
 endif()

@@ -28,7 +28,7 @@ fs::path MakeTestFolder(const std::string& name)
                     {"QUILLON_DRIVE_C", WorkFolder() / "drive-of-the-tool"},
                     {"TZ", "UTC"}});
     EXPECT_EQ(written.exitCode, 0) << written.output;
-    fs::copy_file(RuntimeFolder().parent_path() / "Test" / "Qns32x.exe", folder / "Qns32x.exe");
+    fs::copy_file(RuntimeFolder() / "Small32" / "QNS32X.EXE", folder / "Qns32x.exe");
     return folder;
 }
 
