@@ -7,10 +7,11 @@ namespace quillon {
 
 void CopyLanguageTo(const Text& folder, const Text& name, const Text& toolFolder, FileSystem& files)
 {
+    const Text source = JoinPath(toolFolder + "\\Language", name);
     // A project from elsewhere must not name a file outside the two folders.
     if (name.empty() || name.find_first_of("\\/:") != Text::npos)
-        throw RunError(ErrorNumber::kBadFileName, name);
-    files.CopyContent(JoinPath(toolFolder + "\\Language", name), JoinPath(folder, name));
+        throw RunError(ErrorNumber::kBadFileName, source);
+    files.CopyContent(source, JoinPath(folder, name));
 }
 
 } // namespace quillon

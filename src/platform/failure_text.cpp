@@ -10,6 +10,8 @@ Text FailureText(const RunError& error, const Text& path)
     switch (error.Number()) {
     case ErrorNumber::kCannotStart:
         return "'" + named + "' kan ej öppnas. Det saknas ett program för den sortens fil.";
+    case ErrorNumber::kBadFileName:
+        return "'" + named + "' är inget giltigt filnamn.";
     case ErrorNumber::kFileNotFound:
         return "Filen '" + named + "' finns inte.";
     case ErrorNumber::kPathNotFound:

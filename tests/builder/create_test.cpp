@@ -432,7 +432,7 @@ TEST(RunCreate, TakesNoLanguageFileFromOutsideItsFolder)
         EXPECT_EQ(desk.Create({kCannotWrite}), CreateResult::Failed) << name;
         ASSERT_TRUE(desk.failure) << name;
         EXPECT_EQ(desk.failure->Number(), ErrorNumber::kBadFileName);
-        EXPECT_EQ(desk.failure->Path(), name);
+        EXPECT_EQ(desk.failure->Path(), Text("C:\\Quillon\\Language\\") + name);
         EXPECT_FALSE(desk.machine.files.FileExists("C:\\QUILLON.INI")) << name;
     }
 }

@@ -118,6 +118,23 @@ TEST_F(TestCall, TellsOfALanguageFileThatIsMissing)
     ExpectStopped("Fel #76 inträffade när språkfilen 'SWEDISH.LNG' skulle kopieras!");
 }
 
+TEST_F(TestCall, TellsOfALanguageFileThatIsNone)
+{
+    Project made = MakeProject({"Prog.exe"});
+    for (const char* name : {"", "..\\quillonc", "../../p.qnp"}) {
+        made.Language.LanguageFile = name;
+        Save(made);
+        before = disk.Get("p.qnp");
+        const ProgramRun run = Test();
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_THAT(run.err, HasSubstr("Fel #52 inträffade när språkfilen '" + Text(name) +
+                                       "' skulle kopieras!"));
+        EXPECT_THAT(run.err,
+                    HasSubstr("\\Language\\" + Text(name) + "' är inget giltigt filnamn."));
+        EXPECT_THAT(Names("out"), ElementsAre("FILELIST.INF", "QNSETUP.INF"));
+    }
+}
+
 TEST_F(TestCall, TellsOfAFolderThatIsNone)
 {
     disk.Put("file", "text");

@@ -10,6 +10,7 @@ TEST(FailureText, SaysWhatFailedAndNamesTheFile)
     const std::pair<int, const char*> cases[] = {
         {ErrorNumber::kCannotStart,
          "'C:\\a.lng' kan ej öppnas. Det saknas ett program för den sortens fil."},
+        {ErrorNumber::kBadFileName, "'C:\\a.lng' är inget giltigt filnamn."},
         {ErrorNumber::kFileNotFound, "Filen 'C:\\a.lng' finns inte."},
         {ErrorNumber::kPathNotFound, "Katalogen till 'C:\\a.lng' finns inte."},
         {ErrorNumber::kPermissionDenied, "Åtkomst nekas till 'C:\\a.lng'."},
