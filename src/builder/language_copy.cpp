@@ -1,5 +1,6 @@
 #include "builder/language_copy.h"
 
+#include "actions/language_files.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 
@@ -7,7 +8,7 @@ namespace quillon {
 
 void CopyLanguageTo(const Text& folder, const Text& name, const Text& toolFolder, FileSystem& files)
 {
-    const Text source = JoinPath(toolFolder + "\\Language", name);
+    const Text source = JoinPath(LanguageFolder(toolFolder), name);
     // A project from elsewhere must not name a file outside the two folders.
     if (name.empty() || name.find_first_of("\\/:") != Text::npos)
         throw RunError(ErrorNumber::kBadFileName, source);

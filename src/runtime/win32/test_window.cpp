@@ -1,7 +1,6 @@
 #include "runtime/win32/test_window.h"
 
-#include "platform/win32/wide_text.h"
-#include "platform/win32/win_failure.h"
+#include "runtime/win32/plain_window.h"
 
 namespace quillon {
 
@@ -29,49 +28,6 @@ LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data)
     return 0;
 }
 
-HWND MakeWindow(HINSTANCE instance, const Text& title)
-{
-    WNDCLASSW kind{};
-    kind.lpfnWndProc = Receive;
-    kind.hInstance = instance;
-    kind.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    kind.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-    kind.lpszClassName = kWindowClass;
-    RegisterClassW(&kind);
-    RECT frame{0, 0, kWidth, kHeight};
-    constexpr DWORD kStyle = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-    AdjustWindowRect(&frame, kStyle, FALSE);
-    const int width = frame.right - frame.left;
-    const int height = frame.bottom - frame.top;
-    const HWND window = CreateWindowExW(0, kWindowClass, Wide(title).c_str(), kStyle,
-                                        (GetSystemMetrics(SM_CXSCREEN) - width) / 2,
-                                        (GetSystemMetrics(SM_CYSCREEN) - height) / 2, width, height,
-                                        nullptr, nullptr, instance, nullptr);
-    if (window == nullptr)
-        FailAsWindowsSays(title);
-    return window;
-}
-
-struct Control {
-    const wchar_t* kind;
-    Text text;
-    DWORD style;
-    RECT place;
-    int id = 0;
-};
-
-HWND Add(HWND window, const Control& control)
-{
-    const RECT& place = control.place;
-    const HWND made = CreateWindowExW(
-        0, control.kind, Wide(control.text).c_str(), WS_CHILD | WS_VISIBLE | control.style,
-        place.left, place.top, place.right - place.left, place.bottom - place.top, window,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(control.id)), nullptr, nullptr);
-    SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)),
-                 TRUE);
-    return made;
-}
-
 Text Joined(const std::vector<Text>& lines)
 {
     Text text;
@@ -87,22 +43,23 @@ void Fill(HWND window, const TestWindow& shown)
     constexpr int kLines = kMargin + 2 * kLine + kMargin / 2;
     // A file's name may hold an "&", which is no access letter.
     constexpr DWORD kWords = SS_LEFT | SS_NOPREFIX;
-    Add(window, {L"STATIC", shown.note, kWords, {kMargin, kMargin, kRight, kMargin + kLine}});
-    Add(window, {L"STATIC",
-                 shown.heading,
-                 kWords,
-                 {kMargin, kMargin + kLine, kRight, kMargin + 2 * kLine}});
+    AddControl(window,
+               {L"STATIC", shown.note, kWords, {kMargin, kMargin, kRight, kMargin + kLine}});
+    AddControl(window, {L"STATIC",
+                        shown.heading,
+                        kWords,
+                        {kMargin, kMargin + kLine, kRight, kMargin + 2 * kLine}});
     if (!shown.lines.empty())
-        Add(window, {L"EDIT",
-                     Joined(shown.lines),
-                     WS_BORDER | WS_VSCROLL | WS_TABSTOP | ES_MULTILINE | ES_READONLY,
-                     {kMargin, kLines, kRight, kBottom - kButtonHeight - kMargin}});
+        AddControl(window, {L"EDIT",
+                            Joined(shown.lines),
+                            WS_BORDER | WS_VSCROLL | WS_TABSTOP | ES_MULTILINE | ES_READONLY,
+                            {kMargin, kLines, kRight, kBottom - kButtonHeight - kMargin}});
     const HWND close =
-        Add(window, {L"BUTTON",
-                     shown.close,
-                     WS_TABSTOP | BS_DEFPUSHBUTTON,
-                     {kRight - kButtonWidth, kBottom - kButtonHeight, kRight, kBottom},
-                     IDCANCEL});
+        AddControl(window, {L"BUTTON",
+                            shown.close,
+                            WS_TABSTOP | BS_DEFPUSHBUTTON,
+                            {kRight - kButtonWidth, kBottom - kButtonHeight, kRight, kBottom},
+                            IDCANCEL});
     SetFocus(close);
 }
 
@@ -110,17 +67,14 @@ void Fill(HWND window, const TestWindow& shown)
 
 void ShowTestWindow(HINSTANCE instance, const TestWindow& shown)
 {
-    const HWND window = MakeWindow(instance, shown.title);
+    const HWND window =
+        MakePlainWindow(instance, shown.title, {kWindowClass, Receive, kWidth, kHeight});
     ShowWindow(window, SW_SHOWNORMAL);
     SetForegroundWindow(window);
     Fill(window, shown);
     MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (IsDialogMessageW(window, &message))
-            continue;
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
+    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+        DispatchTo(window, message);
 }
 
 } // namespace quillon

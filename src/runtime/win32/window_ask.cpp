@@ -2,6 +2,7 @@
 
 #include "platform/win32/wide_text.h"
 #include "runtime/exit_codes.h"
+#include "runtime/win32/plain_window.h"
 
 #include <commctrl.h>
 
@@ -22,43 +23,21 @@ WindowAsk::WindowAsk(HINSTANCE instance, const Text& title, const LanguageTexts&
 {
     INITCOMMONCONTROLSEX controls{sizeof controls, ICC_PROGRESS_CLASS};
     InitCommonControlsEx(&controls);
-    WNDCLASSW kind{};
-    kind.lpfnWndProc = Receive;
-    kind.hInstance = instance;
-    kind.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    kind.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-    kind.lpszClassName = kWindowClass;
-    RegisterClassW(&kind);
-    RECT frame{0, 0, kWidth, kHeight};
-    constexpr DWORD kStyle = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-    AdjustWindowRect(&frame, kStyle, FALSE);
-    const int width = frame.right - frame.left;
-    const int height = frame.bottom - frame.top;
-    window_ = CreateWindowExW(0, kWindowClass, Wide(title).c_str(), kStyle,
-                              (GetSystemMetrics(SM_CXSCREEN) - width) / 2,
-                              (GetSystemMetrics(SM_CYSCREEN) - height) / 2, width, height, nullptr,
-                              nullptr, instance, this);
-    status_ = AddControl(L"STATIC", "", SS_LEFT | SS_ENDELLIPSIS, {16, 16, kWidth - 16, 36}, 0);
-    bar_ = AddControl(PROGRESS_CLASSW, "", 0, {16, 44, kWidth - 16, 64}, 0);
+    window_ = MakePlainWindow(instance, title, {kWindowClass, Receive, kWidth, kHeight, this});
+    status_ =
+        AddControl(window_, {L"STATIC", "", SS_LEFT | SS_ENDELLIPSIS, {16, 16, kWidth - 16, 36}});
+    bar_ = AddControl(window_, {PROGRESS_CLASSW, "", 0, {16, 44, kWidth - 16, 64}});
     SendMessageW(bar_, PBM_SETRANGE, 0, MAKELPARAM(0, kProgressSteps));
-    AddControl(L"BUTTON", texts[Message::Cancel], WS_TABSTOP | BS_PUSHBUTTON,
-               {kWidth - 106, 84, kWidth - 16, 110}, IDCANCEL);
+    AddControl(window_, {L"BUTTON",
+                         texts[Message::Cancel],
+                         WS_TABSTOP | BS_PUSHBUTTON,
+                         {kWidth - 106, 84, kWidth - 16, 110},
+                         IDCANCEL});
 }
 
 WindowAsk::~WindowAsk()
 {
     DestroyWindow(window_);
-}
-
-HWND WindowAsk::AddControl(const wchar_t* kind, const Text& text, DWORD style, RECT place, int id)
-{
-    const HWND control =
-        CreateWindowExW(0, kind, Wide(text).c_str(), WS_CHILD | WS_VISIBLE | style, place.left,
-                        place.top, place.right - place.left, place.bottom - place.top, window_,
-                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
-    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)),
-                 TRUE);
-    return control;
 }
 
 LRESULT CALLBACK WindowAsk::Receive(HWND window, UINT message, WPARAM word, LPARAM data)
@@ -148,12 +127,8 @@ void WindowAsk::Beep()
 void WindowAsk::PumpMessages()
 {
     MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        if (IsDialogMessageW(window_, &message))
-            continue;
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+        DispatchTo(window_, message);
 }
 
 void WindowAsk::YieldToEvents()

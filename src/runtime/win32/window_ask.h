@@ -34,7 +34,6 @@ public:
 
 private:
     int ShowBox(const Text& title, const Text& text, UINT kind);
-    HWND AddControl(const wchar_t* kind, const Text& text, DWORD style, RECT place, int id);
     void PumpMessages();
     static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data);
 

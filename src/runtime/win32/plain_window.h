@@ -1,0 +1,35 @@
+// What the setup's own windows share: a plain window in the middle of the screen, with controls
+// that are placed in pixels of a display of normal size.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <windows.h>
+
+namespace quillon {
+
+struct PlainWindow {
+    const wchar_t* kind; // the window class, registered under this name
+    WNDPROC receive;
+    int width; // inside the frame
+    int height;
+    void* data = nullptr; // what WM_NCCREATE brings
+};
+
+/// Makes the window; it is not shown yet. Throws RunError where Windows makes none.
+HWND MakePlainWindow(HINSTANCE instance, const Text& title, const PlainWindow& window);
+
+struct Control {
+    const wchar_t* kind;
+    Text text;
+    DWORD style;
+    RECT place;
+    int id = 0;
+};
+
+HWND AddControl(HWND window, const Control& control);
+
+/// The message goes to the window's controls first, as in a dialog: Tab, Enter and Esc.
+void DispatchTo(HWND window, MSG& message);
+
+} // namespace quillon
