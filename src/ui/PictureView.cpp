@@ -49,16 +49,21 @@ void PictureView::paintEvent(QPaintEvent*)
 
     const int gap = fontMetrics().height() / 2;
     const QRect room = rect().adjusted(gap, gap, -gap, -gap);
+    QSize size = picture_.size();
+    if (size.width() > room.width() || size.height() > room.height())
+        size.scale(room.size(), Qt::KeepAspectRatio);
+    Paint(painter, room, size);
+}
+
+void PictureView::Paint(QPainter& painter, const QRect& room, const QSize& shown) const
+{
     if (picture_.isNull()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
         painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, note_);
         return;
     }
-    QSize size = picture_.size();
-    if (size.width() > room.width() || size.height() > room.height())
-        size.scale(room.size(), Qt::KeepAspectRatio);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size, room),
+    painter.drawImage(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, shown, room),
                       picture_);
 }
 

@@ -4,6 +4,8 @@
 #include <QImage>
 #include <QWidget>
 
+class QPainter;
+
 namespace quillon {
 
 class PictureView : public QWidget {
@@ -22,6 +24,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+    const QImage& Picture() const { return picture_; }
+    /// The picture in the middle of `room`, `shown` large; the note where there is no picture.
+    void Paint(QPainter& painter, const QRect& room, const QSize& shown) const;
 
 private:
     QImage picture_;
