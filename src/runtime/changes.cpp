@@ -62,7 +62,7 @@ void Changes::MakeFolder(const Text& folder)
     if (parent.empty() || parent == folder)
         throw RunError(ErrorNumber::kPathNotFound, folder);
     MakeFolder(parent);
-    record_.Add(RecordKind::Folder, {folder});
+    record_.Add(record::Folder{folder});
     OnUndo([this, folder] {
         if (host_.files.DirExists(folder))
             host_.files.RemoveFolder(folder);
@@ -102,11 +102,19 @@ void Changes::Exchange(const Text& staged, const Text& path)
     host_.files.Rename(staged, path);
 }
 
+void Changes::RecordFile(const Text& path, bool existed)
+{
+    if (existed)
+        record_.Add(record::Replaced{path});
+    else
+        record_.Add(record::File{path});
+}
+
 void Changes::PutFile(const Text& staged, const Text& path, Recorded recorded)
 {
     const bool existed = host_.files.FileExists(path);
     if (recorded == Recorded::Yes)
-        record_.Add(existed ? RecordKind::Replaced : RecordKind::File, {path});
+        RecordFile(path, existed);
     Exchange(staged, path);
 }
 
@@ -118,14 +126,14 @@ void Changes::MakeUnrecordedFile(const Text& path)
 void Changes::PutFileAtRestart(const Text& staged, const Text& path, Recorded recorded)
 {
     if (recorded == Recorded::Yes)
-        record_.Add(RecordKind::Replaced, {path});
+        RecordFile(path, true);
     atRestart_.emplace_back(staged, path);
 }
 
 void Changes::KeepBackup(const Text& path)
 {
     const Text backup = FirstFreeName(host_.files, path, BackupName);
-    record_.Add(RecordKind::Backup, {path, backup});
+    record_.Add(record::Backup{path, backup});
     OnUndo([this, backup] { RemoveIfThere(backup); });
     host_.files.CopyContent(path, backup);
     log_.Line("Säkerhetskopierar " + path + " till " + backup);
@@ -142,7 +150,7 @@ void Changes::MakeKey(const RegistryKey& key)
         return;
     if (const Text parent = ExtractDirectory(key.subKey); !parent.empty())
         MakeKey({key.root, parent});
-    record_.Add(RecordKind::Key, {RootName(key.root), key.subKey});
+    record_.Add(record::Key{key});
     OnUndo([this, key] {
         if (target_.KeyExists(key))
             target_.RemoveKey(key);
@@ -156,9 +164,7 @@ void Changes::WriteValue(const RegistryKey& key, const Text& name, const Registr
     MakeKey(key);
     const auto former = target_.ReadValue(key, name);
     if (recorded == Recorded::Yes)
-        record_.Add(RecordKind::Value, {RootName(key.root), key.subKey, name, NumberText(data.type),
-                                        HexText(data.bytes), former ? NumberText(former->type) : "",
-                                        former ? HexText(former->bytes) : ""});
+        record_.Add(record::Value{key, name, data, former});
     OnUndo([this, key, name, former] {
         if (former)
             target_.WriteValue(key, name, *former);
@@ -192,7 +198,7 @@ void Changes::RemoveKeyWithAllBelow(const RegistryKey& key)
 void Changes::MakeShortcut(const Text& path, const Shortcut& shortcut)
 {
     MakeFolder(ExtractDirectory(path));
-    record_.Add(host_.files.FileExists(path) ? RecordKind::Replaced : RecordKind::File, {path});
+    RecordFile(path, host_.files.FileExists(path));
     if (host_.files.FileExists(path))
         PutAside(path);
     OnUndo([this, path] { RemoveIfThere(path); });
@@ -202,14 +208,14 @@ void Changes::MakeShortcut(const Text& path, const Shortcut& shortcut)
 
 Registration Changes::RegisterServer(const Text& path)
 {
-    record_.Add(RecordKind::Registered, {path});
+    record_.Add(record::Registered{path});
     OnUndo([this, path] { target_.RegisterServer(path, false); });
     return target_.RegisterServer(path, true);
 }
 
 void Changes::AnnounceFont(const Text& path)
 {
-    record_.Add(RecordKind::Font, {path});
+    record_.Add(record::Font{path});
     OnUndo([this, path] { target_.AnnounceFont(path, false); });
     target_.AnnounceFont(path, true);
 }

@@ -56,6 +56,7 @@ public:
     bool Undo();
 
 private:
+    void RecordFile(const Text& path, bool existed);
     void PutAside(const Text& path);
     void Exchange(const Text& staged, const Text& path);
     void RemoveIfThere(const Text& path);

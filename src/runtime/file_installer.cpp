@@ -157,12 +157,12 @@ bool FileInstaller::Put(const PlannedFile& file, const Text& staged)
 // A file that was there before and that nobody counted has a user already.
 void FileInstaller::CountSharedFile(const PlannedFile& file, bool existed)
 {
-    if (record_.Has(RecordKind::Shared, file.path))
+    if (record_.HasShared(file.path))
         return;
     const std::uint32_t before = CountOfUsers(input_.target, file.path).value_or(existed ? 1 : 0);
     // The key first, since it can go only when the count in it has gone.
     changes_.MakeKey(SharedFilesKey());
-    record_.Add(RecordKind::Shared, {file.path});
+    record_.Add(record::Shared{file.path});
     changes_.WriteValue(SharedFilesKey(), file.path, NumberData(before + 1), Changes::Recorded::No);
 }
 

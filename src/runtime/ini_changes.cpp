@@ -14,19 +14,22 @@ namespace {
 
 constexpr std::string_view kUtf16Mark = "\xFF\xFE";
 
-void ApplyIniLine(const IniWork& work, IniText& ini, const IniLine& line)
+// The record of what a line changed, and the change.
+using IniRecords = std::vector<JournalRecord>;
+
+void ApplyIniLine(const IniWork& work, IniText& ini, const IniLine& line, IniRecords& records)
 {
     const std::string section = AnsiText::ToBytes(line.section);
     const std::string name = AnsiText::ToBytes(line.name);
     if (!ini.HasSection(section))
-        work.record.Add(RecordKind::IniSection, {line.file, line.section});
+        records.push_back(record::IniSection{line.file, line.section});
     ini.MakeSection(section);
     if (line.name.empty())
         return;
-    const auto former = ini.Value(section, name);
-    work.record.Add(RecordKind::IniValue,
-                    {line.file, line.section, line.name, line.value, former ? "1" : "",
-                     former ? AnsiText::FromBytes(*former) : Text()});
+    const auto former = ini.LineOf(section, name);
+    records.push_back(
+        record::IniValue{line.file, line.section, line.name, line.value,
+                         former ? std::optional(AnsiText::FromBytes(*former)) : std::nullopt});
     ini.SetValue(section, name, AnsiText::ToBytes(line.value));
     work.log.Line("Skriver till " + line.file + ": [" + line.section + "] " + line.name);
 }
@@ -42,19 +45,27 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
     }
     work.changes.MakeFolder(ExtractDirectory(path));
     if (!existed)
-        work.record.Add(RecordKind::IniFile, {path});
+        work.record.Add(record::IniFile{path});
     IniText ini(before);
+    const std::string lastLine = ini.OpenLastLine();
+    IniRecords records;
     for (const IniLine& line : lines)
-        ApplyIniLine(work, ini, line);
+        ApplyIniLine(work, ini, line, records);
+    // The first record is the last that is taken back: by then the lines behind it have gone.
+    if (!lastLine.empty() && ini.OpenLastLine().empty())
+        work.record.Add(record::IniOpenEnd{path, AnsiText::FromBytes(lastLine)});
+    for (JournalRecord& record : records)
+        work.record.Add(std::move(record));
     const Text staged = work.changes.StagingPath(path);
     WriteWholeFile(work.files, staged, ini.Bytes());
     work.changes.PutFile(staged, path, Changes::Recorded::No);
 }
 
-// The old file stays until the new one is whole, since others' lines stand in it too.
+// The old file stays until the new one is whole, since others' lines stand in it too. A removal
+// that was broken off here is repeated, and then finds its temporary file under the same name.
 void RewriteFile(FileSystem& files, const Text& path, std::string_view bytes)
 {
-    const Text staged = NameBeside(files, path);
+    const Text staged = JoinPath(ExtractDirectory(path), "~qn-" + ExtractFilename(path) + ".tmp");
     try {
         WriteWholeFile(files, staged, bytes);
         files.Rename(staged, path);
@@ -62,6 +73,18 @@ void RewriteFile(FileSystem& files, const Text& path, std::string_view bytes)
         RunErrorNumber([&] { files.RemoveFile(staged); });
         throw;
     }
+}
+
+template <class Work>
+void Change(FileSystem& files, const Text& path, Work work)
+{
+    if (!files.FileExists(path))
+        return;
+    IniText ini(ReadWholeFile(files, path));
+    const std::string before = ini.Bytes();
+    work(ini);
+    if (ini.Bytes() != before)
+        RewriteFile(files, path, ini.Bytes());
 }
 
 } // namespace
@@ -75,32 +98,37 @@ void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines)
     }
 }
 
-void TakeBackIniChange(FileSystem& files, const LogRecord& record)
+void TakeBackIniChange(FileSystem& files, const record::IniFile& record)
 {
-    const Text& path = record.fields[0];
-    if (!files.FileExists(path))
-        return;
-    IniText ini(ReadWholeFile(files, path));
-    const std::string before = ini.Bytes();
-    if (record.kind == RecordKind::IniFile) {
-        if (before.find_first_not_of(" \t\r\n") == Text::npos)
-            files.RemoveFile(path);
-        return;
-    }
-    const std::string section = AnsiText::ToBytes(record.fields[1]);
-    if (record.kind == RecordKind::IniSection) {
-        ini.RemoveEmptySection(section);
-    } else {
-        const std::string name = AnsiText::ToBytes(record.fields[2]);
+    if (files.FileExists(record.path) &&
+        ReadWholeFile(files, record.path).find_first_not_of(" \t\r\n") == Text::npos)
+        files.RemoveFile(record.path);
+}
+
+void TakeBackIniChange(FileSystem& files, const record::IniOpenEnd& record)
+{
+    Change(files, record.path,
+           [&](IniText& ini) { ini.OpenEndOf(AnsiText::ToBytes(record.lastLine)); });
+}
+
+void TakeBackIniChange(FileSystem& files, const record::IniSection& record)
+{
+    Change(files, record.path,
+           [&](IniText& ini) { ini.RemoveEmptySection(AnsiText::ToBytes(record.section)); });
+}
+
+void TakeBackIniChange(FileSystem& files, const record::IniValue& record)
+{
+    const std::string section = AnsiText::ToBytes(record.section);
+    const std::string name = AnsiText::ToBytes(record.name);
+    Change(files, record.path, [&](IniText& ini) {
         const auto present = ini.Value(section, name);
-        const bool isOurs = present == TrimBlanks(AnsiText::ToBytes(record.fields[3]));
-        if (record.fields[4].empty())
+        const bool isOurs = present == TrimBlanks(AnsiText::ToBytes(record.value));
+        if (!record.formerLine)
             ini.RemoveValue(section, name);
         else if (isOurs)
-            ini.SetValue(section, name, AnsiText::ToBytes(record.fields[5]));
-    }
-    if (ini.Bytes() != before)
-        RewriteFile(files, path, ini.Bytes());
+            ini.SetLine(section, name, AnsiText::ToBytes(*record.formerLine));
+    });
 }
 
 } // namespace quillon

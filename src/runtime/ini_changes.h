@@ -16,7 +16,9 @@ struct IniWork {
 /// The lines' files are whole paths.
 void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines);
 
-/// For a record of the kinds IniFile, IniSection and IniValue.
-void TakeBackIniChange(FileSystem& files, const LogRecord& record);
+void TakeBackIniChange(FileSystem& files, const record::IniFile& record);
+void TakeBackIniChange(FileSystem& files, const record::IniOpenEnd& record);
+void TakeBackIniChange(FileSystem& files, const record::IniSection& record);
+void TakeBackIniChange(FileSystem& files, const record::IniValue& record);
 
 } // namespace quillon

@@ -90,6 +90,32 @@ std::optional<std::string> IniText::Value(std::string_view section, std::string_
     return std::string(Trimmed(text.substr(text.find('=') + 1)));
 }
 
+std::optional<std::string> IniText::LineOf(std::string_view section, std::string_view name) const
+{
+    const auto line = FindValue(section, name);
+    if (!line)
+        return std::nullopt;
+    return bytes_.substr(line->begin, line->end - line->begin);
+}
+
+std::string IniText::OpenLastLine() const
+{
+    const std::size_t last = bytes_.find_last_of("\r\n");
+    return last == std::string::npos ? bytes_ : bytes_.substr(last + 1);
+}
+
+void IniText::OpenEndOf(std::string_view lastLine)
+{
+    std::string closed(lastLine);
+    closed += kLineBreak;
+    const bool isLast =
+        bytes_.ends_with(closed) &&
+        (bytes_.size() == closed.size() || bytes_[bytes_.size() - closed.size() - 1] == '\n' ||
+         bytes_[bytes_.size() - closed.size() - 1] == '\r');
+    if (isLast)
+        bytes_.resize(bytes_.size() - kLineBreak.size());
+}
+
 void IniText::Insert(std::size_t at, std::string text)
 {
     if (at > 0 && bytes_[at - 1] != '\n' && bytes_[at - 1] != '\r')
@@ -119,6 +145,12 @@ void IniText::SetValue(std::string_view section, std::string_view name, std::str
         line = LineAt(line.next);
     } while (line.begin < bytes_.size() && !IsSectionLine(TextOf(line)));
     Insert(at, text + std::string(kLineBreak));
+}
+
+void IniText::SetLine(std::string_view section, std::string_view name, std::string_view text)
+{
+    if (const auto line = FindValue(section, name))
+        bytes_.replace(line->begin, line->end - line->begin, text);
 }
 
 void IniText::RemoveValue(std::string_view section, std::string_view name)

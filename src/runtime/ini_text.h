@@ -20,14 +20,22 @@ public:
     bool HasSection(std::string_view section) const;
     /// Without the blanks round it.
     std::optional<std::string> Value(std::string_view section, std::string_view name) const;
+    /// The whole line of a value, with its blanks, but without the line break.
+    std::optional<std::string> LineOf(std::string_view section, std::string_view name) const;
+    /// The last line where no line break stands behind it; else nothing.
+    std::string OpenLastLine() const;
 
     /// An empty section is made at the end of the file where it is missing.
     void MakeSection(std::string_view section);
     /// Replaces the value, or adds it behind the last value of its section.
     void SetValue(std::string_view section, std::string_view name, std::string_view value);
+    /// Replaces the line of a value that there is.
+    void SetLine(std::string_view section, std::string_view name, std::string_view line);
     void RemoveValue(std::string_view section, std::string_view name);
     /// Removes the section's line if the section holds nothing but blank lines.
     void RemoveEmptySection(std::string_view section);
+    /// Takes the line break away that stands behind the last line, if that is this line.
+    void OpenEndOf(std::string_view lastLine);
 
 private:
     struct Line {

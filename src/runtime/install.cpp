@@ -92,15 +92,15 @@ void Installation::OpenRecord()
     FileSystem& files = input_.host.files;
     if (files.FileExists(path)) {
         record_.TakeOver(
-            ReadInstallLog(ReadWholeFile(files, path)).value_or(std::vector<LogRecord>{}));
+            ReadInstallLog(ReadWholeFile(files, path)).value_or(std::vector<JournalRecord>{}));
         changes_.RemoveFile(path);
     }
     ShareMainFolder();
-    record_.Add(RecordKind::Product, {input_.setup.project.ProjectName.ProjectName});
+    record_.Add(record::Product{input_.setup.project.ProjectName.ProjectName});
     for (const Message message :
          {Message::UninstallTitle, Message::UninstallQuestion, Message::UninstallRunning,
           Message::UninstallDone, Message::UninstallPartly})
-        record_.Add(RecordKind::Message, {Text(KeyOf(message).key), input_.texts[message]});
+        record_.Add(record::Message{KeyOf(message).key, input_.texts[message]});
     changes_.MakeUnrecordedFile(path);
     record_.Open(files, path);
 }
@@ -112,10 +112,10 @@ void Installation::ShareMainFolder()
     const Text inside = LowerCase(input_.plan.mainFolder) + "\\";
     for (const Text& log : InstallLogsIn(input_.host.files, input_.plan.mainFolder)) {
         const auto records = ReadInstallLog(ReadWholeFile(input_.host.files, log));
-        for (const LogRecord& record : records.value_or(std::vector<LogRecord>{}))
-            if (record.kind == RecordKind::Folder &&
-                inside.starts_with(LowerCase(record.fields[0]) + "\\"))
-                record_.Add(RecordKind::Folder, record.fields);
+        for (const JournalRecord& record : records.value_or(std::vector<JournalRecord>{}))
+            if (const auto* const folder = std::get_if<record::Folder>(&record);
+                folder && inside.starts_with(LowerCase(folder->path) + "\\"))
+                record_.Add(*folder);
     }
 }
 
@@ -144,7 +144,6 @@ void Installation::WriteRegistry()
 void Installation::WriteRegistryLine(const RegistryLine& line)
 {
     using Kind = RegistryLine::Kind;
-    const Text root = RootName(line.key.root);
     const Text name = KeyText(line.key) + (line.hasValue ? " :: " + line.valueName : "");
     switch (line.kind) {
     case Kind::Key:
@@ -168,9 +167,9 @@ void Installation::WriteRegistryLine(const RegistryLine& line)
         return;
     case Kind::Uninstall:
         if (line.hasValue)
-            record_.Add(RecordKind::UninstallValue, {root, line.key.subKey, line.valueName});
+            record_.Add(record::UninstallValue{line.key, line.valueName});
         else
-            record_.Add(RecordKind::UninstallKey, {root, line.key.subKey});
+            record_.Add(record::UninstallKey{line.key});
         return;
     case Kind::Unreadable:
         return;
@@ -217,7 +216,7 @@ void Installation::RegisterAtRestart()
                           "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"};
     const Text name = "QNXREG2 " + input_.setup.project.ProjectName.ProjectName;
     for (std::size_t i = 0; i < paths.size(); ++i) {
-        record_.Add(RecordKind::Registered, {paths[i]});
+        record_.Add(record::Registered{paths[i]});
         changes_.WriteValue(key, name + (i == 0 ? "" : " " + NumberText(std::int64_t(i) + 1)),
                             TextData("\"" + helper + "\" \"" + paths[i] + "\""));
     }

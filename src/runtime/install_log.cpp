@@ -2,112 +2,32 @@
 
 #include "helpers/windows_path.h"
 #include "platform/whole_file.h"
-#include "runtime/registry_lines.h"
-
-#include <algorithm>
+#include "runtime/journal_table.h"
 
 namespace quillon {
 
 namespace {
 
-constexpr std::string_view kFirstLine = "Quillon installationslogg 1\r\n";
-constexpr std::string_view kEscaped = "%\t\r\n";
+constexpr const char* kFirstLine = "Quillon installationslogg 2";
+constexpr const char* kFirstLineOfFormat1 = "Quillon installationslogg 1";
 
-struct Word {
-    const char* word;
-    std::size_t fields;
-};
-
-// In the order of RecordKind.
-constexpr Word kWords[] = {
-    {"PRODUCT", 1},        {"MESSAGE", 2}, {"FOLDER", 1},     {"FILE", 1},
-    {"REPLACED", 1},       {"BACKUP", 2},  {"SHARED", 1},     {"FONT", 1},
-    {"REGISTERED", 1},     {"KEY", 2},     {"VALUE", 7},      {"UNINSTALLKEY", 2},
-    {"UNINSTALLVALUE", 3}, {"INIFILE", 1}, {"INISECTION", 2}, {"INIVALUE", 6},
-};
-static_assert(std::size(kWords) == std::size_t(RecordKind::Count));
-
-Text Escape(const Text& field)
+// Format 1 kept an INI file's former value without the line that it stood in.
+void MakeLineOfValue(JournalRecord& record)
 {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    Text escaped;
-    for (const char c : field) {
-        if (kEscaped.find(c) == Text::npos) {
-            escaped += c;
-            continue;
-        }
-        escaped += '%';
-        escaped += kDigits[static_cast<unsigned char>(c) >> 4U];
-        escaped += kDigits[static_cast<unsigned char>(c) & 15U];
-    }
-    return escaped;
-}
-
-Text Unescape(std::string_view field)
-{
-    Text text(field);
-    for (const char c : {'\t', '\r', '\n', '%'})
-        text = ReplaceAll(text, Escape(Text(1, c)), std::string_view(&c, 1));
-    return text;
-}
-
-bool NamesRegistry(RecordKind kind)
-{
-    return kind == RecordKind::Key || kind == RecordKind::Value ||
-           kind == RecordKind::UninstallKey || kind == RecordKind::UninstallValue;
-}
-
-bool IsSound(const LogRecord& record)
-{
-    if (!NamesRegistry(record.kind))
-        return true;
-    const auto root = RootNamed(record.fields[0]);
-    const bool isWholeKey = record.kind == RecordKind::UninstallKey;
-    return root && !(isWholeKey && IsSystemKey({*root, record.fields[1]}));
+    if (auto* const ini = std::get_if<record::IniValue>(&record); ini && ini->formerLine)
+        ini->formerLine = ini->name + "=" + *ini->formerLine;
 }
 
 } // namespace
 
-Text LogRecordLine(const LogRecord& record)
+std::optional<std::vector<JournalRecord>> ReadInstallLog(std::string_view bytes)
 {
-    Text line = kWords[std::size_t(record.kind)].word;
-    for (const Text& field : record.fields)
-        line += "\t" + Escape(field);
-    return line;
-}
-
-std::optional<LogRecord> ReadLogRecord(std::string_view line)
-{
-    std::vector<Text> parts;
-    for (std::size_t at = 0; at <= line.size();) {
-        const std::size_t end = std::min(line.find('\t', at), line.size());
-        parts.push_back(Unescape(line.substr(at, end - at)));
-        at = end + 1;
-    }
-    for (std::size_t kind = 0; kind < std::size(kWords); ++kind) {
-        if (parts[0] != kWords[kind].word || parts.size() != kWords[kind].fields + 1)
-            continue;
-        const LogRecord record{RecordKind(kind), {parts.begin() + 1, parts.end()}};
-        return IsSound(record) ? std::optional(record) : std::nullopt;
-    }
-    return std::nullopt;
-}
-
-std::optional<std::vector<LogRecord>> ReadInstallLog(std::string_view bytes)
-{
-    if (bytes.substr(0, kFirstLine.size()) != kFirstLine)
-        return std::nullopt;
-    std::vector<LogRecord> records;
-    for (std::size_t at = kFirstLine.size(); at < bytes.size();) {
-        const std::size_t end = bytes.find(kLineBreak, at);
-        if (end == Text::npos)
-            break;
-        auto record = ReadLogRecord(bytes.substr(at, end - at));
-        if (!record)
-            return std::nullopt;
-        records.push_back(std::move(*record));
-        at = end + kLineBreak.size();
-    }
+    if (auto records = ReadJournal(bytes, kFirstLine))
+        return records;
+    auto records = ReadJournal(bytes, kFirstLineOfFormat1);
+    if (records)
+        for (JournalRecord& record : *records)
+            MakeLineOfValue(record);
     return records;
 }
 
@@ -127,17 +47,18 @@ std::vector<Text> InstallLogsIn(const FileSystem& files, const Text& mainFolder)
 std::optional<Text> ProductOfLog(const FileSystem& files, const Text& path)
 {
     const auto records = ReadInstallLog(ReadWholeFile(files, path));
-    for (const LogRecord& record : records.value_or(std::vector<LogRecord>{}))
-        if (record.kind == RecordKind::Product)
-            return record.fields[0];
+    for (const JournalRecord& record : records.value_or(std::vector<JournalRecord>{}))
+        if (const auto* const product = std::get_if<record::Product>(&record))
+            return product->name;
     return std::nullopt;
 }
 
 void InstallLog::Open(FileSystem& files, const Text& path)
 {
     file_ = files.OpenOutput(path);
-    file_->Write(std::as_bytes(std::span(kFirstLine)));
-    for (const LogRecord& record : records_)
+    const Text head = kFirstLine + Text(kLineBreak);
+    file_->Write(std::as_bytes(std::span(head)));
+    for (const JournalRecord& record : records_)
         Write(record);
 }
 
@@ -148,29 +69,36 @@ void InstallLog::Close()
         file->Close();
 }
 
-void InstallLog::Add(RecordKind kind, std::vector<Text> fields)
+void InstallLog::Add(JournalRecord record)
 {
-    records_.push_back({kind, std::move(fields)});
+    NoteShared(record);
+    records_.push_back(std::move(record));
     if (file_)
         Write(records_.back());
 }
 
-bool InstallLog::Has(RecordKind kind, std::string_view path) const
+bool InstallLog::HasShared(std::string_view path) const
 {
-    return std::any_of(records_.begin(), records_.end(), [&](const LogRecord& record) {
-        return record.kind == kind && EqualIgnoreCase(record.fields[0], path);
-    });
+    return shared_.count(LowerCase(path)) > 0;
 }
 
-void InstallLog::TakeOver(std::vector<LogRecord> earlier)
+void InstallLog::TakeOver(std::vector<JournalRecord> earlier)
 {
+    for (const JournalRecord& record : earlier)
+        NoteShared(record);
     records_.insert(records_.begin(), std::make_move_iterator(earlier.begin()),
                     std::make_move_iterator(earlier.end()));
 }
 
-void InstallLog::Write(const LogRecord& record)
+void InstallLog::NoteShared(const JournalRecord& record)
 {
-    const Text line = LogRecordLine(record) + Text(kLineBreak);
+    if (const auto* const shared = std::get_if<record::Shared>(&record))
+        shared_.insert(LowerCase(shared->path));
+}
+
+void InstallLog::Write(const JournalRecord& record)
+{
+    const Text line = JournalLine(record) + Text(kLineBreak);
     file_->Write(std::as_bytes(std::span(line)));
 }
 

@@ -1,6 +1,5 @@
 #include "runtime/uninstall.h"
 
-#include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
@@ -26,11 +25,28 @@ public:
 
 private:
     void TakeBack(std::size_t index);
+    void TakeBack(const record::File& file) { RemoveFile(file.path); }
+    void TakeBack(const record::Backup& backup) { RestoreBackup(backup.path, backup.kept); }
+    void TakeBack(const record::Shared& shared) { ReleaseShared(shared.path); }
+    void TakeBack(const record::Font& font);
+    void TakeBack(const record::Registered& registered);
+    void TakeBack(const record::Key& key) { RemoveKeyIfEmpty(key.key); }
+    void TakeBack(const record::Value& value);
+    void TakeBack(const record::UninstallKey& key) { RemoveKeyWithAllBelow(key.key); }
+    void TakeBack(const record::UninstallValue& value) { RemoveValue(value.key, value.name); }
+    void TakeBack(const record::IniFile& change) { TakeBackIniChange(files_, change); }
+    void TakeBack(const record::IniOpenEnd& change) { TakeBackIniChange(files_, change); }
+    void TakeBack(const record::IniSection& change) { TakeBackIniChange(files_, change); }
+    void TakeBack(const record::IniValue& change) { TakeBackIniChange(files_, change); }
+    // What tells of the product or belongs to the installation alone. All folders go last.
+    template <class Record>
+    void TakeBack(const Record&)
+    {
+    }
     void RemoveFile(const Text& path);
     void RemoveReplaced(std::size_t index);
     void RestoreBackup(const Text& path, const Text& backup);
     void ReleaseShared(const Text& path);
-    void TakeBackValue(const std::vector<Text>& fields);
     void RemoveValue(const RegistryKey& key, const Text& name);
     void RemoveKeyIfEmpty(const RegistryKey& key);
     void RemoveKeyWithAllBelow(const RegistryKey& key);
@@ -39,16 +55,12 @@ private:
     bool IsStillShared(const Text& path) const;
     bool IsKeptInWindows(std::size_t index) const;
     bool StaysBehind(const Text& path) const;
-    RegistryKey KeyOfRecord(const std::vector<Text>& fields) const
-    {
-        return {RootNamed(fields[0]).value_or(RegistryRoot::CurrentUser), fields[1]};
-    }
     template <class Work>
     void Attempt(const Text& what, Work work);
 
     const UninstallInput& input_;
     FileSystem& files_;
-    const std::vector<LogRecord>& records_;
+    const std::vector<JournalRecord>& records_;
     std::vector<Text> stillShared_;
     bool partly_ = false;
 };
@@ -69,8 +81,7 @@ ExitCode Uninstallation::Run()
 {
     input_.ask.AddStatusLine(input_.product.texts[Message::UninstallRunning]);
     for (std::size_t left = records_.size(); left > 0; --left) {
-        const LogRecord& record = records_[left - 1];
-        Attempt(record.fields[0], [&] { TakeBack(left - 1); });
+        Attempt(SubjectOf(records_[left - 1]), [&] { TakeBack(left - 1); });
         input_.ask.ShowProgress(records_.size() - left + 1, records_.size());
     }
     Attempt(input_.logPath, [&] { RemoveUninstaller(); });
@@ -80,42 +91,22 @@ ExitCode Uninstallation::Run()
 
 void Uninstallation::TakeBack(std::size_t index)
 {
-    const std::vector<Text>& fields = records_[index].fields;
-    switch (records_[index].kind) {
-    case RecordKind::File:
-        return RemoveFile(fields[0]);
-    case RecordKind::Replaced:
-        return RemoveReplaced(index);
-    case RecordKind::Backup:
-        return RestoreBackup(fields[0], fields[1]);
-    case RecordKind::Shared:
-        return ReleaseShared(fields[0]);
-    case RecordKind::Font:
-        if (!StaysBehind(fields[0]))
-            input_.target.AnnounceFont(fields[0], false);
-        return;
-    case RecordKind::Registered:
-        if (files_.FileExists(fields[0]) && !StaysBehind(fields[0]))
-            input_.target.RegisterServer(fields[0], false);
-        return;
-    case RecordKind::Key:
-        return RemoveKeyIfEmpty(KeyOfRecord(fields));
-    case RecordKind::Value:
-        return TakeBackValue(fields);
-    case RecordKind::UninstallKey:
-        return RemoveKeyWithAllBelow(KeyOfRecord(fields));
-    case RecordKind::UninstallValue:
-        return RemoveValue(KeyOfRecord(fields), fields[2]);
-    case RecordKind::IniFile:
-    case RecordKind::IniSection:
-    case RecordKind::IniValue:
-        return TakeBackIniChange(files_, records_[index]);
-    case RecordKind::Product:
-    case RecordKind::Message:
-    case RecordKind::Folder: // all folders go last
-    case RecordKind::Count:
-        return;
-    }
+    if (std::holds_alternative<record::Replaced>(records_[index]))
+        RemoveReplaced(index);
+    else
+        std::visit([&](const auto& record) { TakeBack(record); }, records_[index]);
+}
+
+void Uninstallation::TakeBack(const record::Font& font)
+{
+    if (!StaysBehind(font.path))
+        input_.target.AnnounceFont(font.path, false);
+}
+
+void Uninstallation::TakeBack(const record::Registered& registered)
+{
+    if (files_.FileExists(registered.path) && !StaysBehind(registered.path))
+        input_.target.RegisterServer(registered.path, false);
 }
 
 bool Uninstallation::IsStillShared(const Text& path) const
@@ -144,17 +135,18 @@ void Uninstallation::RemoveFile(const Text& path)
 // A file that was in the Windows folder before us, and of which there is no backup.
 bool Uninstallation::IsKeptInWindows(std::size_t index) const
 {
-    const Text& path = records_[index].fields[0];
-    const bool comesBack = index > 0 && records_[index - 1].kind == RecordKind::Backup &&
-                           EqualIgnoreCase(records_[index - 1].fields[0], path) &&
-                           files_.FileExists(records_[index - 1].fields[1]);
+    const Text path = SubjectOf(records_[index]);
+    const auto* const backup =
+        index > 0 ? std::get_if<record::Backup>(&records_[index - 1]) : nullptr;
+    const bool comesBack =
+        backup && EqualIgnoreCase(backup->path, path) && files_.FileExists(backup->kept);
     const Text windows = LowerCase(input_.host.machine.GetWindowsDir()) + "\\";
     return !comesBack && LowerCase(path).compare(0, windows.size(), windows) == 0;
 }
 
 void Uninstallation::RemoveReplaced(std::size_t index)
 {
-    const Text& path = records_[index].fields[0];
+    const Text path = SubjectOf(records_[index]);
     if (IsKeptInWindows(index))
         input_.log.Skipped(path, "filen fanns i Windows redan före installationen");
     else
@@ -167,14 +159,14 @@ bool Uninstallation::StaysBehind(const Text& path) const
     const std::uint32_t users = CountOfUsers(input_.target, path).value_or(0);
     bool goes = false;
     for (std::size_t i = 0; i < records_.size(); ++i) {
-        const LogRecord& record = records_[i];
-        if (!EqualIgnoreCase(record.fields[0], path))
+        const JournalRecord& record = records_[i];
+        if (!EqualIgnoreCase(SubjectOf(record), path))
             continue;
-        const bool isShared = record.kind == RecordKind::Shared;
+        const bool isShared = std::holds_alternative<record::Shared>(record);
         if (isShared && users > 1)
             return true;
-        goes = goes || record.kind == RecordKind::File || (isShared && users == 1) ||
-               (record.kind == RecordKind::Replaced && !IsKeptInWindows(i));
+        goes = goes || std::holds_alternative<record::File>(record) || (isShared && users == 1) ||
+               (std::holds_alternative<record::Replaced>(record) && !IsKeptInWindows(i));
     }
     return !goes;
 }
@@ -203,24 +195,18 @@ void Uninstallation::ReleaseShared(const Text& path)
     RemoveFile(path);
 }
 
-void Uninstallation::TakeBackValue(const std::vector<Text>& fields)
+void Uninstallation::TakeBack(const record::Value& value)
 {
-    const RegistryKey key = KeyOfRecord(fields);
-    const Text& name = fields[2];
-    const auto present = input_.target.ReadValue(key, name);
+    const auto present = input_.target.ReadValue(value.key, value.name);
     if (!present)
         return;
-    const bool hadFormer = !fields[5].empty();
-    const RegistryData ours{std::uint32_t(LeadingNumber(fields[3])),
-                            BytesOfHex(fields[4]).value_or("")};
-    if (!hadFormer)
-        RemoveValue(key, name);
-    else if (*present == ours)
-        input_.target.WriteValue(
-            key, name,
-            {std::uint32_t(LeadingNumber(fields[5])), BytesOfHex(fields[6]).value_or("")});
+    if (!value.former)
+        RemoveValue(value.key, value.name);
+    else if (*present == value.data)
+        input_.target.WriteValue(value.key, value.name, *value.former);
     else
-        input_.log.Skipped(KeyText(key) + " :: " + name, "värdet har ändrats efter installationen");
+        input_.log.Skipped(KeyText(value.key) + " :: " + value.name,
+                           "värdet har ändrats efter installationen");
 }
 
 void Uninstallation::RemoveValue(const RegistryKey& key, const Text& name)
@@ -264,9 +250,9 @@ void Uninstallation::RemoveUninstaller()
 void Uninstallation::RemoveFolders()
 {
     for (auto record = records_.rbegin(); record != records_.rend(); ++record) {
-        if (record->kind != RecordKind::Folder)
+        if (!std::holds_alternative<record::Folder>(*record))
             continue;
-        const Text& folder = record->fields[0];
+        const Text& folder = std::get<record::Folder>(*record).path;
         Attempt(folder, [&] {
             if (!files_.DirExists(folder))
                 return;
@@ -290,14 +276,13 @@ std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, co
     if (!records)
         return std::nullopt;
     InstalledProduct product;
-    for (const LogRecord& record : *records) {
-        if (record.kind == RecordKind::Product)
-            product.name = record.fields[0];
-        if (record.kind != RecordKind::Message)
-            continue;
-        for (int i = int(Message::UninstallTitle); i < int(Message::Count); ++i)
-            if (record.fields[0] == KeyOf(Message(i)).key)
-                product.texts.Set(Message(i), record.fields[1]);
+    for (const JournalRecord& record : *records) {
+        if (const auto* const named = std::get_if<record::Product>(&record))
+            product.name = named->name;
+        const auto* const message = std::get_if<record::Message>(&record);
+        for (int i = int(Message::UninstallTitle); message && i < int(Message::Count); ++i)
+            if (message->key == KeyOf(Message(i)).key)
+                product.texts.Set(Message(i), message->text);
     }
     product.records = std::move(*records);
     return product;

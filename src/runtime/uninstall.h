@@ -23,7 +23,7 @@ namespace quillon {
 struct InstalledProduct {
     Text name;
     LanguageTexts texts; // with what the installation was told to show
-    std::vector<LogRecord> records;
+    std::vector<JournalRecord> records;
 };
 
 /// Nothing where the file is missing or no log.

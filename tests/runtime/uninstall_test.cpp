@@ -191,8 +191,7 @@ TEST_F(UninstallTest, LosesNoLineOfAnIniFileOnAFullDisk)
     memory.files.Put(path, "[S]\r\nannat=1\r\n");
     project.Lists.INIFiles = "-- A.INI --\r\n[S]\r\nx=1";
     ASSERT_EQ(Install(), ExitCode::Done);
-    const auto record = ReadLogRecord("INIVALUE\tC:\\WINDOWS\\A.INI\tS\tx\t1\t\t");
-    ASSERT_TRUE(record);
+    const record::IniValue record{path, "S", "x", "1", std::nullopt};
     int change = 0;
     for (const int failAt : {1, 2, 3, 4}) {
         change = 0;
@@ -200,13 +199,47 @@ TEST_F(UninstallTest, LosesNoLineOfAnIniFileOnAFullDisk)
             if (++change == failAt)
                 throw RunError(ErrorNumber::kDiskFull, "full");
         };
-        EXPECT_THROW(TakeBackIniChange(files, *record), RunError) << failAt;
+        EXPECT_THROW(TakeBackIniChange(files, record), RunError) << failAt;
         EXPECT_EQ(memory.files.Get(path), "[S]\r\nannat=1\r\nx=1\r\n") << failAt;
-        EXPECT_FALSE(memory.files.FileExists("C:\\WINDOWS\\~qn1.tmp")) << failAt;
+        EXPECT_FALSE(memory.files.FileExists("C:\\WINDOWS\\~qn-A.INI.tmp")) << failAt;
     }
     files.beforeChange = [] {};
-    TakeBackIniChange(files, *record);
+    TakeBackIniChange(files, record);
     EXPECT_EQ(memory.files.Get(path), "[S]\r\nannat=1\r\n");
+}
+
+class IniFileOfOthers : public UninstallTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(IniFileOfOthers, ComesBackByteForByte)
+{
+    const Text path = "C:\\WINDOWS\\A.INI";
+    memory.files.Put(path, GetParam());
+    const Text list = "-- A.INI --\r\n[S]\r\nx=2\r\nny=3\r\n[T]\r\nz=4";
+    for (const int installations : {1, 2}) {
+        for (int i = 0; i < installations; ++i) {
+            project.Lists.INIFiles = ReplaceAll(list, "x=2", "x=" + NumberText(i + 2));
+            ASSERT_EQ(Install(), ExitCode::Done);
+        }
+        EXPECT_NE(memory.files.Get(path), GetParam());
+        EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+        EXPECT_EQ(memory.files.Get(path), GetParam()) << installations;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, IniFileOfOthers,
+                         testing::Values("[S]\r\n x = 1 \r\n", "[S]\r\n x = 1 ", "[S]", "x",
+                                         "[S]\n\tX\t=\t\n; slut", "[T]\r\nz=0\r\n\r\n[S]\r\nx=1",
+                                         "[S]\r\nx=\xE5\xE4 \x81\r\n[U]\r\n\r\n"));
+
+TEST_F(UninstallTest, LeavesTheEndOfAnIniFileThatOthersHaveWrittenTo)
+{
+    const Text path = "C:\\WINDOWS\\A.INI";
+    memory.files.Put(path, "[S]\r\ny=1");
+    project.Lists.INIFiles = "-- A.INI --\r\n[S]\r\nx=2";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    memory.files.Put(path, memory.files.Get(path) + "annans=1\r\n");
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(memory.files.Get(path), "[S]\r\ny=1\r\nannans=1\r\n");
 }
 
 TEST_F(UninstallTest, ShowsTheTextsOfTheInstallation)
