@@ -13,6 +13,8 @@ struct SurfacePlace {
     Long Top = 0;
     Long Width = 0;
     Long Height = 0;
+
+    bool operator==(const SurfacePlace&) const = default;
 };
 
 /// What the tab's row of captions takes of the height that `PlaceDesignArea` reckons with.

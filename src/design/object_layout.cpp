@@ -1,0 +1,240 @@
+#include "design/object_layout.h"
+
+#include "helpers/number_text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace quillon {
+
+namespace {
+
+// What an oversized picture leaves free of the surface.
+constexpr Long kOversizeMargin = 30;
+// Where the logotype stands from the left, from the right and from below.
+constexpr Long kLogotypeSide = 380;
+constexpr Long kLogotypeBelow = 200;
+// A refused logotype's place.
+constexpr Long kNoLogotype = 10;
+constexpr Colour kDarkGrey = 0x1F1F1F;
+// The text of a text box: from its sides, below its heading, above its lower edge.
+constexpr Long kTextSide = 60;
+constexpr Long kBelowHeading = 210;
+constexpr Long kAboveEdge = 30;
+// What the frame of a text box takes of its height.
+constexpr Long kTextBoxFrame = 15;
+constexpr Integer kAtTheLeft = 1;
+
+Long Half(Long twips)
+{
+    return static_cast<Long>(RoundToEven(double(twips) / 2));
+}
+
+void LayOutPicture(section::DesPicture& picture, PictureBox& box, ScreenMetrics screen,
+                   const MeasurePicture& measure)
+{
+    const bool hasFile = !picture.PictureFilename.empty();
+    box.isStretched = picture.StretchPicture != kOff;
+    if (hasFile) {
+        const PixelSize size = measure(picture.PictureFilename);
+        if (!box.isStretched) {
+            box.place.Width = size.width * screen.TPPX;
+            box.place.Height = size.height * screen.TPPY;
+            picture.PictureWidth = StoredPosition(size.width);
+            picture.PictureHeight = StoredPosition(size.height);
+        }
+    }
+    if (box.isStretched) {
+        box.place.Width = picture.PictureWidth * screen.TPPX;
+        box.place.Height = picture.PictureHeight * screen.TPPY;
+    }
+    box.isVisible = hasFile;
+    box.place.Left = picture.PictureXPos;
+    box.place.Top = picture.PictureYPos;
+}
+
+void StretchOversized(section::DesPicture& picture, PictureBox& box, const SurfacePlace& surface)
+{
+    if (surface.Width <= box.place.Width) {
+        picture.StretchPicture = kOn;
+        box.place.Width = surface.Width - kOversizeMargin;
+    }
+    if (surface.Height <= box.place.Height) {
+        picture.StretchPicture = kOn;
+        box.place.Height = surface.Height - kOversizeMargin;
+    }
+    box.isStretched = picture.StretchPicture != kOff;
+}
+
+PixelSize LogotypeSize(const section::DesLogotype& record, const MeasurePicture& measure)
+{
+    const PixelSize own = measure(record.LogotypeFilename);
+    if (IsMetafileName(record.LogotypeFilename))
+        return {record.LogotypeWMFWidth, record.LogotypeWMFHeight};
+    return own;
+}
+
+bool IsLogotypeTooLarge(const SurfacePlace& logotype, const SurfacePlace& surface)
+{
+    return surface.Width <= logotype.Width || surface.Height <= logotype.Height;
+}
+
+void RefuseLogotype(section::DesLogotype& record, LogotypeBox& box, Ask& ask)
+{
+    box.isVisible = false;
+    record.LogotypeFilename.clear();
+    ask.Critical("Kan ej lägga in bilden",
+                 "Logotype-bildens bredd och höjd är för stor! Välj en bild som har mindre "
+                 "dimensioner. Logotype-bildens mått får inte vara större än design-editorns "
+                 "fönster.");
+    box.place.Width = kNoLogotype;
+    box.place.Height = kNoLogotype;
+}
+
+SurfacePlace InsideSurface(SurfacePlace box, const SurfacePlace& surface, ScreenMetrics screen)
+{
+    box.Left = std::max(ClampDesX(surface, screen, box.Left, box.Width), surface.Left);
+    box.Top = ClampDesY(surface, screen, box.Top, box.Height);
+    return box;
+}
+
+// Kept: the middle is reckoned from the page's edge, as if the surface began there.
+Long CentredLeft(Long surfaceWidth, Long boxWidth)
+{
+    return std::max<Long>(Half(surfaceWidth) - Half(boxWidth), 0);
+}
+
+void LayOutLabels(TextBoxLayout& layout, Long headingHeight)
+{
+    layout.title = {.Left = 0, .Top = 0, .Width = layout.box.Width, .Height = headingHeight};
+    layout.text.Left = kTextSide;
+    layout.text.Width = layout.box.Width - 2 * kTextSide;
+    layout.text.Top = layout.title.Top + headingHeight + kBelowHeading;
+    layout.text.Height = std::max<Long>(layout.box.Height - layout.text.Top - kAboveEdge, 0);
+}
+
+} // namespace
+
+Long PixelsOf(Long twips, Long twipsPerPixel)
+{
+    return static_cast<Long>(RoundToEven(double(twips) / twipsPerPixel));
+}
+
+Integer StoredPosition(Long twips)
+{
+    using Limits = std::numeric_limits<Integer>;
+    return static_cast<Integer>(std::clamp<Long>(twips, Limits::min(), Limits::max()));
+}
+
+Long ClampDesX(const SurfacePlace& surface, ScreenMetrics screen, Long x, Long w)
+{
+    if (surface.Left > x)
+        return surface.Left;
+    const Long right = surface.Left + surface.Width - screen.TPPX;
+    return right < x + w ? right - w : x;
+}
+
+Long ClampDesY(const SurfacePlace& surface, ScreenMetrics screen, Long y, Long h)
+{
+    if (surface.Top >= y)
+        return surface.Top + screen.TPPY;
+    const Long bottom = surface.Top + surface.Height - screen.TPPY;
+    return bottom < y + h ? bottom - h : y;
+}
+
+void LayOutPictures(section::DesPictures& record, PictureBoxes& boxes, SurfacePlace& surface,
+                    ScreenMetrics screen, const MeasurePicture& measure)
+{
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        LayOutPicture(record.Pictures[i], boxes[i], screen, measure);
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        StretchOversized(record.Pictures[i], boxes[i], surface);
+    KeepPicturesInsideDesign(record, boxes, surface, screen);
+}
+
+void KeepPicturesInsideDesign(section::DesPictures& record, PictureBoxes& boxes,
+                              SurfacePlace& surface, ScreenMetrics screen)
+{
+    for (Long* edge : {&surface.Left, &surface.Top, &surface.Height, &surface.Width})
+        *edge = std::max<Long>(*edge, 0);
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        SurfacePlace& place = boxes[i].place;
+        place.Left = ClampDesX(surface, screen, place.Left, place.Width);
+        place.Top = ClampDesY(surface, screen, place.Top, place.Height);
+        record.Pictures[i].PictureXPos = StoredPosition(place.Left);
+        record.Pictures[i].PictureYPos = StoredPosition(place.Top);
+    }
+}
+
+ShownBox LayOutPicturesAnim(const section::DesPicturesAnim& record, ScreenMetrics screen)
+{
+    return {.place = {.Left = record.PictureXPos,
+                      .Top = record.PictureYPos,
+                      .Width = record.PictureWidth * screen.TPPX,
+                      .Height = record.PictureHeight * screen.TPPY},
+            .isVisible = record.NrAnimPictures > 0};
+}
+
+bool IsMetafileName(const Text& file)
+{
+    return ContainsText(LowerCase(file), ".wmf");
+}
+
+Colour LogotypeBackColor(const SurfacePaint& paint)
+{
+    if (paint.UsePicture)
+        return paint.ColorFrom;
+    return paint.ColorTo == 0 ? kDarkGrey : paint.ColorTo;
+}
+
+LogotypeBox LayOutLogotype(section::DesLogotype& record, const LogotypeSurround& surround,
+                           const MeasurePicture& measure, Ask& ask)
+{
+    LogotypeBox box;
+    if (record.LogotypeFilename.empty())
+        return box;
+    const PixelSize size = LogotypeSize(record, measure);
+    box.isMetafile = IsMetafileName(record.LogotypeFilename);
+    box.BackColor = LogotypeBackColor(surround.paint);
+    box.place.Width = size.width * surround.screen.TPPX;
+    box.place.Height = size.height * surround.screen.TPPY;
+    box.place.Left = record.LogotypeAlignment == kAtTheLeft
+                         ? kLogotypeSide
+                         : surround.tabWidth - box.place.Width - kLogotypeSide;
+    box.place.Top = surround.surface.Height - box.place.Height - kLogotypeBelow;
+    box.isVisible = true;
+    if (IsLogotypeTooLarge(box.place, surround.surface))
+        RefuseLogotype(record, box, ask);
+    return box;
+}
+
+TextBoxLayout LayOutTextBox(section::DesTextBox& record, const SurfacePlace& surface,
+                            ScreenMetrics screen, Long titleBottom, Long headingHeight)
+{
+    TextBoxLayout layout;
+    SurfacePlace& box = layout.box;
+    box.Width = record.BoxWidth * screen.TPPX;
+    box.Height = std::max<Long>(record.BoxHeight * screen.TPPY - kTextBoxFrame, 0);
+    box.Left = record.BoxCenter == kOff ? record.BoxXPos : CentredLeft(surface.Width, box.Width);
+    box.Top = record.BoxPlaceBelowTitle == kOff ? record.BoxYPos : titleBottom * screen.TPPY;
+    box = InsideSurface(box, surface, screen);
+    record.BoxXPos = StoredPosition(box.Left);
+    record.BoxYPos = StoredPosition(box.Top);
+    layout.isVisible = record.ShowTextBox != kOff;
+    LayOutLabels(layout, headingHeight);
+    return layout;
+}
+
+ShownBox LayOutRTFbox(section::DesRTFbox& record, const SurfacePlace& surface, ScreenMetrics screen)
+{
+    const SurfacePlace place{.Left = record.RTFboxXPos,
+                             .Top = record.RTFboxYPos,
+                             .Width = record.RTFboxWidth * screen.TPPX,
+                             .Height = record.RTFboxHeight * screen.TPPY};
+    const ShownBox box{InsideSurface(place, surface, screen), record.ShowRTFbox != kOff};
+    record.RTFboxXPos = StoredPosition(box.place.Left);
+    record.RTFboxYPos = StoredPosition(box.place.Top);
+    return box;
+}
+
+} // namespace quillon

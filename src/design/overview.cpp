@@ -1,0 +1,70 @@
+#include "design/overview.h"
+
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+struct DesignFile {
+    Text label;
+    Text path;
+};
+
+void AddChangingPictures(std::vector<DesignFile>& list, const section::DesPicturesAnim& pictures)
+{
+    const auto count = std::clamp<std::size_t>(
+        static_cast<std::size_t>(std::max<Integer>(pictures.NrAnimPictures, 0)), 0,
+        pictures.P.size());
+    for (std::size_t i = 0; i < count; ++i)
+        list.push_back({"Växl. Bild " + NumberText(std::int64_t(i) + 1), pictures.P[i]});
+}
+
+std::vector<DesignFile> DesignFiles(const Project& project, const Text& toolFolder)
+{
+    std::vector<DesignFile> list;
+    const section::DesRTFbox& box = project.DesRTFbox;
+    if (!box.RTFfilename.empty() && box.ShowRTFbox != kOff)
+        list.push_back({"RTF-ruta", RTFboxPath(toolFolder, box.RTFfilename)});
+    for (std::size_t i = 0; i < section::kDesPictureCount; ++i)
+        if (const Text& file = project.DesPictures.Pictures[i].PictureFilename; !file.empty())
+            list.push_back({"Bild " + NumberText(std::int64_t(i) + 1), file});
+    AddChangingPictures(list, project.DesPicturesAnim);
+    if (const Text& file = project.DesLogotype.LogotypeFilename; !file.empty())
+        list.push_back({"Logotype", file});
+    if (const Text& file = project.DesSound.BackSoundFilename; !file.empty())
+        list.push_back({"Ljud", file});
+    return list;
+}
+
+// The pattern's blanks are always printed, so a short number has some in front.
+Text SizeText(std::uint64_t bytes)
+{
+    const Text padded = FormatNumber(static_cast<double>(bytes), "### ### ###", ',');
+    return padded.substr(std::min(padded.find_first_not_of(' '), padded.size()));
+}
+
+} // namespace
+
+Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename)
+{
+    return JoinPath(JoinPath(toolFolder, "rtf"), RTFfilename);
+}
+
+std::vector<OverviewRow> DesOverview(const Project& project, const FileSystem& files,
+                                     const Text& toolFolder)
+{
+    std::vector<OverviewRow> rows;
+    try {
+        for (const auto& [label, path] : DesignFiles(project, toolFolder))
+            rows.push_back({label, ExtractFilename(path), SizeText(files.Facts(path).size)});
+    } catch (const RunError&) {
+        // the rows up to here are the list
+    }
+    return rows;
+}
+
+} // namespace quillon

@@ -1,0 +1,26 @@
+// The files that a design uses, as the overview lists them.
+#pragma once
+
+#include "platform/file_system.h"
+#include "project/records.h"
+
+#include <vector>
+
+namespace quillon {
+
+struct OverviewRow {
+    Text label;
+    Text file;
+    Text size; // bytes, in groups of three
+
+    bool operator==(const OverviewRow&) const = default;
+};
+
+/// Kept: a file that can't be measured ends the list without a word.
+std::vector<OverviewRow> DesOverview(const Project& project, const FileSystem& files,
+                                     const Text& toolFolder);
+
+/// Where the text of the RTF box is kept.
+Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename);
+
+} // namespace quillon
