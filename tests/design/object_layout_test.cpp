@@ -182,7 +182,7 @@ TEST_F(Pictures, AreMovedInsideASurfaceWhoseEdgesAreMadeWholeFirst)
     KeepPicturesInsideDesign(record_, boxes_, surface_, kScreen);
     EXPECT_EQ(surface_, (SurfacePlace{0, 0, 0, 0}));
     EXPECT_EQ(record_.Pictures[0].PictureXPos, -15);
-    EXPECT_EQ(record_.Pictures[0].PictureYPos, -15);
+    EXPECT_EQ(record_.Pictures[0].PictureYPos, 15);
 }
 
 TEST(LayOutPicturesAnim, ShowsTheRectangleOnlyWithPictures)
