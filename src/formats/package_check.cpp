@@ -1,6 +1,7 @@
 // The reading test of a finished package: every byte that the setup will want is looked at.
 #include "formats/package.h"
 
+#include "formats/row_safety.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 
@@ -73,6 +74,17 @@ void CheckLooseFile(const FileSystem& files, Package& package, std::size_t numbe
         faults.push_back(RowLabel(row) + failure + ".");
 }
 
+// What the setup would refuse to install, or what would lie outside the medium.
+void CheckNames(const Package& package, Faults& faults)
+{
+    const bool isTree = package.setup.project.Media.TargetMedia == Integer(Medium::CdTree);
+    for (const InstallRow& row : package.rows)
+        for (const Text& fault : {RowNameFaultText(row.name), DestinationFaultText(row.destination),
+                                  isTree ? SourceFolderFaultText(row.sourceFolder) : Text()})
+            if (!fault.empty())
+                faults.push_back("F" + NumberText(row.number) + ": " + fault);
+}
+
 void CheckRows(const FileSystem& files, Package& package, Faults& faults)
 {
     for (std::size_t i = 0; i < package.rows.size(); ++i) {
@@ -126,6 +138,7 @@ std::vector<Text> VerifyPackage(const FileSystem& files, Package& package)
 {
     Faults faults = package.faults;
     CheckCount(package, faults);
+    CheckNames(package, faults);
     CheckRows(files, package, faults);
     if (package.container)
         CheckEntries(*package.container, kFileContainerName,

@@ -219,6 +219,38 @@ TEST_F(CompressedPackage, TellsACountThatDisagrees)
     EXPECT_THAT(Verify(), ElementsAre("QNSETUP.INF anger 2 filer men FILELIST.INF har 1 rader."));
 }
 
+TEST_F(CompressedPackage, TellsRowsThatTheSetupRefuses)
+{
+    InstallRow climbing = FolderRow(1);
+    climbing.destination = "%DESTDIR\\..\\..\\Windows";
+    InstallRow streams = FolderRow(2);
+    streams.destination = "%DESTDIR\\a.txt:dold";
+    InstallRow unknown = FolderRow(3);
+    unknown.destination = "%DESTDR";
+    PutLists({climbing, streams, unknown, Row(4, "aux.txt", 3)});
+    PutFile("FILEDATA.DAT", MakeArchive({{"src/aux.txt", "F4", "abc"}}));
+    EXPECT_THAT(
+        Verify(),
+        ElementsAre(
+            "F1: Destinationen '%DESTDIR\\..\\..\\Windows' fungerar inte i Windows: '..' "
+            "får inte ingå.",
+            "F2: Destinationen '%DESTDIR\\a.txt:dold' fungerar inte i Windows: ett kolon får "
+            "bara stå efter enhetens bokstav.",
+            "F3: Destinationen '%DESTDR' fungerar inte i Windows: variabeln är okänd.",
+            "F4: Namnet 'aux.txt' fungerar inte i Windows: CON, PRN, AUX, NUL, COM1 till "
+            "COM9 och LPT1 till LPT9 är reserverade namn."));
+}
+
+TEST_F(TreePackage, TellsAFolderOutsideTheMedium)
+{
+    PutLists({Row(1, "a.txt", 3, "..\\hemligt")}, {.targetMedia = 3});
+    EXPECT_THAT(Verify(), testing::Contains("F1: Källkatalogen '..\\hemligt' fungerar inte i "
+                                            "Windows: '..' får inte ingå."));
+    PutLists({Row(1, "a.txt", 3, "..\\hemligt")});
+    PutFile("FILEDATA.DAT", MakeArchive({{"hemligt/a.txt", "F1", "abc"}}));
+    EXPECT_THAT(Verify(), IsEmpty()) << "a container does not go by it";
+}
+
 TEST_F(CompressedPackage, ReadsTheDesignContainerWhereThereIsOne)
 {
     PutLists({});
