@@ -69,7 +69,7 @@ void Changes::MakeFolder(const Text& folder)
     });
     if (!host_.files.DirCreate(folder))
         throw RunError(ErrorNumber::kPathFileAccess, folder);
-    log_.Line("Skapar mappen " + folder);
+    log_.Line(Message::LogMakesFolder, folder);
 }
 
 Text Changes::StagingPath(const Text& path)
@@ -136,7 +136,7 @@ void Changes::KeepBackup(const Text& path)
     record_.Add(record::Backup{path, backup});
     OnUndo([this, backup] { RemoveIfThere(backup); });
     host_.files.CopyContent(path, backup);
-    log_.Line("Säkerhetskopierar " + path + " till " + backup);
+    log_.Line(Message::LogBacksUp, path, backup);
 }
 
 void Changes::RemoveFile(const Text& path)
@@ -203,7 +203,7 @@ void Changes::MakeShortcut(const Text& path, const Shortcut& shortcut)
         PutAside(path);
     OnUndo([this, path] { RemoveIfThere(path); });
     target_.MakeShortcut(path, shortcut);
-    log_.Line("Skapar genvägen " + path);
+    log_.Line(Message::LogMakesShortcut, path);
 }
 
 Registration Changes::RegisterServer(const Text& path)
@@ -233,8 +233,10 @@ void Changes::Commit()
         if (RunErrorNumber([&] { RemoveIfThere(aside); }) == ErrorNumber::kNone)
             continue;
         // A running program still holds the file that it was started from.
-        if (RunErrorNumber([&] { target_.MoveAtRestart(aside, ""); }) != ErrorNumber::kNone)
-            log_.Line("Kan inte ta bort " + aside);
+        std::optional<RunError> failure;
+        RunErrorNumber([&] { target_.MoveAtRestart(aside, ""); }, failure);
+        if (failure)
+            log_.CannotRemove(aside, *failure);
     }
     putAside_.clear();
 }
@@ -247,7 +249,7 @@ bool Changes::Undo()
             undo_.back()();
         } catch (const std::exception& error) { // whatever it is, the steps before it have to go on
             whole = false;
-            log_.Line(Text("Kan inte återställa: ") + error.what());
+            log_.CannotUndo(error);
         }
     }
     putAside_.clear();

@@ -8,9 +8,9 @@ namespace quillon {
 
 namespace {
 
-CopyDecision Keep(Text reason)
+CopyDecision Keep(Message why, Text inserted = {})
 {
-    return {CopyVerdict::Keep, std::move(reason)};
+    return {CopyVerdict::Keep, Reason{why, std::move(inserted)}};
 }
 
 // Takes the first number off a version.
@@ -28,13 +28,12 @@ std::optional<CopyDecision> DecideByVersion(std::string_view options, const Comp
     if (existing.version.empty())
         return std::nullopt;
     if (ours.version.empty())
-        return Keep("den befintliga filen har version " + existing.version +
-                    ", den nya saknar version");
+        return Keep(Message::SkipNoVersion, existing.version);
     const int order = CompareVersions(existing.version, ours.version);
     if (order > 0)
-        return Keep("den befintliga filen har nyare version (" + existing.version + ")");
+        return Keep(Message::SkipNewerVersion, existing.version);
     if (order == 0 && HasOption(options, CopyOption::kNotIfEqualVersion))
-        return Keep("den befintliga filen har samma version (" + existing.version + ")");
+        return Keep(Message::SkipSameVersion, existing.version);
     return std::nullopt;
 }
 
@@ -62,16 +61,16 @@ CopyDecision DecideCopy(std::string_view options, const ComparedFile& existing,
                         const ComparedFile& ours)
 {
     if (HasOption(options, CopyOption::kNeverReplace))
-        return Keep("filen finns redan och ska aldrig ersättas");
+        return Keep(Message::SkipNeverReplaced);
     if (existing.isReadOnly && !HasOption(options, CopyOption::kWriteProtected))
-        return Keep("den befintliga filen är skrivskyddad");
+        return Keep(Message::SkipReadOnly);
     if (HasOption(options, CopyOption::kVersionCheck))
         if (const auto decided = DecideByVersion(options, existing, ours))
             return *decided;
     if (HasOption(options, CopyOption::kDateCheck) &&
         EvenSeconds(existing.modified) > EvenSeconds(ours.modified))
-        return Keep("den befintliga filen är nyare (" + DateText(existing.modified) + " " +
-                    TimeTextWithSeconds(existing.modified) + ")");
+        return Keep(Message::SkipNewerFile,
+                    DateText(existing.modified) + " " + TimeTextWithSeconds(existing.modified));
     if (HasOption(options, CopyOption::kWarnIfExists))
         return {CopyVerdict::Ask, {}};
     return {};

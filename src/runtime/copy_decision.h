@@ -3,7 +3,7 @@
 #pragma once
 
 #include "helpers/date_text.h"
-#include "helpers/text.h"
+#include "runtime/messages.h"
 
 #include <optional>
 
@@ -41,7 +41,7 @@ enum class CopyVerdict { Copy, Keep, Ask };
 
 struct CopyDecision {
     CopyVerdict verdict = CopyVerdict::Copy;
-    Text reason; // why the existing file is kept
+    std::optional<Reason> reason; // why the existing file is kept
 };
 
 CopyDecision DecideCopy(std::string_view options, const ComparedFile& existing,

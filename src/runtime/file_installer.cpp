@@ -61,7 +61,7 @@ void FileInstaller::InstallOne(const PlannedFile& file)
     FileSystem& files = input_.host.files;
     const Text& options = file.row->copyOptions;
     if (!input_.package.HasBytes(*file.row)) {
-        input_.log.Skipped(file.path, "paketet har ingen källfil till raden");
+        input_.log.Skipped(file.path, {Message::SkipNoSource});
         return;
     }
     changes_.MakeFolder(ExtractDirectory(file.path));
@@ -101,18 +101,18 @@ bool FileInstaller::IsWanted(const PlannedFile& file, const Text& staged)
     if (decision.verdict == CopyVerdict::Ask)
         decision = AskWhetherToReplace(file.path);
     if (decision.verdict == CopyVerdict::Keep)
-        input_.log.Skipped(file.path, decision.reason);
+        input_.log.Skipped(file.path, *decision.reason);
     return decision.verdict == CopyVerdict::Copy;
 }
 
 CopyDecision FileInstaller::AskWhetherToReplace(const Text& path)
 {
     if (input_.silent)
-        return {CopyVerdict::Keep, "filen finns redan och ingen kan tillfrågas"};
+        return {CopyVerdict::Keep, Reason{Message::SkipNobodyToAsk}};
     const bool replace =
         input_.ask.YesNo(input_.setup.project.ProjectName.ProjectName,
                          input_.texts(Message::FileExists, path), Ask::Stops::OnNo);
-    return {replace ? CopyVerdict::Copy : CopyVerdict::Keep, "filen finns redan och ska behållas"};
+    return {replace ? CopyVerdict::Copy : CopyVerdict::Keep, Reason{Message::SkipUserKeepsFile}};
 }
 
 Text FileInstaller::Stage(const PlannedFile& file)
@@ -143,13 +143,13 @@ bool FileInstaller::Put(const PlannedFile& file, const Text& staged)
         files.SetReadOnly(staged, true);
     try {
         changes_.PutFile(staged, file.path, recorded);
-        input_.log.Line("Kopierar " + file.path);
+        input_.log.Line(Message::LogCopies, file.path);
         return true;
     } catch (const RunError& error) {
         if (!IsInUse(error) || !HasOption(options, CopyOption::kActiveFile))
             throw;
         changes_.PutFileAtRestart(staged, file.path, recorded);
-        input_.log.Line("Filen " + file.path + " används och ersätts när datorn startas om");
+        input_.log.Line(Message::LogReplacesAtRestart, file.path);
         return false;
     }
 }

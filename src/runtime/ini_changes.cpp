@@ -31,7 +31,7 @@ void ApplyIniLine(const IniWork& work, IniText& ini, const IniLine& line, IniRec
         record::IniValue{line.file, line.section, line.name, line.value,
                          former ? std::optional(AnsiText::FromBytes(*former)) : std::nullopt});
     ini.SetValue(section, name, AnsiText::ToBytes(line.value));
-    work.log.Line("Skriver till " + line.file + ": [" + line.section + "] " + line.name);
+    work.log.Line(Message::LogWritesIni, line.file, "[" + line.section + "] " + line.name);
 }
 
 void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
@@ -40,7 +40,7 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
     const bool existed = work.files.FileExists(path);
     const std::string before = existed ? ReadWholeFile(work.files, path) : std::string();
     if (before.substr(0, kUtf16Mark.size()) == kUtf16Mark) {
-        work.log.Skipped(path, "INI-filer i Unicode ändras inte");
+        work.log.Skipped(path, {Message::SkipIniUnicode});
         return;
     }
     work.changes.MakeFolder(ExtractDirectory(path));

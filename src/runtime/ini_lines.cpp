@@ -28,9 +28,9 @@ public:
             file_ = TrimBlanks(line.substr(2, line.size() - 4));
             section_.clear();
         } else if (line.front() == ';') {
-            Refuse(original, "en kommentar skrivs inte till INI-filen");
+            Refuse(original, Message::SkipIniComment);
         } else if (file_.empty()) {
-            Refuse(original, "raden står inte under något filnamn");
+            Refuse(original, Message::SkipIniNoFile);
         } else if (IsSection(line)) {
             section_ = TrimBlanks(line.substr(1, line.size() - 2));
             list_.lines.push_back({file_, section_, {}, {}});
@@ -47,17 +47,14 @@ private:
         const std::size_t equals = line.find('=');
         const Text name = TrimBlanks(line.substr(0, equals));
         if (equals == Text::npos || name.empty())
-            Refuse(original, "raden är varken filnamn, sektion eller namn=värde");
+            Refuse(original, Message::SkipIniUnreadable);
         else if (section_.empty())
-            Refuse(original, "raden står inte under någon sektion");
+            Refuse(original, Message::SkipIniNoSection);
         else
             list_.lines.push_back({file_, section_, name, line.substr(equals + 1)});
     }
 
-    void Refuse(const Text& line, Text reason)
-    {
-        list_.unreadable.push_back({line, std::move(reason)});
-    }
+    void Refuse(const Text& line, Message reason) { list_.unreadable.push_back({line, reason}); }
 
     IniList list_;
     Text file_;

@@ -2,7 +2,7 @@
 // and section above it.
 #pragma once
 
-#include "helpers/text.h"
+#include "runtime/messages.h"
 
 #include <vector>
 
@@ -19,7 +19,7 @@ struct IniList {
     std::vector<IniLine> lines;
     struct Unreadable {
         Text line;
-        Text reason;
+        Message reason;
     };
     std::vector<Unreadable> unreadable;
 };

@@ -3,7 +3,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "runtime/exit_codes.h"
+#include "runtime/failure_reason.h"
 #include "runtime/file_installer.h"
 #include "runtime/ini_changes.h"
 #include "runtime/package_names.h"
@@ -27,12 +27,13 @@ public:
         try {
             DoEverything();
         } catch (const std::exception& error) {
-            input_.log.Line("Installationen avbryts. Alla ändringar återställs.");
+            input_.log.Line(Message::LogUndoes);
             input_.ask.AddStatusLine(input_.texts[Message::Undoing]);
             record_.Abandon();
             if (!changes_.Undo())
-                throw SetupFailure(ExitCode::Failed,
-                                   TrimBlanks(input_.texts(Message::NotUndone, error.what())));
+                throw SetupFailure(
+                    ExitCode::Failed,
+                    input_.texts(Message::NotUndone, FailureReason(error, input_.texts)));
             throw;
         }
         changes_.Commit();
@@ -42,12 +43,14 @@ public:
 private:
     void DoEverything();
     void OpenRecord();
+    void RecordTexts();
     void ShareMainFolder();
     void DeleteOldProgramGroup();
     void WriteRegistry();
     void WriteRegistryLine(const RegistryLine& line);
     void RegisterFiles();
     void RegisterOne(const Text& path);
+    void SkipRegistration(const Text& path, Message why);
     void RegisterAtRestart();
     void RegisterFonts();
     void PutHelper(const char* helper, const Text& path);
@@ -91,18 +94,28 @@ void Installation::OpenRecord()
     const Text& path = input_.plan.installLog;
     FileSystem& files = input_.host.files;
     if (files.FileExists(path)) {
-        record_.TakeOver(
-            ReadInstallLog(ReadWholeFile(files, path)).value_or(std::vector<JournalRecord>{}));
+        auto earlier =
+            ReadInstallLog(ReadWholeFile(files, path)).value_or(std::vector<JournalRecord>{});
+        // They are told anew, and would come to more with each installation.
+        std::erase_if(earlier, [](const JournalRecord& record) {
+            return std::holds_alternative<record::Product>(record) ||
+                   std::holds_alternative<record::Message>(record);
+        });
+        record_.TakeOver(std::move(earlier));
         changes_.RemoveFile(path);
     }
     ShareMainFolder();
     record_.Add(record::Product{input_.setup.project.ProjectName.ProjectName});
-    for (const Message message :
-         {Message::UninstallTitle, Message::UninstallQuestion, Message::UninstallRunning,
-          Message::UninstallDone, Message::UninstallPartly})
-        record_.Add(record::Message{KeyOf(message).key, input_.texts[message]});
+    RecordTexts();
     changes_.MakeUnrecordedFile(path);
     record_.Open(files, path);
+}
+
+void Installation::RecordTexts()
+{
+    for (int i = 0; i < int(Message::Count); ++i)
+        if (IsOfUninstaller(Message(i)))
+            record_.Add(record::Message{KeyOf(Message(i)).key, input_.texts[Message(i)]});
 }
 
 // Of products that share a main folder, the last to go takes along the folder that the first one
@@ -131,7 +144,7 @@ void Installation::DeleteOldProgramGroup()
         if (entry.facts.isFolder || !LowerCase(entry.name).ends_with(".lnk"))
             continue;
         changes_.RemoveFile(path);
-        input_.log.Line("Tar bort den gamla genvägen " + path);
+        input_.log.Line(Message::LogRemovesShortcut, path);
     }
 }
 
@@ -163,7 +176,7 @@ void Installation::WriteRegistryLine(const RegistryLine& line)
             changes_.RemoveValue(line.key, line.valueName);
         else
             changes_.RemoveKeyWithAllBelow(line.key);
-        input_.log.Line("Tar bort ur registret: " + name);
+        input_.log.Line(Message::LogRemovesRegistry, name);
         return;
     case Kind::Uninstall:
         if (line.hasValue)
@@ -174,7 +187,7 @@ void Installation::WriteRegistryLine(const RegistryLine& line)
     case Kind::Unreadable:
         return;
     }
-    input_.log.Line("Skriver till registret: " + name);
+    input_.log.Line(Message::LogWritesRegistry, name);
 }
 
 void Installation::RegisterFiles()
@@ -185,22 +198,27 @@ void Installation::RegisterFiles()
         if (input_.host.files.FileExists(path))
             RegisterOne(path);
         else
-            input_.log.Skipped("registreringen av " + path, "filen finns inte");
+            SkipRegistration(path, Message::SkipNoFile);
 }
 
 void Installation::RegisterOne(const Text& path)
 {
     switch (changes_.RegisterServer(path)) {
     case Registration::Done:
-        input_.log.Line("Registrerar " + path);
+        input_.log.Line(Message::LogRegisters, path);
         break;
     case Registration::NotSelfRegistering:
-        input_.log.Skipped("registreringen av " + path, "filen kan inte registrera sig själv");
+        SkipRegistration(path, Message::SkipNotSelfRegistering);
         break;
     case Registration::Failed:
-        input_.log.Skipped("registreringen av " + path, "filen kunde inte registreras");
+        SkipRegistration(path, Message::SkipRegistrationFailed);
         break;
     }
+}
+
+void Installation::SkipRegistration(const Text& path, Message why)
+{
+    input_.log.Skipped(input_.texts(Message::PartRegistration, path), {why});
 }
 
 // Files that are in use take their place when the machine starts; a helper registers them then. One
@@ -236,7 +254,7 @@ void Installation::RegisterFonts()
         changes_.WriteValue(key, description + (marked ? "" : " (TrueType)"),
                             TextData(inFontFolder ? font.row->name : font.path));
         changes_.AnnounceFont(font.path);
-        input_.log.Line("Registrerar teckensnittet " + font.path);
+        input_.log.Line(Message::LogRegistersFont, font.path);
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include "formats/new_windows_files.h"
 #include "helpers/windows_path.h"
-#include "runtime/exit_codes.h"
+#include "runtime/failure_reason.h"
 #include "runtime/install_log.h"
 #include "runtime/later_stages.h"
 #include "runtime/package_reader.h"
@@ -29,15 +29,15 @@ bool FindsNoEarlierVersion(const PlanInput& input, const section::FileComponent&
            !input.host.files.FileExists(input.variables.ExpandPath(component.CompAdvUpdateRefFile));
 }
 
-// Why the row is left out; empty where it is not.
-Text ReasonToSkip(const PlanInput& input, const InstallRow& row)
+// Why the row is left out; nothing where it is not.
+std::optional<Reason> ReasonToSkip(const PlanInput& input, const InstallRow& row)
 {
     if (!IsComponentInstalled(input, row.component))
-        return "komponent " + NumberText(row.component) + " installeras inte";
+        return Reason{Message::SkipComponentOff, NumberText(row.component)};
     const bool dontTouch = input.setup.project.InstallOptions.DontInstallSysFilesOnNewWin != kOff;
     if (dontTouch && IsPartOfNewWindows(row.name) && IsNewWindows(input.target.System()))
-        return "systemfilen ingår redan i den här versionen av Windows";
-    return {};
+        return Reason{Message::SkipPartOfWindows};
+    return std::nullopt;
 }
 
 // A folder without a drive lies below the main folder.
@@ -53,9 +53,7 @@ Text DestinationOf(const PlanInput& input, const InstallRow& row)
     const bool isOneName = row.name.find_first_of("\\/:") == Text::npos && !row.name.empty();
     const bool staysBelow = whole.find("\\..") == Text::npos && row.name != "..";
     if (!IsWholePath(whole) || !isOneName || !staysBelow)
-        throw SetupFailure(
-            ExitCode::Failed,
-            input.texts(Message::Damaged, row.name + " saknar giltig mapp: " + row.destination));
+        throw DamagedPackage(input.texts, {Message::PackageBadFolder, row.name, row.destination});
     return whole;
 }
 
@@ -64,9 +62,8 @@ void PlanRows(const PlanInput& input, InstallPlan& plan)
     for (const InstallRow& row : input.rows) {
         const Text folder = DestinationOf(input, row);
         const Text path = IsEmptyFolderRow(row) ? folder : JoinPath(folder, row.name);
-        const Text reason = ReasonToSkip(input, row);
-        if (!reason.empty())
-            plan.skipped.push_back({path, reason});
+        if (const auto reason = ReasonToSkip(input, row))
+            plan.skipped.push_back({path, *reason});
         else if (IsEmptyFolderRow(row))
             plan.folders.push_back(path);
         else
@@ -86,15 +83,17 @@ void ExpandRegistryLine(const PlanInput& input, RegistryLine& line)
 void PlanRegistry(const PlanInput& input, InstallPlan& plan)
 {
     for (RegistryListLine& line : ReadRegistryLines(input.setup.project.Lists.Registry)) {
-        if (line.read.kind == RegistryLine::Kind::Unreadable) {
-            plan.skipped.push_back({"registerraden \"" + line.line + "\"", line.read.reason});
+        const auto skip = [&](const Reason& reason) {
+            plan.skipped.push_back({input.texts(Message::PartRegistryLine, line.line), reason});
+        };
+        if (line.read.reason) {
+            skip({*line.read.reason});
         } else if (line.read.key.root == RegistryRoot::DynData) {
-            plan.skipped.push_back(
-                {"registerraden \"" + line.line + "\"", "HKEY_DYN_DATA kan inte ändras"});
+            skip({Message::SkipFixedRoot, RootName(RegistryRoot::DynData)});
         } else {
             ExpandRegistryLine(input, line.read);
             if (RemovesSystemKey(line.read))
-                plan.skipped.push_back({"registerraden \"" + line.line + "\"", kSystemKeyReason});
+                skip({Message::SkipSystemKey});
             else
                 plan.registry.push_back(std::move(line.read));
         }
@@ -105,7 +104,7 @@ void PlanIni(const PlanInput& input, InstallPlan& plan)
 {
     IniList list = ReadIniLines(input.setup.project.Lists.INIFiles);
     for (const IniList::Unreadable& line : list.unreadable)
-        plan.skipped.push_back({"INI-raden \"" + line.line + "\"", line.reason});
+        plan.skipped.push_back({input.texts(Message::PartIniLine, line.line), {line.reason}});
     for (IniLine& line : list.lines) {
         // As the system itself does with a bare name.
         const Text file = input.variables.ExpandPath(line.file);
@@ -158,7 +157,7 @@ InstallPlan MakeInstallPlan(const PlanInput& input)
     plan.hasUninstaller = input.setup.project.InstallOptions.UninstallSupport != kOff;
     plan.installLog = ChooseInstallLog(input.host.files, plan.mainFolder,
                                        input.setup.project.ProjectName.ProjectName);
-    plan.skipped = PartsOfLaterStages(input.setup);
+    plan.skipped = PartsOfLaterStages(input.setup, input.texts);
     PlanRows(input, plan);
     PlanShortcuts(input, plan);
     PlanRegistry(input, plan);

@@ -24,8 +24,8 @@ struct PlannedShortcut {
 
 /// Something that the package asks for and that is not done.
 struct SkippedPart {
-    Text what;
-    Text reason;
+    Text what; // in the language of the package
+    Reason reason;
 };
 
 struct InstallPlan {

@@ -11,65 +11,6 @@ namespace quillon {
 
 namespace {
 
-// clang-format off
-constexpr MessageKey kMessages[] = {
-    {"PreLoader", "Msg_Extract",           "Förbereder installationen. Vänta..."},
-    {"PreLoader", "Msg_NoRuntime",         "Installationen kan inte startas. Filen '%1' saknas eller kan inte läsas."},
-    {"Setup",     "Title",                 "Installation av %1"},
-    {"Setup",     "Msg_Checking",          "Kontrollerar installationsfilerna..."},
-    {"Setup",     "Msg_Copying",           "Kopierar filer..."},
-    {"Setup",     "Msg_Settings",          "Gör inställningar..."},
-    {"Setup",     "Msg_Undoing",           "Återställer datorn..."},
-    {"Setup",     "Button_Cancel",         "Avbryt"},
-    {"Setup",     "Ask_Cancel",            "Vill du avbryta installationen?"},
-    {"Setup",     "Ask_InsertDisk",        "Stoppa in diskett nr %1!"},
-    {"Setup",     "Ask_FileExists",        "Filen '%1' finns redan. Vill du ersätta den?"},
-    {"Setup",     "Err_BadSwitch",         "Växeln '%1' är okänd eller felaktig. Tillåtna växlar är /S, /D=mapp, /DIR=\"mapp\", /LOG=\"fil\" och /PASSWORD=lösenord."},
-    {"Setup",     "Err_NeedsPassword",     "Installationen kräver ett lösenord. Ange det med växeln /PASSWORD=."},
-    {"Setup",     "Err_WrongPassword",     "Lösenordet är felaktigt."},
-    {"Setup",     "Err_WrongSystem",       "Programmet kan inte installeras på den här versionen av Windows."},
-    {"Setup",     "Ask_WrongSystem",       "Programmet är inte avsett för den här versionen av Windows. Vill du fortsätta ändå?"},
-    {"Setup",     "Err_Damaged",           "Installationsfilerna är skadade eller ofullständiga (%1). Ingenting har installerats. Hämta installationen på nytt."},
-    {"Setup",     "Err_DiskFull",          "Det finns inte tillräckligt med ledigt utrymme (%1). Frigör utrymme och försök igen."},
-    {"Setup",     "Err_Failed",            "Installationen misslyckades och alla ändringar har återställts (%1)."},
-    {"Setup",     "Err_NotUndone",         "Installationen avbröts, men alla ändringar kunde inte återställas. %1"},
-    {"Setup",     "Msg_RestartNeeded",     "Datorn måste startas om innan programmet kan användas."},
-    {"Setup",     "Icon_Uninstall",        "Avinstallera %1"},
-    {"Pages",     "Page_Welcome",          "Välkommen"},
-    {"Pages",     "Page_GeneralInfo",      "Generell information"},
-    {"Pages",     "Page_GeneralInfo2",     "Generell information 2"},
-    {"Pages",     "Page_LicenseInfo",      "Licensinformation"},
-    {"Pages",     "Page_LicenseInfoRtf",   "Licensinformation (RTF)"},
-    {"Pages",     "Page_Password",         "Lösenord"},
-    {"Pages",     "Page_NameCompany",      "Registrering (lokalt)"},
-    {"Pages",     "Page_Destination",      "Destinationskatalog"},
-    {"Pages",     "Page_DestinationDrive", "Enhet"},
-    {"Pages",     "Page_ProgramGroup",     "Välj programgrupp"},
-    {"Pages",     "Page_StartInstall",     "Starta installation"},
-    {"Pages",     "Page_InstallCompleted", "Installationen avslutad"},
-    {"Test",      "Title",                 "Test av %1"},
-    {"Test",      "Title_Preview",         "Förhandsgranskning av %1"},
-    {"Test",      "Msg_Unnamed",           "ett projekt utan namn"},
-    {"Test",      "Msg_Nothing",           "Det här är ett test. Ingenting installeras."},
-    {"Test",      "Msg_Pages",             "Dialogrutor som installationen visar:"},
-    {"Test",      "Msg_NoPages",           "Installationen visar inga dialogrutor."},
-    {"Test",      "Msg_Screen",            "Installationsskärmen:"},
-    {"Test",      "Msg_ScreenTitle",       "Titel: %1"},
-    {"Test",      "Msg_ScreenSubTitle",    "Undertitel: %1"},
-    {"Test",      "Msg_ScreenSize",        "Storlek: %1 bildpunkter"},
-    {"Test",      "Msg_ScreenPicture",     "Bakgrundsbild: %1"},
-    {"Test",      "Button_Close",          "Stäng"},
-    {"Test",      "Err_TestFiles",         "Testet kan inte visas (%1). Starta det på nytt."},
-    {"Uninstall", "Title",                 "Avinstallation av %1"},
-    {"Uninstall", "Ask_Uninstall",         "Vill du ta bort %1 från datorn?"},
-    {"Uninstall", "Msg_Running",           "Tar bort filer och inställningar..."},
-    {"Uninstall", "Msg_Done",              "%1 har tagits bort från datorn."},
-    {"Uninstall", "Msg_Partly",            "%1 har tagits bort, men några filer eller inställningar kunde inte tas bort."},
-    {"Uninstall", "Err_NoLog",             "Avinstallationen kan inte startas. Filen '%1' saknas eller är skadad."},
-};
-// clang-format on
-static_assert(std::size(kMessages) == std::size_t(Message::Count));
-
 // What is longer can't be shown and comes from a damaged file.
 constexpr std::size_t kLongestText = 2000;
 
@@ -112,12 +53,12 @@ Text Name(std::string_view section, std::string_view key)
 /// Goes through the file once: it may be large, and there are many texts to find.
 class LanguageReader {
 public:
-    using Texts = std::array<Text, std::size(kMessages)>;
+    using Texts = std::array<Text, std::size_t(Message::Count)>;
 
     explicit LanguageReader(Texts& texts) : texts_(texts)
     {
         for (std::size_t i = 0; i < texts.size(); ++i)
-            places_[Name(kMessages[i].section, kMessages[i].key)] = i;
+            places_[Name(KeyOf(Message(i)).section, KeyOf(Message(i)).key)] = i;
     }
 
     void Read(std::string_view file)
@@ -158,14 +99,10 @@ private:
 
 } // namespace
 
-const MessageKey& KeyOf(Message message)
-{
-    return kMessages[std::size_t(message)];
-}
-
 LanguageTexts::LanguageTexts()
 {
-    std::ranges::transform(kMessages, texts_.begin(), &MessageKey::swedish);
+    for (std::size_t i = 0; i < texts_.size(); ++i)
+        texts_[i] = KeyOf(Message(i)).swedish;
 }
 
 LanguageTexts::LanguageTexts(std::string_view bytes) : LanguageTexts()
@@ -173,9 +110,19 @@ LanguageTexts::LanguageTexts(std::string_view bytes) : LanguageTexts()
     LanguageReader(texts_).Read(Decoded(bytes));
 }
 
-Text LanguageTexts::operator()(Message message, std::string_view inserted) const
+// In one pass: a path may hold a "%2" of its own.
+Text LanguageTexts::operator()(Message message, std::string_view first,
+                               std::string_view second) const
 {
-    return ReplaceAll((*this)[message], "%1", inserted);
+    Text text;
+    std::string_view rest = (*this)[message];
+    for (std::size_t mark = rest.find('%'); mark != Text::npos; mark = rest.find('%')) {
+        const std::string_view place = rest.substr(mark, 2);
+        text += rest.substr(0, mark);
+        text += place == "%1" ? first : place == "%2" ? second : place.substr(0, 1);
+        rest.remove_prefix(mark + (place == "%1" || place == "%2" ? 2 : 1));
+    }
+    return text += rest;
 }
 
 } // namespace quillon

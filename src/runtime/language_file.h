@@ -3,78 +3,13 @@
 // or damaged language file never stops an installation.
 #pragma once
 
-#include "helpers/text.h"
+#include "runtime/messages.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 
 namespace quillon {
-
-/// In the order of the table of texts.
-enum class Message {
-    Extract,
-    NoRuntime,
-    Title,
-    Checking,
-    Copying,
-    Settings,
-    Undoing,
-    Cancel,
-    CancelQuestion,
-    InsertDisk,
-    FileExists,
-    BadSwitch,
-    NeedsPassword,
-    WrongPassword,
-    WrongSystem,
-    WrongSystemQuestion,
-    Damaged,
-    DiskFull,
-    Failed,
-    NotUndone,
-    RestartNeeded,
-    UninstallIcon,
-    PageWelcome,
-    PageGeneralInfo,
-    PageGeneralInfo2,
-    PageLicenseInfo,
-    PageLicenseInfoRtf,
-    PagePassword,
-    PageNameCompany,
-    PageDestination,
-    PageDestinationDrive,
-    PageProgramGroup,
-    PageStartInstall,
-    PageInstallCompleted,
-    TestTitle,
-    PreviewTitle,
-    Unnamed,
-    TestNothing,
-    TestPages,
-    TestNoPages,
-    Screen,
-    ScreenTitle,
-    ScreenSubTitle,
-    ScreenSize,
-    ScreenPicture,
-    Close,
-    TestFiles,
-    UninstallTitle,
-    UninstallQuestion,
-    UninstallRunning,
-    UninstallDone,
-    UninstallPartly,
-    UninstallNoLog,
-    Count
-};
-
-struct MessageKey {
-    const char* section;
-    const char* key;
-    const char* swedish;
-};
-const MessageKey& KeyOf(Message message);
 
 /// No file of texts is larger; what is, isn't read.
 inline constexpr std::uint64_t kLargestLanguageFile = 16 * 1024 * 1024;
@@ -88,8 +23,12 @@ public:
     explicit LanguageTexts(std::string_view bytes);
 
     const Text& operator[](Message message) const { return texts_[std::size_t(message)]; }
-    /// With `inserted` in the place of "%1".
-    Text operator()(Message message, std::string_view inserted) const;
+    /// With `first` in the place of "%1" and `second` in that of "%2".
+    Text operator()(Message message, std::string_view first, std::string_view second = {}) const;
+    Text operator()(const Reason& reason) const
+    {
+        return (*this)(reason.message, reason.first, reason.second);
+    }
     void Set(Message message, Text text) { texts_[std::size_t(message)] = std::move(text); }
 
 private:

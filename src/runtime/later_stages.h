@@ -6,6 +6,7 @@
 
 namespace quillon {
 
-std::vector<SkippedPart> PartsOfLaterStages(const SetupInformation& setup);
+std::vector<SkippedPart> PartsOfLaterStages(const SetupInformation& setup,
+                                            const LanguageTexts& texts);
 
 } // namespace quillon

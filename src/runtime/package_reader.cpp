@@ -4,7 +4,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "project/file_list.h"
-#include "runtime/exit_codes.h"
+#include "runtime/failure_reason.h"
 
 #include <utility>
 
@@ -36,8 +36,7 @@ PackageReader::PackageReader(const PackageInput& input) : input_(input)
         FindByThemselves();
     for (const InstallRow& row : input_.rows)
         if (!IsEmptyFolderRow(row) && !HasBytes(row) && !MayLackSource(row))
-            throw SetupFailure(ExitCode::Failed,
-                               input_.texts(Message::Damaged, row.name + " saknas"));
+            throw DamagedPackage(input_.texts, {Message::PackageFileMissing, row.name});
 }
 
 PackageReader::~PackageReader()
@@ -89,14 +88,13 @@ void PackageReader::AppendDisk(int disk, OutputFile& joined)
     if (disk > 1 && !hasOwnFolder) {
         const Text ask = input_.texts(Message::InsertDisk, NumberText(disk));
         if (input_.silent)
-            throw SetupFailure(ExitCode::Failed,
-                               input_.texts(Message::Damaged, ownFolder + " saknas"));
+            throw DamagedPackage(input_.texts, {Message::PackageFileMissing, ownFolder});
         do {
             if (!input_.ask.OkCancel(input_.setup.project.ProjectName.ProjectName, ask))
                 throw SetupFailure(ExitCode::Cancelled, {});
         } while (!files.FileExists(piece));
     }
-    input_.log.Line("Läser " + piece);
+    input_.log.Line(Message::LogReads, piece);
     CopyAll(*files.OpenInput(piece), [&](auto bytes) { joined.Write(bytes); });
 }
 
@@ -128,8 +126,7 @@ void PackageReader::CheckEverything()
         const std::uint64_t size =
             place.entry ? place.entry->size : input_.host.files.Facts(place.path).size;
         if (size != row.size)
-            throw SetupFailure(ExitCode::Failed,
-                               input_.texts(Message::Damaged, row.name + " har fel längd"));
+            throw DamagedPackage(input_.texts, {Message::PackageFileSize, row.name});
     }
     if (!container_)
         return;

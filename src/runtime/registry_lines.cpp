@@ -21,10 +21,10 @@ Text ValueName(std::string_view name)
     return EqualIgnoreCase(name, kDefaultValueName) ? Text() : Text(name);
 }
 
-RegistryLine Unreadable(Text reason)
+RegistryLine Unreadable(Message reason)
 {
     RegistryLine line;
-    line.reason = std::move(reason);
+    line.reason = reason;
     return line;
 }
 
@@ -63,11 +63,11 @@ void ReadData(RegistryLine& line, std::string_view data)
         if (ReadBytes(TrimBlanks(data.substr(1)), line.bytes))
             line.kind = RegistryLine::Kind::BytesValue;
         else
-            line.reason = "binärdata är inte hexadecimala tal med mellanslag emellan";
+            line.reason = Message::SkipNotHexadecimal;
     } else if (ReadNumber(data, line.number)) {
         line.kind = RegistryLine::Kind::NumberValue;
     } else {
-        line.reason = "data är varken text inom citattecken, ett tal eller binärdata";
+        line.reason = Message::SkipNoData;
     }
 }
 
@@ -76,13 +76,13 @@ bool ReadKey(RegistryLine& line, std::string_view text)
     const std::size_t rootEnd = std::min(text.find('\\'), text.size());
     const auto root = RootNamed(TrimBlanks(text.substr(0, rootEnd)));
     if (!root) {
-        line.reason = "raden börjar inte med någon av registrets rotnycklar";
+        line.reason = Message::SkipNoRootKey;
         return false;
     }
     const std::string_view subKey = text.substr(std::min(rootEnd + 1, text.size()));
     line.key = {*root, PlainSubKey(subKey)};
     if (line.key.subKey.empty())
-        line.reason = "subnyckel saknas";
+        line.reason = Message::SkipNoSubKey;
     return !line.key.subKey.empty();
 }
 
@@ -97,7 +97,7 @@ RegistryLine ReadRemoval(RegistryLine::Kind kind, std::string_view text)
         line.valueName = ValueName(text.substr(mark + kValueMark.size()));
     line.kind = kind;
     if (RemovesSystemKey(line))
-        return Unreadable(kSystemKeyReason);
+        return Unreadable(Message::SkipSystemKey);
     return line;
 }
 
@@ -114,7 +114,7 @@ RegistryLine ReadAddition(std::string_view text)
     const std::string_view value = text.substr(mark + kValueMark.size());
     const std::size_t equals = value.find('=');
     if (equals == Text::npos)
-        return Unreadable("likhetstecken saknas efter värdets namn");
+        return Unreadable(Message::SkipNoEquals);
     line.hasValue = true;
     line.valueName = ValueName(value.substr(0, equals));
     ReadData(line, value.substr(equals + 1));

@@ -2,8 +2,10 @@
 // and to remove at uninstallation. Variables stand in the lines as they were written.
 #pragma once
 
+#include "runtime/messages.h"
 #include "runtime/target.h"
 
+#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -19,7 +21,7 @@ struct RegistryLine {
     Text text;      // of a TextValue
     std::uint32_t number = 0;
     std::string bytes;
-    Text reason; // why an Unreadable line is none
+    std::optional<Message> reason; // why an Unreadable line is none
 };
 
 RegistryLine ReadRegistryLine(std::string_view line);
@@ -34,7 +36,6 @@ bool IsSystemKey(const RegistryKey& key);
 /// True where a line would take the system along: a whole key of its own with all below it. A
 /// variable that turns out empty makes such a key of a harmless one.
 bool RemovesSystemKey(const RegistryLine& line);
-inline constexpr const char* kSystemKeyReason = "nyckeln hör till systemet och får inte tas bort";
 
 struct RegistryListLine {
     Text line; // as it stands in the list

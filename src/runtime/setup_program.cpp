@@ -4,6 +4,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
+#include "runtime/failure_reason.h"
 #include "runtime/install.h"
 #include "runtime/package_names.h"
 
@@ -65,7 +66,8 @@ Flag IsMeantFor(const section::TargetOS& systems, SystemKind system)
 ExitCode SetupProgram::Fail(ExitCode code, const Text& text)
 {
     const Text& project = package_.setup.project.ProjectName.ProjectName;
-    log_.Line("Avslutar med kod " + NumberText(int(code)) + (text.empty() ? "" : ": " + text));
+    log_.Line(text.empty() ? Message::LogEnds : Message::LogEndsBecause, NumberText(int(code)),
+              text);
     log_.Close();
     if (!text.empty() && !input_.switches.silent)
         input_.ask.Critical(texts_(Message::Title, project), text);
@@ -81,7 +83,7 @@ ExitCode SetupProgram::Run()
         CheckPassword();
         CheckSystem();
         InstallPackage();
-        log_.Line("Klart.");
+        log_.Line(Message::LogDone);
         log_.Close();
         return ExitCode::Done;
     } catch (const SetupFailure& failure) {
@@ -89,11 +91,13 @@ ExitCode SetupProgram::Run()
     } catch (const ZipError& error) {
         if (error.Reason() == ZipError::Kind::WrongPassword)
             return Fail(ExitCode::Failed, texts_[Message::WrongPassword]);
-        return Fail(ExitCode::Failed, texts_(Message::Damaged, error.what()));
+        return Fail(ExitCode::Failed, texts_(Message::Damaged, texts_(ReasonOf(error))));
     } catch (const RunError& error) {
         if (error.Number() == ErrorNumber::kDiskFull)
             return Fail(ExitCode::DiskFull, texts_(Message::DiskFull, error.Path()));
-        return Fail(ExitCode::Failed, texts_(Message::Failed, error.what()));
+        return Fail(ExitCode::Failed, texts_(Message::Failed, texts_(ReasonOf(error))));
+    } catch (const std::exception& error) { // too little memory
+        return Fail(ExitCode::Failed, texts_(Message::Failed, FailureReason(error, texts_)));
     }
 }
 
@@ -101,8 +105,8 @@ void SetupProgram::OpenLog()
 {
     if (input_.switches.logFile.empty())
         return;
-    log_ = TextLog(input_.host.files, input_.host.machine, input_.switches.logFile);
-    log_.Line("Installation av " + package_.setup.project.ProjectName.ProjectName + " från " +
+    log_ = TextLog(input_.host.files, input_.host.machine, input_.switches.logFile, texts_);
+    log_.Line(Message::LogBegins, package_.setup.project.ProjectName.ProjectName,
               input_.switches.packageFolder);
 }
 
@@ -115,8 +119,8 @@ void SetupProgram::CheckSwitches() const
 
 void SetupProgram::CheckPackage() const
 {
-    if (!package_.fault.empty())
-        throw SetupFailure(ExitCode::Failed, texts_(Message::Damaged, package_.fault));
+    if (package_.fault)
+        throw DamagedPackage(texts_, *package_.fault);
 }
 
 void SetupProgram::CheckPassword() const
@@ -140,7 +144,7 @@ void SetupProgram::CheckSystem()
         throw SetupFailure(ExitCode::Failed, texts_[Message::WrongSystem]);
     if (systems.TargetOS_WarnIfWrong == kOff)
         return;
-    log_.Line("Paketet är inte avsett för den här versionen av Windows");
+    log_.Line(Message::LogWrongSystem);
     const Text title = texts_(Message::Title, package_.setup.project.ProjectName.ProjectName);
     if (!input_.switches.silent &&
         !input_.ask.YesNo(title, texts_[Message::WrongSystemQuestion], Ask::Stops::OnNo))
@@ -191,7 +195,7 @@ void SetupProgram::InstallPackage()
                  plan, reader, input_.workFolder, input_.switches.silent});
     if (!result.needsRestart)
         return;
-    log_.Line(texts_[Message::RestartNeeded]);
+    log_.Line(Message::RestartNeeded);
     const Flag never = package_.setup.project.InstallOptions.NeverRestartWindows;
     if (!input_.switches.silent && never == kOff)
         input_.ask.Inform(texts_(Message::Title, package_.setup.project.ProjectName.ProjectName),
@@ -203,8 +207,8 @@ void ReadPart(const FileSystem& files, const Text& folder, const Text& name, Loa
               Take take)
 {
     const int failure = RunErrorNumber([&] { take(ReadWholeFile(files, JoinPath(folder, name))); });
-    if (failure != ErrorNumber::kNone && package.fault.empty())
-        package.fault = name + " saknas eller kan inte läsas";
+    if (failure != ErrorNumber::kNone && !package.fault)
+        package.fault = {Message::PackageFileMissing, name};
 }
 
 LoadedPackage ReadSetupInformationFile(const FileSystem& files, const Text& folder)
@@ -217,8 +221,8 @@ LoadedPackage ReadSetupInformationFile(const FileSystem& files, const Text& fold
 
 void TellBrokenInformation(LoadedPackage& package)
 {
-    if (package.fault.empty() && !package.setup.isWhole)
-        package.fault = "QNSETUP.INF är avbruten";
+    if (!package.fault && !package.setup.isWhole)
+        package.fault = {Message::PackageFileIncomplete, kSetupInformationName};
 }
 
 // Without it everything is said in Swedish.
@@ -240,13 +244,13 @@ LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder)
         InstallFileList list = ReadInstallFileList(bytes);
         package.rows = std::move(list.rows);
         if (!list.isWhole)
-            package.fault = "FILELIST.INF är avbruten";
+            package.fault = {Message::PackageFileIncomplete, kFileListName};
     });
     TellBrokenInformation(package);
-    if (package.fault.empty() && package.setup.isPreview)
-        package.fault = "QNSETUP.INF är skriven för en förhandsgranskning";
-    if (package.fault.empty() && package.setup.Files != Long(package.rows.size()))
-        package.fault = "QNSETUP.INF och FILELIST.INF hör inte ihop";
+    if (!package.fault && package.setup.isPreview)
+        package.fault = {Message::PackageForPreview, kSetupInformationName};
+    if (!package.fault && package.setup.Files != Long(package.rows.size()))
+        package.fault = {Message::PackageFilesDiffer, kSetupInformationName, kFileListName};
     ReadLanguage(files, packageFolder, package);
     return package;
 }

@@ -15,7 +15,7 @@ struct LoadedPackage {
     SetupInformation setup;
     std::vector<InstallRow> rows;
     LanguageTexts texts;
-    Text fault; // what is wrong with the package; empty where nothing is
+    std::optional<Reason> fault; // what is wrong with the package
 };
 
 /// Reads both INF files and the language file. Whatever is missing is told in `fault`.

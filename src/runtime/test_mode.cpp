@@ -1,6 +1,6 @@
 #include "runtime/test_mode.h"
 
-#include "platform/run_error.h"
+#include "runtime/failure_reason.h"
 
 namespace quillon {
 
@@ -63,15 +63,15 @@ TestWindow Describe(const LoadedPackage& package, TestMode mode)
     return mode == TestMode::Test ? DescribePages(package) : DescribeScreen(package);
 }
 
-void LogWindow(const TestInput& input, const TestWindow& window)
+void LogWindow(const TestInput& input, const TestWindow& window, const LanguageTexts& texts)
 {
     if (input.switches.logFile.empty())
         return;
-    TextLog log(input.host.files, input.host.machine, input.switches.logFile);
+    TextLog log(input.host.files, input.host.machine, input.switches.logFile, texts);
     for (const Text& line : {window.title, window.note, window.heading})
-        log.Line(line);
+        log.TextLine(line);
     for (const Text& line : window.lines)
-        log.Line(line);
+        log.TextLine(line);
     log.Close();
 }
 
@@ -124,16 +124,16 @@ ExitCode RunTest(const TestInput& input, const LoadedPackage& package)
     };
     if (input.switches.badSwitch)
         return fail(ExitCode::BadSwitch, texts(Message::BadSwitch, *input.switches.badSwitch));
-    if (!package.fault.empty())
-        return fail(ExitCode::Failed, texts(Message::TestFiles, package.fault));
+    if (package.fault)
+        return fail(ExitCode::Failed, texts(Message::TestFiles, texts(*package.fault)));
     try {
         const TestWindow window = Describe(package, *input.switches.testMode);
-        LogWindow(input, window);
+        LogWindow(input, window, texts);
         if (!input.switches.silent)
             input.show(window);
         return ExitCode::Done;
     } catch (const RunError& error) {
-        return fail(ExitCode::Failed, texts(Message::TestFiles, error.what()));
+        return fail(ExitCode::Failed, texts(Message::TestFiles, texts(ReasonOf(error))));
     }
 }
 

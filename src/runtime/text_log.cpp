@@ -1,15 +1,17 @@
 #include "runtime/text_log.h"
 
 #include "platform/run_error.h"
+#include "runtime/failure_reason.h"
 
 namespace quillon {
 
-TextLog::TextLog(FileSystem& files, const Machine& machine, const Text& path)
-    : machine_(&machine), file_(files.OpenOutput(path))
+TextLog::TextLog(FileSystem& files, const Machine& machine, const Text& path,
+                 const LanguageTexts& texts)
+    : machine_(&machine), texts_(&texts), file_(files.OpenOutput(path))
 {
 }
 
-void TextLog::Line(std::string_view text)
+void TextLog::TextLine(std::string_view text)
 {
     if (!file_)
         return;
@@ -23,9 +25,28 @@ void TextLog::Line(std::string_view text)
     }
 }
 
-void TextLog::Skipped(std::string_view what, std::string_view reason)
+void TextLog::Line(Message message, std::string_view first, std::string_view second)
 {
-    Line("Hoppar över " + Text(what) + ": " + Text(reason));
+    if (file_)
+        TextLine((*texts_)(message, first, second));
+}
+
+void TextLog::Skipped(std::string_view what, const Reason& reason)
+{
+    if (file_)
+        Line(Message::LogSkips, what, (*texts_)(reason));
+}
+
+void TextLog::CannotUndo(const std::exception& error)
+{
+    if (file_)
+        Line(Message::LogCannotUndo, FailureReason(error, *texts_));
+}
+
+void TextLog::CannotRemove(std::string_view what, const std::exception& error)
+{
+    if (file_)
+        Line(Message::LogCannotRemove, what, FailureReason(error, *texts_));
 }
 
 void TextLog::Close()

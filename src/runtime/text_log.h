@@ -1,10 +1,13 @@
-// The log that /LOG= asks for: UTF-8, a line for each action, with the reason where something was
-// skipped. A log that can't be written any more stops being written; it never stops the work.
+// The log that /LOG= asks for: UTF-8, in the language of the package, a line for each action, with
+// the reason where something was skipped. A log that can't be written any more stops being written;
+// it never stops the work.
 #pragma once
 
 #include "platform/file_system.h"
 #include "platform/machine.h"
+#include "runtime/language_file.h"
 
+#include <exception>
 #include <memory>
 
 namespace quillon {
@@ -13,16 +16,23 @@ class TextLog {
 public:
     /// A log that goes nowhere.
     TextLog() = default;
-    /// Throws as `OpenOutput` does.
-    TextLog(FileSystem& files, const Machine& machine, const Text& path);
+    /// Throws as `OpenOutput` does. The texts have to live as long as the log.
+    TextLog(FileSystem& files, const Machine& machine, const Text& path,
+            const LanguageTexts& texts);
 
-    void Line(std::string_view text);
-    /// "Hoppar över <what>: <reason>"
-    void Skipped(std::string_view what, std::string_view reason);
+    /// With `first` in the place of "%1" and `second` in that of "%2".
+    void Line(Message message, std::string_view first = {}, std::string_view second = {});
+    void Skipped(std::string_view what, const Reason& reason);
+    /// What could not be undone, or not be removed where `what` says so, and why.
+    void CannotUndo(const std::exception& error);
+    void CannotRemove(std::string_view what, const std::exception& error);
+    /// A line that is in the language of the package already.
+    void TextLine(std::string_view text);
     void Close();
 
 private:
     const Machine* machine_ = nullptr;
+    const LanguageTexts* texts_ = nullptr;
     std::unique_ptr<OutputFile> file_;
 };
 

@@ -73,7 +73,7 @@ void Uninstallation::Attempt(const Text& what, Work work)
         work();
     } catch (const RunError& error) {
         partly_ = true;
-        input_.log.Line("Kan inte ta bort " + what + ": " + error.what());
+        input_.log.CannotRemove(what, error);
     }
 }
 
@@ -120,15 +120,15 @@ void Uninstallation::RemoveFile(const Text& path)
     if (!files_.FileExists(path))
         return;
     if (IsStillShared(path)) {
-        input_.log.Skipped(path, "filen används av andra program");
+        input_.log.Skipped(path, {Message::ReasonUsedByOthers});
         return;
     }
     try {
         RemoveEvenReadOnly(files_, path);
-        input_.log.Line("Tar bort " + path);
+        input_.log.Line(Message::LogRemoves, path);
     } catch (const RunError&) {
         input_.target.MoveAtRestart(path, "");
-        input_.log.Line("Filen " + path + " används och tas bort när datorn startas om");
+        input_.log.Line(Message::LogRemovesAtRestart, path);
     }
 }
 
@@ -148,7 +148,7 @@ void Uninstallation::RemoveReplaced(std::size_t index)
 {
     const Text path = SubjectOf(records_[index]);
     if (IsKeptInWindows(index))
-        input_.log.Skipped(path, "filen fanns i Windows redan före installationen");
+        input_.log.Skipped(path, {Message::ReasonWasInWindows});
     else
         RemoveFile(path);
 }
@@ -176,7 +176,7 @@ void Uninstallation::RestoreBackup(const Text& path, const Text& backup)
     if (files_.FileExists(path) || !files_.FileExists(backup))
         return;
     files_.Rename(backup, path);
-    input_.log.Line("Lägger tillbaka " + path);
+    input_.log.Line(Message::LogPutsBack, path);
 }
 
 // The product that goes last takes a shared file along. Where the count has been lost nobody knows
@@ -205,8 +205,7 @@ void Uninstallation::TakeBack(const record::Value& value)
     else if (*present == value.data)
         input_.target.WriteValue(value.key, value.name, *value.former);
     else
-        input_.log.Skipped(KeyText(value.key) + " :: " + value.name,
-                           "värdet har ändrats efter installationen");
+        input_.log.Skipped(KeyText(value.key) + " :: " + value.name, {Message::ReasonValueChanged});
 }
 
 void Uninstallation::RemoveValue(const RegistryKey& key, const Text& name)
@@ -214,7 +213,7 @@ void Uninstallation::RemoveValue(const RegistryKey& key, const Text& name)
     if (!input_.target.ReadValue(key, name))
         return;
     input_.target.RemoveValue(key, name);
-    input_.log.Line("Tar bort ur registret: " + KeyText(key) + " :: " + name);
+    input_.log.Line(Message::LogRemovesRegistry, KeyText(key) + " :: " + name);
 }
 
 void Uninstallation::RemoveKeyIfEmpty(const RegistryKey& key)
@@ -222,11 +221,11 @@ void Uninstallation::RemoveKeyIfEmpty(const RegistryKey& key)
     if (!input_.target.KeyExists(key))
         return;
     if (!input_.target.SubKeys(key).empty() || !input_.target.ValueNames(key).empty()) {
-        input_.log.Skipped(KeyText(key), "nyckeln är inte tom");
+        input_.log.Skipped(KeyText(key), {Message::ReasonKeyNotEmpty});
         return;
     }
     input_.target.RemoveKey(key);
-    input_.log.Line("Tar bort ur registret: " + KeyText(key));
+    input_.log.Line(Message::LogRemovesRegistry, KeyText(key));
 }
 
 void Uninstallation::RemoveKeyWithAllBelow(const RegistryKey& key)
@@ -236,7 +235,7 @@ void Uninstallation::RemoveKeyWithAllBelow(const RegistryKey& key)
     for (const Text& name : input_.target.SubKeys(key))
         RemoveKeyWithAllBelow({key.root, key.subKey + "\\" + name});
     input_.target.RemoveKey(key);
-    input_.log.Line("Tar bort ur registret: " + KeyText(key));
+    input_.log.Line(Message::LogRemovesRegistry, KeyText(key));
 }
 
 void Uninstallation::RemoveUninstaller()
@@ -257,11 +256,11 @@ void Uninstallation::RemoveFolders()
             if (!files_.DirExists(folder))
                 return;
             if (!files_.List(folder).empty()) {
-                input_.log.Skipped(folder, "mappen är inte tom");
+                input_.log.Skipped(folder, {Message::ReasonFolderNotEmpty});
                 return;
             }
             files_.RemoveFolder(folder);
-            input_.log.Line("Tar bort mappen " + folder);
+            input_.log.Line(Message::LogRemovesFolder, folder);
         });
     }
 }
@@ -280,8 +279,8 @@ std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, co
         if (const auto* const named = std::get_if<record::Product>(&record))
             product.name = named->name;
         const auto* const message = std::get_if<record::Message>(&record);
-        for (int i = int(Message::UninstallTitle); message && i < int(Message::Count); ++i)
-            if (message->key == KeyOf(Message(i)).key)
+        for (int i = 0; message && i < int(Message::Count); ++i)
+            if (IsOfUninstaller(Message(i)) && message->key == KeyOf(Message(i)).key)
                 product.texts.Set(Message(i), message->text);
     }
     product.records = std::move(*records);

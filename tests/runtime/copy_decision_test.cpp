@@ -1,5 +1,7 @@
 #include "runtime/copy_decision.h"
 
+#include "runtime/language_file.h"
+
 #include <gtest/gtest.h>
 
 namespace quillon {
@@ -22,7 +24,7 @@ TEST_P(DecideCopyTable, Holds)
     const DecisionCase& row = GetParam();
     const CopyDecision decision = DecideCopy(row.options, row.existing, row.ours);
     EXPECT_EQ(decision.verdict, row.verdict) << row.options;
-    EXPECT_EQ(decision.reason, row.reason) << row.options;
+    EXPECT_EQ(decision.reason ? LanguageTexts()(*decision.reason) : "", row.reason) << row.options;
 }
 
 constexpr const char* kNever = "filen finns redan och ska aldrig ersättas";

@@ -28,12 +28,12 @@ TEST(ReadIniLines, TellsWhyALineIsNone)
     const IniList list = ReadIniLines("[A]\r\nx=1\r\n-- A.INI --\r\ny=1\r\n[A]\r\nz\r\n=1\r\n;k\r\n"
                                       "-- B.INI --\r\nw=1");
     ASSERT_EQ(list.unreadable.size(), 7U);
-    EXPECT_EQ(list.unreadable[0].reason, "raden står inte under något filnamn");
+    EXPECT_EQ(list.unreadable[0].reason, Message::SkipIniNoFile);
     EXPECT_EQ(list.unreadable[1].line, "x=1");
-    EXPECT_EQ(list.unreadable[2].reason, "raden står inte under någon sektion");
-    EXPECT_EQ(list.unreadable[3].reason, "raden är varken filnamn, sektion eller namn=värde");
+    EXPECT_EQ(list.unreadable[2].reason, Message::SkipIniNoSection);
+    EXPECT_EQ(list.unreadable[3].reason, Message::SkipIniUnreadable);
     EXPECT_EQ(list.unreadable[4].line, "=1");
-    EXPECT_EQ(list.unreadable[5].reason, "en kommentar skrivs inte till INI-filen");
+    EXPECT_EQ(list.unreadable[5].reason, Message::SkipIniComment);
     // A new file head ends the section above it.
     EXPECT_EQ(list.unreadable[6].line, "w=1");
     ASSERT_EQ(list.lines.size(), 1U);

@@ -165,10 +165,11 @@ TEST_F(InstallTest, SaysWhereItCouldNotTakeEverythingBack)
         throw RunError(ErrorNumber::kDiskFull, "disken");
     };
     EXPECT_EQ(Install(), ExitCode::Failed);
-    EXPECT_THAT(Log(), HasSubstr("Kan inte återställa: Fel #70: " + kMain + "\\prog.exe"));
+    EXPECT_THAT(Log(), HasSubstr("Kan inte ångra en ändring: åtkomst nekas till '" + kMain +
+                                 "\\prog.exe'"));
     EXPECT_THAT(Log(),
                 HasSubstr("Avslutar med kod 1603: Installationen avbröts, men alla ändringar "
-                          "kunde inte återställas. Fel #61: disken"));
+                          "kunde inte ångras (disken är full: 'disken')."));
 }
 
 TEST_F(InstallTest, GoesOnTakingBackWhateverOneStepThrows)

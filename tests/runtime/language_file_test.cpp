@@ -29,7 +29,7 @@ TEST(LanguageTexts, AreSwedishWithoutAFile)
 {
     const LanguageTexts texts;
     EXPECT_EQ(texts[Message::Extract], "Förbereder installationen. Vänta...");
-    EXPECT_EQ(texts(Message::InsertDisk, "2"), "Stoppa in diskett nr 2!");
+    EXPECT_EQ(texts(Message::InsertDisk, "2"), "Sätt in diskett 2.");
     EXPECT_EQ(texts(Message::UninstallIcon, "Prog"), "Avinstallera Prog");
     ExpectSwedish(texts);
 }
@@ -55,6 +55,15 @@ TEST(LanguageTexts, AreFoundAsProfilesAreRead)
     EXPECT_EQ(texts[Message::Cancel], "Stop = now");
     EXPECT_EQ(texts(Message::UninstallTitle, "X"), "Away with X");
     EXPECT_EQ(texts[Message::TestTitle], "Test av %1");
+}
+
+TEST(LanguageTexts, PutWhatIsInsertedInItsPlaceOnce)
+{
+    LanguageTexts texts;
+    texts.Set(Message::LogSkips, "100% %2 before %1 and %3 %");
+    EXPECT_EQ(texts(Message::LogSkips, "C:\\%2", "%1"), "100% %1 before C:\\%2 and %3 %");
+    EXPECT_EQ(texts(Message::LogSkips, "a"), "100%  before a and %3 %");
+    EXPECT_EQ(texts(Reason{Message::PackageFilesDiffer, "A", "B"}), "A och B hör inte ihop");
 }
 
 struct EncodingCase {

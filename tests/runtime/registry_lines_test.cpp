@@ -1,5 +1,7 @@
 #include "runtime/registry_lines.h"
 
+#include "runtime/language_file.h"
+
 #include <gtest/gtest.h>
 
 namespace quillon {
@@ -82,7 +84,8 @@ TEST_P(UnreadableLine, TellsItsReason)
 {
     const RegistryLine line = ReadRegistryLine(GetParam().first);
     EXPECT_EQ(line.kind, Kind::Unreadable);
-    EXPECT_EQ(line.reason, GetParam().second);
+    ASSERT_TRUE(line.reason);
+    EXPECT_EQ(LanguageTexts()[*line.reason], GetParam().second);
 }
 
 constexpr const char* kNoRoot = "raden börjar inte med någon av registrets rotnycklar";

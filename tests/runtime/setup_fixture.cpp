@@ -158,7 +158,7 @@ ExitCode SetupFixture::UninstallProduct(const Text& path)
         return ExitCode::Failed;
     }
     SilentAsk silent;
-    TextLog log(files, memory.machine, kLogFile);
+    TextLog log(files, memory.machine, kLogFile, product->texts);
     return Uninstall({host, target, silent, log, path, *product});
 }
 

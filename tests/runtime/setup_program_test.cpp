@@ -47,7 +47,9 @@ TEST_F(SetupProgramTest, WritesNothingOutOfADamagedArchive)
     AddFile("andra.txt", "%DESTDIR", "text");
     damagedEntry = 1;
     EXPECT_EQ(InstallInVain(), ExitCode::Failed);
-    EXPECT_THAT(Log(), HasSubstr("Installationsfilerna är skadade eller ofullständiga (CRC)."));
+    EXPECT_THAT(
+        Log(),
+        HasSubstr("Installationsfilerna är skadade eller ofullständiga (FILEDATA.DAT är skadad)."));
 }
 
 TEST_F(SetupProgramTest, WritesNothingWhereARowLacksItsBytes)
@@ -61,14 +63,14 @@ TEST_F(SetupProgramTest, WritesNothingWhereALengthIsWrong)
 {
     package.rows[0].size += 1;
     EXPECT_EQ(InstallInVain(), ExitCode::Failed);
-    EXPECT_THAT(Log(), HasSubstr("prog.exe har fel längd"));
+    EXPECT_THAT(Log(), HasSubstr("prog.exe har fel storlek"));
 }
 
 TEST_F(SetupProgramTest, WritesNothingOfAPackageWithAFault)
 {
-    package.fault = "QNSETUP.INF är avbruten";
+    package.fault = Reason{Message::PackageFileIncomplete, "QNSETUP.INF"};
     EXPECT_EQ(InstallInVain(), ExitCode::Failed);
-    EXPECT_THAT(Log(), HasSubstr("QNSETUP.INF är avbruten"));
+    EXPECT_THAT(Log(), HasSubstr("ofullständiga (QNSETUP.INF är ofullständig)."));
 }
 
 TEST_F(SetupProgramTest, PassesOverARowThatNeverHadASource)
@@ -291,7 +293,7 @@ TEST_F(SetupProgramTest, AsksForTheNextDiskUntilItIsThere)
     project.Media.TargetMedia = 1;
     package.setup.Floppies = 2;
     memory.files.Put("D:\\Paket\\FILEDATA.DAT", "ett");
-    ScriptedAsk script({{BoxKind::OkCancel, "Exempel", "Stoppa in diskett nr 2!", Answer::No}});
+    ScriptedAsk script({{BoxKind::OkCancel, "Exempel", "Sätt in diskett 2.", Answer::No}});
     ask = &script;
     EXPECT_EQ(InstallInVain(""), ExitCode::Cancelled);
 }
@@ -303,7 +305,7 @@ TEST_F(SetupProgramTest, AsksAgainWhileTheDriveIsEmpty)
         explicit DiskAsk(test::MemoryFiles& files) : files_(files) {}
         bool OkCancel(const Text&, const Text& text) override
         {
-            EXPECT_EQ(text, "Stoppa in diskett nr 2!");
+            EXPECT_EQ(text, "Sätt in diskett 2.");
             if (++calls == 1)
                 files_.RemoveFile("D:\\Paket\\FILEDATA.DAT");
             else
@@ -323,27 +325,32 @@ TEST_F(SetupProgramTest, AsksAgainWhileTheDriveIsEmpty)
     EXPECT_EQ(diskAsk.calls, 2);
 }
 
+Text FaultOf(const test::MemoryHost& memory)
+{
+    const LoadedPackage package = LoadPackage(memory.files, "D:\\P");
+    return package.fault ? package.texts(*package.fault) : "";
+}
+
 TEST(LoadPackageTest, TellsWhatIsMissingOrBroken)
 {
     test::MemoryHost memory;
-    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault, "QNSETUP.INF saknas eller kan inte läsas");
+    EXPECT_EQ(FaultOf(memory), "QNSETUP.INF saknas eller kan inte läsas");
     memory.files.Put("D:\\P\\QNSETUP.INF", "skräp");
-    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault, "FILELIST.INF saknas eller kan inte läsas");
+    EXPECT_EQ(FaultOf(memory), "FILELIST.INF saknas eller kan inte läsas");
     memory.files.Put("D:\\P\\FILELIST.INF", "skräp");
-    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault, "FILELIST.INF är avbruten");
+    EXPECT_EQ(FaultOf(memory), "FILELIST.INF är ofullständig");
     memory.files.Put("D:\\P\\FILELIST.INF",
                      "[Origin]\r\n\r\n[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\nFileType = FileList"
                      "\r\n\r\n[FileList]\r\n-(EOF)-\r\n\r\n");
-    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault, "QNSETUP.INF är avbruten");
+    EXPECT_EQ(FaultOf(memory), "QNSETUP.INF är ofullständig");
     const Text setup = "[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\nFileType = Options\r\n\r\n"
                        "[ProjectName]\r\nProjectName = Prov\r\n\r\n[FileListInfo]\r\nFiles = ";
     memory.files.Put("D:\\P\\QNSETUP.INF", setup + "1\r\n\r\n-(EOF)-\r\n\r\n");
-    EXPECT_EQ(LoadPackage(memory.files, "D:\\P").fault,
-              "QNSETUP.INF och FILELIST.INF hör inte ihop");
+    EXPECT_EQ(FaultOf(memory), "QNSETUP.INF och FILELIST.INF hör inte ihop");
     memory.files.Put("D:\\P\\QNSETUP.INF", setup + "0\r\n\r\n-(EOF)-\r\n\r\n");
     memory.files.Put("D:\\P\\SWEDISH.LNG", "[Setup]\r\nButton_Cancel=Stopp\r\n");
     const LoadedPackage package = LoadPackage(memory.files, "D:\\P");
-    EXPECT_EQ(package.fault, "");
+    EXPECT_FALSE(package.fault);
     EXPECT_EQ(package.setup.project.ProjectName.ProjectName, "Prov");
     EXPECT_EQ(package.texts[Message::Cancel], "Stopp");
 }

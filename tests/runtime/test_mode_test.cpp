@@ -105,7 +105,7 @@ TEST(DescribePages, KnowsEveryPage)
     EXPECT_THAT(PagesOf(project).lines,
                 ElementsAre("1. Välkommen", "2. Generell information", "3. Generell information 2",
                             "4. Avtal", "5. Avtal i RTF", "6. Lösenord", "7. Registrering (lokalt)",
-                            "8. Destinationskatalog", "9. Enhet", "10. Välj programgrupp",
+                            "8. Destinationsmapp", "9. Enhet", "10. Välj programgrupp",
                             "11. Starta installation", "12. Installationen avslutad"));
 }
 
@@ -123,7 +123,7 @@ TEST(DescribePages, HasWordsForAPageWithoutATitle)
     EXPECT_THAT(PagesOf(project).lines,
                 ElementsAre("1. Välkommen", "2. Generell information", "3. Generell information 2",
                             "4. Licensinformation", "5. Licensinformation (RTF)", "6. Lösenord",
-                            "7. Registrering (lokalt)", "8. Destinationskatalog", "9. Enhet",
+                            "7. Registrering (lokalt)", "8. Destinationsmapp", "9. Enhet",
                             "10. Välj programgrupp", "11. Starta installation",
                             "12. Installationen avslutad"));
 }
@@ -218,7 +218,7 @@ TEST_F(TestModeTest, TellsOfFilesThatAreMissingOrBroken)
     const FaultCase cases[] = {
         {"no list", "FILELIST.INF saknas eller kan inte läsas",
          [](MemoryHost& on) { on.files.RemoveFile(kList); }},
-        {"a cut list", "FILELIST.INF är avbruten",
+        {"a cut list", "FILELIST.INF är ofullständig",
          [](MemoryHost& on) { on.files.Put(kList, "[FileList]\r\n"); }},
         {"files of two runs", "QNSETUP.INF och FILELIST.INF hör inte ihop",
          [](MemoryHost& on) { on.files.Put(kList, GoldenFile("builder/file_list/FILELIST.INF")); }},

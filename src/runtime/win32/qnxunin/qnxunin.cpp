@@ -99,7 +99,7 @@ ExitCode RunUninstall(Host& host, Ask& ask, const CommandLine& line,
 {
     TextLog log;
     if (!line.switches.logFile.empty())
-        log = TextLog(host.files, host.machine, line.switches.logFile);
+        log = TextLog(host.files, host.machine, line.switches.logFile, product.texts);
     WinTarget target;
     const Text away = MoveSelfAway(host, line.logPath);
     const ExitCode code = Uninstall({host, target, ask, log, line.logPath, product});

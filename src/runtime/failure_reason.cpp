@@ -1,0 +1,74 @@
+#include "runtime/failure_reason.h"
+
+#include "formats/package_files.h"
+#include "helpers/number_text.h"
+
+namespace quillon {
+
+namespace {
+
+// The words for a failure that names its file; `Count` where there are none but its number.
+Message MessageOf(int number)
+{
+    switch (number) {
+    case ErrorNumber::kFileNotFound:
+        return Message::ReasonFileNotFound;
+    case ErrorNumber::kPathNotFound:
+        return Message::ReasonFolderNotFound;
+    case ErrorNumber::kPermissionDenied:
+        return Message::ReasonAccessDenied;
+    case ErrorNumber::kDeviceIo:
+    case ErrorNumber::kPathFileAccess:
+        return Message::ReasonNoAccess;
+    case ErrorNumber::kDiskFull:
+        return Message::ReasonDiskFull;
+    default:
+        return Message::Count;
+    }
+}
+
+} // namespace
+
+Reason ReasonOf(const RunError& error)
+{
+    if (error.Path().empty())
+        return {Message::ReasonErrorNumber, NumberText(error.Number())};
+    const Message message = MessageOf(error.Number());
+    if (message == Message::Count)
+        return {Message::ReasonErrorAt, NumberText(error.Number()), error.Path()};
+    return {message, error.Path()};
+}
+
+Reason ReasonOf(const ZipError& error)
+{
+    switch (error.Reason()) {
+    case ZipError::Kind::NotAnArchive:
+        return {Message::PackageNotArchive, kFileContainerName};
+    case ZipError::Kind::Unsupported:
+        return {Message::PackageUnknownPacking, kFileContainerName};
+    case ZipError::Kind::WrongPassword:
+        return {Message::WrongPassword};
+    case ZipError::Kind::Damaged:
+        break;
+    }
+    return {Message::PackageFileDamaged, kFileContainerName};
+}
+
+Text FailureReason(const std::exception& error, const LanguageTexts& texts)
+{
+    if (const auto* machine = dynamic_cast<const RunError*>(&error))
+        return texts(ReasonOf(*machine));
+    if (const auto* archive = dynamic_cast<const ZipError*>(&error))
+        return texts(ReasonOf(*archive));
+    // Where the user has cancelled there is nothing to explain.
+    if (const auto* setup = dynamic_cast<const SetupFailure*>(&error))
+        return *setup->what() == 0 ? texts[Message::ReasonCancelled] : setup->what();
+    return texts[Message::ReasonUnexpected];
+}
+
+SetupFailure DamagedPackage(const LanguageTexts& texts, const Reason& reason)
+{
+    return {ExitCode::Failed, texts(Message::Damaged, texts(reason))};
+}
+
+} // namespace quillon

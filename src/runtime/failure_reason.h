@@ -1,0 +1,23 @@
+// Why something failed, in the language of the package: what the machine, an archive or the setup
+// itself has thrown, as a part of a sentence for a box or a line of the log.
+#pragma once
+
+#include "formats/zip_reader.h"
+#include "platform/run_error.h"
+#include "runtime/exit_codes.h"
+#include "runtime/language_file.h"
+
+#include <exception>
+
+namespace quillon {
+
+Reason ReasonOf(const RunError& error);
+/// The archive is the one of the package's files.
+Reason ReasonOf(const ZipError& error);
+
+Text FailureReason(const std::exception& error, const LanguageTexts& texts);
+
+/// Ends the installation because of the package itself: nothing has been changed yet.
+SetupFailure DamagedPackage(const LanguageTexts& texts, const Reason& reason);
+
+} // namespace quillon

@@ -1,0 +1,35 @@
+// What an end user reads comes from the package's language file. A Swedish text anywhere else in
+// the setup's sources would be shown to every user, whatever the language.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kRuntime = fs::path(QUILLON_TEST_DATA).parent_path() / "src" / "runtime";
+constexpr const char* kTableOfTexts = "messages.cpp";
+
+TEST(RuntimeTexts, StandInTheTableOfTextsAlone)
+{
+    static const std::regex foreignLiteral("\"[^\"]*[\x80-\xFF][^\"]*\"");
+    int inTable = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(kRuntime)) {
+        std::ifstream file(entry.path());
+        for (std::string line; std::getline(file, line);) {
+            if (!std::regex_search(line, foreignLiteral))
+                continue;
+            if (entry.path().filename() == kTableOfTexts)
+                ++inTable;
+            else
+                ADD_FAILURE() << fs::relative(entry.path(), kRuntime).string() << ": " << line;
+        }
+    }
+    EXPECT_GT(inTable, 50);
+}
+
+} // namespace
