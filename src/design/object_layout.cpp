@@ -66,19 +66,6 @@ void StretchOversized(section::DesPicture& picture, PictureBox& box, const Surfa
     box.isStretched = picture.StretchPicture != kOff;
 }
 
-PixelSize LogotypeSize(const section::DesLogotype& record, const MeasurePicture& measure)
-{
-    const PixelSize own = measure(record.LogotypeFilename);
-    if (IsMetafileName(record.LogotypeFilename))
-        return {record.LogotypeWMFWidth, record.LogotypeWMFHeight};
-    return own;
-}
-
-bool IsLogotypeTooLarge(const SurfacePlace& logotype, const SurfacePlace& surface)
-{
-    return surface.Width <= logotype.Width || surface.Height <= logotype.Height;
-}
-
 void RefuseLogotype(section::DesLogotype& record, LogotypeBox& box, Ask& ask)
 {
     box.isVisible = false;
@@ -187,23 +174,35 @@ Colour LogotypeBackColor(const SurfacePaint& paint)
     return paint.ColorTo == 0 ? kDarkGrey : paint.ColorTo;
 }
 
-LogotypeBox LayOutLogotype(section::DesLogotype& record, const LogotypeSurround& surround,
-                           const MeasurePicture& measure, Ask& ask)
+LogotypeBox PlaceLogotype(const section::DesLogotype& record, const LogotypeSurround& surround,
+                          PixelSize size)
 {
-    LogotypeBox box;
-    if (record.LogotypeFilename.empty())
-        return box;
-    const PixelSize size = LogotypeSize(record, measure);
-    box.isMetafile = IsMetafileName(record.LogotypeFilename);
-    box.BackColor = LogotypeBackColor(surround.paint);
+    LogotypeBox box{.isVisible = true,
+                    .isMetafile = IsMetafileName(record.LogotypeFilename),
+                    .BackColor = LogotypeBackColor(surround.paint)};
+    if (box.isMetafile)
+        size = {record.LogotypeWMFWidth, record.LogotypeWMFHeight};
     box.place.Width = size.width * surround.screen.TPPX;
     box.place.Height = size.height * surround.screen.TPPY;
     box.place.Left = record.LogotypeAlignment == kAtTheLeft
                          ? kLogotypeSide
                          : surround.tabWidth - box.place.Width - kLogotypeSide;
     box.place.Top = surround.surface.Height - box.place.Height - kLogotypeBelow;
-    box.isVisible = true;
-    if (IsLogotypeTooLarge(box.place, surround.surface))
+    return box;
+}
+
+bool IsLogotypeTooLarge(const LogotypeBox& logotype, const SurfacePlace& surface)
+{
+    return surface.Width <= logotype.place.Width || surface.Height <= logotype.place.Height;
+}
+
+LogotypeBox LayOutLogotype(section::DesLogotype& record, const LogotypeSurround& surround,
+                           const MeasurePicture& measure, Ask& ask)
+{
+    if (record.LogotypeFilename.empty())
+        return {};
+    LogotypeBox box = PlaceLogotype(record, surround, measure(record.LogotypeFilename));
+    if (IsLogotypeTooLarge(box, surround.surface))
         RefuseLogotype(record, box, ask);
     return box;
 }

@@ -73,10 +73,17 @@ struct LogotypeSurround {
     SurfacePaint paint;
 };
 
-/// Lays the logotype out. Kept: one placed right follows the width of the tab and not the
-/// surface's. A logotype as wide or as high as the surface is refused with a message and taken out
-/// of the record. A picture that can't be read is a `RunError`; the record keeps its name until
-/// the caller takes it out.
+/// Where a logotype of that size stands. Kept: one placed right follows the width of the tab and
+/// not the surface's. A metafile takes the size of its record in place of its own.
+LogotypeBox PlaceLogotype(const section::DesLogotype& record, const LogotypeSurround& surround,
+                          PixelSize size);
+
+/// Whether the logotype is as wide or as high as the surface, which no setup shows.
+bool IsLogotypeTooLarge(const LogotypeBox& logotype, const SurfacePlace& surface);
+
+/// Lays the logotype out. One that is too large is refused with a message and taken out of the
+/// record. A picture that can't be read is a `RunError`; the record keeps its name until the
+/// caller takes it out.
 LogotypeBox LayOutLogotype(section::DesLogotype& record, const LogotypeSurround& surround,
                            const MeasurePicture& measure, Ask& ask);
 

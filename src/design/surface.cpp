@@ -10,7 +10,6 @@ namespace quillon {
 
 namespace {
 
-constexpr Long kMargin = 80;
 constexpr Long kWidthBeside = 160;
 constexpr Long kHeightBeside = 485;
 constexpr Long kTallCaptionTakes = 30;
@@ -29,8 +28,8 @@ Long DepthOf(const Text& depth)
 
 void PlaceDesignArea(SurfacePlace& surface, Long tabWidth, Long tabHeight, bool hasTallCaption)
 {
-    surface.Left = kMargin;
-    surface.Top = kMargin;
+    surface.Left = kSurfaceMargin;
+    surface.Top = kSurfaceMargin;
     const Long width = tabWidth - (kWidthBeside + (hasTallCaption ? kTallCaptionTakes : 0));
     if (width > 0)
         surface.Width = width;
@@ -42,6 +41,11 @@ void PlaceDesignArea(SurfacePlace& surface, Long tabWidth, Long tabHeight, bool 
 bool HasTallCaption(bool isWindowsXP, int captionPixels)
 {
     return isWindowsXP && captionPixels > kUsualCaption;
+}
+
+Blend BlendOf(const SurfacePaint& paint)
+{
+    return {paint.ColorFrom, paint.ColorTo, paint.BlendDepth, paint.BlendStyle};
 }
 
 void SetBlend(SurfacePaint& paint, const section::DesBackground& background)

@@ -2,6 +2,7 @@
 // with.
 #pragma once
 
+#include "design/ground.h"
 #include "platform/ask.h"
 #include "project/records.h"
 
@@ -17,6 +18,9 @@ struct SurfacePlace {
     bool operator==(const SurfacePlace&) const = default;
 };
 
+/// Between the tab's page and the surface, left and above, in twips.
+inline constexpr Long kSurfaceMargin = 80;
+
 /// What the tab's row of captions takes of the height that `PlaceDesignArea` reckons with.
 inline constexpr Long kTabCaptionsHeight = 325;
 
@@ -27,9 +31,6 @@ void PlaceDesignArea(SurfacePlace& surface, Long tabWidth, Long tabHeight, bool 
 /// Whether windows on this machine have captions that take room from the surface.
 bool HasTallCaption(bool isWindowsXP, int captionPixels);
 
-/// The ways of a blend, as the painter counts them.
-enum class BlendStyle : Integer { ToTheRight, ToTheLeft, Upwards, Downwards, Outwards };
-
 struct SurfacePaint {
     bool UsePicture = false;
     bool StretchPicture = false;
@@ -38,6 +39,9 @@ struct SurfacePaint {
     Long BlendDepth = 100;
     quillon::BlendStyle BlendStyle = quillon::BlendStyle::Downwards;
 };
+
+/// The part of the paint that has no picture.
+Blend BlendOf(const SurfacePaint& paint);
 
 /// The colours of the record. Kept: a single colour is a blend from the colour to itself, and
 /// leaves the depth of the blend before it.

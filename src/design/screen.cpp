@@ -1,0 +1,218 @@
+#include "design/screen.h"
+
+#include "design/text_panel.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+class ScreenPainter {
+public:
+    ScreenPainter(const Canvas& canvas, Letters& letters, const ScreenDesign& design)
+        : canvas_(canvas), letters_(letters), design_(design),
+          project_(design.project), scale_{double(canvas.width) / std::max(design.width, 1),
+                                           double(canvas.height) / std::max(design.height, 1)}
+    {
+        // The margin is that of the tab on which the author placed the objects.
+        surface_.Width = design.width * design.metrics.TPPX;
+        surface_.Height = design.height * design.metrics.TPPY;
+        surface_.Left = surface_.Top = kSurfaceMargin;
+        paint_.UsePicture = project_.DesBackground.Type != 1;
+        paint_.StretchPicture = project_.DesBackground.StretchPicture != kOff;
+        SetBlend(paint_, project_.DesBackground);
+    }
+
+    void Paint()
+    {
+        PaintBackground();
+        const int titleBottom = PaintTheTitle();
+        if (!design_.hidesPictures) {
+            PaintPictures();
+            PaintChanging();
+        }
+        PaintLogotype();
+        PaintTextBox(titleBottom);
+        PaintRTFbox();
+    }
+
+    PixelRect ChangingRect() const
+    {
+        const ShownBox box = LayOutPicturesAnim(project_.DesPicturesAnim, design_.metrics);
+        return box.isVisible ? RectOf(box.place) : PixelRect{};
+    }
+
+private:
+    PixelRect Whole() const { return RectAt(0, 0, canvas_.width, canvas_.height); }
+
+    PixelRect RectOf(const SurfacePlace& place) const
+    {
+        const double across = scale_.x / design_.metrics.TPPX;
+        const double down = scale_.y / design_.metrics.TPPY;
+        const auto pixels = [](double value) { return static_cast<int>(RoundToEven(value)); };
+        return {pixels((place.Left - surface_.Left) * across),
+                pixels((place.Top - surface_.Top) * down),
+                pixels((place.Left + place.Width - surface_.Left) * across),
+                pixels((place.Top + place.Height - surface_.Top) * down)};
+    }
+
+    // In its own size a picture keeps its shape, whatever the screen's.
+    Picture InOwnSize(const Picture& picture) const
+    {
+        return Scaled(picture, std::max(scale_.BothPixels(picture.width), 1),
+                      std::max(scale_.BothPixels(picture.height), 1));
+    }
+
+    void PaintBackground()
+    {
+        const Picture& picture = design_.pictures.background;
+        if (!paint_.UsePicture || picture.IsEmpty()) {
+            PaintBlend(canvas_, Whole(), BlendOf(paint_));
+            return;
+        }
+        if (paint_.StretchPicture) {
+            PaintPicture(canvas_, Scaled(picture, canvas_.width, canvas_.height), 0, 0);
+            return;
+        }
+        FillRect(canvas_, Whole(), PixelOf(paint_.ColorFrom));
+        const Picture own = InOwnSize(picture);
+        PaintPicture(canvas_, own, (canvas_.width - own.width) / 2,
+                     (canvas_.height - own.height) / 2);
+    }
+
+    int PaintTheTitle()
+    {
+        const TitleRecords records{project_.DesTitle, project_.DesTitleUnderline,
+                                   project_.DesSubTitle};
+        PaintTitle(canvas_, LayOutTitle(letters_, records, scale_, canvas_.width), records);
+        // Where it ends on the author's surface: the box below it is placed there.
+        return LayOutTitle(letters_, records, {}, design_.width).TitleBottom;
+    }
+
+    void PaintPictures()
+    {
+        section::DesPictures record = project_.DesPictures;
+        PictureBoxes boxes;
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            if (design_.pictures.pictures[i].IsEmpty())
+                record.Pictures[i].PictureFilename.clear();
+        std::size_t next = 0;
+        LayOutPictures(record, boxes, surface_, design_.metrics, [&](const Text&) {
+            while (record.Pictures[next].PictureFilename.empty())
+                ++next;
+            const Picture& picture = design_.pictures.pictures[next++];
+            return PixelSize{picture.width, picture.height};
+        });
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            if (boxes[i].isVisible)
+                PaintInBox(design_.pictures.pictures[i], boxes[i]);
+    }
+
+    void PaintInBox(const Picture& picture, const PictureBox& box)
+    {
+        const PixelRect rect = RectOf(box.place);
+        const Picture sized =
+            box.isStretched ? Scaled(picture, rect.Width(), rect.Height()) : InOwnSize(picture);
+        PaintPicture(canvas_, sized, rect.left, rect.top);
+    }
+
+    void PaintChanging()
+    {
+        const PixelRect rect = ChangingRect();
+        if (rect.IsEmpty() || design_.pictures.changing.IsEmpty())
+            return;
+        Canvas inside = canvas_;
+        inside.clip = Intersect(canvas_.clip, rect);
+        const Picture& picture = design_.pictures.changing;
+        PaintPicture(inside,
+                     project_.DesPicturesAnim.StretchPicture != kOff
+                         ? Scaled(picture, rect.Width(), rect.Height())
+                         : InOwnSize(picture),
+                     rect.left, rect.top);
+    }
+
+    void PaintLogotype()
+    {
+        const Picture& picture = design_.pictures.logotype;
+        if (project_.DesLogotype.LogotypeFilename.empty() || picture.IsEmpty())
+            return;
+        const LogotypeSurround surround{.surface = surface_,
+                                        .tabWidth = surface_.Width + 2 * kSurfaceMargin,
+                                        .screen = design_.metrics,
+                                        .paint = paint_};
+        const LogotypeBox box =
+            PlaceLogotype(project_.DesLogotype, surround, {picture.width, picture.height});
+        if (IsLogotypeTooLarge(box, surface_))
+            return;
+        const PixelRect rect = RectOf(box.place);
+        if (box.isMetafile)
+            FillRect(canvas_, rect, PixelOf(box.BackColor));
+        PaintPicture(canvas_, Scaled(picture, rect.Width(), rect.Height()), rect.left, rect.top);
+    }
+
+    void PaintTextBox(int titleBottom)
+    {
+        section::DesTextBox record = project_.DesTextBox;
+        const TextBoxLayout layout =
+            LayOutTextBox(record, surface_, design_.metrics, titleBottom, 0);
+        if (layout.isVisible)
+            PaintTextPanel(canvas_, letters_, RectOf(layout.box), record, scale_,
+                           record.BoxUseBackColor != kOff);
+    }
+
+    void PaintRTFbox()
+    {
+        section::DesRTFbox record = project_.DesRTFbox;
+        const ShownBox box = LayOutRTFbox(record, surface_, design_.metrics);
+        if (!box.isVisible)
+            return;
+        static const RtfText kNoText;
+        PaintRtfPanel(
+            canvas_, letters_,
+            {.box = RectOf(box.place), .backColor = record.RTFboxBackColor, .scale = scale_.Both()},
+            design_.rtfBox ? *design_.rtfBox : kNoText);
+    }
+
+    const Canvas& canvas_;
+    Letters& letters_;
+    const ScreenDesign& design_;
+    const Project& project_;
+    ScreenScale scale_;
+    SurfacePlace surface_;
+    SurfacePaint paint_;
+};
+
+} // namespace
+
+void ApplyTransparency(ScreenPictures& pictures, const Project& project)
+{
+    const section::DesPictures& free = project.DesPictures;
+    for (std::size_t i = 0; i < pictures.pictures.size(); ++i)
+        if (free.Pictures[i].UseTransparentBkg != kOff)
+            MakeTransparent(pictures.pictures[i], TransparentColour(free.TransparentColorNr));
+    const section::DesLogotype& logotype = project.DesLogotype;
+    if (logotype.UseTransparentBkg != kOff)
+        MakeTransparent(pictures.logotype, TransparentColour(logotype.TransparentColorNr));
+}
+
+void PaintScreen(const Canvas& canvas, Letters& letters, const ScreenDesign& design)
+{
+    ScreenPainter(canvas, letters, design).Paint();
+}
+
+PixelRect ChangingPicturesRect(const ScreenDesign& design, int width, int height)
+{
+    // Only the arithmetic is asked; no letter is drawn and no pixel painted.
+    struct NoLetters : Letters {
+        FontHeight Height(const ScreenFont&) override { return {}; }
+        std::vector<int> Advances(const ScreenFont&, const Text&) override { return {}; }
+        LetterMask Draw(const ScreenFont&, const Text&, const std::vector<int>&) override
+        {
+            return {};
+        }
+    } none;
+    return ScreenPainter(WholeCanvas(nullptr, width, height), none, design).ChangingRect();
+}
+
+} // namespace quillon

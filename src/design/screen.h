@@ -1,0 +1,42 @@
+// The whole screen behind the setup, painted from the records of a project: what the setup shows,
+// what `quillonc screen` writes, and, part by part, what the design tab previews.
+#pragma once
+
+#include "design/object_layout.h"
+#include "design/picture.h"
+#include "design/rtf_panel.h"
+
+namespace quillon {
+
+/// The decoded files of a design; what it lacks is empty.
+struct ScreenPictures {
+    Picture background;
+    std::array<Picture, section::kDesPictureCount> pictures;
+    Picture changing;
+    Picture logotype;
+};
+
+/// Takes the transparent colour out of the pictures that have one; once, before they are painted.
+void ApplyTransparency(ScreenPictures& pictures, const Project& project);
+
+struct ScreenDesign {
+    // Its design sections; the texts have their variables expanded.
+    const Project& project;
+    // The surface on which the author made it, in pixels.
+    int width = 640;
+    int height = 480;
+    ScreenMetrics metrics;
+
+    const ScreenPictures& pictures;
+    const RtfText* rtfBox = nullptr; // null where it can't be read
+    bool hidesPictures = false;      // while a page of the setup is shown
+};
+
+/// Paints the canvas's clip. The design is scaled to the canvas: places and sizes in both
+/// directions, letters and pictures of their own size by the smaller factor.
+void PaintScreen(const Canvas& canvas, Letters& letters, const ScreenDesign& design);
+
+/// Where the changing pictures are shown on a canvas of that size; empty where there are none.
+PixelRect ChangingPicturesRect(const ScreenDesign& design, int width, int height);
+
+} // namespace quillon
