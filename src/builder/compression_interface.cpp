@@ -77,6 +77,7 @@ struct CompressionInterface::State {
     std::vector<Item> items = {};
     std::unordered_map<Text, std::size_t> itemOfPath = {};
     Integer disksUsed = 0;
+    std::vector<Sha256Digest> pieceDigests = {};
     std::optional<CompressionFailure> failure = {};
 
     void Add(const Text& path, const Text& row);
@@ -111,6 +112,7 @@ void CompressionInterface::State::Add(const Text& path, const Text& row)
 Integer CompressionInterface::State::Create(const Order& order)
 {
     disksUsed = 0;
+    pieceDigests.clear();
     failure.reset();
     CompressionLog log;
     try {
@@ -189,6 +191,7 @@ void CompressionInterface::State::Deliver(const Order& order, const Text& finish
                                                ask.YieldToEvents();
                                            });
     disksUsed = spanning.disksUsed;
+    pieceDigests = spanning.digests;
     if (spanning.result != CompressionResult::kDone)
         throw CompressionFailure(spanning.result, spanning.path);
     if (disksUsed > 1 && !disks.FirstDiskAgain())
@@ -257,6 +260,11 @@ Integer CompressionInterface::IfcCreateDesignZipFile(const Text& target)
 Integer CompressionInterface::IfcGetNrFloppiesUsed() const
 {
     return state_->disksUsed;
+}
+
+const std::vector<Sha256Digest>& CompressionInterface::PieceDigests() const
+{
+    return state_->pieceDigests;
 }
 
 void CompressionInterface::IfcFreeFileList()

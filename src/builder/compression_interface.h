@@ -4,6 +4,7 @@
 
 #include "builder/compression_result.h"
 #include "helpers/number_text.h"
+#include "helpers/sha256.h"
 #include "helpers/text.h"
 #include "platform/ask.h"
 #include "platform/host.h"
@@ -11,6 +12,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace quillon {
 
@@ -24,6 +26,9 @@ public:
     virtual std::optional<Text> NextDisk(int number) = 0;
     /// Behind the last disk: whether the first one, with the package's own files, is at hand again.
     virtual bool FirstDiskAgain() { return true; }
+    /// Bytes of the first disk to leave for what is written behind the pieces of an archive of this
+    /// size.
+    virtual std::uint64_t RoomToLeave(std::uint64_t) const { return 0; }
     /// Bytes that the disk in this folder can still take.
     virtual std::uint64_t Capacity(const Text& folder) const = 0;
 };
@@ -47,6 +52,8 @@ public:
     /// Entries carry the file names alone.
     Integer IfcCreateDesignZipFile(const Text& target);
     Integer IfcGetNrFloppiesUsed() const;
+    /// Of the pieces that the last spanning call wrote, in the order of the disks.
+    const std::vector<Sha256Digest>& PieceDigests() const;
     void IfcFreeFileList();
 
     /// Why the last archive could not be made, with the file concerned; nothing where it was made.

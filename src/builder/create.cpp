@@ -7,6 +7,7 @@
 #include "builder/file_list_file.h"
 #include "builder/language_copy.h"
 #include "builder/one_by_one.h"
+#include "builder/package_writing.h"
 #include "builder/remove_quietly.h"
 #include "builder/runtime_files.h"
 #include "builder/setup_info_file.h"
@@ -109,6 +110,7 @@ Step WriteAutorun(CreateRun& run)
         run.ask.AddStatusLine("Skapar AUTORUN.INF");
         WriteAutorunFile(run.host.files, run.InDestination(kAutorunName),
                          run.project.InstallOptions.SetupName);
+        run.packageFiles.push_back(kAutorunName);
     }
     return Step::GoOn;
 }
@@ -142,6 +144,7 @@ Step WriteFileList(CreateRun& run)
     const int error =
         WriteFileListFile(run.InDestination(kFileListName), run.project, run.host, outcome);
     run.FilesInList = outcome.FilesInList;
+    run.packageFiles.push_back(kFileListName);
     run.failure = outcome.failure;
     switch (error) {
     case ErrorNumber::kNone:
@@ -175,6 +178,7 @@ Step WriteSetupInfo(CreateRun& run)
     const int error =
         WriteSetupInfoFile(run.InDestination(kSetupInformationName), input, SetupInfoMode::Create);
     run.failure = input.failure;
+    run.packageFiles.push_back(kSetupInformationName);
     if (error == ErrorNumber::kNone)
         return Step::GoOn;
     run.ask.AddStatusLine("Fel #" + NumberText(error) +
@@ -186,7 +190,8 @@ Step CopyLanguageFile(CreateRun& run)
 {
     const Text& name = run.project.Language.LanguageFile;
     run.ask.AddStatusLine("Kopierar " + name);
-    CopyLanguageTo(run.DestDir, name, run.options.ToolFolder, run.host.files);
+    CopyLanguageTo(run.BuildFolder(), name, run.options.ToolFolder, run.host.files);
+    run.packageFiles.push_back(name);
     return Step::GoOn;
 }
 
@@ -234,12 +239,25 @@ Step TellEnd(CreateRun& run)
     return Step::GoOn;
 }
 
-constexpr Step (*kStepsInOrder[])(CreateRun&) = {
-    Begin,           SortLongList,     ClearInternetFolder,   CopySetupExe,
-    CopyRuntimeExe,  CopyUnzipLibrary, CopyRegistryHelper,    CopySecondRegistryHelper,
-    CopyUninstaller, CopyLicenseRtf,   WriteAutorun,          WriteFileList,
-    WriteSetupInfo,  CopyLanguageFile, CreateDesignContainer, PlaceProjectFiles,
-    TellEnd};
+constexpr Step (*kStepsInOrder[])(CreateRun&) = {Begin,
+                                                 SortLongList,
+                                                 ClearInternetFolder,
+                                                 BeginPackage,
+                                                 CopySetupExe,
+                                                 CopyRuntimeExe,
+                                                 CopyUnzipLibrary,
+                                                 CopyRegistryHelper,
+                                                 CopySecondRegistryHelper,
+                                                 CopyUninstaller,
+                                                 CopyLicenseRtf,
+                                                 WriteAutorun,
+                                                 WriteFileList,
+                                                 WriteSetupInfo,
+                                                 CopyLanguageFile,
+                                                 CreateDesignContainer,
+                                                 PlaceProjectFiles,
+                                                 FinishPackage,
+                                                 TellEnd};
 
 CreateResult RunPipeline(CreateRun& run)
 {
@@ -262,10 +280,13 @@ CreateResult RunCreate(CreateRun& run)
         Prepare(run);
         if (RunChecks(run) == Check::Stopped)
             return CreateResult::Stopped;
-        return RunPipeline(run);
+        const CreateResult result = RunPipeline(run);
+        LeavePackage(run);
+        return result;
     } catch (const RunError& error) {
         // Kept: the buttons stay disabled until the form is opened anew.
         run.failure = error;
+        LeavePackage(run);
         run.ask.AddStatusLine("Kan ej skapa!");
         run.ask.Critical("Fel", "Fel! Kan ej skriva till destinationsenheten!");
         return CreateResult::Failed;

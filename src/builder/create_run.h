@@ -4,6 +4,7 @@
 #include "builder/compression_interface.h"
 #include "builder/create_form.h"
 #include "builder/create_options.h"
+#include "formats/package_manifest.h"
 #include "platform/run_error.h"
 
 #include <optional>
@@ -43,7 +44,15 @@ struct CreateRun {
     // The same of a container; its status lines have a number and no name.
     std::optional<CompressionFailure> compressionFailure = {};
 
-    Text InDestination(const Text& name) const { return DestDir + "\\" + name; }
+    // Where the files are made while an older package lies in the destination; empty otherwise.
+    Text stagingFolder = {};
+    // What the package consists of so far, below its folder; of a tree without the project's files.
+    std::vector<Text> packageFiles = {};
+    // The pieces of the container where it was cut: their disks may be out of the drive by now.
+    std::vector<ManifestLine> piecesOnDisks = {};
+
+    const Text& BuildFolder() const { return stagingFolder.empty() ? DestDir : stagingFolder; }
+    Text InDestination(const Text& name) const { return BuildFolder() + "\\" + name; }
 };
 
 } // namespace quillon

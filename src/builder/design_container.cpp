@@ -53,6 +53,8 @@ Step CreateDesignContainer(CreateRun& run)
         run.ask.AddStatusLine("Inga skärmobjekt kopierade - raderar DESOBJ.DAT");
     else if (result > CompressionResult::kDone)
         TakeUntoldFailure(run);
+    else
+        run.packageFiles.push_back(kDesignContainerName);
     return Step::GoOn;
 }
 

@@ -5,6 +5,7 @@
 #include "builder/remove_quietly.h"
 #include "builder/source_address.h"
 #include "filelist/system_files.h"
+#include "formats/package.h"
 #include "project/profile_writer.h"
 
 namespace quillon {
@@ -50,6 +51,15 @@ void TellSuccess(CreateRun& run, bool spanning)
                           ConvertLongToString(run.FilesInList) + " st");
 }
 
+void ListContainer(CreateRun& run, bool spanning)
+{
+    if (!spanning)
+        run.packageFiles.push_back(kFileContainerName);
+    else
+        for (const Sha256Digest& digest : run.compression.PieceDigests())
+            run.piecesOnDisks.push_back({PieceName(int(run.piecesOnDisks.size()) + 1), digest});
+}
+
 void WriteFloppyCount(CreateRun& run)
 {
     run.ask.AddStatusLine("Uppdaterar QNSETUP.INF med diskettinformation");
@@ -89,8 +99,10 @@ void CreateFileContainer(CreateRun& run, bool spanning)
     }
     run.FloppiesUsed = spanning ? run.compression.IfcGetNrFloppiesUsed() : Integer(0);
     run.compression.IfcFreeFileList();
-    if (!failed)
+    if (!failed) {
+        ListContainer(run, spanning);
         TellSuccess(run, spanning);
+    }
     if (spanning)
         WriteFloppyCount(run);
 }

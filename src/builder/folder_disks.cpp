@@ -98,6 +98,14 @@ std::uint64_t FolderDisks::Capacity(const Text& folder) const
     return used < kDiskCapacity ? kDiskCapacity - used : 0;
 }
 
+std::uint64_t FolderDisks::RoomToLeave(std::uint64_t archiveSize) const
+{
+    constexpr std::uint64_t kLinesOfFiles = 2048; // two dozen
+    constexpr std::uint64_t kLineOfPiece = 96;
+    constexpr std::uint64_t kSmallestDisk = 360 * 1024;
+    return WholeClusters(kLinesOfFiles + kLineOfPiece * (archiveSize / kSmallestDisk + 1));
+}
+
 std::uint64_t FolderDisks::Used(const Text& folder, bool isPackageFolder) const
 {
     std::uint64_t used = 0;

@@ -25,6 +25,9 @@ public:
     /// file takes whole clusters.
     std::uint64_t Capacity(const Text& folder) const override;
 
+    /// The package's manifest goes onto the first disk when all are full.
+    std::uint64_t RoomToLeave(std::uint64_t archiveSize) const override;
+
 protected:
     Host& host_;
     Text packageFolder_; // without a trailing backslash

@@ -18,6 +18,17 @@ struct Layout {
     Text folder;
 };
 
+// A folder as the user will find it, also while the package is made beside an older one.
+Text Shown(const CreateRun& run, const Text& folder)
+{
+    return run.DestDir + folder.substr(run.BuildFolder().size());
+}
+
+void ListFile(CreateRun& run, const Text& path)
+{
+    run.packageFiles.push_back(path.substr(run.BuildFolder().size() + 1));
+}
+
 void MakeFolder(CreateRun& run, const Text& folder)
 {
     if (!run.host.files.DirCreate(folder))
@@ -26,12 +37,12 @@ void MakeFolder(CreateRun& run, const Text& folder)
 
 void MakeBaseFolder(CreateRun& run, const Text& folder)
 {
-    if (run.host.files.DirExists(folder)) {
-        run.ask.AddStatusLine("Katalogen '" + folder + "' existerar redan. Behöver ej skapa.");
-        return;
-    }
-    run.ask.AddStatusLine("Skapar '" + folder + "'");
-    MakeFolder(run, folder);
+    const Text shown = Shown(run, folder);
+    run.ask.AddStatusLine(run.host.files.DirExists(shown)
+                              ? "Katalogen '" + shown + "' existerar redan. Behöver ej skapa."
+                              : "Skapar '" + shown + "'");
+    if (!run.host.files.DirExists(folder))
+        MakeFolder(run, folder);
 }
 
 void CopyPlain(CreateRun& run, Layout& layout, const FileListRow& row)
@@ -40,10 +51,11 @@ void CopyPlain(CreateRun& run, Layout& layout, const FileListRow& row)
     layout.folder = keepsTree ? FolderInTree(layout.base, row[Destination]) : layout.base;
     if (keepsTree && !run.host.files.DirExists(layout.folder))
         MakeFolder(run, layout.folder);
-    const Text name = keepsTree ? row[Filename] : MarkedName(row[Filename]);
+    const Text target =
+        JoinPath(layout.folder, keepsTree ? row[Filename] : MarkedName(row[Filename]));
     CopyAlive(run.host.files, run.ask,
-              ConvertLongFilenameToShortFilename(run.host.files, row[Source]),
-              JoinPath(layout.folder, name));
+              ConvertLongFilenameToShortFilename(run.host.files, row[Source]), target);
+    ListFile(run, target);
     run.ask.AddStatusLine("Kopierar '" + row[Filename] + "'");
 }
 
@@ -52,10 +64,10 @@ void CopyCompressed(CreateRun& run, const Layout& layout, const FileListRow& row
     run.compression.IfcInitDynaZipStruct("", 0, CompressionLevel(run.form));
     run.compression.IfcResetFileList();
     const Text source = ConvertLongFilenameToShortFilename(run.host.files, row[Source]);
+    const Text target = JoinPath(layout.base, MarkedName(row[Filename]));
     Integer result = CompressionResult::kSourceMissing;
     if (run.compression.IfcAddFileListItem(source) != 0)
-        result = run.compression.IfcCreateZipFile(JoinPath(layout.base, MarkedName(row[Filename])),
-                                                  0, "");
+        result = run.compression.IfcCreateZipFile(target, 0, "");
     run.compression.IfcFreeFileList();
     if (result > CompressionResult::kDone) {
         TellCompressionError(run.ask, "'" + row[Filename] + "'", result,
@@ -64,6 +76,7 @@ void CopyCompressed(CreateRun& run, const Layout& layout, const FileListRow& row
         run.compressionFailure.emplace(result, source);
         return;
     }
+    ListFile(run, target);
     run.ask.AddStatusLine("Kopierar och komprimerar '" + row[Filename] + "'");
 }
 
@@ -108,13 +121,13 @@ void CopyAllFiles(CreateRun& run, Layout& layout)
 void CopyFilesOneByOne(CreateRun& run)
 {
     const bool inSubfolder = run.options.PlaceCompressedFilesInFolderSetupFiles != kOff;
-    const Text base = inSubfolder ? run.InDestination(kSetupFilesFolder) : run.DestDir;
+    const Text base = inSubfolder ? run.InDestination(kSetupFilesFolder) : run.BuildFolder();
     Layout layout{base, base};
     const auto copyAll = [&] { CopyAllFiles(run, layout); };
     if (RunErrorNumber(copyAll, run.failure) == ErrorNumber::kNone)
         return;
     // Kept: said also of a file that can't be copied.
-    run.ask.AddStatusLine("Kan ej skapa katalogen '" + layout.folder + "'!");
+    run.ask.AddStatusLine("Kan ej skapa katalogen '" + Shown(run, layout.folder) + "'!");
     run.isIncomplete = true;
 }
 

@@ -73,8 +73,10 @@ Step CopyIntoPackage(CreateRun& run, const RuntimeFile& file)
     const auto copy = [&] {
         run.host.files.CopyContent(file.source, run.InDestination(file.target));
     };
-    if (RunErrorNumber(copy, run.failure) == ErrorNumber::kNone)
+    if (RunErrorNumber(copy, run.failure) == ErrorNumber::kNone) {
+        run.packageFiles.push_back(file.target);
         return Step::GoOn;
+    }
     run.ask.AddStatusLine("Fel! Kan ej kopiera " + file.name + "!");
     return Step::Stop;
 }

@@ -28,14 +28,14 @@ public:
     {
     }
 
-    void Run(Integer& disksUsed)
+    void Run(Integer& disksUsed, std::vector<Sha256Digest>& digests)
     {
-        WritePiece(disksUsed);
+        WritePiece(disksUsed, digests, disks_.RoomToLeave(left_));
         while (left_ > 0) {
             if (disksUsed == std::numeric_limits<Integer>::max())
                 throw NoDisk{CompressionResult::kDiskFull, PiecePath()};
             TakeNextDisk(disksUsed + 1);
-            WritePiece(disksUsed);
+            WritePiece(disksUsed, digests, 0);
         }
     }
 
@@ -71,26 +71,30 @@ private:
         return disks_.Capacity(folder_) + older;
     }
 
-    void WritePiece(Integer& disksUsed)
+    void WritePiece(Integer& disksUsed, std::vector<Sha256Digest>& digests,
+                    std::uint64_t roomToLeave)
     {
-        pieceSize_ = std::min(Room(), left_);
+        pieceSize_ = std::min(Room() - std::min(Room(), roomToLeave), left_);
         if (pieceSize_ == 0)
             throw NoDisk{CompressionResult::kDiskFull, PiecePath()};
         pieceBegin_.clear();
         const auto output = files_.OpenOutput(PiecePath());
         ++disksUsed;
+        Sha256 hash;
         std::vector<std::byte> buffer;
         for (std::uint64_t rest = pieceSize_; rest > 0; rest -= buffer.size()) {
             buffer.resize(static_cast<std::size_t>(std::min<std::uint64_t>(rest, kPieceOfWork)));
             if (input_->Read(buffer) != buffer.size())
                 throw RunError(ErrorNumber::kDeviceIo, PiecePath());
             output->Write(buffer);
+            hash.Add(buffer);
             if (pieceBegin_.empty())
                 pieceBegin_ = buffer;
             left_ -= buffer.size();
             progress_(input_->Size() - left_, input_->Size());
         }
         output->Close();
+        digests.push_back(hash.Finish());
     }
 
     FileSystem& files_;
@@ -111,7 +115,8 @@ Spanning CutOntoDisks(FileSystem& files, const Text& archive, const Text& target
 {
     Spanning spanning;
     try {
-        DiskCutter(files, archive, target, disks, progress).Run(spanning.disksUsed);
+        DiskCutter(files, archive, target, disks, progress)
+            .Run(spanning.disksUsed, spanning.digests);
     } catch (const NoDisk& reason) {
         spanning.result = reason.result;
         spanning.path = reason.path;

@@ -11,8 +11,9 @@ namespace quillon {
 
 struct Spanning {
     Integer result = CompressionResult::kDone;
-    Integer disksUsed = 0; // disks that a piece was begun on, also after a failure
-    Text path = {};        // the piece that could not be written; empty where no disk came
+    Integer disksUsed = 0;                  // disks that a piece was begun on, also after a failure
+    std::vector<Sha256Digest> digests = {}; // of the pieces that were written whole
+    Text path = {}; // the piece that could not be written; empty where no disk came
 };
 
 /// The first piece is `target`, the later ones have its name in the folders that `disks` gives.

@@ -111,6 +111,11 @@ std::vector<Text> RowLine(const Package& package, std::size_t number)
     return line;
 }
 
+bool HasManifest(const Package& package)
+{
+    return package.manifest.state != PackageManifest::State::Missing;
+}
+
 Package OpenFolder(const CallContext& context, const Text& folder)
 {
     if (!context.host.files.DirExists(folder))
@@ -151,6 +156,7 @@ Exit VerifyPackageFolder(const CallContext& context)
     if (context.WantsJson())
         return context.PrintJson({{"folder", folder},
                                   {"isWhole", faults.empty()},
+                                  {"hasManifest", HasManifest(package)},
                                   {"rows", package.rows.size()},
                                   {"faults", faults}},
                                  exit);
@@ -158,6 +164,9 @@ Exit VerifyPackageFolder(const CallContext& context)
         context.out << fault << "\n";
     if (faults.empty())
         context.out << "Installationen är hel: " << package.rows.size() << " rader.\n";
+    if (!HasManifest(package))
+        context.out << kManifestName
+                    << " saknas: runtimefilerna är inte prövade, bara att de finns.\n";
     return exit;
 }
 

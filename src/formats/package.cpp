@@ -155,6 +155,7 @@ Package OpenPackage(const FileSystem& files, const Text& folder)
 {
     Package package;
     package.folder = folder;
+    package.manifest = ReadPackageManifest(files, folder);
     ReadInfFiles(files, package);
     FindBytesOfRows(files, package);
     return package;

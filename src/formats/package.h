@@ -4,6 +4,7 @@
 
 #include "formats/install_row.h"
 #include "formats/package_files.h"
+#include "formats/package_manifest.h"
 #include "formats/setup_information.h"
 #include "formats/zip_reader.h"
 #include "platform/file_system.h"
@@ -31,6 +32,7 @@ struct Package {
     SetupInformation setup;
     std::vector<InstallRow> rows;
     std::vector<RowBytes> bytes; // of the row at the same place
+    PackageManifest manifest;
     std::optional<ZipReader> container;
     // What was wrong with the package as a whole, a line each.
     std::vector<Text> faults;
@@ -38,6 +40,8 @@ struct Package {
 
 /// The folder of a floppy package's disk: the package's own for the first, "disk2" in it and so on.
 Text DiskFolder(const Text& packageFolder, int disk);
+/// The container's piece on that disk, below the package's folder.
+Text PieceName(int disk);
 
 /// True where the rows' bytes lie in the container and not in files by themselves.
 bool UsesContainer(const SetupInformation& setup);
@@ -46,7 +50,11 @@ bool UsesContainer(const SetupInformation& setup);
 /// none.
 std::vector<int> RowNumbers(std::string_view comment);
 
-/// Where a row's bytes lie in a package without a container.
+/// A file of a tree, below the package's folder.
+Text TreeFileName(const Text& sourceFolder, const Text& name);
+
+/// Where a row's bytes lie in a package without a container: below its folder, and with it.
+Text LooseFileName(const SetupInformation& setup, const InstallRow& row);
 Text LooseFilePath(const Text& packageFolder, const SetupInformation& setup, const InstallRow& row);
 
 /// True where the row may have been written without a source: it looks like an empty file from a

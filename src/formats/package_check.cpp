@@ -1,5 +1,6 @@
 // The reading test of a finished package: every byte that the setup will want is looked at.
 #include "formats/package.h"
+#include "formats/package_contents_check.h"
 
 #include "formats/row_safety.h"
 #include "helpers/windows_path.h"
@@ -144,6 +145,7 @@ std::vector<Text> VerifyPackage(const FileSystem& files, Package& package)
         CheckEntries(*package.container, kFileContainerName,
                      package.setup.project.DialogBoxData.CorrectPassword, faults);
     CheckDesignContainer(files, package, faults);
+    CheckContents(files, package, faults);
     return faults;
 }
 

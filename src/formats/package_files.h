@@ -13,6 +13,8 @@ inline constexpr const char* kFileContainerName = "FILEDATA.DAT";
 inline constexpr const char* kDesignContainerName = "DESOBJ.DAT";
 inline constexpr const char* kAutorunName = "AUTORUN.INF";
 inline constexpr const char* kLicenseRtfName = "LICENSE.RTF";
+// What tells a whole package from a half or a damaged one.
+inline constexpr const char* kManifestName = "PACKAGE.SHA256";
 // Where files that are kept one by one lie.
 inline constexpr const char* kSetupFilesFolder = "SetupFiles";
 

@@ -44,21 +44,38 @@ std::vector<int> RowNumbers(std::string_view comment)
     return numbers;
 }
 
-Text LooseFilePath(const Text& packageFolder, const SetupInformation& setup, const InstallRow& row)
+Text TreeFileName(const Text& sourceFolder, const Text& name)
+{
+    // What is left of a network path begins with a backslash.
+    const std::size_t start = std::min(sourceFolder.find_first_not_of("\\/"), sourceFolder.size());
+    return JoinPath(sourceFolder.substr(start), name);
+}
+
+Text LooseFileName(const SetupInformation& setup, const InstallRow& row)
 {
     if (MediumOf(setup) == Medium::CdTree)
-        return JoinPath(JoinPath(packageFolder, row.sourceFolder), row.name);
+        return TreeFileName(row.sourceFolder, row.name);
 
     const bool hasOwnFolder = setup.PlaceCompressedFilesInFolderSetupFiles != kOff;
-    const Text base = hasOwnFolder ? JoinPath(packageFolder, kSetupFilesFolder) : packageFolder;
+    const Text base = hasOwnFolder ? kSetupFilesFolder : "";
     if (setup.CreateFolderStructureInFolderSetupFiles == kOff)
         return JoinPath(base, MarkedName(row.name));
     return JoinPath(FolderInTree(base, row.destination), row.name);
 }
 
+Text LooseFilePath(const Text& packageFolder, const SetupInformation& setup, const InstallRow& row)
+{
+    return JoinPath(packageFolder, LooseFileName(setup, row));
+}
+
 bool MayLackSource(const InstallRow& row)
 {
     return row.size == 0 && row.sourceFolder.empty();
+}
+
+Text PieceName(int disk)
+{
+    return JoinPath(DiskFolder("", disk), kFileContainerName);
 }
 
 Text DiskFolder(const Text& packageFolder, int disk)

@@ -2,6 +2,7 @@
 
 #include "create_desk.h"
 #include "formats/install_row.h"
+#include "formats/package_manifest.h"
 #include "formats/setup_information.h"
 #include "formats/zip_reader.h"
 #include "support/golden.h"
@@ -81,7 +82,7 @@ TEST(RunCreate, TellsEveryStepOfACompressedCd)
                 UnorderedElementsAre("SETUP.EXE", "QNS32X.BIN", "DUNZIP32.DLL", "QNREG32.BIN",
                                      "QNXREG2.BIN", "QNXUNIN.BIN", "LICENSE.RTF", "AUTORUN.INF",
                                      "FILELIST.INF", "QNSETUP.INF", "SWEDISH.LNG", "DESOBJ.DAT",
-                                     "FILEDATA.DAT"));
+                                     "FILEDATA.DAT", "PACKAGE.SHA256"));
 }
 
 TEST(RunCreate, TellsEveryStepOfATree)
@@ -510,6 +511,7 @@ TEST(RunCreate, EndsAtADestinationThatIsReadOnly)
     const std::vector<Text> before = desk.Package();
     for (const Text& name : before)
         desk.machine.files.RefuseOutput("C:\\Ut\\" + name, 75);
+    desk.machine.files.refuseFolders = true;
     EXPECT_EQ(desk.Create(), CreateResult::Failed);
     EXPECT_THAT(desk.statusLines,
                 ElementsAre("** Skapar 32 bitars installationsuppsättning för CD (komprimerat) **",
@@ -538,6 +540,113 @@ TEST(RunCreate, StoresOneSourceOfTwoRowsOnce)
     const ZipReader container(desk.machine.files.OpenInput("C:\\Ut\\FILEDATA.DAT"));
     ASSERT_EQ(container.Entries().size(), 1u);
     EXPECT_EQ(container.Entries()[0].comment, "F1 F2");
+}
+
+TEST(RunCreate, WritesAManifestOverEveryFileLast)
+{
+    for (const Medium medium : {Medium::CompressedCd, Medium::CdTree}) {
+        CreateDesk desk;
+        AskForEverything(desk);
+        desk.Choose(medium);
+        ASSERT_EQ(desk.Create(), CreateResult::Done);
+        const PackageManifest manifest = ReadPackageManifest(desk.machine.files, "C:\\Ut");
+        EXPECT_EQ(manifest.state, PackageManifest::State::Whole);
+        std::vector<Text> names;
+        for (const ManifestLine& line : manifest.lines) {
+            names.push_back(line.name);
+            const bool isLaidOutByHand =
+                medium == Medium::CdTree && line.name.find('\\') != Text::npos;
+            EXPECT_EQ(CompareFile(desk.machine.files, isLaidOutByHand ? "C:" : "C:\\Ut", line),
+                      FileFault::None)
+                << line.name;
+        }
+        std::vector<Text> expected = desk.Package();
+        std::erase(expected, "PACKAGE.SHA256");
+        if (medium == Medium::CdTree)
+            expected.insert(expected.end(), {"data\\a.txt", "data\\b.txt"});
+        EXPECT_THAT(names, testing::UnorderedElementsAreArray(expected));
+    }
+}
+
+TEST(RunCreate, LeavesAnEmptyManifestAfterAFailure)
+{
+    CreateDesk desk;
+    desk.machine.files.At("C:\\Data\\a.txt").unreadable = true;
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_EQ(desk.Get("PACKAGE.SHA256"), "");
+}
+
+TEST(RunCreate, TakesASourceOfATreeThatCannotBeReadForAFailure)
+{
+    CreateDesk desk;
+    desk.Choose(Medium::CdTree);
+    desk.machine.files.At("C:\\Data\\a.txt").unreadable = true;
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines.back(), "Processen avbruten!");
+    EXPECT_EQ(desk.failure->Path(), "c:\\data\\a.txt");
+    EXPECT_EQ(desk.Get("PACKAGE.SHA256"), "");
+}
+
+std::map<Text, std::string> FilesOf(const CreateDesk& desk)
+{
+    std::map<Text, std::string> files;
+    for (const Text& name : desk.Package())
+        files[name] = desk.Get(name);
+    return files;
+}
+
+TEST(RunCreate, LeavesAnOlderPackageAsItWasWhereItFails)
+{
+    for (const Medium medium : {Medium::CompressedCd, Medium::CdTree}) {
+        CreateDesk desk;
+        desk.Choose(medium);
+        ASSERT_EQ(desk.Create(), CreateResult::Done);
+        const auto older = FilesOf(desk);
+        desk.AddFile("b.txt");
+        desk.machine.files.At("C:\\Data\\b.txt").unreadable = true;
+        EXPECT_EQ(desk.Create(), CreateResult::Failed);
+        EXPECT_EQ(FilesOf(desk), older);
+        desk.project.Language.LanguageFile = "SAKNAS.LNG";
+        EXPECT_EQ(desk.Create({kCannotWrite}), CreateResult::Failed);
+        EXPECT_EQ(FilesOf(desk), older);
+        EXPECT_FALSE(desk.machine.files.DirExists("C:\\Ut\\PACKAGE.NEW"));
+    }
+}
+
+TEST(RunCreate, WritesOverAnOlderPackageWhereTheDiskHasNoRoomForTwo)
+{
+    CreateDesk desk;
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    desk.machine.files.capacities["c:\\"] = 1'000'000;
+    desk.AddFile("b.txt");
+    desk.machine.files.At("C:\\Data\\b.txt").unreadable = true;
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_EQ(desk.Get("PACKAGE.SHA256"), "");
+    EXPECT_EQ(ReadInstallFileList(desk.Get("FILELIST.INF")).rows.size(), 2u);
+}
+
+TEST(RunCreate, TakesAwayThePicturesOfAnOlderPackage)
+{
+    CreateDesk desk;
+    AskForEverything(desk);
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    ASSERT_TRUE(desk.Has("DESOBJ.DAT"));
+    desk.project.DesBackground.PictureFilename.clear();
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_FALSE(desk.Has("DESOBJ.DAT"));
+}
+
+TEST(RunCreate, ClearsAwayWhatAKilledRunHasLeft)
+{
+    CreateDesk desk;
+    desk.machine.files.Put("C:\\Ut\\PACKAGE.NEW\\PACKAGE.SHA256", "");
+    desk.machine.files.Put("C:\\Ut\\PACKAGE.NEW\\SetupFiles\\a.txt_", "half");
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_FALSE(desk.machine.files.DirExists("C:\\Ut\\PACKAGE.NEW"));
+    // A folder of that name that is no such thing stays.
+    desk.machine.files.Put("C:\\Ut\\PACKAGE.NEW\\brev.txt", "the user's own");
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_EQ(desk.Get("PACKAGE.NEW\\brev.txt"), "the user's own");
 }
 
 // Each write of a run fails once, from the first to the last: the run ends as a failure, says so,
@@ -598,7 +707,9 @@ TEST(RunCreate, GivesTheSamePackageTwiceButForTheScrambledPassword)
     ASSERT_EQ(first.Create(), CreateResult::Done);
     ASSERT_EQ(second.Create(), CreateResult::Done);
     for (const Text& name : first.Package())
-        EXPECT_EQ(first.Get(name) == second.Get(name), name != "QNSETUP.INF") << name;
+        EXPECT_EQ(first.Get(name) == second.Get(name),
+                  name != "QNSETUP.INF" && name != "PACKAGE.SHA256")
+            << name;
 }
 
 } // namespace quillon

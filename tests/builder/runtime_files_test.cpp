@@ -90,7 +90,8 @@ TEST(RuntimeFiles, StopTheWholeCommandAtTheFirstThatFails)
     EXPECT_EQ(desk.statusLines.back(), "Fel! Kan ej kopiera DUNZIP32.DLL!");
     EXPECT_EQ(desk.beeps, 1);
     EXPECT_TRUE(desk.form.isCmdCreateEnabled);
-    EXPECT_THAT(desk.Package(), testing::UnorderedElementsAre("SETUP.EXE", "QNS32X.BIN"));
+    EXPECT_THAT(desk.Package(),
+                testing::UnorderedElementsAre("PACKAGE.SHA256", "SETUP.EXE", "QNS32X.BIN"));
 }
 
 TEST(CopySetupExe, KeepsTheReleaseDateUnlessTheOptionSaysNow)

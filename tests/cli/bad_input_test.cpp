@@ -16,7 +16,8 @@ using testing::StartsWith;
 const std::vector<std::string> kNothing;
 // What a failed compression leaves in the destination.
 const std::vector<std::string> kAllButTheContainer = {
-    "DUNZIP32.DLL", "FILELIST.INF", "QNS32X.BIN", "QNSETUP.INF", "SETUP.EXE", "SWEDISH.LNG"};
+    "DUNZIP32.DLL", "FILELIST.INF", "PACKAGE.SHA256", "QNS32X.BIN",
+    "QNSETUP.INF",  "SETUP.EXE",    "SWEDISH.LNG"};
 
 class BadInput : public Workshop {
 protected:
@@ -145,8 +146,8 @@ TEST_F(BadInput, ASourceThatIsMissing)
     EXPECT_THAT(run.out, HasSubstr("Skapar FILELIST.INF\nFil saknas! Avbryter processen.\n"));
     EXPECT_THAT(run.err, StartsWith("Fil saknas: En eller flera filer har försvunnit"));
     EXPECT_THAT(run.err, HasSubstr("s:\\gone.txt"));
-    EXPECT_THAT(Names("out"),
-                ElementsAre("DUNZIP32.DLL", "FILELIST.INF", "QNS32X.BIN", "SETUP.EXE"));
+    EXPECT_THAT(Names("out"), ElementsAre("DUNZIP32.DLL", "FILELIST.INF", "PACKAGE.SHA256",
+                                          "QNS32X.BIN", "SETUP.EXE"));
 }
 
 TEST_F(BadInput, ASourceFolderThatIsMissing)
@@ -156,8 +157,8 @@ TEST_F(BadInput, ASourceFolderThatIsMissing)
     EXPECT_THAT(run.out, HasSubstr("Källkatalog existerar inte! Avbryter processen.\n"));
     EXPECT_THAT(run.err, StartsWith("Källkatalog existerar inte: En källkatalog till en fil"));
     EXPECT_THAT(run.err, EndsWith("\nKatalogen till 's:\\gone\\a.txt' finns inte.\n"));
-    EXPECT_THAT(Names("out"),
-                ElementsAre("DUNZIP32.DLL", "FILELIST.INF", "QNS32X.BIN", "SETUP.EXE"));
+    EXPECT_THAT(Names("out"), ElementsAre("DUNZIP32.DLL", "FILELIST.INF", "PACKAGE.SHA256",
+                                          "QNS32X.BIN", "SETUP.EXE"));
 }
 
 TEST_F(BadInput, ASourceThatMayNotBeRead)

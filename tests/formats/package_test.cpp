@@ -35,6 +35,11 @@ InstallRow FolderRow(int number)
 
 class PackageFolder : public testing::Test {
 protected:
+    PackageFolder()
+    {
+        for (const char* name : {"SETUP.EXE", "QNS32X.BIN", "DUNZIP32.DLL", "SWEDISH.LNG"})
+            PutFile(name, name);
+    }
     void PutFile(const Text& name, std::string bytes)
     {
         files.Put(kFolder + "\\" + name, std::move(bytes));
@@ -262,6 +267,88 @@ TEST_F(CompressedPackage, ReadsTheDesignContainerWhereThereIsOne)
     PutFile("DESOBJ.DAT", "");
     EXPECT_THAT(Verify(),
                 ElementsAre("DESOBJ.DAT: innehållet är skadat (filen är inget ZIP-arkiv)."));
+}
+
+// A package with a manifest over all that it holds.
+class ListedPackage : public PackageFolder {
+protected:
+    ListedPackage()
+    {
+        PutLists({Row(1, "a.txt", 3)});
+        PutFile("FILEDATA.DAT", MakeArchive({{"src/a.txt", "F1", "abc"}}));
+        PutManifest({"SETUP.EXE", "QNS32X.BIN", "DUNZIP32.DLL", "SWEDISH.LNG", "QNSETUP.INF",
+                     "FILELIST.INF", "FILEDATA.DAT"});
+    }
+    void PutManifest(const std::vector<Text>& names)
+    {
+        std::vector<ManifestLine> lines;
+        for (const Text& name : names)
+            lines.push_back({name, DigestOfFile(files, kFolder + "\\" + name)});
+        WritePackageManifest(files, kFolder, lines);
+    }
+};
+
+TEST_F(ListedPackage, IsWhole)
+{
+    EXPECT_THAT(Verify(), IsEmpty());
+}
+
+TEST_F(ListedPackage, MayHoldFilesThatTheUserHasAdded)
+{
+    PutFile("LÄS MIG.TXT", "by hand");
+    EXPECT_THAT(Verify(), IsEmpty());
+}
+
+TEST_F(ListedPackage, TellsEachFileThatIsMissingOrCut)
+{
+    for (const Text name : {"SETUP.EXE", "QNS32X.BIN", "DUNZIP32.DLL", "SWEDISH.LNG"}) {
+        std::string& bytes = *files.At(kFolder + "\\" + name).bytes;
+        const std::string whole = bytes;
+        bytes.pop_back();
+        EXPECT_THAT(Verify(), ElementsAre("'" + name +
+                                          "' är inte längre som när paketet skapades "
+                                          "(PACKAGE.SHA256)."));
+        files.RemoveFile(kFolder + "\\" + name);
+        EXPECT_THAT(Verify(), ElementsAre(name + " saknas."));
+        PutFile(name, whole);
+    }
+}
+
+TEST_F(ListedPackage, TellsAFileThatOnlyTheManifestKnows)
+{
+    PutFile("LICENSE.RTF", "{\\rtf1}");
+    PutManifest({"SETUP.EXE", "QNS32X.BIN", "DUNZIP32.DLL", "SWEDISH.LNG", "QNSETUP.INF",
+                 "FILELIST.INF", "FILEDATA.DAT", "LICENSE.RTF"});
+    EXPECT_THAT(Verify(), IsEmpty());
+    files.At(kFolder + "\\LICENSE.RTF").unreadable = true;
+    EXPECT_THAT(Verify(), ElementsAre("'LICENSE.RTF' kan ej läsas."));
+    files.RemoveFile(kFolder + "\\LICENSE.RTF");
+    EXPECT_THAT(Verify(), ElementsAre("'LICENSE.RTF' saknas men står i PACKAGE.SHA256."));
+}
+
+TEST_F(ListedPackage, TellsAManifestThatHasLostLines)
+{
+    PutManifest({"SETUP.EXE", "QNS32X.BIN", "SWEDISH.LNG", "QNSETUP.INF", "FILELIST.INF"});
+    EXPECT_THAT(Verify(), ElementsAre("'DUNZIP32.DLL' står inte i PACKAGE.SHA256.",
+                                      "'FILEDATA.DAT' står inte i PACKAGE.SHA256."));
+}
+
+TEST_F(ListedPackage, TellsOneThatIsEmptyOrDamaged)
+{
+    PutFile("PACKAGE.SHA256", "");
+    EXPECT_THAT(Verify(), ElementsAre("PACKAGE.SHA256 är tom: paketet blev inte färdigt."));
+    PutFile("PACKAGE.SHA256", "x");
+    EXPECT_THAT(Verify(), ElementsAre("PACKAGE.SHA256 är skadad."));
+}
+
+TEST_F(CompressedPackage, WithoutAManifestMustHoldTheRuntimeAllTheSame)
+{
+    PutLists({FolderRow(1)}, {.more = "[InstallOptions]\r\nSetupName = START.EXE\r\n"
+                                      "UninstallSupport = 1\r\n\r\n[Language]\r\n"
+                                      "LanguageFile = DANISH.LNG\r\n\r\n"});
+    files.RemoveFile(kFolder + "\\QNS32X.BIN");
+    EXPECT_THAT(Verify(), ElementsAre("START.EXE saknas.", "QNS32X.BIN saknas.",
+                                      "DANISH.LNG saknas.", "QNXUNIN.BIN saknas."));
 }
 
 TEST_F(OneByOnePackage, FindsFilesUnderTheirNamesWithAnUnderscore)

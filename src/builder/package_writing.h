@@ -1,0 +1,22 @@
+// How a package comes to be whole: its manifest stands empty while it is being made and is filled
+// last of all. Where an older package lies already, the new one is made in a folder of its own
+// beside it and only moved into its place once it is finished, so that a Create that ends early
+// leaves the older one as it was. On disks, which have no room for two packages, and on a disk too
+// full for that the files are written where they belong, and the empty manifest tells that they are
+// half.
+#pragma once
+
+#include "builder/create_run.h"
+
+namespace quillon {
+
+/// What ended an earlier run half way goes, and this one's place is made ready.
+Step BeginPackage(CreateRun& run);
+
+/// Moves the finished files into place and writes the manifest; nothing after a failed step.
+Step FinishPackage(CreateRun& run);
+
+/// Clears the folder of its own away, whatever it still holds.
+void LeavePackage(CreateRun& run);
+
+} // namespace quillon

@@ -1,0 +1,55 @@
+#include "formats/manifest_line.h"
+
+namespace quillon {
+
+namespace {
+
+// The value of a hexadecimal digit; 16 of any other character.
+unsigned ValueOf(char digit)
+{
+    if (digit >= '0' && digit <= '9')
+        return unsigned(digit - '0');
+    const char lower = static_cast<char>(digit | 0x20);
+    return lower >= 'a' && lower <= 'f' ? unsigned(lower - 'a') + 10U : 16U;
+}
+
+bool AreDigits(std::string_view text)
+{
+    for (const char digit : text)
+        if (ValueOf(digit) > 15)
+            return false;
+    return true;
+}
+
+} // namespace
+
+std::optional<ManifestLineText> TakeManifestLine(std::string_view& text)
+{
+    const std::size_t end = text.find('\n');
+    if (end == text.npos)
+        return std::nullopt;
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(end + 1);
+    // An editor for Windows may have been there.
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    constexpr std::size_t kNameAt = kDigestDigits + 2;
+    if (line.size() <= kNameAt)
+        return std::nullopt;
+    const ManifestLineText read{line.substr(0, kDigestDigits), line.substr(kNameAt)};
+    // The second mark tells that the file was read as text or in binary, which is the same here.
+    const bool hasMarks = line[kDigestDigits] == ' ' &&
+                          (line[kDigestDigits + 1] == ' ' || line[kDigestDigits + 1] == '*');
+    return hasMarks && AreDigits(read.digits) ? std::optional(read) : std::nullopt;
+}
+
+Sha256Digest DigestOfDigits(std::string_view digits)
+{
+    Sha256Digest digest{};
+    for (std::size_t i = 0; i < digest.size() && 2 * i + 1 < digits.size(); ++i)
+        digest[i] =
+            static_cast<std::byte>(ValueOf(digits[2 * i]) << 4U | ValueOf(digits[2 * i + 1]));
+    return digest;
+}
+
+} // namespace quillon

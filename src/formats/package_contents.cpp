@@ -1,0 +1,83 @@
+#include "formats/package_contents.h"
+
+#include "formats/package.h"
+#include "formats/package_files.h"
+#include "project/file_list.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+bool HasOption(const InstallRow& row, char letter)
+{
+    return row.copyOptions.find(letter) != Text::npos;
+}
+
+bool HasSource(const InstallRow& row)
+{
+    return row.name != kEmptyFolderName && !MayLackSource(row);
+}
+
+} // namespace
+
+bool NeedsRegistryHelper(const SetupInformation& setup, const std::vector<InstallRow>& rows)
+{
+    return std::ranges::any_of(rows, [](const InstallRow& row) { return HasOption(row, 'R'); }) ||
+           !setup.project.Lists.RunScriptBefore.empty() ||
+           !setup.project.Lists.RunScriptAfter.empty();
+}
+
+bool NeedsSecondRegistryHelper(const std::vector<InstallRow>& rows)
+{
+    return std::ranges::any_of(
+        rows, [](const InstallRow& row) { return HasOption(row, 'R') && HasOption(row, 'A'); });
+}
+
+std::vector<Text> HelpersOf(const SetupInformation& setup, const std::vector<InstallRow>& rows)
+{
+    std::vector<Text> names;
+    if (NeedsRegistryHelper(setup, rows))
+        names.push_back(kRegistryHelperName);
+    if (NeedsSecondRegistryHelper(rows))
+        names.push_back(kSecondRegistryHelperName);
+    if (setup.project.InstallOptions.UninstallSupport != kOff)
+        names.push_back(kUninstallerName);
+    return names;
+}
+
+std::vector<Text> FixedFilesOf(const SetupInformation& setup, const std::vector<InstallRow>& rows)
+{
+    std::vector<Text> names = {setup.project.InstallOptions.SetupName,
+                               kRuntimeName,
+                               kUnzipLibraryName,
+                               kSetupInformationName,
+                               kFileListName,
+                               setup.project.Language.LanguageFile};
+    const std::vector<Text> helpers = HelpersOf(setup, rows);
+    names.insert(names.end(), helpers.begin(), helpers.end());
+    std::erase(names, "");
+    return names;
+}
+
+std::vector<Text> ContainerPieces(const SetupInformation& setup,
+                                  const std::vector<InstallRow>& rows)
+{
+    if (!UsesContainer(setup) || std::ranges::none_of(rows, HasSource))
+        return {};
+    const bool isSpanned = Medium(setup.project.Media.TargetMedia) == Medium::Floppy;
+    const int disks = isSpanned ? std::max(setup.Floppies, 1) : 1;
+    std::vector<Text> pieces;
+    for (int disk = 1; disk <= disks; ++disk)
+        pieces.push_back(PieceName(disk));
+    return pieces;
+}
+
+bool OnlyStartsTheSetup(const SetupInformation& setup, const Text& name)
+{
+    return EqualIgnoreCase(name, setup.project.InstallOptions.SetupName) ||
+           EqualIgnoreCase(name, kAutorunName);
+}
+
+} // namespace quillon

@@ -1,0 +1,32 @@
+// Which files a package has to hold, told from its two INF files.
+#pragma once
+
+#include "formats/install_row.h"
+#include "formats/setup_information.h"
+
+#include <vector>
+
+namespace quillon {
+
+/// The runtime's programs beside the setup itself that this package's installation takes. Create
+/// copies by the same conditions.
+bool NeedsRegistryHelper(const SetupInformation& setup, const std::vector<InstallRow>& rows);
+bool NeedsSecondRegistryHelper(const std::vector<InstallRow>& rows);
+
+/// The programs that the setup hands to the machine or starts there.
+std::vector<Text> HelpersOf(const SetupInformation& setup, const std::vector<InstallRow>& rows);
+
+/// All that lies in the package's folder but the bytes of the rows: the starter, the setup, what it
+/// is told by, and its helpers.
+std::vector<Text> FixedFilesOf(const SetupInformation& setup, const std::vector<InstallRow>& rows);
+
+/// The pieces of the container, below the package's folder, in the order of the disks; none where a
+/// package has no container.
+std::vector<Text> ContainerPieces(const SetupInformation& setup,
+                                  const std::vector<InstallRow>& rows);
+
+/// True of the files that only help a user to start the setup. Who has renamed the one, or left the
+/// other behind, has a package that installs all the same.
+bool OnlyStartsTheSetup(const SetupInformation& setup, const Text& name);
+
+} // namespace quillon

@@ -1,0 +1,121 @@
+#include "formats/package_manifest.h"
+
+#include "formats/manifest_line.h"
+#include "formats/package_files.h"
+#include "helpers/utf8.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "platform/whole_file.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kUnfinishedName = "PACKAGE.TMP";
+// A hundred times what the longest list of files needs; what is longer is none.
+constexpr std::uint64_t kLargestManifest = 512U * 1024 * 1024;
+constexpr std::size_t kPieceSize = 64 * 1024;
+
+// The names of the files of a package are its own business; where they lie is not.
+bool StaysInPackage(std::string_view name)
+{
+    if (name.find_first_of("\\:") != name.npos || name.find('\0') != name.npos || !IsUtf8(name))
+        return false;
+    while (!name.empty()) {
+        const std::string_view part = name.substr(0, name.find('/'));
+        if (part.empty() || part == "." || part == ".." || part.size() + 1 == name.size())
+            return false;
+        name.remove_prefix(std::min(part.size() + 1, name.size()));
+    }
+    return true;
+}
+
+Text DigitsOf(const Sha256Digest& digest)
+{
+    Text digits;
+    for (const std::byte byte : digest)
+        for (const unsigned shift : {4U, 0U})
+            digits += "0123456789abcdef"[std::to_integer<unsigned>(byte) >> shift & 15U];
+    return digits;
+}
+
+} // namespace
+
+PackageManifest ReadManifest(std::string_view bytes)
+{
+    PackageManifest manifest;
+    manifest.state =
+        bytes.empty() ? PackageManifest::State::Unfinished : PackageManifest::State::Whole;
+    while (!bytes.empty()) {
+        const auto line = TakeManifestLine(bytes);
+        const Text name = line ? ReplaceAll(line->name, "/", "\\") : Text();
+        const bool isRead =
+            line && StaysInPackage(line->name) && manifest.names.insert(LowerCase(name)).second;
+        if (!isRead) {
+            manifest.state = PackageManifest::State::Damaged;
+            break;
+        }
+        manifest.lines.push_back({name, DigestOfDigits(line->digits)});
+    }
+    return manifest;
+}
+
+PackageManifest ReadPackageManifest(const FileSystem& files, const Text& folder)
+{
+    const Text path = JoinPath(folder, kManifestName);
+    if (!files.FileExists(path))
+        return {};
+    PackageManifest manifest{.state = PackageManifest::State::Damaged};
+    RunErrorNumber([&] {
+        if (files.Facts(path).size <= kLargestManifest)
+            manifest = ReadManifest(ReadWholeFile(files, path));
+    });
+    return manifest;
+}
+
+void WriteUnfinishedManifest(FileSystem& files, const Text& folder)
+{
+    files.OpenOutput(JoinPath(folder, kManifestName))->Close();
+}
+
+void WritePackageManifest(FileSystem& files, const Text& folder, std::vector<ManifestLine> lines)
+{
+    std::ranges::sort(lines, {}, &ManifestLine::name);
+    std::string bytes;
+    for (const ManifestLine& line : lines)
+        bytes += DigitsOf(line.digest) + "  " + ReplaceAll(line.name, "\\", "/") + "\n";
+    const Text unfinished = JoinPath(folder, kUnfinishedName);
+    WriteWholeFile(files, unfinished, bytes);
+    files.Rename(unfinished, JoinPath(folder, kManifestName));
+}
+
+Sha256Digest DigestOfFile(const FileSystem& files, const Text& path, const BytesRead& onBytes)
+{
+    Sha256 hash;
+    const auto file = files.OpenInput(path);
+    std::vector<std::byte> piece(kPieceSize);
+    while (const std::size_t got = file->Read(piece)) {
+        hash.Add(std::span(piece).first(got));
+        if (onBytes)
+            onBytes(got);
+    }
+    return hash.Finish();
+}
+
+FileFault CompareFile(const FileSystem& files, const Text& folder, const ManifestLine& line,
+                      const BytesRead& onBytes)
+{
+    const Text path = JoinPath(folder, line.name);
+    if (!files.FileExists(path))
+        return FileFault::Missing;
+    std::optional<Sha256Digest> digest;
+    RunErrorNumber([&] { digest = DigestOfFile(files, path, onBytes); });
+    if (!digest)
+        return FileFault::Unreadable;
+    return *digest == line.digest ? FileFault::None : FileFault::Different;
+}
+
+} // namespace quillon
