@@ -3,6 +3,7 @@
 #include "formats/manifest_line.h"
 #include "formats/package_files.h"
 #include "helpers/utf8.h"
+#include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
@@ -19,18 +20,16 @@ constexpr const char* kUnfinishedName = "PACKAGE.TMP";
 constexpr std::uint64_t kLargestManifest = 512U * 1024 * 1024;
 constexpr std::size_t kPieceSize = 64 * 1024;
 
-// The names of the files of a package are its own business; where they lie is not.
 bool StaysInPackage(std::string_view name)
 {
-    if (name.find_first_of("\\:") != name.npos || name.find('\0') != name.npos || !IsUtf8(name))
-        return false;
-    while (!name.empty()) {
-        const std::string_view part = name.substr(0, name.find('/'));
-        if (part.empty() || part == "." || part == ".." || part.size() + 1 == name.size())
+    while (true) {
+        const std::size_t end = name.find('/');
+        if (FaultOfName(name.substr(0, end)) != PathFault::None)
             return false;
-        name.remove_prefix(std::min(part.size() + 1, name.size()));
+        if (end == name.npos)
+            return true;
+        name.remove_prefix(end + 1);
     }
-    return true;
 }
 
 Text DigitsOf(const Sha256Digest& digest)
@@ -52,8 +51,8 @@ PackageManifest ReadManifest(std::string_view bytes)
     while (!bytes.empty()) {
         const auto line = TakeManifestLine(bytes);
         const Text name = line ? ReplaceAll(line->name, "/", "\\") : Text();
-        const bool isRead =
-            line && StaysInPackage(line->name) && manifest.names.insert(LowerCase(name)).second;
+        const bool isRead = line && IsUtf8(line->name) && StaysInPackage(line->name) &&
+                            manifest.names.insert(LowerCase(name)).second;
         if (!isRead) {
             manifest.state = PackageManifest::State::Damaged;
             break;

@@ -54,7 +54,7 @@ TEST_F(Manifest, IsCheckedBySha256sumOnEveryMedium)
         const bool isFloppy = medium[1] == "floppy";
         ASSERT_EQ(Create(isFloppy ? large : project, medium).exitCode, 0) << medium[1];
         if (medium[1] == "tree") {
-            EXPECT_THAT(Sha256sum().out, HasSubstr("prog.exe: FAILED open or read"))
+            EXPECT_THAT(Sha256sum().out, HasSubstr("Prog.exe: FAILED open or read"))
                 << "laid out later";
             disk.Put("out/Prog.exe", disk.Get("src/Prog.exe"));
             disk.Put("out/data/Läs mig.txt", "text");

@@ -52,10 +52,10 @@ TEST(ReadManifest, TakesWhatSha256sumWritesOnAnySystem)
     for (char& digit : capitals)
         digit = digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit;
     const PackageManifest manifest =
-        ReadManifest(kAbc + "  a.txt\n" + capitals + " *Mapp/b.txt\r\n" + kEmpty + "   c \n");
+        ReadManifest(kAbc + "  a.txt\n" + capitals + " *Mapp/b.txt\r\n" + kEmpty + "   c\n");
     EXPECT_EQ(manifest.state, State::Whole);
     EXPECT_THAT(manifest.lines, ElementsAre(LineOf("a.txt", kAbc), LineOf("Mapp\\b.txt", kAbc),
-                                            LineOf(" c ", kEmpty)));
+                                            LineOf(" c", kEmpty)));
     EXPECT_TRUE(manifest.Names("MAPP\\B.TXT"));
     EXPECT_FALSE(manifest.Names("B.TXT"));
 }
@@ -75,7 +75,7 @@ TEST(ReadManifest, TellsAnEmptyOneFromADamagedOne)
 TEST(ReadManifest, LetsNoNameLeadOutOfThePackage)
 {
     for (const Text name : {"..", "../a", "a/../../b", "/a", "a//b", "a/", ".", "./a", "C:a",
-                             "C:/a", "a\\..\\b", "\\\\server\\a", "a:b"})
+                            "C:/a", "a\\..\\b", "aux", "a/NUL.txt", "a./b", "\\\\server\\a", "a:b"})
         EXPECT_EQ(ReadManifest(kAbc + "  " + name + "\n").state, State::Damaged) << name;
     EXPECT_EQ(ReadManifest(kAbc + "  a" + std::string(1, '\0') + "b\n").state, State::Damaged);
     EXPECT_EQ(ReadManifest(kAbc + "  \xFF\n").state, State::Damaged);

@@ -3,7 +3,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
-#include <linux/ptrace.h>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -34,7 +33,7 @@ constexpr int kCannotTrace = 125;
     _exit(127);
 }
 
-bool ChangesAFile(const ptrace_syscall_info& info)
+bool ChangesAFile(const __ptrace_syscall_info& info)
 {
     switch (info.entry.nr) {
     case SYS_openat:
@@ -65,9 +64,8 @@ bool ChangesAFile(const ptrace_syscall_info& info)
 /// True at the beginning of such a call; a call stops the program once more at its end.
 bool StandsBeforeAChange(pid_t child)
 {
-    ptrace_syscall_info info{};
-    return ptrace(static_cast<__ptrace_request>(PTRACE_GET_SYSCALL_INFO), child, sizeof info,
-                  &info) > 0 &&
+    __ptrace_syscall_info info{};
+    return ptrace(PTRACE_GET_SYSCALL_INFO, child, sizeof info, &info) > 0 &&
            info.op == PTRACE_SYSCALL_INFO_ENTRY && ChangesAFile(info);
 }
 
