@@ -5,7 +5,9 @@ set(win32 ${CMAKE_CURRENT_SOURCE_DIR}/runtime/win32)
 
 # Below all other libraries, so that the linker meets it behind them and before libstdc++.
 add_library(quillon_lean STATIC ${win32}/lean/failures.cpp)
-target_link_libraries(quillon_options INTERFACE quillon_lean)
+include(DelayLoad)
+add_dependencies(quillon_lean quillon_delayed_libraries)
+target_link_libraries(quillon_options INTERFACE quillon_lean ${delayed})
 # Programs begin at wWinMain. They are linked in one piece, since GCC 12 breaks down over symbols that
 # two pieces of a program share.
 target_link_options(quillon_options INTERFACE -municode -flto-partition=one)
@@ -35,11 +37,11 @@ endfunction()
 
 set(release ${QUILLON_RELEASE_FOLDER})
 quillon_runtime_program(setup32 SETUP32.EXE ${release})
-quillon_runtime_program(qns32x QNS32X.EXE ${release}/Small32 comctl32 ole32 uuid shell32)
+quillon_runtime_program(qns32x QNS32X.EXE ${release}/Small32 uuid)
 quillon_runtime_program(dunzip32 DUNZIP32.DLL ${release})
-quillon_runtime_program(qnreg32 QNREG32.EXE ${release} ole32)
-quillon_runtime_program(qnxreg2 QNXREG2.EXE ${release} ole32)
-quillon_runtime_program(qnxunin QNXUNIN.EXE ${release} comctl32 ole32 uuid shell32)
+quillon_runtime_program(qnreg32 QNREG32.EXE ${release})
+quillon_runtime_program(qnxreg2 QNXREG2.EXE ${release})
+quillon_runtime_program(qnxunin QNXUNIN.EXE ${release} uuid)
 if(TARGET qns32x)
   # The full version shows JPEG pictures too; nothing that is shown so far knows the difference. The
   # third copy is the one that a test run starts, in a folder that takes the files of the project that

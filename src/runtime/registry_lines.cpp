@@ -1,6 +1,7 @@
 #include "runtime/registry_lines.h"
 
 #include "helpers/number_text.h"
+#include "runtime/protected_keys.h"
 
 #include <algorithm>
 #include <cctype>
@@ -141,11 +142,7 @@ Text PlainSubKey(std::string_view subKey)
 
 bool IsSystemKey(const RegistryKey& key)
 {
-    constexpr std::string_view kNever[] = {"", "SOFTWARE", "SYSTEM", "SOFTWARE\\Microsoft",
-                                           "SOFTWARE\\Classes"};
-    const Text subKey = PlainSubKey(key.subKey);
-    return std::any_of(std::begin(kNever), std::end(kNever),
-                       [&](std::string_view never) { return EqualIgnoreCase(subKey, never); });
+    return IsProtectedKey({key.root, PlainSubKey(key.subKey)});
 }
 
 bool RemovesSystemKey(const RegistryLine& line)

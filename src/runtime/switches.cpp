@@ -1,6 +1,7 @@
 #include "runtime/switches.h"
 
 #include "helpers/windows_path.h"
+#include "runtime/switch_words.h"
 
 #include <cctype>
 #include <utility>
@@ -8,23 +9,6 @@
 namespace quillon {
 
 namespace {
-
-// Where the switch that begins at `start` ends. "/D=C:\Program Files\App /S" is understood without
-// quotation marks: a folder holds no slash, so its value goes on to the next switch.
-std::size_t EndOfSwitch(std::string_view line, std::size_t start)
-{
-    const bool isFolder = EqualIgnoreCase(line.substr(start, 3), "/D=");
-    bool quoted = false;
-    for (std::size_t at = start; at < line.size(); ++at) {
-        if (line[at] == '"')
-            quoted = !quoted;
-        const bool blank = !quoted && (line[at] == ' ' || line[at] == '\t');
-        const std::size_t next = blank ? line.find_first_not_of(" \t", at) : Text::npos;
-        if (blank && (!isFolder || next == Text::npos || line[next] == '/'))
-            return at;
-    }
-    return line.size();
-}
 
 constexpr std::pair<std::string_view, TestMode> kTestModes[] = {{"/TEST", TestMode::Test},
                                                                 {"/PREVIEW", TestMode::Preview}};
@@ -71,6 +55,20 @@ bool ApplySwitch(Switches& switches, std::string_view name, std::optional<Text> 
     return false;
 }
 
+Text WithoutQuotes(std::string_view word)
+{
+    return ReplaceAll(word, "\"", "");
+}
+
+void ReadSwitch(Switches& switches, const Text& given)
+{
+    const Text word = WithoutQuotes(given);
+    const std::size_t equals = word.find('=');
+    const auto value = equals == Text::npos ? std::nullopt : std::optional(word.substr(equals + 1));
+    if (!ApplySwitch(switches, word.substr(0, equals), value) && !switches.badSwitch)
+        switches.badSwitch = given;
+}
+
 } // namespace
 
 bool IsWholePath(std::string_view path)
@@ -83,27 +81,32 @@ bool IsWholePath(std::string_view path)
 Switches ReadSwitches(std::string_view commandLine)
 {
     Switches switches;
-    for (std::size_t at = commandLine.find_first_not_of(" \t"); at != Text::npos;) {
-        const std::size_t end = EndOfSwitch(commandLine, at);
-        const std::string_view given = commandLine.substr(at, end - at);
-        const std::size_t equals = given.find('=');
-        std::optional<Text> value;
-        if (equals != Text::npos)
-            value = ReplaceAll(given.substr(equals + 1), "\"", "");
-        if (!ApplySwitch(switches, given.substr(0, equals), value) && !switches.badSwitch)
-            switches.badSwitch = Text(given);
-        at = commandLine.find_first_not_of(" \t", end);
+    const Text line(commandLine);
+    for (const char* at = SkipSwitchBlanks(line.c_str()); *at != 0; at = SkipSwitchBlanks(at)) {
+        const char* const end = EndOfSwitch(at);
+        ReadSwitch(switches, Text(at, end));
+        at = end;
     }
     return switches;
 }
 
-Switches ReadUninstallerSwitches(std::string_view commandLine)
+UninstallerCommand ReadUninstallerCommand(std::string_view commandLine)
 {
-    Switches switches = ReadSwitches(commandLine);
-    for (const auto& [word, mode] : kTestModes)
-        if (switches.testMode == mode && !switches.badSwitch)
-            switches.badSwitch = Text(word);
-    return switches;
+    UninstallerCommand command;
+    const Text line(commandLine);
+    const char* const first = SkipSwitchBlanks(line.c_str());
+    const char* rest = first;
+    const Text word = WithoutQuotes(Text(first, EndOfSwitch(first)));
+    if (!word.empty() && word[0] != '/') {
+        command.logPath = word;
+        rest = EndOfSwitch(first);
+    }
+    command.switches = ReadSwitches(rest);
+    // One that was asked for a test must not remove anything.
+    for (const auto& [name, mode] : kTestModes)
+        if (command.switches.testMode == mode && !command.switches.badSwitch)
+            command.switches.badSwitch = Text(name);
+    return command;
 }
 
 } // namespace quillon

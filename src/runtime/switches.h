@@ -1,5 +1,5 @@
 // The command line of the setup and of the uninstaller. Names of switches ignore case; a value
-// follows behind '=' and may stand in quotation marks, which a value with blanks needs.
+// follows behind '=', and where it holds blanks it stands in quotation marks, or the whole switch.
 #pragma once
 
 #include "helpers/text.h"
@@ -24,9 +24,13 @@ struct Switches {
 /// `commandLine` is what stands behind the program's own name.
 Switches ReadSwitches(std::string_view commandLine);
 
-/// The same for the uninstaller, which has no test mode: one that was asked for a test must not
-/// remove anything.
-Switches ReadUninstallerSwitches(std::string_view commandLine);
+struct UninstallerCommand {
+    Text logPath; // empty where the line names none
+    Switches switches;
+};
+
+/// The uninstaller's line begins with the product's log, if at all. It has no test mode.
+UninstallerCommand ReadUninstallerCommand(std::string_view commandLine);
 
 /// Drive and folder, or a network path: a folder that means the same wherever the setup is started.
 bool IsWholePath(std::string_view path);

@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 
 namespace {
 
@@ -81,6 +83,55 @@ TEST(SetupRuntime, IsMadeFor32BitMachines)
 TEST(SetupRuntime, HasATwinFor64BitWine)
 {
     ExpectAll(kRelease64, kMachineAmd64, kPe32Plus);
+}
+
+struct Section {
+    unsigned address = 0;
+    unsigned position = 0;
+    unsigned size = 0;
+};
+
+// Where an address of the loaded program lies in its file.
+std::size_t PositionOf(const std::string& bytes, unsigned address)
+{
+    const std::size_t start = NumberAt(bytes, 0x3C, 4);
+    const unsigned count = NumberAt(bytes, start + 6, 2);
+    const std::size_t first = start + 24 + NumberAt(bytes, start + 20, 2);
+    for (unsigned i = 0; i < count; ++i) {
+        const std::size_t at = first + 40 * i;
+        const Section section{NumberAt(bytes, at + 12, 4), NumberAt(bytes, at + 20, 4),
+                              NumberAt(bytes, at + 16, 4)};
+        if (address >= section.address && address < section.address + section.size)
+            return section.position + (address - section.address);
+    }
+    return 0;
+}
+
+// The libraries that Windows loads before the program's first line, in lower case.
+std::set<std::string> ImportsOf(const fs::path& path)
+{
+    const std::string bytes = BytesOf(path);
+    const std::size_t options = NumberAt(bytes, 0x3C, 4) + 24;
+    const bool isWide = NumberAt(bytes, options, 2) == kPe32Plus;
+    const std::size_t directory = options + (isWide ? 112 : 96) + 8;
+    std::set<std::string> names;
+    std::size_t at = PositionOf(bytes, NumberAt(bytes, directory, 4));
+    for (unsigned name = 0; at != 0 && (name = NumberAt(bytes, at + 12, 4)) != 0; at += 20) {
+        std::string text = bytes.c_str() + PositionOf(bytes, name);
+        std::transform(text.begin(), text.end(), text.begin(),
+                       [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+        names.insert(text);
+    }
+    return names;
+}
+
+// Windows looks for all others in the program's own folder first, where anybody may have laid one.
+TEST(SetupRuntime, ImportsOnlyWhatWindowsTakesFromItsOwnFolder)
+{
+    const std::set<std::string> safe = {"kernel32.dll", "msvcrt.dll"};
+    for (const fs::path& folder : {kRelease32, kRelease64})
+        for (const char* name : kPrograms)
+            EXPECT_EQ(ImportsOf(folder / name), safe) << folder / name;
 }
 
 // Many a machine that is no Windows has a Wine for 64-bit programs alone.

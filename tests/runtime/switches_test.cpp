@@ -1,5 +1,7 @@
 #include "runtime/switches.h"
 
+#include "runtime/switch_words.h"
+
 #include <gtest/gtest.h>
 
 namespace quillon {
@@ -50,6 +52,12 @@ INSTANTIATE_TEST_SUITE_P(
                     FolderCase{R"(/D=C:\)", R"(C:\)", false},
                     FolderCase{R"(/D=C:\Bort\..\App/Ett\\Två\. /S)", R"(C:\App\Ett\Två)", true},
                     FolderCase{R"(/DIR=\\server\del\App)", R"(\\server\del\App)", false},
+                    FolderCase{R"("/D=C:\Med Blank")", R"(C:\Med Blank)", false},
+                    FolderCase{R"("/DIR=C:\Med Blank\" "/S")", R"(C:\Med Blank)", true},
+                    FolderCase{"\"/S\"\t\"/D=C:\\Med Blank\"", R"(C:\Med Blank)", true},
+                    FolderCase{R"(/D=C:\Med Blank "/S")", R"(C:\Med Blank)", true},
+                    FolderCase{R"("/D"="C:\Med Blank" /S)", R"(C:\Med Blank)", true},
+                    FolderCase{R"(/D="C:\Med /S Blank")", R"(C:\Med \S Blank)", false},
                     FolderCase{R"(/D=C:\A /D=C:\B)", R"(C:\B)", false}));
 
 class BadSwitch : public testing::TestWithParam<std::pair<const char*, const char*>> {};
@@ -67,7 +75,8 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair{"/DIR=\"C:App\"", "/DIR=\"C:App\""}, std::pair{"/LOG=", "/LOG="},
                     std::pair{"/LOG=\"\"", "/LOG=\"\""}, std::pair{"/PASSWORD", "/PASSWORD"},
                     std::pair{"/A /B", "/A"}, std::pair{"/TEST=1", "/TEST=1"},
-                    std::pair{"/PREVIEWS", "/PREVIEWS"}));
+                    std::pair{"/PREVIEWS", "/PREVIEWS"}, std::pair{"\"/X Y\" /S", "\"/X Y\""},
+                    std::pair{"\"\"", "\"\""}));
 
 TEST(ReadSwitches, TakesAnEmptyPasswordAsOne)
 {
@@ -87,12 +96,87 @@ TEST(ReadSwitches, KnowsTheTwoTestModes)
     EXPECT_EQ(both.badSwitch, "/TEST");
 }
 
-TEST(ReadUninstallerSwitches, KnowNoTestMode)
+TEST(ReadSwitches, TakesASwitchThatIsQuotedAsAWhole)
 {
-    EXPECT_EQ(ReadUninstallerSwitches("/S /TEST").badSwitch, "/TEST");
-    EXPECT_EQ(ReadUninstallerSwitches("/preview").badSwitch, "/PREVIEW");
-    EXPECT_EQ(ReadUninstallerSwitches("/X /TEST").badSwitch, "/X");
-    EXPECT_EQ(ReadUninstallerSwitches("/S").badSwitch, std::nullopt);
+    const Switches switches =
+        ReadSwitches("\t\"/s\" \"/log=C:\\en logg.txt\"\t\"/PASSWORD=två ord\" \"/TEST\"");
+    EXPECT_TRUE(switches.silent);
+    EXPECT_EQ(switches.logFile, R"(C:\en logg.txt)");
+    EXPECT_EQ(switches.password, "två ord");
+    EXPECT_EQ(switches.testMode, TestMode::Test);
+    EXPECT_EQ(switches.badSwitch, std::nullopt);
+}
+
+// The starter knows of no other switch, and has to be silent whenever the setup is.
+TEST(AsksForSilence, AgreesWithTheSetup)
+{
+    for (const char* line : {"",
+                             " ",
+                             "/S",
+                             "/s",
+                             "\t/S",
+                             "a\t/S",
+                             "\"/S\"",
+                             "x \"/s\"\ty",
+                             "/D=C:\\A B /S",
+                             "/D=C:\\A B \"/S\"",
+                             "/D=\"C:\\A /S\"",
+                             "\"/D=C:\\A /S\"",
+                             "/SILENT",
+                             "/X/S",
+                             "/S/X",
+                             "/S=1",
+                             "\"/S",
+                             "S",
+                             "/",
+                             "/LOG=/S",
+                             "\"x\"/S",
+                             "/\"S\"",
+                             "/LOG=a /S"}) {
+        const Text narrow = line;
+        const std::wstring wide(narrow.begin(), narrow.end());
+        EXPECT_EQ(AsksForSilence(wide.c_str()), ReadSwitches(line).silent) << line;
+    }
+    EXPECT_TRUE(AsksForSilence("\t\"/S\""));
+    EXPECT_FALSE(AsksForSilence("/D=\"C:\\A /S\""));
+}
+
+struct UninstallerCase {
+    const char* line;
+    const char* logPath;
+    bool silent;
+};
+
+class UninstallerLine : public testing::TestWithParam<UninstallerCase> {};
+
+TEST_P(UninstallerLine, BeginsWithTheLog)
+{
+    const UninstallerCommand command = ReadUninstallerCommand(GetParam().line);
+    EXPECT_EQ(command.logPath, GetParam().logPath);
+    EXPECT_EQ(command.switches.silent, GetParam().silent);
+    EXPECT_EQ(command.switches.badSwitch, std::nullopt);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , UninstallerLine,
+    testing::Values(UninstallerCase{"", "", false}, UninstallerCase{"/S", "", true},
+                    UninstallerCase{"\"/S\"", "", true},
+                    UninstallerCase{R"("C:\Ett program\QNXUNIN.LOG")",
+                                    R"(C:\Ett program\QNXUNIN.LOG)", false},
+                    UninstallerCase{R"( "C:\Ett program\QNXUNIN.LOG" /S)",
+                                    R"(C:\Ett program\QNXUNIN.LOG)", true},
+                    UninstallerCase{"C:\\A\\QNXUNIN2.LOG\t\"/S\"", R"(C:\A\QNXUNIN2.LOG)", true}));
+
+TEST(ReadUninstallerCommand, KnowsNoTestMode)
+{
+    const auto badSwitch = [](const char* line) {
+        return ReadUninstallerCommand(line).switches.badSwitch;
+    };
+    EXPECT_EQ(badSwitch("/S /TEST"), "/TEST");
+    EXPECT_EQ(badSwitch("/preview"), "/PREVIEW");
+    EXPECT_EQ(badSwitch("\"C:\\A.LOG\" /X /TEST"), "/X");
+    EXPECT_EQ(badSwitch("/S C:\\A.LOG"), "C:\\A.LOG");
+    EXPECT_EQ(badSwitch("/S"), std::nullopt);
 }
 
 TEST(IsWholePath, WantsADriveOrAServer)

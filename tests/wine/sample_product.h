@@ -21,6 +21,10 @@ public:
     /// The project, to be changed before `Order` saves it.
     Project project;
 
+    /// A file below the main folder, or in the component of that number, with these copy options.
+    void Add(const std::string& folder, const std::string& name, const std::string& bytes,
+             const std::string& options = {}, int component = 0);
+
     PackageOrder Order(std::vector<std::string> options);
     const std::vector<SampleFile>& Files() const { return files_; }
     std::filesystem::path Drive() const { return folder_ / "drive"; }
@@ -28,8 +32,6 @@ public:
 private:
     void Fill();
     void AddFiles();
-    void Add(const std::string& folder, const std::string& name, const std::string& bytes,
-             const std::string& options = {}, int component = 0);
     void AddRow(FileListRow row, SampleFile file);
 
     std::filesystem::path folder_;

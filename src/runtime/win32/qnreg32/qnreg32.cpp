@@ -1,5 +1,6 @@
 // QNREG32: registers the file named on its command line, or with /U takes its registration back. It
 // works in a process of its own, so that a library that fails takes no setup with it.
+#include "runtime/win32/program_start.h"
 #include "runtime/win32/register_server.h"
 
 #include <objbase.h>
@@ -7,12 +8,12 @@
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int)
 {
+    quillon::StartProgram();
     int count = 0;
     LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
     const bool off = count == 3 && lstrcmpiW(words[1], L"/U") == 0;
     if (words == nullptr || (count != 2 && !off))
         return quillon::kRegistrationFailed;
-    SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX | SEM_NOGPFAULTERRORBOX);
     OleInitialize(nullptr);
     const int result = quillon::RegisterServerFile(words[count - 1], !off);
     OleUninitialize();

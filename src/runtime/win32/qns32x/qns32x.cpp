@@ -10,6 +10,7 @@
 #include "runtime/silent_ask.h"
 #include "runtime/win32/library_container.h"
 #include "runtime/win32/private_folder.h"
+#include "runtime/win32/program_start.h"
 #include "runtime/win32/test_window.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
@@ -83,6 +84,7 @@ ExitCode RunOnWindows(HINSTANCE instance, Switches switches)
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
 {
+    StartProgram();
     OleInitialize(nullptr);
     const Switches switches = ReadSwitches(Narrow(commandLine));
     ExitCode code = ExitCode::Failed;

@@ -1,5 +1,6 @@
 // QNXREG2: registers, after the machine was started again, the files that were in use when they
 // were installed. Its exit code is the number of files that could not be registered.
+#include "runtime/win32/program_start.h"
 #include "runtime/win32/register_server.h"
 
 #include <objbase.h>
@@ -7,11 +8,11 @@
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int)
 {
+    quillon::StartProgram();
     int count = 0;
     LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
     if (words == nullptr)
         return 1;
-    SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX | SEM_NOGPFAULTERRORBOX);
     OleInitialize(nullptr);
     int failed = 0;
     for (int i = 1; i < count; ++i)

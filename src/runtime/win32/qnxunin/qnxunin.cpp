@@ -10,6 +10,7 @@
 #include "runtime/switches.h"
 #include "runtime/uninstall.h"
 #include "runtime/win32/private_folder.h"
+#include "runtime/win32/program_start.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
 
@@ -18,28 +19,6 @@
 using namespace quillon;
 
 namespace {
-
-struct CommandLine {
-    Text logPath;
-    Switches switches;
-};
-
-// The name of the log comes first, and may be left out.
-CommandLine ReadCommandLine(const Text& line)
-{
-    const Text text = TrimBlanks(line);
-    CommandLine read{JoinPath(ProgramFolder(), "QNXUNIN.LOG"), {}};
-    std::size_t end = 0;
-    if (text.substr(0, 1) == "\"") {
-        end = std::min(text.find('"', 1), text.size() - 1) + 1;
-        read.logPath = ReplaceAll(text.substr(0, end), "\"", "");
-    } else if (!text.empty() && text[0] != '/') {
-        end = std::min(text.find(' '), text.size());
-        read.logPath = text.substr(0, end);
-    }
-    read.switches = ReadUninstallerSwitches(std::string_view(text).substr(end));
-    return read;
-}
 
 // A running program can't be deleted, but it can be moved: out of the product's folder, so that the
 // folder can go. Empty where it has to stay, and where it can't even be moved, from one drive to
@@ -94,7 +73,7 @@ int CleanUp(std::string_view line)
     return hasPath && DeleteFileW(WidePath(Text(rest.substr(blank + 1))).c_str()) ? 0 : 1;
 }
 
-ExitCode RunUninstall(Host& host, Ask& ask, const CommandLine& line,
+ExitCode RunUninstall(Host& host, Ask& ask, const UninstallerCommand& line,
                       const InstalledProduct& product)
 {
     TextLog log;
@@ -109,7 +88,7 @@ ExitCode RunUninstall(Host& host, Ask& ask, const CommandLine& line,
     return code;
 }
 
-ExitCode RunWithWindow(HINSTANCE instance, Host& host, const CommandLine& line,
+ExitCode RunWithWindow(HINSTANCE instance, Host& host, const UninstallerCommand& line,
                        const std::optional<InstalledProduct>& product)
 {
     const LanguageTexts texts = product ? product->texts : LanguageTexts();
@@ -135,7 +114,7 @@ ExitCode RunWithWindow(HINSTANCE instance, Host& host, const CommandLine& line,
     return code;
 }
 
-ExitCode RunSilently(Host& host, const CommandLine& line,
+ExitCode RunSilently(Host& host, const UninstallerCommand& line,
                      const std::optional<InstalledProduct>& product)
 {
     if (line.switches.badSwitch)
@@ -148,11 +127,14 @@ ExitCode RunSilently(Host& host, const CommandLine& line,
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
 {
+    StartProgram();
     const Text given = TrimBlanks(Narrow(commandLine));
     if (given.substr(0, kCleanSwitch.size()) == kCleanSwitch)
         return CleanUp(given);
     OleInitialize(nullptr);
-    const CommandLine line = ReadCommandLine(given);
+    UninstallerCommand line = ReadUninstallerCommand(given);
+    if (line.logPath.empty())
+        line.logPath = JoinPath(ProgramFolder(), "QNXUNIN.LOG");
     ExitCode code = ExitCode::Failed;
     try {
         WinFiles files;

@@ -3,6 +3,8 @@
 // up and ends with the same code. Written without the standard library, since it is the first thing
 // to be read from a slow disk.
 #include "platform/win32/locked_folder.h"
+#include "runtime/switch_words.h"
+#include "runtime/win32/program_start.h"
 
 #include <windows.h>
 
@@ -38,19 +40,6 @@ void FindPackageFolder(wchar_t* folder)
     wchar_t* const last = wcsrchr(folder, L'\\');
     if (last != nullptr)
         last[last - folder == 2 ? 1 : 0] = 0;
-}
-
-bool IsSilent(const wchar_t* line)
-{
-    bool quoted = false;
-    for (bool begins = true; *line != 0; ++line) {
-        const bool isSwitch = (line[1] | 0x20) == L's' && (line[2] == 0 || line[2] == L' ');
-        if (begins && !quoted && line[0] == L'/' && isSwitch)
-            return true;
-        quoted = quoted != (*line == L'"');
-        begins = *line == L' ' || *line == L'\t';
-    }
-    return false;
 }
 
 // A text of the language file that the package names.
@@ -155,6 +144,7 @@ DWORD RunSetup(Paths& paths, const wchar_t* switches, HWND waitWindow, bool& sta
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR switches, int)
 {
+    quillon::StartProgram();
     // Too large for the stack; the system takes it back when the program ends.
     auto* const memory =
         static_cast<Paths*>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, sizeof(Paths)));
@@ -162,7 +152,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR switches, int)
         return kFailed;
     Paths& paths = *memory;
     FindPackageFolder(paths.package);
-    const bool silent = IsSilent(switches);
+    const bool silent = quillon::AsksForSilence(switches);
     const HWND waitWindow = silent ? nullptr : ShowWaitWindow(paths);
     if (!MakeWorkFolder(paths))
         return Refuse(paths, silent);

@@ -1,0 +1,46 @@
+// Command lines of any content, for the setup, its starter and the uninstaller: the starter is
+// silent exactly when the setup is, and a switch that is quoted as a whole means what it says.
+#include "runtime/switch_words.h"
+#include "runtime/switches.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+using namespace quillon;
+
+namespace {
+
+void Require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+void ReadQuotedAsAWhole(Text value)
+{
+    std::erase(value, '"');
+    const Switches switches =
+        ReadSwitches("\"/S\"\t\"/LOG=" + value + "\" \"/PASSWORD=" + value + '"');
+    Require(switches.silent && switches.logFile == value && switches.password == value);
+    Require(switches.badSwitch.has_value() == value.empty());
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    // The system hands a command line over up to its first NUL.
+    const Text line = Text(reinterpret_cast<const char*>(bytes), size).c_str();
+    const Switches switches = ReadSwitches(line);
+    Require(switches.silent == AsksForSilence(std::wstring(line.begin(), line.end()).c_str()));
+    Require(!switches.badSwitch || line.find(*switches.badSwitch) != Text::npos);
+    Require(switches.badSwitch || switches.destination.empty() ||
+            IsWholePath(switches.destination));
+
+    const UninstallerCommand command = ReadUninstallerCommand(line);
+    Require(command.logPath.empty() || command.logPath[0] != '/');
+    Require(!command.switches.testMode || command.switches.badSwitch);
+    ReadQuotedAsAWhole(line);
+    return 0;
+}

@@ -1,0 +1,73 @@
+#include "runtime/win32/program_start.h"
+
+#include <windows.h>
+
+#include <delayimp.h>
+
+namespace quillon {
+
+namespace {
+
+// Loaded in the course of a run by the system's own libraries: for windows and their looks, for the
+// rights of files, for objects and shortcuts, and for starting other programs.
+constexpr const char* kCommonLibraries[] = {
+    "version.dll", "uxtheme.dll",     "comctl32.dll", "shlwapi.dll", "imm32.dll",
+    "msctf.dll",   "usp10.dll",       "lpk.dll",      "dwmapi.dll",  "ntmarta.dll",
+    "secur32.dll", "cryptbase.dll",   "rsaenh.dll",   "cryptsp.dll", "clbcatq.dll",
+    "comres.dll",  "rpcrtremote.dll", "setupapi.dll", "propsys.dll", "linkinfo.dll",
+    "ntshrui.dll", "netapi32.dll",    "srvcli.dll",   "profapi.dll", "apphelp.dll",
+    "mpr.dll",     "winmm.dll",       "oleacc.dll",
+};
+
+constexpr UINT kLongestName = 64;
+
+// With a whole path Windows looks for what the library needs beside it, not beside the program.
+HMODULE LoadFromSystemFolder(const char* name)
+{
+    char path[MAX_PATH + kLongestName];
+    const UINT length = GetSystemDirectoryA(path, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH || lstrlenA(name) >= int(kLongestName) - 1)
+        return nullptr;
+    lstrcatA(path, "\\");
+    lstrcatA(path, name);
+    return LoadLibraryExA(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+}
+
+FARPROC WINAPI OnDelayedLoad(unsigned event, PDelayLoadInfo info)
+{
+    if (event != dliNotePreLoadLibrary)
+        return nullptr;
+    return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(LoadFromSystemFolder(info->szDll)));
+}
+
+template <class Function>
+Function OfKernel(const char* name)
+{
+    return reinterpret_cast<Function>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), name)));
+}
+
+} // namespace
+
+void LoadCommonLibraries()
+{
+    for (const char* name : kCommonLibraries)
+        LoadFromSystemFolder(name);
+}
+
+void StartProgram()
+{
+    SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX | SEM_NOGPFAULTERRORBOX);
+    __pfnDliNotifyHook2 = OnDelayedLoad;
+    constexpr DWORD kSystemFolderOnly = 0x800; // LOAD_LIBRARY_SEARCH_SYSTEM32
+    const auto setDefault = OfKernel<BOOL(WINAPI*)(DWORD)>("SetDefaultDllDirectories");
+    if (setDefault != nullptr && setDefault(kSystemFolderOnly))
+        return;
+    // Not in the current folder either.
+    const auto setFolder = OfKernel<BOOL(WINAPI*)(const wchar_t*)>("SetDllDirectoryW");
+    if (setFolder != nullptr)
+        setFolder(L"");
+    LoadCommonLibraries();
+}
+
+} // namespace quillon

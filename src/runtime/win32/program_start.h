@@ -1,0 +1,17 @@
+// What each program of the setup runtime does before anything else. Written without the standard
+// library, since the starter uses it too.
+#pragma once
+
+namespace quillon {
+
+/// From here on libraries are taken from the system's folder only: a package lies in a folder of
+/// downloads, where anybody may have laid a version.dll beside it. And Windows shows no boxes of
+/// its own, neither for a missing disk nor for a crash, since nobody may be there to answer them.
+void StartProgram();
+
+/// Loads from the system's folder, by its whole path, what Windows itself asks for by the name
+/// alone while a program runs. Systems that can't be told where to look need it: those before
+/// Windows 8 without an update of 2011.
+void LoadCommonLibraries();
+
+} // namespace quillon

@@ -1,0 +1,112 @@
+// Libraries that somebody has laid beside the programs, under the names of the system's own: none
+// of the programs takes them.
+#include "wine/package.h"
+#include "wine/registry_text.h"
+#include "wine/sample_product.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// What the programs and the system's libraries below them import or load by name on some Windows or
+// on Wine. Missing are kernel32 and what it rests on, and the C library: Windows takes those from
+// its own folder always.
+constexpr const char* kNames[] = {
+    "actxprxy", "advapi32", "apphelp", "atl",       "bcrypt",   "cfgmgr32", "clbcatq", "combase",
+    "comctl32", "comres",   "crypt32", "cryptbase", "cryptsp",  "dbghelp",  "dnsapi",  "dwmapi",
+    "gdi32",    "gdiplus",  "imm32",   "iphlpapi",  "linkinfo", "lpk",      "mpr",     "msctf",
+    "msimg32",  "netapi32", "nsi",     "ntmarta",   "ntshrui",  "ole32",    "oleacc",  "oleaut32",
+    "powrprof", "profapi",  "propsys", "psapi",     "rpcrt4",   "rsaenh",   "sechost", "secur32",
+    "setupapi", "sfc",      "shcore",  "shell32",   "shfolder", "shlwapi",  "srvcli",  "urlmon",
+    "user32",   "userenv",  "usp10",   "uxtheme",   "version",  "win32u",   "winmm",   "winspool",
+    "wintrust", "ws2_32",   "wsock32", "wtsapi32",
+};
+
+void PlantIn(const fs::path& folder)
+{
+    for (const std::string name : kNames)
+        fs::copy_file(TestProgramFolder() / "planted.dll", folder / (name + ".dll"),
+                      fs::copy_options::skip_existing);
+}
+
+// The names that were loaded, one after the other.
+std::string Loaded(const WinePrefix& prefix)
+{
+    std::string names;
+    const fs::path notes = prefix.OnHost("C:\\planted");
+    if (fs::exists(notes))
+        for (const auto& entry : fs::directory_iterator(notes))
+            names += entry.path().filename().string() + " ";
+    return names;
+}
+
+TEST(PlantedLibraries, TellWhenTheyAreLoaded)
+{
+    const WinePrefix prefix;
+    const fs::path folder = WorkFolder() / "planterat";
+    fs::create_directory(folder);
+    PlantIn(folder);
+    fs::copy_file(TestProgramFolder() / "canary.exe", folder / "canary.exe");
+    prefix.Run(OnZ(folder / "canary.exe"), R"(C:\a.txt 5)");
+    EXPECT_NE(Loaded(prefix), "") << "a program that does not say where to look takes them";
+}
+
+TEST(PlantedLibraries, AreNotTakenBySetupAndUninstaller)
+{
+    SampleProduct product;
+    const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
+    PlantIn(package);
+    const WinePrefix prefix;
+    const fs::path temp = prefix.OnHost("C:\\windows\\temp");
+    PlantIn(temp);
+    for (const auto& user : fs::directory_iterator(prefix.OnHost("C:\\users")))
+        for (const char* below : {"Temp", "AppData/Local/Temp"})
+            if (fs::is_directory(user.path() / below))
+                PlantIn(user.path() / below);
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
+    EXPECT_EQ(Loaded(prefix), "");
+
+    const fs::path mainFolder = prefix.OnHost("C:\\Program Files\\Provpaket Åäö");
+    PlantIn(mainFolder);
+    const auto uninstall = RegistryText(prefix).Value(
+        "HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Provpaket Åäö",
+        "QuietUninstallString");
+    ASSERT_TRUE(uninstall.has_value());
+    EXPECT_EQ(prefix.RunCommandLine(*uninstall), 0U);
+    prefix.WaitForAll();
+    EXPECT_FALSE(fs::exists(mainFolder / "QNXUNIN.EXE"));
+    EXPECT_EQ(Loaded(prefix), "");
+}
+
+TEST(PlantedLibraries, AreNotTakenByTheHelpersAndByATest)
+{
+    const WinePrefix prefix;
+    const fs::path folder = WorkFolder() / "hjälpare";
+    fs::create_directory(folder);
+    PlantIn(folder);
+    for (const char* program : {"QNREG32.EXE", "QNXREG2.EXE", "Small32/QNS32X.EXE"})
+        fs::copy_file(RuntimeFolder() / program, folder / fs::path(program).filename());
+    fs::copy_file(TestProgramFolder() / "crashing_server.dll", folder / "server.dll");
+    const std::string server = " \"" + OnZ(folder / "server.dll") + '"';
+    EXPECT_EQ(prefix.Run(OnZ(folder / "QNREG32.EXE"), server), 0U);
+    EXPECT_EQ(prefix.Run(OnZ(folder / "QNXREG2.EXE"), server + " C:\\none.dll"), 1U);
+    EXPECT_EQ(prefix.Run(OnZ(folder / "QNS32X.EXE"), "/TEST /S"), 1603U);
+    EXPECT_EQ(Loaded(prefix), "");
+}
+
+TEST(PlantedLibraries, AreNotTakenWhereTheSystemCanNotBeToldWhereToLook)
+{
+    const WinePrefix prefix;
+    const fs::path folder = WorkFolder() / "äldre system";
+    fs::create_directory(folder);
+    PlantIn(folder);
+    fs::copy_file(TestProgramFolder() / "common_libraries.exe", folder / "common_libraries.exe");
+    EXPECT_EQ(prefix.Run(OnZ(folder / "common_libraries.exe")), 0U);
+    EXPECT_EQ(Loaded(prefix), "");
+}
+
+} // namespace
+} // namespace quillon::test
