@@ -1,6 +1,7 @@
 #include "formats/package.h"
 
 #include "formats/joined_input.h"
+#include "formats/row_safety.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
@@ -121,6 +122,9 @@ RowBytes MissingBytes(const InstallRow& row, Text expectedPath)
 RowBytes FindLooseFile(const FileSystem& files, const Package& package, const InstallRow& row)
 {
     Text path = LooseFilePath(package.folder, package.setup, row);
+    // Nothing outside the package is looked at.
+    if (FaultOfRow(row, MediumOf(package.setup) == Medium::CdTree) != PathFault::None)
+        return {.place = RowBytes::Place::Missing, .path = {}};
     if (!files.FileExists(path))
         return MissingBytes(row, std::move(path));
     return {.place = RowBytes::Place::LooseFile, .path = std::move(path)};

@@ -5,6 +5,7 @@
 #include "project/file_list.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace quillon {
 
@@ -67,7 +68,9 @@ std::vector<Text> ContainerPieces(const SetupInformation& setup,
     if (!UsesContainer(setup) || std::ranges::none_of(rows, HasSource))
         return {};
     const bool isSpanned = Medium(setup.project.Media.TargetMedia) == Medium::Floppy;
-    const int disks = isSpanned ? std::max(setup.Floppies, 1) : 1;
+    // As many as Create can count.
+    constexpr int kMostDisks = std::numeric_limits<Integer>::max();
+    const int disks = isSpanned ? std::clamp(setup.Floppies, 1, kMostDisks) : 1;
     std::vector<Text> pieces;
     for (int disk = 1; disk <= disks; ++disk)
         pieces.push_back(PieceName(disk));

@@ -1,6 +1,7 @@
 #include "formats/package_contents_check.h"
 
 #include "formats/package_contents.h"
+#include "formats/row_safety.h"
 #include "helpers/windows_path.h"
 
 #include <set>
@@ -31,7 +32,9 @@ std::vector<Text> AllFilesOf(const Package& package)
 void CheckMissing(const FileSystem& files, const Package& package, std::vector<Text>& faults)
 {
     for (const Text& name : FixedFilesOf(package.setup, package.rows))
-        if (!IsToldAlready(name) && !files.FileExists(JoinPath(package.folder, name)))
+        if (FaultOfName(name) != PathFault::None)
+            faults.push_back(NameFaultText(name));
+        else if (!IsToldAlready(name) && !files.FileExists(JoinPath(package.folder, name)))
             faults.push_back(name + " saknas.");
 }
 

@@ -97,6 +97,15 @@ PathFault FaultOfSourceFolder(std::string_view folder)
     return hasColon ? PathFault::Colon : FaultOfFolder(folder);
 }
 
+PathFault FaultOfRow(const InstallRow& row, bool isTree)
+{
+    if (const PathFault fault = FaultOfRowName(row.name); fault != PathFault::None)
+        return fault;
+    if (const PathFault fault = FaultOfDestination(row.destination); fault != PathFault::None)
+        return fault;
+    return isTree ? FaultOfSourceFolder(row.sourceFolder) : PathFault::None;
+}
+
 Text UnknownVariableIn(std::string_view destination)
 {
     constexpr std::string_view kCapitals = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";

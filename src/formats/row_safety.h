@@ -3,6 +3,7 @@
 // a row is added and before a package is made; `verify` and the setup refuse a package that has it.
 #pragma once
 
+#include "formats/install_row.h"
 #include "helpers/text.h"
 #include "helpers/windows_name.h"
 
@@ -17,6 +18,10 @@ PathFault FaultOfDestination(std::string_view destination);
 
 /// The folder below a tree package's own; empty where the file lies in that itself.
 PathFault FaultOfSourceFolder(std::string_view folder);
+
+/// The first fault of a row as FILELIST.INF has it. Its source folder counts in a tree alone: no
+/// other package goes by it.
+PathFault FaultOfRow(const InstallRow& row, bool isTree);
 
 /// The first word that looks like a variable and is none, "%DESTDR"; the setup leaves it as it
 /// stands. Empty where there is none.

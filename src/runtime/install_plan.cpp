@@ -1,6 +1,8 @@
 #include "runtime/install_plan.h"
 
 #include "formats/new_windows_files.h"
+#include "formats/package_files.h"
+#include "formats/row_safety.h"
 #include "helpers/windows_path.h"
 #include "runtime/failure_reason.h"
 #include "runtime/install_log.h"
@@ -50,9 +52,10 @@ Text DestinationOf(const PlanInput& input, const InstallRow& row)
     const Text whole =
         isBelow ? JoinPath(input.variables.Value(NameOf(VariableMeaning::MainFolder)), folder)
                 : folder;
-    const bool isOneName = row.name.find_first_of("\\/:") == Text::npos && !row.name.empty();
-    const bool staysBelow = whole.find("\\..") == Text::npos && row.name != "..";
-    if (!IsWholePath(whole) || !isOneName || !staysBelow)
+    const bool isTree = input.setup.project.Media.TargetMedia == int(Medium::CdTree);
+    // What the variables stand for is known here alone.
+    if (FaultOfRow(row, isTree) != PathFault::None || !IsWholePath(whole) ||
+        FaultOfFolder(whole) != PathFault::None)
         throw DamagedPackage(input.texts, {Message::PackageBadFolder, row.name, row.destination});
     return whole;
 }

@@ -10,7 +10,7 @@ namespace {
 // clang-format off
 constexpr MessageKey kMessages[] = {
     {Message::Extract,                "PreLoader", "Msg_Extract",             "Förbereder installationen. Vänta..."},
-    {Message::NoRuntime,              "PreLoader", "Msg_NoRuntime",           "Installationen kan inte startas. Filen '%1' saknas eller kan inte läsas."},
+    {Message::NoRuntime,              "PreLoader", "Msg_NoRuntime",           "Installationen kan inte startas. Filen '%1' saknas eller är skadad."},
     {Message::Title,                  "Setup",     "Title",                   "Installation av %1"},
     {Message::Checking,               "Setup",     "Msg_Checking",            "Kontrollerar installationsfilerna..."},
     {Message::Copying,                "Setup",     "Msg_Copying",             "Kopierar filer..."},
@@ -124,6 +124,7 @@ constexpr MessageKey kMessages[] = {
     {Message::LogCannotUndo,          "Log",       "Log_CannotUndo",          "Kan inte ångra en ändring: %1"},
     {Message::LogWrongSystem,         "Log",       "Log_WrongSystem",         "Paketet är inte avsett för den här versionen av Windows"},
     {Message::LogReads,               "Log",       "Log_Reads",               "Läser %1"},
+    {Message::LogNoManifest,          "Log",       "Log_NoManifest",          "Paketet har ingen %1. Dess filer prövas utan den."},
     {Message::LogMakesFolder,         "Log",       "Log_MakesFolder",         "Skapar mappen %1"},
     {Message::LogCopies,              "Log",       "Log_Copies",              "Kopierar %1"},
     {Message::LogBacksUp,             "Log",       "Log_BacksUp",             "Säkerhetskopierar %1 till %2"},

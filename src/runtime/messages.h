@@ -124,6 +124,7 @@ enum class Message {
     LogCannotUndo,
     LogWrongSystem,
     LogReads,
+    LogNoManifest,
     LogMakesFolder,
     LogCopies,
     LogBacksUp,

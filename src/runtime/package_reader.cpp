@@ -64,7 +64,10 @@ Text PackageReader::ContainerPath()
     const int disks = input_.setup.Floppies;
     if (input_.setup.project.Media.TargetMedia == int(Medium::Floppy) && disks > 1)
         return JoinDisks(disks);
-    return JoinPath(input_.packageFolder, kFileContainerName);
+    const Text path = JoinPath(input_.packageFolder, kFileContainerName);
+    if (!input_.host.files.FileExists(path))
+        throw DamagedPackage(input_.texts, {Message::PackageFileMissing, kFileContainerName});
+    return path;
 }
 
 // The pieces of all disks become one file first, since an archive is read from its end.
@@ -95,7 +98,29 @@ void PackageReader::AppendDisk(int disk, OutputFile& joined)
         } while (!files.FileExists(piece));
     }
     input_.log.Line(Message::LogReads, piece);
-    CopyAll(*files.OpenInput(piece), [&](auto bytes) { joined.Write(bytes); });
+    if (!files.FileExists(piece))
+        throw DamagedPackage(input_.texts, {Message::PackageFileMissing, PieceName(disk)});
+    Sha256 hash;
+    CopyAll(*files.OpenInput(piece), [&](auto bytes) {
+        hash.Add(bytes);
+        joined.Write(bytes);
+    });
+    CheckPiece(disk, hash.Finish());
+}
+
+bool PackageReader::HasManifest() const
+{
+    return input_.manifest != nullptr && input_.manifest->state == PackageManifest::State::Whole;
+}
+
+void PackageReader::CheckPiece(int disk, const Sha256Digest& digest) const
+{
+    if (!HasManifest())
+        return;
+    for (const ManifestLine& line : input_.manifest->lines)
+        if (EqualIgnoreCase(line.name, PieceName(disk)) && line.digest == digest)
+            return;
+    throw DamagedPackage(input_.texts, {Message::PackageFileDamaged, PieceName(disk)});
 }
 
 void PackageReader::FindByThemselves()
@@ -128,7 +153,7 @@ void PackageReader::CheckEverything()
         if (size != row.size)
             throw DamagedPackage(input_.texts, {Message::PackageFileSize, row.name});
     }
-    if (!container_)
+    if (!container_ || HasManifest())
         return;
     std::uint64_t total = 0;
     for (const ZipEntry& entry : container_->Entries())

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "formats/install_row.h"
+#include "formats/package_manifest.h"
 #include "formats/setup_information.h"
 #include "platform/ask.h"
 #include "platform/host.h"
@@ -26,6 +27,7 @@ struct PackageInput {
     Text workFolder; // private to this installation
     Text password;
     bool silent = false;
+    const PackageManifest* manifest = nullptr; // of files that have been held against it
 };
 
 class PackageReader {
@@ -36,8 +38,8 @@ public:
     PackageReader(const PackageReader&) = delete;
     PackageReader& operator=(const PackageReader&) = delete;
 
-    /// Reads everything once: lengths everywhere, and in an archive every CRC. Throws `ZipError`,
-    /// or `SetupFailure`.
+    /// Reads everything once: lengths everywhere, and every CRC in an archive that no manifest has
+    /// vouched for. Throws `ZipError`, or `SetupFailure`.
     void CheckEverything();
 
     /// False on a row that makes a folder, and on one that never had a source.
@@ -56,6 +58,8 @@ private:
     Text ContainerPath();
     Text JoinDisks(int disks);
     void AppendDisk(int disk, OutputFile& joined);
+    void CheckPiece(int disk, const Sha256Digest& digest) const;
+    bool HasManifest() const;
     const Place& PlaceOf(const InstallRow& row) const;
 
     PackageInput input_;

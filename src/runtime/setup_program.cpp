@@ -1,11 +1,13 @@
 #include "runtime/setup_program.h"
 
 #include "formats/package.h"
+#include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "runtime/failure_reason.h"
 #include "runtime/install.h"
+#include "runtime/package_check.h"
 #include "runtime/package_names.h"
 
 #include <map>
@@ -28,6 +30,7 @@ private:
     void OpenLog();
     void CheckSwitches() const;
     void CheckPackage() const;
+    void CheckFiles();
     void CheckPassword() const;
     void CheckSystem();
     void CheckFreeSpace(const InstallPlan& plan) const;
@@ -80,6 +83,7 @@ ExitCode SetupProgram::Run()
         OpenLog();
         CheckSwitches();
         CheckPackage();
+        CheckFiles();
         CheckPassword();
         CheckSystem();
         InstallPackage();
@@ -121,6 +125,13 @@ void SetupProgram::CheckPackage() const
 {
     if (package_.fault)
         throw DamagedPackage(texts_, *package_.fault);
+}
+
+void SetupProgram::CheckFiles()
+{
+    input_.ask.AddStatusLine(texts_[Message::Checking]);
+    CheckAgainstManifest({input_.host.files, input_.ask, log_, texts_, package_.setup,
+                          package_.rows, package_.manifest, input_.switches.packageFolder});
 }
 
 void SetupProgram::CheckPassword() const
@@ -183,11 +194,10 @@ void SetupProgram::InstallPackage()
     const InstallPlan plan = MakeInstallPlan(
         {package_.setup, package_.rows, variables, texts_, input_.host, input_.target});
     KeepHelpers();
-    input_.ask.AddStatusLine(texts_[Message::Checking]);
     PackageReader reader({input_.host, input_.ask, log_, texts_, package_.setup, package_.rows,
                           input_.openContainer, input_.switches.packageFolder, input_.workFolder,
                           package_.setup.project.DialogBoxData.CorrectPassword,
-                          input_.switches.silent});
+                          input_.switches.silent, &package_.manifest});
     reader.CheckEverything();
     CheckFreeSpace(plan);
     const InstallResult result =
@@ -228,7 +238,10 @@ void TellBrokenInformation(LoadedPackage& package)
 // Without it everything is said in Swedish.
 void ReadLanguage(const FileSystem& files, const Text& folder, LoadedPackage& package)
 {
-    const Text path = JoinPath(folder, package.setup.project.Language.LanguageFile);
+    const Text& name = package.setup.project.Language.LanguageFile;
+    if (FaultOfName(name) != PathFault::None)
+        return;
+    const Text path = JoinPath(folder, name);
     RunErrorNumber([&] {
         if (files.FileExists(path) && files.Facts(path).size <= kLargestLanguageFile)
             package.texts = LanguageTexts(ReadWholeFile(files, path));
@@ -240,6 +253,7 @@ void ReadLanguage(const FileSystem& files, const Text& folder, LoadedPackage& pa
 LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder)
 {
     LoadedPackage package = ReadSetupInformationFile(files, packageFolder);
+    package.manifest = ReadPackageManifest(files, packageFolder);
     ReadPart(files, packageFolder, kFileListName, package, [&](const std::string& bytes) {
         InstallFileList list = ReadInstallFileList(bytes);
         package.rows = std::move(list.rows);

@@ -2,6 +2,7 @@
 // for Windows add is a window, the machine's own registry, and the library that reads archives.
 #pragma once
 
+#include "formats/package_manifest.h"
 #include "platform/ask.h"
 #include "runtime/container.h"
 #include "runtime/exit_codes.h"
@@ -14,6 +15,7 @@ namespace quillon {
 struct LoadedPackage {
     SetupInformation setup;
     std::vector<InstallRow> rows;
+    PackageManifest manifest;
     LanguageTexts texts;
     std::optional<Reason> fault; // what is wrong with the package
 };

@@ -104,6 +104,7 @@ SetupFixture::SetupFixture()
     memory.files.PutFolder("C:\\WINDOWS\\SYSTEM32");
     memory.files.PutFolder("C:\\Ulla\\Start-meny\\Program");
     memory.files.PutFolder("C:\\Ulla\\Skrivbord");
+    memory.files.Put(JoinPath(kPackageFolder, "FILEDATA.DAT"), "the archive");
     memory.files.Put(JoinPath(kPackageFolder, "QNXUNIN.BIN"), "uninstaller");
     memory.files.Put(JoinPath(kPackageFolder, "QNXREG2.BIN"), "second helper");
     target.keys[{RegistryRoot::LocalMachine, "software"}] = {"SOFTWARE", {}};

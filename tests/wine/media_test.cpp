@@ -31,6 +31,9 @@ void LayOutTree(const fs::path& package, const SampleProduct& product)
         fs::copy_file(source, folder / row.name);
         fs::last_write_time(folder / row.name, fs::last_write_time(source));
     }
+    // The first list went when the programs of the other machine came.
+    if (WineBits() == 64)
+        WriteManifest(package);
 }
 
 void MoveBesideTheSetup(const fs::path& package, const SampleProduct&)

@@ -27,6 +27,7 @@ void UseRuntimeOfThisWine(const fs::path& package)
         if (fs::exists(package / name))
             fs::copy_file(RuntimeFolder() / source, package / name,
                           fs::copy_options::overwrite_existing);
+    WriteManifest(package);
 }
 
 } // namespace
@@ -56,6 +57,16 @@ PackageOrder ExampleOrder()
             .options = {}};
 }
 
+void WriteManifest(const fs::path& package)
+{
+    const ProgramResult summed =
+        RunProgram({"/bin/sh", "-c",
+                    "cd \"$0\" && find . -type f ! -name PACKAGE.SHA256 -printf '%P\\0' | "
+                    "xargs -0 sha256sum > PACKAGE.SHA256",
+                    package});
+    EXPECT_EQ(summed.exitCode, 0) << summed.output;
+}
+
 std::string ReadBytes(const fs::path& path)
 {
     std::ifstream file(path, std::ios::binary);
@@ -79,6 +90,7 @@ void ChangeSetupKey(const fs::path& package, const std::string& key, const std::
     const std::size_t end = bytes.find("\r\n", start + 2);
     bytes.replace(start, end - start, "\r\n" + key + " = " + value);
     WriteBytes(package / "QNSETUP.INF", bytes);
+    WriteManifest(package);
 }
 
 std::vector<PackagedRow> PackagedRows(const fs::path& package)

@@ -5,6 +5,7 @@
 #include "platform/win32/locked_folder.h"
 #include "runtime/switch_words.h"
 #include "runtime/win32/program_start.h"
+#include "runtime/win32/setup32/listed_files.h"
 
 #include <windows.h>
 
@@ -23,6 +24,7 @@ struct Paths {
     wchar_t scratch[kLongestPath];
     wchar_t commandLine[kLongestPath];
     wchar_t message[1024];
+    const wchar_t* refused; // the file that the user is told of
 };
 
 void Join(wchar_t* to, const wchar_t* folder, const wchar_t* name)
@@ -58,12 +60,12 @@ int Refuse(Paths& paths, bool silent)
     if (silent)
         return kFailed;
     ReadMessage(paths, L"Msg_NoRuntime",
-                L"Installationen kan inte startas. Filen '%1' saknas eller kan inte l\u00E4sas.");
+                L"Installationen kan inte startas. Filen '%1' saknas eller \u00E4r skadad.");
     wchar_t* const mark = wcsstr(paths.message, L"%1");
     lstrcpynW(paths.scratch, paths.message,
               mark == nullptr ? 1024 : static_cast<int>(mark - paths.message) + 1);
     if (mark != nullptr) {
-        lstrcatW(paths.scratch, L"QNS32X.BIN");
+        lstrcatW(paths.scratch, paths.refused);
         lstrcatW(paths.scratch, mark + 2);
     }
     MessageBoxW(nullptr, paths.scratch, L"Quillon", MB_OK | MB_ICONSTOP | MB_SETFOREGROUND);
@@ -111,6 +113,27 @@ bool CopyToWorkFolder(Paths& paths, wchar_t* to, const wchar_t* from, const wcha
     return true;
 }
 
+// The copies are looked at and not what they were made of: nobody else can change them any more.
+bool CopyRuntime(Paths& paths)
+{
+    Join(paths.scratch, paths.package, L"PACKAGE.SHA256");
+    const ListedFiles listed(paths.scratch);
+    GetModuleFileNameW(nullptr, paths.scratch, kLongestPath);
+    paths.refused = wcsrchr(paths.scratch, L'\\') + 1;
+    if (listed.AreKnown() && !listed.Hold(paths.scratch)) {
+        lstrcpyW(paths.commandLine, paths.refused);
+        paths.refused = paths.commandLine;
+        return false;
+    }
+    paths.refused = L"DUNZIP32.DLL";
+    if (!CopyToWorkFolder(paths, paths.library, paths.refused, paths.refused) ||
+        (listed.AreKnown() && !listed.Hold(paths.library, "DUNZIP32.DLL")))
+        return false;
+    paths.refused = L"QNS32X.BIN";
+    return CopyToWorkFolder(paths, paths.program, paths.refused, L"QNS32X.EXE") &&
+           (!listed.AreKnown() || listed.Hold(paths.program, "QNS32X.BIN"));
+}
+
 DWORD RunSetup(Paths& paths, const wchar_t* switches, HWND waitWindow, bool& started)
 {
     if (wcslen(paths.program) + wcslen(paths.package) + wcslen(switches) + 64 > kLongestPath)
@@ -151,13 +174,13 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR switches, int)
     if (memory == nullptr)
         return kFailed;
     Paths& paths = *memory;
+    paths.refused = L"QNS32X.BIN";
     FindPackageFolder(paths.package);
     const bool silent = quillon::AsksForSilence(switches);
     const HWND waitWindow = silent ? nullptr : ShowWaitWindow(paths);
     if (!MakeWorkFolder(paths))
         return Refuse(paths, silent);
-    const bool copied = CopyToWorkFolder(paths, paths.program, L"QNS32X.BIN", L"QNS32X.EXE") &&
-                        CopyToWorkFolder(paths, paths.library, L"DUNZIP32.DLL", L"DUNZIP32.DLL");
+    const bool copied = CopyRuntime(paths);
     bool started = false;
     DWORD code = kFailed;
     if (copied)

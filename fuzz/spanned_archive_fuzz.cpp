@@ -1,0 +1,78 @@
+// The container of several disks, cut anywhere and with any content: the first bytes tell where it
+// is cut. The pieces joined are read as the whole is, in whatever steps.
+#include "formats/joined_input.h"
+#include "formats/zip_reader.h"
+
+#include "support/one_file_host.h"
+
+#include <cstdlib>
+
+using namespace quillon;
+
+namespace {
+
+constexpr std::size_t kCuts = 3;
+
+void Require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+std::vector<std::string> CutUp(std::string_view bytes)
+{
+    std::vector<std::string> pieces;
+    std::size_t cuts[kCuts] = {};
+    for (std::size_t& cut : cuts) {
+        if (bytes.size() < 2)
+            break;
+        cut = static_cast<unsigned char>(bytes[0]) * 256U + static_cast<unsigned char>(bytes[1]);
+        bytes.remove_prefix(2);
+    }
+    for (const std::size_t cut : cuts) {
+        pieces.emplace_back(bytes.substr(0, cut));
+        bytes.remove_prefix(std::min(cut, bytes.size()));
+    }
+    pieces.emplace_back(bytes);
+    return pieces;
+}
+
+std::unique_ptr<InputFile> Joined(const std::vector<std::string>& pieces)
+{
+    std::vector<std::unique_ptr<InputFile>> files;
+    for (const std::string& piece : pieces)
+        files.push_back(std::make_unique<test::BytesInput>(piece));
+    return std::make_unique<JoinedInput>(std::move(files));
+}
+
+/// What there is to say of an archive: its entries, and what each of them gives.
+std::string Told(std::unique_ptr<InputFile> file)
+{
+    std::string told;
+    try {
+        ZipReader reader(std::move(file));
+        for (const ZipEntry& entry : reader.Entries()) {
+            told += entry.name + "|" + entry.comment + "|" + std::to_string(entry.size) + "\n";
+            if (!entry.isEncrypted)
+                reader.Extract(entry, {}, [&](std::span<const std::byte> bytes) {
+                    told.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+                });
+        }
+    } catch (const ZipError& error) {
+        told += error.what();
+    }
+    return told;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    const std::vector<std::string> pieces = CutUp({reinterpret_cast<const char*>(bytes), size});
+    std::string whole;
+    for (const std::string& piece : pieces)
+        whole += piece;
+    Require(Joined(pieces)->Size() == whole.size());
+    Require(Told(Joined(pieces)) == Told(std::make_unique<test::BytesInput>(whole)));
+    return 0;
+}
