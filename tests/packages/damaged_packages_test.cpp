@@ -18,11 +18,6 @@ const ProductMedium kMedia[] = {{"Cd", Medium::CompressedCd},
                                 {"Tree", Medium::CdTree},
                                 {"Floppies", Medium::Floppy}};
 
-void PrintTo(const ProductMedium& medium, std::ostream* out)
-{
-    *out << medium.name;
-}
-
 /// A bit of a package, every one of all its files as likely as the next.
 struct Bit {
     Text file;
@@ -38,7 +33,7 @@ Bit RandomBit(const PackageFiles& files, std::mt19937& random)
     std::size_t place = random() % total;
     for (const auto& [name, bytes] : files) {
         if (place < bytes.size())
-            return {name, place, random() % 8U};
+            return {name, place, unsigned(random() % 8)};
         place -= bytes.size();
     }
     return {};

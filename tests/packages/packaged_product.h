@@ -6,6 +6,8 @@
 #include "runtime/exit_codes.h"
 #include "runtime/memory_target.h"
 
+#include <ostream>
+
 namespace quillon::test {
 
 using PackageFiles = std::map<Text, std::string>; // by the names below the package's folder
@@ -15,6 +17,10 @@ struct ProductMedium {
     Medium medium;
     bool isOneByOne = false;
 };
+inline void PrintTo(const ProductMedium& medium, std::ostream* out)
+{
+    *out << medium.name;
+}
 
 /// A package with every kind of file that there is. Of a tree the project's files are laid out.
 PackageFiles MakeProductPackage(const ProductMedium& medium, const Text& password = {});
