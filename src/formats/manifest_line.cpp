@@ -28,7 +28,7 @@ std::optional<ManifestLineText> TakeManifestLine(std::string_view& text)
     const std::size_t end = text.find('\n');
     if (end == text.npos)
         return std::nullopt;
-    std::string_view line = text.substr(0, end);
+    std::string_view line(text.data(), end);
     text.remove_prefix(end + 1);
     // An editor for Windows may have been there.
     if (line.ends_with('\r'))
@@ -36,7 +36,9 @@ std::optional<ManifestLineText> TakeManifestLine(std::string_view& text)
     constexpr std::size_t kNameAt = kDigestDigits + 2;
     if (line.size() <= kNameAt)
         return std::nullopt;
-    const ManifestLineText read{line.substr(0, kDigestDigits), line.substr(kNameAt)};
+    // Not by `substr`, whose failure would bring a hundred kilobytes of library into the starter.
+    const ManifestLineText read{{line.data(), kDigestDigits},
+                                {line.data() + kNameAt, line.size() - kNameAt}};
     // The second mark tells that the file was read as text or in binary, which is the same here.
     const bool hasMarks = line[kDigestDigits] == ' ' &&
                           (line[kDigestDigits + 1] == ' ' || line[kDigestDigits + 1] == '*');

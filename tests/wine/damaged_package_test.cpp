@@ -1,0 +1,104 @@
+// Packages with a bit that has turned, in the hands of the real programs: nothing is installed, and
+// nothing crashes.
+#include "wine/folder_state.h"
+#include "wine/package.h"
+#include "wine/registry_text.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+namespace quillon::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr unsigned kRefused = 1603;
+
+class DamagedPackage : public testing::Test {
+protected:
+    void Flip(const std::string& file, std::size_t byte, unsigned bit = 0)
+    {
+        std::string bytes = ReadBytes(package / file);
+        bytes.at(byte) = static_cast<char>(static_cast<unsigned char>(bytes.at(byte)) ^ 1U << bit);
+        WriteBytes(package / file, bytes);
+    }
+    unsigned Install() const { return prefix.Run(OnZ(package / "SETUP.EXE"), "/S"); }
+    bool IsInstalled() const { return fs::exists(prefix.OnHost("C:\\Program Files\\Hej")); }
+
+    const fs::path package = MakePackage(ExampleOrder());
+    const WinePrefix prefix;
+};
+
+TEST_F(DamagedPackage, IsRefusedWhicheverOfItsFilesHasABitThatTurned)
+{
+    prefix.Restart();
+    const RegistryText registryBefore(prefix);
+    const FolderState before = StateOf(prefix.DriveC());
+    std::mt19937 random(42);
+    for (const auto& entry : fs::directory_iterator(package)) {
+        const std::string file = entry.path().filename();
+        // Whatever a damaged starter does, it does not do it to a package; that one is below.
+        if (file == "SETUP.EXE" || file == "PACKAGE.SHA256")
+            continue;
+        for (int i = 0; i < 3; ++i) {
+            const std::string whole = ReadBytes(entry.path());
+            const std::size_t byte = random() % whole.size();
+            Flip(file, byte, unsigned(random() % 8));
+            EXPECT_EQ(Install(), kRefused) << file << " " << byte;
+            WriteBytes(entry.path(), whole);
+        }
+    }
+    EXPECT_FALSE(IsInstalled());
+    EXPECT_EQ(FolderDifference(before, StateOf(prefix.DriveC())), "");
+    EXPECT_EQ(RegistryDifference(registryBefore, RegistryText(prefix)), "");
+    EXPECT_EQ(Install(), 0U) << "the whole package";
+    EXPECT_TRUE(IsInstalled());
+}
+
+TEST_F(DamagedPackage, IsRefusedByAStarterThatFindsItselfChanged)
+{
+    constexpr std::size_t kInTheTextForDos = 0x50;
+    Flip("SETUP.EXE", kInTheTextForDos);
+    EXPECT_EQ(Install(), kRefused);
+    EXPECT_FALSE(IsInstalled());
+}
+
+TEST_F(DamagedPackage, MayHaveAStarterOfAnotherName)
+{
+    fs::rename(package / "SETUP.EXE", package / "Installera.exe");
+    EXPECT_EQ(prefix.Run(OnZ(package / "Installera.exe"), "/S"), 0U);
+    EXPECT_TRUE(IsInstalled());
+}
+
+TEST_F(DamagedPackage, IsRefusedWithoutALibraryOrASetup)
+{
+    for (const char* file : {"DUNZIP32.DLL", "QNS32X.BIN", "QNXUNIN.BIN", "FILEDATA.DAT"}) {
+        const std::string whole = ReadBytes(package / file);
+        fs::remove(package / file);
+        EXPECT_EQ(Install(), kRefused) << file;
+        WriteBytes(package / file, "");
+        EXPECT_EQ(Install(), kRefused) << file;
+        WriteBytes(package / file, whole);
+    }
+    EXPECT_FALSE(IsInstalled());
+}
+
+TEST_F(DamagedPackage, IsRefusedWhereCreateWasNotFinished)
+{
+    WriteBytes(package / "PACKAGE.SHA256", "");
+    EXPECT_EQ(Install(), kRefused);
+    EXPECT_FALSE(IsInstalled());
+}
+
+TEST_F(DamagedPackage, WithoutAManifestIsInstalledAsItIs)
+{
+    fs::remove(package / "PACKAGE.SHA256");
+    const fs::path log = prefix.Folder() / "logg.txt";
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S /LOG=\"" + OnZ(log) + '"'), 0U);
+    EXPECT_TRUE(IsInstalled());
+    EXPECT_THAT(ReadBytes(log), testing::HasSubstr("PACKAGE.SHA256"));
+}
+
+} // namespace
+} // namespace quillon::test
