@@ -36,7 +36,8 @@ bool DigestOf(const wchar_t* path, quillon::Sha256Digest& digest)
     const HANDLE file = OpenToRead(path);
     if (file == INVALID_HANDLE_VALUE)
         return false;
-    static std::byte piece[64 * 1024];
+    // Less than a page: the compiler asks its library for more of the stack than that.
+    std::byte piece[3584];
     quillon::Sha256 hash;
     DWORD read = 0;
     bool isRead = false;
