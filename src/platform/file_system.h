@@ -25,7 +25,7 @@ struct FileFacts {
     bool isHidden = false;
     bool isArchive = false;
     bool isSystem = false;
-    // The same on every way that leads to a folder, links included; 0 where the system tells none.
+    // The same on every way that leads to a file or folder, links included; 0 where none is told.
     std::uint64_t identity = 0;
 };
 

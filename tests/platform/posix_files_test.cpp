@@ -164,6 +164,11 @@ TEST_F(PosixFilesTest, DoesNotWaitForAPipeThatNobodyWritesTo)
     ASSERT_EQ(mkfifo(disk.Path("pipe").c_str(), 0600), 0);
     EXPECT_EQ(Failure([&] { files.OpenInput("S:\\pipe"); }), 75);
     EXPECT_EQ(Failure([&] { files.OpenOutput("S:\\pipe"); }), 75);
+    EXPECT_FALSE(files.FileExists("S:\\pipe"));
+    EXPECT_EQ(Failure([&] { files.Facts("S:\\pipe"); }), 75);
+    EXPECT_FALSE(files.FileExists("Z:\\dev\\null"));
+    for (const FolderEntry& entry : files.List("S:\\"))
+        EXPECT_NE(entry.name, "pipe");
 }
 
 TEST_F(PosixFilesTest, ListsAFolderInByteOrder)
@@ -190,7 +195,7 @@ TEST_F(PosixFilesTest, ListsALinkThatLeadsNowhereSoThatItsLossShows)
     EXPECT_EQ(Failure([&] { files.OpenInput("S:\\link"); }), 53);
 }
 
-TEST_F(PosixFilesTest, TellsThatALinkLeadsToTheSameFolder)
+TEST_F(PosixFilesTest, TellsThatALinkLeadsToTheSameFolderOrFile)
 {
     disk.Put("data/sub/a.txt", "abc");
     create_symlink(disk.Path("data"), disk.Path("data/sub/back"));
@@ -198,7 +203,12 @@ TEST_F(PosixFilesTest, TellsThatALinkLeadsToTheSameFolder)
     EXPECT_NE(identity, 0U);
     EXPECT_EQ(files.Facts("S:\\data\\sub\\back").identity, identity);
     EXPECT_NE(files.Facts("S:\\data\\sub").identity, identity);
-    EXPECT_EQ(files.Facts("S:\\data\\sub\\a.txt").identity, 0U);
+    disk.Put("data/A.TXT", "another");
+    create_symlink(disk.Path("data/sub/a.txt"), disk.Path("data/link.txt"));
+    const auto file = files.Facts("S:\\data\\sub\\a.txt").identity;
+    EXPECT_NE(file, 0U);
+    EXPECT_EQ(files.Facts("S:\\data\\link.txt").identity, file);
+    EXPECT_NE(files.Facts("S:\\data\\A.TXT").identity, file);
 }
 
 TEST_F(PosixFilesTest, ReadsFromAnyPositionAndStopsAtTheEnd)

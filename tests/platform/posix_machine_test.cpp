@@ -43,6 +43,19 @@ TEST_F(PosixMachineTest, MakesTheFoldersOfDriveCOnFirstUse)
     EXPECT_EQ(host.machine.GetTempDir(), "S:\\tmp");
 }
 
+TEST_F(PosixMachineTest, SaysThatDriveCCannotBeMade)
+{
+    MachineSettings settings = Settings();
+    EXPECT_TRUE(PosixHost(settings).complaints.empty());
+    disk.Put("file", "no folder");
+    settings.drives[1].folder = disk.Path("file") + "/c";
+    const PosixHost host(settings);
+    ASSERT_EQ(host.complaints.size(), 1U);
+    EXPECT_EQ(host.complaints[0], "Enheten C: kan ej skapas i '" + disk.Path("file") +
+                                      "/c'; ange en annan katalog med QUILLON_DRIVE_C.");
+    EXPECT_EQ(host.machine.GetSystemDir(), "");
+}
+
 TEST_F(PosixMachineTest, HasNoFoldersThatAreNotThere)
 {
     PosixHost host(Settings());

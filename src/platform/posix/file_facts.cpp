@@ -21,7 +21,7 @@ FileFacts FactsOf(const struct stat& facts)
             .modified = LocalTimeOf(facts.st_mtim.tv_sec),
             .isFolder = isFolder,
             .isReadOnly = (facts.st_mode & S_IWUSR) == 0,
-            .identity = isFolder ? IdentityOf(facts) : 0};
+            .identity = IdentityOf(facts)};
 }
 
 LocalTime LocalTimeOf(time_t moment)

@@ -33,6 +33,12 @@ bool IsFolder(const std::string& hostPath)
     return stat(hostPath.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
 }
 
+// A pipe, a socket or a device has nothing that could be packed, and reading one may never end.
+bool IsFileOrFolder(const struct stat& facts)
+{
+    return S_ISREG(facts.st_mode) || S_ISDIR(facts.st_mode);
+}
+
 [[noreturn]] void Fail(const Text& path, const std::string& hostPath, Doing doing)
 {
     const int errorCode = errno;
@@ -105,7 +111,7 @@ bool PosixFiles::FileExists(const Text& path) const
 {
     const auto hostPath = drives_.ToHost(path);
     struct stat facts {};
-    return hostPath && stat(hostPath->c_str(), &facts) == 0 && !S_ISDIR(facts.st_mode);
+    return hostPath && stat(hostPath->c_str(), &facts) == 0 && S_ISREG(facts.st_mode);
 }
 
 bool PosixFiles::DirExists(const Text& path) const
@@ -116,7 +122,10 @@ bool PosixFiles::DirExists(const Text& path) const
 
 FileFacts PosixFiles::Facts(const Text& path) const
 {
-    return FactsOf(StatOf(path, HostPath(drives_, path)));
+    const struct stat facts = StatOf(path, HostPath(drives_, path));
+    if (!IsFileOrFolder(facts))
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+    return FactsOf(facts);
 }
 
 std::vector<FolderEntry> PosixFiles::List(const Text& folder) const
@@ -134,7 +143,8 @@ std::vector<FolderEntry> PosixFiles::List(const Text& folder) const
         const bool found =
             fstatat(dirfd(listing.get()), name.c_str(), &facts, 0) == 0 ||
             fstatat(dirfd(listing.get()), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0;
-        if (found && name != "." && name != "..")
+        const bool isOne = found && (IsFileOrFolder(facts) || S_ISLNK(facts.st_mode));
+        if (isOne && name != "." && name != "..")
             entries.push_back({name, FactsOf(facts)});
     }
     std::sort(entries.begin(), entries.end(),

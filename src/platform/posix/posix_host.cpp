@@ -28,6 +28,14 @@ RegistryFiles ReadRegistryFiles(const std::vector<std::string>& hostPaths, const
     return registry;
 }
 
+// Without its folders the tool works, but knows none of those of Windows.
+void LookAtDriveC(const DriveMap& drives, const Machine& machine, std::vector<Text>& complaints)
+{
+    if (machine.GetSystemDir().empty())
+        complaints.push_back("Enheten C: kan ej skapas i '" + drives.FolderOf('C').value_or("") +
+                             "'; ange en annan katalog med QUILLON_DRIVE_C.");
+}
+
 } // namespace
 
 PosixHost::PosixHost(MachineSettings settings)
@@ -35,6 +43,7 @@ PosixHost::PosixHost(MachineSettings settings)
       machine(settings, drives, files,
               ReadRegistryFiles(settings.registryFiles, drives, files, complaints))
 {
+    LookAtDriveC(drives, machine, complaints);
 }
 
 Text PosixHost::ProgramFolder() const
