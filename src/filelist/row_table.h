@@ -10,32 +10,23 @@ namespace quillon {
 
 using RowNumber = std::uint32_t;
 
-/// Rows that are alike in what the table is about, by the first and the last of them.
-struct AlikeRows {
-    RowNumber first;
-    RowNumber last;
-};
-
 class RowTable {
 public:
-    /// `isAlike` tells of the first row of an entry whether it is what is looked for. Null where
-    /// there is none.
+    /// `isAlike` tells of a row whether it is what is looked for.
     template <class IsAlike>
-    const AlikeRows* Find(std::size_t hash, IsAlike isAlike) const
+    bool Holds(std::size_t hash, IsAlike isAlike) const
     {
-        const Slot& slot = slots_[SlotOf(hash, isAlike)];
-        return slot.isFree ? nullptr : &slot.rows;
+        return !slots_[SlotOf(hash, isAlike)].isFree;
     }
 
-    /// Rows come in rising order.
+    /// Of rows that are alike the first one stays.
     template <class IsAlike>
     void Add(RowNumber number, std::size_t hash, IsAlike isAlike)
     {
         Slot& slot = slots_[SlotOf(hash, isAlike)];
-        slot.rows.last = number;
         if (!slot.isFree)
             return;
-        slot = {static_cast<Hash>(hash), {number, number}, false};
+        slot = {static_cast<Hash>(hash), number, false};
         if (++used_ * 2 > slots_.size())
             Grow();
     }
@@ -44,7 +35,7 @@ private:
     using Hash = std::uint32_t;
     struct Slot {
         Hash hash = 0;
-        AlikeRows rows{};
+        RowNumber number = 0;
         bool isFree = true;
     };
 
@@ -53,8 +44,8 @@ private:
     std::size_t SlotOf(std::size_t hash, IsAlike isAlike) const
     {
         std::size_t place = static_cast<Hash>(hash) % slots_.size();
-        while (!slots_[place].isFree && (slots_[place].hash != static_cast<Hash>(hash) ||
-                                         !isAlike(slots_[place].rows.first)))
+        while (!slots_[place].isFree &&
+               (slots_[place].hash != static_cast<Hash>(hash) || !isAlike(slots_[place].number)))
             place = (place + 1) % slots_.size();
         return place;
     }

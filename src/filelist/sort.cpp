@@ -51,8 +51,7 @@ NewPlaces MoveRows(FileList& list, const RowNumbers& order)
 
 Text SortText(const FileListRow& row, Column key)
 {
-    // Names go by their capitals, since the duplicate test halves the list by these: a name with
-    // '_' would otherwise stand in the half that it does not look at.
+    // Names go by their capitals, so '_' stands behind the letters and not before them.
     return key == Filename ? UpperCase(row[key]) : LowerCase(row[key]);
 }
 

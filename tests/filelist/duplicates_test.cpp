@@ -13,30 +13,15 @@ namespace quillon::test {
 
 namespace {
 
-// The duplicate test as it is told: a walk over a list whose rows stand in their order.
+// The duplicate test as it is told: a walk over all rows.
 bool WalkOverList(const FileList& list, const Text& name, const Text& source,
                   const Text& destination)
 {
-    if (list.rows.empty())
-        return false;
-    std::size_t first = 0;
-    std::size_t last = list.rows.size() - 1;
-    if (list.rows.size() >= 100 && list.sortKey == Filename) {
-        const double half = static_cast<double>(list.rows.size()) / 2;
-        const auto middle = static_cast<std::size_t>(RoundToEven(half)) - 1;
-        if (UpperCase(name) > UpperCase(list.rows[middle][Filename]))
-            first = middle;
-        else
-            last = middle;
-    }
-    for (std::size_t i = first; i <= last; ++i) {
-        const FileListRow& row = list.rows[i];
-        if (EqualIgnoreCase(row[Filename], name) &&
-            (EqualIgnoreCase(row[Source], source) ||
-             EqualIgnoreCase(row[Destination], destination)))
-            return true;
-    }
-    return false;
+    return std::ranges::any_of(list.rows, [&](const FileListRow& row) {
+        return EqualIgnoreCase(row[Filename], name) &&
+               (EqualIgnoreCase(row[Source], source) ||
+                EqualIgnoreCase(row[Destination], destination));
+    });
 }
 
 void PutWhereItBelongs(FileList& list, const FileListRow& row)
@@ -153,68 +138,33 @@ TEST(DuplicateIndex, LetsEmptyFolderRowsStandSideBySide)
         << "but a file of that name meets them";
 }
 
-TEST(DuplicateIndex, FindsEveryRowOfAnAscendingListOfAHundredTheMiddleOneTooFromBothHalves)
+TEST(DuplicateIndex, FindsEveryRowOfALongListHoweverItIsSorted)
 {
-    FileList list = RowsNamedByNumber(100);
-    const DuplicateIndex index(list);
-    for (const FileListRow& row : list.rows)
-        EXPECT_TRUE(index.IsFileAlreadyInList(row[Filename], row[Source], "%OTHER"));
-
-    // Row 50 is the middle one: as its own name it ends the first half.
-    list.rows[50][Filename] = list.rows[49][Filename];
-    const DuplicateIndex twins(list);
-    EXPECT_TRUE(twins.IsFileAlreadyInList("f1050", "c:\\s\\1050", "%OTHER"));
-    EXPECT_FALSE(twins.IsFileAlreadyInList("f1050", "c:\\s\\1051", "%OTHER"))
-        << "kept: a second row of the middle name lies behind the half that is looked at";
+    for (const int count : {99, 100, 101, 103, 200})
+        for (const ListKind& kind : kListKinds) {
+            FileList list = RowsNamedByNumber(count);
+            SortRowsBy(list, kind.sortKey, kind.descending);
+            list.sorted = kind.sorted;
+            const DuplicateIndex index(list);
+            for (const FileListRow& row : list.rows)
+                ASSERT_TRUE(index.IsFileAlreadyInList(row[Filename], row[Source], "%OTHER"))
+                    << kind.name << ", " << count << " rows, " << row[Filename];
+        }
 }
 
-TEST(DuplicateIndex, MissesRowsOfADescendingListFromAHundredOn)
+TEST(DuplicateIndex, FindsEachOfManyRowsOfTheMiddleName)
 {
-    for (const int count : {99, 100}) {
-        FileList list = RowsNamedByNumber(count);
-        SortRowsBy(list, Filename, true);
-        const DuplicateIndex index(list);
-        const bool missesLongLists = count == 100;
-        EXPECT_EQ(index.IsFileAlreadyInList("f1001", "c:\\s\\1001", ""), !missesLongLists);
-        EXPECT_EQ(index.IsFileAlreadyInList("f1090", "c:\\s\\1090", ""), !missesLongLists);
-    }
-}
-
-TEST(DuplicateIndex, SearchesTheWholeListUnderAnotherSortKey)
-{
-    FileList list = RowsNamedByNumber(200);
-    std::ranges::reverse(list.rows);
-    list.sorted = false;
-    list.sortKey = Date;
-    EXPECT_TRUE(DuplicateIndex(list).IsFileAlreadyInList("f1001", "c:\\s\\1001", ""));
-    list.sortKey = Filename;
-    EXPECT_FALSE(DuplicateIndex(list).IsFileAlreadyInList("f1001", "c:\\s\\1001", ""));
-}
-
-TEST(DuplicateIndex, RoundsTheMiddleOfAnOddCountToTheEvenRow)
-{
-    // 101 rows have their middle at row 50, 103 rows at row 52: rows 51 and 53 lie behind it.
-    for (const auto& [count, middle] : {std::pair(101, 50), std::pair(103, 52)}) {
-        FileList list = RowsNamedByNumber(count);
-        const auto behindMiddle = static_cast<std::size_t>(middle);
-        list.rows[behindMiddle][Filename] = list.rows[behindMiddle - 1][Filename];
-        const DuplicateIndex index(list);
-        const Text name = list.rows[behindMiddle][Filename];
-        EXPECT_TRUE(index.IsFileAlreadyInList(name, list.rows[behindMiddle - 1][Source], ""));
-        EXPECT_FALSE(index.IsFileAlreadyInList(name, list.rows[behindMiddle][Source], ""));
-    }
-}
-
-TEST(DuplicateIndex, NeverMissesANameWithAnUnderscoreInAnAscendingList)
-{
+    // A tree of a hundred folders with a file of one name in each.
     FileList list;
     for (int i = 0; i < 100; ++i)
-        list.rows.push_back(
-            MakeRow((i % 2 == 0 ? "a_" : "Ab") + NumberText(100 + i), "%D", "c:\\x"));
-    SortRowsBy(list, Filename);
+        list.rows.push_back(MakeRow("readme.txt", "%DESTDIR\\" + NumberText(i),
+                                    "c:\\s\\" + NumberText(i) + "\\readme.txt"));
     const DuplicateIndex index(list);
-    for (const FileListRow& row : list.rows)
-        EXPECT_TRUE(index.IsFileAlreadyInList(row[Filename], "c:\\x", "%OTHER")) << row[Filename];
+    for (const FileListRow& row : list.rows) {
+        EXPECT_TRUE(index.IsFileAlreadyInList("README.TXT", row[Source], "%OTHER"));
+        EXPECT_TRUE(index.IsFileAlreadyInList("readme.txt", "c:\\other", row[Destination]));
+    }
+    EXPECT_FALSE(index.IsFileAlreadyInList("readme.txt", "c:\\s\\100\\readme.txt", "%OTHER"));
 }
 
 TEST(IsFilenameInFileList, ComparesWholeNamesWithoutCase)
