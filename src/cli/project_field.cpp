@@ -1,5 +1,6 @@
 #include "cli/project_field.h"
 
+#include "cli/number_ranges.h"
 #include "helpers/ansi_text.h"
 #include "helpers/line_breaks.h"
 #include "project/list_sections.h"
@@ -16,6 +17,12 @@ namespace {
 constexpr std::size_t kLongestMarkedList = 32767;
 constexpr const char* kComponents = "FileComponents";
 constexpr std::string_view kOneComponent = "FileComponent";
+
+template <class Number>
+constexpr NumberRange kAnyNumber{std::numeric_limits<Number>::min(),
+                                 std::numeric_limits<Number>::max()};
+constexpr NumberRange kAnyInteger = kAnyNumber<Integer>;
+constexpr NumberRange kAnyLong = kAnyNumber<Long>;
 
 bool IsPixels(Stored form)
 {
@@ -42,12 +49,12 @@ public:
             Refuse("kan ej vara '" + value + "': det har tecken som inte kan lagras i projektet.");
     }
 
-    Text TextFor(Stored form, int limit) const
+    Text TextFor(Stored form, int limit, NumberRange range = kAnyInteger) const
     {
         if (form == Stored::AsFlagText)
             return NumberText(IsOn() ? kOn : kOff);
         if (form == Stored::AsNumberText)
-            return NumberText(NumberFor<Integer>());
+            return NumberText(NumberIn(range));
         const bool hasLines = form == Stored::AsLines || form == Stored::AsLongLines;
         const Text text = hasLines ? WindowsLines(value_) : value_;
         if (!hasLines && text.find_first_of("\r\n") != Text::npos)
@@ -58,10 +65,10 @@ public:
     }
 
     template <class Number>
-    Number NumberFor(Stored form) const
+    Number NumberFor(Stored form, NumberRange range) const
     {
         if (!IsFlag(form))
-            return NumberFor<Number>();
+            return static_cast<Number>(NumberIn(range));
         const bool isRead1 = form == Stored::AsFlagReadAsNumber;
         return static_cast<Number>(!IsOn() ? kOff : isRead1 ? 1 : kOn);
     }
@@ -77,15 +84,13 @@ public:
     [[noreturn]] void Refuse(const Text& why) const { throw UsageError{field_ + " " + why}; }
 
 private:
-    template <class Number>
-    Number NumberFor() const
+    std::int64_t NumberIn(NumberRange range) const
     {
-        using Limits = std::numeric_limits<Number>;
         const std::int64_t number = LeadingNumber(value_);
-        if (NumberText(number) != value_ || number < Limits::min() || number > Limits::max())
+        if (NumberText(number) != value_ || number < range.first || number > range.last)
             Refuse("kan ej vara '" + value_ + "'; det är ett heltal från " +
-                   NumberText(Limits::min()) + " till " + NumberText(Limits::max()) + ".");
-        return static_cast<Number>(number);
+                   NumberText(range.first) + " till " + NumberText(range.last) + ".");
+        return number;
     }
 
     bool IsOn() const
@@ -168,11 +173,14 @@ private:
         if (IsPixels(key.form) || !IsMeant(name))
             return;
         if (const auto text = std::get_if<Text Record::*>(&key.field))
-            record.** text = value_.TextFor(key.form, key.limit);
+            record.** text =
+                value_.TextFor(key.form, key.limit, RangeOf(section_, key.name, kAnyInteger));
         else if (const auto number = std::get_if<Integer Record::*>(&key.field))
-            record.** number = value_.NumberFor<Integer>(key.form);
+            record.** number =
+                value_.NumberFor<Integer>(key.form, RangeOf(section_, key.name, kAnyInteger));
         else
-            record.*std::get<Long Record::*>(key.field) = value_.NumberFor<Long>(key.form);
+            record.*std::get<Long Record::*>(key.field) =
+                value_.NumberFor<Long>(key.form, RangeOf(section_, key.name, kAnyLong));
     }
 
     const Text& section_;

@@ -126,9 +126,8 @@ TEST_F(SettingsCalls, RefusesFieldsThatAreNotThere)
 
 TEST_F(SettingsCalls, RefusesValuesThatAFieldCannotHold)
 {
-    ExpectRefused(
-        {"set", "Version.Comments=a", "Media.TargetMedia=32768"}, 2,
-        "Media.TargetMedia kan ej vara '32768'; det är ett heltal från -32768 till 32767.");
+    ExpectRefused({"set", "Version.Comments=a", "Media.TargetMedia=32768"}, 2,
+                  "Media.TargetMedia kan ej vara '32768'; det är ett heltal från 1 till 4.");
     for (const char* value : {"", "3x", " 3", "1.5", "+3", "03"})
         ExpectRefused({"set", std::string("Media.TargetMedia=") + value}, 2, "är ett heltal");
     ExpectRefused({"set", "DesBackground.BackColor1=2147483648"}, 2, "till 2147483647.");
@@ -139,6 +138,40 @@ TEST_F(SettingsCalls, RefusesValuesThatAFieldCannotHold)
     ExpectRefused({"set", "DesPicturesAnim.NrAnimPictures=22"}, 2, "högst 21 bilder");
     ExpectRefused({"set", "InstallDirectories.DestinationDirectory=C:"}, 1, "katalognamn");
     Done({"set", ProductNameOf(199)});
+}
+
+TEST_F(SettingsCalls, RefusesNumbersThatMeanNothing)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"Media.TargetMedia=0", "från 1 till 4."},
+        {"Media.TargetMedia=5", "från 1 till 4."},
+        {"operatingsystem.TARGETOPERATINGSYSTEM=2", "från 0 till 1."},
+        {"Compression.KeepCompressedFilesOneAndOne=-1", "från 0 till 1."},
+        {"Sign.SignTimeStampSystem=2", "från 0 till 1."},
+        {"RunAppSelfX.DD_iHKEYIndex=6", "från 0 till 5."},
+        {"FontOptions.NeverReplaceExistingFonts=2", "från 0 till 1."},
+        {"Updates.AdvUpdateRegHKEYIndex=-1", "från 0 till 5."},
+        {"DesBackground.Type=3", "från 1 till 2."},
+        {"DesBackground.BlendDirection=6", "från 0 till 5."},
+        {"DesTitle.TitleAlignment=0", "från 1 till 3."},
+        {"DesTitleUnderline.UnderlineType=4", "från 0 till 3."},
+        {"DesTitleUnderline.UnderlineTextOnly=2", "från 0 till 1."},
+        {"DesPictures.TransparentColorNr=12", "från 0 till 11."},
+        {"DesPictures.HidePicturesWhenDialogsShowed=2", "från 0 till 1."},
+        {"DesLogotype.TransparentColorNr=-1", "från 0 till 11."},
+        {"DesLogotype.LogotypeAlignment=4", "från 1 till 3."},
+        {"DesPercentGauge.GaugeAlignmentH=0", "från 1 till 3."},
+        {"DesPercentGauge.GaugeAlignmentV=4", "från 1 till 3."},
+        {"FileComponent3.CompDefault=2", "från 0 till 1."},
+        {"FileComponents.CompCanChangeDir3=2", "från 0 till 1."},
+        {"FileComponent3.CompMustAlwaysBeInstalled=2", "från 0 till 1."},
+        {"FileComponent3.CompAdvOnlyUpdate=-1", "från 0 till 1."},
+        {"DesTitle.TitleFontSize=32768", "från -32768 till 32767."},
+    };
+    for (const auto& [assignment, range] : cases)
+        ExpectRefused({"set", assignment}, 2, std::string("det är ett heltal ") + range);
+    Done({"set", "Media.TargetMedia=4", "DesBackground.BlendDirection=0",
+          "DesLogotype.TransparentColorNr=11"});
 }
 
 TEST_F(SettingsCalls, RefusesValuesThatWouldNotComeBackFromTheFile)
