@@ -34,7 +34,7 @@ InstallRow MakeInstallRow(const FileListRow& row, Long number, const FileSystem&
                     .destination = row[Destination],
                     .iconMarker = row[IconMarker],
                     .copyOptions = row[CopyOptions],
-                    .component = int(LeadingNumber(row[ComponentNumber])),
+                    .component = row[ComponentNumber].empty() ? "0" : row[ComponentNumber],
                     .iconTitle = row[IconDesc],
                     .iconParameters = row[IconPar],
                     .workFolder = row[IconWorkDir],

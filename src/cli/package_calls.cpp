@@ -44,7 +44,7 @@ Json RowJson(const Package& package, std::size_t number)
     Json object = {{"row", "F" + NumberText(row.number)},
                    {"name", row.name},
                    {"destination", row.destination},
-                   {"component", row.component},
+                   {"component", ComponentNumberOf(row)},
                    {"size", row.size},
                    {"place", PlaceName(bytes.place)}};
     if (bytes.place == RowBytes::Place::Container) {

@@ -4,6 +4,7 @@
 #include "helpers/ansi_text.h"
 #include "helpers/number_text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <variant>
 
@@ -98,6 +99,12 @@ bool ReadField(std::string_view& line, const FieldRule& rule, InstallRow& row)
 
 } // namespace
 
+int ComponentNumberOf(const InstallRow& row)
+{
+    constexpr std::int64_t kMost = 32767;
+    return static_cast<int>(std::clamp<std::int64_t>(LeadingNumber(row.component), 0, kMost));
+}
+
 Text InstallRowLine(const InstallRow& row)
 {
     Text line = "F" + NumberText(row.number) + "=";
@@ -116,7 +123,8 @@ std::optional<InstallRow> ReadInstallRow(std::string_view line)
     for (const FieldRule& rule : kFields)
         if (!ReadField(line, rule, row))
             return std::nullopt;
-    return line.empty() ? std::optional(row) : std::nullopt;
+    const bool isWhole = line.empty() && !row.component.empty();
+    return isWhole ? std::optional(row) : std::nullopt;
 }
 
 InstallFileList ReadInstallFileList(std::string_view bytes)

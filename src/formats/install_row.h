@@ -20,7 +20,7 @@ struct InstallRow {
     Text sourceFolder;      // without drive, lower case
     Text iconMarker;
     Text copyOptions;
-    int component = 0; // 0 belongs to none
+    Text component = "0"; // as it stands in the project's row; "0" where that has none
     Text iconTitle;
     Text iconParameters;
     Text workFolder;
@@ -29,6 +29,9 @@ struct InstallRow {
 
     bool operator==(const InstallRow&) const = default;
 };
+
+/// The number that the row's component begins with; 0, or any that no component has, is none.
+int ComponentNumberOf(const InstallRow& row);
 
 /// The row as its line, without line end.
 Text InstallRowLine(const InstallRow& row);

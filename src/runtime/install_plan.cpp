@@ -34,8 +34,8 @@ bool FindsNoEarlierVersion(const PlanInput& input, const section::FileComponent&
 // Why the row is left out; nothing where it is not.
 std::optional<Reason> ReasonToSkip(const PlanInput& input, const InstallRow& row)
 {
-    if (!IsComponentInstalled(input, row.component))
-        return Reason{Message::SkipComponentOff, NumberText(row.component)};
+    if (!IsComponentInstalled(input, ComponentNumberOf(row)))
+        return Reason{Message::SkipComponentOff, row.component};
     const bool dontTouch = input.setup.project.InstallOptions.DontInstallSysFilesOnNewWin != kOff;
     if (dontTouch && IsPartOfNewWindows(row.name) && IsNewWindows(input.target.System()))
         return Reason{Message::SkipPartOfWindows};

@@ -6,6 +6,7 @@
 #include "support/golden.h"
 #include "support/memory_host.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace quillon {
@@ -84,6 +85,20 @@ TEST_F(WriteFileList, WritesEachKindOfRowToTheByte)
     EXPECT_EQ(outcome.FilesInList, 7);
     EXPECT_TRUE(SameBytes(Written(), GoldenFile("builder/file_list/FILELIST.INF")));
     EXPECT_TRUE(ReadInstallFileList(Written()).isWhole);
+}
+
+TEST_F(WriteFileList, WritesTheComponentAsItStandsInTheRow)
+{
+    for (const auto& [column, written] :
+         {std::pair("", "0"), {"7", "7"}, {"07", "07"}, {"x", "x"}}) {
+        project.Files.rows.clear();
+        AddRow("a.txt");
+        project.Files.rows[0][ComponentNumber] = column;
+        outcome = {};
+        EXPECT_EQ(Write(), 0);
+        EXPECT_THAT(Written(), testing::HasSubstr(Text("F1=a.txt;%DESTDIR;1;data; ;D ;") + written +
+                                                  "; ; ; ; ;0;\r\n"));
+    }
 }
 
 TEST_F(WriteFileList, LeavesTheDotsOutOfAnEmptyList)

@@ -13,7 +13,7 @@ const InstallRow kFullRow{.number = 12,
                           .sourceFolder = "data\\app",
                           .iconMarker = "IkonD",
                           .copyOptions = "VRAW",
-                          .component = 3,
+                          .component = "3",
                           .iconTitle = "Läs mig",
                           .iconParameters = "/a /b",
                           .workFolder = "%DESTDIR",
@@ -45,6 +45,17 @@ TEST(ReadInstallRow, GivesBackWhatWasWritten)
     const InstallRow blanksAtTheEnds{
         .number = 1, .name = "a", .iconTitle = " b ", .workFolder = " "};
     EXPECT_EQ(ReadInstallRow(InstallRowLine(blanksAtTheEnds)), blanksAtTheEnds);
+}
+
+TEST(ReadInstallRow, TakesAComponentAsItStands)
+{
+    const std::pair<const char*, int> cases[] = {
+        {"0", 0}, {"3", 3}, {"7x", 7}, {"x", 0}, {"-2", 0}, {"99999999999999999999", 32767}};
+    for (const auto& [text, number] : cases) {
+        const InstallRow row{.number = 1, .name = "a", .component = text};
+        EXPECT_EQ(ReadInstallRow(InstallRowLine(row)), row) << text;
+        EXPECT_EQ(ComponentNumberOf(row), number) << text;
+    }
 }
 
 TEST(ReadInstallRow, DoesNotInsistOnTheBlanks)

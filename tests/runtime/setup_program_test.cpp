@@ -211,7 +211,8 @@ TEST_F(SetupProgramTest, InstallsTheComponentsThatAreTickedFromTheStart)
                      .CompAdvUpdateRefFile = "%WINDIR\\finns.exe"};
     memory.files.Put("C:\\WINDOWS\\finns.exe", "");
     for (int n = 1; n <= 6; ++n)
-        AddFile(NumberText(n) + ".txt", n == 1 ? "%COMPDIR1" : "%DESTDIR", "x").component = n;
+        AddFile(NumberText(n) + ".txt", n == 1 ? "%COMPDIR1" : "%DESTDIR", "x").component =
+            NumberText(n);
     EXPECT_EQ(Install(), ExitCode::Done);
     EXPECT_TRUE(memory.files.FileExists(kMain + "\\Ett\\1.txt"));
     EXPECT_FALSE(memory.files.FileExists(kMain + "\\2.txt"));
