@@ -1,5 +1,6 @@
 #include "builder/create_checks.h"
 
+#include "builder/row_checks.h"
 #include "filelist/redist_folder.h"
 #include "filelist/system_files.h"
 #include "helpers/windows_path.h"
@@ -179,6 +180,13 @@ constexpr Check (*kChecksInOrder[])(CreateRun&) = {CheckProject,
                                                    CheckSelfExtractIcon,
                                                    CheckSelfExtractName,
                                                    CheckReservedFilenames,
+                                                   CheckRows,
+                                                   CheckUnknownVariables,
+                                                   CheckOneByOneNames,
+                                                   CheckUninstallerNames,
+                                                   CheckIconTitles,
+                                                   CheckDesignNames,
+                                                   CheckNamesInTree,
                                                    CheckFirstFloppy,
                                                    CheckDestinationExists};
 

@@ -51,8 +51,7 @@ void CopyPlain(CreateRun& run, Layout& layout, const FileListRow& row)
     layout.folder = keepsTree ? FolderInTree(layout.base, row[Destination]) : layout.base;
     if (keepsTree && !run.host.files.DirExists(layout.folder))
         MakeFolder(run, layout.folder);
-    const Text target =
-        JoinPath(layout.folder, keepsTree ? row[Filename] : MarkedName(row[Filename]));
+    const Text target = OneByOnePath(run.options, layout.base, row);
     CopyAlive(run.host.files, run.ask,
               ConvertLongFilenameToShortFilename(run.host.files, row[Source]), target);
     ListFile(run, target);
@@ -117,6 +116,13 @@ void CopyAllFiles(CreateRun& run, Layout& layout)
 }
 
 } // namespace
+
+Text OneByOnePath(const CreateOptions& options, const Text& base, const FileListRow& row)
+{
+    if (options.CreateFolderStructureInFolderSetupFiles == kOff)
+        return JoinPath(base, MarkedName(row[Filename]));
+    return JoinPath(FolderInTree(base, row[Destination]), row[Filename]);
+}
 
 void CopyFilesOneByOne(CreateRun& run)
 {

@@ -9,4 +9,7 @@ namespace quillon {
 /// goes on as after a success.
 void CopyFilesOneByOne(CreateRun& run);
 
+/// Where a row's file goes, below the folder for all of them.
+Text OneByOnePath(const CreateOptions& options, const Text& base, const FileListRow& row);
+
 } // namespace quillon

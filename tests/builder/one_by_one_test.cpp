@@ -23,6 +23,7 @@ protected:
         desk.AddFile("b.txt", "b", "%DESTDIR\\Doc\\");
         desk.project.Files.rows.emplace_back();
         desk.project.Files.rows.back()[Filename] = kEmptyFolderName;
+        desk.project.Files.rows.back()[Destination] = "%DESTDIR\\Tom";
     }
 
     void Copy()

@@ -336,12 +336,17 @@ TEST_F(BadInput, ANameThatTheCodePageLacks)
     EXPECT_EQ(run.exitCode, 0) << run.err;
     EXPECT_EQ(Quillonc({"verify", out}).exitCode, 0);
 
-    // A project made elsewhere has lost the name already: its row finds no file and says so.
+    // A project made elsewhere has lost the name already, and the row says so.
     disk.Put("src/Ω.txt", "text");
     const ProgramRun lost = Create(SaveProjectOf({"?.txt"}));
     EXPECT_EQ(lost.exitCode, 1);
-    EXPECT_THAT(lost.out, HasSubstr("Fil saknas! Avbryter processen.\n"));
-    EXPECT_THAT(lost.err, EndsWith("\nFilen 's:\\?.txt' finns inte.\n"));
+    EXPECT_EQ(lost.out, "");
+    EXPECT_THAT(lost.err, HasSubstr("Rad 1 ('?.txt'): Namnet '?.txt' fungerar inte i Windows"));
+
+    const ProgramRun gone = Create(SaveProjectOf({"gone.txt"}));
+    EXPECT_EQ(gone.exitCode, 1);
+    EXPECT_THAT(gone.out, HasSubstr("Fil saknas! Avbryter processen.\n"));
+    EXPECT_THAT(gone.err, EndsWith("\nFilen 's:\\gone.txt' finns inte.\n"));
     EXPECT_EQ(Quillonc({"verify", out}).exitCode, 0) << "the one of before stays as it was";
     EXPECT_FALSE(disk.Has("Ωμέγα 🙂/PACKAGE.NEW"));
 }
