@@ -34,10 +34,10 @@ constexpr std::array<const char*, kTabCount> kTabCaptions{"  Fillista  ",    "  
 
 } // namespace
 
-MainForm::MainForm(Session& session, HostPaths paths) : session_(session)
+MainForm::MainForm(Session& session, HostPaths paths) : session_(session), paths_(std::move(paths))
 {
     setObjectName("MainForm");
-    MakePages(paths);
+    MakePages();
     MakeStatusBar();
     ConnectFileList();
     bars_ = std::make_unique<CommandBars>(
@@ -53,9 +53,9 @@ MainForm::MainForm(Session& session, HostPaths paths) : session_(session)
 
 MainForm::~MainForm() = default;
 
-void MainForm::MakePages(const HostPaths& paths)
+void MainForm::MakePages()
 {
-    files_ = new FilesPage(session_, paths);
+    files_ = new FilesPage(session_, paths_);
     pages_ = {files_,
               new DesignPage(session_),
               new DialogsPage(session_),

@@ -25,11 +25,12 @@ class FilesPage;
 
 class MainForm : public QMainWindow, public MainWindow {
 public:
-    /// `paths` tells where lies what is dropped on the window.
+    /// `paths` tells where lies what is dropped on the window or typed as a path of this machine.
     explicit MainForm(Session& session, HostPaths paths = {});
     ~MainForm() override;
 
     Session& GetSession() { return session_; }
+    const HostPaths& Paths() const { return paths_; }
 
     void ShowProject() override;
     void ShowTitle() override;
@@ -59,7 +60,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void MakePages(const HostPaths& paths);
+    void MakePages();
     void ConnectFileList();
     void ShowSelection();
     void RunGuarded(const std::function<void()>& run);
@@ -67,6 +68,7 @@ private:
     Page& PageOf(Tab tab) { return *pages_[static_cast<std::size_t>(tab)]; }
 
     Session& session_;
+    HostPaths paths_;
     QTabWidget* MainTab_ = nullptr;
     QLabel* statusPane_ = nullptr;
     std::array<Page*, kTabCount> pages_{};

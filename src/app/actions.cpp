@@ -50,8 +50,9 @@ void Help(MainForm& form)
 void Create(MainForm& form)
 {
     Session& session = form.GetSession();
-    ShowCreate(session, form, &form,
-               [&](QWidget* parent) { ShowEditorOptions(session, form, parent); });
+    ShowCreate(
+        session, form, &form, [&](QWidget* parent) { ShowEditorOptions(session, form, parent); },
+        form.Paths());
 }
 
 // clang-format off

@@ -98,7 +98,7 @@ std::optional<Text> QtAsk::SaveFile(const FileQuestion& question)
 
 std::optional<Text> QtAsk::SelectDir(const Text& text, const Text& folder)
 {
-    quillon::SelectDir form(host_.files, *this, text, folder, WindowInFront());
+    quillon::SelectDir form(host_.files, *this, text, folder, WindowInFront(), paths_);
     return form.ShowModal() ? std::optional(form.Folder) : std::nullopt;
 }
 

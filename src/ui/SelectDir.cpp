@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kPath = Qt::UserRole;
 constexpr int kIsFilled = Qt::UserRole + 1;
-constexpr int kLongestPathOnFile = 255;
+constexpr std::size_t kLongestPathOnFile = 255;
 constexpr char kFirstDrive[] = "C:\\";
 
 Text PathOf(const QStandardItem* item)
@@ -98,8 +98,8 @@ public:
 } // namespace
 
 SelectDir::SelectDir(FileSystem& files, Ask& ask, const Text& text, const Text& folder,
-                     QWidget* parent)
-    : Form("SelectDir", "Välj katalog", parent), files_(files), ask_(ask)
+                     QWidget* parent, HostPaths paths)
+    : Form("SelectDir", "Välj katalog", parent), files_(files), ask_(ask), paths_(std::move(paths))
 {
     MakeControls(text);
     FillDrives();
@@ -121,7 +121,8 @@ void SelectDir::MakeControls(const Text& text)
     Named(NAMED(DriveListX), new QComboBox);
     Named(NAMED(DirTreeX), new QTreeView, "Kataloger");
     Named(NAMED(sDirectory), new QLineEdit);
-    LimitTyping(sDirectory, kLongestPathOnFile);
+    // Any length, since a folder of the tree must not be cut; one that is too long is refused.
+    LimitTyping(sDirectory, 0);
     Button(NAMED(cmdNewDirectory), "&Ny katalog...", [this] { MakeNewDirectory(); });
 
     tree_ = new FolderTree(this);
@@ -229,7 +230,7 @@ Text SelectDir::TypedFolder() const
 {
     const Text typed = TrimBlanks(FromQt(sDirectory->text()));
     // In its plain form: rows take their sources from it, and compare them as texts.
-    return ResolvePath(typed);
+    return ResolvePath(WindowsPathOf(typed, paths_));
 }
 
 void SelectDir::FollowTyping()
@@ -266,13 +267,22 @@ void SelectDir::MakeNewDirectory()
 bool SelectDir::MayClose()
 {
     const Text folder = TypedFolder();
+    if (CharacterCount(folder) > kLongestPathOnFile)
+        return Refuse("Ogiltig katalog", "Katalogen '" + folder + "' är längre än " +
+                                             std::to_string(kLongestPathOnFile) +
+                                             " tecken! Välj en annan katalog.");
     // "C:Data" has no place that is the same for everybody.
     const bool isWhole = folder.size() > 2 && folder[2] == '\\';
     if (isWhole && !RootOf(folder).empty() && files_.DirExists(folder))
         return true;
-    ask_.Inform("Katalogen existerar inte", folder.empty()
-                                                ? "Välj en katalog först!"
-                                                : "Katalogen '" + folder + "' existerar inte!");
+    return Refuse("Katalogen existerar inte", folder.empty()
+                                                  ? "Välj en katalog först!"
+                                                  : "Katalogen '" + folder + "' existerar inte!");
+}
+
+bool SelectDir::Refuse(const Text& title, const Text& reason)
+{
+    ask_.Inform(title, reason);
     sDirectory->setFocus();
     sDirectory->selectAll();
     return false;

@@ -5,6 +5,7 @@
 #include "platform/ask.h"
 #include "platform/file_system.h"
 #include "ui/Form.h"
+#include "ui/host_paths.h"
 
 class QLabel;
 class QStandardItem;
@@ -16,8 +17,9 @@ namespace quillon {
 class SelectDir : public Form {
 public:
     /// Opens at `folder`, or at the nearest folder above it that exists. `text` says what the
-    /// folder is for.
-    SelectDir(FileSystem& files, Ask& ask, const Text& text, const Text& folder, QWidget* parent);
+    /// folder is for. `paths` tells where a typed path of this machine lies.
+    SelectDir(FileSystem& files, Ask& ask, const Text& text, const Text& folder, QWidget* parent,
+              HostPaths paths = {});
 
     /// The chosen folder, once the form was left with OK; else empty.
     Text Folder;
@@ -49,9 +51,11 @@ private:
     Text NearestFolder(Text folder) const;
     QStandardItem* ItemBelow(QStandardItem* item, const Text& name);
     Text TypedFolder() const;
+    bool Refuse(const Text& title, const Text& reason);
 
     FileSystem& files_;
     Ask& ask_;
+    HostPaths paths_;
     QStandardItemModel* tree_ = nullptr;
     // Typing moves the tree, and must not be written over by it.
     bool isTyping_ = false;

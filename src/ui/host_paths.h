@@ -16,4 +16,13 @@ struct HostPaths {
     std::function<std::optional<Text>(const std::string& hostPath)> toWindows;
 };
 
+/// What is typed where a path is wanted: "/home/me/x" is a path of this machine, all else a Windows
+/// path already.
+inline Text WindowsPathOf(const Text& typed, const HostPaths& paths)
+{
+    if (!typed.starts_with('/') || !paths.toWindows)
+        return typed;
+    return paths.toWindows(typed).value_or(typed);
+}
+
 } // namespace quillon

@@ -229,6 +229,43 @@ TEST_F(DlgCreateTest, TakesNoPickedFolderThatTheProjectWouldCut)
     EXPECT_EQ(TextIn(form, "tDestinationDir"), "C:\\Ut");
 }
 
+TEST_F(DlgCreateTest, TakesATypedPathOfThisMachine)
+{
+    const HostPaths paths{.toHost = {}, .toWindows = [](const std::string& path) {
+                              return std::optional("Z:" + ReplaceAll(path, "/", "\\"));
+                          }};
+    machine.files.PutFolder("Z:\\home\\me\\x");
+    Open();
+    DlgCreate form(*session, nullptr, {}, paths);
+    ShowActive(form);
+    Type(form, "tDestinationDir", "/home/me/x");
+    EXPECT_EQ(TextIn(form, "tDestinationDir"), "/home/me/x");
+    form.cbOS->setFocus();
+    EXPECT_EQ(TextIn(form, "tDestinationDir"), "Z:\\home\\me\\x");
+    Type(form, "tDestinationDir", "/home/me/x");
+    Click(form, "cmdCreate");
+    EXPECT_EQ(TextIn(form, "tDestinationDir"), "Z:\\home\\me\\x");
+    EXPECT_TRUE(machine.files.FileExists("Z:\\home\\me\\x\\QNSETUP.INF"));
+    Click(form, "cmdClose");
+    EXPECT_EQ(session->project.LastDirectories.CreatationDestDir, "Z:\\home\\me\\x");
+}
+
+TEST_F(DlgCreateTest, TakesNoTypedPathThatTheProjectWouldCut)
+{
+    const HostPaths paths{.toHost = {}, .toWindows = [](const std::string& path) {
+                              return std::optional("Z:" + ReplaceAll(path, "/", "\\"));
+                          }};
+    const Text typed = "/" + Text(197, 'x');
+    Open({{BoxKind::Inform, "Ogiltig katalog",
+           "Katalogen 'Z:\\" + Text(197, 'x') +
+               "' är längre än 199 tecken! Välj en annan katalog."}});
+    DlgCreate form(*session, nullptr, {}, paths);
+    ShowActive(form);
+    Type(form, "tDestinationDir", typed);
+    Click(form, "cmdCreate");
+    EXPECT_EQ(TextIn(form, "tDestinationDir"), typed);
+}
+
 TEST_F(DlgCreateTest, StoresItsChoicesHoweverItIsClosed)
 {
     for (const char* way : {"cmdClose", "Esc", "window"}) {
@@ -636,13 +673,13 @@ TEST_F(DlgCreateTest, TheCommandShowsTheListAnewBehindARun)
     Open();
     ProbeWindow window;
     OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdClose"); });
-    ShowCreate(*session, window, nullptr, {});
+    ShowCreate(*session, window, nullptr, {}, {});
     EXPECT_TRUE(window.shown.empty());
     OnNextDialog([](QDialog& dialog) {
         Click(dialog, "cmdCreate");
         Click(dialog, "cmdClose");
     });
-    ShowCreate(*session, window, nullptr, {});
+    ShowCreate(*session, window, nullptr, {}, {});
     EXPECT_EQ(window.shown, (std::vector<std::vector<std::size_t>>{{0}}));
 }
 

@@ -167,6 +167,37 @@ TEST_F(SelectDirTest, RefusesAFolderThatDoesNotExist)
     EXPECT_EQ(form.Folder, "z:\\");
 }
 
+TEST_F(SelectDirTest, TakesAPathOfThisMachine)
+{
+    const HostPaths paths{.toHost = {}, .toWindows = [](const std::string& path) {
+                              return std::optional("Z:" + ReplaceAll(path, "/", "\\"));
+                          }};
+    SelectDir form(files, ask, kText, "C:\\", nullptr, paths);
+    ShowActive(form);
+    Type(form, "sDirectory", "/Bygge");
+    EXPECT_EQ(TextIn(form, "sDirectory"), "/Bygge");
+    EXPECT_EQ(form.DirTreeX->currentIndex().data().toString(), "Bygge");
+    Click(form, "cmdOK");
+    EXPECT_EQ(form.Folder, "Z:\\Bygge");
+}
+
+TEST_F(SelectDirTest, RefusesAFolderThatIsTooLongInsteadOfCuttingIt)
+{
+    Text folder = "C:";
+    for (int i = 0; i < 40; ++i)
+        folder += "\\abcdefghi";
+    folder += "\\slutet"; // 409 characters
+    ask.Expect({BoxKind::Inform, "Ogiltig katalog",
+                "Katalogen '" + folder + "' är längre än 255 tecken! Välj en annan katalog."});
+    SelectDir form(files, ask, kText, "C:\\", nullptr);
+    ShowActive(form);
+    Type(form, "sDirectory", folder);
+    EXPECT_EQ(TextIn(form, "sDirectory"), folder);
+    Click(form, "cmdOK");
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(form.Folder, "");
+}
+
 TEST_F(SelectDirTest, MakesANewFolderBelowTheChosenOne)
 {
     ask.choices = {{{"Ny"}}, {{"a/b"}}, {{".."}}, {}};

@@ -47,9 +47,10 @@ int LongestDestination()
 } // namespace
 
 DlgCreate::DlgCreate(Session& session, QWidget* parent,
-                     std::function<void(QWidget* parent)> showOptions)
+                     std::function<void(QWidget* parent)> showOptions, HostPaths paths)
     : Form("DlgCreate", "Skapa installation", parent), session_(session),
-      showOptions_(std::move(showOptions)), form_(OpenCreateForm(session.project, session.state))
+      showOptions_(std::move(showOptions)), paths_(std::move(paths)),
+      form_(OpenCreateForm(session.project, session.state))
 {
     Arrange(Down({MakeMedia(), MakeSettings(), Growing(MakeStatus()), MakeButtons()}));
     cmdCreate->setDefault(true);
@@ -91,6 +92,7 @@ Piece DlgCreate::MakeSettings()
     LimitTyping(tDestinationDir, LongestDestination());
     connect(tDestinationDir, &QLineEdit::textChanged, this,
             [this](const QString& text) { ChangeDestination(text); });
+    OnLeave(tDestinationDir, [this] { TakeHostPath(); });
     Named(NAMED(cbOS), new QComboBox);
     for (const char* system : kTargetOperatingSystems)
         cbOS->addItem(QString::fromUtf8(system));
@@ -218,13 +220,30 @@ void DlgCreate::SelectDirectory()
         form_.tDestinationDir);
     if (!folder)
         return;
-    // The field would cut it, and Create write somewhere else.
-    if (ToQt(*folder).size() > tDestinationDir->maxLength())
-        session_.ask.Inform("Ogiltig katalog", "Katalogen '" + *folder + "' är längre än " +
-                                                   NumberText(tDestinationDir->maxLength()) +
-                                                   " tecken! Välj en annan katalog.");
-    else
+    if (HasRoomFor(*folder))
         tDestinationDir->setText(ToQt(*folder));
+    else
+        TellNoRoomFor(*folder);
+}
+
+void DlgCreate::TakeHostPath()
+{
+    const Text folder = WindowsPathOf(form_.tDestinationDir, paths_);
+    if (folder != form_.tDestinationDir && HasRoomFor(folder))
+        tDestinationDir->setText(ToQt(folder));
+}
+
+// The field would cut a longer one, and Create write somewhere else.
+bool DlgCreate::HasRoomFor(const Text& folder) const
+{
+    return ToQt(folder).size() <= tDestinationDir->maxLength();
+}
+
+void DlgCreate::TellNoRoomFor(const Text& folder)
+{
+    session_.ask.Inform("Ogiltig katalog", "Katalogen '" + folder + "' är längre än " +
+                                               NumberText(tDestinationDir->maxLength()) +
+                                               " tecken! Välj en annan katalog.");
 }
 
 void DlgCreate::ShowCompressOptions()
@@ -236,6 +255,7 @@ void DlgCreate::done(int result)
 {
     if (isRunning_)
         return;
+    TakeHostPath();
     CloseCreateForm(form_, session_.project);
     Form::done(result);
 }
@@ -244,6 +264,11 @@ void DlgCreate::StartCreate()
 {
     if (isRunning_)
         return;
+    TakeHostPath();
+    if (const Text folder = WindowsPathOf(form_.tDestinationDir, paths_); !HasRoomFor(folder)) {
+        TellNoRoomFor(folder);
+        return;
+    }
     if (const Text reason = WhyNotMade(form_); !reason.empty()) {
         session_.ask.Inform("Kan ej skapa", reason);
         return;
@@ -346,9 +371,9 @@ void DlgCreate::OpenFolder()
 }
 
 void ShowCreate(Session& session, MainWindow& window, QWidget* parent,
-                std::function<void(QWidget* parent)> showOptions)
+                std::function<void(QWidget* parent)> showOptions, HostPaths paths)
 {
-    DlgCreate form(session, parent, std::move(showOptions));
+    DlgCreate form(session, parent, std::move(showOptions), std::move(paths));
     form.ShowModal();
     if (form.HasRun())
         window.ShowFileList(form.IsListSorted() ? std::vector<std::size_t>()

@@ -4,6 +4,7 @@
 
 #include "builder/create.h"
 #include "ui/Form.h"
+#include "ui/host_paths.h"
 
 #include <array>
 
@@ -21,9 +22,10 @@ class MediumPicture;
 
 class DlgCreate : public Form {
 public:
-    /// `showOptions` opens the dialog of the tool's own options.
+    /// `showOptions` opens the dialog of the tool's own options; `paths` tells where a typed path
+    /// of this machine lies.
     DlgCreate(Session& session, QWidget* parent,
-              std::function<void(QWidget* parent)> showOptions = {});
+              std::function<void(QWidget* parent)> showOptions = {}, HostPaths paths = {});
 
     bool IsRunning() const { return isRunning_; }
     /// What runs of Create have done to the file list while the form was open.
@@ -71,6 +73,10 @@ private:
     void ChooseMedium(Medium medium);
     void ChangeDestination(const QString& folder);
     void SelectDirectory();
+    /// A typed path of this machine becomes the Windows path that it is, if there is room for that.
+    void TakeHostPath();
+    bool HasRoomFor(const Text& folder) const;
+    void TellNoRoomFor(const Text& folder);
     void ShowCompressOptions();
 
     void StartCreate();
@@ -84,6 +90,7 @@ private:
 
     Session& session_;
     std::function<void(QWidget* parent)> showOptions_;
+    HostPaths paths_;
     CreateForm form_;
     std::array<QRadioButton*, 4> buttons_{};
     std::array<MediumPicture*, 4> pictures_{};
@@ -96,6 +103,6 @@ private:
 
 /// The Create command.
 void ShowCreate(Session& session, MainWindow& window, QWidget* parent,
-                std::function<void(QWidget* parent)> showOptions);
+                std::function<void(QWidget* parent)> showOptions, HostPaths paths);
 
 } // namespace quillon
