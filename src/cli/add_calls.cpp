@@ -5,6 +5,8 @@
 #include "filelist/add_target.h"
 #include "filelist/add_tree_command.h"
 #include "filelist/list_maintenance.h"
+#include "filelist/row_text.h"
+#include "filelist/tree_walk.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "importers/add_dep_file.h"
@@ -45,9 +47,7 @@ void PrepareTarget(const CallContext& context, ProjectEdit& edit)
 void TellFullList(const ProjectEdit& edit)
 {
     if (edit.session.project.Files.rows.size() >= kMostRows)
-        throw CallFailure{"Fillistan rymmer högst " + CountText(kMostRows) +
-                              " rader. Inget är sparat.",
-                          Exit::Stopped};
+        throw CallFailure{FullListText() + " Inget är sparat.", Exit::Stopped};
 }
 
 // The rows that came in addition to the first ones; `places` says where each stands now.
@@ -168,8 +168,7 @@ Exit AddTreeOfFiles(const CallContext& context)
     } catch (const RunError& error) {
         if (error.Number() == ErrorNumber::kOverflow)
             TellFullList(edit);
-        throw CallFailure{FailureText(error, tree.StartDirectory) + " Inget är sparat.",
-                          Exit::Stopped};
+        throw CallFailure{WalkFailureText(error, tree) + " Inget är sparat.", Exit::Stopped};
     }
     return SaveAdded(edit, NewRows(adding.Finish(), rowsBefore), seen);
 }

@@ -4,6 +4,7 @@
 #include "cli/project_edit.h"
 #include "cli/row_pattern.h"
 #include "filelist/list_maintenance.h"
+#include "filelist/row_facts.h"
 #include "filelist/row_options.h"
 #include "helpers/number_text.h"
 #include "importers/lst_file.h"
@@ -45,7 +46,8 @@ std::vector<std::size_t> RowsWithoutFile(const FileList& list, const FileSystem&
 {
     std::vector<std::size_t> rows;
     for (std::size_t i = 0; i < list.rows.size(); ++i)
-        if (list.rows[i].HasSource() && !files.FileExists(list.rows[i][Source]))
+        if (LacksSource(list.rows[i]) ||
+            (list.rows[i].HasSource() && !files.FileExists(list.rows[i][Source])))
             rows.push_back(i);
     return rows;
 }

@@ -5,7 +5,6 @@
 #include "filelist/row_facts.h"
 #include "filelist/row_options.h"
 #include "filelist/system_files.h"
-#include "helpers/ansi_text.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -15,8 +14,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr const char* kBadCharactersTitle = "Ogiltiga tecken hittade";
 
 constexpr const char* kAlreadyInList =
     "Filen är redan inlagd i fillistan! Ska samma fil in i fillistan fler gånger måste den plockas "
@@ -33,14 +30,6 @@ Text ReasonText(const RunError& error, const Text& path)
     default:
         return "Fel # " + NumberText(error.Number()) + " inträffade!";
     }
-}
-
-Text ForeignCharactersText(const Text& path)
-{
-    return "Filen '" + path +
-           "' har tecken i namn, källsökväg eller destination som inte kan lagras i projektet! "
-           "Byt namn på filen eller katalogen och addera den på nytt. Filen kan ej adderas till "
-           "fillistan!";
 }
 
 } // namespace
@@ -77,21 +66,33 @@ std::optional<std::size_t> FileAdding::AddFileToFileList(const FileToAdd& file)
 
 std::optional<std::size_t> FileAdding::AddOrRefuse(const FileToAdd& file)
 {
-    if (IsGuardedHere(file.FileName, file.SourcePath) || IsRefusedAsDuplicate(file) ||
-        IsRefusedForItsCharacters(file) || IsHidden(file.SourcePath))
+    if (IsGuardedHere(file.FileName, file.SourcePath))
+        return std::nullopt;
+    // The row keeps the path in lower case, so all that is read of the file is read by that.
+    const Text stored = LowerCase(file.SourcePath);
+    const auto found = FactsIfThere(host_.files, stored);
+    const auto meant =
+        found && file.Listed ? file.Listed : FactsIfThere(host_.files, file.SourcePath);
+    // Before the duplicate test: of two names that differ in case alone, the second one's file is
+    // not in the list.
+    if (IsRefused(RefusalOfLowerCase(file.SourcePath, meant, found)) ||
+        IsRefusedAsDuplicate(file) ||
+        IsRefused(RefusalOfTexts(file.FileName, file.SourcePath, file.Destination)))
+        return std::nullopt;
+    if ((found && found->isHidden) || IsRefused(RefusalToRead(host_.files, stored)))
         return std::nullopt;
 
     FileListRow row;
     row[Filename] = file.FileName;
     row[Destination] = file.Destination;
     return AppendRow(std::move(row), [&](FileListRow& filled) {
-        FillFromDisk(filled, file.SourcePath);
+        FillFromDisk(filled, found ? *found : host_.files.Facts(file.SourcePath), file.SourcePath);
         filled[CopyOptions] = StartingCopyOptions(file.FileName, file.UseVersionRules, [&] {
-            return !FileVersionText(host_.files, file.SourcePath).empty();
+            return !FileVersionText(host_.files, stored).empty();
         });
         filled[ComponentNumber] = file.ComponentNr;
         filled[Extension] = ExtensionFromFirstPoint(file.FileName);
-        filled[Source] = LowerCase(file.SourcePath);
+        filled[Source] = stored;
         // Kept: a font goes to the font folder whatever the caller chose; the user may move it.
         if (EqualIgnoreCase(filled[Extension], "ttf"))
             filled[Destination] = "%FONTDIR";
@@ -117,21 +118,23 @@ std::optional<std::size_t> FileAdding::AddSystemFileToFileList(const Text& fileN
 
 std::optional<std::size_t> FileAdding::AddSystemFile(const Text& fileName, bool isRuntimeFile)
 {
-    const Text path = LowerCase(JoinPath(host_.machine.GetSystemDir(), fileName));
+    const Text folder = host_.machine.GetSystemDir();
+    if (folder.empty())
+        throw RunError(ErrorNumber::kFileNotFound, fileName);
+    const Text path = LowerCase(JoinPath(folder, fileName));
     if (IsGuardedHere(fileName, path))
         return std::nullopt;
-    if (!AnsiText::Holds(path)) {
-        ask_.Critical(kBadCharactersTitle, ForeignCharactersText(path));
+    if (IsRefused(RefusalOfTexts(ExtractFilename(fileName), path, "%SYSDIR")))
         return std::nullopt;
-    }
-    if (IsHidden(path))
+    const auto facts = FactsIfThere(host_.files, path);
+    if ((facts && facts->isHidden) || IsRefused(RefusalToRead(host_.files, path)))
         return std::nullopt;
 
     FileListRow row;
     row[Filename] = FormatFileNameCase(fileName);
     row[Destination] = "%SYSDIR";
     return AppendRow(std::move(row), [&](FileListRow& filled) {
-        FillFromDisk(filled, path);
+        FillFromDisk(filled, facts ? *facts : host_.files.Facts(path), path);
         filled[CopyOptions] = StartingSystemFileOptions(fileName, isRuntimeFile);
         filled[Extension] = ExtensionFromFirstPoint(filled[Filename]);
         filled[Source] = path;
@@ -157,34 +160,15 @@ bool FileAdding::IsRefusedAsDuplicate(const FileToAdd& file)
     return true;
 }
 
-bool FileAdding::IsRefusedForItsCharacters(const FileToAdd& file)
+bool FileAdding::IsRefused(const std::optional<Refusal>& refusal)
 {
-    if (ContainsText(file.SourcePath, ";")) {
-        ask_.Critical(kBadCharactersTitle,
-                      "Källsökvägen till filen '" + file.SourcePath +
-                          "' innehåller ogiltiga tecken! Filen kan ej adderas till fillistan!");
-        return true;
-    }
-    // The project file could not hold these, and '?' in their place would name another file.
-    if (!AnsiText::Holds(file.FileName + file.SourcePath + file.Destination)) {
-        ask_.Critical(kBadCharactersTitle, ForeignCharactersText(file.SourcePath));
-        return true;
-    }
-    return false;
+    if (refusal)
+        ask_.Critical(refusal->title, refusal->text);
+    return refusal.has_value();
 }
 
-bool FileAdding::IsHidden(const Text& path) const
+void FileAdding::FillFromDisk(FileListRow& row, const FileFacts& facts, const Text& path) const
 {
-    try {
-        return host_.files.Facts(path).isHidden;
-    } catch (const RunError&) {
-        return false; // its row fails with the reason when size and date are read
-    }
-}
-
-void FileAdding::FillFromDisk(FileListRow& row, const Text& path) const
-{
-    const FileFacts facts = host_.files.Facts(path);
     if (facts.isFolder)
         throw RunError(ErrorNumber::kPathFileAccess, path);
     FillFromFacts(row, facts, host_.machine.DecimalSign());
@@ -195,7 +179,7 @@ template <class Fill>
 std::size_t FileAdding::AppendRow(FileListRow row, Fill fill)
 {
     if (files_.rows.size() >= kMostRows)
-        throw RunError(ErrorNumber::kOverflow);
+        throw RunError(ErrorNumber::kOverflow, row[Filename]);
     try {
         fill(row);
     } catch (const RunError&) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "filelist/duplicates.h"
+#include "filelist/refused_file.h"
 #include "filelist/sort.h"
 #include "platform/ask.h"
 #include "platform/host.h"
@@ -22,6 +23,8 @@ struct FileToAdd {
     bool ShowDuplicateMessage = false;
     bool UseVersionRules = false; // look into programs and libraries for a version
     bool TrapErrors = false;      // a failure ends in a box instead of a RunError
+    // What a listing of its folder told of the file, whatever path it is reached by.
+    std::optional<FileFacts> Listed = {};
 };
 
 /// One command's additions to a file list. While it lives, new rows stand at the end of the list
@@ -51,9 +54,8 @@ private:
     std::optional<std::size_t> AddSystemFile(const Text& fileName, bool isRuntimeFile);
     bool IsGuardedHere(const Text& fileName, const Text& sourcePath) const;
     bool IsRefusedAsDuplicate(const FileToAdd& file);
-    bool IsRefusedForItsCharacters(const FileToAdd& file);
-    bool IsHidden(const Text& path) const;
-    void FillFromDisk(FileListRow& row, const Text& path) const;
+    bool IsRefused(const std::optional<Refusal>& refusal);
+    void FillFromDisk(FileListRow& row, const FileFacts& facts, const Text& path) const;
     template <class Fill>
     std::size_t AppendRow(FileListRow row, Fill fill);
     std::size_t Append(FileListRow row);

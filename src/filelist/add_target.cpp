@@ -20,6 +20,16 @@ Text SelectionText(const std::vector<Text>& paths)
     return selection;
 }
 
+// Not every machine has such a folder, and an empty text would begin every path. Behind the folder
+// stands a backslash, or the mark before the names of several files.
+bool LiesInSystemFolder(const Text& selection, const Machine& machine)
+{
+    const Text folder = machine.GetSystemDir();
+    const bool beginsSo = !folder.empty() && UpperCase(selection).starts_with(UpperCase(folder));
+    return beginsSo && selection.size() > folder.size() &&
+           (selection[folder.size()] == '\\' || selection[folder.size()] == '\0');
+}
+
 } // namespace
 
 std::optional<AddTarget> ChooseComponentTarget(const ListWork& work)
@@ -42,7 +52,7 @@ DestinationQuestion PresetDestination(const std::vector<Text>& paths, const Text
         question.folder = "%FONTDIR";
     // Kept: a name in capitals, or in mixed case, counts for fonts alone or not at all.
     if (ContainsText(selection, ".dll") || ContainsText(selection, ".ocx") ||
-        UpperCase(selection).starts_with(UpperCase(machine.GetSystemDir())))
+        LiesInSystemFolder(selection, machine))
         question = {Place::System, ""};
     return question;
 }

@@ -1,5 +1,6 @@
 #include "filelist/destination_choice.h"
 
+#include "filelist/row_text.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 
@@ -27,7 +28,8 @@ std::optional<Text> MakeDestination(Place place, const Text& typed, Ask& ask)
     case Place::Windows:
         return "%WINDIR";
     default:
-        return RemoveLastBackslash(typed);
+        return MayBeDestination(typed, ask) ? std::optional(RemoveLastBackslash(typed))
+                                            : std::nullopt;
     }
 }
 

@@ -19,15 +19,13 @@ public:
     {
     }
 
+    /// False, with a box that names the entry, where one ended it; the rows made so far stay.
     bool Run()
     {
-        return RunAdding(work_, [this] {
-            for (const Text& path : paths_)
-                if (work_.host.files.DirExists(path))
-                    AddFolder(path);
-                else
-                    AddFile(path);
-        });
+        for (const Text& path : paths_)
+            if (!Added(path))
+                return false;
+        return true;
     }
 
     NewPlaces Finish() { return adding_.Finish(); }
@@ -35,6 +33,21 @@ public:
 private:
     bool HasRows() const { return !work_.project.Files.rows.empty(); }
     bool IsAlone() const { return paths_.size() == 1; }
+    // Files and folders from different places may have one name, whatever the list holds.
+    bool Searches() const { return !IsAlone() || listHadRows_; }
+
+    bool Added(const Text& path)
+    {
+        const bool isFolder = work_.host.files.DirExists(path);
+        try {
+            isFolder ? AddFolder(path) : AddFile(path);
+            return true;
+        } catch (const RunError& failure) {
+            work_.ask.Critical("Fel", "Ett fel inträffade när filerna adderades till fillistan! " +
+                                          WalkFailureText(failure, {.StartDirectory = path}));
+            return false;
+        }
+    }
 
     void AddFolder(const Text& path)
     {
@@ -46,7 +59,7 @@ private:
                  .BaseDestination =
                      keepsName ? JoinPath(target_.Destination, name) : target_.Destination,
                  .ComponentNr = target_.ComponentNr,
-                 .CheckDuplicates = listHadRows_});
+                 .CheckDuplicates = Searches()});
     }
 
     void AddFile(const Text& path)
@@ -55,7 +68,7 @@ private:
                                    .SourcePath = path,
                                    .Destination = target_.Destination,
                                    .ComponentNr = target_.ComponentNr,
-                                   .CheckDuplicates = IsAlone() || listHadRows_,
+                                   .CheckDuplicates = true,
                                    .ShowDuplicateMessage = IsAlone(),
                                    .UseVersionRules = true});
     }

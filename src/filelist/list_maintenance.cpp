@@ -1,6 +1,7 @@
 #include "filelist/list_maintenance.h"
 
 #include "filelist/row_facts.h"
+#include "filelist/row_text.h"
 #include "helpers/number_text.h"
 #include "platform/run_error.h"
 
@@ -39,7 +40,7 @@ void MarkAsMissing(FileListRow& row)
 /// True when the row's file is gone.
 bool UpdateRow(FileListRow& row, const Host& host)
 {
-    const auto facts = FactsOfFile(host.files, row[Source]);
+    const auto facts = row.HasSource() ? FactsOfFile(host.files, row[Source]) : std::nullopt;
     if (facts)
         FillFromFacts(row, *facts, host.machine.DecimalSign());
     else
@@ -56,12 +57,13 @@ std::optional<NewPlaces> AddEmptyDirectoryCommand(const ListWork& work)
         return std::nullopt;
     FileList& files = work.project.Files;
     if (files.rows.size() >= kMostRows) {
-        work.ask.Critical("Fel", "Fillistan rymmer högst " + NumberText(kMostRows) +
-                                     " rader. Katalogen '" + *folder +
+        work.ask.Critical("Fel", FullListText() + " Katalogen '" + *folder +
                                      "' kan ej adderas till fillistan!");
         return std::nullopt;
     }
-    // Kept: the answer stands in the row as it was typed, whatever it is.
+    if (!MayStandInRow(*folder, "Katalogen", work.ask) || !MayBeDestination(*folder, work.ask))
+        return std::nullopt;
+    // Kept: the answer stands in the row as it was typed.
     FileListRow& row = files.rows.emplace_back();
     row[Filename] = kEmptyFolderName;
     row[Destination] = *folder;
@@ -77,7 +79,7 @@ void UpdateFileListCommand(const ListWork& work, const std::function<void(const 
     work.ask.ShowStatusText("Uppdaterar fillista...");
     std::size_t missing = 0;
     for (FileListRow& row : files.rows)
-        if (row.HasSource() && UpdateRow(row, work.host))
+        if ((row.HasSource() || LacksSource(row)) && UpdateRow(row, work.host))
             ++missing;
     work.ask.ShowStatusText("");
     work.state.ProjectIsDirty = kOn;

@@ -10,6 +10,11 @@ constexpr double kBytesPerKilobyte = 1024;
 
 } // namespace
 
+bool LacksSource(const FileListRow& row)
+{
+    return !row.HasSource() && row[Filename] != kEmptyFolderName;
+}
+
 void FillFromFacts(FileListRow& row, const FileFacts& facts, char decimalSign)
 {
     row[Size] =

@@ -6,6 +6,10 @@
 
 namespace quillon {
 
+/// True on what is left of a file whose addition failed half way: it names no file and is no empty
+/// folder.
+bool LacksSource(const FileListRow& row);
+
 void FillFromFacts(FileListRow& row, const FileFacts& facts, char decimalSign);
 
 } // namespace quillon

@@ -1,7 +1,9 @@
 #include "filelist/tree_walk.h"
 
 #include "filelist/file_name_case.h"
+#include "filelist/row_text.h"
 #include "helpers/windows_path.h"
+#include "platform/failure_text.h"
 
 #include <algorithm>
 
@@ -50,7 +52,8 @@ private:
                                        .Destination = destination,
                                        .ComponentNr = tree_.ComponentNr,
                                        .CheckDuplicates = tree_.CheckDuplicates,
-                                       .UseVersionRules = true});
+                                       .UseVersionRules = true,
+                                       .Listed = entry.facts});
             progress_.sawFile();
         }
     }
@@ -85,6 +88,13 @@ void AddTree(FileAdding& adding, const FileSystem& files, const TreeToAdd& tree,
 {
     TreeWalk(adding, files, tree, progress)
         .Walk(tree.StartDirectory, files.Facts(tree.StartDirectory).identity);
+}
+
+Text WalkFailureText(const RunError& failure, const TreeToAdd& tree)
+{
+    if (failure.Number() == ErrorNumber::kOverflow)
+        return FullListText() + " '" + failure.Path() + "' fick inte plats.";
+    return FailureText(failure, tree.StartDirectory);
 }
 
 } // namespace quillon

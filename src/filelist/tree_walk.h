@@ -2,6 +2,7 @@
 #pragma once
 
 #include "filelist/add_file.h"
+#include "platform/run_error.h"
 
 #include <functional>
 
@@ -31,6 +32,9 @@ struct TreeProgress {
 /// to one that the walk is in, by a link, is not entered. A failure ends the walk and is thrown.
 void AddTree(FileAdding& adding, const FileSystem& files, const TreeToAdd& tree,
              const TreeProgress& progress = {});
+
+/// What ended the walk, in a line that names the file or folder.
+Text WalkFailureText(const RunError& failure, const TreeToAdd& tree);
 
 /// The destination of the files of one folder, which ends in a backslash.
 Text DestinationInTree(const Text& folder, const TreeToAdd& tree);

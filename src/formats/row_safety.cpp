@@ -45,6 +45,8 @@ std::string_view Standin(Meaning meaning)
 const VariableName* VariableAtStart(std::string_view text)
 {
     const VariableName* best = nullptr;
+    if (!text.starts_with('%'))
+        return best;
     for (const VariableName& variable : kVariableNames)
         if (text.starts_with(variable.name) &&
             (best == nullptr || variable.name.size() > best->name.size()))

@@ -99,6 +99,82 @@ TEST_F(AddCalls, RefusesWhatIsNoFileToAdd)
     ExpectRefused({"add", Src("Other/c.txt")}, 3, "Åtkomst nekas", RunAs::Nobody);
 }
 
+TEST_F(AddCalls, TakesTheMainFolderWhereThereIsNoSystemFolder)
+{
+    disk.Put("no-folder", "x");
+    environment["QUILLON_DRIVE_C"] = disk.Path("no-folder/c");
+    const ProgramRun run = Edit({"add", Src("Other/c.txt")});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.err, "Enheten C: kan ej skapas i '" + disk.Path("no-folder/c") +
+                           "'; ange en annan katalog med QUILLON_DRIVE_C.\n");
+    EXPECT_THAT(Rows(Destination), ElementsAre("%DESTDIR"));
+}
+
+TEST_F(AddCalls, RefusesAFileWhosePathInLowerCaseLeadsToAnother)
+{
+    disk.Put("src/Other/A.TXT", "capitals");
+    disk.Put("src/Other/a.txt", "small letters");
+    ExpectRefused({"add", Src("Other/A.TXT")}, 1, "a.txt' leder till en annan fil.");
+    ExpectRefused({"add-tree", Src("Other")}, 1, "leder till en annan fil.");
+    const Json object = DoneAsObject({"add-tree", "S:\\Other", "--continue"});
+    EXPECT_EQ(object["refused"].size(), 1U);
+    EXPECT_THAT(Rows(Source), ElementsAre("s:\\other\\a.txt", "s:\\other\\c.txt"));
+    // The other way round: "B.txt" comes first in byte order.
+    disk.Put("src/Third/B.txt", "one");
+    disk.Put("src/Third/B.tXt", "two");
+    EXPECT_THAT(Edit({"add", Src("Third/B.txt")}).err, HasSubstr("leder till en annan fil."));
+    Done({"add", Src("Third/B.tXt")});
+}
+
+TEST_F(AddCalls, RefusesAFileInAFolderWhoseNamesCannotBeRead)
+{
+    disk.Put("src/Shut/Läs.TXT", "text");
+    chmod(disk.Path().c_str(), 0777);
+    chmod(Src("Shut").c_str(), 0711);
+    ExpectRefused({"add", Src("Shut/Läs.TXT")}, 1, "leder till ingen fil alls.", RunAs::Nobody);
+    chmod(Src("Shut").c_str(), 0755);
+}
+
+TEST_F(AddCalls, RefusesNamesThatWindowsCannotHold)
+{
+    for (const char* name : {"a:b", "a?b.txt", "aux.txt", "a.", "rad\r\nF2=x"}) {
+        disk.Put(std::string("src/Odd/") + name, "text");
+        ExpectRefused({"add-tree", Src("Odd")}, 1, "fungerar inte i Windows");
+        ExpectRefused({"add", Src(std::string("Odd/") + name)}, 1, "fungerar inte i Windows");
+        std::filesystem::remove(Src(std::string("Odd/") + name));
+    }
+    disk.Put("src/Tree/a|b/c.txt", "text");
+    ExpectRefused({"add-tree", Src("Tree")}, 1, "Destinationen '%DESTDIR\\a|b' fungerar inte");
+    for (const char* folder : {"%DESTDIR\\..\\..", "%DESTDIR\\C:\\x", "C:\\%SYSDIR"})
+        ExpectRefused({"add", Src("Other/c.txt"), "--to", folder}, 1, "fungerar inte i Windows");
+}
+
+TEST_F(AddCalls, RefusesATreeWithAFileThatCannotBeRead)
+{
+    chmod(disk.Path().c_str(), 0777);
+    chmod(Src("App/Sub/a.txt").c_str(), 0);
+    ExpectRefused({"add-tree", "S:\\App"}, 1, "Åtkomst nekas", RunAs::Nobody);
+    chmod(Src("App/Sub/a.txt").c_str(), 0644);
+}
+
+TEST_F(AddCalls, TakesNoPipeForAFile)
+{
+    ASSERT_EQ(mkfifo(Src("App/pipe").c_str(), 0600), 0);
+    ExpectRefused({"add", Src("App/pipe")}, 3, "är ingen vanlig fil");
+    EXPECT_EQ(DoneAsObject({"add-tree", "S:\\App"})["added"].size(), 3U);
+    std::filesystem::remove(Src("App/Sub/a.txt"));
+    ASSERT_EQ(mkfifo(Src("App/Sub/a.txt").c_str(), 0600), 0);
+    EXPECT_EQ(DoneAsObject({"refresh"})["missing"].size(), 1U);
+}
+
+TEST_F(AddCalls, AddsNothingTheSecondTimeHoweverManyFilesHaveOneName)
+{
+    for (int i = 0; i < 120; ++i)
+        disk.Put("src/Many/m" + std::to_string(i) + "/readme.txt", "text");
+    EXPECT_EQ(DoneAsObject({"add-tree", "S:\\Many"})["added"].size(), 120U);
+    ExpectUntouched({"add-tree", "S:\\Many"});
+}
+
 TEST_F(AddCalls, SavesTheRestOnlyWhereThatIsWanted)
 {
     disk.Put("src/Other/Ωmega.txt", "no Windows-1252 name");
@@ -202,10 +278,10 @@ TEST_F(AddCalls, AddsAnEmptyFolderEachTime)
 
 TEST_F(AddCalls, RefusesAFolderThatWouldNotComeBackFromTheFile)
 {
-    ExpectRefused({"add-folder", "%DESTDIR;Temp"}, 1,
-                  "Raden 1 ('<Dir>', '%DESTDIR;Temp') har tecken som inte kan lagras");
+    ExpectRefused({"add-folder", "%DESTDIR;Temp"}, 1, "Semikolon kan inte användas");
     ExpectRefused({"add-folder", "Ω"}, 1, "har tecken som inte kan lagras");
-    ExpectRefused({"add-folder", "a\r\nb"}, 1, "har tecken som inte kan lagras");
+    ExpectRefused({"add-folder", "a\r\nb"}, 1, "styrtecken, till exempel radbrytningar");
+    ExpectRefused({"add-folder", "%DESTDIR\\..\\x"}, 1, "'..' får inte ingå");
     ExpectRefused({"add-folder", ""}, 2, "Destinationen är tom.");
 }
 

@@ -101,15 +101,12 @@ TEST_F(AddFile, LooksForAVersionInProgramsAndLibrariesOnlyUnderVersionRules)
     machine.files.Put("C:\\D\\new.dll", versioned);
     machine.files.Put("C:\\D\\new.txt", versioned);
     machine.files.Put("C:\\D\\old.exe", "MZ");
-    machine.files.Put("C:\\D\\shut.dll", versioned);
-    machine.files.At("C:\\D\\shut.dll").unreadable = true;
     struct {
         const char* name;
         bool useVersionRules;
         const char* options;
-    } const files[] = {{"new.exe", true, "V"},  {"new.exe", false, "D"},  {"new.dll", true, "VA"},
-                       {"new.txt", true, "D"},  {"new.dll", false, "DA"}, {"old.exe", true, "D"},
-                       {"shut.dll", true, "DA"}};
+    } const files[] = {{"new.exe", true, "V"}, {"new.exe", false, "D"},  {"new.dll", true, "VA"},
+                       {"new.txt", true, "D"}, {"new.dll", false, "DA"}, {"old.exe", true, "D"}};
     for (const auto& told : files) {
         FileToAdd file = FileAt("C:\\D", told.name);
         file.UseVersionRules = told.useVersionRules;
@@ -249,6 +246,54 @@ TEST_F(AddFile, RefusesCharactersThatTheProjectFileLacks)
     EXPECT_EQ(list.rows.size(), 1U);
 }
 
+TEST_F(AddFile, RefusesAFileThatCannotBeRead)
+{
+    machine.files.Put("C:\\D\\shut.dll", "x");
+    machine.files.At("C:\\D\\shut.dll").unreadable = true;
+    FileToAdd file = FileAt("C:\\D", "shut.dll");
+    file.UseVersionRules = true;
+    EXPECT_EQ(Add(file, {{BoxKind::Critical, "Kan ej addera",
+                          "Filen 'c:\\d\\shut.dll' kan ej adderas till fillistan! Åtkomst nekas "
+                          "till 'c:\\d\\shut.dll'."}}),
+              std::nullopt);
+    EXPECT_TRUE(list.rows.empty());
+}
+
+TEST_F(AddFile, RefusesNamesAndDestinationsThatWindowsCannotHold)
+{
+    const auto box = [](const Text& path, const Text& reason) {
+        return std::deque<ExpectedBox>{
+            {BoxKind::Critical, "Kan ej addera",
+             "Filen '" + path + "' kan ej adderas till fillistan! " + reason}};
+    };
+    for (const char* name : {"aux.txt", "a:b", "a?b", "a\r\nb", "a.", "<Dir>"}) {
+        machine.files.Put(Text("C:\\D\\") + name, "x");
+        ScriptedAsk ask({{BoxKind::Critical, "Kan ej addera"}});
+        FileAdding adding(list, machine.host, ask);
+        EXPECT_EQ(adding.AddFileToFileList(FileAt("C:\\D", name)), std::nullopt) << name;
+        EXPECT_THAT(ask.shown[0].text, testing::HasSubstr(Text("Namnet '") + name + "'"));
+    }
+    machine.files.Put("C:\\D\\a.txt", "x");
+    FileToAdd climbing = FileAt("C:\\D", "a.txt");
+    climbing.Destination = "%DESTDIR\\..\\..\\Windows";
+    Add(climbing, box("C:\\D\\a.txt", "Destinationen '%DESTDIR\\..\\..\\Windows' fungerar inte i "
+                                      "Windows: '..' får inte ingå."));
+    climbing.Destination = "%DESTDIR\\C:\\x";
+    Add(climbing, box("C:\\D\\a.txt", "Destinationen '%DESTDIR\\C:\\x' fungerar inte i Windows: "
+                                      "ett kolon får bara stå efter enhetens bokstav."));
+    machine.files.Put("C:\\D\nE\\a.txt", "x");
+    Add(FileAt("C:\\D\nE", "a.txt"),
+        box("C:\\D\nE\\a.txt",
+            "Källsökvägen fungerar inte: styrtecken, till exempel radbrytningar, "
+            "får inte ingå i ett namn."));
+    EXPECT_TRUE(list.rows.empty());
+    for (const char* told_later : {"", "%OKÄND\\x", "C:"}) {
+        FileToAdd file = FileAt("C:\\D", "a.txt");
+        file.Destination = told_later;
+        EXPECT_NE(Add(file), std::nullopt) << "told when a package is made: " << told_later;
+    }
+}
+
 TEST_F(AddFile, PassesFailuresToTheCallerAndKeepsTheRowAsFarAsItWasFilled)
 {
     machine.files.PutFolder("C:\\D");
@@ -377,6 +422,9 @@ TEST_F(AddSystemFile, AlwaysTellsFailures)
                         {{BoxKind::Critical, "Fel", "Kan ej öppna filen 'no\\gone.dll'!"}}),
               std::nullopt);
     EXPECT_EQ(list.rows.size(), 3U) << "the rows stay as far as they were filled";
+    machine.files.Put(kSystem + "\\shut.dll", "x");
+    machine.files.At(kSystem + "\\shut.dll").unreadable = true;
+    EXPECT_EQ(AddSystem("shut.dll", false, {{BoxKind::Critical, "Kan ej addera"}}), std::nullopt);
     EXPECT_EQ(AddSystem("ж.dll", false, {{BoxKind::Critical, "Ogiltiga tecken hittade"}}),
               std::nullopt);
     EXPECT_EQ(list.rows.size(), 3U);

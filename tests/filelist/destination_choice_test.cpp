@@ -35,6 +35,26 @@ TEST(DestinationChoice, RefusesASemicolonEvenWhereTheTextDoesNotCount)
     }
 }
 
+TEST(DestinationChoice, RefusesAFolderThatNoSetupCouldMake)
+{
+    const std::pair<Text, Text> cases[] = {
+        {"%DESTDIR\\..\\x", "'..' får inte ingå"},
+        {"%DESTDIR\\D:\\x", "ett kolon får bara stå efter enhetens bokstav"},
+        {"%DESTDIR\\nul",
+         "CON, PRN, AUX, NUL, COM1 till COM9 och LPT1 till LPT9 är reserverade namn"},
+    };
+    for (const auto& [typed, reason] : cases) {
+        ScriptedAsk ask(
+            {{BoxKind::Critical, "Ogiltig destinationskatalog",
+              "Destinationen '" + typed + "' fungerar inte i Windows: " + reason + "."}});
+        EXPECT_FALSE(MakeDestination(Place::User, typed, ask));
+    }
+    ScriptedAsk ask;
+    EXPECT_EQ(MakeDestination(Place::System, "%DESTDIR\\..", ask), "%SYSDIR")
+        << "counts for nothing";
+    EXPECT_EQ(MakeDestination(Place::User, "%NYTT\\x", ask), "%NYTT\\x") << "told at Create";
+}
+
 TEST(DestinationChoice, RemembersTheLastFourFoldersNewestFirst)
 {
     OpenProjectState state;

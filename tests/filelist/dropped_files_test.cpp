@@ -93,6 +93,30 @@ TEST_F(DroppedFiles, LeavesDuplicatesOutWithoutAWordWhereThereAreMany)
     EXPECT_EQ(project.Files.rows.size(), 3U);
 }
 
+TEST_F(DroppedFiles, LeavesOutASecondFileOfOneNameOnAnEmptyListToo)
+{
+    machine.files.Put("C:\\Data\\Ny\\c.txt", "other");
+    Drop({"C:\\Data\\c.txt", "C:\\Data\\Ny\\c.txt"}, {"%DESTDIR"});
+    ASSERT_EQ(project.Files.rows.size(), 1U);
+    EXPECT_EQ(project.Files.rows[0][Source], "c:\\data\\c.txt");
+}
+
+TEST_F(DroppedFiles, LeavesOutFilesOfTwoFoldersOfOneName)
+{
+    machine.files.Put("D:\\Mer\\App\\b.txt", "other");
+    Drop({"C:\\Data\\App", "D:\\Mer\\App"}, {"%DESTDIR"});
+    EXPECT_THAT(Shown(), ElementsAre("%DESTDIR\\App\\Sub a.txt", "%DESTDIR\\App b.txt"));
+}
+
+TEST_F(DroppedFiles, NamesTheFolderThatEndedTheWalk)
+{
+    machine.files.At("C:\\Data\\App\\Sub").unreadable = true;
+    Drop({"C:\\Data\\App"}, {"%DESTDIR"},
+         {{BoxKind::Critical, "Fel",
+           "Ett fel inträffade när filerna adderades till fillistan! Åtkomst nekas till "
+           "'C:\\Data\\App\\Sub'."}});
+}
+
 TEST_F(DroppedFiles, RefusesFilesOfARootAndTakesTheOthers)
 {
     Drop({"D:\\d.txt", "C:\\Data\\c.txt"}, {"%DESTDIR"}, {{BoxKind::Critical, "Kan ej addera"}});
@@ -125,7 +149,9 @@ TEST_F(DroppedFiles, TellsOfNamesThatNoProjectCanHold)
 TEST_F(DroppedFiles, TellsOfAFailureAndKeepsTheRowsSoFar)
 {
     Drop({"C:\\Data\\App", "C:\\Data\\borta.txt"}, {"%DESTDIR"},
-         {{BoxKind::Critical, "Fel", "Ett fel inträffade när filerna adderades till fillistan!"}});
+         {{BoxKind::Critical, "Fel",
+           "Ett fel inträffade när filerna adderades till fillistan! Filen 'C:\\Data\\borta.txt' "
+           "finns inte."}});
     EXPECT_THAT(Shown(), ElementsAre("%DESTDIR\\App\\Sub a.txt", "%DESTDIR\\App b.txt",
                                      "%DESTDIR borta.txt"));
     EXPECT_EQ(state.ProjectIsDirty, kOn);

@@ -90,12 +90,26 @@ TEST_F(AddEmptyDirectory, MakesARowWithoutAFile)
 
 TEST_F(AddEmptyDirectory, TakesTheAnswerAsItStandsAndTwice)
 {
-    for (const char* const answer : {"a;b", " %destdir\\ ", "a;b"})
+    for (const char* const answer : {"a b", " %destdir\\ ", "a b"})
         EXPECT_TRUE(Answer({answer}));
     EXPECT_EQ(Rows().size(), 3U);
-    EXPECT_EQ(Rows()[0][Destination], "a;b");
+    EXPECT_EQ(Rows()[0][Destination], "a b");
     EXPECT_EQ(Rows()[1][Destination], " %destdir\\ ");
-    EXPECT_EQ(Rows()[2][Destination], "a;b");
+    EXPECT_EQ(Rows()[2][Destination], "a b");
+}
+
+TEST_F(AddEmptyDirectory, RefusesWhatWouldBreakTheProjectOrLeadElsewhere)
+{
+    EXPECT_FALSE(Answer({"a;b"}, {{BoxKind::Critical, "Ogiltiga tecken hittade",
+                                   "Katalogen innehåller ogiltiga tecken! Semikolon kan inte "
+                                   "användas, eftersom det skiljer fälten i projektfilen åt."}}));
+    EXPECT_FALSE(Answer({"%DESTDIR\\.."}, {{BoxKind::Critical, "Ogiltig destinationskatalog",
+                                            "Destinationen '%DESTDIR\\..' fungerar inte i Windows: "
+                                            "'..' får inte ingå."}}));
+    EXPECT_FALSE(
+        Answer({"%DESTDIR\\a\r\nb"}, {{BoxKind::Critical, "Ogiltig destinationskatalog"}}));
+    EXPECT_TRUE(Rows().empty());
+    EXPECT_EQ(state.ProjectIsDirty, kOff);
 }
 
 TEST_F(AddEmptyDirectory, GoesWhereTheOrderPutsIt)
@@ -178,6 +192,16 @@ TEST_F(UpdateFileList, LeavesAFileMarkedThatCameBack)
     EXPECT_THAT(Rows()[0].columns,
                 ElementsAre("a.txt", "<Filen saknas>", "0,0", "2005-01-02", "03:04", "", "", "", "",
                             "c:\\d\\a.txt", "", "", "", "", ""));
+}
+
+TEST_F(UpdateFileList, MarksWhatIsLeftOfAFileThatCouldNotBeAdded)
+{
+    Rows() = {MakeRow("a.txt", "%DESTDIR"), MakeRow("<Dir>", "%DESTDIR\\Temp")};
+    project.Files.sorted = false;
+    EXPECT_TRUE(Run(true));
+    EXPECT_EQ(Rows()[0][Destination], "<Filen saknas>");
+    EXPECT_EQ(Rows()[0][Size], "0");
+    EXPECT_EQ(Rows()[1], MakeRow("<Dir>", "%DESTDIR\\Temp"));
 }
 
 TEST_F(UpdateFileList, DoesNotTouchEmptyFolders)

@@ -141,6 +141,39 @@ TEST_F(TreeWalkTest, DoesNotEnterAFolderThatLeadsBack)
     EXPECT_THAT(NamesOf(list), ElementsAre("d.txt", "a.txt", "b.txt"));
 }
 
+TEST_F(TreeWalkTest, PassesOverAFileThatCannotBeRead)
+{
+    machine.files.At("C:\\Data\\App\\Sub\\a.txt").unreadable = true;
+    Walk({.StartDirectory = "C:\\Data\\App", .BaseDestination = "%DESTDIR"},
+         {{BoxKind::Critical, "Kan ej addera"}});
+    EXPECT_THAT(NamesOf(list), ElementsAre("c.txt", "b.txt"));
+    EXPECT_EQ(seen, 3);
+}
+
+TEST_F(TreeWalkTest, AddsNothingTheSecondTimeHoweverManyFilesHaveOneName)
+{
+    list.sorted = true;
+    for (int i = 0; i < 100; ++i)
+        machine.files.Put("C:\\Data\\App\\m" + std::to_string(i) + "\\readme.txt", "x");
+    const TreeToAdd tree{
+        .StartDirectory = "C:\\Data\\App", .BaseDestination = "%DESTDIR", .CheckDuplicates = true};
+    Walk(tree);
+    EXPECT_EQ(list.rows.size(), 103U);
+    for (int again = 0; again < 3; ++again)
+        Walk(tree);
+    EXPECT_EQ(list.rows.size(), 103U);
+}
+
+TEST(WalkFailureText, NamesTheEntryThatEndedTheWalk)
+{
+    const TreeToAdd tree{.StartDirectory = "C:\\Data"};
+    EXPECT_EQ(WalkFailureText(RunError(70, "C:\\Data\\Sub"), tree),
+              "Åtkomst nekas till 'C:\\Data\\Sub'.");
+    EXPECT_EQ(WalkFailureText(RunError(76), tree), "Katalogen till 'C:\\Data' finns inte.");
+    EXPECT_EQ(WalkFailureText(RunError(6, "a.txt"), tree),
+              "Fillistan rymmer högst 32767 rader. 'a.txt' fick inte plats.");
+}
+
 TEST_F(TreeWalkTest, KeepsTheRowsFromBeforeAFailure)
 {
     machine.files.At("C:\\Data\\App\\Tom").unreadable = true;

@@ -112,6 +112,7 @@ TEST_F(RecursiveCollectTest, KnowsWhereTheFormerRowsStand)
 TEST_F(RecursiveCollectTest, TellsOfAWalkThatFailed)
 {
     machine.files.At("C:\\Data\\App\\Sub").unreadable = true;
+    live.Expect({BoxKind::Critical, "Kan ej addera", "Åtkomst nekas till 'C:\\Data\\App\\Sub'."});
     RecursiveCollect form(Work(), tree, nullptr);
     ShowActive(form);
     Click(form, "cmdStart");

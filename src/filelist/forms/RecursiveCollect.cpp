@@ -68,8 +68,9 @@ void RecursiveCollect::Collect(FileAdding& adding)
         AddTree(adding, work_.host.files, tree_,
                 {.enteredFolder = [this] { LetWindowLive(); }, .sawFile = [this] { CountFile(); }});
         sSearchStatus->setText("Klar!");
-    } catch (const RunError&) {
+    } catch (const RunError& failure) {
         sSearchStatus->setText("Fel inträffade!");
+        work_.ask.Critical("Kan ej addera", WalkFailureText(failure, tree_));
     }
 }
 
