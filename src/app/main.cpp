@@ -6,6 +6,7 @@
 #include "app/window_place.h"
 #include "helpers/product.h"
 #include "platform/posix/posix_host.h"
+#include "platform/posix/signals.h"
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
 #include "shell/start.h"
 #include "ui/QtAsk.h"
@@ -36,6 +37,7 @@ void TellComplaints(const std::vector<Text>& complaints, Ask& ask)
 
 int main(int count, char** words)
 {
+    TellOfSignals();
     // Qt sees the program's name alone: a project may be called like one of its switches.
     int one = 1;
     QApplication application(one, words);

@@ -4,6 +4,7 @@
 #include "builder/copy_alive.h"
 #include "builder/progress_display.h"
 #include "builder/spanned_archive.h"
+#include "builder/temporary_file.h"
 #include "builder/zip_writer.h"
 #include "formats/container_names.h"
 #include "helpers/windows_path.h"
@@ -18,34 +19,6 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kLongestComment = 0xFFFF;
-constexpr std::uint32_t kTemporaryNames = 100000000;
-
-/// A file that is gone when its work is done, whatever happens.
-class TemporaryFile {
-public:
-    TemporaryFile(Host& host, const Text& folder) : files_(host.files)
-    {
-        do
-            path_ =
-                JoinPath(folder, "QN" + NumberText(host.machine.Random(kTemporaryNames)) + ".TMP");
-        while (files_.FileExists(path_) || files_.DirExists(path_));
-    }
-    ~TemporaryFile()
-    {
-        RunErrorNumber([this] {
-            if (files_.FileExists(path_))
-                files_.RemoveFile(path_);
-        });
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-    const Text& Path() const { return path_; }
-
-private:
-    FileSystem& files_;
-    Text path_;
-};
 
 /// What is the same for two spellings of one path.
 Text PathKey(const Text& path)
@@ -87,7 +60,7 @@ private:
     void Make(const Order& order, CompressionLog& log);
     Text FolderForUnfinished(const Order& order) const;
     std::vector<ZipSource> Sources(const Order& order) const;
-    void Pack(const Order& order, const Text& unfinished, CompressionLog& log);
+    void Pack(const Order& order, OutputFile& unfinished, CompressionLog& log);
     void Deliver(const Order& order, const Text& finished);
     void MoveIntoPlace(const Text& finished, const Text& target);
 };
@@ -132,9 +105,9 @@ void CompressionInterface::State::Make(const Order& order, CompressionLog& log)
 {
     if (items.empty())
         throw CompressionFailure(CompressionResult::kNothingToDo, {});
-    const TemporaryFile unfinished(host, FolderForUnfinished(order));
+    TemporaryFile unfinished(host, FolderForUnfinished(order));
     try {
-        Pack(order, unfinished.Path(), log);
+        Pack(order, unfinished.Output(), log);
     } catch (const CompressionFailure& source) {
         log.AddFailure(source.Path(), source.Result());
         throw;
@@ -164,7 +137,7 @@ std::vector<ZipSource> CompressionInterface::State::Sources(const Order& order) 
     return sources;
 }
 
-void CompressionInterface::State::Pack(const Order& order, const Text& unfinished,
+void CompressionInterface::State::Pack(const Order& order, OutputFile& unfinished,
                                        CompressionLog& log)
 {
     ProgressDisplay progress(ask);
@@ -172,10 +145,9 @@ void CompressionInterface::State::Pack(const Order& order, const Text& unfinishe
         .onEntry = [&](const ZipEntryReport& entry) { log.AddEntry(entry); },
         .onProgress = [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); },
         .onYield = [&] { ask.YieldToEvents(); }};
-    const auto output = host.files.OpenOutput(unfinished);
-    WriteZip(host.files, Sources(order), *output, {.deflate = deflates, .password = order.password},
-             watch);
-    output->Close();
+    WriteZip(host.files, Sources(order), unfinished,
+             {.deflate = deflates, .password = order.password}, watch);
+    unfinished.Close();
 }
 
 void CompressionInterface::State::Deliver(const Order& order, const Text& finished)

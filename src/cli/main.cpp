@@ -3,6 +3,7 @@
 #include "cli/open_project.h"
 #include "helpers/product.h"
 #include "platform/posix/posix_host.h"
+#include "platform/posix/signals.h"
 #include "platform/run_error.h"
 
 #include <algorithm>
@@ -30,7 +31,11 @@ Exit RunCall(const Arguments& arguments)
     } catch (const CallFailure& failure) {
         return context.Fail(failure.text, failure.exit);
     } catch (const RunError& error) {
-        return context.Fail(FailureText(error, ""), Exit::Stopped);
+        // Most failures name their file; the others are of the one that the call works on.
+        return context.Fail(FailureText(error, arguments.operands.empty()
+                                                   ? Text()
+                                                   : Text(arguments.operands.front())),
+                            Exit::Stopped);
     }
 }
 
@@ -65,8 +70,12 @@ Exit Run(const std::vector<std::string>& words)
 
 int main(int count, char** words)
 {
+    TellOfSignals();
     const Exit exit = Run({words + 1, words + count});
     // A script must not take a cut output for a whole one.
     std::cout.flush();
-    return std::cout ? static_cast<int>(exit) : static_cast<int>(Exit::Stopped);
+    if (std::cout)
+        return static_cast<int>(exit);
+    std::cerr << "Utskriften kunde inte skrivas till sitt slut.\n";
+    return static_cast<int>(Exit::Stopped);
 }

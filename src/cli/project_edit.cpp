@@ -7,6 +7,7 @@
 #include "helpers/ansi_text.h"
 #include "helpers/number_text.h"
 #include "platform/run_error.h"
+#include "platform/saved_file.h"
 #include "platform/whole_file.h"
 #include "project/project_file.h"
 
@@ -18,25 +19,6 @@ namespace quillon::cli {
 namespace {
 
 constexpr const char* kNothingSaved = " Inget är sparat.";
-
-// Beside the project, so that it can take its place at once.
-Text FreeNameBeside(const FileSystem& files, const Text& path)
-{
-    for (int number = 1;; ++number) {
-        const Text name = path + ".tmp" + NumberText(number);
-        if (!files.FileExists(name) && !files.DirExists(name))
-            return name;
-    }
-}
-
-void RemoveQuietly(FileSystem& files, const Text& path)
-{
-    try {
-        files.RemoveFile(path);
-    } catch (const RunError&) {
-        // What brought the call here is what the user has to know.
-    }
-}
 
 Text ValueText(const Json& value)
 {
@@ -98,6 +80,8 @@ ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin beg
       session(NewSession(context.host, ask, context.toolFolder)), context_(context), path_(path),
       isNew_(begin == Begin::WithANewProject)
 {
+    // Where it fails, so does the reading or the saving, which have more to tell.
+    RunErrorNumber([&] { Lock(); });
     if (!isNew_) {
         if (OpenProject(session, path) == Opened::InPart)
             throw CallFailure{PartlyReadText(path) + kNothingSaved, Exit::Unreadable};
@@ -141,30 +125,38 @@ bool ProjectEdit::HasChanged()
            SettingsJson(session.project) != settingsBefore_;
 }
 
-void ProjectEdit::Write()
+// A call that only looks may do so in a folder that it can't write to; one that saves can't go on
+// without the lock.
+void ProjectEdit::Lock()
 {
     FileSystem& files = context_.host.files;
-    const Text file = FreeNameBeside(files, path_);
+    lock_ = LockSavedFile(files, path_, LockWait::None);
+    if (lock_)
+        return;
+    context_.err << "'" << path_ << "' ändras av ett annat program; väntar.\n" << std::flush;
+    lock_ = LockSavedFile(files, path_, LockWait::UntilFree);
+}
+
+void ProjectEdit::Write()
+{
     try {
-        WriteAndLookAt(file);
-        files.Replace(file, path_);
+        if (!lock_)
+            Lock();
+        WriteAndLookAt();
     } catch (const RunError& error) {
-        RemoveQuietly(files, file);
         throw CallFailure{FailureText(RunError(error.Number()), path_) + kNothingSaved,
                           Exit::Stopped};
     }
 }
 
-void ProjectEdit::WriteAndLookAt(const Text& file)
+void ProjectEdit::WriteAndLookAt()
 {
-    WriteProjectFile(session.project, file, session.host, ask);
-    try {
-        DemandSameAgain(file);
-        DemandNobodyElseSaved();
-    } catch (const CallFailure&) {
-        RemoveQuietly(session.host.files, file);
-        throw;
-    }
+    DemandRoomForPictures(session.project);
+    SavedFile file(context_.host.files, path_);
+    WriteProject(session.project, file, session.host, ask);
+    DemandSameAgain(file.TemporaryPath());
+    DemandNobodyElseSaved();
+    file.Commit();
 }
 
 void ProjectEdit::DemandSameAgain(const Text& file)
@@ -177,8 +169,7 @@ void ProjectEdit::DemandSameAgain(const Text& file)
     DemandSameRows(Files().rows, again.project.Files.rows);
 }
 
-// Two calls at the same time would both begin with the same project, and the later one would undo
-// what the first one saved.
+// The lock keeps out who asks for it; an editor, or a disk that knows no locks, does not.
 void ProjectEdit::DemandNobodyElseSaved() const
 {
     const FileSystem& files = context_.host.files;

@@ -34,12 +34,15 @@ public:
 private:
     bool HasChanged();
     void Write();
-    void WriteAndLookAt(const Text& file);
+    void WriteAndLookAt();
+    void Lock();
     void DemandSameAgain(const Text& file);
     void DemandNobodyElseSaved() const;
 
     const CallContext& context_;
     Text path_;
+    // Held from before the reading to behind the saving, so that no change of another call is lost.
+    std::unique_ptr<FileLock> lock_;
     bool isNew_;
     std::string bytesBefore_;
     Json settingsBefore_;

@@ -24,8 +24,15 @@ Exit ResaveProject(const CallContext& context)
         context.err << PartlyReadText(in) << "\n";
 
     session.state.ProjectFileName = out;
+    // What is not read is lost from the target too, whatever stands there.
+    if (opened == Opened::InPart) {
+        session.knownFile = LookAtFile(context.host.files, out);
+        session.knownFile.isInProject = false;
+    }
     try {
-        SaveProject(session);
+        if (SaveProject(session, LockWait::UntilFree) == SaveEnd::ChangedByOthers)
+            return context.Fail("'" + out + "' har under tiden sparats av ett annat program.",
+                                Exit::Stopped);
     } catch (const RunError& error) {
         return context.Fail(FailureText(error, out), Exit::Stopped);
     }

@@ -3,6 +3,8 @@
 #include "helpers/utf8.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <iterator>
 #include <optional>
 
@@ -36,14 +38,35 @@ std::optional<char> ByteOf(char32_t codePoint)
     return static_cast<char>(kFirstSpecial + (found - std::begin(kSpecials)));
 }
 
+// How much of the text from `begin` on is ASCII, which both forms write alike. Nearly all of every
+// file is, so it is looked at eight bytes at a time.
+std::size_t AsciiLength(std::string_view text, std::size_t begin)
+{
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    std::size_t end = begin;
+    for (std::uint64_t word = 0; end + sizeof word <= text.size(); end += sizeof word) {
+        std::memcpy(&word, text.data() + end, sizeof word);
+        if ((word & kHighBits) != 0)
+            break;
+    }
+    while (end < text.size() && static_cast<unsigned char>(text[end]) < kFirstSpecial)
+        ++end;
+    return end - begin;
+}
+
 } // namespace
 
 Text FromBytes(std::string_view bytes)
 {
     Text text;
     text.reserve(bytes.size());
-    for (const char byte : bytes)
-        AppendCodePoint(text, CodePointOf(static_cast<unsigned char>(byte)));
+    for (std::size_t position = 0; position < bytes.size();) {
+        const std::size_t plain = AsciiLength(bytes, position);
+        text.append(bytes.substr(position, plain));
+        position += plain;
+        if (position < bytes.size())
+            AppendCodePoint(text, CodePointOf(static_cast<unsigned char>(bytes[position++])));
+    }
     return text;
 }
 
@@ -51,8 +74,13 @@ std::string ToBytes(std::string_view text)
 {
     std::string bytes;
     bytes.reserve(text.size());
-    for (std::size_t position = 0; position < text.size();)
-        bytes += ByteOf(NextCodePoint(text, position)).value_or('?');
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t plain = AsciiLength(text, position);
+        bytes.append(text.substr(position, plain));
+        position += plain;
+        if (position < text.size())
+            bytes += ByteOf(NextCodePoint(text, position)).value_or('?');
+    }
     return bytes;
 }
 

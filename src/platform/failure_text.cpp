@@ -4,6 +4,18 @@
 
 namespace quillon {
 
+namespace {
+
+// What users can't be expected to know by its number.
+Text WhatItMeans(int number)
+{
+    return number == ErrorNumber::kDeviceIo
+               ? " Disken svarar inte som den ska, eller så är filen för stor för den."
+               : "";
+}
+
+} // namespace
+
 Text FailureText(const RunError& error, const Text& path)
 {
     const Text& named = error.Path().empty() ? path : error.Path();
@@ -14,6 +26,8 @@ Text FailureText(const RunError& error, const Text& path)
         return "'" + named + "' är inget giltigt filnamn.";
     case ErrorNumber::kFileNotFound:
         return "Filen '" + named + "' finns inte.";
+    case ErrorNumber::kFileInUse:
+        return "'" + named + "' ändras just nu av ett annat program. Försök igen om en stund.";
     case ErrorNumber::kPathNotFound:
         return "Katalogen till '" + named + "' finns inte.";
     case ErrorNumber::kPermissionDenied:
@@ -23,7 +37,8 @@ Text FailureText(const RunError& error, const Text& path)
     case ErrorNumber::kDiskFull:
         return "Disken är full: '" + named + "'.";
     default:
-        return "Fel #" + NumberText(error.Number()) + (named.empty() ? "." : ": '" + named + "'.");
+        return "Fel #" + NumberText(error.Number()) + (named.empty() ? "." : ": '" + named + "'.") +
+               WhatItMeans(error.Number());
     }
 }
 

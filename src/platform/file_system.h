@@ -53,9 +53,20 @@ public:
     /// Overwrites bytes that were written before; the end of the file stays where it is.
     virtual void WriteAt(std::uint64_t position, std::span<const std::byte> bytes) = 0;
     virtual std::uint64_t Position() const = 0;
-    /// Brings everything to the disk; a failure that shows only now is thrown from here.
+    /// Waits until what was written lies on the disk itself, where a power failure leaves it.
+    virtual void Flush() {}
+    /// Ends the writing; a failure that shows only now is thrown from here.
     virtual void Close() = 0;
 };
+
+/// Keeps other programs out for as long as it lives. The system lets go of it when its program
+/// ends, however it ends.
+class FileLock {
+public:
+    virtual ~FileLock() = default;
+};
+
+enum class LockWait { None, UntilFree };
 
 enum class DriveKind { Unknown = 0, NoRoot = 1, Removable = 2, Fixed = 3, Remote = 4, Cd = 5 };
 
@@ -73,6 +84,21 @@ public:
     virtual std::unique_ptr<InputFile> OpenInput(const Text& path) const = 0;
     /// An existing file is emptied.
     virtual std::unique_ptr<OutputFile> OpenOutput(const Text& path) = 0;
+    /// A file where nothing stands yet; nothing comes back where something does. It is this
+    /// program's for as long as the output lives, also behind `Close`.
+    virtual std::unique_ptr<OutputFile> OpenNew(const Text& path)
+    {
+        return FileExists(path) || DirExists(path) ? nullptr : OpenOutput(path);
+    }
+    /// Removes a file of `OpenNew` that the program which made it can no longer remove, because it
+    /// was killed. Everything else stays, and nothing is thrown.
+    virtual void RemoveAbandoned(const Text& /*path*/) {}
+    /// Makes the lock file and takes it; it goes with the lock. Nothing comes back where another
+    /// program has it. A disk that knows no locks gives one that keeps nobody out.
+    virtual std::unique_ptr<FileLock> Lock(const Text& /*path*/, LockWait)
+    {
+        return std::make_unique<FileLock>();
+    }
 
     /// Creates the folder with all missing parents; false on failure, true also where it exists.
     virtual bool DirCreate(const Text& path) = 0;
@@ -82,9 +108,15 @@ public:
     /// An empty folder only.
     virtual void RemoveFolder(const Text& path) = 0;
     virtual void Rename(const Text& from, const Text& to) = 0;
-    /// Puts a finished file in the place of another, which nobody ever finds half written. Rights,
-    /// owner and links of the one that was there live on.
+    /// Puts a finished file in the place of another on the same disk, which nobody ever finds half
+    /// written or missing. Rights, owner and links of the one that was there live on. Throws where
+    /// they can't, and both files are then as they were.
     virtual void Replace(const Text& from, const Text& to) { Rename(from, to); }
+    /// The file under a second name as well, at which nothing stands; a copy where the disk has no
+    /// links.
+    virtual void KeepUnder(const Text& path, const Text& second) { CopyContent(path, second); }
+    /// Where the file lies that a link stands for; the path itself where there is no link.
+    virtual Text RealPath(const Text& path) const { return path; }
     virtual void SetModified(const Text& path, const LocalTime& time) = 0;
     virtual void SetReadOnly(const Text& path, bool readOnly) = 0;
 

@@ -18,6 +18,7 @@ inline constexpr int kSubscriptOutOfRange = 9;
 inline constexpr int kTypeMismatch = 13;
 inline constexpr int kBadFileName = 52;
 inline constexpr int kFileNotFound = 53;
+inline constexpr int kFileInUse = 55;
 inline constexpr int kDeviceIo = 57;
 inline constexpr int kDiskFull = 61;
 inline constexpr int kPermissionDenied = 70;

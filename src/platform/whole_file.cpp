@@ -3,6 +3,7 @@
 #include "helpers/ansi_text.h"
 #include "platform/run_error.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -10,6 +11,7 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kPieceSize = 64 * 1024;
+constexpr std::size_t kSmallestPiece = 1024;
 
 } // namespace
 
@@ -17,9 +19,13 @@ std::string ReadWholeFile(const FileSystem& files, const Text& path)
 {
     const auto file = files.OpenInput(path);
     std::string bytes;
-    for (std::size_t got = kPieceSize; got > 0;) {
+    // A file of the kernel's may be longer than it says; all others need one reading and a look at
+    // their end.
+    std::size_t piece =
+        std::clamp<std::size_t>(std::size_t(file->Size()) + 1, kSmallestPiece, kPieceSize);
+    for (std::size_t got = piece; got > 0;) {
         const std::size_t before = bytes.size();
-        bytes.resize(before + kPieceSize);
+        bytes.resize(before + piece);
         got = file->Read(std::as_writable_bytes(std::span(bytes).subspan(before)));
         bytes.resize(before + got);
     }
@@ -33,7 +39,10 @@ void WriteWholeFile(FileSystem& files, const Text& path, std::string_view bytes)
     file->Close();
 }
 
-AnsiTextFile::AnsiTextFile(FileSystem& files, const Text& path) : file_(files.OpenOutput(path)) {}
+AnsiTextFile::AnsiTextFile(FileSystem& files, const Text& path)
+    : owned_(files.OpenOutput(path)), file_(owned_.get())
+{
+}
 
 AnsiTextFile::~AnsiTextFile()
 {

@@ -19,6 +19,8 @@ void WriteWholeFile(FileSystem& files, const Text& path, std::string_view bytes)
 class AnsiTextFile {
 public:
     AnsiTextFile(FileSystem& files, const Text& path);
+    /// Into an output that outlives it.
+    explicit AnsiTextFile(OutputFile& output) : file_(&output) {}
     ~AnsiTextFile();
     AnsiTextFile(const AnsiTextFile&) = delete;
     AnsiTextFile& operator=(const AnsiTextFile&) = delete;
@@ -29,7 +31,8 @@ public:
 private:
     void Flush();
 
-    std::unique_ptr<OutputFile> file_;
+    std::unique_ptr<OutputFile> owned_;
+    OutputFile* file_;
     std::string pending_;
 };
 

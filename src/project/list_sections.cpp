@@ -41,19 +41,16 @@ bool IsFirstOfItsFlagSection(const ListSection& list)
            &list == std::find_if(std::begin(kListSections), std::end(kListSections), sameFlags);
 }
 
-// A text beyond the reach of the position fails behind its last line that lies within it.
 void WriteMarkedLines(AnsiTextFile& file, const Text& text)
 {
     const std::string bytes = AnsiText::ToBytes(text);
+    if (bytes.size() > kLongestMarkedText)
+        throw RunError(ErrorNumber::kOverflow);
     for (std::size_t position = 0; position < bytes.size();) {
         const std::size_t end = std::min(bytes.find(kLineBreak, position), bytes.size());
-        if (end > kLongestMarkedText)
-            break;
         file.Line(Text(kLineMark) + AnsiText::FromBytes(bytes.substr(position, end - position)));
         position = end + kLineBreak.size();
     }
-    if (bytes.size() > kLongestMarkedText)
-        throw RunError(ErrorNumber::kOverflow);
 }
 
 } // namespace

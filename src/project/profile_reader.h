@@ -47,6 +47,8 @@ public:
     /// The same, on when the key is missing.
     Flag ReadIniBoolean1(const Text& key) const { return ReadFlag(key, kOn); }
 
+    bool HasKey(const Text& key) const { return Find(key).has_value(); }
+
     /// The whole file, for what is no setting in it.
     std::string_view Bytes() const { return bytes_; }
 

@@ -4,6 +4,7 @@
 
 #include "platform/ask.h"
 #include "platform/host.h"
+#include "platform/saved_file.h"
 #include "project/records.h"
 
 namespace quillon {
@@ -17,12 +18,19 @@ struct ScreenMetrics {
     int TPPY = 15;
 };
 
-/// Overwrites the file from its first line to its last. A failure leaves a cut file and is thrown;
-/// 6 means more rows or INI lines than such a file can hold, 9 more animation pictures.
-/// Writing fills an empty `ProgramGroup` with the project's name, in the model as well. Sizes that
-/// can't be summed bring a box up and count as 0.
+/// Saves the project whole; the file that was there goes only when the new one lies on the disk. A
+/// failure is thrown: 6 means more rows or INI lines than such a file can hold, 9 more animation
+/// pictures. Writing fills an empty `ProgramGroup` with the project's name, in the model as well.
+/// Sizes that can't be summed bring a box up and count as 0.
 void WriteProjectFile(Project& project, const Text& path, Host& host, Ask& ask,
                       const ScreenMetrics& screen = {});
+
+/// The same up to the last step: the file is closed, and its place is for the caller to give.
+void WriteProject(Project& project, SavedFile& file, Host& host, Ask& ask,
+                  const ScreenMetrics& screen = {});
+
+/// Throws 9 where the project has more animation pictures than there is room for.
+void DemandRoomForPictures(const Project& project);
 
 /// How reading came to its end. The project holds what was read up to there.
 enum class ReadEnd {
@@ -31,6 +39,9 @@ enum class ReadEnd {
     Damaged, // the file ends inside its first list; the box said so
     Stopped, // a list, or the header of one, is missing its end or itself; silent
     RowsCut, // a line of the file list is no whole row; silent, and all rows before it are there
+    // The number of rows is missing, no number, or smaller than that of the rows, which are then
+    // not all read; silent.
+    RowsLeft,
     Trapped, // a value that does not fit its field, or a failure of the machine; two beeps
 };
 

@@ -236,10 +236,27 @@ void ReadComponents(ReadRun& run, SectionReader& sections)
         run.project.FileComponents = {};
 }
 
+bool BeginsAsNumber(const Text& text)
+{
+    const std::size_t first = text.starts_with('-') ? 1 : 0;
+    return first < text.size() && text[first] >= '0' && text[first] <= '9';
+}
+
+// The list may go on behind the rows that its number tells of.
+bool HasFurtherRow(ListLines& lines)
+{
+    for (auto line = lines.Next(); line && *line != kEndOfList; line = lines.Next())
+        if (line->find('=') != std::string_view::npos)
+            return true;
+    return false;
+}
+
 ReadEnd ReadFileList(ReadRun& run)
 {
     run.reader.SetIniSection("FileListInfo");
     const Integer files = run.reader.ReadIniInteger("Files");
+    const bool isNumber = !run.reader.HasKey("Files") ||
+                          BeginsAsNumber(run.reader.ReadIniString("Files", kHeadLimit));
     ListLines lines(run.reader.Bytes());
     if (!lines.FindSection("FileList"))
         return ReadEnd::Stopped;
@@ -250,11 +267,11 @@ ReadEnd ReadFileList(ReadRun& run)
         if (!line)
             return ReadEnd::Stopped;
         if (*line == kEndOfList)
-            return ReadEnd::Whole;
+            return isNumber ? ReadEnd::Whole : ReadEnd::RowsLeft;
         if (!AddRowFromLine(*line, decimalSign, run.project.Files.rows))
             return ReadEnd::RowsCut;
     }
-    return ReadEnd::Whole;
+    return isNumber && !HasFurtherRow(lines) ? ReadEnd::Whole : ReadEnd::RowsLeft;
 }
 
 bool ReadHead(ReadRun& run)

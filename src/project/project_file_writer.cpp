@@ -159,13 +159,12 @@ void WriteFileListInfo(SectionWriter& writer, const FileList& list, Host& host, 
 
 void WriteFileList(AnsiTextFile& file, const FileList& list)
 {
+    if (list.rows.size() > kMostRows)
+        throw RunError(ErrorNumber::kOverflow);
     file.Line("[FileList]");
     std::size_t number = 0;
-    for (const FileListRow& row : list.rows) {
-        if (number == kMostRows)
-            throw RunError(ErrorNumber::kOverflow);
+    for (const FileListRow& row : list.rows)
         file.Line(FileRowLine(++number, row));
-    }
     // Kept: a list without rows has no end either.
     if (list.rows.empty())
         return;
@@ -175,10 +174,17 @@ void WriteFileList(AnsiTextFile& file, const FileList& list)
 
 } // namespace
 
-void WriteProjectFile(Project& project, const Text& path, Host& host, Ask& ask,
-                      const ScreenMetrics& screen)
+void DemandRoomForPictures(const Project& project)
 {
-    AnsiTextFile file(host.files, path);
+    const auto& pictures = project.DesPicturesAnim;
+    if (pictures.NrAnimPictures > static_cast<Long>(pictures.P.size()))
+        throw RunError(ErrorNumber::kSubscriptOutOfRange);
+}
+
+void WriteProject(Project& project, SavedFile& saved, Host& host, Ask& ask,
+                  const ScreenMetrics& screen)
+{
+    AnsiTextFile file(saved);
     SectionWriter writer(file, screen);
 
     FillEmptyProgramGroup(project);
@@ -191,6 +197,15 @@ void WriteProjectFile(Project& project, const Text& path, Host& host, Ask& ask,
     file.Line(kEndOfFile);
     file.Line();
     file.Close();
+}
+
+void WriteProjectFile(Project& project, const Text& path, Host& host, Ask& ask,
+                      const ScreenMetrics& screen)
+{
+    DemandRoomForPictures(project);
+    SavedFile file(host.files, path);
+    WriteProject(project, file, host, ask, screen);
+    file.Commit();
 }
 
 } // namespace quillon

@@ -1,5 +1,8 @@
 #include "shell/lifecycle.h"
 
+#include "platform/run_error.h"
+#include "platform/saved_file.h"
+
 #include <algorithm>
 
 namespace quillon {
@@ -26,6 +29,25 @@ private:
     Ask& ask_;
 };
 
+bool HoldsMoreThanTheProject(const Session& session, const Text& path)
+{
+    const FileSystem& files = session.host.files;
+    return !session.knownFile.isInProject && files.FileExists(path) &&
+           IsSameFile(files, session.knownFile.path, path);
+}
+
+/// The name under which the old file is kept; empty where all that it held is in the project.
+Text WriteAndKeep(Session& session, const Text& path)
+{
+    FileSystem& files = session.host.files;
+    DemandRoomForPictures(session.project);
+    SavedFile file(files, path);
+    WriteProject(session.project, file, session.host, session.ask);
+    const Text kept = HoldsMoreThanTheProject(session, path) ? KeepBeside(files, path) : Text();
+    file.Commit();
+    return kept;
+}
+
 } // namespace
 
 std::optional<ReadEnd> LoadProject(Session& session)
@@ -33,23 +55,44 @@ std::optional<ReadEnd> LoadProject(Session& session)
     if (session.state.ProjectFileName.empty())
         return std::nullopt;
     const BusyWith busy(session.ask, "Öppnar projekt...");
+    // Before the reading: what is changed meanwhile shows then.
+    session.knownFile = LookAtFile(session.host.files, session.state.ProjectFileName);
     session.project.Files.rows.clear();
     const ReadEnd end = ReadProjectFile(session.project, session.state.ProjectFileName,
                                         session.host, session.ask, session.options.ToolFolder);
+    session.knownFile.isInProject = end == ReadEnd::Whole;
     // Kept: a file that was refused counts as opened, under its own name and with no files.
     session.state.ProjectIsDirty = kOff;
     HandleRecentFilesMenu(session);
     return end;
 }
 
-void SaveProject(Session& session)
+SaveEnd SaveProject(Session& session, LockWait wait)
 {
-    if (session.state.ProjectFileName.empty())
-        return;
-    const BusyWith busy(session.ask, "Sparar projekt...");
-    WriteProjectFile(session.project, session.state.ProjectFileName, session.host, session.ask);
-    session.state.ProjectIsDirty = kOff;
-    HandleRecentFilesMenu(session);
+    const Text& path = session.state.ProjectFileName;
+    if (path.empty())
+        return SaveEnd::Done;
+    Text kept;
+    {
+        const BusyWith busy(session.ask, "Sparar projekt...");
+        FileSystem& files = session.host.files;
+        const auto lock = LockSavedFile(files, path, wait);
+        if (!lock)
+            throw RunError(ErrorNumber::kFileInUse, path);
+        if (HasChangedSince(files, session.knownFile, path))
+            return SaveEnd::ChangedByOthers;
+        kept = WriteAndKeep(session, path);
+        session.knownFile = LookAtFile(files, path);
+        session.state.ProjectIsDirty = kOff;
+        HandleRecentFilesMenu(session);
+    }
+    if (!kept.empty())
+        session.ask.Inform("Den gamla filen finns kvar",
+                           "'" + path +
+                               "' kunde inte läsas helt som projekt. Filen som den var "
+                               "finns kvar som '" +
+                               kept + "'.");
+    return SaveEnd::Done;
 }
 
 void HandleRecentFilesMenu(Session& session)

@@ -14,9 +14,18 @@ namespace quillon {
 /// empty.
 std::optional<ReadEnd> LoadProject(Session& session);
 
-/// Writes the project to the file that `ProjectFileName` names. Throws when the file can't be
-/// written; the project then still counts as changed.
-void SaveProject(Session& session);
+enum class SaveEnd {
+    Done,
+    // Another program has changed the file since it was read or saved; nothing was written. Who
+    // wants to write over it all the same makes its content the one of `knownFile`.
+    ChangedByOthers
+};
+
+/// Saves the project in the file that `ProjectFileName` names. A file that the project does not
+/// hold whole, because it was refused or read in part only, is kept beside it first, and a box
+/// tells under which name. Throws when the file can't be written, 55 when another program is about
+/// to change it and the call doesn't wait; the project then still counts as changed.
+SaveEnd SaveProject(Session& session, LockWait wait = LockWait::None);
 
 /// Puts the project's file in front of the recent files.
 void HandleRecentFilesMenu(Session& session);

@@ -30,12 +30,30 @@ FileQuestion ProjectFileQuestion(const Session& session, const Text& title)
     return question;
 }
 
+/// The answer is for what lies there when the question is asked, not for what comes meanwhile.
+bool AgreesToWriteOver(Session& session)
+{
+    const Text& path = session.state.ProjectFileName;
+    const auto theirs = LookAtFile(session.host.files, path).content;
+    const bool agrees = session.ask.YesNo(
+        "Projektet har ändrats",
+        "'" + path +
+            "' har ändrats av ett annat program sedan projektet öppnades eller sparades. Vill du "
+            "skriva över filen?",
+        Ask::Stops::OnNo);
+    if (agrees)
+        session.knownFile.content = theirs;
+    return agrees;
+}
+
 /// Saves under the name that the project has; a failure is told, and the project then still counts
 /// as changed.
 bool SaveOrTell(Session& session, MainWindow& window)
 {
     try {
-        SaveProject(session);
+        while (SaveProject(session) == SaveEnd::ChangedByOthers)
+            if (!AgreesToWriteOver(session))
+                return false;
     } catch (const RunError& error) {
         session.ask.Critical("Fel", FailureText(error, session.state.ProjectFileName));
         return false;

@@ -6,6 +6,7 @@
 #include "platform/ask.h"
 #include "platform/host.h"
 #include "project/records.h"
+#include "shell/known_file.h"
 #include "shell/settings.h"
 
 #include <array>
@@ -18,6 +19,8 @@ struct Session {
 
     Project project;
     OpenProjectState state;
+    // The project's file as it was when it was last read or saved.
+    KnownFile knownFile;
 
     // Where programs and data of the tool lie is `options.ToolFolder`.
     CreateOptions options;

@@ -3,6 +3,7 @@
 #include "helpers/ansi_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/saved_file.h"
 #include "platform/whole_file.h"
 #include "project/profile_reader.h"
 #include "project/profile_writer.h"
@@ -169,7 +170,7 @@ void WriteDataToIniFile(const Session& session)
         std::string bytes = files.FileExists(path) ? ReadWholeFile(files, path) : std::string();
         SettingsWriter writer(bytes);
         VisitSettings(writer, session);
-        WriteWholeFile(files, path, bytes);
+        SaveWholeFile(files, path, bytes);
     } catch (const RunError&) {
         // The next start has the settings of the last one.
     }

@@ -35,7 +35,8 @@ TEST(ProjectEdit, LeavesAProjectToAnotherProgramThatSavesItMeanwhile)
     const std::string theirs = ReadWholeFile(machine.files, kPath);
     EXPECT_THROW(edit.Save("", {}), CallFailure);
     EXPECT_EQ(ReadWholeFile(machine.files, kPath), theirs);
-    EXPECT_EQ(machine.files.List("C:\\Data").size(), 1U);
+    ASSERT_EQ(machine.files.List("C:\\Data").size(), 2U) << "the project and its lock";
+    EXPECT_EQ(machine.files.List("C:\\Data")[1].name, "p.qnp.lock");
 }
 
 } // namespace

@@ -17,13 +17,18 @@ TEST(FailureText, SaysWhatFailedAndNamesTheFile)
         {ErrorNumber::kPathFileAccess,
          "'C:\\a.lng' är ingen vanlig fil, eller så är den skrivskyddad."},
         {ErrorNumber::kDiskFull, "Disken är full: 'C:\\a.lng'."},
-        {ErrorNumber::kDeviceIo, "Fel #57: 'C:\\a.lng'."},
+        {ErrorNumber::kFileInUse,
+         "'C:\\a.lng' ändras just nu av ett annat program. Försök igen om en stund."},
+        {ErrorNumber::kOverflow, "Fel #6: 'C:\\a.lng'."},
+        {ErrorNumber::kDeviceIo,
+         "Fel #57: 'C:\\a.lng'. Disken svarar inte som den ska, eller så är "
+         "filen för stor för den."},
     };
     for (const auto& [number, text] : cases) {
         EXPECT_EQ(FailureText(RunError(number, "C:\\a.lng"), "C:\\b"), text);
         EXPECT_EQ(FailureText(RunError(number), "C:\\a.lng"), text) << "the other path";
     }
-    EXPECT_EQ(FailureText(RunError(ErrorNumber::kDeviceIo), ""), "Fel #57.");
+    EXPECT_EQ(FailureText(RunError(ErrorNumber::kOverflow), ""), "Fel #6.");
 }
 
 } // namespace

@@ -116,19 +116,21 @@ TEST(NormalizeDecimalSeparator, ReplacesTheFirstForeignSign)
 
 TEST(FileListSection, TakesAtMostAsManyRowsAsFilesSays)
 {
-    const std::pair<const char*, std::vector<Text>> kCases[] = {
-        {"3", {"a", "b", "c"}},
-        {"2", {"a", "b"}},
-        {"0", {}},
-        {"-1", {}},
-        {"4", {"a", "b", "c"}},
-        {"", {}},
-        {"32767", {"a", "b", "c"}},
+    struct Case {
+        const char* files;
+        std::vector<Text> names;
+        ReadEnd end;
     };
-    for (const auto& [files, names] : kCases) {
+    const Case kCases[] = {
+        {"3", {"a", "b", "c"}, ReadEnd::Whole}, {"2", {"a", "b"}, ReadEnd::RowsLeft},
+        {"0", {}, ReadEnd::RowsLeft},           {"-1", {}, ReadEnd::RowsLeft},
+        {"4", {"a", "b", "c"}, ReadEnd::Whole}, {"", {}, ReadEnd::RowsLeft},
+        {"tre", {}, ReadEnd::RowsLeft},         {"32767", {"a", "b", "c"}, ReadEnd::Whole},
+    };
+    for (const Case& one : kCases) {
         ProjectOnDisk disk;
-        EXPECT_EQ(disk.Load(WithRows(files, kThreeRows)), ReadEnd::Whole) << files;
-        EXPECT_EQ(Names(disk.project), names) << files;
+        EXPECT_EQ(disk.Load(WithRows(one.files, kThreeRows)), one.end) << one.files;
+        EXPECT_EQ(Names(disk.project), one.names) << one.files;
     }
 }
 
@@ -219,14 +221,13 @@ TEST(FileListSection, HoldsAllTheRowsThatANumberOfSixteenBitsCanCount)
     EXPECT_EQ(disk.project.Files.rows, rows);
 }
 
-TEST(FileListSection, OfOneRowTooManyFailsAndCutsTheFileThere)
+TEST(FileListSection, OfOneRowTooManyFailsAndLeavesTheFile)
 {
     ProjectOnDisk disk;
+    disk.machine.files.Put(test::kPath, "old");
     disk.project.Files.rows.resize(kMostRows + 1);
     EXPECT_EQ(RunErrorNumber([&] { disk.Save(); }), 6);
-    const std::string cut = disk.machine.files.Get(test::kPath);
-    EXPECT_EQ(ValueIn(cut, "FileListInfo", "Files"), "32768");
-    EXPECT_TRUE(cut.ends_with("F32767=;;;;;;;;;;;;;;;\r\n"));
+    EXPECT_EQ(disk.machine.files.Get(test::kPath), "old");
 }
 
 TEST(SumOfSizes, RoundsTheSumToTheEvenNeighbour)

@@ -112,6 +112,151 @@ TEST(LifecycleOfRefusedFiles, LeaveAnEmptyFileListAndEnterTheRecentFiles)
     EXPECT_EQ(session.RecentFiles[0], "C:\\a.txt");
 }
 
+class SavingOverFiles : public testing::Test {
+protected:
+    SavingOverFiles()
+    {
+        memory.files.Put("C:\\Program\\Quillon\\Res\\SetupDef.bmp", "BM");
+        test::ScriptedAsk nobody;
+        Session other = NewSession(memory.host, nobody, kToolFolder);
+        memory.files.PutFolder("C:\\Data");
+        other.state.ProjectFileName = kPath;
+        other.project.Files.rows = {FileListRow{{"a.txt"}}, FileListRow{{"b.txt"}}};
+        SaveProject(other);
+        whole = memory.files.Get(kPath);
+    }
+
+    void Open(const std::string& bytes, Session& session)
+    {
+        memory.files.Put(kPath, bytes);
+        session.state.ProjectFileName = kPath;
+        LoadProject(session);
+    }
+
+    static test::ExpectedBox KeptAs(const Text& name)
+    {
+        return {test::BoxKind::Inform, "Den gamla filen finns kvar",
+                Text("'") + kPath +
+                    "' kunde inte läsas helt som projekt. Filen som den var finns "
+                    "kvar som '" +
+                    name + "'."};
+    }
+
+    std::vector<Text> Names() const
+    {
+        std::vector<Text> names;
+        for (const FolderEntry& entry : memory.files.List("C:\\Data"))
+            names.push_back(entry.name);
+        return names;
+    }
+
+    test::MemoryHost memory;
+    std::string whole;
+};
+
+TEST_F(SavingOverFiles, KeepsAFileBesideThatWasReadInPart)
+{
+    const std::string parts[] = {
+        whole.substr(0, whole.find("[FileList]")),
+        ReplaceAll(whole, "Files = 2", "Files = 1"),
+        ReplaceAll(whole, "Files = 2", "Files = 100000"),
+        ReplaceAll(whole, "\r\n", "\n"),
+        ReplaceAll(whole, "=b.txt;", "=b.txt"),
+    };
+    for (const std::string& part : parts) {
+        test::ScriptedAsk ask{{KeptAs(Text(kPath) + ".bak")}};
+        Session session = NewSession(memory.host, ask, kToolFolder);
+        Open(part, session);
+        EXPECT_EQ(SaveProject(session), SaveEnd::Done);
+        EXPECT_EQ(memory.files.Get(Text(kPath) + ".bak"), part);
+        // From now on the file holds what the project holds.
+        session.project.Version.Comments = "again";
+        EXPECT_EQ(SaveProject(session), SaveEnd::Done);
+        EXPECT_EQ(Names(), (std::vector<Text>{"p.qnp", "p.qnp.bak"}));
+        memory.files.RemoveFile(Text(kPath) + ".bak");
+    }
+}
+
+TEST_F(SavingOverFiles, KeepsAForeignFileBesideUnderAFreeName)
+{
+    test::ScriptedAsk ask{{{test::BoxKind::Warn, "Fel filformat"}, KeptAs(Text(kPath) + ".bak2")}};
+    Session session = NewSession(memory.host, ask, kToolFolder);
+    memory.files.Put(Text(kPath) + ".bak", "an older one");
+    Open("{\\rtf1 Hej}", session);
+    SaveProject(session);
+    EXPECT_EQ(memory.files.Get(Text(kPath) + ".bak2"), "{\\rtf1 Hej}");
+    EXPECT_EQ(memory.files.Get(Text(kPath) + ".bak"), "an older one");
+}
+
+TEST_F(SavingOverFiles, KeepsNothingOfAFileUnderAnotherName)
+{
+    test::ScriptedAsk ask{{{test::BoxKind::Warn, "Fel filformat"}}};
+    Session session = NewSession(memory.host, ask, kToolFolder);
+    Open("{\\rtf1 Hej}", session);
+    session.state.ProjectFileName = "C:\\Data\\q.qnp";
+    SaveProject(session);
+    EXPECT_EQ(memory.files.Get(kPath), "{\\rtf1 Hej}");
+    EXPECT_EQ(Names(), (std::vector<Text>{"p.qnp", "q.qnp"}));
+}
+
+TEST_F(SavingOverFiles, LeavesTheOldFileInItsPlaceWhereItCannotBeKept)
+{
+    test::ScriptedAsk ask{{{test::BoxKind::Warn, "Fel filformat"}}};
+    Session session = NewSession(memory.host, ask, kToolFolder);
+    Open("{\\rtf1 Hej}", session);
+    memory.files.RefuseOutput(Text(kPath) + ".bak", ErrorNumber::kDiskFull);
+    session.state.ProjectIsDirty = kOn;
+    EXPECT_EQ(RunErrorNumber([&] { SaveProject(session); }), ErrorNumber::kDiskFull);
+    EXPECT_EQ(memory.files.Get(kPath), "{\\rtf1 Hej}");
+    EXPECT_EQ(Names(), (std::vector<Text>{"p.qnp"}));
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(SavingOverFiles, TooManyPicturesAreToldBeforeAnythingIsOpened)
+{
+    test::ScriptedAsk ask;
+    Session session = NewSession(memory.host, ask, kToolFolder);
+    const std::string file = ReplaceAll(whole, "NrAnimPictures = 0", "NrAnimPictures = 20000");
+    Open(file, session);
+    EXPECT_EQ(RunErrorNumber([&] { SaveProject(session); }), ErrorNumber::kSubscriptOutOfRange);
+    EXPECT_EQ(memory.files.Get(kPath), file);
+    EXPECT_EQ(Names(), (std::vector<Text>{"p.qnp"}));
+}
+
+TEST_F(SavingOverFiles, SeesWhatAnotherProgramHasChanged)
+{
+    test::ScriptedAsk ask;
+    Session session = NewSession(memory.host, ask, kToolFolder);
+    Open(whole, session);
+    EXPECT_EQ(SaveProject(session), SaveEnd::Done);
+    const std::string theirs = ReplaceAll(memory.files.Get(kPath), "b.txt", "c.txt");
+    memory.files.Put(kPath, theirs);
+    session.state.ProjectIsDirty = kOn;
+    EXPECT_EQ(SaveProject(session), SaveEnd::ChangedByOthers);
+    EXPECT_EQ(memory.files.Get(kPath), theirs);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+
+    session.knownFile.content = LookAtFile(memory.files, kPath).content;
+    EXPECT_EQ(SaveProject(session), SaveEnd::Done);
+    EXPECT_EQ(memory.files.Get(kPath), whole);
+    // A file that has gone is written anew.
+    memory.files.RemoveFile(kPath);
+    EXPECT_EQ(SaveProject(session), SaveEnd::Done);
+    EXPECT_EQ(memory.files.Get(kPath), whole);
+}
+
+TEST_F(SavingOverFiles, LeavesAFileAloneThatAnotherProgramIsChanging)
+{
+    test::ScriptedAsk ask;
+    Session session = NewSession(memory.host, ask, kToolFolder);
+    Open(whole, session);
+    session.state.ProjectIsDirty = kOn;
+    const auto lock = LockSavedFile(memory.files, kPath, LockWait::None);
+    EXPECT_EQ(RunErrorNumber([&] { SaveProject(session); }), ErrorNumber::kFileInUse);
+    EXPECT_EQ(memory.files.Get(kPath), whole);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
 using Recent = std::array<Text, 4>;
 
 class RecentFiles : public Lifecycle {

@@ -7,6 +7,8 @@
 #include "support/scripted_ask.h"
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace quillon {
 namespace {
@@ -312,6 +314,67 @@ TEST(SaveProjectCommandTest, TellsWhyItFailedAndStaysChanged)
     EXPECT_EQ(desk.session.state.ProjectIsDirty, kOn);
     EXPECT_EQ(desk.session.RecentFiles[0], "C:\\P\\b.qnp");
     EXPECT_FALSE(desk.ask.busyPointer);
+}
+
+ExpectedBox OverwriteQuestion(const Text& file, Answer answer)
+{
+    return {BoxKind::YesNo, "Projektet har ändrats",
+            "'" + file +
+                "' har ändrats av ett annat program sedan projektet öppnades eller "
+                "sparades. Vill du skriva över filen?",
+            answer};
+}
+
+TEST(SaveProjectCommandTest, AsksBeforeItWritesOverWhatAnotherProgramHasMade)
+{
+    for (const Answer answer : {Answer::Yes, Answer::No}) {
+        Desk desk({OverwriteQuestion("C:\\P\\a.qnp", answer)});
+        OpenNamedProject(desk.session, desk.window, "C:\\P\\a.qnp");
+        desk.Change("C:\\P\\a.qnp");
+        desk.PutProject("C:\\P\\a.qnp", "Andras");
+        EXPECT_EQ(SaveProjectCommand(desk.session, desk.window), answer == Answer::Yes);
+        EXPECT_EQ(desk.NameOnFile("C:\\P\\a.qnp"), answer == Answer::Yes ? "Ändrat" : "Andras");
+        EXPECT_EQ(desk.session.state.ProjectIsDirty, answer == Answer::Yes ? kOff : kOn);
+        EXPECT_EQ(desk.ask.stops, (std::vector<Ask::Stops>{Ask::Stops::OnNo}));
+    }
+}
+
+/// A user who takes the time for another change while the question stands there.
+class SlowAsk : public ScriptedAsk {
+public:
+    using ScriptedAsk::ScriptedAsk;
+    bool YesNo(const Text& title, const Text& text, Stops which) override
+    {
+        if (auto change = std::exchange(beforeAnswer, nullptr))
+            change();
+        return ScriptedAsk::YesNo(title, text, which);
+    }
+    std::function<void()> beforeAnswer;
+};
+
+TEST(SaveProjectCommandTest, TheAnswerIsForTheFileThatTheUserWasAskedAbout)
+{
+    constexpr const char* kFile = "C:\\P\\a.qnp";
+    Desk desk;
+    SlowAsk ask({OverwriteQuestion(kFile, Answer::Yes), OverwriteQuestion(kFile, Answer::No)});
+    Session session = NewSession(desk.memory.host, ask, kTool);
+    OpenNamedProject(session, desk.window, kFile);
+    desk.PutProject(kFile, "Andras");
+    session.state.ProjectIsDirty = kOn;
+    ask.beforeAnswer = [&] { desk.PutProject(kFile, "Andras igen"); };
+    EXPECT_FALSE(SaveProjectCommand(session, desk.window));
+    EXPECT_EQ(desk.NameOnFile(kFile), "Andras igen");
+}
+
+TEST(SaveProjectCommandTest, TellsThatAnotherProgramIsChangingTheFile)
+{
+    Desk desk({{BoxKind::Critical, "Fel",
+                "'C:\\P\\a.qnp' ändras just nu av ett annat program. Försök igen om en stund."}});
+    desk.Change("C:\\P\\a.qnp");
+    desk.memory.files.locked.insert("c:\\p\\a.qnp.lock");
+    EXPECT_FALSE(SaveProjectCommand(desk.session, desk.window));
+    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOn);
+    EXPECT_EQ(desk.NameOnFile("C:\\P\\a.qnp"), "a");
 }
 
 TEST(SaveProjectAsTest, MovesANameThatIsInTheListToTheFront)

@@ -65,12 +65,33 @@ public:
         std::memcpy(bytes_->data() + position, bytes.data(), bytes.size());
     }
     std::uint64_t Position() const override { return bytes_->size(); }
+    void Flush() override { files_.BeforeWrite(path_, 0); }
     void Close() override {}
 
 private:
     MemoryFiles& files_;
     Text path_;
     std::shared_ptr<std::string> bytes_;
+};
+
+class MemoryLock : public FileLock {
+public:
+    MemoryLock(MemoryFiles& files, Text path) : files_(files), path_(std::move(path))
+    {
+        files_.locked.insert(KeyOf(path_));
+        files_.Put(path_, "");
+    }
+    ~MemoryLock() override
+    {
+        files_.locked.erase(KeyOf(path_));
+        files_.nodes.erase(KeyOf(path_));
+    }
+    MemoryLock(const MemoryLock&) = delete;
+    MemoryLock& operator=(const MemoryLock&) = delete;
+
+private:
+    MemoryFiles& files_;
+    Text path_;
 };
 
 void MemoryFiles::Put(const Text& path, std::string bytes, LocalTime modified)
@@ -191,6 +212,24 @@ std::unique_ptr<OutputFile> MemoryFiles::OpenOutput(const Text& path)
     return std::make_unique<MemoryOutput>(*this, path, At(path).bytes);
 }
 
+// An output that is still there shares the bytes.
+void MemoryFiles::RemoveAbandoned(const Text& path)
+{
+    if (FileExists(path) && At(path).bytes.use_count() == 1)
+        nodes.erase(KeyOf(path));
+}
+
+std::unique_ptr<FileLock> MemoryFiles::Lock(const Text& path, LockWait wait)
+{
+    if (locked.count(KeyOf(path)) > 0) {
+        EXPECT_EQ(wait, LockWait::None) << "nobody will ever let go of " << path;
+        return nullptr;
+    }
+    if (!DirExists(ExtractDirectory(path)))
+        throw RunError(ErrorNumber::kPathNotFound, path);
+    return std::make_unique<MemoryLock>(*this, path);
+}
+
 bool MemoryFiles::DirCreate(const Text& path)
 {
     if (refuseFolders || FileExists(path))
@@ -230,6 +269,16 @@ void MemoryFiles::Rename(const Text& from, const Text& to)
     nodes.erase(KeyOf(from));
     node.path = to;
     nodes[KeyOf(to)] = node;
+}
+
+void MemoryFiles::Replace(const Text& from, const Text& to)
+{
+    BeforeWrite(to, 0);
+    if (const auto found = refused_.find(KeyOf(to)); found != refused_.end())
+        throw RunError(found->second, to);
+    if (FileExists(to) && At(to).facts.isReadOnly)
+        throw RunError(ErrorNumber::kPathFileAccess, to);
+    Rename(from, to);
 }
 
 void MemoryFiles::SetModified(const Text& path, const LocalTime& time)

@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,7 +32,8 @@ public:
     std::string Get(const Text& path) const;
     Node& At(const Text& path);
 
-    /// The n-th write from now on (1 is the next one) fails with this number, and all after it.
+    /// The n-th write from now on (1 is the next one) fails with this number, and all after it. To
+    /// flush a file and to put it in the place of another are writes too.
     void FailFromWrite(int n, int errorNumber);
     /// Opening this file for output fails with this number.
     void RefuseOutput(const Text& path, int errorNumber);
@@ -42,11 +44,14 @@ public:
     std::vector<FolderEntry> List(const Text& folder) const override;
     std::unique_ptr<InputFile> OpenInput(const Text& path) const override;
     std::unique_ptr<OutputFile> OpenOutput(const Text& path) override;
+    void RemoveAbandoned(const Text& path) override;
+    std::unique_ptr<FileLock> Lock(const Text& path, LockWait wait) override;
     bool DirCreate(const Text& path) override;
     void CopyContent(const Text& from, const Text& to) override;
     void RemoveFile(const Text& path) override;
     void RemoveFolder(const Text& path) override;
     void Rename(const Text& from, const Text& to) override;
+    void Replace(const Text& from, const Text& to) override;
     void SetModified(const Text& path, const LocalTime& time) override;
     void SetReadOnly(const Text& path, bool readOnly) override;
     std::uint64_t FreeSpace(const Text& folder) const override;
@@ -58,6 +63,7 @@ public:
     std::map<Text, std::uint64_t> capacities; // of whole drives, by lower-cased root such as "a:\"
     std::map<Text, DriveKind> driveKinds;     // by lower-cased root; fixed when not named
     bool refuseFolders = false;
+    std::set<Text> locked; // lock files that a program has, by lower-cased path
 
 private:
     friend class MemoryOutput;

@@ -54,7 +54,7 @@ private:
     std::string& bytes_;
 };
 
-/// Every path is the one file.
+/// Every path is the one file. What is saved over it becomes it when it is finished.
 class OneFile : public FileSystem {
 public:
     explicit OneFile(std::string content) : bytes(std::move(content)) {}
@@ -71,6 +71,11 @@ public:
     {
         return std::make_unique<BytesOutput>(bytes);
     }
+    std::unique_ptr<OutputFile> OpenNew(const Text&) override
+    {
+        return std::make_unique<BytesOutput>(unfinished_);
+    }
+    void Replace(const Text&, const Text&) override { bytes = std::move(unfinished_); }
     bool DirCreate(const Text&) override { return false; }
     void CopyContent(const Text&, const Text&) override {}
     void RemoveFile(const Text&) override {}
@@ -84,6 +89,9 @@ public:
     Text ShortPath(const Text& path) const override { return path; }
 
     std::string bytes;
+
+private:
+    std::string unfinished_;
 };
 
 class PlainMachine : public Machine {

@@ -3,6 +3,7 @@
 #include "platform/posix/posix_error.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <unistd.h>
 #include <utility>
 
@@ -42,8 +43,8 @@ std::size_t PosixInputFile::Read(std::span<std::byte> buffer)
     return filled;
 }
 
-PosixOutputFile::PosixOutputFile(Descriptor file, Text path)
-    : file_(std::move(file)), path_(std::move(path))
+PosixOutputFile::PosixOutputFile(Descriptor file, Text path, Held held)
+    : file_(std::move(file)), path_(std::move(path)), held_(held)
 {
 }
 
@@ -67,10 +68,22 @@ void PosixOutputFile::WriteAt(std::uint64_t position, std::span<const std::byte>
     }
 }
 
+void PosixOutputFile::Flush()
+{
+    // A disk that can't be waited for has no cache to lose.
+    if (fsync(file_.Number()) != 0 && errno != EINVAL)
+        throw PosixFailure(errno, path_, Doing::Writing, true);
+}
+
 void PosixOutputFile::Close()
 {
-    // Disks across a network tell of a full disk only here. The descriptor is gone in any case.
-    if (file_.IsOpen() && close(file_.Release()) != 0 && errno != EINTR)
+    if (!file_.IsOpen())
+        return;
+    // Disks across a network tell of a full disk only when a descriptor is closed, any of the
+    // file's. The one given here is gone in any case.
+    const int closing =
+        held_ == Held::Yes ? fcntl(file_.Number(), F_DUPFD_CLOEXEC, 0) : file_.Release();
+    if (close(closing) != 0 && errno != EINTR)
         throw PosixFailure(errno, path_, Doing::Writing, true);
 }
 

@@ -42,17 +42,22 @@ private:
 
 class PosixOutputFile : public OutputFile {
 public:
-    PosixOutputFile(Descriptor file, Text path);
+    /// A file that is held stays open until the object goes, since its lock goes with it.
+    enum class Held { No, Yes };
+
+    PosixOutputFile(Descriptor file, Text path, Held held = Held::No);
 
     void Write(std::span<const std::byte> bytes) override;
     void WriteAt(std::uint64_t position, std::span<const std::byte> bytes) override;
     std::uint64_t Position() const override { return position_; }
+    void Flush() override;
     void Close() override;
 
 private:
     Descriptor file_;
     std::uint64_t position_ = 0;
     Text path_;
+    Held held_;
 };
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "platform/posix/disk_facts.h"
 #include "platform/posix/file_facts.h"
+#include "platform/posix/file_lock.h"
 #include "platform/posix/open_file.h"
 #include "platform/posix/posix_error.h"
 
@@ -86,16 +87,36 @@ Descriptor OpenToRead(const Text& path, const std::string& hostPath)
     return file;
 }
 
-/// Gives the file the owner and the rights of another; false where that is not for this user to do.
-bool TakesOver(const std::string& hostPath, const struct stat& other)
+/// Gives a finished file the owner and the rights of the one that it shall replace; false where
+/// that is not for this user to do. Where the group may do what the owner may, a file of another
+/// user can become this user's: it stays open to all who work on it.
+bool TakesOver(const std::string& hostPath, const struct stat& own, const struct stat& old)
 {
-    struct stat own {};
-    if (stat(hostPath.c_str(), &own) != 0)
-        return false;
-    const bool isOther = own.st_uid != other.st_uid || own.st_gid != other.st_gid;
-    if (isOther && chown(hostPath.c_str(), other.st_uid, other.st_gid) != 0)
-        return false;
-    return chmod(hostPath.c_str(), other.st_mode & 07777U) == 0;
+    const bool isOthers = own.st_uid != old.st_uid;
+    const bool groupMayAll = ((old.st_mode >> 3U) & 6U) == ((old.st_mode >> 6U) & 6U);
+    const uid_t keepsOwner = static_cast<uid_t>(-1);
+    const bool sameOwners = !isOthers && own.st_gid == old.st_gid;
+    const bool taken =
+        sameOwners || chown(hostPath.c_str(), old.st_uid, old.st_gid) == 0 ||
+        (isOthers && groupMayAll && chown(hostPath.c_str(), keepsOwner, old.st_gid) == 0);
+    return taken && chmod(hostPath.c_str(), old.st_mode & 07777U) == 0;
+}
+
+/// Waits until the folder's names lie on the disk. A folder that may not be read can't be waited
+/// for, nor can one on a disk without a cache.
+void FlushFolderOf(const Text& path, const std::string& hostPath)
+{
+    const Descriptor folder(open(FolderOf(hostPath).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.IsOpen() && fsync(folder.Number()) != 0 && errno != EINVAL)
+        Fail(path, hostPath, Doing::Writing);
+}
+
+using HostName = std::unique_ptr<char, void (*)(void*)>;
+
+/// Null where nothing stands at the path, or where a link leads nowhere.
+HostName BehindLinks(const std::string& hostPath)
+{
+    return {realpath(hostPath.c_str(), nullptr), free};
 }
 
 void CopyBytes(InputFile& from, OutputFile& to)
@@ -172,6 +193,47 @@ std::unique_ptr<OutputFile> PosixFiles::OpenOutput(const Text& path)
         Fail(path, hostPath, Doing::Writing);
     drives_.Names().NoteCreated(hostPath);
     return std::make_unique<PosixOutputFile>(std::move(file), path);
+}
+
+std::unique_ptr<OutputFile> PosixFiles::OpenNew(const Text& path)
+{
+    const std::string hostPath = HostPath(drives_, path);
+    Descriptor file(open(hostPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!file.IsOpen() && errno == EEXIST)
+        return nullptr;
+    if (!file.IsOpen())
+        Fail(path, hostPath, Doing::Writing);
+    drives_.Names().NoteCreated(hostPath);
+    // Between its making and its lock, another program can take the file for an abandoned one.
+    if (TakeLock(file, LockWait::None) == LockResult::Busy || !StandsAt(file, hostPath))
+        return nullptr;
+    return std::make_unique<PosixOutputFile>(std::move(file), path, PosixOutputFile::Held::Yes);
+}
+
+void PosixFiles::RemoveAbandoned(const Text& path)
+{
+    const auto hostPath = drives_.ToHost(path);
+    if (!hostPath)
+        return;
+    const Descriptor file(open(hostPath->c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (file.IsOpen() && TakeLock(file, LockWait::None) == LockResult::Taken &&
+        StandsAt(file, *hostPath) && unlink(hostPath->c_str()) == 0)
+        drives_.Names().NoteRemoved(*hostPath);
+}
+
+std::unique_ptr<FileLock> PosixFiles::Lock(const Text& path, LockWait wait)
+{
+    const std::string hostPath = HostPath(drives_, path);
+    for (;;) {
+        Descriptor file = OpenLockFile(hostPath);
+        if (!file.IsOpen())
+            Fail(path, hostPath, Doing::Writing);
+        if (TakeLock(file, wait) == LockResult::Busy)
+            return nullptr;
+        // The one who had it has removed the file: a lock on that is worth nothing.
+        if (StandsAt(file, hostPath))
+            return std::make_unique<PosixFileLock>(std::move(file), hostPath);
+    }
 }
 
 bool PosixFiles::DirCreate(const Text& path)
@@ -266,19 +328,42 @@ void PosixFiles::Replace(const Text& from, const Text& to)
     const std::string source = HostPath(drives_, from);
     const std::string named = HostPath(drives_, to);
     struct stat old {};
-    if (stat(named.c_str(), &old) != 0)
-        return Rename(from, to);
-    RefuseReadOnly(to, named);
-    if (access(named.c_str(), W_OK) != 0)
-        Fail(to, named, Doing::Writing);
-    // Behind a link lies the file that the name stands for.
-    const std::unique_ptr<char, void (*)(void*)> real(realpath(named.c_str(), nullptr), free);
-    if (real && TakesOver(source, old) && rename(source.c_str(), real.get()) == 0) {
-        drives_.Names().NoteRemoved(source);
-        return;
+    if (stat(named.c_str(), &old) != 0) {
+        Rename(from, to);
+        return FlushFolderOf(to, named);
     }
-    CopyContent(from, to);
-    RemoveFile(from);
+    RefuseReadOnly(to, named);
+    if (!S_ISREG(old.st_mode))
+        throw RunError(ErrorNumber::kPathFileAccess, to);
+    // Behind a link lies the file that the name stands for.
+    const HostName real = BehindLinks(named);
+    const struct stat own = StatOf(from, source);
+    if (!real || access(named.c_str(), W_OK) != 0 || !TakesOver(source, own, old) ||
+        rename(source.c_str(), real.get()) != 0)
+        Fail(to, named, Doing::Writing);
+    drives_.Names().NoteRemoved(source);
+    FlushFolderOf(to, real.get());
+}
+
+void PosixFiles::KeepUnder(const Text& path, const Text& second)
+{
+    const std::string hostPath = HostPath(drives_, path);
+    const std::string target = HostPath(drives_, second);
+    if (link(hostPath.c_str(), target.c_str()) == 0)
+        return drives_.Names().NoteCreated(target);
+    if (errno == EEXIST)
+        Fail(second, target, Doing::Writing);
+    const mode_t mode = StatOf(path, hostPath).st_mode & 07777U;
+    CopyContent(path, second);
+    if (chmod(target.c_str(), mode) != 0)
+        Fail(second, target, Doing::Writing);
+}
+
+Text PosixFiles::RealPath(const Text& path) const
+{
+    const auto hostPath = drives_.ToHost(path);
+    const HostName real = hostPath ? BehindLinks(*hostPath) : HostName(nullptr, free);
+    return !real || *hostPath == real.get() ? path : drives_.ToWindows(real.get()).value_or(path);
 }
 
 void PosixFiles::SetModified(const Text& path, const LocalTime& time)

@@ -17,6 +17,9 @@ public:
 
     std::unique_ptr<InputFile> OpenInput(const Text& path) const override;
     std::unique_ptr<OutputFile> OpenOutput(const Text& path) override;
+    std::unique_ptr<OutputFile> OpenNew(const Text& path) override;
+    void RemoveAbandoned(const Text& path) override;
+    std::unique_ptr<FileLock> Lock(const Text& path, LockWait wait) override;
 
     bool DirCreate(const Text& path) override;
     void CopyContent(const Text& from, const Text& to) override;
@@ -24,6 +27,8 @@ public:
     void RemoveFolder(const Text& path) override;
     void Rename(const Text& from, const Text& to) override;
     void Replace(const Text& from, const Text& to) override;
+    void KeepUnder(const Text& path, const Text& second) override;
+    Text RealPath(const Text& path) const override;
     void SetModified(const Text& path, const LocalTime& time) override;
     void SetReadOnly(const Text& path, bool readOnly) override;
 

@@ -86,6 +86,12 @@ void WinOutputFile::WriteAt(std::uint64_t position, std::span<const std::byte> b
     }
 }
 
+void WinOutputFile::Flush()
+{
+    if (!FlushFileBuffers(file_.Get()))
+        FailAsWindowsSays(path_);
+}
+
 void WinOutputFile::Close()
 {
     if (!file_.Close())

@@ -47,6 +47,7 @@ public:
     void Write(std::span<const std::byte> bytes) override;
     void WriteAt(std::uint64_t position, std::span<const std::byte> bytes) override;
     std::uint64_t Position() const override { return position_; }
+    void Flush() override;
     void Close() override;
 
 private:

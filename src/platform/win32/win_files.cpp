@@ -7,6 +7,7 @@
 #include "platform/win32/win_time.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -68,6 +69,15 @@ void RefuseReadOnly(const Text& path)
     if (Has(attributes, FILE_ATTRIBUTE_READONLY) && !Has(attributes, FILE_ATTRIBUTE_DIRECTORY))
         throw RunError(ErrorNumber::kPathFileAccess, path);
 }
+
+// Windows removes the file with the handle, also when the program is killed.
+class WinFileLock : public FileLock {
+public:
+    explicit WinFileLock(FileHandle file) : file_(std::move(file)) {}
+
+private:
+    FileHandle file_;
+};
 
 std::wstring RootOf(const Text& path)
 {
@@ -132,6 +142,39 @@ std::unique_ptr<OutputFile> WinFiles::OpenOutput(const Text& path)
         OpenOrFail(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS), path);
 }
 
+std::unique_ptr<OutputFile> WinFiles::OpenNew(const Text& path)
+{
+    FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen() && (FileExists(path) || DirExists(path)))
+        return nullptr;
+    if (!file.IsOpen())
+        FailAtFile(path);
+    return std::make_unique<WinOutputFile>(std::move(file), path);
+}
+
+// One that a program still writes is not shared for deletion.
+void WinFiles::RemoveAbandoned(const Text& path)
+{
+    DeleteFileW(WidePath(path).c_str());
+}
+
+std::unique_ptr<FileLock> WinFiles::Lock(const Text& path, LockWait wait)
+{
+    constexpr DWORD kPause = 20; // milliseconds; Windows tells nobody that a file is free again
+    for (;;) {
+        FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                                    FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+        if (file.IsOpen())
+            return std::make_unique<WinFileLock>(std::move(file));
+        if (GetLastError() != ERROR_SHARING_VIOLATION)
+            FailAtFile(path);
+        if (wait == LockWait::None)
+            return nullptr;
+        Sleep(kPause);
+    }
+}
+
 bool WinFiles::DirCreate(const Text& path)
 {
     if (DirExists(path))
@@ -174,6 +217,15 @@ void WinFiles::Rename(const Text& from, const Text& to)
     if (!MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(),
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_COPY_ALLOWED))
         FailAtFile(FileExists(from) || DirExists(from) ? to : from);
+}
+
+// Without the right to copy: a copy would first empty the file that is there.
+void WinFiles::Replace(const Text& from, const Text& to)
+{
+    RefuseReadOnly(to);
+    if (!MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(),
+                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        FailAtFile(FileExists(from) ? to : from);
 }
 
 void WinFiles::SetModified(const Text& path, const LocalTime& time)

@@ -1,0 +1,58 @@
+#include "platform/posix/signals.h"
+
+#include <csignal>
+#include <cstring>
+#include <unistd.h>
+
+namespace quillon {
+
+namespace {
+
+struct Ending {
+    int signal;
+    const char* line;
+};
+
+constexpr Ending kEndings[] = {
+    {SIGHUP, "Avbrutet: terminalen stängdes (SIGHUP).\n"},
+    {SIGINT, "Avbrutet från tangentbordet (SIGINT).\n"},
+    {SIGTERM, "Avbrutet av ett annat program (SIGTERM).\n"},
+    {SIGXCPU, "Avbrutet: den tillåtna processortiden är slut (SIGXCPU).\n"},
+};
+
+// Calls only what may be called from a handler. The signal has its old effect again by now.
+void TellAndEnd(int signal)
+{
+    for (const Ending& ending : kEndings)
+        if (ending.signal == signal) {
+            // Nobody is left to hear of a failure.
+            [[maybe_unused]] const ssize_t count =
+                write(STDERR_FILENO, ending.line, std::strlen(ending.line));
+        }
+    raise(signal);
+}
+
+// Unlike a signal that is ignored, one with a handler has its usual effect on programs that this
+// one starts.
+void LetTheWriteFail(int) {}
+
+} // namespace
+
+void TellOfSignals()
+{
+    struct sigaction tooLarge {};
+    tooLarge.sa_handler = LetTheWriteFail;
+    sigaction(SIGXFSZ, &tooLarge, nullptr);
+    for (const Ending& ending : kEndings) {
+        struct sigaction before {};
+        // What the user has switched off, with nohup, stays off.
+        if (sigaction(ending.signal, nullptr, &before) != 0 || before.sa_handler != SIG_DFL)
+            continue;
+        struct sigaction handling {};
+        handling.sa_handler = TellAndEnd;
+        handling.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER);
+        sigaction(ending.signal, &handling, nullptr);
+    }
+}
+
+} // namespace quillon

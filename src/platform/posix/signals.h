@@ -1,0 +1,11 @@
+// Signals that would end a program without a word.
+#pragma once
+
+namespace quillon {
+
+/// From now on a file that grows beyond what is allowed (`ulimit -f`) fails to be written, as on a
+/// full disk, instead of ending the program; and what ends it from outside is told on the error
+/// output first.
+void TellOfSignals();
+
+} // namespace quillon

@@ -1,0 +1,36 @@
+// What is known of the project's file since it was last read or saved: whether all that it holds is
+// in the project, and whether another program has changed it since.
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <optional>
+
+namespace quillon {
+
+/// Enough of a file's content to tell it from another one.
+struct ContentMark {
+    std::uint64_t size = 0;
+    std::size_t hash = 0;
+
+    bool operator==(const ContentMark&) const = default;
+};
+
+struct KnownFile {
+    Text path; // empty as long as no file was read or saved
+    // Nothing where no file was there, or where it could not be read.
+    std::optional<ContentMark> content;
+    // False where the file was refused or read in part only: saving over it would lose the rest.
+    bool isInProject = true;
+};
+
+/// The file as it is now.
+KnownFile LookAtFile(const FileSystem& files, const Text& path);
+
+bool IsSameFile(const FileSystem& files, const Text& left, const Text& right);
+
+/// Whether the file at the path is the known one with another content; one that has gone can be
+/// written anew without a loss.
+bool HasChangedSince(const FileSystem& files, const KnownFile& known, const Text& path);
+
+} // namespace quillon
