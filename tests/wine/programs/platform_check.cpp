@@ -3,6 +3,7 @@
 #include "helpers/windows_path.h"
 #include "platform/crypto.h"
 #include "platform/run_error.h"
+#include "platform/saved_file.h"
 #include "platform/whole_file.h"
 #include "platform/win32/locked_folder.h"
 #include "platform/win32/registry_key.h"
@@ -133,6 +134,45 @@ void CheckReadingAndWriting(Checks& checks, WinFiles& files, const Text& folder)
     checks.Expect(input->Read(piece) == 0 && input->Size() == 10, "reading behind the end");
     checks.Expect(files.FileExists(LowerCase(path)) && !files.DirExists(path), "a file is there");
     checks.Expect(files.DirExists(folder) && !files.FileExists(folder), "a folder is there");
+}
+
+void CheckSaving(Checks& checks, WinFiles& files, const Text& folder)
+{
+    const Text path = JoinPath(folder, "saved.qnp");
+    SaveWholeFile(files, path, "old");
+    {
+        SavedFile running(files, path);
+        running.Write(BytesOf("running"));
+        checks.Expect(files.OpenNew(running.TemporaryPath()) == nullptr, "a name that is taken");
+        SaveWholeFile(files, path, "new");
+        checks.Expect(files.FileExists(running.TemporaryPath()),
+                      "a temporary file in use is nobody else's");
+        checks.Expect(ReadWholeFile(files, path) == "new", "a file in the place of another");
+        running.Close();
+        running.Commit();
+    }
+    checks.Expect(ReadWholeFile(files, path) == "running", "the one that came last");
+    WriteWholeFile(files, path + ".tmp7", "left by a program that was killed");
+    {
+        SavedFile dropped(files, path);
+    }
+    files.SetReadOnly(path, true);
+    checks.ExpectFailure(
+        ErrorNumber::kPathFileAccess, [&] { SaveWholeFile(files, path, "x"); },
+        "saving over a read-only file");
+    files.SetReadOnly(path, false);
+    checks.Expect(ReadWholeFile(files, path) == "running", "the file as it was");
+    checks.Expect(KeepBeside(files, path) == path + ".bak", "a file kept beside");
+    {
+        const auto lock = LockSavedFile(files, path, LockWait::None);
+        checks.Expect(lock != nullptr && !LockSavedFile(files, path, LockWait::None),
+                      "a lock keeps others out");
+    }
+    checks.Expect(LockSavedFile(files, path, LockWait::UntilFree) != nullptr, "a free lock");
+    std::size_t named = 0;
+    for (const FolderEntry& entry : files.List(folder))
+        named += entry.name.starts_with("saved.qnp") ? 1 : 0;
+    checks.Expect(named == 2, "the file and the kept one alone are left");
 }
 
 void CheckFacts(Checks& checks, WinFiles& files, const Text& folder)
@@ -306,6 +346,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
     try {
         CheckCrypto(checks);
         CheckReadingAndWriting(checks, files, folder);
+        CheckSaving(checks, files, folder);
         CheckFacts(checks, files, folder);
         CheckFailures(checks, files, folder);
         CheckFolders(checks, files, folder);
