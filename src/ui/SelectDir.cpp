@@ -1,5 +1,6 @@
 #include "ui/SelectDir.h"
 
+#include "formats/row_safety.h"
 #include "helpers/ansi_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -65,12 +66,6 @@ Text RootOf(const Text& folder)
 Text ParentOf(const Text& folder)
 {
     return folder.size() <= 3 ? Text() : ExtractDirectory(RemoveLastBackslash(folder));
-}
-
-bool IsFolderName(const Text& name)
-{
-    const bool isOnlyPoints = name.find_first_not_of(". ") == Text::npos;
-    return !isOnlyPoints && name.find_first_of("\\/:*?\"<>|") == Text::npos;
 }
 
 Text VolumeName(const FileSystem& files, const Text& root)
@@ -252,9 +247,8 @@ void SelectDir::MakeNewDirectory()
     const Text name = typed ? TrimBlanks(*typed) : Text();
     if (name.empty())
         return;
-    if (!IsFolderName(name)) {
-        ask_.Inform("Fel", "En katalog kan inte heta '" + name +
-                               "'! Tecknen \\ / : * ? \" < > | får inte ingå i namnet.");
+    if (const Text fault = NameFaultText(name); !fault.empty()) {
+        ask_.Inform("Fel", fault);
         return;
     }
     const Text folder = JoinPath(PathOf(item), name);
