@@ -3,6 +3,7 @@
 #include "builder/row_checks.h"
 #include "filelist/redist_folder.h"
 #include "filelist/system_files.h"
+#include "formats/setup_names.h"
 #include "helpers/windows_path.h"
 
 #include <algorithm>
@@ -130,6 +131,22 @@ Check CheckSelfExtractName(CreateRun& run)
     return Check::Stopped;
 }
 
+// A name that leads out of the package's folder would overwrite whatever lies there.
+Check CheckSetupNames(CreateRun& run)
+{
+    const Project& project = run.project;
+    const Text starter =
+        SetupNameFaultText(project.InstallOptions.SetupName, project.Language.LanguageFile);
+    const Text group = ProgramGroupFaultText(project.ProgramGroup.ProgramGroup);
+    if (starter.empty() && group.empty())
+        return Check::Passed;
+    if (!starter.empty())
+        run.ask.Critical("Ogiltigt filnamn", starter);
+    else
+        run.ask.Critical("Ogiltig programgrupp", group);
+    return Check::Stopped;
+}
+
 Check CheckReservedFilenames(CreateRun& run)
 {
     const bool besideTheRuntime = run.form.TargetMedia == Medium::CompressedCd &&
@@ -187,6 +204,7 @@ constexpr Check (*kChecksInOrder[])(CreateRun&) = {CheckProject,
                                                    CheckIconTitles,
                                                    CheckDesignNames,
                                                    CheckNamesInTree,
+                                                   CheckSetupNames,
                                                    CheckFirstFloppy,
                                                    CheckDestinationExists};
 

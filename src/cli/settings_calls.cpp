@@ -3,6 +3,7 @@
 #include "cli/project_edit.h"
 #include "cli/project_field.h"
 #include "filelist/main_directory.h"
+#include "formats/setup_names.h"
 
 namespace quillon::cli {
 
@@ -24,6 +25,20 @@ void CheckMainFolder(ProjectEdit& edit)
     Text& folder = edit.session.project.InstallDirectories.DestinationDirectory;
     folder = CheckMainDirectory(folder, edit.ask);
     edit.DemandNothingRefused();
+}
+
+// What Create would refuse; a project that has it already can still be changed elsewhere.
+void CheckSetupNames(const Text& starterBefore, const Text& groupBefore, const Project& project)
+{
+    const Text& starter = project.InstallOptions.SetupName;
+    const Text& group = project.ProgramGroup.ProgramGroup;
+    Text fault;
+    if (starter != starterBefore)
+        fault = SetupNameFaultText(starter, project.Language.LanguageFile);
+    if (fault.empty() && group != groupBefore)
+        fault = ProgramGroupFaultText(group);
+    if (!fault.empty())
+        throw UsageError{fault};
 }
 
 struct Assignment {
@@ -59,6 +74,8 @@ Exit SetFields(const CallContext& context)
     ProjectEdit edit(context, context.PathOperand(0));
     Project& project = edit.session.project;
     const Text folderBefore = project.InstallDirectories.DestinationDirectory;
+    const Text starterBefore = project.InstallOptions.SetupName;
+    const Text groupBefore = project.ProgramGroup.ProgramGroup;
     Text lines;
     Json set = Json::object();
     for (std::size_t i = 1; i < context.arguments.operands.size(); ++i) {
@@ -69,6 +86,7 @@ Exit SetFields(const CallContext& context)
     }
     if (project.InstallDirectories.DestinationDirectory != folderBefore)
         CheckMainFolder(edit);
+    CheckSetupNames(starterBefore, groupBefore, project);
     return edit.Save(lines, {{"set", std::move(set)}});
 }
 

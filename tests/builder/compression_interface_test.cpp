@@ -289,27 +289,6 @@ TEST_F(Compression, LeavesNothingBehindWhenTheTargetFails)
     EXPECT_FALSE(files.FileExists(kTarget));
 }
 
-TEST_F(Compression, ClearsTheArchivesOfKilledRunsAndNothingElse)
-{
-    files.Put("C:\\Out\\QN17.TMP", "PK\x03\x04 half an archive");
-    files.Put("C:\\Out\\QN18.TMP", "");
-    for (const char* name : {"QN19.TMP", "QN.TMP", "QNx.TMP", "QN1.TMP2", "AQN1.TMP"})
-        files.Put(Text("C:\\Out\\") + name, "another program's");
-    files.PutFolder("C:\\Out\\QN20.TMP");
-    {
-        // An archive that another program is still making.
-        const auto running = files.OpenNew("C:\\Out\\QN21.TMP");
-        Put("E:\\a.txt", "a");
-        EXPECT_EQ(zip.IfcCreateZipFile(kTarget, 0, ""), kDone);
-        EXPECT_TRUE(files.FileExists("C:\\Out\\QN21.TMP"));
-    }
-    EXPECT_FALSE(files.FileExists("C:\\Out\\QN17.TMP"));
-    EXPECT_FALSE(files.FileExists("C:\\Out\\QN18.TMP"));
-    for (const char* name : {"QN19.TMP", "QN.TMP", "QNx.TMP", "QN1.TMP2", "AQN1.TMP"})
-        EXPECT_TRUE(files.FileExists(Text("C:\\Out\\") + name)) << name;
-    EXPECT_TRUE(files.DirExists("C:\\Out\\QN20.TMP"));
-}
-
 TEST_F(Compression, BuildsTheArchiveInTheWorkPath)
 {
     files.PutFolder("D:\\Work");

@@ -1,7 +1,7 @@
 #include "builder/create_checks.h"
 
-#include "filelist/redist_folder.h"
 #include "create_desk.h"
+#include "filelist/redist_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -133,6 +133,7 @@ const std::vector<Refusal>& Refusals()
          Medium::Internet,
          [](CreateDesk& desk) {
              desk.project.InstallOptionsInternet.SelfExtractFilename = "Setup.exe";
+             desk.project.InstallOptions.SetupName = "SETUP.EXE";
          },
          {{BoxKind::Critical, "Ogiltigt filnamn",
            "Filnamnet på den självuppackande Internet-installationen får ej vara detsamma som "
@@ -152,20 +153,41 @@ const std::vector<Refusal>& Refusals()
            "de filer som ska installeras placeras i underkatalogen '\\SetupFiles'. Du kan ange "
            "detta i dialogrutan 'Alternativ'. Alternativt kan du döpa om filen till ett annat "
            "filnamn."}}},
-        {"no first floppy",
+        {"starter outside the package",
          9,
+         kAnyMedium,
+         [](CreateDesk& desk) { desk.project.InstallOptions.SetupName = "..\\viktig.doc"; },
+         {{BoxKind::Critical, "Ogiltigt filnamn",
+           "Installationsprogrammets filnamn '..\\viktig.doc' fungerar inte: tecknen \\ / : * ? \" "
+           "< "
+           "> | får inte ingå i ett namn."}}},
+        {"starter with the name of another file",
+         9,
+         kAnyMedium,
+         [](CreateDesk& desk) { desk.project.InstallOptions.SetupName = "FileData.dat"; },
+         {{BoxKind::Critical, "Ogiltigt filnamn",
+           "Installationsprogrammets filnamn 'FileData.dat' fungerar inte: paketet har en annan "
+           "fil med det namnet."}}},
+        {"group outside the start menu",
+         9,
+         kAnyMedium,
+         [](CreateDesk& desk) { desk.project.ProgramGroup.ProgramGroup = "..\\Startup"; },
+         {{BoxKind::Critical, "Ogiltig programgrupp",
+           "Programgruppen '..\\Startup' fungerar inte: '..' får inte ingå."}}},
+        {"no first floppy",
+         10,
          Medium::Floppy,
          [](CreateDesk&) {},
          {{BoxKind::OkCancel, "Diskett", "Stoppa in diskett nr 1!", Answer::No}}},
         {"no folder wanted",
-         10,
+         11,
          kAnyMedium,
          [](CreateDesk& desk) { desk.form.tDestinationDir = "C:\\Saknas"; },
          {{BoxKind::YesNo, "Katalogen existerar inte",
            "Katalogen 'C:\\Saknas' existerar inte på hårddisken! Vill du skapa den nu?",
            Answer::No}}},
         {"no folder possible",
-         10,
+         11,
          kAnyMedium,
          [](CreateDesk& desk) {
              desk.form.tDestinationDir = "C:\\Saknas";

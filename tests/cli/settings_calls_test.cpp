@@ -36,6 +36,20 @@ TEST_F(SettingsCalls, MakesANewProject)
     EXPECT_EQ(object["destination"], "C:\\A");
 }
 
+TEST_F(SettingsCalls, RefusesNamesThatLeadOutOfThePackageOrTheStartMenu)
+{
+    ExpectRefused({"set", "InstallOptions.SetupName=..\\viktig.doc"}, 2,
+                  "Installationsprogrammets filnamn '..\\viktig.doc' fungerar inte");
+    ExpectRefused({"set", "InstallOptions.SetupName=filelist.inf"}, 2,
+                  "paketet har en annan fil med det namnet.");
+    ExpectRefused({"set", "ProgramGroup.ProgramGroup=C:\\Windows"}, 2,
+                  "Programgruppen 'C:\\Windows' fungerar inte");
+    EXPECT_EQ(Quillonc({"set", project, "InstallOptions.SetupName=INSTALL.EXE",
+                        "ProgramGroup.ProgramGroup=Firma\\Program"})
+                  .exitCode,
+              0);
+}
+
 TEST_F(SettingsCalls, RefusesANewProjectThatCanBeNone)
 {
     const auto refused = [&](std::vector<std::string> words, int exitCode, const std::string& err) {

@@ -1,0 +1,72 @@
+#include "formats/setup_names.h"
+
+#include "formats/package_files.h"
+#include "formats/row_safety.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kPackageFiles[] = {
+    kFileListName,     kSetupInformationName, kFileContainerName,        kDesignContainerName,
+    kAutorunName,      kLicenseRtfName,       kSetupFilesFolder,         kRuntimeName,
+    kUnzipLibraryName, kRegistryHelperName,   kSecondRegistryHelperName, kUninstallerName,
+    kManifestName};
+
+bool IsDrive(std::string_view part)
+{
+    const char letter = part.empty() ? ' ' : char(part[0] | 0x20);
+    return part.size() == 2 && part[1] == ':' && letter >= 'a' && letter <= 'z';
+}
+
+PathFault FaultOfGroupPart(const Text& part)
+{
+    if (IsDrive(part))
+        return PathFault::Colon;
+    const PathFault fault = FaultOfName(part);
+    const bool leadsElsewhere = fault == PathFault::Climbs || fault == PathFault::Device ||
+                                fault == PathFault::Control || fault == PathFault::TooLong;
+    return leadsElsewhere ? fault : PathFault::None;
+}
+
+} // namespace
+
+PathFault FaultOfProgramGroup(std::string_view group)
+{
+    while (!group.empty()) {
+        const std::string_view part = group.substr(0, group.find_first_of("\\/"));
+        group.remove_prefix(std::min(part.size() + 1, group.size()));
+        if (const PathFault fault = FaultOfGroupPart(TrimBlanks(part)); fault != PathFault::None)
+            return fault;
+    }
+    return PathFault::None;
+}
+
+bool IsNameOfPackageFile(std::string_view name, std::string_view languageFile)
+{
+    return (!languageFile.empty() && EqualIgnoreCase(name, languageFile)) ||
+           std::any_of(std::begin(kPackageFiles), std::end(kPackageFiles),
+                       [&](const char* own) { return EqualIgnoreCase(name, own); });
+}
+
+Text ProgramGroupFaultText(std::string_view group)
+{
+    const PathFault fault = FaultOfProgramGroup(group);
+    return fault == PathFault::None ? Text()
+                                    : "Programgruppen '" + Text(group) +
+                                          "' fungerar inte: " + PathFaultText(fault) + ".";
+}
+
+Text SetupNameFaultText(std::string_view name, std::string_view languageFile)
+{
+    const Text what = "Installationsprogrammets filnamn '" + Text(name) + "' fungerar inte: ";
+    if (const PathFault fault = FaultOfName(name); fault != PathFault::None)
+        return what + PathFaultText(fault) + ".";
+    if (IsNameOfPackageFile(name, languageFile))
+        return what + "paketet har en annan fil med det namnet.";
+    return {};
+}
+
+} // namespace quillon
