@@ -21,7 +21,7 @@ void Require(bool holds)
 void CheckLine(const RegistryLine& line)
 {
     using Kind = RegistryLine::Kind;
-    Require((line.kind == Kind::Unreadable) == line.reason.has_value());
+    Require((line.kind == Kind::Unreadable) == !line.reason.empty());
     Require(PlainSubKey(line.key.subKey) == line.key.subKey);
     if (line.kind == Kind::TextValue || line.kind == Kind::NumberValue ||
         line.kind == Kind::BytesValue)

@@ -1,0 +1,85 @@
+#!/usr/bin/env bash
+# Measures a setup under Wine: a product of many files in one folder, installed where nothing is, and
+# then the next version of it installed over that. Says whether each limit holds; ends with 1 when one
+# does not.
+#
+#   bench/install.sh [WORK-FOLDER]     default: build/bench-install
+#
+# FILES=2000 is how many files the larger product has; the smaller has half of them. QUILLON_WINE=32
+# takes the programs that ship (tests/wine/prepare-wine32.sh), 64 their twins; the work folder has to
+# lie where that Wine sees it.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/prepare.sh
+
+bits=${QUILLON_WINE:-64}
+files=${FILES:-2000}
+root=
+[ "$bits" = 32 ] && root=$(tests/wine/prepare-wine32.sh)
+work=${1:-${root:-$PWD/build}/$([ -n "$root" ] && echo tmp/)bench-install}
+rm -rf "$work"
+mkdir -p "$work"
+work=$(cd "$work" && pwd)
+quillonc=$PWD/build/release/quillon/quillonc
+programs=build/release/$([ "$bits" = 32 ] && echo quillon || echo runtime-x86_64)/Release
+export QUILLON_DRIVE_C=$work/c QUILLON_REGISTRY='' QUILLON_DRIVES="S=$work"
+failed=0
+
+on_z() { echo "Z:${1#"$root"}" | tr / '\\'; }
+
+# make_package COUNT VERSION: every file holds a little that differs, and is newer in the next version.
+make_package() {
+    local count=$1 version=$2 name=produkt$1
+    local sources=$work/$name package=$work/$name-$2
+    mkdir -p "$sources" "$package"
+    seq "$count" | awk -v dir="$sources" -v version="$version" \
+        '{ file = sprintf("%s/fil%05d.txt", dir, $1); print "fil", $1, "version", version > file; close(file) }'
+    find "$sources" -type f -exec touch -d "200$version-01-01 12:00" {} +
+    rm -f "$work/$name.qnp"
+    "$quillonc" new "$work/$name.qnp" --name "$name" --destination "%PROGRAMFILES\\$name" >/dev/null
+    "$quillonc" set "$work/$name.qnp" InstallOptions.UninstallSupport=1 >/dev/null
+    "$quillonc" add-tree "$work/$name.qnp" "$sources" --to %DESTDIR >/dev/null
+    "$quillonc" create "$work/$name.qnp" --to "$package" --medium cd --continue >/dev/null
+    cp "$programs/SETUP32.EXE" "$package/SETUP.EXE"
+    cp "$programs/Small32/QNS32X.EXE" "$package/QNS32X.BIN"
+    cp "$programs/DUNZIP32.DLL" "$package/DUNZIP32.DLL"
+    cp "$programs/QNXUNIN.EXE" "$package/QNXUNIN.BIN"
+    rm -f "$package/PACKAGE.SHA256" # its programs have just been changed
+}
+
+wine() { tests/wine/run-wine.sh "$bits" "$work/prefix" "$@"; }
+
+# took COUNT VERSION: seconds of a silent installation.
+took() {
+    TIMEFORMAT=%R
+    { time wine "$(on_z "$work/produkt$1-$2/SETUP.EXE")" /S >"$work/log" 2>&1; } 2>&1 \
+        || { cat "$work/log" >&2; return 1; }
+    local folder="$work/prefix/drive_c/Program Files/produkt$1"
+    grep -q "version $2" "$folder/fil00001.txt" || { echo "Version $2 is not there" >&2; return 1; }
+}
+
+# judge LIMIT TEXT SMALL LARGE
+judge() {
+    awk -v limit="$1" -v text="$2" -v small="$3" -v large="$4" 'BEGIN {
+        times = large / small
+        printf "%-46s %6.2f s %6.2f s  %.2f times, limit %.2f: %s\n", text, small, large, times, limit,
+               times <= limit ? "holds" : "DOES NOT HOLD"
+        exit times > limit }' || failed=1
+}
+
+half=$((files / 2))
+wine wineboot --init >"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
+for count in "$half" "$files"; do
+    for version in 1 2; do
+        make_package "$count" "$version"
+    done
+done
+small_fresh=$(took "$half" 1)
+small_upgrade=$(took "$half" 2)
+fresh=$(took "$files" 1)
+upgrade=$(took "$files" 2)
+wine wineserver -k || true
+judge 1.5 "upgrade of $files files against a fresh one" "$fresh" "$upgrade"
+judge 2.6 "fresh, $half and $files files" "$small_fresh" "$fresh"
+judge 2.6 "upgrade, $half and $files files" "$small_upgrade" "$upgrade"
+exit $failed

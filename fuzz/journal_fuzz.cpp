@@ -1,0 +1,34 @@
+// Install logs and journals of transactions of any content: what is read comes back from its own
+// line, and no record has a key of the system's own removed.
+#include "runtime/install_log.h"
+#include "runtime/journal_table.h"
+#include "runtime/registry_lines.h"
+#include "runtime/transaction.h"
+
+#include <cstdlib>
+
+using namespace quillon;
+
+namespace {
+
+void Check(const std::vector<JournalRecord>& records)
+{
+    for (const JournalRecord& record : records) {
+        const Text line = JournalLine(record);
+        const auto* const key = std::get_if<record::UninstallKey>(&record);
+        if (line.find_first_of("\r\n") != Text::npos || ReadJournalLine(line) != record ||
+            (key && IsSystemKey(key->key)))
+            std::abort();
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    const std::string_view file(reinterpret_cast<const char*>(bytes), size);
+    for (const auto& records : {ReadInstallLog(file), ReadJournal(file, kTransactionJournal)})
+        if (records)
+            Check(*records);
+    return 0;
+}
