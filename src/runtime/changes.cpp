@@ -8,49 +8,25 @@ namespace quillon {
 
 namespace {
 
-// The n-th name for a file that stands beside `path` for the time of the installation.
-Text AsideName(const Text& path, int n)
+// The first free name for a second copy of the file; there are seldom more than a few.
+Text BackupPath(const FileSystem& files, const Text& path)
 {
-    return JoinPath(ExtractDirectory(path), "~qn" + NumberText(n) + ".tmp");
-}
-
-Text BackupName(const Text& path, int n)
-{
-    return path + ".bak" + (n == 1 ? Text() : NumberText(n));
-}
-
-template <class NameOf>
-Text FirstFreeName(const FileSystem& files, const Text& path, NameOf nameOf)
-{
-    int n = 1;
-    while (files.FileExists(nameOf(path, n)) || files.DirExists(nameOf(path, n)))
-        ++n;
-    return nameOf(path, n);
+    Text backup = path + ".bak";
+    for (int n = 2; files.FileExists(backup) || files.DirExists(backup); ++n)
+        backup = path + ".bak" + NumberText(n);
+    return backup;
 }
 
 } // namespace
 
-Text NameBeside(const FileSystem& files, const Text& path)
-{
-    return FirstFreeName(files, path, AsideName);
-}
-
-void RemoveEvenReadOnly(FileSystem& files, const Text& path)
-{
-    if (files.Facts(path).isReadOnly)
-        files.SetReadOnly(path, false);
-    files.RemoveFile(path);
-}
-
 Changes::Changes(Host& host, Target& target, InstallLog& record, TextLog& log)
-    : host_(host), target_(target), record_(record), log_(log)
+    : host_(host), target_(target), record_(record), log_(log), transaction_(host, target)
 {
 }
 
-void Changes::RemoveIfThere(const Text& path)
+void Changes::Begin(const Text& mainFolder, const Text& product)
 {
-    if (host_.files.FileExists(path))
-        RemoveEvenReadOnly(host_.files, path);
+    transaction_.Begin(mainFolder, product);
 }
 
 void Changes::MakeFolder(const Text& folder)
@@ -63,10 +39,7 @@ void Changes::MakeFolder(const Text& folder)
         throw RunError(ErrorNumber::kPathNotFound, folder);
     MakeFolder(parent);
     record_.Add(record::Folder{folder});
-    OnUndo([this, folder] {
-        if (host_.files.DirExists(folder))
-            host_.files.RemoveFolder(folder);
-    });
+    transaction_.Note(record::Folder{folder});
     if (!host_.files.DirCreate(folder))
         throw RunError(ErrorNumber::kPathFileAccess, folder);
     log_.Line(Message::LogMakesFolder, folder);
@@ -74,32 +47,28 @@ void Changes::MakeFolder(const Text& folder)
 
 Text Changes::StagingPath(const Text& path)
 {
-    const Text staged = NameBeside(host_.files, path);
-    OnUndo([this, staged] { RemoveIfThere(staged); });
-    return staged;
+    return transaction_.TempPath(ExtractDirectory(path));
 }
 
 void Changes::PutAside(const Text& path)
 {
-    const Text aside = NameBeside(host_.files, path);
-    OnUndo([this, aside, path] {
-        if (host_.files.FileExists(aside))
-            host_.files.Rename(aside, path);
-    });
+    // Behind the file itself on the way back.
+    if (record_.Has<record::Registered>(path))
+        transaction_.Note(record::RegisteredBefore{path});
+    if (record_.Has<record::Font>(path))
+        transaction_.Note(record::AnnouncedBefore{path});
+    const Text aside = StagingPath(path);
+    transaction_.Note(record::Aside{path, aside});
     host_.files.Rename(path, aside);
-    putAside_.push_back(aside);
+    aside_.insert(LowerCase(path));
 }
 
-void Changes::Exchange(const Text& staged, const Text& path)
+// What stands at the place from now on is ours. Where a former file is aside, its coming back is
+// all that has to be done.
+void Changes::NoteNewFile(const Text& path)
 {
-    if (host_.files.FileExists(path))
-        PutAside(path);
-    OnUndo([this, path, staged] {
-        // While the finished file still has its first name, what stands here is not ours.
-        if (!host_.files.FileExists(staged))
-            RemoveIfThere(path);
-    });
-    host_.files.Rename(staged, path);
+    if (aside_.count(LowerCase(path)) == 0)
+        transaction_.Note(record::File{path});
 }
 
 void Changes::RecordFile(const Text& path, bool existed)
@@ -110,31 +79,35 @@ void Changes::RecordFile(const Text& path, bool existed)
         record_.Add(record::File{path});
 }
 
-void Changes::PutFile(const Text& staged, const Text& path, Recorded recorded)
+void Changes::PutFile(const NewFile& file)
 {
-    const bool existed = host_.files.FileExists(path);
-    if (recorded == Recorded::Yes)
-        RecordFile(path, existed);
-    Exchange(staged, path);
+    try {
+        if (file.replaces)
+            PutAside(file.path);
+        NoteNewFile(file.path);
+        host_.files.Rename(file.staged, file.path);
+    } catch (const RunError& error) {
+        throw RunError(error.Number(), file.path);
+    }
+    if (file.recorded == Recorded::Yes)
+        RecordFile(file.path, file.replaces);
 }
 
-void Changes::MakeUnrecordedFile(const Text& path)
+void Changes::PutFileAtRestart(const NewFile& file)
 {
-    OnUndo([this, path] { RemoveIfThere(path); });
-}
-
-void Changes::PutFileAtRestart(const Text& staged, const Text& path, Recorded recorded)
-{
-    if (recorded == Recorded::Yes)
-        RecordFile(path, true);
-    atRestart_.emplace_back(staged, path);
+    if (file.recorded == Recorded::Yes)
+        RecordFile(file.path, true);
+    const record::AtRestart move{file.staged, file.path};
+    record_.Add(move);
+    transaction_.Note(move);
+    atRestart_.push_back(move);
 }
 
 void Changes::KeepBackup(const Text& path)
 {
-    const Text backup = FirstFreeName(host_.files, path, BackupName);
+    const Text backup = BackupPath(host_.files, path);
     record_.Add(record::Backup{path, backup});
-    OnUndo([this, backup] { RemoveIfThere(backup); });
+    transaction_.Note(record::File{backup});
     host_.files.CopyContent(path, backup);
     log_.Line(Message::LogBacksUp, path, backup);
 }
@@ -151,10 +124,7 @@ void Changes::MakeKey(const RegistryKey& key)
     if (const Text parent = ExtractDirectory(key.subKey); !parent.empty())
         MakeKey({key.root, parent});
     record_.Add(record::Key{key});
-    OnUndo([this, key] {
-        if (target_.KeyExists(key))
-            target_.RemoveKey(key);
-    });
+    transaction_.Note(record::Key{key});
     target_.MakeKey(key);
 }
 
@@ -165,12 +135,7 @@ void Changes::WriteValue(const RegistryKey& key, const Text& name, const Registr
     const auto former = target_.ReadValue(key, name);
     if (recorded == Recorded::Yes)
         record_.Add(record::Value{key, name, data, former});
-    OnUndo([this, key, name, former] {
-        if (former)
-            target_.WriteValue(key, name, *former);
-        else if (target_.ReadValue(key, name))
-            target_.RemoveValue(key, name);
-    });
+    transaction_.Note(record::FormerValue{key, name, former});
     target_.WriteValue(key, name, data);
 }
 
@@ -179,7 +144,7 @@ void Changes::RemoveValue(const RegistryKey& key, const Text& name)
     const auto former = target_.ReadValue(key, name);
     if (!former)
         return;
-    OnUndo([this, key, name, former] { target_.WriteValue(key, name, *former); });
+    transaction_.Note(record::FormerValue{key, name, former});
     target_.RemoveValue(key, name);
 }
 
@@ -191,17 +156,18 @@ void Changes::RemoveKeyWithAllBelow(const RegistryKey& key)
         RemoveKeyWithAllBelow({key.root, key.subKey + "\\" + name});
     for (const Text& name : target_.ValueNames(key))
         RemoveValue(key, name);
-    OnUndo([this, key] { target_.MakeKey(key); });
+    transaction_.Note(record::RemovedKey{key});
     target_.RemoveKey(key);
 }
 
 void Changes::MakeShortcut(const Text& path, const Shortcut& shortcut)
 {
     MakeFolder(ExtractDirectory(path));
-    RecordFile(path, host_.files.FileExists(path));
-    if (host_.files.FileExists(path))
+    const bool existed = host_.files.FileExists(path);
+    RecordFile(path, existed);
+    if (existed)
         PutAside(path);
-    OnUndo([this, path] { RemoveIfThere(path); });
+    NoteNewFile(path);
     target_.MakeShortcut(path, shortcut);
     log_.Line(Message::LogMakesShortcut, path);
 }
@@ -209,52 +175,40 @@ void Changes::MakeShortcut(const Text& path, const Shortcut& shortcut)
 Registration Changes::RegisterServer(const Text& path)
 {
     record_.Add(record::Registered{path});
-    OnUndo([this, path] { target_.RegisterServer(path, false); });
+    transaction_.Note(record::Registered{path});
     return target_.RegisterServer(path, true);
 }
 
 void Changes::AnnounceFont(const Text& path)
 {
     record_.Add(record::Font{path});
-    OnUndo([this, path] { target_.AnnounceFont(path, false); });
+    transaction_.Note(record::Font{path});
     target_.AnnounceFont(path, true);
-}
-
-void Changes::Finish()
-{
-    for (const auto& [from, to] : atRestart_)
-        target_.MoveAtRestart(from, to);
 }
 
 void Changes::Commit()
 {
-    undo_.clear();
-    for (const Text& aside : putAside_) {
-        if (RunErrorNumber([&] { RemoveIfThere(aside); }) == ErrorNumber::kNone)
-            continue;
-        // A running program still holds the file that it was started from.
-        std::optional<RunError> failure;
-        RunErrorNumber([&] { target_.MoveAtRestart(aside, ""); }, failure);
-        if (failure)
-            log_.CannotRemove(aside, *failure);
-    }
-    putAside_.clear();
+    for (const record::AtRestart& move : atRestart_)
+        target_.MoveAtRestart(move.from, move.to);
+    transaction_.Commit();
+}
+
+void Changes::ClearAway()
+{
+    quillon::ClearAway({host_, target_, log_}, transaction_.Steps());
+    std::optional<RunError> failure;
+    RunErrorNumber([&] { transaction_.End(); }, failure);
+    if (failure)
+        log_.CannotRemove(failure->Path(), *failure);
 }
 
 bool Changes::Undo()
 {
-    bool whole = true;
-    for (; !undo_.empty(); undo_.pop_back()) {
-        try {
-            undo_.back()();
-        } catch (const std::exception& error) { // whatever it is, the steps before it have to go on
-            whole = false;
-            log_.CannotUndo(error);
-        }
-    }
-    putAside_.clear();
-    atRestart_.clear();
-    return whole;
+    const bool whole = TakeBack({host_, target_, log_}, transaction_.Steps());
+    if (whole && RunErrorNumber([&] { transaction_.End(); }) == ErrorNumber::kNone)
+        return true;
+    transaction_.Leave();
+    return false;
 }
 
 } // namespace quillon

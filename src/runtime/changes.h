@@ -1,17 +1,13 @@
-// Changes to the machine that can be taken back. Each one is noted in the installation's record
-// before it is made, and how to take it back is kept until `Commit`, so that an installation that
-// fails half-way leaves the machine as it was.
-//
-// Taking back writes nothing to a disk: files are put aside under another name and come back under
-// their own, so that a full disk can't stop it.
+// Changes to the machine that can be taken back. Each one is noted in the transaction's journal
+// before it is made, so that an installation that fails half-way, or is killed, leaves the machine
+// as it was; what the uninstaller has to know goes into the installation's record as well.
 #pragma once
 
-#include "platform/host.h"
 #include "runtime/install_log.h"
-#include "runtime/target.h"
-#include "runtime/text_log.h"
+#include "runtime/rollback.h"
+#include "runtime/transaction.h"
 
-#include <functional>
+#include <unordered_set>
 
 namespace quillon {
 
@@ -19,22 +15,32 @@ class Changes {
 public:
     Changes(Host& host, Target& target, InstallLog& record, TextLog& log);
 
-    /// What is not recorded is undone after a failure, but the uninstaller does not know of it.
+    /// What is not recorded is taken back after a failure, but the uninstaller does not know of it.
     enum class Recorded { Yes, No };
+
+    /// A finished file and the place that it goes to.
+    struct NewFile {
+        Text staged;
+        Text path;
+        bool replaces = false; // a file stands there
+        Recorded recorded = Recorded::Yes;
+    };
+
+    /// Before the first change. Throws where another installation to the same folder is at work.
+    void Begin(const Text& mainFolder, const Text& product);
 
     /// With all missing folders above it.
     void MakeFolder(const Text& folder);
-    /// A free name beside `path`, under which a file can be written before it is put in its place.
+    /// A name under which a file for that place can be written before it is put there. Its folder
+    /// exists.
     Text StagingPath(const Text& path);
-    /// Puts the finished file in the place of `path`.
-    void PutFile(const Text& staged, const Text& path, Recorded recorded = Recorded::Yes);
+    /// A failure names the place, not the temporary file.
+    void PutFile(const NewFile& file);
     /// The same for a file that is in use now and free when the machine starts next.
-    void PutFileAtRestart(const Text& staged, const Text& path, Recorded recorded);
+    void PutFileAtRestart(const NewFile& file);
     /// Keeps a second name for the file that stands at `path`, which `PutFile` is about to replace.
     void KeepBackup(const Text& path);
     void RemoveFile(const Text& path);
-    /// The caller is about to write a file of this name, where none stands.
-    void MakeUnrecordedFile(const Text& path);
 
     void MakeKey(const RegistryKey& key);
     void WriteValue(const RegistryKey& key, const Text& name, const RegistryData& data,
@@ -48,33 +54,26 @@ public:
     void AnnounceFont(const Text& path);
 
     bool NeedsRestart() const { return !atRestart_.empty(); }
-    /// What can still fail before `Commit`: the moves of the next start.
-    void Finish();
-    /// The changes stay; what was put aside goes away.
+    /// The changes stay: the last thing that can fail, the moves of the next start among it.
     void Commit();
-    /// False where something could not be taken back; the log tells what.
+    /// Removes what was put aside.
+    void ClearAway();
+    /// False where something could not be taken back; the log tells what, and the next run tries
+    /// again.
     bool Undo();
 
 private:
     void RecordFile(const Text& path, bool existed);
     void PutAside(const Text& path);
-    void Exchange(const Text& staged, const Text& path);
-    void RemoveIfThere(const Text& path);
-    void OnUndo(std::function<void()> step) { undo_.push_back(std::move(step)); }
+    void NoteNewFile(const Text& path);
 
     Host& host_;
     Target& target_;
     InstallLog& record_;
     TextLog& log_;
-    std::vector<std::function<void()>> undo_;
-    std::vector<Text> putAside_;
-    std::vector<std::pair<Text, Text>> atRestart_;
+    Transaction transaction_;
+    std::unordered_set<Text> aside_; // places whose former file is aside, in lower case
+    std::vector<record::AtRestart> atRestart_;
 };
-
-/// A free name beside `path` for a file that stands there for a short time.
-Text NameBeside(const FileSystem& files, const Text& path);
-
-/// Takes the write protection off first, if there is one.
-void RemoveEvenReadOnly(FileSystem& files, const Text& path);
 
 } // namespace quillon

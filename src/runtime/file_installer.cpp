@@ -58,39 +58,43 @@ void FileInstaller::InstallAll()
 
 void FileInstaller::InstallOne(const PlannedFile& file)
 {
-    FileSystem& files = input_.host.files;
     const Text& options = file.row->copyOptions;
     if (!input_.package.HasBytes(*file.row)) {
         input_.log.Skipped(file.path, {Message::SkipNoSource});
         return;
     }
     changes_.MakeFolder(ExtractDirectory(file.path));
-    const bool existed = files.FileExists(file.path);
+    const auto existing = FactsOfFileAt(file.path);
     // A version can only be read from a file on disk, so such a file is written in any case.
-    const bool decidesLate = existed && HasOption(options, CopyOption::kVersionCheck);
-    bool wanted = decidesLate || IsWanted(file, {});
+    const bool decidesLate = existing && HasOption(options, CopyOption::kVersionCheck);
+    bool wanted = decidesLate || !existing || IsWanted(file, *existing, {});
     Text staged;
     if (wanted) {
         staged = Stage(file);
-        wanted = !decidesLate || IsWanted(file, staged);
+        wanted = !decidesLate || IsWanted(file, *existing, staged);
     }
-    const bool atRestart = wanted && !Put(file, staged);
+    const bool atRestart = wanted && !Put(file, staged, existing.has_value());
     if (!wanted && !staged.empty())
-        files.RemoveFile(staged);
+        input_.host.files.RemoveFile(staged);
     if (HasOption(options, CopyOption::kShared) && !HasOption(options, CopyOption::kNeverUninstall))
-        CountSharedFile(file, existed);
+        CountSharedFile(file, existing.has_value());
     if (wanted)
         NoteWhatFollows(file, atRestart);
 }
 
-bool FileInstaller::IsWanted(const PlannedFile& file, const Text& staged)
+// In one question: where a name is new, some file systems read the whole folder to say so.
+std::optional<FileFacts> FileInstaller::FactsOfFileAt(const Text& path) const
+{
+    std::optional<FileFacts> facts;
+    RunErrorNumber([&] { facts = input_.host.files.Facts(path); });
+    if (facts && facts->isFolder)
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+    return facts;
+}
+
+bool FileInstaller::IsWanted(const PlannedFile& file, const FileFacts& facts, const Text& staged)
 {
     const FileSystem& files = input_.host.files;
-    if (files.DirExists(file.path))
-        throw RunError(ErrorNumber::kPathFileAccess, file.path);
-    if (!files.FileExists(file.path))
-        return true;
-    const FileFacts facts = files.Facts(file.path);
     ComparedFile existing{facts.modified, {}, facts.isReadOnly};
     ComparedFile ours{input_.package.Modified(*file.row), {}, false};
     if (!staged.empty()) {
@@ -131,24 +135,24 @@ Text FileInstaller::Stage(const PlannedFile& file)
 }
 
 // False where the file takes its place when the machine starts next.
-bool FileInstaller::Put(const PlannedFile& file, const Text& staged)
+bool FileInstaller::Put(const PlannedFile& file, const Text& staged, bool replaces)
 {
     const Text& options = file.row->copyOptions;
-    FileSystem& files = input_.host.files;
     const auto recorded = HasOption(options, CopyOption::kNeverUninstall) ? Changes::Recorded::No
                                                                           : Changes::Recorded::Yes;
-    if (files.FileExists(file.path) && HasOption(options, CopyOption::kBackup))
+    const Changes::NewFile placed{staged, file.path, replaces, recorded};
+    if (replaces && HasOption(options, CopyOption::kBackup))
         changes_.KeepBackup(file.path);
     if (HasOption(options, CopyOption::kSetWriteProtection))
-        files.SetReadOnly(staged, true);
+        input_.host.files.SetReadOnly(staged, true);
     try {
-        changes_.PutFile(staged, file.path, recorded);
+        changes_.PutFile(placed);
         input_.log.Line(Message::LogCopies, file.path);
         return true;
     } catch (const RunError& error) {
         if (!IsInUse(error) || !HasOption(options, CopyOption::kActiveFile))
             throw;
-        changes_.PutFileAtRestart(staged, file.path, recorded);
+        changes_.PutFileAtRestart(placed);
         input_.log.Line(Message::LogReplacesAtRestart, file.path);
         return false;
     }
@@ -157,7 +161,7 @@ bool FileInstaller::Put(const PlannedFile& file, const Text& staged)
 // A file that was there before and that nobody counted has a user already.
 void FileInstaller::CountSharedFile(const PlannedFile& file, bool existed)
 {
-    if (record_.HasShared(file.path))
+    if (record_.Has<record::Shared>(file.path))
         return;
     const std::uint32_t before = CountOfUsers(input_.target, file.path).value_or(existed ? 1 : 0);
     // The key first, since it can go only when the count in it has gone.

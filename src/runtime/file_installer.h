@@ -20,10 +20,11 @@ public:
 
 private:
     void InstallOne(const PlannedFile& file);
-    bool IsWanted(const PlannedFile& file, const Text& staged);
+    std::optional<FileFacts> FactsOfFileAt(const Text& path) const;
+    bool IsWanted(const PlannedFile& file, const FileFacts& facts, const Text& staged);
     CopyDecision AskWhetherToReplace(const Text& path);
     Text Stage(const PlannedFile& file);
-    bool Put(const PlannedFile& file, const Text& staged);
+    bool Put(const PlannedFile& file, const Text& staged, bool replaces);
     void CountSharedFile(const PlannedFile& file, bool existed);
     void NoteWhatFollows(const PlannedFile& file, bool atRestart);
 

@@ -58,7 +58,7 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
         work.record.Add(std::move(record));
     const Text staged = work.changes.StagingPath(path);
     WriteWholeFile(work.files, staged, ini.Bytes());
-    work.changes.PutFile(staged, path, Changes::Recorded::No);
+    work.changes.PutFile({staged, path, existed, Changes::Recorded::No});
 }
 
 // The old file stays until the new one is whole, since others' lines stand in it too. A removal

@@ -29,23 +29,24 @@ public:
         } catch (const std::exception& error) {
             input_.log.Line(Message::LogUndoes);
             input_.ask.AddStatusLine(input_.texts[Message::Undoing]);
-            record_.Abandon();
             if (!changes_.Undo())
                 throw SetupFailure(
                     ExitCode::Failed,
                     input_.texts(Message::NotUndone, FailureReason(error, input_.texts)));
             throw;
         }
-        changes_.Commit();
+        changes_.ClearAway();
         return {changes_.NeedsRestart()};
     }
 
 private:
     void DoEverything();
-    void OpenRecord();
+    void BeginRecord();
     void RecordTexts();
+    void SaveRecord();
     void ShareMainFolder();
     void DeleteOldProgramGroup();
+    bool IsOwnShortcut(const Text& path) const;
     void WriteRegistry();
     void WriteRegistryLine(const RegistryLine& line);
     void RegisterFiles();
@@ -67,8 +68,9 @@ void Installation::DoEverything()
     for (const SkippedPart& part : input_.plan.skipped)
         input_.log.Skipped(part.what, part.reason);
     input_.ask.AddStatusLine(input_.texts[Message::Copying]);
+    changes_.Begin(input_.plan.mainFolder, input_.setup.project.ProjectName.ProjectName);
     changes_.MakeFolder(input_.plan.mainFolder);
-    OpenRecord();
+    BeginRecord();
     DeleteOldProgramGroup();
     for (const Text& folder : input_.plan.folders)
         changes_.MakeFolder(folder);
@@ -82,12 +84,12 @@ void Installation::DoEverything()
     for (const PlannedShortcut& planned : input_.plan.shortcuts)
         changes_.MakeShortcut(planned.path, planned.shortcut);
     RegisterAtRestart();
-    record_.Close();
-    changes_.Finish();
+    SaveRecord();
+    changes_.Commit();
 }
 
 // The record of an earlier installation of the same product goes on: what it made is ours too.
-void Installation::OpenRecord()
+void Installation::BeginRecord()
 {
     if (!input_.plan.hasUninstaller)
         return;
@@ -102,13 +104,21 @@ void Installation::OpenRecord()
                    std::holds_alternative<record::Message>(record);
         });
         record_.TakeOver(std::move(earlier));
-        changes_.RemoveFile(path);
     }
     ShareMainFolder();
     record_.Add(record::Product{input_.setup.project.ProjectName.ProjectName});
     RecordTexts();
-    changes_.MakeUnrecordedFile(path);
-    record_.Open(files, path);
+}
+
+void Installation::SaveRecord()
+{
+    if (!input_.plan.hasUninstaller)
+        return;
+    const Text& path = input_.plan.installLog;
+    FileSystem& files = input_.host.files;
+    const Text staged = changes_.StagingPath(path);
+    record_.Save(files, staged);
+    changes_.PutFile({staged, path, files.FileExists(path), Changes::Recorded::No});
 }
 
 void Installation::RecordTexts()
@@ -132,7 +142,20 @@ void Installation::ShareMainFolder()
     }
 }
 
-// Only shortcuts go, and the group stays where anything else lies in it.
+// A shortcut that an earlier installation of the product made, or that leads to it all the same. In
+// the group of a new project, products of many makers lie side by side.
+bool Installation::IsOwnShortcut(const Text& path) const
+{
+    if (record_.Has<record::File>(path) || record_.Has<record::Replaced>(path))
+        return true;
+    const auto shortcut = input_.target.ReadShortcut(path);
+    const Text inside = LowerCase(input_.plan.mainFolder) + "\\";
+    // A document is opened by a viewer, whose first argument it is.
+    return shortcut && (LowerCase(shortcut->program).starts_with(inside) ||
+                        LowerCase(shortcut->arguments).starts_with("\"" + inside));
+}
+
+// Only the product's own shortcuts go, and the group stays where anything else lies in it.
 void Installation::DeleteOldProgramGroup()
 {
     const Text& group = input_.plan.programGroup;
@@ -141,7 +164,8 @@ void Installation::DeleteOldProgramGroup()
         return;
     for (const FolderEntry& entry : input_.host.files.List(group)) {
         const Text path = JoinPath(group, entry.name);
-        if (entry.facts.isFolder || !LowerCase(entry.name).ends_with(".lnk"))
+        const bool isShortcut = !entry.facts.isFolder && LowerCase(entry.name).ends_with(".lnk");
+        if (!isShortcut || !IsOwnShortcut(path))
             continue;
         changes_.RemoveFile(path);
         input_.log.Line(Message::LogRemovesShortcut, path);
@@ -262,7 +286,7 @@ void Installation::PutHelper(const char* helper, const Text& path)
 {
     const Text staged = changes_.StagingPath(path);
     input_.host.files.CopyContent(JoinPath(input_.helpersFolder, helper), staged);
-    changes_.PutFile(staged, path);
+    changes_.PutFile({staged, path, input_.host.files.FileExists(path)});
 }
 
 void Installation::PutUninstaller()
@@ -274,7 +298,7 @@ void Installation::PutUninstaller()
     input_.host.files.CopyContent(JoinPath(input_.helpersFolder, RuntimeFile::kUninstaller),
                                   staged);
     // The uninstaller goes last and by itself, and stays where another product needs it.
-    changes_.PutFile(staged, path, Changes::Recorded::No);
+    changes_.PutFile({staged, path, input_.host.files.FileExists(path), Changes::Recorded::No});
     WriteUninstallEntry(input_, changes_);
 }
 

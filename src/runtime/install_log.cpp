@@ -1,5 +1,6 @@
 #include "runtime/install_log.h"
 
+#include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/whole_file.h"
 #include "runtime/journal_table.h"
@@ -53,53 +54,31 @@ std::optional<Text> ProductOfLog(const FileSystem& files, const Text& path)
     return std::nullopt;
 }
 
-void InstallLog::Open(FileSystem& files, const Text& path)
+void InstallLog::Save(FileSystem& files, const Text& path) const
 {
-    file_ = files.OpenOutput(path);
-    const Text head = kFirstLine + Text(kLineBreak);
-    file_->Write(std::as_bytes(std::span(head)));
+    Text bytes = kFirstLine + Text(kLineBreak);
     for (const JournalRecord& record : records_)
-        Write(record);
-}
-
-void InstallLog::Close()
-{
-    const std::unique_ptr<OutputFile> file = std::move(file_);
-    if (file)
-        file->Close();
+        bytes += JournalLine(record) + Text(kLineBreak);
+    WriteWholeFile(files, path, bytes);
 }
 
 void InstallLog::Add(JournalRecord record)
 {
-    NoteShared(record);
+    index_.insert(IndexOf(record));
     records_.push_back(std::move(record));
-    if (file_)
-        Write(records_.back());
-}
-
-bool InstallLog::HasShared(std::string_view path) const
-{
-    return shared_.count(LowerCase(path)) > 0;
 }
 
 void InstallLog::TakeOver(std::vector<JournalRecord> earlier)
 {
     for (const JournalRecord& record : earlier)
-        NoteShared(record);
+        index_.insert(IndexOf(record));
     records_.insert(records_.begin(), std::make_move_iterator(earlier.begin()),
                     std::make_move_iterator(earlier.end()));
 }
 
-void InstallLog::NoteShared(const JournalRecord& record)
+Text InstallLog::IndexOf(const JournalRecord& record)
 {
-    if (const auto* const shared = std::get_if<record::Shared>(&record))
-        shared_.insert(LowerCase(shared->path));
-}
-
-void InstallLog::Write(const JournalRecord& record)
-{
-    const Text line = JournalLine(record) + Text(kLineBreak);
-    file_->Write(std::as_bytes(std::span(line)));
+    return NumberText(std::int64_t(record.index())) + " " + LowerCase(SubjectOf(record));
 }
 
 } // namespace quillon

@@ -1,13 +1,11 @@
 // The record of an installation, from which the uninstaller removes what was installed and nothing
-// else: a journal beside the product, in UTF-8. It is written ahead: a line stands on the disk
-// before the change that it tells of is made, so that a broken-off installation can still be
-// removed.
+// else: a file of journal lines beside the product, in UTF-8. It is written whole at the end of an
+// installation; until then the transaction's own journal tells what has been done.
 #pragma once
 
 #include "platform/file_system.h"
 #include "runtime/journal_records.h"
 
-#include <memory>
 #include <unordered_set>
 #include <vector>
 
@@ -25,26 +23,25 @@ std::optional<Text> ProductOfLog(const FileSystem& files, const Text& path);
 
 class InstallLog {
 public:
-    /// Writes to the file from now on, beginning with all records so far.
-    void Open(FileSystem& files, const Text& path);
-    void Close();
-    /// Writes no more; the file can be removed.
-    void Abandon() { file_.reset(); }
+    void Save(FileSystem& files, const Text& path) const;
 
     void Add(JournalRecord record);
-    /// Whether the file's users have been counted by us, in this or an earlier installation.
-    bool HasShared(std::string_view path) const;
+    /// Whether there is a record of that kind with this path, ignoring case, of this or of an
+    /// earlier installation.
+    template <class Record>
+    bool Has(std::string_view path) const
+    {
+        return index_.count(IndexOf(Record{Text(path)})) > 0;
+    }
     const std::vector<JournalRecord>& Records() const { return records_; }
     /// They stand before all others.
     void TakeOver(std::vector<JournalRecord> earlier);
 
 private:
-    void NoteShared(const JournalRecord& record);
-    void Write(const JournalRecord& record);
+    static Text IndexOf(const JournalRecord& record);
 
     std::vector<JournalRecord> records_;
-    std::unordered_set<Text> shared_; // in lower case
-    std::unique_ptr<OutputFile> file_;
+    std::unordered_set<Text> index_; // kinds and subjects, in lower case
 };
 
 } // namespace quillon

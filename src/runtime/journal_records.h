@@ -161,9 +161,14 @@ struct RegisteredBefore {
     bool operator==(const RegisteredBefore&) const = default;
 };
 
+/// The font that stood there before was announced too, by an earlier installation.
+struct AnnouncedBefore {
+    Text path;
+    bool operator==(const AnnouncedBefore&) const = default;
+};
+
 /// The transaction is through: what is left to do is to clear away.
 struct Committed {
-    Text product;
     bool operator==(const Committed&) const = default;
 };
 
@@ -175,7 +180,8 @@ using JournalRecord =
                  record::AtRestart, record::Key, record::Value, record::UninstallKey,
                  record::UninstallValue, record::IniFile, record::IniOpenEnd, record::IniSection,
                  record::IniValue, record::TempFolder, record::Aside, record::FormerValue,
-                 record::RemovedKey, record::RegisteredBefore, record::Committed>;
+                 record::RemovedKey, record::RegisteredBefore, record::AnnouncedBefore,
+                 record::Committed>;
 
 /// The path or the registry key that a record is about; empty where it is about none.
 Text SubjectOf(const JournalRecord& record);

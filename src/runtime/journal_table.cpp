@@ -49,7 +49,8 @@ constexpr std::tuple kRows{
     Line("FORMERVALUE",      &record::FormerValue::key, &record::FormerValue::name, &record::FormerValue::former),
     Line("REMOVEDKEY",       &record::RemovedKey::key),
     Line("REGISTEREDBEFORE", &record::RegisteredBefore::path),
-    Line("COMMITTED",        &record::Committed::product),
+    Line("ANNOUNCEDBEFORE",  &record::AnnouncedBefore::path),
+    Line<record::Committed>("COMMITTED"),
 };
 // clang-format on
 
@@ -232,7 +233,7 @@ Text JournalLine(const JournalRecord& record)
         if (one == nullptr)
             return;
         line = row.word;
-        std::apply([&](auto... field) { (Put(line, one->*field), ...); }, row.fields);
+        std::apply([&](auto... field) { (Put(line, (*one).*field), ...); }, row.fields);
     });
     return line;
 }

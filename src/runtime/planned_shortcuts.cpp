@@ -1,6 +1,8 @@
 #include "runtime/planned_shortcuts.h"
 
+#include "formats/setup_names.h"
 #include "helpers/windows_path.h"
+#include "runtime/failure_reason.h"
 
 #include <algorithm>
 
@@ -100,6 +102,8 @@ Text GroupFolder(const PlanInput& input, const Places& places)
 {
     Text folder = input.target.Folder(places.programs);
     const Text group = input.variables.Expand(input.setup.project.ProgramGroup.ProgramGroup);
+    if (FaultOfProgramGroup(group) != PathFault::None)
+        throw DamagedPackage(input.texts, {Message::PackageBadFolder, "ProgramGroup", group});
     // A group may lie in another one.
     for (std::size_t at = 0; at <= group.size();) {
         const std::size_t end = std::min(group.find('\\', at), group.size());

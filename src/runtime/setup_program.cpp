@@ -1,16 +1,22 @@
 #include "runtime/setup_program.h"
 
 #include "formats/package.h"
+#include "formats/setup_names.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
+#include "runtime/copy_decision.h"
 #include "runtime/failure_reason.h"
 #include "runtime/install.h"
 #include "runtime/package_check.h"
 #include "runtime/package_names.h"
+#include "runtime/rollback.h"
+#include "runtime/uninstall_entry.h"
 
+#include <algorithm>
 #include <map>
+#include <set>
 
 namespace quillon {
 
@@ -35,6 +41,8 @@ private:
     void CheckSystem();
     void CheckFreeSpace(const InstallPlan& plan) const;
     void KeepHelpers() const;
+    void CheckHelpers(const InstallPlan& plan) const;
+    void FinishEarlier(const SetupVariables& variables);
     void InstallPackage();
 
     const SetupInput& input_;
@@ -125,6 +133,10 @@ void SetupProgram::CheckPackage() const
 {
     if (package_.fault)
         throw DamagedPackage(texts_, *package_.fault);
+    const Project& project = package_.setup.project;
+    const Text& starter = project.InstallOptions.SetupName;
+    if (!SetupNameFaultText(starter, project.Language.LanguageFile).empty())
+        throw DamagedPackage(texts_, {Message::PackageFileDamaged, kSetupInformationName});
 }
 
 void SetupProgram::CheckFiles()
@@ -186,14 +198,50 @@ void SetupProgram::KeepHelpers() const
     }
 }
 
+// What is needed at the very end has to be there before the first file is written.
+void SetupProgram::CheckHelpers(const InstallPlan& plan) const
+{
+    const auto check = [&](bool isNeeded, const char* helper) {
+        const Text path = JoinPath(input_.workFolder, helper);
+        FileSystem& files = input_.host.files;
+        if (isNeeded && (!files.FileExists(path) || files.Facts(path).size == 0))
+            throw DamagedPackage(texts_, {Message::PackageFileMissing, helper});
+    };
+    check(plan.hasUninstaller, RuntimeFile::kUninstaller);
+    const bool mayRegisterLate =
+        std::any_of(plan.files.begin(), plan.files.end(), [](const PlannedFile& file) {
+            return HasOption(file.row->copyOptions, CopyOption::kRegister) &&
+                   HasOption(file.row->copyOptions, CopyOption::kActiveFile);
+        });
+    check(mayRegisterLate, RuntimeFile::kSecondRegistryHelper);
+}
+
+// An installation of the product that was ended from outside, to this folder or to another one.
+void SetupProgram::FinishEarlier(const SetupVariables& variables)
+{
+    const std::string_view mainFolder = NameOf(VariableMeaning::MainFolder);
+    const SetupVariables usual = MakeSetupVariables(
+        {package_.setup, input_.host, input_.target, input_.switches.packageFolder, {}});
+    std::set<Text> folders{variables.Value(mainFolder), usual.Value(mainFolder)};
+    const auto installed =
+        input_.target.ReadValue(UninstallEntryKey(package_.setup.project), "InstallLocation");
+    if (installed)
+        folders.insert(TextOf(*installed).value_or(""));
+    for (const Text& folder : folders)
+        if (FinishInterrupted({input_.host, input_.target, log_}, folder) == EarlierRun::Stuck)
+            throw SetupFailure(ExitCode::Failed, texts_(Message::EarlierNotUndone, folder));
+}
+
 void SetupProgram::InstallPackage()
 {
     const SetupVariables variables =
         MakeSetupVariables({package_.setup, input_.host, input_.target,
                             input_.switches.packageFolder, input_.switches.destination});
+    FinishEarlier(variables);
     const InstallPlan plan = MakeInstallPlan(
         {package_.setup, package_.rows, variables, texts_, input_.host, input_.target});
     KeepHelpers();
+    CheckHelpers(plan);
     PackageReader reader({input_.host, input_.ask, log_, texts_, package_.setup, package_.rows,
                           input_.openContainer, input_.switches.packageFolder, input_.workFolder,
                           package_.setup.project.DialogBoxData.CorrectPassword,

@@ -73,12 +73,20 @@ public:
     virtual void RemoveKey(const RegistryKey& key) = 0;
 
     virtual void MakeShortcut(const Text& path, const Shortcut& shortcut) = 0;
+    /// Nothing where the file is no shortcut to a file.
+    virtual std::optional<Shortcut> ReadShortcut(const Text& path) const = 0;
     /// Lets the file register itself (`on`) or take its registration back.
     virtual Registration RegisterServer(const Text& path, bool on) = 0;
     /// Makes a font known to running programs, or withdraws it so that its file can go.
     virtual void AnnounceFont(const Text& path, bool on) = 0;
     /// Puts `from` in the place of `to` when the machine starts next; an empty `to` removes `from`.
     virtual void MoveAtRestart(const Text& from, const Text& to) = 0;
+
+    /// Leaves a file to administrators and the system alone, where an administrator does this and
+    /// the disk knows of rights.
+    virtual void CloseToOthers(const Text& path) = 0;
+    /// False where somebody else made `path` than who makes files now, such as `own`.
+    virtual bool HaveSameOwner(const Text& path, const Text& own) const = 0;
 };
 
 } // namespace quillon

@@ -22,15 +22,20 @@ std::uint32_t InstalledKilobytes(const InstallPlan& plan)
 
 } // namespace
 
+RegistryKey UninstallEntryKey(const Project& project)
+{
+    return {RegistryRoot::LocalMachine,
+            "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" +
+                AsFileName(project.ProjectName.ProjectName)};
+}
+
 void WriteUninstallEntry(const InstallInput& input, Changes& changes)
 {
     const section::Version& version = input.setup.project.Version;
     const Text& project = input.setup.project.ProjectName.ProjectName;
     const Text uninstaller = UninstallerPath(input.plan.mainFolder);
     const Text command = "\"" + uninstaller + "\" \"" + input.plan.installLog + "\"";
-    const RegistryKey key{RegistryRoot::LocalMachine,
-                          "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" +
-                              AsFileName(project)};
+    const RegistryKey key = UninstallEntryKey(input.setup.project);
     const auto write = [&](const char* name, const Text& text) {
         if (!text.empty())
             changes.WriteValue(key, name, TextData(text));

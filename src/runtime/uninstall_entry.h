@@ -5,6 +5,9 @@
 
 namespace quillon {
 
+/// Where the entry of that project stands.
+RegistryKey UninstallEntryKey(const Project& project);
+
 void WriteUninstallEntry(const InstallInput& input, Changes& changes);
 
 } // namespace quillon

@@ -29,14 +29,14 @@ TEST(ReadInstallLog, ReadsTheFirstFormat)
                             record::IniValue{"C:\\A.INI", "S", "y", "2", std::nullopt}}));
 }
 
-TEST(InstallLog, WritesEachRecordAtOnce)
+TEST(InstallLog, IsReadAsItWasSaved)
 {
     test::MemoryHost host;
     host.files.PutFolder("C:\\App");
     InstallLog log;
     log.Add(record::Folder{"C:\\App"});
-    log.Open(host.files, "C:\\App\\QNXUNIN.LOG");
     log.Add(record::File{"C:\\App\\a.txt"});
+    log.Save(host.files, "C:\\App\\QNXUNIN.LOG");
     EXPECT_EQ(host.files.Get("C:\\App\\QNXUNIN.LOG"),
               "Quillon installationslogg 2\r\nFOLDER\tC:\\App\r\nFILE\tC:\\App\\a.txt\r\n");
     EXPECT_EQ(ReadInstallLog(host.files.Get("C:\\App\\QNXUNIN.LOG")), log.Records());
@@ -47,9 +47,12 @@ TEST(InstallLog, KnowsTheSharedFilesOfEarlierInstallations)
     InstallLog log;
     log.Add(record::Shared{"C:\\b.dll"});
     log.TakeOver({record::Shared{"C:\\A.DLL"}, record::File{"C:\\c.dll"}});
-    EXPECT_TRUE(log.HasShared("c:\\a.dll"));
-    EXPECT_TRUE(log.HasShared("C:\\B.DLL"));
-    EXPECT_FALSE(log.HasShared("C:\\c.dll"));
+    EXPECT_TRUE(log.Has<record::Shared>("c:\\a.dll"));
+    EXPECT_TRUE(log.Has<record::Shared>("C:\\B.DLL"));
+    EXPECT_FALSE(log.Has<record::Shared>("C:\\c.dll"));
+    EXPECT_FALSE(log.Has<record::Registered>("C:\\b.dll"));
+    log.Add(record::Registered{"C:\\B.dll"});
+    EXPECT_TRUE(log.Has<record::Registered>("C:\\b.dll"));
     EXPECT_EQ(log.Records().front(), JournalRecord(record::Shared{"C:\\A.DLL"}));
 }
 

@@ -51,7 +51,8 @@ INSTANTIATE_TEST_SUITE_P(OfEachKind, LineOfAJournal, testing::Values(
              "FORMERVALUE\tHKEY_CURRENT_USER\tSOFTWARE\\Firma\tv\t4\t07000000"},
     LineCase{record::RemovedKey{kFirma}, "REMOVEDKEY\tHKEY_CURRENT_USER\tSOFTWARE\\Firma"},
     LineCase{record::RegisteredBefore{"C:\\b"}, "REGISTEREDBEFORE\tC:\\b"},
-    LineCase{record::Committed{"Exempel"}, "COMMITTED\tExempel"}));
+    LineCase{record::AnnouncedBefore{"C:\\b"}, "ANNOUNCEDBEFORE\tC:\\b"},
+    LineCase{record::Committed{}, "COMMITTED"}));
 // clang-format on
 
 TEST(JournalLine, TakesAnySignInAField)
@@ -71,7 +72,7 @@ TEST_P(NoLineOfAJournal, IsRefused)
 
 INSTANTIATE_TEST_SUITE_P(
     , NoLineOfAJournal,
-    testing::Values("", "ANNAT\tx", "FILE", "FILE\ta\tb", "file\ta", "BACKUP\ta", "COMMITTED",
+    testing::Values("", "ANNAT\tx", "FILE", "FILE\ta\tb", "file\ta", "BACKUP\ta", "COMMITTED\tx",
                     // No root of the registry.
                     "UNINSTALLKEY\tHKEY_CURRENT_USE\tFirma", "KEY\t\tFirma",
                     "UNINSTALLVALUE\tX\tFirma\tv", "VALUE\tX\tFirma\tv\t1\t\t\t",

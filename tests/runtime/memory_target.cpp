@@ -119,6 +119,19 @@ void MemoryTarget::MakeShortcut(const Text& path, const Shortcut& shortcut)
                        shortcut.iconFile + "|" + shortcut.description);
 }
 
+// As MakeShortcut writes it.
+std::optional<Shortcut> MemoryTarget::ReadShortcut(const Text& path) const
+{
+    const Text bytes = ReadWholeFile(*files_, path);
+    const std::size_t program = bytes.find('|');
+    if (program == Text::npos)
+        return std::nullopt;
+    Shortcut shortcut;
+    shortcut.program = bytes.substr(0, program);
+    shortcut.arguments = bytes.substr(program + 1, bytes.find('|', program + 1) - program - 1);
+    return shortcut;
+}
+
 Registration MemoryTarget::RegisterServer(const Text& path, bool on)
 {
     beforeChange();
@@ -145,6 +158,17 @@ void MemoryTarget::MoveAtRestart(const Text& from, const Text& to)
 {
     beforeChange();
     movesAtRestart.emplace_back(from, to);
+}
+
+void MemoryTarget::CloseToOthers(const Text& path)
+{
+    beforeChange();
+    closedToOthers.insert(path);
+}
+
+bool MemoryTarget::HaveSameOwner(const Text& path, const Text&) const
+{
+    return ofOthers.count(path) == 0;
 }
 
 Text MemoryTarget::TextAt(const RegistryKey& key, const Text& name) const

@@ -34,9 +34,12 @@ public:
     void RemoveValue(const RegistryKey& key, const Text& name) override;
     void RemoveKey(const RegistryKey& key) override;
     void MakeShortcut(const Text& path, const Shortcut& shortcut) override;
+    std::optional<Shortcut> ReadShortcut(const Text& path) const override;
     Registration RegisterServer(const Text& path, bool on) override;
     void AnnounceFont(const Text& path, bool on) override;
     void MoveAtRestart(const Text& from, const Text& to) override;
+    void CloseToOthers(const Text& path) override;
+    bool HaveSameOwner(const Text& path, const Text& own) const override;
 
     /// The value's text, "<none>" where there is none.
     Text TextAt(const RegistryKey& key, const Text& name) const;
@@ -51,6 +54,8 @@ public:
     std::set<Text> fonts;
     std::vector<std::pair<Text, Text>> movesAtRestart;
     bool hasCommonFolders = true;
+    std::set<Text> closedToOthers;
+    std::set<Text> ofOthers; // files that somebody else made
 
 private:
     FileSystem* files_;

@@ -106,19 +106,60 @@ INSTANTIATE_TEST_SUITE_P(
                                 "C:\\Program\\Exempel\\en fil.exe|/a \"b c\""},
                     CommandCase{"%DESTDIR\\p.exe /a", "C:\\Program\\Exempel\\p.exe|/a"}));
 
-TEST_F(PlannedShortcutsTest, ReplaceTheOldGroupAndLeaveWhatIsNoShortcut)
+class ShortcutInTheGroup : public PlannedShortcutsTest,
+                           public testing::WithParamInterface<std::pair<const char*, bool>> {};
+
+TEST_P(ShortcutInTheGroup, GoesOnlyWhereItLeadsToTheProduct)
 {
+    const auto& [content, goes] = GetParam();
     AddIcon("prog.exe", "Ikon", "Prog");
-    memory.files.Put(kGroup + "Gammal.lnk", "x");
-    memory.files.Put(kGroup + "anteckning.txt", "x");
+    memory.files.Put(kGroup + "Gammal.lnk", content);
+    memory.files.Put(kGroup + "anteckning.txt", kMain + "\\prog.exe||||");
     ASSERT_EQ(Install(), ExitCode::Done);
-    EXPECT_FALSE(memory.files.FileExists(kGroup + "Gammal.lnk"));
+    EXPECT_EQ(memory.files.FileExists(kGroup + "Gammal.lnk"), !goes);
     EXPECT_TRUE(memory.files.FileExists(kGroup + "anteckning.txt"));
-    memory.files.Put(kGroup + "Gammal.lnk", "x");
+    memory.files.Put(kGroup + "Gammal.lnk", content);
     project.InstallOptions.DeleteProgGroup = kOff;
     ASSERT_EQ(Install(), ExitCode::Done);
     EXPECT_TRUE(memory.files.FileExists(kGroup + "Gammal.lnk"));
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    , ShortcutInTheGroup,
+    testing::Values(std::pair("c:\\PROGRAM\\exempel\\gammal.exe||||", true),
+                    std::pair("C:\\WINDOWS\\NOTEPAD.EXE|\"C:\\Program\\Exempel\\l.txt\"|||", true),
+                    std::pair("C:\\Program\\Exempel2\\annan.exe||||", false),
+                    std::pair("C:\\WINDOWS\\NOTEPAD.EXE|\"C:\\Program\\Annan\\l.txt\"|||", false),
+                    std::pair("ingen genväg", false)));
+
+// What was called otherwise in the version before goes with its old name.
+TEST_F(PlannedShortcutsTest, ReplaceThoseThatTheProductsOwnRecordNames)
+{
+    AddIcon("bild.ico", "Ikon", "Gammalt namn").iconParameters = "C:\\Annat\\start.exe";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_TRUE(memory.files.FileExists(kGroup + "Gammalt namn.lnk"));
+    package.rows[0].iconTitle = "Nytt namn";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_FALSE(memory.files.FileExists(kGroup + "Gammalt namn.lnk"));
+    EXPECT_TRUE(memory.files.FileExists(kGroup + "Nytt namn.lnk"));
+}
+
+class GroupElsewhere : public PlannedShortcutsTest,
+                       public testing::WithParamInterface<const char*> {};
+
+TEST_P(GroupElsewhere, IsRefusedBeforeAnythingIsWritten)
+{
+    AddIcon("prog.exe", "Ikon", "Prog");
+    project.ProgramGroup.ProgramGroup = GetParam();
+    const test::MachineState before = State();
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_EQ(State(), before);
+    EXPECT_THAT(Log(), testing::HasSubstr(Text("ProgramGroup saknar giltig mapp: ") + GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(, GroupElsewhere,
+                         testing::Values("..\\Startup", "Firma\\..\\..\\x", "C:\\Windows",
+                                         "d:", "Firma/../x", "NUL", "Firma\\com1.txt"));
 
 TEST_F(PlannedShortcutsTest, MakeNoGroupWithoutAnIcon)
 {

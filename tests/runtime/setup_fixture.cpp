@@ -66,8 +66,9 @@ void FailingFiles::RemoveFile(const Text& path)
 void FailingFiles::Rename(const Text& from, const Text& to)
 {
     BeforeChange(from);
+    // Windows names the new place in its refusal.
     if (inUse.count(from) > 0)
-        throw RunError(ErrorNumber::kPermissionDenied, from);
+        throw RunError(ErrorNumber::kPermissionDenied, to);
     files_.Rename(from, to);
 }
 

@@ -22,10 +22,30 @@ public:
     /// Called before each change but the text log's, which may fail by itself; may throw.
     std::function<void()> beforeChange = [] {};
 
-    bool FileExists(const Text& path) const override { return files_.FileExists(path); }
-    bool DirExists(const Text& path) const override { return files_.DirExists(path); }
-    FileFacts Facts(const Text& path) const override { return files_.Facts(path); }
-    std::vector<FolderEntry> List(const Text& folder) const override { return files_.List(folder); }
+    bool FileExists(const Text& path) const override
+    {
+        ++questions;
+        return files_.FileExists(path);
+    }
+    bool DirExists(const Text& path) const override
+    {
+        ++questions;
+        return files_.DirExists(path);
+    }
+    FileFacts Facts(const Text& path) const override
+    {
+        ++questions;
+        return files_.Facts(path);
+    }
+    std::vector<FolderEntry> List(const Text& folder) const override
+    {
+        ++questions;
+        return files_.List(folder);
+    }
+    std::unique_ptr<FileLock> Lock(const Text& path, LockWait wait) override
+    {
+        return locked.count(path) > 0 ? nullptr : files_.Lock(path, wait);
+    }
     std::unique_ptr<InputFile> OpenInput(const Text& path) const override
     {
         return files_.OpenInput(path);
@@ -65,6 +85,10 @@ public:
 
     /// Files that a program holds open: they can be neither moved nor removed.
     std::set<Text> inUse;
+    /// Locks that another program has.
+    std::set<Text> locked;
+    /// What has been asked for so far.
+    mutable int questions = 0;
 
     void BeforeChange(const Text& path);
 

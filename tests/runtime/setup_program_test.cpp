@@ -83,6 +83,48 @@ TEST_F(SetupProgramTest, PassesOverARowThatNeverHadASource)
     EXPECT_THAT(Log(), HasSubstr("paketet har ingen källfil till raden"));
 }
 
+// It is copied at the very end, when everything else is in its place.
+TEST_F(SetupProgramTest, WritesNothingWhereTheUninstallerIsMissing)
+{
+    for (const char* bytes : {"", "x"}) {
+        memory.files.Put("D:\\Paket\\QNXUNIN.BIN", bytes);
+        if (*bytes != 0)
+            memory.files.RemoveFile("D:\\Paket\\QNXUNIN.BIN");
+        memory.files.nodes.erase("w:\\arbete\\qnxunin.bin");
+        EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+        EXPECT_THAT(Log(), HasSubstr("QNXUNIN.BIN saknas eller kan inte läsas"));
+    }
+    project.InstallOptions.UninstallSupport = kOff;
+    EXPECT_EQ(Install(), ExitCode::Done) << Log();
+}
+
+TEST_F(SetupProgramTest, WritesNothingWhereTheHelperOfTheNextStartIsMissing)
+{
+    memory.files.RemoveFile("D:\\Paket\\QNXREG2.BIN");
+    package.rows[0].copyOptions = "RA";
+    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("QNXREG2.BIN saknas eller kan inte läsas"));
+    package.rows[0].copyOptions = "R";
+    EXPECT_EQ(Install(), ExitCode::Done) << Log();
+}
+
+TEST_F(SetupProgramTest, WritesNothingOfAPackageWhoseStarterIsElsewhere)
+{
+    for (const char* name : {"..\\viktig.doc", "C:\\x.exe", "NUL", "", "FILELIST.INF"}) {
+        project.InstallOptions.SetupName = name;
+        EXPECT_EQ(InstallInVain(), ExitCode::Failed) << name;
+        EXPECT_THAT(Log(), HasSubstr("QNSETUP.INF är skadad"));
+    }
+}
+
+TEST_F(SetupProgramTest, NamesAFileInUseByItsOwnName)
+{
+    memory.files.Put(kMain + "\\prog.exe", "old", {2003, 1, 1, 0, 0, 0});
+    files.inUse.insert(kMain + "\\prog.exe");
+    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("åtkomst nekas till '" + kMain + "\\prog.exe'"));
+}
+
 struct PasswordCase {
     const char* switches;
     ExitCode code;

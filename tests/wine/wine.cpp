@@ -4,10 +4,12 @@
 #include "wine/run_program.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <thread>
 
 namespace quillon::test {
 
@@ -172,6 +174,23 @@ WinePrefix::~WinePrefix()
 unsigned WinePrefix::Run(const std::string& program, const std::string& arguments) const
 {
     return RunCommandLine('"' + program + '"' + (arguments.empty() ? "" : ' ' + arguments));
+}
+
+bool WinePrefix::RunAndKill(const std::string& program, const std::string& arguments,
+                            const std::function<bool()>& isTime) const
+{
+    std::atomic<bool> hasEnded = false;
+    std::thread run([&] {
+        RunWine(folder_, {program, arguments});
+        hasEnded = true;
+    });
+    while (!hasEnded && !isTime())
+        std::this_thread::yield();
+    const bool kills = !hasEnded;
+    if (kills)
+        Stop();
+    run.join();
+    return kills;
 }
 
 unsigned WinePrefix::RunCommandLine(const std::string& command) const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,11 @@ public:
     /// The program's exit code, all 32 bits of it. `arguments` stand as they are on the command
     /// line. Fails the test where the program can't be started.
     unsigned Run(const std::string& program, const std::string& arguments = {}) const;
+
+    /// Starts the program and kills everything in the prefix as soon as `isTime` says so. False
+    /// where the program came to its end before.
+    bool RunAndKill(const std::string& program, const std::string& arguments,
+                    const std::function<bool()>& isTime) const;
 
     /// A whole command line, as the system's list of installed programs keeps one.
     unsigned RunCommandLine(const std::string& commandLine) const;

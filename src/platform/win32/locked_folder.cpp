@@ -17,6 +17,25 @@ bool IsAdministrator()
            CheckTokenMembership(nullptr, administrators, &isMember) && isMember;
 }
 
+// To be freed with LocalFree.
+PSECURITY_DESCRIPTOR Descriptor(const wchar_t* text)
+{
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    const bool made = ConvertStringSecurityDescriptorToSecurityDescriptorW(text, SDDL_REVISION_1,
+                                                                           &descriptor, nullptr);
+    return made ? descriptor : nullptr;
+}
+
+constexpr DWORD kLargestOwner = 1024; // of a descriptor with an owner alone
+
+bool ReadOwner(const wchar_t* path, BYTE* descriptor, PSID& owner)
+{
+    DWORD size = 0;
+    BOOL isDefault = FALSE;
+    return GetFileSecurityW(path, OWNER_SECURITY_INFORMATION, descriptor, kLargestOwner, &size) &&
+           GetSecurityDescriptorOwner(descriptor, &owner, &isDefault);
+}
+
 } // namespace
 
 bool MakeLockedFolder(const wchar_t* path)
@@ -25,15 +44,38 @@ bool MakeLockedFolder(const wchar_t* path)
         return CreateDirectoryW(path, nullptr) != 0;
     // Full access for administrators and the system, here and below; nothing from the folder above.
     constexpr const wchar_t* kAccess = L"D:P(A;OICI;FA;;;BA)(A;OICI;FA;;;SY)";
-    SECURITY_ATTRIBUTES security{sizeof security, nullptr, FALSE};
-    if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(
-            kAccess, SDDL_REVISION_1, &security.lpSecurityDescriptor, nullptr))
+    SECURITY_ATTRIBUTES security{sizeof security, Descriptor(kAccess), FALSE};
+    if (security.lpSecurityDescriptor == nullptr)
         return false;
     const bool made = CreateDirectoryW(path, &security) != 0;
     const DWORD errorCode = GetLastError();
     LocalFree(security.lpSecurityDescriptor);
     SetLastError(errorCode);
     return made;
+}
+
+void LockFileToOthers(const wchar_t* path)
+{
+    if (!IsAdministrator())
+        return;
+    const PSECURITY_DESCRIPTOR descriptor = Descriptor(L"D:P(A;;FA;;;BA)(A;;FA;;;SY)");
+    if (descriptor != nullptr)
+        SetFileSecurityW(path, DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
+                         descriptor);
+    LocalFree(descriptor);
+}
+
+bool HaveSameOwner(const wchar_t* path, const wchar_t* other)
+{
+    alignas(void*) BYTE first[kLargestOwner];
+    alignas(void*) BYTE second[kLargestOwner];
+    PSID firstOwner = nullptr;
+    PSID secondOwner = nullptr;
+    if (!ReadOwner(path, first, firstOwner) || !ReadOwner(other, second, secondOwner))
+        return false;
+    if (firstOwner == nullptr || secondOwner == nullptr)
+        return firstOwner == secondOwner;
+    return EqualSid(firstOwner, secondOwner) != 0;
 }
 
 } // namespace quillon

@@ -6,7 +6,8 @@
 #include "platform/win32/locked_folder.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
-#include "runtime/changes.h"
+#include "runtime/rollback.h"
+#include "runtime/work_folders.h"
 
 #include <windows.h>
 
@@ -16,10 +17,14 @@ PrivateFolder::PrivateFolder(Host& host) : host_(host)
 {
     const Text parent = RemoveLastBackslash(host.machine.GetTempDir());
     host.files.DirCreate(parent);
+    RemoveAbandonedWorkFolders(host.files, parent, [](const Text& path) {
+        return (GetFileAttributesW(WidePath(path).c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    });
     // Only a folder that did not exist before is private, so its making has to say so itself.
     do {
         path_ = JoinPath(parent, "QN" + NumberText(host.machine.Random(1000000)) + ".TMP");
-        if (MakeLockedFolder(WidePath(path_).c_str()))
+        if (MakeLockedFolder(WidePath(path_).c_str()) &&
+            (lock_ = host.files.Lock(WorkFolderLock(path_), LockWait::None)))
             return;
     } while (GetLastError() == ERROR_ALREADY_EXISTS);
     FailAsWindowsSays(path_);
@@ -27,6 +32,7 @@ PrivateFolder::PrivateFolder(Host& host) : host_(host)
 
 PrivateFolder::~PrivateFolder()
 {
+    lock_.reset();
     RunErrorNumber([&] {
         for (const FolderEntry& entry : host_.files.List(path_))
             RemoveEvenReadOnly(host_.files, JoinPath(path_, entry.name));

@@ -19,6 +19,7 @@ public:
 private:
     Host& host_;
     Text path_;
+    std::unique_ptr<FileLock> lock_; // tells a living setup's folder from one that was left behind
 };
 
 /// The folder that the running program's file lies in, and that file.

@@ -9,6 +9,8 @@ namespace quillon {
 
 namespace {
 
+constexpr int kLongestArguments = 1024; // in characters, as the shell keeps them
+
 // A pointer to a COM object, released with it.
 template <class Interface>
 class ComPointer {
@@ -49,6 +51,26 @@ void WinTarget::MakeShortcut(const Text& path, const Shortcut& shortcut)
     ComPointer<IPersistFile> file;
     check(link->QueryInterface(IID_IPersistFile, file.Out()));
     check(file->Save(Wide(path).c_str(), TRUE));
+}
+
+std::optional<Shortcut> WinTarget::ReadShortcut(const Text& path) const
+{
+    ComPointer<IShellLinkW> link;
+    ComPointer<IPersistFile> file;
+    wchar_t program[MAX_PATH] = {};
+    wchar_t arguments[kLongestArguments] = {};
+    const bool isRead = SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER,
+                                                   IID_IShellLinkW, link.Out())) &&
+                        SUCCEEDED(link->QueryInterface(IID_IPersistFile, file.Out())) &&
+                        SUCCEEDED(file->Load(Wide(path).c_str(), STGM_READ)) &&
+                        link->GetPath(program, MAX_PATH, nullptr, SLGP_RAWPATH) == S_OK &&
+                        SUCCEEDED(link->GetArguments(arguments, kLongestArguments));
+    if (!isRead)
+        return std::nullopt;
+    Shortcut shortcut;
+    shortcut.program = Narrow(program);
+    shortcut.arguments = Narrow(arguments);
+    return shortcut;
 }
 
 } // namespace quillon

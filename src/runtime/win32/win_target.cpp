@@ -1,5 +1,6 @@
 #include "runtime/win32/win_target.h"
 
+#include "platform/win32/locked_folder.h"
 #include "platform/win32/registry_key.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
@@ -201,6 +202,16 @@ void WinTarget::MoveAtRestart(const Text& from, const Text& to)
     if (!MoveFileExW(WidePath(from).c_str(), to.empty() ? nullptr : target.c_str(),
                      MOVEFILE_DELAY_UNTIL_REBOOT | MOVEFILE_REPLACE_EXISTING))
         FailAsWindowsSays(from);
+}
+
+void WinTarget::CloseToOthers(const Text& path)
+{
+    LockFileToOthers(WidePath(path).c_str());
+}
+
+bool WinTarget::HaveSameOwner(const Text& path, const Text& own) const
+{
+    return quillon::HaveSameOwner(WidePath(path).c_str(), WidePath(own).c_str());
 }
 
 } // namespace quillon

@@ -23,9 +23,12 @@ public:
     void RemoveKey(const RegistryKey& key) override;
 
     void MakeShortcut(const Text& path, const Shortcut& shortcut) override;
+    std::optional<Shortcut> ReadShortcut(const Text& path) const override;
     Registration RegisterServer(const Text& path, bool on) override;
     void AnnounceFont(const Text& path, bool on) override;
     void MoveAtRestart(const Text& from, const Text& to) override;
+    void CloseToOthers(const Text& path) override;
+    bool HaveSameOwner(const Text& path, const Text& own) const override;
 
 private:
     Text registryHelper_;

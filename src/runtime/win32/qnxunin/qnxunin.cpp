@@ -6,6 +6,7 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
+#include "runtime/rollback.h"
 #include "runtime/silent_ask.h"
 #include "runtime/switches.h"
 #include "runtime/uninstall.h"
@@ -123,6 +124,18 @@ ExitCode RunSilently(Host& host, const UninstallerCommand& line,
     return product ? RunUninstall(host, silent, line, *product) : ExitCode::Failed;
 }
 
+// A setup that was killed is brought to its end first, so that the log tells what is there.
+EarlierRun FinishEarlier(Host& host)
+{
+    WinTarget target;
+    TextLog log;
+    const Text folder = ProgramFolder();
+    const EarlierRun earlier = FinishInterrupted({host, target, log}, folder);
+    if (earlier == EarlierRun::Stuck)
+        throw RunError(ErrorNumber::kPermissionDenied, folder);
+    return earlier;
+}
+
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
@@ -140,9 +153,13 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
         WinFiles files;
         WinMachine machine;
         Host host{files, machine};
+        const EarlierRun earlier = FinishEarlier(host);
         const auto product = ReadInstalledProduct(files, line.logPath);
-        code = line.switches.silent ? RunSilently(host, line, product)
-                                    : RunWithWindow(instance, host, line, product);
+        if (!product && earlier == EarlierRun::Finished)
+            code = ExitCode::Done; // a first installation that was killed has been taken back
+        else
+            code = line.switches.silent ? RunSilently(host, line, product)
+                                        : RunWithWindow(instance, host, line, product);
     } catch (const std::exception& error) {
         if (!line.switches.silent)
             MessageBoxW(nullptr, Wide(error.what()).c_str(), L"Quillon", MB_OK | MB_ICONSTOP);

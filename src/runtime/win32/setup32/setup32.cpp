@@ -25,6 +25,7 @@ struct Paths {
     wchar_t commandLine[kLongestPath];
     wchar_t message[1024];
     const wchar_t* refused; // the file that the user is told of
+    HANDLE lock;
 };
 
 void Join(wchar_t* to, const wchar_t* folder, const wchar_t* name)
@@ -88,6 +89,19 @@ HWND ShowWaitWindow(Paths& paths)
     return window;
 }
 
+// Tells the folder from one that a killed setup has left behind, which the next setup removes. The
+// system lets go of the lock with this program, however it ends.
+bool TakeLock(Paths& paths)
+{
+    wchar_t* const path = paths.message;
+    if (wcslen(paths.work) + 6 > sizeof paths.message / sizeof paths.message[0])
+        return true;
+    Join(path, paths.work, L"LOCK");
+    paths.lock = CreateFileW(path, GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                             FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    return paths.lock != INVALID_HANDLE_VALUE;
+}
+
 // A folder that did not exist before, so that nobody has laid anything into it.
 bool MakeWorkFolder(Paths& paths)
 {
@@ -96,7 +110,7 @@ bool MakeWorkFolder(Paths& paths)
         wchar_t name[32];
         wsprintfW(name, L"QN%lu.TMP", n);
         Join(paths.work, paths.scratch, name);
-        if (quillon::MakeLockedFolder(paths.work))
+        if (quillon::MakeLockedFolder(paths.work) && TakeLock(paths))
             return true;
     }
     return false;
@@ -187,6 +201,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR switches, int)
         code = RunSetup(paths, switches, waitWindow, started);
     DeleteFileW(paths.program);
     DeleteFileW(paths.library);
+    CloseHandle(paths.lock);
     RemoveDirectoryW(paths.work);
     return started ? static_cast<int>(code) : Refuse(paths, silent);
 }

@@ -1,0 +1,260 @@
+#include "runtime/rollback.h"
+
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "platform/whole_file.h"
+#include "runtime/journal_table.h"
+#include "runtime/transaction.h"
+
+#include <algorithm>
+#include <set>
+
+namespace quillon {
+
+namespace {
+
+using Paths = std::set<Text>; // in lower case
+
+class Rollback {
+public:
+    explicit Rollback(const RollbackInput& input)
+        : log_(input.log), host_(input.host), files_(input.host.files), target_(input.target)
+    {
+    }
+
+    bool TakeBackAll(const std::vector<JournalRecord>& steps);
+    /// Removes a temporary folder with all but what has to stay.
+    void EmptyTempFolder(const Text& folder, const Paths& staying);
+
+private:
+    void TakeBack(const record::Folder& folder);
+    void TakeBack(const record::File& file) { MakeWay(file.path); }
+    void TakeBack(const record::Aside& file);
+    void TakeBack(const record::TempFolder& folder) { EmptyTempFolder(folder.path, lost_); }
+    void TakeBack(const record::Key& key);
+    void TakeBack(const record::RemovedKey& key) { target_.MakeKey(key.key); }
+    void TakeBack(const record::FormerValue& value);
+    void TakeBack(const record::Registered& file);
+    void TakeBack(const record::RegisteredBefore& file);
+    void TakeBack(const record::Font& font);
+    void TakeBack(const record::AnnouncedBefore& font);
+    // What is no step of a transaction, or nothing to take back.
+    template <class Record>
+    void TakeBack(const Record&)
+    {
+    }
+    void MakeWay(const Text& path);
+
+    TextLog& log_;
+    Host& host_;
+    FileSystem& files_;
+    Target& target_;
+    Paths lost_; // files aside that could not come back, and must not go
+    // Taken back so far.
+    Paths unregistered_;
+    Paths withdrawn_;
+};
+
+bool Rollback::TakeBackAll(const std::vector<JournalRecord>& steps)
+{
+    bool whole = true;
+    for (std::size_t left = steps.size(); left > 0; --left) {
+        try {
+            std::visit([&](const auto& step) { TakeBack(step); }, steps[left - 1]);
+        } catch (const std::exception& error) { // whatever it is, the steps before it have to go on
+            whole = false;
+            log_.CannotUndo(error);
+        }
+    }
+    return whole;
+}
+
+void Rollback::TakeBack(const record::Folder& folder)
+{
+    if (files_.DirExists(folder.path) && files_.List(folder.path).empty())
+        files_.RemoveFolder(folder.path);
+}
+
+void Rollback::TakeBack(const record::Aside& file)
+{
+    if (!files_.FileExists(file.aside))
+        return;
+    try {
+        MakeWay(file.path);
+        files_.Rename(file.aside, file.path);
+    } catch (...) {
+        lost_.insert(LowerCase(file.aside));
+        throw;
+    }
+}
+
+void Rollback::TakeBack(const record::Key& key)
+{
+    const bool isEmpty = target_.KeyExists(key.key) && target_.SubKeys(key.key).empty() &&
+                         target_.ValueNames(key.key).empty();
+    if (isEmpty)
+        target_.RemoveKey(key.key);
+}
+
+void Rollback::TakeBack(const record::FormerValue& value)
+{
+    if (value.former) {
+        target_.MakeKey(value.key);
+        target_.WriteValue(value.key, value.name, *value.former);
+    } else if (target_.ReadValue(value.key, value.name)) {
+        target_.RemoveValue(value.key, value.name);
+    }
+}
+
+void Rollback::TakeBack(const record::Registered& file)
+{
+    if (!files_.FileExists(file.path))
+        return;
+    target_.RegisterServer(file.path, false);
+    unregistered_.insert(LowerCase(file.path));
+}
+
+// The former file is in its place again, and the system has just forgotten it.
+void Rollback::TakeBack(const record::RegisteredBefore& file)
+{
+    if (unregistered_.count(LowerCase(file.path)) > 0 && files_.FileExists(file.path))
+        target_.RegisterServer(file.path, true);
+}
+
+void Rollback::TakeBack(const record::Font& font)
+{
+    target_.AnnounceFont(font.path, false);
+    withdrawn_.insert(LowerCase(font.path));
+}
+
+void Rollback::TakeBack(const record::AnnouncedBefore& font)
+{
+    if (withdrawn_.count(LowerCase(font.path)) > 0)
+        target_.AnnounceFont(font.path, true);
+}
+
+// A program that runs can't be removed, but it can be moved.
+void Rollback::MakeWay(const Text& path)
+{
+    if (!files_.FileExists(path))
+        return;
+    std::optional<RunError> failure;
+    if (RunErrorNumber([&] { RemoveEvenReadOnly(files_, path); }, failure) == ErrorNumber::kNone)
+        return;
+    const Text away = JoinPath(ExtractDirectory(path),
+                               "~qn" + NumberText(host_.machine.Random(1000000)) + "away.tmp");
+    if (RunErrorNumber([&] { files_.Rename(path, away); }) != ErrorNumber::kNone)
+        throw *failure;
+    target_.MoveAtRestart(away, "");
+}
+
+void Rollback::EmptyTempFolder(const Text& folder, const Paths& staying)
+{
+    if (!files_.DirExists(folder))
+        return;
+    bool isEmpty = true;
+    for (const FolderEntry& entry : files_.List(folder)) {
+        const Text path = JoinPath(folder, entry.name);
+        const bool stays = staying.count(LowerCase(path)) > 0;
+        const auto remove = [&] {
+            if (entry.facts.isReadOnly)
+                files_.SetReadOnly(path, false);
+            files_.RemoveFile(path);
+        };
+        if (!stays && RunErrorNumber(remove) == ErrorNumber::kNone)
+            continue;
+        isEmpty = false;
+        // A running program still holds the file that it was started from.
+        if (!stays)
+            target_.MoveAtRestart(path, "");
+    }
+    if (isEmpty)
+        files_.RemoveFolder(folder);
+    else // by then what stays has moved to its place; a folder that is not empty does not go
+        target_.MoveAtRestart(folder, "");
+}
+
+// True for the beginning of a journal in which no step stands yet.
+bool HasNoStep(const std::string& bytes)
+{
+    return (kTransactionJournal + Text(kLineBreak)).starts_with(bytes);
+}
+
+bool FinishOne(const RollbackInput& input, const Text& path)
+{
+    FileSystem& files = input.host.files;
+    const auto lock = files.Lock(LockPathOf(path), LockWait::None);
+    if (!lock)
+        throw RunError(ErrorNumber::kPermissionDenied, path);
+    const std::string bytes = ReadWholeFile(files, path);
+    const auto steps = ReadJournal(bytes, kTransactionJournal);
+    const bool isOurs = input.target.HaveSameOwner(path, LockPathOf(path));
+    if (!isOurs || (!steps && !HasNoStep(bytes)))
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+    if (steps) {
+        const bool isCommitted =
+            std::any_of(steps->begin(), steps->end(), [](const JournalRecord& step) {
+                return std::holds_alternative<record::Committed>(step);
+            });
+        if (isCommitted) {
+            input.log.Line(Message::LogClearsInterrupted, path);
+            ClearAway(input, *steps);
+        } else {
+            input.log.Line(Message::LogUndoesInterrupted, path);
+            if (!TakeBack(input, *steps))
+                return false;
+        }
+    }
+    files.RemoveFile(path);
+    return true;
+}
+
+} // namespace
+
+bool TakeBack(const RollbackInput& input, const std::vector<JournalRecord>& steps)
+{
+    return Rollback(input).TakeBackAll(steps);
+}
+
+void ClearAway(const RollbackInput& input, const std::vector<JournalRecord>& steps)
+{
+    Paths pending;
+    for (const JournalRecord& step : steps)
+        if (const auto* const move = std::get_if<record::AtRestart>(&step))
+            pending.insert(LowerCase(move->from));
+    Rollback rollback(input);
+    for (const JournalRecord& step : steps) {
+        const auto* const folder = std::get_if<record::TempFolder>(&step);
+        if (folder == nullptr)
+            continue;
+        try {
+            rollback.EmptyTempFolder(folder->path, pending);
+        } catch (const RunError& error) {
+            input.log.CannotRemove(folder->path, error);
+        }
+    }
+}
+
+EarlierRun FinishInterrupted(const RollbackInput& input, const Text& mainFolder)
+{
+    EarlierRun earlier = EarlierRun::None;
+    for (const Text& path : JournalPaths(mainFolder)) {
+        if (!input.host.files.FileExists(path))
+            continue;
+        if (!FinishOne(input, path))
+            earlier = EarlierRun::Stuck;
+        else if (earlier == EarlierRun::None)
+            earlier = EarlierRun::Finished;
+    }
+    return earlier;
+}
+
+void RemoveEvenReadOnly(FileSystem& files, const Text& path)
+{
+    if (files.Facts(path).isReadOnly)
+        files.SetReadOnly(path, false);
+    files.RemoveFile(path);
+}
+
+} // namespace quillon

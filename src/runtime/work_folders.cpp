@@ -1,0 +1,66 @@
+#include "runtime/work_folders.h"
+
+#include "formats/package_files.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "runtime/package_names.h"
+#include "runtime/rollback.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kLockName = "LOCK";
+constexpr const char* kFilesOfASetup[] = {"QNS32X.EXE",
+                                          "QNXUNIN.EXE",
+                                          RuntimeFile::kUnzipLibrary,
+                                          RuntimeFile::kRegistryHelper,
+                                          RuntimeFile::kSecondRegistryHelper,
+                                          RuntimeFile::kUninstaller,
+                                          kFileContainerName};
+
+// "QN123456.TMP"
+bool IsWorkFolderName(std::string_view name)
+{
+    constexpr std::string_view kDigits = "0123456789";
+    const Text upper = UpperCase(name);
+    const std::size_t end = upper.find_first_not_of(kDigits, 2);
+    return upper.starts_with("QN") && end > 2 && end != Text::npos && upper.substr(end) == ".TMP";
+}
+
+void RemoveWorkFolder(FileSystem& files, const Text& folder)
+{
+    auto lock = files.Lock(WorkFolderLock(folder), LockWait::None);
+    if (!lock)
+        return;
+    for (const char* name : kFilesOfASetup)
+        if (const Text path = JoinPath(folder, name); files.FileExists(path))
+            RemoveEvenReadOnly(files, path);
+    lock.reset();
+    files.RemoveFolder(folder);
+}
+
+} // namespace
+
+Text WorkFolderLock(const Text& folder)
+{
+    return JoinPath(folder, kLockName);
+}
+
+void RemoveAbandonedWorkFolders(FileSystem& files, const Text& tempFolder,
+                                const std::function<bool(const Text&)>& isLink)
+{
+    if (!files.DirExists(tempFolder))
+        return;
+    for (const FolderEntry& entry : files.List(tempFolder)) {
+        const Text folder = JoinPath(tempFolder, entry.name);
+        if (!entry.facts.isFolder || !IsWorkFolderName(entry.name) || isLink(folder))
+            continue;
+        // Another user's folder, or one with more in it, stays.
+        RunErrorNumber([&] { RemoveWorkFolder(files, folder); });
+    }
+}
+
+} // namespace quillon

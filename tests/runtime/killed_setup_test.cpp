@@ -1,0 +1,311 @@
+// A setup that is killed, at each single change that it makes: the next run of the setup or of the
+// uninstaller puts the machine right.
+#include "full_product.h"
+
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "runtime/rollback.h"
+#include "runtime/transaction.h"
+
+namespace quillon {
+
+using test::MachineState;
+using testing::HasSubstr;
+
+const Text kMain = "C:\\Program\\Exempel";
+
+namespace {
+
+// Ends everything at once: nothing that the setup itself would still do happens.
+struct Killed {};
+
+} // namespace
+
+class KilledSetup : public test::FullProduct {
+protected:
+    struct Machine {
+        std::map<Text, test::MemoryFiles::Node> files;
+        decltype(test::MemoryTarget::keys) keys;
+        std::set<Text> registered;
+        std::set<Text> fonts;
+    };
+
+    Machine Keep() const
+    {
+        return {memory.files.nodes, target.keys, target.registered, target.fonts};
+    }
+
+    void Restore(const Machine& machine)
+    {
+        memory.files.nodes = machine.files;
+        target.keys = machine.keys;
+        target.registered = machine.registered;
+        target.fonts = machine.fonts;
+    }
+
+    // Does the work up to its n-th change; false where it made fewer and came to its end.
+    template <class Work>
+    bool KillAt(int n, Work work)
+    {
+        int changes = 0;
+        files.beforeChange = target.beforeChange = [&] {
+            if (++changes >= n)
+                throw Killed{};
+        };
+        bool killed = false;
+        try {
+            work();
+        } catch (const Killed&) {
+            killed = true;
+        }
+        files.beforeChange = target.beforeChange = [] {};
+        return killed;
+    }
+
+    bool Finish()
+    {
+        TextLog log;
+        return FinishInterrupted({host, target, log}, kMain) != EarlierRun::Stuck;
+    }
+
+    Text Journal() const
+    {
+        for (const Text& path : JournalPaths(kMain))
+            if (memory.files.FileExists(path))
+                return memory.files.Get(path);
+        return {};
+    }
+
+    void ExpectState(const MachineState& right) const
+    {
+        const MachineState state = State();
+        for (const auto& [path, file] : right.files)
+            if (state.files.count(path) == 0 || state.files.at(path) != file)
+                ADD_FAILURE() << "lost or changed: " << path;
+        for (const auto& [path, file] : state.files)
+            if (right.files.count(path) == 0)
+                ADD_FAILURE() << "left over: " << path;
+        EXPECT_TRUE(state.registry == right.registry);
+        EXPECT_EQ(state.registered, right.registered);
+        EXPECT_EQ(state.fonts, right.fonts);
+    }
+
+    // Kills the installation at each of its changes. Returns how many there are. Once it is
+    // committed its state is the new one, and the next run installs over that.
+    int KillEverywhere()
+    {
+        const Machine start = Keep();
+        const MachineState before = State();
+        EXPECT_EQ(Install(), ExitCode::Done) << Log();
+        const MachineState after = State();
+        EXPECT_EQ(Install(), ExitCode::Done) << Log();
+        const MachineState afterTwo = State();
+        int n = 0;
+        for (bool killed = true; killed && !HasFailure();) {
+            Restore(start);
+            killed = KillAt(++n, [&] { Install(); });
+            SCOPED_TRACE("killed at change " + NumberText(n));
+            const Machine wreck = Keep();
+            const bool committed = Journal().find("\r\nCOMMITTED") != Text::npos || !killed;
+
+            EXPECT_TRUE(Finish());
+            ExpectState(committed ? after : before);
+
+            // The run that puts it right is killed as well, each time at another place.
+            Restore(wreck);
+            KillAt(n % 97 + 1, [&] { Finish(); });
+            KillAt(n % 61 + 1, [&] { Finish(); });
+            EXPECT_TRUE(Finish());
+            ExpectState(committed ? after : before);
+
+            Restore(wreck);
+            EXPECT_EQ(Install(), ExitCode::Done) << Log();
+            ExpectState(committed ? afterTwo : after);
+        }
+        return n;
+    }
+};
+
+TEST_F(KilledSetup, IsPutRightWhereTheProductIsNew)
+{
+    FillMachine();
+    FillPackage();
+    EXPECT_GT(KillEverywhere(), 100);
+}
+
+TEST_F(KilledSetup, IsPutRightWhereTheProductIsUpgraded)
+{
+    FillMachine();
+    FillPackage();
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    memory.files.Put("C:\\Ulla\\Start-meny\\Program\\Exempelgrupp\\Annans.lnk",
+                     "C:\\Program\\Annan\\a.exe||||");
+    ChangePackage();
+    EXPECT_GT(KillEverywhere(), 150);
+}
+
+TEST_F(KilledSetup, IsPutRightInTheRootOfADrive)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    memory.files.PutFolder("E:\\");
+    const MachineState before = State();
+    ASSERT_TRUE(KillAt(20, [&] { Install("/S /D=E:\\"); }));
+    EXPECT_TRUE(memory.files.FileExists("E:\\~qnsetup.tmp"));
+    TextLog log;
+    EXPECT_EQ(FinishInterrupted({host, target, log}, "E:\\"), EarlierRun::Finished);
+    EXPECT_EQ(FinishInterrupted({host, target, log}, "E:\\"), EarlierRun::None);
+    EXPECT_EQ(State(), before);
+}
+
+// Until the next start the old program runs on, and the file that replaces it waits.
+TEST_F(KilledSetup, LeavesWhatWaitsForTheNextStart)
+{
+    AddFile("a.dll", "%DESTDIR", "old", "D");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const Machine start = Keep();
+    package.rows[0].copyOptions = "A";
+    files.inUse.insert(kMain + "\\a.dll");
+    for (int n = 1;; ++n) {
+        Restore(start);
+        target.movesAtRestart.clear();
+        if (!KillAt(n, [&] { EXPECT_EQ(Install(), ExitCode::Done) << Log(); }))
+            break;
+        const bool committed = Journal().find("\r\nCOMMITTED") != Text::npos;
+        ASSERT_TRUE(Finish()) << n;
+        EXPECT_EQ(memory.files.Get(kMain + "\\a.dll"), "old");
+        for (const auto& [from, to] : target.movesAtRestart)
+            if (!to.empty())
+                EXPECT_EQ(memory.files.FileExists(from), committed) << n << " " << from;
+    }
+    ASSERT_FALSE(target.movesAtRestart.empty());
+    EXPECT_EQ(target.movesAtRestart[0].second, kMain + "\\a.dll");
+    EXPECT_EQ(memory.files.Get(target.movesAtRestart[0].first), "old");
+    // The folder that it waited in goes behind it.
+    EXPECT_EQ(target.movesAtRestart.back(),
+              std::pair(Text(ExtractDirectory(target.movesAtRestart[0].first)), Text()));
+}
+
+TEST_F(KilledSetup, IsFoundFromAnotherMainFolder)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    const MachineState before = State();
+    ASSERT_TRUE(KillAt(12, [&] { Install(); }));
+    ASSERT_NE(State(), before);
+    ASSERT_EQ(Install("/S /D=E:\\Annan"), ExitCode::Done) << Log();
+    EXPECT_FALSE(memory.files.DirExists(kMain));
+    EXPECT_THAT(Log(), HasSubstr("En tidigare installation avbröts. Dess ändringar ångras: "
+                                 "C:\\Program\\~qnsetup-Exempel.tmp"));
+
+    // And where the product was installed, when the setup goes to its usual folder again.
+    package.rows[0].copyOptions = "*";
+    ASSERT_TRUE(KillAt(12, [&] { Install("/S /D=E:\\Annan"); }));
+    ASSERT_TRUE(memory.files.FileExists("E:\\Annan\\~qnsetup.tmp"));
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_FALSE(memory.files.FileExists("E:\\Annan\\~qnsetup.tmp"));
+}
+
+TEST_F(KilledSetup, LeavesItsJournalToTheNextRunWhereAFileIsHeldOpen)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const MachineState before = State();
+    sources[0].bytes = "newer";
+    package.rows[0].size = 5;
+    package.rows[0].copyOptions = "";
+    int n = 1;
+    // Up to the moment where the new file is in its place, and somebody starts it.
+    const Machine start = Keep();
+    for (; n < 100; ++n) {
+        Restore(start);
+        ASSERT_TRUE(KillAt(n, [&] { Install(); }));
+        if (memory.files.FileExists(kMain + "\\prog.exe") &&
+            memory.files.Get(kMain + "\\prog.exe") == "newer")
+            break;
+    }
+    files.inUse.insert(kMain + "\\prog.exe");
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("En tidigare installation till " + kMain +
+                                 " avbröts, och alla dess ändringar kunde inte ångras. Starta om "
+                                 "datorn och försök igen."));
+    EXPECT_EQ(State().files.count("c:\\program\\exempel\\~qnsetup.tmp"), 1U);
+    files.inUse.clear();
+    EXPECT_TRUE(Finish());
+    EXPECT_EQ(State(), before);
+}
+
+TEST_F(KilledSetup, IsNotTakenForOneThatIsStillAtWork)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    ASSERT_TRUE(KillAt(12, [&] { Install(); }));
+    const MachineState wreck = State();
+    files.locked.insert("C:\\Program\\~qnsetup-Exempel.tmp.lock");
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_EQ(State(), wreck);
+    EXPECT_THAT(Log(), HasSubstr("C:\\Program\\~qnsetup-Exempel.tmp"));
+}
+
+TEST_F(KilledSetup, StopsBeforeAnythingIsWrittenWhereAnotherOneBegins)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    const MachineState before = State();
+    files.locked.insert("C:\\Program\\~qnsetup-Exempel.tmp.lock");
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_EQ(State(), before);
+}
+
+// Whoever may write beside the product could otherwise have any file moved by an administrator.
+TEST_F(KilledSetup, BelievesNoJournalOfSomebodyElse)
+{
+    const Text journal = "C:\\Program\\~qnsetup-Exempel.tmp";
+    AddFile("prog.exe", "%DESTDIR", "program");
+    memory.files.Put("C:\\victim.txt", "important");
+    memory.files.Put(journal, "Quillon installationsjournal 1\r\nFILE\tC:\\victim.txt\r\n");
+    target.ofOthers.insert(journal);
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_EQ(memory.files.Get("C:\\victim.txt"), "important");
+    EXPECT_THAT(Log(), HasSubstr(journal));
+}
+
+TEST_F(KilledSetup, ClosesItsJournalToOthers)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(target.closedToOthers.count("C:\\Program\\~qnsetup-Exempel.tmp"), 1U);
+}
+
+TEST_F(KilledSetup, TellsAJournalThatCanNotBeRead)
+{
+    const Text journal = "C:\\Program\\~qnsetup-Exempel.tmp";
+    AddFile("prog.exe", "%DESTDIR", "program");
+    memory.files.Put(journal, "Quillon installationsjournal 1\r\nskräp\r\n");
+    const MachineState before = State();
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_EQ(State(), before);
+    EXPECT_THAT(Log(), HasSubstr(journal));
+    // One that was cut before its first step says that nothing was done yet.
+    for (const char* begun : {"", "Quillon inst", "Quillon installationsjournal 1\r\n"}) {
+        memory.files.Put(journal, begun);
+        EXPECT_TRUE(Finish());
+        EXPECT_FALSE(memory.files.FileExists(journal));
+    }
+}
+
+// The old library is back, and so is what the system knew of it.
+TEST_F(KilledSetup, RegistersAFileAgainThatAnEarlierVersionHadRegistered)
+{
+    AddFile("prog.dll", "%DESTDIR", "old", "R");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const MachineState before = State();
+    ASSERT_EQ(before.registered.size(), 1U);
+    sources[0].bytes = "new";
+    AddFile("b.dll", "%DESTDIR", "b", "R");
+    files.beforeChange = [&] {
+        if (target.registered.size() == 2)
+            throw RunError(ErrorNumber::kDeviceIo, "disken");
+    };
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_EQ(State().registered, before.registered);
+    EXPECT_EQ(State(), before);
+}
+
+} // namespace quillon
