@@ -1,6 +1,7 @@
 #include "actions/language_files.h"
 
 #include "helpers/ansi_text.h"
+#include "helpers/swedish_order.h"
 #include "helpers/windows_path.h"
 #include "platform/failure_text.h"
 #include "project/install_keys.h"
@@ -71,9 +72,8 @@ std::vector<Text> LanguageFiles(const FileSystem& files, const Text& toolFolder,
     };
     if (!DidOrTold(list, folder, ask))
         names.clear();
-    std::ranges::stable_sort(names, [](const Text& left, const Text& right) {
-        return CompareIgnoreCase(left, right) < 0;
-    });
+    std::ranges::stable_sort(names, {},
+                             [](const Text& name) { return SwedishOrderKey(LowerCase(name)); });
     return names;
 }
 

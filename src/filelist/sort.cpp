@@ -1,6 +1,7 @@
 #include "filelist/sort.h"
 
 #include "filelist/columns.h"
+#include "helpers/swedish_order.h"
 
 #include <algorithm>
 #include <iterator>
@@ -52,7 +53,7 @@ NewPlaces MoveRows(FileList& list, const RowNumbers& order)
 Text SortText(const FileListRow& row, Column key)
 {
     // Names go by their capitals, so '_' stands behind the letters and not before them.
-    return key == Filename ? UpperCase(row[key]) : LowerCase(row[key]);
+    return SwedishOrderKey(key == Filename ? UpperCase(row[key]) : LowerCase(row[key]));
 }
 
 NewPlaces SortRows(FileList& list)

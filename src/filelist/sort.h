@@ -1,5 +1,5 @@
-// The order of the file list: a stable sort by the text of one column, ignoring case. Dates sort
-// rightly because they are written year first; sizes are never sorted by.
+// The order of the file list: a stable sort by the text of one column in Swedish order, ignoring
+// case. Dates sort rightly because they are written year first; sizes are never sorted by.
 #pragma once
 
 #include "project/file_list.h"

@@ -102,6 +102,20 @@ TEST(SortRows, TellsWhereEachRowWent)
     EXPECT_THAT(SortRowsBy(list, Source), ElementsAre(2, 1, 0));
 }
 
+TEST(SortRows, FollowsTheSwedishAlphabet)
+{
+    for (const Column key : {Filename, Destination, Source}) {
+        FileList list;
+        for (const char* const text : {"öga", "Ängel", "zon", "år", "Idé", "idea", "IDF"})
+            list.rows.emplace_back()[key] = text;
+        SortRowsBy(list, key);
+        std::vector<Text> texts;
+        for (const FileListRow& row : list.rows)
+            texts.push_back(row[key]);
+        EXPECT_THAT(texts, ElementsAre("Idé", "idea", "IDF", "zon", "år", "Ängel", "öga"));
+    }
+}
+
 TEST(SortRows, KeepsAFolderBesideItsSubFolders)
 {
     FileList list =
