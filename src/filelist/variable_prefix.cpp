@@ -1,5 +1,8 @@
 #include "filelist/variable_prefix.h"
 
+#include "formats/variable_names.h"
+
+#include <algorithm>
 #include <array>
 
 namespace quillon {
@@ -28,6 +31,16 @@ constexpr VariablePrefix kPrefixes[] = {
 };
 // clang-format on
 
+// A single letter may as well begin a folder behind the completed variable.
+constexpr std::size_t kMeansAnotherVariable = 2;
+
+bool BeginsVariable(std::string_view text)
+{
+    return std::ranges::any_of(kVariableNames, [text](const VariableName& variable) {
+        return variable.name.starts_with(text);
+    });
+}
+
 } // namespace
 
 std::optional<Text> CompleteVariablePrefix(std::string_view text, PrefixTable table)
@@ -37,6 +50,31 @@ std::optional<Text> CompleteVariablePrefix(std::string_view text, PrefixTable ta
         if (row.prefix == text && !completion.empty())
             return Text(completion);
     }
+    return std::nullopt;
+}
+
+TypedThrough::TypedThrough(std::string_view typed, std::string_view completion)
+    : completion_(completion), typed_(typed), rest_(completion.substr(typed.size()))
+{
+}
+
+std::optional<Text> TypedThrough::Type(std::string_view character)
+{
+    const bool isInCompletion = !character.empty() && rest_.starts_with(character);
+    typed_ += character;
+    if (isInCompletion) {
+        rest_.erase(0, character.size());
+        swallowed_ += character.size();
+        return completion_;
+    }
+    const bool typedTheWord = rest_ == "\\";
+    const bool typesAnother = swallowed_ >= kMeansAnotherVariable && BeginsVariable(typed_);
+    rest_.clear();
+    if (typedTheWord || typesAnother)
+        return typed_;
+    // The letters were no part of the variable after all.
+    if (swallowed_ > 0)
+        return completion_ + typed_.substr(typed_.size() - character.size() - swallowed_);
     return std::nullopt;
 }
 

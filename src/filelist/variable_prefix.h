@@ -22,6 +22,26 @@ enum class PrefixTable {
 /// alone count, and only a text that is the prefix and no more.
 std::optional<Text> CompleteVariablePrefix(std::string_view text, PrefixTable table);
 
+/// Follows a user who types a variable in full although it was completed at its first letters: what
+/// already stands there is not put in once more.
+class TypedThrough {
+public:
+    /// `typed` is the prefix that became `completion`.
+    TypedThrough(std::string_view typed, std::string_view completion);
+
+    /// What the field shows now that this character came behind the completion; nothing where it
+    /// shows the character as it is.
+    std::optional<Text> Type(std::string_view character);
+    /// False once the user has left the completion's own letters; later characters mean themselves.
+    bool Follows() const { return !rest_.empty(); }
+
+private:
+    Text completion_;
+    Text typed_;                // as if nothing had been completed
+    std::size_t swallowed_ = 0; // bytes at the end of `typed_` that stood in the completion
+    Text rest_;                 // what of the completion was not typed yet
+};
+
 /// Tells that the first variable of the text is written in small letters. `fieldName` is the
 /// caption of the field as the user reads it.
 void WarnIfLowerCaseVariable(std::string_view text, const Text& fieldName, Ask& ask);

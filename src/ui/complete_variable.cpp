@@ -21,19 +21,47 @@ private:
     void Complete()
     {
         const QString text = field_->text();
+        if (isPuttingIn_ || TypesOn(text))
+            return;
+        through_.reset();
         // Whoever deletes his way back over "%PROGRAMFILES\" does not want it once more at "%PR".
         const bool isDeleting = last_.size() > text.size() && last_.startsWith(text);
         const auto completed = CompleteVariablePrefix(FromQt(text), table_);
         if (isDeleting || !completed)
             return;
-        // Put in as typing is, so that it can be undone.
+        through_.emplace(FromQt(text), *completed);
+        Show(*completed);
+    }
+
+    /// True where the text is a completed variable and one character more, which counts as a part
+    /// of the variable as long as it goes on with its letters.
+    bool TypesOn(const QString& text)
+    {
+        if (!through_ || text.size() != shown_.size() + 1 || !text.startsWith(shown_))
+            return false;
+        if (const auto shown = through_->Type(FromQt(text.right(1))))
+            Show(*shown);
+        if (!through_->Follows())
+            through_.reset();
+        return true;
+    }
+
+    /// Put in as typing is, so that it can be undone.
+    void Show(const Text& text)
+    {
+        const QScopedValueRollback isPuttingIn(isPuttingIn_, true);
+        shown_ = ToQt(text);
         field_->selectAll();
-        field_->insert(ToQt(*completed));
+        field_->insert(shown_);
     }
 
     QLineEdit* field_;
     PrefixTable table_;
     QString last_;
+    // The completed variable, while its user may still be typing its letters.
+    std::optional<TypedThrough> through_;
+    QString shown_;
+    bool isPuttingIn_ = false;
 };
 
 } // namespace

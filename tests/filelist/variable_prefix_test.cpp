@@ -44,6 +44,50 @@ TEST(CompleteVariablePrefix, LeavesEveryOtherTextAlone)
             EXPECT_FALSE(CompleteVariablePrefix(text, table)) << text;
 }
 
+/// What stands in a field after these characters, typed one by one.
+Text TypedInto(PrefixTable table, const Text& characters)
+{
+    Text shown;
+    std::optional<TypedThrough> through;
+    for (const char character : characters) {
+        const Text typed(1, character);
+        shown += typed;
+        if (through && through->Follows()) {
+            if (const auto other = through->Type(typed))
+                shown = *other;
+        } else if (const auto completion = CompleteVariablePrefix(shown, table)) {
+            through.emplace(shown, *completion);
+            shown = *completion;
+        }
+    }
+    return shown;
+}
+
+TEST(TypedThrough, GivesAVariableThatIsTypedInFull)
+{
+    const Text inFull[] = {"%DESTDIR\\Bin",      "%DESTDIR",       "%PROGRAMFILES\\App",
+                           "%MYDOCUMENTS\\Text", "%COMPDIR1\\Bin", "%COMMONFILES\\App",
+                           "%DESTDRIVE\\Data",   "%PROGRAMGROUP"};
+    for (const Text& text : inFull)
+        EXPECT_EQ(TypedInto(PrefixTable::Folder, text), text);
+    for (const Text text : {"%DESTDIR\\Bin", "%COMPDIR9\\a.exe", "%SYSDIR\\a.exe",
+                            "%WINDIR\\WINHLP32.EXE", "%DESTDRIVE\\a.exe"})
+        EXPECT_EQ(TypedInto(PrefixTable::ProgramOrDocument, text), text);
+    EXPECT_EQ(TypedInto(PrefixTable::ProgramOrDocument, "%DESTDIR"), "%DESTDIR\\");
+}
+
+TEST(TypedThrough, LeavesWhatFollowsTheCompletedVariable)
+{
+    const std::pair<const char*, const char*> typed[] = {
+        {"%DEBin", "%DESTDIR\\Bin"},          {"%DESetup.exe", "%DESTDIR\\Setup.exe"},
+        {"%DESTd", "%DESTDIR\\STd"},          {"%PRODBC", "%PROGRAMFILES\\ODBC"},
+        {"%PROgram", "%PROGRAMFILES\\Ogram"}, {"%DES\\a", "%DESTDIR\\S\\a"}};
+    for (const auto& [keys, expected] : typed)
+        EXPECT_EQ(TypedInto(PrefixTable::ProgramOrDocument, keys), expected) << keys;
+    EXPECT_EQ(TypedInto(PrefixTable::Folder, "%DE\\Bin"), "%DESTDIR\\Bin");
+    EXPECT_EQ(TypedInto(PrefixTable::Folder, "%COMP2\\Bin"), "%COMPDIR2\\Bin");
+}
+
 TEST(WarnIfLowerCaseVariable, TellsTheFieldByItsCaption)
 {
     ScriptedAsk ask{
