@@ -1,6 +1,8 @@
 #include "app/FileListView.h"
 
+#include "filelist/row_copy.h"
 #include "project/components.h"
+#include "ui/character_widths.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -17,6 +19,9 @@ constexpr int kFontOfTwips = 13;
 constexpr int kComponentWidth = 320;
 constexpr int kLessForComponents = 350; // off the destination's width
 constexpr int kSourceWidth = 4200;
+
+// A name that is longer leaves the other columns their room; it is cut, and a tip shows the whole.
+constexpr int kMaxNameLetters = 45;
 
 constexpr double kUsualDpi = 96;
 
@@ -111,6 +116,10 @@ void FileListView::ShowRows(const std::vector<std::size_t>& selectedRows)
             selectionModel()->setCurrentIndex(model_.index(row, 0), QItemSelectionModel::NoUpdate);
         SelectRows(selectedRows);
     }
+    const int widestBefore = widestName_;
+    MeasureNames();
+    if (widestName_ != widestBefore)
+        ArrangeColumns();
     viewport()->update();
     setAccessibleDescription(QString::fromUtf8(model_.rowCount() == 0 ? kHintOfEmptyList : ""));
     if (!selectedRows.empty())
@@ -192,6 +201,8 @@ int FileListView::WidthOf(const ListColumn& column) const
     if (const auto set = widths.find(column.column); set != widths.end())
         return static_cast<int>(std::lround(set->second * logicalDpiX() / kUsualDpi));
     switch (column.column) {
+    case Filename:
+        return NameWidth(std::max(Pixels(column.width), LeastWidth(column)));
     case Destination:
         return DestinationWidth();
     case ComponentNumber:
@@ -209,6 +220,24 @@ int FileListView::LeastWidth(const ListColumn& column) const
                             style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this));
     return margin + std::max(header()->fontMetrics().horizontalAdvance(ToQt(column.header)),
                              fontMetrics().horizontalAdvance(WidestText(column.column)));
+}
+
+int FileListView::NameWidth(int least) const
+{
+    const int most =
+        std::min(kMaxNameLetters * fontMetrics().averageCharWidth(), viewport()->width() / 2);
+    return std::max(least, std::min(widestName_, most));
+}
+
+void FileListView::MeasureNames()
+{
+    CharacterWidths widths(font());
+    int widest = 0;
+    for (const FileListRow& row : project_.Files.rows)
+        widest = std::max(widest, widths.WidthOf(row[Filename]));
+    // What a cell keeps free beside its text.
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    widestName_ = widest + margin;
 }
 
 // A large window has room for long destinations, so the column takes what the others leave.
@@ -280,10 +309,39 @@ void FileListView::paintEvent(QPaintEvent* event)
 
 void FileListView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Delete && onDelete)
-        onDelete();
+    if (event->matches(QKeySequence::Copy))
+        CopySelectedRows();
     else
         QTreeView::keyPressEvent(event);
+}
+
+void FileListView::CopySelectedRows() const
+{
+    const std::vector<std::size_t> rows = SelectedRows();
+    std::vector<Column> columns;
+    for (const ListColumn& column : kListColumns)
+        if (IsShown(column.column))
+            columns.push_back(column.column);
+    if (!rows.empty())
+        QApplication::clipboard()->setText(ToQt(TabSeparatedRows(project_.Files, rows, columns)));
+}
+
+// Qt looks for what is typed in the column that was clicked last.
+void FileListView::keyboardSearch(const QString& typed)
+{
+    if (currentIndex().isValid() && currentIndex().column() != Filename)
+        selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(Filename),
+                                          QItemSelectionModel::NoUpdate);
+    QTreeView::keyboardSearch(typed);
+}
+
+void FileListView::changeEvent(QEvent* event)
+{
+    QTreeView::changeEvent(event);
+    if (event->type() != QEvent::FontChange)
+        return;
+    MeasureNames();
+    ArrangeColumns();
 }
 
 void FileListView::mouseReleaseEvent(QMouseEvent* event)

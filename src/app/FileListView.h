@@ -24,13 +24,15 @@ public:
 
     /// Grid lines and columns as the settings and the components want them.
     void ShowSettings();
+    /// All of the selected rows as lines with tabs, such as a spreadsheet takes in.
+    void CopySelectedRows() const;
+
     /// Component numbers are shown while the project has components.
     void ShowComponentColumns();
 
     // What the user does to the list; set by who carries it out.
     std::function<void(const Text& header)> onColumnClick;
     std::function<void()> onSelection;
-    std::function<void()> onDelete;
     std::function<void()> onDoubleClick;
     std::function<void(QPoint onScreen)> onPopup;
 
@@ -39,6 +41,8 @@ protected:
                  const QModelIndex& index) const override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyboardSearch(const QString& typed) override;
+    void changeEvent(QEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -48,7 +52,9 @@ private:
     void ArrangeColumns();
     int WidthOf(const ListColumn& column) const;
     int LeastWidth(const ListColumn& column) const;
+    int NameWidth(int least) const;
     int DestinationWidth() const;
+    void MeasureNames();
     int Pixels(int twips) const;
     bool IsShown(Column column) const;
     void NoteWidth(int section, int width);
@@ -58,6 +64,8 @@ private:
     const Project& project_;
     quillon::Settings& settings_;
     FileListModel model_;
+    // The room that the longest name asks for.
+    int widestName_ = 0;
     // Widths that change while this is set are not the user's.
     bool isArranging_ = false;
 };

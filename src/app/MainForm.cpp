@@ -20,6 +20,7 @@
 #include "shell/failure_text.h"
 #include "shell/project_commands.h"
 #include "shell/settings_file.h"
+#include "ui/fit_screen.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -32,6 +33,15 @@ constexpr std::array<const char*, kTabCount> kTabCaptions{"  Fillista  ",    "  
                                                           "  Dialogrutor  ", "  Registry  ",
                                                           "  INI-filer  ",   "  Komponenter  "};
 
+// What the status bar has to tell.
+constexpr int kMinLetters = 50;
+
+// The pages with many rows of controls; the others shrink by themselves.
+bool Scrolls(Tab tab)
+{
+    return tab == Tab::Dialogs || tab == Tab::Components;
+}
+
 } // namespace
 
 MainForm::MainForm(Session& session, HostPaths paths) : session_(session), paths_(std::move(paths))
@@ -43,6 +53,7 @@ MainForm::MainForm(Session& session, HostPaths paths) : session_(session), paths
     bars_ = std::make_unique<CommandBars>(
         *this, [this](int id) { RunCommand(id); },
         [](int id) { return FindAction(id) != nullptr; });
+    bars_->GiveListKeys(files_->List());
     bars_->ShowToolbar(SelectedTab());
     connect(MainTab_, &QTabWidget::currentChanged, this,
             [this] { bars_->ShowToolbar(SelectedTab()); });
@@ -65,7 +76,8 @@ void MainForm::MakePages()
     MainTab_ = new QTabWidget;
     MainTab_->setObjectName("MainTab");
     for (std::size_t i = 0; i < pages_.size(); ++i)
-        MainTab_->addTab(pages_[i], kTabCaptions[i]);
+        MainTab_->addTab(Scrolls(static_cast<Tab>(i)) ? Scrolled(pages_[i]) : pages_[i],
+                         kTabCaptions[i]);
     ShowTabPictures(*MainTab_, session_.host.files, session_.options.ToolFolder);
     setCentralWidget(MainTab_);
 }
@@ -73,17 +85,29 @@ void MainForm::MakePages()
 void MainForm::MakeStatusBar()
 {
     statusBar()->setObjectName("MainStatusBar");
+    statusBar()->setMinimumWidth(kMinLetters * fontMetrics().averageCharWidth());
     statusPane_ = new QLabel;
     statusPane_->setObjectName("MainStatusBarPane1");
     statusBar()->addWidget(statusPane_, 1);
+    unsavedPane_ = new QLabel;
+    unsavedPane_->setObjectName("MainStatusBarUnsaved");
+    statusBar()->addPermanentWidget(unsavedPane_);
+    // Everything may change the project, so the window looks before it waits for its user.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            [this] { ShowUnsavedChanges(); });
+}
+
+void MainForm::ShowUnsavedChanges()
+{
+    const QString text = session_.state.ProjectIsDirty != kOff ? "Osparade ändringar" : "";
+    if (unsavedPane_->text() != text)
+        unsavedPane_->setText(text);
 }
 
 void MainForm::ConnectFileList()
 {
-    constexpr int kDeleteRows = 114;
     constexpr int kFileInfo = 119;
     FileListView& list = files_->List();
-    list.onDelete = [this] { RunCommand(kDeleteRows); };
     list.onDoubleClick = [this] { RunCommand(kFileInfo); };
     list.onPopup = [this](QPoint place) { ShowPopupFileList(*this, place); };
     list.onSelection = [this] { ShowSelection(); };

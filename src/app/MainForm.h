@@ -65,12 +65,14 @@ private:
     void ShowSelection();
     void RunGuarded(const std::function<void()>& run);
     void MakeStatusBar();
+    void ShowUnsavedChanges();
     Page& PageOf(Tab tab) { return *pages_[static_cast<std::size_t>(tab)]; }
 
     Session& session_;
     HostPaths paths_;
     QTabWidget* MainTab_ = nullptr;
     QLabel* statusPane_ = nullptr;
+    QLabel* unsavedPane_ = nullptr;
     std::array<Page*, kTabCount> pages_{};
     FilesPage* files_ = nullptr;
     // The first pane tells of selected rows instead of all.

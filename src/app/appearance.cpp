@@ -1,7 +1,9 @@
 #include "app/appearance.h"
 
 #include "ui/colour_scheme.h"
+#include "ui/cut_texts.h"
 #include "ui/icons.h"
+#include "ui/menu_key.h"
 #include "ui/swedish_texts.h"
 
 #include <QtWidgets>
@@ -12,6 +14,8 @@ void PrepareAppearance(QApplication& application)
 {
     InstallSwedishTexts(application);
     ApplyColourScheme();
+    ShowCutTextsAsTips(application);
+    OpenMenusByShiftF10(application);
     QApplication::setWindowIcon(NamedIcon("quillon"));
 }
 

@@ -9,34 +9,12 @@
 
 namespace quillon {
 
-namespace {
-
-struct Shortcut {
-    int id;
-    QKeySequence keys;
-};
-
-// Keys that people know from other programs. Those of the file list are the list's own.
-const std::vector<Shortcut>& Shortcuts()
-{
-    static const std::vector<Shortcut> shortcuts = {{101, QKeySequence::New},
-                                                    {102, QKeySequence::Open},
-                                                    {103, QKeySequence::Save},
-                                                    {153, QKeySequence(Qt::Key_F1)},
-                                                    {124, QKeySequence(Qt::Key_F5)}};
-    return shortcuts;
-}
-
-} // namespace
-
 CommandBars::CommandBars(QMainWindow& window, Run run, CanRun canRun)
     : window_(window), run_(std::move(run)), canRun_(std::move(canRun))
 {
     MakeMenus();
     for (const Command& command : ToolbarOnlyCommands())
         MakeAction(command);
-    for (const auto& [id, keys] : Shortcuts())
-        ActionOf(id)->setShortcut(keys);
     toolbar_ = window_.addToolBar("Standard");
     toolbar_->setObjectName("Standard");
     toolbar_->setMovable(false);
@@ -79,6 +57,10 @@ QAction* CommandBars::MakeAction(const Command& command)
     action->setIcon(CommandIcon(id));
     action->setIconVisibleInMenu(true);
     action->setMenuRole(QAction::NoRole);
+    action->setShortcut(QKeySequence(ToQt(command.keys), QKeySequence::PortableText));
+    // Keys of one widget are those of all widgets that have the action, and of no others.
+    if (command.keysWork != KeysWork::Everywhere)
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     action->setEnabled(canRun_(id));
     QObject::connect(action, &QAction::triggered, &window_, [this, id] { run_(id); });
     actions_[id] = action;
@@ -112,6 +94,13 @@ void CommandBars::ShowTabEntry(Tab tab, bool visible)
 {
     constexpr int kFirstTabCommand = 147;
     ActionOf(kFirstTabCommand + static_cast<int>(tab))->setVisible(visible);
+}
+
+void CommandBars::GiveListKeys(QWidget& list)
+{
+    for (const MenuRow& row : MenuBarRows())
+        if (row.command.keysWork == KeysWork::InFileList)
+            list.addAction(ActionOf(row.command.id));
 }
 
 QAction* CommandBars::ActionOf(int id) const

@@ -11,6 +11,7 @@
 class QAction;
 class QMainWindow;
 class QToolBar;
+class QWidget;
 
 namespace quillon {
 
@@ -26,6 +27,9 @@ public:
     void ShowRecentFiles(const std::array<Text, kRecentFileCount>& files);
     /// Hides the entry of the tab in the window menu, or shows it.
     void ShowTabEntry(Tab tab, bool visible);
+
+    /// From now on the keys that work in the file list do so in this widget.
+    void GiveListKeys(QWidget& list);
 
     QAction* ActionOf(int id) const;
 

@@ -1,5 +1,7 @@
 #include "app/window_place.h"
 
+#include "ui/fit_screen.h"
+
 #include <QtWidgets>
 
 namespace quillon {
@@ -19,14 +21,20 @@ Integer Length(int pixels)
     return static_cast<Integer>(std::clamp<int>(pixels, 0, std::numeric_limits<Integer>::max()));
 }
 
+/// The length to come back to. A screen that has no room for the former one takes nothing of it as
+/// long as the window fills that screen.
+Integer Kept(Integer former, int pixels, int room)
+{
+    return former > room && pixels * 10 >= room * 9 ? former : Length(pixels);
+}
+
 } // namespace
 
 void RestoreWindowPlace(QMainWindow& window, const WindowPlace& place)
 {
-    const QSize screen = window.screen()->availableSize();
-    const QSize size =
-        place.Width > 0 ? QSize(place.Width, place.Height) : FirstSize(window, screen);
-    window.resize(size.boundedTo(screen));
+    const QSize room = RoomOnScreen(window);
+    const QSize size = place.Width > 0 ? QSize(place.Width, place.Height) : FirstSize(window, room);
+    window.resize(size.boundedTo(room));
     if (place.Maximized != kOff)
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
 }
@@ -38,8 +46,9 @@ void KeepWindowPlace(const QMainWindow& window, WindowPlace& place)
     const QRect normal = window.isMaximized() ? window.normalGeometry() : window.geometry();
     if (normal.isEmpty())
         return;
-    place.Width = Length(normal.width());
-    place.Height = Length(normal.height());
+    const QSize room = RoomOnScreen(window);
+    place.Width = Kept(place.Width, normal.width(), room.width());
+    place.Height = Kept(place.Height, normal.height(), room.height());
 }
 
 } // namespace quillon

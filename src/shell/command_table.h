@@ -10,10 +10,19 @@
 
 namespace quillon {
 
+// Where the keys of a command work. Its menu shows them in any case.
+enum class KeysWork {
+    Everywhere,
+    InFileList, // while the list has the keyboard
+    InEditors   // texts and fields take them by themselves
+};
+
 struct Command {
     int id;
-    std::string_view caption; // "&" stands before the access letter
-    std::string_view tooltip; // of the commands that have a button
+    std::string_view caption;      // "&" stands before the access letter
+    std::string_view tooltip = {}; // of the commands that have a button
+    std::string_view keys = {};    // "Ctrl+S"
+    KeysWork keysWork = KeysWork::Everywhere;
 };
 
 inline constexpr int kFirstCommand = 101;

@@ -1,6 +1,7 @@
 #include "ui/Form.h"
 
 #include "shell/session.h"
+#include "ui/fit_screen.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
 
@@ -116,6 +117,9 @@ void Form::Arrange(Piece pieces)
 
 bool Form::event(QEvent* event)
 {
+    // Just before the form is shown for the first time.
+    if (event->type() == QEvent::Polish)
+        FitInto(*this, RoomOnScreen(*this));
     const bool isHandled = QDialog::event(event);
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
         KeepTextWhole();

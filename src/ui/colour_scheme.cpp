@@ -1,6 +1,7 @@
 #include "ui/colour_scheme.h"
 
 #include "ui/colours.h"
+#include "ui/outline_style.h"
 
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
@@ -79,7 +80,10 @@ void ApplyColourScheme()
     // A style of the desktop's own brings its colours along.
     const bool isOurs =
         QApplication::style()->objectName().compare("fusion", Qt::CaseInsensitive) == 0;
-    if (isOurs && !IsDark(QApplication::palette()) && DesktopPrefersDark())
+    if (!isOurs)
+        return;
+    QApplication::setStyle(new OutlineStyle);
+    if (!IsDark(QApplication::palette()) && DesktopPrefersDark())
         QApplication::setPalette(DarkPalette());
 }
 

@@ -8,8 +8,8 @@ class QVariant;
 
 namespace quillon {
 
-/// Gives the program a dark palette where the desktop prefers one and Qt did not see it. To be
-/// called once, at the start.
+/// Gives the program a dark palette where the desktop prefers one and Qt did not see it, and
+/// outlines that can be seen (see `OutlineStyle`). To be called once, at the start.
 void ApplyColourScheme();
 
 QPalette DarkPalette();

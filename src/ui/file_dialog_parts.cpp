@@ -1,5 +1,6 @@
 #include "ui/file_dialog_parts.h"
 
+#include "ui/fit_screen.h"
 #include "ui/icons.h"
 #include "ui/qt_text.h"
 
@@ -96,7 +97,8 @@ void DrawButtons(QFileDialog& dialog)
 void LayOut(QFileDialog& dialog)
 {
     const QFontMetrics letters = dialog.fontMetrics();
-    dialog.resize(letters.averageCharWidth() * 110, letters.height() * 28);
+    dialog.resize(QSize(letters.averageCharWidth() * 110, letters.height() * 28)
+                      .boundedTo(RoomOnScreen(dialog)));
     if (auto* view = dialog.findChild<QTreeView*>("treeView")) {
         // The name gets the room that the others leave.
         view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);

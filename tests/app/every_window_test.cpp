@@ -31,6 +31,7 @@
 #include "actions/forms/InstDlgNameCompany.h"
 #include "actions/forms/InstDlgPassword.h"
 #include "app/MainForm.h"
+#include "app/window_place.h"
 #include "builder/forms/DlgCompressOptions.h"
 #include "builder/forms/DlgCreate.h"
 #include "builder/forms/DlgTest.h"
@@ -246,6 +247,28 @@ protected:
         WithEachTab([](MainForm& form) { EXPECT_THAT(CutCaptions(form), IsEmpty()); });
     }
 
+    /// The screen of a small laptop, whose 1280 x 800 pixels are half as many points at scale 2.
+    static QScreen* SmallScreen()
+    {
+        for (QScreen* screen : QGuiApplication::screens())
+            if (screen->size() == QSize(640, 400))
+                return screen;
+        qFatal("there is no screen of 640 x 400 points");
+    }
+
+    /// Inside the screen with the frame that a window manager puts round it.
+    static void ExpectToFit(const QWidget& window)
+    {
+        constexpr QSize kFrame(8, 44);
+        EXPECT_LE(window.width() + kFrame.width(), 640);
+        EXPECT_LE(window.height() + kFrame.height(), 400);
+    }
+
+    static bool IsInView(const QWidget& widget)
+    {
+        return widget.visibleRegion().boundingRect() == widget.rect();
+    }
+
     CreateForm create;
     InternetAdvanced advanced;
     const QFont usualFont = QApplication::font();
@@ -306,6 +329,40 @@ TEST_F(EveryWindow, NamesEachButtonOfItsToolbar)
                 << button->defaultAction()->objectName().toStdString();
         }
     });
+}
+
+TEST_F(EveryWindow, FitsASmallScreenWithItsFrameAndButtons)
+{
+    for (const WindowCase& window : kWindows) {
+        SCOPED_TRACE(window.name);
+        const auto dialog = window.make({session, create, advanced});
+        dialog->move(SmallScreen()->geometry().topLeft());
+        ShowActive(*dialog);
+        ExpectToFit(*dialog);
+        EXPECT_THAT(CutCaptions(*dialog), IsEmpty());
+        for (const QPushButton* button : dialog->findChildren<QPushButton*>())
+            if (button->isDefault() || button->objectName() == "cmdCancel")
+                EXPECT_TRUE(IsInView(*button)) << button->objectName().toStdString();
+        if (dialog->isVisible())
+            SavePicture(*dialog, std::string("small-") + window.name);
+    }
+}
+
+TEST_F(EveryWindow, ShowsTheMainWindowWholeOnASmallScreen)
+{
+    MainForm form(session);
+    form.setScreen(SmallScreen());
+    form.move(SmallScreen()->geometry().topLeft());
+    RestoreWindowPlace(form, {});
+    ShowActive(form);
+    for (int tab = 0; tab < kTabCount; ++tab) {
+        SCOPED_TRACE(tab);
+        form.SelectTab(static_cast<Tab>(tab));
+        QApplication::processEvents();
+        ExpectToFit(form);
+        EXPECT_TRUE(IsInView(*form.statusBar()));
+        SavePicture(form, "small-MainForm-" + std::to_string(tab));
+    }
 }
 
 // The checks see what they are to see.

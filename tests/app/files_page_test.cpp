@@ -300,6 +300,97 @@ TEST_F(FilesPageTest, FindsARowByTheKeysThatAreTyped)
     EXPECT_THAT(form->SelectedRows(), ElementsAre(2));
 }
 
+TEST_F(FilesPageTest, FindsARowByItsNameWhateverColumnWasClicked)
+{
+    OpenThreeRows();
+    const QRect destination = list->visualRect(list->model()->index(0, Destination));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, destination.center());
+    ASSERT_EQ(list->currentIndex().column(), Destination);
+    QTest::keyClicks(list, "c.t");
+    EXPECT_THAT(form->SelectedRows(), ElementsAre(2));
+}
+
+TEST_F(FilesPageTest, CopiesTheSelectedRowsWholeWithTabsBetweenTheColumns)
+{
+    OpenThreeRows();
+    QApplication::clipboard()->setText("before");
+    QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "before") << "nothing is selected";
+    Select({0, 2});
+    QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(FromQt(QApplication::clipboard()->text()),
+              "a.txt\t%WINDIR\t1,5\t2004-03-01\t12:30\t\tDA\n"
+              "c.txt\t%SYSDIR\t1,5\t2004-02-01\t12:30\t\tDA\n");
+    session.Settings.ListOptions.ShowAlsoSourcePathInFileList = kOn;
+    session.project.FileComponents[0].Comp = kOn;
+    form->ShowSettings();
+    Select({1});
+    QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(FromQt(QApplication::clipboard()->text()),
+              "b.txt\t%DESTDIR\t1,5\t2004-01-01\t12:30\tIkon\tDA\t2\tc:\\d\\b.txt\n")
+        << "the columns that are shown";
+}
+
+TEST_F(FilesPageTest, GivesNamesTheRoomThatTheyAskForUpToALimit)
+{
+    OpenThreeRows();
+    const int usual = list->columnWidth(Filename);
+    const auto nameFits = [&](int row) {
+        return list->sizeHintForIndex(list->model()->index(row, Filename)).width() <=
+               list->columnWidth(Filename);
+    };
+    session.project.Files.rows[1][Filename] = "Användarhandbok för nybörjare.pdf";
+    form->ShowFileList({});
+    EXPECT_GT(list->columnWidth(Filename), usual);
+    EXPECT_TRUE(nameFits(1));
+    EXPECT_EQ(list->header()->length(), list->viewport()->width())
+        << "the destination has what the others leave";
+    EXPECT_EQ(session.Settings.WindowPlace.ColumnWidths, "") << "nobody has set a width";
+    const int wide = list->columnWidth(Filename);
+    session.project.Files.rows[1][Filename] = std::string(200, 'W');
+    form->ShowFileList({});
+    EXPECT_GT(list->columnWidth(Filename), wide);
+    EXPECT_LE(list->columnWidth(Filename), 45 * list->fontMetrics().averageCharWidth());
+    EXPECT_FALSE(nameFits(1));
+    session.project.Files.rows[1][Filename] = "b.txt";
+    form->ShowFileList({});
+    EXPECT_EQ(list->columnWidth(Filename), usual);
+}
+
+TEST_F(FilesPageTest, ShowsTheFileByTheKeysForProperties)
+{
+    OpenThreeRows();
+    Select({1});
+    OnNextDialog([](QDialog& dialog) { EXPECT_EQ(dialog.objectName(), "DlgFileInfo"); });
+    QTest::keyClick(list, Qt::Key_Return, Qt::AltModifier);
+}
+
+TEST_F(FilesPageTest, LeavesTheKeysOfTheListAloneWhereTextIsTyped)
+{
+    OpenThreeRows();
+    Select({1});
+    auto& name = Find<QLineEdit>(*form, "tProjectName");
+    name.setText("abc");
+    name.setFocus();
+    name.setCursorPosition(0);
+    QTest::keyClick(&name, Qt::Key_Delete);
+    EXPECT_EQ(name.text(), "bc");
+    EXPECT_EQ(ShownNames().size(), 3U);
+}
+
+TEST_F(FilesPageTest, OpensItsMenuByShiftF10)
+{
+    OpenThreeRows();
+    Select({1});
+    QTest::keyClick(list, Qt::Key_F10, Qt::ShiftModifier);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->objectName(), "menuPopupFileList");
+    const QRect row = list->visualRect(list->model()->index(1, Filename));
+    EXPECT_NEAR(list->viewport()->mapFromGlobal(menu->pos()).y(), row.center().y(), row.height());
+    menu->close();
+}
+
 TEST_F(FilesPageTest, HintsAtWhatToDoWhileItIsEmpty)
 {
     OpenWindow({});

@@ -261,6 +261,23 @@ TEST(WindowPlaceTest, ComesBackAsItWasLeftAndFitsTheScreen)
     EXPECT_EQ(kept.Maximized, kOn);
 }
 
+TEST(WindowPlaceTest, IsKeptOverAStayOnASmallerScreen)
+{
+    const WindowPlace remembered{.Width = 16000, .Height = 500};
+    QMainWindow window;
+    RestoreWindowPlace(window, remembered);
+    window.show();
+    EXPECT_LT(window.width(), window.screen()->size().width()) << "with its frame";
+    WindowPlace kept = remembered;
+    KeepWindowPlace(window, kept);
+    EXPECT_EQ(kept.Width, 16000) << "the screen has no room for it, which is no wish";
+    EXPECT_EQ(kept.Height, 500);
+    window.resize(400, 300);
+    KeepWindowPlace(window, kept);
+    EXPECT_EQ(kept.Width, 400) << "smaller than the screen: the user wants it so";
+    EXPECT_EQ(kept.Height, 300);
+}
+
 TEST(FirstActivation, OffersFoldersOnceAndBehindTheProject)
 {
     Desk desk;

@@ -172,6 +172,9 @@ Faults SharedMenuLetters(QWidget& window)
 {
     Faults faults;
     for (const QMenu* menu : window.findChildren<QMenu*>()) {
+        // What a toolbar has no room for comes from several menus.
+        if (qobject_cast<QToolBar*>(menu->parent()))
+            continue;
         Letters letters;
         for (const QAction* entry : menu->actions())
             letters.Add(entry->text());

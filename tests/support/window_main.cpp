@@ -1,4 +1,8 @@
-// main() of the tests that drive windows: real widgets on a screen in memory.
+// main() of the tests that drive windows: real widgets on a screen in memory, with all that the
+// program sets up before its first window but the desktop's wishes.
+#include "ui/cut_texts.h"
+#include "ui/menu_key.h"
+#include "ui/outline_style.h"
 #include "ui/swedish_texts.h"
 
 #include <QApplication>
@@ -26,11 +30,14 @@ static void TellMessage(QtMsgType type, const QMessageLogContext&, const QString
 
 int main(int count, char** words)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A large screen, and two small ones: one of them has 640 x 400 points at either scale.
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" QUILLON_TEST_DATA "/support/screens.json");
     qInstallMessageHandler(TellMessage);
     testing::InitGoogleTest(&count, words);
     QApplication application(count, words);
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new quillon::OutlineStyle);
     quillon::InstallSwedishTexts(application);
+    quillon::ShowCutTextsAsTips(application);
+    quillon::OpenMenusByShiftF10(application);
     return RUN_ALL_TESTS();
 }
