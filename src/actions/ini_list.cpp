@@ -76,9 +76,14 @@ Text IniSectionToAppend(std::string_view list, std::string_view section)
     return Text(list.empty() ? "" : kLineBreak).append("[").append(section).append("]\r\n");
 }
 
-Text IniValueToAppend(std::string_view name, std::string_view value)
+Text IniValueToAppend(std::string_view list, std::string_view name, std::string_view value)
 {
-    return Text(name).append("=").append(value).append(kLineBreak);
+    const bool isLineOpen = !list.empty() && !list.ends_with(kLineBreak);
+    return Text(isLineOpen ? kLineBreak : "")
+        .append(name)
+        .append("=")
+        .append(value)
+        .append(kLineBreak);
 }
 
 Text OpenINIFileIntoList(std::string_view list, const FileSystem& files, Ask& ask)

@@ -19,9 +19,9 @@ bool HasRoomInIniList(std::string_view list, std::string_view added, Ask& ask);
 Text IniFileToAppend(std::string_view list, std::string_view fileName);
 /// The same for a section. The next line begins behind it.
 Text IniSectionToAppend(std::string_view list, std::string_view section);
-/// The same for a value. Kept: it begins right where the list ends, which is a fresh line behind
-/// sections and values and the head's own line behind the head of a file.
-Text IniValueToAppend(std::string_view name, std::string_view value);
+/// The same for a value, on a line of its own: the last line of a list has no end behind the head
+/// of a file, behind a file that was taken in, and when the project has been opened.
+Text IniValueToAppend(std::string_view list, std::string_view name, std::string_view value);
 
 /// Asks for an INI file and gives what all of it puts at the end of the list; empty where there is
 /// nothing to put. A failure is told, and the lines before it come back.

@@ -2,48 +2,133 @@
 
 #include "helpers/product.h"
 #include "project/list_sections.h"
+#include "project/profile_lines.h"
 
-#include <algorithm>
-#include <iterator>
+#include <array>
 
 namespace quillon {
 
 namespace {
 
-// Sections between and behind the lists; those in front of them are found first.
-constexpr std::string_view kLaterSections[] = {"Configuration", "RegisterFiles", "FileComponents",
-                                               "FileListInfo", "FileList"};
+struct ListName {
+    ListField list;
+    const char* caption;
+};
 
-bool IsHeaderOf(std::string_view line, std::string_view section)
+// clang-format off
+constexpr std::array<ListName, std::size(kListSections)> kNames{{
+    {&section::Lists::RunScriptBefore,  "Skript före installation"},
+    {&section::Lists::RunScriptAfter,   "Skript efter installation"},
+    {&section::Lists::Registry,         "Registry"},
+    {&section::Lists::INIFiles,         "INI-filer"},
+    {&section::Lists::AutoexecBat,      "AUTOEXEC.BAT"},
+    {&section::Lists::ConfigSys,        "CONFIG.SYS"},
+    {&section::Lists::RegisterFileList, "Registrera filer"},
+}};
+
+// A section between or behind the lists, found by its first header in any case of letters.
+struct LaterSection {
+    const char* name;
+    ListField firstListBehind; // null where none is
+    const char* hit;
+};
+
+constexpr LaterSection kLaterSections[] = {
+    // The file lacks it where there is no such program.
+    {"RunAppSelfX",    nullptr,                            "Program i den självuppackande installationen"},
+    {"Configuration",  &section::Lists::Registry,          "Registry, INI-filer, AUTOEXEC.BAT och CONFIG.SYS"},
+    {"RegisterFiles",  &section::Lists::RegisterFileList,  "Registrera filer"},
+    {"FileComponents", nullptr,                            "Komponenter"},
+    {"FileListInfo",   nullptr,                            "Fillistan"},
+};
+// clang-format on
+
+const char* CaptionOf(ListField list)
 {
-    return line.starts_with('[') && line.ends_with(']') &&
-           EqualIgnoreCase(line.substr(1, line.size() - 2), section);
+    for (const ListName& name : kNames)
+        if (name.list == list)
+            return name.caption;
+    return "";
 }
 
-bool IsMark(std::string_view line)
+std::size_t PlaceOf(ListField list)
 {
-    const auto isHeader = [&](std::string_view section) { return IsHeaderOf(line, section); };
-    return line == kEndOfList ||
-           std::any_of(std::begin(kListSections), std::end(kListSections),
-                       [&](const ListSection& list) { return isHeader(list.name); }) ||
-           std::any_of(std::begin(kLaterSections), std::end(kLaterSections), isHeader);
+    std::size_t place = 0;
+    while (place < std::size(kListSections) && kListSections[place].text != list)
+        ++place;
+    return place;
+}
+
+// A list is looked for by the first line that is exactly its header.
+const char* ListHitBy(std::string_view line, ListField list)
+{
+    for (std::size_t i = PlaceOf(list) + 1; i < std::size(kListSections); ++i)
+        if (line == Text("[") + kListSections[i].name + "]")
+            return CaptionOf(kListSections[i].text);
+    return line == "[FileList]" ? "Fillistan" : nullptr;
+}
+
+const char* SectionHitBy(std::string_view line, ListField list)
+{
+    const auto name = SectionNameOfLine(line);
+    if (!name)
+        return nullptr;
+    for (const LaterSection& section : kLaterSections) {
+        const bool isBehind =
+            !section.firstListBehind || PlaceOf(list) < PlaceOf(section.firstListBehind);
+        if (isBehind && FoldedName(*name) == FoldedName(section.name))
+            return section.hit;
+    }
+    return nullptr;
+}
+
+// Sections are found in lines that end at any LF, lists in those that end at CR LF.
+const char* AnySectionHitBy(std::string_view line, ListField list)
+{
+    for (std::size_t at = 0; at < line.size();) {
+        const ProfileLine part = ProfileLineAt(line, at);
+        if (const char* hit = SectionHitBy(part.text, list))
+            return hit;
+        at = part.next;
+    }
+    return nullptr;
 }
 
 } // namespace
 
-std::optional<Text> FindUnsavableLine(std::string_view list)
+std::optional<UnsavableLine> FindUnsavableLine(ListField list, std::string_view text)
 {
-    for (const Text& line : SplitLines(list))
-        if (IsMark(line))
-            return line;
+    const std::size_t place = PlaceOf(list);
+    if (place < std::size(kListSections) &&
+        kListSections[place].lines == ListSection::Lines::Marked)
+        return std::nullopt;
+    for (const Text& line : SplitLines(text)) {
+        if (line == kEndOfList)
+            return UnsavableLine{line, nullptr};
+        const char* const listHit = ListHitBy(line, list);
+        if (const char* const hit = listHit ? listHit : AnySectionHitBy(line, list))
+            return UnsavableLine{line, hit};
+    }
     return std::nullopt;
 }
 
-Text UnsavableLineWarning(const Text& line)
+Text UnsavableLineWarning(const UnsavableLine& line)
 {
-    return "Raden '" + line +
-           "' har en egen betydelse i projektfilen. Det som står från och med den raden kan gå "
-           "förlorat när projektet öppnas igen.";
+    const Text subject = "Raden '" + line.line + "' kan ej lagras i projektfilen. ";
+    if (!line.hit)
+        return subject + "När projektet öppnas igen slutar listan där, och det som står efter den "
+                         "raden går förlorat.";
+    return subject +
+           "När projektet öppnas igen tas den för något annat, och det som finns under '" +
+           line.hit + "' går förlorat.";
+}
+
+std::optional<Text> WhyListsCannotBeSaved(const section::Lists& lists)
+{
+    for (const ListName& name : kNames)
+        if (const auto line = FindUnsavableLine(name.list, lists.*name.list))
+            return Text("'") + name.caption + "': " + UnsavableLineWarning(*line);
+    return std::nullopt;
 }
 
 } // namespace quillon

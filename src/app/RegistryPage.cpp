@@ -57,11 +57,10 @@ void RegistryPage::AddVariable()
         AppendLines(editRegistryList, *variable);
 }
 
-// The list is free text and never refused, but what would not come back from the file is told while
-// there is time.
+// The list is free text, but what would not come back from the file is told while it is typed.
 void RegistryPage::ShowWarning()
 {
-    const auto line = FindUnsavableLine(session_.project.Lists.Registry);
+    const auto line = FindUnsavableLine(&section::Lists::Registry, session_.project.Lists.Registry);
     sRegistryWarning->setVisible(line.has_value());
     if (line)
         sRegistryWarning->setText(ToQt(UnsavableLineWarning(*line)));

@@ -1,5 +1,6 @@
 #include "cli/project_edit.h"
 
+#include "actions/unsavable_line.h"
 #include "cli/box_json.h"
 #include "cli/open_project.h"
 #include "cli/project_json.h"
@@ -19,34 +20,70 @@ namespace quillon::cli {
 namespace {
 
 constexpr const char* kNothingSaved = " Inget är sparat.";
+// Of a value that is told, in characters; a whole agreement would bury what is said about it.
+constexpr std::size_t kMostOfAValue = 60;
 
 Text ValueText(const Json& value)
 {
     return value.is_string() ? value.get<Text>() : value.dump();
 }
 
-void DemandSameValue(const Text& name, const Json& wanted, const Json& before, const Json& again)
+Text BeginningOf(const Text& value)
 {
-    if (wanted == before || wanted == again)
-        return;
-    throw CallFailure{"Värdet av " + name +
-                          " kan ej lagras i projektfilen som det är: det skulle läsas som '" +
-                          ValueText(again) + "'." + kNothingSaved,
+    const Text beginning = FirstCharacters(value, kMostOfAValue);
+    return beginning == value ? value : beginning + "...";
+}
+
+[[noreturn]] void RefuseValue(const Text& name, const Json& wanted, const Json& again)
+{
+    const Text value = ValueText(wanted);
+    const Text read = ValueText(again);
+    const Text why =
+        read == TrimBlanks(value)
+            ? Text("projektfilen ger ej tillbaka blanktecken i början eller slutet av ett värde.")
+            : "det skulle läsas som '" + BeginningOf(read) + "'.";
+    throw CallFailure{"Värdet av " + name + " kan ej lagras i projektfilen som det är: " + why +
+                          kNothingSaved,
                       Exit::Stopped};
 }
 
-// The project as it is read next time must have what the call has changed.
-void DemandSameSettings(const Json& wanted, const Json& before, const Json& again)
+/// The settings by name; a list's own name where it is one.
+template <class Visit>
+void EachSetting(const Json& settings, Visit visit)
 {
-    for (const auto& [section, keys] : wanted.items()) {
+    for (const auto& [section, keys] : settings.items()) {
         if (!keys.is_object()) {
-            DemandSameValue(section, keys, before[section], again[section]);
+            visit(Text(section), keys, Json::json_pointer("/" + section));
             continue;
         }
         for (const auto& [key, value] : keys.items())
-            DemandSameValue(Text(section).append(".").append(key), value,
-                            before[section].value(key, Json()), again[section].value(key, Json()));
+            visit(Text(section).append(".").append(key), value,
+                  Json::json_pointer("/" + section + "/" + key));
     }
+}
+
+// The project as it is read next time must have what the call has changed.
+void DemandChangesAgain(const Json& wanted, const Json& before, const Json& again)
+{
+    EachSetting(wanted, [&](const Text& name, const Json& value, const Json::json_pointer& place) {
+        if (value != before.value(place, Json()) && value != again.value(place, Json()))
+            RefuseValue(name, value, again.value(place, Json()));
+    });
+}
+
+// And all else must be what it would have been without the call. `unchanged` is what a project
+// file gives back that the project was saved to before the call.
+void DemandNothingElseChanged(const Json& wanted, const Json& before, const Json& again,
+                              const Json& unchanged)
+{
+    EachSetting(wanted, [&](const Text& name, const Json& value, const Json::json_pointer& place) {
+        const Json read = again.value(place, Json());
+        if (value == before.value(place, Json()) && read != unchanged.value(place, Json()))
+            throw CallFailure{"Värdena kan ej lagras i projektfilen: " + name +
+                                  ", som inte skulle ändras, skulle läsas som '" +
+                                  BeginningOf(ValueText(read)) + "'." + kNothingSaved,
+                              Exit::Stopped};
+    });
 }
 
 void DemandSameRows(const std::vector<FileListRow>& wanted, const std::vector<FileListRow>& again)
@@ -107,8 +144,11 @@ Exit ProjectEdit::Save(const Text& lines, Json members)
 {
     DemandNothingRefused();
     const bool changed = HasChanged();
-    if (changed)
+    if (changed) {
+        if (const auto why = WhyListsCannotBeSaved(session.project.Lists))
+            throw CallFailure{*why + kNothingSaved, Exit::Stopped};
         Write();
+    }
     if (!context_.WantsJson()) {
         context_.out << lines << (changed ? "" : "Projektet är oförändrat.\n");
         return Exit::Done;
@@ -161,12 +201,43 @@ void ProjectEdit::WriteAndLookAt()
 
 void ProjectEdit::DemandSameAgain(const Text& file)
 {
+    Project again = ReadAgain(file);
+    const Json wanted = SettingsJson(session.project);
+    const Json read = SettingsJson(again);
+    DemandChangesAgain(wanted, settingsBefore_, read);
+    // Most projects are read as they were saved, and need no second look.
+    if (wanted != read)
+        DemandNothingElseChanged(wanted, settingsBefore_, read, SettingsOfUnchangedProject(file));
+    DemandSameRows(Files().rows, again.Files.rows);
+}
+
+Project ProjectEdit::ReadAgain(const Text& file) const
+{
     std::ostream nowhere(nullptr);
     ConsoleAsk nobody(nullptr, nowhere);
     Session again = NewSession(session.host, nobody, session.options.ToolFolder);
     ReadProjectFile(again.project, file, session.host, nobody, session.options.ToolFolder);
-    DemandSameSettings(SettingsJson(session.project), settingsBefore_, SettingsJson(again.project));
-    DemandSameRows(Files().rows, again.project.Files.rows);
+    return std::move(again.project);
+}
+
+// What the file of the project would give back had it been saved without the call.
+Json ProjectEdit::SettingsOfUnchangedProject(const Text& file) const
+{
+    const Text saved = FreeNameBeside(session.host.files, file);
+    std::ostream nowhere(nullptr);
+    ConsoleAsk nobody(nullptr, nowhere);
+    Project unchanged = isNew_
+                            ? NewSession(session.host, nobody, session.options.ToolFolder).project
+                            : ReadAgain(path_);
+    try {
+        WriteProjectFile(unchanged, saved, session.host, nobody);
+        unchanged = ReadAgain(saved);
+    } catch (const RunError&) {
+        RemoveQuietly(session.host.files, saved);
+        throw;
+    }
+    RemoveQuietly(session.host.files, saved);
+    return SettingsJson(unchanged);
 }
 
 // The lock keeps out who asks for it; an editor, or a disk that knows no locks, does not.

@@ -37,6 +37,8 @@ private:
     void WriteAndLookAt();
     void Lock();
     void DemandSameAgain(const Text& file);
+    Project ReadAgain(const Text& file) const;
+    Json SettingsOfUnchangedProject(const Text& file) const;
     void DemandNobodyElseSaved() const;
 
     const CallContext& context_;

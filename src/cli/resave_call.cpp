@@ -1,4 +1,5 @@
 // quillonc resave: reads a project and saves it anew, as a user does who opens and saves it.
+#include "actions/unsavable_line.h"
 #include "cli/calls.h"
 #include "cli/console_ask.h"
 #include "cli/open_project.h"
@@ -23,6 +24,8 @@ Exit ResaveProject(const CallContext& context)
     if (opened == Opened::InPart)
         context.err << PartlyReadText(in) << "\n";
 
+    if (const auto why = WhyListsCannotBeSaved(session.project.Lists))
+        return context.Fail(*why + " Inget är sparat.", Exit::Stopped);
     session.state.ProjectFileName = out;
     // What is not read is lost from the target too, whatever stands there.
     if (opened == Opened::InPart) {

@@ -1,5 +1,6 @@
 // quillonc new and quillonc set: a project's fields.
 #include "cli/calls.h"
+#include "cli/field_rules.h"
 #include "cli/project_edit.h"
 #include "cli/project_field.h"
 #include "filelist/main_directory.h"
@@ -78,12 +79,19 @@ Exit SetFields(const CallContext& context)
     const Text groupBefore = project.ProgramGroup.ProgramGroup;
     Text lines;
     Json set = Json::object();
+    std::vector<Text> fields;
+    const auto tell = [&](const Text& field, const Text& value) {
+        set[field] = value;
+        lines += field + " = " + value + "\n";
+    };
     for (std::size_t i = 1; i < context.arguments.operands.size(); ++i) {
         const Assignment assignment = AssignmentIn(context.arguments.operands[i]);
         SetField(project, assignment.field, assignment.value);
-        set[assignment.field] = assignment.value;
-        lines += assignment.field + " = " + assignment.value + "\n";
+        fields.push_back(assignment.field);
+        tell(assignment.field, assignment.value);
     }
+    for (const auto& [field, value] : ApplyFieldRules(project, fields, edit.ask))
+        tell(field, value);
     if (project.InstallDirectories.DestinationDirectory != folderBefore)
         CheckMainFolder(edit);
     CheckSetupNames(starterBefore, groupBefore, project);

@@ -30,15 +30,6 @@ std::string_view WithoutBlanks(std::string_view bytes)
     return bytes.substr(first, bytes.find_last_not_of(kBlanks) - first + 1);
 }
 
-std::optional<std::string_view> HeaderName(std::string_view line)
-{
-    line = WithoutBlanks(line);
-    const std::size_t close = line.rfind(']');
-    if (line.empty() || line.front() != '[' || close == std::string_view::npos)
-        return std::nullopt;
-    return line.substr(1, close - 1);
-}
-
 } // namespace
 
 ProfileLine ProfileLineAt(std::string_view bytes, std::size_t begin)
@@ -49,6 +40,15 @@ ProfileLine ProfileLineAt(std::string_view bytes, std::size_t begin)
     if (!text.empty() && text.back() == '\r')
         text.remove_suffix(1);
     return {text, begin, next};
+}
+
+std::optional<std::string_view> SectionNameOfLine(std::string_view line)
+{
+    line = WithoutBlanks(line);
+    const std::size_t close = line.rfind(']');
+    if (line.empty() || line.front() != '[' || close == std::string_view::npos)
+        return std::nullopt;
+    return line.substr(1, close - 1);
 }
 
 std::optional<ProfileEntry> EntryOfLine(std::string_view line)
@@ -83,7 +83,7 @@ ProfileSections::ProfileSections(std::string_view bytes)
     for (std::size_t position = 0; position < bytes.size();) {
         const ProfileLine line = ProfileLineAt(bytes, position);
         position = line.next;
-        const auto name = HeaderName(line.text);
+        const auto name = SectionNameOfLine(line.text);
         if (!name)
             continue;
         open->end = line.begin;

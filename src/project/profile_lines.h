@@ -21,6 +21,9 @@ struct ProfileLine {
 
 ProfileLine ProfileLineAt(std::string_view bytes, std::size_t begin);
 
+/// What stands between the brackets of a section's header; nothing on any other line.
+std::optional<std::string_view> SectionNameOfLine(std::string_view line);
+
 struct ProfileEntry {
     std::string_view key;
     std::string_view value;

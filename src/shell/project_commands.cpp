@@ -1,5 +1,6 @@
 #include "shell/project_commands.h"
 
+#include "actions/unsavable_line.h"
 #include "filelist/sort.h"
 #include "helpers/product.h"
 #include "helpers/windows_path.h"
@@ -50,6 +51,10 @@ bool AgreesToWriteOver(Session& session)
 /// as changed.
 bool SaveOrTell(Session& session, MainWindow& window)
 {
+    if (const auto why = WhyListsCannotBeSaved(session.project.Lists)) {
+        session.ask.Critical("Kan ej spara", *why + " Ändra raden och spara sedan igen.");
+        return false;
+    }
     try {
         while (SaveProject(session) == SaveEnd::ChangedByOthers)
             if (!AgreesToWriteOver(session))

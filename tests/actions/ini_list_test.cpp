@@ -34,11 +34,19 @@ TEST(IniSectionToAppend, StandsOnALineOfItsOwn)
     EXPECT_EQ(IniSectionToAppend("-- WIN.INI --", "Settings"), "\r\n[Settings]\r\n");
 }
 
-TEST(IniValueToAppend, EndsItsLineAndBeginsNone)
+TEST(IniValueToAppend, EndsItsLine)
 {
-    EXPECT_EQ(IniValueToAppend("Path", "%DESTDIR"), "Path=%DESTDIR\r\n");
-    EXPECT_EQ(IniValueToAppend("Name", ""), "Name=\r\n");
-    EXPECT_EQ(IniValueToAppend("a=b", "c=d"), "a=b=c=d\r\n");
+    EXPECT_EQ(IniValueToAppend("", "Path", "%DESTDIR"), "Path=%DESTDIR\r\n");
+    EXPECT_EQ(IniValueToAppend("", "Name", ""), "Name=\r\n");
+    EXPECT_EQ(IniValueToAppend("[A]\r\n", "a=b", "c=d"), "a=b=c=d\r\n");
+}
+
+// Glued to the line before, a value would reach another file on the end user's machine.
+TEST(IniValueToAppend, BeginsALineWhereTheListsLastOneHasNoEnd)
+{
+    EXPECT_EQ(IniValueToAppend("-- WIN.INI --", "a", "1"), "\r\na=1\r\n");
+    EXPECT_EQ(IniValueToAppend("[A]\r\nPath=%DESTDIR", "Name2", "Value2"), "\r\nName2=Value2\r\n");
+    EXPECT_EQ(IniValueToAppend("[A]\n", "a", "1"), "\r\na=1\r\n");
 }
 
 class OpenINIFileIntoListTest : public testing::Test {

@@ -9,12 +9,33 @@
 namespace quillon::test {
 namespace {
 
+constexpr ListField kBefore = &section::Lists::RunScriptBefore;
+
+std::optional<Text> LineFoundIn(ListField list, std::string_view text)
+{
+    const auto found = FindUnsavableLine(list, text);
+    return found ? std::optional(found->line) : std::nullopt;
+}
+
 TEST(FindUnsavableLine, LetsEveryUsualLinePass)
 {
     for (const char* list :
          {"", "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: A=\"....\"", "...", ".....", " ....",
           "[Settings]", "DELETE=HKEY_USERS\\x", "a\r\n\r\nb", "[Registry", "a....\r\n....b"})
-        EXPECT_FALSE(FindUnsavableLine(list)) << list;
+        EXPECT_FALSE(FindUnsavableLine(kBefore, list)) << list;
+}
+
+// What stands further up in the file is found there first.
+TEST(FindUnsavableLine, LetsTheHeadersOfEarlierListsPass)
+{
+    using section::Lists;
+    EXPECT_FALSE(FindUnsavableLine(kBefore, "[RunScriptBefore]\r\n[Version]"));
+    EXPECT_FALSE(FindUnsavableLine(&Lists::Registry, "[Configuration]\r\n[RunScriptAfter]"));
+    EXPECT_FALSE(FindUnsavableLine(&Lists::RegisterFileList, "[RegisterFiles]\r\n[ConfigSys]"));
+    // A list is looked for in its own case of letters.
+    EXPECT_FALSE(FindUnsavableLine(kBefore, "[registry]\r\n [Registry]\r\n[Registry] "));
+    // These lines have a mark in front.
+    EXPECT_FALSE(FindUnsavableLine(&Lists::INIFiles, "[AutoexecBat]\r\n....\r\n[FileList]"));
 }
 
 // Each line that is told is one that really does harm, and the first of them is told.
@@ -23,9 +44,10 @@ TEST(FindUnsavableLine, TellsTheLinesThatDoNotComeBack)
     for (const Text& line : std::initializer_list<Text>{
              "....", "[INIFiles]", "[AutoexecBat]", "[ConfigSys]", "[RegisterFileList]",
              "[FileList]", "[FileListInfo]", "[FileComponents]", "[RegisterFiles]",
-             "[Configuration]", "[registry]"}) {
-        EXPECT_EQ(FindUnsavableLine("a\r\n" + line + "\r\n....x\r\n....\r\nb"), line);
-        EXPECT_EQ(FindUnsavableLine(line), line);
+             "[Configuration]", "[configuration]", "\t[Configuration] x", "[Registry]",
+             "[RunScriptAfter]", "[RunAppSelfX]", "a\n[FileListInfo]\nb"}) {
+        EXPECT_EQ(LineFoundIn(kBefore, "a\r\n" + line + "\r\n....x\r\n....\r\nb"), line);
+        EXPECT_EQ(LineFoundIn(kBefore, line), line);
     }
 }
 
@@ -61,11 +83,74 @@ TEST(FindUnsavableLine, IsRightAboutAScriptWithTheHeaderOfTheFlags)
     EXPECT_EQ(read.Lists.Registry, "");
 }
 
-TEST(UnsavableLineWarning, NamesTheLine)
+// Whatever a list may hold by this judgement comes back from the file, with all other lists.
+TEST(FindUnsavableLine, LetsNothingPassThatDoesHarm)
 {
-    EXPECT_EQ(UnsavableLineWarning("...."),
-              "Raden '....' har en egen betydelse i projektfilen. Det som står från och med den "
-              "raden kan gå förlorat när projektet öppnas igen.");
+    using section::Lists;
+    const ListField kLists[] = {&Lists::RunScriptBefore, &Lists::RunScriptAfter, &Lists::Registry,
+                                &Lists::INIFiles,        &Lists::AutoexecBat,    &Lists::ConfigSys,
+                                &Lists::RegisterFileList};
+    const char* const kLines[] = {"....",
+                                  "[RunScriptBefore]",
+                                  "[RunScriptAfter]",
+                                  "[Configuration]",
+                                  "[Registry]",
+                                  "[INIFiles]",
+                                  "[AutoexecBat]",
+                                  "[ConfigSys]",
+                                  "[RegisterFiles]",
+                                  "[RegisterFileList]",
+                                  "[FileComponents]",
+                                  "[FileListInfo]",
+                                  "[FileList]",
+                                  "[RunAppSelfX]",
+                                  "[fileLISTinfo]",
+                                  "[registry]",
+                                  "[Version]",
+                                  "[ID]"};
+    MemoryHost machine;
+    machine.files.Put("C:\\Quillon\\Res\\SetupDef.bmp", "");
+    for (const ListField list : kLists)
+        for (const Text line : kLines) {
+            ScriptedAsk ask;
+            OpenProjectState state;
+            Project project;
+            ResetToNewProject(project, state, "C:\\Quillon");
+            for (const ListField other : kLists)
+                project.Lists.*other = "text";
+            project.FileComponents[0] = {.Comp = 1, .CompName = "Ett"};
+            project.Files.rows.push_back({{"a.txt"}});
+            project.Lists.*list = "a\r\n" + line + "\r\nb";
+            WriteProjectFile(project, "C:\\p.qnp", machine.host, ask);
+            Project read;
+            ResetToNewProject(read, state, "C:\\Quillon");
+            ReadProjectFile(read, "C:\\p.qnp", machine.host, ask, "C:\\Quillon");
+            bool isWhole = read.FileComponents[0].CompName == "Ett" && read.Files.rows.size() == 1;
+            for (const ListField other : kLists)
+                isWhole = isWhole && read.Lists.*other == project.Lists.*other;
+            EXPECT_TRUE(isWhole || WhyListsCannotBeSaved(project.Lists)) << line;
+            if (line != "[RunAppSelfX]")
+                EXPECT_EQ(isWhole, !WhyListsCannotBeSaved(project.Lists)) << line;
+        }
+}
+
+TEST(UnsavableLineWarning, NamesTheLineAndWhatItHits)
+{
+    EXPECT_EQ(UnsavableLineWarning({"....", nullptr}),
+              "Raden '....' kan ej lagras i projektfilen. När projektet öppnas igen slutar listan "
+              "där, och det som står efter den raden går förlorat.");
+    EXPECT_EQ(UnsavableLineWarning({"[Registry]", "Registry"}),
+              "Raden '[Registry]' kan ej lagras i projektfilen. När projektet öppnas igen tas den "
+              "för något annat, och det som finns under 'Registry' går förlorat.");
+}
+
+TEST(WhyListsCannotBeSaved, NamesTheListToo)
+{
+    section::Lists lists;
+    EXPECT_FALSE(WhyListsCannotBeSaved(lists));
+    lists.AutoexecBat = "[ConfigSys]";
+    EXPECT_EQ(WhyListsCannotBeSaved(lists),
+              "'AUTOEXEC.BAT': " + UnsavableLineWarning({"[ConfigSys]", "CONFIG.SYS"}));
 }
 
 } // namespace

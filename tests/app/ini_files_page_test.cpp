@@ -109,8 +109,7 @@ TEST_F(IniFilesPageTest, AddsAValueAtTheEnd)
     EXPECT_EQ(list, "[A]\r\nPath=%DESTDIR\r\n");
 }
 
-// Kept: a value goes on right behind the head of a file.
-TEST_F(IniFilesPageTest, AddsAValueOnTheLineOfAFilesHead)
+TEST_F(IniFilesPageTest, AddsAValueBelowTheHeadOfAFile)
 {
     Press("cmdNewINIfile", "win");
     OnNextDialog([](QDialog& dialog) {
@@ -118,7 +117,7 @@ TEST_F(IniFilesPageTest, AddsAValueOnTheLineOfAFilesHead)
         Click(dialog, "cmdOK");
     });
     Click(page, "cmdAddINIvalue");
-    EXPECT_EQ(list, "-- WIN.INI --a=\r\n");
+    EXPECT_EQ(list, "-- WIN.INI --\r\na=\r\n");
 }
 
 TEST_F(IniFilesPageTest, AddsAVariableAtTheEnd)

@@ -63,7 +63,7 @@ TEST_F(RegistryPageTest, TellsALineThatTheProjectFileWouldNotGiveBack)
     EXPECT_FALSE(warning.isVisible());
     TypeKeys(editor, "....");
     EXPECT_TRUE(warning.isVisible());
-    EXPECT_TRUE(warning.text().startsWith("Raden '....' har en egen betydelse"));
+    EXPECT_TRUE(warning.text().startsWith("Raden '....' kan ej lagras i projektfilen."));
     QApplication::processEvents();
     SavePicture(page, "RegistryPage-varning");
     TypeKeys(editor, ".");

@@ -109,7 +109,12 @@ std::vector<FieldCase> EveryField()
 /// Fields whose value the project keeps only beside others of the same project.
 bool HasRulesOfItsOwn(const FieldCase& one)
 {
-    return one.key == "NeverRestartWindows" || one.key == "DlgBitmap";
+    for (const char* key :
+         {"NeverRestartWindows", "DlgBitmap", "LicenseInfoRtfDlg", "DestinationDlg",
+          "SelfExtractFilename", "UseInternalRTFBox", "UpdateReferenceFile", "LanguageFile"})
+        if (one.key == key)
+            return true;
+    return false;
 }
 
 class SetEveryField : public EditWorkshop {};
@@ -141,7 +146,7 @@ TEST_F(SetEveryField, AlsoThoseThatHangOnSomethingElse)
 TEST_F(SetEveryField, TakesTextsUpToTheirLimits)
 {
     for (const FieldCase& one : EveryField()) {
-        if (one.limit == 0 || one.key == "DlgBitmap")
+        if (one.limit == 0 || HasRulesOfItsOwn(one))
             continue;
         std::string text;
         text.resize(static_cast<std::size_t>(one.limit), 'x');

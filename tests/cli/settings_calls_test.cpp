@@ -191,15 +191,67 @@ TEST_F(SettingsCalls, RefusesNumbersThatMeanNothing)
 TEST_F(SettingsCalls, RefusesValuesThatWouldNotComeBackFromTheFile)
 {
     ExpectRefused({"set", "Version.ProductName= x"}, 1,
-                  "Värdet av Version.ProductName kan ej lagras i projektfilen som det är: det "
-                  "skulle läsas som 'x'.");
+                  "Värdet av Version.ProductName kan ej lagras i projektfilen som det är: "
+                  "projektfilen ger ej tillbaka blanktecken i början eller slutet av ett värde. "
+                  "Inget är sparat.\n");
     ExpectRefused({"set", "Version.ProductName=\"x\""}, 1, "skulle läsas som 'x'");
-    ExpectRefused({"set", "Registry=a\n....\nb"}, 1, "Värdet av Registry");
+    ExpectRefused({"set", "Registry=a\n....\nb"}, 1,
+                  "'Registry': Raden '....' kan ej lagras i projektfilen. När projektet öppnas "
+                  "igen slutar listan där");
     ExpectRefused({"set", "DialogBoxes.DlgBitmap=s:\\gone.bmp"}, 1, "DialogBoxes.DlgBitmap");
     ExpectRefused({"set", "FileComponent3.CompName=x"}, 1, "FileComponents.CompName3");
-    ExpectRefused(
-        {"set", "InstallOptions.RestartWindows=1", "InstallOptions.NeverRestartWindows=1"}, 1,
-        "InstallOptions.NeverRestartWindows");
+}
+
+TEST_F(SettingsCalls, TellsABlankAtTheEndOfALongTextInOneLine)
+{
+    const std::string text(12000, 'x');
+    const ProgramRun run = Edit({"set", "DialogBoxData.LicenseText=" + text + " "});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_THAT(run.err, HasSubstr("blanktecken i början eller slutet"));
+    EXPECT_LT(run.err.size(), 300U);
+}
+
+TEST_F(SettingsCalls, TellsTheBeginningOfALongValueThatWouldBeReadOtherwise)
+{
+    const std::string text(12000, 'x');
+    const ProgramRun run = Edit({"set", "DialogBoxData.LicenseText=\"" + text + "\""});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_THAT(run.err, HasSubstr("det skulle läsas som 'xxxx"));
+    EXPECT_LT(run.err.size(), 300U);
+}
+
+TEST_F(SettingsCalls, RefusesALineThatWouldReplaceAnotherList)
+{
+    Done({"set", "Registry=HKEY_USERS\\x", "AutoexecBat=SET A=1"});
+    ExpectRefused({"set", "RunScriptBefore=a\n[Registry]\nb"}, 1,
+                  "'Skript före installation': Raden '[Registry]' kan ej lagras i projektfilen. "
+                  "När projektet öppnas igen tas den för något annat, och det som finns under "
+                  "'Registry' går förlorat. Inget är sparat.\n");
+    ExpectRefused({"set", "RunScriptAfter=[configuration]"}, 1,
+                  "det som finns under 'Registry, INI-filer, AUTOEXEC.BAT och CONFIG.SYS'");
+    ExpectRefused({"set", "ConfigSys=[FileList]"}, 1, "'Fillistan'");
+    // What comes first in the file is found first, and other lines are nobody's business.
+    Done({"set", "Registry=[RunScriptBefore]", "ConfigSys=[registry]\n[AutoexecBat]"});
+    EXPECT_EQ(Show()["AutoexecBat"], "SET A=1");
+}
+
+TEST_F(SettingsCalls, RefusesAValueThatWouldTakeOthersAlong)
+{
+    Done({"set", "RunAppSelfX.ProgramFilename=a.exe", "RunAppSelfX.Param=/x"});
+    ExpectRefused({"set", "RunAppSelfX.ProgramFilename="}, 1,
+                  "RunAppSelfX.Param, som inte skulle ändras, skulle läsas som ''.");
+    Done({"set", "RunAppSelfX.ProgramFilename=", "RunAppSelfX.Param="});
+}
+
+TEST_F(SettingsCalls, LeavesAloneWhatTheFileWouldNotGiveBackAnyway)
+{
+    // A picture that is gone is read as the one before it, with or without the call.
+    disk.Put("src/side.bmp", "BM");
+    Done({"set", "DialogBoxes.DlgBitmap=s:\\side.bmp"});
+    std::filesystem::remove(disk.Path("src/side.bmp"));
+    const ProgramRun run = Edit({"set", "Version.Comments=x"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(Show()["Version"]["Comments"], "x");
 }
 
 } // namespace

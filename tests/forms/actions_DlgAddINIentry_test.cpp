@@ -25,6 +25,14 @@ TEST_F(DlgAddINIentryTest, MakesTheLineOfAValue)
     EXPECT_EQ(form.Lines, "Path=%DESTDIR\r\n");
 }
 
+TEST_F(DlgAddINIentryTest, BeginsALineBehindOneThatHasNoEnd)
+{
+    list = "-- WIN.INI --\r\n[A]\r\nb=1";
+    Type(form, "tName", "a");
+    Click(form, "cmdOK");
+    EXPECT_EQ(form.Lines, "\r\na=\r\n");
+}
+
 TEST_F(DlgAddINIentryTest, AllowsAnEmptyValue)
 {
     Type(form, "tName", "Name");

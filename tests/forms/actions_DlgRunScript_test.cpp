@@ -66,7 +66,7 @@ TEST_F(DlgRunScriptTest, TellsALineThatTheProjectFileWouldNotGiveBack)
     EXPECT_FALSE(form.sRunScriptBeforeWarning->isVisible());
     TypeKeys(*form.tRunScriptBefore, "[Configuration]");
     EXPECT_TRUE(form.sRunScriptBeforeWarning->isVisible());
-    EXPECT_TRUE(form.sRunScriptBeforeWarning->text().startsWith("Raden '[Configuration]' har en"));
+    EXPECT_TRUE(form.sRunScriptBeforeWarning->text().startsWith("Raden '[Configuration]' kan ej"));
     QApplication::processEvents();
     SavePicture(form, "DlgRunScript-varning");
     TypeKeys(*form.tRunScriptBefore, "x");

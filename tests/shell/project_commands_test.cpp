@@ -377,6 +377,21 @@ TEST(SaveProjectCommandTest, TellsThatAnotherProgramIsChangingTheFile)
     EXPECT_EQ(desk.NameOnFile("C:\\P\\a.qnp"), "a");
 }
 
+TEST(SaveProjectCommandTest, WritesNoListThatWouldReplaceAnotherOne)
+{
+    Desk desk({{BoxKind::Critical, "Kan ej spara",
+                "'Skript före installation': Raden '[Registry]' kan ej lagras i projektfilen. När "
+                "projektet öppnas igen tas den för något annat, och det som finns under 'Registry' "
+                "går förlorat. Ändra raden och spara sedan igen."}});
+    const std::string before = desk.memory.files.Get("C:\\P\\a.qnp");
+    desk.Change("C:\\P\\a.qnp");
+    desk.session.project.Lists.RunScriptBefore = "a\r\n[Registry]\r\nb";
+    EXPECT_FALSE(SaveProjectCommand(desk.session, desk.window));
+    EXPECT_EQ(desk.memory.files.Get("C:\\P\\a.qnp"), before);
+    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOn);
+    EXPECT_EQ(desk.session.project.Lists.RunScriptBefore, "a\r\n[Registry]\r\nb");
+}
+
 TEST(SaveProjectAsTest, MovesANameThatIsInTheListToTheFront)
 {
     Desk desk({}, {{{"C:\\P\\b.qnp"}}});

@@ -34,7 +34,7 @@ DlgAddINIentry::DlgAddINIentry(const Text& list, Ask& ask, QWidget* parent)
 
 Text DlgAddINIentry::TypedLines() const
 {
-    return IniValueToAppend(FromQt(tName->text()), FromQt(tValue->text()));
+    return IniValueToAppend(list_, FromQt(tName->text()), FromQt(tValue->text()));
 }
 
 bool DlgAddINIentry::MayClose()

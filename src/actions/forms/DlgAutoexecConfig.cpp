@@ -21,8 +21,8 @@ DlgAutoexecConfig::DlgAutoexecConfig(Session& session, QWidget* parent)
     Area(NAMED(tAUTOEXEC), lists.AutoexecBat)
         ->setAccessibleName("Rader att lägga till i AUTOEXEC.BAT");
     Area(NAMED(tCONFIG), lists.ConfigSys)->setAccessibleName("Rader att lägga till i CONFIG.SYS");
-    UnsavableLineNote(NAMED(sAUTOEXECWarning), tAUTOEXEC);
-    UnsavableLineNote(NAMED(sCONFIGWarning), tCONFIG);
+    UnsavableLineNote(NAMED(sAUTOEXECWarning), tAUTOEXEC, &section::Lists::AutoexecBat);
+    UnsavableLineNote(NAMED(sCONFIGWarning), tCONFIG, &section::Lists::ConfigSys);
     Arrange(Down({
         Growing(Frame("&AUTOEXEC.BAT",
                       {Above(kAddTheseLines, ListEditor(tAUTOEXEC, sAUTOEXECWarning))})),

@@ -15,7 +15,7 @@ DlgRegisterFiles::DlgRegisterFiles(Session& session, QWidget* parent)
     : EditorForm("DlgRegisterFiles", "Registrera filer", session, parent)
 {
     Area(NAMED(tRegFileList), session.project.Lists.RegisterFileList);
-    UnsavableLineNote(NAMED(sRegFileListWarning), tRegFileList);
+    UnsavableLineNote(NAMED(sRegFileListWarning), tRegFileList, &section::Lists::RegisterFileList);
     Button(NAMED(cmdGetRFiles), "Hämta alla &registreringsmärkta filer från fillistan",
            [this] { Gather(RowsToRegister::Marked); });
     Button(NAMED(cmdGetDllFiles), "Hämta alla &DLL-filer från fillistan",

@@ -25,10 +25,12 @@ DlgRunScript::DlgRunScript(Session& session, QWidget* parent)
     section::Lists& lists = session.project.Lists;
     Area(NAMED(tRunScriptBefore), lists.RunScriptBefore)
         ->setAccessibleName("Skript före installationen");
-    UnsavableLineNote(NAMED(sRunScriptBeforeWarning), tRunScriptBefore);
+    UnsavableLineNote(NAMED(sRunScriptBeforeWarning), tRunScriptBefore,
+                      &section::Lists::RunScriptBefore);
     Area(NAMED(tRunScriptAfter), lists.RunScriptAfter)
         ->setAccessibleName("Skript efter installationen");
-    UnsavableLineNote(NAMED(sRunScriptAfterWarning), tRunScriptAfter);
+    UnsavableLineNote(NAMED(sRunScriptAfterWarning), tRunScriptAfter,
+                      &section::Lists::RunScriptAfter);
     Named(NAMED(ScriptTab), new QTabWidget, "Skript");
     ScriptTab->addTab(TabOf(ListEditor(tRunScriptBefore, sRunScriptBeforeWarning)),
                       "&Före installationen");

@@ -1,6 +1,5 @@
 #include "actions/forms/list_editor.h"
 
-#include "actions/unsavable_line.h"
 #include "ui/list_area.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
@@ -13,28 +12,28 @@ namespace {
 
 constexpr int kUsualLineLength = 60;
 
-std::optional<Text> UnsavableLineIn(const QPlainTextEdit* area)
+std::optional<UnsavableLine> UnsavableLineIn(const QPlainTextEdit* area, ListField list)
 {
-    return FindUnsavableLine(LinesFromQt(TypedText(area)));
+    return FindUnsavableLine(list, LinesFromQt(TypedText(area)));
 }
 
-QString WarningOf(const std::optional<Text>& line)
+QString WarningOf(const std::optional<UnsavableLine>& line)
 {
     return line ? ToQt(UnsavableLineWarning(*line)) : QString();
 }
 
 } // namespace
 
-QLabel* UnsavableLineNote(QLabel*& member, const char* name, QPlainTextEdit* area)
+QLabel* UnsavableLineNote(QLabel*& member, const char* name, QPlainTextEdit* area, ListField list)
 {
-    const auto line = UnsavableLineIn(area);
+    const auto line = UnsavableLineIn(area, list);
     QLabel* note = Named(member, name, Note({}));
     note->setText(WarningOf(line));
     // One that is to be seen comes up with its form; shown now, it would be a window of its own.
     if (!line)
         note->hide();
-    QObject::connect(area, &QPlainTextEdit::textChanged, note, [note, area] {
-        const auto present = UnsavableLineIn(area);
+    QObject::connect(area, &QPlainTextEdit::textChanged, note, [note, area, list] {
+        const auto present = UnsavableLineIn(area, list);
         note->setText(WarningOf(present));
         note->setVisible(present.has_value());
     });

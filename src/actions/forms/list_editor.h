@@ -1,6 +1,7 @@
 // What the editors of free lists share.
 #pragma once
 
+#include "actions/unsavable_line.h"
 #include "ui/form_kit.h"
 
 class QLabel;
@@ -8,9 +9,9 @@ class QPlainTextEdit;
 
 namespace quillon {
 
-/// A note that tells of a line in the area which the project file would not give back, as long as
-/// there is one. The list is never refused for it.
-QLabel* UnsavableLineNote(QLabel*& member, const char* name, QPlainTextEdit* area);
+/// A note that tells of a line in the area which the project file would not give back from this
+/// list, as long as there is one. The list can be kept with it, the project not be saved.
+QLabel* UnsavableLineNote(QLabel*& member, const char* name, QPlainTextEdit* area, ListField list);
 
 /// An area for a list with its note below.
 Piece ListEditor(QPlainTextEdit* area, QLabel* note);
