@@ -50,34 +50,12 @@ char32_t NextCodePoint(std::string_view text, std::size_t& position)
     return value;
 }
 
-void AppendCodePoint(std::string& text, char32_t codePoint)
-{
-    const auto append = [&text](char32_t byte) { text += static_cast<char>(byte); };
-    if (codePoint < 0x80) {
-        append(codePoint);
-    } else if (codePoint < 0x800) {
-        append(0xC0U | (codePoint >> 6U));
-        append(0x80U | (codePoint & 0x3FU));
-    } else if (codePoint < 0x10000) {
-        append(0xE0U | (codePoint >> 12U));
-        append(0x80U | ((codePoint >> 6U) & 0x3FU));
-        append(0x80U | (codePoint & 0x3FU));
-    } else {
-        append(0xF0U | (codePoint >> 18U));
-        append(0x80U | ((codePoint >> 12U) & 0x3FU));
-        append(0x80U | ((codePoint >> 6U) & 0x3FU));
-        append(0x80U | (codePoint & 0x3FU));
-    }
-}
-
 bool IsUtf8(std::string_view text)
 {
-    std::string again;
     for (std::size_t position = 0; position < text.size();) {
         const std::size_t start = position;
-        again.clear();
-        AppendCodePoint(again, NextCodePoint(text, position));
-        if (again != text.substr(start, position - start))
+        // A replacement character that stands in the text has three bytes.
+        if (NextCodePoint(text, position) == kReplacementCharacter && position == start + 1)
             return false;
     }
     return true;

@@ -116,6 +116,7 @@ constexpr MessageKey kMessages[] = {
     {Message::UninstallDone,          "Uninstall", "Msg_Done",                "%1 har tagits bort från datorn."},
     {Message::UninstallPartly,        "Uninstall", "Msg_Partly",              "%1 har tagits bort, men några filer eller inställningar kunde inte tas bort."},
     {Message::UninstallNoLog,         "Uninstall", "Err_NoLog",               "Avinstallationen kan inte startas. Filen '%1' saknas eller är skadad."},
+    {Message::UninstallFailed,        "Uninstall", "Err_Failed",              "Avinstallationen misslyckades (%1)."},
     {Message::LogBegins,              "Log",       "Log_Begins",              "Installation av %1 från %2"},
     {Message::LogDone,                "Log",       "Log_Done",                "Klart."},
     {Message::LogEnds,                "Log",       "Log_Ends",                "Avslutar med kod %1"},

@@ -116,6 +116,7 @@ enum class Message {
     UninstallDone,
     UninstallPartly,
     UninstallNoLog,
+    UninstallFailed,
     LogBegins,
     LogDone,
     LogEnds,

@@ -31,7 +31,7 @@ bool IsEmptyFolderRow(const InstallRow& row)
 PackageReader::PackageReader(const PackageInput& input) : input_(input)
 {
     if (UsesContainer(input_.setup))
-        FindInContainer();
+        FindInContainerOrRefuse();
     else
         FindByThemselves();
     for (const InstallRow& row : input_.rows)
@@ -44,6 +44,20 @@ PackageReader::~PackageReader()
     container_.reset();
     if (!joinedFile_.empty())
         RunErrorNumber([&] { input_.host.files.RemoveFile(joinedFile_); });
+}
+
+// Nothing has been changed yet, so a file that is not there is the package's fault alone.
+void PackageReader::FindInContainerOrRefuse()
+{
+    try {
+        FindInContainer();
+    } catch (const RunError& error) {
+        if (error.Number() != ErrorNumber::kFileNotFound &&
+            error.Number() != ErrorNumber::kPathNotFound)
+            throw;
+        throw DamagedPackage(input_.texts,
+                             {Message::PackageFileMissing, ExtractFilename(error.Path())});
+    }
 }
 
 void PackageReader::FindInContainer()

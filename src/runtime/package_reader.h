@@ -53,6 +53,7 @@ private:
         Text path;
     };
 
+    void FindInContainerOrRefuse();
     void FindInContainer();
     void FindByThemselves();
     Text ContainerPath();

@@ -146,6 +146,8 @@ ExitCode SetupFixture::Install(const Text& switches)
     return RunSetup({host, target, ask ? *ask : silent,
                      [this](const Text& path) {
                          openedContainer = path;
+                         if (isContainerMissing)
+                             throw RunError(ErrorNumber::kFileNotFound, path);
                          return std::make_unique<MemoryContainer>(sources, damagedEntry);
                      },
                      read, kWorkFolder},

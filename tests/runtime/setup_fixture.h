@@ -148,6 +148,7 @@ protected:
     Project& project = package.setup.project;
     std::vector<MemoryContainer::Source> sources;
     int damagedEntry = -1;
+    bool isContainerMissing = false;
     Text openedContainer;
     Ask* ask = nullptr; // null: silent
 };

@@ -52,6 +52,17 @@ TEST_F(SetupProgramTest, WritesNothingOutOfADamagedArchive)
         HasSubstr("Installationsfilerna är skadade eller ofullständiga (FILEDATA.DAT är skadad)."));
 }
 
+TEST_F(SetupProgramTest, TellsAMissingArchiveAsAnIncompletePackage)
+{
+    isContainerMissing = true;
+    ScriptedAsk script(
+        {{BoxKind::Critical, "Installation av Exempel",
+          "Installationsfilerna är skadade eller ofullständiga (FILEDATA.DAT saknas eller kan inte "
+          "läsas). Ingenting har installerats. Hämta installationsfilerna på nytt."}});
+    ask = &script;
+    EXPECT_EQ(InstallInVain(""), ExitCode::Failed);
+}
+
 TEST_F(SetupProgramTest, WritesNothingWhereARowLacksItsBytes)
 {
     sources.clear();

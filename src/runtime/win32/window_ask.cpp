@@ -2,6 +2,7 @@
 
 #include "platform/win32/wide_text.h"
 #include "runtime/exit_codes.h"
+#include "runtime/win32/message_box.h"
 #include "runtime/win32/plain_window.h"
 
 #include <commctrl.h>
@@ -69,7 +70,7 @@ void WindowAsk::Hide()
 int WindowAsk::ShowBox(const Text& title, const Text& text, UINT kind)
 {
     const HWND owner = IsWindowVisible(window_) ? window_ : nullptr;
-    return MessageBoxW(owner, Wide(text).c_str(), Wide(title).c_str(), kind | MB_SETFOREGROUND);
+    return ShowMessageBox(owner, {title, text, kind}, texts_);
 }
 
 void WindowAsk::Inform(const Text& title, const Text& text)

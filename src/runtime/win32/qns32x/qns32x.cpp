@@ -5,10 +5,12 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
+#include "runtime/failure_reason.h"
 #include "runtime/package_names.h"
 #include "runtime/setup_program.h"
 #include "runtime/silent_ask.h"
 #include "runtime/win32/library_container.h"
+#include "runtime/win32/message_box.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/test_window.h"
@@ -28,10 +30,12 @@ Text UnzipLibrary(const FileSystem& files, const Text& packageFolder)
 }
 
 // No private folder either: a test leaves nothing on the machine.
-ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches)
+ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
+                       LanguageTexts& texts)
 {
     const LoadedPackage package =
         LoadForTest(host.files, switches.packageFolder, *switches.testMode);
+    texts = package.texts;
     const auto run = [&](Ask& ask) {
         return RunTest({host, ask, switches,
                         [&](const TestWindow& window) { ShowTestWindow(instance, window); }},
@@ -46,10 +50,12 @@ ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches)
     return run(boxes);
 }
 
-ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switches)
+ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
+                          LanguageTexts& texts)
 {
     FileSystem& files = host.files;
     const LoadedPackage package = LoadPackage(files, switches.packageFolder);
+    texts = package.texts;
     const PrivateFolder work(host);
     WinTarget target(JoinPath(work.Path(), RuntimeFile::kRegistryHelper));
     const auto run = [&](Ask& ask) {
@@ -69,15 +75,16 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     return run(window);
 }
 
-ExitCode RunOnWindows(HINSTANCE instance, Switches switches)
+// `texts` become those of the package as soon as they have been read.
+ExitCode RunOnWindows(HINSTANCE instance, Switches switches, LanguageTexts& texts)
 {
     WinFiles files;
     WinMachine machine;
     Host host{files, machine};
     if (switches.packageFolder.empty())
         switches.packageFolder = ProgramFolder();
-    return switches.testMode ? TestOnWindows(instance, host, switches)
-                             : InstallOnWindows(instance, host, switches);
+    return switches.testMode ? TestOnWindows(instance, host, switches, texts)
+                             : InstallOnWindows(instance, host, switches, texts);
 }
 
 } // namespace
@@ -87,13 +94,17 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
     StartProgram();
     OleInitialize(nullptr);
     const Switches switches = ReadSwitches(Narrow(commandLine));
+    LanguageTexts texts;
     ExitCode code = ExitCode::Failed;
     try {
-        code = RunOnWindows(instance, switches);
+        code = RunOnWindows(instance, switches, texts);
     } catch (const std::exception& error) {
         // Nothing was changed: what an installation does is undone before a failure comes here.
         if (!switches.silent)
-            MessageBoxW(nullptr, Wide(error.what()).c_str(), L"Quillon", MB_OK | MB_ICONSTOP);
+            ShowMessageBox(nullptr,
+                           {"Quillon", texts(Message::Failed, FailureReason(error, texts)),
+                            MB_OK | MB_ICONSTOP},
+                           texts);
     }
     OleUninitialize();
     return static_cast<int>(code);

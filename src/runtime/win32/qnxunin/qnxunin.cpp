@@ -6,10 +6,12 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
+#include "runtime/failure_reason.h"
 #include "runtime/rollback.h"
 #include "runtime/silent_ask.h"
 #include "runtime/switches.h"
 #include "runtime/uninstall.h"
+#include "runtime/win32/message_box.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/win_target.h"
@@ -148,6 +150,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
     UninstallerCommand line = ReadUninstallerCommand(given);
     if (line.logPath.empty())
         line.logPath = JoinPath(ProgramFolder(), "QNXUNIN.LOG");
+    LanguageTexts texts;
     ExitCode code = ExitCode::Failed;
     try {
         WinFiles files;
@@ -155,6 +158,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
         Host host{files, machine};
         const EarlierRun earlier = FinishEarlier(host);
         const auto product = ReadInstalledProduct(files, line.logPath);
+        if (product)
+            texts = product->texts;
         if (!product && earlier == EarlierRun::Finished)
             code = ExitCode::Done; // a first installation that was killed has been taken back
         else
@@ -162,7 +167,10 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
                                         : RunWithWindow(instance, host, line, product);
     } catch (const std::exception& error) {
         if (!line.switches.silent)
-            MessageBoxW(nullptr, Wide(error.what()).c_str(), L"Quillon", MB_OK | MB_ICONSTOP);
+            ShowMessageBox(nullptr,
+                           {"Quillon", texts(Message::UninstallFailed, FailureReason(error, texts)),
+                            MB_OK | MB_ICONSTOP},
+                           texts);
     }
     OleUninitialize();
     return static_cast<int>(code);

@@ -3,6 +3,7 @@
 // up and ends with the same code. Written without the standard library, since it is the first thing
 // to be read from a slow disk.
 #include "platform/win32/locked_folder.h"
+#include "runtime/starter_text.h"
 #include "runtime/switch_words.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/setup32/listed_files.h"
@@ -14,6 +15,7 @@
 namespace {
 
 constexpr int kLongestPath = 32768;
+constexpr int kLongestMessage = 1024;
 constexpr DWORD kFailed = 1603;
 
 struct Paths {
@@ -23,7 +25,7 @@ struct Paths {
     wchar_t library[kLongestPath];
     wchar_t scratch[kLongestPath];
     wchar_t commandLine[kLongestPath];
-    wchar_t message[1024];
+    wchar_t message[kLongestMessage];
     const wchar_t* refused; // the file that the user is told of
     HANDLE lock;
 };
@@ -45,26 +47,66 @@ void FindPackageFolder(wchar_t* folder)
         last[last - folder == 2 ? 1 : 0] = 0;
 }
 
-// A text of the language file that the package names.
-void ReadMessage(Paths& paths, const wchar_t* key, const wchar_t* otherwise)
+char16_t AnsiCharacterOf(unsigned char byte)
+{
+    constexpr UINT kWesternCodePage = 1252;
+    const char one = static_cast<char>(byte);
+    wchar_t wide = L'?';
+    MultiByteToWideChar(kWesternCodePage, 0, &one, 1, &wide, 1);
+    return wide;
+}
+
+// The whole file; null where there is none or it is too large. HeapFree gives it back.
+char* ReadFileOf(const wchar_t* path, DWORD& size)
+{
+    constexpr DWORD kLargestFile = 16 * 1024 * 1024;
+    const HANDLE file =
+        CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return nullptr;
+    size = GetFileSize(file, nullptr);
+    char* bytes = size > kLargestFile
+                      ? nullptr
+                      : static_cast<char*>(HeapAlloc(GetProcessHeap(), 0, size + 1));
+    DWORD read = 0;
+    if (bytes != nullptr && (!ReadFile(file, bytes, size, &read, nullptr) || read != size)) {
+        HeapFree(GetProcessHeap(), 0, bytes);
+        bytes = nullptr;
+    }
+    CloseHandle(file);
+    return bytes;
+}
+
+// A text of the language file that the package names. Windows' own functions for such files would
+// take UTF-8 for the code page of the machine.
+void ReadMessage(Paths& paths, const char* key, const wchar_t* otherwise)
 {
     wchar_t language[MAX_PATH];
     Join(paths.scratch, paths.package, L"QNSETUP.INF");
     GetPrivateProfileStringW(L"Language", L"LanguageFile", L"SWEDISH.LNG", language, MAX_PATH,
                              paths.scratch);
     Join(paths.scratch, paths.package, language);
-    GetPrivateProfileStringW(L"PreLoader", key, otherwise, paths.message, 1024, paths.scratch);
+    lstrcpynW(paths.message, otherwise, kLongestMessage);
+    DWORD size = 0;
+    char* const bytes = ReadFileOf(paths.scratch, size);
+    if (bytes == nullptr)
+        return;
+    char16_t text[kLongestMessage];
+    if (quillon::FindStarterText({bytes, size}, key, AnsiCharacterOf, text, kLongestMessage))
+        for (int i = 0; i == 0 || text[i - 1] != 0; ++i)
+            paths.message[i] = text[i];
+    HeapFree(GetProcessHeap(), 0, bytes);
 }
 
 int Refuse(Paths& paths, bool silent)
 {
     if (silent)
         return kFailed;
-    ReadMessage(paths, L"Msg_NoRuntime",
+    ReadMessage(paths, "Msg_NoRuntime",
                 L"Installationen kan inte startas. Filen '%1' saknas eller \u00E4r skadad.");
     wchar_t* const mark = wcsstr(paths.message, L"%1");
     lstrcpynW(paths.scratch, paths.message,
-              mark == nullptr ? 1024 : static_cast<int>(mark - paths.message) + 1);
+              mark == nullptr ? kLongestMessage : static_cast<int>(mark - paths.message) + 1);
     if (mark != nullptr) {
         lstrcatW(paths.scratch, paths.refused);
         lstrcatW(paths.scratch, mark + 2);
@@ -75,7 +117,7 @@ int Refuse(Paths& paths, bool silent)
 
 HWND ShowWaitWindow(Paths& paths)
 {
-    ReadMessage(paths, L"Msg_Extract", L"F\u00F6rbereder installationen. V\u00E4nta...");
+    ReadMessage(paths, "Msg_Extract", L"F\u00F6rbereder installationen. V\u00E4nta...");
     constexpr int kWidth = 320;
     constexpr int kHeight = 60;
     const HWND window = CreateWindowExW(WS_EX_DLGMODALFRAME, L"STATIC", paths.message,
