@@ -223,20 +223,14 @@ Project ProjectEdit::ReadAgain(const Text& file) const
 // What the file of the project would give back had it been saved without the call.
 Json ProjectEdit::SettingsOfUnchangedProject(const Text& file) const
 {
-    const Text saved = FreeNameBeside(session.host.files, file);
     std::ostream nowhere(nullptr);
     ConsoleAsk nobody(nullptr, nowhere);
     Project unchanged = isNew_
                             ? NewSession(session.host, nobody, session.options.ToolFolder).project
                             : ReadAgain(path_);
-    try {
-        WriteProjectFile(unchanged, saved, session.host, nobody);
-        unchanged = ReadAgain(saved);
-    } catch (const RunError&) {
-        RemoveQuietly(session.host.files, saved);
-        throw;
-    }
-    RemoveQuietly(session.host.files, saved);
+    SavedFile saved(session.host.files, file);
+    WriteProject(unchanged, saved, session.host, nobody);
+    unchanged = ReadAgain(saved.TemporaryPath());
     return SettingsJson(unchanged);
 }
 

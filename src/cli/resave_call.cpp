@@ -24,7 +24,10 @@ Exit ResaveProject(const CallContext& context)
     if (opened == Opened::InPart)
         context.err << PartlyReadText(in) << "\n";
 
-    if (const auto why = WhyListsCannotBeSaved(session.project.Lists))
+    // What was read in part has lists with the headers of others in them, and is saved as it is.
+    const auto why =
+        opened == Opened::Whole ? WhyListsCannotBeSaved(session.project.Lists) : std::nullopt;
+    if (why)
         return context.Fail(*why + " Inget är sparat.", Exit::Stopped);
     session.state.ProjectFileName = out;
     // What is not read is lost from the target too, whatever stands there.
