@@ -61,20 +61,6 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
     work.changes.PutFile({staged, path, existed, Changes::Recorded::No});
 }
 
-// The old file stays until the new one is whole, since others' lines stand in it too. A removal
-// that was broken off here is repeated, and then finds its temporary file under the same name.
-void RewriteFile(FileSystem& files, const Text& path, std::string_view bytes)
-{
-    const Text staged = JoinPath(ExtractDirectory(path), "~qn-" + ExtractFilename(path) + ".tmp");
-    try {
-        WriteWholeFile(files, staged, bytes);
-        files.Rename(staged, path);
-    } catch (const RunError&) {
-        RunErrorNumber([&] { files.RemoveFile(staged); });
-        throw;
-    }
-}
-
 template <class Work>
 void Change(FileSystem& files, const Text& path, Work work)
 {
@@ -88,6 +74,18 @@ void Change(FileSystem& files, const Text& path, Work work)
 }
 
 } // namespace
+
+void RewriteFile(FileSystem& files, const Text& path, std::string_view bytes)
+{
+    const Text staged = JoinPath(ExtractDirectory(path), "~qn-" + ExtractFilename(path) + ".tmp");
+    try {
+        WriteWholeFile(files, staged, bytes);
+        files.Rename(staged, path);
+    } catch (const RunError&) {
+        RunErrorNumber([&] { files.RemoveFile(staged); });
+        throw;
+    }
+}
 
 void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines)
 {

@@ -21,4 +21,8 @@ void TakeBackIniChange(FileSystem& files, const record::IniOpenEnd& record);
 void TakeBackIniChange(FileSystem& files, const record::IniSection& record);
 void TakeBackIniChange(FileSystem& files, const record::IniValue& record);
 
+/// The old file stays until the new one is whole. A removal that was broken off here is repeated,
+/// and then finds its temporary file under the same name.
+void RewriteFile(FileSystem& files, const Text& path, std::string_view bytes);
+
 } // namespace quillon

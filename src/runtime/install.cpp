@@ -118,6 +118,8 @@ void Installation::SaveRecord()
     FileSystem& files = input_.host.files;
     const Text staged = changes_.StagingPath(path);
     record_.Save(files, staged);
+    // The uninstaller will believe it.
+    input_.target.CloseToOthers(staged);
     changes_.PutFile({staged, path, files.FileExists(path), Changes::Recorded::No});
 }
 

@@ -19,6 +19,18 @@ void MakeLineOfValue(JournalRecord& record)
         ini->formerLine = ini->name + "=" + *ini->formerLine;
 }
 
+template <class... Kinds>
+bool IsOneOf(const JournalRecord& record)
+{
+    return (std::holds_alternative<Kinds>(record) || ...);
+}
+
+bool IsOfInstalledFile(const JournalRecord& record)
+{
+    return IsOneOf<record::File, record::Replaced, record::Backup, record::Shared, record::IniFile,
+                   record::IniOpenEnd, record::IniSection, record::IniValue>(record);
+}
+
 } // namespace
 
 std::optional<std::vector<JournalRecord>> ReadInstallLog(std::string_view bytes)
@@ -64,6 +76,7 @@ void InstallLog::Save(FileSystem& files, const Text& path) const
 
 void InstallLog::Add(JournalRecord record)
 {
+    NotePlace(record);
     index_.insert(IndexOf(record));
     records_.push_back(std::move(record));
 }
@@ -74,6 +87,16 @@ void InstallLog::TakeOver(std::vector<JournalRecord> earlier)
         index_.insert(IndexOf(record));
     records_.insert(records_.begin(), std::make_move_iterator(earlier.begin()),
                     std::make_move_iterator(earlier.end()));
+}
+
+// Each folder that something is put into is named once, since the uninstaller goes into no other.
+void InstallLog::NotePlace(const JournalRecord& record)
+{
+    if (!IsOfInstalledFile(record))
+        return;
+    const Text folder = ExtractDirectory(SubjectOf(record));
+    if (!Has<record::Folder>(folder) && !Has<record::Place>(folder))
+        Add(record::Place{folder});
 }
 
 Text InstallLog::IndexOf(const JournalRecord& record)

@@ -38,6 +38,7 @@ public:
     void TakeOver(std::vector<JournalRecord> earlier);
 
 private:
+    void NotePlace(const JournalRecord& record);
     static Text IndexOf(const JournalRecord& record);
 
     std::vector<JournalRecord> records_;

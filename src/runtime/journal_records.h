@@ -30,6 +30,12 @@ struct Folder {
     bool operator==(const Folder&) const = default;
 };
 
+/// Was there before us, and we have put something into it.
+struct Place {
+    Text path;
+    bool operator==(const Place&) const = default;
+};
+
 /// Written by us where there was none.
 struct File {
     Text path;
@@ -175,8 +181,8 @@ struct Committed {
 } // namespace record
 
 using JournalRecord =
-    std::variant<record::Product, record::Message, record::Folder, record::File, record::Replaced,
-                 record::Backup, record::Shared, record::Font, record::Registered,
+    std::variant<record::Product, record::Message, record::Folder, record::Place, record::File,
+                 record::Replaced, record::Backup, record::Shared, record::Font, record::Registered,
                  record::AtRestart, record::Key, record::Value, record::UninstallKey,
                  record::UninstallValue, record::IniFile, record::IniOpenEnd, record::IniSection,
                  record::IniValue, record::TempFolder, record::Aside, record::FormerValue,

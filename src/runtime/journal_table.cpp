@@ -28,6 +28,7 @@ constexpr std::tuple kRows{
     Line("PRODUCT",          &record::Product::name),
     Line("MESSAGE",          &record::Message::key, &record::Message::text),
     Line("FOLDER",           &record::Folder::path),
+    Line("PLACE",            &record::Place::path),
     Line("FILE",             &record::File::path),
     Line("REPLACED",         &record::Replaced::path),
     Line("BACKUP",           &record::Backup::path, &record::Backup::kept),

@@ -144,6 +144,7 @@ constexpr MessageKey kMessages[] = {
     {Message::LogRemovesAtRestart,    "Log",       "Log_RemovesAtRestart",    "Filen %1 används och tas bort när datorn startas om"},
     {Message::LogRemovesFolder,       "Log",       "Log_RemovesFolder",       "Tar bort mappen %1"},
     {Message::LogPutsBack,            "Log",       "Log_PutsBack",            "Lägger tillbaka %1"},
+    {Message::LogTakesBackRestart,    "Log",       "Log_TakesBackRestart",    "Filen %1 ersätts inte längre när datorn startas om"},
     {Message::LogCannotRemove,        "Log",       "Log_CannotRemove",        "Kan inte ta bort %1: %2"},
     {Message::ReasonFileNotFound,     "Reasons",   "Reason_FileNotFound",     "filen '%1' finns inte"},
     {Message::ReasonFolderNotFound,   "Reasons",   "Reason_FolderNotFound",   "mappen till '%1' finns inte"},
@@ -159,6 +160,8 @@ constexpr MessageKey kMessages[] = {
     {Message::ReasonValueChanged,     "Reasons",   "Reason_ValueChanged",     "värdet har ändrats efter installationen"},
     {Message::ReasonKeyNotEmpty,      "Reasons",   "Reason_KeyNotEmpty",      "nyckeln är inte tom"},
     {Message::ReasonFolderNotEmpty,   "Reasons",   "Reason_FolderNotEmpty",   "mappen är inte tom"},
+    {Message::ReasonOutsideProduct,   "Reasons",   "Reason_OutsideProduct",   "den ligger utanför programmets mappar"},
+    {Message::ReasonLinkOnTheWay,     "Reasons",   "Reason_LinkOnTheWay",     "en länk leder till en annan mapp"},
 };
 // clang-format on
 static_assert(std::size(kMessages) == std::size_t(Message::Count));

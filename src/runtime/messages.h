@@ -144,6 +144,7 @@ enum class Message {
     LogRemovesAtRestart,
     LogRemovesFolder,
     LogPutsBack,
+    LogTakesBackRestart,
     LogCannotRemove,
     ReasonFileNotFound,
     ReasonFolderNotFound,
@@ -159,6 +160,8 @@ enum class Message {
     ReasonValueChanged,
     ReasonKeyNotEmpty,
     ReasonFolderNotEmpty,
+    ReasonOutsideProduct,
+    ReasonLinkOnTheWay,
     Count
 };
 

@@ -223,8 +223,8 @@ void SetupProgram::FinishEarlier(const SetupVariables& variables)
     const SetupVariables usual = MakeSetupVariables(
         {package_.setup, input_.host, input_.target, input_.switches.packageFolder, {}});
     std::set<Text> folders{variables.Value(mainFolder), usual.Value(mainFolder)};
-    const auto installed =
-        input_.target.ReadValue(UninstallEntryKey(package_.setup.project), "InstallLocation");
+    const auto installed = input_.target.ReadValue(
+        UninstallEntryKey(package_.setup.project.ProjectName.ProjectName), "InstallLocation");
     if (installed)
         folders.insert(TextOf(*installed).value_or(""));
     for (const Text& folder : folders)

@@ -42,7 +42,7 @@ bool ApplySwitch(Switches& switches, std::string_view name, std::optional<Text> 
     if (EqualIgnoreCase(name, "/D") || EqualIgnoreCase(name, "/DIR")) {
         // In its plain form, for it becomes a part of every path, and of the record of them.
         switches.destination = ResolvePath(*value);
-        return IsWholePath(*value);
+        return IsWholePath(*value) && IsWholePath(switches.destination);
     }
     if (EqualIgnoreCase(name, "/LOG")) {
         switches.logFile = *value;

@@ -87,6 +87,8 @@ public:
     virtual void CloseToOthers(const Text& path) = 0;
     /// False where somebody else made `path` than who makes files now, such as `own`.
     virtual bool HaveSameOwner(const Text& path, const Text& own) const = 0;
+    /// Whether what stands there leads to another folder.
+    virtual bool IsLink(const Text& folder) const = 0;
 };
 
 } // namespace quillon

@@ -6,9 +6,14 @@
 #include "runtime/changes.h"
 #include "runtime/file_installer.h"
 #include "runtime/ini_changes.h"
+#include "runtime/journal_table.h"
 #include "runtime/planned_shortcuts.h"
+#include "runtime/recorded_paths.h"
+#include "runtime/restart_moves.h"
+#include "runtime/uninstall_entry.h"
 
 #include <algorithm>
+#include <set>
 
 namespace quillon {
 
@@ -17,51 +22,71 @@ namespace {
 class Uninstallation {
 public:
     explicit Uninstallation(const UninstallInput& input)
-        : input_(input), files_(input.host.files), records_(input.product.records)
+        : input_(input), files_(input.host.files), records_(input.product.records),
+          mainFolder_(ExtractDirectory(input.logPath)),
+          paths_(records_, input.host, input.target, mainFolder_),
+          entry_(UninstallEntryKey(input.product.name))
     {
     }
 
     ExitCode Run();
 
 private:
+    enum class Part { AllButEntry, Entry };
+
+    void TakeBackAll(Part part);
     void TakeBack(std::size_t index);
     void TakeBack(const record::File& file) { RemoveFile(file.path); }
     void TakeBack(const record::Backup& backup) { RestoreBackup(backup.path, backup.kept); }
-    void TakeBack(const record::Shared& shared) { ReleaseShared(shared.path); }
+    void TakeBack(const record::Shared& shared) { RemoveSharedFile(shared.path); }
     void TakeBack(const record::Font& font);
     void TakeBack(const record::Registered& registered);
     void TakeBack(const record::Key& key) { RemoveKeyIfEmpty(key.key); }
     void TakeBack(const record::Value& value);
     void TakeBack(const record::UninstallKey& key) { RemoveKeyWithAllBelow(key.key); }
     void TakeBack(const record::UninstallValue& value) { RemoveValue(value.key, value.name); }
-    void TakeBack(const record::IniFile& change) { TakeBackIniChange(files_, change); }
-    void TakeBack(const record::IniOpenEnd& change) { TakeBackIniChange(files_, change); }
-    void TakeBack(const record::IniSection& change) { TakeBackIniChange(files_, change); }
-    void TakeBack(const record::IniValue& change) { TakeBackIniChange(files_, change); }
-    // What tells of the product or belongs to the installation alone. All folders go last.
+    void TakeBack(const record::IniFile& change) { TakeBackIni(change); }
+    void TakeBack(const record::IniOpenEnd& change) { TakeBackIni(change); }
+    void TakeBack(const record::IniSection& change) { TakeBackIni(change); }
+    void TakeBack(const record::IniValue& change) { TakeBackIni(change); }
+    // What tells of the product or belongs to the installation alone. Folders and what waits for
+    // the machine's next start go last.
     template <class Record>
     void TakeBack(const Record&)
     {
     }
+    template <class Record>
+    void TakeBackIni(const Record& change)
+    {
+        if (IsInReach(change.path))
+            TakeBackIniChange(files_, change);
+    }
+    bool IsInReach(const Text& path);
     void RemoveFile(const Text& path);
     void RemoveReplaced(std::size_t index);
     void RestoreBackup(const Text& path, const Text& backup);
-    void ReleaseShared(const Text& path);
+    void ReleaseSharedFiles();
+    void SaveWithoutReleased();
+    void RemoveSharedFile(const Text& path);
     void RemoveValue(const RegistryKey& key, const Text& name);
     void RemoveKeyIfEmpty(const RegistryKey& key);
     void RemoveKeyWithAllBelow(const RegistryKey& key);
-    void RemoveUninstaller();
+    void TakeBackRestart(const record::AtRestart& move);
+    void RemoveProductItself();
     void RemoveFolders();
-    bool IsStillShared(const Text& path) const;
-    bool IsKeptInWindows(std::size_t index) const;
-    bool StaysBehind(const Text& path) const;
+    void RemoveFolder(const Text& folder);
+    bool HoldsOnlyWhatGoes(const Text& folder) const;
+    bool IsOfEntry(const JournalRecord& record) const;
     template <class Work>
     void Attempt(const Text& what, Work work);
 
     const UninstallInput& input_;
     FileSystem& files_;
     const std::vector<JournalRecord>& records_;
-    std::vector<Text> stillShared_;
+    const Text mainFolder_;
+    const RecordedPaths paths_;
+    const RegistryKey entry_;
+    std::set<Text> goesAtRestart_; // in lower case
     bool partly_ = false;
 };
 
@@ -71,22 +96,48 @@ void Uninstallation::Attempt(const Text& what, Work work)
 {
     try {
         work();
-    } catch (const RunError& error) {
+    } catch (const std::exception& error) {
         partly_ = true;
         input_.log.CannotRemove(what, error);
     }
 }
 
+// The program, its journal and its entry in the system's list go when nothing else is left: whoever
+// is interrupted, or could not remove everything, can begin again.
 ExitCode Uninstallation::Run()
 {
     input_.ask.AddStatusLine(input_.product.texts[Message::UninstallRunning]);
-    for (std::size_t left = records_.size(); left > 0; --left) {
-        Attempt(SubjectOf(records_[left - 1]), [&] { TakeBack(left - 1); });
-        input_.ask.ShowProgress(records_.size() - left + 1, records_.size());
-    }
-    Attempt(input_.logPath, [&] { RemoveUninstaller(); });
+    Attempt(input_.logPath, [&] { ReleaseSharedFiles(); });
+    TakeBackAll(Part::AllButEntry);
+    for (const record::AtRestart& move : paths_.Pending())
+        Attempt(move.from, [&] { TakeBackRestart(move); });
+    if (!partly_)
+        TakeBackAll(Part::Entry);
+    if (!partly_)
+        Attempt(input_.logPath, [&] { RemoveProductItself(); });
     RemoveFolders();
     return partly_ ? ExitCode::Failed : ExitCode::Done;
+}
+
+void Uninstallation::TakeBackAll(Part part)
+{
+    for (std::size_t left = records_.size(); left > 0; --left) {
+        const JournalRecord& record = records_[left - 1];
+        if (IsOfEntry(record) == (part == Part::Entry))
+            Attempt(SubjectOf(record), [&] { TakeBack(left - 1); });
+        if (part == Part::AllButEntry)
+            input_.ask.ShowProgress(records_.size() - left + 1, records_.size());
+    }
+}
+
+// The keys above the entry can only go after it.
+bool Uninstallation::IsOfEntry(const JournalRecord& record) const
+{
+    if (const auto* const value = std::get_if<record::Value>(&record))
+        return EqualIgnoreCase(KeyText(value->key), KeyText(entry_));
+    const auto* const key = std::get_if<record::Key>(&record);
+    return key != nullptr &&
+           LowerCase(KeyText(entry_) + "\\").starts_with(LowerCase(KeyText(key->key) + "\\"));
 }
 
 void Uninstallation::TakeBack(std::size_t index)
@@ -99,27 +150,30 @@ void Uninstallation::TakeBack(std::size_t index)
 
 void Uninstallation::TakeBack(const record::Font& font)
 {
-    if (!StaysBehind(font.path))
+    if (!paths_.StaysBehind(font.path) && IsInReach(font.path))
         input_.target.AnnounceFont(font.path, false);
 }
 
 void Uninstallation::TakeBack(const record::Registered& registered)
 {
-    if (files_.FileExists(registered.path) && !StaysBehind(registered.path))
-        input_.target.RegisterServer(registered.path, false);
+    const Text& path = registered.path;
+    if (files_.FileExists(path) && !paths_.StaysBehind(path) && IsInReach(path))
+        input_.target.RegisterServer(path, false);
 }
 
-bool Uninstallation::IsStillShared(const Text& path) const
+bool Uninstallation::IsInReach(const Text& path)
 {
-    return std::any_of(stillShared_.begin(), stillShared_.end(),
-                       [&](const Text& shared) { return EqualIgnoreCase(shared, path); });
+    const auto reason = paths_.WhyOutOfReach(path);
+    if (reason)
+        input_.log.Skipped(path, {*reason});
+    return !reason;
 }
 
 void Uninstallation::RemoveFile(const Text& path)
 {
-    if (!files_.FileExists(path))
+    if (!files_.FileExists(path) || !IsInReach(path))
         return;
-    if (IsStillShared(path)) {
+    if (paths_.IsShared(path)) {
         input_.log.Skipped(path, {Message::ReasonUsedByOthers});
         return;
     }
@@ -128,71 +182,71 @@ void Uninstallation::RemoveFile(const Text& path)
         input_.log.Line(Message::LogRemoves, path);
     } catch (const RunError&) {
         input_.target.MoveAtRestart(path, "");
+        goesAtRestart_.insert(LowerCase(path));
         input_.log.Line(Message::LogRemovesAtRestart, path);
     }
-}
-
-// A file that was in the Windows folder before us, and of which there is no backup.
-bool Uninstallation::IsKeptInWindows(std::size_t index) const
-{
-    const Text path = SubjectOf(records_[index]);
-    const auto* const backup =
-        index > 0 ? std::get_if<record::Backup>(&records_[index - 1]) : nullptr;
-    const bool comesBack =
-        backup && EqualIgnoreCase(backup->path, path) && files_.FileExists(backup->kept);
-    const Text windows = LowerCase(input_.host.machine.GetWindowsDir()) + "\\";
-    return !comesBack && LowerCase(path).compare(0, windows.size(), windows) == 0;
 }
 
 void Uninstallation::RemoveReplaced(std::size_t index)
 {
     const Text path = SubjectOf(records_[index]);
-    if (IsKeptInWindows(index))
+    if (paths_.WasInWindows(index))
         input_.log.Skipped(path, {Message::ReasonWasInWindows});
-    else
+    else if (!paths_.KeepsReplaced(index))
         RemoveFile(path);
-}
-
-// Whether the file is still there after us, so that what the system knows of it has to stay.
-bool Uninstallation::StaysBehind(const Text& path) const
-{
-    const std::uint32_t users = CountOfUsers(input_.target, path).value_or(0);
-    bool goes = false;
-    for (std::size_t i = 0; i < records_.size(); ++i) {
-        const JournalRecord& record = records_[i];
-        if (!EqualIgnoreCase(SubjectOf(record), path))
-            continue;
-        const bool isShared = std::holds_alternative<record::Shared>(record);
-        if (isShared && users > 1)
-            return true;
-        goes = goes || std::holds_alternative<record::File>(record) || (isShared && users == 1) ||
-               (std::holds_alternative<record::Replaced>(record) && !IsKeptInWindows(i));
-    }
-    return !goes;
 }
 
 void Uninstallation::RestoreBackup(const Text& path, const Text& backup)
 {
-    if (files_.FileExists(path) || !files_.FileExists(backup))
+    if (files_.FileExists(path) || !files_.FileExists(backup) || !IsInReach(path) ||
+        !IsInReach(backup))
         return;
     files_.Rename(backup, path);
     input_.log.Line(Message::LogPutsBack, path);
 }
 
-// The product that goes last takes a shared file along. Where the count has been lost nobody knows
-// who is last, and only a file of our own goes, by its own record.
-void Uninstallation::ReleaseShared(const Text& path)
+// Nothing but our journal tells that the count of a file's users holds one for us, so the journal
+// forgets it first: an uninstallation that is begun again must not count down twice.
+void Uninstallation::ReleaseSharedFiles()
 {
-    const auto count = CountOfUsers(input_.target, path);
-    if (!count)
+    if (paths_.ToRelease().empty())
         return;
-    if (*count > 1) {
-        input_.target.WriteValue(SharedFilesKey(), path, NumberData(*count - 1));
-        stillShared_.push_back(path);
-        return;
+    SaveWithoutReleased();
+    for (const JournalRecord& record : records_) {
+        const auto* const shared = std::get_if<record::Shared>(&record);
+        const auto count =
+            shared != nullptr && paths_.ToRelease().count(LowerCase(shared->path)) > 0
+                ? CountOfUsers(input_.target, shared->path)
+                : std::nullopt;
+        if (count && *count > 1)
+            input_.target.WriteValue(SharedFilesKey(), shared->path, NumberData(*count - 1));
     }
-    RemoveValue(SharedFilesKey(), path);
+}
+
+void Uninstallation::SaveWithoutReleased()
+{
+    std::set<Text> dropped;
+    for (const JournalRecord& record : records_)
+        if (std::holds_alternative<record::Shared>(record) &&
+            paths_.ToRelease().count(LowerCase(SubjectOf(record))) > 0)
+            dropped.insert(JournalLine(record));
+    Text kept;
+    for (const Text& line : SplitLines(ReadWholeFile(files_, input_.logPath)))
+        if (dropped.count(line) == 0 && !line.empty())
+            kept += line + Text(kLineBreak);
+    RewriteFile(files_, input_.logPath, kept);
+    input_.target.CloseToOthers(input_.logPath);
+}
+
+// The product that goes last takes a shared file along. Where the count has been lost nobody knows
+// who is last, and only a file of our own goes, by its own record. The count goes behind the file,
+// so that it is still known where that fails.
+void Uninstallation::RemoveSharedFile(const Text& path)
+{
+    if (paths_.IsShared(path) || !CountOfUsers(input_.target, path))
+        return;
     RemoveFile(path);
+    RemoveValue(SharedFilesKey(), path);
 }
 
 void Uninstallation::TakeBack(const record::Value& value)
@@ -238,31 +292,69 @@ void Uninstallation::RemoveKeyWithAllBelow(const RegistryKey& key)
     input_.log.Line(Message::LogRemovesRegistry, KeyText(key));
 }
 
-void Uninstallation::RemoveUninstaller()
+// The file that would have taken its place at the next start goes; the one that is there stays.
+void Uninstallation::TakeBackRestart(const record::AtRestart& move)
 {
-    const Text uninstaller = UninstallerPath(ExtractDirectory(input_.logPath));
-    if (GoesWithProduct(files_, input_.logPath, uninstaller))
+    const Text place = LowerCase(ExtractDirectory(move.to) + "\\");
+    if (!IsInReach(move.to) || !LowerCase(move.from).starts_with(place))
+        return;
+    RemoveEvenReadOnly(files_, move.from);
+    ForgetMoveAtRestart(input_.target, move.from);
+    // It may lie in a folder of its own beside the file.
+    const Text folder = ExtractDirectory(move.from);
+    if (LowerCase(folder).starts_with(place) && files_.List(folder).empty()) {
+        files_.RemoveFolder(folder);
+        ForgetMoveAtRestart(input_.target, folder);
+    }
+    input_.log.Line(Message::LogTakesBackRestart, move.to);
+}
+
+void Uninstallation::RemoveProductItself()
+{
+    const Text uninstaller = UninstallerPath(mainFolder_);
+    if (GoesWithProduct(files_, input_.logPath, uninstaller)) {
+        if (input_.removeProgram)
+            input_.removeProgram(uninstaller);
         RemoveFile(uninstaller);
+    }
     RemoveFile(input_.logPath);
 }
 
 void Uninstallation::RemoveFolders()
 {
-    for (auto record = records_.rbegin(); record != records_.rend(); ++record) {
-        if (!std::holds_alternative<record::Folder>(*record))
-            continue;
-        const Text& folder = std::get<record::Folder>(*record).path;
-        Attempt(folder, [&] {
-            if (!files_.DirExists(folder))
-                return;
-            if (!files_.List(folder).empty()) {
-                input_.log.Skipped(folder, {Message::ReasonFolderNotEmpty});
-                return;
-            }
-            files_.RemoveFolder(folder);
-            input_.log.Line(Message::LogRemovesFolder, folder);
-        });
+    for (auto record = records_.rbegin(); record != records_.rend(); ++record)
+        if (const auto* const folder = std::get_if<record::Folder>(&*record))
+            Attempt(folder->path, [&] { RemoveFolder(folder->path); });
+}
+
+void Uninstallation::RemoveFolder(const Text& folder)
+{
+    if (!files_.DirExists(folder))
+        return;
+    if (paths_.IsLink(folder)) {
+        input_.log.Skipped(folder, {Message::ReasonLinkOnTheWay});
+        return;
     }
+    if (!HoldsOnlyWhatGoes(folder)) {
+        input_.log.Skipped(folder, {Message::ReasonFolderNotEmpty});
+        return;
+    }
+    if (files_.List(folder).empty()) {
+        files_.RemoveFolder(folder);
+        input_.log.Line(Message::LogRemovesFolder, folder);
+        return;
+    }
+    input_.target.MoveAtRestart(folder, "");
+    goesAtRestart_.insert(LowerCase(folder));
+    input_.log.Line(Message::LogRemovesAtRestart, folder);
+}
+
+bool Uninstallation::HoldsOnlyWhatGoes(const Text& folder) const
+{
+    const std::vector<FolderEntry> entries = files_.List(folder);
+    return std::all_of(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
+        return goesAtRestart_.count(LowerCase(JoinPath(folder, entry.name))) > 0;
+    });
 }
 
 } // namespace
@@ -290,6 +382,15 @@ std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, co
 ExitCode Uninstall(const UninstallInput& input)
 {
     return Uninstallation(input).Run();
+}
+
+bool LiesBeside(const FileSystem& files, const Text& logPath, const Text& program)
+{
+    const Text wanted = files.ShortPath(logPath);
+    const std::vector<Text> logs = InstallLogsIn(files, ExtractDirectory(program));
+    return std::any_of(logs.begin(), logs.end(), [&](const Text& log) {
+        return EqualIgnoreCase(files.ShortPath(log), wanted);
+    });
 }
 
 bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& uninstaller)

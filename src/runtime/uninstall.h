@@ -4,6 +4,7 @@
 // - A file that the setup wrote goes, whether or not it was there before; in the Windows folder and
 //   below, one that was there before stays, since others may need it.
 // - A file with a backup comes back from it. A shared file stays until its last user goes.
+// - A file that waits to be replaced at the machine's next start isn't any more.
 // - A folder goes if the setup made it and it is empty.
 // - A value that was there before gets its former data back if it still has ours.
 #pragma once
@@ -16,6 +17,7 @@
 #include "runtime/target.h"
 #include "runtime/text_log.h"
 
+#include <functional>
 #include <optional>
 
 namespace quillon {
@@ -36,10 +38,18 @@ struct UninstallInput {
     TextLog& log;
     Text logPath;
     const InstalledProduct& product;
+    /// Gets the running program's own file out of the main folder, if it is that one. Nothing where
+    /// the file can be removed like any other.
+    std::function<void(const Text& uninstaller)> removeProgram = {};
 };
 
-/// `Failed` where something could not be removed; the rest is.
+/// `Failed` where something could not be removed; the rest is, and the product stays in the
+/// system's list, so that it can be tried again.
 ExitCode Uninstall(const UninstallInput& input);
+
+/// Whether the log is one of a product in the folder of that program. The uninstaller believes no
+/// other: it would remove whatever a file says that somebody has given it.
+bool LiesBeside(const FileSystem& files, const Text& logPath, const Text& program);
 
 /// Products that share a main folder share the uninstaller in it: true where this product's going
 /// takes along the program at `uninstaller`.

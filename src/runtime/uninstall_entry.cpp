@@ -22,11 +22,10 @@ std::uint32_t InstalledKilobytes(const InstallPlan& plan)
 
 } // namespace
 
-RegistryKey UninstallEntryKey(const Project& project)
+RegistryKey UninstallEntryKey(const Text& product)
 {
     return {RegistryRoot::LocalMachine,
-            "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" +
-                AsFileName(project.ProjectName.ProjectName)};
+            "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + AsFileName(product)};
 }
 
 void WriteUninstallEntry(const InstallInput& input, Changes& changes)
@@ -35,7 +34,7 @@ void WriteUninstallEntry(const InstallInput& input, Changes& changes)
     const Text& project = input.setup.project.ProjectName.ProjectName;
     const Text uninstaller = UninstallerPath(input.plan.mainFolder);
     const Text command = "\"" + uninstaller + "\" \"" + input.plan.installLog + "\"";
-    const RegistryKey key = UninstallEntryKey(input.setup.project);
+    const RegistryKey key = UninstallEntryKey(project);
     const auto write = [&](const char* name, const Text& text) {
         if (!text.empty())
             changes.WriteValue(key, name, TextData(text));

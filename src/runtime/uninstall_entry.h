@@ -5,8 +5,8 @@
 
 namespace quillon {
 
-/// Where the entry of that project stands.
-RegistryKey UninstallEntryKey(const Project& project);
+/// Where the entry of the product of that name stands.
+RegistryKey UninstallEntryKey(const Text& product);
 
 void WriteUninstallEntry(const InstallInput& input, Changes& changes);
 

@@ -40,6 +40,7 @@ public:
     void MoveAtRestart(const Text& from, const Text& to) override;
     void CloseToOthers(const Text& path) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
+    bool IsLink(const Text& folder) const override { return links.count(LowerCase(folder)) > 0; }
 
     /// The value's text, "<none>" where there is none.
     Text TextAt(const RegistryKey& key, const Text& name) const;
@@ -56,6 +57,7 @@ public:
     bool hasCommonFolders = true;
     std::set<Text> closedToOthers;
     std::set<Text> ofOthers; // files that somebody else made
+    std::set<Text> links;    // in lower case
 
 private:
     FileSystem* files_;

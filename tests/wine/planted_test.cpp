@@ -57,6 +57,8 @@ TEST(PlantedLibraries, TellWhenTheyAreLoaded)
 TEST(PlantedLibraries, AreNotTakenBySetupAndUninstaller)
 {
     SampleProduct product;
+    // A registered file brings the helper, too.
+    product.Add("Data", "server.dll", ReadBytes(TestProgramFolder() / "crashing_server.dll"), "R");
     const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
     PlantIn(package);
     const WinePrefix prefix;

@@ -13,21 +13,29 @@
 
 namespace quillon {
 
-PrivateFolder::PrivateFolder(Host& host) : host_(host)
+Text MakePrivateFolder(Host& host)
 {
     const Text parent = RemoveLastBackslash(host.machine.GetTempDir());
     host.files.DirCreate(parent);
     RemoveAbandonedWorkFolders(host.files, parent, [](const Text& path) {
         return (GetFileAttributesW(WidePath(path).c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
     });
+    Text path;
     // Only a folder that did not exist before is private, so its making has to say so itself.
     do {
-        path_ = JoinPath(parent, "QN" + NumberText(host.machine.Random(1000000)) + ".TMP");
-        if (MakeLockedFolder(WidePath(path_).c_str()) &&
-            (lock_ = host.files.Lock(WorkFolderLock(path_), LockWait::None)))
-            return;
+        path = JoinPath(parent, "QN" + NumberText(host.machine.Random(1000000)) + ".TMP");
+        if (MakeLockedFolder(WidePath(path).c_str()))
+            return path;
     } while (GetLastError() == ERROR_ALREADY_EXISTS);
-    FailAsWindowsSays(path_);
+    FailAsWindowsSays(path);
+}
+
+PrivateFolder::PrivateFolder(Host& host)
+    : host_(host), path_(MakePrivateFolder(host)),
+      lock_(host.files.Lock(WorkFolderLock(path_), LockWait::None))
+{
+    if (!lock_)
+        FailAsWindowsSays(path_);
 }
 
 PrivateFolder::~PrivateFolder()

@@ -22,6 +22,9 @@ private:
     std::unique_ptr<FileLock> lock_; // tells a living setup's folder from one that was left behind
 };
 
+/// Such a folder that stays; its path. Throws where none can be made.
+Text MakePrivateFolder(Host& host);
+
 /// The folder that the running program's file lies in, and that file.
 Text ProgramFolder();
 Text ProgramPath();

@@ -214,4 +214,17 @@ bool WinTarget::HaveSameOwner(const Text& path, const Text& own) const
     return quillon::HaveSameOwner(WidePath(path).c_str(), WidePath(own).c_str());
 }
 
+bool WinTarget::IsLink(const Text& folder) const
+{
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileW(WidePath(folder).c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    FindClose(search);
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+        return false;
+    // Other kinds of such points stand for where the contents are kept, not for another name.
+    return found.dwReserved0 == 0 || IsReparseTagNameSurrogate(found.dwReserved0);
+}
+
 } // namespace quillon

@@ -29,6 +29,7 @@ public:
     void MoveAtRestart(const Text& from, const Text& to) override;
     void CloseToOthers(const Text& path) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
+    bool IsLink(const Text& folder) const override;
 
 private:
     Text registryHelper_;

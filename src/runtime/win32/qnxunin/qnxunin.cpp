@@ -1,6 +1,5 @@
 // QNXUNIN: removes a product. Its command line names the product's install log; without a name it
 // takes the one beside itself.
-#include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/win32/wide_text.h"
@@ -14,6 +13,9 @@
 #include "runtime/win32/message_box.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
+#include "runtime/win32/qnxunin/self_removal.h"
+#include "runtime/win32/qnxunin/unregister_process.h"
+#include "runtime/win32/register_server.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
 
@@ -23,58 +25,20 @@ using namespace quillon;
 
 namespace {
 
-// A running program can't be deleted, but it can be moved: out of the product's folder, so that the
-// folder can go. Empty where it has to stay, and where it can't even be moved, from one drive to
-// another.
-Text MoveSelfAway(const Host& host, const Text& logPath)
-{
-    if (!GoesWithProduct(host.files, logPath, ProgramPath()))
-        return {};
-    const Text away = JoinPath(host.machine.GetTempDir(),
-                               "QNXUNIN" + NumberText(host.machine.Random(1000000)) + ".TMP");
-    const bool moved = MoveFileExW(WidePath(ProgramPath()).c_str(), WidePath(away).c_str(), 0);
-    return moved ? away : Text();
-}
-
-constexpr std::string_view kCleanSwitch = "/CLEAN=";
-
-// Starts a second copy of this program, which waits for this one's end and deletes its file. The
-// copy's own file goes when the last handle to it is closed, and that is the one it inherits.
-void RemoveSelfAtEnd(const Text& away)
-{
-    const Text copy = away + ".EXE";
-    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-    HANDLE self = nullptr;
-    DuplicateHandle(GetCurrentProcess(), GetCurrentProcess(), GetCurrentProcess(), &self,
-                    SYNCHRONIZE, TRUE, 0);
-    if (!CopyFileW(WidePath(away).c_str(), WidePath(copy).c_str(), TRUE))
-        return;
-    const HANDLE last =
-        CreateFileW(WidePath(copy).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE,
-                    &inherited, OPEN_EXISTING, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-    std::wstring line = Wide("\"" + copy + "\" " + Text(kCleanSwitch) +
-                             NumberText(reinterpret_cast<INT_PTR>(self)) + " " + away);
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    if (CreateProcessW(Wide(copy).c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                       &startup, &process)) {
-        CloseHandle(process.hThread);
-        CloseHandle(process.hProcess);
+class UninstallTarget : public WinTarget {
+public:
+    Registration RegisterServer(const Text& path, bool) override
+    {
+        switch (UnregisterInOwnProcess(path)) {
+        case kRegistrationDone:
+            return Registration::Done;
+        case kNotSelfRegistering:
+            return Registration::NotSelfRegistering;
+        default:
+            return Registration::Failed;
+        }
     }
-    CloseHandle(last);
-}
-
-// The second copy's whole work: "/CLEAN=<the first one's handle> <the first one's file>".
-int CleanUp(std::string_view line)
-{
-    const std::string_view rest = line.substr(kCleanSwitch.size());
-    const auto parent = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(LeadingNumber(rest)));
-    WaitForSingleObject(parent, INFINITE);
-    const std::size_t blank = rest.find(' ');
-    const bool hasPath = blank != std::string_view::npos;
-    return hasPath && DeleteFileW(WidePath(Text(rest.substr(blank + 1))).c_str()) ? 0 : 1;
-}
+};
 
 ExitCode RunUninstall(Host& host, Ask& ask, const UninstallerCommand& line,
                       const InstalledProduct& product)
@@ -82,13 +46,22 @@ ExitCode RunUninstall(Host& host, Ask& ask, const UninstallerCommand& line,
     TextLog log;
     if (!line.switches.logFile.empty())
         log = TextLog(host.files, host.machine, line.switches.logFile, product.texts);
-    WinTarget target;
-    const Text away = MoveSelfAway(host, line.logPath);
-    const ExitCode code = Uninstall({host, target, ask, log, line.logPath, product});
+    // A folder that is the current one of a program can't be removed.
+    SetCurrentDirectoryW(Wide(host.machine.GetWindowsDir()).c_str());
+    UninstallTarget target;
+    SelfRemoval self(host);
+    const ExitCode code = Uninstall({host, target, ask, log, line.logPath, product,
+                                     [&](const Text& program) { self.MoveAway(program); }});
     log.Close();
-    if (!away.empty())
-        RemoveSelfAtEnd(away);
+    self.StartCleaner();
     return code;
+}
+
+// Nothing where there is no log that this program believes.
+std::optional<InstalledProduct> FindProduct(const FileSystem& files, const Text& logPath)
+{
+    return LiesBeside(files, logPath, ProgramPath()) ? ReadInstalledProduct(files, logPath)
+                                                     : std::nullopt;
 }
 
 ExitCode RunWithWindow(HINSTANCE instance, Host& host, const UninstallerCommand& line,
@@ -144,8 +117,10 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
 {
     StartProgram();
     const Text given = TrimBlanks(Narrow(commandLine));
-    if (given.substr(0, kCleanSwitch.size()) == kCleanSwitch)
-        return CleanUp(given);
+    if (const auto code = CleanUpForParent(given))
+        return *code;
+    if (const auto code = UnregisterForParent(given))
+        return *code;
     OleInitialize(nullptr);
     UninstallerCommand line = ReadUninstallerCommand(given);
     if (line.logPath.empty())
@@ -157,7 +132,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
         WinMachine machine;
         Host host{files, machine};
         const EarlierRun earlier = FinishEarlier(host);
-        const auto product = ReadInstalledProduct(files, line.logPath);
+        const auto product = FindProduct(files, line.logPath);
         if (product)
             texts = product->texts;
         if (!product && earlier == EarlierRun::Finished)

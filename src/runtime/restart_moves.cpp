@@ -1,0 +1,59 @@
+#include "runtime/restart_moves.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::size_t kUnit = 2; // bytes of UTF-16
+constexpr std::string_view kEnd{"\0\0", kUnit};
+
+// The text from `at` on with the NUL behind it; empty at the end.
+std::string_view TextAt(std::string_view bytes, std::size_t at)
+{
+    std::size_t end = at;
+    while (end + kUnit <= bytes.size() && bytes.substr(end, kUnit) != kEnd)
+        end += kUnit;
+    return bytes.substr(std::min(at, bytes.size()), end + kUnit - at);
+}
+
+// The value is a list of pairs, from and to, of which the second may be empty; so the empty text
+// that ends such a list elsewhere ends this one only in the first place.
+std::string WithoutMovesOf(std::string_view operations, const Text& from)
+{
+    const std::string wanted = TextData("\\??\\" + from).bytes;
+    std::string kept;
+    for (std::size_t at = 0; at < operations.size();) {
+        const std::string_view first = TextAt(operations, at);
+        if (first.size() <= kUnit)
+            break;
+        const std::string_view second = TextAt(operations, at + first.size());
+        if (first != wanted)
+            kept.append(first).append(second);
+        at += first.size() + second.size();
+    }
+    return kept;
+}
+
+} // namespace
+
+RegistryKey RestartMovesKey()
+{
+    return {RegistryRoot::LocalMachine, "SYSTEM\\CurrentControlSet\\Control\\Session Manager"};
+}
+
+void ForgetMoveAtRestart(Target& target, const Text& from)
+{
+    const auto present = target.ReadValue(RestartMovesKey(), kRestartMoves);
+    if (!present)
+        return;
+    const std::string kept = WithoutMovesOf(present->bytes, from);
+    if (kept.empty())
+        target.RemoveValue(RestartMovesKey(), kRestartMoves);
+    else if (kept.size() + kUnit < present->bytes.size())
+        target.WriteValue(RestartMovesKey(), kRestartMoves,
+                          {present->type, kept + std::string(kEnd)});
+}
+
+} // namespace quillon

@@ -1,0 +1,30 @@
+// How the uninstaller's own file goes. A running program can't be deleted, but it can be moved: out
+// of the product's folder, so that the folder can go, into one that is closed to others. There a
+// second copy of the program waits for this one's end and deletes what is left.
+#pragma once
+
+#include "platform/host.h"
+
+#include <optional>
+
+namespace quillon {
+
+class SelfRemoval {
+public:
+    explicit SelfRemoval(Host& host) : host_(host) {}
+
+    /// Nothing happens where `uninstaller` is not the running program, or can't be moved, from one
+    /// drive to another.
+    void MoveAway(const Text& uninstaller);
+    /// To be called last; nothing happens where nothing was moved.
+    void StartCleaner() const;
+
+private:
+    Host& host_;
+    Text folder_; // where the program's file lies now; empty where it has not been moved
+};
+
+/// What the second copy does; nothing where the command line asks for something else.
+std::optional<int> CleanUpForParent(std::string_view commandLine);
+
+} // namespace quillon

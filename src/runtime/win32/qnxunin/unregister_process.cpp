@@ -1,0 +1,76 @@
+#include "runtime/win32/qnxunin/unregister_process.h"
+
+#include "helpers/number_text.h"
+#include "platform/win32/open_file.h"
+#include "platform/win32/wide_text.h"
+#include "runtime/win32/private_folder.h"
+#include "runtime/win32/register_server.h"
+
+#include <objbase.h>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::string_view kSwitch = "/UNREGISTER=";
+
+std::wstring ReadPath(HANDLE pipe)
+{
+    if (GetFileType(pipe) != FILE_TYPE_PIPE)
+        return {};
+    Text path;
+    char piece[512];
+    DWORD count = 0;
+    while (ReadFile(pipe, piece, sizeof piece, &count, nullptr) && count > 0)
+        path.append(piece, count);
+    return Wide(path);
+}
+
+} // namespace
+
+int UnregisterInOwnProcess(const Text& path)
+{
+    HANDLE read = nullptr;
+    HANDLE write = nullptr;
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    if (!CreatePipe(&read, &write, &inherited, 0))
+        return kRegistrationFailed;
+    FileHandle readEnd(read);
+    FileHandle writeEnd(write);
+    // Otherwise the pipe would never end for the reader.
+    SetHandleInformation(write, HANDLE_FLAG_INHERIT, 0);
+    std::wstring line = Wide("\"" + ProgramPath() + "\" " + Text(kSwitch) +
+                             NumberText(reinterpret_cast<INT_PTR>(read)));
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(Wide(ProgramPath()).c_str(), line.data(), nullptr, nullptr, TRUE, 0,
+                        nullptr, nullptr, &startup, &process))
+        return kRegistrationFailed;
+    const FileHandle thread(process.hThread);
+    const FileHandle running(process.hProcess);
+    DWORD written = 0;
+    WriteFile(write, path.data(), static_cast<DWORD>(path.size()), &written, nullptr);
+    writeEnd.Close();
+    WaitForSingleObject(running.Get(), INFINITE);
+    DWORD code = kRegistrationFailed;
+    GetExitCodeProcess(running.Get(), &code);
+    return static_cast<int>(code);
+}
+
+std::optional<int> UnregisterForParent(std::string_view commandLine)
+{
+    if (!commandLine.starts_with(kSwitch))
+        return std::nullopt;
+    const FileHandle pipe(reinterpret_cast<HANDLE>(
+        static_cast<INT_PTR>(LeadingNumber(commandLine.substr(kSwitch.size())))));
+    const std::wstring path = ReadPath(pipe.Get());
+    if (path.empty())
+        return kRegistrationFailed;
+    OleInitialize(nullptr);
+    const int result = RegisterServerFile(path.c_str(), false);
+    OleUninitialize();
+    return result;
+}
+
+} // namespace quillon
