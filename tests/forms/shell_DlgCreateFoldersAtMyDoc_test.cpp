@@ -14,7 +14,7 @@ protected:
     {
         session.ProjectsFolder = "C:\\Quillon\\Projects";
         OnNextDialog(std::move(use));
-        OfferProjectsFolder(session, nullptr);
+        OfferProjectsFolder(session, "", nullptr);
         EXPECT_EQ(session.Settings.WindowOptions.MyDocFolderAutoCreateDone, kOn);
     }
 };
@@ -53,6 +53,17 @@ TEST_F(DlgCreateFoldersAtMyDocTest, LooksRight)
     ShowActive(form);
     SavePicture(form, "DlgCreateFoldersAtMyDoc");
     SaveDarkPicture(form, "DlgCreateFoldersAtMyDoc");
+}
+
+TEST_F(DlgCreateFoldersAtMyDocTest, ShowsWhereTheFolderTrulyLies)
+{
+    EXPECT_EQ(DlgCreateFoldersAtMyDoc(session).lHostFolder, nullptr);
+    DlgCreateFoldersAtMyDoc form(session, nullptr, "/home/ulla/Dokument/Quillon/Mina projekt");
+    ShowActive(form);
+    EXPECT_EQ(form.lFolder->text(), kFolder);
+    EXPECT_EQ(form.lHostFolder->text(), "/home/ulla/Dokument/Quillon/Mina projekt");
+    SavePicture(form, "DlgCreateFoldersAtMyDoc-true");
+    SaveDarkPicture(form, "DlgCreateFoldersAtMyDoc-true");
 }
 
 } // namespace

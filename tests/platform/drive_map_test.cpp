@@ -131,6 +131,34 @@ TEST_F(DriveMapTest, GoesRoundFromWindowsToHostAndBack)
     EXPECT_EQ(drives.ToWindows(host), "S:\\Deep\\Folder\\Fil.TXT");
 }
 
+TEST_F(DriveMapTest, TakesAFolderOfADriveFromElsewhere)
+{
+    disk.Put("hem/Dokument/Brev/Läs.txt", "");
+    disk.PutFolder("c/Mina dokument sedan");
+    const DriveMap map({{'Z', "/"}, {'C', disk.Path("c")}},
+                       {{"C:\\Mina dokument", disk.Path("hem/Dokument/")},
+                        {"C:\\Users\\ulla\\Data", disk.Path("hem/.config")},
+                        {"C:\\Users\\ulla\\Data\\Mallar", disk.Path("hem/Mallar")}});
+    const auto onDisk = [&](const Text& path) {
+        return map.ToHost(path).value_or("").substr(disk.Path().size());
+    };
+    EXPECT_EQ(onDisk("c:\\mina DOKUMENT\\brev\\läs.TXT"), "/hem/Dokument/Brev/Läs.txt");
+    EXPECT_EQ(onDisk("C:/Mina dokument"), "/hem/Dokument");
+    EXPECT_EQ(onDisk("C:\\x\\..\\Mina dokument\\a"), "/hem/Dokument/a");
+    EXPECT_EQ(onDisk("C:\\Mina dokument\\..\\a"), "/c/a") << "it lies in the drive";
+    EXPECT_EQ(onDisk("C:\\Mina dokument sedan\\a"), "/c/Mina dokument sedan/a");
+    EXPECT_EQ(onDisk("C:\\Users\\ulla\\Data\\x"), "/hem/.config/x");
+    EXPECT_EQ(onDisk("C:\\Users\\ULLA\\Data\\mallar\\x"), "/hem/Mallar/x");
+    EXPECT_EQ(map.ToHost("Z:\\Mina dokument"), "/Mina dokument");
+
+    EXPECT_EQ(map.ToWindows(disk.Path("hem/Dokument/Brev")), "C:\\Mina dokument\\Brev");
+    EXPECT_EQ(map.ToWindows(disk.Path("hem/Dokument")), "C:\\Mina dokument");
+    EXPECT_EQ(map.ToWindows(disk.Path("c/a")), "C:\\a");
+    EXPECT_TRUE(map.ToWindows(disk.Path("hem/Dokument2"))->starts_with("Z:\\"));
+    EXPECT_TRUE(map.IsMappedFolder("c:\\MINA dokument"));
+    EXPECT_FALSE(map.IsMappedFolder("C:\\Mina dokument\\Brev"));
+}
+
 TEST_F(DriveMapTest, TheFirstOfTwoEqualLettersCounts)
 {
     const DriveMap twice{{{'S', "/one"}, {'s', "/two"}}};

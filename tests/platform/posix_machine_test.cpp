@@ -1,5 +1,7 @@
 #include "platform/posix/posix_host.h"
 
+#include "platform/missing_program.h"
+
 #include "platform/posix/start_program.h"
 #include "platform/posix/text_editor.h"
 #include "platform/run_error.h"
@@ -361,6 +363,13 @@ TEST_F(PosixMachineTest, TellsWhyAProgramCannotBeStarted)
     EXPECT_EQ(failure("S:\\missing.exe"), 53);
     EXPECT_EQ(failure("S:\\missing\\a.exe"), 76);
     EXPECT_EQ(failure("S:\\setup.exe"), 5);
+    try {
+        host.machine.StartProgram("S:\\setup.exe", "");
+        ADD_FAILURE() << "there is no Wine";
+    } catch (const MissingProgram& missing) {
+        EXPECT_EQ(missing.Name(), "Wine");
+        EXPECT_EQ(missing.Path(), "S:\\setup.exe");
+    }
     EXPECT_EQ(failure("S:\\plain.txt"), 5);
     EXPECT_EQ(RunErrorNumber([&] { host.machine.OpenDocument("S:\\plain.txt"); }), 5);
     EXPECT_EQ(RunErrorNumber([&] { host.machine.OpenDocument("S:\\missing.txt"); }), 53);
@@ -405,6 +414,124 @@ TEST(ReadMachineSettings, FindsDriveCUnderTheUsersDataUnlessItIsNamed)
     EXPECT_EQ(ReadMachineSettings().registryFiles.size(), 2U);
     unsetenv("QUILLON_DRIVE_C");
     unsetenv("QUILLON_REGISTRY");
+}
+
+/// A home, by the environment, that goes when the test ends.
+class HomeOfUser : public testing::Test {
+protected:
+    HomeOfUser()
+    {
+        for (const char* name : kNames)
+            before_.emplace_back(std::getenv(name) ? std::optional<std::string>(std::getenv(name))
+                                                   : std::nullopt);
+        setenv("HOME", home.Path().c_str(), 1);
+        unsetenv("XDG_CONFIG_HOME");
+        unsetenv("XDG_DATA_HOME");
+        unsetenv("QUILLON_DRIVE_C");
+    }
+    ~HomeOfUser() override
+    {
+        for (std::size_t i = 0; i < before_.size(); ++i)
+            before_[i] ? setenv(kNames[i], before_[i]->c_str(), 1) : unsetenv(kNames[i]);
+    }
+
+    /// Where a path of drive C: lies below the home.
+    std::string At(const Text& windowsPath) const
+    {
+        const MachineSettings settings = ReadMachineSettings();
+        const std::string host = *DriveMap(settings.drives, settings.folders).ToHost(windowsPath);
+        EXPECT_TRUE(host.starts_with(home.Path() + "/")) << host;
+        return host.substr(std::min(host.size(), home.Path().size() + 1));
+    }
+
+    test::TempFolder home;
+    const Text user = "C:\\Users\\" + ReadMachineSettings().user;
+
+private:
+    static constexpr const char* kNames[] = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME",
+                                             "QUILLON_DRIVE_C"};
+    std::vector<std::optional<std::string>> before_;
+};
+
+TEST_F(HomeOfUser, LendsItsFoldersToDriveC)
+{
+    EXPECT_EQ(At("C:\\Mina dokument\\Quillon"), "Documents/Quillon");
+    EXPECT_EQ(At(user + "\\Desktop"), "Desktop");
+    EXPECT_EQ(At(user + "\\AppData\\Roaming\\Microsoft\\Windows\\Templates"), "Templates");
+    EXPECT_EQ(At(user + "\\AppData\\Roaming\\x"), ".config/x");
+    EXPECT_EQ(At(user + "\\AppData\\Local"), ".local/share");
+    EXPECT_EQ(At("C:\\Windows"), ".local/share/quillon/drive_c/Windows");
+    home.Put(".config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Dokument\"\n"
+                                       "XDG_DESKTOP_DIR=\"$HOME/Skrivbord\"\n"
+                                       "XDG_TEMPLATES_DIR=\"$HOME/\"\n");
+    EXPECT_EQ(At("C:\\Mina dokument\\Quillon"), "Dokument/Quillon");
+    EXPECT_EQ(At(user + "\\Desktop"), "Skrivbord");
+    EXPECT_EQ(At(user + "\\AppData\\Roaming\\Microsoft\\Windows\\Templates"),
+              ".config/Microsoft/Windows/Templates")
+        << "the user wants no such folder";
+}
+
+TEST_F(HomeOfUser, IsWhereMyDocumentsLies)
+{
+    PosixHost host;
+    EXPECT_EQ(host.machine.GetMyDocumentsDir(), "C:\\Mina dokument");
+    EXPECT_FALSE(home.Has("Documents")) << "looking makes nothing";
+    EXPECT_EQ(host.machine.GetSysAppDataDirectory(), user + "\\AppData\\Roaming");
+    EXPECT_TRUE(host.files.DirCreate("C:\\Mina dokument\\Quillon\\Mina projekt"));
+    EXPECT_TRUE(home.Has("Documents/Quillon/Mina projekt"));
+    EXPECT_EQ(host.drives.ToWindows(home.Path("Documents/a.qnp")), "C:\\Mina dokument\\a.qnp");
+    const auto root = host.files.List("C:\\");
+    EXPECT_TRUE(std::any_of(root.begin(), root.end(), [](const FolderEntry& entry) {
+        return entry.name == "Mina dokument";
+    })) << "whoever looks through the drive finds it";
+}
+
+TEST_F(HomeOfUser, LeavesDocumentsInSightThatLieInDriveCAlready)
+{
+    home.Put(".local/share/quillon/drive_c/Mina dokument/Quillon/Mina projekt/a.qnp", "x");
+    EXPECT_EQ(At("C:\\Mina dokument"), ".local/share/quillon/drive_c/Mina dokument");
+    EXPECT_EQ(At(user + "\\Desktop"), "Desktop");
+}
+
+TEST_F(HomeOfUser, LendsNothingToADriveThatTheUserHasNamed)
+{
+    setenv("QUILLON_DRIVE_C", home.Path("c").c_str(), 1);
+    EXPECT_EQ(At("C:\\Mina dokument"), "c/Mina dokument");
+    PosixHost host;
+    EXPECT_TRUE(home.Has("c/Mina dokument"));
+}
+
+/// Takes an administrator's rights away for as long as it lives.
+class WithoutRights {
+public:
+    WithoutRights() : user_(geteuid())
+    {
+        constexpr uid_t kNobody = 65534;
+        if (user_ == 0)
+            EXPECT_EQ(seteuid(kNobody), 0);
+    }
+    ~WithoutRights() { EXPECT_EQ(seteuid(user_), 0); }
+    WithoutRights(const WithoutRights&) = delete;
+    WithoutRights& operator=(const WithoutRights&) = delete;
+
+private:
+    uid_t user_;
+};
+
+TEST_F(HomeOfUser, HoldsWhatAToolWritesThatCannotWriteBesideItself)
+{
+    home.PutFolder("fast");
+    home.PutFolder("öppen");
+    chmod(home.Path("fast").c_str(), 0555);
+    chmod(home.Path("öppen").c_str(), 0777);
+    chmod(home.Path().c_str(), 0755);
+    const PosixHost host;
+    const Text inHome = *host.drives.ToWindows(home.Path(".local/share/quillon"));
+    const WithoutRights nobody;
+    EXPECT_EQ(host.OwnFolder(*host.drives.ToWindows(home.Path("fast"))), inHome);
+    const Text open = *host.drives.ToWindows(home.Path("öppen"));
+    EXPECT_EQ(host.OwnFolder(open), open);
+    EXPECT_EQ(host.OwnFolder(open + "\\finns inte"), inHome);
 }
 
 TEST(ReadMachineSettings, FindsTheFolderForSettingsByTheDesktopsConvention)

@@ -57,6 +57,15 @@ std::string PlainHostPath(const std::string& path)
     return WithoutLastSlash((failed ? absolute : followed).lexically_normal().string());
 }
 
+/// Whether these names begin with those of the folder, without regard to case.
+bool BeginsWith(const std::vector<std::string_view>& path,
+                const std::vector<std::string_view>& folder)
+{
+    return folder.size() <= path.size() &&
+           std::equal(folder.begin(), folder.end(), path.begin(),
+                      [](std::string_view a, std::string_view b) { return EqualIgnoreCase(a, b); });
+}
+
 bool LiesIn(const std::string& path, const std::string& folder)
 {
     return path.compare(0, folder.size(), folder) == 0 &&
@@ -65,9 +74,12 @@ bool LiesIn(const std::string& path, const std::string& folder)
 
 } // namespace
 
-DriveMap::DriveMap(std::vector<MappedDrive> drives)
-    : drives_(std::move(drives)), names_(std::make_unique<NameLookup>())
+DriveMap::DriveMap(std::vector<MappedDrive> drives, std::vector<MappedFolder> folders)
+    : drives_(std::move(drives)), folders_(std::move(folders)),
+      names_(std::make_unique<NameLookup>())
 {
+    for (MappedFolder& mapped : folders_)
+        mapped.folder = PlainHostPath(mapped.folder);
     for (MappedDrive& drive : drives_) {
         drive.letter = UpperLetter(drive.letter);
         drive.folder = PlainHostPath(drive.folder);
@@ -100,25 +112,59 @@ std::optional<std::string> DriveMap::ToHost(const Text& windowsPath) const
     if (!root)
         return std::nullopt;
 
-    const std::string_view path = std::string_view(windowsPath).substr(hasDrive ? 2 : 0);
-    const std::string host = names_->Resolve(*root, PartsOf(path));
+    std::vector<std::string_view> parts =
+        PartsOf(std::string_view(windowsPath).substr(hasDrive ? 2 : 0));
+    if (const MappedFolder* mapped = hasDrive ? FolderAbove(windowsPath) : nullptr) {
+        root = mapped->folder;
+        const auto above = PartsOf(std::string_view(mapped->path).substr(2)).size();
+        parts.erase(parts.begin(), parts.begin() + static_cast<std::ptrdiff_t>(above));
+    }
+    const std::string host = names_->Resolve(*root, parts);
     return host.empty() ? "/" : host;
+}
+
+/// The mapped folder that holds a path with a drive most closely; null where there is none.
+const MappedFolder* DriveMap::FolderAbove(const Text& windowsPath) const
+{
+    const auto parts = PartsOf(std::string_view(windowsPath).substr(2));
+    const MappedFolder* closest = nullptr;
+    for (const MappedFolder& mapped : folders_) {
+        const auto names = PartsOf(std::string_view(mapped.path).substr(2));
+        if (UpperLetter(windowsPath[0]) == mapped.path[0] && BeginsWith(parts, names) &&
+            (!closest || mapped.path.size() > closest->path.size()))
+            closest = &mapped;
+    }
+    return closest;
+}
+
+bool DriveMap::IsMappedFolder(const Text& windowsPath) const
+{
+    return std::any_of(folders_.begin(), folders_.end(), [&](const MappedFolder& mapped) {
+        return EqualIgnoreCase(mapped.path, windowsPath);
+    });
 }
 
 std::optional<Text> DriveMap::ToWindows(const std::string& hostPath) const
 {
     const std::string path = PlainHostPath(hostPath);
-    const MappedDrive* closest = nullptr;
+    if (path.find('\\') != std::string::npos)
+        return std::nullopt;
+    std::optional<MappedFolder> closest;
+    const auto consider = [&](const Text& windows, const std::string& folder) {
+        if (LiesIn(path, folder) && (!closest || folder.size() > closest->folder.size()))
+            closest = {windows, folder};
+    };
     for (const MappedDrive& drive : drives_)
-        if (LiesIn(path, drive.folder) &&
-            (!closest || drive.folder.size() > closest->folder.size()))
-            closest = &drive;
-    if (!closest || path.find('\\') != std::string::npos)
+        consider(Text(1, drive.letter) + ":", drive.folder);
+    for (const MappedFolder& mapped : folders_)
+        consider(mapped.path, mapped.folder);
+    if (!closest)
         return std::nullopt;
 
-    Text windowsPath = path.substr(closest->folder.size());
-    std::replace(windowsPath.begin(), windowsPath.end(), '/', '\\');
-    return Text(1, closest->letter) + ":" + (windowsPath.empty() ? "\\" : windowsPath);
+    Text inside = path.substr(closest->folder.size());
+    std::replace(inside.begin(), inside.end(), '/', '\\');
+    const bool isDrive = closest->path.size() == 2;
+    return closest->path + (isDrive && inside.empty() ? "\\" : inside);
 }
 
 } // namespace quillon

@@ -1,5 +1,7 @@
 #include "platform/posix/machine_settings.h"
 
+#include "platform/posix/user_directories.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -39,20 +41,72 @@ std::string DataFolder()
     return (home.empty() ? Variable("TMPDIR") : home) + "/.local/share";
 }
 
-/// The folder for what the tool remembers of its user, by the same convention.
-std::string SettingsFolder()
+/// The same for what programs remember of their user. Empty where there is no home.
+std::string ConfigFolder()
 {
     const std::string named = Variable("XDG_CONFIG_HOME");
     if (named.starts_with("/"))
-        return named + "/quillon";
+        return named;
     const std::string home = Variable("HOME");
-    return home.empty() ? std::string() : home + "/.config/quillon";
+    return home.empty() ? std::string() : home + "/.config";
+}
+
+std::string SettingsFolder()
+{
+    const std::string folder = ConfigFolder();
+    return folder.empty() ? folder : folder + "/quillon";
+}
+
+/// The folder that the desktop has for documents and the like. Empty where the user wants none,
+/// which the desktop says by naming the home folder.
+std::string UserDirectory(const std::string& kind, const std::string& usualName)
+{
+    const std::string home = Variable("HOME");
+    const std::string found =
+        FindUserDirectory(ConfigFolder() + "/user-dirs.dirs", "XDG_" + kind + "_DIR", home)
+            .value_or(home + "/" + usualName);
+    const auto plain = [](const std::string& folder) {
+        return std::filesystem::path(folder + "/").lexically_normal();
+    };
+    return plain(found) == plain(home) ? std::string() : found;
+}
+
+/// Whether a folder of drive C: has files in it, from a time when it lay there. They stay in sight.
+bool HoldsFiles(const std::string& driveC, const Text& path)
+{
+    std::string inside = path.substr(2);
+    std::ranges::replace(inside, '\\', '/');
+    std::error_code unreadable;
+    for (std::filesystem::recursive_directory_iterator entry(driveC + inside, unreadable), end;
+         !unreadable && entry != end; entry.increment(unreadable))
+        if (!entry->is_directory(unreadable))
+            return true;
+    return false;
 }
 
 std::string FolderOfDriveC()
 {
     const std::string named = Variable("QUILLON_DRIVE_C");
     return named.empty() ? DataFolder() + "/quillon/drive_c" : named;
+}
+
+// The user's own folders stand in drive C: as Windows has them. A drive that the user has named is
+// taken as it is.
+void MapFoldersOfUser(MachineSettings& settings)
+{
+    if (Variable("HOME").empty() || !Variable("QUILLON_DRIVE_C").empty())
+        return;
+    const Text user = "C:\\Users\\" + settings.user;
+    std::vector<MappedFolder> folders{{kOwnDocuments, UserDirectory("DOCUMENTS", "Documents")}};
+    if (!settings.user.empty())
+        folders.insert(folders.end(), {{user + "\\Desktop", UserDirectory("DESKTOP", "Desktop")},
+                                       {user + "\\AppData\\Roaming", ConfigFolder()},
+                                       {user + "\\AppData\\Local", DataFolder()},
+                                       {user + "\\AppData\\Roaming\\Microsoft\\Windows\\Templates",
+                                        UserDirectory("TEMPLATES", "Templates")}});
+    for (MappedFolder& mapped : folders)
+        if (!mapped.folder.empty() && !HoldsFiles(FolderOfDriveC(), mapped.path))
+            settings.folders.push_back(std::move(mapped));
 }
 
 void ReadUser(MachineSettings& settings)
@@ -99,7 +153,9 @@ MachineSettings ReadMachineSettings()
     if (const std::string temp = Variable("TMPDIR"); !temp.empty())
         settings.tempFolder = temp;
     settings.settingsFolder = SettingsFolder();
+    settings.dataFolder = DataFolder() + "/quillon";
     ReadUser(settings);
+    MapFoldersOfUser(settings);
     return settings;
 }
 

@@ -9,11 +9,16 @@
 
 namespace quillon {
 
+// Where drive C: is one of a Windows-like system, the user has a documents folder there already.
+inline constexpr const char* kOwnDocuments = "C:\\Mina dokument";
+
 struct MachineSettings {
     std::vector<MappedDrive> drives;
+    std::vector<MappedFolder> folders;      // of drive C: that are the user's own
     std::vector<std::string> registryFiles; // host paths
     std::string tempFolder = "/tmp";        // a host path
     std::string settingsFolder;             // the same; empty where the user has no folder at all
+    std::string dataFolder;                 // the same, for what the tool makes for its user
     Text user;                              // the log-in name
     Text fullName;
     // Settings that could not be understood, a line for the user each.

@@ -3,7 +3,9 @@
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 
+#include <fcntl.h>
 #include <filesystem>
+#include <unistd.h>
 
 namespace quillon {
 
@@ -39,9 +41,10 @@ void LookAtDriveC(const DriveMap& drives, const Machine& machine, std::vector<Te
 } // namespace
 
 PosixHost::PosixHost(MachineSettings settings)
-    : complaints(settings.complaints), drives(settings.drives), files(drives),
+    : complaints(settings.complaints), drives(settings.drives, settings.folders), files(drives),
       machine(settings, drives, files,
-              ReadRegistryFiles(settings.registryFiles, drives, files, complaints))
+              ReadRegistryFiles(settings.registryFiles, drives, files, complaints)),
+      dataFolder_(settings.dataFolder)
 {
     LookAtDriveC(drives, machine, complaints);
 }
@@ -51,6 +54,21 @@ Text PosixHost::ProgramFolder() const
     std::error_code unknown;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", unknown);
     return drives.ToWindows(program.parent_path().string()).value_or("");
+}
+
+Text PosixHost::OwnFolder() const
+{
+    return OwnFolder(ProgramFolder());
+}
+
+Text PosixHost::OwnFolder(const Text& programFolder) const
+{
+    const auto hostPath = drives.ToHost(programFolder);
+    const bool canBeWritten =
+        hostPath && faccessat(AT_FDCWD, hostPath->c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+    if (canBeWritten || dataFolder_.empty())
+        return programFolder;
+    return drives.ToWindows(dataFolder_).value_or(programFolder);
 }
 
 } // namespace quillon

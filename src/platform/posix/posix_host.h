@@ -14,6 +14,9 @@ struct PosixHost {
 
     /// The folder that the running program lies in, as a Windows path.
     Text ProgramFolder() const;
+    /// Where the program writes: its own folder, or the user's where that one can't be written.
+    Text OwnFolder() const;
+    Text OwnFolder(const Text& programFolder) const;
 
     // A line for each setting that could not be used, to be shown to the user.
     std::vector<Text> complaints;
@@ -21,6 +24,9 @@ struct PosixHost {
     PosixFiles files;
     PosixMachine machine;
     Host host{files, machine};
+
+private:
+    std::string dataFolder_; // a host path
 };
 
 } // namespace quillon

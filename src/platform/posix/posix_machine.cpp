@@ -1,6 +1,7 @@
 #include "platform/posix/posix_machine.h"
 
 #include "helpers/windows_path.h"
+#include "platform/missing_program.h"
 #include "platform/posix/file_facts.h"
 #include "platform/posix/start_program.h"
 #include "platform/posix/text_editor.h"
@@ -8,6 +9,7 @@
 
 #include <cerrno>
 #include <ctime>
+#include <filesystem>
 #include <langinfo.h>
 #include <locale.h>
 #include <sys/random.h>
@@ -24,8 +26,6 @@ constexpr const char* kSystem = "C:\\Windows\\System32";
 constexpr const char* kFonts = "C:\\Windows\\Fonts";
 constexpr const char* kProgramFiles = "C:\\Program Files";
 constexpr const char* kUsers = "C:\\Users";
-// Where drive C: is one of a Windows-like system, the user has a documents folder there already.
-constexpr const char* kOwnDocuments = "C:\\Mina dokument";
 
 bool IsWebAddress(const Text& path)
 {
@@ -38,6 +38,15 @@ void StartOrFail(const std::vector<std::string>& command, const Text& path)
         throw RunError(ErrorNumber::kCannotStart, path);
 }
 
+/// Makes an empty folder in the drive's own, for those who list it: what lies elsewhere is not in
+/// it.
+void ShowInDrive(const DriveMap& drives, const Text& folder)
+{
+    std::error_code failed;
+    if (const auto drive = drives.FolderOf(folder[0]))
+        std::filesystem::create_directory(*drive + "/" + ExtractFilename(folder), failed);
+}
+
 } // namespace
 
 PosixMachine::PosixMachine(const MachineSettings& settings, const DriveMap& drives,
@@ -48,13 +57,16 @@ PosixMachine::PosixMachine(const MachineSettings& settings, const DriveMap& driv
 {
     for (const char* folder : {kWindows, kSystem, kFonts})
         files.DirCreate(folder);
-    if (GetMyDocumentsDir().empty())
+    if (drives.IsMappedFolder(kOwnDocuments))
+        ShowInDrive(drives, kOwnDocuments);
+    else if (GetMyDocumentsDir().empty())
         files.DirCreate(kOwnDocuments);
 }
 
 Text PosixMachine::IfThere(const Text& path) const
 {
-    return files_.DirExists(path) ? FirstCharacters(path, kLongestFolder) : Text();
+    const bool isThere = drives_.IsMappedFolder(path) || files_.DirExists(path);
+    return isThere ? FirstCharacters(path, kLongestFolder) : Text();
 }
 
 Text PosixMachine::UserFolder() const
@@ -168,8 +180,11 @@ void PosixMachine::StartProgram(const Text& program, const Text& arguments)
 {
     const std::string hostPath = Existing(program);
     std::vector<std::string> command;
-    if (LowerCase(program).ends_with(".exe"))
+    if (LowerCase(program).ends_with(".exe")) {
         command.push_back(FindOnPath("wine"));
+        if (command.front().empty())
+            throw MissingProgram("Wine", program);
+    }
     command.push_back(hostPath);
     for (std::string& argument : SplitArguments(arguments))
         command.push_back(std::move(argument));

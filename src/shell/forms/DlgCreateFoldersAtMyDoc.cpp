@@ -9,12 +9,11 @@
 
 namespace quillon {
 
-DlgCreateFoldersAtMyDoc::DlgCreateFoldersAtMyDoc(Session& session, QWidget* parent)
+DlgCreateFoldersAtMyDoc::DlgCreateFoldersAtMyDoc(Session& session, QWidget* parent,
+                                                 const Text& hostFolder)
     : Form("DlgCreateFoldersAtMyDoc", Text(kProductName), parent), session_(session)
 {
-    Named(NAMED(lFolder), new QLabel(ToQt(OfferedProjectsFolder(session.host.machine))));
-    lFolder->setTextFormat(Qt::PlainText);
-    lFolder->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    PathInSight(NAMED(lFolder), OfferedProjectsFolder(session.host.machine));
     QFont bold = lFolder->font();
     bold.setBold(true);
     lFolder->setFont(bold);
@@ -30,9 +29,20 @@ DlgCreateFoldersAtMyDoc::DlgCreateFoldersAtMyDoc(Session& session, QWidget* pare
         Note("Vill du skapa en katalog för dina projekt? Då öppnas dialogrutorna för att öppna och "
              "spara projekt i den."),
         lFolder,
+        hostFolder.empty() ? Piece(Across({}))
+                           : Down({Note("På den här datorn är det:"),
+                                   PathInSight(NAMED(lHostFolder), hostFolder)}),
         Stretch(),
         Across({Stretch(), CmdYes, CmdNo}),
     }));
+}
+
+QLabel* DlgCreateFoldersAtMyDoc::PathInSight(QLabel*& member, const char* name, const Text& path)
+{
+    Named(member, name, new QLabel(ToQt(path)));
+    member->setTextFormat(Qt::PlainText);
+    member->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return member;
 }
 
 void DlgCreateFoldersAtMyDoc::reject()
@@ -41,9 +51,9 @@ void DlgCreateFoldersAtMyDoc::reject()
     Form::reject();
 }
 
-void OfferProjectsFolder(Session& session, QWidget* parent)
+void OfferProjectsFolder(Session& session, const Text& hostFolder, QWidget* parent)
 {
-    DlgCreateFoldersAtMyDoc(session, parent).ShowModal();
+    DlgCreateFoldersAtMyDoc(session, parent, hostFolder).ShowModal();
 }
 
 } // namespace quillon

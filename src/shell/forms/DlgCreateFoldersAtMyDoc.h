@@ -9,9 +9,12 @@ namespace quillon {
 
 class DlgCreateFoldersAtMyDoc : public Form {
 public:
-    explicit DlgCreateFoldersAtMyDoc(Session& session, QWidget* parent = nullptr);
+    /// `hostFolder` is where the folder lies on a machine without Windows' paths, or empty.
+    explicit DlgCreateFoldersAtMyDoc(Session& session, QWidget* parent = nullptr,
+                                     const Text& hostFolder = {});
 
     QLabel* lFolder = nullptr;
+    QLabel* lHostFolder = nullptr; // null where the path above is the true one
     QPushButton* CmdYes = nullptr;
     QPushButton* CmdNo = nullptr;
 
@@ -19,9 +22,11 @@ public:
     void reject() override;
 
 private:
+    QLabel* PathInSight(QLabel*& member, const char* name, const Text& path);
+
     Session& session_;
 };
 
-void OfferProjectsFolder(Session& session, QWidget* parent);
+void OfferProjectsFolder(Session& session, const Text& hostFolder, QWidget* parent);
 
 } // namespace quillon
