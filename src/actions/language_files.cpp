@@ -52,16 +52,13 @@ bool DidOrTold(Work work, const Text& path, Ask& ask)
     return false;
 }
 
-} // namespace
-
-Text LanguageFolder(const Text& toolFolder)
+Text FolderBelow(const Text& folder)
 {
-    return JoinPath(toolFolder, "Language");
+    return JoinPath(folder, "Language");
 }
 
-std::vector<Text> LanguageFiles(const FileSystem& files, const Text& toolFolder, Ask& ask)
+std::vector<Text> LanguageFilesIn(const FileSystem& files, const Text& folder, Ask& ask)
 {
-    const Text folder = LanguageFolder(toolFolder);
     std::vector<Text> names;
     if (!files.DirExists(folder))
         return names;
@@ -72,6 +69,31 @@ std::vector<Text> LanguageFiles(const FileSystem& files, const Text& toolFolder,
     };
     if (!DidOrTold(list, folder, ask))
         names.clear();
+    return names;
+}
+
+} // namespace
+
+LanguageFolders::LanguageFolders(const Text& toolFolder, const Text& ownFolder)
+    : ofTool(FolderBelow(toolFolder)),
+      added(FolderBelow(ownFolder.empty() ? toolFolder : ownFolder))
+{
+}
+
+Text LanguagePath(const FileSystem& files, const LanguageFolders& folders, const Text& name)
+{
+    const Text added = JoinPath(folders.added, name);
+    return files.FileExists(added) ? added : JoinPath(folders.ofTool, name);
+}
+
+std::vector<Text> LanguageFiles(const FileSystem& files, const LanguageFolders& folders, Ask& ask)
+{
+    std::vector<Text> names = LanguageFilesIn(files, folders.added, ask);
+    if (folders.added != folders.ofTool)
+        for (const Text& name : LanguageFilesIn(files, folders.ofTool, ask))
+            if (std::ranges::none_of(names,
+                                     [&](const Text& own) { return EqualIgnoreCase(own, name); }))
+                names.push_back(name);
     std::ranges::stable_sort(names, {},
                              [](const Text& name) { return SwedishOrderKey(LowerCase(name)); });
     return names;
@@ -103,7 +125,7 @@ bool CanBeLanguageFile(const Text& name, Ask& ask)
     return false;
 }
 
-std::optional<Text> AddLanguage(const Host& host, const Text& toolFolder, Ask& ask)
+std::optional<Text> AddLanguage(const Host& host, const LanguageFolders& folders, Ask& ask)
 {
     const auto typed = ask.XInputBox("Ny språkfil", "&Filnamn:");
     if (!typed || TrimBlanks(*typed).empty())
@@ -111,19 +133,21 @@ std::optional<Text> AddLanguage(const Host& host, const Text& toolFolder, Ask& a
     const Text name = LanguageFileName(*typed);
     if (!CanBeLanguageFile(name, ask))
         return {};
-    const Text reference = JoinPath(LanguageFolder(toolFolder), kReferenceLanguage);
-    const Text copy = JoinPath(LanguageFolder(toolFolder), name);
+    const Text reference = LanguagePath(host.files, folders, kReferenceLanguage);
+    const Text copy = JoinPath(folders.added, name);
     // The reference is there under its own name already.
     const auto make = [&] {
-        if (name != kReferenceLanguage)
-            host.files.CopyContent(reference, copy);
+        if (name == kReferenceLanguage)
+            return;
+        host.files.DirCreate(folders.added);
+        host.files.CopyContent(reference, copy);
     };
     return DidOrTold(make, copy, ask) ? std::optional(name) : std::nullopt;
 }
 
-void EditLanguage(const Host& host, const Text& toolFolder, const Text& name, Ask& ask)
+void EditLanguage(const Host& host, const LanguageFolders& folders, const Text& name, Ask& ask)
 {
-    const Text path = JoinPath(LanguageFolder(toolFolder), name);
+    const Text path = LanguagePath(host.files, folders, name);
     DidOrTold([&] { host.machine.EditTextFile(path); }, path, ask);
 }
 

@@ -13,11 +13,21 @@ namespace quillon {
 // The base of every other language.
 inline constexpr const char* kReferenceLanguage = "SWEDISH.LNG";
 
-/// Where language files lie.
-Text LanguageFolder(const Text& toolFolder);
+/// The folders in which language files lie: those of the tool, and those that users have added
+/// where the tool's own folder can't be written. Of two equal names the added one counts.
+struct LanguageFolders {
+    LanguageFolders(const Text& toolFolder) : LanguageFolders(toolFolder, toolFolder) {}
+    LanguageFolders(const Text& toolFolder, const Text& ownFolder);
+
+    Text ofTool;
+    Text added; // may be the same
+};
+
+/// The path of a language file that is there, or where it would be expected.
+Text LanguagePath(const FileSystem& files, const LanguageFolders& folders, const Text& name);
 
 /// Their names, sorted; none where the folder is missing. A folder that can't be read is told.
-std::vector<Text> LanguageFiles(const FileSystem& files, const Text& toolFolder, Ask& ask);
+std::vector<Text> LanguageFiles(const FileSystem& files, const LanguageFolders& folders, Ask& ask);
 
 /// The file that is made for a typed name.
 Text LanguageFileName(std::string_view typed);
@@ -27,9 +37,9 @@ bool CanBeLanguageFile(const Text& name, Ask& ask);
 
 /// Asks for a name and makes a copy of the reference under it; its name. Nothing where the user
 /// gave none or, told by a box, where it could not be made.
-std::optional<Text> AddLanguage(const Host& host, const Text& toolFolder, Ask& ask);
+std::optional<Text> AddLanguage(const Host& host, const LanguageFolders& folders, Ask& ask);
 
 /// Opens a language file in a text editor and does not wait for it; tells where that can't be done.
-void EditLanguage(const Host& host, const Text& toolFolder, const Text& name, Ask& ask);
+void EditLanguage(const Host& host, const LanguageFolders& folders, const Text& name, Ask& ask);
 
 } // namespace quillon

@@ -8,6 +8,7 @@
 #include "platform/posix/posix_host.h"
 #include "platform/posix/signals.h"
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
+#include "shell/projects_folder.h"
 #include "shell/start.h"
 #include "ui/QtAsk.h"
 
@@ -56,15 +57,17 @@ int main(int count, char** words)
         QDir::setCurrent(QString::fromStdString(*folder));
 
     QtAsk ask(machine.host, paths);
-    Session session = NewSession(machine.host, ask, machine.ProgramFolder());
+    Session session = NewSession(machine.host, ask, machine.ProgramFolder(), machine.OwnFolder());
     StartSession(session);
     MainForm form(session, paths);
     ConnectFileListForms(ask, session);
     ask.onStatusText = [&](const Text& text) { form.ShowStatusText(text); };
     form.onFirstActivation = [&] {
         TellComplaints(machine.complaints, ask);
-        ActivateForTheFirstTime(session, form, project.value_or(""),
-                                [&] { OfferProjectsFolder(session, &form); });
+        ActivateForTheFirstTime(session, form, project.value_or(""), [&] {
+            const Text folder = OfferedProjectsFolder(machine.machine);
+            OfferProjectsFolder(session, paths.toHost(folder).value_or(""), &form);
+        });
     };
     RestoreWindowPlace(form, session.Settings.WindowPlace);
     form.show();

@@ -190,7 +190,7 @@ Step CopyLanguageFile(CreateRun& run)
 {
     const Text& name = run.project.Language.LanguageFile;
     run.ask.AddStatusLine("Kopierar " + name);
-    CopyLanguageTo(run.BuildFolder(), name, run.options.ToolFolder, run.host.files);
+    CopyLanguageTo(run.BuildFolder(), name, run.options, run.host.files);
     run.packageFiles.push_back(name);
     return Step::GoOn;
 }

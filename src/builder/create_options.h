@@ -16,12 +16,16 @@ struct CreateOptions {
     Flag CreateFolderStructureInFolderSetupFiles = kOff;
 
     Text ToolFolder; // without a trailing backslash
+    // Where the tool writes: its own folder, or the user's where that one can't be written.
+    Text OwnFolder;
 };
 
-/// The options of a fresh tool whose programs and data lie in this folder.
-inline CreateOptions DefaultCreateOptions(const Text& toolFolder)
+/// The options of a fresh tool whose programs and data lie in this folder. Without `ownFolder` it
+/// writes there, too.
+inline CreateOptions DefaultCreateOptions(const Text& toolFolder, const Text& ownFolder = {})
 {
-    return {.TempZipPath = toolFolder + "\\TEMP", .ToolFolder = toolFolder};
+    const Text& own = ownFolder.empty() ? toolFolder : ownFolder;
+    return {.TempZipPath = own + "\\TEMP", .ToolFolder = toolFolder, .OwnFolder = own};
 }
 
 /// The setup's background as the tool shows it. These values hold where there is no window.

@@ -6,13 +6,14 @@
 
 namespace quillon {
 
-void CopyLanguageTo(const Text& folder, const Text& name, const Text& toolFolder, FileSystem& files)
+void CopyLanguageTo(const Text& folder, const Text& name, const CreateOptions& options,
+                    FileSystem& files)
 {
-    const Text source = JoinPath(LanguageFolder(toolFolder), name);
-    // A project from elsewhere must not name a file outside the two folders.
+    const LanguageFolders folders(options.ToolFolder, options.OwnFolder);
+    // A project from elsewhere must not name a file outside these folders.
     if (name.empty() || name.find_first_of("\\/:") != Text::npos)
-        throw RunError(ErrorNumber::kBadFileName, source);
-    files.CopyContent(source, JoinPath(folder, name));
+        throw RunError(ErrorNumber::kBadFileName, JoinPath(folders.ofTool, name));
+    files.CopyContent(LanguagePath(files, folders, name), JoinPath(folder, name));
 }
 
 } // namespace quillon

@@ -6,6 +6,7 @@
 #include "builder/setup_info_file.h"
 #include "formats/package_files.h"
 #include "helpers/windows_path.h"
+#include "platform/missing_program.h"
 
 namespace quillon {
 
@@ -17,9 +18,10 @@ constexpr const char* kRuntime = "Qns32x.exe";
 // The setup takes its files from folders: this medium has neither disks nor one file for all.
 constexpr Integer kTestMedium = 2;
 
-bool Fail(TestRun& run, const char* title, int error, const Text& what)
+bool Fail(TestRun& run, const char* title, int error, const Text& what, const Text& advice = {})
 {
-    run.ask.Critical(title, "Fel #" + NumberText(error) + " inträffade när " + what + "!");
+    const Text text = "Fel #" + NumberText(error) + " inträffade när " + what + "!";
+    run.ask.Critical(title, advice.empty() ? text : text + "\r\n\r\n" + advice);
     return false;
 }
 
@@ -72,27 +74,44 @@ bool WriteSetupInfo(TestRun& run, Project& project, const Text& folder, SetupInf
 bool CopyLanguageFile(TestRun& run, const Text& folder)
 {
     const Text& name = run.project.Language.LanguageFile;
-    const auto copy = [&] { CopyLanguageTo(folder, name, run.options.ToolFolder, run.host.files); };
+    const auto copy = [&] { CopyLanguageTo(folder, name, run.options, run.host.files); };
     const int error = RunErrorNumber(copy, run.failure);
     return error == ErrorNumber::kNone ||
            Fail(run, kTestTitle, error, "språkfilen '" + name + "' skulle kopieras");
 }
 
+/// The setup reads its files from its own folder, so it is copied to where they are written.
+void BringRuntime(TestRun& run, const Text& runtime)
+{
+    const Text ofTool = JoinPath(run.options.ToolFolder, "Test\\" + Text(kRuntime));
+    if (!EqualIgnoreCase(runtime, ofTool))
+        run.host.files.CopyContent(ofTool, runtime);
+}
+
 bool StartRuntime(TestRun& run, const char* title, const Text& argument)
 {
+    Text advice;
     const auto start = [&] {
-        run.host.machine.StartProgram(JoinPath(TestFolder(run.options), kRuntime), argument);
+        const Text runtime = JoinPath(TestFolder(run.options), kRuntime);
+        BringRuntime(run, runtime);
+        try {
+            run.host.machine.StartProgram(runtime, argument);
+        } catch (const MissingProgram& missing) {
+            advice = missing.Name() + " saknas på den här datorn. Programmet behövs för att visa "
+                                      "installationen; installera det och försök igen.";
+            throw;
+        }
     };
     const int error = RunErrorNumber(start, run.failure);
     return error == ErrorNumber::kNone ||
-           Fail(run, title, error, "32-bitars inladdaren 'QNS32X.EXE' skulle anropas");
+           Fail(run, title, error, "32-bitars inladdaren 'QNS32X.EXE' skulle anropas", advice);
 }
 
 } // namespace
 
 Text TestFolder(const CreateOptions& options)
 {
-    return options.ToolFolder + "\\Test";
+    return JoinPath(options.OwnFolder.empty() ? options.ToolFolder : options.OwnFolder, "Test");
 }
 
 bool WriteTestFiles(TestRun& run, const Text& folder)

@@ -24,6 +24,7 @@ struct CallContext {
     const Arguments& arguments;
     Host& host;
     Text toolFolder;
+    Text ownFolder; // where the tool writes
     // A path of this machine as a Windows path; nothing where it can't be one.
     std::function<std::optional<Text>(const std::string& hostPath)> toWindows;
     std::ostream& out;

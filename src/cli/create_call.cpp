@@ -89,7 +89,7 @@ Exit CreatePackage(const CallContext& context)
     const auto answers = context.arguments.Has("--continue") ? ConsoleAsk::Answers::ThatGoOn
                                                              : ConsoleAsk::Answers::ThatStop;
     ConsoleAsk ask(context.WantsJson() ? nullptr : &context.out, context.err, answers);
-    Session session = NewSession(context.host, ask, context.toolFolder);
+    Session session = NewSession(context.host, ask, context.toolFolder, context.ownFolder);
     // The tool would go on with a part; a package that lacks files would come out.
     if (OpenProject(session, path) == Opened::InPart)
         throw CallFailure{PartlyReadText(path) + " Ingen installation skapas.", Exit::Unreadable};

@@ -23,6 +23,7 @@ Exit RunCall(const Arguments& arguments)
         .arguments = arguments,
         .host = host.host,
         .toolFolder = host.ProgramFolder(),
+        .ownFolder = host.OwnFolder(),
         .toWindows = [&](const std::string& hostPath) { return host.drives.ToWindows(hostPath); },
         .out = std::cout,
         .err = std::cerr};

@@ -50,7 +50,7 @@ Exit TestProject(const CallContext& context)
     const Text path = context.PathOperand(0);
     const Text folder = DemandFolder(context);
     ConsoleAsk ask(nullptr, context.err);
-    Session session = NewSession(context.host, ask, context.toolFolder);
+    Session session = NewSession(context.host, ask, context.toolFolder, context.ownFolder);
     // A test of a part would show another setup than the project's.
     if (OpenProject(session, path) == Opened::InPart)
         throw CallFailure{PartlyReadText(path) + " Inget test skrivs.", Exit::Unreadable};

@@ -18,7 +18,7 @@ Text OfferedProjectsFolder(const Machine& machine)
 
 void FindProjectsFolder(Session& session)
 {
-    session.ProjectsFolder = session.options.ToolFolder + "\\Projects";
+    session.ProjectsFolder = session.options.OwnFolder + "\\Projects";
     const Machine& machine = session.host.machine;
     if (machine.GetMyDocumentsDir().empty())
         return;

@@ -4,9 +4,10 @@
 
 namespace quillon {
 
-Session NewSession(Host& host, Ask& ask, const Text& toolFolder)
+Session NewSession(Host& host, Ask& ask, const Text& toolFolder, const Text& ownFolder)
 {
-    Session session{.host = host, .ask = ask, .options = DefaultCreateOptions(toolFolder)};
+    Session session{
+        .host = host, .ask = ask, .options = DefaultCreateOptions(toolFolder, ownFolder)};
     ResetToNewProject(session.project, session.state, toolFolder);
     return session;
 }

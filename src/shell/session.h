@@ -22,7 +22,8 @@ struct Session {
     // The project's file as it was when it was last read or saved.
     KnownFile knownFile;
 
-    // Where programs and data of the tool lie is `options.ToolFolder`.
+    // Where programs and data of the tool lie is `options.ToolFolder`, where it writes
+    // `options.OwnFolder`.
     CreateOptions options;
     quillon::Settings Settings;
     // Newest first; a free slot is empty.
@@ -37,7 +38,8 @@ struct Session {
     DesignSurface surface;
 };
 
-/// A session with a new project, and the options of a tool that was never set up.
-Session NewSession(Host& host, Ask& ask, const Text& toolFolder);
+/// A session with a new project, and the options of a tool that was never set up. `ownFolder` is
+/// where the tool writes, its own folder where it is empty.
+Session NewSession(Host& host, Ask& ask, const Text& toolFolder, const Text& ownFolder = {});
 
 } // namespace quillon

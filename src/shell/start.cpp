@@ -1,5 +1,6 @@
 #include "shell/start.h"
 
+#include "builder/tool_folders.h"
 #include "project/new_project.h"
 #include "shell/project_commands.h"
 #include "shell/projects_folder.h"
@@ -9,7 +10,8 @@ namespace quillon {
 
 void StartSession(Session& session)
 {
-    session.options = DefaultCreateOptions(session.options.ToolFolder);
+    session.options = DefaultCreateOptions(session.options.ToolFolder, session.options.OwnFolder);
+    MakeToolFolders(session.options, session.host.files);
     session.RecentFiles = {};
     session.LastInstallFilesDir = "C:\\";
     session.LastDepFileDir = "C:\\";

@@ -162,5 +162,28 @@ TEST_F(LanguageFilesTest, AreEditedAsTexts)
     EditLanguage(machine.host, kTool, "NORSK.LNG", ask);
 }
 
+TEST_F(LanguageFilesTest, AreAddedInTheUsersFolderWhereTheToolsIsClosed)
+{
+    const LanguageFolders folders(kTool, "C:\\Data\\Quillon");
+    Put("SWEDISH.LNG", "from the tool");
+    Put("NORSK.LNG", "from the tool");
+    ask.choices = {{{"finska"}}, {{"norsk"}}};
+    EXPECT_EQ(AddLanguage(machine.host, folders, ask), "FINSKA.LNG");
+    EXPECT_EQ(machine.files.Get("C:\\Data\\Quillon\\Language\\FINSKA.LNG"), "from the tool");
+    EXPECT_FALSE(machine.files.FileExists("C:\\Quillon\\Language\\FINSKA.LNG"));
+    EXPECT_EQ(AddLanguage(machine.host, folders, ask), "NORSK.LNG");
+    EXPECT_THAT(LanguageFiles(machine.files, folders, ask),
+                ElementsAre("FINSKA.LNG", "NORSK.LNG", "SWEDISH.LNG"));
+    EXPECT_EQ(LanguagePath(machine.files, folders, "NORSK.LNG"),
+              "C:\\Data\\Quillon\\Language\\NORSK.LNG");
+    EXPECT_EQ(LanguagePath(machine.files, folders, "SWEDISH.LNG"),
+              "C:\\Quillon\\Language\\SWEDISH.LNG");
+    EXPECT_EQ(LanguagePath(machine.files, folders, "BORTA.LNG"),
+              "C:\\Quillon\\Language\\BORTA.LNG");
+    EditLanguage(machine.host, folders, "FINSKA.LNG", ask);
+    ASSERT_FALSE(machine.machine.started.empty());
+    EXPECT_EQ(machine.machine.started.back().second, "C:\\Data\\Quillon\\Language\\FINSKA.LNG");
+}
+
 } // namespace
 } // namespace quillon::test

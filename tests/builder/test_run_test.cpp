@@ -3,6 +3,7 @@
 #include "create_desk.h"
 #include "formats/package_files.h"
 #include "formats/setup_information.h"
+#include "platform/missing_program.h"
 
 #include <gtest/gtest.h>
 
@@ -304,6 +305,48 @@ TEST_F(TestRunTest, TellsThatThePreviewCouldNotBeStarted)
     EXPECT_FALSE(
         Preview({{BoxKind::Critical, "Kan ej förhandsgranska",
                   "Fel #5 inträffade när 32-bitars inladdaren 'QNS32X.EXE' skulle anropas!"}}));
+}
+
+TEST_F(TestRunTest, RunsInTheUsersFolderWhereTheToolsIsClosed)
+{
+    const Text own = "C:\\Data\\Quillon";
+    desk.options.OwnFolder = own;
+    desk.machine.files.Put(own + "\\Language\\FINSKA.LNG", "egen");
+    project.Language.LanguageFile = "FINSKA.LNG";
+    EXPECT_TRUE(Simulate());
+    EXPECT_FALSE(Has(kFileListName)) << "nothing is written beside the tool";
+    EXPECT_TRUE(desk.machine.files.FileExists(own + "\\Test\\FILELIST.INF"));
+    EXPECT_EQ(desk.machine.files.Get(own + "\\Test\\FINSKA.LNG"), "egen");
+    EXPECT_EQ(desk.machine.files.Get(own + "\\Test\\Qns32x.exe"), "runtime");
+    EXPECT_TRUE(Preview());
+    EXPECT_THAT(desk.machine.machine.started,
+                ElementsAre(Pair(own + "\\Test\\Qns32x.exe", "/TEST"),
+                            Pair(own + "\\Test\\Qns32x.exe", "/PREVIEW")));
+}
+
+/// A machine that can't run what the setup is.
+class WithoutWine : public test::FixedMachine {
+public:
+    void StartProgram(const Text& program, const Text&) override
+    {
+        throw MissingProgram("Wine", program);
+    }
+};
+
+TEST_F(TestRunTest, SaysThatWineIsMissing)
+{
+    const Text advice = "\r\n\r\nWine saknas på den här datorn. Programmet behövs för att visa "
+                        "installationen; installera det och försök igen.";
+    const Text text = "Fel #5 inträffade när 32-bitars inladdaren 'QNS32X.EXE' skulle anropas!";
+    WithoutWine machine;
+    Host host{desk.machine.files, machine};
+    ScriptedAsk ask(
+        {CannotTest(text + advice), {BoxKind::Critical, "Kan ej förhandsgranska", text + advice}});
+    TestRun run{project, host, ask, desk.options};
+    EXPECT_FALSE(StartSimulation(run));
+    EXPECT_FALSE(StartDesignPreview(run));
+    ASSERT_TRUE(run.failure);
+    EXPECT_EQ(run.failure->Number(), 5);
 }
 
 } // namespace

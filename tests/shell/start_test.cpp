@@ -52,6 +52,36 @@ TEST_F(Start, GivesTheStartValuesOfAMachineThatWasNeverSetUp)
         EXPECT_EQ(file, "");
 }
 
+TEST_F(Start, MakesTheFoldersOfTheTool)
+{
+    StartSession(session);
+    for (const char* name :
+         {"Res", "Language", "RTF", "Test", "Release", "Projects", "Diagnos", "BugReport", "TEMP"})
+        EXPECT_TRUE(memory.files.DirExists(Text(kToolFolder) + "\\" + name)) << name;
+}
+
+TEST_F(Start, WritesInTheUsersFolderWhereTheToolsOwnIsClosed)
+{
+    const Text own = "C:\\Data\\Quillon";
+    Session closed = NewSession(memory.host, ask, kToolFolder, own);
+    StartSession(closed);
+    for (const char* name : {"Language", "Test", "Projects", "Diagnos", "BugReport", "TEMP"}) {
+        EXPECT_TRUE(memory.files.DirExists(own + "\\" + name)) << name;
+        EXPECT_FALSE(memory.files.DirExists(Text(kToolFolder) + "\\" + name)) << name;
+    }
+    EXPECT_FALSE(memory.files.DirExists(own + "\\Res"));
+    EXPECT_EQ(closed.ProjectsFolder, own + "\\Projects");
+    EXPECT_EQ(closed.options.TempZipPath, own + "\\TEMP");
+    EXPECT_EQ(closed.options.ToolFolder, kToolFolder);
+}
+
+TEST_F(Start, GoesOnWhereNoFolderCanBeMade)
+{
+    memory.files.refuseFolders = true;
+    StartSession(session);
+    EXPECT_EQ(session.ProjectsFolder, kOwnProjects);
+}
+
 TEST_F(Start, ReadsTheSettings)
 {
     memory.files.Put(kSettings, "[RecentFiles]\r\nF1=C:\\a.qnp\r\n[HideTabs]\r\n"

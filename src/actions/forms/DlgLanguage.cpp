@@ -1,6 +1,5 @@
 #include "actions/forms/DlgLanguage.h"
 
-#include "actions/language_files.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 
@@ -20,9 +19,8 @@ DlgLanguage::DlgLanguage(Session& session, QWidget* parent)
     Named(NAMED(FileListX), new QListWidget);
     FileListX->setUniformItemSizes(true);
     Button(NAMED(cmdAddLanguage), "&Lägg till språk...", [this] { AddLanguage(); });
-    Button(NAMED(cmdEditLanguage), "&Redigera text...", [this] {
-        EditLanguage(session_.host, session_.options.ToolFolder, SelectedFile(), session_.ask);
-    });
+    Button(NAMED(cmdEditLanguage), "&Redigera text...",
+           [this] { EditLanguage(session_.host, Folders(), SelectedFile(), session_.ask); });
     connect(FileListX, &QListWidget::itemSelectionChanged, this,
             [this] { cmdEditLanguage->setEnabled(!SelectedFile().empty()); });
     ShowFiles(session.project.Language.LanguageFile);
@@ -36,11 +34,15 @@ DlgLanguage::DlgLanguage(Session& session, QWidget* parent)
     FileListX->setFocus();
 }
 
+LanguageFolders DlgLanguage::Folders() const
+{
+    return {session_.options.ToolFolder, session_.options.OwnFolder};
+}
+
 void DlgLanguage::ShowFiles(const Text& selected)
 {
     FileListX->clear();
-    for (const Text& name :
-         LanguageFiles(session_.host.files, session_.options.ToolFolder, session_.ask)) {
+    for (const Text& name : LanguageFiles(session_.host.files, Folders(), session_.ask)) {
         auto* entry = new QListWidgetItem(ToQt(name), FileListX);
         if (EqualIgnoreCase(name, selected))
             FileListX->setCurrentItem(entry);
@@ -56,8 +58,7 @@ Text DlgLanguage::SelectedFile() const
 
 void DlgLanguage::AddLanguage()
 {
-    const auto added =
-        quillon::AddLanguage(session_.host, session_.options.ToolFolder, session_.ask);
+    const auto added = quillon::AddLanguage(session_.host, Folders(), session_.ask);
     if (!added)
         return;
     const Text before = SelectedFile();

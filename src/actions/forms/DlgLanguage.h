@@ -1,6 +1,7 @@
 // The language of the setup: one of the files beside the tool.
 #pragma once
 
+#include "actions/language_files.h"
 #include "ui/Form.h"
 
 class QListWidget;
@@ -22,6 +23,7 @@ protected:
 private:
     /// Lists the files anew, this one selected; none where it is not among them.
     void ShowFiles(const Text& selected);
+    LanguageFolders Folders() const;
     Text SelectedFile() const;
     void AddLanguage();
 };

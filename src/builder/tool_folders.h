@@ -1,0 +1,13 @@
+// The folders below the tool's own, or below the user's stand-in for it.
+#pragma once
+
+#include "builder/create_options.h"
+#include "platform/file_system.h"
+
+namespace quillon {
+
+/// Makes those that are missing where the tool writes. One that can't be made is told by whoever
+/// needs it.
+void MakeToolFolders(const CreateOptions& options, FileSystem& files);
+
+} // namespace quillon
