@@ -97,18 +97,6 @@ void DemandSameRows(const std::vector<FileListRow>& wanted, const std::vector<Fi
                               Exit::Stopped};
 }
 
-// A file whose rows stand in an order of their own keeps it: a call that changes nothing else must
-// not move them. Its duplicates are looked for in the whole list, as in one that nothing sorts.
-void KeepOrderOfTheFile(FileList& files)
-{
-    FileList ordered = files;
-    SortRows(ordered);
-    if (ordered.rows == files.rows)
-        return;
-    files.sorted = false;
-    files.sortKey = Destination;
-}
-
 } // namespace
 
 ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin begin)
@@ -129,7 +117,7 @@ ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin beg
         bytesBefore_ = ReadWholeFile(context.host.files, path);
     // What was told while opening is no fault of the work that follows.
     ask.refusals.clear();
-    KeepOrderOfTheFile(Files());
+    KeepStoredOrder(Files());
     settingsBefore_ = SettingsJson(session.project);
     rowsBefore_ = Files().rows;
 }

@@ -71,6 +71,16 @@ NewPlaces SortRowsBy(FileList& list, Column key, bool descending)
     return SortRows(list);
 }
 
+void KeepStoredOrder(FileList& list)
+{
+    list.sortKey = Filename;
+    list.sortDescending = false;
+    const auto name = [](const FileListRow& row) { return SortText(row, Filename); };
+    list.sorted = std::ranges::is_sorted(list.rows, {}, name);
+    if (!list.sorted)
+        list.sortKey = Destination;
+}
+
 NewPlaces HandleColumnClick(FileList& list, std::string_view header)
 {
     Column key = list.sortKey;

@@ -23,6 +23,11 @@ NewPlaces SortRows(FileList& list);
 /// Sorts by this key from now on.
 NewPlaces SortRowsBy(FileList& list, Column key, bool descending = false);
 
+/// Rows that come from a file keep its order, whoever reads it. The list is sorted by name from
+/// then on where they stand by name, else it is not sorted, and its duplicates are looked for in
+/// all of it.
+void KeepStoredOrder(FileList& list);
+
 /// A click on the column with this header.
 NewPlaces HandleColumnClick(FileList& list, std::string_view header);
 

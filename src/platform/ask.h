@@ -17,13 +17,15 @@ enum class Answer { Yes, No, Cancel };
 struct FileQuestion {
     Text title;
     Text folder;   // where it opens; empty, or no longer there: where the system thinks best
-    Text fileName; // what stands in its name field
+    Text fileName; // what stands in its name field; "*.ini" shows the files of that kind alone
     // Captions and their patterns by turns: "Projektfiler (*.qnp)|*.qnp|Alla filer (*.*)|*.*".
     Text filter;
     Text defaultExtension; // ".qnp", for a typed name that has none
     // Files with size and date, or as in older dialogs their names alone, in columns.
     enum class Look { Details, NamesOnly };
     Look look = Look::Details;
+    // Whether a project will name the file, so that its path must be one that a project can hold.
+    bool isForProject = true;
 };
 
 /// What the choice of a destination is opened with.

@@ -20,7 +20,7 @@ inline constexpr ProjectKey<DialogBoxes> kDialogBoxes[] = {
     {"ProgramGroupDlg",     &DialogBoxes::ProgramGroupDlg,     Stored::AsFlagReadAsNumber},
     {"StartInstallDlg",     &DialogBoxes::StartInstallDlg,     Stored::AsFlagReadAsNumber},
     {"InstallCompletedDlg", &DialogBoxes::InstallCompletedDlg, Stored::AsFlagReadAsNumber},
-    {"DlgBitmap",           &DialogBoxes::DlgBitmap,           Stored::AsText, 200},
+    {"DlgBitmap",           &DialogBoxes::DlgBitmap,           Stored::AsDlgBitmap, 200},
 };
 
 inline constexpr ProjectKey<DialogBoxData> kDialogBoxData[] = {
@@ -34,12 +34,12 @@ inline constexpr ProjectKey<DialogBoxData> kDialogBoxData[] = {
     {"GeneralDlgText2",             &DialogBoxData::GeneralDlgText2,             Stored::AsLines, 700},
     {"StartInstallDlgText",         &DialogBoxData::StartInstallDlgText,         Stored::AsLines, 700},
     {"InstallCompleteDlgText",      &DialogBoxData::InstallCompleteDlgText,      Stored::AsLines, 700},
-    {"WelcomeDlgBitmap",            &DialogBoxData::WelcomeDlgBitmap,            Stored::AsText, 200},
-    {"GeneralDlgBitmap",            &DialogBoxData::GeneralDlgBitmap,            Stored::AsText, 200},
-    {"GeneralDlgBitmap2",           &DialogBoxData::GeneralDlgBitmap2,           Stored::AsText, 200},
-    {"StartInstallDlgBitmap",       &DialogBoxData::StartInstallDlgBitmap,       Stored::AsText, 200},
-    {"InstallCompleteDlgBitmap",    &DialogBoxData::InstallCompleteDlgBitmap,    Stored::AsText, 200},
-    {"NameCompanyDlgBitmap",        &DialogBoxData::NameCompanyDlgBitmap,        Stored::AsText, 200},
+    {"WelcomeDlgBitmap",            &DialogBoxData::WelcomeDlgBitmap,            Stored::AsDlgBitmap, 200},
+    {"GeneralDlgBitmap",            &DialogBoxData::GeneralDlgBitmap,            Stored::AsDlgBitmap, 200},
+    {"GeneralDlgBitmap2",           &DialogBoxData::GeneralDlgBitmap2,           Stored::AsDlgBitmap, 200},
+    {"StartInstallDlgBitmap",       &DialogBoxData::StartInstallDlgBitmap,       Stored::AsDlgBitmap, 200},
+    {"InstallCompleteDlgBitmap",    &DialogBoxData::InstallCompleteDlgBitmap,    Stored::AsDlgBitmap, 200},
+    {"NameCompanyDlgBitmap",        &DialogBoxData::NameCompanyDlgBitmap,        Stored::AsDlgBitmap, 200},
     {"LicenseTitle",                &DialogBoxData::LicenseTitle,                Stored::AsText, 200},
     {"LicenseText",                 &DialogBoxData::LicenseText,                 Stored::AsLongLines, 16384},
     {"LicenseFootText",             &DialogBoxData::LicenseFootText,             Stored::AsText, 200},

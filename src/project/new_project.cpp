@@ -46,7 +46,7 @@ void ResetToNewProject(Project& project, OpenProjectState& state, const Text& to
 
 Text DefaultDlgBitmap(const Text& toolFolder)
 {
-    return JoinPath(PrettyPath(toolFolder), "Res\\SetupDef.bmp");
+    return JoinPath(JoinPath(PrettyPath(toolFolder), "Res"), kDefaultDlgBitmapName);
 }
 
 } // namespace quillon

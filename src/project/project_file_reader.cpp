@@ -36,9 +36,15 @@ struct ReadRun {
     Generation generation = Generation::Current;
 };
 
-Text TextFromFile(const ProfileReader& reader, Stored form, const Text& key, int limit)
+Text TextFromFile(const ReadRun& run, Stored form, const Text& key, int limit)
 {
+    const ProfileReader& reader = run.reader;
     switch (form) {
+    case Stored::AsDlgBitmap: {
+        const Text path = reader.ReadIniString(key, limit);
+        return EqualIgnoreCase(path, kDefaultDlgBitmapName) ? DefaultDlgBitmap(run.toolFolder)
+                                                            : path;
+    }
     case Stored::AsLines:
         return DecodeLineBreaks(reader.ReadIniString(key, limit));
     case Stored::AsLongLines:
@@ -183,7 +189,7 @@ private:
     void ReadKey(const ProjectKey<Record>& key, const Text& name, Record& record)
     {
         if (const auto text = std::get_if<Text Record::*>(&key.field))
-            record.** text = TextFromFile(run_.reader, key.form, name, key.limit);
+            record.** text = TextFromFile(run_, key.form, name, key.limit);
         else if (const auto number = std::get_if<Integer Record::*>(&key.field))
             IntegerFromFile(run_.reader, key.form, name, record.**number);
         else

@@ -1,12 +1,15 @@
 // Writes the project file: its head, the settings sections by their tables, the lists, the
 // components and the rows.
+#include "helpers/ansi_text.h"
 #include "helpers/line_breaks.h"
 #include "helpers/product.h"
+#include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "project/components.h"
 #include "project/file_rows.h"
 #include "project/list_sections.h"
+#include "project/new_project.h"
 #include "project/program_group.h"
 #include "project/project_file.h"
 #include "project/section_walk.h"
@@ -26,9 +29,21 @@ Text Pixels(Integer twips, int twipsPerPixel)
     return NumberText(RoundToEven(static_cast<double>(twips) / twipsPerPixel));
 }
 
-Text TextOnFile(Stored form, const Text& value)
+/// The picture of a tool whose folder can't stand in the file: in a tool that reads it, wherever
+/// that one lies, it is the default picture again.
+Text DlgBitmapOnFile(const Text& path, int limit)
+{
+    const bool isDefault = EqualIgnoreCase(ExtractFilename(path), kDefaultDlgBitmapName);
+    const bool fits =
+        AnsiText::Holds(path) && CharacterCount(path) < static_cast<std::size_t>(limit);
+    return isDefault && !fits ? kDefaultDlgBitmapName : path;
+}
+
+Text TextOnFile(Stored form, const Text& value, int limit)
 {
     switch (form) {
+    case Stored::AsDlgBitmap:
+        return DlgBitmapOnFile(value, limit);
     case Stored::AsLines:
     case Stored::AsLongLines:
         return EncodeLineBreaks(value);
@@ -115,7 +130,7 @@ private:
     Text ValueOnFile(const ProjectKey<Record>& key, const Record& record) const
     {
         if (const auto text = std::get_if<Text Record::*>(&key.field))
-            return TextOnFile(key.form, record.**text);
+            return TextOnFile(key.form, record.**text, key.limit);
         if (const auto number = std::get_if<Integer Record::*>(&key.field))
             return NumberOnFile(key.form, record.**number, screen_);
         return NumberOnFile(key.form, record.*std::get<Long Record::*>(key.field), screen_);

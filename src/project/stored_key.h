@@ -12,6 +12,7 @@ enum class Stored {
     AsLines,     // several lines, their breaks encoded
     AsLongLines, // the same, up to the longest limit
     AsFirstLine, // what follows the first line break is left out
+    AsDlgBitmap, // a picture; the tool's own stands there by its name where its path does not fit
 
     AsNumber,             // 0 if missing
     AsNumberOneIfMissing, // 1 if missing

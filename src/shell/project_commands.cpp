@@ -24,7 +24,9 @@ FileQuestion ProjectFileQuestion(const Session& session, const Text& title)
                           .folder = session.ProjectsFolder,
                           .fileName = "",
                           .filter = "Projektfiler (*.qnp)|*.qnp",
-                          .defaultExtension = kProjectFileExtension};
+                          .defaultExtension = kProjectFileExtension,
+                          // Nothing of its path is stored in the project.
+                          .isForProject = false};
     if (const Text folder = ExtractDirectory(session.state.ProjectFileName);
         !IsNeverSaved(session) && !folder.empty())
         question.folder = folder;
@@ -102,6 +104,12 @@ void OpenProject(Session& session, MainWindow& window)
         OpenNamedProject(session, window, *file);
 }
 
+void OpenDroppedProject(Session& session, MainWindow& window, const Text& file)
+{
+    if (AskSaveChanges(session, window) != SaveChanges::Cancel)
+        OpenNamedProject(session, window, file);
+}
+
 void OpenRecentFile(Session& session, MainWindow& window, std::size_t slot)
 {
     if (slot >= session.RecentFiles.size() || session.RecentFiles[slot].empty())
@@ -124,8 +132,7 @@ void OpenNamedProject(Session& session, MainWindow& window, const Text& file)
     session.state.ProjectFileName = file;
     window.ShowTitle();
     LoadProject(session);
-    // The arrow in the list's header holds for what is opened too; no change of the project.
-    SortRows(session.project.Files);
+    KeepStoredOrder(session.project.Files);
     window.ShowProject();
     window.ShowRecentFiles();
 }

@@ -1,6 +1,7 @@
 #include "shell/settings_file.h"
 
 #include "helpers/ansi_text.h"
+#include "helpers/utf8.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/saved_file.h"
@@ -17,6 +18,33 @@ namespace quillon {
 namespace {
 
 constexpr const char* kSettingsFileName = "QUILLON.INI";
+
+// A path with characters outside Windows-1252 stands in UTF-8 behind this mark.
+constexpr std::string_view kUtf8Mark = "utf-8:";
+
+bool HasNoLineBreak(const Text& value)
+{
+    return value.find_first_of("\r\n") == Text::npos;
+}
+
+/// The value as the file can hold it; one that would come back as another one is left out.
+Text FittingOnFile(const Text& value, int limit)
+{
+    if (!HasNoLineBreak(value))
+        return {};
+    if (AnsiText::Holds(value))
+        return value;
+    const bool isCut = kUtf8Mark.size() + value.size() >= static_cast<std::size_t>(limit);
+    return isCut ? Text() : Text(kUtf8Mark) + AnsiText::FromBytes(value);
+}
+
+Text ValueFromFile(const Text& onFile)
+{
+    if (!onFile.starts_with(kUtf8Mark))
+        return onFile;
+    Text value = AnsiText::ToBytes(std::string_view(onFile).substr(kUtf8Mark.size()));
+    return IsUtf8(value) ? value : Text();
+}
 
 class SettingsReader {
 public:
@@ -40,7 +68,7 @@ public:
 private:
     void Read(const Text& key, SettingForm, int limit, Text& value)
     {
-        value = reader_.ReadIniString(key, limit);
+        value = ValueFromFile(reader_.ReadIniString(key, limit));
     }
 
     void Read(const Text& key, SettingForm form, int, Integer& value)
@@ -77,23 +105,28 @@ public:
     {
         for (const SettingKey<Section>& key : table)
             std::visit(
-                [&](auto field) { Slot(section, key.name, OnFile(key.form, record.*field)); },
+                [&](auto field) {
+                    SetProfileValue(bytes_, section, key.name, OnFile(key, record.*field));
+                },
                 key.field);
     }
 
-    void Slot(const char* section, const Text& key, const Text& value)
+    void Slot(const char* section, const Text& key, const Text& file)
     {
-        // A name that no line of the file can hold would come back as another one.
-        const bool fits = AnsiText::Holds(value) && value.find_first_of("\r\n") == Text::npos;
-        SetProfileValue(bytes_, section, key, fits ? value : Text());
+        SetProfileValue(bytes_, section, key, FittingOnFile(file, kRecentFileLimit));
     }
 
 private:
-    static Text OnFile(SettingForm, const Text& value) { return value; }
-
-    static Text OnFile(SettingForm form, Long value)
+    template <class Section>
+    static Text OnFile(const SettingKey<Section>& key, const Text& value)
     {
-        return form == SettingForm::AsNumber ? NumberText(value) : value != kOff ? "1" : "0";
+        return FittingOnFile(value, key.limit);
+    }
+
+    template <class Section>
+    static Text OnFile(const SettingKey<Section>& key, Long value)
+    {
+        return key.form == SettingForm::AsNumber ? NumberText(value) : value != kOff ? "1" : "0";
     }
 
     std::string& bytes_;

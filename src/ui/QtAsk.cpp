@@ -3,6 +3,7 @@
 #include "ui/SelectDir.h"
 #include "ui/XInputBox.h"
 #include "ui/file_dialog.h"
+#include "ui/message_box.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -29,6 +30,7 @@ QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const Text& title, c
     QMessageBox box(icon, ToQt(title), ToQt(text), QMessageBox::NoButton, WindowInFront());
     box.setTextFormat(Qt::PlainText);
     box.setObjectName("MsgBox");
+    ShowOwnPicture(box);
     for (const BoxButton& button : buttons) {
         box.addButton(button.button)->setText(QString::fromUtf8(button.caption));
         box.setEscapeButton(button.button);

@@ -2,6 +2,7 @@
 
 #include "helpers/ansi_text.h"
 #include "ui/file_dialog_parts.h"
+#include "ui/message_box.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -10,6 +11,12 @@ namespace quillon {
 
 namespace {
 
+/// "*.x;*.y" as Qt's patterns. "*.*" means every file, those without a point too.
+QStringList PatternsOf(QString patterns)
+{
+    return patterns.replace("*.*", "*").split(';', Qt::SkipEmptyParts);
+}
+
 /// "A (*.x)|*.x|B (*.y;*.z)|*.y;*.z" as Qt's "A (*.x)" and "B (*.y *.z)".
 QStringList NameFilters(const Text& filter)
 {
@@ -17,9 +24,7 @@ QStringList NameFilters(const Text& filter)
     const QStringList parts = ToQt(filter).split('|');
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         const QString caption = parts[i].section('(', 0, 0).trimmed();
-        // "*.*" means every file, those without a point too.
-        const QString patterns = QString(parts[i + 1]).replace("*.*", "*").replace(';', ' ');
-        filters << caption + " (" + patterns + ")";
+        filters << caption + " (" + PatternsOf(parts[i + 1]).join(' ') + ")";
     }
     return filters;
 }
@@ -28,6 +33,12 @@ bool IsWindowsPath(const QString& typed)
 {
     static const QRegularExpression drive("^[A-Za-z]:[\\\\/]");
     return drive.match(typed).hasMatch();
+}
+
+/// "*.ini" instead of a name, which no file of Windows has.
+bool IsPattern(const QString& typed)
+{
+    return typed.contains('*') || typed.contains('?');
 }
 
 /// Qt's own dialog everywhere, since that of a desktop speaks the desktop's language and knows no
@@ -44,17 +55,19 @@ protected:
 private:
     void OpenFolder(const Text& folder);
     void LetWindowsPathsBeTyped();
+    bool TakeTypedPattern();
     bool TakeTypedWindowsPath();
     void LetTypedNamesCount();
     bool RefusesAFile();
     void Refuse(const QString& text);
 
     const HostPaths& paths_;
+    const bool isForProject_;
     FilePictures pictures_;
 };
 
 FileDialog::FileDialog(const FileQuestion& question, const HostPaths& paths, QWidget* parent)
-    : QFileDialog(parent), paths_(paths)
+    : QFileDialog(parent), paths_(paths), isForProject_(question.isForProject)
 {
     setObjectName("FileDialog");
     setOption(QFileDialog::DontUseNativeDialog);
@@ -67,14 +80,15 @@ FileDialog::FileDialog(const FileQuestion& question, const HostPaths& paths, QWi
     OpenFolder(question.folder);
     if (!question.defaultExtension.empty())
         setDefaultSuffix(ToQt(question.defaultExtension).remove(0, 1));
-    if (!question.fileName.empty() && question.fileName.find('*') == Text::npos)
-        selectFile(ToQt(question.fileName));
     DrawButtons(*this);
     LayOut(*this);
     LetWindowsPathsBeTyped();
+    auto* name = findChild<QLineEdit*>("fileNameEdit");
+    name->setText(ToQt(question.fileName));
+    name->selectAll();
 }
 
-/// Qt turns the button off for a name that is no file of this machine's.
+/// Qt turns the button off for a name that is no file of this machine's. A pattern is none either.
 void FileDialog::LetWindowsPathsBeTyped()
 {
     auto* field = findChild<QLineEdit*>("fileNameEdit");
@@ -82,7 +96,7 @@ void FileDialog::LetWindowsPathsBeTyped()
     connect(field, &QLineEdit::textChanged, this, [this, buttons](const QString& typed) {
         const auto which =
             acceptMode() == AcceptSave ? QDialogButtonBox::Save : QDialogButtonBox::Open;
-        if (IsWindowsPath(typed.trimmed()))
+        if (IsWindowsPath(typed.trimmed()) || IsPattern(typed))
             buttons->button(which)->setEnabled(true);
     });
 }
@@ -108,6 +122,8 @@ std::vector<Text> FileDialog::Ask()
 
 void FileDialog::accept()
 {
+    if (TakeTypedPattern())
+        return;
     LetTypedNamesCount();
     if (TakeTypedWindowsPath() && !RefusesAFile())
         QFileDialog::accept();
@@ -126,6 +142,19 @@ void FileDialog::LetTypedNamesCount()
             (view->objectName() == "treeView" || view->objectName() == "listView"))
             view->clearSelection();
     field->setText(typed);
+}
+
+/// As in Windows, a typed "*.txt" shows these files and leaves the dialog open.
+bool FileDialog::TakeTypedPattern()
+{
+    auto* field = findChild<QLineEdit*>("fileNameEdit");
+    const QString typed = field->text().trimmed();
+    if (!IsPattern(typed))
+        return false;
+    if (auto* files = findChild<QFileSystemModel*>())
+        files->setNameFilters(PatternsOf(typed));
+    field->selectAll();
+    return true;
 }
 
 /// A typed "C:\Data\a.txt" is looked up where drive C: lies here. False where there is no such
@@ -154,7 +183,7 @@ bool FileDialog::RefusesAFile()
         if (QFileInfo(file).isDir())
             continue;
         const auto path = paths_.toWindows(file.toStdString());
-        if (path && AnsiText::Holds(*path))
+        if (path && (!isForProject_ || AnsiText::Holds(*path)))
             continue;
         Refuse(path ? "Filen '" + file +
                           "' kan inte användas, eftersom namnet eller sökvägen innehåller tecken "
@@ -172,6 +201,7 @@ void FileDialog::Refuse(const QString& text)
     QMessageBox box(QMessageBox::Information, "Fel", text, QMessageBox::NoButton, this);
     box.setObjectName("MsgBox");
     box.setTextFormat(Qt::PlainText);
+    ShowOwnPicture(box);
     box.addButton(QMessageBox::Ok)->setText("OK");
     box.exec();
 }

@@ -38,6 +38,34 @@ struct Click {
     std::vector<Text> names;
 };
 
+TEST(KeepStoredOrder, SortsByNameFromThenOnWhatStandsByName)
+{
+    FileList list = MakeList({MakeRow("a_1"), MakeRow("AB"), MakeRow("b")});
+    std::swap(list.rows[0], list.rows[1]);
+    list.sorted = false;
+    list.sortKey = Date;
+    list.sortDescending = true;
+    KeepStoredOrder(list);
+    EXPECT_TRUE(list.sorted);
+    EXPECT_EQ(list.sortKey, Filename);
+    EXPECT_FALSE(list.sortDescending);
+    EXPECT_EQ(list.rows[0][Filename], "AB");
+}
+
+TEST(KeepStoredOrder, LeavesAnyOtherOrderAlone)
+{
+    FileList list = MakeList({MakeRow("b"), MakeRow("a")});
+    KeepStoredOrder(list);
+    EXPECT_FALSE(list.sorted);
+    EXPECT_NE(list.sortKey, Filename) << "duplicates are looked for in the whole list";
+    EXPECT_EQ(list.rows[0][Filename], "b");
+    SortRows(list);
+    EXPECT_EQ(list.rows[0][Filename], "b");
+    FileList none;
+    KeepStoredOrder(none);
+    EXPECT_TRUE(none.sorted);
+}
+
 } // namespace
 
 TEST(HandleColumnClick, SortsByTheColumnOfTheHeader)

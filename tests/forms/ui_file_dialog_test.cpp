@@ -213,5 +213,50 @@ TEST_F(FileDialogTest, OffersHomeAndDrivesAndShowsSwedishColumns)
     EXPECT_FALSE(ChooseFileToOpen(question, paths, nullptr));
 }
 
+TEST_F(FileDialogTest, TakesAnyFileThatNoProjectNames)
+{
+    question.isForProject = false;
+    OnNextDialog([](QDialog& dialog) { Enter(dialog, "日.qnp"); });
+    EXPECT_EQ(ChooseFileToOpen(question, paths, nullptr), "C:\\Data\\日.qnp");
+    OnNextDialog([](QDialog& dialog) { Enter(dialog, "Ω"); });
+    EXPECT_EQ(ChooseFileToSave(question, paths, nullptr), "C:\\Data\\Ω.qnp");
+    OnNextDialog([&](QDialog& dialog) {
+        EXPECT_TRUE(RefusalOf(dialog, "d\\e.qnp").contains("en sökväg i Windows"));
+    });
+    EXPECT_EQ(ChooseFileToOpen(question, paths, nullptr), std::nullopt);
+}
+
+/// The names in the list of files, once there are as many as wanted.
+QStringList ShownFiles(QDialog& dialog, int count)
+{
+    auto& view = Find<QTreeView>(dialog, "treeView");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view.model()->rowCount(view.rootIndex()) == count; }));
+    QStringList names;
+    for (int row = 0; row < view.model()->rowCount(view.rootIndex()); ++row)
+        names << view.model()->index(row, 0, view.rootIndex()).data().toString();
+    names.sort();
+    return names;
+}
+
+TEST_F(FileDialogTest, BeginsWithAPatternAndShowsWhatIsTypedAsOne)
+{
+    question.fileName = "*.qnp";
+    question.filter = "Alla filer (*.*)|*.*";
+    OnNextDialog([&](QDialog& dialog) {
+        auto& field = Find<QLineEdit>(dialog, "fileNameEdit");
+        EXPECT_EQ(field.text(), "*.qnp");
+        EXPECT_EQ(field.selectedText(), "*.qnp") << "what is typed takes its place";
+        EXPECT_EQ(ShownFiles(dialog, 5).size(), 5);
+        SavePicture(dialog, "FileDialog-pattern");
+        Enter(dialog, "*.txt");
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(ShownFiles(dialog, 1), QStringList{"c.txt"});
+        Enter(dialog, "*.*");
+        EXPECT_EQ(ShownFiles(dialog, 5).size(), 5);
+        Enter(dialog, "a.qnp");
+    });
+    EXPECT_EQ(ChooseFileToOpen(question, paths, nullptr), "C:\\Data\\a.qnp");
+}
+
 } // namespace
 } // namespace quillon::test

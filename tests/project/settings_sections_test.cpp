@@ -3,6 +3,7 @@
 #include "project_file_fixture.h"
 
 #include "helpers/ansi_text.h"
+#include "project/new_project.h"
 #include "project/section_walk.h"
 
 namespace quillon {
@@ -94,6 +95,39 @@ ReadEnd LoadWithPicture(ProjectOnDisk& disk, const std::string& bytes)
 {
     disk.machine.files.Put(AnsiText::FromBytes(ValueIn(bytes, "DialogBoxes", "DlgBitmap")), "BM");
     return disk.Load(bytes);
+}
+
+// A tool may lie where no path of Windows-1252 leads to; its own picture is found again all the
+// same.
+TEST(DefaultBitmap, IsStoredByNameWhereItsPathDoesNotFit)
+{
+    const Text folders[] = {"C:\\verktyg Ω", "C:\\" + Text(190, 'x')};
+    for (const Text& folder : folders) {
+        test::ProjectOnDisk disk;
+        OpenProjectState state;
+        ResetToNewProject(disk.project, state, folder);
+        const Text picture = DefaultDlgBitmap(folder);
+        disk.machine.files.Put(picture, "BM");
+        disk.project.DialogBoxData.GeneralDlgBitmap = "C:\\egen.bmp";
+        const std::string saved = disk.Save();
+        EXPECT_EQ(test::ValueIn(saved, "DialogBoxes", "DlgBitmap"), "SetupDef.bmp");
+        EXPECT_EQ(test::ValueIn(saved, "DialogBoxData", "WelcomeDlgBitmap"), "SetupDef.bmp");
+        EXPECT_EQ(test::ValueIn(saved, "DialogBoxData", "GeneralDlgBitmap"), "C:\\egen.bmp");
+
+        test::ScriptedAsk ask;
+        Project again;
+        EXPECT_EQ(ReadProjectFile(again, test::kPath, disk.machine.host, ask, folder),
+                  ReadEnd::Whole);
+        EXPECT_EQ(again.DialogBoxes.DlgBitmap, picture);
+        EXPECT_EQ(again.DialogBoxData.WelcomeDlgBitmap, picture);
+        EXPECT_EQ(again.DialogBoxData.GeneralDlgBitmap, "C:\\egen.bmp");
+    }
+}
+
+TEST(DefaultBitmap, IsStoredByItsPathWhereThatFits)
+{
+    test::ProjectOnDisk disk;
+    EXPECT_EQ(test::ValueIn(disk.Save(), "DialogBoxes", "DlgBitmap"), test::kDefaultBitmap);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "platform/run_error.h"
 #include "shell/fake_window.h"
 #include "shell/lifecycle.h"
+#include "shell/project_title.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"
 
@@ -199,8 +200,8 @@ TEST(OpenProjectTest, EntersARefusedFileAmongTheRecentFiles)
     EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
 }
 
-// The file's rows come into the order that the list has, as its header says, and that is no change.
-TEST(OpenProjectTest, SortsTheRowsAsTheListIsSorted)
+// One project has one order, here as in a script, and whatever list was shown before.
+TEST(OpenProjectTest, KeepsTheOrderOfTheFile)
 {
     Desk desk({}, {{{"C:\\P\\rader.qnp"}}, {{"C:\\P\\rader.qnp"}}});
     FileList& files = desk.session.project.Files;
@@ -214,13 +215,50 @@ TEST(OpenProjectTest, SortsTheRowsAsTheListIsSorted)
     NewProject(desk.session, desk.window);
     OpenProject(desk.session, desk.window);
     ASSERT_EQ(files.rows.size(), 2U);
-    EXPECT_EQ(files.rows[0][Filename], "a.txt");
+    EXPECT_EQ(files.rows[0][Filename], "z.txt");
+    EXPECT_FALSE(files.sorted);
     EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
 
+    files.rows[0][Filename] = "a.txt";
+    files.rows[1][Filename] = "z.txt";
+    SaveProject(desk.session);
     files.sortKey = Date;
+    files.sortDescending = true;
     OpenProject(desk.session, desk.window);
     ASSERT_EQ(files.rows.size(), 2U);
-    EXPECT_EQ(files.rows[0][Filename], "z.txt");
+    EXPECT_EQ(files.rows[0][Filename], "a.txt");
+    EXPECT_TRUE(files.sorted);
+    EXPECT_EQ(files.sortKey, Filename);
+    EXPECT_FALSE(files.sortDescending);
+}
+
+TEST(OpenProjectTest, AsksForFilesThatNoProjectHasToName)
+{
+    Desk desk({}, {{}, {}});
+    OpenProject(desk.session, desk.window);
+    SaveProjectAs(desk.session, desk.window);
+    ASSERT_EQ(desk.ask.questions.size(), 2U);
+    EXPECT_FALSE(desk.ask.questions[0].isForProject);
+    EXPECT_FALSE(desk.ask.questions[1].isForProject);
+}
+
+TEST(OpenDroppedProjectTest, AsksFirstWhatBecomesOfTheOpenOne)
+{
+    Desk desk({SaveQuestion(Answer::Cancel), SaveQuestion(Answer::No)});
+    desk.Change();
+    OpenDroppedProject(desk.session, desk.window, "C:\\P\\b.qnp");
+    EXPECT_EQ(desk.Name(), "Ändrat");
+    OpenDroppedProject(desk.session, desk.window, "C:\\P\\b.qnp");
+    EXPECT_EQ(desk.Name(), "b");
+    EXPECT_EQ(desk.session.state.ProjectFileName, "C:\\P\\b.qnp");
+}
+
+TEST(ProjectTitleTest, IsTheNameAlone)
+{
+    EXPECT_EQ(ProjectTitle("Z:\\a\\b.qnp"), "b.qnp");
+    EXPECT_EQ(ProjectTitle("Z:/a/b.qnp"), "b.qnp");
+    EXPECT_EQ(ProjectTitle("Z:\\a/b.qnp"), "b.qnp");
+    EXPECT_EQ(ProjectTitle("noname"), "noname");
 }
 
 TEST(OpenRecentFileTest, MovesTheThirdToTheFront)

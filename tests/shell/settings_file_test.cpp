@@ -191,9 +191,31 @@ TEST_F(SettingsFileTest, ReadsBytesOfAnyKind)
 
 TEST_F(SettingsFileTest, WritesNoNameThatAFileCannotHold)
 {
-    session.RecentFiles = {"C:\\Ж.qnp", "C:\\a\r\n[Options].qnp", "C:\\å.qnp"};
+    const Text tooLong = "C:\\" + Text(186, 'x') + "Ж.qnp";
+    session.RecentFiles = {tooLong, "C:\\a\r\n[Options].qnp", "C:\\å.qnp"};
     const Text written = AnsiText::FromBytes(Written());
     EXPECT_NE(written.find("F1=\r\nF2=\r\nF3=C:\\å.qnp\r\n"), Text::npos) << written;
+}
+
+TEST_F(SettingsFileTest, RemembersPathsWithCharactersOutsideTheCodePage)
+{
+    const Text folder = "C:\\verktyg Ω\\日本 ";
+    const Text longest = "C:\\" + Text(185, 'x') + "Ж.qnp";
+    session.RecentFiles = {"C:\\Ж.qnp", folder + "å.qnp", longest, "C:\\å.qnp"};
+    session.Settings.Directories.LastSoundDir = "C:\\Ω";
+    EXPECT_NE(Written().find("F1=utf-8:C:\\\xD0\x96.qnp\r\n"), std::string::npos);
+    Session next = NewSession(memory.host, ask, "C:\\Program\\Quillon");
+    ReadDataFromIniFile(next);
+    EXPECT_EQ(next.RecentFiles, session.RecentFiles);
+    EXPECT_EQ(next.Settings.Directories.LastSoundDir, "C:\\Ω");
+}
+
+TEST_F(SettingsFileTest, ReadsNothingFromADamagedName)
+{
+    memory.files.Put(kFile, "[RecentFiles]\r\nF1=utf-8:C:\\\xD0.qnp\r\nF2=utf-8:\r\n");
+    ReadDataFromIniFile(session);
+    EXPECT_EQ(session.RecentFiles[0], "");
+    EXPECT_EQ(session.RecentFiles[1], "");
 }
 
 TEST_F(SettingsFileTest, WritesAHiddenTabAsMinusOneWhateverNumberStoodThere)
