@@ -2,6 +2,7 @@
 
 #include "app/FileListView.h"
 #include "app/ProjectHeader.h"
+#include "app/dropped_project.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -26,7 +27,8 @@ void FilesPage::ShowSession()
 
 void FilesPage::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (onDrop && event->mimeData()->hasUrls())
+    // A project is the window's to open.
+    if (onDrop && event->mimeData()->hasUrls() && !DroppedProject(*event->mimeData(), paths_))
         event->acceptProposedAction();
 }
 

@@ -6,19 +6,22 @@
 #include "app/FileListView.h"
 #include "app/FilesPage.h"
 #include "app/IniFilesPage.h"
+#include "app/MainTabs.h"
 #include "app/RegistryPage.h"
 #include "app/actions.h"
 #include "app/bars_look.h"
 #include "app/command_bars.h"
+#include "app/dropped_project.h"
+#include "app/in_place.h"
 #include "app/popup_file_list.h"
 #include "app/tab_pictures.h"
 #include "app/window_place.h"
 #include "filelist/forms/list_commands.h"
 #include "filelist/status_text.h"
 #include "helpers/product.h"
-#include "helpers/windows_path.h"
 #include "shell/failure_text.h"
 #include "shell/project_commands.h"
+#include "shell/project_title.h"
 #include "shell/settings_file.h"
 #include "ui/fit_screen.h"
 #include "ui/qt_text.h"
@@ -28,10 +31,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr std::array<const char*, kTabCount> kTabCaptions{"  Fillista  ",    "  Design  ",
-                                                          "  Dialogrutor  ", "  Registry  ",
-                                                          "  INI-filer  ",   "  Komponenter  "};
 
 // What the status bar has to tell.
 constexpr int kMinLetters = 50;
@@ -47,6 +46,7 @@ bool Scrolls(Tab tab)
 MainForm::MainForm(Session& session, HostPaths paths) : session_(session), paths_(std::move(paths))
 {
     setObjectName("MainForm");
+    setAcceptDrops(true);
     MakePages();
     MakeStatusBar();
     ConnectFileList();
@@ -73,11 +73,10 @@ void MainForm::MakePages()
               new RegistryPage(session_),
               new IniFilesPage(session_),
               new ComponentsPage(session_, [this] { files_->List().ShowComponentColumns(); })};
-    MainTab_ = new QTabWidget;
-    MainTab_->setObjectName("MainTab");
+    std::array<QWidget*, kTabCount> pages{};
     for (std::size_t i = 0; i < pages_.size(); ++i)
-        MainTab_->addTab(Scrolls(static_cast<Tab>(i)) ? Scrolled(pages_[i]) : pages_[i],
-                         kTabCaptions[i]);
+        pages[i] = Scrolls(static_cast<Tab>(i)) ? Scrolled(pages_[i]) : pages_[i];
+    MainTab_ = new MainTabs(pages);
     ShowTabPictures(*MainTab_, session_.host.files, session_.options.ToolFolder);
     setCentralWidget(MainTab_);
 }
@@ -120,14 +119,16 @@ void MainForm::ConnectFileList()
 void MainForm::ShowProject()
 {
     ShowTitle();
-    for (Page* page : pages_)
+    for (Page* page : pages_) {
         page->ShowSession();
+        ForgetUndo(*page);
+    }
     UpdateStatusBar();
 }
 
 void MainForm::ShowTitle()
 {
-    const Text name = ExtractFilename(session_.state.ProjectFileName);
+    const Text name = ProjectTitle(session_.state.ProjectFileName);
     setWindowTitle(ToQt(Text(kProductName) + " - [" + name + "]"));
 }
 
@@ -143,7 +144,7 @@ void MainForm::ShowSettings()
                                               {Tab::IniFiles, hide.HideTabINIFiles},
                                               {Tab::Components, hide.HideTabComponents}};
     for (const auto& [tab, isHidden] : hidden) {
-        MainTab_->setTabVisible(static_cast<int>(tab), isHidden == 0);
+        MainTab_->ShowTab(tab, isHidden == 0);
         bars_->ShowTabEntry(tab, isHidden == 0);
     }
     files_->List().ShowSettings();
@@ -157,15 +158,15 @@ void MainForm::ShowTab(Tab tab)
 
 void MainForm::SelectTab(Tab tab)
 {
-    if (!MainTab_->isTabVisible(static_cast<int>(tab)))
+    if (!MainTab_->IsShown(tab))
         return;
-    MainTab_->setCurrentIndex(static_cast<int>(tab));
+    MainTab_->Select(tab);
     MainTab_->setFocus();
 }
 
 Tab MainForm::SelectedTab() const
 {
-    return static_cast<Tab>(MainTab_->currentIndex());
+    return MainTab_->Selected();
 }
 
 void MainForm::ShowFileList(const std::vector<std::size_t>& selectedRows)
@@ -234,6 +235,25 @@ void MainForm::showEvent(QShowEvent* event)
     // The window is to be seen before a long project is read or a question comes up.
     if (auto activate = std::exchange(onFirstActivation, nullptr))
         QTimer::singleShot(0, this, std::move(activate));
+}
+
+void MainForm::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (DroppedProject(*event->mimeData(), paths_))
+        event->acceptProposedAction();
+}
+
+void MainForm::dropEvent(QDropEvent* event)
+{
+    const auto project = DroppedProject(*event->mimeData(), paths_);
+    if (!project)
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The question that may come up must not hold up the program that was dragged from.
+    QTimer::singleShot(0, this, [this, project] {
+        RunGuarded([&] { OpenDroppedProject(session_, *this, *project); });
+    });
 }
 
 void MainForm::closeEvent(QCloseEvent* event)

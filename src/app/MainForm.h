@@ -15,13 +15,13 @@
 
 class QAction;
 class QLabel;
-class QTabWidget;
 class QToolBar;
 
 namespace quillon {
 
 class CommandBars;
 class FilesPage;
+class MainTabs;
 
 class MainForm : public QMainWindow, public MainWindow {
 public:
@@ -58,6 +58,8 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void MakePages();
@@ -70,7 +72,7 @@ private:
 
     Session& session_;
     HostPaths paths_;
-    QTabWidget* MainTab_ = nullptr;
+    MainTabs* MainTab_ = nullptr;
     QLabel* statusPane_ = nullptr;
     QLabel* unsavedPane_ = nullptr;
     std::array<Page*, kTabCount> pages_{};

@@ -1,6 +1,6 @@
 #include "app/command_bars.h"
 
-#include "helpers/windows_path.h"
+#include "shell/project_title.h"
 #include "ui/icons.h"
 #include "ui/qt_text.h"
 
@@ -84,7 +84,7 @@ void CommandBars::ShowRecentFiles(const std::array<Text, kRecentFileCount>& file
         QAction* action = ActionOf(kFirstRecentFile + slot);
         // The mark of a free slot stands alone, so that the list of a new machine is not empty.
         action->setVisible(!file.empty() || slot == 0);
-        const Text name = file.empty() ? Text(kFreeSlot) : ExtractFilename(file);
+        const Text name = file.empty() ? Text(kFreeSlot) : ProjectTitle(file);
         action->setText(ToQt(name).replace('&', "&&"));
         action->setStatusTip(ToQt(file));
     }

@@ -62,4 +62,16 @@ void ShowInPlace(QPlainTextEdit* area, const Text& value)
     area->setPlainText(text);
 }
 
+void ForgetUndo(QWidget& page)
+{
+    for (auto* field : page.findChildren<QLineEdit*>()) {
+        const QSignalBlocker silence(field);
+        const int caret = field->cursorPosition();
+        field->setText(field->text());
+        field->setCursorPosition(caret);
+    }
+    for (auto* area : page.findChildren<QPlainTextEdit*>())
+        area->document()->clearUndoRedoStacks();
+}
+
 } // namespace quillon

@@ -7,6 +7,7 @@
 
 class QLineEdit;
 class QPlainTextEdit;
+class QWidget;
 
 namespace quillon {
 
@@ -20,5 +21,8 @@ QPlainTextEdit* EditListInPlace(QPlainTextEdit*& member, const char* name, Sessi
 /// Shows the value of the project. A field that shows it already keeps its caret and its undo.
 void ShowInPlace(QLineEdit* field, const Text& value);
 void ShowInPlace(QPlainTextEdit* area, const Text& value);
+
+/// Behind a change of projects: Undo must not bring back what belongs to the one before.
+void ForgetUndo(QWidget& page);
 
 } // namespace quillon
