@@ -31,6 +31,13 @@ const char* CaptionOf(DialogSwitch page)
     return found != std::end(kDialogChain) ? found->caption : "";
 }
 
+bool LeadsTheChain(const DialogBoxes& pages, DialogSwitch page)
+{
+    const auto* const found = std::ranges::find(kDialogChain, page, &DialogChainPage::isOn);
+    return std::none_of(std::begin(kDialogChain), found,
+                        [&](const DialogChainPage& before) { return pages.*before.isOn != 0; });
+}
+
 bool PressDialogPage(DialogBoxes& pages, DialogSwitch page)
 {
     const DialogSwitch rival = RivalOf(page, kAgreements);

@@ -7,8 +7,28 @@
 
 #include <QtWidgets>
 #include <algorithm>
+#include <map>
 
 namespace quillon {
+
+namespace {
+
+/// Options shut each other out from the moment on when they stand in one frame; what was chosen
+/// before that stays chosen.
+void ChooseOneOption(const QWidget& form)
+{
+    std::map<const QWidget*, QRadioButton*> chosen;
+    for (auto* option : form.findChildren<QRadioButton*>()) {
+        if (!option->isChecked())
+            continue;
+        QRadioButton*& before = chosen[option->parentWidget()];
+        if (before)
+            before->setChecked(false);
+        before = option;
+    }
+}
+
+} // namespace
 
 Form::Form(const char* name, const Text& title, QWidget* parent) : QDialog(parent)
 {
@@ -113,6 +133,7 @@ Piece Form::OkOnly()
 void Form::Arrange(Piece pieces)
 {
     quillon::Arrange(this, pieces);
+    ChooseOneOption(*this);
 }
 
 bool Form::event(QEvent* event)

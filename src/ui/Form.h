@@ -43,7 +43,7 @@ protected:
     /// A box for a number 0 or 1.
     QCheckBox* Check01(QCheckBox*& member, const char* name, const Text& caption, Integer& value);
     /// An option for a flag. The options that shut each other out stand in one frame, and one whose
-    /// flag is off is only unticked.
+    /// flag is off is only unticked. Of several whose flags are on, the last one is chosen.
     QRadioButton* Option(QRadioButton*& member, const char* name, const Text& caption, Flag& value);
     /// A list with one row chosen, by its place. A value outside the rows chooses none, and then
     /// nothing is stored.

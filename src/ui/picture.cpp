@@ -19,7 +19,36 @@ constexpr qint64 kMostPixels = 30'000'000;
 constexpr int kMostIcons = 64;
 constexpr int kLargestIcon = 1024;
 
-constexpr const char* kFormats[] = {"bmp", "gif", "ico", "jpeg", "jpg", "png"};
+constexpr char kBitmapFormat[] = "bmp";
+constexpr const char* kFormats[] = {kBitmapFormat, "gif", "ico", "jpeg", "jpg", "png"};
+
+std::uint32_t Number(const std::string& bytes, std::size_t place, std::size_t length)
+{
+    std::uint32_t number = 0;
+    for (std::size_t i = 0; i < length && place + i < bytes.size(); ++i)
+        number |= std::uint32_t{static_cast<unsigned char>(bytes[place + i])} << (8 * i);
+    return number;
+}
+
+/// Whether a bitmap file ends before its last point does. One with run lengths has no such end.
+bool IsCutBitmap(const std::string& bytes)
+{
+    constexpr std::uint32_t kOldHeader = 12;
+    constexpr std::uint32_t kRunLengths8 = 1;
+    constexpr std::uint32_t kRunLengths4 = 2;
+    const bool isOld = Number(bytes, 14, 4) == kOldHeader;
+    const std::uint32_t compression = isOld ? 0 : Number(bytes, 30, 4);
+    if (compression == kRunLengths8 || compression == kRunLengths4)
+        return false;
+    const std::uint64_t width = isOld ? Number(bytes, 18, 2) : Number(bytes, 18, 4);
+    const auto height =
+        static_cast<std::int32_t>(isOld ? Number(bytes, 20, 2) : Number(bytes, 22, 4));
+    const std::uint64_t bits = width * (isOld ? Number(bytes, 24, 2) : Number(bytes, 28, 2));
+    const auto rows = static_cast<std::uint64_t>(std::abs(std::int64_t{height}));
+    // Rows are filled up to whole words; of the last one that may be missing.
+    const std::uint64_t rowBytes = (bits + 31) / 32 * 4;
+    return rows > 0 && bytes.size() < Number(bytes, 10, 4) + rowBytes * (rows - 1) + (bits + 7) / 8;
+}
 
 /// Reads the pictures of one file, whose bytes it holds.
 class PictureFile {
@@ -50,8 +79,10 @@ public:
         if (std::find(std::begin(kFormats), std::end(kFormats), format) == std::end(kFormats) ||
             size.isEmpty() || qint64{size.width()} * size.height() > kMostPixels)
             return std::nullopt;
-        QImage picture = reader_.read();
-        return picture.isNull() ? std::nullopt : std::optional(std::move(picture));
+        if (format == kBitmapFormat && IsCutBitmap(bytes_))
+            return std::nullopt;
+        QImage picture = ClearedFor(format, size);
+        return reader_.read(&picture) ? std::optional(std::move(picture)) : std::nullopt;
     }
 
     std::vector<QImage> ReadIcons()
@@ -64,6 +95,17 @@ public:
     }
 
 private:
+    /// Points that a bitmap says nothing of would show what happens to lie in memory.
+    QImage ClearedFor(const QByteArray& format, const QSize& size) const
+    {
+        const QImage::Format form = reader_.imageFormat();
+        if (format != kBitmapFormat || form == QImage::Format_Invalid)
+            return {};
+        QImage cleared(size, form);
+        cleared.fill(0);
+        return cleared;
+    }
+
     static bool IsIconSize(const QImage& icon)
     {
         return !icon.isNull() && std::max(icon.width(), icon.height()) <= kLargestIcon;

@@ -112,5 +112,18 @@ TEST(TickDialogPage, SetsEachOtherPageAlone)
         }
 }
 
+TEST(LeadsTheChain, IsThePageInFrontOfAllThatAreOn)
+{
+    using section::DialogBoxes;
+    DialogBoxes pages;
+    pages.WelcomeDlg = 1;
+    EXPECT_TRUE(LeadsTheChain(pages, &DialogBoxes::WelcomeDlg));
+    EXPECT_FALSE(LeadsTheChain(pages, &DialogBoxes::GeneralInfoDlg));
+    pages.WelcomeDlg = 0;
+    EXPECT_TRUE(LeadsTheChain(pages, &DialogBoxes::WelcomeDlg));
+    EXPECT_TRUE(LeadsTheChain(pages, &DialogBoxes::GeneralInfoDlg));
+    EXPECT_FALSE(LeadsTheChain(pages, &DialogBoxes::InstallCompletedDlg));
+}
+
 } // namespace
 } // namespace quillon

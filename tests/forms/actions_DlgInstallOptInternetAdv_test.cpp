@@ -194,8 +194,7 @@ TEST_F(DlgInstallOptInternetAdvTest, TellsWhatIsNotSavedWithoutAProgram)
     });
     Click(*form, "CmdSelRegKey");
     EXPECT_TRUE(form->sProgramWarning->isVisible());
-    Click(*form, "cmdReset");
-    EXPECT_FALSE(form->sProgramWarning->isVisible());
+    EXPECT_FALSE(form->cmdReset->isEnabled()) << "there is no program to remove";
     Type(*form, "tReturnValueExit", "1");
     EXPECT_TRUE(form->sProgramWarning->isVisible());
     QApplication::processEvents();
@@ -203,6 +202,9 @@ TEST_F(DlgInstallOptInternetAdvTest, TellsWhatIsNotSavedWithoutAProgram)
     ask.choices = {{{"C:\\a.exe"}}};
     Click(*form, "cmdSelectProgram");
     EXPECT_FALSE(form->sProgramWarning->isVisible());
+    Click(*form, "cmdReset");
+    EXPECT_FALSE(form->sProgramWarning->isVisible());
+    EXPECT_FALSE(form->cmdReset->isEnabled());
 }
 
 TEST_F(DlgInstallOptInternetAdvTest, LooksRight)

@@ -184,5 +184,48 @@ TEST_F(InstDlgGeneralTest, LooksRightWithLongTexts)
     SavePicture(form, "InstDlgGeneral-long");
 }
 
+TEST_F(InstDlgGeneralTest, LeadsBackFromNoFirstPage)
+{
+    page.page = &section::DialogBoxes::WelcomeDlg;
+    InstDlgGeneral first(page, session, nullptr);
+    EXPECT_FALSE(first.cmdBack->isEnabled());
+    ExpectEachButtonCloses(first, {"cmdNext", "cmdCancel"});
+    page.page = &section::DialogBoxes::GeneralInfoDlg;
+    EXPECT_TRUE(InstDlgGeneral(page, session, nullptr).cmdBack->isEnabled());
+    session.project.DialogBoxes.WelcomeDlg = 0;
+    EXPECT_FALSE(InstDlgGeneral(page, session, nullptr).cmdBack->isEnabled());
+}
+
+TEST_F(InstDlgGeneralTest, EndsWithOneButton)
+{
+    page.title = "Installationen avslutad";
+    page.page = &section::DialogBoxes::InstallCompletedDlg;
+    InstDlgGeneral form(page, session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.findChildren<QPushButton*>().size(), 1);
+    EXPECT_EQ(form.cmdFinish->text(), "&Slutför");
+    EXPECT_TRUE(form.cmdFinish->hasFocus());
+    SavePicture(form, "InstDlgGeneral-sista");
+    SaveDarkPicture(form, "InstDlgGeneral-sista");
+    ExpectEachButtonCloses(form, {"cmdFinish"});
+}
+
+TEST_F(InstDlgGeneralTest, HasTheButtonsOfThePageThatIsEdited)
+{
+    for (const GeneralPage& edited : kGeneralPages) {
+        DlgGeneral editor(edited, session, nullptr);
+        ShowActive(editor);
+        OnNextDialog([&](QDialog& preview) {
+            const bool isLast = edited.isOn == &section::DialogBoxes::InstallCompletedDlg;
+            EXPECT_EQ(preview.findChild<QPushButton*>("cmdFinish") != nullptr, isLast);
+            const auto* back = preview.findChild<QPushButton*>("cmdBack");
+            EXPECT_EQ(back == nullptr, isLast);
+            if (edited.isOn == &section::DialogBoxes::WelcomeDlg)
+                EXPECT_FALSE(back->isEnabled());
+        });
+        Click(editor, "cmdTest");
+    }
+}
+
 } // namespace
 } // namespace quillon::test

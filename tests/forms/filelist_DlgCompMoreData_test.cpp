@@ -206,13 +206,15 @@ TEST_F(DlgCompMoreDataTest, DropsEverythingOnCancel)
     }
 }
 
-TEST_F(DlgCompMoreDataTest, MarksTheProjectByTheOkOfEitherForm)
+TEST_F(DlgCompMoreDataTest, MarksTheProjectByItsOwnOk)
 {
     DlgCompMoreData form(2, session, nullptr);
     ShowActive(form);
     OpenAdvanced(form, [](QDialog& advanced) { Click(advanced, "cmdCancel"); });
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
     OpenAdvanced(form, [](QDialog& advanced) { Click(advanced, "cmdOK"); });
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    Click(form, "cmdOK");
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
 }
 
@@ -232,6 +234,21 @@ TEST_F(DlgCompMoreDataTest, HasItsPictures)
     ShowActive(advanced);
     SavePicture(advanced, "DlgCompMoreDataAdv");
     SaveDarkPicture(advanced, "DlgCompMoreDataAdv");
+}
+
+TEST_F(DlgCompMoreDataTest, LeavesTheProjectUnchangedOnCancelBehindTheAdvancedForm)
+{
+    const section::FileComponent before = component;
+    DlgCompMoreData form(2, session, nullptr);
+    ShowActive(form);
+    OpenAdvanced(form, [](QDialog& advanced) {
+        Type(advanced, "tUpdateReferenceFile", "%DESTDIR\\Prog.exe");
+        Click(advanced, "cmdOK");
+    });
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    Click(form, "cmdCancel");
+    EXPECT_EQ(component.CompAdvUpdateRefFile, before.CompAdvUpdateRefFile);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
 
 } // namespace

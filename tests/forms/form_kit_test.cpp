@@ -219,5 +219,44 @@ TEST_F(FormKit, NamesItsControlsForScreenReaders)
     EXPECT_EQ(form.tText->accessibleName(), "Text");
 }
 
+class DlgOptions : public EditorForm {
+public:
+    DlgOptions(Session& session) : EditorForm("DlgOptions", "Val", session, nullptr)
+    {
+        section::TargetOS& systems = session.project.TargetOS;
+        section::ProgramGroup& group = session.project.ProgramGroup;
+        Arrange(Down({
+            Frame("Ett", {Option(NAMED(oWarn), "&Varna", systems.TargetOS_WarnIfWrong),
+                          Option(NAMED(oStop), "&Stoppa", systems.TargetOS_StopIfWrong)}),
+            Frame("Två", {Option(NAMED(oOne), "&En", group.ProgramGroup_CurrentUser),
+                          Option(NAMED(oAll), "&Alla", group.ProgramGroup_AllUsers)}),
+            OkCancel(),
+        }));
+    }
+
+    QRadioButton* oWarn = nullptr;
+    QRadioButton* oStop = nullptr;
+    QRadioButton* oOne = nullptr;
+    QRadioButton* oAll = nullptr;
+};
+
+TEST_F(FormKit, ShowsOneOptionOfAFrameAsChosen)
+{
+    section::TargetOS& systems = session.project.TargetOS;
+    systems.TargetOS_WarnIfWrong = systems.TargetOS_StopIfWrong = kOn;
+    DlgOptions form(session);
+    ShowActive(form);
+    EXPECT_FALSE(form.oWarn->isChecked());
+    EXPECT_TRUE(form.oStop->isChecked()) << "the last one counts";
+    EXPECT_TRUE(form.oOne->isChecked()) << "another frame is none of its business";
+    EXPECT_FALSE(form.oAll->isChecked());
+    EXPECT_EQ(systems.TargetOS_WarnIfWrong, kOn) << "nothing changes before OK";
+    Click(form, "oWarn");
+    EXPECT_FALSE(form.oStop->isChecked());
+    Click(form, "cmdOK");
+    EXPECT_EQ(systems.TargetOS_WarnIfWrong, kOn);
+    EXPECT_EQ(systems.TargetOS_StopIfWrong, kOff);
+}
+
 } // namespace
 } // namespace quillon::test

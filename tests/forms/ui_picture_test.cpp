@@ -82,5 +82,43 @@ TEST_F(LoadPictureTest, GivesNothingForAPictureThatIsTooLarge)
     EXPECT_FALSE(Load());
 }
 
+TEST_F(LoadPictureTest, TakesACutBitmapForADamagedOne)
+{
+    // Rows of 60, 10 and 3 bytes; what fills the last one up to whole words may be missing.
+    for (const auto& [form, padding] :
+         {std::pair{QImage::Format_RGB32, 0U}, std::pair{QImage::Format_Indexed8, 2U},
+          std::pair{QImage::Format_Mono, 1U}}) {
+        const std::string whole = Encoded(Striped().convertToFormat(form), "bmp");
+        machine.files.Put("C:\\bild", whole);
+        EXPECT_TRUE(Load()) << form;
+        machine.files.Put("C:\\bild", whole.substr(0, whole.size() - padding));
+        EXPECT_TRUE(Load()) << form;
+        machine.files.Put("C:\\bild", whole.substr(0, whole.size() - padding - 1));
+        EXPECT_FALSE(Load()) << form;
+        EXPECT_EQ(WhyNoPicture(machine.files, "C:\\bild"),
+                  "Bilden kan inte visas: den är skadad eller för stor");
+        machine.files.Put("C:\\bild", whole.substr(0, whole.size() / 2));
+        EXPECT_FALSE(Load()) << form;
+    }
+}
+
+// Run lengths may leave points out, at the end of the file too: they have the first colour, and not
+// what another picture has left in memory.
+TEST_F(LoadPictureTest, ShowsPointsThatABitmapLeavesOutInTheFirstColour)
+{
+    std::string bytes = Encoded(Striped().convertToFormat(QImage::Format_Indexed8), "bmp");
+    bytes[30] = 2; // run lengths, two points a byte
+    bytes.resize(static_cast<unsigned char>(bytes[10]));
+    bytes += std::string("\x05\x11", 2);
+    machine.files.Put("C:\\bild", bytes);
+    for (int run = 0; run < 3; ++run) {
+        const auto image = Load();
+        ASSERT_TRUE(image);
+        for (int y = 0; y < image->height(); ++y)
+            for (int x = 0; x < image->width(); ++x)
+                EXPECT_EQ(image->pixelIndex(x, y), y == 9 && x < 5 ? 1 : 0) << x << ' ' << y;
+    }
+}
+
 } // namespace
 } // namespace quillon::test

@@ -16,7 +16,7 @@ constexpr int kLettersOfAField = 50;
 } // namespace
 
 DlgGeneral::DlgGeneral(const GeneralPage& page, Session& session, QWidget* parent)
-    : PageEditor("DlgGeneral", page.isOn, session, parent)
+    : PageEditor("DlgGeneral", page.isOn, session, parent), page_(page.isOn)
 {
     Line(NAMED(tDialogTitle), page.title);
     Lines(NAMED(tDialogText), page.text);
@@ -39,7 +39,8 @@ void DlgGeneral::Test()
     ShowInstDlgGeneral(session_,
                        {.title = FromQt(tDialogTitle->text()),
                         .text = LinesFromQt(TypedText(tDialogText)),
-                        .bitmap = bitmap_},
+                        .bitmap = bitmap_,
+                        .page = page_},
                        this);
 }
 

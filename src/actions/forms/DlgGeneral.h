@@ -17,6 +17,7 @@ public:
 private:
     void Test();
 
+    DialogSwitch page_;
     Text bitmap_;
 };
 

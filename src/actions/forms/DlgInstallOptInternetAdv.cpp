@@ -45,14 +45,13 @@ DlgInstallOptInternetAdv::DlgInstallOptInternetAdv(InternetAdvanced& values, Ses
     }));
     for (QLineEdit* field : {tParam, tReturnValueExit, tReturnValueBack, tReturnValueDD})
         connect(field, &QLineEdit::textChanged, this, [this] { ShowWarning(); });
-    ShowWarning();
+    ShowProgram();
 }
 
 Piece DlgInstallOptInternetAdv::ProgramFrame()
 {
     RunAppSelfX& program = edited_.program;
     Named(NAMED(sProgramFilename), new PathLabel);
-    sProgramFilename->ShowPath(ToQt(program.ProgramFilename));
     Field(NAMED(tParam), program.Param, Longest(&RunAppSelfX::Param));
     Option(NAMED(oVisible), "Programmet är &visuellt och har ett grafiskt gränssnitt",
            program.VisibleWin);
@@ -95,8 +94,7 @@ void DlgInstallOptInternetAdv::SelectProgram()
     if (!path)
         return;
     edited_.program.ProgramFilename = *path;
-    sProgramFilename->ShowPath(ToQt(*path));
-    ShowWarning();
+    ShowProgram();
 }
 
 void DlgInstallOptInternetAdv::SelectRegKey()
@@ -109,10 +107,18 @@ void DlgInstallOptInternetAdv::SelectRegKey()
 void DlgInstallOptInternetAdv::Reset()
 {
     edited_.program = {};
-    sProgramFilename->ShowPath({});
+    ShowProgram();
     for (QLineEdit* field : {tParam, tReturnValueExit, tReturnValueBack, tReturnValueDD})
         field->clear();
     oInvisible->setChecked(true);
+    ShowWarning();
+}
+
+void DlgInstallOptInternetAdv::ShowProgram()
+{
+    const Text& program = edited_.program.ProgramFilename;
+    sProgramFilename->ShowPath(ToQt(program));
+    cmdReset->setEnabled(!program.empty());
     ShowWarning();
 }
 

@@ -38,6 +38,7 @@ private:
     void SelectProgram();
     void SelectRegKey();
     void Reset();
+    void ShowProgram();
     void ShowWarning();
 
     InternetAdvanced& values_;

@@ -35,9 +35,9 @@ QWidget* Box(Piece pieces)
 
 } // namespace
 
-InstDlg::InstDlg(const char* name, const Text& title, const Text& bitmap, Session& session,
-                 QWidget* parent)
-    : Form(name, title, parent), session_(session)
+InstDlg::InstDlg(const char* name, DialogSwitch page, const Text& title, const Text& bitmap,
+                 Session& session, QWidget* parent)
+    : Form(name, title, parent), session_(session), page_(page)
 {
     const Text shown = Shown(title);
     setWindowTitle(
@@ -110,7 +110,7 @@ void InstDlg::ArrangePage(Piece pieces, Buttons buttons)
     content->layout()->setContentsMargins(UnitsAcross(kMargin), UnitsDown(kMargin),
                                           UnitsAcross(kMargin), UnitsDown(kMargin));
     content->layout()->setSpacing(UnitsDown(kGap));
-    QWidget* row = Box(ButtonRow(buttons));
+    QWidget* row = Box(buttons == Buttons::Finish ? FinishRow() : ButtonRow(buttons));
     row->layout()->setContentsMargins(UnitsAcross(kMargin), UnitsDown(kMargin),
                                       UnitsAcross(kMargin), UnitsDown(kMargin));
     row->layout()->setSpacing(UnitsAcross(kButtonGap));
@@ -121,7 +121,9 @@ void InstDlg::ArrangePage(Piece pieces, Buttons buttons)
     layout()->setContentsMargins(0, 0, 0, 0);
     layout()->setSpacing(0);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
-    (buttons == Buttons::YesNo ? CmdYes : cmdNext)->setFocus();
+    for (QPushButton* forward : {cmdNext, CmdYes, cmdFinish})
+        if (forward)
+            forward->setFocus();
 }
 
 QPushButton* InstDlg::PageButton(QPushButton*& member, const char* name, const Text& caption)
@@ -134,6 +136,7 @@ QPushButton* InstDlg::PageButton(QPushButton*& member, const char* name, const T
 Piece InstDlg::ButtonRow(Buttons buttons)
 {
     PageButton(NAMED(cmdBack), "< &Bakåt");
+    cmdBack->setEnabled(!LeadsTheChain(session_.project.DialogBoxes, page_));
     const bool isAgreement = buttons == Buttons::YesNo;
     QPushButton* forward =
         isAgreement ? PageButton(NAMED(CmdYes), "&Ja") : PageButton(NAMED(cmdNext), "&Nästa >");
@@ -144,6 +147,12 @@ Piece InstDlg::ButtonRow(Buttons buttons)
     Piece row = Across({Stretch(), cmdBack, forward, away});
     static_cast<QBoxLayout*>(row.layout)->insertSpacerItem(row.layout->count() - 1, gap);
     return row;
+}
+
+Piece InstDlg::FinishRow()
+{
+    PageButton(NAMED(cmdFinish), "&Slutför")->setDefault(true);
+    return Across({Stretch(), cmdFinish});
 }
 
 } // namespace quillon

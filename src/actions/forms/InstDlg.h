@@ -2,6 +2,7 @@
 // line, and the buttons that every page has. Whatever the user presses, the preview just closes.
 #pragma once
 
+#include "actions/dialog_chain.h"
 #include "ui/Form.h"
 
 class QVBoxLayout;
@@ -20,13 +21,15 @@ public:
     // An agreement is accepted or declined in place of Next and Cancel.
     QPushButton* CmdYes = nullptr;
     QPushButton* CmdNo = nullptr;
+    // Behind the installation there is nothing to go back to and nothing to cancel.
+    QPushButton* cmdFinish = nullptr;
 
 protected:
-    enum class Buttons { NextCancel, YesNo };
+    enum class Buttons { NextCancel, YesNo, Finish };
 
     /// The title names the window, too. `bitmap` is the page's own picture, or empty.
-    InstDlg(const char* name, const Text& title, const Text& bitmap, Session& session,
-            QWidget* parent);
+    InstDlg(const char* name, DialogSwitch page, const Text& title, const Text& bitmap,
+            Session& session, QWidget* parent);
 
     /// Lays the page out; `pieces` stand below the title.
     void ArrangePage(Piece pieces, Buttons buttons = Buttons::NextCancel);
@@ -50,7 +53,10 @@ private:
     void MakeTitle(const Text& title);
     void MakePicture(const Text& bitmap);
     Piece ButtonRow(Buttons buttons);
+    Piece FinishRow();
     QPushButton* PageButton(QPushButton*& member, const char* name, const Text& caption);
+
+    DialogSwitch page_;
 };
 
 } // namespace quillon

@@ -14,7 +14,8 @@
 namespace quillon {
 
 InstDlgDestDir::InstDlgDestDir(const DiskSpacePreview& page, Session& session, QWidget* parent)
-    : InstDlg("InstDlgDestDir", "Destinationskatalog", {}, session, parent)
+    : InstDlg("InstDlgDestDir", &section::DialogBoxes::DestinationDlg, "Destinationskatalog", {},
+              session, parent)
 {
     Paragraph(NAMED(sText),
               "Programmet installeras i katalogen nedan. Välj en annan katalog om du vill ha det "

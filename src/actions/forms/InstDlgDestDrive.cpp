@@ -29,7 +29,8 @@ Text VolumeName(const FileSystem& files, const Text& root)
 } // namespace
 
 InstDlgDestDrive::InstDlgDestDrive(const DiskSpacePreview& page, Session& session, QWidget* parent)
-    : InstDlg("InstDlgDestDrive", "Enhet", {}, session, parent)
+    : InstDlg("InstDlgDestDrive", &section::DialogBoxes::DestinationDriveDlg, "Enhet", {}, session,
+              parent)
 {
     Paragraph(NAMED(sText), "Välj den enhet som programmet ska installeras på.", "Text",
               PageLayout::kHighestText);

@@ -9,7 +9,8 @@ namespace quillon {
 
 InstDlgLicenseInfo::InstDlgLicenseInfo(const LicensePreview& page, Session& session,
                                        QWidget* parent)
-    : InstDlg("InstDlgLicenseInfo", page.title, {}, session, parent)
+    : InstDlg("InstDlgLicenseInfo", &section::DialogBoxes::LicenseInfoDlg, page.title, {}, session,
+              parent)
 {
     Named(NAMED(sLicenseText), new RunningText(Shown(page.license), "Licensavtal"));
     sLicenseText->LieOnPaper();

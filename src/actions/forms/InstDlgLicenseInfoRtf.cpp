@@ -11,7 +11,8 @@ namespace quillon {
 
 InstDlgLicenseInfoRtf::InstDlgLicenseInfoRtf(const LicensePreview& page, Session& session,
                                              QWidget* parent)
-    : InstDlg("InstDlgLicenseInfoRtf", page.title, {}, session, parent)
+    : InstDlg("InstDlgLicenseInfoRtf", &section::DialogBoxes::LicenseInfoRtfDlg, page.title, {},
+              session, parent)
 {
     Named(NAMED(RtfLicense), new RtfView("Licensavtal"));
     RtfLicense->ShowFile(session.host.files, page.license);

@@ -31,7 +31,8 @@ QLineEdit* UserField(QLineEdit*& member, const char* name, Text LicenseData::*fi
 
 InstDlgNameCompany::InstDlgNameCompany(const NameCompanyPreview& page, Session& session,
                                        QWidget* parent)
-    : InstDlg("InstDlgNameCompany", "Registrering", page.bitmap, session, parent)
+    : InstDlg("InstDlgNameCompany", &section::DialogBoxes::NameCompanyDlg, "Registrering",
+              page.bitmap, session, parent)
 {
     Paragraph(NAMED(sText), page.asksAddress ? kAsksAddress : kAsksName, "Text",
               PageLayout::kHighestText);

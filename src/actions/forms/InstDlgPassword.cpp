@@ -12,7 +12,8 @@
 namespace quillon {
 
 InstDlgPassword::InstDlgPassword(const Text& prompt, Session& session, QWidget* parent)
-    : InstDlg("InstDlgPassword", "Lösenord", {}, session, parent)
+    : InstDlg("InstDlgPassword", &section::DialogBoxes::PasswordDlg, "Lösenord", {}, session,
+              parent)
 {
     // Only the first line of the text reaches the setup.
     Paragraph(NAMED(sText), FirstLineOnly(prompt), "Text", PageLayout::kHighestText);

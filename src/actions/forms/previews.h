@@ -3,7 +3,7 @@
 // effect on anything.
 #pragma once
 
-#include "helpers/text.h"
+#include "actions/dialog_chain.h"
 
 class QWidget;
 
@@ -18,6 +18,7 @@ struct GeneralPreview {
     Text title;
     Text text;
     Text bitmap;
+    DialogSwitch page = &section::DialogBoxes::GeneralInfoDlg;
 };
 void ShowInstDlgGeneral(Session& session, const GeneralPreview& page, QWidget* parent);
 

@@ -17,6 +17,10 @@ public:
     QLineEdit* tUpdateReferenceFile = nullptr;
     QLineEdit* tUpdateInfoBoxTitle = nullptr;
     QPlainTextEdit* tUpdateInfoBoxText = nullptr;
+
+protected:
+    // The values are those of the form that opened this one, which marks the project on its own OK.
+    void Store() override {}
 };
 
 } // namespace quillon
