@@ -331,6 +331,32 @@ TEST_F(DlgCreateTest, MakesAPackageAndTellsEachStep)
     EXPECT_FALSE(form.IsListSorted());
     QApplication::processEvents();
     SavePicture(form, "DlgCreate_done");
+    SaveDarkPicture(form, "DlgCreate_done");
+}
+
+TEST_F(DlgCreateTest, TellsSizeAndTimeAndOffersToCloseBehindASuccess)
+{
+    Open();
+    session->project.Compression.CompressFiles = kOff;
+    AddFile("stor.dat", Text(20 << 20, 'x'));
+    machine.files.Put("C:\\Ut\\annat.txt", std::string(20 << 20, 'x'));
+    DlgCreate form(*session, nullptr);
+    ShowActive(form);
+    EXPECT_TRUE(form.cmdCreate->isDefault());
+    EXPECT_EQ(form.lblSummary->text(), "");
+    Click(form, "cmdCreate");
+    EXPECT_TRUE(form.lblSummary->text().startsWith("20,0 MB på "))
+        << FromQt(form.lblSummary->text());
+    EXPECT_TRUE(form.lblSummary->text().endsWith(" s"));
+    EXPECT_TRUE(form.cmdClose->isDefault());
+    EXPECT_TRUE(form.cmdClose->hasFocus());
+    Click(form, "oCD_NoCompress");
+    EXPECT_TRUE(form.cmdCreate->isDefault()) << "another package is wanted";
+    Click(form, "oCD_Compress");
+    Type(form, "tDestinationDir", "C:\\Ut");
+    Click(form, "cmdCreate");
+    QTest::keyClick(&form, Qt::Key_Return);
+    EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(DlgCreateTest, WritesTheSizeOfTheDesignSurface)

@@ -69,7 +69,11 @@ TEST_F(RecursiveCollectTest, ReplacesTheStartLevel)
     EXPECT_EQ(Label(form, "sSearchStatus"), "Klar!");
     EXPECT_EQ(Label(form, "sNumberFiles"), "2");
     EXPECT_TRUE(form.isVisible());
-    Click(form, "cmdClose");
+    EXPECT_TRUE(form.cmdClose->isDefault());
+    EXPECT_TRUE(form.cmdClose->hasFocus());
+    QApplication::processEvents();
+    SavePicture(form, "RecursiveCollect-klar");
+    QTest::keyClick(&form, Qt::Key_Return);
     EXPECT_FALSE(form.isVisible());
 }
 
@@ -117,6 +121,7 @@ TEST_F(RecursiveCollectTest, TellsOfAWalkThatFailed)
     ShowActive(form);
     Click(form, "cmdStart");
     EXPECT_EQ(Label(form, "sSearchStatus"), "Fel inträffade!");
+    EXPECT_TRUE(form.cmdStart->isDefault());
     EXPECT_TRUE(form.cmdStart->isEnabled());
 }
 

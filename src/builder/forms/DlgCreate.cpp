@@ -4,6 +4,7 @@
 #include "builder/forms/CreateAsk.h"
 #include "builder/forms/DlgCompressOptions.h"
 #include "builder/forms/MediumPicture.h"
+#include "builder/package_summary.h"
 #include "project/install_keys.h"
 #include "shell/failure_text.h"
 #include "shell/main_window.h"
@@ -129,7 +130,7 @@ Piece DlgCreate::MakeStatus()
     underlined.setUnderline(true);
     cmdOpenFolder->setFont(underlined);
     return Down({Growing(Above("Stat&us:", lbStatus)), Across({Growing(pbProgress), lblProgress}),
-                 Across({cmdOpenFolder, Stretch()})});
+                 Across({cmdOpenFolder, Stretch(), Named(NAMED(lblSummary), new QLabel)})});
 }
 
 Piece DlgCreate::MakeButtons()
@@ -204,6 +205,7 @@ void DlgCreate::ChooseMedium(Medium medium)
 {
     ClickMedium(form_, medium, session_.project, session_.state);
     ShowState();
+    cmdCreate->setDefault(true);
 }
 
 void DlgCreate::ChangeDestination(const QString& folder)
@@ -279,13 +281,25 @@ void DlgCreate::StartCreate()
                    .clearLines = [this] { lbStatus->clear(); },
                    .showProgress = [this](std::uint64_t done,
                                           std::uint64_t total) { ShowProgress(done, total); }});
-    RunOnce(ask);
+    const CreateResult result = RunOnce(ask);
     ask.Flush();
     SetRunning(false);
+    OfferNextStep(result);
 }
 
-void DlgCreate::RunOnce(Ask& ask)
+/// What the user most likely does next takes Enter: closes the form behind a success.
+void DlgCreate::OfferNextStep(CreateResult result)
 {
+    const bool isDone = result == CreateResult::Done || !cmdCreate->isEnabled();
+    QPushButton* next = isDone ? cmdClose : cmdCreate;
+    next->setDefault(true);
+    next->setFocus();
+}
+
+CreateResult DlgCreate::RunOnce(Ask& ask)
+{
+    QElapsedTimer time;
+    time.start();
     AskedDisks disks(session_.host, ask, form_.tDestinationDir);
     CompressionInterface compression(session_.host, ask, disks);
     CreateRun run{.project = session_.project,
@@ -302,6 +316,9 @@ void DlgCreate::RunOnce(Ask& ask)
     hasRun_ = true;
     isListSorted_ = isListSorted_ || run.isListSorted;
     TellResult(run, result, ask);
+    if (result == CreateResult::Done)
+        lblSummary->setText(ToQt(PackageSummary(run, time.elapsed())));
+    return result;
 }
 
 // Status lines and boxes of a failure often name no file, so the last line does.
@@ -333,6 +350,7 @@ void DlgCreate::SetRunning(bool running)
     isRunning_ = running;
     if (running) {
         finishedFolder_.clear();
+        lblSummary->clear();
         ShowLink();
         // The list is all that is left to use while Create runs.
         lbStatus->setFocus();
@@ -340,8 +358,6 @@ void DlgCreate::SetRunning(bool running)
         ShowProgress(0, 0);
     }
     ShowState();
-    if (!running)
-        (cmdCreate->isEnabled() ? cmdCreate : cmdClose)->setFocus();
 }
 
 void DlgCreate::AddLines(const std::vector<Text>& lines)

@@ -55,6 +55,7 @@ public:
     QProgressBar* pbProgress = nullptr;
     QLabel* lblProgress = nullptr;
     QPushButton* cmdOpenFolder = nullptr; // a link to the finished package
+    QLabel* lblSummary = nullptr;         // its size, and the time that it took
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -80,9 +81,10 @@ private:
     void ShowCompressOptions();
 
     void StartCreate();
-    void RunOnce(Ask& ask);
+    CreateResult RunOnce(Ask& ask);
     void TellResult(const CreateRun& run, CreateResult result, Ask& ask);
     void SetRunning(bool running);
+    void OfferNextStep(CreateResult result);
     void AddLines(const std::vector<Text>& lines);
     void ShowProgress(std::uint64_t done, std::uint64_t total);
     void ShowLink();

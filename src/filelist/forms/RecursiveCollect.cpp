@@ -52,6 +52,7 @@ void RecursiveCollect::Start()
     seen_ = 0;
     sNumberFiles->setText("0");
     sSearchStatus->setText("Söker...");
+    cmdStart->setDefault(true);
     cmdStart->setEnabled(false); // the events of a running walk must not begin another one
     FileAdding adding(files, work_.host, work_.ask);
     Collect(adding);
@@ -68,6 +69,8 @@ void RecursiveCollect::Collect(FileAdding& adding)
         AddTree(adding, work_.host.files, tree_,
                 {.enteredFolder = [this] { LetWindowLive(); }, .sawFile = [this] { CountFile(); }});
         sSearchStatus->setText("Klar!");
+        cmdClose->setDefault(true);
+        cmdClose->setFocus();
     } catch (const RunError& failure) {
         sSearchStatus->setText("Fel inträffade!");
         work_.ask.Critical("Kan ej addera", WalkFailureText(failure, tree_));
