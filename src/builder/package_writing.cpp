@@ -47,7 +47,7 @@ void RemoveStaging(FileSystem& files, const Text& folder)
         RemoveTree(files, folder);
 }
 
-bool IsInTree(const CreateRun& run, const FileListRow& row)
+bool IsPacked(const CreateRun& run, const FileListRow& row)
 {
     return row.HasSource() && !IsFileSkippedForTargetOS(
                                   row[Filename], run.project.OperatingSystem.TargetOperatingSystem);
@@ -59,7 +59,7 @@ std::uint64_t RoomForAnother(const CreateRun& run)
     if (run.form.TargetMedia == Medium::CompressedCd)
         for (const FileListRow& row : run.project.Files.rows)
             RunErrorNumber([&] {
-                if (IsInTree(run, row))
+                if (IsPacked(run, row))
                     room += run.host.files.Facts(row[Source]).size;
             });
     return room;
@@ -84,7 +84,7 @@ struct FileToDigest {
 void AddTree(const CreateRun& run, std::vector<FileToDigest>& found)
 {
     for (const FileListRow& row : run.project.Files.rows) {
-        if (!IsInTree(run, row))
+        if (!IsPacked(run, row))
             continue;
         const Text source = ConvertLongFilenameToShortFilename(run.host.files, row[Source]);
         found.push_back({TreeFileName(SourceFolderOnMedium(source), row[Filename]), source});

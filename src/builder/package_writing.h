@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// What ended an earlier run half way goes, and this one's place is made ready.
+/// Clears away what a killed run has left, and makes the place ready.
 Step BeginPackage(CreateRun& run);
 
 /// Moves the finished files into place and writes the manifest; nothing after a failed step.

@@ -21,8 +21,7 @@ bool HasSource(const InstallRow& row)
     return row.name != kEmptyFolderName && !MayLackSource(row);
 }
 
-} // namespace
-
+// Create copies the helpers by the same conditions, asked of the project.
 bool NeedsRegistryHelper(const SetupInformation& setup, const std::vector<InstallRow>& rows)
 {
     return std::ranges::any_of(rows, [](const InstallRow& row) { return HasOption(row, 'R'); }) ||
@@ -47,6 +46,8 @@ std::vector<Text> HelpersOf(const SetupInformation& setup, const std::vector<Ins
         names.push_back(kUninstallerName);
     return names;
 }
+
+} // namespace
 
 std::vector<Text> FixedFilesOf(const SetupInformation& setup, const std::vector<InstallRow>& rows)
 {

@@ -8,16 +8,8 @@
 
 namespace quillon {
 
-/// The runtime's programs beside the setup itself that this package's installation takes. Create
-/// copies by the same conditions.
-bool NeedsRegistryHelper(const SetupInformation& setup, const std::vector<InstallRow>& rows);
-bool NeedsSecondRegistryHelper(const std::vector<InstallRow>& rows);
-
-/// The programs that the setup hands to the machine or starts there.
-std::vector<Text> HelpersOf(const SetupInformation& setup, const std::vector<InstallRow>& rows);
-
 /// All that lies in the package's folder but the bytes of the rows: the starter, the setup, what it
-/// is told by, and its helpers.
+/// is told by, and those of its helper programs that this installation takes.
 std::vector<Text> FixedFilesOf(const SetupInformation& setup, const std::vector<InstallRow>& rows);
 
 /// The pieces of the container, below the package's folder, in the order of the disks; none where a
