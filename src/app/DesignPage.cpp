@@ -1,49 +1,23 @@
 #include "app/DesignPage.h"
 
-#include "design/forms/ColorblendBackground.h"
-#include "platform/run_error.h"
-#include "ui/picture.h"
+#include "design/forms/design_commands.h"
+#include "shell/session.h"
 
 #include <QtWidgets>
 
 namespace quillon {
 
-DesignPage::DesignPage(Session& session)
-    : session_(session), colorblendBackground_(new ColorblendBackground)
+DesignPage::DesignPage(Session& session) : screen_(new DesignScreen(session))
 {
     setObjectName("DesignPage");
-    colorblendBackground_->setParent(this);
+    screen_->setParent(this);
+    ConnectEditors(*screen_);
 }
 
+// A page behind another one shows its objects when it comes in front.
 void DesignPage::ShowSession()
 {
-    DrawDesBackground();
-}
-
-void DesignPage::DrawDesBackground()
-{
-    section::DesBackground& background = session_.project.DesBackground;
-    paint_.UsePicture = background.Type != 1;
-    paint_.StretchPicture = background.StretchPicture != kOff;
-    QImage picture;
-    if (paint_.UsePicture) {
-        const FileSystem& files = session_.host.files;
-        if (const auto loaded = LoadPicture(files, background.PictureFilename)) {
-            picture = *loaded;
-        } else {
-            const int reason = files.FileExists(background.PictureFilename)
-                                   ? kInvalidPicture
-                                   : ErrorNumber::kFileNotFound;
-            ShowErrorBoxIfPictureError(session_.ask, reason);
-            background.PictureFilename.clear();
-            paint_.UsePicture = false;
-            // Kept: the colours stay those that were painted last.
-            colorblendBackground_->Show(paint_);
-            return;
-        }
-    }
-    SetBlend(paint_, background);
-    colorblendBackground_->Show(paint_, picture);
+    screen_->DrawDesAll();
 }
 
 bool DesignPage::event(QEvent* event)
@@ -54,7 +28,9 @@ bool DesignPage::event(QEvent* event)
         PlaceSurface(parentWidget()->size());
     }
     if (event->type() == QEvent::Show)
-        DrawDesBackground();
+        screen_->DrawDesAll();
+    if (event->type() == QEvent::Hide)
+        screen_->HideDesObjects();
     return Page::event(event);
 }
 
@@ -67,20 +43,8 @@ bool DesignPage::eventFilter(QObject* watched, QEvent* event)
 
 void DesignPage::PlaceSurface(QSize page)
 {
-    DesignSurface& surface = session_.surface;
-    const auto [across, down] = surface.screen;
-    const bool hasTallCaption =
-        HasTallCaption(session_.host.machine.IsWindowsXP(),
-                       style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
-    PlaceDesignArea(place_, page.width() * across, page.height() * down + kTabCaptionsHeight,
-                    hasTallCaption);
-    const auto pixels = [](Long twips, int perPixel) {
-        return static_cast<int>(RoundToEven(double(twips) / perPixel));
-    };
-    surface.width = pixels(place_.Width, across);
-    surface.height = pixels(place_.Height, down);
-    colorblendBackground_->setGeometry(pixels(place_.Left, across), pixels(place_.Top, down),
-                                       surface.width, surface.height);
+    screen_->setGeometry(QRect({0, 0}, page));
+    screen_->PlaceSurface(page, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
 }
 
 } // namespace quillon

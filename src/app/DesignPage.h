@@ -1,13 +1,10 @@
 // The tab "Design": the background of the setup as the author makes it.
 #pragma once
 
-#include "design/surface.h"
-#include "shell/session.h"
+#include "design/forms/DesignScreen.h"
 #include "ui/Page.h"
 
 namespace quillon {
-
-class ColorblendBackground;
 
 class DesignPage : public Page {
 public:
@@ -15,8 +12,7 @@ public:
 
     void ShowSession() override;
 
-    /// A picture that can't be read is taken out of the project.
-    void DrawDesBackground();
+    DesignScreen& Screen() { return *screen_; }
 
 protected:
     bool event(QEvent* event) override;
@@ -25,10 +21,7 @@ protected:
 private:
     void PlaceSurface(QSize page);
 
-    Session& session_;
-    ColorblendBackground* colorblendBackground_;
-    SurfacePlace place_;
-    SurfacePaint paint_;
+    DesignScreen* screen_;
 };
 
 } // namespace quillon

@@ -81,6 +81,11 @@ void MainForm::MakePages()
     setCentralWidget(MainTab_);
 }
 
+DesignScreen& MainForm::Design()
+{
+    return static_cast<DesignPage&>(PageOf(Tab::Design)).Screen();
+}
+
 void MainForm::MakeStatusBar()
 {
     statusBar()->setObjectName("MainStatusBar");

@@ -20,6 +20,7 @@ class QToolBar;
 namespace quillon {
 
 class CommandBars;
+class DesignScreen;
 class FilesPage;
 class MainTabs;
 
@@ -43,6 +44,7 @@ public:
     std::vector<std::size_t> SelectedRows() const override;
     void UpdateStatusBar() override;
 
+    DesignScreen& Design();
     Page& SelectedPage() { return PageOf(SelectedTab()); }
 
     /// Runs the command with this id; one without an action does nothing.

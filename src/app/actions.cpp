@@ -12,6 +12,7 @@
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
 #include "builder/forms/DlgTest.h"
+#include "design/forms/design_commands.h"
 #include "filelist/forms/DlgVariables.h"
 #include "filelist/forms/list_commands.h"
 #include "filelist/forms/per_file_commands.h"
@@ -55,6 +56,11 @@ void Create(MainForm& form)
         form.Paths());
 }
 
+void EditPicture(MainForm& form)
+{
+    EditDesPictures(form.Design(), PictureToEdit(form.GetSession().project.DesPictures));
+}
+
 // clang-format off
 const std::map<int, Action> kActions = {
     {101, [](MainForm& form) { NewProject(form.GetSession(), form); }},
@@ -77,6 +83,17 @@ const std::map<int, Action> kActions = {
     {122, [](MainForm& form) { ShowRegisterFiles(form.GetSession(), &form); }},
     {123, [](MainForm& form) { ShowProgramGroup(form.GetSession(), &form); }},
     {124, [](MainForm& form) { UpdateFileListCommand(form.GetSession(), form); }},
+    {125, [](MainForm& form) { EditDesBackground(form.Design()); }},
+    {126, [](MainForm& form) { EditDesTitle(form.Design()); }},
+    {127, [](MainForm& form) { EditDesUnderline(form.Design()); }},
+    {128, [](MainForm& form) { EditDesTextBox(form.Design()); }},
+    {129, [](MainForm& form) { EditDesRTFbox(form.Design()); }},
+    {130, EditPicture},
+    {131, [](MainForm& form) { EditDesPicturesAnim(form.Design()); }},
+    {132, [](MainForm& form) { EditDesLogotype(form.Design()); }},
+    {133, [](MainForm& form) { EditDesPercentGauge(form.Design()); }},
+    {134, [](MainForm& form) { EditDesSound(form.Design()); }},
+    {135, [](MainForm& form) { EditDesOverview(form.Design()); }},
     {136, CopyText},
     {137, PasteText},
     {138, [](MainForm& form) { ShowInstallOptions(form.GetSession(), &form); }},

@@ -82,8 +82,8 @@ LogotypeBox PlaceLogotype(const section::DesLogotype& record, const LogotypeSurr
 bool IsLogotypeTooLarge(const LogotypeBox& logotype, const SurfacePlace& surface);
 
 /// Lays the logotype out. One that is too large is refused with a message and taken out of the
-/// record. A picture that can't be read is a `RunError`; the record keeps its name until the
-/// caller takes it out.
+/// record. A picture that can't be read is a `RunError`, and the record keeps its name: the
+/// file may be missing on this machine only.
 LogotypeBox LayOutLogotype(section::DesLogotype& record, const LogotypeSurround& surround,
                            const MeasurePicture& measure, Ask& ask);
 

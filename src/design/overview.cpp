@@ -1,5 +1,7 @@
 #include "design/overview.h"
 
+#include "design/changing_pictures.h"
+#include "design/rtf_box_file.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 
@@ -14,15 +16,6 @@ struct DesignFile {
     Text path;
 };
 
-void AddChangingPictures(std::vector<DesignFile>& list, const section::DesPicturesAnim& pictures)
-{
-    const auto count = std::clamp<std::size_t>(
-        static_cast<std::size_t>(std::max<Integer>(pictures.NrAnimPictures, 0)), 0,
-        pictures.P.size());
-    for (std::size_t i = 0; i < count; ++i)
-        list.push_back({"Växl. Bild " + NumberText(std::int64_t(i) + 1), pictures.P[i]});
-}
-
 std::vector<DesignFile> DesignFiles(const Project& project, const Text& toolFolder)
 {
     std::vector<DesignFile> list;
@@ -32,7 +25,9 @@ std::vector<DesignFile> DesignFiles(const Project& project, const Text& toolFold
     for (std::size_t i = 0; i < section::kDesPictureCount; ++i)
         if (const Text& file = project.DesPictures.Pictures[i].PictureFilename; !file.empty())
             list.push_back({"Bild " + NumberText(std::int64_t(i) + 1), file});
-    AddChangingPictures(list, project.DesPicturesAnim);
+    std::int64_t number = 0;
+    for (const Text& file : ChangingPictures(project.DesPicturesAnim))
+        list.push_back({"Växl. Bild " + NumberText(++number), file});
     if (const Text& file = project.DesLogotype.LogotypeFilename; !file.empty())
         list.push_back({"Logotype", file});
     if (const Text& file = project.DesSound.BackSoundFilename; !file.empty())
@@ -48,11 +43,6 @@ Text SizeText(std::uint64_t bytes)
 }
 
 } // namespace
-
-Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename)
-{
-    return JoinPath(JoinPath(toolFolder, "rtf"), RTFfilename);
-}
 
 std::vector<OverviewRow> DesOverview(const Project& project, const FileSystem& files,
                                      const Text& toolFolder)

@@ -20,7 +20,4 @@ struct OverviewRow {
 std::vector<OverviewRow> DesOverview(const Project& project, const FileSystem& files,
                                      const Text& toolFolder);
 
-/// Where the text of the RTF box is kept.
-Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename);
-
 } // namespace quillon

@@ -1,8 +1,15 @@
 #include "design/rtf_box_file.h"
 
+#include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
+#include "platform/whole_file.h"
 
 namespace quillon {
+
+Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename)
+{
+    return JoinPath(JoinPath(toolFolder, "rtf"), RTFfilename);
+}
 
 Text ProposedRTFfilename(const Text& projectFileName)
 {
@@ -20,12 +27,45 @@ Text StoredRTFfilename(const Text& typed)
 
 bool CheckRTFfilename(const Text& typed, Ask& ask)
 {
-    if (!typed.empty())
-        return true;
-    ask.Inform("Filnamn saknas",
-               "Du måste ange ett filnamn till RTF-filen! RFT-filen kommer att sparas med det "
-               "angivna filnamnet i underkatalogen '\\RTF' i Quillons program-katalog.");
-    return false;
+    if (typed.empty()) {
+        ask.Inform("Filnamn saknas",
+                   "Du måste ange ett filnamn till RTF-filen! RFT-filen kommer att sparas med det "
+                   "angivna filnamnet i underkatalogen '\\RTF' i Quillons program-katalog.");
+        return false;
+    }
+    if (FaultOfName(StoredRTFfilename(typed)) != PathFault::None) {
+        ask.Critical("Felaktigt filnamn", "'" + typed +
+                                              "' kan ej vara namnet på en fil. Ange ett filnamn "
+                                              "utan katalog.");
+        return false;
+    }
+    return true;
+}
+
+void SaveRTFbox(FileSystem& files, const Text& toolFolder, const Text& RTFfilename,
+                std::string_view bytes)
+{
+    const Text path = RTFboxPath(toolFolder, RTFfilename);
+    const Text unfinished = path + ".tmp";
+    files.DirCreate(ExtractDirectory(path));
+    WriteWholeFile(files, unfinished, bytes);
+    files.Replace(unfinished, path);
+}
+
+void TellRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& path, Ask& ask)
+{
+    Text text;
+    if (isCut)
+        text = "Filen '" + path + "' är inte hel. Rutan visar det som finns av texten.";
+    for (const Text& loss : losses)
+        text += (&loss == &losses.front()
+                     ? Text(text.empty() ? "" : "\r\n\r\n") + "Filen '" + path + "' innehåller "
+                     : Text(", ")) +
+                loss;
+    if (!losses.empty())
+        text += ", som inte kan visas i rutan. De försvinner ur filen om du trycker på 'OK'.";
+    if (!text.empty())
+        ask.Warn("RTF-ruta", text);
 }
 
 } // namespace quillon

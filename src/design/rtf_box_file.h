@@ -2,17 +2,30 @@
 #pragma once
 
 #include "platform/ask.h"
+#include "platform/file_system.h"
 
 namespace quillon {
 
+/// Where the text is kept: in the folder for it beside the tool.
+Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename);
+
 /// The name that the editor proposes for a box without a file: the project's own with "rtf" behind
-/// its point. Kept: an unsaved project has no ".qnp" to find, and is given "rtf" alone.
+/// its dot. Kept: an unsaved project has no ".qnp" to find, and is given "rtf" alone.
 Text ProposedRTFfilename(const Text& projectFileName);
 
 /// The name under which the text is stored: one without ".rtf" anywhere gets it.
 Text StoredRTFfilename(const Text& typed);
 
-/// Whether OK may close the editor; tells the user where not.
+/// Whether OK may close the editor; tells the user where not. A name that leads out of the folder,
+/// or that Windows can't hold, is none.
 bool CheckRTFfilename(const Text& typed, Ask& ask);
+
+/// Writes the file beside its name first, so that one that was there stays whole until the new one
+/// is. Throws `RunError`.
+void SaveRTFbox(FileSystem& files, const Text& toolFolder, const Text& RTFfilename,
+                std::string_view bytes);
+
+/// Tells what of the file the editor does not show and OK would therefore not write again.
+void TellRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& path, Ask& ask);
 
 } // namespace quillon

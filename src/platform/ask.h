@@ -4,6 +4,7 @@
 #pragma once
 
 #include "helpers/text.h"
+#include "platform/ask_looks.h"
 
 #include <cstdint>
 #include <optional>
@@ -75,6 +76,11 @@ public:
 
     /// One of the variables, to be put into a text; never an empty one.
     virtual std::optional<Text> ChooseVariable() { return {}; }
+
+    /// A colour, 0x00BBGGRR; the dialog opens with the one that there is.
+    virtual std::optional<Long> ChooseColour(Long /*current*/) { return {}; }
+    /// A font; the dialog opens with the one that there is and asks for what that one has.
+    virtual std::optional<FontChoice> ChooseFont(const FontChoice& /*current*/) { return {}; }
 
     /// A line of the progress list of a long command.
     virtual void AddStatusLine(const Text& line) = 0;

@@ -1,5 +1,6 @@
 #include "ui/QtAsk.h"
 
+#include "ui/FontForm.h"
 #include "ui/SelectDir.h"
 #include "ui/XInputBox.h"
 #include "ui/file_dialog.h"
@@ -129,6 +130,23 @@ std::optional<Text> QtAsk::ChooseVariable()
     if (!onChooseVariable)
         return {};
     return onChooseVariable(WindowInFront());
+}
+
+std::optional<Long> QtAsk::ChooseColour(Long current)
+{
+    QColorDialog form(QColor(current & 0xFF, (current >> 8) & 0xFF, (current >> 16) & 0xFF),
+                      WindowInFront());
+    form.setOption(QColorDialog::DontUseNativeDialog);
+    if (form.exec() != QDialog::Accepted)
+        return {};
+    const QColor chosen = form.currentColor();
+    return chosen.red() | chosen.green() << 8 | chosen.blue() << 16;
+}
+
+std::optional<FontChoice> QtAsk::ChooseFont(const FontChoice& current)
+{
+    FontForm form(current, *this, WindowInFront());
+    return form.ShowModal() ? std::optional(form.Chosen) : std::nullopt;
 }
 
 void QtAsk::ShowBusyPointer(bool busy)

@@ -31,6 +31,8 @@ public:
     std::optional<Text> ChooseComponent(const std::vector<Text>& entries) override;
 
     std::optional<Text> ChooseVariable() override;
+    std::optional<Long> ChooseColour(Long current) override;
+    std::optional<FontChoice> ChooseFont(const FontChoice& current) override;
 
     // Status lines belong to the form that shows them, which puts itself in between.
     void AddStatusLine(const Text&) override {}

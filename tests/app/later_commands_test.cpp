@@ -12,7 +12,6 @@ namespace {
 // clang-format off
 const std::set<int> kLaterCommands = {
     105, 110,
-    125, 126, 127, 128, 129, 130, 131, 132, 133, 134, 135,
     157,
     201, 202, 203,
 };

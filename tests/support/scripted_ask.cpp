@@ -99,6 +99,34 @@ std::optional<Text> ScriptedAsk::ChooseVariable()
     return NextOneChoice({.title = "ChooseVariable"});
 }
 
+namespace {
+
+template <class Value>
+std::optional<Value> TakeNext(std::deque<std::optional<Value>>& answers, const char* what)
+{
+    if (answers.empty()) {
+        ADD_FAILURE() << "nobody expected the choice of a " << what;
+        return {};
+    }
+    const std::optional<Value> answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+} // namespace
+
+std::optional<Long> ScriptedAsk::ChooseColour(Long current)
+{
+    shownColours.push_back(current);
+    return TakeNext(colours, "colour");
+}
+
+std::optional<FontChoice> ScriptedAsk::ChooseFont(const FontChoice& current)
+{
+    shownFonts.push_back(current);
+    return TakeNext(fonts, "font");
+}
+
 std::vector<Text> ScriptedAsk::NextChoice(const FileQuestion& question)
 {
     questions.push_back(question);

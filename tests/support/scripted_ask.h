@@ -52,6 +52,15 @@ public:
     std::optional<Text> ChooseDestination(const DestinationQuestion& question) override;
     std::optional<Text> ChooseComponent(const std::vector<Text>& entries) override;
     std::optional<Text> ChooseVariable() override;
+    std::optional<Long> ChooseColour(Long current) override;
+    std::optional<FontChoice> ChooseFont(const FontChoice& current) override;
+
+    // What the next choices of a colour and of a font give, in order; one beyond them fails the
+    // test, and an empty one is a cancelled dialog. What each was opened with comes behind.
+    std::deque<std::optional<Long>> colours;
+    std::deque<std::optional<FontChoice>> fonts;
+    std::vector<Long> shownColours;
+    std::vector<FontChoice> shownFonts;
 
     /// What the next choices give, in order; a choice beyond them fails the test. `chosen` empty is
     /// a cancelled dialog.

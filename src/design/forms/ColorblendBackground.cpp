@@ -1,5 +1,8 @@
 #include "design/forms/ColorblendBackground.h"
 
+#include "design/forms/pixel_image.h"
+#include "ui/qt_letters.h"
+
 #include <QtWidgets>
 
 namespace quillon {
@@ -7,8 +10,7 @@ namespace quillon {
 QImage BlendImage(QSize size, const SurfacePaint& paint)
 {
     QImage image(size, QImage::Format_RGB32);
-    PaintBlend(WholeCanvas(reinterpret_cast<Pixel*>(image.bits()), size.width(), size.height()),
-               RectAt(0, 0, size.width(), size.height()), BlendOf(paint));
+    PaintBlend(CanvasOf(image), RectAt(0, 0, size.width(), size.height()), BlendOf(paint));
     return image;
 }
 
@@ -17,6 +19,7 @@ ColorblendBackground::ColorblendBackground()
     setObjectName("colorblendBackground");
     setAccessibleName("Installationens bakgrund");
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void ColorblendBackground::Show(const SurfacePaint& paint, QImage picture)
@@ -27,30 +30,87 @@ void ColorblendBackground::Show(const SurfacePaint& paint, QImage picture)
     update();
 }
 
-void ColorblendBackground::paintEvent(QPaintEvent*)
+void ColorblendBackground::ShowTitle(const section::DesTitle& title,
+                                     const section::DesTitleUnderline& underline,
+                                     const section::DesSubTitle& subTitle)
+{
+    title_ = title;
+    underline_ = underline;
+    subTitle_ = subTitle;
+    setAccessibleDescription(QString::fromStdString(title.TitleText));
+    shown_ = {};
+    update();
+}
+
+int ColorblendBackground::TitleBottom() const
+{
+    QtLetters letters;
+    return LayOutTitle(letters, Records(), {}, width()).TitleBottom;
+}
+
+void ColorblendBackground::paintEvent(QPaintEvent* event)
 {
     const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
     if (pixels.isEmpty())
         return;
     if (shown_.size() != pixels)
         shown_ = MakeShown(pixels);
-    QPainter(this).drawPixmap(rect(), shown_);
+    // Only the part that changed: an object that is dragged uncovers little of the surface.
+    const QRect part = event->rect();
+    const double ratio = devicePixelRatioF();
+    QPainter painter(this);
+    painter.drawImage(QRectF(part), shown_,
+                      QRectF(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio));
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
 }
 
-QPixmap ColorblendBackground::MakeShown(QSize pixels) const
+void ColorblendBackground::mousePressEvent(QMouseEvent* event)
 {
-    if (!paint_.UsePicture)
-        return QPixmap::fromImage(BlendImage(pixels, paint_));
-    if (paint_.StretchPicture)
-        return QPixmap::fromImage(
-            picture_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    // In its own size it stands in the middle, on the first colour.
-    QPixmap shown(pixels);
-    shown.fill(QColor::fromRgb(PixelOf(paint_.ColorFrom)));
-    const QSize size = (QSizeF(picture_.size()) * devicePixelRatioF()).toSize();
-    QPainter(&shown).drawImage(
-        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, QRect({0, 0}, pixels)),
-        picture_);
+    if (event->button() == Qt::LeftButton)
+        pressed_ = event->position().toPoint();
+}
+
+void ColorblendBackground::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && onDoubleClick)
+        onDoubleClick(pressed_);
+}
+
+void ColorblendBackground::keyPressEvent(QKeyEvent* event)
+{
+    const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (opens && onDoubleClick)
+        onDoubleClick({width() / 2, height()});
+    else
+        QWidget::keyPressEvent(event);
+}
+
+QImage ColorblendBackground::MakeShown(QSize pixels) const
+{
+    QImage shown = BlendImage(pixels, paint_);
+    if (paint_.UsePicture && !picture_.isNull()) {
+        QPainter painter(&shown);
+        if (paint_.StretchPicture) {
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            painter.drawImage(QRect({0, 0}, pixels), picture_.scaled(pixels, Qt::IgnoreAspectRatio,
+                                                                     Qt::SmoothTransformation));
+        } else {
+            // In its own size it stands in the middle, on the first colour.
+            shown.fill(QColor::fromRgb(PixelOf(paint_.ColorFrom)));
+            const QSize size = (QSizeF(picture_.size()) * devicePixelRatioF()).toSize();
+            painter.drawImage(
+                QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, QRect({0, 0}, pixels)),
+                picture_);
+        }
+    }
+    QtLetters letters;
+    const ScreenScale scale{devicePixelRatioF(), devicePixelRatioF()};
+    const Canvas canvas = CanvasOf(shown);
+    PaintTitle(canvas, LayOutTitle(letters, Records(), scale, pixels.width()), Records());
     return shown;
 }
 

@@ -1,10 +1,10 @@
-// The painter of the preview surface: a blend of two colours, or a picture.
+// The painter of the preview surface: a blend of two colours or a picture, and the title on it.
 #pragma once
 
 #include "design/surface.h"
+#include "design/title_block.h"
 
 #include <QImage>
-#include <QPixmap>
 #include <QWidget>
 
 namespace quillon {
@@ -18,17 +18,34 @@ public:
 
     /// `picture` is shown where the paint says that one is used.
     void Show(const SurfacePaint& paint, QImage picture = {});
+    void ShowTitle(const section::DesTitle& title, const section::DesTitleUnderline& underline,
+                   const section::DesSubTitle& subTitle);
+
+    /// The pixel row below the title block.
+    int TitleBottom() const;
+
+    /// Told a place in pixels of the surface.
+    std::function<void(QPoint)> onDoubleClick;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QPixmap MakeShown(QSize pixels) const;
+    QImage MakeShown(QSize pixels) const;
+    TitleRecords Records() const { return {title_, underline_, subTitle_}; }
 
     SurfacePaint paint_;
     QImage picture_;
+    section::DesTitle title_;
+    section::DesTitleUnderline underline_;
+    section::DesSubTitle subTitle_;
     // What was painted last; a blend takes longer than a copy.
-    QPixmap shown_;
+    QImage shown_;
+    // The press before a double click is the one that counts.
+    QPoint pressed_;
 };
 
 } // namespace quillon

@@ -1,0 +1,48 @@
+// What the editors of the design's objects share: number fields that correct themselves when they
+// are left, options for a number, colours, files.
+#pragma once
+
+#include "project/design_keys.h"
+#include "ui/ColourButton.h"
+#include "ui/Form.h"
+
+namespace quillon {
+
+class PathLabel;
+class UpDownArrows;
+
+class DesignEditor : public EditorForm {
+protected:
+    using EditorForm::EditorForm;
+
+    /// What an entry becomes when its field is left.
+    using EntryCheck = std::function<Text(const Text& entry)>;
+
+    /// A field for a number of a record.
+    QLineEdit* NumberField(QLineEdit*& member, const char* name, Integer& value, EntryCheck check);
+    /// The field of a number that is kept as text, or that something else stores.
+    QLineEdit* CheckedField(QLineEdit*& member, const char* name, const Text& text,
+                            EntryCheck check);
+
+    struct NumberOption {
+        QRadioButton*& member;
+        const char* name;
+        const char* caption;
+        Integer value;
+    };
+    /// An option that stores its value where it is chosen.
+    QRadioButton* OptionOf(Integer& value, const NumberOption& option);
+    /// Options that stand in one frame. A value that none has chooses the first.
+    Piece Options(Integer& value, std::initializer_list<NumberOption> options);
+
+    ColourButton* ColourOf(ColourButton*& member, const char* name, const Text& caption,
+                           Colour& value);
+
+    /// A label for a file's path, which is stored; `use` shows another one in it.
+    PathLabel* FileLabel(PathLabel*& member, const char* name, Text& value);
+};
+
+/// The path that a `FileLabel` shows.
+Text PathIn(const PathLabel* label);
+
+} // namespace quillon

@@ -1,0 +1,84 @@
+// The design tab's contents: the surface with the objects on it, laid out from the open project's
+// records. What an object is edited with is in design_commands.
+#pragma once
+
+#include "design/forms/ColorblendBackground.h"
+#include "design/forms/DesignObject.h"
+#include "design/object_layout.h"
+#include "design/surface_click.h"
+
+#include <array>
+#include <set>
+
+class QLabel;
+
+namespace quillon {
+
+class DragRectFrame;
+class RunError;
+struct Session;
+
+class DesignScreen : public QWidget {
+public:
+    explicit DesignScreen(Session& session);
+
+    Session& GetSession() { return session_; }
+
+    // Each lays one object out anew. What the layout corrects is kept in the record; a picture
+    // that can't be read is told.
+    void DrawDesBackground();
+    void DrawDesTitle();
+    void DrawDesPictures();
+    void DrawDesPicturesAnim();
+    void DrawDesLogotype();
+    void DrawDesTextBox();
+    void DrawDesRTFbox();
+    void DrawDesAll();
+    void HideDesObjects();
+
+    /// The colour behind a metafile logotype, by the blend of the record alone.
+    void DrawDesLogotypeBackColor();
+
+    /// `tab` is the whole of the tab's page, in pixels.
+    void PlaceSurface(QSize tab, int captionHeight);
+
+    enum class Object { Pictures, PicturesAnim, Logotype, TextBox, RTFbox };
+    /// Told which object is to be edited; `index` counts the free pictures.
+    std::function<void(Object, std::size_t index)> onEditObject;
+    /// Told which editor a double click on the surface itself opens.
+    std::function<void(SurfaceEditor)> onEditSurface;
+
+private:
+    void MakeObjects();
+    void MakePictures(const DesignObject::Surround& surround);
+    void PaintLabels(QImage& image, double scale);
+    void ShowObject(DesignObject& object, const SurfacePlace& place, bool isVisible);
+    void MovePicture(std::size_t index, const SurfacePlace& place);
+    void ShowPictures();
+    void EditAt(QPoint place);
+    /// Throws `RunError` where the file is no picture.
+    PixelSize MeasureAndKeep(const Text& file, QImage& kept);
+    void TellPictureError(const RunError& error);
+    void ShowDragRect(const std::optional<DragRect>& rect);
+
+    Session& session_;
+    SurfacePlace place_;
+    SurfacePaint paint_;
+    Long tabWidth_ = 0;
+    ColorblendBackground* colorblendBackground_;
+    std::array<DesignObject*, section::kDesPictureCount> DesPicture_{};
+    std::array<QImage, section::kDesPictureCount> pictures_;
+    PictureBoxes boxes_;
+    DesignObject* DesPictureAnim_ = nullptr;
+    DesignObject* DesLogotype_ = nullptr;
+    QImage logotype_;
+    LogotypeBox logotypeBox_;
+    DesignObject* DesTextBoxPic_ = nullptr;
+    DesignObject* DesRTFboxPic_ = nullptr;
+    QLabel* Label_DesRTFboxPic_ = nullptr;
+    // The pictures that can't be read and were told: each is drawn anew all the time.
+    std::set<Text> told_;
+    DragRectFrame* dragRect_ = nullptr;
+};
+
+} // namespace quillon

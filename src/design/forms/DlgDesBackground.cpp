@@ -1,0 +1,94 @@
+#include "design/forms/DlgDesBackground.h"
+
+#include "design/forms/choose_file.h"
+#include "shell/session.h"
+#include "ui/PathLabel.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+using section::DesBackground;
+
+constexpr int kLettersOfAPath = 50;
+
+constexpr const char* kBlendDirections[] = {"Ingen toning", "Tona höger", "Tona vänster",
+                                            "Tona upp",     "Tona ned",   "Rektangulär toning"};
+
+} // namespace
+
+DlgDesBackground::DlgDesBackground(Session& session, QWidget* parent)
+    : DesignEditor("DlgDesBackground", "Bakgrund", session, parent),
+      background_(session.project.DesBackground)
+{
+    OptionOf(background_.Type, {NAMED(oColor), "&Färg", 1});
+    OptionOf(background_.Type, {NAMED(oPicture), "B&ild", 2});
+    // Whatever is no colour is painted as a picture.
+    oPicture->setChecked(background_.Type != 1);
+    // Two options that stand in two frames.
+    auto* kinds = new QButtonGroup(this);
+    kinds->addButton(oColor);
+    kinds->addButton(oPicture);
+    Arrange(Down({oColor, ColourFrame(), oPicture, PictureFrame(), Stretch(), OkCancel()}));
+}
+
+Piece DlgDesBackground::ColourFrame()
+{
+    ColourOf(NAMED(cmdBackColor), "Färg &1...", background_.BackColor1);
+    ColourOf(NAMED(cmdBackColor2), "Färg &2...", background_.BackColor2);
+    Choice(NAMED(ComboBlendDirection), kBlendDirections, background_.BlendDirection);
+    Field(NAMED(tBlendDepth), background_.BlendDepth,
+          LongestText(section::kDesBackground, &DesBackground::BlendDepth));
+    Named(NAMED(labBlendDepth), new QLabel("Toningens &djup (%):"));
+    labBlendDepth->setBuddy(tBlendDepth);
+    tBlendDepth->setAccessibleName("Toningens djup i procent");
+    EnableDepth();
+    // Kept: trying a direction marks the project changed, also where Cancel follows.
+    connect(ComboBlendDirection, &QComboBox::currentIndexChanged, this, [this] {
+        EnableDepth();
+        session_.state.ProjectIsDirty = kOn;
+    });
+    return Frame({}, {Across({cmdBackColor, cmdBackColor2, Stretch()}),
+                      Fields({{"&Toning:", ComboBlendDirection}}),
+                      Across({labBlendDepth, tBlendDepth, Stretch()})});
+}
+
+Piece DlgDesBackground::PictureFrame()
+{
+    FileLabel(NAMED(sPictureFileName), background_.PictureFilename);
+    Button(NAMED(cmdSelectPicture), "&Välj bild...", [this] {
+        Text& folder = session_.Settings.Directories.LastPictureDir;
+        if (const auto path =
+                ChooseDesignFile(DesignFile::BackgroundPicture, folder, session_.ask)) {
+            sPictureFileName->ShowPath(ToQt(*path));
+            oPicture->setChecked(true);
+        }
+    });
+    Button(NAMED(cmdReset), "&Återställ", [this] { sPictureFileName->ShowPath({}); });
+    Check(NAMED(cStretchPictureToScreen), "&Skala bilden till hela skärmen",
+          background_.StretchPicture);
+    return Frame({}, {RoomFor(kLettersOfAPath, sPictureFileName),
+                      Across({cmdSelectPicture, cmdReset, Stretch()}), cStretchPictureToScreen});
+}
+
+void DlgDesBackground::EnableDepth()
+{
+    const bool isBlend = ComboBlendDirection->currentIndex() > 0;
+    labBlendDepth->setEnabled(isBlend);
+    tBlendDepth->setEnabled(isBlend);
+    if (isBlend && tBlendDepth->text().isEmpty())
+        tBlendDepth->setText("100");
+}
+
+// A file name survives only with the picture option.
+bool DlgDesBackground::MayClose()
+{
+    if (oColor->isChecked())
+        sPictureFileName->ShowPath({});
+    return true;
+}
+
+} // namespace quillon

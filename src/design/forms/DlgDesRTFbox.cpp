@@ -1,0 +1,216 @@
+#include "design/forms/DlgDesRTFbox.h"
+
+#include "design/number_fields.h"
+#include "design/rtf_box_file.h"
+#include "formats/rtf_writer.h"
+#include "platform/failure_text.h"
+#include "platform/whole_file.h"
+#include "shell/session.h"
+#include "ui/qt_text.h"
+#include "ui/rtf_document.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kLettersOfALine = 60;
+constexpr int kLinesOfTheBox = 10;
+constexpr double kUsualPoints = 12;
+
+QPushButton* Toggle(QPushButton* button)
+{
+    button->setCheckable(true);
+    // The selection keeps the keyboard.
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+} // namespace
+
+DlgDesRTFbox::DlgDesRTFbox(Session& session, QWidget* parent)
+    : DesignEditor("DlgDesRTFbox", "RTF-ruta", session, parent), box_(session.project.DesRTFbox)
+{
+    const Text& stored = box_.RTFfilename;
+    Named(NAMED(tRTFfilename),
+          new QLineEdit(
+              ToQt(stored.empty() ? ProposedRTFfilename(session.state.ProjectFileName) : stored)));
+    Check(NAMED(cShowRTFbox), "&Visa RTF-rutan", box_.ShowRTFbox);
+    Named(NAMED(cmdSetBackColor),
+          new ColourButton("&Bakgrundsfärg...", session.ask, [this] { ShowBackColour(); }));
+    MakeEditor();
+    cmdSetBackColor->SetColour(box_.RTFboxBackColor);
+    ShowBackColour();
+    Bind([this] { box_.RTFboxBackColor = cmdSetBackColor->GetColour(); });
+    Arrange(Down({
+        Across({cShowRTFbox, Stretch()}),
+        FormatButtons(),
+        Growing(RTFbox),
+        Across({
+            SizeFrame(),
+            Frame("Fil", {Fields({{"&Filnamn:", tRTFfilename}}), Stretch()}),
+        }),
+        OkCancel(),
+    }));
+    if (!stored.empty())
+        Load();
+    ShowFormat();
+    RTFbox->setFocus();
+}
+
+void DlgDesRTFbox::MakeEditor()
+{
+    Named(NAMED(RTFbox), new QTextEdit, "Rutans text");
+    RTFbox->setTabChangesFocus(false);
+    RTFbox->setAcceptRichText(true);
+    RTFbox->setFontPointSize(kUsualPoints);
+    RTFbox->setMinimumSize(kLettersOfALine * fontMetrics().averageCharWidth(),
+                           kLinesOfTheBox * fontMetrics().lineSpacing());
+    connect(RTFbox, &QTextEdit::currentCharFormatChanged, this, [this] { ShowFormat(); });
+}
+
+Piece DlgDesRTFbox::FormatButtons()
+{
+    Button(NAMED(cmdBold), "F&et", [this] {
+        QTextCharFormat format;
+        format.setFontWeight(cmdBold->isChecked() ? QFont::Bold : QFont::Normal);
+        Format(format);
+    });
+    Button(NAMED(cmdItalic), "&Kursiv", [this] {
+        QTextCharFormat format;
+        format.setFontItalic(cmdItalic->isChecked());
+        Format(format);
+    });
+    Button(NAMED(cmdUnderline), "&Understruken", [this] {
+        QTextCharFormat format;
+        format.setFontUnderline(cmdUnderline->isChecked());
+        Format(format);
+    });
+    Button(NAMED(cmdRTFfont), "&Teckensnitt...", [this] { ChooseRTFfont(); });
+    Button(NAMED(cmdUndo), "&Ångra", [this] { RTFbox->undo(); });
+    Button(NAMED(cmdRedo), "&Gör om", [this] { RTFbox->redo(); });
+    for (const auto& [button, key] : {std::pair{cmdBold, QKeySequence::Bold},
+                                      {cmdItalic, QKeySequence::Italic},
+                                      {cmdUnderline, QKeySequence::Underline}})
+        Toggle(button)->setShortcut(QKeySequence(key));
+    cmdUndo->setEnabled(false);
+    cmdRedo->setEnabled(false);
+    connect(RTFbox, &QTextEdit::undoAvailable, cmdUndo, &QWidget::setEnabled);
+    connect(RTFbox, &QTextEdit::redoAvailable, cmdRedo, &QWidget::setEnabled);
+    return Across({cmdBold, cmdItalic, cmdUnderline, cmdRTFfont, cmdUndo, cmdRedo, Stretch()});
+}
+
+Piece DlgDesRTFbox::SizeFrame()
+{
+    const DesignSurface& surface = session_.surface;
+    NumberField(NAMED(tWidth), box_.RTFboxWidth, [width = surface.width](const Text& entry) {
+        return CheckedRTFboxWidth(entry, width);
+    });
+    NumberField(NAMED(tHeight), box_.RTFboxHeight, [height = surface.height](const Text& entry) {
+        return CheckedRTFboxHeight(entry, height);
+    });
+    return Frame("Storlek (bildpunkter)", {Fields({{"Bre&dd:", tWidth}, {"&Höjd:", tHeight}}),
+                                           Across({cmdSetBackColor, Stretch()})});
+}
+
+void DlgDesRTFbox::Format(const QTextCharFormat& format)
+{
+    RTFbox->mergeCurrentCharFormat(format);
+    RTFbox->setFocus();
+}
+
+void DlgDesRTFbox::ShowFormat()
+{
+    const QFont font = RTFbox->currentFont();
+    cmdBold->setChecked(font.bold());
+    cmdItalic->setChecked(font.italic());
+    cmdUnderline->setChecked(font.underline());
+}
+
+void DlgDesRTFbox::ShowBackColour()
+{
+    const Colour colour = cmdSetBackColor->GetColour();
+    const QColor shown(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+    QPalette palette = RTFbox->palette();
+    palette.setColor(QPalette::Base, shown);
+    // Text without a colour of its own is black in the setup, on whatever the box is filled with.
+    palette.setColor(QPalette::Text, Qt::black);
+    RTFbox->viewport()->setPalette(palette);
+}
+
+void DlgDesRTFbox::ChooseRTFfont()
+{
+    const QTextCharFormat now = RTFbox->currentCharFormat();
+    const QFont font = RTFbox->currentFont();
+    const QColor colour =
+        now.hasProperty(QTextFormat::ForegroundBrush) ? now.foreground().color() : Qt::black;
+    const auto chosen = session_.ask.ChooseFont(
+        {.name = FromQt(font.family()),
+         .size = static_cast<Integer>(font.pointSize()),
+         .isBold = font.bold(),
+         .isItalic = font.italic(),
+         .isUnderlined = font.underline(),
+         .isStruckOut = font.strikeOut(),
+         .colour = colour.red() | colour.green() << 8 | colour.blue() << 16});
+    if (chosen) {
+        QTextCharFormat format;
+        format.setFontFamilies({ToQt(chosen->name)});
+        format.setFontPointSize(chosen->size);
+        format.setFontWeight(chosen->isBold ? QFont::Bold : QFont::Normal);
+        format.setFontItalic(chosen->isItalic);
+        format.setFontUnderline(chosen->isUnderlined.value_or(false));
+        format.setFontStrikeOut(chosen->isStruckOut.value_or(false));
+        const Long text = chosen->colour.value_or(0);
+        format.setForeground(QColor(text & 0xFF, (text >> 8) & 0xFF, (text >> 16) & 0xFF));
+        RTFbox->mergeCurrentCharFormat(format);
+        ShowFormat();
+    }
+    RTFbox->setFocus();
+}
+
+void DlgDesRTFbox::Load()
+{
+    const Text path = RTFboxPath(session_.options.ToolFolder, box_.RTFfilename);
+    try {
+        const std::string bytes = ReadWholeFile(session_.host.files, path);
+        const auto text = ReadRtf(bytes);
+        if (!text) {
+            session_.ask.Critical("Fel", "Filen '" + path + "' är ingen RTF-fil.");
+            return;
+        }
+        PutRtf(*text, *RTFbox->document(), RTFbox->logicalDpiX());
+        RTFbox->document()->clearUndoRedoStacks();
+        TellRtfLosses(RtfLosses(bytes), text->fault != RtfText::Fault::None, path, session_.ask);
+    } catch (const RunError& error) {
+        session_.ask.Critical("Fel", FailureText(error, path));
+    }
+}
+
+bool DlgDesRTFbox::MayClose()
+{
+    return CheckRTFfilename(FromQt(tRTFfilename->text()), session_.ask) && SaveText();
+}
+
+// Before the record is stored, so that a text that can't be saved stays in the editor.
+bool DlgDesRTFbox::SaveText()
+{
+    const Text name = StoredRTFfilename(FromQt(tRTFfilename->text()));
+    const Text path = RTFboxPath(session_.options.ToolFolder, name);
+    try {
+        const RtfText text = TakeRtf(*RTFbox->document(), RTFbox->logicalDpiX());
+        SaveRTFbox(session_.host.files, session_.options.ToolFolder, name, WriteRtf(text));
+        return true;
+    } catch (const RunError& error) {
+        session_.ask.Critical("Fel", FailureText(error, path));
+        return false;
+    }
+}
+
+void DlgDesRTFbox::Store()
+{
+    box_.RTFfilename = StoredRTFfilename(FromQt(tRTFfilename->text()));
+    DesignEditor::Store();
+}
+
+} // namespace quillon

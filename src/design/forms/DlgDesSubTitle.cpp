@@ -1,0 +1,38 @@
+#include "design/forms/DlgDesSubTitle.h"
+
+#include "shell/session.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kLettersOfAField = 50;
+
+} // namespace
+
+DlgDesSubTitle::DlgDesSubTitle(Text& subTitle, Session& session, QWidget* parent)
+    : EditorForm("DlgDesSubTitle", "Undertitel", session, parent)
+{
+    Field(NAMED(tSubtitle), subTitle,
+          LongestText(section::kDesSubTitle, &section::DesSubTitle::SubTitleText));
+    Button(NAMED(cmdVariables), "&Variabler...", [this] {
+        const int cursor = tSubtitle->cursorPosition();
+        if (const auto variable = session_.ask.ChooseVariable()) {
+            tSubtitle->setFocus();
+            tSubtitle->setCursorPosition(cursor);
+            tSubtitle->insert(ToQt(*variable));
+        }
+    });
+    Arrange(Down({
+        Above("&Undertitel:", RoomFor(kLettersOfAField, tSubtitle)),
+        Across({cmdVariables, Stretch()}),
+        Stretch(),
+        OkCancel(),
+    }));
+    tSubtitle->setFocus();
+}
+
+} // namespace quillon

@@ -1,0 +1,85 @@
+#include "design/forms/DlgDesTitle.h"
+
+#include "design/font_description.h"
+#include "design/forms/DlgDesSubTitle.h"
+#include "design/forms/font_records.h"
+#include "design/number_fields.h"
+#include "shell/session.h"
+#include "ui/UpDownArrows.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kLettersOfAField = 45;
+
+} // namespace
+
+DlgDesTitle::DlgDesTitle(Session& session, QWidget* parent)
+    : DesignEditor("DlgDesTitle", "Titel", session, parent), title_(session.project.DesTitle),
+      subTitle_(session.project.DesSubTitle.SubTitleText)
+{
+    Field(NAMED(tTitleText), title_.TitleText,
+          LongestText(section::kDesTitle, &section::DesTitle::TitleText));
+    Check(NAMED(cTitleShadow), "&Skugga", title_.TitleShadow);
+    ColourOf(NAMED(cmdTitleColor), "&Färg...", title_.TitleForeColor);
+    Button(NAMED(cmdTitleFont), "&Teckensnitt...", [this] { ChooseFont(); });
+    Named(NAMED(sTitleFont), new QLabel, "Titelns teckensnitt");
+    Button(NAMED(CmdSubTitle), "&Undertitel...",
+           [this] { DlgDesSubTitle(subTitle_, session_, this).ShowModal(); });
+    MakeSpacing();
+    Bind([this] { session_.project.DesSubTitle.SubTitleText = subTitle_; });
+    ShowFont();
+    Arrange(Down({
+        Above("T&itel:", RoomFor(kLettersOfAField, tTitleText)),
+        Across({
+            Frame("Justering",
+                  {Options(title_.TitleAlignment, {{NAMED(oTitleLeft), "&Vänster", 1},
+                                                   {NAMED(oTitleCenter), "&Centrerad", 2},
+                                                   {NAMED(oTitleRight), "&Höger", 3}})}),
+            Down({
+                cTitleShadow,
+                Fields({{"Te&ckenavstånd:", Across({tTitleCharInterSpace, UpDownArr, Stretch()})}}),
+                Across({cmdTitleColor, CmdSubTitle, Stretch()}),
+            }),
+        }),
+        Frame("Teckensnitt", {sTitleFont, Across({cmdTitleFont, Stretch()})}),
+        Stretch(),
+        OkCancel(),
+    }));
+    tTitleText->setFocus();
+}
+
+void DlgDesTitle::MakeSpacing()
+{
+    const Text& spacing = title_.TitleCharInterSpace;
+    CheckedField(NAMED(tTitleCharInterSpace), spacing.empty() ? "0" : spacing,
+                 CheckedCharInterSpace);
+    Named(NAMED(UpDownArr), new UpDownArrows(tTitleCharInterSpace));
+    UpDownArr->SetRange(-10, 100);
+    Bind([this] {
+        title_.TitleCharInterSpace =
+            NumberText(LeadingNumber(FromQt(tTitleCharInterSpace->text())));
+    });
+}
+
+// Kept: a font is stored at once, so that Cancel does not take it back.
+void DlgDesTitle::ChooseFont()
+{
+    if (const auto chosen = session_.ask.ChooseFont(TitleFontOf(title_))) {
+        SetTitleFont(title_, *chosen);
+        session_.state.ProjectIsDirty = kOn;
+        ShowFont();
+    }
+}
+
+void DlgDesTitle::ShowFont()
+{
+    sTitleFont->setText(ToQt(FontDescription(title_.TitleFontName, title_.TitleFontSize,
+                                             title_.TitleFontBold, title_.TitleFontItalic)));
+}
+
+} // namespace quillon

@@ -1,0 +1,52 @@
+#include "ui/UpDownArrows.h"
+
+#include <QtWidgets>
+#include <algorithm>
+
+namespace quillon {
+
+UpDownArrows::UpDownArrows(QLineEdit* field) : field_(field)
+{
+    auto* arrows = new QVBoxLayout(this);
+    arrows->setContentsMargins(0, 0, 0, 0);
+    arrows->setSpacing(0);
+    const auto arrow = [&](Qt::ArrowType type, const char* name, const char* spoken, int by) {
+        auto* button = new QToolButton;
+        button->setObjectName(name);
+        button->setAccessibleName(spoken);
+        button->setArrowType(type);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setFixedSize(field_->sizeHint().height(), field_->sizeHint().height() / 2);
+        connect(button, &QToolButton::clicked, this, [this, by] { Step(by); });
+        arrows->addWidget(button);
+    };
+    arrow(Qt::UpArrow, "Up", "Öka", 1);
+    arrow(Qt::DownArrow, "Down", "Minska", -1);
+    field_->installEventFilter(this);
+}
+
+void UpDownArrows::SetRange(int min, int max)
+{
+    min_ = min;
+    max_ = max;
+}
+
+bool UpDownArrows::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == field_ && event->type() == QEvent::KeyPress && field_->isEnabled()) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            Step(key == Qt::Key_Up ? 1 : -1);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void UpDownArrows::Step(int by)
+{
+    field_->setText(QString::number(std::clamp(field_->text().toInt() + by, min_, max_)));
+}
+
+} // namespace quillon

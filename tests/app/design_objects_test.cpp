@@ -1,0 +1,244 @@
+// The objects on the tab "Design": where they stand, how they are moved, what opens their editors.
+#include "app/DesignPage.h"
+#include "app/MainForm.h"
+#include "design/forms/design_commands.h"
+#include "design/number_fields.h"
+#include "support/window_test.h"
+
+namespace quillon::test {
+namespace {
+
+class DesignObjectsTest : public WindowTest {
+protected:
+    DesignObjectsTest() { session.surface.screen = {}; }
+
+    /// The tab in a window of its own, with a surface of some size.
+    DesignScreen& Show()
+    {
+        tabs = std::make_unique<QTabWidget>();
+        page = new DesignPage(session);
+        tabs->addTab(page, "Design");
+        page->ShowSession();
+        tabs->resize(800, 600);
+        ShowActive(*tabs);
+        return page->Screen();
+    }
+
+    QWidget& Object(const char* name) { return Find<QWidget>(*tabs, name); }
+
+    void PutPicture(const Text& path, int width, int height)
+    {
+        QImage picture(width, height, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        ASSERT_TRUE(picture.save(&buffer, "BMP"));
+        machine.files.Put(path, bytes.toStdString());
+    }
+
+    void Drag(QWidget& object, QPoint by)
+    {
+        const QPoint from(10, 10);
+        QTest::mousePress(&object, Qt::LeftButton, {}, from);
+        QMouseEvent move(QEvent::MouseMove, from + by, object.mapToGlobal(from + by), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(&object, &move);
+        QTest::mouseRelease(&object, Qt::LeftButton, {}, from + by);
+    }
+
+    Project& project = session.project;
+    std::unique_ptr<QTabWidget> tabs;
+    DesignPage* page = nullptr;
+};
+
+TEST_F(DesignObjectsTest, ANewProjectShowsNoneOfThem)
+{
+    Show();
+    for (const char* name : {"DesPicture0", "DesPicture1", "DesPicture2", "DesPictureAnim",
+                             "DesLogotype", "DesTextBoxPic", "DesRTFboxPic"})
+        EXPECT_FALSE(Object(name).isVisible()) << name;
+}
+
+TEST_F(DesignObjectsTest, AreShownWhereTheRecordsSay)
+{
+    PutPicture("C:\\b.bmp", 60, 40);
+    project.DesPictures.Pictures[1].PictureFilename = "C:\\b.bmp";
+    project.DesPicturesAnim.NrAnimPictures = 1;
+    project.DesLogotype.LogotypeFilename = "C:\\b.bmp";
+    project.DesTextBox.ShowTextBox = kOn;
+    project.DesRTFbox.ShowRTFbox = kOn;
+    project.DesRTFbox.RTFfilename = "demo.rtf";
+    Show();
+    EXPECT_EQ(Object("DesPicture1").geometry(), QRect(23, 83, 60, 40));
+    EXPECT_EQ(Object("DesPictureAnim").geometry(), QRect(36, 96, 200, 100));
+    EXPECT_EQ(Object("DesTextBoxPic").geometry(), QRect(27, 197, 200, 99));
+    EXPECT_EQ(Object("DesRTFboxPic").geometry(), QRect(27, 187, 200, 110));
+    EXPECT_EQ(Find<QLabel>(*tabs, "Label_DesRTFboxPic").text(), "demo.rtf");
+    EXPECT_EQ(Find<QLabel>(*tabs, "Label_DesRTFboxPic").pos(), QPoint(24, 2));
+    EXPECT_TRUE(Object("DesLogotype").isVisible());
+    EXPECT_EQ(Object("DesLogotype").size(), QSize(60, 40));
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    SavePicture(*tabs, "DesignPage_objects");
+}
+
+TEST_F(DesignObjectsTest, FollowTheMouse)
+{
+    project.DesTextBox.ShowTextBox = kOn;
+    project.DesRTFbox.ShowRTFbox = kOn;
+    project.DesPicturesAnim.NrAnimPictures = 1;
+    Show();
+    Drag(Object("DesTextBoxPic"), {30, -20});
+    EXPECT_EQ(project.DesTextBox.BoxXPos, 400 + 30 * 15);
+    EXPECT_EQ(project.DesTextBox.BoxYPos, 2950 - 20 * 15);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    Drag(Object("DesRTFboxPic"), {5, 5});
+    EXPECT_EQ(project.DesRTFbox.RTFboxXPos, 475);
+    Drag(Object("DesPictureAnim"), {-900, -900});
+    EXPECT_EQ(project.DesPicturesAnim.PictureXPos, 80);
+    EXPECT_EQ(project.DesPicturesAnim.PictureYPos, 95);
+    EXPECT_FALSE(Object("DesDragRect").isVisible());
+}
+
+TEST_F(DesignObjectsTest, ShowARectangleWhileTheyAreDragged)
+{
+    project.DesTextBox.ShowTextBox = kOn;
+    Show();
+    QWidget& box = Object("DesTextBoxPic");
+    QTest::mousePress(&box, Qt::LeftButton, {}, {10, 10});
+    EXPECT_TRUE(Object("DesDragRect").isVisible());
+    EXPECT_EQ(box.cursor().shape(), Qt::SizeAllCursor);
+    QTest::mouseRelease(&box, Qt::LeftButton, {}, {10, 10});
+    EXPECT_FALSE(Object("DesDragRect").isVisible());
+    EXPECT_EQ(project.DesTextBox.BoxXPos, 400);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(DesignObjectsTest, MoveByTheArrowKeys)
+{
+    PutPicture("C:\\b.bmp", 60, 40);
+    project.DesPictures.Pictures[0].PictureFilename = "C:\\b.bmp";
+    Show();
+    QWidget& picture = Object("DesPicture0");
+    picture.setFocus();
+    QTest::keyClick(&picture, Qt::Key_Right);
+    QTest::keyClick(&picture, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(project.DesPictures.Pictures[0].PictureXPos, 240 + 15);
+    EXPECT_EQ(project.DesPictures.Pictures[0].PictureYPos, 1140 + 150);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(DesignObjectsTest, TheLogotypeStaysWhereItIs)
+{
+    PutPicture("C:\\b.bmp", 60, 40);
+    project.DesLogotype.LogotypeFilename = "C:\\b.bmp";
+    Show();
+    QWidget& logotype = Object("DesLogotype");
+    const QPoint before = logotype.pos();
+    Drag(logotype, {-50, -50});
+    QTest::keyClick(&logotype, Qt::Key_Left);
+    EXPECT_EQ(logotype.pos(), before);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(DesignObjectsTest, OpenTheirEditors)
+{
+    PutPicture("C:\\b.bmp", 60, 40);
+    for (section::DesPicture& picture : project.DesPictures.Pictures)
+        picture.PictureFilename = "C:\\b.bmp";
+    project.DesPicturesAnim.NrAnimPictures = 1;
+    project.DesLogotype.LogotypeFilename = "C:\\b.bmp";
+    project.DesTextBox.ShowTextBox = kOn;
+    project.DesRTFbox.ShowRTFbox = kOn;
+    Show();
+    const std::pair<const char*, const char*> cases[] = {
+        {"DesPicture0", "Bild 1"},     {"DesPicture2", "Bild 3"},
+        {"DesLogotype", "Logotype"},   {"DesPictureAnim", "Växlingsbara bilder"},
+        {"DesTextBoxPic", "Textruta"}, {"DesRTFboxPic", "RTF-ruta"}};
+    for (const auto& [name, title] : cases) {
+        QString opened;
+        OnNextDialog([&](QDialog& dialog) { opened = dialog.windowTitle(); });
+        QTest::mouseDClick(&Object(name), Qt::LeftButton);
+        EXPECT_EQ(opened, title) << name;
+        OnNextDialog([&](QDialog& dialog) { opened = "Enter: " + dialog.windowTitle(); });
+        QTest::keyClick(&Object(name), Qt::Key_Return);
+        EXPECT_EQ(opened, QString("Enter: ") + title) << name;
+    }
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(DesignObjectsTest, TheSurfaceOpensAnEditorByTheHeightOfThePress)
+{
+    project.DesTitleUnderline = {.UnderlineType = 1, .UnderlineHeight = 3};
+    Show();
+    QWidget& surface = Object("colorblendBackground");
+    const std::pair<int, const char*> cases[] = {
+        {20, "Titel"}, {45 + 13, "Understrykning av titel"}, {300, "Bakgrund"}};
+    for (const auto& [y, title] : cases) {
+        QString opened;
+        OnNextDialog([&](QDialog& dialog) { opened = dialog.windowTitle(); });
+        QTest::mousePress(&surface, Qt::LeftButton, {}, {200, y});
+        QTest::mouseDClick(&surface, Qt::LeftButton, {}, {200, y});
+        EXPECT_EQ(opened, title) << y;
+    }
+}
+
+TEST_F(DesignObjectsTest, ALogotypeAsLargeAsTheSurfaceIsRefused)
+{
+    PutPicture("C:\\stor.bmp", 3000, 10);
+    ask.Expect({BoxKind::Critical, "Kan ej lägga in bilden"});
+    project.DesLogotype.LogotypeFilename = "C:\\stor.bmp";
+    Show();
+    EXPECT_EQ(project.DesLogotype.LogotypeFilename, "");
+    EXPECT_FALSE(Object("DesLogotype").isVisible());
+}
+
+TEST_F(DesignObjectsTest, PicturesBehindADamagedOneAreNotLaidOut)
+{
+    machine.files.Put("C:\\fel.bmp", "no picture");
+    PutPicture("C:\\b.bmp", 60, 40);
+    ask.Expect(
+        {BoxKind::Critical, "Fel bildformat", "Filen som du valde är ej ett giltigt bildformat!"});
+    project.DesPictures.Pictures[0].PictureFilename = "C:\\fel.bmp";
+    project.DesPictures.Pictures[1].PictureFilename = "C:\\b.bmp";
+    Show();
+    EXPECT_EQ(project.DesPictures.Pictures[0].PictureFilename, "C:\\fel.bmp");
+    EXPECT_FALSE(Object("DesPicture1").isVisible());
+    EXPECT_FALSE(ask.busyPointer);
+}
+
+TEST_F(DesignObjectsTest, CommandsOpenTheEditors)
+{
+    MainForm form(session);
+    ShowActive(form);
+    const std::pair<int, const char*> commands[] = {{125, "Bakgrund"},
+                                                    {126, "Titel"},
+                                                    {127, "Understrykning av titel"},
+                                                    {128, "Textruta"},
+                                                    {129, "RTF-ruta"},
+                                                    {130, "Bild 1"},
+                                                    {131, "Växlingsbara bilder"},
+                                                    {132, "Logotype"},
+                                                    {133, "Procentmätare"},
+                                                    {134, "Ljud"},
+                                                    {135, "Översikt"}};
+    for (const auto& [id, title] : commands) {
+        QString opened;
+        OnNextDialog([&](QDialog& dialog) { opened = dialog.windowTitle(); });
+        form.RunCommand(id);
+        EXPECT_EQ(opened, title) << id;
+    }
+}
+
+TEST(PictureToEdit, IsTheFirstFreeSlot)
+{
+    section::DesPictures record;
+    EXPECT_EQ(PictureToEdit(record), 0U);
+    record.Pictures[0].PictureFilename = "a";
+    EXPECT_EQ(PictureToEdit(record), 1U);
+    record.Pictures[1].PictureFilename = record.Pictures[2].PictureFilename = "b";
+    EXPECT_EQ(PictureToEdit(record), 0U);
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,394 @@
+// The editors of the design's objects.
+#include "design/forms/DlgDesBackground.h"
+#include "design/forms/DlgDesLogotype.h"
+#include "design/forms/DlgDesOverview.h"
+#include "design/forms/DlgDesPercentGauge.h"
+#include "design/forms/DlgDesPictures.h"
+#include "design/forms/DlgDesPicturesAnim.h"
+#include "design/forms/DlgDesTextbox.h"
+#include "design/forms/DlgDesTitle.h"
+#include "design/forms/DlgSound.h"
+#include "design/forms/DlgUnderline.h"
+#include "support/window_test.h"
+#include "ui/PathLabel.h"
+#include "ui/UpDownArrows.h"
+
+namespace quillon::test {
+namespace {
+
+class DesignEditorsTest : public WindowTest {
+protected:
+    DesignEditorsTest()
+    {
+        session.surface.width = 640;
+        session.surface.height = 480;
+    }
+
+    Project& project = session.project;
+};
+
+/// Types an entry, leaves the field and gives what it became.
+Text Left(QWidget& form, const char* name, const Text& entry)
+{
+    Type(form, name, entry);
+    Find<QWidget>(form, "cmdCancel").setFocus();
+    return TextIn(form, name);
+}
+
+TEST_F(DesignEditorsTest, BackgroundStoresItsFields)
+{
+    DlgDesBackground form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.windowTitle(), "Bakgrund");
+    EXPECT_TRUE(form.oColor->isChecked());
+    EXPECT_EQ(form.ComboBlendDirection->currentText(), "Tona ned");
+    EXPECT_TRUE(form.tBlendDepth->isEnabled());
+    // An empty depth of the record is shown as it is until a direction is chosen.
+    ask.colours = {0x123456};
+    Click(form, "cmdBackColor");
+    EXPECT_EQ(ask.shownColours, std::vector<Long>{16711680});
+    ask.choices = {{{"C:\\Bilder\\sol.jpg"}}};
+    Click(form, "cmdSelectPicture");
+    EXPECT_EQ(ask.questions.back().title, "Välj bakgrundsbild");
+    EXPECT_EQ(ask.questions.back().filter,
+              "Alla bildfiler (*.bmp;*.jpg)|*.bmp;*.jpg|Bitmappar (*.bmp)|*.bmp|JPEG-bilder "
+              "(*.jpg)|*.jpg");
+    EXPECT_TRUE(form.oPicture->isChecked());
+    EXPECT_EQ(session.Settings.Directories.LastPictureDir, "C:\\Bilder");
+    Click(form, "cStretchPictureToScreen");
+    SavePicture(form, "DlgDesBackground");
+    SaveDarkPicture(form, "DlgDesBackground");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesBackground.Type, 2);
+    EXPECT_EQ(project.DesBackground.BackColor1, 0x123456);
+    EXPECT_EQ(project.DesBackground.PictureFilename, "C:\\Bilder\\sol.jpg");
+    EXPECT_EQ(project.DesBackground.StretchPicture, kOff);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(DesignEditorsTest, BackgroundOfColourLosesItsPicture)
+{
+    project.DesBackground.Type = 2;
+    project.DesBackground.PictureFilename = "C:\\sol.jpg";
+    DlgDesBackground form(session, nullptr);
+    ShowActive(form);
+    EXPECT_TRUE(form.oPicture->isChecked());
+    Click(form, "oColor");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesBackground.Type, 1);
+    EXPECT_EQ(project.DesBackground.PictureFilename, "");
+}
+
+TEST_F(DesignEditorsTest, BackgroundIsMarkedChangedByADirectionAlone)
+{
+    DlgDesBackground form(session, nullptr);
+    ShowActive(form);
+    form.ComboBlendDirection->setCurrentIndex(0);
+    EXPECT_FALSE(form.tBlendDepth->isEnabled());
+    EXPECT_FALSE(form.labBlendDepth->isEnabled());
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    form.ComboBlendDirection->setCurrentIndex(5);
+    EXPECT_TRUE(form.tBlendDepth->isEnabled());
+    EXPECT_EQ(form.tBlendDepth->text(), "100");
+    EXPECT_EQ(form.ComboBlendDirection->currentText(), "Rektangulär toning");
+    Click(form, "cmdCancel");
+    EXPECT_EQ(project.DesBackground.BlendDirection, 4);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(DesignEditorsTest, BackgroundResetEmptiesTheName)
+{
+    project.DesBackground.Type = 2;
+    project.DesBackground.PictureFilename = "C:\\sol.jpg";
+    DlgDesBackground form(session, nullptr);
+    ShowActive(form);
+    Click(form, "cmdReset");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesBackground.PictureFilename, "");
+    EXPECT_EQ(project.DesBackground.Type, 2);
+}
+
+TEST_F(DesignEditorsTest, TitleStoresItsFields)
+{
+    project.DesTitle.TitleCharInterSpace = "";
+    DlgDesTitle form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(TextIn(form, "tTitleCharInterSpace"), "0");
+    EXPECT_TRUE(form.oTitleLeft->isChecked());
+    EXPECT_TRUE(form.cTitleShadow->isChecked());
+    EXPECT_EQ(form.sTitleFont->text(), "Times New Roman, 26 pt, fet, kursiv");
+    Type(form, "tTitleText", "Hej");
+    Click(form, "oTitleRight");
+    Click(form, "cTitleShadow");
+    ask.colours = {0xFF};
+    Click(form, "cmdTitleColor");
+    Type(form, "tTitleCharInterSpace", "12");
+    SavePicture(form, "DlgDesTitle");
+    SaveDarkPicture(form, "DlgDesTitle");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesTitle.TitleText, "Hej");
+    EXPECT_EQ(project.DesTitle.TitleAlignment, 3);
+    EXPECT_EQ(project.DesTitle.TitleShadow, kOff);
+    EXPECT_EQ(project.DesTitle.TitleForeColor, 0xFF);
+    EXPECT_EQ(project.DesTitle.TitleCharInterSpace, "12");
+}
+
+TEST_F(DesignEditorsTest, TitleCorrectsTheSpacing)
+{
+    DlgDesTitle form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(Left(form, "tTitleCharInterSpace", "-11"), "-10");
+    EXPECT_EQ(Left(form, "tTitleCharInterSpace", "101"), "100");
+    EXPECT_EQ(Left(form, "tTitleCharInterSpace", ""), "0");
+    QTest::keyClick(form.tTitleCharInterSpace, Qt::Key_Down);
+    EXPECT_EQ(TextIn(form, "tTitleCharInterSpace"), "-1");
+    QTest::mouseClick(&Find<QToolButton>(*form.UpDownArr, "Up"), Qt::LeftButton);
+    EXPECT_EQ(TextIn(form, "tTitleCharInterSpace"), "0");
+}
+
+TEST_F(DesignEditorsTest, TitleKeepsANewFontOnCancel)
+{
+    DlgDesTitle form(session, nullptr);
+    ShowActive(form);
+    ask.fonts = {FontChoice{.name = "Arial", .size = 20}};
+    ask.colours = {0xFF};
+    Click(form, "cmdTitleFont");
+    Click(form, "cmdTitleColor");
+    EXPECT_EQ(
+        ask.shownFonts.front(),
+        (FontChoice{.name = "Times New Roman", .size = 26, .isBold = true, .isItalic = true}));
+    EXPECT_EQ(form.sTitleFont->text(), "Arial, 20 pt, ej fet, ej kursiv");
+    Click(form, "cmdCancel");
+    EXPECT_EQ(project.DesTitle.TitleFontName, "Arial");
+    EXPECT_EQ(project.DesTitle.TitleFontSize, 20);
+    EXPECT_EQ(project.DesTitle.TitleFontBold, kOff);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    EXPECT_EQ(project.DesTitle.TitleForeColor, 65535); // a colour is only stored with OK
+}
+
+TEST_F(DesignEditorsTest, TitleTakesTheSubtitleBack)
+{
+    DlgDesTitle form(session, nullptr);
+    ShowActive(form);
+    ask.choices = {{{"%PRODUCT"}}};
+    OnNextDialog([](QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Undertitel");
+        auto& field = Find<QLineEdit>(dialog, "tSubtitle");
+        field.setText("ab");
+        field.setCursorPosition(1);
+        Click(dialog, "cmdVariables");
+        EXPECT_EQ(field.text(), "a%PRODUCTb");
+        SavePicture(dialog, "DlgDesSubTitle");
+        Click(dialog, "cmdOK");
+    });
+    Click(form, "CmdSubTitle");
+    EXPECT_EQ(project.DesSubTitle.SubTitleText, "");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesSubTitle.SubTitleText, "a%PRODUCTb");
+}
+
+TEST_F(DesignEditorsTest, UnderlineSwitchesItsControls)
+{
+    project.DesTitleUnderline.UnderlineHeight = 1;
+    DlgUnderline form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.GetUnderlineTypeNr(), 0);
+    EXPECT_EQ(TextIn(form, "tUnderlineHeight"), "3");
+    EXPECT_FALSE(form.CmdColor1->isEnabled() || form.CmdColor2->isEnabled());
+    Click(form, "oMistyUnderline");
+    EXPECT_EQ(TextIn(form, "tUnderlineHeight"), "10");
+    EXPECT_EQ(form.UpDownArr->Min(), 10);
+    EXPECT_TRUE(form.CmdColor1->isEnabled() && form.CmdColor2->isEnabled());
+    EXPECT_EQ(Left(form, "tUnderlineHeight", "9"), "10");
+    Click(form, "oSimpleUnderline");
+    EXPECT_EQ(TextIn(form, "tUnderlineHeight"), "3");
+    EXPECT_TRUE(form.CmdColor1->isEnabled());
+    EXPECT_FALSE(form.CmdColor2->isEnabled());
+    Click(form, "oBlendUnderline");
+    EXPECT_EQ(TextIn(form, "tUnderlineHeight"), "4");
+    EXPECT_EQ(form.UpDownArr->Min(), 3);
+    EXPECT_EQ(Left(form, "tUnderlineHeight", "3"), "3");
+    EXPECT_EQ(Left(form, "tUnderlineHeight", "51"), "50");
+    EXPECT_EQ(Left(form, "tUnderlineHeight", ""), "3");
+    Type(form, "tUnderlineHeight", "7");
+    Click(form, "oNoUnderline");
+    EXPECT_EQ(TextIn(form, "tUnderlineHeight"), "7");
+    form.SetUnderlineTypeNr(3);
+    ask.colours = {0x11, 0x22};
+    Click(form, "CmdColor1");
+    Click(form, "CmdColor2");
+    Click(form, "cUnderlineTextOnly");
+    SavePicture(form, "DlgUnderline");
+    Click(form, "OKButton");
+    const section::DesTitleUnderline& stored = project.DesTitleUnderline;
+    EXPECT_EQ(stored.UnderlineType, 3);
+    EXPECT_EQ(stored.UnderlineColor1, 0x11);
+    EXPECT_EQ(stored.UnderlineColor2, 0x22);
+    EXPECT_EQ(stored.UnderlineHeight, 4);
+    EXPECT_EQ(stored.UnderlineTextOnly, 0);
+}
+
+TEST_F(DesignEditorsTest, TextboxStoresItsFields)
+{
+    DlgDesTextbox form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.sBoxTitleFont->text(), "Arial, 12 pt, fet, ej kursiv");
+    EXPECT_EQ(form.sBoxTextFont->text(), "Arial, 9 pt, ej fet, ej kursiv");
+    Type(form, "tTitleText", "Rubrik");
+    form.tBoxText->setPlainText("en\ntvå");
+    Click(form, "cShowTextBox");
+    Click(form, "cCenterBox");
+    Click(form, "cPlaceBelowTitle");
+    Click(form, "cUseBackground");
+    ask.fonts = {FontChoice{.name = "Courier", .size = 8, .colour = 0x44}};
+    Click(form, "cmdTextBoxFont");
+    EXPECT_EQ(ask.shownFonts.front().colour, 0);
+    EXPECT_EQ(form.sBoxTextFont->text(), "Courier, 8 pt, ej fet, ej kursiv");
+    EXPECT_EQ(Left(form, "tWidth", "49"), "50");
+    EXPECT_EQ(Left(form, "tWidth", "641"), "640");
+    EXPECT_EQ(Left(form, "tHeight", "481"), "480");
+    SavePicture(form, "DlgDesTextbox");
+    SaveDarkPicture(form, "DlgDesTextbox");
+    Click(form, "cmdOK");
+    const section::DesTextBox& box = project.DesTextBox;
+    EXPECT_EQ(box.BoxTitle, "Rubrik");
+    EXPECT_EQ(box.BoxText, "en\r\ntvå");
+    EXPECT_EQ(box.ShowTextBox, kOn);
+    EXPECT_EQ(box.BoxCenter, kOn);
+    EXPECT_EQ(box.BoxPlaceBelowTitle, kOn);
+    EXPECT_EQ(box.BoxUseBackColor, kOff);
+    EXPECT_EQ(box.BoxTextColor, 0x44);
+    EXPECT_EQ(box.BoxWidth, 640);
+    EXPECT_EQ(box.BoxHeight, 480);
+}
+
+TEST_F(DesignEditorsTest, PicturesExcludeTransparenceAndStretching)
+{
+    project.DesPictures.Pictures[1].StretchPicture = kOn;
+    DlgDesPictures form(1, session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.windowTitle(), "Bild 2");
+    EXPECT_EQ(form.ComboTransparentColor->currentText(), "Svart");
+    Click(form, "cTransparentBkg");
+    EXPECT_FALSE(form.cStretchPicture->isChecked());
+    for (QWidget* control : std::initializer_list<QWidget*>{form.cStretchPicture, form.tWidth,
+                                                            form.tHeight, form.LabelW, form.LabelH})
+        EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
+    Click(form, "cTransparentBkg");
+    EXPECT_TRUE(form.tWidth->isEnabled());
+    EXPECT_EQ(Left(form, "tWidth", "9"), "10");
+    EXPECT_EQ(Left(form, "tHeight", "2001"), "2000");
+    SavePicture(form, "DlgDesPictures");
+    SaveDarkPicture(form, "DlgDesPictures");
+    Click(form, "cmdReset");
+    EXPECT_EQ(TextIn(form, "tWidth"), "200");
+    EXPECT_EQ(TextIn(form, "tHeight"), "100");
+    ask.choices = {{{"C:\\b\\x.wmf"}}};
+    Click(form, "cmdSelectPicture");
+    EXPECT_EQ(ask.questions.back().title, "Välj bild");
+    EXPECT_EQ(ask.questions.back().filter,
+              "Alla bildfiler|*.bmp;*.wmf;*.jpg|Bitmappar (*.bmp)|*.bmp|Metafiler "
+              "(*.wmf)|*.wmf|JPEG-bilder (*.jpg)|*.jpg");
+    form.ComboTransparentColor->setCurrentIndex(11);
+    Click(form, "cHidePicturesWhenDialogsShowed");
+    const Integer hides = form.cHidePicturesWhenDialogsShowed->isChecked() ? 1 : 0;
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesPictures.Pictures[1].PictureFilename, "C:\\b\\x.wmf");
+    EXPECT_EQ(project.DesPictures.TransparentColorNr, 11);
+    EXPECT_EQ(project.DesPictures.HidePicturesWhenDialogsShowed, hides);
+    EXPECT_EQ(project.DesPictures.Pictures[0].PictureFilename, "");
+}
+
+TEST_F(DesignEditorsTest, ChangingPicturesAreTwentyAtMost)
+{
+    DlgDesPicturesAnim form(session, nullptr);
+    ShowActive(form);
+    Click(form, "cmdRemovePicture"); // with no selection nothing happens
+    for (int i = 1; i <= 20; ++i)
+        ask.choices.push_back({{"C:\\b\\" + std::to_string(i) + ".jpg"}});
+    for (int i = 1; i <= 20; ++i)
+        Click(form, "cmdAddPicture");
+    EXPECT_EQ(form.lbPictureList->count(), 20);
+    ask.Expect({BoxKind::Inform, "Info",
+                "Du kan ej lägga till fler bilder till listan! Du kan ha maximalt 20 bilder!"});
+    Click(form, "cmdAddPicture");
+    form.lbPictureList->setCurrentRow(0);
+    Click(form, "cmdRemovePicture");
+    Type(form, "tIntervalSeconds", "0");
+    SavePicture(form, "DlgDesPicturesAnim");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesPicturesAnim.NrAnimPictures, 19);
+    EXPECT_EQ(project.DesPicturesAnim.P[0], "C:\\b\\2.jpg");
+    EXPECT_EQ(project.DesPicturesAnim.P[18], "C:\\b\\20.jpg");
+    EXPECT_EQ(project.DesPicturesAnim.P[19], "");
+    EXPECT_EQ(project.DesPicturesAnim.IntervalSeconds, 1);
+}
+
+TEST_F(DesignEditorsTest, LogotypeFallsBackToItsDefaults)
+{
+    DlgDesLogotype form(session, nullptr);
+    ShowActive(form);
+    EXPECT_TRUE(form.oRight->isChecked());
+    Click(form, "oLeft");
+    EXPECT_EQ(Left(form, "tLogotypeWMFHeight", "601"), "50");
+    EXPECT_EQ(Left(form, "tLogotypeWMFWidth", "801"), "100");
+    Type(form, "tLogotypeWMFWidth", "0");
+    SavePicture(form, "DlgDesLogotype");
+    SaveDarkPicture(form, "DlgDesLogotype");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesLogotype.LogotypeAlignment, 1);
+    EXPECT_EQ(project.DesLogotype.LogotypeWMFWidth, 100);
+    EXPECT_EQ(project.DesLogotype.LogotypeWMFHeight, 50);
+}
+
+TEST_F(DesignEditorsTest, GaugeHasTwoDirections)
+{
+    DlgDesPercentGauge form(session, nullptr);
+    ShowActive(form);
+    EXPECT_TRUE(form.oHCenter->isChecked() && form.oVCenter->isChecked());
+    Click(form, "oLeft");
+    Click(form, "oBottom");
+    SavePicture(form, "DlgDesPercentGauge");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesPercentGauge.GaugeAlignmentH, 1);
+    EXPECT_EQ(project.DesPercentGauge.GaugeAlignmentV, 3);
+}
+
+TEST_F(DesignEditorsTest, SoundIsChosenAndTakenAway)
+{
+    DlgSound form(session, nullptr);
+    ShowActive(form);
+    ask.choices = {{{"C:\\l\\sus.mid"}}};
+    Click(form, "cmdSelectBackSound");
+    EXPECT_EQ(ask.questions.back().title, "Välj ljudfil");
+    EXPECT_EQ(ask.questions.back().filter, "Ljud (*.wav;*.mid;*.mp3)|*.wav;*.mid;*.mp3");
+    EXPECT_EQ(session.Settings.Directories.LastSoundDir, "C:\\l");
+    EXPECT_EQ(form.sBackSoundFilenameX->text(), "C:\\l\\sus.mid");
+    SavePicture(form, "DlgSound");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesSound.BackSoundFilename, "C:\\l\\sus.mid");
+    DlgSound again(session, nullptr);
+    ShowActive(again);
+    Click(again, "cmdReset");
+    Click(again, "cmdOK");
+    EXPECT_EQ(project.DesSound.BackSoundFilename, "");
+}
+
+TEST_F(DesignEditorsTest, OverviewListsTheFiles)
+{
+    machine.files.Put("C:\\b\\ett.bmp", std::string(1500, 'x'));
+    project.DesPictures.Pictures[0].PictureFilename = "C:\\b\\ett.bmp";
+    DlgDesOverview form(session, nullptr);
+    ShowActive(form);
+    ASSERT_EQ(form.ListViewOverview->topLevelItemCount(), 1);
+    const QTreeWidgetItem& row = *form.ListViewOverview->topLevelItem(0);
+    EXPECT_EQ(row.text(0), "Bild 1");
+    EXPECT_EQ(row.text(1), "ett.bmp");
+    EXPECT_EQ(row.text(2), "1 500");
+    SavePicture(form, "DlgDesOverview");
+    Click(form, "cmdOK");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+} // namespace
+} // namespace quillon::test
