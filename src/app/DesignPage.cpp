@@ -14,10 +14,17 @@ DesignPage::DesignPage(Session& session) : screen_(new DesignScreen(session))
     ConnectEditors(*screen_);
 }
 
-// A page behind another one shows its objects when it comes in front.
+// Laying the objects out moves them inside the surface, which has no size of its own before it is
+// seen for the first time. So a page behind another one does that when it comes in front.
 void DesignPage::ShowSession()
 {
-    screen_->DrawDesAll();
+    if (isVisible()) {
+        screen_->DrawDesAll();
+        return;
+    }
+    screen_->DrawDesBackground();
+    screen_->DrawDesTitle();
+    screen_->HideDesObjects();
 }
 
 bool DesignPage::event(QEvent* event)
@@ -27,8 +34,14 @@ bool DesignPage::event(QEvent* event)
         parentWidget()->installEventFilter(this);
         PlaceSurface(parentWidget()->size());
     }
-    if (event->type() == QEvent::Show)
-        screen_->DrawDesAll();
+    if (event->type() == QEvent::Show) {
+        screen_->DrawDesBackground();
+        screen_->DrawDesTitle();
+        // A window that opens with this tab in front gets its size only behind this event, and
+        // objects are moved inside the surface that there is.
+        QMetaObject::invokeMethod(
+            this, [this] { ShowSession(); }, Qt::QueuedConnection);
+    }
     if (event->type() == QEvent::Hide)
         screen_->HideDesObjects();
     return Page::event(event);

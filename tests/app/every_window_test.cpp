@@ -35,6 +35,18 @@
 #include "builder/forms/DlgCompressOptions.h"
 #include "builder/forms/DlgCreate.h"
 #include "builder/forms/DlgTest.h"
+#include "design/forms/DlgDesBackground.h"
+#include "design/forms/DlgDesLogotype.h"
+#include "design/forms/DlgDesOverview.h"
+#include "design/forms/DlgDesPercentGauge.h"
+#include "design/forms/DlgDesPictures.h"
+#include "design/forms/DlgDesPicturesAnim.h"
+#include "design/forms/DlgDesRTFbox.h"
+#include "design/forms/DlgDesSubTitle.h"
+#include "design/forms/DlgDesTextbox.h"
+#include "design/forms/DlgDesTitle.h"
+#include "design/forms/DlgSound.h"
+#include "design/forms/DlgUnderline.h"
 #include "filelist/forms/DlgChCompNr.h"
 #include "filelist/forms/DlgChVariables.h"
 #include "filelist/forms/DlgChangeSrcPath.h"
@@ -62,6 +74,7 @@
 #include "shell/forms/DlgVersionInfo.h"
 #include "support/window_looks.h"
 #include "support/window_test.h"
+#include "ui/FontForm.h"
 #include "ui/SelectDir.h"
 #include "ui/XInputBox.h"
 
@@ -139,6 +152,16 @@ const WindowCase kWindows[] = {
     {"DlgCreate", OfSession<DlgCreate>},
     {"DlgCreateFoldersAtMyDoc", OfSession<DlgCreateFoldersAtMyDoc>},
     {"DlgDeleteRegKey", [](Subject of) { return Made<DlgDeleteRegKey>(of.session.ask); }},
+    {"DlgDesBackground", OfSession<DlgDesBackground>},
+    {"DlgDesLogotype", OfSession<DlgDesLogotype>},
+    {"DlgDesOverview", OfSession<DlgDesOverview>},
+    {"DlgDesPercentGauge", OfSession<DlgDesPercentGauge>},
+    {"DlgDesPictures", [](Subject of) { return Made<DlgDesPictures>(1U, of.session); }},
+    {"DlgDesPicturesAnim", OfSession<DlgDesPicturesAnim>},
+    {"DlgDesRTFbox", OfSession<DlgDesRTFbox>},
+    {"DlgDesSubTitle", [](Subject of) { return Made<DlgDesSubTitle>(of.session.project.DesSubTitle.SubTitleText, of.session); }},
+    {"DlgDesTextbox", OfSession<DlgDesTextbox>},
+    {"DlgDesTitle", OfSession<DlgDesTitle>},
     {"DlgDestDirAdvUpdate", [](Subject of) { return Made<DlgDestDirAdvUpdate>(of.session.project.Updates, of.session); }},
     {"DlgDestDirDlg", OfSession<DlgDestDirDlg>},
     {"DlgDestDirVars", [](Subject) { return Made<DlgDestDirVars>(); }},
@@ -168,11 +191,14 @@ const WindowCase kWindows[] = {
     {"DlgShowDestDirectories", [](Subject) { return Made<DlgShowDestDirectories>(); }},
     {"DlgShowDocAfter", OfSession<DlgShowDocAfter>},
     {"DlgSortList", [](Subject of) { return Made<DlgSortList>(of.session.project); }},
+    {"DlgSound", OfSession<DlgSound>},
     {"DlgTest", OfSession<DlgTest>},
     {"DlgTestNETFramework", OfSession<DlgTestNETFramework>},
+    {"DlgUnderline", OfSession<DlgUnderline>},
     {"DlgUninstallRegKey", [](Subject of) { return Made<DlgUninstallRegKey>(of.session.ask); }},
     {"DlgVariables", [](Subject of) { return Made<DlgVariables>(of.session, DlgVariables::Use::Picker); }},
     {"DlgVersionInfo", OfSession<DlgVersionInfo>},
+    {"FontForm", [](Subject of) { return Made<FontForm>(FontChoice{.name = "Arial", .size = 10, .isUnderlined = false, .isStruckOut = false, .colour = 0}, of.session.ask); }},
     {"InstDlgDestDir", [](Subject of) { return Made<InstDlgDestDir>(kAllSpace, of.session); }},
     {"InstDlgDestDrive", [](Subject of) { return Made<InstDlgDestDrive>(kAllSpace, of.session); }},
     {"InstDlgGeneral", [](Subject of) { return Made<InstDlgGeneral>(GeneralPreview{.title = kLongTitle, .text = kLongText}, of.session); }},

@@ -61,7 +61,8 @@ TEST_F(DlgAddINIentryTest, AsksForTheNameOfAValue)
 
 TEST_F(DlgAddINIentryTest, StaysOpenWhereTheListHasNoRoom)
 {
-    list = Text(kLongestIniList - 5, 'x');
+    list.assign(kLongestIniList - 7, 'x');
+    list += "\r\n";
     Type(form, "tName", "a");
     Type(form, "tValue", "bc");
     ask.Expect({BoxKind::Critical, "Fel",

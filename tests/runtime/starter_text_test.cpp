@@ -74,7 +74,7 @@ TEST(StarterText, IsNoneWhereTheFileHasNone)
          {Text(), Text("["), Text("[PreLoader]"), Text("[PreLoader]\nMsg_Extract"),
           Text("[PreLoader]\nMsg_Extract= \t\n"), Text("[PreLoader]\nMsg_Extract=a\x1B[2J"),
           Text("[PreLoader]\nMsg_Extract=") + Text(5000, 'x'), Text("\xFF\xFE"), Text("\xFE\xFF["),
-          Text("[PreLoader]\nMsg_Extract=a\0b\n", 30)})
+          Text("[PreLoader]\nMsg_Extract=a\0b\n", 28)})
         EXPECT_EQ(TextOf(file), "");
     EXPECT_EQ(TextOf("[PreLoader]\nMsg_Extract=1234567", "Msg_Extract", 8), "1234567");
     EXPECT_EQ(TextOf("[PreLoader]\nMsg_Extract=12345678", "Msg_Extract", 8), "");

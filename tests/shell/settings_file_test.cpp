@@ -191,7 +191,7 @@ TEST_F(SettingsFileTest, ReadsBytesOfAnyKind)
 
 TEST_F(SettingsFileTest, WritesNoNameThatAFileCannotHold)
 {
-    const Text tooLong = "C:\\" + Text(186, 'x') + "Ж.qnp";
+    const Text tooLong = "C:\\" + Text(185, 'x') + "Ж.qnp";
     session.RecentFiles = {tooLong, "C:\\a\r\n[Options].qnp", "C:\\å.qnp"};
     const Text written = AnsiText::FromBytes(Written());
     EXPECT_NE(written.find("F1=\r\nF2=\r\nF3=C:\\å.qnp\r\n"), Text::npos) << written;
@@ -200,7 +200,7 @@ TEST_F(SettingsFileTest, WritesNoNameThatAFileCannotHold)
 TEST_F(SettingsFileTest, RemembersPathsWithCharactersOutsideTheCodePage)
 {
     const Text folder = "C:\\verktyg Ω\\日本 ";
-    const Text longest = "C:\\" + Text(185, 'x') + "Ж.qnp";
+    const Text longest = "C:\\" + Text(184, 'x') + "Ж.qnp";
     session.RecentFiles = {"C:\\Ж.qnp", folder + "å.qnp", longest, "C:\\å.qnp"};
     session.Settings.Directories.LastSoundDir = "C:\\Ω";
     EXPECT_NE(Written().find("F1=utf-8:C:\\\xD0\x96.qnp\r\n"), std::string::npos);

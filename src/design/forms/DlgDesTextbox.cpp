@@ -82,6 +82,8 @@ void DlgDesTextbox::ChooseBoxFont(const BoxFont& fields, QLabel* label)
         SetFont(box_, fields, *chosen);
         session_.state.ProjectIsDirty = kOn;
         label->setText(ToQt(DescriptionOf(box_, fields)));
+        // A longer name widens the window at once.
+        layout()->activate();
     }
 }
 

@@ -42,7 +42,7 @@ DlgDesTitle::DlgDesTitle(Session& session, QWidget* parent)
                                                    {NAMED(oTitleRight), "&Höger", 3}})}),
             Down({
                 cTitleShadow,
-                Fields({{"Te&ckenavstånd:", Across({tTitleCharInterSpace, UpDownArr, Stretch()})}}),
+                Fields({{"Tecken&avstånd:", Across({tTitleCharInterSpace, UpDownArr, Stretch()})}}),
                 Across({cmdTitleColor, CmdSubTitle, Stretch()}),
             }),
         }),

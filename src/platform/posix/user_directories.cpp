@@ -1,6 +1,8 @@
 #include "platform/posix/user_directories.h"
 
-#include <fstream>
+#include <algorithm>
+#include <cstdio>
+#include <memory>
 #include <string_view>
 
 namespace quillon {
@@ -41,14 +43,32 @@ std::optional<std::string> AbsolutePath(const std::string& value, const std::str
     return isBelowHome ? std::optional(home + value.substr(kHome.size())) : std::nullopt;
 }
 
+// Larger than any that a desktop writes.
+constexpr std::size_t kMaxFile = 64U << 10U;
+
+/// Empty where the file can't be read.
+std::string ReadSmallFile(const std::string& path)
+{
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
+                                                               std::fclose);
+    if (!file)
+        return {};
+    std::string bytes(kMaxFile, '\0');
+    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
+    return bytes;
+}
+
 } // namespace
 
 std::optional<std::string> FindUserDirectory(const std::string& file, const std::string& key,
                                              const std::string& home)
 {
     std::optional<std::string> found;
-    std::ifstream lines(file);
-    for (std::string line; std::getline(lines, line);) {
+    const std::string bytes = ReadSmallFile(file);
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t end = std::min(bytes.find('\n', at), bytes.size());
+        const std::string line = bytes.substr(at, end - at);
+        at = end + 1;
         const std::size_t equals = line.find('=');
         if (equals == std::string::npos || Trimmed(line.substr(0, equals)) != key)
             continue;
