@@ -41,6 +41,7 @@ def add_files(desktop, main, sources):
     desktop.click(desktop.find(main, "push button", "Addera filer"))
     chooser = desktop.window("Addera filer")
     desktop.click_into(desktop.find(chooser, "text", "Filnamn"))
+    desktop.keys("ctrl+a")  # the pattern that stands there from the start
     desktop.type(str(sources))
     desktop.keys("Return")
     desktop.find(chooser, "table cell", "las mig.txt")

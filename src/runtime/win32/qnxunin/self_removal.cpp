@@ -31,6 +31,21 @@ bool RemoveEmpty(const Text& folder)
     return RemoveDirectoryW(WidePath(folder).c_str()) != 0;
 }
 
+// A program that has ended, or a scanner, may hold a file for a moment longer.
+constexpr int kAttempts = 50;
+constexpr DWORD kPause = 100; // milliseconds
+
+template <class Work>
+bool Attempt(Work work)
+{
+    for (int i = 0; i < kAttempts; ++i) {
+        if (work())
+            return true;
+        Sleep(kPause);
+    }
+    return false;
+}
+
 // Through the handle that the file goes with. Systems before Windows Vista have no such function.
 bool RenameOpenFile(HANDLE file, const Text& path)
 {
@@ -62,7 +77,7 @@ void RemoveOwnFolder(HANDLE ownFile)
 {
     const Text folder = ProgramFolder();
     RenameOpenFile(ownFile, folder + "~");
-    if (!RemoveEmpty(folder))
+    if (!Attempt([&] { return RemoveEmpty(folder); }))
         MoveFileExW(WidePath(folder).c_str(), nullptr, MOVEFILE_DELAY_UNTIL_REBOOT);
 }
 
@@ -120,7 +135,7 @@ std::optional<int> CleanUpForParent(std::string_view commandLine)
     // Without a parent that waits to be followed, somebody else has started this.
     if (WaitForSingleObject(handle(numbers), INFINITE) != WAIT_OBJECT_0)
         return 1;
-    if (!Delete(JoinPath(ProgramFolder(), kMovedProgram)))
+    if (!Attempt([] { return Delete(JoinPath(ProgramFolder(), kMovedProgram)); }))
         return 1;
     RemoveOwnFolder(handle(numbers.substr(comma + 1)));
     return 0;
