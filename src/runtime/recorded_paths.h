@@ -36,7 +36,11 @@ public:
     /// Why nothing at that path may be touched; nothing where it may. A journal leads only into the
     /// folders that it names, and through no link that has been put in their place.
     std::optional<Message> WhyOutOfReach(const Text& path) const;
-    bool IsLink(const Text& folder) const { return target_.IsLink(folder); }
+    /// Whether the folder, or one above it that the product made, is a link by now.
+    bool IsBehindLink(const Text& folder) const
+    {
+        return target_.IsLink(folder) || HasLinkOnTheWay(LowerCase(folder));
+    }
 
 private:
     void Note(std::size_t index, const JournalRecord& record);

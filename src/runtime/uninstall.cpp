@@ -296,7 +296,10 @@ void Uninstallation::RemoveKeyWithAllBelow(const RegistryKey& key)
 void Uninstallation::TakeBackRestart(const record::AtRestart& move)
 {
     const Text place = LowerCase(ExtractDirectory(move.to) + "\\");
-    if (!IsInReach(move.to) || !LowerCase(move.from).starts_with(place))
+    // A path that is not plain could lead out of the place that it begins with.
+    const bool isBeside =
+        ResolvePath(move.from) == move.from && LowerCase(move.from).starts_with(place);
+    if (!isBeside || !IsInReach(move.to))
         return;
     RemoveEvenReadOnly(files_, move.from);
     ForgetMoveAtRestart(input_.target, move.from);
@@ -331,7 +334,7 @@ void Uninstallation::RemoveFolder(const Text& folder)
 {
     if (!files_.DirExists(folder))
         return;
-    if (paths_.IsLink(folder)) {
+    if (paths_.IsBehindLink(folder)) {
         input_.log.Skipped(folder, {Message::ReasonLinkOnTheWay});
         return;
     }

@@ -131,7 +131,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
         WinFiles files;
         WinMachine machine;
         Host host{files, machine};
-        const EarlierRun earlier = FinishEarlier(host);
+        // A line that is refused changes nothing.
+        const EarlierRun earlier = line.switches.badSwitch ? EarlierRun::None : FinishEarlier(host);
         const auto product = FindProduct(files, line.logPath);
         if (product)
             texts = product->texts;
