@@ -235,7 +235,10 @@ public:
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::FocusOut && !isLeaving_) {
+        // A window that is closed or destroyed takes the focus too; its fields are not read any
+        // more.
+        const bool isShown = static_cast<QWidget*>(parent())->isVisible();
+        if (event->type() == QEvent::FocusOut && isShown && !isLeaving_) {
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
             // A menu or another window on top is no leaving.
             if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) {
