@@ -21,7 +21,7 @@ void Require(bool holds)
 void CheckLine(const RegistryLine& line)
 {
     using Kind = RegistryLine::Kind;
-    Require((line.kind == Kind::Unreadable) == !line.reason.empty());
+    Require((line.kind == Kind::Unreadable) == line.reason.has_value());
     Require(PlainSubKey(line.key.subKey) == line.key.subKey);
     if (line.kind == Kind::TextValue || line.kind == Kind::NumberValue ||
         line.kind == Kind::BytesValue)
@@ -60,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         at += line.line.size();
         CheckLine(line.read);
     }
-    FindUnsavableLine(list);
+    FindUnsavableLine(&section::Lists::Registry, list);
     for (const auto type :
          {RegistryValueType::String, RegistryValueType::Dword, RegistryValueType::Binary})
         CheckEntry(list, type);
