@@ -236,8 +236,8 @@ public:
     bool eventFilter(QObject*, QEvent* event) override
     {
         // A window that is closed or destroyed takes the focus too; its fields are not read any
-        // more.
-        const bool isShown = static_cast<QWidget*>(parent())->isVisible();
+        // more. A field on a tab that goes behind another one is.
+        const bool isShown = static_cast<QWidget*>(parent())->window()->isVisible();
         if (event->type() == QEvent::FocusOut && isShown && !isLeaving_) {
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
             // A menu or another window on top is no leaving.
