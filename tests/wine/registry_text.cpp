@@ -85,12 +85,14 @@ bool RegistryText::HasKey(const std::string& key) const
     return keys_.contains(LowerCase(key));
 }
 
-// Wine tells here, anew at each start, which screen and which devices it found.
+// Wine tells here, anew at each start, which screen and which devices it found; its debugger, which
+// looks at processes that end badly, keeps its settings here too.
 bool IsWinesOwn(const std::string& key)
 {
     return key.starts_with("hklm\\system\\currentcontrolset\\control\\class\\") ||
            key.starts_with("hklm\\system\\currentcontrolset\\control\\video\\") ||
-           key.starts_with("hklm\\system\\currentcontrolset\\enum\\");
+           key.starts_with("hklm\\system\\currentcontrolset\\enum\\") ||
+           key == "hkcu\\software\\wine\\winedbg";
 }
 
 std::string RegistryDifference(const RegistryText& before, const RegistryText& after)
