@@ -85,14 +85,12 @@ bool RegistryText::HasKey(const std::string& key) const
     return keys_.contains(LowerCase(key));
 }
 
-// Wine tells here, anew at each start, which screen and which devices it found; its debugger, which
-// looks at processes that end badly, keeps its settings here too.
+// Wine tells here, anew at each start, which screen and which devices it found.
 bool IsWinesOwn(const std::string& key)
 {
     return key.starts_with("hklm\\system\\currentcontrolset\\control\\class\\") ||
            key.starts_with("hklm\\system\\currentcontrolset\\control\\video\\") ||
-           key.starts_with("hklm\\system\\currentcontrolset\\enum\\") ||
-           key == "hkcu\\software\\wine\\winedbg";
+           key.starts_with("hklm\\system\\currentcontrolset\\enum\\");
 }
 
 std::string RegistryDifference(const RegistryText& before, const RegistryText& after)
