@@ -55,6 +55,8 @@ TEST_F(Uninstaller, IsNotEndedByAFileThatCrashesWhenItUnregisters)
     EXPECT_EQ(Uninstall(R"(/LOG="C:\bort.txt")"), 0U);
     EXPECT_FALSE(fs::exists(Main()));
     EXPECT_FALSE(RegistryText(prefix).HasKey(kEntry));
+    // A debugger of crashes notes its settings, and holds the files of the crashed program.
+    EXPECT_FALSE(RegistryText(prefix).HasKey("HKCU\\Software\\Wine\\WineDbg"));
 }
 
 TEST_F(Uninstaller, LeavesNothingOfItselfEvenBeforeTheNextStart)

@@ -47,6 +47,14 @@ Function OfKernel(const char* name)
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), name)));
 }
 
+// The error mode keeps the box away, but not a debugger that is set up to look at crashes: it would
+// wait for somebody, and hold the files that the program had loaded.
+LONG WINAPI EndAtOnce(EXCEPTION_POINTERS* crash)
+{
+    TerminateProcess(GetCurrentProcess(), crash->ExceptionRecord->ExceptionCode);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
+
 } // namespace
 
 void LoadCommonLibraries()
@@ -57,6 +65,7 @@ void LoadCommonLibraries()
 
 void StartProgram()
 {
+    SetUnhandledExceptionFilter(EndAtOnce);
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX | SEM_NOGPFAULTERRORBOX);
     __pfnDliNotifyHook2 = OnDelayedLoad;
     constexpr DWORD kSystemFolderOnly = 0x800; // LOAD_LIBRARY_SEARCH_SYSTEM32
