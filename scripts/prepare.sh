@@ -3,7 +3,7 @@
 
 BUILD_PACKAGES=(
     ca-certificates ccache cmake g++ libbenchmark-dev libdeflate-dev libgmock-dev libgtest-dev
-    libssl-dev ninja-build nlohmann-json3-dev zlib1g-dev
+    libjpeg62-turbo-dev libssl-dev ninja-build nlohmann-json3-dev zlib1g-dev
     g++-mingw-w64-i686 g++-mingw-w64-x86-64 libz-mingw-w64-dev
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-wayland fonts-dejavu-core
 )

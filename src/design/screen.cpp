@@ -58,25 +58,25 @@ private:
     }
 
     // In its own size a picture keeps its shape, whatever the screen's.
-    Picture InOwnSize(const Picture& picture) const
+    const Picture& InOwnSize(const ScalablePicture& picture) const
     {
-        return Scaled(picture, std::max(scale_.BothPixels(picture.width), 1),
-                      std::max(scale_.BothPixels(picture.height), 1));
+        return picture.InSize(std::max(scale_.BothPixels(picture.Width()), 1),
+                              std::max(scale_.BothPixels(picture.Height()), 1), letters_);
     }
 
     void PaintBackground()
     {
-        const Picture& picture = design_.pictures.background;
+        const ScalablePicture& picture = design_.pictures.background;
         if (!paint_.UsePicture || picture.IsEmpty()) {
             PaintBlend(canvas_, Whole(), BlendOf(paint_));
             return;
         }
         if (paint_.StretchPicture) {
-            PaintPicture(canvas_, Scaled(picture, canvas_.width, canvas_.height), 0, 0);
+            PaintPicture(canvas_, picture.InSize(canvas_.width, canvas_.height, letters_), 0, 0);
             return;
         }
         FillRect(canvas_, Whole(), PixelOf(paint_.ColorFrom));
-        const Picture own = InOwnSize(picture);
+        const Picture& own = InOwnSize(picture);
         PaintPicture(canvas_, own, (canvas_.width - own.width) / 2,
                      (canvas_.height - own.height) / 2);
     }
@@ -101,19 +101,20 @@ private:
         LayOutPictures(record, boxes, surface_, design_.metrics, [&](const Text&) {
             while (record.Pictures[next].PictureFilename.empty())
                 ++next;
-            const Picture& picture = design_.pictures.pictures[next++];
-            return PixelSize{picture.width, picture.height};
+            const ScalablePicture& picture = design_.pictures.pictures[next++];
+            return PixelSize{picture.Width(), picture.Height()};
         });
         for (std::size_t i = 0; i < boxes.size(); ++i)
             if (boxes[i].isVisible)
                 PaintInBox(design_.pictures.pictures[i], boxes[i]);
     }
 
-    void PaintInBox(const Picture& picture, const PictureBox& box)
+    void PaintInBox(const ScalablePicture& picture, const PictureBox& box)
     {
         const PixelRect rect = RectOf(box.place);
-        const Picture sized =
-            box.isStretched ? Scaled(picture, rect.Width(), rect.Height()) : InOwnSize(picture);
+        const Picture& sized = box.isStretched
+                                   ? picture.InSize(rect.Width(), rect.Height(), letters_)
+                                   : InOwnSize(picture);
         PaintPicture(canvas_, sized, rect.left, rect.top);
     }
 
@@ -124,17 +125,17 @@ private:
             return;
         Canvas inside = canvas_;
         inside.clip = Intersect(canvas_.clip, rect);
-        const Picture& picture = design_.pictures.changing;
+        const ScalablePicture& picture = design_.pictures.changing;
         PaintPicture(inside,
                      project_.DesPicturesAnim.StretchPicture != kOff
-                         ? Scaled(picture, rect.Width(), rect.Height())
+                         ? picture.InSize(rect.Width(), rect.Height(), letters_)
                          : InOwnSize(picture),
                      rect.left, rect.top);
     }
 
     void PaintLogotype()
     {
-        const Picture& picture = design_.pictures.logotype;
+        const ScalablePicture& picture = design_.pictures.logotype;
         if (project_.DesLogotype.LogotypeFilename.empty() || picture.IsEmpty())
             return;
         const LogotypeSurround surround{.surface = surface_,
@@ -142,13 +143,14 @@ private:
                                         .screen = design_.metrics,
                                         .paint = paint_};
         const LogotypeBox box =
-            PlaceLogotype(project_.DesLogotype, surround, {picture.width, picture.height});
+            PlaceLogotype(project_.DesLogotype, surround, {picture.Width(), picture.Height()});
         if (IsLogotypeTooLarge(box, surface_))
             return;
         const PixelRect rect = RectOf(box.place);
         if (box.isMetafile)
             FillRect(canvas_, rect, PixelOf(box.BackColor));
-        PaintPicture(canvas_, Scaled(picture, rect.Width(), rect.Height()), rect.left, rect.top);
+        PaintPicture(canvas_, picture.InSize(rect.Width(), rect.Height(), letters_), rect.left,
+                     rect.top);
     }
 
     void PaintTextBox(int titleBottom)
@@ -190,10 +192,10 @@ void ApplyTransparency(ScreenPictures& pictures, const Project& project)
     const section::DesPictures& free = project.DesPictures;
     for (std::size_t i = 0; i < pictures.pictures.size(); ++i)
         if (free.Pictures[i].UseTransparentBkg != kOff)
-            MakeTransparent(pictures.pictures[i], TransparentColour(free.TransparentColorNr));
+            pictures.pictures[i].MakeTransparent(TransparentColour(free.TransparentColorNr));
     const section::DesLogotype& logotype = project.DesLogotype;
     if (logotype.UseTransparentBkg != kOff)
-        MakeTransparent(pictures.logotype, TransparentColour(logotype.TransparentColorNr));
+        pictures.logotype.MakeTransparent(TransparentColour(logotype.TransparentColorNr));
 }
 
 void PaintScreen(const Canvas& canvas, Letters& letters, const ScreenDesign& design)

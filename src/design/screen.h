@@ -3,17 +3,17 @@
 #pragma once
 
 #include "design/object_layout.h"
-#include "design/picture.h"
 #include "design/rtf_panel.h"
+#include "design/scalable_picture.h"
 
 namespace quillon {
 
 /// The decoded files of a design; what it lacks is empty.
 struct ScreenPictures {
-    Picture background;
-    std::array<Picture, section::kDesPictureCount> pictures;
-    Picture changing;
-    Picture logotype;
+    ScalablePicture background;
+    std::array<ScalablePicture, section::kDesPictureCount> pictures;
+    ScalablePicture changing;
+    ScalablePicture logotype;
 };
 
 /// Takes the transparent colour out of the pictures that have one; once, before they are painted.

@@ -1,0 +1,80 @@
+#include "pictures/picture_file.h"
+
+#include "pictures/bitmap.h"
+#include "pictures/jpeg.h"
+#include "platform/run_error.h"
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+PictureResult Failed(PictureFault fault)
+{
+    return {{}, fault};
+}
+
+/// Into memory of just the file's size, which a text that grows would take twice over.
+std::string ReadBytes(InputFile& file, std::uint64_t size)
+{
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    std::size_t length = 0;
+    while (length < bytes.size()) {
+        const std::size_t got = file.Read(std::as_writable_bytes(std::span(bytes).subspan(length)));
+        if (got == 0)
+            break;
+        length += got;
+    }
+    bytes.resize(length);
+    return bytes;
+}
+
+PictureResult ReadFromFile(const FileSystem& files, const Text& path)
+{
+    if (path.empty() || !files.FileExists(path))
+        return Failed(PictureFault::NotFound);
+    const auto file = files.OpenInput(path);
+    const std::uint64_t size = file->Size();
+    if (size > kMaxPictureFileBytes)
+        return Failed(PictureFault::TooLarge);
+    return DecodePicture(ReadBytes(*file, size));
+}
+
+} // namespace
+
+PictureFormat PictureFormatOf(std::string_view bytes)
+{
+    if (bytes.starts_with("BM"))
+        return PictureFormat::Bitmap;
+    if (bytes.starts_with("\xFF\xD8\xFF"))
+        return PictureFormat::Jpeg;
+    return PictureFormat::Unknown;
+}
+
+PictureResult DecodePicture(std::string bytes)
+{
+    switch (PictureFormatOf(bytes)) {
+    case PictureFormat::Bitmap: {
+        DecodedPixels decoded = DecodeBitmapFile(bytes);
+        return {std::move(decoded.picture), decoded.fault};
+    }
+    case PictureFormat::Jpeg:
+        return DecodeJpeg(bytes);
+    default:
+        return Failed(PictureFault::UnknownFormat);
+    }
+}
+
+PictureResult ReadPictureFile(const FileSystem& files, const Text& path)
+{
+    try {
+        return ReadFromFile(files, path);
+    } catch (const RunError&) {
+        return Failed(PictureFault::Unreadable);
+    } catch (const std::bad_alloc&) {
+        return Failed(PictureFault::TooLarge);
+    }
+}
+
+} // namespace quillon

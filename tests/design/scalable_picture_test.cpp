@@ -1,0 +1,114 @@
+// Pictures in the sizes that they are painted in.
+#include "design/scalable_picture.h"
+
+#include "support/block_letters.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon {
+
+using test::BlockLetters;
+using testing::Each;
+
+namespace {
+
+Picture Filled(int width, int height, Pixel colour)
+{
+    return {width, height,
+            std::vector<Pixel>(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
+                               colour)};
+}
+
+// Changes from column to column, evenly.
+Picture Ramp(int width, int height)
+{
+    Picture picture{width, height, {}};
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            picture.pixels.push_back(0xFF000000 | static_cast<Pixel>(x * 255 / (width - 1)));
+    return picture;
+}
+
+TEST(ScalablePicture, IsEmptyWithoutPixels)
+{
+    BlockLetters letters;
+    EXPECT_TRUE(ScalablePicture().IsEmpty());
+    EXPECT_TRUE(ScalablePicture().InSize(4, 4, letters).IsEmpty());
+    EXPECT_TRUE(ScalablePicture(Filled(2, 2, 0xFF000000)).InSize(0, 4, letters).IsEmpty());
+    EXPECT_TRUE(ScalablePicture(Filled(2, 2, 0xFF000000)).InSize(4, -1, letters).IsEmpty());
+}
+
+TEST(ScalablePicture, GivesItsPixelsInTheirOwnSize)
+{
+    BlockLetters letters;
+    const ScalablePicture picture(Ramp(7, 3));
+    EXPECT_EQ(picture.Width(), 7);
+    EXPECT_EQ(picture.Height(), 3);
+    EXPECT_EQ(picture.InSize(7, 3, letters).pixels, Ramp(7, 3).pixels);
+    EXPECT_EQ(picture.InSize(14, 3, letters).pixels, Scaled(Ramp(7, 3), 14, 3).pixels);
+}
+
+TEST(ScalablePicture, KeepsASizeThatIsAskedForAgain)
+{
+    BlockLetters letters;
+    const ScalablePicture picture(Ramp(100, 50));
+    const Pixel* first = picture.InSize(33, 22, letters).pixels.data();
+    EXPECT_EQ(picture.InSize(33, 22, letters).pixels.data(), first);
+    EXPECT_EQ(picture.InSize(40, 22, letters).width, 40);
+}
+
+TEST(ScalablePicture, OfMuchLargerPixelsGivesNearlyTheirMean)
+{
+    BlockLetters letters;
+    const Picture large = Ramp(1001, 403);
+    const ScalablePicture picture(large);
+    const Picture mean = Scaled(large, 60, 30);
+    // Whatever was asked for before, the pixels of a size are the same ones.
+    picture.InSize(500, 300, letters);
+    const Picture once = picture.InSize(60, 30, letters);
+    ASSERT_EQ(once.pixels.size(), mean.pixels.size());
+    for (std::size_t i = 0; i < mean.pixels.size(); ++i)
+        EXPECT_NEAR(double(once.pixels[i] & 0xFF), double(mean.pixels[i] & 0xFF), 2);
+    EXPECT_EQ(ScalablePicture(large).InSize(60, 30, letters).pixels, once.pixels);
+}
+
+TEST(ScalablePicture, MayBeLargerThanWhatIsKeptOfIt)
+{
+    BlockLetters letters;
+    const ScalablePicture picture(4000, 2000, Filled(500, 250, 0xFF123456));
+    EXPECT_EQ(picture.Width(), 4000);
+    EXPECT_EQ(picture.Height(), 2000);
+    EXPECT_THAT(picture.InSize(4000, 20, letters).pixels, Each(0xFF123456));
+    EXPECT_EQ(picture.InSize(4000, 20, letters).width, 4000);
+}
+
+TEST(ScalablePicture, LosesOneColour)
+{
+    BlockLetters letters;
+    ScalablePicture picture(Filled(4, 4, 0xFF000000));
+    picture.InSize(2, 2, letters);
+    picture.MakeTransparent(0);
+    EXPECT_THAT(picture.InSize(2, 2, letters).pixels, Each(0U));
+    EXPECT_THAT(picture.InSize(4, 4, letters).pixels, Each(0U));
+}
+
+TEST(ScalablePicture, IsDrawnAnewInEachSize)
+{
+    BlockLetters letters;
+    int drawn = 0;
+    ScalablePicture picture(10, 5, [&](int width, int height, Letters&) {
+        ++drawn;
+        return Filled(width, height, 0xFF0000FF);
+    });
+    EXPECT_EQ(picture.Width(), 10);
+    EXPECT_EQ(picture.InSize(30, 20, letters).pixels.size(), 600U);
+    EXPECT_EQ(picture.InSize(30, 20, letters).pixels.size(), 600U);
+    EXPECT_EQ(drawn, 1);
+    EXPECT_THAT(picture.InSize(3, 2, letters).pixels, Each(0xFF0000FFU));
+    EXPECT_EQ(drawn, 2);
+    picture.MakeTransparent(0xFF0000);
+    EXPECT_THAT(picture.InSize(3, 2, letters).pixels, Each(0U));
+}
+
+} // namespace
+} // namespace quillon
