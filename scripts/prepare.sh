@@ -2,8 +2,9 @@
 # shellcheck shell=bash
 
 BUILD_PACKAGES=(
-    ca-certificates ccache cmake g++ libbenchmark-dev libdeflate-dev libgmock-dev libgtest-dev
-    libjpeg62-turbo-dev libssl-dev ninja-build nlohmann-json3-dev zlib1g-dev
+    ca-certificates ccache cmake g++ libbenchmark-dev libdeflate-dev libfontconfig-dev
+    libfreetype-dev libgmock-dev libgtest-dev libjpeg62-turbo-dev libpng-dev libssl-dev
+    ninja-build nlohmann-json3-dev zlib1g-dev
     g++-mingw-w64-i686 g++-mingw-w64-x86-64 libz-mingw-w64-dev
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-wayland fonts-dejavu-core
 )

@@ -32,6 +32,15 @@ Text CallContext::Path(const std::string& argument) const
     return *path;
 }
 
+std::string CallContext::DemandValue(const char* option) const
+{
+    auto value = arguments.Value(option);
+    if (!value)
+        throw UsageError{Text("Kommandot ") + arguments.call->name + " saknar växeln " + option +
+                         "."};
+    return *std::move(value);
+}
+
 Exit CallContext::PrintJson(Json object, Exit exit) const
 {
     object["exitCode"] = static_cast<int>(exit);

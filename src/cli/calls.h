@@ -11,6 +11,7 @@ Exit CreatePackage(const CallContext& context);
 Exit TestProject(const CallContext& context);
 Exit ResaveProject(const CallContext& context);
 Exit ShowProject(const CallContext& context);
+Exit PaintProjectScreen(const CallContext& context);
 Exit ListPackage(const CallContext& context);
 Exit VerifyPackageFolder(const CallContext& context);
 

@@ -4,9 +4,11 @@
 #include "helpers/ansi_text.h"
 #include "helpers/line_breaks.h"
 #include "project/list_sections.h"
+#include "project/project_file.h"
 #include "project/section_walk.h"
 
 #include <algorithm>
+#include <charconv>
 #include <iterator>
 #include <limits>
 
@@ -33,6 +35,12 @@ bool IsFlag(Stored form)
 {
     return form == Stored::AsFlag || form == Stored::AsFlagOnIfMissing ||
            form == Stored::AsFlagReadAsNumber || form == Stored::AsFlagText;
+}
+
+/// Of the numbers of 32 bits, those of a colour say so in their names.
+bool IsColour(std::string_view key)
+{
+    return ContainsText(key, "Color");
 }
 
 Text WindowsLines(const Text& value)
@@ -62,6 +70,29 @@ public:
         DemandLength(AnsiText::ToBytes(EncodeLineBreaks(text)).size(),
                      static_cast<std::size_t>(limit - 1));
         return text;
+    }
+
+    /// "#RRGGBB", as a colour is written elsewhere, or the number that the project keeps.
+    Long ColourFor() const
+    {
+        if (!value_.starts_with('#'))
+            return static_cast<Long>(NumberIn(kAnyLong));
+        constexpr std::size_t kDigits = 6;
+        std::uint32_t rgb = 0;
+        const char* const end = value_.data() + value_.size();
+        const auto [last, fault] = std::from_chars(value_.data() + 1, end, rgb, 16);
+        if (value_.size() != kDigits + 1 || fault != std::errc() || last != end)
+            Refuse("kan ej vara '" + value_ +
+                   "'; en färg är #RRGGBB, t.ex. #FF8000, eller ett tal.");
+        return static_cast<Long>((rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16);
+    }
+
+    /// Pixels of a screen of normal size, kept in twips.
+    Integer TwipsFor(int twipsPerPixel) const
+    {
+        const NumberRange pixels{kAnyInteger.first / twipsPerPixel,
+                                 kAnyInteger.last / twipsPerPixel};
+        return static_cast<Integer>(NumberIn(pixels) * twipsPerPixel);
     }
 
     template <class Number>
@@ -166,18 +197,22 @@ private:
         return isMeant;
     }
 
-    // The pixels of a place are made for the file alone; the twips beside them are the place.
     template <class Record>
     void Put(const ProjectKey<Record>& key, const Text& name, Record& record)
     {
-        if (IsPixels(key.form) || !IsMeant(name))
+        if (!IsMeant(name))
             return;
-        if (const auto text = std::get_if<Text Record::*>(&key.field))
+        if (IsPixels(key.form))
+            record.*std::get<Integer Record::*>(key.field) = value_.TwipsFor(
+                key.form == Stored::AsPixelsX ? ScreenMetrics().TPPX : ScreenMetrics().TPPY);
+        else if (const auto text = std::get_if<Text Record::*>(&key.field))
             record.** text =
                 value_.TextFor(key.form, key.limit, RangeOf(section_, key.name, kAnyInteger));
         else if (const auto number = std::get_if<Integer Record::*>(&key.field))
             record.** number =
                 value_.NumberFor<Integer>(key.form, RangeOf(section_, key.name, kAnyInteger));
+        else if (IsColour(key.name))
+            record.*std::get<Long Record::*>(key.field) = value_.ColourFor();
         else
             record.*std::get<Long Record::*>(key.field) =
                 value_.NumberFor<Long>(key.form, RangeOf(section_, key.name, kAnyLong));

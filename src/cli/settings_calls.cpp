@@ -10,15 +10,6 @@ namespace quillon::cli {
 
 namespace {
 
-Text DemandValue(const CallContext& context, const char* option)
-{
-    const auto value = context.arguments.Value(option);
-    if (!value)
-        throw UsageError{Text("Kommandot ") + context.arguments.call->name + " saknar växeln " +
-                         option + "."};
-    return *value;
-}
-
 // The rules of the main folder's field in the window. Nobody is there to correct it, so what the
 // window only tells ends the call.
 void CheckMainFolder(ProjectEdit& edit)
@@ -59,8 +50,8 @@ Assignment AssignmentIn(const Text& argument)
 
 Exit NewProject(const CallContext& context)
 {
-    const Text name = DemandValue(context, "--name");
-    const Text folder = DemandValue(context, "--destination");
+    const Text name = context.DemandValue("--name");
+    const Text folder = context.DemandValue("--destination");
     const Text path = context.PathOperand(0);
     ProjectEdit edit(context, path, ProjectEdit::Begin::WithANewProject);
     SetField(edit.session.project, "ProjectName.ProjectName", name);

@@ -11,14 +11,6 @@ namespace quillon::cli {
 
 namespace {
 
-Text DemandFolder(const CallContext& context)
-{
-    const auto folder = context.arguments.Value("--to");
-    if (!folder)
-        throw UsageError{"Kommandot test saknar växeln --to."};
-    return context.Path(*folder);
-}
-
 Exit Tell(const CallContext& context, const ConsoleAsk& ask, const TestRun& run, const Text& folder,
           bool isDone)
 {
@@ -48,7 +40,7 @@ Exit Tell(const CallContext& context, const ConsoleAsk& ask, const TestRun& run,
 Exit TestProject(const CallContext& context)
 {
     const Text path = context.PathOperand(0);
-    const Text folder = DemandFolder(context);
+    const Text folder = context.Path(context.DemandValue("--to"));
     ConsoleAsk ask(nullptr, context.err);
     Session session = NewSession(context.host, ask, context.toolFolder, context.ownFolder);
     // A test of a part would show another setup than the project's.

@@ -1,0 +1,23 @@
+// Pixels as the bytes of a PNG file.
+#pragma once
+
+#include "design/canvas.h"
+
+#include <memory>
+#include <string_view>
+
+namespace quillon::cli {
+
+class PngFile {
+public:
+    /// Packs the pixels in their own place; they are no pixels any more afterwards.
+    PngFile(std::vector<Pixel> pixels, int width, int height);
+
+    std::string_view Bytes() const { return {bytes_.get(), size_}; }
+
+private:
+    std::unique_ptr<char[]> bytes_;
+    std::size_t size_ = 0;
+};
+
+} // namespace quillon::cli
