@@ -58,10 +58,18 @@ private:
             return {name, "#C0A0" + digit + "f", plain,
                     0x00A0C0 + (0xF + 0x10 * (colours_ % 10)) * 0x10000};
         }
-        // Choices are numbered from 1 on, but for those between two.
-        const bool isOfTwo = std::string(key.name) == "UnderlineTextOnly";
-        const int number = isOfTwo ? 0 : fresh == 1 ? 2 : 1;
+        const int number = NumberFor(key.name, fresh);
         return {name, std::to_string(number), plain, number};
+    }
+
+    /// One that the field may have and a new project's has not.
+    static int NumberFor(const std::string& key, int fresh)
+    {
+        if (key == "UnderlineTextOnly" || key == "HidePicturesWhenDialogsShowed")
+            return 1 - fresh;
+        constexpr int kMostChoices = 12;
+        const bool isChoice = fresh < kMostChoices && key != "UnderlineHeight";
+        return !isChoice ? fresh + 3 : fresh == 1 ? 2 : 1;
     }
 
     int colours_ = 0;
