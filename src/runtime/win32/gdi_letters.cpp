@@ -24,7 +24,7 @@ LOGFONTW LogicalFont(const ScreenFont& font)
     logical.lfCharSet = DEFAULT_CHARSET;
     logical.lfOutPrecision = OUT_TT_PRECIS;
     logical.lfQuality = ANTIALIASED_QUALITY;
-    logical.lfPitchAndFamily = DEFAULT_PITCH | (font.name.empty() ? FF_SWISS : FF_DONTCARE);
+    logical.lfPitchAndFamily = font.name.empty() ? FF_SWISS : FF_DONTCARE;
     const std::wstring name = Wide(font.name);
     std::copy_n(name.begin(), std::min<std::size_t>(name.size(), LF_FACESIZE - 1),
                 logical.lfFaceName);
