@@ -2,6 +2,7 @@
 
 #include "pictures/bitmap.h"
 #include "pictures/jpeg.h"
+#include "pictures/metafile.h"
 #include "platform/run_error.h"
 
 #include <utility>
@@ -49,7 +50,7 @@ PictureFormat PictureFormatOf(std::string_view bytes)
         return PictureFormat::Bitmap;
     if (bytes.starts_with("\xFF\xD8\xFF"))
         return PictureFormat::Jpeg;
-    return PictureFormat::Unknown;
+    return IsMetafile(bytes) ? PictureFormat::Metafile : PictureFormat::Unknown;
 }
 
 PictureResult DecodePicture(std::string bytes)
@@ -61,9 +62,12 @@ PictureResult DecodePicture(std::string bytes)
     }
     case PictureFormat::Jpeg:
         return DecodeJpeg(bytes);
-    default:
-        return Failed(PictureFault::UnknownFormat);
+    case PictureFormat::Metafile:
+        return DecodeMetafile(std::move(bytes));
+    case PictureFormat::Unknown:
+        break;
     }
+    return Failed(PictureFault::UnknownFormat);
 }
 
 PictureResult ReadPictureFile(const FileSystem& files, const Text& path)

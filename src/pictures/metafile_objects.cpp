@@ -1,0 +1,110 @@
+// The records that make and choose pens, brushes and fonts.
+#include "helpers/ansi_text.h"
+#include "pictures/metafile_player.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace quillon {
+
+namespace {
+
+// Patterns are small; what is larger is painted as one colour.
+constexpr std::int64_t kMostTile = 256 * 256;
+constexpr std::int64_t kMostTiles = 4'000'000;
+constexpr Colour kGrey = 0x808080;
+
+} // namespace
+
+void MetafilePlayer::SelectObject(const Record& record)
+{
+    const MetafileObject* object = objects_.Find(static_cast<std::uint16_t>(record[0]));
+    if (!object)
+        return;
+    if (object->pen)
+        state_.pen = *object->pen;
+    else if (object->brush)
+        state_.brush = *object->brush;
+    else if (object->font)
+        state_.font = *object->font;
+}
+
+void MetafilePlayer::DeleteObject(const Record& record)
+{
+    objects_.Remove(static_cast<std::uint16_t>(record[0]));
+}
+
+void MetafilePlayer::CreatePenIndirect(const Record& record)
+{
+    const int style = record[0] & 0xF;
+    const bool isKnown = style <= static_cast<int>(PenStyle::InsideFrame);
+    const MetafilePen pen{.style = isKnown ? static_cast<PenStyle>(style) : PenStyle::Solid,
+                          .width = std::abs(int{record[1]}),
+                          .colour = record.given.SignedLong(6)};
+    objects_.Add({.pen = std::make_unique<const MetafilePen>(pen)});
+}
+
+void MetafilePlayer::AddBrush(const MetafileBrush& brush)
+{
+    objects_.Add({.brush = std::make_unique<const MetafileBrush>(brush)});
+}
+
+void MetafilePlayer::CreateBrushIndirect(const Record& record)
+{
+    const int style = record[0];
+    const bool isKnown = style >= 0 && style <= static_cast<int>(BrushStyle::Hatched);
+    AddBrush({.style = isKnown ? static_cast<BrushStyle>(style) : BrushStyle::Solid,
+              .colour = record.given.SignedLong(2),
+              .hatch = record[3]});
+}
+
+void MetafilePlayer::CreateFontObject(const Record& record)
+{
+    constexpr int kBold = 600;
+    constexpr std::size_t kName = 18;
+    MetafileFont font{.height = record[0],
+                      .isBold = record[4] >= kBold,
+                      .isItalic = record.given.Byte(10) != 0,
+                      .isUnderlined = record.given.Byte(11) != 0,
+                      .isStrikeOut = record.given.Byte(12) != 0};
+    const std::string_view name = record.given.Part(kName, 32).View();
+    font.name = AnsiText::FromBytes(name.substr(0, name.find('\0')));
+    objects_.Add({.font = std::make_unique<const MetafileFont>(std::move(font))});
+}
+
+void MetafilePlayer::CreateRegion(const Record& record)
+{
+    // The rectangle stands behind six numbers about the rest.
+    constexpr std::size_t kRect = 7;
+    if (!record.given.Has(0, (kRect + 4) * 2)) {
+        objects_.Add({});
+        return;
+    }
+    const MetafileRegion region{.left = record[kRect],
+                                .top = record[kRect + 1],
+                                .right = record[kRect + 2],
+                                .bottom = record[kRect + 3]};
+    objects_.Add({.region = std::make_unique<const MetafileRegion>(region)});
+}
+
+void MetafilePlayer::CreateUnused(const Record&)
+{
+    objects_.Add({});
+}
+
+void MetafilePlayer::CreatePatternBrush(const Record&)
+{
+    // Its pixels depend on a device that there no longer is.
+    AddBrush({.colour = kGrey});
+}
+
+void MetafilePlayer::DIBCreatePatternBrush(const Record& record)
+{
+    MetafileBrush brush{.colour = kGrey};
+    brush.tile = DecodeDib(record.given.Part(4), std::min(kMostTile, kMostTiles - tilePixels_));
+    if (brush.tile)
+        tilePixels_ += static_cast<std::int64_t>(brush.tile->pixels.size());
+    AddBrush(brush);
+}
+
+} // namespace quillon

@@ -1,0 +1,79 @@
+// A raster that outlines are filled on, without smoothing: who wants smooth edges fills a larger
+// one and makes it smaller, so that neighbours meet without a seam and colours that are combined
+// with what lies below come out exactly.
+#pragma once
+
+#include "design/canvas.h"
+#include "pictures/fine_path.h"
+
+#include <memory>
+
+namespace quillon {
+
+struct Picture;
+
+enum class FillRule { EvenOdd, NonZero };
+
+/// How a source and what lies below become a pixel: bit 2 * s + d of it is the result for the bits
+/// s and d.
+using Combination = std::uint8_t;
+inline constexpr Combination kCopy = 0xC;
+
+/// What an outline is filled with.
+struct Ink {
+    Pixel colour = 0xFF000000;
+    // Rows of a pattern of 8 x 8, a set bit for `colour`; what is not set is `ground`, or left as
+    // it is where that is 0.
+    const std::uint8_t* hatch = nullptr;
+    Pixel ground = 0;
+    // In the place of both: pixels that are repeated.
+    const Picture* tile = nullptr;
+    // How many pixels of the raster are one of a pattern.
+    int patternScale = 1;
+    Combination combination = kCopy;
+};
+
+/// A rectangle, and rectangles that are cut out of it.
+struct RasterClip {
+    PixelRect bounds;
+    std::vector<PixelRect> holes;
+};
+
+/// What may still be done, in pixels. A file of a million shapes must end some time.
+class WorkLeft {
+public:
+    explicit WorkLeft(std::int64_t work) : work_(work) {}
+
+    void Spend(std::int64_t work) { work_ -= work; }
+    bool IsSpent() const { return work_ < 0; }
+
+private:
+    std::int64_t work_;
+};
+
+class Raster {
+public:
+    Raster(const Canvas& canvas, WorkLeft& work) : canvas_(canvas), work_(work) {}
+
+    void Fill(const FinePath& path, FillRule rule, const Ink& ink, const RasterClip& clip);
+    void FillPixels(const PixelRect& rect, const Ink& ink, const RasterClip& clip);
+    /// One pixel of three inputs: bit 4 * p + 2 * s + d of the table is the result.
+    void Combine(int x, int y, Pixel pattern, Pixel source, std::uint8_t table);
+    /// A colour that covers a part of the pixel, 0 to 255.
+    void Cover(int x, int y, Pixel colour, Pixel coverage);
+
+    const Canvas& Target() const { return canvas_; }
+    WorkLeft& Work() { return work_; }
+
+private:
+    void Span(int y, int left, int right, const Ink& ink, const RasterClip& clip);
+    void PlainSpan(int y, int left, int right, const Ink& ink);
+
+    Canvas canvas_;
+    WorkLeft& work_;
+};
+
+/// Whether the pixel lies in the clip.
+bool Contains(const RasterClip& clip, int x, int y);
+
+} // namespace quillon
