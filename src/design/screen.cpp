@@ -71,11 +71,11 @@ private:
             PaintBlend(canvas_, Whole(), BlendOf(paint_));
             return;
         }
+        FillRect(canvas_, Whole(), PixelOf(paint_.ColorFrom));
         if (paint_.StretchPicture) {
             PaintPicture(canvas_, picture.InSize(canvas_.width, canvas_.height, letters_), 0, 0);
             return;
         }
-        FillRect(canvas_, Whole(), PixelOf(paint_.ColorFrom));
         const Picture& own = InOwnSize(picture);
         PaintPicture(canvas_, own, (canvas_.width - own.width) / 2,
                      (canvas_.height - own.height) / 2);

@@ -230,7 +230,8 @@ PictureFault ReadBitmapHeader(PictureBytes dib, BitmapHeader& header)
     if (header.width < 1 || header.height < 1 || !IsCompressionOf(header) ||
         std::ranges::find(kBits, header.bits) == std::end(kBits) || !SetMasks(dib, header))
         return PictureFault::Damaged;
-    if (header.width > kMaxPicturePixels / header.height)
+    if (header.width > kMaxPictureSide || header.height > kMaxPictureSide ||
+        header.width > kMaxPicturePixels / header.height)
         return PictureFault::TooLarge;
     const auto allColours = header.bits <= 8 ? std::uint32_t{1} << header.bits : 0U;
     if (header.bits <= 8 && header.colours == 0)

@@ -19,7 +19,7 @@ constexpr std::int64_t kTwipsPerPixel = 15;
 // long as that takes no more than 64 MiB.
 constexpr int kSmoothing[] = {4, 3, 2, 1};
 constexpr std::int64_t kMostRasterPixels = 16 << 20;
-constexpr std::int64_t kMostWork = 1'500'000'000;
+constexpr std::int64_t kMostWork = 800'000'000;
 
 struct Metafile {
     std::string bytes;

@@ -34,6 +34,7 @@ PictureResult ReadPictureFile(const FileSystem& files, const Text& path);
 
 // Larger than any screen, and a fourth of what the whole may take.
 inline constexpr std::int64_t kMaxPicturePixels = 25'000'000;
+inline constexpr std::int64_t kMaxPictureSide = 65535;
 inline constexpr std::uint64_t kMaxPictureFileBytes = 112U << 20;
 
 } // namespace quillon

@@ -1,7 +1,9 @@
 #include "ui/picture.h"
 
+#include "pictures/picture_file.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
+#include "ui/qt_letters.h"
 
 #include <QtWidgets>
 #include <algorithm>
@@ -19,36 +21,8 @@ constexpr qint64 kMostPixels = 30'000'000;
 constexpr int kMostIcons = 64;
 constexpr int kLargestIcon = 1024;
 
-constexpr char kBitmapFormat[] = "bmp";
-constexpr const char* kFormats[] = {kBitmapFormat, "gif", "ico", "jpeg", "jpg", "png"};
-
-std::uint32_t Number(const std::string& bytes, std::size_t place, std::size_t length)
-{
-    std::uint32_t number = 0;
-    for (std::size_t i = 0; i < length && place + i < bytes.size(); ++i)
-        number |= std::uint32_t{static_cast<unsigned char>(bytes[place + i])} << (8 * i);
-    return number;
-}
-
-/// Whether a bitmap file ends before its last point does. One with run lengths has no such end.
-bool IsCutBitmap(const std::string& bytes)
-{
-    constexpr std::uint32_t kOldHeader = 12;
-    constexpr std::uint32_t kRunLengths8 = 1;
-    constexpr std::uint32_t kRunLengths4 = 2;
-    const bool isOld = Number(bytes, 14, 4) == kOldHeader;
-    const std::uint32_t compression = isOld ? 0 : Number(bytes, 30, 4);
-    if (compression == kRunLengths8 || compression == kRunLengths4)
-        return false;
-    const std::uint64_t width = isOld ? Number(bytes, 18, 2) : Number(bytes, 18, 4);
-    const auto height =
-        static_cast<std::int32_t>(isOld ? Number(bytes, 20, 2) : Number(bytes, 22, 4));
-    const std::uint64_t bits = width * (isOld ? Number(bytes, 24, 2) : Number(bytes, 28, 2));
-    const auto rows = static_cast<std::uint64_t>(std::abs(std::int64_t{height}));
-    // Rows are filled up to whole words; of the last one that may be missing.
-    const std::uint64_t rowBytes = (bits + 31) / 32 * 4;
-    return rows > 0 && bytes.size() < Number(bytes, 10, 4) + rowBytes * (rows - 1) + (bits + 7) / 8;
-}
+// What the setup shows too is read by the code that the setup reads it by.
+constexpr const char* kFormats[] = {"gif", "ico", "png"};
 
 /// Reads the pictures of one file, whose bytes it holds.
 class PictureFile {
@@ -62,8 +36,6 @@ public:
         buffer_.setBuffer(&view_);
         buffer_.open(QIODevice::ReadOnly);
         reader_.setDevice(&buffer_);
-        // A camera's picture may stand on its side in the file.
-        reader_.setAutoTransform(true);
     }
     PictureFile(const PictureFile&) = delete;
     PictureFile& operator=(const PictureFile&) = delete;
@@ -79,9 +51,7 @@ public:
         if (std::find(std::begin(kFormats), std::end(kFormats), format) == std::end(kFormats) ||
             size.isEmpty() || qint64{size.width()} * size.height() > kMostPixels)
             return std::nullopt;
-        if (format == kBitmapFormat && IsCutBitmap(bytes_))
-            return std::nullopt;
-        QImage picture = ClearedFor(format, size);
+        QImage picture;
         return reader_.read(&picture) ? std::optional(std::move(picture)) : std::nullopt;
     }
 
@@ -95,17 +65,6 @@ public:
     }
 
 private:
-    /// Points that a bitmap says nothing of would show what happens to lie in memory.
-    QImage ClearedFor(const QByteArray& format, const QSize& size) const
-    {
-        const QImage::Format form = reader_.imageFormat();
-        if (format != kBitmapFormat || form == QImage::Format_Invalid)
-            return {};
-        QImage cleared(size, form);
-        cleared.fill(0);
-        return cleared;
-    }
-
     static bool IsIconSize(const QImage& icon)
     {
         return !icon.isNull() && std::max(icon.width(), icon.height()) <= kLargestIcon;
@@ -116,6 +75,29 @@ private:
     QBuffer buffer_;
     QImageReader reader_;
 };
+
+/// In its own size; one that is larger than any screen is made smaller.
+QImage ImageOf(const ScalablePicture& picture)
+{
+    int width = picture.Width();
+    int height = picture.Height();
+    while (std::int64_t{width} * height > kMaxPicturePixels) {
+        width = (width + 1) / 2;
+        height = (height + 1) / 2;
+    }
+    QtLetters letters;
+    const Picture& sized = picture.InSize(width, height, letters);
+    return QImage(reinterpret_cast<const uchar*>(sized.pixels.data()), sized.width, sized.height,
+                  QImage::Format_ARGB32_Premultiplied)
+        .copy();
+}
+
+/// Nothing where it is none of those that the setup shows.
+std::optional<QImage> ReadShownBySetup(const FileSystem& files, const Text& path)
+{
+    const PictureResult read = ReadPictureFile(files, path);
+    return read.fault == PictureFault::None ? std::optional(ImageOf(read.picture)) : std::nullopt;
+}
 
 /// How many bits a dot had in the icon file; what was read has always the same.
 int DepthInFile(const QImage& icon)
@@ -163,7 +145,7 @@ std::optional<QImage> ReadIconPicture(const FileSystem& files, const Text& path)
 {
     PictureFile file(files, path);
     if (!file.IsIcon())
-        return file.Read();
+        return LoadPicture(files, path);
     std::vector<QImage> icons = file.ReadIcons();
     if (icons.empty())
         return std::nullopt;
@@ -176,6 +158,8 @@ std::optional<QImage> ReadIconPicture(const FileSystem& files, const Text& path)
 std::optional<QImage> LoadPicture(const FileSystem& files, const Text& path)
 {
     try {
+        if (auto shown = ReadShownBySetup(files, path))
+            return shown;
         return PictureFile(files, path).Read();
     } catch (const std::exception&) {
         return std::nullopt;

@@ -11,8 +11,9 @@ class QString;
 
 namespace quillon {
 
-/// Bitmaps, JPEG, GIF and PNG pictures and icons, told apart by what is in the file. Nothing comes
-/// back where there is no such picture or one too large to show; nothing is thrown.
+/// Bitmaps, JPEG pictures and metafiles as the setup shows them, and GIF and PNG pictures and
+/// icons, told apart by what is in the file. Nothing comes back where there is no such picture or
+/// one too large to show; nothing is thrown.
 std::optional<QImage> LoadPicture(const FileSystem& files, const Text& path);
 
 /// What stands in the place of a picture that `LoadPicture` did not give.

@@ -36,7 +36,7 @@ protected:
         QByteArray bytes;
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::WriteOnly);
-        ASSERT_TRUE(picture.save(&buffer, "PNG"));
+        ASSERT_TRUE(picture.save(&buffer, "BMP"));
         machine.files.Put(path, bytes.toStdString());
     }
 
@@ -118,8 +118,8 @@ TEST_F(DesignPageTest, BlendsAPartOfTheWay)
 
 TEST_F(DesignPageTest, PaintsAStretchedPicture)
 {
-    PutPicture("C:\\bild.png", TwoColours(40, 20));
-    Background() = {.Type = 2, .PictureFilename = "C:\\bild.png", .StretchPicture = kOn};
+    PutPicture("C:\\bild.bmp", TwoColours(40, 20));
+    Background() = {.Type = 2, .PictureFilename = "C:\\bild.bmp", .StretchPicture = kOn};
     Show();
     const QImage shown = Shown();
     EXPECT_EQ(shown.pixel(0, 0), kRedPixel);
@@ -129,10 +129,10 @@ TEST_F(DesignPageTest, PaintsAStretchedPicture)
 
 TEST_F(DesignPageTest, PaintsAPictureInItsOwnSize)
 {
-    PutPicture("C:\\bild.png", TwoColours(40, 20));
+    PutPicture("C:\\bild.bmp", TwoColours(40, 20));
     Background() = {.Type = 2,
                     .BackColor1 = 0x00FF00,
-                    .PictureFilename = "C:\\bild.png",
+                    .PictureFilename = "C:\\bild.bmp",
                     .StretchPicture = kOff};
     Show();
     const QImage shown = Shown();

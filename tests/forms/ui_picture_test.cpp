@@ -106,17 +106,19 @@ TEST_F(LoadPictureTest, TakesACutBitmapForADamagedOne)
 // what another picture has left in memory.
 TEST_F(LoadPictureTest, ShowsPointsThatABitmapLeavesOutInTheFirstColour)
 {
-    std::string bytes = Encoded(Striped().convertToFormat(QImage::Format_Indexed8), "bmp");
+    const QImage indexed = Striped().convertToFormat(QImage::Format_Indexed8);
+    const QList<QRgb> colours = indexed.colorTable();
+    std::string bytes = Encoded(indexed, "bmp");
     bytes[30] = 2; // run lengths, two points a byte
     bytes.resize(static_cast<unsigned char>(bytes[10]));
-    bytes += std::string("\x05\x11", 2);
+    bytes += std::string("\x05\x11\x00\x01", 4);
     machine.files.Put("C:\\bild", bytes);
     for (int run = 0; run < 3; ++run) {
         const auto image = Load();
         ASSERT_TRUE(image);
         for (int y = 0; y < image->height(); ++y)
             for (int x = 0; x < image->width(); ++x)
-                EXPECT_EQ(image->pixelIndex(x, y), y == 9 && x < 5 ? 1 : 0) << x << ' ' << y;
+                EXPECT_EQ(image->pixel(x, y), colours[y == 9 && x < 5 ? 1 : 0]) << x << ' ' << y;
     }
 }
 

@@ -327,6 +327,8 @@ TEST(DecodeBitmap, RefusesWhatItCantBe)
     EXPECT_EQ(fault([](Bitmap& b) { b.headerSize = 7; }), PictureFault::Damaged);
     EXPECT_EQ(fault([](Bitmap& b) { b.headerSize = 9999; }), PictureFault::Damaged);
     EXPECT_EQ(fault([](Bitmap& b) { b.height = -2147483647 - 1; }), PictureFault::TooLarge);
+    EXPECT_EQ(fault([](Bitmap& b) { b.width = 65536; }), PictureFault::TooLarge);
+    EXPECT_EQ(fault([](Bitmap& b) { b.height = 65536; }), PictureFault::TooLarge);
     Bitmap fields = BitFields16();
     fields.masks = Long(0xF00F) + Long(0x0F0) + Long(0); // a mask with a hole
     EXPECT_EQ(DecodePicture(FileOf(fields)).fault, PictureFault::Damaged);

@@ -171,7 +171,7 @@ TEST_F(Drawing, OfPartsOfAnEllipse)
     file =
         MadeMetafile().Window(0, 0, 20, 10).Pen(0, 0, kBlueColour).Select(0).Call(0x0817, quarter);
     const Picture arc = Drawn(400, 200);
-    EXPECT_EQ(At(arc, 398, 97) >> 24, 0xFFU);
+    EXPECT_GT(At(arc, 399, 97) >> 24, 0x60U);
     EXPECT_EQ(At(arc, 250, 70), 0U);
 }
 

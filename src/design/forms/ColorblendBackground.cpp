@@ -22,7 +22,7 @@ ColorblendBackground::ColorblendBackground()
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void ColorblendBackground::Show(const SurfacePaint& paint, QImage picture)
+void ColorblendBackground::Show(const SurfacePaint& paint, ScalablePicture picture)
 {
     paint_ = paint;
     picture_ = std::move(picture);
@@ -91,27 +91,29 @@ void ColorblendBackground::keyPressEvent(QKeyEvent* event)
 
 QImage ColorblendBackground::MakeShown(QSize pixels) const
 {
-    QImage shown = BlendImage(pixels, paint_);
-    if (paint_.UsePicture && !picture_.isNull()) {
-        QPainter painter(&shown);
-        if (paint_.StretchPicture) {
-            painter.setRenderHint(QPainter::SmoothPixmapTransform);
-            painter.drawImage(QRect({0, 0}, pixels), picture_.scaled(pixels, Qt::IgnoreAspectRatio,
-                                                                     Qt::SmoothTransformation));
-        } else {
-            // In its own size it stands in the middle, on the first colour.
-            shown.fill(QColor::fromRgb(PixelOf(paint_.ColorFrom)));
-            const QSize size = (QSizeF(picture_.size()) * devicePixelRatioF()).toSize();
-            painter.drawImage(
-                QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, QRect({0, 0}, pixels)),
-                picture_);
-        }
-    }
+    const bool hasPicture = paint_.UsePicture && !picture_.IsEmpty();
+    QImage shown = hasPicture ? QImage(pixels, QImage::Format_RGB32) : BlendImage(pixels, paint_);
     QtLetters letters;
     const ScreenScale scale{devicePixelRatioF(), devicePixelRatioF()};
     const Canvas canvas = CanvasOf(shown);
+    if (hasPicture)
+        PaintThePicture(canvas, letters);
     PaintTitle(canvas, LayOutTitle(letters, Records(), scale, pixels.width()), Records());
     return shown;
+}
+
+void ColorblendBackground::PaintThePicture(const Canvas& canvas, Letters& letters) const
+{
+    FillRect(canvas, canvas.clip, PixelOf(paint_.ColorFrom));
+    if (paint_.StretchPicture) {
+        PaintPicture(canvas, picture_.InSize(canvas.width, canvas.height, letters), 0, 0);
+        return;
+    }
+    // In its own size it stands in the middle, on the first colour.
+    const ScreenScale scale{devicePixelRatioF(), devicePixelRatioF()};
+    const Picture& own = picture_.InSize(scale.BothPixels(picture_.Width()),
+                                         scale.BothPixels(picture_.Height()), letters);
+    PaintPicture(canvas, own, (canvas.width - own.width) / 2, (canvas.height - own.height) / 2);
 }
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 // The painter of the preview surface: a blend of two colours or a picture, and the title on it.
 #pragma once
 
+#include "design/scalable_picture.h"
 #include "design/surface.h"
 #include "design/title_block.h"
 
@@ -17,7 +18,7 @@ public:
     ColorblendBackground();
 
     /// `picture` is shown where the paint says that one is used.
-    void Show(const SurfacePaint& paint, QImage picture = {});
+    void Show(const SurfacePaint& paint, ScalablePicture picture = {});
     void ShowTitle(const section::DesTitle& title, const section::DesTitleUnderline& underline,
                    const section::DesSubTitle& subTitle);
 
@@ -35,10 +36,11 @@ protected:
 
 private:
     QImage MakeShown(QSize pixels) const;
+    void PaintThePicture(const Canvas& canvas, Letters& letters) const;
     TitleRecords Records() const { return {title_, underline_, subTitle_}; }
 
     SurfacePaint paint_;
-    QImage picture_;
+    ScalablePicture picture_;
     section::DesTitle title_;
     section::DesTitleUnderline underline_;
     section::DesSubTitle subTitle_;

@@ -4,9 +4,9 @@
 #include "design/forms/pixel_image.h"
 #include "design/surface_click.h"
 #include "design/text_panel.h"
+#include "pictures/picture_file.h"
 #include "platform/run_error.h"
 #include "shell/session.h"
-#include "ui/picture.h"
 #include "ui/qt_letters.h"
 #include "ui/qt_text.h"
 
@@ -17,11 +17,12 @@ namespace quillon {
 namespace {
 
 /// Paints a picture of the project as the setup will: scaled to the image, or in its own size.
-void PaintScaled(QImage& image, const Picture& picture, int width, int height)
+void PaintScaled(QImage& image, const ScalablePicture& picture, int width, int height)
 {
-    const Picture sized = Scaled(picture, width, height);
-    QImage shown(reinterpret_cast<const uchar*>(sized.pixels.data()), sized.width, sized.height,
-                 QImage::Format_ARGB32_Premultiplied);
+    QtLetters letters;
+    const Picture& sized = picture.InSize(width, height, letters);
+    const QImage shown(reinterpret_cast<const uchar*>(sized.pixels.data()), sized.width,
+                       sized.height, QImage::Format_ARGB32_Premultiplied);
     QPainter(&image).drawImage(0, 0, shown);
 }
 
@@ -108,13 +109,12 @@ void DesignScreen::MakePictures(const DesignObject::Surround& surround)
                     onEditObject(Object::Pictures, i);
             });
         DesPicture_[i]->paint = [this, i](QImage& image, double scale) {
-            const QImage& picture = pictures_[i];
+            const ScalablePicture& picture = pictures_[i];
             const bool isStretched = boxes_[i].isStretched;
             const auto side = [scale](int pixels) { return static_cast<int>(pixels * scale); };
-            if (!picture.isNull())
-                PaintScaled(image, PictureOf(picture),
-                            isStretched ? image.width() : side(picture.width()),
-                            isStretched ? image.height() : side(picture.height()));
+            if (!picture.IsEmpty())
+                PaintScaled(image, picture, isStretched ? image.width() : side(picture.Width()),
+                            isStretched ? image.height() : side(picture.Height()));
         };
     }
 }
@@ -124,7 +124,7 @@ void DesignScreen::DrawDesBackground()
     section::DesBackground& background = session_.project.DesBackground;
     paint_.UsePicture = background.Type != 1;
     paint_.StretchPicture = background.StretchPicture != kOff;
-    QImage picture;
+    ScalablePicture picture;
     if (paint_.UsePicture) {
         try {
             MeasureAndKeep(background.PictureFilename, picture);
@@ -138,7 +138,7 @@ void DesignScreen::DrawDesBackground()
         }
     }
     SetBlend(paint_, background);
-    colorblendBackground_->Show(paint_, picture);
+    colorblendBackground_->Show(paint_, std::move(picture));
 }
 
 void DesignScreen::DrawDesTitle()
@@ -226,7 +226,7 @@ void DesignScreen::DrawDesLogotype()
     DesLogotype_->paint = [this](QImage& image, double) {
         if (logotypeBox_.isMetafile)
             image.fill(PixelOf(logotypeBox_.BackColor));
-        PaintScaled(image, PictureOf(logotype_), image.width(), image.height());
+        PaintScaled(image, logotype_, image.width(), image.height());
     };
     ShowObject(*DesLogotype_, logotypeBox_.place, logotypeBox_.isVisible);
 }
@@ -319,16 +319,17 @@ void DesignScreen::ShowObject(DesignObject& object, const SurfacePlace& place, b
     object.setVisible(isVisible);
 }
 
-PixelSize DesignScreen::MeasureAndKeep(const Text& file, QImage& kept)
+PixelSize DesignScreen::MeasureAndKeep(const Text& file, ScalablePicture& kept)
 {
-    const FileSystem& files = session_.host.files;
     kept = {};
-    auto loaded = LoadPicture(files, file);
-    if (!loaded)
-        throw RunError(files.FileExists(file) ? kInvalidPicture : ErrorNumber::kFileNotFound, file);
+    PictureResult read = ReadPictureFile(session_.host.files, file);
+    if (read.fault != PictureFault::None)
+        throw RunError(read.fault == PictureFault::NotFound ? ErrorNumber::kFileNotFound
+                                                            : kInvalidPicture,
+                       file);
     told_.erase(file);
-    kept = std::move(*loaded);
-    return {kept.width(), kept.height()};
+    kept = std::move(read.picture);
+    return {kept.Width(), kept.Height()};
 }
 
 void DesignScreen::TellPictureError(const RunError& error)

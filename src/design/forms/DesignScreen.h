@@ -57,7 +57,7 @@ private:
     void ShowPictures();
     void EditAt(QPoint place);
     /// Throws `RunError` where the file is no picture.
-    PixelSize MeasureAndKeep(const Text& file, QImage& kept);
+    PixelSize MeasureAndKeep(const Text& file, ScalablePicture& kept);
     void TellPictureError(const RunError& error);
     void ShowDragRect(const std::optional<DragRect>& rect);
 
@@ -67,11 +67,11 @@ private:
     Long tabWidth_ = 0;
     ColorblendBackground* colorblendBackground_;
     std::array<DesignObject*, section::kDesPictureCount> DesPicture_{};
-    std::array<QImage, section::kDesPictureCount> pictures_;
+    std::array<ScalablePicture, section::kDesPictureCount> pictures_;
     PictureBoxes boxes_;
     DesignObject* DesPictureAnim_ = nullptr;
     DesignObject* DesLogotype_ = nullptr;
-    QImage logotype_;
+    ScalablePicture logotype_;
     LogotypeBox logotypeBox_;
     DesignObject* DesTextBoxPic_ = nullptr;
     DesignObject* DesRTFboxPic_ = nullptr;
