@@ -1,9 +1,9 @@
 #include "ui/picture.h"
 
+#include "design/posix/font_letters.h"
 #include "pictures/picture_file.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "ui/qt_letters.h"
 
 #include <QtWidgets>
 #include <algorithm>
@@ -85,7 +85,7 @@ QImage ImageOf(const ScalablePicture& picture)
         width = (width + 1) / 2;
         height = (height + 1) / 2;
     }
-    QtLetters letters;
+    FontLetters letters;
     const Picture& sized = picture.InSize(width, height, letters);
     return QImage(reinterpret_cast<const uchar*>(sized.pixels.data()), sized.width, sized.height,
                   QImage::Format_ARGB32_Premultiplied)

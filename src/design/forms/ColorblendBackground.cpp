@@ -1,7 +1,6 @@
 #include "design/forms/ColorblendBackground.h"
 
 #include "design/forms/pixel_image.h"
-#include "ui/qt_letters.h"
 
 #include <QtWidgets>
 
@@ -14,7 +13,7 @@ QImage BlendImage(QSize size, const SurfacePaint& paint)
     return image;
 }
 
-ColorblendBackground::ColorblendBackground()
+ColorblendBackground::ColorblendBackground(Letters& letters) : letters_(letters)
 {
     setObjectName("colorblendBackground");
     setAccessibleName("Installationens bakgrund");
@@ -44,8 +43,7 @@ void ColorblendBackground::ShowTitle(const section::DesTitle& title,
 
 int ColorblendBackground::TitleBottom() const
 {
-    QtLetters letters;
-    return LayOutTitle(letters, Records(), {}, width()).TitleBottom;
+    return LayOutTitle(letters_, Records(), {}, width()).TitleBottom;
 }
 
 void ColorblendBackground::paintEvent(QPaintEvent* event)
@@ -93,26 +91,25 @@ QImage ColorblendBackground::MakeShown(QSize pixels) const
 {
     const bool hasPicture = paint_.UsePicture && !picture_.IsEmpty();
     QImage shown = hasPicture ? QImage(pixels, QImage::Format_RGB32) : BlendImage(pixels, paint_);
-    QtLetters letters;
     const ScreenScale scale{devicePixelRatioF(), devicePixelRatioF()};
     const Canvas canvas = CanvasOf(shown);
     if (hasPicture)
-        PaintThePicture(canvas, letters);
-    PaintTitle(canvas, LayOutTitle(letters, Records(), scale, pixels.width()), Records());
+        PaintThePicture(canvas);
+    PaintTitle(canvas, LayOutTitle(letters_, Records(), scale, pixels.width()), Records());
     return shown;
 }
 
-void ColorblendBackground::PaintThePicture(const Canvas& canvas, Letters& letters) const
+void ColorblendBackground::PaintThePicture(const Canvas& canvas) const
 {
     FillRect(canvas, canvas.clip, PixelOf(paint_.ColorFrom));
     if (paint_.StretchPicture) {
-        PaintPicture(canvas, picture_.InSize(canvas.width, canvas.height, letters), 0, 0);
+        PaintPicture(canvas, picture_.InSize(canvas.width, canvas.height, letters_), 0, 0);
         return;
     }
     // In its own size it stands in the middle, on the first colour.
     const ScreenScale scale{devicePixelRatioF(), devicePixelRatioF()};
     const Picture& own = picture_.InSize(scale.BothPixels(picture_.Width()),
-                                         scale.BothPixels(picture_.Height()), letters);
+                                         scale.BothPixels(picture_.Height()), letters_);
     PaintPicture(canvas, own, (canvas.width - own.width) / 2, (canvas.height - own.height) / 2);
 }
 

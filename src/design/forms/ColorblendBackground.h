@@ -15,7 +15,7 @@ QImage BlendImage(QSize size, const SurfacePaint& paint);
 
 class ColorblendBackground : public QWidget {
 public:
-    ColorblendBackground();
+    explicit ColorblendBackground(Letters& letters);
 
     /// `picture` is shown where the paint says that one is used.
     void Show(const SurfacePaint& paint, ScalablePicture picture = {});
@@ -36,9 +36,10 @@ protected:
 
 private:
     QImage MakeShown(QSize pixels) const;
-    void PaintThePicture(const Canvas& canvas, Letters& letters) const;
+    void PaintThePicture(const Canvas& canvas) const;
     TitleRecords Records() const { return {title_, underline_, subTitle_}; }
 
+    Letters& letters_;
     SurfacePaint paint_;
     ScalablePicture picture_;
     section::DesTitle title_;

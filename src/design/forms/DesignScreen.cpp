@@ -7,7 +7,6 @@
 #include "pictures/picture_file.h"
 #include "platform/run_error.h"
 #include "shell/session.h"
-#include "ui/qt_letters.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -17,9 +16,9 @@ namespace quillon {
 namespace {
 
 /// Paints a picture of the project as the setup will: scaled to the image, or in its own size.
-void PaintScaled(QImage& image, const ScalablePicture& picture, int width, int height)
+void PaintScaled(QImage& image, const ScalablePicture& picture, int width, int height,
+                 Letters& letters)
 {
-    QtLetters letters;
     const Picture& sized = picture.InSize(width, height, letters);
     const QImage shown(reinterpret_cast<const uchar*>(sized.pixels.data()), sized.width,
                        sized.height, QImage::Format_ARGB32_Premultiplied);
@@ -34,7 +33,7 @@ Long TwipsDown(int pixels, ScreenMetrics screen)
 } // namespace
 
 DesignScreen::DesignScreen(Session& session)
-    : session_(session), colorblendBackground_(new ColorblendBackground)
+    : session_(session), colorblendBackground_(new ColorblendBackground(letters_))
 {
     setObjectName("DesignScreen");
     colorblendBackground_->setParent(this);
@@ -114,7 +113,7 @@ void DesignScreen::MakePictures(const DesignObject::Surround& surround)
             const auto side = [scale](int pixels) { return static_cast<int>(pixels * scale); };
             if (!picture.IsEmpty())
                 PaintScaled(image, picture, isStretched ? image.width() : side(picture.Width()),
-                            isStretched ? image.height() : side(picture.Height()));
+                            isStretched ? image.height() : side(picture.Height()), letters_);
         };
     }
 }
@@ -226,7 +225,7 @@ void DesignScreen::DrawDesLogotype()
     DesLogotype_->paint = [this](QImage& image, double) {
         if (logotypeBox_.isMetafile)
             image.fill(PixelOf(logotypeBox_.BackColor));
-        PaintScaled(image, logotype_, image.width(), image.height());
+        PaintScaled(image, logotype_, image.width(), image.height(), letters_);
     };
     ShowObject(*DesLogotype_, logotypeBox_.place, logotypeBox_.isVisible);
 }
@@ -245,11 +244,10 @@ void DesignScreen::DrawDesLogotypeBackColor()
 void DesignScreen::DrawDesTextBox()
 {
     section::DesTextBox& record = session_.project.DesTextBox;
-    QtLetters letters;
     const ScreenMetrics screen = session_.surface.screen;
     const TextBoxLayout layout =
         LayOutTextBox(record, place_, screen, colorblendBackground_->TitleBottom(),
-                      TwipsDown(HeadingHeight(letters, record), screen));
+                      TwipsDown(HeadingHeight(letters_, record), screen));
     DesTextBoxPic_->setAccessibleDescription(ToQt(record.BoxTitle + "\n" + record.BoxText));
     DesTextBoxPic_->paint = [this](QImage& image, double scale) { PaintLabels(image, scale); };
     ShowObject(*DesTextBoxPic_, layout.box, layout.isVisible);
@@ -258,8 +256,7 @@ void DesignScreen::DrawDesTextBox()
 // Kept: here the box is always filled; whether the setup fills it is the record's matter.
 void DesignScreen::PaintLabels(QImage& image, double scale)
 {
-    QtLetters letters;
-    PaintTextPanel(CanvasOf(image), letters, RectAt(0, 0, image.width(), image.height()),
+    PaintTextPanel(CanvasOf(image), letters_, RectAt(0, 0, image.width(), image.height()),
                    session_.project.DesTextBox, {scale, scale}, true);
 }
 

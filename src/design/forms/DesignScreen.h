@@ -5,6 +5,7 @@
 #include "design/forms/ColorblendBackground.h"
 #include "design/forms/DesignObject.h"
 #include "design/object_layout.h"
+#include "design/posix/font_letters.h"
 #include "design/surface_click.h"
 
 #include <array>
@@ -62,6 +63,7 @@ private:
     void ShowDragRect(const std::optional<DragRect>& rect);
 
     Session& session_;
+    FontLetters letters_;
     SurfacePlace place_;
     SurfacePaint paint_;
     Long tabWidth_ = 0;
