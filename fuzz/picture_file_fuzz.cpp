@@ -16,7 +16,7 @@ void Require(bool holds)
         std::abort();
 }
 
-constexpr std::int64_t kMostScaled = 200'000;
+constexpr std::int64_t kMostScaled = 50'000;
 
 void RequirePixels(const Picture& picture, int width, int height)
 {

@@ -183,6 +183,9 @@ Picture Scaled(const Picture& picture, int width, int height)
         return {};
     if (width == picture.width && height == picture.height)
         return picture;
+    // A wide strip that becomes narrow and high would be mixed across for every row of the result.
+    if (width < picture.width && height > picture.height)
+        return Scaled(Scaled(picture, width, picture.height), width, height);
     Picture result{width, height, {}};
     result.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     const Mixes down(picture.height, height);

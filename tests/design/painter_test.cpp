@@ -167,6 +167,17 @@ TEST(Scaled, MixesNeighboursWhereItBecomesLarger)
                 ElementsAre(0xFF000000, 0xFF000019, 0xFF00004B, 0xFF000064));
 }
 
+TEST(Scaled, OfAStripThatBecomesNarrowAndHigh)
+{
+    const Picture strip{4,
+                        2,
+                        {0xFF000000, 0xFF000064, 0xFF0000C8, 0xFF0000C8, //
+                         0xFF000064, 0xFF000064, 0xFF0000C8, 0xFF0000C8}};
+    const Picture scaled = Scaled(strip, 2, 4);
+    EXPECT_THAT(scaled.pixels, ElementsAre(0xFF000032, 0xFF0000C8, 0xFF00003F, 0xFF0000C8,
+                                           0xFF000058, 0xFF0000C8, 0xFF000064, 0xFF0000C8));
+}
+
 TEST(Scaled, GivesNothingForNothing)
 {
     EXPECT_TRUE(Scaled({}, 5, 5).IsEmpty());
