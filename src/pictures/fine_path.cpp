@@ -99,9 +99,12 @@ constexpr std::array<std::int32_t, 24> kSines = {0,    265,  512,   724,  887,  
 void AddDot(FinePath& path, FinePoint centre, std::int32_t radius)
 {
     const std::size_t step = radius < 3 * kFine ? 6 : radius < 12 * kFine ? 3 : 1;
+    const auto part = [radius](std::size_t angle) {
+        return static_cast<std::int32_t>(std::int64_t{kSines[angle % kSines.size()]} * radius /
+                                         1024);
+    };
     for (std::size_t i = 0; i < kSines.size(); i += step)
-        path.points.push_back({centre.x + kSines[(i + 6) % 24] * radius / 1024,
-                               centre.y + kSines[i] * radius / 1024});
+        path.points.push_back({centre.x + part(i + 6), centre.y + part(i)});
     path.Close();
 }
 

@@ -194,6 +194,16 @@ TEST_F(Drawing, OfPensWithAWidth)
     EXPECT_NEAR(Area(Drawn(40, 20)), 40, 2);
 }
 
+TEST_F(Drawing, OfPensFarLargerThanThePicture)
+{
+    file.Window(0, 0, 1, 1).Pen(0, 32767, kBlueColour).Select(0);
+    file.Ellipse(-32768, -32768, 32767, 32767);
+    file.Call(0x061C, {32767, 32767, 32767, 32767, -32768, -32768});
+    file.Call(0x0325, {2, -32768, -32768, 32767, 32767});
+    const PictureResult result = DecodePicture(file.Placeable(0, 0, 20, 10));
+    EXPECT_THAT(result.picture.InSize(20, 10, letters).pixels, Each(kBlue));
+}
+
 TEST_F(Drawing, OfPensThatDrawDashesOrNothing)
 {
     file.Pen(1, 0, kBlueColour).Select(0).Call(0x0325, {2, 0, 5, 20, 5});
