@@ -3,6 +3,7 @@
 #include "pictures/picture_file.h"
 #include "wine/wine.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
@@ -47,7 +48,9 @@ Read ReadInWine(const WinePrefix& prefix, const fs::path& program, const fs::pat
     const std::string bytes = ReadAll(output);
     Read read;
     if (bytes.size() >= 12) {
-        std::memcpy(&read, bytes.data(), 12);
+        std::memcpy(&read.width, bytes.data(), 4);
+        std::memcpy(&read.height, bytes.data() + 4, 4);
+        std::memcpy(&read.fault, bytes.data() + 8, 4);
         read.pixels = bytes.substr(12);
     }
     return read;
