@@ -32,6 +32,8 @@ public:
 
     Session& GetSession() { return session_; }
     const HostPaths& Paths() const { return paths_; }
+    /// Where the last development project was chosen; empty until one is.
+    Text& LastImportFolder() { return lastImportFolder_; }
 
     void ShowProject() override;
     void ShowTitle() override;
@@ -74,6 +76,7 @@ private:
 
     Session& session_;
     HostPaths paths_;
+    Text lastImportFolder_;
     MainTabs* MainTab_ = nullptr;
     QLabel* statusPane_ = nullptr;
     QLabel* unsavedPane_ = nullptr;

@@ -9,6 +9,7 @@
 #include "actions/forms/DlgRunScript.h"
 #include "actions/forms/DlgShowDocAfter.h"
 #include "app/MainForm.h"
+#include "app/import_commands.h"
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
 #include "builder/forms/DlgTest.h"
@@ -116,6 +117,10 @@ const std::map<int, Action> kActions = {
     {155, Help},
     {156, [](MainForm& form) { ShowSupport(form.GetSession()); }},
     {158, [](MainForm& form) { ShowAbout(&form); }},
+    {201, [](MainForm& form) { ShowImportVB5Project(MakeImportDesk(form), &form); }},
+    {202, [](MainForm& form) { ShowImportVB6Project(MakeImportDesk(form), &form); }},
+    {203, [](MainForm& form) { ShowImportVBNetProject(MakeImportDesk(form), &form); }},
+    {214, [](MainForm& form) { ShowImportFolder(MakeImportDesk(form), &form); }},
     {205, [](MainForm& form) { AddFilesCommand(form.GetSession(), form); }},
     {206, [](MainForm& form) { AddTreeCommand(form.GetSession(), form, &form); }},
     {207, [](MainForm& form) { AddEmptyDirectoryCommand(form.GetSession(), form); }},

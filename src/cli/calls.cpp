@@ -8,6 +8,19 @@ constexpr Option kTo = {"--to", "DESTINATION", "Katalog på måldatorn, med vari
 constexpr Option kComponent = {"--component", "NUMMER", "Komponent som filerna hör till"};
 constexpr Option kTakeTheRest = {"--continue", nullptr,
                                  "Spara även om en del filer ej kan adderas"};
+constexpr Option kVbp = {"--vbp", "FIL", "Projektfilen"};
+constexpr Option kExe = {"--exe", "FIL", "Programmet som projektet kompileras till"};
+constexpr Option kVbFolder = {"--vb-folder", "KATALOG",
+                              "Katalogen med Visual Basic; utan växeln den som Registry anger"};
+constexpr Option kDao35 = {"--dao35", nullptr, "Addera DAO 3.5 och Jet 3.5"};
+constexpr Option kMfc = {"--mfc", nullptr, "Addera Mfc42.dll och Msvcrt.dll"};
+constexpr Option kNoDep = {"--no-dep", nullptr, "Följ ej DEP-filer för ActiveX-filer"};
+constexpr Option kProgramTo = {"--to", "DESTINATION",
+                               "Katalog på måldatorn för programmet; %DESTDIR om inget anges"};
+constexpr Option kIcon = {"--icon", "TITEL", "Ge programmet en ikon med denna titel"};
+constexpr Option kIconOn = {"--icon-on", "PLATS", "Var ikonen ska ligga",
+                            "group|desktop|start|programs"};
+constexpr Option kDryRun = {"--dry-run", nullptr, "Visa vad som skulle adderas; spara inget"};
 constexpr Option kJson = {"--json", nullptr, "Skriv ett JSON-objekt och inget annat"};
 
 } // namespace
@@ -82,6 +95,66 @@ std::span<const Call> AllCalls()
          {kTo, kTakeTheRest, kJson},
          "Adderar de filer som DEP-filen anger för den binära filen.",
          AddByDepFile},
+        {"import-vb6",
+         {"PROJEKT"},
+         {kVbp,
+          kExe,
+          kVbFolder,
+          kDao35,
+          {"--dao36", nullptr, "Addera DAO 3.6 och Jet 4.0"},
+          {"--ado", nullptr, "Addera ADO-datakontrollen, även om projektet saknar den"},
+          {"--no-ado", nullptr, "Addera ej mer för ADO än vad projektet anger"},
+          {"--rdo", nullptr, "Addera RDO-datakontrollen, även om projektet saknar den"},
+          {"--no-rdo", nullptr, "Addera ej mer för RDO än vad projektet anger"},
+          {"--mda", nullptr, "Lägg in Microsoft Data Access (MDAC_TYP.EXE)"},
+          {"--mda-visible", nullptr, "Visa dess installationsprogram för mottagaren"},
+          {"--mda-ask", nullptr, "Fråga mottagaren innan det installeras"},
+          kMfc,
+          kNoDep,
+          kProgramTo,
+          kIcon,
+          kIconOn,
+          kDryRun,
+          kTakeTheRest,
+          kJson},
+         "Adderar de filer som ett Visual Basic 6.0-projekt behöver.",
+         ImportVb6},
+        {"import-vb5",
+         {"PROJEKT"},
+         {kVbp, kExe, kVbFolder, kDao35, kMfc, kProgramTo, kIcon, kIconOn, kDryRun, kTakeTheRest,
+          kJson},
+         "Adderar de filer som ett Visual Basic 5.0-projekt behöver.",
+         ImportVb5},
+        {"import-vbnet",
+         {"PROJEKT"},
+         {kVbp,
+          kExe,
+          kNoDep,
+          {"--net", "VERSION", "Testa att minst denna .NET Framework är installerad", "1.0|1.1"},
+          {"--net-stop", nullptr, "Stoppa installationen om den saknas, i stället för att varna"},
+          kProgramTo,
+          kIcon,
+          kIconOn,
+          kDryRun,
+          kTakeTheRest,
+          kJson},
+         "Adderar de filer som ett Visual Basic .NET-projekt (2002, 2003) behöver.",
+         ImportVbNet},
+        {"import-folder",
+         {"PROJEKT", "KATALOG"},
+         {{"--exe", "NAMN", "Programmet, om katalogen har flera"},
+          {"--with-build-files", nullptr, "Addera även .pdb, .lib och annat som bygget lämnar"},
+          {"--keep-version", nullptr, "Ändra ej projektets versionsinformation"},
+          {"--no-net-test", nullptr, "Låt ej installationen testa .NET Framework"},
+          {"--strict", nullptr, "Stoppa om ett bibliotek saknas eller är för fel processor"},
+          kProgramTo,
+          kIcon,
+          kIconOn,
+          kDryRun,
+          kTakeTheRest,
+          kJson},
+         "Adderar katalogen där ett program är byggt eller publicerat.",
+         ImportFolder},
         {"remove",
          {"PROJEKT", "RADER..."},
          {kJson},

@@ -17,59 +17,26 @@ namespace {
 
 constexpr std::size_t kLongestVersionText = 300;
 
-constexpr std::uint16_t kMagic32 = 0x10B;
-constexpr std::uint16_t kMagic64 = 0x20B;
-constexpr std::size_t kResourceDirectory = 2;  // of the optional header's table
 constexpr std::uint32_t kVersionResource = 16; // the type's number in the resource tree
 constexpr std::uint32_t kIsFolder = 0x80000000;
 
 // More than any program has; a damaged count ends here.
-constexpr std::size_t kMostSections = 96;
 constexpr std::size_t kMostEntries = 1024;
 constexpr std::size_t kMostLanguages = 64;
 // A version block tells its length in 16 bits.
 constexpr std::size_t kLongestResource = 0xFFFF;
 
-std::uint32_t NumberAt(std::string_view bytes, std::size_t position, std::size_t size)
-{
-    std::uint32_t number = 0;
-    for (std::size_t i = size; i-- > 0;)
-        number = number << 8U | static_cast<unsigned char>(bytes[position + i]);
-    return number;
-}
-
-std::uint16_t ShortAt(std::string_view bytes, std::size_t position)
-{
-    return static_cast<std::uint16_t>(NumberAt(bytes, position, 2));
-}
-
-std::uint32_t LongAt(std::string_view bytes, std::size_t position)
-{
-    return NumberAt(bytes, position, 4);
-}
-
-struct Section {
-    std::uint32_t address;
-    std::uint32_t fileSize;
-    std::uint32_t filePosition;
-};
-
-/// The parts of the program that hold its resources.
-class ProgramFile {
+/// The part of a program that holds its resources.
+class ResourceTree {
 public:
-    explicit ProgramFile(const ReadFileAt& read) : read_(read) {}
+    explicit ResourceTree(const ReadFileAt& read) : headers_(read) {}
 
     /// False where the file is no program or has no resources.
-    bool ReadHeaders();
+    bool Open();
     /// The version resources, of all languages.
     std::vector<std::string> VersionResources() const;
 
 private:
-    /// Exactly so many bytes, or nothing.
-    std::optional<std::string> Bytes(std::uint64_t position, std::size_t count) const;
-    bool ReadSections(std::uint64_t position, std::size_t count);
-    std::optional<std::uint64_t> FilePosition(std::uint32_t address) const;
-
     struct TreeEntry {
         std::uint32_t id;
         std::uint32_t offset;
@@ -77,82 +44,30 @@ private:
     std::vector<TreeEntry> Folder(std::uint32_t offset) const;
     std::optional<std::string> Leaf(std::uint32_t offset) const;
 
-    const ReadFileAt& read_;
-    std::vector<Section> sections_;
+    ProgramHeaders headers_;
     std::uint64_t tree_ = 0; // where the resource tree stands in the file
 };
 
-std::optional<std::string> ProgramFile::Bytes(std::uint64_t position, std::size_t count) const
+bool ResourceTree::Open()
 {
-    std::string bytes(count, '\0');
-    const std::size_t got = read_(position, std::as_writable_bytes(std::span(bytes)));
-    if (got != count)
-        return std::nullopt;
-    return bytes;
-}
-
-bool ProgramFile::ReadHeaders()
-{
-    constexpr std::size_t kDosHeaderSize = 64;
-    constexpr std::size_t kFileHeaderSize = 24; // with the mark before it
-    const auto dosHeader = Bytes(0, kDosHeaderSize);
-    if (!dosHeader || !dosHeader->starts_with("MZ"))
+    if (!headers_.Read())
         return false;
-    const std::uint64_t start = LongAt(*dosHeader, 60);
-    const auto fileHeader = Bytes(start, kFileHeaderSize);
-    if (!fileHeader || fileHeader->compare(0, 4, "PE\0\0", 4) != 0)
-        return false;
-
-    const std::size_t sectionCount = ShortAt(*fileHeader, 6);
-    const std::size_t optionalSize = ShortAt(*fileHeader, 20);
-    const auto optional = Bytes(start + kFileHeaderSize, optionalSize);
-    if (!optional || optionalSize < 2)
-        return false;
-    const std::uint16_t magic = ShortAt(*optional, 0);
-    if (magic != kMagic32 && magic != kMagic64)
-        return false;
-    const std::size_t table = magic == kMagic32 ? 96 : 112;
-    const std::size_t entry = table + kResourceDirectory * 8;
-    if (entry + 8 > optionalSize || LongAt(*optional, table - 4) <= kResourceDirectory)
-        return false;
-
-    if (!ReadSections(start + kFileHeaderSize + optionalSize, sectionCount))
-        return false;
-    const auto tree = FilePosition(LongAt(*optional, entry));
+    const auto table = headers_.TableOf(DataDirectory::Resources);
+    const auto tree = table ? headers_.FilePosition(table->address) : std::nullopt;
     tree_ = tree.value_or(0);
     return tree.has_value();
 }
 
-bool ProgramFile::ReadSections(std::uint64_t position, std::size_t count)
-{
-    constexpr std::size_t kSectionSize = 40;
-    const auto table = Bytes(position, std::min(count, kMostSections) * kSectionSize);
-    if (!table)
-        return false;
-    for (std::size_t i = 0; i < table->size(); i += kSectionSize)
-        sections_.push_back(
-            {LongAt(*table, i + 12), LongAt(*table, i + 16), LongAt(*table, i + 20)});
-    return true;
-}
-
-std::optional<std::uint64_t> ProgramFile::FilePosition(std::uint32_t address) const
-{
-    for (const Section& section : sections_)
-        if (address >= section.address && address - section.address < section.fileSize)
-            return std::uint64_t(section.filePosition) + (address - section.address);
-    return std::nullopt;
-}
-
-std::vector<ProgramFile::TreeEntry> ProgramFile::Folder(std::uint32_t offset) const
+std::vector<ResourceTree::TreeEntry> ResourceTree::Folder(std::uint32_t offset) const
 {
     constexpr std::size_t kHeadSize = 16;
     constexpr std::size_t kEntrySize = 8;
-    const auto head = Bytes(tree_ + offset, kHeadSize);
+    const auto head = headers_.Bytes(tree_ + offset, kHeadSize);
     if (!head)
         return {};
     const std::size_t count = std::size_t(ShortAt(*head, 12)) + ShortAt(*head, 14);
     const auto table =
-        Bytes(tree_ + offset + kHeadSize, std::min(count, kMostEntries) * kEntrySize);
+        headers_.Bytes(tree_ + offset + kHeadSize, std::min(count, kMostEntries) * kEntrySize);
     if (!table)
         return {};
     std::vector<TreeEntry> entries;
@@ -161,18 +76,18 @@ std::vector<ProgramFile::TreeEntry> ProgramFile::Folder(std::uint32_t offset) co
     return entries;
 }
 
-std::optional<std::string> ProgramFile::Leaf(std::uint32_t offset) const
+std::optional<std::string> ResourceTree::Leaf(std::uint32_t offset) const
 {
-    const auto entry = Bytes(tree_ + offset, 16);
+    const auto entry = headers_.Bytes(tree_ + offset, 16);
     if (!entry)
         return std::nullopt;
-    const auto position = FilePosition(LongAt(*entry, 0));
+    const auto position = headers_.FilePosition(LongAt(*entry, 0));
     if (!position)
         return std::nullopt;
-    return Bytes(*position, std::min<std::size_t>(LongAt(*entry, 4), kLongestResource));
+    return headers_.Bytes(*position, std::min<std::size_t>(LongAt(*entry, 4), kLongestResource));
 }
 
-std::vector<std::string> ProgramFile::VersionResources() const
+std::vector<std::string> ResourceTree::VersionResources() const
 {
     std::vector<std::string> resources;
     for (const TreeEntry& type : Folder(0)) {
@@ -286,12 +201,12 @@ void TakeFixedNumbers(std::string_view fixed, FileVersionData& data)
 FileVersionData GetFileVersionData(const ReadFileAt& read)
 {
     FileVersionData data;
-    ProgramFile file(read);
-    if (!file.ReadHeaders())
+    ResourceTree tree(read);
+    if (!tree.Open())
         return data;
 
     std::string_view fixedNumbers;
-    const std::vector<std::string> resources = file.VersionResources();
+    const std::vector<std::string> resources = tree.VersionResources();
     for (std::string_view resource : resources) {
         const auto root = TakeBlock(resource);
         if (!root || root->name != "VS_VERSION_INFO")

@@ -1,12 +1,8 @@
 // The version resource of a Windows program or library: who made it and which version it is.
 #pragma once
 
+#include "helpers/program_headers.h"
 #include "helpers/text.h"
-
-#include <cstddef>
-#include <cstdint>
-#include <functional>
-#include <span>
 
 namespace quillon {
 
@@ -21,10 +17,6 @@ struct FileVersionData {
 
     bool operator==(const FileVersionData&) const = default;
 };
-
-/// Fills the buffer from a position of the file and tells how many bytes there were; fewer than
-/// asked for only at the file's end.
-using ReadFileAt = std::function<std::size_t(std::uint64_t position, std::span<std::byte> buffer)>;
 
 /// Reads a 32-bit or 64-bit program, whatever the language of its resource; each text is the first
 /// one given in any language. All empty for a file that is no such program, that has no version

@@ -21,6 +21,7 @@ constexpr MenuRow kMenuBar[] = {
     {Entry, {201, "Visual Basic &5.0 projekt..."}},
     {Entry, {202, "&Visual Basic &6.0 projekt..."}},
     {Entry, {203, "Visual Basic .&NET projekt..."}},
+    {Entry, {214, "Importera &programkatalog..."}},
     {SubmenuEnd},
     {Entry, {107, "Imp&ortera INI-fil..."}},
     {Line},

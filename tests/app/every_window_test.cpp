@@ -68,6 +68,11 @@
 #include "filelist/forms/DlgVariables.h"
 #include "filelist/forms/RecursiveCollect.h"
 #include "importers/forms/DlgCompareLstFile.h"
+#include "importers/forms/DlgImportFolder.h"
+#include "importers/forms/DlgImportVB5Project.h"
+#include "importers/forms/DlgImportVB6Project.h"
+#include "importers/forms/DlgImportVBNetProject.h"
+#include "shell/fake_window.h"
 #include "shell/forms/DlgAbout.h"
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
 #include "shell/forms/DlgEditorOptions.h"
@@ -91,6 +96,7 @@ struct Subject {
     Session& session;
     CreateForm& create;
     InternetAdvanced& advanced;
+    const ImportDesk& imports;
 };
 
 struct WindowCase {
@@ -175,6 +181,10 @@ const WindowCase kWindows[] = {
     {"DlgIcon", [](Subject of) { return Made<DlgIcon>(FirstRow(of), of.session); }},
     {"DlgIconOptions", [](Subject) { return Made<DlgIconOptions>(IconPlaces{}); }},
     {"DlgIconX", [](Subject of) { return Made<DlgIconX>(FirstRow(of), of.session); }},
+    {"DlgImportFolder", [](Subject of) { return Made<DlgImportFolder>(of.imports); }},
+    {"DlgImportVB5Project", [](Subject of) { return Made<DlgImportVB5Project>(of.imports); }},
+    {"DlgImportVB6Project", [](Subject of) { return Made<DlgImportVB6Project>(of.imports); }},
+    {"DlgImportVBNetProject", [](Subject of) { return Made<DlgImportVBNetProject>(of.imports); }},
     {"DlgInstallOptInternetAdv", [](Subject of) { return Made<DlgInstallOptInternetAdv>(of.advanced, of.session); }},
     {"DlgInstallOptions", OfSession<DlgInstallOptions>},
     {"DlgLanguage", OfSession<DlgLanguage>},
@@ -240,7 +250,7 @@ protected:
     {
         for (const WindowCase& window : kWindows) {
             SCOPED_TRACE(window.name);
-            const auto dialog = window.make({session, create, advanced});
+            const auto dialog = window.make({session, create, advanced, imports});
             ShowActive(*dialog);
             dialog->resize(0, 0);
             auto* tabs = dialog->findChild<QTabWidget*>();
@@ -297,6 +307,9 @@ protected:
 
     CreateForm create;
     InternetAdvanced advanced;
+    FakeWindow mainWindow;
+    Text lastImportFolder;
+    const ImportDesk imports{session, mainWindow, {}, lastImportFolder};
     const QFont usualFont = QApplication::font();
 };
 
@@ -361,7 +374,7 @@ TEST_F(EveryWindow, FitsASmallScreenWithItsFrameAndButtons)
 {
     for (const WindowCase& window : kWindows) {
         SCOPED_TRACE(window.name);
-        const auto dialog = window.make({session, create, advanced});
+        const auto dialog = window.make({session, create, advanced, imports});
         dialog->move(SmallScreen()->geometry().topLeft());
         ShowActive(*dialog);
         ExpectToFit(*dialog);

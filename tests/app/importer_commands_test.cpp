@@ -49,5 +49,85 @@ TEST_F(ImporterCommands, ShowTheComparisonWithASetupList)
     form.RunCommand(113);
 }
 
+class ImportWindows : public ImporterCommands {
+protected:
+    ImportWindows()
+    {
+        machine.files.Put("C:\\Quillon\\ImportData.txt", "");
+        machine.files.Put("C:\\Proj\\Kund.vbproj", "<References>\r\n");
+        machine.files.Put("C:\\Proj\\bin\\Kund.exe", "MZ");
+        session.project.Files = MakeList({MakeRow("a.txt"), MakeRow("z.txt")});
+    }
+};
+
+TEST_F(ImportWindows, OpenByTheirCommands)
+{
+    MainForm form(session);
+    ShowActive(form);
+    const std::pair<int, const char*> kWindows[] = {{201, "DlgImportVB5Project"},
+                                                    {202, "DlgImportVB6Project"},
+                                                    {203, "DlgImportVBNetProject"},
+                                                    {214, "DlgImportFolder"}};
+    for (const auto& [id, name] : kWindows) {
+        OnNextDialog([&](QDialog& dialog) { EXPECT_EQ(dialog.objectName(), name); });
+        form.RunCommand(id);
+    }
+}
+
+TEST_F(ImportWindows, AskForDestinationAndIconAndSelectTheProgram)
+{
+    MainForm form(session);
+    ShowActive(form);
+    form.ShowFileList({1});
+    ask.choices = {{{"C:\\Proj\\Kund.vbproj"}}, {{"C:\\Proj\\bin\\Kund.exe"}}};
+    ask.Expect({BoxKind::Inform, "Importen är klar"});
+    OnNextDialog([](QDialog& import) {
+        Click(import, "cmdSelectVBP");
+        Click(import, "cmdSelectEXE");
+        OnNextDialog([](QDialog& destination) {
+            EXPECT_EQ(destination.objectName(), "DlgDestinationDirectory");
+            EXPECT_EQ(destination.windowTitle(), "Välj destinationskatalog för Kund.exe");
+            OnNextDialog([](QDialog& icon) {
+                EXPECT_EQ(icon.objectName(), "DlgIcon");
+                EXPECT_EQ(icon.windowTitle(), "Skriv in ikon-uppgifter för Kund.exe");
+                Type(icon, "tDescription", "Kundregister");
+                Click(icon, "cmdOK");
+            });
+            Click(destination, "cmdOK");
+        });
+        Click(import, "cmdImport");
+    });
+    form.RunCommand(203);
+    ASSERT_THAT(NamesOf(session.project.Files), ElementsAre("a.txt", "Kund.exe", "z.txt"));
+    EXPECT_EQ(session.project.Files.rows[1][Destination], "%DESTDIR");
+    EXPECT_EQ(session.project.Files.rows[1][IconDesc], "Kundregister");
+    EXPECT_THAT(form.SelectedRows(), ElementsAre(1U));
+    EXPECT_EQ(form.LastImportFolder(), "C:\\Proj");
+}
+
+TEST_F(ImportWindows, OpenTheWindowsOfOtherSettings)
+{
+    MainForm form(session);
+    ShowActive(form);
+    OnNextDialog([](QDialog& import) {
+        OnNextDialog([](QDialog& details) { EXPECT_EQ(details.objectName(), "DlgMDADetails"); });
+        Click(import, "cmdMDADetails");
+    });
+    form.RunCommand(202);
+    OnNextDialog([](QDialog& import) {
+        OnNextDialog([](QDialog& net) {
+            EXPECT_EQ(net.objectName(), "DlgTestNETFramework");
+            Click(net, "cTestIfNETInstalled");
+            Click(net, "cmdOK");
+        });
+        Click(import, "CmdTestNETFramework");
+        EXPECT_EQ(Find<QLabel>(import, "labNETtestStatus").text(),
+                  "Testa att .NET Framework är installerad");
+    });
+    form.RunCommand(203);
+    EXPECT_EQ(session.project.NET.NET_TestIfInstalled, kOn);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
 } // namespace
 } // namespace quillon::test

@@ -13,7 +13,6 @@ namespace {
 const std::set<int> kLaterCommands = {
     105, 110,
     157,
-    201, 202, 203,
 };
 // clang-format on
 

@@ -1,0 +1,12 @@
+// The windows that the importers open beyond their own.
+#pragma once
+
+#include "importers/forms/import_forms.h"
+
+namespace quillon {
+
+class MainForm;
+
+ImportDesk MakeImportDesk(MainForm& form);
+
+} // namespace quillon

@@ -1,0 +1,120 @@
+#include "helpers/program_headers.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::uint16_t kMagic32 = 0x10B;
+constexpr std::uint16_t kMagic64 = 0x20B;
+
+// More than any program has; a damaged count ends here.
+constexpr std::size_t kMostSections = 96;
+constexpr std::size_t kMostTables = 16;
+
+std::uint32_t NumberAt(std::string_view bytes, std::size_t position, std::size_t size)
+{
+    std::uint32_t number = 0;
+    for (std::size_t i = size; i-- > 0;)
+        number = number << 8U | static_cast<unsigned char>(bytes[position + i]);
+    return number;
+}
+
+} // namespace
+
+std::uint16_t ShortAt(std::string_view bytes, std::size_t position)
+{
+    return static_cast<std::uint16_t>(NumberAt(bytes, position, 2));
+}
+
+std::uint32_t LongAt(std::string_view bytes, std::size_t position)
+{
+    return NumberAt(bytes, position, 4);
+}
+
+std::optional<std::string> ProgramHeaders::Bytes(std::uint64_t position, std::size_t count) const
+{
+    std::string bytes = BytesUpTo(position, count);
+    if (bytes.size() != count)
+        return std::nullopt;
+    return bytes;
+}
+
+std::string ProgramHeaders::BytesUpTo(std::uint64_t position, std::size_t count) const
+{
+    std::string bytes(count, '\0');
+    bytes.resize(read_(position, std::as_writable_bytes(std::span(bytes))));
+    return bytes;
+}
+
+bool ProgramHeaders::Read()
+{
+    constexpr std::size_t kDosHeaderSize = 64;
+    constexpr std::size_t kFileHeaderSize = 24; // with the mark before it
+    const auto dosHeader = Bytes(0, kDosHeaderSize);
+    if (!dosHeader || !dosHeader->starts_with("MZ"))
+        return false;
+    const std::uint64_t start = LongAt(*dosHeader, 60);
+    const auto fileHeader = Bytes(start, kFileHeaderSize);
+    if (!fileHeader || fileHeader->compare(0, 4, "PE\0\0", 4) != 0)
+        return false;
+
+    machine_ = ShortAt(*fileHeader, 4);
+    characteristics_ = ShortAt(*fileHeader, 22);
+    const std::size_t sectionCount = ShortAt(*fileHeader, 6);
+    const std::size_t optionalSize = ShortAt(*fileHeader, 20);
+    const auto optional = Bytes(start + kFileHeaderSize, optionalSize);
+    return optional && ReadOptionalHeader(*optional) &&
+           ReadSections(start + kFileHeaderSize + optionalSize, sectionCount);
+}
+
+bool ProgramHeaders::ReadOptionalHeader(std::string_view header)
+{
+    if (header.size() < 2)
+        return false;
+    const std::uint16_t magic = ShortAt(header, 0);
+    if (magic != kMagic32 && magic != kMagic64)
+        return false;
+    is64Bit_ = magic == kMagic64;
+    const std::size_t firstTable = is64Bit_ ? 112 : 96;
+    if (header.size() < firstTable)
+        return false;
+    imageBase_ = is64Bit_ ? std::uint64_t(LongAt(header, 28)) << 32U | LongAt(header, 24)
+                          : LongAt(header, 28);
+    const std::size_t told = std::min<std::size_t>(LongAt(header, firstTable - 4), kMostTables);
+    for (std::size_t i = 0; i < told && firstTable + (i + 1) * 8 <= header.size(); ++i)
+        tables_.push_back(
+            {LongAt(header, firstTable + i * 8), LongAt(header, firstTable + i * 8 + 4)});
+    return true;
+}
+
+bool ProgramHeaders::ReadSections(std::uint64_t position, std::size_t count)
+{
+    constexpr std::size_t kSectionSize = 40;
+    const auto table = Bytes(position, std::min(count, kMostSections) * kSectionSize);
+    if (!table)
+        return false;
+    for (std::size_t i = 0; i < table->size(); i += kSectionSize)
+        sections_.push_back(
+            {LongAt(*table, i + 12), LongAt(*table, i + 16), LongAt(*table, i + 20)});
+    return true;
+}
+
+std::optional<ProgramHeaders::Table> ProgramHeaders::TableOf(DataDirectory directory) const
+{
+    const auto number = static_cast<std::size_t>(directory);
+    if (number >= tables_.size())
+        return std::nullopt;
+    return tables_[number];
+}
+
+std::optional<std::uint64_t> ProgramHeaders::FilePosition(std::uint32_t address) const
+{
+    for (const Section& section : sections_)
+        if (address >= section.address && address - section.address < section.fileSize)
+            return std::uint64_t(section.filePosition) + (address - section.address);
+    return std::nullopt;
+}
+
+} // namespace quillon

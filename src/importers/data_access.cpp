@@ -1,0 +1,183 @@
+#include "importers/data_access.h"
+
+#include "helpers/windows_path.h"
+#include "platform/failure_text.h"
+
+namespace quillon {
+
+namespace {
+
+const Text kSharedTools = "SOFTWARE\\Microsoft\\Shared Tools";
+constexpr const char* kDaoFailed = "Fel vid hämtning av DAO-filer";
+constexpr const char* kPackage = "MDAC_TYP.EXE";
+constexpr const char* kPackageInSetup = "MDAC_TYP.ZIP";
+
+constexpr const char* kDataAccessQuestion =
+    "Vill du att Microsoft Data Access komponenter ska installeras på din användarens dator? Ifall "
+    "du svarar 'Ja' kommer även filen 'MDAC_TYP.EXE' att inkluderas i installationsprojektet. Vet "
+    "du att din slutanvändare har samma version av Microsoft Data Access komponenter som du kan du "
+    "svara 'Nej' här för att spara utrymme. Filen 'MDAC_TYP.EXE' utökar installationsdatamängden "
+    "med ca 6 MB. Se hjälpen för mer information.";
+
+std::optional<Text> SharedTool(const RowImport& import, const Text& key, const Text& value)
+{
+    const auto text = import.GetHost().machine.ReadRegistryValue(
+        RegistryRoot::LocalMachine, key.empty() ? kSharedTools : kSharedTools + "\\" + key, value);
+    return text && text->empty() ? std::nullopt : text;
+}
+
+// The registered path is that of the library; some setups have noted its folder alone.
+Text FolderOfLibrary(const Text& path)
+{
+    return ExtractFilename(path).find('.') == Text::npos ? RemoveLastBackslash(path)
+                                                         : ExtractDirectory(path);
+}
+
+FileToAdd DaoFile(const char* name, const Text& path)
+{
+    return {.FileName = name, .SourcePath = path, .Destination = "%DAODIR", .TrapErrors = true};
+}
+
+void TellDao35Missing(RowImport& import, const Text& name)
+{
+    import.Pass(name, "saknas i registry");
+    import.GetAsk().Critical(
+        kDaoFailed,
+        "Kan ej hitta information om filen '" + name +
+            "' i Registry! Denna information ska normalt finnas vid "
+            "'HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Shared Tools\\" +
+            name +
+            " :: Path' i Registry, men denna information saknas. Antingen är DAO inte installerad "
+            "på din dator eller så skedde något fel under installationen. Du kan prova att "
+            "installera DAO på nytt. Om felet kvarstår kan du kontakta oss.");
+}
+
+// The path of the library in the registry, whether it is whole or names the folder alone.
+Text LibraryPath(const Text& path, const char* name)
+{
+    return ExtractFilename(path).find('.') == Text::npos ? JoinPath(path, name) : path;
+}
+
+void AddVb6DaoLibrary(RowImport& import)
+{
+    const auto shared = SharedTool(import, "DAO350", "Path");
+    auto library = SharedTool(import, "DAO350.DLL", "Path");
+    if (!library)
+        library = shared;
+    if (!library)
+        return TellDao35Missing(import, "dao350.dll");
+    auto types = SharedTool(import, "DAO2535.TLB", "Path");
+    if (!types && shared)
+        types = JoinPath(FolderOfLibrary(*shared), "DAO2535.TLB");
+    if (!types)
+        return TellDao35Missing(import, "dao2535.tlb");
+    import.AddWithOptions(DaoFile("DAO350.dll", LibraryPath(*library, "DAO350.dll")), "VRS");
+    import.AddWithOptions(DaoFile("DAO2535.tlb", LibraryPath(*types, "DAO2535.TLB")), "DS");
+}
+
+void AskForDataAccess(RowImport& import, Vb6Choices& choices, DataAccessQuestion question)
+{
+    if (question == DataAccessQuestion::DoNotAsk || choices.MDAQuestionAsked || import.IsStopped())
+        return;
+    const bool isWanted =
+        import.GetAsk().YesNo("Microsoft Data Access", kDataAccessQuestion, Ask::Stops::OnNo);
+    choices.MDAQuestionAsked = true;
+    if (isWanted)
+        choices.cInstallMDA = true;
+}
+
+// A dry run writes nothing; the row then has the size and date of what would be copied.
+Text CopyForSetup(const RowImport& import, const Text& package)
+{
+    if (import.Work().isDryRun)
+        return package;
+    FileSystem& files = import.GetHost().files;
+    const Text folder = JoinPath(import.Work().ownFolder, "Temp\\Mda");
+    files.DirCreate(folder); // what fails here fails again below
+    const Text copy = JoinPath(folder, kPackageInSetup);
+    files.CopyContent(package, copy);
+    return copy;
+}
+
+} // namespace
+
+void AddVb6Dao35(RowImport& import, const Text& redistFolder)
+{
+    import.AddSystemFiles(kVb6Dao35Files);
+    AddVb6DaoLibrary(import);
+    import.AddRedistFiles(redistFolder, std::span(&kVb6Dao35RedistFile, 1));
+}
+
+void AddVb6Dao36(RowImport& import)
+{
+    import.AddSystemFiles(kVb6Dao36Files);
+    auto library = SharedTool(import, "DAO360.DLL", "Path");
+    if (!library)
+        if (const auto shared = SharedTool(import, "", "SharedFilesDir"))
+            library = JoinPath(*shared, "DAO\\dao360.dll");
+    if (library) {
+        import.AddWithOptions(DaoFile("DAO360.dll", LibraryPath(*library, "dao360.dll")), "VRS");
+        return;
+    }
+    import.Pass("dao360.dll", "saknas i registry");
+    import.GetAsk().Critical(
+        kDaoFailed,
+        "Kan ej hitta information om filen 'dao360.dll' i Registry! Denna information ska normalt "
+        "finnas vid 'HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Shared Tools' i Registry, men denna "
+        "information saknas. Antingen är DAO 3.6 inte installerad på din dator eller så skedde "
+        "något fel under installationen. Du kan prova att installera DAO på nytt. Om felet "
+        "kvarstår kan du kontakta oss.");
+}
+
+void AddVb5Dao35(RowImport& import)
+{
+    import.AddSystemFiles(kVb5Dao35Files);
+    const auto library = SharedTool(import, "DAO350", "Path");
+    if (!library) {
+        import.Pass("DAO2535.tlb", "saknas i registry");
+        import.Pass("DAO350.dll", "saknas i registry");
+        import.GetAsk().Critical("Fel", "Kan ej hitta DAO-filerna 'DAO2535.tlb' och 'DAO350.dll' "
+                                        "på din hårddisk!");
+        return;
+    }
+    const Text folder = FolderOfLibrary(*library);
+    import.AddWithOptions(DaoFile("DAO2535.tlb", JoinPath(folder, "DAO2535.tlb")), "DS");
+    import.AddWithOptions(DaoFile("DAO350.dll", JoinPath(folder, "DAO350.dll")), "VRS");
+}
+
+void AddAdo(RowImport& import, Vb6Choices& choices, DataAccessQuestion question)
+{
+    import.AddSystemFiles(kAdoFiles);
+    AskForDataAccess(import, choices, question);
+}
+
+void AddRdo(RowImport& import, Vb6Choices& choices, DataAccessQuestion question)
+{
+    import.AddSystemFiles(kRdoFiles);
+    AskForDataAccess(import, choices, question);
+}
+
+void AddDataAccessPackage(RowImport& import, const Text& redistFolder)
+{
+    const Text package = redistFolder + "\\" + kPackage;
+    if (import.IsStopped())
+        return;
+    if (!import.GetHost().files.FileExists(package)) {
+        import.Pass(kPackage, "finns inte vid källsökvägen");
+        import.GetAsk().Critical(
+            "Fel", "Kan ej hitta filen 'MDAC_TYP.EXE' på din hårddisk! Denna fil krävs för "
+                   "installation av Microsoft Data Objects!");
+        return;
+    }
+    try {
+        import.AddWithOptions({.FileName = kPackageInSetup,
+                               .SourcePath = CopyForSetup(import, package),
+                               .Destination = "%DESTDIR",
+                               .CheckDuplicates = true},
+                              "W");
+    } catch (const RunError& error) {
+        import.GetAsk().Critical("Fel inträffade", FailureText(error, package));
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,35 @@
+// Which run-time of .NET a program asks for.
+#pragma once
+
+#include "helpers/program_facts.h"
+
+#include <string_view>
+
+namespace quillon {
+
+struct DotNetNeed {
+    enum class Kind {
+        None,
+        Framework, // part of Windows, or installed by its own setup
+        Core,      // .NET 5 and later, .NET Core
+        Contained  // the program brings its run-time along
+    };
+    Kind kind = Kind::None;
+    Text name;    // ".NET Framework", "Microsoft.WindowsDesktop.App"
+    Text version; // "4.7.2"; empty where nobody tells it
+    // What could not be read of the program's run-time file, in words.
+    Text damage;
+
+    bool operator==(const DotNetNeed&) const = default;
+};
+
+/// By the file `<program>.runtimeconfig.json` that a build of .NET leaves beside the program.
+DotNetNeed NeedOfRuntimeConfig(std::string_view json);
+
+/// By the program's own header.
+DotNetNeed NeedOfProgram(const ProgramFacts& facts);
+
+/// "Programmet behöver .NET Framework 4.7.2."; empty where it needs none.
+Text DotNetNeedText(const DotNetNeed& need);
+
+} // namespace quillon

@@ -1,0 +1,118 @@
+#include "importers/forms/DlgImportFolder.h"
+
+#include "helpers/windows_path.h"
+#include "ui/PathLabel.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kLinesInView = 5;
+
+} // namespace
+
+DlgImportFolder::DlgImportFolder(const ImportDesk& desk, QWidget* parent)
+    : ImportForm("DlgImportFolder", "Importera programkatalog", desk, parent)
+{
+    Named(NAMED(cbProgram), new QComboBox);
+    connect(cbProgram, &QComboBox::activated, this, [this] { ShowFindings(); });
+    Named(NAMED(ListOfFindings), new QListWidget);
+    ListOfFindings->setMinimumHeight(kLinesInView * ListOfFindings->fontMetrics().lineSpacing());
+    Arrange(Down({
+        Fields({{"Katalog:", PathRow(NAMED(sFolder), NAMED(cmdSelectFolder), "Välj &katalog...",
+                                     [this] { SelectFolder(); })},
+                {"&Program:", cbProgram}}),
+        Growing(Above("I&nnehåll och vad som saknas:", ListOfFindings)),
+        MakeOptions(),
+        Progress(),
+        Buttons(),
+    }));
+    ShowFolder();
+    cmdSelectFolder->setFocus();
+}
+
+Piece DlgImportFolder::MakeOptions()
+{
+    const Piece options = Across(
+        {Growing(Down(
+             {Choice01(NAMED(cVersionData), "Hämta &versionsinformation",
+                       "Fyller projektets versionsinformation med den som programmet innehåller. "
+                       "Det som programmet inte talar om behåller sitt värde."),
+              Choice01(NAMED(cTestNETFramework), "Testa .NET &Framework",
+                       "Låter installationen testa att .NET Framework finns, när programmet "
+                       "behöver det.")})),
+         Growing(Down(
+             {Choice01(
+                  NAMED(cSkipBuildFiles), "&Utelämna byggets filer",
+                  "Lägger inte in felsökningssymboler, länkbibliotek och liknande: .pdb, .lib, "
+                  ".obj, .exp, .ilk, .vshost.exe."),
+              Choice01(NAMED(cAddIcon), "Lägg till ik&on för programmet",
+                       "Frågar efter ikonens uppgifter när importen är klar.")}))});
+    for (QCheckBox* box : {cVersionData, cTestNETFramework, cSkipBuildFiles, cAddIcon})
+        box->setChecked(true);
+    return options;
+}
+
+void DlgImportFolder::SelectFolder()
+{
+    const Session& session = Desk().session;
+    const auto folder = session.ask.SelectDir(
+        "Välj katalogen där programmet är byggt eller publicerat.", LastFolder());
+    if (!folder)
+        return;
+    RememberFolder(*folder);
+    RunStoppable([&] {
+        folder_ = ReadProgramFolder(session.host.files, *folder,
+                                    [this](const Text& file) { return ShowStep("Läser " + file); });
+    });
+    ShowFolder();
+}
+
+void DlgImportFolder::ShowFolder()
+{
+    sFolder->ShowPath(ToQt(folder_.folder));
+    cbProgram->clear();
+    for (const std::size_t place : folder_.programs)
+        cbProgram->addItem(ToQt(folder_.files[place].RelativePath()));
+    cbProgram->setEnabled(cbProgram->count() > 1);
+    ShowFindings();
+}
+
+void DlgImportFolder::ShowFindings()
+{
+    ListOfFindings->clear();
+    if (!folder_.damage.empty())
+        ListOfFindings->addItem(ToQt(folder_.damage));
+    findings_ = {};
+    const int row = cbProgram->currentIndex();
+    if (row >= 0) {
+        const FolderFile& program = folder_.files[folder_.programs[static_cast<std::size_t>(row)]];
+        findings_ = FindingsOf(Desk().session.host.files, folder_, program, Data());
+        for (const Text& line : FindingsText(findings_))
+            ListOfFindings->addItem(ToQt(line));
+    }
+    cTestNETFramework->setEnabled(CanTestFor(findings_.dotNet));
+}
+
+ImportResult DlgImportFolder::Import(const ImportWork& work)
+{
+    if (!HasProgram(folder_, work.list.ask))
+        return {.end = ImportEnd::Refused};
+    const auto row = static_cast<std::size_t>(cbProgram->currentIndex());
+    return ImportProgramFolder(work, folder_, folder_.programs[row], findings_,
+                               {.cVersionData = cVersionData->isChecked(),
+                                .cSkipBuildFiles = cSkipBuildFiles->isChecked(),
+                                .cTestNETFramework = cTestNETFramework->isChecked(),
+                                .cAddIcon = cAddIcon->isChecked()});
+}
+
+void ShowImportFolder(const ImportDesk& desk, QWidget* parent)
+{
+    DlgImportFolder form(desk, parent);
+    RunImportForm(form, desk.window);
+}
+
+} // namespace quillon

@@ -1,0 +1,82 @@
+#include "importers/forms/DlgImportVB5Project.h"
+
+#include "ui/PathLabel.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+DlgImportVB5Project::DlgImportVB5Project(const ImportDesk& desk, QWidget* parent)
+    : ImportForm("DlgImportVB5Project", "Importera Visual Basic 5.0 projekt", desk, parent)
+{
+    Named(NAMED(tVBDirectory), new QLineEdit(ToQt(FindVb5Directory(desk.session.host.machine))));
+    tVBDirectory->setToolTip(
+        "Katalogen som VB5.EXE ligger i. Filerna för vidaredistribution hämtas "
+        "från setupkit\\kitfil32\\sys32 under den.");
+    Arrange(Down({
+        Frame("Projekt",
+              {Fields({
+                  {"Projektfil (.VBP):", PathRow(NAMED(sVBPfile), NAMED(cmdSelectVBP),
+                                                 "Välj pro&jektfil...", [this] { SelectVBP(); })},
+                  {"Programfil (.EXE):", PathRow(NAMED(sEXEfile), NAMED(cmdSelectEXE),
+                                                 "Välj programfi&l...", [this] { SelectEXE(); })},
+                  {"&Visual Basic 5.0 katalog:", tVBDirectory},
+              })}),
+        MakeOptions(),
+        Stretch(),
+        Progress(),
+        Buttons(),
+    }));
+    cmdSelectVBP->setFocus();
+}
+
+Piece DlgImportVB5Project::MakeOptions()
+{
+    const Piece options =
+        Frame("Alternativ",
+              {Choice01(NAMED(cImportDAO35), "&DAO 3.5 och Jet 3.5",
+                        "För program som använder Data Access Objects 3.5. Var DAO finns läses i "
+                        "Registry."),
+               Choice01(NAMED(cImportActiveXSysFiles), "&Mfc42.dll och Msvcrt.dll",
+                        "Behövs av ActiveX-kontroller som är byggda med MFC."),
+               Choice01(NAMED(cAddIcon), "Lägg till ik&on för programmet",
+                        "Frågar efter ikonens uppgifter när importen är klar.")});
+    cAddIcon->setChecked(true);
+    return options;
+}
+
+void DlgImportVB5Project::SelectVBP()
+{
+    const auto file = SelectProject("Visual Basic projekt (*.vbp)|*.vbp", "*.vbp");
+    if (!file)
+        return;
+    choices_.sVBPfile = *file;
+    sVBPfile->ShowPath(ToQt(*file));
+}
+
+void DlgImportVB5Project::SelectEXE()
+{
+    const auto file = SelectProgram();
+    if (!file)
+        return;
+    choices_.sEXEfile = *file;
+    sEXEfile->ShowPath(ToQt(*file));
+}
+
+ImportResult DlgImportVB5Project::Import(const ImportWork& work)
+{
+    choices_.tVBDirectory = FromQt(tVBDirectory->text());
+    choices_.cImportDAO35 = cImportDAO35->isChecked();
+    choices_.cImportActiveXSysFiles = cImportActiveXSysFiles->isChecked();
+    choices_.cAddIcon = cAddIcon->isChecked();
+    return ImportVb5Project(work, choices_);
+}
+
+void ShowImportVB5Project(const ImportDesk& desk, QWidget* parent)
+{
+    DlgImportVB5Project form(desk, parent);
+    RunImportForm(form, desk.window);
+}
+
+} // namespace quillon

@@ -1,0 +1,189 @@
+#include "importers/forms/ImportForm.h"
+
+#include "helpers/windows_path.h"
+#include "shell/moved_rows.h"
+#include "ui/PathLabel.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kLettersOfAPath = 40;
+
+constexpr const char* kClose = "S&täng";
+constexpr const char* kStop = "S&toppa";
+
+} // namespace
+
+ImportForm::ImportForm(const char* name, const Text& title, const ImportDesk& desk, QWidget* parent)
+    : Form(name, title, parent), desk_(desk)
+{
+}
+
+Piece ImportForm::PathRow(PathLabel*& label, const char* name, QPushButton*& button,
+                          const char* buttonName, const Text& caption, std::function<void()> select)
+{
+    Named(label, name, new PathLabel);
+    Button(button, buttonName, caption, std::move(select));
+    return Across({Growing(RoomFor(kLettersOfAPath, label)), button});
+}
+
+QCheckBox* ImportForm::Choice01(QCheckBox*& member, const char* name, const Text& caption,
+                                const Text& help)
+{
+    Named(member, name, new QCheckBox(ToQt(caption)));
+    member->setToolTip(ToQt(help));
+    return member;
+}
+
+Piece ImportForm::Progress()
+{
+    Named(NAMED(sImportStatus), new QLabel);
+    Named(NAMED(pbImport), new QProgressBar, "Import pågår");
+    pbImport->setTextVisible(false);
+    // Idle it would look like a field to type in; the window keeps its size all the same.
+    QSizePolicy policy = pbImport->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    pbImport->setSizePolicy(policy);
+    pbImport->hide();
+    return Across({Growing(sImportStatus), Growing(pbImport)});
+}
+
+Piece ImportForm::Buttons()
+{
+    Button(NAMED(cmdImport), "&Importera", [this] { StartImport(); });
+    Button(NAMED(cmdClose), kClose, [this] { reject(); });
+    cmdImport->setDefault(true);
+    return Across({Stretch(), cmdImport, cmdClose});
+}
+
+Text ImportForm::LastFolder() const
+{
+    return desk_.lastFolder.empty() ? desk_.session.ProjectsFolder : desk_.lastFolder;
+}
+
+std::optional<Text> ImportForm::SelectProject(const Text& filter, const Text& fileName)
+{
+    auto file = desk_.session.ask.OpenFile({.title = "Välj Visual Basic projekt",
+                                            .folder = LastFolder(),
+                                            .fileName = fileName,
+                                            .filter = filter});
+    if (file)
+        desk_.lastFolder = ExtractDirectory(*file);
+    return file;
+}
+
+std::optional<Text> ImportForm::SelectProgram(const Text& folder)
+{
+    return desk_.session.ask.OpenFile({.title = "Välj programfil",
+                                       .folder = folder.empty() ? LastFolder() : folder,
+                                       .fileName = "*.exe",
+                                       .filter = "Programfiler (*.exe)|*.exe"});
+}
+
+const ImportData& ImportForm::Data()
+{
+    const Session& session = desk_.session;
+    if (!data_)
+        data_ = ReadImportData(session.host.files, session.options.ToolFolder,
+                               session.options.OwnFolder, session.ask);
+    return *data_;
+}
+
+void ImportForm::StartImport()
+{
+    Session& session = desk_.session;
+    ImportResult result;
+    RunStoppable([&] {
+        result = Import({.list = {session.project, session.state, session.host, session.ask},
+                         .user = *this,
+                         .toolFolder = session.options.ToolFolder,
+                         .ownFolder = session.options.OwnFolder});
+    });
+    // What a check has refused can be mended in the dialog.
+    if (result.end == ImportEnd::Refused)
+        return;
+    result_ = std::move(result);
+    accept();
+}
+
+void ImportForm::RunStoppable(const std::function<void()>& work)
+{
+    isStopWanted_ = false;
+    ShowRunning(true);
+    work();
+    ShowRunning(false);
+}
+
+void ImportForm::ShowRunning(bool isRunning)
+{
+    isRunning_ = isRunning;
+    for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (child != pbImport && child != sImportStatus && child != cmdClose)
+            child->setEnabled(!isRunning);
+    cmdClose->setText(isRunning ? kStop : kClose);
+    pbImport->setRange(0, 0);
+    pbImport->setVisible(isRunning);
+    if (!isRunning)
+        sImportStatus->clear();
+}
+
+// Closing in the midst of an import ends the import; the dialog then closes by itself.
+void ImportForm::reject()
+{
+    if (isRunning_)
+        isStopWanted_ = true;
+    else
+        Form::reject();
+}
+
+std::optional<Text>
+ImportForm::ChooseProgramDestination(const ImportUser::ProgramQuestion& question)
+{
+    return desk_.forms.chooseProgramDestination(question, parentWidget());
+}
+
+bool ImportForm::EditIcon(FileListRow& row, const Text& title)
+{
+    return desk_.forms.editIcon(row, title, parentWidget());
+}
+
+void ImportForm::HideDialog()
+{
+    hide();
+}
+
+void ImportForm::UpdateStatusBar()
+{
+    desk_.window.UpdateStatusBar();
+}
+
+bool ImportForm::MayGoOn(const Text& file)
+{
+    return ShowStep("Adderar " + file);
+}
+
+bool ImportForm::ShowStep(const Text& step)
+{
+    sImportStatus->setText(ToQt(step));
+    // Once the dialog is gone nothing keeps the user from the list that is being filled.
+    if (isVisible())
+        desk_.session.ask.YieldToEvents();
+    return !isStopWanted_;
+}
+
+void RunImportForm(ImportForm& form, MainWindow& window)
+{
+    form.ShowModal();
+    if (!form.Result())
+        return;
+    if (const auto program = form.Result()->newProgram)
+        window.ShowFileList({*program});
+    else
+        ShowMovedRows(window, form.Result()->places);
+}
+
+} // namespace quillon

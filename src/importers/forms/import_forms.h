@@ -1,0 +1,36 @@
+// What the windows of the importers are opened with: the session, the main window, the windows of
+// other folders that they open, and what is remembered for as long as the tool runs.
+#pragma once
+
+#include "importers/import_work.h"
+#include "shell/main_window.h"
+#include "shell/session.h"
+
+#include <functional>
+
+class QWidget;
+
+namespace quillon {
+
+struct ImportForms {
+    std::function<std::optional<Text>(const ImportUser::ProgramQuestion&, QWidget* parent)>
+        chooseProgramDestination;
+    std::function<bool(FileListRow& row, const Text& title, QWidget* parent)> editIcon;
+    std::function<void(QWidget* parent)> showMDADetails;
+    std::function<void(QWidget* parent)> showTestNETFramework;
+};
+
+struct ImportDesk {
+    Session& session;
+    MainWindow& window;
+    ImportForms forms;
+    // The folder of the last project that was chosen; empty until one is.
+    Text& lastFolder;
+};
+
+void ShowImportVB5Project(const ImportDesk& desk, QWidget* parent);
+void ShowImportVB6Project(const ImportDesk& desk, QWidget* parent);
+void ShowImportVBNetProject(const ImportDesk& desk, QWidget* parent);
+void ShowImportFolder(const ImportDesk& desk, QWidget* parent);
+
+} // namespace quillon

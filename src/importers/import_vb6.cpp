@@ -1,0 +1,156 @@
+#include "importers/import_vb6.h"
+
+#include "helpers/windows_path.h"
+#include "importers/data_access.h"
+#include "importers/mfc_control.h"
+#include "importers/row_import.h"
+#include "importers/vb_import_steps.h"
+#include "importers/vb_project.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kDone =
+    "Importen är nu klar! Alla filer som kan erhållas via Visual Basic 6.0 projektfilen har "
+    "adderats till fillistan. Anropar du funktioner i DLL-filer från tredjeparts-tillverkare måste "
+    "dessa läggas in manuellt till fillistan.";
+
+// A part of the browser, which only the browser's own setup may bring.
+constexpr std::string_view kNeverAdded = "SHDOCVW.DLL";
+constexpr std::string_view kAdoControl = "MSADODC.OCX";
+constexpr std::string_view kRdoControl = "MSRDC20.OCX";
+
+class Vb6Import {
+public:
+    Vb6Import(RowImport& import, const ImportData& data, Vb6Choices& choices)
+        : import_(import), data_(data), choices_(choices),
+          redistFolder_(GetDirectoryToVB6RedistDir(choices))
+    {
+    }
+
+    // Kept: the order, and that a data control of the project brings its files once more where its
+    // box is ticked; what has a row already is not added again.
+    void AddLists()
+    {
+        import_.AddRedistFiles(redistFolder_, kVb6RedistFiles);
+        import_.AddSystemFiles(kVb6Runtime);
+        AddActiveXFiles();
+        if (choices_.cImportDAO35)
+            AddVb6Dao35(import_, redistFolder_);
+        if (choices_.cImportDAO36)
+            AddVb6Dao36(import_);
+        if (choices_.cImportADO)
+            AddAdo(import_, choices_, DataAccessQuestion::Ask);
+        if (choices_.cImportRDO)
+            AddRdo(import_, choices_, DataAccessQuestion::Ask);
+        if (choices_.cInstallMDA)
+            AddDataAccessPackage(import_, redistFolder_);
+        if (choices_.cImportActiveXSysFiles)
+            import_.AddSystemFiles(kMfcFiles);
+        AddLibrariesOfModules();
+    }
+
+private:
+    void AddActiveXFiles()
+    {
+        const auto lines =
+            LinesOrTell(import_.GetHost().files, choices_.sVBPfile, import_.GetAsk());
+        for (const Text& name : ActiveXFilesOf(lines)) {
+            if (import_.IsStopped())
+                return;
+            if (EqualIgnoreCase(name, kNeverAdded))
+                import_.Pass(name, "hör till Windows och läggs aldrig in");
+            else
+                AddActiveXFile(name);
+        }
+    }
+
+    void AddActiveXFile(const Text& name)
+    {
+        AddControl(import_, name);
+        if (NeedsMfc(data_, import_.GetHost(), name))
+            choices_.cImportActiveXSysFiles = true;
+        if (EqualIgnoreCase(name, kAdoControl)) {
+            AddAdo(import_, choices_, DataAccessQuestion::DoNotAsk);
+            AddPackageIfWanted();
+        }
+        if (EqualIgnoreCase(name, kRdoControl)) {
+            AddRdo(import_, choices_, DataAccessQuestion::DoNotAsk);
+            AddPackageIfWanted();
+        }
+        // Kept: a box in its grey state is not a ticked one.
+        if (choices_.cUseDepFile == 1 && !import_.IsStopped())
+            import_.FollowActiveXDepFile(name);
+    }
+
+    void AddPackageIfWanted()
+    {
+        if (choices_.cInstallMDA)
+            AddDataAccessPackage(import_, redistFolder_);
+    }
+
+    void AddLibrariesOfModules()
+    {
+        for (const Text& line :
+             LinesOrTell(import_.GetHost().files, choices_.sVBPfile, import_.GetAsk()))
+            if (const auto module = ModuleIn(line))
+                for (const Text& library : data_.LibrariesOfModule(module->name, module->file))
+                    import_.AddSystemFile(library, false);
+    }
+
+    RowImport& import_;
+    const ImportData& data_;
+    Vb6Choices& choices_;
+    Text redistFolder_;
+};
+
+} // namespace
+
+Text FindVb6Directory(const Machine& machine)
+{
+    constexpr std::size_t kLongestCommand = 511; // and a NUL at its end
+    Text command =
+        FirstCharacters(machine
+                            .ReadRegistryValue(RegistryRoot::ClassesRoot,
+                                               "VisualBasic.Project\\shell\\open\\command", "")
+                            .value_or(""),
+                        kLongestCommand);
+    command.erase(std::min(command.find('\0'), command.size()));
+    if (command.starts_with('"'))
+        command.erase(0, 1);
+    const std::size_t end = command.rfind('\\');
+    return end == Text::npos ? Text() : command.substr(0, end);
+}
+
+Text GetDirectoryToVB6RedistDir(const Vb6Choices& choices)
+{
+    return choices.tVBDirectory + "\\Wizards\\PDWizard\\Redist";
+}
+
+void ScanVb6Project(Host host, Ask& ask, const ImportData& data, Vb6Choices& choices)
+{
+    for (const Text& name : ActiveXFilesOf(LinesOrTell(host.files, choices.sVBPfile, ask))) {
+        if (NeedsMfc(data, host, name))
+            choices.cImportActiveXSysFiles = true;
+        if (EqualIgnoreCase(name, kAdoControl))
+            choices.cImportADO = true;
+        if (EqualIgnoreCase(name, kRdoControl))
+            choices.cImportRDO = true;
+    }
+}
+
+ImportResult ImportVb6Project(const ImportWork& work, const ImportData& data, Vb6Choices& choices)
+{
+    if (!AreFilesChosen(choices.sVBPfile, choices.sEXEfile, kVbChecks, work.list.ask) ||
+        !IsVbFolderThere("Visual Basic 6.0", choices.tVBDirectory, work.list.host.files,
+                         work.list.ask) ||
+        !HasSystemFolder(work.list.host, work.list.ask))
+        return {.end = ImportEnd::Refused};
+    return RunImport(work, [&](RowImport& import) {
+        Vb6Import(import, data, choices).AddLists();
+        return EndVbImport(import, choices.sEXEfile, choices.cAddIcon, {"Importen är klar", kDone});
+    });
+}
+
+} // namespace quillon

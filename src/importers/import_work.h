@@ -1,0 +1,66 @@
+// What the import of a development project works on, what it asks beside boxes, and how it ends.
+#pragma once
+
+#include "filelist/add_file.h"
+#include "filelist/list_work.h"
+
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+/// The user of an import, beside `Ask`: the windows, the command line's switches, the tests.
+class ImportUser {
+public:
+    virtual ~ImportUser() = default;
+
+    /// Where the program goes; nothing when cancelled.
+    struct ProgramQuestion {
+        DestinationQuestion destination;
+        Text caption;
+        Text frameCaption;
+    };
+    virtual std::optional<Text> ChooseProgramDestination(const ProgramQuestion& question) = 0;
+    /// The icon of a row; false when cancelled.
+    virtual bool EditIcon(FileListRow& row, const Text& title) = 0;
+
+    virtual void HideDialog() {}
+    virtual void UpdateStatusBar() {}
+    /// Comes before each file that is looked at; false stops the import.
+    virtual bool MayGoOn(const Text& /*file*/) { return true; }
+};
+
+struct ImportWork {
+    ListWork list;
+    ImportUser& user;
+    Text toolFolder;
+    Text ownFolder;        // where the tool writes
+    bool isDryRun = false; // nothing is written to the disk
+};
+
+enum class ImportEnd {
+    Done,
+    Refused,   // by a check, before anything changed
+    Cancelled, // where the destination was asked; the rows so far stay
+    Stopped,   // by the user in its midst; the rows so far stay
+    Failed     // told in a box; the rows so far stay
+};
+
+/// A file that the import came upon and did not add.
+struct NotAddedFile {
+    Text file;
+    Text reason;
+
+    bool operator==(const NotAddedFile&) const = default;
+};
+
+struct ImportResult {
+    ImportEnd end = ImportEnd::Done;
+    // Where each row stands now, by its number so far: those from before, then the new ones.
+    NewPlaces places;
+    std::vector<NotAddedFile> notAdded;
+    // Where the program's row stands, where it is a new one; it is to be selected.
+    std::optional<std::size_t> newProgram;
+};
+
+} // namespace quillon

@@ -1,0 +1,21 @@
+#include "importers/mfc_control.h"
+
+#include "helpers/windows_path.h"
+#include "importers/program_on_disk.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+bool NeedsMfc(const ImportData& data, Host host, const Text& fileName)
+{
+    if (data.IsMfcControl(fileName))
+        return true;
+    const auto facts =
+        FactsOfProgram(host.files, LowerCase(JoinPath(host.machine.GetSystemDir(), fileName)));
+    return facts && std::ranges::any_of(facts->imports, [](const Text& library) {
+               return EqualIgnoreCase(library, "Mfc42.dll");
+           });
+}
+
+} // namespace quillon

@@ -1,0 +1,21 @@
+#include "importers/program_on_disk.h"
+
+#include "platform/run_error.h"
+
+namespace quillon {
+
+std::optional<ProgramFacts> FactsOfProgram(const FileSystem& files, const Text& path)
+{
+    try {
+        const auto file = files.OpenInput(path);
+        const ReadFileAt read = [&](std::uint64_t position, std::span<std::byte> buffer) {
+            file->Seek(position);
+            return file->Read(buffer);
+        };
+        return ReadProgramFacts(read);
+    } catch (const RunError&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace quillon

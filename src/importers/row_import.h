@@ -1,0 +1,97 @@
+// The steps that the imports of development projects share: how a file becomes a row, the program
+// with its destination, its icon.
+#pragma once
+
+#include "importers/dependency_file.h"
+#include "importers/import_work.h"
+#include "importers/runtime_lists.h"
+
+#include <functional>
+#include <span>
+
+namespace quillon {
+
+/// One import. Rows are added at the end of the list, which is put in order by `Finish`.
+class RowImport {
+public:
+    explicit RowImport(const ImportWork& work);
+    RowImport(const RowImport&) = delete;
+    RowImport& operator=(const RowImport&) = delete;
+
+    enum class Added { Yes, AlreadyThere, LeftOut, Missing };
+
+    /// A file of the system folder. One that has a row already is not added twice.
+    Added AddSystemFile(const Text& name, bool isRuntimeFile);
+    void AddSystemFiles(std::span<const SystemFile> files);
+    /// A file for redistribution, with copy options of its own. Kept: there is no duplicate test.
+    void AddRedistFiles(const Text& folder, std::span<const RedistFile> files);
+    void AddWithOptions(FileToAdd file, std::string_view copyOptions);
+    /// Any other file; false where it was refused. Throws where the file fails and traps nothing.
+    bool Add(const FileToAdd& file);
+
+    /// A file that an ActiveX file of the system folder needs.
+    void FollowActiveXDepFile(const Text& fileName)
+    {
+        dependencies_.FollowActiveXDepFile(fileName);
+    }
+
+    /// A file that was left out without a word.
+    void Pass(const Text& file, const Text& reason);
+
+    /// Asks for the program's destination and adds it. False, and `end` says why, where the import
+    /// ends here.
+    bool AddProgram(const Text& program, ImportEnd& end);
+    /// What was chosen for the program.
+    const Text& ProgramDestination() const { return programDestination_; }
+    /// Asks for the icon of the program.
+    void AddProgramIcon();
+
+    /// True once the user has stopped the import; nothing is added any more.
+    bool IsStopped() const { return isStopped_; }
+    ImportResult Finish(ImportEnd end);
+
+    /// While steps run that nobody is asked in.
+    void ShowBusy(bool isBusy);
+
+    Host GetHost() const { return work_.list.host; }
+    Ask& GetAsk() const { return work_.list.ask; }
+    const ImportWork& Work() const { return work_; }
+
+private:
+    bool MayGoOn(const Text& file);
+    bool HasSystemRow(const Text& name, const Text& path) const;
+    FileList& Files() const { return work_.list.project.Files; }
+    std::optional<std::size_t> FindProgram(const FileToAdd& program) const;
+
+    const ImportWork& work_;
+    std::size_t rowsBefore_;
+    FileAdding adding_;
+    DependencyFiles dependencies_;
+    bool isStopped_ = false;
+    bool isBusy_ = false;
+    bool isProgramNew_ = false;
+    std::optional<std::size_t> programRow_;
+    Text programDestination_;
+    std::vector<NotAddedFile> notAdded_;
+};
+
+/// The messages of the checks before an import.
+struct ImportChecks {
+    const char* bothMissing;
+    const char* programMissing;
+    const char* projectMissing;
+};
+
+/// False, with a box, where project or program are not chosen.
+bool AreFilesChosen(const Text& project, const Text& program, const ImportChecks& texts, Ask& ask);
+
+/// False, with a box that says what to do, where this machine has no system folder with files.
+bool HasSystemFolder(Host host, Ask& ask);
+
+/// The lines of a project file. What can't be read is told in a box; what was read counts.
+std::vector<Text> LinesOrTell(const FileSystem& files, const Text& path, Ask& ask);
+
+/// Runs an import's steps under a busy pointer; a failure is told, and the rows so far stay.
+ImportResult RunImport(const ImportWork& work, const std::function<ImportEnd(RowImport&)>& steps);
+
+} // namespace quillon

@@ -1,0 +1,30 @@
+// The steps that the imports of Visual Basic 5 and 6 share.
+#pragma once
+
+#include "importers/row_import.h"
+
+namespace quillon {
+
+inline constexpr ImportChecks kVbChecks = {
+    .bothMissing = "Du måste välja en projektfil (.VBP) och tillhörande programfil (.EXE) först!",
+    .programMissing =
+        "Du måste välja den programfil (.EXE) som ditt Visual basic-projekt skapar vid kompilering "
+        "först! Du väljer en programfil genom att trycka på knappen 'Välj programfil...'.",
+    .projectMissing = "Du måste välja en Visual Basic projektfil (.VBP) först !"};
+
+/// False, with a box, where the folder of this version is not told or not there.
+bool IsVbFolderThere(const char* version, const Text& folder, const FileSystem& files, Ask& ask);
+
+/// An ActiveX file that the project names. One that is not in the system folder is told.
+void AddControl(RowImport& import, const Text& name);
+
+struct ClosingMessage {
+    const char* title;
+    const char* text;
+};
+
+/// The end of an import: the program with its destination, its icon, and what is said at last.
+ImportEnd EndVbImport(RowImport& import, const Text& program, bool withIcon,
+                      const ClosingMessage& message);
+
+} // namespace quillon

@@ -1,0 +1,29 @@
+// What the lines of a Visual Basic 5 or 6 project file (.vbp) name.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace quillon {
+
+/// The ActiveX file that a line names: "Object={GUID}#1.0#0; NAME.OCX" gives "NAME.OCX". Nothing on
+/// other lines, and where no file stands behind the GUID, as for a control of another project.
+std::optional<Text> ActiveXFileIn(std::string_view line);
+
+/// "Module=basMain; ..\Common\Main.bas"
+struct VbModule {
+    Text name; // "basMain"
+    Text file; // "Main.bas", without its folder
+};
+std::optional<VbModule> ModuleIn(std::string_view line);
+
+// No project has as many; a file that names more is none.
+inline constexpr std::size_t kMostReferences = 1000;
+
+/// In the order of the file, at most `kMostReferences` of them.
+std::vector<Text> ActiveXFilesOf(const std::vector<Text>& lines);
+
+} // namespace quillon

@@ -1,0 +1,31 @@
+// What a Visual Basic .NET project file (.vbproj) of 2002 or 2003 names. It looks like XML and is
+// read by its lines: each attribute stands on one of its own.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+/// A COM component, by its type library.
+struct ComReference {
+    Text guid; // with its braces
+    Text major;
+    Text minor;
+
+    bool operator==(const ComReference&) const = default;
+};
+
+/// In the order of the file, at most `kMostReferences` of them; nothing where the file has no list
+/// of references.
+std::optional<std::vector<ComReference>> ComReferencesOf(const std::vector<Text>& lines);
+
+/// The lines that name an included file, in upper case.
+std::vector<Text> IncludedFileLines(const std::vector<Text>& lines);
+
+/// A project file of 2005 or later: XML for MSBuild, with or without an SDK.
+bool IsMsBuildProject(const std::vector<Text>& lines);
+
+} // namespace quillon

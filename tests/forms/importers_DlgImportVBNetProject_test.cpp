@@ -1,0 +1,86 @@
+#include "importers/forms/DlgImportVBNetProject.h"
+
+#include "import_form_test.h"
+#include "ui/PathLabel.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+namespace {
+
+using testing::ElementsAre;
+
+class DlgImportVBNetProjectTest : public ImportFormTest {
+protected:
+    DlgImportVBNetProjectTest()
+    {
+        machine.files.Put("C:\\Proj\\Kund.vbproj", "<References>\r\n");
+        machine.files.Put("C:\\Proj\\bin\\Kund.exe", "MZ");
+        machine.files.Put("C:\\Proj\\bin\\Lib.dll", "MZ");
+    }
+};
+
+TEST_F(DlgImportVBNetProjectTest, TellsWhetherTheFrameworkIsTested)
+{
+    DlgImportVBNetProject form(Desk(), nullptr);
+    ShowActive(form);
+    EXPECT_TRUE(form.cUseDepFile->isChecked());
+    EXPECT_EQ(form.labNETtestStatus->text(), "Testa inte att .NET Framework är installerad");
+    Click(form, "CmdTestNETFramework");
+    EXPECT_THAT(captions, ElementsAre("NET"));
+    EXPECT_EQ(form.labNETtestStatus->text(), "Testa att .NET Framework är installerad");
+}
+
+TEST_F(DlgImportVBNetProjectTest, BeginsTheChoiceOfTheProgramWhereItIsBuilt)
+{
+    DlgImportVBNetProject form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectEXE", "");
+    EXPECT_EQ(ask.questions[0].folder, session.ProjectsFolder);
+    Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbproj");
+    EXPECT_EQ(ask.questions[1].filter, "Visual Basic projekt (*.vbproj)|*.vbproj");
+    EXPECT_EQ(ask.questions[1].fileName, "*.vbproj");
+    Choose(form, "cmdSelectEXE", "C:\\Proj\\bin\\Kund.exe");
+    EXPECT_EQ(ask.questions[2].folder, "C:\\Proj\\bin");
+    EXPECT_EQ(form.sEXEfile->text(), "C:\\Proj\\bin\\Kund.exe");
+}
+
+TEST_F(DlgImportVBNetProjectTest, ImportsAndAlwaysAsksForTheIcon)
+{
+    DlgImportVBNetProject form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbproj");
+    Choose(form, "cmdSelectEXE", "C:\\Proj\\bin\\Kund.exe");
+    Expect(BoxKind::Inform, "Importen är klar");
+    Click(form, "cmdImport");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(session.project.Files.rows.size(), 2U);
+    EXPECT_THAT(captions, ElementsAre("Välj destinationskatalog för Kund.exe",
+                                      "Skriv in ikon-uppgifter för Kund.exe"));
+}
+
+TEST_F(DlgImportVBNetProjectTest, StaysOpenForAProjectOfAnotherKind)
+{
+    machine.files.Put("C:\\Proj\\New.vbproj", "<Project Sdk=\"Microsoft.NET.Sdk\">\n");
+    DlgImportVBNetProject form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectVBP", "C:\\Proj\\New.vbproj");
+    Choose(form, "cmdSelectEXE", "C:\\Proj\\bin\\Kund.exe");
+    Expect(BoxKind::Critical, "Fel inträffade");
+    Click(form, "cmdImport");
+    EXPECT_TRUE(form.isVisible());
+}
+
+TEST_F(DlgImportVBNetProjectTest, LooksRight)
+{
+    DlgImportVBNetProject form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbproj");
+    SavePicture(form, "DlgImportVBNetProject");
+    SaveDarkPicture(form, "DlgImportVBNetProject");
+    OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdClose"); });
+    ShowImportVBNetProject(Desk(), nullptr);
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,223 @@
+#include "importers/import_vbnet.h"
+
+#include "import_desk.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const Text kVbproj = "C:\\Proj\\Kund.vbproj";
+const Text kNetExe = "C:\\Proj\\bin\\Kund.exe";
+
+const ExpectedBox kDone{
+    BoxKind::Inform, "Importen är klar",
+    "Importen är nu klar! Alla filer som kan erhållas via Visual Basic .NET projektfilen har "
+    "adderats till fillistan. Anropar du funktioner i DLL-filer från tredjeparts-tillverkare måste "
+    "dessa läggas in manuellt till fillistan."};
+const ExpectedBox kNoReferences{
+    BoxKind::Critical, "Fel inträffade",
+    "Kan ej hitta referenser i projektfilen! Projektfilen är sannolikt inte en giltig .NET "
+    "projektfil."};
+
+std::string Reference(const std::string& guid, const std::string& major, const std::string& minor)
+{
+    return "<Reference\r\nGuid = \"{" + guid + "}\"\r\nVersionMajor = \"" + major +
+           "\"\r\nVersionMinor = \"" + minor + "\"\r\n/>\r\n";
+}
+
+class ImportVbNet : public ImportDesk {
+protected:
+    ImportVbNet()
+    {
+        machine.files.Put(kNetExe, "MZ");
+        choices.sVBPfile = kVbproj;
+        choices.sEXEfile = kNetExe;
+        data.Add("[Wrappers]\nQNHELP.VB=QnHelp.dll\nTools.vb=Tools.dll\n");
+    }
+
+    void PutProject(const std::string& references, const std::string& more = "")
+    {
+        machine.files.Put(kVbproj, "<VisualStudioProject>\r\n<References>\r\n" + references +
+                                       "</References>\r\n" + more);
+    }
+    ImportResult Run(std::deque<ExpectedBox> boxes)
+    {
+        ScriptedAsk ask(std::move(boxes));
+        ImportResult result = ImportVbNetProject(Work(ask), data, choices);
+        EXPECT_FALSE(ask.busyPointer);
+        return result;
+    }
+
+    ImportData data;
+    VbNetChoices choices;
+};
+
+} // namespace
+
+TEST_F(ImportVbNet, AddsComponentsProgramAndTheLibrariesBesideIt)
+{
+    PutAll(kSystem, {"mscomctl.ocx", "msxml3.dll", "stdole2.tlb"});
+    PutAll("C:\\Proj\\bin", {"AxInterop.MSComctlLib.dll", "Kund.pdb", "Other.DLL"});
+    RegisterTypes("{A}\\2.0", kSystem + "\\MSCOMCTL.OCX");
+    RegisterTypes("{B}\\3.0", "c:\\windows\\system32\\msxml3.dll");
+    RegisterTypes("{C}\\2.0", kSystem + "\\STDOLE2.TLB");
+    RegisterTypes("{D}\\1.0", "C:\\Program\\Own\\own.ocx");
+    PutProject(Reference("A", "2", "0") + Reference("B", "3", "0") + Reference("C", "2", "0") +
+               Reference("D", "1", "0") + Reference("E", "1", "0"));
+    const ImportResult result = Run({kDone});
+    EXPECT_EQ(result.end, ImportEnd::Done);
+    EXPECT_THAT(Rows(),
+                ElementsAre("Mscomctl.ocx %SYSDIR VRAW", "msxml3.dll %SYSDIR VA",
+                            "Kund.exe %DESTDIR\\Bin D", "AxInterop.MSComctlLib.dll %DESTDIR DA",
+                            "Other.DLL %DESTDIR DA"));
+    EXPECT_THAT(
+        result.notAdded,
+        ElementsAre(NotAddedFile{"STDOLE2.TLB", "hör till Windows och läggs aldrig in"},
+                    NotAddedFile{"C:\\Program\\Own\\own.ocx", "ligger utanför systemkatalogen"},
+                    NotAddedFile{"{E}", "saknas i registry"}));
+    EXPECT_THAT(user.steps,
+                ElementsAre("hide", "status", "destination", "status", "status", "icon"));
+}
+
+TEST_F(ImportVbNet, GivesTheIconToTheProgram)
+{
+    PutAll("C:\\Proj\\bin", {"Other.dll"});
+    PutProject("");
+    user.iconDescription = "Kund";
+    Run({kDone});
+    EXPECT_EQ(user.iconTitle, "Skriv in ikon-uppgifter för Kund.exe");
+    EXPECT_EQ(Row("Kund.exe")[IconDesc], "Kund");
+    EXPECT_EQ(Row("Other.dll")[IconMarker], "");
+}
+
+TEST_F(ImportVbNet, SkipsAComponentThatAnyRowHasByName)
+{
+    PutAll(kSystem, {"mscomctl.ocx"});
+    RegisterTypes("{A}\\2.0", kSystem + "\\mscomctl.ocx");
+    PutProject(Reference("A", "2", "0"));
+    FileListRow& row = project.Files.rows.emplace_back();
+    row[Filename] = "MSComCtl.ocx";
+    row[Destination] = "%DESTDIR";
+    EXPECT_THAT(Run({kDone}).notAdded,
+                ElementsAre(NotAddedFile{"mscomctl.ocx", "finns redan i fillistan"}));
+}
+
+TEST_F(ImportVbNet, FollowsTheDependencyFilesOfControlsAlone)
+{
+    PutAll(kSystem, {"grid.ocx", "lib.dll", "grid_needs.dll", "lib_needs.dll"});
+    machine.files.Put(kSystem + "\\grid.dep", "[grid.ocx]\r\nUses1=grid_needs.dll\r\n");
+    machine.files.Put(kSystem + "\\lib.dep", "[lib.dll]\r\nUses1=lib_needs.dll\r\n");
+    RegisterTypes("{A}\\1.0", kSystem + "\\grid.ocx");
+    RegisterTypes("{B}\\1.0", kSystem + "\\lib.dll");
+    PutProject(Reference("A", "1", "0") + Reference("B", "1", "0"));
+    Run({kDone});
+    EXPECT_THAT(Rows(), ElementsAre("grid.ocx %SYSDIR VRAW", "grid_needs.dll %SYSDIR DA",
+                                    "lib.dll %SYSDIR VA", "Kund.exe %DESTDIR\\Bin D"));
+    project.Files.rows.clear();
+    choices.cUseDepFile = 2;
+    Run({kDone});
+    EXPECT_THAT(Rows(), ElementsAre("grid.ocx %SYSDIR VRAW", "lib.dll %SYSDIR VA",
+                                    "Kund.exe %DESTDIR\\Bin D"));
+}
+
+TEST_F(ImportVbNet, AddsTheLibrariesOfIncludedWrappers)
+{
+    PutAll(kSystem, {"qnhelp.dll", "tools.dll"});
+    PutProject("", "RelPath = \"tools.vb\"\r\n<Files>\r\n<Include>\r\n<File\r\n"
+                   "RelPath = \"..\\Lib\\QnHelp.vb\"\r\nRelPath = \"Form1.vb\"\r\n");
+    Run({kDone});
+    EXPECT_THAT(Rows(), ElementsAre("QnHelp.dll %SYSDIR VA", "Kund.exe %DESTDIR\\Bin D"));
+}
+
+TEST_F(ImportVbNet, StopsAtTheFirstCheckThatFails)
+{
+    PutProject("");
+    choices.sVBPfile = choices.sEXEfile = "";
+    EXPECT_EQ(Run({{BoxKind::Inform, "Info",
+                    "Du måste välja en projektfil och tillhörande programfil först!"}})
+                  .end,
+              ImportEnd::Refused);
+    choices.sVBPfile = kVbproj;
+    EXPECT_EQ(Run({{BoxKind::Inform, "Info",
+                    "Du måste välja den programfil som ditt Visual basic-projekt skapar vid "
+                    "kompilering först! Du väljer en programfil genom att trycka på knappen 'Välj "
+                    "programfil...'."}})
+                  .end,
+              ImportEnd::Refused);
+    choices.sVBPfile = "";
+    choices.sEXEfile = kNetExe;
+    EXPECT_EQ(
+        Run({{BoxKind::Inform, "Info", "Du måste välja en Visual Basic projektfil först !"}}).end,
+        ImportEnd::Refused);
+    EXPECT_THAT(Rows(), IsEmpty());
+}
+
+TEST_F(ImportVbNet, TellsAFileWithoutReferencesAndGoesOn)
+{
+    machine.files.Put(kVbproj, "<VisualStudioProject>\r\n");
+    EXPECT_EQ(Run({kNoReferences, kDone}).end, ImportEnd::Done);
+    EXPECT_THAT(Rows(), ElementsAre("Kund.exe %DESTDIR\\Bin D"));
+}
+
+TEST_F(ImportVbNet, TellsAFileThatCannotBeReadAndGoesOn)
+{
+    EXPECT_EQ(Run({{BoxKind::Critical, "Fel inträffade",
+                    "Kan ej öppna eller läsa Visual Basic projektfil!"},
+                   kDone})
+                  .end,
+              ImportEnd::Done);
+}
+
+TEST_F(ImportVbNet, NamesTheImportThatProjectsOfLaterYearsNeed)
+{
+    machine.files.Put(kVbproj, "<Project Sdk=\"Microsoft.NET.Sdk\">\n</Project>\n");
+    EXPECT_EQ(
+        Run({{BoxKind::Critical, "Fel inträffade",
+              "Projektfilen är av det nyare slag som Visual Studio 2005 och senare skapar, "
+              "och anger inte vilka filer programmet behöver. Bygg eller publicera programmet "
+              "och använd i stället 'Importera programkatalog...' i menyn Arkiv (quillonc "
+              "import-folder) på den katalog där programmet hamnar."}})
+            .end,
+        ImportEnd::Refused);
+    EXPECT_THAT(Rows(), IsEmpty());
+}
+
+TEST_F(ImportVbNet, ReadsWhatADamagedFileStillHolds)
+{
+    PutAll(kSystem, {"grid.ocx"});
+    RegisterTypes("{A}\\1.0", kSystem + "\\grid.ocx");
+    machine.files.Put(kVbproj,
+                      std::string("\0\r\n", 3) + "<References>\r\n" + Reference("A", "1", "0"));
+    Run({{BoxKind::Critical, "Fel inträffade"}, kDone});
+    EXPECT_EQ(project.Files.rows.size(), 2U);
+}
+
+TEST_F(ImportVbNet, EndsWhereTheDestinationIsCancelled)
+{
+    PutAll("C:\\Proj\\bin", {"Other.dll"});
+    PutProject("");
+    user.destination.reset();
+    EXPECT_EQ(Run({}).end, ImportEnd::Cancelled);
+    EXPECT_THAT(Rows(), IsEmpty());
+}
+
+TEST_F(ImportVbNet, PassesOverLibrariesThatCannotBeRead)
+{
+    PutAll("C:\\Proj\\bin", {"shut.dll", "zopen.dll"});
+    machine.files.At("C:\\Proj\\bin\\shut.dll").unreadable = true;
+    PutProject("");
+    Run({{BoxKind::Critical, "Kan ej addera"}, kDone});
+    EXPECT_THAT(Rows(), ElementsAre("Kund.exe %DESTDIR\\Bin D", "zopen.dll %DESTDIR DA"));
+}
+
+TEST(ProgramFolderOf, IsBesideTheProject)
+{
+    EXPECT_EQ(ProgramFolderOf("C:\\Proj\\Kund.vbproj"), "C:\\Proj\\bin");
+    EXPECT_EQ(ProgramFolderOf("C:\\Kund.vbproj"), "C:\\bin");
+}
+
+} // namespace quillon::test

@@ -1,0 +1,84 @@
+#include "importers/vbnet_project.h"
+
+#include "importers/project_lines.h"
+#include "importers/vb_project.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::vector<Text> Lines(std::string_view text)
+{
+    return SplitProject(text, "C:\\a.vbproj").lines;
+}
+
+TEST(ComReferencesOf, FindsGuidAndBothVersions)
+{
+    const auto references =
+        ComReferencesOf(Lines("<VisualStudioProject>\r\n"
+                              "Guid = \"{11111111-0000-0000-0000-000000000000}\"\r\n"
+                              "  <References>\r\n"
+                              "    <Reference\r\n      Name = \"System\"\r\n"
+                              "      AssemblyName = \"System\"\r\n    />\r\n"
+                              "    <Reference\r\n      Name = \"MSComctlLib\"\r\n"
+                              "      Guid = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}\"\r\n"
+                              "      VersionMajor = \"2\"\r\n      VersionMinor = \"0\"\r\n"
+                              "      Lcid = \"0\"\r\n    />\r\n"
+                              "    <Reference\r\n"
+                              "      Guid = \"{0}\"\r\n      VersionMajor = \"1\"\r\n"
+                              "      VersionMinor = \"17\"\r\n"));
+    ASSERT_TRUE(references);
+    EXPECT_THAT(*references,
+                ElementsAre(ComReference{"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}", "2", "0"},
+                            ComReference{"{0}", "1", "17"}));
+}
+
+TEST(ComReferencesOf, TakesTheNextTwoLinesWhateverTheyHold)
+{
+    const auto references = ComReferencesOf(Lines("<References>\r\nGuid = \"{0}\"\r\n"
+                                                  "Guid = \"{1}\"\r\nLcid\r\nGuid = \"{2}\"\r\n"));
+    ASSERT_TRUE(references);
+    EXPECT_THAT(*references, ElementsAre(ComReference{"{0}", "{1}", ""}));
+}
+
+TEST(ComReferencesOf, TellsAFileWithoutAList)
+{
+    EXPECT_FALSE(ComReferencesOf(Lines("Guid = \"{0}\"\r\nVersionMajor = \"1\"\r\n")));
+    EXPECT_FALSE(ComReferencesOf({}));
+    EXPECT_THAT(*ComReferencesOf(Lines("<References>\r\n</References>\r\n")), IsEmpty());
+}
+
+TEST(ComReferencesOf, EndsWhereNoProjectHasMore)
+{
+    std::vector<Text> lines{"<References>"};
+    for (int i = 0; i < 5000; ++i)
+        lines.insert(lines.end(), {"Guid = \"{0}\"", "\"1\"", "\"0\""});
+    EXPECT_EQ(ComReferencesOf(lines)->size(), kMostReferences);
+}
+
+TEST(IncludedFileLines, StandBehindTheirHeading)
+{
+    EXPECT_THAT(IncludedFileLines(Lines("RelPath = \"before.vb\"\r\n<Include>\r\n"
+                                        "  <File\r\n    RelPath = \"Läs.vb\"\r\n    SubType\r\n"
+                                        "    RelPath = noquote.vb\r\n")),
+                ElementsAre("    RELPATH = \"LÄS.VB\""));
+    EXPECT_THAT(IncludedFileLines(Lines("RelPath = \"a.vb\"\r\n")), IsEmpty());
+}
+
+TEST(IsMsBuildProject, KnowsTheProjectsOfLaterYears)
+{
+    EXPECT_TRUE(IsMsBuildProject(Lines("<Project Sdk=\"Microsoft.NET.Sdk\">\n")));
+    EXPECT_TRUE(IsMsBuildProject(Lines("<?xml version=\"1.0\"?>\n<Project "
+                                       "ToolsVersion=\"4.0\" xmlns=\"http://x\">\n")));
+    EXPECT_TRUE(IsMsBuildProject(Lines("<Project>\n")));
+    EXPECT_TRUE(IsMsBuildProject(Lines("<Project\n  Sdk=\"Microsoft.NET.Sdk\">\n")));
+    EXPECT_FALSE(IsMsBuildProject(Lines("<VisualStudioProject>\n<VisualBasic\n")));
+    EXPECT_FALSE(IsMsBuildProject({}));
+}
+
+} // namespace
+} // namespace quillon::test
