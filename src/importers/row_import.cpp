@@ -116,10 +116,11 @@ std::optional<std::size_t> RowImport::FindProgram(const FileToAdd& program) cons
 bool RowImport::AddProgram(const Text& program, ImportEnd& end)
 {
     const Text name = ExtractFilename(program);
-    const auto destination = work_.user.ChooseProgramDestination(
-        {.destination = {DestinationQuestion::Place::User, "%DESTDIR"},
-         .caption = "Välj destinationskatalog för " + name,
-         .frameCaption = "Destinationskatalog"});
+    ImportUser::ProgramQuestion question;
+    question.destination.folder = "%DESTDIR";
+    question.caption = "Välj destinationskatalog för " + name;
+    question.frameCaption = "Destinationskatalog";
+    const auto destination = work_.user.ChooseProgramDestination(question);
     if (!destination) {
         end = ImportEnd::Cancelled;
         return false;
