@@ -1,7 +1,7 @@
 // How the work on a file list grows with its length. Four times the rows may take at most five
 // times as long.
-#include "filelist/add_file.h"
-#include "filelist/sort.h"
+#include "filelist/adding/add_file.h"
+#include "filelist/view/sort.h"
 #include "helpers/number_text.h"
 #include "support/one_file_host.h"
 

@@ -3,7 +3,7 @@
 // arrow key.
 #include "app/FileListView.h"
 #include "app/MainForm.h"
-#include "filelist/sort.h"
+#include "filelist/view/sort.h"
 #include "support/one_file_host.h"
 
 #include <QApplication>
@@ -114,11 +114,11 @@ BENCHMARK(SelectEverySecondRow)->Apply(WithRows);
 } // namespace
 } // namespace quillon::bench
 
-int main(int count, char** words)
+int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(count, words);
-    benchmark::Initialize(&count, words);
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -1,6 +1,6 @@
 // make_project FOLDER PROJECT.qnp: a project that installs everything in a folder of this machine,
 // for measuring what Create takes. Each file gets its row the way the user's commands make rows.
-#include "filelist/add_file.h"
+#include "filelist/adding/add_file.h"
 #include "helpers/windows_path.h"
 #include "platform/posix/posix_host.h"
 #include "project/new_project.h"
@@ -18,7 +18,7 @@ void AddFolder(FileAdding& adding, const FileSystem& files, const Text& folder,
 {
     for (const FolderEntry& entry : files.List(folder)) {
         const Text path = JoinPath(folder, entry.name);
-        if (entry.facts.isFolder)
+        if (entry.status.isFolder)
             AddFolder(adding, files, path, JoinPath(destination, entry.name));
         else
             adding.AddFileToFileList({.FileName = entry.name,

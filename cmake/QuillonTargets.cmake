@@ -1,6 +1,7 @@
 # One static library for each folder below src/, its sources being whatever lies in the folder, so
 # that a new file needs no change here.
 find_package(Threads REQUIRED)
+include(UnityBuild)
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -38,15 +39,18 @@ if(QUILLON_FUZZ)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# quillon_library(<folder> [linked libraries...])
+# quillon_library(<folder> [linked libraries...]): with the folders below it that are no library of their
+# own. That of a/b is called quillon_a_b.
 function(quillon_library folder)
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
-       ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
+  set(here ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+  file(GLOB sources CONFIGURE_DEPENDS ${here}/*.cpp ${here}/*.h ${here}/*/*.cpp ${here}/*/*.h)
+  list(FILTER sources EXCLUDE REGEX "^${here}/(forms|posix|win32|writer)/")
   if(WIN32)
-    file(GLOB system CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/win32/*.cpp)
+    file(GLOB system CONFIGURE_DEPENDS ${here}/win32/*.cpp)
   else()
-    file(GLOB system CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/posix/*.cpp)
+    file(GLOB system CONFIGURE_DEPENDS ${here}/posix/*.cpp)
   endif()
+  string(REPLACE "/" "_" folder ${folder})
   if(NOT sources MATCHES "[.]cpp" AND NOT system)
     add_library(quillon_${folder} INTERFACE)
     target_link_libraries(quillon_${folder} INTERFACE quillon_options ${ARGN})
@@ -54,6 +58,7 @@ function(quillon_library folder)
   endif()
   add_library(quillon_${folder} STATIC ${sources} ${system})
   target_link_libraries(quillon_${folder} PUBLIC quillon_options ${ARGN})
+  quillon_unity(quillon_${folder})
 endfunction()
 
 # quillon_test(<folder> [linked libraries...]): one fat test program for each folder of tests/.
@@ -66,12 +71,13 @@ function(quillon_test folder)
   add_executable(${folder}_test ${sources})
   target_link_libraries(${folder}_test PRIVATE quillon_test_support ${ARGN})
   target_precompile_headers(${folder}_test REUSE_FROM quillon_test_support)
+  quillon_unity(${folder}_test)
   add_test(NAME ${folder} COMMAND ${folder}_test)
 endfunction()
 
 # quillon_window_test(<folder> [linked libraries...]): the same for tests that drive windows.
 function(quillon_window_test folder)
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
   add_executable(${folder}_test ${sources} support/window_main.cpp support/window_test.cpp
                  support/window_looks.cpp)
@@ -83,6 +89,7 @@ function(quillon_window_test folder)
     target_precompile_headers(${folder}_test PRIVATE <QtWidgets/QtWidgets> <QtTest/QTest>
                               <gtest/gtest.h>)
   endif()
+  quillon_unity(${folder}_test)
   add_test(NAME ${folder} COMMAND ${folder}_test)
   if(NOT QUILLON_SANITIZE)
     # Once more on a screen of twice the points, whose pictures end in "@2x".

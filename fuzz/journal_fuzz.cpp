@@ -1,9 +1,9 @@
 // Install logs and journals of transactions of any content: what is read comes back from its own
 // line, and no record has a key of the system's own removed.
-#include "runtime/install_log.h"
+#include "runtime/install_journal.h"
 #include "runtime/journal_table.h"
 #include "runtime/registry_lines.h"
-#include "runtime/transaction.h"
+#include "runtime/transaction_journal.h"
 
 #include <cstdlib>
 
@@ -27,7 +27,7 @@ void Check(const std::vector<JournalRecord>& records)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     const std::string_view file(reinterpret_cast<const char*>(bytes), size);
-    for (const auto& records : {ReadInstallLog(file), ReadJournal(file, kTransactionJournal)})
+    for (const auto& records : {ReadInstallJournal(file), ReadJournal(file, kTransactionJournal)})
         if (records)
             Check(*records);
     return 0;

@@ -16,7 +16,7 @@ void Require(bool holds)
         std::abort();
 }
 
-constexpr std::int64_t kMostScaled = 50'000;
+constexpr std::int64_t kMaxScaled = 50'000;
 
 void RequirePixels(const Picture& picture, int width, int height)
 {
@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     // Scaling many pixels takes the sanitizers seconds, and is the same as scaling few.
     const bool isDrawn =
         PictureFormatOf({reinterpret_cast<const char*>(bytes), size}) == PictureFormat::Metafile;
-    if (!isDrawn && std::int64_t{result.picture.Width()} * result.picture.Height() > kMostScaled)
+    if (!isDrawn && std::int64_t{result.picture.Width()} * result.picture.Height() > kMaxScaled)
         return 0;
     test::BlockLetters letters;
     RequirePixels(result.picture.InSize(48, 32, letters), 48, 32);

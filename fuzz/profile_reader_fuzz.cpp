@@ -1,7 +1,7 @@
 // Profile files of any content: no text is longer than its limit, no number larger than its type,
 // and a value that is written is the value that is read.
-#include "project/profile_reader.h"
-#include "project/profile_writer.h"
+#include "ini/profile_reader.h"
+#include "ini/profile_writer.h"
 
 #include "helpers/ansi_text.h"
 #include "support/one_file_host.h"

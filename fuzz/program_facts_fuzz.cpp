@@ -31,10 +31,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         std::memcpy(buffer.data(), bytes + position, count);
         return count;
     };
-    if (const auto facts = ReadProgramFacts(read)) {
-        RequireNames(facts->imports);
-        RequireNames(facts->delayedImports);
-        DotNetNeedText(NeedOfProgram(*facts));
+    if (const auto status = ReadProgramFacts(read)) {
+        RequireNames(status->imports);
+        RequireNames(status->delayedImports);
+        DotNetNeedText(NeedOfProgram(*status));
     }
     // A run-time configuration is as foreign as the program beside it.
     DotNetNeedText(NeedOfRuntimeConfig({reinterpret_cast<const char*>(bytes), size}));

@@ -109,7 +109,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     // Nothing came in then; what becomes of a new project is no news.
     if (end == ReadEnd::Refused)
         return 0;
-    Require(project.Files.rows.size() <= kMostRows);
+    Require(project.Files.rows.size() <= kMaxRows);
     Require(end != ReadEnd::Whole || project.Files.rows.size() == RowsOnFile(original));
 
     // Of a row that the file cuts, the size's decimal sign is not looked at before it is whole.

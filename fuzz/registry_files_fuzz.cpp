@@ -9,7 +9,7 @@ using namespace quillon;
 namespace {
 
 constexpr auto kRoot = RegistryRoot::LocalMachine;
-constexpr std::string_view kUtf16Mark = "\xFF\xFE";
+constexpr std::string_view kUtf16Bom = "\xFF\xFE";
 
 void Require(bool holds)
 {
@@ -19,7 +19,7 @@ void Require(bool holds)
 
 bool IsUtf16(std::string_view bytes)
 {
-    return bytes.starts_with(kUtf16Mark);
+    return bytes.starts_with(kUtf16Bom);
 }
 
 // The lines behind the bytes, in their encoding.

@@ -11,8 +11,8 @@ using namespace quillon;
 
 namespace {
 
-constexpr std::size_t kMostNames = 40;
-constexpr std::size_t kLongestText = 200; // the plain comparison below takes the product of two
+constexpr std::size_t kMaxNames = 40;
+constexpr std::size_t kMaxTextLength = 200; // the plain comparison below takes the product of two
 
 void Require(bool holds)
 {
@@ -35,11 +35,11 @@ Input InputOf(std::string_view bytes)
         bytes.remove_prefix(std::min(line.size() + 1, bytes.size()));
         if (isName && line.empty())
             isName = false;
-        else if (isName && input.list.rows.size() < kMostNames)
+        else if (isName && input.list.rows.size() < kMaxNames)
             input.list.rows.emplace_back()[Filename] =
-                AnsiText::FromBytes(line.substr(0, kLongestText));
+                AnsiText::FromBytes(line.substr(0, kMaxTextLength));
         else if (!isName)
-            input.patterns.push_back(line.substr(0, kLongestText));
+            input.patterns.push_back(line.substr(0, kMaxTextLength));
     }
     return input;
 }

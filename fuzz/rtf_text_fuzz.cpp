@@ -1,7 +1,7 @@
 // Formatted text of any content: what comes out is well formed, within its limits, and no larger
 // than the file could make it.
-#include "formats/rtf_text.h"
 #include "helpers/utf8.h"
+#include "rtf/rtf_text.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const auto text = ReadRtf({reinterpret_cast<const char*>(bytes), size});
     if (!text)
         return 0;
-    Require(text->paragraphs.size() <= kMostRtfLines + 1);
+    Require(text->paragraphs.size() <= kMaxRtfLines + 1);
     for (const RtfFont& font : text->fonts)
         Require(IsUtf8(font.name));
     std::size_t length = 0;
@@ -43,8 +43,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
             length += run.text.size();
             ++runs;
         }
-    Require(runs <= kMostRtfRuns && runs <= size);
+    Require(runs <= kMaxRtfRuns && runs <= size);
     // A word of five letters, "\zwnj" with its blank, is what gives most text for least room.
-    Require(length <= 4 * size && length <= kLongestRtfText + 4);
+    Require(length <= 4 * size && length <= kMaxRtfTextSize + 4);
     return 0;
 }

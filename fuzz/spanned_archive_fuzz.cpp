@@ -1,7 +1,7 @@
 // The container of several disks, cut anywhere and with any content: the first bytes tell where it
 // is cut. The pieces joined are read as the whole is, in whatever steps.
-#include "formats/joined_input.h"
-#include "formats/zip_reader.h"
+#include "archive/joined_input.h"
+#include "archive/zip_reader.h"
 
 #include "support/one_file_host.h"
 
@@ -48,20 +48,20 @@ std::unique_ptr<InputFile> Joined(const std::vector<std::string>& pieces)
 /// What there is to say of an archive: its entries, and what each of them gives.
 std::string Told(std::unique_ptr<InputFile> file)
 {
-    std::string told;
+    std::string outcome;
     try {
         ZipReader reader(std::move(file));
         for (const ZipEntry& entry : reader.Entries()) {
-            told += entry.name + "|" + entry.comment + "|" + std::to_string(entry.size) + "\n";
+            outcome += entry.name + "|" + entry.comment + "|" + std::to_string(entry.size) + "\n";
             if (!entry.isEncrypted)
                 reader.Extract(entry, {}, [&](std::span<const std::byte> bytes) {
-                    told.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+                    outcome.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
                 });
         }
     } catch (const ZipError& error) {
-        told += error.what();
+        outcome += error.what();
     }
-    return told;
+    return outcome;
 }
 
 } // namespace

@@ -33,10 +33,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     // The system hands a command line over up to its first NUL.
     const Text line = Text(reinterpret_cast<const char*>(bytes), size).c_str();
     const Switches switches = ReadSwitches(line);
-    Require(switches.silent == AsksForSilence(std::wstring(line.begin(), line.end()).c_str()));
+    Require(switches.silent == HasSilentSwitch(std::wstring(line.begin(), line.end()).c_str()));
     Require(!switches.badSwitch || line.find(*switches.badSwitch) != Text::npos);
     Require(switches.badSwitch || switches.destination.empty() ||
-            IsWholePath(switches.destination));
+            IsAbsolutePath(switches.destination));
 
     const UninstallerCommand command = ReadUninstallerCommand(line);
     Require(command.logPath.empty() || command.logPath[0] != '/');

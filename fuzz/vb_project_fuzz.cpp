@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const ProjectLines project =
         SplitProject({reinterpret_cast<const char*>(bytes), size}, "C:\\a.vbp");
     for (const Text& line : project.lines) {
-        if (line.size() > kLongestProjectLine ||
+        if (line.size() > kMaxProjectLineLength ||
             line.find_first_of(std::string_view("\r\n\0", 3)) != Text::npos)
             std::abort();
         if (const auto name = ActiveXFileIn(line);
@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         if (const auto module = ModuleIn(line); module && module->file.find('\\') != Text::npos)
             std::abort();
     }
-    if (ActiveXFilesOf(project.lines).size() > kMostReferences)
+    if (ActiveXFilesOf(project.lines).size() > kMaxReferences)
         std::abort();
     return 0;
 }

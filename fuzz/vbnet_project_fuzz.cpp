@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const ProjectLines project =
         SplitProject({reinterpret_cast<const char*>(bytes), size}, "C:\\a.vbproj");
     if (const auto references = ComReferencesOf(project.lines)) {
-        if (references->size() > kMostReferences)
+        if (references->size() > kMaxReferences)
             std::abort();
         for (const ComReference& reference : *references)
             if (!reference.guid.starts_with('{') || !reference.guid.ends_with('}'))

@@ -1,6 +1,6 @@
 // Containers of any content: reading comes to an end, the entries share no bytes of the file, and
 // none gives more than its size.
-#include "formats/zip_reader.h"
+#include "archive/zip_reader.h"
 
 #include "support/one_file_host.h"
 

@@ -11,8 +11,8 @@ namespace quillon {
 
 namespace {
 
-/// The head of a file, set off from the lines before it by an empty one.
-Text Head(std::string_view list, const Text& name)
+/// The header of a file, set off from the lines before it by an empty one.
+Text Header(std::string_view list, const Text& name)
 {
     return Text(list.empty() ? "" : "\r\n\r\n") + "-- " + name + " --";
 }
@@ -24,7 +24,7 @@ bool ReadAsFarAsPossible(const FileSystem& files, const Text& path, std::string&
                const auto file = files.OpenInput(path);
                std::array<char, 4096> buffer;
                // What is longer than the list can be is not read to its end.
-               while (bytes.size() <= kLongestIniList) {
+               while (bytes.size() <= kMaxIniListLength) {
                    const std::size_t read = file->Read(std::as_writable_bytes(std::span(buffer)));
                    if (read == 0)
                        return;
@@ -55,10 +55,11 @@ std::string LinesOf(std::string_view bytes, bool isWhole)
 
 bool HasRoomInIniList(std::string_view list, std::string_view added, Ask& ask)
 {
-    if (CharacterCount(list) + CharacterCount(added) <= kLongestIniList)
+    if (CharacterCount(list) + CharacterCount(added) <= kMaxIniListLength)
         return true;
     ask.Critical("Fel", "Listan över INI-filer kan innehålla högst " +
-                            std::to_string(kLongestIniList) + " tecken! Ingenting har lagts till.");
+                            std::to_string(kMaxIniListLength) +
+                            " tecken! Ingenting har lagts till.");
     return false;
 }
 
@@ -68,7 +69,7 @@ Text IniFileToAppend(std::string_view list, std::string_view fileName)
     // Kept: the extension may stand anywhere in the name.
     if (name.find(".INI") == Text::npos)
         name += ".INI";
-    return Head(list, name);
+    return Header(list, name);
 }
 
 Text IniSectionToAppend(std::string_view list, std::string_view section)
@@ -107,7 +108,7 @@ Text OpenINIFileIntoList(std::string_view list, const FileSystem& files, Ask& as
         bytes.clear();
         isWhole = false;
     }
-    const Text added = Head(list, name) + AnsiText::FromBytes(LinesOf(bytes, isWhole));
+    const Text added = Header(list, name) + AnsiText::FromBytes(LinesOf(bytes, isWhole));
     if (!HasRoomInIniList(list, added, ask))
         return {};
     if (!isWhole)

@@ -10,7 +10,7 @@
 namespace quillon {
 
 /// The longest list that the project file holds, in bytes on file.
-inline constexpr int kLongestIniList = 32767;
+inline constexpr int kMaxIniListLength = 32767;
 
 /// Whether so much more can stand at the end of the list; where not, a box says so.
 bool HasRoomInIniList(std::string_view list, std::string_view added, Ask& ask);
@@ -19,7 +19,7 @@ bool HasRoomInIniList(std::string_view list, std::string_view added, Ask& ask);
 Text IniFileToAppend(std::string_view list, std::string_view fileName);
 /// The same for a section. The next line begins behind it.
 Text IniSectionToAppend(std::string_view list, std::string_view section);
-/// The same for a value, on a line of its own: the last line of a list has no end behind the head
+/// The same for a value, on a line of its own: the last line of a list has no end behind the header
 /// of a file, behind a file that was taken in, and when the project has been opened.
 Text IniValueToAppend(std::string_view list, std::string_view name, std::string_view value);
 

@@ -1,6 +1,6 @@
 #include "actions/install_password.h"
 
-#include "project/profile_lines.h"
+#include "ini/profile_lines.h"
 
 namespace quillon {
 

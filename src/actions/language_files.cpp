@@ -38,12 +38,12 @@ bool CanBeFileName(const Text& name)
 
 bool IsLanguageFile(const FolderEntry& entry)
 {
-    return !entry.facts.isFolder && UpperCase(entry.name).ends_with(kExtension);
+    return !entry.status.isFolder && UpperCase(entry.name).ends_with(kExtension);
 }
 
 /// Does the work; false, and tells what failed, where it could not be done.
 template <class Work>
-bool DidOrTold(Work work, const Text& path, Ask& ask)
+bool TryOrReport(Work work, const Text& path, Ask& ask)
 {
     std::optional<RunError> failure;
     if (RunErrorNumber(work, failure) == ErrorNumber::kNone)
@@ -67,7 +67,7 @@ std::vector<Text> LanguageFilesIn(const FileSystem& files, const Text& folder, A
             if (IsLanguageFile(entry))
                 names.push_back(entry.name);
     };
-    if (!DidOrTold(list, folder, ask))
+    if (!TryOrReport(list, folder, ask))
         names.clear();
     return names;
 }
@@ -142,13 +142,13 @@ std::optional<Text> AddLanguage(const Host& host, const LanguageFolders& folders
         host.files.DirCreate(folders.added);
         host.files.CopyContent(reference, copy);
     };
-    return DidOrTold(make, copy, ask) ? std::optional(name) : std::nullopt;
+    return TryOrReport(make, copy, ask) ? std::optional(name) : std::nullopt;
 }
 
 void EditLanguage(const Host& host, const LanguageFolders& folders, const Text& name, Ask& ask)
 {
     const Text path = LanguagePath(host.files, folders, name);
-    DidOrTold([&] { host.machine.EditTextFile(path); }, path, ask);
+    TryOrReport([&] { host.machine.EditTextFile(path); }, path, ask);
 }
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 #include "actions/preview_page.h"
 
-#include "filelist/totals.h"
 #include "filelist/variables.h"
+#include "filelist/view/totals.h"
 #include "formats/variable_names.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -144,11 +144,11 @@ Text SizeText(std::uint64_t kilobytes, char decimalSign)
 {
     constexpr std::uint64_t kStep = 1024;
     // From here on nobody counts in the smaller unit.
-    constexpr std::uint64_t kMost = 10'000;
+    constexpr std::uint64_t kMax = 10'000;
     constexpr const char* kUnits[] = {" kB", " MB", " GB"};
     double size = static_cast<double>(kilobytes);
     std::size_t unit = 0;
-    for (; size >= static_cast<double>(kMost) && unit + 1 < std::size(kUnits); ++unit)
+    for (; size >= static_cast<double>(kMax) && unit + 1 < std::size(kUnits); ++unit)
         size /= static_cast<double>(kStep);
     const Text number = FormatNumber(size, unit == 0 ? "## ##0" : "## ##0.0", decimalSign);
     return TrimBlanks(number) + kUnits[unit];

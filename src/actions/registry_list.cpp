@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kSoftware = "\\SOFTWARE\\";
 constexpr std::string_view kValueMark = " :: ";
-constexpr std::size_t kLongestNumber = 18; // digits that surely fit in 64 bits
+constexpr std::size_t kMaxNumberLength = 18; // digits that surely fit in 64 bits
 
 constexpr const char* kNoSubKey = "Ingen subnyckel har definierats!";
 constexpr const char* kNoNumber =
@@ -104,7 +104,7 @@ bool IsRegistryNumber(std::string_view data)
         return false;
     const std::string_view figures =
         digits.substr(std::min(digits.find_first_not_of('0'), digits.size()));
-    if (figures.size() > kLongestNumber)
+    if (figures.size() > kMaxNumberLength)
         return false;
     const std::int64_t size = LeadingNumber(figures);
     const std::int64_t number = data.front() == '-' ? -size : size;

@@ -1,8 +1,8 @@
 #include "actions/unsavable_line.h"
 
 #include "helpers/product.h"
+#include "ini/profile_lines.h"
 #include "project/list_sections.h"
-#include "project/profile_lines.h"
 
 #include <array>
 
@@ -27,13 +27,13 @@ constexpr std::array<ListName, std::size(kListSections)> kNames{{
 }};
 
 // A section between or behind the lists, found by its first header in any case of letters.
-struct LaterSection {
+struct UnsupportedSection {
     const char* name;
     ListField firstListBehind; // null where none is
     const char* hit;
 };
 
-constexpr LaterSection kLaterSections[] = {
+constexpr UnsupportedSection kUnsupportedSections[] = {
     // The file lacks it where there is no such program.
     {"RunAppSelfX",    nullptr,                            "Program i den självuppackande installationen"},
     {"Configuration",  &section::Lists::Registry,          "Registry, INI-filer, AUTOEXEC.BAT och CONFIG.SYS"},
@@ -73,7 +73,7 @@ const char* SectionHitBy(std::string_view line, ListField list)
     const auto name = SectionNameOfLine(line);
     if (!name)
         return nullptr;
-    for (const LaterSection& section : kLaterSections) {
+    for (const UnsupportedSection& section : kUnsupportedSections) {
         const bool isBehind =
             !section.firstListBehind || PlaceOf(list) < PlaceOf(section.firstListBehind);
         if (isBehind && FoldedName(*name) == FoldedName(section.name))

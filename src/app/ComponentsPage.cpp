@@ -19,7 +19,7 @@ ComponentsPage::ComponentsPage(Session& session, std::function<void()> showCompo
     grid->addWidget(new QLabel("Komponentens destinationskatalog"), 0, 3);
     for (std::size_t component = 0; component < kComponentCount; ++component)
         MakeRow(component, *grid);
-    Arrange(this, Down({Frame("Komponenter", {grid}), Stretch()}));
+    Arrange(this, VBox({Frame("Komponenter", {grid}), Stretch()}));
     ShowBackgrounds();
 }
 

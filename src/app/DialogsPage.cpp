@@ -1,14 +1,14 @@
 #include "app/DialogsPage.h"
 
 #include "actions/dialog_bitmap.h"
-#include "actions/forms/DlgDestDirDlg.h"
-#include "actions/forms/DlgDestDriveDlg.h"
-#include "actions/forms/DlgGeneral.h"
-#include "actions/forms/DlgLicenseInfo.h"
-#include "actions/forms/DlgLicenseInfoRtf.h"
-#include "actions/forms/DlgNameCompany.h"
-#include "actions/forms/DlgPassword.h"
-#include "actions/forms/PictureChoice.h"
+#include "actions/forms/pages/DlgDestDirDlg.h"
+#include "actions/forms/pages/DlgDestDriveDlg.h"
+#include "actions/forms/pages/DlgGeneral.h"
+#include "actions/forms/pages/DlgLicenseInfo.h"
+#include "actions/forms/pages/DlgLicenseInfoRtf.h"
+#include "actions/forms/pages/DlgNameCompany.h"
+#include "actions/forms/pages/DlgPassword.h"
+#include "actions/forms/pages/PictureChoice.h"
 
 #include <QtWidgets>
 
@@ -67,7 +67,7 @@ DialogsPage::DialogsPage(Session& session) : session_(session)
         UseDlgBitmap(session_.project, path);
         session_.state.ProjectIsDirty = kOn;
     });
-    Arrange(this, Across({TicksFrame(), Growing(picture_)}));
+    Arrange(this, HBox({TicksFrame(), Growing(picture_)}));
 }
 
 QGroupBox* DialogsPage::TicksFrame()

@@ -2,7 +2,7 @@
 // changes them calls `ShowRows`.
 #pragma once
 
-#include "filelist/columns.h"
+#include "filelist/view/columns.h"
 
 #include <QAbstractTableModel>
 

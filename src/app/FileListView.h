@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/FileListModel.h"
-#include "filelist/column_widths.h"
+#include "filelist/view/column_widths.h"
 #include "project/records.h"
 #include "shell/settings.h"
 

@@ -15,7 +15,7 @@ FilesPage::FilesPage(Session& session, HostPaths paths)
 {
     setObjectName("FilesPage");
     setAcceptDrops(true);
-    Arrange(this, Down({header_, Growing(list_)}));
+    Arrange(this, VBox({header_, Growing(list_)}));
 }
 
 void FilesPage::ShowSession()

@@ -12,16 +12,16 @@ namespace quillon {
 IniFilesPage::IniFilesPage(Session& session) : session_(session)
 {
     setObjectName("IniFilesPage");
-    EditListInPlace(NAMED(editINIList), session, session.project.Lists.INIFiles, kLongestIniList);
+    EditListInPlace(NAMED(editINIList), session, session.project.Lists.INIFiles, kMaxIniListLength);
     Arrange(
         this,
-        Across({Growing(Above("INI-filer, sektioner o&ch värden:", editINIList)),
-                Down({Button(NAMED(cmdNewINIfile), "&Ny INI-fil...", [this] { AddFile(); }),
-                      Button(NAMED(cmdAddINIsection), "Lägg till s&ektion...",
-                             [this] { AddSection(); }),
-                      Button(NAMED(cmdAddINIvalue), "Lägg till &värde...", [this] { AddValue(); }),
-                      Button(NAMED(cmdVariables2), "Varia&bler...", [this] { AddVariable(); }),
-                      Stretch()})}));
+        HBox({Growing(Above("INI-filer, sektioner o&ch värden:", editINIList)),
+              VBox({Button(NAMED(cmdNewINIfile), "&Ny INI-fil...", [this] { AddFile(); }),
+                    Button(NAMED(cmdAddINIsection), "Lägg till s&ektion...",
+                           [this] { AddSection(); }),
+                    Button(NAMED(cmdAddINIvalue), "Lägg till &värde...", [this] { AddValue(); }),
+                    Button(NAMED(cmdVariables2), "Varia&bler...", [this] { AddVariable(); }),
+                    Stretch()})}));
 }
 
 void IniFilesPage::ShowSession()

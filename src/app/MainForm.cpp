@@ -17,7 +17,7 @@
 #include "app/tab_pictures.h"
 #include "app/window_place.h"
 #include "filelist/forms/list_commands.h"
-#include "filelist/status_text.h"
+#include "filelist/view/status_text.h"
 #include "helpers/product.h"
 #include "shell/failure_text.h"
 #include "shell/project_commands.h"

@@ -18,7 +18,7 @@ RegistryPage::RegistryPage(Session& session) : session_(session)
     EditListInPlace(NAMED(editRegistryList), session, session.project.Lists.Registry, 0);
     Named(NAMED(sRegistryWarning), Note({}));
     connect(editRegistryList, &QPlainTextEdit::textChanged, this, [this] { ShowWarning(); });
-    Arrange(this, Down({Growing(Across({
+    Arrange(this, VBox({Growing(HBox({
                             Growing(Above("Nycklar och värden i Re&gistry:", editRegistryList)),
                             Buttons(),
                         })),
@@ -27,7 +27,7 @@ RegistryPage::RegistryPage(Session& session) : session_(session)
 
 Piece RegistryPage::Buttons()
 {
-    return Down(
+    return VBox(
         {Button(NAMED(cmdAddRegistryKey), "Lägg &till...", [this] { AddLine<DlgAddRegKey>(); }),
          Button(NAMED(cmdDeleteRegistryKey), "Radera vid &installation...",
                 [this] { AddLine<DlgDeleteRegKey>(); }),

@@ -14,7 +14,7 @@ void PrepareAppearance(QApplication& application)
 {
     InstallSwedishTexts(application);
     ApplyColourScheme();
-    ShowCutTextsAsTips(application);
+    ShowElidedTextsAsToolTips(application);
     OpenMenusByShiftF10(application);
     QApplication::setWindowIcon(NamedIcon("quillon"));
 }

@@ -46,7 +46,7 @@ QString Bevel(const QColor& upper, const QColor& lower)
 }
 
 // The colours that all looks mix theirs from.
-struct Ground {
+struct BaseColours {
     QColor window;
     QColor base;
     QColor text;
@@ -55,7 +55,7 @@ struct Ground {
     QColor shade;
 };
 
-Ground GroundOf(const QPalette& palette)
+BaseColours BaseColoursOf(const QPalette& palette)
 {
     const QColor window = palette.color(QPalette::Active, QPalette::Window);
     const bool dark = IsDark(palette);
@@ -68,7 +68,7 @@ Ground GroundOf(const QPalette& palette)
 }
 
 // Soft and round.
-Look WindowsXpLook(const Ground& g)
+Look WindowsXpLook(const BaseColours& g)
 {
     return {.bar = Solid(Mixed(g.window, g.light, 0.3)),
             .barEdge = Line(Mixed(g.window, g.shade, 0.4)),
@@ -82,7 +82,7 @@ Look WindowsXpLook(const Ground& g)
 }
 
 // Flat until the pointer comes, then raised; sunken when pressed.
-Look Office2000Look(const Ground& g)
+Look Office2000Look(const BaseColours& g)
 {
     return {.bar = Solid(g.window),
             .barEdge = Bevel(g.light, g.shade),
@@ -95,7 +95,7 @@ Look Office2000Look(const Ground& g)
 }
 
 // Flat, with an outline in the accent.
-Look OfficeXpLook(const Ground& g)
+Look OfficeXpLook(const BaseColours& g)
 {
     return {.bar = Solid(Mixed(g.window, g.text, 0.04)),
             .barEdge = Line(Mixed(g.window, g.text, 0.04)),
@@ -108,7 +108,7 @@ Look OfficeXpLook(const Ground& g)
 }
 
 // Bars that fall from light to the accent, warm under the pointer.
-Look Office2003Look(const Ground& g)
+Look Office2003Look(const BaseColours& g)
 {
     const QColor amber(0xff, 0xb0, 0x40);
     const QColor tinted = Mixed(g.window, g.accent, 0.3);
@@ -123,17 +123,17 @@ Look Office2003Look(const Ground& g)
             .radius = "0.15em"};
 }
 
-Look LookOf(BarsStyle style, const Ground& ground)
+Look LookOf(BarsStyle style, const BaseColours& base)
 {
     switch (style) {
     case BarsStyle::WindowsXP:
-        return WindowsXpLook(ground);
+        return WindowsXpLook(base);
     case BarsStyle::Office2000:
-        return Office2000Look(ground);
+        return Office2000Look(base);
     case BarsStyle::OfficeXP:
-        return OfficeXpLook(ground);
+        return OfficeXpLook(base);
     default:
-        return Office2003Look(ground);
+        return Office2003Look(base);
     }
 }
 
@@ -200,15 +200,15 @@ private:
 
 QString BarsStyleSheet(BarsStyle style, const QPalette& palette)
 {
-    const Ground ground = GroundOf(palette);
-    const Look look = LookOf(style, ground);
-    const QString off = Mixed(ground.window, ground.text, 0.5).name();
-    const QString between = Mixed(ground.window, ground.text, 0.22).name();
+    const BaseColours base = BaseColoursOf(palette);
+    const Look look = LookOf(style, base);
+    const QString off = Mixed(base.window, base.text, 0.5).name();
+    const QString between = Mixed(base.window, base.text, 0.22).name();
     QString sheet = kSheet;
     // Behind to front, since "%1" is a part of "%12".
-    const QString parts[] = {ground.text.name(), off,          between,          look.bar,
-                             look.barEdge,       look.menu,    look.menuEdge,    look.hover,
-                             look.hoverEdge,     look.pressed, look.pressedEdge, look.radius};
+    const QString parts[] = {base.text.name(), off,          between,          look.bar,
+                             look.barEdge,     look.menu,    look.menuEdge,    look.hover,
+                             look.hoverEdge,   look.pressed, look.pressedEdge, look.radius};
     for (int i = static_cast<int>(std::size(parts)); i >= 1; --i)
         sheet.replace('%' + QString::number(i), parts[i - 1]);
     return sheet;

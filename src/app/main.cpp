@@ -36,12 +36,12 @@ void TellComplaints(const std::vector<Text>& complaints, Ask& ask)
 
 } // namespace
 
-int main(int count, char** words)
+int main(int argc, char** argv)
 {
-    TellOfSignals();
+    InstallSignalHandlers();
     // Qt sees the program's name alone: a project may be called like one of its switches.
     int one = 1;
-    QApplication application(one, words);
+    QApplication application(one, argv);
     // No display name, which Qt would put behind the title of every window.
     QApplication::setApplicationName("quillon");
     PrepareAppearance(application);
@@ -49,7 +49,7 @@ int main(int count, char** words)
     PosixHost machine;
     const HostPaths paths = PathsOf(machine);
     const auto project =
-        ProjectOfCommandLine({words + 1, static_cast<std::size_t>(std::max(count, 1) - 1)}, paths);
+        ProjectOfCommandLine({argv + 1, static_cast<std::size_t>(std::max(argc, 1) - 1)}, paths);
     if (!project)
         machine.complaints.push_back("Projektets namn på kommandoraden går ej att använda.");
     // Behind the command line, whose path may be a relative one.

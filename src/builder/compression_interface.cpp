@@ -1,11 +1,11 @@
 #include "builder/compression_interface.h"
 
+#include "archive/writer/spanned_archive.h"
+#include "archive/writer/zip_writer.h"
 #include "builder/compression_log.h"
-#include "builder/copy_alive.h"
 #include "builder/progress_display.h"
-#include "builder/spanned_archive.h"
+#include "builder/responsive_copy.h"
 #include "builder/temporary_file.h"
-#include "builder/zip_writer.h"
 #include "formats/container_names.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -18,7 +18,7 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t kLongestComment = 0xFFFF;
+constexpr std::size_t kMaxCommentLength = 0xFFFF;
 
 /// What is the same for two spellings of one path.
 Text PathKey(const Text& path)
@@ -72,7 +72,7 @@ void CompressionInterface::State::Add(const Text& path, const Text& row)
     const auto [found, isNew] = itemOfPath.try_emplace(PathKey(path), items.size());
     if (!isNew) {
         Text& rows = items[found->second].rows;
-        if (rows.size() + 1 + row.size() <= kLongestComment) {
+        if (rows.size() + 1 + row.size() <= kMaxCommentLength) {
             if (!row.empty())
                 rows.append(rows.empty() ? "" : " ").append(row);
             return;
@@ -144,7 +144,7 @@ void CompressionInterface::State::Pack(const Order& order, OutputFile& unfinishe
     const ZipWatch watch{
         .onEntry = [&](const ZipEntryReport& entry) { log.AddEntry(entry); },
         .onProgress = [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); },
-        .onYield = [&] { ask.YieldToEvents(); }};
+        .onYield = [&] { ask.ProcessEvents(); }};
     WriteZip(host.files, Sources(order), unfinished,
              {.deflate = deflates, .password = order.password}, watch);
     unfinished.Close();
@@ -160,7 +160,7 @@ void CompressionInterface::State::Deliver(const Order& order, const Text& finish
     const Spanning spanning = CutOntoDisks(host.files, finished, order.target, disks,
                                            [&](std::uint64_t done, std::uint64_t total) {
                                                progress.Show(done, total);
-                                               ask.YieldToEvents();
+                                               ask.ProcessEvents();
                                            });
     disksUsed = spanning.disksUsed;
     pieceDigests = spanning.digests;
@@ -179,7 +179,7 @@ void CompressionInterface::State::MoveIntoPlace(const Text& finished, const Text
     if (RunErrorNumber([&] { files.Rename(finished, target); }) == ErrorNumber::kNone)
         return;
     try {
-        CopyAlive(files, ask, finished, target);
+        CopyResponsively(files, ask, finished, target);
     } catch (const RunError&) {
         RunErrorNumber([&] {
             if (files.FileExists(target))

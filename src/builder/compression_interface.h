@@ -2,7 +2,7 @@
 // of them. Results are numbers, because the status list tells them by number.
 #pragma once
 
-#include "builder/compression_result.h"
+#include "archive/writer/compression_result.h"
 #include "helpers/number_text.h"
 #include "helpers/sha256.h"
 #include "helpers/text.h"

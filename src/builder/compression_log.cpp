@@ -9,11 +9,11 @@ namespace quillon {
 
 namespace {
 
-constexpr std::uint64_t kLargestKept = 1024 * 1024;
+constexpr std::uint64_t kMaxKeptSize = 1024 * 1024;
 
 std::string EarlierLog(const FileSystem& files, const Text& path)
 {
-    if (!files.FileExists(path) || files.Facts(path).size > kLargestKept)
+    if (!files.FileExists(path) || files.Status(path).size > kMaxKeptSize)
         return {};
     return ReadWholeFile(files, path);
 }

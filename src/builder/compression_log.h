@@ -2,7 +2,7 @@
 // the result.
 #pragma once
 
-#include "builder/zip_writer.h"
+#include "archive/writer/zip_writer.h"
 #include "helpers/number_text.h"
 #include "platform/host.h"
 

@@ -11,7 +11,7 @@
 #include "builder/remove_quietly.h"
 #include "builder/runtime_files.h"
 #include "builder/setup_info_file.h"
-#include "filelist/sort.h"
+#include "filelist/view/sort.h"
 #include "helpers/windows_path.h"
 
 #include <algorithm>
@@ -76,7 +76,7 @@ Step SortLongList(CreateRun& run)
 bool HoldsAnyFile(const FileSystem& files, const Text& folder)
 {
     return std::ranges::any_of(files.List(folder),
-                               [](const FolderEntry& entry) { return !entry.facts.isFolder; });
+                               [](const FolderEntry& entry) { return !entry.status.isFolder; });
 }
 
 // Everything in the folder goes into the self-extracting program.

@@ -1,8 +1,8 @@
 #include "builder/create_checks.h"
 
 #include "builder/row_checks.h"
-#include "filelist/redist_folder.h"
-#include "filelist/system_files.h"
+#include "filelist/adding/redist_folder.h"
+#include "filelist/adding/system_files.h"
 #include "formats/setup_names.h"
 #include "helpers/windows_path.h"
 
@@ -18,7 +18,7 @@ constexpr std::string_view kFilesForSystemFolder[] = {"OLEPRO32.DLL", "OLEAUT32.
 constexpr std::string_view kOneSystemOnly = "SHDOCVW.DLL";
 
 // A text no longer than this is the root of a drive, which is never questioned.
-constexpr std::size_t kLongestDriveRoot = 3;
+constexpr std::size_t kMaxDriveRootLength = 3;
 
 template <class Names>
 bool Holds(const Names& names, const Text& name)
@@ -91,7 +91,7 @@ Check CheckNotOntoCd(CreateRun& run)
 {
     if (!IsCd(run.form))
         return Check::Passed;
-    const Text root = FirstCharacters(run.form.tDestinationDir, kLongestDriveRoot);
+    const Text root = FirstCharacters(run.form.tDestinationDir, kMaxDriveRootLength);
     if (run.host.files.DriveType(root) != DriveKind::Cd)
         return Check::Passed;
     run.ask.Critical("Fel",
@@ -173,7 +173,7 @@ Check CheckFirstFloppy(CreateRun& run)
 Check CheckDestinationExists(CreateRun& run)
 {
     const Text& folder = run.form.tDestinationDir;
-    if (CharacterCount(folder) <= kLongestDriveRoot || run.host.files.DirExists(folder))
+    if (CharacterCount(folder) <= kMaxDriveRootLength || run.host.files.DirExists(folder))
         return Check::Passed;
     const bool create = run.ask.YesNo("Katalogen existerar inte",
                                       "Katalogen '" + folder +

@@ -75,8 +75,8 @@ Text WhyNotMade(const CreateForm& form)
     if (form.TargetMedia == Medium::Internet)
         return "Installationer för Internet kan ännu ej skapas! Välj ett annat medium.";
     // The steps would cut a longer one and write somewhere else.
-    if (CharacterCount(form.tDestinationDir) > kLongestPath)
-        return "Destinationskatalogen är längre än " + NumberText(kLongestPath) + " tecken: '" +
+    if (CharacterCount(form.tDestinationDir) > kMaxPathLength)
+        return "Destinationskatalogen är längre än " + NumberText(kMaxPathLength) + " tecken: '" +
                form.tDestinationDir + "'.";
     return {};
 }

@@ -4,9 +4,9 @@
 #include "builder/file_list_file.h"
 #include "builder/remove_quietly.h"
 #include "builder/source_address.h"
-#include "filelist/system_files.h"
+#include "filelist/adding/system_files.h"
 #include "formats/package.h"
-#include "project/profile_writer.h"
+#include "ini/profile_writer.h"
 
 namespace quillon {
 
@@ -69,7 +69,8 @@ void WriteFloppyCount(CreateRun& run)
 
 } // namespace
 
-void TellCompressionError(Ask& ask, const Text& what, Integer result, const Text& missingReadRight)
+void ReportCompressionError(Ask& ask, const Text& what, Integer result,
+                            const Text& missingReadRight)
 {
     ask.AddStatusLine(" Komprimering av " + what + " misslyckades!");
     ask.AddStatusLine(" DynaZip rapporterade fel #" + NumberText(result) + "!");
@@ -91,8 +92,8 @@ void CreateFileContainer(CreateRun& run, bool spanning)
         run.compression.IfcCreateZipFile(target, spanning ? 1 : 0, ContainerPassword(run.project));
     const bool failed = result > CompressionResult::kDone;
     if (failed) {
-        TellCompressionError(run.ask, "filer", result,
-                             "Saknar läsrättigheter till en eller flera filer!");
+        ReportCompressionError(run.ask, "filer", result,
+                               "Saknar läsrättigheter till en eller flera filer!");
         run.ask.AddStatusLine(Text(" Kan ej skapa ") + kFileContainerName);
         run.CreateFailed = true;
         run.compressionFailure = run.compression.LastFailure();

@@ -10,6 +10,7 @@ namespace quillon {
 void CreateFileContainer(CreateRun& run, bool spanning);
 
 /// The lines that tell a failed compression; `missingReadRight` is said where that was the reason.
-void TellCompressionError(Ask& ask, const Text& what, Integer result, const Text& missingReadRight);
+void ReportCompressionError(Ask& ask, const Text& what, Integer result,
+                            const Text& missingReadRight);
 
 } // namespace quillon

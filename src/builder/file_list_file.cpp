@@ -1,9 +1,9 @@
 #include "builder/file_list_file.h"
 
 #include "builder/source_address.h"
-#include "filelist/system_files.h"
-#include "formats/file_frame.h"
+#include "filelist/adding/system_files.h"
 #include "formats/install_row.h"
+#include "formats/section_document.h"
 #include "helpers/ansi_text.h"
 #include "helpers/product.h"
 #include "platform/whole_file.h"
@@ -43,10 +43,10 @@ InstallRow MakeInstallRow(const FileListRow& row, Long number, const FileSystem&
     if (row.HasSource()) {
         // The very path that the container reads, so that size and content are of one file.
         const Text source = ConvertLongFilenameToShortFilename(files, row[Source]);
-        const FileFacts facts = files.Facts(source);
-        if (facts.isFolder)
+        const FileStatus status = files.Status(source);
+        if (status.isFolder)
             throw RunError(ErrorNumber::kFileNotFound, source);
-        made.size = facts.size;
+        made.size = status.size;
         made.sourceFolder = SourceFolderOnMedium(source);
     }
     return made;
@@ -73,7 +73,7 @@ int WriteFileListFile(const Text& path, const Project& project, const Host& host
 {
     const auto write = [&] {
         AnsiTextFile file(host.files, path);
-        for (const Text& line : FileHeadLines(kFileListType))
+        for (const Text& line : FileHeaderLines(kFileListType))
             file.Line(line);
         file.Line();
         file.Line("[FileList]");

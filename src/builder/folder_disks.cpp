@@ -102,16 +102,16 @@ std::uint64_t FolderDisks::RoomToLeave(std::uint64_t archiveSize) const
 {
     constexpr std::uint64_t kLinesOfFiles = 2048; // two dozen
     constexpr std::uint64_t kLineOfPiece = 96;
-    constexpr std::uint64_t kSmallestDisk = 360 * 1024;
-    return WholeClusters(kLinesOfFiles + kLineOfPiece * (archiveSize / kSmallestDisk + 1));
+    constexpr std::uint64_t kMinDiskSize = 360 * 1024;
+    return WholeClusters(kLinesOfFiles + kLineOfPiece * (archiveSize / kMinDiskSize + 1));
 }
 
 std::uint64_t FolderDisks::Used(const Text& folder, bool isPackageFolder) const
 {
     std::uint64_t used = 0;
     for (const FolderEntry& entry : host_.files.List(folder)) {
-        if (!entry.facts.isFolder)
-            used += WholeClusters(entry.facts.size);
+        if (!entry.status.isFolder)
+            used += WholeClusters(entry.status.size);
         else if (!isPackageFolder || !IsDiskName(entry.name))
             used += Used(JoinPath(folder, entry.name), false);
     }

@@ -1,11 +1,11 @@
 #include "builder/one_by_one.h"
 
 #include "builder/compression_setup.h"
-#include "builder/copy_alive.h"
 #include "builder/file_container.h"
 #include "builder/progress_display.h"
+#include "builder/responsive_copy.h"
 #include "builder/source_address.h"
-#include "filelist/system_files.h"
+#include "filelist/adding/system_files.h"
 #include "helpers/windows_path.h"
 
 namespace quillon {
@@ -52,8 +52,8 @@ void CopyPlain(CreateRun& run, Layout& layout, const FileListRow& row)
     if (keepsTree && !run.host.files.DirExists(layout.folder))
         MakeFolder(run, layout.folder);
     const Text target = OneByOnePath(run.options, layout.base, row);
-    CopyAlive(run.host.files, run.ask,
-              ConvertLongFilenameToShortFilename(run.host.files, row[Source]), target);
+    CopyResponsively(run.host.files, run.ask,
+                     ConvertLongFilenameToShortFilename(run.host.files, row[Source]), target);
     ListFile(run, target);
     run.ask.AddStatusLine("Kopierar '" + row[Filename] + "'");
 }
@@ -69,8 +69,8 @@ void CopyCompressed(CreateRun& run, const Layout& layout, const FileListRow& row
         result = run.compression.IfcCreateZipFile(target, 0, "");
     run.compression.IfcFreeFileList();
     if (result > CompressionResult::kDone) {
-        TellCompressionError(run.ask, "'" + row[Filename] + "'", result,
-                             "Saknar läsrättigheter till fil!");
+        ReportCompressionError(run.ask, "'" + row[Filename] + "'", result,
+                               "Saknar läsrättigheter till fil!");
         run.CreateFailed = true;
         run.compressionFailure.emplace(result, source);
         return;
@@ -90,7 +90,7 @@ bool IsLeftOut(const CreateRun& run, const FileListRow& row)
 std::uint64_t SourceSize(const CreateRun& run, const FileListRow& row)
 {
     std::uint64_t size = 0;
-    RunErrorNumber([&] { size = run.host.files.Facts(row[Source]).size; });
+    RunErrorNumber([&] { size = run.host.files.Status(row[Source]).size; });
     return size;
 }
 

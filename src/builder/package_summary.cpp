@@ -14,7 +14,7 @@ std::optional<std::uint64_t> SizeOfPackage(const CreateRun& run)
 {
     std::uint64_t size = 0;
     const auto add = [&](const Text& name) {
-        size += run.host.files.Facts(JoinPath(run.DestDir, name)).size;
+        size += run.host.files.Status(JoinPath(run.DestDir, name)).size;
     };
     const bool isWholeDrive = run.DestDir.size() <= 2;
     const int error = RunErrorNumber([&] {

@@ -3,7 +3,7 @@
 #include "builder/progress_display.h"
 #include "builder/remove_quietly.h"
 #include "builder/source_address.h"
-#include "filelist/system_files.h"
+#include "filelist/adding/system_files.h"
 #include "formats/package.h"
 #include "helpers/windows_path.h"
 
@@ -32,7 +32,7 @@ void RemoveTree(FileSystem& files, const Text& folder)
 {
     for (const FolderEntry& entry : files.List(folder)) {
         const Text path = JoinPath(folder, entry.name);
-        if (entry.facts.isFolder)
+        if (entry.status.isFolder)
             RemoveTree(files, path);
         else
             files.RemoveFile(path);
@@ -60,7 +60,7 @@ std::uint64_t RoomForAnother(const CreateRun& run)
         for (const FileListRow& row : run.project.Files.rows)
             RunErrorNumber([&] {
                 if (IsPacked(run, row))
-                    room += run.host.files.Facts(row[Source]).size;
+                    room += run.host.files.Status(row[Source]).size;
             });
     return room;
 }
@@ -71,7 +71,7 @@ bool StandsBesideAnOlderOne(const CreateRun& run)
     const bool fitsTwice =
         run.form.TargetMedia == Medium::CompressedCd || run.form.TargetMedia == Medium::CdTree;
     return fitsTwice && HoldsManifest(files, run.DestDir) &&
-           files.Facts(JoinPath(run.DestDir, kManifestName)).size > 0 &&
+           files.Status(JoinPath(run.DestDir, kManifestName)).size > 0 &&
            files.FreeSpace(run.DestDir) >= RoomForAnother(run);
 }
 
@@ -111,7 +111,7 @@ std::vector<ManifestLine> LinesOf(CreateRun& run, const std::vector<FileToDigest
     const FileSystem& files = run.host.files;
     std::uint64_t total = 0;
     for (const FileToDigest& file : found)
-        total += files.Facts(file.path).size;
+        total += files.Status(file.path).size;
     ProgressDisplay progress(run.ask);
     std::uint64_t done = 0;
     std::vector<ManifestLine> lines = run.piecesOnDisks;

@@ -17,7 +17,7 @@ public:
 
     void Show(std::uint64_t done, std::uint64_t total)
     {
-        ask_.YieldToEvents();
+        ask_.ProcessEvents();
         if (total == 0 || (done < next_ && done > last_ && done < total))
             return;
         last_ = done;

@@ -3,8 +3,8 @@
 #include "builder/design_objects.h"
 #include "builder/one_by_one.h"
 #include "builder/source_address.h"
+#include "filelist/adding/system_files.h"
 #include "filelist/row_facts.h"
-#include "filelist/system_files.h"
 #include "formats/row_safety.h"
 #include "formats/variable_names.h"
 #include "helpers/windows_path.h"
@@ -144,7 +144,7 @@ Text IconTitle(const FileListRow& row)
 
 Check CheckRows(CreateRun& run)
 {
-    Text told;
+    Text firstFault;
     std::int64_t more = -1;
     const std::vector<FileListRow>& rows = run.project.Files.rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -152,14 +152,14 @@ Check CheckRows(CreateRun& run)
         if (fault.empty())
             continue;
         if (++more == 0)
-            told = RowLabel(i, rows[i]) + ": " + fault;
+            firstFault = RowLabel(i, rows[i]) + ": " + fault;
     }
-    if (told.empty())
+    if (firstFault.empty())
         return Check::Passed;
     const Text others = more == 0   ? Text()
                         : more == 1 ? Text(" En rad till har fel.")
                                     : " " + NumberText(more) + " rader till har fel.";
-    run.ask.Critical("Felaktig rad i fillistan", "Kan ej skapa! " + told + others);
+    run.ask.Critical("Felaktig rad i fillistan", "Kan ej skapa! " + firstFault + others);
     return Check::Stopped;
 }
 

@@ -1,10 +1,10 @@
 #include "builder/setup_info_file.h"
 
 #include "builder/design_objects.h"
-#include "filelist/file_version.h"
-#include "filelist/totals.h"
-#include "formats/file_frame.h"
+#include "filelist/adding/file_version.h"
+#include "filelist/view/totals.h"
 #include "formats/scramble.h"
+#include "formats/section_document.h"
 #include "formats/setup_information_table.h"
 #include "helpers/line_breaks.h"
 #include "helpers/product.h"
@@ -130,14 +130,14 @@ public:
     {
         if (!(IsWritten(parts) || ...))
             return;
-        Head(name);
+        Header(name);
         (Write(parts), ...);
         file_.Line();
     }
 
     void FreeText(const char* name, const Text& text)
     {
-        Head(name);
+        Header(name);
         file_.Line(text);
         EndList();
     }
@@ -145,7 +145,7 @@ public:
     // An empty text gives no line at all here, and a CR LF at the very end no further line.
     void MarkedLines(const char* name, const Text& text)
     {
-        Head(name);
+        Header(name);
         std::string_view lines = text;
         if (lines.ends_with(kLineBreak))
             lines.remove_suffix(kLineBreak.size());
@@ -164,7 +164,7 @@ private:
         return true;
     }
 
-    void Head(const Text& name) { file_.Line("[" + name + "]"); }
+    void Header(const Text& name) { file_.Line("[" + name + "]"); }
 
     void EndList()
     {
@@ -236,9 +236,9 @@ SetupInformation InformationBesideProject(const SetupInfoInput& in)
     return info;
 }
 
-void WriteHead(AnsiTextFile& file, SetupInfoMode mode)
+void WriteHeader(AnsiTextFile& file, SetupInfoMode mode)
 {
-    for (const Text& line : FileHeadLines(kSetupInformationType))
+    for (const Text& line : FileHeaderLines(kSetupInformationType))
         file.Line(line);
     if (mode == SetupInfoMode::Preview)
         file.Line("FileSubType = " + Text(kPreviewSubType));
@@ -251,7 +251,7 @@ int WriteSetupInfoFile(const Text& path, SetupInfoInput& in, SetupInfoMode mode)
 {
     const auto write = [&] {
         AnsiTextFile file(in.host.files, path);
-        WriteHead(file, mode);
+        WriteHeader(file, mode);
         FillEmptyProgramGroup(in.project);
         SetupInformation info = InformationBesideProject(in);
         SectionWriter sections(file, ValueTexts(in, mode));

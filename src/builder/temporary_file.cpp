@@ -39,7 +39,7 @@ void ClearLeftOvers(FileSystem& files, const Text& folder)
     RunErrorNumber([&] { entries = files.List(folder); });
     for (const FolderEntry& entry : entries) {
         const Text path = JoinPath(folder, entry.name);
-        if (IsTemporaryName(entry.name) && !entry.facts.isFolder)
+        if (IsTemporaryName(entry.name) && !entry.status.isFolder)
             RunErrorNumber([&] {
                 if (IsEmptyOrArchive(files, path))
                     files.RemoveAbandoned(path);

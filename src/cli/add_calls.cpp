@@ -1,17 +1,17 @@
 // quillonc add, add-tree, add-folder and add-dep: everything by which rows come into the list.
 #include "cli/calls.h"
 #include "cli/project_edit.h"
-#include "filelist/add_files_command.h"
-#include "filelist/add_target.h"
-#include "filelist/add_tree_command.h"
+#include "filelist/adding/add_files_command.h"
+#include "filelist/adding/add_target.h"
+#include "filelist/adding/add_tree_command.h"
+#include "filelist/adding/tree_walk.h"
 #include "filelist/list_maintenance.h"
 #include "filelist/row_text.h"
-#include "filelist/tree_walk.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "importers/add_dep_file.h"
+#include "ini/profile_reader.h"
 #include "platform/run_error.h"
-#include "project/profile_reader.h"
 
 #include <numeric>
 #include <unordered_set>
@@ -46,7 +46,7 @@ void PrepareTarget(const CallContext& context, ProjectEdit& edit)
 // Ends the call where a full list is why something failed; no box of the commands says so.
 void TellFullList(const ProjectEdit& edit)
 {
-    if (edit.session.project.Files.rows.size() >= kMostRows)
+    if (edit.session.project.Files.rows.size() >= kMaxRows)
         throw CallFailure{FullListText() + " Inget är sparat.", Exit::Stopped};
 }
 
@@ -82,14 +82,14 @@ std::vector<Text> FileOperands(const CallContext& context)
     std::unordered_set<Text> known;
     for (std::size_t i = 1; i < context.arguments.operands.size(); ++i) {
         const Text path = context.PathOperand(i);
-        DemandReadableFile(context.host.files, path);
+        RequireReadableFile(context.host.files, path);
         if (known.insert(path).second)
             paths.push_back(path);
     }
     return paths;
 }
 
-void DemandFolder(const FileSystem& files, const Text& folder)
+void RequireFolder(const FileSystem& files, const Text& folder)
 {
     if (!files.DirExists(folder))
         throw CallFailure{"Katalogen '" + folder + "' finns inte. Inget är sparat.",
@@ -99,7 +99,7 @@ void DemandFolder(const FileSystem& files, const Text& folder)
 TreeToAdd ChooseTreeFrom(const CallContext& context, ProjectEdit& edit)
 {
     edit.ask.prepared.folder = context.PathOperand(1);
-    DemandFolder(context.host.files, edit.ask.prepared.folder);
+    RequireFolder(context.host.files, edit.ask.prepared.folder);
     PrepareTarget(context, edit);
     auto tree = ChooseTree(edit.Work());
     if (!tree)
@@ -118,7 +118,7 @@ TreeToAdd ChooseTreeFrom(const CallContext& context, ProjectEdit& edit)
 }
 
 // A section that names no file is mostly a wrong file; the window passes it without a word.
-void DemandSectionWithFiles(const FileSystem& files, const Text& depFile, const Text& binary)
+void RequireSectionWithFiles(const FileSystem& files, const Text& depFile, const Text& binary)
 {
     ProfileReader reader;
     reader.SetIniFile(files, depFile);
@@ -140,7 +140,7 @@ Exit AddFiles(const CallContext& context)
     PrepareTarget(context, edit);
     edit.ask.prepared.files = FileOperands(context);
     for (const Text& path : edit.ask.prepared.files)
-        if (LiesInRoot(path)) {
+        if (IsInRoot(path)) {
             RefuseFilesInRoot(edit.ask);
             edit.ask.EndCall();
         }
@@ -182,7 +182,7 @@ Exit AddEmptyFolder(const CallContext& context)
     edit.ask.prepared.line = folder;
     const std::size_t rowsBefore = edit.Files().rows.size();
     const auto places = AddEmptyDirectoryCommand(edit.Work());
-    edit.DemandNothingRefused();
+    edit.RequireNothingRefused();
     return edit.Save("Adderad katalog: " + folder + "\n",
                      {{"added", RowsJson(edit.Files(), NewRows(places, rowsBefore))}});
 }
@@ -193,9 +193,9 @@ Exit AddByDepFile(const CallContext& context)
     PrepareTarget(context, edit);
     edit.ask.prepared.oneFileEach = {context.PathOperand(1), context.PathOperand(2)};
     for (const Text& file : edit.ask.prepared.oneFileEach)
-        DemandReadableFile(context.host.files, file);
-    DemandSectionWithFiles(context.host.files, edit.ask.prepared.oneFileEach[0],
-                           edit.ask.prepared.oneFileEach[1]);
+        RequireReadableFile(context.host.files, file);
+    RequireSectionWithFiles(context.host.files, edit.ask.prepared.oneFileEach[0],
+                            edit.ask.prepared.oneFileEach[1]);
     const std::size_t rowsBefore = edit.Files().rows.size();
     Text folder;
     const auto places = AddDepFileCommand(edit.Work(), folder);

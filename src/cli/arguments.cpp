@@ -30,19 +30,19 @@ bool IsOneOf(std::string_view words, std::string_view word)
 
 class ArgumentReader {
 public:
-    ArgumentReader(const std::vector<std::string>& words, std::span<const Call> calls)
-        : words_(words), calls_(calls)
+    ArgumentReader(const std::vector<std::string>& args, std::span<const Call> calls)
+        : args_(args), calls_(calls)
     {
     }
 
     Arguments Read()
     {
-        if (words_.empty())
+        if (args_.empty())
             throw UsageError{"Ange vad som ska göras."};
         TakeCall();
         bool optionsEnd = false;
-        for (next_ = 1; next_ < words_.size(); ++next_) {
-            const std::string& word = words_[next_];
+        for (next_ = 1; next_ < args_.size(); ++next_) {
+            const std::string& word = args_[next_];
             if (!optionsEnd && word == "--")
                 optionsEnd = true;
             else if (!optionsEnd && word.starts_with("-") && word.size() > 1)
@@ -58,9 +58,9 @@ private:
     void TakeCall()
     {
         const auto found =
-            std::ranges::find_if(calls_, [&](const Call& call) { return call.name == words_[0]; });
+            std::ranges::find_if(calls_, [&](const Call& call) { return call.name == args_[0]; });
         if (found == calls_.end())
-            throw UsageError{"'" + words_[0] + "' är inget kommando."};
+            throw UsageError{"'" + args_[0] + "' är inget kommando."};
         read_.call = &*found;
     }
 
@@ -80,9 +80,9 @@ private:
         if (!option->value && sign != std::string::npos)
             throw UsageError{"Växeln " + name + " har inget värde."};
         if (option->value && sign == std::string::npos) {
-            if (next_ + 1 == words_.size())
+            if (next_ + 1 == args_.size())
                 throw UsageError{"Växeln " + name + " saknar sitt värde (" + option->value + ")."};
-            value = words_[++next_];
+            value = args_[++next_];
         }
         if (option->words && !IsOneOf(option->words, value))
             throw UsageError{"Växeln " + name + " kan ej vara '" + value + "'; välj " +
@@ -101,7 +101,7 @@ private:
             throw UsageError{"'" + read_.operands[wanted.size()] + "' är en uppgift för mycket."};
     }
 
-    const std::vector<std::string>& words_;
+    const std::vector<std::string>& args_;
     std::span<const Call> calls_;
     std::size_t next_ = 0;
     Arguments read_;
@@ -124,9 +124,9 @@ std::optional<std::string> Arguments::Value(const std::string& option) const
     return found == options.end() ? std::nullopt : std::optional(found->second);
 }
 
-Arguments ReadArguments(const std::vector<std::string>& words, std::span<const Call> calls)
+Arguments ReadArguments(const std::vector<std::string>& args, std::span<const Call> calls)
 {
-    return ArgumentReader(words, calls).Read();
+    return ArgumentReader(args, calls).Read();
 }
 
 Text HelpText(std::span<const Call> calls)

@@ -55,7 +55,7 @@ struct UsageError {
 };
 
 /// Throws `UsageError`. Behind "--" nothing is an option.
-Arguments ReadArguments(const std::vector<std::string>& words, std::span<const Call> calls);
+Arguments ReadArguments(const std::vector<std::string>& args, std::span<const Call> calls);
 
 /// The whole help; every line fits on a screen of 100 columns.
 Text HelpText(std::span<const Call> calls);

@@ -32,7 +32,7 @@ Text CallContext::Path(const std::string& argument) const
     return *path;
 }
 
-std::string CallContext::DemandValue(const char* option) const
+std::string CallContext::RequireValue(const char* option) const
 {
     auto value = arguments.Value(option);
     if (!value)

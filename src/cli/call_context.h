@@ -34,7 +34,7 @@ struct CallContext {
     Text PathOperand(std::size_t number) const { return Path(arguments.operands.at(number)); }
     Text Path(const std::string& argument) const;
     /// An option that the call can't do without. Throws `UsageError`.
-    std::string DemandValue(const char* option) const;
+    std::string RequireValue(const char* option) const;
     bool WantsJson() const { return arguments.Has("--json"); }
 
     /// Prints the one object of a call that was asked for JSON; its exit code goes in with it.

@@ -16,21 +16,21 @@ void ConsoleAsk::Show(const Text& title, const Text& text, std::optional<bool> a
 bool ConsoleAsk::YesNo(const Text& title, const Text& text, Stops stops)
 {
     const bool yesStops = stops == Stops::OnYes;
-    const bool answer = answers_ == Answers::ThatStop ? yesStops : !yesStops;
+    const bool answer = answers_ == Answers::Decline ? yesStops : !yesStops;
     Show(title, text, answer);
     return answer;
 }
 
 bool ConsoleAsk::OkCancel(const Text& title, const Text& text)
 {
-    const bool answer = answers_ == Answers::ThatGoOn;
+    const bool answer = answers_ == Answers::Accept;
     Show(title, text, answer);
     return answer;
 }
 
 Answer ConsoleAsk::YesNoCancel(const Text& title, const Text& text)
 {
-    const bool goesOn = answers_ == Answers::ThatGoOn;
+    const bool goesOn = answers_ == Answers::Accept;
     Show(title, text, goesOn);
     return goesOn ? Answer::Yes : Answer::Cancel;
 }

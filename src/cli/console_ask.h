@@ -12,7 +12,7 @@ namespace quillon::cli {
 class ConsoleAsk : public Ask {
 public:
     // What a question is answered with.
-    enum class Answers { ThatStop, ThatGoOn };
+    enum class Answers { Decline, Accept };
 
     struct Box {
         Text title;
@@ -21,7 +21,7 @@ public:
     };
 
     /// Status lines go to `out` as they come, unless it is null; boxes to `err` as "Title: text".
-    ConsoleAsk(std::ostream* out, std::ostream& err, Answers answers = Answers::ThatStop)
+    ConsoleAsk(std::ostream* out, std::ostream& err, Answers answers = Answers::Decline)
         : out_(out), err_(err), answers_(answers)
     {
     }
@@ -37,7 +37,7 @@ public:
     void ShowProgress(std::uint64_t, std::uint64_t) override {}
     void ShowBusyPointer(bool) override {}
     void Beep() override {}
-    void YieldToEvents() override {}
+    void ProcessEvents() override {}
 
     std::vector<Text> statusLines;
     std::vector<Box> boxes;

@@ -60,8 +60,8 @@ const char* ResultWord(CreateResult result)
     }
 }
 
-Exit Tell(const CallContext& context, const ConsoleAsk& ask, const CreateRun& run,
-          CreateResult result)
+Exit Report(const CallContext& context, const ConsoleAsk& ask, const CreateRun& run,
+            CreateResult result)
 {
     const bool failed = result == CreateResult::Failed;
     if (failed)
@@ -86,8 +86,8 @@ Exit Tell(const CallContext& context, const ConsoleAsk& ask, const CreateRun& ru
 Exit CreatePackage(const CallContext& context)
 {
     const Text path = context.PathOperand(0);
-    const auto answers = context.arguments.Has("--continue") ? ConsoleAsk::Answers::ThatGoOn
-                                                             : ConsoleAsk::Answers::ThatStop;
+    const auto answers = context.arguments.Has("--continue") ? ConsoleAsk::Answers::Accept
+                                                             : ConsoleAsk::Answers::Decline;
     ConsoleAsk ask(context.WantsJson() ? nullptr : &context.out, context.err, answers);
     Session session = NewSession(context.host, ask, context.toolFolder, context.ownFolder);
     // The tool would go on with a part; a package that lacks files would come out.
@@ -109,7 +109,7 @@ Exit CreatePackage(const CallContext& context)
     const CreateResult result = RunCreate(run);
     if (result == CreateResult::Done && form.TargetMedia == Medium::Floppy)
         disks.RemoveDisksBehind(run.FloppiesUsed);
-    return Tell(context, ask, run, result);
+    return Report(context, ask, run, result);
 }
 
 } // namespace quillon::cli

@@ -1,8 +1,8 @@
 #include "cli/edit_ask.h"
 
 #include "cli/call_context.h"
+#include "filelist/adding/destination_choice.h"
 #include "filelist/components.h"
-#include "filelist/destination_choice.h"
 
 #include <algorithm>
 

@@ -16,7 +16,7 @@ Text DemandFile(const CallContext& context, const char* option)
         throw UsageError{Text("Kommandot ") + context.arguments.call->name + " saknar växeln " +
                          option + "."};
     const Text path = context.Path(*file);
-    DemandReadableFile(context.host.files, path);
+    RequireReadableFile(context.host.files, path);
     return path;
 }
 

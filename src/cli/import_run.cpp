@@ -1,7 +1,7 @@
 #include "cli/import_run.h"
 
 #include "cli/box_json.h"
-#include "filelist/icon_row.h"
+#include "filelist/options/icon_row.h"
 #include "helpers/number_text.h"
 
 #include <algorithm>

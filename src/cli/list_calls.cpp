@@ -4,8 +4,8 @@
 #include "cli/project_edit.h"
 #include "cli/row_pattern.h"
 #include "filelist/list_maintenance.h"
+#include "filelist/options/row_options.h"
 #include "filelist/row_facts.h"
-#include "filelist/row_options.h"
 #include "helpers/number_text.h"
 #include "importers/lst_file.h"
 #include "platform/run_error.h"
@@ -91,7 +91,7 @@ Exit CompareLstFile(const CallContext& context)
 {
     const Text lstFile = context.PathOperand(1);
     ProjectEdit edit(context, context.PathOperand(0));
-    DemandReadableFile(context.host.files, lstFile);
+    RequireReadableFile(context.host.files, lstFile);
     const auto missing = MissingFromFileList(context.host.files, lstFile, edit.Files().rows);
     if (!missing)
         throw CallFailure{"Filen '" + lstFile +

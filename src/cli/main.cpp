@@ -69,10 +69,10 @@ Exit Run(const std::vector<std::string>& words)
 
 } // namespace
 
-int main(int count, char** words)
+int main(int argc, char** argv)
 {
-    TellOfSignals();
-    const Exit exit = Run({words + 1, words + count});
+    InstallSignalHandlers();
+    const Exit exit = Run({argv + 1, argv + argc});
     // A script must not take a cut output for a whole one.
     std::cout.flush();
     if (std::cout)

@@ -11,7 +11,7 @@ namespace {
 
 // The tool takes a file that it can't read for one without any keys, and refuses it as no project;
 // a script deserves the real reason.
-void DemandReadable(const FileSystem& files, const Text& path)
+void RequireReadable(const FileSystem& files, const Text& path)
 {
     if (files.DirExists(path))
         throw CallFailure{"'" + path + "' är en katalog och ingen projektfil.", Exit::Unreadable};
@@ -27,7 +27,7 @@ void DemandReadable(const FileSystem& files, const Text& path)
 
 Opened OpenProject(Session& session, const Text& path)
 {
-    DemandReadable(session.host.files, path);
+    RequireReadable(session.host.files, path);
     session.state.ProjectFileName = path;
     const std::optional<ReadEnd> end = LoadProject(session);
     if (end == ReadEnd::Refused)

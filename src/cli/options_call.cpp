@@ -2,7 +2,7 @@
 #include "cli/calls.h"
 #include "cli/project_edit.h"
 #include "cli/row_pattern.h"
-#include "filelist/copy_options.h"
+#include "filelist/options/copy_options.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "cli/box_json.h"
 #include "cli/open_project.h"
 #include "cli/project_json.h"
-#include "filelist/sort.h"
+#include "filelist/view/sort.h"
 #include "helpers/ansi_text.h"
 #include "helpers/number_text.h"
 #include "platform/run_error.h"
@@ -21,7 +21,7 @@ namespace {
 
 constexpr const char* kNothingSaved = " Inget är sparat.";
 // Of a value that is told, in characters; a whole agreement would bury what is said about it.
-constexpr std::size_t kMostOfAValue = 60;
+constexpr std::size_t kMaxShownLength = 60;
 
 Text ValueText(const Json& value)
 {
@@ -30,7 +30,7 @@ Text ValueText(const Json& value)
 
 Text BeginningOf(const Text& value)
 {
-    const Text beginning = FirstCharacters(value, kMostOfAValue);
+    const Text beginning = FirstCharacters(value, kMaxShownLength);
     return beginning == value ? value : beginning + "...";
 }
 
@@ -63,7 +63,7 @@ void EachSetting(const Json& settings, Visit visit)
 }
 
 // The project as it is read next time must have what the call has changed.
-void DemandChangesAgain(const Json& wanted, const Json& before, const Json& again)
+void RequireChangesAgain(const Json& wanted, const Json& before, const Json& again)
 {
     EachSetting(wanted, [&](const Text& name, const Json& value, const Json::json_pointer& place) {
         if (value != before.value(place, Json()) && value != again.value(place, Json()))
@@ -73,8 +73,8 @@ void DemandChangesAgain(const Json& wanted, const Json& before, const Json& agai
 
 // And all else must be what it would have been without the call. `unchanged` is what a project
 // file gives back that the project was saved to before the call.
-void DemandNothingElseChanged(const Json& wanted, const Json& before, const Json& again,
-                              const Json& unchanged)
+void RequireNothingElseChanged(const Json& wanted, const Json& before, const Json& again,
+                               const Json& unchanged)
 {
     EachSetting(wanted, [&](const Text& name, const Json& value, const Json::json_pointer& place) {
         const Json read = again.value(place, Json());
@@ -86,7 +86,7 @@ void DemandNothingElseChanged(const Json& wanted, const Json& before, const Json
     });
 }
 
-void DemandSameRows(const std::vector<FileListRow>& wanted, const std::vector<FileListRow>& again)
+void RequireSameRows(const std::vector<FileListRow>& wanted, const std::vector<FileListRow>& again)
 {
     for (std::size_t i = 0; i < wanted.size(); ++i)
         if (i >= again.size() || wanted[i] != again[i])
@@ -100,8 +100,8 @@ void DemandSameRows(const std::vector<FileListRow>& wanted, const std::vector<Fi
 } // namespace
 
 ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin begin)
-    : ask(context.err, context.arguments.Has("--continue") ? ConsoleAsk::Answers::ThatGoOn
-                                                           : ConsoleAsk::Answers::ThatStop),
+    : ask(context.err, context.arguments.Has("--continue") ? ConsoleAsk::Answers::Accept
+                                                           : ConsoleAsk::Answers::Decline),
       session(NewSession(context.host, ask, context.toolFolder)), context_(context), path_(path),
       isNew_(begin == Begin::WithANewProject)
 {
@@ -122,7 +122,7 @@ ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin beg
     rowsBefore_ = Files().rows;
 }
 
-void ProjectEdit::DemandNothingRefused() const
+void ProjectEdit::RequireNothingRefused() const
 {
     if (!ask.refusals.empty() && !context_.arguments.Has("--continue"))
         throw CallFailure{ask.refusals.front() + kNothingSaved, Exit::Stopped};
@@ -130,7 +130,7 @@ void ProjectEdit::DemandNothingRefused() const
 
 Exit ProjectEdit::Save(const Text& lines, Json members)
 {
-    DemandNothingRefused();
+    RequireNothingRefused();
     const bool changed = HasChanged();
     if (changed) {
         if (const auto why = WhyListsCannotBeSaved(session.project.Lists))
@@ -179,24 +179,24 @@ void ProjectEdit::Write()
 
 void ProjectEdit::WriteAndLookAt()
 {
-    DemandRoomForPictures(session.project);
+    RequireRoomForPictures(session.project);
     SavedFile file(context_.host.files, path_);
     WriteProject(session.project, file, session.host, ask);
-    DemandSameAgain(file.TemporaryPath());
-    DemandNobodyElseSaved();
+    RequireSameAgain(file.TemporaryPath());
+    RequireNobodyElseSaved();
     file.Commit();
 }
 
-void ProjectEdit::DemandSameAgain(const Text& file)
+void ProjectEdit::RequireSameAgain(const Text& file)
 {
     Project again = ReadAgain(file);
     const Json wanted = SettingsJson(session.project);
     const Json read = SettingsJson(again);
-    DemandChangesAgain(wanted, settingsBefore_, read);
+    RequireChangesAgain(wanted, settingsBefore_, read);
     // Most projects are read as they were saved, and need no second look.
     if (wanted != read)
-        DemandNothingElseChanged(wanted, settingsBefore_, read, SettingsOfUnchangedProject(file));
-    DemandSameRows(Files().rows, again.Files.rows);
+        RequireNothingElseChanged(wanted, settingsBefore_, read, SettingsOfUnchangedProject(file));
+    RequireSameRows(Files().rows, again.Files.rows);
 }
 
 Project ProjectEdit::ReadAgain(const Text& file) const
@@ -223,7 +223,7 @@ Json ProjectEdit::SettingsOfUnchangedProject(const Text& file) const
 }
 
 // The lock keeps out who asks for it; an editor, or a disk that knows no locks, does not.
-void ProjectEdit::DemandNobodyElseSaved() const
+void ProjectEdit::RequireNobodyElseSaved() const
 {
     const FileSystem& files = context_.host.files;
     if (isNew_ ? files.FileExists(path_) : ReadWholeFile(files, path_) != bytesBefore_)
@@ -232,7 +232,7 @@ void ProjectEdit::DemandNobodyElseSaved() const
                           Exit::Stopped};
 }
 
-void DemandReadableFile(const FileSystem& files, const Text& path)
+void RequireReadableFile(const FileSystem& files, const Text& path)
 {
     if (files.DirExists(path))
         throw CallFailure{"'" + path + "' är en katalog och ingen fil." + kNothingSaved,

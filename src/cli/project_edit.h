@@ -23,7 +23,7 @@ public:
     FileList& Files() { return session.project.Files; }
 
     /// Ends the call where something could not be done, unless the user wants the rest.
-    void DemandNothingRefused() const;
+    void RequireNothingRefused() const;
 
     /// Saves what has changed and tells it: the lines to people, the members to scripts.
     Exit Save(const Text& lines, Json members);
@@ -36,10 +36,10 @@ private:
     void Write();
     void WriteAndLookAt();
     void Lock();
-    void DemandSameAgain(const Text& file);
+    void RequireSameAgain(const Text& file);
     Project ReadAgain(const Text& file) const;
     Json SettingsOfUnchangedProject(const Text& file) const;
-    void DemandNobodyElseSaved() const;
+    void RequireNobodyElseSaved() const;
 
     const CallContext& context_;
     Text path_;
@@ -52,7 +52,7 @@ private:
 };
 
 /// Ends the call where the file can't be read.
-void DemandReadableFile(const FileSystem& files, const Text& path);
+void RequireReadableFile(const FileSystem& files, const Text& path);
 
 /// One object for each of these rows, with their numbers counted from 1.
 Json RowsJson(const FileList& files, const std::vector<std::size_t>& rows);

@@ -16,7 +16,7 @@ namespace quillon::cli {
 
 namespace {
 
-constexpr std::size_t kLongestMarkedList = 32767;
+constexpr std::size_t kMaxMarkedListLength = 32767;
 constexpr const char* kComponents = "FileComponents";
 constexpr std::string_view kOneComponent = "FileComponent";
 
@@ -67,8 +67,8 @@ public:
         const Text text = hasLines ? WindowsLines(value_) : value_;
         if (!hasLines && text.find_first_of("\r\n") != Text::npos)
             Refuse("ryms på en rad; värdet har flera.");
-        DemandLength(AnsiText::ToBytes(EncodeLineBreaks(text)).size(),
-                     static_cast<std::size_t>(limit - 1));
+        RequireLength(AnsiText::ToBytes(EncodeLineBreaks(text)).size(),
+                      static_cast<std::size_t>(limit - 1));
         return text;
     }
 
@@ -108,7 +108,7 @@ public:
     {
         const Text text = WindowsLines(value_);
         if (lines == ListSection::Lines::Marked)
-            DemandLength(AnsiText::ToBytes(text).size(), kLongestMarkedList);
+            RequireLength(AnsiText::ToBytes(text).size(), kMaxMarkedListLength);
         return text;
     }
 
@@ -133,7 +133,7 @@ private:
         return false;
     }
 
-    void DemandLength(std::size_t length, std::size_t longest) const
+    void RequireLength(std::size_t length, std::size_t longest) const
     {
         if (length > longest)
             Refuse("rymmer högst " + NumberText(static_cast<std::int64_t>(longest)) +
@@ -233,8 +233,8 @@ struct Address {
 // the key.
 Address AddressOf(const Text& field)
 {
-    const std::size_t point = field.find('.');
-    Address address{field.substr(0, point), field.substr(point + 1)};
+    const std::size_t dot = field.find('.');
+    Address address{field.substr(0, dot), field.substr(dot + 1)};
     const Text number =
         address.section.substr(std::min(kOneComponent.size(), address.section.size()));
     const bool isOne = number.size() == 1 && number[0] >= '1' && number[0] <= '9' &&
@@ -268,7 +268,7 @@ void SetField(Project& project, const Text& field, const Text& value)
         VisitSettingsSections(setter, project);
     } catch (const RunError&) {
         newValue.Refuse("kan ej vara '" + value + "'; projektet rymmer högst " +
-                        NumberText(static_cast<std::int64_t>(section::kMostAnimPictures)) +
+                        NumberText(static_cast<std::int64_t>(section::kMaxAnimPictures)) +
                         " bilder.");
     }
     setter.Begin(kComponents);

@@ -2,7 +2,7 @@
 #include "cli/calls.h"
 #include "cli/project_edit.h"
 #include "filelist/replace_rows.h"
-#include "filelist/sort.h"
+#include "filelist/view/sort.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include "cli/console_ask.h"
 #include "cli/open_project.h"
 #include "cli/png_file.h"
-#include "design/posix/font_letters.h"
+#include "design/system_letters.h"
 #include "pictures/screen_files.h"
 #include "platform/saved_file.h"
 
@@ -91,7 +91,7 @@ std::vector<Pixel> PaintWhole(const ScreenDesign& design, Size size)
 
 Exit PaintProjectScreen(const CallContext& context)
 {
-    const Text to = context.Path(context.DemandValue("--to"));
+    const Text to = context.Path(context.RequireValue("--to"));
     const Size size = SizeOf(context, "--size", {1024, 768});
     const Text path = context.PathOperand(0);
     ConsoleAsk ask(nullptr, context.err);

@@ -16,7 +16,7 @@ void CheckMainFolder(ProjectEdit& edit)
 {
     Text& folder = edit.session.project.InstallDirectories.DestinationDirectory;
     folder = CheckMainDirectory(folder, edit.ask);
-    edit.DemandNothingRefused();
+    edit.RequireNothingRefused();
 }
 
 // What Create would refuse; a project that has it already can still be changed elsewhere.
@@ -50,8 +50,8 @@ Assignment AssignmentIn(const Text& argument)
 
 Exit NewProject(const CallContext& context)
 {
-    const Text name = context.DemandValue("--name");
-    const Text folder = context.DemandValue("--destination");
+    const Text name = context.RequireValue("--name");
+    const Text folder = context.RequireValue("--destination");
     const Text path = context.PathOperand(0);
     ProjectEdit edit(context, path, ProjectEdit::Begin::WithANewProject);
     SetField(edit.session.project, "ProjectName.ProjectName", name);

@@ -11,8 +11,8 @@ namespace quillon::cli {
 
 namespace {
 
-Exit Tell(const CallContext& context, const ConsoleAsk& ask, const TestRun& run, const Text& folder,
-          bool isDone)
+Exit Report(const CallContext& context, const ConsoleAsk& ask, const TestRun& run,
+            const Text& folder, bool isDone)
 {
     // The boxes tell a number and no file.
     const Text error = run.failure ? FailureText(*run.failure, folder) : Text();
@@ -40,7 +40,7 @@ Exit Tell(const CallContext& context, const ConsoleAsk& ask, const TestRun& run,
 Exit TestProject(const CallContext& context)
 {
     const Text path = context.PathOperand(0);
-    const Text folder = context.Path(context.DemandValue("--to"));
+    const Text folder = context.Path(context.RequireValue("--to"));
     ConsoleAsk ask(nullptr, context.err);
     Session session = NewSession(context.host, ask, context.toolFolder, context.ownFolder);
     // A test of a part would show another setup than the project's.
@@ -48,7 +48,7 @@ Exit TestProject(const CallContext& context)
         throw CallFailure{PartlyReadText(path) + " Inget test skrivs.", Exit::Unreadable};
     TestRun run{session.project, context.host, ask, session.options};
     const bool isDone = WriteTestFiles(run, folder);
-    return Tell(context, ask, run, folder, isDone);
+    return Report(context, ask, run, folder, isDone);
 }
 
 } // namespace quillon::cli

@@ -62,7 +62,7 @@ struct LogotypeBox {
     SurfacePlace place;
     bool isVisible = false;
     bool isMetafile = false;
-    Colour BackColor = 0; // behind a metafile, which has no ground of its own
+    Colour BackColor = 0; // behind a metafile, which has no background of its own
 };
 
 /// What the logotype's place follows beside its record.

@@ -50,7 +50,7 @@ std::vector<OverviewRow> DesOverview(const Project& project, const FileSystem& f
     std::vector<OverviewRow> rows;
     try {
         for (const auto& [label, path] : DesignFiles(project, toolFolder))
-            rows.push_back({label, ExtractFilename(path), SizeText(files.Facts(path).size)});
+            rows.push_back({label, ExtractFilename(path), SizeText(files.Status(path).size)});
     } catch (const RunError&) {
         // the rows up to here are the list
     }

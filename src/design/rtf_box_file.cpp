@@ -52,7 +52,7 @@ void SaveRTFbox(FileSystem& files, const Text& toolFolder, const Text& RTFfilena
     files.Replace(unfinished, path);
 }
 
-void TellRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& path, Ask& ask)
+void ReportRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& path, Ask& ask)
 {
     Text text;
     if (isCut)

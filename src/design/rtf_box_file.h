@@ -26,6 +26,6 @@ void SaveRTFbox(FileSystem& files, const Text& toolFolder, const Text& RTFfilena
                 std::string_view bytes);
 
 /// Tells what of the file the editor does not show and OK would therefore not write again.
-void TellRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& path, Ask& ask);
+void ReportRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& path, Ask& ask);
 
 } // namespace quillon

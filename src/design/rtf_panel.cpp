@@ -119,12 +119,12 @@ private:
         const ScreenFont font = FontOf(*word.style);
         Piece piece{.line = MakeLine(letters_, font, word.text),
                     .height = letters_.Height(font),
-                    .foreground = word.style->ink == kNoColour ? 0 : word.style->ink,
-                    .background = word.style->ground};
+                    .foreground = word.style->foreground == kNoColour ? 0 : word.style->foreground,
+                    .background = word.style->background};
         piece.width = piece.line.width;
-        if (word.style->height == RtfStyle::Height::Raised)
+        if (word.style->height == RtfStyle::Height::Superscript)
             piece.rise = font.size / 2;
-        else if (word.style->height == RtfStyle::Height::Lowered)
+        else if (word.style->height == RtfStyle::Height::Subscript)
             piece.rise = -font.size / 4;
         if (left_ + piece.width > width_ && !line_.empty())
             EndLine(paragraph);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "design/title_block.h"
-#include "formats/rtf_text.h"
+#include "rtf/rtf_text.h"
 
 namespace quillon {
 

@@ -2,7 +2,7 @@
 // with.
 #pragma once
 
-#include "design/ground.h"
+#include "design/background.h"
 #include "platform/ask.h"
 #include "project/records.h"
 

@@ -44,9 +44,10 @@ void PaintTextPanel(const Canvas& canvas, Letters& letters, const PixelRect& box
 
     const ScreenFont bodyFont = BodyFont(record, scale.Both());
     const FontHeight body = letters.Height(bodyFont);
-    const int side = scale.AcrossPixels(kTextSide);
-    int top = box.top + heading.Line() + scale.DownPixels(kBelowHeading);
-    inside.clip.bottom = std::min(inside.clip.bottom, box.bottom - scale.DownPixels(kAboveEdge));
+    const int side = scale.HorizontalPixels(kTextSide);
+    int top = box.top + heading.Line() + scale.VerticalPixels(kBelowHeading);
+    inside.clip.bottom =
+        std::min(inside.clip.bottom, box.bottom - scale.VerticalPixels(kAboveEdge));
     for (const Text& line : WrapText(letters, bodyFont, record.BoxText, box.Width() - 2 * side)) {
         if (top >= inside.clip.bottom)
             break;

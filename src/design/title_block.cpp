@@ -51,7 +51,7 @@ class Layout {
 public:
     Layout(Letters& letters, const TitleRecords& records, const ScreenScale& scale, int width)
         : letters_(letters), records_(records), scale_(scale), width_(width),
-          side_(scale.AcrossPixels(kSide))
+          side_(scale.HorizontalPixels(kSide))
     {
     }
 
@@ -62,7 +62,7 @@ public:
             PlaceUnderline();
         if (!records_.subTitle.SubTitleText.empty())
             PlaceSubTitle();
-        block_.TitleBottom = scale_.DownPixels(bottom_);
+        block_.TitleBottom = scale_.VerticalPixels(bottom_);
         return block_;
     }
 
@@ -74,7 +74,7 @@ private:
         block_.title = MakeLine(letters_, font, title.TitleText,
                                 scale_.BothPixels(Spacing(title.TitleCharInterSpace)));
         block_.titleLeft = LeftOf(block_.title.width, title.TitleAlignment, side_, width_);
-        block_.titleBaseline = scale_.DownPixels(kAboveTitle) + letters_.Height(font).ascent;
+        block_.titleBaseline = scale_.VerticalPixels(kAboveTitle) + letters_.Height(font).ascent;
         if (title.TitleShadow != kOff)
             block_.shadow = std::max(font.size / kShadowPart, 1);
         bottom_ =
@@ -88,8 +88,8 @@ private:
         const int height = std::max<int>(line.UnderlineHeight, 0);
         block_.underline.left = textOnly ? block_.titleLeft : side_;
         block_.underline.right = textOnly ? block_.titleLeft + block_.title.width : width_ - side_;
-        block_.underline.top = scale_.DownPixels(bottom_ + kAboveUnderline);
-        block_.underline.bottom = scale_.DownPixels(bottom_ + kAboveUnderline + height);
+        block_.underline.top = scale_.VerticalPixels(bottom_ + kAboveUnderline);
+        block_.underline.bottom = scale_.VerticalPixels(bottom_ + kAboveUnderline + height);
         bottom_ += kAboveUnderline + height + kBelowUnderline;
     }
 
@@ -102,7 +102,7 @@ private:
         block_.subTitle = MakeLine(letters_, font, records_.subTitle.SubTitleText);
         block_.subTitleLeft =
             LeftOf(block_.subTitle.width, records_.title.TitleAlignment, side_, width_);
-        block_.subTitleBaseline = scale_.DownPixels(top) + letters_.Height(font).ascent;
+        block_.subTitleBaseline = scale_.VerticalPixels(top) + letters_.Height(font).ascent;
         bottom_ = top + (isAlone ? kSubTitleAloneHeight : kSubTitleHeight);
     }
 
@@ -117,12 +117,12 @@ private:
 
 } // namespace
 
-int ScreenScale::AcrossPixels(double pixels) const
+int ScreenScale::HorizontalPixels(double pixels) const
 {
     return static_cast<int>(RoundToEven(pixels * x));
 }
 
-int ScreenScale::DownPixels(double pixels) const
+int ScreenScale::VerticalPixels(double pixels) const
 {
     return static_cast<int>(RoundToEven(pixels * y));
 }

@@ -12,8 +12,8 @@ struct ScreenScale {
 
     /// For what must keep its proportions: letters, pictures in their own size.
     double Both() const { return x < y ? x : y; }
-    int AcrossPixels(double pixels) const;
-    int DownPixels(double pixels) const;
+    int HorizontalPixels(double pixels) const;
+    int VerticalPixels(double pixels) const;
     int BothPixels(double pixels) const;
 };
 

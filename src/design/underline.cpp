@@ -1,6 +1,6 @@
 #include "design/underline.h"
 
-#include "design/ground.h"
+#include "design/background.h"
 #include "formats/blend.h"
 
 #include <cstdlib>

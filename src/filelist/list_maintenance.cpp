@@ -17,11 +17,11 @@ constexpr const char* kFilesMissing =
     "bort dessa från fillistan (och sedan eventuellt lägga in dom på nytt om de är flyttade till "
     "en annan katalog).";
 
-std::optional<FileFacts> FactsOfFile(const FileSystem& files, const Text& path)
+std::optional<FileStatus> StatusOfFile(const FileSystem& files, const Text& path)
 {
     try {
-        const FileFacts facts = files.Facts(path);
-        return facts.isFolder ? std::nullopt : std::optional(facts);
+        const FileStatus status = files.Status(path);
+        return status.isFolder ? std::nullopt : std::optional(status);
     } catch (const RunError&) {
         return std::nullopt;
     }
@@ -40,12 +40,12 @@ void MarkAsMissing(FileListRow& row)
 /// True when the row's file is gone.
 bool UpdateRow(FileListRow& row, const Host& host)
 {
-    const auto facts = row.HasSource() ? FactsOfFile(host.files, row[Source]) : std::nullopt;
-    if (facts)
-        FillFromFacts(row, *facts, host.machine.DecimalSign());
+    const auto status = row.HasSource() ? StatusOfFile(host.files, row[Source]) : std::nullopt;
+    if (status)
+        FillFromStatus(row, *status, host.machine.DecimalSign());
     else
         MarkAsMissing(row);
-    return !facts;
+    return !status;
 }
 
 } // namespace
@@ -56,12 +56,12 @@ std::optional<NewPlaces> AddEmptyDirectoryCommand(const ListWork& work)
     if (!folder || folder->empty())
         return std::nullopt;
     FileList& files = work.project.Files;
-    if (files.rows.size() >= kMostRows) {
+    if (files.rows.size() >= kMaxRows) {
         work.ask.Critical("Fel", FullListText() + " Katalogen '" + *folder +
                                      "' kan ej adderas till fillistan!");
         return std::nullopt;
     }
-    if (!MayStandInRow(*folder, "Katalogen", work.ask) || !MayBeDestination(*folder, work.ask))
+    if (!CheckRowText(*folder, "Katalogen", work.ask) || !MayBeDestination(*folder, work.ask))
         return std::nullopt;
     // Kept: the answer stands in the row as it was typed.
     FileListRow& row = files.rows.emplace_back();

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "filelist/list_work.h"
-#include "filelist/sort.h"
+#include "filelist/view/sort.h"
 
 #include <functional>
 #include <optional>

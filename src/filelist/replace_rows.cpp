@@ -57,7 +57,7 @@ Text AsOptionLetters(const Text& typed)
 
 bool MayReplaceWith(const Text& with, ReplaceIn where, Ask& ask)
 {
-    return MayStandInRow(with, UseOf(where).replacement, ask);
+    return CheckRowText(with, UseOf(where).replacement, ask);
 }
 
 std::size_t ReplaceInRows(FileList& files, ReplaceIn where, const Replacement& replacement)

@@ -15,12 +15,12 @@ bool LacksSource(const FileListRow& row)
     return !row.HasSource() && row[Filename] != kEmptyFolderName;
 }
 
-void FillFromFacts(FileListRow& row, const FileFacts& facts, char decimalSign)
+void FillFromStatus(FileListRow& row, const FileStatus& status, char decimalSign)
 {
     row[Size] =
-        FormatNumber(static_cast<double>(facts.size) / kBytesPerKilobyte, "0.0", decimalSign);
-    row[Date] = DateText(facts.modified);
-    row[Time] = TimeText(facts.modified);
+        FormatNumber(static_cast<double>(status.size) / kBytesPerKilobyte, "0.0", decimalSign);
+    row[Date] = DateText(status.modified);
+    row[Time] = TimeText(status.modified);
 }
 
 } // namespace quillon

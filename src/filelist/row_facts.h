@@ -10,6 +10,6 @@ namespace quillon {
 /// folder.
 bool LacksSource(const FileListRow& row);
 
-void FillFromFacts(FileListRow& row, const FileFacts& facts, char decimalSign);
+void FillFromStatus(FileListRow& row, const FileStatus& status, char decimalSign);
 
 } // namespace quillon

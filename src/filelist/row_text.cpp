@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-bool MayStandInRow(const Text& text, const Text& what, Ask& ask)
+bool CheckRowText(const Text& text, const Text& what, Ask& ask)
 {
     if (!ContainsText(text, ";"))
         return true;
@@ -20,7 +20,7 @@ bool MayStandInRow(const Text& text, const Text& what, Ask& ask)
 
 Text FullListText()
 {
-    return "Fillistan rymmer högst " + NumberText(kMostRows) + " rader.";
+    return "Fillistan rymmer högst " + NumberText(kMaxRows) + " rader.";
 }
 
 Text TypedDestinationFaultText(const Text& destination)

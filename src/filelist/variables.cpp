@@ -1,6 +1,6 @@
 #include "filelist/variables.h"
 
-#include "filelist/file_version.h"
+#include "filelist/adding/file_version.h"
 #include "formats/variable_names.h"
 #include "helpers/windows_path.h"
 #include "project/program_group.h"

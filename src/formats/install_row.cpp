@@ -1,6 +1,6 @@
 #include "formats/install_row.h"
 
-#include "formats/file_frame.h"
+#include "formats/section_document.h"
 #include "helpers/ansi_text.h"
 #include "helpers/number_text.h"
 
@@ -101,8 +101,8 @@ bool ReadField(std::string_view& line, const FieldRule& rule, InstallRow& row)
 
 int ComponentNumberOf(const InstallRow& row)
 {
-    constexpr std::int64_t kMost = 32767;
-    return static_cast<int>(std::clamp<std::int64_t>(LeadingNumber(row.component), 0, kMost));
+    constexpr std::int64_t kMax = 32767;
+    return static_cast<int>(std::clamp<std::int64_t>(LeadingNumber(row.component), 0, kMax));
 }
 
 Text InstallRowLine(const InstallRow& row)
@@ -130,9 +130,10 @@ std::optional<InstallRow> ReadInstallRow(std::string_view line)
 InstallFileList ReadInstallFileList(std::string_view bytes)
 {
     InstallFileList list;
-    const FileFrame frame = ReadFileFrame(AnsiText::FromBytes(bytes), kFileListType,
-                                          {{"FileList", FrameSection::Kind::RowsOrNothing}});
-    const FrameSection* const section = frame.Find("FileList");
+    const SectionDocument frame =
+        ReadSectionDocument(AnsiText::FromBytes(bytes), kFileListType,
+                            {{"FileList", DocumentSection::Kind::RowsOrNothing}});
+    const DocumentSection* const section = frame.Find("FileList");
     if (!section)
         return list;
 

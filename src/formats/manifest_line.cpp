@@ -23,7 +23,7 @@ bool AreDigits(std::string_view text)
 
 } // namespace
 
-std::optional<ManifestLineText> TakeManifestLine(std::string_view& text)
+std::optional<ManifestLineText> ParseManifestLine(std::string_view& text)
 {
     const std::size_t end = text.find('\n');
     if (end == text.npos)

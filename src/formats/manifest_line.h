@@ -17,7 +17,7 @@ struct ManifestLineText {
 };
 
 /// Takes the first line off `text`; nothing where that is none of the form, or has no end.
-std::optional<ManifestLineText> TakeManifestLine(std::string_view& text);
+std::optional<ManifestLineText> ParseManifestLine(std::string_view& text);
 
 Sha256Digest DigestOfDigits(std::string_view digits);
 

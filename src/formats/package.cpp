@@ -1,6 +1,6 @@
 #include "formats/package.h"
 
-#include "formats/joined_input.h"
+#include "archive/joined_input.h"
 #include "formats/row_safety.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"

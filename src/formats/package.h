@@ -2,11 +2,11 @@
 // tool verifies packages by it, and the setup runtime finds its files by it.
 #pragma once
 
+#include "archive/zip_reader.h"
 #include "formats/install_row.h"
 #include "formats/package_files.h"
 #include "formats/package_manifest.h"
 #include "formats/setup_information.h"
-#include "formats/zip_reader.h"
 #include "platform/file_system.h"
 
 #include <cstddef>

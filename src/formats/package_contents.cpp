@@ -70,8 +70,8 @@ std::vector<Text> ContainerPieces(const SetupInformation& setup,
         return {};
     const bool isSpanned = Medium(setup.project.Media.TargetMedia) == Medium::Floppy;
     // As many as Create can count.
-    constexpr int kMostDisks = std::numeric_limits<Integer>::max();
-    const int disks = isSpanned ? std::clamp(setup.Floppies, 1, kMostDisks) : 1;
+    constexpr int kMaxDisks = std::numeric_limits<Integer>::max();
+    const int disks = isSpanned ? std::clamp(setup.Floppies, 1, kMaxDisks) : 1;
     std::vector<Text> pieces;
     for (int disk = 1; disk <= disks; ++disk)
         pieces.push_back(PieceName(disk));

@@ -50,15 +50,15 @@ void CheckUnlisted(const Package& package, const std::vector<Text>& needed,
 void CheckDigests(const FileSystem& files, const Package& package, const std::vector<Text>& needed,
                   std::vector<Text>& faults)
 {
-    std::set<Text> toldWhenMissing;
+    std::set<Text> reportedWhenMissing;
     for (const Text& name : needed)
-        toldWhenMissing.insert(LowerCase(name));
+        reportedWhenMissing.insert(LowerCase(name));
     for (const ManifestLine& line : package.manifest.lines) {
         switch (CompareFile(files, package.folder, line)) {
         case FileFault::None:
             break;
         case FileFault::Missing:
-            if (toldWhenMissing.count(LowerCase(line.name)) == 0)
+            if (reportedWhenMissing.count(LowerCase(line.name)) == 0)
                 faults.push_back("'" + line.name + "' saknas men står i " + kManifestName + ".");
             break;
         case FileFault::Unreadable:

@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* kUnfinishedName = "PACKAGE.TMP";
 // A hundred times what the longest list of files needs; what is longer is none.
-constexpr std::uint64_t kLargestManifest = 512U * 1024 * 1024;
+constexpr std::uint64_t kMaxManifestSize = 512U * 1024 * 1024;
 constexpr std::size_t kPieceSize = 64 * 1024;
 
 bool StaysInPackage(std::string_view name)
@@ -49,7 +49,7 @@ PackageManifest ReadManifest(std::string_view bytes)
     manifest.state =
         bytes.empty() ? PackageManifest::State::Unfinished : PackageManifest::State::Whole;
     while (!bytes.empty()) {
-        const auto line = TakeManifestLine(bytes);
+        const auto line = ParseManifestLine(bytes);
         const Text name = line ? ReplaceAll(line->name, "/", "\\") : Text();
         const bool isRead = line && IsUtf8(line->name) && StaysInPackage(line->name) &&
                             manifest.names.insert(LowerCase(name)).second;
@@ -69,7 +69,7 @@ PackageManifest ReadPackageManifest(const FileSystem& files, const Text& folder)
         return {};
     PackageManifest manifest{.state = PackageManifest::State::Damaged};
     RunErrorNumber([&] {
-        if (files.Facts(path).size <= kLargestManifest)
+        if (files.Status(path).size <= kMaxManifestSize)
             manifest = ReadManifest(ReadWholeFile(files, path));
     });
     return manifest;

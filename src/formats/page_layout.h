@@ -33,9 +33,9 @@ inline constexpr int kButtonHeight = 14;
 // The title in bold letters of this size to the usual ones. It may take so much of the page, and
 // scrolls where it is longer.
 inline constexpr double kTitleLetters = 1.5;
-inline constexpr int kHighestTitle = 64;
+inline constexpr int kMaxTitleHeight = 64;
 // The same for the text above fields, and for the one below an agreement.
-inline constexpr int kHighestText = 60;
-inline constexpr int kHighestFootText = 40;
+inline constexpr int kMaxTextHeight = 60;
+inline constexpr int kMaxFootTextHeight = 40;
 
 } // namespace quillon::PageLayout

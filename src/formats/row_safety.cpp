@@ -111,12 +111,12 @@ PathFault FaultOfRow(const InstallRow& row, bool isTree)
 Text UnknownVariableIn(std::string_view destination)
 {
     constexpr std::string_view kCapitals = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-    constexpr std::size_t kShortestWord = 2; // "100%A" is no attempt at a variable
+    constexpr std::size_t kMinWordLength = 2; // "100%A" is no attempt at a variable
     for (std::size_t at = destination.find('%'); at != std::string_view::npos;
          at = destination.find('%', at + 1)) {
         const std::string_view rest = destination.substr(at);
         const std::size_t end = std::min(rest.find_first_not_of(kCapitals, 1), rest.size());
-        if (end > kShortestWord && VariableAtStart(rest) == nullptr)
+        if (end > kMinWordLength && VariableAtStart(rest) == nullptr)
             return Text(rest.substr(0, end));
     }
     return {};

@@ -27,7 +27,7 @@ PathFault FaultOfRow(const InstallRow& row, bool isTree);
 /// stands. Empty where there is none.
 Text UnknownVariableIn(std::string_view destination);
 
-/// What is wrong, in words that go on behind a colon, without a point at the end; Swedish.
+/// What is wrong, in words that go on behind a colon, without a dot at the end; Swedish.
 Text PathFaultText(PathFault fault);
 
 /// The same as a sentence: "Namnet 'aux' fungerar inte i Windows: ...". Empty where nothing is

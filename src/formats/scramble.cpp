@@ -21,10 +21,10 @@ constexpr std::u32string_view kSubstitution =
 constexpr std::size_t kAlphabetSize = 79;
 static_assert(kPlain.size() == kAlphabetSize && kSubstitution.size() == kAlphabetSize);
 
-constexpr int kMostShift = 59;
+constexpr int kMaxShift = 59;
 
-// The head tells the shift more than once, so that an ordinary text is hardly taken for a scrambled
-// one. Between constant pieces stand the characters shift + offset.
+// The header tells the shift more than once, so that an ordinary text is hardly taken for a
+// scrambled one. Between constant pieces stand the characters shift + offset.
 constexpr std::string_view kMarker = "Qsv";
 constexpr std::string_view kPieces[] = {"k7R", "xW2", "Tq", "m9e"};
 constexpr int kOffsets[] = {35, 61, 48};
@@ -45,15 +45,15 @@ std::u32string Decoded(std::string_view text)
     return characters;
 }
 
-// What the head holds in front of the minute: the part that the shift alone decides.
-Text HeadOfShift(int shift)
+// What the header holds in front of the minute: the part that the shift alone decides.
+Text HeaderOfShift(int shift)
 {
-    Text head(kPieces[0]);
+    Text header(kPieces[0]);
     for (std::size_t i = 0; i < std::size(kOffsets); ++i)
-        head.append(1, char(shift + kOffsets[i])).append(kPieces[i + 1]);
+        header.append(1, char(shift + kOffsets[i])).append(kPieces[i + 1]);
     for (const int offset : kTailOffsets)
-        head += char(shift + offset);
-    return head;
+        header += char(shift + offset);
+    return header;
 }
 
 Text MinuteMark(int minute)
@@ -90,8 +90,8 @@ std::optional<Text> Substitute(std::string_view text, std::u32string_view from,
 
 std::optional<int> ShiftOfHead(std::string_view text)
 {
-    for (int shift = 0; shift <= kMostShift; ++shift)
-        if (text.starts_with(HeadOfShift(shift)))
+    for (int shift = 0; shift <= kMaxShift; ++shift)
+        if (text.starts_with(HeaderOfShift(shift)))
             return shift;
     return std::nullopt;
 }
@@ -102,11 +102,11 @@ Text ScrambleString(const Text& value, const ScrambleSeed& seed)
 {
     if (value.empty())
         return value;
-    const int shift = std::clamp(seed.second, 0, kMostShift);
+    const int shift = std::clamp(seed.second, 0, kMaxShift);
     const auto body = Substitute(value, kPlain, kSubstitution, std::size_t(shift));
     if (!body)
         return value;
-    return Text(kMarker) + HeadOfShift(shift) + MinuteMark(seed.minute) + Filler(seed) +
+    return Text(kMarker) + HeaderOfShift(shift) + MinuteMark(seed.minute) + Filler(seed) +
            kBeforeBody + *body;
 }
 
@@ -120,7 +120,7 @@ Text UnscrambleString(const Text& scrambled)
     if (!shift)
         return scrambled;
 
-    const std::size_t bodyMark = HeadOfShift(*shift).size() + kMinuteDigits + kFillerLength;
+    const std::size_t bodyMark = HeaderOfShift(*shift).size() + kMinuteDigits + kFillerLength;
     if (rest.size() <= bodyMark + 1 || rest[bodyMark] != kBeforeBody)
         return scrambled;
     const std::size_t back = kAlphabetSize - std::size_t(*shift);

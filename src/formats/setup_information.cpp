@@ -1,7 +1,7 @@
 #include "formats/setup_information.h"
 
-#include "formats/file_frame.h"
 #include "formats/scramble.h"
+#include "formats/section_document.h"
 #include "formats/setup_information_table.h"
 #include "helpers/ansi_text.h"
 #include "helpers/line_breaks.h"
@@ -64,7 +64,7 @@ struct ValueReader {
 };
 
 struct SectionNames {
-    std::vector<FrameSection> names;
+    std::vector<DocumentSection> names;
 
     template <class... Parts>
     void operator()(const char* name, const Parts&...)
@@ -73,7 +73,7 @@ struct SectionNames {
     }
     void FreeText(const char* name, const Text&)
     {
-        names.push_back({name, FrameSection::Kind::List});
+        names.push_back({name, DocumentSection::Kind::List});
     }
     void MarkedLines(const char* name, const Text& text) { FreeText(name, text); }
 };
@@ -89,24 +89,24 @@ Text JoinLines(const std::vector<Text>& lines)
 // Fills the records from what the file holds; a key or section that is not there leaves its field.
 class SectionReader {
 public:
-    explicit SectionReader(const FileFrame& frame) : frame_(frame) {}
+    explicit SectionReader(const SectionDocument& frame) : frame_(frame) {}
 
     template <class... Parts>
     void operator()(const char* name, const Parts&... parts)
     {
-        if (const FrameSection* const section = frame_.Find(name))
+        if (const DocumentSection* const section = frame_.Find(name))
             (Read(*section, parts), ...);
     }
 
     void FreeText(const char* name, Text& text)
     {
-        if (const FrameSection* const section = frame_.Find(name))
+        if (const DocumentSection* const section = frame_.Find(name))
             text = JoinLines(section->lines);
     }
 
     void MarkedLines(const char* name, Text& text)
     {
-        const FrameSection* const section = frame_.Find(name);
+        const DocumentSection* const section = frame_.Find(name);
         if (!section)
             return;
         std::vector<Text> lines = section->lines;
@@ -117,7 +117,7 @@ public:
 
 private:
     template <class Record, std::size_t N>
-    void Read(const FrameSection& section, const InfKeys<Record, N>& part)
+    void Read(const DocumentSection& section, const InfKeys<Record, N>& part)
     {
         for (std::size_t i = 0; i < N; ++i) {
             const InfKey<Record>& key = part.keys[i];
@@ -130,16 +130,16 @@ private:
         }
     }
 
-    void Read(const FrameSection&, const InfUseFlag&) {}
+    void Read(const DocumentSection&, const InfUseFlag&) {}
 
-    void Read(const FrameSection& section, const InfAnimPictures& part)
+    void Read(const DocumentSection& section, const InfAnimPictures& part)
     {
         const int last = std::min<int>(part.record.NrAnimPictures, int(part.record.P.size()));
         for (int n = 1; n <= last; ++n)
             part.record.P[std::size_t(n) - 1] = section.Value("P" + NumberText(n)).value_or("");
     }
 
-    void Read(const FrameSection& section, const InfComponents& part)
+    void Read(const DocumentSection& section, const InfComponents& part)
     {
         for (std::size_t n = 1; n <= part.components.size(); ++n) {
             section::FileComponent& component = part.components[n - 1];
@@ -148,10 +148,10 @@ private:
         }
     }
 
-    const FileFrame& frame_;
+    const SectionDocument& frame_;
 };
 
-std::vector<FrameSection> KnownSections()
+std::vector<DocumentSection> KnownSections()
 {
     Project project;
     SetupInformation info;
@@ -164,8 +164,8 @@ std::vector<FrameSection> KnownSections()
 
 SetupInformation ReadSetupInformation(std::string_view bytes)
 {
-    const FileFrame frame =
-        ReadFileFrame(AnsiText::FromBytes(bytes), kSetupInformationType, KnownSections());
+    const SectionDocument frame =
+        ReadSectionDocument(AnsiText::FromBytes(bytes), kSetupInformationType, KnownSections());
     SetupInformation info;
     info.isWhole = frame.isWhole;
     info.toolVersion = frame.toolVersion;

@@ -12,7 +12,7 @@ inline constexpr const char* kSetupInformationType = "Options";
 inline constexpr const char* kPreviewSubType = "PreviewFile";
 // Stands for the number of disks until the last one is written.
 inline constexpr const char* kFloppiesPlaceholder = "xxxx";
-// Marks each line of an INI list, so that none of them can be taken for the head of a section.
+// Marks each line of an INI list, so that none of them can be taken for the header of a section.
 inline constexpr char kIniListMark = '>';
 
 /// The forms in which a value can stand in this file.

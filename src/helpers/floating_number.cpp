@@ -83,10 +83,11 @@ std::optional<double> FloatingNumber(std::string_view text, char decimalSign)
 
 Text FormatNumber(double value, std::string_view pattern, char decimalSign)
 {
-    const std::size_t point = pattern.find('.');
-    const std::string_view wholePattern = pattern.substr(0, point);
-    const std::string_view decimalPattern =
-        point == std::string_view::npos ? std::string_view() : pattern.substr(point + 1);
+    const std::size_t decimalPoint = pattern.find('.');
+    const std::string_view wholePattern = pattern.substr(0, decimalPoint);
+    const std::string_view decimalPattern = decimalPoint == std::string_view::npos
+                                                ? std::string_view()
+                                                : pattern.substr(decimalPoint + 1);
 
     std::string digits = ScaledDigits(value, decimalPattern.size());
     const std::string decimals = digits.substr(digits.size() - decimalPattern.size());

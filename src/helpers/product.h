@@ -1,4 +1,4 @@
-// The names by which the tool knows its own files: the head of every text file that it writes.
+// The names by which the tool knows its own files: the header of every text file that it writes.
 #pragma once
 
 #include <string_view>

@@ -13,11 +13,11 @@ constexpr std::uint16_t kMachineArm64 = 0xAA64;
 constexpr std::uint16_t kIsLibrary = 0x2000;
 
 // More than any program has; a damaged table ends here.
-constexpr std::size_t kMostImports = 4096;
-constexpr std::size_t kLongestName = 260;
-constexpr std::size_t kLongestFramework = 80;
+constexpr std::size_t kMaxImports = 4096;
+constexpr std::size_t kMaxNameLength = 260;
+constexpr std::size_t kMaxFrameworkLength = 80;
 // The metadata of the largest assemblies; the note that is looked for stands in them.
-constexpr std::size_t kMostMetadata = std::size_t{16} << 20;
+constexpr std::size_t kMaxMetadata = std::size_t{16} << 20;
 
 ProgramMachine MachineOf(std::uint16_t number)
 {
@@ -46,12 +46,12 @@ public:
     {
         if (!headers_.Read())
             return std::nullopt;
-        facts_.machine = MachineOf(headers_.Machine());
-        facts_.isLibrary = (headers_.Characteristics() & kIsLibrary) != 0;
+        status_.machine = MachineOf(headers_.Machine());
+        status_.isLibrary = (headers_.Characteristics() & kIsLibrary) != 0;
         ReadImports();
         ReadDelayedImports();
         ReadClrHeader();
-        return std::move(facts_);
+        return std::move(status_);
     }
 
 private:
@@ -60,11 +60,11 @@ private:
         constexpr std::size_t kEntrySize = 20;
         constexpr std::size_t kNamePlace = 12;
         const auto table = headers_.TableOf(DataDirectory::Imports);
-        for (std::size_t i = 0; table && i < kMostImports; ++i) {
+        for (std::size_t i = 0; table && i < kMaxImports; ++i) {
             const auto entry = BytesAt(table->address + i * kEntrySize, kEntrySize);
             if (!entry || LongAt(*entry, kNamePlace) == 0)
                 return;
-            Take(LongAt(*entry, kNamePlace), facts_.imports);
+            Take(LongAt(*entry, kNamePlace), status_.imports);
         }
     }
 
@@ -73,14 +73,14 @@ private:
         constexpr std::size_t kEntrySize = 32;
         constexpr std::uint32_t kIsRelative = 1;
         const auto table = headers_.TableOf(DataDirectory::DelayedImports);
-        for (std::size_t i = 0; table && i < kMostImports; ++i) {
+        for (std::size_t i = 0; table && i < kMaxImports; ++i) {
             const auto entry = BytesAt(table->address + i * kEntrySize, kEntrySize);
             if (!entry || LongAt(*entry, 4) == 0)
                 return;
             // The linkers of the nineties noted whole addresses.
             const std::uint64_t base =
                 (LongAt(*entry, 0) & kIsRelative) != 0 ? 0 : headers_.ImageBase();
-            Take(LongAt(*entry, 4) - base, facts_.delayedImports);
+            Take(LongAt(*entry, 4) - base, status_.delayedImports);
         }
     }
 
@@ -94,26 +94,26 @@ private:
             table && table->address != 0 ? BytesAt(table->address, kHeaderSize) : std::nullopt;
         if (!header)
             return;
-        facts_.isManaged = true;
+        status_.isManaged = true;
         const std::uint32_t flags = LongAt(*header, 16);
-        facts_.isForAnyMachine = facts_.machine == ProgramMachine::X86 &&
-                                 (flags & kOnlyManagedCode) != 0 && (flags & kNeeds32Bit) == 0;
+        status_.isForAnyMachine = status_.machine == ProgramMachine::X86 &&
+                                  (flags & kOnlyManagedCode) != 0 && (flags & kNeeds32Bit) == 0;
         ReadMetadata(LongAt(*header, 8), LongAt(*header, 12));
     }
 
     void ReadMetadata(std::uint32_t address, std::uint32_t size)
     {
         constexpr std::size_t kRootSize = 16;
-        constexpr std::size_t kLongestVersion = 255;
+        constexpr std::size_t kMaxVersionLength = 255;
         const auto root = BytesAt(address, kRootSize);
         if (!root || !root->starts_with("BSJB"))
             return;
         const auto version = BytesAt(std::uint64_t(address) + kRootSize,
-                                     std::min<std::size_t>(LongAt(*root, 12), kLongestVersion));
+                                     std::min<std::size_t>(LongAt(*root, 12), kMaxVersionLength));
         if (version)
-            facts_.clrVersion = NameIn(*version);
-        if (const auto metadata = BytesAt(address, std::min<std::size_t>(size, kMostMetadata)))
-            facts_.targetFramework = FrameworkIn(*metadata);
+            status_.clrVersion = NameIn(*version);
+        if (const auto metadata = BytesAt(address, std::min<std::size_t>(size, kMaxMetadata)))
+            status_.targetFramework = FrameworkIn(*metadata);
     }
 
     static Text FrameworkIn(std::string_view metadata)
@@ -123,7 +123,7 @@ private:
         for (const std::string_view note : kNotes)
             if (const std::size_t place = metadata.find(note); place != std::string_view::npos) {
                 std::size_t end = place + note.size();
-                while (end < metadata.size() && end - place < kLongestFramework &&
+                while (end < metadata.size() && end - place < kMaxFrameworkLength &&
                        (metadata[end] == '.' || (metadata[end] >= '0' && metadata[end] <= '9')))
                     ++end;
                 return Text(metadata.substr(place, end - place));
@@ -138,7 +138,7 @@ private:
                                   : headers_.FilePosition(static_cast<std::uint32_t>(nameAddress));
         if (!position)
             return;
-        const Text name = NameIn(headers_.BytesUpTo(*position, kLongestName));
+        const Text name = NameIn(headers_.BytesUpTo(*position, kMaxNameLength));
         const bool isKnown = std::ranges::any_of(
             names, [&](const Text& known) { return EqualIgnoreCase(known, name); });
         if (!name.empty() && !isKnown)
@@ -160,7 +160,7 @@ private:
     }
 
     ProgramHeaders headers_;
-    ProgramFacts facts_;
+    ProgramFacts status_;
 };
 
 } // namespace

@@ -10,8 +10,8 @@ constexpr std::uint16_t kMagic32 = 0x10B;
 constexpr std::uint16_t kMagic64 = 0x20B;
 
 // More than any program has; a damaged count ends here.
-constexpr std::size_t kMostSections = 96;
-constexpr std::size_t kMostTables = 16;
+constexpr std::size_t kMaxSections = 96;
+constexpr std::size_t kMaxTables = 16;
 
 std::uint32_t NumberAt(std::string_view bytes, std::size_t position, std::size_t size)
 {
@@ -82,7 +82,7 @@ bool ProgramHeaders::ReadOptionalHeader(std::string_view header)
         return false;
     imageBase_ = is64Bit_ ? std::uint64_t(LongAt(header, 28)) << 32U | LongAt(header, 24)
                           : LongAt(header, 28);
-    const std::size_t told = std::min<std::size_t>(LongAt(header, firstTable - 4), kMostTables);
+    const std::size_t told = std::min<std::size_t>(LongAt(header, firstTable - 4), kMaxTables);
     for (std::size_t i = 0; i < told && firstTable + (i + 1) * 8 <= header.size(); ++i)
         tables_.push_back(
             {LongAt(header, firstTable + i * 8), LongAt(header, firstTable + i * 8 + 4)});
@@ -92,7 +92,7 @@ bool ProgramHeaders::ReadOptionalHeader(std::string_view header)
 bool ProgramHeaders::ReadSections(std::uint64_t position, std::size_t count)
 {
     constexpr std::size_t kSectionSize = 40;
-    const auto table = Bytes(position, std::min(count, kMostSections) * kSectionSize);
+    const auto table = Bytes(position, std::min(count, kMaxSections) * kSectionSize);
     if (!table)
         return false;
     for (std::size_t i = 0; i < table->size(); i += kSectionSize)

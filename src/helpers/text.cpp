@@ -136,7 +136,7 @@ std::vector<Text> SplitLines(std::string_view text)
 
 Text StrBetween(std::string_view text, std::string_view startMark, std::string_view endMark)
 {
-    constexpr std::size_t kLongestAnswer = 2000;
+    constexpr std::size_t kMaxAnswerLength = 2000;
     const std::size_t start = text.find(startMark);
     if (start == std::string_view::npos)
         return {};
@@ -144,7 +144,7 @@ Text StrBetween(std::string_view text, std::string_view startMark, std::string_v
     const std::size_t end = text.find(endMark);
     if (end == std::string_view::npos)
         return {};
-    return FirstCharacters(text.substr(0, end), kLongestAnswer);
+    return FirstCharacters(text.substr(0, end), kMaxAnswerLength);
 }
 
 Text FirstCharacters(std::string_view text, std::size_t characters)

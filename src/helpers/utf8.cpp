@@ -4,13 +4,13 @@ namespace quillon {
 
 namespace {
 
-struct Lead {
+struct LeadByte {
     int followers;
     char32_t bits;
     char32_t smallest;
 };
 
-Lead ReadLead(unsigned char byte)
+LeadByte ReadLeadByte(unsigned char byte)
 {
     if (byte < 0x80)
         return {0, byte, 0};
@@ -32,7 +32,7 @@ bool IsScalarValue(char32_t value)
 
 char32_t NextCodePoint(std::string_view text, std::size_t& position)
 {
-    const Lead lead = ReadLead(static_cast<unsigned char>(text[position++]));
+    const LeadByte lead = ReadLeadByte(static_cast<unsigned char>(text[position++]));
     if (lead.followers < 0)
         return kReplacementCharacter;
 

@@ -15,16 +15,16 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t kLongestVersionText = 300;
+constexpr std::size_t kMaxVersionTextLength = 300;
 
 constexpr std::uint32_t kVersionResource = 16; // the type's number in the resource tree
 constexpr std::uint32_t kIsFolder = 0x80000000;
 
 // More than any program has; a damaged count ends here.
-constexpr std::size_t kMostEntries = 1024;
-constexpr std::size_t kMostLanguages = 64;
+constexpr std::size_t kMaxEntries = 1024;
+constexpr std::size_t kMaxLanguages = 64;
 // A version block tells its length in 16 bits.
-constexpr std::size_t kLongestResource = 0xFFFF;
+constexpr std::size_t kMaxResourceSize = 0xFFFF;
 
 /// The part of a program that holds its resources.
 class ResourceTree {
@@ -60,14 +60,14 @@ bool ResourceTree::Open()
 
 std::vector<ResourceTree::TreeEntry> ResourceTree::Folder(std::uint32_t offset) const
 {
-    constexpr std::size_t kHeadSize = 16;
+    constexpr std::size_t kHeaderSize = 16;
     constexpr std::size_t kEntrySize = 8;
-    const auto head = headers_.Bytes(tree_ + offset, kHeadSize);
-    if (!head)
+    const auto header = headers_.Bytes(tree_ + offset, kHeaderSize);
+    if (!header)
         return {};
-    const std::size_t count = std::size_t(ShortAt(*head, 12)) + ShortAt(*head, 14);
+    const std::size_t count = std::size_t(ShortAt(*header, 12)) + ShortAt(*header, 14);
     const auto table =
-        headers_.Bytes(tree_ + offset + kHeadSize, std::min(count, kMostEntries) * kEntrySize);
+        headers_.Bytes(tree_ + offset + kHeaderSize, std::min(count, kMaxEntries) * kEntrySize);
     if (!table)
         return {};
     std::vector<TreeEntry> entries;
@@ -84,7 +84,7 @@ std::optional<std::string> ResourceTree::Leaf(std::uint32_t offset) const
     const auto position = headers_.FilePosition(LongAt(*entry, 0));
     if (!position)
         return std::nullopt;
-    return headers_.Bytes(*position, std::min<std::size_t>(LongAt(*entry, 4), kLongestResource));
+    return headers_.Bytes(*position, std::min<std::size_t>(LongAt(*entry, 4), kMaxResourceSize));
 }
 
 std::vector<std::string> ResourceTree::VersionResources() const
@@ -99,7 +99,7 @@ std::vector<std::string> ResourceTree::VersionResources() const
                 continue;
             for (const TreeEntry& language : Folder(name.offset & ~kIsFolder))
                 if (auto leaf = Leaf(language.offset & ~kIsFolder);
-                    leaf && resources.size() < kMostLanguages)
+                    leaf && resources.size() < kMaxLanguages)
                     resources.push_back(std::move(*leaf));
             return resources;
         }
@@ -122,19 +122,19 @@ struct Block {
 /// Takes the block at the front of `bytes`; nothing, and an end of the walk, where there is none.
 std::optional<Block> TakeBlock(std::string_view& bytes)
 {
-    constexpr std::size_t kHeadSize = 6;
-    if (bytes.size() < kHeadSize)
+    constexpr std::size_t kHeaderSize = 6;
+    if (bytes.size() < kHeaderSize)
         return std::nullopt;
     const std::size_t length = ShortAt(bytes, 0);
-    if (length < kHeadSize || length > bytes.size())
+    if (length < kHeaderSize || length > bytes.size())
         return std::nullopt;
     const std::string_view block = bytes.substr(0, length);
     bytes.remove_prefix(std::min(Aligned(length), bytes.size()));
 
-    std::size_t nameEnd = kHeadSize;
+    std::size_t nameEnd = kHeaderSize;
     while (nameEnd + 1 < length && ShortAt(block, nameEnd) != 0)
         nameEnd += 2;
-    return Block{.name = FromUtf16(block.substr(kHeadSize, nameEnd - kHeadSize)),
+    return Block{.name = FromUtf16(block.substr(kHeaderSize, nameEnd - kHeaderSize)),
                  .body = block.substr(std::min(Aligned(nameEnd + 2), length)),
                  .valueLength = ShortAt(block, 2)};
 }
@@ -145,7 +145,7 @@ Text TextValue(std::string_view value)
     std::size_t end = 0;
     while (end + 1 < value.size() && ShortAt(value, end) != 0)
         end += 2;
-    return FirstCharacters(FromUtf16(value.substr(0, end)), kLongestVersionText);
+    return FirstCharacters(FromUtf16(value.substr(0, end)), kMaxVersionTextLength);
 }
 
 struct TextName {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kSeparators = "\\/";
 constexpr std::string_view kForbidden = "<>:\"|?*\\/";
-constexpr std::size_t kLongestName = 255;
+constexpr std::size_t kMaxNameLength = 255;
 
 constexpr std::array<std::string_view, 7> kDevices = {"CON",    "PRN",     "AUX",   "NUL",
                                                       "CONIN$", "CONOUT$", "CLOCK$"};
@@ -80,7 +80,7 @@ PathFault FaultOfName(std::string_view name)
         return PathFault::End;
     if (IsDevice(name))
         return PathFault::Device;
-    return CharacterCount(name) > kLongestName ? PathFault::TooLong : PathFault::None;
+    return CharacterCount(name) > kMaxNameLength ? PathFault::TooLong : PathFault::None;
 }
 
 PathFault FaultOfFolder(std::string_view path)

@@ -11,7 +11,7 @@ enum class PathFault {
     Empty,
     Character,       // one of < > : " | ? * and the separators
     Control,         // a character below the blank, such as a line break
-    End,             // a point or blank at the end, which Windows takes away
+    End,             // a dot or blank at the end, which Windows takes away
     Device,          // CON, NUL, COM1 and the like, also with an extension
     TooLong,         // more characters than a name can have
     Climbs,          // ".."

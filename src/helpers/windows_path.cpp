@@ -30,7 +30,7 @@ Text ExtractFilename(std::string_view path)
     const std::size_t last = path.rfind(kBackslash);
     if (last != std::string_view::npos)
         path.remove_prefix(last + 1);
-    return FirstCharacters(path, kLongestPath);
+    return FirstCharacters(path, kMaxPathLength);
 }
 
 Text ExtractDirectory(std::string_view path)
@@ -40,30 +40,30 @@ Text ExtractDirectory(std::string_view path)
         return {};
     const std::string_view withBackslash = path.substr(0, last + 1);
     const bool keepsIt = IsDriveRoot(withBackslash);
-    return FirstCharacters(keepsIt ? withBackslash : path.substr(0, last), kLongestPath);
+    return FirstCharacters(keepsIt ? withBackslash : path.substr(0, last), kMaxPathLength);
 }
 
 Text ChangeFilenameExt(std::string_view name, std::string_view extension)
 {
     const std::size_t nameStart = name.find_last_of(kBackslash);
-    const std::size_t point = name.rfind('.');
-    const bool hasPoint = point != std::string_view::npos &&
-                          (nameStart == std::string_view::npos || point > nameStart);
-    Text changed(hasPoint ? name.substr(0, point) : name);
-    return FirstCharacters(changed.append(".").append(extension), kLongestPath);
+    const std::size_t dot = name.rfind('.');
+    const bool hasDot =
+        dot != std::string_view::npos && (nameStart == std::string_view::npos || dot > nameStart);
+    Text changed(hasDot ? name.substr(0, dot) : name);
+    return FirstCharacters(changed.append(".").append(extension), kMaxPathLength);
 }
 
-Text ExtensionFromFirstPoint(std::string_view name)
+Text ExtensionFromFirstDot(std::string_view name)
 {
-    const std::size_t point = name.find('.');
-    return point == std::string_view::npos ? Text() : Text(name.substr(point + 1));
+    const std::size_t dot = name.find('.');
+    return dot == std::string_view::npos ? Text() : Text(name.substr(dot + 1));
 }
 
 Text RemoveLastBackslash(std::string_view path)
 {
     if (!path.empty() && path.back() == kBackslash)
         path.remove_suffix(1);
-    return FirstCharacters(path, kLongestPath);
+    return FirstCharacters(path, kMaxPathLength);
 }
 
 Text RemoveDupBackslashesEx(std::string_view path)
@@ -74,7 +74,7 @@ Text RemoveDupBackslashesEx(std::string_view path)
         if (!repeats)
             single += path[i];
     }
-    return FirstCharacters(single, kLongestPath);
+    return FirstCharacters(single, kMaxPathLength);
 }
 
 Text JoinPath(std::string_view folder, std::string_view name)

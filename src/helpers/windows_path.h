@@ -7,7 +7,7 @@
 namespace quillon {
 
 // The longest path that the tool's path functions answer with, in characters.
-inline constexpr std::size_t kLongestPath = 300;
+inline constexpr std::size_t kMaxPathLength = 300;
 
 /// What stands behind the last backslash; the whole path where there is none.
 Text ExtractFilename(std::string_view path);
@@ -16,12 +16,12 @@ Text ExtractFilename(std::string_view path);
 /// it a root. Empty where the path has no folder.
 Text ExtractDirectory(std::string_view path);
 
-/// The name with what stands behind its last point replaced by `extension` (given without point); a
-/// name without a point gets one.
+/// The name with what stands behind its last dot replaced by `extension` (given without dot); a
+/// name without a dot gets one.
 Text ChangeFilenameExt(std::string_view name, std::string_view extension);
 
-/// Everything behind the first point from the left, so that `a.b.ttf` has the extension `b.ttf`.
-Text ExtensionFromFirstPoint(std::string_view name);
+/// Everything behind the first dot from the left, so that `a.b.ttf` has the extension `b.ttf`.
+Text ExtensionFromFirstDot(std::string_view name);
 
 Text RemoveLastBackslash(std::string_view path);
 

@@ -1,6 +1,6 @@
 #include "importers/add_dep_file.h"
 
-#include "filelist/add_target.h"
+#include "filelist/adding/add_target.h"
 #include "helpers/windows_path.h"
 #include "importers/dependency_file.h"
 

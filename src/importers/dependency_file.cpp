@@ -1,6 +1,6 @@
 #include "importers/dependency_file.h"
 
-#include "filelist/use_filter.h"
+#include "filelist/adding/use_filter.h"
 #include "helpers/windows_path.h"
 #include "platform/failure_text.h"
 #include "platform/whole_file.h"
@@ -9,14 +9,14 @@ namespace quillon {
 
 namespace {
 
-constexpr int kMostKeys = 1000;
+constexpr int kMaxKeys = 1000;
 // Gaps in the numbering, all of a section together, after which it counts as ended.
-constexpr int kMostMisses = 15;
+constexpr int kMaxMisses = 15;
 constexpr int kValueLimit = 200;
 
 // Dependency files hold some hundred lines. A larger one than this is something else by that name.
-constexpr std::uint64_t kLargestDepFile = std::uint64_t{32} << 20;
-constexpr std::size_t kMostBytesHeld = std::size_t{64} << 20;
+constexpr std::uint64_t kMaxDepFileSize = std::uint64_t{32} << 20;
+constexpr std::size_t kMaxBytesHeld = std::size_t{64} << 20;
 
 Text UsedFile(const ProfileReader& reader, int number)
 {
@@ -28,7 +28,7 @@ Text NameOf(const Text& path)
     return path.substr(path.rfind('\\') + 1);
 }
 
-bool HasPoint(const Text& path)
+bool HasDot(const Text& path)
 {
     return path.find('.') != Text::npos;
 }
@@ -79,7 +79,7 @@ void DependencyFiles::AddWithSecondLevel(const DepSection& section)
     if (!AddFilesToFileListViaDepFile(section))
         return;
     const auto reader = ReaderFor(section.DepFile);
-    for (int i = 1; i <= kMostKeys; ++i) {
+    for (int i = 1; i <= kMaxKeys; ++i) {
         reader->SetIniSection(section.SectionName);
         const Text value = UsedFile(*reader, i);
         if (value.empty())
@@ -108,15 +108,15 @@ int DependencyFiles::AddFilesOf(const DepSection& section, ProfileReader& reader
     reader.SetIniSection(section.SectionName);
     int misses = 0;
     int number = 1;
-    for (; number <= kMostKeys; ++number) {
+    for (; number <= kMaxKeys; ++number) {
         const Text value = UsedFile(reader, number);
         if (value.empty()) {
-            if (++misses > kMostMisses)
+            if (++misses > kMaxMisses)
                 break;
             continue;
         }
         const Text path = ResolveDepPath(value, section.BaseFolder);
-        if (!HasPoint(path))
+        if (!HasDot(path))
             continue;
         AddFile(value, path, section.Destination, done);
         // Kept: behind a name without a point the walk goes on in the section that it came to.
@@ -143,13 +143,13 @@ DependencyFiles::Walked DependencyFiles::AddFilesOfCurrentSection(const DepSecti
                                                                   const ProfileReader& reader,
                                                                   Done& done)
 {
-    for (int i = 1; i <= kMostKeys; ++i) {
+    for (int i = 1; i <= kMaxKeys; ++i) {
         const Text value = UsedFile(reader, i);
         if (value.empty())
             break;
         const Text path = ResolveDepPath(value, origin.BaseFolder);
-        if (!HasPoint(path))
-            return Walked::UpToANameWithoutPoint;
+        if (!HasDot(path))
+            return Walked::StoppedAtNameWithoutExtension;
         AddFile(value, path, origin.Destination, done);
     }
     return Walked::ToItsEnd;
@@ -180,14 +180,14 @@ std::shared_ptr<ProfileReader> DependencyFiles::ReaderFor(const Text& depFile)
     const Text key = LowerCase(depFile);
     if (const auto known = readers_.find(key); known != readers_.end())
         return known->second;
-    if (bytesHeld_ > kMostBytesHeld) {
+    if (bytesHeld_ > kMaxBytesHeld) {
         readers_.clear();
         bytesHeld_ = 0;
     }
     const auto reader = readers_.emplace(key, std::make_shared<ProfileReader>()).first->second;
     if (!host_.files.FileExists(depFile))
         return reader;
-    if (host_.files.Facts(depFile).size > kLargestDepFile) {
+    if (host_.files.Status(depFile).size > kMaxDepFileSize) {
         ask_.Critical("Fel", "Filen '" + depFile + "' är för stor för att vara en DEP-fil.");
         return reader;
     }

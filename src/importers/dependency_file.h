@@ -3,8 +3,8 @@
 // section there, or a dependency file, of its own.
 #pragma once
 
-#include "filelist/add_file.h"
-#include "project/profile_reader.h"
+#include "filelist/adding/add_file.h"
+#include "ini/profile_reader.h"
 
 #include <array>
 #include <map>
@@ -53,7 +53,7 @@ public:
     void FollowActiveXDepFile(const Text& fileName);
 
 private:
-    enum class Walked { ToItsEnd, UpToANameWithoutPoint };
+    enum class Walked { ToItsEnd, StoppedAtNameWithoutExtension };
 
     // What was done with one file for one folder and destination. What is named again is in the
     // list already, so nothing is done twice: files that name each other in thousands of lines

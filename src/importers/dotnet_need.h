@@ -27,7 +27,7 @@ struct DotNetNeed {
 DotNetNeed NeedOfRuntimeConfig(std::string_view json);
 
 /// By the program's own header.
-DotNetNeed NeedOfProgram(const ProgramFacts& facts);
+DotNetNeed NeedOfProgram(const ProgramFacts& status);
 
 /// "Programmet behöver .NET Framework 4.7.2."; empty where it needs none.
 Text DotNetNeedText(const DotNetNeed& need);

@@ -14,16 +14,16 @@ namespace quillon {
 namespace {
 
 // The table that comes with the tool has some ten kilobytes.
-constexpr std::size_t kLargestTable = std::size_t{1} << 20;
-constexpr std::size_t kLongestName = 255;
-constexpr std::size_t kMostFaultsShown = 10;
+constexpr std::size_t kMaxTableSize = std::size_t{1} << 20;
+constexpr std::size_t kMaxNameLength = 255;
+constexpr std::size_t kMaxFaultsShown = 10;
 
 constexpr std::array<std::string_view, 4> kSections = {"Controls", "Modules", "Wrappers",
                                                        "Windows"};
 
 bool IsFileName(std::string_view name)
 {
-    return !name.empty() && name.size() <= kLongestName &&
+    return !name.empty() && name.size() <= kMaxNameLength &&
            name.find_first_of("\\/:*?\"<>|;=") == std::string_view::npos &&
            std::ranges::none_of(name, [](char c) { return static_cast<unsigned char>(c) < ' '; });
 }
@@ -33,9 +33,9 @@ const char* const kNoFileName = "raden är inget filnamn";
 Text FaultsText(const Text& path, const std::vector<ImportData::Fault>& faults)
 {
     Text text = "Filen '" + path + "' har rader som ej kan användas. De är överhoppade.";
-    for (std::size_t i = 0; i < std::min(faults.size(), kMostFaultsShown); ++i)
+    for (std::size_t i = 0; i < std::min(faults.size(), kMaxFaultsShown); ++i)
         text += "\r\nRad " + NumberText(faults[i].line) + ": " + faults[i].reason + ".";
-    if (faults.size() > kMostFaultsShown)
+    if (faults.size() > kMaxFaultsShown)
         text += "\r\n...";
     return text;
 }
@@ -44,7 +44,7 @@ std::string ReadTable(const FileSystem& files, const Text& path)
 {
     const auto file = files.OpenInput(path);
     std::string bytes(
-        static_cast<std::size_t>(std::min<std::uint64_t>(file->Size(), kLargestTable)), '\0');
+        static_cast<std::size_t>(std::min<std::uint64_t>(file->Size(), kMaxTableSize)), '\0');
     std::size_t filled = 0;
     while (filled < bytes.size()) {
         const std::size_t got =
@@ -72,9 +72,9 @@ void AddTable(const FileSystem& files, const Text& path, Ask& ask, ImportData& d
 
 std::vector<ImportData::Fault> ImportData::Add(std::string_view bytes)
 {
-    constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-    if (bytes.starts_with(kUtf8Mark))
-        bytes.remove_prefix(kUtf8Mark.size());
+    constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
+    if (bytes.starts_with(kUtf8Bom))
+        bytes.remove_prefix(kUtf8Bom.size());
     const Text text =
         ReplaceAll(IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes), "\r\n", "\n");
     std::vector<Fault> faults;

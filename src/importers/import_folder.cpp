@@ -60,7 +60,7 @@ private:
              .CheckDuplicates = true,
              .UseVersionRules = true,
              .TrapErrors = true,
-             .Listed = file.entry.facts});
+             .Listed = file.entry.status});
     }
 
     RowImport& import_;
@@ -84,7 +84,7 @@ ImportEnd RunFolderImport(RowImport& import, const ProgramFolder& folder, std::s
     if (import.IsStopped())
         return ImportEnd::Stopped;
     user.HideDialog();
-    ask.YieldToEvents();
+    ask.ProcessEvents();
     user.UpdateStatusBar();
     if (choices.cAddIcon)
         import.AddProgramIcon();

@@ -36,13 +36,13 @@ void AddLists(RowImport& import, const Vb5Choices& choices)
 
 Text FindVb5Directory(const Machine& machine)
 {
-    constexpr std::size_t kLongestFolder = 511; // and a NUL at its end
+    constexpr std::size_t kMaxFolderLength = 511; // and a NUL at its end
     Text folder = FirstCharacters(machine
                                       .ReadRegistryValue(RegistryRoot::LocalMachine,
                                                          "SOFTWARE\\Microsoft\\Visual Basic\\5.0",
                                                          "InstallDir")
                                       .value_or(""),
-                                  kLongestFolder);
+                                  kMaxFolderLength);
     folder.erase(std::min(folder.find('\0'), folder.size()));
     return folder;
 }

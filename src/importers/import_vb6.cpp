@@ -109,13 +109,13 @@ private:
 
 Text FindVb6Directory(const Machine& machine)
 {
-    constexpr std::size_t kLongestCommand = 511; // and a NUL at its end
+    constexpr std::size_t kMaxCommandLength = 511; // and a NUL at its end
     Text command =
         FirstCharacters(machine
                             .ReadRegistryValue(RegistryRoot::ClassesRoot,
                                                "VisualBasic.Project\\shell\\open\\command", "")
                             .value_or(""),
-                        kLongestCommand);
+                        kMaxCommandLength);
     command.erase(std::min(command.find('\0'), command.size()));
     if (command.starts_with('"'))
         command.erase(0, 1);

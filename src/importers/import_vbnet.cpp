@@ -88,7 +88,7 @@ public:
             return;
         }
         for (const FolderEntry& entry : entries)
-            if (!entry.facts.isFolder && LowerCase(entry.name).ends_with(".dll"))
+            if (!entry.status.isFolder && LowerCase(entry.name).ends_with(".dll"))
                 AddLibrary(folder, entry);
     }
 
@@ -127,7 +127,7 @@ private:
                          .SourcePath = JoinPath(folder, entry.name),
                          .Destination = "%DESTDIR",
                          .CheckDuplicates = true,
-                         .Listed = entry.facts});
+                         .Listed = entry.status});
         } catch (const RunError&) {
             import_.Pass(entry.name, "kan ej läsas");
         }
@@ -149,7 +149,7 @@ ImportEnd RunVbNetImport(RowImport& import, const ImportData& data, const VbNetC
     if (import.IsStopped())
         return ImportEnd::Stopped;
     user.HideDialog();
-    ask.YieldToEvents();
+    ask.ProcessEvents();
     import.ShowBusy(false);
     ask.ShowStatusText("");
     user.UpdateStatusBar();

@@ -1,7 +1,7 @@
 // What the import of a development project works on, what it asks beside boxes, and how it ends.
 #pragma once
 
-#include "filelist/add_file.h"
+#include "filelist/adding/add_file.h"
 #include "filelist/list_work.h"
 
 #include <optional>

@@ -1,8 +1,8 @@
 #include "importers/lst_file.h"
 
 #include "helpers/number_text.h"
+#include "ini/profile_reader.h"
 #include "platform/whole_file.h"
-#include "project/profile_reader.h"
 
 #include <unordered_set>
 
@@ -10,11 +10,11 @@ namespace quillon {
 
 namespace {
 
-constexpr int kMostKeys = 5000;
+constexpr int kMaxKeys = 5000;
 constexpr int kValueLimit = 200;
 
 // Setup lists hold some hundred lines. A larger one than this is something else by that name.
-constexpr std::uint64_t kLargestLstFile = std::uint64_t{32} << 20;
+constexpr std::uint64_t kMaxLstFileSize = std::uint64_t{32} << 20;
 
 // Carries the wizard's own setup, which has no use in one of this tool.
 constexpr std::string_view kWizardsKit = "VB6STKIT.DLL";
@@ -31,7 +31,7 @@ std::vector<Text> NamesInSection(ProfileReader& reader, const Text& section)
 {
     reader.SetIniSection(section);
     std::vector<Text> names;
-    for (int i = 1; i <= kMostKeys; ++i) {
+    for (int i = 1; i <= kMaxKeys; ++i) {
         const Text value = reader.ReadIniString("File" + NumberText(i), kValueLimit);
         if (value.empty())
             break;
@@ -65,7 +65,7 @@ private:
 std::optional<std::vector<Text>> MissingFromFileList(const FileSystem& files, const Text& lstFile,
                                                      const std::vector<FileListRow>& rows)
 {
-    if (files.Facts(lstFile).size > kLargestLstFile)
+    if (files.Status(lstFile).size > kMaxLstFileSize)
         return std::nullopt;
     ProfileReader reader;
     reader.SetIniBytes(ReadWholeFile(files, lstFile));

@@ -11,9 +11,9 @@ bool NeedsMfc(const ImportData& data, Host host, const Text& fileName)
 {
     if (data.IsMfcControl(fileName))
         return true;
-    const auto facts =
+    const auto status =
         FactsOfProgram(host.files, LowerCase(JoinPath(host.machine.GetSystemDir(), fileName)));
-    return facts && std::ranges::any_of(facts->imports, [](const Text& library) {
+    return status && std::ranges::any_of(status->imports, [](const Text& library) {
                return EqualIgnoreCase(library, "Mfc42.dll");
            });
 }

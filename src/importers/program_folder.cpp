@@ -1,6 +1,6 @@
 #include "importers/program_folder.h"
 
-#include "filelist/file_version.h"
+#include "filelist/adding/file_version.h"
 #include "helpers/windows_path.h"
 #include "importers/program_on_disk.h"
 #include "platform/failure_text.h"
@@ -16,9 +16,9 @@ namespace quillon {
 namespace {
 
 // What a project can hold; a folder with more is none of one program.
-constexpr std::size_t kMostFiles = kMostRows;
-constexpr std::size_t kMostDepth = 64;
-constexpr std::uint64_t kLargestRuntimeConfig = std::uint64_t{1} << 20;
+constexpr std::size_t kMaxFiles = kMaxRows;
+constexpr std::size_t kMaxDepth = 64;
+constexpr std::uint64_t kMaxRuntimeConfigSize = std::uint64_t{1} << 20;
 
 constexpr std::array<std::string_view, 7> kProgramExtensions = {".exe", ".dll", ".ocx", ".node",
                                                                 ".pyd", ".cpl", ".drv"};
@@ -57,22 +57,22 @@ public:
     {
     }
 
-    void Read() { Walk("", files_.Facts(read_.folder).identity); }
+    void Read() { Walk("", files_.Status(read_.folder).identity); }
 
 private:
     void Walk(const Text& folder, std::uint64_t identity)
     {
-        if (LeadsBack(identity) || entered_.size() > kMostDepth)
+        if (LeadsBack(identity) || entered_.size() > kMaxDepth)
             return;
         entered_.push_back(identity);
         const std::vector<FolderEntry> entries =
             files_.List(folder.empty() ? read_.folder : JoinPath(read_.folder, folder));
         for (const FolderEntry& entry : entries)
-            if (entry.facts.isFolder && isGoingOn_)
-                Walk(Joined(folder, entry.name), entry.facts.identity);
+            if (entry.status.isFolder && isGoingOn_)
+                Walk(Joined(folder, entry.name), entry.status.identity);
         for (const FolderEntry& entry : entries)
-            if (!entry.facts.isFolder && isGoingOn_)
-                Take({.folder = folder, .entry = entry, .facts = {}});
+            if (!entry.status.isFolder && isGoingOn_)
+                Take({.folder = folder, .entry = entry, .status = {}});
         entered_.pop_back();
     }
 
@@ -83,7 +83,7 @@ private:
 
     void Take(FolderFile file)
     {
-        if (read_.files.size() == kMostFiles) {
+        if (read_.files.size() == kMaxFiles) {
             read_.damage = "Katalogen har fler filer än en fillista rymmer (32767).";
             isGoingOn_ = false;
             return;
@@ -92,7 +92,7 @@ private:
         if (!isGoingOn_)
             return;
         if (EndsInOneOf(LowerCase(file.entry.name), kProgramExtensions))
-            file.facts = FactsOfProgram(files_, JoinPath(read_.folder, file.RelativePath()));
+            file.status = FactsOfProgram(files_, JoinPath(read_.folder, file.RelativePath()));
         read_.files.push_back(std::move(file));
     }
 
@@ -122,7 +122,7 @@ Likelihood LikelihoodOf(const ProgramFolder& folder, const FolderFile& file,
             .hasFilesOfItsName = lowerPaths.contains(stem + ".runtimeconfig.json") ||
                                  lowerPaths.contains(stem + ".exe.config") ||
                                  EqualIgnoreCase(stem, ExtractFilename(folder.folder)),
-            .size = file.entry.facts.size};
+            .size = file.entry.status.size};
 }
 
 void FindPrograms(ProgramFolder& folder)
@@ -133,7 +133,7 @@ void FindPrograms(ProgramFolder& folder)
     std::vector<std::pair<Likelihood, std::size_t>> found;
     for (std::size_t i = 0; i < folder.files.size(); ++i) {
         const FolderFile& file = folder.files[i];
-        if (file.facts && !file.facts->isLibrary && LowerCase(file.entry.name).ends_with(".exe"))
+        if (file.status && !file.status->isLibrary && LowerCase(file.entry.name).ends_with(".exe"))
             found.emplace_back(LikelihoodOf(folder, file, lowerPaths), i);
     }
     std::ranges::stable_sort(
@@ -152,9 +152,9 @@ public:
 
     void Look(const FolderFile& file)
     {
-        for (const Text& library : file.facts->imports)
+        for (const Text& library : file.status->imports)
             Take(library, file, false);
-        for (const Text& library : file.facts->delayedImports)
+        for (const Text& library : file.status->delayedImports)
             Take(library, file, true);
     }
 
@@ -197,9 +197,9 @@ std::vector<MixedMachine> FindMixed(const ProgramFolder& folder, const ProgramFa
     if (program.isForAnyMachine)
         return mixed;
     for (const FolderFile& file : folder.files)
-        if (file.facts && file.facts->isLibrary && !file.facts->isForAnyMachine &&
-            file.facts->machine != program.machine && !IsForItsMachine(file))
-            mixed.push_back({file.RelativePath(), file.facts->machine});
+        if (file.status && file.status->isLibrary && !file.status->isForAnyMachine &&
+            file.status->machine != program.machine && !IsForItsMachine(file))
+            mixed.push_back({file.RelativePath(), file.status->machine});
     return mixed;
 }
 
@@ -209,9 +209,9 @@ DotNetNeed FindDotNet(const FileSystem& files, const ProgramFolder& folder,
     const Text path = JoinPath(folder.folder, program.RelativePath());
     const Text config = path.substr(0, path.size() - 4) + ".runtimeconfig.json";
     if (!files.FileExists(config))
-        return NeedOfProgram(*program.facts);
+        return NeedOfProgram(*program.status);
     try {
-        if (files.Facts(config).size <= kLargestRuntimeConfig)
+        if (files.Status(config).size <= kMaxRuntimeConfigSize)
             return NeedOfRuntimeConfig(ReadWholeFile(files, config));
     } catch (const RunError&) {
         // Told as a damaged one.
@@ -223,11 +223,11 @@ DotNetNeed FindDotNet(const FileSystem& files, const ProgramFolder& folder,
 
 Text NeededByText(const MissingLibrary& library)
 {
-    constexpr std::size_t kMostNamed = 3;
+    constexpr std::size_t kMaxNamed = 3;
     Text text;
-    for (std::size_t i = 0; i < std::min(library.neededBy.size(), kMostNamed); ++i)
+    for (std::size_t i = 0; i < std::min(library.neededBy.size(), kMaxNamed); ++i)
         text += (i == 0 ? "" : ", ") + library.neededBy[i];
-    return text + (library.neededBy.size() > kMostNamed ? " m.fl." : "");
+    return text + (library.neededBy.size() > kMaxNamed ? " m.fl." : "");
 }
 
 } // namespace
@@ -274,14 +274,14 @@ ProgramFindings FindingsOf(const FileSystem& files, const ProgramFolder& folder,
                            const FolderFile& program, const ImportData& data)
 {
     ProgramFindings findings{
-        .machine = program.facts->machine,
+        .machine = program.status->machine,
         .version = VersionDataOfFile(files, JoinPath(folder.folder, program.RelativePath())),
         .dotNet = FindDotNet(files, folder, program),
         .missing = {},
-        .mixed = FindMixed(folder, *program.facts)};
+        .mixed = FindMixed(folder, *program.status)};
     MissingFinder finder(folder, data);
     for (const FolderFile& file : folder.files)
-        if (file.facts && !IsForItsMachine(file))
+        if (file.status && !IsForItsMachine(file))
             finder.Look(file);
     findings.missing = finder.Missing();
     return findings;

@@ -16,7 +16,7 @@ struct FolderFile {
     Text folder; // below the output folder, without backslashes at its ends; empty at the top
     FolderEntry entry;
     // Of programs and libraries.
-    std::optional<ProgramFacts> facts;
+    std::optional<ProgramFacts> status;
 
     Text RelativePath() const;
 };

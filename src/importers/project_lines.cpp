@@ -27,7 +27,7 @@ bool LooksLikeUtf16(std::string_view bytes)
 
 Text Decode(std::string_view bytes)
 {
-    constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+    constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
     constexpr std::string_view kLowByteFirst = "\xFF\xFE";
     constexpr std::string_view kHighByteFirst = "\xFE\xFF";
     if (bytes.starts_with(kLowByteFirst))
@@ -36,8 +36,8 @@ Text Decode(std::string_view bytes)
         return FromUtf16HighByteFirst(std::string(bytes.substr(kHighByteFirst.size())));
     if (LooksLikeUtf16(bytes))
         return FromUtf16(bytes);
-    if (bytes.starts_with(kUtf8Mark))
-        bytes.remove_prefix(kUtf8Mark.size());
+    if (bytes.starts_with(kUtf8Bom))
+        bytes.remove_prefix(kUtf8Bom.size());
     return IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes);
 }
 
@@ -63,7 +63,7 @@ std::string_view TakeLine(std::string_view& text)
 
 bool IsReadable(std::string_view line)
 {
-    return line.size() <= kLongestProjectLine && line.find('\0') == std::string_view::npos;
+    return line.size() <= kMaxProjectLineLength && line.find('\0') == std::string_view::npos;
 }
 
 Text SkippedLinesText(std::size_t count, std::size_t first, const Text& path)
@@ -81,8 +81,8 @@ Text SkippedLinesText(std::size_t count, std::size_t first, const Text& path)
 ProjectLines SplitProject(std::string_view bytes, const Text& path)
 {
     ProjectLines project;
-    const bool isTooLarge = bytes.size() > kMostProjectBytes;
-    const Text text = Decode(isTooLarge ? WholeLinesOf(bytes.substr(0, kMostProjectBytes)) : bytes);
+    const bool isTooLarge = bytes.size() > kMaxProjectBytes;
+    const Text text = Decode(isTooLarge ? WholeLinesOf(bytes.substr(0, kMaxProjectBytes)) : bytes);
     std::size_t number = 0;
     std::size_t skipped = 0;
     std::size_t firstSkipped = 0;
@@ -106,7 +106,7 @@ ProjectLines ReadProjectLines(const FileSystem& files, const Text& path)
 {
     const auto file = files.OpenInput(path);
     // One byte more shows that there is more.
-    std::string bytes(kMostProjectBytes + 1, '\0');
+    std::string bytes(kMaxProjectBytes + 1, '\0');
     std::size_t filled = 0;
     while (filled < bytes.size()) {
         const std::size_t got =

@@ -10,8 +10,8 @@ namespace quillon {
 
 // Project files hold some hundred short lines. What goes beyond these is damaged, or is something
 // else by that name.
-inline constexpr std::size_t kMostProjectBytes = std::size_t{4} << 20;
-inline constexpr std::size_t kLongestProjectLine = 4096;
+inline constexpr std::size_t kMaxProjectBytes = std::size_t{4} << 20;
+inline constexpr std::size_t kMaxProjectLineLength = 4096;
 
 struct ProjectLines {
     std::vector<Text> lines;

@@ -1,7 +1,7 @@
 #include "importers/row_import.h"
 
-#include "filelist/add_target.h"
-#include "filelist/icon_row.h"
+#include "filelist/adding/add_target.h"
+#include "filelist/options/icon_row.h"
 #include "helpers/windows_path.h"
 #include "importers/project_lines.h"
 #include "platform/failure_text.h"
@@ -194,7 +194,7 @@ bool HasSystemFolder(Host host, Ask& ask)
     const Text folder = host.machine.GetSystemDir();
     try {
         const auto entries = folder.empty() ? std::vector<FolderEntry>() : host.files.List(folder);
-        if (std::ranges::any_of(entries, [](const auto& entry) { return !entry.facts.isFolder; }))
+        if (std::ranges::any_of(entries, [](const auto& entry) { return !entry.status.isFolder; }))
             return true;
     } catch (const RunError&) {
         // Told below, as a folder without files is.

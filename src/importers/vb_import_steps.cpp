@@ -49,7 +49,7 @@ ImportEnd EndVbImport(RowImport& import, const Text& program, bool withIcon,
     if (import.IsStopped())
         return ImportEnd::Stopped;
     user.HideDialog();
-    ask.YieldToEvents();
+    ask.ProcessEvents();
     user.UpdateStatusBar();
     ImportEnd end = ImportEnd::Done;
     if (!import.AddProgram(program, end))

@@ -55,7 +55,7 @@ std::vector<Text> ActiveXFilesOf(const std::vector<Text>& lines)
 {
     std::vector<Text> names;
     for (const Text& line : lines) {
-        if (names.size() == kMostReferences)
+        if (names.size() == kMaxReferences)
             break;
         if (auto name = ActiveXFileIn(line))
             names.push_back(std::move(*name));

@@ -21,9 +21,9 @@ struct VbModule {
 std::optional<VbModule> ModuleIn(std::string_view line);
 
 // No project has as many; a file that names more is none.
-inline constexpr std::size_t kMostReferences = 1000;
+inline constexpr std::size_t kMaxReferences = 1000;
 
-/// In the order of the file, at most `kMostReferences` of them.
+/// In the order of the file, at most `kMaxReferences` of them.
 std::vector<Text> ActiveXFilesOf(const std::vector<Text>& lines);
 
 } // namespace quillon

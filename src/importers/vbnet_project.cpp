@@ -30,7 +30,7 @@ std::optional<std::vector<ComReference>> ComReferencesOf(const std::vector<Text>
         if (!ContainsText(*line, "Guid = \"{"))
             continue;
         // Kept: the two versions are the next two lines, whatever stands there.
-        if (lines.end() - line <= 2 || references.size() == kMostReferences)
+        if (lines.end() - line <= 2 || references.size() == kMaxReferences)
             break;
         references.push_back({.guid = "{" + StrBetween(*line, "{", "}") + "}",
                               .major = InQuotes(*(line + 1)),

@@ -18,7 +18,7 @@ struct ComReference {
     bool operator==(const ComReference&) const = default;
 };
 
-/// In the order of the file, at most `kMostReferences` of them; nothing where the file has no list
+/// In the order of the file, at most `kMaxReferences` of them; nothing where the file has no list
 /// of references.
 std::optional<std::vector<ComReference>> ComReferencesOf(const std::vector<Text>& lines);
 

@@ -15,10 +15,10 @@ constexpr std::size_t kInfoHeader = 40;
 constexpr std::size_t kOs2LongHeader = 64;
 constexpr std::size_t kMasksHeader = 52;
 constexpr std::size_t kAlphaMaskHeader = 56;
-constexpr std::size_t kLargestHeader = 124;
+constexpr std::size_t kMaxHeaderSize = 124;
 constexpr Pixel kOpaque = 0xFF000000;
 // More than a byte can name, since some writers store that many.
-constexpr std::uint32_t kMostColours = 65536;
+constexpr std::uint32_t kMaxColours = 65536;
 
 enum Compression : std::uint32_t {
     kPlain = 0,
@@ -32,7 +32,7 @@ bool IsKnownHeader(std::size_t size)
 {
     // OS/2 lets a long header end behind any field.
     return size == kOs2Header || (size >= 16 && size <= kOs2LongHeader && size % 2 == 0) ||
-           size == 108 || size == kLargestHeader;
+           size == 108 || size == kMaxHeaderSize;
 }
 
 bool AreContiguous(std::uint32_t mask)
@@ -79,7 +79,7 @@ void ReadInfoHeader(PictureBytes dib, BitmapHeader& header)
     header.bits = dib.Word(14);
     // A header that ends earlier has zeros there.
     header.compression = header.headerSize >= 20 ? dib.Long(16) : 0;
-    header.colours = header.headerSize >= 36 ? std::min(dib.Long(32), kMostColours) : 0;
+    header.colours = header.headerSize >= 36 ? std::min(dib.Long(32), kMaxColours) : 0;
 }
 
 bool IsCompressionOf(const BitmapHeader& header)

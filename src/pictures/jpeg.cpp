@@ -10,8 +10,8 @@ namespace quillon {
 namespace {
 
 // All that a picture takes together, below 256 MiB with room for the rest of the program.
-constexpr std::int64_t kMostMemory = std::int64_t{224} << 20;
-constexpr int kLargestSide = 65500;
+constexpr std::int64_t kMaxMemory = std::int64_t{224} << 20;
+constexpr int kMaxSideSize = 65500;
 
 enum Marker : std::uint8_t {
     kBaseline = 0xC0,
@@ -43,8 +43,8 @@ bool ReadFrame(const PictureBytes& frame, JpegHeader& header)
     }
     header.samples16 = (header.samples16 * 16 + most - 1) / most;
     return frame.Byte(0) == 8 && (components == 1 || components == 3 || components == 4) &&
-           header.width >= 1 && header.height >= 1 && header.width <= kLargestSide &&
-           header.height <= kLargestSide;
+           header.width >= 1 && header.height >= 1 && header.width <= kMaxSideSize &&
+           header.height <= kMaxSideSize;
 }
 
 /// Numbers in the order that the note's own head names.
@@ -160,7 +160,7 @@ int JpegReduction(const JpegHeader& header, std::size_t fileSize)
         if (kept <= kMaxPicturePixels &&
             static_cast<std::int64_t>(fileSize) + scans +
                     kept * copies * static_cast<std::int64_t>(sizeof(Pixel)) <=
-                kMostMemory)
+                kMaxMemory)
             return reduction;
     }
     return 0;
@@ -177,7 +177,7 @@ PictureResult DecodeJpeg(std::string_view bytes)
     const std::uint64_t kept = std::uint64_t{sizeof(Pixel)} *
                                static_cast<std::uint64_t>(Reduced(header.width, reduction)) *
                                static_cast<std::uint64_t>(Reduced(header.height, reduction));
-    const auto rest = static_cast<std::uint64_t>(kMostMemory) - bytes.size() - kept;
+    const auto rest = static_cast<std::uint64_t>(kMaxMemory) - bytes.size() - kept;
     Picture pixels = DecodeJpegPixels(
         bytes,
         {.width = header.width, .height = header.height, .reduction = reduction, .memory = rest});

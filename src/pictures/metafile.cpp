@@ -10,16 +10,16 @@ namespace quillon {
 namespace {
 
 constexpr std::int64_t kDotsPerInch = 96;
-constexpr int kLargestSide = 32767;
+constexpr int kMaxSideSize = 32767;
 // A drawing without a size on paper: as many pixels as it has units, or, of many, as twips.
-constexpr int kMostUnitsAsPixels = 2048;
+constexpr int kMaxUnitsAsPixels = 2048;
 constexpr std::int64_t kTwipsPerPixel = 15;
 
 // Drawn this much larger in both directions and made smaller again, which smooths the edges, as
 // long as that takes no more than 64 MiB.
 constexpr int kSmoothing[] = {4, 3, 2, 1};
-constexpr std::int64_t kMostRasterPixels = 16 << 20;
-constexpr std::int64_t kMostWork = 800'000'000;
+constexpr std::int64_t kMaxRasterPixels = 16 << 20;
+constexpr std::int64_t kMaxWork = 800'000'000;
 
 struct Metafile {
     std::string bytes;
@@ -38,7 +38,7 @@ PictureBytes RecordsOf(const Metafile& file)
 int SideOf(std::int64_t units, std::int64_t pixels, std::int64_t perUnits)
 {
     const std::int64_t side = (std::abs(units) * pixels + perUnits / 2) / perUnits;
-    return side <= kLargestSide ? static_cast<int>(side) : 0;
+    return side <= kMaxSideSize ? static_cast<int>(side) : 0;
 }
 
 void ReadPlaceableHead(PictureBytes head, Metafile& file)
@@ -54,7 +54,7 @@ void ReadPlaceableHead(PictureBytes head, Metafile& file)
 void SetSizeByWindow(Metafile& file)
 {
     const bool isFine =
-        std::max(std::abs(file.window.width), std::abs(file.window.height)) > kMostUnitsAsPixels;
+        std::max(std::abs(file.window.width), std::abs(file.window.height)) > kMaxUnitsAsPixels;
     file.width = SideOf(file.window.width, 1, isFine ? kTwipsPerPixel : 1);
     file.height = SideOf(file.window.height, 1, isFine ? kTwipsPerPixel : 1);
 }
@@ -86,7 +86,7 @@ Picture PlayAt(const Metafile& file, int width, int height, int scale, Letters& 
     Picture raster{width * scale, height * scale, {}};
     raster.pixels.resize(static_cast<std::size_t>(raster.width) *
                          static_cast<std::size_t>(raster.height));
-    WorkLeft work(kMostWork);
+    WorkLeft work(kMaxWork);
     Raster target(WholeCanvas(raster.pixels.data(), raster.width, raster.height), work);
     MetafilePlayer(target, letters, file.window, scale).Play(RecordsOf(file));
     isSpent = work.IsSpent();
@@ -96,11 +96,11 @@ Picture PlayAt(const Metafile& file, int width, int height, int scale, Letters& 
 Picture DrawAt(const Metafile& file, int width, int height, Letters& letters)
 {
     const std::int64_t pixels = std::int64_t{width} * height;
-    if (pixels > kMostRasterPixels)
+    if (pixels > kMaxRasterPixels)
         return Scaled(DrawAt(file, (width + 1) / 2, (height + 1) / 2, letters), width, height);
     bool isSpent = false;
     for (const int scale : kSmoothing) {
-        if (pixels * scale * scale > kMostRasterPixels)
+        if (pixels * scale * scale > kMaxRasterPixels)
             continue;
         Picture picture = PlayAt(file, width, height, scale, letters, isSpent);
         if (!isSpent)

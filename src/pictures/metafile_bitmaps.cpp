@@ -9,7 +9,7 @@ namespace quillon {
 namespace {
 
 // Decoded it takes 48 MB for a moment.
-constexpr std::int64_t kMostDibPixels = 12'000'000;
+constexpr std::int64_t kMaxDibPixels = 12'000'000;
 constexpr int kWorkOfDibPixel = 4;
 constexpr int kWorkOfBlitPixel = 8;
 constexpr std::uint8_t kSourceCopy = 0xCC;
@@ -64,7 +64,7 @@ void MetafilePlayer::PlayBlit(const Blit& blit, PictureBytes dib)
 {
     if (raster_.Work().IsSpent())
         return;
-    const auto source = DecodeDib(dib, kMostDibPixels);
+    const auto source = DecodeDib(dib, kMaxDibPixels);
     if (!source)
         return;
     Blit placed = blit;

@@ -10,8 +10,8 @@ namespace quillon {
 namespace {
 
 // Patterns are small; what is larger is painted as one colour.
-constexpr std::int64_t kMostTile = 256 * 256;
-constexpr std::int64_t kMostTiles = 4'000'000;
+constexpr std::int64_t kMaxTile = 256 * 256;
+constexpr std::int64_t kMaxTiles = 4'000'000;
 constexpr Colour kGrey = 0x808080;
 
 } // namespace
@@ -101,7 +101,7 @@ void MetafilePlayer::CreatePatternBrush(const Record&)
 void MetafilePlayer::DIBCreatePatternBrush(const Record& record)
 {
     MetafileBrush brush{.colour = kGrey};
-    brush.tile = DecodeDib(record.given.Part(4), std::min(kMostTile, kMostTiles - tilePixels_));
+    brush.tile = DecodeDib(record.given.Part(4), std::min(kMaxTile, kMaxTiles - tilePixels_));
     if (brush.tile)
         tilePixels_ += static_cast<std::int64_t>(brush.tile->pixels.size());
     AddBrush(brush);

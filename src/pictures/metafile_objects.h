@@ -61,7 +61,7 @@ public:
         if (!free_.empty()) {
             objects_[free_.top()] = std::move(object);
             free_.pop();
-        } else if (objects_.size() < kMost) {
+        } else if (objects_.size() < kMax) {
             objects_.push_back(std::move(object));
         }
     }
@@ -81,7 +81,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t kMost = 65536;
+    static constexpr std::size_t kMax = 65536;
 
     std::vector<MetafileObject> objects_;
     std::priority_queue<std::size_t, std::vector<std::size_t>, std::greater<>> free_;

@@ -9,8 +9,8 @@ namespace quillon {
 namespace {
 
 // Nobody nests deeper; a file that does is no drawing.
-constexpr std::size_t kMostSaved = 256;
-constexpr std::size_t kMostHoles = 32;
+constexpr std::size_t kMaxSaved = 256;
+constexpr std::size_t kMaxHoles = 32;
 constexpr int kWorkOfRecord = 50;
 
 } // namespace
@@ -115,19 +115,19 @@ PixelRect MetafilePlayer::PixelsOf(const FineRect& rect) const
             FirstPixelFrom(std::max(rect.first.y, rect.last.y))};
 }
 
-std::int32_t MetafilePlayer::Across(int width) const
+std::int32_t MetafilePlayer::HBox(int width) const
 {
     return std::abs(Place(state_.window.left + width, 0).x);
 }
 
-std::int32_t MetafilePlayer::Down(int height) const
+std::int32_t MetafilePlayer::VBox(int height) const
 {
     return std::abs(Place(0, state_.window.top + height).y);
 }
 
 void MetafilePlayer::SaveDC(const Record&)
 {
-    if (saved_.size() < kMostSaved)
+    if (saved_.size() < kMaxSaved)
         saved_.push_back(state_);
 }
 
@@ -198,9 +198,9 @@ void MetafilePlayer::SetWindowExt(const Record& record)
 
 void MetafilePlayer::OffsetWindowOrg(const Record& record)
 {
-    constexpr int kMost = 1'000'000;
-    state_.window.left = std::clamp(state_.window.left + record[1], -kMost, kMost);
-    state_.window.top = std::clamp(state_.window.top + record[0], -kMost, kMost);
+    constexpr int kMax = 1'000'000;
+    state_.window.left = std::clamp(state_.window.left + record[1], -kMax, kMax);
+    state_.window.top = std::clamp(state_.window.top + record[0], -kMax, kMax);
 }
 
 void MetafilePlayer::ScaleWindowExt(const Record& record)
@@ -231,7 +231,7 @@ void MetafilePlayer::IntersectClipRect(const Record& record)
 
 void MetafilePlayer::ExcludeClipRect(const Record& record)
 {
-    if (state_.clip.holes.size() < kMostHoles)
+    if (state_.clip.holes.size() < kMaxHoles)
         state_.clip.holes.push_back(PixelsOf(RectAt(record, 0)));
 }
 

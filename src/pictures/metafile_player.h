@@ -116,8 +116,8 @@ private:
     /// Of a record that names bottom, right, top, left in this order from `word` on.
     FineRect RectAt(const Record& record, std::size_t word) const;
     PixelRect PixelsOf(const FineRect& rect) const;
-    std::int32_t Across(int width) const;
-    std::int32_t Down(int height) const;
+    std::int32_t HBox(int width) const;
+    std::int32_t VBox(int height) const;
     FinePoints PointsAt(const Record& record, std::size_t byte, std::size_t count) const;
     FineRect ArcRect(const Record& record) const;
     FinePoints ArcPoints(const Record& record) const;

@@ -33,7 +33,7 @@ const std::vector<std::int32_t>& DashesOf(PenStyle style)
     }
 }
 
-constexpr std::size_t kMostDashes = 20'000;
+constexpr std::size_t kMaxDashes = 20'000;
 constexpr int kWorkOfStroke = 200; // for each point or dash
 
 } // namespace
@@ -80,7 +80,7 @@ void MetafilePlayer::Stroke(const FinePoints& line, bool isClosed)
         return;
     // No pen is thinner than one pixel of the picture.
     const std::int32_t pixel = scale_ * kFine;
-    const std::int32_t width = std::max(Across(pen.width), pixel);
+    const std::int32_t width = std::max(HBox(pen.width), pixel);
     const Ink ink{.colour = quillon::PixelOf(pen.colour), .combination = state_.combination};
     const bool isDashed = pen.style != PenStyle::Solid && pen.style != PenStyle::InsideFrame;
     raster_.Work().Spend(kWorkOfStroke * static_cast<std::int64_t>(line.size()));
@@ -99,7 +99,7 @@ void MetafilePlayer::StrokeDashes(const FinePoints& line, bool isClosed, std::in
     std::vector<std::int32_t> lengths = DashesOf(state_.pen.style);
     for (std::int32_t& length : lengths)
         length *= scale_ * kFine;
-    for (const FinePoints& dash : quillon::DashesOf(whole, lengths, kMostDashes)) {
+    for (const FinePoints& dash : quillon::DashesOf(whole, lengths, kMaxDashes)) {
         raster_.Work().Spend(kWorkOfStroke);
         raster_.Fill(StrokeOf(dash, false, width), FillRule::NonZero, ink, state_.clip);
     }
@@ -164,7 +164,7 @@ void MetafilePlayer::Rectangle(const Record& record)
 
 void MetafilePlayer::RoundRect(const Record& record)
 {
-    FillAndStroke(RoundRectOf(RectAt(record, 2), Across(record[1]), Down(record[0])));
+    FillAndStroke(RoundRectOf(RectAt(record, 2), HBox(record[1]), VBox(record[0])));
 }
 
 void MetafilePlayer::Ellipse(const Record& record)

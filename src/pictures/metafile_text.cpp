@@ -13,18 +13,18 @@ namespace {
 enum TextAlign { kUpdatePosition = 1, kRight = 2, kCentre = 6, kBottom = 8, kBaseline = 24 };
 enum TextOptions { kOpaqueRect = 2, kClippedRect = 4 };
 
-constexpr std::size_t kLongestText = 1024;
+constexpr std::size_t kMaxTextLength = 1024;
 constexpr int kSmallestLetters = 2;
-constexpr int kLargestLetters = 1500;
+constexpr int kMaxHalfPoints = 1500;
 // Letters are drawn in one piece.
-constexpr std::int64_t kMostMask = 8'000'000;
+constexpr std::int64_t kMaxMask = 8'000'000;
 constexpr int kWorkOfMaskPixel = 8;
 
 } // namespace
 
 Text MetafilePlayer::TextOf(PictureBytes bytes, std::size_t length) const
 {
-    Text text = AnsiText::FromBytes(bytes.View().substr(0, std::min(length, kLongestText)));
+    Text text = AnsiText::FromBytes(bytes.View().substr(0, std::min(length, kMaxTextLength)));
     for (char& letter : text)
         if (static_cast<unsigned char>(letter) < ' ')
             letter = ' ';
@@ -36,12 +36,12 @@ ScreenFont MetafilePlayer::FontInPixels()
     const MetafileFont& font = state_.font;
     const int height = font.height == 0 ? 12 : font.height;
     ScreenFont screen{.name = font.name,
-                      .size = Down(std::abs(height)) / kFine,
+                      .size = VBox(std::abs(height)) / kFine,
                       .isBold = font.isBold,
                       .isItalic = font.isItalic,
                       .isStrikeOut = font.isStrikeOut,
                       .isUnderlined = font.isUnderlined};
-    if (screen.size < kSmallestLetters || screen.size > kLargestLetters) {
+    if (screen.size < kSmallestLetters || screen.size > kMaxHalfPoints) {
         screen.size = 0;
         return screen;
     }
@@ -62,12 +62,12 @@ void MetafilePlayer::PaintText(Line line)
     if (line.advances.empty()) {
         line.advances = letters_.Advances(font, line.text);
         for (int& advance : line.advances)
-            advance += state_.charExtra < 0 ? -Across(state_.charExtra) / kFine
-                                            : Across(state_.charExtra) / kFine;
+            advance += state_.charExtra < 0 ? -HBox(state_.charExtra) / kFine
+                                            : HBox(state_.charExtra) / kFine;
     }
     const auto width = std::accumulate(line.advances.begin(), line.advances.end(), std::int64_t{0});
     const FontHeight height = letters_.Height(font);
-    if (std::abs(width) * height.Line() > kMostMask)
+    if (std::abs(width) * height.Line() > kMaxMask)
         return;
     raster_.Work().Spend((std::abs(width) + 1) * height.Line() * kWorkOfMaskPixel);
 
@@ -137,10 +137,10 @@ void MetafilePlayer::WriteExtendedText(const Record& record)
               .place =
                   Place(isAtPosition ? state_.x : record[1], isAtPosition ? state_.y : record[0])};
     const std::size_t behind = begin + (length + 1) / 2 * 2;
-    const std::size_t letters = std::min(length, kLongestText);
+    const std::size_t letters = std::min(length, kMaxTextLength);
     if (letters > 0 && record.given.Has(behind, std::uint64_t{letters} * 2))
         for (std::size_t i = 0; i < letters; ++i)
-            line.advances.push_back(Across(record.given.Short(behind + i * 2)) / kFine);
+            line.advances.push_back(HBox(record.given.Short(behind + i * 2)) / kFine);
     PaintText(std::move(line));
     state_.clip = clip;
 }

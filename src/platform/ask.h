@@ -93,7 +93,7 @@ public:
     virtual void ShowStatusText(const Text&) {}
     virtual void Beep() = 0;
     /// Lets pending events run, so that a window stays alive during long work.
-    virtual void YieldToEvents() = 0;
+    virtual void ProcessEvents() = 0;
 };
 
 } // namespace quillon

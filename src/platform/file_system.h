@@ -17,7 +17,7 @@
 
 namespace quillon {
 
-struct FileFacts {
+struct FileStatus {
     std::uint64_t size = 0;
     LocalTime modified;
     bool isFolder = false;
@@ -31,7 +31,7 @@ struct FileFacts {
 
 struct FolderEntry {
     Text name;
-    FileFacts facts;
+    FileStatus status;
 };
 
 class InputFile {
@@ -77,7 +77,7 @@ public:
     virtual bool FileExists(const Text& path) const = 0;
     virtual bool DirExists(const Text& path) const = 0;
     /// Throws 53 or 76 where nothing stands at the path.
-    virtual FileFacts Facts(const Text& path) const = 0;
+    virtual FileStatus Status(const Text& path) const = 0;
     /// What lies in a folder, without "." and "..", in byte order of the names.
     virtual std::vector<FolderEntry> List(const Text& folder) const = 0;
 

@@ -27,7 +27,7 @@ void ClearLeftOvers(FileSystem& files, const Text& path)
     const Text fileName = ExtractFilename(path);
     try {
         for (const FolderEntry& entry : files.List(folder))
-            if (!entry.facts.isFolder && IsTemporaryOf(entry.name, fileName))
+            if (!entry.status.isFolder && IsTemporaryOf(entry.name, fileName))
                 files.RemoveAbandoned(JoinPath(folder, entry.name));
     } catch (const RunError&) {
         // A folder that can't be listed can still take a file.

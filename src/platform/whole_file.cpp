@@ -11,7 +11,7 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kPieceSize = 64 * 1024;
-constexpr std::size_t kSmallestPiece = 1024;
+constexpr std::size_t kMinChunkSize = 1024;
 
 } // namespace
 
@@ -22,7 +22,7 @@ std::string ReadWholeFile(const FileSystem& files, const Text& path)
     // A file of the kernel's may be longer than it says; all others need one reading and a look at
     // their end.
     std::size_t piece =
-        std::clamp<std::size_t>(std::size_t(file->Size()) + 1, kSmallestPiece, kPieceSize);
+        std::clamp<std::size_t>(std::size_t(file->Size()) + 1, kMinChunkSize, kPieceSize);
     for (std::size_t got = piece; got > 0;) {
         const std::size_t before = bytes.size();
         bytes.resize(before + piece);

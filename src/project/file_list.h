@@ -45,7 +45,7 @@ inline constexpr const char* kEmptyFolderName = "<Dir>";
 inline constexpr const char* kFileIsGone = "<Filen saknas>";
 
 // Row numbers are 16-bit, so a file list holds no more rows than this.
-inline constexpr std::size_t kMostRows = 32767;
+inline constexpr std::size_t kMaxRows = 32767;
 
 /// The rows in the order that the user sees, and by what that order came about.
 struct FileList {

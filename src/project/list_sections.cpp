@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view kLineMark = ">";
 // The INI list is cut into lines by a 16-bit position.
-constexpr std::size_t kLongestMarkedText = 32767;
+constexpr std::size_t kMaxMarkedTextLength = 32767;
 
 bool NamesSameFlagSection(const ListSection& left, const ListSection& right)
 {
@@ -44,7 +44,7 @@ bool IsFirstOfItsFlagSection(const ListSection& list)
 void WriteMarkedLines(AnsiTextFile& file, const Text& text)
 {
     const std::string bytes = AnsiText::ToBytes(text);
-    if (bytes.size() > kLongestMarkedText)
+    if (bytes.size() > kMaxMarkedTextLength)
         throw RunError(ErrorNumber::kOverflow);
     for (std::size_t position = 0; position < bytes.size();) {
         const std::size_t end = std::min(bytes.find(kLineBreak, position), bytes.size());

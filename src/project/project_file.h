@@ -30,7 +30,7 @@ void WriteProject(Project& project, SavedFile& file, Host& host, Ask& ask,
                   const ScreenMetrics& screen = {});
 
 /// Throws 9 where the project has more animation pictures than there is room for.
-void DemandRoomForPictures(const Project& project);
+void RequireRoomForPictures(const Project& project);
 
 /// How reading came to its end. The project holds what was read up to there.
 enum class ReadEnd {
@@ -42,7 +42,7 @@ enum class ReadEnd {
     // The number of rows is missing, no number, or smaller than that of the rows, which are then
     // not all read; silent.
     RowsLeft,
-    Trapped, // a value that does not fit its field, or a failure of the machine; two beeps
+    Failed, // a value that does not fit its field, or a failure of the machine; two beeps
 };
 
 /// Reads over the project that is open: what the file does not tell takes the value of a missing

@@ -2,11 +2,11 @@
 // table can't say of reading stands in the functions called AfterReading.
 #include "helpers/line_breaks.h"
 #include "helpers/product.h"
+#include "ini/profile_reader.h"
 #include "platform/run_error.h"
 #include "project/file_rows.h"
 #include "project/list_sections.h"
 #include "project/new_project.h"
-#include "project/profile_reader.h"
 #include "project/project_file.h"
 #include "project/section_walk.h"
 
@@ -317,7 +317,7 @@ ReadEnd ReadProjectFile(Project& project, const Text& path, Host& host, Ask& ask
     } catch (const RunError&) {
         ask.Beep();
         ask.Beep();
-        return ReadEnd::Trapped;
+        return ReadEnd::Failed;
     }
 }
 

@@ -1,4 +1,4 @@
-// Writes the project file: its head, the settings sections by their tables, the lists, the
+// Writes the project file: its header, the settings sections by their tables, the lists, the
 // components and the rows.
 #include "helpers/ansi_text.h"
 #include "helpers/line_breaks.h"
@@ -140,7 +140,7 @@ private:
     const ScreenMetrics& screen_;
 };
 
-void WriteHead(SectionWriter& writer)
+void WriteHeader(SectionWriter& writer)
 {
     writer.Begin("Origin");
     writer.Setting("Info", kOriginInfo);
@@ -165,7 +165,7 @@ void WriteFileListInfo(SectionWriter& writer, const FileList& list, Host& host, 
 {
     const auto totalSize = SumOfSizes(list.rows, host.machine.DecimalSign());
     if (!totalSize)
-        TellSizesUnreadable(ask);
+        ReportUnreadableSizes(ask);
     writer.Begin("FileListInfo");
     writer.Setting("Files", NumberText(static_cast<std::int64_t>(list.rows.size())));
     writer.Setting("TotalSize", NumberText(totalSize.value_or(0)));
@@ -174,7 +174,7 @@ void WriteFileListInfo(SectionWriter& writer, const FileList& list, Host& host, 
 
 void WriteFileList(AnsiTextFile& file, const FileList& list)
 {
-    if (list.rows.size() > kMostRows)
+    if (list.rows.size() > kMaxRows)
         throw RunError(ErrorNumber::kOverflow);
     file.Line("[FileList]");
     std::size_t number = 0;
@@ -189,7 +189,7 @@ void WriteFileList(AnsiTextFile& file, const FileList& list)
 
 } // namespace
 
-void DemandRoomForPictures(const Project& project)
+void RequireRoomForPictures(const Project& project)
 {
     const auto& pictures = project.DesPicturesAnim;
     if (pictures.NrAnimPictures > static_cast<Long>(pictures.P.size()))
@@ -203,7 +203,7 @@ void WriteProject(Project& project, SavedFile& saved, Host& host, Ask& ask,
     SectionWriter writer(file, screen);
 
     FillEmptyProgramGroup(project);
-    WriteHead(writer);
+    WriteHeader(writer);
     VisitSettingsSections(writer, project);
     WriteListSections(file, project.Lists);
     WriteComponents(writer, project);
@@ -217,7 +217,7 @@ void WriteProject(Project& project, SavedFile& saved, Host& host, Ask& ask,
 void WriteProjectFile(Project& project, const Text& path, Host& host, Ask& ask,
                       const ScreenMetrics& screen)
 {
-    DemandRoomForPictures(project);
+    RequireRoomForPictures(project);
     SavedFile file(host.files, path);
     WriteProject(project, file, host, ask, screen);
     file.Commit();

@@ -318,7 +318,7 @@ struct DesPictures {
 };
 
 // The editor offers twenty pictures; a file may name one more.
-inline constexpr std::size_t kMostAnimPictures = 21;
+inline constexpr std::size_t kMaxAnimPictures = 21;
 
 struct DesPicturesAnim {
     Integer NrAnimPictures = 0;
@@ -328,7 +328,7 @@ struct DesPicturesAnim {
     Integer PictureXPos = 540;
     Integer PictureYPos = 1440;
     Integer IntervalSeconds = 5;
-    std::array<Text, kMostAnimPictures> P;
+    std::array<Text, kMaxAnimPictures> P;
 };
 
 struct DesLogotype {

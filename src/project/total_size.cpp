@@ -24,7 +24,7 @@ std::optional<Long> SumOfSizes(const std::vector<FileListRow>& rows, char decima
     return static_cast<Long>(RoundToEven(sum));
 }
 
-void TellSizesUnreadable(Ask& ask)
+void ReportUnreadableSizes(Ask& ask)
 {
     ask.Critical(
         "Fel", "Ett fel inträffade totalsumman av filstorlekarna skulle beräknas i fillistan! Kan "

@@ -18,6 +18,6 @@ std::optional<Long> SumOfSizes(const std::vector<FileListRow>& rows, char decima
 
 /// The box for a list whose sum can't be told. It stands here because saving a project sums the
 /// list as well.
-void TellSizesUnreadable(Ask& ask);
+void ReportUnreadableSizes(Ask& ask);
 
 } // namespace quillon

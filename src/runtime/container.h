@@ -2,7 +2,7 @@
 // travels with it; the tests read it directly.
 #pragma once
 
-#include "formats/zip_reader.h"
+#include "archive/zip_reader.h"
 
 #include <functional>
 #include <memory>

@@ -2,7 +2,7 @@
 // itself has thrown, as a part of a sentence for a box or a line of the log.
 #pragma once
 
-#include "formats/zip_reader.h"
+#include "archive/zip_reader.h"
 #include "platform/run_error.h"
 #include "runtime/exit_codes.h"
 #include "runtime/language_file.h"

@@ -43,7 +43,8 @@ Text VersionOfFile(const FileSystem& files, const Text& path)
         .FileVersion;
 }
 
-FileInstaller::FileInstaller(const InstallInput& input, Changes& changes, InstallLog& record)
+FileInstaller::FileInstaller(const InstallInput& input, InstallTransaction& changes,
+                             InstallJournal& record)
     : input_(input), changes_(changes), record_(record)
 {
 }
@@ -64,7 +65,7 @@ void FileInstaller::InstallOne(const PlannedFile& file)
         return;
     }
     changes_.MakeFolder(ExtractDirectory(file.path));
-    const auto existing = FactsOfFileAt(file.path);
+    const auto existing = StatusAt(file.path);
     // A version can only be read from a file on disk, so such a file is written in any case.
     const bool decidesLate = existing && HasOption(options, CopyOption::kVersionCheck);
     bool wanted = decidesLate || !existing || IsWanted(file, *existing, {});
@@ -83,19 +84,19 @@ void FileInstaller::InstallOne(const PlannedFile& file)
 }
 
 // In one question: where a name is new, some file systems read the whole folder to say so.
-std::optional<FileFacts> FileInstaller::FactsOfFileAt(const Text& path) const
+std::optional<FileStatus> FileInstaller::StatusAt(const Text& path) const
 {
-    std::optional<FileFacts> facts;
-    RunErrorNumber([&] { facts = input_.host.files.Facts(path); });
-    if (facts && facts->isFolder)
+    std::optional<FileStatus> status;
+    RunErrorNumber([&] { status = input_.host.files.Status(path); });
+    if (status && status->isFolder)
         throw RunError(ErrorNumber::kPathFileAccess, path);
-    return facts;
+    return status;
 }
 
-bool FileInstaller::IsWanted(const PlannedFile& file, const FileFacts& facts, const Text& staged)
+bool FileInstaller::IsWanted(const PlannedFile& file, const FileStatus& status, const Text& staged)
 {
     const FileSystem& files = input_.host.files;
-    ComparedFile existing{facts.modified, {}, facts.isReadOnly};
+    ComparedFile existing{status.modified, {}, status.isReadOnly};
     ComparedFile ours{input_.package.Modified(*file.row), {}, false};
     if (!staged.empty()) {
         existing.version = VersionOfFile(files, file.path);
@@ -127,7 +128,7 @@ Text FileInstaller::Stage(const PlannedFile& file)
         output->Write(bytes);
         done_ += bytes.size();
         input_.ask.ShowProgress(done_, total_);
-        input_.ask.YieldToEvents();
+        input_.ask.ProcessEvents();
     });
     output->Close();
     input_.host.files.SetModified(staged, input_.package.Modified(*file.row));
@@ -138,9 +139,10 @@ Text FileInstaller::Stage(const PlannedFile& file)
 bool FileInstaller::Put(const PlannedFile& file, const Text& staged, bool replaces)
 {
     const Text& options = file.row->copyOptions;
-    const auto recorded = HasOption(options, CopyOption::kNeverUninstall) ? Changes::Recorded::No
-                                                                          : Changes::Recorded::Yes;
-    const Changes::NewFile placed{staged, file.path, replaces, recorded};
+    const auto recorded = HasOption(options, CopyOption::kNeverUninstall)
+                              ? InstallTransaction::Recorded::No
+                              : InstallTransaction::Recorded::Yes;
+    const InstallTransaction::NewFile placed{staged, file.path, replaces, recorded};
     if (replaces && HasOption(options, CopyOption::kBackup))
         changes_.KeepBackup(file.path);
     if (HasOption(options, CopyOption::kSetWriteProtection))
@@ -167,7 +169,8 @@ void FileInstaller::CountSharedFile(const PlannedFile& file, bool existed)
     // The key first, since it can go only when the count in it has gone.
     changes_.MakeKey(SharedFilesKey());
     record_.Add(record::Shared{file.path});
-    changes_.WriteValue(SharedFilesKey(), file.path, NumberData(before + 1), Changes::Recorded::No);
+    changes_.WriteValue(SharedFilesKey(), file.path, NumberData(before + 1),
+                        InstallTransaction::Recorded::No);
 }
 
 void FileInstaller::NoteWhatFollows(const PlannedFile& file, bool atRestart)

@@ -9,7 +9,7 @@ namespace quillon {
 
 class FileInstaller {
 public:
-    FileInstaller(const InstallInput& input, Changes& changes, InstallLog& record);
+    FileInstaller(const InstallInput& input, InstallTransaction& changes, InstallJournal& record);
 
     void InstallAll();
 
@@ -20,8 +20,8 @@ public:
 
 private:
     void InstallOne(const PlannedFile& file);
-    std::optional<FileFacts> FactsOfFileAt(const Text& path) const;
-    bool IsWanted(const PlannedFile& file, const FileFacts& facts, const Text& staged);
+    std::optional<FileStatus> StatusAt(const Text& path) const;
+    bool IsWanted(const PlannedFile& file, const FileStatus& status, const Text& staged);
     CopyDecision AskWhetherToReplace(const Text& path);
     Text Stage(const PlannedFile& file);
     bool Put(const PlannedFile& file, const Text& staged, bool replaces);
@@ -29,8 +29,8 @@ private:
     void NoteWhatFollows(const PlannedFile& file, bool atRestart);
 
     const InstallInput& input_;
-    Changes& changes_;
-    InstallLog& record_;
+    InstallTransaction& changes_;
+    InstallJournal& record_;
     std::vector<Text> toRegister_;
     std::vector<Text> toRegisterAtRestart_;
     std::vector<PlannedFile> fonts_;

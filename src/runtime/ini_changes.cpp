@@ -2,9 +2,9 @@
 
 #include "helpers/ansi_text.h"
 #include "helpers/windows_path.h"
+#include "ini/ini_text.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "runtime/ini_text.h"
 
 #include <span>
 
@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-constexpr std::string_view kUtf16Mark = "\xFF\xFE";
+constexpr std::string_view kUtf16Bom = "\xFF\xFE";
 
 // The record of what a line changed, and the change.
 using IniRecords = std::vector<JournalRecord>;
@@ -39,7 +39,7 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
     const Text& path = lines[0].file;
     const bool existed = work.files.FileExists(path);
     const std::string before = existed ? ReadWholeFile(work.files, path) : std::string();
-    if (before.substr(0, kUtf16Mark.size()) == kUtf16Mark) {
+    if (before.substr(0, kUtf16Bom.size()) == kUtf16Bom) {
         work.log.Skipped(path, {Message::SkipIniUnicode});
         return;
     }
@@ -58,7 +58,7 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
         work.record.Add(std::move(record));
     const Text staged = work.changes.StagingPath(path);
     WriteWholeFile(work.files, staged, ini.Bytes());
-    work.changes.PutFile({staged, path, existed, Changes::Recorded::No});
+    work.changes.PutFile({staged, path, existed, InstallTransaction::Recorded::No});
 }
 
 template <class Work>
@@ -96,26 +96,26 @@ void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines)
     }
 }
 
-void TakeBackIniChange(FileSystem& files, const record::IniFile& record)
+void UndoIniChange(FileSystem& files, const record::IniFile& record)
 {
     if (files.FileExists(record.path) &&
         ReadWholeFile(files, record.path).find_first_not_of(" \t\r\n") == Text::npos)
         files.RemoveFile(record.path);
 }
 
-void TakeBackIniChange(FileSystem& files, const record::IniOpenEnd& record)
+void UndoIniChange(FileSystem& files, const record::IniOpenEnd& record)
 {
     Change(files, record.path,
            [&](IniText& ini) { ini.OpenEndOf(AnsiText::ToBytes(record.lastLine)); });
 }
 
-void TakeBackIniChange(FileSystem& files, const record::IniSection& record)
+void UndoIniChange(FileSystem& files, const record::IniSection& record)
 {
     Change(files, record.path,
            [&](IniText& ini) { ini.RemoveEmptySection(AnsiText::ToBytes(record.section)); });
 }
 
-void TakeBackIniChange(FileSystem& files, const record::IniValue& record)
+void UndoIniChange(FileSystem& files, const record::IniValue& record)
 {
     const std::string section = AnsiText::ToBytes(record.section);
     const std::string name = AnsiText::ToBytes(record.name);

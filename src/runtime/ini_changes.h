@@ -1,25 +1,25 @@
 // Writes the INI list to the machine's INI files, and takes single changes back at uninstallation.
 #pragma once
 
-#include "runtime/changes.h"
 #include "runtime/ini_lines.h"
+#include "runtime/install_transaction.h"
 
 namespace quillon {
 
 struct IniWork {
     FileSystem& files;
-    Changes& changes;
-    InstallLog& record;
-    TextLog& log;
+    InstallTransaction& changes;
+    InstallJournal& record;
+    ActionLog& log;
 };
 
 /// The lines' files are whole paths.
 void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines);
 
-void TakeBackIniChange(FileSystem& files, const record::IniFile& record);
-void TakeBackIniChange(FileSystem& files, const record::IniOpenEnd& record);
-void TakeBackIniChange(FileSystem& files, const record::IniSection& record);
-void TakeBackIniChange(FileSystem& files, const record::IniValue& record);
+void UndoIniChange(FileSystem& files, const record::IniFile& record);
+void UndoIniChange(FileSystem& files, const record::IniOpenEnd& record);
+void UndoIniChange(FileSystem& files, const record::IniSection& record);
+void UndoIniChange(FileSystem& files, const record::IniValue& record);
 
 /// The old file stays until the new one is whole. A removal that was broken off here is repeated,
 /// and then finds its temporary file under the same name.

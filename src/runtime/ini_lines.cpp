@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::string_view kDashes = "--";
 
-bool IsFileHead(std::string_view line)
+bool IsFileHeader(std::string_view line)
 {
     return line.size() > 2 * kDashes.size() && line.substr(0, 2) == kDashes &&
            line.substr(line.size() - 2) == kDashes;
@@ -24,7 +24,7 @@ public:
         const Text line = TrimBlanks(original);
         if (line.empty())
             return;
-        if (IsFileHead(line)) {
+        if (IsFileHeader(line)) {
             file_ = TrimBlanks(line.substr(2, line.size() - 4));
             section_.clear();
         } else if (line.front() == ';') {

@@ -1,4 +1,4 @@
-// The INI list of a project: file heads, sections and values, each belonging to the nearest head
+// The INI list of a project: file heads, sections and values, each belonging to the nearest header
 // and section above it.
 #pragma once
 
@@ -9,7 +9,7 @@
 namespace quillon {
 
 struct IniLine {
-    Text file; // as the head names it, without its dashes
+    Text file; // as the header names it, without its dashes
     Text section;
     Text name; // empty on a line that makes only its section
     Text value;

@@ -35,7 +35,7 @@ public:
                     input_.texts(Message::NotUndone, FailureReason(error, input_.texts)));
             throw;
         }
-        changes_.ClearAway();
+        changes_.CleanUp();
         return {changes_.NeedsRestart()};
     }
 
@@ -58,8 +58,8 @@ private:
     void PutUninstaller();
 
     const InstallInput& input_;
-    InstallLog record_;
-    Changes changes_;
+    InstallJournal record_;
+    InstallTransaction changes_;
     FileInstaller files_;
 };
 
@@ -97,7 +97,7 @@ void Installation::BeginRecord()
     FileSystem& files = input_.host.files;
     if (files.FileExists(path)) {
         auto earlier =
-            ReadInstallLog(ReadWholeFile(files, path)).value_or(std::vector<JournalRecord>{});
+            ReadInstallJournal(ReadWholeFile(files, path)).value_or(std::vector<JournalRecord>{});
         // They are told anew, and would come to more with each installation.
         std::erase_if(earlier, [](const JournalRecord& record) {
             return std::holds_alternative<record::Product>(record) ||
@@ -120,7 +120,7 @@ void Installation::SaveRecord()
     record_.Save(files, staged);
     // The uninstaller will believe it.
     input_.target.CloseToOthers(staged);
-    changes_.PutFile({staged, path, files.FileExists(path), Changes::Recorded::No});
+    changes_.PutFile({staged, path, files.FileExists(path), InstallTransaction::Recorded::No});
 }
 
 void Installation::RecordTexts()
@@ -135,8 +135,8 @@ void Installation::RecordTexts()
 void Installation::ShareMainFolder()
 {
     const Text inside = LowerCase(input_.plan.mainFolder) + "\\";
-    for (const Text& log : InstallLogsIn(input_.host.files, input_.plan.mainFolder)) {
-        const auto records = ReadInstallLog(ReadWholeFile(input_.host.files, log));
+    for (const Text& log : InstallJournalsIn(input_.host.files, input_.plan.mainFolder)) {
+        const auto records = ReadInstallJournal(ReadWholeFile(input_.host.files, log));
         for (const JournalRecord& record : records.value_or(std::vector<JournalRecord>{}))
             if (const auto* const folder = std::get_if<record::Folder>(&record);
                 folder && inside.starts_with(LowerCase(folder->path) + "\\"))
@@ -166,7 +166,7 @@ void Installation::DeleteOldProgramGroup()
         return;
     for (const FolderEntry& entry : input_.host.files.List(group)) {
         const Text path = JoinPath(group, entry.name);
-        const bool isShortcut = !entry.facts.isFolder && LowerCase(entry.name).ends_with(".lnk");
+        const bool isShortcut = !entry.status.isFolder && LowerCase(entry.name).ends_with(".lnk");
         if (!isShortcut || !IsOwnShortcut(path))
             continue;
         changes_.RemoveFile(path);
@@ -300,7 +300,8 @@ void Installation::PutUninstaller()
     input_.host.files.CopyContent(JoinPath(input_.helpersFolder, RuntimeFile::kUninstaller),
                                   staged);
     // The uninstaller goes last and by itself, and stays where another product needs it.
-    changes_.PutFile({staged, path, input_.host.files.FileExists(path), Changes::Recorded::No});
+    changes_.PutFile(
+        {staged, path, input_.host.files.FileExists(path), InstallTransaction::Recorded::No});
     WriteUninstallEntry(input_, changes_);
 }
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "platform/ask.h"
-#include "runtime/changes.h"
 #include "runtime/install_plan.h"
+#include "runtime/install_transaction.h"
 #include "runtime/package_reader.h"
 
 namespace quillon {
@@ -13,7 +13,7 @@ struct InstallInput {
     Host& host;
     Target& target;
     Ask& ask;
-    TextLog& log;
+    ActionLog& log;
     const LanguageTexts& texts;
     const SetupInformation& setup;
     const SetupVariables& variables;

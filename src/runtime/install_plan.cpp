@@ -5,11 +5,11 @@
 #include "formats/row_safety.h"
 #include "helpers/windows_path.h"
 #include "runtime/failure_reason.h"
-#include "runtime/install_log.h"
-#include "runtime/later_stages.h"
+#include "runtime/install_journal.h"
 #include "runtime/package_reader.h"
 #include "runtime/planned_shortcuts.h"
 #include "runtime/switches.h"
+#include "runtime/unsupported_features.h"
 
 #include <algorithm>
 
@@ -54,7 +54,7 @@ Text DestinationOf(const PlanInput& input, const InstallRow& row)
                 : folder;
     const bool isTree = input.setup.project.Media.TargetMedia == int(Medium::CdTree);
     // What the variables stand for is known here alone.
-    if (FaultOfRow(row, isTree) != PathFault::None || !IsWholePath(whole) ||
+    if (FaultOfRow(row, isTree) != PathFault::None || !IsAbsolutePath(whole) ||
         FaultOfFolder(whole) != PathFault::None)
         throw DamagedPackage(input.texts, {Message::PackageBadFolder, row.name, row.destination});
     return whole;
@@ -111,7 +111,8 @@ void PlanIni(const PlanInput& input, InstallPlan& plan)
     for (IniLine& line : list.lines) {
         // As the system itself does with a bare name.
         const Text file = input.variables.ExpandPath(line.file);
-        line.file = IsWholePath(file) ? file : JoinPath(input.host.machine.GetWindowsDir(), file);
+        line.file =
+            IsAbsolutePath(file) ? file : JoinPath(input.host.machine.GetWindowsDir(), file);
         line.section = input.variables.Expand(line.section);
         line.name = input.variables.Expand(line.name);
         line.value = input.variables.Expand(line.value);
@@ -143,12 +144,12 @@ bool IsNewWindows(SystemKind system)
            system == SystemKind::WinXP;
 }
 
-Text ChooseInstallLog(const FileSystem& files, const Text& mainFolder, const Text& product)
+Text ChooseInstallJournal(const FileSystem& files, const Text& mainFolder, const Text& product)
 {
     for (int n = 1;; ++n) {
         const Text path =
             JoinPath(mainFolder, "QNXUNIN" + (n == 1 ? Text() : NumberText(n)) + ".LOG");
-        if (!files.FileExists(path) || ProductOfLog(files, path) == product)
+        if (!files.FileExists(path) || ProductOfJournal(files, path) == product)
             return path;
     }
 }
@@ -158,9 +159,9 @@ InstallPlan MakeInstallPlan(const PlanInput& input)
     InstallPlan plan;
     plan.mainFolder = input.variables.Value(NameOf(VariableMeaning::MainFolder));
     plan.hasUninstaller = input.setup.project.InstallOptions.UninstallSupport != kOff;
-    plan.installLog = ChooseInstallLog(input.host.files, plan.mainFolder,
-                                       input.setup.project.ProjectName.ProjectName);
-    plan.skipped = PartsOfLaterStages(input.setup, input.texts);
+    plan.installLog = ChooseInstallJournal(input.host.files, plan.mainFolder,
+                                           input.setup.project.ProjectName.ProjectName);
+    plan.skipped = UnsupportedFeatures(input.setup, input.texts);
     PlanRows(input, plan);
     PlanShortcuts(input, plan);
     PlanRegistry(input, plan);

@@ -60,7 +60,7 @@ bool IsComponentInstalled(const PlanInput& input, int component);
 
 /// The product's own log in the main folder, or the first free name: products that share a main
 /// folder keep a log each.
-Text ChooseInstallLog(const FileSystem& files, const Text& mainFolder, const Text& product);
+Text ChooseInstallJournal(const FileSystem& files, const Text& mainFolder, const Text& product);
 
 bool IsNewWindows(SystemKind system);
 

@@ -142,10 +142,10 @@ struct TempFolder {
 };
 
 /// The file of that path stands under the other name until the transaction ends.
-struct Aside {
+struct MovedAside {
     Text path;
     Text aside;
-    bool operator==(const Aside&) const = default;
+    bool operator==(const MovedAside&) const = default;
 };
 
 /// What a value was before it was written or removed; nothing where there was none.
@@ -185,7 +185,7 @@ using JournalRecord =
                  record::Replaced, record::Backup, record::Shared, record::Font, record::Registered,
                  record::AtRestart, record::Key, record::Value, record::UninstallKey,
                  record::UninstallValue, record::IniFile, record::IniOpenEnd, record::IniSection,
-                 record::IniValue, record::TempFolder, record::Aside, record::FormerValue,
+                 record::IniValue, record::TempFolder, record::MovedAside, record::FormerValue,
                  record::RemovedKey, record::RegisteredBefore, record::AnnouncedBefore,
                  record::Committed>;
 

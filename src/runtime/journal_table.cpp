@@ -46,7 +46,7 @@ constexpr std::tuple kRows{
     Line("INIVALUE",         &record::IniValue::path, &record::IniValue::section, &record::IniValue::name,
                              &record::IniValue::value, &record::IniValue::formerLine),
     Line("TEMPFOLDER",       &record::TempFolder::path),
-    Line("ASIDE",            &record::Aside::path, &record::Aside::aside),
+    Line("ASIDE",            &record::MovedAside::path, &record::MovedAside::aside),
     Line("FORMERVALUE",      &record::FormerValue::key, &record::FormerValue::name, &record::FormerValue::former),
     Line("REMOVEDKEY",       &record::RemovedKey::key),
     Line("REGISTEREDBEFORE", &record::RegisteredBefore::path),
@@ -253,11 +253,11 @@ std::optional<JournalRecord> ReadJournalLine(std::string_view line)
 std::optional<std::vector<JournalRecord>> ReadJournal(std::string_view bytes,
                                                       std::string_view firstLine)
 {
-    const Text head = Text(firstLine) + Text(kLineBreak);
-    if (bytes.substr(0, head.size()) != head)
+    const Text header = Text(firstLine) + Text(kLineBreak);
+    if (bytes.substr(0, header.size()) != header)
         return std::nullopt;
     std::vector<JournalRecord> records;
-    for (std::size_t at = head.size(); at < bytes.size();) {
+    for (std::size_t at = header.size(); at < bytes.size();) {
         const std::size_t end = bytes.find(kLineBreak, at);
         if (end == Text::npos)
             break;

@@ -12,13 +12,13 @@ namespace quillon {
 namespace {
 
 // What is longer can't be shown and comes from a damaged file.
-constexpr std::size_t kLongestText = 2000;
+constexpr std::size_t kMaxTextLength = 2000;
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-constexpr std::string_view kUtf16Mark = "\xFF\xFE";
-constexpr std::string_view kTurnedUtf16Mark = "\xFE\xFF";
+constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf16Bom = "\xFF\xFE";
+constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
 
-Text FromTurnedUtf16(std::string_view bytes)
+Text FromUtf16BigEndian(std::string_view bytes)
 {
     std::string turned(bytes.substr(0, bytes.size() / 2 * 2));
     for (std::size_t i = 0; i < turned.size(); i += 2)
@@ -29,19 +29,19 @@ Text FromTurnedUtf16(std::string_view bytes)
 // Texts of Windows-1252 with a letter beyond ASCII are hardly ever well-formed UTF-8.
 Text Decoded(std::string_view bytes)
 {
-    if (bytes.starts_with(kUtf16Mark))
-        return FromUtf16(bytes.substr(kUtf16Mark.size()));
-    if (bytes.starts_with(kTurnedUtf16Mark))
-        return FromTurnedUtf16(bytes.substr(kTurnedUtf16Mark.size()));
-    if (bytes.starts_with(kUtf8Mark))
-        bytes.remove_prefix(kUtf8Mark.size());
+    if (bytes.starts_with(kUtf16Bom))
+        return FromUtf16(bytes.substr(kUtf16Bom.size()));
+    if (bytes.starts_with(kUtf16BigEndianBom))
+        return FromUtf16BigEndian(bytes.substr(kUtf16BigEndianBom.size()));
+    if (bytes.starts_with(kUtf8Bom))
+        bytes.remove_prefix(kUtf8Bom.size());
     return IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes);
 }
 
 bool IsText(std::string_view value)
 {
     const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 0x7F; };
-    return !value.empty() && value.size() <= kLongestText && IsUtf8(value) &&
+    return !value.empty() && value.size() <= kMaxTextLength && IsUtf8(value) &&
            std::ranges::none_of(value, isControl);
 }
 
@@ -74,7 +74,7 @@ private:
     void TakeLine(std::string_view line)
     {
         // Longer than a key, its text and the blanks round them.
-        if (line.size() > 2 * kLongestText)
+        if (line.size() > 2 * kMaxTextLength)
             return;
         const Text trimmed = TrimBlanks(line);
         if (trimmed.starts_with('['))

@@ -12,7 +12,7 @@
 namespace quillon {
 
 /// No file of texts is larger; what is, isn't read.
-inline constexpr std::uint64_t kLargestLanguageFile = 16 * 1024 * 1024;
+inline constexpr std::uint64_t kMaxLanguageFileSize = 16 * 1024 * 1024;
 
 class LanguageTexts {
 public:

@@ -161,7 +161,7 @@ constexpr MessageKey kMessages[] = {
     {Message::ReasonKeyNotEmpty,      "Reasons",   "Reason_KeyNotEmpty",      "nyckeln är inte tom"},
     {Message::ReasonFolderNotEmpty,   "Reasons",   "Reason_FolderNotEmpty",   "mappen är inte tom"},
     {Message::ReasonOutsideProduct,   "Reasons",   "Reason_OutsideProduct",   "den ligger utanför programmets mappar"},
-    {Message::ReasonLinkOnTheWay,     "Reasons",   "Reason_LinkOnTheWay",     "en länk leder till en annan mapp"},
+    {Message::ReasonLinkInPath,     "Reasons",   "Reason_LinkOnTheWay",     "en länk leder till en annan mapp"},
 };
 // clang-format on
 static_assert(std::size(kMessages) == std::size_t(Message::Count));

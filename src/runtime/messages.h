@@ -161,7 +161,7 @@ enum class Message {
     ReasonKeyNotEmpty,
     ReasonFolderNotEmpty,
     ReasonOutsideProduct,
-    ReasonLinkOnTheWay,
+    ReasonLinkInPath,
     Count
 };
 

@@ -75,7 +75,7 @@ private:
     {
         std::uint64_t size = 0;
         RunErrorNumber(
-            [&] { size = input_.files.Facts(JoinPath(input_.packageFolder, name)).size; });
+            [&] { size = input_.files.Status(JoinPath(input_.packageFolder, name)).size; });
         return size;
     }
 
@@ -85,7 +85,7 @@ private:
             CompareFile(input_.files, input_.packageFolder, line, [&](std::size_t count) {
                 done_ += count;
                 input_.ask.ShowProgress(done_, total_);
-                input_.ask.YieldToEvents();
+                input_.ask.ProcessEvents();
             });
         if (fault == FileFault::Different)
             Refuse({Message::PackageFileDamaged, line.name});

@@ -6,15 +6,15 @@
 #include "formats/package_manifest.h"
 #include "formats/setup_information.h"
 #include "platform/ask.h"
+#include "runtime/action_log.h"
 #include "runtime/language_file.h"
-#include "runtime/text_log.h"
 
 namespace quillon {
 
 struct PackageCheckInput {
     const FileSystem& files;
     Ask& ask;
-    TextLog& log;
+    ActionLog& log;
     const LanguageTexts& texts;
     const SetupInformation& setup;
     const std::vector<InstallRow>& rows;

@@ -163,7 +163,7 @@ void PackageReader::CheckEverything()
             continue;
         const Place& place = PlaceOf(row);
         const std::uint64_t size =
-            place.entry ? place.entry->size : input_.host.files.Facts(place.path).size;
+            place.entry ? place.entry->size : input_.host.files.Status(place.path).size;
         if (size != row.size)
             throw DamagedPackage(input_.texts, {Message::PackageFileSize, row.name});
     }
@@ -177,14 +177,14 @@ void PackageReader::CheckEverything()
         container_->Extract(entry, input_.password, [&](std::span<const std::byte> bytes) {
             done += bytes.size();
             input_.ask.ShowProgress(done, total);
-            input_.ask.YieldToEvents();
+            input_.ask.ProcessEvents();
         });
 }
 
 LocalTime PackageReader::Modified(const InstallRow& row) const
 {
     const Place& place = PlaceOf(row);
-    return place.entry ? place.entry->modified : input_.host.files.Facts(place.path).modified;
+    return place.entry ? place.entry->modified : input_.host.files.Status(place.path).modified;
 }
 
 void PackageReader::Extract(const InstallRow& row, const ZipReader::Sink& sink) const

@@ -7,9 +7,9 @@
 #include "formats/setup_information.h"
 #include "platform/ask.h"
 #include "platform/host.h"
+#include "runtime/action_log.h"
 #include "runtime/container.h"
 #include "runtime/language_file.h"
-#include "runtime/text_log.h"
 
 #include <map>
 
@@ -18,7 +18,7 @@ namespace quillon {
 struct PackageInput {
     Host& host;
     Ask& ask;
-    TextLog& log;
+    ActionLog& log;
     const LanguageTexts& texts;
     const SetupInformation& setup;
     const std::vector<InstallRow>& rows;

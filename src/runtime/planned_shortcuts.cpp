@@ -81,7 +81,7 @@ Shortcut ShortcutOf(const PlanInput& input, const PlannedFile& file)
     shortcut.workFolder = input.variables.ExpandPath(row.workFolder);
     shortcut.iconFile = input.variables.ExpandPath(row.iconFile);
     shortcut.description = input.variables.Expand(row.iconTitle);
-    if (EqualIgnoreCase(ExtensionFromFirstPoint(row.name), "ico")) {
+    if (EqualIgnoreCase(ExtensionFromFirstDot(row.name), "ico")) {
         SetCommandLine(input, row.iconParameters, shortcut);
         shortcut.iconFile = file.path;
         return shortcut;

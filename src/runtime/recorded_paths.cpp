@@ -119,8 +119,8 @@ std::optional<Message> RecordedPaths::WhyOutOfReach(const Text& path) const
     const Text folder = LowerCase(ExtractDirectory(path));
     if (ResolvePath(path) != path || !IsRecordedFolder(folder))
         return Message::ReasonOutsideProduct;
-    if (HasLinkOnTheWay(folder))
-        return Message::ReasonLinkOnTheWay;
+    if (HasLinkInPath(folder))
+        return Message::ReasonLinkInPath;
     return std::nullopt;
 }
 
@@ -144,7 +144,7 @@ bool RecordedPaths::IsBelowMadeFolder(const Text& folder) const
 
 // Links above what the product made are the machine owner's own arrangement. What it made was no
 // link when it was made.
-bool RecordedPaths::HasLinkOnTheWay(const Text& folder) const
+bool RecordedPaths::HasLinkInPath(const Text& folder) const
 {
     if (!IsBelowMadeFolder(folder))
         return false;
@@ -152,7 +152,7 @@ bool RecordedPaths::HasLinkOnTheWay(const Text& folder) const
     if (known != links_.end())
         return known->second;
     const Text above = ExtractDirectory(folder);
-    const bool isLink = target_.IsLink(folder) || (above != folder && HasLinkOnTheWay(above));
+    const bool isLink = target_.IsLink(folder) || (above != folder && HasLinkInPath(above));
     links_[folder] = isLink;
     return isLink;
 }

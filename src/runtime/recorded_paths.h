@@ -39,7 +39,7 @@ public:
     /// Whether the folder, or one above it that the product made, is a link by now.
     bool IsBehindLink(const Text& folder) const
     {
-        return target_.IsLink(folder) || HasLinkOnTheWay(LowerCase(folder));
+        return target_.IsLink(folder) || HasLinkInPath(LowerCase(folder));
     }
 
 private:
@@ -48,7 +48,7 @@ private:
     void FindWhatGoes();
     bool IsRecordedFolder(const Text& folder) const;
     bool IsBelowMadeFolder(const Text& folder) const;
-    bool HasLinkOnTheWay(const Text& folder) const;
+    bool HasLinkInPath(const Text& folder) const;
 
     // The first backup of a path holds what was there before the product; once it is back, the
     // records behind it tell of nothing that is left.

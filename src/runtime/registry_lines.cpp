@@ -15,7 +15,7 @@ constexpr std::string_view kDeleteMark = "DELETE=";
 constexpr std::string_view kUninstallMark = "UNINSTALL=";
 constexpr std::string_view kDefaultValueName = "(Standard)";
 constexpr std::int64_t kLowestNumber = -2147483648LL;
-constexpr std::int64_t kHighestNumber = 4294967295LL;
+constexpr std::int64_t kMaxDword = 4294967295LL;
 
 Text ValueName(std::string_view name)
 {
@@ -39,7 +39,7 @@ bool ReadNumber(std::string_view text, std::uint32_t& number)
         return false;
     const std::int64_t value = LeadingNumber(plus ? digits : text);
     number = static_cast<std::uint32_t>(value);
-    return value >= kLowestNumber && value <= kHighestNumber;
+    return value >= kLowestNumber && value <= kMaxDword;
 }
 
 // Bytes as pairs of digits with blanks between them.

@@ -5,7 +5,7 @@
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "runtime/journal_table.h"
-#include "runtime/transaction.h"
+#include "runtime/transaction_journal.h"
 
 #include <algorithm>
 #include <set>
@@ -23,30 +23,30 @@ public:
     {
     }
 
-    bool TakeBackAll(const std::vector<JournalRecord>& steps);
+    bool UndoAll(const std::vector<JournalRecord>& steps);
     /// Removes a temporary folder with all but what has to stay.
     void EmptyTempFolder(const Text& folder, const Paths& staying);
 
 private:
-    void TakeBack(const record::Folder& folder);
-    void TakeBack(const record::File& file) { MakeWay(file.path); }
-    void TakeBack(const record::Aside& file);
-    void TakeBack(const record::TempFolder& folder) { EmptyTempFolder(folder.path, lost_); }
-    void TakeBack(const record::Key& key);
-    void TakeBack(const record::RemovedKey& key) { target_.MakeKey(key.key); }
-    void TakeBack(const record::FormerValue& value);
-    void TakeBack(const record::Registered& file);
-    void TakeBack(const record::RegisteredBefore& file);
-    void TakeBack(const record::Font& font);
-    void TakeBack(const record::AnnouncedBefore& font);
+    void Undo(const record::Folder& folder);
+    void Undo(const record::File& file) { MakeWay(file.path); }
+    void Undo(const record::MovedAside& file);
+    void Undo(const record::TempFolder& folder) { EmptyTempFolder(folder.path, lost_); }
+    void Undo(const record::Key& key);
+    void Undo(const record::RemovedKey& key) { target_.MakeKey(key.key); }
+    void Undo(const record::FormerValue& value);
+    void Undo(const record::Registered& file);
+    void Undo(const record::RegisteredBefore& file);
+    void Undo(const record::Font& font);
+    void Undo(const record::AnnouncedBefore& font);
     // What is no step of a transaction, or nothing to take back.
     template <class Record>
-    void TakeBack(const Record&)
+    void Undo(const Record&)
     {
     }
     void MakeWay(const Text& path);
 
-    TextLog& log_;
+    ActionLog& log_;
     Host& host_;
     FileSystem& files_;
     Target& target_;
@@ -56,12 +56,12 @@ private:
     Paths withdrawn_;
 };
 
-bool Rollback::TakeBackAll(const std::vector<JournalRecord>& steps)
+bool Rollback::UndoAll(const std::vector<JournalRecord>& steps)
 {
     bool whole = true;
     for (std::size_t left = steps.size(); left > 0; --left) {
         try {
-            std::visit([&](const auto& step) { TakeBack(step); }, steps[left - 1]);
+            std::visit([&](const auto& step) { Undo(step); }, steps[left - 1]);
         } catch (const std::exception& error) { // whatever it is, the steps before it have to go on
             whole = false;
             log_.CannotUndo(error);
@@ -70,13 +70,13 @@ bool Rollback::TakeBackAll(const std::vector<JournalRecord>& steps)
     return whole;
 }
 
-void Rollback::TakeBack(const record::Folder& folder)
+void Rollback::Undo(const record::Folder& folder)
 {
     if (files_.DirExists(folder.path) && files_.List(folder.path).empty())
         files_.RemoveFolder(folder.path);
 }
 
-void Rollback::TakeBack(const record::Aside& file)
+void Rollback::Undo(const record::MovedAside& file)
 {
     if (!files_.FileExists(file.aside))
         return;
@@ -89,7 +89,7 @@ void Rollback::TakeBack(const record::Aside& file)
     }
 }
 
-void Rollback::TakeBack(const record::Key& key)
+void Rollback::Undo(const record::Key& key)
 {
     const bool isEmpty = target_.KeyExists(key.key) && target_.SubKeys(key.key).empty() &&
                          target_.ValueNames(key.key).empty();
@@ -97,7 +97,7 @@ void Rollback::TakeBack(const record::Key& key)
         target_.RemoveKey(key.key);
 }
 
-void Rollback::TakeBack(const record::FormerValue& value)
+void Rollback::Undo(const record::FormerValue& value)
 {
     if (value.former) {
         target_.MakeKey(value.key);
@@ -107,7 +107,7 @@ void Rollback::TakeBack(const record::FormerValue& value)
     }
 }
 
-void Rollback::TakeBack(const record::Registered& file)
+void Rollback::Undo(const record::Registered& file)
 {
     if (!files_.FileExists(file.path))
         return;
@@ -116,19 +116,19 @@ void Rollback::TakeBack(const record::Registered& file)
 }
 
 // The former file is in its place again, and the system has just forgotten it.
-void Rollback::TakeBack(const record::RegisteredBefore& file)
+void Rollback::Undo(const record::RegisteredBefore& file)
 {
     if (unregistered_.count(LowerCase(file.path)) > 0 && files_.FileExists(file.path))
         target_.RegisterServer(file.path, true);
 }
 
-void Rollback::TakeBack(const record::Font& font)
+void Rollback::Undo(const record::Font& font)
 {
     target_.AnnounceFont(font.path, false);
     withdrawn_.insert(LowerCase(font.path));
 }
 
-void Rollback::TakeBack(const record::AnnouncedBefore& font)
+void Rollback::Undo(const record::AnnouncedBefore& font)
 {
     if (withdrawn_.count(LowerCase(font.path)) > 0)
         target_.AnnounceFont(font.path, true);
@@ -158,7 +158,7 @@ void Rollback::EmptyTempFolder(const Text& folder, const Paths& staying)
         const Text path = JoinPath(folder, entry.name);
         const bool stays = staying.count(LowerCase(path)) > 0;
         const auto remove = [&] {
-            if (entry.facts.isReadOnly)
+            if (entry.status.isReadOnly)
                 files_.SetReadOnly(path, false);
             files_.RemoveFile(path);
         };
@@ -199,10 +199,10 @@ bool FinishOne(const RollbackInput& input, const Text& path)
             });
         if (isCommitted) {
             input.log.Line(Message::LogClearsInterrupted, path);
-            ClearAway(input, *steps);
+            CleanUp(input, *steps);
         } else {
             input.log.Line(Message::LogUndoesInterrupted, path);
-            if (!TakeBack(input, *steps))
+            if (!Undo(input, *steps))
                 return false;
         }
     }
@@ -212,12 +212,12 @@ bool FinishOne(const RollbackInput& input, const Text& path)
 
 } // namespace
 
-bool TakeBack(const RollbackInput& input, const std::vector<JournalRecord>& steps)
+bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps)
 {
-    return Rollback(input).TakeBackAll(steps);
+    return Rollback(input).UndoAll(steps);
 }
 
-void ClearAway(const RollbackInput& input, const std::vector<JournalRecord>& steps)
+void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps)
 {
     Paths pending;
     for (const JournalRecord& step : steps)
@@ -243,7 +243,7 @@ EarlierRun FinishInterrupted(const RollbackInput& input, const Text& mainFolder)
         if (!input.host.files.FileExists(path))
             continue;
         if (!FinishOne(input, path))
-            earlier = EarlierRun::Stuck;
+            earlier = EarlierRun::Incomplete;
         else if (earlier == EarlierRun::None)
             earlier = EarlierRun::Finished;
     }
@@ -252,7 +252,7 @@ EarlierRun FinishInterrupted(const RollbackInput& input, const Text& mainFolder)
 
 void RemoveEvenReadOnly(FileSystem& files, const Text& path)
 {
-    if (files.Facts(path).isReadOnly)
+    if (files.Status(path).isReadOnly)
         files.SetReadOnly(path, false);
     files.RemoveFile(path);
 }

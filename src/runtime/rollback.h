@@ -3,8 +3,8 @@
 #pragma once
 
 #include "platform/host.h"
+#include "runtime/action_log.h"
 #include "runtime/journal_records.h"
-#include "runtime/text_log.h"
 
 #include <vector>
 
@@ -13,22 +13,22 @@ namespace quillon {
 struct RollbackInput {
     Host& host;
     Target& target;
-    TextLog& log;
+    ActionLog& log;
 };
 
 /// Takes the steps back, from the last to the first. False where one could not be taken back; the
 /// log tells which, and what is needed to try again stays.
-bool TakeBack(const RollbackInput& input, const std::vector<JournalRecord>& steps);
+bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps);
 
 /// Removes the temporary files of steps that stay, now or when the machine starts next.
-void ClearAway(const RollbackInput& input, const std::vector<JournalRecord>& steps);
+void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps);
 
-enum class EarlierRun { None, Finished, Stuck };
+enum class EarlierRun { None, Finished, Incomplete };
 
 /// Brings to its end what an installation to that folder has left behind that was ended from
-/// outside: a committed one is cleared away, any other is taken back. Stuck where something could
-/// not be taken back. Throws where such an installation is still at work, or where its journal is
-/// none to believe.
+/// outside: a committed one is cleared away, any other is taken back. Incomplete where something
+/// could not be taken back. Throws where such an installation is still at work, or where its
+/// journal is none to believe.
 EarlierRun FinishInterrupted(const RollbackInput& input, const Text& mainFolder);
 
 /// Takes the write protection off first, if there is one.

@@ -48,7 +48,7 @@ private:
     const SetupInput& input_;
     const LoadedPackage& package_;
     const LanguageTexts& texts_;
-    TextLog log_;
+    ActionLog log_;
 };
 
 Flag IsMeantFor(const section::TargetOS& systems, SystemKind system)
@@ -117,7 +117,7 @@ void SetupProgram::OpenLog()
 {
     if (input_.switches.logFile.empty())
         return;
-    log_ = TextLog(input_.host.files, input_.host.machine, input_.switches.logFile, texts_);
+    log_ = ActionLog(input_.host.files, input_.host.machine, input_.switches.logFile, texts_);
     log_.Line(Message::LogBegins, package_.setup.project.ProjectName.ProjectName,
               input_.switches.packageFolder);
 }
@@ -204,7 +204,7 @@ void SetupProgram::CheckHelpers(const InstallPlan& plan) const
     const auto check = [&](bool isNeeded, const char* helper) {
         const Text path = JoinPath(input_.workFolder, helper);
         FileSystem& files = input_.host.files;
-        if (isNeeded && (!files.FileExists(path) || files.Facts(path).size == 0))
+        if (isNeeded && (!files.FileExists(path) || files.Status(path).size == 0))
             throw DamagedPackage(texts_, {Message::PackageFileMissing, helper});
     };
     check(plan.hasUninstaller, RuntimeFile::kUninstaller);
@@ -228,7 +228,7 @@ void SetupProgram::FinishEarlier(const SetupVariables& variables)
     if (installed)
         folders.insert(TextOf(*installed).value_or(""));
     for (const Text& folder : folders)
-        if (FinishInterrupted({input_.host, input_.target, log_}, folder) == EarlierRun::Stuck)
+        if (FinishInterrupted({input_.host, input_.target, log_}, folder) == EarlierRun::Incomplete)
             throw SetupFailure(ExitCode::Failed, texts_(Message::EarlierNotUndone, folder));
 }
 
@@ -291,7 +291,7 @@ void ReadLanguage(const FileSystem& files, const Text& folder, LoadedPackage& pa
         return;
     const Text path = JoinPath(folder, name);
     RunErrorNumber([&] {
-        if (files.FileExists(path) && files.Facts(path).size <= kLargestLanguageFile)
+        if (files.FileExists(path) && files.Status(path).size <= kMaxLanguageFileSize)
             package.texts = LanguageTexts(ReadWholeFile(files, path));
     });
 }

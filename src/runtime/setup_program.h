@@ -4,11 +4,11 @@
 
 #include "formats/package_manifest.h"
 #include "platform/ask.h"
+#include "runtime/action_log.h"
 #include "runtime/container.h"
 #include "runtime/exit_codes.h"
 #include "runtime/install_plan.h"
 #include "runtime/switches.h"
-#include "runtime/text_log.h"
 
 namespace quillon {
 

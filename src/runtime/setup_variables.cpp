@@ -69,7 +69,7 @@ void SetUser(SetupVariables& variables, const VariableSources& sources)
 // wherever the setup was started.
 Text WithDrive(const Text& folder, const Machine& machine)
 {
-    return IsWholePath(folder)
+    return IsAbsolutePath(folder)
                ? folder
                : RemoveDupBackslashesEx(JoinPath(DriveOf(machine.GetWindowsDir()) + "\\", folder));
 }
@@ -92,7 +92,7 @@ void SetComponentFolders(SetupVariables& variables, const VariableSources& sourc
     int number = 0;
     for (const section::FileComponent& component : sources.setup.project.FileComponents) {
         const Text folder = variables.ExpandPath(component.CompDir);
-        const bool isWhole = IsWholePath(folder);
+        const bool isWhole = IsAbsolutePath(folder);
         const Text below = folder.empty() ? mainFolder : JoinPath(mainFolder, folder);
         variables.Set(NameOf(Meaning::ComponentFolder, ++number), isWhole ? folder : below);
     }

@@ -17,7 +17,7 @@ public:
     void ShowProgress(std::uint64_t, std::uint64_t) override {}
     void ShowBusyPointer(bool) override {}
     void Beep() override {}
-    void YieldToEvents() override {}
+    void ProcessEvents() override {}
 };
 
 } // namespace quillon

@@ -7,28 +7,28 @@ namespace quillon {
 namespace {
 
 constexpr std::string_view kSection = "PreLoader";
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-constexpr std::string_view kUtf16Mark = "\xFF\xFE";
-constexpr std::string_view kTurnedUtf16Mark = "\xFE\xFF";
+constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf16Bom = "\xFF\xFE";
+constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
 // Longer than a key, its text and the blanks round them; what stands behind it is not looked at.
-constexpr std::size_t kLongestLine = 2100;
+constexpr std::size_t kMaxLineLength = 2100;
 
 /// Gives a file character by character, in UTF-16, whatever it was saved in.
 class Characters {
 public:
     Characters(std::string_view file, AnsiCharacter ansi) : rest_(file), ansi_(ansi)
     {
-        if (TakeMark(kUtf16Mark))
+        if (TakeMark(kUtf16Bom))
             form_ = Form::Utf16;
-        else if (TakeMark(kTurnedUtf16Mark))
-            form_ = Form::TurnedUtf16;
-        else if (TakeMark(kUtf8Mark) || IsUtf8(file))
+        else if (TakeMark(kUtf16BigEndianBom))
+            form_ = Form::Utf16BigEndian;
+        else if (TakeMark(kUtf8Bom) || IsUtf8(file))
             form_ = Form::Utf8;
     }
 
     bool AtEnd() const
     {
-        const bool isWide = form_ == Form::Utf16 || form_ == Form::TurnedUtf16;
+        const bool isWide = form_ == Form::Utf16 || form_ == Form::Utf16BigEndian;
         return !second_ && rest_.size() < (isWide ? 2 : 1);
     }
 
@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    enum class Form { Ansi, Utf8, Utf16, TurnedUtf16 };
+    enum class Form { Ansi, Utf8, Utf16, Utf16BigEndian };
 
     bool TakeMark(std::string_view mark)
     {
@@ -70,12 +70,12 @@ private:
     char16_t NextOfUtf8()
     {
         std::size_t position = 0;
-        const char32_t point = NextCodePoint(rest_, position);
+        const char32_t codePoint = NextCodePoint(rest_, position);
         rest_.remove_prefix(position);
-        if (point < 0x10000)
-            return static_cast<char16_t>(point);
-        second_ = static_cast<char16_t>(0xDC00 | ((point - 0x10000) & 0x3FFU));
-        return static_cast<char16_t>(0xD800 | ((point - 0x10000) >> 10U));
+        if (codePoint < 0x10000)
+            return static_cast<char16_t>(codePoint);
+        second_ = static_cast<char16_t>(0xDC00 | ((codePoint - 0x10000) & 0x3FFU));
+        return static_cast<char16_t>(0xD800 | ((codePoint - 0x10000) >> 10U));
     }
 
     std::string_view rest_;
@@ -126,14 +126,14 @@ bool HasControlCharacter(std::u16string_view text)
     return false;
 }
 
-std::u16string_view ReadLine(Characters& characters, char16_t (&line)[kLongestLine])
+std::u16string_view ReadLine(Characters& characters, char16_t (&line)[kMaxLineLength])
 {
     std::size_t length = 0;
     while (!characters.AtEnd()) {
         const char16_t c = characters.Next();
         if (c == u'\r' || c == u'\n')
             break;
-        if (length < kLongestLine)
+        if (length < kMaxLineLength)
             line[length++] = c;
     }
     return Trimmed({line, length});
@@ -145,7 +145,7 @@ bool FindStarterText(std::string_view file, std::string_view key, AnsiCharacter 
                      std::size_t room)
 {
     Characters characters(file, ansi);
-    char16_t buffer[kLongestLine];
+    char16_t buffer[kMaxLineLength];
     bool isInside = false;
     while (!characters.AtEnd()) {
         const std::u16string_view line = ReadLine(characters, buffer);

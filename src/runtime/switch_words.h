@@ -44,7 +44,7 @@ const Char* EndOfSwitch(const Char* word)
 
 /// Whether the line holds /S, with or without quotation marks.
 template <class Char>
-bool AsksForSilence(const Char* line)
+bool HasSilentSwitch(const Char* line)
 {
     for (line = SkipSwitchBlanks(line); *line != 0; line = SkipSwitchBlanks(line)) {
         const Char* const end = EndOfSwitch(line);

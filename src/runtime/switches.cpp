@@ -42,7 +42,7 @@ bool ApplySwitch(Switches& switches, std::string_view name, std::optional<Text> 
     if (EqualIgnoreCase(name, "/D") || EqualIgnoreCase(name, "/DIR")) {
         // In its plain form, for it becomes a part of every path, and of the record of them.
         switches.destination = ResolvePath(*value);
-        return IsWholePath(*value) && IsWholePath(switches.destination);
+        return IsAbsolutePath(*value) && IsAbsolutePath(switches.destination);
     }
     if (EqualIgnoreCase(name, "/LOG")) {
         switches.logFile = *value;
@@ -71,7 +71,7 @@ void ReadSwitch(Switches& switches, const Text& given)
 
 } // namespace
 
-bool IsWholePath(std::string_view path)
+bool IsAbsolutePath(std::string_view path)
 {
     if (path.size() >= 3 && path[1] == ':' && path[2] == '\\')
         return std::isalpha(static_cast<unsigned char>(path[0])) != 0;

@@ -33,6 +33,6 @@ struct UninstallerCommand {
 UninstallerCommand ReadUninstallerCommand(std::string_view commandLine);
 
 /// Drive and folder, or a network path: a folder that means the same wherever the setup is started.
-bool IsWholePath(std::string_view path);
+bool IsAbsolutePath(std::string_view path);
 
 } // namespace quillon

@@ -67,7 +67,7 @@ void LogWindow(const TestInput& input, const TestWindow& window, const LanguageT
 {
     if (input.switches.logFile.empty())
         return;
-    TextLog log(input.host.files, input.host.machine, input.switches.logFile, texts);
+    ActionLog log(input.host.files, input.host.machine, input.switches.logFile, texts);
     for (const Text& line : {window.title, window.note, window.heading})
         log.TextLine(line);
     for (const Text& line : window.lines)

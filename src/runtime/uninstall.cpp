@@ -3,9 +3,9 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "runtime/changes.h"
 #include "runtime/file_installer.h"
 #include "runtime/ini_changes.h"
+#include "runtime/install_transaction.h"
 #include "runtime/journal_table.h"
 #include "runtime/planned_shortcuts.h"
 #include "runtime/recorded_paths.h"
@@ -34,32 +34,32 @@ public:
 private:
     enum class Part { AllButEntry, Entry };
 
-    void TakeBackAll(Part part);
-    void TakeBack(std::size_t index);
-    void TakeBack(const record::File& file) { RemoveFile(file.path); }
-    void TakeBack(const record::Backup& backup) { RestoreBackup(backup.path, backup.kept); }
-    void TakeBack(const record::Shared& shared) { RemoveSharedFile(shared.path); }
-    void TakeBack(const record::Font& font);
-    void TakeBack(const record::Registered& registered);
-    void TakeBack(const record::Key& key) { RemoveKeyIfEmpty(key.key); }
-    void TakeBack(const record::Value& value);
-    void TakeBack(const record::UninstallKey& key) { RemoveKeyWithAllBelow(key.key); }
-    void TakeBack(const record::UninstallValue& value) { RemoveValue(value.key, value.name); }
-    void TakeBack(const record::IniFile& change) { TakeBackIni(change); }
-    void TakeBack(const record::IniOpenEnd& change) { TakeBackIni(change); }
-    void TakeBack(const record::IniSection& change) { TakeBackIni(change); }
-    void TakeBack(const record::IniValue& change) { TakeBackIni(change); }
+    void UndoAll(Part part);
+    void Undo(std::size_t index);
+    void Undo(const record::File& file) { RemoveFile(file.path); }
+    void Undo(const record::Backup& backup) { RestoreBackup(backup.path, backup.kept); }
+    void Undo(const record::Shared& shared) { RemoveSharedFile(shared.path); }
+    void Undo(const record::Font& font);
+    void Undo(const record::Registered& registered);
+    void Undo(const record::Key& key) { RemoveKeyIfEmpty(key.key); }
+    void Undo(const record::Value& value);
+    void Undo(const record::UninstallKey& key) { RemoveKeyWithAllBelow(key.key); }
+    void Undo(const record::UninstallValue& value) { RemoveValue(value.key, value.name); }
+    void Undo(const record::IniFile& change) { UndoIni(change); }
+    void Undo(const record::IniOpenEnd& change) { UndoIni(change); }
+    void Undo(const record::IniSection& change) { UndoIni(change); }
+    void Undo(const record::IniValue& change) { UndoIni(change); }
     // What tells of the product or belongs to the installation alone. Folders and what waits for
     // the machine's next start go last.
     template <class Record>
-    void TakeBack(const Record&)
+    void Undo(const Record&)
     {
     }
     template <class Record>
-    void TakeBackIni(const Record& change)
+    void UndoIni(const Record& change)
     {
         if (IsInReach(change.path))
-            TakeBackIniChange(files_, change);
+            UndoIniChange(files_, change);
     }
     bool IsInReach(const Text& path);
     void RemoveFile(const Text& path);
@@ -71,7 +71,7 @@ private:
     void RemoveValue(const RegistryKey& key, const Text& name);
     void RemoveKeyIfEmpty(const RegistryKey& key);
     void RemoveKeyWithAllBelow(const RegistryKey& key);
-    void TakeBackRestart(const record::AtRestart& move);
+    void UndoRestart(const record::AtRestart& move);
     void RemoveProductItself();
     void RemoveFolders();
     void RemoveFolder(const Text& folder);
@@ -108,23 +108,23 @@ ExitCode Uninstallation::Run()
 {
     input_.ask.AddStatusLine(input_.product.texts[Message::UninstallRunning]);
     Attempt(input_.logPath, [&] { ReleaseSharedFiles(); });
-    TakeBackAll(Part::AllButEntry);
+    UndoAll(Part::AllButEntry);
     for (const record::AtRestart& move : paths_.Pending())
-        Attempt(move.from, [&] { TakeBackRestart(move); });
+        Attempt(move.from, [&] { UndoRestart(move); });
     if (!partly_)
-        TakeBackAll(Part::Entry);
+        UndoAll(Part::Entry);
     if (!partly_)
         Attempt(input_.logPath, [&] { RemoveProductItself(); });
     RemoveFolders();
     return partly_ ? ExitCode::Failed : ExitCode::Done;
 }
 
-void Uninstallation::TakeBackAll(Part part)
+void Uninstallation::UndoAll(Part part)
 {
     for (std::size_t left = records_.size(); left > 0; --left) {
         const JournalRecord& record = records_[left - 1];
         if (IsOfEntry(record) == (part == Part::Entry))
-            Attempt(SubjectOf(record), [&] { TakeBack(left - 1); });
+            Attempt(SubjectOf(record), [&] { Undo(left - 1); });
         if (part == Part::AllButEntry)
             input_.ask.ShowProgress(records_.size() - left + 1, records_.size());
     }
@@ -140,21 +140,21 @@ bool Uninstallation::IsOfEntry(const JournalRecord& record) const
            LowerCase(KeyText(entry_) + "\\").starts_with(LowerCase(KeyText(key->key) + "\\"));
 }
 
-void Uninstallation::TakeBack(std::size_t index)
+void Uninstallation::Undo(std::size_t index)
 {
     if (std::holds_alternative<record::Replaced>(records_[index]))
         RemoveReplaced(index);
     else
-        std::visit([&](const auto& record) { TakeBack(record); }, records_[index]);
+        std::visit([&](const auto& record) { Undo(record); }, records_[index]);
 }
 
-void Uninstallation::TakeBack(const record::Font& font)
+void Uninstallation::Undo(const record::Font& font)
 {
     if (!paths_.StaysBehind(font.path) && IsInReach(font.path))
         input_.target.AnnounceFont(font.path, false);
 }
 
-void Uninstallation::TakeBack(const record::Registered& registered)
+void Uninstallation::Undo(const record::Registered& registered)
 {
     const Text& path = registered.path;
     if (files_.FileExists(path) && !paths_.StaysBehind(path) && IsInReach(path))
@@ -249,7 +249,7 @@ void Uninstallation::RemoveSharedFile(const Text& path)
     RemoveValue(SharedFilesKey(), path);
 }
 
-void Uninstallation::TakeBack(const record::Value& value)
+void Uninstallation::Undo(const record::Value& value)
 {
     const auto present = input_.target.ReadValue(value.key, value.name);
     if (!present)
@@ -293,7 +293,7 @@ void Uninstallation::RemoveKeyWithAllBelow(const RegistryKey& key)
 }
 
 // The file that would have taken its place at the next start goes; the one that is there stays.
-void Uninstallation::TakeBackRestart(const record::AtRestart& move)
+void Uninstallation::UndoRestart(const record::AtRestart& move)
 {
     const Text place = LowerCase(ExtractDirectory(move.to) + "\\");
     // A path that is not plain could lead out of the place that it begins with.
@@ -335,7 +335,7 @@ void Uninstallation::RemoveFolder(const Text& folder)
     if (!files_.DirExists(folder))
         return;
     if (paths_.IsBehindLink(folder)) {
-        input_.log.Skipped(folder, {Message::ReasonLinkOnTheWay});
+        input_.log.Skipped(folder, {Message::ReasonLinkInPath});
         return;
     }
     if (!HoldsOnlyWhatGoes(folder)) {
@@ -366,7 +366,7 @@ std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, co
 {
     if (!files.FileExists(logPath))
         return std::nullopt;
-    auto records = ReadInstallLog(ReadWholeFile(files, logPath));
+    auto records = ReadInstallJournal(ReadWholeFile(files, logPath));
     if (!records)
         return std::nullopt;
     InstalledProduct product;
@@ -387,10 +387,10 @@ ExitCode Uninstall(const UninstallInput& input)
     return Uninstallation(input).Run();
 }
 
-bool LiesBeside(const FileSystem& files, const Text& logPath, const Text& program)
+bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& program)
 {
     const Text wanted = files.ShortPath(logPath);
-    const std::vector<Text> logs = InstallLogsIn(files, ExtractDirectory(program));
+    const std::vector<Text> logs = InstallJournalsIn(files, ExtractDirectory(program));
     return std::any_of(logs.begin(), logs.end(), [&](const Text& log) {
         return EqualIgnoreCase(files.ShortPath(log), wanted);
     });
@@ -402,7 +402,7 @@ bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& u
     const Text own = files.ShortPath(UninstallerPath(folder));
     if (!EqualIgnoreCase(files.ShortPath(uninstaller), own))
         return false;
-    const std::vector<Text> logs = InstallLogsIn(files, folder);
+    const std::vector<Text> logs = InstallJournalsIn(files, folder);
     return std::all_of(logs.begin(), logs.end(),
                        [&](const Text& log) { return EqualIgnoreCase(log, logPath); });
 }

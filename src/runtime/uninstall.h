@@ -11,11 +11,11 @@
 
 #include "platform/ask.h"
 #include "platform/host.h"
+#include "runtime/action_log.h"
 #include "runtime/exit_codes.h"
-#include "runtime/install_log.h"
+#include "runtime/install_journal.h"
 #include "runtime/language_file.h"
 #include "runtime/target.h"
-#include "runtime/text_log.h"
 
 #include <functional>
 #include <optional>
@@ -35,7 +35,7 @@ struct UninstallInput {
     Host& host;
     Target& target;
     Ask& ask;
-    TextLog& log;
+    ActionLog& log;
     Text logPath;
     const InstalledProduct& product;
     /// Gets the running program's own file out of the main folder, if it is that one. Nothing where
@@ -49,7 +49,7 @@ ExitCode Uninstall(const UninstallInput& input);
 
 /// Whether the log is one of a product in the folder of that program. The uninstaller believes no
 /// other: it would remove whatever a file says that somebody has given it.
-bool LiesBeside(const FileSystem& files, const Text& logPath, const Text& program);
+bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& program);
 
 /// Products that share a main folder share the uninstaller in it: true where this product's going
 /// takes along the program at `uninstaller`.

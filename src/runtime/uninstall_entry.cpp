@@ -28,7 +28,7 @@ RegistryKey UninstallEntryKey(const Text& product)
             "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + AsFileName(product)};
 }
 
-void WriteUninstallEntry(const InstallInput& input, Changes& changes)
+void WriteUninstallEntry(const InstallInput& input, InstallTransaction& changes)
 {
     const section::Version& version = input.setup.project.Version;
     const Text& project = input.setup.project.ProjectName.ProjectName;

@@ -8,6 +8,6 @@ namespace quillon {
 /// Where the entry of the product of that name stands.
 RegistryKey UninstallEntryKey(const Text& product);
 
-void WriteUninstallEntry(const InstallInput& input, Changes& changes);
+void WriteUninstallEntry(const InstallInput& input, InstallTransaction& changes);
 
 } // namespace quillon

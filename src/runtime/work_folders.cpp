@@ -56,7 +56,7 @@ void RemoveAbandonedWorkFolders(FileSystem& files, const Text& tempFolder,
         return;
     for (const FolderEntry& entry : files.List(tempFolder)) {
         const Text folder = JoinPath(tempFolder, entry.name);
-        if (!entry.facts.isFolder || !IsWorkFolderName(entry.name) || isLink(folder))
+        if (!entry.status.isFolder || !IsWorkFolderName(entry.name) || isLink(folder))
             continue;
         // Another user's folder, or one with more in it, stays.
         RunErrorNumber([&] { RemoveWorkFolder(files, folder); });

@@ -40,7 +40,7 @@ bool HoldsMoreThanTheProject(const Session& session, const Text& path)
 Text WriteAndKeep(Session& session, const Text& path)
 {
     FileSystem& files = session.host.files;
-    DemandRoomForPictures(session.project);
+    RequireRoomForPictures(session.project);
     SavedFile file(files, path);
     WriteProject(session.project, file, session.host, session.ask);
     const Text kept = HoldsMoreThanTheProject(session, path) ? KeepBeside(files, path) : Text();

@@ -1,7 +1,7 @@
 // The selection of the file list behind a command that put its rows into another order.
 #pragma once
 
-#include "filelist/sort.h"
+#include "filelist/view/sort.h"
 #include "shell/main_window.h"
 
 namespace quillon {

@@ -1,7 +1,7 @@
 #include "shell/project_commands.h"
 
 #include "actions/unsavable_line.h"
-#include "filelist/sort.h"
+#include "filelist/view/sort.h"
 #include "helpers/product.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"

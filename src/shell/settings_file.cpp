@@ -3,11 +3,11 @@
 #include "helpers/ansi_text.h"
 #include "helpers/utf8.h"
 #include "helpers/windows_path.h"
+#include "ini/profile_reader.h"
+#include "ini/profile_writer.h"
 #include "platform/run_error.h"
 #include "platform/saved_file.h"
 #include "platform/whole_file.h"
-#include "project/profile_reader.h"
-#include "project/profile_writer.h"
 #include "shell/command_table.h"
 #include "shell/settings_keys.h"
 
@@ -20,7 +20,7 @@ namespace {
 constexpr const char* kSettingsFileName = "QUILLON.INI";
 
 // A path with characters outside Windows-1252 stands in UTF-8 behind this mark.
-constexpr std::string_view kUtf8Mark = "utf-8:";
+constexpr std::string_view kUtf8Bom = "utf-8:";
 
 bool HasNoLineBreak(const Text& value)
 {
@@ -34,15 +34,15 @@ Text FittingOnFile(const Text& value, int limit)
         return {};
     if (AnsiText::Holds(value))
         return value;
-    const bool isCut = kUtf8Mark.size() + value.size() >= static_cast<std::size_t>(limit);
-    return isCut ? Text() : Text(kUtf8Mark) + AnsiText::FromBytes(value);
+    const bool isCut = kUtf8Bom.size() + value.size() >= static_cast<std::size_t>(limit);
+    return isCut ? Text() : Text(kUtf8Bom) + AnsiText::FromBytes(value);
 }
 
 Text ValueFromFile(const Text& onFile)
 {
-    if (!onFile.starts_with(kUtf8Mark))
+    if (!onFile.starts_with(kUtf8Bom))
         return onFile;
-    Text value = AnsiText::ToBytes(std::string_view(onFile).substr(kUtf8Mark.size()));
+    Text value = AnsiText::ToBytes(std::string_view(onFile).substr(kUtf8Bom.size()));
     return IsUtf8(value) ? value : Text();
 }
 
@@ -163,9 +163,9 @@ void UseKnownBarsStyle(WindowOptions& options)
 void ForgetImpossiblePlace(WindowPlace& place)
 {
     const auto possible = [](Integer length) {
-        constexpr Integer kShortest = 100;
-        constexpr Integer kLongest = 16384;
-        return length >= kShortest && length <= kLongest;
+        constexpr Integer kMin = 100;
+        constexpr Integer kMax = 16384;
+        return length >= kMin && length <= kMax;
     };
     if (!possible(place.Width) || !possible(place.Height))
         place.Width = place.Height = 0;

@@ -28,7 +28,7 @@ FontForm::FontForm(const FontChoice& current, Ask& ask, QWidget* parent)
     cUnderline->setVisible(Chosen.isUnderlined.has_value());
     cStrikeThrough->setVisible(Chosen.isStruckOut.has_value());
     cmdColor->setVisible(Chosen.colour.has_value());
-    Arrange(Down({
+    Arrange(VBox({
         Fields({{"&Teckensnitt:", ComboFontName}, {"&Storlek (punkter):", ComboFontSize}}),
         Frame("Utseende", {looks}),
         Growing(Frame("Exempel", {Growing(sSample)})),

@@ -120,14 +120,14 @@ Piece Form::OkCancel()
     // stay down. OK leaves the field when it is pressed whole, and Cancel wants no checks.
     for (QPushButton* button : {cmdOK, cmdCancel})
         button->setFocusPolicy(Qt::TabFocus);
-    return Across({Stretch(), cmdOK, cmdCancel});
+    return HBox({Stretch(), cmdOK, cmdCancel});
 }
 
 Piece Form::OkOnly()
 {
     Button(NAMED(cmdOK), "OK", [this] { PressOk(); });
     cmdOK->setDefault(true);
-    return Across({Stretch(), cmdOK});
+    return HBox({Stretch(), cmdOK});
 }
 
 void Form::Arrange(Piece pieces)
@@ -162,7 +162,7 @@ void Form::PressOk()
     if (QWidget* focus = focusWidget(); focus && cmdOK)
         cmdOK->setFocus();
     const auto isTooLong = [](const Limit& limit) {
-        return TellIfTooLong(limit.field, limit.longest);
+        return WarnIfTooLong(limit.field, limit.longest);
     };
     if (std::ranges::any_of(limits_, isTooLong) || !MayClose())
         return;

@@ -168,7 +168,7 @@ void QtAsk::Beep()
     QApplication::beep();
 }
 
-void QtAsk::YieldToEvents()
+void QtAsk::ProcessEvents()
 {
     QCoreApplication::processEvents();
 }

@@ -40,7 +40,7 @@ public:
     void ShowBusyPointer(bool busy) override;
     void ShowStatusText(const Text& text) override;
     void Beep() override;
-    void YieldToEvents() override;
+    void ProcessEvents() override;
 
     /// Where `ShowStatusText` goes: the status bar of the main window.
     std::function<void(const Text&)> onStatusText;

@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-RunningText::RunningText(const Text& text, const Text& spokenName)
+RunningText::RunningText(const Text& text, const Text& accessibleName)
 {
     setAcceptRichText(false);
     setPlainText(LinesToQt(text));
@@ -14,7 +14,7 @@ RunningText::RunningText(const Text& text, const Text& spokenName)
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setTabChangesFocus(true);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    setAccessibleName(ToQt(spokenName));
+    setAccessibleName(ToQt(accessibleName));
     setFrameShape(NoFrame);
     document()->setDocumentMargin(0);
     viewport()->setAutoFillBackground(false);

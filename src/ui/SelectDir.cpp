@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kPath = Qt::UserRole;
 constexpr int kIsFilled = Qt::UserRole + 1;
-constexpr std::size_t kLongestPathOnFile = 255;
+constexpr std::size_t kMaxPathBytes = 255;
 constexpr char kFirstDrive[] = "C:\\";
 
 Text PathOf(const QStandardItem* item)
@@ -32,7 +32,7 @@ QStandardItem* FolderItem(const Text& path, const Text& caption, const QIcon& pi
     return item;
 }
 
-bool CanStandInAPath(const Text& name)
+bool IsValidInPath(const Text& name)
 {
     return AnsiText::Holds(name) && name.find('\\') == Text::npos;
 }
@@ -43,7 +43,7 @@ std::vector<Text> FoldersIn(const FileSystem& files, const Text& folder)
     std::vector<Text> names;
     try {
         for (const FolderEntry& entry : files.List(folder))
-            if (entry.facts.isFolder && !entry.facts.isHidden && CanStandInAPath(entry.name))
+            if (entry.status.isFolder && !entry.status.isHidden && IsValidInPath(entry.name))
                 names.push_back(entry.name);
     } catch (const RunError&) {
         return {};
@@ -98,12 +98,12 @@ SelectDir::SelectDir(FileSystem& files, Ask& ask, const Text& text, const Text& 
 {
     MakeControls(text);
     FillDrives();
-    Arrange(Down({
+    Arrange(VBox({
         sDialogText,
         Fields({{"&Enhet:", DriveListX}}),
         Growing(DirTreeX),
         Fields({{"Ka&talog:", sDirectory}}),
-        Across({cmdNewDirectory, OkCancel()}),
+        HBox({cmdNewDirectory, OkCancel()}),
     }));
     ShowFolder(NearestFolder(ResolvePath(folder)));
     FollowTree();
@@ -261,9 +261,9 @@ void SelectDir::MakeNewDirectory()
 bool SelectDir::MayClose()
 {
     const Text folder = TypedFolder();
-    if (CharacterCount(folder) > kLongestPathOnFile)
+    if (CharacterCount(folder) > kMaxPathBytes)
         return Refuse("Ogiltig katalog", "Katalogen '" + folder + "' är längre än " +
-                                             std::to_string(kLongestPathOnFile) +
+                                             std::to_string(kMaxPathBytes) +
                                              " tecken! Välj en annan katalog.");
     // "C:Data" has no place that is the same for everybody.
     const bool isWhole = folder.size() > 2 && folder[2] == '\\';

@@ -13,7 +13,7 @@ constexpr int kUsualNameLength = 40;
 XInputBox::XInputBox(const Text& title, const Text& prompt, QWidget* parent)
     : Form("XInputBox", title, parent)
 {
-    Arrange(Down({Above(prompt, RoomFor(kUsualNameLength, Field(NAMED(tInput), Input))), Stretch(),
+    Arrange(VBox({Above(prompt, MinWidth(kUsualNameLength, Field(NAMED(tInput), Input))), Stretch(),
                   OkCancel()}));
 }
 

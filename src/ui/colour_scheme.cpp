@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLongestWait = 200; // milliseconds
+constexpr int kMaxWait = 200; // milliseconds
 
 // Without an address the bus would be started for us, which takes its time.
 bool HasBus()
@@ -32,14 +32,14 @@ bool DesktopPrefersDark()
     // A desktop that has such a portal has it running.
     question.setAutoStartService(false);
     const QDBusMessage answer =
-        QDBusConnection::sessionBus().call(question, QDBus::Block, kLongestWait);
+        QDBusConnection::sessionBus().call(question, QDBus::Block, kMaxWait);
     return answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty() &&
-           SaysDark(answer.arguments().front());
+           IsDarkPreference(answer.arguments().front());
 }
 
 } // namespace
 
-bool SaysDark(const QVariant& answer)
+bool IsDarkPreference(const QVariant& answer)
 {
     QVariant inside = answer;
     while (inside.metaType() == QMetaType::fromType<QDBusVariant>())

@@ -16,6 +16,6 @@ QPalette DarkPalette();
 
 /// What the desktop's settings portal answers to the question for its colour scheme: 1 is dark, 2
 /// is light, 0 no wish, wrapped as the bus sends it.
-bool SaysDark(const QVariant& answer);
+bool IsDarkPreference(const QVariant& answer);
 
 } // namespace quillon

@@ -44,13 +44,14 @@ bool IsDark(const QPalette& palette)
 
 QColor AccentColour(const QPalette& palette)
 {
-    constexpr double kTold = 4;
-    const QColor ground = palette.color(QPalette::Window);
+    constexpr double kMinContrast = 4;
+    const QColor background = palette.color(QPalette::Window);
     const QColor selection = palette.color(QPalette::Active, QPalette::Highlight);
     const QColor wanted = selection.hslSaturationF() < 0.25F ? kBlue : selection;
     const QColor end = IsDark(palette) ? Qt::white : Qt::black;
     for (double share = 0; share < 1; share += 0.05)
-        if (const QColor colour = Mixed(wanted, end, share); Contrast(colour, ground) >= kTold)
+        if (const QColor colour = Mixed(wanted, end, share);
+            Contrast(colour, background) >= kMinContrast)
             return colour;
     return palette.color(QPalette::WindowText);
 }

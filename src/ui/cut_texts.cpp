@@ -15,7 +15,7 @@ QString CutText(const QAbstractItemView& view, const QModelIndex& cell)
                : QString();
 }
 
-class CutTexts : public QObject {
+class ElidedTexts : public QObject {
 public:
     using QObject::QObject;
 
@@ -40,9 +40,9 @@ public:
 
 } // namespace
 
-void ShowCutTextsAsTips(QCoreApplication& application)
+void ShowElidedTextsAsToolTips(QCoreApplication& application)
 {
-    application.installEventFilter(new CutTexts(&application));
+    application.installEventFilter(new ElidedTexts(&application));
 }
 
 } // namespace quillon

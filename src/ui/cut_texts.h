@@ -7,6 +7,6 @@ class QCoreApplication;
 namespace quillon {
 
 /// In all lists of the program, from now on. A cell that has a tip of its own keeps that one.
-void ShowCutTextsAsTips(QCoreApplication& application);
+void ShowElidedTextsAsToolTips(QCoreApplication& application);
 
 } // namespace quillon

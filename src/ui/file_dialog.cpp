@@ -11,7 +11,7 @@ namespace quillon {
 
 namespace {
 
-/// "*.x;*.y" as Qt's patterns. "*.*" means every file, those without a point too.
+/// "*.x;*.y" as Qt's patterns. "*.*" means every file, those without a dot too.
 QStringList PatternsOf(QString patterns)
 {
     return patterns.replace("*.*", "*").split(';', Qt::SkipEmptyParts);

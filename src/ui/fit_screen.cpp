@@ -36,7 +36,7 @@ public:
     void Show(QWidget* contents)
     {
         setWidget(contents);
-        // What lies behind the area shows through, such as the ground of a tab.
+        // What lies behind the area shows through, such as the background of a tab.
         viewport()->setAutoFillBackground(false);
         contents->setAutoFillBackground(false);
     }

@@ -59,12 +59,12 @@ Piece Arranged(QBoxLayout* box, Pieces pieces)
 
 } // namespace
 
-Piece Down(Pieces pieces)
+Piece VBox(Pieces pieces)
 {
     return Arranged(new QVBoxLayout, pieces);
 }
 
-Piece Across(Pieces pieces)
+Piece HBox(Pieces pieces)
 {
     return Arranged(new QHBoxLayout, pieces);
 }
@@ -85,7 +85,7 @@ Piece Growing(Piece piece, int stretch)
 QGroupBox* Frame(const Text& caption, Pieces pieces)
 {
     auto* frame = new QGroupBox(ToQt(caption));
-    frame->setLayout(Down(pieces).layout);
+    frame->setLayout(VBox(pieces).layout);
     // A lone field in a frame has the frame's caption for a name.
     for (const Piece& piece : pieces)
         if (piece.widget && piece.widget->inherits("QLineEdit") &&
@@ -120,14 +120,14 @@ Piece Above(const Text& caption, Piece piece)
     return box;
 }
 
-QWidget* Together(Piece pieces)
+QWidget* Group(Piece pieces)
 {
     auto* widget = new QWidget;
     Arrange(widget, pieces);
     return widget;
 }
 
-QWidget* RoomFor(int letters, QWidget* widget)
+QWidget* MinWidth(int letters, QWidget* widget)
 {
     widget->setMinimumWidth(letters * widget->fontMetrics().averageCharWidth());
     return widget;

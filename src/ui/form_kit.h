@@ -1,7 +1,7 @@
 // How a form is declared: where its pieces stand, what they are called, what they say. Pieces have
 // no positions in pixels, so that no font, scale or text can break a form.
 //
-//   Down({Fields({{"&Namn:", Field(NAMED(tName), name)}}), Stretch(), OkCancel()})
+//   VBox({Fields({{"&Namn:", Field(NAMED(tName), name)}}), Stretch(), OkCancel()})
 #pragma once
 
 #include "helpers/text.h"
@@ -38,8 +38,8 @@ private:
 
 using Pieces = std::initializer_list<Piece>;
 
-Piece Down(Pieces pieces);
-Piece Across(Pieces pieces);
+Piece VBox(Pieces pieces);
+Piece HBox(Pieces pieces);
 /// Room that takes what is left over.
 Piece Stretch();
 /// The piece takes `stretch` parts of what is left over.
@@ -59,10 +59,10 @@ Piece Fields(std::initializer_list<LabelledPiece> rows);
 Piece Above(const Text& caption, Piece piece);
 
 /// The pieces as one widget, such as a tab.
-QWidget* Together(Piece pieces);
+QWidget* Group(Piece pieces);
 
 /// The widget, wide enough for this many usual letters of its font.
-QWidget* RoomFor(int letters, QWidget* widget);
+QWidget* MinWidth(int letters, QWidget* widget);
 
 /// Ticking one of the boxes unticks the others from now on; none may be ticked, too.
 void AtMostOne(std::initializer_list<QCheckBox*> boxes);
@@ -73,12 +73,12 @@ QLabel* Note(const Text& text);
 /// Gives a widget its object name, and the words that a screen reader says where no caption stands
 /// beside it.
 template <class Widget>
-Widget* Named(Widget*& member, const char* name, Widget* widget, const Text& spokenName = {})
+Widget* Named(Widget*& member, const char* name, Widget* widget, const Text& accessibleName = {})
 {
     member = widget;
     widget->setObjectName(QString::fromLatin1(name));
-    if (!spokenName.empty())
-        widget->setAccessibleName(QString::fromStdString(spokenName));
+    if (!accessibleName.empty())
+        widget->setAccessibleName(QString::fromStdString(accessibleName));
     return widget;
 }
 

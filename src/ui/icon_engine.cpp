@@ -20,19 +20,19 @@ struct Tones {
 
 Tones TonesOf(const QPalette& palette, QIcon::Mode mode)
 {
-    const QColor ground = palette.color(QPalette::Window);
+    const QColor background = palette.color(QPalette::Window);
     const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
     switch (mode) {
     case QIcon::Disabled:
         // Grey, and both tones alike: nothing here is to catch the eye.
-        return {Mixed(ground, text, 0.35), Mixed(ground, text, 0.35)};
+        return {Mixed(background, text, 0.35), Mixed(background, text, 0.35)};
     case QIcon::Selected: {
         const QColor onSelection = palette.color(QPalette::Active, QPalette::HighlightedText);
         return {onSelection, onSelection};
     }
     default:
         // A little softer than the text, since lines are heavier than letters.
-        return {Mixed(text, ground, 0.15), AccentColour(palette)};
+        return {Mixed(text, background, 0.15), AccentColour(palette)};
     }
 }
 

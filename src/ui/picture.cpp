@@ -1,6 +1,6 @@
 #include "ui/picture.h"
 
-#include "design/posix/font_letters.h"
+#include "design/system_letters.h"
 #include "pictures/picture_file.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
@@ -16,10 +16,10 @@ namespace quillon {
 namespace {
 
 // Beyond these a file is a mistake, or made to bring the program down.
-constexpr std::uint64_t kMostBytes = 128U << 20;
-constexpr qint64 kMostPixels = 30'000'000;
-constexpr int kMostIcons = 64;
-constexpr int kLargestIcon = 1024;
+constexpr std::uint64_t kMaxBytes = 128U << 20;
+constexpr qint64 kMaxPixels = 30'000'000;
+constexpr int kMaxIcons = 64;
+constexpr int kMaxIconSize = 1024;
 
 // What the setup shows too is read by the code that the setup reads it by.
 constexpr const char* kFormats[] = {"gif", "ico", "png"};
@@ -29,7 +29,7 @@ class PictureFile {
 public:
     PictureFile(const FileSystem& files, const Text& path)
     {
-        if (path.empty() || files.Facts(path).size > kMostBytes)
+        if (path.empty() || files.Status(path).size > kMaxBytes)
             return;
         bytes_ = ReadWholeFile(files, path);
         view_ = QByteArray::fromRawData(bytes_.data(), static_cast<qsizetype>(bytes_.size()));
@@ -49,7 +49,7 @@ public:
         const QByteArray format = reader_.format();
         const QSize size = reader_.size();
         if (std::find(std::begin(kFormats), std::end(kFormats), format) == std::end(kFormats) ||
-            size.isEmpty() || qint64{size.width()} * size.height() > kMostPixels)
+            size.isEmpty() || qint64{size.width()} * size.height() > kMaxPixels)
             return std::nullopt;
         QImage picture;
         return reader_.read(&picture) ? std::optional(std::move(picture)) : std::nullopt;
@@ -58,7 +58,7 @@ public:
     std::vector<QImage> ReadIcons()
     {
         std::vector<QImage> icons;
-        for (int i = 0; i < std::min(reader_.imageCount(), kMostIcons); ++i)
+        for (int i = 0; i < std::min(reader_.imageCount(), kMaxIcons); ++i)
             if (QImage icon; reader_.jumpToImage(i) && reader_.read(&icon) && IsIconSize(icon))
                 icons.push_back(std::move(icon));
         return icons;
@@ -67,7 +67,7 @@ public:
 private:
     static bool IsIconSize(const QImage& icon)
     {
-        return !icon.isNull() && std::max(icon.width(), icon.height()) <= kLargestIcon;
+        return !icon.isNull() && std::max(icon.width(), icon.height()) <= kMaxIconSize;
     }
 
     std::string bytes_;

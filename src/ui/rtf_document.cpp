@@ -115,13 +115,13 @@ private:
         look.setFontItalic(style.isItalic);
         look.setFontUnderline(style.isUnderlined);
         look.setFontStrikeOut(style.isStruckOut);
-        if (style.height == RtfStyle::Height::Raised)
+        if (style.height == RtfStyle::Height::Superscript)
             look.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
-        if (style.height == RtfStyle::Height::Lowered)
+        if (style.height == RtfStyle::Height::Subscript)
             look.setVerticalAlignment(QTextCharFormat::AlignSubScript);
-        look.setForeground(style.ink == kNoColour ? kInk : ToQtColour(style.ink));
-        if (style.ground != kNoColour)
-            look.setBackground(ToQtColour(style.ground));
+        look.setForeground(style.foreground == kNoColour ? kInk : ToQtColour(style.foreground));
+        if (style.background != kNoColour)
+            look.setBackground(ToQtColour(style.background));
         return look;
     }
 
@@ -148,9 +148,9 @@ Colour ToColour(const QColor& colour)
 }
 
 /// Reads a document back as paragraphs and runs.
-class RtfTaker {
+class RtfExtractor {
 public:
-    explicit RtfTaker(int pointsPerInch) : twipsPerPoint_(kTwipsPerInch / pointsPerInch) {}
+    explicit RtfExtractor(int pointsPerInch) : twipsPerPoint_(kTwipsPerInch / pointsPerInch) {}
 
     RtfText Take(const QTextDocument& document)
     {
@@ -213,14 +213,14 @@ private:
         style.isUnderlined = font.underline();
         style.isStruckOut = font.strikeOut();
         if (look.verticalAlignment() == QTextCharFormat::AlignSuperScript)
-            style.height = RtfStyle::Height::Raised;
+            style.height = RtfStyle::Height::Superscript;
         if (look.verticalAlignment() == QTextCharFormat::AlignSubScript)
-            style.height = RtfStyle::Height::Lowered;
+            style.height = RtfStyle::Height::Subscript;
         if (look.hasProperty(QTextFormat::ForegroundBrush) && look.foreground().color() != kInk)
-            style.ink = ToColour(look.foreground().color());
+            style.foreground = ToColour(look.foreground().color());
         if (look.hasProperty(QTextFormat::BackgroundBrush) &&
             look.background().style() != Qt::NoBrush)
-            style.ground = ToColour(look.background().color());
+            style.background = ToColour(look.background().color());
         return style;
     }
 
@@ -257,14 +257,14 @@ private:
 
 } // namespace
 
-void PutRtf(const RtfText& text, QTextDocument& document, int pointsPerInch)
+void InsertRtf(const RtfText& text, QTextDocument& document, int pointsPerInch)
 {
     RtfWriter(text, document, pointsPerInch).Write();
 }
 
-RtfText TakeRtf(const QTextDocument& document, int pointsPerInch)
+RtfText ExtractRtf(const QTextDocument& document, int pointsPerInch)
 {
-    return RtfTaker(pointsPerInch).Take(document);
+    return RtfExtractor(pointsPerInch).Take(document);
 }
 
 } // namespace quillon

@@ -12,7 +12,7 @@ namespace quillon {
 namespace {
 
 // Larger files are pictures with some words between them.
-constexpr std::uint64_t kMostBytes = 32U << 20U;
+constexpr std::uint64_t kMaxBytes = 32U << 20U;
 constexpr double kTabsPerInch = 2; // where a paragraph has none of its own
 const QColor kPaper = Qt::white;
 const QColor kInk = Qt::black;
@@ -33,13 +33,13 @@ Text NoteOf(RtfText::Fault fault)
 
 } // namespace
 
-RtfView::RtfView(const Text& spokenName)
+RtfView::RtfView(const Text& accessibleName)
 {
     setReadOnly(true);
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    setAccessibleName(ToQt(spokenName));
+    setAccessibleName(ToQt(accessibleName));
     QPalette paper = palette();
     paper.setColor(QPalette::Base, kPaper);
     paper.setColor(QPalette::Text, kInk);
@@ -52,7 +52,7 @@ void RtfView::ShowFile(const FileSystem& files, const Text& path)
     if (path.empty())
         return ShowNote("Ingen RTF-fil är vald.");
     try {
-        if (files.Facts(path).size > kMostBytes)
+        if (files.Status(path).size > kMaxBytes)
             return ShowNote("Filen '" + path + "' är för stor för att visas.");
         const auto text = ReadRtf(ReadWholeFile(files, path));
         if (!text)
@@ -67,7 +67,7 @@ void RtfView::ShowText(const RtfText& text)
 {
     ShowNote(NoteOf(text.fault));
     setTabStopDistance(logicalDpiX() / kTabsPerInch);
-    PutRtf(text, *document(), logicalDpiX());
+    InsertRtf(text, *document(), logicalDpiX());
     moveCursor(QTextCursor::Start);
 }
 

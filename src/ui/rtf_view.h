@@ -2,8 +2,8 @@
 // writer chose the inks for white. To be read only.
 #pragma once
 
-#include "formats/rtf_text.h"
 #include "platform/file_system.h"
+#include "rtf/rtf_text.h"
 
 #include <QTextEdit>
 
@@ -11,7 +11,7 @@ namespace quillon {
 
 class RtfView : public QTextEdit {
 public:
-    explicit RtfView(const Text& spokenName);
+    explicit RtfView(const Text& accessibleName);
 
     /// Shows the file, or says in its place why it can't be shown. A file that ends too early is
     /// shown with a word about it above.

@@ -15,8 +15,9 @@ namespace {
 QString Holdable(const QString& text)
 {
     QString kept;
-    for (const uint point : text.toUcs4()) {
-        const QString character = QString::fromUcs4(reinterpret_cast<const char32_t*>(&point), 1);
+    for (const uint codePoint : text.toUcs4()) {
+        const QString character =
+            QString::fromUcs4(reinterpret_cast<const char32_t*>(&codePoint), 1);
         if (AnsiText::Holds(FromQt(character)))
             kept += character;
     }
@@ -91,18 +92,18 @@ public:
         : QObject(area), area_(area), added_(area), longest_(longest)
     {
         Remember();
-        connect(area, &QPlainTextEdit::textChanged, this, [this] { TakeBack(); });
+        connect(area, &QPlainTextEdit::textChanged, this, [this] { Undo(); });
     }
 
 private:
-    void TakeBack()
+    void Undo()
     {
         if (isRestoring_)
             return;
         QTextCursor cursor = added_.Take();
         const QString added = WithLineFeeds(cursor.selectedText());
         QString kept = Holdable(added);
-        const bool isTooLong = BytesOnFile(kept) > RoomFor(added);
+        const bool isTooLong = BytesOnFile(kept) > MinWidth(added);
         if (isTooLong)
             kept.clear();
         if (kept != added)
@@ -130,7 +131,7 @@ private:
     }
 
     /// How many bytes of what was added there is room for.
-    int RoomFor(const QString& added) const
+    int MinWidth(const QString& added) const
     {
         if (longest_ == 0)
             return std::numeric_limits<int>::max();
@@ -156,8 +157,7 @@ public:
     explicit LineLimit(QLineEdit* field) : QObject(field), field_(field), before_(field->text())
     {
         connect(field, &QLineEdit::inputRejected, this, [this] { TellOfRoom(); });
-        connect(field, &QLineEdit::textEdited, this,
-                [this](const QString& text) { TakeBack(text); });
+        connect(field, &QLineEdit::textEdited, this, [this](const QString& text) { Undo(text); });
         // What the signal says may have been taken back already.
         connect(field, &QLineEdit::textChanged, this, [this] { before_ = field_->text(); });
     }
@@ -172,7 +172,7 @@ private:
         TellTooLong(field_, field_->maxLength());
     }
 
-    void TakeBack(const QString& text)
+    void Undo(const QString& text)
     {
         // A line that is pasted with its break would stand as two in the project file.
         const QString line = InOneLine(text);
@@ -271,7 +271,7 @@ void LimitTyping(QPlainTextEdit* field, int longest)
     new AreaLimit(field, longest);
 }
 
-bool TellIfTooLong(QWidget* field, int longest)
+bool WarnIfTooLong(QWidget* field, int longest)
 {
     const auto* const line = qobject_cast<QLineEdit*>(field);
     const auto* const area = qobject_cast<QPlainTextEdit*>(field);

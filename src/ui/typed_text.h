@@ -19,7 +19,7 @@ void LimitTyping(QPlainTextEdit* field, int longest);
 
 /// Whether the field, a line or an area, holds more than `longest` bytes on file: a project that
 /// was not read from a file may have come with it. The field says so and takes the keyboard.
-bool TellIfTooLong(QWidget* field, int longest);
+bool WarnIfTooLong(QWidget* field, int longest);
 
 /// From now on no line break comes into an area whose text the project file holds in one line:
 /// Enter presses the form's default button, and breaks that are pasted become blanks.

@@ -14,13 +14,13 @@ TEST(IniFileToAppend, WritesTheNameInCapitalsWithItsExtension)
 {
     struct Row {
         const char* name;
-        const char* head;
+        const char* header;
     };
-    for (const auto& [name, head] :
+    for (const auto& [name, header] :
          {Row{"win", "-- WIN.INI --"}, Row{"app.ini", "-- APP.INI --"},
           Row{"my.ini.bak", "-- MY.INI.BAK --"}, Row{"App.Ini", "-- APP.INI --"},
           Row{"åäö", "-- ÅÄÖ.INI --"}, Row{"a.txt", "-- A.TXT.INI --"}})
-        EXPECT_EQ(IniFileToAppend("", name), head);
+        EXPECT_EQ(IniFileToAppend("", name), header);
 }
 
 TEST(IniFileToAppend, LeavesAnEmptyLineBehindTheFileBefore)
@@ -142,9 +142,9 @@ TEST_F(OpenINIFileIntoListTest, KeepsTheLinesThatWereReadBeforeAFailure)
 
 TEST_F(OpenINIFileIntoListTest, RefusesAFileThatTheListHasNoRoomFor)
 {
-    const Text head = "-- MIN.INI --\r\n";
-    const std::size_t room = kLongestIniList - head.size();
-    EXPECT_EQ(Opened(std::string(room, 'x')), head + Text(room, 'x'));
+    const Text header = "-- MIN.INI --\r\n";
+    const std::size_t room = kMaxIniListLength - header.size();
+    EXPECT_EQ(Opened(std::string(room, 'x')), header + Text(room, 'x'));
     ask.Expect({BoxKind::Critical, "Fel",
                 "Listan över INI-filer kan innehålla högst 32767 tecken! Ingenting har lagts "
                 "till."});
@@ -184,7 +184,7 @@ TEST(HasRoomInIniList, CountsBytesOnFile)
 {
     ScriptedAsk ask{{{BoxKind::Critical, "Fel"}}};
     Text list;
-    for (int i = 0; i < kLongestIniList; ++i)
+    for (int i = 0; i < kMaxIniListLength; ++i)
         list += "ö";
     EXPECT_TRUE(HasRoomInIniList(list, "", ask));
     EXPECT_FALSE(HasRoomInIniList(list, "ö", ask));

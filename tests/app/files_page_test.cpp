@@ -396,9 +396,9 @@ TEST_F(FilesPageTest, HintsAtWhatToDoWhileItIsEmpty)
     OpenWindow({});
     EXPECT_EQ(StatusText(), "0 objekt,   0,0 kb");
     const QImage empty = list->viewport()->grab().toImage();
-    QImage ground = empty;
-    ground.fill(list->palette().color(QPalette::Base));
-    EXPECT_NE(empty, ground);
+    QImage background = empty;
+    background.fill(list->palette().color(QPalette::Base));
+    EXPECT_NE(empty, background);
     EXPECT_TRUE(list->accessibleDescription().contains("Addera filer"));
     SavePicture(*form, "FilesPage_empty");
 }
@@ -563,7 +563,7 @@ TEST_F(FilesPageTest, TakesNoTextThatIsDropped)
 
 TEST_F(FilesPageTest, HoldsAsManyRowsAsAProject)
 {
-    std::vector<FileListRow> rows(kMostRows, MakeRow("x"));
+    std::vector<FileListRow> rows(kMaxRows, MakeRow("x"));
     for (std::size_t i = 0; i < rows.size(); ++i)
         rows[i][Filename] = "fil" + NumberText(static_cast<std::int64_t>(100000 + i)) + ".dat";
     OpenWindow(std::move(rows));
@@ -572,9 +572,9 @@ TEST_F(FilesPageTest, HoldsAsManyRowsAsAProject)
     EXPECT_EQ(StatusText(), "32767 markerade objekt");
     EXPECT_EQ(list->selectionModel()->selection().size(), 1) << "one range, not a row each";
     ClickHeader(IconMarker);
-    EXPECT_EQ(form->SelectedRows().size(), kMostRows);
+    EXPECT_EQ(form->SelectedRows().size(), kMaxRows);
     QTest::keyClick(list, Qt::Key_End);
-    EXPECT_THAT(form->SelectedRows(), ElementsAre(kMostRows - 1));
+    EXPECT_THAT(form->SelectedRows(), ElementsAre(kMaxRows - 1));
     EXPECT_TRUE(
         list->viewport()->rect().intersects(list->visualRect(list->model()->index(32766, 0))));
 }

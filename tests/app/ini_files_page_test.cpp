@@ -148,11 +148,11 @@ TEST_F(IniFilesPageTest, UndoesWhatAButtonAdded)
 
 TEST_F(IniFilesPageTest, TakesNoMoreThanTheProjectFileHolds)
 {
-    list = Text(kLongestIniList - 1, 'x');
+    list = Text(kMaxIniListLength - 1, 'x');
     page.ShowSession();
     editor.moveCursor(QTextCursor::Start);
     TypeKeys(editor, "ab");
-    EXPECT_EQ(list, "a" + Text(kLongestIniList - 1, 'x'));
+    EXPECT_EQ(list, "a" + Text(kMaxIniListLength - 1, 'x'));
     const Text full = list;
     ask.Expect({BoxKind::Critical, "Fel",
                 "Listan över INI-filer kan innehålla högst 32767 tecken! Ingenting har lagts "

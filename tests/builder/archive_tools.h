@@ -2,7 +2,7 @@
 // the world opens them with.
 #pragma once
 
-#include "formats/zip_reader.h"
+#include "archive/zip_reader.h"
 
 #include <map>
 #include <string>

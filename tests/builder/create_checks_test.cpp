@@ -1,7 +1,7 @@
 #include "builder/create_checks.h"
 
 #include "create_desk.h"
-#include "filelist/redist_folder.h"
+#include "filelist/adding/redist_folder.h"
 
 #include <gtest/gtest.h>
 

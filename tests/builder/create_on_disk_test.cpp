@@ -143,7 +143,8 @@ TEST_P(OnDisk, WritesFloppiesThatEachTakeNoMoreThanTheyHold)
     const int disks = OpenPackage(system.files, "S:\\Ut").setup.Floppies;
     EXPECT_EQ(disks > 0, GetParam() == Medium::Floppy);
     for (int n = 2; n <= disks; ++n)
-        EXPECT_LE(system.files.Facts(DiskFolder("S:\\Ut", n) + "\\FILEDATA.DAT").size, kFloppySize);
+        EXPECT_LE(system.files.Status(DiskFolder("S:\\Ut", n) + "\\FILEDATA.DAT").size,
+                  kFloppySize);
 }
 
 INSTANTIATE_TEST_SUITE_P(Create, OnDisk,

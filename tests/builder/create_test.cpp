@@ -1,10 +1,10 @@
 #include "builder/create.h"
 
+#include "archive/zip_reader.h"
 #include "create_desk.h"
 #include "formats/install_row.h"
 #include "formats/package_manifest.h"
 #include "formats/setup_information.h"
-#include "formats/zip_reader.h"
 #include "support/golden.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #include "builder/design_container.h"
 
+#include "archive/zip_reader.h"
 #include "create_desk.h"
-#include "formats/zip_reader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "builder/file_container.h"
 
+#include "archive/zip_reader.h"
 #include "create_desk.h"
 #include "formats/setup_information.h"
-#include "formats/zip_reader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -192,12 +192,12 @@ TEST_F(WriteFileList, TakesSizeAndFolderFromTheSameResolvedPath)
 
 TEST_F(WriteFileList, HoldsTheLargestListThereIs)
 {
-    project.Files.rows.assign(kMostRows, Row("a.txt", "%DESTDIR", "c:\\data\\a.txt"));
+    project.Files.rows.assign(kMaxRows, Row("a.txt", "%DESTDIR", "c:\\data\\a.txt"));
     EXPECT_EQ(Write(), 0);
-    EXPECT_EQ(outcome.FilesInList, Long(kMostRows));
+    EXPECT_EQ(outcome.FilesInList, Long(kMaxRows));
     const InstallFileList list = ReadInstallFileList(Written());
     EXPECT_TRUE(list.isWhole);
-    EXPECT_EQ(list.rows.size(), kMostRows);
+    EXPECT_EQ(list.rows.size(), kMaxRows);
 }
 
 TEST(SourceFolderOnMedium, IsTheFolderWithoutDriveAndLeadingBackslash)

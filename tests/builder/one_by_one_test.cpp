@@ -1,7 +1,7 @@
 #include "builder/one_by_one.h"
 
+#include "archive/zip_reader.h"
 #include "create_desk.h"
-#include "formats/zip_reader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -117,7 +117,7 @@ TEST_F(OneByOne, KeepsTheSourcesDate)
     const LocalTime date{1999, 1, 2, 3, 4, 6};
     desk.machine.files.Put("C:\\Data\\a.txt", "a", date);
     Copy();
-    EXPECT_EQ(desk.machine.files.Facts("C:\\Ut\\SetupFiles\\a.txt_").modified, date);
+    EXPECT_EQ(desk.machine.files.Status("C:\\Ut\\SetupFiles\\a.txt_").modified, date);
 }
 
 TEST_F(OneByOne, EndsAtAFolderThatCannotBeMade)

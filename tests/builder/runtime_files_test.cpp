@@ -100,10 +100,10 @@ TEST(CopySetupExe, KeepsTheReleaseDateUnlessTheOptionSaysNow)
     CreateDesk desk;
     desk.machine.files.Put("C:\\Quillon\\Release\\SETUP32.EXE", "x", released);
     EXPECT_EQ(desk.With(CopySetupExe), Step::GoOn);
-    EXPECT_EQ(desk.machine.files.Facts("C:\\Ut\\SETUP.EXE").modified, released);
+    EXPECT_EQ(desk.machine.files.Status("C:\\Ut\\SETUP.EXE").modified, released);
     desk.options.UpdateSetupExeDateTime = kOn;
     EXPECT_EQ(desk.With(CopySetupExe), Step::GoOn);
-    EXPECT_EQ(desk.machine.files.Facts("C:\\Ut\\SETUP.EXE").modified, desk.machine.machine.now);
+    EXPECT_EQ(desk.machine.files.Status("C:\\Ut\\SETUP.EXE").modified, desk.machine.machine.now);
 }
 
 TEST(CopyRuntimeExe, TakesTheFullVersionForAJpegPicture)

@@ -63,7 +63,7 @@ public:
     void PutTricky(const Text& path, std::uint64_t size, Open open)
     {
         Put(path, "");
-        At(path).facts.size = size;
+        At(path).status.size = size;
         tricks_[LowerCase(path)] = std::move(open);
     }
 

@@ -18,7 +18,7 @@ protected:
     void FillList(std::size_t fewer = 0) const
     {
         Project full = MakeProject({"App\\Prog.exe"});
-        full.Files.rows.resize(kMostRows - fewer, full.Files.rows[0]);
+        full.Files.rows.resize(kMaxRows - fewer, full.Files.rows[0]);
         Save(full);
     }
 };

@@ -5,8 +5,8 @@
 namespace quillon::cli {
 namespace {
 
-constexpr auto kStop = ConsoleAsk::Answers::ThatStop;
-constexpr auto kGoOn = ConsoleAsk::Answers::ThatGoOn;
+constexpr auto kStop = ConsoleAsk::Answers::Decline;
+constexpr auto kGoOn = ConsoleAsk::Answers::Accept;
 
 TEST(ConsoleAsk, PrintsStatusLinesOnOneOutputAndBoxesOnTheOther)
 {

@@ -67,8 +67,8 @@ private:
     {
         if (key == "UnderlineTextOnly" || key == "HidePicturesWhenDialogsShowed")
             return 1 - fresh;
-        constexpr int kMostChoices = 12;
-        const bool isChoice = fresh < kMostChoices && key != "UnderlineHeight";
+        constexpr int kMaxChoices = 12;
+        const bool isChoice = fresh < kMaxChoices && key != "UnderlineHeight";
         return !isChoice ? fresh + 3 : fresh == 1 ? 2 : 1;
     }
 

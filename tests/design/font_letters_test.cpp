@@ -1,5 +1,5 @@
 // The letters of this machine: what holds of any font.
-#include "design/posix/font_letters.h"
+#include "design/system_letters.h"
 
 #include "helpers/number_text.h"
 

@@ -1,5 +1,5 @@
 // The painter of the screen, pixel by pixel.
-#include "design/ground.h"
+#include "design/background.h"
 #include "design/picture.h"
 #include "design/text_panel.h"
 #include "design/title_block.h"
@@ -20,9 +20,9 @@ namespace {
 /// A canvas of its own, grey at first.
 class Image {
 public:
-    Image(int width, int height, Pixel ground = 0xFF808080)
+    Image(int width, int height, Pixel background = 0xFF808080)
         : width_(width),
-          pixels_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), ground),
+          pixels_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), background),
           canvas(WholeCanvas(pixels_.data(), width, height))
     {
     }

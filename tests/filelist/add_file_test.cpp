@@ -1,4 +1,4 @@
-#include "filelist/add_file.h"
+#include "filelist/adding/add_file.h"
 
 #include "filelist/list_builder.h"
 #include "helpers/number_text.h"
@@ -91,7 +91,7 @@ TEST_F(AddFile, SendsFontsToTheFontFolder)
     EXPECT_EQ(list.rows[0][Destination], "%FONTDIR");
     EXPECT_EQ(list.rows[1][Destination], "%FONTDIR");
     EXPECT_EQ(list.rows[2][Extension], "b.ttf");
-    EXPECT_EQ(list.rows[2][Destination], "%WINDIR") << "its extension begins at the first point";
+    EXPECT_EQ(list.rows[2][Destination], "%WINDIR") << "its extension begins at the first dot";
 }
 
 TEST_F(AddFile, LooksForAVersionInProgramsAndLibrariesOnlyUnderVersionRules)
@@ -119,7 +119,7 @@ TEST_F(AddFile, LooksForAVersionInProgramsAndLibrariesOnlyUnderVersionRules)
 TEST_F(AddFile, DropsHiddenFilesSilently)
 {
     machine.files.Put("C:\\D\\a.txt", "x");
-    machine.files.At("C:\\D\\a.txt").facts.isHidden = true;
+    machine.files.At("C:\\D\\a.txt").status.isHidden = true;
     EXPECT_EQ(Add(FileAt("C:\\D", "a.txt")), std::nullopt);
     EXPECT_TRUE(list.rows.empty());
 }
@@ -210,7 +210,7 @@ TEST_F(AddFile, AsksItsQuestionsInAFixedOrder)
 
     file = FileAt("C:\\a;b", "c.txt");
     machine.files.Put(file.SourcePath, "x");
-    machine.files.At(file.SourcePath).facts.isHidden = true;
+    machine.files.At(file.SourcePath).status.isHidden = true;
     file.CheckDuplicates = file.ShowDuplicateMessage = true;
     EXPECT_EQ(Add(file, {{BoxKind::Inform, "Quillon", kAlreadyInList}}), std::nullopt)
         << "known before badly named";
@@ -221,7 +221,7 @@ TEST_F(AddFile, AsksItsQuestionsInAFixedOrder)
     list.rows.resize(32767);
     file = FileAt("C:\\D", "hidden.txt");
     machine.files.Put(file.SourcePath, "x");
-    machine.files.At(file.SourcePath).facts.isHidden = true;
+    machine.files.At(file.SourcePath).status.isHidden = true;
     EXPECT_EQ(Add(file), std::nullopt) << "hidden before there is no room";
 }
 
@@ -396,7 +396,7 @@ TEST_F(AddSystemFile, LeavesFontsInTheSystemFolder)
 TEST_F(AddSystemFile, DropsHiddenAndGuardedFilesSilently)
 {
     machine.files.Put(kSystem + "\\a.dll", "x");
-    machine.files.At(kSystem + "\\a.dll").facts.isHidden = true;
+    machine.files.At(kSystem + "\\a.dll").status.isHidden = true;
     machine.files.Put(kSystem + "\\comcat.dll", "x");
     machine.machine.windowsXP = true;
     EXPECT_EQ(AddSystem("a.dll", false), std::nullopt);

@@ -1,4 +1,4 @@
-#include "filelist/add_files_command.h"
+#include "filelist/adding/add_files_command.h"
 
 #include "filelist/list_builder.h"
 #include "support/memory_host.h"
@@ -244,11 +244,11 @@ TEST_F(AddFilesBoxes, KeepsTheRowsFromBeforeAFailure)
 
 TEST_F(AddFilesBoxes, FailsAtTheLastRowThatAListHolds)
 {
-    project.Files.rows.resize(kMostRows - 1, MakeRow("x"));
+    project.Files.rows.resize(kMaxRows - 1, MakeRow("x"));
     Pick({"C:\\D\\a.txt", "C:\\D\\b.txt"});
     RunWith(
         {{BoxKind::Critical, "Fel", "Ett fel inträffade när filerna adderades till fillistan!"}});
-    EXPECT_EQ(Rows().size(), kMostRows);
+    EXPECT_EQ(Rows().size(), kMaxRows);
 }
 
 TEST_F(AddFilesBoxes, TellsOfASourceThatNoProjectCanHold)

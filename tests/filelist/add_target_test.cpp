@@ -1,4 +1,4 @@
-#include "filelist/add_target.h"
+#include "filelist/adding/add_target.h"
 
 #include "support/memory_host.h"
 

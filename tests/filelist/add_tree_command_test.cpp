@@ -1,4 +1,4 @@
-#include "filelist/add_tree_command.h"
+#include "filelist/adding/add_tree_command.h"
 
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"

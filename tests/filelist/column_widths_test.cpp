@@ -1,4 +1,4 @@
-#include "filelist/column_widths.h"
+#include "filelist/view/column_widths.h"
 
 #include <gtest/gtest.h>
 

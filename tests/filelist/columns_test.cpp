@@ -1,4 +1,4 @@
-#include "filelist/columns.h"
+#include "filelist/view/columns.h"
 
 #include <gtest/gtest.h>
 

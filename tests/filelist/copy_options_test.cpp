@@ -1,4 +1,4 @@
-#include "filelist/copy_options.h"
+#include "filelist/options/copy_options.h"
 
 #include "filelist/list_builder.h"
 

@@ -1,4 +1,4 @@
-#include "filelist/destination_choice.h"
+#include "filelist/adding/destination_choice.h"
 
 #include "support/scripted_ask.h"
 

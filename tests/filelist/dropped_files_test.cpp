@@ -1,4 +1,4 @@
-#include "filelist/dropped_files.h"
+#include "filelist/adding/dropped_files.h"
 
 #include "filelist/list_builder.h"
 #include "support/memory_host.h"

@@ -1,7 +1,7 @@
-#include "filelist/duplicates.h"
+#include "filelist/adding/duplicates.h"
 
 #include "filelist/list_builder.h"
-#include "filelist/sort.h"
+#include "filelist/view/sort.h"
 #include "helpers/number_text.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "filelist/file_info.h"
+#include "filelist/options/file_info.h"
 
 #include "filelist/list_builder.h"
 #include "support/memory_host.h"
@@ -44,7 +44,7 @@ TEST(FileInfoOf, TellsOfTheFileOnDiskAndItsVersion)
                                                               {"CompanyName", "Firma"},
                                                               {"LegalCopyright", "(C) Firma"}}}});
     machine.files.Put("C:\\D\\Prog.exe", bytes, {2004, 2, 29, 12, 30, 7});
-    machine.files.At("C:\\D\\Prog.exe").facts.isReadOnly = true;
+    machine.files.At("C:\\D\\Prog.exe").status.isReadOnly = true;
     FileListRow row = MakeRow("Prog.exe", "%DESTDIR\\Bin", "c:\\d\\prog.exe");
     row[Size] = "99,9"; // what the list shows may be old
     const FileInfo expected{.Filename = "Prog.exe",

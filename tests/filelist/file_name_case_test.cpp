@@ -1,4 +1,4 @@
-#include "filelist/file_name_case.h"
+#include "filelist/adding/file_name_case.h"
 
 #include <gtest/gtest.h>
 

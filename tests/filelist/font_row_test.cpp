@@ -1,4 +1,4 @@
-#include "filelist/font_row.h"
+#include "filelist/options/font_row.h"
 
 #include "list_builder.h"
 #include "support/scripted_ask.h"

@@ -1,4 +1,4 @@
-#include "filelist/icon_row.h"
+#include "filelist/options/icon_row.h"
 
 #include "filelist/list_builder.h"
 #include "support/scripted_ask.h"

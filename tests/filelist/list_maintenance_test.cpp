@@ -128,12 +128,12 @@ TEST_F(AddEmptyDirectory, ChangesNothingWithoutAnAnswer)
 
 TEST_F(AddEmptyDirectory, RefusesARowBeyondTheLast)
 {
-    Rows().resize(kMostRows, MakeRow("x"));
+    Rows().resize(kMaxRows, MakeRow("x"));
     EXPECT_FALSE(Answer({"%DESTDIR\\Temp"},
                         {{BoxKind::Critical, "Fel",
                           "Fillistan rymmer högst 32767 rader. Katalogen '%DESTDIR\\Temp' kan ej "
                           "adderas till fillistan!"}}));
-    EXPECT_EQ(Rows().size(), kMostRows);
+    EXPECT_EQ(Rows().size(), kMaxRows);
     EXPECT_EQ(state.ProjectIsDirty, kOff);
 }
 

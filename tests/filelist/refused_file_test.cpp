@@ -1,4 +1,4 @@
-#include "filelist/refused_file.h"
+#include "filelist/adding/refused_file.h"
 
 #include "support/memory_host.h"
 
@@ -8,8 +8,8 @@ namespace quillon::test {
 
 TEST(RefusalOfLowerCase, IsForAnotherFileOrNone)
 {
-    const FileFacts upper{.identity = 7};
-    const FileFacts lower{.identity = 8};
+    const FileStatus upper{.identity = 7};
+    const FileStatus lower{.identity = 8};
     const Text start =
         "Filen 'S:\\A.TXT' kan ej adderas till fillistan! Källsökvägen lagras med små "
         "bokstäver, och 's:\\a.txt' leder till ";
@@ -23,7 +23,7 @@ TEST(RefusalOfLowerCase, IsForAnotherFileOrNone)
 
     EXPECT_FALSE(RefusalOfLowerCase("S:\\A.TXT", upper, upper));
     EXPECT_FALSE(RefusalOfLowerCase("S:\\A.TXT", std::nullopt, lower)) << "a missing file";
-    EXPECT_FALSE(RefusalOfLowerCase("S:\\A.TXT", FileFacts(), FileFacts()))
+    EXPECT_FALSE(RefusalOfLowerCase("S:\\A.TXT", FileStatus(), FileStatus()))
         << "a system that knows one spelling";
 }
 

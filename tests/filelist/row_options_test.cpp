@@ -1,4 +1,4 @@
-#include "filelist/row_options.h"
+#include "filelist/options/row_options.h"
 
 #include <gtest/gtest.h>
 

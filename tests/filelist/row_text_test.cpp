@@ -7,14 +7,14 @@
 namespace quillon::test {
 namespace {
 
-TEST(MayStandInRow, RefusesWhatEndsAField)
+TEST(CheckRowText, RefusesWhatEndsAField)
 {
     ScriptedAsk ask(
         {{BoxKind::Critical, "Ogiltiga tecken hittade",
           "Fältet 'Parametrar' innehåller ogiltiga tecken! Semikolon kan inte användas, "
           "eftersom det skiljer fälten i projektfilen åt."}});
-    EXPECT_TRUE(MayStandInRow("a:b", "Fältet 'Parametrar'", ask));
-    EXPECT_FALSE(MayStandInRow("a;b", "Fältet 'Parametrar'", ask));
+    EXPECT_TRUE(CheckRowText("a:b", "Fältet 'Parametrar'", ask));
+    EXPECT_FALSE(CheckRowText("a;b", "Fältet 'Parametrar'", ask));
 }
 
 } // namespace

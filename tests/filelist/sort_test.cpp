@@ -1,4 +1,4 @@
-#include "filelist/sort.h"
+#include "filelist/view/sort.h"
 
 #include "filelist/list_builder.h"
 

@@ -1,4 +1,4 @@
-#include "filelist/status_text.h"
+#include "filelist/view/status_text.h"
 
 #include "filelist/list_builder.h"
 #include "support/scripted_ask.h"

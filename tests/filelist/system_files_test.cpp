@@ -1,4 +1,4 @@
-#include "filelist/system_files.h"
+#include "filelist/adding/system_files.h"
 
 #include <gtest/gtest.h>
 

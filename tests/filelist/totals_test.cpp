@@ -1,4 +1,4 @@
-#include "filelist/totals.h"
+#include "filelist/view/totals.h"
 
 #include "filelist/list_builder.h"
 #include "support/scripted_ask.h"

@@ -1,4 +1,4 @@
-#include "filelist/tree_walk.h"
+#include "filelist/adding/tree_walk.h"
 
 #include "filelist/list_builder.h"
 #include "platform/run_error.h"
@@ -109,7 +109,7 @@ TEST_F(TreeWalkTest, CountsFilesThatBecomeNoRow)
 {
     const TreeToAdd tree{
         .StartDirectory = "C:\\Data\\App", .BaseDestination = "%DESTDIR", .CheckDuplicates = true};
-    machine.files.At("C:\\Data\\App\\b.txt").facts.isHidden = true;
+    machine.files.At("C:\\Data\\App\\b.txt").status.isHidden = true;
     Walk(tree);
     EXPECT_EQ(seen, 3);
     EXPECT_EQ(list.rows.size(), 2U);
@@ -131,11 +131,11 @@ TEST_F(TreeWalkTest, TellsOfEachSourceWithASemicolon)
 
 TEST_F(TreeWalkTest, DoesNotEnterAFolderThatLeadsBack)
 {
-    machine.files.At("C:\\Data\\App").facts.identity = 7;
-    machine.files.At("C:\\Data\\App\\Sub\\Inre").facts.identity = 7; // a link back up
-    machine.files.At("C:\\Data\\App\\Tom").facts.identity = 8;
+    machine.files.At("C:\\Data\\App").status.identity = 7;
+    machine.files.At("C:\\Data\\App\\Sub\\Inre").status.identity = 7; // a link back up
+    machine.files.At("C:\\Data\\App\\Tom").status.identity = 8;
     machine.files.PutFolder("C:\\Data\\App\\Sub\\Annan");
-    machine.files.At("C:\\Data\\App\\Sub\\Annan").facts.identity = 8; // a second way is none
+    machine.files.At("C:\\Data\\App\\Sub\\Annan").status.identity = 8; // a second way is none
     machine.files.Put("C:\\Data\\App\\Sub\\Annan\\d.txt", "x");
     Walk({.StartDirectory = "C:\\Data\\App", .BaseDestination = "%DESTDIR"});
     EXPECT_THAT(NamesOf(list), ElementsAre("d.txt", "a.txt", "b.txt"));

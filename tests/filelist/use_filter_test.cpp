@@ -1,7 +1,7 @@
-#include "filelist/use_filter.h"
+#include "filelist/adding/use_filter.h"
 
+#include "filelist/adding/redist_folder.h"
 #include "filelist/list_builder.h"
-#include "filelist/redist_folder.h"
 #include "platform/run_error.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"

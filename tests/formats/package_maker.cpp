@@ -1,7 +1,7 @@
 #include "formats/package_maker.h"
 
-#include "formats/zip_encryption.h"
-#include "formats/zip_records.h"
+#include "archive/zip_encryption.h"
+#include "archive/zip_records.h"
 #include "helpers/ansi_text.h"
 
 #include <zlib.h>

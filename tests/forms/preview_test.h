@@ -2,8 +2,8 @@
 // typed beside what is shown.
 #pragma once
 
-#include "actions/forms/InstDlg.h"
-#include "actions/forms/SidePicture.h"
+#include "actions/forms/previews/InstDlg.h"
+#include "actions/forms/previews/SidePicture.h"
 #include "support/bitmap_maker.h"
 #include "support/window_test.h"
 #include "ui/RunningText.h"

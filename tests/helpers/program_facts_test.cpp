@@ -12,7 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::optional<ProgramFacts> FactsOf(const std::string& bytes)
+std::optional<ProgramFacts> StatusOf(const std::string& bytes)
 {
     const ReadFileAt read = [&](std::uint64_t position, std::span<std::byte> buffer) {
         if (position >= bytes.size())
@@ -27,69 +27,69 @@ std::optional<ProgramFacts> FactsOf(const std::string& bytes)
 
 TEST(ProgramFacts, TellWhatAProgramIsLinkedTo)
 {
-    const auto facts = FactsOf(MakeLinkedProgram(
+    const auto status = StatusOf(MakeLinkedProgram(
         {.imports = {"KERNEL32.dll", "Qt6Core.dll"}, .delayedImports = {"WINMM.dll"}}));
-    ASSERT_TRUE(facts);
-    EXPECT_EQ(facts->machine, ProgramMachine::X86);
-    EXPECT_FALSE(facts->isLibrary);
-    EXPECT_THAT(facts->imports, ElementsAre("KERNEL32.dll", "Qt6Core.dll"));
-    EXPECT_THAT(facts->delayedImports, ElementsAre("WINMM.dll"));
-    EXPECT_FALSE(facts->isManaged);
+    ASSERT_TRUE(status);
+    EXPECT_EQ(status->machine, ProgramMachine::X86);
+    EXPECT_FALSE(status->isLibrary);
+    EXPECT_THAT(status->imports, ElementsAre("KERNEL32.dll", "Qt6Core.dll"));
+    EXPECT_THAT(status->delayedImports, ElementsAre("WINMM.dll"));
+    EXPECT_FALSE(status->isManaged);
 }
 
 TEST(ProgramFacts, KnowBothSizesOfAddressAndLibraries)
 {
-    const auto facts =
-        FactsOf(MakeLinkedProgram({.is64Bit = true, .isLibrary = true, .imports = {"a.dll"}}));
-    ASSERT_TRUE(facts);
-    EXPECT_EQ(facts->machine, ProgramMachine::X64);
-    EXPECT_TRUE(facts->isLibrary);
-    EXPECT_THAT(facts->imports, ElementsAre("a.dll"));
-    EXPECT_EQ(FactsOf(MakeLinkedProgram({.is64Bit = true, .machine = 0xAA64}))->machine,
+    const auto status =
+        StatusOf(MakeLinkedProgram({.is64Bit = true, .isLibrary = true, .imports = {"a.dll"}}));
+    ASSERT_TRUE(status);
+    EXPECT_EQ(status->machine, ProgramMachine::X64);
+    EXPECT_TRUE(status->isLibrary);
+    EXPECT_THAT(status->imports, ElementsAre("a.dll"));
+    EXPECT_EQ(StatusOf(MakeLinkedProgram({.is64Bit = true, .machine = 0xAA64}))->machine,
               ProgramMachine::Arm64);
-    EXPECT_EQ(FactsOf(MakeLinkedProgram({.machine = 0x1F0}))->machine, ProgramMachine::Other);
+    EXPECT_EQ(StatusOf(MakeLinkedProgram({.machine = 0x1F0}))->machine, ProgramMachine::Other);
 }
 
 TEST(ProgramFacts, TellALibraryOnce)
 {
-    const auto facts = FactsOf(MakeLinkedProgram({.imports = {"a.dll", "A.DLL", "b.dll"}}));
-    EXPECT_THAT(facts->imports, ElementsAre("a.dll", "b.dll"));
+    const auto status = StatusOf(MakeLinkedProgram({.imports = {"a.dll", "A.DLL", "b.dll"}}));
+    EXPECT_THAT(status->imports, ElementsAre("a.dll", "b.dll"));
 }
 
 TEST(ProgramFacts, ReadTheDelayTablesOfOldLinkers)
 {
-    const auto facts =
-        FactsOf(MakeLinkedProgram({.delayedImports = {"old.dll"}, .hasOldDelayTable = true}));
-    EXPECT_THAT(facts->delayedImports, ElementsAre("old.dll"));
+    const auto status =
+        StatusOf(MakeLinkedProgram({.delayedImports = {"old.dll"}, .hasOldDelayTable = true}));
+    EXPECT_THAT(status->delayedImports, ElementsAre("old.dll"));
 }
 
 TEST(ProgramFacts, TellTheRunTimeOfAManagedProgram)
 {
-    const auto facts =
-        FactsOf(MakeLinkedProgram({.imports = {"mscoree.dll"},
-                                   .clrVersion = "v4.0.30319",
-                                   .targetFramework = ".NETFramework,Version=v4.7.2"}));
-    ASSERT_TRUE(facts);
-    EXPECT_TRUE(facts->isManaged);
-    EXPECT_TRUE(facts->isForAnyMachine);
-    EXPECT_EQ(facts->clrVersion, "v4.0.30319");
-    EXPECT_EQ(facts->targetFramework, ".NETFramework,Version=v4.7.2");
+    const auto status =
+        StatusOf(MakeLinkedProgram({.imports = {"mscoree.dll"},
+                                    .clrVersion = "v4.0.30319",
+                                    .targetFramework = ".NETFramework,Version=v4.7.2"}));
+    ASSERT_TRUE(status);
+    EXPECT_TRUE(status->isManaged);
+    EXPECT_TRUE(status->isForAnyMachine);
+    EXPECT_EQ(status->clrVersion, "v4.0.30319");
+    EXPECT_EQ(status->targetFramework, ".NETFramework,Version=v4.7.2");
 }
 
 TEST(ProgramFacts, KnowAManagedProgramFor32BitAlone)
 {
     EXPECT_FALSE(
-        FactsOf(MakeLinkedProgram({.clrVersion = "v1.1.4322", .clrFlags = 3}))->isForAnyMachine);
-    EXPECT_FALSE(
-        FactsOf(MakeLinkedProgram({.is64Bit = true, .clrVersion = "v4.0.30319"}))->isForAnyMachine);
-    EXPECT_EQ(FactsOf(MakeLinkedProgram({.clrVersion = "v1.1.4322"}))->targetFramework, "");
+        StatusOf(MakeLinkedProgram({.clrVersion = "v1.1.4322", .clrFlags = 3}))->isForAnyMachine);
+    EXPECT_FALSE(StatusOf(MakeLinkedProgram({.is64Bit = true, .clrVersion = "v4.0.30319"}))
+                     ->isForAnyMachine);
+    EXPECT_EQ(StatusOf(MakeLinkedProgram({.clrVersion = "v1.1.4322"}))->targetFramework, "");
 }
 
 TEST(ProgramFacts, AreMissingWhereTheFileIsNoProgram)
 {
-    EXPECT_FALSE(FactsOf(""));
-    EXPECT_FALSE(FactsOf("MZ"));
-    EXPECT_FALSE(FactsOf(std::string(4096, 'M')));
+    EXPECT_FALSE(StatusOf(""));
+    EXPECT_FALSE(StatusOf("MZ"));
+    EXPECT_FALSE(StatusOf(std::string(4096, 'M')));
 }
 
 // Whatever is cut off a program, the reading ends with what was there.
@@ -98,9 +98,9 @@ TEST(ProgramFacts, EndWhereTheFileIsCut)
     const std::string whole = MakeLinkedProgram(
         {.imports = {"a.dll", "b.dll"}, .delayedImports = {"c.dll"}, .clrVersion = "v4.0.30319"});
     for (std::size_t size = 0; size < whole.size(); ++size)
-        if (const auto facts = FactsOf(whole.substr(0, size)))
-            EXPECT_LE(facts->imports.size(), 2U) << size;
-    EXPECT_THAT(FactsOf(whole.substr(0, 0x200))->imports, IsEmpty());
+        if (const auto status = StatusOf(whole.substr(0, size)))
+            EXPECT_LE(status->imports.size(), 2U) << size;
+    EXPECT_THAT(StatusOf(whole.substr(0, 0x200))->imports, IsEmpty());
 }
 
 } // namespace

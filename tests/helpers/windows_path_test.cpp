@@ -36,11 +36,11 @@ TEST(ChangeFilenameExt, ReplacesTheLastExtensionOfTheName)
     EXPECT_EQ(ChangeFilenameExt("C:\\v1.2\\readme", "txt"), "C:\\v1.2\\readme.txt");
 }
 
-TEST(ExtensionFromFirstPoint, CountsFromTheLeft)
+TEST(ExtensionFromFirstDot, CountsFromTheLeft)
 {
-    EXPECT_EQ(ExtensionFromFirstPoint("a.b.ttf"), "b.ttf");
-    EXPECT_EQ(ExtensionFromFirstPoint("a.ttf"), "ttf");
-    EXPECT_EQ(ExtensionFromFirstPoint("readme"), "");
+    EXPECT_EQ(ExtensionFromFirstDot("a.b.ttf"), "b.ttf");
+    EXPECT_EQ(ExtensionFromFirstDot("a.ttf"), "ttf");
+    EXPECT_EQ(ExtensionFromFirstDot("readme"), "");
 }
 
 TEST(Backslashes, AreTakenOffAndMadeSingle)

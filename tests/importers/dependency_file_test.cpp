@@ -185,7 +185,7 @@ TEST_F(DependencyFile, ComesToTheSameSectionTwiceWithTheSameOutcome)
     PutFiles(kFolder, {"a.dll", "b.dll", "d.dll", "e.dll"});
     Follow("[main.ocx]\r\nUses1=a.dll\r\nUses2=a.dll\r\nUses3=d.dll\r\nUses5=e.dll\r\n"
            "[a.dll]\r\nUses1=b.dll\r\nUses2=folder\r\nUses3=a.dll\r\nUses4=e.dll\r\n");
-    // 1 leads into [a.dll]; its 2 has no point; its 3 leads there again; its 4 leads back.
+    // 1 leads into [a.dll]; its 2 has no dot; its 3 leads there again; its 4 leads back.
     EXPECT_THAT(Names(), ElementsAre("a.dll", "b.dll", "e.dll"));
 }
 
@@ -250,10 +250,10 @@ TEST_F(DependencyFile, TellsOfEachSourceWithASemicolonAndGoesOn)
 
 TEST_F(DependencyFile, TellsOfAFullList)
 {
-    list.rows.assign(kMostRows, MakeRow("x"));
+    list.rows.assign(kMaxRows, MakeRow("x"));
     PutFiles(kFolder, {"a.dll"});
     Follow("[main.ocx]\r\nUses1=a.dll\r\n", {{BoxKind::Critical, "Fel", "Fel #6: 'a.dll'."}});
-    EXPECT_EQ(list.rows.size(), kMostRows);
+    EXPECT_EQ(list.rows.size(), kMaxRows);
 }
 
 TEST_F(DependencyFile, TellsOfAFileThatCannotBeRead)

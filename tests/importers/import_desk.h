@@ -2,7 +2,7 @@
 // ready.
 #pragma once
 
-#include "filelist/icon_row.h"
+#include "filelist/options/icon_row.h"
 #include "importers/import_work.h"
 #include "support/linked_program.h"
 #include "support/memory_host.h"

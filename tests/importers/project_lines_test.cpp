@@ -69,7 +69,7 @@ TEST(ProjectLines, OfAFileThatIsTooLargeAreItsFirstOnes)
         bytes += "Form=Form with a name that is long enough to fill a file.frm\r\n";
     machine.files.Put(kFile, bytes);
     const ProjectLines project = ReadProjectLines(machine.files, kFile);
-    EXPECT_EQ(project.lines.size(), kMostProjectBytes / 62);
+    EXPECT_EQ(project.lines.size(), kMaxProjectBytes / 62);
     EXPECT_EQ(project.lines.back(), project.lines.front()) << "no line is cut";
     EXPECT_EQ(project.damage,
               "Projektfilen 'C:\\P\\a.vbp' är större än 4 MB. Endast dess första 4 MB är lästa.");

@@ -86,7 +86,7 @@ TEST(ActiveXFilesOf, KeepTheOrderOfTheFile)
 TEST(ActiveXFilesOf, EndWhereNoProjectHasMore)
 {
     const std::vector<Text> lines(5000, "Object={1}; a.ocx");
-    EXPECT_EQ(ActiveXFilesOf(lines).size(), kMostReferences);
+    EXPECT_EQ(ActiveXFilesOf(lines).size(), kMaxReferences);
 }
 
 } // namespace

@@ -57,7 +57,7 @@ TEST(ComReferencesOf, EndsWhereNoProjectHasMore)
     std::vector<Text> lines{"<References>"};
     for (int i = 0; i < 5000; ++i)
         lines.insert(lines.end(), {"Guid = \"{0}\"", "\"1\"", "\"0\""});
-    EXPECT_EQ(ComReferencesOf(lines)->size(), kMostReferences);
+    EXPECT_EQ(ComReferencesOf(lines)->size(), kMaxReferences);
 }
 
 TEST(IncludedFileLines, StandBehindTheirHeading)

@@ -1,9 +1,9 @@
 // What a password protects and what not: the statements of docs/package-files.md, one by one.
 #include "packages/packaged_product.h"
 
+#include "archive/zip_reader.h"
 #include "formats/package_files.h"
 #include "formats/setup_information.h"
-#include "formats/zip_reader.h"
 #include "helpers/ansi_text.h"
 
 namespace quillon::test {

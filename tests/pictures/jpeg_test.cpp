@@ -164,7 +164,7 @@ TEST(DecodeJpeg, KeepsAHugePictureSmall)
     EXPECT_TRUE(usage.isOver);
     EXPECT_EQ(usage.fault, PictureFault::None);
     if (kIsMemoryMeasured)
-        EXPECT_LT(usage.peakKilobytes, kMostKilobytes);
+        EXPECT_LT(usage.peakKilobytes, kMaxKilobytes);
     // It is laid out in its own size all the same.
     const PictureResult result = DecodePicture(file);
     EXPECT_EQ(result.picture.Width(), 20'000);

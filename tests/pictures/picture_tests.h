@@ -75,6 +75,6 @@ inline constexpr bool kIsMemoryMeasured = false;
 #else
 inline constexpr bool kIsMemoryMeasured = true;
 #endif
-inline constexpr long kMostKilobytes = 256 * 1024;
+inline constexpr long kMaxKilobytes = 256 * 1024;
 
 } // namespace quillon::test

@@ -46,13 +46,13 @@ TEST_F(PosixFilesTest, TellsSizeTimeAndProtection)
     disk.Put("a.txt", "abc");
     files.SetModified("S:\\a.txt", {2004, 2, 29, 23, 59, 58});
     files.SetReadOnly("S:\\a.txt", true);
-    const FileFacts facts = files.Facts("S:\\A.txt");
-    EXPECT_EQ(facts.size, 3U);
-    EXPECT_EQ(facts.modified, (LocalTime{2004, 2, 29, 23, 59, 58}));
-    EXPECT_TRUE(facts.isReadOnly);
-    EXPECT_FALSE(facts.isFolder);
+    const FileStatus status = files.Status("S:\\A.txt");
+    EXPECT_EQ(status.size, 3U);
+    EXPECT_EQ(status.modified, (LocalTime{2004, 2, 29, 23, 59, 58}));
+    EXPECT_TRUE(status.isReadOnly);
+    EXPECT_FALSE(status.isFolder);
     files.SetReadOnly("S:\\a.txt", false);
-    EXPECT_FALSE(files.Facts("S:\\a.txt").isReadOnly);
+    EXPECT_FALSE(files.Status("S:\\a.txt").isReadOnly);
 }
 
 TEST_F(PosixFilesTest, SetsTimesOfSummerAndOfWinterAsTheClockShowsThem)
@@ -61,16 +61,16 @@ TEST_F(PosixFilesTest, SetsTimesOfSummerAndOfWinterAsTheClockShowsThem)
     for (const LocalTime& time :
          {LocalTime{2004, 1, 31, 0, 0, 1}, LocalTime{2004, 7, 1, 12, 0, 0}}) {
         files.SetModified("S:\\a.txt", time);
-        EXPECT_EQ(files.Facts("S:\\a.txt").modified, time);
+        EXPECT_EQ(files.Status("S:\\a.txt").modified, time);
     }
 }
 
 TEST_F(PosixFilesTest, TellsAMissingFileFromAMissingFolder)
 {
-    EXPECT_EQ(Failure([&] { files.Facts("S:\\a.txt"); }), 53);
-    EXPECT_EQ(Failure([&] { files.Facts("S:\\b\\a.txt"); }), 76);
-    EXPECT_EQ(Failure([&] { files.Facts("Q:\\a.txt"); }), 76);
-    EXPECT_EQ(Failure([&] { files.Facts("Z:\\no such name"); }), 53) << "the root is a folder too";
+    EXPECT_EQ(Failure([&] { files.Status("S:\\a.txt"); }), 53);
+    EXPECT_EQ(Failure([&] { files.Status("S:\\b\\a.txt"); }), 76);
+    EXPECT_EQ(Failure([&] { files.Status("Q:\\a.txt"); }), 76);
+    EXPECT_EQ(Failure([&] { files.Status("Z:\\no such name"); }), 53) << "the root is a folder too";
     EXPECT_EQ(Failure([&] { files.OpenInput("S:\\a.txt"); }), 53);
     EXPECT_EQ(Failure([&] { files.OpenInput("S:\\b\\a.txt"); }), 76);
     EXPECT_EQ(Failure([&] { files.OpenOutput("S:\\b\\a.txt"); }), 76);
@@ -165,7 +165,7 @@ TEST_F(PosixFilesTest, DoesNotWaitForAPipeThatNobodyWritesTo)
     EXPECT_EQ(Failure([&] { files.OpenInput("S:\\pipe"); }), 75);
     EXPECT_EQ(Failure([&] { files.OpenOutput("S:\\pipe"); }), 75);
     EXPECT_FALSE(files.FileExists("S:\\pipe"));
-    EXPECT_EQ(Failure([&] { files.Facts("S:\\pipe"); }), 75);
+    EXPECT_EQ(Failure([&] { files.Status("S:\\pipe"); }), 75);
     EXPECT_FALSE(files.FileExists("Z:\\dev\\null"));
     for (const FolderEntry& entry : files.List("S:\\"))
         EXPECT_NE(entry.name, "pipe");
@@ -182,9 +182,9 @@ TEST_F(PosixFilesTest, ListsAFolderInByteOrder)
     for (const FolderEntry& entry : files.List("S:\\"))
         names.push_back(entry.name);
     EXPECT_EQ(names, (std::vector<Text>{".hidden", "B.txt", "a.txt", "b.txt", "ö"}));
-    EXPECT_EQ(files.List("S:\\")[3].facts.size, 2U);
-    EXPECT_TRUE(files.List("S:\\")[4].facts.isFolder);
-    EXPECT_FALSE(files.List("S:\\")[0].facts.isHidden);
+    EXPECT_EQ(files.List("S:\\")[3].status.size, 2U);
+    EXPECT_TRUE(files.List("S:\\")[4].status.isFolder);
+    EXPECT_FALSE(files.List("S:\\")[0].status.isHidden);
 }
 
 TEST_F(PosixFilesTest, ListsALinkThatLeadsNowhereSoThatItsLossShows)
@@ -199,16 +199,16 @@ TEST_F(PosixFilesTest, TellsThatALinkLeadsToTheSameFolderOrFile)
 {
     disk.Put("data/sub/a.txt", "abc");
     create_symlink(disk.Path("data"), disk.Path("data/sub/back"));
-    const auto identity = files.Facts("S:\\data").identity;
+    const auto identity = files.Status("S:\\data").identity;
     EXPECT_NE(identity, 0U);
-    EXPECT_EQ(files.Facts("S:\\data\\sub\\back").identity, identity);
-    EXPECT_NE(files.Facts("S:\\data\\sub").identity, identity);
+    EXPECT_EQ(files.Status("S:\\data\\sub\\back").identity, identity);
+    EXPECT_NE(files.Status("S:\\data\\sub").identity, identity);
     disk.Put("data/A.TXT", "another");
     create_symlink(disk.Path("data/sub/a.txt"), disk.Path("data/link.txt"));
-    const auto file = files.Facts("S:\\data\\sub\\a.txt").identity;
+    const auto file = files.Status("S:\\data\\sub\\a.txt").identity;
     EXPECT_NE(file, 0U);
-    EXPECT_EQ(files.Facts("S:\\data\\link.txt").identity, file);
-    EXPECT_NE(files.Facts("S:\\data\\A.TXT").identity, file);
+    EXPECT_EQ(files.Status("S:\\data\\link.txt").identity, file);
+    EXPECT_NE(files.Status("S:\\data\\A.TXT").identity, file);
 }
 
 TEST_F(PosixFilesTest, ReadsFromAnyPositionAndStopsAtTheEnd)
@@ -230,7 +230,7 @@ TEST_F(PosixFilesTest, KnowsFilesOfMoreThanFourGigabytes)
     disk.Put("big.bin", "");
     constexpr std::uint64_t kFiveGigabytes = 5ULL << 30U;
     ASSERT_EQ(truncate(disk.Path("big.bin").c_str(), static_cast<off_t>(kFiveGigabytes)), 0);
-    EXPECT_EQ(files.Facts("S:\\big.bin").size, kFiveGigabytes);
+    EXPECT_EQ(files.Status("S:\\big.bin").size, kFiveGigabytes);
     const auto file = files.OpenInput("S:\\big.bin");
     file->Seek(kFiveGigabytes - 1);
     std::array<std::byte, 4> piece{};
@@ -292,7 +292,7 @@ TEST_F(PosixFilesTest, CopiesContentAndDateAndReplacesTheTarget)
     files.SetModified("S:\\from.bin", {2003, 5, 6, 7, 8, 9});
     files.CopyContent("S:\\from.bin", "S:\\TO.BIN");
     EXPECT_EQ(disk.Get("to.bin"), content);
-    EXPECT_EQ(files.Facts("S:\\to.bin").modified, (LocalTime{2003, 5, 6, 7, 8, 9}));
+    EXPECT_EQ(files.Status("S:\\to.bin").modified, (LocalTime{2003, 5, 6, 7, 8, 9}));
 }
 
 /// For its life no file may grow beyond this size; a write that would fails.
@@ -377,7 +377,7 @@ TEST_F(PosixFilesTest, RenamesAcrossDisksWithDateAndContent)
     files.Rename("S:\\a.txt", target);
     EXPECT_FALSE(disk.Has("a.txt"));
     EXPECT_EQ(ReadWholeFile(files, target), "abc");
-    EXPECT_EQ(files.Facts(target).modified, (LocalTime{2003, 5, 6, 7, 8, 9}));
+    EXPECT_EQ(files.Status(target).modified, (LocalTime{2003, 5, 6, 7, 8, 9}));
     files.RemoveFile(target);
 }
 
@@ -392,9 +392,9 @@ TEST_F(PosixFilesTest, PutsAFileInThePlaceOfAnotherThatKeepsItsRightsAndLinks)
     EXPECT_FALSE(disk.Has("new.txt"));
     EXPECT_EQ(disk.Get("old.txt"), "new");
     EXPECT_TRUE(std::filesystem::is_symlink(disk.Path("links/link.txt")));
-    struct stat facts {};
-    stat(disk.Path("old.txt").c_str(), &facts);
-    EXPECT_EQ(facts.st_mode & 07777U, 0640U);
+    struct stat status {};
+    stat(disk.Path("old.txt").c_str(), &status);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
 }
 
 TEST_F(PosixFilesTest, PutsAFileWhereNoneIs)

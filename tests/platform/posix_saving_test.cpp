@@ -29,11 +29,11 @@ std::vector<std::string> NamesIn(const std::string& folder)
     return names;
 }
 
-struct stat FactsOf(const std::string& path)
+struct stat StatusOf(const std::string& path)
 {
-    struct stat facts {};
-    EXPECT_EQ(stat(path.c_str(), &facts), 0) << path;
-    return facts;
+    struct stat status {};
+    EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
+    return status;
 }
 
 class PosixSaving : public testing::Test {
@@ -135,8 +135,8 @@ TEST_F(SavingAsAnother, TheAdministratorGivesTheFileBackToItsOwner)
     Arrange(kOwner, kOwner, 0640, 0755);
     SaveWholeFile(files, kPath, "new");
     EXPECT_EQ(disk.Get("a.qnp"), "new");
-    EXPECT_EQ(FactsOf(disk.Path("a.qnp")).st_uid, kOwner);
-    EXPECT_EQ(FactsOf(disk.Path("a.qnp")).st_mode & 07777U, 0640U);
+    EXPECT_EQ(StatusOf(disk.Path("a.qnp")).st_uid, kOwner);
+    EXPECT_EQ(StatusOf(disk.Path("a.qnp")).st_mode & 07777U, 0640U);
 }
 
 TEST_F(SavingAsAnother, RefusesWhereTheOwnerWouldBeLost)
@@ -144,7 +144,7 @@ TEST_F(SavingAsAnother, RefusesWhereTheOwnerWouldBeLost)
     Arrange(kOwner, kOwner, 0666, 0777);
     EXPECT_EQ(SaveAs(kOther), ErrorNumber::kPermissionDenied);
     EXPECT_EQ(disk.Get("a.qnp"), "old");
-    EXPECT_EQ(FactsOf(disk.Path("a.qnp")).st_uid, kOwner);
+    EXPECT_EQ(StatusOf(disk.Path("a.qnp")).st_uid, kOwner);
     EXPECT_EQ(Names(), Listed{"a.qnp"});
 }
 
@@ -153,8 +153,8 @@ TEST_F(SavingAsAnother, TakesAFileThatAGroupSharesAlike)
     Arrange(kOwner, kOther, 0664, 0777);
     EXPECT_EQ(SaveAs(kOther), ErrorNumber::kNone);
     EXPECT_EQ(disk.Get("a.qnp"), "new");
-    EXPECT_EQ(FactsOf(disk.Path("a.qnp")).st_gid, kOther);
-    EXPECT_EQ(FactsOf(disk.Path("a.qnp")).st_mode & 07777U, 0664U);
+    EXPECT_EQ(StatusOf(disk.Path("a.qnp")).st_gid, kOther);
+    EXPECT_EQ(StatusOf(disk.Path("a.qnp")).st_mode & 07777U, 0664U);
 }
 
 TEST_F(SavingAsAnother, RefusesWhereTheNameCannotBeTaken)
@@ -342,7 +342,7 @@ TEST_F(PosixSaving, KeepsTheOldFileWithItsRights)
     EXPECT_EQ(KeepBeside(files, kPath), "S:\\a.qnp.bak");
     SaveWholeFile(files, kPath, "new");
     EXPECT_EQ(disk.Get("a.qnp.bak"), "old");
-    EXPECT_EQ(FactsOf(disk.Path("a.qnp.bak")).st_mode & 07777U, 0600U);
+    EXPECT_EQ(StatusOf(disk.Path("a.qnp.bak")).st_mode & 07777U, 0600U);
     EXPECT_EQ(disk.Get("a.qnp"), "new");
 }
 

@@ -137,7 +137,7 @@ TEST(FileListSection, TakesAtMostAsManyRowsAsFilesSays)
 TEST(FileListSection, IsTrappedByACountThatDoesNotFit)
 {
     ProjectOnDisk disk;
-    EXPECT_EQ(disk.Load(WithRows("32768", kThreeRows)), ReadEnd::Trapped);
+    EXPECT_EQ(disk.Load(WithRows("32768", kThreeRows)), ReadEnd::Failed);
     EXPECT_EQ(disk.beeps, 2);
     EXPECT_TRUE(disk.project.Files.rows.empty());
     EXPECT_EQ(disk.project.FileComponents[0].CompName, "Hjälp");
@@ -210,7 +210,7 @@ TEST(FileListSection, NeverLooksAtTheTotalSizeOnFile)
 TEST(FileListSection, HoldsAllTheRowsThatANumberOfSixteenBitsCanCount)
 {
     ProjectOnDisk disk;
-    for (std::size_t i = 0; i < kMostRows; ++i)
+    for (std::size_t i = 0; i < kMaxRows; ++i)
         disk.project.Files.rows.push_back(Row({"a.txt", "%DESTDIR", "2"}));
     disk.project.Files.rows.back()[Filename] = "last.txt";
     const std::string saved = disk.Save();
@@ -225,7 +225,7 @@ TEST(FileListSection, OfOneRowTooManyFailsAndLeavesTheFile)
 {
     ProjectOnDisk disk;
     disk.machine.files.Put(test::kPath, "old");
-    disk.project.Files.rows.resize(kMostRows + 1);
+    disk.project.Files.rows.resize(kMaxRows + 1);
     EXPECT_EQ(RunErrorNumber([&] { disk.Save(); }), 6);
     EXPECT_EQ(disk.machine.files.Get(test::kPath), "old");
 }

@@ -241,8 +241,7 @@ TEST(SettingsLimits, ANumberThatDoesNotFitEndsTheReadingWithTwoBeeps)
 {
     for (const NumberKey& key : kNumberKeys) {
         ProjectOnDisk disk;
-        EXPECT_EQ(disk.Load(WithValue(Full(), key.section, key.key, key.tooLarge)),
-                  ReadEnd::Trapped)
+        EXPECT_EQ(disk.Load(WithValue(Full(), key.section, key.key, key.tooLarge)), ReadEnd::Failed)
             << key.key;
         EXPECT_EQ(disk.beeps, 2) << key.key;
         EXPECT_EQ(disk.project.Lists.RunScriptBefore, "") << key.key;
@@ -253,7 +252,7 @@ TEST(SettingsLimits, WhatWasReadBeforeANumberThatDoesNotFitStays)
 {
     ProjectOnDisk disk;
     EXPECT_EQ(disk.Load(WithValue(Full(), "Sign", "SignTimeStampSystem", "40000")),
-              ReadEnd::Trapped);
+              ReadEnd::Failed);
     EXPECT_EQ(disk.project.ProjectName.ProjectName, "Räknaren");
     EXPECT_EQ(disk.project.Sign.SignURL, "http://www.example.com/");
     EXPECT_EQ(disk.project.Sign.SignTimeStampSystem, 0);

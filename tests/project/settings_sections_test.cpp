@@ -39,7 +39,7 @@ public:
         for (const auto& key : keys)
             Fill(key, record);
         if constexpr (std::is_same_v<Record, section::DesPicturesAnim>)
-            record.NrAnimPictures = section::kMostAnimPictures;
+            record.NrAnimPictures = section::kMaxAnimPictures;
     }
 
     void NumberedText(const char*, int, Text& text, int) { text = NextText(); }
@@ -412,7 +412,7 @@ TEST(RunAppSelfX, ReadsItsRegistryRootAsANumber)
     disk.Load(WithValue(Full(), "RunAppSelfX", "DD_iHKEYIndex", ""));
     EXPECT_EQ(disk.project.RunAppSelfX.DD_iHKEYIndex, "0");
     EXPECT_EQ(disk.Load(WithValue(Full(), "RunAppSelfX", "DD_iHKEYIndex", "32768")),
-              ReadEnd::Trapped);
+              ReadEnd::Failed);
 }
 
 TEST(Texts, LoseTheirBlanksAndTheirQuotationMarks)
@@ -537,7 +537,7 @@ TEST(DesPicturesAnim, HasRoomForTwentyOne)
     EXPECT_EQ(disk.project.DesPicturesAnim.P[0], "C:\\Bilder\\film1.bmp");
     EXPECT_EQ(disk.project.DesPicturesAnim.P[20], "");
     EXPECT_EQ(disk.Load(WithValue(Full(), "DesPicturesAnim", "NrAnimPictures", "22")),
-              ReadEnd::Trapped);
+              ReadEnd::Failed);
     EXPECT_EQ(disk.beeps, 2);
     EXPECT_EQ(disk.project.DesPicturesAnim.NrAnimPictures, 22);
     EXPECT_EQ(disk.Load(WithValue(Full(), "DesPicturesAnim", "NrAnimPictures", "-1")),

@@ -64,7 +64,7 @@ TEST_F(CopyOptionsTest, OnlyWReplacesAProtectedFile)
     package.rows[0].copyOptions = "DW";
     EXPECT_EQ(Install(), ExitCode::Done);
     EXPECT_EQ(memory.files.Get(kFile), "ny");
-    EXPECT_FALSE(memory.files.Facts(kFile).isReadOnly);
+    EXPECT_FALSE(memory.files.Status(kFile).isReadOnly);
 }
 
 TEST_F(CopyOptionsTest, BBringsTheOldFileBackAtUninstallation)
@@ -158,7 +158,7 @@ TEST_F(CopyOptionsTest, PProtectsTheFileAndUninstallRemovesIt)
 {
     AddFile("a.dll", "%DESTDIR", "ny", "P");
     EXPECT_EQ(Install(), ExitCode::Done);
-    EXPECT_TRUE(memory.files.Facts(kFile).isReadOnly);
+    EXPECT_TRUE(memory.files.Status(kFile).isReadOnly);
     EXPECT_EQ(UninstallProduct(), ExitCode::Done);
     EXPECT_FALSE(memory.files.FileExists(kFile));
 }

@@ -20,11 +20,11 @@ TEST_F(InstallTest, PutsEverythingInItsPlace)
     ASSERT_EQ(Install(), ExitCode::Done) << Log();
 
     EXPECT_EQ(memory.files.Get(kMain + "\\prog.exe"), "program");
-    EXPECT_EQ(memory.files.Facts(kMain + "\\prog.exe").modified, (LocalTime{2004, 1, 2, 3, 4, 6}));
+    EXPECT_EQ(memory.files.Status(kMain + "\\prog.exe").modified, (LocalTime{2004, 1, 2, 3, 4, 6}));
     EXPECT_EQ(memory.files.Get(kMain + "\\Data\\Djup\\läs mig.txt"), "text");
     EXPECT_EQ(memory.files.Get("C:\\WINDOWS\\SYSTEM32\\prog.dll"), "library");
     EXPECT_EQ(memory.files.Get("C:\\WINDOWS\\SYSTEM32\\delad.dll"), "shared");
-    EXPECT_TRUE(memory.files.Facts(kMain + "\\skydd.txt").isReadOnly);
+    EXPECT_TRUE(memory.files.Status(kMain + "\\skydd.txt").isReadOnly);
     EXPECT_TRUE(memory.files.DirExists(kMain + "\\Tom"));
     EXPECT_EQ(memory.files.Get(kMain + "\\QNXUNIN.EXE"), "uninstaller");
 
@@ -143,9 +143,9 @@ TEST_F(InstallTest, SaysWhereItCouldNotTakeEverythingBack)
 
 TEST_F(InstallTest, GoesOnTakingBackWhateverOneStepThrows)
 {
-    InstallLog record;
-    TextLog log;
-    Changes changes(host, target, record, log);
+    InstallJournal record;
+    ActionLog log;
+    InstallTransaction changes(host, target, record, log);
     changes.Begin("C:\\Ny", "Exempel");
     changes.MakeFolder("C:\\Ny");
     changes.MakeKey({RegistryRoot::LocalMachine, "SOFTWARE\\Ny"});

@@ -5,7 +5,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/rollback.h"
-#include "runtime/transaction.h"
+#include "runtime/transaction_journal.h"
 
 namespace quillon {
 
@@ -64,8 +64,8 @@ protected:
 
     bool Finish()
     {
-        TextLog log;
-        return FinishInterrupted({host, target, log}, kMain) != EarlierRun::Stuck;
+        ActionLog log;
+        return FinishInterrupted({host, target, log}, kMain) != EarlierRun::Incomplete;
     }
 
     Text Journal() const
@@ -151,7 +151,7 @@ TEST_F(KilledSetup, IsPutRightInTheRootOfADrive)
     const MachineState before = State();
     ASSERT_TRUE(KillAt(20, [&] { Install("/S /D=E:\\"); }));
     EXPECT_TRUE(memory.files.FileExists("E:\\~qnsetup.tmp"));
-    TextLog log;
+    ActionLog log;
     EXPECT_EQ(FinishInterrupted({host, target, log}, "E:\\"), EarlierRun::Finished);
     EXPECT_EQ(FinishInterrupted({host, target, log}, "E:\\"), EarlierRun::None);
     EXPECT_EQ(State(), before);

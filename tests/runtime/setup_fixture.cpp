@@ -162,7 +162,7 @@ ExitCode SetupFixture::UninstallProduct(const Text& path)
         return ExitCode::Failed;
     }
     SilentAsk silent;
-    TextLog log(files, memory.machine, kLogFile, product->texts);
+    ActionLog log(files, memory.machine, kLogFile, product->texts);
     return Uninstall({host, target, silent, log, path, *product});
 }
 
@@ -172,11 +172,11 @@ MachineState SetupFixture::State() const
     for (const auto& [key, node] : memory.files.nodes) {
         if (key.substr(0, 2) == "l:" || key.substr(0, 2) == "w:")
             continue;
-        const LocalTime& time = node.facts.modified;
-        state.files[key] = node.bytes
-                               ? *node.bytes + "|" + DateText(time) + " " +
-                                     TimeTextWithSeconds(time) + (node.facts.isReadOnly ? "|r" : "")
-                               : "<folder>";
+        const LocalTime& time = node.status.modified;
+        state.files[key] = node.bytes ? *node.bytes + "|" + DateText(time) + " " +
+                                            TimeTextWithSeconds(time) +
+                                            (node.status.isReadOnly ? "|r" : "")
+                                      : "<folder>";
     }
     state.registry = target.keys;
     state.registered = target.registered;

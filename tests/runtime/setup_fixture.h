@@ -32,10 +32,10 @@ public:
         ++questions;
         return files_.DirExists(path);
     }
-    FileFacts Facts(const Text& path) const override
+    FileStatus Status(const Text& path) const override
     {
         ++questions;
-        return files_.Facts(path);
+        return files_.Status(path);
     }
     std::vector<FolderEntry> List(const Text& folder) const override
     {
@@ -129,7 +129,7 @@ class SetupFixture : public testing::Test {
 protected:
     SetupFixture();
 
-    /// A row with its bytes, dated `modified`; the setup's facts are kept in step.
+    /// A row with its bytes, dated `modified`; the setup's status are kept in step.
     InstallRow& AddFile(const Text& name, const Text& destination, const std::string& bytes,
                         const Text& options = "D", LocalTime modified = {2004, 1, 2, 3, 4, 6});
     InstallRow& AddFolder(const Text& destination);

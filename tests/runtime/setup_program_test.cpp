@@ -204,7 +204,7 @@ TEST_F(SetupProgramTest, EndsAsCancelledAndUndoneWhenTheUserCancels)
 {
     class CancellingAsk : public SilentAsk {
     public:
-        void YieldToEvents() override
+        void ProcessEvents() override
         {
             if (++calls == 3)
                 throw SetupFailure(ExitCode::Cancelled, {});
@@ -314,7 +314,7 @@ TEST_F(SetupProgramTest, ReadsFilesThatAreKeptOneByOne)
     memory.files.Put("D:\\Paket\\SetupFiles\\prog.exe_", "program", time);
     EXPECT_EQ(Install(), ExitCode::Done);
     EXPECT_EQ(memory.files.Get(kMain + "\\prog.exe"), "program");
-    EXPECT_EQ(memory.files.Facts(kMain + "\\prog.exe").modified, time);
+    EXPECT_EQ(memory.files.Status(kMain + "\\prog.exe").modified, time);
     EXPECT_EQ(openedContainer, "");
 }
 

@@ -109,7 +109,7 @@ TEST(ReadSwitches, TakesASwitchThatIsQuotedAsAWhole)
 }
 
 // The starter knows of no other switch, and has to be silent whenever the setup is.
-TEST(AsksForSilence, AgreesWithTheSetup)
+TEST(HasSilentSwitch, AgreesWithTheSetup)
 {
     for (const char* line : {"",
                              " ",
@@ -136,10 +136,10 @@ TEST(AsksForSilence, AgreesWithTheSetup)
                              "/LOG=a /S"}) {
         const Text narrow = line;
         const std::wstring wide(narrow.begin(), narrow.end());
-        EXPECT_EQ(AsksForSilence(wide.c_str()), ReadSwitches(line).silent) << line;
+        EXPECT_EQ(HasSilentSwitch(wide.c_str()), ReadSwitches(line).silent) << line;
     }
-    EXPECT_TRUE(AsksForSilence("\t\"/S\""));
-    EXPECT_FALSE(AsksForSilence("/D=\"C:\\A /S\""));
+    EXPECT_TRUE(HasSilentSwitch("\t\"/S\""));
+    EXPECT_FALSE(HasSilentSwitch("/D=\"C:\\A /S\""));
 }
 
 struct UninstallerCase {
@@ -180,15 +180,15 @@ TEST(ReadUninstallerCommand, KnowsNoTestMode)
     EXPECT_EQ(badSwitch("/S"), std::nullopt);
 }
 
-TEST(IsWholePath, WantsADriveOrAServer)
+TEST(IsAbsolutePath, WantsADriveOrAServer)
 {
-    EXPECT_TRUE(IsWholePath(R"(C:\)"));
-    EXPECT_TRUE(IsWholePath(R"(\\server\del)"));
-    EXPECT_FALSE(IsWholePath(""));
-    EXPECT_FALSE(IsWholePath("C:"));
-    EXPECT_FALSE(IsWholePath(R"(\App)"));
-    EXPECT_FALSE(IsWholePath(R"(%FEL\App)"));
-    EXPECT_FALSE(IsWholePath(R"(\\)"));
+    EXPECT_TRUE(IsAbsolutePath(R"(C:\)"));
+    EXPECT_TRUE(IsAbsolutePath(R"(\\server\del)"));
+    EXPECT_FALSE(IsAbsolutePath(""));
+    EXPECT_FALSE(IsAbsolutePath("C:"));
+    EXPECT_FALSE(IsAbsolutePath(R"(\App)"));
+    EXPECT_FALSE(IsAbsolutePath(R"(%FEL\App)"));
+    EXPECT_FALSE(IsAbsolutePath(R"(\\)"));
 }
 
 } // namespace quillon

@@ -273,7 +273,7 @@ TEST_F(TestModeTest, ReadsNoLanguageFileThatIsFarTooLarge)
     const LoadedPackage before = LoadForTest(memory.files, kFolder, TestMode::Preview);
     const Text path = kFolder + "\\" + before.setup.project.Language.LanguageFile;
     memory.files.Put(path,
-                     "[Test]\r\nButton_Close=Close\r\n" + std::string(kLargestLanguageFile, ' '));
+                     "[Test]\r\nButton_Close=Close\r\n" + std::string(kMaxLanguageFileSize, ' '));
     EXPECT_EQ(Run("/PREVIEW"), ExitCode::Done);
     EXPECT_EQ(shown[0].close, "Stäng");
 }

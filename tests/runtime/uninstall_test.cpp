@@ -413,11 +413,11 @@ TEST_F(UninstallTest, BelievesOnlyALogBesideTheProgram)
     const Text program = kMain + "\\QNXUNIN.EXE";
     memory.files.Put("C:\\Annan\\QNXUNIN.LOG", memory.files.Get(kMain + "\\QNXUNIN.LOG"));
     memory.files.Put(kMain + "\\annat.txt", memory.files.Get(kMain + "\\QNXUNIN.LOG"));
-    EXPECT_TRUE(LiesBeside(files, kMain + "\\QNXUNIN.LOG", program));
-    EXPECT_TRUE(LiesBeside(files, "c:\\program\\exempel\\qnxunin.log", program));
-    EXPECT_FALSE(LiesBeside(files, "C:\\Annan\\QNXUNIN.LOG", program));
-    EXPECT_FALSE(LiesBeside(files, kMain + "\\annat.txt", program));
-    EXPECT_FALSE(LiesBeside(files, "", program));
+    EXPECT_TRUE(IsInSameFolder(files, kMain + "\\QNXUNIN.LOG", program));
+    EXPECT_TRUE(IsInSameFolder(files, "c:\\program\\exempel\\qnxunin.log", program));
+    EXPECT_FALSE(IsInSameFolder(files, "C:\\Annan\\QNXUNIN.LOG", program));
+    EXPECT_FALSE(IsInSameFolder(files, kMain + "\\annat.txt", program));
+    EXPECT_FALSE(IsInSameFolder(files, "", program));
 }
 
 // What a crash looks like from here: the process that unregisters ends with a code of its own.
@@ -444,12 +444,12 @@ TEST_F(UninstallTest, LosesNoLineOfAnIniFileOnAFullDisk)
             if (++change == failAt)
                 throw RunError(ErrorNumber::kDiskFull, "full");
         };
-        EXPECT_THROW(TakeBackIniChange(files, record), RunError) << failAt;
+        EXPECT_THROW(UndoIniChange(files, record), RunError) << failAt;
         EXPECT_EQ(memory.files.Get(path), "[S]\r\nannat=1\r\nx=1\r\n") << failAt;
         EXPECT_FALSE(memory.files.FileExists("C:\\WINDOWS\\~qn-A.INI.tmp")) << failAt;
     }
     files.beforeChange = [] {};
-    TakeBackIniChange(files, record);
+    UndoIniChange(files, record);
     EXPECT_EQ(memory.files.Get(path), "[S]\r\nannat=1\r\n");
 }
 

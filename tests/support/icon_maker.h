@@ -54,23 +54,23 @@ inline std::string BitmapPart(const IconPart& part)
 inline std::string MakeIconFile(const std::vector<IconPart>& parts)
 {
     using namespace icon_file;
-    std::string head;
-    AddNumber(head, 2, 0);
-    AddNumber(head, 2, 1);
-    AddNumber(head, 2, static_cast<std::uint32_t>(parts.size()));
+    std::string header;
+    AddNumber(header, 2, 0);
+    AddNumber(header, 2, 1);
+    AddNumber(header, 2, static_cast<std::uint32_t>(parts.size()));
     std::string pictures;
     for (const IconPart& part : parts) {
         const std::string picture = part.isPng ? PngPart(part) : BitmapPart(part);
-        AddNumber(head, 1, static_cast<std::uint32_t>(part.side)); // 256 is written as 0
-        AddNumber(head, 1, static_cast<std::uint32_t>(part.side));
-        AddNumber(head, 2, 0);
-        AddNumber(head, 2, 1);
-        AddNumber(head, 2, static_cast<std::uint32_t>(part.bits));
-        AddNumber(head, 4, static_cast<std::uint32_t>(picture.size()));
-        AddNumber(head, 4, static_cast<std::uint32_t>(6 + 16 * parts.size() + pictures.size()));
+        AddNumber(header, 1, static_cast<std::uint32_t>(part.side)); // 256 is written as 0
+        AddNumber(header, 1, static_cast<std::uint32_t>(part.side));
+        AddNumber(header, 2, 0);
+        AddNumber(header, 2, 1);
+        AddNumber(header, 2, static_cast<std::uint32_t>(part.bits));
+        AddNumber(header, 4, static_cast<std::uint32_t>(picture.size()));
+        AddNumber(header, 4, static_cast<std::uint32_t>(6 + 16 * parts.size() + pictures.size()));
         pictures += picture;
     }
-    return head + pictures;
+    return header + pictures;
 }
 
 } // namespace quillon::test

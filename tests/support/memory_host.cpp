@@ -56,7 +56,7 @@ public:
     {
         files_.BeforeWrite(path_, bytes.size());
         bytes_->append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-        files_.At(path_).facts.size = bytes_->size();
+        files_.At(path_).status.size = bytes_->size();
     }
     void WriteAt(std::uint64_t position, std::span<const std::byte> bytes) override
     {
@@ -97,10 +97,10 @@ private:
 void MemoryFiles::Put(const Text& path, std::string bytes, LocalTime modified)
 {
     PutFolder(ExtractDirectory(path));
-    FileFacts facts;
-    facts.size = bytes.size();
-    facts.modified = modified;
-    nodes[KeyOf(path)] = {path, std::make_shared<std::string>(std::move(bytes)), facts, false};
+    FileStatus status;
+    status.size = bytes.size();
+    status.modified = modified;
+    nodes[KeyOf(path)] = {path, std::make_shared<std::string>(std::move(bytes)), status, false};
 }
 
 void MemoryFiles::PutFolder(const Text& path)
@@ -109,9 +109,9 @@ void MemoryFiles::PutFolder(const Text& path)
     if (folder.size() < 3 || nodes.count(KeyOf(folder)) > 0)
         return;
     PutFolder(ExtractDirectory(folder));
-    FileFacts facts;
-    facts.isFolder = true;
-    nodes[KeyOf(folder)] = {folder, nullptr, facts, false};
+    FileStatus status;
+    status.isFolder = true;
+    nodes[KeyOf(folder)] = {folder, nullptr, status, false};
 }
 
 std::string MemoryFiles::Get(const Text& path) const
@@ -162,11 +162,11 @@ const MemoryFiles::Node& MemoryFiles::Existing(const Text& path) const
     throw RunError(hasFolder ? ErrorNumber::kFileNotFound : ErrorNumber::kPathNotFound, path);
 }
 
-FileFacts MemoryFiles::Facts(const Text& path) const
+FileStatus MemoryFiles::Status(const Text& path) const
 {
     if (nodes.count(KeyOf(path)) == 0 && DirExists(path))
         return {.isFolder = true}; // a drive's root, which nobody put there
-    return Existing(path).facts;
+    return Existing(path).status;
 }
 
 std::vector<FolderEntry> MemoryFiles::List(const Text& folder) const
@@ -181,7 +181,7 @@ std::vector<FolderEntry> MemoryFiles::List(const Text& folder) const
     for (const auto& [key, node] : nodes) {
         const bool below = key.size() > inside.size() && key.compare(0, inside.size(), inside) == 0;
         if (below && key.find('\\', inside.size()) == Text::npos)
-            entries.push_back({ExtractFilename(node.path), node.facts});
+            entries.push_back({ExtractFilename(node.path), node.status});
     }
     std::sort(entries.begin(), entries.end(),
               [](const FolderEntry& a, const FolderEntry& b) { return a.name < b.name; });
@@ -206,7 +206,7 @@ std::unique_ptr<OutputFile> MemoryFiles::OpenOutput(const Text& path)
         throw RunError(ErrorNumber::kPathNotFound, path);
     if (DirExists(path))
         throw RunError(ErrorNumber::kPathFileAccess, path);
-    if (FileExists(path) && At(path).facts.isReadOnly)
+    if (FileExists(path) && At(path).status.isReadOnly)
         throw RunError(ErrorNumber::kPathFileAccess, path);
     Put(path, "");
     return std::make_unique<MemoryOutput>(*this, path, At(path).bytes);
@@ -246,7 +246,7 @@ void MemoryFiles::CopyContent(const Text& from, const Text& to)
     input->Read(bytes);
     output->Write(bytes);
     output->Close();
-    SetModified(to, Facts(from).modified);
+    SetModified(to, Status(from).modified);
 }
 
 void MemoryFiles::RemoveFile(const Text& path)
@@ -276,7 +276,7 @@ void MemoryFiles::Replace(const Text& from, const Text& to)
     BeforeWrite(to, 0);
     if (const auto found = refused_.find(KeyOf(to)); found != refused_.end())
         throw RunError(found->second, to);
-    if (FileExists(to) && At(to).facts.isReadOnly)
+    if (FileExists(to) && At(to).status.isReadOnly)
         throw RunError(ErrorNumber::kPathFileAccess, to);
     Rename(from, to);
 }
@@ -284,13 +284,13 @@ void MemoryFiles::Replace(const Text& from, const Text& to)
 void MemoryFiles::SetModified(const Text& path, const LocalTime& time)
 {
     Existing(path);
-    At(path).facts.modified = time;
+    At(path).status.modified = time;
 }
 
 void MemoryFiles::SetReadOnly(const Text& path, bool readOnly)
 {
     Existing(path);
-    At(path).facts.isReadOnly = readOnly;
+    At(path).status.isReadOnly = readOnly;
 }
 
 std::uint64_t MemoryFiles::Used(const Text& root) const

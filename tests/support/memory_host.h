@@ -22,7 +22,7 @@ public:
     struct Node {
         Text path;                          // as first written
         std::shared_ptr<std::string> bytes; // null on a folder
-        FileFacts facts;
+        FileStatus status;
         bool unreadable = false;
     };
 
@@ -40,7 +40,7 @@ public:
 
     bool FileExists(const Text& path) const override;
     bool DirExists(const Text& path) const override;
-    FileFacts Facts(const Text& path) const override;
+    FileStatus Status(const Text& path) const override;
     std::vector<FolderEntry> List(const Text& folder) const override;
     std::unique_ptr<InputFile> OpenInput(const Text& path) const override;
     std::unique_ptr<OutputFile> OpenOutput(const Text& path) override;

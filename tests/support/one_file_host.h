@@ -61,7 +61,7 @@ public:
 
     bool FileExists(const Text&) const override { return true; }
     bool DirExists(const Text&) const override { return false; }
-    FileFacts Facts(const Text&) const override { return {.size = bytes.size()}; }
+    FileStatus Status(const Text&) const override { return {.size = bytes.size()}; }
     std::vector<FolderEntry> List(const Text&) const override { return {}; }
     std::unique_ptr<InputFile> OpenInput(const Text&) const override
     {
@@ -132,7 +132,7 @@ public:
     void ShowProgress(std::uint64_t, std::uint64_t) override {}
     void ShowBusyPointer(bool) override {}
     void Beep() override {}
-    void YieldToEvents() override {}
+    void ProcessEvents() override {}
 };
 
 } // namespace quillon::test

@@ -73,7 +73,7 @@ public:
     // folder and its option button (as the filter); "ChooseComponent" and its entries, with "|"
     // between them (as the filter); "ChooseVariable".
     std::vector<FileQuestion> questions;
-    void YieldToEvents() override {}
+    void ProcessEvents() override {}
 
     /// Everything that was shown, for a test that looks afterwards.
     std::vector<ExpectedBox> shown;

@@ -28,16 +28,16 @@ static void TellMessage(QtMsgType type, const QMessageLogContext&, const QString
         std::abort();
 }
 
-int main(int count, char** words)
+int main(int argc, char** argv)
 {
     // A large screen, and two small ones: one of them has 640 x 400 points at either scale.
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" QUILLON_TEST_DATA "/support/screens.json");
     qInstallMessageHandler(TellMessage);
-    testing::InitGoogleTest(&count, words);
-    QApplication application(count, words);
+    testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
     QApplication::setStyle(new quillon::OutlineStyle);
     quillon::InstallSwedishTexts(application);
-    quillon::ShowCutTextsAsTips(application);
+    quillon::ShowElidedTextsAsToolTips(application);
     quillon::OpenMenusByShiftF10(application);
     return RUN_ALL_TESTS();
 }

@@ -118,7 +118,7 @@ void SampleProduct::Add(const std::string& folder, const std::string& name,
     row[Size] = "1.0";
     row[CopyOptions] = options;
     row[ComponentNumber] = component > 0 ? std::to_string(component) : "";
-    row[Extension] = ExtensionFromFirstPoint(name);
+    row[Extension] = ExtensionFromFirstDot(name);
     row[Source] = LowerCase("s:\\" + folder + "\\" + name);
     AddRow(row, {.source = below,
                  .destination = "C:\\Program Files\\Provpaket Åäö\\" + folder + "\\" + name,

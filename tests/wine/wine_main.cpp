@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <gtest/gtest.h>
 
-int main(int count, char** arguments)
+int main(int argc, char** argv)
 {
     constexpr int kSkipped = 77;
-    testing::InitGoogleTest(&count, arguments);
+    testing::InitGoogleTest(&argc, argv);
     const std::string obstacle = quillon::test::PrepareWine();
     if (!obstacle.empty()) {
         std::printf("Skipped: %s\n", obstacle.c_str());

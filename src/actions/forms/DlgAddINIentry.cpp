@@ -11,7 +11,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAValue = 40;
+constexpr int kValueCharacters = 40;
 
 } // namespace
 
@@ -22,10 +22,10 @@ DlgAddINIentry::DlgAddINIentry(const Text& list, Ask& ask, QWidget* parent)
          {Named(NAMED(tName), new QLineEdit), Named(NAMED(tValue), new QLineEdit)})
         LimitTyping(field, 0);
     Button(NAMED(cmdVariables), "&Variabler...", [this] { AppendVariable(tValue, ask_); });
-    Arrange(Down({
+    Arrange(VBox({
         Fields({
             {"&Namn:", tName},
-            {"V&ärde:", Across({Growing(RoomFor(kLettersOfAValue, tValue)), cmdVariables})},
+            {"V&ärde:", HBox({Growing(MinWidth(kValueCharacters, tValue)), cmdVariables})},
         }),
         Stretch(),
         OkCancel(),

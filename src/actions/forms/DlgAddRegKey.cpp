@@ -12,11 +12,11 @@ DlgAddRegKey::DlgAddRegKey(Ask& ask, QWidget* parent)
     : RegistryKeyForm("DlgAddRegKey", "Lägg till nyckel eller värde", ask, parent)
 {
     MakeControls();
-    Arrange(Down({
+    Arrange(VBox({
         KeyRows(),
         Frame("Värde", {Fields({
                            {"&Namn:", tName},
-                           {"&Data:", Across({Growing(tValue), cmdVariables})},
+                           {"&Data:", HBox({Growing(tValue), cmdVariables})},
                            {"&Typ:", ComboType},
                        })}),
         Stretch(),

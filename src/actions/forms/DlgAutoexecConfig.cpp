@@ -23,7 +23,7 @@ DlgAutoexecConfig::DlgAutoexecConfig(Session& session, QWidget* parent)
     Area(NAMED(tCONFIG), lists.ConfigSys)->setAccessibleName("Rader att lägga till i CONFIG.SYS");
     UnsavableLineNote(NAMED(sAUTOEXECWarning), tAUTOEXEC, &section::Lists::AutoexecBat);
     UnsavableLineNote(NAMED(sCONFIGWarning), tCONFIG, &section::Lists::ConfigSys);
-    Arrange(Down({
+    Arrange(VBox({
         Growing(Frame("&AUTOEXEC.BAT",
                       {Above(kAddTheseLines, ListEditor(tAUTOEXEC, sAUTOEXECWarning))})),
         Growing(Frame("&CONFIG.SYS", {Above(kAddTheseLines, ListEditor(tCONFIG, sCONFIGWarning))})),

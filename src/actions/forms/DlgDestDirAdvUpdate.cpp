@@ -11,7 +11,7 @@ namespace {
 
 using section::Updates;
 
-constexpr int kLettersOfAKey = 45;
+constexpr int kKeyCharacters = 45;
 
 int Longest(Text Updates::*field)
 {
@@ -30,12 +30,12 @@ DlgDestDirAdvUpdate::DlgDestDirAdvUpdate(Updates& updates, Session& session, QWi
     Check(NAMED(cAlwaysUseUserDefKey),
           "Hämta alltid uppdateringsinformation från ovanstående nyckel ifall den existerar",
           updates.AdvUpdateRegAlwaysUseUserDefKey);
-    Arrange(Down({
+    Arrange(VBox({
         Note("Om inte uppdateringinformation finns vid det normala stället i Registry kan du här "
              "ange ett alternativt ställe som ska avläsas istället."),
         Frame("Registry - nyckel/värde", {Fields({
                                              {"&HKEY:", ComboHKEY},
-                                             {"&Subnyckel:", RoomFor(kLettersOfAKey, tSubKey)},
+                                             {"&Subnyckel:", MinWidth(kKeyCharacters, tSubKey)},
                                              {"&Namn på värde:", tValueName},
                                          })}),
         cAlwaysUseUserDefKey,

@@ -10,7 +10,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAKey = 60;
+constexpr int kKeyCharacters = 60;
 
 int Longest(Text section::RunAppSelfX::*field)
 {
@@ -25,12 +25,12 @@ DlgGetRegKey::DlgGetRegKey(section::RunAppSelfX& program, Session& session, QWid
     MakeRoots(program.DD_iHKEYIndex);
     Field(NAMED(tSubKey), program.DD_sSubKey, Longest(&section::RunAppSelfX::DD_sSubKey));
     Field(NAMED(tValueName), program.DD_sValueName, Longest(&section::RunAppSelfX::DD_sValueName));
-    Arrange(Down({
+    Arrange(VBox({
         Note("Här kan du specificera var i Registry som %DESTDIR (huvuddestinationskatalogen) ska "
              "hämta sitt nya värde."),
         Fields({
             {"&HKEY:", ComboHKEY},
-            {"&Subnyckel:", RoomFor(kLettersOfAKey, tSubKey)},
+            {"&Subnyckel:", MinWidth(kKeyCharacters, tSubKey)},
             {"&Namn på värde:", tValueName},
         }),
         Stretch(),

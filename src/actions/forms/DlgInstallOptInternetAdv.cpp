@@ -33,7 +33,7 @@ DlgInstallOptInternetAdv::DlgInstallOptInternetAdv(InternetAdvanced& values, Ses
     Check(NAMED(cADExpandEXEInWinTempMap),
           "&Packa upp filerna i den självuppackande installationen i Windows temporära katalog",
           edited_.ExpandEXEInWinTempMap);
-    Arrange(Down({
+    Arrange(VBox({
         cADExpandEXEInWinTempMap,
         ProgramFrame(),
         ReturnValuesFrame(),
@@ -61,9 +61,9 @@ Piece DlgInstallOptInternetAdv::ProgramFrame()
     return Frame(
         "Kör ett program i den självuppackande installationen",
         {Fields({{"Programfil:", sProgramFilename}}),
-         Across({Button(NAMED(cmdSelectProgram), "Vä&lj program...", [this] { SelectProgram(); }),
-                 Button(NAMED(cmdReset), "Ta bort program", [this] { Reset(); }), Stretch()}),
-         Above("&Inparametrar till program:", RoomFor(kLettersOfParameters, tParam)), oVisible,
+         HBox({Button(NAMED(cmdSelectProgram), "Vä&lj program...", [this] { SelectProgram(); }),
+               Button(NAMED(cmdReset), "Ta bort program", [this] { Reset(); }), Stretch()}),
+         Above("&Inparametrar till program:", MinWidth(kLettersOfParameters, tParam)), oVisible,
          oInvisible});
 }
 
@@ -80,7 +80,7 @@ Piece DlgInstallOptInternetAdv::ReturnValuesFrame()
                       {"&Backa vid följande returvärde:", tReturnValueBack},
                       {"&Ge %DESTDIR ett nytt värde vid följande returvärde:", tReturnValueDD},
                   }),
-                  Across({Stretch(), CmdSelRegKey})});
+                  HBox({Stretch(), CmdSelRegKey})});
 }
 
 void DlgInstallOptInternetAdv::SelectProgram()

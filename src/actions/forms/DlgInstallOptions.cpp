@@ -40,7 +40,7 @@ DlgInstallOptions::DlgInstallOptions(Session& session, QWidget* parent)
     XTab->addTab(SystemTab(), "Operativsystem");
     XTab->addTab(internetTab_ = InternetTab(), "Internet");
     XTab->addTab(SignTab(), "Signering");
-    Arrange(Down({Growing(XTab), OkCancel()}));
+    Arrange(VBox({Growing(XTab), OkCancel()}));
     // As with OK, a press by mouse must not make the file name be left, whose box would take the
     // release.
     for (QPushButton* button : {cmdBrowseIcon, CmdInternetAdvanced})
@@ -60,7 +60,7 @@ QWidget* DlgInstallOptions::GeneralTab()
     Option(NAMED(oDelOldGroup), "&Radera gammal programgrupp", deletesGroup);
     Named(NAMED(oDoNotDelOldGroup), new QRadioButton("Radera &inte gammal programgrupp"));
     oDoNotDelOldGroup->setChecked(deletesGroup == kOff);
-    return Together(Down({
+    return Group(VBox({
         Fields({{"Setup-programmets &filnamn:", ComboSetupFilename},
                 {"&Omstart:", ComboRestartOption}}),
         Frame("Programgrupp", {oDelOldGroup, oDoNotDelOldGroup}),
@@ -155,7 +155,7 @@ QCheckBox* DlgInstallOptions::CheckText(QCheckBox*& member, const char* name, co
 
 QWidget* DlgInstallOptions::SystemTab()
 {
-    return Together(Down({
+    return Group(VBox({
         TargetSystemFrame(),
         Frame("Microsoft .NET Framework", {NetFrameworkTest()}),
         Stretch(),
@@ -175,8 +175,8 @@ Piece DlgInstallOptions::TargetSystemFrame()
     const auto& box = systems_;
     return Frame(
         "Målsystem",
-        {Across({Growing(Down({box[0], box[1], box[2], box[3]})),
-                 Growing(Down({box[4], box[5], box[6], box[7]}))}),
+        {HBox({Growing(VBox({box[0], box[1], box[2], box[3]})),
+               Growing(VBox({box[4], box[5], box[6], box[7]}))}),
          Option(NAMED(oWarnIfWrongOS), "&Varna om fel plattform", systems.TargetOS_WarnIfWrong),
          Option(NAMED(oStopIfWrongOS), "Stoppa installationen om fel plattfor&m",
                 systems.TargetOS_StopIfWrong)});
@@ -205,11 +205,11 @@ QWidget* DlgInstallOptions::InternetTab()
                  {.title = "Välj ikon", .filter = "Ikonfiler (*.ico)|*.ico"});
     Button(NAMED(CmdInternetAdvanced), "&Avancerat...",
            [this] { DlgInstallOptInternetAdv(advanced_, session_, this).ShowModal(); });
-    return Together(Down({
+    return Group(VBox({
         Frame("Självuppackande installationsprogram",
               {Fields({{"&Filnamn:", tSelfExtractFilename},
-                       {"&Ikon:", Across({Growing(tSelfExtractIconFilename), cmdBrowseIcon})}})}),
-        Across({Stretch(), CmdInternetAdvanced}),
+                       {"&Ikon:", HBox({Growing(tSelfExtractIconFilename), cmdBrowseIcon})}})}),
+        HBox({Stretch(), CmdInternetAdvanced}),
         Stretch(),
     }));
 }
@@ -229,13 +229,13 @@ QWidget* DlgInstallOptions::SignTab()
     BrowseButton(NAMED(cmdBrowsePVK), "B&läddra...", tPVK, Longest(&Sign::SignPVKFilename),
                  {.title = "Välj privat nyckelfil", .filter = "Privata nyckelfiler (*.pvk)|*.pvk"});
     Choice(NAMED(ComboTimeStamp), kTimeStampSystems, sign.SignTimeStampSystem);
-    return Together(Down({
+    return Group(VBox({
         cUseSign,
         Fields({
             {"B&eskrivning:", tDesc},
             {"&URL:", tURL},
-            {"&Certifikationsfil:", Across({Growing(tSPC), cmdBrowseSPC})},
-            {"&Privat nyckelfil:", Across({Growing(tPVK), cmdBrowsePVK})},
+            {"&Certifikationsfil:", HBox({Growing(tSPC), cmdBrowseSPC})},
+            {"&Privat nyckelfil:", HBox({Growing(tPVK), cmdBrowsePVK})},
             {"&Tidsstämpel:", ComboTimeStamp},
         }),
         Stretch(),

@@ -24,10 +24,10 @@ DlgLanguage::DlgLanguage(Session& session, QWidget* parent)
     connect(FileListX, &QListWidget::itemSelectionChanged, this,
             [this] { cmdEditLanguage->setEnabled(!SelectedFile().empty()); });
     ShowFiles(session.project.Language.LanguageFile);
-    Arrange(Down({
-        Growing(Above("&Språkfiler:", Across({
-                                          Growing(RoomFor(kUsualNameLength, FileListX)),
-                                          Down({cmdAddLanguage, cmdEditLanguage, Stretch()}),
+    Arrange(VBox({
+        Growing(Above("&Språkfiler:", HBox({
+                                          Growing(MinWidth(kUsualNameLength, FileListX)),
+                                          VBox({cmdAddLanguage, cmdEditLanguage, Stretch()}),
                                       }))),
         OkCancel(),
     }));

@@ -21,11 +21,11 @@ DlgRegisterFiles::DlgRegisterFiles(Session& session, QWidget* parent)
     Button(NAMED(cmdGetDllFiles), "Hämta alla &DLL-filer från fillistan",
            [this] { Gather(RowsToRegister::Libraries); });
     Button(NAMED(cmdHelp), "&Hjälp", [this] { ShowHelp(session_); });
-    Arrange(Down({
+    Arrange(VBox({
         Growing(Above("&Filer som ska registreras, en sökväg per rad:",
                       ListEditor(tRegFileList, sRegFileListWarning))),
-        Across({cmdGetRFiles, cmdGetDllFiles, Stretch()}),
-        Across({cmdHelp, Growing(OkCancel())}),
+        HBox({cmdGetRFiles, cmdGetDllFiles, Stretch()}),
+        HBox({cmdHelp, Growing(OkCancel())}),
     }));
     tRegFileList->setFocus();
 }

@@ -12,7 +12,7 @@ namespace {
 
 using section::RunAppAfter;
 
-constexpr int kLettersOfAField = 50;
+constexpr int kFieldCharacters = 50;
 
 int Longest(Text RunAppAfter::*field)
 {
@@ -22,7 +22,7 @@ int Longest(Text RunAppAfter::*field)
 QWidget* ProgramFrame(const Text& caption, QLineEdit* name, QLineEdit* parameters)
 {
     return Frame(caption, {Fields({
-                              {"Filnamn:", RoomFor(kLettersOfAField, name)},
+                              {"Filnamn:", MinWidth(kFieldCharacters, name)},
                               {"Parametrar:", parameters},
                           })});
 }
@@ -39,7 +39,7 @@ DlgRunAppAfter::DlgRunAppAfter(Session& session, QWidget* parent)
     Field(NAMED(tParameters2), run.AppParam2, Longest(&RunAppAfter::AppParam2));
     for (QLineEdit* program : {tProgramName1, tProgramName2})
         EditTargetFile(program, "Filnamn", session.ask);
-    Arrange(Down({
+    Arrange(VBox({
         ProgramFrame("Program 1", tProgramName1, tParameters1),
         ProgramFrame("Program 2", tProgramName2, tParameters2),
         Stretch(),

@@ -37,7 +37,7 @@ DlgRunScript::DlgRunScript(Session& session, QWidget* parent)
     ScriptTab->addTab(TabOf(ListEditor(tRunScriptAfter, sRunScriptAfterWarning)),
                       "&Efter installationen");
     Button(NAMED(cmdHelp), "&Hjälp", [this] { ShowHelp(session_); });
-    Arrange(Down({Growing(ScriptTab), Across({cmdHelp, Growing(OkCancel())})}));
+    Arrange(VBox({Growing(ScriptTab), HBox({cmdHelp, Growing(OkCancel())})}));
     tRunScriptBefore->setFocus();
 }
 

@@ -2,7 +2,7 @@
 
 #include "actions/after_install.h"
 #include "actions/forms/target_file_field.h"
-#include "filelist/status_text.h"
+#include "filelist/view/status_text.h"
 #include "project/install_keys.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
@@ -15,7 +15,7 @@ namespace {
 
 using Document = section::ShowDocAfter;
 
-constexpr int kLettersOfAField = 50;
+constexpr int kFieldCharacters = 50;
 
 int Longest(Text Document::*field)
 {
@@ -41,9 +41,9 @@ DlgShowDocAfter::DlgShowDocAfter(Session& session, QWidget* parent)
     // would take the release, and nothing be ticked.
     for (QCheckBox* box : {cShowCheckBox, cUseInternalRTFBox})
         box->setFocusPolicy(Qt::TabFocus);
-    Arrange(Down({
+    Arrange(VBox({
         Above("Visa följande dokument efter installationen",
-              RoomFor(kLettersOfAField, tDocumentFileName)),
+              MinWidth(kFieldCharacters, tDocumentFileName)),
         cShowCheckBox,
         Above("&Text vid kryssruta:", tCheckBoxText),
         cUseInternalRTFBox,

@@ -11,7 +11,7 @@ public:
     DlgTestNETFramework(Session& session, QWidget* parent)
         : NetFrameworkForm("DlgTestNETFramework", "Microsoft .NET Framework", session, parent)
     {
-        Arrange(Down({NetFrameworkTest(), Stretch(), OkCancel()}));
+        Arrange(VBox({NetFrameworkTest(), Stretch(), OkCancel()}));
     }
 };
 

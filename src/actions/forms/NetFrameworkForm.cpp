@@ -23,7 +23,7 @@ Piece NetFrameworkForm::NetFrameworkTest()
                Option(NAMED(oStopIfNoNET), "Stoppa installationen", net.NET_StopIfNoNET)});
     connect(cTestIfNETInstalled, &QCheckBox::toggled, this, [this] { EnableChoices(); });
     EnableChoices();
-    return Down({cTestIfNETInstalled, Across({Growing(versions_), Growing(consequences_)})});
+    return VBox({cTestIfNETInstalled, HBox({Growing(versions_), Growing(consequences_)})});
 }
 
 void NetFrameworkForm::EnableChoices()

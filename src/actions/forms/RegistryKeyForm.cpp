@@ -10,7 +10,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAKey = 60;
+constexpr int kKeyCharacters = 60;
 
 // A field that is reached by keys selects its text, and the first letter would replace a preset
 // that is there to be gone on with.
@@ -40,7 +40,7 @@ RegistryKeyForm::RegistryKeyForm(const char* name, const Text& title, Ask& ask, 
 
 Piece RegistryKeyForm::KeyRows()
 {
-    return Fields({{"&HKEY:", ComboHKEY}, {"&Subnyckel:", RoomFor(kLettersOfAKey, tSubKey)}});
+    return Fields({{"&HKEY:", ComboHKEY}, {"&Subnyckel:", MinWidth(kKeyCharacters, tSubKey)}});
 }
 
 Text RegistryKeyForm::Root() const
@@ -78,7 +78,7 @@ RemoveRegKeyForm::RemoveRegKeyForm(const char* name, const Text& title, Registry
 {
     Named(NAMED(tValue), new QLineEdit);
     LimitTyping(tValue, 0);
-    Arrange(Down({
+    Arrange(VBox({
         KeyRows(),
         Frame("Namn på värde", {Fields({{"&Värde:", tValue}})}),
         Stretch(),

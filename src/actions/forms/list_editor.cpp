@@ -43,8 +43,8 @@ QLabel* UnsavableLineNote(QLabel*& member, const char* name, QPlainTextEdit* are
 Piece ListEditor(QPlainTextEdit* area, QLabel* note)
 {
     ShowAsList(area);
-    RoomFor(kUsualLineLength, area);
-    return Down({Growing(area), note});
+    MinWidth(kUsualLineLength, area);
+    return VBox({Growing(area), note});
 }
 
 } // namespace quillon

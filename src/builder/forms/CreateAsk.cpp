@@ -75,7 +75,7 @@ std::optional<Text> CreateAsk::XInputBox(const Text& title, const Text& prompt)
 void CreateAsk::AddStatusLine(const Text& line)
 {
     waiting_.push_back(line);
-    YieldToEvents();
+    ProcessEvents();
 }
 
 void CreateAsk::ClearStatusLines()
@@ -87,15 +87,15 @@ void CreateAsk::ClearStatusLines()
 void CreateAsk::ShowProgress(std::uint64_t done, std::uint64_t total)
 {
     shown_.showProgress(done, total);
-    YieldToEvents();
+    ProcessEvents();
 }
 
-void CreateAsk::YieldToEvents()
+void CreateAsk::ProcessEvents()
 {
     if (since_.elapsed() < kMillisecondsBetweenEvents)
         return;
     Flush();
-    user_.YieldToEvents();
+    user_.ProcessEvents();
     since_.restart();
 }
 

@@ -39,7 +39,7 @@ public:
     void ShowBusyPointer(bool busy) override { user_.ShowBusyPointer(busy); }
     void ShowStatusText(const Text& text) override { user_.ShowStatusText(text); }
     void Beep() override { user_.Beep(); }
-    void YieldToEvents() override;
+    void ProcessEvents() override;
 
     /// Shows the lines that still wait.
     void Flush();

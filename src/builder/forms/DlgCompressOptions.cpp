@@ -8,7 +8,7 @@ DlgCompressOptions::DlgCompressOptions(Session& session, CreateForm& create, QWi
     : EditorForm("DlgCompressOptions", "Komprimering", session, parent), create_(create),
       options_(OpenCompressOptions(create))
 {
-    Arrange(Down({
+    Arrange(VBox({
         Frame("Komprimering av filer",
               {
                   Check01(NAMED(cUseCompression), "&Använd komprimering", options_.cUseCompression),

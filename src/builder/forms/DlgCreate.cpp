@@ -53,7 +53,7 @@ DlgCreate::DlgCreate(Session& session, QWidget* parent,
       showOptions_(std::move(showOptions)), paths_(std::move(paths)),
       form_(OpenCreateForm(session.project, session.state))
 {
-    Arrange(Down({MakeMedia(), MakeSettings(), Growing(MakeStatus()), MakeButtons()}));
+    Arrange(VBox({MakeMedia(), MakeSettings(), Growing(MakeStatus()), MakeButtons()}));
     cmdCreate->setDefault(true);
     WatchMouse();
     ShowState();
@@ -63,8 +63,8 @@ DlgCreate::DlgCreate(Session& session, QWidget* parent,
 Piece DlgCreate::MakeMedia()
 {
     FrameType = Frame("Typ av installation",
-                      {Across({MakeMedium(Medium::Floppy), MakeMedium(Medium::CompressedCd),
-                               MakeMedium(Medium::CdTree), MakeMedium(Medium::Internet)})});
+                      {HBox({MakeMedium(Medium::Floppy), MakeMedium(Medium::CompressedCd),
+                             MakeMedium(Medium::CdTree), MakeMedium(Medium::Internet)})});
     FrameType->setObjectName("FrameType");
     return FrameType;
 }
@@ -84,7 +84,7 @@ Piece DlgCreate::MakeMedium(Medium medium)
     buttons_[place] = button;
     pictures_[place] = picture;
     return Growing(
-        Down({Across({Stretch(), picture, Stretch()}), Across({Stretch(), button, Stretch()})}));
+        VBox({HBox({Stretch(), picture, Stretch()}), HBox({Stretch(), button, Stretch()})}));
 }
 
 Piece DlgCreate::MakeSettings()
@@ -104,11 +104,10 @@ Piece DlgCreate::MakeSettings()
     });
     return Fields(
         {{"Destinations&katalog:",
-          Across({Growing(tDestinationDir), Button(NAMED(CmdSelectDirectory), "&Bläddra...",
-                                                   [this] { SelectDirectory(); })})},
-         {"&Målsystem:",
-          Across({Growing(cbOS), Button(NAMED(cmdCompressOptions), "Kom&primering...",
-                                        [this] { ShowCompressOptions(); })})}});
+          HBox({Growing(tDestinationDir),
+                Button(NAMED(CmdSelectDirectory), "&Bläddra...", [this] { SelectDirectory(); })})},
+         {"&Målsystem:", HBox({Growing(cbOS), Button(NAMED(cmdCompressOptions), "Kom&primering...",
+                                                     [this] { ShowCompressOptions(); })})}});
 }
 
 Piece DlgCreate::MakeStatus()
@@ -129,19 +128,19 @@ Piece DlgCreate::MakeStatus()
     QFont underlined = font();
     underlined.setUnderline(true);
     cmdOpenFolder->setFont(underlined);
-    return Down({Growing(Above("Stat&us:", lbStatus)), Across({Growing(pbProgress), lblProgress}),
-                 Across({cmdOpenFolder, Stretch(), Named(NAMED(lblSummary), new QLabel)})});
+    return VBox({Growing(Above("Stat&us:", lbStatus)), HBox({Growing(pbProgress), lblProgress}),
+                 HBox({cmdOpenFolder, Stretch(), Named(NAMED(lblSummary), new QLabel)})});
 }
 
 Piece DlgCreate::MakeButtons()
 {
-    return Across({Button(NAMED(CmdOptions), "I&nställningar...",
-                          [this] {
-                              if (showOptions_)
-                                  showOptions_(this);
-                          }),
-                   Stretch(), Button(NAMED(cmdCreate), "&Skapa", [this] { StartCreate(); }),
-                   Button(NAMED(cmdClose), "S&täng", [this] { reject(); })});
+    return HBox({Button(NAMED(CmdOptions), "I&nställningar...",
+                        [this] {
+                            if (showOptions_)
+                                showOptions_(this);
+                        }),
+                 Stretch(), Button(NAMED(cmdCreate), "&Skapa", [this] { StartCreate(); }),
+                 Button(NAMED(cmdClose), "S&täng", [this] { reject(); })});
 }
 
 void DlgCreate::WatchMouse()

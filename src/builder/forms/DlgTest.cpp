@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfALine = 48;
+constexpr int kLineCharacters = 48;
 
 TestRun RunOf(Session& session)
 {
@@ -27,13 +27,13 @@ DlgTest::DlgTest(Session& session, QWidget* parent)
     });
     Button(NAMED(cmdCancel), "Avbryt", [this] { reject(); });
     cmdStartTest->setDefault(true);
-    Arrange(Down({
-        RoomFor(kLettersOfALine, Note("Här kan du prova installationsprogrammets dialogrutor och "
-                                      "installationsskärm innan du skapar installationen.")),
+    Arrange(VBox({
+        MinWidth(kLineCharacters, Note("Här kan du prova installationsprogrammets dialogrutor och "
+                                       "installationsskärm innan du skapar installationen.")),
         Note("Ingenting komprimeras och ingenting installeras på datorn. Filerna i fillistan måste "
              "finnas på hårddisken, men de kopieras inte. Projektet ändras inte av testet."),
         Stretch(),
-        Across({Stretch(), cmdStartTest, cmdCancel}),
+        HBox({Stretch(), cmdStartTest, cmdCancel}),
     }));
 }
 

@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfANumber = 6;
+constexpr int kNumberCharacters = 6;
 
 Integer StoredNumber(const QString& text)
 {
@@ -36,7 +36,7 @@ QLineEdit* DesignEditor::CheckedField(QLineEdit*& member, const char* name, cons
                                       EntryCheck check)
 {
     auto* field = Named(member, name, new QLineEdit(ToQt(text)));
-    field->setMaximumWidth(2 * kLettersOfANumber * field->fontMetrics().averageCharWidth());
+    field->setMaximumWidth(2 * kNumberCharacters * field->fontMetrics().averageCharWidth());
     OnLeave(field, [field, check = std::move(check)] {
         field->setText(ToQt(check(FromQt(field->text()))));
     });

@@ -55,7 +55,7 @@ void DesignObject::paintEvent(QPaintEvent*)
         painter.drawImage(0, 0, image);
     }
     if (hasFocus()) {
-        // Seen on every ground: dark dashes on a light line.
+        // Seen on every background: dark dashes on a light line.
         painter.setPen(QPen(Qt::white, 1));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         painter.setPen(QPen(Qt::black, 1, Qt::DashLine));

@@ -324,14 +324,14 @@ PixelSize DesignScreen::MeasureAndKeep(const Text& file, ScalablePicture& kept)
         throw RunError(read.fault == PictureFault::NotFound ? ErrorNumber::kFileNotFound
                                                             : kInvalidPicture,
                        file);
-    told_.erase(file);
+    reported_.erase(file);
     kept = std::move(read.picture);
     return {kept.Width(), kept.Height()};
 }
 
 void DesignScreen::TellPictureError(const RunError& error)
 {
-    if (told_.insert(error.Path()).second)
+    if (reported_.insert(error.Path()).second)
         ShowErrorBoxIfPictureError(session_.ask, error.Number());
 }
 

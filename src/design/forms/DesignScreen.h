@@ -5,8 +5,8 @@
 #include "design/forms/ColorblendBackground.h"
 #include "design/forms/DesignObject.h"
 #include "design/object_layout.h"
-#include "design/posix/font_letters.h"
 #include "design/surface_click.h"
+#include "design/system_letters.h"
 
 #include <array>
 #include <set>
@@ -79,7 +79,7 @@ private:
     DesignObject* DesRTFboxPic_ = nullptr;
     QLabel* Label_DesRTFboxPic_ = nullptr;
     // The pictures that can't be read and were told: each is drawn anew all the time.
-    std::set<Text> told_;
+    std::set<Text> reported_;
     DragRectFrame* dragRect_ = nullptr;
 };
 

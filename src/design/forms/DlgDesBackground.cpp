@@ -13,7 +13,7 @@ namespace {
 
 using section::DesBackground;
 
-constexpr int kLettersOfAPath = 50;
+constexpr int kPathCharacters = 50;
 
 constexpr const char* kBlendDirections[] = {"Ingen toning", "Tona höger", "Tona vänster",
                                             "Tona upp",     "Tona ned",   "Rektangulär toning"};
@@ -32,7 +32,7 @@ DlgDesBackground::DlgDesBackground(Session& session, QWidget* parent)
     auto* kinds = new QButtonGroup(this);
     kinds->addButton(oColor);
     kinds->addButton(oPicture);
-    Arrange(Down({oColor, ColourFrame(), oPicture, PictureFrame(), Stretch(), OkCancel()}));
+    Arrange(VBox({oColor, ColourFrame(), oPicture, PictureFrame(), Stretch(), OkCancel()}));
 }
 
 Piece DlgDesBackground::ColourFrame()
@@ -51,9 +51,9 @@ Piece DlgDesBackground::ColourFrame()
         EnableDepth();
         session_.state.ProjectIsDirty = kOn;
     });
-    return Frame({}, {Across({cmdBackColor, cmdBackColor2, Stretch()}),
+    return Frame({}, {HBox({cmdBackColor, cmdBackColor2, Stretch()}),
                       Fields({{"&Toning:", ComboBlendDirection}}),
-                      Across({labBlendDepth, tBlendDepth, Stretch()})});
+                      HBox({labBlendDepth, tBlendDepth, Stretch()})});
 }
 
 Piece DlgDesBackground::PictureFrame()
@@ -70,8 +70,8 @@ Piece DlgDesBackground::PictureFrame()
     Button(NAMED(cmdReset), "&Återställ", [this] { sPictureFileName->ShowPath({}); });
     Check(NAMED(cStretchPictureToScreen), "&Skala bilden till hela skärmen",
           background_.StretchPicture);
-    return Frame({}, {RoomFor(kLettersOfAPath, sPictureFileName),
-                      Across({cmdSelectPicture, cmdReset, Stretch()}), cStretchPictureToScreen});
+    return Frame({}, {MinWidth(kPathCharacters, sPictureFileName),
+                      HBox({cmdSelectPicture, cmdReset, Stretch()}), cStretchPictureToScreen});
 }
 
 void DlgDesBackground::EnableDepth()

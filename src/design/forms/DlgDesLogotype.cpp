@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAPath = 50;
+constexpr int kPathCharacters = 50;
 
 } // namespace
 
@@ -27,9 +27,9 @@ DlgDesLogotype::DlgDesLogotype(Session& session, QWidget* parent)
     NumberField(NAMED(tLogotypeWMFHeight), logotype.LogotypeWMFHeight, CheckedLogotypeWMFHeight);
     Piece sides = Options(logotype.LogotypeAlignment,
                           {{NAMED(oRight), "Till &höger", 3}, {NAMED(oLeft), "Till &vänster", 1}});
-    Arrange(Down({
+    Arrange(VBox({
         FileFrame(),
-        Across({
+        HBox({
             Frame("Placering", {sides, Stretch()}),
             Frame("Transparens",
                   {cTransparentBkg, Fields({{"Transparent &färg:", ComboTransparentColor}}),
@@ -52,8 +52,8 @@ Piece DlgDesLogotype::FileFrame()
             sFilename->ShowPath(ToQt(*path));
     });
     Button(NAMED(cmdReset), "&Återställ", [this] { sFilename->ShowPath({}); });
-    return Frame("Bildfil", {RoomFor(kLettersOfAPath, sFilename),
-                             Across({cmdSelectPicture, cmdReset, Stretch()})});
+    return Frame("Bildfil", {MinWidth(kPathCharacters, sFilename),
+                             HBox({cmdSelectPicture, cmdReset, Stretch()})});
 }
 
 } // namespace quillon

@@ -30,7 +30,7 @@ DlgDesOverview::DlgDesOverview(Session& session, QWidget* parent)
         item->setToolTip(1, ToQt(row.file));
     }
     ListViewOverview->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    Arrange(Down({Growing(RoomFor(kLettersOfTheList, ListViewOverview)), OkOnly()}));
+    Arrange(VBox({Growing(MinWidth(kLettersOfTheList, ListViewOverview)), OkOnly()}));
 }
 
 } // namespace quillon

@@ -10,8 +10,8 @@ DlgDesPercentGauge::DlgDesPercentGauge(Session& session, QWidget* parent)
     : DesignEditor("DlgDesPercentGauge", "Procentmätare", session, parent)
 {
     section::DesPercentGauge& gauge = session.project.DesPercentGauge;
-    Arrange(Down({
-        Across({
+    Arrange(VBox({
+        HBox({
             Frame("Vågrätt", {Options(gauge.GaugeAlignmentH, {{NAMED(oLeft), "&Vänster", 1},
                                                               {NAMED(oHCenter), "&Mitten", 2},
                                                               {NAMED(oRight), "&Höger", 3}})}),

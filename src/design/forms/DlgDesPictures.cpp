@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAPath = 50;
+constexpr int kPathCharacters = 50;
 
 } // namespace
 
@@ -31,9 +31,9 @@ DlgDesPictures::DlgDesPictures(std::size_t index, Session& session, QWidget* par
     Piece size = SizeFrame();
     connect(cTransparentBkg, &QCheckBox::toggled, this, [this] { EnableStretching(); });
     EnableStretching();
-    Arrange(Down({
+    Arrange(VBox({
         file,
-        Across({
+        HBox({
             Frame("Transparens",
                   {cTransparentBkg, Fields({{"Transparent &färg:", ComboTransparentColor}}),
                    Stretch()}),
@@ -54,8 +54,8 @@ Piece DlgDesPictures::FileFrame()
             sFilename->ShowPath(ToQt(*path));
     });
     Button(NAMED(cmdReset), "&Återställ", [this] { Reset(); });
-    return Frame("Bildfil", {RoomFor(kLettersOfAPath, sFilename),
-                             Across({cmdSelectPicture, cmdReset, Stretch()})});
+    return Frame("Bildfil", {MinWidth(kPathCharacters, sFilename),
+                             HBox({cmdSelectPicture, cmdReset, Stretch()})});
 }
 
 Piece DlgDesPictures::SizeFrame()
@@ -69,8 +69,8 @@ Piece DlgDesPictures::SizeFrame()
     LabelH->setBuddy(tHeight);
     tWidth->setAccessibleName("Bredd");
     tHeight->setAccessibleName("Höjd");
-    return Frame("Storlek (bildpunkter)", {cStretchPicture, Across({LabelW, tWidth, Stretch()}),
-                                           Across({LabelH, tHeight, Stretch()}), Stretch()});
+    return Frame("Storlek (bildpunkter)", {cStretchPicture, HBox({LabelW, tWidth, Stretch()}),
+                                           HBox({LabelH, tHeight, Stretch()}), Stretch()});
 }
 
 // A transparent picture has its own size, since scaling would mix its transparent colour with

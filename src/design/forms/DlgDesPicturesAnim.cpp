@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAPath = 50;
+constexpr int kPathCharacters = 50;
 
 } // namespace
 
@@ -25,9 +25,9 @@ DlgDesPicturesAnim::DlgDesPicturesAnim(Session& session, QWidget* parent)
     NumberField(NAMED(tWidth), pictures_.PictureWidth, CheckedPictureSize);
     NumberField(NAMED(tHeight), pictures_.PictureHeight, CheckedPictureSize);
     NumberField(NAMED(tIntervalSeconds), pictures_.IntervalSeconds, CheckedIntervalSeconds);
-    Arrange(Down({
+    Arrange(VBox({
         Growing(list),
-        Across({
+        HBox({
             Frame("Storlek (bildpunkter)",
                   {cStretchPicture, Fields({{"&Bredd:", tWidth}, {"&Höjd:", tHeight}})}),
             Frame("Tid", {Fields({{"S&ekunder per bild:", tIntervalSeconds}}), Stretch()}),
@@ -44,8 +44,8 @@ Piece DlgDesPicturesAnim::ListFrame()
         lbPictureList->addItem(ToQt(file));
     Button(NAMED(cmdAddPicture), "&Lägg till...", [this] { AddPicture(); });
     Button(NAMED(cmdRemovePicture), "&Ta bort", [this] { RemovePicture(); });
-    return Frame("Bilder", {Growing(RoomFor(kLettersOfAPath, lbPictureList)),
-                            Across({cmdAddPicture, cmdRemovePicture, Stretch()})});
+    return Frame("Bilder", {Growing(MinWidth(kPathCharacters, lbPictureList)),
+                            HBox({cmdAddPicture, cmdRemovePicture, Stretch()})});
 }
 
 void DlgDesPicturesAnim::AddPicture()

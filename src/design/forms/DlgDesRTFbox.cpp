@@ -2,9 +2,9 @@
 
 #include "design/number_fields.h"
 #include "design/rtf_box_file.h"
-#include "formats/rtf_writer.h"
 #include "platform/failure_text.h"
 #include "platform/whole_file.h"
+#include "rtf/rtf_writer.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 #include "ui/rtf_document.h"
@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfALine = 60;
+constexpr int kLineCharacters = 60;
 constexpr int kLinesOfTheBox = 10;
 constexpr double kUsualPoints = 12;
 
@@ -43,11 +43,11 @@ DlgDesRTFbox::DlgDesRTFbox(Session& session, QWidget* parent)
     cmdSetBackColor->SetColour(box_.RTFboxBackColor);
     ShowBackColour();
     Bind([this] { box_.RTFboxBackColor = cmdSetBackColor->GetColour(); });
-    Arrange(Down({
-        Across({cShowRTFbox, Stretch()}),
+    Arrange(VBox({
+        HBox({cShowRTFbox, Stretch()}),
         FormatButtons(),
         Growing(RTFbox),
-        Across({
+        HBox({
             SizeFrame(),
             Frame("Fil", {Fields({{"&Filnamn:", tRTFfilename}}), Stretch()}),
         }),
@@ -65,7 +65,7 @@ void DlgDesRTFbox::MakeEditor()
     RTFbox->setTabChangesFocus(false);
     RTFbox->setAcceptRichText(true);
     RTFbox->setFontPointSize(kUsualPoints);
-    RTFbox->setMinimumSize(kLettersOfALine * fontMetrics().averageCharWidth(),
+    RTFbox->setMinimumSize(kLineCharacters * fontMetrics().averageCharWidth(),
                            kLinesOfTheBox * fontMetrics().lineSpacing());
     connect(RTFbox, &QTextEdit::currentCharFormatChanged, this, [this] { ShowFormat(); });
 }
@@ -98,7 +98,7 @@ Piece DlgDesRTFbox::FormatButtons()
     cmdRedo->setEnabled(false);
     connect(RTFbox, &QTextEdit::undoAvailable, cmdUndo, &QWidget::setEnabled);
     connect(RTFbox, &QTextEdit::redoAvailable, cmdRedo, &QWidget::setEnabled);
-    return Across({cmdBold, cmdItalic, cmdUnderline, cmdRTFfont, cmdUndo, cmdRedo, Stretch()});
+    return HBox({cmdBold, cmdItalic, cmdUnderline, cmdRTFfont, cmdUndo, cmdRedo, Stretch()});
 }
 
 Piece DlgDesRTFbox::SizeFrame()
@@ -111,7 +111,7 @@ Piece DlgDesRTFbox::SizeFrame()
         return CheckedRTFboxHeight(entry, height);
     });
     return Frame("Storlek (bildpunkter)", {Fields({{"Bre&dd:", tWidth}, {"&Höjd:", tHeight}}),
-                                           Across({cmdSetBackColor, Stretch()})});
+                                           HBox({cmdSetBackColor, Stretch()})});
 }
 
 void DlgDesRTFbox::Format(const QTextCharFormat& format)
@@ -179,9 +179,9 @@ void DlgDesRTFbox::Load()
             session_.ask.Critical("Fel", "Filen '" + path + "' är ingen RTF-fil.");
             return;
         }
-        PutRtf(*text, *RTFbox->document(), RTFbox->logicalDpiX());
+        InsertRtf(*text, *RTFbox->document(), RTFbox->logicalDpiX());
         RTFbox->document()->clearUndoRedoStacks();
-        TellRtfLosses(RtfLosses(bytes), text->fault != RtfText::Fault::None, path, session_.ask);
+        ReportRtfLosses(RtfLosses(bytes), text->fault != RtfText::Fault::None, path, session_.ask);
     } catch (const RunError& error) {
         session_.ask.Critical("Fel", FailureText(error, path));
     }
@@ -198,7 +198,7 @@ bool DlgDesRTFbox::SaveText()
     const Text name = StoredRTFfilename(FromQt(tRTFfilename->text()));
     const Text path = RTFboxPath(session_.options.ToolFolder, name);
     try {
-        const RtfText text = TakeRtf(*RTFbox->document(), RTFbox->logicalDpiX());
+        const RtfText text = ExtractRtf(*RTFbox->document(), RTFbox->logicalDpiX());
         SaveRTFbox(session_.host.files, session_.options.ToolFolder, name, WriteRtf(text));
         return true;
     } catch (const RunError& error) {

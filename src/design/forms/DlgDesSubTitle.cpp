@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAField = 50;
+constexpr int kFieldCharacters = 50;
 
 } // namespace
 
@@ -26,9 +26,9 @@ DlgDesSubTitle::DlgDesSubTitle(Text& subTitle, Session& session, QWidget* parent
             tSubtitle->insert(ToQt(*variable));
         }
     });
-    Arrange(Down({
-        Above("&Undertitel:", RoomFor(kLettersOfAField, tSubtitle)),
-        Across({cmdVariables, Stretch()}),
+    Arrange(VBox({
+        Above("&Undertitel:", MinWidth(kFieldCharacters, tSubtitle)),
+        HBox({cmdVariables, Stretch()}),
         Stretch(),
         OkCancel(),
     }));

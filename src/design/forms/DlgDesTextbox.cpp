@@ -12,7 +12,7 @@ namespace {
 
 using section::DesTextBox;
 
-constexpr int kLettersOfAField = 40;
+constexpr int kFieldCharacters = 40;
 
 int Longest(Text DesTextBox::*field)
 {
@@ -28,7 +28,7 @@ DlgDesTextbox::DlgDesTextbox(Session& session, QWidget* parent)
     Check(NAMED(cCenterBox), "&Centrera textrutan vågrätt", box_.BoxCenter);
     Check(NAMED(cPlaceBelowTitle), "&Placera textrutan direkt under titeln",
           box_.BoxPlaceBelowTitle);
-    Arrange(Down({
+    Arrange(VBox({
         cShowTextBox,
         Growing(TextFrame()),
         LooksFrame(),
@@ -51,11 +51,11 @@ Piece DlgDesTextbox::TextFrame()
            [this] { ChooseBoxFont(kBoxTitleFont, sBoxTitleFont); });
     Button(NAMED(cmdTextBoxFont), "Teckensnitt för te&xt...",
            [this] { ChooseBoxFont(kBoxTextFont, sBoxTextFont); });
-    return Down({
-        Above("&Rubrik:", RoomFor(kLettersOfAField, tTitleText)),
-        Across({cmdTitleFont, sBoxTitleFont, Stretch()}),
+    return VBox({
+        Above("&Rubrik:", MinWidth(kFieldCharacters, tTitleText)),
+        HBox({cmdTitleFont, sBoxTitleFont, Stretch()}),
         Growing(Above("&Text:", tBoxText)),
-        Across({cmdTextBoxFont, sBoxTextFont, Stretch()}),
+        HBox({cmdTextBoxFont, sBoxTextFont, Stretch()}),
     });
 }
 
@@ -68,9 +68,9 @@ Piece DlgDesTextbox::LooksFrame()
     };
     NumberField(NAMED(tWidth), box_.BoxWidth, size(session_.surface.width));
     NumberField(NAMED(tHeight), box_.BoxHeight, size(session_.surface.height));
-    return Across({
+    return HBox({
         Frame("Storlek (bildpunkter)", {Fields({{"Bre&dd:", tWidth}, {"&Höjd:", tHeight}})}),
-        Frame("Bakgrund", {cUseBackground, Across({cmdSetBackColor, Stretch()})}),
+        Frame("Bakgrund", {cUseBackground, HBox({cmdSetBackColor, Stretch()})}),
         Stretch(),
     });
 }

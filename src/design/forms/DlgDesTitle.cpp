@@ -14,7 +14,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAField = 45;
+constexpr int kFieldCharacters = 45;
 
 } // namespace
 
@@ -33,20 +33,20 @@ DlgDesTitle::DlgDesTitle(Session& session, QWidget* parent)
     MakeSpacing();
     Bind([this] { session_.project.DesSubTitle.SubTitleText = subTitle_; });
     ShowFont();
-    Arrange(Down({
-        Above("T&itel:", RoomFor(kLettersOfAField, tTitleText)),
-        Across({
+    Arrange(VBox({
+        Above("T&itel:", MinWidth(kFieldCharacters, tTitleText)),
+        HBox({
             Frame("Justering",
                   {Options(title_.TitleAlignment, {{NAMED(oTitleLeft), "&Vänster", 1},
                                                    {NAMED(oTitleCenter), "&Centrerad", 2},
                                                    {NAMED(oTitleRight), "&Höger", 3}})}),
-            Down({
+            VBox({
                 cTitleShadow,
-                Fields({{"Tecken&avstånd:", Across({tTitleCharInterSpace, UpDownArr, Stretch()})}}),
-                Across({cmdTitleColor, CmdSubTitle, Stretch()}),
+                Fields({{"Tecken&avstånd:", HBox({tTitleCharInterSpace, UpDownArr, Stretch()})}}),
+                HBox({cmdTitleColor, CmdSubTitle, Stretch()}),
             }),
         }),
-        Frame("Teckensnitt", {sTitleFont, Across({cmdTitleFont, Stretch()})}),
+        Frame("Teckensnitt", {sTitleFont, HBox({cmdTitleFont, Stretch()})}),
         Stretch(),
         OkCancel(),
     }));

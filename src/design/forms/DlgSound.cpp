@@ -11,7 +11,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAPath = 50;
+constexpr int kPathCharacters = 50;
 
 } // namespace
 
@@ -25,9 +25,9 @@ DlgSound::DlgSound(Session& session, QWidget* parent)
             sBackSoundFilenameX->ShowPath(ToQt(*path));
     });
     Button(NAMED(cmdReset), "&Återställ", [this] { sBackSoundFilenameX->ShowPath({}); });
-    Arrange(Down({
-        Frame("Bakgrundsljud", {RoomFor(kLettersOfAPath, sBackSoundFilenameX),
-                                Across({cmdSelectBackSound, cmdReset, Stretch()})}),
+    Arrange(VBox({
+        Frame("Bakgrundsljud", {MinWidth(kPathCharacters, sBackSoundFilenameX),
+                                HBox({cmdSelectBackSound, cmdReset, Stretch()})}),
         Stretch(),
         OkCancel(),
     }));

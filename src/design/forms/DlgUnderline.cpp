@@ -35,15 +35,15 @@ DlgUnderline::DlgUnderline(Session& session, QWidget* parent)
     for (QRadioButton* kind : {oNoUnderline, oSimpleUnderline, oMistyUnderline, oBlendUnderline})
         connect(kind, &QRadioButton::clicked, this, [this] { ChooseKind(); });
     EnableColours();
-    Arrange(Down({
-        Across({
+    Arrange(VBox({
+        HBox({
             Frame("Typ", {kinds}),
             Frame("Färg", {CmdColor1, CmdColor2, Stretch()}),
         }),
-        Fields({{"H&öjd (bildpunkter):", Across({tUnderlineHeight, UpDownArr, Stretch()})}}),
+        Fields({{"H&öjd (bildpunkter):", HBox({tUnderlineHeight, UpDownArr, Stretch()})}}),
         cUnderlineTextOnly,
         Stretch(),
-        Across({CmdHelp, Growing(OkCancel())}),
+        HBox({CmdHelp, Growing(OkCancel())}),
     }));
     // The name that scripts know this form's button by.
     cmdOK->setObjectName("OKButton");

@@ -32,7 +32,7 @@ void DrawTitleAndWhatHangsOnIt(DesignScreen& screen)
     screen.DrawDesTitle();
     Session& session = screen.GetSession();
     if (session.project.DesTextBox.ShowTextBox != kOff) {
-        session.ask.YieldToEvents();
+        session.ask.ProcessEvents();
         screen.DrawDesTextBox();
     }
 }

@@ -12,7 +12,7 @@ namespace quillon {
 DlgChCompNr::DlgChCompNr(const Text& number, Session& session, QWidget* parent)
     : EditorForm("DlgChCompNr", "Komponentnummer", session, parent), Number(number)
 {
-    Arrange(Down({
+    Arrange(VBox({
         Note("Ange numret på den komponent som filerna ska ingå i. Lämna fältet tomt om filerna "
              "inte ska ingå i någon komponent."),
         Fields({{"&Komponentnummer:", Field(NAMED(tInputData), Number)}}),

@@ -15,15 +15,15 @@ using section::LicenseData;
 using section::RegPrivateVar;
 using section::Version;
 
-constexpr int kLettersOfAField = 36;
+constexpr int kFieldCharacters = 36;
 
 } // namespace
 
 DlgChVariables::DlgChVariables(Session& session, QWidget* parent)
     : EditorForm("DlgChVariables", "Ändra variabler", session, parent)
 {
-    Arrange(Down({
-        Across({Growing(VersionFrames()), Growing(Down({UserFrame(), OwnFrames(), Stretch()}))}),
+    Arrange(VBox({
+        HBox({Growing(VersionFrames()), Growing(VBox({UserFrame(), OwnFrames(), Stretch()}))}),
         Stretch(),
         OkCancel(),
     }));
@@ -53,35 +53,36 @@ Piece DlgChVariables::VersionFrames()
     VersionField(NAMED(tVerXProductVersion), &Version::XProductVersionFName);
     Button(NAMED(CmdSelFile), "&Välj fil...", [this] { SelectFile(); });
     Button(NAMED(CmdClearField), "&Rensa", [this] { tVerXProductVersion->clear(); });
-    return Down({
-        Frame(" Företagsnamn ", {RoomFor(kLettersOfAField, VersionField(NAMED(tVerOrganization),
-                                                                        &Version::CompanyName))}),
+    return VBox({
+        Frame(" Företagsnamn ", {MinWidth(kFieldCharacters, VersionField(NAMED(tVerOrganization),
+                                                                         &Version::CompanyName))}),
         Frame(" Produktnamn ", {VersionField(NAMED(tVerProductName), &Version::ProductName)}),
         Frame(" Produkt, versionsnummer",
               {VersionField(NAMED(tVerProductVersion), &Version::ProductVersion)}),
         Frame(" Produkt, versionsnummer (hämtas från fil) ",
-              {tVerXProductVersion, Across({Stretch(), CmdSelFile, CmdClearField})}),
+              {tVerXProductVersion, HBox({Stretch(), CmdSelFile, CmdClearField})}),
         Stretch(),
     });
 }
 
 Piece DlgChVariables::UserFrame()
 {
-    return Frame("Licensuppgifter (användarens namn && företag)",
-                 {Fields({
-                     {"&Företag:", RoomFor(kLettersOfAField, UserField(NAMED(tUserCompany),
-                                                                       &LicenseData::UserCompany))},
-                     {"&Namn:", UserField(NAMED(tUserName), &LicenseData::UserName)},
-                     {"&Adress:", UserField(NAMED(tUserAddress), &LicenseData::UserAddress)},
-                     {"&Telefon:", UserField(NAMED(tUserPhone), &LicenseData::UserPhone)},
-                     {"Fa&x:", UserField(NAMED(tUserFax), &LicenseData::UserFax)},
-                     {"&E-post:", UserField(NAMED(tUseremail), &LicenseData::Useremail)},
-                 })});
+    return Frame(
+        "Licensuppgifter (användarens namn && företag)",
+        {Fields({
+            {"&Företag:",
+             MinWidth(kFieldCharacters, UserField(NAMED(tUserCompany), &LicenseData::UserCompany))},
+            {"&Namn:", UserField(NAMED(tUserName), &LicenseData::UserName)},
+            {"&Adress:", UserField(NAMED(tUserAddress), &LicenseData::UserAddress)},
+            {"&Telefon:", UserField(NAMED(tUserPhone), &LicenseData::UserPhone)},
+            {"Fa&x:", UserField(NAMED(tUserFax), &LicenseData::UserFax)},
+            {"&E-post:", UserField(NAMED(tUseremail), &LicenseData::Useremail)},
+        })});
 }
 
 Piece DlgChVariables::OwnFrames()
 {
-    return Down({
+    return VBox({
         Frame(" Egen variabel 1 ", {OwnField(NAMED(tReg1), &RegPrivateVar::Reg1)}),
         Frame(" Egen variabel 2 ", {OwnField(NAMED(tReg2), &RegPrivateVar::Reg2)}),
         Frame(" Egen variabel 3 ", {OwnField(NAMED(tReg3), &RegPrivateVar::Reg3)}),

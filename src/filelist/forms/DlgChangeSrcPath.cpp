@@ -17,9 +17,9 @@ constexpr int kUsualPathLength = 60;
 DlgChangeSrcPath::DlgChangeSrcPath(const Text& source, Session& session, QWidget* parent)
     : EditorForm("DlgChangeSrcPath", "Ändra källsökväg", session, parent), Source(source)
 {
-    Arrange(Down({
+    Arrange(VBox({
         Above("&Filens sökväg på din hårddisk:",
-              RoomFor(kUsualPathLength, Field(NAMED(tFileSrcDir), Source))),
+              MinWidth(kUsualPathLength, Field(NAMED(tFileSrcDir), Source))),
         Stretch(),
         OkCancel(),
     }));
@@ -32,7 +32,7 @@ DlgChangeSrcPath::DlgChangeSrcPath(const Text& source, Session& session, QWidget
 bool DlgChangeSrcPath::MayClose()
 {
     const Text typed = FromQt(tFileSrcDir->text());
-    if (!MayStandInRow(typed, "Källsökvägen", session_.ask)) {
+    if (!CheckRowText(typed, "Källsökvägen", session_.ask)) {
         tFileSrcDir->setFocus();
         return false;
     }

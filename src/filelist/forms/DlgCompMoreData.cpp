@@ -35,11 +35,11 @@ DlgCompMoreData::DlgCompMoreData(std::size_t component, Session& session, QWidge
             [this] { TickDefaultWhereItMustBe(); });
     Button(NAMED(CmdAdvanced), "A&vancerat...",
            [this] { DlgCompMoreDataAdv(advanced_, session_, this).ShowModal(); });
-    Arrange(Down({
+    Arrange(VBox({
         sComponent,
         Growing(Above("&Beskrivning av komponenten:", tCompText)),
         Frame("Inställningar", {cCompDefault, cCanChangeDestDir, cMustAlwaysBeInstalled,
-                                Across({Stretch(), CmdAdvanced})}),
+                                HBox({Stretch(), CmdAdvanced})}),
         OkCancel(),
     }));
     tCompText->setFocus();

@@ -32,7 +32,7 @@ DlgCompMoreDataAdv::DlgCompMoreDataAdv(FileComponent& component, Session& sessio
     Area(NAMED(tUpdateInfoBoxText), component.CompAdvUpdateInfoBoxText,
          Longest(&FileComponent::CompAdvUpdateInfoBoxText));
     KeepOneLine(tUpdateInfoBoxText);
-    Arrange(Down({
+    Arrange(VBox({
         Frame("Uppdatering av komponent",
               {
                   cOnlyUpdate,

@@ -13,7 +13,7 @@ DlgCompShortList::DlgCompShortList(const std::vector<Text>& entries, QWidget* pa
     for (const Text& entry : entries)
         lbCompList->addItem(ToQt(entry));
     lbCompList->setCurrentRow(0);
-    Arrange(Down({
+    Arrange(VBox({
         Note("Välj vilken komponent som de valda filerna ska ingå i eller 'Ingen komponent' om "
              "filerna alltid ska kopieras till mottagarens hårddisk."),
         Growing(lbCompList),

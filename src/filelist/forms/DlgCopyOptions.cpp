@@ -12,15 +12,15 @@ DlgCopyOptions::DlgCopyOptions(const CopyOptionTicks& ticks, QWidget* parent)
     for (std::size_t box = 0; box < boxes_.size(); ++box)
         MakeBox(box, ticks[box]);
     AtMostOne({BoxOf('D'), BoxOf('V'), BoxOf('N')});
-    Arrange(Down({
-        Across({
-            Growing(Down({
+    Arrange(VBox({
+        HBox({
+            Growing(VBox({
                 Frame("Före kopiering", {BoxOf('D'), BoxOf('V'), BoxOf('N')}),
                 Frame("Efter kopiering", {BoxOf('R'), BoxOf('P')}),
                 Frame("Avinstallation", {BoxOf('*')}),
                 Stretch(),
             })),
-            Growing(Down({
+            Growing(VBox({
                 Frame("Special",
                       {BoxOf('E'), BoxOf('X'), BoxOf('A'), BoxOf('S'), BoxOf('W'), BoxOf('B')}),
                 Stretch(),

@@ -1,7 +1,7 @@
 // How the setup copies a file: a box for each letter of the column "Inst".
 #pragma once
 
-#include "filelist/copy_options.h"
+#include "filelist/options/copy_options.h"
 #include "ui/Form.h"
 
 namespace quillon {

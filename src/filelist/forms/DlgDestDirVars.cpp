@@ -1,6 +1,6 @@
 #include "filelist/forms/DlgDestDirVars.h"
 
-#include "filelist/destination_choice.h"
+#include "filelist/adding/destination_choice.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -13,7 +13,7 @@ DlgDestDirVars::DlgDestDirVars(QWidget* parent) : Form("DlgDestDirVars", "Variab
     for (const Text& variable : DestinationVariables())
         lbVariables->addItem(ToQt(variable));
     lbVariables->setCurrentRow(0);
-    Arrange(Down({Growing(Above("&Välj variabel:", lbVariables)), OkCancel()}));
+    Arrange(VBox({Growing(Above("&Välj variabel:", lbVariables)), OkCancel()}));
     connect(lbVariables, &QListWidget::itemDoubleClicked, this, [this] { cmdOK->click(); });
 }
 

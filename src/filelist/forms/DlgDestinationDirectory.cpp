@@ -1,6 +1,6 @@
 #include "filelist/forms/DlgDestinationDirectory.h"
 
-#include "filelist/destination_choice.h"
+#include "filelist/adding/destination_choice.h"
 #include "filelist/forms/DlgDestDirVars.h"
 #include "helpers/windows_path.h"
 #include "ui/complete_variable.h"
@@ -18,9 +18,9 @@ DlgDestinationDirectory::DlgDestinationDirectory(const DestinationQuestion& ques
     MakeOptions(question.place);
     MakeDirectory(question.folder);
     Button(NAMED(CmdVars), "Va&riabler...", [this] { PickVariable(); });
-    Arrange(Down({
+    Arrange(VBox({
         Note("Välj den katalog på mottagarens hårddisk som filerna ska kopieras till."),
-        Frame("Destinationskatalog", {oUserDirectory, Across({Growing(ctDirectory), CmdVars}),
+        Frame("Destinationskatalog", {oUserDirectory, HBox({Growing(ctDirectory), CmdVars}),
                                       oSystemDirectory, oWindowsDirectory}),
         Stretch(),
         OkCancel(),
@@ -50,7 +50,7 @@ void DlgDestinationDirectory::MakeDirectory(const Text& folder)
     for (const Text& recent : RecentDestinationDirectories(session_.state))
         ctDirectory->addItem(ToQt(recent));
     ctDirectory->setEditText(ToQt(folder));
-    LimitTyping(ctDirectory->lineEdit(), static_cast<int>(kLongestPath));
+    LimitTyping(ctDirectory->lineEdit(), static_cast<int>(kMaxPathLength));
     CompleteVariables(ctDirectory->lineEdit(), PrefixTable::Folder);
 }
 

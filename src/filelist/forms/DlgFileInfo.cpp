@@ -1,7 +1,7 @@
 #include "filelist/forms/DlgFileInfo.h"
 
-#include "filelist/file_info.h"
 #include "filelist/forms/DlgMDADetails.h"
+#include "filelist/options/file_info.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 
@@ -11,9 +11,9 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAPath = 56;
+constexpr int kPathCharacters = 56;
 
-/// A text that can be selected and scrolled, on the form's own ground.
+/// A text that can be selected and scrolled, on the form's own background.
 QLineEdit* Shown(QLineEdit*& member, const char* name, const Text& text)
 {
     auto* field = Named(member, name, new QLineEdit(ToQt(text)));
@@ -34,11 +34,11 @@ DlgFileInfo::DlgFileInfo(const FileListRow& row, Session& session, QWidget* pare
     const FileInfo info = FileInfoOf(row, session.host.files);
     Button(NAMED(cmdMDADetails), "&Inställningar för MDAC...",
            [this, &session] { DlgMDADetails(session, this).ShowModal(); });
-    Arrange(Down({
+    Arrange(VBox({
         Frame("Fil", {FileFields(info)}),
         Frame("Version", {VersionFields(info)}),
         Stretch(),
-        Across({cmdMDADetails, OkOnly()}),
+        HBox({cmdMDADetails, OkOnly()}),
     }));
     cmdMDADetails->setVisible(IsDataAccessPackage(row));
     cmdOK->setFocus();
@@ -47,7 +47,7 @@ DlgFileInfo::DlgFileInfo(const FileListRow& row, Session& session, QWidget* pare
 Piece DlgFileInfo::FileFields(const FileInfo& info)
 {
     return Fields({
-        {"Filnamn:", RoomFor(kLettersOfAPath, Shown(NAMED(sFilename), info.Filename))},
+        {"Filnamn:", MinWidth(kPathCharacters, Shown(NAMED(sFilename), info.Filename))},
         {"Storlek:", Shown(NAMED(sFileSize), info.FileSize)},
         {"Datum och tid:", Shown(NAMED(sFileDateTime), info.FileDateTime)},
         {"Attribut:", Shown(NAMED(sFileAttr), info.FileAttr)},

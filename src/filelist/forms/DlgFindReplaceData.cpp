@@ -20,9 +20,9 @@ DlgFindReplaceData::DlgFindReplaceData(ReplaceIn where, const Text& findThis, Se
     Data.find = findThis;
     Named(NAMED(cPartOfText), new QCheckBox("Sök även i &del av texten"));
     Bind([this] { Data.partOfText = cPartOfText->isChecked(); });
-    Arrange(Down({
+    Arrange(VBox({
         Fields({
-            {"&Sök efter:", RoomFor(kUsualFolderLength, Field(NAMED(tFindThis), Data.find))},
+            {"&Sök efter:", MinWidth(kUsualFolderLength, Field(NAMED(tFindThis), Data.find))},
             {"&Ersätt med:", Field(NAMED(tReplaceWith), Data.with)},
         }),
         cPartOfText,

@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAField = 50;
+constexpr int kFieldCharacters = 50;
 
 } // namespace
 
@@ -28,10 +28,10 @@ DlgIcon::DlgIcon(FileListRow& row, Session& session, QWidget* parent)
     TickAddIconOnTyping(tParameters);
     CompleteVariables(tIconFile, PrefixTable::IconFile);
     OnLeave(tIconFile, [this] { CheckExternalIconFile(FromQt(tIconFile->text()), session_.ask); });
-    Arrange(Down({
+    Arrange(VBox({
         Fields({
             {"Filnamn:", sFilename},
-            {"&Beskrivning:", RoomFor(kLettersOfAField, tDescription)},
+            {"&Beskrivning:", MinWidth(kFieldCharacters, tDescription)},
             {"&Parametrar:", tParameters},
             {"&Starta i:", tWorkDir},
             {"Extern &ikonfil:", tIconFile},

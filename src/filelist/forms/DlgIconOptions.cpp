@@ -14,7 +14,7 @@ DlgIconOptions::DlgIconOptions(const IconPlaces& places, QWidget* parent)
     cIconOnStartMenu->setChecked(places.onStartMenu);
     cIconOnProgramMenu->setChecked(places.onProgramMenu);
     AtMostOne({cIconOnDesktop, cIconOnStartMenu, cIconOnProgramMenu});
-    Arrange(Down({cIconOnDesktop, cIconOnStartMenu, cIconOnProgramMenu, Stretch(), OkCancel()}));
+    Arrange(VBox({cIconOnDesktop, cIconOnStartMenu, cIconOnProgramMenu, Stretch(), OkCancel()}));
 }
 
 void DlgIconOptions::Store()

@@ -1,7 +1,7 @@
 // Where the icon of a file stands beside the program group.
 #pragma once
 
-#include "filelist/icon_row.h"
+#include "filelist/options/icon_row.h"
 #include "ui/Form.h"
 
 namespace quillon {

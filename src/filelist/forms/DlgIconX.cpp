@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAField = 50;
+constexpr int kFieldCharacters = 50;
 
 } // namespace
 
@@ -25,10 +25,10 @@ DlgIconX::DlgIconX(FileListRow& row, Session& session, QWidget* parent)
     // A question of this dialog sends its reader to the help by this key.
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
             [this] { ShowHelp(session_); });
-    Arrange(Down({
+    Arrange(VBox({
         Growing(IconPicture),
         Fields({
-            {"&Beskrivning:", RoomFor(kLettersOfAField, tDescription)},
+            {"&Beskrivning:", MinWidth(kFieldCharacters, tDescription)},
             {"&Kommandorad:", tCommandLine},
             {"&Starta i:", tWorkDir},
         }),

@@ -10,7 +10,7 @@ DlgMDADetails::DlgMDADetails(Session& session, QWidget* parent)
     : EditorForm("DlgMDADetails", "Inställningar för MDAC", session, parent)
 {
     section::Databases& databases = session.project.Databases;
-    Arrange(Down({
+    Arrange(VBox({
         Note("Microsoft Data Access Components installeras av ett eget installationsprogram."),
         Check(NAMED(cHiddenInstall), "&Dölj installationsprogrammet för användaren",
               databases.MDAHiddenInstall),

@@ -11,7 +11,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAField = 50;
+constexpr int kFieldCharacters = 50;
 
 } // namespace
 
@@ -27,10 +27,10 @@ DlgRegisterFont::DlgRegisterFont(FileListRow& row, Session& session, QWidget* pa
             "&Om ett teckensnitt redan existerar ska den aldrig ersättas",
             session.project.FontOptions.NeverReplaceExistingFonts);
     connect(tFontDesc, &QLineEdit::textEdited, this, [this] { cRegisterFont->setChecked(true); });
-    Arrange(Down({
+    Arrange(VBox({
         Fields({
             {"Filnamn:", sFontFileName},
-            {"&Typsnittsnamn:", RoomFor(kLettersOfAField, tFontDesc)},
+            {"&Typsnittsnamn:", MinWidth(kFieldCharacters, tFontDesc)},
         }),
         cRegisterFont,
         cNeverReplaceExistingFonts,
@@ -46,7 +46,7 @@ bool DlgRegisterFont::MayClose()
     if (tFontDesc->text().isEmpty())
         cRegisterFont->setChecked(false);
     if (!cRegisterFont->isChecked() ||
-        MayStandInRow(FromQt(tFontDesc->text()), "Fältet 'Typsnittsnamn'", session_.ask))
+        CheckRowText(FromQt(tFontDesc->text()), "Fältet 'Typsnittsnamn'", session_.ask))
         return true;
     tFontDesc->setFocus();
     return false;

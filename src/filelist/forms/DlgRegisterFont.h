@@ -1,7 +1,7 @@
 // Whether the setup registers a font, and what it does where the font is there already.
 #pragma once
 
-#include "filelist/font_row.h"
+#include "filelist/options/font_row.h"
 #include "ui/Form.h"
 
 namespace quillon {

@@ -19,10 +19,10 @@ DlgShowDestDirectories::DlgShowDestDirectories(QWidget* parent)
     Named(NAMED(lbDirectories), new QListWidget);
     Named(NAMED(sNrDirs), new QLabel("0"), "Antal kataloger");
     lbDirectories->setUniformItemSizes(true);
-    Arrange(Down({
+    Arrange(VBox({
         Growing(Above("&Kataloger som filerna kopieras till:",
-                      RoomFor(kUsualFolderLength, lbDirectories))),
-        Across({new QLabel("Antal kataloger:"), sNrDirs, Stretch()}),
+                      MinWidth(kUsualFolderLength, lbDirectories))),
+        HBox({new QLabel("Antal kataloger:"), sNrDirs, Stretch()}),
         OkOnly(),
     }));
     lbDirectories->setFocus();

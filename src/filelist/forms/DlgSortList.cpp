@@ -1,6 +1,6 @@
 #include "filelist/forms/DlgSortList.h"
 
-#include "filelist/sort_choice.h"
+#include "filelist/view/sort_choice.h"
 #include "project/components.h"
 
 #include <QtWidgets>
@@ -12,7 +12,7 @@ DlgSortList::DlgSortList(const Project& project, QWidget* parent)
 {
     for (std::size_t i = 0; i < options_.size(); ++i)
         MakeOption(i, project);
-    Arrange(Down({
+    Arrange(VBox({
         Frame("Sortera efter",
               {options_[0], options_[1], options_[2], options_[3], options_[4], options_[5]}),
         Stretch(),

@@ -11,7 +11,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAValue = 70;
+constexpr int kValueCharacters = 70;
 constexpr int kRowsInView = 20;
 
 } // namespace
@@ -22,9 +22,9 @@ DlgVariables::DlgVariables(Session& session, Use use, QWidget* parent)
     MakeList();
     Button(NAMED(cmdChangeVariables), "&Ändra värden...", [this] { ChangeVariables(); });
     const bool isPicker = use == Use::Picker;
-    Arrange(Down({
+    Arrange(VBox({
         Growing(ListViewVariables),
-        Across({cmdChangeVariables, isPicker ? OkCancel() : OkOnly()}),
+        HBox({cmdChangeVariables, isPicker ? OkCancel() : OkOnly()}),
     }));
     Fill();
     ListViewVariables->setFocus();
@@ -43,7 +43,7 @@ void DlgVariables::MakeList()
     ListViewVariables->setUniformRowHeights(true);
     ListViewVariables->setAllColumnsShowFocus(true);
     const QFontMetrics letters(font());
-    ListViewVariables->setMinimumSize(letters.averageCharWidth() * kLettersOfAValue,
+    ListViewVariables->setMinimumSize(letters.averageCharWidth() * kValueCharacters,
                                       letters.lineSpacing() * kRowsInView);
 }
 

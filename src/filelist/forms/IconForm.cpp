@@ -23,7 +23,7 @@ IconForm::IconForm(const char* name, FileListRow& row, Session& session, QWidget
 
 Piece IconForm::Ending()
 {
-    return Down({Across({Growing(cAddIcon), mIconOptions}), Stretch(), OkCancel()});
+    return VBox({HBox({Growing(cAddIcon), mIconOptions}), Stretch(), OkCancel()});
 }
 
 void IconForm::TickAddIconOnTyping(QLineEdit* field)
@@ -40,8 +40,8 @@ void IconForm::ChoosePlace()
 
 bool IconForm::CanStore(QLineEdit* field)
 {
-    if (MayStandInRow(FromQt(field->text()), "Fältet '" + FromQt(field->accessibleName()) + "'",
-                      session_.ask))
+    if (CheckRowText(FromQt(field->text()), "Fältet '" + FromQt(field->accessibleName()) + "'",
+                     session_.ask))
         return true;
     field->setFocus();
     return false;

@@ -1,7 +1,7 @@
 // What the two dialogs for a row's icon share. They edit a copy, which goes to the row on OK.
 #pragma once
 
-#include "filelist/icon_row.h"
+#include "filelist/options/icon_row.h"
 #include "ui/Form.h"
 
 namespace quillon {

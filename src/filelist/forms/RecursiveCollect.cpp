@@ -1,6 +1,6 @@
 #include "filelist/forms/RecursiveCollect.h"
 
-#include "filelist/add_tree_command.h"
+#include "filelist/adding/add_tree_command.h"
 #include "platform/run_error.h"
 #include "ui/qt_text.h"
 
@@ -33,13 +33,13 @@ RecursiveCollect::RecursiveCollect(const ListWork& work, const TreeToAdd& tree, 
     Button(NAMED(cmdStart), "Addera &filer", [this] { Start(); });
     Button(NAMED(cmdClose), "&Stäng", [this] { reject(); });
     cmdStart->setDefault(true);
-    Arrange(Down({
+    Arrange(VBox({
         Note("Välj hur katalogträdet ska läggas in i fillistan och tryck sedan på Addera filer."),
         Frame("Startkatalog", {sStartDirect}),
         Frame("Destination", {oReplaceLevel1InTree, oConcatTree}),
-        Across({sSearchStatus, Stretch(), new QLabel("Antal filer:"), sNumberFiles}),
+        HBox({sSearchStatus, Stretch(), new QLabel("Antal filer:"), sNumberFiles}),
         Stretch(),
-        Across({Stretch(), cmdStart, cmdClose}),
+        HBox({Stretch(), cmdStart, cmdClose}),
     }));
     oReplaceLevel1InTree->setFocus();
 }
@@ -90,7 +90,7 @@ void RecursiveCollect::LetWindowLive()
     // Closing does not stop the walk, but without this window in front the user could reach the
     // list that is being filled.
     if (isVisible())
-        work_.ask.YieldToEvents();
+        work_.ask.ProcessEvents();
 }
 
 } // namespace quillon

@@ -2,8 +2,8 @@
 // count.
 #pragma once
 
+#include "filelist/adding/tree_walk.h"
 #include "filelist/list_work.h"
-#include "filelist/tree_walk.h"
 #include "ui/Form.h"
 
 class QLabel;

@@ -1,8 +1,8 @@
 #include "filelist/forms/list_commands.h"
 
-#include "filelist/add_files_command.h"
-#include "filelist/add_tree_command.h"
-#include "filelist/dropped_files.h"
+#include "filelist/adding/add_files_command.h"
+#include "filelist/adding/add_tree_command.h"
+#include "filelist/adding/dropped_files.h"
 #include "filelist/forms/DlgCompShortList.h"
 #include "filelist/forms/DlgDestinationDirectory.h"
 #include "filelist/forms/DlgSortList.h"

@@ -1,12 +1,12 @@
 #include "filelist/forms/per_file_commands.h"
 
-#include "filelist/copy_options.h"
 #include "filelist/forms/DlgCopyOptions.h"
 #include "filelist/forms/DlgFileInfo.h"
 #include "filelist/forms/DlgIcon.h"
 #include "filelist/forms/DlgIconX.h"
 #include "filelist/forms/DlgRegisterFont.h"
-#include "filelist/status_text.h"
+#include "filelist/options/copy_options.h"
+#include "filelist/view/status_text.h"
 #include "shell/moved_rows.h"
 
 namespace quillon {

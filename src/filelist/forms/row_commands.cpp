@@ -5,7 +5,7 @@
 #include "filelist/forms/DlgFindReplaceData.h"
 #include "filelist/forms/DlgShowDestDirectories.h"
 #include "filelist/list_maintenance.h"
-#include "filelist/status_text.h"
+#include "filelist/view/status_text.h"
 #include "shell/moved_rows.h"
 
 namespace quillon {

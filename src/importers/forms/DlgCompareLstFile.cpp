@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAPath = 60;
+constexpr int kPathCharacters = 60;
 
 } // namespace
 
@@ -25,11 +25,11 @@ DlgCompareLstFile::DlgCompareLstFile(Session& session, QWidget* parent)
     Button(NAMED(CmdSelectLstFile), "&Välj LST-fil...", [this] { SelectLstFile(); });
     Button(NAMED(CmdHelp), "&Hjälp", [this] { ShowHelp(session_); });
     Button(NAMED(cmdClose), "Stäng", [this] { reject(); });
-    Arrange(Down({
+    Arrange(VBox({
         Note("Välj den LST-fil som Package & Deployment Wizard har skapat för ditt projekt."),
-        Frame("LST-fil", {Across({Growing(sLSTFileName), CmdSelectLstFile})}),
-        Growing(Above("&Filer som saknas i fillistan:", RoomFor(kLettersOfAPath, ListOfFiles))),
-        Across({CmdHelp, Stretch(), cmdClose}),
+        Frame("LST-fil", {HBox({Growing(sLSTFileName), CmdSelectLstFile})}),
+        Growing(Above("&Filer som saknas i fillistan:", MinWidth(kPathCharacters, ListOfFiles))),
+        HBox({CmdHelp, Stretch(), cmdClose}),
     }));
     CmdSelectLstFile->setDefault(true);
     CmdSelectLstFile->setFocus();

@@ -21,7 +21,7 @@ DlgImportFolder::DlgImportFolder(const ImportDesk& desk, QWidget* parent)
     connect(cbProgram, &QComboBox::activated, this, [this] { ShowFindings(); });
     Named(NAMED(ListOfFindings), new QListWidget);
     ListOfFindings->setMinimumHeight(kLinesInView * ListOfFindings->fontMetrics().lineSpacing());
-    Arrange(Down({
+    Arrange(VBox({
         Fields({{"Katalog:", PathRow(NAMED(sFolder), NAMED(cmdSelectFolder), "Välj &katalog...",
                                      [this] { SelectFolder(); })},
                 {"&Program:", cbProgram}}),
@@ -36,15 +36,15 @@ DlgImportFolder::DlgImportFolder(const ImportDesk& desk, QWidget* parent)
 
 Piece DlgImportFolder::MakeOptions()
 {
-    const Piece options = Across(
-        {Growing(Down(
+    const Piece options = HBox(
+        {Growing(VBox(
              {Choice01(NAMED(cVersionData), "Hämta &versionsinformation",
                        "Fyller projektets versionsinformation med den som programmet innehåller. "
                        "Det som programmet inte talar om behåller sitt värde."),
               Choice01(NAMED(cTestNETFramework), "Testa .NET &Framework",
                        "Låter installationen testa att .NET Framework finns, när programmet "
                        "behöver det.")})),
-         Growing(Down(
+         Growing(VBox(
              {Choice01(
                   NAMED(cSkipBuildFiles), "&Utelämna byggets filer",
                   "Lägger inte in felsökningssymboler, länkbibliotek och liknande: .pdb, .lib, "

@@ -14,7 +14,7 @@ DlgImportVB5Project::DlgImportVB5Project(const ImportDesk& desk, QWidget* parent
     tVBDirectory->setToolTip(
         "Katalogen som VB5.EXE ligger i. Filerna för vidaredistribution hämtas "
         "från setupkit\\kitfil32\\sys32 under den.");
-    Arrange(Down({
+    Arrange(VBox({
         Frame("Projekt",
               {Fields({
                   {"Projektfil (.VBP):", PathRow(NAMED(sVBPfile), NAMED(cmdSelectVBP),

@@ -15,7 +15,7 @@ DlgImportVB6Project::DlgImportVB6Project(const ImportDesk& desk, QWidget* parent
     tVBDirectory->setToolTip(
         "Katalogen som VB6.EXE ligger i. Filerna för vidaredistribution hämtas "
         "från Wizards\\PDWizard\\Redist under den.");
-    Arrange(Down({
+    Arrange(VBox({
         Frame("Projekt",
               {Fields({
                   {"Projektfil (.VBP):", PathRow(NAMED(sVBPfile), NAMED(cmdSelectVBP),
@@ -24,7 +24,7 @@ DlgImportVB6Project::DlgImportVB6Project(const ImportDesk& desk, QWidget* parent
                                                  "Välj programfi&l...", [this] { SelectEXE(); })},
                   {"&Visual Basic 6.0 katalog:", tVBDirectory},
               })}),
-        Across({Growing(MakeDatabases()), Growing(MakeOptions())}),
+        HBox({Growing(MakeDatabases()), Growing(MakeOptions())}),
         Stretch(),
         Progress(),
         Buttons(),
@@ -50,10 +50,10 @@ Piece DlgImportVB6Project::MakeDatabases()
          Choice01(NAMED(cImportRDO), "&RDO-datakontroll",
                   "Adderar MSRDC20.OCX, RDOCURS.DLL och MSSTDFMT.DLL. Markeras av sig självt när "
                   "projektet har kontrollen."),
-         Across({Choice01(NAMED(cInstallMDA), "Data A&ccess (MDAC)",
-                          "Lägger in installationsprogrammet MDAC_TYP.EXE, som installerar "
-                          "Microsoft Data Access på mottagarens dator. Omkring 6 MB."),
-                 Stretch(), cmdMDADetails})});
+         HBox({Choice01(NAMED(cInstallMDA), "Data A&ccess (MDAC)",
+                        "Lägger in installationsprogrammet MDAC_TYP.EXE, som installerar "
+                        "Microsoft Data Access på mottagarens dator. Omkring 6 MB."),
+               Stretch(), cmdMDADetails})});
 }
 
 Piece DlgImportVB6Project::MakeOptions()

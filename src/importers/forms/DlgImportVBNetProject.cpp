@@ -15,7 +15,7 @@ DlgImportVBNetProject::DlgImportVBNetProject(const ImportDesk& desk, QWidget* pa
         Desk().forms.showTestNETFramework(this);
         ShowNetTest();
     });
-    Arrange(Down({
+    Arrange(VBox({
         Note("För projekt från Visual Studio .NET 2002 och 2003."),
         Frame(
             "Projekt",
@@ -29,7 +29,7 @@ DlgImportVBNetProject::DlgImportVBNetProject(const ImportDesk& desk, QWidget* pa
               {Choice01(NAMED(cUseDepFile), "Följ &DEP-filer för ActiveX",
                         "Adderar även de filer som DEP-filerna i systemkatalogen anger för de "
                         "ActiveX-filer (.ocx) som projektet refererar till.")}),
-        Frame(".NET Framework", {Across({Growing(labNETtestStatus), CmdTestNETFramework})}),
+        Frame(".NET Framework", {HBox({Growing(labNETtestStatus), CmdTestNETFramework})}),
         Stretch(),
         Progress(),
         Buttons(),

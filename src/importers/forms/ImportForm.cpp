@@ -11,7 +11,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLettersOfAPath = 40;
+constexpr int kPathCharacters = 40;
 
 constexpr const char* kClose = "S&täng";
 constexpr const char* kStop = "S&toppa";
@@ -28,7 +28,7 @@ Piece ImportForm::PathRow(PathLabel*& label, const char* name, QPushButton*& but
 {
     Named(label, name, new PathLabel);
     Button(button, buttonName, caption, std::move(select));
-    return Across({Growing(RoomFor(kLettersOfAPath, label)), button});
+    return HBox({Growing(MinWidth(kPathCharacters, label)), button});
 }
 
 QCheckBox* ImportForm::Choice01(QCheckBox*& member, const char* name, const Text& caption,
@@ -49,7 +49,7 @@ Piece ImportForm::Progress()
     policy.setRetainSizeWhenHidden(true);
     pbImport->setSizePolicy(policy);
     pbImport->hide();
-    return Across({Growing(sImportStatus), Growing(pbImport)});
+    return HBox({Growing(sImportStatus), Growing(pbImport)});
 }
 
 Piece ImportForm::Buttons()
@@ -57,7 +57,7 @@ Piece ImportForm::Buttons()
     Button(NAMED(cmdImport), "&Importera", [this] { StartImport(); });
     Button(NAMED(cmdClose), kClose, [this] { reject(); });
     cmdImport->setDefault(true);
-    return Across({Stretch(), cmdImport, cmdClose});
+    return HBox({Stretch(), cmdImport, cmdClose});
 }
 
 Text ImportForm::LastFolder() const
@@ -171,7 +171,7 @@ bool ImportForm::ShowStep(const Text& step)
     sImportStatus->setText(ToQt(step));
     // Once the dialog is gone nothing keeps the user from the list that is being filled.
     if (isVisible())
-        desk_.session.ask.YieldToEvents();
+        desk_.session.ask.ProcessEvents();
     return !isStopWanted_;
 }
 

@@ -14,8 +14,8 @@ namespace {
 
 // How often all of a picture may be gone through: a file of a few bytes can ask for any number of
 // scans of a large picture.
-constexpr int kMostScans = 100;
-constexpr std::int64_t kMostScannedPixels = 1'500'000'000;
+constexpr int kMaxScans = 100;
+constexpr std::int64_t kMaxScannedPixels = 1'500'000'000;
 
 struct Decoding {
     jpeg_decompress_struct jpeg;
@@ -45,7 +45,7 @@ void LimitScans(j_common_ptr common)
     const jpeg_decompress_struct& jpeg = DecodingOf(common).jpeg;
     const int scans = jpeg.input_scan_number;
     const std::int64_t pixels = std::int64_t{jpeg.image_width} * jpeg.image_height;
-    if (scans > kMostScans || (scans > 1 && scans * pixels > kMostScannedPixels))
+    if (scans > kMaxScans || (scans > 1 && scans * pixels > kMaxScannedPixels))
         Fail(common);
 }
 

@@ -20,7 +20,7 @@ LockResult TakeLock(const Descriptor& file, LockWait wait)
     return errno == EWOULDBLOCK ? LockResult::Busy : LockResult::NoLocks;
 }
 
-bool StandsAt(const Descriptor& file, const std::string& hostPath)
+bool IsFileAt(const Descriptor& file, const std::string& hostPath)
 {
     struct stat own {};
     struct stat there {};
@@ -53,7 +53,7 @@ PosixFileLock::PosixFileLock(Descriptor file, std::string hostPath)
 
 PosixFileLock::~PosixFileLock()
 {
-    if (StandsAt(file_, hostPath_))
+    if (IsFileAt(file_, hostPath_))
         unlink(hostPath_.c_str());
 }
 

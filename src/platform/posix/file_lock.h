@@ -15,7 +15,7 @@ enum class LockResult { Taken, Busy, NoLocks };
 LockResult TakeLock(const Descriptor& file, LockWait wait);
 
 /// Whether the open file is still the one that the path names.
-bool StandsAt(const Descriptor& file, const std::string& hostPath);
+bool IsFileAt(const Descriptor& file, const std::string& hostPath);
 
 /// Opens the file, which is made where it is missing; a link is not followed. A descriptor that is
 /// not open leaves the reason in errno.

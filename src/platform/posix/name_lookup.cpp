@@ -11,7 +11,7 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t kMostKeptNames = 300000;
+constexpr std::size_t kMaxCachedNames = 300000;
 constexpr std::int64_t kMillisecond = 1000000;
 constexpr std::int64_t kSecond = 1000 * kMillisecond;
 
@@ -40,8 +40,8 @@ timespec Now()
 
 bool Exists(const std::string& path)
 {
-    struct stat facts {};
-    return lstat(path.c_str(), &facts) == 0;
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0;
 }
 
 std::string FolderOf(const std::string& path)
@@ -86,10 +86,10 @@ bool NameLookup::Listing::IsFresh() const
 
 std::optional<NameLookup::Stamp> NameLookup::StampOf(const std::string& folder)
 {
-    struct stat facts {};
-    if (stat(folder.empty() ? "/" : folder.c_str(), &facts) != 0 || !S_ISDIR(facts.st_mode))
+    struct stat status {};
+    if (stat(folder.empty() ? "/" : folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
         return std::nullopt;
-    return Stamp{facts.st_dev, facts.st_ino, facts.st_mtim, facts.st_ctim};
+    return Stamp{status.st_dev, status.st_ino, status.st_mtim, status.st_ctim};
 }
 
 bool NameLookup::IsStillGood(const Listing& listing, const Stamp& now)
@@ -121,7 +121,7 @@ std::optional<std::string> NameLookup::Find(const std::string& folder, std::stri
     const std::lock_guard lock(mutex_);
     auto kept = listings_.find(folder);
     if (kept == listings_.end() || !IsStillGood(kept->second, *stamp)) {
-        if (keptNames_ > kMostKeptNames) {
+        if (keptNames_ > kMaxCachedNames) {
             listings_.clear();
             keptNames_ = 0;
         }

@@ -1,8 +1,8 @@
 #include "platform/posix/posix_files.h"
 
-#include "platform/posix/disk_facts.h"
-#include "platform/posix/file_facts.h"
+#include "platform/posix/disk_info.h"
 #include "platform/posix/file_lock.h"
+#include "platform/posix/file_status.h"
 #include "platform/posix/open_file.h"
 #include "platform/posix/posix_error.h"
 
@@ -30,14 +30,14 @@ std::string FolderOf(const std::string& hostPath)
 
 bool IsFolder(const std::string& hostPath)
 {
-    struct stat facts {};
-    return stat(hostPath.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
+    struct stat status {};
+    return stat(hostPath.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 // A pipe, a socket or a device has nothing that could be packed, and reading one may never end.
-bool IsFileOrFolder(const struct stat& facts)
+bool IsFileOrFolder(const struct stat& status)
 {
-    return S_ISREG(facts.st_mode) || S_ISDIR(facts.st_mode);
+    return S_ISREG(status.st_mode) || S_ISDIR(status.st_mode);
 }
 
 [[noreturn]] void Fail(const Text& path, const std::string& hostPath, Doing doing)
@@ -57,19 +57,19 @@ std::string HostPath(const DriveMap& drives, const Text& path)
 
 struct stat StatOf(const Text& path, const std::string& hostPath)
 {
-    struct stat facts {};
-    if (stat(hostPath.c_str(), &facts) != 0)
+    struct stat status {};
+    if (stat(hostPath.c_str(), &status) != 0)
         Fail(path, hostPath, Doing::Reading);
-    return facts;
+    return status;
 }
 
 // A file whose owner may not write it has what Windows calls the read-only attribute. It must hold
 // for an administrator too, whom the system itself would not stop.
 void RefuseReadOnly(const Text& path, const std::string& hostPath)
 {
-    struct stat facts {};
-    const bool exists = stat(hostPath.c_str(), &facts) == 0;
-    if (exists && S_ISREG(facts.st_mode) && (facts.st_mode & S_IWUSR) == 0)
+    struct stat status {};
+    const bool exists = stat(hostPath.c_str(), &status) == 0;
+    if (exists && S_ISREG(status.st_mode) && (status.st_mode & S_IWUSR) == 0)
         throw RunError(ErrorNumber::kPathFileAccess, path);
 }
 
@@ -79,10 +79,10 @@ Descriptor OpenToRead(const Text& path, const std::string& hostPath)
     Descriptor file(open(hostPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.IsOpen())
         Fail(path, hostPath, Doing::Reading);
-    struct stat facts {};
-    if (fstat(file.Number(), &facts) != 0)
+    struct stat status {};
+    if (fstat(file.Number(), &status) != 0)
         Fail(path, hostPath, Doing::Reading);
-    if (!S_ISREG(facts.st_mode))
+    if (!S_ISREG(status.st_mode))
         throw RunError(ErrorNumber::kPathFileAccess, path);
     return file;
 }
@@ -131,8 +131,8 @@ void CopyBytes(InputFile& from, OutputFile& to)
 bool PosixFiles::FileExists(const Text& path) const
 {
     const auto hostPath = drives_.ToHost(path);
-    struct stat facts {};
-    return hostPath && stat(hostPath->c_str(), &facts) == 0 && S_ISREG(facts.st_mode);
+    struct stat status {};
+    return hostPath && stat(hostPath->c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 bool PosixFiles::DirExists(const Text& path) const
@@ -141,12 +141,12 @@ bool PosixFiles::DirExists(const Text& path) const
     return hostPath && IsFolder(*hostPath);
 }
 
-FileFacts PosixFiles::Facts(const Text& path) const
+FileStatus PosixFiles::Status(const Text& path) const
 {
-    const struct stat facts = StatOf(path, HostPath(drives_, path));
-    if (!IsFileOrFolder(facts))
+    const struct stat status = StatOf(path, HostPath(drives_, path));
+    if (!IsFileOrFolder(status))
         throw RunError(ErrorNumber::kPathFileAccess, path);
-    return FactsOf(facts);
+    return StatusOf(status);
 }
 
 std::vector<FolderEntry> PosixFiles::List(const Text& folder) const
@@ -159,14 +159,14 @@ std::vector<FolderEntry> PosixFiles::List(const Text& folder) const
     std::vector<FolderEntry> entries;
     while (const dirent* entry = readdir(listing.get())) {
         const std::string name = entry->d_name;
-        struct stat facts {};
+        struct stat status {};
         // A link that leads nowhere is listed all the same, so that its loss shows when it is read.
         const bool found =
-            fstatat(dirfd(listing.get()), name.c_str(), &facts, 0) == 0 ||
-            fstatat(dirfd(listing.get()), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0;
-        const bool isOne = found && (IsFileOrFolder(facts) || S_ISLNK(facts.st_mode));
+            fstatat(dirfd(listing.get()), name.c_str(), &status, 0) == 0 ||
+            fstatat(dirfd(listing.get()), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
+        const bool isOne = found && (IsFileOrFolder(status) || S_ISLNK(status.st_mode));
         if (isOne && name != "." && name != "..")
-            entries.push_back({name, FactsOf(facts)});
+            entries.push_back({name, StatusOf(status)});
     }
     std::sort(entries.begin(), entries.end(),
               [](const FolderEntry& a, const FolderEntry& b) { return a.name < b.name; });
@@ -177,10 +177,10 @@ std::unique_ptr<InputFile> PosixFiles::OpenInput(const Text& path) const
 {
     const std::string hostPath = HostPath(drives_, path);
     Descriptor file = OpenToRead(path, hostPath);
-    struct stat facts {};
-    if (fstat(file.Number(), &facts) != 0)
+    struct stat status {};
+    if (fstat(file.Number(), &status) != 0)
         Fail(path, hostPath, Doing::Reading);
-    return std::make_unique<PosixInputFile>(std::move(file), std::uint64_t(facts.st_size), path);
+    return std::make_unique<PosixInputFile>(std::move(file), std::uint64_t(status.st_size), path);
 }
 
 std::unique_ptr<OutputFile> PosixFiles::OpenOutput(const Text& path)
@@ -205,7 +205,7 @@ std::unique_ptr<OutputFile> PosixFiles::OpenNew(const Text& path)
         Fail(path, hostPath, Doing::Writing);
     drives_.Names().NoteCreated(hostPath);
     // Between its making and its lock, another program can take the file for an abandoned one.
-    if (TakeLock(file, LockWait::None) == LockResult::Busy || !StandsAt(file, hostPath))
+    if (TakeLock(file, LockWait::None) == LockResult::Busy || !IsFileAt(file, hostPath))
         return nullptr;
     return std::make_unique<PosixOutputFile>(std::move(file), path, PosixOutputFile::Held::Yes);
 }
@@ -217,7 +217,7 @@ void PosixFiles::RemoveAbandoned(const Text& path)
         return;
     const Descriptor file(open(hostPath->c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (file.IsOpen() && TakeLock(file, LockWait::None) == LockResult::Taken &&
-        StandsAt(file, *hostPath) && unlink(hostPath->c_str()) == 0)
+        IsFileAt(file, *hostPath) && unlink(hostPath->c_str()) == 0)
         drives_.Names().NoteRemoved(*hostPath);
 }
 
@@ -231,7 +231,7 @@ std::unique_ptr<FileLock> PosixFiles::Lock(const Text& path, LockWait wait)
         if (TakeLock(file, wait) == LockResult::Busy)
             return nullptr;
         // The one who had it has removed the file: a lock on that is worth nothing.
-        if (StandsAt(file, hostPath))
+        if (IsFileAt(file, hostPath))
             return std::make_unique<PosixFileLock>(std::move(file), hostPath);
     }
 }
@@ -257,11 +257,11 @@ void PosixFiles::CopyContent(const Text& from, const Text& to)
 {
     const std::string source = HostPath(drives_, from);
     const std::string target = HostPath(drives_, to);
-    const struct stat facts = StatOf(from, source);
+    const struct stat status = StatOf(from, source);
     struct stat old {};
     const bool isReplaced = stat(target.c_str(), &old) == 0;
     // Emptying the target first would empty the source.
-    if (isReplaced && old.st_dev == facts.st_dev && old.st_ino == facts.st_ino)
+    if (isReplaced && old.st_dev == status.st_dev && old.st_ino == status.st_ino)
         throw RunError(ErrorNumber::kPermissionDenied, to);
 
     const auto input = OpenInput(from);
@@ -277,7 +277,7 @@ void PosixFiles::CopyContent(const Text& from, const Text& to)
         }
         throw;
     }
-    const std::array<timespec, 2> times{facts.st_atim, facts.st_mtim};
+    const std::array<timespec, 2> times{status.st_atim, status.st_mtim};
     if (utimensat(AT_FDCWD, target.c_str(), times.data(), 0) != 0)
         Fail(to, target, Doing::Writing);
 }
@@ -406,7 +406,7 @@ DriveKind PosixFiles::DriveType(const Text& root) const
 Text PosixFiles::GetVolumeName(const Text& root) const
 {
     const auto hostPath = drives_.ToHost(root);
-    return hostPath ? FirstCharacters(LabelOfDisk(*hostPath), kLongestVolumeName) : Text();
+    return hostPath ? FirstCharacters(LabelOfDisk(*hostPath), kMaxVolumeNameLength) : Text();
 }
 
 } // namespace quillon

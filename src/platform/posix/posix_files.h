@@ -12,7 +12,7 @@ public:
 
     bool FileExists(const Text& path) const override;
     bool DirExists(const Text& path) const override;
-    FileFacts Facts(const Text& path) const override;
+    FileStatus Status(const Text& path) const override;
     std::vector<FolderEntry> List(const Text& folder) const override;
 
     std::unique_ptr<InputFile> OpenInput(const Text& path) const override;

@@ -2,7 +2,7 @@
 
 #include "helpers/windows_path.h"
 #include "platform/missing_program.h"
-#include "platform/posix/file_facts.h"
+#include "platform/posix/file_status.h"
 #include "platform/posix/start_program.h"
 #include "platform/posix/text_editor.h"
 #include "platform/run_error.h"
@@ -18,8 +18,8 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t kLongestFolder = 260;
-constexpr std::size_t kLongestOwner = 256;
+constexpr std::size_t kMaxFolderLength = 260;
+constexpr std::size_t kMaxOwnerLength = 256;
 
 constexpr const char* kWindows = "C:\\Windows";
 constexpr const char* kSystem = "C:\\Windows\\System32";
@@ -63,10 +63,10 @@ PosixMachine::PosixMachine(const MachineSettings& settings, const DriveMap& driv
         files.DirCreate(kOwnDocuments);
 }
 
-Text PosixMachine::IfThere(const Text& path) const
+Text PosixMachine::IfExists(const Text& path) const
 {
     const bool isThere = drives_.IsMappedFolder(path) || files_.DirExists(path);
-    return isThere ? FirstCharacters(path, kLongestFolder) : Text();
+    return isThere ? FirstCharacters(path, kMaxFolderLength) : Text();
 }
 
 Text PosixMachine::UserFolder() const
@@ -76,38 +76,38 @@ Text PosixMachine::UserFolder() const
 
 Text PosixMachine::GetWindowsDir() const
 {
-    return IfThere(kWindows);
+    return IfExists(kWindows);
 }
 
 Text PosixMachine::GetSystemDir() const
 {
-    return IfThere(kSystem);
+    return IfExists(kSystem);
 }
 
 Text PosixMachine::GetProgramFilesDir() const
 {
-    return IfThere(kProgramFiles);
+    return IfExists(kProgramFiles);
 }
 
 Text PosixMachine::GetMyDocumentsDir() const
 {
-    const Text ofUser = user_.empty() ? Text() : IfThere(JoinPath(UserFolder(), "Documents"));
-    return ofUser.empty() ? IfThere(kOwnDocuments) : ofUser;
+    const Text ofUser = user_.empty() ? Text() : IfExists(JoinPath(UserFolder(), "Documents"));
+    return ofUser.empty() ? IfExists(kOwnDocuments) : ofUser;
 }
 
 Text PosixMachine::GetSysAppDataDirectory() const
 {
-    return IfThere(JoinPath(UserFolder(), "AppData\\Roaming"));
+    return IfExists(JoinPath(UserFolder(), "AppData\\Roaming"));
 }
 
 Text PosixMachine::GetSysLocalAppDataDirectory() const
 {
-    return IfThere(JoinPath(UserFolder(), "AppData\\Local"));
+    return IfExists(JoinPath(UserFolder(), "AppData\\Local"));
 }
 
 Text PosixMachine::GetSysTemplatesDirectory() const
 {
-    return IfThere(JoinPath(UserFolder(), "AppData\\Roaming\\Microsoft\\Windows\\Templates"));
+    return IfExists(JoinPath(UserFolder(), "AppData\\Roaming\\Microsoft\\Windows\\Templates"));
 }
 
 Text PosixMachine::GetTempDir() const
@@ -133,10 +133,10 @@ RegisteredOwner PosixMachine::GetWindowsRegisteredOwner() const
                             "Software\\Microsoft\\Windows\\CurrentVersion"})
         if (const auto owner = registry_.Read(kRoot, key, "RegisteredOwner"))
             return {
-                FirstCharacters(*owner, kLongestOwner),
+                FirstCharacters(*owner, kMaxOwnerLength),
                 FirstCharacters(registry_.Read(kRoot, key, "RegisteredOrganization").value_or(""),
-                                kLongestOwner)};
-    return {FirstCharacters(fullName_, kLongestOwner), ""};
+                                kMaxOwnerLength)};
+    return {FirstCharacters(fullName_, kMaxOwnerLength), ""};
 }
 
 char PosixMachine::DecimalSign() const
@@ -172,7 +172,7 @@ std::uint32_t PosixMachine::Random(std::uint32_t below)
 
 std::string PosixMachine::Existing(const Text& path) const
 {
-    files_.Facts(path); // throws where nothing stands
+    files_.Status(path); // throws where nothing stands
     return *drives_.ToHost(path);
 }
 

@@ -43,7 +43,7 @@ public:
 
 private:
     /// The path where it is a folder, else empty.
-    Text IfThere(const Text& path) const;
+    Text IfExists(const Text& path) const;
     Text UserFolder() const;
     std::string Existing(const Text& path) const;
 

@@ -17,12 +17,12 @@ constexpr std::string_view kFirstLines[] = {"REGEDIT4", "Windows Registry Editor
 /// Exports come in UTF-16, the old kind in the code page; a file written here by hand is UTF-8.
 Text Decode(std::string_view bytes)
 {
-    constexpr std::string_view kUtf16Mark = "\xFF\xFE";
-    constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-    if (bytes.substr(0, kUtf16Mark.size()) == kUtf16Mark)
-        return FromUtf16(bytes.substr(kUtf16Mark.size()));
-    if (bytes.substr(0, kUtf8Mark.size()) == kUtf8Mark)
-        return Text(bytes.substr(kUtf8Mark.size()));
+    constexpr std::string_view kUtf16Bom = "\xFF\xFE";
+    constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
+    if (bytes.substr(0, kUtf16Bom.size()) == kUtf16Bom)
+        return FromUtf16(bytes.substr(kUtf16Bom.size()));
+    if (bytes.substr(0, kUtf8Bom.size()) == kUtf8Bom)
+        return Text(bytes.substr(kUtf8Bom.size()));
     return IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes);
 }
 

@@ -8,12 +8,12 @@ namespace quillon {
 
 namespace {
 
-struct Ending {
+struct TerminatingSignal {
     int signal;
     const char* line;
 };
 
-constexpr Ending kEndings[] = {
+constexpr TerminatingSignal kTerminatingSignals[] = {
     {SIGHUP, "Avbrutet: terminalen stängdes (SIGHUP).\n"},
     {SIGINT, "Avbrutet från tangentbordet (SIGINT).\n"},
     {SIGTERM, "Avbrutet av ett annat program (SIGTERM).\n"},
@@ -21,37 +21,37 @@ constexpr Ending kEndings[] = {
 };
 
 // Calls only what may be called from a handler. The signal has its old effect again by now.
-void TellAndEnd(int signal)
+void ReportAndRaise(int signal)
 {
-    for (const Ending& ending : kEndings)
-        if (ending.signal == signal) {
+    for (const TerminatingSignal& entry : kTerminatingSignals)
+        if (entry.signal == signal) {
             // Nobody is left to hear of a failure.
             [[maybe_unused]] const ssize_t count =
-                write(STDERR_FILENO, ending.line, std::strlen(ending.line));
+                write(STDERR_FILENO, entry.line, std::strlen(entry.line));
         }
     raise(signal);
 }
 
 // Unlike a signal that is ignored, one with a handler has its usual effect on programs that this
 // one starts.
-void LetTheWriteFail(int) {}
+void IgnoreSignal(int) {}
 
 } // namespace
 
-void TellOfSignals()
+void InstallSignalHandlers()
 {
     struct sigaction tooLarge {};
-    tooLarge.sa_handler = LetTheWriteFail;
+    tooLarge.sa_handler = IgnoreSignal;
     sigaction(SIGXFSZ, &tooLarge, nullptr);
-    for (const Ending& ending : kEndings) {
+    for (const TerminatingSignal& entry : kTerminatingSignals) {
         struct sigaction before {};
         // What the user has switched off, with nohup, stays off.
-        if (sigaction(ending.signal, nullptr, &before) != 0 || before.sa_handler != SIG_DFL)
+        if (sigaction(entry.signal, nullptr, &before) != 0 || before.sa_handler != SIG_DFL)
             continue;
         struct sigaction handling {};
-        handling.sa_handler = TellAndEnd;
+        handling.sa_handler = ReportAndRaise;
         handling.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER);
-        sigaction(ending.signal, &handling, nullptr);
+        sigaction(entry.signal, &handling, nullptr);
     }
 }
 

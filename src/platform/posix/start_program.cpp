@@ -29,8 +29,8 @@ bool IsBlank(char character)
     if (grandchild == 0)
         execv(arguments[0], arguments);
     const char failed = 1;
-    const ssize_t told = write(failurePipe, &failed, 1);
-    _exit(told == 1 ? 0 : 1);
+    const ssize_t written = write(failurePipe, &failed, 1);
+    _exit(written == 1 ? 0 : 1);
 }
 
 } // namespace

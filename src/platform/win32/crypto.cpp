@@ -22,7 +22,7 @@ constexpr std::size_t kHmacBlock = 64;
 using Digest = std::array<std::byte, kSha1Size>;
 
 // With the arguments used here the system can fail for lack of memory alone.
-void Demand(BOOL succeeded)
+void Require(BOOL succeeded)
 {
     if (!succeeded)
         throw std::bad_alloc();
@@ -32,7 +32,8 @@ class Provider {
 public:
     Provider()
     {
-        Demand(CryptAcquireContextW(&handle_, nullptr, nullptr, PROV_RSA_AES, CRYPT_VERIFYCONTEXT));
+        Require(
+            CryptAcquireContextW(&handle_, nullptr, nullptr, PROV_RSA_AES, CRYPT_VERIFYCONTEXT));
     }
     ~Provider() { CryptReleaseContext(handle_, 0); }
     Provider(const Provider&) = delete;
@@ -129,10 +130,10 @@ AesEncryptor::AesEncryptor(std::span<const std::byte, kAes256KeySize> key)
     blob.head = {PLAINTEXTKEYBLOB, CUR_BLOB_VERSION, 0, CALG_AES_256};
     blob.size = kAes256KeySize;
     std::copy(key.begin(), key.end(), blob.key.begin());
-    Demand(CryptImportKey(state_->provider.Get(), reinterpret_cast<const BYTE*>(&blob), sizeof blob,
-                          0, 0, &state_->key));
+    Require(CryptImportKey(state_->provider.Get(), reinterpret_cast<const BYTE*>(&blob),
+                           sizeof blob, 0, 0, &state_->key));
     DWORD mode = CRYPT_MODE_ECB;
-    Demand(CryptSetKeyParam(state_->key, KP_MODE, reinterpret_cast<const BYTE*>(&mode), 0));
+    Require(CryptSetKeyParam(state_->key, KP_MODE, reinterpret_cast<const BYTE*>(&mode), 0));
 }
 
 AesEncryptor::~AesEncryptor() = default;
@@ -146,8 +147,8 @@ void AesEncryptor::EncryptBlocks(std::span<const std::byte> in, std::span<std::b
         const std::size_t piece = std::min<std::size_t>(out.size(), 1U << 20U);
         auto size = static_cast<DWORD>(piece);
         // Never the last piece, which would be padded.
-        Demand(CryptEncrypt(state_->key, 0, FALSE, 0, reinterpret_cast<BYTE*>(out.data()), &size,
-                            size));
+        Require(CryptEncrypt(state_->key, 0, FALSE, 0, reinterpret_cast<BYTE*>(out.data()), &size,
+                             size));
         out = out.subspan(piece);
     }
 }

@@ -26,13 +26,13 @@ PSECURITY_DESCRIPTOR Descriptor(const wchar_t* text)
     return made ? descriptor : nullptr;
 }
 
-constexpr DWORD kLargestOwner = 1024; // of a descriptor with an owner alone
+constexpr DWORD kMaxOwnerSize = 1024; // of a descriptor with an owner alone
 
 bool ReadOwner(const wchar_t* path, BYTE* descriptor, PSID& owner)
 {
     DWORD size = 0;
     BOOL isDefault = FALSE;
-    return GetFileSecurityW(path, OWNER_SECURITY_INFORMATION, descriptor, kLargestOwner, &size) &&
+    return GetFileSecurityW(path, OWNER_SECURITY_INFORMATION, descriptor, kMaxOwnerSize, &size) &&
            GetSecurityDescriptorOwner(descriptor, &owner, &isDefault);
 }
 
@@ -67,8 +67,8 @@ void LockFileToOthers(const wchar_t* path)
 
 bool HaveSameOwner(const wchar_t* path, const wchar_t* other)
 {
-    alignas(void*) BYTE first[kLargestOwner];
-    alignas(void*) BYTE second[kLargestOwner];
+    alignas(void*) BYTE first[kMaxOwnerSize];
+    alignas(void*) BYTE second[kMaxOwnerSize];
     PSID firstOwner = nullptr;
     PSID secondOwner = nullptr;
     if (!ReadOwner(path, first, firstOwner) || !ReadOwner(other, second, secondOwner))

@@ -10,7 +10,7 @@ namespace quillon {
 namespace {
 
 // One call never moves more, so that its length fits a DWORD and a network drive takes it.
-constexpr std::size_t kMostAtOnce = 1024 * 1024;
+constexpr std::size_t kMaxChunkSize = 1024 * 1024;
 
 OVERLAPPED At(std::uint64_t position)
 {
@@ -46,7 +46,7 @@ std::size_t WinInputFile::Read(std::span<std::byte> buffer)
     std::size_t filled = 0;
     while (filled < buffer.size()) {
         OVERLAPPED place = At(position_);
-        const auto wanted = static_cast<DWORD>(std::min(buffer.size() - filled, kMostAtOnce));
+        const auto wanted = static_cast<DWORD>(std::min(buffer.size() - filled, kMaxChunkSize));
         DWORD count = 0;
         if (!ReadFile(file_.Get(), buffer.data() + filled, wanted, &count, &place) &&
             GetLastError() != ERROR_HANDLE_EOF)
@@ -74,7 +74,7 @@ void WinOutputFile::WriteAt(std::uint64_t position, std::span<const std::byte> b
 {
     while (!bytes.empty()) {
         OVERLAPPED place = At(position);
-        const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMostAtOnce));
+        const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMaxChunkSize));
         DWORD count = 0;
         if (!WriteFile(file_.Get(), bytes.data(), wanted, &count, &place))
             FailAsWindowsSays(path_);

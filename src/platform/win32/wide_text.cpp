@@ -10,7 +10,7 @@ namespace quillon {
 namespace {
 
 // A folder's limit is lower than a file's, since a file of a short name must still fit below it.
-constexpr std::size_t kLongestPlainPath = MAX_PATH - 13;
+constexpr std::size_t kMaxPlainPathLength = MAX_PATH - 13;
 
 } // namespace
 
@@ -39,7 +39,7 @@ std::wstring WidePath(const Text& path)
         throw RunError(ErrorNumber::kBadFileName, path);
     std::wstring wide = Wide(path);
     std::replace(wide.begin(), wide.end(), L'/', L'\\');
-    if (wide.size() < kLongestPlainPath)
+    if (wide.size() < kMaxPlainPathLength)
         return wide;
     if (wide.starts_with(L"\\\\"))
         return L"\\\\?\\UNC" + wide.substr(1);

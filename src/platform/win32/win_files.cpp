@@ -39,7 +39,7 @@ bool Has(DWORD attributes, DWORD attribute)
 
 // The records of FindFirstFile and of GetFileAttributesEx share these members.
 template <class Record>
-FileFacts FactsOf(const Record& record)
+FileStatus StatusOf(const Record& record)
 {
     const DWORD attributes = record.dwFileAttributes;
     const bool isFolder = Has(attributes, FILE_ATTRIBUTE_DIRECTORY);
@@ -97,12 +97,12 @@ bool WinFiles::DirExists(const Text& path) const
     return Has(AttributesOf(path), FILE_ATTRIBUTE_DIRECTORY);
 }
 
-FileFacts WinFiles::Facts(const Text& path) const
+FileStatus WinFiles::Status(const Text& path) const
 {
     WIN32_FILE_ATTRIBUTE_DATA record{};
     if (!GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &record))
         FailAsWindowsSays(path);
-    return FactsOf(record);
+    return StatusOf(record);
 }
 
 std::vector<FolderEntry> WinFiles::List(const Text& folder) const
@@ -121,7 +121,7 @@ std::vector<FolderEntry> WinFiles::List(const Text& folder) const
     do {
         const Text name = Narrow(record.cFileName);
         if (name != "." && name != "..")
-            entries.push_back({name, FactsOf(record)});
+            entries.push_back({name, StatusOf(record)});
     } while (FindNextFileW(search, &record));
     FindClose(search);
     std::sort(entries.begin(), entries.end(),
@@ -275,9 +275,9 @@ Text WinFiles::GetVolumeName(const Text& root) const
 Text WinFiles::ShortPath(const Text& path) const
 {
     const std::wstring wide = WidePath(path);
-    std::wstring shortPath(kLongestPath, L'\0');
-    const DWORD length = GetShortPathNameW(wide.c_str(), shortPath.data(), kLongestPath);
-    return length > 0 && length < kLongestPath ? Narrow(shortPath.substr(0, length)) : path;
+    std::wstring shortPath(kMaxPathLength, L'\0');
+    const DWORD length = GetShortPathNameW(wide.c_str(), shortPath.data(), kMaxPathLength);
+    return length > 0 && length < kMaxPathLength ? Narrow(shortPath.substr(0, length)) : path;
 }
 
 } // namespace quillon

@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t kLongestOwner = 256;
+constexpr std::size_t kMaxOwnerLength = 256;
 constexpr int kSmallFontsDpi = 96;
 
 Text ShellFolder(int id)
@@ -110,9 +110,9 @@ RegisteredOwner WinMachine::GetWindowsRegisteredOwner() const
                              "Software\\Microsoft\\Windows\\CurrentVersion"}) {
         const OpenKey key(RegistryRoot::LocalMachine, name);
         if (const auto owner = key.ReadText("RegisteredOwner"))
-            return {FirstCharacters(*owner, kLongestOwner),
+            return {FirstCharacters(*owner, kMaxOwnerLength),
                     FirstCharacters(key.ReadText("RegisteredOrganization").value_or(""),
-                                    kLongestOwner)};
+                                    kMaxOwnerLength)};
     }
     return {};
 }

@@ -19,14 +19,14 @@ constexpr const char* kCommonLibraries[] = {
     "mpr.dll",     "winmm.dll",       "oleacc.dll",
 };
 
-constexpr UINT kLongestName = 64;
+constexpr UINT kMaxNameLength = 64;
 
 // With a whole path Windows looks for what the library needs beside it, not beside the program.
 HMODULE LoadFromSystemFolder(const char* name)
 {
-    char path[MAX_PATH + kLongestName];
+    char path[MAX_PATH + kMaxNameLength];
     const UINT length = GetSystemDirectoryA(path, MAX_PATH);
-    if (length == 0 || length >= MAX_PATH || lstrlenA(name) >= int(kLongestName) - 1)
+    if (length == 0 || length >= MAX_PATH || lstrlenA(name) >= int(kMaxNameLength) - 1)
         return nullptr;
     lstrcatA(path, "\\");
     lstrcatA(path, name);

@@ -8,18 +8,18 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLongestPath = 1024;
+constexpr int kMaxPathLength = 1024;
 
 bool IsProgram(const wchar_t* path)
 {
-    const wchar_t* const point = wcsrchr(path, L'.');
-    return point != nullptr && lstrcmpiW(point, L".EXE") == 0;
+    const wchar_t* const dot = wcsrchr(path, L'.');
+    return dot != nullptr && lstrcmpiW(dot, L".EXE") == 0;
 }
 
 int RegisterProgram(const wchar_t* path, bool on)
 {
-    wchar_t line[kLongestPath + 32];
-    if (wcslen(path) > kLongestPath)
+    wchar_t line[kMaxPathLength + 32];
+    if (wcslen(path) > kMaxPathLength)
         return kRegistrationFailed;
     lstrcpyW(line, L"\"");
     lstrcatW(line, path);

@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kLongestArguments = 1024; // in characters, as the shell keeps them
+constexpr int kMaxArgumentsLength = 1024; // in characters, as the shell keeps them
 
 // A pointer to a COM object, released with it.
 template <class Interface>
@@ -58,13 +58,13 @@ std::optional<Shortcut> WinTarget::ReadShortcut(const Text& path) const
     ComPointer<IShellLinkW> link;
     ComPointer<IPersistFile> file;
     wchar_t program[MAX_PATH] = {};
-    wchar_t arguments[kLongestArguments] = {};
+    wchar_t arguments[kMaxArgumentsLength] = {};
     const bool isRead = SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER,
                                                    IID_IShellLinkW, link.Out())) &&
                         SUCCEEDED(link->QueryInterface(IID_IPersistFile, file.Out())) &&
                         SUCCEEDED(file->Load(Wide(path).c_str(), STGM_READ)) &&
                         link->GetPath(program, MAX_PATH, nullptr, SLGP_RAWPATH) == S_OK &&
-                        SUCCEEDED(link->GetArguments(arguments, kLongestArguments));
+                        SUCCEEDED(link->GetArguments(arguments, kMaxArgumentsLength));
     if (!isRead)
         return std::nullopt;
     Shortcut shortcut;

@@ -14,7 +14,7 @@ namespace quillon {
 
 namespace {
 
-constexpr DWORD kLongestName = 16384; // of a registry value, in characters
+constexpr DWORD kMaxNameLength = 16384; // of a registry value, in characters
 
 // Windows NT 4.0 tells its service pack by a text such as "Service Pack 6".
 int ServicePack(const OSVERSIONINFOW& version)
@@ -112,9 +112,9 @@ std::vector<Text> WinTarget::ValueNames(const RegistryKey& key) const
 {
     const OpenKey open(key.root, key.subKey);
     std::vector<Text> names;
-    std::wstring name(kLongestName, L'\0');
+    std::wstring name(kMaxNameLength, L'\0');
     for (DWORD i = 0; open.IsOpen(); ++i) {
-        DWORD length = kLongestName;
+        DWORD length = kMaxNameLength;
         if (RegEnumValueW(open.Get(), i, name.data(), &length, nullptr, nullptr, nullptr,
                           nullptr) != ERROR_SUCCESS)
             break;

@@ -132,7 +132,7 @@ void WindowAsk::PumpMessages()
         DispatchTo(window_, message);
 }
 
-void WindowAsk::YieldToEvents()
+void WindowAsk::ProcessEvents()
 {
     PumpMessages();
     if (!cancelPressed_)

@@ -30,7 +30,7 @@ public:
     void ShowBusyPointer(bool) override {}
     void Beep() override;
     /// Throws `SetupFailure` of the code `Cancelled` after the user has cancelled and confirmed it.
-    void YieldToEvents() override;
+    void ProcessEvents() override;
 
 private:
     int ShowBox(const Text& title, const Text& text, UINT kind);

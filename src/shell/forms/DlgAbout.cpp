@@ -18,11 +18,11 @@ DlgAbout::DlgAbout(QWidget* parent) : Form("DlgAbout", "Om " + Text(kProductName
     for (QLabel* label : {lProductName, lVersion})
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    Arrange(Down({
+    Arrange(VBox({
         lProductName,
         lVersion,
-        RoomFor(50, Note("Skapar installationsprogram för Windows: filer, registervärden, "
-                         "INI-filer, genvägar och de sidor som användaren ser.")),
+        MinWidth(50, Note("Skapar installationsprogram för Windows: filer, registervärden, "
+                          "INI-filer, genvägar och de sidor som användaren ser.")),
         Stretch(),
         OkOnly(),
     }));

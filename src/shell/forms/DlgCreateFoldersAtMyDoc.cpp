@@ -25,15 +25,15 @@ DlgCreateFoldersAtMyDoc::DlgCreateFoldersAtMyDoc(Session& session, QWidget* pare
     Button(NAMED(CmdNo), "&Nej", [this] { reject(); });
     CmdYes->setDefault(true);
 
-    Arrange(Down({
+    Arrange(VBox({
         Note("Vill du skapa en katalog för dina projekt? Då öppnas dialogrutorna för att öppna och "
              "spara projekt i den."),
         lFolder,
-        hostFolder.empty() ? Piece(Across({}))
-                           : Down({Note("På den här datorn är det:"),
+        hostFolder.empty() ? Piece(HBox({}))
+                           : VBox({Note("På den här datorn är det:"),
                                    PathInSight(NAMED(lHostFolder), hostFolder)}),
         Stretch(),
-        Across({Stretch(), CmdYes, CmdNo}),
+        HBox({Stretch(), CmdYes, CmdNo}),
     }));
 }
 

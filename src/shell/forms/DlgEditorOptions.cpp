@@ -22,13 +22,13 @@ DlgEditorOptions::DlgEditorOptions(Session& session, QWidget* parent)
     tabOptions->addTab(FileListTab(session), "Fillista");
     tabOptions->addTab(WindowTab(session), "Fönster");
     tabOptions->addTab(CreateTab(session), "Skapa");
-    Arrange(Down({Growing(tabOptions), OkCancel()}));
+    Arrange(VBox({Growing(tabOptions), OkCancel()}));
 }
 
 QWidget* DlgEditorOptions::FileListTab(Session& session)
 {
     ListOptions& options = session.Settings.ListOptions;
-    return Together(Down({
+    return Group(VBox({
         Check(NAMED(cShowAlsoSourcePathInFileList), "Visa även &källkatalog i fillistan",
               options.ShowAlsoSourcePathInFileList),
         Check(NAMED(cFileListShowGridLines), "Visa &rutnät i fillistan",
@@ -42,7 +42,7 @@ QWidget* DlgEditorOptions::FileListTab(Session& session)
 QWidget* DlgEditorOptions::WindowTab(Session& session)
 {
     HideTabs& hide = session.Settings.HideTabs;
-    return Together(Down({
+    return Group(VBox({
         Frame("Dölj flikar",
               {
                   Check(NAMED(cHideRegistry), "&Registry", hide.HideTabRegistry),
@@ -59,7 +59,7 @@ QWidget* DlgEditorOptions::WindowTab(Session& session)
 QWidget* DlgEditorOptions::CreateTab(Session& session)
 {
     CreateOptions& options = session.options;
-    QWidget* tab = Together(Down({
+    QWidget* tab = Group(VBox({
         Check(NAMED(cUpdateSetupDateTime), "Ge setup-programmet dagens &datum och tid",
               options.UpdateSetupExeDateTime),
         Check(NAMED(cPlaceCompressedFilesInFolderSetupFiles),

@@ -22,10 +22,10 @@ DlgVersionInfo::DlgVersionInfo(Session& session, QWidget* parent)
     : EditorForm("DlgVersionInfo", "Versionsinformation", session, parent)
 {
     Version& version = session.project.Version;
-    Arrange(Down({
+    Arrange(VBox({
         Fields({
-            {"&Företagsnamn:", RoomFor(45, Field(NAMED(tVerOrganization), version.CompanyName,
-                                                 Longest(&Version::CompanyName)))},
+            {"&Företagsnamn:", MinWidth(45, Field(NAMED(tVerOrganization), version.CompanyName,
+                                                  Longest(&Version::CompanyName)))},
             {"&Produktnamn:",
              Field(NAMED(tVerProductName), version.ProductName, Longest(&Version::ProductName))},
             {"&Beskrivning:",

@@ -1,4 +1,4 @@
-// The facts about the product that the setup and its version dialogs show.
+// The status about the product that the setup and its version dialogs show.
 #pragma once
 
 #include "ui/Form.h"

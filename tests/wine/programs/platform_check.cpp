@@ -177,23 +177,23 @@ void CheckSaving(Checks& checks, WinFiles& files, const Text& folder)
 
 void CheckFacts(Checks& checks, WinFiles& files, const Text& folder)
 {
-    const Text path = JoinPath(folder, "facts.bin");
+    const Text path = JoinPath(folder, "status.bin");
     WriteWholeFile(files, path, "12345");
     for (const LocalTime& time : {LocalTime{2004, 1, 15, 13, 14, 16}, {2004, 7, 15, 13, 14, 16}}) {
         files.SetModified(path, time);
-        checks.Expect(files.Facts(path).modified == time, "the time of " + DateText(time));
+        checks.Expect(files.Status(path).modified == time, "the time of " + DateText(time));
     }
     files.SetModified(folder, {2003, 5, 6, 7, 8, 10});
-    checks.Expect(files.Facts(folder).modified == LocalTime{2003, 5, 6, 7, 8, 10},
+    checks.Expect(files.Status(folder).modified == LocalTime{2003, 5, 6, 7, 8, 10},
                   "the time of a folder");
     files.SetReadOnly(path, true);
-    checks.Expect(files.Facts(path).isReadOnly && files.Facts(path).size == 5, "read-only");
+    checks.Expect(files.Status(path).isReadOnly && files.Status(path).size == 5, "read-only");
     checks.ExpectFailure(
         ErrorNumber::kPathFileAccess, [&] { files.OpenOutput(path); },
         "writing over a read-only file");
     files.SetReadOnly(path, false);
     files.OpenOutput(path)->Close();
-    checks.Expect(files.Facts(path).size == 0, "an existing file is emptied");
+    checks.Expect(files.Status(path).size == 0, "an existing file is emptied");
 }
 
 void CheckFailures(Checks& checks, WinFiles& files, const Text& folder)
@@ -206,7 +206,7 @@ void CheckFailures(Checks& checks, WinFiles& files, const Text& folder)
     checks.ExpectFailure(
         kPathNotFound, [&] { files.OpenInput(lost); }, "a missing folder");
     checks.ExpectFailure(
-        kFileNotFound, [&] { files.Facts(missing); }, "facts of a missing file");
+        kFileNotFound, [&] { files.Status(missing); }, "status of a missing file");
     checks.ExpectFailure(
         kPathNotFound, [&] { files.OpenOutput(lost); }, "output without folder");
     checks.ExpectFailure(
@@ -235,7 +235,7 @@ void CheckFolders(Checks& checks, WinFiles& files, const Text& folder)
     files.CopyContent(JoinPath(deep, "z.txt"), JoinPath(deep, "A.txt"));
     files.SetModified(JoinPath(deep, "z.txt"), {2001, 2, 3, 4, 5, 6});
     files.CopyContent(JoinPath(deep, "z.txt"), JoinPath(deep, "A.txt"));
-    checks.Expect(files.Facts(JoinPath(deep, "A.txt")).modified == LocalTime{2001, 2, 3, 4, 5, 6},
+    checks.Expect(files.Status(JoinPath(deep, "A.txt")).modified == LocalTime{2001, 2, 3, 4, 5, 6},
                   "a copy keeps its date");
     const auto entries = files.List(deep);
     checks.Expect(entries.size() == 2 && entries[0].name == "A.txt" && entries[1].name == "z.txt",

@@ -1,5 +1,5 @@
 // DUNZIP32.DLL: reads a package's archives for the setup. No exception leaves it.
-#include "formats/zip_reader.h"
+#include "archive/zip_reader.h"
 #include "platform/run_error.h"
 #include "platform/win32/win_files.h"
 #include "runtime/unzip_library.h"

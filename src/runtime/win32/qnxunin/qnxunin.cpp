@@ -43,9 +43,9 @@ public:
 ExitCode RunUninstall(Host& host, Ask& ask, const UninstallerCommand& line,
                       const InstalledProduct& product)
 {
-    TextLog log;
+    ActionLog log;
     if (!line.switches.logFile.empty())
-        log = TextLog(host.files, host.machine, line.switches.logFile, product.texts);
+        log = ActionLog(host.files, host.machine, line.switches.logFile, product.texts);
     // A folder that is the current one of a program can't be removed.
     SetCurrentDirectoryW(Wide(host.machine.GetWindowsDir()).c_str());
     UninstallTarget target;
@@ -60,8 +60,8 @@ ExitCode RunUninstall(Host& host, Ask& ask, const UninstallerCommand& line,
 // Nothing where there is no log that this program believes.
 std::optional<InstalledProduct> FindProduct(const FileSystem& files, const Text& logPath)
 {
-    return LiesBeside(files, logPath, ProgramPath()) ? ReadInstalledProduct(files, logPath)
-                                                     : std::nullopt;
+    return IsInSameFolder(files, logPath, ProgramPath()) ? ReadInstalledProduct(files, logPath)
+                                                         : std::nullopt;
 }
 
 ExitCode RunWithWindow(HINSTANCE instance, Host& host, const UninstallerCommand& line,
@@ -103,10 +103,10 @@ ExitCode RunSilently(Host& host, const UninstallerCommand& line,
 EarlierRun FinishEarlier(Host& host)
 {
     WinTarget target;
-    TextLog log;
+    ActionLog log;
     const Text folder = ProgramFolder();
     const EarlierRun earlier = FinishInterrupted({host, target, log}, folder);
-    if (earlier == EarlierRun::Stuck)
+    if (earlier == EarlierRun::Incomplete)
         throw RunError(ErrorNumber::kPermissionDenied, folder);
     return earlier;
 }

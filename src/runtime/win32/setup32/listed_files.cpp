@@ -7,7 +7,7 @@
 namespace {
 
 // As long as the longest list of files makes it, several times over.
-constexpr DWORD kLargestManifest = 64U * 1024 * 1024;
+constexpr DWORD kMaxManifestSize = 64U * 1024 * 1024;
 
 HANDLE OpenToRead(const wchar_t* path)
 {
@@ -23,7 +23,7 @@ std::string_view WholeFile(const wchar_t* path)
     std::string_view text;
     const DWORD size = GetFileSize(file, nullptr);
     void* const memory =
-        size > 0 && size <= kLargestManifest ? HeapAlloc(GetProcessHeap(), 0, size) : nullptr;
+        size > 0 && size <= kMaxManifestSize ? HeapAlloc(GetProcessHeap(), 0, size) : nullptr;
     DWORD read = 0;
     if (memory != nullptr && ReadFile(file, memory, size, &read, nullptr) && read == size)
         text = {static_cast<const char*>(memory), size};
@@ -59,7 +59,7 @@ ListedFiles::ListedFiles(const wchar_t* path)
 bool ListedFiles::HasLine(const quillon::Sha256Digest& digest, std::string_view name) const
 {
     std::string_view rest = text_;
-    while (const auto line = quillon::TakeManifestLine(rest)) {
+    while (const auto line = quillon::ParseManifestLine(rest)) {
         const bool isMeant = name.empty() || line->name == name;
         if (isMeant && quillon::DigestOfDigits(line->digits) == digest)
             return true;

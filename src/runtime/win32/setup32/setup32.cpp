@@ -14,18 +14,18 @@
 
 namespace {
 
-constexpr int kLongestPath = 32768;
-constexpr int kLongestMessage = 1024;
+constexpr int kMaxPathLength = 32768;
+constexpr int kMaxMessageLength = 1024;
 constexpr DWORD kFailed = 1603;
 
 struct Paths {
-    wchar_t package[kLongestPath];
-    wchar_t work[kLongestPath];
-    wchar_t program[kLongestPath];
-    wchar_t library[kLongestPath];
-    wchar_t scratch[kLongestPath];
-    wchar_t commandLine[kLongestPath];
-    wchar_t message[kLongestMessage];
+    wchar_t package[kMaxPathLength];
+    wchar_t work[kMaxPathLength];
+    wchar_t program[kMaxPathLength];
+    wchar_t library[kMaxPathLength];
+    wchar_t scratch[kMaxPathLength];
+    wchar_t commandLine[kMaxPathLength];
+    wchar_t message[kMaxMessageLength];
     const wchar_t* refused; // the file that the user is told of
     HANDLE lock;
 };
@@ -41,7 +41,7 @@ void Join(wchar_t* to, const wchar_t* folder, const wchar_t* name)
 // The folder of the running program; of a program at a root it keeps the backslash.
 void FindPackageFolder(wchar_t* folder)
 {
-    GetModuleFileNameW(nullptr, folder, kLongestPath);
+    GetModuleFileNameW(nullptr, folder, kMaxPathLength);
     wchar_t* const last = wcsrchr(folder, L'\\');
     if (last != nullptr)
         last[last - folder == 2 ? 1 : 0] = 0;
@@ -59,13 +59,13 @@ char16_t AnsiCharacterOf(unsigned char byte)
 // The whole file; null where there is none or it is too large. HeapFree gives it back.
 char* ReadFileOf(const wchar_t* path, DWORD& size)
 {
-    constexpr DWORD kLargestFile = 16 * 1024 * 1024;
+    constexpr DWORD kMaxFileSize = 16 * 1024 * 1024;
     const HANDLE file =
         CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return nullptr;
     size = GetFileSize(file, nullptr);
-    char* bytes = size > kLargestFile
+    char* bytes = size > kMaxFileSize
                       ? nullptr
                       : static_cast<char*>(HeapAlloc(GetProcessHeap(), 0, size + 1));
     DWORD read = 0;
@@ -86,13 +86,13 @@ void ReadMessage(Paths& paths, const char* key, const wchar_t* otherwise)
     GetPrivateProfileStringW(L"Language", L"LanguageFile", L"SWEDISH.LNG", language, MAX_PATH,
                              paths.scratch);
     Join(paths.scratch, paths.package, language);
-    lstrcpynW(paths.message, otherwise, kLongestMessage);
+    lstrcpynW(paths.message, otherwise, kMaxMessageLength);
     DWORD size = 0;
     char* const bytes = ReadFileOf(paths.scratch, size);
     if (bytes == nullptr)
         return;
-    char16_t text[kLongestMessage];
-    if (quillon::FindStarterText({bytes, size}, key, AnsiCharacterOf, text, kLongestMessage))
+    char16_t text[kMaxMessageLength];
+    if (quillon::FindStarterText({bytes, size}, key, AnsiCharacterOf, text, kMaxMessageLength))
         for (int i = 0; i == 0 || text[i - 1] != 0; ++i)
             paths.message[i] = text[i];
     HeapFree(GetProcessHeap(), 0, bytes);
@@ -106,7 +106,7 @@ int Refuse(Paths& paths, bool silent)
                 L"Installationen kan inte startas. Filen '%1' saknas eller \u00E4r skadad.");
     wchar_t* const mark = wcsstr(paths.message, L"%1");
     lstrcpynW(paths.scratch, paths.message,
-              mark == nullptr ? kLongestMessage : static_cast<int>(mark - paths.message) + 1);
+              mark == nullptr ? kMaxMessageLength : static_cast<int>(mark - paths.message) + 1);
     if (mark != nullptr) {
         lstrcatW(paths.scratch, paths.refused);
         lstrcatW(paths.scratch, mark + 2);
@@ -147,7 +147,7 @@ bool TakeLock(Paths& paths)
 // A folder that did not exist before, so that nobody has laid anything into it.
 bool MakeWorkFolder(Paths& paths)
 {
-    GetTempPathW(kLongestPath, paths.scratch);
+    GetTempPathW(kMaxPathLength, paths.scratch);
     for (DWORD n = GetTickCount(), last = n + 1000; n != last; ++n) {
         wchar_t name[32];
         wsprintfW(name, L"QN%lu.TMP", n);
@@ -174,7 +174,7 @@ bool CopyRuntime(Paths& paths)
 {
     Join(paths.scratch, paths.package, L"PACKAGE.SHA256");
     const ListedFiles listed(paths.scratch);
-    GetModuleFileNameW(nullptr, paths.scratch, kLongestPath);
+    GetModuleFileNameW(nullptr, paths.scratch, kMaxPathLength);
     paths.refused = wcsrchr(paths.scratch, L'\\') + 1;
     if (listed.AreKnown() && !listed.Hold(paths.scratch)) {
         lstrcpyW(paths.commandLine, paths.refused);
@@ -192,7 +192,7 @@ bool CopyRuntime(Paths& paths)
 
 DWORD RunSetup(Paths& paths, const wchar_t* switches, HWND waitWindow, bool& started)
 {
-    if (wcslen(paths.program) + wcslen(paths.package) + wcslen(switches) + 64 > kLongestPath)
+    if (wcslen(paths.program) + wcslen(paths.package) + wcslen(switches) + 64 > kMaxPathLength)
         return kFailed;
     lstrcpyW(paths.commandLine, L"\"");
     lstrcatW(paths.commandLine, paths.program);
@@ -232,7 +232,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR switches, int)
     Paths& paths = *memory;
     paths.refused = L"QNS32X.BIN";
     FindPackageFolder(paths.package);
-    const bool silent = quillon::AsksForSilence(switches);
+    const bool silent = quillon::HasSilentSwitch(switches);
     const HWND waitWindow = silent ? nullptr : ShowWaitWindow(paths);
     if (!MakeWorkFolder(paths))
         return Refuse(paths, silent);

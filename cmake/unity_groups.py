@@ -1,0 +1,68 @@
+#!/usr/bin/env python3
+"""Sorts the sources of a target into groups that compile as one piece each (a unity build).
+
+    unity_groups.py MAX_LINES SOURCE...
+
+Prints "<group>;<source>" for each source that shares a piece with others. Two sources share a piece
+only where neither mentions a name that the other keeps to itself (in an unnamed namespace, as a
+static, as a macro), so that no name ever has to be chosen with a look at other files.
+"""
+import re
+import sys
+
+COMMENT_OR_TEXT = re.compile(r'//[^\n]*|/\*.*?\*/|R"\((.*?)\)"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'', re.S)
+WORD = re.compile(r"[A-Za-z_]\w*")
+TYPE = re.compile(r"^(?:struct|class|enum class|enum|union) (\w+)")
+MACRO = re.compile(r"^#define (\w+)")
+DECLARED = re.compile(r"([A-Za-z_]\w*)\s*(?:\[[^\]]*\]\s*)*$")
+
+
+def own_names(text):
+    """What a source declares for itself alone. Namespaces are not indented here."""
+    names, is_unnamed = set(), False
+    for line in text.splitlines():
+        if match := MACRO.match(line):
+            names.add(match[1])
+        if line.startswith("namespace"):
+            is_unnamed = line.startswith("namespace {")
+        # Tests name their classes after the test, which no other test has.
+        if not (is_unnamed or line.startswith("static ")) or not re.match(r"[A-Za-z_]", line):
+            continue
+        if line.startswith(("using namespace", "template", "namespace", "TEST", "INSTANTIATE_")):
+            continue
+        if match := TYPE.match(line):
+            names.add(match[1])
+        elif match := re.match(r"using (?:.*::)?(\w+)", line):
+            names.add(match[1])
+        elif match := DECLARED.search(re.split(r"[(={;]", line, maxsplit=1)[0].rstrip()):
+            names.add(match[1])
+    return names
+
+
+def main():
+    limit = int(sys.argv[1])
+    groups = []
+    for path in sorted(sys.argv[2:]):
+        with open(path, encoding="utf-8") as file:
+            raw = file.read()
+        text = COMMENT_OR_TEXT.sub(" ", raw)
+        mentioned = set(WORD.findall(text))
+        own = own_names(text)
+        lines = raw.count("\n")
+        for group in groups:
+            if group["lines"] + lines <= limit and not own & group["mentioned"] and not mentioned & group["own"]:
+                break
+        else:
+            group = {"lines": 0, "own": set(), "mentioned": set(), "paths": []}
+            groups.append(group)
+        group["lines"] += lines
+        group["own"] |= own
+        group["mentioned"] |= mentioned
+        group["paths"].append(path)
+    for number, group in enumerate(groups):
+        if len(group["paths"]) > 1:
+            for path in group["paths"]:
+                print(f"{number};{path}")
+
+
+main()

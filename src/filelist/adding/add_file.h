@@ -1,0 +1,71 @@
+// How a file on disk becomes a row of the file list: the one way in for the user's commands and the
+// importers alike.
+#pragma once
+
+#include "filelist/adding/duplicates.h"
+#include "filelist/adding/refused_file.h"
+#include "filelist/view/sort.h"
+#include "platform/ask.h"
+#include "platform/host.h"
+#include "project/file_list.h"
+
+#include <optional>
+
+namespace quillon {
+
+/// What `AddFileToFileList` is told, under the names of the tool.
+struct FileToAdd {
+    Text FileName;
+    Text SourcePath;
+    Text Destination;
+    Text ComponentNr;
+    bool CheckDuplicates = false;
+    bool ShowDuplicateMessage = false;
+    bool UseVersionRules = false; // look into programs and libraries for a version
+    bool TrapErrors = false;      // a failure ends in a box instead of a RunError
+    // What a listing of its folder told of the file, whatever path it is reached by.
+    std::optional<FileStatus> Listed = {};
+};
+
+/// One command's additions to a file list. While it lives, new rows stand at the end of the list
+/// and nobody else may sort or shorten it; `Finish`, or its end, brings a sorted list into order
+/// again. So a command that adds thousands of rows sorts once.
+class FileAdding {
+public:
+    FileAdding(FileList& files, Host host, Ask& ask);
+    ~FileAdding();
+    FileAdding(const FileAdding&) = delete;
+    FileAdding& operator=(const FileAdding&) = delete;
+
+    /// The number of the new row, which is what a caller selects; nothing where the file was
+    /// refused or failed. Kept: a file that fails once its row is made leaves the row as far as it
+    /// was filled.
+    std::optional<std::size_t> AddFileToFileList(const FileToAdd& file);
+
+    /// Takes a file from the Windows system folder; always without duplicate test, its failures
+    /// always told in a box.
+    std::optional<std::size_t> AddSystemFileToFileList(const Text& fileName, bool isRuntimeFile);
+
+    /// Where each row stands now, by its number so far. No row may be added afterwards.
+    NewPlaces Finish();
+
+private:
+    std::optional<std::size_t> AddOrRefuse(const FileToAdd& file);
+    std::optional<std::size_t> AddSystemFile(const Text& fileName, bool isRuntimeFile);
+    bool IsGuardedHere(const Text& fileName, const Text& sourcePath) const;
+    bool IsRefusedAsDuplicate(const FileToAdd& file);
+    bool IsRefused(const std::optional<Refusal>& refusal);
+    void FillFromDisk(FileListRow& row, const FileStatus& status, const Text& path) const;
+    template <class Fill>
+    std::size_t AppendRow(FileListRow row, Fill fill);
+    std::size_t Append(FileListRow row);
+
+    FileList& files_;
+    Host host_;
+    Ask& ask_;
+    // Made by the first test, since an importer may add without one.
+    std::optional<DuplicateIndex> duplicates_;
+    bool finished_ = false;
+};
+
+} // namespace quillon

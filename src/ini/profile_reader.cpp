@@ -1,0 +1,124 @@
+#include "ini/profile_reader.h"
+
+#include "helpers/ansi_text.h"
+#include "platform/run_error.h"
+#include "platform/whole_file.h"
+
+#include <limits>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kMaxLimit = 5000;
+constexpr int kMaxLongLimit = 16384;
+constexpr const char* kLimitTooLarge = "Overflow!!!";
+
+template <class Number>
+Number Fitting(std::int64_t number)
+{
+    if (number < std::numeric_limits<Number>::min() || number > std::numeric_limits<Number>::max())
+        throw RunError(ErrorNumber::kOverflow);
+    return static_cast<Number>(number);
+}
+
+std::string ReadableBytes(const FileSystem& files, const Text& path)
+{
+    try {
+        return ReadWholeFile(files, path);
+    } catch (const RunError&) {
+        // The profile functions know no failure: a file that can't be read has no keys, and whoever
+        // needs one of them says so in words of its own.
+        return {};
+    }
+}
+
+} // namespace
+
+void ProfileReader::SetIniFile(const FileSystem& files, const Text& path)
+{
+    SetIniBytes(ReadableBytes(files, path));
+}
+
+void ProfileReader::SetIniBytes(std::string bytes)
+{
+    bytes_ = std::move(bytes);
+    sections_ = ProfileSections(bytes_);
+    keysOfSections_.clear();
+    SelectKeys();
+}
+
+void ProfileReader::SetIniSection(const Text& name)
+{
+    section_ = FoldedName(AnsiText::ToBytes(name));
+    SelectKeys();
+}
+
+Text ProfileReader::ReadIniString(const Text& key, int limit) const
+{
+    return limit > kMaxLimit ? kLimitTooLarge : ReadText(key, limit);
+}
+
+Text ProfileReader::ReadIniLongString(const Text& key, int limit) const
+{
+    return limit > kMaxLongLimit ? kLimitTooLarge : ReadText(key, limit);
+}
+
+Integer ProfileReader::ReadIniIntegerDefault(const Text& key, Integer whenMissing) const
+{
+    const auto value = Find(key);
+    return value ? Fitting<Integer>(LeadingNumber(*value)) : whenMissing;
+}
+
+Long ProfileReader::ReadIniLong(const Text& key) const
+{
+    return Fitting<Long>(LeadingNumber(Find(key).value_or("")));
+}
+
+Flag ProfileReader::ReadFlag(const Text& key, Flag whenMissing) const
+{
+    const auto value = Find(key);
+    if (!value)
+        return whenMissing;
+    return LeadingNumber(*value) == 1 ? kOn : kOff;
+}
+
+Text ProfileReader::ReadText(const Text& key, int limit) const
+{
+    const std::string_view value = Find(key).value_or("");
+    const auto longest = static_cast<std::size_t>(limit > 0 ? limit - 1 : 0);
+    const std::string_view fitting = value.substr(0, longest);
+    return AnsiText::FromBytes(fitting.substr(0, fitting.find('\0')));
+}
+
+std::optional<std::string_view> ProfileReader::Find(const Text& key) const
+{
+    if (!keys_)
+        return std::nullopt;
+    const auto found = keys_->find(FoldedName(AnsiText::ToBytes(key)));
+    return found == keys_->end() ? std::nullopt : std::optional(BareValue(found->second));
+}
+
+void ProfileReader::SelectKeys()
+{
+    auto known = keysOfSections_.find(section_);
+    if (known == keysOfSections_.end())
+        if (const auto range = sections_.Find(section_))
+            known = keysOfSections_.emplace(section_, KeysIn(*range)).first;
+    keys_ = known == keysOfSections_.end() ? nullptr : &known->second;
+}
+
+ProfileReader::Keys ProfileReader::KeysIn(ProfileSections::Range range) const
+{
+    Keys keys;
+    for (std::size_t position = range.begin; position < range.end;) {
+        const ProfileLine line = ProfileLineAt(bytes_, position);
+        position = line.next;
+        if (const auto entry = EntryOfLine(line.text))
+            keys.try_emplace(FoldedName(entry->key), entry->value);
+    }
+    return keys;
+}
+
+} // namespace quillon

@@ -1,0 +1,16 @@
+// Formatted text written as RTF that word processors and the setup's rich text control read alike.
+#pragma once
+
+#include "rtf/rtf_text.h"
+
+namespace quillon {
+
+/// The text as the bytes of a file, ASCII only: letters beyond stand as \u with a fallback for
+/// readers without Unicode. Reading it back gives the same text.
+std::string WriteRtf(const RtfText& text);
+
+/// What in the bytes of an RTF file `ReadRtf` passes over and a save would lose, in words for the
+/// user such as "bilder"; empty where there is nothing.
+std::vector<Text> RtfLosses(std::string_view bytes);
+
+} // namespace quillon

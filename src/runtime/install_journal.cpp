@@ -1,0 +1,107 @@
+#include "runtime/install_journal.h"
+
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+#include "platform/whole_file.h"
+#include "runtime/journal_table.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kFirstLine = "Quillon installationslogg 2";
+constexpr const char* kFirstLineOfFormat1 = "Quillon installationslogg 1";
+
+// Format 1 kept an INI file's former value without the line that it stood in.
+void MakeLineOfValue(JournalRecord& record)
+{
+    if (auto* const ini = std::get_if<record::IniValue>(&record); ini && ini->formerLine)
+        ini->formerLine = ini->name + "=" + *ini->formerLine;
+}
+
+template <class... Kinds>
+bool IsOneOf(const JournalRecord& record)
+{
+    return (std::holds_alternative<Kinds>(record) || ...);
+}
+
+bool IsOfInstalledFile(const JournalRecord& record)
+{
+    return IsOneOf<record::File, record::Replaced, record::Backup, record::Shared, record::IniFile,
+                   record::IniOpenEnd, record::IniSection, record::IniValue>(record);
+}
+
+} // namespace
+
+std::optional<std::vector<JournalRecord>> ReadInstallJournal(std::string_view bytes)
+{
+    if (auto records = ReadJournal(bytes, kFirstLine))
+        return records;
+    auto records = ReadJournal(bytes, kFirstLineOfFormat1);
+    if (records)
+        for (JournalRecord& record : *records)
+            MakeLineOfValue(record);
+    return records;
+}
+
+std::vector<Text> InstallJournalsIn(const FileSystem& files, const Text& mainFolder)
+{
+    std::vector<Text> logs;
+    if (!files.DirExists(mainFolder))
+        return logs;
+    for (const FolderEntry& entry : files.List(mainFolder)) {
+        const Text name = UpperCase(entry.name);
+        if (name.starts_with("QNXUNIN") && ExtensionFromFirstDot(name) == "LOG")
+            logs.push_back(JoinPath(mainFolder, entry.name));
+    }
+    return logs;
+}
+
+std::optional<Text> ProductOfJournal(const FileSystem& files, const Text& path)
+{
+    const auto records = ReadInstallJournal(ReadWholeFile(files, path));
+    for (const JournalRecord& record : records.value_or(std::vector<JournalRecord>{}))
+        if (const auto* const product = std::get_if<record::Product>(&record))
+            return product->name;
+    return std::nullopt;
+}
+
+void InstallJournal::Save(FileSystem& files, const Text& path) const
+{
+    Text bytes = kFirstLine + Text(kLineBreak);
+    for (const JournalRecord& record : records_)
+        bytes += JournalLine(record) + Text(kLineBreak);
+    WriteWholeFile(files, path, bytes);
+}
+
+void InstallJournal::Add(JournalRecord record)
+{
+    NotePlace(record);
+    index_.insert(IndexOf(record));
+    records_.push_back(std::move(record));
+}
+
+void InstallJournal::TakeOver(std::vector<JournalRecord> earlier)
+{
+    for (const JournalRecord& record : earlier)
+        index_.insert(IndexOf(record));
+    records_.insert(records_.begin(), std::make_move_iterator(earlier.begin()),
+                    std::make_move_iterator(earlier.end()));
+}
+
+// Each folder that something is put into is named once, since the uninstaller goes into no other.
+void InstallJournal::NotePlace(const JournalRecord& record)
+{
+    if (!IsOfInstalledFile(record))
+        return;
+    const Text folder = ExtractDirectory(SubjectOf(record));
+    if (!Has<record::Folder>(folder) && !Has<record::Place>(folder))
+        Add(record::Place{folder});
+}
+
+Text InstallJournal::IndexOf(const JournalRecord& record)
+{
+    return NumberText(std::int64_t(record.index())) + " " + LowerCase(SubjectOf(record));
+}
+
+} // namespace quillon

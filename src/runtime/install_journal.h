@@ -1,0 +1,48 @@
+// The record of an installation, from which the uninstaller removes what was installed and nothing
+// else: a file of journal lines beside the product, in UTF-8. It is written whole at the end of an
+// installation; until then the transaction's own journal tells what has been done.
+#pragma once
+
+#include "platform/file_system.h"
+#include "runtime/journal_records.h"
+
+#include <unordered_set>
+#include <vector>
+
+namespace quillon {
+
+/// The records of a log file from its bytes, of this format or of the first; nothing where it is no
+/// such log. A last line that broke off in the middle is left out.
+std::optional<std::vector<JournalRecord>> ReadInstallJournal(std::string_view bytes);
+
+/// The logs of all products that share a main folder.
+std::vector<Text> InstallJournalsIn(const FileSystem& files, const Text& mainFolder);
+
+/// The product that a log file is of; nothing where the file is no log.
+std::optional<Text> ProductOfJournal(const FileSystem& files, const Text& path);
+
+class InstallJournal {
+public:
+    void Save(FileSystem& files, const Text& path) const;
+
+    void Add(JournalRecord record);
+    /// Whether there is a record of that kind with this path, ignoring case, of this or of an
+    /// earlier installation.
+    template <class Record>
+    bool Has(std::string_view path) const
+    {
+        return index_.count(IndexOf(Record{Text(path)})) > 0;
+    }
+    const std::vector<JournalRecord>& Records() const { return records_; }
+    /// They stand before all others.
+    void TakeOver(std::vector<JournalRecord> earlier);
+
+private:
+    void NotePlace(const JournalRecord& record);
+    static Text IndexOf(const JournalRecord& record);
+
+    std::vector<JournalRecord> records_;
+    std::unordered_set<Text> index_; // kinds and subjects, in lower case
+};
+
+} // namespace quillon

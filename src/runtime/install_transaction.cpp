@@ -1,0 +1,215 @@
+#include "runtime/install_transaction.h"
+
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+
+namespace quillon {
+
+namespace {
+
+// The first free name for a second copy of the file; there are seldom more than a few.
+Text BackupPath(const FileSystem& files, const Text& path)
+{
+    Text backup = path + ".bak";
+    for (int n = 2; files.FileExists(backup) || files.DirExists(backup); ++n)
+        backup = path + ".bak" + NumberText(n);
+    return backup;
+}
+
+} // namespace
+
+InstallTransaction::InstallTransaction(Host& host, Target& target, InstallJournal& record,
+                                       ActionLog& log)
+    : host_(host), target_(target), record_(record), log_(log), transaction_(host, target)
+{
+}
+
+void InstallTransaction::Begin(const Text& mainFolder, const Text& product)
+{
+    transaction_.Begin(mainFolder, product);
+}
+
+void InstallTransaction::MakeFolder(const Text& folder)
+{
+    if (folder.empty() || host_.files.DirExists(folder))
+        return;
+    // A folder that is its own parent is a root, and a missing root is a missing drive.
+    const Text parent = ExtractDirectory(folder);
+    if (parent.empty() || parent == folder)
+        throw RunError(ErrorNumber::kPathNotFound, folder);
+    MakeFolder(parent);
+    record_.Add(record::Folder{folder});
+    transaction_.Note(record::Folder{folder});
+    if (!host_.files.DirCreate(folder))
+        throw RunError(ErrorNumber::kPathFileAccess, folder);
+    log_.Line(Message::LogMakesFolder, folder);
+}
+
+Text InstallTransaction::StagingPath(const Text& path)
+{
+    return transaction_.TempPath(ExtractDirectory(path));
+}
+
+void InstallTransaction::MoveAside(const Text& path)
+{
+    // Behind the file itself on the way back.
+    if (record_.Has<record::Registered>(path))
+        transaction_.Note(record::RegisteredBefore{path});
+    if (record_.Has<record::Font>(path))
+        transaction_.Note(record::AnnouncedBefore{path});
+    const Text aside = StagingPath(path);
+    transaction_.Note(record::MovedAside{path, aside});
+    host_.files.Rename(path, aside);
+    movedAside_.insert(LowerCase(path));
+}
+
+// What stands at the place from now on is ours. Where a former file is aside, its coming back is
+// all that has to be done.
+void InstallTransaction::NoteNewFile(const Text& path)
+{
+    if (movedAside_.count(LowerCase(path)) == 0)
+        transaction_.Note(record::File{path});
+}
+
+void InstallTransaction::RecordFile(const Text& path, bool existed)
+{
+    if (existed)
+        record_.Add(record::Replaced{path});
+    else
+        record_.Add(record::File{path});
+}
+
+void InstallTransaction::PutFile(const NewFile& file)
+{
+    try {
+        if (file.replaces)
+            MoveAside(file.path);
+        NoteNewFile(file.path);
+        host_.files.Rename(file.staged, file.path);
+    } catch (const RunError& error) {
+        throw RunError(error.Number(), file.path);
+    }
+    if (file.recorded == Recorded::Yes)
+        RecordFile(file.path, file.replaces);
+}
+
+void InstallTransaction::PutFileAtRestart(const NewFile& file)
+{
+    if (file.recorded == Recorded::Yes)
+        RecordFile(file.path, true);
+    const record::AtRestart move{file.staged, file.path};
+    record_.Add(move);
+    transaction_.Note(move);
+    atRestart_.push_back(move);
+}
+
+void InstallTransaction::KeepBackup(const Text& path)
+{
+    const Text backup = BackupPath(host_.files, path);
+    record_.Add(record::Backup{path, backup});
+    transaction_.Note(record::File{backup});
+    host_.files.CopyContent(path, backup);
+    log_.Line(Message::LogBacksUp, path, backup);
+}
+
+void InstallTransaction::RemoveFile(const Text& path)
+{
+    MoveAside(path);
+}
+
+void InstallTransaction::MakeKey(const RegistryKey& key)
+{
+    if (target_.KeyExists(key))
+        return;
+    if (const Text parent = ExtractDirectory(key.subKey); !parent.empty())
+        MakeKey({key.root, parent});
+    record_.Add(record::Key{key});
+    transaction_.Note(record::Key{key});
+    target_.MakeKey(key);
+}
+
+void InstallTransaction::WriteValue(const RegistryKey& key, const Text& name,
+                                    const RegistryData& data, Recorded recorded)
+{
+    MakeKey(key);
+    const auto former = target_.ReadValue(key, name);
+    if (recorded == Recorded::Yes)
+        record_.Add(record::Value{key, name, data, former});
+    transaction_.Note(record::FormerValue{key, name, former});
+    target_.WriteValue(key, name, data);
+}
+
+void InstallTransaction::RemoveValue(const RegistryKey& key, const Text& name)
+{
+    const auto former = target_.ReadValue(key, name);
+    if (!former)
+        return;
+    transaction_.Note(record::FormerValue{key, name, former});
+    target_.RemoveValue(key, name);
+}
+
+void InstallTransaction::RemoveKeyWithAllBelow(const RegistryKey& key)
+{
+    if (!target_.KeyExists(key))
+        return;
+    for (const Text& name : target_.SubKeys(key))
+        RemoveKeyWithAllBelow({key.root, key.subKey + "\\" + name});
+    for (const Text& name : target_.ValueNames(key))
+        RemoveValue(key, name);
+    transaction_.Note(record::RemovedKey{key});
+    target_.RemoveKey(key);
+}
+
+void InstallTransaction::MakeShortcut(const Text& path, const Shortcut& shortcut)
+{
+    MakeFolder(ExtractDirectory(path));
+    const bool existed = host_.files.FileExists(path);
+    RecordFile(path, existed);
+    if (existed)
+        MoveAside(path);
+    NoteNewFile(path);
+    target_.MakeShortcut(path, shortcut);
+    log_.Line(Message::LogMakesShortcut, path);
+}
+
+Registration InstallTransaction::RegisterServer(const Text& path)
+{
+    record_.Add(record::Registered{path});
+    transaction_.Note(record::Registered{path});
+    return target_.RegisterServer(path, true);
+}
+
+void InstallTransaction::AnnounceFont(const Text& path)
+{
+    record_.Add(record::Font{path});
+    transaction_.Note(record::Font{path});
+    target_.AnnounceFont(path, true);
+}
+
+void InstallTransaction::Commit()
+{
+    for (const record::AtRestart& move : atRestart_)
+        target_.MoveAtRestart(move.from, move.to);
+    transaction_.Commit();
+}
+
+void InstallTransaction::CleanUp()
+{
+    quillon::CleanUp({host_, target_, log_}, transaction_.Steps());
+    std::optional<RunError> failure;
+    RunErrorNumber([&] { transaction_.End(); }, failure);
+    if (failure)
+        log_.CannotRemove(failure->Path(), *failure);
+}
+
+bool InstallTransaction::Undo()
+{
+    const bool whole = quillon::Undo({host_, target_, log_}, transaction_.Steps());
+    if (whole && RunErrorNumber([&] { transaction_.End(); }) == ErrorNumber::kNone)
+        return true;
+    transaction_.Leave();
+    return false;
+}
+
+} // namespace quillon

@@ -1,0 +1,158 @@
+#include "design/forms/DlgDesRTFbox.h"
+
+#include "rtf/rtf_text.h"
+#include "support/window_test.h"
+#include "ui/ColourButton.h"
+
+namespace quillon::test {
+namespace {
+
+class DlgDesRTFboxTest : public WindowTest {
+protected:
+    DlgDesRTFboxTest()
+    {
+        session.surface.width = 1600;
+        session.surface.height = 1200;
+    }
+
+    section::DesRTFbox& box = session.project.DesRTFbox;
+};
+
+TEST_F(DlgDesRTFboxTest, ProposesTheProjectsName)
+{
+    session.state.ProjectFileName = "C:\\P\\Demo.qnp";
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(TextIn(form, "tRTFfilename"), "Demo.rtf");
+}
+
+TEST_F(DlgDesRTFboxTest, SavesAnUnsavedProjectsTextAsRtfRtf)
+{
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(TextIn(form, "tRTFfilename"), "rtf");
+    Click(form, "cmdOK");
+    EXPECT_EQ(box.RTFfilename, "rtf.rtf");
+    EXPECT_TRUE(machine.files.FileExists("C:\\Quillon\\rtf\\rtf.rtf"));
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(DlgDesRTFboxTest, FormatsTheSelection)
+{
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    TypeKeys(*form.RTFbox, "Hej på dig Ωμέγα");
+    form.RTFbox->selectAll();
+    Click(form, "cmdBold");
+    Click(form, "cmdItalic");
+    Click(form, "cmdUnderline");
+    ask.fonts = {FontChoice{.name = "Courier New",
+                            .size = 18,
+                            .isBold = true,
+                            .isUnderlined = true,
+                            .isStruckOut = true,
+                            .colour = 0x0000FF}};
+    Click(form, "cmdRTFfont");
+    EXPECT_TRUE(ask.shownFonts.front().isItalic);
+    EXPECT_EQ(ask.shownFonts.front().isUnderlined, true);
+    Click(form, "cShowRTFbox");
+    SavePicture(form, "DlgDesRTFbox");
+    SaveDarkPicture(form, "DlgDesRTFbox");
+    Type(form, "tRTFfilename", "Text");
+    Click(form, "cmdOK");
+    EXPECT_EQ(box.RTFfilename, "Text.rtf");
+    EXPECT_EQ(box.ShowRTFbox, kOn);
+    const auto text = ReadRtf(machine.files.Get("C:\\Quillon\\rtf\\Text.rtf"));
+    ASSERT_TRUE(text);
+    ASSERT_EQ(text->paragraphs.size(), 1U);
+    ASSERT_EQ(text->paragraphs[0].runs.size(), 1U);
+    const RtfRun& run = text->paragraphs[0].runs[0];
+    EXPECT_EQ(run.text, "Hej på dig Ωμέγα");
+    EXPECT_EQ(text->fonts[static_cast<std::size_t>(run.style.font)].name, "Courier New");
+    EXPECT_EQ(run.style.halfPoints, 36);
+    EXPECT_TRUE(run.style.isBold && run.style.isUnderlined && run.style.isStruckOut);
+    EXPECT_FALSE(run.style.isItalic);
+    EXPECT_EQ(run.style.foreground, 0x0000FF);
+}
+
+TEST_F(DlgDesRTFboxTest, UndoesAndRedoes)
+{
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    EXPECT_FALSE(form.cmdUndo->isEnabled());
+    TypeKeys(*form.RTFbox, "abc");
+    EXPECT_TRUE(form.cmdUndo->isEnabled());
+    Click(form, "cmdUndo");
+    EXPECT_NE(form.RTFbox->toPlainText(), "abc");
+    Click(form, "cmdRedo");
+    EXPECT_EQ(form.RTFbox->toPlainText(), "abc");
+}
+
+TEST_F(DlgDesRTFboxTest, LoadsTheFileAndTellsWhatItCantShow)
+{
+    box.RTFfilename = "a.rtf";
+    machine.files.Put("C:\\Quillon\\rtf\\a.rtf",
+                      "{\\rtf1\\ansi Hej {\\b d\\'e5}{\\pict\\wmetafile8 00}}");
+    ask.Expect({BoxKind::Warn, "RTF-ruta",
+                "Filen 'C:\\Quillon\\rtf\\a.rtf' innehåller bilder, som inte kan visas i rutan. De "
+                "försvinner ur filen om du trycker på 'OK'."});
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.RTFbox->toPlainText(), "Hej då");
+    EXPECT_FALSE(form.cmdUndo->isEnabled());
+    Click(form, "cmdCancel");
+    EXPECT_NE(machine.files.Get("C:\\Quillon\\rtf\\a.rtf").find("\\pict"), std::string::npos);
+}
+
+TEST_F(DlgDesRTFboxTest, TellsOfAFileThatIsMissing)
+{
+    box.RTFfilename = "borta.rtf";
+    ask.Expect({BoxKind::Critical, "Fel"});
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.RTFbox->toPlainText(), "");
+}
+
+TEST_F(DlgDesRTFboxTest, WantsAFileName)
+{
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    Type(form, "tRTFfilename", "");
+    ask.Expect({BoxKind::Inform, "Filnamn saknas"});
+    Click(form, "cmdOK");
+    EXPECT_TRUE(form.isVisible());
+    Type(form, "tRTFfilename", "..\\x");
+    ask.Expect({BoxKind::Critical, "Felaktigt filnamn"});
+    Click(form, "cmdOK");
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(DlgDesRTFboxTest, StaysOpenWhereTheTextCantBeSaved)
+{
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    TypeKeys(*form.RTFbox, "abc");
+    machine.files.FailFromWrite(1, 61);
+    ask.Expect({BoxKind::Critical, "Fel"});
+    Click(form, "cmdOK");
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(box.RTFfilename, "");
+}
+
+TEST_F(DlgDesRTFboxTest, CorrectsItsSize)
+{
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    ask.colours = {0x00FFFF};
+    Click(form, "cmdSetBackColor");
+    Type(form, "tWidth", "99");
+    Type(form, "tHeight", "1001");
+    Click(form, "cmdOK");
+    EXPECT_EQ(box.RTFboxWidth, 100);
+    EXPECT_EQ(box.RTFboxHeight, 1000);
+    EXPECT_EQ(box.RTFboxBackColor, 0x00FFFF);
+}
+
+} // namespace
+} // namespace quillon::test

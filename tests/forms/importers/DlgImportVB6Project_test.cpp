@@ -1,0 +1,182 @@
+#include "importers/forms/DlgImportVB6Project.h"
+
+#include "import_form_test.h"
+#include "ui/PathLabel.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+namespace {
+
+using testing::ElementsAre;
+
+class DlgImportVB6ProjectTest : public ImportFormTest {
+protected:
+    DlgImportVB6ProjectTest()
+    {
+        machine.machine.registry[{RegistryRoot::ClassesRoot,
+                                  "VisualBasic.Project\\shell\\open\\command", ""}] =
+            "\"C:\\VB\\VB6.EXE\" \"%1\"";
+    }
+};
+
+TEST_F(DlgImportVB6ProjectTest, OpensWithItsDefaults)
+{
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.sVBPfile->text(), "");
+    EXPECT_EQ(form.sEXEfile->text(), "");
+    EXPECT_EQ(TextIn(form, "tVBDirectory"), "C:\\VB");
+    for (const QCheckBox* box : {form.cImportDAO35, form.cImportDAO36, form.cImportADO,
+                                 form.cImportRDO, form.cInstallMDA, form.cImportActiveXSysFiles})
+        EXPECT_FALSE(box->isChecked()) << FromQt(box->objectName());
+    EXPECT_TRUE(form.cUseDepFile->isChecked());
+    EXPECT_TRUE(form.cAddIcon->isChecked());
+}
+
+TEST_F(DlgImportVB6ProjectTest, ScansTheProjectThatIsChosen)
+{
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    Click(form, "cImportDAO36");
+    Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
+    EXPECT_EQ(form.sVBPfile->text(), "C:\\Proj\\Kund.vbp");
+    EXPECT_TRUE(form.cImportActiveXSysFiles->isChecked());
+    EXPECT_TRUE(form.cImportDAO36->isChecked()) << "what was ticked stays";
+    EXPECT_EQ(ask.questions[0].title, "Välj Visual Basic projekt");
+    EXPECT_EQ(ask.questions[0].filter, "Visual Basic projekt (*.vbp)|*.vbp");
+    EXPECT_EQ(ask.questions[0].fileName, "*.vbp");
+    EXPECT_EQ(ask.questions[0].folder, session.ProjectsFolder);
+    EXPECT_EQ(lastFolder, "C:\\Proj");
+    Choose(form, "cmdSelectVBP", "");
+    EXPECT_EQ(ask.questions[1].folder, "C:\\Proj");
+    EXPECT_EQ(form.sVBPfile->text(), "C:\\Proj\\Kund.vbp") << "a cancelled choice changes nothing";
+}
+
+TEST_F(DlgImportVB6ProjectTest, AsksForTheProgram)
+{
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectEXE", "C:\\Proj\\Kund.exe");
+    EXPECT_EQ(form.sEXEfile->text(), "C:\\Proj\\Kund.exe");
+    EXPECT_EQ(ask.questions[0].title, "Välj programfil");
+    EXPECT_EQ(ask.questions[0].filter, "Programfiler (*.exe)|*.exe");
+    EXPECT_EQ(ask.questions[0].fileName, "*.exe");
+}
+
+TEST_F(DlgImportVB6ProjectTest, ImportsAndCloses)
+{
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
+    Choose(form, "cmdSelectEXE", "C:\\Proj\\Kund.exe");
+    Expect(BoxKind::Inform, "Importen är klar");
+    Click(form, "cmdImport");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(session.project.Files.rows.size(), 10U);
+    EXPECT_THAT(captions, ElementsAre("Välj destinationskatalog för Kund.exe",
+                                      "Skriv in ikon-uppgifter för Kund.exe"));
+    EXPECT_THAT(window.calls, ElementsAre("status", "status"));
+    ASSERT_TRUE(form.Result());
+    EXPECT_EQ(form.Result()->places.size(), 10U);
+}
+
+TEST_F(DlgImportVB6ProjectTest, HandsOverWhatIsTicked)
+{
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectEXE", "C:\\Proj\\Kund.exe");
+    Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
+    for (const char* const box : {"cImportADO", "cImportActiveXSysFiles", "cAddIcon"})
+        Click(form, box);
+    Expect(BoxKind::YesNo, "Microsoft Data Access");
+    Expect(BoxKind::Critical, "Fel"); // the package that was asked for is not there
+    Expect(BoxKind::Inform, "Importen är klar");
+    Click(form, "cmdImport");
+    EXPECT_THAT(captions, ElementsAre("Välj destinationskatalog för Kund.exe"));
+    EXPECT_EQ(session.project.Files.rows.size(), 12U) << "the walk ticks MFC again";
+}
+
+TEST_F(DlgImportVB6ProjectTest, StaysOpenWhereACheckRefuses)
+{
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    Expect(BoxKind::Inform, "Info");
+    Click(form, "cmdImport");
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_TRUE(form.cmdSelectVBP->isEnabled());
+    EXPECT_EQ(form.cmdClose->text(), "S&täng");
+    EXPECT_FALSE(form.Result());
+}
+
+TEST_F(DlgImportVB6ProjectTest, StopsInTheMidstOfAnImport)
+{
+    class StoppingAsk : public ScriptedAsk {
+    public:
+        using ScriptedAsk::ScriptedAsk;
+        void ProcessEvents() override
+        {
+            if (++yields == 3)
+                onThird();
+        }
+        std::function<void()> onThird;
+        int yields = 0;
+    };
+    StoppingAsk user{{{BoxKind::Inform, "Importen är avbruten"}}};
+    Session other = NewSession(machine.host, user, "C:\\Quillon");
+    const ImportDesk desk{other, window, Desk().forms, lastFolder};
+    DlgImportVB6Project form(desk, nullptr);
+    ShowActive(form);
+    user.choices = {{{"C:\\Proj\\Kund.vbp"}}, {{"C:\\Proj\\Kund.exe"}}};
+    Click(form, "cmdSelectVBP");
+    Click(form, "cmdSelectEXE");
+    user.onThird = [&] {
+        EXPECT_EQ(form.cmdClose->text(), "S&toppa");
+        EXPECT_FALSE(form.cmdImport->isEnabled());
+        EXPECT_EQ(form.sImportStatus->text(), "Adderar OLEPRO32.dll");
+        Click(form, "cmdClose");
+        EXPECT_TRUE(form.isVisible());
+    };
+    Click(form, "cmdImport");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(other.project.Files.rows.size(), 2U) << "what was added so far stays";
+    ASSERT_TRUE(form.Result());
+    EXPECT_EQ(form.Result()->end, ImportEnd::Stopped);
+}
+
+TEST_F(DlgImportVB6ProjectTest, OpensTheDetailsOfThePackage)
+{
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    Click(form, "cmdMDADetails");
+    EXPECT_THAT(captions, ElementsAre("MDA"));
+}
+
+TEST_F(DlgImportVB6ProjectTest, ShowsTheListAnewBehindAnImportAlone)
+{
+    OnNextDialog([](QDialog& form) { Click(form, "cmdClose"); });
+    ShowImportVB6Project(Desk(), nullptr);
+    EXPECT_TRUE(window.calls.empty());
+    ask.choices = {{{"C:\\Proj\\Kund.vbp"}}, {{"C:\\Proj\\Kund.exe"}}};
+    Expect(BoxKind::Inform, "Importen är klar");
+    OnNextDialog([](QDialog& form) {
+        Click(form, "cmdSelectVBP");
+        Click(form, "cmdSelectEXE");
+        Click(form, "cmdImport");
+    });
+    ShowImportVB6Project(Desk(), nullptr);
+    EXPECT_THAT(window.calls, ElementsAre("status", "status", "list"));
+}
+
+TEST_F(DlgImportVB6ProjectTest, LooksRight)
+{
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
+    QApplication::processEvents();
+    SavePicture(form, "DlgImportVB6Project");
+    SaveDarkPicture(form, "DlgImportVB6Project");
+}
+
+} // namespace
+} // namespace quillon::test
