@@ -5,8 +5,7 @@
 #include "app/command_line.h"
 #include "app/window_place.h"
 #include "helpers/product.h"
-#include "platform/posix/posix_host.h"
-#include "platform/posix/signals.h"
+#include "platform/this_host.h"
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
 #include "shell/projects_folder.h"
 #include "shell/start.h"
@@ -18,7 +17,7 @@ namespace {
 
 using namespace quillon;
 
-HostPaths PathsOf(const PosixHost& machine)
+HostPaths PathsOf(const ThisHost& machine)
 {
     return {.toHost = [&](const Text& path) { return machine.drives.ToHost(path); },
             .toWindows = [&](const std::string& path) { return machine.drives.ToWindows(path); }};
@@ -46,7 +45,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("quillon");
     PrepareAppearance(application);
 
-    PosixHost machine;
+    ThisHost machine;
     const HostPaths paths = PathsOf(machine);
     const auto project =
         ProjectOfCommandLine({argv + 1, static_cast<std::size_t>(std::max(argc, 1) - 1)}, paths);

@@ -3,6 +3,7 @@
 #include "helpers/product.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace quillon::cli {
 
@@ -51,6 +52,7 @@ public:
                 read_.operands.push_back(word);
         }
         CheckOperands();
+        CheckRequired();
         return std::move(read_);
     }
 
@@ -101,6 +103,14 @@ private:
             throw UsageError{"'" + read_.operands[wanted.size()] + "' är en uppgift för mycket."};
     }
 
+    void CheckRequired() const
+    {
+        for (const Option& option : read_.call->options)
+            if (option.need == Need::Required && !read_.Has(option.name))
+                throw UsageError{Text("Kommandot ") + read_.call->name + " saknar växeln " +
+                                 option.name + "."};
+    }
+
     const std::vector<std::string>& args_;
     std::span<const Call> calls_;
     std::size_t next_ = 0;
@@ -118,10 +128,29 @@ void AddHelpLine(Text& help, Text left, const char* right)
 
 } // namespace
 
+bool Arguments::Declares(std::string_view option) const
+{
+    return std::ranges::any_of(call->options,
+                               [&](const Option& declared) { return declared.name == option; });
+}
+
+bool Arguments::Has(const std::string& option) const
+{
+    if (!Declares(option))
+        throw std::logic_error(Text(call->name) + " does not declare " + option);
+    return options.count(option) > 0;
+}
+
 std::optional<std::string> Arguments::Value(const std::string& option) const
 {
-    const auto found = options.find(option);
-    return found == options.end() ? std::nullopt : std::optional(found->second);
+    return Has(option) ? std::optional(options.at(option)) : std::nullopt;
+}
+
+const std::string& Arguments::Required(const std::string& option) const
+{
+    if (!Has(option))
+        throw std::logic_error(Text(call->name) + " does not require " + option);
+    return options.at(option);
 }
 
 Arguments ReadArguments(const std::vector<std::string>& args, std::span<const Call> calls)
@@ -136,7 +165,13 @@ Text HelpText(std::span<const Call> calls)
         help += "\nquillonc " + Text(call.name);
         for (const char* operand : call.operands)
             help += Text(" ") + operand;
-        help += Text(call.options.empty() ? "" : " [växlar]") + "\n  " + call.help + "\n";
+        bool hasOptional = false;
+        for (const Option& option : call.options)
+            if (option.need == Need::Required)
+                help += Text(" ") + option.name + (option.value ? Text(" ") + option.value : "");
+            else
+                hasOptional = true;
+        help += Text(hasOptional ? " [växlar]" : "") + "\n  " + call.help + "\n";
         for (const Option& option : call.options) {
             const Text value = option.words ? option.words : option.value ? option.value : "";
             AddHelpLine(help, Text("    ") + option.name + (value.empty() ? "" : " " + value),

@@ -23,12 +23,15 @@ enum class Exit {
     Unreadable = 3, // a file that can't be read, or is none of ours
 };
 
+enum class Need { Optional, Required };
+
 struct Option {
     const char* name;  // with its dashes
     const char* value; // what stands behind it; null for a switch
     const char* help;
     // The words that the value may be, between bars; null where it is free.
     const char* words = nullptr;
+    Need need = Need::Optional;
 };
 
 struct Call {
@@ -45,8 +48,13 @@ struct Arguments {
     std::vector<std::string> operands;
     std::map<std::string, std::string> options; // a switch has an empty value
 
-    bool Has(const std::string& option) const { return options.count(option) > 0; }
+    /// Whether the row of the call has this option.
+    bool Declares(std::string_view option) const;
+    // A call asks for options of its own row only; any other one throws `std::logic_error`.
+    bool Has(const std::string& option) const;
     std::optional<std::string> Value(const std::string& option) const;
+    /// The value of a required option.
+    const std::string& Required(const std::string& option) const;
 };
 
 /// What the user got wrong, in a line.

@@ -34,11 +34,7 @@ Text CallContext::Path(const std::string& argument) const
 
 std::string CallContext::RequireValue(const char* option) const
 {
-    auto value = arguments.Value(option);
-    if (!value)
-        throw UsageError{Text("Kommandot ") + arguments.call->name + " saknar växeln " + option +
-                         "."};
-    return *std::move(value);
+    return arguments.Required(option);
 }
 
 Exit CallContext::PrintJson(Json object, Exit exit) const

@@ -2,9 +2,8 @@
 #include "cli/calls.h"
 #include "cli/open_project.h"
 #include "helpers/product.h"
-#include "platform/posix/posix_host.h"
-#include "platform/posix/signals.h"
 #include "platform/run_error.h"
+#include "platform/this_host.h"
 
 #include <algorithm>
 #include <iostream>
@@ -16,7 +15,7 @@ using namespace quillon::cli;
 
 Exit RunCall(const Arguments& arguments)
 {
-    PosixHost host;
+    ThisHost host;
     for (const Text& complaint : host.complaints)
         std::cerr << complaint << "\n";
     const CallContext context{

@@ -97,11 +97,17 @@ void RequireSameRows(const std::vector<FileListRow>& wanted, const std::vector<F
                               Exit::Stopped};
 }
 
+// Only calls that can leave something out have the switch.
+bool MayContinue(const Arguments& arguments)
+{
+    return arguments.Declares("--continue") && arguments.Has("--continue");
+}
+
 } // namespace
 
 ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin begin)
-    : ask(context.err, context.arguments.Has("--continue") ? ConsoleAsk::Answers::Accept
-                                                           : ConsoleAsk::Answers::Decline),
+    : ask(context.err, MayContinue(context.arguments) ? ConsoleAsk::Answers::Accept
+                                                      : ConsoleAsk::Answers::Decline),
       session(NewSession(context.host, ask, context.toolFolder)), context_(context), path_(path),
       isNew_(begin == Begin::WithANewProject)
 {
@@ -124,7 +130,7 @@ ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin beg
 
 void ProjectEdit::RequireNothingRefused() const
 {
-    if (!ask.refusals.empty() && !context_.arguments.Has("--continue"))
+    if (!ask.refusals.empty() && !MayContinue(context_.arguments))
         throw CallFailure{ask.refusals.front() + kNothingSaved, Exit::Stopped};
 }
 

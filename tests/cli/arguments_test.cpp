@@ -2,6 +2,8 @@
 
 #include "cli/calls.h"
 
+#include <stdexcept>
+
 namespace quillon::cli {
 namespace {
 
@@ -19,6 +21,7 @@ const Call kCalls[] = {
      "Packs.",
      DoNothing},
     {"rest", {}, {}, "Rests.", DoNothing},
+    {"send", {}, {{"--to", "HOST", "help", nullptr, Need::Required}}, "Sends.", DoNothing},
 };
 
 Arguments Read(const std::vector<std::string>& words)
@@ -70,6 +73,30 @@ TEST(ReadArguments, TellsWhatIsWrong)
     EXPECT_EQ(ErrorOf({"pack", "--how", "fas"}),
               "Växeln --how kan ej vara 'fas'; välj fast, small.");
     EXPECT_EQ(ErrorOf({"pack", "--how="}), "Växeln --how kan ej vara ''; välj fast, small.");
+}
+
+TEST(ReadArguments, WantsTheSwitchesThatACallRequires)
+{
+    EXPECT_EQ(ErrorOf({"send"}), "Kommandot send saknar växeln --to.");
+    EXPECT_EQ(Read({"send", "--to", "x"}).Required("--to"), "x");
+}
+
+TEST(ReadArguments, LetsACallLookUpNothingBeyondItsRow)
+{
+    const Arguments read = Read({"send", "--to", "x"});
+    EXPECT_TRUE(read.Declares("--to"));
+    EXPECT_FALSE(read.Declares("--dry"));
+    EXPECT_THROW(static_cast<void>(read.Has("--dry")), std::logic_error);
+    EXPECT_THROW(static_cast<void>(read.Value("--dry")), std::logic_error);
+    EXPECT_THROW(static_cast<void>(Read({"pack", "a", "b"}).Required("--to")), std::logic_error);
+}
+
+TEST(HelpText, ShowsWhichSwitchesACallRequires)
+{
+    const Text help = HelpText(AllCalls());
+    EXPECT_NE(help.find("quillonc new PROJEKT --name NAMN --destination KATALOG [växlar]\n"),
+              Text::npos);
+    EXPECT_NE(help.find("quillonc test PROJEKT --to KATALOG [växlar]\n"), Text::npos);
 }
 
 TEST(HelpText, NamesEveryCallAndEveryOption)

@@ -1,41 +1,27 @@
-// The house's order, read off the includes: a folder knows only the folders below it, Qt stays in
-// the windows, and what belongs to one system stays behind the seam for it.
-#include <gtest/gtest.h>
+// The order of the house, read off the includes, and planted violations that it has to find.
+#include "house/layering.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <map>
+#include <gtest/gtest.h>
+#include <iterator>
 #include <regex>
 #include <set>
-#include <string>
-#include <vector>
+
+namespace quillon::test {
 
 namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kSources = fs::path(QUILLON_TEST_DATA).parent_path() / "src";
-
-// Each folder with the height it stands at; folders of one height do not know each other.
-const std::map<std::string, int> kHeight = {
-    {"helpers", 0},  {"platform", 1}, {"archive", 2},   {"ini", 2},      {"project", 3},
-    {"rtf", 4},      {"formats", 4},  {"design", 5},    {"pictures", 6}, {"runtime", 7},
-    {"filelist", 7}, {"actions", 8},  {"importers", 8}, {"tools", 8},    {"builder", 9},
-    {"shell", 10},   {"cli", 11},     {"ui", 11},       {"app", 13}};
-constexpr int kFormsHeight = 12;
-
-struct Include {
-    fs::path file; // below src/
-    std::string target;
-    bool isSystem;
-};
+const fs::path kRoot = fs::path(QUILLON_TEST_DATA).parent_path();
 
 std::vector<Include> ReadIncludes()
 {
     static const std::regex line(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
     std::vector<Include> includes;
-    for (const auto& entry : fs::recursive_directory_iterator(kSources)) {
+    for (const auto& entry : fs::recursive_directory_iterator(kRoot / "src")) {
         const std::string extension = entry.path().extension().string();
         if (extension != ".h" && extension != ".cpp")
             continue;
@@ -43,110 +29,107 @@ std::vector<Include> ReadIncludes()
         std::smatch match;
         for (std::string text; std::getline(file, text);)
             if (std::regex_search(text, match, line))
-                includes.push_back(
-                    {fs::relative(entry.path(), kSources), match[2], match[1] == "<"});
+                includes.push_back({fs::relative(entry.path(), kRoot / "src").generic_string(),
+                                    match[2], match[1] == "<"});
     }
     return includes;
 }
 
-std::set<std::string> Parts(const fs::path& path)
+std::string Contributing()
 {
-    std::set<std::string> parts;
-    for (const fs::path& part : path)
-        parts.insert(part.string());
-    return parts;
+    std::ifstream file(kRoot / "docs" / "CONTRIBUTING.md");
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
-int HeightOf(const fs::path& path)
+TEST(House, KeepsItsOrder)
 {
-    if (Parts(path).count("forms") > 0)
-        return kFormsHeight;
-    const auto found = kHeight.find(path.begin()->string());
-    return found == kHeight.end() ? -1 : found->second;
-}
-
-class House : public testing::Test {
-protected:
-    static void SetUpTestSuite() { includes_ = ReadIncludes(); }
-
-    static std::vector<Include> includes_;
-};
-
-std::vector<Include> House::includes_;
-
-TEST_F(House, HasSourcesToLookAt)
-{
-    EXPECT_GT(includes_.size(), 100U);
-}
-
-TEST_F(House, StandsInKnownFolders)
-{
-    for (const Include& include : includes_)
-        EXPECT_GE(HeightOf(include.file), 0) << include.file << " lies in a folder of no height";
-}
-
-TEST_F(House, IncludesOnlyFoldersFurtherDown)
-{
-    for (const Include& include : includes_) {
-        const std::string from = include.file.begin()->string();
-        const std::string to = fs::path(include.target).begin()->string();
-        if (include.isSystem || kHeight.count(to) == 0 || from == to)
-            continue;
-        EXPECT_GT(HeightOf(include.file), HeightOf(include.target))
-            << include.file << " includes " << include.target;
+    const std::vector<Include> includes = ReadIncludes();
+    ASSERT_GT(includes.size(), 1000U);
+    for (const Include& include : includes) {
+        EXPECT_TRUE(HasLayer(include.file)) << include.file << " is in a folder of no layer";
+        for (const std::string& violation : Violations(include))
+            ADD_FAILURE() << violation;
     }
 }
 
-TEST_F(House, KeepsTheSetupRuntimeOnTheLowestFolders)
+TEST(House, FindsPlantedViolations)
 {
-    const std::set<std::string> allowed = {"helpers", "platform", "archive", "ini",      "project",
-                                           "rtf",     "formats",  "design",  "pictures", "runtime"};
-    for (const Include& include : includes_)
-        if (include.file.begin()->string() == "runtime" && !include.isSystem) {
-            EXPECT_EQ(allowed.count(fs::path(include.target).begin()->string()), 1U)
-                << include.file << " includes " << include.target;
-            EXPECT_FALSE(include.target.starts_with("archive/writer/"))
-                << include.file << " includes " << include.target;
+    const Include planted[] = {
+        {"helpers/text.cpp", "platform/ask.h"},
+        {"project/records.h", "formats/scramble.h"},
+        {"archive/zip_reader.cpp", "ini/profile_lines.h"},
+        {"actions/ini_list.cpp", "importers/lst_file.h"},
+        {"filelist/components.cpp", "filelist/forms/DlgIcon.h"},
+        {"actions/ini_list.cpp", "actions/forms/pages/PageEditor.h"},
+        {"shell/session.cpp", "ui/Form.h"},
+        {"builder/forms/DlgCreate.cpp", "app/MainForm.h"},
+        {"cli/main.cpp", "platform/posix/posix_host.h"},
+        {"app/main.cpp", "platform/posix/signals.h"},
+        {"runtime/install.cpp", "platform/win32/wide_text.h"},
+        {"platform/whole_file.cpp", "platform/posix/posix_files.h"},
+        {"runtime/install.cpp", "filelist/components.h"},
+        {"runtime/container.cpp", "archive/writer/zip_writer.h"},
+        {"builder/create.cpp", "QString", true},
+        {"cli/show_call.cpp", "QtWidgets/QWidget", true},
+        {"formats/package.cpp", "windows.h", true},
+        {"platform/whole_file.cpp", "sys/stat.h", true},
+        {"platform/win32/open_file.cpp", "unistd.h", true},
+        {"runtime/install.cpp", "sstream", true},
+    };
+    for (const Include& include : planted)
+        EXPECT_FALSE(Violations(include).empty()) << include.file << " includes " << include.target;
+}
+
+TEST(House, LetsThroughWhatIsInOrder)
+{
+    const Include sound[] = {
+        {"platform/this_host.h", "platform/posix/posix_host.h"},
+        {"platform/posix/posix_host.h", "platform/posix/posix_machine.h"},
+        {"filelist/forms/DlgIcon.cpp", "filelist/components.h"},
+        {"filelist/forms/DlgIcon.cpp", "ui/Form.h"},
+        {"runtime/win32/win_target.cpp", "platform/win32/wide_text.h"},
+        {"ui/QtAsk.cpp", "QWidget", true},
+        {"platform/posix/posix_files.cpp", "sys/stat.h", true},
+        {"builder/create.cpp", "algorithm", true},
+    };
+    for (const Include& include : sound)
+        EXPECT_TRUE(Violations(include).empty()) << include.file << " includes " << include.target;
+}
+
+TEST(Contributing, NamesEveryFolder)
+{
+    const std::string text = Contributing();
+    std::set<std::string> folders;
+    for (const auto& entry : fs::directory_iterator(kRoot / "src"))
+        if (entry.is_directory())
+            folders.insert(entry.path().filename().string());
+    ASSERT_GT(folders.size(), 10U);
+    for (const std::string& folder : folders)
+        EXPECT_NE(text.find("| `src/" + folder + "` |"), std::string::npos)
+            << "the table lacks src/" << folder;
+}
+
+TEST(Contributing, GivesTheChainInTheOrderOfTheTest)
+{
+    const std::string text = Contributing();
+    const std::size_t begin = text.find("Dependencies point one way: ");
+    ASSERT_NE(begin, std::string::npos);
+    const std::string chain = text.substr(begin, text.find("\n\n", begin) - begin);
+    std::size_t below = 0;
+    for (const std::vector<std::string>& layer : Layers()) {
+        std::size_t highest = below;
+        for (const std::string& folder : layer) {
+            if (!fs::exists(kRoot / "src" / folder))
+                continue;
+            const std::size_t position = chain.find("`" + folder + "`");
+            ASSERT_NE(position, std::string::npos) << "the chain lacks " << folder;
+            EXPECT_GE(position, below) << folder << " comes too early in the chain";
+            highest = std::max(highest, position);
         }
-}
-
-TEST_F(House, KeepsQtInTheWindows)
-{
-    static const std::regex qt("^Q[A-Z].*|^Qt.*/.*");
-    for (const Include& include : includes_) {
-        const std::set<std::string> parts = Parts(include.file);
-        const bool isWindow =
-            parts.count("forms") > 0 || parts.count("ui") > 0 || parts.count("app") > 0;
-        if (include.isSystem && !isWindow)
-            EXPECT_FALSE(std::regex_match(include.target, qt))
-                << include.file << " includes <" << include.target << ">";
+        below = highest;
     }
-}
-
-TEST_F(House, KeepsSystemHeadersBehindTheirSeam)
-{
-    static const std::regex windows("^(windows|shlobj|shellapi|wincrypt|winver|objbase)\\.h$");
-    static const std::regex posix("^(unistd|fcntl|dirent|spawn|langinfo|sys/.*)(\\.h)?$");
-    for (const Include& include : includes_) {
-        const std::set<std::string> parts = Parts(include.file);
-        if (!include.isSystem)
-            continue;
-        EXPECT_FALSE(std::regex_match(include.target, windows) && parts.count("win32") == 0)
-            << include.file << " includes <" << include.target << ">";
-        EXPECT_FALSE(std::regex_match(include.target, posix) && parts.count("posix") == 0)
-            << include.file << " includes <" << include.target << ">";
-    }
-}
-
-TEST_F(House, PrintsWithoutStreams)
-{
-    // Streams look at the locale, and they alone would double the size of the setup runtime.
-    static const std::set<std::string> streams = {"iostream", "fstream", "sstream", "iomanip",
-                                                  "regex"};
-    for (const Include& include : includes_)
-        if (include.isSystem && HeightOf(include.file) < kHeight.at("cli"))
-            EXPECT_EQ(streams.count(include.target), 0U)
-                << include.file << " includes <" << include.target << ">";
 }
 
 } // namespace
+
+} // namespace quillon::test
