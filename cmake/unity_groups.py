@@ -7,10 +7,12 @@ Prints "<group>;<source>" for each source that shares a piece with others. Two s
 only where neither mentions a name that the other keeps to itself (in an unnamed namespace, as a
 static, as a macro), so that no name ever has to be chosen with a look at other files.
 """
+import os
 import re
 import sys
 
 COMMENT_OR_TEXT = re.compile(r'//[^\n]*|/\*.*?\*/|R"\((.*?)\)"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'', re.S)
+TESTS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests")
 WORD = re.compile(r"[A-Za-z_]\w*")
 TYPE = re.compile(r"^(?:struct|class|enum class|enum|union) (\w+)")
 MACRO = re.compile(r"^#define (\w+)")
@@ -19,14 +21,20 @@ DECLARED = re.compile(r"([A-Za-z_]\w*)\s*(?:\[[^\]]*\]\s*)*$")
 
 def own_names(text):
     """What a source declares for itself alone. Namespaces are not indented here."""
-    names, is_unnamed = set(), False
+    names, is_unnamed, in_enum = set(), False, False
     for line in text.splitlines():
+        # The enumerators of a plain enum are names of their own.
+        if is_unnamed and re.match(r"enum (?!class)", line):
+            in_enum = True
+        if in_enum:
+            names.update(WORD.findall(line))
+            in_enum = "}" not in line
         if match := MACRO.match(line):
             names.add(match[1])
         if line.startswith("namespace"):
             is_unnamed = line.startswith("namespace {")
         # Tests name their classes after the test, which no other test has.
-        if not (is_unnamed or line.startswith("static ")) or not re.match(r"[A-Za-z_]", line):
+        if not (is_unnamed or line.startswith(("static ", "const ", "constexpr "))) or not re.match(r"[A-Za-z_]", line):
             continue
         if line.startswith(("using namespace", "template", "namespace", "TEST", "INSTANTIATE_")):
             continue
@@ -47,6 +55,11 @@ def main():
             raw = file.read()
         text = COMMENT_OR_TEXT.sub(" ", raw)
         mentioned = set(WORD.findall(text))
+        # The helpers of tests are headers that are seldom included twice, so they meet strange names.
+        for header in re.findall(r'#include "([^"]+)"', raw):
+            if os.path.exists(os.path.join(TESTS, header)):
+                with open(os.path.join(TESTS, header), encoding="utf-8") as file:
+                    mentioned |= set(WORD.findall(COMMENT_OR_TEXT.sub(" ", file.read())))
         own = own_names(text)
         lines = raw.count("\n")
         for group in groups:

@@ -9,9 +9,9 @@ BUILD_PACKAGES=(
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-wayland fonts-dejavu-core
 )
 TEST_PACKAGES=(
-    clang libclang-rt-14-dev
+    clang clang-format libclang-rt-14-dev
     debootstrap p7zip-full procps unzip wine64 zip
-    at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi xdotool xvfb
+    at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi python3-minimal xdotool xvfb
 )
 
 as_root() {

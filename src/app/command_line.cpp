@@ -1,16 +1,14 @@
 #include "app/command_line.h"
 
+#include "helpers/drive_path.h"
+
 namespace quillon {
 
 namespace {
 
 bool IsWindowsPath(const Text& path)
 {
-    const bool isOfNetwork = path.starts_with("\\\\");
-    const bool isOfDrive =
-        path.size() > 2 && path[1] == ':' && (path[2] == '\\' || path[2] == '/') &&
-        ((path[0] >= 'A' && path[0] <= 'Z') || (path[0] >= 'a' && path[0] <= 'z'));
-    return isOfNetwork || isOfDrive;
+    return path.starts_with("\\\\") || IsDrivePath(path);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/writer/compression_result.h"
+#include "archive/writer/disk_source.h"
 #include "helpers/number_text.h"
 #include "helpers/sha256.h"
 #include "helpers/text.h"
@@ -15,23 +16,6 @@
 #include <vector>
 
 namespace quillon {
-
-/// Where the pieces of a spanned archive go.
-class DiskSource {
-public:
-    virtual ~DiskSource() = default;
-
-    /// The folder of disk `number` (2 and up), ready to be written; nothing when none comes. It is
-    /// asked again for a disk that turns out to be the one before.
-    virtual std::optional<Text> NextDisk(int number) = 0;
-    /// Behind the last disk: whether the first one, with the package's own files, is at hand again.
-    virtual bool FirstDiskAgain() { return true; }
-    /// Bytes of the first disk to leave for what is written behind the pieces of an archive of this
-    /// size.
-    virtual std::uint64_t RoomToLeave(std::uint64_t) const { return 0; }
-    /// Bytes that the disk in this folder can still take.
-    virtual std::uint64_t Capacity(const Text& folder) const = 0;
-};
 
 /// One list at a time, in the order: init, reset, add each path, create, (disk count), free.
 class CompressionInterface {

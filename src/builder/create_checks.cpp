@@ -3,6 +3,7 @@
 #include "builder/row_checks.h"
 #include "filelist/adding/redist_folder.h"
 #include "filelist/adding/system_files.h"
+#include "formats/runtime_programs.h"
 #include "formats/setup_names.h"
 #include "helpers/windows_path.h"
 
@@ -288,20 +289,20 @@ Text FindReservedFilename(const Project& project)
     // Kept: the two names of the project's own choice are compared as they stand, so only those in
     // capitals can match.
     const std::string_view reserved[] = {project.InstallOptions.SetupName,
-                                         "QNS32X.EXE",
-                                         "QNS32X.BIN",
+                                         RuntimePrograms::kSetup.name,
+                                         RuntimePrograms::kSetup.inPackage,
                                          kSetupInformationName,
                                          kFileListName,
                                          project.Language.LanguageFile,
-                                         "DUNZIP32.DLL",
+                                         RuntimePrograms::kUnzipLibrary.name,
                                          kFileContainerName,
                                          kDesignContainerName,
-                                         "QNXREG2.EXE",
-                                         "QNXREG2.BIN",
-                                         "QNREG32.EXE",
-                                         "QNREG32.BIN",
-                                         "QNXUNIN.EXE",
-                                         "QNXUNIN.BIN"};
+                                         RuntimePrograms::kSecondRegistryHelper.name,
+                                         RuntimePrograms::kSecondRegistryHelper.inPackage,
+                                         RuntimePrograms::kRegistryHelper.name,
+                                         RuntimePrograms::kRegistryHelper.inPackage,
+                                         RuntimePrograms::kUninstaller.name,
+                                         RuntimePrograms::kUninstaller.inPackage};
     for (const FileListRow& row : project.Files.rows)
         if (Holds(reserved, UpperCase(row[Filename])))
             return row[Filename];

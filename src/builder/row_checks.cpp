@@ -6,6 +6,7 @@
 #include "filelist/adding/system_files.h"
 #include "filelist/row_facts.h"
 #include "formats/row_safety.h"
+#include "formats/runtime_programs.h"
 #include "formats/variable_names.h"
 #include "helpers/windows_path.h"
 
@@ -128,7 +129,8 @@ bool IsMainFolder(const Project& project, const Text& destination)
 bool IsNameOfUninstaller(const Text& name)
 {
     const Text upper = UpperCase(name);
-    return upper == "QNXUNIN.EXE" || (upper.starts_with("QNXUNIN") && upper.ends_with(".LOG"));
+    return upper == RuntimePrograms::kUninstaller.name ||
+           (upper.starts_with("QNXUNIN") && upper.ends_with(".LOG"));
 }
 
 Text IconTitle(const FileListRow& row)

@@ -1,6 +1,8 @@
 #include "builder/runtime_files.h"
 
 #include "builder/design_objects.h"
+#include "formats/copy_letters.h"
+#include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 
 #include <algorithm>
@@ -18,8 +20,7 @@ struct RuntimeFile {
 
 // What goes from the tool's Release folder as it is, under which name, and when.
 struct ReleaseFile {
-    const char* source;
-    const char* target;
+    RuntimeProgram program;
     bool (*isNeeded)(const Project&);
 };
 
@@ -28,16 +29,13 @@ bool IsAlwaysNeeded(const Project&)
     return true;
 }
 
-bool HasOption(const FileListRow& row, const char* letter)
-{
-    return ContainsText(row[CopyOptions], letter);
-}
-
 // Scripts run in the helper that registers files.
 bool NeedsRegistryHelper(const Project& project)
 {
     return std::ranges::any_of(project.Files.rows,
-                               [](const FileListRow& row) { return HasOption(row, "R"); }) ||
+                               [](const FileListRow& row) {
+                                   return HasOption(row[CopyOptions], CopyLetter::kRegister);
+                               }) ||
            !project.Lists.RunScriptBefore.empty() || !project.Lists.RunScriptAfter.empty();
 }
 
@@ -46,7 +44,8 @@ bool NeedsRegistryHelper(const Project& project)
 bool NeedsSecondRegistryHelper(const Project& project)
 {
     return std::ranges::any_of(project.Files.rows, [](const FileListRow& row) {
-        return HasOption(row, "R") && HasOption(row, "A");
+        return HasOption(row[CopyOptions], CopyLetter::kRegister) &&
+               HasOption(row[CopyOptions], CopyLetter::kActiveFile);
     });
 }
 
@@ -55,12 +54,11 @@ bool NeedsUninstaller(const Project& project)
     return project.InstallOptions.UninstallSupport != kOff;
 }
 
-// clang-format off
-constexpr ReleaseFile kUnzipLibrary          = {"DUNZIP32.DLL", kUnzipLibraryName,         IsAlwaysNeeded};
-constexpr ReleaseFile kRegistryHelper        = {"QNREG32.EXE",  kRegistryHelperName,       NeedsRegistryHelper};
-constexpr ReleaseFile kSecondRegistryHelper  = {"QNXREG2.EXE",  kSecondRegistryHelperName, NeedsSecondRegistryHelper};
-constexpr ReleaseFile kUninstaller           = {"QNXUNIN.EXE",  kUninstallerName,          NeedsUninstaller};
-// clang-format on
+constexpr ReleaseFile kUnzipLibrary = {RuntimePrograms::kUnzipLibrary, IsAlwaysNeeded};
+constexpr ReleaseFile kRegistryHelper = {RuntimePrograms::kRegistryHelper, NeedsRegistryHelper};
+constexpr ReleaseFile kSecondRegistryHelper = {RuntimePrograms::kSecondRegistryHelper,
+                                               NeedsSecondRegistryHelper};
+constexpr ReleaseFile kUninstaller = {RuntimePrograms::kUninstaller, NeedsUninstaller};
 
 Text ReleasePath(const CreateRun& run, const Text& name)
 {
@@ -85,7 +83,8 @@ Step CopyReleaseFile(CreateRun& run, const ReleaseFile& file)
 {
     if (!file.isNeeded(run.project))
         return Step::GoOn;
-    return CopyIntoPackage(run, {ReleasePath(run, file.source), file.target, file.source});
+    return CopyIntoPackage(
+        run, {ReleasePath(run, file.program.name), file.program.inPackage, file.program.name});
 }
 
 } // namespace
@@ -93,7 +92,8 @@ Step CopyReleaseFile(CreateRun& run, const ReleaseFile& file)
 Step CopySetupExe(CreateRun& run)
 {
     const Text& name = run.project.InstallOptions.SetupName;
-    const Step step = CopyIntoPackage(run, {ReleasePath(run, "SETUP32.EXE"), name, name});
+    const Step step =
+        CopyIntoPackage(run, {ReleasePath(run, RuntimePrograms::kStarter.name), name, name});
     if (step == Step::GoOn && run.options.UpdateSetupExeDateTime != kOff)
         SetFileDateTime_Now(run.host, run.InDestination(name));
     return step;
@@ -101,11 +101,11 @@ Step CopySetupExe(CreateRun& run)
 
 Step CopyRuntimeExe(CreateRun& run)
 {
-    const Text name = "QNS32X.EXE";
+    const Text name = RuntimePrograms::kSetup.name;
     const bool full = UsesJpegPictures(run.project);
-    return CopyIntoPackage(run,
-                           {ReleasePath(run, (full ? "Full32\\" : "Small32\\") + name),
-                            kRuntimeName, name, full ? "  (Full Version)" : "  (Small Version)"});
+    return CopyIntoPackage(run, {ReleasePath(run, (full ? "Full32\\" : "Small32\\") + name),
+                                 RuntimePrograms::kSetup.inPackage, name,
+                                 full ? "  (Full Version)" : "  (Small Version)"});
 }
 
 Step CopyUnzipLibrary(CreateRun& run)

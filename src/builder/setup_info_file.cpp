@@ -6,6 +6,7 @@
 #include "formats/scramble.h"
 #include "formats/section_document.h"
 #include "formats/setup_information_table.h"
+#include "helpers/flag_text.h"
 #include "helpers/line_breaks.h"
 #include "helpers/product.h"
 #include "helpers/windows_path.h"
@@ -19,11 +20,6 @@ namespace {
 
 // A page of the dialog chain and a component are check boxes: ticked is 1, and nothing else is.
 constexpr std::int64_t kTicked = 1;
-
-Text FlagText(bool on)
-{
-    return on ? "1" : "0";
-}
 
 Text DesignFileReference(const Text& path, SetupInfoMode mode)
 {

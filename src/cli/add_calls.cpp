@@ -23,11 +23,6 @@ namespace {
 // As many numbers as a dependency file may leave out.
 constexpr int kFirstNumbersLookedAt = 16;
 
-Text CountText(std::size_t count)
-{
-    return NumberText(static_cast<std::int64_t>(count));
-}
-
 // Everything that a command asks of where its files go.
 void PrepareTarget(const CallContext& context, ProjectEdit& edit)
 {

@@ -1,9 +1,9 @@
 #include "cli/call_context.h"
 
+#include "helpers/drive_path.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 
-#include <cctype>
 #include <ostream>
 
 namespace quillon::cli {
@@ -12,9 +12,7 @@ namespace {
 
 bool IsWindowsPath(std::string_view path)
 {
-    const bool hasDrive = path.size() >= 2 && path[1] == ':' &&
-                          std::isalpha(static_cast<unsigned char>(path[0])) != 0;
-    return hasDrive && (path.size() == 2 || path[2] == '\\' || path[2] == '/');
+    return IsDrivePath(path) || (BeginsWithDrive(path) && path.size() == 2);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/arguments.h"
+#include "helpers/number_text.h"
 #include "platform/host.h"
 #include "shell/failure_text.h"
 
@@ -13,6 +14,11 @@ namespace quillon::cli {
 
 // Keys stand in the order in which they were set.
 using Json = nlohmann::ordered_json;
+
+inline Text CountText(std::size_t count)
+{
+    return NumberText(static_cast<std::int64_t>(count));
+}
 
 /// Why a call ends before it has done its work.
 struct CallFailure {

@@ -8,8 +8,9 @@ constexpr Option kTo = {"--to", "DESTINATION", "Katalog på måldatorn, med vari
 constexpr Option kComponent = {"--component", "NUMMER", "Komponent som filerna hör till"};
 constexpr Option kTakeTheRest = {"--continue", nullptr,
                                  "Spara även om en del filer ej kan adderas"};
-constexpr Option kVbp = {"--vbp", "FIL", "Projektfilen"};
-constexpr Option kExe = {"--exe", "FIL", "Programmet som projektet kompileras till"};
+constexpr Option kVbp = {"--vbp", "FIL", "Projektfilen", nullptr, Need::Required};
+constexpr Option kExe = {"--exe", "FIL", "Programmet som projektet kompileras till", nullptr,
+                         Need::Required};
 constexpr Option kVbFolder = {"--vb-folder", "KATALOG",
                               "Katalogen med Visual Basic; utan växeln den som Registry anger"};
 constexpr Option kDao35 = {"--dao35", nullptr, "Addera DAO 3.5 och Jet 3.5"};

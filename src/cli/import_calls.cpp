@@ -9,13 +9,9 @@ namespace quillon::cli {
 
 namespace {
 
-Text DemandFile(const CallContext& context, const char* option)
+Text RequireFile(const CallContext& context, const char* option)
 {
-    const auto file = context.arguments.Value(option);
-    if (!file)
-        throw UsageError{Text("Kommandot ") + context.arguments.call->name + " saknar växeln " +
-                         option + "."};
-    const Text path = context.Path(*file);
+    const Text path = context.Path(context.arguments.Required(option));
     RequireReadableFile(context.host.files, path);
     return path;
 }
@@ -73,8 +69,8 @@ void SetNetTest(const CallContext& context, section::NET& net)
 
 Exit ImportVb6(const CallContext& context)
 {
-    Vb6Choices choices{.sVBPfile = DemandFile(context, "--vbp"),
-                       .sEXEfile = DemandFile(context, "--exe"),
+    Vb6Choices choices{.sVBPfile = RequireFile(context, "--vbp"),
+                       .sEXEfile = RequireFile(context, "--exe"),
                        .tVBDirectory = VbFolder(context, FindVb6Directory(context.host.machine)),
                        .cImportDAO35 = context.arguments.Has("--dao35"),
                        .cImportDAO36 = context.arguments.Has("--dao36"),
@@ -94,8 +90,8 @@ Exit ImportVb6(const CallContext& context)
 
 Exit ImportVb5(const CallContext& context)
 {
-    const Vb5Choices choices{.sVBPfile = DemandFile(context, "--vbp"),
-                             .sEXEfile = DemandFile(context, "--exe"),
+    const Vb5Choices choices{.sVBPfile = RequireFile(context, "--vbp"),
+                             .sEXEfile = RequireFile(context, "--exe"),
                              .tVBDirectory =
                                  VbFolder(context, FindVb5Directory(context.host.machine)),
                              .cImportDAO35 = context.arguments.Has("--dao35"),
@@ -107,8 +103,8 @@ Exit ImportVb5(const CallContext& context)
 
 Exit ImportVbNet(const CallContext& context)
 {
-    const VbNetChoices choices{.sVBPfile = DemandFile(context, "--vbp"),
-                               .sEXEfile = DemandFile(context, "--exe"),
+    const VbNetChoices choices{.sVBPfile = RequireFile(context, "--vbp"),
+                               .sEXEfile = RequireFile(context, "--exe"),
                                .cUseDepFile = context.arguments.Has("--no-dep") ? 0 : 1};
     ImportRun run(context);
     SetNetTest(context, run.edit.session.project.NET);

@@ -30,11 +30,6 @@ constexpr std::array<SortWord, 6> kSortWords{{{"name", Filename},
                                               {"component", ComponentNumber},
                                               {"extension", Extension}}};
 
-Text CountText(std::size_t count)
-{
-    return NumberText(static_cast<std::int64_t>(count));
-}
-
 std::vector<std::size_t> SelectByOperands(const CallContext& context, const FileList& files,
                                           std::size_t first, std::size_t count)
 {

@@ -33,7 +33,7 @@ Text OrderedOptions(const Text& typed)
     const auto isChosen = [&](char letter) { return letters.find(letter) != Text::npos; };
     if (std::ranges::count_if(kOneOfThese, isChosen) > 1)
         throw UsageError{"Högst en av inställningarna D, V och N kan väljas."};
-    if (isChosen('E') && !isChosen('V'))
+    if (isChosen(CopyLetter::kNotIfEqualVersion) && !isChosen(CopyLetter::kVersionCheck))
         throw UsageError{"Inställningen E kan väljas endast tillsammans med V."};
     CopyOptionTicks ticks{};
     std::ranges::transform(offered, ticks.begin(), isChosen);

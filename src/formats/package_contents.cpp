@@ -1,5 +1,8 @@
 #include "formats/package_contents.h"
 
+#include "formats/copy_letters.h"
+#include "formats/runtime_programs.h"
+
 #include "formats/package.h"
 #include "formats/package_files.h"
 #include "project/file_list.h"
@@ -11,11 +14,6 @@ namespace quillon {
 
 namespace {
 
-bool HasOption(const InstallRow& row, char letter)
-{
-    return row.copyOptions.find(letter) != Text::npos;
-}
-
 bool HasSource(const InstallRow& row)
 {
     return row.name != kEmptyFolderName && !MayLackSource(row);
@@ -24,26 +22,31 @@ bool HasSource(const InstallRow& row)
 // Create copies the helpers by the same conditions, asked of the project.
 bool NeedsRegistryHelper(const SetupInformation& setup, const std::vector<InstallRow>& rows)
 {
-    return std::ranges::any_of(rows, [](const InstallRow& row) { return HasOption(row, 'R'); }) ||
+    return std::ranges::any_of(rows,
+                               [](const InstallRow& row) {
+                                   return HasOption(row.copyOptions, CopyLetter::kRegister);
+                               }) ||
            !setup.project.Lists.RunScriptBefore.empty() ||
            !setup.project.Lists.RunScriptAfter.empty();
 }
 
 bool NeedsSecondRegistryHelper(const std::vector<InstallRow>& rows)
 {
-    return std::ranges::any_of(
-        rows, [](const InstallRow& row) { return HasOption(row, 'R') && HasOption(row, 'A'); });
+    return std::ranges::any_of(rows, [](const InstallRow& row) {
+        return HasOption(row.copyOptions, CopyLetter::kRegister) &&
+               HasOption(row.copyOptions, CopyLetter::kActiveFile);
+    });
 }
 
 std::vector<Text> HelpersOf(const SetupInformation& setup, const std::vector<InstallRow>& rows)
 {
     std::vector<Text> names;
     if (NeedsRegistryHelper(setup, rows))
-        names.push_back(kRegistryHelperName);
+        names.push_back(RuntimePrograms::kRegistryHelper.inPackage);
     if (NeedsSecondRegistryHelper(rows))
-        names.push_back(kSecondRegistryHelperName);
+        names.push_back(RuntimePrograms::kSecondRegistryHelper.inPackage);
     if (setup.project.InstallOptions.UninstallSupport != kOff)
-        names.push_back(kUninstallerName);
+        names.push_back(RuntimePrograms::kUninstaller.inPackage);
     return names;
 }
 
@@ -52,8 +55,8 @@ std::vector<Text> HelpersOf(const SetupInformation& setup, const std::vector<Ins
 std::vector<Text> FixedFilesOf(const SetupInformation& setup, const std::vector<InstallRow>& rows)
 {
     std::vector<Text> names = {setup.project.InstallOptions.SetupName,
-                               kRuntimeName,
-                               kUnzipLibraryName,
+                               RuntimePrograms::kSetup.inPackage,
+                               RuntimePrograms::kUnzipLibrary.inPackage,
                                kSetupInformationName,
                                kFileListName,
                                setup.project.Language.LanguageFile};

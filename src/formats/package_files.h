@@ -18,13 +18,6 @@ inline constexpr const char* kManifestName = "PACKAGE.SHA256";
 // Where files that are kept one by one lie.
 inline constexpr const char* kSetupFilesFolder = "SetupFiles";
 
-// On the medium nothing but the starter looks runnable.
-inline constexpr const char* kRuntimeName = "QNS32X.BIN";
-inline constexpr const char* kUnzipLibraryName = "DUNZIP32.DLL";
-inline constexpr const char* kRegistryHelperName = "QNREG32.BIN";
-inline constexpr const char* kSecondRegistryHelperName = "QNXREG2.BIN";
-inline constexpr const char* kUninstallerName = "QNXUNIN.BIN";
-
 /// The name of a file that is kept by itself, in one folder with all the others: none of these
 /// names looks runnable.
 Text MarkedName(const Text& name);

@@ -2,6 +2,7 @@
 
 #include "formats/package_files.h"
 #include "formats/row_safety.h"
+#include "formats/runtime_programs.h"
 
 #include <algorithm>
 
@@ -9,11 +10,19 @@ namespace quillon {
 
 namespace {
 
-constexpr const char* kPackageFiles[] = {
-    kFileListName,     kSetupInformationName, kFileContainerName,        kDesignContainerName,
-    kAutorunName,      kLicenseRtfName,       kSetupFilesFolder,         kRuntimeName,
-    kUnzipLibraryName, kRegistryHelperName,   kSecondRegistryHelperName, kUninstallerName,
-    kManifestName};
+constexpr const char* kPackageFiles[] = {kFileListName,
+                                         kSetupInformationName,
+                                         kFileContainerName,
+                                         kDesignContainerName,
+                                         kAutorunName,
+                                         kLicenseRtfName,
+                                         kSetupFilesFolder,
+                                         RuntimePrograms::kSetup.inPackage,
+                                         RuntimePrograms::kUnzipLibrary.inPackage,
+                                         RuntimePrograms::kRegistryHelper.inPackage,
+                                         RuntimePrograms::kSecondRegistryHelper.inPackage,
+                                         RuntimePrograms::kUninstaller.inPackage,
+                                         kManifestName};
 
 bool IsDrive(std::string_view part)
 {

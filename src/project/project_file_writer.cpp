@@ -1,6 +1,7 @@
 // Writes the project file: its header, the settings sections by their tables, the lists, the
 // components and the rows.
 #include "helpers/ansi_text.h"
+#include "helpers/flag_text.h"
 #include "helpers/line_breaks.h"
 #include "helpers/product.h"
 #include "helpers/windows_path.h"
@@ -18,11 +19,6 @@
 namespace quillon {
 
 namespace {
-
-Text FlagText(bool on)
-{
-    return on ? "1" : "0";
-}
 
 Text Pixels(Integer twips, int twipsPerPixel)
 {

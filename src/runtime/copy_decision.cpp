@@ -32,7 +32,7 @@ std::optional<CopyDecision> DecideByVersion(std::string_view options, const Comp
     const int order = CompareVersions(existing.version, ours.version);
     if (order > 0)
         return Keep(Message::SkipNewerVersion, existing.version);
-    if (order == 0 && HasOption(options, CopyOption::kNotIfEqualVersion))
+    if (order == 0 && HasOption(options, CopyLetter::kNotIfEqualVersion))
         return Keep(Message::SkipSameVersion, existing.version);
     return std::nullopt;
 }
@@ -60,18 +60,18 @@ int CompareVersions(std::string_view left, std::string_view right)
 CopyDecision DecideCopy(std::string_view options, const ComparedFile& existing,
                         const ComparedFile& ours)
 {
-    if (HasOption(options, CopyOption::kNeverReplace))
+    if (HasOption(options, CopyLetter::kNeverReplace))
         return Keep(Message::SkipNeverReplaced);
-    if (existing.isReadOnly && !HasOption(options, CopyOption::kWriteProtected))
+    if (existing.isReadOnly && !HasOption(options, CopyLetter::kWriteProtected))
         return Keep(Message::SkipReadOnly);
-    if (HasOption(options, CopyOption::kVersionCheck))
+    if (HasOption(options, CopyLetter::kVersionCheck))
         if (const auto decided = DecideByVersion(options, existing, ours))
             return *decided;
-    if (HasOption(options, CopyOption::kDateCheck) &&
+    if (HasOption(options, CopyLetter::kDateCheck) &&
         EvenSeconds(existing.modified) > EvenSeconds(ours.modified))
         return Keep(Message::SkipNewerFile,
                     DateText(existing.modified) + " " + TimeTextWithSeconds(existing.modified));
-    if (HasOption(options, CopyOption::kWarnIfExists))
+    if (HasOption(options, CopyLetter::kWarnIfExists))
         return {CopyVerdict::Ask, {}};
     return {};
 }

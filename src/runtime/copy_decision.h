@@ -2,34 +2,13 @@
 // say, and nothing else. The reason of a refusal goes to the log.
 #pragma once
 
+#include "formats/copy_letters.h"
 #include "helpers/date_text.h"
 #include "runtime/messages.h"
 
 #include <optional>
 
 namespace quillon {
-
-/// The letters of a row's copy options.
-namespace CopyOption {
-inline constexpr char kDateCheck = 'D';
-inline constexpr char kVersionCheck = 'V';
-inline constexpr char kNeverReplace = 'N';
-inline constexpr char kWarnIfExists = 'X';
-inline constexpr char kRegister = 'R';
-inline constexpr char kActiveFile = 'A';
-inline constexpr char kShared = 'S';
-inline constexpr char kWriteProtected = 'W';
-inline constexpr char kSetWriteProtection = 'P';
-inline constexpr char kBackup = 'B';
-inline constexpr char kNotIfEqualVersion = 'E';
-inline constexpr char kNeverUninstall = '*';
-inline constexpr char kFont = 'F';
-} // namespace CopyOption
-
-inline bool HasOption(std::string_view options, char letter)
-{
-    return options.find(letter) != std::string_view::npos;
-}
 
 struct ComparedFile {
     LocalTime modified;

@@ -67,7 +67,7 @@ void FileInstaller::InstallOne(const PlannedFile& file)
     changes_.MakeFolder(ExtractDirectory(file.path));
     const auto existing = StatusAt(file.path);
     // A version can only be read from a file on disk, so such a file is written in any case.
-    const bool decidesLate = existing && HasOption(options, CopyOption::kVersionCheck);
+    const bool decidesLate = existing && HasOption(options, CopyLetter::kVersionCheck);
     bool wanted = decidesLate || !existing || IsWanted(file, *existing, {});
     Text staged;
     if (wanted) {
@@ -77,7 +77,7 @@ void FileInstaller::InstallOne(const PlannedFile& file)
     const bool atRestart = wanted && !Put(file, staged, existing.has_value());
     if (!wanted && !staged.empty())
         input_.host.files.RemoveFile(staged);
-    if (HasOption(options, CopyOption::kShared) && !HasOption(options, CopyOption::kNeverUninstall))
+    if (HasOption(options, CopyLetter::kShared) && !HasOption(options, CopyLetter::kNeverUninstall))
         CountSharedFile(file, existing.has_value());
     if (wanted)
         NoteWhatFollows(file, atRestart);
@@ -139,20 +139,20 @@ Text FileInstaller::Stage(const PlannedFile& file)
 bool FileInstaller::Put(const PlannedFile& file, const Text& staged, bool replaces)
 {
     const Text& options = file.row->copyOptions;
-    const auto recorded = HasOption(options, CopyOption::kNeverUninstall)
+    const auto recorded = HasOption(options, CopyLetter::kNeverUninstall)
                               ? InstallTransaction::Recorded::No
                               : InstallTransaction::Recorded::Yes;
     const InstallTransaction::NewFile placed{staged, file.path, replaces, recorded};
-    if (replaces && HasOption(options, CopyOption::kBackup))
+    if (replaces && HasOption(options, CopyLetter::kBackup))
         changes_.KeepBackup(file.path);
-    if (HasOption(options, CopyOption::kSetWriteProtection))
+    if (HasOption(options, CopyLetter::kSetWriteProtection))
         input_.host.files.SetReadOnly(staged, true);
     try {
         changes_.PutFile(placed);
         input_.log.Line(Message::LogCopies, file.path);
         return true;
     } catch (const RunError& error) {
-        if (!IsInUse(error) || !HasOption(options, CopyOption::kActiveFile))
+        if (!IsInUse(error) || !HasOption(options, CopyLetter::kActiveFile))
             throw;
         changes_.PutFileAtRestart(placed);
         input_.log.Line(Message::LogReplacesAtRestart, file.path);
@@ -176,9 +176,9 @@ void FileInstaller::CountSharedFile(const PlannedFile& file, bool existed)
 void FileInstaller::NoteWhatFollows(const PlannedFile& file, bool atRestart)
 {
     const Text& options = file.row->copyOptions;
-    if (HasOption(options, CopyOption::kRegister))
+    if (HasOption(options, CopyLetter::kRegister))
         (atRestart ? toRegisterAtRestart_ : toRegister_).push_back(file.path);
-    if (HasOption(options, CopyOption::kFont))
+    if (HasOption(options, CopyLetter::kFont))
         fonts_.push_back(file);
 }
 

@@ -1,12 +1,12 @@
 #include "runtime/install.h"
 
+#include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "runtime/failure_reason.h"
 #include "runtime/file_installer.h"
 #include "runtime/ini_changes.h"
-#include "runtime/package_names.h"
 #include "runtime/planned_shortcuts.h"
 #include "runtime/uninstall_entry.h"
 
@@ -254,8 +254,9 @@ void Installation::RegisterAtRestart()
     const std::vector<Text>& paths = files_.FilesToRegisterAtRestart();
     if (paths.empty())
         return;
-    const Text helper = JoinPath(input_.plan.mainFolder, "QNXREG2.EXE");
-    PutHelper(RuntimeFile::kSecondRegistryHelper, helper);
+    const Text helper =
+        JoinPath(input_.plan.mainFolder, RuntimePrograms::kSecondRegistryHelper.name);
+    PutHelper(RuntimePrograms::kSecondRegistryHelper.inPackage, helper);
     const RegistryKey key{RegistryRoot::LocalMachine,
                           "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"};
     const Text name = "QNXREG2 " + input_.setup.project.ProjectName.ProjectName;
@@ -297,8 +298,8 @@ void Installation::PutUninstaller()
         return;
     const Text path = UninstallerPath(input_.plan.mainFolder);
     const Text staged = changes_.StagingPath(path);
-    input_.host.files.CopyContent(JoinPath(input_.helpersFolder, RuntimeFile::kUninstaller),
-                                  staged);
+    input_.host.files.CopyContent(
+        JoinPath(input_.helpersFolder, RuntimePrograms::kUninstaller.inPackage), staged);
     // The uninstaller goes last and by itself, and stays where another product needs it.
     changes_.PutFile(
         {staged, path, input_.host.files.FileExists(path), InstallTransaction::Recorded::No});

@@ -1,5 +1,6 @@
 #include "runtime/planned_shortcuts.h"
 
+#include "formats/runtime_programs.h"
 #include "formats/setup_names.h"
 #include "helpers/windows_path.h"
 #include "runtime/failure_reason.h"
@@ -177,7 +178,7 @@ Text AsFileName(std::string_view text)
 
 Text UninstallerPath(const Text& mainFolder)
 {
-    return JoinPath(mainFolder, "QNXUNIN.EXE");
+    return JoinPath(mainFolder, RuntimePrograms::kUninstaller.name);
 }
 
 } // namespace quillon

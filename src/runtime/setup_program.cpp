@@ -1,6 +1,7 @@
 #include "runtime/setup_program.h"
 
 #include "formats/package.h"
+#include "formats/runtime_programs.h"
 #include "formats/setup_names.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
@@ -10,7 +11,6 @@
 #include "runtime/failure_reason.h"
 #include "runtime/install.h"
 #include "runtime/package_check.h"
-#include "runtime/package_names.h"
 #include "runtime/rollback.h"
 #include "runtime/uninstall_entry.h"
 
@@ -190,8 +190,9 @@ void SetupProgram::CheckFreeSpace(const InstallPlan& plan) const
 void SetupProgram::KeepHelpers() const
 {
     FileSystem& files = input_.host.files;
-    for (const char* helper : {RuntimeFile::kRegistryHelper, RuntimeFile::kSecondRegistryHelper,
-                               RuntimeFile::kUninstaller}) {
+    for (const char* helper : {RuntimePrograms::kRegistryHelper.inPackage,
+                               RuntimePrograms::kSecondRegistryHelper.inPackage,
+                               RuntimePrograms::kUninstaller.inPackage}) {
         const Text path = JoinPath(input_.switches.packageFolder, helper);
         if (files.FileExists(path))
             files.CopyContent(path, JoinPath(input_.workFolder, helper));
@@ -207,13 +208,13 @@ void SetupProgram::CheckHelpers(const InstallPlan& plan) const
         if (isNeeded && (!files.FileExists(path) || files.Status(path).size == 0))
             throw DamagedPackage(texts_, {Message::PackageFileMissing, helper});
     };
-    check(plan.hasUninstaller, RuntimeFile::kUninstaller);
+    check(plan.hasUninstaller, RuntimePrograms::kUninstaller.inPackage);
     const bool mayRegisterLate =
         std::any_of(plan.files.begin(), plan.files.end(), [](const PlannedFile& file) {
-            return HasOption(file.row->copyOptions, CopyOption::kRegister) &&
-                   HasOption(file.row->copyOptions, CopyOption::kActiveFile);
+            return HasOption(file.row->copyOptions, CopyLetter::kRegister) &&
+                   HasOption(file.row->copyOptions, CopyLetter::kActiveFile);
         });
-    check(mayRegisterLate, RuntimeFile::kSecondRegistryHelper);
+    check(mayRegisterLate, RuntimePrograms::kSecondRegistryHelper.inPackage);
 }
 
 // An installation of the product that was ended from outside, to this folder or to another one.

@@ -1,9 +1,9 @@
 #include "runtime/work_folders.h"
 
 #include "formats/package_files.h"
+#include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/package_names.h"
 #include "runtime/rollback.h"
 
 #include <algorithm>
@@ -13,12 +13,12 @@ namespace quillon {
 namespace {
 
 constexpr const char* kLockName = "LOCK";
-constexpr const char* kFilesOfASetup[] = {"QNS32X.EXE",
-                                          "QNXUNIN.EXE",
-                                          RuntimeFile::kUnzipLibrary,
-                                          RuntimeFile::kRegistryHelper,
-                                          RuntimeFile::kSecondRegistryHelper,
-                                          RuntimeFile::kUninstaller,
+constexpr const char* kFilesOfASetup[] = {RuntimePrograms::kSetup.name,
+                                          RuntimePrograms::kUninstaller.name,
+                                          RuntimePrograms::kUnzipLibrary.inPackage,
+                                          RuntimePrograms::kRegistryHelper.inPackage,
+                                          RuntimePrograms::kSecondRegistryHelper.inPackage,
+                                          RuntimePrograms::kUninstaller.inPackage,
                                           kFileContainerName};
 
 // "QN123456.TMP"

@@ -1,6 +1,7 @@
 #include "ui/file_dialog.h"
 
 #include "helpers/ansi_text.h"
+#include "helpers/drive_path.h"
 #include "ui/file_dialog_parts.h"
 #include "ui/message_box.h"
 #include "ui/qt_text.h"
@@ -27,12 +28,6 @@ QStringList NameFilters(const Text& filter)
         filters << caption + " (" + PatternsOf(parts[i + 1]).join(' ') + ")";
     }
     return filters;
-}
-
-bool IsWindowsPath(const QString& typed)
-{
-    static const QRegularExpression drive("^[A-Za-z]:[\\\\/]");
-    return drive.match(typed).hasMatch();
 }
 
 /// "*.ini" instead of a name, which no file of Windows has.
@@ -96,7 +91,7 @@ void FileDialog::LetWindowsPathsBeTyped()
     connect(field, &QLineEdit::textChanged, this, [this, buttons](const QString& typed) {
         const auto which =
             acceptMode() == AcceptSave ? QDialogButtonBox::Save : QDialogButtonBox::Open;
-        if (IsWindowsPath(typed.trimmed()) || IsPattern(typed))
+        if (IsDrivePath(FromQt(typed.trimmed())) || IsPattern(typed))
             buttons->button(which)->setEnabled(true);
     });
 }
@@ -162,7 +157,7 @@ bool FileDialog::TakeTypedPattern()
 bool FileDialog::TakeTypedWindowsPath()
 {
     auto* field = findChild<QLineEdit*>("fileNameEdit");
-    if (!field || !IsWindowsPath(field->text().trimmed()))
+    if (!field || !IsDrivePath(FromQt(field->text().trimmed())))
         return true;
     const QString typed = field->text().trimmed();
     const auto hostPath = paths_.toHost(FromQt(typed));

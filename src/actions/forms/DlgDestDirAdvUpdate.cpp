@@ -1,7 +1,7 @@
 #include "actions/forms/DlgDestDirAdvUpdate.h"
 
 #include "platform/registry_roots.h"
-#include "project/dialog_keys.h"
+#include "project/text_limits.h"
 
 #include <QtWidgets>
 
@@ -13,20 +13,15 @@ using section::Updates;
 
 constexpr int kKeyCharacters = 45;
 
-int Longest(Text Updates::*field)
-{
-    return LongestText(section::kUpdates, field);
-}
-
 } // namespace
 
 DlgDestDirAdvUpdate::DlgDestDirAdvUpdate(Updates& updates, Session& session, QWidget* parent)
     : EditorForm("DlgDestDirAdvUpdate", "Uppdateringar - Avancerat", session, parent)
 {
     Choice(NAMED(ComboHKEY), kRegistryRoots, updates.AdvUpdateRegHKEYIndex);
-    Field(NAMED(tSubKey), updates.AdvUpdateRegSubKey, Longest(&Updates::AdvUpdateRegSubKey));
+    Field(NAMED(tSubKey), updates.AdvUpdateRegSubKey, MaxTextLength(&Updates::AdvUpdateRegSubKey));
     Field(NAMED(tValueName), updates.AdvUpdateRegValueName,
-          Longest(&Updates::AdvUpdateRegValueName));
+          MaxTextLength(&Updates::AdvUpdateRegValueName));
     Check(NAMED(cAlwaysUseUserDefKey),
           "Hämta alltid uppdateringsinformation från ovanstående nyckel ifall den existerar",
           updates.AdvUpdateRegAlwaysUseUserDefKey);

@@ -2,7 +2,7 @@
 
 #include "helpers/number_text.h"
 #include "platform/registry_roots.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 
 #include <QtWidgets>
 
@@ -12,19 +12,15 @@ namespace {
 
 constexpr int kKeyCharacters = 60;
 
-int Longest(Text section::RunAppSelfX::*field)
-{
-    return LongestText(section::kRunAppSelfX, field);
-}
-
 } // namespace
 
 DlgGetRegKey::DlgGetRegKey(section::RunAppSelfX& program, Session& session, QWidget* parent)
     : EditorForm("DlgGetRegKey", "Specificera Registry-nyckel", session, parent)
 {
     MakeRoots(program.DD_iHKEYIndex);
-    Field(NAMED(tSubKey), program.DD_sSubKey, Longest(&section::RunAppSelfX::DD_sSubKey));
-    Field(NAMED(tValueName), program.DD_sValueName, Longest(&section::RunAppSelfX::DD_sValueName));
+    Field(NAMED(tSubKey), program.DD_sSubKey, MaxTextLength(&section::RunAppSelfX::DD_sSubKey));
+    Field(NAMED(tValueName), program.DD_sValueName,
+          MaxTextLength(&section::RunAppSelfX::DD_sValueName));
     Arrange(VBox({
         Note("Här kan du specificera var i Registry som %DESTDIR (huvuddestinationskatalogen) ska "
              "hämta sitt nya värde."),

@@ -2,7 +2,7 @@
 
 #include "actions/forms/DlgGetRegKey.h"
 #include "actions/kept_path.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/PathLabel.h"
 #include "ui/qt_text.h"
@@ -17,11 +17,6 @@ namespace {
 
 constexpr int kLettersOfParameters = 50;
 constexpr PathKind kProgram{"Programmet", "Lägg programmet i en katalog närmare roten."};
-
-int Longest(Text RunAppSelfX::*field)
-{
-    return LongestText(section::kRunAppSelfX, field);
-}
 
 } // namespace
 
@@ -52,7 +47,7 @@ Piece DlgInstallOptInternetAdv::ProgramFrame()
 {
     RunAppSelfX& program = edited_.program;
     Named(NAMED(sProgramFilename), new PathLabel);
-    Field(NAMED(tParam), program.Param, Longest(&RunAppSelfX::Param));
+    Field(NAMED(tParam), program.Param, MaxTextLength(&RunAppSelfX::Param));
     Option(NAMED(oVisible), "Programmet är &visuellt och har ett grafiskt gränssnitt",
            program.VisibleWin);
     Named(NAMED(oInvisible),
@@ -70,9 +65,11 @@ Piece DlgInstallOptInternetAdv::ProgramFrame()
 Piece DlgInstallOptInternetAdv::ReturnValuesFrame()
 {
     RunAppSelfX& program = edited_.program;
-    Field(NAMED(tReturnValueExit), program.ReturnValueExit, Longest(&RunAppSelfX::ReturnValueExit));
-    Field(NAMED(tReturnValueBack), program.ReturnValueBack, Longest(&RunAppSelfX::ReturnValueBack));
-    Field(NAMED(tReturnValueDD), program.ReturnValueDD, Longest(&RunAppSelfX::ReturnValueDD));
+    Field(NAMED(tReturnValueExit), program.ReturnValueExit,
+          MaxTextLength(&RunAppSelfX::ReturnValueExit));
+    Field(NAMED(tReturnValueBack), program.ReturnValueBack,
+          MaxTextLength(&RunAppSelfX::ReturnValueBack));
+    Field(NAMED(tReturnValueDD), program.ReturnValueDD, MaxTextLength(&RunAppSelfX::ReturnValueDD));
     Button(NAMED(CmdSelRegKey), "&Specificera nyckel i Registry...", [this] { SelectRegKey(); });
     return Frame("Hantering av returvärden",
                  {Fields({
@@ -86,11 +83,11 @@ Piece DlgInstallOptInternetAdv::ReturnValuesFrame()
 void DlgInstallOptInternetAdv::SelectProgram()
 {
     Text folder = "C:\\";
-    const auto path =
-        ChooseKeptPath({.title = "Välj programfil",
-                        .filter = "Programfiler (*.exe)|*.exe",
-                        .defaultExtension = ".exe"},
-                       folder, Longest(&RunAppSelfX::ProgramFilename), kProgram, session_.ask);
+    const auto path = ChooseKeptPath({.title = "Välj programfil",
+                                      .filter = "Programfiler (*.exe)|*.exe",
+                                      .defaultExtension = ".exe"},
+                                     folder, MaxTextLength(&RunAppSelfX::ProgramFilename), kProgram,
+                                     session_.ask);
     if (!path)
         return;
     edited_.program.ProgramFilename = *path;

@@ -2,7 +2,7 @@
 
 #include "actions/forms/DlgInstallOptInternetAdv.h"
 #include "actions/kept_path.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
@@ -17,16 +17,6 @@ using section::Sign;
 namespace {
 
 constexpr PathKind kFile{"Filen", "Lägg filen i en katalog närmare roten."};
-
-int Longest(Text InstallOptionsInternet::*field)
-{
-    return LongestText(section::kInstallOptionsInternet, field);
-}
-
-int Longest(Text Sign::*field)
-{
-    return LongestText(section::kSign, field);
-}
 
 } // namespace
 
@@ -196,12 +186,12 @@ QWidget* DlgInstallOptions::InternetTab()
 {
     InstallOptionsInternet& internet = session_.project.InstallOptionsInternet;
     Field(NAMED(tSelfExtractFilename), internet.SelfExtractFilename,
-          Longest(&InstallOptionsInternet::SelfExtractFilename));
+          MaxTextLength(&InstallOptionsInternet::SelfExtractFilename));
     OnLeave(tSelfExtractFilename, [this] { LeaveSelfExtractFilename(); });
     Field(NAMED(tSelfExtractIconFilename), internet.SelfExtractIconFilename,
-          Longest(&InstallOptionsInternet::SelfExtractIconFilename));
+          MaxTextLength(&InstallOptionsInternet::SelfExtractIconFilename));
     BrowseButton(NAMED(cmdBrowseIcon), "&Bläddra...", tSelfExtractIconFilename,
-                 Longest(&InstallOptionsInternet::SelfExtractIconFilename),
+                 MaxTextLength(&InstallOptionsInternet::SelfExtractIconFilename),
                  {.title = "Välj ikon", .filter = "Ikonfiler (*.ico)|*.ico"});
     Button(NAMED(CmdInternetAdvanced), "&Avancerat...",
            [this] { DlgInstallOptInternetAdv(advanced_, session_, this).ShowModal(); });
@@ -219,14 +209,14 @@ QWidget* DlgInstallOptions::SignTab()
     Sign& sign = session_.project.Sign;
     Check(NAMED(cUseSign), "&Signera självuppackande installationsprogram (för Internet)",
           sign.SignSelfExtractFile);
-    Field(NAMED(tDesc), sign.SignDescription, Longest(&Sign::SignDescription));
-    Field(NAMED(tURL), sign.SignURL, Longest(&Sign::SignURL));
-    Field(NAMED(tSPC), sign.SignSPCFilename, Longest(&Sign::SignSPCFilename));
+    Field(NAMED(tDesc), sign.SignDescription, MaxTextLength(&Sign::SignDescription));
+    Field(NAMED(tURL), sign.SignURL, MaxTextLength(&Sign::SignURL));
+    Field(NAMED(tSPC), sign.SignSPCFilename, MaxTextLength(&Sign::SignSPCFilename));
     BrowseButton(
-        NAMED(cmdBrowseSPC), "&Bläddra...", tSPC, Longest(&Sign::SignSPCFilename),
+        NAMED(cmdBrowseSPC), "&Bläddra...", tSPC, MaxTextLength(&Sign::SignSPCFilename),
         {.title = "Välj certifikationsfil", .filter = "Certifikationsfiler (*.spc)|*.spc"});
-    Field(NAMED(tPVK), sign.SignPVKFilename, Longest(&Sign::SignPVKFilename));
-    BrowseButton(NAMED(cmdBrowsePVK), "B&läddra...", tPVK, Longest(&Sign::SignPVKFilename),
+    Field(NAMED(tPVK), sign.SignPVKFilename, MaxTextLength(&Sign::SignPVKFilename));
+    BrowseButton(NAMED(cmdBrowsePVK), "B&läddra...", tPVK, MaxTextLength(&Sign::SignPVKFilename),
                  {.title = "Välj privat nyckelfil", .filter = "Privata nyckelfiler (*.pvk)|*.pvk"});
     Choice(NAMED(ComboTimeStamp), kTimeStampSystems, sign.SignTimeStampSystem);
     return Group(VBox({

@@ -1,7 +1,7 @@
 #include "actions/forms/DlgRunAppAfter.h"
 
 #include "actions/forms/target_file_field.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 
 #include <QtWidgets>
@@ -13,11 +13,6 @@ namespace {
 using section::RunAppAfter;
 
 constexpr int kFieldCharacters = 50;
-
-int Longest(Text RunAppAfter::*field)
-{
-    return LongestText(section::kRunAppAfter, field);
-}
 
 QWidget* ProgramFrame(const Text& caption, QLineEdit* name, QLineEdit* parameters)
 {
@@ -33,10 +28,10 @@ DlgRunAppAfter::DlgRunAppAfter(Session& session, QWidget* parent)
     : EditorForm("DlgRunAppAfter", "Kör följande program efter installation", session, parent)
 {
     RunAppAfter& run = session.project.RunAppAfter;
-    Field(NAMED(tProgramName1), run.AppFileName1, Longest(&RunAppAfter::AppFileName1));
-    Field(NAMED(tParameters1), run.AppParam1, Longest(&RunAppAfter::AppParam1));
-    Field(NAMED(tProgramName2), run.AppFileName2, Longest(&RunAppAfter::AppFileName2));
-    Field(NAMED(tParameters2), run.AppParam2, Longest(&RunAppAfter::AppParam2));
+    Field(NAMED(tProgramName1), run.AppFileName1, MaxTextLength(&RunAppAfter::AppFileName1));
+    Field(NAMED(tParameters1), run.AppParam1, MaxTextLength(&RunAppAfter::AppParam1));
+    Field(NAMED(tProgramName2), run.AppFileName2, MaxTextLength(&RunAppAfter::AppFileName2));
+    Field(NAMED(tParameters2), run.AppParam2, MaxTextLength(&RunAppAfter::AppParam2));
     for (QLineEdit* program : {tProgramName1, tProgramName2})
         EditTargetFile(program, "Filnamn", session.ask);
     Arrange(VBox({

@@ -3,7 +3,7 @@
 #include "actions/after_install.h"
 #include "actions/forms/target_file_field.h"
 #include "filelist/view/status_text.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 
@@ -17,26 +17,21 @@ using Document = section::ShowDocAfter;
 
 constexpr int kFieldCharacters = 50;
 
-int Longest(Text Document::*field)
-{
-    return LongestText(section::kShowDocAfter, field);
-}
-
 } // namespace
 
 DlgShowDocAfter::DlgShowDocAfter(Session& session, QWidget* parent)
     : EditorForm("DlgShowDocAfter", "Visa dokument efter installation", session, parent)
 {
     Document& shown = session.project.ShowDocAfter;
-    Field(NAMED(tDocumentFileName), shown.DocFileName, Longest(&Document::DocFileName));
+    Field(NAMED(tDocumentFileName), shown.DocFileName, MaxTextLength(&Document::DocFileName));
     EditTargetFile(tDocumentFileName, "Dokument", session.ask);
     Check(NAMED(cShowCheckBox), "&Visa extra kryssruta i dialogrutan 'Installationen avslutad'",
           shown.ShowCheckBox);
-    Field(NAMED(tCheckBoxText), shown.CheckBoxText, Longest(&Document::CheckBoxText));
+    Field(NAMED(tCheckBoxText), shown.CheckBoxText, MaxTextLength(&Document::CheckBoxText));
     Check(NAMED(cUseInternalRTFBox), "Visa &RTF-dokument direkt i installationsprogrammet",
           shown.UseInternalRTFBox);
     Field(NAMED(tInternalRTFBoxDlgTitle), shown.InternalRTFBoxDlgTitle,
-          Longest(&Document::InternalRTFBoxDlgTitle));
+          MaxTextLength(&Document::InternalRTFBoxDlgTitle));
     // As with OK and Cancel, a press must not leave the document's field: the box of its check
     // would take the release, and nothing be ticked.
     for (QCheckBox* box : {cShowCheckBox, cUseInternalRTFBox})

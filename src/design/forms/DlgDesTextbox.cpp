@@ -1,6 +1,7 @@
 #include "design/forms/DlgDesTextbox.h"
 
 #include "design/number_fields.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 
@@ -13,11 +14,6 @@ namespace {
 using section::DesTextBox;
 
 constexpr int kFieldCharacters = 40;
-
-int Longest(Text DesTextBox::*field)
-{
-    return LongestText(section::kDesTextBox, field);
-}
 
 } // namespace
 
@@ -41,8 +37,8 @@ DlgDesTextbox::DlgDesTextbox(Session& session, QWidget* parent)
 
 Piece DlgDesTextbox::TextFrame()
 {
-    Field(NAMED(tTitleText), box_.BoxTitle, Longest(&DesTextBox::BoxTitle));
-    Area(NAMED(tBoxText), box_.BoxText, Longest(&DesTextBox::BoxText));
+    Field(NAMED(tTitleText), box_.BoxTitle, MaxTextLength(&DesTextBox::BoxTitle));
+    Area(NAMED(tBoxText), box_.BoxText, MaxTextLength(&DesTextBox::BoxText));
     Named(NAMED(sBoxTitleFont), new QLabel(ToQt(DescriptionOf(box_, kBoxTitleFont))),
           "Rubrikens teckensnitt");
     Named(NAMED(sBoxTextFont), new QLabel(ToQt(DescriptionOf(box_, kBoxTextFont))),

@@ -1,6 +1,6 @@
 #include "filelist/forms/DlgCompMoreDataAdv.h"
 
-#include "project/dialog_keys.h"
+#include "project/text_limits.h"
 #include "ui/typed_text.h"
 
 #include <QtWidgets>
@@ -10,11 +10,6 @@ namespace quillon {
 namespace {
 
 using section::FileComponent;
-
-int Longest(Text FileComponent::*field)
-{
-    return LongestText(section::kFileComponent, field);
-}
 
 } // namespace
 
@@ -26,11 +21,11 @@ DlgCompMoreDataAdv::DlgCompMoreDataAdv(FileComponent& component, Session& sessio
             "installerad",
             component.CompAdvOnlyUpdate);
     Field(NAMED(tUpdateReferenceFile), component.CompAdvUpdateRefFile,
-          Longest(&FileComponent::CompAdvUpdateRefFile));
+          MaxTextLength(&FileComponent::CompAdvUpdateRefFile));
     Field(NAMED(tUpdateInfoBoxTitle), component.CompAdvUpdateInfoBoxTitle,
-          Longest(&FileComponent::CompAdvUpdateInfoBoxTitle));
+          MaxTextLength(&FileComponent::CompAdvUpdateInfoBoxTitle));
     Area(NAMED(tUpdateInfoBoxText), component.CompAdvUpdateInfoBoxText,
-         Longest(&FileComponent::CompAdvUpdateInfoBoxText));
+         MaxTextLength(&FileComponent::CompAdvUpdateInfoBoxText));
     KeepOneLine(tUpdateInfoBoxText);
     Arrange(VBox({
         Frame("Uppdatering av komponent",

@@ -11,18 +11,24 @@ DlgCopyOptions::DlgCopyOptions(const CopyOptionTicks& ticks, QWidget* parent)
 {
     for (std::size_t box = 0; box < boxes_.size(); ++box)
         MakeBox(box, ticks[box]);
-    AtMostOne({BoxOf('D'), BoxOf('V'), BoxOf('N')});
+    AtMostOne({BoxOf(CopyLetter::kDateCheck), BoxOf(CopyLetter::kVersionCheck),
+               BoxOf(CopyLetter::kNeverReplace)});
     Arrange(VBox({
         HBox({
             Growing(VBox({
-                Frame("Före kopiering", {BoxOf('D'), BoxOf('V'), BoxOf('N')}),
-                Frame("Efter kopiering", {BoxOf('R'), BoxOf('P')}),
-                Frame("Avinstallation", {BoxOf('*')}),
+                Frame("Före kopiering",
+                      {BoxOf(CopyLetter::kDateCheck), BoxOf(CopyLetter::kVersionCheck),
+                       BoxOf(CopyLetter::kNeverReplace)}),
+                Frame("Efter kopiering",
+                      {BoxOf(CopyLetter::kRegister), BoxOf(CopyLetter::kSetWriteProtection)}),
+                Frame("Avinstallation", {BoxOf(CopyLetter::kNeverUninstall)}),
                 Stretch(),
             })),
             Growing(VBox({
                 Frame("Special",
-                      {BoxOf('E'), BoxOf('X'), BoxOf('A'), BoxOf('S'), BoxOf('W'), BoxOf('B')}),
+                      {BoxOf(CopyLetter::kNotIfEqualVersion), BoxOf(CopyLetter::kWarnIfExists),
+                       BoxOf(CopyLetter::kActiveFile), BoxOf(CopyLetter::kShared),
+                       BoxOf(CopyLetter::kWriteProtected), BoxOf(CopyLetter::kBackup)}),
                 Stretch(),
             })),
         }),

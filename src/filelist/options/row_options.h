@@ -2,6 +2,7 @@
 // them looks for single letters, so the order matters for writing only.
 #pragma once
 
+#include "formats/copy_letters.h"
 #include "helpers/text.h"
 
 #include <array>
@@ -19,19 +20,19 @@ struct CopyOption {
 
 // clang-format off
 inline constexpr std::array<CopyOption, 13> kCopyOptions{{
-    {'D', "cDateTimeCheck", "Kontrollera &datum och tid", "compare date and time with an existing file"},
-    {'V', "cVersionCheck", "Kontrollera &version", "compare version numbers"},
-    {'N', "cNeverReplace", "&Ersätt aldrig existerande fil", "never replace an existing file"},
-    {'X', "cWarnIfExist", "Var&na alltid om en fil redan existerar", "always warn if the file exists"},
-    {'R', "cRegisterFile", "&Registrera fil", "register the file after copying"},
-    {'A', "cActiveFile", "Hantera &aktiv fil", "handle a file that is in use"},
-    {'S', "cSharedFile", "&Filen delas med andra program", "the file is shared with other programs"},
-    {'W', "cWriteProtected", "Ersät&t även skrivskyddad fil", "replace also a write-protected file"},
-    {'P', "cSetWriteProtection", "&Sätt på skrivskydd", "set write protection after copying"},
-    {'B', "cMakeBackup", "Säkerhetskopiera alltid e&xisterande fil", "always back the existing file up"},
-    {'E', "cVersionNoCopyIfEqual", "&Kopiera inte om samma version", "no copy if the versions are equal; only together with V"},
-    {'*', "cNoUninstall", "Denna fil f&år aldrig avinstalleras", "this file is never uninstalled"},
-    {'F', "", "", "register the file as a font; only on .ttf rows, as DWF or DWFN"},
+    {CopyLetter::kDateCheck, "cDateTimeCheck", "Kontrollera &datum och tid", "compare date and time with an existing file"},
+    {CopyLetter::kVersionCheck, "cVersionCheck", "Kontrollera &version", "compare version numbers"},
+    {CopyLetter::kNeverReplace, "cNeverReplace", "&Ersätt aldrig existerande fil", "never replace an existing file"},
+    {CopyLetter::kWarnIfExists, "cWarnIfExist", "Var&na alltid om en fil redan existerar", "always warn if the file exists"},
+    {CopyLetter::kRegister, "cRegisterFile", "&Registrera fil", "register the file after copying"},
+    {CopyLetter::kActiveFile, "cActiveFile", "Hantera &aktiv fil", "handle a file that is in use"},
+    {CopyLetter::kShared, "cSharedFile", "&Filen delas med andra program", "the file is shared with other programs"},
+    {CopyLetter::kWriteProtected, "cWriteProtected", "Ersät&t även skrivskyddad fil", "replace also a write-protected file"},
+    {CopyLetter::kSetWriteProtection, "cSetWriteProtection", "&Sätt på skrivskydd", "set write protection after copying"},
+    {CopyLetter::kBackup, "cMakeBackup", "Säkerhetskopiera alltid e&xisterande fil", "always back the existing file up"},
+    {CopyLetter::kNotIfEqualVersion, "cVersionNoCopyIfEqual", "&Kopiera inte om samma version", "no copy if the versions are equal; only together with V"},
+    {CopyLetter::kNeverUninstall, "cNoUninstall", "Denna fil f&år aldrig avinstalleras", "this file is never uninstalled"},
+    {CopyLetter::kFont, "", "", "register the file as a font; only on .ttf rows, as DWF or DWFN"},
 }};
 // clang-format on
 

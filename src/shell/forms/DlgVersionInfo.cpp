@@ -1,6 +1,6 @@
 #include "shell/forms/DlgVersionInfo.h"
 
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 
 #include <QtWidgets>
@@ -11,11 +11,6 @@ namespace {
 
 using section::Version;
 
-int Longest(Text Version::*field)
-{
-    return LongestText(section::kVersion, field);
-}
-
 } // namespace
 
 DlgVersionInfo::DlgVersionInfo(Session& session, QWidget* parent)
@@ -25,15 +20,15 @@ DlgVersionInfo::DlgVersionInfo(Session& session, QWidget* parent)
     Arrange(VBox({
         Fields({
             {"&Företagsnamn:", MinWidth(45, Field(NAMED(tVerOrganization), version.CompanyName,
-                                                  Longest(&Version::CompanyName)))},
-            {"&Produktnamn:",
-             Field(NAMED(tVerProductName), version.ProductName, Longest(&Version::ProductName))},
-            {"&Beskrivning:",
-             Field(NAMED(tVerDescription), version.Description, Longest(&Version::Description))},
+                                                  MaxTextLength(&Version::CompanyName)))},
+            {"&Produktnamn:", Field(NAMED(tVerProductName), version.ProductName,
+                                    MaxTextLength(&Version::ProductName))},
+            {"&Beskrivning:", Field(NAMED(tVerDescription), version.Description,
+                                    MaxTextLength(&Version::Description))},
             {"&Versionsnummer:", Field(NAMED(tVerProductVersion), version.ProductVersion,
-                                       Longest(&Version::ProductVersion))},
+                                       MaxTextLength(&Version::ProductVersion))},
             {"&Kommentar:",
-             Field(NAMED(tVerComments), version.Comments, Longest(&Version::Comments))},
+             Field(NAMED(tVerComments), version.Comments, MaxTextLength(&Version::Comments))},
         }),
         Stretch(),
         OkCancel(),

@@ -1,7 +1,7 @@
 #include "actions/forms/pages/PageEditor.h"
 
 #include "actions/forms/pages/PictureChoice.h"
-#include "project/dialog_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 
 #include <QtWidgets>
@@ -15,11 +15,6 @@ using section::DialogBoxData;
 constexpr PictureChoiceNames kOwnPicture{"Sidans bild", "cmdSelectBitmap", "cmdStdBitmap",
                                          "sBitmapFilename", "PictureBitmap"};
 
-int Longest(Text DialogBoxData::*field)
-{
-    return LongestText(section::kDialogBoxData, field);
-}
-
 } // namespace
 
 PageEditor::PageEditor(const char* name, DialogSwitch page, Session& session, QWidget* parent)
@@ -29,13 +24,13 @@ PageEditor::PageEditor(const char* name, DialogSwitch page, Session& session, QW
 
 QLineEdit* PageEditor::Line(QLineEdit*& member, const char* name, Text DialogBoxData::*field)
 {
-    return Field(member, name, data_.*field, Longest(field));
+    return Field(member, name, data_.*field, MaxTextLength(field));
 }
 
 QPlainTextEdit* PageEditor::Lines(QPlainTextEdit*& member, const char* name,
                                   Text DialogBoxData::*field)
 {
-    return Area(member, name, data_.*field, Longest(field));
+    return Area(member, name, data_.*field, MaxTextLength(field));
 }
 
 PictureChoice* PageEditor::OwnPicture(Text DialogBoxData::*field, Text& shown)

@@ -1,12 +1,12 @@
 // QNS32X: the setup proper. The starter copies it to a private folder and hands it the package's
 // folder, so that the disk with the package can be changed while it works.
+#include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
 #include "runtime/failure_reason.h"
-#include "runtime/package_names.h"
 #include "runtime/setup_program.h"
 #include "runtime/silent_ask.h"
 #include "runtime/win32/library_container.h"
@@ -25,8 +25,10 @@ namespace {
 
 Text UnzipLibrary(const FileSystem& files, const Text& packageFolder)
 {
-    const Text own = JoinPath(ProgramFolder(), RuntimeFile::kUnzipLibrary);
-    return files.FileExists(own) ? own : JoinPath(packageFolder, RuntimeFile::kUnzipLibrary);
+    const Text own = JoinPath(ProgramFolder(), RuntimePrograms::kUnzipLibrary.inPackage);
+    return files.FileExists(own)
+               ? own
+               : JoinPath(packageFolder, RuntimePrograms::kUnzipLibrary.inPackage);
 }
 
 // No private folder either: a test leaves nothing on the machine.
@@ -57,7 +59,7 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     const LoadedPackage package = LoadPackage(files, switches.packageFolder);
     texts = package.texts;
     const PrivateFolder work(host);
-    WinTarget target(JoinPath(work.Path(), RuntimeFile::kRegistryHelper));
+    WinTarget target(JoinPath(work.Path(), RuntimePrograms::kRegistryHelper.inPackage));
     const auto run = [&](Ask& ask) {
         return RunSetup({host, target, ask,
                          LibraryContainers(UnzipLibrary(files, switches.packageFolder)), switches,

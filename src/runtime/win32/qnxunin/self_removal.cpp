@@ -1,5 +1,6 @@
 #include "runtime/win32/qnxunin/self_removal.h"
 
+#include "formats/runtime_programs.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/win32/open_file.h"
@@ -17,7 +18,7 @@ namespace quillon {
 namespace {
 
 constexpr const char* kMovedProgram = "QNXUNIN.TMP";
-constexpr const char* kCleaner = "QNXUNIN.EXE";
+constexpr const char* kCleaner = RuntimePrograms::kUninstaller.name;
 constexpr std::string_view kSwitch =
     "/CLEAN="; // <the first one's process>,<the cleaner's own file>
 

@@ -1,0 +1,22 @@
+// The programs of the setup, by their names on the machine and in a package, where nothing but the
+// starter looks runnable.
+#pragma once
+
+namespace quillon {
+
+struct RuntimeProgram {
+    const char* name;
+    const char* inPackage;
+};
+
+namespace RuntimePrograms {
+// The project names it in a package.
+inline constexpr RuntimeProgram kStarter = {"SETUP32.EXE", nullptr};
+inline constexpr RuntimeProgram kSetup = {"QNS32X.EXE", "QNS32X.BIN"};
+inline constexpr RuntimeProgram kUnzipLibrary = {"DUNZIP32.DLL", "DUNZIP32.DLL"};
+inline constexpr RuntimeProgram kRegistryHelper = {"QNREG32.EXE", "QNREG32.BIN"};
+inline constexpr RuntimeProgram kSecondRegistryHelper = {"QNXREG2.EXE", "QNXREG2.BIN"};
+inline constexpr RuntimeProgram kUninstaller = {"QNXUNIN.EXE", "QNXUNIN.BIN"};
+} // namespace RuntimePrograms
+
+} // namespace quillon
