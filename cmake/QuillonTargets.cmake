@@ -35,7 +35,13 @@ if(QUILLON_SANITIZE)
   add_compile_options(-Wno-maybe-uninitialized)
 endif()
 if(QUILLON_FUZZ)
-  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+  # Its name tells its content, since the compiler's cache does not look into it, and the path is
+  # the same in every clone.
+  file(MD5 ${CMAKE_SOURCE_DIR}/fuzz/uncovered.txt uncovered)
+  configure_file(${CMAKE_SOURCE_DIR}/fuzz/uncovered.txt
+                 ${CMAKE_BINARY_DIR}/uncovered-${uncovered}.txt COPYONLY)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+                      -fsanitize-coverage-ignorelist=uncovered-${uncovered}.txt)
   add_link_options(-fsanitize=address,undefined)
 endif()
 

@@ -1,10 +1,9 @@
 #include "helpers/ansi_text.h"
 
+#include "helpers/ascii.h"
 #include "helpers/utf8.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <iterator>
 #include <optional>
 
@@ -36,22 +35,6 @@ std::optional<char> ByteOf(char32_t codePoint)
     if (found == std::end(kSpecials))
         return std::nullopt;
     return static_cast<char>(kFirstSpecial + (found - std::begin(kSpecials)));
-}
-
-// How much of the text from `begin` on is ASCII, which both forms write alike. Nearly all of every
-// file is, so it is looked at eight bytes at a time.
-std::size_t AsciiLength(std::string_view text, std::size_t begin)
-{
-    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
-    std::size_t end = begin;
-    for (std::uint64_t word = 0; end + sizeof word <= text.size(); end += sizeof word) {
-        std::memcpy(&word, text.data() + end, sizeof word);
-        if ((word & kHighBits) != 0)
-            break;
-    }
-    while (end < text.size() && static_cast<unsigned char>(text[end]) < kFirstSpecial)
-        ++end;
-    return end - begin;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "helpers/line_breaks.h"
 
+#include "helpers/ascii.h"
 #include "helpers/utf8.h"
 
 namespace quillon {
@@ -39,6 +40,11 @@ Text DecodeLineBreaks(std::string_view text)
 {
     Text decoded;
     for (std::size_t position = 0; position < text.size();) {
+        const std::size_t plain = AsciiLength(text, position);
+        decoded.append(text.substr(position, plain));
+        position += plain;
+        if (position == text.size())
+            break;
         const std::size_t start = position;
         if (NextCodePoint(text, position) != kBreakMark) {
             decoded.append(text.substr(start, position - start));

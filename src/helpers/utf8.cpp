@@ -1,5 +1,7 @@
 #include "helpers/utf8.h"
 
+#include "helpers/ascii.h"
+
 namespace quillon {
 
 namespace {
@@ -52,7 +54,8 @@ char32_t NextCodePoint(std::string_view text, std::size_t& position)
 
 bool IsUtf8(std::string_view text)
 {
-    for (std::size_t position = 0; position < text.size();) {
+    for (std::size_t position = AsciiLength(text); position < text.size();
+         position += AsciiLength(text, position)) {
         const std::size_t start = position;
         // A replacement character that stands in the text has three bytes.
         if (NextCodePoint(text, position) == kReplacementCharacter && position == start + 1)

@@ -3,6 +3,7 @@
 #include "helpers/ansi_text.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace quillon {
 
@@ -21,13 +22,24 @@ ByteTable MakeLowerCaseTable()
     return table;
 }
 
+const ByteTable& LowerCaseTable()
+{
+    static const ByteTable kTable = MakeLowerCaseTable();
+    return kTable;
+}
+
+bool IsBlank(char byte)
+{
+    return byte == ' ' || byte == '\t';
+}
+
 std::string_view WithoutBlanks(std::string_view bytes)
 {
-    constexpr std::string_view kBlanks = " \t";
-    const std::size_t first = bytes.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos)
-        return {};
-    return bytes.substr(first, bytes.find_last_not_of(kBlanks) - first + 1);
+    while (!bytes.empty() && IsBlank(bytes.front()))
+        bytes.remove_prefix(1);
+    while (!bytes.empty() && IsBlank(bytes.back()))
+        bytes.remove_suffix(1);
+    return bytes;
 }
 
 } // namespace
@@ -45,8 +57,10 @@ ProfileLine ProfileLineAt(std::string_view bytes, std::size_t begin)
 std::optional<std::string_view> SectionNameOfLine(std::string_view line)
 {
     line = WithoutBlanks(line);
+    if (!line.starts_with('['))
+        return std::nullopt;
     const std::size_t close = line.rfind(']');
-    if (line.empty() || line.front() != '[' || close == std::string_view::npos)
+    if (close == std::string_view::npos)
         return std::nullopt;
     return line.substr(1, close - 1);
 }
@@ -61,11 +75,30 @@ std::optional<ProfileEntry> EntryOfLine(std::string_view line)
 
 std::string FoldedName(std::string_view bytes)
 {
-    static const ByteTable kLowerCase = MakeLowerCaseTable();
+    const ByteTable& lowerCase = LowerCaseTable();
     std::string folded(bytes);
     for (char& byte : folded)
-        byte = kLowerCase[static_cast<unsigned char>(byte)];
+        byte = lowerCase[static_cast<unsigned char>(byte)];
     return folded;
+}
+
+bool EqualFolded(std::string_view left, std::string_view right)
+{
+    const ByteTable& lowerCase = LowerCaseTable();
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), [&](char a, char b) {
+        return lowerCase[static_cast<unsigned char>(a)] == lowerCase[static_cast<unsigned char>(b)];
+    });
+}
+
+// FNV-1a.
+std::size_t FoldedHash(std::string_view bytes)
+{
+    const ByteTable& lowerCase = LowerCaseTable();
+    std::uint32_t hash = 2166136261U;
+    for (const char byte : bytes)
+        hash = (hash ^ static_cast<unsigned char>(lowerCase[static_cast<unsigned char>(byte)])) *
+               16777619U;
+    return hash;
 }
 
 std::string_view BareValue(std::string_view bytes)

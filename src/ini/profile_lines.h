@@ -34,6 +34,10 @@ std::optional<ProfileEntry> EntryOfLine(std::string_view line);
 
 /// The form in which names are compared: the letters of Windows-1252 in lower case.
 std::string FoldedName(std::string_view bytes);
+/// The comparison without making that form.
+bool EqualFolded(std::string_view left, std::string_view right);
+/// The same for equal names.
+std::size_t FoldedHash(std::string_view bytes);
 
 /// Without the blanks round it, then without one matching pair of quotation marks.
 std::string_view BareValue(std::string_view bytes);

@@ -1,6 +1,7 @@
 #include "ini/profile_reader.h"
 
 #include "helpers/ansi_text.h"
+#include "helpers/ascii.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 
@@ -49,34 +50,34 @@ void ProfileReader::SetIniBytes(std::string bytes)
     SelectKeys();
 }
 
-void ProfileReader::SetIniSection(const Text& name)
+void ProfileReader::SetIniSection(std::string_view name)
 {
     section_ = FoldedName(AnsiText::ToBytes(name));
     SelectKeys();
 }
 
-Text ProfileReader::ReadIniString(const Text& key, int limit) const
+Text ProfileReader::ReadIniString(std::string_view key, int limit) const
 {
     return limit > kMaxLimit ? kLimitTooLarge : ReadText(key, limit);
 }
 
-Text ProfileReader::ReadIniLongString(const Text& key, int limit) const
+Text ProfileReader::ReadIniLongString(std::string_view key, int limit) const
 {
     return limit > kMaxLongLimit ? kLimitTooLarge : ReadText(key, limit);
 }
 
-Integer ProfileReader::ReadIniIntegerDefault(const Text& key, Integer whenMissing) const
+Integer ProfileReader::ReadIniIntegerDefault(std::string_view key, Integer whenMissing) const
 {
     const auto value = Find(key);
     return value ? Fitting<Integer>(LeadingNumber(*value)) : whenMissing;
 }
 
-Long ProfileReader::ReadIniLong(const Text& key) const
+Long ProfileReader::ReadIniLong(std::string_view key) const
 {
     return Fitting<Long>(LeadingNumber(Find(key).value_or("")));
 }
 
-Flag ProfileReader::ReadFlag(const Text& key, Flag whenMissing) const
+Flag ProfileReader::ReadFlag(std::string_view key, Flag whenMissing) const
 {
     const auto value = Find(key);
     if (!value)
@@ -84,7 +85,7 @@ Flag ProfileReader::ReadFlag(const Text& key, Flag whenMissing) const
     return LeadingNumber(*value) == 1 ? kOn : kOff;
 }
 
-Text ProfileReader::ReadText(const Text& key, int limit) const
+Text ProfileReader::ReadText(std::string_view key, int limit) const
 {
     const std::string_view value = Find(key).value_or("");
     const auto longest = static_cast<std::size_t>(limit > 0 ? limit - 1 : 0);
@@ -92,11 +93,13 @@ Text ProfileReader::ReadText(const Text& key, int limit) const
     return AnsiText::FromBytes(fitting.substr(0, fitting.find('\0')));
 }
 
-std::optional<std::string_view> ProfileReader::Find(const Text& key) const
+std::optional<std::string_view> ProfileReader::Find(std::string_view key) const
 {
     if (!keys_)
         return std::nullopt;
-    const auto found = keys_->find(FoldedName(AnsiText::ToBytes(key)));
+    const std::string converted = IsAscii(key) ? std::string() : AnsiText::ToBytes(key);
+    const std::string_view name = converted.empty() ? key : converted;
+    const auto found = keys_->find(name);
     return found == keys_->end() ? std::nullopt : std::optional(BareValue(found->second));
 }
 
@@ -116,7 +119,7 @@ ProfileReader::Keys ProfileReader::KeysIn(ProfileSections::Range range) const
         const ProfileLine line = ProfileLineAt(bytes_, position);
         position = line.next;
         if (const auto entry = EntryOfLine(line.text))
-            keys.try_emplace(FoldedName(entry->key), entry->value);
+            keys.try_emplace(entry->key, entry->value);
     }
     return keys;
 }

@@ -27,39 +27,49 @@ public:
     void SetIniFile(const FileSystem& files, const Text& path);
     /// The same for a file that is already in memory.
     void SetIniBytes(std::string bytes);
-    void SetIniSection(const Text& name);
+    void SetIniSection(std::string_view name);
 
     /// `limit` is the size of the buffer: the longest value has one byte less. A limit beyond 5000
     /// gives the text "Overflow!!!".
-    Text ReadIniString(const Text& key, int limit) const;
+    Text ReadIniString(std::string_view key, int limit) const;
     /// The same with limits up to 16384.
-    Text ReadIniLongString(const Text& key, int limit) const;
+    Text ReadIniLongString(std::string_view key, int limit) const;
 
     // A missing key gives 0, 1 or the default; a value that starts with no number gives 0. A number
     // that the type can't hold throws RunError 6.
-    Integer ReadIniInteger(const Text& key) const { return ReadIniIntegerDefault(key, 0); }
-    Integer ReadIniInteger1(const Text& key) const { return ReadIniIntegerDefault(key, 1); }
-    Integer ReadIniIntegerDefault(const Text& key, Integer whenMissing) const;
-    Long ReadIniLong(const Text& key) const;
+    Integer ReadIniInteger(std::string_view key) const { return ReadIniIntegerDefault(key, 0); }
+    Integer ReadIniInteger1(std::string_view key) const { return ReadIniIntegerDefault(key, 1); }
+    Integer ReadIniIntegerDefault(std::string_view key, Integer whenMissing) const;
+    Long ReadIniLong(std::string_view key) const;
 
     /// On when the value is the number 1; every other number is off, -1 among them.
-    Flag ReadIniBoolean(const Text& key) const { return ReadFlag(key, kOff); }
+    Flag ReadIniBoolean(std::string_view key) const { return ReadFlag(key, kOff); }
     /// The same, on when the key is missing.
-    Flag ReadIniBoolean1(const Text& key) const { return ReadFlag(key, kOn); }
+    Flag ReadIniBoolean1(std::string_view key) const { return ReadFlag(key, kOn); }
 
-    bool HasKey(const Text& key) const { return Find(key).has_value(); }
+    bool HasKey(std::string_view key) const { return Find(key).has_value(); }
 
     /// The whole file, for what is no setting in it.
     std::string_view Bytes() const { return bytes_; }
 
 private:
-    using Keys = std::unordered_map<std::string, std::string_view>; // by folded name
+    struct Hash {
+        std::size_t operator()(std::string_view name) const { return FoldedHash(name); }
+    };
+    struct Equal {
+        bool operator()(std::string_view left, std::string_view right) const
+        {
+            return EqualFolded(left, right);
+        }
+    };
+    // By name; both views look into `bytes_`.
+    using Keys = std::unordered_map<std::string_view, std::string_view, Hash, Equal>;
 
-    std::optional<std::string_view> Find(const Text& key) const;
+    std::optional<std::string_view> Find(std::string_view key) const;
     void SelectKeys();
     Keys KeysIn(ProfileSections::Range range) const;
-    Text ReadText(const Text& key, int limit) const;
-    Flag ReadFlag(const Text& key, Flag whenMissing) const;
+    Text ReadText(std::string_view key, int limit) const;
+    Flag ReadFlag(std::string_view key, Flag whenMissing) const;
 
     std::string bytes_;
     ProfileSections sections_;

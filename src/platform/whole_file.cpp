@@ -1,6 +1,7 @@
 #include "platform/whole_file.h"
 
 #include "helpers/ansi_text.h"
+#include "helpers/ascii.h"
 #include "platform/run_error.h"
 
 #include <algorithm>
@@ -55,7 +56,11 @@ AnsiTextFile::~AnsiTextFile()
 
 void AnsiTextFile::Line(std::string_view text)
 {
-    pending_.append(AnsiText::ToBytes(text)).append(kLineBreak);
+    if (IsAscii(text))
+        pending_.append(text);
+    else
+        pending_.append(AnsiText::ToBytes(text));
+    pending_.append(kLineBreak);
     if (pending_.size() >= kPieceSize)
         Flush();
 }

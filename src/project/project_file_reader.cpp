@@ -36,7 +36,7 @@ struct ReadRun {
     Generation generation = Generation::Current;
 };
 
-Text TextFromFile(const ReadRun& run, Stored form, const Text& key, int limit)
+Text TextFromFile(const ReadRun& run, Stored form, std::string_view key, int limit)
 {
     const ProfileReader& reader = run.reader;
     switch (form) {
@@ -58,7 +58,7 @@ Text TextFromFile(const ReadRun& run, Stored form, const Text& key, int limit)
     }
 }
 
-void IntegerFromFile(const ProfileReader& reader, Stored form, const Text& key, Integer& field)
+void IntegerFromFile(const ProfileReader& reader, Stored form, std::string_view key, Integer& field)
 {
     switch (form) {
     case Stored::AsFlag:
@@ -78,18 +78,31 @@ void IntegerFromFile(const ProfileReader& reader, Stored form, const Text& key, 
     }
 }
 
+// What may have to come back of what stood in a record before it was read.
 template <class Record>
-void AfterReading(Record&, const Record&, ReadRun&)
+struct Former {
+    explicit Former(const Record&) {}
+};
+
+template <>
+struct Former<section::DialogBoxes> {
+    explicit Former(const section::DialogBoxes& dialogs) : DlgBitmap(dialogs.DlgBitmap) {}
+    Text DlgBitmap;
+};
+
+template <class Record>
+void AfterReading(Record&, const Former<Record>&, ReadRun&)
 {
 }
 
-void AfterReading(section::InstallOptions& options, const section::InstallOptions&, ReadRun&)
+void AfterReading(section::InstallOptions& options, const Former<section::InstallOptions>&,
+                  ReadRun&)
 {
     if (options.RestartWindows != kOff)
         options.NeverRestartWindows = kOff;
 }
 
-void AfterReading(section::TargetOS& systems, const section::TargetOS&, ReadRun& run)
+void AfterReading(section::TargetOS& systems, const Former<section::TargetOS>&, ReadRun& run)
 {
     if (run.generation == Generation::Third)
         systems = {};
@@ -97,8 +110,8 @@ void AfterReading(section::TargetOS& systems, const section::TargetOS&, ReadRun&
         systems.TargetOS_WinME = systems.TargetOS_WinXP = kOn;
 }
 
-void AfterReading(section::InstallOptionsInternet& options, const section::InstallOptionsInternet&,
-                  ReadRun& run)
+void AfterReading(section::InstallOptionsInternet& options,
+                  const Former<section::InstallOptionsInternet>&, ReadRun& run)
 {
     if (run.generation == Generation::Third)
         options = {.SelfExtractFilename = "Self.exe", .ExpandEXEInWinTempMap = kOff};
@@ -114,7 +127,8 @@ bool IsPictureThere(const FileSystem& files, const Text& path)
     }
 }
 
-void AfterReading(section::DialogBoxes& dialogs, const section::DialogBoxes& before, ReadRun& run)
+void AfterReading(section::DialogBoxes& dialogs, const Former<section::DialogBoxes>& before,
+                  ReadRun& run)
 {
     if (dialogs.DlgBitmap.empty()) {
         dialogs.DlgBitmap = DefaultDlgBitmap(run.toolFolder);
@@ -126,13 +140,13 @@ void AfterReading(section::DialogBoxes& dialogs, const section::DialogBoxes& bef
     }
 }
 
-void AfterReading(section::DesTitle& title, const section::DesTitle&, ReadRun&)
+void AfterReading(section::DesTitle& title, const Former<section::DesTitle>&, ReadRun&)
 {
     if (title.TitleCharInterSpace.empty())
         title.TitleCharInterSpace = "0";
 }
 
-void AfterReading(section::DesTitleUnderline& underline, const section::DesTitleUnderline&,
+void AfterReading(section::DesTitleUnderline& underline, const Former<section::DesTitleUnderline>&,
                   ReadRun&)
 {
     constexpr Integer kThinnest = 3;
@@ -140,7 +154,7 @@ void AfterReading(section::DesTitleUnderline& underline, const section::DesTitle
         underline.UnderlineHeight = kThinnest;
 }
 
-void AfterReading(section::DesLogotype& logotype, const section::DesLogotype&, ReadRun&)
+void AfterReading(section::DesLogotype& logotype, const Former<section::DesLogotype>&, ReadRun&)
 {
     const section::DesLogotype fresh;
     if (logotype.LogotypeWMFWidth < 1)
@@ -159,7 +173,7 @@ public:
     template <class Record, std::size_t count>
     void Section(const char* name, const ProjectKey<Record> (&keys)[count], Record& record)
     {
-        const Record before = record;
+        const Former<Record> before(record);
         Begin(name);
         Keys(keys, record);
         AfterReading(record, before, run_);
@@ -186,7 +200,7 @@ public:
 
 private:
     template <class Record>
-    void ReadKey(const ProjectKey<Record>& key, const Text& name, Record& record)
+    void ReadKey(const ProjectKey<Record>& key, std::string_view name, Record& record)
     {
         if (const auto text = std::get_if<Text Record::*>(&key.field))
             record.** text = TextFromFile(run_, key.form, name, key.limit);

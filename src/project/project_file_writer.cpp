@@ -101,14 +101,14 @@ public:
     void Keys(const ProjectKey<Record> (&keys)[count], const Record& record)
     {
         for (const auto& key : keys)
-            Setting(key.name, ValueOnFile(key, record));
+            WriteKey(key, key.name, record);
     }
 
     template <class Record, std::size_t count>
     void Keys(const ProjectKey<Record> (&keys)[count], const Record& record, int number)
     {
         for (const auto& key : keys)
-            Setting(key.name + NumberText(number), ValueOnFile(key, record));
+            WriteKey(key, key.name + NumberText(number), record);
     }
 
     void NumberedText(const char* key, int number, const Text& text, int)
@@ -116,22 +116,30 @@ public:
         Setting(key + NumberText(number), text);
     }
 
-    void Setting(const Text& key, std::string_view value)
+    void Setting(std::string_view key, std::string_view value)
     {
-        file_.Line((key + " = ").append(value));
+        line_.assign(key).append(" = ").append(value);
+        file_.Line(line_);
     }
 
 private:
     template <class Record>
-    Text ValueOnFile(const ProjectKey<Record>& key, const Record& record) const
+    void WriteKey(const ProjectKey<Record>& key, std::string_view name, const Record& record)
     {
-        if (const auto text = std::get_if<Text Record::*>(&key.field))
-            return TextOnFile(key.form, record.**text, key.limit);
-        if (const auto number = std::get_if<Integer Record::*>(&key.field))
-            return NumberOnFile(key.form, record.**number, screen_);
-        return NumberOnFile(key.form, record.*std::get<Long Record::*>(key.field), screen_);
+        if (const auto text = std::get_if<Text Record::*>(&key.field)) {
+            if (key.form == Stored::AsText)
+                Setting(name, record.**text);
+            else
+                Setting(name, TextOnFile(key.form, record.**text, key.limit));
+        } else if (const auto number = std::get_if<Integer Record::*>(&key.field)) {
+            Setting(name, NumberOnFile(key.form, record.**number, screen_));
+        } else {
+            Setting(name,
+                    NumberOnFile(key.form, record.*std::get<Long Record::*>(key.field), screen_));
+        }
     }
 
+    Text line_; // kept for its memory: a project has hundreds of settings
     AnsiTextFile& file_;
     const ScreenMetrics& screen_;
 };

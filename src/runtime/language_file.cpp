@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace quillon {
 
@@ -50,16 +51,25 @@ Text Name(std::string_view section, std::string_view key)
     return LowerCase(TrimBlanks(section)) + "\n" + LowerCase(TrimBlanks(key));
 }
 
+using Places = std::map<Text, std::size_t>; // by section and key
+
+const Places& PlacesOfTexts()
+{
+    static const Places kPlaces = [] {
+        Places places;
+        for (int i = 0; i < int(Message::Count); ++i)
+            places[Name(KeyOf(Message(i)).section, KeyOf(Message(i)).key)] = std::size_t(i);
+        return places;
+    }();
+    return kPlaces;
+}
+
 /// Goes through the file once: it may be large, and there are many texts to find.
 class LanguageReader {
 public:
     using Texts = std::array<Text, std::size_t(Message::Count)>;
 
-    explicit LanguageReader(Texts& texts) : texts_(texts)
-    {
-        for (std::size_t i = 0; i < texts.size(); ++i)
-            places_[Name(KeyOf(Message(i)).section, KeyOf(Message(i)).key)] = i;
-    }
+    explicit LanguageReader(Texts& texts) : texts_(texts), places_(PlacesOfTexts()) {}
 
     void Read(std::string_view file)
     {
@@ -83,17 +93,17 @@ private:
         if (trimmed.starts_with('[') || equals == Text::npos)
             return;
         const auto place = places_.find(Name(section_, trimmed.substr(0, equals)));
-        if (place == places_.end())
+        // Of two equal keys the first counts.
+        if (place == places_.end() || std::exchange(isRead_[place->second], true))
             return;
         const Text value = TrimBlanks(std::string_view(trimmed).substr(equals + 1));
         if (IsText(value))
             texts_[place->second] = value;
-        // Of two equal keys the first counts.
-        places_.erase(place);
     }
 
     Texts& texts_;
-    std::map<Text, std::size_t> places_;
+    const Places& places_;
+    std::array<bool, std::size_t(Message::Count)> isRead_ = {};
     Text section_;
 };
 
