@@ -3,6 +3,7 @@
 #include "filelist/variables.h"
 #include "filelist/view/totals.h"
 #include "formats/variable_names.h"
+#include "helpers/amount_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "project/new_project.h"
@@ -138,20 +139,6 @@ Text PreviewBitmap(const Project& project, const FileSystem& files, const Text& 
             return standard;
     }
     return bitmap.empty() ? project.DialogBoxes.DlgBitmap : bitmap;
-}
-
-Text SizeText(std::uint64_t kilobytes, char decimalSign)
-{
-    constexpr std::uint64_t kStep = 1024;
-    // From here on nobody counts in the smaller unit.
-    constexpr std::uint64_t kMax = 10'000;
-    constexpr const char* kUnits[] = {" kB", " MB", " GB"};
-    double size = static_cast<double>(kilobytes);
-    std::size_t unit = 0;
-    for (; size >= static_cast<double>(kMax) && unit + 1 < std::size(kUnits); ++unit)
-        size /= static_cast<double>(kStep);
-    const Text number = FormatNumber(size, unit == 0 ? "## ##0" : "## ##0.0", decimalSign);
-    return TrimBlanks(number) + kUnits[unit];
 }
 
 Text NeededSpaceText(const Project& project, const Host& host, Ask& ask)

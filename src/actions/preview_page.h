@@ -20,9 +20,6 @@ Text PreviewMainFolder(const Project& project, const Host& host);
 Text PreviewBitmap(const Project& project, const FileSystem& files, const Text& toolFolder,
                    const Text& bitmap);
 
-/// "812 kB", "12,5 MB", "1 204,0 GB".
-Text SizeText(std::uint64_t kilobytes, char decimalSign);
-
 /// What the files of the project take on the target machine.
 Text NeededSpaceText(const Project& project, const Host& host, Ask& ask);
 /// What is free on the disk of a folder, which need not be there yet.

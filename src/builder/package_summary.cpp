@@ -1,6 +1,6 @@
 #include "builder/package_summary.h"
 
-#include "actions/preview_page.h"
+#include "helpers/amount_text.h"
 #include "helpers/windows_path.h"
 
 #include <algorithm>
@@ -24,21 +24,12 @@ std::optional<std::uint64_t> SizeOfPackage(const CreateRun& run)
     return isWholeDrive || error != ErrorNumber::kNone ? std::nullopt : std::optional(size);
 }
 
-Text TimeText(std::int64_t milliseconds)
-{
-    const std::int64_t seconds = (milliseconds + 500) / 1000;
-    if (seconds == 0)
-        return "mindre än 1 s";
-    const Text rest = NumberText(seconds % 60) + " s";
-    return seconds < 60 ? rest : NumberText(seconds / 60) + " min " + rest;
-}
-
 } // namespace
 
 Text PackageSummary(const CreateRun& run, std::int64_t milliseconds)
 {
     const auto size = SizeOfPackage(run);
-    const Text time = TimeText(milliseconds);
+    const Text time = DurationText(milliseconds);
     if (!size)
         return "Klart på " + time;
     // What is smaller than a kilobyte still takes one.

@@ -6,21 +6,16 @@ namespace quillon {
 
 namespace {
 
-// What comes with the tool is read from its own folder alone.
-constexpr const char* kReadFolders[] = {"Res", "RTF", "Release"};
-constexpr const char* kWrittenFolders[] = {"Language", "Test",      "Projects",
-                                           "Diagnos",  "BugReport", "TEMP"};
+constexpr const char* kToolFolders[] = {
+    "Res",      "Language", "RTF",       "Test", "Release", "Release\\Small32", "Release\\Full32",
+    "Projects", "Diagnos",  "BugReport", "TEMP"};
 
 } // namespace
 
 void MakeToolFolders(const CreateOptions& options, FileSystem& files)
 {
-    for (const char* name : kWrittenFolders)
+    for (const char* name : kToolFolders)
         files.DirCreate(JoinPath(options.OwnFolder, name));
-    if (options.OwnFolder != options.ToolFolder)
-        return;
-    for (const char* name : kReadFolders)
-        files.DirCreate(JoinPath(options.ToolFolder, name));
 }
 
 } // namespace quillon

@@ -6,8 +6,9 @@
 
 namespace quillon {
 
-/// Makes those that are missing where the tool writes. One that can't be made is told by whoever
-/// needs it.
+/// Makes those that are missing beside the tool, or in the user's folder where the tool can't write
+/// beside itself. What comes with the tool is read from its own folder all the same. One that can't
+/// be made is told by whoever needs it.
 void MakeToolFolders(const CreateOptions& options, FileSystem& files);
 
 } // namespace quillon

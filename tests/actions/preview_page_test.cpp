@@ -113,23 +113,6 @@ TEST_F(PreviewPage, ChoosesThePicture)
     }
 }
 
-TEST(SizeText, CountsInUnitsThatCanBeRead)
-{
-    const std::pair<std::uint64_t, const char*> cases[] = {
-        {0, "0 kB"},
-        {812, "812 kB"},
-        {1024, "1 024 kB"},
-        {9999, "9 999 kB"},
-        {10240, "10,0 MB"},
-        {123456, "120,6 MB"},
-        {1048576, "1 024,0 MB"},
-        {10240000, "9,8 GB"},
-        {1073741824, "1 024,0 GB"},
-    };
-    for (const auto& [kilobytes, text] : cases)
-        EXPECT_EQ(SizeText(kilobytes, ','), text) << kilobytes;
-}
-
 TEST_F(PreviewPage, SumsUpWhatTheFilesNeed)
 {
     for (const char* size : {"120", "30"})

@@ -19,6 +19,10 @@ constexpr const char* kOwnProjects = "C:\\Program\\Quillon\\Projects";
 constexpr const char* kOffered = "C:\\Mina dokument\\Quillon\\Mina projekt";
 constexpr const char* kSettings = "C:\\Data\\Roaming\\Quillon\\QUILLON.INI";
 
+constexpr const char* kToolFolders[] = {
+    "Res",      "Language", "RTF",       "Test", "Release", "Release\\Small32", "Release\\Full32",
+    "Projects", "Diagnos",  "BugReport", "TEMP"};
+
 class Start : public testing::Test {
 protected:
     test::MemoryHost memory;
@@ -55,8 +59,7 @@ TEST_F(Start, GivesTheStartValuesOfAMachineThatWasNeverSetUp)
 TEST_F(Start, MakesTheFoldersOfTheTool)
 {
     StartSession(session);
-    for (const char* name :
-         {"Res", "Language", "RTF", "Test", "Release", "Projects", "Diagnos", "BugReport", "TEMP"})
+    for (const char* name : kToolFolders)
         EXPECT_TRUE(memory.files.DirExists(Text(kToolFolder) + "\\" + name)) << name;
 }
 
@@ -65,11 +68,10 @@ TEST_F(Start, WritesInTheUsersFolderWhereTheToolsOwnIsClosed)
     const Text own = "C:\\Data\\Quillon";
     Session closed = NewSession(memory.host, ask, kToolFolder, own);
     StartSession(closed);
-    for (const char* name : {"Language", "Test", "Projects", "Diagnos", "BugReport", "TEMP"}) {
+    for (const char* name : kToolFolders) {
         EXPECT_TRUE(memory.files.DirExists(own + "\\" + name)) << name;
         EXPECT_FALSE(memory.files.DirExists(Text(kToolFolder) + "\\" + name)) << name;
     }
-    EXPECT_FALSE(memory.files.DirExists(own + "\\Res"));
     EXPECT_EQ(closed.ProjectsFolder, own + "\\Projects");
     EXPECT_EQ(closed.options.TempZipPath, own + "\\TEMP");
     EXPECT_EQ(closed.options.ToolFolder, kToolFolder);

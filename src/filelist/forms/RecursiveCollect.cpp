@@ -1,7 +1,9 @@
 #include "filelist/forms/RecursiveCollect.h"
 
 #include "filelist/adding/add_tree_command.h"
+#include "helpers/amount_text.h"
 #include "platform/run_error.h"
+#include "project/total_size.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -29,6 +31,7 @@ RecursiveCollect::RecursiveCollect(const ListWork& work, const TreeToAdd& tree, 
     option(NAMED(oReplaceLevel1InTree), TreeForm::ReplaceStart)->setChecked(true);
     option(NAMED(oConcatTree), TreeForm::WholePath);
     Named(NAMED(sSearchStatus), new QLabel);
+    Named(NAMED(lblSummary), new QLabel);
     Named(NAMED(sNumberFiles), new QLabel("0"));
     Button(NAMED(cmdStart), "Addera &filer", [this] { Start(); });
     Button(NAMED(cmdClose), "&Stäng", [this] { reject(); });
@@ -37,7 +40,7 @@ RecursiveCollect::RecursiveCollect(const ListWork& work, const TreeToAdd& tree, 
         Note("Välj hur katalogträdet ska läggas in i fillistan och tryck sedan på Addera filer."),
         Frame("Startkatalog", {sStartDirect}),
         Frame("Destination", {oReplaceLevel1InTree, oConcatTree}),
-        HBox({sSearchStatus, Stretch(), new QLabel("Antal filer:"), sNumberFiles}),
+        HBox({sSearchStatus, lblSummary, Stretch(), new QLabel("Antal filer:"), sNumberFiles}),
         Stretch(),
         HBox({Stretch(), cmdStart, cmdClose}),
     }));
@@ -52,18 +55,37 @@ void RecursiveCollect::Start()
     seen_ = 0;
     sNumberFiles->setText("0");
     sSearchStatus->setText("Söker...");
+    lblSummary->clear();
     cmdStart->setDefault(true);
     cmdStart->setEnabled(false); // the events of a running walk must not begin another one
+    const auto sizeBefore = SumOfSizes(files.rows, work_.host.machine.DecimalSign());
+    QElapsedTimer time;
+    time.start();
     FileAdding adding(files, work_.host, work_.ask);
-    Collect(adding);
+    const bool isComplete = Collect(adding);
     const NewPlaces moved = adding.Finish();
     for (std::size_t& place : places_)
         place = moved[place];
     sNumberFiles->setText(QString::number(seen_));
+    if (isComplete)
+        lblSummary->setText(ToQt(Summary(time.elapsed(), sizeBefore)));
     cmdStart->setEnabled(true);
 }
 
-void RecursiveCollect::Collect(FileAdding& adding)
+// The size is that of the new rows. A list whose sizes can't be summed has none told.
+Text RecursiveCollect::Summary(std::int64_t milliseconds,
+                               const std::optional<Long>& sizeBefore) const
+{
+    const char decimalSign = work_.host.machine.DecimalSign();
+    const auto size = SumOfSizes(work_.project.Files.rows, decimalSign);
+    const Text time = DurationText(milliseconds);
+    if (!size || !sizeBefore)
+        return "Klart på " + time;
+    const Long added = std::max<Long>(0, *size - *sizeBefore);
+    return SizeText(static_cast<std::uint64_t>(added), decimalSign) + " på " + time;
+}
+
+bool RecursiveCollect::Collect(FileAdding& adding)
 {
     try {
         AddTree(adding, work_.host.files, tree_,
@@ -71,9 +93,11 @@ void RecursiveCollect::Collect(FileAdding& adding)
         sSearchStatus->setText("Klar!");
         cmdClose->setDefault(true);
         cmdClose->setFocus();
+        return true;
     } catch (const RunError& failure) {
         sSearchStatus->setText("Fel inträffade!");
         work_.ask.Critical("Kan ej addera", WalkFailureText(failure, tree_));
+        return false;
     }
 }
 

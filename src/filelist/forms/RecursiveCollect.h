@@ -21,13 +21,16 @@ public:
     QRadioButton* oReplaceLevel1InTree = nullptr;
     QRadioButton* oConcatTree = nullptr;
     QLabel* sSearchStatus = nullptr;
+    QLabel* lblSummary = nullptr;
     QLabel* sNumberFiles = nullptr;
     QPushButton* cmdStart = nullptr;
     QPushButton* cmdClose = nullptr;
 
 private:
     void Start();
-    void Collect(FileAdding& adding);
+    /// False where the walk failed.
+    bool Collect(FileAdding& adding);
+    Text Summary(std::int64_t milliseconds, const std::optional<Long>& sizeBefore) const;
     void CountFile();
     void LetWindowLive();
 

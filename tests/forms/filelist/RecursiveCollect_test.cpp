@@ -25,8 +25,8 @@ class RecursiveCollectTest : public WindowTest {
 protected:
     RecursiveCollectTest()
     {
-        machine.files.Put("C:\\Data\\App\\b.txt", "x");
-        machine.files.Put("C:\\Data\\App\\Sub\\a.txt", "x");
+        machine.files.Put("C:\\Data\\App\\b.txt", std::string(3072, 'x'));
+        machine.files.Put("C:\\Data\\App\\Sub\\a.txt", std::string(1024, 'x'));
     }
 
     ListWork Work() { return {session.project, session.state, machine.host, live}; }
@@ -68,6 +68,7 @@ TEST_F(RecursiveCollectTest, ReplacesTheStartLevel)
     EXPECT_THAT(Destinations(), ElementsAre("%DESTDIR\\Sub a.txt", "%DESTDIR b.txt"));
     EXPECT_EQ(Label(form, "sSearchStatus"), "Klar!");
     EXPECT_EQ(Label(form, "sNumberFiles"), "2");
+    EXPECT_EQ(Label(form, "lblSummary"), "4 kB på mindre än 1 s");
     EXPECT_TRUE(form.isVisible());
     EXPECT_TRUE(form.cmdClose->isDefault());
     EXPECT_TRUE(form.cmdClose->hasFocus());
@@ -92,9 +93,10 @@ TEST_F(RecursiveCollectTest, CountsTheFilesOfASecondRunThoughNoneIsAdded)
     RecursiveCollect form(Work(), tree, nullptr);
     ShowActive(form);
     Click(form, "cmdStart");
-    machine.files.Put("C:\\Data\\App\\aa.txt", "x");
+    machine.files.Put("C:\\Data\\App\\aa.txt", std::string(2048, 'x'));
     Click(form, "cmdStart");
     EXPECT_EQ(Label(form, "sNumberFiles"), "3");
+    EXPECT_EQ(Label(form, "lblSummary"), "2 kB på mindre än 1 s") << "of the new file";
     EXPECT_EQ(session.project.Files.rows.size(), 3U);
 }
 
@@ -108,7 +110,7 @@ TEST_F(RecursiveCollectTest, KnowsWhereTheFormerRowsStand)
     ShowActive(form);
     Click(form, "cmdStart");
     EXPECT_EQ(form.Places(), NewPlaces{1});
-    machine.files.Put("C:\\Data\\App\\aa.txt", "x");
+    machine.files.Put("C:\\Data\\App\\aa.txt", std::string(2048, 'x'));
     Click(form, "cmdStart");
     EXPECT_EQ(form.Places(), NewPlaces{2});
 }
