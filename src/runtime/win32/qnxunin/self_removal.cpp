@@ -10,7 +10,8 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <cstddef>
+#include <cstdint>
+#include <new>
 #include <vector>
 
 namespace quillon {
@@ -64,13 +65,14 @@ bool RenameOpenFile(HANDLE file, const Text& path)
         return false;
     const std::wstring name = WidePath(path);
     const std::size_t bytes = name.size() * sizeof(wchar_t);
-    std::vector<std::max_align_t> buffer(
-        (sizeof(RenameInformation) + bytes) / sizeof(std::max_align_t) + 1);
-    auto* const information = reinterpret_cast<RenameInformation*>(buffer.data());
+    // Bytes all of which are zero: a type with padding would leave some of them to chance.
+    std::vector<std::uint64_t> buffer((sizeof(RenameInformation) + bytes) / sizeof(std::uint64_t) +
+                                      1);
+    auto* const information = new (buffer.data()) RenameInformation{};
     information->length = static_cast<DWORD>(bytes);
     std::copy(name.begin(), name.end(), information->name);
     return set(file, kRename, information,
-               static_cast<DWORD>(buffer.size() * sizeof(std::max_align_t))) != 0;
+               static_cast<DWORD>(buffer.size() * sizeof(std::uint64_t))) != 0;
 }
 
 // The cleaner's own file goes when its last handle is closed, so it has to leave the folder first.
