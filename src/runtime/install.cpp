@@ -88,14 +88,15 @@ void Installation::DoEverything()
     changes_.Commit();
 }
 
-// The record of an earlier installation of the same product goes on: what it made is ours too.
+// The record of an earlier installation of the same product goes on: what it made is ours too. One
+// of a user with fewer rights does not: the uninstaller will believe what stands in ours.
 void Installation::BeginRecord()
 {
     if (!input_.plan.hasUninstaller)
         return;
     const Text& path = input_.plan.installLog;
     FileSystem& files = input_.host.files;
-    if (files.FileExists(path)) {
+    if (files.FileExists(path) && input_.target.IsOfTrustedUser(path)) {
         auto earlier =
             ReadInstallJournal(ReadWholeFile(files, path)).value_or(std::vector<JournalRecord>{});
         // They are told anew, and would come to more with each installation.
@@ -136,6 +137,8 @@ void Installation::ShareMainFolder()
 {
     const Text inside = LowerCase(input_.plan.mainFolder) + "\\";
     for (const Text& log : InstallJournalsIn(input_.host.files, input_.plan.mainFolder)) {
+        if (!input_.target.IsOfTrustedUser(log))
+            continue;
         const auto records = ReadInstallJournal(ReadWholeFile(input_.host.files, log));
         for (const JournalRecord& record : records.value_or(std::vector<JournalRecord>{}))
             if (const auto* const folder = std::get_if<record::Folder>(&record);
@@ -162,7 +165,7 @@ void Installation::DeleteOldProgramGroup()
 {
     const Text& group = input_.plan.programGroup;
     const bool wanted = input_.setup.project.InstallOptions.DeleteProgGroup != kOff;
-    if (!wanted || group.empty() || !input_.host.files.DirExists(group))
+    if (!wanted || !input_.host.files.DirExists(group))
         return;
     for (const FolderEntry& entry : input_.host.files.List(group)) {
         const Text path = JoinPath(group, entry.name);

@@ -33,7 +33,7 @@ struct InstallPlan {
     std::vector<Text> folders; // of the rows that make an empty one
     std::vector<PlannedFile> files;
     std::vector<PlannedShortcut> shortcuts;
-    Text programGroup; // the folder of the group; empty where no shortcut goes into it
+    Text programGroup; // the folder of the group
     std::vector<RegistryLine> registry;
     std::vector<IniLine> ini; // whole paths as files
     std::vector<Text> registerFiles;

@@ -96,10 +96,11 @@ void InstallTransaction::PutFile(const NewFile& file)
 
 void InstallTransaction::PutFileAtRestart(const NewFile& file)
 {
-    if (file.recorded == Recorded::Yes)
-        RecordFile(file.path, true);
     const record::AtRestart move{file.staged, file.path};
-    record_.Add(move);
+    if (file.recorded == Recorded::Yes) {
+        RecordFile(file.path, true);
+        record_.Add(move);
+    }
     transaction_.Note(move);
     atRestart_.push_back(move);
 }

@@ -163,8 +163,6 @@ void PlanShortcuts(const PlanInput& input, InstallPlan& plan)
             plan.shortcuts.push_back({JoinPath(second, title + ".lnk"), shortcut});
     }
     PlanUninstallIcon(input, plan);
-    if (plan.shortcuts.empty())
-        plan.programGroup.clear();
 }
 
 Text AsFileName(std::string_view text)

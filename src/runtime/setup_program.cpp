@@ -226,8 +226,10 @@ void SetupProgram::FinishEarlier(const SetupVariables& variables)
     std::set<Text> folders{variables.Value(mainFolder), usual.Value(mainFolder)};
     const auto installed = input_.target.ReadValue(
         UninstallEntryKey(package_.setup.project.ProjectName.ProjectName), "InstallLocation");
-    if (installed)
-        folders.insert(TextOf(*installed).value_or(""));
+    // Anything may stand in such a value.
+    if (const auto folder = installed ? TextOf(*installed) : std::nullopt;
+        folder && IsAbsolutePath(*folder))
+        folders.insert(*folder);
     for (const Text& folder : folders)
         if (FinishInterrupted({input_.host, input_.target, log_}, folder) == EarlierRun::Incomplete)
             throw SetupFailure(ExitCode::Failed, texts_(Message::EarlierNotUndone, folder));

@@ -87,6 +87,9 @@ public:
     virtual void CloseToOthers(const Text& path) = 0;
     /// False where somebody else made `path` than who makes files now, such as `own`.
     virtual bool HaveSameOwner(const Text& path, const Text& own) const = 0;
+    /// Whether the file belongs to administrators, to the system or to the user who runs this, so
+    /// that nobody with fewer rights can have made it. True on a disk without owners.
+    virtual bool IsOfTrustedUser(const Text& path) const = 0;
     /// Whether what stands there leads to another folder.
     virtual bool IsLink(const Text& folder) const = 0;
 };

@@ -47,9 +47,14 @@ struct UninstallInput {
 /// system's list, so that it can be tried again.
 ExitCode Uninstall(const UninstallInput& input);
 
-/// Whether the log is one of a product in the folder of that program. The uninstaller believes no
-/// other: it would remove whatever a file says that somebody has given it.
+/// Whether the log is one of a product in the folder of that program.
 bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& program);
+
+/// The uninstaller believes no other log: it would remove whatever a file says that somebody has
+/// given it. One that lies beside it must not be of a user with fewer rights either, unless that
+/// user has made the program as well.
+bool IsBelievable(const FileSystem& files, const Target& target, const Text& logPath,
+                  const Text& program);
 
 /// Products that share a main folder share the uninstaller in it: true where this product's going
 /// takes along the program at `uninstaller`.

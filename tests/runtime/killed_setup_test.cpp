@@ -6,6 +6,7 @@
 #include "platform/run_error.h"
 #include "runtime/rollback.h"
 #include "runtime/transaction_journal.h"
+#include "runtime/uninstall_entry.h"
 
 namespace quillon {
 
@@ -202,6 +203,23 @@ TEST_F(KilledSetup, IsFoundFromAnotherMainFolder)
     ASSERT_TRUE(memory.files.FileExists("E:\\Annan\\~qnsetup.tmp"));
     ASSERT_EQ(Install(), ExitCode::Done) << Log();
     EXPECT_FALSE(memory.files.FileExists("E:\\Annan\\~qnsetup.tmp"));
+}
+
+// The main folder that the list of programs tells may be anything.
+TEST_F(KilledSetup, IsLookedForInNoFolderThatIsNone)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    memory.files.Put("~qnsetup.tmp", "Quillon installationsjournal 1\r\nFILE\tC:\\victim.txt\r\n");
+    memory.files.Put("x\\~qnsetup.tmp", "skräp");
+    memory.files.Put("C:\\victim.txt", "important");
+    const RegistryKey entry = UninstallEntryKey(project.ProjectName.ProjectName);
+    for (const RegistryData& data : {NumberData(7), TextData(""), TextData("x")}) {
+        target.MakeKey(entry);
+        target.WriteValue(entry, "InstallLocation", data);
+        EXPECT_EQ(Install(), ExitCode::Done) << Log();
+        EXPECT_EQ(memory.files.Get("C:\\victim.txt"), "important");
+        EXPECT_TRUE(memory.files.FileExists("~qnsetup.tmp"));
+    }
 }
 
 TEST_F(KilledSetup, LeavesItsJournalToTheNextRunWhereAFileIsHeldOpen)

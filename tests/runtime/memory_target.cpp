@@ -166,9 +166,9 @@ void MemoryTarget::CloseToOthers(const Text& path)
     closedToOthers.insert(path);
 }
 
-bool MemoryTarget::HaveSameOwner(const Text& path, const Text&) const
+bool MemoryTarget::HaveSameOwner(const Text& path, const Text& own) const
 {
-    return ofOthers.count(path) == 0;
+    return ofOthers.count(path) == ofOthers.count(own);
 }
 
 Text MemoryTarget::TextAt(const RegistryKey& key, const Text& name) const

@@ -40,6 +40,7 @@ public:
     void MoveAtRestart(const Text& from, const Text& to) override;
     void CloseToOthers(const Text& path) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
+    bool IsOfTrustedUser(const Text& path) const override { return ofOthers.count(path) == 0; }
     bool IsLink(const Text& folder) const override { return links.count(LowerCase(folder)) > 0; }
 
     /// The value's text, "<none>" where there is none.

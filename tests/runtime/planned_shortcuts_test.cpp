@@ -144,6 +144,20 @@ TEST_F(PlannedShortcutsTest, ReplaceThoseThatTheProductsOwnRecordNames)
     EXPECT_TRUE(memory.files.FileExists(kGroup + "Nytt namn.lnk"));
 }
 
+TEST_F(PlannedShortcutsTest, GoWithAnUpgradeThatHasNoneAnyMore)
+{
+    AddIcon("prog.exe", "Ikon", "Prog");
+    project.InstallOptions.CreateUninstallIcon = kOff;
+    ASSERT_EQ(Install(), ExitCode::Done);
+    ASSERT_TRUE(memory.files.FileExists(kGroup + "Prog.lnk"));
+    memory.files.Put(kGroup + "Annan.lnk", "C:\\Annan\\annan.exe||||");
+    package.rows[0].iconMarker.clear();
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_FALSE(memory.files.FileExists(kGroup + "Prog.lnk"));
+    EXPECT_TRUE(memory.files.FileExists(kGroup + "Annan.lnk"));
+    EXPECT_THAT(Log(), testing::HasSubstr(kGroup + "Prog.lnk"));
+}
+
 class GroupElsewhere : public PlannedShortcutsTest,
                        public testing::WithParamInterface<const char*> {};
 

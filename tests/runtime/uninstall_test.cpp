@@ -353,6 +353,19 @@ TEST_F(UninstallTest, TakesBackAReplacementThatWaitsForTheNextStart)
     EXPECT_THAT(Log(), HasSubstr("Filen " + path + " ersätts inte längre när datorn startas om"));
 }
 
+TEST_F(UninstallTest, LeavesAReplacementThatIsToStay)
+{
+    const Text path = "C:\\Gemensamt\\levande.dll";
+    memory.files.Put(path, "gammal", {2003, 1, 1, 0, 0, 0});
+    files.inUse.insert(path);
+    AddFile("levande.dll", "C:\\Gemensamt", "ny", "DA*");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    ASSERT_FALSE(target.movesAtRestart.empty());
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(memory.files.Get(target.movesAtRestart[0].first), "ny");
+    EXPECT_EQ(memory.files.Get(path), "gammal");
+}
+
 TEST_F(UninstallTest, LeavesNoFolderBehindForAFileThatGoesAtTheNextStart)
 {
     ASSERT_EQ(Install(), ExitCode::Done);
@@ -418,6 +431,64 @@ TEST_F(UninstallTest, BelievesOnlyALogBesideTheProgram)
     EXPECT_FALSE(IsInSameFolder(files, "C:\\Annan\\QNXUNIN.LOG", program));
     EXPECT_FALSE(IsInSameFolder(files, kMain + "\\annat.txt", program));
     EXPECT_FALSE(IsInSameFolder(files, "", program));
+    EXPECT_FALSE(IsBelievable(files, target, "C:\\Annan\\QNXUNIN.LOG", program));
+}
+
+// A disk from which a lesser user has removed the product's log, to lay one of their own there.
+TEST_F(UninstallTest, BelievesNoLogOfSomebodyElse)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const Text log = kMain + "\\QNXUNIN.LOG";
+    const Text program = kMain + "\\QNXUNIN.EXE";
+    EXPECT_TRUE(IsBelievable(files, target, log, program));
+    target.ofOthers.insert(log);
+    EXPECT_FALSE(IsBelievable(files, target, log, program));
+    // Who has made the program too has installed the product.
+    target.ofOthers.insert(program);
+    EXPECT_TRUE(IsBelievable(files, target, log, program));
+}
+
+TEST_F(UninstallTest, GoesOnBehindNoLogOfSomebodyElse)
+{
+    const Text log = kMain + "\\QNXUNIN.LOG";
+    memory.files.Put("C:\\Annan\\offer.txt", "offer");
+    memory.files.Put(log, "Quillon installationslogg 2\r\nPRODUCT\tExempel\r\n"
+                          "FOLDER\tC:\\Annan\r\nFILE\tC:\\Annan\\offer.txt\r\n");
+    target.ofOthers.insert(log);
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_THAT(memory.files.Get(log), testing::Not(HasSubstr("offer.txt")));
+    target.ofOthers.clear();
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(memory.files.Get("C:\\Annan\\offer.txt"), "offer");
+}
+
+// The file that waits would be any file that the uninstaller may remove.
+TEST_F(UninstallTest, TakesBackNoReplacementWhosePathLeadsElsewhere)
+{
+    const Text place = kMain + "\\ny.dll";
+    const Text throughParents = kMain + "\\..\\..\\offer.txt";
+    const Text elsewhere = "C:\\Annan\\offer.txt";
+    const Text beside = kMain + "\\~qn1.tmp\\1";
+    Text log = "Quillon installationslogg 2\r\nPRODUCT\tExempel\r\n";
+    for (const Text& from : {throughParents, elsewhere, beside}) {
+        memory.files.Put(from, "offer");
+        log += "ATRESTART\t" + from + "\t" + place + "\r\n";
+    }
+    memory.files.Put(kMain + "\\QNXUNIN.LOG", log);
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_TRUE(files.FileExists(throughParents));
+    EXPECT_TRUE(files.FileExists(elsewhere));
+    EXPECT_FALSE(files.FileExists(beside));
+}
+
+TEST_F(UninstallTest, LeavesAFolderBehindALink)
+{
+    AddFolder("%DESTDIR\\Bin\\Tom");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    target.links.insert(LowerCase(kMain + "\\Bin"));
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_TRUE(memory.files.DirExists(kMain + "\\Bin\\Tom"));
+    EXPECT_THAT(Log(), HasSubstr(kMain + "\\Bin\\Tom: en länk leder till en annan mapp"));
 }
 
 // What a crash looks like from here: the process that unregisters ends with a code of its own.

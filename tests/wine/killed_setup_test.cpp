@@ -94,7 +94,15 @@ TEST_F(KilledSetup, GivesTheEarlierVersionBackToItsUninstaller)
 
     const auto uninstall = RegistryText(prefix_).Value(kUninstallKey, "QuietUninstallString");
     ASSERT_TRUE(uninstall.has_value());
-    EXPECT_EQ(prefix_.RunCommandLine(*uninstall), 0U);
+    // A line that is refused changes nothing.
+    const auto left = TemporaryPaths(prefix_);
+    EXPECT_EQ(prefix_.RunCommandLine(*uninstall + " /X"), 1639U);
+    EXPECT_EQ(TemporaryPaths(prefix_), left);
+
+    EXPECT_EQ(prefix_.RunCommandLine(*uninstall + R"( /LOG="C:\logg.txt")"), 0U);
+    const std::string log = ReadBytes(prefix_.OnHost("C:\\logg.txt"));
+    EXPECT_THAT(log, testing::HasSubstr("En tidigare installation avbröts. Dess ändringar ångras"));
+    EXPECT_THAT(log, testing::HasSubstr("Tar bort " + std::string(kMainFolder)));
     prefix_.Restart();
     EXPECT_EQ(RegistryDifference(registryBefore, RegistryText(prefix_)), "");
     for (const std::string& path : TemporaryPaths(prefix_))

@@ -28,6 +28,25 @@ PSECURITY_DESCRIPTOR Descriptor(const wchar_t* text)
 
 constexpr DWORD kMaxOwnerSize = 1024; // of a descriptor with an owner alone
 
+bool IsWellKnown(PSID owner, WELL_KNOWN_SID_TYPE kind)
+{
+    BYTE sid[SECURITY_MAX_SID_SIZE];
+    DWORD size = sizeof sid;
+    return CreateWellKnownSid(kind, nullptr, sid, &size) && EqualSid(owner, sid);
+}
+
+bool IsCurrentUser(PSID owner)
+{
+    HANDLE token = nullptr;
+    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token))
+        return false;
+    alignas(TOKEN_USER) BYTE user[sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE];
+    DWORD size = 0;
+    const bool known = GetTokenInformation(token, TokenUser, user, sizeof user, &size);
+    CloseHandle(token);
+    return known && EqualSid(owner, reinterpret_cast<TOKEN_USER*>(user)->User.Sid);
+}
+
 bool ReadOwner(const wchar_t* path, BYTE* descriptor, PSID& owner)
 {
     DWORD size = 0;
@@ -63,6 +82,18 @@ void LockFileToOthers(const wchar_t* path)
         SetFileSecurityW(path, DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
                          descriptor);
     LocalFree(descriptor);
+}
+
+bool IsOfTrustedUser(const wchar_t* path)
+{
+    alignas(void*) BYTE descriptor[kMaxOwnerSize];
+    PSID owner = nullptr;
+    if (!ReadOwner(path, descriptor, owner))
+        return false;
+    // A disk without owners says that everything belongs to everybody.
+    return owner == nullptr || IsWellKnown(owner, WinWorldSid) ||
+           IsWellKnown(owner, WinBuiltinAdministratorsSid) ||
+           IsWellKnown(owner, WinLocalSystemSid) || IsCurrentUser(owner);
 }
 
 bool HaveSameOwner(const wchar_t* path, const wchar_t* other)

@@ -17,4 +17,8 @@ void LockFileToOthers(const wchar_t* path);
 /// True on a disk without owners.
 bool HaveSameOwner(const wchar_t* path, const wchar_t* other);
 
+/// Whether a file belongs to administrators, to the system or to the user who runs this. True on a
+/// disk without owners; false where nothing can be known of it.
+bool IsOfTrustedUser(const wchar_t* path);
+
 } // namespace quillon

@@ -4,6 +4,7 @@
 #include "platform/win32/registry_key.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
+#include "runtime/win32/register_process.h"
 #include "runtime/win32/register_server.h"
 
 #include <shlobj.h>
@@ -177,7 +178,7 @@ Registration WinTarget::RegisterServer(const Text& path, bool on)
     const std::wstring helper = Wide(registryHelper_);
     int result = kRegistrationFailed;
     if (helper.empty() || GetFileAttributesW(helper.c_str()) == INVALID_FILE_ATTRIBUTES) {
-        result = RegisterServerFile(Wide(path).c_str(), on);
+        result = RegisterInOwnProcess(path, on);
     } else {
         std::wstring line = L"\"" + helper + (on ? L"\" \"" : L"\" /U \"") + Wide(path) + L"\"";
         result = RunAndWait(helper.c_str(), line.data());
@@ -212,6 +213,11 @@ void WinTarget::CloseToOthers(const Text& path)
 bool WinTarget::HaveSameOwner(const Text& path, const Text& own) const
 {
     return quillon::HaveSameOwner(WidePath(path).c_str(), WidePath(own).c_str());
+}
+
+bool WinTarget::IsOfTrustedUser(const Text& path) const
+{
+    return quillon::IsOfTrustedUser(WidePath(path).c_str());
 }
 
 bool WinTarget::IsLink(const Text& folder) const

@@ -7,7 +7,8 @@ namespace quillon {
 
 class WinTarget : public Target {
 public:
-    /// Registrations run in the helper program of this path where there is one, else in this one.
+    /// Registrations run in the helper program of this path where there is one, else in the running
+    /// program, started once more.
     explicit WinTarget(Text registryHelper = {}) : registryHelper_(std::move(registryHelper)) {}
 
     SystemKind System() const override;
@@ -29,6 +30,7 @@ public:
     void MoveAtRestart(const Text& from, const Text& to) override;
     void CloseToOthers(const Text& path) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
+    bool IsOfTrustedUser(const Text& path) const override;
     bool IsLink(const Text& folder) const override;
 
 private:

@@ -13,6 +13,7 @@
 #include "runtime/win32/message_box.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
+#include "runtime/win32/register_process.h"
 #include "runtime/win32/test_window.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
@@ -94,8 +95,11 @@ ExitCode RunOnWindows(HINSTANCE instance, Switches switches, LanguageTexts& text
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
 {
     StartProgram();
+    const Text given = Narrow(commandLine);
+    if (const auto code = RegisterForParent(given))
+        return *code;
     OleInitialize(nullptr);
-    const Switches switches = ReadSwitches(Narrow(commandLine));
+    const Switches switches = ReadSwitches(given);
     LanguageTexts texts;
     ExitCode code = ExitCode::Failed;
     try {

@@ -14,8 +14,7 @@
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/qnxunin/self_removal.h"
-#include "runtime/win32/qnxunin/unregister_process.h"
-#include "runtime/win32/register_server.h"
+#include "runtime/win32/register_process.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
 
@@ -25,64 +24,58 @@ using namespace quillon;
 
 namespace {
 
-class UninstallTarget : public WinTarget {
-public:
-    Registration RegisterServer(const Text& path, bool) override
-    {
-        switch (UnregisterInOwnProcess(path)) {
-        case kRegistrationDone:
-            return Registration::Done;
-        case kNotSelfRegistering:
-            return Registration::NotSelfRegistering;
-        default:
-            return Registration::Failed;
-        }
-    }
+struct UninstallRun {
+    Host& host;
+    WinTarget& target;
+    const UninstallerCommand& line;
+    ActionLog log; // of /LOG=
+    LanguageTexts texts;
 };
 
-ExitCode RunUninstall(Host& host, Ask& ask, const UninstallerCommand& line,
-                      const InstalledProduct& product)
+ExitCode RunUninstall(UninstallRun& run, Ask& ask, const InstalledProduct& product)
 {
-    ActionLog log;
-    if (!line.switches.logFile.empty())
-        log = ActionLog(host.files, host.machine, line.switches.logFile, product.texts);
+    Host& host = run.host;
     // A folder that is the current one of a program can't be removed.
     SetCurrentDirectoryW(Wide(host.machine.GetWindowsDir()).c_str());
-    UninstallTarget target;
     SelfRemoval self(host);
-    const ExitCode code = Uninstall({host, target, ask, log, line.logPath, product,
+    const ExitCode code = Uninstall({host, run.target, ask, run.log, run.line.logPath, product,
                                      [&](const Text& program) { self.MoveAway(program); }});
-    log.Close();
+    run.log.Close();
     self.StartCleaner();
     return code;
 }
 
 // Nothing where there is no log that this program believes.
-std::optional<InstalledProduct> FindProduct(const FileSystem& files, const Text& logPath)
+std::optional<InstalledProduct> FindProduct(UninstallRun& run)
 {
-    return IsInSameFolder(files, logPath, ProgramPath()) ? ReadInstalledProduct(files, logPath)
-                                                         : std::nullopt;
+    const FileSystem& files = run.host.files;
+    if (!IsBelievable(files, run.target, run.line.logPath, ProgramPath()))
+        return std::nullopt;
+    auto product = ReadInstalledProduct(files, run.line.logPath);
+    if (product)
+        run.texts = product->texts;
+    return product;
 }
 
-ExitCode RunWithWindow(HINSTANCE instance, Host& host, const UninstallerCommand& line,
+ExitCode RunWithWindow(HINSTANCE instance, UninstallRun& run,
                        const std::optional<InstalledProduct>& product)
 {
-    const LanguageTexts texts = product ? product->texts : LanguageTexts();
+    const LanguageTexts& texts = run.texts;
     const Text name = product ? product->name : Text();
     const Text title = texts(Message::UninstallTitle, name);
     WindowAsk window(instance, title, texts);
-    if (line.switches.badSwitch) {
-        window.Critical(title, texts(Message::BadSwitch, *line.switches.badSwitch));
+    if (run.line.switches.badSwitch) {
+        window.Critical(title, texts(Message::BadSwitch, *run.line.switches.badSwitch));
         return ExitCode::BadSwitch;
     }
     if (!product) {
-        window.Critical(title, texts(Message::UninstallNoLog, line.logPath));
+        window.Critical(title, texts(Message::UninstallNoLog, run.line.logPath));
         return ExitCode::Failed;
     }
     if (!window.YesNo(title, texts(Message::UninstallQuestion, name), Ask::Stops::OnNo))
         return ExitCode::Cancelled;
     window.Show();
-    const ExitCode code = RunUninstall(host, window, line, *product);
+    const ExitCode code = RunUninstall(run, window, *product);
     window.Hide();
     window.Inform(
         title,
@@ -90,25 +83,47 @@ ExitCode RunWithWindow(HINSTANCE instance, Host& host, const UninstallerCommand&
     return code;
 }
 
-ExitCode RunSilently(Host& host, const UninstallerCommand& line,
-                     const std::optional<InstalledProduct>& product)
+ExitCode RunSilently(UninstallRun& run, const std::optional<InstalledProduct>& product)
 {
-    if (line.switches.badSwitch)
+    if (run.line.switches.badSwitch)
         return ExitCode::BadSwitch;
     SilentAsk silent;
-    return product ? RunUninstall(host, silent, line, *product) : ExitCode::Failed;
+    return product ? RunUninstall(run, silent, *product) : ExitCode::Failed;
+}
+
+void OpenLog(UninstallRun& run)
+{
+    const Text& path = run.line.switches.logFile;
+    if (!path.empty())
+        run.log = ActionLog(run.host.files, run.host.machine, path, run.texts);
 }
 
 // A setup that was killed is brought to its end first, so that the log tells what is there.
-EarlierRun FinishEarlier(Host& host)
+EarlierRun FinishEarlier(UninstallRun& run)
 {
-    WinTarget target;
-    ActionLog log;
     const Text folder = ProgramFolder();
-    const EarlierRun earlier = FinishInterrupted({host, target, log}, folder);
+    const EarlierRun earlier = FinishInterrupted({run.host, run.target, run.log}, folder);
     if (earlier == EarlierRun::Incomplete)
         throw RunError(ErrorNumber::kPermissionDenied, folder);
     return earlier;
+}
+
+ExitCode RunOnWindows(HINSTANCE instance, UninstallRun& run)
+{
+    auto product = FindProduct(run);
+    EarlierRun earlier = EarlierRun::None;
+    // A line that is refused changes nothing.
+    if (!run.line.switches.badSwitch) {
+        OpenLog(run);
+        earlier = FinishEarlier(run);
+    }
+    if (earlier == EarlierRun::Finished) {
+        product = FindProduct(run);
+        if (!product)
+            return ExitCode::Done; // a first installation that was killed has been taken back
+    }
+    return run.line.switches.silent ? RunSilently(run, product)
+                                    : RunWithWindow(instance, run, product);
 }
 
 } // namespace
@@ -119,34 +134,27 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
     const Text given = TrimBlanks(Narrow(commandLine));
     if (const auto code = CleanUpForParent(given))
         return *code;
-    if (const auto code = UnregisterForParent(given))
+    if (const auto code = RegisterForParent(given))
         return *code;
     OleInitialize(nullptr);
     UninstallerCommand line = ReadUninstallerCommand(given);
     if (line.logPath.empty())
         line.logPath = JoinPath(ProgramFolder(), "QNXUNIN.LOG");
-    LanguageTexts texts;
+    WinFiles files;
+    WinMachine machine;
+    Host host{files, machine};
+    WinTarget target;
+    UninstallRun run{host, target, line, {}, {}};
     ExitCode code = ExitCode::Failed;
     try {
-        WinFiles files;
-        WinMachine machine;
-        Host host{files, machine};
-        // A line that is refused changes nothing.
-        const EarlierRun earlier = line.switches.badSwitch ? EarlierRun::None : FinishEarlier(host);
-        const auto product = FindProduct(files, line.logPath);
-        if (product)
-            texts = product->texts;
-        if (!product && earlier == EarlierRun::Finished)
-            code = ExitCode::Done; // a first installation that was killed has been taken back
-        else
-            code = line.switches.silent ? RunSilently(host, line, product)
-                                        : RunWithWindow(instance, host, line, product);
+        code = RunOnWindows(instance, run);
     } catch (const std::exception& error) {
         if (!line.switches.silent)
             ShowMessageBox(nullptr,
-                           {"Quillon", texts(Message::UninstallFailed, FailureReason(error, texts)),
+                           {"Quillon",
+                            run.texts(Message::UninstallFailed, FailureReason(error, run.texts)),
                             MB_OK | MB_ICONSTOP},
-                           texts);
+                           run.texts);
     }
     OleUninitialize();
     return static_cast<int>(code);

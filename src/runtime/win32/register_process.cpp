@@ -1,4 +1,4 @@
-#include "runtime/win32/qnxunin/unregister_process.h"
+#include "runtime/win32/register_process.h"
 
 #include "helpers/number_text.h"
 #include "platform/win32/open_file.h"
@@ -12,7 +12,9 @@ namespace quillon {
 
 namespace {
 
-constexpr std::string_view kSwitch = "/UNREGISTER=";
+// With the handle of the pipe behind them.
+constexpr std::string_view kRegister = "/REGISTER=";
+constexpr std::string_view kUnregister = "/UNREGISTER=";
 
 std::wstring ReadPath(HANDLE pipe)
 {
@@ -28,7 +30,7 @@ std::wstring ReadPath(HANDLE pipe)
 
 } // namespace
 
-int UnregisterInOwnProcess(const Text& path)
+int RegisterInOwnProcess(const Text& path, bool on)
 {
     HANDLE read = nullptr;
     HANDLE write = nullptr;
@@ -39,7 +41,7 @@ int UnregisterInOwnProcess(const Text& path)
     FileHandle writeEnd(write);
     // Otherwise the pipe would never end for the reader.
     SetHandleInformation(write, HANDLE_FLAG_INHERIT, 0);
-    std::wstring line = Wide("\"" + ProgramPath() + "\" " + Text(kSwitch) +
+    std::wstring line = Wide("\"" + ProgramPath() + "\" " + Text(on ? kRegister : kUnregister) +
                              NumberText(reinterpret_cast<INT_PTR>(read)));
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
@@ -58,17 +60,19 @@ int UnregisterInOwnProcess(const Text& path)
     return static_cast<int>(code);
 }
 
-std::optional<int> UnregisterForParent(std::string_view commandLine)
+std::optional<int> RegisterForParent(std::string_view commandLine)
 {
-    if (!commandLine.starts_with(kSwitch))
+    const bool on = commandLine.starts_with(kRegister);
+    if (!on && !commandLine.starts_with(kUnregister))
         return std::nullopt;
-    const FileHandle pipe(reinterpret_cast<HANDLE>(
-        static_cast<INT_PTR>(LeadingNumber(commandLine.substr(kSwitch.size())))));
+    const std::size_t handle = (on ? kRegister : kUnregister).size();
+    const FileHandle pipe(
+        reinterpret_cast<HANDLE>(static_cast<INT_PTR>(LeadingNumber(commandLine.substr(handle)))));
     const std::wstring path = ReadPath(pipe.Get());
     if (path.empty())
         return kRegistrationFailed;
     OleInitialize(nullptr);
-    const int result = RegisterServerFile(path.c_str(), false);
+    const int result = RegisterServerFile(path.c_str(), on);
     OleUninitialize();
     return result;
 }
