@@ -1,6 +1,6 @@
 #include "importers/forms/DlgImportFolder.h"
 
-#include "import_form_test.h"
+#include "forms/import_form_test.h"
 #include "support/linked_program.h"
 #include "ui/PathLabel.h"
 

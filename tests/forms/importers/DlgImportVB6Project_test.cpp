@@ -1,6 +1,6 @@
 #include "importers/forms/DlgImportVB6Project.h"
 
-#include "import_form_test.h"
+#include "forms/import_form_test.h"
 #include "ui/PathLabel.h"
 
 #include <gmock/gmock.h>
