@@ -2,6 +2,7 @@
 
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
+#include "platform/saved_file.h"
 #include "platform/whole_file.h"
 
 namespace quillon {
@@ -43,17 +44,21 @@ bool CheckRTFfilename(const Text& typed, Ask& ask)
 }
 
 void SaveRTFbox(FileSystem& files, const Text& toolFolder, const Text& RTFfilename,
-                std::string_view bytes)
+                std::string_view bytes, OldRtfFile old)
 {
     const Text path = RTFboxPath(toolFolder, RTFfilename);
     const Text unfinished = path + ".tmp";
     files.DirCreate(ExtractDirectory(path));
+    if (old == OldRtfFile::Kept && files.FileExists(path))
+        KeepBeside(files, path);
     WriteWholeFile(files, unfinished, bytes);
     files.Replace(unfinished, path);
 }
 
 void ReportRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& path, Ask& ask)
 {
+    if (losses.empty() && !isCut)
+        return;
     Text text;
     if (isCut)
         text = "Filen '" + path + "' är inte hel. Rutan visar det som finns av texten.";
@@ -63,9 +68,9 @@ void ReportRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& pa
                      : Text(", ")) +
                 loss;
     if (!losses.empty())
-        text += ", som inte kan visas i rutan. De försvinner ur filen om du trycker på 'OK'.";
-    if (!text.empty())
-        ask.Warn("RTF-ruta", text);
+        text += ", som inte kan visas i rutan.";
+    ask.Warn("RTF-ruta", text + " Trycker du på 'OK' behålls den gamla filen bredvid den nya, med "
+                                ".bak efter namnet.");
 }
 
 } // namespace quillon

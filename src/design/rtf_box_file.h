@@ -20,12 +20,16 @@ Text StoredRTFfilename(const Text& typed);
 /// or that Windows can't hold, is none.
 bool CheckRTFfilename(const Text& typed, Ask& ask);
 
+/// What becomes of the file that the new one takes the place of. One that the editor did not show
+/// whole is kept beside it.
+enum class OldRtfFile { Replaced, Kept };
+
 /// Writes the file beside its name first, so that one that was there stays whole until the new one
 /// is. Throws `RunError`.
 void SaveRTFbox(FileSystem& files, const Text& toolFolder, const Text& RTFfilename,
-                std::string_view bytes);
+                std::string_view bytes, OldRtfFile old);
 
-/// Tells what of the file the editor does not show and OK would therefore not write again.
+/// Tells what of the file the editor does not show, and that the file is kept.
 void ReportRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& path, Ask& ask);
 
 } // namespace quillon

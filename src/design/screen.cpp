@@ -1,5 +1,6 @@
 #include "design/screen.h"
 
+#include "design/background.h"
 #include "design/text_panel.h"
 
 #include <algorithm>
@@ -26,12 +27,12 @@ public:
 
     void Paint()
     {
-        PaintBackground();
+        // In its own size a picture keeps its shape, whatever the screen's.
+        PaintBackground(canvas_, letters_, paint_, design_.pictures.background, scale_.Both());
         const int titleBottom = PaintTheTitle();
-        if (!design_.hidesPictures) {
+        if (!design_.hidesPictures)
             PaintPictures();
-            PaintChanging();
-        }
+        PaintChanging();
         PaintLogotype();
         PaintTextBox(titleBottom);
         PaintRTFbox();
@@ -44,8 +45,6 @@ public:
     }
 
 private:
-    PixelRect Whole() const { return RectAt(0, 0, canvas_.width, canvas_.height); }
-
     PixelRect RectOf(const SurfacePlace& place) const
     {
         const double across = scale_.x / design_.metrics.TPPX;
@@ -55,30 +54,6 @@ private:
                 pixels((place.Top - surface_.Top) * down),
                 pixels((place.Left + place.Width - surface_.Left) * across),
                 pixels((place.Top + place.Height - surface_.Top) * down)};
-    }
-
-    // In its own size a picture keeps its shape, whatever the screen's.
-    const Picture& InOwnSize(const ScalablePicture& picture) const
-    {
-        return picture.InSize(std::max(scale_.BothPixels(picture.Width()), 1),
-                              std::max(scale_.BothPixels(picture.Height()), 1), letters_);
-    }
-
-    void PaintBackground()
-    {
-        const ScalablePicture& picture = design_.pictures.background;
-        if (!paint_.UsePicture || picture.IsEmpty()) {
-            PaintBlend(canvas_, Whole(), BlendOf(paint_));
-            return;
-        }
-        FillRect(canvas_, Whole(), PixelOf(paint_.ColorFrom));
-        if (paint_.StretchPicture) {
-            PaintPicture(canvas_, picture.InSize(canvas_.width, canvas_.height, letters_), 0, 0);
-            return;
-        }
-        const Picture& own = InOwnSize(picture);
-        PaintPicture(canvas_, own, (canvas_.width - own.width) / 2,
-                     (canvas_.height - own.height) / 2);
     }
 
     int PaintTheTitle()
@@ -114,7 +89,7 @@ private:
         const PixelRect rect = RectOf(box.place);
         const Picture& sized = box.isStretched
                                    ? picture.InSize(rect.Width(), rect.Height(), letters_)
-                                   : InOwnSize(picture);
+                                   : InOwnSize(picture, letters_, scale_.Both());
         PaintPicture(canvas_, sized, rect.left, rect.top);
     }
 
@@ -129,7 +104,7 @@ private:
         PaintPicture(inside,
                      project_.DesPicturesAnim.StretchPicture != kOff
                          ? picture.InSize(rect.Width(), rect.Height(), letters_)
-                         : InOwnSize(picture),
+                         : InOwnSize(picture, letters_, scale_.Both()),
                      rect.left, rect.top);
     }
 

@@ -29,7 +29,8 @@ struct ScreenDesign {
 
     const ScreenPictures& pictures;
     const RtfText* rtfBox = nullptr; // null where it can't be read
-    bool hidesPictures = false;      // while a page of the setup is shown
+    // The three free pictures, while a page of the setup is shown; no other object has that field.
+    bool hidesPictures = false;
 };
 
 /// Paints the canvas's clip. The design is scaled to the canvas: places and sizes in both

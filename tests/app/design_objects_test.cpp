@@ -82,6 +82,54 @@ TEST_F(DesignObjectsTest, AreShownWhereTheRecordsSay)
     SavePicture(*tabs, "DesignPage_objects");
 }
 
+TEST_F(DesignObjectsTest, ShowWhatIsBehindTheirTransparentColour)
+{
+    PutPicture("C:\\b.bmp", 60, 40); // all red
+    project.DesBackground = {.BackColor1 = 0x00FF00, .BlendDirection = 0};
+    project.DesPictures.Pictures[0].PictureFilename = "C:\\b.bmp";
+    project.DesPictures.Pictures[0].UseTransparentBkg = kOn;
+    project.DesPictures.Pictures[1].PictureFilename = "C:\\b.bmp";
+    project.DesPictures.Pictures[1].PictureXPos = 300 * 15;
+    project.DesPictures.TransparentColorNr = 1;
+    project.DesLogotype = {
+        .LogotypeFilename = "C:\\b.bmp", .UseTransparentBkg = kOn, .TransparentColorNr = 1};
+    Show();
+    const auto middleOf = [&](const char* name) {
+        const QWidget& object = Object(name);
+        const QImage shown = tabs->grab().toImage();
+        const QPoint middle = object.mapTo(tabs.get(), object.rect().center());
+        return shown.pixel(middle * shown.devicePixelRatio());
+    };
+    EXPECT_EQ(middleOf("DesPicture0"), qRgb(0, 255, 0));
+    EXPECT_EQ(middleOf("DesPicture1"), qRgb(255, 0, 0));
+    EXPECT_EQ(middleOf("DesLogotype"), qRgb(0, 255, 0));
+}
+
+TEST_F(DesignObjectsTest, TellTheirNamesAndWhatTheyShow)
+{
+    PutPicture("C:\\b.bmp", 60, 40);
+    project.DesPictures.Pictures[2].PictureFilename = "C:\\b.bmp";
+    project.DesPicturesAnim.NrAnimPictures = 3;
+    project.DesLogotype.LogotypeFilename = "C:\\b.bmp";
+    project.DesTextBox.BoxTitle = "Rubrik";
+    project.DesTextBox.BoxText = "Text";
+    project.DesRTFbox.RTFfilename = "demo.rtf";
+    Show();
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"DesPicture0", "Bild 1", ""},
+        {"DesPicture2", "Bild 3", "C:\\b.bmp"},
+        {"DesPictureAnim", "Växlingsbara bilder", "3 bilder"},
+        {"DesLogotype", "Logotype", "C:\\b.bmp"},
+        {"DesTextBoxPic", "Textruta", "Rubrik\nText"},
+        {"DesRTFboxPic", "RTF-ruta", "demo.rtf"},
+        {"colorblendBackground", "Installationens bakgrund", "Titel"}};
+    for (const auto& [name, spoken, content] : cases) {
+        EXPECT_EQ(Object(name).accessibleName(), spoken) << name;
+        EXPECT_EQ(Object(name).accessibleDescription(), content) << name;
+        EXPECT_EQ(Object(name).focusPolicy(), Qt::StrongFocus) << name;
+    }
+}
+
 TEST_F(DesignObjectsTest, FollowTheMouse)
 {
     project.DesTextBox.ShowTextBox = kOn;

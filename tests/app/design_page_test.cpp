@@ -92,21 +92,6 @@ TEST_F(DesignPageTest, PaintsTheBlendOfEachDirection)
     }
 }
 
-TEST_F(DesignPageTest, RectanglesHaveTheShapeOfTheSurface)
-{
-    const QImage image = BlendImage(
-        {201, 101}, {.ColorFrom = kRed, .ColorTo = kBlue, .BlendStyle = BlendStyle::Outwards});
-    // Half-way out to each side stands the same colour.
-    const QRgb half = image.pixel(50, 50);
-    EXPECT_EQ(image.pixel(150, 50), half);
-    EXPECT_EQ(image.pixel(100, 25), half);
-    EXPECT_EQ(image.pixel(100, 75), half);
-    EXPECT_EQ(image.pixel(50, 25), half);
-    EXPECT_EQ(image.pixel(100, 50), kRedPixel);
-    EXPECT_EQ(image.pixel(0, 50), kBluePixel);
-    EXPECT_EQ(image.pixel(100, 0), kBluePixel);
-}
-
 TEST_F(DesignPageTest, BlendsAPartOfTheWay)
 {
     Background() = {.BackColor1 = kRed, .BackColor2 = kBlue, .BlendDepth = "50"};

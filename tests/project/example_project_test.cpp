@@ -10,25 +10,32 @@
 namespace quillon {
 namespace {
 
-TEST(ExampleProject, IsReadWholeAndSavedAsTheSameBytes)
+class ExampleProject : public testing::TestWithParam<std::pair<const char*, std::size_t>> {};
+
+TEST_P(ExampleProject, IsReadWholeAndSavedAsTheSameBytes)
 {
-    std::ifstream file(QUILLON_TEST_DATA "/../examples/hello/hello.qnp", std::ios::binary);
+    const auto& [name, rows] = GetParam();
+    std::ifstream file(std::string(QUILLON_TEST_DATA "/../examples/") + name, std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
     ASSERT_FALSE(bytes.empty());
     test::MemoryHost host;
     host.machine.decimalSign = '.';
-    host.files.Put("C:\\hello.qnp", bytes);
+    host.files.Put("C:\\example.qnp", bytes);
     test::ScriptedAsk ask;
 
     Project project;
-    ASSERT_EQ(ReadProjectFile(project, "C:\\hello.qnp", host.host, ask, "C:\\Quillon"),
+    ASSERT_EQ(ReadProjectFile(project, "C:\\example.qnp", host.host, ask, "C:\\Quillon"),
               ReadEnd::Whole);
-    EXPECT_EQ(project.Files.rows.size(), 10U);
+    EXPECT_EQ(project.Files.rows.size(), rows);
     // An empty picture means the tool's own, whose folder differs from machine to machine.
     project.DialogBoxes.DlgBitmap.clear();
     WriteProjectFile(project, "C:\\again.qnp", host.host, ask);
     EXPECT_EQ(host.files.Get("C:\\again.qnp"), bytes);
 }
+
+INSTANTIATE_TEST_SUITE_P(Both, ExampleProject,
+                         testing::Values(std::pair{"hello/hello.qnp", std::size_t{10}},
+                                         std::pair{"sailing/sailing.qnp", std::size_t{1}}));
 
 } // namespace
 } // namespace quillon

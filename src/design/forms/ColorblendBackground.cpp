@@ -6,13 +6,6 @@
 
 namespace quillon {
 
-QImage BlendImage(QSize size, const SurfacePaint& paint)
-{
-    QImage image(size, QImage::Format_RGB32);
-    PaintBlend(CanvasOf(image), RectAt(0, 0, size.width(), size.height()), BlendOf(paint));
-    return image;
-}
-
 ColorblendBackground::ColorblendBackground(Letters& letters) : letters_(letters)
 {
     setObjectName("colorblendBackground");
@@ -89,28 +82,12 @@ void ColorblendBackground::keyPressEvent(QKeyEvent* event)
 
 QImage ColorblendBackground::MakeShown(QSize pixels) const
 {
-    const bool hasPicture = paint_.UsePicture && !picture_.IsEmpty();
-    QImage shown = hasPicture ? QImage(pixels, QImage::Format_RGB32) : BlendImage(pixels, paint_);
-    const ScreenScale scale{devicePixelRatioF(), devicePixelRatioF()};
+    QImage shown(pixels, QImage::Format_RGB32);
     const Canvas canvas = CanvasOf(shown);
-    if (hasPicture)
-        PaintThePicture(canvas);
-    PaintTitle(canvas, LayOutTitle(letters_, Records(), scale, pixels.width()), Records());
+    const double ratio = devicePixelRatioF();
+    PaintBackground(canvas, letters_, paint_, picture_, ratio);
+    PaintTitle(canvas, LayOutTitle(letters_, Records(), {ratio, ratio}, pixels.width()), Records());
     return shown;
-}
-
-void ColorblendBackground::PaintThePicture(const Canvas& canvas) const
-{
-    FillRect(canvas, canvas.clip, PixelOf(paint_.ColorFrom));
-    if (paint_.StretchPicture) {
-        PaintPicture(canvas, picture_.InSize(canvas.width, canvas.height, letters_), 0, 0);
-        return;
-    }
-    // In its own size it stands in the middle, on the first colour.
-    const ScreenScale scale{devicePixelRatioF(), devicePixelRatioF()};
-    const Picture& own = picture_.InSize(scale.BothPixels(picture_.Width()),
-                                         scale.BothPixels(picture_.Height()), letters_);
-    PaintPicture(canvas, own, (canvas.width - own.width) / 2, (canvas.height - own.height) / 2);
 }
 
 } // namespace quillon

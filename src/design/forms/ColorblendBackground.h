@@ -1,17 +1,13 @@
 // The painter of the preview surface: a blend of two colours or a picture, and the title on it.
 #pragma once
 
-#include "design/scalable_picture.h"
-#include "design/surface.h"
+#include "design/background.h"
 #include "design/title_block.h"
 
 #include <QImage>
 #include <QWidget>
 
 namespace quillon {
-
-/// The blend in whole pixels of the screen.
-QImage BlendImage(QSize size, const SurfacePaint& paint);
 
 class ColorblendBackground : public QWidget {
 public:
@@ -36,7 +32,6 @@ protected:
 
 private:
     QImage MakeShown(QSize pixels) const;
-    void PaintThePicture(const Canvas& canvas) const;
     TitleRecords Records() const { return {title_, underline_, subTitle_}; }
 
     Letters& letters_;
@@ -45,7 +40,7 @@ private:
     section::DesTitle title_;
     section::DesTitleUnderline underline_;
     section::DesSubTitle subTitle_;
-    // What was painted last; a blend takes longer than a copy.
+    // What was painted last: an object that is dragged uncovers a part of it.
     QImage shown_;
     // The press before a double click is the one that counts.
     QPoint pressed_;

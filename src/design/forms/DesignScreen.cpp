@@ -15,15 +15,34 @@ namespace quillon {
 
 namespace {
 
-/// Paints a picture of the project as the setup will: scaled to the image, or in its own size.
-void PaintScaled(QImage& image, const ScalablePicture& picture, int width, int height,
-                 Letters& letters)
-{
-    const Picture& sized = picture.InSize(width, height, letters);
-    const QImage shown(reinterpret_cast<const uchar*>(sized.pixels.data()), sized.width,
-                       sized.height, QImage::Format_ARGB32_Premultiplied);
-    QPainter(&image).drawImage(0, 0, shown);
-}
+using Object = DesignScreen::Object;
+
+// The objects beside the free pictures. One whose record has no place can't be moved.
+struct ObjectTraits {
+    Object object;
+    const char* name;
+    const char* accessibleName;
+    void (*store)(Project& project, Integer left, Integer top);
+};
+
+constexpr ObjectTraits kObjects[] = {
+    {Object::PicturesAnim, "DesPictureAnim", "Växlingsbara bilder",
+     [](Project& project, Integer left, Integer top) {
+         project.DesPicturesAnim.PictureXPos = left;
+         project.DesPicturesAnim.PictureYPos = top;
+     }},
+    {Object::Logotype, "DesLogotype", "Logotype", nullptr},
+    {Object::TextBox, "DesTextBoxPic", "Textruta",
+     [](Project& project, Integer left, Integer top) {
+         project.DesTextBox.BoxXPos = left;
+         project.DesTextBox.BoxYPos = top;
+     }},
+    {Object::RTFbox, "DesRTFboxPic", "RTF-ruta",
+     [](Project& project, Integer left, Integer top) {
+         project.DesRTFbox.RTFboxXPos = left;
+         project.DesRTFbox.RTFboxYPos = top;
+     }},
+};
 
 Long TwipsDown(int pixels, ScreenMetrics screen)
 {
@@ -38,61 +57,71 @@ DesignScreen::DesignScreen(Session& session)
     setObjectName("DesignScreen");
     colorblendBackground_->setParent(this);
     colorblendBackground_->onDoubleClick = [this](QPoint place) { EditAt(place); };
-    MakeObjects();
-    dragRect_ = new DragRectFrame(this);
-}
-
-void DesignScreen::MakeObjects()
-{
     const DesignObject::Surround surround{
         .surface = [this] { return place_; },
         .screen = session_.surface.screen,
         .showDragRect = [this](const std::optional<DragRect>& rect) { ShowDragRect(rect); }};
     MakePictures(surround);
-    const auto edit = [this](Object object) {
-        return [this, object] {
+    MakeObjects(surround);
+    SetPaints();
+    dragRect_ = new DragRectFrame(this);
+}
+
+void DesignScreen::MakeObjects(const DesignObject::Surround& surround)
+{
+    for (const ObjectTraits& traits : kObjects) {
+        auto* const object = new DesignObject(traits.name, traits.accessibleName, this);
+        objects_[traits.object] = object;
+        std::function<void(const SurfacePlace&)> keep;
+        if (traits.store)
+            keep = [this, object, &traits](const SurfacePlace& place) {
+                const SurfacePlace inside = ClampDesPlace(place, place_, session_.surface.screen);
+                object->PlaceAt(inside);
+                traits.store(session_.project, StoredPosition(inside.Left),
+                             StoredPosition(inside.Top));
+                session_.state.ProjectIsDirty = kOn;
+            };
+        object->Connect(surround, keep, [this, &traits] {
             if (onEditObject)
-                onEditObject(object, 0);
-        };
-    };
-    // Keeps where an object was dragged to, once it is moved inside the surface.
-    const auto keep = [this](DesignObject*& object, auto store) {
-        return [this, &object, store](const SurfacePlace& place) {
-            const SurfacePlace inside = ClampDesPlace(place, place_, session_.surface.screen);
-            object->PlaceAt(inside);
-            store(session_.project, StoredPosition(inside.Left), StoredPosition(inside.Top));
-            session_.state.ProjectIsDirty = kOn;
-        };
-    };
-    DesPictureAnim_ = new DesignObject("DesPictureAnim", "Växlingsbara bilder", this);
-    DesPictureAnim_->Connect(surround,
-                             keep(DesPictureAnim_,
-                                  [](Project& p, Integer x, Integer y) {
-                                      p.DesPicturesAnim.PictureXPos = x;
-                                      p.DesPicturesAnim.PictureYPos = y;
-                                  }),
-                             edit(Object::PicturesAnim));
-    DesLogotype_ = new DesignObject("DesLogotype", "Logotype", this);
-    DesLogotype_->Connect(surround, {}, edit(Object::Logotype));
-    DesTextBoxPic_ = new DesignObject("DesTextBoxPic", "Textruta", this);
-    DesTextBoxPic_->Connect(surround,
-                            keep(DesTextBoxPic_,
-                                 [](Project& p, Integer x, Integer y) {
-                                     p.DesTextBox.BoxXPos = x;
-                                     p.DesTextBox.BoxYPos = y;
-                                 }),
-                            edit(Object::TextBox));
-    DesRTFboxPic_ = new DesignObject("DesRTFboxPic", "RTF-ruta", this);
-    DesRTFboxPic_->Connect(surround,
-                           keep(DesRTFboxPic_,
-                                [](Project& p, Integer x, Integer y) {
-                                    p.DesRTFbox.RTFboxXPos = x;
-                                    p.DesRTFbox.RTFboxYPos = y;
-                                }),
-                           edit(Object::RTFbox));
-    Label_DesRTFboxPic_ = new QLabel(DesRTFboxPic_);
+                onEditObject(traits.object, 0);
+        });
+    }
+    Label_DesRTFboxPic_ = new QLabel(&Of(Object::RTFbox));
     Label_DesRTFboxPic_->setObjectName("Label_DesRTFboxPic");
     Label_DesRTFboxPic_->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+// Pictures and texts are painted, not made of controls, so that they look as in the setup. What
+// they show is told by their accessible descriptions.
+void DesignScreen::SetPaints()
+{
+    Of(Object::PicturesAnim).paint = [](QImage& image, double scale) {
+        image.fill(QColor(0x80, 0x80, 0x80));
+        QPainter painter(&image);
+        painter.setPen(QPen(Qt::white, scale));
+        painter.drawRect(image.rect().adjusted(0, 0, -1, -1));
+        QFont font = painter.font();
+        font.setPixelSize(static_cast<int>(13 * scale));
+        painter.setFont(font);
+        painter.drawText(image.rect(), Qt::AlignCenter | Qt::TextWordWrap, "Växlingsbara bilder");
+    };
+    Of(Object::Logotype).paint = [this](QImage& image, double) {
+        if (logotypeBox_.isMetafile)
+            image.fill(PixelOf(logotypeBox_.BackColor));
+        PaintSized(image, logotype_, image.width(), image.height());
+    };
+    Of(Object::TextBox).paint = [this](QImage& image, double scale) { PaintLabels(image, scale); };
+    Of(Object::RTFbox).paint = [this](QImage& image, double) {
+        image.fill(PixelOf(session_.project.DesRTFbox.RTFboxBackColor));
+    };
+}
+
+void DesignScreen::PaintSized(QImage& image, const ScalablePicture& picture, int width, int height)
+{
+    const Picture& sized = picture.InSize(width, height, letters_);
+    const QImage shown(reinterpret_cast<const uchar*>(sized.pixels.data()), sized.width,
+                       sized.height, QImage::Format_ARGB32_Premultiplied);
+    QPainter(&image).drawImage(0, 0, shown);
 }
 
 void DesignScreen::MakePictures(const DesignObject::Surround& surround)
@@ -109,11 +138,12 @@ void DesignScreen::MakePictures(const DesignObject::Surround& surround)
             });
         DesPicture_[i]->paint = [this, i](QImage& image, double scale) {
             const ScalablePicture& picture = pictures_[i];
-            const bool isStretched = boxes_[i].isStretched;
-            const auto side = [scale](int pixels) { return static_cast<int>(pixels * scale); };
-            if (!picture.IsEmpty())
-                PaintScaled(image, picture, isStretched ? image.width() : side(picture.Width()),
-                            isStretched ? image.height() : side(picture.Height()), letters_);
+            if (picture.IsEmpty())
+                return;
+            if (boxes_[i].isStretched)
+                return PaintSized(image, picture, image.width(), image.height());
+            const Picture& own = InOwnSize(picture, letters_, scale);
+            PaintSized(image, picture, own.width, own.height);
         };
     }
 }
@@ -155,7 +185,12 @@ void DesignScreen::DrawDesPictures()
     const auto measure = [&](const Text& file) {
         while (record.Pictures[next].PictureFilename.empty())
             pictures_[next++] = {};
-        return MeasureAndKeep(file, pictures_[next++]);
+        const section::DesPicture& picture = record.Pictures[next];
+        ScalablePicture& kept = pictures_[next++];
+        const PixelSize size = MeasureAndKeep(file, kept);
+        if (picture.UseTransparentBkg != kOff)
+            kept.MakeTransparent(TransparentColour(record.TransparentColorNr));
+        return size;
     };
     std::optional<RunError> failure;
     RunErrorNumber(
@@ -172,8 +207,11 @@ void DesignScreen::DrawDesPictures()
 
 void DesignScreen::ShowPictures()
 {
-    for (std::size_t i = 0; i < boxes_.size(); ++i)
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        DesPicture_[i]->setAccessibleDescription(
+            ToQt(session_.project.DesPictures.Pictures[i].PictureFilename));
         ShowObject(*DesPicture_[i], boxes_[i].place, boxes_[i].isVisible);
+    }
 }
 
 void DesignScreen::MovePicture(std::size_t index, const SurfacePlace& place)
@@ -186,19 +224,11 @@ void DesignScreen::MovePicture(std::size_t index, const SurfacePlace& place)
 
 void DesignScreen::DrawDesPicturesAnim()
 {
-    const ShownBox box =
-        LayOutPicturesAnim(session_.project.DesPicturesAnim, session_.surface.screen);
-    DesPictureAnim_->paint = [](QImage& image, double scale) {
-        image.fill(QColor(0x80, 0x80, 0x80));
-        QPainter painter(&image);
-        painter.setPen(QPen(Qt::white, scale));
-        painter.drawRect(image.rect().adjusted(0, 0, -1, -1));
-        QFont font = painter.font();
-        font.setPixelSize(static_cast<int>(13 * scale));
-        painter.setFont(font);
-        painter.drawText(image.rect(), Qt::AlignCenter | Qt::TextWordWrap, "Växlingsbara bilder");
-    };
-    ShowObject(*DesPictureAnim_, box.place, box.isVisible);
+    const section::DesPicturesAnim& record = session_.project.DesPicturesAnim;
+    const ShownBox box = LayOutPicturesAnim(record, session_.surface.screen);
+    DesignObject& object = Of(Object::PicturesAnim);
+    object.setAccessibleDescription(ToQt(NumberText(record.NrAnimPictures) + " bilder"));
+    ShowObject(object, box.place, box.isVisible);
 }
 
 void DesignScreen::DrawDesLogotype()
@@ -222,12 +252,11 @@ void DesignScreen::DrawDesLogotype()
         TellPictureError(*failure);
         logotypeBox_ = {};
     }
-    DesLogotype_->paint = [this](QImage& image, double) {
-        if (logotypeBox_.isMetafile)
-            image.fill(PixelOf(logotypeBox_.BackColor));
-        PaintScaled(image, logotype_, image.width(), image.height(), letters_);
-    };
-    ShowObject(*DesLogotype_, logotypeBox_.place, logotypeBox_.isVisible);
+    if (record.UseTransparentBkg != kOff)
+        logotype_.MakeTransparent(TransparentColour(record.TransparentColorNr));
+    DesignObject& object = Of(Object::Logotype);
+    object.setAccessibleDescription(ToQt(record.LogotypeFilename));
+    ShowObject(object, logotypeBox_.place, logotypeBox_.isVisible);
 }
 
 void DesignScreen::DrawDesLogotypeBackColor()
@@ -238,7 +267,7 @@ void DesignScreen::DrawDesLogotypeBackColor()
     logotypeBox_.BackColor = LogotypeBackColor({.UsePicture = background.Type == 2,
                                                 .ColorFrom = background.BackColor1,
                                                 .ColorTo = background.BackColor2});
-    DesLogotype_->update();
+    Of(Object::Logotype).update();
 }
 
 void DesignScreen::DrawDesTextBox()
@@ -248,9 +277,9 @@ void DesignScreen::DrawDesTextBox()
     const TextBoxLayout layout =
         LayOutTextBox(record, place_, screen, colorblendBackground_->TitleBottom(),
                       TwipsDown(HeadingHeight(letters_, record), screen));
-    DesTextBoxPic_->setAccessibleDescription(ToQt(record.BoxTitle + "\n" + record.BoxText));
-    DesTextBoxPic_->paint = [this](QImage& image, double scale) { PaintLabels(image, scale); };
-    ShowObject(*DesTextBoxPic_, layout.box, layout.isVisible);
+    DesignObject& object = Of(Object::TextBox);
+    object.setAccessibleDescription(ToQt(record.BoxTitle + "\n" + record.BoxText));
+    ShowObject(object, layout.box, layout.isVisible);
 }
 
 // Kept: here the box is always filled; whether the setup fills it is the record's matter.
@@ -264,18 +293,18 @@ void DesignScreen::DrawDesRTFbox()
 {
     section::DesRTFbox& record = session_.project.DesRTFbox;
     const ShownBox box = LayOutRTFbox(record, place_, session_.surface.screen);
-    const Pixel colour = PixelOf(record.RTFboxBackColor);
-    DesRTFboxPic_->paint = [colour](QImage& image, double) { image.fill(colour); };
+    DesignObject& object = Of(Object::RTFbox);
+    object.setAccessibleDescription(ToQt(record.RTFfilename));
     Label_DesRTFboxPic_->setText(ToQt(record.RTFfilename));
     // Readable on the box's own colour, whatever colours the desktop has.
     QPalette palette = Label_DesRTFboxPic_->palette();
-    const bool isDark = qGray(colour) < 128;
+    const bool isDark = qGray(PixelOf(record.RTFboxBackColor)) < 128;
     palette.setColor(QPalette::WindowText, isDark ? Qt::white : Qt::black);
     Label_DesRTFboxPic_->setPalette(palette);
     Label_DesRTFboxPic_->move(PixelsOf(kRTFNameLeft, session_.surface.screen.TPPX),
                               PixelsOf(kRTFNameTop, session_.surface.screen.TPPY));
     Label_DesRTFboxPic_->adjustSize();
-    ShowObject(*DesRTFboxPic_, box.place, box.isVisible);
+    ShowObject(object, box.place, box.isVisible);
 }
 
 void DesignScreen::DrawDesAll()
@@ -293,7 +322,7 @@ void DesignScreen::HideDesObjects()
 {
     for (DesignObject* picture : DesPicture_)
         picture->hide();
-    for (DesignObject* object : {DesPictureAnim_, DesLogotype_, DesTextBoxPic_, DesRTFboxPic_})
+    for (const auto& [kind, object] : objects_)
         object->hide();
 }
 

@@ -9,6 +9,7 @@
 #include "design/system_letters.h"
 
 #include <array>
+#include <map>
 #include <set>
 
 class QLabel;
@@ -50,8 +51,11 @@ public:
     std::function<void(SurfaceEditor)> onEditSurface;
 
 private:
-    void MakeObjects();
+    void MakeObjects(const DesignObject::Surround& surround);
     void MakePictures(const DesignObject::Surround& surround);
+    void SetPaints();
+    DesignObject& Of(Object object) const { return *objects_.at(object); }
+    void PaintSized(QImage& image, const ScalablePicture& picture, int width, int height);
     void PaintLabels(QImage& image, double scale);
     void ShowObject(DesignObject& object, const SurfacePlace& place, bool isVisible);
     void MovePicture(std::size_t index, const SurfacePlace& place);
@@ -71,12 +75,10 @@ private:
     std::array<DesignObject*, section::kDesPictureCount> DesPicture_{};
     std::array<ScalablePicture, section::kDesPictureCount> pictures_;
     PictureBoxes boxes_;
-    DesignObject* DesPictureAnim_ = nullptr;
-    DesignObject* DesLogotype_ = nullptr;
+    // The others, one of each kind.
+    std::map<Object, DesignObject*> objects_;
     ScalablePicture logotype_;
     LogotypeBox logotypeBox_;
-    DesignObject* DesTextBoxPic_ = nullptr;
-    DesignObject* DesRTFboxPic_ = nullptr;
     QLabel* Label_DesRTFboxPic_ = nullptr;
     // The pictures that can't be read and were told: each is drawn anew all the time.
     std::set<Text> reported_;

@@ -181,7 +181,11 @@ void DlgDesRTFbox::Load()
         }
         InsertRtf(*text, *RTFbox->document(), RTFbox->logicalDpiX());
         RTFbox->document()->clearUndoRedoStacks();
-        ReportRtfLosses(RtfLosses(bytes), text->fault != RtfText::Fault::None, path, session_.ask);
+        const std::vector<Text> losses = RtfLosses(bytes);
+        const bool isCut = text->fault != RtfText::Fault::None;
+        ReportRtfLosses(losses, isCut, path, session_.ask);
+        if (losses.empty() && !isCut)
+            shownFile_ = path;
     } catch (const RunError& error) {
         session_.ask.Critical("Fel", FailureText(error, path));
     }
@@ -199,7 +203,9 @@ bool DlgDesRTFbox::SaveText()
     const Text path = RTFboxPath(session_.options.ToolFolder, name);
     try {
         const RtfText text = ExtractRtf(*RTFbox->document(), RTFbox->logicalDpiX());
-        SaveRTFbox(session_.host.files, session_.options.ToolFolder, name, WriteRtf(text));
+        SaveRTFbox(session_.host.files, session_.options.ToolFolder, name, WriteRtf(text),
+                   EqualIgnoreCase(path, shownFile_) ? OldRtfFile::Replaced : OldRtfFile::Kept);
+        shownFile_ = path;
         return true;
     } catch (const RunError& error) {
         session_.ask.Critical("Fel", FailureText(error, path));

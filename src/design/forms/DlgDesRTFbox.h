@@ -41,6 +41,8 @@ private:
     bool SaveText();
 
     section::DesRTFbox& box_;
+    // The file whose text the editor shows whole.
+    Text shownFile_;
 };
 
 } // namespace quillon

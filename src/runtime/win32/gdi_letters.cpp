@@ -1,3 +1,7 @@
+// Advances and heights are those of the outlines, measured once at the size in which a font is
+// designed: letters stand, and lines break, where they do in the tool, however Windows fits letters
+// into pixels.
+//
 // Each letter is drawn white on black into a bitmap of its own, where the brightness of a pixel is
 // how much of it the letter covers. Grey smoothing is asked for: the colours of the other kind are
 // right on one ground only.
@@ -15,10 +19,10 @@ namespace quillon {
 
 namespace {
 
-LOGFONTW LogicalFont(const ScreenFont& font)
+LOGFONTW LogicalFont(const ScreenFont& font, int size)
 {
     LOGFONTW logical{};
-    logical.lfHeight = -std::max(font.size, 1);
+    logical.lfHeight = -std::max(size, 1);
     logical.lfWeight = font.isBold ? FW_BOLD : FW_NORMAL;
     logical.lfItalic = font.isItalic;
     logical.lfCharSet = DEFAULT_CHARSET;
@@ -45,46 +49,104 @@ std::vector<std::wstring> CodePoints(const Text& line)
 
 } // namespace
 
-// A device context in memory with the font and the bitmap that were asked for last.
-class GdiLetters::Device {
+namespace {
+
+struct Bitmap {
+    Bitmap() = default;
+    ~Bitmap() { DeleteObject(handle); }
+    Bitmap(const Bitmap&) = delete;
+    Bitmap& operator=(const Bitmap&) = delete;
+
+    HBITMAP handle = nullptr;
+};
+
+// A device context in memory with one font.
+class FontContext {
 public:
-    Device() : context_(CreateCompatibleDC(nullptr))
-    {
-        SetTextColor(context_, RGB(255, 255, 255));
-        SetBkColor(context_, RGB(0, 0, 0));
-        SetTextAlign(context_, TA_LEFT | TA_BASELINE);
-    }
-    ~Device()
+    FontContext() : context_(CreateCompatibleDC(nullptr)) {}
+    ~FontContext()
     {
         DeleteDC(context_);
         DeleteObject(font_);
-        DeleteObject(bitmap_);
+    }
+    FontContext(const FontContext&) = delete;
+    FontContext& operator=(const FontContext&) = delete;
+
+    HDC Get() const { return context_; }
+
+    void Select(const ScreenFont& font, int size)
+    {
+        const LOGFONTW logical = LogicalFont(font, size);
+        HFONT made = CreateFontIndirectW(&logical);
+        SelectObject(context_, made);
+        DeleteObject(font_);
+        font_ = made;
+    }
+
+    TEXTMETRICW Metrics() const
+    {
+        TEXTMETRICW metrics{};
+        GetTextMetricsW(context_, &metrics);
+        return metrics;
+    }
+
+    /// The size in which the font is designed; 0 where it has no outlines.
+    int DesignSize() const
+    {
+        const UINT size = GetOutlineTextMetricsW(context_, 0, nullptr);
+        std::vector<std::byte> room(size);
+        auto* const outline = reinterpret_cast<OUTLINETEXTMETRICW*>(room.data());
+        return size >= sizeof(OUTLINETEXTMETRICW) &&
+                       GetOutlineTextMetricsW(context_, size, outline) != 0
+                   ? static_cast<int>(outline->otmEMSquare)
+                   : 0;
+    }
+
+private:
+    HDC context_;
+    HFONT font_ = nullptr;
+};
+
+} // namespace
+
+// The font and the bitmap that were asked for last.
+class GdiLetters::Device {
+public:
+    Device()
+    {
+        SetTextColor(drawn_.Get(), RGB(255, 255, 255));
+        SetBkColor(drawn_.Get(), RGB(0, 0, 0));
+        SetTextAlign(drawn_.Get(), TA_LEFT | TA_BASELINE);
     }
     Device(const Device&) = delete;
     Device& operator=(const Device&) = delete;
 
     void Select(const ScreenFont& font)
     {
-        if (font_ && font == selected_)
+        if (isSelected_ && font == selected_)
             return;
-        const LOGFONTW logical = LogicalFont(font);
-        HFONT made = CreateFontIndirectW(&logical);
-        SelectObject(context_, made);
-        DeleteObject(font_);
-        font_ = made;
+        drawn_.Select(font, font.size);
+        metrics_ = drawn_.Metrics();
+        const int designed = drawn_.DesignSize();
+        measuredSize_ = designed > 0 ? designed : std::max(font.size, 1);
+        measured_.Select(font, measuredSize_);
+        measuredMetrics_ = measured_.Metrics();
         selected_ = font;
-        GetTextMetricsW(context_, &metrics_);
+        isSelected_ = true;
     }
 
-    const TEXTMETRICW& Metrics() const { return metrics_; }
+    FontHeight Height() const
+    {
+        return {Scaled(measuredMetrics_.tmAscent), Scaled(measuredMetrics_.tmDescent)};
+    }
 
     int Advance(const std::wstring& character) const
     {
         SIZE size{};
-        GetTextExtentPoint32W(context_, character.data(), static_cast<int>(character.size()),
+        GetTextExtentPoint32W(measured_.Get(), character.data(), static_cast<int>(character.size()),
                               &size);
         // What an emulated bold or italic letter hangs over is no part of its advance.
-        return std::max(static_cast<int>(size.cx - metrics_.tmOverhang), 0);
+        return std::max(Scaled(size.cx - measuredMetrics_.tmOverhang), 0);
     }
 
     LetterMask Draw(const std::wstring& character)
@@ -98,7 +160,7 @@ public:
         if (!MakeRoom(mask.width, mask.height))
             return {};
         const RECT all{0, 0, mask.width, mask.height};
-        ExtTextOutW(context_, overhang, ascent, ETO_OPAQUE, &all, character.data(),
+        ExtTextOutW(drawn_.Get(), overhang, ascent, ETO_OPAQUE, &all, character.data(),
                     static_cast<UINT>(character.size()), nullptr);
         GdiFlush();
         for (int y = 0; y < mask.height; ++y) {
@@ -121,23 +183,33 @@ private:
         info.bmiHeader.biPlanes = 1;
         info.bmiHeader.biBitCount = 32;
         void* pixels = nullptr;
-        HBITMAP made = CreateDIBSection(context_, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+        HBITMAP made = CreateDIBSection(drawn_.Get(), &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
         if (!made)
             return false;
-        SelectObject(context_, made);
-        DeleteObject(bitmap_);
-        bitmap_ = made;
+        SelectObject(drawn_.Get(), made);
+        DeleteObject(bitmap_.handle);
+        bitmap_.handle = made;
         pixels_ = static_cast<const std::uint32_t*>(pixels);
         width_ = static_cast<int>(info.bmiHeader.biWidth);
         height_ = static_cast<int>(-info.bmiHeader.biHeight);
         return true;
     }
 
-    HDC context_;
-    HFONT font_ = nullptr;
-    HBITMAP bitmap_ = nullptr;
+    /// From the size of the measuring font to that of the selected one.
+    int Scaled(LONG units) const
+    {
+        const std::int64_t size = std::max(selected_.size, 1);
+        return static_cast<int>((units * size + measuredSize_ / 2) / measuredSize_);
+    }
+
+    Bitmap bitmap_; // goes behind the context that holds it
+    FontContext drawn_;
+    FontContext measured_;
+    bool isSelected_ = false;
     ScreenFont selected_;
     TEXTMETRICW metrics_{};
+    int measuredSize_ = 1;
+    TEXTMETRICW measuredMetrics_{};
     const std::uint32_t* pixels_ = nullptr;
     int width_ = 0;
     int height_ = 0;
@@ -150,8 +222,7 @@ GdiLetters::~GdiLetters() = default;
 FontHeight GdiLetters::Height(const ScreenFont& font)
 {
     device_->Select(font);
-    return {static_cast<int>(device_->Metrics().tmAscent),
-            static_cast<int>(device_->Metrics().tmDescent)};
+    return device_->Height();
 }
 
 std::vector<int> GdiLetters::Advances(const ScreenFont& font, const Text& line)

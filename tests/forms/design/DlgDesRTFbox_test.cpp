@@ -94,14 +94,43 @@ TEST_F(DlgDesRTFboxTest, LoadsTheFileAndTellsWhatItCantShow)
     machine.files.Put("C:\\Quillon\\rtf\\a.rtf",
                       "{\\rtf1\\ansi Hej {\\b d\\'e5}{\\pict\\wmetafile8 00}}");
     ask.Expect({BoxKind::Warn, "RTF-ruta",
-                "Filen 'C:\\Quillon\\rtf\\a.rtf' innehåller bilder, som inte kan visas i rutan. De "
-                "försvinner ur filen om du trycker på 'OK'."});
+                "Filen 'C:\\Quillon\\rtf\\a.rtf' innehåller bilder, som inte kan visas i rutan. "
+                "Trycker du på 'OK' behålls den gamla filen bredvid den nya, med .bak efter "
+                "namnet."});
     DlgDesRTFbox form(session, nullptr);
     ShowActive(form);
     EXPECT_EQ(form.RTFbox->toPlainText(), "Hej då");
     EXPECT_FALSE(form.cmdUndo->isEnabled());
     Click(form, "cmdCancel");
     EXPECT_NE(machine.files.Get("C:\\Quillon\\rtf\\a.rtf").find("\\pict"), std::string::npos);
+}
+
+TEST_F(DlgDesRTFboxTest, KeepsAFileThatItDidNotShowWhole)
+{
+    const std::string path = "C:\\Quillon\\rtf\\a.rtf";
+    box.RTFfilename = "a.rtf";
+    for (const char* bytes :
+         {"no RTF at all", "{\\rtf1 Hej{\\pict\\wmetafile8 00}}", "{\\rtf1 Hej"}) {
+        machine.files.Put(path, bytes);
+        ask.Expect({bytes == std::string("no RTF at all") ? BoxKind::Critical : BoxKind::Warn});
+        DlgDesRTFbox form(session, nullptr);
+        ShowActive(form);
+        Click(form, "cmdOK");
+        EXPECT_EQ(machine.files.Get(path + ".bak"), bytes);
+        EXPECT_TRUE(machine.files.Get(path).starts_with("{\\rtf1"));
+        machine.files.RemoveFile(path + ".bak");
+    }
+    // One that was shown whole gives way; another one of the name that is typed does not.
+    DlgDesRTFbox again(session, nullptr);
+    ShowActive(again);
+    Click(again, "cmdOK");
+    EXPECT_FALSE(machine.files.FileExists(path + ".bak"));
+    machine.files.Put("C:\\Quillon\\rtf\\b.rtf", "another project's");
+    DlgDesRTFbox other(session, nullptr);
+    ShowActive(other);
+    Type(other, "tRTFfilename", "b");
+    Click(other, "cmdOK");
+    EXPECT_EQ(machine.files.Get("C:\\Quillon\\rtf\\b.rtf.bak"), "another project's");
 }
 
 TEST_F(DlgDesRTFboxTest, TellsOfAFileThatIsMissing)
