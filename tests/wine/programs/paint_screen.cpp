@@ -1,6 +1,5 @@
 // paint_screen PROJECT TOOLFOLDER WIDTH HEIGHT PIXELS: paints the project's screen as the setup
-// does, with the letters of Windows, and writes its pixels as they lie in memory. Pictures are
-// bitmaps.
+// does, with the letters of Windows, and writes its pixels as they lie in memory.
 #include "pictures/screen_files.h"
 #include "platform/whole_file.h"
 #include "platform/win32/wide_text.h"
