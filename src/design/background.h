@@ -1,17 +1,22 @@
-// What lies below everything on the screen: the blend of two colours, or the background picture.
+// What the screen has behind everything else: a blend of two colours.
 #pragma once
 
-#include "design/scalable_picture.h"
-#include "design/surface.h"
+#include "design/canvas.h"
 
 namespace quillon {
 
-/// Paints the canvas's clip. `scale` is that of a picture which is not stretched: it stands in the
-/// middle, on the first colour. Where there is no picture, the blend is painted.
-void PaintBackground(const Canvas& canvas, Letters& letters, const SurfacePaint& paint,
-                     const ScalablePicture& picture, double scale);
+/// The ways of a blend, as `BlendDirection` less one counts them.
+enum class BlendStyle : Integer { ToTheRight, ToTheLeft, Upwards, Downwards, Outwards };
 
-/// A picture in its own size at that scale, which is at least one pixel.
-const Picture& InOwnSize(const ScalablePicture& picture, Letters& letters, double scale);
+struct Blend {
+    Colour ColorFrom = 0;
+    Colour ColorTo = 0;
+    Long BlendDepth = 100; // percent, see `BlendColour`
+    quillon::BlendStyle BlendStyle = quillon::BlendStyle::Downwards;
+};
+
+/// The blend over the whole of `area`, of which only the canvas's clip is painted. A style that
+/// there is not falls downwards.
+void PaintBlend(const Canvas& canvas, const PixelRect& area, const Blend& blend);
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 #include "design/screen.h"
 
-#include "design/background.h"
+#include "design/background_painter.h"
 #include "design/text_panel.h"
 
 #include <algorithm>

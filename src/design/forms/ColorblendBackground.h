@@ -1,7 +1,7 @@
 // The painter of the preview surface: a blend of two colours or a picture, and the title on it.
 #pragma once
 
-#include "design/background.h"
+#include "design/background_painter.h"
 #include "design/title_block.h"
 
 #include <QImage>
