@@ -1,6 +1,6 @@
 # The desktop program. Qt's headers take long to compile, so the form kit's precompiled header serves
 # all windows; no class of ours needs moc.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg DBus)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg DBus PrintSupport)
 
 set(CMAKE_AUTORCC ON)
 file(GLOB icons CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/ui/*.qrc)
@@ -33,6 +33,9 @@ quillon_forms(design)
 quillon_forms(importers)
 quillon_forms(builder)
 quillon_forms(shell)
+quillon_forms(tools)
+# As for DBus above.
+target_link_libraries(quillon_tools_forms INTERFACE $<LINK_ONLY:Qt6::PrintSupport>)
 
 file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/app/*.cpp
      ${CMAKE_CURRENT_SOURCE_DIR}/app/*.h)

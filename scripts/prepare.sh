@@ -2,16 +2,16 @@
 # shellcheck shell=bash
 
 BUILD_PACKAGES=(
-    ca-certificates ccache cmake g++ libbenchmark-dev libdeflate-dev libfontconfig-dev
+    ca-certificates ccache cmake g++ libbenchmark-dev libcairo2-dev libdeflate-dev libfontconfig-dev
     libfreetype-dev libgmock-dev libgtest-dev libjpeg62-turbo-dev libpng-dev libssl-dev
-    ninja-build nlohmann-json3-dev python3-minimal zlib1g-dev
+    ninja-build nlohmann-json3-dev pkg-config python3-minimal zlib1g-dev
     g++-mingw-w64-i686 g++-mingw-w64-x86-64 libz-mingw-w64-dev
-    qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-wayland fonts-dejavu-core
+    qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-wayland fonts-dejavu-core fonts-liberation
 )
 TEST_PACKAGES=(
     clang clang-format libclang-rt-14-dev
-    debootstrap p7zip-full procps unrtf unzip wine64 zip
-    at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi python3-minimal xdotool xvfb
+    debootstrap p7zip-full poppler-utils procps unrtf unzip wine64 zip
+    at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi xdotool xvfb
 )
 
 as_root() {

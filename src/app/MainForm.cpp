@@ -19,9 +19,9 @@
 #include "filelist/forms/list_commands.h"
 #include "filelist/view/status_text.h"
 #include "helpers/product.h"
+#include "project/project_title.h"
 #include "shell/failure_text.h"
 #include "shell/project_commands.h"
-#include "shell/project_title.h"
 #include "shell/settings_file.h"
 #include "ui/fit_screen.h"
 #include "ui/qt_text.h"
@@ -257,7 +257,7 @@ void MainForm::dropEvent(QDropEvent* event)
     event->accept();
     // The question that may come up must not hold up the program that was dragged from.
     QTimer::singleShot(0, this, [this, project] {
-        RunGuarded([&] { OpenDroppedProject(session_, *this, *project); });
+        RunGuarded([&] { OpenChosenProject(session_, *this, *project); });
     });
 }
 

@@ -25,6 +25,9 @@
 #include "shell/forms/DlgVersionInfo.h"
 #include "shell/help.h"
 #include "shell/project_commands.h"
+#include "tools/forms/PrintFileList.h"
+#include "tools/forms/ProjectManager.h"
+#include "tools/forms/WizBugReport.h"
 
 #include <map>
 
@@ -68,9 +71,11 @@ const std::map<int, Action> kActions = {
     {102, [](MainForm& form) { OpenProject(form.GetSession(), form); }},
     {103, [](MainForm& form) { SaveProjectCommand(form.GetSession(), form); }},
     {104, [](MainForm& form) { SaveProjectAs(form.GetSession(), form); }},
+    {105, [](MainForm& form) { OpenProjectManager(form.GetSession(), form, &form); }},
     {107, ImportIniFile},
     {108, Create},
     {109, [](MainForm& form) { ShowTest(form.GetSession(), &form); }},
+    {110, [](MainForm& form) { ShowPrintFileList(form.GetSession(), &form); }},
     {112, [](MainForm& form) { form.close(); }},
     {113, [](MainForm& form) { ShowCompareLstFile(form.GetSession(), &form); }},
     {114, [](MainForm& form) { DeleteRowsCommand(form.GetSession(), form); }},
@@ -116,6 +121,7 @@ const std::map<int, Action> kActions = {
     {154, Help},
     {155, Help},
     {156, [](MainForm& form) { ShowSupport(form.GetSession()); }},
+    {157, [](MainForm& form) { OpenBugReportWizard(form.GetSession(), &form); }},
     {158, [](MainForm& form) { ShowAbout(&form); }},
     {201, [](MainForm& form) { ShowImportVB5Project(MakeImportDesk(form), &form); }},
     {202, [](MainForm& form) { ShowImportVB6Project(MakeImportDesk(form), &form); }},

@@ -1,6 +1,6 @@
 #include "app/command_bars.h"
 
-#include "shell/project_title.h"
+#include "project/project_title.h"
 #include "ui/icons.h"
 #include "ui/qt_text.h"
 

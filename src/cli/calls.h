@@ -12,6 +12,7 @@ Exit TestProject(const CallContext& context);
 Exit ResaveProject(const CallContext& context);
 Exit ShowProject(const CallContext& context);
 Exit PaintProjectScreen(const CallContext& context);
+Exit PrintProject(const CallContext& context);
 Exit ListPackage(const CallContext& context);
 Exit VerifyPackageFolder(const CallContext& context);
 

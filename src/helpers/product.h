@@ -12,4 +12,8 @@ inline constexpr std::string_view kOriginInfo = "This file is created by Tavrell
 inline constexpr std::string_view kEndOfList = "....";
 inline constexpr std::string_view kEndOfFile = "-(EOF)-";
 
+// Where users turn to. `support.url` in the tool's folder leads to the same mail address.
+inline constexpr const char* kUpdatesAddress = "https://www.quillon.example/uppdateringar";
+inline constexpr const char* kSupportAddress = "support@quillon.example";
+
 } // namespace quillon

@@ -36,6 +36,8 @@ Text FailureText(const RunError& error, const Text& path)
         return "'" + named + "' är ingen vanlig fil, eller så är den skrivskyddad.";
     case ErrorNumber::kDiskFull:
         return "Disken är full: '" + named + "'.";
+    case ErrorNumber::kPastEndOfFile:
+        return "Filen '" + named + "' är för kort.";
     default:
         return "Fel #" + NumberText(error.Number()) + (named.empty() ? "." : ": '" + named + "'.") +
                WhatItMeans(error.Number());

@@ -21,6 +21,7 @@ inline constexpr int kFileNotFound = 53;
 inline constexpr int kFileInUse = 55;
 inline constexpr int kDeviceIo = 57;
 inline constexpr int kDiskFull = 61;
+inline constexpr int kPastEndOfFile = 62;
 inline constexpr int kPermissionDenied = 70;
 inline constexpr int kPathFileAccess = 75;
 inline constexpr int kPathNotFound = 76;

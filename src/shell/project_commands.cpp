@@ -104,7 +104,7 @@ void OpenProject(Session& session, MainWindow& window)
         OpenNamedProject(session, window, *file);
 }
 
-void OpenDroppedProject(Session& session, MainWindow& window, const Text& file)
+void OpenChosenProject(Session& session, MainWindow& window, const Text& file)
 {
     if (AskSaveChanges(session, window) != SaveChanges::Cancel)
         OpenNamedProject(session, window, file);

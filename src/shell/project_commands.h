@@ -17,7 +17,7 @@ void NewProject(Session& session, MainWindow& window);
 void OpenProject(Session& session, MainWindow& window);
 /// Slots count from 0; a free one is ignored.
 void OpenRecentFile(Session& session, MainWindow& window, std::size_t slot);
-void OpenDroppedProject(Session& session, MainWindow& window, const Text& file);
+void OpenChosenProject(Session& session, MainWindow& window, const Text& file);
 /// Opens the file whether it is there or not, and asks nothing.
 void OpenNamedProject(Session& session, MainWindow& window, const Text& file);
 

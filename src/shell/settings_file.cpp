@@ -1,13 +1,12 @@
 #include "shell/settings_file.h"
 
-#include "helpers/ansi_text.h"
-#include "helpers/utf8.h"
 #include "helpers/windows_path.h"
 #include "ini/profile_reader.h"
 #include "ini/profile_writer.h"
 #include "platform/run_error.h"
 #include "platform/saved_file.h"
 #include "platform/whole_file.h"
+#include "project/unicode_value.h"
 #include "shell/command_table.h"
 #include "shell/settings_keys.h"
 
@@ -18,33 +17,6 @@ namespace quillon {
 namespace {
 
 constexpr const char* kSettingsFileName = "QUILLON.INI";
-
-// A path with characters outside Windows-1252 stands in UTF-8 behind this mark.
-constexpr std::string_view kUtf8Bom = "utf-8:";
-
-bool HasNoLineBreak(const Text& value)
-{
-    return value.find_first_of("\r\n") == Text::npos;
-}
-
-/// The value as the file can hold it; one that would come back as another one is left out.
-Text FittingOnFile(const Text& value, int limit)
-{
-    if (!HasNoLineBreak(value))
-        return {};
-    if (AnsiText::Holds(value))
-        return value;
-    const bool isCut = kUtf8Bom.size() + value.size() >= static_cast<std::size_t>(limit);
-    return isCut ? Text() : Text(kUtf8Bom) + AnsiText::FromBytes(value);
-}
-
-Text ValueFromFile(const Text& onFile)
-{
-    if (!onFile.starts_with(kUtf8Bom))
-        return onFile;
-    Text value = AnsiText::ToBytes(std::string_view(onFile).substr(kUtf8Bom.size()));
-    return IsUtf8(value) ? value : Text();
-}
 
 class SettingsReader {
 public:
@@ -68,7 +40,7 @@ public:
 private:
     void Read(const Text& key, SettingForm, int limit, Text& value)
     {
-        value = ValueFromFile(reader_.ReadIniString(key, limit));
+        value = UnicodeValueFromFile(reader_.ReadIniString(key, limit));
     }
 
     void Read(const Text& key, SettingForm form, int, Integer& value)
@@ -113,14 +85,14 @@ public:
 
     void Slot(const char* section, const Text& key, const Text& file)
     {
-        SetProfileValue(bytes_, section, key, FittingOnFile(file, kRecentFileLimit));
+        SetProfileValue(bytes_, section, key, UnicodeValueOnFile(file, kRecentFileLimit));
     }
 
 private:
     template <class Section>
     static Text OnFile(const SettingKey<Section>& key, const Text& value)
     {
-        return FittingOnFile(value, key.limit);
+        return UnicodeValueOnFile(value, key.limit);
     }
 
     template <class Section>
@@ -200,6 +172,8 @@ void WriteDataToIniFile(const Session& session)
     if (path.empty() || !files.DirCreate(ExtractDirectory(path)))
         return;
     try {
+        // Another program of the tool may be about to change its own keys.
+        const auto lock = LockSavedFile(files, path, LockWait::UntilFree);
         std::string bytes = files.FileExists(path) ? ReadWholeFile(files, path) : std::string();
         SettingsWriter writer(bytes);
         VisitSettings(writer, session);

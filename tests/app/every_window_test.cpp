@@ -79,6 +79,11 @@
 #include "shell/forms/DlgVersionInfo.h"
 #include "support/window_looks.h"
 #include "support/window_test.h"
+#include "tools/forms/PMMoreInfo.h"
+#include "tools/forms/PrintFileList.h"
+#include "tools/forms/ProjectManager.h"
+#include "tools/forms/WizBugReportQuestions.h"
+#include "tools/forms/WizBugReportReport.h"
 #include "ui/FontForm.h"
 #include "ui/SelectDir.h"
 #include "ui/XInputBox.h"
@@ -108,6 +113,20 @@ template <class Dialog, class... Arguments>
 std::unique_ptr<QDialog> Made(Arguments&&... arguments)
 {
     return std::make_unique<Dialog>(std::forward<Arguments>(arguments)..., nullptr);
+}
+
+/// A page of the wizard, with what all of its pages share.
+template <class Page>
+std::unique_ptr<QDialog> WizardPage(Subject subject)
+{
+    struct Shown : Page {
+        explicit Shown(std::unique_ptr<BugReportWizard> shared)
+            : Page(*shared, nullptr), wizard(std::move(shared))
+        {
+        }
+        std::unique_ptr<BugReportWizard> wizard;
+    };
+    return std::make_unique<Shown>(std::make_unique<BugReportWizard>(subject.session));
 }
 
 template <class Dialog>
@@ -216,8 +235,20 @@ const WindowCase kWindows[] = {
     {"InstDlgLicenseInfoRtf", [](Subject of) { return Made<InstDlgLicenseInfoRtf>(kLongLicense, of.session); }},
     {"InstDlgNameCompany", [](Subject of) { return Made<InstDlgNameCompany>(NameCompanyPreview{.asksAddress = true}, of.session); }},
     {"InstDlgPassword", [](Subject of) { return Made<InstDlgPassword>(kLongTitle, of.session); }},
+    {"PMMoreInfo", [](Subject) { return Made<PMMoreInfo>("C:\\Projekt\\hej.qnp", ProjectVersionData{"Firma AB", "Hej", "En hälsning", "1.0", "Inga"}); }},
+    {"PrintFileList", [](Subject of) { return Made<PrintFileList>(of.session, std::vector<PrinterChoice>{{"Laser", "Rum 3"}}); }},
+    {"PrintFileListWithoutPrinter", [](Subject of) { return Made<PrintFileList>(of.session, std::vector<PrinterChoice>()); }},
+    {"ProjectManager", OfSession<ProjectManager>},
     {"RecursiveCollect", [](Subject of) { return Made<RecursiveCollect>(WorkOn(of.session), kTree); }},
     {"SelectDir", [](Subject of) { return Made<SelectDir>(of.session.host.files, of.session.ask, "Välj en katalog.", "C:\\Data"); }},
+    {"WizBugReport_1", WizardPage<WizBugReport_1>},
+    {"WizBugReport_2", WizardPage<WizBugReport_2>},
+    {"WizBugReport_3", WizardPage<WizBugReport_3>},
+    {"WizBugReport_4", WizardPage<WizBugReport_4>},
+    {"WizBugReport_5", WizardPage<WizBugReport_5>},
+    {"WizBugReport_6", WizardPage<WizBugReport_6>},
+    {"WizBugReport_7", WizardPage<WizBugReport_7>},
+    {"WizBugReport_8", WizardPage<WizBugReport_8>},
     {"XInputBox", [](Subject) { return Made<XInputBox>("Lägg till sektion", "&Sektion:"); }},
 };
 // clang-format on

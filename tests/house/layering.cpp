@@ -11,10 +11,10 @@ namespace {
 
 // Folders of one height do not include each other.
 const std::map<std::string, int> kHeight = {
-    {"helpers", 0},  {"platform", 1}, {"archive", 2},   {"ini", 2},      {"project", 3},
-    {"rtf", 4},      {"formats", 4},  {"design", 5},    {"pictures", 6}, {"runtime", 7},
-    {"filelist", 7}, {"actions", 8},  {"importers", 8}, {"tools", 8},    {"builder", 9},
-    {"shell", 10},   {"cli", 11},     {"ui", 11},       {"app", 13}};
+    {"helpers", 0},  {"platform", 1}, {"archive", 2}, {"ini", 2},       {"project", 3},
+    {"rtf", 4},      {"formats", 4},  {"design", 5},  {"pictures", 6},  {"runtime", 7},
+    {"filelist", 7}, {"diagnos", 7},  {"actions", 8}, {"importers", 8}, {"tools", 8},
+    {"builder", 9},  {"shell", 10},   {"cli", 11},    {"ui", 11},       {"app", 13}};
 constexpr int kFormsHeight = 12;
 
 // The setup runtime has to stay small, so it uses these alone.

@@ -251,6 +251,13 @@ TEST_F(PosixMachineTest, StartsAWindowsProgramByWineAndADocumentByTheDesktop)
     host.machine.OpenDocument("https://example.org/a b");
     EXPECT_EQ(ReadPipe(disk.Path("pipe")),
               disk.Path("bin/xdg-open") + " https://example.org/a b\n");
+    disk.Put("support.url", "[InternetShortcut]\r\nURL=mailto:a@example.org\r\n");
+    host.machine.OpenDocument("S:\\Support.URL");
+    EXPECT_EQ(ReadPipe(disk.Path("pipe")), disk.Path("bin/xdg-open") + " mailto:a@example.org\n");
+    disk.Put("support.url", "[InternetShortcut]\r\nURL=--help\r\n");
+    host.machine.OpenDocument("S:\\support.url");
+    EXPECT_EQ(ReadPipe(disk.Path("pipe")),
+              disk.Path("bin/xdg-open") + " " + disk.Path("support.url") + "\n");
 }
 
 class EditedTexts : public PosixMachineTest {

@@ -3,7 +3,7 @@
 #include "platform/run_error.h"
 #include "shell/fake_window.h"
 #include "shell/lifecycle.h"
-#include "shell/project_title.h"
+#include "project/project_title.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"
 
@@ -242,13 +242,13 @@ TEST(OpenProjectTest, AsksForFilesThatNoProjectHasToName)
     EXPECT_FALSE(desk.ask.questions[1].isForProject);
 }
 
-TEST(OpenDroppedProjectTest, AsksFirstWhatBecomesOfTheOpenOne)
+TEST(OpenChosenProjectTest, AsksFirstWhatBecomesOfTheOpenOne)
 {
     Desk desk({SaveQuestion(Answer::Cancel), SaveQuestion(Answer::No)});
     desk.Change();
-    OpenDroppedProject(desk.session, desk.window, "C:\\P\\b.qnp");
+    OpenChosenProject(desk.session, desk.window, "C:\\P\\b.qnp");
     EXPECT_EQ(desk.Name(), "Ändrat");
-    OpenDroppedProject(desk.session, desk.window, "C:\\P\\b.qnp");
+    OpenChosenProject(desk.session, desk.window, "C:\\P\\b.qnp");
     EXPECT_EQ(desk.Name(), "b");
     EXPECT_EQ(desk.session.state.ProjectFileName, "C:\\P\\b.qnp");
 }

@@ -3,7 +3,7 @@
 #include "filelist/forms/DlgMDADetails.h"
 #include "filelist/options/file_info.h"
 #include "shell/session.h"
-#include "ui/qt_text.h"
+#include "ui/ShownField.h"
 
 #include <QtWidgets>
 
@@ -12,19 +12,6 @@ namespace quillon {
 namespace {
 
 constexpr int kPathCharacters = 56;
-
-/// A text that can be selected and scrolled, on the form's own background.
-QLineEdit* Shown(QLineEdit*& member, const char* name, const Text& text)
-{
-    auto* field = Named(member, name, new QLineEdit(ToQt(text)));
-    field->setReadOnly(true);
-    field->setFrame(false);
-    field->setCursorPosition(0);
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::transparent);
-    field->setPalette(palette);
-    return field;
-}
 
 } // namespace
 
@@ -47,21 +34,21 @@ DlgFileInfo::DlgFileInfo(const FileListRow& row, Session& session, QWidget* pare
 Piece DlgFileInfo::FileFields(const FileInfo& info)
 {
     return Fields({
-        {"Filnamn:", MinWidth(kPathCharacters, Shown(NAMED(sFilename), info.Filename))},
-        {"Storlek:", Shown(NAMED(sFileSize), info.FileSize)},
-        {"Datum och tid:", Shown(NAMED(sFileDateTime), info.FileDateTime)},
-        {"Attribut:", Shown(NAMED(sFileAttr), info.FileAttr)},
-        {"Destination:", Shown(NAMED(sFileDest), info.FileDest)},
-        {"Källa:", Shown(NAMED(sFileSrc), info.FileSrc)},
+        {"Filnamn:", MinWidth(kPathCharacters, ShownField(NAMED(sFilename), info.Filename))},
+        {"Storlek:", ShownField(NAMED(sFileSize), info.FileSize)},
+        {"Datum och tid:", ShownField(NAMED(sFileDateTime), info.FileDateTime)},
+        {"Attribut:", ShownField(NAMED(sFileAttr), info.FileAttr)},
+        {"Destination:", ShownField(NAMED(sFileDest), info.FileDest)},
+        {"Källa:", ShownField(NAMED(sFileSrc), info.FileSrc)},
     });
 }
 
 Piece DlgFileInfo::VersionFields(const FileInfo& info)
 {
     return Fields({
-        {"Filversion:", Shown(NAMED(sFileVersion), info.FileVersion)},
-        {"Beskrivning:", Shown(NAMED(sFileDescription), info.FileDescription)},
-        {"Copyright:", Shown(NAMED(sCopyright), info.Copyright)},
+        {"Filversion:", ShownField(NAMED(sFileVersion), info.FileVersion)},
+        {"Beskrivning:", ShownField(NAMED(sFileDescription), info.FileDescription)},
+        {"Copyright:", ShownField(NAMED(sCopyright), info.Copyright)},
     });
 }
 

@@ -3,6 +3,7 @@
 #include "helpers/windows_path.h"
 #include "platform/missing_program.h"
 #include "platform/posix/file_status.h"
+#include "platform/posix/host_lines.h"
 #include "platform/posix/start_program.h"
 #include "platform/posix/text_editor.h"
 #include "platform/run_error.h"
@@ -30,6 +31,15 @@ constexpr const char* kUsers = "C:\\Users";
 bool IsWebAddress(const Text& path)
 {
     return path.find("://") != Text::npos || path.starts_with("mailto:");
+}
+
+/// Where a shortcut of Windows to an address leads, which desktops other than Windows do not know.
+Text AddressOfShortcut(const std::string& hostPath)
+{
+    for (const std::string& line : LinesOfHostFile(hostPath))
+        if (LowerCase(line).starts_with("url="))
+            return TrimBlanks(std::string_view(line).substr(4));
+    return {};
 }
 
 void StartOrFail(const std::vector<std::string>& command, const Text& path)
@@ -193,7 +203,10 @@ void PosixMachine::StartProgram(const Text& program, const Text& arguments)
 
 void PosixMachine::OpenDocument(const Text& path)
 {
-    const std::string target = IsWebAddress(path) ? path : Existing(path);
+    std::string target = IsWebAddress(path) ? path : Existing(path);
+    if (LowerCase(path).ends_with(".url"))
+        if (const Text address = AddressOfShortcut(target); IsWebAddress(address))
+            target = address;
     StartOrFail({FindOnPath("xdg-open"), target}, path);
 }
 
