@@ -102,6 +102,13 @@ TEST(RegistryFiles, PassesOverWhatItCannotRead)
     EXPECT_EQ(registry.Read(kMachine, "k", "v"), "1");
 }
 
+TEST(RegistryFiles, ReadsLinesWhoseEndsWereConvertedTwice)
+{
+    RegistryFiles registry;
+    EXPECT_TRUE(registry.Add("REGEDIT4\r\r\n\r\r\n[HKEY_LOCAL_MACHINE\\k]\r\r\n\"v\"=\"1\"\r\r\n"));
+    EXPECT_EQ(registry.Read(kMachine, "k", "v"), "1");
+}
+
 TEST(RegistryFiles, RefusesWhatIsNoExport)
 {
     RegistryFiles registry;

@@ -31,7 +31,8 @@ std::string_view NextLine(std::string_view& text)
     const std::size_t end = text.find('\n');
     std::string_view line = text.substr(0, end);
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    if (!line.empty() && line.back() == '\r')
+    // More than one where a file went through a conversion of line ends twice.
+    while (!line.empty() && line.back() == '\r')
         line.remove_suffix(1);
     return line;
 }
