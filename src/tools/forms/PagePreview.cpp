@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kUsualHeight = 420;
+constexpr int kUsualHeight = 560;
 constexpr int kMinHeight = 200;
 
 QSize PaperOfHeight(int height)

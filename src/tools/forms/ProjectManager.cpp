@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kProjectColumnCount = static_cast<int>(std::size(kProjectColumns));
 constexpr int kPathColumn = kProjectColumnCount - 1;
-constexpr int kMinListLetters = 90;
+constexpr int kMinListLetters = 60;
 constexpr int kMinRows = 10;
 
 /// Sorts by the kind of its column: numbers by their value, texts as a Swedish dictionary does.
@@ -87,6 +87,8 @@ void ProjectManager::MakeList()
     ListViewProjects->setRootIsDecorated(false);
     ListViewProjects->setUniformRowHeights(true);
     ListViewProjects->setAllColumnsShowFocus(true);
+    // As wide as its columns where the screen has room for them.
+    ListViewProjects->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     ListViewProjects->setMinimumHeight(kMinRows * ListViewProjects->fontMetrics().height());
     // As stored, until the user asks for another order.
     ListViewProjects->header()->setSortIndicator(-1, Qt::AscendingOrder);

@@ -8,6 +8,13 @@
 
 namespace quillon {
 
+namespace {
+
+// All pages are equally wide, so that the buttons stay where they are.
+constexpr int kPageLetters = 72;
+
+} // namespace
+
 WizBugReportPage::WizBugReportPage(const char* name, const Text& title, BugReportWizard& wizard,
                                    QWidget* parent)
     : Form(name, title, parent), wizard_(wizard)

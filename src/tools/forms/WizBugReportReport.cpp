@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kReportCharacters = 80;
+constexpr int kReportCharacters = 60;
 
 constexpr const char* kBeforeDiagnosis =
     "Nu behöver felrapportguiden utföra en analys av din dator. Detta sker genom att köra "
@@ -130,7 +130,7 @@ WizBugReport_8::WizBugReport_8(BugReportWizard& wizard, QWidget* parent)
     Session& session = wizard.session;
     const Text folder = BugReportFolder(session.options.OwnFolder);
     const Text mail = JoinPath(session.options.ToolFolder, "support.url");
-    Named(NAMED(LabelBugReportFolder), new LinkLabel(PrettyPath(folder), [this] { OpenFolder(); }));
+    Named(NAMED(LabelBugReportFolder), new LinkLabel(folder, [this] { OpenFolder(); }));
     Named(NAMED(LabelMailSupport), new LinkLabel(session, kSupportAddress, mail));
     Button(NAMED(cmdStartEmailApp), "Starta &e-postprogrammet",
            [&session, mail] { OpenOrTell(session, mail); });

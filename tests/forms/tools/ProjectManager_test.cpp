@@ -102,6 +102,7 @@ TEST_F(ProjectManagerTest, TakesARowOutBehindItsQuestion)
     Click(form, "cmdDeleteProject");
     EXPECT_THAT(Column(form, 0), ElementsAre("Öst", "Alfa", "Zeta"));
     ask.Expect({BoxKind::YesNo, "Projekthanterare", question, Answer::Yes});
+    form.ListViewProjects->setFocus();
     QTest::keyClick(form.ListViewProjects, Qt::Key_Delete);
     EXPECT_THAT(Column(form, 0), ElementsAre("Öst", "Zeta"));
     EXPECT_TRUE(machine.files.FileExists("C:\\P\\alfa.qnp"));
