@@ -29,7 +29,12 @@ Piece WizBugReportPage::StepButtons(Steps steps)
     cmdPrev->setVisible(steps == Steps::All);
     cmdNext->setVisible(steps != Steps::CloseOnly);
     (steps == Steps::CloseOnly ? cmdClose : cmdNext)->setDefault(true);
-    return HBox({Stretch(), cmdPrev, cmdNext, cmdClose});
+    auto* strip = new QWidget;
+    strip->setFixedHeight(0);
+    return VBox({
+        MinWidth(kPageLetters, strip),
+        HBox({Stretch(), cmdPrev, cmdNext, cmdClose}),
+    });
 }
 
 void WizBugReportPage::GoOn()
