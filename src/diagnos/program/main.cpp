@@ -3,7 +3,7 @@
 #include "helpers/ansi_text.h"
 #include "helpers/windows_path.h"
 #include "platform/failure_text.h"
-#include "platform/posix/posix_host.h"
+#include "platform/this_host.h"
 #include "platform/whole_file.h"
 
 #include <cstdio>
@@ -11,7 +11,7 @@
 int main(int argc, char** argv)
 {
     using namespace quillon;
-    PosixHost host;
+    ThisHost host;
     // The program lies in a folder of its own below the tool's.
     const Text ownFolder = host.ProgramFolder();
     const DiagnosisCommand command = ReadDiagnosisCommand({argv + 1, argv + argc});
