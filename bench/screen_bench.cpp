@@ -93,8 +93,10 @@ void ResizeStep(benchmark::State& state)
 {
     Desk desk;
     int step = 0;
-    for (auto _ : state)
-        desk.Paint(1920 - 2 * (++step % 100), 1080 - step % 100);
+    for (auto _ : state) {
+        step = (step + 1) % 100;
+        desk.Paint(1920 - 2 * step, 1080 - step);
+    }
 }
 
 /// What a picture of 280 x 200 uncovers in a step of three pixels, in both its places.
