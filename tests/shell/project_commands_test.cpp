@@ -1,9 +1,9 @@
 #include "shell/project_commands.h"
 
 #include "platform/run_error.h"
+#include "project/project_title.h"
 #include "shell/fake_window.h"
 #include "shell/lifecycle.h"
-#include "project/project_title.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"
 
