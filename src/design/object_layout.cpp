@@ -49,6 +49,7 @@ void LayOutPicture(section::DesPicture& picture, PictureBox& box, ScreenMetrics 
         box.place.Height = picture.PictureHeight * screen.TPPY;
     }
     box.isVisible = hasFile;
+    box.isUnread = false;
     box.place.Left = picture.PictureXPos;
     box.place.Top = picture.PictureYPos;
 }
@@ -132,6 +133,10 @@ Long ClampDesY(const SurfacePlace& surface, ScreenMetrics screen, Long y, Long h
 void LayOutPictures(section::DesPictures& record, PictureBoxes& boxes, SurfacePlace& surface,
                     ScreenMetrics screen, const MeasurePicture& measure)
 {
+    for (PictureBox& box : boxes) {
+        box.isVisible = false;
+        box.isUnread = true;
+    }
     for (std::size_t i = 0; i < boxes.size(); ++i)
         LayOutPicture(record.Pictures[i], boxes[i], screen, measure);
     for (std::size_t i = 0; i < boxes.size(); ++i)
@@ -145,6 +150,8 @@ void KeepPicturesInsideDesign(section::DesPictures& record, PictureBoxes& boxes,
     for (Long* edge : {&surface.Left, &surface.Top, &surface.Height, &surface.Width})
         *edge = std::max<Long>(*edge, 0);
     for (std::size_t i = 0; i < boxes.size(); ++i) {
+        if (boxes[i].isUnread)
+            continue;
         SurfacePlace& place = boxes[i].place;
         place.Left = ClampDesX(surface, screen, place.Left, place.Width);
         place.Top = ClampDesY(surface, screen, place.Top, place.Height);

@@ -36,6 +36,8 @@ struct PictureBox {
     SurfacePlace place;
     bool isVisible = false;
     bool isStretched = false;
+    // Its file, or one in front of it, could not be read: the record keeps its place.
+    bool isUnread = false;
 };
 using PictureBoxes = std::array<PictureBox, section::kDesPictureCount>;
 

@@ -19,6 +19,8 @@ constexpr double kBytesPerGigabyte = 1024.0 * 1024 * 1024;
 constexpr std::size_t kLabelWidth = 22;
 // A tool that was unpacked over a home folder must not make a report without an end.
 constexpr std::size_t kMaxFiles = 2000;
+// Links to folders may lead in circles.
+constexpr int kMaxDepth = 8;
 constexpr std::uint64_t kMaxHashedSize = 256U << 20U;
 
 class DiagnosisWriter {
@@ -96,27 +98,38 @@ bool IsUsersFolder(const Text& name)
                                [&](const char* known) { return EqualIgnoreCase(name, known); });
 }
 
-void WriteFiles(DiagnosisWriter& writer, const FileSystem& files, const Text& folder,
-                const Text& shown, std::size_t& count)
+struct FileWalk {
+    const FileSystem& files;
+    std::size_t count = 0; // of files and folders
+    int depth = 0;
+};
+
+void WriteFiles(DiagnosisWriter& writer, FileWalk& walk, const Text& folder, const Text& shown)
 {
+    const FileSystem& files = walk.files;
+    if (walk.depth == kMaxDepth)
+        return;
+    ++walk.depth;
     std::vector<FolderEntry> entries;
     try {
         entries = files.List(folder);
     } catch (const RunError&) {
         writer.Line(shown + "\\ (går ej att läsa)");
+        --walk.depth;
         return;
     }
     for (const FolderEntry& entry : entries) {
+        if (++walk.count > kMaxFiles)
+            break;
         const Text name = shown.empty() ? entry.name : JoinPath(shown, entry.name);
         const Text path = JoinPath(folder, entry.name);
-        if (entry.status.isFolder) {
-            if (!shown.empty() || !IsUsersFolder(entry.name))
-                WriteFiles(writer, files, path, name, count);
-        } else if (count++ < kMaxFiles) {
+        if (!entry.status.isFolder)
             writer.Line(name + "  " + NumberText(static_cast<std::int64_t>(entry.status.size)) +
                         "  " + HashOrReason(files, path, entry.status.size));
-        }
+        else if (!shown.empty() || !IsUsersFolder(entry.name))
+            WriteFiles(writer, walk, path, name);
     }
+    --walk.depth;
 }
 
 bool IsSecret(const Text& line)
@@ -130,7 +143,9 @@ void WriteSettings(DiagnosisWriter& writer, const Host& host)
     const Text file = JoinPath(host.machine.GetSettingsDir(), "QUILLON.INI");
     try {
         const Text text = AnsiText::FromBytes(ReadWholeFile(host.files, file));
-        for (const Text& line : SplitLines(text))
+        // The file may have been edited where lines end in a line feed alone.
+        for (const Text& line :
+             SplitLines(ReplaceAll(ReplaceAll(text, "\r\n", "\n"), "\n", "\r\n")))
             if (!line.empty())
                 writer.Line(IsSecret(line) ? line.substr(0, line.find('=') + 1) + "(utelämnat)"
                                            : line);
@@ -170,11 +185,10 @@ std::vector<Text> DiagnosisLines(const SystemDescription& system, const CallerDe
     writer.Heading("Inställningar");
     WriteSettings(writer, host);
     writer.Heading("Filer i " + toolFolder);
-    std::size_t count = 0;
-    WriteFiles(writer, host.files, toolFolder, "", count);
-    if (count > kMaxFiles)
-        writer.Line("... och " + NumberText(static_cast<std::int64_t>(count - kMaxFiles)) +
-                    " filer till");
+    FileWalk walk{host.files};
+    WriteFiles(writer, walk, toolFolder, "");
+    if (walk.count > kMaxFiles)
+        writer.Line("... och fler");
     return writer.Take();
 }
 

@@ -76,7 +76,7 @@ ImportEnd RunFolderImport(RowImport& import, const ProgramFolder& folder, std::s
     import.ShowBusy(false);
     ImportEnd end = ImportEnd::Done;
     const FolderFile& main = folder.files[program];
-    if (!import.AddProgram(JoinPath(folder.folder, main.RelativePath()), end))
+    if (!import.AddProgram(JoinPath(folder.folder, main.RelativePath()), end, main.folder))
         return end;
     import.ShowBusy(true);
     FolderImport(import, folder, choices).AddFiles(import.ProgramDestination(), program);
@@ -107,7 +107,9 @@ bool HasProgram(const ProgramFolder& folder, Ask& ask)
         ask.Inform("Info", "Katalogen '" + folder.folder +
                                "' har inget Windows-program (.EXE). En katalog utan program "
                                "adderas med 'Addera träd...' i menyn Lista.");
-    return !folder.programs.empty();
+    else if (!folder.damage.empty())
+        ask.Critical("Katalogen är ej läst", folder.damage + " Inget är adderat.");
+    return !folder.programs.empty() && folder.damage.empty();
 }
 
 ImportResult ImportProgramFolder(const ImportWork& work, const ProgramFolder& folder,

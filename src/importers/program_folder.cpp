@@ -89,8 +89,10 @@ private:
             return;
         }
         isGoingOn_ = mayGoOn_(file.RelativePath());
-        if (!isGoingOn_)
+        if (!isGoingOn_) {
+            read_.damage = "Läsningen av katalogen stoppades.";
             return;
+        }
         if (EndsInOneOf(LowerCase(file.entry.name), kProgramExtensions))
             file.status = FactsOfProgram(files_, JoinPath(read_.folder, file.RelativePath()));
         read_.files.push_back(std::move(file));

@@ -113,7 +113,7 @@ std::optional<std::size_t> RowImport::FindProgram(const FileToAdd& program) cons
     return static_cast<std::size_t>(found - Files().rows.begin());
 }
 
-bool RowImport::AddProgram(const Text& program, ImportEnd& end)
+bool RowImport::AddProgram(const Text& program, ImportEnd& end, const Text& subfolder)
 {
     const Text name = ExtractFilename(program);
     ImportUser::ProgramQuestion question;
@@ -127,7 +127,8 @@ bool RowImport::AddProgram(const Text& program, ImportEnd& end)
     }
     const FileToAdd file{.FileName = name,
                          .SourcePath = program,
-                         .Destination = *destination,
+                         .Destination =
+                             subfolder.empty() ? *destination : *destination + "\\" + subfolder,
                          .CheckDuplicates = true,
                          .UseVersionRules = true};
     programDestination_ = *destination;

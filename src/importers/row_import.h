@@ -38,9 +38,9 @@ public:
     /// A file that was left out without a word.
     void Pass(const Text& file, const Text& reason);
 
-    /// Asks for the program's destination and adds it. False, and `end` says why, where the import
-    /// ends here.
-    bool AddProgram(const Text& program, ImportEnd& end);
+    /// Asks for the destination and adds the program, in a subfolder of it where one is given.
+    /// False, and `end` says why, where the import ends here.
+    bool AddProgram(const Text& program, ImportEnd& end, const Text& subfolder = {});
     /// What was chosen for the program.
     const Text& ProgramDestination() const { return programDestination_; }
     /// Asks for the icon of the program.

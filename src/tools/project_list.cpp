@@ -61,11 +61,12 @@ std::vector<Text> EntriesOf(ProfileReader& reader)
     std::vector<Text> paths;
     const std::size_t count = EntryCount(reader);
     while (paths.size() < count) {
-        Text path =
-            UnicodeValueFromFile(reader.ReadIniString(EntryKey(paths.size() + 1), kMaxTextLength));
-        if (path.empty())
+        const Text onFile = reader.ReadIniString(EntryKey(paths.size() + 1), kMaxTextLength);
+        if (onFile.empty())
             break;
-        paths.push_back(std::move(path));
+        // A damaged entry is one whose file is not there; those behind it count.
+        const Text path = UnicodeValueFromFile(onFile);
+        paths.push_back(path.empty() ? onFile : path);
     }
     return paths;
 }

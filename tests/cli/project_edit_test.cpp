@@ -20,7 +20,8 @@ TEST(ProjectEdit, LeavesAProjectToAnotherProgramThatSavesItMeanwhile)
     WriteProjectFile(project, kPath, machine.host, nobody);
     std::ostringstream out;
     std::ostringstream err;
-    const Arguments arguments;
+    const Call call{"set", {}, {{"--json", nullptr, ""}}, "", nullptr};
+    const Arguments arguments{.call = &call};
     const CallContext context{.arguments = arguments,
                               .host = machine.host,
                               .toolFolder = "C:\\Tool",

@@ -174,6 +174,26 @@ TEST_F(Pictures, BehindOneThatCantBeReadStayAsTheyWere)
     EXPECT_FALSE(boxes_[2].isVisible);
     EXPECT_EQ(record_.Pictures[2].PictureWidth, 200);
     EXPECT_EQ(record_.Pictures[1].PictureFilename, "x.bmp");
+    // The next move of the first one leaves the places of the others alone, too.
+    boxes_[0].place.Left = 900;
+    KeepPicturesInsideDesign(record_, boxes_, surface_, kScreen);
+    EXPECT_EQ(record_.Pictures[0].PictureXPos, 900);
+    EXPECT_EQ(record_.Pictures[1].PictureXPos, 340);
+    EXPECT_EQ(record_.Pictures[2].PictureYPos, 1340);
+}
+
+TEST_F(Pictures, OfTheProjectBeforeAreNotShownBehindOneThatCantBeRead)
+{
+    for (PictureBox& box : boxes_)
+        box.isVisible = true;
+    for (section::DesPicture& picture : record_.Pictures)
+        picture.PictureFilename = "x.bmp";
+    EXPECT_EQ(RunErrorNumber([&] {
+                  LayOut([](const Text&) -> PixelSize { throw RunError(kInvalidPicture); });
+              }),
+              kInvalidPicture);
+    for (const PictureBox& box : boxes_)
+        EXPECT_FALSE(box.isVisible);
 }
 
 TEST_F(Pictures, AreMovedInsideASurfaceWhoseEdgesAreMadeWholeFirst)

@@ -70,9 +70,31 @@ TEST_F(DiagnosisTest, LeavesSecretsOfTheSettingsOut)
     machine.files.Put("C:\\Data\\Roaming\\Quillon\\QUILLON.INI",
                       "[Options]\r\nCBarsCurrentStyle=3\r\nSignPassword=hemligt\r\n");
     const auto lines = Lines();
+    // Lines may end in a line feed alone.
+    machine.files.Put("C:\\Data\\Roaming\\Quillon\\QUILLON.INI", "[A]\nB=1\nPassword=hemligt\n");
+    EXPECT_THAT(Lines(), Contains("Password=(utelämnat)"));
+    EXPECT_THAT(Lines(), Each(Not(HasSubstr("hemligt"))));
     EXPECT_THAT(lines, Contains("CBarsCurrentStyle=3"));
     EXPECT_THAT(lines, Contains("SignPassword=(utelämnat)"));
     EXPECT_THAT(lines, Each(Not(HasSubstr("hemligt"))));
+}
+
+TEST_F(DiagnosisTest, ListsNoMoreFilesThanAReportCanHold)
+{
+    for (int i = 0; i < 2100; ++i)
+        machine.files.Put("C:\\Quillon\\Res\\f" + std::to_string(i), "");
+    const auto lines = Lines();
+    EXPECT_LT(lines.size(), 2050U);
+    EXPECT_EQ(lines.back(), "... och fler");
+}
+
+TEST_F(DiagnosisTest, EndsInFoldersThatLeadDeeperAndDeeper)
+{
+    Text deep = "C:\\Quillon";
+    for (int i = 0; i < 20; ++i)
+        deep += "\\d" + std::to_string(i);
+    machine.files.Put(deep + "\\f", "");
+    EXPECT_THAT(Lines(), Each(Not(HasSubstr("d19"))));
 }
 
 TEST_F(DiagnosisTest, TellsWhatCanNotBeRead)

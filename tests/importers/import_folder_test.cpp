@@ -173,6 +173,29 @@ TEST_F(ImportFolderTest, AddsTheTreeBelowTheDestination)
     EXPECT_EQ(project.Files.rows.size(), 4U) << "what is in the list is not added twice";
 }
 
+TEST_F(ImportFolderTest, KeepsAProgramOfASubfolderBesideItsLibraries)
+{
+    PutProgram("bin\\Kund.exe", {});
+    PutProgram("bin\\hjalp.dll", {});
+    machine.files.Put(kOut + "\\readme.txt", "text");
+    Run({kDone});
+    std::map<Text, Text> destinations;
+    for (const FileListRow& row : project.Files.rows)
+        destinations[row[Filename]] = row[Destination];
+    EXPECT_EQ(destinations["Kund.exe"], destinations["readme.txt"] + "\\bin");
+    EXPECT_EQ(destinations["hjalp.dll"], destinations["Kund.exe"]);
+}
+
+TEST_F(ImportFolderTest, AddsNothingOfAFolderThatWasReadInPart)
+{
+    PutProgram("Kund.exe", {});
+    ProgramFolder folder = Read();
+    folder.damage = "Läsningen av katalogen stoppades.";
+    ScriptedAsk ask({{BoxKind::Critical, "Katalogen är ej läst",
+                      "Läsningen av katalogen stoppades. Inget är adderat."}});
+    EXPECT_FALSE(HasProgram(folder, ask));
+}
+
 TEST_F(ImportFolderTest, FillsTheVersionDataWithWhatTheProgramTells)
 {
     machine.files.Put(kOut + "\\Kund.exe",

@@ -102,6 +102,13 @@ TEST_F(ProjectListTest, EndsAtTheFirstEmptyEntry)
     EXPECT_THAT(Names(), ElementsAre("Alfa"));
 }
 
+TEST_F(ProjectListTest, GoesOnBehindADamagedEntry)
+{
+    PutSettings("[ProjectManager]\r\nProjectFiles=2\r\nPF1=utf-8:C:\\\xD0.qnp\r\n"
+                "PF2=C:\\A\\a.qnp\r\n");
+    EXPECT_THAT(Names(), ElementsAre("Alfa"));
+}
+
 TEST_F(ProjectListTest, ReadsNoMoreThanItsCount)
 {
     PutSettings("[ProjectManager]\r\nProjectFiles=1\r\nPF1=C:\\A\\a.qnp\r\nPF2=C:\\B\\b.qnp\r\n");

@@ -27,8 +27,11 @@ Integer StoredNumber(const QString& text)
 QLineEdit* DesignEditor::NumberField(QLineEdit*& member, const char* name, Integer& value,
                                      EntryCheck check)
 {
-    QLineEdit* field = CheckedField(member, name, NumberText(value), std::move(check));
-    Bind([field, &value] { value = StoredNumber(field->text()); });
+    QLineEdit* field = CheckedField(member, name, NumberText(value), check);
+    // Once more, for a number that was out of its range before and was never touched.
+    Bind([field, &value, check = std::move(check)] {
+        value = StoredNumber(ToQt(check(FromQt(field->text()))));
+    });
     return field;
 }
 

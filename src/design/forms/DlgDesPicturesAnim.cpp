@@ -61,7 +61,9 @@ void DlgDesPicturesAnim::AddPicture()
 
 void DlgDesPicturesAnim::RemovePicture()
 {
-    delete lbPictureList->takeItem(lbPictureList->currentRow());
+    // A row that only has the keyboard is not selected.
+    for (QListWidgetItem* item : lbPictureList->selectedItems())
+        delete item;
 }
 
 void DlgDesPicturesAnim::Store()

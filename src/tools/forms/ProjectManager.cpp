@@ -183,8 +183,8 @@ bool ProjectManager::MayClose()
         return true;
     } catch (const RunError& error) {
         session_.ask.Critical("Fel", FailureText(error, file));
-        SelectedProject.clear();
-        return false;
+        // A project that was chosen is opened all the same.
+        return !SelectedProject.empty();
     }
 }
 

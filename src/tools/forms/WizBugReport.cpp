@@ -12,6 +12,7 @@ namespace {
 
 // All pages are equally wide, so that the buttons stay where they are.
 constexpr int kPageLetters = 72;
+constexpr int kButtonLetters = 14;
 
 } // namespace
 
@@ -29,12 +30,9 @@ Piece WizBugReportPage::StepButtons(Steps steps)
     cmdPrev->setVisible(steps == Steps::All);
     cmdNext->setVisible(steps != Steps::CloseOnly);
     (steps == Steps::CloseOnly ? cmdClose : cmdNext)->setDefault(true);
-    auto* strip = new QWidget;
-    strip->setFixedHeight(0);
-    return VBox({
-        MinWidth(kPageLetters, strip),
-        HBox({Stretch(), cmdPrev, cmdNext, cmdClose}),
-    });
+    const int shown = steps == Steps::All ? 3 : steps == Steps::NextAndClose ? 2 : 1;
+    return HBox({Growing(MinWidth(kPageLetters - shown * kButtonLetters, new QWidget)), cmdPrev,
+                 cmdNext, cmdClose});
 }
 
 void WizBugReportPage::GoOn()
@@ -55,9 +53,12 @@ void WizBugReportPage::GoBack()
 
 void WizBugReportPage::showEvent(QShowEvent* event)
 {
-    wizard_.WizNext = false;
-    wizard_.WizBack = false;
-    OnShow();
+    // Not when a window that was put aside comes back.
+    if (!event->spontaneous()) {
+        wizard_.WizNext = false;
+        wizard_.WizBack = false;
+        OnShow();
+    }
     Form::showEvent(event);
 }
 

@@ -112,7 +112,10 @@ TEST_F(DlgDesRTFboxTest, KeepsAFileThatItDidNotShowWhole)
     for (const char* bytes :
          {"no RTF at all", "{\\rtf1 Hej{\\pict\\wmetafile8 00}}", "{\\rtf1 Hej"}) {
         machine.files.Put(path, bytes);
-        ask.Expect({bytes == std::string("no RTF at all") ? BoxKind::Critical : BoxKind::Warn});
+        if (bytes == std::string("no RTF at all"))
+            ask.Expect({BoxKind::Critical, "Fel"});
+        else
+            ask.Expect({BoxKind::Warn, "RTF-ruta"});
         DlgDesRTFbox form(session, nullptr);
         ShowActive(form);
         Click(form, "cmdOK");

@@ -144,15 +144,19 @@ TEST_F(ProjectManagerTest, OpensByDoubleClickByEnterAndByButton)
     }
 }
 
-TEST_F(ProjectManagerTest, TellsWhereTheListCanNotBeSavedAndStaysOpen)
+TEST_F(ProjectManagerTest, TellsWhereTheListCanNotBeSavedAndOpensAChosenProject)
 {
     ProjectManager form(session, nullptr);
     ShowActive(form);
     machine.files.FailFromWrite(1, 61);
     ask.Expect({BoxKind::Critical, "Fel"});
-    Click(form, "cmdOpenProject");
+    Click(form, "cmdOK");
     EXPECT_TRUE(form.isVisible());
     EXPECT_EQ(form.SelectedProject, "");
+    ask.Expect({BoxKind::Critical, "Fel"});
+    Click(form, "cmdOpenProject");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.SelectedProject, "C:\\P\\ost.qnp");
 }
 
 TEST_F(ProjectManagerTest, HasNothingToDoWithoutRows)
