@@ -27,6 +27,8 @@ constexpr int kFirstNumbersLookedAt = 16;
 void PrepareTarget(const CallContext& context, ProjectEdit& edit)
 {
     edit.ask.prepared.destination = context.arguments.Value("--to");
+    if (!context.arguments.Declares("--component"))
+        return;
     const auto number = context.arguments.Value("--component");
     if (!number)
         return;

@@ -8,14 +8,6 @@
 
 namespace quillon {
 
-namespace {
-
-// All pages are equally wide, so that the buttons stay where they are.
-constexpr int kPageLetters = 72;
-constexpr int kButtonLetters = 14;
-
-} // namespace
-
 WizBugReportPage::WizBugReportPage(const char* name, const Text& title, BugReportWizard& wizard,
                                    QWidget* parent)
     : Form(name, title, parent), wizard_(wizard)
@@ -30,9 +22,7 @@ Piece WizBugReportPage::StepButtons(Steps steps)
     cmdPrev->setVisible(steps == Steps::All);
     cmdNext->setVisible(steps != Steps::CloseOnly);
     (steps == Steps::CloseOnly ? cmdClose : cmdNext)->setDefault(true);
-    const int shown = steps == Steps::All ? 3 : steps == Steps::NextAndClose ? 2 : 1;
-    return HBox({Growing(MinWidth(kPageLetters - shown * kButtonLetters, new QWidget)), cmdPrev,
-                 cmdNext, cmdClose});
+    return HBox({Stretch(), cmdPrev, cmdNext, cmdClose});
 }
 
 void WizBugReportPage::GoOn()

@@ -31,6 +31,9 @@ public:
 protected:
     WizBugReportPage(const char* name, const Text& title, BugReportWizard& wizard, QWidget* parent);
 
+    // All pages are equally wide, so that the buttons stay where they are.
+    static constexpr int kPageLetters = 72;
+
     enum class Steps { NextAndClose, All, CloseOnly };
     /// The row of buttons that every page ends in.
     Piece StepButtons(Steps steps);

@@ -14,7 +14,6 @@ namespace quillon {
 namespace {
 
 constexpr int kLinesOfAnErrorMessage = 3;
-constexpr int kDescriptionCharacters = 70;
 
 Text StepTitle(int page)
 {
@@ -29,9 +28,12 @@ WizBugReport_1::WizBugReport_1(BugReportWizard& wizard, QWidget* parent)
     Named(NAMED(LabelDomainNameUpdates),
           new LinkLabel(wizard.session, kUpdatesAddress, kUpdatesAddress));
     Arrange(VBox({
-        Note("Välkommen till felrapportguiden. Om det uppstår ett fel i programmet eller i en "
-             "installation hjälper guiden dig att skriva en felrapport, som du sedan skickar till "
-             "oss med e-post."),
+        MinWidth(
+            kPageLetters,
+            Note("Välkommen till felrapportguiden. Om det uppstår ett fel i programmet eller i en "
+                 "installation hjälper guiden dig att skriva en felrapport, som du sedan skickar "
+                 "till "
+                 "oss med e-post.")),
         Note("Försäkra dig först om att du har den senaste versionen av programmet:"),
         LabelDomainNameUpdates,
         Note("Se också till att rätt projekt är öppet: en kopia av det bifogas rapporten."),
@@ -86,7 +88,7 @@ Piece BugQuestionPage::Question(std::size_t number, int numberOnPage)
     answer->setObjectName(question.control);
     answer->setAccessibleName(caption);
     label->setBuddy(answer);
-    return VBox({label, answer});
+    return VBox({label, MinWidth(kPageLetters, answer)});
 }
 
 void BugQuestionPage::TakeAnswers()
@@ -148,7 +150,7 @@ WizBugReport_5::WizBugReport_5(BugReportWizard& wizard, QWidget* parent)
     LimitTyping(tBugDescription, 0);
     Arrange(VBox({
         Growing(Above("Här kan du skriva in en beskrivning av felet:",
-                      MinWidth(kDescriptionCharacters, tBugDescription))),
+                      MinWidth(kPageLetters, tBugDescription))),
         StepButtons(Steps::All),
     }));
     tBugDescription->setFocus();

@@ -15,8 +15,6 @@ namespace quillon {
 
 namespace {
 
-constexpr int kReportCharacters = 60;
-
 constexpr const char* kBeforeDiagnosis =
     "Nu behöver felrapportguiden utföra en analys av din dator. Detta sker genom att köra "
     "programmet 'Tavrell Diagnos Verktyg'. Tryck på knappen 'Utför diagnos' nedan för att påbörja "
@@ -45,7 +43,7 @@ WizBugReport_6::WizBugReport_6(BugReportWizard& wizard, QWidget* parent)
     Named(NAMED(LabelInfo), Note(kBeforeDiagnosis));
     Button(NAMED(cmdRunDiagnos), "&Utför diagnos", [this] { RunDiagnosis(); });
     Arrange(VBox({
-        LabelInfo,
+        MinWidth(kPageLetters, LabelInfo),
         HBox({cmdRunDiagnos, Stretch()}),
         Stretch(),
         StepButtons(Steps::All),
@@ -88,7 +86,7 @@ WizBugReport_7::WizBugReport_7(BugReportWizard& wizard, QWidget* parent)
         Note(
             "Så här blir felrapporten. Inget skickas härifrån; rapporten skrivs till en fil som du "
             "själv skickar."),
-        Growing(Above("&Felrapport:", MinWidth(kReportCharacters, tReport))),
+        Growing(Above("&Felrapport:", MinWidth(kPageLetters, tReport))),
         HBox({cmdCreateReport, Stretch()}),
         StepButtons(Steps::All),
     }));
@@ -135,8 +133,9 @@ WizBugReport_8::WizBugReport_8(BugReportWizard& wizard, QWidget* parent)
     Button(NAMED(cmdStartEmailApp), "Starta &e-postprogrammet",
            [&session, mail] { OpenOrTell(session, mail); });
     Arrange(VBox({
-        Note("Felrapporten är färdig. Skicka den, och projektfilen om den finns där, med e-post. "
-             "Båda ligger i katalogen:"),
+        MinWidth(kPageLetters, Note("Felrapporten är färdig. Skicka den, och projektfilen om den "
+                                    "finns där, med e-post. "
+                                    "Båda ligger i katalogen:")),
         LabelBugReportFolder,
         Note("Skicka dem till:"),
         LabelMailSupport,
