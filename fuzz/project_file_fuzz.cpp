@@ -117,6 +117,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         project.Files.rows.back()[Size] =
             NormalizeDecimalSeparator(project.Files.rows.back()[Size], ',');
 
+    // Kept: the end of the last line of the INI list is not written, so of empty lines at its end
+    // one goes with every save.
+    Text& iniFiles = project.Lists.INIFiles;
+    while (iniFiles.ends_with(kLineBreak))
+        iniFiles.resize(iniFiles.size() - kLineBreak.size());
+
     const int error = desk.Save(project);
     if (error != ErrorNumber::kNone) {
         Require(error == ErrorNumber::kOverflow || error == ErrorNumber::kSubscriptOutOfRange);
