@@ -20,8 +20,8 @@ Text LinesToGather(std::string_view list, const FileList& files, RowsToRegister 
 /// Whether the setup can show a document by itself, which it can with formatted text alone.
 bool IsRtfDocument(std::string_view fileName);
 
-/// Where a row's file stands once it is installed; nothing for a row without a file, and nothing,
-/// told by a box, for a path that no project can hold as its document.
+/// The installed path of a row's file. Nothing for a row without a file, and, after a message box,
+/// for a path that no project can hold as its document.
 std::optional<Text> DocumentOfRow(const FileListRow& row, Ask& ask);
 
 } // namespace quillon

@@ -33,7 +33,7 @@ inline constexpr DialogChainPage kDialogChain[] = {
 /// What the page of this switch is called.
 const char* CaptionOf(DialogSwitch page);
 
-/// Whether no page that is on stands in front of this one, so that there is no way back from it.
+/// Whether this is the first enabled page, which has no page to go back to.
 bool LeadsTheChain(const section::DialogBoxes& pages, DialogSwitch page);
 
 /// A press on the page's box, before its tick turns: of the two agreement pages the other one goes

@@ -23,8 +23,9 @@ Text IniSectionToAppend(std::string_view list, std::string_view section);
 /// of a file, behind a file that was taken in, and when the project has been opened.
 Text IniValueToAppend(std::string_view list, std::string_view name, std::string_view value);
 
-/// Asks for an INI file and gives what all of it puts at the end of the list; empty where there is
-/// nothing to put. A failure is told, and the lines before it come back.
+/// Asks for an INI file and returns the text that appends its contents to the list; empty where
+/// there is nothing to append. A failure shows a message box, and the lines read before it are
+/// returned.
 Text OpenINIFileIntoList(std::string_view list, const FileSystem& files, Ask& ask);
 
 } // namespace quillon

@@ -1,5 +1,6 @@
 #include "diagnos/diagnosis.h"
 
+#include "formats/digest_text.h"
 #include "formats/package_manifest.h"
 #include "helpers/ansi_text.h"
 #include "helpers/number_text.h"
@@ -51,23 +52,12 @@ Text Gigabytes(std::uint64_t bytes, char decimalSign)
     return FormatNumber(static_cast<double>(bytes) / kBytesPerGigabyte, "0.0", decimalSign) + " GB";
 }
 
-Text HexDigits(const Sha256Digest& digest)
-{
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    Text digits;
-    for (const std::byte byte : digest) {
-        digits += kDigits[std::to_integer<std::size_t>(byte >> 4)];
-        digits += kDigits[std::to_integer<std::size_t>(byte & std::byte{15})];
-    }
-    return digits;
-}
-
 Text HashOrReason(const FileSystem& files, const Text& path, std::uint64_t size)
 {
     if (size > kMaxHashedSize)
         return "(för stor för en kontrollsumma)";
     try {
-        return HexDigits(DigestOfFile(files, path));
+        return DigestText(DigestOfFile(files, path));
     } catch (const RunError& error) {
         return "(Fel #" + NumberText(error.Number()) + ")";
     }

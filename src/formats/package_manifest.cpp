@@ -1,5 +1,6 @@
 #include "formats/package_manifest.h"
 
+#include "formats/digest_text.h"
 #include "formats/manifest_line.h"
 #include "formats/package_files.h"
 #include "helpers/utf8.h"
@@ -30,15 +31,6 @@ bool StaysInPackage(std::string_view name)
             return true;
         name.remove_prefix(end + 1);
     }
-}
-
-Text DigitsOf(const Sha256Digest& digest)
-{
-    Text digits;
-    for (const std::byte byte : digest)
-        for (const unsigned shift : {4U, 0U})
-            digits += "0123456789abcdef"[std::to_integer<unsigned>(byte) >> shift & 15U];
-    return digits;
 }
 
 } // namespace
@@ -85,7 +77,7 @@ void WritePackageManifest(FileSystem& files, const Text& folder, std::vector<Man
     std::ranges::sort(lines, {}, &ManifestLine::name);
     std::string bytes;
     for (const ManifestLine& line : lines)
-        bytes += DigitsOf(line.digest) + "  " + ReplaceAll(line.name, "\\", "/") + "\n";
+        bytes += DigestText(line.digest) + "  " + ReplaceAll(line.name, "\\", "/") + "\n";
     const Text unfinished = JoinPath(folder, kUnfinishedName);
     WriteWholeFile(files, unfinished, bytes);
     files.Rename(unfinished, JoinPath(folder, kManifestName));

@@ -46,7 +46,7 @@ bool DlgAddINIentry::MayClose()
         ask_.Inform("Info", "Du måste ange ett namn!");
         tName->setFocus();
     }
-    // A list without room for it is told here, while what was typed can still be made shorter.
+    // A full list is reported here, while the typed text can still be shortened.
     return isNamed && HasRoomInIniList(list_, TypedLines(), ask_);
 }
 

@@ -273,7 +273,7 @@ bool DlgInstallOptions::MayClose()
     const Text name = FromQt(tSelfExtractFilename->text());
     if (IsSelfExtractFilename(name))
         return true;
-    // A name that OK made its field be left with has been told already.
+    // OK moves the focus out of the field, and its check has already reported a bad name then.
     if (!isReturning_)
         CheckSelfExtractFilename(name, session_.ask);
     ReturnToSelfExtractFilename();

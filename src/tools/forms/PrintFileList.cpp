@@ -76,13 +76,13 @@ PrintFileList::~PrintFileList() = default;
 
 Piece PrintFileList::PrinterPieces()
 {
-    Named(NAMED(cbPrinter), new QComboBox);
     Named(NAMED(sDeviceName), new QLabel, "Vald skrivare");
     Named(NAMED(sPort), new QLabel, "Skrivarens plats");
     if (printers_.empty())
         return Frame("Skrivare", {Note("Det finns ingen skrivare på den här datorn. Listan kan "
                                        "sparas som PDF i stället."),
                                   sDeviceName, sPort});
+    Named(NAMED(cbPrinter), new QComboBox);
     for (const PrinterChoice& printer : printers_)
         cbPrinter->addItem(ToQt(printer.name));
     connect(cbPrinter, &QComboBox::currentIndexChanged, this, [this](int i) { ShowPrinter(i); });

@@ -27,7 +27,7 @@ public:
     std::function<std::optional<Text>(const Text& printer, const std::vector<PrintedPage>& pages)>
         print;
 
-    QComboBox* cbPrinter = nullptr;
+    QComboBox* cbPrinter = nullptr; // null where there is no printer
     QLabel* sDeviceName = nullptr;
     QLabel* sPort = nullptr;
     PagePreview* preview = nullptr;

@@ -30,7 +30,7 @@ private:
 
     Session& session_;
     Text folder_;
-    // Summed up once: sizes that can't be read are told in a box.
+    // Computed once: sizes that can't be read show a message box.
     std::optional<Text> needed_;
 };
 

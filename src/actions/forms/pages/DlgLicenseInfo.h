@@ -1,4 +1,4 @@
-// The editor of the agreement page whose text stands in the project.
+// The editor of the agreement page whose text is part of the project.
 #pragma once
 
 #include "actions/forms/pages/PageEditor.h"

@@ -27,7 +27,7 @@ struct PictureChoiceNames {
 
 class PictureChoice : public QGroupBox {
 public:
-    /// `onChoice` is told the path of a picture that the user has chosen; it is shown already.
+    /// `onChoice` is called with the path of the chosen picture, after that picture is shown.
     PictureChoice(const PictureChoiceNames& names, Session& session,
                   std::function<void(const Text& path)> onChoice);
 
