@@ -81,6 +81,7 @@ TEST_F(DiagnosisTest, LeavesSecretsOfTheSettingsOut)
 
 TEST_F(DiagnosisTest, ListsNoMoreFilesThanAReportCanHold)
 {
+    machine.files.PutFolder("C:\\Quillon");
     const std::size_t linesWithoutFiles = Lines().size();
     for (int i = 0; i < 2100; ++i)
         machine.files.Put("C:\\Quillon\\Res\\f" + std::to_string(i), "");
