@@ -16,7 +16,7 @@ bits=${QUILLON_WINE:-64}
 files=${FILES:-2000}
 root=
 [ "$bits" = 32 ] && root=$(tests/wine/prepare-wine32.sh)
-work=${1:-${root:-$PWD/build}/$([ -n "$root" ] && echo tmp/)bench-install}
+work=${1:-${root:-$PWD/build}/$([ -z "$root" ] || echo tmp/)bench-install}
 rm -rf "$work"
 mkdir -p "$work"
 work=$(cd "$work" && pwd)
@@ -74,6 +74,8 @@ for count in "$half" "$files"; do
         make_package "$count" "$version"
     done
 done
+make_package 10 1
+took 10 1 >/dev/null # the first program in a new prefix waits for Wine's services
 small_fresh=$(took "$half" 1)
 small_upgrade=$(took "$half" 2)
 fresh=$(took "$files" 1)
