@@ -20,6 +20,8 @@ void DesignPage::ShowSession()
 {
     if (isVisible()) {
         screen_->DrawDesAll();
+        if (onLaidOut)
+            onLaidOut();
         return;
     }
     screen_->DrawDesBackground();

@@ -14,6 +14,9 @@ public:
 
     DesignScreen& Screen() { return *screen_; }
 
+    /// Called once all objects are laid out anew, which may have moved them inside the surface.
+    std::function<void()> onLaidOut;
+
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

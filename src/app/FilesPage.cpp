@@ -20,9 +20,14 @@ FilesPage::FilesPage(Session& session, HostPaths paths)
 
 void FilesPage::ShowSession()
 {
+    ShowAboveRows();
+    list_->ShowRows({});
+}
+
+void FilesPage::ShowAboveRows()
+{
     header_->ShowSession();
     list_->ShowComponentColumns();
-    list_->ShowRows({});
 }
 
 void FilesPage::dragEnterEvent(QDragEnterEvent* event)

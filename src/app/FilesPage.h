@@ -20,6 +20,8 @@ public:
     FilesPage(Session& session, HostPaths paths);
 
     void ShowSession() override;
+    /// All but the rows, which are shown by themselves.
+    void ShowAboveRows();
     FileListView& List() { return *list_; }
 
     /// Called once the drop is over, so that whoever was dragged from does not wait. `refused` are

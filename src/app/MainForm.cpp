@@ -3,6 +3,7 @@
 #include "app/ComponentsPage.h"
 #include "app/DesignPage.h"
 #include "app/DialogsPage.h"
+#include "app/EditHistory.h"
 #include "app/FileListView.h"
 #include "app/FilesPage.h"
 #include "app/IniFilesPage.h"
@@ -12,6 +13,7 @@
 #include "app/bars_look.h"
 #include "app/command_bars.h"
 #include "app/dropped_project.h"
+#include "app/edit_name.h"
 #include "app/in_place.h"
 #include "app/popup_file_list.h"
 #include "app/tab_pictures.h"
@@ -43,7 +45,9 @@ bool Scrolls(Tab tab)
 
 } // namespace
 
-MainForm::MainForm(Session& session, HostPaths paths) : session_(session), paths_(std::move(paths))
+MainForm::MainForm(Session& session, HostPaths paths)
+    : session_(session), edits_(std::make_unique<EditHistory>(session, *this)),
+      paths_(std::move(paths))
 {
     setObjectName("MainForm");
     setAcceptDrops(true);
@@ -55,6 +59,7 @@ MainForm::MainForm(Session& session, HostPaths paths) : session_(session), paths
         [](int id) { return FindAction(id) != nullptr; });
     bars_->GiveListKeys(files_->List());
     bars_->ShowToolbar(SelectedTab());
+    ConnectEdits();
     connect(MainTab_, &QTabWidget::currentChanged, this,
             [this] { bars_->ShowToolbar(SelectedTab()); });
     ShowSettings();
@@ -98,7 +103,11 @@ void MainForm::MakeStatusBar()
     statusBar()->addPermanentWidget(unsavedPane_);
     // Everything may change the project, so the window looks before it waits for its user.
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
-            [this] { ShowUnsavedChanges(); });
+            [this] {
+                edits_->NotePageEdit();
+                ShowUnsavedChanges();
+                ShowEdits();
+            });
 }
 
 void MainForm::ShowUnsavedChanges()
@@ -108,16 +117,39 @@ void MainForm::ShowUnsavedChanges()
         unsavedPane_->setText(text);
 }
 
+void MainForm::ConnectEdits()
+{
+    // What was typed on the tab before this one is no part of what laying out this one corrects.
+    connect(MainTab_, &QTabWidget::currentChanged, this,
+            [this] { edits_->GoToTab(SelectedTab()); });
+    auto& design = static_cast<DesignPage&>(PageOf(Tab::Design));
+    design.onLaidOut = [this] { edits_->Absorb(); };
+}
+
+void MainForm::ShowEdits()
+{
+    for (const int id : {kUndoCommand, kRedoCommand}) {
+        const auto name = id == kUndoCommand ? edits_->UndoName() : edits_->RedoName();
+        const Text caption(FindCommand(id)->caption);
+        bars_->ShowEntry(id, name ? caption + " " + ReplaceAll(*name, "&", "&&") : caption,
+                         name.has_value());
+    }
+}
+
 void MainForm::ConnectFileList()
 {
     constexpr int kFileInfo = 119;
+    constexpr int kSort = 115;
+    constexpr int kAddFiles = 205;
     FileListView& list = files_->List();
     list.onDoubleClick = [this] { RunCommand(kFileInfo); };
     list.onPopup = [this](QPoint place) { ShowPopupFileList(*this, place); };
     list.onSelection = [this] { ShowSelection(); };
-    list.onColumnClick = [this](const Text& header) { ClickColumn(session_, *this, header); };
+    list.onColumnClick = [this](const Text& header) {
+        RunGuarded([&] { ClickColumn(session_, *this, header); }, EditName(kSort));
+    };
     files_->onDrop = [this](const std::vector<Text>& paths, const std::vector<Text>& refused) {
-        RunGuarded([&] { AddDropped(session_, *this, paths, refused); });
+        RunGuarded([&] { AddDropped(session_, *this, paths, refused); }, EditName(kAddFiles));
     };
 }
 
@@ -128,7 +160,19 @@ void MainForm::ShowProject()
         page->ShowSession();
         ForgetUndo(*page);
     }
+    edits_->Begin();
     UpdateStatusBar();
+}
+
+void MainForm::ShowRestored(const ProjectHistory::Restored& restored)
+{
+    for (Page* page : pages_)
+        if (page != files_)
+            page->ShowSession();
+    files_->ShowAboveRows();
+    ShowFileList(restored.rowsChanged ? restored.newRows : SelectedRows());
+    if (restored.rowsChanged)
+        SelectTab(Tab::Files);
 }
 
 void MainForm::ShowTitle()
@@ -206,22 +250,24 @@ void MainForm::ShowSelection()
 void MainForm::RunCommand(int id)
 {
     if (const Action action = FindAction(id))
-        Run(action);
+        Run(action, EditName(id));
 }
 
-void MainForm::Run(Action action)
+void MainForm::Run(Action action, const Text& editName)
 {
-    RunGuarded([&] { action(*this); });
+    RunGuarded([&] { action(*this); }, editName);
 }
 
-void MainForm::RunGuarded(const std::function<void()>& run)
+void MainForm::RunGuarded(const std::function<void()>& run, const Text& editName)
 {
-    // Nothing may be thrown through Qt.
-    try {
-        run();
-    } catch (const RunError& error) {
-        session_.ask.Critical("Fel", FailureText(error, session_.state.ProjectFileName));
-    }
+    edits_->Run(editName, [&] {
+        // Nothing may be thrown through Qt.
+        try {
+            run();
+        } catch (const RunError& error) {
+            session_.ask.Critical("Fel", FailureText(error, session_.state.ProjectFileName));
+        }
+    });
 }
 
 void MainForm::ShowStatusText(const Text& text)
@@ -257,7 +303,7 @@ void MainForm::dropEvent(QDropEvent* event)
     event->accept();
     // The question that may come up must not hold up the program that was dragged from.
     QTimer::singleShot(0, this, [this, project] {
-        RunGuarded([&] { OpenChosenProject(session_, *this, *project); });
+        RunGuarded([&] { OpenChosenProject(session_, *this, *project); }, {});
     });
 }
 

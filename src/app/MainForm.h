@@ -4,6 +4,7 @@
 
 #include "app/actions.h"
 #include "shell/main_window.h"
+#include "shell/project_history.h"
 #include "shell/session.h"
 #include "ui/Page.h"
 #include "ui/host_paths.h"
@@ -21,6 +22,7 @@ namespace quillon {
 
 class CommandBars;
 class DesignScreen;
+class EditHistory;
 class FilesPage;
 class MainTabs;
 
@@ -51,7 +53,13 @@ public:
 
     /// Runs the command with this id; one without an action does nothing.
     void RunCommand(int id);
-    void Run(Action action);
+    /// What the action changes can be undone as a step of this name; without a name as a part of
+    /// the step before it.
+    void Run(Action action, const Text& editName);
+
+    EditHistory& Edits() { return *edits_; }
+    /// What an undone step has changed.
+    void ShowRestored(const ProjectHistory::Restored& restored);
 
     /// What a status text of a long command says; an empty one gives the bar back.
     void ShowStatusText(const Text& text);
@@ -68,13 +76,16 @@ protected:
 private:
     void MakePages();
     void ConnectFileList();
+    void ConnectEdits();
     void ShowSelection();
-    void RunGuarded(const std::function<void()>& run);
+    void RunGuarded(const std::function<void()>& run, const Text& editName);
     void MakeStatusBar();
     void ShowUnsavedChanges();
+    void ShowEdits();
     Page& PageOf(Tab tab) { return *pages_[static_cast<std::size_t>(tab)]; }
 
     Session& session_;
+    std::unique_ptr<EditHistory> edits_;
     HostPaths paths_;
     Text lastImportFolder_;
     MainTabs* MainTab_ = nullptr;

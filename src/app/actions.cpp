@@ -9,6 +9,7 @@
 #include "actions/forms/DlgShowDocAfter.h"
 #include "actions/forms/pages/DlgProgramGroup.h"
 #include "app/MainForm.h"
+#include "app/edit_commands.h"
 #include "app/import_commands.h"
 #include "app/text_commands.h"
 #include "builder/forms/DlgCreate.h"
@@ -20,6 +21,7 @@
 #include "filelist/forms/row_commands.h"
 #include "importers/forms/DlgCompareLstFile.h"
 #include "importers/forms/dep_command.h"
+#include "shell/command_table.h"
 #include "shell/forms/DlgAbout.h"
 #include "shell/forms/DlgEditorOptions.h"
 #include "shell/forms/DlgVersionInfo.h"
@@ -100,6 +102,8 @@ const std::map<int, Action> kActions = {
     {133, [](MainForm& form) { EditDesPercentGauge(form.Design()); }},
     {134, [](MainForm& form) { EditDesSound(form.Design()); }},
     {135, [](MainForm& form) { EditDesOverview(form.Design()); }},
+    {kUndoCommand, UndoEdit},
+    {kRedoCommand, RedoEdit},
     {136, CopyText},
     {137, PasteText},
     {138, [](MainForm& form) { ShowInstallOptions(form.GetSession(), &form); }},

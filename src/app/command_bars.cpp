@@ -96,6 +96,13 @@ void CommandBars::ShowTabEntry(Tab tab, bool visible)
     ActionOf(kFirstTabCommand + static_cast<int>(tab))->setVisible(visible);
 }
 
+void CommandBars::ShowEntry(int id, const Text& caption, bool canRun)
+{
+    QAction* action = ActionOf(id);
+    action->setText(ToQt(caption));
+    action->setEnabled(canRun);
+}
+
 void CommandBars::GiveListKeys(QWidget& list)
 {
     for (const MenuRow& row : MenuBarRows())

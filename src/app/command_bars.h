@@ -28,6 +28,9 @@ public:
     /// Hides the entry of the tab in the window menu, or shows it.
     void ShowTabEntry(Tab tab, bool visible);
 
+    /// What the entry says while it stands for something that changes; a disabled one has nothing.
+    void ShowEntry(int id, const Text& caption, bool canRun);
+
     /// From now on the keys that work in the file list do so in this widget.
     void GiveListKeys(QWidget& list);
 

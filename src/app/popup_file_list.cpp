@@ -2,6 +2,7 @@
 
 #include "actions/forms/DlgShowDocAfter.h"
 #include "app/MainForm.h"
+#include "app/edit_name.h"
 #include "filelist/forms/row_commands.h"
 #include "project/components.h"
 #include "shell/command_table.h"
@@ -77,7 +78,9 @@ void AddEntry(const PopupEntry& entry, MainForm& form, QMenu& menu)
     shown->setEnabled(action != nullptr);
     shown->setVisible(entry.name != kComponentNumber ||
                       IsAnyComponentInUse(form.GetSession().project));
-    QObject::connect(shown, &QAction::triggered, &form, [&form, action] { form.Run(action); });
+    QObject::connect(shown, &QAction::triggered, &form, [&form, entry, action] {
+        form.Run(action, entry.id != 0 ? EditName(entry.id) : EditName(entry.caption));
+    });
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -17,6 +18,14 @@ public:
     bool Holds(std::size_t hash, IsAlike isAlike) const
     {
         return !slots_[SlotOf(hash, isAlike)].isFree;
+    }
+
+    /// The row that was added; nothing where there is none.
+    template <class IsAlike>
+    std::optional<RowNumber> Find(std::size_t hash, IsAlike isAlike) const
+    {
+        const Slot& slot = slots_[SlotOf(hash, isAlike)];
+        return slot.isFree ? std::nullopt : std::optional(slot.number);
     }
 
     /// Of rows that are alike the first one stays.

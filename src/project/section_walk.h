@@ -2,6 +2,8 @@
 // visitors of this walk:
 //   Begin(name), Keys(table, record[, number]), NumberedText(key, number, text, limit), End()
 // and Section(name, table, record), which is all of these for a section that its table tells whole.
+// One that is after the values alone also has AllPictures(texts), and gets the slide show's
+// pictures through it, those behind its count too.
 #pragma once
 
 #include "platform/run_error.h"
@@ -29,6 +31,8 @@ void VisitAnimPictures(Visitor& visitor, section::DesPicturesAnim& pictures)
 {
     visitor.Begin("DesPicturesAnim");
     visitor.Keys(section::kDesPicturesAnim, pictures);
+    if constexpr (requires { visitor.AllPictures(pictures.P); })
+        return visitor.AllPictures(pictures.P);
     // The count on file is not looked at until it runs past the last picture that there is room
     // for.
     for (std::size_t i = 0; static_cast<Long>(i) < pictures.NrAnimPictures; ++i) {

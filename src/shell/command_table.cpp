@@ -83,6 +83,9 @@ constexpr MenuRow kMenuBar[] = {
     {Entry, {135, "&Översikt..."}},
 
     {Menu, {0, "&Redigera"}},
+    {Entry, {kUndoCommand, "&Ångra", "Ångra", "Ctrl+Z"}},
+    {Entry, {kRedoCommand, "&Gör om", "Gör om", "Ctrl+Y"}},
+    {Line},
     {Entry, {136, "K&opiera", "Kopiera", "Ctrl+C", KeysWork::InEditors}},
     {Entry, {137, "K&listra in", "Klistra in", "Ctrl+V", KeysWork::InEditors}},
 

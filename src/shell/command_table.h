@@ -29,6 +29,9 @@ inline constexpr int kFirstCommand = 101;
 inline constexpr int kLastCommand = 302;
 inline constexpr int kFirstRecentFile = 291;
 inline constexpr int kRecentFileCount = 4;
+// The name of the step that they would take back, or do again, stands behind their captions.
+inline constexpr int kUndoCommand = 215;
+inline constexpr int kRedoCommand = 216;
 inline constexpr std::string_view kFreeSlot = "(tom)";
 
 enum class MenuPart {

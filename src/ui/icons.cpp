@@ -36,7 +36,7 @@ constexpr CommandPicture kPictures[] = {
     {130, "pictures"}, {131, "slides"}, {132, "logotype"}, {133, "percent"}, {134, "sound"},
     {135, "overview"},
 
-    {136, "copy"}, {137, "paste"},
+    {215, "undo"}, {216, "redo"}, {136, "copy"}, {137, "paste"},
 
     {138, "install-options"}, {139, "language"}, {140, "run-after"}, {141, "document-after"},
     {142, "script"}, {143, "startup-files"}, {144, "variables"}, {145, "version"},

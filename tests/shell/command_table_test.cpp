@@ -25,25 +25,14 @@ TEST(CommandTable, GivesEachKeyToOneCommand)
 
 TEST(CommandTable, HasKeysForWhatIsDoneOften)
 {
-    const std::pair<int, const char*> keys[] = {{101, "Ctrl+N"},
-                                                {102, "Ctrl+O"},
-                                                {103, "Ctrl+S"},
-                                                {104, "Ctrl+Shift+S"},
-                                                {108, "F7"},
-                                                {109, "Ctrl+T"},
-                                                {110, "Ctrl+P"},
-                                                {112, "Ctrl+Q"},
-                                                {205, "Ctrl+Shift+A"},
-                                                {206, "Ctrl+Shift+T"},
-                                                {207, "Ctrl+Shift+K"},
-                                                {124, "F5"},
-                                                {114, "Del"},
-                                                {119, "Alt+Return"},
-                                                {136, "Ctrl+C"},
-                                                {137, "Ctrl+V"},
-                                                {147, "Ctrl+1"},
-                                                {152, "Ctrl+6"},
-                                                {153, "F1"}};
+    const std::pair<int, const char*> keys[] = {
+        {101, "Ctrl+N"},       {102, "Ctrl+O"},       {103, "Ctrl+S"},
+        {104, "Ctrl+Shift+S"}, {108, "F7"},           {109, "Ctrl+T"},
+        {110, "Ctrl+P"},       {112, "Ctrl+Q"},       {205, "Ctrl+Shift+A"},
+        {206, "Ctrl+Shift+T"}, {207, "Ctrl+Shift+K"}, {124, "F5"},
+        {114, "Del"},          {119, "Alt+Return"},   {215, "Ctrl+Z"},
+        {216, "Ctrl+Y"},       {136, "Ctrl+C"},       {137, "Ctrl+V"},
+        {147, "Ctrl+1"},       {152, "Ctrl+6"},       {153, "F1"}};
     for (const auto& [id, expected] : keys)
         EXPECT_EQ(FindCommand(id)->keys, expected) << id;
 }
