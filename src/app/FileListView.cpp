@@ -1,6 +1,5 @@
 #include "app/FileListView.h"
 
-#include "filelist/row_copy.h"
 #include "project/components.h"
 #include "ui/character_widths.h"
 #include "ui/qt_text.h"
@@ -309,21 +308,21 @@ void FileListView::paintEvent(QPaintEvent* event)
 
 void FileListView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->matches(QKeySequence::Copy))
-        CopySelectedRows();
+    if (event->matches(QKeySequence::Copy) && onCopy)
+        onCopy();
+    else if (event->matches(QKeySequence::Paste) && onPaste)
+        onPaste();
     else
         QTreeView::keyPressEvent(event);
 }
 
-void FileListView::CopySelectedRows() const
+std::vector<Column> FileListView::ShownColumns() const
 {
-    const std::vector<std::size_t> rows = SelectedRows();
     std::vector<Column> columns;
     for (const ListColumn& column : kListColumns)
         if (IsShown(column.column))
             columns.push_back(column.column);
-    if (!rows.empty())
-        QApplication::clipboard()->setText(ToQt(TabSeparatedRows(project_.Files, rows, columns)));
+    return columns;
 }
 
 // Qt looks for what is typed in the column that was clicked last.

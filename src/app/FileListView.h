@@ -24,8 +24,7 @@ public:
 
     /// Grid lines and columns as the settings and the components want them.
     void ShowSettings();
-    /// All of the selected rows as lines with tabs, such as a spreadsheet takes in.
-    void CopySelectedRows() const;
+    std::vector<Column> ShownColumns() const;
 
     /// Component numbers are shown while the project has components.
     void ShowComponentColumns();
@@ -34,6 +33,8 @@ public:
     std::function<void(const Text& header)> onColumnClick;
     std::function<void()> onSelection;
     std::function<void()> onDoubleClick;
+    std::function<void()> onCopy;
+    std::function<void()> onPaste;
     std::function<void(QPoint onScreen)> onPopup;
 
 protected:

@@ -1,6 +1,7 @@
 #include "app/FilesPage.h"
 
 #include "app/FileListView.h"
+#include "app/FindBar.h"
 #include "app/ProjectHeader.h"
 #include "app/dropped_project.h"
 #include "ui/qt_text.h"
@@ -11,11 +12,12 @@ namespace quillon {
 
 FilesPage::FilesPage(Session& session, HostPaths paths)
     : session_(session), paths_(std::move(paths)), header_(new ProjectHeader(session)),
-      list_(new FileListView(session.project, session.Settings))
+      list_(new FileListView(session.project, session.Settings)),
+      find_(new FindBar(session.project.Files, *list_))
 {
     setObjectName("FilesPage");
     setAcceptDrops(true);
-    Arrange(this, VBox({header_, Growing(list_)}));
+    Arrange(this, VBox({header_, Growing(list_), find_}));
 }
 
 void FilesPage::ShowSession()
@@ -30,6 +32,11 @@ void FilesPage::ShowAboveRows()
     list_->ShowComponentColumns();
 }
 
+void FilesPage::OpenFind()
+{
+    find_->Open();
+}
+
 void FilesPage::dragEnterEvent(QDragEnterEvent* event)
 {
     // A project is the window's to open.
@@ -42,14 +49,14 @@ void FilesPage::dropEvent(QDropEvent* event)
     // The files stay where they are, whatever the other program proposes.
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    TakeDropped(*event->mimeData());
+    TakeFiles(*event->mimeData());
 }
 
-void FilesPage::TakeDropped(const QMimeData& dropped)
+void FilesPage::TakeFiles(const QMimeData& files)
 {
     std::vector<Text> taken;
     std::vector<Text> refused;
-    for (const QUrl& url : dropped.urls()) {
+    for (const QUrl& url : files.urls()) {
         const std::string file = url.toLocalFile().toStdString();
         const auto path = file.empty() ? std::nullopt : paths_.toWindows(file);
         if (path)

@@ -13,6 +13,7 @@ class QMimeData;
 namespace quillon {
 
 class FileListView;
+class FindBar;
 class ProjectHeader;
 
 class FilesPage : public Page {
@@ -23,9 +24,13 @@ public:
     /// All but the rows, which are shown by themselves.
     void ShowAboveRows();
     FileListView& List() { return *list_; }
+    /// Opens the bar that looks for rows.
+    void OpenFind();
+    /// Takes in the files that another program has dropped here or laid on the clipboard.
+    void TakeFiles(const QMimeData& files);
 
-    /// Called once the drop is over, so that whoever was dragged from does not wait. `refused` are
-    /// names of what has no Windows path.
+    /// Called once the files are taken, so that whoever was dragged from does not wait. `refused`
+    /// are names of what has no Windows path.
     std::function<void(const std::vector<Text>& paths, const std::vector<Text>& refused)> onDrop;
 
 protected:
@@ -33,12 +38,11 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void TakeDropped(const QMimeData& dropped);
-
     Session& session_;
     HostPaths paths_;
     ProjectHeader* header_ = nullptr;
     FileListView* list_ = nullptr;
+    FindBar* find_ = nullptr;
 };
 
 } // namespace quillon

@@ -139,10 +139,14 @@ void MainForm::ShowEdits()
 void MainForm::ConnectFileList()
 {
     constexpr int kFileInfo = 119;
+    constexpr int kCopy = 136;
+    constexpr int kPaste = 137;
     constexpr int kSort = 115;
     constexpr int kAddFiles = 205;
     FileListView& list = files_->List();
     list.onDoubleClick = [this] { RunCommand(kFileInfo); };
+    list.onCopy = [this] { RunCommand(kCopy); };
+    list.onPaste = [this] { RunCommand(kPaste); };
     list.onPopup = [this](QPoint place) { ShowPopupFileList(*this, place); };
     list.onSelection = [this] { ShowSelection(); };
     list.onColumnClick = [this](const Text& header) {

@@ -49,6 +49,7 @@ public:
     void UpdateStatusBar() override;
 
     DesignScreen& Design();
+    FilesPage& Files() { return *files_; }
     Page& SelectedPage() { return PageOf(SelectedTab()); }
 
     /// Runs the command with this id; one without an action does nothing.

@@ -8,6 +8,7 @@
 #include "actions/forms/DlgRunScript.h"
 #include "actions/forms/DlgShowDocAfter.h"
 #include "actions/forms/pages/DlgProgramGroup.h"
+#include "app/FilesPage.h"
 #include "app/MainForm.h"
 #include "app/edit_commands.h"
 #include "app/import_commands.h"
@@ -62,6 +63,12 @@ void Create(MainForm& form)
         form.Paths());
 }
 
+void FindInFileList(MainForm& form)
+{
+    form.SelectTab(Tab::Files);
+    form.Files().OpenFind();
+}
+
 void EditPicture(MainForm& form)
 {
     EditDesPictures(form.Design(), PictureToEdit(form.GetSession().project.DesPictures));
@@ -106,6 +113,7 @@ const std::map<int, Action> kActions = {
     {kRedoCommand, RedoEdit},
     {136, CopyText},
     {137, PasteText},
+    {217, FindInFileList},
     {138, [](MainForm& form) { ShowInstallOptions(form.GetSession(), &form); }},
     {139, [](MainForm& form) { ShowLanguage(form.GetSession(), &form); }},
     {140, [](MainForm& form) { ShowRunAppAfter(form.GetSession(), &form); }},

@@ -8,9 +8,9 @@ namespace quillon {
 
 namespace {
 
-// They open, save or close the project, or go from one state of it to another. Saving may fill a
-// field in, which belongs to what was done before.
-constexpr int kNoSteps[] = {101, 102, 103, 104, 105, 112, kUndoCommand, kRedoCommand};
+// They open, save or close the project, go from one state of it to another, or only look at it.
+// Saving may fill a field in, which belongs to what was done before.
+constexpr int kNoSteps[] = {101, 102, 103, 104, 105, 112, kUndoCommand, kRedoCommand, 136, 217};
 
 constexpr int kCreate = 108;
 

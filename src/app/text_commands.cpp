@@ -2,6 +2,7 @@
 
 #include "actions/ini_list.h"
 #include "app/MainForm.h"
+#include "app/row_clipboard.h"
 #include "ui/list_area.h"
 
 #include <QtWidgets>
@@ -10,13 +11,17 @@ namespace quillon {
 
 void CopyText(MainForm& form)
 {
-    if (QPlainTextEdit* editor = form.SelectedPage().Editor())
+    if (form.SelectedTab() == Tab::Files)
+        CopyRows(form);
+    else if (QPlainTextEdit* editor = form.SelectedPage().Editor())
         editor->copy();
 }
 
 void PasteText(MainForm& form)
 {
-    if (QPlainTextEdit* editor = form.SelectedPage().Editor())
+    if (form.SelectedTab() == Tab::Files)
+        PasteRows(form);
+    else if (QPlainTextEdit* editor = form.SelectedPage().Editor())
         editor->paste();
 }
 

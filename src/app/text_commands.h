@@ -1,4 +1,4 @@
-// The commands that work on the text of the selected tab.
+// The commands that work on the text of the selected tab, or on the rows of the file list.
 #pragma once
 
 namespace quillon {

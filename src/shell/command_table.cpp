@@ -88,6 +88,8 @@ constexpr MenuRow kMenuBar[] = {
     {Line},
     {Entry, {136, "K&opiera", "Kopiera", "Ctrl+C", KeysWork::InEditors}},
     {Entry, {137, "K&listra in", "Klistra in", "Ctrl+V", KeysWork::InEditors}},
+    {Line},
+    {Entry, {217, "&Sök i fillistan...", "Sök i fillistan", "Ctrl+F"}},
 
     {Menu, {0, "&Special"}},
     {Entry, {138, "&Inställningar..."}},

@@ -37,6 +37,7 @@ constexpr CommandPicture kPictures[] = {
     {135, "overview"},
 
     {215, "undo"}, {216, "redo"}, {136, "copy"}, {137, "paste"},
+    {217, "find"},
 
     {138, "install-options"}, {139, "language"}, {140, "run-after"}, {141, "document-after"},
     {142, "script"}, {143, "startup-files"}, {144, "variables"}, {145, "version"},

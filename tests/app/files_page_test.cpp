@@ -331,6 +331,56 @@ TEST_F(FilesPageTest, CopiesTheSelectedRowsWholeWithTabsBetweenTheColumns)
         << "the columns that are shown";
 }
 
+TEST_F(FilesPageTest, PastesRowsOfAnotherWindowWhole)
+{
+    OpenThreeRows();
+    Select({0, 1});
+    QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
+    const FileListRow copied = session.project.Files.rows[1];
+    form->RunCommand(101);
+    ASSERT_EQ(ShownNames().size(), 0U);
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_THAT(ShownNames(), ElementsAre("a.txt", "b.txt"));
+    EXPECT_EQ(session.project.Files.rows[1], copied) << "all columns";
+    EXPECT_THAT(form->SelectedRows(), ElementsAre(0, 1));
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    EXPECT_EQ(StatusText(), "2 objekt,   3,0 kb");
+    form->RunCommand(215);
+    EXPECT_THAT(ShownNames(), IsEmpty()) << "one step back";
+}
+
+TEST_F(FilesPageBoxes, PastesNoRowThatIsThere)
+{
+    OpenThreeRows();
+    Select({0, 1});
+    form->RunCommand(136);
+    Select({2});
+    form->RunCommand(137);
+    EXPECT_EQ(ShownNames().size(), 3U);
+    EXPECT_THAT(form->SelectedRows(), ElementsAre(2));
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    form->RunCommand(136);
+    RunWith({{BoxKind::Inform, "Quillon"}}, [&] { form->RunCommand(137); });
+    EXPECT_EQ(ShownNames().size(), 3U);
+}
+
+TEST_F(FilesPageTest, PastesNothingOfATextAndFilesOfAFileManager)
+{
+    OpenThreeRows();
+    QApplication::clipboard()->setText("a.txt\tb");
+    QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(ShownNames().size(), 3U);
+    machine.files.Put("C:\\home\\d.txt", "x");
+    auto* copied = new QMimeData;
+    copied->setUrls({QUrl("file:///home/d.txt")});
+    QApplication::clipboard()->setMimeData(copied);
+    ask.choices = {{{"%DESTDIR"}}};
+    QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
+    QApplication::processEvents();
+    EXPECT_THAT(ShownNames(), ElementsAre("a.txt", "b.txt", "c.txt", "d.txt"));
+}
+
 TEST_F(FilesPageTest, GivesNamesTheRoomThatTheyAskForUpToALimit)
 {
     OpenThreeRows();

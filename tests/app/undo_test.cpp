@@ -288,7 +288,8 @@ TEST(EditNames, AreTheCaptionsWithoutAccessLetterAndDots)
     EXPECT_EQ(EditName(207), "Addera tom katalog");
     EXPECT_EQ(EditName(std::string_view("Ändra käl&lfil...")), "Ändra källfil");
     EXPECT_EQ(EditName(108), "Val av målmedium");
-    for (const int id : {101, 102, 103, 104, 105, 112, kUndoCommand, kRedoCommand, 291, 294, 999})
+    for (const int id :
+         {101, 102, 103, 104, 105, 112, 136, 217, kUndoCommand, kRedoCommand, 291, 294, 999})
         EXPECT_EQ(EditName(id), "") << id;
 }
 

@@ -5,6 +5,7 @@
 #include "filelist/adding/system_files.h"
 #include "filelist/options/row_options.h"
 #include "filelist/row_facts.h"
+#include "filelist/row_text.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -139,6 +140,43 @@ std::optional<std::size_t> FileAdding::AddSystemFile(const Text& fileName, bool 
         filled[Extension] = ExtensionFromFirstDot(filled[Filename]);
         filled[Source] = path;
     });
+}
+
+FileAdding::RowOutcome FileAdding::AddRow(const FileListRow& row, bool showDuplicateMessage)
+{
+    const bool isFolder = !row.HasSource();
+    if (files_.rows.size() >= kMaxRows) {
+        ask_.Critical("Fel", FullListText());
+        return RowOutcome::Refused;
+    }
+    const bool isGood =
+        isFolder ? CheckRowText(row[Destination], "Katalogen", ask_) &&
+                       MayBeDestination(row[Destination], ask_)
+                 : !IsRefused(RefusalOfTexts(row[Filename], row[Source], row[Destination]));
+    if (!isGood)
+        return RowOutcome::Refused;
+    const bool isDuplicate =
+        isFolder ? !IsNewEmptyFolder(row[Destination])
+                 : IsRefusedAsDuplicate({.FileName = row[Filename],
+                                         .SourcePath = row[Source],
+                                         .Destination = row[Destination],
+                                         .CheckDuplicates = true,
+                                         .ShowDuplicateMessage = showDuplicateMessage});
+    if (isDuplicate)
+        return RowOutcome::Duplicate;
+    Append(row);
+    return RowOutcome::Added;
+}
+
+bool FileAdding::IsNewEmptyFolder(const Text& destination)
+{
+    if (!emptyFolders_) {
+        emptyFolders_.emplace();
+        for (const FileListRow& row : files_.rows)
+            if (!row.HasSource())
+                emptyFolders_->insert(LowerCase(row[Destination]));
+    }
+    return emptyFolders_->insert(LowerCase(destination)).second;
 }
 
 bool FileAdding::IsGuardedHere(const Text& fileName, const Text& sourcePath) const

@@ -10,6 +10,7 @@
 #include "project/file_list.h"
 
 #include <optional>
+#include <set>
 
 namespace quillon {
 
@@ -46,6 +47,11 @@ public:
     /// always told in a box.
     std::optional<std::size_t> AddSystemFileToFileList(const Text& fileName, bool isRuntimeFile);
 
+    enum class RowOutcome { Added, Duplicate, Refused };
+    /// A row of another list, whole as it is, by the same rules; its file need not be here. A
+    /// refusal is always told, a duplicate where `showDuplicateMessage` says so.
+    RowOutcome AddRow(const FileListRow& row, bool showDuplicateMessage);
+
     /// Where each row stands now, by its number so far. No row may be added afterwards.
     NewPlaces Finish();
 
@@ -55,6 +61,7 @@ private:
     bool IsGuardedHere(const Text& fileName, const Text& sourcePath) const;
     bool IsRefusedAsDuplicate(const FileToAdd& file);
     bool IsRefused(const std::optional<Refusal>& refusal);
+    bool IsNewEmptyFolder(const Text& destination);
     void FillFromDisk(FileListRow& row, const FileStatus& status, const Text& path) const;
     template <class Fill>
     std::size_t AppendRow(FileListRow row, Fill fill);
@@ -65,6 +72,8 @@ private:
     Ask& ask_;
     // Made by the first test, since an importer may add without one.
     std::optional<DuplicateIndex> duplicates_;
+    // Where the list makes empty folders, in lower case; made by the first that is added whole.
+    std::optional<std::set<Text>> emptyFolders_;
     bool finished_ = false;
 };
 
