@@ -1,5 +1,6 @@
 // quillon: the desktop program. Its whole command line is the path of one project.
 #include "app/MainForm.h"
+#include "app/RecoveryKeeper.h"
 #include "app/appearance.h"
 #include "app/ask_forms.h"
 #include "app/command_line.h"
@@ -9,6 +10,7 @@
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
 #include "shell/projects_folder.h"
 #include "shell/start.h"
+#include "tools/fault_note.h"
 #include "ui/QtAsk.h"
 
 #include <QtWidgets>
@@ -31,6 +33,17 @@ void TellComplaints(const std::vector<Text>& complaints, Ask& ask)
         lines.append(lines.empty() ? "" : "\r\n\r\n").append(complaint);
     if (!lines.empty())
         ask.Warn(Text(kProductName), lines);
+}
+
+/// What is not saved outlives a fault of the program, and the support hears of it.
+void PrepareForFaults(const Session& session, const HostPaths& paths, RecoveryCopy& copy)
+{
+    const auto note = paths.toHost(FaultNoteFile(session.options.OwnFolder));
+    const Text version = "Programversion: " + Text(kToolVersion) + "\n";
+    InstallFaultHandler(note.value_or(""), version, [&] {
+        if (session.state.ProjectIsDirty != kOff)
+            copy.Keep();
+    });
 }
 
 } // namespace
@@ -60,6 +73,9 @@ int main(int argc, char** argv)
     StartSession(session);
     MainForm form(session, paths);
     ConnectFileListForms(ask, session);
+    RecoveryCopy copy(session);
+    RecoveryKeeper keeper(form, copy);
+    PrepareForFaults(session, paths, copy);
     ask.onStatusText = [&](const Text& text) { form.ShowStatusText(text); };
     form.onFirstActivation = [&] {
         TellComplaints(machine.complaints, ask);
@@ -67,8 +83,12 @@ int main(int argc, char** argv)
             const Text folder = OfferedProjectsFolder(machine.machine);
             OfferProjectsFolder(session, paths.toHost(folder).value_or(""), &form);
         });
+        OfferLeftCopies(session, form, copy);
     };
     RestoreWindowPlace(form, session.Settings.WindowPlace);
     form.show();
-    return QApplication::exec();
+    const int exitCode = QApplication::exec();
+    // Whatever was not saved then was not to be saved.
+    copy.Remove();
+    return exitCode;
 }

@@ -6,6 +6,7 @@
 #error "The tool is not built for Windows yet; its host would be chosen here."
 #endif
 
+#include "platform/posix/fault_handler.h"
 #include "platform/posix/posix_host.h"
 #include "platform/posix/signals.h"
 

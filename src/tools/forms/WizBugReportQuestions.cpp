@@ -3,6 +3,7 @@
 #include "helpers/product.h"
 #include "platform/failure_text.h"
 #include "shell/session.h"
+#include "tools/fault_note.h"
 #include "ui/LinkLabel.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
@@ -147,6 +148,8 @@ WizBugReport_5::WizBugReport_5(BugReportWizard& wizard, QWidget* parent)
 {
     Named(NAMED(tBugDescription), new QPlainTextEdit);
     tBugDescription->setTabChangesFocus(true);
+    tBugDescription->setPlainText(
+        LinesToQt(ReadFaultNote(wizard.session.host.files, wizard.session.options.OwnFolder)));
     LimitTyping(tBugDescription, 0);
     Arrange(VBox({
         Growing(Above("Här kan du skriva in en beskrivning av felet:",

@@ -5,6 +5,7 @@
 #include "platform/failure_text.h"
 #include "shell/session.h"
 #include "tools/diagnosis_program.h"
+#include "tools/fault_note.h"
 #include "ui/LinkLabel.h"
 #include "ui/list_area.h"
 #include "ui/qt_text.h"
@@ -116,6 +117,7 @@ void WizBugReport_7::CreateReport()
         session.ask.Critical("Fel", FailureText(error, BugReportFile(session.options.OwnFolder)));
         return;
     }
+    RemoveFaultNote(session.host.files, session.options.OwnFolder);
     cmdNext->setEnabled(true);
     session.ask.Inform("Felrapport skapad",
                        "En felrapportfil har nu skapats! Tryck på knappen 'OK' för att gå vidare.");

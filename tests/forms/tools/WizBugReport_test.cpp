@@ -69,6 +69,26 @@ TEST_F(WizBugReportTest, LeavesPageTwoWithASystemOnly)
     EXPECT_THAT(wizard.answers.systems, ElementsAre(false, false, true, false, false, false));
 }
 
+TEST(WizBugReportAfterAFault, BeginsTheDescriptionWithItsNoteUntilAReportIsWritten)
+{
+    MemoryHost machine;
+    ScriptedAsk ask({{BoxKind::Inform, "Felrapport skapad"}});
+    Session session = NewSession(machine.host, ask, "C:\\Quillon");
+    machine.files.Put(kDiagnosis, "1\n2\n3\n4\n5\n6\n7\n8\n");
+    machine.files.Put("C:\\Quillon\\Recovery\\Fault.txt",
+                      "Programversion: 6.5.6\nSignal: SIGSEGV\nquillon(main+0x12)\n");
+    BugReportWizard wizard{session};
+    const auto pages = MakeBugReportPages(wizard, nullptr);
+    ShowActive(*pages[4]);
+    EXPECT_EQ(Find<QPlainTextEdit>(*pages[4], "tBugDescription").toPlainText(),
+              "Programversion: 6.5.6\nSignal: SIGSEGV\nquillon(main+0x12)\n");
+    Click(*pages[4], "cmdNext");
+    ShowActive(*pages[6]);
+    Click(*pages[6], "cmdCreateReport");
+    EXPECT_THAT(machine.files.Get(kReport), HasSubstr("Signal: SIGSEGV\r\nquillon(main+0x12)\r\n"));
+    EXPECT_FALSE(machine.files.FileExists("C:\\Quillon\\Recovery\\Fault.txt"));
+}
+
 TEST_F(WizBugReportTest, ClearsItsFlagsWhenAPageIsShown)
 {
     Show(3);

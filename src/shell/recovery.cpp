@@ -1,0 +1,187 @@
+#include "shell/recovery.h"
+
+#include "filelist/view/sort.h"
+#include "helpers/windows_path.h"
+#include "ini/profile_reader.h"
+#include "ini/profile_writer.h"
+#include "platform/run_error.h"
+#include "platform/saved_file.h"
+#include "project/new_project.h"
+#include "project/project_file.h"
+#include "project/project_title.h"
+#include "project/unicode_value.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kSection = "Recovery";
+constexpr const char* kProjectKey = "Project";
+constexpr int kMaxValueLength = 5000;
+// More programs than anybody runs.
+constexpr int kPlaces = 99;
+
+/// A user who is not there: a copy is written behind whatever is going on.
+class Nobody : public Ask {
+public:
+    void Inform(const Text&, const Text&) override {}
+    void Warn(const Text&, const Text&) override {}
+    void Critical(const Text&, const Text&) override {}
+    bool YesNo(const Text&, const Text&, Stops) override { return false; }
+    bool OkCancel(const Text&, const Text&) override { return false; }
+    Answer YesNoCancel(const Text&, const Text&) override { return Answer::Cancel; }
+    void AddStatusLine(const Text&) override {}
+    void ShowProgress(std::uint64_t, std::uint64_t) override {}
+    void ShowBusyPointer(bool) override {}
+    void Beep() override {}
+    void ProcessEvents() override {}
+};
+
+Text RecoveryFolder(const Session& session)
+{
+    return JoinPath(session.options.OwnFolder, "Recovery");
+}
+
+Text PlaceIn(const Text& folder, int number)
+{
+    return JoinPath(folder, NumberText(number));
+}
+
+Text CopyOf(const Text& place)
+{
+    return place + kProjectFileExtension;
+}
+
+Text NameFileOf(const Text& place)
+{
+    return place + ".ini";
+}
+
+std::unique_ptr<FileLock> LockOf(FileSystem& files, const Text& place)
+{
+    try {
+        return files.Lock(place + ".lock", LockWait::None);
+    } catch (const RunError&) {
+        return nullptr;
+    }
+}
+
+void RemoveIfThere(FileSystem& files, const Text& path)
+{
+    RunErrorNumber([&] {
+        if (files.FileExists(path))
+            files.RemoveFile(path);
+    });
+}
+
+void RemovePlace(FileSystem& files, const Text& place)
+{
+    // The copy first: what is left of a place must not look like a copy without a name.
+    RemoveIfThere(files, CopyOf(place));
+    RemoveIfThere(files, NameFileOf(place));
+}
+
+Text ProjectNameOf(const FileSystem& files, const Text& place)
+{
+    ProfileReader reader;
+    reader.SetIniFile(files, NameFileOf(place));
+    reader.SetIniSection(kSection);
+    const Text name = UnicodeValueFromFile(reader.ReadIniString(kProjectKey, kMaxValueLength));
+    return name.empty() ? kUnsavedProjectName : name;
+}
+
+Answer AskAboutCopy(Session& session, const Text& place, const Text& project)
+{
+    const LocalTime kept = session.host.files.Status(CopyOf(place)).modified;
+    return session.ask.YesNoCancel(
+        "Återskapa projekt", "Quillon avslutades utan att '" + project +
+                                 "' sparades. Ändringarna till och med " + DateText(kept) + " kl " +
+                                 TimeText(kept) +
+                                 " finns kvar. Vill du öppna dem? Nej tar bort dem för gott.");
+}
+
+/// Whether all of the copy is in the project.
+bool OpenCopy(Session& session, MainWindow& window, const Text& place, const Text& project)
+{
+    ResetToNewProject(session.project, session.state, session.options.ToolFolder);
+    const ReadEnd end = ReadProjectFile(session.project, CopyOf(place), session.host, session.ask,
+                                        session.options.ToolFolder);
+    KeepStoredOrder(session.project.Files);
+    session.state.ProjectFileName = project;
+    session.state.ProjectIsDirty = kOn;
+    session.knownFile = LookAtFile(session.host.files, project);
+    window.ShowProject();
+    window.SelectTab(Tab::Files);
+    return end == ReadEnd::Whole;
+}
+
+} // namespace
+
+RecoveryCopy::RecoveryCopy(Session& session) : session_(session)
+{
+    FileSystem& files = session.host.files;
+    const Text folder = RecoveryFolder(session);
+    if (!files.DirCreate(folder))
+        return;
+    for (int number = 1; number <= kPlaces; ++number) {
+        const Text place = PlaceIn(folder, number);
+        auto lock = LockOf(files, place);
+        if (!lock || files.FileExists(CopyOf(place)))
+            continue;
+        lock_ = std::move(lock);
+        path_ = place;
+        return;
+    }
+}
+
+bool RecoveryCopy::Keep()
+{
+    if (!lock_)
+        return false;
+    Nobody nobody;
+    // Writing fills an empty program group, which is the user's to save.
+    const Text group = session_.project.ProgramGroup.ProgramGroup;
+    const bool isWritten =
+        RunErrorNumber([&] {
+            WriteProfileValue(session_.host.files, NameFileOf(path_), kSection, kProjectKey,
+                              UnicodeValueOnFile(session_.state.ProjectFileName, kMaxValueLength));
+            WriteProjectFile(session_.project, CopyOf(path_), session_.host, nobody);
+        }) == 0;
+    session_.project.ProgramGroup.ProgramGroup = group;
+    isKept_ = isKept_ || isWritten;
+    return isWritten;
+}
+
+void RecoveryCopy::Remove()
+{
+    if (!isKept_)
+        return;
+    RemovePlace(session_.host.files, path_);
+    isKept_ = false;
+}
+
+void OfferLeftCopies(Session& session, MainWindow& window, RecoveryCopy& own)
+{
+    FileSystem& files = session.host.files;
+    const Text folder = RecoveryFolder(session);
+    for (int number = 1; number <= kPlaces; ++number) {
+        const Text place = PlaceIn(folder, number);
+        if (!files.FileExists(CopyOf(place)))
+            continue;
+        // Held while the user thinks, so that no other program offers it, too.
+        const auto lock = LockOf(files, place);
+        if (!lock)
+            continue;
+        const Text project = ProjectNameOf(files, place);
+        const Answer answer = AskAboutCopy(session, place, project);
+        if (answer == Answer::No)
+            RemovePlace(files, place);
+        if (answer != Answer::Yes)
+            continue;
+        if (OpenCopy(session, window, place, project) && own.Keep())
+            RemovePlace(files, place);
+        return;
+    }
+}
+
+} // namespace quillon
