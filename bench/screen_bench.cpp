@@ -37,7 +37,8 @@ public:
         for (ScalablePicture& picture : pictures.pictures)
             picture = Colourful(280, 200);
         pictures.pictures[1] = Colourful(1600, 1200); // as a camera's is
-        ApplyTransparency(pictures, project);
+        pictures.pictures[2].MakeTransparent(
+            TransparentColour(project.DesPictures.TransparentColorNr));
     }
 
     void Paint(int width, int height, std::optional<PixelRect> part = {})

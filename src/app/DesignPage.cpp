@@ -14,19 +14,50 @@ DesignPage::DesignPage(Session& session) : screen_(new DesignScreen(session))
     ConnectEditors(*screen_);
 }
 
-// Laying the objects out moves them inside the surface, which has no size of its own before it is
-// seen for the first time. So a page behind another one does that when it comes in front.
+void DesignPage::BeginProject()
+{
+    screen_->TellAllAgain();
+    isPending_ = true;
+}
+
+// Behind another tab only a project that has just been opened is laid out; everything else is when
+// the tab comes in front.
 void DesignPage::ShowSession()
 {
-    if (isVisible()) {
+    if (isPending_ || isVisible())
+        LayOut();
+}
+
+/// Behind another tab a page has its size as soon as the window is on the screen: one that opens
+/// maximized was smaller before.
+bool DesignPage::HasSize() const
+{
+    const QWindow* window = this->window()->windowHandle();
+    return isVisible() || (parentWidget() && window && window->isExposed());
+}
+
+// Laying the objects out moves them inside the surface, which has the same size behind another tab
+// as in front: a project that is opened and saved is the same whether its design was looked at or
+// not.
+void DesignPage::LayOut()
+{
+    isPending_ = !HasSize();
+    if (isPending_) {
+        screen_->DrawDesBackground();
+        screen_->DrawDesTitle();
+    } else {
         screen_->DrawDesAll();
-        if (onLaidOut)
-            onLaidOut();
-        return;
     }
-    screen_->DrawDesBackground();
-    screen_->DrawDesTitle();
-    screen_->HideDesObjects();
+    if (!isVisible())
+        screen_->HideDesObjects();
+    if (!isPending_ && onLaidOut)
+        onLaidOut();
+}
+
+void DesignPage::LayOutSoon()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { LayOut(); }, Qt::QueuedConnection);
 }
 
 bool DesignPage::event(QEvent* event)
@@ -36,14 +67,9 @@ bool DesignPage::event(QEvent* event)
         parentWidget()->installEventFilter(this);
         PlaceSurface(parentWidget()->size());
     }
-    if (event->type() == QEvent::Show) {
-        screen_->DrawDesBackground();
-        screen_->DrawDesTitle();
-        // A window that opens with this tab in front gets its size only behind this event, and
-        // objects are moved inside the surface that there is.
-        QMetaObject::invokeMethod(
-            this, [this] { ShowSession(); }, Qt::QueuedConnection);
-    }
+    // Behind this event, since it may have to tell of a picture.
+    if (event->type() == QEvent::Show)
+        LayOutSoon();
     if (event->type() == QEvent::Hide)
         screen_->HideDesObjects();
     return Page::event(event);
@@ -53,6 +79,10 @@ bool DesignPage::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize && watched == parentWidget())
         PlaceSurface(parentWidget()->size());
+    if (event->type() == QEvent::Show && watched == parentWidget())
+        window()->windowHandle()->installEventFilter(this);
+    if (event->type() == QEvent::Expose && watched == window()->windowHandle() && isPending_)
+        LayOutSoon();
     return Page::eventFilter(watched, event);
 }
 

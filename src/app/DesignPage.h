@@ -10,6 +10,9 @@ class DesignPage : public Page {
 public:
     explicit DesignPage(Session& session);
 
+    /// Another project is open, or the same one was read again: the next time that the session is
+    /// shown it is laid out, behind another tab too, and all that can't be shown is told.
+    void BeginProject();
     void ShowSession() override;
 
     DesignScreen& Screen() { return *screen_; }
@@ -22,9 +25,14 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool HasSize() const;
+    void LayOut();
+    void LayOutSoon();
     void PlaceSurface(QSize page);
 
     DesignScreen* screen_;
+    // The project has not been laid out yet. It is when the window has its size.
+    bool isPending_ = true;
 };
 
 } // namespace quillon

@@ -160,6 +160,7 @@ void MainForm::ConnectFileList()
 void MainForm::ShowProject()
 {
     ShowTitle();
+    static_cast<DesignPage&>(PageOf(Tab::Design)).BeginProject();
     for (Page* page : pages_) {
         page->ShowSession();
         ForgetUndo(*page);

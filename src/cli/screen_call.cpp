@@ -102,7 +102,12 @@ Exit PaintProjectScreen(const CallContext& context)
         throw CallFailure{PartlyReadText(path) + " Ingen bild skapas.", Exit::Unreadable};
 
     const ScreenFiles files =
-        ReadScreenFiles(session.project, context.host.files, session.options.ToolFolder);
+        ReadScreenFiles(session.project, context.host.files, session.options.ToolFolder,
+                        {.surfaceWidth = surface.width,
+                         .surfaceHeight = surface.height,
+                         .metrics = session.surface.screen,
+                         .width = size.width,
+                         .height = size.height});
     DemandAllFiles(files);
     const PngFile picture(PaintWhole({.project = session.project,
                                       .width = surface.width,

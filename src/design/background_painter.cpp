@@ -3,6 +3,7 @@
 #include "helpers/number_text.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace quillon {
 
@@ -13,12 +14,43 @@ int ScaledSide(int pixels, double scale)
     return std::max(static_cast<int>(RoundToEven(pixels * scale)), 1);
 }
 
+/// Of a side, in the picture's own pixels: what is seen, and the neighbours that scaling mixes in.
+int SeenOfSide(int own, int seen, double scale)
+{
+    constexpr int kNeighbours = 2;
+    return std::min(own, static_cast<int>(std::ceil(seen / scale)) + kNeighbours);
+}
+
+/// Whether there is more of the picture than the screen has pixels. A smaller one takes little
+/// memory, and scaling it whole is exact.
+bool IsLargerThanScreen(const ScalablePicture& picture, int width, int height)
+{
+    return std::int64_t{picture.Width()} * picture.Height() > std::int64_t{width} * height;
+}
+
 } // namespace
 
 const Picture& InOwnSize(const ScalablePicture& picture, Letters& letters, double scale)
 {
     return picture.InSize(ScaledSide(picture.Width(), scale), ScaledSide(picture.Height(), scale),
                           letters);
+}
+
+void CropToMiddle(ScalablePicture& picture, int width, int height, double scale)
+{
+    if (!IsLargerThanScreen(picture, width, height))
+        return;
+    // As much on both sides, so that the middle stays where it is.
+    const int left = (picture.Width() - SeenOfSide(picture.Width(), width, scale)) / 2;
+    const int top = (picture.Height() - SeenOfSide(picture.Height(), height, scale)) / 2;
+    picture.Crop({left, top, picture.Width() - left, picture.Height() - top});
+}
+
+void CropToCorner(ScalablePicture& picture, int width, int height, double scale)
+{
+    if (IsLargerThanScreen(picture, width, height))
+        picture.Crop(RectAt(0, 0, SeenOfSide(picture.Width(), width, scale),
+                            SeenOfSide(picture.Height(), height, scale)));
 }
 
 void PaintBackground(const Canvas& canvas, Letters& letters, const SurfacePaint& paint,

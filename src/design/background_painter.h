@@ -14,4 +14,10 @@ void PaintBackground(const Canvas& canvas, Letters& letters, const SurfacePaint&
 /// A picture in its own size at that scale, which is at least one pixel.
 const Picture& InOwnSize(const ScalablePicture& picture, Letters& letters, double scale);
 
+/// Leaves of a picture in its own size what a screen of that size shows of it: its middle, and at
+/// least all that is seen.
+void CropToMiddle(ScalablePicture& picture, int width, int height, double scale);
+/// The same from its top left corner.
+void CropToCorner(ScalablePicture& picture, int width, int height, double scale);
+
 } // namespace quillon

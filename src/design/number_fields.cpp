@@ -1,5 +1,6 @@
 #include "design/number_fields.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace quillon {
@@ -23,20 +24,15 @@ struct Limits {
 
 Text Within(const Text& entry, const Limits& limits)
 {
-    std::int64_t number = LeadingNumber(entry);
-    const bool fits = number >= limits.min && number <= limits.max && number <= limits.surface;
-    if (fits && !entry.empty())
-        return entry;
-    number = number < limits.min ? limits.min : number;
-    number = number > limits.max ? limits.max : number;
+    const std::int64_t number = std::clamp(LeadingNumber(entry), limits.min, limits.max);
     // Kept: the surface has the last word, even where it is smaller than the smallest size.
-    return NumberText(number > limits.surface ? limits.surface : number);
+    return NumberText(std::min(number, limits.surface));
 }
 
 Text OrDefault(const Text& entry, std::int64_t max, const char* whenBad)
 {
     const std::int64_t number = LeadingNumber(entry);
-    return number < 1 || number > max ? whenBad : entry;
+    return number < 1 || number > max ? whenBad : NumberText(number);
 }
 
 } // namespace
@@ -53,7 +49,7 @@ Text CheckedUnderlineHeight(const Text& entry, UnderlineKind kind)
         return NumberText(kMinMistyUnderline);
     if (entry.empty() || height < kBlendedUnderline)
         return NumberText(kMinUnderline);
-    return height > kMaxUnderline ? NumberText(kMaxUnderline) : entry;
+    return NumberText(std::min<std::int64_t>(height, kMaxUnderline));
 }
 
 Integer UnderlineHeightToEdit(Integer stored)

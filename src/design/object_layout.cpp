@@ -48,6 +48,9 @@ void LayOutPicture(section::DesPicture& picture, PictureBox& box, ScreenMetrics 
         box.place.Width = picture.PictureWidth * screen.TPPX;
         box.place.Height = picture.PictureHeight * screen.TPPY;
     }
+    // An empty slot has the size of no picture that was in it before.
+    if (!hasFile && !box.isStretched)
+        box.place.Width = box.place.Height = 0;
     box.isVisible = hasFile;
     box.isUnread = false;
     box.place.Left = picture.PictureXPos;
@@ -65,18 +68,6 @@ void StretchOversized(section::DesPicture& picture, PictureBox& box, const Surfa
         box.place.Height = surface.Height - kOversizeMargin;
     }
     box.isStretched = picture.StretchPicture != kOff;
-}
-
-void RefuseLogotype(section::DesLogotype& record, LogotypeBox& box, Ask& ask)
-{
-    box.isVisible = false;
-    record.LogotypeFilename.clear();
-    ask.Critical("Kan ej lägga in bilden",
-                 "Logotype-bildens bredd och höjd är för stor! Välj en bild som har mindre "
-                 "dimensioner. Logotype-bildens mått får inte vara större än design-editorns "
-                 "fönster.");
-    box.place.Width = kNoLogotype;
-    box.place.Height = kNoLogotype;
 }
 
 SurfacePlace InsideSurface(SurfacePlace box, const SurfacePlace& surface, ScreenMetrics screen)
@@ -106,6 +97,11 @@ void LayOutLabels(TextBoxLayout& layout, Long headingHeight)
 Long PixelsOf(Long twips, Long twipsPerPixel)
 {
     return static_cast<Long>(RoundToEven(double(twips) / twipsPerPixel));
+}
+
+Long ScreenHeightInPixels(Long screenHeight, ScreenMetrics screen)
+{
+    return PixelsOf(screenHeight, screen.TPPY);
 }
 
 Integer StoredPosition(Long twips)
@@ -144,6 +140,17 @@ void LayOutPictures(section::DesPictures& record, PictureBoxes& boxes, SurfacePl
     KeepPicturesInsideDesign(record, boxes, surface, screen);
 }
 
+PictureBox BoxOfPicture(section::DesPictures record, std::size_t index, PixelSize size,
+                        SurfacePlace surface, ScreenMetrics screen)
+{
+    for (std::size_t i = 0; i < record.Pictures.size(); ++i)
+        if (i != index)
+            record.Pictures[i].PictureFilename.clear();
+    PictureBoxes boxes;
+    LayOutPictures(record, boxes, surface, screen, [size](const Text&) { return size; });
+    return boxes[index];
+}
+
 void KeepPicturesInsideDesign(section::DesPictures& record, PictureBoxes& boxes,
                               SurfacePlace& surface, ScreenMetrics screen)
 {
@@ -174,11 +181,11 @@ bool IsMetafileName(const Text& file)
     return ContainsText(LowerCase(file), ".wmf");
 }
 
-Colour LogotypeBackColor(const SurfacePaint& paint)
+Colour LogotypeBackColor(Colour ColorFrom, Colour ColorTo, bool isOnPicture)
 {
-    if (paint.UsePicture)
-        return paint.ColorFrom;
-    return paint.ColorTo == 0 ? kDarkGrey : paint.ColorTo;
+    if (isOnPicture)
+        return ColorFrom;
+    return ColorTo == 0 ? kDarkGrey : ColorTo;
 }
 
 LogotypeBox PlaceLogotype(const section::DesLogotype& record, const LogotypeSurround& surround,
@@ -186,7 +193,8 @@ LogotypeBox PlaceLogotype(const section::DesLogotype& record, const LogotypeSurr
 {
     LogotypeBox box{.isVisible = true,
                     .isMetafile = IsMetafileName(record.LogotypeFilename),
-                    .BackColor = LogotypeBackColor(surround.paint)};
+                    .BackColor = LogotypeBackColor(surround.paint.ColorFrom, surround.paint.ColorTo,
+                                                   surround.isOnPicture)};
     if (box.isMetafile)
         size = {record.LogotypeWMFWidth, record.LogotypeWMFHeight};
     box.place.Width = size.width * surround.screen.TPPX;
@@ -203,15 +211,27 @@ bool IsLogotypeTooLarge(const LogotypeBox& logotype, const SurfacePlace& surface
     return surface.Width <= logotype.place.Width || surface.Height <= logotype.place.Height;
 }
 
-LogotypeBox LayOutLogotype(section::DesLogotype& record, const LogotypeSurround& surround,
-                           const MeasurePicture& measure, Ask& ask)
+LogotypeBox LayOutLogotype(const section::DesLogotype& record, const LogotypeSurround& surround,
+                           const MeasurePicture& measure)
 {
     if (record.LogotypeFilename.empty())
         return {};
     LogotypeBox box = PlaceLogotype(record, surround, measure(record.LogotypeFilename));
-    if (IsLogotypeTooLarge(box, surround.surface))
-        RefuseLogotype(record, box, ask);
+    if (IsLogotypeTooLarge(box, surround.surface)) {
+        box.isTooLarge = true;
+        box.isVisible = false;
+        box.place.Width = kNoLogotype;
+        box.place.Height = kNoLogotype;
+    }
     return box;
+}
+
+void TellLogotypeTooLarge(Ask& ask)
+{
+    ask.Critical("Kan ej lägga in bilden",
+                 "Logotype-bildens bredd och höjd är för stor! Välj en bild som har mindre "
+                 "dimensioner. Logotype-bildens mått får inte vara större än design-editorns "
+                 "fönster.");
 }
 
 TextBoxLayout LayOutTextBox(section::DesTextBox& record, const SurfacePlace& surface,

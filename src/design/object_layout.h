@@ -22,6 +22,9 @@ struct PixelSize {
 /// Twips to the nearest pixel, a half to the even neighbour.
 Long PixelsOf(Long twips, Long twipsPerPixel);
 
+/// The height of the machine's screen.
+Long ScreenHeightInPixels(Long screenHeight, ScreenMetrics screen);
+
 /// The left edge that keeps an object of width `w` inside the surface.
 Long ClampDesX(const SurfacePlace& surface, ScreenMetrics screen, Long x, Long w);
 /// The same from top to bottom. Kept: here an object at the very top is moved one pixel down.
@@ -48,6 +51,10 @@ using PictureBoxes = std::array<PictureBox, section::kDesPictureCount>;
 void LayOutPictures(section::DesPictures& record, PictureBoxes& boxes, SurfacePlace& surface,
                     ScreenMetrics screen, const MeasurePicture& measure);
 
+/// The box of one picture of that size, whatever the others are.
+PictureBox BoxOfPicture(section::DesPictures record, std::size_t index, PixelSize size,
+                        SurfacePlace surface, ScreenMetrics screen);
+
 /// Moves every box inside the surface and keeps the places in the record.
 void KeepPicturesInsideDesign(section::DesPictures& record, PictureBoxes& boxes,
                               SurfacePlace& surface, ScreenMetrics screen);
@@ -64,6 +71,7 @@ struct LogotypeBox {
     SurfacePlace place;
     bool isVisible = false;
     bool isMetafile = false;
+    bool isTooLarge = false;
     Colour BackColor = 0; // behind a metafile, which has no background of its own
 };
 
@@ -73,6 +81,8 @@ struct LogotypeSurround {
     Long tabWidth = 0; // of the whole `MainTab`, twips
     ScreenMetrics screen;
     SurfacePaint paint;
+    // The background is to be a picture, also where its file can't be shown.
+    bool isOnPicture = false;
 };
 
 /// Where a logotype of that size stands. Kept: one placed right follows the width of the tab and
@@ -83,17 +93,20 @@ LogotypeBox PlaceLogotype(const section::DesLogotype& record, const LogotypeSurr
 /// Whether the logotype is as wide or as high as the surface, which no setup shows.
 bool IsLogotypeTooLarge(const LogotypeBox& logotype, const SurfacePlace& surface);
 
-/// Lays the logotype out. One that is too large is refused with a message and taken out of the
-/// record. A picture that can't be read is a `RunError`, and the record keeps its name: the
-/// file may be missing on this machine only.
-LogotypeBox LayOutLogotype(section::DesLogotype& record, const LogotypeSurround& surround,
-                           const MeasurePicture& measure, Ask& ask);
+/// Lays the logotype out. One that is too large is hidden and `isTooLarge`. A picture that can't be
+/// read is a `RunError`.
+LogotypeBox LayOutLogotype(const section::DesLogotype& record, const LogotypeSurround& surround,
+                           const MeasurePicture& measure);
+
+/// Tells that the logotype is too large. The record keeps its name: it was perhaps made for a
+/// larger window.
+void TellLogotypeTooLarge(Ask& ask);
 
 bool IsMetafileName(const Text& file);
 
 /// The colour behind a metafile. Kept: black gives way to a dark grey, since metafiles are often
 /// drawn in black.
-Colour LogotypeBackColor(const SurfacePaint& paint);
+Colour LogotypeBackColor(Colour ColorFrom, Colour ColorTo, bool isOnPicture);
 
 struct TextBoxLayout {
     SurfacePlace box;

@@ -15,6 +15,20 @@ Colour TransparentColour(Integer number)
     return isKnown ? kColours[number] : 0;
 }
 
+std::optional<Colour> TransparentColourOf(const section::DesPictures& record, std::size_t index)
+{
+    if (record.Pictures[index].UseTransparentBkg == kOff)
+        return {};
+    return TransparentColour(record.TransparentColorNr);
+}
+
+std::optional<Colour> TransparentColourOf(const section::DesLogotype& record)
+{
+    if (record.UseTransparentBkg == kOff)
+        return {};
+    return TransparentColour(record.TransparentColorNr);
+}
+
 void MakeTransparent(Picture& picture, Colour colour)
 {
     std::ranges::replace(picture.pixels, PixelOf(colour), Pixel{0});

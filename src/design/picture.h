@@ -3,6 +3,8 @@
 
 #include "design/canvas.h"
 
+#include <optional>
+
 namespace quillon {
 
 /// Decoded pixels, row by row from the top; empty where there is no picture.
@@ -16,6 +18,10 @@ struct Picture {
 
 /// The colour with that `TransparentColorNr`; one that there is not is black, as in a new project.
 Colour TransparentColour(Integer number);
+
+/// The colour that a free picture or the logotype loses; nothing where it keeps them all.
+std::optional<Colour> TransparentColourOf(const section::DesPictures& record, std::size_t index);
+std::optional<Colour> TransparentColourOf(const section::DesLogotype& record);
 
 /// Every pixel of exactly that colour becomes transparent.
 void MakeTransparent(Picture& picture, Colour colour);

@@ -15,7 +15,7 @@ Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename)
 Text ProposedRTFfilename(const Text& projectFileName)
 {
     const Text name = ExtractFilename(projectFileName);
-    const auto extension = LowerCase(name).find(".qnp");
+    const auto extension = LowerCase(name).rfind(".qnp");
     if (extension == Text::npos)
         return "rtf";
     return name.substr(0, extension + 1) + "rtf";

@@ -1,6 +1,7 @@
 #include "design/rtf_panel.h"
 
 #include "helpers/number_text.h"
+#include "helpers/utf8.h"
 
 #include <algorithm>
 
@@ -15,6 +16,10 @@ constexpr int kTabPixels = 48; // half an inch
 // Super- and subscript: the size of the letters, and how far their baseline moves.
 constexpr int kScriptNumerator = 2;
 constexpr int kScriptDenominator = 3;
+// Small capitals in the size of the letters.
+constexpr int kSmallNumerator = 4;
+constexpr int kSmallDenominator = 5;
+constexpr int kRtfLine = 240; // a line as high as its letters, where lines are counted
 
 // A piece of a line in one style, ready to be painted.
 struct Piece {
@@ -26,6 +31,33 @@ struct Piece {
     Colour foreground = 0;
     Colour background = kNoColour;
 };
+
+// Letters of a word that are painted in one size.
+struct LetterRun {
+    Text text;
+    bool isSmall = false;
+};
+
+/// Small capitals: what is written in small letters is painted in smaller capitals.
+std::vector<LetterRun> InCapitals(const Text& word, RtfStyle::Capitals capitals)
+{
+    if (capitals == RtfStyle::Capitals::AsWritten)
+        return {{word}};
+    if (capitals == RtfStyle::Capitals::All)
+        return {{UpperCase(word)}};
+    std::vector<LetterRun> runs;
+    for (std::size_t at = 0; at < word.size();) {
+        const std::size_t begin = at;
+        NextCodePoint(word, at);
+        const Text written = word.substr(begin, at - begin);
+        const Text capital = UpperCase(written);
+        const bool isSmall = capital != written;
+        if (runs.empty() || runs.back().isSmall != isSmall)
+            runs.push_back({.isSmall = isSmall});
+        runs.back().text += capital;
+    }
+    return runs;
+}
 
 // A part of a run that a line does not break: a word with the blanks behind it, or a tab.
 struct Word {
@@ -116,21 +148,38 @@ private:
             left_ = NextTab(paragraph);
             return;
         }
-        const ScreenFont font = FontOf(*word.style);
-        Piece piece{.line = MakeLine(letters_, font, word.text),
-                    .height = letters_.Height(font),
-                    .foreground = word.style->foreground == kNoColour ? 0 : word.style->foreground,
-                    .background = word.style->background};
-        piece.width = piece.line.width;
-        if (word.style->height == RtfStyle::Height::Superscript)
-            piece.rise = font.size / 2;
-        else if (word.style->height == RtfStyle::Height::Subscript)
-            piece.rise = -font.size / 4;
-        if (left_ + piece.width > width_ && !line_.empty())
+        std::vector<Piece> pieces;
+        int width = 0;
+        for (const LetterRun& run : InCapitals(word.text, word.style->capitals)) {
+            pieces.push_back(MakePiece(run, *word.style));
+            width += pieces.back().width;
+        }
+        if (left_ + width > width_ && !line_.empty())
             EndLine(paragraph);
-        piece.left = left_;
-        left_ += piece.width;
-        line_.push_back(std::move(piece));
+        for (Piece& piece : pieces) {
+            piece.left = left_;
+            left_ += piece.width;
+            line_.push_back(std::move(piece));
+        }
+    }
+
+    Piece MakePiece(const LetterRun& run, const RtfStyle& style)
+    {
+        ScreenFont font = FontOf(style);
+        if (run.isSmall)
+            font.size = std::max(font.size * kSmallNumerator / kSmallDenominator, 1);
+        const int spacing = TwipPixels(style.letterSpacing);
+        Piece piece{.line = MakeLine(letters_, font, run.text, spacing),
+                    .height = letters_.Height(font),
+                    .foreground = style.foreground == kNoColour ? 0 : style.foreground,
+                    .background = style.background};
+        // The space behind the last letter belongs to it too.
+        piece.width = std::max(piece.line.width + spacing, 0);
+        if (style.height == RtfStyle::Height::Superscript)
+            piece.rise = font.size / 2;
+        else if (style.height == RtfStyle::Height::Subscript)
+            piece.rise = -font.size / 4;
+        return piece;
     }
 
     int NextTab(const RtfParagraph& paragraph) const
@@ -155,8 +204,18 @@ private:
         for (const Piece& piece : line_)
             PaintPiece(piece, panel_.box.left + margin_ + shift, height);
         line_.clear();
-        top_ += height.Line();
+        top_ += LineHeight(paragraph, height.Line());
         left_ = TwipPixels(paragraph.leftIndent);
+    }
+
+    int LineHeight(const RtfParagraph& paragraph, int letters) const
+    {
+        const int spacing = paragraph.lineSpacing;
+        if (paragraph.isLineSpacingMultiple && spacing > 0)
+            return static_cast<int>(RoundToEven(double(letters) * spacing / kRtfLine));
+        if (spacing < 0)
+            return std::max(TwipPixels(-spacing), 1);
+        return std::max(TwipPixels(spacing), letters);
     }
 
     static const RtfStyle& EmptyStyle(const RtfParagraph& paragraph)

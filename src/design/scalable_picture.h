@@ -20,7 +20,8 @@ public:
     ScalablePicture(Picture pixels); // NOLINT(google-explicit-constructor)
     /// Pixels of a picture that is larger than what was kept of it.
     ScalablePicture(int width, int height, Picture pixels);
-    ScalablePicture(int width, int height, Draw draw);
+    /// `memory` is what the drawing itself takes, in bytes.
+    ScalablePicture(int width, int height, Draw draw, std::int64_t memory = 0);
 
     // Its own size.
     int Width() const { return width_; }
@@ -30,8 +31,18 @@ public:
     /// Every pixel of exactly that colour becomes transparent.
     void MakeTransparent(Colour colour);
 
+    /// Keeps no more than what showing the picture in that size takes; its own size stays. Every
+    /// other size is made of these pixels from now on. A drawing stays as it is.
+    void KeepOnly(int width, int height);
+    /// Leaves that part of the picture, which is a picture of its own from now on. A drawing stays
+    /// whole.
+    void Crop(const PixelRect& part);
+    /// What is kept of it, in bytes.
+    std::int64_t Memory() const;
+
     /// The last size asked for is kept, since a window asks for the same one at each paint. The
-    /// result lives until the next call, which therefore is no other thread's.
+    /// result lives until the next call, which therefore is no other thread's. A drawing that would
+    /// be larger than any screen is empty.
     const Picture& InSize(int width, int height, Letters& letters) const;
 
 private:
@@ -40,6 +51,7 @@ private:
     int width_ = 0;
     int height_ = 0;
     Draw draw_;
+    std::int64_t drawingMemory_ = 0;
     std::optional<Colour> transparent_;
     // The pixels, and behind them each time half of what is before. Where much larger pixels are
     // made smaller in one size after the other, most of the work is done once.

@@ -38,6 +38,25 @@ public:
         PaintRTFbox();
     }
 
+    void KeepOnlyShown(ScreenPictures& pictures) const
+    {
+        if (paint_.StretchPicture)
+            pictures.background.KeepOnly(canvas_.width, canvas_.height);
+        else
+            CropToMiddle(pictures.background, canvas_.width, canvas_.height, scale_.Both());
+        for (std::size_t i = 0; i < pictures.pictures.size(); ++i)
+            KeepInBox(pictures.pictures[i], BoxOf(i));
+        const PixelRect changing = ChangingRect();
+        if (project_.DesPicturesAnim.StretchPicture != kOff)
+            pictures.changing.KeepOnly(changing.Width(), changing.Height());
+        else
+            CropToCorner(pictures.changing, changing.Width(), changing.Height(), scale_.Both());
+        if (const LogotypeBox box = BoxOfLogotype(); !box.isVisible)
+            pictures.logotype = {};
+        else
+            KeepInRect(pictures.logotype, RectOf(box.place));
+    }
+
     PixelRect ChangingRect() const
     {
         const ShownBox box = LayOutPicturesAnim(project_.DesPicturesAnim, design_.metrics);
@@ -67,21 +86,32 @@ private:
 
     void PaintPictures()
     {
-        section::DesPictures record = project_.DesPictures;
-        PictureBoxes boxes;
-        for (std::size_t i = 0; i < boxes.size(); ++i)
-            if (design_.pictures.pictures[i].IsEmpty())
-                record.Pictures[i].PictureFilename.clear();
-        std::size_t next = 0;
-        LayOutPictures(record, boxes, surface_, design_.metrics, [&](const Text&) {
-            while (record.Pictures[next].PictureFilename.empty())
-                ++next;
-            const ScalablePicture& picture = design_.pictures.pictures[next++];
-            return PixelSize{picture.Width(), picture.Height()};
-        });
-        for (std::size_t i = 0; i < boxes.size(); ++i)
-            if (boxes[i].isVisible)
-                PaintInBox(design_.pictures.pictures[i], boxes[i]);
+        for (std::size_t i = 0; i < design_.pictures.pictures.size(); ++i)
+            if (const PictureBox box = BoxOf(i); box.isVisible)
+                PaintInBox(design_.pictures.pictures[i], box);
+    }
+
+    PictureBox BoxOf(std::size_t index) const
+    {
+        const ScalablePicture& picture = design_.pictures.pictures[index];
+        if (picture.IsEmpty())
+            return {};
+        return BoxOfPicture(project_.DesPictures, index, {picture.Width(), picture.Height()},
+                            surface_, design_.metrics);
+    }
+
+    static void KeepInRect(ScalablePicture& picture, const PixelRect& rect)
+    {
+        picture.KeepOnly(rect.Width(), rect.Height());
+    }
+
+    void KeepInBox(ScalablePicture& picture, const PictureBox& box) const
+    {
+        if (box.isStretched)
+            KeepInRect(picture, RectOf(box.place));
+        else
+            picture.KeepOnly(scale_.BothPixels(picture.Width()),
+                             scale_.BothPixels(picture.Height()));
     }
 
     void PaintInBox(const ScalablePicture& picture, const PictureBox& box)
@@ -110,22 +140,31 @@ private:
 
     void PaintLogotype()
     {
-        const ScalablePicture& picture = design_.pictures.logotype;
-        if (project_.DesLogotype.LogotypeFilename.empty() || picture.IsEmpty())
-            return;
-        const LogotypeSurround surround{.surface = surface_,
-                                        .tabWidth = surface_.Width + 2 * kSurfaceMargin,
-                                        .screen = design_.metrics,
-                                        .paint = paint_};
-        const LogotypeBox box =
-            PlaceLogotype(project_.DesLogotype, surround, {picture.Width(), picture.Height()});
-        if (IsLogotypeTooLarge(box, surface_))
+        const LogotypeBox box = BoxOfLogotype();
+        if (!box.isVisible)
             return;
         const PixelRect rect = RectOf(box.place);
         if (box.isMetafile)
             FillRect(canvas_, rect, PixelOf(box.BackColor));
-        PaintPicture(canvas_, picture.InSize(rect.Width(), rect.Height(), letters_), rect.left,
-                     rect.top);
+        PaintPicture(canvas_,
+                     design_.pictures.logotype.InSize(rect.Width(), rect.Height(), letters_),
+                     rect.left, rect.top);
+    }
+
+    /// Not visible where there is none, or one that is too large.
+    LogotypeBox BoxOfLogotype() const
+    {
+        const ScalablePicture& picture = design_.pictures.logotype;
+        if (picture.IsEmpty())
+            return {};
+        const LogotypeSurround surround{.surface = surface_,
+                                        .tabWidth = surface_.Width + 2 * kSurfaceMargin,
+                                        .screen = design_.metrics,
+                                        .paint = paint_,
+                                        .isOnPicture = IsOnPicture(project_.DesBackground)};
+        return LayOutLogotype(project_.DesLogotype, surround, [&](const Text&) {
+            return PixelSize{picture.Width(), picture.Height()};
+        });
     }
 
     void PaintTextBox(int titleBottom)
@@ -160,35 +199,29 @@ private:
     SurfacePaint paint_;
 };
 
-} // namespace
+// Where only the arithmetic is asked: no letter is drawn and no pixel painted.
+struct NoLetters : Letters {
+    FontHeight Height(const ScreenFont&) override { return {}; }
+    std::vector<int> Advances(const ScreenFont&, const Text&) override { return {}; }
+    LetterMask Draw(const ScreenFont&, const Text&, const std::vector<int>&) override { return {}; }
+};
 
-void ApplyTransparency(ScreenPictures& pictures, const Project& project)
-{
-    const section::DesPictures& free = project.DesPictures;
-    for (std::size_t i = 0; i < pictures.pictures.size(); ++i)
-        if (free.Pictures[i].UseTransparentBkg != kOff)
-            pictures.pictures[i].MakeTransparent(TransparentColour(free.TransparentColorNr));
-    const section::DesLogotype& logotype = project.DesLogotype;
-    if (logotype.UseTransparentBkg != kOff)
-        pictures.logotype.MakeTransparent(TransparentColour(logotype.TransparentColorNr));
-}
+} // namespace
 
 void PaintScreen(const Canvas& canvas, Letters& letters, const ScreenDesign& design)
 {
     ScreenPainter(canvas, letters, design).Paint();
 }
 
+void KeepOnlyShown(ScreenPictures& pictures, const ScreenDesign& design, int width, int height)
+{
+    NoLetters none;
+    ScreenPainter(WholeCanvas(nullptr, width, height), none, design).KeepOnlyShown(pictures);
+}
+
 PixelRect ChangingPicturesRect(const ScreenDesign& design, int width, int height)
 {
-    // Only the arithmetic is asked; no letter is drawn and no pixel painted.
-    struct NoLetters : Letters {
-        FontHeight Height(const ScreenFont&) override { return {}; }
-        std::vector<int> Advances(const ScreenFont&, const Text&) override { return {}; }
-        LetterMask Draw(const ScreenFont&, const Text&, const std::vector<int>&) override
-        {
-            return {};
-        }
-    } none;
+    NoLetters none;
     return ScreenPainter(WholeCanvas(nullptr, width, height), none, design).ChangingRect();
 }
 

@@ -16,9 +16,6 @@ struct ScreenPictures {
     ScalablePicture logotype;
 };
 
-/// Takes the transparent colour out of the pictures that have one; once, before they are painted.
-void ApplyTransparency(ScreenPictures& pictures, const Project& project);
-
 struct ScreenDesign {
     // Its design sections; the texts have their variables expanded.
     const Project& project;
@@ -36,6 +33,10 @@ struct ScreenDesign {
 /// Paints the canvas's clip. The design is scaled to the canvas: places and sizes in both
 /// directions, letters and pictures of their own size by the smaller factor.
 void PaintScreen(const Canvas& canvas, Letters& letters, const ScreenDesign& design);
+
+/// Keeps of the pictures no more than what a screen of that size shows: `PaintScreen` makes the
+/// same of them, and needs no further memory for it. `design.pictures` are these.
+void KeepOnlyShown(ScreenPictures& pictures, const ScreenDesign& design, int width, int height);
 
 /// Where the changing pictures are shown on a canvas of that size; empty where there are none.
 PixelRect ChangingPicturesRect(const ScreenDesign& design, int width, int height);

@@ -48,6 +48,11 @@ Blend BlendOf(const SurfacePaint& paint)
     return {paint.ColorFrom, paint.ColorTo, paint.BlendDepth, paint.BlendStyle};
 }
 
+bool IsOnPicture(const section::DesBackground& background)
+{
+    return background.Type == 2;
+}
+
 void SetBlend(SurfacePaint& paint, const section::DesBackground& background)
 {
     paint.ColorFrom = background.BackColor1;

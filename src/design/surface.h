@@ -43,6 +43,9 @@ struct SurfacePaint {
 /// The part of the paint that has no picture.
 Blend BlendOf(const SurfacePaint& paint);
 
+/// Whether the background is to be a picture, whatever can be shown of it.
+bool IsOnPicture(const section::DesBackground& background);
+
 /// The colours of the record. Kept: a single colour is a blend from the colour to itself, and
 /// leaves the depth of the blend before it.
 void SetBlend(SurfacePaint& paint, const section::DesBackground& background);

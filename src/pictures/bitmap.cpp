@@ -259,13 +259,17 @@ DecodedPixels DecodeBitmap(PictureBytes dib, const BitmapHeader& header, std::si
     return {std::move(picture), PictureFault::None};
 }
 
-DecodedPixels DecodeBitmapFile(std::string_view bytes)
+DecodedPixels DecodeBitmapFile(std::string_view bytes, std::int64_t memory)
 {
     const PictureBytes file(bytes);
     const PictureBytes dib = file.Part(kFileHeader);
     BitmapHeader header;
     if (const PictureFault fault = ReadBitmapHeader(dib, header); fault != PictureFault::None)
         return {{}, fault};
+    if (static_cast<std::int64_t>(bytes.size()) +
+            header.width * header.height * std::int64_t{sizeof(Pixel)} >
+        memory)
+        return {{}, PictureFault::TooLarge};
     const std::size_t offset = file.Long(10);
     // Some writers leave the place of the pixels out, or count it from elsewhere.
     const bool isKnown = offset >= kFileHeader + header.headerSize;

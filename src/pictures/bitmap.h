@@ -14,8 +14,8 @@ struct DecodedPixels {
     PictureFault fault = PictureFault::None;
 };
 
-/// A whole file.
-DecodedPixels DecodeBitmapFile(std::string_view bytes);
+/// A whole file. Too large is one whose bytes and pixels take more than `memory`, in bytes.
+DecodedPixels DecodeBitmapFile(std::string_view bytes, std::int64_t memory);
 
 /// What a bitmap says of itself, so that it can be judged before it is decoded.
 struct BitmapHeader {

@@ -9,8 +9,6 @@ namespace quillon {
 
 namespace {
 
-// All that a picture takes together, below 256 MiB with room for the rest of the program.
-constexpr std::int64_t kMaxMemory = std::int64_t{224} << 20;
 constexpr int kMaxSideSize = 65500;
 
 enum Marker : std::uint8_t {
@@ -147,7 +145,7 @@ bool ReadJpegHeader(std::string_view bytes, JpegHeader& header)
     return false;
 }
 
-int JpegReduction(const JpegHeader& header, std::size_t fileSize)
+int JpegReduction(const JpegHeader& header, std::size_t fileSize, std::int64_t memory)
 {
     const std::int64_t pixels = std::int64_t{header.width} * header.height;
     // Two bytes for each sample; also a plain file may come in several scans.
@@ -160,24 +158,24 @@ int JpegReduction(const JpegHeader& header, std::size_t fileSize)
         if (kept <= kMaxPicturePixels &&
             static_cast<std::int64_t>(fileSize) + scans +
                     kept * copies * static_cast<std::int64_t>(sizeof(Pixel)) <=
-                kMaxMemory)
+                memory)
             return reduction;
     }
     return 0;
 }
 
-PictureResult DecodeJpeg(std::string_view bytes)
+PictureResult DecodeJpeg(std::string_view bytes, std::int64_t memory)
 {
     JpegHeader header;
     if (!ReadJpegHeader(bytes, header))
         return {{}, PictureFault::Damaged};
-    const int reduction = JpegReduction(header, bytes.size());
+    const int reduction = JpegReduction(header, bytes.size(), memory);
     if (reduction == 0)
         return {{}, PictureFault::TooLarge};
     const std::uint64_t kept = std::uint64_t{sizeof(Pixel)} *
                                static_cast<std::uint64_t>(Reduced(header.width, reduction)) *
                                static_cast<std::uint64_t>(Reduced(header.height, reduction));
-    const auto rest = static_cast<std::uint64_t>(kMaxMemory) - bytes.size() - kept;
+    const auto rest = static_cast<std::uint64_t>(memory) - bytes.size() - kept;
     Picture pixels = DecodeJpegPixels(
         bytes,
         {.width = header.width, .height = header.height, .reduction = reduction, .memory = rest});

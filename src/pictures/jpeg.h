@@ -20,8 +20,10 @@ struct JpegHeader {
 bool ReadJpegHeader(std::string_view bytes, JpegHeader& header);
 
 /// 1, 2, 4 or 8, the smallest by which the picture can be kept; 0 where even 8 is too little.
-int JpegReduction(const JpegHeader& header, std::size_t fileSize);
+int JpegReduction(const JpegHeader& header, std::size_t fileSize,
+                  std::int64_t memory = kMaxPicturesMemory);
 
-PictureResult DecodeJpeg(std::string_view bytes);
+/// `memory` is all that the picture may take with the bytes of its file.
+PictureResult DecodeJpeg(std::string_view bytes, std::int64_t memory);
 
 } // namespace quillon

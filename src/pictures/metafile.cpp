@@ -149,10 +149,13 @@ PictureResult DecodeMetafile(std::string bytes)
         return {{}, PictureFault::Damaged};
     const int width = file->width;
     const int height = file->height;
-    return {ScalablePicture(width, height,
-                            [file = std::move(file)](int across, int down, Letters& letters) {
-                                return DrawAt(*file, across, down, letters);
-                            }),
+    const auto memory = static_cast<std::int64_t>(file->bytes.size());
+    return {ScalablePicture(
+                width, height,
+                [file = std::move(file)](int across, int down, Letters& letters) {
+                    return DrawAt(*file, across, down, letters);
+                },
+                memory),
             PictureFault::None};
 }
 

@@ -31,15 +31,15 @@ std::string ReadBytes(InputFile& file, std::uint64_t size)
     return bytes;
 }
 
-PictureResult ReadFromFile(const FileSystem& files, const Text& path)
+PictureResult ReadFromFile(const FileSystem& files, const Text& path, std::int64_t memory)
 {
     if (path.empty() || !files.FileExists(path))
         return Failed(PictureFault::NotFound);
     const auto file = files.OpenInput(path);
     const std::uint64_t size = file->Size();
-    if (size > kMaxPictureFileBytes)
+    if (size > kMaxPictureFileBytes || static_cast<std::int64_t>(size) > memory)
         return Failed(PictureFault::TooLarge);
-    return DecodePicture(ReadBytes(*file, size));
+    return DecodePicture(ReadBytes(*file, size), memory);
 }
 
 } // namespace
@@ -53,15 +53,15 @@ PictureFormat PictureFormatOf(std::string_view bytes)
     return IsMetafile(bytes) ? PictureFormat::Metafile : PictureFormat::Unknown;
 }
 
-PictureResult DecodePicture(std::string bytes)
+PictureResult DecodePicture(std::string bytes, std::int64_t memory)
 {
     switch (PictureFormatOf(bytes)) {
     case PictureFormat::Bitmap: {
-        DecodedPixels decoded = DecodeBitmapFile(bytes);
+        DecodedPixels decoded = DecodeBitmapFile(bytes, memory);
         return {std::move(decoded.picture), decoded.fault};
     }
     case PictureFormat::Jpeg:
-        return DecodeJpeg(bytes);
+        return DecodeJpeg(bytes, memory);
     case PictureFormat::Metafile:
         return DecodeMetafile(std::move(bytes));
     case PictureFormat::Unknown:
@@ -70,10 +70,10 @@ PictureResult DecodePicture(std::string bytes)
     return Failed(PictureFault::UnknownFormat);
 }
 
-PictureResult ReadPictureFile(const FileSystem& files, const Text& path)
+PictureResult ReadPictureFile(const FileSystem& files, const Text& path, std::int64_t memory)
 {
     try {
-        return ReadFromFile(files, path);
+        return ReadFromFile(files, path, memory);
     } catch (const RunError&) {
         return Failed(PictureFault::Unreadable);
     } catch (const std::bad_alloc&) {

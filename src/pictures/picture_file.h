@@ -3,7 +3,8 @@
 // show the same pixels; only what a JPEG file holds is decoded by the system's own means.
 //
 // Files come from anywhere. Whatever is in one, reading it ends soon and takes no more than 256 MiB
-// with all that it needs on the way; what is damaged or too large gives a reason.
+// with all that it needs on the way; what is damaged or too large gives a reason. Who keeps several
+// pictures gives each one only what the others leave.
 #pragma once
 
 #include "design/scalable_picture.h"
@@ -26,11 +27,16 @@ enum class PictureFormat { Unknown, Bitmap, Jpeg, Metafile };
 /// By the first bytes of a file.
 PictureFormat PictureFormatOf(std::string_view bytes);
 
-/// Throws nothing but `std::bad_alloc`.
-PictureResult DecodePicture(std::string bytes);
+/// All that the pictures of a design take together, in bytes, with the file that is being read:
+/// below 256 MiB with room for the rest of the program.
+inline constexpr std::int64_t kMaxPicturesMemory = std::int64_t{224} << 20;
+
+/// `memory` is what the picture may take with its file. Throws nothing but `std::bad_alloc`.
+PictureResult DecodePicture(std::string bytes, std::int64_t memory = kMaxPicturesMemory);
 
 /// Nothing is thrown.
-PictureResult ReadPictureFile(const FileSystem& files, const Text& path);
+PictureResult ReadPictureFile(const FileSystem& files, const Text& path,
+                              std::int64_t memory = kMaxPicturesMemory);
 
 // Larger than any screen, and a fourth of what the whole may take.
 inline constexpr std::int64_t kMaxPicturePixels = 25'000'000;

@@ -9,16 +9,51 @@ namespace quillon {
 
 namespace {
 
-void ReadPictureInto(ScalablePicture& picture, const Text& file, const FileSystem& files,
-                     std::vector<ScreenFileFault>& faults)
-{
-    if (file.empty())
-        return;
-    PictureResult result = ReadPictureFile(files, file);
-    picture = std::move(result.picture);
-    if (result.fault != PictureFault::None)
-        faults.push_back({file, result.fault});
-}
+class PicturesReader {
+public:
+    PicturesReader(ScreenFiles& read, const Project& project, const FileSystem& files,
+                   const ScreenSize& size)
+        : read_(read), project_(project), files_(files), size_(size)
+    {
+    }
+
+    void Read(ScalablePicture& picture, const Text& file,
+              const std::optional<Colour>& transparent = {})
+    {
+        if (file.empty())
+            return;
+        PictureResult result = ReadPictureFile(files_, file, kMaxPicturesMemory - Memory());
+        picture = std::move(result.picture);
+        if (result.fault != PictureFault::None)
+            read_.faults.push_back({file, result.fault});
+        // In the picture's own pixels, before they are mixed.
+        if (transparent)
+            picture.MakeTransparent(*transparent);
+        KeepOnlyShown(read_.pictures,
+                      {.project = project_,
+                       .width = size_.surfaceWidth,
+                       .height = size_.surfaceHeight,
+                       .metrics = size_.metrics,
+                       .pictures = read_.pictures},
+                      size_.width, size_.height);
+    }
+
+private:
+    std::int64_t Memory() const
+    {
+        const ScreenPictures& pictures = read_.pictures;
+        std::int64_t memory =
+            pictures.background.Memory() + pictures.changing.Memory() + pictures.logotype.Memory();
+        for (const ScalablePicture& picture : pictures.pictures)
+            memory += picture.Memory();
+        return memory;
+    }
+
+    ScreenFiles& read_;
+    const Project& project_;
+    const FileSystem& files_;
+    const ScreenSize& size_;
+};
 
 std::optional<RtfText> ReadRtfBox(const Text& file, const FileSystem& files,
                                   std::vector<ScreenFileFault>& faults)
@@ -38,21 +73,21 @@ std::optional<RtfText> ReadRtfBox(const Text& file, const FileSystem& files,
 
 } // namespace
 
-ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files, const Text& toolFolder)
+ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files, const Text& toolFolder,
+                            const ScreenSize& size)
 {
     ScreenFiles read;
-    const auto put = [&](ScalablePicture& picture, const Text& file) {
-        ReadPictureInto(picture, file, files, read.faults);
-    };
     ScreenPictures& pictures = read.pictures;
+    PicturesReader reader(read, project, files, size);
     if (project.DesBackground.Type != 1)
-        put(pictures.background, project.DesBackground.PictureFilename);
+        reader.Read(pictures.background, project.DesBackground.PictureFilename);
     for (std::size_t i = 0; i < pictures.pictures.size(); ++i)
-        put(pictures.pictures[i], project.DesPictures.Pictures[i].PictureFilename);
+        reader.Read(pictures.pictures[i], project.DesPictures.Pictures[i].PictureFilename,
+                    TransparentColourOf(project.DesPictures, i));
     if (const auto changing = ChangingPictures(project.DesPicturesAnim); !changing.empty())
-        put(pictures.changing, changing.front());
-    put(pictures.logotype, project.DesLogotype.LogotypeFilename);
-    ApplyTransparency(pictures, project);
+        reader.Read(pictures.changing, changing.front());
+    reader.Read(pictures.logotype, project.DesLogotype.LogotypeFilename,
+                TransparentColourOf(project.DesLogotype));
     const section::DesRTFbox& box = project.DesRTFbox;
     if (box.ShowRTFbox != kOff && !box.RTFfilename.empty())
         read.rtfBox = ReadRtfBox(RTFboxPath(toolFolder, box.RTFfilename), files, read.faults);

@@ -21,8 +21,21 @@ struct ScreenFiles {
     std::vector<ScreenFileFault> faults;
 };
 
-/// Only what is shown is read, of the changing pictures the first one.
-ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files,
-                            const Text& toolFolder);
+/// What the files are read for.
+struct ScreenSize {
+    // The surface on which the author made the design, in pixels.
+    int surfaceWidth = 640;
+    int surfaceHeight = 480;
+    ScreenMetrics metrics;
+    // The screen that is painted.
+    int width = 0;
+    int height = 0;
+};
+
+/// Only what is shown is read, of the changing pictures the first one, and only as much of a
+/// picture is kept as is shown: all together take no more than `kMaxPicturesMemory`, with the file
+/// that is being read. A file that there is no more room for is too large.
+ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files, const Text& toolFolder,
+                            const ScreenSize& size);
 
 } // namespace quillon

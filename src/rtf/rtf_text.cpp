@@ -308,6 +308,8 @@ void RtfReader::StoreParagraph()
     paragraph_.firstLineIndent = state.firstLineIndent;
     paragraph_.spaceBefore = state.spaceBefore;
     paragraph_.spaceAfter = state.spaceAfter;
+    paragraph_.lineSpacing = state.lineSpacing;
+    paragraph_.isLineSpacingMultiple = state.isLineSpacingMultiple;
     paragraph_.tabs.assign(state.tabs.begin(),
                            state.tabs.begin() + static_cast<std::ptrdiff_t>(state.tabCount));
     text_.paragraphs.push_back(std::exchange(paragraph_, {}));

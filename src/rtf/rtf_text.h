@@ -21,6 +21,8 @@ struct RtfStyle {
     bool isUnderlined = false;
     bool isStruckOut = false;
     enum class Height { Normal, Superscript, Subscript } height = Height::Normal;
+    enum class Capitals { AsWritten, All, Small } capitals = Capitals::AsWritten;
+    int letterSpacing = 0; // twips between letters; negative: closer
     Colour foreground = kNoColour;
     Colour background = kNoColour;
 
@@ -41,6 +43,10 @@ struct RtfParagraph {
     int firstLineIndent = 0; // from the left indent; negative: it hangs out
     int spaceBefore = 0;
     int spaceAfter = 0;
+    // 0: as high as the letters. A multiple counts in 1/240 of that; else positive is the least
+    // height of a line, and negative the exact one.
+    int lineSpacing = 0;
+    bool isLineSpacingMultiple = false;
     std::vector<int> tabs;
     std::vector<RtfRun> runs;
 };

@@ -11,11 +11,13 @@ namespace {
 
 using Alignment = RtfParagraph::Alignment;
 using Height = RtfStyle::Height;
+using Capitals = RtfStyle::Capitals;
 
 // Beyond these a number is a mistake: 22 inches, and letters of a quarter of a metre.
 constexpr int kMaxDistance = 31680;
 constexpr int kMaxHalfPoints = 1440;
 constexpr int kUsualLetters = 24;
+constexpr int kTwipsPerQuarterPoint = 5;
 
 /// The number behind a word.
 class Parameter {
@@ -53,6 +55,11 @@ void StrikeOut(RtfState& state, Parameter parameter)
     state.style.isStruckOut = parameter.IsOn();
 }
 
+void SetCapitals(RtfState& state, Parameter parameter, Capitals capitals)
+{
+    state.style.capitals = parameter.IsOn() ? capitals : Capitals::AsWritten;
+}
+
 void Background(RtfState& state, Parameter parameter)
 {
     state.backgroundNumber = parameter.Or(0);
@@ -61,10 +68,13 @@ void Background(RtfState& state, Parameter parameter)
 // clang-format off
 constexpr StateWord kStateWords[] = {
     {"b",           [](RtfState& state, Parameter parameter) { state.style.isBold = parameter.IsOn(); }},
+    {"caps",        [](RtfState& state, Parameter parameter) { SetCapitals(state, parameter, Capitals::All); }},
     {"cb",          Background},
     {"cf",          [](RtfState& state, Parameter parameter) { state.foregroundNumber = parameter.Or(0); }},
     {"chcbpat",     Background},
     {"deleted",     [](RtfState& state, Parameter parameter) { state.isHidden = parameter.IsOn(); }},
+    {"expnd",       [](RtfState& state, Parameter parameter) { state.style.letterSpacing = kTwipsPerQuarterPoint * parameter.Distance(); }},
+    {"expndtw",     [](RtfState& state, Parameter parameter) { state.style.letterSpacing = parameter.Distance(); }},
     {"f",           [](RtfState& state, Parameter parameter) { state.fontNumber = parameter.Or(0); }},
     {"fi",          [](RtfState& state, Parameter parameter) { state.firstLineIndent = parameter.Distance(); }},
     {"fs",          [](RtfState& state, Parameter parameter) { state.style.halfPoints = std::clamp(parameter.Or(kUsualLetters), 2, kMaxHalfPoints); }},
@@ -84,6 +94,9 @@ constexpr StateWord kStateWords[] = {
     {"rin",         [](RtfState& state, Parameter parameter) { state.rightIndent = parameter.Distance(); }},
     {"sa",          [](RtfState& state, Parameter parameter) { state.spaceAfter = parameter.NonNegativeDistance(); }},
     {"sb",          [](RtfState& state, Parameter parameter) { state.spaceBefore = parameter.NonNegativeDistance(); }},
+    {"scaps",       [](RtfState& state, Parameter parameter) { SetCapitals(state, parameter, Capitals::Small); }},
+    {"sl",          [](RtfState& state, Parameter parameter) { state.lineSpacing = parameter.Distance(); }},
+    {"slmult",      [](RtfState& state, Parameter parameter) { state.isLineSpacingMultiple = parameter.IsOn(); }},
     {"strike",      StrikeOut},
     {"striked",     StrikeOut},
     {"sub",         [](RtfState& state, Parameter parameter) { state.style.height = parameter.IsOn() ? Height::Subscript : Height::Normal; }},
@@ -197,6 +210,8 @@ void ResetParagraph(RtfState& state)
     state.alignment = fresh.alignment;
     state.leftIndent = state.rightIndent = state.firstLineIndent = 0;
     state.spaceBefore = state.spaceAfter = 0;
+    state.lineSpacing = 0;
+    state.isLineSpacingMultiple = false;
     state.tabCount = 0;
 }
 

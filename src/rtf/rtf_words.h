@@ -28,6 +28,8 @@ struct RtfState {
     int firstLineIndent = 0;
     int spaceBefore = 0;
     int spaceAfter = 0;
+    int lineSpacing = 0;
+    bool isLineSpacingMultiple = false;
     std::array<int, 24> tabs{};
     std::size_t tabCount = 0;
 };

@@ -12,15 +12,6 @@ namespace {
 constexpr const char* kHexDigits = "0123456789abcdef";
 constexpr const char* kUsualFont = "Arial";
 
-struct Lost {
-    std::string_view word;
-    const char* name;
-};
-constexpr Lost kLost[] = {{"\\pict", "bilder"},          {"\\object", "inbäddade objekt"},
-                          {"\\trowd", "tabeller"},       {"\\header", "sidhuvud"},
-                          {"\\footer", "sidfot"},        {"\\footnote", "fotnoter"},
-                          {"\\field", "fält och länkar"}};
-
 class RtfFileWriter {
 public:
     explicit RtfFileWriter(const RtfText& text) : text_(text) {}
@@ -125,6 +116,10 @@ private:
         for (const auto& [word, twips] : distances)
             if (twips != 0)
                 Word(word, twips);
+        if (paragraph.lineSpacing != 0) {
+            Word("sl", paragraph.lineSpacing);
+            Word("slmult", paragraph.isLineSpacingMultiple ? 1 : 0);
+        }
         for (const int tab : paragraph.tabs)
             Word("tx", tab);
         for (const RtfRun& run : paragraph.runs)
@@ -145,6 +140,11 @@ private:
         out_ += style.height == RtfStyle::Height::Superscript ? "\\super"
                 : style.height == RtfStyle::Height::Subscript ? "\\sub"
                                                               : "";
+        out_ += style.capitals == RtfStyle::Capitals::All     ? "\\caps"
+                : style.capitals == RtfStyle::Capitals::Small ? "\\scaps"
+                                                              : "";
+        if (style.letterSpacing != 0)
+            Word("expndtw", style.letterSpacing);
         if (style.foreground != kNoColour)
             Word("cf", ColourNumber(style.foreground));
         if (style.background != kNoColour)
@@ -204,34 +204,11 @@ private:
     std::string out_;
 };
 
-// A control word ends where no letter follows.
-bool HasWord(std::string_view bytes, std::string_view word)
-{
-    for (std::size_t at = bytes.find(word); at != std::string_view::npos;
-         at = bytes.find(word, at + 1)) {
-        const std::size_t end = at + word.size();
-        const char next = end < bytes.size() ? bytes[end] : ' ';
-        const bool isEscaped = at > 0 && bytes[at - 1] == '\\';
-        if (!isEscaped && !(next >= 'a' && next <= 'z'))
-            return true;
-    }
-    return false;
-}
-
 } // namespace
 
 std::string WriteRtf(const RtfText& text)
 {
     return RtfFileWriter(text).Write();
-}
-
-std::vector<Text> RtfLosses(std::string_view bytes)
-{
-    std::vector<Text> losses;
-    for (const Lost& lost : kLost)
-        if (HasWord(bytes, lost.word))
-            losses.emplace_back(lost.name);
-    return losses;
 }
 
 } // namespace quillon

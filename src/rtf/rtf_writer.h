@@ -9,8 +9,4 @@ namespace quillon {
 /// readers without Unicode. Reading it back gives the same text.
 std::string WriteRtf(const RtfText& text);
 
-/// What in the bytes of an RTF file `ReadRtf` passes over and a save would lose, in words for the
-/// user such as "bilder"; empty where there is nothing.
-std::vector<Text> RtfLosses(std::string_view bytes);
-
 } // namespace quillon

@@ -1,5 +1,8 @@
 #include "ui/UpDownArrows.h"
 
+#include "helpers/number_text.h"
+#include "ui/qt_text.h"
+
 #include <QtWidgets>
 #include <algorithm>
 
@@ -46,7 +49,9 @@ bool UpDownArrows::eventFilter(QObject* watched, QEvent* event)
 
 void UpDownArrows::Step(int by)
 {
-    field_->setText(QString::number(std::clamp(field_->text().toInt() + by, min_, max_)));
+    // As the field's own check reads it, which has not run yet where the field was never left.
+    const std::int64_t shown = LeadingNumber(FromQt(field_->text()));
+    field_->setText(ToQt(NumberText(std::clamp<std::int64_t>(shown + by, min_, max_))));
 }
 
 } // namespace quillon

@@ -10,6 +10,7 @@ namespace quillon {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
+constexpr int kRtfLine = 240; // a line as high as its letters, where lines are counted
 constexpr qsizetype kMaxLettersOfBlock = 8000;
 constexpr int kMaxRunsOfBlock = 400;
 const QColor kInk = Qt::black;
@@ -86,7 +87,19 @@ private:
         shape.setTopMargin(Points(paragraph.spaceBefore));
         shape.setBottomMargin(Points(paragraph.spaceAfter));
         shape.setTabPositions(TabsOf(paragraph));
+        SetLineHeight(shape, paragraph);
         return shape;
+    }
+
+    void SetLineHeight(QTextBlockFormat& shape, const RtfParagraph& paragraph) const
+    {
+        const int spacing = paragraph.lineSpacing;
+        if (paragraph.isLineSpacingMultiple && spacing > 0)
+            shape.setLineHeight(spacing * 100.0 / kRtfLine, QTextBlockFormat::ProportionalHeight);
+        else if (spacing != 0)
+            shape.setLineHeight(Points(std::abs(spacing)), spacing < 0
+                                                               ? QTextBlockFormat::FixedHeight
+                                                               : QTextBlockFormat::MinimumHeight);
     }
 
     /// Qt counts from where the first line begins. Where that one hangs out, the left indent is a
@@ -119,6 +132,13 @@ private:
             look.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
         if (style.height == RtfStyle::Height::Subscript)
             look.setVerticalAlignment(QTextCharFormat::AlignSubScript);
+        if (style.capitals != RtfStyle::Capitals::AsWritten)
+            look.setFontCapitalization(
+                style.capitals == RtfStyle::Capitals::All ? QFont::AllUppercase : QFont::SmallCaps);
+        if (style.letterSpacing != 0) {
+            look.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+            look.setFontLetterSpacing(Points(style.letterSpacing));
+        }
         look.setForeground(style.foreground == kNoColour ? kInk : ToQtColour(style.foreground));
         if (style.background != kNoColour)
             look.setBackground(ToQtColour(style.background));
@@ -175,6 +195,7 @@ private:
         paragraph.firstLineIndent = Twips(shape.textIndent());
         paragraph.spaceBefore = Twips(shape.topMargin());
         paragraph.spaceAfter = Twips(shape.bottomMargin());
+        TakeLineHeight(paragraph, shape);
         const int begin = paragraph.leftIndent + paragraph.firstLineIndent;
         for (const QTextOption::Tab& tab : shape.tabPositions())
             paragraph.tabs.push_back(begin + Twips(tab.position));
@@ -182,6 +203,25 @@ private:
             if (const QTextFragment fragment = part.fragment(); fragment.isValid())
                 paragraph.runs.push_back({TextOf(fragment), StyleOf(fragment.charFormat())});
         text_.paragraphs.push_back(std::move(paragraph));
+    }
+
+    void TakeLineHeight(RtfParagraph& paragraph, const QTextBlockFormat& shape) const
+    {
+        switch (shape.lineHeightType()) {
+        case QTextBlockFormat::ProportionalHeight:
+            paragraph.isLineSpacingMultiple = true;
+            paragraph.lineSpacing =
+                static_cast<int>(std::lround(shape.lineHeight() * kRtfLine / 100));
+            break;
+        case QTextBlockFormat::MinimumHeight:
+            paragraph.lineSpacing = Twips(shape.lineHeight());
+            break;
+        case QTextBlockFormat::FixedHeight:
+            paragraph.lineSpacing = -Twips(shape.lineHeight());
+            break;
+        default:
+            break;
+        }
     }
 
     static RtfParagraph::Alignment AlignmentOf(Qt::Alignment alignment)
@@ -216,6 +256,12 @@ private:
             style.height = RtfStyle::Height::Superscript;
         if (look.verticalAlignment() == QTextCharFormat::AlignSubScript)
             style.height = RtfStyle::Height::Subscript;
+        if (look.fontCapitalization() == QFont::AllUppercase)
+            style.capitals = RtfStyle::Capitals::All;
+        if (look.fontCapitalization() == QFont::SmallCaps)
+            style.capitals = RtfStyle::Capitals::Small;
+        if (look.fontLetterSpacingType() == QFont::AbsoluteSpacing)
+            style.letterSpacing = Twips(look.fontLetterSpacing());
         if (look.hasProperty(QTextFormat::ForegroundBrush) && look.foreground().color() != kInk)
             style.foreground = ToColour(look.foreground().color());
         if (look.hasProperty(QTextFormat::BackgroundBrush) &&

@@ -47,6 +47,18 @@ protected:
         QTest::mouseRelease(&object, Qt::LeftButton, {}, from + by);
     }
 
+    // The last twips that an object may reach: the surface has a margin of 80, and a pixel stays
+    // free.
+    int RightOfSurface() { return Object("DesignScreen").width() * 15 - 80 - 15; }
+    int BottomOfSurface() { return Object("DesignScreen").height() * 15 - 80 - 15; }
+
+    /// A move of the mouse with buttons down.
+    static void MoveHeld(QWidget& object, QPoint to, Qt::MouseButtons buttons)
+    {
+        QMouseEvent move(QEvent::MouseMove, to, object.mapToGlobal(to), Qt::NoButton, buttons, {});
+        QApplication::sendEvent(&object, &move);
+    }
+
     Project& project = session.project;
     std::unique_ptr<QTabWidget> tabs;
     DesignPage* page = nullptr;
@@ -176,6 +188,155 @@ TEST_F(DesignObjectsTest, MoveByTheArrowKeys)
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
 }
 
+TEST_F(DesignObjectsTest, FreePicturesFollowTheMouseAndStayInside)
+{
+    PutPicture("C:\\b.bmp", 60, 40);
+    for (section::DesPicture& picture : project.DesPictures.Pictures)
+        picture.PictureFilename = "C:\\b.bmp";
+    project.DesPictures.Pictures[2].StretchPicture = kOn;
+    Show();
+    Drag(Object("DesPicture0"), {37, 11});
+    EXPECT_EQ(project.DesPictures.Pictures[0].PictureXPos, 240 + 37 * 15);
+    EXPECT_EQ(project.DesPictures.Pictures[0].PictureYPos, 1140 + 11 * 15);
+    EXPECT_EQ(Object("DesPicture0").geometry(), QRect(53, 87, 60, 40));
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+    Drag(Object("DesPicture1"), {5000, 5000});
+    EXPECT_EQ(project.DesPictures.Pictures[1].PictureXPos, RightOfSurface() - 60 * 15);
+    EXPECT_EQ(project.DesPictures.Pictures[1].PictureYPos, BottomOfSurface() - 40 * 15);
+    Drag(Object("DesPicture2"), {-5000, -5000});
+    EXPECT_EQ(project.DesPictures.Pictures[2].PictureXPos, 80);
+    EXPECT_EQ(project.DesPictures.Pictures[2].PictureYPos, 95);
+    EXPECT_EQ(Object("DesPicture2").size(), QSize(200, 100));
+    EXPECT_TRUE(Object("DesPicture2").isVisible());
+}
+
+TEST_F(DesignObjectsTest, EscapeEndsADrag)
+{
+    project.DesTextBox.ShowTextBox = kOn;
+    Show();
+    QWidget& box = Object("DesTextBoxPic");
+    QTest::mousePress(&box, Qt::LeftButton, {}, {10, 10});
+    MoveHeld(box, {60, 60}, Qt::LeftButton);
+    EXPECT_TRUE(Object("DesDragRect").isVisible());
+    QTest::keyClick(&box, Qt::Key_Escape);
+    EXPECT_FALSE(Object("DesDragRect").isVisible());
+    EXPECT_EQ(box.cursor().shape(), Qt::ArrowCursor);
+    MoveHeld(box, {90, 90}, Qt::LeftButton);
+    QTest::mouseRelease(&box, Qt::LeftButton, {}, {90, 90});
+    EXPECT_EQ(project.DesTextBox.BoxXPos, 400);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(DesignObjectsTest, StandStillWhileASecondButtonIsDown)
+{
+    project.DesTextBox.ShowTextBox = kOn;
+    Show();
+    QWidget& box = Object("DesTextBoxPic");
+    QTest::mousePress(&box, Qt::LeftButton, {}, {10, 10});
+    MoveHeld(box, {60, 60}, Qt::LeftButton | Qt::RightButton);
+    QTest::mouseRelease(&box, Qt::RightButton, {}, {60, 60});
+    EXPECT_TRUE(Object("DesDragRect").isVisible());
+    QTest::mouseRelease(&box, Qt::LeftButton, {}, {60, 60});
+    EXPECT_EQ(project.DesTextBox.BoxXPos, 400) << "it was never dragged with one button";
+    QTest::mousePress(&box, Qt::RightButton, {}, {10, 10});
+    EXPECT_FALSE(Object("DesDragRect").isVisible());
+    QTest::mouseRelease(&box, Qt::RightButton, {}, {10, 10});
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(DesignObjectsTest, TheKeyboardStopsAtTheEdges)
+{
+    project.DesTextBox.ShowTextBox = kOn;
+    project.DesTextBox.BoxXPos = 80;
+    project.DesTextBox.BoxYPos = 95;
+    Show();
+    QWidget& box = Object("DesTextBoxPic");
+    box.setFocus();
+    for (const int key : {Qt::Key_Left, Qt::Key_Up}) {
+        QTest::keyClick(&box, Qt::Key(key));
+        QTest::keyClick(&box, Qt::Key(key), Qt::ShiftModifier);
+    }
+    EXPECT_EQ(project.DesTextBox.BoxXPos, 80);
+    EXPECT_EQ(project.DesTextBox.BoxYPos, 95);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff) << "nothing moved";
+    for (int i = 0; i < 100; ++i) {
+        QTest::keyClick(&box, Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClick(&box, Qt::Key_Down, Qt::ShiftModifier);
+    }
+    EXPECT_EQ(project.DesTextBox.BoxXPos, RightOfSurface() - 200 * 15);
+    EXPECT_EQ(project.DesTextBox.BoxYPos, BottomOfSurface() - 1485);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(DesignObjectsTest, CancelInAnEditorMovesNothing)
+{
+    project.DesTextBox.ShowTextBox = kOn;
+    project.DesTextBox.BoxPlaceBelowTitle = kOff;
+    Show();
+    // As a larger window would have left it.
+    project.DesTextBox.BoxXPos = 30000;
+    for (const int editor : {0, 1}) {
+        OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdCancel"); });
+        editor == 0 ? EditDesTitle(page->Screen()) : EditDesTextBox(page->Screen());
+        EXPECT_EQ(project.DesTextBox.BoxXPos, 30000) << editor;
+        EXPECT_EQ(session.state.ProjectIsDirty, kOff) << editor;
+    }
+    OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdOK"); });
+    EditDesTextBox(page->Screen());
+    EXPECT_LT(project.DesTextBox.BoxXPos, 30000);
+}
+
+TEST_F(DesignObjectsTest, AFontThatWasChosenIsShownBehindCancelToo)
+{
+    project.DesTextBox = {.BoxTitle = "Rubrik",
+                          .BoxText = "Text",
+                          .BoxTitleColor = 0,
+                          .BoxBackColor = 0xFFFFFF,
+                          .ShowTextBox = kOn,
+                          .BoxXPos = 400,
+                          .BoxYPos = 2950};
+    Show();
+    QWidget& box = Object("DesTextBoxPic");
+    const QImage before = box.grab().toImage();
+    ask.fonts = {FontChoice{.name = "Arial", .size = 20, .colour = 0x0000FF}};
+    OnNextDialog([](QDialog& dialog) {
+        Click(dialog, "cmdTitleFont");
+        Click(dialog, "cmdCancel");
+    });
+    EditDesTextBox(page->Screen());
+    EXPECT_NE(box.grab().toImage(), before);
+    QWidget& surface = Object("colorblendBackground");
+    const QImage title = surface.grab().toImage();
+    ask.fonts = {FontChoice{.name = "Arial", .size = 48}};
+    OnNextDialog([](QDialog& dialog) {
+        Click(dialog, "cmdTitleFont");
+        Click(dialog, "cmdCancel");
+    });
+    EditDesTitle(page->Screen());
+    EXPECT_NE(surface.grab().toImage(), title);
+}
+
+TEST_F(DesignObjectsTest, ATextBoxBelowTheTitleFollowsItsEditors)
+{
+    project.DesTextBox.ShowTextBox = kOn;
+    project.DesTextBox.BoxPlaceBelowTitle = kOn;
+    Show();
+    const Integer before = project.DesTextBox.BoxYPos;
+    OnNextDialog([](QDialog& dialog) {
+        Click(dialog, "oMistyUnderline");
+        Click(dialog, "OKButton");
+    });
+    EditDesUnderline(page->Screen());
+    EXPECT_GT(project.DesTextBox.BoxYPos, before);
+    EXPECT_EQ(Object("DesTextBoxPic").y(), PixelsOf(project.DesTextBox.BoxYPos, 15));
+}
+
+TEST_F(DesignObjectsTest, KnowTheHeightOfTheScreen)
+{
+    const DesignScreen& screen = Show();
+    EXPECT_EQ(screen.ScreenHeightInPixels(), tabs->screen()->size().height());
+}
+
 TEST_F(DesignObjectsTest, TheLogotypeStaysWhereItIs)
 {
     PutPicture("C:\\b.bmp", 60, 40);
@@ -237,8 +398,12 @@ TEST_F(DesignObjectsTest, ALogotypeAsLargeAsTheSurfaceIsRefused)
     ask.Expect({BoxKind::Critical, "Kan ej lägga in bilden"});
     project.DesLogotype.LogotypeFilename = "C:\\stor.bmp";
     Show();
-    EXPECT_EQ(project.DesLogotype.LogotypeFilename, "");
     EXPECT_FALSE(Object("DesLogotype").isVisible());
+    // The file may be right for a larger window; it is told once, and stays.
+    EXPECT_EQ(project.DesLogotype.LogotypeFilename, "C:\\stor.bmp");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    page->Screen().DrawDesAll();
+    EXPECT_EQ(page->Screen().PicturesMemory(), 0);
 }
 
 TEST_F(DesignObjectsTest, PicturesBehindADamagedOneAreNotLaidOut)

@@ -3,6 +3,7 @@
 
 #include "app/MainForm.h"
 #include "design/forms/ColorblendBackground.h"
+#include "design/forms/design_commands.h"
 #include "support/window_test.h"
 
 namespace quillon::test {
@@ -47,6 +48,21 @@ protected:
         picture.fill(QColor(kBluePixel));
         QPainter(&picture).fillRect(0, 0, width, height / 2, QColor(kRedPixel));
         return picture;
+    }
+
+    /// A metafile that draws nothing, of 100 x 50.
+    static std::string EmptyMetafile()
+    {
+        const auto words = [](std::initializer_list<int> numbers) {
+            std::string bytes;
+            for (const int number : numbers) {
+                bytes.push_back(static_cast<char>(number & 0xFF));
+                bytes.push_back(static_cast<char>(number >> 8 & 0xFF));
+            }
+            return bytes;
+        };
+        return words({1, 9, 0x300, 9 + 5 + 3, 0, 0, 5, 0, 0}) + words({5, 0, 0x020C, 50, 100}) +
+               words({3, 0, 0});
     }
 
     section::DesBackground& Background() { return session.project.DesBackground; }
@@ -132,24 +148,200 @@ TEST_F(DesignPageTest, PaintsAPictureInItsOwnSize)
 
 TEST_F(DesignPageTest, TellsOnceOfAPictureThatIsNoneAndKeepsItsName)
 {
+    DesignPage& page = Show();
     machine.files.Put("C:\\bild.bmp", "no picture at all");
-    ScriptedAsk user({{BoxKind::Critical, "Fel bildformat",
-                       "Filen som du valde är ej ett giltigt bildformat!"}});
-    Session own = NewSession(machine.host, user, "C:\\Quillon");
-    DesignPage page(own);
+    Background() = {.Type = 2,
+                    .BackColor1 = kRed,
+                    .BackColor2 = kBlue,
+                    .BlendDirection = 1,
+                    .PictureFilename = "C:\\bild.bmp"};
+    const ExpectedBox told{BoxKind::Critical, "Fel bildformat",
+                           "Filen som du valde är ej ett giltigt bildformat!"};
+    ask.Expect(told);
     page.ShowSession();
-    own.project.DesBackground.Type = 2;
-    own.project.DesBackground.BackColor1 = kRed;
-    own.project.DesBackground.PictureFilename = "C:\\bild.bmp";
     page.ShowSession();
+    page.Screen().DrawDesBackground();
+    EXPECT_EQ(Background().PictureFilename, "C:\\bild.bmp");
+    EXPECT_EQ(Background().Type, 2);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    // What the setup paints without a picture.
+    const QImage shown = Shown();
+    EXPECT_EQ(shown.pixel(0, 0), kRedPixel);
+    EXPECT_EQ(shown.pixel(shown.width() - 1, 0), kBluePixel);
+    // Each project that is opened is told of, the same one too.
+    ask.Expect(told);
+    page.BeginProject();
     page.ShowSession();
-    EXPECT_EQ(own.project.DesBackground.PictureFilename, "C:\\bild.bmp");
-    EXPECT_EQ(own.project.DesBackground.Type, 2);
-    EXPECT_EQ(own.state.ProjectIsDirty, kOff);
-    // Kept: the rest of the step is not done, so the colours are those of before.
-    auto& surface = Find<QWidget>(page, "colorblendBackground");
-    surface.resize(10, 10);
-    EXPECT_EQ(surface.grab().toImage().pixel(0, 0), kBluePixel);
+    page.Screen().DrawDesAll();
+    // One that is whole again in between is told of when it fails anew.
+    PutPicture("C:\\bild.bmp", TwoColours(4, 4));
+    page.Screen().DrawDesBackground();
+    machine.files.Put("C:\\bild.bmp", "no picture at all");
+    ask.Expect(told);
+    page.Screen().DrawDesBackground();
+}
+
+TEST_F(DesignPageTest, TellsAgainOfAPictureThatTheUserSetsAnew)
+{
+    machine.files.Put("C:\\bild.bmp", "no picture at all");
+    Background() = {.Type = 2, .PictureFilename = "C:\\bild.bmp"};
+    session.project.DesPictures.Pictures[0].PictureFilename = "C:\\bild.bmp";
+    session.project.DesLogotype.LogotypeFilename = "C:\\bild.bmp";
+    const ExpectedBox told{BoxKind::Critical, "Fel bildformat"};
+    for (int i = 0; i < 3; ++i)
+        ask.Expect(told);
+    DesignPage& page = Show();
+    QTest::qWait(0);
+    const std::function<void()> editors[] = {
+        [&] { EditDesBackground(page.Screen()); },
+        [&] { EditDesPictures(page.Screen(), 0); },
+        [&] { EditDesLogotype(page.Screen()); },
+    };
+    for (const auto& edit : editors) {
+        OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdCancel"); });
+        edit();
+        ask.Expect(told);
+        OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdOK"); });
+        edit();
+        page.Screen().DrawDesAll();
+    }
+    EXPECT_EQ(session.project.DesLogotype.LogotypeFilename, "C:\\bild.bmp");
+}
+
+TEST_F(DesignPageTest, ShowsTheColourBehindAMetafileThatTheSetupShows)
+{
+    Background() = {.Type = 2,
+                    .BackColor1 = kRed,
+                    .BackColor2 = kBlue,
+                    .BlendDirection = 4,
+                    .PictureFilename = "C:\\borta.bmp"};
+    machine.files.Put("C:\\l.wmf", EmptyMetafile());
+    session.project.DesLogotype = {
+        .LogotypeFilename = "C:\\l.wmf", .LogotypeWMFWidth = 60, .LogotypeWMFHeight = 40};
+    DesignPage& page = Show();
+    QTest::qWait(0);
+    auto& logotype = Find<QWidget>(*tabs, "DesLogotype");
+    const auto shown = [&] { return PixelAt(logotype.grab().toImage(), {5, 5}); };
+    EXPECT_TRUE(logotype.isVisible());
+    EXPECT_EQ(shown(), kRedPixel) << "a picture is wanted, so it is the first colour";
+    Background().Type = 1;
+    page.Screen().DrawDesAll();
+    EXPECT_EQ(shown(), kBluePixel);
+    Background().BackColor2 = 0;
+    page.Screen().DrawDesAll();
+    EXPECT_EQ(shown(), qRgb(0x1F, 0x1F, 0x1F));
+    // Kept: the editor's OK shows the second colour of the record, also of a single colour.
+    Background().BackColor2 = kBlue;
+    Background().BlendDirection = 0;
+    OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdOK"); });
+    EditDesBackground(page.Screen());
+    EXPECT_EQ(shown(), kBluePixel);
+    page.Screen().DrawDesAll();
+    EXPECT_EQ(shown(), kRedPixel);
+}
+
+TEST_F(DesignPageTest, KeepsOfItsPicturesNoMoreThanItShows)
+{
+    PutPicture("C:\\stor.bmp", TwoColours(1500, 1400));
+    Background() = {.Type = 2, .PictureFilename = "C:\\stor.bmp", .StretchPicture = kOn};
+    for (section::DesPicture& picture : session.project.DesPictures.Pictures) {
+        picture.PictureFilename = "C:\\stor.bmp";
+        picture.StretchPicture = kOn;
+    }
+    DesignPage& page = Show();
+    QTest::qWait(0);
+    const double ratio = page.devicePixelRatioF() * page.devicePixelRatioF();
+    const QSize screen = page.screen()->virtualSize().expandedTo(Surface().size());
+    const auto most = static_cast<std::int64_t>(
+        (double(screen.width()) * screen.height() + 3.0 * 200 * 100) * 4 * ratio);
+    EXPECT_LE(page.Screen().PicturesMemory(), most);
+    EXPECT_GT(page.Screen().PicturesMemory(), 3 * 200 * 100 * 4);
+    // An emptied slot keeps nothing.
+    for (section::DesPicture& picture : session.project.DesPictures.Pictures)
+        picture.PictureFilename.clear();
+    Background().Type = 1;
+    page.Screen().DrawDesAll();
+    EXPECT_EQ(page.Screen().PicturesMemory(), 0);
+}
+
+TEST_F(DesignPageTest, KeepsNothingOfALogotypeThatIsTakenAway)
+{
+    PutPicture("C:\\l.bmp", TwoColours(60, 40));
+    session.project.DesLogotype.LogotypeFilename = "C:\\l.bmp";
+    DesignPage& page = Show();
+    QTest::qWait(0);
+    EXPECT_EQ(page.Screen().PicturesMemory(), 60 * 40 * 4);
+    session.project.DesLogotype.LogotypeFilename.clear();
+    page.Screen().DrawDesLogotype();
+    EXPECT_EQ(page.Screen().PicturesMemory(), 0);
+}
+
+TEST_F(DesignPageTest, ShowsTheMiddleOfAPictureLargerThanTheSurface)
+{
+    PutPicture("C:\\stor.bmp", TwoColours(3000, 3000));
+    Background() = {.Type = 2, .PictureFilename = "C:\\stor.bmp", .StretchPicture = kOff};
+    DesignPage& page = Show();
+    const QImage shown = Shown();
+    const QPoint middle = Surface().rect().center();
+    EXPECT_EQ(PixelAt(shown, {0, 0}), kRedPixel);
+    EXPECT_EQ(PixelAt(shown, middle - QPoint(0, 5)), kRedPixel);
+    EXPECT_EQ(PixelAt(shown, middle + QPoint(0, 5)), kBluePixel);
+    EXPECT_LT(page.Screen().PicturesMemory(), 3000 * 3000 * 4);
+}
+
+TEST_F(DesignPageTest, MovesObjectsInsideTheSurfaceWhenAProjectIsOpenedBehindAnotherTab)
+{
+    const auto put = [&] {
+        Project& project = session.project;
+        project.DesTextBox = {.ShowTextBox = kOn, .BoxXPos = 30000, .BoxYPos = 80};
+        project.DesRTFbox.RTFboxXPos = -500;
+        project.DesPictures.Pictures[0].PictureYPos = 30000;
+        project.DesPicturesAnim.PictureXPos = 30000;
+    };
+    const auto places = [&] {
+        const Project& project = session.project;
+        return std::vector<int>{
+            project.DesTextBox.BoxXPos, project.DesTextBox.BoxYPos, project.DesRTFbox.RTFboxXPos,
+            project.DesPictures.Pictures[0].PictureYPos, project.DesPicturesAnim.PictureXPos};
+    };
+    MainForm form(session);
+    form.resize(800, 600);
+    ShowActive(form);
+    ASSERT_EQ(form.SelectedTab(), Tab::Files);
+    put();
+    form.ShowProject();
+    const auto behind = places();
+    const QSize page = Find<QWidget>(form, "DesignScreen").size();
+    EXPECT_EQ(behind[0], page.width() * 15 - 80 - 15 - 200 * 15);
+    EXPECT_EQ(behind[1], 95);
+    EXPECT_EQ(behind[2], 80);
+    EXPECT_EQ(behind[3], page.height() * 15 - 80 - 15);
+    EXPECT_EQ(behind[4], 30000) << "these are not moved";
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    EXPECT_FALSE(Find<QWidget>(form, "DesTextBoxPic").isVisible());
+    // Looking at it changes nothing any more, and it is the same where it is in front.
+    form.SelectTab(Tab::Design);
+    QTest::qWait(0);
+    EXPECT_EQ(places(), behind);
+    EXPECT_TRUE(Find<QWidget>(form, "DesTextBoxPic").isVisible());
+    put();
+    form.ShowProject();
+    EXPECT_EQ(places(), behind);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+    EXPECT_FALSE(form.Edits().UndoName()) << "laying out is no step of the user's";
+}
+
+TEST_F(DesignPageTest, LaysAProjectOutOnceItsWindowIsSeen)
+{
+    MainForm form(session);
+    form.resize(800, 600);
+    session.project.DesRTFbox.RTFboxXPos = 30000;
+    form.ShowProject();
+    EXPECT_EQ(session.project.DesRTFbox.RTFboxXPos, 30000) << "the window has no size yet";
+    ShowActive(form);
+    QTest::qWait(0);
+    EXPECT_EQ(session.project.DesRTFbox.RTFboxXPos,
+              Find<QWidget>(form, "DesignScreen").width() * 15 - 80 - 15 - 200 * 15);
 }
 
 TEST_F(DesignPageTest, AMissingPictureStaysInTheProjectWithoutAWord)
@@ -200,6 +392,7 @@ TEST_F(DesignPageTest, DrawsAnewWhenTheTabIsChosen)
     ShowActive(form);
     Background().BackColor1 = kRed;
     form.SelectTab(Tab::Design);
+    QApplication::processEvents();
     auto& surface = Find<QWidget>(form, "colorblendBackground");
     EXPECT_EQ(surface.grab().toImage().pixel(0, 0), kRedPixel);
 }

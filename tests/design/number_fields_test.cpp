@@ -26,6 +26,9 @@ TEST(CheckedCharInterSpace, StaysBetweenMinus10And100)
     ExpectAll(
         {{"", "0"}, {"-11", "-10"}, {"-10", "-10"}, {"101", "100"}, {"100", "100"}, {"7", "7"}},
         CheckedCharInterSpace);
+    // What is no number is none, and what stands behind one is dropped.
+    ExpectAll({{"abc", "0"}, {"60abc", "60"}, {"-3x", "-3"}, {"-", "0"}, {"007", "7"}},
+              CheckedCharInterSpace);
 }
 
 TEST(CheckedUnderlineHeight, DependsOnTheKind)
@@ -34,6 +37,7 @@ TEST(CheckedUnderlineHeight, DependsOnTheKind)
          {UnderlineKind::None, UnderlineKind::Simple, UnderlineKind::Blended})
         ExpectAll({{"", "3"}, {"0", "3"}, {"3", "3"}, {"4", "4"}, {"50", "50"}, {"51", "50"}},
                   [=](const Text& entry) { return CheckedUnderlineHeight(entry, kind); });
+    EXPECT_EQ(CheckedUnderlineHeight("12px", UnderlineKind::Simple), "12");
     ExpectAll({{"", "3"}, {"3", "10"}, {"9", "10"}, {"10", "10"}, {"50", "50"}, {"51", "50"}},
               [](const Text& e) { return CheckedUnderlineHeight(e, UnderlineKind::Misty); });
 }
@@ -86,7 +90,13 @@ TEST(CheckedRTFboxWidth, IsLimitedByTheSurfaceAlone)
 
 TEST(CheckedPictureSize, StaysBetween10And2000)
 {
-    ExpectAll({{"", "10"}, {"9", "10"}, {"10", "10"}, {"2000", "2000"}, {"2001", "2000"}},
+    ExpectAll({{"", "10"},
+               {"9", "10"},
+               {"10", "10"},
+               {"2000", "2000"},
+               {"2001", "2000"},
+               {"60abc", "60"},
+               {"abc", "10"}},
               CheckedPictureSize);
 }
 
@@ -98,7 +108,13 @@ TEST(CheckedIntervalSeconds, IsAtLeastOneAndFitsTheRecord)
 
 TEST(CheckedLogotypeSize, FallsBackToTheDefault)
 {
-    ExpectAll({{"", "50"}, {"0", "50"}, {"1", "1"}, {"600", "600"}, {"601", "50"}, {"x", "50"}},
+    ExpectAll({{"", "50"},
+               {"0", "50"},
+               {"1", "1"},
+               {"600", "600"},
+               {"601", "50"},
+               {"x", "50"},
+               {"60x", "60"}},
               CheckedLogotypeWMFHeight);
     ExpectAll({{"", "100"}, {"0", "100"}, {"1", "1"}, {"800", "800"}, {"801", "100"}},
               CheckedLogotypeWMFWidth);

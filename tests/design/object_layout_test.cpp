@@ -196,6 +196,33 @@ TEST_F(Pictures, OfTheProjectBeforeAreNotShownBehindOneThatCantBeRead)
         EXPECT_FALSE(box.isVisible);
 }
 
+TEST_F(Pictures, TakenAwayLeaveNoSizeBehind)
+{
+    record_.Pictures[0] = {.PictureFilename = "a.bmp", .PictureXPos = 6000, .PictureYPos = 1140};
+    LayOut(Measures(100, 100));
+    EXPECT_EQ(record_.Pictures[0].PictureXPos, 6000);
+    record_.Pictures[0] = {.PictureFilename = "", .PictureXPos = 9000, .PictureYPos = 1140};
+    LayOut(Measures(1, 1));
+    EXPECT_EQ(boxes_[0].place.Width, 0);
+    EXPECT_EQ(record_.Pictures[0].PictureXPos, 9000);
+}
+
+TEST_F(Pictures, HaveTheSameBoxWhateverTheOthersAre)
+{
+    for (section::DesPicture& picture : record_.Pictures)
+        picture.PictureFilename = "x.bmp";
+    record_.Pictures[1].StretchPicture = kOn;
+    PictureBoxes alone;
+    for (std::size_t i = 0; i < alone.size(); ++i)
+        alone[i] = BoxOfPicture(record_, i, {700, 50}, surface_, kScreen);
+    LayOut(Measures(700, 50));
+    for (std::size_t i = 0; i < alone.size(); ++i) {
+        EXPECT_EQ(alone[i].place, boxes_[i].place) << i;
+        EXPECT_EQ(alone[i].isStretched, boxes_[i].isStretched) << i;
+        EXPECT_TRUE(alone[i].isVisible) << i;
+    }
+}
+
 TEST_F(Pictures, AreMovedInsideASurfaceWhoseEdgesAreMadeWholeFirst)
 {
     surface_ = {.Left = -5, .Top = -6, .Width = -7, .Height = -8};
@@ -218,9 +245,9 @@ TEST(LayOutPicturesAnim, ShowsTheRectangleOnlyWithPictures)
 
 class Logotype : public testing::Test {
 protected:
-    LogotypeBox LayOut(const MeasurePicture& measure, ScriptedAsk& ask)
+    LogotypeBox LayOut(const MeasurePicture& measure) const
     {
-        return LayOutLogotype(record_, surround_, measure, ask);
+        return LayOutLogotype(record_, surround_, measure);
     }
 
     section::DesLogotype record_{.LogotypeFilename = "c:\\firma.bmp"};
@@ -229,75 +256,98 @@ protected:
 
 TEST_F(Logotype, StandsInALowerCorner)
 {
-    ScriptedAsk ask;
-    const LogotypeBox right = LayOut(Measures(100, 40), ask);
+    const LogotypeBox right = LayOut(Measures(100, 40));
     EXPECT_TRUE(right.isVisible);
     EXPECT_FALSE(right.isMetafile);
     EXPECT_EQ(right.place, (SurfacePlace{9160 - 1500 - 380, 6000 - 600 - 200, 1500, 600}));
     record_.LogotypeAlignment = 1;
-    EXPECT_EQ(LayOut(Measures(100, 40), ask).place.Left, 380);
+    EXPECT_EQ(LayOut(Measures(100, 40)).place.Left, 380);
     record_.LogotypeAlignment = 2; // never set, and then as good as right
-    EXPECT_EQ(LayOut(Measures(100, 40), ask).place.Left, 7280);
+    EXPECT_EQ(LayOut(Measures(100, 40)).place.Left, 7280);
 }
 
 TEST_F(Logotype, OnTheRightFollowsTheTabAndNotTheSurface)
 {
-    ScriptedAsk ask;
     surround_.surface.Width = 5000;
-    EXPECT_EQ(LayOut(Measures(100, 40), ask).place.Left, 7280);
+    EXPECT_EQ(LayOut(Measures(100, 40)).place.Left, 7280);
 }
 
 TEST_F(Logotype, WithoutAFileIsHidden)
 {
-    ScriptedAsk ask;
     record_.LogotypeFilename.clear();
-    EXPECT_FALSE(LayOut(Measures(1, 1), ask).isVisible);
+    EXPECT_FALSE(LayOut(Measures(1, 1)).isVisible);
 }
 
 TEST_F(Logotype, OfAMetafileTakesTheSizeOfTheRecord)
 {
-    ScriptedAsk ask;
     record_.LogotypeFilename = "C:\\FIRMA.WMF.gammal";
-    const LogotypeBox box = LayOut(Measures(4000, 4000), ask);
+    const LogotypeBox box = LayOut(Measures(4000, 4000));
     EXPECT_TRUE(box.isMetafile);
     EXPECT_EQ(box.place.Width, 3000);
     EXPECT_EQ(box.place.Height, 750);
 }
 
-TEST_F(Logotype, AsLargeAsTheSurfaceIsRefused)
+TEST_F(Logotype, AsLargeAsTheSurfaceIsHiddenAndKeepsItsName)
 {
     for (const PixelSize size : {PixelSize{600, 10}, PixelSize{10, 400}}) {
-        record_.LogotypeFilename = "stor.bmp";
-        ScriptedAsk ask(
-            {{BoxKind::Critical, "Kan ej lägga in bilden",
-              "Logotype-bildens bredd och höjd är för stor! Välj en bild som har mindre "
-              "dimensioner. Logotype-bildens mått får inte vara större än design-editorns "
-              "fönster."}});
-        const LogotypeBox box = LayOut(Measures(size.width, size.height), ask);
+        const LogotypeBox box = LayOut(Measures(size.width, size.height));
+        EXPECT_TRUE(box.isTooLarge);
         EXPECT_FALSE(box.isVisible);
         EXPECT_EQ(box.place.Width, 10);
         EXPECT_EQ(box.place.Height, 10);
-        EXPECT_EQ(record_.LogotypeFilename, "");
     }
-    record_.LogotypeFilename = "stor.bmp";
-    ScriptedAsk ask;
-    EXPECT_TRUE(LayOut(Measures(599, 399), ask).isVisible);
+    EXPECT_EQ(record_.LogotypeFilename, "c:\\firma.bmp");
+    const LogotypeBox fits = LayOut(Measures(599, 399));
+    EXPECT_TRUE(fits.isVisible);
+    EXPECT_FALSE(fits.isTooLarge);
+}
+
+TEST(TellLogotypeTooLarge, HasItsWords)
+{
+    ScriptedAsk ask({{BoxKind::Critical, "Kan ej lägga in bilden",
+                      "Logotype-bildens bredd och höjd är för stor! Välj en bild som har mindre "
+                      "dimensioner. Logotype-bildens mått får inte vara större än design-editorns "
+                      "fönster."}});
+    TellLogotypeTooLarge(ask);
 }
 
 TEST_F(Logotype, ThatCantBeReadIsAFailureForTheCaller)
 {
-    ScriptedAsk ask;
     const auto fails = [](const Text&) -> PixelSize { throw RunError(kInvalidPicture); };
-    EXPECT_EQ(RunErrorNumber([&] { LayOut(fails, ask); }), kInvalidPicture);
+    EXPECT_EQ(RunErrorNumber([&] { LayOut(fails); }), kInvalidPicture);
     EXPECT_EQ(record_.LogotypeFilename, "c:\\firma.bmp");
 }
 
 TEST(LogotypeBackColor, IsTheBlendsSecondColourButNeverBlack)
 {
-    EXPECT_EQ(LogotypeBackColor({.ColorFrom = 1, .ColorTo = 2}), 2);
-    EXPECT_EQ(LogotypeBackColor({.ColorFrom = 1, .ColorTo = 0}), 2039583);
-    // Behind a picture it is the first one, whatever that is.
-    EXPECT_EQ(LogotypeBackColor({.UsePicture = true, .ColorFrom = 0, .ColorTo = 2}), 0);
+    EXPECT_EQ(LogotypeBackColor(1, 2, false), 2);
+    EXPECT_EQ(LogotypeBackColor(1, 0, false), 2039583);
+    // On a picture it is the first one, whatever that is.
+    EXPECT_EQ(LogotypeBackColor(0, 2, true), 0);
+}
+
+TEST_F(Logotype, OnAPictureHasTheFirstColourAlsoWhereThePictureCantBeShown)
+{
+    record_.LogotypeFilename = "a.wmf";
+    surround_.paint.ColorFrom = 7;
+    surround_.paint.ColorTo = 9;
+    EXPECT_EQ(LayOut(Measures(1, 1)).BackColor, 9);
+    surround_.isOnPicture = true;
+    EXPECT_EQ(LayOut(Measures(1, 1)).BackColor, 7);
+}
+
+TEST(IsOnPicture, IsAMatterOfOneNumber)
+{
+    EXPECT_FALSE(IsOnPicture({.Type = 1}));
+    EXPECT_TRUE(IsOnPicture({.Type = 2}));
+    EXPECT_FALSE(IsOnPicture({.Type = 3}));
+}
+
+TEST(ScreenHeightInPixels, RoundsAHalfToTheEvenNeighbour)
+{
+    EXPECT_EQ(ScreenHeightInPixels(16200, kScreen), 1080);
+    EXPECT_EQ(ScreenHeightInPixels(37, {.TPPX = 10, .TPPY = 10}), 4);
+    EXPECT_EQ(ScreenHeightInPixels(25, {.TPPX = 10, .TPPY = 10}), 2);
 }
 
 class TextBox : public testing::Test {

@@ -84,6 +84,9 @@ TEST(ProposedRTFfilename, IsTheProjectsNameWithRtf)
     EXPECT_EQ(ProposedRTFfilename("C:\\Projekt\\Demo.qnp"), "Demo.rtf");
     EXPECT_EQ(ProposedRTFfilename("C:\\Projekt\\Demo.QNP"), "Demo.rtf");
     EXPECT_EQ(ProposedRTFfilename("noname"), "rtf");
+    EXPECT_EQ(ProposedRTFfilename(""), "rtf");
+    EXPECT_EQ(ProposedRTFfilename("C:\\arkiv.qnp\\Demo.qnp"), "Demo.rtf");
+    EXPECT_EQ(ProposedRTFfilename("C:\\P\\a.qnp.kopia.qnp"), "a.qnp.kopia.rtf");
 }
 
 TEST(StoredRTFfilename, EndsInRtf)

@@ -92,6 +92,82 @@ TEST(ScalablePicture, LosesOneColour)
     EXPECT_THAT(picture.InSize(4, 4, letters).pixels, Each(0U));
 }
 
+TEST(ScalablePicture, KeepsOnlyWhatIsShown)
+{
+    BlockLetters letters;
+    const ScalablePicture whole(Ramp(400, 300));
+    ScalablePicture kept(Ramp(400, 300));
+    whole.InSize(40, 25, letters);
+    EXPECT_GT(whole.Memory(), 400 * 300 * 4);
+    kept.KeepOnly(40, 25);
+    EXPECT_EQ(kept.Memory(), 40 * 25 * 4);
+    EXPECT_EQ(kept.Width(), 400);
+    EXPECT_EQ(kept.Height(), 300);
+    EXPECT_EQ(kept.InSize(40, 25, letters).pixels, whole.InSize(40, 25, letters).pixels);
+    EXPECT_EQ(kept.Memory(), 40 * 25 * 4);
+    // Never more than there is, and never nothing.
+    kept.KeepOnly(800, 600);
+    kept.KeepOnly(0, 25);
+    EXPECT_EQ(kept.Memory(), 40 * 25 * 4);
+    EXPECT_EQ(kept.InSize(80, 50, letters).width, 80);
+}
+
+TEST(ScalablePicture, ForgetsOtherSizesOnceOneIsKept)
+{
+    BlockLetters letters;
+    ScalablePicture picture(Ramp(400, 300));
+    picture.InSize(40, 25, letters);
+    picture.KeepOnly(400, 300);
+    picture.InSize(400, 300, letters);
+    EXPECT_EQ(picture.Memory(), 400 * 300 * 4 + 40 * 25 * 4);
+}
+
+TEST(ScalablePicture, IsCutToAPart)
+{
+    BlockLetters letters;
+    ScalablePicture picture(Ramp(100, 50));
+    picture.Crop({10, 5, 30, 25});
+    EXPECT_EQ(picture.Width(), 20);
+    EXPECT_EQ(picture.Height(), 20);
+    EXPECT_EQ(picture.Memory(), 20 * 20 * 4);
+    const Picture& part = picture.InSize(20, 20, letters);
+    EXPECT_EQ(part.pixels[0], Ramp(100, 50).pixels[10]);
+    EXPECT_EQ(part.pixels[19], Ramp(100, 50).pixels[29]);
+    // A part that lies outside changes nothing.
+    picture.Crop({30, 0, 40, 10});
+    EXPECT_EQ(picture.Width(), 20);
+}
+
+TEST(ScalablePicture, IsCutWhereFewerPixelsAreKeptToo)
+{
+    ScalablePicture picture(400, 200, Ramp(100, 50));
+    picture.Crop({200, 0, 400, 100});
+    EXPECT_EQ(picture.Width(), 200);
+    EXPECT_EQ(picture.Height(), 100);
+    EXPECT_EQ(picture.Memory(), 50 * 25 * 4);
+}
+
+TEST(ScalablePicture, OfADrawingStaysWholeAndNeverOutgrowsAScreen)
+{
+    BlockLetters letters;
+    int drawn = 0;
+    ScalablePicture picture(
+        30'000, 30'000,
+        [&](int width, int height, Letters&) {
+            ++drawn;
+            return Filled(width, height, 0xFF000000);
+        },
+        1234);
+    picture.KeepOnly(10, 10);
+    picture.Crop({0, 0, 5, 5});
+    EXPECT_EQ(picture.Width(), 30'000);
+    EXPECT_EQ(picture.Memory(), 1234);
+    EXPECT_TRUE(picture.InSize(30'000, 30'000, letters).IsEmpty());
+    EXPECT_EQ(drawn, 0);
+    EXPECT_EQ(picture.InSize(100, 100, letters).width, 100);
+    EXPECT_EQ(picture.Memory(), 1234 + 100 * 100 * 4);
+}
+
 TEST(ScalablePicture, IsDrawnAnewInEachSize)
 {
     BlockLetters letters;

@@ -129,6 +129,73 @@ TEST_F(ScreenTest, PaintsNoLogotypeAsLargeAsTheSurface)
     EXPECT_EQ(At(30, 455), kRed);
 }
 
+TEST_F(ScreenTest, PaintsTheBlendAndTheFirstColourWhereTheBackgroundsPictureIsMissing)
+{
+    project.DesBackground = {.Type = 2,
+                             .BackColor1 = 0x00FF00,
+                             .BackColor2 = 0x0000FF,
+                             .BlendDirection = 1,
+                             .PictureFilename = "borta.bmp"};
+    project.DesLogotype = {.LogotypeFilename = "a.wmf",
+                           .LogotypeAlignment = 1,
+                           .LogotypeWMFWidth = 60,
+                           .LogotypeWMFHeight = 10};
+    pictures.logotype = ScalablePicture(
+        60, 10, [](int width, int height, Letters&) { return Filled(width, height, 0); });
+    EXPECT_EQ(At(0, 0), kGreen);
+    EXPECT_EQ(At(639, 0), kRed);
+    EXPECT_EQ(At(30, 455), kGreen) << "behind the metafile";
+    project.DesBackground.Type = 1;
+    EXPECT_EQ(At(30, 455), kRed);
+}
+
+TEST_F(ScreenTest, PaintsTheSameOfWhatIsKeptOfLargePictures)
+{
+    const auto colourful = [](int width, int height) {
+        Picture picture{width, height, {}};
+        for (int i = 0; i < width * height; ++i)
+            picture.pixels.push_back(0xFF000000 | Pixel(i * 2654435761U) >> 8);
+        return picture;
+    };
+    project.DesBackground = {.Type = 2, .BackColor1 = 0x00FF00, .PictureFilename = "b"};
+    project.DesPicturesAnim = {.NrAnimPictures = 1,
+                               .PictureWidth = 120,
+                               .PictureHeight = 60,
+                               .PictureXPos = 80 + 15 * 300,
+                               .PictureYPos = 80 + 15 * 300};
+    project.DesLogotype = {.LogotypeFilename = "l", .LogotypeAlignment = 1};
+    for (std::size_t i = 0; i < 3; ++i)
+        PutPicture(i, 40 * int(i), 60 * int(i));
+    project.DesPictures.Pictures[1].StretchPicture = kOn;
+    for (const Flag stretched : {kOn, kOff}) {
+        project.DesBackground.StretchPicture = stretched;
+        project.DesPicturesAnim.StretchPicture = stretched;
+        pictures.background = colourful(1501, 1100);
+        pictures.pictures[0] = colourful(900, 700); // larger than the surface
+        pictures.pictures[1] = colourful(800, 300);
+        pictures.pictures[2] = colourful(50, 40);
+        pictures.changing = colourful(1700, 900);
+        pictures.logotype = colourful(90, 30);
+        const std::vector<Pixel> whole = Painted(640, 480, Design());
+        KeepOnlyShown(pictures, Design(), 640, 480);
+        EXPECT_TRUE(Painted(640, 480, Design()) == whole) << stretched;
+        std::int64_t memory =
+            pictures.background.Memory() + pictures.changing.Memory() + pictures.logotype.Memory();
+        for (const ScalablePicture& picture : pictures.pictures)
+            memory += picture.Memory();
+        // The background and the first picture fill the screen; the others are small.
+        EXPECT_LT(memory, 640 * 480 * 4 * 5 / 2) << stretched;
+    }
+}
+
+TEST_F(ScreenTest, KeepsNothingOfALogotypeThatIsTooLarge)
+{
+    project.DesLogotype = {.LogotypeFilename = "a", .LogotypeAlignment = 1};
+    pictures.logotype = Filled(640, 10, kRed);
+    KeepOnlyShown(pictures, Design(), 640, 480);
+    EXPECT_EQ(pictures.logotype.Memory(), 0);
+}
+
 TEST_F(ScreenTest, CutsTheChangingPicturesAtTheirRectangle)
 {
     project.DesPicturesAnim = {.NrAnimPictures = 1,

@@ -40,6 +40,10 @@ inline Text Dump(const RtfStyle& style)
         words.push_back("st");
     if (style.height != RtfStyle::Height::Normal)
         words.push_back(style.height == RtfStyle::Height::Superscript ? "up" : "dn");
+    if (style.capitals != RtfStyle::Capitals::AsWritten)
+        words.push_back(style.capitals == RtfStyle::Capitals::All ? "caps" : "scaps");
+    if (style.letterSpacing != 0)
+        words.push_back("ex" + NumberText(style.letterSpacing));
     if (style.halfPoints != 24)
         words.push_back(NumberText(style.halfPoints));
     if (style.foreground != kNoColour)
@@ -64,6 +68,7 @@ inline Text DumpShape(const RtfParagraph& paragraph)
     add("ri", paragraph.rightIndent);
     add("sb", paragraph.spaceBefore);
     add("sa", paragraph.spaceAfter);
+    add(paragraph.isLineSpacingMultiple ? "slm" : "sl", paragraph.lineSpacing);
     for (const int tab : paragraph.tabs)
         add("tx", tab);
     return words.empty() ? Text() : Joined(words, "<", ">");

@@ -87,12 +87,27 @@ TEST(WriteRtf, OfNothingIsAWholeFile)
     EXPECT_EQ(read->fault, RtfText::Fault::None);
 }
 
-TEST(RtfLosses, NamesWhatIsPassedOver)
+TEST(WriteRtf, KeepsCapitalsSpacesAndHeights)
 {
-    EXPECT_THAT(RtfLosses("{\\rtf1 {\\pict x}\\trowd\\cell{\\field a}}"),
-                ElementsAre("bilder", "tabeller", "fält och länkar"));
-    EXPECT_THAT(RtfLosses("{\\rtf1 \\picture \\\\pict}"), IsEmpty());
-    EXPECT_THAT(RtfLosses(WriteRtf(Sample())), IsEmpty());
+    for (const int spacing : {360, -300, 0})
+        for (const bool isMultiple : {true, false})
+            for (const auto capitals : {RtfStyle::Capitals::All, RtfStyle::Capitals::Small}) {
+                RtfText text;
+                text.paragraphs = {
+                    {.lineSpacing = spacing,
+                     .isLineSpacingMultiple = isMultiple && spacing > 0,
+                     .runs = {{"a", {.capitals = capitals, .letterSpacing = -15}}, {"b", {}}}}};
+                const auto read = ReadRtf(WriteRtf(text));
+                ASSERT_TRUE(read);
+                const RtfParagraph& paragraph = read->paragraphs.at(0);
+                EXPECT_EQ(paragraph.lineSpacing, spacing);
+                EXPECT_EQ(paragraph.isLineSpacingMultiple, isMultiple && spacing > 0);
+                ASSERT_EQ(paragraph.runs.size(), 2U);
+                EXPECT_EQ(paragraph.runs[0].style.capitals, capitals);
+                EXPECT_EQ(paragraph.runs[0].style.letterSpacing, -15);
+                EXPECT_EQ(paragraph.runs[1].style.capitals, RtfStyle::Capitals::AsWritten);
+                EXPECT_EQ(paragraph.runs[1].style.letterSpacing, 0);
+            }
 }
 
 } // namespace

@@ -18,6 +18,9 @@ public:
     void ShowTitle(const section::DesTitle& title, const section::DesTitleUnderline& underline,
                    const section::DesSubTitle& subTitle);
 
+    /// What is kept of the picture, in bytes.
+    std::int64_t PictureMemory() const { return picture_.Memory(); }
+
     /// The pixel row below the title block.
     int TitleBottom() const;
 

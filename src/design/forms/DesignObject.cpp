@@ -149,7 +149,10 @@ bool DesignObject::MoveByKey(int key, Qt::KeyboardModifiers modifiers)
     default:
         return false;
     }
-    onMoved_(place);
+    // At the edge of the surface nothing moves, and nothing is changed.
+    const SurfacePlace inside = ClampDesPlace(place, surround_.surface(), surround_.screen);
+    if (inside != place_)
+        onMoved_(inside);
     return true;
 }
 

@@ -153,21 +153,33 @@ void DesignScreen::DrawDesBackground()
     section::DesBackground& background = session_.project.DesBackground;
     paint_.UsePicture = background.Type != 1;
     paint_.StretchPicture = background.StretchPicture != kOff;
-    ScalablePicture picture;
-    if (paint_.UsePicture) {
-        try {
-            MeasureAndKeep(background.PictureFilename, picture);
-        } catch (const RunError& error) {
-            // The name stays in the record: the file may only be missing on this machine.
-            TellPictureError(error);
-            paint_.UsePicture = false;
-            // Kept: the colours stay those that were painted last.
-            colorblendBackground_->Show(paint_);
-            return;
-        }
-    }
     SetBlend(paint_, background);
-    colorblendBackground_->Show(paint_, std::move(picture));
+    // Frees the picture that was shown.
+    colorblendBackground_->Show(paint_);
+    if (paint_.UsePicture)
+        colorblendBackground_->Show(paint_, ReadBackground());
+}
+
+/// Empty where it can't be read: then the blend is painted, as the setup does.
+ScalablePicture DesignScreen::ReadBackground()
+{
+    ScalablePicture picture;
+    try {
+        MeasureAndKeep(session_.project.DesBackground.PictureFilename, picture);
+        told_.erase(PictureStep::Background);
+    } catch (const RunError& error) {
+        TellPictureError(PictureStep::Background, error);
+        paint_.UsePicture = false;
+        return {};
+    }
+    // The surface grows with its window, which fits on the screens together.
+    const QSize most =
+        screen()->virtualSize().expandedTo(colorblendBackground_->size()) * devicePixelRatioF();
+    if (paint_.StretchPicture)
+        picture.KeepOnly(most.width(), most.height());
+    else
+        CropToMiddle(picture, most.width(), most.height(), devicePixelRatioF());
+    return picture;
 }
 
 void DesignScreen::DrawDesTitle()
@@ -180,17 +192,13 @@ void DesignScreen::DrawDesTitle()
 void DesignScreen::DrawDesPictures()
 {
     session_.ask.ShowBusyPointer(true);
+    pictures_ = {};
     std::size_t next = 0;
     const section::DesPictures& record = session_.project.DesPictures;
-    const auto measure = [&](const Text& file) {
+    const auto measure = [&](const Text&) {
         while (record.Pictures[next].PictureFilename.empty())
-            pictures_[next++] = {};
-        const section::DesPicture& picture = record.Pictures[next];
-        ScalablePicture& kept = pictures_[next++];
-        const PixelSize size = MeasureAndKeep(file, kept);
-        if (picture.UseTransparentBkg != kOff)
-            kept.MakeTransparent(TransparentColour(record.TransparentColorNr));
-        return size;
+            ++next;
+        return ReadDesPicture(next++);
     };
     std::optional<RunError> failure;
     RunErrorNumber(
@@ -201,8 +209,21 @@ void DesignScreen::DrawDesPictures()
         failure);
     session_.ask.ShowBusyPointer(false);
     if (failure)
-        TellPictureError(*failure);
+        TellPictureError(PictureStep::Pictures, *failure);
+    else
+        told_.erase(PictureStep::Pictures);
     ShowPictures();
+}
+
+PixelSize DesignScreen::ReadDesPicture(std::size_t index)
+{
+    const section::DesPictures& record = session_.project.DesPictures;
+    ScalablePicture& kept = pictures_[index];
+    const PixelSize size = MeasureAndKeep(record.Pictures[index].PictureFilename, kept);
+    if (const auto transparent = TransparentColourOf(record, index))
+        kept.MakeTransparent(*transparent);
+    KeepOnlyIn(BoxOfPicture(record, index, size, place_, session_.surface.screen).place, kept);
+    return size;
 }
 
 void DesignScreen::ShowPictures()
@@ -233,30 +254,52 @@ void DesignScreen::DrawDesPicturesAnim()
 
 void DesignScreen::DrawDesLogotype()
 {
-    section::DesLogotype& record = session_.project.DesLogotype;
-    const LogotypeSurround surround{.surface = place_,
-                                    .tabWidth = tabWidth_,
-                                    .screen = session_.surface.screen,
-                                    .paint = paint_};
+    const section::DesLogotype& record = session_.project.DesLogotype;
     session_.ask.ShowBusyPointer(true);
+    logotype_ = {};
+    logotypeBox_ = {};
     std::optional<RunError> failure;
     RunErrorNumber(
         [&] {
-            logotypeBox_ = LayOutLogotype(
-                record, surround, [&](const Text& file) { return MeasureAndKeep(file, logotype_); },
-                session_.ask);
+            logotypeBox_ = LayOutLogotype(record, SurroundOfLogotype(),
+                                          [this](const Text&) { return ReadDesLogotype(); });
         },
         failure);
     session_.ask.ShowBusyPointer(false);
-    if (failure) {
-        TellPictureError(*failure);
-        logotypeBox_ = {};
-    }
-    if (record.UseTransparentBkg != kOff)
-        logotype_.MakeTransparent(TransparentColour(record.TransparentColorNr));
+    if (failure)
+        TellPictureError(PictureStep::Logotype, *failure);
+    else if (!logotypeBox_.isTooLarge)
+        told_.erase(PictureStep::Logotype);
+    else if (MayTell(PictureStep::Logotype, record.LogotypeFilename))
+        TellLogotypeTooLarge(session_.ask);
     DesignObject& object = Of(Object::Logotype);
     object.setAccessibleDescription(ToQt(record.LogotypeFilename));
     ShowObject(object, logotypeBox_.place, logotypeBox_.isVisible);
+}
+
+LogotypeSurround DesignScreen::SurroundOfLogotype() const
+{
+    return {.surface = place_,
+            .tabWidth = tabWidth_,
+            .screen = session_.surface.screen,
+            .paint = paint_,
+            .isOnPicture = IsOnPicture(session_.project.DesBackground)};
+}
+
+/// Nothing is kept of one that is too large.
+PixelSize DesignScreen::ReadDesLogotype()
+{
+    const section::DesLogotype& record = session_.project.DesLogotype;
+    const PixelSize size = MeasureAndKeep(record.LogotypeFilename, logotype_);
+    const LogotypeBox box = PlaceLogotype(record, SurroundOfLogotype(), size);
+    if (IsLogotypeTooLarge(box, place_)) {
+        logotype_ = {};
+        return size;
+    }
+    if (const auto transparent = TransparentColourOf(record))
+        logotype_.MakeTransparent(*transparent);
+    KeepOnlyIn(box.place, logotype_);
+    return size;
 }
 
 void DesignScreen::DrawDesLogotypeBackColor()
@@ -264,9 +307,9 @@ void DesignScreen::DrawDesLogotypeBackColor()
     const section::DesBackground& background = session_.project.DesBackground;
     if (!IsMetafileName(session_.project.DesLogotype.LogotypeFilename))
         return;
-    logotypeBox_.BackColor = LogotypeBackColor({.UsePicture = background.Type == 2,
-                                                .ColorFrom = background.BackColor1,
-                                                .ColorTo = background.BackColor2});
+    // Kept: the second colour of the record, also where a single colour is painted.
+    logotypeBox_.BackColor =
+        LogotypeBackColor(background.BackColor1, background.BackColor2, IsOnPicture(background));
     Of(Object::Logotype).update();
 }
 
@@ -348,20 +391,48 @@ void DesignScreen::ShowObject(DesignObject& object, const SurfacePlace& place, b
 PixelSize DesignScreen::MeasureAndKeep(const Text& file, ScalablePicture& kept)
 {
     kept = {};
-    PictureResult read = ReadPictureFile(session_.host.files, file);
+    PictureResult read =
+        ReadPictureFile(session_.host.files, file, kMaxPicturesMemory - PicturesMemory());
     if (read.fault != PictureFault::None)
         throw RunError(read.fault == PictureFault::NotFound ? ErrorNumber::kFileNotFound
                                                             : kInvalidPicture,
                        file);
-    reported_.erase(file);
     kept = std::move(read.picture);
     return {kept.Width(), kept.Height()};
 }
 
-void DesignScreen::TellPictureError(const RunError& error)
+std::int64_t DesignScreen::PicturesMemory() const
 {
-    if (reported_.insert(error.Path()).second)
+    std::int64_t memory = colorblendBackground_->PictureMemory() + logotype_.Memory();
+    for (const ScalablePicture& picture : pictures_)
+        memory += picture.Memory();
+    return memory;
+}
+
+void DesignScreen::KeepOnlyIn(const SurfacePlace& place, ScalablePicture& picture) const
+{
+    const auto [across, down] = session_.surface.screen;
+    const QSize shown =
+        (QSizeF(PixelsOf(place.Width, across), PixelsOf(place.Height, down)) * devicePixelRatioF())
+            .toSize();
+    picture.KeepOnly(shown.width(), shown.height());
+}
+
+bool DesignScreen::MayTell(PictureStep step, const Text& file)
+{
+    return std::exchange(told_[step], file) != file;
+}
+
+void DesignScreen::TellPictureError(PictureStep step, const RunError& error)
+{
+    if (MayTell(step, error.Path()))
         ShowErrorBoxIfPictureError(session_.ask, error.Number());
+}
+
+Long DesignScreen::ScreenHeightInPixels() const
+{
+    const ScreenMetrics metrics = session_.surface.screen;
+    return quillon::ScreenHeightInPixels(TwipsDown(screen()->size().height(), metrics), metrics);
 }
 
 void DesignScreen::ShowDragRect(const std::optional<DragRect>& rect)

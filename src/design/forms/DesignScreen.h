@@ -10,7 +10,6 @@
 
 #include <array>
 #include <map>
-#include <set>
 
 class QLabel;
 
@@ -26,8 +25,8 @@ public:
 
     Session& GetSession() { return session_; }
 
-    // Each lays one object out anew. What the layout corrects is kept in the record; a picture
-    // that can't be read is told.
+    // Each lays one object out anew. What the layout corrects is kept in the record. A picture that
+    // can't be shown is told once, and its name stays in the record.
     void DrawDesBackground();
     void DrawDesTitle();
     void DrawDesPictures();
@@ -37,6 +36,19 @@ public:
     void DrawDesRTFbox();
     void DrawDesAll();
     void HideDesObjects();
+
+    enum class PictureStep { Background, Pictures, Logotype };
+    /// The next time that step tells again what it can't show: the user has set it anew.
+    void TellAgain(PictureStep step) { told_.erase(step); }
+    /// The same of all steps: the project is another one, or was read again.
+    void TellAllAgain() { told_.clear(); }
+
+    /// Shows a font of the text box that was chosen, and lays nothing out.
+    void RepaintDesTextBox() { Of(Object::TextBox).update(); }
+
+    Long ScreenHeightInPixels() const;
+    /// What is kept of all pictures together, in bytes.
+    std::int64_t PicturesMemory() const;
 
     /// The colour behind a metafile logotype, by the blend of the record alone.
     void DrawDesLogotypeBackColor();
@@ -63,7 +75,15 @@ private:
     void EditAt(QPoint place);
     /// Throws `RunError` where the file is no picture.
     PixelSize MeasureAndKeep(const Text& file, ScalablePicture& kept);
-    void TellPictureError(const RunError& error);
+    PixelSize ReadDesPicture(std::size_t index);
+    PixelSize ReadDesLogotype();
+    LogotypeSurround SurroundOfLogotype() const;
+    ScalablePicture ReadBackground();
+    /// No more of the picture than fills a place of the surface.
+    void KeepOnlyIn(const SurfacePlace& place, ScalablePicture& picture) const;
+    /// Whether the step has not told of that file yet.
+    bool MayTell(PictureStep step, const Text& file);
+    void TellPictureError(PictureStep step, const RunError& error);
     void ShowDragRect(const std::optional<DragRect>& rect);
 
     Session& session_;
@@ -80,8 +100,8 @@ private:
     ScalablePicture logotype_;
     LogotypeBox logotypeBox_;
     QLabel* Label_DesRTFboxPic_ = nullptr;
-    // The pictures that can't be read and were told: each is drawn anew all the time.
-    std::set<Text> reported_;
+    // The file that each step told of last: it is drawn anew all the time.
+    std::map<PictureStep, Text> told_;
     DragRectFrame* dragRect_ = nullptr;
 };
 

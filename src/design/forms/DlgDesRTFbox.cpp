@@ -4,10 +4,12 @@
 #include "design/rtf_box_file.h"
 #include "platform/failure_text.h"
 #include "platform/whole_file.h"
+#include "rtf/rtf_losses.h"
 #include "rtf/rtf_writer.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 #include "ui/rtf_document.h"
+#include "ui/typed_text.h"
 
 #include <QtWidgets>
 
@@ -36,6 +38,10 @@ DlgDesRTFbox::DlgDesRTFbox(Session& session, QWidget* parent)
     Named(NAMED(tRTFfilename),
           new QLineEdit(
               ToQt(stored.empty() ? ProposedRTFfilename(session.state.ProjectFileName) : stored)));
+    // With room for the ending that a name without one gets.
+    constexpr int kEnding = 4;
+    LimitTyping(tRTFfilename,
+                LongestText(section::kDesRTFbox, &section::DesRTFbox::RTFfilename) - kEnding);
     Check(NAMED(cShowRTFbox), "&Visa RTF-rutan", box_.ShowRTFbox);
     Named(NAMED(cmdSetBackColor),
           new ColourButton("&Bakgrundsfärg...", session.ask, [this] { ShowBackColour(); }));
@@ -136,6 +142,8 @@ void DlgDesRTFbox::ShowBackColour()
     palette.setColor(QPalette::Base, shown);
     // Text without a colour of its own is black in the setup, on whatever the box is filled with.
     palette.setColor(QPalette::Text, Qt::black);
+    // The letters take the colours of the editor, the ground those of its viewport.
+    RTFbox->setPalette(palette);
     RTFbox->viewport()->setPalette(palette);
 }
 
@@ -143,11 +151,15 @@ void DlgDesRTFbox::ChooseRTFfont()
 {
     const QTextCharFormat now = RTFbox->currentCharFormat();
     const QFont font = RTFbox->currentFont();
+    // The chooser knows whole points; half a point of the text stays as long as nobody chooses
+    // another size.
+    const auto points =
+        static_cast<Integer>(font.pointSizeF() > 0 ? font.pointSizeF() : kUsualPoints);
     const QColor colour =
         now.hasProperty(QTextFormat::ForegroundBrush) ? now.foreground().color() : Qt::black;
     const auto chosen = session_.ask.ChooseFont(
         {.name = FromQt(font.family()),
-         .size = static_cast<Integer>(font.pointSize()),
+         .size = points,
          .isBold = font.bold(),
          .isItalic = font.italic(),
          .isUnderlined = font.underline(),
@@ -156,7 +168,8 @@ void DlgDesRTFbox::ChooseRTFfont()
     if (chosen) {
         QTextCharFormat format;
         format.setFontFamilies({ToQt(chosen->name)});
-        format.setFontPointSize(chosen->size);
+        if (chosen->size != points)
+            format.setFontPointSize(chosen->size);
         format.setFontWeight(chosen->isBold ? QFont::Bold : QFont::Normal);
         format.setFontItalic(chosen->isItalic);
         format.setFontUnderline(chosen->isUnderlined.value_or(false));

@@ -26,15 +26,10 @@ bool Edited(DesignScreen& screen)
 }
 
 // The box may hang below the title.
-void DrawTitleAndWhatHangsOnIt(DesignScreen& screen)
+void DrawWhatHangsOnTheTitle(DesignScreen& screen)
 {
-    screen.DrawDesBackground();
-    screen.DrawDesTitle();
-    Session& session = screen.GetSession();
-    if (session.project.DesTextBox.ShowTextBox != kOff) {
-        session.ask.ProcessEvents();
+    if (screen.GetSession().project.DesTextBox.ShowTextBox != kOff)
         screen.DrawDesTextBox();
-    }
 }
 
 void EditObject(DesignScreen& screen, DesignScreen::Object object, std::size_t index)
@@ -71,6 +66,7 @@ void EditDesBackground(DesignScreen& screen)
 {
     if (!Edited<DlgDesBackground>(screen))
         return;
+    screen.TellAgain(DesignScreen::PictureStep::Background);
     screen.DrawDesLogotypeBackColor();
     screen.DrawDesBackground();
     screen.DrawDesTitle();
@@ -78,21 +74,29 @@ void EditDesBackground(DesignScreen& screen)
 
 void EditDesTitle(DesignScreen& screen)
 {
-    // A font that was chosen stays also behind Cancel, so it is shown in any case.
-    Edited<DlgDesTitle>(screen);
-    DrawTitleAndWhatHangsOnIt(screen);
+    if (!Edited<DlgDesTitle>(screen))
+        return screen.DrawDesTitle(); // a font that was chosen stays
+    screen.DrawDesBackground();
+    screen.DrawDesTitle();
+    screen.GetSession().ask.ProcessEvents();
+    DrawWhatHangsOnTheTitle(screen);
 }
 
 void EditDesUnderline(DesignScreen& screen)
 {
-    if (Edited<DlgUnderline>(screen))
-        DrawTitleAndWhatHangsOnIt(screen);
+    if (!Edited<DlgUnderline>(screen))
+        return;
+    screen.DrawDesBackground();
+    screen.DrawDesTitle();
+    DrawWhatHangsOnTheTitle(screen);
 }
 
 void EditDesTextBox(DesignScreen& screen)
 {
-    Edited<DlgDesTextbox>(screen);
-    screen.DrawDesTextBox();
+    if (Edited<DlgDesTextbox>(screen))
+        screen.DrawDesTextBox();
+    else
+        screen.RepaintDesTextBox(); // a font that was chosen stays
 }
 
 void EditDesRTFbox(DesignScreen& screen)
@@ -103,8 +107,10 @@ void EditDesRTFbox(DesignScreen& screen)
 
 void EditDesPictures(DesignScreen& screen, std::size_t index)
 {
-    if (DlgDesPictures(index, screen.GetSession(), screen.window()).ShowModal())
-        screen.DrawDesPictures();
+    if (!DlgDesPictures(index, screen.GetSession(), screen.window()).ShowModal())
+        return;
+    screen.TellAgain(DesignScreen::PictureStep::Pictures);
+    screen.DrawDesPictures();
 }
 
 void EditDesPicturesAnim(DesignScreen& screen)
@@ -115,8 +121,10 @@ void EditDesPicturesAnim(DesignScreen& screen)
 
 void EditDesLogotype(DesignScreen& screen)
 {
-    if (Edited<DlgDesLogotype>(screen))
-        screen.DrawDesLogotype();
+    if (!Edited<DlgDesLogotype>(screen))
+        return;
+    screen.TellAgain(DesignScreen::PictureStep::Logotype);
+    screen.DrawDesLogotype();
 }
 
 void EditDesPercentGauge(DesignScreen& screen)

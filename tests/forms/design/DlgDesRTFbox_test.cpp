@@ -1,5 +1,6 @@
 #include "design/forms/DlgDesRTFbox.h"
 
+#include "design/rtf_box_file.h"
 #include "rtf/rtf_text.h"
 #include "support/window_test.h"
 #include "ui/ColourButton.h"
@@ -105,6 +106,97 @@ TEST_F(DlgDesRTFboxTest, LoadsTheFileAndTellsWhatItCantShow)
     EXPECT_NE(machine.files.Get("C:\\Quillon\\rtf\\a.rtf").find("\\pict"), std::string::npos);
 }
 
+TEST_F(DlgDesRTFboxTest, TellsAllThatItCantShow)
+{
+    box.RTFfilename = "a.rtf";
+    machine.files.Put("C:\\Quillon\\rtf\\a.rtf",
+                      "{\\rtf1{\\footerr 1}{\\shp{\\*\\shpinst}}\\ls1 a{\\up6 b}{\\v c}\\\\pict}");
+    ask.Expect({BoxKind::Warn, "RTF-ruta",
+                "Filen 'C:\\Quillon\\rtf\\a.rtf' innehåller ritade figurer, sidfot, automatiska "
+                "listor, höjda eller sänkta tecken, dold text, som inte kan visas i rutan. "
+                "Trycker du på 'OK' behålls den gamla filen bredvid den nya, med .bak efter "
+                "namnet."});
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.RTFbox->toPlainText(), "ab\\pict");
+}
+
+TEST_F(DlgDesRTFboxTest, KeepsCapitalsSpacesAndHeightsOfLines)
+{
+    const std::string path = "C:\\Quillon\\rtf\\a.rtf";
+    box.RTFfilename = "a.rtf";
+    machine.files.Put(path, "{\\rtf1\\sl360\\slmult1 {\\caps\\expndtw45 ab}{\\scaps c}\\par"
+                            "\\pard\\sl-300\\slmult0 d\\par\\pard\\sl450 e}");
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    Click(form, "cmdOK");
+    const auto text = ReadRtf(machine.files.Get(path));
+    ASSERT_TRUE(text);
+    ASSERT_EQ(text->paragraphs.size(), 3U);
+    EXPECT_EQ(text->paragraphs[0].lineSpacing, 360);
+    EXPECT_TRUE(text->paragraphs[0].isLineSpacingMultiple);
+    EXPECT_EQ(text->paragraphs[1].lineSpacing, -300);
+    EXPECT_EQ(text->paragraphs[2].lineSpacing, 450);
+    EXPECT_FALSE(text->paragraphs[2].isLineSpacingMultiple);
+    ASSERT_EQ(text->paragraphs[0].runs.size(), 2U);
+    const RtfRun& first = text->paragraphs[0].runs[0];
+    EXPECT_EQ(first.text, "ab") << "as it was written";
+    EXPECT_EQ(first.style.capitals, RtfStyle::Capitals::All);
+    EXPECT_EQ(first.style.letterSpacing, 45);
+    EXPECT_EQ(text->paragraphs[0].runs[1].style.capitals, RtfStyle::Capitals::Small);
+    EXPECT_FALSE(machine.files.FileExists(path + ".bak"));
+}
+
+TEST_F(DlgDesRTFboxTest, KeepsHalfAPointWhereNoOtherSizeIsChosen)
+{
+    const std::string path = "C:\\Quillon\\rtf\\a.rtf";
+    box.RTFfilename = "a.rtf";
+    machine.files.Put(path, "{\\rtf1\\fs21 abc}");
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    form.RTFbox->selectAll();
+    ask.fonts = {FontChoice{.name = "Arial", .size = 10, .isBold = true, .colour = 0}};
+    Click(form, "cmdRTFfont");
+    EXPECT_EQ(ask.shownFonts.back().size, 10);
+    Click(form, "cmdOK");
+    auto text = ReadRtf(machine.files.Get(path));
+    EXPECT_EQ(text->paragraphs.at(0).runs.at(0).style.halfPoints, 21);
+    EXPECT_TRUE(text->paragraphs[0].runs[0].style.isBold);
+    EXPECT_EQ(text->paragraphs[0].runs[0].style.foreground, kNoColour);
+    DlgDesRTFbox again(session, nullptr);
+    ShowActive(again);
+    again.RTFbox->selectAll();
+    ask.fonts = {FontChoice{.name = "Arial", .size = 12}};
+    Click(again, "cmdRTFfont");
+    Click(again, "cmdOK");
+    text = ReadRtf(machine.files.Get(path));
+    EXPECT_EQ(text->paragraphs.at(0).runs.at(0).style.halfPoints, 24);
+}
+
+// The text is printed on paper of the author's colour, whatever colours the desktop has.
+TEST_F(DlgDesRTFboxTest, WritesBlackOnADarkDesktop)
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(53, 53, 53), QColor(42, 42, 42)));
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    TypeKeys(*form.RTFbox, "MMMMMM");
+    const QImage shown = form.RTFbox->viewport()->grab().toImage();
+    int dark = 0;
+    int light = 0;
+    for (int y = 0; y < shown.height(); ++y)
+        for (int x = 0; x < shown.width(); ++x)
+            ++(qGray(shown.pixel(x, y)) < 80 ? dark : light);
+    EXPECT_GT(dark, 60);
+    EXPECT_GT(light, 20 * dark);
+    Click(form, "cmdOK");
+    QApplication::setPalette(before);
+    const auto text = ReadRtf(machine.files.Get("C:\\Quillon\\rtf\\rtf.rtf"));
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->paragraphs.at(0).runs.at(0).style.foreground, kNoColour);
+    EXPECT_EQ(text->paragraphs[0].runs[0].style.background, kNoColour);
+}
+
 TEST_F(DlgDesRTFboxTest, KeepsAFileThatItDidNotShowWhole)
 {
     const std::string path = "C:\\Quillon\\rtf\\a.rtf";
@@ -158,6 +250,16 @@ TEST_F(DlgDesRTFboxTest, WantsAFileName)
     Click(form, "cmdOK");
     EXPECT_TRUE(form.isVisible());
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(DlgDesRTFboxTest, TakesOnlyANameThatAProjectCanHold)
+{
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    Type(form, "tRTFfilename", "åΩ");
+    EXPECT_EQ(TextIn(form, "tRTFfilename"), "å");
+    form.tRTFfilename->setText(QString(300, 'x'));
+    EXPECT_LE(StoredRTFfilename(TextIn(form, "tRTFfilename")).size(), 200U);
 }
 
 TEST_F(DlgDesRTFboxTest, StaysOpenWhereTheTextCantBeSaved)

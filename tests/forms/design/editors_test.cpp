@@ -139,11 +139,116 @@ TEST_F(DesignEditorsTest, TitleCorrectsTheSpacing)
     ShowActive(form);
     EXPECT_EQ(Left(form, "tTitleCharInterSpace", "-11"), "-10");
     EXPECT_EQ(Left(form, "tTitleCharInterSpace", "101"), "100");
+    EXPECT_EQ(Left(form, "tTitleCharInterSpace", "abc"), "0");
+    EXPECT_EQ(Left(form, "tTitleCharInterSpace", "60abc"), "60");
+    Type(form, "tTitleCharInterSpace", "60abc");
+    QTest::mouseClick(&Find<QToolButton>(*form.UpDownArr, "Up"), Qt::LeftButton);
+    EXPECT_EQ(TextIn(form, "tTitleCharInterSpace"), "61");
     EXPECT_EQ(Left(form, "tTitleCharInterSpace", ""), "0");
     QTest::keyClick(form.tTitleCharInterSpace, Qt::Key_Down);
     EXPECT_EQ(TextIn(form, "tTitleCharInterSpace"), "-1");
     QTest::mouseClick(&Find<QToolButton>(*form.UpDownArr, "Up"), Qt::LeftButton);
     EXPECT_EQ(TextIn(form, "tTitleCharInterSpace"), "0");
+}
+
+TEST_F(DesignEditorsTest, TitleStoresTheNumberInFrontOfWhatIsNone)
+{
+    DlgDesTitle form(session, nullptr);
+    ShowActive(form);
+    Type(form, "tTitleCharInterSpace", "60abc");
+    QTest::keyClick(form.tTitleCharInterSpace, Qt::Key_Return);
+    EXPECT_TRUE(form.OK);
+    EXPECT_EQ(project.DesTitle.TitleCharInterSpace, "60");
+}
+
+TEST_F(DesignEditorsTest, TextboxKeepsItsFontsAndTheirColoursOnCancel)
+{
+    DlgDesTextbox form(session, nullptr);
+    ShowActive(form);
+    Type(form, "tTitleText", "Rubrik");
+    ask.fonts = {FontChoice{.name = "Courier", .size = 8, .colour = 0x44},
+                 FontChoice{.name = "Times", .size = 9, .isItalic = true, .colour = 0x55}};
+    Click(form, "cmdTitleFont");
+    Click(form, "cmdTextBoxFont");
+    Click(form, "cmdCancel");
+    const section::DesTextBox& box = project.DesTextBox;
+    EXPECT_EQ(box.BoxTitleFontName, "Courier");
+    EXPECT_EQ(box.BoxTitleFontBold, kOff);
+    EXPECT_EQ(box.BoxTitleColor, 0x44);
+    EXPECT_EQ(box.BoxTextFontName, "Times");
+    EXPECT_EQ(box.BoxTextFontItalic, kOn);
+    EXPECT_EQ(box.BoxTextColor, 0x55);
+    EXPECT_EQ(box.BoxTitle, "Titel");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
+TEST_F(DesignEditorsTest, ACancelledChooserChangesNothing)
+{
+    project.DesBackground.PictureFilename = "C:\\sol.bmp";
+    project.DesBackground.Type = 2;
+    DlgDesBackground background(session, nullptr);
+    ShowActive(background);
+    ask.choices.push_back({});
+    Click(background, "cmdSelectPicture");
+    ask.colours.push_back(std::nullopt);
+    Click(background, "cmdBackColor");
+    Click(background, "cmdOK");
+    EXPECT_EQ(project.DesBackground.PictureFilename, "C:\\sol.bmp");
+    EXPECT_EQ(project.DesBackground.BackColor1, 16711680);
+    session.state.ProjectIsDirty = kOff;
+    DlgDesTitle title(session, nullptr);
+    ShowActive(title);
+    ask.fonts.push_back(std::nullopt);
+    Click(title, "cmdTitleFont");
+    EXPECT_EQ(project.DesTitle.TitleFontName, "Times New Roman");
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
+}
+
+TEST_F(DesignEditorsTest, PicturesResetTakesAllOfASlotBack)
+{
+    project.DesPictures.Pictures[0] = {.PictureFilename = "C:\\a.bmp",
+                                       .UseTransparentBkg = kOn,
+                                       .PictureWidth = 33,
+                                       .PictureHeight = 44,
+                                       .PictureXPos = 700};
+    DlgDesPictures form(0, session, nullptr);
+    ShowActive(form);
+    EXPECT_FALSE(form.cStretchPicture->isEnabled());
+    Click(form, "cmdReset");
+    EXPECT_TRUE(form.cStretchPicture->isEnabled());
+    Click(form, "cmdOK");
+    const section::DesPicture& picture = project.DesPictures.Pictures[0];
+    EXPECT_EQ(picture.PictureFilename, "");
+    EXPECT_EQ(picture.UseTransparentBkg, kOff);
+    EXPECT_EQ(picture.StretchPicture, kOff);
+    EXPECT_EQ(picture.PictureWidth, 200);
+    EXPECT_EQ(picture.PictureHeight, 100);
+    EXPECT_EQ(picture.PictureXPos, 700);
+}
+
+TEST_F(DesignEditorsTest, ChangingPicturesCheckTheirFieldsOnOk)
+{
+    DlgDesPicturesAnim form(session, nullptr);
+    ShowActive(form);
+    form.tWidth->setText("9");
+    form.tHeight->setText("2001x");
+    form.tIntervalSeconds->setText("");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesPicturesAnim.PictureWidth, 10);
+    EXPECT_EQ(project.DesPicturesAnim.PictureHeight, 2000);
+    EXPECT_EQ(project.DesPicturesAnim.IntervalSeconds, 1);
+}
+
+TEST_F(DesignEditorsTest, LogotypeChecksItsSizeAgainOnOk)
+{
+    DlgDesLogotype form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.ComboTransparentColor->count(), 12);
+    form.tLogotypeWMFWidth->setText("801");
+    form.tLogotypeWMFHeight->setText("");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesLogotype.LogotypeWMFWidth, 100);
+    EXPECT_EQ(project.DesLogotype.LogotypeWMFHeight, 50);
 }
 
 TEST_F(DesignEditorsTest, TitleKeepsANewFontOnCancel)

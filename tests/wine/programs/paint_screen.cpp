@@ -35,7 +35,8 @@ End Paint(const Order& order)
     Project project;
     if (ReadProjectFile(project, order.project, host, ask, order.toolFolder) != ReadEnd::Whole)
         return End::NoProject;
-    const ScreenFiles read = ReadScreenFiles(project, files, order.toolFolder);
+    const ScreenFiles read = ReadScreenFiles(project, files, order.toolFolder,
+                                             {.width = order.width, .height = order.height});
     if (!read.faults.empty())
         return End::NoPicture;
     std::vector<Pixel> pixels(static_cast<std::size_t>(order.width) *
