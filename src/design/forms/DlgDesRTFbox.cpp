@@ -26,8 +26,40 @@ QPushButton* Toggle(QPushButton* button)
     button->setCheckable(true);
     // The selection keeps the keyboard.
     button->setFocusPolicy(Qt::TabFocus);
+    // Dark styles hardly show that a button is down.
+    QObject::connect(button, &QPushButton::toggled, button, [button](bool isOn) {
+        QPalette palette;
+        if (isOn) {
+            const QPalette all = QApplication::palette();
+            palette.setColor(QPalette::Button, all.color(QPalette::Highlight));
+            palette.setColor(QPalette::ButtonText, all.color(QPalette::HighlightedText));
+        }
+        button->setPalette(palette);
+    });
     return button;
 }
+
+/// Takes of what is pasted or dropped no more than the file can hold, so that nothing seems to be
+/// there that a save would lose: no pictures, and tables as text.
+class RtfEdit : public QTextEdit {
+protected:
+    bool canInsertFromMimeData(const QMimeData* source) const override
+    {
+        return source->hasText() || source->hasHtml();
+    }
+
+    void insertFromMimeData(const QMimeData* source) override
+    {
+        if (!source->hasHtml())
+            return QTextEdit::insertFromMimeData(source);
+        QTextDocument pasted;
+        pasted.setHtml(source->html());
+        QTextDocument held;
+        InsertRtf(ExtractRtf(pasted, logicalDpiX()), held, logicalDpiX());
+        textCursor().insertFragment(QTextDocumentFragment(&held));
+        ensureCursorVisible();
+    }
+};
 
 } // namespace
 
@@ -67,7 +99,7 @@ DlgDesRTFbox::DlgDesRTFbox(Session& session, QWidget* parent)
 
 void DlgDesRTFbox::MakeEditor()
 {
-    Named(NAMED(RTFbox), new QTextEdit, "Rutans text");
+    Named(NAMED(RTFbox), static_cast<QTextEdit*>(new RtfEdit), "Rutans text");
     RTFbox->setTabChangesFocus(false);
     RTFbox->setAcceptRichText(true);
     RTFbox->setFontPointSize(kUsualPoints);

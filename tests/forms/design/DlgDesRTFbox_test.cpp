@@ -76,6 +76,46 @@ TEST_F(DlgDesRTFboxTest, FormatsTheSelection)
     EXPECT_EQ(run.style.foreground, 0x0000FF);
 }
 
+TEST_F(DlgDesRTFboxTest, TakesOfWhatIsPastedOnlyWhatTheFileHolds)
+{
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QApplication::clipboard()->setImage(picture);
+    form.RTFbox->paste();
+    EXPECT_TRUE(form.RTFbox->document()->isEmpty());
+    auto* html = new QMimeData;
+    html->setText("ab");
+    html->setHtml("<p><b>a</b><img src=\"x.png\">b</p><table><tr><td>c</td></tr></table>");
+    QApplication::clipboard()->setMimeData(html);
+    form.RTFbox->paste();
+    const QString shown = form.RTFbox->toPlainText();
+    EXPECT_TRUE(shown.startsWith("ab")) << shown.toStdString();
+    EXPECT_TRUE(shown.contains("c")) << shown.toStdString();
+    EXPECT_EQ(form.RTFbox->document()->rootFrame()->childFrames().size(), 0) << "no table";
+    Click(form, "cmdUndo");
+    EXPECT_TRUE(form.RTFbox->document()->isEmpty()) << "in one step";
+    Click(form, "cmdRedo");
+    Click(form, "cmdOK");
+    const auto text = ReadRtf(machine.files.Get("C:\\Quillon\\rtf\\rtf.rtf"));
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->paragraphs.at(0).runs.at(0).text, "a");
+    EXPECT_TRUE(text->paragraphs[0].runs[0].style.isBold);
+}
+
+TEST_F(DlgDesRTFboxTest, ShowsWhichFormatsAreOn)
+{
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    const auto colour = [&] { return form.cmdBold->palette().color(QPalette::Button); };
+    const QColor off = colour();
+    Click(form, "cmdBold");
+    EXPECT_EQ(colour(), QApplication::palette().color(QPalette::Highlight));
+    Click(form, "cmdBold");
+    EXPECT_EQ(colour(), off);
+}
+
 TEST_F(DlgDesRTFboxTest, UndoesAndRedoes)
 {
     DlgDesRTFbox form(session, nullptr);
