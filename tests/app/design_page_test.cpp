@@ -1,6 +1,7 @@
 // The tab "Design": what the surface shows of the background's record, and how large it is.
 #include "app/DesignPage.h"
 
+#include "app/EditHistory.h"
 #include "app/MainForm.h"
 #include "design/forms/ColorblendBackground.h"
 #include "design/forms/design_commands.h"
