@@ -6,18 +6,37 @@
 
 namespace quillon {
 
+namespace {
+
+// "1 024"; larger numbers than that are counted in the next unit.
+Text InGroups(std::uint64_t number)
+{
+    constexpr std::uint64_t kGroup = 1000;
+    const Text low = NumberText(static_cast<std::int64_t>(number % kGroup));
+    if (number < kGroup)
+        return low;
+    return NumberText(static_cast<std::int64_t>(number / kGroup)) + " " +
+           Text(3 - low.size(), '0') + low;
+}
+
+} // namespace
+
+// Whole numbers alone: the setup has no room for the conversion of others.
 Text SizeText(std::uint64_t kilobytes, char decimalSign)
 {
     constexpr std::uint64_t kStep = 1024;
     // From here on nobody counts in the smaller unit.
     constexpr std::uint64_t kMax = 10'000;
     constexpr const char* kUnits[] = {" kB", " MB", " GB"};
-    double size = static_cast<double>(kilobytes);
+    std::uint64_t unitSize = 1;
     std::size_t unit = 0;
-    for (; size >= static_cast<double>(kMax) && unit + 1 < std::size(kUnits); ++unit)
-        size /= static_cast<double>(kStep);
-    const Text number = FormatNumber(size, unit == 0 ? "## ##0" : "## ##0.0", decimalSign);
-    return TrimBlanks(number) + kUnits[unit];
+    for (; kilobytes / unitSize >= kMax && unit + 1 < std::size(kUnits); ++unit)
+        unitSize *= kStep;
+    if (unit == 0)
+        return InGroups(kilobytes) + kUnits[unit];
+    const std::uint64_t tenths = (kilobytes * 10 + unitSize / 2) / unitSize;
+    return InGroups(tenths / 10) + decimalSign +
+           NumberText(static_cast<std::int64_t>(tenths % 10)) + kUnits[unit];
 }
 
 Text DurationText(std::int64_t milliseconds)

@@ -103,12 +103,4 @@ Text FormatNumber(double value, std::string_view pattern, char decimalSign)
     return text;
 }
 
-std::int64_t RoundToEven(double value)
-{
-    const double below = std::floor(value);
-    const double rest = value - below;
-    const bool up = rest > 0.5 || (rest == 0.5 && std::fmod(below, 2.0) != 0);
-    return static_cast<std::int64_t>(below) + (up ? 1 : 0);
-}
-
 } // namespace quillon

@@ -11,6 +11,8 @@
 #include "runtime/failure_reason.h"
 #include "runtime/install.h"
 #include "runtime/package_check.h"
+#include "runtime/pages/earlier_version.h"
+#include "runtime/pages/page_chain.h"
 #include "runtime/rollback.h"
 #include "runtime/uninstall_entry.h"
 
@@ -25,7 +27,7 @@ namespace {
 class SetupProgram {
 public:
     SetupProgram(const SetupInput& input, const LoadedPackage& package)
-        : input_(input), package_(package), texts_(package.texts)
+        : input_(input), package_(package), texts_(package.texts), setup_(package.setup)
     {
     }
 
@@ -37,17 +39,25 @@ private:
     void CheckSwitches() const;
     void CheckPackage() const;
     void CheckFiles();
+    bool HasPassword() const;
     void CheckPassword() const;
     void CheckSystem();
     void CheckFreeSpace(const InstallPlan& plan) const;
     void KeepHelpers() const;
     void CheckHelpers(const InstallPlan& plan) const;
+    void FindDestination();
+    void LeadThroughPages();
     void FinishEarlier(const SetupVariables& variables);
-    void InstallPackage();
+    InstallResult InstallPackage();
+    void TellTheEnd(const InstallResult& result);
 
     const SetupInput& input_;
     const LoadedPackage& package_;
     const LanguageTexts& texts_;
+    SetupInformation setup_; // with what the user has chosen
+    Text destination_;       // empty: the project's own
+    bool isUpdate_ = false;
+    std::unique_ptr<PageChain> chain_;
     ActionLog log_;
 };
 
@@ -94,7 +104,10 @@ ExitCode SetupProgram::Run()
         CheckFiles();
         CheckPassword();
         CheckSystem();
-        InstallPackage();
+        FindDestination();
+        LeadThroughPages();
+        const InstallResult result = InstallPackage();
+        TellTheEnd(result);
         log_.Line(Message::LogDone);
         log_.Close();
         return ExitCode::Done;
@@ -146,16 +159,24 @@ void SetupProgram::CheckFiles()
                           package_.rows, package_.manifest, input_.switches.packageFolder});
 }
 
+// True also for a package that asks for none.
+bool SetupProgram::HasPassword() const
+{
+    const Project& project = setup_.project;
+    const Text& correct = project.DialogBoxData.CorrectPassword;
+    return project.DialogBoxes.PasswordDlg != 1 || correct.empty() ||
+           input_.switches.password == correct;
+}
+
+// Where there are pages, one of them asks for it.
 void SetupProgram::CheckPassword() const
 {
-    const Project& project = package_.setup.project;
-    const Text& correct = project.DialogBoxData.CorrectPassword;
-    if (project.DialogBoxes.PasswordDlg != 1 || correct.empty())
+    if (HasPassword())
         return;
-    if (!input_.switches.password)
-        throw SetupFailure(ExitCode::Failed, texts_[Message::NeedsPassword]);
-    if (*input_.switches.password != correct)
+    if (input_.switches.password)
         throw SetupFailure(ExitCode::Failed, texts_[Message::WrongPassword]);
+    if (input_.pages == nullptr)
+        throw SetupFailure(ExitCode::Failed, texts_[Message::NeedsPassword]);
 }
 
 void SetupProgram::CheckSystem()
@@ -235,31 +256,60 @@ void SetupProgram::FinishEarlier(const SetupVariables& variables)
             throw SetupFailure(ExitCode::Failed, texts_(Message::EarlierNotUndone, folder));
 }
 
-void SetupProgram::InstallPackage()
+void SetupProgram::FindDestination()
 {
-    const SetupVariables variables =
-        MakeSetupVariables({package_.setup, input_.host, input_.target,
-                            input_.switches.packageFolder, input_.switches.destination});
+    destination_ = input_.switches.destination;
+    if (!destination_.empty())
+        return;
+    const auto earlier = EarlierVersionFolder(setup_, input_.host, input_.target);
+    destination_ = earlier.value_or("");
+    isUpdate_ = earlier.has_value();
+}
+
+void SetupProgram::LeadThroughPages()
+{
+    if (input_.pages == nullptr)
+        return;
+    chain_ = std::make_unique<PageChain>(
+        PageInput{input_.host, input_.target, input_.ask, texts_, package_.setup, package_.rows,
+                  input_.switches.packageFolder, destination_, isUpdate_, HasPassword()});
+    if (chain_->LeadThrough(*input_.pages) == PageChain::End::Cancelled)
+        throw SetupFailure(ExitCode::Cancelled, {});
+    const UserChoices& choices = chain_->Choices();
+    ApplyChoices(choices, setup_);
+    if (!choices.destination.empty())
+        destination_ = choices.destination;
+}
+
+InstallResult SetupProgram::InstallPackage()
+{
+    const SetupVariables variables = MakeSetupVariables(
+        {setup_, input_.host, input_.target, input_.switches.packageFolder, destination_});
     FinishEarlier(variables);
-    const InstallPlan plan = MakeInstallPlan(
-        {package_.setup, package_.rows, variables, texts_, input_.host, input_.target});
+    const InstallPlan plan =
+        MakeInstallPlan({setup_, package_.rows, variables, texts_, input_.host, input_.target});
     KeepHelpers();
     CheckHelpers(plan);
-    PackageReader reader({input_.host, input_.ask, log_, texts_, package_.setup, package_.rows,
+    PackageReader reader({input_.host, input_.ask, log_, texts_, setup_, package_.rows,
                           input_.openContainer, input_.switches.packageFolder, input_.workFolder,
-                          package_.setup.project.DialogBoxData.CorrectPassword,
-                          input_.switches.silent, &package_.manifest});
+                          setup_.project.DialogBoxData.CorrectPassword, input_.switches.silent,
+                          &package_.manifest});
     reader.CheckEverything();
     CheckFreeSpace(plan);
-    const InstallResult result =
-        Install({input_.host, input_.target, input_.ask, log_, texts_, package_.setup, variables,
-                 plan, reader, input_.workFolder, input_.switches.silent});
-    if (!result.needsRestart)
-        return;
-    log_.Line(Message::RestartNeeded);
-    const Flag never = package_.setup.project.InstallOptions.NeverRestartWindows;
-    if (!input_.switches.silent && never == kOff)
-        input_.ask.Inform(texts_(Message::Title, package_.setup.project.ProjectName.ProjectName),
+    return Install({input_.host, input_.target, input_.ask, log_, texts_, setup_, variables, plan,
+                    reader, input_.workFolder, input_.switches.silent});
+}
+
+// The product is installed: whatever happens here takes nothing back.
+void SetupProgram::TellTheEnd(const InstallResult& result)
+{
+    if (result.needsRestart)
+        log_.Line(Message::RestartNeeded);
+    if (chain_)
+        chain_->ShowClosingPage(*input_.pages);
+    const Flag never = setup_.project.InstallOptions.NeverRestartWindows;
+    if (result.needsRestart && !input_.switches.silent && never == kOff)
+        input_.ask.Inform(texts_(Message::Title, setup_.project.ProjectName.ProjectName),
                           texts_[Message::RestartNeeded]);
 }
 

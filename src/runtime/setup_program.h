@@ -8,6 +8,7 @@
 #include "runtime/container.h"
 #include "runtime/exit_codes.h"
 #include "runtime/install_plan.h"
+#include "runtime/pages/page.h"
 #include "runtime/switches.h"
 
 namespace quillon {
@@ -33,6 +34,8 @@ struct SetupInput {
     OpenContainer openContainer;
     Switches switches;
     Text workFolder; // exists, and is removed by the caller
+    // Shows the pages of the package; null where nobody is to be asked.
+    PageView* pages = nullptr;
 };
 
 /// Installs, and tells the user and the log what went wrong.

@@ -56,9 +56,10 @@ void SetUser(SetupVariables& variables, const VariableSources& sources)
     RegisteredOwner owner;
     if (sources.setup.project.DialogBoxData.GetNameCompanyFromRegistry != kOff)
         owner = sources.host.machine.GetWindowsRegisteredOwner();
+    // As the tool previews it: what the machine knows goes before what the project proposes.
     variables.Set(Meaning::UserCompany,
-                  user.UserCompany.empty() ? owner.organization : user.UserCompany);
-    variables.Set(Meaning::UserName, user.UserName.empty() ? owner.owner : user.UserName);
+                  owner.organization.empty() ? user.UserCompany : owner.organization);
+    variables.Set(Meaning::UserName, owner.owner.empty() ? user.UserName : owner.owner);
     variables.Set(Meaning::UserAddress, user.UserAddress);
     variables.Set(Meaning::UserPhone, user.UserPhone);
     variables.Set(Meaning::UserFax, user.UserFax);

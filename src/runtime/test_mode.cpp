@@ -1,43 +1,12 @@
 #include "runtime/test_mode.h"
 
 #include "runtime/failure_reason.h"
+#include "runtime/pages/page_chain.h"
+#include "runtime/pages/page_order.h"
 
 namespace quillon {
 
 namespace {
-
-using section::DialogBoxData;
-using section::DialogBoxes;
-
-struct Page {
-    Integer DialogBoxes::*isOn;
-    Message name;
-    // Where the project has its own words for it.
-    Text DialogBoxData::*title = nullptr;
-};
-
-// clang-format off
-constexpr Page kPagesInOrder[] = {
-    {&DialogBoxes::WelcomeDlg,          Message::PageWelcome,          &DialogBoxData::WelcomeDlgTitle},
-    {&DialogBoxes::GeneralInfoDlg,      Message::PageGeneralInfo,      &DialogBoxData::GeneralDlgTitle},
-    {&DialogBoxes::GeneralInfoDlg2,     Message::PageGeneralInfo2,     &DialogBoxData::GeneralDlgTitle2},
-    {&DialogBoxes::LicenseInfoDlg,      Message::PageLicenseInfo,      &DialogBoxData::LicenseTitle},
-    {&DialogBoxes::LicenseInfoRtfDlg,   Message::PageLicenseInfoRtf,   &DialogBoxData::LicenseTitleRtf},
-    {&DialogBoxes::PasswordDlg,         Message::PagePassword},
-    {&DialogBoxes::NameCompanyDlg,      Message::PageNameCompany},
-    {&DialogBoxes::DestinationDlg,      Message::PageDestination},
-    {&DialogBoxes::DestinationDriveDlg, Message::PageDestinationDrive},
-    {&DialogBoxes::ProgramGroupDlg,     Message::PageProgramGroup},
-    {&DialogBoxes::StartInstallDlg,     Message::PageStartInstall,     &DialogBoxData::StartInstallDlgTitle},
-    {&DialogBoxes::InstallCompletedDlg, Message::PageInstallCompleted, &DialogBoxData::InstallCompleteDlgTitle},
-};
-// clang-format on
-
-Text TitleOf(const Page& page, const DialogBoxData& data, const LanguageTexts& texts)
-{
-    const Text own = page.title ? TrimBlanks(data.*page.title) : Text();
-    return own.empty() ? texts[page.name] : own;
-}
 
 Text ProjectNameOf(const LoadedPackage& package)
 {
@@ -75,16 +44,26 @@ void LogWindow(const TestInput& input, const TestWindow& window, const LanguageT
     log.Close();
 }
 
+// As the user of the setup would be led, but for the installation itself.
+void LeadThroughPages(const TestInput& input, const LoadedPackage& package)
+{
+    PageChain chain({input.host, input.target, input.ask, package.texts, package.setup,
+                     package.rows, input.switches.packageFolder, input.switches.destination});
+    if (chain.LeadThrough(input.pages) == PageChain::End::Cancelled)
+        return;
+    input.ask.Inform(package.texts(Message::TestTitle, ProjectNameOf(package)),
+                     package.texts[Message::TestNothing]);
+    chain.ShowClosingPage(input.pages);
+}
+
 } // namespace
 
 TestWindow DescribePages(const LoadedPackage& package)
 {
-    const Project& project = package.setup.project;
     TestWindow window = Window(package, Message::TestTitle);
-    for (const Page& page : kPagesInOrder)
-        if (project.DialogBoxes.*page.isOn == 1)
-            window.lines.push_back(NumberText(static_cast<std::int64_t>(window.lines.size()) + 1) +
-                                   ". " + TitleOf(page, project.DialogBoxData, package.texts));
+    for (const PageKind page : PagesOf(package.setup))
+        window.lines.push_back(NumberText(static_cast<std::int64_t>(window.lines.size()) + 1) +
+                               ". " + NameOfPage(package.setup, page, package.texts));
     window.heading =
         package.texts[window.lines.empty() ? Message::TestNoPages : Message::TestPages];
     return window;
@@ -129,7 +108,9 @@ ExitCode RunTest(const TestInput& input, const LoadedPackage& package)
     try {
         const TestWindow window = Describe(package, *input.switches.testMode);
         LogWindow(input, window, texts);
-        if (!input.switches.silent)
+        if (!input.switches.silent && input.switches.testMode == TestMode::Test)
+            LeadThroughPages(input, package);
+        else if (!input.switches.silent)
             input.show(window);
         return ExitCode::Done;
     } catch (const RunError& error) {

@@ -1,12 +1,13 @@
-// What the setup does when its author tries it from the tool: it reads its files, shows what it
-// would show, and installs nothing. Nothing is written but the log that /LOG= asks for.
+// What the setup does when its author tries it from the tool: it reads its files, leads through its
+// pages or shows its screen, and installs nothing. Nothing is written but the log that /LOG= asks
+// for.
 #pragma once
 
 #include "runtime/setup_program.h"
 
 namespace quillon {
 
-/// What the one window of a test shows until the user closes it.
+/// What a test shows, in words: for its log, and for the window of a preview.
 struct TestWindow {
     Text title;              // names the project
     Text note;               // that nothing is installed
@@ -25,9 +26,12 @@ LoadedPackage LoadForTest(const FileSystem& files, const Text& folder, TestMode 
 
 struct TestInput {
     Host& host;
+    Target& target;
     Ask& ask;
     const Switches& switches;
-    /// Shows the window and waits for its end; not called under /S.
+    /// What the pages of a test are shown by; not called under /S.
+    PageView& pages;
+    /// Shows the window of a preview and waits for its end; not called under /S.
     std::function<void(const TestWindow& window)> show;
 };
 

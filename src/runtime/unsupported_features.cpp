@@ -15,20 +15,8 @@ std::vector<SkippedPart> UnsupportedFeatures(const SetupInformation& setup,
                                              const LanguageTexts& texts)
 {
     const Project& project = setup.project;
-    const section::DialogBoxes& pages = project.DialogBoxes;
     // clang-format off
     const Part parts[] = {
-        {pages.WelcomeDlg == 1,                           {Message::PartPage, "WelcomeDlg"}},
-        {pages.GeneralInfoDlg == 1,                       {Message::PartPage, "GeneralInfoDlg"}},
-        {pages.GeneralInfoDlg2 == 1,                      {Message::PartPage, "GeneralInfoDlg2"}},
-        {pages.LicenseInfoDlg == 1,                       {Message::PartPage, "LicenseInfoDlg"}},
-        {pages.LicenseInfoRtfDlg == 1,                    {Message::PartPage, "LicenseInfoRtfDlg"}},
-        {pages.NameCompanyDlg == 1,                       {Message::PartPage, "NameCompanyDlg"}},
-        {pages.DestinationDlg == 1,                       {Message::PartPage, "DestinationDlg"}},
-        {pages.DestinationDriveDlg == 1,                  {Message::PartPage, "DestinationDriveDlg"}},
-        {pages.ProgramGroupDlg == 1,                      {Message::PartPage, "ProgramGroupDlg"}},
-        {pages.StartInstallDlg == 1,                      {Message::PartPage, "StartInstallDlg"}},
-        {pages.InstallCompletedDlg == 1,                  {Message::PartPage, "InstallCompletedDlg"}},
         {!project.Lists.RunScriptBefore.empty(),          {Message::PartScriptBefore}},
         {!project.Lists.RunScriptAfter.empty(),           {Message::PartScriptAfter}},
         {!project.Lists.AutoexecBat.empty(),              {Message::PartStartupLines, "AUTOEXEC.BAT"}},
@@ -37,7 +25,6 @@ std::vector<SkippedPart> UnsupportedFeatures(const SetupInformation& setup,
         {!project.RunAppAfter.AppFileName1.empty(),       {Message::PartProgram, "1"}},
         {!project.RunAppAfter.AppFileName2.empty(),       {Message::PartProgram, "2"}},
         {!project.ShowDocAfter.DocFileName.empty(),       {Message::PartDocument}},
-        {project.Updates.HandleUpdate != kOff,            {Message::PartUpdate}},
         {project.InstallOptions.RestartWindows != kOff,   {Message::PartRestart}},
     };
     // clang-format on

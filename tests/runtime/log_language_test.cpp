@@ -46,8 +46,6 @@ protected:
 
 TEST_F(LogLanguageTest, TellsOfAnInstallationInTheLanguageOfThePackage)
 {
-    project.DialogBoxes = {};
-    project.DialogBoxes.WelcomeDlg = 1;
     project.Lists.AutoexecBat = "x";
     project.Lists.Registry = "x\r\nHKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Namn=\"x\"\r\n"
                              "HKEY_DYN_DATA\\x";
@@ -60,8 +58,6 @@ TEST_F(LogLanguageTest, TellsOfAnInstallationInTheLanguageOfThePackage)
         Lines(),
         testing::IsSupersetOf(
             {"Installing Exempel from D:\\Paket",
-             "Skipping the dialog box WelcomeDlg: not supported by this version of the "
-             "setup program",
              "Skipping the lines for AUTOEXEC.BAT: not supported by this version of the "
              "setup program",
              "Skipping the registry line \"x\": the line doesn't begin with a root key of "

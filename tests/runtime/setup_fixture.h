@@ -151,6 +151,7 @@ protected:
     bool isContainerMissing = false;
     Text openedContainer;
     Ask* ask = nullptr; // null: silent
+    PageView* pages = nullptr;
 };
 
 } // namespace quillon::test

@@ -126,7 +126,10 @@ TEST_F(SetupVariablesTest, AskTheRegistryForTheUserOnlyWhereThePackageSaysSo)
     setup.project.DialogBoxData.GetNameCompanyFromRegistry = kOn;
     EXPECT_EQ(Make().Value("%USERNAME"), "Ulla Ek");
     EXPECT_EQ(Make().Value("%USERCOMPANY"), "Firma AB");
+    // What the machine knows goes before what the project proposes.
     setup.project.LicenseData.UserName = "Kund";
+    EXPECT_EQ(Make().Value("%USERNAME"), "Ulla Ek");
+    host.machine.owner.owner = "";
     EXPECT_EQ(Make().Value("%USERNAME"), "Kund");
 }
 

@@ -1,7 +1,10 @@
 #include "runtime/test_mode.h"
 
+#include "memory_target.h"
 #include "platform/run_error.h"
+#include "runtime/pages/page_order.h"
 #include "runtime/silent_ask.h"
+#include "scripted_pages.h"
 #include "support/golden.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"
@@ -35,7 +38,8 @@ protected:
     }
 
     /// A run on what lies in the folder, which it must leave as it is but for the log.
-    ExitCode Run(const Text& line, std::deque<ExpectedBox> script = {})
+    ExitCode Run(const Text& line, std::deque<ExpectedBox> script = {},
+                 std::deque<test::ScriptedPages::Step> steps = {})
     {
         ScriptedAsk user(std::move(script));
         SilentAsk nobody;
@@ -43,9 +47,10 @@ protected:
         const LoadedPackage package = LoadForTest(memory.files, kFolder, *switches.testMode);
         const std::map<Text, std::string> before = Files();
         shown.clear();
+        test::ScriptedPages pages(std::move(steps));
         const ExitCode code =
-            RunTest({memory.host, switches.silent ? static_cast<Ask&>(nobody) : user, switches,
-                     [&](const TestWindow& window) { shown.push_back(window); }},
+            RunTest({memory.host, target, switches.silent ? static_cast<Ask&>(nobody) : user,
+                     switches, pages, [&](const TestWindow& window) { shown.push_back(window); }},
                     package);
         std::map<Text, std::string> after = Files();
         after.erase("c:\\log.txt");
@@ -61,6 +66,7 @@ protected:
     }
 
     MemoryHost memory;
+    test::MemoryTarget target{&memory.files};
     std::vector<TestWindow> shown;
 };
 
@@ -104,7 +110,7 @@ TEST(DescribePages, KnowsEveryPage)
     project.DialogBoxData.LicenseTitleRtf = "Avtal i RTF";
     EXPECT_THAT(PagesOf(project).lines,
                 ElementsAre("1. Välkommen", "2. Generell information", "3. Generell information 2",
-                            "4. Avtal", "5. Avtal i RTF", "6. Lösenord", "7. Registrering (lokalt)",
+                            "4. Avtal", "5. Avtal i RTF", "6. Lösenord", "7. Registrering",
                             "8. Destinationsmapp", "9. Enhet", "10. Välj programgrupp",
                             "11. Starta installation", "12. Installationen avslutad"));
 }
@@ -123,7 +129,7 @@ TEST(DescribePages, HasWordsForAPageWithoutATitle)
     EXPECT_THAT(PagesOf(project).lines,
                 ElementsAre("1. Välkommen", "2. Generell information", "3. Generell information 2",
                             "4. Licensinformation", "5. Licensinformation (RTF)", "6. Lösenord",
-                            "7. Registrering (lokalt)", "8. Destinationsmapp", "9. Enhet",
+                            "7. Registrering", "8. Destinationsmapp", "9. Enhet",
                             "10. Välj programgrupp", "11. Starta installation",
                             "12. Installationen avslutad"));
 }
@@ -168,15 +174,33 @@ TEST(DescribeScreen, TellsWhatIsOnIt)
                             "Storlek: 640 x 480 bildpunkter", "Bakgrundsbild: c:\\b.bmp"));
 }
 
-TEST_F(TestModeTest, ShowsTheWindowAndInstallsNothing)
+TEST_F(TestModeTest, LeadsThroughThePagesAndInstallsNothing)
 {
-    EXPECT_EQ(Run("/TEST"), ExitCode::Done);
-    ASSERT_EQ(shown.size(), 1U);
     const LoadedPackage package = LoadForTest(memory.files, kFolder, TestMode::Test);
-    const TestWindow window = DescribePages(package);
-    EXPECT_EQ(shown[0].title, "Test av " + package.setup.project.ProjectName.ProjectName);
-    EXPECT_EQ(shown[0].lines, window.lines);
-    EXPECT_THAT(window.lines, testing::Not(IsEmpty()));
+    std::deque<test::ScriptedPages::Step> steps;
+    for (const PageKind page : quillon::PagesOf(package.setup)) {
+        test::ScriptedPages::Step step{page};
+        if (page == PageKind::Password)
+            step.act = test::Typing(PageField::Password,
+                                    package.setup.project.DialogBoxData.CorrectPassword);
+        steps.push_back(step);
+    }
+    ASSERT_GT(steps.size(), 3U);
+    const Text title = "Test av " + package.setup.project.ProjectName.ProjectName;
+    EXPECT_EQ(Run("/TEST",
+                  {{BoxKind::Inform, title, "Det här är ett test. Ingenting installeras."}}, steps),
+              ExitCode::Done);
+    EXPECT_THAT(shown, IsEmpty());
+}
+
+TEST_F(TestModeTest, EndsWhereItIsCancelled)
+{
+    const LoadedPackage package = LoadForTest(memory.files, kFolder, TestMode::Test);
+    EXPECT_EQ(
+        Run("/TEST",
+            {{BoxKind::YesNo, "Installation av " + package.setup.project.ProjectName.ProjectName}},
+            {{quillon::PagesOf(package.setup).front(), PageAction::Cancel}}),
+        ExitCode::Done);
 }
 
 TEST_F(TestModeTest, NeedsNoFileListForAPreview)

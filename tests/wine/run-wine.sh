@@ -2,7 +2,8 @@
 # run-wine.sh 32|64 PREFIX COMMAND...: runs a Wine command on a prefix, with nothing of the caller's
 # surroundings but the variables named below. COMMAND is a program and its arguments, or
 # "wineserver". A 32-bit prefix has to lie within the folder of prepare-wine32.sh, and is named by its
-# path on this machine. Ends with 125 where there is no such Wine.
+# path on this machine. QUILLON_WINE_DISPLAY is the X server that shows the windows, if any. Ends with
+# 125 where there is no such Wine.
 set -eu
 
 kind=$1 prefix=$2
@@ -29,7 +30,8 @@ fi
 # Without /proc, as in a bare root, the loader has to be told where its libraries lie.
 set -- env -i PATH=/usr/bin:/bin HOME="${prefix#"$root"}" LANG=C.UTF-8 TZ=UTC WINEDEBUG=-all \
     WINEPREFIX="${prefix#"$root"}" WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d' \
-    ${root:+WINEDLLPATH=/usr/lib/i386-linux-gnu/wine} "$@"
+    ${root:+WINEDLLPATH=/usr/lib/i386-linux-gnu/wine} \
+    ${QUILLON_WINE_DISPLAY:+DISPLAY="$QUILLON_WINE_DISPLAY"} "$@"
 [ -n "$root" ] || exec "$@"
 if [ "$(id -u)" = 0 ]; then
     exec /usr/sbin/chroot "$root" "$@"

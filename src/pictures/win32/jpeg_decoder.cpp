@@ -3,10 +3,15 @@
 // library is looked for in the folder of the program. A system without it has no JPEG pictures.
 #include "pictures/jpeg_decoder.h"
 
-#include <initguid.h>
 #include <windows.h>
 
-#include <objbase.h>
+#include <ocidl.h>
+#include <ole2.h>
+#include <propidl.h>
+
+// The interfaces of the headers above are in the library of such numbers; only those of the imaging
+// component are made here.
+#include <initguid.h>
 #include <wincodec.h>
 
 namespace quillon {

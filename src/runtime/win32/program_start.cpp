@@ -21,30 +21,32 @@ constexpr const char* kCommonLibraries[] = {
 
 constexpr UINT kMaxNameLength = 64;
 
-// With a whole path Windows looks for what the library needs beside it, not beside the program.
-HMODULE LoadFromSystemFolder(const char* name)
+template <class Function>
+Function OfKernel(const char* name)
 {
-    char path[MAX_PATH + kMaxNameLength];
-    const UINT length = GetSystemDirectoryA(path, MAX_PATH);
-    if (length == 0 || length >= MAX_PATH || lstrlenA(name) >= int(kMaxNameLength) - 1)
-        return nullptr;
-    lstrcatA(path, "\\");
-    lstrcatA(path, name);
-    return LoadLibraryExA(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    return reinterpret_cast<Function>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), name)));
+}
+
+// A program whose manifest asks for the newer controls gets them from the system's store of side by
+// side libraries, by the bare name alone; Windows looks nowhere else for it then.
+bool IsInSideBySideStore(const char* name)
+{
+    using Function = BOOL(WINAPI*)(DWORD, const GUID*, ULONG, LPCSTR, void*);
+    const auto find = OfKernel<Function>("FindActCtxSectionStringA");
+    constexpr ULONG kLibraries = 2; // ACTIVATION_CONTEXT_SECTION_DLL_REDIRECTION
+    ACTCTX_SECTION_KEYED_DATA found{};
+    found.cbSize = sizeof found;
+    return find != nullptr && find(0, nullptr, kLibraries, name, &found) != FALSE;
 }
 
 FARPROC WINAPI OnDelayedLoad(unsigned event, PDelayLoadInfo info)
 {
     if (event != dliNotePreLoadLibrary)
         return nullptr;
-    return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(LoadFromSystemFolder(info->szDll)));
-}
-
-template <class Function>
-Function OfKernel(const char* name)
-{
-    return reinterpret_cast<Function>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), name)));
+    const HMODULE loaded = IsInSideBySideStore(info->szDll) ? LoadLibraryA(info->szDll)
+                                                            : LoadFromSystemFolder(info->szDll);
+    return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(loaded));
 }
 
 // The error mode keeps the box away, but not a debugger that is set up to look at crashes: it would
@@ -56,6 +58,18 @@ LONG WINAPI EndAtOnce(EXCEPTION_POINTERS* crash)
 }
 
 } // namespace
+
+// With a whole path Windows looks for what the library needs beside it, not beside the program.
+HMODULE LoadFromSystemFolder(const char* name)
+{
+    char path[MAX_PATH + kMaxNameLength];
+    const UINT length = GetSystemDirectoryA(path, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH || lstrlenA(name) >= int(kMaxNameLength) - 1)
+        return nullptr;
+    lstrcatA(path, "\\");
+    lstrcatA(path, name);
+    return LoadLibraryExA(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+}
 
 void LoadCommonLibraries()
 {

@@ -2,6 +2,8 @@
 // library, since the starter uses it too.
 #pragma once
 
+#include <windows.h>
+
 namespace quillon {
 
 /// From here on libraries are taken from the system's folder only: a package lies in a folder of
@@ -9,6 +11,10 @@ namespace quillon {
 /// its own, neither for a missing disk nor for a crash, since nobody may be there to answer them: a
 /// crash ends the program at once, with the exception's code.
 void StartProgram();
+
+/// The library of that name; null where the system has none. With its whole path, so that what it
+/// needs itself is looked for beside it.
+HMODULE LoadFromSystemFolder(const char* name);
 
 /// Loads from the system's folder, by its whole path, what Windows itself asks for by the name
 /// alone while a program runs. Systems that can't be told where to look need it: those before

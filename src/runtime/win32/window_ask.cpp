@@ -2,6 +2,7 @@
 
 #include "platform/win32/wide_text.h"
 #include "runtime/exit_codes.h"
+#include "runtime/win32/folder_choice.h"
 #include "runtime/win32/message_box.h"
 #include "runtime/win32/plain_window.h"
 
@@ -67,10 +68,19 @@ void WindowAsk::Hide()
     ShowWindow(window_, SW_HIDE);
 }
 
+HWND WindowAsk::BoxOwner() const
+{
+    return IsWindowVisible(window_) ? window_ : owner_;
+}
+
+std::optional<Text> WindowAsk::SelectDir(const Text& text, const Text& folder)
+{
+    return ChooseFolder(BoxOwner(), text, folder);
+}
+
 int WindowAsk::ShowBox(const Text& title, const Text& text, UINT kind)
 {
-    const HWND owner = IsWindowVisible(window_) ? window_ : nullptr;
-    return ShowMessageBox(owner, {title, text, kind}, texts_);
+    return ShowMessageBox(BoxOwner(), {title, text, kind}, texts_);
 }
 
 void WindowAsk::Inform(const Text& title, const Text& text)

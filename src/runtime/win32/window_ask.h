@@ -18,6 +18,8 @@ public:
 
     void Show();
     void Hide();
+    /// Boxes stand in front of this window while this one is hidden.
+    void SetOwner(HWND owner) { owner_ = owner; }
 
     void Inform(const Text& title, const Text& text) override;
     void Warn(const Text& title, const Text& text) override;
@@ -25,6 +27,7 @@ public:
     bool YesNo(const Text& title, const Text& text, Stops stops) override;
     bool OkCancel(const Text& title, const Text& text) override;
     Answer YesNoCancel(const Text& title, const Text& text) override;
+    std::optional<Text> SelectDir(const Text& text, const Text& folder) override;
     void AddStatusLine(const Text& line) override;
     void ShowProgress(std::uint64_t done, std::uint64_t total) override;
     void ShowBusyPointer(bool) override {}
@@ -33,6 +36,7 @@ public:
     void ProcessEvents() override;
 
 private:
+    HWND BoxOwner() const;
     int ShowBox(const Text& title, const Text& text, UINT kind);
     void PumpMessages();
     static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data);
@@ -40,6 +44,7 @@ private:
     const LanguageTexts& texts_;
     Text title_;
     HWND window_ = nullptr;
+    HWND owner_ = nullptr;
     HWND status_ = nullptr;
     HWND bar_ = nullptr;
     int shownProgress_ = -1;

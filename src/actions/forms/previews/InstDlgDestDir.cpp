@@ -14,11 +14,11 @@
 namespace quillon {
 
 InstDlgDestDir::InstDlgDestDir(const DiskSpacePreview& page, Session& session, QWidget* parent)
-    : InstDlg("InstDlgDestDir", &section::DialogBoxes::DestinationDlg, "Destinationskatalog", {},
+    : InstDlg("InstDlgDestDir", &section::DialogBoxes::DestinationDlg, "Destinationsmapp", {},
               session, parent)
 {
     Paragraph(NAMED(sText),
-              "Programmet installeras i katalogen nedan. Välj en annan katalog om du vill ha det "
+              "Programmet installeras i mappen nedan. Välj en annan mapp om du vill ha det "
               "någon annanstans.",
               "Text", PageLayout::kMaxTextHeight);
     Named(NAMED(tDestDir), new QLineEdit(ToQt(PreviewMainFolder(session.project, session.host))));
@@ -30,7 +30,7 @@ InstDlgDestDir::InstDlgDestDir(const DiskSpacePreview& page, Session& session, Q
     OnLeave(tDestDir, [this] { ShowSpace(); });
     ArrangePage(VBox({
         sText,
-        Above("&Katalog:", HBox({tDestDir, cmdBrowse})),
+        Above("&Mapp:", HBox({tDestDir, cmdBrowse})),
         Stretch(),
         space,
     }));
@@ -40,7 +40,7 @@ InstDlgDestDir::InstDlgDestDir(const DiskSpacePreview& page, Session& session, Q
 void InstDlgDestDir::Browse()
 {
     const auto folder =
-        session_.ask.SelectDir("Välj katalog för installationen.", FromQt(tDestDir->text()));
+        session_.ask.SelectDir("Välj mapp för installationen.", FromQt(tDestDir->text()));
     if (!folder || folder->empty())
         return;
     tDestDir->setText(ToQt(*folder));

@@ -7,10 +7,12 @@
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
 #include "runtime/failure_reason.h"
+#include "runtime/pages/design_files.h"
 #include "runtime/setup_program.h"
 #include "runtime/silent_ask.h"
 #include "runtime/win32/library_container.h"
 #include "runtime/win32/message_box.h"
+#include "runtime/win32/page_window.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/register_process.h"
@@ -32,6 +34,13 @@ Text UnzipLibrary(const FileSystem& files, const Text& packageFolder)
                : JoinPath(packageFolder, RuntimePrograms::kUnzipLibrary.inPackage);
 }
 
+// Under /S nobody is led anywhere.
+class NoPages : public PageView {
+public:
+    PageAction Show(SetupPage&, const PageListener&) override { return PageAction::Cancel; }
+    void StepAside() override {}
+};
+
 // No private folder either: a test leaves nothing on the machine.
 ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
                        LanguageTexts& texts)
@@ -39,18 +48,24 @@ ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
     const LoadedPackage package =
         LoadForTest(host.files, switches.packageFolder, *switches.testMode);
     texts = package.texts;
-    const auto run = [&](Ask& ask) {
-        return RunTest({host, ask, switches,
+    // Nothing is registered, so no helper is needed.
+    WinTarget target{Text()};
+    const auto run = [&](Ask& ask, PageView& pages) {
+        return RunTest({host, target, ask, switches, pages,
                         [&](const TestWindow& window) { ShowTestWindow(instance, window); }},
                        package);
     };
     if (switches.silent) {
         SilentAsk silent;
-        return run(silent);
+        NoPages none;
+        return run(silent, none);
     }
-    // For its boxes; it is not shown itself.
+    // For its boxes; it is shown where the installation would be.
     WindowAsk boxes(instance, {}, package.texts);
-    return run(boxes);
+    DesignFiles design(host.files, {}, switches.packageFolder, DesignFiles::Names::WholePaths);
+    PageWindow pages(instance, boxes, package.texts,
+                     [&](const Text& bitmap) { return design.SidePicture(bitmap); });
+    return run(boxes, pages);
 }
 
 ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
@@ -61,21 +76,23 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     texts = package.texts;
     const PrivateFolder work(host);
     WinTarget target(JoinPath(work.Path(), RuntimePrograms::kRegistryHelper.inPackage));
-    const auto run = [&](Ask& ask) {
-        return RunSetup({host, target, ask,
-                         LibraryContainers(UnzipLibrary(files, switches.packageFolder)), switches,
-                         work.Path()},
-                        package);
+    const OpenContainer openContainer =
+        LibraryContainers(UnzipLibrary(files, switches.packageFolder));
+    const auto run = [&](Ask& ask, PageView* pages) {
+        return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages}, package);
     };
     if (switches.silent) {
         SilentAsk silent;
-        return run(silent);
+        return run(silent, nullptr);
     }
     WindowAsk window(instance,
                      package.texts(Message::Title, package.setup.project.ProjectName.ProjectName),
                      package.texts);
+    DesignFiles design(files, openContainer, switches.packageFolder, DesignFiles::Names::InPackage);
+    PageWindow pages(instance, window, package.texts,
+                     [&](const Text& bitmap) { return design.SidePicture(bitmap); });
     window.Show();
-    return run(window);
+    return run(window, &pages);
 }
 
 // `texts` become those of the package as soon as they have been read.

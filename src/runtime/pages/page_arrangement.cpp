@@ -1,0 +1,204 @@
+#include "runtime/pages/page_arrangement.h"
+
+#include "formats/page_layout.h"
+#include "helpers/number_text.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+using namespace PageLayout;
+
+// In dialog units, as dialogs of Windows have them.
+constexpr int kEntryHeight = 14;
+constexpr int kLineHeight = 9;
+constexpr int kBoxHeight = 11;
+constexpr int kAfterLabel = 2;
+constexpr int kLineThickness = 2; // pixels
+
+bool Grows(PieceKind kind)
+{
+    return kind == PieceKind::Rest || kind == PieceKind::Paper || kind == PieceKind::RichPaper ||
+           kind == PieceKind::List || kind == PieceKind::CheckList || kind == PieceKind::Gap;
+}
+
+bool HasLabelBefore(const PagePiece& piece)
+{
+    const bool isLine = piece.kind == PieceKind::Entry || piece.kind == PieceKind::Secret ||
+                        piece.kind == PieceKind::Value;
+    return isLine && !piece.isLabelAbove;
+}
+
+bool HasLabelAbove(const PagePiece& piece)
+{
+    return piece.isLabelAbove || piece.kind == PieceKind::List ||
+           piece.kind == PieceKind::CheckList;
+}
+
+class Arranger {
+public:
+    Arranger(const SetupPage& page, const PageRuler& ruler) : page_(page), ruler_(ruler) {}
+
+    PageArrangement Arrange()
+    {
+        result_.width = Across(kPageWidth);
+        const int pageHeight = Down(kPageHeight);
+        result_.picture = {0, 0, pageHeight * kPictureWidthInPixels / kPictureHeightInPixels,
+                           pageHeight};
+        left_ = result_.picture.right + Across(kMargin);
+        right_ = result_.width - Across(kMargin);
+        top_ = Down(kMargin);
+        PlaceTitle();
+        PlacePieces(pageHeight - Down(kMargin));
+        PlaceButtons(pageHeight);
+        return std::move(result_);
+    }
+
+private:
+    int Across(double units) const { return Rounded(units * ruler_.UnitAcross()); }
+    int Down(double units) const { return Rounded(units * ruler_.UnitDown()); }
+    static int Rounded(double pixels) { return static_cast<int>(RoundToEven(pixels)); }
+
+    void PlaceTitle()
+    {
+        if (page_.title.empty())
+            return;
+        const int height = ruler_.TextHeight(page_.title, right_ - left_, true);
+        const int room = std::min(height, Down(kMaxTitleHeight));
+        result_.title = {left_, top_, right_, top_ + room};
+        result_.titleScrolls = height > room;
+        top_ += room + Down(kGap);
+    }
+
+    /// Without its label; what grows has none of its own.
+    int OwnHeight(const PagePiece& piece) const
+    {
+        switch (piece.kind) {
+        case PieceKind::Paragraph:
+            // A description that changes keeps its room.
+            return piece.field == PageField::ComponentText
+                       ? Down(piece.maxHeight)
+                       : std::min(ruler_.TextHeight(piece.text, right_ - left_, false),
+                                  Down(piece.maxHeight));
+        case PieceKind::Entry:
+        case PieceKind::Secret:
+            return Down(kEntryHeight);
+        case PieceKind::Button:
+            return Down(kButtonHeight);
+        case PieceKind::Value:
+            return Down(kLineHeight);
+        case PieceKind::CheckBox:
+            return Down(kBoxHeight);
+        default:
+            return 0;
+        }
+    }
+
+    int LabelHeight(const PagePiece& piece) const
+    {
+        return HasLabelAbove(piece) ? Down(kLineHeight) + Down(kAfterLabel) : 0;
+    }
+
+    // Labels in a row of lines stand in a column of their own.
+    int LabelColumn() const
+    {
+        int width = 0;
+        for (const PagePiece& piece : page_.pieces)
+            if (HasLabelBefore(piece))
+                width = std::max(width, ruler_.LineWidth(piece.label));
+        return width + Across(kGap);
+    }
+
+    void PlacePieces(int bottom)
+    {
+        int fixed = 0;
+        int growing = 0;
+        for (const PagePiece& piece : page_.pieces) {
+            fixed += OwnHeight(piece) + LabelHeight(piece) + Down(GapBehind(piece));
+            growing += Grows(piece.kind) ? 1 : 0;
+        }
+        if (!page_.pieces.empty())
+            fixed -= Down(GapBehind(page_.pieces.back()));
+        const int rest = std::max(0, bottom - top_ - fixed);
+        const int labels = LabelColumn();
+        for (const PagePiece& piece : page_.pieces) {
+            const int height = Grows(piece.kind) ? rest / growing : OwnHeight(piece);
+            result_.pieces.push_back(Place(piece, height, labels));
+        }
+    }
+
+    // Lines that tell something stand closer.
+    static double GapBehind(const PagePiece& piece)
+    {
+        return piece.kind == PieceKind::Gap     ? 0
+               : piece.kind == PieceKind::Value ? kAfterLabel
+                                                : kGap;
+    }
+
+    PlacedPiece Place(const PagePiece& piece, int height, int labels)
+    {
+        PlacedPiece placed;
+        if (HasLabelAbove(piece)) {
+            placed.label = {left_, top_, right_, top_ + Down(kLineHeight)};
+            top_ += LabelHeight(piece);
+        }
+        placed.field = {left_, top_, right_, top_ + height};
+        if (HasLabelBefore(piece)) {
+            // On the height of the letters in the field.
+            const int inset = (height - Down(kLineHeight)) / 2;
+            placed.label = {left_, top_ + inset, left_ + labels, top_ + inset + Down(kLineHeight)};
+            placed.field.left += labels;
+        }
+        if (!piece.button.empty()) {
+            placed.button = placed.field;
+            placed.button.left = right_ - ButtonWidth(piece.button);
+            placed.field.right = placed.button.left - Across(kButtonGap);
+        }
+        if (piece.kind == PieceKind::Button)
+            placed.field.right = left_ + ButtonWidth(piece.label);
+        const bool isText = piece.kind == PieceKind::Paragraph || piece.kind == PieceKind::Rest;
+        placed.scrolls = isText && ruler_.TextHeight(piece.text, right_ - left_, false) > height;
+        top_ += height + Down(GapBehind(piece));
+        return placed;
+    }
+
+    int ButtonWidth(const Text& caption) const
+    {
+        return std::max(Across(kButtonWidth), ruler_.LineWidth(caption) + Across(2 * kGap));
+    }
+
+    void PlaceButtons(int pageHeight)
+    {
+        result_.line = pageHeight;
+        const int top = pageHeight + kLineThickness + Down(kMargin);
+        result_.height = top + Down(kButtonHeight) + Down(kMargin);
+        const auto button = [&](int right) {
+            return PixelRect{right - Across(kButtonWidth), top, right, top + Down(kButtonHeight)};
+        };
+        if (page_.buttons == PageButtons::Finish) {
+            result_.forward = button(right_);
+            return;
+        }
+        result_.away = button(right_);
+        result_.forward = button(result_.away.left - Across(kMargin));
+        result_.back = button(result_.forward.left - Across(kButtonGap));
+    }
+
+    const SetupPage& page_;
+    const PageRuler& ruler_;
+    PageArrangement result_;
+    int left_ = 0;
+    int right_ = 0;
+    int top_ = 0;
+};
+
+} // namespace
+
+PageArrangement ArrangePage(const SetupPage& page, const PageRuler& ruler)
+{
+    return Arranger(page, ruler).Arrange();
+}
+
+} // namespace quillon

@@ -1,0 +1,75 @@
+#include "runtime/pages/page_state.h"
+
+#include "runtime/pages/disk_space.h"
+
+namespace quillon {
+
+namespace {
+
+template <class Use>
+auto WithPlanInput(const PageState& state, const SetupInformation& setup, Use use)
+{
+    const PageInput& input = state.input;
+    const SetupVariables variables = state.Variables();
+    return use(PlanInput{setup, input.rows, variables, input.texts, input.host, input.target});
+}
+
+} // namespace
+
+SetupVariables PageState::Variables() const
+{
+    return MakeSetupVariables(
+        {setup, input.host, input.target, input.packageFolder,
+         choices.destination.empty() ? input.destination : choices.destination});
+}
+
+Text PageState::MainFolder() const
+{
+    return Variables().Value(NameOf(VariableMeaning::MainFolder));
+}
+
+Text PageState::ProjectTitle() const
+{
+    return input.texts(Message::Title, setup.project.ProjectName.ProjectName);
+}
+
+std::uint64_t PageState::Needed() const
+{
+    return WithPlanInput(*this, setup, NeededSpace);
+}
+
+std::uint64_t PageState::LeastNeeded() const
+{
+    return WithPlanInput(*this, setup, LeastNeededSpace);
+}
+
+bool PageState::CanBeInstalled(int component) const
+{
+    SetupInformation ticked = setup;
+    ticked.project.FileComponents[std::size_t(component) - 1].CompDefault = 1;
+    return WithPlanInput(*this, ticked, [&](const PlanInput& plan) {
+        return IsComponentInstalled(plan, component);
+    });
+}
+
+std::vector<Text> InstallDrives(const FileSystem& files)
+{
+    std::vector<Text> drives;
+    for (char letter = 'C'; letter <= 'Z'; ++letter) {
+        const Text root = Text(1, letter) + ":\\";
+        const DriveKind kind = files.DriveType(root);
+        if (kind == DriveKind::Fixed || kind == DriveKind::Remote || kind == DriveKind::Removable)
+            drives.push_back(root);
+    }
+    return drives;
+}
+
+Text GroupsFolder(const PageState& state)
+{
+    const Target& target = state.input.target;
+    const Text common = target.Folder(TargetFolder::CommonPrograms);
+    const bool forAll = state.setup.project.ProgramGroup.ProgramGroup_AllUsers != kOff;
+    return forAll && !common.empty() ? common : target.Folder(TargetFolder::Programs);
+}
+
+} // namespace quillon

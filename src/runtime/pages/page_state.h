@@ -1,0 +1,65 @@
+// What the pages know while the user goes through them, and what they work out of it.
+#pragma once
+
+#include "platform/ask.h"
+#include "runtime/install_plan.h"
+#include "runtime/pages/page.h"
+#include "runtime/pages/user_choices.h"
+
+namespace quillon {
+
+struct PageInput {
+    Host& host;
+    Target& target;
+    Ask& ask;
+    const LanguageTexts& texts;
+    const SetupInformation& setup;
+    const std::vector<InstallRow>& rows;
+    Text packageFolder;
+    Text destination;         // from a switch or of an earlier version; empty: the project's own
+    bool isUpdate = false;    // the destination is that of an earlier version
+    bool hasPassword = false; // the right one has been given already
+};
+
+struct PageState {
+    explicit PageState(const PageInput& from) : input(from), setup(from.setup) {}
+
+    const PageInput& input;
+    UserChoices choices;
+    SetupInformation setup; // the project with the choices in it
+    Text typedPassword;
+    Text acceptedFolder; // the user knows that it exists
+    bool showsDocument = true;
+
+    /// Takes what has been chosen into the project.
+    void Apply() { ApplyChoices(choices, setup); }
+    SetupVariables Variables() const;
+    Text MainFolder() const;
+    Text ProjectTitle() const; // "Installation av X"
+    /// Calls `use` with what the space on a disk is worked out from.
+    std::uint64_t Needed() const;
+    std::uint64_t LeastNeeded() const;
+    /// Whether the component would be installed if it were ticked: one that only updates an earlier
+    /// version needs that to be there.
+    bool CanBeInstalled(int component) const;
+};
+
+/// The page as it stands, filled with what was chosen before.
+SetupPage MakePage(const PageState& state, PageKind kind);
+
+/// Takes what has been typed and ticked.
+void StoreAnswers(PageState& state, const SetupPage& page);
+
+/// Whether the page's answers will do; tells the user where not.
+bool MayLeavePage(PageState& state, SetupPage& page);
+
+/// What follows from a change of the field, on the same page.
+void ReactTo(PageState& state, SetupPage& page, PageField field);
+
+// The drives that something can be installed on, "C:\".
+std::vector<Text> InstallDrives(const FileSystem& files);
+
+/// Where the groups of programs are made.
+Text GroupsFolder(const PageState& state);
+
+} // namespace quillon

@@ -1,0 +1,62 @@
+// The window of the pages. It stays the same one from page to page; what stands in it is made anew.
+#pragma once
+
+#include "design/scalable_picture.h"
+#include "runtime/language_file.h"
+#include "runtime/pages/page.h"
+#include "runtime/win32/page_controls.h"
+
+#include <memory>
+#include <optional>
+
+namespace quillon {
+
+class WindowAsk;
+
+class PageWindow : public PageView {
+public:
+    using PictureSource = std::function<ScalablePicture(const Text& bitmap)>;
+
+    /// `ask` is the window of the installation, which steps aside for the pages.
+    PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& texts,
+               PictureSource pictures);
+    ~PageWindow() override;
+    PageWindow(const PageWindow&) = delete;
+    PageWindow& operator=(const PageWindow&) = delete;
+
+    PageAction Show(SetupPage& page, const PageListener& listener) override;
+    void StepAside() override;
+
+private:
+    static INT_PTR CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data);
+    INT_PTR OnMessage(UINT message, WPARAM word, LPARAM data);
+    void OnCommand(int id, int what);
+    void OnListChange(const NMHDR& note, LPARAM data);
+    bool TakesKeyOfPaper(const MSG& message);
+    void Notify(PageField field);
+    void Leave(PageAction action);
+    void Build();
+    void FitWindow(const PageArrangement& arrangement);
+    void LoadPicture(const PixelRect& place);
+    void Paint();
+    void ChangeScale(int dpi, const RECT& place);
+    PageCaptions Captions() const;
+
+    WindowAsk& ask_;
+    const LanguageTexts& texts_;
+    PictureSource pictures_;
+    HWND window_ = nullptr;
+    std::unique_ptr<PageLetters> letters_;
+    std::unique_ptr<PageControls> controls_;
+    SetupPage* page_ = nullptr; // while it is shown
+    const PageListener* listener_ = nullptr;
+    std::optional<PageAction> action_;
+    bool isBusy_ = false; // controls are being made or filled: what they say is no news
+    bool isPlaced_ = false;
+    std::optional<Text> shownBitmap_;
+    ScalablePicture original_;
+    Picture picture_;
+    PixelRect pictureRect_;
+};
+
+} // namespace quillon

@@ -1,0 +1,313 @@
+// The setup's pages as its user meets them: their windows and controls, found, read and pressed by
+// a second program; and what is installed then.
+#include "runtime/pages/page.h"
+#include "wine/folder_state.h"
+#include "wine/package.h"
+#include "wine/registry_text.h"
+#include "wine/sample_product.h"
+#include "wine/virtual_display.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quillon::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr const char* kTitle = "Installation av Provpaket Åäö";
+constexpr int kNext = 1;
+constexpr int kCancel = 2;
+constexpr int kBack = 3;
+constexpr int kYes = 6;
+constexpr int kNo = 7;
+constexpr int kEnter = 13;
+constexpr int kEscape = 27;
+constexpr int kSpace = 32;
+constexpr int kDown = 40;
+
+int IdOf(PageField field)
+{
+    return 100 + static_cast<int>(field);
+}
+
+/// The lines of a script, as `drive_setup` takes them.
+class Script {
+public:
+    Script& Page(const std::string& title) { return Add("page " + title); }
+    Script& Press(int id) { return Add("press " + std::to_string(id)); }
+    Script& Press(PageField field) { return Press(IdOf(field)); }
+    Script& Next() { return Press(kNext); }
+    Script& Back() { return Press(kBack); }
+    Script& Type(PageField field, const std::string& text)
+    {
+        return Add("type " + std::to_string(IdOf(field)) + " " + text);
+    }
+    Script& Choose(PageField field, int row)
+    {
+        return Add("choose " + std::to_string(IdOf(field)) + " " + std::to_string(row));
+    }
+    Script& Key(int id, int code)
+    {
+        return Add("key " + std::to_string(id) + " " + std::to_string(code));
+    }
+    Script& Read(PageField field) { return Add("read " + std::to_string(IdOf(field))); }
+    Script& Await(PageField field, const std::string& text)
+    {
+        return Add("await " + std::to_string(IdOf(field)) + " " + text);
+    }
+    Script& Box(int button) { return Add("box " + std::to_string(button)); }
+    Script& Controls() { return Add("controls"); }
+    Script& Close() { return Add("close"); }
+    Script& Shoot(const fs::path& bitmap) { return Add("shot " + OnZ(bitmap)); }
+    Script& End() { return Add("end"); }
+
+    std::string Text(const std::string& command) const { return "run " + command + "\n" + lines_; }
+
+private:
+    Script& Add(const std::string& line)
+    {
+        lines_ += line + "\n";
+        return *this;
+    }
+
+    std::string lines_;
+};
+
+/// A product with every page but those that exclude each other.
+SampleProduct WithAllPages()
+{
+    SampleProduct product;
+    section::DialogBoxes& pages = product.project.DialogBoxes;
+    for (Integer section::DialogBoxes::*page :
+         {&section::DialogBoxes::WelcomeDlg, &section::DialogBoxes::GeneralInfoDlg,
+          &section::DialogBoxes::GeneralInfoDlg2, &section::DialogBoxes::LicenseInfoDlg,
+          &section::DialogBoxes::PasswordDlg, &section::DialogBoxes::NameCompanyDlg,
+          &section::DialogBoxes::DestinationDlg, &section::DialogBoxes::ProgramGroupDlg,
+          &section::DialogBoxes::StartInstallDlg, &section::DialogBoxes::InstallCompletedDlg})
+        pages.*page = 1;
+    section::DialogBoxData& data = product.project.DialogBoxData;
+    data.WelcomeDlgText = "Välkommen till %PROJECTNAME.\r\nTvå rader & ett tecken.";
+    data.GeneralDlgText = "Om programmet.";
+    data.GeneralDlgText2 = "Mer om programmet.";
+    data.LicenseTitle = "Licensavtal";
+    for (int i = 1; i <= 40; ++i)
+        data.LicenseText += std::to_string(i) + " §  Användaren får använda programmet.\r\n";
+    data.LicenseFootText = "Godkänner du avtalet?";
+    data.CorrectPassword = "Hemligt";
+    data.NameCompanyExtendedInfo = kOn;
+    data.DestDirShowSizeInfo = kOn;
+    data.StartInstallDlgText = "Allt är klart för installationen.";
+    data.InstallCompleteDlgText = "%PROJECTNAME är installerat.";
+    product.project.ProgramGroup.ProgramGroup = "Provgrupp";
+    product.project.ShowDocAfter.ShowCheckBox = 1;
+    product.project.ShowDocAfter.DocFileName = "läsmig.txt";
+    product.project.FileComponents[2].CompCanChangeDir = 1;
+    product.project.Lists.INIFiles = "-- WIN.INI --\r\n[Prov]\r\nNamn=%USERNAME\r\n";
+    return product;
+}
+
+class SetupPages : public testing::Test {
+protected:
+    /// What the driver has logged.
+    std::string Drive(const Script& script, const std::string& command)
+    {
+        WriteBytes(prefix.DriveC() / "script.txt", script.Text(command));
+        EXPECT_EQ(prefix.Run(OnZ(TestDriver()), R"(C:\script.txt C:\driven.txt)"), 0U);
+        return ReadBytes(prefix.DriveC() / "driven.txt");
+    }
+    static fs::path TestDriver()
+    {
+        const fs::path driver = WorkFolder() / "drive_setup.exe";
+        fs::copy_file(TestProgramFolder() / "drive_setup.exe", driver,
+                      fs::copy_options::skip_existing);
+        return driver;
+    }
+    static std::string Setup(const fs::path& package, const std::string& switches = {})
+    {
+        return "\"" + OnZ(package / "SETUP.EXE") + "\" " + switches;
+    }
+    // There is no screen, and Wine has to be told so, or it makes no window.
+    void UseNoScreen()
+    {
+        ASSERT_EQ(
+            prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"), 0U);
+        prefix.Stop();
+    }
+
+    const WinePrefix prefix;
+};
+
+TEST_F(SetupPages, LeadToWhatIsInstalled)
+{
+    UseNoScreen();
+    const fs::path package = MakePackage(WithAllPages().Order({"--medium", "cd"}));
+    Script script;
+    script.Page("Välkommen").Read(PageField::BodyText).Next();
+    script.Page("Generell information").Next();
+    script.Page("Generell information 2").Back();
+    script.Page("Generell information").Next().Page("Generell information 2").Next();
+    script.Page("Licensavtal").Read(PageField::FootText).Next();
+    script.Page("Lösenord").Type(PageField::Password, "fel").Next().Box(kCancel);
+    script.Page("Lösenord").Type(PageField::Password, "Hemligt").Next();
+    script.Page("Registrering").Type(PageField::UserName, "Åke Ö").Next();
+    script.Page("Destinationsmapp").Read(PageField::Folder).Read(PageField::NeededSpace);
+    script.Type(PageField::Folder, "nonsens").Next().Box(kCancel);
+    script.Page("Destinationsmapp").Type(PageField::Folder, "C:\\Min mapp").Next();
+    script.Page("Komponenter").Back();
+    script.Page("Destinationsmapp").Read(PageField::Folder).Next();
+    // The second component is unticked, the third one ticked and put into a folder of its own.
+    const int list = IdOf(PageField::Components);
+    script.Page("Komponenter").Key(list, kDown).Key(list, kSpace).Key(list, kDown);
+    script.Key(list, kSpace).Await(PageField::ComponentText, "Nej tack").Read(PageField::Folder);
+    script.Type(PageField::Folder, "C:\\Eget").Next();
+    script.Page("Välj programgrupp").Read(PageField::Group);
+    script.Type(PageField::Group, "Min grupp").Next();
+    script.Page("Starta installation").Read(PageField::BodyText).Next();
+    script.Page("Installationen avslutad").Read(PageField::BodyText).Next().End();
+    EXPECT_EQ(Drive(script, Setup(package)),
+              "Välkommen till Provpaket Åäö.|Två rader & ett tecken.\n"
+              "Godkänner du avtalet?\n" +
+                  std::string(kTitle) +
+                  ": Lösenordet är felaktigt.\n"
+                  "C:\\Program Files\\Provpaket Åäö\n"
+                  "7 189 kB\n" +
+                  kTitle +
+                  ": 'nonsens' är ingen mapp som det går att installera i. Skriv enhet och mapp, "
+                  "till exempel C:\\Program Files\\Provpaket Åäö.\n"
+                  "C:\\Min mapp\n"
+                  "C:\\Nej tack\n"
+                  "Provgrupp\n"
+                  "Allt är klart för installationen.||Mapp: C:\\Min mapp|Programgrupp: Min "
+                  "grupp|Komponenter: Alltid, Nej tack\n"
+                  "Provpaket Åäö är installerat.\n"
+                  "code 0\n");
+    EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\Min mapp\\Alltid\\Alltid.txt")));
+    EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\Eget\\Aldrig.txt")));
+    EXPECT_FALSE(fs::exists(prefix.OnHost("C:\\Min mapp\\Kanske")));
+    EXPECT_FALSE(fs::exists(prefix.OnHost("C:\\Program Files\\Provpaket Åäö")));
+    EXPECT_THAT(ReadBytes(prefix.OnHost("C:\\windows\\win.ini")), HasSubstr("Namn=\xC5ke \xD6"));
+}
+
+TEST_F(SetupPages, ChangeNothingWhereTheUserDeclinesOrCancels)
+{
+    UseNoScreen();
+    const fs::path package = MakePackage(WithAllPages().Order({"--medium", "cd"}));
+    const FolderState before = StateOf(prefix.DriveC() / "Program Files");
+    Script script;
+    // Esc and the window's own button cancel like the button, and each time the user is asked.
+    script.Page("Välkommen").Key(kNext, kEscape).Box(kNo);
+    script.Page("Välkommen").Close().Box(kNo);
+    script.Page("Välkommen").Press(kCancel).Box(kNo);
+    script.Page("Välkommen").Key(kNext, kEnter);
+    script.Page("Generell information").Next().Page("Generell information 2").Next();
+    script.Page("Licensavtal").Key(IdOf(PageField::Agreement), kEnter);
+    script.Page("Lösenord").Back();
+    script.Page("Licensavtal").Press(kCancel).Box(kYes).End();
+    const std::string question = std::string(kTitle) + ": Vill du avbryta installationen?\n";
+    EXPECT_EQ(Drive(script, Setup(package)),
+              question + question + question + question + "code 1602\n");
+    EXPECT_EQ(FolderDifference(before, StateOf(prefix.DriveC() / "Program Files")), "");
+}
+
+TEST_F(SetupPages, HaveControlsInTheOrderOfTheTabKeyWithTheirLabelsBefore)
+{
+    UseNoScreen();
+    const fs::path package = MakePackage(WithAllPages().Order({"--medium", "cd"}));
+    Script script;
+    script.Page("Välkommen").Next().Page("Generell information").Next();
+    script.Page("Generell information 2").Next().Page("Licensavtal").Next();
+    script.Page("Lösenord").Controls().Type(PageField::Password, "Hemligt").Next();
+    script.Page("Registrering").Next();
+    script.Page("Destinationsmapp").Controls().Press(kCancel).Box(kYes).End();
+    const std::string log = Drive(script, Setup(package));
+    EXPECT_THAT(log, HasSubstr("Static -1 Lösenord\n"
+                               "Static 101 Skriv in korrekt lösenord. Det krävs för att programmet "
+                               "ska kunna installeras.\n"
+                               "Static -1 &Lösenord:\n"
+                               "Edit 104 tab \n"
+                               "Static -1 \n"
+                               "Button 3 tab < &Bakåt\n"
+                               "Button 1 tab &Nästa >\n"
+                               "Button 2 tab Avbryt\n"));
+    EXPECT_THAT(log, HasSubstr("Static -1 &Mapp:\n"
+                               "Edit 111 tab C:\\Program Files\\Provpaket Åäö\n"
+                               "Button 112 tab B&läddra...\n"));
+    EXPECT_THAT(log, HasSubstr("Button 120 tab &Diskutrymme...\n"));
+}
+
+TEST_F(SetupPages, AreNotShownUnderTheSilentSwitch)
+{
+    const fs::path package = MakePackage(WithAllPages().Order({"--medium", "cd"}));
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S /PASSWORD=Hemligt"), 0U);
+    EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\Program Files\\Provpaket Åäö\\Kanske\\Kanske.txt")));
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 1603U);
+}
+
+TEST_F(SetupPages, OfATestInstallNothing)
+{
+    UseNoScreen();
+    SampleProduct product;
+    product.project.DialogBoxes.LicenseInfoRtfDlg = 1;
+    product.project.DialogBoxes.DestinationDlg = 0;
+    product.project.DialogBoxes.DestinationDriveDlg = 1;
+    const PackageOrder order = product.Order({});
+    const fs::path folder = WorkFolder() / "provkörning";
+    const fs::path quillonc = fs::path(QUILLON_BUILD_FOLDER) / "quillon" / "quillonc";
+    const ProgramResult written =
+        RunProgram({quillonc, "test", order.project, "--to", folder},
+                   {{"QUILLON_DRIVES", "S=" + order.drive.string()},
+                    {"QUILLON_DRIVE_C", WorkFolder() / "drive-of-the-tool"}});
+    ASSERT_EQ(written.exitCode, 0) << written.output;
+    fs::copy_file(RuntimeFolder() / "Small32" / "QNS32X.EXE", folder / "Qns32x.exe");
+    const FolderState before = StateOf(prefix.DriveC() / "Program Files");
+    Script script;
+    script.Page("Välkommen").Next().Page("Licensinformation").Next();
+    script.Page("Enhet").Next().Page("Komponenter").Next().Box(kCancel);
+    script.Page("Installationen avslutad").Press(kNext).End();
+    EXPECT_EQ(Drive(script, "\"" + OnZ(folder / "Qns32x.exe") + "\" /TEST"),
+              "Test av Provpaket Åäö: Det här är ett test. Ingenting installeras.\ncode 0\n");
+    EXPECT_EQ(FolderDifference(before, StateOf(prefix.DriveC() / "Program Files")), "");
+}
+
+// For eyes: each page as Wine paints it, in build/<preset>/screens/setup.
+TEST_F(SetupPages, HaveTheirPicturesTaken)
+{
+    const VirtualDisplay display;
+    SampleProduct product = WithAllPages();
+    const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
+    const fs::path shots = WorkFolder() / "bilder";
+    fs::create_directories(shots);
+    Script script;
+    int number = 0;
+    const auto shoot = [&](const std::string& title) -> Script& {
+        return script.Page(title).Shoot(shots / (std::to_string(++number) + ".bmp"));
+    };
+    shoot("Välkommen").Next();
+    shoot("Generell information").Next();
+    shoot("Generell information 2").Next();
+    shoot("Licensavtal").Next();
+    shoot("Lösenord").Type(PageField::Password, "Hemligt").Next();
+    shoot("Registrering").Next();
+    shoot("Destinationsmapp").Next();
+    shoot("Komponenter").Next();
+    shoot("Välj programgrupp").Next();
+    shoot("Starta installation").Next();
+    shoot("Installationen avslutad").Next();
+    script.End();
+    EXPECT_EQ(Drive(script, Setup(package)), "code 0\n");
+    for (int i = 1; i <= number; ++i) {
+        const fs::path png = fs::path(QUILLON_BUILD_FOLDER) / "screens" / "setup" /
+                             (std::to_string(WineBits()) + "-" + std::to_string(i) + ".png");
+        BitmapToPng(shots / (std::to_string(i) + ".bmp"), png);
+        EXPECT_GT(fs::file_size(png), 4000U) << "nothing was painted";
+    }
+}
+
+} // namespace
+} // namespace quillon::test

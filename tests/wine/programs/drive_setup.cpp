@@ -1,0 +1,288 @@
+// drive_setup SCRIPT LOG: starts a setup and does on its pages what the lines of the script say, as
+// a user would. The log gets a line for whatever is to be read, and the reason where a step could
+// not be done. It waits for what it looks for as long as the setup runs, and for no set time.
+//
+//   run COMMAND          starts the program
+//   page TITLE           waits until the page of that title is shown
+//   press ID             clicks the button
+//   type ID TEXT         puts the text into the line and leaves it
+//   choose ID ROW        chooses the row of a list
+//   key ID CODE          presses the key in the control
+//   read ID              logs the text of the control
+//   await ID TEXT        waits until the control has that text
+//   controls             logs kind, id and text of each control, in the order of the Tab key
+//   box BUTTON           waits for a message box, logs its text and presses the button
+//   shot FILE            writes what the page looks like as a bitmap
+//   close                closes the page by its frame
+//   end                  waits for the program's end and logs its code
+#include "helpers/number_text.h"
+#include "platform/run_error.h"
+#include "platform/whole_file.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_files.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+using namespace quillon;
+
+namespace {
+
+constexpr int kMaxWait = 60'000; // milliseconds; a step that takes longer never comes
+constexpr int kLook = 10;
+
+struct Search {
+    const wchar_t* kind;
+    std::wstring title; // empty: any
+    HWND found;
+};
+
+std::wstring TextOf(HWND window)
+{
+    std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1,
+                      L'\0');
+    text.resize(static_cast<std::size_t>(
+        SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+    return text;
+}
+
+std::wstring KindOf(HWND window)
+{
+    wchar_t kind[64] = {};
+    GetClassNameW(window, kind, 64);
+    return kind;
+}
+
+BOOL CALLBACK Match(HWND window, LPARAM data)
+{
+    auto& search = *reinterpret_cast<Search*>(data);
+    const bool fits = IsWindowVisible(window) && IsWindowEnabled(window) &&
+                      KindOf(window) == search.kind &&
+                      (search.title.empty() || TextOf(window) == search.title);
+    if (fits)
+        search.found = window;
+    return !fits;
+}
+
+Text OneLine(const std::wstring& text)
+{
+    return ReplaceAll(ReplaceAll(Narrow(text), "\r\n", "|"), "\n", "|");
+}
+
+class Driver {
+public:
+    explicit Driver(FileSystem& files) : files_(files) {}
+
+    Text Run(const Text& script)
+    {
+        for (const Text& line : SplitLines(ReplaceAll(script, "\n", "\r\n")))
+            if (!line.empty() && !Step(line)) {
+                log_ += "FAILED: " + line + "\n";
+                if (process_ != nullptr)
+                    TerminateProcess(process_, 99);
+                break;
+            }
+        return log_;
+    }
+
+private:
+    bool Step(const Text& line)
+    {
+        const std::size_t blank = std::min(line.find(' '), line.size());
+        const Text verb = line.substr(0, blank);
+        const Text rest = line.substr(std::min(blank + 1, line.size()));
+        const int id = static_cast<int>(LeadingNumber(rest));
+        const std::size_t second = rest.find(' ');
+        const Text value = second == Text::npos ? "" : rest.substr(second + 1);
+        if (verb == "run")
+            return Start(rest);
+        if (verb == "page")
+            return WaitFor(L"QuillonPages", Wide(rest), page_);
+        if (verb == "box")
+            return Answer(id);
+        if (verb == "end")
+            return End();
+        if (verb == "shot")
+            return Shoot(rest);
+        if (verb == "close")
+            return PostMessageW(page_, WM_CLOSE, 0, 0) != FALSE;
+        if (verb == "controls")
+            return ListControls();
+        const HWND control = GetDlgItem(page_, id);
+        if (control == nullptr)
+            return false;
+        return OnControl(verb, control, id, value);
+    }
+
+    bool OnControl(const Text& verb, HWND control, int id, const Text& value)
+    {
+        if (verb == "press")
+            return IsWindowEnabled(control) && PostMessageW(control, BM_CLICK, 0, 0);
+        if (verb == "type") {
+            SendMessageW(control, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(value).c_str()));
+            SendMessageW(page_, WM_COMMAND, static_cast<WPARAM>(MAKELONG(id, EN_KILLFOCUS)),
+                         reinterpret_cast<LPARAM>(control));
+            return true;
+        }
+        if (verb == "choose") {
+            SendMessageW(control, LB_SETCURSEL, static_cast<WPARAM>(LeadingNumber(value)), 0);
+            SendMessageW(page_, WM_COMMAND, static_cast<WPARAM>(MAKELONG(id, LBN_SELCHANGE)),
+                         reinterpret_cast<LPARAM>(control));
+            return true;
+        }
+        if (verb == "key")
+            return PostMessageW(control, WM_KEYDOWN, static_cast<WPARAM>(LeadingNumber(value)), 1);
+        if (verb == "await")
+            return Await(control, Wide(value));
+        if (verb != "read")
+            return false;
+        log_ += OneLine(TextOf(control)) + "\n";
+        return true;
+    }
+
+    bool Await(HWND control, const std::wstring& text) const
+    {
+        for (int waited = 0; TextOf(control) != text && waited < kMaxWait; waited += kLook)
+            if (WaitForSingleObject(process_, kLook) != WAIT_TIMEOUT)
+                return false;
+        return TextOf(control) == text;
+    }
+
+    bool Start(const Text& command)
+    {
+        std::wstring line = Wide(command);
+        STARTUPINFOW start{};
+        start.cb = sizeof start;
+        PROCESS_INFORMATION made{};
+        if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                            &start, &made))
+            return false;
+        CloseHandle(made.hThread);
+        process_ = made.hProcess;
+        return true;
+    }
+
+    // The page before is still there for a moment, so that one of the same title is another one
+    // only once its controls are new: a script asks for titles that differ.
+    bool WaitFor(const wchar_t* kind, const std::wstring& title, HWND& window)
+    {
+        for (int waited = 0; waited < kMaxWait; waited += kLook) {
+            Search search{kind, title, nullptr};
+            EnumWindows(Match, reinterpret_cast<LPARAM>(&search));
+            window = search.found;
+            if (window != nullptr)
+                return true;
+            if (WaitForSingleObject(process_, kLook) != WAIT_TIMEOUT)
+                return false;
+        }
+        return false;
+    }
+
+    bool Answer(int button)
+    {
+        HWND box = nullptr;
+        if (!WaitFor(L"#32770", {}, box))
+            return false;
+        constexpr int kTextId = 0xFFFF;
+        log_ += OneLine(TextOf(box)) + ": " + OneLine(TextOf(GetDlgItem(box, kTextId))) + "\n";
+        PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
+        for (int waited = 0; IsWindow(box) && waited < kMaxWait; waited += kLook)
+            WaitForSingleObject(process_, kLook);
+        return !IsWindow(box);
+    }
+
+    bool End()
+    {
+        if (WaitForSingleObject(process_, kMaxWait) != WAIT_OBJECT_0)
+            return false;
+        DWORD code = 0;
+        GetExitCodeProcess(process_, &code);
+        log_ += "code " + NumberText(static_cast<std::int64_t>(code)) + "\n";
+        return true;
+    }
+
+    bool ListControls()
+    {
+        for (HWND control = GetWindow(page_, GW_CHILD); control != nullptr;
+             control = GetWindow(control, GW_HWNDNEXT)) {
+            const auto style = static_cast<DWORD>(GetWindowLongW(control, GWL_STYLE));
+            log_ += OneLine(KindOf(control)) + " " +
+                    NumberText(std::int64_t{static_cast<short>(GetDlgCtrlID(control))}) + " " +
+                    ((style & WS_TABSTOP) != 0 ? "tab " : "") +
+                    (IsWindowEnabled(control) ? "" : "grey ") + OneLine(TextOf(control)) + "\n";
+        }
+        return true;
+    }
+
+    // What is inside the frame; taken again until it stays the same, since the window is painted
+    // while the setup goes on.
+    bool Shoot(const Text& path)
+    {
+        constexpr int kSteadyLooks = 20;
+        Text file;
+        for (int same = 0, waited = 0; same < kSteadyLooks && waited < kMaxWait; waited += kLook) {
+            Text next = Bitmap();
+            same = next == file ? same + 1 : 0;
+            file = std::move(next);
+            if (WaitForSingleObject(process_, kLook) != WAIT_TIMEOUT)
+                return false;
+        }
+        WriteWholeFile(files_, path, file);
+        return true;
+    }
+
+    Text Bitmap() const
+    {
+        RECT inside{};
+        GetClientRect(page_, &inside);
+        POINT corner{};
+        ClientToScreen(page_, &corner);
+        const HDC screen = GetDC(nullptr);
+        const HDC memory = CreateCompatibleDC(screen);
+        BITMAPINFO info{};
+        info.bmiHeader.biSize = sizeof info.bmiHeader;
+        info.bmiHeader.biWidth = inside.right;
+        info.bmiHeader.biHeight = inside.bottom;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        void* pixels = nullptr;
+        const HBITMAP bitmap = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+        const HGDIOBJ before = SelectObject(memory, bitmap);
+        BitBlt(memory, 0, 0, inside.right, inside.bottom, screen, corner.x, corner.y, SRCCOPY);
+        GdiFlush();
+        const auto size = static_cast<DWORD>(inside.right * inside.bottom * 4);
+        BITMAPFILEHEADER head{};
+        head.bfType = 0x4D42;
+        head.bfOffBits = sizeof head + sizeof info.bmiHeader;
+        head.bfSize = head.bfOffBits + size;
+        Text file(reinterpret_cast<const char*>(&head), sizeof head);
+        file.append(reinterpret_cast<const char*>(&info.bmiHeader), sizeof info.bmiHeader);
+        file.append(static_cast<const char*>(pixels), size);
+        SelectObject(memory, before);
+        DeleteObject(bitmap);
+        DeleteDC(memory);
+        ReleaseDC(nullptr, screen);
+        return file;
+    }
+
+    FileSystem& files_;
+    Text log_;
+    HANDLE process_ = nullptr;
+    HWND page_ = nullptr;
+};
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
+{
+    int count = 0;
+    wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
+    if (arguments == nullptr || count != 3)
+        return 1;
+    return RunErrorNumber([&] {
+        WinFiles files;
+        const Text log = Driver(files).Run(ReadWholeFile(files, Narrow(arguments[1])));
+        WriteWholeFile(files, Narrow(arguments[2]), log);
+    });
+}
