@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         if (const auto module = ModuleIn(line); module && module->file.find('\\') != Text::npos)
             std::abort();
     }
-    if (ActiveXFilesOf(project.lines).size() > kMaxReferences)
+    if (ActiveXFilesOf(project.lines).names.size() > kMaxReferences)
         std::abort();
     return 0;
 }

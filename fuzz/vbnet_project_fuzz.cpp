@@ -14,9 +14,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const ProjectLines project =
         SplitProject({reinterpret_cast<const char*>(bytes), size}, "C:\\a.vbproj");
     if (const auto references = ComReferencesOf(project.lines)) {
-        if (references->size() > kMaxReferences)
+        if (references->list.size() > kMaxReferences)
             std::abort();
-        for (const ComReference& reference : *references)
+        for (const ComReference& reference : references->list)
             if (!reference.guid.starts_with('{') || !reference.guid.ends_with('}'))
                 std::abort();
     }

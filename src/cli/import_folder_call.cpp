@@ -4,6 +4,8 @@
 #include "helpers/windows_path.h"
 #include "importers/import_folder.h"
 
+#include <algorithm>
+
 namespace quillon::cli {
 
 namespace {
@@ -64,11 +66,24 @@ Json FindingsJson(const FolderFile& program, const ProgramFindings& findings)
     const DotNetNeed& need = findings.dotNet;
     return {
         {"program", program.RelativePath()},
-        {"machine", MachineWord(findings.machine)},
+        {"machine", findings.isForAnyMachine ? "any" : MachineWord(findings.machine)},
+        {"onlyFor", findings.onlyFor ? Json(MachineWord(findings.onlyFor->machine)) : Json()},
         {"version", findings.version.ProductVersion},
         {"dotNet", {{"kind", KindWord(need.kind)}, {"name", need.name}, {"version", need.version}}},
         {"missing", std::move(missing)},
         {"mixed", std::move(mixed)}};
+}
+
+Text MixedText(const ProgramFindings& findings)
+{
+    const MixedMachine& first = findings.mixed.front();
+    const Text text = "'" + first.file + "' är för " + MachineText(first.machine) + ", men ";
+    if (!findings.isForAnyMachine)
+        return text + "programmet är för " + MachineText(findings.machine) + ".";
+    const auto other = std::ranges::find_if(findings.mixed, [&](const MixedMachine& library) {
+        return library.machine != first.machine;
+    });
+    return text + "'" + other->file + "' är för " + MachineText(other->machine) + ".";
 }
 
 void DemandWhole(const ProgramFindings& findings)
@@ -79,11 +94,7 @@ void DemandWhole(const ProgramFindings& findings)
                                   library.neededBy.front() + "'. Inget är sparat.",
                               Exit::Stopped};
     if (!findings.mixed.empty())
-        throw CallFailure{"'" + findings.mixed.front().file + "' är för " +
-                              MachineText(findings.mixed.front().machine) +
-                              ", men programmet är för " + MachineText(findings.machine) +
-                              ". Inget är sparat.",
-                          Exit::Stopped};
+        throw CallFailure{MixedText(findings) + " Inget är sparat.", Exit::Stopped};
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include "filelist/options/icon_row.h"
 #include "helpers/number_text.h"
 
-#include <algorithm>
 #include <ostream>
 
 namespace quillon::cli {
@@ -23,7 +22,7 @@ Text LinesOf(const FileList& files, const std::vector<std::size_t>& added,
     for (const std::size_t row : added)
         lines += files.rows[row][Filename] + " -> " + files.rows[row][Destination] + "\n";
     for (const NotAddedFile& file : result.notAdded)
-        lines += "Ej adderad: " + file.file + " (" + file.reason + ")\n";
+        lines += "Ej adderad: " + file.file + " (" + file.Reason() + ")\n";
     return lines + "Adderade filer: " + CountText(added.size()) +
            ", ej adderade: " + CountText(result.notAdded.size()) + "\n";
 }
@@ -31,8 +30,7 @@ Text LinesOf(const FileList& files, const std::vector<std::size_t>& added,
 } // namespace
 
 ImportRun::ImportRun(const CallContext& context)
-    : edit(context, context.PathOperand(0)), context_(context),
-      rowsBefore_(edit.Files().rows.size())
+    : edit(context, context.PathOperand(0)), context_(context)
 {
     edit.ask.prepared.destination = context.arguments.Value("--to");
 }
@@ -81,26 +79,18 @@ void ImportRun::DemandEnd(ImportEnd end)
         edit.ask.EndCall();
 }
 
-std::vector<std::size_t> ImportRun::NewRows(const NewPlaces& places) const
-{
-    std::vector<std::size_t> rows(places.begin() + static_cast<std::ptrdiff_t>(rowsBefore_),
-                                  places.end());
-    std::ranges::sort(rows);
-    return rows;
-}
-
 Json ImportRun::MissedJson(const ImportResult& result) const
 {
     Json missed = Json::array();
     for (const NotAddedFile& file : result.notAdded)
-        missed.push_back({{"file", file.file}, {"reason", file.reason}});
+        missed.push_back({{"file", file.file}, {"reason", file.Reason()}, {"kind", file.Kind()}});
     return missed;
 }
 
 Exit ImportRun::Finish(const ImportResult& result, const Text& lines, Json members)
 {
     DemandEnd(result.end);
-    const std::vector<std::size_t> added = NewRows(result.places);
+    const std::vector<std::size_t>& added = result.added;
     const Text text = LinesOf(edit.Files(), added, result) + lines;
     const bool isDryRun = context_.arguments.Has("--dry-run");
     const bool isRefused = !edit.ask.refusals.empty() && !context_.arguments.Has("--continue");

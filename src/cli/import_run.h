@@ -28,10 +28,8 @@ private:
 
     void DemandEnd(ImportEnd end);
     Json MissedJson(const ImportResult& result) const;
-    std::vector<std::size_t> NewRows(const NewPlaces& places) const;
 
     const CallContext& context_;
-    std::size_t rowsBefore_;
 };
 
 } // namespace quillon::cli

@@ -26,21 +26,31 @@ std::optional<Text> SharedTool(const RowImport& import, const Text& key, const T
     return text && text->empty() ? std::nullopt : text;
 }
 
-// The registered path is that of the library; some setups have noted its folder alone.
-Text FolderOfLibrary(const Text& path)
+// The registered path is that of the library; some setups have noted its folder alone, in whose
+// name there may be a point too.
+bool NamesLibrary(const Text& path)
 {
-    return ExtractFilename(path).find('.') == Text::npos ? RemoveLastBackslash(path)
-                                                         : ExtractDirectory(path);
+    const Text lower = LowerCase(path);
+    return lower.ends_with(".dll") || lower.ends_with(".tlb");
 }
 
-FileToAdd DaoFile(const char* name, const Text& path)
+Text FolderOfLibrary(const Text& path)
 {
-    return {.FileName = name, .SourcePath = path, .Destination = "%DAODIR", .TrapErrors = true};
+    return NamesLibrary(path) ? ExtractDirectory(path) : RemoveLastBackslash(path);
+}
+
+void AddDaoFile(RowImport& import, const char* name, const Text& path, const char* copyOptions)
+{
+    import.Add({.FileName = name,
+                .SourcePath = path,
+                .Destination = "%DAODIR",
+                .TrapErrors = true,
+                .CopyOptions = copyOptions});
 }
 
 void TellDao35Missing(RowImport& import, const Text& name)
 {
-    import.Pass(name, "saknas i registry");
+    import.Pass(name, NotAdded::NotRegistered);
     import.GetAsk().Critical(
         kDaoFailed,
         "Kan ej hitta information om filen '" + name +
@@ -55,7 +65,7 @@ void TellDao35Missing(RowImport& import, const Text& name)
 // The path of the library in the registry, whether it is whole or names the folder alone.
 Text LibraryPath(const Text& path, const char* name)
 {
-    return ExtractFilename(path).find('.') == Text::npos ? JoinPath(path, name) : path;
+    return NamesLibrary(path) ? path : JoinPath(path, name);
 }
 
 void AddVb6DaoLibrary(RowImport& import)
@@ -71,8 +81,8 @@ void AddVb6DaoLibrary(RowImport& import)
         types = JoinPath(FolderOfLibrary(*shared), "DAO2535.TLB");
     if (!types)
         return TellDao35Missing(import, "dao2535.tlb");
-    import.AddWithOptions(DaoFile("DAO350.dll", LibraryPath(*library, "DAO350.dll")), "VRS");
-    import.AddWithOptions(DaoFile("DAO2535.tlb", LibraryPath(*types, "DAO2535.TLB")), "DS");
+    AddDaoFile(import, "DAO350.dll", LibraryPath(*library, "DAO350.dll"), "VRS");
+    AddDaoFile(import, "DAO2535.tlb", LibraryPath(*types, "DAO2535.TLB"), "DS");
 }
 
 void AskForDataAccess(RowImport& import, Vb6Choices& choices, DataAccessQuestion question)
@@ -104,6 +114,8 @@ Text CopyForSetup(const RowImport& import, const Text& package)
 void AddVb6Dao35(RowImport& import, const Text& redistFolder)
 {
     import.AddSystemFiles(kVb6Dao35Files);
+    if (import.IsStopped())
+        return;
     AddVb6DaoLibrary(import);
     import.AddRedistFiles(redistFolder, std::span(&kVb6Dao35RedistFile, 1));
 }
@@ -111,15 +123,17 @@ void AddVb6Dao35(RowImport& import, const Text& redistFolder)
 void AddVb6Dao36(RowImport& import)
 {
     import.AddSystemFiles(kVb6Dao36Files);
+    if (import.IsStopped())
+        return;
     auto library = SharedTool(import, "DAO360.DLL", "Path");
     if (!library)
         if (const auto shared = SharedTool(import, "", "SharedFilesDir"))
             library = JoinPath(*shared, "DAO\\dao360.dll");
     if (library) {
-        import.AddWithOptions(DaoFile("DAO360.dll", LibraryPath(*library, "dao360.dll")), "VRS");
+        AddDaoFile(import, "DAO360.dll", LibraryPath(*library, "dao360.dll"), "VRS");
         return;
     }
-    import.Pass("dao360.dll", "saknas i registry");
+    import.Pass("dao360.dll", NotAdded::NotRegistered);
     import.GetAsk().Critical(
         kDaoFailed,
         "Kan ej hitta information om filen 'dao360.dll' i Registry! Denna information ska normalt "
@@ -132,17 +146,21 @@ void AddVb6Dao36(RowImport& import)
 void AddVb5Dao35(RowImport& import)
 {
     import.AddSystemFiles(kVb5Dao35Files);
+    if (import.IsStopped())
+        return;
     const auto library = SharedTool(import, "DAO350", "Path");
     if (!library) {
-        import.Pass("DAO2535.tlb", "saknas i registry");
-        import.Pass("DAO350.dll", "saknas i registry");
+        import.Pass("DAO2535.tlb", NotAdded::NotRegistered);
+        import.Pass("DAO350.dll", NotAdded::NotRegistered);
+        import.ShowBusy(false);
         import.GetAsk().Critical("Fel", "Kan ej hitta DAO-filerna 'DAO2535.tlb' och 'DAO350.dll' "
                                         "på din hårddisk!");
+        import.ShowBusy(true);
         return;
     }
     const Text folder = FolderOfLibrary(*library);
-    import.AddWithOptions(DaoFile("DAO2535.tlb", JoinPath(folder, "DAO2535.tlb")), "DS");
-    import.AddWithOptions(DaoFile("DAO350.dll", JoinPath(folder, "DAO350.dll")), "VRS");
+    AddDaoFile(import, "DAO2535.tlb", JoinPath(folder, "DAO2535.tlb"), "DS");
+    AddDaoFile(import, "DAO350.dll", JoinPath(folder, "DAO350.dll"), "VRS");
 }
 
 void AddAdo(RowImport& import, Vb6Choices& choices, DataAccessQuestion question)
@@ -163,18 +181,18 @@ void AddDataAccessPackage(RowImport& import, const Text& redistFolder)
     if (import.IsStopped())
         return;
     if (!import.GetHost().files.FileExists(package)) {
-        import.Pass(kPackage, "finns inte vid källsökvägen");
+        import.Pass(kPackage, NotAdded::NotAtSource);
         import.GetAsk().Critical(
             "Fel", "Kan ej hitta filen 'MDAC_TYP.EXE' på din hårddisk! Denna fil krävs för "
                    "installation av Microsoft Data Objects!");
         return;
     }
     try {
-        import.AddWithOptions({.FileName = kPackageInSetup,
-                               .SourcePath = CopyForSetup(import, package),
-                               .Destination = "%DESTDIR",
-                               .CheckDuplicates = true},
-                              "W");
+        import.Add({.FileName = kPackageInSetup,
+                    .SourcePath = CopyForSetup(import, package),
+                    .Destination = "%DESTDIR",
+                    .CheckDuplicates = true,
+                    .CopyOptions = "W"});
     } catch (const RunError& error) {
         import.GetAsk().Critical("Fel inträffade", FailureText(error, package));
     }

@@ -62,7 +62,7 @@ bool DependencyFiles::AddFilesToFileListViaDepFile(const DepSection& section)
     try {
         // Kept: the walk never ends at its first number, so this box doesn't come up, and a file
         // without the section is passed without a word.
-        if (AddFilesOf(section, *ReaderFor(section.DepFile)) == 1) {
+        if (AddFilesOf(section, *ReaderFor(section.DepFile)) == 1 && !isStopped_) {
             ask_.Inform("Inga filer hittades",
                         "Hittade inga matchande filer i DEP-filen. Kontrollera att du valt rätt "
                         "DEP-fil och binär fil.");
@@ -79,7 +79,7 @@ void DependencyFiles::AddWithSecondLevel(const DepSection& section)
     if (!AddFilesToFileListViaDepFile(section))
         return;
     const auto reader = ReaderFor(section.DepFile);
-    for (int i = 1; i <= kMaxKeys; ++i) {
+    for (int i = 1; i <= kMaxKeys && !isStopped_; ++i) {
         reader->SetIniSection(section.SectionName);
         const Text value = UsedFile(*reader, i);
         if (value.empty())
@@ -108,7 +108,7 @@ int DependencyFiles::AddFilesOf(const DepSection& section, ProfileReader& reader
     reader.SetIniSection(section.SectionName);
     int misses = 0;
     int number = 1;
-    for (; number <= kMaxKeys; ++number) {
+    for (; number <= kMaxKeys && !isStopped_; ++number) {
         const Text value = UsedFile(reader, number);
         if (value.empty()) {
             if (++misses > kMaxMisses)
@@ -118,7 +118,7 @@ int DependencyFiles::AddFilesOf(const DepSection& section, ProfileReader& reader
         const Text path = ResolveDepPath(value, section.BaseFolder);
         if (!HasDot(path))
             continue;
-        AddFile(value, path, section.Destination, done);
+        AddFile(value, path, section, done);
         // Kept: behind a name without a point the walk goes on in the section that it came to.
         if (AddFilesOfInnerSection(LowerCase(NameOf(value)), section, reader, done) ==
             Walked::ToItsEnd)
@@ -143,29 +143,44 @@ DependencyFiles::Walked DependencyFiles::AddFilesOfCurrentSection(const DepSecti
                                                                   const ProfileReader& reader,
                                                                   Done& done)
 {
-    for (int i = 1; i <= kMaxKeys; ++i) {
+    for (int i = 1; i <= kMaxKeys && !isStopped_; ++i) {
         const Text value = UsedFile(reader, i);
         if (value.empty())
             break;
         const Text path = ResolveDepPath(value, origin.BaseFolder);
         if (!HasDot(path))
             return Walked::StoppedAtNameWithoutExtension;
-        AddFile(value, path, origin.Destination, done);
+        AddFile(value, path, origin, done);
     }
     return Walked::ToItsEnd;
 }
 
-void DependencyFiles::AddFile(const Text& value, const Text& path, const Text& destination,
+void DependencyFiles::AddFile(const Text& value, const Text& path, const DepSection& origin,
                               Done& done)
 {
     if (!done.values.insert(value).second)
         return;
-    AddFileToFileListView_UseFilter(adding_, host_.machine,
-                                    {.FileName = LowerCase(NameOf(value)),
-                                     .SourcePath = LowerCase(path),
-                                     .Destination = destination,
-                                     .CheckDuplicates = true,
-                                     .UseVersionRules = true});
+    const Text name = LowerCase(NameOf(value));
+    isStopped_ = isStopped_ || (watch_ && !watch_->MayGoOn(name));
+    if (!isStopped_)
+        AddOrLeaveOut({.FileName = name,
+                       .SourcePath = LowerCase(path),
+                       .Destination = origin.Destination,
+                       .CheckDuplicates = true,
+                       .UseVersionRules = true},
+                      origin.DepFile);
+}
+
+void DependencyFiles::AddOrLeaveOut(const FileToAdd& file, const Text& depFile)
+{
+    try {
+        if (!AddFileToFileListView_UseFilter(adding_, host_.machine, file) && watch_)
+            watch_->LeftOut(file);
+    } catch (const RunError& error) {
+        if (watch_)
+            watch_->Failed(file, error, depFile);
+        throw;
+    }
 }
 
 DependencyFiles::Done& DependencyFiles::DoneFor(const DepSection& section)

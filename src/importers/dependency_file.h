@@ -5,6 +5,7 @@
 
 #include "filelist/adding/add_file.h"
 #include "ini/profile_reader.h"
+#include "platform/run_error.h"
 
 #include <array>
 #include <map>
@@ -30,12 +31,25 @@ struct DepSection {
     Text Destination; // for its files
 };
 
+/// Watches a walk through dependency files.
+class DependencyWatch {
+public:
+    virtual ~DependencyWatch() = default;
+
+    /// Comes before each file; false ends the walk.
+    virtual bool MayGoOn(const Text& file) = 0;
+    /// The file was not added, without a failure: the list may have it already.
+    virtual void LeftOut(const FileToAdd& file) = 0;
+    /// The file failed, which ends the walk through its section; a box comes next.
+    virtual void Failed(const FileToAdd& file, const RunError& error, const Text& depFile) = 0;
+};
+
 /// Follows dependency files for one command, which adds the files through one `FileAdding`. Each
 /// file is read once, however often it is come back to.
 class DependencyFiles {
 public:
-    DependencyFiles(FileAdding& adding, Host host, Ask& ask)
-        : adding_(adding), host_(host), ask_(ask)
+    DependencyFiles(FileAdding& adding, Host host, Ask& ask, DependencyWatch* watch = nullptr)
+        : adding_(adding), host_(host), ask_(ask), watch_(watch)
     {
     }
     DependencyFiles(const DependencyFiles&) = delete;
@@ -68,13 +82,16 @@ private:
                                   Done& done);
     Walked AddFilesOfCurrentSection(const DepSection& origin, const ProfileReader& reader,
                                     Done& done);
-    void AddFile(const Text& value, const Text& path, const Text& destination, Done& done);
+    void AddFile(const Text& value, const Text& path, const DepSection& origin, Done& done);
+    void AddOrLeaveOut(const FileToAdd& file, const Text& depFile);
     Done& DoneFor(const DepSection& section);
     std::shared_ptr<ProfileReader> ReaderFor(const Text& depFile);
 
     FileAdding& adding_;
     Host host_;
     Ask& ask_;
+    DependencyWatch* watch_;
+    bool isStopped_ = false;
     std::map<Text, std::shared_ptr<ProfileReader>> readers_; // by lower-cased path
     std::size_t bytesHeld_ = 0;
     std::map<std::array<Text, 3>, Done> done_; // by file, folder and destination

@@ -52,7 +52,7 @@ private:
     void AddFile(const FolderFile& file, const Text& destination)
     {
         if (choices_.cSkipBuildFiles && IsBuildFile(file.entry.name))
-            return import_.Pass(file.RelativePath(), "hör till bygget");
+            return import_.Pass(file.RelativePath(), NotAdded::OfTheBuild);
         import_.Add(
             {.FileName = file.entry.name,
              .SourcePath = JoinPath(folder_.folder, file.RelativePath()),
@@ -60,6 +60,7 @@ private:
              .CheckDuplicates = true,
              .UseVersionRules = true,
              .TrapErrors = true,
+             .KeepsFontHere = true, // the program's own, which it loads from its folder
              .Listed = file.entry.status});
     }
 

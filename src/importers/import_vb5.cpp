@@ -2,7 +2,6 @@
 
 #include "importers/data_access.h"
 #include "importers/vb_import_steps.h"
-#include "importers/vb_project.h"
 
 namespace quillon {
 
@@ -21,11 +20,11 @@ void AddLists(RowImport& import, const Vb5Choices& choices)
     import.AddRedistFiles(choices.tVBDirectory + "\\setupkit\\kitfil32\\sys32", kVb5RedistFiles);
     if (choices.cImportActiveXSysFiles)
         import.AddSystemFiles(kMfcFiles);
-    if (choices.cImportDAO35)
+    if (choices.cImportDAO35 && !import.IsStopped())
         AddVb5Dao35(import);
     // Kept: "SHDOCVW.DLL" becomes a row like any other here.
     for (const Text& name :
-         ActiveXFilesOf(LinesOrTell(import.GetHost().files, choices.sVBPfile, import.GetAsk()))) {
+         ReadActiveXFiles(import.GetHost().files, choices.sVBPfile, import.GetAsk())) {
         if (import.IsStopped())
             return;
         AddControl(import, name);
@@ -52,7 +51,7 @@ ImportResult ImportVb5Project(const ImportWork& work, const Vb5Choices& choices)
     if (!AreFilesChosen(choices.sVBPfile, choices.sEXEfile, kVbChecks, work.list.ask) ||
         !IsVbFolderThere("Visual Basic 5.0", choices.tVBDirectory, work.list.host.files,
                          work.list.ask) ||
-        !HasSystemFolder(work.list.host, work.list.ask))
+        !HasSystemFolder(work.list.host, work.list.ask, kVbFiles))
         return {.end = ImportEnd::Refused};
     return RunImport(work, [&](RowImport& import) {
         AddLists(import, choices);

@@ -1,5 +1,6 @@
 #include "importers/import_vb6.h"
 
+#include "filelist/adding/use_filter.h"
 #include "helpers/windows_path.h"
 #include "importers/data_access.h"
 #include "importers/mfc_control.h"
@@ -16,8 +17,6 @@ constexpr const char* kDone =
     "adderats till fillistan. Anropar du funktioner i DLL-filer från tredjeparts-tillverkare måste "
     "dessa läggas in manuellt till fillistan.";
 
-// A part of the browser, which only the browser's own setup may bring.
-constexpr std::string_view kNeverAdded = "SHDOCVW.DLL";
 constexpr std::string_view kAdoControl = "MSADODC.OCX";
 constexpr std::string_view kRdoControl = "MSRDC20.OCX";
 
@@ -36,31 +35,36 @@ public:
         import_.AddRedistFiles(redistFolder_, kVb6RedistFiles);
         import_.AddSystemFiles(kVb6Runtime);
         AddActiveXFiles();
-        if (choices_.cImportDAO35)
-            AddVb6Dao35(import_, redistFolder_);
-        if (choices_.cImportDAO36)
-            AddVb6Dao36(import_);
-        if (choices_.cImportADO)
-            AddAdo(import_, choices_, DataAccessQuestion::Ask);
-        if (choices_.cImportRDO)
-            AddRdo(import_, choices_, DataAccessQuestion::Ask);
-        if (choices_.cInstallMDA)
-            AddDataAccessPackage(import_, redistFolder_);
-        if (choices_.cImportActiveXSysFiles)
-            import_.AddSystemFiles(kMfcFiles);
+        AddWhere(&Vb6Choices::cImportDAO35, [this] { AddVb6Dao35(import_, redistFolder_); });
+        AddWhere(&Vb6Choices::cImportDAO36, [this] { AddVb6Dao36(import_); });
+        AddWhere(&Vb6Choices::cImportADO,
+                 [this] { AddAdo(import_, choices_, DataAccessQuestion::Ask); });
+        AddWhere(&Vb6Choices::cImportRDO,
+                 [this] { AddRdo(import_, choices_, DataAccessQuestion::Ask); });
+        AddWhere(&Vb6Choices::cInstallMDA,
+                 [this] { AddDataAccessPackage(import_, redistFolder_); });
+        AddWhere(&Vb6Choices::cImportActiveXSysFiles,
+                 [this] { import_.AddSystemFiles(kMfcFiles); });
         AddLibrariesOfModules();
     }
 
 private:
+    // A box may have been ticked by a step before.
+    template <class Step>
+    void AddWhere(bool Vb6Choices::*box, Step step)
+    {
+        if (choices_.*box && !import_.IsStopped())
+            step();
+    }
+
     void AddActiveXFiles()
     {
-        const auto lines =
-            LinesOrTell(import_.GetHost().files, choices_.sVBPfile, import_.GetAsk());
-        for (const Text& name : ActiveXFilesOf(lines)) {
+        for (const Text& name :
+             ReadActiveXFiles(import_.GetHost().files, choices_.sVBPfile, import_.GetAsk())) {
             if (import_.IsStopped())
                 return;
-            if (EqualIgnoreCase(name, kNeverAdded))
-                import_.Pass(name, "hör till Windows och läggs aldrig in");
+            if (IsNeverAdded(name))
+                import_.Pass(name, NotAdded::PartOfWindows);
             else
                 AddActiveXFile(name);
         }
@@ -92,6 +96,8 @@ private:
 
     void AddLibrariesOfModules()
     {
+        if (import_.IsStopped())
+            return;
         for (const Text& line :
              LinesOrTell(import_.GetHost().files, choices_.sVBPfile, import_.GetAsk()))
             if (const auto module = ModuleIn(line))
@@ -130,7 +136,7 @@ Text GetDirectoryToVB6RedistDir(const Vb6Choices& choices)
 
 void ScanVb6Project(Host host, Ask& ask, const ImportData& data, Vb6Choices& choices)
 {
-    for (const Text& name : ActiveXFilesOf(LinesOrTell(host.files, choices.sVBPfile, ask))) {
+    for (const Text& name : ReadActiveXFiles(host.files, choices.sVBPfile, ask)) {
         if (NeedsMfc(data, host, name))
             choices.cImportActiveXSysFiles = true;
         if (EqualIgnoreCase(name, kAdoControl))
@@ -145,7 +151,7 @@ ImportResult ImportVb6Project(const ImportWork& work, const ImportData& data, Vb
     if (!AreFilesChosen(choices.sVBPfile, choices.sEXEfile, kVbChecks, work.list.ask) ||
         !IsVbFolderThere("Visual Basic 6.0", choices.tVBDirectory, work.list.host.files,
                          work.list.ask) ||
-        !HasSystemFolder(work.list.host, work.list.ask))
+        !HasSystemFolder(work.list.host, work.list.ask, kVbFiles))
         return {.end = ImportEnd::Refused};
     return RunImport(work, [&](RowImport& import) {
         Vb6Import(import, data, choices).AddLists();

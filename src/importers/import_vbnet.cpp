@@ -1,10 +1,15 @@
 #include "importers/import_vbnet.h"
 
+#include "filelist/adding/use_filter.h"
 #include "helpers/windows_path.h"
 #include "importers/project_lines.h"
 #include "importers/row_import.h"
+#include "importers/vb_project.h"
 #include "importers/vbnet_project.h"
 #include "platform/run_error.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace quillon {
 
@@ -30,7 +35,10 @@ constexpr const char* kDone =
     "adderats till fillistan. Anropar du funktioner i DLL-filer från tredjeparts-tillverkare måste "
     "dessa läggas in manuellt till fillistan.";
 
-constexpr std::string_view kNeverAdded[] = {"STDOLE2.TLB", "SHDOCVW.DLL"};
+constexpr const char* kComponents = "projektets COM-komponenter";
+
+// So many libraries are added before a window could be seen.
+constexpr std::size_t kFewLibraries = 20;
 
 class VbNetImport {
 public:
@@ -39,7 +47,8 @@ public:
     {
     }
 
-    /// False where the file is a project of another kind.
+    /// False where the file is a project of another kind, or names components that this machine
+    /// can't have.
     bool AddReferences()
     {
         ProjectLines project;
@@ -58,23 +67,25 @@ public:
         }
         if (!references)
             Tell(kNoReferences);
-        else
-            for (const ComReference& reference : *references)
-                AddReference(reference);
-        return true;
+        return !references || AddReferences(*references);
     }
 
-    void AddLibrariesOfWrappers()
+    /// False where this machine has no system folder that they could be in.
+    bool AddLibrariesOfWrappers()
     {
-        ProjectLines project;
+        std::vector<Text> libraries;
         try {
-            project = ReadProjectLines(import_.GetHost().files, choices_.sVBPfile);
+            const auto project = ReadProjectLines(import_.GetHost().files, choices_.sVBPfile);
+            for (const Text& line : IncludedFileLines(project.lines))
+                std::ranges::copy(data_.LibrariesOfWrappersIn(line), std::back_inserter(libraries));
         } catch (const RunError&) {
-            return; // told when the references were read
+            return true; // told when the references were read
         }
-        for (const Text& line : IncludedFileLines(project.lines))
-            for (const Text& library : data_.LibrariesOfWrappersIn(line))
-                import_.AddSystemFile(library, false);
+        if (!libraries.empty() && !HasComponents())
+            return false;
+        for (const Text& library : libraries)
+            import_.AddSystemFile(library, false);
+        return true;
     }
 
     // Kept: they go to the main folder, whatever folder the program goes to.
@@ -87,13 +98,38 @@ public:
         } catch (const RunError&) {
             return;
         }
+        std::erase_if(entries, [](const FolderEntry& entry) {
+            return entry.status.isFolder || !LowerCase(entry.name).ends_with(".dll");
+        });
+        const bool takesItsTime = entries.size() > kFewLibraries;
+        if (takesItsTime)
+            import_.Work().user.ShowDialog();
         for (const FolderEntry& entry : entries)
-            if (!entry.status.isFolder && LowerCase(entry.name).ends_with(".dll"))
+            if (!import_.IsStopped())
                 AddLibrary(folder, entry);
+        if (takesItsTime)
+            import_.Work().user.HideDialog();
     }
 
 private:
     void Tell(const Text& text) { import_.GetAsk().Critical("Fel inträffade", text); }
+
+    bool HasComponents() const
+    {
+        return HasSystemFolder(import_.GetHost(), import_.GetAsk(), kComponents);
+    }
+
+    bool AddReferences(const ComReferences& references)
+    {
+        if (!references.list.empty() && !HasComponents())
+            return false;
+        if (references.isCut)
+            Tell(TooManyReferencesText(choices_.sVBPfile, "referenser"));
+        for (const ComReference& reference : references.list)
+            if (!import_.IsStopped())
+                AddReference(reference);
+        return true;
+    }
 
     void AddReference(const ComReference& reference)
     {
@@ -103,16 +139,15 @@ private:
                 "\\0\\win32",
             "");
         if (!path || path->empty())
-            return import_.Pass(reference.guid, "saknas i registry");
+            return import_.Pass(reference.guid, NotAdded::NotRegistered);
         const Text name = ExtractFilename(*path);
-        for (const std::string_view never : kNeverAdded)
-            if (EqualIgnoreCase(name, never))
-                return import_.Pass(name, "hör till Windows och läggs aldrig in");
+        if (IsNeverAdded(name) || EqualIgnoreCase(name, "STDOLE2.TLB"))
+            return import_.Pass(name, NotAdded::PartOfWindows);
         const Text systemFolder = LowerCase(import_.GetHost().machine.GetSystemDir());
-        if (systemFolder.empty() || !ContainsText(LowerCase(*path), systemFolder))
-            return import_.Pass(*path, "ligger utanför systemkatalogen");
-        if (IsFilenameInFileList(import_.Work().list.project.Files, name))
-            return import_.Pass(name, "finns redan i fillistan");
+        if (!ContainsText(LowerCase(*path), systemFolder))
+            return import_.Pass(*path, NotAdded::OutsideSystemFolder);
+        if (import_.PassIfListed(name))
+            return;
         const bool isOcx = ContainsText(LowerCase(name), ".ocx");
         import_.AddSystemFile(name, isOcx);
         // Kept: a box in its grey state is not a ticked one, and only controls are followed.
@@ -129,7 +164,7 @@ private:
                          .CheckDuplicates = true,
                          .Listed = entry.status});
         } catch (const RunError&) {
-            import_.Pass(entry.name, "kan ej läsas");
+            // The import has noted it.
         }
     }
 
@@ -145,7 +180,8 @@ ImportEnd RunVbNetImport(RowImport& import, const ImportData& data, const VbNetC
     VbNetImport steps(import, data, choices);
     if (!steps.AddReferences())
         return ImportEnd::Refused;
-    steps.AddLibrariesOfWrappers();
+    if (!import.IsStopped() && !steps.AddLibrariesOfWrappers())
+        return ImportEnd::Refused;
     if (import.IsStopped())
         return ImportEnd::Stopped;
     user.HideDialog();

@@ -25,6 +25,8 @@ public:
     virtual bool EditIcon(FileListRow& row, const Text& title) = 0;
 
     virtual void HideDialog() {}
+    /// Shows the dialog again for work that takes its time behind the program's questions.
+    virtual void ShowDialog() {}
     virtual void UpdateStatusBar() {}
     /// Comes before each file that is looked at; false stops the import.
     virtual bool MayGoOn(const Text& /*file*/) { return true; }
@@ -46,10 +48,30 @@ enum class ImportEnd {
     Failed     // told in a box; the rows so far stay
 };
 
-/// A file that the import came upon and did not add.
+/// Why a file that the import came upon has no new row.
+enum class NotAdded {
+    NotInSystemFolder,
+    NotAtSource,
+    NotRegistered,
+    OutsideSystemFolder,
+    LeftOut,
+    RestOfDepFile,
+    AlreadyListed,
+    PartOfWindows,
+    OfTheBuild
+};
+
+/// True of what no setup of the program needs; false of what the user may have to see to.
+bool IsNeverNeeded(NotAdded why);
+
 struct NotAddedFile {
     Text file;
-    Text reason;
+    NotAdded why;
+
+    /// In words: "finns inte i systemkatalogen".
+    Text Reason() const;
+    /// In a word for scripts: "missing".
+    Text Kind() const;
 
     bool operator==(const NotAddedFile&) const = default;
 };
@@ -58,6 +80,8 @@ struct ImportResult {
     ImportEnd end = ImportEnd::Done;
     // Where each row stands now, by its number so far: those from before, then the new ones.
     NewPlaces places;
+    // Where the rows stand that the import has made or filled, ascending.
+    std::vector<std::size_t> added;
     std::vector<NotAddedFile> notAdded;
     // Where the program's row stands, where it is a new one; it is to be selected.
     std::optional<std::size_t> newProgram;

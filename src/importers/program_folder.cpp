@@ -192,17 +192,39 @@ bool IsForItsMachine(const FolderFile& file)
     return LowerCase(file.folder + "\\").starts_with("runtimes\\");
 }
 
-std::vector<MixedMachine> FindMixed(const ProgramFolder& folder, const ProgramFacts& program)
+// Programs for any machine take the one of several libraries that is meant for where they run.
+bool LiesInFolderOfAMachine(const FolderFile& file)
 {
-    std::vector<MixedMachine> mixed;
-    // A program for any machine runs as what the machine is; its libraries tell nothing.
-    if (program.isForAnyMachine)
-        return mixed;
+    constexpr std::array<std::string_view, 10> kFolders = {
+        "x86",   "x64",   "amd64",   "arm64",   "i386",
+        "win32", "win64", "win-x86", "win-x64", "win-arm64"};
+    const Text folder = LowerCase(ExtractFilename(file.folder));
+    return std::ranges::find(kFolders, folder) != kFolders.end();
+}
+
+void FindMixed(const ProgramFolder& folder, const ProgramFacts& program, ProgramFindings& findings)
+{
     for (const FolderFile& file : folder.files)
         if (file.status && file.status->isLibrary && !file.status->isForAnyMachine &&
             file.status->machine != program.machine && !IsForItsMachine(file))
-            mixed.push_back({file.RelativePath(), file.status->machine});
-    return mixed;
+            findings.mixed.push_back({file.RelativePath(), file.status->machine});
+}
+
+// Such a program runs where its libraries do, and nowhere where these are for several machines.
+void FindMixedForAnyMachine(const ProgramFolder& folder, ProgramFindings& findings)
+{
+    std::vector<MixedMachine> libraries;
+    for (const FolderFile& file : folder.files)
+        if (file.status && file.status->isLibrary && !file.status->isForAnyMachine &&
+            !IsForItsMachine(file) && !LiesInFolderOfAMachine(file))
+            libraries.push_back({file.RelativePath(), file.status->machine});
+    const bool isMixed = std::ranges::any_of(libraries, [&](const MixedMachine& library) {
+        return library.machine != libraries.front().machine;
+    });
+    if (isMixed)
+        findings.mixed = std::move(libraries);
+    else if (!libraries.empty())
+        findings.onlyFor = libraries.front();
 }
 
 DotNetNeed FindDotNet(const FileSystem& files, const ProgramFolder& folder,
@@ -277,10 +299,16 @@ ProgramFindings FindingsOf(const FileSystem& files, const ProgramFolder& folder,
 {
     ProgramFindings findings{
         .machine = program.status->machine,
+        .isForAnyMachine = program.status->isForAnyMachine,
+        .onlyFor = {},
         .version = VersionDataOfFile(files, JoinPath(folder.folder, program.RelativePath())),
         .dotNet = FindDotNet(files, folder, program),
         .missing = {},
-        .mixed = FindMixed(folder, *program.status)};
+        .mixed = {}};
+    if (findings.isForAnyMachine)
+        FindMixedForAnyMachine(folder, findings);
+    else
+        FindMixed(folder, *program.status, findings);
     MissingFinder finder(folder, data);
     for (const FolderFile& file : folder.files)
         if (file.status && !IsForItsMachine(file))
@@ -289,9 +317,19 @@ ProgramFindings FindingsOf(const FileSystem& files, const ProgramFolder& folder,
     return findings;
 }
 
+Text ProgramMachineText(const ProgramFindings& findings)
+{
+    if (!findings.isForAnyMachine)
+        return "Programmet är för " + MachineText(findings.machine) + ".";
+    if (!findings.onlyFor)
+        return "Programmet är för valfri processor.";
+    return "Programmet är för valfri processor, men '" + findings.onlyFor->file + "' är för " +
+           MachineText(findings.onlyFor->machine) + ".";
+}
+
 std::vector<Text> FindingsText(const ProgramFindings& findings)
 {
-    std::vector<Text> lines{"Programmet är för " + MachineText(findings.machine) + "."};
+    std::vector<Text> lines{ProgramMachineText(findings)};
     const FileVersionData& version = findings.version;
     if (!version.ProductName.empty() || !version.ProductVersion.empty())
         lines.push_back("Version: " +
@@ -302,8 +340,8 @@ std::vector<Text> FindingsText(const ProgramFindings& findings)
         lines.push_back("Saknas: " + library.name + " (behövs av " + NeededByText(library) +
                         (library.isDelayed ? "; laddas först när det används)" : ")"));
     for (const MixedMachine& file : findings.mixed)
-        lines.push_back("Fel processor: " + file.file + " är för " + MachineText(file.machine) +
-                        ".");
+        lines.push_back((findings.isForAnyMachine ? "Olika processorer: " : "Fel processor: ") +
+                        file.file + " är för " + MachineText(file.machine) + ".");
     return lines;
 }
 

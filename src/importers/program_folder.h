@@ -29,7 +29,7 @@ struct MissingLibrary {
     bool isDelayed = false;
 };
 
-/// A library for another machine than the program's.
+/// A library for another machine than the program's, or than others that the program loads.
 struct MixedMachine {
     Text file;
     ProgramMachine machine;
@@ -47,6 +47,10 @@ struct ProgramFolder {
 /// What hangs on which program is the main one.
 struct ProgramFindings {
     ProgramMachine machine = ProgramMachine::Other;
+    // A managed program that runs as what the machine is. Its libraries may be for one machine
+    // only.
+    bool isForAnyMachine = false;
+    std::optional<MixedMachine> onlyFor; // the first of these libraries
     FileVersionData version;
     DotNetNeed dotNet;
     std::vector<MissingLibrary> missing; // by name

@@ -89,9 +89,9 @@ ProjectLines SplitProject(std::string_view bytes, const Text& path)
     for (std::string_view rest = text; !rest.empty();) {
         const std::string_view line = TakeLine(rest);
         ++number;
-        if (IsReadable(line))
-            project.lines.emplace_back(line);
-        else if (++skipped == 1)
+        // A damaged line stays as an empty one: which line follows which has a meaning.
+        project.lines.emplace_back(IsReadable(line) ? line : std::string_view());
+        if (!IsReadable(line) && ++skipped == 1)
             firstSkipped = number;
     }
     if (skipped > 0)

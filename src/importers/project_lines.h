@@ -14,7 +14,7 @@ inline constexpr std::size_t kMaxProjectBytes = std::size_t{4} << 20;
 inline constexpr std::size_t kMaxProjectLineLength = 4096;
 
 struct ProjectLines {
-    std::vector<Text> lines;
+    std::vector<Text> lines; // a damaged one is empty
     // What was passed over, in words; empty where the file was read whole.
     Text damage;
 };

@@ -1,7 +1,9 @@
 #include "importers/row_import.h"
 
 #include "filelist/adding/add_target.h"
+#include "filelist/adding/use_filter.h"
 #include "filelist/options/icon_row.h"
+#include "filelist/row_facts.h"
 #include "helpers/windows_path.h"
 #include "importers/project_lines.h"
 #include "platform/failure_text.h"
@@ -12,19 +14,30 @@ namespace quillon {
 
 namespace {
 
-constexpr const char* kNotInSystemFolder = "finns inte i systemkatalogen";
-constexpr const char* kNotAtSource = "finns inte vid källsökvägen";
-constexpr const char* kAlreadyListed = "finns redan i fillistan";
-constexpr const char* kLeftOut = "är dold, skyddad av Windows eller har ett otillåtet namn";
-
 constexpr const char* kIconMarker = "Ikon";
+
+bool HasFolder(const Text& name)
+{
+    return name.find_first_of("\\/") != Text::npos;
+}
+
+std::vector<std::size_t> RowsWithoutSource(const FileList& files)
+{
+    std::vector<std::size_t> rows;
+    for (std::size_t i = 0; i < files.rows.size(); ++i)
+        if (LacksSource(files.rows[i]))
+            rows.push_back(i);
+    return rows;
+}
 
 } // namespace
 
 RowImport::RowImport(const ImportWork& work)
     : work_(work), rowsBefore_(work.list.project.Files.rows.size()),
-      adding_(work.list.project.Files, work.list.host, work.list.ask),
-      dependencies_(adding_, work.list.host, work.list.ask)
+      withoutSourceBefore_(RowsWithoutSource(work.list.project.Files)),
+      adding_(work.list.project.Files, work.list.host, work.list.ask,
+              FileAdding::RowsWithoutSource::AreFilled),
+      dependencies_(adding_, work.list.host, work.list.ask, this)
 {
 }
 
@@ -34,33 +47,69 @@ bool RowImport::MayGoOn(const Text& file)
     return !isStopped_;
 }
 
-void RowImport::Pass(const Text& file, const Text& reason)
+void RowImport::Pass(const Text& file, NotAdded why)
 {
-    notAdded_.push_back({file, reason});
+    Pass(file, why, file);
 }
 
-bool RowImport::HasSystemRow(const Text& name, const Text& path) const
+// Files of one name from several folders are told each.
+void RowImport::Pass(const Text& file, NotAdded why, const Text& path)
 {
-    return std::ranges::any_of(Files().rows, [&](const FileListRow& row) {
-        return row[Source] == path ||
-               (row[Destination] == "%SYSDIR" && EqualIgnoreCase(row[Filename], name));
+    const NotAddedFile entry{file, why};
+    if (told_.insert(LowerCase(path) + "\n" + entry.Reason()).second)
+        notAdded_.push_back(entry);
+}
+
+bool RowImport::PassIfListed(const Text& name)
+{
+    const auto row = std::ranges::find_if(Files().rows, [&](const FileListRow& listed) {
+        return !LacksSource(listed) && EqualIgnoreCase(listed[Filename], name);
     });
+    if (row == Files().rows.end())
+        return false;
+    if (!IsOfThisImport(static_cast<std::size_t>(row - Files().rows.begin())))
+        Pass(name, NotAdded::AlreadyListed);
+    return true;
+}
+
+bool RowImport::IsOfThisImport(std::size_t row) const
+{
+    return row >= rowsBefore_ || std::ranges::binary_search(withoutSourceBefore_, row);
+}
+
+std::optional<std::size_t> RowImport::SystemRow(const Text& name, const Text& path) const
+{
+    const auto found = std::ranges::find_if(Files().rows, [&](const FileListRow& row) {
+        return !LacksSource(row) && (row[Source] == path || (row[Destination] == "%SYSDIR" &&
+                                                             EqualIgnoreCase(row[Filename], name)));
+    });
+    if (found == Files().rows.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(found - Files().rows.begin());
 }
 
 RowImport::Added RowImport::AddSystemFile(const Text& name, bool isRuntimeFile)
 {
     if (!MayGoOn(name))
         return Added::LeftOut;
+    if (missingSystemFiles_.contains(LowerCase(name)))
+        return Added::ToldBefore;
     const Text path = LowerCase(JoinPath(GetHost().machine.GetSystemDir(), name));
-    if (HasSystemRow(name, path)) {
-        Pass(name, kAlreadyListed);
+    if (const auto row = SystemRow(name, path)) {
+        if (!IsOfThisImport(*row))
+            Pass(name, NotAdded::AlreadyListed);
         return Added::AlreadyThere;
     }
-    const bool isThere = GetHost().files.FileExists(path);
+    const bool isThere = !HasFolder(name) && GetHost().files.FileExists(path);
     if (adding_.AddSystemFileToFileList(name, isRuntimeFile))
         return Added::Yes;
-    Pass(name, isThere ? kLeftOut : kNotInSystemFolder);
-    return isThere ? Added::LeftOut : Added::Missing;
+    if (isThere) {
+        Pass(name, NotAdded::LeftOut);
+        return Added::LeftOut;
+    }
+    Pass(name, HasFolder(name) ? NotAdded::OutsideSystemFolder : NotAdded::NotInSystemFolder);
+    missingSystemFiles_.insert(LowerCase(name));
+    return Added::Missing;
 }
 
 void RowImport::AddSystemFiles(std::span<const SystemFile> files)
@@ -72,41 +121,59 @@ void RowImport::AddSystemFiles(std::span<const SystemFile> files)
 void RowImport::AddRedistFiles(const Text& folder, std::span<const RedistFile> files)
 {
     for (const RedistFile& file : files)
-        AddWithOptions({.FileName = Text(file.name),
-                        .SourcePath = folder + "\\" + Text(file.name),
-                        .Destination = "%SYSDIR",
-                        .TrapErrors = true},
-                       file.copyOptions);
-}
-
-void RowImport::AddWithOptions(FileToAdd file, std::string_view copyOptions)
-{
-    const std::size_t rowsBefore = Files().rows.size();
-    Add(file);
-    // Also on the row that is left of a file that is not there.
-    if (Files().rows.size() > rowsBefore)
-        Files().rows.back()[CopyOptions] = copyOptions;
+        Add({.FileName = Text(file.name),
+             .SourcePath = folder + "\\" + Text(file.name),
+             .Destination = "%SYSDIR",
+             .TrapErrors = true,
+             .CopyOptions = Text(file.copyOptions)});
 }
 
 bool RowImport::Add(const FileToAdd& file)
 {
     if (!MayGoOn(file.FileName))
         return false;
-    if (adding_.AddFileToFileList(file))
-        return true;
-    const bool isThere = GetHost().files.FileExists(file.SourcePath);
-    const bool isListed = file.CheckDuplicates && FindProgram(file).has_value();
-    Pass(file.FileName, isListed ? kAlreadyListed : isThere ? kLeftOut : kNotAtSource);
+    try {
+        if (adding_.AddFileToFileList(file))
+            return true;
+    } catch (const RunError&) {
+        Pass(file.FileName, WhyNotAdded(file), file.SourcePath);
+        throw;
+    }
+    LeftOut(file);
     return false;
 }
 
-// The row by which a file is in the list already.
-std::optional<std::size_t> RowImport::FindProgram(const FileToAdd& program) const
+// A file that this import has added before needs no word.
+void RowImport::LeftOut(const FileToAdd& file)
+{
+    const auto row = file.CheckDuplicates ? RowOfFile(file) : std::nullopt;
+    if (!row)
+        Pass(file.FileName, WhyNotAdded(file), file.SourcePath);
+    else if (!IsOfThisImport(*row))
+        Pass(file.FileName, NotAdded::AlreadyListed, file.SourcePath);
+}
+
+// The walk of the dependency file ends here, and nobody knows what else it names.
+void RowImport::Failed(const FileToAdd& file, const RunError&, const Text& depFile)
+{
+    Pass(file.FileName, WhyNotAdded(file), file.SourcePath);
+    Pass(ExtractFilename(depFile), NotAdded::RestOfDepFile);
+}
+
+NotAdded RowImport::WhyNotAdded(const FileToAdd& file) const
+{
+    if (IsNeverAdded(file.FileName))
+        return NotAdded::PartOfWindows;
+    return GetHost().files.FileExists(file.SourcePath) ? NotAdded::LeftOut : NotAdded::NotAtSource;
+}
+
+// The row by which a file is in the list.
+std::optional<std::size_t> RowImport::RowOfFile(const FileToAdd& file) const
 {
     const auto found = std::ranges::find_if(Files().rows, [&](const FileListRow& row) {
-        return EqualIgnoreCase(row[Filename], program.FileName) &&
-               (EqualIgnoreCase(row[Source], program.SourcePath) ||
-                EqualIgnoreCase(row[Destination], program.Destination));
+        return !LacksSource(row) && EqualIgnoreCase(row[Filename], file.FileName) &&
+               (EqualIgnoreCase(row[Source], file.SourcePath) ||
+                EqualIgnoreCase(row[Destination], file.Destination));
     });
     if (found == Files().rows.end())
         return std::nullopt;
@@ -137,7 +204,7 @@ bool RowImport::AddProgram(const Text& program, ImportEnd& end, const Text& subf
     if (isStopped_)
         return false;
     // A program that was in the list before has a row too, wherever it stands.
-    programRow_ = isProgramNew_ ? Files().rows.size() - 1 : FindProgram(file);
+    programRow_ = RowOfFile(file);
     return true;
 }
 
@@ -160,11 +227,25 @@ void RowImport::AddProgramIcon()
     }
 }
 
+// Of rows without their source only those count that have got one.
+std::vector<std::size_t> RowImport::AddedRows(const NewPlaces& places) const
+{
+    std::vector<std::size_t> added;
+    for (std::size_t row = 0; row < places.size(); ++row)
+        if (IsOfThisImport(row) && !LacksSource(Files().rows[places[row]]))
+            added.push_back(places[row]);
+    std::ranges::sort(added);
+    return added;
+}
+
 ImportResult RowImport::Finish(ImportEnd end)
 {
     NoteAddedRows(work_.list, rowsBefore_);
     ImportResult result{.end = end, .places = adding_.Finish(), .notAdded = std::move(notAdded_)};
-    if (isProgramNew_)
+    result.added = AddedRows(result.places);
+    if (!result.added.empty())
+        work_.list.state.ProjectIsDirty = kOn;
+    if (isProgramNew_ && programRow_)
         result.newProgram = result.places[*programRow_];
     return result;
 }
@@ -190,7 +271,7 @@ bool AreFilesChosen(const Text& project, const Text& program, const ImportChecks
     return fault == nullptr;
 }
 
-bool HasSystemFolder(Host host, Ask& ask)
+bool HasSystemFolder(Host host, Ask& ask, const Text& what)
 {
     const Text folder = host.machine.GetSystemDir();
     try {
@@ -203,9 +284,9 @@ bool HasSystemFolder(Host host, Ask& ask)
     ask.Critical("Systemkatalogen saknas",
                  (folder.empty() ? Text("Den här datorn har ingen systemkatalog")
                                  : "Systemkatalogen '" + folder + "' finns inte eller är tom") +
-                     ", så Visual Basics filer kan ej hämtas. Kopiera systemkatalogen från en "
-                     "dator med Windows och Visual Basic dit, eller låt QUILLON_DRIVE_C ange en "
-                     "katalog där den finns.");
+                     ", så " + what +
+                     " kan ej hämtas. Kopiera systemkatalogen från en dator med Windows och Visual "
+                     "Basic dit, eller låt QUILLON_DRIVE_C ange en katalog där den finns.");
     return false;
 }
 

@@ -8,24 +8,26 @@
 
 #include <functional>
 #include <span>
+#include <unordered_set>
 
 namespace quillon {
 
 /// One import. Rows are added at the end of the list, which is put in order by `Finish`.
-class RowImport {
+class RowImport : private DependencyWatch {
 public:
     explicit RowImport(const ImportWork& work);
     RowImport(const RowImport&) = delete;
     RowImport& operator=(const RowImport&) = delete;
 
-    enum class Added { Yes, AlreadyThere, LeftOut, Missing };
+    // `ToldBefore`: it was missing before in this import, which has told it.
+    enum class Added { Yes, AlreadyThere, LeftOut, Missing, ToldBefore };
 
-    /// A file of the system folder. One that has a row already is not added twice.
+    /// A file of the system folder. One that has a row already is not added twice; a row that is
+    /// left of a missing file is none.
     Added AddSystemFile(const Text& name, bool isRuntimeFile);
     void AddSystemFiles(std::span<const SystemFile> files);
     /// A file for redistribution, with copy options of its own. Kept: there is no duplicate test.
     void AddRedistFiles(const Text& folder, std::span<const RedistFile> files);
-    void AddWithOptions(FileToAdd file, std::string_view copyOptions);
     /// Any other file; false where it was refused. Throws where the file fails and traps nothing.
     bool Add(const FileToAdd& file);
 
@@ -35,8 +37,10 @@ public:
         dependencies_.FollowActiveXDepFile(fileName);
     }
 
-    /// A file that was left out without a word.
-    void Pass(const Text& file, const Text& reason);
+    /// True where any row with a file has this name, whatever its folder.
+    bool PassIfListed(const Text& name);
+    /// A file that was not added. What is told of it is told once.
+    void Pass(const Text& file, NotAdded why);
 
     /// Asks for the destination and adds the program, in a subfolder of it where one is given.
     /// False, and `end` says why, where the import ends here.
@@ -58,13 +62,21 @@ public:
     const ImportWork& Work() const { return work_; }
 
 private:
-    bool MayGoOn(const Text& file);
-    bool HasSystemRow(const Text& name, const Text& path) const;
+    bool MayGoOn(const Text& file) override;
+    void LeftOut(const FileToAdd& file) override;
+    void Failed(const FileToAdd& file, const RunError& error, const Text& depFile) override;
+
+    void Pass(const Text& file, NotAdded why, const Text& path);
     FileList& Files() const { return work_.list.project.Files; }
-    std::optional<std::size_t> FindProgram(const FileToAdd& program) const;
+    bool IsOfThisImport(std::size_t row) const;
+    std::optional<std::size_t> SystemRow(const Text& name, const Text& path) const;
+    std::optional<std::size_t> RowOfFile(const FileToAdd& file) const;
+    NotAdded WhyNotAdded(const FileToAdd& file) const;
+    std::vector<std::size_t> AddedRows(const NewPlaces& places) const;
 
     const ImportWork& work_;
     std::size_t rowsBefore_;
+    std::vector<std::size_t> withoutSourceBefore_;
     FileAdding adding_;
     DependencyFiles dependencies_;
     bool isStopped_ = false;
@@ -73,6 +85,8 @@ private:
     std::optional<std::size_t> programRow_;
     Text programDestination_;
     std::vector<NotAddedFile> notAdded_;
+    std::unordered_set<Text> told_;               // of `notAdded_`
+    std::unordered_set<Text> missingSystemFiles_; // their names, in lower case
 };
 
 /// The messages of the checks before an import.
@@ -86,7 +100,8 @@ struct ImportChecks {
 bool AreFilesChosen(const Text& project, const Text& program, const ImportChecks& texts, Ask& ask);
 
 /// False, with a box that says what to do, where this machine has no system folder with files.
-bool HasSystemFolder(Host host, Ask& ask);
+/// `what` is taken from there: "Visual Basics filer".
+bool HasSystemFolder(Host host, Ask& ask, const Text& what);
 
 /// The lines of a project file. What can't be read is told in a box; what was read counts.
 std::vector<Text> LinesOrTell(const FileSystem& files, const Text& path, Ask& ask);

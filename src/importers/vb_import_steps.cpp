@@ -1,6 +1,6 @@
 #include "importers/vb_import_steps.h"
 
-#include "helpers/windows_path.h"
+#include "importers/vb_project.h"
 
 namespace quillon {
 
@@ -29,13 +29,17 @@ bool IsVbFolderThere(const char* version, const Text& folder, const FileSystem& 
     return true;
 }
 
+std::vector<Text> ReadActiveXFiles(const FileSystem& files, const Text& project, Ask& ask)
+{
+    ActiveXFiles read = ActiveXFilesOf(LinesOrTell(files, project, ask));
+    if (read.isCut)
+        ask.Critical("Fel inträffade", TooManyReferencesText(project, "ActiveX-filer"));
+    return std::move(read.names);
+}
+
 void AddControl(RowImport& import, const Text& name)
 {
-    // A name with a folder is none of the system folder, even where the folder leads there.
-    const bool hasFolder = name.find_first_of("\\/") != Text::npos;
-    if (hasFolder)
-        import.Pass(name, "ligger utanför systemkatalogen");
-    if (hasFolder || import.AddSystemFile(name, true) == RowImport::Added::Missing)
+    if (import.AddSystemFile(name, true) == RowImport::Added::Missing)
         import.GetAsk().Inform("Info", kControlsInSystemFolder);
 }
 

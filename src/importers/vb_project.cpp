@@ -1,5 +1,7 @@
 #include "importers/vb_project.h"
 
+#include "helpers/number_text.h"
+
 namespace quillon {
 
 namespace {
@@ -51,16 +53,26 @@ std::optional<VbModule> ModuleIn(std::string_view line)
     return module;
 }
 
-std::vector<Text> ActiveXFilesOf(const std::vector<Text>& lines)
+Text TooManyReferencesText(const Text& path, const Text& what)
 {
-    std::vector<Text> names;
+    const Text most = NumberText(static_cast<std::int64_t>(kMaxReferences));
+    return "Projektfilen '" + path + "' anger fler än " + most + " " + what +
+           ". Endast de första " + most + " är lästa.";
+}
+
+ActiveXFiles ActiveXFilesOf(const std::vector<Text>& lines)
+{
+    ActiveXFiles files;
     for (const Text& line : lines) {
-        if (names.size() == kMaxReferences)
+        auto name = ActiveXFileIn(line);
+        if (!name)
+            continue;
+        files.isCut = files.names.size() == kMaxReferences;
+        if (files.isCut)
             break;
-        if (auto name = ActiveXFileIn(line))
-            names.push_back(std::move(*name));
+        files.names.push_back(std::move(*name));
     }
-    return names;
+    return files;
 }
 
 } // namespace quillon

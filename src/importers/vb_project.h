@@ -23,7 +23,13 @@ std::optional<VbModule> ModuleIn(std::string_view line);
 // No project has as many; a file that names more is none.
 inline constexpr std::size_t kMaxReferences = 1000;
 
-/// In the order of the file, at most `kMaxReferences` of them.
-std::vector<Text> ActiveXFilesOf(const std::vector<Text>& lines);
+/// What is told where more stand in a file; `what` is "ActiveX-filer".
+Text TooManyReferencesText(const Text& path, const Text& what);
+
+struct ActiveXFiles {
+    std::vector<Text> names; // in the order of the file
+    bool isCut = false;      // there are more than `kMaxReferences`; the others are passed over
+};
+ActiveXFiles ActiveXFilesOf(const std::vector<Text>& lines);
 
 } // namespace quillon

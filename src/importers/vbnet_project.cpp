@@ -20,21 +20,22 @@ auto FirstLineWith(const std::vector<Text>& lines, std::string_view part)
 
 } // namespace
 
-std::optional<std::vector<ComReference>> ComReferencesOf(const std::vector<Text>& lines)
+std::optional<ComReferences> ComReferencesOf(const std::vector<Text>& lines)
 {
     const auto list = FirstLineWith(lines, "<References>");
     if (list == lines.end())
         return std::nullopt;
-    std::vector<ComReference> references;
+    ComReferences references;
     for (auto line = list + 1; line != lines.end(); ++line) {
         if (!ContainsText(*line, "Guid = \"{"))
             continue;
         // Kept: the two versions are the next two lines, whatever stands there.
-        if (lines.end() - line <= 2 || references.size() == kMaxReferences)
+        references.isCut = references.list.size() == kMaxReferences;
+        if (lines.end() - line <= 2 || references.isCut)
             break;
-        references.push_back({.guid = "{" + StrBetween(*line, "{", "}") + "}",
-                              .major = InQuotes(*(line + 1)),
-                              .minor = InQuotes(*(line + 2))});
+        references.list.push_back({.guid = "{" + StrBetween(*line, "{", "}") + "}",
+                                   .major = InQuotes(*(line + 1)),
+                                   .minor = InQuotes(*(line + 2))});
         line += 2;
     }
     return references;

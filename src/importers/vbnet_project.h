@@ -18,9 +18,12 @@ struct ComReference {
     bool operator==(const ComReference&) const = default;
 };
 
-/// In the order of the file, at most `kMaxReferences` of them; nothing where the file has no list
-/// of references.
-std::optional<std::vector<ComReference>> ComReferencesOf(const std::vector<Text>& lines);
+struct ComReferences {
+    std::vector<ComReference> list; // in the order of the file
+    bool isCut = false;             // there are more than `kMaxReferences`
+};
+/// Nothing where the file has no list of references.
+std::optional<ComReferences> ComReferencesOf(const std::vector<Text>& lines);
 
 /// The lines that name an included file, in upper case.
 std::vector<Text> IncludedFileLines(const std::vector<Text>& lines);

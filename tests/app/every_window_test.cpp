@@ -72,6 +72,7 @@
 #include "importers/forms/DlgImportVB5Project.h"
 #include "importers/forms/DlgImportVB6Project.h"
 #include "importers/forms/DlgImportVBNetProject.h"
+#include "importers/forms/DlgNotAddedFiles.h"
 #include "shell/fake_window.h"
 #include "shell/forms/DlgAbout.h"
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
@@ -87,6 +88,7 @@
 #include "ui/FontForm.h"
 #include "ui/SelectDir.h"
 #include "ui/XInputBox.h"
+#include "ui/form_help.h"
 
 #include <gmock/gmock.h>
 
@@ -195,6 +197,7 @@ const WindowCase kWindows[] = {
     {"DlgEditorOptions", OfSession<DlgEditorOptions>},
     {"DlgFileInfo", [](Subject of) { return Made<DlgFileInfo>(FirstRow(of), of.session); }},
     {"DlgFindReplaceData", [](Subject of) { return Made<DlgFindReplaceData>(ReplaceIn::Destinations, "%DESTDIR", of.session); }},
+    {"DlgFormHelp", [](Subject of) { return Made<DlgFormHelp>(DlgImportVB6Project(of.imports, nullptr)); }},
     {"DlgGeneral", [](Subject of) { return Made<DlgGeneral>(kGeneralPages[0], of.session); }},
     {"DlgGetRegKey", [](Subject of) { return Made<DlgGetRegKey>(of.session.project.RunAppSelfX, of.session); }},
     {"DlgIcon", [](Subject of) { return Made<DlgIcon>(FirstRow(of), of.session); }},
@@ -211,6 +214,7 @@ const WindowCase kWindows[] = {
     {"DlgLicenseInfoRtf", OfSession<DlgLicenseInfoRtf>},
     {"DlgMDADetails", OfSession<DlgMDADetails>},
     {"DlgNameCompany", OfSession<DlgNameCompany>},
+    {"DlgNotAddedFiles", [](Subject) { return Made<DlgNotAddedFiles>(std::vector<NotAddedFile>{{"mscomctl.ocx", NotAdded::NotInSystemFolder}, {"comdlg32.dep", NotAdded::RestOfDepFile}}); }},
     {"DlgPassword", OfSession<DlgPassword>},
     {"DlgProgramGroup", OfSession<DlgProgramGroup>},
     {"DlgRegisterFiles", OfSession<DlgRegisterFiles>},

@@ -10,6 +10,7 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsSupersetOf;
 using testing::Not;
 
 class ImportCalls : public EditWorkshop {
@@ -80,13 +81,38 @@ TEST_F(ImportCalls, TellTheirRowsAndWhatTheyMissedAsAnObject)
     EXPECT_EQ(object["missed"][0]["reason"], "hör till Windows och läggs aldrig in");
     EXPECT_EQ(object["missed"][1]["file"], "nej.ocx");
     EXPECT_EQ(object["missed"][1]["reason"], "finns inte i systemkatalogen");
+    EXPECT_EQ(object["missed"][0]["kind"], "windows");
+    EXPECT_EQ(object["missed"][1]["kind"], "missing");
     EXPECT_FALSE(object["added"].empty());
+    for (const Json& row : object["added"])
+        EXPECT_NE(row["name"], "nej.ocx");
     EXPECT_TRUE(Rows(Filename).empty()) << "nothing is saved";
     const Json rest = DoneAsObject(Vb6({"--continue"}));
     EXPECT_EQ(rest["changed"], true);
     EXPECT_EQ(rest["dryRun"], false);
     EXPECT_EQ(rest["missed"].size(), 2U);
     EXPECT_THAT(Rows(Filename), Contains("MSVBVM60.dll"));
+    EXPECT_THAT(ObjectOf(Edit(Vb6({"--json"})))["error"].get<std::string>(),
+                HasSubstr("'nej.ocx' existerar inte"))
+        << "the next import tries again";
+    disk.Put("c/Windows/System32/nej.ocx", "x");
+    const Json found = DoneAsObject(Vb6());
+    EXPECT_THAT(found["added"].dump(), HasSubstr("nej.ocx"));
+    const auto names = Rows(Filename);
+    EXPECT_EQ(std::ranges::count(names, "nej.ocx"), 1);
+}
+
+TEST_F(ImportCalls, EndWith1WhereAControlWithAFolderIsMissed)
+{
+    disk.Put("src/Kund/Kund.vbp", "Object={2}; ..\\Bin\\Own.ocx\r\n");
+    const ProgramRun run = Edit(Vb6({"--json"}));
+    EXPECT_EQ(run.exitCode, 1);
+    const Json missed = ObjectOf(run)["missed"];
+    EXPECT_EQ(missed[0]["file"], "..\\Bin\\Own.ocx");
+    EXPECT_EQ(missed[0]["reason"], "ligger utanför systemkatalogen");
+    EXPECT_EQ(missed[0]["kind"], "outside");
+    EXPECT_TRUE(Rows(Filename).empty());
+    EXPECT_EQ(DoneAsObject(Vb6({"--continue"}))["missed"].size(), 1U);
 }
 
 TEST_F(ImportCalls, OnlyShowWhatADryRunWouldAdd)
@@ -116,6 +142,34 @@ TEST_F(ImportCalls, LetASwitchOverruleTheScan)
     Done(Vb6());
     EXPECT_THAT(Rows(Filename), Contains("Msstdfmt.dll"));
     ExpectRefused(Vb6({"--ado", "--no-ado"}), 2, "--ado och --no-ado utesluter varandra");
+    ExpectRefused(Vb6({"--rdo", "--no-rdo"}), 2, "--rdo och --no-rdo utesluter varandra");
+}
+
+TEST_F(ImportCalls, AddTheDataControlsThatSwitchesAskFor)
+{
+    disk.Put("c/Windows/System32/msrdc20.ocx", "x");
+    disk.Put("c/Windows/System32/rdocurs.dll", "x");
+    Done(Vb6({"--no-ado", "--no-rdo"}));
+    EXPECT_THAT(Rows(Filename), Not(Contains("Msadodc.ocx")));
+    EXPECT_THAT(Rows(Filename), Not(Contains("Rdocurs.dll")));
+    SaveProjectOf({});
+    Done(Vb6({"--ado", "--rdo"}));
+    EXPECT_THAT(Rows(Filename),
+                IsSupersetOf({"Msadodc.ocx", "Msstdfmt.dll", "Msrdc20.ocx", "Rdocurs.dll"}));
+}
+
+// The project's own control and what comes with it stay; the boxes of the scan are unticked.
+TEST_F(ImportCalls, AddNoMoreForADataControlThanTheProjectNames)
+{
+    disk.Put("src/Kund/Kund.vbp", "Object={1}; MSADODC.OCX\r\n");
+    for (const char* const off : {"--no-ado", "--no-rdo"}) {
+        SaveProjectOf({});
+        const Json object = DoneAsObject(Vb6({off}));
+        EXPECT_TRUE(object["missed"].empty());
+        const auto names = Rows(Filename);
+        EXPECT_EQ(std::ranges::count(names, "Msadodc.ocx"), 1) << off;
+        EXPECT_EQ(std::ranges::count(names, "Msstdfmt.dll"), 1) << off;
+    }
 }
 
 TEST_F(ImportCalls, TellWhatToSetWhereTheMachineHasNoVisualBasic)
@@ -135,6 +189,10 @@ TEST_F(ImportCalls, TellWhatToSetWhereTheMachineHasNoSystemFolder)
     const ProgramRun run = Edit(Vb6());
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_THAT(run.err, HasSubstr("låt QUILLON_DRIVE_C ange en katalog där den finns"));
+    disk.Put("src/Kund/Kund.vbproj", "<References>\r\nGuid = \"{831FDD16}\"\r\n"
+                                     "VersionMajor = \"2\"\r\nVersionMinor = \"0\"\r\n");
+    ExpectRefused({"import-vbnet", "--vbp", Src("Kund.vbproj"), "--exe", Src("Kund.exe")}, 1,
+                  "så projektets COM-komponenter kan ej hämtas");
 }
 
 TEST_F(ImportCalls, ImportAVb5Project)
@@ -169,9 +227,11 @@ TEST_F(ImportCalls, ImportAVbNetProject)
 
 TEST_F(ImportCalls, NameTheCallThatANewerProjectNeeds)
 {
-    disk.Put("src/Kund/Kund.vbproj", "<Project Sdk=\"Microsoft.NET.Sdk\">\n");
-    ExpectRefused({"import-vbnet", "--vbp", Src("Kund.vbproj"), "--exe", Src("Kund.exe")}, 1,
-                  "quillonc import-folder");
+    for (const std::string name : {"Kund.vbproj", "Kund.csproj"}) {
+        disk.Put("src/Kund/" + name, "<Project Sdk=\"Microsoft.NET.Sdk\">\n");
+        ExpectRefused({"import-vbnet", "--vbp", Src(name), "--exe", Src("Kund.exe")}, 1,
+                      "quillonc import-folder");
+    }
 }
 
 TEST_F(ImportCalls, ImportTheFolderOfABuild)
@@ -186,7 +246,8 @@ TEST_F(ImportCalls, ImportTheFolderOfABuild)
     disk.Put("tool/ImportData.txt", "[Windows]\nkernel32.dll\n");
     const std::vector<std::string> words{"import-folder", disk.Path("out/Kund"), "--icon", "Kund"};
     const std::string said = Done(words);
-    EXPECT_THAT(said, HasSubstr("Program: Kund.exe\nProgrammet är för 32 bitar.\n"
+    EXPECT_THAT(said, HasSubstr("Program: Kund.exe\nProgrammet är för valfri processor, men "
+                                "'x64.dll' är för 64 bitar.\n"
                                 "Programmet behöver .NET Framework 4.8.\n"
                                 "Saknas: nej.dll (behövs av Kund.exe)\n"));
     EXPECT_THAT(Rows(Filename), ElementsAre("Kund.exe", "text.txt", "x64.dll"));
@@ -196,7 +257,8 @@ TEST_F(ImportCalls, ImportTheFolderOfABuild)
     SaveProjectOf({});
     const Json object = DoneAsObject({"import-folder", disk.Path("out/Kund"), "--no-net-test"});
     EXPECT_EQ(object["program"], "Kund.exe");
-    EXPECT_EQ(object["machine"], "x86");
+    EXPECT_EQ(object["machine"], "any");
+    EXPECT_EQ(object["onlyFor"], "x64");
     EXPECT_EQ(object["dotNet"]["kind"], "framework");
     EXPECT_EQ(object["dotNet"]["version"], "4.8");
     EXPECT_EQ(object["missing"][0]["name"], "nej.dll");

@@ -18,6 +18,15 @@ const Text kSystem = "C:\\WINDOWS\\SYSTEM32";
 const Text kVbp = "C:\\Proj\\Kund.vbp";
 const Text kExe = "C:\\Proj\\Kund.exe";
 
+/// "file: reason" of each file that was not added.
+inline std::vector<Text> Missed(const ImportResult& result)
+{
+    std::vector<Text> files;
+    for (const NotAddedFile& file : result.notAdded)
+        files.push_back(file.file + ": " + file.Reason());
+    return files;
+}
+
 /// Answers as it is told; what it was asked stands beside.
 class DeskUser : public ImportUser {
 public:
@@ -41,6 +50,7 @@ public:
         return true;
     }
     void HideDialog() override { steps.push_back("hide"); }
+    void ShowDialog() override { steps.push_back("show"); }
     void UpdateStatusBar() override { steps.push_back("status"); }
     bool MayGoOn(const Text& file) override
     {

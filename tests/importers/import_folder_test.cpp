@@ -140,6 +140,48 @@ TEST_F(ImportFolderTest, TellsLibrariesForAnotherMachine)
                                                     "Fel processor: old.dll är för 32 bitar."));
 }
 
+TEST_F(ImportFolderTest, TellsWhereAProgramForAnyMachineCanRun)
+{
+    PutProgram("Kund.exe", {.clrVersion = "v4.0.30319"});
+    PutProgram("managed.dll", {.isLibrary = true, .clrVersion = "v4.0.30319"});
+    PutProgram("x64\\sqlite.dll", {.is64Bit = true, .isLibrary = true});
+    PutProgram("x86\\sqlite.dll", {.isLibrary = true});
+    EXPECT_TRUE(Find().isForAnyMachine);
+    EXPECT_FALSE(Find().onlyFor) << "it takes the one that is right";
+    EXPECT_THAT(FindingsText(Find()), Contains("Programmet är för valfri processor."));
+    PutProgram("old.dll", {.isLibrary = true});
+    EXPECT_THAT(Find().mixed, IsEmpty());
+    EXPECT_THAT(FindingsText(Find()),
+                Contains("Programmet är för valfri processor, men 'old.dll' är för 32 bitar."));
+    PutProgram("new.dll", {.is64Bit = true, .isLibrary = true});
+    EXPECT_EQ(Find().mixed.size(), 2U);
+    EXPECT_THAT(FindingsText(Find()), Contains("Olika processorer: new.dll är för 64 bitar."));
+    EXPECT_THAT(FindingsText(Find()), Contains("Olika processorer: old.dll är för 32 bitar."));
+}
+
+// Fonts of a program stay its own; the font folder is for those of all.
+TEST_F(ImportFolderTest, LeavesFontsInTheProgramsFolder)
+{
+    PutProgram("Kund.exe", {});
+    machine.files.Put(kOut + "\\fonts\\icons.ttf", "font");
+    machine.files.Put(kOut + "\\TEXT.TTF", "font");
+    Run({kDone});
+    EXPECT_EQ(Row("icons.ttf")[Destination], "%DESTDIR\\Bin\\fonts");
+    EXPECT_EQ(Row("TEXT.TTF")[Destination], "%DESTDIR\\Bin");
+}
+
+TEST_F(ImportFolderTest, TellsFilesOfOneNameEach)
+{
+    PutProgram("Kund.exe", {});
+    for (const Text& folder : {Text("de"), Text("sv")}) {
+        machine.files.Put(kOut + "\\" + folder + "\\text.dll", "x");
+        machine.files.At(kOut + "\\" + folder + "\\text.dll").unreadable = true;
+    }
+    const ImportResult result =
+        Run({{BoxKind::Critical, "Kan ej addera"}, {BoxKind::Critical, "Kan ej addera"}, kDone});
+    EXPECT_EQ(result.notAdded.size(), 2U);
+}
+
 TEST_F(ImportFolderTest, FindsTheRunTimeOfDotNet)
 {
     PutProgram("Kund.exe", {.clrVersion = "v1.1.4322"});
@@ -163,7 +205,7 @@ TEST_F(ImportFolderTest, AddsTheTreeBelowTheDestination)
     EXPECT_THAT(Rows(),
                 ElementsAre("Kund.exe %DESTDIR\\Bin D", "text.txt %DESTDIR\\Bin\\sv\\Resources D",
                             "lib.dll %DESTDIR\\Bin DA"));
-    EXPECT_THAT(result.notAdded, ElementsAre(NotAddedFile{"Kund.pdb", "hör till bygget"}));
+    EXPECT_THAT(Missed(result), ElementsAre("Kund.pdb: hör till bygget"));
     EXPECT_EQ(user.asked.caption, "Välj destinationskatalog för Kund.exe");
     EXPECT_THAT(user.steps, ElementsAre("destination", "hide", "status"));
     EXPECT_EQ(state.ProjectIsDirty, kOn);

@@ -88,10 +88,15 @@ TEST_F(ImportVb5, TakesTheFolderOfDaoWhereTheRegistryNamesItAlone)
                      "vb5db.dll", "msrd2x35.dll", "msrepl35.dll", "odbcjt32.dll", "odbcji32.dll",
                      "odbctl32.dll"});
     PutAll("C:\\DAO", {"dao350.dll", "dao2535.tlb"});
-    Register("SOFTWARE\\Microsoft\\Shared Tools\\DAO350", "Path", "C:\\DAO\\");
+    PutAll("C:\\DAO.3", {"dao350.dll", "dao2535.tlb"});
     choices.cImportDAO35 = true;
-    Run({kDone});
-    EXPECT_EQ(Row("DAO350.dll")[Source], "c:\\dao\\dao350.dll");
+    for (const Text& folder : {Text("C:\\DAO"), Text("C:\\DAO.3")}) {
+        project.Files.rows.clear();
+        Register("SOFTWARE\\Microsoft\\Shared Tools\\DAO350", "Path", folder + "\\");
+        Run({kDone});
+        EXPECT_EQ(Row("DAO350.dll")[Source], LowerCase(folder) + "\\dao350.dll");
+        EXPECT_EQ(Row("DAO2535.tlb")[Source], LowerCase(folder) + "\\dao2535.tlb");
+    }
 }
 
 TEST_F(ImportVb5, TellsThatDaoIsNotRegistered)
@@ -100,12 +105,19 @@ TEST_F(ImportVb5, TellsThatDaoIsNotRegistered)
                      "vb5db.dll", "msrd2x35.dll", "msrepl35.dll", "odbcjt32.dll", "odbcji32.dll",
                      "odbctl32.dll"});
     choices.cImportDAO35 = true;
-    EXPECT_THAT(Run({{BoxKind::Critical, "Fel",
-                      "Kan ej hitta DAO-filerna 'DAO2535.tlb' och 'DAO350.dll' på din hårddisk!"},
-                     kDone})
-                    .notAdded,
-                ElementsAre(NotAddedFile{"DAO2535.tlb", "saknas i registry"},
-                            NotAddedFile{"DAO350.dll", "saknas i registry"}));
+    EXPECT_THAT(
+        Missed(Run({{BoxKind::Critical, "Fel",
+                     "Kan ej hitta DAO-filerna 'DAO2535.tlb' och 'DAO350.dll' på din hårddisk!"},
+                    kDone})),
+        ElementsAre("DAO2535.tlb: saknas i registry", "DAO350.dll: saknas i registry"));
+}
+
+TEST_F(ImportVb5, TellsNothingOfDaoOnceItIsStopped)
+{
+    choices.cImportDAO35 = true;
+    user.stopAfter = 7;
+    EXPECT_EQ(Run({{BoxKind::Inform, "Importen är avbruten"}}).end, ImportEnd::Stopped);
+    EXPECT_EQ(project.Files.rows.size(), 7U);
 }
 
 TEST_F(ImportVb5, TellsAControlOutsideTheSystemFolder)

@@ -1,6 +1,7 @@
 #include "importers/import_vb6.h"
 
 #include "import_desk.h"
+#include "importers/vb_project.h"
 
 #include <gmock/gmock.h>
 
@@ -93,7 +94,7 @@ TEST_F(ImportVb6, AddsRunTimeControlsAndProgram)
     EXPECT_EQ(Row("Kund.exe")[Source], LowerCase(kExe));
     EXPECT_EQ(state.ProjectIsDirty, kOn);
     EXPECT_EQ(result.places.size(), 8U);
-    EXPECT_THAT(result.notAdded, IsEmpty());
+    EXPECT_THAT(Missed(result), IsEmpty());
 }
 
 TEST_F(ImportVb6, HidesItsDialogAndAsksForTheProgramsFolder)
@@ -200,24 +201,88 @@ TEST_F(ImportVb6, TellsEachMissingFileAndGoesOn)
              NotInSystemFolder("MSVBVM60.dll"),
              NotInSystemFolder("Nej.ocx"),
              kControlElsewhere,
+             NotInSystemFolder("..\\Bin\\Own.ocx"),
              kControlElsewhere,
              kDone});
-    EXPECT_THAT(result.notAdded,
-                ElementsAre(NotAddedFile{"COMCAT.dll", "finns inte vid källsökvägen"},
-                            NotAddedFile{"MSVBVM60.dll", "finns inte i systemkatalogen"},
-                            NotAddedFile{"Nej.ocx", "finns inte i systemkatalogen"},
-                            NotAddedFile{"..\\Bin\\Own.ocx", "ligger utanför systemkatalogen"}));
+    EXPECT_THAT(Missed(result), ElementsAre("COMCAT.dll: finns inte vid källsökvägen",
+                                            "MSVBVM60.dll: finns inte i systemkatalogen",
+                                            "Nej.ocx: finns inte i systemkatalogen",
+                                            "..\\Bin\\Own.ocx: ligger utanför systemkatalogen"));
     EXPECT_THAT(Rows(), Contains("Comdlg32.ocx %SYSDIR VRAW"));
     EXPECT_THAT(Rows(), Not(Contains(HasSubstr("Own.ocx"))));
+}
+
+// What an import could not find counts neither as added nor, in the next import, as there.
+TEST_F(ImportVb6, TriesAMissingFileAgainInTheNextImport)
+{
+    machine.files.RemoveFile(kSystem + "\\msvbvm60.dll");
+    machine.files.RemoveFile(kRedist + "\\comcat.dll");
+    PutProject("");
+    const std::deque<ExpectedBox> boxes{
+        {BoxKind::Critical, "Fel",
+         "Filen 'COMCAT.dll' kan ej adderas till fillistan. Filen existerar inte vid källsökvägen "
+         "'" +
+             kRedist + "\\COMCAT.dll'!"},
+        NotInSystemFolder("MSVBVM60.dll"),
+        kDone};
+    const auto missing = ElementsAre("COMCAT.dll: finns inte vid källsökvägen",
+                                     "MSVBVM60.dll: finns inte i systemkatalogen");
+    ImportResult result = Run(boxes);
+    EXPECT_THAT(Missed(result), missing);
+    EXPECT_THAT(result.added, ElementsAre(0, 2, 3, 4, 6)) << "not the rows without a file";
+    std::deque<ExpectedBox> again = boxes;
+    result = Run(again);
+    EXPECT_THAT(Missed(result), IsSupersetOf({"COMCAT.dll: finns inte vid källsökvägen",
+                                              "MSVBVM60.dll: finns inte i systemkatalogen"}));
+    const auto rows = Rows();
+    EXPECT_EQ(std::ranges::count(rows, "COMCAT.dll %SYSDIR VRAW"), 1);
+    EXPECT_EQ(std::ranges::count(rows, "MSVBVM60.dll %SYSDIR "), 1);
+
+    machine.files.Put(kSystem + "\\msvbvm60.dll", "x");
+    machine.files.Put(kRedist + "\\comcat.dll", "x");
+    result = Run({kDone});
+    EXPECT_THAT(Missed(result), ElementsAre("Kund.exe: finns redan i fillistan"));
+    EXPECT_EQ(Rows()[1], "COMCAT.dll %SYSDIR VRAW");
+    EXPECT_EQ(Rows()[5], "MSVBVM60.dll %SYSDIR VRAW");
+    EXPECT_EQ(Row("MSVBVM60.dll")[Source], LowerCase(kSystem) + "\\msvbvm60.dll");
+    EXPECT_EQ(Row("COMCAT.dll")[Source], LowerCase(kRedist) + "\\comcat.dll");
+    EXPECT_THAT(result.added, IsSupersetOf({1U, 5U}));
+}
+
+TEST_F(ImportVb6, TriesAProgramAgainThatWasMissing)
+{
+    PutProject("");
+    machine.files.RemoveFile(kExe);
+    const ImportResult result =
+        Run({{BoxKind::Critical, "Fel", "Filen 'C:\\Proj\\Kund.exe' finns inte."}});
+    EXPECT_EQ(result.end, ImportEnd::Failed);
+    EXPECT_THAT(Missed(result), ElementsAre("Kund.exe: finns inte vid källsökvägen"));
+    machine.files.Put(kExe, "MZ");
+    const ImportResult again = Run({kDone});
+    ASSERT_TRUE(again.newProgram);
+    EXPECT_EQ(project.Files.rows[*again.newProgram][Source], LowerCase(kExe));
+    EXPECT_EQ(std::ranges::count(Rows(), "Kund.exe %DESTDIR\\Bin D"), 1);
+}
+
+TEST_F(ImportVb6, TellsAFileOnceThatSeveralListsMiss)
+{
+    machine.files.RemoveFile(kSystem + "\\msstdfmt.dll");
+    PutProject("Object={1}; MSADODC.OCX\r\nObject={2}; MSRDC20.OCX\r\n");
+    choices.cImportADO = choices.cImportRDO = true;
+    EXPECT_THAT(Missed(Run({NotInSystemFolder("MSSTDFMT.DLL"), kDataAccess, kDone})),
+                ElementsAre("MSSTDFMT.DLL: finns inte i systemkatalogen"));
 }
 
 TEST_F(ImportVb6, NeverAddsTheBrowser)
 {
     PutAll(kSystem, {"shdocvw.dll"});
-    PutProject("Object={EAB22AC0}#1.1#0; shdocvw.dll\r\n");
-    EXPECT_THAT(Run({kDone}).notAdded,
-                ElementsAre(NotAddedFile{"shdocvw.dll", "hör till Windows och läggs aldrig in"}));
-    EXPECT_EQ(project.Files.rows.size(), 7U);
+    for (const std::string name : {"shdocvw.dll", "SHDOCVW.DLL", "ShDocVw.dll"}) {
+        PutProject("Object={EAB22AC0}#1.1#0; " + name + "\r\n");
+        project.Files.rows.clear();
+        EXPECT_THAT(Missed(Run({kDone})),
+                    ElementsAre(name + ": hör till Windows och läggs aldrig in"));
+        EXPECT_EQ(project.Files.rows.size(), 7U);
+    }
 }
 
 TEST_F(ImportVb6, IgnoresALineThatNamesNoFile)
@@ -377,6 +442,52 @@ TEST_F(ImportVb6, TellsAPackageThatCannotBeCopied)
     EXPECT_THAT(Rows(), Not(Contains(HasSubstr("MDAC"))));
 }
 
+TEST_F(ImportVb6, TellsAProjectThatNamesTooManyControls)
+{
+    std::string lines;
+    for (std::size_t i = 0; i < kMaxReferences; ++i)
+        lines += "Object={1}; COMDLG32.OCX\r\n";
+    PutProject(lines + "Object={2}; MSADODC.OCX\r\n");
+    const ExpectedBox tooMany{BoxKind::Critical, "Fel inträffade",
+                              "Projektfilen 'C:\\Proj\\Kund.vbp' anger fler än 1000 "
+                              "ActiveX-filer. Endast de första 1000 är lästa."};
+    Scan({tooMany});
+    EXPECT_FALSE(choices.cImportADO);
+    Run({tooMany, kDone});
+    EXPECT_THAT(Rows(), Contains("Comdlg32.ocx %SYSDIR VRAW"));
+    EXPECT_THAT(Rows(), Not(Contains(HasSubstr("Msadodc"))));
+}
+
+// Every kind of line that such a project has, written as different versions of the tool did.
+TEST_F(ImportVb6, ReadsAProjectOfEveryFormOfLine)
+{
+    PutAll(kSystem, {"grid32.ocx", "tabctl32.ocx", "one.dll", "two.dll", "vb6stkit.dll"});
+    PutProject("Reference=*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#..\\..\\WINDOWS\\"
+               "SYSTEM32\\STDOLE2.TLB#OLE Automation\r\n"
+               "Reference=*\\A..\\Lib\\Lib.vbp\r\n"
+               "Object={F9043C88-F6F2-101A-A3C9-08002B2F49FB}#1.2#0; COMDLG32.OCX\r\n"
+               "Object={BDC217C8-ED16-11CD-956C-0000C04E4C0A}; TABCTL32.OCX\r\n"
+               "Object=\"{A8B3B723-0B5A-101B-B22E-00AA0037B2FC}#1.0#0\"; \"GRID32.OCX\"\r\n"
+               "Object=*\\A..\\Control\\Own.vbp\r\n"
+               "Object={0}#1.0#0;tight.ocx\r\n"
+               "Module=basMain; Main.bas\r\n"
+               "Module=basSetup1; ..\\Setup1\\Setup1.bas\r\n"
+               "Module=\"basTools; C:\\My Files\\Tools.bas\"\r\n"
+               "Class=clsRow; ..\\Common\\Row.cls\r\n"
+               "Class=\"clsQuoted; Quoted.cls\"\r\n"
+               "Form=frmMain.frm\r\nForm=\"..\\Forms\\frm Quoted.frm\"\r\n"
+               "UserControl=ctlGrid.ctl\r\nUserControl=\"..\\ctl\\ctlOther.ctl\"\r\n"
+               "Designer=dsrReport.Dsr\r\nRelatedDoc=readme.txt\r\n"
+               "Startup=\"frmMain\"\r\nTitle=\"Kund; register\"\r\n"
+               "[MS Transaction Server]\r\nAutoRefresh=1\r\n");
+    Run({kDone});
+    EXPECT_THAT(RowsFrom(6), ElementsAre("Comdlg32.ocx %SYSDIR VRAW", "Tabctl32.ocx %SYSDIR VRAW",
+                                         "Grid32.ocx %SYSDIR VRAW", "Mfc42.dll %SYSDIR VRAW",
+                                         "Msvcrt.dll %SYSDIR VA", "Vb6stkit.dll %SYSDIR VA",
+                                         "One.dll %SYSDIR VA", "Two.dll %SYSDIR VA",
+                                         "Kund.exe %DESTDIR\\Bin D"));
+}
+
 class ImportVb6Dao : public ImportVb6 {
 protected:
     ImportVb6Dao()
@@ -446,6 +557,35 @@ TEST_F(ImportVb6Dao, AddsNeitherFileOfDao35WhereOneIsNotRegistered)
     EXPECT_THAT(Rows(), Not(Contains(HasSubstr("%DAODIR"))));
 }
 
+TEST_F(ImportVb6Dao, TakesAFolderOfDaoWithAPointInItsName)
+{
+    choices.cImportDAO35 = choices.cImportDAO36 = true;
+    PutAll("C:\\DAO.3", {"dao350.dll", "dao2535.tlb", "dao360.dll"});
+    Register("SOFTWARE\\Microsoft\\Shared Tools\\DAO350", "Path", "C:\\DAO.3");
+    Register("SOFTWARE\\Microsoft\\Shared Tools\\DAO360.DLL", "Path", "C:\\DAO.3\\");
+    Run({kDone});
+    EXPECT_EQ(Row("DAO350.dll")[Source], "c:\\dao.3\\dao350.dll");
+    EXPECT_EQ(Row("DAO2535.tlb")[Source], "c:\\dao.3\\dao2535.tlb");
+    EXPECT_EQ(Row("DAO360.dll")[Source], "c:\\dao.3\\dao360.dll");
+}
+
+// Neither the questions nor the faults of the steps that are left.
+TEST_F(ImportVb6Dao, AsksAndTellsNothingMoreOnceItIsStopped)
+{
+    const ExpectedBox stopped{BoxKind::Inform, "Importen är avbruten",
+                              "Importen har stoppats. De filer som redan har adderats ligger kvar "
+                              "i fillistan."};
+    choices.cImportDAO35 = choices.cImportDAO36 = choices.cImportADO = choices.cImportRDO =
+        choices.cInstallMDA = true;
+    for (const std::size_t place : {7, 13}) {
+        project.Files.rows.clear();
+        user.seen.clear();
+        user.stopAfter = place;
+        EXPECT_EQ(Run({stopped}).end, ImportEnd::Stopped) << place;
+        EXPECT_EQ(project.Files.rows.size(), place);
+    }
+}
+
 TEST_F(ImportVb6Dao, AddsDao36)
 {
     choices.cImportDAO36 = true;
@@ -496,6 +636,43 @@ TEST_F(ImportVb6, FollowsDependencyFilesWhereTheBoxIsTicked)
     EXPECT_THAT(Rows(), Contains("helper.dll %SYSDIR DA"));
 }
 
+TEST_F(ImportVb6, ShowsTheFilesOfDependencyFilesAndStopsAmongThem)
+{
+    PutProject("Object={1}; COMDLG32.OCX\r\n");
+    PutAll(kSystem, {"a.dll", "b.dll", "c.dll"});
+    machine.files.Put(kSystem + "\\comdlg32.DEP",
+                      "[COMDLG32.OCX]\r\nUses1=a.dll\r\nUses2=b.dll\r\nUses3=c.dll\r\n"
+                      "[a.dll]\r\nUses1=c.dll\r\n");
+    Run({kDone});
+    EXPECT_THAT(user.seen, IsSupersetOf({"a.dll", "b.dll", "c.dll"}));
+    project.Files.rows.clear();
+    user.seen.clear();
+    user.stopAfter = 8; // a.dll
+    EXPECT_EQ(Run({{BoxKind::Inform, "Importen är avbruten"}}).end, ImportEnd::Stopped);
+    EXPECT_THAT(RowsFrom(6), ElementsAre("Comdlg32.ocx %SYSDIR VRAW", "a.dll %SYSDIR DA"));
+    EXPECT_EQ(user.seen.back(), "c.dll");
+}
+
+TEST_F(ImportVb6, TellsWhatADependencyFileNamesAndIsNotAdded)
+{
+    PutProject("Object={1}; COMDLG32.OCX\r\n");
+    PutAll(kSystem, {"a.dll", "c.dll", "shdocvw.dll"});
+    FileListRow& row = project.Files.rows.emplace_back();
+    row[Filename] = "a.dll";
+    row[Destination] = "%SYSDIR";
+    row[Source] = "c:\\other\\a.dll";
+    machine.files.Put(kSystem + "\\comdlg32.DEP",
+                      "[COMDLG32.OCX]\r\nUses1=a.dll\r\nUses2=shdocvw.dll\r\n"
+                      "Uses3=gone.dll\r\nUses4=c.dll\r\n");
+    const ImportResult result = Run({{BoxKind::Critical, "Fel"}, kDone});
+    EXPECT_THAT(Missed(result),
+                ElementsAre("a.dll: finns redan i fillistan",
+                            "shdocvw.dll: hör till Windows och läggs aldrig in",
+                            "gone.dll: finns inte vid källsökvägen",
+                            "COMDLG32.DEP: är ej läst till slutet, eftersom en fil i den inte "
+                            "kunde adderas"));
+}
+
 TEST_F(ImportVb6, AsksForTheIconOfTheProgram)
 {
     PutProject("");
@@ -536,7 +713,7 @@ TEST_F(ImportVb6, KeepsTheIconOfAProgramThatIsInTheListAlready)
     EXPECT_EQ(project.Files.rows[0][IconMarker], "IkonD");
     EXPECT_EQ(project.Files.rows[0][IconDesc], "Kund");
     EXPECT_EQ(project.Files.rows.back()[IconMarker], "");
-    EXPECT_THAT(result.notAdded, ElementsAre(NotAddedFile{"Kund.exe", "finns redan i fillistan"}));
+    EXPECT_THAT(Missed(result), ElementsAre("Kund.exe: finns redan i fillistan"));
     EXPECT_EQ(result.places.size(), 7U);
 }
 

@@ -1,6 +1,7 @@
 #include "importers/import_vbnet.h"
 
 #include "import_desk.h"
+#include "importers/vb_project.h"
 
 #include <gmock/gmock.h>
 
@@ -74,11 +75,10 @@ TEST_F(ImportVbNet, AddsComponentsProgramAndTheLibrariesBesideIt)
                 ElementsAre("Mscomctl.ocx %SYSDIR VRAW", "msxml3.dll %SYSDIR VA",
                             "Kund.exe %DESTDIR\\Bin D", "AxInterop.MSComctlLib.dll %DESTDIR DA",
                             "Other.DLL %DESTDIR DA"));
-    EXPECT_THAT(
-        result.notAdded,
-        ElementsAre(NotAddedFile{"STDOLE2.TLB", "hör till Windows och läggs aldrig in"},
-                    NotAddedFile{"C:\\Program\\Own\\own.ocx", "ligger utanför systemkatalogen"},
-                    NotAddedFile{"{E}", "saknas i registry"}));
+    EXPECT_THAT(Missed(result),
+                ElementsAre("STDOLE2.TLB: hör till Windows och läggs aldrig in",
+                            "C:\\Program\\Own\\own.ocx: ligger utanför systemkatalogen",
+                            "{E}: saknas i registry"));
     EXPECT_THAT(user.steps,
                 ElementsAre("hide", "status", "destination", "status", "status", "icon"));
 }
@@ -101,9 +101,9 @@ TEST_F(ImportVbNet, SkipsAComponentThatAnyRowHasByName)
     PutProject(Reference("A", "2", "0"));
     FileListRow& row = project.Files.rows.emplace_back();
     row[Filename] = "MSComCtl.ocx";
+    row[Source] = "c:\\other\\mscomctl.ocx";
     row[Destination] = "%DESTDIR";
-    EXPECT_THAT(Run({kDone}).notAdded,
-                ElementsAre(NotAddedFile{"mscomctl.ocx", "finns redan i fillistan"}));
+    EXPECT_THAT(Missed(Run({kDone})), ElementsAre("mscomctl.ocx: finns redan i fillistan"));
 }
 
 TEST_F(ImportVbNet, FollowsTheDependencyFilesOfControlsAlone)
@@ -212,6 +212,57 @@ TEST_F(ImportVbNet, PassesOverLibrariesThatCannotBeRead)
     PutProject("");
     Run({{BoxKind::Critical, "Kan ej addera"}, kDone});
     EXPECT_THAT(Rows(), ElementsAre("Kund.exe %DESTDIR\\Bin D", "zopen.dll %DESTDIR DA"));
+}
+
+TEST_F(ImportVbNet, TellsWhatToSetWhereComponentsNeedASystemFolderThatIsNotThere)
+{
+    machine.files.RemoveFile(kSystem + "\\kernel32.dll");
+    const ExpectedBox noFolder{
+        BoxKind::Critical, "Systemkatalogen saknas",
+        "Systemkatalogen 'C:\\WINDOWS\\SYSTEM32' finns inte eller är tom, så projektets "
+        "COM-komponenter kan ej hämtas. Kopiera systemkatalogen från en dator med Windows och "
+        "Visual Basic dit, eller låt QUILLON_DRIVE_C ange en katalog där den finns."};
+    PutProject(Reference("A", "2", "0"));
+    EXPECT_EQ(Run({noFolder}).end, ImportEnd::Refused);
+    PutProject("", "<Include>\r\nRelPath = \"Tools.vb\"\r\n");
+    EXPECT_EQ(Run({noFolder}).end, ImportEnd::Refused);
+    EXPECT_THAT(Rows(), IsEmpty());
+    PutProject("");
+    EXPECT_EQ(Run({kDone}).end, ImportEnd::Done) << "nothing of it is needed";
+}
+
+TEST_F(ImportVbNet, TellsAProjectThatNamesTooManyComponents)
+{
+    PutAll(kSystem, {"grid.ocx", "last.ocx"});
+    RegisterTypes("{A}\\1.0", kSystem + "\\grid.ocx");
+    RegisterTypes("{B}\\1.0", kSystem + "\\last.ocx");
+    std::string references;
+    for (std::size_t i = 0; i < kMaxReferences; ++i)
+        references += Reference("A", "1", "0");
+    PutProject(references + Reference("B", "1", "0"));
+    Run({{BoxKind::Critical, "Fel inträffade",
+          "Projektfilen 'C:\\Proj\\Kund.vbproj' anger fler än 1000 referenser. Endast de första "
+          "1000 är lästa."},
+         kDone});
+    EXPECT_THAT(Rows(), ElementsAre("grid.ocx %SYSDIR VRAW", "Kund.exe %DESTDIR\\Bin D"));
+}
+
+TEST_F(ImportVbNet, ShowsItsProgressAmongManyLibrariesAndStopsThere)
+{
+    for (int i = 0; i < 30; ++i)
+        PutAll("C:\\Proj\\bin", {"lib" + std::to_string(10 + i) + ".dll"});
+    PutProject("");
+    Run({kDone});
+    EXPECT_EQ(project.Files.rows.size(), 31U);
+    EXPECT_THAT(user.steps, ElementsAre("hide", "status", "destination", "status", "show", "hide",
+                                        "status", "icon"));
+    EXPECT_EQ(user.seen.back(), "lib39.dll");
+    project.Files.rows.clear();
+    user.seen.clear();
+    user.stopAfter = 6;
+    EXPECT_EQ(Run({{BoxKind::Inform, "Importen är avbruten"}}).end, ImportEnd::Stopped);
+    EXPECT_EQ(project.Files.rows.size(), 6U);
+    EXPECT_EQ(user.seen.size(), 7U) << "it asks no more behind a no";
 }
 
 TEST(ProgramFolderOf, IsBesideTheProject)

@@ -79,14 +79,20 @@ TEST(ModuleIn, FindsNameAndFileInEachFormOfALine)
 TEST(ActiveXFilesOf, KeepTheOrderOfTheFile)
 {
     EXPECT_THAT(ActiveXFilesOf({"Type=Exe", "Object={1}; b.ocx", "Form=a.frm", "Object=*\\Ax.vbp",
-                                "Object={2}; a.ocx"}),
+                                "Object={2}; a.ocx"})
+                    .names,
                 ElementsAre("b.ocx", "a.ocx"));
 }
 
 TEST(ActiveXFilesOf, EndWhereNoProjectHasMore)
 {
-    const std::vector<Text> lines(5000, "Object={1}; a.ocx");
-    EXPECT_EQ(ActiveXFilesOf(lines).size(), kMaxReferences);
+    std::vector<Text> lines(kMaxReferences, "Object={1}; a.ocx");
+    lines.emplace_back("Form=a.frm");
+    EXPECT_EQ(ActiveXFilesOf(lines).names.size(), kMaxReferences);
+    EXPECT_FALSE(ActiveXFilesOf(lines).isCut);
+    lines.emplace_back("Object={2}; b.ocx");
+    EXPECT_EQ(ActiveXFilesOf(lines).names.size(), kMaxReferences);
+    EXPECT_TRUE(ActiveXFilesOf(lines).isCut);
 }
 
 } // namespace

@@ -32,7 +32,7 @@ TEST(ComReferencesOf, FindsGuidAndBothVersions)
                               "      Guid = \"{0}\"\r\n      VersionMajor = \"1\"\r\n"
                               "      VersionMinor = \"17\"\r\n"));
     ASSERT_TRUE(references);
-    EXPECT_THAT(*references,
+    EXPECT_THAT(references->list,
                 ElementsAre(ComReference{"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}", "2", "0"},
                             ComReference{"{0}", "1", "17"}));
 }
@@ -42,14 +42,37 @@ TEST(ComReferencesOf, TakesTheNextTwoLinesWhateverTheyHold)
     const auto references = ComReferencesOf(Lines("<References>\r\nGuid = \"{0}\"\r\n"
                                                   "Guid = \"{1}\"\r\nLcid\r\nGuid = \"{2}\"\r\n"));
     ASSERT_TRUE(references);
-    EXPECT_THAT(*references, ElementsAre(ComReference{"{0}", "{1}", ""}));
+    EXPECT_THAT(references->list, ElementsAre(ComReference{"{0}", "{1}", ""}));
+}
+
+TEST(ComReferencesOf, TakesAGuidWithoutItsEndForAnEmptyOne)
+{
+    const auto references = ComReferencesOf(
+        Lines("<References>\r\nGuid = \"{0\"\r\nVersionMajor = \"1\"\r\nVersionMinor = \"0\"\r\n"
+              "Guid = \"{1}\"\r\nVersionMajor = \"2\"\r\nVersionMinor = \"0\"\r\n"));
+    ASSERT_TRUE(references);
+    EXPECT_THAT(references->list,
+                ElementsAre(ComReference{"{}", "1", "0"}, ComReference{"{1}", "2", "0"}));
+}
+
+TEST(ComReferencesOf, KeepsTheVersionsOfOtherReferencesBehindADamagedLine)
+{
+    const ProjectLines project =
+        SplitProject(std::string("<References>\r\nGuid = \"{0}\"\r\nVersion\0Major\r\n"
+                                 "VersionMinor = \"7\"\r\nLcid = \"9\"\r\n",
+                                 75),
+                     "C:\\a.vbproj");
+    EXPECT_NE(project.damage, "");
+    const auto references = ComReferencesOf(project.lines);
+    ASSERT_TRUE(references);
+    EXPECT_THAT(references->list, ElementsAre(ComReference{"{0}", "", "7"}));
 }
 
 TEST(ComReferencesOf, TellsAFileWithoutAList)
 {
     EXPECT_FALSE(ComReferencesOf(Lines("Guid = \"{0}\"\r\nVersionMajor = \"1\"\r\n")));
     EXPECT_FALSE(ComReferencesOf({}));
-    EXPECT_THAT(*ComReferencesOf(Lines("<References>\r\n</References>\r\n")), IsEmpty());
+    EXPECT_THAT(ComReferencesOf(Lines("<References>\r\n</References>\r\n"))->list, IsEmpty());
 }
 
 TEST(ComReferencesOf, EndsWhereNoProjectHasMore)
@@ -57,7 +80,11 @@ TEST(ComReferencesOf, EndsWhereNoProjectHasMore)
     std::vector<Text> lines{"<References>"};
     for (int i = 0; i < 5000; ++i)
         lines.insert(lines.end(), {"Guid = \"{0}\"", "\"1\"", "\"0\""});
-    EXPECT_EQ(ComReferencesOf(lines)->size(), kMaxReferences);
+    EXPECT_EQ(ComReferencesOf(lines)->list.size(), kMaxReferences);
+    EXPECT_TRUE(ComReferencesOf(lines)->isCut);
+    lines.resize(1 + 3 * kMaxReferences);
+    EXPECT_EQ(ComReferencesOf(lines)->list.size(), kMaxReferences);
+    EXPECT_FALSE(ComReferencesOf(lines)->isCut);
 }
 
 TEST(IncludedFileLines, StandBehindTheirHeading)

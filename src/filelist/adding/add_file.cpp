@@ -10,6 +10,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -33,10 +34,22 @@ Text ReasonText(const RunError& error, const Text& path)
     }
 }
 
+bool IsSameFile(const FileListRow& row, const FileToAdd& file)
+{
+    return EqualIgnoreCase(row[Filename], file.FileName) &&
+           (EqualIgnoreCase(row[Source], file.SourcePath) ||
+            EqualIgnoreCase(row[Destination], file.Destination));
+}
+
 } // namespace
 
-FileAdding::FileAdding(FileList& files, Host host, Ask& ask) : files_(files), host_(host), ask_(ask)
+FileAdding::FileAdding(FileList& files, Host host, Ask& ask, RowsWithoutSource withoutSource)
+    : files_(files), host_(host), ask_(ask), withoutSource_(withoutSource)
 {
+    if (withoutSource_ == RowsWithoutSource::AreFilled)
+        for (std::size_t i = 0; i < files_.rows.size(); ++i)
+            if (LacksSource(files_.rows[i]))
+                toBeFilled_.push_back(i);
 }
 
 FileAdding::~FileAdding()
@@ -86,16 +99,18 @@ std::optional<std::size_t> FileAdding::AddOrRefuse(const FileToAdd& file)
     FileListRow row;
     row[Filename] = file.FileName;
     row[Destination] = file.Destination;
+    row[CopyOptions] = file.CopyOptions;
     return AppendRow(std::move(row), [&](FileListRow& filled) {
         FillFromDisk(filled, found ? *found : host_.files.Status(file.SourcePath), file.SourcePath);
-        filled[CopyOptions] = StartingCopyOptions(file.FileName, file.UseVersionRules, [&] {
-            return !FileVersionText(host_.files, stored).empty();
-        });
+        if (file.CopyOptions.empty())
+            filled[CopyOptions] = StartingCopyOptions(file.FileName, file.UseVersionRules, [&] {
+                return !FileVersionText(host_.files, stored).empty();
+            });
         filled[ComponentNumber] = file.ComponentNr;
         filled[Extension] = ExtensionFromFirstDot(file.FileName);
         filled[Source] = stored;
-        // Kept: a font goes to the font folder whatever the caller chose; the user may move it.
-        if (EqualIgnoreCase(filled[Extension], "ttf"))
+        // Kept: a font goes to the font folder whatever the user chose, who may move it then.
+        if (!file.KeepsFontHere && EqualIgnoreCase(filled[Extension], "ttf"))
             filled[Destination] = "%FONTDIR";
     });
 }
@@ -121,6 +136,9 @@ std::optional<std::size_t> FileAdding::AddSystemFile(const Text& fileName, bool 
 {
     const Text folder = host_.machine.GetSystemDir();
     if (folder.empty())
+        throw RunError(ErrorNumber::kFileNotFound, fileName);
+    // A name with a folder is none of the system folder, even where the folder leads there.
+    if (fileName.find_first_of("\\/") != Text::npos)
         throw RunError(ErrorNumber::kFileNotFound, fileName);
     const Text path = LowerCase(JoinPath(folder, fileName));
     if (IsGuardedHere(fileName, path))
@@ -193,6 +211,12 @@ bool FileAdding::IsRefusedAsDuplicate(const FileToAdd& file)
         duplicates_.emplace(files_);
     if (!duplicates_->IsFileAlreadyInList(file.FileName, file.SourcePath, file.Destination))
         return false;
+    // The index counts the rows to be filled too.
+    if (ToBeFilled(file.FileName, file.Destination) != toBeFilled_.end() &&
+        std::ranges::none_of(files_.rows, [&](const FileListRow& row) {
+            return !LacksSource(row) && IsSameFile(row, file);
+        }))
+        return false;
     if (file.ShowDuplicateMessage)
         ask_.Inform("Quillon", kAlreadyInList);
     return true;
@@ -216,7 +240,8 @@ void FileAdding::FillFromDisk(FileListRow& row, const FileStatus& status, const 
 template <class Fill>
 std::size_t FileAdding::AppendRow(FileListRow row, Fill fill)
 {
-    if (files_.rows.size() >= kMaxRows)
+    if (files_.rows.size() >= kMaxRows &&
+        ToBeFilled(row[Filename], row[Destination]) == toBeFilled_.end())
         throw RunError(ErrorNumber::kOverflow, row[Filename]);
     try {
         fill(row);
@@ -227,8 +252,29 @@ std::size_t FileAdding::AppendRow(FileListRow row, Fill fill)
     return Append(std::move(row));
 }
 
+// The row without its source that a file of this name and destination fills.
+std::vector<std::size_t>::iterator FileAdding::ToBeFilled(const Text& name, const Text& destination)
+{
+    return std::ranges::find_if(toBeFilled_, [&](std::size_t number) {
+        const FileListRow& row = files_.rows[number];
+        return EqualIgnoreCase(row[Filename], name) &&
+               EqualIgnoreCase(row[Destination], destination);
+    });
+}
+
 std::size_t FileAdding::Append(FileListRow row)
 {
+    if (const auto place = ToBeFilled(row[Filename], row[Destination]);
+        place != toBeFilled_.end()) {
+        const std::size_t number = *place;
+        files_.rows[number] = std::move(row);
+        if (!LacksSource(files_.rows[number]))
+            toBeFilled_.erase(place);
+        duplicates_.reset();
+        return number;
+    }
+    if (withoutSource_ == RowsWithoutSource::AreFilled && LacksSource(row))
+        toBeFilled_.push_back(files_.rows.size());
     files_.rows.push_back(std::move(row));
     if (duplicates_)
         duplicates_->NoteNewRow();

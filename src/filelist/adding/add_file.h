@@ -11,6 +11,7 @@
 
 #include <optional>
 #include <set>
+#include <vector>
 
 namespace quillon {
 
@@ -24,6 +25,9 @@ struct FileToAdd {
     bool ShowDuplicateMessage = false;
     bool UseVersionRules = false; // look into programs and libraries for a version
     bool TrapErrors = false;      // a failure ends in a box instead of a RunError
+    // Instead of those that its name asks for; the row that is left of a file that fails has them.
+    Text CopyOptions = {};
+    bool KeepsFontHere = false; // a font goes to the destination too, not to the font folder
     // What a listing of its folder told of the file, whatever path it is reached by.
     std::optional<FileStatus> Listed = {};
 };
@@ -33,7 +37,14 @@ struct FileToAdd {
 /// again. So a command that adds thousands of rows sorts once.
 class FileAdding {
 public:
-    FileAdding(FileList& files, Host host, Ask& ask);
+    // What becomes of the rows that lack their source, as failures leave them.
+    enum class RowsWithoutSource {
+        StayAsTheyAre,
+        AreFilled // by the next file of their name and destination, which is no duplicate of them
+    };
+
+    FileAdding(FileList& files, Host host, Ask& ask,
+               RowsWithoutSource withoutSource = RowsWithoutSource::StayAsTheyAre);
     ~FileAdding();
     FileAdding(const FileAdding&) = delete;
     FileAdding& operator=(const FileAdding&) = delete;
@@ -66,6 +77,7 @@ private:
     template <class Fill>
     std::size_t AppendRow(FileListRow row, Fill fill);
     std::size_t Append(FileListRow row);
+    std::vector<std::size_t>::iterator ToBeFilled(const Text& name, const Text& destination);
 
     FileList& files_;
     Host host_;
@@ -74,6 +86,8 @@ private:
     std::optional<DuplicateIndex> duplicates_;
     // Where the list makes empty folders, in lower case; made by the first that is added whole.
     std::optional<std::set<Text>> emptyFolders_;
+    RowsWithoutSource withoutSource_;
+    std::vector<std::size_t> toBeFilled_; // rows that lack their source, if they are filled
     bool finished_ = false;
 };
 

@@ -10,19 +10,21 @@ namespace quillon {
 
 namespace {
 
-// A part of the browser, which only the browser's own setup may bring.
-constexpr std::string_view kNeverAdded = "SHDOCVW.DLL";
-
 // Windows XP guards these in its system folder. Spelled as the copies for redistribution are.
 constexpr std::array<std::string_view, 5> kCopiesForRedistribution = {
     "OLEAUT32.dll", "OLEPRO32.dll", "COMCAT.dll", "ASYCFILT.dll", "STDOLE2.tlb"};
 
 } // namespace
 
+bool IsNeverAdded(std::string_view fileName)
+{
+    return EqualIgnoreCase(fileName, "SHDOCVW.DLL");
+}
+
 std::optional<std::size_t> AddFileToFileListView_UseFilter(FileAdding& adding,
                                                            const Machine& machine, FileToAdd file)
 {
-    if (EqualIgnoreCase(file.FileName, kNeverAdded))
+    if (IsNeverAdded(file.FileName))
         return std::nullopt;
     const auto copy = std::ranges::find_if(kCopiesForRedistribution, [&](std::string_view name) {
         return EqualIgnoreCase(name, file.FileName);

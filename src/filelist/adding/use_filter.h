@@ -5,8 +5,12 @@
 #include "filelist/adding/add_file.h"
 
 #include <optional>
+#include <string_view>
 
 namespace quillon {
+
+/// A part of the browser, which only the browser's own setup may bring.
+bool IsNeverAdded(std::string_view fileName);
 
 /// Adds the file as `FileAdding` does, unless it is one to be left out, which happens without a
 /// word. On Windows XP the guarded system files come from the folder of files for redistribution,

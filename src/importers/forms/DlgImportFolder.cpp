@@ -21,10 +21,27 @@ DlgImportFolder::DlgImportFolder(const ImportDesk& desk, QWidget* parent)
     connect(cbProgram, &QComboBox::activated, this, [this] { ShowFindings(); });
     Named(NAMED(ListOfFindings), new QListWidget);
     ListOfFindings->setMinimumHeight(kLinesInView * ListOfFindings->fontMetrics().lineSpacing());
+    Explained(cbProgram,
+              "Programmet som mottagaren startar. Det får ikonen, och dess version fyller "
+              "projektets versionsinformation.");
+    Explained(
+        ListOfFindings,
+        "Vad programmet behöver: processor, .NET-version och de bibliotek som varken finns i "
+        "katalogen eller är en del av Windows. De sista måste läggas in manuellt eller finnas hos "
+        "mottagaren.");
+    setWhatsThis("Adderar alla filer i en katalog där ett program är byggt eller publicerat, "
+                 "med vilket verktyg som helst.");
     Arrange(VBox({
-        Fields({{"Katalog:", PathRow(NAMED(sFolder), NAMED(cmdSelectFolder), "Välj &katalog...",
-                                     [this] { SelectFolder(); })},
-                {"&Program:", cbProgram}}),
+        Fields(
+            {{"Katalog:",
+              PathRow(
+                  NAMED(sFolder), cmdSelectFolder,
+                  {"cmdSelectFolder", "Välj &katalog...",
+                   "Katalogen som programmet är byggt eller publicerat i. Alla filer i den och "
+                   "dess underkataloger adderas, även typsnitt, till samma plats under programmets "
+                   "destinationskatalog.",
+                   [this] { SelectFolder(); }})},
+             {"&Program:", cbProgram}}),
         Growing(Above("I&nnehåll och vad som saknas:", ListOfFindings)),
         MakeOptions(),
         Progress(),

@@ -11,16 +11,26 @@ DlgImportVB5Project::DlgImportVB5Project(const ImportDesk& desk, QWidget* parent
     : ImportForm("DlgImportVB5Project", "Importera Visual Basic 5.0 projekt", desk, parent)
 {
     Named(NAMED(tVBDirectory), new QLineEdit(ToQt(FindVb5Directory(desk.session.host.machine))));
-    tVBDirectory->setToolTip(
-        "Katalogen som VB5.EXE ligger i. Filerna för vidaredistribution hämtas "
-        "från setupkit\\kitfil32\\sys32 under den.");
+    Explained(tVBDirectory, "Katalogen som VB5.EXE ligger i. Filerna för vidaredistribution hämtas "
+                            "från setupkit\\kitfil32\\sys32 under den.");
+    setWhatsThis("Adderar de filer som ett program i Visual Basic 5.0 behöver: körfilerna, "
+                 "ActiveX-filerna i projektet och programmet självt. Filer som redan finns i "
+                 "fillistan ligger kvar. DEP-filer följs inte.");
     Arrange(VBox({
         Frame("Projekt",
               {Fields({
-                  {"Projektfil (.VBP):", PathRow(NAMED(sVBPfile), NAMED(cmdSelectVBP),
-                                                 "Välj pro&jektfil...", [this] { SelectVBP(); })},
-                  {"Programfil (.EXE):", PathRow(NAMED(sEXEfile), NAMED(cmdSelectEXE),
-                                                 "Välj programfi&l...", [this] { SelectEXE(); })},
+                  {"Projektfil (.VBP):",
+                   PathRow(NAMED(sVBPfile), cmdSelectVBP,
+                           {"cmdSelectVBP", "Välj pro&jektfil...",
+                            "Projektet som programmet byggs av. ActiveX-filerna som det anger "
+                            "hämtas från systemkatalogen; om en saknas där talar importen om det.",
+                            [this] { SelectVBP(); }})},
+                  {"Programfil (.EXE):",
+                   PathRow(NAMED(sEXEfile), cmdSelectEXE,
+                           {"cmdSelectEXE", "Välj programfi&l...",
+                            "Programmet som projektet skapar vid kompilering. Importen frågar vart "
+                            "på mottagarens dator det ska.",
+                            [this] { SelectEXE(); }})},
                   {"&Visual Basic 5.0 katalog:", tVBDirectory},
               })}),
         MakeOptions(),

@@ -12,16 +12,26 @@ DlgImportVB6Project::DlgImportVB6Project(const ImportDesk& desk, QWidget* parent
 {
     choices_.tVBDirectory = FindVb6Directory(desk.session.host.machine);
     Named(NAMED(tVBDirectory), new QLineEdit);
-    tVBDirectory->setToolTip(
-        "Katalogen som VB6.EXE ligger i. Filerna för vidaredistribution hämtas "
-        "från Wizards\\PDWizard\\Redist under den.");
+    Explained(tVBDirectory, "Katalogen som VB6.EXE ligger i. Filerna för vidaredistribution hämtas "
+                            "från Wizards\\PDWizard\\Redist under den.");
+    setWhatsThis("Adderar de filer som ett program i Visual Basic 6.0 behöver: körfilerna, "
+                 "ActiveX-filerna i projektet, databasfilerna du väljer och programmet självt. "
+                 "Filer som redan finns i fillistan ligger kvar.");
     Arrange(VBox({
         Frame("Projekt",
               {Fields({
-                  {"Projektfil (.VBP):", PathRow(NAMED(sVBPfile), NAMED(cmdSelectVBP),
-                                                 "Välj pro&jektfil...", [this] { SelectVBP(); })},
-                  {"Programfil (.EXE):", PathRow(NAMED(sEXEfile), NAMED(cmdSelectEXE),
-                                                 "Välj programfi&l...", [this] { SelectEXE(); })},
+                  {"Projektfil (.VBP):",
+                   PathRow(NAMED(sVBPfile), cmdSelectVBP,
+                           {"cmdSelectVBP", "Välj pro&jektfil...",
+                            "Projektet som programmet byggs av. ActiveX-filerna som det anger "
+                            "hämtas från systemkatalogen; om en saknas där talar importen om det.",
+                            [this] { SelectVBP(); }})},
+                  {"Programfil (.EXE):",
+                   PathRow(NAMED(sEXEfile), cmdSelectEXE,
+                           {"cmdSelectEXE", "Välj programfi&l...",
+                            "Programmet som projektet skapar vid kompilering. Importen frågar vart "
+                            "på mottagarens dator det ska.",
+                            [this] { SelectEXE(); }})},
                   {"&Visual Basic 6.0 katalog:", tVBDirectory},
               })}),
         HBox({Growing(MakeDatabases()), Growing(MakeOptions())}),
@@ -36,6 +46,9 @@ DlgImportVB6Project::DlgImportVB6Project(const ImportDesk& desk, QWidget* parent
 Piece DlgImportVB6Project::MakeDatabases()
 {
     Button(NAMED(cmdMDADetails), "D&etaljer...", [this] { Desk().forms.showMDADetails(this); });
+    cmdMDADetails->setAccessibleName("Detaljer om Data Access");
+    Explained(cmdMDADetails, "Väljer om installationen av Microsoft Data Access ska synas för "
+                             "mottagaren, och om han ska tillfrågas innan.");
     return Frame(
         "Databaser",
         {Choice01(NAMED(cImportDAO35), "DAO &3.5 och Jet 3.5",

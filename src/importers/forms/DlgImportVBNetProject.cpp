@@ -15,16 +15,30 @@ DlgImportVBNetProject::DlgImportVBNetProject(const ImportDesk& desk, QWidget* pa
         Desk().forms.showTestNETFramework(this);
         ShowNetTest();
     });
+    CmdTestNETFramework->setAccessibleName("Ändra testet av .NET Framework");
+    Explained(CmdTestNETFramework,
+              "Väljer om installationen ska testa att .NET Framework finns, vilken version det "
+              "gäller och vad som händer om den saknas.");
+    setWhatsThis("Adderar de filer som ett program i Visual Basic .NET behöver: "
+                 "COM-komponenterna i projektet, programmet självt och DLL-filerna bredvid det. "
+                 "Filer som redan finns i fillistan ligger kvar.");
     Arrange(VBox({
         Note("För projekt från Visual Studio .NET 2002 och 2003."),
-        Frame(
-            "Projekt",
-            {Fields({
-                {"Projektfil (.VBPROJ):", PathRow(NAMED(sVBPfile), NAMED(cmdSelectVBP),
-                                                  "Välj pro&jektfil...", [this] { SelectVBP(); })},
-                {"Programfil (.EXE):", PathRow(NAMED(sEXEfile), NAMED(cmdSelectEXE),
-                                               "Välj programfi&l...", [this] { SelectEXE(); })},
-            })}),
+        Frame("Projekt",
+              {Fields({
+                  {"Projektfil (.VBPROJ):",
+                   PathRow(NAMED(sVBPfile), cmdSelectVBP,
+                           {"cmdSelectVBP", "Välj pro&jektfil...",
+                            "Projektet som programmet byggs av. COM-komponenterna som det "
+                            "refererar till adderas om de ligger i systemkatalogen. För projekt "
+                            "från Visual Studio 2005 och senare finns Importera programkatalog.",
+                            [this] { SelectVBP(); }})},
+                  {"Programfil (.EXE):", PathRow(NAMED(sEXEfile), cmdSelectEXE,
+                                                 {"cmdSelectEXE", "Välj programfi&l...",
+                                                  "Programmet som projektet skapar. DLL-filerna i "
+                                                  "samma katalog adderas till %DESTDIR.",
+                                                  [this] { SelectEXE(); }})},
+              })}),
         Frame("Alternativ",
               {Choice01(NAMED(cUseDepFile), "Följ &DEP-filer för ActiveX",
                         "Adderar även de filer som DEP-filerna i systemkatalogen anger för de "
@@ -41,7 +55,8 @@ DlgImportVBNetProject::DlgImportVBNetProject(const ImportDesk& desk, QWidget* pa
 
 void DlgImportVBNetProject::SelectVBP()
 {
-    const auto file = SelectProject("Visual Basic projekt (*.vbproj)|*.vbproj", "*.vbproj");
+    const auto file = SelectProject(
+        "Visual Basic projekt (*.vbproj)|*.vbproj|C#-projekt (*.csproj)|*.csproj", "*.vbproj");
     if (!file)
         return;
     choices_.sVBPfile = *file;

@@ -1,11 +1,13 @@
 #include "importers/forms/ImportForm.h"
 
 #include "helpers/windows_path.h"
+#include "importers/forms/DlgNotAddedFiles.h"
 #include "shell/moved_rows.h"
 #include "ui/PathLabel.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
+#include <utility>
 
 namespace quillon {
 
@@ -21,22 +23,27 @@ constexpr const char* kStop = "S&toppa";
 ImportForm::ImportForm(const char* name, const Text& title, const ImportDesk& desk, QWidget* parent)
     : Form(name, title, parent), desk_(desk)
 {
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { ShowFormHelp(); });
+}
+
+void ImportForm::ShowFormHelp()
+{
+    DlgFormHelp(*this, this).ShowModal();
 }
 
 Piece ImportForm::PathRow(PathLabel*& label, const char* name, QPushButton*& button,
-                          const char* buttonName, const Text& caption, std::function<void()> select)
+                          const PathButton& choice)
 {
     Named(label, name, new PathLabel);
-    Button(button, buttonName, caption, std::move(select));
+    Explained(Button(button, choice.name, choice.caption, choice.select), choice.help);
     return HBox({Growing(MinWidth(kPathCharacters, label)), button});
 }
 
 QCheckBox* ImportForm::Choice01(QCheckBox*& member, const char* name, const Text& caption,
                                 const Text& help)
 {
-    Named(member, name, new QCheckBox(ToQt(caption)));
-    member->setToolTip(ToQt(help));
-    return member;
+    return Explained(Named(member, name, new QCheckBox(ToQt(caption))), help);
 }
 
 Piece ImportForm::Progress()
@@ -56,8 +63,9 @@ Piece ImportForm::Buttons()
 {
     Button(NAMED(cmdImport), "&Importera", [this] { StartImport(); });
     Button(NAMED(cmdClose), kClose, [this] { reject(); });
+    Button(NAMED(CmdHelp), "&Hjälp", [this] { ShowFormHelp(); });
     cmdImport->setDefault(true);
-    return HBox({Stretch(), cmdImport, cmdClose});
+    return HBox({CmdHelp, Stretch(), cmdImport, cmdClose});
 }
 
 Text ImportForm::LastFolder() const
@@ -121,14 +129,28 @@ void ImportForm::RunStoppable(const std::function<void()>& work)
 void ImportForm::ShowRunning(bool isRunning)
 {
     isRunning_ = isRunning;
-    for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-        if (child != pbImport && child != sImportStatus && child != cmdClose)
-            child->setEnabled(!isRunning);
+    if (isRunning)
+        DisableControls();
+    else
+        for (QWidget* child : std::exchange(disabledByRun_, {}))
+            child->setEnabled(true);
     cmdClose->setText(isRunning ? kStop : kClose);
     pbImport->setRange(0, 0);
     pbImport->setVisible(isRunning);
     if (!isRunning)
         sImportStatus->clear();
+}
+
+// But the way to stop. What a rule of the form has disabled stays so behind the run.
+void ImportForm::DisableControls()
+{
+    for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (child == pbImport || child == sImportStatus || child == cmdClose ||
+            !child->isEnabledTo(this))
+            continue;
+        child->setEnabled(false);
+        disabledByRun_.push_back(child);
+    }
 }
 
 // Closing in the midst of an import ends the import; the dialog then closes by itself.
@@ -149,11 +171,6 @@ ImportForm::ChooseProgramDestination(const ImportUser::ProgramQuestion& question
 bool ImportForm::EditIcon(FileListRow& row, const Text& title)
 {
     return desk_.forms.editIcon(row, title, parentWidget());
-}
-
-void ImportForm::HideDialog()
-{
-    hide();
 }
 
 void ImportForm::UpdateStatusBar()
@@ -184,6 +201,7 @@ void RunImportForm(ImportForm& form, MainWindow& window)
         window.ShowFileList({*program});
     else
         ShowMovedRows(window, form.Result()->places);
+    ShowNotAddedFiles(*form.Result(), form.parentWidget());
 }
 
 } // namespace quillon

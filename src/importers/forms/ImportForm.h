@@ -4,7 +4,7 @@
 
 #include "importers/forms/import_forms.h"
 #include "importers/import_data.h"
-#include "ui/Form.h"
+#include "ui/form_help.h"
 
 class QLabel;
 class QProgressBar;
@@ -20,6 +20,7 @@ public:
 
     QLabel* sImportStatus = nullptr;
     QProgressBar* pbImport = nullptr;
+    QPushButton* CmdHelp = nullptr;
     QPushButton* cmdImport = nullptr;
     QPushButton* cmdClose = nullptr;
 
@@ -28,14 +29,20 @@ public:
 protected:
     ImportForm(const char* name, const Text& title, const ImportDesk& desk, QWidget* parent);
 
+    struct PathButton {
+        const char* name;
+        Text caption;
+        Text help;
+        std::function<void()> select;
+    };
     /// A path and the button that chooses it.
-    Piece PathRow(PathLabel*& label, const char* name, QPushButton*& button, const char* buttonName,
-                  const Text& caption, std::function<void()> select);
+    Piece PathRow(PathLabel*& label, const char* name, QPushButton*& button,
+                  const PathButton& choice);
     /// A box with words that tell what it does.
     QCheckBox* Choice01(QCheckBox*& member, const char* name, const Text& caption,
                         const Text& help);
     Piece Progress();
-    /// The last row: `cmdImport` and `cmdClose`.
+    /// The last row: `CmdHelp`, `cmdImport` and `cmdClose`.
     Piece Buttons();
 
     /// Asks for the project's file; where it lies is remembered.
@@ -60,11 +67,14 @@ protected:
 private:
     void StartImport();
     void ShowRunning(bool isRunning);
+    void DisableControls();
+    void ShowFormHelp();
 
     std::optional<Text>
     ChooseProgramDestination(const ImportUser::ProgramQuestion& question) override;
     bool EditIcon(FileListRow& row, const Text& title) override;
-    void HideDialog() override;
+    void HideDialog() override { hide(); }
+    void ShowDialog() override { show(); }
     void UpdateStatusBar() override;
     bool MayGoOn(const Text& file) override;
 
@@ -72,10 +82,11 @@ private:
     std::optional<ImportData> data_;
     std::optional<ImportResult> result_;
     bool isRunning_ = false;
+    std::vector<QWidget*> disabledByRun_;
     bool isStopWanted_ = false;
 };
 
-/// Opens the dialog, and shows the list as the import has left it.
+/// Opens the dialog, and shows the list as the import has left it and what it did not add.
 void RunImportForm(ImportForm& form, MainWindow& window);
 
 } // namespace quillon

@@ -44,9 +44,9 @@ TEST_F(DlgImportFolderTest, ShowsWhatTheFolderHoldsAndLacks)
     EXPECT_EQ(lastFolder, "C:\\Out\\Kund");
     EXPECT_EQ(form.cbProgram->currentText(), "Kund.exe");
     EXPECT_TRUE(form.cbProgram->isEnabled());
-    EXPECT_THAT(Findings(form),
-                ElementsAre("Programmet är för 32 bitar.", "Programmet behöver .NET Framework 1.1.",
-                            "Saknas: MSVCP140.dll (behövs av Kund.exe)"));
+    EXPECT_THAT(Findings(form), ElementsAre("Programmet är för valfri processor.",
+                                            "Programmet behöver .NET Framework 1.1.",
+                                            "Saknas: MSVCP140.dll (behövs av Kund.exe)"));
     EXPECT_TRUE(form.cTestNETFramework->isEnabled());
     form.cbProgram->setCurrentIndex(1);
     emit form.cbProgram->activated(1);
@@ -82,6 +82,28 @@ TEST_F(DlgImportFolderTest, HandsOverWhatIsTicked)
     EXPECT_EQ(captions.size(), 1U);
 }
 
+// What a rule has disabled is not enabled by a run.
+TEST_F(DlgImportFolderTest, KeepsItsControlsAsTheyWereBehindARun)
+{
+    machine.files.Put("C:\\Out\\One\\One.exe", MakeLinkedProgram({.is64Bit = true}));
+    class Refusing : public DlgImportFolder {
+    public:
+        using DlgImportFolder::DlgImportFolder;
+
+    protected:
+        ImportResult Import(const ImportWork&) override { return {.end = ImportEnd::Refused}; }
+    };
+    Refusing form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectFolder", "C:\\Out\\One");
+    Click(form, "cmdImport");
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_FALSE(form.cbProgram->isEnabled());
+    EXPECT_FALSE(form.cTestNETFramework->isEnabled());
+    EXPECT_TRUE(form.cSkipBuildFiles->isEnabled());
+    EXPECT_TRUE(form.cmdSelectFolder->isEnabled());
+}
+
 TEST_F(DlgImportFolderTest, StaysOpenWithoutAFolder)
 {
     DlgImportFolder form(Desk(), nullptr);
@@ -90,6 +112,7 @@ TEST_F(DlgImportFolderTest, StaysOpenWithoutAFolder)
     Expect(BoxKind::Inform, "Info");
     Click(form, "cmdImport");
     EXPECT_TRUE(form.isVisible());
+    EXPECT_FALSE(form.cbProgram->isEnabled());
 }
 
 TEST_F(DlgImportFolderTest, LooksRight)

@@ -168,6 +168,70 @@ TEST_F(DlgImportVB6ProjectTest, ShowsTheListAnewBehindAnImportAlone)
     EXPECT_THAT(window.calls, ElementsAre("status", "status", "list"));
 }
 
+TEST_F(DlgImportVB6ProjectTest, ExplainsEachChoiceInItsHelp)
+{
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    const std::vector<HelpTopic> topics = HelpTopicsOf(form);
+    std::vector<Text> explained;
+    for (const HelpTopic& topic : topics)
+        explained.push_back(topic.caption);
+    EXPECT_THAT(explained,
+                ElementsAre("Importera Visual Basic 6.0 projekt", "Projektfil (.VBP)",
+                            "Programfil (.EXE)", "Visual Basic 6.0 katalog", "DAO 3.5 och Jet 3.5",
+                            "DAO 3.6 och Jet 4.0", "ADO-datakontroll", "RDO-datakontroll",
+                            "Data Access (MDAC)", "Detaljer om Data Access",
+                            "Mfc42.dll och Msvcrt.dll", "Följ DEP-filer för ActiveX",
+                            "Lägg till ikon för programmet"));
+    for (const bool byKey : {true, false}) {
+        bool isShown = false;
+        OnNextDialog([&](QDialog& help) {
+            isShown = true;
+            EXPECT_EQ(help.objectName(), "DlgFormHelp");
+            const QString text = Find<QTextEdit>(help, "tHelp").toPlainText();
+            for (const HelpTopic& topic : topics)
+                EXPECT_TRUE(text.contains(ToQt(topic.caption + "\n" + topic.text)))
+                    << topic.caption;
+            SavePicture(help, "DlgFormHelp");
+            Click(help, "cmdOK");
+        });
+        if (byKey)
+            QTest::keyClick(&form, Qt::Key_F1);
+        else
+            Click(form, "CmdHelp");
+        EXPECT_TRUE(isShown) << byKey;
+    }
+    EXPECT_EQ(form.cAddIcon->whatsThis(), form.cAddIcon->toolTip());
+}
+
+TEST_F(DlgImportVB6ProjectTest, ShowsWhatItHasNotAddedBehindTheImport)
+{
+    machine.files.RemoveFile("C:\\WINDOWS\\SYSTEM32\\msvbvm60.dll");
+    machine.files.Put("C:\\Proj\\Kund.vbp", "Object={1}; SHDOCVW.DLL\r\n");
+    ask.choices = {{{"C:\\Proj\\Kund.vbp"}}, {{"C:\\Proj\\Kund.exe"}}};
+    Expect(BoxKind::Critical, "Kan ej addera en fil");
+    Expect(BoxKind::Inform, "Importen är klar");
+    std::vector<Text> rows;
+    OnNextDialog([&](QDialog& form) {
+        Click(form, "cmdSelectVBP");
+        Click(form, "cmdSelectEXE");
+        OnNextDialog([&](QDialog& list) {
+            EXPECT_EQ(list.objectName(), "DlgNotAddedFiles");
+            auto& files = Find<QTreeWidget>(list, "ListOfFiles");
+            for (int i = 0; i < files.topLevelItemCount(); ++i)
+                rows.push_back(
+                    FromQt(files.topLevelItem(i)->text(0) + ": " + files.topLevelItem(i)->text(1)));
+            SavePicture(list, "DlgNotAddedFiles");
+            Click(list, "cmdOK");
+        });
+        Click(form, "cmdImport");
+    });
+    ShowImportVB6Project(Desk(), nullptr);
+    EXPECT_THAT(rows, ElementsAre("MSVBVM60.dll: finns inte i systemkatalogen"))
+        << "and nothing of what no setup needs";
+    EXPECT_THAT(window.calls, ElementsAre("status", "status", "list"));
+}
+
 TEST_F(DlgImportVB6ProjectTest, LooksRight)
 {
     DlgImportVB6Project form(Desk(), nullptr);

@@ -38,7 +38,8 @@ TEST_F(DlgImportVBNetProjectTest, BeginsTheChoiceOfTheProgramWhereItIsBuilt)
     Choose(form, "cmdSelectEXE", "");
     EXPECT_EQ(ask.questions[0].folder, session.ProjectsFolder);
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbproj");
-    EXPECT_EQ(ask.questions[1].filter, "Visual Basic projekt (*.vbproj)|*.vbproj");
+    EXPECT_EQ(ask.questions[1].filter,
+              "Visual Basic projekt (*.vbproj)|*.vbproj|C#-projekt (*.csproj)|*.csproj");
     EXPECT_EQ(ask.questions[1].fileName, "*.vbproj");
     Choose(form, "cmdSelectEXE", "C:\\Proj\\bin\\Kund.exe");
     EXPECT_EQ(ask.questions[2].folder, "C:\\Proj\\bin");
@@ -69,6 +70,43 @@ TEST_F(DlgImportVBNetProjectTest, StaysOpenForAProjectOfAnotherKind)
     Expect(BoxKind::Critical, "Fel inträffade");
     Click(form, "cmdImport");
     EXPECT_TRUE(form.isVisible());
+}
+
+// It is hidden once its questions are answered; many libraries are worth a window again.
+TEST_F(DlgImportVBNetProjectTest, ShowsItsProgressAmongManyLibrariesAndStopsThere)
+{
+    class WatchingAsk : public ScriptedAsk {
+    public:
+        using ScriptedAsk::ScriptedAsk;
+        void ProcessEvents() override
+        {
+            if (onEvents)
+                onEvents();
+        }
+        std::function<void()> onEvents;
+    };
+    for (int i = 10; i < 40; ++i)
+        machine.files.Put("C:\\Proj\\bin\\lib" + std::to_string(i) + ".dll", "MZ");
+    WatchingAsk user{{{BoxKind::Inform, "Importen är avbruten"}}};
+    Session other = NewSession(machine.host, user, "C:\\Quillon");
+    const ImportDesk desk{other, window, Desk().forms, lastFolder};
+    DlgImportVBNetProject form(desk, nullptr);
+    ShowActive(form);
+    user.choices = {{{"C:\\Proj\\Kund.vbproj"}}, {{"C:\\Proj\\bin\\Kund.exe"}}};
+    Click(form, "cmdSelectVBP");
+    Click(form, "cmdSelectEXE");
+    bool isSeen = false;
+    user.onEvents = [&] {
+        if (isSeen || form.sImportStatus->text() != "Adderar lib12.dll")
+            return;
+        isSeen = true;
+        EXPECT_TRUE(form.isVisible());
+        Click(form, "cmdClose");
+    };
+    Click(form, "cmdImport");
+    EXPECT_TRUE(isSeen);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(other.project.Files.rows.size(), 4U) << "Kund.exe, Lib.dll, lib10.dll, lib11.dll";
 }
 
 TEST_F(DlgImportVBNetProjectTest, LooksRight)

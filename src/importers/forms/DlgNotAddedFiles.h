@@ -1,0 +1,22 @@
+// The files that an import came upon and did not add, with the reason of each.
+#pragma once
+
+#include "importers/import_work.h"
+#include "ui/Form.h"
+
+class QTreeWidget;
+
+namespace quillon {
+
+class DlgNotAddedFiles : public Form {
+public:
+    DlgNotAddedFiles(const std::vector<NotAddedFile>& files, QWidget* parent);
+
+    QTreeWidget* ListOfFiles = nullptr;
+};
+
+/// Opens the list, unless the user has ended the import himself where nothing more is told, or
+/// there is nothing to see to.
+void ShowNotAddedFiles(const ImportResult& result, QWidget* parent);
+
+} // namespace quillon
