@@ -56,6 +56,7 @@ DlgFormHelp::DlgFormHelp(const QWidget& form, QWidget* parent)
         cursor.insertText(ToQt(topic.caption), caption);
         cursor.insertText("\n" + ToQt(topic.text), QTextCharFormat());
     }
+    tHelp->moveCursor(QTextCursor::Start);
     tHelp->setMinimumHeight(kLinesInView * tHelp->fontMetrics().lineSpacing());
     Arrange(VBox({Growing(MinWidth(kLettersInLine, tHelp)), OkOnly()}));
 }

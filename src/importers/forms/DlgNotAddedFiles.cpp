@@ -26,7 +26,7 @@ DlgNotAddedFiles::DlgNotAddedFiles(const std::vector<NotAddedFile>& files, QWidg
         ListOfFiles->addTopLevelItem(new QTreeWidgetItem({ToQt(file.file), ToQt(file.Reason())}));
     ListOfFiles->resizeColumnToContents(0);
     Arrange(VBox({
-        Growing(Above("&Importen kom på de här filerna, men adderade dem inte till fillistan:",
+        Growing(Above("&Filer som importen stötte på men ej adderade till fillistan:",
                       MinWidth(kCharactersInRow, ListOfFiles))),
         OkOnly(),
     }));

@@ -192,6 +192,7 @@ TEST_F(DlgImportVB6ProjectTest, ExplainsEachChoiceInItsHelp)
             for (const HelpTopic& topic : topics)
                 EXPECT_TRUE(text.contains(ToQt(topic.caption + "\n" + topic.text)))
                     << topic.caption;
+            EXPECT_EQ(Find<QTextEdit>(help, "tHelp").verticalScrollBar()->value(), 0);
             SavePicture(help, "DlgFormHelp");
             Click(help, "cmdOK");
         });
