@@ -176,9 +176,9 @@ void DependencyFiles::AddOrLeaveOut(const FileToAdd& file, const Text& depFile)
     try {
         if (!AddFileToFileListView_UseFilter(adding_, host_.machine, file) && watch_)
             watch_->LeftOut(file);
-    } catch (const RunError& error) {
+    } catch (const RunError&) {
         if (watch_)
-            watch_->Failed(file, error, depFile);
+            watch_->Failed(file, depFile);
         throw;
     }
 }

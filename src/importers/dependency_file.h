@@ -5,7 +5,6 @@
 
 #include "filelist/adding/add_file.h"
 #include "ini/profile_reader.h"
-#include "platform/run_error.h"
 
 #include <array>
 #include <map>
@@ -41,7 +40,7 @@ public:
     /// The file was not added, without a failure: the list may have it already.
     virtual void LeftOut(const FileToAdd& file) = 0;
     /// The file failed, which ends the walk through its section; a box comes next.
-    virtual void Failed(const FileToAdd& file, const RunError& error, const Text& depFile) = 0;
+    virtual void Failed(const FileToAdd& file, const Text& depFile) = 0;
 };
 
 /// Follows dependency files for one command, which adds the files through one `FileAdding`. Each

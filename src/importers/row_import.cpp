@@ -30,6 +30,16 @@ std::vector<std::size_t> RowsWithoutSource(const FileList& files)
     return rows;
 }
 
+/// The first row that has a file and this trait.
+template <class Trait>
+std::optional<std::size_t> FirstRow(const FileList& files, Trait trait)
+{
+    for (std::size_t i = 0; i < files.rows.size(); ++i)
+        if (!LacksSource(files.rows[i]) && trait(files.rows[i]))
+            return i;
+    return std::nullopt;
+}
+
 } // namespace
 
 RowImport::RowImport(const ImportWork& work)
@@ -62,14 +72,12 @@ void RowImport::Pass(const Text& file, NotAdded why, const Text& path)
 
 bool RowImport::PassIfListed(const Text& name)
 {
-    const auto row = std::ranges::find_if(Files().rows, [&](const FileListRow& listed) {
-        return !LacksSource(listed) && EqualIgnoreCase(listed[Filename], name);
+    const auto row = FirstRow(Files(), [&](const FileListRow& listed) {
+        return EqualIgnoreCase(listed[Filename], name);
     });
-    if (row == Files().rows.end())
-        return false;
-    if (!IsOfThisImport(static_cast<std::size_t>(row - Files().rows.begin())))
+    if (row && !IsOfThisImport(*row))
         Pass(name, NotAdded::AlreadyListed);
-    return true;
+    return row.has_value();
 }
 
 bool RowImport::IsOfThisImport(std::size_t row) const
@@ -79,13 +87,10 @@ bool RowImport::IsOfThisImport(std::size_t row) const
 
 std::optional<std::size_t> RowImport::SystemRow(const Text& name, const Text& path) const
 {
-    const auto found = std::ranges::find_if(Files().rows, [&](const FileListRow& row) {
-        return !LacksSource(row) && (row[Source] == path || (row[Destination] == "%SYSDIR" &&
-                                                             EqualIgnoreCase(row[Filename], name)));
+    return FirstRow(Files(), [&](const FileListRow& row) {
+        return row[Source] == path ||
+               (row[Destination] == "%SYSDIR" && EqualIgnoreCase(row[Filename], name));
     });
-    if (found == Files().rows.end())
-        return std::nullopt;
-    return static_cast<std::size_t>(found - Files().rows.begin());
 }
 
 RowImport::Added RowImport::AddSystemFile(const Text& name, bool isRuntimeFile)
@@ -154,7 +159,7 @@ void RowImport::LeftOut(const FileToAdd& file)
 }
 
 // The walk of the dependency file ends here, and nobody knows what else it names.
-void RowImport::Failed(const FileToAdd& file, const RunError&, const Text& depFile)
+void RowImport::Failed(const FileToAdd& file, const Text& depFile)
 {
     Pass(file.FileName, WhyNotAdded(file), file.SourcePath);
     Pass(ExtractFilename(depFile), NotAdded::RestOfDepFile);
@@ -170,14 +175,11 @@ NotAdded RowImport::WhyNotAdded(const FileToAdd& file) const
 // The row by which a file is in the list.
 std::optional<std::size_t> RowImport::RowOfFile(const FileToAdd& file) const
 {
-    const auto found = std::ranges::find_if(Files().rows, [&](const FileListRow& row) {
-        return !LacksSource(row) && EqualIgnoreCase(row[Filename], file.FileName) &&
+    return FirstRow(Files(), [&](const FileListRow& row) {
+        return EqualIgnoreCase(row[Filename], file.FileName) &&
                (EqualIgnoreCase(row[Source], file.SourcePath) ||
                 EqualIgnoreCase(row[Destination], file.Destination));
     });
-    if (found == Files().rows.end())
-        return std::nullopt;
-    return static_cast<std::size_t>(found - Files().rows.begin());
 }
 
 bool RowImport::AddProgram(const Text& program, ImportEnd& end, const Text& subfolder)

@@ -64,7 +64,7 @@ public:
 private:
     bool MayGoOn(const Text& file) override;
     void LeftOut(const FileToAdd& file) override;
-    void Failed(const FileToAdd& file, const RunError& error, const Text& depFile) override;
+    void Failed(const FileToAdd& file, const Text& depFile) override;
 
     void Pass(const Text& file, NotAdded why, const Text& path);
     FileList& Files() const { return work_.list.project.Files; }
