@@ -21,11 +21,11 @@ int SeenOfSide(int own, int seen, double scale)
     return std::min(own, static_cast<int>(std::ceil(seen / scale)) + kNeighbours);
 }
 
-/// Whether there is more of the picture than the screen has pixels. A smaller one takes little
-/// memory, and scaling it whole is exact.
-bool IsLargerThanScreen(const ScalablePicture& picture, int width, int height)
+/// Whether the scaled picture has more pixels than the screen. A smaller one takes little memory,
+/// and scaling it whole is exact.
+bool IsLargerThanScreen(const ScalablePicture& picture, int width, int height, double scale)
 {
-    return std::int64_t{picture.Width()} * picture.Height() > std::int64_t{width} * height;
+    return picture.Width() * scale * picture.Height() * scale > double(width) * height;
 }
 
 } // namespace
@@ -38,7 +38,7 @@ const Picture& InOwnSize(const ScalablePicture& picture, Letters& letters, doubl
 
 void CropToMiddle(ScalablePicture& picture, int width, int height, double scale)
 {
-    if (!IsLargerThanScreen(picture, width, height))
+    if (!IsLargerThanScreen(picture, width, height, scale))
         return;
     // As much on both sides, so that the middle stays where it is.
     const int left = (picture.Width() - SeenOfSide(picture.Width(), width, scale)) / 2;
@@ -48,7 +48,7 @@ void CropToMiddle(ScalablePicture& picture, int width, int height, double scale)
 
 void CropToCorner(ScalablePicture& picture, int width, int height, double scale)
 {
-    if (IsLargerThanScreen(picture, width, height))
+    if (IsLargerThanScreen(picture, width, height, scale))
         picture.Crop(RectAt(0, 0, SeenOfSide(picture.Width(), width, scale),
                             SeenOfSide(picture.Height(), height, scale)));
 }

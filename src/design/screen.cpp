@@ -40,17 +40,21 @@ public:
 
     void KeepOnlyShown(ScreenPictures& pictures) const
     {
-        if (paint_.StretchPicture)
+        if (paint_.StretchPicture) {
             pictures.background.KeepOnly(canvas_.width, canvas_.height);
-        else
+        } else {
             CropToMiddle(pictures.background, canvas_.width, canvas_.height, scale_.Both());
+            KeepInOwnSize(pictures.background);
+        }
         for (std::size_t i = 0; i < pictures.pictures.size(); ++i)
             KeepInBox(pictures.pictures[i], BoxOf(i));
         const PixelRect changing = ChangingRect();
-        if (project_.DesPicturesAnim.StretchPicture != kOff)
-            pictures.changing.KeepOnly(changing.Width(), changing.Height());
-        else
+        if (project_.DesPicturesAnim.StretchPicture != kOff) {
+            KeepInRect(pictures.changing, changing);
+        } else {
             CropToCorner(pictures.changing, changing.Width(), changing.Height(), scale_.Both());
+            KeepInOwnSize(pictures.changing);
+        }
         if (const LogotypeBox box = BoxOfLogotype(); !box.isVisible)
             pictures.logotype = {};
         else
@@ -110,8 +114,12 @@ private:
         if (box.isStretched)
             KeepInRect(picture, RectOf(box.place));
         else
-            picture.KeepOnly(scale_.BothPixels(picture.Width()),
-                             scale_.BothPixels(picture.Height()));
+            KeepInOwnSize(picture);
+    }
+
+    void KeepInOwnSize(ScalablePicture& picture) const
+    {
+        picture.KeepOnly(scale_.BothPixels(picture.Width()), scale_.BothPixels(picture.Height()));
     }
 
     void PaintInBox(const ScalablePicture& picture, const PictureBox& box)

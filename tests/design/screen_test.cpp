@@ -188,6 +188,25 @@ TEST_F(ScreenTest, PaintsTheSameOfWhatIsKeptOfLargePictures)
     }
 }
 
+TEST_F(ScreenTest, KeepsOfAPictureInItsOwnSizeWhatASmallScreenShows)
+{
+    project.DesBackground = {.Type = 2, .PictureFilename = "b", .StretchPicture = kOff};
+    pictures.background = Filled(600, 400, kRed);
+    const std::vector<Pixel> whole = Painted(320, 240, Design());
+    KeepOnlyShown(pictures, Design(), 320, 240);
+    EXPECT_EQ(pictures.background.Memory(), 300 * 200 * 4);
+    EXPECT_TRUE(Painted(320, 240, Design()) == whole);
+    // On a large one no more is made than is seen.
+    pictures.background = Filled(600, 400, kRed);
+    KeepOnlyShown(pictures, Design(), 1280, 960);
+    Painted(1280, 960, Design());
+    EXPECT_EQ(pictures.background.Memory(), (600 * 400 + 1200 * 800) * 4);
+    pictures.background = Filled(1200, 900, kRed);
+    KeepOnlyShown(pictures, Design(), 1280, 960);
+    Painted(1280, 960, Design());
+    EXPECT_LT(pictures.background.Memory(), (1280 + 8) * (960 + 8) * 4 * 5 / 4);
+}
+
 TEST_F(ScreenTest, KeepsNothingOfALogotypeThatIsTooLarge)
 {
     project.DesLogotype = {.LogotypeFilename = "a", .LogotypeAlignment = 1};

@@ -172,13 +172,13 @@ ScalablePicture DesignScreen::ReadBackground()
         paint_.UsePicture = false;
         return {};
     }
-    // The surface grows with its window, which fits on the screens together.
-    const QSize most =
-        screen()->virtualSize().expandedTo(colorblendBackground_->size()) * devicePixelRatioF();
+    // The surface grows with its window, as far as the screen has room.
+    backgroundRoom_ = screen()->size().expandedTo(colorblendBackground_->size());
+    const QSize pixels = backgroundRoom_ * devicePixelRatioF();
     if (paint_.StretchPicture)
-        picture.KeepOnly(most.width(), most.height());
+        picture.KeepOnly(pixels.width(), pixels.height());
     else
-        CropToMiddle(picture, most.width(), most.height(), devicePixelRatioF());
+        CropToMiddle(picture, pixels.width(), pixels.height(), devicePixelRatioF());
     return picture;
 }
 
@@ -380,6 +380,10 @@ void DesignScreen::PlaceSurface(QSize tab, int captionHeight)
     surface.height = PixelsOf(place_.Height, down);
     colorblendBackground_->setGeometry(PixelsOf(place_.Left, across), PixelsOf(place_.Top, down),
                                        surface.width, surface.height);
+    // A window on two screens.
+    const QSize size = colorblendBackground_->size();
+    if (paint_.UsePicture && backgroundRoom_.expandedTo(size) != backgroundRoom_)
+        DrawDesBackground();
 }
 
 void DesignScreen::ShowObject(DesignObject& object, const SurfacePlace& place, bool isVisible)

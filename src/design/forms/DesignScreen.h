@@ -92,6 +92,8 @@ private:
     SurfacePaint paint_;
     Long tabWidth_ = 0;
     ColorblendBackground* colorblendBackground_;
+    // The largest surface for which enough of the background's picture is kept.
+    QSize backgroundRoom_;
     std::array<DesignObject*, section::kDesPictureCount> DesPicture_{};
     std::array<ScalablePicture, section::kDesPictureCount> pictures_;
     PictureBoxes boxes_;
