@@ -1,6 +1,7 @@
 // Formatted text of any content: what comes out is well formed, within its limits, and no larger
 // than the file could make it.
 #include "helpers/utf8.h"
+#include "rtf/rtf_losses.h"
 #include "rtf/rtf_text.h"
 
 #include <cstdint>
@@ -27,7 +28,10 @@ void RequireText(const Text& text)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    const auto text = ReadRtf({reinterpret_cast<const char*>(bytes), size});
+    const std::string_view file(reinterpret_cast<const char*>(bytes), size);
+    for (const Text& loss : RtfLosses(file))
+        RequireText(loss);
+    const auto text = ReadRtf(file);
     if (!text)
         return 0;
     Require(text->paragraphs.size() <= kMaxRtfLines + 1);
