@@ -120,7 +120,7 @@ TEST(StandardSidePicture, IsThatOfTheTool)
     std::ifstream file(fs::path(QUILLON_TEST_DATA) / ".." / "resources" / "Res" / "SetupDef.bmp",
                        std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    const DecodedPixels read = DecodeBitmapFile(bytes);
+    const DecodedPixels read = DecodeBitmapFile(bytes, kMaxPicturesMemory);
     ASSERT_EQ(read.fault, PictureFault::None);
     const Picture drawn = StandardSidePicture();
     ASSERT_EQ(drawn.width, read.picture.width);
