@@ -36,7 +36,8 @@ Exit PrintProject(const CallContext& context)
                                   {"boxes", BoxesJson(ask)}},
                                  exit);
     if (hasRows)
-        context.out << "Utskrift: " << file << " (" << pageCount << " sidor)\n";
+        context.out << "Utskrift: " << file << " (" << pageCount
+                    << (pageCount == 1 ? " sida)\n" : " sidor)\n");
     return exit;
 }
 

@@ -63,7 +63,7 @@ Text HashOrReason(const FileSystem& files, const Text& path, std::uint64_t size)
     }
 }
 
-void WriteDisks(DiagnosisWriter& writer, const Host& host)
+void WriteDisks(DiagnosisWriter& writer, const Host& host, const DiskSize& diskSize)
 {
     const char sign = host.machine.DecimalSign();
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
@@ -73,7 +73,9 @@ void WriteDisks(DiagnosisWriter& writer, const Host& host)
         if (kind == DriveKind::NoRoot || kind == DriveKind::Unknown || kind == DriveKind::Removable)
             continue;
         try {
-            writer.Value(root, Gigabytes(host.files.FreeSpace(root), sign) + " lediga");
+            const auto size = diskSize(root);
+            writer.Value(root, Gigabytes(host.files.FreeSpace(root), sign) + " lediga" +
+                                   (size ? " av " + Gigabytes(*size, sign) : Text()));
         } catch (const RunError&) {
             writer.Value(root, "går ej att läsa");
         }
@@ -83,7 +85,7 @@ void WriteDisks(DiagnosisWriter& writer, const Host& host)
 // Folders that the user fills hold nothing of the tool itself.
 bool IsUsersFolder(const Text& name)
 {
-    constexpr const char* kNames[] = {"Projects", "BugReport", "TEMP", "Test"};
+    constexpr const char* kNames[] = {"Projects", "BugReport", "TEMP", "Test", "Recovery"};
     return std::ranges::any_of(kNames,
                                [&](const char* known) { return EqualIgnoreCase(name, known); });
 }
@@ -147,7 +149,7 @@ void WriteSettings(DiagnosisWriter& writer, const Host& host)
 } // namespace
 
 std::vector<Text> DiagnosisLines(const SystemDescription& system, const CallerDescription& caller,
-                                 Host& host, const Text& toolFolder)
+                                 Host& host, const DiskSize& diskSize, const Text& toolFolder)
 {
     const char sign = host.machine.DecimalSign();
     const LocalTime now = host.machine.Now();
@@ -171,7 +173,7 @@ std::vector<Text> DiagnosisLines(const SystemDescription& system, const CallerDe
     writer.Value("Skärm", caller.screen);
     writer.Value("Qt", caller.qtVersion);
     writer.Heading("Enheter");
-    WriteDisks(writer, host);
+    WriteDisks(writer, host, diskSize);
     writer.Heading("Inställningar");
     WriteSettings(writer, host);
     writer.Heading("Filer i " + toolFolder);

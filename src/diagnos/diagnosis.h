@@ -5,6 +5,9 @@
 #include "platform/host.h"
 #include "platform/system_description.h"
 
+#include <functional>
+#include <optional>
+
 namespace quillon {
 
 /// What only the program that asks for the diagnosis knows; empty where it is not known.
@@ -13,9 +16,12 @@ struct CallerDescription {
     Text qtVersion;
 };
 
+/// Bytes of the disk with this root; nothing where it can't be asked.
+using DiskSize = std::function<std::optional<std::uint64_t>(const Text& root)>;
+
 /// The lines, without their ends.
 std::vector<Text> DiagnosisLines(const SystemDescription& system, const CallerDescription& caller,
-                                 Host& host, const Text& toolFolder);
+                                 Host& host, const DiskSize& diskSize, const Text& toolFolder);
 
 /// The command line of the program.
 struct DiagnosisCommand {

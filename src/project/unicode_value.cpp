@@ -2,6 +2,7 @@
 
 #include "helpers/ansi_text.h"
 #include "helpers/utf8.h"
+#include "ini/profile_lines.h"
 
 namespace quillon {
 
@@ -15,10 +16,14 @@ Text UnicodeValueOnFile(const Text& value, int limit)
 {
     if (value.find_first_of("\r\n") != Text::npos)
         return {};
-    if (AnsiText::Holds(value))
+    const bool isPlain = AnsiText::Holds(value) && !value.starts_with(kUtf8Bom);
+    std::string bytes = isPlain ? AnsiText::ToBytes(value) : std::string(kUtf8Bom).append(value);
+    // A reader takes blanks off at both ends, and one pair of quotation marks.
+    if (BareValue(bytes) != bytes)
+        bytes = '"' + bytes + '"';
+    else if (isPlain)
         return value;
-    const bool isCut = kUtf8Bom.size() + value.size() >= static_cast<std::size_t>(limit);
-    return isCut ? Text() : Text(kUtf8Bom) + AnsiText::FromBytes(value);
+    return bytes.size() < static_cast<std::size_t>(limit) ? AnsiText::FromBytes(bytes) : Text();
 }
 
 Text UnicodeValueFromFile(const Text& onFile)

@@ -35,6 +35,7 @@ constexpr const char* kVirusTest[] = {"Ja - inga virus funna", "Ja - ett virus h
 
 constexpr int kPageOfSystems = 2;
 constexpr std::size_t kRuleLength = 111;
+constexpr const char* kUtf8Bom = "\xEF\xBB\xBF";
 constexpr std::size_t kFirstLineOfDiagnosis = 6;
 constexpr std::size_t kSecondLineOfDiagnosis = 8;
 
@@ -206,7 +207,9 @@ void WriteBugReport(const BugReportAnswers& answers, Project& project,
     const Text folder = BugReportFolder(ownFolder);
     if (!host.files.DirCreate(folder))
         throw RunError(ErrorNumber::kPathNotFound, folder);
-    WriteWholeFile(host.files, BugReportFile(ownFolder), AnsiText::ToBytes(text));
+    // Names with letters that Windows-1252 lacks would come out as question marks.
+    WriteWholeFile(host.files, BugReportFile(ownFolder),
+                   AnsiText::Holds(text) ? AnsiText::ToBytes(text) : kUtf8Bom + text);
     if (state.ProjectFileName != kUnsavedProjectName)
         WriteProjectFile(project, JoinPath(folder, ProjectTitle(state.ProjectFileName)), host, ask);
 }

@@ -3,6 +3,7 @@
 
 #include "platform/run_error.h"
 #include "platform/saved_file.h"
+#include "tools/pdf_fonts.h"
 
 #include <cairo-pdf.h>
 #include <memory>
@@ -24,16 +25,18 @@ cairo_status_t Append(void* bytes, const unsigned char* data, unsigned length)
     return CAIRO_STATUS_SUCCESS;
 }
 
-void DrawText(cairo_t* context, const PrintedText& printed)
+void DrawText(cairo_t* context, PdfFonts& fonts, const PrintedText& printed)
 {
-    cairo_select_font_face(context, kPrintFont, CAIRO_FONT_SLANT_NORMAL,
-                           printed.bold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
+    cairo_set_font_face(context, fonts.Usual(printed.bold));
     // Points, on a page that is measured in millimetres.
     cairo_set_font_size(context, printed.size / kPointsPerMillimetre);
     cairo_font_extents_t font;
     cairo_font_extents(context, &font);
     cairo_move_to(context, printed.x, printed.y + font.ascent);
-    cairo_show_text(context, printed.text.c_str());
+    for (const FontRun& run : fonts.RunsOf(printed.text, printed.bold)) {
+        cairo_set_font_face(context, run.face);
+        cairo_show_text(context, run.text.c_str());
+    }
 }
 
 void DrawRule(cairo_t* context, const PrintedRule& rule)
@@ -44,10 +47,10 @@ void DrawRule(cairo_t* context, const PrintedRule& rule)
     cairo_stroke(context);
 }
 
-void DrawPage(cairo_t* context, const PrintedPage& page)
+void DrawPage(cairo_t* context, PdfFonts& fonts, const PrintedPage& page)
 {
     for (const PrintedText& text : page.texts)
-        DrawText(context, text);
+        DrawText(context, fonts, text);
     for (const PrintedRule& rule : page.rules)
         DrawRule(context, rule);
     cairo_show_page(context);
@@ -66,8 +69,9 @@ std::string PdfOf(const std::vector<PrintedPage>& pages, const Text& title,
     cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE, date.c_str());
     const Context context(cairo_create(surface.get()), cairo_destroy);
     cairo_scale(context.get(), kPointsPerMillimetre, kPointsPerMillimetre);
+    PdfFonts fonts;
     for (const PrintedPage& page : pages)
-        DrawPage(context.get(), page);
+        DrawPage(context.get(), fonts, page);
     cairo_surface_finish(surface.get());
     if (cairo_status(context.get()) != CAIRO_STATUS_SUCCESS ||
         cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS)

@@ -100,22 +100,33 @@ std::vector<Text> PathsOf(const std::vector<ListedProject>& projects)
     return paths;
 }
 
+// A project has one place in the list, however its path is spelt.
+std::set<Text> LowerCased(const std::vector<Text>& paths)
+{
+    std::set<Text> lower;
+    for (const Text& path : paths)
+        lower.insert(LowerCase(path));
+    return lower;
+}
+
 /// What this program has changed, on top of what the file holds now.
 std::vector<Text> Merged(const std::vector<Text>& read, const std::vector<Text>& wanted,
                          const std::vector<Text>& onFile)
 {
-    const std::set<Text> wasRead(read.begin(), read.end());
-    const std::set<Text> isOnFile(onFile.begin(), onFile.end());
+    const std::set<Text> wasRead = LowerCased(read);
+    const std::set<Text> isOnFile = LowerCased(onFile);
     std::set<Text> known;
     std::vector<Text> merged;
     for (const Text& path : wanted) {
-        const bool wasRemovedByOthers = wasRead.count(path) > 0 && isOnFile.count(path) == 0;
-        if (!wasRemovedByOthers && known.insert(path).second)
+        const Text lower = LowerCase(path);
+        const bool wasRemovedByOthers = wasRead.count(lower) > 0 && isOnFile.count(lower) == 0;
+        if (!wasRemovedByOthers && known.insert(lower).second)
             merged.push_back(path);
     }
     for (const Text& path : onFile) {
-        const bool wasAddedByOthers = wasRead.count(path) == 0;
-        if (wasAddedByOthers && known.insert(path).second)
+        const Text lower = LowerCase(path);
+        const bool wasAddedByOthers = wasRead.count(lower) == 0;
+        if (wasAddedByOthers && known.insert(lower).second)
             merged.push_back(path);
     }
     return merged;

@@ -46,7 +46,10 @@ constexpr CommandPicture kPictures[] = {
     {147, "tab-files"}, {148, "tab-design"}, {149, "tab-dialogs"}, {150, "tab-registry"},
     {151, "tab-ini"}, {152, "tab-components"},
 
-    {153, "contents"}, {157, "bug"}, {158, "about"}, {301, "preview"}, {302, "help"},
+    {201, "import-project"}, {202, "import-project"}, {203, "import-project"},
+    {214, "import-folder"}, {291, "recent"}, {292, "recent"}, {293, "recent"}, {294, "recent"},
+
+    {153, "contents"}, {154, "find"}, {155, "help"}, {156, "support"}, {157, "bug"}, {158, "about"}, {301, "preview"}, {302, "help"},
 };
 // clang-format on
 

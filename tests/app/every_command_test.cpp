@@ -1,8 +1,8 @@
 // Every command of the menus and toolbars does something.
+#include "app/MainForm.h"
 #include "app/actions.h"
 #include "shell/command_table.h"
-
-#include <gtest/gtest.h>
+#include "support/window_test.h"
 
 namespace quillon::test {
 namespace {
@@ -14,6 +14,22 @@ TEST(EveryCommand, HasAnAction)
             EXPECT_TRUE(FindAction(row.command.id)) << row.command.id;
     for (const Command& command : ToolbarOnlyCommands())
         EXPECT_TRUE(FindAction(command.id)) << command.id;
+}
+
+TEST_F(WindowTest, HasAPictureAndATipForEachCommand)
+{
+    MainForm form(session);
+    const auto look = [&](int id) {
+        const auto* action = form.findChild<QAction*>(QString("cmd%1").arg(id));
+        ASSERT_NE(action, nullptr) << id;
+        EXPECT_FALSE(action->icon().isNull()) << id;
+        EXPECT_FALSE(action->toolTip().isEmpty()) << id;
+    };
+    for (const MenuRow& row : MenuBarRows())
+        if (row.part == MenuPart::Entry)
+            look(row.command.id);
+    for (const Command& command : ToolbarOnlyCommands())
+        look(command.id);
 }
 
 TEST(EveryCommand, IsNoTitleAndNoUnknownId)

@@ -39,12 +39,26 @@ TEST_F(PrintCall, WritesTheListAsAPdf)
     const ProgramRun run = Quillonc({"print", project, "--to", pdf});
     EXPECT_EQ(run.exitCode, 0) << run.err;
     EXPECT_THAT(run.out, StartsWith("Utskrift: Z:\\"));
-    EXPECT_THAT(run.out, HasSubstr("(1 sidor)"));
+    EXPECT_THAT(run.out, HasSubstr("(1 sida)"));
     const std::string text = TextOfPdf();
     EXPECT_THAT(text, HasSubstr("Quillon 2004 - Fillista - [p.qnp]"));
     EXPECT_THAT(text, HasSubstr("Sid 1"));
     EXPECT_THAT(text, HasSubstr("Läs mig.txt"));
     EXPECT_THAT(text, HasSubstr("Antal objekt:"));
+}
+
+TEST_F(PrintCall, TakesLettersThatItsFontLacksFromOthers)
+{
+    Quillonc({"print", project, "--to", pdf});
+    const auto fonts = [&] { return RunProgram({"/usr/bin/pdffonts", pdf}).out; };
+    EXPECT_THAT(fonts(), testing::Not(HasSubstr("DejaVu")));
+    // The name of the project's file may have any letters; these are Georgian.
+    const std::string named = disk.Path("კატა.qnp");
+    fs::copy_file(project, named);
+    const ProgramRun run = Quillonc({"print", named, "--to", pdf});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_THAT(fonts(), HasSubstr("DejaVu"));
+    EXPECT_THAT(TextOfPdf(), HasSubstr("[კატა.qnp]"));
 }
 
 TEST_F(PrintCall, EmbedsItsFonts)

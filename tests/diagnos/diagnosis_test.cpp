@@ -15,10 +15,13 @@ class DiagnosisTest : public testing::Test {
 protected:
     std::vector<Text> Lines()
     {
-        return DiagnosisLines(system, {"1920 x 1080, 150 %", "6.4.2"}, machine.host, "C:\\Quillon");
+        return DiagnosisLines(
+            system, {"1920 x 1080, 150 %", "6.4.2"}, machine.host,
+            [this](const Text& root) { return sizes[root]; }, "C:\\Quillon");
     }
 
     MemoryHost machine;
+    std::map<Text, std::optional<std::uint64_t>> sizes;
     SystemDescription system{.system = "Debian 12, Linux 6.1",
                              .processor = "x86_64",
                              .processorCount = 2,
@@ -98,6 +101,16 @@ TEST_F(DiagnosisTest, EndsInFoldersThatLeadDeeperAndDeeper)
         deep += "\\d" + std::to_string(i);
     machine.files.Put(deep + "\\f", "");
     EXPECT_THAT(Lines(), Each(Not(HasSubstr("d19"))));
+}
+
+TEST_F(DiagnosisTest, TellsOfTheRoomOfEachDisk)
+{
+    machine.files.driveKinds = {{"c:\\", DriveKind::Fixed}, {"d:\\", DriveKind::Remote}};
+    machine.files.capacities = {{"c:\\", 3ULL << 30U}, {"d:\\", 1ULL << 30U}};
+    sizes = {{"C:\\", 500ULL << 30U}};
+    const auto lines = Lines();
+    EXPECT_THAT(lines, Contains("C:\\:                  3,0 GB lediga av 500,0 GB"));
+    EXPECT_THAT(lines, Contains("D:\\:                  1,0 GB lediga"));
 }
 
 TEST_F(DiagnosisTest, TellsWhatCanNotBeRead)

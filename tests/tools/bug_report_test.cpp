@@ -52,6 +52,43 @@ protected:
     BugReportAnswers answers;
 };
 
+TEST_F(BugReportTest, IsWrittenInUtf8WhereANameHasOtherLetters)
+{
+    state.ProjectFileName = "C:\\Projekt\\日本.qnp";
+    Write();
+    const std::string bytes = machine.files.Get(kReport);
+    EXPECT_TRUE(bytes.starts_with("\xEF\xBB\xBF"
+                                  "-----"));
+    EXPECT_THAT(bytes, HasSubstr("Bifogad projetfil:   日本.qnp\r\n"));
+    EXPECT_THAT(bytes, HasSubstr("Det går sönder."));
+    EXPECT_TRUE(machine.files.FileExists("C:\\Quillon\\BugReport\\日本.qnp"));
+}
+
+TEST_F(BugReportTest, OffersTheAnswersOfItsQuestionsWordForWord)
+{
+    const std::vector<std::vector<Text>> choices = {
+        {"I utvecklingsmiljön", "Vid installation", "Efter en installation", "I annat sammanhang"},
+        {"På denna dator", "På annan dator", "Både och"},
+        {"På endast en dator", "På vissa datorer", "På alla testade datorer"},
+        {"Under initieringen", "Precis innan filkopieringen", "Under filkopieringen", "I slutfasen",
+         "Efter installationen"},
+        {"Diskett", "CD (komprimerat)", "CD (färdigt träd)", "Internet"},
+        {"Alltid existerat", "Uppkommit med uppdatering", "Vet inte"},
+        {"Ja", "Nej"},
+        {},
+        {"Med alla projekt", "Med vissa projekt", "Hittils bara med ett projekt"},
+        {"Visual Basic", "Visual C++", "Visual Basic & Visual C++", "MS Access", "MS Excel",
+         "MS Word", "Borland Delphi", "Borland C++", "Macromedia Director", "Annat programspråk",
+         "Inget programspråk"},
+        {"Ja - inga virus funna", "Ja - ett virus hittades", "Nej"}};
+    ASSERT_EQ(choices.size(), kBugQuestionCount);
+    for (std::size_t i = 0; i < kBugQuestionCount; ++i)
+        EXPECT_EQ(
+            std::vector<Text>(kBugQuestions[i].choices.begin(), kBugQuestions[i].choices.end()),
+            choices[i])
+            << kBugQuestions[i].caption;
+}
+
 TEST_F(BugReportTest, IsWrittenToTheByte)
 {
     Write();

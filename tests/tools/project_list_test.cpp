@@ -172,6 +172,41 @@ TEST_F(ProjectListTest, KeepsWhatAnotherProgramHasChangedMeanwhile)
     EXPECT_THAT(Names(), ElementsAre("Gamma"));
 }
 
+TEST_F(ProjectListTest, KnowsAPathInWhateverCaseItIsSpelt)
+{
+    PutSettings("[ProjectManager]\r\nProjectFiles=2\r\nPF1=C:\\A\\a.qnp\r\nPF2=C:\\B\\b.qnp\r\n");
+    const ProjectList mine = Read();
+    // Another program writes the same two in its own spelling, and adds one.
+    PutSettings("[ProjectManager]\r\nProjectFiles=3\r\nPF1=c:\\a\\A.QNP\r\nPF2=c:\\b\\B.QNP\r\n"
+                "PF3=c:\\c\\c.qnp\r\n");
+    SaveProjectList(machine.files, kSettings, mine, {mine.projects[0]});
+    EXPECT_THAT(Names(), ElementsAre("Alfa", "Gamma"));
+}
+
+TEST_F(ProjectListTest, ReadsEachFileOnce)
+{
+    struct CountingFiles : MemoryFiles {
+        std::unique_ptr<InputFile> OpenInput(const Text& path) const override
+        {
+            ++opened[LowerCase(path)];
+            return MemoryFiles::OpenInput(path);
+        }
+        mutable std::map<Text, int> opened;
+    };
+    CountingFiles files;
+    std::string settings = "[ProjectManager]\r\nProjectFiles=50\r\n";
+    for (int i = 1; i <= 50; ++i) {
+        const std::string path = "C:\\P\\" + std::to_string(i) + ".qnp";
+        files.Put(path, ProjectBytes("P"));
+        settings += "PF" + std::to_string(i) + "=" + path + "\r\n";
+    }
+    files.Put(kSettings, settings);
+    EXPECT_EQ(ReadProjectList(Host{files, machine.machine}, kSettings).projects.size(), 50U);
+    EXPECT_EQ(files.opened.size(), 51U);
+    for (const auto& [path, count] : files.opened)
+        EXPECT_EQ(count, 1) << path;
+}
+
 TEST_F(ProjectListTest, KeepsPathsOfAnyCharacters)
 {
     machine.files.Put("C:\\Ω\\a.qnp", ProjectBytes("Omega"));

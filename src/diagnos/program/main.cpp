@@ -18,8 +18,10 @@ int main(int argc, char** argv)
     const Text file = command.file.empty() ? JoinPath(ownFolder, "Diagnos.txt") : command.file;
     try {
         Text text;
-        for (const Text& line : DiagnosisLines(DescribeSystem(), command.caller, host.host,
-                                               ExtractDirectory(ownFolder)))
+        for (const Text& line : DiagnosisLines(
+                 DescribeSystem(), command.caller, host.host,
+                 [&](const Text& root) { return host.files.SizeOf(root); },
+                 ExtractDirectory(ownFolder)))
             text += line + Text(kLineBreak);
         WriteWholeFile(host.files, file, AnsiText::ToBytes(text));
     } catch (const RunError& error) {

@@ -66,6 +66,14 @@ std::optional<std::uint64_t> FreeSpaceOf(const std::string& hostFolder)
     return std::uint64_t(disk.f_bavail) * disk.f_frsize;
 }
 
+std::optional<std::uint64_t> SizeOfDisk(const std::string& hostFolder)
+{
+    struct statvfs disk {};
+    if (statvfs(hostFolder.c_str(), &disk) != 0)
+        return std::nullopt;
+    return std::uint64_t(disk.f_blocks) * disk.f_frsize;
+}
+
 DriveKind KindOfDisk(const std::string& hostFolder)
 {
     struct statfs system {};

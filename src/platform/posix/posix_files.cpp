@@ -393,6 +393,12 @@ std::uint64_t PosixFiles::FreeSpace(const Text& folder) const
     return *space;
 }
 
+std::optional<std::uint64_t> PosixFiles::SizeOf(const Text& folder) const
+{
+    const auto hostPath = drives_.ToHost(folder);
+    return hostPath ? SizeOfDisk(*hostPath) : std::nullopt;
+}
+
 DriveKind PosixFiles::DriveType(const Text& root) const
 {
     const auto hostPath = drives_.ToHost(root);

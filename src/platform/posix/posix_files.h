@@ -33,6 +33,8 @@ public:
     void SetReadOnly(const Text& path, bool readOnly) override;
 
     std::uint64_t FreeSpace(const Text& folder) const override;
+    /// Bytes of the disk that holds the folder; nothing where it can't be asked.
+    std::optional<std::uint64_t> SizeOf(const Text& folder) const;
     DriveKind DriveType(const Text& root) const override;
     Text GetVolumeName(const Text& root) const override;
     /// There are no short names here: the path as it is.

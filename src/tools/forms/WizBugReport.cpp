@@ -16,12 +16,13 @@ WizBugReportPage::WizBugReportPage(const char* name, const Text& title, BugRepor
 
 Piece WizBugReportPage::StepButtons(Steps steps)
 {
+    const bool isLast = steps == Steps::PreviousAndClose;
     Button(NAMED(cmdPrev), "‹ &Bakåt", [this] { GoBack(); });
     Button(NAMED(cmdNext), "&Nästa ›", [this] { GoOn(); });
-    Button(NAMED(cmdClose), steps == Steps::CloseOnly ? "Stäng" : "Avbryt", [this] { reject(); });
-    cmdPrev->setVisible(steps == Steps::All);
-    cmdNext->setVisible(steps != Steps::CloseOnly);
-    (steps == Steps::CloseOnly ? cmdClose : cmdNext)->setDefault(true);
+    Button(NAMED(cmdClose), isLast ? "Stäng" : "Avbryt", [this] { reject(); });
+    cmdPrev->setVisible(steps != Steps::NextAndClose);
+    cmdNext->setVisible(!isLast);
+    (isLast ? cmdClose : cmdNext)->setDefault(true);
     return HBox({Stretch(), cmdPrev, cmdNext, cmdClose});
 }
 

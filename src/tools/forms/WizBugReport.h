@@ -34,7 +34,7 @@ protected:
     // All pages are equally wide, so that the buttons stay where they are.
     static constexpr int kPageLetters = 72;
 
-    enum class Steps { NextAndClose, All, CloseOnly };
+    enum class Steps { NextAndClose, All, PreviousAndClose };
     /// The row of buttons that every page ends in.
     Piece StepButtons(Steps steps);
 

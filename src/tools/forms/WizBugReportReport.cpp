@@ -143,7 +143,7 @@ WizBugReport_8::WizBugReport_8(BugReportWizard& wizard, QWidget* parent)
         LabelMailSupport,
         HBox({cmdStartEmailApp, Stretch()}),
         Stretch(),
-        StepButtons(Steps::CloseOnly),
+        StepButtons(Steps::PreviousAndClose),
     }));
     cmdClose->setFocus();
 }

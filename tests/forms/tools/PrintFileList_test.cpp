@@ -115,6 +115,22 @@ TEST_F(PrintFileListTest, TellsWhereThePdfCanNotBeWritten)
     Click(form, "cmdSavePdf");
 }
 
+TEST_F(PrintFileListTest, ShowsThePrintersOfThisMachine)
+{
+    bool isShown = false;
+    OnNextDialog([&](QDialog& dialog) {
+        const auto& form = static_cast<PrintFileList&>(dialog);
+        EXPECT_EQ(form.objectName(), "PrintFileList");
+        // Whatever this machine has: printing is offered with a printer only, the PDF always.
+        EXPECT_EQ(form.cmdPrint->isEnabled(), form.cbPrinter != nullptr);
+        EXPECT_TRUE(form.cmdSavePdf->isEnabled());
+        isShown = true;
+        Click(dialog, "cmdClose");
+    });
+    ShowPrintFileList(session, nullptr);
+    EXPECT_TRUE(isShown);
+}
+
 TEST_F(PrintFileListTest, ClosesByItsButton)
 {
     PrintFileList form(session, printers, nullptr);

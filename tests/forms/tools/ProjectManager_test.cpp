@@ -1,5 +1,6 @@
 #include "tools/forms/ProjectManager.h"
 
+#include "shell/fake_window.h"
 #include "support/window_test.h"
 #include "tools/forms/PMMoreInfo.h"
 
@@ -157,6 +158,40 @@ TEST_F(ProjectManagerTest, TellsWhereTheListCanNotBeSavedAndOpensAChosenProject)
     Click(form, "cmdOpenProject");
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(form.SelectedProject, "C:\\P\\ost.qnp");
+}
+
+TEST_F(ProjectManagerTest, OpensTheChosenProjectBehindTheQuestionOfTheOpenOne)
+{
+    FakeWindow window;
+    const auto choose = [&] {
+        OnNextDialog([](QDialog& dialog) {
+            Select(static_cast<ProjectManager&>(dialog), 1);
+            Click(dialog, "cmdOpenProject");
+        });
+        OpenProjectManager(session, window, nullptr);
+    };
+    const ExpectedBox question{BoxKind::YesNoCancel, "Tavrell Quillon 2004",
+                               "Vissa inställningar har ändrats. Vill du spara dessa?",
+                               Answer::Cancel};
+    session.state.ProjectIsDirty = kOn;
+    ask.Expect(question);
+    choose();
+    EXPECT_EQ(session.state.ProjectFileName, "C:\\P\\ny.qnp") << "cancelled";
+    session.state.ProjectIsDirty = kOff;
+    // No type mark: the file is refused, and opened by name all the same.
+    ask.Expect({BoxKind::Warn, "Fel filformat"});
+    choose();
+    EXPECT_EQ(session.state.ProjectFileName, "C:\\P\\alfa.qnp");
+    EXPECT_THAT(window.calls, testing::Contains("project"));
+}
+
+TEST_F(ProjectManagerTest, OpensNothingWhenItIsClosed)
+{
+    FakeWindow window;
+    OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdOK"); });
+    OpenProjectManager(session, window, nullptr);
+    EXPECT_EQ(session.state.ProjectFileName, "C:\\P\\ny.qnp");
+    EXPECT_THAT(window.calls, testing::IsEmpty());
 }
 
 TEST_F(ProjectManagerTest, HasNothingToDoWithoutRows)

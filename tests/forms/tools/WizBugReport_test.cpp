@@ -89,6 +89,15 @@ TEST(WizBugReportAfterAFault, BeginsTheDescriptionWithItsNoteUntilAReportIsWritt
     EXPECT_FALSE(machine.files.FileExists("C:\\Quillon\\Recovery\\Fault.txt"));
 }
 
+TEST_F(WizBugReportTest, GoesBackFromItsLastPageToo)
+{
+    Show(8);
+    EXPECT_FALSE(Page(8).cmdNext->isVisible());
+    Click(Page(8), "cmdPrev");
+    EXPECT_TRUE(wizard.WizBack);
+    EXPECT_FALSE(Page(8).isVisible());
+}
+
 TEST_F(WizBugReportTest, ClearsItsFlagsWhenAPageIsShown)
 {
     Show(3);

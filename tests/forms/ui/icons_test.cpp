@@ -71,8 +71,9 @@ TEST_F(Icons, StandOnEveryButtonAndInTheMenus)
 {
     for (const int id : IdsWithAButton())
         EXPECT_FALSE(CommandIcon(id).isNull()) << id;
-    // Each command of the menus that has one, so that none is lost unseen.
-    EXPECT_EQ(IdsWithAPicture().size(), 62U);
+    for (const MenuRow& row : MenuBarRows())
+        if (row.part == MenuPart::Entry)
+            EXPECT_FALSE(CommandIcon(row.command.id).isNull()) << row.command.caption;
     EXPECT_TRUE(CommandIcon(106).isNull());
     EXPECT_TRUE(CommandIcon(0).isNull());
     EXPECT_TRUE(NamedIcon("no-such-picture").isNull());
@@ -81,7 +82,11 @@ TEST_F(Icons, StandOnEveryButtonAndInTheMenus)
 TEST_F(Icons, HaveInkAndDifferFromEachOther)
 {
     std::map<QByteArray, int> seen;
+    // Commands that do the same thing to another file, or in another place.
+    const std::set<int> alike = {154, 155, 202, 203, 292, 293, 294};
     for (const int id : IdsWithAPicture()) {
+        if (alike.count(id) > 0)
+            continue;
         const QImage picture = Draw(CommandIcon(id));
         EXPECT_GT(InkIn(picture), 50) << id;
         EXPECT_LT(InkIn(picture), 24 * 24) << id;
