@@ -268,6 +268,14 @@ TEST_F(ImportCalls, ImportTheFolderOfABuild)
 
     ExpectRefused({"import-folder", disk.Path("out/Kund"), "--strict"}, 1,
                   "Biblioteket 'nej.dll' saknas; det behövs av 'Kund.exe'.");
+    disk.Put("out/Mixed/Kund.exe", MakeLinkedProgram({.clrVersion = "v4.0.30319"}));
+    disk.Put("out/Mixed/a.dll", MakeLinkedProgram({.is64Bit = true, .isLibrary = true}));
+    disk.Put("out/Mixed/b.dll", MakeLinkedProgram({.isLibrary = true}));
+    ExpectRefused({"import-folder", disk.Path("out/Mixed"), "--strict"}, 1,
+                  "'a.dll' är för 64 bitar, men 'b.dll' är för 32 bitar.");
+    disk.Put("out/Mixed/Kund.exe", MakeLinkedProgram({}));
+    ExpectRefused({"import-folder", disk.Path("out/Mixed"), "--strict"}, 1,
+                  "'a.dll' är för 64 bitar, men programmet är för 32 bitar.");
     ExpectRefused({"import-folder", disk.Path("out/Kund"), "--exe", "x.exe"}, 1,
                   "Katalogen har inget program 'x.exe'.");
     ExpectRefused({"import-folder", disk.Path("out/nej")}, 3, "finns inte");
