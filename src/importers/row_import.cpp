@@ -173,13 +173,20 @@ NotAdded RowImport::WhyNotAdded(const FileToAdd& file) const
 }
 
 // The row by which a file is in the list.
-std::optional<std::size_t> RowImport::RowOfFile(const FileToAdd& file) const
+std::optional<std::size_t> RowImport::RowOfFile(const FileToAdd& file)
 {
-    return FirstRow(Files(), [&](const FileListRow& row) {
-        return EqualIgnoreCase(row[Filename], file.FileName) &&
-               (EqualIgnoreCase(row[Source], file.SourcePath) ||
-                EqualIgnoreCase(row[Destination], file.Destination));
-    });
+    const std::vector<FileListRow>& rows = Files().rows;
+    for (; rowsLookedAt_ < rows.size(); ++rowsLookedAt_)
+        rowsByName_.emplace(LowerCase(rows[rowsLookedAt_][Filename]), rowsLookedAt_);
+    std::optional<std::size_t> first;
+    const auto [begin, end] = rowsByName_.equal_range(LowerCase(file.FileName));
+    for (auto named = begin; named != end; ++named) {
+        const FileListRow& row = rows[named->second];
+        if (!LacksSource(row) && (EqualIgnoreCase(row[Source], file.SourcePath) ||
+                                  EqualIgnoreCase(row[Destination], file.Destination)))
+            first = std::min(first.value_or(named->second), named->second);
+    }
+    return first;
 }
 
 bool RowImport::AddProgram(const Text& program, ImportEnd& end, const Text& subfolder)

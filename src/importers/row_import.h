@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <span>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace quillon {
@@ -70,7 +71,7 @@ private:
     FileList& Files() const { return work_.list.project.Files; }
     bool IsOfThisImport(std::size_t row) const;
     std::optional<std::size_t> SystemRow(const Text& name, const Text& path) const;
-    std::optional<std::size_t> RowOfFile(const FileToAdd& file) const;
+    std::optional<std::size_t> RowOfFile(const FileToAdd& file);
     NotAdded WhyNotAdded(const FileToAdd& file) const;
     std::vector<std::size_t> AddedRows(const NewPlaces& places) const;
 
@@ -85,6 +86,10 @@ private:
     std::optional<std::size_t> programRow_;
     Text programDestination_;
     std::vector<NotAddedFile> notAdded_;
+    // The rows by their names in lower case, as far as they were looked at. A folder that is
+    // imported again would else compare each of its files with each row.
+    std::unordered_multimap<Text, std::size_t> rowsByName_;
+    std::size_t rowsLookedAt_ = 0;
     std::unordered_set<Text> told_;               // of `notAdded_`
     std::unordered_set<Text> missingSystemFiles_; // their names, in lower case
 };
