@@ -79,9 +79,10 @@ bool DesignPage::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize && watched == parentWidget())
         PlaceSurface(parentWidget()->size());
-    if (event->type() == QEvent::Show && watched == parentWidget())
-        window()->windowHandle()->installEventFilter(this);
-    if (event->type() == QEvent::Expose && watched == window()->windowHandle() && isPending_)
+    QWindow* const window = this->window()->windowHandle();
+    if (event->type() == QEvent::Show && watched == parentWidget() && window)
+        window->installEventFilter(this);
+    if (event->type() == QEvent::Expose && watched == window && isPending_)
         LayOutSoon();
     return Page::eventFilter(watched, event);
 }

@@ -4,7 +4,6 @@
 #include "design/forms/pixel_image.h"
 #include "design/surface_click.h"
 #include "design/text_panel.h"
-#include "pictures/picture_file.h"
 #include "platform/run_error.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
@@ -160,28 +159,6 @@ void DesignScreen::DrawDesBackground()
         colorblendBackground_->Show(paint_, ReadBackground());
 }
 
-/// Empty where it can't be read: then the blend is painted, as the setup does.
-ScalablePicture DesignScreen::ReadBackground()
-{
-    ScalablePicture picture;
-    try {
-        MeasureAndKeep(session_.project.DesBackground.PictureFilename, picture);
-        told_.erase(PictureStep::Background);
-    } catch (const RunError& error) {
-        TellPictureError(PictureStep::Background, error);
-        paint_.UsePicture = false;
-        return {};
-    }
-    // The surface grows with its window, as far as the screen has room.
-    backgroundRoom_ = screen()->size().expandedTo(colorblendBackground_->size());
-    const QSize pixels = backgroundRoom_ * devicePixelRatioF();
-    if (paint_.StretchPicture)
-        picture.KeepOnly(pixels.width(), pixels.height());
-    else
-        CropToMiddle(picture, pixels.width(), pixels.height(), devicePixelRatioF());
-    return picture;
-}
-
 void DesignScreen::DrawDesTitle()
 {
     const Project& project = session_.project;
@@ -213,17 +190,6 @@ void DesignScreen::DrawDesPictures()
     else
         told_.erase(PictureStep::Pictures);
     ShowPictures();
-}
-
-PixelSize DesignScreen::ReadDesPicture(std::size_t index)
-{
-    const section::DesPictures& record = session_.project.DesPictures;
-    ScalablePicture& kept = pictures_[index];
-    const PixelSize size = MeasureAndKeep(record.Pictures[index].PictureFilename, kept);
-    if (const auto transparent = TransparentColourOf(record, index))
-        kept.MakeTransparent(*transparent);
-    KeepOnlyIn(BoxOfPicture(record, index, size, place_, session_.surface.screen).place, kept);
-    return size;
 }
 
 void DesignScreen::ShowPictures()
@@ -284,22 +250,6 @@ LogotypeSurround DesignScreen::SurroundOfLogotype() const
             .screen = session_.surface.screen,
             .paint = paint_,
             .isOnPicture = IsOnPicture(session_.project.DesBackground)};
-}
-
-/// Nothing is kept of one that is too large.
-PixelSize DesignScreen::ReadDesLogotype()
-{
-    const section::DesLogotype& record = session_.project.DesLogotype;
-    const PixelSize size = MeasureAndKeep(record.LogotypeFilename, logotype_);
-    const LogotypeBox box = PlaceLogotype(record, SurroundOfLogotype(), size);
-    if (IsLogotypeTooLarge(box, place_)) {
-        logotype_ = {};
-        return size;
-    }
-    if (const auto transparent = TransparentColourOf(record))
-        logotype_.MakeTransparent(*transparent);
-    KeepOnlyIn(box.place, logotype_);
-    return size;
 }
 
 void DesignScreen::DrawDesLogotypeBackColor()
@@ -390,47 +340,6 @@ void DesignScreen::ShowObject(DesignObject& object, const SurfacePlace& place, b
 {
     object.PlaceAt(place);
     object.setVisible(isVisible);
-}
-
-PixelSize DesignScreen::MeasureAndKeep(const Text& file, ScalablePicture& kept)
-{
-    kept = {};
-    PictureResult read =
-        ReadPictureFile(session_.host.files, file, kMaxPicturesMemory - PicturesMemory());
-    if (read.fault != PictureFault::None)
-        throw RunError(read.fault == PictureFault::NotFound ? ErrorNumber::kFileNotFound
-                                                            : kInvalidPicture,
-                       file);
-    kept = std::move(read.picture);
-    return {kept.Width(), kept.Height()};
-}
-
-std::int64_t DesignScreen::PicturesMemory() const
-{
-    std::int64_t memory = colorblendBackground_->PictureMemory() + logotype_.Memory();
-    for (const ScalablePicture& picture : pictures_)
-        memory += picture.Memory();
-    return memory;
-}
-
-void DesignScreen::KeepOnlyIn(const SurfacePlace& place, ScalablePicture& picture) const
-{
-    const auto [across, down] = session_.surface.screen;
-    const QSize shown =
-        (QSizeF(PixelsOf(place.Width, across), PixelsOf(place.Height, down)) * devicePixelRatioF())
-            .toSize();
-    picture.KeepOnly(shown.width(), shown.height());
-}
-
-bool DesignScreen::MayTell(PictureStep step, const Text& file)
-{
-    return std::exchange(told_[step], file) != file;
-}
-
-void DesignScreen::TellPictureError(PictureStep step, const RunError& error)
-{
-    if (MayTell(step, error.Path()))
-        ShowErrorBoxIfPictureError(session_.ask, error.Number());
 }
 
 Long DesignScreen::ScreenHeightInPixels() const
