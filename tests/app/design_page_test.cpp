@@ -180,6 +180,12 @@ TEST_F(DesignPageTest, TellsOnceOfAPictureThatIsNoneAndKeepsItsName)
     machine.files.Put("C:\\bild.bmp", "no picture at all");
     ask.Expect(told);
     page.Screen().DrawDesBackground();
+    // So is one that was missing in between.
+    machine.files.RemoveFile("C:\\bild.bmp");
+    page.Screen().DrawDesBackground();
+    machine.files.Put("C:\\bild.bmp", "no picture at all");
+    ask.Expect(told);
+    page.Screen().DrawDesBackground();
 }
 
 TEST_F(DesignPageTest, TellsAgainOfAPictureThatTheUserSetsAnew)

@@ -98,7 +98,11 @@ bool DesignScreen::MayTell(PictureStep step, const Text& file)
 
 void DesignScreen::TellPictureError(PictureStep step, const RunError& error)
 {
-    if (MayTell(step, error.Path()))
+    // Of a file that is missing nothing is said; once it is there again, it is told of as any
+    // other.
+    if (error.Number() == ErrorNumber::kFileNotFound)
+        told_.erase(step);
+    else if (MayTell(step, error.Path()))
         ShowErrorBoxIfPictureError(session_.ask, error.Number());
 }
 
