@@ -68,15 +68,12 @@ const char* ListHitBy(std::string_view line, ListField list)
     return line == "[FileList]" ? "Fillistan" : nullptr;
 }
 
-const char* SectionHitBy(std::string_view line, ListField list)
+const char* SectionHitBy(std::string_view header, ListField list)
 {
-    const auto name = SectionNameOfLine(line);
-    if (!name)
-        return nullptr;
     for (const UnsupportedSection& section : kUnsupportedSections) {
         const bool isBehind =
             !section.firstListBehind || PlaceOf(list) < PlaceOf(section.firstListBehind);
-        if (isBehind && FoldedName(*name) == FoldedName(section.name))
+        if (isBehind && FoldedName(header) == FoldedName(section.name))
             return section.hit;
     }
     return nullptr;
@@ -85,12 +82,11 @@ const char* SectionHitBy(std::string_view line, ListField list)
 // Sections are found in lines that end at any LF, lists in those that end at CR LF.
 const char* AnySectionHitBy(std::string_view line, ListField list)
 {
-    for (std::size_t at = 0; at < line.size();) {
-        const ProfileLine part = ProfileLineAt(line, at);
-        if (const char* hit = SectionHitBy(part.text, list))
-            return hit;
-        at = part.next;
-    }
+    IniScanner parts(line, kProfileSyntax);
+    while (const auto part = parts.Next())
+        if (part->kind == ScannedLine::Kind::Header)
+            if (const char* const hit = SectionHitBy(part->name, list))
+                return hit;
     return nullptr;
 }
 

@@ -4,6 +4,7 @@
 #include "helpers/number_text.h"
 #include "helpers/utf8.h"
 #include "helpers/windows_path.h"
+#include "ini/ini_scanner.h"
 #include "platform/failure_text.h"
 
 #include <algorithm>
@@ -75,26 +76,23 @@ std::vector<ImportData::Fault> ImportData::Add(std::string_view bytes)
     constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
     if (bytes.starts_with(kUtf8Bom))
         bytes.remove_prefix(kUtf8Bom.size());
-    const Text text =
-        ReplaceAll(IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes), "\r\n", "\n");
+    const Text text = IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes);
+    constexpr IniSyntax kSyntax = {IniSyntax::LineEnd::AtLf, IniSyntax::Header::WholeLine};
     std::vector<Fault> faults;
     Text section;
     int number = 0;
-    for (std::string_view rest = text; !rest.empty();) {
-        const std::size_t end = rest.find('\n');
-        const Text row = TrimBlanks(rest.substr(0, end));
-        rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+    IniScanner lines(text, kSyntax);
+    while (const auto line = lines.Next()) {
         ++number;
-        if (row.empty() || row.starts_with(';'))
+        if (line->text.empty() || line->text.starts_with(';'))
             continue;
-        if (row.starts_with('[') && row.ends_with(']')) {
-            section = row.substr(1, row.size() - 2);
+        if (line->kind == ScannedLine::Kind::Header) {
+            section = line->name;
             if (std::ranges::find(kSections, section) == kSections.end())
                 faults.push_back({number, "avsnittet '" + section + "' är okänt"});
-            continue;
-        }
-        if (Text reason = AddRow(section, row); !reason.empty())
+        } else if (Text reason = AddRow(section, Text(line->text)); !reason.empty()) {
             faults.push_back({number, std::move(reason)});
+        }
     }
     return faults;
 }

@@ -6,13 +6,8 @@ namespace quillon {
 
 namespace {
 
-std::string_view Trimmed(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(" \t");
-    if (first == Text::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
+// Other programs write these files too, and some end their lines with a CR alone.
+constexpr IniSyntax kSyntax = {IniSyntax::LineEnd::AtLfOrCr, IniSyntax::Header::ToFirstBracket};
 
 // Case is folded for ASCII alone, since the bytes may be of any code page.
 bool SameName(std::string_view left, std::string_view right)
@@ -22,57 +17,42 @@ bool SameName(std::string_view left, std::string_view right)
                       [&](char a, char b) { return fold(a) == fold(b); });
 }
 
-bool IsSectionLine(std::string_view line)
+// A header whose bracket is missing ends the section before it, too.
+bool EndsSection(const ScannedLine& line)
 {
-    return !line.empty() && line.front() == '[';
+    return line.kind == ScannedLine::Kind::Header || line.kind == ScannedLine::Kind::OpenHeader;
 }
 
-bool IsSectionNamed(std::string_view line, std::string_view section)
+// Whether the lines from here to the next section are all blank.
+bool IsEmptySection(IniScanner lines)
 {
-    if (!IsSectionLine(line))
-        return false;
-    const std::size_t close = line.find(']');
-    return close != Text::npos && SameName(Trimmed(line.substr(1, close - 1)), Trimmed(section));
+    for (auto line = lines.Next(); line && !EndsSection(*line); line = lines.Next())
+        if (!line->text.empty())
+            return false;
+    return true;
 }
 
 } // namespace
 
-IniText::Line IniText::LineAt(std::size_t begin) const
+std::optional<ScannedLine> IniText::FindSection(std::string_view section) const
 {
-    const std::size_t end = std::min(bytes_.find_first_of("\r\n", begin), bytes_.size());
-    std::size_t next = end;
-    if (next < bytes_.size())
-        next += bytes_.compare(next, 2, kLineBreak) == 0 ? 2 : 1;
-    return {begin, end, next};
-}
-
-std::string_view IniText::TextOf(const Line& line) const
-{
-    return Trimmed(std::string_view(bytes_).substr(line.begin, line.end - line.begin));
-}
-
-std::optional<IniText::Line> IniText::FindSection(std::string_view section) const
-{
-    for (Line line = LineAt(0); line.begin < bytes_.size(); line = LineAt(line.next))
-        if (IsSectionNamed(TextOf(line), section))
+    IniScanner lines(bytes_, kSyntax);
+    while (const auto line = lines.Next())
+        if (line->kind == ScannedLine::Kind::Header &&
+            SameName(WithoutBlanks(line->name), WithoutBlanks(section)))
             return line;
     return std::nullopt;
 }
 
-std::optional<IniText::Line> IniText::FindValue(std::string_view section,
-                                                std::string_view name) const
+std::optional<ScannedLine> IniText::FindValue(std::string_view section, std::string_view name) const
 {
     const auto header = FindSection(section);
     if (!header)
         return std::nullopt;
-    for (Line line = LineAt(header->next); line.begin < bytes_.size(); line = LineAt(line.next)) {
-        const std::string_view text = TextOf(line);
-        if (IsSectionLine(text))
-            break;
-        const std::size_t equals = text.find('=');
-        if (equals != Text::npos && SameName(Trimmed(text.substr(0, equals)), Trimmed(name)))
+    IniScanner lines(bytes_, kSyntax, header->next);
+    for (auto line = lines.Next(); line && !EndsSection(*line); line = lines.Next())
+        if (line->kind == ScannedLine::Kind::Value && SameName(line->name, WithoutBlanks(name)))
             return line;
-    }
     return std::nullopt;
 }
 
@@ -86,8 +66,7 @@ std::optional<std::string> IniText::Value(std::string_view section, std::string_
     const auto line = FindValue(section, name);
     if (!line)
         return std::nullopt;
-    const std::string_view text = TextOf(*line);
-    return std::string(Trimmed(text.substr(text.find('=') + 1)));
+    return std::string(line->value);
 }
 
 std::optional<std::string> IniText::LineOf(std::string_view section, std::string_view name) const
@@ -95,7 +74,7 @@ std::optional<std::string> IniText::LineOf(std::string_view section, std::string
     const auto line = FindValue(section, name);
     if (!line)
         return std::nullopt;
-    return bytes_.substr(line->begin, line->end - line->begin);
+    return std::string(line->whole);
 }
 
 std::string IniText::OpenLastLine() const
@@ -137,13 +116,11 @@ void IniText::SetValue(std::string_view section, std::string_view name, std::str
         return;
     }
     MakeSection(section);
-    // Behind the section's last line that is not blank, so that the gap to the next section stays.
-    std::size_t at = 0;
-    Line line = *FindSection(section);
-    do {
-        at = TextOf(line).empty() ? at : line.next;
-        line = LineAt(line.next);
-    } while (line.begin < bytes_.size() && !IsSectionLine(TextOf(line)));
+    // After the section's last line that is not blank, so that the gap to the next section stays.
+    std::size_t at = FindSection(section)->next;
+    IniScanner lines(bytes_, kSyntax, at);
+    for (auto line = lines.Next(); line && !EndsSection(*line); line = lines.Next())
+        at = line->text.empty() ? at : line->next;
     Insert(at, text + std::string(kLineBreak));
 }
 
@@ -162,19 +139,8 @@ void IniText::RemoveValue(std::string_view section, std::string_view name)
 void IniText::RemoveEmptySection(std::string_view section)
 {
     const auto header = FindSection(section);
-    if (!header)
-        return;
-    const Line behind = LineAt(header->next);
-    const bool isLast = behind.begin >= bytes_.size();
-    if (isLast || TextOf(behind).empty() || IsSectionLine(TextOf(behind))) {
-        for (Line line = behind; line.begin < bytes_.size(); line = LineAt(line.next)) {
-            if (IsSectionLine(TextOf(line)))
-                break;
-            if (!TextOf(line).empty())
-                return;
-        }
+    if (header && IsEmptySection(IniScanner(bytes_, kSyntax, header->next)))
         bytes_.erase(header->begin, header->next - header->begin);
-    }
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "helpers/text.h"
+#include "ini/ini_scanner.h"
 
 #include <optional>
 #include <string>
@@ -22,31 +23,24 @@ public:
     std::optional<std::string> Value(std::string_view section, std::string_view name) const;
     /// The whole line of a value, with its blanks, but without the line break.
     std::optional<std::string> LineOf(std::string_view section, std::string_view name) const;
-    /// The last line where no line break stands behind it; else nothing.
+    /// The last line where no line break follows it; else nothing.
     std::string OpenLastLine() const;
 
     /// An empty section is made at the end of the file where it is missing.
     void MakeSection(std::string_view section);
-    /// Replaces the value, or adds it behind the last value of its section.
+    /// Replaces the value, or adds it after the last value of its section.
     void SetValue(std::string_view section, std::string_view name, std::string_view value);
     /// Replaces the line of a value that there is.
     void SetLine(std::string_view section, std::string_view name, std::string_view line);
     void RemoveValue(std::string_view section, std::string_view name);
     /// Removes the section's line if the section holds nothing but blank lines.
     void RemoveEmptySection(std::string_view section);
-    /// Takes the line break away that stands behind the last line, if that is this line.
+    /// Takes the line break away that follows the last line, if that is this line.
     void OpenEndOf(std::string_view lastLine);
 
 private:
-    struct Line {
-        std::size_t begin = 0;
-        std::size_t end = 0;  // without the line break
-        std::size_t next = 0; // behind the line break
-    };
-    Line LineAt(std::size_t begin) const;
-    std::string_view TextOf(const Line& line) const;
-    std::optional<Line> FindSection(std::string_view section) const;
-    std::optional<Line> FindValue(std::string_view section, std::string_view name) const;
+    std::optional<ScannedLine> FindSection(std::string_view section) const;
+    std::optional<ScannedLine> FindValue(std::string_view section, std::string_view name) const;
     void Insert(std::size_t at, std::string text);
 
     std::string bytes_;

@@ -28,50 +28,7 @@ const ByteTable& LowerCaseTable()
     return kTable;
 }
 
-bool IsBlank(char byte)
-{
-    return byte == ' ' || byte == '\t';
-}
-
-std::string_view WithoutBlanks(std::string_view bytes)
-{
-    while (!bytes.empty() && IsBlank(bytes.front()))
-        bytes.remove_prefix(1);
-    while (!bytes.empty() && IsBlank(bytes.back()))
-        bytes.remove_suffix(1);
-    return bytes;
-}
-
 } // namespace
-
-ProfileLine ProfileLineAt(std::string_view bytes, std::size_t begin)
-{
-    const std::size_t end = std::min(bytes.find('\n', begin), bytes.size());
-    const std::size_t next = std::min(end + 1, bytes.size());
-    std::string_view text = bytes.substr(begin, end - begin);
-    if (!text.empty() && text.back() == '\r')
-        text.remove_suffix(1);
-    return {text, begin, next};
-}
-
-std::optional<std::string_view> SectionNameOfLine(std::string_view line)
-{
-    line = WithoutBlanks(line);
-    if (!line.starts_with('['))
-        return std::nullopt;
-    const std::size_t close = line.rfind(']');
-    if (close == std::string_view::npos)
-        return std::nullopt;
-    return line.substr(1, close - 1);
-}
-
-std::optional<ProfileEntry> EntryOfLine(std::string_view line)
-{
-    const std::size_t sign = line.find('=');
-    if (sign == std::string_view::npos)
-        return std::nullopt;
-    return ProfileEntry{WithoutBlanks(line.substr(0, sign)), WithoutBlanks(line.substr(sign + 1))};
-}
 
 std::string FoldedName(std::string_view bytes)
 {
@@ -113,16 +70,14 @@ ProfileSections::ProfileSections(std::string_view bytes)
 {
     Range shadowed; // takes the end of a section whose name came before
     Range* open = &shadowed;
-    for (std::size_t position = 0; position < bytes.size();) {
-        const ProfileLine line = ProfileLineAt(bytes, position);
-        position = line.next;
-        const auto name = SectionNameOfLine(line.text);
-        if (!name)
+    IniScanner lines(bytes, kProfileSyntax);
+    while (const auto line = lines.Next()) {
+        if (line->kind != ScannedLine::Kind::Header)
             continue;
-        open->end = line.begin;
-        const auto [place, isFirst] = ranges_.try_emplace(FoldedName(*name));
+        open->end = line->begin;
+        const auto [place, isFirst] = ranges_.try_emplace(FoldedName(line->name));
         open = isFirst ? &place->second : &shadowed;
-        open->begin = line.next;
+        open->begin = line->next;
     }
     open->end = bytes.size();
 }

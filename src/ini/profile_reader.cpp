@@ -115,12 +115,10 @@ void ProfileReader::SelectKeys()
 ProfileReader::Keys ProfileReader::KeysIn(ProfileSections::Range range) const
 {
     Keys keys;
-    for (std::size_t position = range.begin; position < range.end;) {
-        const ProfileLine line = ProfileLineAt(bytes_, position);
-        position = line.next;
-        if (const auto entry = EntryOfLine(line.text))
-            keys.try_emplace(entry->key, entry->value);
-    }
+    IniScanner lines(std::string_view(bytes_).substr(0, range.end), kProfileSyntax, range.begin);
+    while (const auto line = lines.Next())
+        if (line->kind == ScannedLine::Kind::Value)
+            keys.try_emplace(line->name, line->value);
     return keys;
 }
 

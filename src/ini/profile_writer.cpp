@@ -22,25 +22,24 @@ void InsertLines(std::string& bytes, std::size_t position, const std::string& li
     bytes.insert(position, breaksLine ? std::string(kLineBreak) + lines : lines);
 }
 
-// Puts the key where the section has it, or behind the section's last line that is not empty, so
+// Puts the key where the section has it, or after the section's last line that is not empty, so
 // that the empty lines before the next section stay together.
 void SetInSection(std::string& bytes, const Range& range, const std::string& key,
                   const std::string& value)
 {
-    std::size_t behindLast = range.begin;
-    for (std::size_t position = range.begin; position < range.end;) {
-        const ProfileLine line = ProfileLineAt(bytes, position);
-        position = line.next;
-        const auto entry = EntryOfLine(line.text);
-        if (entry && FoldedName(entry->key) == FoldedName(key)) {
-            const std::string setting = SettingLine(entry->key, value);
-            bytes.replace(line.begin, line.next - line.begin, setting);
+    std::size_t afterLast = range.begin;
+    IniScanner lines(std::string_view(bytes).substr(0, range.end), kProfileSyntax, range.begin);
+    while (const auto line = lines.Next()) {
+        const bool isValue = line->kind == ScannedLine::Kind::Value;
+        if (isValue && FoldedName(line->name) == FoldedName(key)) {
+            const std::string setting = SettingLine(line->name, value);
+            bytes.replace(line->begin, line->next - line->begin, setting);
             return;
         }
-        if (!BareValue(line.text).empty())
-            behindLast = line.next;
+        if (!BareValue(line->whole).empty())
+            afterLast = line->next;
     }
-    InsertLines(bytes, behindLast, SettingLine(key, value));
+    InsertLines(bytes, afterLast, SettingLine(key, value));
 }
 
 } // namespace

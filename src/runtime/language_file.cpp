@@ -3,6 +3,7 @@
 #include "helpers/ansi_text.h"
 #include "helpers/utf16.h"
 #include "helpers/utf8.h"
+#include "ini/ini_scanner.h"
 
 #include <algorithm>
 #include <map>
@@ -73,32 +74,35 @@ public:
 
     void Read(std::string_view file)
     {
-        while (!file.empty()) {
-            const std::size_t end = std::min(file.find_first_of("\r\n"), file.size());
-            TakeLine(file.substr(0, end));
-            file.remove_prefix(std::min(end + 1, file.size()));
-        }
+        IniScanner lines(file, kSyntax);
+        while (const auto line = lines.Next())
+            Take(*line);
     }
 
 private:
-    void TakeLine(std::string_view line)
+    // A header without its closing bracket counts up to the end of its line.
+    static constexpr IniSyntax kSyntax = {IniSyntax::LineEnd::AtLfOrCr,
+                                          IniSyntax::Header::ToFirstBracket};
+
+    void Take(const ScannedLine& line)
     {
         // Longer than a key, its text and the blanks round them.
-        if (line.size() > 2 * kMaxTextLength)
+        if (line.whole.size() > 2 * kMaxTextLength)
             return;
-        const Text trimmed = TrimBlanks(line);
-        if (trimmed.starts_with('['))
-            section_ = trimmed.substr(1, trimmed.find(']') - 1);
-        const std::size_t equals = trimmed.find('=');
-        if (trimmed.starts_with('[') || equals == Text::npos)
-            return;
-        const auto place = places_.find(Name(section_, trimmed.substr(0, equals)));
+        if (line.kind == ScannedLine::Kind::Value)
+            TakeValue(line);
+        else if (line.kind != ScannedLine::Kind::Other)
+            section_ = line.name;
+    }
+
+    void TakeValue(const ScannedLine& line)
+    {
+        const auto place = places_.find(Name(section_, line.name));
         // Of two equal keys the first counts.
         if (place == places_.end() || std::exchange(isRead_[place->second], true))
             return;
-        const Text value = TrimBlanks(std::string_view(trimmed).substr(equals + 1));
-        if (IsText(value))
-            texts_[place->second] = value;
+        if (IsText(line.value))
+            texts_[place->second] = line.value;
     }
 
     Texts& texts_;
