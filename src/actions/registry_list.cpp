@@ -1,6 +1,7 @@
 #include "actions/registry_list.h"
 
 #include "helpers/ansi_text.h"
+#include "helpers/ascii.h"
 
 #include <algorithm>
 #include <limits>
@@ -20,11 +21,6 @@ constexpr const char* kNoNumber =
 constexpr const char* kNoBinary =
     "Texten du skrev in  vid 'Data' är ej ett giltigt binärt värde! Ett binärt värde ska anges "
     "som en serie hexademimala tal med mellanslag mellan talen, tex 'A2 FF 32'.";
-
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 // Kept: one backslash at the end goes, a second one stays.
 Text KeyOf(const Text& root, const Text& subKey)

@@ -13,12 +13,6 @@ namespace {
 
 constexpr std::uint64_t kClusterSize = 512;
 
-bool IsDriveRoot(const Text& folder)
-{
-    const Text path = RemoveLastBackslash(folder);
-    return path.size() == 2 && path[1] == ':';
-}
-
 std::uint64_t WholeClusters(std::uint64_t size)
 {
     return (size + kClusterSize - 1) / kClusterSize * kClusterSize;

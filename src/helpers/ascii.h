@@ -15,4 +15,15 @@ inline bool IsAscii(std::string_view text)
     return AsciiLength(text) == text.size();
 }
 
+inline bool IsDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+/// A space or a tab; no line break.
+inline bool IsBlank(char character)
+{
+    return character == ' ' || character == '\t';
+}
+
 } // namespace quillon

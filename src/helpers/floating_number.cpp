@@ -1,5 +1,6 @@
 // The floating half of number_text.h. It has a file of its own because the conversions of the
 // standard library weigh 250 KB, which a program that never calls them need not carry.
+#include "helpers/ascii.h"
 #include "helpers/number_text.h"
 
 #include <algorithm>
@@ -10,11 +11,6 @@
 namespace quillon {
 
 namespace {
-
-bool IsDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
 
 bool IsPlaceholder(char character)
 {

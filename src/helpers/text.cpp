@@ -1,5 +1,6 @@
 #include "helpers/text.h"
 
+#include "helpers/ascii.h"
 #include "helpers/utf8.h"
 
 #include <algorithm>
@@ -58,11 +59,6 @@ Text ChangeLetters(std::string_view text, Change change)
             AppendCodePoint(result, changed);
     }
     return result;
-}
-
-bool IsBlank(char character)
-{
-    return character == ' ' || character == '\t';
 }
 
 } // namespace

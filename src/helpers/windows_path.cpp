@@ -10,11 +10,6 @@ namespace {
 
 constexpr char kBackslash = '\\';
 
-bool IsDriveRoot(std::string_view path)
-{
-    return path.size() == 3 && path[1] == ':' && path[2] == kBackslash;
-}
-
 // How many leading parts no ".." takes away: the drive, or the server and its share.
 std::size_t PartsOfRoot(const std::vector<std::string_view>& parts, bool isNetwork)
 {
@@ -24,6 +19,12 @@ std::size_t PartsOfRoot(const std::vector<std::string_view>& parts, bool isNetwo
 }
 
 } // namespace
+
+bool IsDriveRoot(std::string_view path)
+{
+    return path.size() >= 2 && path.size() <= 3 && path[1] == ':' &&
+           (path.size() == 2 || path[2] == kBackslash);
+}
 
 Text ExtractFilename(std::string_view path)
 {

@@ -35,6 +35,9 @@ Text JoinPath(std::string_view folder, std::string_view name);
 /// at the root of a drive or of a network share leads nowhere.
 Text ResolvePath(std::string_view path);
 
+/// Whether it is a drive and no more: "C:" or "C:\".
+bool IsDriveRoot(std::string_view path);
+
 /// Display case: all in lower case, then an upper-case letter first and behind each backslash.
 Text FormatPathForDisplay(std::string_view path);
 

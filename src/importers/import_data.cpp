@@ -1,8 +1,7 @@
 #include "importers/import_data.h"
 
-#include "helpers/ansi_text.h"
+#include "helpers/encoded_text.h"
 #include "helpers/number_text.h"
-#include "helpers/utf8.h"
 #include "helpers/windows_path.h"
 #include "ini/ini_scanner.h"
 #include "platform/failure_text.h"
@@ -73,10 +72,7 @@ void AddTable(const FileSystem& files, const Text& path, Ask& ask, ImportData& d
 
 std::vector<ImportData::Fault> ImportData::Add(std::string_view bytes)
 {
-    constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
-    if (bytes.starts_with(kUtf8Bom))
-        bytes.remove_prefix(kUtf8Bom.size());
-    const Text text = IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes);
+    const Text text = DecodedText(bytes);
     constexpr IniSyntax kSyntax = {IniSyntax::LineEnd::AtLf, IniSyntax::Header::WholeLine};
     std::vector<Fault> faults;
     Text section;

@@ -1,22 +1,14 @@
 #include "importers/project_lines.h"
 
-#include "helpers/ansi_text.h"
+#include "helpers/encoded_text.h"
 #include "helpers/number_text.h"
 #include "helpers/utf16.h"
-#include "helpers/utf8.h"
 
 #include <algorithm>
 
 namespace quillon {
 
 namespace {
-
-Text FromUtf16HighByteFirst(std::string bytes)
-{
-    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
-        std::swap(bytes[i], bytes[i + 1]);
-    return FromUtf16(bytes);
-}
 
 // Letters with a zero behind each: two bytes a unit, saved without a mark.
 bool LooksLikeUtf16(std::string_view bytes)
@@ -27,18 +19,7 @@ bool LooksLikeUtf16(std::string_view bytes)
 
 Text Decode(std::string_view bytes)
 {
-    constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
-    constexpr std::string_view kLowByteFirst = "\xFF\xFE";
-    constexpr std::string_view kHighByteFirst = "\xFE\xFF";
-    if (bytes.starts_with(kLowByteFirst))
-        return FromUtf16(bytes.substr(kLowByteFirst.size()));
-    if (bytes.starts_with(kHighByteFirst))
-        return FromUtf16HighByteFirst(std::string(bytes.substr(kHighByteFirst.size())));
-    if (LooksLikeUtf16(bytes))
-        return FromUtf16(bytes);
-    if (bytes.starts_with(kUtf8Bom))
-        bytes.remove_prefix(kUtf8Bom.size());
-    return IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes);
+    return LooksLikeUtf16(bytes) ? FromUtf16(bytes) : DecodedText(bytes);
 }
 
 // Of a file that is too large, up to the last whole line.

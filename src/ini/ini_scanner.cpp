@@ -1,15 +1,12 @@
 #include "ini/ini_scanner.h"
 
+#include "helpers/ascii.h"
+
 #include <algorithm>
 
 namespace quillon {
 
 namespace {
-
-bool IsBlank(char byte)
-{
-    return byte == ' ' || byte == '\t';
-}
 
 std::size_t EndOfLine(std::string_view bytes, std::size_t begin, IniSyntax::LineEnd lineEnd)
 {

@@ -1,5 +1,7 @@
 #include "rtf/rtf_tokens.h"
 
+#include "helpers/ascii.h"
+
 #include <algorithm>
 
 namespace quillon {
@@ -14,11 +16,6 @@ constexpr int kMaxNumber = 99'999'999;
 bool IsLetter(char byte)
 {
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
-
-bool IsDigit(char byte)
-{
-    return byte >= '0' && byte <= '9';
 }
 
 /// Negative for what is no hexadecimal digit.

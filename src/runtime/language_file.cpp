@@ -1,7 +1,6 @@
 #include "runtime/language_file.h"
 
-#include "helpers/ansi_text.h"
-#include "helpers/utf16.h"
+#include "helpers/encoded_text.h"
 #include "helpers/utf8.h"
 #include "ini/ini_scanner.h"
 
@@ -15,30 +14,6 @@ namespace {
 
 // What is longer can't be shown and comes from a damaged file.
 constexpr std::size_t kMaxTextLength = 2000;
-
-constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
-constexpr std::string_view kUtf16Bom = "\xFF\xFE";
-constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
-
-Text FromUtf16BigEndian(std::string_view bytes)
-{
-    std::string turned(bytes.substr(0, bytes.size() / 2 * 2));
-    for (std::size_t i = 0; i < turned.size(); i += 2)
-        std::swap(turned[i], turned[i + 1]);
-    return FromUtf16(turned);
-}
-
-// Texts of Windows-1252 with a letter beyond ASCII are hardly ever well-formed UTF-8.
-Text Decoded(std::string_view bytes)
-{
-    if (bytes.starts_with(kUtf16Bom))
-        return FromUtf16(bytes.substr(kUtf16Bom.size()));
-    if (bytes.starts_with(kUtf16BigEndianBom))
-        return FromUtf16BigEndian(bytes.substr(kUtf16BigEndianBom.size()));
-    if (bytes.starts_with(kUtf8Bom))
-        bytes.remove_prefix(kUtf8Bom.size());
-    return IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes);
-}
 
 bool IsText(std::string_view value)
 {
@@ -121,7 +96,7 @@ LanguageTexts::LanguageTexts()
 
 LanguageTexts::LanguageTexts(std::string_view bytes) : LanguageTexts()
 {
-    LanguageReader(texts_).Read(Decoded(bytes));
+    LanguageReader(texts_).Read(DecodedText(bytes));
 }
 
 // In one pass: a path may hold a "%2" of its own.

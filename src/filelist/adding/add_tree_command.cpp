@@ -1,6 +1,7 @@
 #include "filelist/adding/add_tree_command.h"
 
 #include "filelist/adding/add_target.h"
+#include "helpers/windows_path.h"
 
 namespace quillon {
 
@@ -9,11 +10,6 @@ namespace {
 constexpr const char* kOnlyADrive =
     "Du har inte valt en katalog utan endast en enhet. Du kan addera samtliga kataloger och filer "
     "från denna enhet men det kan ta lång tid. Vill du verkligen fortsätta?";
-
-bool IsDriveRoot(const Text& folder)
-{
-    return CharacterCount(folder) == 3;
-}
 
 } // namespace
 

@@ -1,9 +1,7 @@
 #include "platform/posix/registry_files.h"
 
-#include "helpers/ansi_text.h"
+#include "helpers/encoded_text.h"
 #include "helpers/number_text.h"
-#include "helpers/utf16.h"
-#include "helpers/utf8.h"
 #include "platform/registry_roots.h"
 
 #include <charconv>
@@ -13,18 +11,6 @@ namespace quillon {
 namespace {
 
 constexpr std::string_view kFirstLines[] = {"REGEDIT4", "Windows Registry Editor Version 5.00"};
-
-/// Exports come in UTF-16, the old kind in the code page; a file written here by hand is UTF-8.
-Text Decode(std::string_view bytes)
-{
-    constexpr std::string_view kUtf16Bom = "\xFF\xFE";
-    constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
-    if (bytes.substr(0, kUtf16Bom.size()) == kUtf16Bom)
-        return FromUtf16(bytes.substr(kUtf16Bom.size()));
-    if (bytes.substr(0, kUtf8Bom.size()) == kUtf8Bom)
-        return Text(bytes.substr(kUtf8Bom.size()));
-    return IsUtf8(bytes) ? Text(bytes) : AnsiText::FromBytes(bytes);
-}
 
 std::string_view NextLine(std::string_view& text)
 {
@@ -91,7 +77,8 @@ KeyLine ReadKeyLine(std::string_view line)
 
 bool RegistryFiles::Add(std::string_view bytes)
 {
-    const Text decoded = Decode(bytes);
+    // Exports come in UTF-16, the old kind in the code page; a file written by hand is UTF-8.
+    const Text decoded = DecodedText(bytes);
     std::string_view rest = decoded;
     const Text firstLine = TrimBlanks(NextLine(rest));
     if (firstLine != kFirstLines[0] && firstLine != kFirstLines[1])

@@ -1,5 +1,6 @@
 #include "platform/posix/start_program.h"
 
+#include "helpers/ascii.h"
 #include "platform/posix/open_file.h"
 
 #include <array>
@@ -12,11 +13,6 @@
 namespace quillon {
 
 namespace {
-
-bool IsBlank(char character)
-{
-    return character == ' ' || character == '\t';
-}
 
 /// The child's part: nothing here may take memory, since another thread may hold the heap's lock.
 [[noreturn]] void BecomeProgram(char* const* arguments, int failurePipe)
