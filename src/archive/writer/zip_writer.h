@@ -1,6 +1,27 @@
 // Writes ZIP archives on all cores within a bounded amount of memory. The bytes of an archive
 // depend on its sources, level and password, and on nothing else: not on the threads, the clock or
 // chance.
+//
+// The constraints that shaped it:
+//
+// - An entry's header comes before its data and holds method, sizes and CRC. A source of up to one
+//   block (4 MiB) is packed before its header is written. Of a larger one the method is decided
+//   beforehand, by a sample of 64 KiB from each block, since the header's length must not change;
+//   sizes and CRC are written into the header when its last block is done.
+// - A file of any size is packed by all threads: its blocks are deflated independently and joined
+//   (`deflate_block.h`, `deflate_walk.h`). The borders cost a hundredth of a per cent of the size.
+// - Same bytes for any number of threads: `OrderedWorkers` hands the blocks back in their order,
+// and
+//   CRCs of blocks are combined. The salt of an encrypted entry comes from its content and the
+//   password, not from chance, so a large encrypted source is read twice.
+// - Memory: at most 96 MiB of sources are in flight, each thread has its own deflater and a block,
+//   and 16 threads are the most; all of it stays below 256 MiB for any tree.
+// - The thread that called does the writing and calls `ZipWatch` between blocks, so that a window
+//   stays alive without locks of its own.
+//
+// Rejected: a thread for each file (one large file would leave the other cores idle); temporary
+// files for the packed blocks (twice the disk); a data descriptor after the entry instead of the
+// second writing of its header (the setup's reader demands that both headers agree).
 #pragma once
 
 #include "archive/writer/compression_result.h"

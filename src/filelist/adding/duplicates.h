@@ -1,5 +1,21 @@
-// The duplicate test of the file list. A file is a duplicate of any row of its name, wherever that
-// stands and however the list is sorted: a tree that is added again adds nothing.
+// The duplicate test of the file list. A file is a duplicate of any row of its name that has its
+// source or its destination, wherever the row is and however the list is sorted: a tree that is
+// added again adds nothing.
+//
+// The constraints that shaped it:
+//
+// - 32,767 rows may be added to as many, and the list may hold a hundred files of one name
+//   (readme.txt of a hundred folders): neither a scan nor a search by name alone ends in time.
+// - So rows are found by a hash of the name with the source, and by one of the name with the
+//   destination: two tables of row numbers (`row_table.h`). A hit is compared with the row itself,
+//   so a collision costs a comparison and no wrong answer.
+// - Case is ignored as Windows ignores it, by capitals. Those of the names are kept, since each is
+//   needed twice; sources and destinations are much longer, and theirs are made when asked for.
+// - The list must not change but by appending while an index lives. It is made anew for each
+//   command, in one walk over the rows.
+//
+// Rejected: a binary search, which needs the list sorted by name and broke where many names were
+// equal; an index that lives with the list, which every edit of a row would have to keep right.
 #pragma once
 
 #include "filelist/row_table.h"

@@ -1,9 +1,24 @@
 // Finds names without regard to case on a file system that tells upper from lower case: the exact
 // spelling first, then the one that differs in case alone, and of several the first in byte order.
 //
-// Projects store source paths in lower case, so a look-up that misses the exact spelling is common
-// and lists the folder. The listing is kept for as long as it is certain to be what a new one would
-// give.
+// The constraints that shaped it:
+//
+// - Projects store source paths in lower case, so a look-up that misses the exact spelling is
+//   common, and can only be answered by listing the folder. Listing it for each of its files is
+//   quadratic.
+// - A kept listing must never be wrong: a file that another program has just made has to be found.
+//   A folder's time stamps (modified, changed) and identity say whether it changed, but in ticks:
+//   10 ms on usual file systems, up to 2 s on those that store whole seconds. A listing counts as
+//   settled only when it was made more than a tick after the last change; an unsettled one is made
+//   anew at the next look-up.
+// - This program fills folders itself, and its own changes move the stamps. It notes them in the
+//   listing (`NoteCreated`, `NoteRemoved`), which then counts for 100 ms, or for 20 times as long
+//   as it took to list, so that listing stays below a twentieth of the work.
+// - Memory: beyond 300,000 names all listings are dropped, and those still needed are made anew.
+//
+// Rejected: inotify (not on network file systems, and events come late); trusting a listing for a
+// fixed time (finds no file that was just made); storing the true case in the project (its format
+// says lower case).
 #pragma once
 
 #include <cstdint>
