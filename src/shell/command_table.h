@@ -1,5 +1,5 @@
 // Every command of the main window by its id: what the menus and toolbars call it and where it
-// stands in them. What a command does is another table, beside the window.
+// appears in them. What a command does is another table, beside the window.
 #pragma once
 
 #include "shell/main_window.h"
