@@ -55,8 +55,8 @@ MainForm::MainForm(Session& session, HostPaths paths)
     MakeStatusBar();
     ConnectFileList();
     bars_ = std::make_unique<CommandBars>(
-        *this, [this](int id) { RunCommand(id); },
-        [](int id) { return FindAction(id) != nullptr; });
+        *this, [this](CommandId id) { RunCommand(id); },
+        [](CommandId id) { return FindAction(id) != nullptr; });
     bars_->GiveListKeys(files_->List());
     bars_->ShowToolbar(SelectedTab());
     ConnectEdits();
@@ -128,8 +128,8 @@ void MainForm::ConnectEdits()
 
 void MainForm::ShowEdits()
 {
-    for (const int id : {kUndoCommand, kRedoCommand}) {
-        const auto name = id == kUndoCommand ? edits_->UndoName() : edits_->RedoName();
+    for (const CommandId id : {CommandId::Undo, CommandId::Redo}) {
+        const auto name = id == CommandId::Undo ? edits_->UndoName() : edits_->RedoName();
         const Text caption(FindCommand(id)->caption);
         bars_->ShowEntry(id, name ? caption + " " + ReplaceAll(*name, "&", "&&") : caption,
                          name.has_value());
@@ -138,22 +138,18 @@ void MainForm::ShowEdits()
 
 void MainForm::ConnectFileList()
 {
-    constexpr int kFileInfo = 119;
-    constexpr int kCopy = 136;
-    constexpr int kPaste = 137;
-    constexpr int kSort = 115;
-    constexpr int kAddFiles = 205;
     FileListView& list = files_->List();
-    list.onDoubleClick = [this] { RunCommand(kFileInfo); };
-    list.onCopy = [this] { RunCommand(kCopy); };
-    list.onPaste = [this] { RunCommand(kPaste); };
+    list.onDoubleClick = [this] { RunCommand(CommandId::FileInfo); };
+    list.onCopy = [this] { RunCommand(CommandId::Copy); };
+    list.onPaste = [this] { RunCommand(CommandId::Paste); };
     list.onPopup = [this](QPoint place) { ShowPopupFileList(*this, place); };
     list.onSelection = [this] { ShowSelection(); };
     list.onColumnClick = [this](const Text& header) {
-        RunGuarded([&] { ClickColumn(session_, *this, header); }, EditName(kSort));
+        RunGuarded([&] { ClickColumn(session_, *this, header); }, EditName(CommandId::SortList));
     };
     files_->onDrop = [this](const std::vector<Text>& paths, const std::vector<Text>& refused) {
-        RunGuarded([&] { AddDropped(session_, *this, paths, refused); }, EditName(kAddFiles));
+        RunGuarded([&] { AddDropped(session_, *this, paths, refused); },
+                   EditName(CommandId::AddFiles));
     };
 }
 
@@ -252,7 +248,7 @@ void MainForm::ShowSelection()
     }
 }
 
-void MainForm::RunCommand(int id)
+void MainForm::RunCommand(CommandId id)
 {
     if (const Action action = FindAction(id))
         Run(action, EditName(id));

@@ -53,7 +53,7 @@ public:
     Page& SelectedPage() { return PageOf(SelectedTab()); }
 
     /// Runs the command with this id; one without an action does nothing.
-    void RunCommand(int id);
+    void RunCommand(CommandId id);
     /// What the action changes can be undone as a step of this name; without a name as a part of
     /// the step before it.
     void Run(Action action, const Text& editName);

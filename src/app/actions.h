@@ -1,6 +1,8 @@
 // What each command does, by its id. A command without a row here is shown disabled.
 #pragma once
 
+#include "shell/command_ids.h"
+
 namespace quillon {
 
 class MainForm;
@@ -8,6 +10,6 @@ class MainForm;
 using Action = void (*)(MainForm&);
 
 /// Null where the id has no action.
-Action FindAction(int id);
+Action FindAction(CommandId id);
 
 } // namespace quillon

@@ -48,11 +48,11 @@ void CommandBars::MakeMenus()
 
 QAction* CommandBars::MakeAction(const Command& command)
 {
-    const int id = command.id;
+    const CommandId id = command.id;
     // What has no place in a menu is read aloud, and shown where the bar is too narrow, by its tip.
     const std::string_view caption = command.caption.empty() ? command.tooltip : command.caption;
     auto* action = new QAction(ToQt(caption), &window_);
-    action->setObjectName(QString("cmd%1").arg(id));
+    action->setObjectName(QString("cmd%1").arg(static_cast<int>(id)));
     action->setToolTip(ToQt(command.tooltip));
     action->setIcon(CommandIcon(id));
     action->setIconVisibleInMenu(true);
@@ -70,8 +70,8 @@ QAction* CommandBars::MakeAction(const Command& command)
 void CommandBars::ShowToolbar(Tab tab)
 {
     toolbar_->clear();
-    for (const int id : ToolbarIds(tab))
-        if (id == 0)
+    for (const CommandId id : ToolbarIds(tab))
+        if (id == CommandId::None)
             toolbar_->addSeparator();
         else
             toolbar_->addAction(ActionOf(id));
@@ -81,7 +81,7 @@ void CommandBars::ShowRecentFiles(const std::array<Text, kRecentFileCount>& file
 {
     for (int slot = 0; slot < kRecentFileCount; ++slot) {
         const Text& file = files[static_cast<std::size_t>(slot)];
-        QAction* action = ActionOf(kFirstRecentFile + slot);
+        QAction* action = ActionOf(kRecentFiles[static_cast<std::size_t>(slot)]);
         // The mark of a free slot stands alone, so that the list of a new machine is not empty.
         action->setVisible(!file.empty() || slot == 0);
         const Text name = file.empty() ? Text(kFreeSlot) : ProjectTitle(file);
@@ -92,11 +92,13 @@ void CommandBars::ShowRecentFiles(const std::array<Text, kRecentFileCount>& file
 
 void CommandBars::ShowTabEntry(Tab tab, bool visible)
 {
-    constexpr int kFirstTabCommand = 147;
-    ActionOf(kFirstTabCommand + static_cast<int>(tab))->setVisible(visible);
+    constexpr std::array kTabs = {CommandId::FilesTab,    CommandId::DesignTab,
+                                  CommandId::DialogsTab,  CommandId::RegistryTab,
+                                  CommandId::IniFilesTab, CommandId::ComponentsTab};
+    ActionOf(kTabs[static_cast<std::size_t>(tab)])->setVisible(visible);
 }
 
-void CommandBars::ShowEntry(int id, const Text& caption, bool canRun)
+void CommandBars::ShowEntry(CommandId id, const Text& caption, bool canRun)
 {
     QAction* action = ActionOf(id);
     action->setText(ToQt(caption));
@@ -110,7 +112,7 @@ void CommandBars::GiveListKeys(QWidget& list)
             list.addAction(ActionOf(row.command.id));
 }
 
-QAction* CommandBars::ActionOf(int id) const
+QAction* CommandBars::ActionOf(CommandId id) const
 {
     const auto found = actions_.find(id);
     return found == actions_.end() ? nullptr : found->second;

@@ -17,8 +17,8 @@ namespace quillon {
 
 class CommandBars {
 public:
-    using Run = std::function<void(int id)>;
-    using CanRun = std::function<bool(int id)>;
+    using Run = std::function<void(CommandId id)>;
+    using CanRun = std::function<bool(CommandId id)>;
 
     /// Ids that `canRun` denies are shown disabled.
     CommandBars(QMainWindow& window, Run run, CanRun canRun);
@@ -29,12 +29,12 @@ public:
     void ShowTabEntry(Tab tab, bool visible);
 
     /// What the entry says while it stands for something that changes; a disabled one has nothing.
-    void ShowEntry(int id, const Text& caption, bool canRun);
+    void ShowEntry(CommandId id, const Text& caption, bool canRun);
 
     /// From now on the keys that work in the file list do so in this widget.
     void GiveListKeys(QWidget& list);
 
-    QAction* ActionOf(int id) const;
+    QAction* ActionOf(CommandId id) const;
 
 private:
     void MakeMenus();
@@ -43,7 +43,7 @@ private:
     QMainWindow& window_;
     Run run_;
     CanRun canRun_;
-    std::map<int, QAction*> actions_;
+    std::map<CommandId, QAction*> actions_;
     QToolBar* toolbar_ = nullptr;
 };
 

@@ -10,25 +10,27 @@ namespace {
 
 // They open, save or close the project, go from one state of it to another, or only look at it.
 // Saving may fill a field in, which belongs to what was done before.
-constexpr int kNoSteps[] = {101, 102, 103, 104, 105, 112, kUndoCommand, kRedoCommand, 136, 217};
+constexpr CommandId kNoSteps[] = {CommandId::NewProject,     CommandId::OpenProject,
+                                  CommandId::SaveProject,    CommandId::SaveProjectAs,
+                                  CommandId::ProjectManager, CommandId::Exit,
+                                  CommandId::Undo,           CommandId::Redo,
+                                  CommandId::Copy,           CommandId::FindInList};
 
-constexpr int kCreate = 108;
-
-bool MakesNoStep(int id)
+bool MakesNoStep(CommandId id)
 {
-    return (id >= kFirstRecentFile && id < kFirstRecentFile + kRecentFileCount) ||
+    return std::ranges::find(kRecentFiles, id) != kRecentFiles.end() ||
            std::ranges::find(kNoSteps, id) != std::end(kNoSteps);
 }
 
 } // namespace
 
-Text EditName(int id)
+Text EditName(CommandId id)
 {
     const Command* command = FindCommand(id);
     if (!command || MakesNoStep(id))
         return {};
     // The package that was made stays; what goes back is the choice of medium and folder.
-    if (id == kCreate)
+    if (id == CommandId::Create)
         return "Val av målmedium";
     return EditName(command->caption.empty() ? command->tooltip : command->caption);
 }

@@ -19,7 +19,7 @@ namespace {
 // that has neither yet is shown disabled.
 struct PopupEntry {
     const char* name; // null is a line between groups
-    int id = 0;
+    CommandId id = CommandId::None;
     const char* caption = nullptr;
     Action action = nullptr;
 };
@@ -43,23 +43,23 @@ void ShowDocument(MainForm& form)
 
 // clang-format off
 constexpr PopupEntry kEntries[] = {
-    {"mPopupCopyOptions", 117},
-    {"mPopupIcon",        116},
-    {kComponentNumber,    0, "Flytta till k&omponent...", ChangeComponentNumber},
+    {"mPopupCopyOptions", CommandId::CopyOptions},
+    {"mPopupIcon",        CommandId::Icon},
+    {kComponentNumber,    CommandId::None, "Flytta till k&omponent...", ChangeComponentNumber},
     {nullptr},
-    {"mPopupDestDir",     120},
-    {"mPopupSrcFile",     0, "Ändra käl&lfil...", ChangeSource},
+    {"mPopupDestDir",     CommandId::ChangeDestination},
+    {"mPopupSrcFile",     CommandId::None, "Ändra käl&lfil...", ChangeSource},
     {nullptr},
-    {"mPopupDeleteFiles", 114},
+    {"mPopupDeleteFiles", CommandId::DeleteRows},
     {nullptr},
-    {"mPopupShowDoc",     0, "Visa dokument &efter installation...", ShowDocument},
-    {"mPopupFileInfo",    119},
+    {"mPopupShowDoc",     CommandId::None, "Visa dokument &efter installation...", ShowDocument},
+    {"mPopupFileInfo",    CommandId::FileInfo},
 };
 // clang-format on
 
 Action ActionOf(const PopupEntry& entry)
 {
-    return entry.id != 0 ? FindAction(entry.id) : entry.action;
+    return entry.id != CommandId::None ? FindAction(entry.id) : entry.action;
 }
 
 QString CaptionOf(const PopupEntry& entry)
@@ -73,13 +73,14 @@ void AddEntry(const PopupEntry& entry, MainForm& form, QMenu& menu)
     const Action action = ActionOf(entry);
     QAction* shown = menu.addAction(CaptionOf(entry));
     shown->setObjectName(entry.name);
-    if (entry.id != 0)
+    if (entry.id != CommandId::None)
         shown->setIcon(CommandIcon(entry.id));
     shown->setEnabled(action != nullptr);
     shown->setVisible(entry.name != kComponentNumber ||
                       IsAnyComponentInUse(form.GetSession().project));
     QObject::connect(shown, &QAction::triggered, &form, [&form, entry, action] {
-        form.Run(action, entry.id != 0 ? EditName(entry.id) : EditName(entry.caption));
+        form.Run(action,
+                 entry.id != CommandId::None ? EditName(entry.id) : EditName(entry.caption));
     });
 }
 

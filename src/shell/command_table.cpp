@@ -6,135 +6,153 @@ namespace quillon {
 
 namespace {
 
+using enum CommandId;
 using enum MenuPart;
 
 // clang-format off
 constexpr MenuRow kMenuBar[] = {
-    {Menu, {0, "&Arkiv"}},
-    {Entry, {101, "&Nytt projekt", "Nytt projekt", "Ctrl+N"}},
-    {Entry, {102, "&Öppna projekt...", "Öppna projekt", "Ctrl+O"}},
-    {Entry, {103, "&Spara projekt", "Spara projekt", "Ctrl+S"}},
-    {Entry, {104, "Spara projekt so&m...", "", "Ctrl+Shift+S"}},
-    {Entry, {105, "&Projekthanterare..."}},
+    {Menu, {None, "&Arkiv"}},
+    {Entry, {NewProject, "&Nytt projekt", "Nytt projekt", "new", "Ctrl+N"}},
+    {Entry, {OpenProject, "&Öppna projekt...", "Öppna projekt", "open", "Ctrl+O"}},
+    {Entry, {SaveProject, "&Spara projekt", "Spara projekt", "save", "Ctrl+S"}},
+    {Entry, {SaveProjectAs, "Spara projekt so&m...", "", "save-as", "Ctrl+Shift+S"}},
+    {Entry, {ProjectManager, "&Projekthanterare...", "", "project-manager"}},
     {Line},
-    {Submenu, {106, "&Importera Visual Basic projekt"}},
-    {Entry, {201, "Visual Basic &5.0 projekt..."}},
-    {Entry, {202, "&Visual Basic &6.0 projekt..."}},
-    {Entry, {203, "Visual Basic .&NET projekt..."}},
-    {Entry, {214, "Importera &programkatalog..."}},
+    {Submenu, {ImportProject, "&Importera Visual Basic projekt"}},
+    {Entry, {ImportVB5, "Visual Basic &5.0 projekt...", "", "import-project"}},
+    {Entry, {ImportVB6, "&Visual Basic &6.0 projekt...", "", "import-project"}},
+    {Entry, {ImportVBNet, "Visual Basic .&NET projekt...", "", "import-project"}},
+    {Entry, {ImportFolder, "Importera &programkatalog...", "", "import-folder"}},
     {SubmenuEnd},
-    {Entry, {107, "Imp&ortera INI-fil..."}},
+    {Entry, {ImportIniFile, "Imp&ortera INI-fil...", "", "import-ini"}},
     {Line},
-    {Entry, {108, "S&kapa...", "Skapa", "F7"}},
-    {Entry, {109, "&Testa...", "Testa", "Ctrl+T"}},
-    {Entry, {110, "Skriv &ut...", "", "Ctrl+P"}},
+    {Entry, {Create, "S&kapa...", "Skapa", "create", "F7"}},
+    {Entry, {Test, "&Testa...", "Testa", "test", "Ctrl+T"}},
+    {Entry, {Print, "Skriv &ut...", "", "print", "Ctrl+P"}},
     {Line},
-    {Submenu, {0, "Tidigare p&rojekt"}},
-    {Entry, {291, kFreeSlot}},
-    {Entry, {292, kFreeSlot}},
-    {Entry, {293, kFreeSlot}},
-    {Entry, {294, kFreeSlot}},
-    {SubmenuEnd},
-    {Line},
-    {Entry, {112, "&Avsluta", "", "Ctrl+Q"}},
-
-    {Menu, {0, "&Lista"}},
-    {Submenu, {213, "&Addera"}},
-    {Entry, {205, "&Addera filer...", "Addera filer", "Ctrl+Shift+A"}},
-    {Entry, {206, "Addera &träd...", "Addera träd", "Ctrl+Shift+T"}},
-    {Entry, {207, "Addera tom katalo&g...", "Addera tom katalog", "Ctrl+Shift+K"}},
-    {Entry, {208, "Addera filer via DEP-fi&l..."}},
-    {SubmenuEnd},
-    {Entry, {113, "&Jämför fillista med Package && Deployment LST-fil"}},
-    {Line},
-    {Entry, {114, "Ta &bort...", "Radera markerade objekt", "Del", KeysWork::InFileList}},
-    {Entry, {115, "&Sortera...", "Sortera fillista"}},
-    {Line},
-    {Entry, {116, "&Ikon...", "Ikoninställningar"}},
-    {Entry, {117, "&Kopieringsinställningar...", "Kopieringsinställningar"}},
-    {Entry, {118, "Registrera &teckensnitt..."}},
-    {Entry, {119, "Visa &filinformation...", "Visa filinformation", "Alt+Return", KeysWork::InFileList}},
-    {Line},
-    {Entry, {120, "Ändra &destinationskatalog...", "Ändra destinationskatalog"}},
-    {Entry, {121, "&Visa alla destinationskataloger...", "Visa alla destinationskataloger"}},
-    {Submenu, {0, "S&ök och ersätt"}},
-    {Entry, {209, "Sök och ersätt &destinationskataloger..."}},
-    {Entry, {210, "Sök och ersätt &källkataloger..."}},
-    {Entry, {211, "Sök och ersätt k&opieringsinställningar..."}},
+    {Submenu, {None, "Tidigare p&rojekt"}},
+    {Entry, {RecentFile1, kFreeSlot, "", "recent"}},
+    {Entry, {RecentFile2, kFreeSlot, "", "recent"}},
+    {Entry, {RecentFile3, kFreeSlot, "", "recent"}},
+    {Entry, {RecentFile4, kFreeSlot, "", "recent"}},
     {SubmenuEnd},
     {Line},
-    {Entry, {122, "&Registrera filer..."}},
-    {Entry, {123, "&Programgrupp / meny..."}},
-    {Line},
-    {Entry, {124, "&Uppdatera lista", "Uppdatera fillista", "F5"}},
+    {Entry, {Exit, "&Avsluta", "", "exit", "Ctrl+Q"}},
 
-    {Menu, {0, "&Objekt"}},
-    {Entry, {125, "B&akgrund...", "Bakgrund"}},
-    {Entry, {126, "&Titel...", "Titel"}},
-    {Entry, {127, "&Understrykning av titel...", "Understrykning av titel"}},
-    {Entry, {128, "Te&xtruta...", "Textruta"}},
-    {Entry, {129, "&RTF-ruta...", "RTF-ruta"}},
-    {Entry, {130, "&Bilder...", "Bilder"}},
-    {Entry, {131, "&Växlingsbara bilder...", "Växlingsbara bilder"}},
-    {Entry, {132, "&Logotype...", "Logotype"}},
-    {Entry, {133, "&Procentmätare..."}},
-    {Entry, {134, "Lju&d..."}},
+    {Menu, {None, "&Lista"}},
+    {Submenu, {Add, "&Addera"}},
+    {Entry, {AddFiles, "&Addera filer...", "Addera filer", "add-files", "Ctrl+Shift+A"}},
+    {Entry, {AddTree, "Addera &träd...", "Addera träd", "add-tree", "Ctrl+Shift+T"}},
+    {Entry, {AddEmptyFolder, "Addera tom katalo&g...", "Addera tom katalog", "add-folder", "Ctrl+Shift+K"}},
+    {Entry, {AddDepFile, "Addera filer via DEP-fi&l...", "", "add-dependencies"}},
+    {SubmenuEnd},
+    {Entry, {CompareLstFile, "&Jämför fillista med Package && Deployment LST-fil", "", "compare"}},
     {Line},
-    {Entry, {135, "&Översikt..."}},
+    {Entry, {DeleteRows, "Ta &bort...", "Radera markerade objekt", "remove", "Del", KeysWork::InFileList}},
+    {Entry, {SortList, "&Sortera...", "Sortera fillista", "sort"}},
+    {Line},
+    {Entry, {Icon, "&Ikon...", "Ikoninställningar", "icon"}},
+    {Entry, {CopyOptions, "&Kopieringsinställningar...", "Kopieringsinställningar", "copy-options"}},
+    {Entry, {RegisterFont, "Registrera &teckensnitt...", "", "register-font"}},
+    {Entry, {FileInfo, "Visa &filinformation...", "Visa filinformation", "file-info", "Alt+Return", KeysWork::InFileList}},
+    {Line},
+    {Entry, {ChangeDestination, "Ändra &destinationskatalog...", "Ändra destinationskatalog", "destination"}},
+    {Entry, {ShowDestinations, "&Visa alla destinationskataloger...", "Visa alla destinationskataloger", "destinations"}},
+    {Submenu, {None, "S&ök och ersätt"}},
+    {Entry, {ReplaceDestinations, "Sök och ersätt &destinationskataloger...", "", "replace-destinations"}},
+    {Entry, {ReplaceSources, "Sök och ersätt &källkataloger...", "", "replace-sources"}},
+    {Entry, {ReplaceOptions, "Sök och ersätt k&opieringsinställningar...", "", "replace-options"}},
+    {SubmenuEnd},
+    {Line},
+    {Entry, {RegisterFiles, "&Registrera filer...", "", "register-files"}},
+    {Entry, {ProgramGroup, "&Programgrupp / meny...", "", "program-group"}},
+    {Line},
+    {Entry, {UpdateFileList, "&Uppdatera lista", "Uppdatera fillista", "refresh", "F5"}},
 
-    {Menu, {0, "&Redigera"}},
-    {Entry, {kUndoCommand, "&Ångra", "Ångra", "Ctrl+Z"}},
-    {Entry, {kRedoCommand, "&Gör om", "Gör om", "Ctrl+Y"}},
+    {Menu, {None, "&Objekt"}},
+    {Entry, {Background, "B&akgrund...", "Bakgrund", "background"}},
+    {Entry, {Title, "&Titel...", "Titel", "title"}},
+    {Entry, {Underline, "&Understrykning av titel...", "Understrykning av titel", "underline"}},
+    {Entry, {TextBox, "Te&xtruta...", "Textruta", "text-box"}},
+    {Entry, {RtfBox, "&RTF-ruta...", "RTF-ruta", "rtf-box"}},
+    {Entry, {Pictures, "&Bilder...", "Bilder", "pictures"}},
+    {Entry, {ChangingPictures, "&Växlingsbara bilder...", "Växlingsbara bilder", "slides"}},
+    {Entry, {Logotype, "&Logotype...", "Logotype", "logotype"}},
+    {Entry, {PercentGauge, "&Procentmätare...", "", "percent"}},
+    {Entry, {Sound, "Lju&d...", "", "sound"}},
     {Line},
-    {Entry, {136, "K&opiera", "Kopiera", "Ctrl+C", KeysWork::InEditors}},
-    {Entry, {137, "K&listra in", "Klistra in", "Ctrl+V", KeysWork::InEditors}},
-    {Line},
-    {Entry, {217, "&Sök i fillistan...", "Sök i fillistan", "Ctrl+F"}},
+    {Entry, {Overview, "&Översikt...", "", "overview"}},
 
-    {Menu, {0, "&Special"}},
-    {Entry, {138, "&Inställningar..."}},
-    {Entry, {139, "&Språk..."}},
+    {Menu, {None, "&Redigera"}},
+    {Entry, {Undo, "&Ångra", "Ångra", "undo", "Ctrl+Z"}},
+    {Entry, {Redo, "&Gör om", "Gör om", "redo", "Ctrl+Y"}},
     {Line},
-    {Entry, {140, "&Kör program efter installation..."}},
-    {Entry, {141, "Visa &dokument efter installation..."}},
-    {Entry, {142, "K&ör skript..."}},
-    {Entry, {143, "A&utoexec.bat && Config.sys..."}},
+    {Entry, {Copy, "K&opiera", "Kopiera", "copy", "Ctrl+C", KeysWork::InEditors}},
+    {Entry, {Paste, "K&listra in", "Klistra in", "paste", "Ctrl+V", KeysWork::InEditors}},
     {Line},
-    {Entry, {144, "Va&riabler..."}},
-    {Entry, {145, "&Versionsinformation..."}},
-    {Line},
-    {Entry, {146, "&Alternativ..."}},
+    {Entry, {FindInList, "&Sök i fillistan...", "Sök i fillistan", "find", "Ctrl+F"}},
 
-    {Menu, {0, "&Fönster"}},
-    {Entry, {147, "&Fillista", "", "Ctrl+1"}},
-    {Entry, {148, "&Design", "", "Ctrl+2"}},
-    {Entry, {149, "Di&alogrutor", "", "Ctrl+3"}},
-    {Entry, {150, "&Registry", "", "Ctrl+4"}},
-    {Entry, {151, "&INI-filer", "", "Ctrl+5"}},
-    {Entry, {152, "&Komponenter", "", "Ctrl+6"}},
+    {Menu, {None, "&Special"}},
+    {Entry, {InstallOptions, "&Inställningar...", "", "install-options"}},
+    {Entry, {Language, "&Språk...", "", "language"}},
+    {Line},
+    {Entry, {RunAppAfter, "&Kör program efter installation...", "", "run-after"}},
+    {Entry, {ShowDocAfter, "Visa &dokument efter installation...", "", "document-after"}},
+    {Entry, {RunScript, "K&ör skript...", "", "script"}},
+    {Entry, {AutoexecConfig, "A&utoexec.bat && Config.sys...", "", "startup-files"}},
+    {Line},
+    {Entry, {Variables, "Va&riabler...", "", "variables"}},
+    {Entry, {VersionInfo, "&Versionsinformation...", "", "version"}},
+    {Line},
+    {Entry, {EditorOptions, "&Alternativ...", "", "options"}},
 
-    {Menu, {0, "&Hjälp"}},
-    {Entry, {153, "&Innehåll", "", "F1"}},
-    {Entry, {154, "&Sök..."}},
-    {Entry, {155, "&Hur du använder hjälpen"}},
+    {Menu, {None, "&Fönster"}},
+    {Entry, {FilesTab, "&Fillista", "", "tab-files", "Ctrl+1"}},
+    {Entry, {DesignTab, "&Design", "", "tab-design", "Ctrl+2"}},
+    {Entry, {DialogsTab, "Di&alogrutor", "", "tab-dialogs", "Ctrl+3"}},
+    {Entry, {RegistryTab, "&Registry", "", "tab-registry", "Ctrl+4"}},
+    {Entry, {IniFilesTab, "&INI-filer", "", "tab-ini", "Ctrl+5"}},
+    {Entry, {ComponentsTab, "&Komponenter", "", "tab-components", "Ctrl+6"}},
+
+    {Menu, {None, "&Hjälp"}},
+    {Entry, {HelpContents, "&Innehåll", "", "contents", "F1"}},
+    {Entry, {HelpSearch, "&Sök...", "", "find"}},
+    {Entry, {HelpOnHelp, "&Hur du använder hjälpen", "", "help"}},
     {Line},
-    {Entry, {156, "S&upport"}},
-    {Entry, {157, "&Felrapportguide..."}},
+    {Entry, {Support, "S&upport", "", "support"}},
+    {Entry, {BugReport, "&Felrapportguide...", "", "bug"}},
     {Line},
-    {Entry, {158, "&Om Tavrell Quillon 2004..."}},
+    {Entry, {About, "&Om Tavrell Quillon 2004...", "", "about"}},
 };
 
 constexpr Command kToolbarOnly[] = {
-    {301, "", "Förhandsgranska installationsskärm"},
-    {302, "", "Hjälp"},
+    {PreviewScreen, "", "Förhandsgranska installationsskärm", "preview"},
+    {Help, "", "Hjälp", "help"},
 };
 
-constexpr int kFilesBar[] = {101, 102, 103, 0, 108, 109, 0, 205, 206, 207, 114, 0, 116, 117, 119, 0,
-                             120, 121, 0, 115, 124, 0, 302};
-constexpr int kDesignBar[] = {101, 102, 103, 0, 108, 109, 0, 125, 126, 127, 128, 129, 130, 131, 132, 0,
-                              301, 0, 302};
-constexpr int kPlainBar[] = {101, 102, 103, 0, 108, 109, 0, 302};
-constexpr int kTextBar[] = {101, 102, 103, 0, 108, 109, 0, 136, 137, 0, 302};
+constexpr CommandId kFilesBar[] = {
+    NewProject, OpenProject, SaveProject, None,
+    Create, Test, None,
+    AddFiles, AddTree, AddEmptyFolder, DeleteRows, None,
+    Icon, CopyOptions, FileInfo, None,
+    ChangeDestination, ShowDestinations, None,
+    SortList, UpdateFileList, None,
+    Help};
+constexpr CommandId kDesignBar[] = {
+    NewProject, OpenProject, SaveProject, None,
+    Create, Test, None,
+    Background, Title, Underline, TextBox, RtfBox, Pictures, ChangingPictures, Logotype, None,
+    PreviewScreen, None,
+    Help};
+constexpr CommandId kPlainBar[] = {
+    NewProject, OpenProject, SaveProject, None,
+    Create, Test, None,
+    Help};
+constexpr CommandId kTextBar[] = {
+    NewProject, OpenProject, SaveProject, None,
+    Create, Test, None,
+    Copy, Paste, None,
+    Help};
 // clang-format on
 
 } // namespace
@@ -144,7 +162,7 @@ std::span<const MenuRow> MenuBarRows()
     return kMenuBar;
 }
 
-std::span<const int> ToolbarIds(Tab tab)
+std::span<const CommandId> ToolbarIds(Tab tab)
 {
     switch (tab) {
     case Tab::Files:
@@ -164,9 +182,9 @@ std::span<const Command> ToolbarOnlyCommands()
     return kToolbarOnly;
 }
 
-const Command* FindCommand(int id)
+const Command* FindCommand(CommandId id)
 {
-    if (id < kFirstCommand || id > kLastCommand)
+    if (id == CommandId::None)
         return nullptr;
     const auto row = std::ranges::find_if(
         kMenuBar, [id](const MenuRow& entry) { return entry.command.id == id; });

@@ -2,6 +2,7 @@
 // appears in them. What a command does is another table, beside the window.
 #pragma once
 
+#include "shell/command_ids.h"
 #include "shell/main_window.h"
 
 #include <array>
@@ -18,20 +19,18 @@ enum class KeysWork {
 };
 
 struct Command {
-    int id;
+    CommandId id = CommandId::None;
     std::string_view caption;      // "&" stands before the access letter
     std::string_view tooltip = {}; // of the commands that have a button
+    std::string_view icon = {};    // the name of its picture
     std::string_view keys = {};    // "Ctrl+S"
     KeysWork keysWork = KeysWork::Everywhere;
 };
 
-inline constexpr int kFirstCommand = 101;
-inline constexpr int kLastCommand = 302;
-inline constexpr int kFirstRecentFile = 291;
-inline constexpr int kRecentFileCount = 4;
-// The name of the step that they would take back, or do again, stands behind their captions.
-inline constexpr int kUndoCommand = 215;
-inline constexpr int kRedoCommand = 216;
+// In the order of the list of recent projects.
+inline constexpr std::array kRecentFiles = {CommandId::RecentFile1, CommandId::RecentFile2,
+                                            CommandId::RecentFile3, CommandId::RecentFile4};
+inline constexpr int kRecentFileCount = static_cast<int>(kRecentFiles.size());
 inline constexpr std::string_view kFreeSlot = "(tom)";
 
 enum class MenuPart {
@@ -44,19 +43,19 @@ enum class MenuPart {
 
 struct MenuRow {
     MenuPart part;
-    Command command = {}; // id 0 where a title has none
+    Command command = {}; // `None` where a title has no id
 };
 
 /// The menu bar, row by row.
 std::span<const MenuRow> MenuBarRows();
 
-/// The commands that have a button on this tab; 0 separates groups.
-std::span<const int> ToolbarIds(Tab tab);
+/// The commands that have a button on this tab; `None` separates groups.
+std::span<const CommandId> ToolbarIds(Tab tab);
 
 /// The commands that stand in toolbars only.
 std::span<const Command> ToolbarOnlyCommands();
 
 /// What the table says of an id; null for one that is not in it.
-const Command* FindCommand(int id);
+const Command* FindCommand(CommandId id);
 
 } // namespace quillon

@@ -2,12 +2,14 @@
 // palette, so that they are sharp at every scale and right on light and dark.
 #pragma once
 
+#include "shell/command_ids.h"
+
 #include <QIcon>
 
 namespace quillon {
 
 /// Null for a command that has no picture.
-QIcon CommandIcon(int id);
+QIcon CommandIcon(CommandId id);
 
 /// The picture of this name: that of a tab ("tab-files", "tab-design", "tab-dialogs",
 /// "tab-registry", "tab-ini", "tab-components"), of a medium ("medium-floppy", "medium-cd",

@@ -24,7 +24,7 @@ TEST_F(MainFormTest, SelectsEachTabByItsCommand)
 {
     MainForm form(session);
     for (int tab = kTabCount - 1; tab >= 0; --tab) {
-        form.RunCommand(147 + tab);
+        form.RunCommand(CommandId(147 + tab));
         EXPECT_EQ(static_cast<int>(form.SelectedTab()), tab);
     }
 }
@@ -34,11 +34,11 @@ TEST_F(MainFormTest, ShowsTheKeysOfItsCommandsInTheMenus)
     MainForm form(session);
     for (const MenuRow& row : MenuBarRows())
         if (row.part == MenuPart::Entry) {
-            const auto& action =
-                Find<QAction>(form, ("cmd" + std::to_string(row.command.id)).c_str());
+            const auto& action = Find<QAction>(
+                form, ("cmd" + std::to_string(static_cast<int>(row.command.id))).c_str());
             EXPECT_EQ(FromQt(action.shortcut().toString(QKeySequence::PortableText)),
                       row.command.keys)
-                << row.command.id;
+                << row.command.caption;
         }
 }
 
@@ -86,7 +86,7 @@ TEST_F(MainFormTest, TellsOfUnsavedChangesInTheStatusBar)
     EXPECT_EQ(pane.text(), "Osparade ändringar");
     EXPECT_TRUE(pane.isVisible());
     session.state.ProjectFileName = "C:\\p.qnp";
-    form.RunCommand(103);
+    form.RunCommand(CommandId::SaveProject);
     waitForUser();
     EXPECT_EQ(pane.text(), "");
 }
@@ -95,7 +95,7 @@ TEST_F(MainFormTest, ClosesByItsCommand)
 {
     MainForm form(session);
     ShowActive(form);
-    form.RunCommand(112);
+    form.RunCommand(CommandId::Exit);
     EXPECT_FALSE(form.isVisible());
 }
 
@@ -168,7 +168,7 @@ TEST_F(HiddenTabs, AreReachedByNoKeyAndNoWheel)
         QApplication::sendEvent(&bar, &wheel);
     }
     EXPECT_EQ(reached, (std::set{Tab::Files, Tab::Design, Tab::Dialogs, Tab::IniFiles}));
-    form.RunCommand(150);
+    form.RunCommand(CommandId::RegistryTab);
     EXPECT_NE(form.SelectedTab(), Tab::Registry);
 }
 

@@ -438,7 +438,7 @@ TEST_F(DesignObjectsTest, CommandsOpenTheEditors)
     for (const auto& [id, title] : commands) {
         QString opened;
         OnNextDialog([&](QDialog& dialog) { opened = dialog.windowTitle(); });
-        form.RunCommand(id);
+        form.RunCommand(CommandId(id));
         EXPECT_EQ(opened, title) << id;
     }
 }

@@ -11,15 +11,16 @@ TEST(EveryCommand, HasAnAction)
 {
     for (const MenuRow& row : MenuBarRows())
         if (row.part == MenuPart::Entry)
-            EXPECT_TRUE(FindAction(row.command.id)) << row.command.id;
+            EXPECT_TRUE(FindAction(row.command.id)) << row.command.caption;
     for (const Command& command : ToolbarOnlyCommands())
-        EXPECT_TRUE(FindAction(command.id)) << command.id;
+        EXPECT_TRUE(FindAction(command.id)) << command.tooltip;
 }
 
 TEST_F(WindowTest, HasAPictureAndATipForEachCommand)
 {
     MainForm form(session);
-    const auto look = [&](int id) {
+    const auto look = [&](CommandId command) {
+        const int id = static_cast<int>(command);
         const auto* action = form.findChild<QAction*>(QString("cmd%1").arg(id));
         ASSERT_NE(action, nullptr) << id;
         EXPECT_FALSE(action->icon().isNull()) << id;
@@ -35,7 +36,7 @@ TEST_F(WindowTest, HasAPictureAndATipForEachCommand)
 TEST(EveryCommand, IsNoTitleAndNoUnknownId)
 {
     for (const int id : {0, 100, 106, 111, 159, 200, 204, 212, 213, 290, 295, 300, 303})
-        EXPECT_EQ(FindAction(id), nullptr) << id;
+        EXPECT_EQ(FindAction(CommandId(id)), nullptr) << id;
 }
 
 } // namespace

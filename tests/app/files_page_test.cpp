@@ -337,7 +337,7 @@ TEST_F(FilesPageTest, PastesRowsOfAnotherWindowWhole)
     Select({0, 1});
     QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
     const FileListRow copied = session.project.Files.rows[1];
-    form->RunCommand(101);
+    form->RunCommand(CommandId::NewProject);
     ASSERT_EQ(ShownNames().size(), 0U);
     list->setFocus();
     QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
@@ -346,7 +346,7 @@ TEST_F(FilesPageTest, PastesRowsOfAnotherWindowWhole)
     EXPECT_THAT(form->SelectedRows(), ElementsAre(0, 1));
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
     EXPECT_EQ(StatusText(), "2 objekt,   3,0 kb");
-    form->RunCommand(215);
+    form->RunCommand(CommandId::Undo);
     EXPECT_THAT(ShownNames(), IsEmpty()) << "one step back";
 }
 
@@ -354,14 +354,14 @@ TEST_F(FilesPageBoxes, PastesNoRowThatIsThere)
 {
     OpenThreeRows();
     Select({0, 1});
-    form->RunCommand(136);
+    form->RunCommand(CommandId::Copy);
     Select({2});
-    form->RunCommand(137);
+    form->RunCommand(CommandId::Paste);
     EXPECT_EQ(ShownNames().size(), 3U);
     EXPECT_THAT(form->SelectedRows(), ElementsAre(2));
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
-    form->RunCommand(136);
-    RunWith({{BoxKind::Inform, "Quillon"}}, [&] { form->RunCommand(137); });
+    form->RunCommand(CommandId::Copy);
+    RunWith({{BoxKind::Inform, "Quillon"}}, [&] { form->RunCommand(CommandId::Paste); });
     EXPECT_EQ(ShownNames().size(), 3U);
 }
 
@@ -494,7 +494,7 @@ TEST_F(FilesPageTest, AddsFilesByItsCommand)
     machine.files.Put("C:\\D\\aa.txt", "x");
     ask.choices = {{{"C:\\D\\aa.txt"}}, {{"%DESTDIR"}}};
     Select({1});
-    form->RunCommand(205);
+    form->RunCommand(CommandId::AddFiles);
     EXPECT_THAT(ShownNames(), ElementsAre("a.txt", "aa.txt", "b.txt", "c.txt"));
     EXPECT_THAT(form->SelectedRows(), ElementsAre(2)) << "the same row as before";
     EXPECT_EQ(StatusText(), "4 objekt,   4,0 kb");
@@ -505,7 +505,7 @@ TEST_F(FilesPageTest, TellsOfNoRowsWhenTheFileDialogIsCancelled)
 {
     OpenWindow({});
     ask.choices = {{}};
-    form->RunCommand(205);
+    form->RunCommand(CommandId::AddFiles);
     EXPECT_EQ(StatusText(), "0 objekt,   0,0 kb");
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
@@ -514,9 +514,9 @@ TEST_F(FilesPageTest, AddsFilesFromTheDialogWithTheLookOfTheSettings)
 {
     OpenWindow({});
     ask.choices = {{}, {}};
-    form->RunCommand(205);
+    form->RunCommand(CommandId::AddFiles);
     session.Settings.ListOptions.OldStyleAddDialogBox = kOn;
-    form->RunCommand(205);
+    form->RunCommand(CommandId::AddFiles);
     EXPECT_EQ(ask.questions[0].look, FileQuestion::Look::Details);
     EXPECT_EQ(ask.questions[1].look, FileQuestion::Look::NamesOnly);
 }
@@ -534,7 +534,7 @@ TEST_F(FilesPageTest, AddsATreeByItsCommand)
         EXPECT_EQ(Find<QLabel>(dialog, "sNumberFiles").text(), "2");
         Click(dialog, "cmdClose");
     });
-    form->RunCommand(206);
+    form->RunCommand(CommandId::AddTree);
     EXPECT_THAT(ShownNames(), ElementsAre("a.txt", "aa.txt", "b.txt", "c.txt", "prog.exe"));
     EXPECT_EQ(session.project.Files.rows[1][Destination], "%DESTDIR\\Sub");
     EXPECT_THAT(form->SelectedRows(), ElementsAre(2)) << "the same row as before";
@@ -546,7 +546,7 @@ TEST_F(FilesPageTest, AddsNoTreeWhenNoFolderIsChosen)
 {
     OpenThreeRows();
     ask.choices = {{}};
-    form->RunCommand(206);
+    form->RunCommand(CommandId::AddTree);
     EXPECT_EQ(ShownNames().size(), 3U);
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
@@ -555,7 +555,7 @@ TEST_F(FilesPageTest, AddsAnEmptyFolderByItsCommand)
 {
     OpenWindow({});
     ask.choices = {{{"%DESTDIR\\Temp"}}};
-    form->RunCommand(207);
+    form->RunCommand(CommandId::AddEmptyFolder);
     EXPECT_THAT(ShownNames(), ElementsAre("<Dir>"));
     EXPECT_EQ(StatusText(), "1 objekt,   0,0 kb");
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
@@ -569,12 +569,12 @@ TEST_F(FilesPageTest, SortsByItsCommandWithoutMarkingTheProject)
         Click(dialog, "oDate");
         Click(dialog, "cmdOK");
     });
-    form->RunCommand(115);
+    form->RunCommand(CommandId::SortList);
     EXPECT_THAT(ShownNames(), ElementsAre("b.txt", "c.txt", "a.txt"));
     EXPECT_THAT(form->SelectedRows(), ElementsAre(2));
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
     OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdCancel"); });
-    form->RunCommand(115);
+    form->RunCommand(CommandId::SortList);
     EXPECT_EQ(session.project.Files.sortKey, Date);
 }
 

@@ -22,7 +22,7 @@ TEST_F(ImporterCommands, AddADependencyFileAndKeepTheSelection)
     ShowActive(form);
     form.ShowFileList({1});
     ask.choices = {{{"C:\\Bin\\part.dep"}}, {{"C:\\Bin\\part.ocx"}}, {{"%SYSDIR"}}};
-    form.RunCommand(208);
+    form.RunCommand(CommandId::AddDepFile);
     EXPECT_THAT(NamesOf(session.project.Files), ElementsAre("a.txt", "b.dll", "c.txt"));
     EXPECT_THAT(form.SelectedRows(), ElementsAre(2U));
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
@@ -36,7 +36,7 @@ TEST_F(ImporterCommands, LeaveTheListAloneWhereTheDependencyFileIsCancelled)
     ShowActive(form);
     form.ShowFileList({0});
     ask.choices = {{{}}};
-    form.RunCommand(208);
+    form.RunCommand(CommandId::AddDepFile);
     EXPECT_THAT(form.SelectedRows(), ElementsAre(0U));
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
@@ -46,7 +46,7 @@ TEST_F(ImporterCommands, ShowTheComparisonWithASetupList)
     MainForm form(session);
     ShowActive(form);
     OnNextDialog([](QDialog& dialog) { EXPECT_EQ(dialog.objectName(), "DlgCompareLstFile"); });
-    form.RunCommand(113);
+    form.RunCommand(CommandId::CompareLstFile);
 }
 
 class ImportWindows : public ImporterCommands {
@@ -70,7 +70,7 @@ TEST_F(ImportWindows, OpenByTheirCommands)
                                                     {214, "DlgImportFolder"}};
     for (const auto& [id, name] : kWindows) {
         OnNextDialog([&](QDialog& dialog) { EXPECT_EQ(dialog.objectName(), name); });
-        form.RunCommand(id);
+        form.RunCommand(CommandId(id));
     }
 }
 
@@ -97,7 +97,7 @@ TEST_F(ImportWindows, AskForDestinationAndIconAndSelectTheProgram)
         });
         Click(import, "cmdImport");
     });
-    form.RunCommand(203);
+    form.RunCommand(CommandId::ImportVBNet);
     ASSERT_THAT(NamesOf(session.project.Files), ElementsAre("a.txt", "Kund.exe", "z.txt"));
     EXPECT_EQ(session.project.Files.rows[1][Destination], "%DESTDIR");
     EXPECT_EQ(session.project.Files.rows[1][IconDesc], "Kundregister");
@@ -113,7 +113,7 @@ TEST_F(ImportWindows, OpenTheWindowsOfOtherSettings)
         OnNextDialog([](QDialog& details) { EXPECT_EQ(details.objectName(), "DlgMDADetails"); });
         Click(import, "cmdMDADetails");
     });
-    form.RunCommand(202);
+    form.RunCommand(CommandId::ImportVB6);
     OnNextDialog([](QDialog& import) {
         OnNextDialog([](QDialog& net) {
             EXPECT_EQ(net.objectName(), "DlgTestNETFramework");
@@ -124,7 +124,7 @@ TEST_F(ImportWindows, OpenTheWindowsOfOtherSettings)
         EXPECT_EQ(Find<QLabel>(import, "labNETtestStatus").text(),
                   "Testa att .NET Framework är installerad");
     });
-    form.RunCommand(203);
+    form.RunCommand(CommandId::ImportVBNet);
     EXPECT_EQ(session.project.NET.NET_TestIfInstalled, kOn);
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
 }

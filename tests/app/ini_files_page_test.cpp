@@ -180,10 +180,10 @@ TEST_F(TextCommandsTest, ImportAnIniFileIntoTheListInView)
     machine.files.Put("C:\\Data\\min.ini", "[A]\r\nb=c\r\n");
     form.SelectTab(Tab::IniFiles);
     ask.choices = {{{"C:\\Data\\min.ini"}}, {{"C:\\Data\\min.ini"}}};
-    form.RunCommand(107);
+    form.RunCommand(CommandId::ImportIniFile);
     EXPECT_EQ(session.project.Lists.INIFiles, "-- MIN.INI --\r\n[A]\r\nb=c");
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
-    form.RunCommand(107);
+    form.RunCommand(CommandId::ImportIniFile);
     EXPECT_EQ(session.project.Lists.INIFiles,
               "-- MIN.INI --\r\n[A]\r\nb=c\r\n\r\n-- MIN.INI --\r\n[A]\r\nb=c");
     Editor("editINIList").undo();
@@ -199,7 +199,7 @@ TEST_F(TextCommandsTest, ImportEveryByteOfALine)
     machine.files.Put("C:\\Data\\skräp.ini", bytes);
     form.SelectTab(Tab::IniFiles);
     ask.choices = {{{"C:\\Data\\skräp.ini"}}};
-    form.RunCommand(107);
+    form.RunCommand(CommandId::ImportIniFile);
     EXPECT_EQ(session.project.Lists.INIFiles, "-- SKRÄP.INI --\r\n" + AnsiText::FromBytes(bytes));
 }
 
@@ -213,7 +213,7 @@ TEST_F(TextCommandsTest, ImportNothingOfAFileThatIsTooLong)
     ask.Expect({BoxKind::Critical, "Fel",
                 "Listan över INI-filer kan innehålla högst 32767 tecken! Ingenting har lagts "
                 "till."});
-    form.RunCommand(107);
+    form.RunCommand(CommandId::ImportIniFile);
     EXPECT_EQ(session.project.Lists.INIFiles, "[A]");
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
@@ -222,10 +222,10 @@ TEST_F(TextCommandsTest, ImportNothingOnCancelOrOnAnotherTab)
 {
     form.SelectTab(Tab::IniFiles);
     ask.choices = {{}};
-    form.RunCommand(107);
+    form.RunCommand(CommandId::ImportIniFile);
     for (const Tab tab : {Tab::Files, Tab::Design, Tab::Dialogs, Tab::Registry, Tab::Components}) {
         form.SelectTab(tab);
-        form.RunCommand(107);
+        form.RunCommand(CommandId::ImportIniFile);
     }
     EXPECT_EQ(ask.questions.size(), 1U);
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
@@ -244,11 +244,11 @@ TEST_F(TextCommandsTest, CopyAndPasteTheTextOfTheTab)
         form.SelectTab(row.tab);
         Editor(row.editor).setPlainText("ab\ncd");
         Editor(row.editor).selectAll();
-        form.RunCommand(136);
+        form.RunCommand(CommandId::Copy);
         EXPECT_EQ(QGuiApplication::clipboard()->text(), "ab\ncd");
         Editor(row.editor).moveCursor(QTextCursor::End);
         session.state.ProjectIsDirty = kOff;
-        form.RunCommand(137);
+        form.RunCommand(CommandId::Paste);
         EXPECT_EQ(*row.list, "ab\r\ncdab\r\ncd");
         EXPECT_EQ(session.state.ProjectIsDirty, kOn);
     }
@@ -259,8 +259,8 @@ TEST_F(TextCommandsTest, CopyAndPasteNothingOnOtherTabs)
     QGuiApplication::clipboard()->setText("klipp");
     for (const Tab tab : {Tab::Files, Tab::Design, Tab::Dialogs, Tab::Components}) {
         form.SelectTab(tab);
-        form.RunCommand(136);
-        form.RunCommand(137);
+        form.RunCommand(CommandId::Copy);
+        form.RunCommand(CommandId::Paste);
     }
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "klipp");
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);

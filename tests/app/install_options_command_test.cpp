@@ -18,14 +18,14 @@ TEST_F(InstallOptionsCommand, EditsTheOptionsOfTheProject)
         Click(dialog, "cCreateAutorunFile");
         Click(dialog, "cmdCancel");
     });
-    form.RunCommand(138);
+    form.RunCommand(CommandId::InstallOptions);
     EXPECT_EQ(session.project.InstallOptions.CreateAutorunFile, kOff);
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
     OnNextDialog([](QDialog& dialog) {
         Click(dialog, "cCreateAutorunFile");
         Click(dialog, "cmdOK");
     });
-    form.RunCommand(138);
+    form.RunCommand(CommandId::InstallOptions);
     EXPECT_EQ(session.project.InstallOptions.CreateAutorunFile, kOn);
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
 }

@@ -94,7 +94,7 @@ TEST(LifecycleByCommand, BeginsANewProjectOnTheFirstTab)
     desk.session.state.ProjectFileName = kA;
     desk.Change();
     desk.form.SelectTab(Tab::Dialogs);
-    desk.form.RunCommand(101);
+    desk.form.RunCommand(CommandId::NewProject);
     EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [noname]");
     EXPECT_EQ(desk.Name(), "");
     EXPECT_EQ(desk.form.SelectedTab(), Tab::Files);
@@ -105,7 +105,7 @@ TEST(LifecycleByCommand, OpensAProject)
 {
     Desk desk({}, {{{kA}}});
     desk.form.SelectTab(Tab::Design);
-    desk.form.RunCommand(102);
+    desk.form.RunCommand(CommandId::OpenProject);
     EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [a.qnp]");
     EXPECT_EQ(desk.Name(), kA);
     EXPECT_EQ(desk.form.SelectedTab(), Tab::Design);
@@ -116,11 +116,11 @@ TEST(LifecycleByCommand, SavesAndSavesUnderAnotherName)
 {
     Desk desk({}, {{{"C:\\P\\c.qnp"}}, {{"C:\\P\\d.qnp"}}});
     desk.Change();
-    desk.form.RunCommand(103);
+    desk.form.RunCommand(CommandId::SaveProject);
     EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [c.qnp]");
     EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
-    desk.form.RunCommand(103);
-    desk.form.RunCommand(104);
+    desk.form.RunCommand(CommandId::SaveProject);
+    desk.form.RunCommand(CommandId::SaveProjectAs);
     EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [d.qnp]");
     EXPECT_TRUE(desk.machine.files.FileExists("C:\\P\\d.qnp"));
     EXPECT_EQ(desk.Entry(291).text(), "d.qnp");
@@ -133,7 +133,7 @@ TEST(LifecycleByCommand, TellsWhyAProjectCannotBeSaved)
     desk.session.state.ProjectFileName = kA;
     desk.Change();
     desk.machine.files.FailFromWrite(1, ErrorNumber::kDiskFull);
-    desk.form.RunCommand(103);
+    desk.form.RunCommand(CommandId::SaveProject);
     EXPECT_EQ(desk.session.state.ProjectIsDirty, kOn);
 }
 
@@ -145,12 +145,12 @@ TEST(LifecycleByCommand, OpensEachRecentFileByItsOwnCommand)
         desk.Put(file);
     for (std::size_t slot = 0; slot < files.size(); ++slot) {
         desk.session.RecentFiles = files;
-        desk.form.RunCommand(291 + static_cast<int>(slot));
+        desk.form.RunCommand(CommandId(291 + static_cast<int>(slot)));
         EXPECT_EQ(desk.Name(), files[slot]);
         EXPECT_EQ(desk.session.RecentFiles[0], files[slot]);
     }
     desk.session.RecentFiles = {kA};
-    desk.form.RunCommand(293);
+    desk.form.RunCommand(CommandId::RecentFile3);
     EXPECT_EQ(desk.Name(), files[3]) << "a free slot does nothing";
 }
 
@@ -159,7 +159,7 @@ TEST(LifecycleByCommand, KeepsTheEntryOfAProjectThatVanished)
     Desk desk({{BoxKind::Critical, "Fel", "Kaj ej öppna 'C:\\P\\borta.qnp'!"}});
     desk.session.RecentFiles = {"C:\\P\\borta.qnp"};
     desk.form.ShowRecentFiles();
-    desk.form.RunCommand(291);
+    desk.form.RunCommand(CommandId::RecentFile1);
     EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [noname]");
     EXPECT_EQ(desk.Entry(291).text(), "borta.qnp");
 }
@@ -169,7 +169,7 @@ TEST(LifecycleByCommand, NamesARefusedFileInItsTitle)
 {
     Desk desk({{BoxKind::Warn, "Fel filformat"}}, {{{"C:\\P\\x.txt"}}});
     desk.machine.files.Put("C:\\P\\x.txt", "no project");
-    desk.form.RunCommand(102);
+    desk.form.RunCommand(CommandId::OpenProject);
     EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [x.txt]");
     EXPECT_EQ(desk.Entry(291).text(), "x.txt");
 }
@@ -206,7 +206,7 @@ TEST_P(CloseWindow, AsksAboutChangesAndWritesTheSettingsWhereItCloses)
     if (closing.isNamed)
         desk.session.state.ProjectFileName = kA;
     desk.Change();
-    desk.form.RunCommand(112);
+    desk.form.RunCommand(CommandId::Exit);
     EXPECT_EQ(desk.form.isVisible(), !closing.closes);
     EXPECT_EQ(desk.session.state.ProjectIsDirty != kOff,
               !closing.closes || closing.answer == Answer::No);
@@ -327,7 +327,7 @@ TEST(FirstActivation, HidesTabsAndTheirEntries)
         EXPECT_EQ(desk.Entry(147 + tab).isVisible(), isVisible) << tab;
     }
     EXPECT_EQ(desk.form.SelectedTab(), Tab::Files);
-    desk.form.RunCommand(150);
+    desk.form.RunCommand(CommandId::RegistryTab);
     EXPECT_EQ(desk.form.SelectedTab(), Tab::Files) << "a hidden tab can't be reached";
 }
 
@@ -339,7 +339,7 @@ TEST(OptionsByCommand, HideATabAtOnce)
         test::Find<QCheckBox>(form, "cHideINIFiles").setChecked(true);
         Click(form, "cmdOK");
     });
-    desk.form.RunCommand(146);
+    desk.form.RunCommand(CommandId::EditorOptions);
     EXPECT_EQ(desk.Find<QTabWidget>("MainTab").count(), 5);
     EXPECT_EQ(desk.Find<QTabWidget>("MainTab").tabText(4), "  Komponenter  ");
     EXPECT_FALSE(desk.Entry(151).isVisible());
@@ -355,7 +355,7 @@ TEST(ShellByCommand, ShowsItsDialogs)
     for (const auto& [id, name] : dialogs) {
         Text shown;
         OnNextDialog([&](QDialog& form) { shown = FromQt(form.objectName()); });
-        desk.form.RunCommand(id);
+        desk.form.RunCommand(CommandId(id));
         EXPECT_EQ(shown, name);
     }
 }
@@ -364,10 +364,10 @@ TEST(ShellByCommand, OpensTheHelpFileAndTellsOfSupport)
 {
     Desk desk({{BoxKind::Inform, "Support"}});
     for (const int id : {153, 154, 155, 302})
-        desk.form.RunCommand(id);
+        desk.form.RunCommand(CommandId(id));
     ASSERT_EQ(desk.machine.machine.started.size(), 4U);
     EXPECT_EQ(desk.machine.machine.started[3].first, "C:\\Quillon\\QN.HLP");
-    desk.form.RunCommand(156);
+    desk.form.RunCommand(CommandId::Support);
 }
 
 struct Line {

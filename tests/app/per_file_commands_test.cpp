@@ -55,7 +55,7 @@ protected:
                 dialog->reject();
             }
         });
-        form->RunCommand(id);
+        form->RunCommand(CommandId(id));
         QApplication::processEvents();
         return name;
     }
@@ -121,7 +121,7 @@ TEST_F(PerFileCommands, SetCopyOptionsOfOneRow)
         Click(dialog, "cRegisterFile");
         Click(dialog, "cmdOK");
     });
-    form->RunCommand(117);
+    form->RunCommand(CommandId::CopyOptions);
     EXPECT_EQ(CellOf(1, CopyOptions), "VRA");
     EXPECT_EQ(list->model()->index(1, CopyOptions).data().toString(), "VRA");
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
@@ -136,7 +136,7 @@ TEST_F(PerFileCommands, SetCopyOptionsOfAllSelectedRows)
         Click(dialog, "cSharedFile");
         Click(dialog, "cmdOK");
     });
-    form->RunCommand(117);
+    form->RunCommand(CommandId::CopyOptions);
     EXPECT_EQ(CellOf(0, CopyOptions), "S");
     EXPECT_EQ(CellOf(1, CopyOptions), "S");
     EXPECT_EQ(CellOf(2, CopyOptions), "");
@@ -155,7 +155,7 @@ TEST_F(PerFileCommands, KeepTheOrderOfTheListAndTheSelection)
         Type(dialog, "tCommandLine", "%DESTDIR\\a.exe");
         Click(dialog, "cmdOK");
     });
-    form->RunCommand(116);
+    form->RunCommand(CommandId::Icon);
     EXPECT_EQ(CellOf(0, Filename), "b.ico");
     EXPECT_EQ(CellOf(0, IconMarker), "Ikon");
     EXPECT_THAT(form->SelectedRows(), ElementsAre(0U));
@@ -172,7 +172,7 @@ TEST_F(PerFileCommands, RegisterAFont)
         Click(dialog, "cSharedFile");
         Click(dialog, "cmdOK");
     });
-    form->RunCommand(117);
+    form->RunCommand(CommandId::CopyOptions);
     EXPECT_EQ(CellOf(1, CopyOptions), "S");
     session.state.ProjectIsDirty = kOff;
     form->ShowFileList({3});
@@ -181,7 +181,7 @@ TEST_F(PerFileCommands, RegisterAFont)
         Type(dialog, "tFontDesc", "Blad");
         Click(dialog, "cmdOK");
     });
-    form->RunCommand(118);
+    form->RunCommand(CommandId::RegisterFont);
     EXPECT_EQ(CellOf(3, CopyOptions), "DWFN") << "its other options are lost";
     EXPECT_EQ(CellOf(3, IconDesc), "Blad");
     EXPECT_EQ(list->model()->index(3, CopyOptions).data().toString(), "DWFN");

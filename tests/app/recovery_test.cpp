@@ -58,7 +58,7 @@ TEST_F(RecoveryKeeperTest, WritesWhatIsChangedWhenItsTimeIsUpAndRemovesItWhenItI
     WaitForUser();
     WaitForUser();
     EXPECT_TRUE(HasCopy());
-    form.RunCommand(103);
+    form.RunCommand(CommandId::SaveProject);
     WaitForUser();
     EXPECT_FALSE(HasCopy());
 }

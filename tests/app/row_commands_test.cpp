@@ -17,8 +17,8 @@ using testing::ElementsAre;
 constexpr int kReplaceDestinations = 209;
 constexpr int kReplaceSources = 210;
 constexpr int kReplaceOptions = 211;
-constexpr int kChangeDestination = 120;
-constexpr int kShowDestinations = 121;
+constexpr CommandId kChangeDestination = CommandId::ChangeDestination;
+constexpr CommandId kShowDestinations = CommandId::ShowDestinations;
 
 FileListRow RowWith(const Text& name, const Text& destination, const Text& options)
 {
@@ -71,7 +71,7 @@ protected:
                 Click(dialog, "cPartOfText");
             Click(dialog, "cmdOK");
         });
-        form->RunCommand(command);
+        form->RunCommand(CommandId(command));
     }
 
     std::unique_ptr<MainForm> form;
@@ -84,7 +84,7 @@ TEST_F(RowCommands, FindAndReplaceOnlyInAListWithRows)
         ask.Expect({BoxKind::Inform, "Info",
                     "Det finns inga filer i fillistan. Innan du kan använda detta kommando måste "
                     "du ha lagt in filer i fillistan."});
-        form->RunCommand(id);
+        form->RunCommand(CommandId(id));
     }
     EXPECT_EQ(ask.shown.size(), 3U);
 }
@@ -97,10 +97,10 @@ TEST_F(RowCommands, ProposeTheTextOfTheFirstSelectedRow)
     for (const auto& [id, text] : proposals) {
         form->ShowFileList({2, 3});
         OnNextDialog([&](QDialog& dialog) { EXPECT_EQ(TextIn(dialog, "tFindThis"), text); });
-        form->RunCommand(id);
+        form->RunCommand(CommandId(id));
         form->ShowFileList({});
         OnNextDialog([](QDialog& dialog) { EXPECT_EQ(TextIn(dialog, "tFindThis"), ""); });
-        form->RunCommand(id);
+        form->RunCommand(CommandId(id));
     }
     EXPECT_EQ(session.state.ProjectIsDirty, kOff) << "each was cancelled";
 }

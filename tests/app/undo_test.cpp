@@ -15,10 +15,10 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int kSave = 103;
-constexpr int kDelete = 114;
+constexpr CommandId kSave = CommandId::SaveProject;
+constexpr CommandId kDelete = CommandId::DeleteRows;
 constexpr int kSort = 115;
-constexpr int kVersion = 145;
+constexpr CommandId kVersion = CommandId::VersionInfo;
 
 class Undo : public WindowTest {
 protected:
@@ -53,10 +53,10 @@ protected:
         QTest::keyClick(form->focusWidget(), static_cast<Qt::Key>(key), Qt::ControlModifier);
         Idle();
     }
-    Text Caption(int id)
+    Text Caption(CommandId id)
     {
         Idle();
-        auto& action = *form->findChild<QAction*>(QString("cmd%1").arg(id));
+        auto& action = *form->findChild<QAction*>(QString("cmd%1").arg(static_cast<int>(id)));
         return (action.isEnabled() ? "" : "-") + FromQt(action.text());
     }
     void DeleteRow(std::size_t row)
@@ -75,8 +75,8 @@ protected:
 TEST_F(Undo, IsNotThereBeforeAnythingIsDone)
 {
     OpenWindow();
-    EXPECT_EQ(Caption(kUndoCommand), "-&Ångra");
-    EXPECT_EQ(Caption(kRedoCommand), "-&Gör om");
+    EXPECT_EQ(Caption(CommandId::Undo), "-&Ångra");
+    EXPECT_EQ(Caption(CommandId::Redo), "-&Gör om");
     Press(Qt::Key_Z);
     EXPECT_EQ(Names().size(), 3U);
 }
@@ -86,7 +86,7 @@ TEST_F(Undo, BringsDeletedRowsBackAndSelectsThem)
     OpenWindowWith(kDeleteOne);
     DeleteRow(1);
     EXPECT_THAT(Names(), ElementsAre("a.txt", "c.txt"));
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Ta bort");
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Ta bort");
     list->setFocus();
     Press(Qt::Key_Z);
     EXPECT_THAT(Names(), ElementsAre("a.txt", "b.txt", "c.txt"));
@@ -94,7 +94,7 @@ TEST_F(Undo, BringsDeletedRowsBackAndSelectsThem)
     EXPECT_THAT(form->SelectedRows(), ElementsAre(1));
     EXPECT_EQ(Find<QLabel>(*form, "MainStatusBarPane1").text(), "3 objekt,   0,0 kb");
     EXPECT_EQ(IsDirty(), kOff) << "the project is as it was opened";
-    EXPECT_EQ(Caption(kRedoCommand), "&Gör om Ta bort");
+    EXPECT_EQ(Caption(CommandId::Redo), "&Gör om Ta bort");
     Press(Qt::Key_Y);
     EXPECT_THAT(Names(), ElementsAre("a.txt", "c.txt"));
     EXPECT_EQ(IsDirty(), kOn);
@@ -115,7 +115,7 @@ TEST_F(Undo, TakesBackWhatAClickOnAColumnSorted)
     OpenWindow({MakeRow("a", "z"), MakeRow("b", "y")});
     list->onColumnClick("Destination");
     EXPECT_THAT(Names(), ElementsAre("b", "a"));
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Sortera");
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Sortera");
     Press(Qt::Key_Z);
     EXPECT_THAT(Names(), ElementsAre("a", "b"));
     EXPECT_EQ(list->header()->sortIndicatorSection(), 0);
@@ -132,11 +132,11 @@ TEST_F(Undo, MakesADialogOneStepWhateverIsChangedInIt)
         Click(dialog, "cmdOK");
     });
     form->RunCommand(kVersion);
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Versionsinformation");
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Versionsinformation");
     Press(Qt::Key_Z);
     EXPECT_EQ(session.project.Version.CompanyName, "");
     EXPECT_EQ(session.project.Version.ProductName, "");
-    EXPECT_EQ(Caption(kUndoCommand), "-&Ångra");
+    EXPECT_EQ(Caption(CommandId::Undo), "-&Ångra");
     Press(Qt::Key_Y);
     EXPECT_EQ(session.project.Version.ProductName, "Hej");
 }
@@ -146,7 +146,7 @@ TEST_F(Undo, MakesNoStepOfACancelledDialog)
     OpenWindow();
     OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdCancel"); });
     form->RunCommand(kVersion);
-    EXPECT_EQ(Caption(kUndoCommand), "-&Ångra");
+    EXPECT_EQ(Caption(CommandId::Undo), "-&Ångra");
 }
 
 TEST_F(Undo, TakesTheTicksOfPagesBackOneByOne)
@@ -158,13 +158,13 @@ TEST_F(Undo, TakesTheTicksOfPagesBackOneByOne)
     Click(*form, "cGeneralInfoDlg");
     Idle();
     Click(*form, "cPasswordDlg");
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Ändra dialogrutor");
-    form->RunCommand(kUndoCommand);
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Ändra dialogrutor");
+    form->RunCommand(CommandId::Undo);
     EXPECT_EQ(session.project.DialogBoxes.PasswordDlg, 0);
     EXPECT_NE(session.project.DialogBoxes.GeneralInfoDlg, before.GeneralInfoDlg);
     EXPECT_TRUE(Find<QCheckBox>(*form, "cGeneralInfoDlg").isChecked());
     EXPECT_FALSE(Find<QCheckBox>(*form, "cPasswordDlg").isChecked());
-    form->RunCommand(kUndoCommand);
+    form->RunCommand(CommandId::Undo);
     EXPECT_FALSE(Find<QCheckBox>(*form, "cGeneralInfoDlg").isChecked());
     EXPECT_EQ(IsDirty(), kOff);
 }
@@ -175,9 +175,9 @@ TEST_F(Undo, ShowsAndHidesTheComponentColumnWithTheTick)
     form->SelectTab(Tab::Components);
     Idle();
     Click(*form, "cComp1");
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Ändra komponenter");
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Ändra komponenter");
     EXPECT_FALSE(list->isColumnHidden(ComponentNumber));
-    form->RunCommand(kUndoCommand);
+    form->RunCommand(CommandId::Undo);
     EXPECT_TRUE(list->isColumnHidden(ComponentNumber));
     EXPECT_FALSE(Find<QLineEdit>(*form, "tCompName1").isEnabled());
 }
@@ -187,17 +187,17 @@ TEST_F(Undo, LeavesTypingToTheFieldUntilItIsLeft)
     OpenWindow();
     auto& name = Find<QLineEdit>(*form, "tProjectName");
     Type(*form, "tProjectName", "abc");
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra skrivning");
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra skrivning");
     Press(Qt::Key_Z);
     EXPECT_EQ(name.text(), "") << "the field's own undo";
     Type(*form, "tProjectName", "abc");
-    form->RunCommand(kUndoCommand);
+    form->RunCommand(CommandId::Undo);
     EXPECT_EQ(name.text(), "") << "by the menu, too";
-    form->RunCommand(kRedoCommand);
+    form->RunCommand(CommandId::Redo);
     EXPECT_EQ(session.project.ProjectName.ProjectName, "abc");
 
     list->setFocus();
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Ändra projektnamn och huvudkatalog");
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Ändra projektnamn och huvudkatalog");
     Press(Qt::Key_Z);
     EXPECT_EQ(session.project.ProjectName.ProjectName, "");
     EXPECT_EQ(name.text(), "");
@@ -214,7 +214,7 @@ TEST_F(Undo, KeepsWhatWasTypedApartFromTheCommandBehindIt)
     Press(Qt::Key_Z);
     EXPECT_EQ(Names().size(), 3U);
     EXPECT_EQ(session.project.ProjectName.ProjectName, "abc");
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Ändra projektnamn och huvudkatalog");
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Ändra projektnamn och huvudkatalog");
 }
 
 TEST_F(Undo, NamesWhatWasTypedByItsTab)
@@ -226,8 +226,8 @@ TEST_F(Undo, NamesWhatWasTypedByItsTab)
     TypeKeys(registry, "HKEY");
     Idle();
     form->SelectTab(Tab::Dialogs);
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Ändra Registry");
-    form->RunCommand(kUndoCommand);
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Ändra Registry");
+    form->RunCommand(CommandId::Undo);
     EXPECT_EQ(registry.toPlainText(), "");
     EXPECT_EQ(session.project.Lists.Registry, "");
 }
@@ -242,10 +242,10 @@ TEST_F(Undo, GoesPastWhatTheDesignTabCorrectsByItself)
     QApplication::processEvents();
     Idle();
     EXPECT_LT(session.project.DesTextBox.BoxXPos, 32000) << "moved inside the surface";
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Ta bort");
-    form->RunCommand(kUndoCommand);
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Ta bort");
+    form->RunCommand(CommandId::Undo);
     EXPECT_EQ(Names().size(), 3U);
-    EXPECT_EQ(Caption(kUndoCommand), "-&Ångra");
+    EXPECT_EQ(Caption(CommandId::Undo), "-&Ångra");
 }
 
 TEST_F(Undo, ShowsASavedProjectAsUnchangedWhenItComesBackToIt)
@@ -259,15 +259,15 @@ TEST_F(Undo, ShowsASavedProjectAsUnchangedWhenItComesBackToIt)
     form->RunCommand(kSave);
     EXPECT_EQ(IsDirty(), kOff);
     EXPECT_EQ(session.project.ProgramGroup.ProgramGroup, "abc") << "filled in by saving";
-    EXPECT_EQ(Caption(kUndoCommand), "&Ångra Ändra projektnamn och huvudkatalog")
+    EXPECT_EQ(Caption(CommandId::Undo), "&Ångra Ändra projektnamn och huvudkatalog")
         << "saving is no step";
     DeleteRow(0);
-    form->RunCommand(kUndoCommand);
+    form->RunCommand(CommandId::Undo);
     EXPECT_EQ(IsDirty(), kOff);
-    form->RunCommand(kUndoCommand);
+    form->RunCommand(CommandId::Undo);
     EXPECT_EQ(session.project.ProjectName.ProjectName, "");
     EXPECT_EQ(IsDirty(), kOn) << "the file says abc";
-    form->RunCommand(kRedoCommand);
+    form->RunCommand(CommandId::Redo);
     EXPECT_EQ(IsDirty(), kOff);
 }
 
@@ -276,21 +276,21 @@ TEST_F(Undo, EndsAtTheProjectThatIsOpen)
     OpenWindowWith(kDeleteOne);
     ask.Expect({BoxKind::YesNoCancel, "Tavrell Quillon 2004", "", Answer::No});
     DeleteRow(0);
-    form->RunCommand(101);
-    EXPECT_EQ(Caption(kUndoCommand), "-&Ångra");
-    EXPECT_EQ(Caption(kRedoCommand), "-&Gör om");
+    form->RunCommand(CommandId::NewProject);
+    EXPECT_EQ(Caption(CommandId::Undo), "-&Ångra");
+    EXPECT_EQ(Caption(CommandId::Redo), "-&Gör om");
 }
 
 TEST(EditNames, AreTheCaptionsWithoutAccessLetterAndDots)
 {
-    EXPECT_EQ(EditName(205), "Addera filer");
-    EXPECT_EQ(EditName(113), "Jämför fillista med Package & Deployment LST-fil");
-    EXPECT_EQ(EditName(207), "Addera tom katalog");
+    EXPECT_EQ(EditName(CommandId::AddFiles), "Addera filer");
+    EXPECT_EQ(EditName(CommandId::CompareLstFile),
+              "Jämför fillista med Package & Deployment LST-fil");
+    EXPECT_EQ(EditName(CommandId::AddEmptyFolder), "Addera tom katalog");
     EXPECT_EQ(EditName(std::string_view("Ändra käl&lfil...")), "Ändra källfil");
-    EXPECT_EQ(EditName(108), "Val av målmedium");
-    for (const int id :
-         {101, 102, 103, 104, 105, 112, 136, 217, kUndoCommand, kRedoCommand, 291, 294, 999})
-        EXPECT_EQ(EditName(id), "") << id;
+    EXPECT_EQ(EditName(CommandId::Create), "Val av målmedium");
+    for (const int id : {101, 102, 103, 104, 105, 112, 136, 217, 215, 216, 291, 294, 999})
+        EXPECT_EQ(EditName(CommandId(id)), "") << id;
 }
 
 } // namespace

@@ -16,25 +16,38 @@ std::vector<Command> AllCommands()
 
 TEST(CommandTable, GivesEachKeyToOneCommand)
 {
-    std::map<std::string_view, int> owners;
+    std::map<std::string_view, std::string_view> owners;
     for (const Command& command : AllCommands())
         if (!command.keys.empty())
-            EXPECT_TRUE(owners.emplace(command.keys, command.id).second)
-                << command.keys << " of " << command.id << " and " << owners[command.keys];
+            EXPECT_TRUE(owners.emplace(command.keys, command.caption).second)
+                << command.keys << " of " << command.caption << " and " << owners[command.keys];
 }
 
 TEST(CommandTable, HasKeysForWhatIsDoneOften)
 {
-    const std::pair<int, const char*> keys[] = {
-        {101, "Ctrl+N"},       {102, "Ctrl+O"},       {103, "Ctrl+S"},
-        {104, "Ctrl+Shift+S"}, {108, "F7"},           {109, "Ctrl+T"},
-        {110, "Ctrl+P"},       {112, "Ctrl+Q"},       {205, "Ctrl+Shift+A"},
-        {206, "Ctrl+Shift+T"}, {207, "Ctrl+Shift+K"}, {124, "F5"},
-        {114, "Del"},          {119, "Alt+Return"},   {215, "Ctrl+Z"},
-        {216, "Ctrl+Y"},       {136, "Ctrl+C"},       {137, "Ctrl+V"},
-        {147, "Ctrl+1"},       {152, "Ctrl+6"},       {153, "F1"}};
+    const std::pair<CommandId, const char*> keys[] = {{CommandId::NewProject, "Ctrl+N"},
+                                                      {CommandId::OpenProject, "Ctrl+O"},
+                                                      {CommandId::SaveProject, "Ctrl+S"},
+                                                      {CommandId::SaveProjectAs, "Ctrl+Shift+S"},
+                                                      {CommandId::Create, "F7"},
+                                                      {CommandId::Test, "Ctrl+T"},
+                                                      {CommandId::Print, "Ctrl+P"},
+                                                      {CommandId::Exit, "Ctrl+Q"},
+                                                      {CommandId::AddFiles, "Ctrl+Shift+A"},
+                                                      {CommandId::AddTree, "Ctrl+Shift+T"},
+                                                      {CommandId::AddEmptyFolder, "Ctrl+Shift+K"},
+                                                      {CommandId::UpdateFileList, "F5"},
+                                                      {CommandId::DeleteRows, "Del"},
+                                                      {CommandId::FileInfo, "Alt+Return"},
+                                                      {CommandId::Undo, "Ctrl+Z"},
+                                                      {CommandId::Redo, "Ctrl+Y"},
+                                                      {CommandId::Copy, "Ctrl+C"},
+                                                      {CommandId::Paste, "Ctrl+V"},
+                                                      {CommandId::FilesTab, "Ctrl+1"},
+                                                      {CommandId::ComponentsTab, "Ctrl+6"},
+                                                      {CommandId::HelpContents, "F1"}};
     for (const auto& [id, expected] : keys)
-        EXPECT_EQ(FindCommand(id)->keys, expected) << id;
+        EXPECT_EQ(FindCommand(id)->keys, expected) << expected;
 }
 
 } // namespace

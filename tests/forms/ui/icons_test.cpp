@@ -38,18 +38,21 @@ std::set<int> IdsWithAButton()
 {
     std::set<int> ids;
     for (int tab = 0; tab < kTabCount; ++tab)
-        for (const int id : ToolbarIds(static_cast<Tab>(tab)))
-            if (id != 0)
-                ids.insert(id);
+        for (const CommandId id : ToolbarIds(static_cast<Tab>(tab)))
+            if (id != CommandId::None)
+                ids.insert(static_cast<int>(id));
     return ids;
 }
 
 std::set<int> IdsWithAPicture()
 {
     std::set<int> ids;
-    for (int id = kFirstCommand; id <= kLastCommand; ++id)
-        if (!CommandIcon(id).isNull())
-            ids.insert(id);
+    for (const MenuRow& row : MenuBarRows())
+        if (!CommandIcon(row.command.id).isNull())
+            ids.insert(static_cast<int>(row.command.id));
+    for (const Command& command : ToolbarOnlyCommands())
+        if (!CommandIcon(command.id).isNull())
+            ids.insert(static_cast<int>(command.id));
     return ids;
 }
 
@@ -70,12 +73,12 @@ int InkIn(const QImage& picture)
 TEST_F(Icons, StandOnEveryButtonAndInTheMenus)
 {
     for (const int id : IdsWithAButton())
-        EXPECT_FALSE(CommandIcon(id).isNull()) << id;
+        EXPECT_FALSE(CommandIcon(CommandId(id)).isNull()) << id;
     for (const MenuRow& row : MenuBarRows())
         if (row.part == MenuPart::Entry)
             EXPECT_FALSE(CommandIcon(row.command.id).isNull()) << row.command.caption;
-    EXPECT_TRUE(CommandIcon(106).isNull());
-    EXPECT_TRUE(CommandIcon(0).isNull());
+    EXPECT_TRUE(CommandIcon(CommandId::ImportProject).isNull());
+    EXPECT_TRUE(CommandIcon(CommandId::None).isNull());
     EXPECT_TRUE(NamedIcon("no-such-picture").isNull());
 }
 
@@ -87,7 +90,7 @@ TEST_F(Icons, HaveInkAndDifferFromEachOther)
     for (const int id : IdsWithAPicture()) {
         if (alike.count(id) > 0)
             continue;
-        const QImage picture = Draw(CommandIcon(id));
+        const QImage picture = Draw(CommandIcon(CommandId(id)));
         EXPECT_GT(InkIn(picture), 50) << id;
         EXPECT_LT(InkIn(picture), 24 * 24) << id;
         const QByteArray bytes(reinterpret_cast<const char*>(picture.constBits()),
@@ -103,7 +106,7 @@ TEST_F(Icons, AreDrawnInDevicePixels)
 {
     for (const int id : IdsWithAPicture())
         for (const qreal scale : {1.0, 1.5, 2.0}) {
-            const QPixmap picture = CommandIcon(id).pixmap(QSize(24, 24), scale);
+            const QPixmap picture = CommandIcon(CommandId(id)).pixmap(QSize(24, 24), scale);
             EXPECT_EQ(picture.width(), qRound(24 * scale)) << id;
             EXPECT_EQ(picture.height(), qRound(24 * scale)) << id;
             EXPECT_EQ(picture.devicePixelRatio(), scale) << id;
@@ -115,7 +118,7 @@ TEST_F(Icons, HaveSharpLinesAtEachScale)
 {
     for (const int scale : {2, 3, 4}) {
         // The sides of the picture frame stand at 3 and 21 of 24.
-        const QImage picture = Draw(CommandIcon(128), 12 * scale);
+        const QImage picture = Draw(CommandIcon(CommandId::TextBox), 12 * scale);
         const int middle = picture.height() * 18 / 24;
         const auto inkAt = [&](int x) { return qAlpha(picture.pixel(x, middle)); };
         EXPECT_LT(inkAt(scale - 1), 8) << scale;
@@ -128,7 +131,7 @@ TEST_F(Icons, HaveSharpLinesAtEachScale)
 TEST_F(Icons, FollowThePaletteAtOnce)
 {
     QApplication::setPalette(QPalette(QColor(0xf0, 0xf0, 0xf0)));
-    const QIcon icon = CommandIcon(128);
+    const QIcon icon = CommandIcon(CommandId::TextBox);
     const QColor onLight = Draw(icon).pixelColor(3, 18);
     QApplication::setPalette(DarkPalette());
     const QColor onDark = Draw(icon).pixelColor(3, 18);
@@ -138,7 +141,7 @@ TEST_F(Icons, FollowThePaletteAtOnce)
 
 TEST_F(Icons, AreGreyWhereTheCommandIsOff)
 {
-    const QImage off = Draw(CommandIcon(102), 24, 1, QIcon::Disabled);
+    const QImage off = Draw(CommandIcon(CommandId::OpenProject), 24, 1, QIcon::Disabled);
     for (int y = 0; y < 24; ++y)
         for (int x = 0; x < 24; ++x)
             if (qAlpha(off.pixel(x, y)) > 200)
@@ -178,11 +181,12 @@ QWidget* Sheet(qreal scale)
         ++place;
     };
     for (const int id : IdsWithAPicture())
-        add(CommandIcon(id), 24, QString::number(id));
+        add(CommandIcon(CommandId(id)), 24, QString::number(id));
     for (const char* name : kNames)
         add(NamedIcon(name), 48, name);
     for (const int id : {101, 102, 103, 108, 109})
-        add(QIcon(CommandIcon(id).pixmap(QSize(24, 24), scale, QIcon::Disabled)), 24, "off");
+        add(QIcon(CommandIcon(CommandId(id)).pixmap(QSize(24, 24), scale, QIcon::Disabled)), 24,
+            "off");
     return sheet;
 }
 
