@@ -1,6 +1,6 @@
 // What a journal says: a struct for each kind of line. The record of an installation
-// (`install_journal.h`) and the journal of a transaction (`transaction_journal.h`) are files of such lines, and
-// `journal_table.h` is how they stand there.
+// (`install_journal.h`) and the journal of a transaction (`transaction_journal.h`) are files of
+// such lines, and `journal_table.h` is how they stand there.
 #pragma once
 
 #include "runtime/target.h"

@@ -1,4 +1,5 @@
-// docs/variables-and-lists.md names every variable, and its examples are lines that the setup reads.
+// docs/variables-and-lists.md names every variable, and its examples are lines that the setup
+// reads.
 #include "formats/variable_names.h"
 #include "runtime/ini_lines.h"
 #include "runtime/registry_lines.h"
