@@ -53,3 +53,7 @@ if(TARGET qns32x)
     COMMAND ${CMAKE_COMMAND} -E copy ${release}/Small32/QNS32X.EXE 
             ${QUILLON_TEST_FOLDER}/Qns32x.exe)
 endif()
+# The tool's program that describes a machine, for Windows.
+add_executable(Diagnos WIN32 ${CMAKE_CURRENT_SOURCE_DIR}/diagnos/program/win32/main.cpp)
+set_target_properties(Diagnos PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${QUILLON_WINDOWS_EXTRAS}/Diagnos)
+target_link_libraries(Diagnos PRIVATE quillon_diagnos)
