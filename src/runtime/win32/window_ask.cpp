@@ -17,24 +17,29 @@ constexpr int kProgressSteps = 500;
 // In pixels of a display of normal size.
 constexpr int kWidth = 420;
 constexpr int kHeight = 130;
+constexpr int kHeightWithoutButton = 82;
 
 } // namespace
 
-WindowAsk::WindowAsk(HINSTANCE instance, const Text& title, const LanguageTexts& texts)
-    : texts_(texts), title_(title)
+WindowAsk::WindowAsk(HINSTANCE instance, const Text& title, const LanguageTexts& texts,
+                     CanCancel canCancel)
+    : texts_(texts), title_(title), canCancel_(canCancel == CanCancel::Yes)
 {
     INITCOMMONCONTROLSEX controls{sizeof controls, ICC_PROGRESS_CLASS};
     InitCommonControlsEx(&controls);
-    window_ = MakePlainWindow(instance, title, {kWindowClass, Receive, kWidth, kHeight, this});
+    window_ = MakePlainWindow(
+        instance, title,
+        {kWindowClass, Receive, kWidth, canCancel_ ? kHeight : kHeightWithoutButton, this});
     status_ =
         AddControl(window_, {L"STATIC", "", SS_LEFT | SS_ENDELLIPSIS, {16, 16, kWidth - 16, 36}});
     bar_ = AddControl(window_, {PROGRESS_CLASSW, "", 0, {16, 44, kWidth - 16, 64}});
     SendMessageW(bar_, PBM_SETRANGE, 0, MAKELPARAM(0, kProgressSteps));
-    AddControl(window_, {L"BUTTON",
-                         texts[Message::Cancel],
-                         WS_TABSTOP | BS_PUSHBUTTON,
-                         {kWidth - 106, 84, kWidth - 16, 110},
-                         IDCANCEL});
+    if (canCancel_)
+        AddControl(window_, {L"BUTTON",
+                             texts[Message::Cancel],
+                             WS_TABSTOP | BS_PUSHBUTTON,
+                             {kWidth - 106, 84, kWidth - 16, 110},
+                             IDCANCEL});
 }
 
 WindowAsk::~WindowAsk()
@@ -52,7 +57,7 @@ LRESULT CALLBACK WindowAsk::Receive(HWND window, UINT message, WPARAM word, LPAR
     const bool cancels = message == WM_CLOSE || (message == WM_COMMAND && LOWORD(word) == IDCANCEL);
     if (self == nullptr || !cancels)
         return DefWindowProcW(window, message, word, data);
-    self->cancelPressed_ = true;
+    self->cancelPressed_ = self->canCancel_;
     return 0;
 }
 
@@ -128,6 +133,7 @@ void WindowAsk::ShowProgress(std::uint64_t done, std::uint64_t total)
         return;
     shownProgress_ = step;
     SendMessageW(bar_, PBM_SETPOS, static_cast<WPARAM>(step), 0);
+    PumpMessages();
 }
 
 void WindowAsk::Beep()

@@ -11,7 +11,10 @@ namespace quillon {
 
 class WindowAsk : public Ask {
 public:
-    WindowAsk(HINSTANCE instance, const Text& title, const LanguageTexts& texts);
+    /// Whether the window has a button to cancel; `ProcessEvents` throws only where it has.
+    enum class CanCancel { Yes, No };
+    WindowAsk(HINSTANCE instance, const Text& title, const LanguageTexts& texts,
+              CanCancel canCancel = CanCancel::Yes);
     ~WindowAsk() override;
     WindowAsk(const WindowAsk&) = delete;
     WindowAsk& operator=(const WindowAsk&) = delete;
@@ -48,6 +51,7 @@ private:
     HWND status_ = nullptr;
     HWND bar_ = nullptr;
     int shownProgress_ = -1;
+    const bool canCancel_;
     bool cancelPressed_ = false;
 };
 

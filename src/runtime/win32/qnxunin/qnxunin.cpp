@@ -63,7 +63,8 @@ ExitCode RunWithWindow(HINSTANCE instance, UninstallRun& run,
     const LanguageTexts& texts = run.texts;
     const Text name = product ? product->name : Text();
     const Text title = texts(Message::UninstallTitle, name);
-    WindowAsk window(instance, title, texts);
+    // What has been removed can't be brought back half-way.
+    WindowAsk window(instance, title, texts, WindowAsk::CanCancel::No);
     if (run.line.switches.badSwitch) {
         window.Critical(title, texts(Message::BadSwitch, *run.line.switches.badSwitch));
         return ExitCode::BadSwitch;
