@@ -30,7 +30,7 @@ void FollowDepFile(Host host, const std::string& bytes)
         Require(files.AddFilesToFileListViaDepFile(section));
         files.AddWithSecondLevel(section);
     }
-    // Each row has its line, and what a line names stands in the list once.
+    // Each row has its line, and what a line names is in the list once.
     Require(list.rows.size() <= bytes.size());
     std::set<std::pair<Text, Text>> added;
     for (const FileListRow& row : list.rows)

@@ -1,4 +1,4 @@
-// `.reg` files of any content: whatever stands in front of it, a key that is written as Windows
+// `.reg` files of any content: whatever precedes it, a key that is written as Windows
 // writes it is read, and one that is removed is gone; and a file read twice says what it said once.
 #include "platform/posix/registry_files.h"
 
@@ -22,7 +22,7 @@ bool IsUtf16(std::string_view bytes)
     return bytes.starts_with(kUtf16Bom);
 }
 
-// The lines behind the bytes, in their encoding.
+// The lines after the bytes, in their encoding.
 std::string With(std::string bytes, std::string_view lines)
 {
     const bool isUtf16 = IsUtf16(bytes);

@@ -12,7 +12,8 @@ namespace quillon {
 /// Nothing where the user cancelled, or chose a file whose name a project can't hold.
 std::optional<Text> ChooseRtfFile(Text& folder, Ask& ask);
 
-/// Opens the document in the program that the system assigns to it; a box tells a failure.
+/// Opens the document in the program that the system assigns to it; a message box reports a
+/// failure.
 void OpenRtfFile(const Text& path, Machine& machine, Ask& ask);
 
 } // namespace quillon

@@ -66,7 +66,7 @@ bool HasRoomInIniList(std::string_view list, std::string_view added, Ask& ask)
 Text IniFileToAppend(std::string_view list, std::string_view fileName)
 {
     Text name = UpperCase(fileName);
-    // Kept: the extension may stand anywhere in the name.
+    // Kept: the extension may occur anywhere in the name.
     if (name.find(".INI") == Text::npos)
         name += ".INI";
     return Header(list, name);

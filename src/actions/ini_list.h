@@ -1,5 +1,5 @@
 // The list of INI entries: what the buttons beside it put at its end. The list is free text; lines
-// stand in it in the order in which the setup carries them out.
+// are in it in the order in which the setup carries them out.
 #pragma once
 
 #include "platform/ask.h"
@@ -12,15 +12,15 @@ namespace quillon {
 /// The longest list that the project file holds, in bytes on file.
 inline constexpr int kMaxIniListLength = 32767;
 
-/// Whether so much more can stand at the end of the list; where not, a box says so.
+/// Whether so much more can be at the end of the list; where not, a box says so.
 bool HasRoomInIniList(std::string_view list, std::string_view added, Ask& ask);
 
 /// What a new file, whose name was typed, puts at the end of the list.
 Text IniFileToAppend(std::string_view list, std::string_view fileName);
-/// The same for a section. The next line begins behind it.
+/// The same for a section. The next line begins after it.
 Text IniSectionToAppend(std::string_view list, std::string_view section);
-/// The same for a value, on a line of its own: the last line of a list has no end behind the header
-/// of a file, behind a file that was taken in, and when the project has been opened.
+/// The same for a value, on a line of its own: the last line of a list has no end after the header
+/// of a file, after a file that was taken in, and when the project has been opened.
 Text IniValueToAppend(std::string_view list, std::string_view name, std::string_view value);
 
 /// Asks for an INI file and returns the text that appends its contents to the list; empty where

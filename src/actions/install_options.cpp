@@ -73,7 +73,7 @@ void ClickCreateUninstallIcon(InstallOptions& options, bool isTicked)
 
 bool IsSelfExtractFilename(std::string_view name)
 {
-    // Kept: the extension may stand anywhere in the name.
+    // Kept: the extension may occur anywhere in the name.
     return name.empty() || UpperCase(name).find(".EXE") != Text::npos;
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kExtension = ".LNG";
 
-// Windows takes these for devices, whatever extension stands behind them.
+// Windows takes these for devices, whatever extension follows them.
 constexpr std::array<std::string_view, 4> kDevices{"CON", "PRN", "AUX", "NUL"};
 
 bool IsDevice(std::string_view upperName)
@@ -41,7 +41,7 @@ bool IsLanguageFile(const FolderEntry& entry)
     return !entry.status.isFolder && UpperCase(entry.name).ends_with(kExtension);
 }
 
-/// Does the work; false, and tells what failed, where it could not be done.
+/// Does the work; false, and says what failed, where it could not be done.
 template <class Work>
 bool TryOrReport(Work work, const Text& path, Ask& ask)
 {

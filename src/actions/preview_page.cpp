@@ -36,7 +36,7 @@ const VariableName& NamedVariable(const Text& name)
     return *std::ranges::find(kVariableNames, name, &VariableName::name);
 }
 
-/// The longest variable that stands at this place of a text, or null.
+/// The longest variable that is at this place of a text, or null.
 const VariableValue* VariableAt(std::string_view text, const std::vector<VariableValue>& known)
 {
     const VariableValue* best = nullptr;
@@ -63,7 +63,7 @@ bool HasDrive(const Text& folder)
     return folder.size() >= 2 && folder[1] == ':';
 }
 
-/// Where the end user's folders would be. A folder without a drive lies on that of Windows.
+/// Where the end user's folders would be. A folder without a drive is on that of Windows.
 Text ExpandFolder(const Text& folder, const std::vector<VariableValue>& known, const Host& host)
 {
     const Text expanded = Expand(TrimBlanks(folder), known);

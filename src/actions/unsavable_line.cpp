@@ -26,7 +26,7 @@ constexpr std::array<ListName, std::size(kListSections)> kNames{{
     {&section::Lists::RegisterFileList, "Registrera filer"},
 }};
 
-// A section between or behind the lists, found by its first header in any case of letters.
+// A section between or after the lists, found by its first header in any case of letters.
 struct UnsupportedSection {
     const char* name;
     ListField firstListBehind; // null where none is

@@ -1,4 +1,4 @@
-// Lists of free text stand in the project file between marks. A line that looks like one of these
+// Lists of free text are in the project file between marks. A line that looks like one of these
 // marks would be taken for it when the project is opened again: it would end its own list, or be
 // read as the beginning of a list or section that stands further down.
 #pragma once

@@ -20,7 +20,7 @@ void DesignPage::BeginProject()
     isPending_ = true;
 }
 
-// Behind another tab only a project that has just been opened is laid out; everything else is when
+// After another tab only a project that has just been opened is laid out; everything else is when
 // the tab comes in front.
 void DesignPage::ShowSession()
 {
@@ -28,7 +28,7 @@ void DesignPage::ShowSession()
         LayOut();
 }
 
-/// Behind another tab a page has its size as soon as the window is on the screen: one that opens
+/// After another tab a page has its size as soon as the window is on the screen: one that opens
 /// maximized was smaller before.
 bool DesignPage::HasSize() const
 {
@@ -67,7 +67,7 @@ bool DesignPage::event(QEvent* event)
         parentWidget()->installEventFilter(this);
         PlaceSurface(parentWidget()->size());
     }
-    // Behind this event, since it may have to tell of a picture.
+    // After this event, since it may have to tell of a picture.
     if (event->type() == QEvent::Show)
         LayOutSoon();
     if (event->type() == QEvent::Hide)

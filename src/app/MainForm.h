@@ -28,7 +28,7 @@ class MainTabs;
 
 class MainForm : public QMainWindow, public MainWindow {
 public:
-    /// `paths` tells where lies what is dropped on the window or typed as a path of this machine.
+    /// `paths` says where lies what is dropped on the window or typed as a path of this machine.
     explicit MainForm(Session& session, HostPaths paths = {});
     ~MainForm() override;
 
@@ -65,7 +65,7 @@ public:
     /// What a status text of a long command says; an empty one gives the bar back.
     void ShowStatusText(const Text& text);
 
-    /// Run once, behind the first time that the window is shown.
+    /// Run once, after the first time that the window is shown.
     std::function<void()> onFirstActivation;
 
 protected:

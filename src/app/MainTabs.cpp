@@ -39,7 +39,7 @@ Tab MainTabs::Selected() const
     return static_cast<Tab>(selected - pages_.begin());
 }
 
-/// Behind the tabs in front of it that are shown.
+/// After the tabs in front of it that are shown.
 int MainTabs::PlaceFor(Tab tab) const
 {
     const auto* const end = pages_.begin() + static_cast<int>(tab);

@@ -24,7 +24,7 @@ ProjectHeader::ProjectHeader(Session& session) : session_(session)
     CompleteVariables(folder, PrefixTable::MainFolder);
     OnLeave(folder, [this] { LeaveDestinationDirectory(); });
     Arrange(this, Fields({{"&Projektnamn:", name}, {"Huvud&katalog:", folder}}));
-    // It stands inside a page that has margins of its own.
+    // It is inside a page that has margins of its own.
     layout()->setContentsMargins({});
 }
 

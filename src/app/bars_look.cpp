@@ -12,9 +12,9 @@ constexpr char kWatchName[] = "BarsLook";
 
 // What a look is made of, as the style sheet has it: backgrounds and borders.
 struct Look {
-    QString bar;          // behind the buttons
+    QString bar;          // after the buttons
     QString barEdge;      // below them
-    QString menu;         // behind the entries
+    QString menu;         // after the entries
     QString menuEdge;     // round them
     QString hover;        // under the pointer
     QString hoverEdge;    //
@@ -205,7 +205,7 @@ QString BarsStyleSheet(BarsStyle style, const QPalette& palette)
     const QString off = Mixed(base.window, base.text, 0.5).name();
     const QString between = Mixed(base.window, base.text, 0.22).name();
     QString sheet = kSheet;
-    // Behind to front, since "%1" is a part of "%12".
+    // After to front, since "%1" is a part of "%12".
     const QString parts[] = {base.text.name(), off,          between,          look.bar,
                              look.barEdge,     look.menu,    look.menuEdge,    look.hover,
                              look.hoverEdge,   look.pressed, look.pressedEdge, look.radius};

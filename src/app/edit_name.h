@@ -1,4 +1,4 @@
-// What a step is called behind "Ångra" and "Gör om".
+// What a step is called after "Ångra" and "Gör om".
 #pragma once
 
 #include "helpers/text.h"

@@ -1,4 +1,4 @@
-// Fields of the main window that edit the project in place: what is typed stands in the project at
+// Fields of the main window that edit the project in place: what is typed is in the project at
 // once and marks it changed; what is only shown marks nothing.
 #pragma once
 
@@ -22,7 +22,7 @@ QPlainTextEdit* EditListInPlace(QPlainTextEdit*& member, const char* name, Sessi
 void ShowInPlace(QLineEdit* field, const Text& value);
 void ShowInPlace(QPlainTextEdit* area, const Text& value);
 
-/// Behind a change of projects: Undo must not bring back what belongs to the one before.
+/// After a change of projects: Undo must not bring back what belongs to the one before.
 void ForgetUndo(QWidget& page);
 
 } // namespace quillon

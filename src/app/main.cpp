@@ -54,7 +54,7 @@ int main(int argc, char** argv)
     // Qt sees the program's name alone: a project may be called like one of its switches.
     int one = 1;
     QApplication application(one, argv);
-    // No display name, which Qt would put behind the title of every window.
+    // No display name, which Qt would put after the title of every window.
     QApplication::setApplicationName("quillon");
     PrepareAppearance(application);
 
@@ -64,7 +64,7 @@ int main(int argc, char** argv)
         ProjectOfCommandLine({argv + 1, static_cast<std::size_t>(std::max(argc, 1) - 1)}, paths);
     if (!project)
         machine.complaints.push_back("Projektets namn på kommandoraden går ej att använda.");
-    // Behind the command line, whose path may be a relative one.
+    // After the command line, whose path may be a relative one.
     if (const auto folder = paths.toHost(machine.ProgramFolder()))
         QDir::setCurrent(QString::fromStdString(*folder));
 

@@ -16,7 +16,7 @@ constexpr std::uint64_t kMaxCommentLength = 0xFFFF;
 // reserves the space.
 constexpr std::uint64_t kMaxExpansion = 1032;
 
-/// Where the directory lies and what it shall hold.
+/// Where the directory is and what it shall hold.
 struct Place {
     std::uint64_t position = 0;
     std::uint64_t size = 0;

@@ -27,7 +27,7 @@ Directory ReadDirectory(InputFile& archive);
 /// Fills the whole of `bytes` from this position on; throws `ZipError` where the file ends before.
 void ReadExactly(InputFile& archive, std::uint64_t position, std::span<std::byte> bytes);
 
-/// A name or comment as it stands in a record. Throws `ZipError` where it says that it is UTF-8 and
+/// A name or comment as it is in a record. Throws `ZipError` where it says that it is UTF-8 and
 /// isn't.
 Text DecodeText(std::span<const std::byte> bytes, std::uint16_t flags);
 

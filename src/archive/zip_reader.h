@@ -29,7 +29,7 @@ struct ZipEntry {
     bool isStored = false;
     bool isEncrypted = false;
     bool hasCrc = true; // false under AE-2, which authenticates instead
-    // Where the entry's local header stands, and the real method below an encryption.
+    // Where the entry's local header is, and the real method below an encryption.
     std::uint64_t headerPosition = 0;
     std::uint16_t method = 0;
 };

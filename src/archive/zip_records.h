@@ -1,6 +1,6 @@
 // The records that a ZIP file is made of, each told once: writer and reader both walk `EachField`,
 // so they cannot drift apart. All numbers are little-endian. Names, extra fields and comments stand
-// behind the fixed part of a record, which holds their lengths.
+// after the fixed part of a record, which holds their lengths.
 #pragma once
 
 #include "helpers/date_text.h"
@@ -16,7 +16,7 @@ namespace quillon::zip {
 
 using Bytes = std::vector<std::byte>;
 
-// A field at its greatest value says that the true one stands in the ZIP64 records.
+// A field at its greatest value says that the true one is in the ZIP64 records.
 inline constexpr std::uint16_t kFull16 = 0xFFFF;
 inline constexpr std::uint32_t kFull32 = 0xFFFFFFFF;
 
@@ -198,7 +198,7 @@ struct ExtraHeader {
     }
 };
 
-/// The true sizes and position of an entry. Each stands there only where its field in the header is
+/// The true sizes and position of an entry. Each is there only where its field in the header is
 /// full, always in this order.
 struct Zip64Extra {
     static constexpr std::uint16_t kId = 0x0001;

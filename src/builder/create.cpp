@@ -169,7 +169,7 @@ Step WriteFileList(CreateRun& run)
     }
 }
 
-// Behind the file list, because it tells how many rows that has.
+// After the file list, because it says how many rows that has.
 Step WriteSetupInfo(CreateRun& run)
 {
     DeleteSetupInfoFile(run);

@@ -14,7 +14,7 @@ namespace quillon {
 /// Whether a check lets Create go on. A check that stops has shown its box.
 enum class Check { Passed, Stopped };
 
-/// Whether the pipeline goes on behind a step. A step that stops it has told why.
+/// Whether the pipeline goes on after a step. A step that stops it has shown why.
 enum class Step { GoOn, Stop };
 
 struct CreateRun {
@@ -33,7 +33,7 @@ struct CreateRun {
     Integer FloppiesUsed = 0;
     Long FilesInList = 0;
 
-    // The rows of the file list stand in another order than before.
+    // The rows of the file list are in another order than before.
     bool isListSorted = false;
     // An answer in the middle of the pipeline ended it.
     bool isCancelled = false;
@@ -44,7 +44,7 @@ struct CreateRun {
     // The same of a container; its status lines have a number and no name.
     std::optional<CompressionFailure> compressionFailure = {};
 
-    // Where the files are made while an older package lies in the destination; empty otherwise.
+    // Where the files are made while an older package is in the destination; empty otherwise.
     Text stagingFolder = {};
     // What the package consists of so far, below its folder; of a tree without the project's files.
     std::vector<Text> packageFiles = {};

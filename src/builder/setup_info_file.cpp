@@ -53,7 +53,7 @@ Text PixelText(std::int64_t twips, int twipsPerPixel)
     return NumberText(RoundToEven(double(twips) / twipsPerPixel));
 }
 
-// How a value of the project stands on file; the reader's counterpart stands beside the tables.
+// How a value of the project is on file; the reader's counterpart is beside the tables.
 class ValueTexts {
 public:
     ValueTexts(const SetupInfoInput& in, SetupInfoMode mode) : in_(in), mode_(mode) {}

@@ -11,7 +11,7 @@ namespace quillon {
 /// the path are worked out first.
 Text ConvertLongFilenameToShortFilename(const FileSystem& files, const Text& path);
 
-/// The folder of such a path without its drive and its leading backslash: where the file lies below
+/// The folder of such a path without its drive and its leading backslash: where the file is below
 /// the medium's root when the medium is a tree. Empty for a file at the root of a drive.
 Text SourceFolderOnMedium(const Text& shortPath);
 

@@ -23,11 +23,11 @@ struct TestRun {
     std::optional<RunError> failure = {};
 };
 
-/// Where the setup lies that a test run starts, and where its files go.
+/// Where the setup is that a test run starts, and where its files go.
 Text TestFolder(const CreateOptions& options);
 
 /// The check of the project, then both INF files and the language file in `folder`, which is made
-/// where it is missing. False where that failed; a box has told why.
+/// where it is missing. False where that failed; a box has shown why.
 [[nodiscard]] bool WriteTestFiles(TestRun& run, const Text& folder);
 
 /// Writes the files and starts the setup, which goes on by itself.

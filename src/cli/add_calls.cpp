@@ -47,7 +47,7 @@ void TellFullList(const ProjectEdit& edit)
         throw CallFailure{FullListText() + " Inget är sparat.", Exit::Stopped};
 }
 
-// The rows that came in addition to the first ones; `places` says where each stands now.
+// The rows that came in addition to the first ones; `places` says where each is now.
 std::vector<std::size_t> NewRows(const std::optional<NewPlaces>& places, std::size_t rowsBefore)
 {
     std::vector<std::size_t> rows;

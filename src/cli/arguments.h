@@ -27,7 +27,7 @@ enum class Need { Optional, Required };
 
 struct Option {
     const char* name;  // with its dashes
-    const char* value; // what stands behind it; null for a switch
+    const char* value; // what follows it; null for a switch
     const char* help;
     // The words that the value may be, between bars; null where it is free.
     const char* words = nullptr;
@@ -62,7 +62,7 @@ struct UsageError {
     Text text;
 };
 
-/// Throws `UsageError`. Behind "--" nothing is an option.
+/// Throws `UsageError`. After "--" nothing is an option.
 Arguments ReadArguments(const std::vector<std::string>& args, std::span<const Call> calls);
 
 /// The whole help; every line fits on a screen of 100 columns.

@@ -12,7 +12,7 @@
 
 namespace quillon::cli {
 
-// Keys stand in the order in which they were set.
+// Keys are in the order in which they were set.
 using Json = nlohmann::ordered_json;
 
 inline Text CountText(std::size_t count)

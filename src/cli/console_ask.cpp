@@ -6,7 +6,7 @@ namespace quillon::cli {
 
 void ConsoleAsk::Show(const Text& title, const Text& text, std::optional<bool> answer)
 {
-    // What was said before the box stands before it, also where both outputs are one file.
+    // What was said before the box precedes it, also where both outputs are one file.
     if (out_)
         out_->flush();
     err_ << title << ": " << text << "\n" << std::flush;

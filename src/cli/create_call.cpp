@@ -29,7 +29,7 @@ Text WordOfMedium(Medium medium)
 }
 
 // The order is that of a user's hands: choosing a medium puts that medium's last folder into the
-// form, so the folder is told afterwards.
+// form, so the folder is reported afterwards.
 CreateForm FillForm(const CallContext& context, Session& session)
 {
     const Arguments& arguments = context.arguments;

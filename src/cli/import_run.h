@@ -17,7 +17,7 @@ public:
     ImportWork Work();
     ImportData Data();
 
-    /// Saves the project, or tells what a dry run would have added. `members` go into the object.
+    /// Saves the project, or says what a dry run would have added. `members` go into the object.
     Exit Finish(const ImportResult& result, const Text& lines = {}, Json members = Json::object());
 
     ProjectEdit edit;

@@ -39,7 +39,7 @@ Exit RunCall(const Arguments& arguments)
     }
 }
 
-// Also behind a call: who asks there wants to know what it takes.
+// Also after a call: who asks there wants to know what it takes.
 bool AsksForHelp(const std::vector<std::string>& words)
 {
     const auto last = std::ranges::find(words, "--");

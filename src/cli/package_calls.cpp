@@ -1,4 +1,4 @@
-// quillonc list and quillonc verify: what lies in a finished package, and whether it is whole.
+// quillonc list and quillonc verify: what is in a finished package, and whether it is whole.
 #include "cli/calls.h"
 #include "formats/package.h"
 #include "helpers/number_text.h"

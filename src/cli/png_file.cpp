@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t kBytesPerPixel = 3;
 
 /// Three bytes for each pixel, blue first; an opaque picture needs no fourth one. They lie where
-/// the pixels were, each behind those before it.
+/// the pixels were, each after those before it.
 const unsigned char* WithoutAlpha(std::vector<Pixel>& pixels)
 {
     auto* const bytes = reinterpret_cast<unsigned char*>(pixels.data());

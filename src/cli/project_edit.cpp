@@ -20,7 +20,7 @@ namespace quillon::cli {
 namespace {
 
 constexpr const char* kNothingSaved = " Inget är sparat.";
-// Of a value that is told, in characters; a whole agreement would bury what is said about it.
+// Of a value that is reported, in characters; a whole agreement would bury what is said about it.
 constexpr std::size_t kMaxShownLength = 60;
 
 Text ValueText(const Json& value)
@@ -121,7 +121,7 @@ ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin beg
     }
     if (!isNew_)
         bytesBefore_ = ReadWholeFile(context.host.files, path);
-    // What was told while opening is no fault of the work that follows.
+    // What was reported while opening is no fault of the work that follows.
     ask.refusals.clear();
     KeepStoredOrder(Files());
     settingsBefore_ = SettingsJson(session.project);

@@ -43,7 +43,7 @@ private:
 
     const CallContext& context_;
     Text path_;
-    // Held from before the reading to behind the saving, so that no change of another call is lost.
+    // Held from before the reading to after the saving, so that no change of another call is lost.
     std::unique_ptr<FileLock> lock_;
     bool isNew_;
     std::string bytesBefore_;

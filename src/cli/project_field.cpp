@@ -229,7 +229,7 @@ struct Address {
     Text key;
 };
 
-// A single component has its number behind the section, as a person says it; the file has it behind
+// A single component has its number after the section, as a person says it; the file has it after
 // the key.
 Address AddressOf(const Text& field)
 {

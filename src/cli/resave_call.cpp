@@ -30,7 +30,7 @@ Exit ResaveProject(const CallContext& context)
     if (why)
         return context.Fail(*why + " Inget är sparat.", Exit::Stopped);
     session.state.ProjectFileName = out;
-    // What is not read is lost from the target too, whatever stands there.
+    // What is not read is lost from the target too, whatever is there.
     if (opened == Opened::InPart) {
         session.knownFile = LookAtFile(context.host.files, out);
         session.knownFile.isInProject = false;

@@ -65,7 +65,7 @@ Text FaultText(const ScreenFileFault& fault)
     }
 }
 
-/// What the user would miss in the picture ends the call; all of it is told.
+/// What the user would miss in the picture ends the call; all of it is reported.
 void DemandAllFiles(const ScreenFiles& files)
 {
     Text text;

@@ -17,7 +17,7 @@ Text ValueText(const Json& value)
     return value.is_string() ? value.get<Text>() : value.dump();
 }
 
-/// A text of several lines stands on lines of its own, set in, so that it can't be taken for a key.
+/// A text of several lines is on lines of its own, set in, so that it can't be taken for a key.
 void PrintValue(std::ostream& out, const Text& key, const Text& value)
 {
     if (value.find_first_of("\r\n") == Text::npos) {

@@ -1,4 +1,4 @@
-// What lies below everything on the screen: the blend of two colours, or the background picture.
+// What is below everything on the screen: the blend of two colours, or the background picture.
 #pragma once
 
 #include "design/scalable_picture.h"
@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// Paints the canvas's clip. `scale` is that of a picture which is not stretched: it stands in the
+/// Paints the canvas's clip. `scale` is that of a picture which is not stretched: it is in the
 /// middle, on the first colour. Where there is no picture, the blend is painted.
 void PaintBackground(const Canvas& canvas, Letters& letters, const SurfacePaint& paint,
                      const ScalablePicture& picture, double scale);

@@ -1,4 +1,4 @@
-// Lines of letters put together from single ones, so that every system's letters stand at the same
+// Lines of letters put together from single ones, so that every system's letters are at the same
 // places, with the same lines below and through them.
 #pragma once
 

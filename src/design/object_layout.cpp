@@ -11,7 +11,7 @@ namespace {
 
 // What an oversized picture leaves free of the surface.
 constexpr Long kOversizeMargin = 30;
-// Where the logotype stands from the left, from the right and from below.
+// Where the logotype is from the left, from the right and from below.
 constexpr Long kLogotypeSide = 380;
 constexpr Long kLogotypeBelow = 200;
 // A refused logotype's place.

@@ -1,4 +1,4 @@
-// Where each object of the setup's screen stands on the preview surface: a record in, places out.
+// Where each object of the setup's screen is on the preview surface: a record in, places out.
 // Nothing here draws; the windows move their controls to what is answered.
 //
 // Places are twips in the coordinates of the tab's page, as the surface's own place is. They are
@@ -34,7 +34,7 @@ Long ClampDesY(const SurfacePlace& surface, ScreenMetrics screen, Long y, Long h
 using MeasurePicture = std::function<PixelSize(const Text& file)>;
 
 /// One of the three free pictures. The box is what the mouse takes hold of; a stretched picture
-/// fills it, another one stands in it in its own size.
+/// fills it, another one is in it in its own size.
 struct PictureBox {
     SurfacePlace place;
     bool isVisible = false;
@@ -47,7 +47,7 @@ using PictureBoxes = std::array<PictureBox, section::kDesPictureCount>;
 /// Lays the free pictures out. The record follows: a picture that isn't stretched gives it its
 /// size, one that is larger than the surface becomes a stretched one, and every place is moved
 /// inside the surface. A picture that can't be read ends the work with its `RunError`; the slots
-/// behind it stay as they were.
+/// after it stay as they were.
 void LayOutPictures(section::DesPictures& record, PictureBoxes& boxes, SurfacePlace& surface,
                     ScreenMetrics screen, const MeasurePicture& measure);
 
@@ -85,7 +85,7 @@ struct LogotypeSurround {
     bool isOnPicture = false;
 };
 
-/// Where a logotype of that size stands. Kept: one placed right follows the width of the tab and
+/// Where a logotype of that size is. Kept: one placed right follows the width of the tab and
 /// not the surface's. A metafile takes the size of its record in place of its own.
 LogotypeBox PlaceLogotype(const section::DesLogotype& record, const LogotypeSurround& surround,
                           PixelSize size);
@@ -124,7 +124,7 @@ TextBoxLayout LayOutTextBox(section::DesTextBox& record, const SurfacePlace& sur
 ShownBox LayOutRTFbox(section::DesRTFbox& record, const SurfacePlace& surface,
                       ScreenMetrics screen);
 
-/// Where the file's name stands in the RTF box, in twips.
+/// Where the file's name is in the RTF box, in twips.
 inline constexpr Long kRTFNameLeft = 360;
 inline constexpr Long kRTFNameTop = 30;
 

@@ -9,7 +9,7 @@ namespace quillon {
 /// Where the text is kept: in the folder for it beside the tool.
 Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename);
 
-/// The name that the editor proposes for a box without a file: the project's own with "rtf" behind
+/// The name that the editor proposes for a box without a file: the project's own with "rtf" after
 /// its dot. Kept: an unsaved project has no ".qnp" to find, and is given "rtf" alone.
 Text ProposedRTFfilename(const Text& projectFileName);
 

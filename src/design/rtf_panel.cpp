@@ -59,7 +59,7 @@ std::vector<LetterRun> InCapitals(const Text& word, RtfStyle::Capitals capitals)
     return runs;
 }
 
-// A part of a run that a line does not break: a word with the blanks behind it, or a tab.
+// A part of a run that a line does not break: a word with the blanks after it, or a tab.
 struct Word {
     Text text;
     const RtfStyle* style = nullptr;
@@ -173,7 +173,7 @@ private:
                     .height = letters_.Height(font),
                     .foreground = style.foreground == kNoColour ? 0 : style.foreground,
                     .background = style.background};
-        // The space behind the last letter belongs to it too.
+        // The space after the last letter belongs to it too.
         piece.width = std::max(piece.line.width + spacing, 0);
         if (style.height == RtfStyle::Height::Superscript)
             piece.rise = font.size / 2;

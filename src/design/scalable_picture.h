@@ -53,7 +53,7 @@ private:
     Draw draw_;
     std::int64_t drawingMemory_ = 0;
     std::optional<Colour> transparent_;
-    // The pixels, and behind them each time half of what is before. Where much larger pixels are
+    // The pixels, and after them each time half of what is before. Where much larger pixels are
     // made smaller in one size after the other, most of the work is done once.
     mutable std::vector<Picture> halves_;
     mutable Picture sized_;

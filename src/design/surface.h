@@ -1,4 +1,4 @@
-// The preview surface of the setup's background: where it stands on its tab, and what it is painted
+// The preview surface of the setup's background: where it is on its tab, and what it is painted
 // with.
 #pragma once
 

@@ -7,7 +7,7 @@ namespace quillon {
 
 enum class SurfaceEditor { Title, Underline, Background };
 
-/// What stands on the surface from its top downwards.
+/// What is on the surface from its top downwards.
 struct SurfaceTexts {
     Integer fontSize = 0; // of the title, points
     Integer UnderlineType = 0;

@@ -50,7 +50,7 @@ public:
 private:
     bool IsBlank(std::size_t at) const { return text_[begins_[at]] == ' '; }
 
-    /// Behind the last code point of the line that begins at `first`.
+    /// After the last code point of the line that begins at `first`.
     std::size_t LineEnd(std::size_t first) const
     {
         const std::size_t count = begins_.size() - 1;

@@ -6,7 +6,7 @@
 namespace quillon {
 
 /// `box` is the panel in pixels of the painted screen. Lines below its edge are cut. With
-/// `isFilled` off the text stands on what is there already.
+/// `isFilled` off the text is painted on what is there already.
 void PaintTextPanel(const Canvas& canvas, Letters& letters, const PixelRect& box,
                     const section::DesTextBox& record, const ScreenScale& scale, bool isFilled);
 

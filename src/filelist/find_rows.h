@@ -1,4 +1,4 @@
-// Looks for rows by what stands in them.
+// Looks for rows by what is in them.
 #pragma once
 
 #include "project/file_list.h"
@@ -9,7 +9,7 @@
 namespace quillon {
 
 enum class FindStep {
-    Here, // the row itself, or the first one behind it
+    Here, // the row itself, or the first one after it
     Next,
     Previous
 };

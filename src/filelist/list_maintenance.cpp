@@ -63,7 +63,7 @@ std::optional<NewPlaces> AddEmptyDirectoryCommand(const ListWork& work)
     }
     if (!CheckRowText(*folder, "Katalogen", work.ask) || !MayBeDestination(*folder, work.ask))
         return std::nullopt;
-    // Kept: the answer stands in the row as it was typed.
+    // Kept: the answer is in the row as it was typed.
     FileListRow& row = files.rows.emplace_back();
     row[Filename] = kEmptyFolderName;
     row[Destination] = *folder;

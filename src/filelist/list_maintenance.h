@@ -11,7 +11,7 @@
 
 namespace quillon {
 
-/// Asks for a folder that the setup makes empty. Where each of the former rows stands afterwards;
+/// Asks for a folder that the setup makes empty. Where each of the former rows is afterwards;
 /// nothing where the list is as it was.
 std::optional<NewPlaces> AddEmptyDirectoryCommand(const ListWork& work);
 

@@ -45,7 +45,7 @@ Text CheckMainDirectory(std::string_view typed, Ask& ask)
     }
     if (text.ends_with('\\'))
         text.pop_back();
-    // Kept: one of the allowed variables lets the text pass, whatever else stands in it.
+    // Kept: one of the allowed variables lets the text pass, whatever else is in it.
     if (HoldsAllowedVariable(text))
         return text;
     if (text.find('%') != Text::npos)

@@ -32,7 +32,7 @@ Text ProposedSearch(const FileListRow& row, ReplaceIn where);
 /// from A to Z.
 Text AsOptionLetters(const Text& typed);
 
-/// False, and tells why, where no row can hold the replacement.
+/// False, and shows why, where no row can hold the replacement.
 bool MayReplaceWith(const Text& with, ReplaceIn where, Ask& ask);
 
 /// How many rows were changed. Their order is the caller's to mend (see `SortRows`).

@@ -14,7 +14,7 @@ namespace quillon {
 Text TabSeparatedRows(const FileList& list, std::span<const std::size_t> rows,
                       std::span<const Column> columns);
 
-// What the clipboard calls rows that are whole. Behind a line with this name they stand as in a
+// What the clipboard calls rows that are whole. After a line with this name they stand as in a
 // project file, in Windows-1252.
 inline constexpr const char* kRowsFormat = "application/x-quillon-rows";
 

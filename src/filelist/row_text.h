@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-/// False, and tells why, where the text cannot stand in a row: a semicolon would cut the row in two
+/// False, and shows why, where the text cannot be in a row: a semicolon would cut the row in two
 /// in the project file. `what` is the text as the user knows it, "Källsökvägen".
 bool CheckRowText(const Text& text, const Text& what, Ask& ask);
 
@@ -20,7 +20,7 @@ Text TypedDestinationFaultText(const Text& destination);
 /// The same of a text in which a character below the blank would break the row's line.
 Text ControlCharacterFaultText(const Text& path);
 
-/// False, and tells why, where no row can have the destination.
+/// False, and shows why, where no row can have the destination.
 bool MayBeDestination(const Text& destination, Ask& ask);
 
 } // namespace quillon

@@ -31,7 +31,7 @@ constexpr VariablePrefix kPrefixes[] = {
 };
 // clang-format on
 
-// A single letter may as well begin a folder behind the completed variable.
+// A single letter may as well begin a folder after the completed variable.
 constexpr std::size_t kMeansAnotherVariable = 2;
 
 bool BeginsVariable(std::string_view text)

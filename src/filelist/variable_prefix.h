@@ -1,5 +1,5 @@
 // Help while a variable is typed: the first letters of one become the whole word, and a variable in
-// small letters, which the setup would not know, is told.
+// small letters, which the setup would not know, is reported.
 #pragma once
 
 #include "platform/ask.h"
@@ -10,7 +10,7 @@
 namespace quillon {
 
 /// The kinds of fields that complete variables. They differ in which variables make sense there,
-/// and in whether a file name is still to follow behind the variable.
+/// and in whether a file name is still to follow after the variable.
 enum class PrefixTable {
     MainFolder,        // tDestinationDirectory
     ProgramOrDocument, // tProgramName1, tProgramName2, tDocumentFileName
@@ -23,13 +23,13 @@ enum class PrefixTable {
 std::optional<Text> CompleteVariablePrefix(std::string_view text, PrefixTable table);
 
 /// Follows a user who types a variable in full although it was completed at its first letters: what
-/// already stands there is not put in once more.
+/// already is there is not put in once more.
 class TypedThrough {
 public:
     /// `typed` is the prefix that became `completion`.
     TypedThrough(std::string_view typed, std::string_view completion);
 
-    /// What the field shows now that this character came behind the completion; nothing where it
+    /// What the field shows now that this character came after the completion; nothing where it
     /// shows the character as it is.
     std::optional<Text> Type(std::string_view character);
     /// False once the user has left the completion's own letters; later characters mean themselves.

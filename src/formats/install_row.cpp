@@ -24,7 +24,7 @@ struct FieldRule {
     Behind behind;
 };
 
-// The fields behind the key, in the order on the line.
+// The fields after the key, in the order on the line.
 constexpr FieldRule kFields[] = {
     // clang-format off
     {&InstallRow::name,           Behind::Semicolon},

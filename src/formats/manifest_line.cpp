@@ -39,7 +39,7 @@ std::optional<ManifestLineText> ParseManifestLine(std::string_view& text)
     // Not by `substr`, whose failure would bring a hundred kilobytes of library into the starter.
     const ManifestLineText read{{line.data(), kDigestDigits},
                                 {line.data() + kNameAt, line.size() - kNameAt}};
-    // The second mark tells that the file was read as text or in binary, which is the same here.
+    // The second mark says that the file was read as text or in binary, which is the same here.
     const bool hasMarks = line[kDigestDigits] == ' ' &&
                           (line[kDigestDigits + 1] == ' ' || line[kDigestDigits + 1] == '*');
     return hasMarks && AreDigits(read.digits) ? std::optional(read) : std::nullopt;

@@ -70,7 +70,8 @@ Package OpenPackage(const FileSystem& files, const Text& folder);
 void ExtractRow(const FileSystem& files, Package& package, std::size_t row,
                 const ZipReader::Sink& sink);
 
-/// Reads everything in the package and tells each fault in a line; a package without one is whole.
+/// Reads everything in the package and reports each fault in a line; a package without one is
+/// whole.
 std::vector<Text> VerifyPackage(const FileSystem& files, Package& package);
 
 } // namespace quillon

@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-/// All that lies in the package's folder but the bytes of the rows: the starter, the setup, what it
+/// All that is in the package's folder but the bytes of the rows: the starter, the setup, what it
 /// is told by, and those of its helper programs that this installation takes.
 std::vector<Text> FixedFilesOf(const SetupInformation& setup, const std::vector<InstallRow>& rows);
 

@@ -21,7 +21,7 @@ inline constexpr int kPageHeight = 193;
 inline constexpr int kPictureWidthInPixels = 164;
 inline constexpr int kPictureHeightInPixels = 314;
 
-// Round what stands beside the picture, and round the buttons.
+// Round what is beside the picture, and round the buttons.
 inline constexpr int kMargin = 7;
 // Between the parts of a page: title, text, fields.
 inline constexpr int kGap = 6;

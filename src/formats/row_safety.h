@@ -9,14 +9,14 @@
 
 namespace quillon {
 
-/// The mark of an empty folder stands in place of a name.
+/// The mark of an empty folder is in place of a name.
 PathFault FaultOfRowName(std::string_view name);
 
 /// Folders stand for variables only where the setup expands them to one: "C:\%SYSDIR" has a second
 /// colon.
 PathFault FaultOfDestination(std::string_view destination);
 
-/// The folder below a tree package's own; empty where the file lies in that itself.
+/// The folder below a tree package's own; empty where the file is in that itself.
 PathFault FaultOfSourceFolder(std::string_view folder);
 
 /// The first fault of a row as FILELIST.INF has it. Its source folder counts in a tree alone: no
@@ -27,10 +27,10 @@ PathFault FaultOfRow(const InstallRow& row, bool isTree);
 /// stands. Empty where there is none.
 Text UnknownVariableIn(std::string_view destination);
 
-/// What is wrong, in words that go on behind a colon, without a dot at the end; Swedish.
+/// What is wrong, in words that go on after a colon, without a dot at the end; Swedish.
 Text PathFaultText(PathFault fault);
 
-/// The same as a sentence: "Namnet 'aux' fungerar inte i Windows: ...". Empty where nothing is
+/// The same as a sentence: "Namnet 'aux' fungerar inte i Windows: ...". Empty where nothing exists
 /// wrong.
 Text NameFaultText(std::string_view name);
 Text RowNameFaultText(std::string_view name);

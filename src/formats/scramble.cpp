@@ -74,7 +74,7 @@ Text Filler(const ScrambleSeed& seed)
     return filler;
 }
 
-// Each character of `from` becomes the one that stands at its place, moved by `places`, in `to`.
+// Each character of `from` becomes the one that is at its place, moved by `places`, in `to`.
 std::optional<Text> Substitute(std::string_view text, std::u32string_view from,
                                std::u32string_view to, std::size_t places)
 {

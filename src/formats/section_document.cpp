@@ -15,7 +15,7 @@ class DocumentReader {
 public:
     explicit DocumentReader(std::vector<DocumentSection> known) : known_(std::move(known)) {}
 
-    /// False behind the end of the file.
+    /// False after the end of the file.
     bool Take(const Text& line)
     {
         const bool inList = current_ && current_->kind != DocumentSection::Kind::Keys;

@@ -17,7 +17,7 @@ struct DocumentSection {
     Kind kind = Kind::Keys;
     std::vector<Text> lines = {};
 
-    /// What stands behind the key's "=" and the blank after that, the first such key counting.
+    /// What follows the key's "=" and the blank after that, the first such key counting.
     /// Nothing else is taken away: a value may begin or end with blanks or quotation marks.
     std::optional<Text> Value(std::string_view key) const;
     /// The same for a value of several lines, which goes on up to the line of `nextKey`.
@@ -34,11 +34,11 @@ struct SectionDocument {
     const DocumentSection* Find(std::string_view name) const;
 };
 
-/// The lines in front of the first section proper.
+/// The lines before the first section proper.
 std::vector<Text> FileHeaderLines(std::string_view fileType);
 
 /// `known` are the sections to look for. A line that looks like the header of any other section, or
-/// of one that came before, belongs to the text that it stands in.
+/// of one that came before, belongs to the text that it is in.
 SectionDocument ReadSectionDocument(const Text& text, std::string_view fileType,
                                     std::vector<DocumentSection> known);
 

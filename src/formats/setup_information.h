@@ -1,5 +1,5 @@
 // QNSETUP.INF read back: what the setup runtime knows of the project. The tables that the writer
-// walks stand beside this reader, so that both agree.
+// walks are beside this reader, so that both agree.
 #pragma once
 
 #include "helpers/number_text.h"

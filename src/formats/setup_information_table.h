@@ -15,7 +15,7 @@ inline constexpr const char* kFloppiesPlaceholder = "xxxx";
 // Marks each line of an INI list, so that none of them can be taken for the header of a section.
 inline constexpr char kIniListMark = '>';
 
-/// The forms in which a value can stand in this file.
+/// The forms in which a value can be in this file.
 enum class InfForm {
     AsBool,     // "1" or "0"
     AsCheckBox, // "1" for the value 1 and for no other
@@ -28,7 +28,7 @@ enum class InfForm {
     AsNameAlone,
     AsDlgBitmap, // as AsFile, but empty for the picture that the runtime has of its own
     AsRtfFile,   // a name in the tool's RTF folder
-    AsDocument,  // a bare name lies in the destination folder
+    AsDocument,  // a bare name is in the destination folder
     AsNoFirstBackslash,
     AsPxX, // pixels on file, twips in the record
     AsPxY,
@@ -39,7 +39,7 @@ enum class InfForm {
 template <class Record>
 using InfKey = Key<Record, InfForm>;
 
-/// A run of keys of one record. `suffix` stands directly behind each key's name.
+/// A run of keys of one record. `suffix` directly follows each key's name.
 template <class Record, std::size_t N>
 struct InfKeys {
     const InfKey<Record> (&keys)[N];
@@ -492,7 +492,7 @@ void EachListSection(Project& project, SetupInformation& info, Visitor& visit)
     visit("FileListInfo", Keys(inf::kFileListInfo, info));
 }
 
-/// The sections behind [ID], in the order on file. A section none of whose parts is written is left
+/// The sections after [ID], in the order on file. A section none of whose parts is written is left
 /// out. `info.project` is not looked at.
 template <class Visitor>
 void EachInfSection(Project& project, SetupInformation& info, Visitor& visit)

@@ -6,10 +6,10 @@
 
 namespace quillon {
 
-/// A CR becomes the bytes 157 158 and takes the character behind it away, whatever that is.
+/// A CR becomes the bytes 157 158 and takes the character after it away, whatever that is.
 Text EncodeLineBreaks(std::string_view text);
 
-/// A byte 157 becomes CR LF and takes the character behind it away, whatever that is.
+/// A byte 157 becomes CR LF and takes the character after it away, whatever that is.
 Text DecodeLineBreaks(std::string_view text);
 
 /// The text before its first CR LF.

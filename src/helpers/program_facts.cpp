@@ -16,7 +16,7 @@ constexpr std::uint16_t kIsLibrary = 0x2000;
 constexpr std::size_t kMaxImports = 4096;
 constexpr std::size_t kMaxNameLength = 260;
 constexpr std::size_t kMaxFrameworkLength = 80;
-// The metadata of the largest assemblies; the note that is looked for stands in them.
+// The metadata of the largest assemblies; the note that is looked for is in them.
 constexpr std::size_t kMaxMetadata = std::size_t{16} << 20;
 
 ProgramMachine MachineOf(std::uint16_t number)

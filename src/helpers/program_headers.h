@@ -1,6 +1,6 @@
 // The headers of a Windows program or library, 32-bit or 64-bit: which machine it is for, and where
 // its sections and tables lie in the file. Every offset comes from the file and is trusted no
-// further than reading there gives bytes. The layout is told in Microsoft's "PE Format" page.
+// further than reading there gives bytes. The layout is described in Microsoft's "PE Format" page.
 #pragma once
 
 #include <cstddef>
@@ -14,7 +14,7 @@
 
 namespace quillon {
 
-/// Fills the buffer from a position of the file and tells how many bytes there were; fewer than
+/// Fills the buffer from a position of the file and says how many bytes there were; fewer than
 /// asked for only at the file's end.
 using ReadFileAt = std::function<std::size_t(std::uint64_t position, std::span<std::byte> buffer)>;
 
@@ -53,7 +53,7 @@ public:
     std::optional<std::string> Bytes(std::uint64_t position, std::size_t count) const;
     /// Fewer where the file ends before.
     std::string BytesUpTo(std::uint64_t position, std::size_t count) const;
-    /// Where an address of the loaded program stands in the file.
+    /// Where an address of the loaded program is in the file.
     std::optional<std::uint64_t> FilePosition(std::uint32_t address) const;
 
 private:

@@ -15,7 +15,7 @@ using Sha256Digest = std::array<std::byte, 32>;
 class Sha256 {
 public:
     void Add(std::span<const std::byte> bytes);
-    /// Once, behind the last `Add`.
+    /// Once, after the last `Add`.
     Sha256Digest Finish();
 
 private:

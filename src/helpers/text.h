@@ -31,7 +31,7 @@ Text ReplaceAll(std::string_view text, std::string_view from, std::string_view t
 /// Cut at each CR LF; an empty text is one empty line, and a final CR LF gives a last empty line.
 std::vector<Text> SplitLines(std::string_view text);
 
-/// The text between the first `startMark` and the next `endMark` behind it; empty when either is
+/// The text between the first `startMark` and the next `endMark` after it; empty when either is
 /// missing. At most 2000 characters come back.
 Text StrBetween(std::string_view text, std::string_view startMark, std::string_view endMark);
 

@@ -57,7 +57,7 @@ bool IsUtf8(std::string_view text)
     for (std::size_t position = AsciiLength(text); position < text.size();
          position += AsciiLength(text, position)) {
         const std::size_t start = position;
-        // A replacement character that stands in the text has three bytes.
+        // A replacement character that is in the text has three bytes.
         if (NextCodePoint(text, position) == kReplacementCharacter && position == start + 1)
             return false;
     }

@@ -9,7 +9,7 @@ namespace quillon {
 
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
 
-/// The code point that begins at `position`, which is moved behind it.
+/// The code point that begins at `position`, which is moved after it.
 /// `position` must lie inside the text.
 char32_t NextCodePoint(std::string_view text, std::size_t& position);
 

@@ -1,5 +1,5 @@
-// The layout is told in Microsoft's "PE Format" and "VS_VERSIONINFO" pages. Every offset comes from
-// the file and is trusted no further than reading there gives bytes.
+// The layout is described in Microsoft's "PE Format" and "VS_VERSIONINFO" pages. Every offset comes
+// from the file and is trusted no further than reading there gives bytes.
 #include "helpers/version_resource.h"
 
 #include "helpers/number_text.h"
@@ -45,7 +45,7 @@ private:
     std::optional<std::string> Leaf(std::uint32_t offset) const;
 
     ProgramHeaders headers_;
-    std::uint64_t tree_ = 0; // where the resource tree stands in the file
+    std::uint64_t tree_ = 0; // where the resource tree is in the file
 };
 
 bool ResourceTree::Open()

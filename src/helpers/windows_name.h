@@ -15,7 +15,7 @@ enum class PathFault {
     Device,          // CON, NUL, COM1 and the like, also with an extension
     TooLong,         // more characters than a name can have
     Climbs,          // ".."
-    Colon,           // anywhere but behind the letter of a drive
+    Colon,           // anywhere but after the letter of a drive
     NotWhole,        // no folder at all, or one that depends on where somebody stands: "C:Data"
     UnknownVariable, // at the beginning, where it has to stand for a folder
 };
@@ -24,7 +24,7 @@ enum class PathFault {
 PathFault FaultOfName(std::string_view name);
 
 /// What keeps this text, without variables, from being a folder: on a drive, on a network share, or
-/// below a folder that is told elsewhere. Slashes count as backslashes, and empty parts for
+/// below a folder that is given elsewhere. Slashes count as backslashes, and empty parts for
 /// nothing.
 PathFault FaultOfFolder(std::string_view path);
 

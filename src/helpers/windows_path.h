@@ -1,4 +1,4 @@
-// Windows paths as texts. The functions here only cut and join; whether anything lies at a path is
+// Windows paths as texts. The functions here only cut and join; whether anything is at a path is
 // the file system's to say.
 #pragma once
 
@@ -9,18 +9,18 @@ namespace quillon {
 // The longest path that the tool's path functions answer with, in characters.
 inline constexpr std::size_t kMaxPathLength = 300;
 
-/// What stands behind the last backslash; the whole path where there is none.
+/// What follows the last backslash; the whole path where there is none.
 Text ExtractFilename(std::string_view path);
 
-/// What stands before the last backslash; of "C:\a.txt" it is "C:\", with the backslash that makes
+/// What precedes the last backslash; of "C:\a.txt" it is "C:\", with the backslash that makes
 /// it a root. Empty where the path has no folder.
 Text ExtractDirectory(std::string_view path);
 
-/// The name with what stands behind its last dot replaced by `extension` (given without dot); a
+/// The name with what follows its last dot replaced by `extension` (given without dot); a
 /// name without a dot gets one.
 Text ChangeFilenameExt(std::string_view name, std::string_view extension);
 
-/// Everything behind the first dot from the left, so that `a.b.ttf` has the extension `b.ttf`.
+/// Everything after the first dot from the left, so that `a.b.ttf` has the extension `b.ttf`.
 Text ExtensionFromFirstDot(std::string_view name);
 
 Text RemoveLastBackslash(std::string_view path);
@@ -38,13 +38,13 @@ Text ResolvePath(std::string_view path);
 /// Whether it is a drive and no more: "C:" or "C:\".
 bool IsDriveRoot(std::string_view path);
 
-/// Display case: all in lower case, then an upper-case letter first and behind each backslash.
+/// Display case: all in lower case, then an upper-case letter first and after each backslash.
 Text FormatPathForDisplay(std::string_view path);
 
 /// The casing in which the tool's own paths are shown and stored; it is the display case.
 Text PrettyPath(std::string_view path);
 
-/// Without the drive and the backslash behind it: "c:\data\a.txt" gives "data\a.txt". A network
+/// Without the drive and the backslash after it: "c:\data\a.txt" gives "data\a.txt". A network
 /// path loses its leading backslashes.
 Text WithoutDrive(std::string_view path);
 

@@ -16,7 +16,7 @@ std::optional<DepSection> ChooseSection(Ask& ask, Text& lastDepFileDir)
     if (!depFile)
         return std::nullopt;
     lastDepFileDir = ExtractDirectory(*depFile);
-    // The component mostly lies beside its dependency file.
+    // The component mostly is beside its dependency file.
     const auto component =
         ask.OpenFile({.title = "Välj tillhörande binär fil",
                       .folder = lastDepFileDir,

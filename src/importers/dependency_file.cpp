@@ -119,7 +119,7 @@ int DependencyFiles::AddFilesOf(const DepSection& section, ProfileReader& reader
         if (!HasDot(path))
             continue;
         AddFile(value, path, section, done);
-        // Kept: behind a name without a point the walk goes on in the section that it came to.
+        // Kept: after a name without a point the walk goes on in the section that it came to.
         if (AddFilesOfInnerSection(LowerCase(NameOf(value)), section, reader, done) ==
             Walked::ToItsEnd)
             reader.SetIniSection(section.SectionName);

@@ -55,11 +55,11 @@ public:
     DependencyFiles& operator=(const DependencyFiles&) = delete;
 
     /// Adds the files that the section names and those that their own sections in the same file
-    /// name. A failure is told in a box and ends the section; rows added so far stay. False where
-    /// the file was found to name nothing.
+    /// name. A failure is reported in a message box and ends the section; rows added so far stay.
+    /// False where the file was found to name nothing.
     bool AddFilesToFileListViaDepFile(const DepSection& section);
 
-    /// The same, and then for each file of the section the dependency file that lies beside it.
+    /// The same, and then for each file of the section the dependency file that is beside it.
     void AddWithSecondLevel(const DepSection& section);
 
     /// All that a component of the system folder needs, by the dependency file beside it.

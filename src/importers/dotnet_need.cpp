@@ -26,7 +26,7 @@ Text TextOf(const Json& object, const char* key)
     return found != object.end() && found->is_string() ? found->get<Text>() : Text();
 }
 
-// The most telling of several: the desktop's framework stands on that of all programs.
+// The most telling of several: the desktop's framework is on that of all programs.
 const Json* FrameworkOf(const Json& options)
 {
     if (const auto one = options.find("framework"); one != options.end() && one->is_object())

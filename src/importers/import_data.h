@@ -54,7 +54,7 @@ private:
 };
 
 /// The table of the tool's folder, then that of the folder where the tool writes, if one lies
-/// there. What is missing or damaged is told in a box.
+/// there. What is missing or damaged is reported in a message box.
 ImportData ReadImportData(const FileSystem& files, const Text& toolFolder, const Text& ownFolder,
                           Ask& ask);
 

@@ -18,7 +18,7 @@ struct FolderChoices {
 /// True where the setup's test for the .NET Framework covers what the program needs.
 bool CanTestFor(const DotNetNeed& need);
 
-/// False, with a box, where there is no folder or no program in it.
+/// False, with a message box, where there is no folder or no program in it.
 bool HasProgram(const ProgramFolder& folder, Ask& ask);
 
 /// `program` is a place in the folder's files.

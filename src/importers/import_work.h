@@ -25,7 +25,7 @@ public:
     virtual bool EditIcon(FileListRow& row, const Text& title) = 0;
 
     virtual void HideDialog() {}
-    /// Shows the dialog again for work that takes its time behind the program's questions.
+    /// Shows the dialog again for work that takes its time after the program's questions.
     virtual void ShowDialog() {}
     virtual void UpdateStatusBar() {}
     /// Comes before each file that is looked at; false stops the import.
@@ -45,7 +45,7 @@ enum class ImportEnd {
     Refused,   // by a check, before anything changed
     Cancelled, // where the destination was asked; the rows so far stay
     Stopped,   // by the user in its midst; the rows so far stay
-    Failed     // told in a box; the rows so far stay
+    Failed     // reported in a message box; the rows so far stay
 };
 
 /// Why a file that the import came upon has no new row.
@@ -78,12 +78,12 @@ struct NotAddedFile {
 
 struct ImportResult {
     ImportEnd end = ImportEnd::Done;
-    // Where each row stands now, by its number so far: those from before, then the new ones.
+    // Where each row is now, by its number so far: those from before, then the new ones.
     NewPlaces places;
     // Where the rows stand that the import has made or filled, ascending.
     std::vector<std::size_t> added;
     std::vector<NotAddedFile> notAdded;
-    // Where the program's row stands, where it is a new one; it is to be selected.
+    // Where the program's row is, where it is a new one; it is to be selected.
     std::optional<std::size_t> newProgram;
 };
 

@@ -27,7 +27,7 @@ constexpr std::array<std::string_view, 7> kProgramExtensions = {".exe", ".dll", 
 constexpr std::array<std::string_view, 10> kBuildExtensions = {
     ".pdb", ".ilk", ".exp", ".lib", ".obj", ".iobj", ".ipdb", ".o", ".a", ".def"};
 
-// Programs that stand beside many others and start none of them.
+// Programs that are beside many others and start none of them.
 constexpr std::array<std::string_view, 9> kHelpers = {
     "unins",   "crashpad_handler", "createdump", "qtwebengineprocess", "vc_redist", "vcredist",
     "elevate", "squirrel",         "update"};

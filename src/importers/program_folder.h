@@ -1,4 +1,4 @@
-// What lies in the output folder of a build, and what its program needs beyond the folder.
+// What is in the output folder of a build, and what its program needs beyond the folder.
 #pragma once
 
 #include "filelist/list_work.h"
@@ -37,7 +37,7 @@ struct MixedMachine {
 
 struct ProgramFolder {
     Text folder;
-    std::vector<FolderFile> files; // those of a folder behind those of its subfolders
+    std::vector<FolderFile> files; // those of a folder after those of its subfolders
     // The programs that may be the main one, the likeliest first; places in `files`.
     std::vector<std::size_t> programs;
     // What ended the reading before its end, in words; empty where all was read.

@@ -10,7 +10,7 @@ namespace quillon {
 
 namespace {
 
-// Letters with a zero behind each: two bytes a unit, saved without a mark.
+// Letters with a zero after each: two bytes a unit, saved without a mark.
 bool LooksLikeUtf16(std::string_view bytes)
 {
     return bytes.size() >= 4 && bytes[0] != '\0' && bytes[1] == '\0' && bytes[2] != '\0' &&

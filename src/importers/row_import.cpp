@@ -62,7 +62,7 @@ void RowImport::Pass(const Text& file, NotAdded why)
     Pass(file, why, file);
 }
 
-// Files of one name from several folders are told each.
+// Files of one name from several folders are reported each.
 void RowImport::Pass(const Text& file, NotAdded why, const Text& path)
 {
     const NotAddedFile entry{file, why};
@@ -212,7 +212,7 @@ bool RowImport::AddProgram(const Text& program, ImportEnd& end, const Text& subf
     end = ImportEnd::Stopped;
     if (isStopped_)
         return false;
-    // A program that was in the list before has a row too, wherever it stands.
+    // A program that was in the list before has a row too, wherever it is.
     programRow_ = RowOfFile(file);
     return true;
 }

@@ -40,7 +40,7 @@ public:
 
     /// True where any row with a file has this name, whatever its folder.
     bool PassIfListed(const Text& name);
-    /// A file that was not added. What is told of it is told once.
+    /// A file that was not added. What is told of it is reported once.
     void Pass(const Text& file, NotAdded why);
 
     /// Asks for the destination and adds the program, in a subfolder of it where one is given.
@@ -101,17 +101,18 @@ struct ImportChecks {
     const char* projectMissing;
 };
 
-/// False, with a box, where project or program are not chosen.
+/// False, with a message box, where project or program are not chosen.
 bool AreFilesChosen(const Text& project, const Text& program, const ImportChecks& texts, Ask& ask);
 
 /// False, with a box that says what to do, where this machine has no system folder with files.
 /// `what` is taken from there: "Visual Basics filer".
 bool HasSystemFolder(Host host, Ask& ask, const Text& what);
 
-/// The lines of a project file. What can't be read is told in a box; what was read counts.
+/// The lines of a project file. What can't be read is reported in a message box; what was read
+/// counts.
 std::vector<Text> LinesOrTell(const FileSystem& files, const Text& path, Ask& ask);
 
-/// Runs an import's steps under a busy pointer; a failure is told, and the rows so far stay.
+/// Runs an import's steps under a busy pointer; a failure is reported, and the rows so far stay.
 ImportResult RunImport(const ImportWork& work, const std::function<ImportEnd(RowImport&)>& steps);
 
 } // namespace quillon

@@ -15,14 +15,14 @@ inline constexpr ImportChecks kVbChecks = {
 // What is taken from the system folder.
 inline constexpr const char* kVbFiles = "Visual Basics filer";
 
-/// False, with a box, where the folder of this version is not told or not there.
+/// False, with a message box, where the folder of this version is not told or not there.
 bool IsVbFolderThere(const char* version, const Text& folder, const FileSystem& files, Ask& ask);
 
-/// The ActiveX files that a project file names. What of it can't be read is told in a box; what was
-/// read counts.
+/// The ActiveX files that a project file names. What of it can't be read is reported in a message
+/// box; what was read counts.
 std::vector<Text> ReadActiveXFiles(const FileSystem& files, const Text& project, Ask& ask);
 
-/// An ActiveX file that the project names. One that is not in the system folder is told.
+/// An ActiveX file that the project names. One that is not in the system folder is reported.
 void AddControl(RowImport& import, const Text& name);
 
 struct ClosingMessage {

@@ -32,7 +32,7 @@ std::optional<Text> ActiveXFileIn(std::string_view line)
     if (object == std::string_view::npos ||
         line.find(kBeforeName, object + kObject.size()) == std::string_view::npos)
         return std::nullopt;
-    // Kept: the name begins behind the first such mark of the line, wherever that stands.
+    // Kept: the name begins after the first such mark of the line, wherever that is.
     Text name = WithoutQuotes(line.substr(line.find(kBeforeName) + kBeforeName.size()));
     if (name.empty())
         return std::nullopt;

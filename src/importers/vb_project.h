@@ -10,7 +10,7 @@
 namespace quillon {
 
 /// The ActiveX file that a line names: "Object={GUID}#1.0#0; NAME.OCX" gives "NAME.OCX". Nothing on
-/// other lines, and where no file stands behind the GUID, as for a control of another project.
+/// other lines, and where no file follows the GUID, as for a control of another project.
 std::optional<Text> ActiveXFileIn(std::string_view line);
 
 /// "Module=basMain; ..\Common\Main.bas"
@@ -23,7 +23,7 @@ std::optional<VbModule> ModuleIn(std::string_view line);
 // No project has as many; a file that names more is none.
 inline constexpr std::size_t kMaxReferences = 1000;
 
-/// What is told where more stand in a file; `what` is "ActiveX-filer".
+/// What is told where more are in a file; `what` is "ActiveX-filer".
 Text TooManyReferencesText(const Text& path, const Text& what);
 
 struct ActiveXFiles {

@@ -29,7 +29,7 @@ std::optional<ComReferences> ComReferencesOf(const std::vector<Text>& lines)
     for (auto line = list + 1; line != lines.end(); ++line) {
         if (!ContainsText(*line, "Guid = \"{"))
             continue;
-        // Kept: the two versions are the next two lines, whatever stands there.
+        // Kept: the two versions are the next two lines, whatever is there.
         references.isCut = references.list.size() == kMaxReferences;
         if (lines.end() - line <= 2 || references.isCut)
             break;

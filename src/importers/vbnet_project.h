@@ -1,5 +1,5 @@
 // What a Visual Basic .NET project file (.vbproj) of 2002 or 2003 names. It looks like XML and is
-// read by its lines: each attribute stands on one of its own.
+// read by its lines: each attribute is on one of its own.
 #pragma once
 
 #include "helpers/text.h"

@@ -30,7 +30,7 @@ enum Compression : std::uint32_t {
 
 bool IsKnownHeader(std::size_t size)
 {
-    // OS/2 lets a long header end behind any field.
+    // OS/2 lets a long header end after any field.
     return size == kOs2Header || (size >= 16 && size <= kOs2LongHeader && size % 2 == 0) ||
            size == 108 || size == kMaxHeaderSize;
 }

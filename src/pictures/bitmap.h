@@ -28,7 +28,7 @@ struct BitmapHeader {
     std::uint32_t compression = 0;
     std::uint32_t colours = 0;   // of the palette
     std::uint32_t masks[4] = {}; // red, green, blue, alpha
-    std::size_t masksSize = 0;   // behind the header
+    std::size_t masksSize = 0;   // after the header
     std::size_t PixelsOffset() const
     {
         return headerSize + masksSize + std::size_t{colours} * (isOs2 ? 3 : 4);
@@ -38,7 +38,7 @@ struct BitmapHeader {
 /// From the header on. A fault where nothing can be decoded.
 PictureFault ReadBitmapHeader(PictureBytes dib, BitmapHeader& header);
 
-/// The pixels lie at `pixels`; 0 is right behind the colours.
+/// The pixels lie at `pixels`; 0 is right after the colours.
 DecodedPixels DecodeBitmap(PictureBytes dib, const BitmapHeader& header, std::size_t pixels = 0);
 
 } // namespace quillon

@@ -148,7 +148,7 @@ FinePoints ArcOf(const FineRect& rect, FinePoint from, FinePoint to)
     const Meeting end = MeetingOf(ellipse, centre, to);
     FinePoints points{begin.point};
     std::size_t count = (end.behind + ellipse.size() - begin.behind) % ellipse.size();
-    // Both behind one point: a small piece, or all but one.
+    // Both after one point: a small piece, or all but one.
     if (count == 0 && Cross(centre, begin.point, end.point) >= 0)
         count = ellipse.size();
     for (std::size_t i = 1; i <= count; ++i)

@@ -24,7 +24,7 @@ using FinePoints = std::vector<FinePoint>;
 /// Closed outlines, one behind the other.
 struct FinePath {
     FinePoints points;
-    std::vector<std::size_t> ends; // behind each outline's last point
+    std::vector<std::size_t> ends; // after each outline's last point
 
     void Close()
     {
@@ -33,7 +33,7 @@ struct FinePath {
     }
 };
 
-/// The first row or column of pixels whose middle lies at or behind the place.
+/// The first row or column of pixels whose middle is at or after the place.
 inline std::int32_t FirstPixelFrom(std::int64_t fine)
 {
     const std::int64_t shifted = fine + kFine / 2 - 1;

@@ -75,7 +75,7 @@ bool CheckRecords(Metafile& file, std::size_t declaredSize, bool needsWindow)
             needsWindow = false;
         }
     }
-    // Some programs leave the last record out; then the size tells whether the file is cut.
+    // Some programs leave the last record out; then the size says whether the file is cut.
     const bool isWhole = RecordsOf(file).Size() + metafile::kHeader >= declaredSize;
     return !needsWindow && !reader.IsDamaged() && (reader.HasEnd() || isWhole);
 }

@@ -20,7 +20,7 @@ std::uint8_t TableAt(const MetafileRecord& record)
     return record.given.Byte(2);
 }
 
-/// Where a place of the target lies in the source.
+/// Where a place of the target is in the source.
 class Sampling {
 public:
     Sampling(std::int32_t from, std::int32_t to, int first, int length)
@@ -68,7 +68,7 @@ void MetafilePlayer::PlayBlit(const Blit& blit, PictureBytes dib)
     if (!source)
         return;
     Blit placed = blit;
-    // Some records count the rows of a bitmap as it lies in the file.
+    // Some records count the rows of a bitmap as it is in the file.
     if (blit.countsFromBottom && dib.SignedLong(8) > 0)
         placed.top = source->height - blit.top - blit.height;
     PaintBlit(placed, *source);

@@ -74,7 +74,7 @@ void MetafilePlayer::CreateFontObject(const Record& record)
 
 void MetafilePlayer::CreateRegion(const Record& record)
 {
-    // The rectangle stands behind six numbers about the rest.
+    // The rectangle follows six numbers about the rest.
     constexpr std::size_t kRect = 7;
     if (!record.given.Has(0, (kRect + 4) * 2)) {
         objects_.Add({});

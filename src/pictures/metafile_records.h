@@ -1,4 +1,4 @@
-// The records of a metafile (WMF) and where they stand: a head of its own in most files from
+// The records of a metafile (WMF) and where they are: a head of its own in most files from
 // programs that draw ("placeable"), the header, then one call of the graphics system after another.
 #pragma once
 
@@ -73,7 +73,7 @@ struct MetafileRecord {
     std::int16_t operator[](std::size_t word) const { return given.Short(word * 2); }
 };
 
-/// Goes from record to record; false behind the last one, and from where the file is damaged.
+/// Goes from record to record; false after the last one, and from where the file is damaged.
 class MetafileReader {
 public:
     explicit MetafileReader(PictureBytes records) : records_(records) {}

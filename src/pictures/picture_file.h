@@ -1,6 +1,6 @@
 // Picture files as the screen and the pages of a setup show them: bitmaps, JPEG pictures and
-// metafiles, told apart by what is in the file. Tool and setup read them by this code, so that both
-// show the same pixels; only what a JPEG file holds is decoded by the system's own means.
+// metafiles, distinguished by what is in the file. Tool and setup read them by this code, so that
+// both show the same pixels; only what a JPEG file holds is decoded by the system's own means.
 //
 // Files come from anywhere. Whatever is in one, reading it ends soon and takes no more than 256 MiB
 // with all that it needs on the way; what is damaged or too large gives a reason. Who keeps several

@@ -1,6 +1,6 @@
 // A raster that outlines are filled on, without smoothing: who wants smooth edges fills a larger
 // one and makes it smaller, so that neighbours meet without a seam and colours that are combined
-// with what lies below come out exactly.
+// with what is below come out exactly.
 #pragma once
 
 #include "design/canvas.h"
@@ -14,7 +14,7 @@ struct Picture;
 
 enum class FillRule { EvenOdd, NonZero };
 
-/// How a source and what lies below become a pixel: bit 2 * s + d of it is the result for the bits
+/// How a source and what is below become a pixel: bit 2 * s + d of it is the result for the bits
 /// s and d.
 using Combination = std::uint8_t;
 inline constexpr Combination kCopy = 0xC;
@@ -73,7 +73,7 @@ private:
     WorkLeft& work_;
 };
 
-/// Whether the pixel lies in the clip.
+/// Whether the pixel is in the clip.
 bool Contains(const RasterClip& clip, int x, int y);
 
 } // namespace quillon

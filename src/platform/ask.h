@@ -18,7 +18,7 @@ enum class Answer { Yes, No, Cancel };
 struct FileQuestion {
     Text title;
     Text folder;   // where it opens; empty, or no longer there: where the system thinks best
-    Text fileName; // what stands in its name field; "*.ini" shows the files of that kind alone
+    Text fileName; // what is in its name field; "*.ini" shows the files of that kind alone
     // Captions and their patterns by turns: "Projektfiler (*.qnp)|*.qnp|Alla filer (*.*)|*.*".
     Text filter;
     Text defaultExtension; // ".qnp", for a typed name that has none
@@ -33,7 +33,7 @@ struct FileQuestion {
 struct DestinationQuestion {
     enum class Place { User, System, Windows };
     Place place = Place::User;
-    Text folder; // what stands in the field of the user's own folder
+    Text folder; // what is in the field of the user's own folder
 };
 
 class Ask {

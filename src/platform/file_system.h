@@ -25,7 +25,8 @@ struct FileStatus {
     bool isHidden = false;
     bool isArchive = false;
     bool isSystem = false;
-    // The same on every way that leads to a file or folder, links included; 0 where none is told.
+    // The same on every way that leads to a file or folder, links included; 0 where none is
+    // reported.
     std::uint64_t identity = 0;
 };
 
@@ -53,7 +54,7 @@ public:
     /// Overwrites bytes that were written before; the end of the file stays where it is.
     virtual void WriteAt(std::uint64_t position, std::span<const std::byte> bytes) = 0;
     virtual std::uint64_t Position() const = 0;
-    /// Waits until what was written lies on the disk itself, where a power failure leaves it.
+    /// Waits until what was written is on the disk itself, where a power failure leaves it.
     virtual void Flush() {}
     /// Ends the writing; a failure that shows only now is thrown from here.
     virtual void Close() = 0;
@@ -76,16 +77,16 @@ public:
 
     virtual bool FileExists(const Text& path) const = 0;
     virtual bool DirExists(const Text& path) const = 0;
-    /// Throws 53 or 76 where nothing stands at the path.
+    /// Throws 53 or 76 where nothing exists at the path.
     virtual FileStatus Status(const Text& path) const = 0;
-    /// What lies in a folder, without "." and "..", in byte order of the names.
+    /// What is in a folder, without "." and "..", in byte order of the names.
     virtual std::vector<FolderEntry> List(const Text& folder) const = 0;
 
     virtual std::unique_ptr<InputFile> OpenInput(const Text& path) const = 0;
     /// An existing file is emptied.
     virtual std::unique_ptr<OutputFile> OpenOutput(const Text& path) = 0;
-    /// A file where nothing stands yet; nothing comes back where something does. It is this
-    /// program's for as long as the output lives, also behind `Close`.
+    /// A file where nothing exists yet; nothing comes back where something does. It is this
+    /// program's for as long as the output lives, also after `Close`.
     virtual std::unique_ptr<OutputFile> OpenNew(const Text& path)
     {
         return FileExists(path) || DirExists(path) ? nullptr : OpenOutput(path);
@@ -115,7 +116,7 @@ public:
     /// The file under a second name as well, at which nothing stands; a copy where the disk has no
     /// links.
     virtual void KeepUnder(const Text& path, const Text& second) { CopyContent(path, second); }
-    /// Where the file lies that a link stands for; the path itself where there is no link.
+    /// Where the file is that a link leads to; the path itself where there is no link.
     virtual Text RealPath(const Text& path) const { return path; }
     virtual void SetModified(const Text& path, const LocalTime& time) = 0;
     virtual void SetReadOnly(const Text& path, bool readOnly) = 0;

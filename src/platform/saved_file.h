@@ -3,7 +3,7 @@
 // The new bytes go into a temporary file beside the old one, "name.tmp1" and so on, which is
 // brought to the disk and then takes the old one's place in one step. Whatever happens on the way,
 // a full disk, a kill, a power failure, leaves the old file whole. What a killed program left
-// behind is cleared by the next one that saves the same file; a temporary file in which another
+// after is cleared by the next one that saves the same file; a temporary file in which another
 // program is still writing is passed by.
 #pragma once
 

@@ -12,7 +12,7 @@ std::string ReadWholeFile(const FileSystem& files, const Text& path);
 
 void WriteWholeFile(FileSystem& files, const Text& path, std::string_view bytes);
 
-/// A text file on its way out: Windows-1252, CR LF behind every line. Lines are collected and
+/// A text file on its way out: Windows-1252, CR LF after every line. Lines are collected and
 /// written in large pieces, so a failed write may show some lines late, and in `Close` at the
 /// latest. One that is destroyed without `Close`, because its writer failed, leaves the lines so
 /// far.

@@ -79,7 +79,7 @@ inline constexpr ProjectKey<DesRTFbox> kDesRTFbox[] = {
     {"RTFboxYPosTwips", &DesRTFbox::RTFboxYPos,      Stored::AsNumber},
 };
 
-// The number of the picture, 1 to 3, stands behind each key: the first one on file is
+// The number of the picture, 1 to 3, follows each key: the first one on file is
 // "PictureFilename1".
 inline constexpr ProjectKey<DesPicture> kDesPicture[] = {
     {"PictureFilename",   &DesPicture::PictureFilename,   Stored::AsText, 200},

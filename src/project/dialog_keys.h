@@ -81,7 +81,7 @@ inline constexpr ProjectKey<Updates> kUpdates[] = {
     {"AdvUpdateRegAlwaysUseUserDefKey", &Updates::AdvUpdateRegAlwaysUseUserDefKey, Stored::AsFlag},
 };
 
-// A component's number stands behind each key: the first one on file is "Comp1".
+// A component's number follows each key: the first one on file is "Comp1".
 inline constexpr ProjectKey<FileComponent> kFileComponent[] = {
     {"Comp",                      &FileComponent::Comp,                      Stored::AsFlagReadAsNumber},
     {"CompName",                  &FileComponent::CompName,                  Stored::AsText, 40},

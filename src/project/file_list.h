@@ -41,7 +41,7 @@ struct FileListRow {
 };
 
 inline constexpr const char* kEmptyFolderName = "<Dir>";
-/// What stands in place of the destination, or of the size, of a file that is no longer there.
+/// What is in place of the destination, or of the size, of a file that is no longer there.
 inline constexpr const char* kFileIsGone = "<Filen saknas>";
 
 // Row numbers are 16-bit, so a file list holds no more rows than this.

@@ -1,5 +1,5 @@
 // The rows of the file list as lines of the project file: "F1=" and fifteen fields, each with a
-// semicolon behind it.
+// semicolon after it.
 #pragma once
 
 #include "project/file_list.h"

@@ -1,6 +1,6 @@
-// How a settings section is told as data: a row for each key, in the order on file. Writer and
+// How a settings section is described as data: a row for each key, in the order on file. Writer and
 // reader of a format are two visitors of the same rows, so they cannot drift apart. Each format has
-// an enum of its own for the forms in which a value can stand in it.
+// an enum of its own for the forms in which a value can be in it.
 #pragma once
 
 #include "helpers/number_text.h"

@@ -22,7 +22,7 @@ bool NamesSameFlagSection(const ListSection& left, const ListSection& right)
            std::string_view(left.flagSection) == right.flagSection;
 }
 
-// The flags of several lists stand in one section, in front of the first of these lists.
+// The flags of several lists are in one section, before the first of these lists.
 void WriteFlags(AnsiTextFile& file, const section::Lists& lists, const ListSection& first)
 {
     file.Line(Text("[") + first.flagSection + "]");

@@ -1,5 +1,5 @@
 // The list sections of the project file: free lines up to a line of four dots. Which lists there
-// are, which flag on file says that one is in use and what a load does without it stands in one
+// are, which flag on file says that one is in use and what a load does without it is in one
 // table, which writer and reader share.
 #pragma once
 
@@ -12,7 +12,7 @@
 namespace quillon {
 
 struct ListSection {
-    // How a line of the text stands on file: as it is, or behind a ">" that keeps it from being
+    // How a line of the text is on file: as it is, or after a ">" that keeps it from being
     // taken for a section of the project file.
     enum class Lines { Plain, Marked };
     enum class WithoutFlag { Empty, Keep };
@@ -39,7 +39,7 @@ inline constexpr ListSection kListSections[] = {
 };
 // clang-format on
 
-/// All of them in the order on file, each behind the section that holds its flag.
+/// All of them in the order on file, each after the section that holds its flag.
 void WriteListSections(AnsiTextFile& file, const section::Lists& lists);
 
 /// The lines of a project file as its lists see them. A line ends at CR LF and at the end of the
@@ -48,7 +48,7 @@ class ListLines {
 public:
     explicit ListLines(std::string_view bytes) : bytes_(bytes) {}
 
-    /// Goes behind the first line that is exactly "[name]"; false when there is none.
+    /// Goes after the first line that is exactly "[name]"; false when there is none.
     bool FindSection(std::string_view name);
     /// Nothing at the end of the file.
     std::optional<std::string_view> Next();

@@ -18,7 +18,7 @@ struct ScreenMetrics {
     int TPPY = 15;
 };
 
-/// Saves the project whole; the file that was there goes only when the new one lies on the disk. A
+/// Saves the project whole; the file that was there goes only when the new one is on the disk. A
 /// failure is thrown: 6 means more rows or INI lines than such a file can hold, 9 more animation
 /// pictures. Writing fills an empty `ProgramGroup` with the project's name, in the model as well.
 /// Sizes that can't be summed bring a box up and count as 0.
@@ -47,7 +47,7 @@ enum class ReadEnd {
 
 /// Reads over the project that is open: what the file does not tell takes the value of a missing
 /// key, and the two texts `AutoexecBat` and `ConfigSys` stay as they were where the file has none.
-/// Rows are added behind those that are there.
+/// Rows are added after those that are there.
 ReadEnd ReadProjectFile(Project& project, const Text& path, Host& host, Ask& ask,
                         const Text& toolFolder);
 

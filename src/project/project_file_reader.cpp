@@ -1,5 +1,5 @@
 // Reads the project file. The settings sections come back by the tables that wrote them; what a
-// table can't say of reading stands in the functions called AfterReading.
+// table can't say of reading is in the functions called AfterReading.
 #include "helpers/line_breaks.h"
 #include "helpers/product.h"
 #include "ini/profile_reader.h"
@@ -262,7 +262,7 @@ bool BeginsAsNumber(const Text& text)
     return first < text.size() && text[first] >= '0' && text[first] <= '9';
 }
 
-// The list may go on behind the rows that its number tells of.
+// The list may go on after the rows that its number tells of.
 bool HasFurtherRow(ListLines& lines)
 {
     for (auto line = lines.Next(); line && *line != kEndOfList; line = lines.Next())

@@ -25,7 +25,7 @@ Text Pixels(Integer twips, int twipsPerPixel)
     return NumberText(RoundToEven(static_cast<double>(twips) / twipsPerPixel));
 }
 
-/// The picture of a tool whose folder can't stand in the file: in a tool that reads it, wherever
+/// The picture of a tool whose folder can't be in the file: in a tool that reads it, wherever
 /// that one lies, it is the default picture again.
 Text DlgBitmapOnFile(const Text& path, int limit)
 {

@@ -415,8 +415,7 @@ struct Project {
     section::DesPercentGauge DesPercentGauge;
     section::DesSound DesSound;
     section::Lists Lists;
-    std::array<section::FileComponent, kComponentCount>
-        FileComponents; // component n stands at n - 1
+    std::array<section::FileComponent, kComponentCount> FileComponents; // component n is at n - 1
     FileList Files;
 };
 

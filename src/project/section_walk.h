@@ -3,7 +3,7 @@
 //   Begin(name), Keys(table, record[, number]), NumberedText(key, number, text, limit), End()
 // and Section(name, table, record), which is all of these for a section that its table tells whole.
 // One that is after the values alone also has AllPictures(texts), and gets the slide show's
-// pictures through it, those behind its count too.
+// pictures through it, those after its count too.
 #pragma once
 
 #include "platform/run_error.h"
@@ -102,7 +102,7 @@ void VisitSettingsSections(Visitor& visitor, Project& project)
     VisitDesignSections(visitor, project);
 }
 
-/// The components come among the lists, behind a key of their own that says whether they follow.
+/// The components come among the lists, after a key of their own that says whether they follow.
 template <class Visitor>
 void VisitComponents(Visitor& visitor, Project& project)
 {

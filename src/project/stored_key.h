@@ -1,4 +1,4 @@
-// How one value stands in the project file and how it comes back: a single word for both
+// How one value is in the project file and how it comes back: a single word for both
 // directions, so that a key that is saved is also the key that is loaded.
 #pragma once
 
@@ -12,13 +12,13 @@ enum class Stored {
     AsLines,     // several lines, their breaks encoded
     AsLongLines, // the same, up to the longest limit
     AsFirstLine, // what follows the first line break is left out
-    AsDlgBitmap, // a picture; the tool's own stands there by its name where its path does not fit
+    AsDlgBitmap, // a picture; the tool's own is there by its name where its path does not fit
 
     AsNumber,             // 0 if missing
     AsNumberOneIfMissing, // 1 if missing
     AsNumberText,         // a number that is kept as a text
     AsPixelsX,            // twips written as pixels of the screen, for other programs; never read,
-    AsPixelsY,            // since the same field stands in twips beside it
+    AsPixelsY,            // since the same field is in twips beside it
 
     AsFlag,             // "1" or "0"; off if missing
     AsFlagOnIfMissing,  // the same, on if missing

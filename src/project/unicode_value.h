@@ -1,5 +1,5 @@
 // Values of profile files that Windows-1252 can't hold, such as paths in folders with any names:
-// they stand in UTF-8 behind a mark. One that a reader would strip stands between quotation marks,
+// they are in UTF-8 after a mark. One that a reader would strip is between quotation marks,
 // and every other value as it is.
 #pragma once
 

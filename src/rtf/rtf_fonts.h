@@ -23,7 +23,7 @@ public:
     /// The code page of text in this font; 0: the document's own.
     int CodePage(int number) const;
 
-    /// Where the font stands in `used`, at its end if it is new there; negative for a font that is
+    /// Where the font is in `used`, at its end if it is new there; negative for a font that is
     /// not in the table, and for one of signs, which are told by characters that any font has.
     int PlaceIn(std::vector<RtfFont>& used, int number);
 

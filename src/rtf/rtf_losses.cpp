@@ -19,7 +19,7 @@ constexpr int kAlways = std::numeric_limits<int>::min();
 struct Loss {
     std::string_view word;
     const char* name;
-    // The number behind the word from which on it counts, since 0 switches most words off. A word
+    // The number after the word from which on it counts, since 0 switches most words off. A word
     // without a number is switched on.
     int least = 1;
 };
@@ -37,7 +37,7 @@ constexpr const char* kFrames = "ramar";
 constexpr const char* kTabs = "tabbar som högerställer eller fyller ut";
 constexpr const char* kBreaks = "sidbrytningar";
 
-// In the order in which they are told.
+// In the order in which they are reported.
 // clang-format off
 constexpr Loss kLosses[] = {
     {"pict",       kPictures, kAlways},  {"shppict",    kPictures, kAlways},
@@ -73,7 +73,7 @@ constexpr Loss kLosses[] = {
 };
 // clang-format on
 
-/// Goes through the file as its reader does: what stands in the tables at its head is no text, and
+/// Goes through the file as its reader does: what is in the tables at its head is no text, and
 /// what belongs to a picture or a note is lost with it.
 class LossFinder {
 public:

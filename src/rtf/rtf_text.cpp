@@ -322,7 +322,7 @@ bool RtfReader::MayBreakLine()
     return lines_ <= kMaxRtfLines;
 }
 
-/// The number of the font of the text that comes, or of the name that stands in the table of fonts.
+/// The number of the font of the text that comes, or of the name that is in the table of fonts.
 int RtfReader::FontNow()
 {
     if (State().place == Place::Fonts)

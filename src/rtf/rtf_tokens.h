@@ -17,7 +17,7 @@ struct RtfToken {
     };
     Kind kind = Kind::Bytes;
     std::string_view text;
-    std::optional<int> number; // behind a word
+    std::optional<int> number; // after a word
     unsigned char byte = 0;    // of \'e5, whose `text` is empty
 };
 

@@ -19,7 +19,7 @@ constexpr int kMaxHalfPoints = 1440;
 constexpr int kUsualLetters = 24;
 constexpr int kTwipsPerQuarterPoint = 5;
 
-/// The number behind a word.
+/// The number after a word.
 class Parameter {
 public:
     explicit Parameter(std::optional<int> number) : number_(number) {}

@@ -1,4 +1,4 @@
-// The control words of RTF that change how the text behind them looks, one table row each, and
+// The control words of RTF that change how the text after them looks, one table row each, and
 // those that stand for a character or begin what is not part of the text.
 #pragma once
 
@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-/// What a group inherits from the one that it stands in.
+/// What a group inherits from the one that it is in.
 struct RtfState {
     /// Where the group's text goes.
     enum class Place { Body, Fonts, Colours, Nowhere } place = Place::Body;
@@ -18,7 +18,7 @@ struct RtfState {
     int fontNumber = -1;
     int foregroundNumber = 0;
     int backgroundNumber = 0;
-    // How many characters behind \u are its stand-in for readers without Unicode.
+    // How many characters after \u are its stand-in for readers without Unicode.
     int fallbackCharacters = 1;
 
     // The paragraph's shape, its tabs in a fixed room so that groups are cheap.

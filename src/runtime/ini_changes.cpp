@@ -51,7 +51,7 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
     IniRecords records;
     for (const IniLine& line : lines)
         ApplyIniLine(work, ini, line, records);
-    // The first record is the last that is taken back: by then the lines behind it have gone.
+    // The first record is the last that is taken back: by then the lines after it have gone.
     if (!lastLine.empty() && ini.OpenLastLine().empty())
         work.record.Add(record::IniOpenEnd{path, AnsiText::FromBytes(lastLine)});
     for (JournalRecord& record : records)

@@ -89,7 +89,7 @@ void Installation::DoEverything()
 }
 
 // The record of an earlier installation of the same product goes on: what it made is ours too. One
-// of a user with fewer rights does not: the uninstaller will believe what stands in ours.
+// of a user with fewer rights does not: the uninstaller will believe what is in ours.
 void Installation::BeginRecord()
 {
     if (!input_.plan.hasUninstaller)
@@ -99,7 +99,7 @@ void Installation::BeginRecord()
     if (files.FileExists(path) && input_.target.IsOfTrustedUser(path)) {
         auto earlier =
             ReadInstallJournal(ReadWholeFile(files, path)).value_or(std::vector<JournalRecord>{});
-        // They are told anew, and would come to more with each installation.
+        // They are reported anew, and would come to more with each installation.
         std::erase_if(earlier, [](const JournalRecord& record) {
             return std::holds_alternative<record::Product>(record) ||
                    std::holds_alternative<record::Message>(record);
@@ -160,7 +160,7 @@ bool Installation::IsOwnShortcut(const Text& path) const
                         LowerCase(shortcut->arguments).starts_with("\"" + inside));
 }
 
-// Only the product's own shortcuts go, and the group stays where anything else lies in it.
+// Only the product's own shortcuts go, and the group stays where anything else is in it.
 void Installation::DeleteOldProgramGroup()
 {
     const Text& group = input_.plan.programGroup;

@@ -1,6 +1,6 @@
 // The record of an installation, from which the uninstaller removes what was installed and nothing
 // else: a file of journal lines beside the product, in UTF-8. It is written whole at the end of an
-// installation; until then the transaction's own journal tells what has been done.
+// installation; until then the transaction's own journal says what has been done.
 #pragma once
 
 #include "platform/file_system.h"
@@ -34,7 +34,7 @@ public:
         return index_.count(IndexOf(Record{Text(path)})) > 0;
     }
     const std::vector<JournalRecord>& Records() const { return records_; }
-    /// They stand before all others.
+    /// They precede all others.
     void TakeOver(std::vector<JournalRecord> earlier);
 
 private:

@@ -53,7 +53,7 @@ Text InstallTransaction::StagingPath(const Text& path)
 
 void InstallTransaction::MoveAside(const Text& path)
 {
-    // Behind the file itself on the way back.
+    // After the file itself on the way back.
     if (record_.Has<record::Registered>(path))
         transaction_.Note(record::RegisteredBefore{path});
     if (record_.Has<record::Font>(path))
@@ -64,7 +64,7 @@ void InstallTransaction::MoveAside(const Text& path)
     movedAside_.insert(LowerCase(path));
 }
 
-// What stands at the place from now on is ours. Where a former file is aside, its coming back is
+// What is at the place from now on is ours. Where a former file is aside, its coming back is
 // all that has to be done.
 void InstallTransaction::NoteNewFile(const Text& path)
 {

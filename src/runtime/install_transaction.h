@@ -22,7 +22,7 @@ public:
     struct NewFile {
         Text staged;
         Text path;
-        bool replaces = false; // a file stands there
+        bool replaces = false; // a file is there
         Recorded recorded = Recorded::Yes;
     };
 
@@ -38,7 +38,7 @@ public:
     void PutFile(const NewFile& file);
     /// The same for a file that is in use now and free when the machine starts next.
     void PutFileAtRestart(const NewFile& file);
-    /// Keeps a second name for the file that stands at `path`, which `PutFile` is about to replace.
+    /// Keeps a second name for the file that is at `path`, which `PutFile` is about to replace.
     void KeepBackup(const Text& path);
     void RemoveFile(const Text& path);
 
@@ -58,7 +58,7 @@ public:
     void Commit();
     /// Removes what was put aside.
     void CleanUp();
-    /// False where something could not be taken back; the log tells what, and the next run tries
+    /// False where something could not be taken back; the log says what, and the next run tries
     /// again.
     bool Undo();
 

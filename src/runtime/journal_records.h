@@ -112,7 +112,7 @@ struct IniFile {
     bool operator==(const IniFile&) const = default;
 };
 
-/// The last line of the file had no line break behind it before.
+/// The last line of the file had no line break after it before.
 struct IniOpenEnd {
     Text path;
     Text lastLine;
@@ -135,7 +135,7 @@ struct IniValue {
     bool operator==(const IniValue&) const = default;
 };
 
-/// A folder of the transaction's own, with all that lies in it.
+/// A folder of the transaction's own, with all that is in it.
 struct TempFolder {
     Text path;
     bool operator==(const TempFolder&) const = default;

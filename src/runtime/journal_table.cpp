@@ -87,7 +87,7 @@ Text Unescape(std::string_view field)
     return text;
 }
 
-// How each type of field stands in a line. A registry key is a root and a sub key; data are a type
+// How each type of field is in a line. A registry key is a root and a sub key; data are a type
 // and hexadecimal bytes; what may be missing is told by an empty first field.
 
 void Put(Text& line, const Text& field)

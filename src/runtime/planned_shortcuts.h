@@ -12,7 +12,7 @@ void PlanShortcuts(const PlanInput& input, InstallPlan& plan);
 /// A text as a file name: characters that no file name holds become hyphens.
 Text AsFileName(std::string_view text);
 
-/// The uninstaller as it lies in a product's main folder.
+/// The uninstaller as it is in a product's main folder.
 Text UninstallerPath(const Text& mainFolder);
 
 } // namespace quillon

@@ -121,7 +121,7 @@ constexpr Rule kClasses[] = {
     {".txt", Covers::Key},
 };
 
-// The classes of many files at once, whose own commands and extensions stand below them.
+// The classes of many files at once, whose own commands and extensions are below them.
 constexpr const char* kClassesOfMany[] = {"*", "AllFilesystemObjects", "Directory", "Drive",
                                           "Folder"};
 constexpr Rule kClassOfMany[] = {

@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-// Folders of the system that products put files into; what lies below them counts as inside.
+// Folders of the system that products put files into; what is below them counts as inside.
 std::vector<Text> SystemFolders(const Machine& machine, const Target& target)
 {
     std::vector<Text> folders{machine.GetWindowsDir(), machine.GetSystemDir(),

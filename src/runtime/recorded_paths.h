@@ -14,7 +14,7 @@ namespace quillon {
 
 class RecordedPaths {
 public:
-    /// `mainFolder` is where the journal lies.
+    /// `mainFolder` is where the journal is.
     RecordedPaths(const std::vector<JournalRecord>& records, const Host& host, const Target& target,
                   const Text& mainFolder);
 
@@ -51,7 +51,7 @@ private:
     bool HasLinkInPath(const Text& folder) const;
 
     // The first backup of a path holds what was there before the product; once it is back, the
-    // records behind it tell of nothing that is left.
+    // records after it tell of nothing that is left.
     struct FirstBackup {
         std::size_t index;
         bool exists;

@@ -1,5 +1,5 @@
 // The data of a registry value as the registry keeps it: a type number and bytes. Texts are UTF-16
-// with a zero behind them.
+// with a zero after them.
 #pragma once
 
 #include "helpers/text.h"

@@ -1,5 +1,5 @@
 // The registry list of a project, line by line: keys and values to add, to delete at installation
-// and to remove at uninstallation. Variables stand in the lines as they were written.
+// and to remove at uninstallation. Variables are in the lines as they were written.
 #pragma once
 
 #include "runtime/messages.h"
@@ -38,7 +38,7 @@ bool IsSystemKey(const RegistryKey& key);
 bool RemovesSystemKey(const RegistryLine& line);
 
 struct RegistryListLine {
-    Text line; // as it stands in the list
+    Text line; // as it is in the list
     RegistryLine read;
 };
 

@@ -9,7 +9,7 @@ namespace {
 constexpr std::size_t kUnit = 2; // bytes of UTF-16
 constexpr std::string_view kEnd{"\0\0", kUnit};
 
-// The text from `at` on with the NUL behind it; empty at the end.
+// The text from `at` on with the NUL after it; empty at the end.
 std::string_view TextAt(std::string_view bytes, std::size_t at)
 {
     std::size_t end = at;

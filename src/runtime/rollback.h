@@ -17,7 +17,7 @@ struct RollbackInput {
 };
 
 /// Takes the steps back, from the last to the first. False where one could not be taken back; the
-/// log tells which, and what is needed to try again stays.
+/// log says which, and what is needed to try again stays.
 bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps);
 
 /// Removes the temporary files of steps that stay, now or when the machine starts next.

@@ -66,7 +66,7 @@ void SetUser(SetupVariables& variables, const VariableSources& sources)
     variables.Set(Meaning::UserEmail, user.Useremail);
 }
 
-// A main folder without a drive lies on the drive of Windows, so that it means the same folder
+// A main folder without a drive is on the drive of Windows, so that it means the same folder
 // wherever the setup was started.
 Text WithDrive(const Text& folder, const Machine& machine)
 {

@@ -10,7 +10,7 @@ constexpr std::string_view kSection = "PreLoader";
 constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
 constexpr std::string_view kUtf16Bom = "\xFF\xFE";
 constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
-// Longer than a key, its text and the blanks round them; what stands behind it is not looked at.
+// Longer than a key, its text and the blanks round them; what follows it is not looked at.
 constexpr std::size_t kMaxLineLength = 2100;
 
 /// Gives a file character by character, in UTF-16, whatever it was saved in.

@@ -11,7 +11,7 @@ namespace quillon {
 using AnsiCharacter = char16_t (*)(unsigned char byte);
 
 /// Finds the text of the key in the section `PreLoader` of the file, given as its bytes, and puts
-/// it into `to` with a null behind it. False, with `to` untouched, where the file has no such text
+/// it into `to` with a null after it. False, with `to` untouched, where the file has no such text
 /// or one of `room` characters or more.
 bool FindStarterText(std::string_view file, std::string_view key, AnsiCharacter ansi, char16_t* to,
                      std::size_t room);

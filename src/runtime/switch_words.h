@@ -1,7 +1,7 @@
 // How a command line falls into switches. The starter asks the same, so it is written for any kind
 // of character and without the standard library.
 //
-// Blanks and tabs part switches, but not inside quotation marks, which may stand around a value or
+// Blanks and tabs part switches, but not inside quotation marks, which may occur around a value or
 // around a switch as a whole: "/D=C:\My Folder" is what shells and launchers make of a blank. The
 // folder of /D= needs none: it holds no slash, so that it goes on to the next switch.
 #pragma once

@@ -1,5 +1,5 @@
 // The command line of the setup and of the uninstaller. Names of switches ignore case; a value
-// follows behind '=', and where it holds blanks it stands in quotation marks, or the whole switch.
+// follows '=', and where it holds blanks it is in quotation marks, or the whole switch.
 #pragma once
 
 #include "helpers/text.h"
@@ -21,7 +21,7 @@ struct Switches {
     std::optional<Text> badSwitch;    // the first one that is none, as it was given
 };
 
-/// `commandLine` is what stands behind the program's own name.
+/// `commandLine` is what follows the program's own name.
 Switches ReadSwitches(std::string_view commandLine);
 
 struct UninstallerCommand {

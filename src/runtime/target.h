@@ -90,7 +90,7 @@ public:
     /// Whether the file belongs to administrators, to the system or to the user who runs this, so
     /// that nobody with fewer rights can have made it. True on a disk without owners.
     virtual bool IsOfTrustedUser(const Text& path) const = 0;
-    /// Whether what stands there leads to another folder.
+    /// Whether what is there leads to another folder.
     virtual bool IsLink(const Text& folder) const = 0;
 };
 

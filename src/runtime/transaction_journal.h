@@ -1,6 +1,6 @@
 // What an installation does to the machine, as a journal on the disk: a line for each change,
 // before the change is made. Whatever ends the setup (a failure, the user, a kill) the journal
-// tells how to take everything back, or, once it is committed, what is left to clear away.
+// says how to take everything back, or, once it is committed, what is left to clear away.
 //
 // The constraints that shaped it:
 //
@@ -14,7 +14,7 @@
 //   to, so that a rename never leaves the disk. A folder is noted, not each name in it. It takes a
 //   hundred files: where names are looked up by reading a whole folder, as on a disk that knows
 //   upper and lower case apart, two thousand in one folder cost a minute.
-// - The journal can't lie in a folder that the installation has yet to make. It lies in the deepest
+// - The journal can't lie in a folder that the installation has yet to make. It is in the deepest
 //   one that is there, and is looked for in the main folder and in each folder above it.
 //
 // The lines are forced to the disk at the commit alone: they protect from a killed program, not
@@ -43,7 +43,7 @@ class TransactionJournal {
 public:
     TransactionJournal(Host& host, Target& target) : host_(host), target_(target) {}
 
-    /// From now on each step stands on the disk before it is made. Throws where another
+    /// From now on each step is on the disk before it is made. Throws where another
     /// installation to the same folder is at work.
     void Begin(const Text& mainFolder, const Text& product);
     void Note(JournalRecord step);

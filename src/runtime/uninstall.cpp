@@ -205,7 +205,7 @@ void Uninstallation::RestoreBackup(const Text& path, const Text& backup)
     input_.log.Line(Message::LogPutsBack, path);
 }
 
-// Nothing but our journal tells that the count of a file's users holds one for us, so the journal
+// Nothing but our journal says that the count of a file's users holds one for us, so the journal
 // forgets it first: an uninstallation that is begun again must not count down twice.
 void Uninstallation::ReleaseSharedFiles()
 {

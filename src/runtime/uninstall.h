@@ -51,7 +51,7 @@ ExitCode Uninstall(const UninstallInput& input);
 bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& program);
 
 /// The uninstaller believes no other log: it would remove whatever a file says that somebody has
-/// given it. One that lies beside it must not be of a user with fewer rights either, unless that
+/// given it. One that is beside it must not be of a user with fewer rights either, unless that
 /// user has made the program as well.
 bool IsBelievable(const FileSystem& files, const Target& target, const Text& logPath,
                   const Text& program);

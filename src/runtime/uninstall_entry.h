@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-/// Where the entry of the product of that name stands.
+/// Where the entry of the product of that name is.
 RegistryKey UninstallEntryKey(const Text& product);
 
 void WriteUninstallEntry(const InstallInput& input, InstallTransaction& changes);

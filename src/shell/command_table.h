@@ -20,7 +20,7 @@ enum class KeysWork {
 
 struct Command {
     CommandId id = CommandId::None;
-    std::string_view caption;      // "&" stands before the access letter
+    std::string_view caption;      // "&" precedes the access letter
     std::string_view tooltip = {}; // of the commands that have a button
     std::string_view icon = {};    // the name of its picture
     std::string_view keys = {};    // "Ctrl+S"
@@ -52,7 +52,7 @@ std::span<const MenuRow> MenuBarRows();
 /// The commands that have a button on this tab; `None` separates groups.
 std::span<const CommandId> ToolbarIds(Tab tab);
 
-/// The commands that stand in toolbars only.
+/// The commands that are in toolbars only.
 std::span<const Command> ToolbarOnlyCommands();
 
 /// What the table says of an id; null for one that is not in it.

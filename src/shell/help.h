@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-/// Opens QN.HLP in the program that the system has for it; tells where that can't be done.
+/// Opens QN.HLP in the program that the system has for it; reports it where that can't be done.
 void ShowHelp(Session& session);
 
 /// Tells what whoever helps the user has to know.

@@ -1,4 +1,4 @@
-// The selection of the file list behind a command that put its rows into another order.
+// The selection of the file list after a command that put its rows into another order.
 #pragma once
 
 #include "filelist/view/sort.h"

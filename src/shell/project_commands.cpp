@@ -33,7 +33,7 @@ FileQuestion ProjectFileQuestion(const Session& session, const Text& title)
     return question;
 }
 
-/// The answer is for what lies there when the question is asked, not for what comes meanwhile.
+/// The answer is for what is there when the question is asked, not for what comes meanwhile.
 bool AgreesToWriteOver(Session& session)
 {
     const Text& path = session.state.ProjectFileName;
@@ -49,8 +49,8 @@ bool AgreesToWriteOver(Session& session)
     return agrees;
 }
 
-/// Saves under the name that the project has; a failure is told, and the project then still counts
-/// as changed.
+/// Saves under the name that the project has; a failure is reported, and the project then still
+/// counts as changed.
 bool SaveOrTell(Session& session, MainWindow& window)
 {
     if (const auto why = WhyListsCannotBeSaved(session.project.Lists)) {

@@ -1,5 +1,5 @@
 // The commands that change which project is open and whether it is saved, and the question that
-// stands before them: is what has changed to be saved?
+// precedes them: is what has changed to be saved?
 #pragma once
 
 #include "shell/main_window.h"

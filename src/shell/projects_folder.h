@@ -11,8 +11,8 @@ Text OfferedProjectsFolder(const Machine& machine);
 /// `ProjectsFolder` is the one in My Documents where it is there, else the one of the tool.
 void FindProjectsFolder(Session& session);
 
-/// Makes the folders in My Documents and takes them into use. Where that fails nothing is told and
-/// `ProjectsFolder` stays with the tool.
+/// Makes the folders in My Documents and takes them into use. Where that fails nothing is reported
+/// and `ProjectsFolder` stays with the tool.
 void CreateQNDocFolders(Session& session);
 
 } // namespace quillon

@@ -21,7 +21,7 @@ constexpr int kMaxValueLength = 5000;
 // More programs than anybody runs.
 constexpr int kPlaces = 99;
 
-/// A user who is not there: a copy is written behind whatever is going on.
+/// A user who is not there: a copy is written after whatever is going on.
 class Nobody : public Ask {
 public:
     void Inform(const Text&, const Text&) override {}

@@ -18,7 +18,7 @@ struct BugQuestion {
     int page;
     const char* caption;
     const char* control; // object name of the control with the answer, unique on its page
-    std::span<const char* const> choices; // behind `kNoAnswer`; none is a free text
+    std::span<const char* const> choices; // after `kNoAnswer`; none is a free text
 };
 
 inline constexpr std::size_t kBugQuestionCount = 11;

@@ -7,7 +7,7 @@
 namespace quillon {
 
 /// Starts it from the tool's folder, in a window of its own, without waiting. It writes
-/// `DiagnosisFile(ownFolder)`. `more` holds further arguments, each behind a blank. Throws as
+/// `DiagnosisFile(ownFolder)`. `more` holds further arguments, each after a blank. Throws as
 /// `Machine::StartProgram`.
 void StartDiagnosis(Host& host, const Text& toolFolder, const Text& ownFolder, const Text& more);
 

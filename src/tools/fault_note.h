@@ -11,7 +11,7 @@ Text FaultNoteFile(const Text& ownFolder);
 /// With line breaks as the description has them; empty where there is none.
 Text ReadFaultNote(const FileSystem& files, const Text& ownFolder);
 
-/// Once the note stands in a report.
+/// Once the note is in a report.
 void RemoveFaultNote(FileSystem& files, const Text& ownFolder);
 
 } // namespace quillon

@@ -105,7 +105,7 @@ private:
         for (const PrintedColumn& column : kPrintedColumns)
             Print(column.x, lineY_, 8, false, row[column.column]);
         lineY_ += kRowHeight;
-        // Kept: the test stands behind the row, so a list that just fills a page is followed by one
+        // Kept: the test follows the row, so a list that just fills a page is followed by one
         // with heads and no rows.
         if (lineY_ > kLastRowY) {
             lineY_ = 34;

@@ -40,7 +40,7 @@ struct PrintedPage {
 std::vector<PrintedPage> PagesOfFileList(const Project& project, const OpenProjectState& state,
                                          char decimalSign, Ask& ask);
 
-/// False, and tells why, where there is nothing to print.
+/// False, and shows why, where there is nothing to print.
 bool HasRowsToPrint(const FileList& files, Ask& ask);
 
 } // namespace quillon

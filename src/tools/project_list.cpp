@@ -64,7 +64,7 @@ std::vector<Text> EntriesOf(ProfileReader& reader)
         const Text onFile = reader.ReadIniString(EntryKey(paths.size() + 1), kMaxTextLength);
         if (onFile.empty())
             break;
-        // A damaged entry is one whose file is not there; those behind it count.
+        // A damaged entry is one whose file is not there; those after it count.
         const Text path = UnicodeValueFromFile(onFile);
         paths.push_back(path.empty() ? onFile : path);
     }

@@ -12,7 +12,7 @@ class Ask;
 
 class ColourButton : public QPushButton {
 public:
-    /// `onChoice` runs behind each choice, not behind `SetColour`.
+    /// `onChoice` runs after each choice, not after `SetColour`.
     ColourButton(const Text& caption, Ask& ask, std::function<void()> onChoice = {});
 
     /// 0x00BBGGRR, as records have it.

@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-/// Options shut each other out from the moment on when they stand in one frame; what was chosen
+/// Options shut each other out from the moment on when they are in one frame; what was chosen
 /// before that stays chosen.
 void ChooseOneOption(const QWidget& form)
 {

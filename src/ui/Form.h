@@ -42,7 +42,7 @@ protected:
     QCheckBox* Check(QCheckBox*& member, const char* name, const Text& caption, Flag& value);
     /// A box for a number 0 or 1.
     QCheckBox* Check01(QCheckBox*& member, const char* name, const Text& caption, Integer& value);
-    /// An option for a flag. The options that shut each other out stand in one frame, and one whose
+    /// An option for a flag. The options that shut each other out are in one frame, and one whose
     /// flag is off is only unticked. Of several whose flags are on, the last one is chosen.
     QRadioButton* Option(QRadioButton*& member, const char* name, const Text& caption, Flag& value);
     /// A list with one row chosen, by its place. A value outside the rows chooses none, and then
@@ -62,9 +62,9 @@ protected:
 
     bool event(QEvent* event) override;
 
-    /// Whether OK may close the form; where not, it has told why.
+    /// Whether OK may close the form; where not, it has shown why.
     virtual bool MayClose() { return true; }
-    /// Behind the bound fields on OK: what else is to be stored.
+    /// After the bound fields on OK: what else is to be stored.
     virtual void Store() {}
 
     /// For a control that no function above binds.

@@ -17,7 +17,7 @@ namespace quillon {
 class SelectDir : public Form {
 public:
     /// Opens at `folder`, or at the nearest folder above it that exists. `text` says what the
-    /// folder is for. `paths` tells where a typed path of this machine lies.
+    /// folder is for. `paths` says where a typed path of this machine is.
     SelectDir(FileSystem& files, Ask& ask, const Text& text, const Text& folder, QWidget* parent,
               HostPaths paths = {});
 

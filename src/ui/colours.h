@@ -8,7 +8,7 @@ class QPalette;
 namespace quillon {
 
 /// How far two colours stand apart for the eye: 1 is not at all, 21 is black on white. From 3 on a
-/// line is told from its background, from 4.5 on a text can be read.
+/// line can be seen on its background, from 4.5 on a text can be read.
 double Contrast(const QColor& one, const QColor& other);
 
 /// `share` of `other`, the rest of `one`.

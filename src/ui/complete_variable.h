@@ -10,7 +10,7 @@ namespace quillon {
 class Ask;
 
 /// From now on the first letters of a variable become the whole word in this field, with the caret
-/// behind it. A text that is being deleted from its end is left alone.
+/// after it. A text that is being deleted from its end is left alone.
 void CompleteVariables(QLineEdit* field, PrefixTable table);
 
 /// Lets the user choose a variable, puts it at the end of the field and goes on there.

@@ -36,7 +36,7 @@ public:
     void Show(QWidget* contents)
     {
         setWidget(contents);
-        // What lies behind the area shows through, such as the background of a tab.
+        // What is behind the area shows through, such as the background of a tab.
         viewport()->setAutoFillBackground(false);
         contents->setAutoFillBackground(false);
     }

@@ -49,7 +49,7 @@ Piece Growing(Piece piece, int stretch = 1);
 QGroupBox* Frame(const Text& caption, Pieces pieces);
 
 struct LabelledPiece {
-    Text caption; // "&" stands before the letter that leads to the piece
+    Text caption; // "&" precedes the letter that leads to the piece
     Piece piece;
 };
 /// Captions to the left, pieces to the right, both in line. A caption names its piece for screen

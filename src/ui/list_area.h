@@ -10,7 +10,7 @@ namespace quillon {
 /// Shows the area in letters of one width, its lines as long as they are.
 void ShowAsList(QPlainTextEdit* area);
 
-/// Puts lines at the end, as typing does, and goes on behind them.
+/// Puts lines at the end, as typing does, and goes on after them.
 void AppendLines(QPlainTextEdit* area, const Text& lines);
 
 } // namespace quillon

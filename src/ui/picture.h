@@ -12,11 +12,11 @@ class QString;
 namespace quillon {
 
 /// Bitmaps, JPEG pictures and metafiles as the setup shows them, and GIF and PNG pictures and
-/// icons, told apart by what is in the file. Nothing comes back where there is no such picture or
-/// one too large to show; nothing is thrown.
+/// icons, distinguished by what is in the file. Nothing comes back where there is no such picture
+/// or one too large to show; nothing is thrown.
 std::optional<QImage> LoadPicture(const FileSystem& files, const Text& path);
 
-/// What stands in the place of a picture that `LoadPicture` did not give.
+/// What is in the place of a picture that `LoadPicture` did not give.
 QString WhyNoPicture(const FileSystem& files, const Text& path);
 
 /// An icon in all sizes that its file has, each in its best colours, beside each other. A file that

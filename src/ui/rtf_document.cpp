@@ -103,7 +103,7 @@ private:
     }
 
     /// Qt counts from where the first line begins. Where that one hangs out, the left indent is a
-    /// tab too: behind the sign of a list.
+    /// tab too: after the sign of a list.
     QList<QTextOption::Tab> TabsOf(const RtfParagraph& paragraph) const
     {
         std::vector<int> places = paragraph.tabs;

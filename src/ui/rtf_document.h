@@ -10,7 +10,7 @@ namespace quillon {
 /// Puts the paragraphs at the end of the document, for a screen of so many points per inch.
 void InsertRtf(const RtfText& text, QTextDocument& document, int pointsPerInch);
 
-/// What stands in the document.
+/// What is in the document.
 RtfText ExtractRtf(const QTextDocument& document, int pointsPerInch);
 
 } // namespace quillon

@@ -163,7 +163,7 @@ public:
     }
 
 private:
-    /// The field takes as much as it has room for before it tells that it has no more.
+    /// The field takes as much as it has room for before it says that it has no more.
     void TellOfRoom()
     {
         if (field_->text().size() < field_->maxLength())

@@ -25,7 +25,7 @@ bool WarnIfTooLong(QWidget* field, int longest);
 /// Enter presses the form's default button, and breaks that are pasted become blanks.
 void KeepOneLine(QPlainTextEdit* area);
 
-/// What stands in the area, blank for blank: Qt's own plain text makes usual blanks of those that
+/// What is in the area, blank for blank: Qt's own plain text makes usual blanks of those that
 /// do not break.
 QString TypedText(const QPlainTextEdit* area);
 

@@ -38,7 +38,7 @@ TEST(FindUnsavableLine, LetsTheHeadersOfEarlierListsPass)
     EXPECT_FALSE(FindUnsavableLine(&Lists::INIFiles, "[AutoexecBat]\r\n....\r\n[FileList]"));
 }
 
-// Each line that is told is one that really does harm, and the first of them is told.
+// Each line that is reported is one that really does harm, and the first of them is reported.
 TEST(FindUnsavableLine, TellsTheLinesThatDoNotComeBack)
 {
     for (const Text& line : std::initializer_list<Text>{
@@ -66,7 +66,7 @@ TEST(FindUnsavableLine, IsRightAboutTheEndOfAList)
     EXPECT_EQ(read.Lists.Registry, "a");
 }
 
-// The flags of the lists stand between the scripts and the lists.
+// The flags of the lists are between the scripts and the lists.
 TEST(FindUnsavableLine, IsRightAboutAScriptWithTheHeaderOfTheFlags)
 {
     MemoryHost machine;

@@ -1,4 +1,4 @@
-// The objects on the tab "Design": where they stand, how they are moved, what opens their editors.
+// The objects on the tab "Design": where they are, how they are moved, what opens their editors.
 #include "app/DesignPage.h"
 #include "app/MainForm.h"
 #include "design/forms/design_commands.h"
@@ -399,7 +399,7 @@ TEST_F(DesignObjectsTest, ALogotypeAsLargeAsTheSurfaceIsRefused)
     project.DesLogotype.LogotypeFilename = "C:\\stor.bmp";
     Show();
     EXPECT_FALSE(Object("DesLogotype").isVisible());
-    // The file may be right for a larger window; it is told once, and stays.
+    // The file may be right for a larger window; it is reported once, and stays.
     EXPECT_EQ(project.DesLogotype.LogotypeFilename, "C:\\stor.bmp");
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
     page->Screen().DrawDesAll();

@@ -164,7 +164,7 @@ TEST(LifecycleByCommand, KeepsTheEntryOfAProjectThatVanished)
     EXPECT_EQ(desk.Entry(291).text(), "borta.qnp");
 }
 
-// Kept: a refused file stands in the title and among the recent files.
+// Kept: a refused file is in the title and among the recent files.
 TEST(LifecycleByCommand, NamesARefusedFileInItsTitle)
 {
     Desk desk({{BoxKind::Warn, "Fel filformat"}}, {{{"C:\\P\\x.txt"}}});

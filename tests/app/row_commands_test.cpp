@@ -1,4 +1,4 @@
-// The commands that change what stands in the rows of the file list, by their ids and in the
+// The commands that change what is in the rows of the file list, by their ids and in the
 // window.
 #include "filelist/forms/row_commands.h"
 

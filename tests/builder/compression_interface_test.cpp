@@ -484,7 +484,7 @@ TEST_F(Compression, TellsADiskThatFillsUpWhileItIsWritten)
     LayDisks(1);
     Put("C:\\noise.bin", Noise(1000000));
     files.capacities["c:\\"] = std::uint64_t(1) << 40U;
-    // Behind the writes that make the archive itself.
+    // After the writes that make the archive itself.
     files.FailFromWrite(10, ErrorNumber::kDiskFull);
     EXPECT_EQ(CreateOnDisks(), kDiskFull);
     EXPECT_EQ(zip.IfcGetNrFloppiesUsed(), 1);

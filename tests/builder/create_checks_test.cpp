@@ -18,7 +18,7 @@ constexpr Medium kAnyMedium{};
 const Text kSystemFolder = "c:\\windows\\system32\\";
 
 // A way in which Create is stopped before it begins, and the box that tells it. Cases of one check
-// stand in its own order of questions.
+// are in its own order of questions.
 struct Refusal {
     const char* name;
     int check;

@@ -5,7 +5,7 @@
 
 namespace quillon::test {
 
-/// The project that stands in tests/golden/builder/full_project; its file list is empty.
+/// The project that is in tests/golden/builder/full_project; its file list is empty.
 Project FullProject();
 
 /// A row of the file list with these columns.

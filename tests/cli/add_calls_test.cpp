@@ -1,4 +1,4 @@
-// quillonc add, add-tree, add-folder and add-dep: what stands in the project afterwards, what is
+// quillonc add, add-tree, add-folder and add-dep: what is in the project afterwards, what is
 // said, and what is refused.
 #include "edit_workshop.h"
 

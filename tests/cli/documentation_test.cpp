@@ -19,7 +19,7 @@ std::string Page()
     return page.str();
 }
 
-/// The call's row in the table of calls; a bar inside a cell stands behind a backslash there.
+/// The call's row in the table of calls; a bar inside a cell follows a backslash there.
 std::string RowOf(const std::string& page, const Call& call)
 {
     const std::size_t table = page.find("## Every call and switch");

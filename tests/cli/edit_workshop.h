@@ -18,7 +18,7 @@ protected:
     /// The same with --json.
     Json DoneAsObject(std::vector<std::string> words) const;
 
-    /// The call ends with this code and says this, and the project and the folder it lies in are as
+    /// The call ends with this code and says this, and the project and the folder it is in are as
     /// they were, to the date.
     void ExpectRefused(const std::vector<std::string>& words, int exitCode, const std::string& err,
                        RunAs user = RunAs::Self) const;

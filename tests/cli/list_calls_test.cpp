@@ -65,7 +65,7 @@ TEST_F(ListCalls, SortsByEachKeyOfTheDialog)
     ExpectRefused({"sort", "--by", "component"}, 1, "Projektet har inga komponenter.");
     ExpectRefused({"sort", "--by", "size"}, 2, "kan ej vara 'size'");
     Done({"sort", "--by", "destination"});
-    // What stands in an order of its own keeps it.
+    // What is in an order of its own keeps it.
     ExpectUntouched({"refresh"});
     ExpectUntouched({"sort", "--by", "destination"});
     EXPECT_EQ(DoneAsObject({"sort"})["by"], "name");

@@ -26,7 +26,7 @@ TEST(CheckedCharInterSpace, StaysBetweenMinus10And100)
     ExpectAll(
         {{"", "0"}, {"-11", "-10"}, {"-10", "-10"}, {"101", "100"}, {"100", "100"}, {"7", "7"}},
         CheckedCharInterSpace);
-    // What is no number is none, and what stands behind one is dropped.
+    // What is no number is none, and what follows one is dropped.
     ExpectAll({{"abc", "0"}, {"60abc", "60"}, {"-3x", "-3"}, {"-", "0"}, {"007", "7"}},
               CheckedCharInterSpace);
 }

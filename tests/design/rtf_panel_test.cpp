@@ -25,7 +25,7 @@ protected:
         return tops;
     }
 
-    /// The column behind the last letter.
+    /// The column after the last letter.
     int WidthOf(const RtfText& text)
     {
         Paint(text);

@@ -50,7 +50,7 @@ protected:
     {
         section::DesPicture& picture = project.DesPictures.Pictures[number];
         picture.PictureFilename = "a";
-        // Places are told from the page, of which the surface begins at 80 twips.
+        // Places are reported from the page, of which the surface begins at 80 twips.
         picture.PictureXPos = static_cast<Integer>(80 + 15 * left);
         picture.PictureYPos = static_cast<Integer>(80 + 15 * top);
         pictures.pictures[number] = Filled(20, 10, kRed);

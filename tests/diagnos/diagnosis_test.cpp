@@ -89,7 +89,7 @@ TEST_F(DiagnosisTest, ListsNoMoreFilesThanAReportCanHold)
     for (int i = 0; i < 2100; ++i)
         machine.files.Put("C:\\Quillon\\Res\\f" + std::to_string(i), "");
     const auto lines = Lines();
-    // The folder counts as one of the 2000, and a last line tells that there are more.
+    // The folder counts as one of the 2000, and a last line says that there are more.
     EXPECT_EQ(lines.size(), linesWithoutFiles + 1999 + 1);
     EXPECT_EQ(lines.back(), "... och fler");
 }

@@ -13,7 +13,7 @@ namespace quillon::test {
 
 namespace {
 
-// The duplicate test as it is told: a walk over all rows.
+// The duplicate test as it is reported: a walk over all rows.
 bool WalkOverList(const FileList& list, const Text& name, const Text& source,
                   const Text& destination)
 {

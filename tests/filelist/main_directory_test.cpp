@@ -54,7 +54,7 @@ TEST(CheckMainDirectory, GivesTheFolderBackAsItIsToStand)
         {"c:\\", "", {kDriveAlone}},
         {" c:\\ ", "", {kDriveAlone}},
         {"ö:", "", {kDriveAlone}},
-        // The wrong variable is told, and the check goes on behind it.
+        // The wrong variable is reported, and the check goes on after it.
         {"%:", "", {kBadVariable, kDriveAlone}},
         {"a", "a"},
         {":\\", ":"},

@@ -44,7 +44,7 @@ TEST(CompleteVariablePrefix, LeavesEveryOtherTextAlone)
             EXPECT_FALSE(CompleteVariablePrefix(text, table)) << text;
 }
 
-/// What stands in a field after these characters, typed one by one.
+/// What is in a field after these characters, typed one by one.
 Text TypedInto(PrefixTable table, const Text& characters)
 {
     Text shown;

@@ -64,7 +64,7 @@ protected:
         EXPECT_FALSE(page.isVisible());
     }
 
-    /// Opens the preview of what stands in an editor, looks at it, and keeps a picture of both
+    /// Opens the preview of what is in an editor, looks at it, and keeps a picture of both
     /// beside each other.
     static void ShowPreviewOf(QDialog& editor, const std::string& name,
                               const std::function<void(QDialog&)>& look)

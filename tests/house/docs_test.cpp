@@ -52,7 +52,7 @@ const std::set<std::string>& WordsOfTheSources()
     return words;
 }
 
-/// What stands in backticks on a page, outside its blocks of code.
+/// What is in backticks on a page, outside its blocks of code.
 std::vector<std::string> QuotedWords(const fs::path& page)
 {
     static const std::regex block("```[^]*?```");

@@ -15,7 +15,7 @@ struct Include {
 /// What is wrong with an include, a line each.
 std::vector<std::string> Violations(const Include& include);
 
-/// Whether a file lies in a folder that the order knows.
+/// Whether a file is in a folder that the order knows.
 bool HasLayer(const std::string& file);
 
 /// The folders of the order, from the lowest height on; those of one height together.

@@ -27,7 +27,7 @@ inline std::vector<Text> Missed(const ImportResult& result)
     return files;
 }
 
-/// Answers as it is told; what it was asked stands beside.
+/// Answers as it is reported; what it was asked is beside.
 class DeskUser : public ImportUser {
 public:
     std::optional<Text> ChooseProgramDestination(const ProgramQuestion& question) override

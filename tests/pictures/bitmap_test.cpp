@@ -17,7 +17,7 @@ struct Bitmap {
     int bits = 0;
     int compression = 0;
     std::string colours = {}; // four bytes each
-    std::string masks = {};   // behind the header
+    std::string masks = {};   // after the header
     std::string pixels = {};
     int headerSize = 40;
     int colourCount = 0;
@@ -235,7 +235,7 @@ TEST(DecodeBitmap, OfOs2)
 {
     EXPECT_THAT(Decoded(Os2File()).pixels,
                 ElementsAre(kGreen, kBlue, kGreen, kBlue, kBlue, kBlue, kBlue, kBlue, kGreen));
-    // The long header of its later versions may end behind any field.
+    // The long header of its later versions may end after any field.
     for (const int size : {16, 64}) {
         Bitmap bitmap = TwentyFourBits();
         bitmap.headerSize = size;
@@ -344,7 +344,7 @@ TEST(DecodeBitmap, GivesAReasonWhereverItIsCut)
         const bool isPlain = file[14] == 12 || file[30] == 0 || file[30] == 3;
         for (std::size_t length = 0; length < file.size(); ++length) {
             const PictureResult result = DecodePicture(file.substr(0, length));
-            // What fills the last row up may be missing, and the mark behind the last run.
+            // What fills the last row up may be missing, and the mark after the last run.
             const std::size_t filling = isPlain && bits != 32 ? 3 : isPlain ? 0 : 2;
             const bool isWhole =
                 file.size() - length <= filling && result.fault == PictureFault::None;

@@ -43,7 +43,7 @@ std::string GrayBitmap(int width, int height, char gray = '\x40')
     return bytes;
 }
 
-/// A disk with one file under every name, read from a real one, so that no copy of it lies in
+/// A disk with one file under every name, read from a real one, so that no copy of it is in
 /// memory.
 class OneFileDisk : public MemoryFiles {
 public:

@@ -91,7 +91,7 @@ struct Section {
     unsigned size = 0;
 };
 
-// Where an address of the loaded program lies in its file.
+// Where an address of the loaded program is in its file.
 std::size_t PositionOf(const std::string& bytes, unsigned address)
 {
     const std::size_t start = NumberAt(bytes, 0x3C, 4);

@@ -8,7 +8,7 @@
 namespace quillon {
 namespace {
 
-// Changes the values of a project one by one; `look` is called behind each change.
+// Changes the values of a project one by one; `look` is called after each change.
 class OneByOne {
 public:
     OneByOne(Project& project, std::function<void(const Text& key)> look)

@@ -130,7 +130,7 @@ TEST(StandardSidePicture, IsThatOfTheTool)
 
 class PagesOfALanguage : public testing::TestWithParam<const char*> {};
 
-/// The letter behind '&', in lower case; empty where there is none.
+/// The letter after '&', in lower case; empty where there is none.
 Text AccessLetter(const Text& caption)
 {
     const std::size_t mark = caption.find('&');

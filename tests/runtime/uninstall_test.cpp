@@ -186,7 +186,7 @@ TEST_F(UninstallTest, GoesOnWhenOneFileCanNotBeRemovedAndLeavesItToTheNextStart)
     EXPECT_EQ(target.movesAtRestart[0], std::pair(kMain + "\\Bin\\prog.exe", Text()));
 }
 
-// A product's upgrade writes a second record for a file, behind the one that counts its users.
+// A product's upgrade writes a second record for a file, after the one that counts its users.
 TEST_F(UninstallTest, LeavesAFileThatAnotherProductSharesAfterAnUpgrade)
 {
     const Text shared = "C:\\Gemensamt\\delad.dll";

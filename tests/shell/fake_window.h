@@ -1,4 +1,4 @@
-// A main window that writes down what it is told.
+// A main window that writes down what it is reported.
 #pragma once
 
 #include "shell/main_window.h"

@@ -377,7 +377,7 @@ TEST(SaveProjectCommandTest, AsksBeforeItWritesOverWhatAnotherProgramHasMade)
     }
 }
 
-/// A user who takes the time for another change while the question stands there.
+/// A user who takes the time for another change while the question is there.
 class SlowAsk : public ScriptedAsk {
 public:
     using ScriptedAsk::ScriptedAsk;

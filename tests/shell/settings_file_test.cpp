@@ -225,7 +225,7 @@ TEST_F(SettingsFileTest, WritesAHiddenTabAsMinusOneWhateverNumberStoodThere)
     EXPECT_NE(Written().find("HideTabRegistry=-1\r\n"), std::string::npos);
 }
 
-// Nothing is told: the script expects no box, and no failure may leave the function.
+// Nothing is reported: the script expects no box, and no failure may leave the function.
 TEST_F(SettingsFileTest, KeepsQuietAboutAFileThatCannotBeWritten)
 {
     memory.files.Put(kFile, "[Options]\r\nCBarsCurrentStyle=1\r\n");

@@ -18,7 +18,7 @@ inline std::string Bitmap(QColor colour, int width = 100, int height = 200)
     return bytes.toStdString();
 }
 
-/// The header of a bitmap file that says to be this large, and nothing behind it.
+/// The header of a bitmap file that says to be this large, and nothing after it.
 inline std::string BitmapHead(int width, int height)
 {
     std::string bytes = Bitmap(Qt::black, 1, 1);

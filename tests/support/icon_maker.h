@@ -33,7 +33,7 @@ inline std::string PngPart(const IconPart& part)
     return bytes.toStdString();
 }
 
-// 32 bits a dot, bottom line first, and behind it a mask in which nothing is left out.
+// 32 bits a dot, bottom line first, and after it a mask in which nothing is left out.
 inline std::string BitmapPart(const IconPart& part)
 {
     const auto side = static_cast<std::uint32_t>(part.side);

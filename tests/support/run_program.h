@@ -1,4 +1,4 @@
-// Runs a whole program and tells what it said and how it ended.
+// Runs a whole program and says what it said and how it ended.
 #pragma once
 
 #include <map>

@@ -56,7 +56,7 @@ public:
     std::optional<FontChoice> ChooseFont(const FontChoice& current) override;
 
     // What the next choices of a colour and of a font give, in order; one beyond them fails the
-    // test, and an empty one is a cancelled dialog. What each was opened with comes behind.
+    // test, and an empty one is a cancelled dialog. What each was opened with comes after.
     std::deque<std::optional<Long>> colours;
     std::deque<std::optional<FontChoice>> fonts;
     std::vector<Long> shownColours;

@@ -28,7 +28,7 @@ Widget& Find(QWidget& root, const char* name)
 inline void Click(QWidget& root, const char* name)
 {
     auto& button = Find<QAbstractButton>(root, name);
-    // A box or an option wider than its caption takes no clicks behind it.
+    // A box or an option wider than its caption takes no clicks after it.
     QTest::mouseClick(&button, Qt::LeftButton, {},
                       {std::min(10, button.width() / 2), button.height() / 2});
 }
@@ -41,7 +41,7 @@ inline void TypeKeys(QWidget& widget, const Text& text)
                             Qt::NoModifier);
 }
 
-/// Replaces what stands in the field, key by key, and does not leave it.
+/// Replaces what is in the field, key by key, and does not leave it.
 inline void Type(QWidget& root, const char* name, const Text& text)
 {
     auto& field = Find<QLineEdit>(root, name);
@@ -79,7 +79,7 @@ inline void ShowActive(QWidget& window)
 }
 
 /// Runs `use` on the dialog that comes up next, while the code that opens it waits. A dialog that
-/// is still open behind it is closed, so that no test hangs.
+/// is still open after it is closed, so that no test hangs.
 inline void OnNextDialog(std::function<void(QDialog&)> use)
 {
     QTimer::singleShot(0, [use = std::move(use)] {

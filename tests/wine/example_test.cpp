@@ -18,7 +18,7 @@ constexpr const char* kMainFolder = "C:\\Program Files\\Hej";
 constexpr const char* kUninstallKey =
     "HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Hej";
 
-// What lies below the main folder, by its place in the staged sources.
+// What is below the main folder, by its place in the staged sources.
 constexpr std::pair<const char*, const char*> kFiles[] = {
     {"Hej.exe", "Hej.exe"},
     {"Hjälp.txt", "Hjälp.txt"},

@@ -1,4 +1,4 @@
-// What lies below a folder, to compare before and after.
+// What is below a folder, to compare before and after.
 #pragma once
 
 #include <filesystem>
@@ -7,7 +7,7 @@
 
 namespace quillon::test {
 
-/// Each path below the folder, in lower case as names of Windows are the same, with what tells that
+/// Each path below the folder, in lower case as names of Windows are the same, with what says that
 /// a file was changed; a folder has "folder".
 using FolderState = std::map<std::string, std::string>;
 

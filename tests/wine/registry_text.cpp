@@ -9,7 +9,7 @@ namespace quillon::test {
 
 namespace {
 
-// Takes an escaped text up to its closing mark; `position` moves behind the mark.
+// Takes an escaped text up to its closing mark; `position` moves after the mark.
 std::string TakeEscaped(const std::string& line, std::size_t& position, char closing)
 {
     std::string text;

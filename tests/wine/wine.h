@@ -12,7 +12,7 @@ namespace quillon::test {
 /// 32 or 64: what QUILLON_WINE says.
 int WineBits();
 
-/// Where the setup runtime for this Wine lies.
+/// Where the setup runtime for this Wine is.
 std::filesystem::path RuntimeFolder();
 /// Where the Windows programs of the tests lie.
 std::filesystem::path TestProgramFolder();
@@ -54,7 +54,7 @@ public:
 
     std::filesystem::path Folder() const { return folder_; }
     std::filesystem::path DriveC() const { return folder_ / "drive_c"; }
-    /// Where a file of drive C: lies on the host; found without regard to case as far as it exists.
+    /// Where a file of drive C: is on the host; found without regard to case as far as it exists.
     std::filesystem::path OnHost(const std::string& windowsPath) const;
 
 private:

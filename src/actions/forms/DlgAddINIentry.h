@@ -8,7 +8,7 @@ namespace quillon {
 
 class DlgAddINIentry : public Form {
 public:
-    /// `list` is what the entry comes behind.
+    /// `list` is what the entry comes after.
     DlgAddINIentry(const Text& list, Ask& ask, QWidget* parent);
 
     // After OK: what the entry puts at the end of the list; empty where no entry was typed.

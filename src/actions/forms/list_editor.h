@@ -9,7 +9,7 @@ class QPlainTextEdit;
 
 namespace quillon {
 
-/// A note that tells of a line in the area which the project file would not give back from this
+/// A note that describes a line in the area which the project file would not give back from this
 /// list, as long as there is one. The list can be kept with it, the project not be saved.
 QLabel* UnsavableLineNote(QLabel*& member, const char* name, QPlainTextEdit* area, ListField list);
 

@@ -1,4 +1,4 @@
-// Fields for a program or a document as it will stand on the user's machine.
+// Fields for a program or a document as it will be on the user's machine.
 #pragma once
 
 #include "platform/ask.h"

@@ -23,7 +23,7 @@ constexpr std::array<std::byte, 4> kEmptyStoredBlock{std::byte{0}, std::byte{0},
                                                      std::byte{0xFF}};
 constexpr std::size_t kRoomToOpen = 1 + kEmptyStoredBlock.size();
 
-/// Takes the end mark off a stream and fills it up to a whole byte. `stream` has room behind it.
+/// Takes the end mark off a stream and fills it up to a whole byte. `stream` has room after it.
 std::size_t OpenStream(std::span<std::byte> buffer, std::size_t size)
 {
     const StreamEnd end = FindStreamEnd(buffer.first(size));

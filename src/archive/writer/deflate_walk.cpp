@@ -25,7 +25,7 @@ class BitReader {
 public:
     explicit BitReader(std::span<const std::byte> bytes) : bytes_(bytes) {}
 
-    /// At least 56 bits can then be looked at; behind the end they are 0.
+    /// At least 56 bits can then be looked at; after the end they are 0.
     void Refill()
     {
         if (bytes_.size() - next_ >= sizeof bits_) {
@@ -146,7 +146,7 @@ private:
     std::array<Entry, 1U << kFastBits> fast_{};
 };
 
-// Bits behind the code of a match's length and distance.
+// Bits after the code of a match's length and distance.
 unsigned LengthExtraBits(std::size_t symbol)
 {
     const bool hasNone = symbol < 265 || symbol >= 285;

@@ -15,7 +15,7 @@ public:
     /// The folder of disk `number` (2 and up), ready to be written; nothing when none comes. It is
     /// asked again for a disk that turns out to be the one before.
     virtual std::optional<Text> NextDisk(int number) = 0;
-    /// Behind the last disk: whether the first one, with the package's own files, is at hand again.
+    /// After the last disk: whether the first one, with the package's own files, is at hand again.
     virtual bool FirstDiskAgain() { return true; }
     /// Bytes of the first disk to leave for what is written behind the pieces of an archive of this
     /// size.

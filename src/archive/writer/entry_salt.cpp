@@ -29,7 +29,7 @@ SaltMaker::SaltMaker(const Text& password)
 zip::Salt SaltMaker::Make(const Entry& entry, std::span<const std::byte> data,
                           std::span<const std::byte> contentDigest) const
 {
-    // The lengths stand before the texts, so that no two entries give the same bytes.
+    // The lengths precede the texts, so that no two entries give the same bytes.
     zip::Bytes header;
     zip::AppendNumber(header, entry.method);
     zip::AppendNumber(header, entry.size);

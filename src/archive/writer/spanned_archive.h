@@ -1,4 +1,4 @@
-// A finished archive cut into pieces that fit the disks at hand. Joined again, one behind the
+// A finished archive cut into pieces that fit the disks at hand. Joined again, one after the
 // other, the pieces are the archive.
 #pragma once
 
@@ -20,7 +20,7 @@ struct Spanning {
 };
 
 /// The first piece is `target`, the later ones have its name in the folders that `disks` gives.
-/// What stands on the disks stays there after a failure.
+/// What is on the disks stays there after a failure.
 Spanning CutOntoDisks(FileSystem& files, const Text& archive, const Text& target, DiskSource& disks,
                       const std::function<void(std::uint64_t done, std::uint64_t total)>& progress);
 

@@ -1,4 +1,4 @@
-// The headers of the entries of an archive that is being written, and what stands at its end.
+// The headers of the entries of an archive that is being written, and what is at its end.
 #pragma once
 
 #include "archive/zip_records.h"

@@ -166,7 +166,7 @@ void ZipWriting::Submit(std::size_t source, const SourceBlock& block)
     workers_.Submit(block);
 }
 
-// The method stands before the data, so it must be known before a source that is cut has been
+// The method precedes the data, so it must be known before a source that is cut has been
 // packed. A sample from each block decides; even where it errs, an entry gets hardly larger.
 bool ZipWriting::ShrinksInParts(const Text& path, std::uint64_t size)
 {

@@ -286,7 +286,7 @@ void DlgCreate::StartCreate()
     OfferNextStep(result);
 }
 
-/// What the user most likely does next takes Enter: closes the form behind a success.
+/// What the user most likely does next takes Enter: closes the form after a success.
 void DlgCreate::OfferNextStep(CreateResult result)
 {
     const bool isDone = result == CreateResult::Done || !cmdCreate->isEnabled();

@@ -22,7 +22,7 @@ class MediumPicture;
 
 class DlgCreate : public Form {
 public:
-    /// `showOptions` opens the dialog of the tool's own options; `paths` tells where a typed path
+    /// `showOptions` opens the dialog of the tool's own options; `paths` says where a typed path
     /// of this machine lies.
     DlgCreate(Session& session, QWidget* parent,
               std::function<void(QWidget* parent)> showOptions = {}, HostPaths paths = {});

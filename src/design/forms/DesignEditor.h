@@ -32,7 +32,7 @@ protected:
     };
     /// An option that stores its value where it is chosen.
     QRadioButton* OptionOf(Integer& value, const NumberOption& option);
-    /// Options that stand in one frame. A value that none has chooses the first.
+    /// Options that are in one frame. A value that none has chooses the first.
     Piece Options(Integer& value, std::initializer_list<NumberOption> options);
 
     ColourButton* ColourOf(ColourButton*& member, const char* name, const Text& caption,

@@ -26,7 +26,7 @@ public:
     Session& GetSession() { return session_; }
 
     // Each lays one object out anew. What the layout corrects is kept in the record. A picture that
-    // can't be shown is told once, and its name stays in the record.
+    // can't be shown is reported once, and its name stays in the record.
     void DrawDesBackground();
     void DrawDesTitle();
     void DrawDesPictures();

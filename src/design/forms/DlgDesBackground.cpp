@@ -28,7 +28,7 @@ DlgDesBackground::DlgDesBackground(Session& session, QWidget* parent)
     OptionOf(background_.Type, {NAMED(oPicture), "B&ild", 2});
     // Whatever is no colour is painted as a picture.
     oPicture->setChecked(background_.Type != 1);
-    // Two options that stand in two frames.
+    // Two options that are in two frames.
     auto* kinds = new QButtonGroup(this);
     kinds->addButton(oColor);
     kinds->addButton(oPicture);

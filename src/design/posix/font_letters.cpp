@@ -1,5 +1,5 @@
 // A letter is looked for in the font that fontconfig takes for the wanted one, then in those that
-// it lists behind it. Hinting is vertical only, so that advances are the outlines' own at every
+// it lists after it. Hinting is vertical only, so that advances are the outlines' own at every
 // size and lines break where they break on other systems.
 #include "design/posix/font_letters.h"
 

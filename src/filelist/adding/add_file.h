@@ -32,7 +32,7 @@ struct FileToAdd {
     std::optional<FileStatus> Listed = {};
 };
 
-/// One command's additions to a file list. While it lives, new rows stand at the end of the list
+/// One command's additions to a file list. While it lives, new rows are at the end of the list
 /// and nobody else may sort or shorten it; `Finish`, or its end, brings a sorted list into order
 /// again. So a command that adds thousands of rows sorts once.
 class FileAdding {
@@ -55,7 +55,7 @@ public:
     std::optional<std::size_t> AddFileToFileList(const FileToAdd& file);
 
     /// Takes a file from the Windows system folder; always without duplicate test, its failures
-    /// always told in a box.
+    /// always reported in a message box.
     std::optional<std::size_t> AddSystemFileToFileList(const Text& fileName, bool isRuntimeFile);
 
     enum class RowOutcome { Added, Duplicate, Refused };
@@ -63,7 +63,7 @@ public:
     /// refusal is always told, a duplicate where `showDuplicateMessage` says so.
     RowOutcome AddRow(const FileListRow& row, bool showDuplicateMessage);
 
-    /// Where each row stands now, by its number so far. No row may be added afterwards.
+    /// Where each row is now, by its number so far. No row may be added afterwards.
     NewPlaces Finish();
 
 private:

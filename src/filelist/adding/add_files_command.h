@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-/// Where each of the former rows stands afterwards; nothing where the list is as it was.
+/// Where each of the former rows is afterwards; nothing where the list is as it was.
 /// `lastAddFilesDirectory` is where the file dialog opens, and takes the folder of the files.
 std::optional<NewPlaces> AddFilesCommand(const ListWork& work, Text& lastAddFilesDirectory,
                                          FileQuestion::Look look = FileQuestion::Look::Details);

@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-// The paths as one text; several files of a folder stand behind it by their names.
+// The paths as one text; several files of a folder follow it by their names.
 Text SelectionText(const std::vector<Text>& paths)
 {
     if (paths.size() == 1)
@@ -20,7 +20,7 @@ Text SelectionText(const std::vector<Text>& paths)
     return selection;
 }
 
-// Not every machine has such a folder, and an empty text would begin every path. Behind the folder
+// Not every machine has such a folder, and an empty text would begin every path. After the folder
 // stands a backslash, or the mark before the names of several files.
 bool LiesInSystemFolder(const Text& selection, const Machine& machine)
 {

@@ -12,7 +12,8 @@ namespace quillon {
 // How many destinations are offered again the next time.
 inline constexpr std::size_t kRecentDestinations = 4;
 
-/// The destination for what was chosen and typed; nothing, with a box, where the text can't be one.
+/// The destination for what was chosen and typed; nothing, with a message box, where the text can't
+/// be one.
 std::optional<Text> MakeDestination(DestinationQuestion::Place place, const Text& typed, Ask& ask);
 
 /// What the dropdown offers, newest first.

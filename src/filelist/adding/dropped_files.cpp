@@ -51,7 +51,7 @@ private:
 
     void AddFolder(const Text& path)
     {
-        // A drive has no name that could stand below the destination.
+        // A drive has no name that could be below the destination.
         const Text name = IsAlone() ? Text() : ExtractFilename(RemoveLastBackslash(path));
         const bool keepsName = !name.empty() && !name.ends_with(':');
         AddTree(adding_, work_.host.files,

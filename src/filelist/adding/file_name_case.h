@@ -6,7 +6,7 @@
 namespace quillon {
 
 /// A name that holds a lower-case letter is left alone; one in capitals gets a capital first letter
-/// and small ones behind it; a path in capitals becomes lower case.
+/// and small ones after it; a path in capitals becomes lower case.
 Text FormatFileNameCase(std::string_view name);
 
 } // namespace quillon

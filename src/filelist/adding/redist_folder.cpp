@@ -4,8 +4,8 @@ namespace quillon {
 
 namespace {
 
-// The program of a registered command line: what stands in the leading quotation marks, or else
-// everything up to the first switch or argument behind the program's extension.
+// The program of a registered command line: what is in the leading quotation marks, or else
+// everything up to the first switch or argument after the program's extension.
 std::string_view ProgramOfCommand(std::string_view command)
 {
     if (command.starts_with('"')) {

@@ -27,7 +27,7 @@ std::optional<Refusal> RefusalOfLowerCase(const Text& sourcePath,
                                           const std::optional<FileStatus>& meant,
                                           const std::optional<FileStatus>& found);
 
-/// Not even the first byte can be read, or what stands there is neither file nor folder. A folder
+/// Not even the first byte can be read, or what is there is neither file nor folder. A folder
 /// and what is missing pass; they have failures of their own.
 std::optional<Refusal> RefusalToRead(const FileSystem& files, const Text& path);
 

@@ -76,7 +76,7 @@ std::string_view WithoutLastBackslash(std::string_view path)
 Text DestinationInTree(const Text& folder, const TreeToAdd& tree)
 {
     // By the lengths alone: the folder's path may be in another case than the start's. A drive's
-    // root ends in a backslash that belongs to what lies behind it.
+    // root ends in a backslash that belongs to what is after it.
     const std::size_t replaced = tree.form == TreeForm::WholePath
                                      ? std::string_view("C:").size()
                                      : WithoutLastBackslash(tree.StartDirectory).size();

@@ -10,7 +10,7 @@ namespace quillon {
 
 /// What becomes of the folders on the way to a file.
 enum class TreeForm {
-    ReplaceStart, // what lies behind the start folder hangs below the destination
+    ReplaceStart, // what is after the start folder hangs below the destination
     WholePath     // all of the path but the drive does
 };
 

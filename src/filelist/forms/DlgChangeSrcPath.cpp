@@ -28,7 +28,7 @@ DlgChangeSrcPath::DlgChangeSrcPath(const Text& source, Session& session, QWidget
     tFileSrcDir->setFocus();
 }
 
-// Kept: a path without a file is told and taken all the same; the file may come later.
+// Kept: a path without a file is reported and taken all the same; the file may come later.
 bool DlgChangeSrcPath::MayClose()
 {
     const Text typed = FromQt(tFileSrcDir->text());

@@ -1,4 +1,4 @@
-// When a component is installed over an earlier version only, and what is told otherwise.
+// When a component is installed over an earlier version only, and what is reported where it is not.
 #pragma once
 
 #include "project/records.h"

@@ -1,4 +1,4 @@
-// Where the icon of a file stands beside the program group.
+// Where the icon of a file is beside the program group.
 #pragma once
 
 #include "filelist/options/icon_row.h"

@@ -20,7 +20,7 @@ protected:
     Piece Ending();
     /// Whoever types here wants an icon.
     void TickAddIconOnTyping(QLineEdit* field);
-    /// False, with a box and the caret in the field, where its text can't stand in a row.
+    /// False, with a box and the caret in the field, where its text can't be in a row.
     bool CanStore(QLineEdit* field);
     bool MayClose() override;
 

@@ -1,4 +1,4 @@
-// The commands that change what stands in the rows of the file list, as the window runs them.
+// The commands that change what is in the rows of the file list, as the window runs them.
 #pragma once
 
 #include "shell/main_window.h"

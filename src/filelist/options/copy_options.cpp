@@ -37,7 +37,7 @@ Text CopyOptionLetters(const CopyOptionTicks& ticks)
     Text letters;
     for (std::size_t box = 0; box < ticks.size(); ++box) {
         const char letter = kCopyOptions[box].letter;
-        // The comparison stands before what depends on it.
+        // The comparison precedes what depends on it.
         const bool counts = letter != kNoCopyIfEqual || letters.find(kCompareVersion) != Text::npos;
         if (ticks[box] && counts)
             letters += letter;

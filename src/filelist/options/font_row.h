@@ -14,7 +14,7 @@ struct RowFont {
     bool operator==(const RowFont&) const = default;
 };
 
-/// False, and tells why, where the row's file is none of the fonts that the setup can register.
+/// False, and shows why, where the row's file is none of the fonts that the setup can register.
 bool IsFontToRegister(const FileListRow& row, Ask& ask);
 
 /// The registration that a row has.

@@ -106,7 +106,7 @@ void CheckExternalIconFile(const Text& path, Ask& ask)
         ask.Warn("Otillåten filtyp för ikon", kNoGif);
 }
 
-// Kept: the first dot is taken for that of the file's name, wherever it stands, and an empty
+// Kept: the first dot is taken for that of the file's name, wherever it is, and an empty
 // command line is one without a dot.
 bool CheckCommandLine(const Text& commandLine, Ask& ask)
 {

@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// Where an icon stands beside the program group. One place at most is chosen.
+/// Where an icon is beside the program group. One place at most is chosen.
 struct IconPlaces {
     bool onDesktop = false;
     bool onStartMenu = false;

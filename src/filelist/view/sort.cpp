@@ -52,7 +52,7 @@ NewPlaces MoveRows(FileList& list, const RowNumbers& order)
 
 Text SortText(const FileListRow& row, Column key)
 {
-    // Names go by their capitals, so '_' stands behind the letters and not before them.
+    // Names go by their capitals, so '_' comes after the letters and not before them.
     return SwedishOrderKey(key == Filename ? UpperCase(row[key]) : LowerCase(row[key]));
 }
 

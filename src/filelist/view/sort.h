@@ -13,7 +13,7 @@ namespace quillon {
 /// What a row is sorted by: its column without regard to case.
 Text SortText(const FileListRow& row, Column key);
 
-/// For each row number from before the sort, where the row stands now; a view moves its selection
+/// For each row number from before the sort, where the row is now; a view moves its selection
 /// by it.
 using NewPlaces = std::vector<std::size_t>;
 
@@ -24,7 +24,7 @@ NewPlaces SortRows(FileList& list);
 NewPlaces SortRowsBy(FileList& list, Column key, bool descending = false);
 
 /// Rows that come from a file keep its order, whoever reads it. The list is sorted by name from
-/// then on where they stand by name, else it is not sorted, and its duplicates are looked for in
+/// then on where they are by name, else it is not sorted, and its duplicates are looked for in
 /// all of it.
 void KeepStoredOrder(FileList& list);
 

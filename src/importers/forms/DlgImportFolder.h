@@ -1,4 +1,4 @@
-// The import of the output folder of a build: what lies in it, what its program needs, and what is
+// The import of the output folder of a build: what is in it, what its program needs, and what is
 // missing.
 #pragma once
 

@@ -15,7 +15,7 @@ public:
     QTreeWidget* ListOfFiles = nullptr;
 };
 
-/// Opens the list, unless the user has ended the import himself where nothing more is told, or
+/// Opens the list, unless the user has ended the import himself where nothing more is reported, or
 /// there is nothing to see to.
 void ShowNotAddedFiles(const ImportResult& result, QWidget* parent);
 

@@ -45,7 +45,7 @@ protected:
     /// The last row: `CmdHelp`, `cmdImport` and `cmdClose`.
     Piece Buttons();
 
-    /// Asks for the project's file; where it lies is remembered.
+    /// Asks for the project's file; its folder is remembered.
     std::optional<Text> SelectProject(const Text& filter, const Text& fileName);
     /// Asks for the program, in a folder or else in the last one.
     std::optional<Text> SelectProgram(const Text& folder = {});

@@ -43,7 +43,7 @@ bool IsRemovable(dev_t device)
     return false;
 }
 
-/// Blanks and the like stand in names of /dev as "\x20".
+/// Blanks and the like are in names of /dev as "\x20".
 Text DecodeDeviceName(const std::string& name)
 {
     Text text;

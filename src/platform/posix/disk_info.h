@@ -1,4 +1,4 @@
-// The disk that a folder lies on: room, kind, label.
+// The disk that a folder is on: room, kind, label.
 #pragma once
 
 #include "platform/file_system.h"

@@ -45,7 +45,7 @@ std::string WithoutLastSlash(std::string path)
     return path;
 }
 
-/// Absolute, without "." and "..". Where ".." stands in it, links are followed first, since the
+/// Absolute, without "." and "..". Where it has a "..", links are followed first, since the
 /// folder above a link's target is not the one above the link.
 std::string PlainHostPath(const std::string& path)
 {

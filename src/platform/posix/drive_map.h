@@ -29,7 +29,7 @@ public:
     explicit DriveMap(std::vector<MappedDrive> drives, std::vector<MappedFolder> folders = {});
 
     /// Upper and lower case of the path do not matter. ".." stops at the drive's root. A path
-    /// without a drive stands in the working folder. Nothing for a drive that is not mapped, and
+    /// without a drive is in the working folder. Nothing for a drive that is not mapped, and
     /// for a network path.
     std::optional<std::string> ToHost(const Text& windowsPath) const;
 

@@ -90,7 +90,7 @@ std::string FolderOfDriveC()
     return named.empty() ? DataFolder() + "/quillon/drive_c" : named;
 }
 
-// The user's own folders stand in drive C: as Windows has them. A drive that the user has named is
+// The user's own folders are in drive C: as Windows has them. A drive that the user has named is
 // taken as it is.
 void MapFoldersOfUser(MachineSettings& settings)
 {

@@ -113,7 +113,7 @@ void FlushFolderOf(const Text& path, const std::string& hostPath)
 
 using HostName = std::unique_ptr<char, void (*)(void*)>;
 
-/// Null where nothing stands at the path, or where a link leads nowhere.
+/// Null where nothing exists at the path, or where a link leads nowhere.
 HostName BehindLinks(const std::string& hostPath)
 {
     return {realpath(hostPath.c_str(), nullptr), free};

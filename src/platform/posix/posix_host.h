@@ -12,7 +12,7 @@ struct PosixHost {
     PosixHost(const PosixHost&) = delete;
     PosixHost& operator=(const PosixHost&) = delete;
 
-    /// The folder that the running program lies in, as a Windows path.
+    /// The folder that the running program is in, as a Windows path.
     Text ProgramFolder() const;
     /// Where the program writes: its own folder, or the user's where that one can't be written.
     Text OwnFolder() const;

@@ -182,7 +182,7 @@ std::uint32_t PosixMachine::Random(std::uint32_t below)
 
 std::string PosixMachine::Existing(const Text& path) const
 {
-    files_.Status(path); // throws where nothing stands
+    files_.Status(path); // throws where nothing exists
     return *drives_.ToHost(path);
 }
 

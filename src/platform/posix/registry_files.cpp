@@ -23,7 +23,7 @@ std::string_view NextLine(std::string_view& text)
     return line;
 }
 
-/// A text in quotation marks at the front of `line`, which is moved behind it.
+/// A text in quotation marks at the front of `line`, which is moved after it.
 std::optional<Text> TakeQuoted(std::string_view& line)
 {
     if (line.empty() || line.front() != '"')

@@ -58,7 +58,7 @@ std::vector<std::string> DataFolders()
 /// The text of a desktop entry; empty where there is none of this name.
 std::string ReadDesktopEntry(const std::string& name)
 {
-    // "kde-kate.desktop" may stand as "kde/kate.desktop".
+    // "kde-kate.desktop" may occur as "kde/kate.desktop".
     std::string inFolder = name;
     if (const std::size_t dash = inFolder.find('-'); dash != std::string::npos)
         inFolder[dash] = '/';
@@ -72,7 +72,7 @@ std::string ReadDesktopEntry(const std::string& name)
     return {};
 }
 
-/// The value of a key in the entry's own group; programs may have further groups behind it.
+/// The value of a key in the entry's own group; programs may have further groups after it.
 std::string ValueOf(std::string_view entry, std::string_view key)
 {
     bool isOwnGroup = false;

@@ -58,7 +58,7 @@ std::optional<Text> OpenKey::ReadText(const Text& name) const
             ERROR_SUCCESS ||
         (type != REG_SZ && type != REG_EXPAND_SZ))
         return std::nullopt;
-    // What is stored need not end in a NUL; the room behind it does.
+    // What is stored need not end in a NUL; the room after it does.
     std::wstring text(bytes / sizeof(wchar_t) + 1, L'\0');
     if (RegQueryValueExW(key_, wideName.c_str(), nullptr, nullptr,
                          reinterpret_cast<BYTE*>(text.data()), &bytes) != ERROR_SUCCESS)

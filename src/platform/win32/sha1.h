@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// A copy goes on from where the original stands.
+/// A copy goes on from where the original is.
 class Sha1 {
 public:
     void Add(std::span<const std::byte> bytes);

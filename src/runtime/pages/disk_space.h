@@ -7,11 +7,11 @@
 
 namespace quillon {
 
-/// How large the files of each component are, in bytes; those of none stand at 0.
+/// How large the files of each component are, in bytes; those of none are at 0.
 std::array<std::uint64_t, kComponentCount + 1>
 SizesByComponent(const std::vector<InstallRow>& rows);
 
-/// What would be installed as the project stands in `input`, in bytes.
+/// What would be installed as the project is in `input`, in bytes.
 std::uint64_t NeededSpace(const PlanInput& input);
 /// The same with nothing that the user could still leave out.
 std::uint64_t LeastNeededSpace(const PlanInput& input);

@@ -1,4 +1,4 @@
-// A page of the setup before any window is made: what stands on it, what can be filled in, and
+// A page of the setup before any window is made: what is on it, what can be filled in, and
 // which buttons it has. The logic of the pages fills it, a `PageView` shows it and keeps what the
 // user types and ticks in the same record.
 #pragma once
@@ -89,7 +89,7 @@ struct PagePiece {
     int maxHeight = 0;           // of a paragraph, in dialog units
     std::vector<PageItem> items; // of a list
     int selected = -1;
-    // A button behind an entry.
+    // A button after an entry.
     Text button;
     PageField buttonField = PageField::None;
 };
@@ -97,7 +97,7 @@ struct PagePiece {
 enum class PageButtons {
     BackNextCancel,
     BackYesNo, // an agreement is accepted or declined
-    Finish,    // behind the installation there is nothing to go back to and nothing to cancel
+    Finish,    // after the installation there is nothing to go back to and nothing to cancel
 };
 
 struct SetupPage {
@@ -133,7 +133,7 @@ class PageView {
 public:
     virtual ~PageView() = default;
 
-    /// Shows the page until the user wants to leave it. What stands in its fields is in `page`
+    /// Shows the page until the user wants to leave it. What is in its fields is in `page`
     /// afterwards.
     virtual PageAction Show(SetupPage& page, const PageListener& listener) = 0;
     /// The pages are done with for now: something else shows what happens.

@@ -101,7 +101,7 @@ private:
         return HasLabelAbove(piece) ? Down(kLineHeight) + Down(kAfterLabel) : 0;
     }
 
-    // Labels in a row of lines stand in a column of their own.
+    // Labels in a row of lines are in a column of their own.
     int LabelColumn() const
     {
         int width = 0;

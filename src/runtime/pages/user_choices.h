@@ -18,11 +18,11 @@ struct UserChoices {
     Text destination; // the main folder; empty where none was chosen
     std::optional<Text> programGroup;
     std::optional<section::LicenseData> user;
-    std::array<Component, kComponentCount> components; // component n stands at n - 1
+    std::array<Component, kComponentCount> components; // component n is at n - 1
 };
 
 /// Puts the choices into the project as if they had been its own. The main folder is not among
-/// them: it stands beside the project wherever it is asked for.
+/// them: it is beside the project wherever it is asked for.
 void ApplyChoices(const UserChoices& choices, SetupInformation& setup);
 
 } // namespace quillon

@@ -300,7 +300,7 @@ void PageControls::FocusOn(PageField field) const
 {
     const HWND control =
         GetDlgItem(window_, field == PageField::None ? kForwardId : ControlId(field));
-    // As the Tab key does it, which also selects what stands in a line.
+    // As the Tab key does it, which also selects what is in a line.
     SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
 }
 

@@ -17,7 +17,8 @@ constexpr const wchar_t* kWindowClass = L"QuillonPages";
 constexpr UINT kDpiChanged = 0x02E0; // WM_DPICHANGED, since Windows 8.1
 constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 
-// A dialog without controls of its own kind, so that boxes of the system are told from it.
+// A dialog without controls of its own kind, so that boxes of the system can be distinguished from
+// it.
 struct EmptyDialog {
     DLGTEMPLATE head;
     WORD menu;

@@ -1,4 +1,4 @@
-// The window of the pages. It stays the same one from page to page; what stands in it is made anew.
+// The window of the pages. It stays the same one from page to page; what is in it is made anew.
 #pragma once
 
 #include "design/scalable_picture.h"

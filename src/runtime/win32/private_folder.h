@@ -25,7 +25,7 @@ private:
 /// Such a folder that stays; its path. Throws where none can be made.
 Text MakePrivateFolder(Host& host);
 
-/// The folder that the running program's file lies in, and that file.
+/// The folder that the running program's file is in, and that file.
 Text ProgramFolder();
 Text ProgramPath();
 

@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// From here on libraries are taken from the system's folder only: a package lies in a folder of
+/// From here on libraries are taken from the system's folder only: a package is in a folder of
 /// downloads, where anybody may have laid a version.dll beside it. And Windows shows no boxes of
 /// its own, neither for a missing disk nor for a crash, since nobody may be there to answer them: a
 /// crash ends the program at once, with the exception's code.

@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-// With the handle of the pipe behind them.
+// With the handle of the pipe after them.
 constexpr std::string_view kRegister = "/REGISTER=";
 constexpr std::string_view kUnregister = "/UNREGISTER=";
 

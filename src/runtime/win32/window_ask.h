@@ -1,5 +1,5 @@
-// The setup's one window: a line that tells what is being done, a bar, and a button to cancel.
-// Boxes stand in front of it.
+// The setup's one window: a line that says what is being done, a bar, and a button to cancel.
+// Message boxes are shown in front of it.
 #pragma once
 
 #include "platform/ask.h"
@@ -21,7 +21,7 @@ public:
 
     void Show();
     void Hide();
-    /// Boxes stand in front of this window while this one is hidden.
+    /// Boxes are shown in front of this window while this one is hidden.
     void SetOwner(HWND owner) { owner_ = owner; }
 
     void Inform(const Text& title, const Text& text) override;

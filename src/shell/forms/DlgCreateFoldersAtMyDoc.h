@@ -9,7 +9,7 @@ namespace quillon {
 
 class DlgCreateFoldersAtMyDoc : public Form {
 public:
-    /// `hostFolder` is where the folder lies on a machine without Windows' paths, or empty.
+    /// `hostFolder` is where the folder is on a machine without Windows' paths, or empty.
     explicit DlgCreateFoldersAtMyDoc(Session& session, QWidget* parent = nullptr,
                                      const Text& hostFolder = {});
 

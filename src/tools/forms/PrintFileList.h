@@ -14,7 +14,7 @@ class PagePreview;
 /// A printer of this machine.
 struct PrinterChoice {
     Text name;
-    Text port; // where it stands, or what it is, as far as the system tells
+    Text port; // where it is, or what it is, as far as the system tells
 };
 
 class PrintFileList : public Form {

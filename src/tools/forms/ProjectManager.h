@@ -48,7 +48,7 @@ private:
     std::vector<ListedProject> projects_;
 };
 
-/// Shows the project manager, and opens the project that was chosen in it behind the usual
+/// Shows the project manager, and opens the project that was chosen in it after the usual
 /// question.
 void OpenProjectManager(Session& session, MainWindow& window, QWidget* parent);
 

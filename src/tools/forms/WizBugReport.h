@@ -38,11 +38,11 @@ protected:
     /// The row of buttons that every page ends in.
     Piece StepButtons(Steps steps);
 
-    /// Whether the page may be left forwards; where not, it has told why.
+    /// Whether the page may be left forwards; where not, it has shown why.
     virtual bool MayGoOn() { return true; }
     /// Puts what the page asks for into the wizard's answers, before any check of them.
     virtual void TakeAnswers() {}
-    /// Behind the clearing of the two flags.
+    /// After the clearing of the two flags.
     virtual void OnShow() {}
 
     void GoOn();

@@ -20,7 +20,7 @@ public:
     LinkLabel* LabelDomainNameUpdates = nullptr;
 };
 
-/// A page whose questions stand in the table.
+/// A page whose questions are in the table.
 class BugQuestionPage : public WizBugReportPage {
 protected:
     BugQuestionPage(const char* name, int page, BugReportWizard& wizard, QWidget* parent);

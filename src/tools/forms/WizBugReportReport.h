@@ -1,4 +1,4 @@
-// The pages of the wizard that work: the diagnosis, the report, where it lies.
+// The pages of the wizard that work: the diagnosis, the report, where it is.
 #pragma once
 
 #include "tools/forms/WizBugReport.h"

@@ -51,7 +51,7 @@ bool PrintPages(QPagedPaintDevice& device, const std::vector<PrintedPage>& pages
         return false;
     const double width = device.logicalDpiX() * kPageWidth / 25.4;
     const double height = device.logicalDpiY() * kPageHeight / 25.4;
-    // A printer may begin to count behind the margin that it can't print on.
+    // A printer may begin to count after the margin that it can't print on.
     const QPointF margin = device.pageLayout().paintRectPixels(device.logicalDpiX()).topLeft();
     for (std::size_t i = 0; i < pages.size(); ++i) {
         if (i > 0 && !device.newPage())

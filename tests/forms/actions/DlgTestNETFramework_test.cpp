@@ -11,7 +11,7 @@ constexpr const char* kOptions[] = {"oNETver10", "oNETver11", "oWarnIfNoNET", "o
 template <class Dialog>
 class NetFrameworkTest : public WindowTest {
 protected:
-    /// Shows the dialog, where the controls stand in view.
+    /// Shows the dialog, where the controls are in view.
     void Open()
     {
         dialog = std::make_unique<Dialog>(session, nullptr);

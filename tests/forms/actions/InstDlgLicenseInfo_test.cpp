@@ -179,7 +179,7 @@ TEST_F(InstDlgLicenseInfoRtfTest, ShowsAFileCutAtAnyByte)
         machine.files.Put(kRtfFile, whole.substr(0, length));
         view.ShowFile(machine.files, kRtfFile);
         const bool isWhole = view.ShownNote().isEmpty();
-        // Only what stands behind the last brace may be missing.
+        // Only what follows the last brace may be missing.
         EXPECT_EQ(isWhole, length > whole.rfind('}')) << length;
     }
 }

@@ -117,7 +117,7 @@ TEST_F(Icons, AreDrawnInDevicePixels)
 TEST_F(Icons, HaveSharpLinesAtEachScale)
 {
     for (const int scale : {2, 3, 4}) {
-        // The sides of the picture frame stand at 3 and 21 of 24.
+        // The sides of the picture frame are at 3 and 21 of 24.
         const QImage picture = Draw(CommandIcon(CommandId::TextBox), 12 * scale);
         const int middle = picture.height() * 18 / 24;
         const auto inkAt = [&](int x) { return qAlpha(picture.pixel(x, middle)); };

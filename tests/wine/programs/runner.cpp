@@ -1,4 +1,4 @@
-// runner FILE: runs the command line that stands in the file, in UTF-8, and writes the program's
+// runner FILE: runs the command line that is in the file, in UTF-8, and writes the program's
 // exit code in decimal to FILE.code. A code of Windows has 32 bits, of which only eight get out of
 // Wine, and Wine changes the quotation marks of what it is told to run.
 #include <windows.h>

@@ -1,5 +1,5 @@
 // What the editors of a setup's pages share: the page's texts and choices, a preview of them as
-// they stand on the form, OK and Cancel. A page is edited whether or not it is part of the chain.
+// they are on the form, OK and Cancel. A page is edited whether or not it is part of the chain.
 #pragma once
 
 #include "actions/dialog_chain.h"

@@ -1,4 +1,4 @@
-// The side picture of a setup's pages: how it looks, where it lies, and the buttons to choose
+// The side picture of a setup's pages: how it looks, where it is, and the buttons to choose
 // another. The tab for the pages shows the one of all pages, an editor that of its own page.
 #pragma once
 
@@ -16,7 +16,7 @@ class PathLabel;
 class PictureView;
 struct Session;
 
-/// What the controls are called, and what stands on the frame.
+/// What the controls are called, and what is on the frame.
 struct PictureChoiceNames {
     const char* caption;
     const char* select;
@@ -31,7 +31,7 @@ public:
     PictureChoice(const PictureChoiceNames& names, Session& session,
                   std::function<void(const Text& path)> onChoice);
 
-    /// Shows what lies there now, or says why there is nothing to show.
+    /// Shows what is there now, or says why there is nothing to show.
     void ShowBitmap(const Text& path);
 
 private:

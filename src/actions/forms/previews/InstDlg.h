@@ -21,7 +21,7 @@ public:
     // An agreement is accepted or declined in place of Next and Cancel.
     QPushButton* CmdYes = nullptr;
     QPushButton* CmdNo = nullptr;
-    // Behind the installation there is nothing to go back to and nothing to cancel.
+    // After the installation there is nothing to go back to and nothing to cancel.
     QPushButton* cmdFinish = nullptr;
 
 protected:
@@ -31,7 +31,7 @@ protected:
     InstDlg(const char* name, DialogSwitch page, const Text& title, const Text& bitmap,
             Session& session, QWidget* parent);
 
-    /// Lays the page out; `pieces` stand below the title.
+    /// Lays the page out; `pieces` are below the title.
     void ArrangePage(Piece pieces, Buttons buttons = Buttons::NextCancel);
 
     /// Text on the page's background, as wide as the page and as high as its lines, up to `most`

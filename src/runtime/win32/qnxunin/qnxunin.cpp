@@ -99,7 +99,7 @@ void OpenLog(UninstallRun& run)
         run.log = ActionLog(run.host.files, run.host.machine, path, run.texts);
 }
 
-// A setup that was killed is brought to its end first, so that the log tells what is there.
+// A setup that was killed is brought to its end first, so that the log says what is there.
 EarlierRun FinishEarlier(UninstallRun& run)
 {
     const Text folder = ProgramFolder();

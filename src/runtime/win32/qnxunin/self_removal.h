@@ -21,7 +21,7 @@ public:
 
 private:
     Host& host_;
-    Text folder_; // where the program's file lies now; empty where it has not been moved
+    Text folder_; // where the program's file is now; empty where it has not been moved
 };
 
 /// What the second copy does; nothing where the command line asks for something else.
