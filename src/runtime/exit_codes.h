@@ -14,7 +14,11 @@ enum class ExitCode : int {
     DiskFull = 112,
     Cancelled = 1602,
     Failed = 1603, // and undone: the machine is as it was before
+    NothingInstalled = 1605,
+    OtherSetupRuns = 1618,
+    WrongSystem = 1633,
     BadSwitch = 1639,
+    RestartNeeded = 3010, // done, but the product is whole only after the next start
 };
 
 /// Ends the installation. `what` is for the user and the log, in the user's language.

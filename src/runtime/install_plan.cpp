@@ -138,6 +138,12 @@ bool IsComponentInstalled(const PlanInput& input, int number)
     return isTicked && !FindsNoEarlierVersion(input, *component);
 }
 
+bool CanBeInstalled(const PlanInput& input, int number)
+{
+    const section::FileComponent* const component = ComponentInUse(input, number);
+    return component == nullptr || !FindsNoEarlierVersion(input, *component);
+}
+
 bool IsNewWindows(SystemKind system)
 {
     return system == SystemKind::WinME || system == SystemKind::Win2000 ||

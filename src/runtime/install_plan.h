@@ -58,6 +58,9 @@ InstallPlan MakeInstallPlan(const PlanInput& input);
 /// only updates an earlier version and finds none.
 bool IsComponentInstalled(const PlanInput& input, int component);
 
+/// False for a component that only updates an earlier version which is not there.
+bool CanBeInstalled(const PlanInput& input, int component);
+
 /// The product's own log in the main folder, or the first free name: products that share a main
 /// folder keep a log each.
 Text ChooseInstallJournal(const FileSystem& files, const Text& mainFolder, const Text& product);

@@ -35,6 +35,7 @@ enum class Message {
     WrongPassword,
     WrongSystem,
     WrongSystemQuestion,
+    OtherSetup,
     Damaged,
     DiskFull,
     Failed,

@@ -11,6 +11,7 @@
 #include "runtime/failure_reason.h"
 #include "runtime/install.h"
 #include "runtime/package_check.h"
+#include "runtime/pages/component_switch.h"
 #include "runtime/pages/earlier_version.h"
 #include "runtime/pages/page_chain.h"
 #include "runtime/rollback.h"
@@ -37,6 +38,8 @@ private:
     ExitCode Fail(ExitCode code, const Text& text);
     void OpenLog();
     void CheckSwitches() const;
+    [[noreturn]] void Refuse(const Text& badSwitch) const;
+    void TakeSwitches();
     void CheckPackage() const;
     void CheckFiles();
     bool HasPassword() const;
@@ -101,6 +104,7 @@ ExitCode SetupProgram::Run()
         OpenLog();
         CheckSwitches();
         CheckPackage();
+        TakeSwitches();
         CheckFiles();
         CheckPassword();
         CheckSystem();
@@ -110,7 +114,7 @@ ExitCode SetupProgram::Run()
         TellTheEnd(result);
         log_.Line(Message::LogDone);
         log_.Close();
-        return ExitCode::Done;
+        return result.needsRestart ? ExitCode::RestartNeeded : ExitCode::Done;
     } catch (const SetupFailure& failure) {
         return Fail(failure.Code(), failure.what());
     } catch (const ZipError& error) {
@@ -135,11 +139,33 @@ void SetupProgram::OpenLog()
               input_.switches.packageFolder);
 }
 
+void SetupProgram::Refuse(const Text& badSwitch) const
+{
+    throw SetupFailure(ExitCode::BadSwitch, texts_(Message::BadSwitch, badSwitch));
+}
+
 void SetupProgram::CheckSwitches() const
 {
-    if (input_.switches.badSwitch)
-        throw SetupFailure(ExitCode::BadSwitch,
-                           texts_(Message::BadSwitch, *input_.switches.badSwitch));
+    const Switches& switches = input_.switches;
+    if (switches.badSwitch)
+        Refuse(*switches.badSwitch);
+    const Text& language = switches.languageFile;
+    if (!language.empty() &&
+        !input_.host.files.FileExists(JoinPath(switches.packageFolder, language)))
+        Refuse("/LANG=" + language);
+    if (input_.otherSetupRuns)
+        throw SetupFailure(ExitCode::OtherSetupRuns, texts_[Message::OtherSetup]);
+}
+
+// What only the package can tell the meaning of.
+void SetupProgram::TakeSwitches()
+{
+    UserChoices choices;
+    choices.programGroup = input_.switches.programGroup;
+    if (input_.switches.components)
+        if (const auto unknown = TakeComponents(*input_.switches.components, setup_, choices))
+            Refuse("/COMPONENTS=" + *unknown);
+    ApplyChoices(choices, setup_);
 }
 
 void SetupProgram::CheckPackage() const
@@ -185,7 +211,7 @@ void SetupProgram::CheckSystem()
     if (IsMeantFor(systems, input_.target.System()) != kOff)
         return;
     if (systems.TargetOS_StopIfWrong != kOff)
-        throw SetupFailure(ExitCode::Failed, texts_[Message::WrongSystem]);
+        throw SetupFailure(ExitCode::WrongSystem, texts_[Message::WrongSystem]);
     if (systems.TargetOS_WarnIfWrong == kOff)
         return;
     log_.Line(Message::LogWrongSystem);
@@ -271,7 +297,7 @@ void SetupProgram::LeadThroughPages()
     if (input_.pages == nullptr)
         return;
     chain_ = std::make_unique<PageChain>(
-        PageInput{input_.host, input_.target, input_.ask, texts_, package_.setup, package_.rows,
+        PageInput{input_.host, input_.target, input_.ask, texts_, setup_, package_.rows,
                   input_.switches.packageFolder, destination_, isUpdate_, HasPassword()});
     if (chain_->LeadThrough(*input_.pages) == PageChain::End::Cancelled)
         throw SetupFailure(ExitCode::Cancelled, {});
@@ -336,22 +362,27 @@ void TellBrokenInformation(LoadedPackage& package)
         package.fault = {Message::PackageFileIncomplete, kSetupInformationName};
 }
 
-// Without it everything is said in Swedish.
-void ReadLanguage(const FileSystem& files, const Text& folder, LoadedPackage& package)
+void ReadLanguageFile(const FileSystem& files, const Text& path, LoadedPackage& package)
 {
-    const Text& name = package.setup.project.Language.LanguageFile;
-    if (FaultOfName(name) != PathFault::None)
-        return;
-    const Text path = JoinPath(folder, name);
     RunErrorNumber([&] {
         if (files.FileExists(path) && files.Status(path).size <= kMaxLanguageFileSize)
             package.texts = LanguageTexts(ReadWholeFile(files, path));
     });
 }
 
+// Without it everything is said in Swedish.
+void ReadLanguage(const FileSystem& files, const Text& folder, LoadedPackage& package)
+{
+    const Text& name = package.setup.project.Language.LanguageFile;
+    if (FaultOfName(name) != PathFault::None)
+        return;
+    ReadLanguageFile(files, JoinPath(folder, name), package);
+}
+
 } // namespace
 
-LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder)
+LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder,
+                          const Text& languageFile)
 {
     LoadedPackage package = ReadSetupInformationFile(files, packageFolder);
     package.manifest = ReadPackageManifest(files, packageFolder);
@@ -367,6 +398,8 @@ LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder)
     if (!package.fault && package.setup.Files != Long(package.rows.size()))
         package.fault = {Message::PackageFilesDiffer, kSetupInformationName, kFileListName};
     ReadLanguage(files, packageFolder, package);
+    if (!languageFile.empty())
+        ReadLanguageFile(files, JoinPath(packageFolder, languageFile), package);
     return package;
 }
 

@@ -21,8 +21,10 @@ struct LoadedPackage {
     std::optional<Reason> fault; // what is wrong with the package
 };
 
-/// Reads both INF files and the language file. Whatever is missing is told in `fault`.
-LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder);
+/// Reads both INF files and the language file. Whatever is missing is told in `fault`. A language
+/// file of that name goes before the project's own.
+LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder,
+                          const Text& languageFile = {});
 
 /// The same without the file list, of files that may be made for a preview alone.
 LoadedPackage LoadSetupInformation(const FileSystem& files, const Text& packageFolder);
@@ -36,6 +38,7 @@ struct SetupInput {
     Text workFolder; // exists, and is removed by the caller
     // Shows the pages of the package; null where nobody is to be asked.
     PageView* pages = nullptr;
+    bool otherSetupRuns = false; // another one on this machine
 };
 
 /// Installs, and tells the user and the log what went wrong.

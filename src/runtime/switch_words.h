@@ -1,17 +1,27 @@
 // How a command line falls into switches. The starter asks the same, so it is written for any kind
 // of character and without the standard library.
 //
-// Blanks and tabs part switches, but not inside quotation marks, which may occur around a value or
-// around a switch as a whole: "/D=C:\My Folder" is what shells and launchers make of a blank. The
-// folder of /D= needs none: it holds no slash, so that it goes on to the next switch.
+// A switch begins with a slash or a dash. Blanks and tabs part switches, but not inside quotation
+// marks, which may stand around a value or around a switch as a whole: "/D=C:\My Folder" is what
+// shells and launchers make of a blank. The folder of /D= needs none: it goes on to the next
+// switch, a slash, or a dash with a letter behind it.
 #pragma once
 
 namespace quillon {
+
+// All words for "show nothing"; deployment tools have one each.
+inline constexpr const char* kSilentWords[] = {"S", "SILENT", "VERYSILENT", "QUIET", "Q", "QN"};
 
 template <class Char>
 bool IsSwitchBlank(Char character)
 {
     return character == ' ' || character == '\t';
+}
+
+template <class Char>
+bool IsSwitchMark(Char character)
+{
+    return character == '/' || character == '-';
 }
 
 /// Where the next switch begins; the end of the line where there is none.
@@ -23,11 +33,27 @@ const Char* SkipSwitchBlanks(const Char* line)
     return line;
 }
 
+template <class Char>
+bool IsSwitchLetter(Char character)
+{
+    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
+}
+
+/// Whether a switch begins here, though a folder might go on.
+template <class Char>
+bool BeginsSwitch(const Char* word)
+{
+    if (*word == '"')
+        ++word;
+    return *word == '/' || (*word == '-' && IsSwitchLetter(word[1]));
+}
+
 /// Where the switch that begins at `word` ends.
 template <class Char>
 const Char* EndOfSwitch(const Char* word)
 {
-    const bool isFolder = word[0] == '/' && (word[1] == 'D' || word[1] == 'd') && word[2] == '=';
+    const bool isFolder =
+        IsSwitchMark(word[0]) && (word[1] == 'D' || word[1] == 'd') && word[2] == '=';
     bool quoted = false;
     for (; *word != 0; ++word) {
         if (*word == '"')
@@ -35,27 +61,44 @@ const Char* EndOfSwitch(const Char* word)
         if (quoted || !IsSwitchBlank(*word))
             continue;
         const Char* const next = SkipSwitchBlanks(word);
-        const bool beginsSwitch = next[0] == '/' || (next[0] == '"' && next[1] == '/');
-        if (!isFolder || *next == 0 || beginsSwitch)
+        if (!isFolder || *next == 0 || BeginsSwitch(next))
             return word;
     }
     return word;
 }
 
-/// Whether the line holds /S, with or without quotation marks.
+/// Whether a switch's name, without its mark, is the word, which is in capitals.
+template <class Char>
+bool IsSwitchWord(const Char* name, int length, const char* word)
+{
+    int i = 0;
+    for (; i < length && word[i] != 0; ++i) {
+        const Char upper =
+            name[i] >= 'a' && name[i] <= 'z' ? static_cast<Char>(name[i] - 'a' + 'A') : name[i];
+        if (upper != static_cast<Char>(word[i]))
+            return false;
+    }
+    return i == length && word[i] == 0;
+}
+
+/// Whether the line holds one of the words for silence, with or without quotation marks. A switch
+/// of that name with a value counts too: it is wrong, and nothing is shown of that either.
 template <class Char>
 bool HasSilentSwitch(const Char* line)
 {
+    constexpr int kLongest = 16;
     for (line = SkipSwitchBlanks(line); *line != 0; line = SkipSwitchBlanks(line)) {
         const Char* const end = EndOfSwitch(line);
         // Its characters up to a value, the quotation marks left out.
-        Char name[3] = {};
+        Char name[kLongest] = {};
         int length = 0;
-        for (; line != end && *line != '=' && length <= 2; ++line)
-            if (*line != '"' && length++ < 2)
+        for (; line != end && *line != '='; ++line)
+            if (*line != '"' && length++ < kLongest)
                 name[length - 1] = *line;
-        if (length == 2 && name[0] == '/' && (name[1] == 'S' || name[1] == 's'))
-            return true;
+        if (length > 1 && length <= kLongest && IsSwitchMark(name[0]))
+            for (const char* word : kSilentWords)
+                if (IsSwitchWord(name + 1, length - 1, word))
+                    return true;
         line = end;
     }
     return false;

@@ -12,8 +12,12 @@ namespace quillon {
 enum class TestMode { Test, Preview };
 
 struct Switches {
-    bool silent = false;              // /S
-    Text destination;                 // /D= or /DIR=
+    bool silent = false;              // /S and its likes, and /passive
+    bool passive = false;             // /passive, /qb: progress alone
+    Text destination;                 // /D=, /DIR= or INSTALLDIR=
+    std::optional<Text> components;   // /COMPONENTS=
+    std::optional<Text> programGroup; // /GROUP=
+    Text languageFile;                // /LANG=, as the name of a file
     Text logFile;                     // /LOG=
     std::optional<Text> password;     // /PASSWORD=
     Text packageFolder;               // /PACKAGE=, which the starter adds for the program proper

@@ -20,7 +20,7 @@ constexpr const char* kPrograms[] = {"SETUP32.EXE",  "Small32/QNS32X.EXE", "Full
                                      "DUNZIP32.DLL", "QNREG32.EXE",        "QNXREG2.EXE",
                                      "QNXUNIN.EXE"};
 
-constexpr std::uintmax_t kRoomForAll = 1'000'000;
+constexpr std::uintmax_t kRoomForAll = 1024 * 1024;
 constexpr unsigned kMachine386 = 0x014C;
 constexpr unsigned kMachineAmd64 = 0x8664;
 constexpr unsigned kPe32 = 0x010B;

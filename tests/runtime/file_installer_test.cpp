@@ -104,7 +104,7 @@ TEST_F(CopyOptionsTest, XDoesWhatTheUserAnswers)
 TEST_F(CopyOptionsTest, ALetsAFileInUseBeReplacedAtTheNextStart)
 {
     files.inUse.insert(kFile);
-    EXPECT_EQ(InstallOver("RA", kOlder), ExitCode::Done) << Log();
+    EXPECT_EQ(InstallOver("RA", kOlder), ExitCode::RestartNeeded) << Log();
     EXPECT_EQ(memory.files.Get(kFile), "gammal");
     // And then the folder goes that it waits in.
     ASSERT_EQ(target.movesAtRestart.size(), 2U);
@@ -125,7 +125,7 @@ TEST_F(CopyOptionsTest, EachFileInUseIsRegisteredByACommandOfItsOwn)
     files.inUse = {kFile, second};
     memory.files.Put(second, "gammal", kOlder);
     AddFile("b.dll", "%DESTDIR", "ny", "RA");
-    EXPECT_EQ(InstallOver("RA", kOlder), ExitCode::Done) << Log();
+    EXPECT_EQ(InstallOver("RA", kOlder), ExitCode::RestartNeeded) << Log();
     const RegistryKey key{RegistryRoot::LocalMachine,
                           "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"};
     const Text helper = "\"C:\\Program\\Exempel\\QNXREG2.EXE\" ";

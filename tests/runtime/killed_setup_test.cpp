@@ -169,7 +169,7 @@ TEST_F(KilledSetup, LeavesWhatWaitsForTheNextStart)
     for (int n = 1;; ++n) {
         Restore(start);
         target.movesAtRestart.clear();
-        if (!KillAt(n, [&] { EXPECT_EQ(Install(), ExitCode::Done) << Log(); }))
+        if (!KillAt(n, [&] { EXPECT_EQ(Install(), ExitCode::RestartNeeded) << Log(); }))
             break;
         const bool committed = Journal().find("\r\nCOMMITTED") != Text::npos;
         ASSERT_TRUE(Finish()) << n;

@@ -150,7 +150,7 @@ ExitCode SetupFixture::Install(const Text& switches)
                              throw RunError(ErrorNumber::kFileNotFound, path);
                          return std::make_unique<MemoryContainer>(sources, damagedEntry);
                      },
-                     read, kWorkFolder, pages},
+                     read, kWorkFolder, pages, otherSetupRuns},
                     package);
 }
 

@@ -152,6 +152,7 @@ protected:
     Text openedContainer;
     Ask* ask = nullptr; // null: silent
     PageView* pages = nullptr;
+    bool otherSetupRuns = false;
 };
 
 } // namespace quillon::test

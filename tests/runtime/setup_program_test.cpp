@@ -37,8 +37,9 @@ TEST_F(SetupProgramTest, RefusesABadSwitch)
 TEST_F(SetupProgramTest, ShowsWhatIsWrongUnlessItIsSilent)
 {
     ScriptedAsk script({{BoxKind::Critical, "Installation av Exempel",
-                         "Växeln '/FEL' är okänd eller felaktig. Tillåtna växlar är /S, /D=mapp, "
-                         "/DIR=\"mapp\", /LOG=\"fil\" och /PASSWORD=lösenord."}});
+                         "Växeln '/FEL' är okänd eller felaktig. Tillåtna växlar är /S, "
+                         "/passive, /D=mapp, /DIR=\"mapp\", /COMPONENTS=\"a,!b\", "
+                         "/GROUP=\"...\", /LANG=..., /LOG=\"fil\" och /PASSWORD=lösenord."}});
     ask = &script;
     EXPECT_EQ(InstallInVain("/FEL"), ExitCode::BadSwitch);
 }
@@ -213,6 +214,86 @@ TEST_F(SetupProgramTest, ChangesNothingWhereAPageIsCancelled)
     EXPECT_EQ(State(), before);
 }
 
+class ComponentsSwitch : public SetupProgramTest {
+protected:
+    ComponentsSwitch()
+    {
+        package.setup.UseComponents = kOn;
+        constexpr const char* kNames[] = {"Program", "Hjälp & tips", "Bilder"};
+        for (std::size_t i = 0; i < 3; ++i) {
+            auto& component = project.FileComponents[i];
+            component.Comp = 1;
+            component.CompName = kNames[i];
+            component.CompDefault = i == 2 ? 0 : 1;
+            AddFile(NumberText(std::int64_t(i) + 1) + ".txt", "%DESTDIR", "x").component =
+                NumberText(std::int64_t(i) + 1);
+        }
+    }
+    /// The numbers of the components that were installed.
+    Text Installed() const
+    {
+        Text found;
+        for (const char* number : {"1", "2", "3"})
+            if (memory.files.FileExists(kMain + "\\" + number + ".txt"))
+                found += number;
+        return found;
+    }
+};
+
+TEST_F(ComponentsSwitch, ChoosesWhatIsNamedAndNothingElse)
+{
+    EXPECT_EQ(Install("/S /COMPONENTS=\"hjälp & tips, 3\""), ExitCode::Done);
+    EXPECT_EQ(Installed(), "23");
+}
+
+TEST_F(ComponentsSwitch, LeavesOutWhatIsMarked)
+{
+    EXPECT_EQ(Install("/S /COMPONENTS=!Program"), ExitCode::Done);
+    EXPECT_EQ(Installed(), "2");
+}
+
+TEST_F(ComponentsSwitch, ChoosesNoneWhereItIsEmpty)
+{
+    project.FileComponents[1].CompMustAlwaysBeInstalled = 1;
+    EXPECT_EQ(Install("/S /COMPONENTS="), ExitCode::Done);
+    EXPECT_EQ(Installed(), "2") << "but what must be installed";
+}
+
+TEST_F(ComponentsSwitch, NamesAComponentThatThereIsNot)
+{
+    const MachineState before = State();
+    EXPECT_EQ(Install("/S /COMPONENTS=Program,Annat"), ExitCode::BadSwitch);
+    EXPECT_THAT(Log(), HasSubstr("'/COMPONENTS=Annat'"));
+    EXPECT_EQ(State(), before);
+}
+
+TEST_F(SetupProgramTest, PutsShortcutsIntoTheGroupOfTheSwitch)
+{
+    package.rows[0].iconMarker = "ICON";
+    package.rows[0].iconTitle = "Programmet";
+    EXPECT_EQ(Install("/S /GROUP=Annan"), ExitCode::Done);
+    EXPECT_TRUE(memory.files.FileExists("C:\\Ulla\\Start-meny\\Program\\Annan\\Programmet.lnk"));
+}
+
+TEST_F(SetupProgramTest, SpeaksTheLanguageOfTheSwitch)
+{
+    memory.files.Put("D:\\Paket\\EGET.LNG", "[Log]\r\nLog_Done=Fertig.\r\n");
+    package.texts = LoadPackage(memory.files, "D:\\Paket", "eget.LNG").texts;
+    EXPECT_EQ(Install("/S /LANG=eget"), ExitCode::Done);
+    EXPECT_THAT(Log(), HasSubstr("Fertig."));
+    EXPECT_EQ(Install("/S /LANG=ingen"), ExitCode::BadSwitch);
+    EXPECT_THAT(Log(), HasSubstr("'/LANG=ingen.LNG'"));
+}
+
+TEST_F(SetupProgramTest, WaitsForNoOtherSetup)
+{
+    const MachineState before = State();
+    otherSetupRuns = true;
+    EXPECT_EQ(Install(), ExitCode::OtherSetupRuns);
+    EXPECT_THAT(Log(), HasSubstr("En annan installation pågår."));
+    EXPECT_EQ(State(), before);
+}
+
 TEST_F(SetupProgramTest, UpdatesAnEarlierVersionInItsFolder)
 {
     EXPECT_EQ(Install("/S /D=E:\\Gammal"), ExitCode::Done);
@@ -244,7 +325,7 @@ TEST_F(SetupProgramTest, StopsOnTheWrongSystem)
     target.system = SystemKind::WinXP;
     project.TargetOS.TargetOS_WinXP = kOff;
     project.TargetOS.TargetOS_StopIfWrong = kOn;
-    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_EQ(InstallInVain(), ExitCode::WrongSystem);
     EXPECT_THAT(Log(),
                 HasSubstr("Programmet kan inte installeras på den här versionen av Windows."));
 }

@@ -69,8 +69,13 @@ TEST_P(BadSwitch, IsNamedAsItWasGiven)
 
 INSTANTIATE_TEST_SUITE_P(
     , BadSwitch,
-    testing::Values(std::pair{"/S /X", "/X"}, std::pair{"/SILENT", "/SILENT"},
-                    std::pair{"/S=1", "/S=1"}, std::pair{"setup", "setup"}, std::pair{"-S", "-S"},
+    testing::Values(std::pair{"/S /X", "/X"}, std::pair{"/SILENTS", "/SILENTS"},
+                    std::pair{"/S=1", "/S=1"}, std::pair{"setup", "setup"}, std::pair{"S", "S"},
+                    std::pair{"-S=1", "-S=1"}, std::pair{"--S", "--S"},
+                    std::pair{"/LANG=", "/LANG="}, std::pair{"/LANG=..\\x", "/LANG=..\\x"},
+                    std::pair{"/GROUP=..\\x", "/GROUP=..\\x"},
+                    std::pair{"INSTALLDIR=App", "INSTALLDIR=App"},
+                    std::pair{"DIR=C:\\App", "DIR=C:\\App"}, std::pair{"/passive=1", "/passive=1"},
                     std::pair{"/D", "/D"}, std::pair{"/D=", "/D="}, std::pair{"/D=App", "/D=App"},
                     std::pair{"/DIR=\"C:App\"", "/DIR=\"C:App\""},
                     std::pair{"/DIR=\\\\/..", "/DIR=\\\\/.."}, std::pair{"/LOG=", "/LOG="},
@@ -108,6 +113,54 @@ TEST(ReadSwitches, TakesASwitchThatIsQuotedAsAWhole)
     EXPECT_EQ(switches.badSwitch, std::nullopt);
 }
 
+class SilentWord : public testing::TestWithParam<const char*> {};
+
+TEST_P(SilentWord, IsAsGoodAsAnyOther)
+{
+    const Switches switches = ReadSwitches(GetParam());
+    EXPECT_TRUE(switches.silent);
+    EXPECT_FALSE(switches.passive);
+    EXPECT_EQ(switches.badSwitch, std::nullopt);
+    EXPECT_TRUE(HasSilentSwitch(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(, SilentWord,
+                         testing::Values("/S", "-s", "/SILENT", "/VerySilent", "/quiet", "-quiet",
+                                         "/q", "/qn", "/QN", "\"-qn\"", "/D=C:\\A B -s",
+                                         "/LOG=a /norestart /quiet"));
+
+TEST(ReadSwitches, ShowsProgressAloneWherePassive)
+{
+    for (const char* line : {"/passive", "-PASSIVE", "/qb"}) {
+        const Switches switches = ReadSwitches(line);
+        EXPECT_TRUE(switches.passive) << line;
+        EXPECT_TRUE(switches.silent) << line << ": nobody is asked";
+        EXPECT_FALSE(HasSilentSwitch(line)) << line;
+        EXPECT_EQ(switches.badSwitch, std::nullopt) << line;
+    }
+}
+
+TEST(ReadSwitches, TakesTheFolderAsAPropertyAndWithADash)
+{
+    EXPECT_EQ(ReadSwitches("INSTALLDIR=\"C:\\En mapp\"").destination, "C:\\En mapp");
+    EXPECT_EQ(ReadSwitches("installdir=C:\\App").destination, "C:\\App");
+    EXPECT_EQ(ReadSwitches("-dir=C:\\App").destination, "C:\\App");
+    EXPECT_EQ(ReadSwitches("-D=C:\\En - mapp -q").destination, "C:\\En - mapp");
+    EXPECT_EQ(ReadSwitches("-test").testMode, TestMode::Test);
+}
+
+TEST(ReadSwitches, TakesWhatIsChosenOnThePages)
+{
+    const Switches switches =
+        ReadSwitches("/COMPONENTS=\"a, b,!c\" /GROUP=\"Min grupp\" /LANG=english");
+    EXPECT_EQ(switches.components, "a, b,!c");
+    EXPECT_EQ(switches.programGroup, "Min grupp");
+    EXPECT_EQ(switches.languageFile, "english.LNG");
+    EXPECT_EQ(ReadSwitches("/LANG=Danish.lng").languageFile, "Danish.lng");
+    EXPECT_EQ(ReadSwitches("/S").components, std::nullopt);
+    EXPECT_EQ(switches.badSwitch, std::nullopt);
+}
+
 // The starter knows of no other switch, and has to be silent whenever the setup is.
 TEST(HasSilentSwitch, AgreesWithTheSetup)
 {
@@ -124,6 +177,13 @@ TEST(HasSilentSwitch, AgreesWithTheSetup)
                              "/D=\"C:\\A /S\"",
                              "\"/D=C:\\A /S\"",
                              "/SILENT",
+                             "-S",
+                             "/-S",
+                             "/quiet=1",
+                             "/passive",
+                             "/VERYSILENTLYINDEED",
+                             "/D=C:\\A - B",
+                             "/D=C:\\A -s B",
                              "/X/S",
                              "/S/X",
                              "/S=1",
@@ -136,7 +196,8 @@ TEST(HasSilentSwitch, AgreesWithTheSetup)
                              "/LOG=a /S"}) {
         const Text narrow = line;
         const std::wstring wide(narrow.begin(), narrow.end());
-        EXPECT_EQ(HasSilentSwitch(wide.c_str()), ReadSwitches(line).silent) << line;
+        const Switches switches = ReadSwitches(line);
+        EXPECT_EQ(HasSilentSwitch(wide.c_str()), switches.silent && !switches.passive) << line;
     }
     EXPECT_TRUE(HasSilentSwitch("\t\"/S\""));
     EXPECT_FALSE(HasSilentSwitch("/D=\"C:\\A /S\""));

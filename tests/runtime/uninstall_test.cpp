@@ -333,7 +333,7 @@ TEST_F(UninstallTest, TakesBackAReplacementThatWaitsForTheNextStart)
     memory.files.Put(path, "gammal", {2003, 1, 1, 0, 0, 0});
     files.inUse.insert(path);
     AddFile("levande.dll", "C:\\Gemensamt", "ny", "DA");
-    ASSERT_EQ(Install(), ExitCode::Done);
+    ASSERT_EQ(Install(), ExitCode::RestartNeeded);
     ASSERT_FALSE(target.movesAtRestart.empty());
     const std::size_t moves = target.movesAtRestart.size();
     const Text staged = target.movesAtRestart[0].first;
@@ -359,7 +359,7 @@ TEST_F(UninstallTest, LeavesAReplacementThatIsToStay)
     memory.files.Put(path, "gammal", {2003, 1, 1, 0, 0, 0});
     files.inUse.insert(path);
     AddFile("levande.dll", "C:\\Gemensamt", "ny", "DA*");
-    ASSERT_EQ(Install(), ExitCode::Done);
+    ASSERT_EQ(Install(), ExitCode::RestartNeeded);
     ASSERT_FALSE(target.movesAtRestart.empty());
     EXPECT_EQ(UninstallProduct(), ExitCode::Done);
     EXPECT_EQ(memory.files.Get(target.movesAtRestart[0].first), "ny");

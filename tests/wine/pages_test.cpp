@@ -10,7 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <algorithm>
 
 namespace quillon::test {
 namespace {
@@ -65,6 +65,10 @@ public:
     Script& Controls() { return Add("controls"); }
     Script& Close() { return Add("close"); }
     Script& Shoot(const fs::path& bitmap) { return Add("shot " + OnZ(bitmap)); }
+    /// Runs another program to its end and logs its code.
+    Script& Run(const std::string& command) { return Add("other " + command); }
+    Script& Screen() { return Add("screen"); }
+    Script& Escape() { return Add("escape"); }
     Script& End() { return Add("end"); }
 
     std::string Text(const std::string& command) const { return "run " + command + "\n" + lines_; }
@@ -249,6 +253,21 @@ TEST_F(SetupPages, AreNotShownUnderTheSilentSwitch)
     EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 1603U);
 }
 
+/// The program and the files of a test run, as the tool lays them side by side.
+fs::path MakeTestRun(SampleProduct& product, const std::string& name)
+{
+    const PackageOrder order = product.Order({});
+    const fs::path folder = WorkFolder() / name;
+    const fs::path quillonc = fs::path(QUILLON_BUILD_FOLDER) / "quillon" / "quillonc";
+    const ProgramResult written =
+        RunProgram({quillonc, "test", order.project, "--to", folder},
+                   {{"QUILLON_DRIVES", "S=" + order.drive.string()},
+                    {"QUILLON_DRIVE_C", WorkFolder() / "drive-of-the-tool"}});
+    EXPECT_EQ(written.exitCode, 0) << written.output;
+    fs::copy_file(RuntimeFolder() / "Small32" / "QNS32X.EXE", folder / "Qns32x.exe");
+    return folder;
+}
+
 TEST_F(SetupPages, OfATestInstallNothing)
 {
     UseNoScreen();
@@ -256,15 +275,7 @@ TEST_F(SetupPages, OfATestInstallNothing)
     product.project.DialogBoxes.LicenseInfoRtfDlg = 1;
     product.project.DialogBoxes.DestinationDlg = 0;
     product.project.DialogBoxes.DestinationDriveDlg = 1;
-    const PackageOrder order = product.Order({});
-    const fs::path folder = WorkFolder() / "provkörning";
-    const fs::path quillonc = fs::path(QUILLON_BUILD_FOLDER) / "quillon" / "quillonc";
-    const ProgramResult written =
-        RunProgram({quillonc, "test", order.project, "--to", folder},
-                   {{"QUILLON_DRIVES", "S=" + order.drive.string()},
-                    {"QUILLON_DRIVE_C", WorkFolder() / "drive-of-the-tool"}});
-    ASSERT_EQ(written.exitCode, 0) << written.output;
-    fs::copy_file(RuntimeFolder() / "Small32" / "QNS32X.EXE", folder / "Qns32x.exe");
+    const fs::path folder = MakeTestRun(product, "provkörning");
     const FolderState before = StateOf(prefix.DriveC() / "Program Files");
     Script script;
     script.Page("Välkommen").Next().Page("Licensinformation").Next();
@@ -273,6 +284,58 @@ TEST_F(SetupPages, OfATestInstallNothing)
     EXPECT_EQ(Drive(script, "\"" + OnZ(folder / "Qns32x.exe") + "\" /TEST"),
               "Test av Provpaket Åäö: Det här är ett test. Ingenting installeras.\ncode 0\n");
     EXPECT_EQ(FolderDifference(before, StateOf(prefix.DriveC() / "Program Files")), "");
+}
+
+TEST_F(SetupPages, HaveAScreenBehindThemThatIsPreviewedUntilEsc)
+{
+    const VirtualDisplay display;
+    SampleProduct product;
+    product.project.DesTitle.TitleText = "%PROJECTNAME";
+    product.project.DesTextBox.BoxText = "Läs det här.";
+    const fs::path folder = MakeTestRun(product, "förhandsgranskning");
+    const fs::path shot = WorkFolder() / "skärm.bmp";
+    Script script;
+    script.Screen().Shoot(shot).Escape().End();
+    EXPECT_EQ(Drive(script, "\"" + OnZ(folder / "Qns32x.exe") + "\" /PREVIEW"), "code 0\n");
+    const fs::path png = fs::path(QUILLON_BUILD_FOLDER) / "screens" / "setup" /
+                         (std::to_string(WineBits()) + "-screen.png");
+    BitmapToPng(shot, png);
+    // The blend from blue to black, from one side of the display to the other.
+    const std::string bytes = ReadBytes(shot);
+    ASSERT_EQ(bytes.size(), 54U + 4U * 1024U * 768U);
+    const auto blueOf = [&](std::size_t x, std::size_t y) {
+        return static_cast<unsigned char>(bytes[54 + 4 * ((767 - y) * 1024 + x)]);
+    };
+    const auto [least, most] =
+        std::minmax({blueOf(2, 2), blueOf(1021, 2), blueOf(2, 765), blueOf(1021, 765)});
+    EXPECT_GT(most, 200);
+    EXPECT_LT(least, 100);
+}
+
+TEST_F(SetupPages, GiveWayToProgressAloneWherePassive)
+{
+    UseNoScreen();
+    const fs::path package = MakePackage(WithAllPages().Order({"--medium", "cd"}));
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"),
+                         "-passive /PASSWORD=Hemligt INSTALLDIR=C:\\Annan "
+                         "/COMPONENTS=\"Nej tack\""),
+              0U);
+    EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\Nej tack\\Aldrig.txt")));
+    EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\Annan\\Alltid\\Alltid.txt")));
+    EXPECT_FALSE(fs::exists(prefix.OnHost("C:\\Annan\\Kanske")));
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "-s /okänd"), 1639U);
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/qn /COMPONENTS=Annat"), 1639U);
+}
+
+TEST_F(SetupPages, AreThoseOfOneSetupAtATime)
+{
+    UseNoScreen();
+    const fs::path package = MakePackage(WithAllPages().Order({"--medium", "cd"}));
+    Script script;
+    script.Page("Välkommen").Run(Setup(package, "/S /PASSWORD=Hemligt"));
+    script.Press(kCancel).Box(kYes).End();
+    EXPECT_EQ(Drive(script, Setup(package)), "code 1618\n" + std::string(kTitle) +
+                                                 ": Vill du avbryta installationen?\ncode 1602\n");
 }
 
 // For eyes: each page as Wine paints it, in build/<preset>/screens/setup.

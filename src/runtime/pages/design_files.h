@@ -13,22 +13,20 @@ class DesignFiles {
 public:
     enum class Names { InPackage, WholePaths };
 
-    DesignFiles(const FileSystem& files, OpenContainer openContainer, Text packageFolder,
+    DesignFiles(const FileSystem& files, OpenContainer openContainer, const Text& packageFolder,
                 Names names);
+    ~DesignFiles();
+    DesignFiles(const DesignFiles&) = delete;
+    DesignFiles& operator=(const DesignFiles&) = delete;
 
-    /// Throws `RunError` or `ZipError` where there is no such file or it can't be read.
-    std::string Read(const Text& name);
+    /// The files as if each lay on a disk under its name. Nothing can be written there.
+    const FileSystem& Files() const { return *files_; }
     /// The standard picture where the page names none, or one that can't be shown.
-    ScalablePicture SidePicture(const Text& name);
+    ScalablePicture SidePicture(const Text& name) const;
 
 private:
-    std::string ReadFromPackage(const Text& name);
-
-    const FileSystem& files_;
-    OpenContainer openContainer_;
-    Text packageFolder_;
-    Names names_;
-    std::unique_ptr<Container> container_; // opened when the first file is asked for
+    std::unique_ptr<FileSystem> packed_; // null where the files lie on a disk
+    const FileSystem* files_;
 };
 
 } // namespace quillon

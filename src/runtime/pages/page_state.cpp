@@ -7,11 +7,12 @@ namespace quillon {
 namespace {
 
 template <class Use>
-auto WithPlanInput(const PageState& state, const SetupInformation& setup, Use use)
+auto WithPlanInput(const PageState& state, Use use)
 {
     const PageInput& input = state.input;
     const SetupVariables variables = state.Variables();
-    return use(PlanInput{setup, input.rows, variables, input.texts, input.host, input.target});
+    return use(
+        PlanInput{state.setup, input.rows, variables, input.texts, input.host, input.target});
 }
 
 } // namespace
@@ -35,21 +36,18 @@ Text PageState::ProjectTitle() const
 
 std::uint64_t PageState::Needed() const
 {
-    return WithPlanInput(*this, setup, NeededSpace);
+    return WithPlanInput(*this, NeededSpace);
 }
 
 std::uint64_t PageState::LeastNeeded() const
 {
-    return WithPlanInput(*this, setup, LeastNeededSpace);
+    return WithPlanInput(*this, LeastNeededSpace);
 }
 
 bool PageState::CanBeInstalled(int component) const
 {
-    SetupInformation ticked = setup;
-    ticked.project.FileComponents[std::size_t(component) - 1].CompDefault = 1;
-    return WithPlanInput(*this, ticked, [&](const PlanInput& plan) {
-        return IsComponentInstalled(plan, component);
-    });
+    return WithPlanInput(
+        *this, [&](const PlanInput& plan) { return quillon::CanBeInstalled(plan, component); });
 }
 
 std::vector<Text> InstallDrives(const FileSystem& files)

@@ -36,11 +36,10 @@ struct PageState {
     SetupVariables Variables() const;
     Text MainFolder() const;
     Text ProjectTitle() const; // "Installation av X"
-    /// Calls `use` with what the space on a disk is worked out from.
+    // Bytes that the choices so far take, and without what can still be left out.
     std::uint64_t Needed() const;
     std::uint64_t LeastNeeded() const;
-    /// Whether the component would be installed if it were ticked: one that only updates an earlier
-    /// version needs that to be there.
+    /// False for a component that only updates an earlier version which is not there.
     bool CanBeInstalled(int component) const;
 };
 

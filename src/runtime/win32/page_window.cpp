@@ -3,6 +3,7 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
 #include "runtime/win32/gdi_letters.h"
+#include "runtime/win32/screen_window.h"
 #include "runtime/win32/window_ask.h"
 
 #include <commctrl.h>
@@ -50,8 +51,8 @@ RECT WorkArea(HWND window)
 } // namespace
 
 PageWindow::PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& texts,
-                       PictureSource pictures)
-    : ask_(ask), texts_(texts), pictures_(std::move(pictures))
+                       PictureSource pictures, ScreenWindow* behind)
+    : ask_(ask), texts_(texts), pictures_(std::move(pictures)), behind_(behind)
 {
     INITCOMMONCONTROLSEX controls{sizeof controls, ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&controls);
@@ -60,8 +61,9 @@ PageWindow::PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& 
     dialog.head.style = kStyle;
     dialog.head.dwExtendedStyle = WS_EX_APPWINDOW | WS_EX_CONTROLPARENT;
     std::copy_n(kWindowClass, std::size(dialog.kind), dialog.kind);
-    window_ = CreateDialogIndirectParamW(instance, &dialog.head, nullptr, Receive,
-                                         reinterpret_cast<LPARAM>(this));
+    window_ =
+        CreateDialogIndirectParamW(instance, &dialog.head, behind ? behind->Handle() : nullptr,
+                                   Receive, reinterpret_cast<LPARAM>(this));
     if (window_ == nullptr)
         FailAsWindowsSays("QuillonPages");
     letters_ = std::make_unique<PageLetters>(DpiOf(window_));
@@ -187,6 +189,7 @@ PageAction PageWindow::Show(SetupPage& page, const PageListener& listener)
     listener_ = &listener;
     action_.reset();
     Build();
+    ShowBehind(true);
     ask_.Hide();
     ask_.SetOwner(window_);
     if (!IsWindowVisible(window_)) {
@@ -205,10 +208,20 @@ PageAction PageWindow::Show(SetupPage& page, const PageListener& listener)
     return action_.value_or(PageAction::Cancel);
 }
 
+// Pages come when the package's files have been found to be whole, and so does the screen.
+void PageWindow::ShowBehind(bool isPageShown)
+{
+    if (behind_ == nullptr)
+        return;
+    behind_->SetPageShown(isPageShown);
+    behind_->Show();
+}
+
 void PageWindow::StepAside()
 {
     ask_.SetOwner(nullptr);
     ShowWindow(window_, SW_HIDE);
+    ShowBehind(false);
     ask_.Show();
 }
 

@@ -11,6 +11,7 @@
 
 namespace quillon {
 
+class ScreenWindow;
 class WindowAsk;
 
 class PageWindow : public PageView {
@@ -18,8 +19,9 @@ public:
     using PictureSource = std::function<ScalablePicture(const Text& bitmap)>;
 
     /// `ask` is the window of the installation, which steps aside for the pages.
+    /// `behind` is the screen, if there is one; it is told when a page comes and goes.
     PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& texts,
-               PictureSource pictures);
+               PictureSource pictures, ScreenWindow* behind = nullptr);
     ~PageWindow() override;
     PageWindow(const PageWindow&) = delete;
     PageWindow& operator=(const PageWindow&) = delete;
@@ -41,10 +43,12 @@ private:
     void Paint();
     void ChangeScale(int dpi, const RECT& place);
     PageCaptions Captions() const;
+    void ShowBehind(bool isPageShown);
 
     WindowAsk& ask_;
     const LanguageTexts& texts_;
     PictureSource pictures_;
+    ScreenWindow* behind_;
     HWND window_ = nullptr;
     std::unique_ptr<PageLetters> letters_;
     std::unique_ptr<PageControls> controls_;

@@ -19,10 +19,10 @@ HWND MakePlainWindow(HINSTANCE instance, const Text& title, const PlainWindow& w
     AdjustWindowRect(&frame, kStyle, FALSE);
     const int width = frame.right - frame.left;
     const int height = frame.bottom - frame.top;
-    const HWND made = CreateWindowExW(0, window.kind, Wide(title).c_str(), kStyle,
+    const HWND made = CreateWindowExW(WS_EX_APPWINDOW, window.kind, Wide(title).c_str(), kStyle,
                                       (GetSystemMetrics(SM_CXSCREEN) - width) / 2,
                                       (GetSystemMetrics(SM_CYSCREEN) - height) / 2, width, height,
-                                      nullptr, nullptr, instance, window.data);
+                                      window.owner, nullptr, instance, window.data);
     if (made == nullptr)
         FailAsWindowsSays(title);
     return made;

@@ -14,6 +14,7 @@ struct PlainWindow {
     int width; // inside the frame
     int height;
     void* data = nullptr; // what WM_NCCREATE brings
+    HWND owner = nullptr; // the window stays in front of it
 };
 
 /// Makes the window; it is not shown yet. Throws RunError where Windows makes none.

@@ -22,14 +22,14 @@ constexpr int kHeightWithoutButton = 82;
 } // namespace
 
 WindowAsk::WindowAsk(HINSTANCE instance, const Text& title, const LanguageTexts& texts,
-                     CanCancel canCancel)
+                     CanCancel canCancel, HWND behind)
     : texts_(texts), title_(title), canCancel_(canCancel == CanCancel::Yes)
 {
     INITCOMMONCONTROLSEX controls{sizeof controls, ICC_PROGRESS_CLASS};
     InitCommonControlsEx(&controls);
     window_ = MakePlainWindow(
         instance, title,
-        {kWindowClass, Receive, kWidth, canCancel_ ? kHeight : kHeightWithoutButton, this});
+        {kWindowClass, Receive, kWidth, canCancel_ ? kHeight : kHeightWithoutButton, this, behind});
     status_ =
         AddControl(window_, {L"STATIC", "", SS_LEFT | SS_ENDELLIPSIS, {16, 16, kWidth - 16, 36}});
     bar_ = AddControl(window_, {PROGRESS_CLASSW, "", 0, {16, 44, kWidth - 16, 64}});
@@ -66,6 +66,23 @@ void WindowAsk::Show()
     ShowWindow(window_, SW_SHOWNORMAL);
     SetForegroundWindow(window_);
     PumpMessages();
+}
+
+void WindowAsk::PlaceAt(int column, int row)
+{
+    constexpr int kFromEdge = 24;
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    RECT now{};
+    GetWindowRect(window_, &now);
+    const auto place = [](int number, int first, int last, int size) {
+        return number == 1   ? first + kFromEdge
+               : number == 3 ? last - kFromEdge - size
+                             : first + (last - first - size) / 2;
+    };
+    SetWindowPos(window_, nullptr, place(column, area.left, area.right, now.right - now.left),
+                 place(row, area.top, area.bottom, now.bottom - now.top), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void WindowAsk::Hide()

@@ -13,14 +13,17 @@ class WindowAsk : public Ask {
 public:
     /// Whether the window has a button to cancel; `ProcessEvents` throws only where it has.
     enum class CanCancel { Yes, No };
+    /// The window stays in front of `behind`, if there is one.
     WindowAsk(HINSTANCE instance, const Text& title, const LanguageTexts& texts,
-              CanCancel canCancel = CanCancel::Yes);
+              CanCancel canCancel = CanCancel::Yes, HWND behind = nullptr);
     ~WindowAsk() override;
     WindowAsk(const WindowAsk&) = delete;
     WindowAsk& operator=(const WindowAsk&) = delete;
 
     void Show();
     void Hide();
+    /// Where the window stands on the display: 1 to 3 from the left and from the top.
+    void PlaceAt(int column, int row);
     /// Boxes are shown in front of this window while this one is hidden.
     void SetOwner(HWND owner) { owner_ = owner; }
 

@@ -3,7 +3,10 @@
 // not be done. It waits for what it looks for as long as the setup runs, and for no set time.
 //
 //   run COMMAND          starts the program
+//   other COMMAND        runs another program to its end and logs its code
 //   page TITLE           waits until the page of that title is shown
+//   screen               waits until the screen behind the pages is shown; then it is the page
+//   escape               presses Esc on the screen
 //   press ID             clicks the button
 //   type ID TEXT         puts the text into the line and leaves it
 //   choose ID ROW        chooses the row of a list
@@ -97,8 +100,14 @@ private:
         const Text value = second == Text::npos ? "" : rest.substr(second + 1);
         if (verb == "run")
             return Start(rest);
+        if (verb == "other")
+            return RunOther(rest);
         if (verb == "page")
             return WaitFor(L"QuillonPages", Wide(rest), page_);
+        if (verb == "screen")
+            return WaitFor(L"QuillonScreen", {}, page_);
+        if (verb == "escape")
+            return PostMessageW(page_, WM_KEYDOWN, VK_ESCAPE, 1) != FALSE;
         if (verb == "box")
             return Answer(id);
         if (verb == "end")
@@ -161,6 +170,14 @@ private:
         CloseHandle(made.hThread);
         process_ = made.hProcess;
         return true;
+    }
+
+    bool RunOther(const Text& command)
+    {
+        const HANDLE first = process_;
+        const bool isDone = Start(command) && End();
+        process_ = first;
+        return isDone;
     }
 
     // The page before is still there for a moment, so that one of the same title is another one

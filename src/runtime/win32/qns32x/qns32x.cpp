@@ -10,13 +10,14 @@
 #include "runtime/pages/design_files.h"
 #include "runtime/setup_program.h"
 #include "runtime/silent_ask.h"
+#include "runtime/test_mode.h"
 #include "runtime/win32/library_container.h"
 #include "runtime/win32/message_box.h"
 #include "runtime/win32/page_window.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/register_process.h"
-#include "runtime/win32/test_window.h"
+#include "runtime/win32/screen_window.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
 
@@ -34,12 +35,75 @@ Text UnzipLibrary(const FileSystem& files, const Text& packageFolder)
                : JoinPath(packageFolder, RuntimePrograms::kUnzipLibrary.inPackage);
 }
 
+// One setup at a time: two would count the same shared files and replace the same system files.
+class OnlySetup {
+public:
+    OnlySetup() : mutex_(CreateMutexW(nullptr, FALSE, L"Global\\QuillonSetup"))
+    {
+        const DWORD found = GetLastError();
+        isNot_ = found == ERROR_ALREADY_EXISTS || found == ERROR_ACCESS_DENIED;
+    }
+    ~OnlySetup()
+    {
+        if (mutex_ != nullptr)
+            CloseHandle(mutex_);
+    }
+    OnlySetup(const OnlySetup&) = delete;
+    OnlySetup& operator=(const OnlySetup&) = delete;
+
+    bool IsNot() const { return isNot_; }
+
+private:
+    HANDLE mutex_;
+    bool isNot_ = false;
+};
+
+// Progress, and nobody to ask.
+class PassiveAsk : public SilentAsk {
+public:
+    explicit PassiveAsk(Ask& window) : window_(window) {}
+
+    void AddStatusLine(const Text& line) override { window_.AddStatusLine(line); }
+    void ShowProgress(std::uint64_t done, std::uint64_t total) override
+    {
+        window_.ShowProgress(done, total);
+    }
+    void ProcessEvents() override { window_.ProcessEvents(); }
+
+private:
+    Ask& window_;
+};
+
 // Under /S nobody is led anywhere.
 class NoPages : public PageView {
 public:
     PageAction Show(SetupPage&, const PageListener&) override { return PageAction::Cancel; }
     void StepAside() override {}
 };
+
+Text ProjectTitle(const LoadedPackage& package)
+{
+    return package.texts(Message::Title, package.setup.project.ProjectName.ProjectName);
+}
+
+struct ScreenInput {
+    Host& host;
+    const Target& target;
+    const DesignFiles& design;
+    const Switches& switches;
+};
+
+// `package` and what `input` names outlive the result.
+ScreenWindow::MakeScreen ScreenOf(const LoadedPackage& package, const ScreenInput& input)
+{
+    return [&package, input](int width, int height) {
+        const SetupVariables variables =
+            MakeSetupVariables({package.setup, input.host, input.target,
+                                input.switches.packageFolder, input.switches.destination});
+        return std::make_unique<DesignScreen>(package.setup, variables, input.design, width,
+                                              height);
+    };
+}
 
 // No private folder either: a test leaves nothing on the machine.
 ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
@@ -50,21 +114,29 @@ ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
     texts = package.texts;
     // Nothing is registered, so no helper is needed.
     WinTarget target{Text()};
-    const auto run = [&](Ask& ask, PageView& pages) {
-        return RunTest({host, target, ask, switches, pages,
-                        [&](const TestWindow& window) { ShowTestWindow(instance, window); }},
-                       package);
-    };
+    const DesignFiles design(host.files, {}, switches.packageFolder,
+                             DesignFiles::Names::WholePaths);
     if (switches.silent) {
         SilentAsk silent;
         NoPages none;
-        return run(silent, none);
+        return RunTest({host, target, silent, switches, none, [](const TestWindow&) {}}, package);
     }
+    ScreenWindow screen(instance, ProjectTitle(package),
+                        ScreenOf(package, {host, target, design, switches}));
+    const auto run = [&](Ask& ask, PageView& pages) {
+        return RunTest({host, target, ask, switches, pages,
+                        [&](const TestWindow&) {
+                            screen.Show();
+                            screen.WaitForEscape();
+                        }},
+                       package);
+    };
     // For its boxes; it is shown where the installation would be.
-    WindowAsk boxes(instance, {}, package.texts);
-    DesignFiles design(host.files, {}, switches.packageFolder, DesignFiles::Names::WholePaths);
-    PageWindow pages(instance, boxes, package.texts,
-                     [&](const Text& bitmap) { return design.SidePicture(bitmap); });
+    WindowAsk boxes(instance, ProjectTitle(package), package.texts, WindowAsk::CanCancel::Yes,
+                    screen.Handle());
+    PageWindow pages(
+        instance, boxes, package.texts,
+        [&](const Text& bitmap) { return design.SidePicture(bitmap); }, &screen);
     return run(boxes, pages);
 }
 
@@ -72,25 +144,39 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
                           LanguageTexts& texts)
 {
     FileSystem& files = host.files;
-    const LoadedPackage package = LoadPackage(files, switches.packageFolder);
+    const LoadedPackage package = LoadPackage(files, switches.packageFolder, switches.languageFile);
+    const OnlySetup only;
     texts = package.texts;
     const PrivateFolder work(host);
     WinTarget target(JoinPath(work.Path(), RuntimePrograms::kRegistryHelper.inPackage));
     const OpenContainer openContainer =
         LibraryContainers(UnzipLibrary(files, switches.packageFolder));
     const auto run = [&](Ask& ask, PageView* pages) {
-        return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages}, package);
+        return RunSetup(
+            {host, target, ask, openContainer, switches, work.Path(), pages, only.IsNot()},
+            package);
     };
-    if (switches.silent) {
+    if (switches.silent && !switches.passive) {
         SilentAsk silent;
         return run(silent, nullptr);
     }
-    WindowAsk window(instance,
-                     package.texts(Message::Title, package.setup.project.ProjectName.ProjectName),
-                     package.texts);
-    DesignFiles design(files, openContainer, switches.packageFolder, DesignFiles::Names::InPackage);
-    PageWindow pages(instance, window, package.texts,
-                     [&](const Text& bitmap) { return design.SidePicture(bitmap); });
+    if (switches.passive) {
+        WindowAsk window(instance, ProjectTitle(package), package.texts);
+        window.Show();
+        PassiveAsk passive(window);
+        return run(passive, nullptr);
+    }
+    const DesignFiles design(files, openContainer, switches.packageFolder,
+                             DesignFiles::Names::InPackage);
+    ScreenWindow screen(instance, ProjectTitle(package),
+                        ScreenOf(package, {host, target, design, switches}));
+    WindowAsk window(instance, ProjectTitle(package), package.texts, WindowAsk::CanCancel::Yes,
+                     screen.Handle());
+    const section::DesPercentGauge& gauge = package.setup.project.DesPercentGauge;
+    window.PlaceAt(gauge.GaugeAlignmentH, gauge.GaugeAlignmentV);
+    PageWindow pages(
+        instance, window, package.texts,
+        [&](const Text& bitmap) { return design.SidePicture(bitmap); }, &screen);
     window.Show();
     return run(window, &pages);
 }

@@ -57,6 +57,13 @@ std::optional<InstalledProduct> FindProduct(UninstallRun& run)
     return product;
 }
 
+// There is nothing to remove, or something that is not believed.
+ExitCode CodeWithoutProduct(const UninstallRun& run)
+{
+    return run.host.files.FileExists(run.line.logPath) ? ExitCode::Failed
+                                                       : ExitCode::NothingInstalled;
+}
+
 ExitCode RunWithWindow(HINSTANCE instance, UninstallRun& run,
                        const std::optional<InstalledProduct>& product)
 {
@@ -71,7 +78,7 @@ ExitCode RunWithWindow(HINSTANCE instance, UninstallRun& run,
     }
     if (!product) {
         window.Critical(title, texts(Message::UninstallNoLog, run.line.logPath));
-        return ExitCode::Failed;
+        return CodeWithoutProduct(run);
     }
     if (!window.YesNo(title, texts(Message::UninstallQuestion, name), Ask::Stops::OnNo))
         return ExitCode::Cancelled;
@@ -89,7 +96,7 @@ ExitCode RunSilently(UninstallRun& run, const std::optional<InstalledProduct>& p
     if (run.line.switches.badSwitch)
         return ExitCode::BadSwitch;
     SilentAsk silent;
-    return product ? RunUninstall(run, silent, *product) : ExitCode::Failed;
+    return product ? RunUninstall(run, silent, *product) : CodeWithoutProduct(run);
 }
 
 void OpenLog(UninstallRun& run)

@@ -1,0 +1,151 @@
+#include "runtime/win32/screen_window.h"
+
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_failure.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr const wchar_t* kWindowClass = L"QuillonScreen";
+constexpr UINT_PTR kTimer = 1;
+
+void RegisterKind(HINSTANCE instance, WNDPROC receive)
+{
+    WNDCLASSW kind{};
+    kind.lpfnWndProc = receive;
+    kind.hInstance = instance;
+    kind.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    kind.lpszClassName = kWindowClass;
+    RegisterClassW(&kind);
+}
+
+} // namespace
+
+ScreenWindow::ScreenWindow(HINSTANCE instance, const Text& title, MakeScreen make)
+    : make_(std::move(make))
+{
+    RegisterKind(instance, Receive);
+    window_ = CreateWindowExW(WS_EX_TOOLWINDOW, kWindowClass, Wide(title).c_str(), WS_POPUP, 0, 0,
+                              GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), nullptr,
+                              nullptr, instance, this);
+    if (window_ == nullptr)
+        FailAsWindowsSays(title);
+}
+
+ScreenWindow::~ScreenWindow()
+{
+    DestroyWindow(window_);
+}
+
+LRESULT CALLBACK ScreenWindow::Receive(HWND window, UINT message, WPARAM word, LPARAM data)
+{
+    if (message == WM_NCCREATE)
+        SetWindowLongPtrW(
+            window, GWLP_USERDATA,
+            reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(data)->lpCreateParams));
+    auto* const self = reinterpret_cast<ScreenWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    return self != nullptr && self->window_ != nullptr
+               ? self->OnMessage(message, word, data)
+               : DefWindowProcW(window, message, word, data);
+}
+
+LRESULT ScreenWindow::OnMessage(UINT message, WPARAM word, LPARAM data)
+{
+    switch (message) {
+    case WM_PAINT:
+        OnPaint();
+        return 0;
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_TIMER:
+        Paint(screen_->ShowNext());
+        return 0;
+    case WM_KEYDOWN:
+        isLeft_ = isLeft_ || word == VK_ESCAPE;
+        return 0;
+    case WM_CLOSE:
+        // An installation goes on; its own windows ask whether it is to end.
+        isLeft_ = true;
+        return 0;
+    case WM_DISPLAYCHANGE:
+        FitDisplay();
+        return 0;
+    default:
+        return DefWindowProcW(window_, message, word, data);
+    }
+}
+
+void ScreenWindow::Show()
+{
+    if (IsWindowVisible(window_))
+        return;
+    FitDisplay();
+    ShowWindow(window_, SW_SHOW);
+    SetForegroundWindow(window_);
+    UpdateWindow(window_);
+}
+
+void ScreenWindow::FitDisplay()
+{
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
+    if (screen_ && screen_->Width() == width && screen_->Height() == height)
+        return;
+    screen_ = make_(width, height);
+    pixels_.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
+    SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    Paint({0, 0, width, height});
+    if (screen_->Interval() > 0)
+        SetTimer(window_, kTimer, static_cast<UINT>(screen_->Interval()), nullptr);
+}
+
+void ScreenWindow::SetPageShown(bool isShown)
+{
+    if (isShown == isPageShown_)
+        return;
+    isPageShown_ = isShown;
+    if (screen_)
+        Paint({0, 0, screen_->Width(), screen_->Height()});
+}
+
+void ScreenWindow::Paint(const PixelRect& part)
+{
+    if (part.IsEmpty())
+        return;
+    Canvas canvas = WholeCanvas(pixels_.data(), screen_->Width(), screen_->Height());
+    canvas.clip = Intersect(canvas.clip, part);
+    screen_->Paint(canvas, letters_, isPageShown_);
+    const RECT rect{part.left, part.top, part.right, part.bottom};
+    InvalidateRect(window_, &rect, FALSE);
+}
+
+void ScreenWindow::OnPaint()
+{
+    PAINTSTRUCT paint;
+    const HDC device = BeginPaint(window_, &paint);
+    if (screen_) {
+        BITMAPINFO info{};
+        info.bmiHeader.biSize = sizeof info.bmiHeader;
+        info.bmiHeader.biWidth = screen_->Width();
+        info.bmiHeader.biHeight = -screen_->Height(); // from the top
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        SetDIBitsToDevice(device, 0, 0, static_cast<DWORD>(screen_->Width()),
+                          static_cast<DWORD>(screen_->Height()), 0, 0, 0,
+                          static_cast<UINT>(screen_->Height()), pixels_.data(), &info,
+                          DIB_RGB_COLORS);
+    }
+    EndPaint(window_, &paint);
+}
+
+void ScreenWindow::WaitForEscape()
+{
+    MSG message;
+    while (!isLeft_ && GetMessageW(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+} // namespace quillon

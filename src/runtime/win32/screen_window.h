@@ -1,0 +1,48 @@
+// The screen behind the pages: a window over the whole of the first display, behind all other
+// windows of the setup. It is painted once into memory; of the changing pictures only their place
+// is anew.
+#pragma once
+
+#include "runtime/pages/design_screen.h"
+#include "runtime/win32/gdi_letters.h"
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+
+namespace quillon {
+
+class ScreenWindow {
+public:
+    /// Makes the screen in the size of the display.
+    using MakeScreen = std::function<std::unique_ptr<DesignScreen>(int width, int height)>;
+
+    ScreenWindow(HINSTANCE instance, const Text& title, MakeScreen make);
+    ~ScreenWindow();
+    ScreenWindow(const ScreenWindow&) = delete;
+    ScreenWindow& operator=(const ScreenWindow&) = delete;
+
+    void Show();
+    /// Until the user leaves by Esc.
+    void WaitForEscape();
+    void SetPageShown(bool isShown);
+    HWND Handle() const { return window_; }
+
+private:
+    static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data);
+    LRESULT OnMessage(UINT message, WPARAM word, LPARAM data);
+    void FitDisplay();
+    void Paint(const PixelRect& part);
+    void OnPaint();
+
+    MakeScreen make_;
+    HWND window_ = nullptr;
+    std::unique_ptr<DesignScreen> screen_;
+    GdiLetters letters_;
+    std::vector<Pixel> pixels_;
+    bool isPageShown_ = false;
+    bool isLeft_ = false;
+};
+
+} // namespace quillon
