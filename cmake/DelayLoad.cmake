@@ -3,7 +3,7 @@
 # C library), and load all others when they are first called: by then they have told Windows to look in
 # the system's folder only (src/runtime/win32/program_start.cpp).
 set(delayed "")
-foreach(library advapi32 comctl32 gdi32 ole32 shell32 user32)
+foreach(library advapi32 comctl32 gdi32 ole32 oleaut32 shell32 user32)
   set(output ${CMAKE_BINARY_DIR}/delay/lib${library}.a)
   add_custom_command(
     OUTPUT ${output}

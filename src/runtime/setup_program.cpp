@@ -7,6 +7,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
+#include "runtime/after_install.h"
 #include "runtime/copy_decision.h"
 #include "runtime/failure_reason.h"
 #include "runtime/install.h"
@@ -51,6 +52,7 @@ private:
     void FindDestination();
     void LeadThroughPages();
     void FinishEarlier(const SetupVariables& variables);
+    SetupVariables Variables() const;
     InstallResult InstallPackage();
     void TellTheEnd(const InstallResult& result);
 
@@ -174,7 +176,9 @@ void SetupProgram::CheckPackage() const
         throw DamagedPackage(texts_, *package_.fault);
     const Project& project = package_.setup.project;
     const Text& starter = project.InstallOptions.SetupName;
-    if (!SetupNameFaultText(starter, project.Language.LanguageFile).empty())
+    // Not by the tool's words for it, which nobody would see here.
+    if (FaultOfName(starter) != PathFault::None ||
+        IsNameOfPackageFile(starter, project.Language.LanguageFile))
         throw DamagedPackage(texts_, {Message::PackageFileDamaged, kSetupInformationName});
 }
 
@@ -302,15 +306,19 @@ void SetupProgram::LeadThroughPages()
     if (chain_->LeadThrough(*input_.pages) == PageChain::End::Cancelled)
         throw SetupFailure(ExitCode::Cancelled, {});
     const UserChoices& choices = chain_->Choices();
-    ApplyChoices(choices, setup_);
     if (!choices.destination.empty())
         destination_ = choices.destination;
 }
 
+SetupVariables SetupProgram::Variables() const
+{
+    return MakeSetupVariables(
+        {setup_, input_.host, input_.target, input_.switches.packageFolder, destination_});
+}
+
 InstallResult SetupProgram::InstallPackage()
 {
-    const SetupVariables variables = MakeSetupVariables(
-        {setup_, input_.host, input_.target, input_.switches.packageFolder, destination_});
+    const SetupVariables variables = Variables();
     FinishEarlier(variables);
     const InstallPlan plan =
         MakeInstallPlan({setup_, package_.rows, variables, texts_, input_.host, input_.target});
@@ -333,6 +341,21 @@ void SetupProgram::TellTheEnd(const InstallResult& result)
         log_.Line(Message::RestartNeeded);
     if (chain_)
         chain_->ShowClosingPage(*input_.pages);
+    const SetupVariables variables = Variables();
+    const AfterInstallInput after{input_.host,
+                                  input_.startAsUser,
+                                  log_,
+                                  texts_,
+                                  setup_,
+                                  variables,
+                                  input_.switches.silent,
+                                  !chain_ || chain_->ShowsDocument()};
+    StartProgramsAfter(after);
+    ShowDocumentAfter(after, [&](const std::string& rtf) {
+        if (chain_)
+            chain_->ShowDocument(*input_.pages, setup_.project.ShowDocAfter.InternalRTFBoxDlgTitle,
+                                 rtf);
+    });
     const Flag never = setup_.project.InstallOptions.NeverRestartWindows;
     if (result.needsRestart && !input_.switches.silent && never == kOff)
         input_.ask.Inform(texts_(Message::Title, setup_.project.ProjectName.ProjectName),

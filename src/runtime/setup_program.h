@@ -39,6 +39,8 @@ struct SetupInput {
     // Shows the pages of the package; null where nobody is to be asked.
     PageView* pages = nullptr;
     bool otherSetupRuns = false; // another one on this machine
+    // Starts a program or opens a document for the user; throws `RunError`.
+    std::function<void(const Text& file, const Text& arguments)> startAsUser = {};
 };
 
 /// Installs, and tells the user and the log what went wrong.

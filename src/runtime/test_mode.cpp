@@ -45,7 +45,7 @@ void LogWindow(const TestInput& input, const TestWindow& window, const LanguageT
 }
 
 // As the user of the setup would be led, but for the installation itself.
-void LeadThroughPages(const TestInput& input, const LoadedPackage& package)
+void LeadThroughPages(const TestInput& input, LoadedPackage& package)
 {
     PageChain chain({input.host, input.target, input.ask, package.texts, package.setup,
                      package.rows, input.switches.packageFolder, input.switches.destination});
@@ -92,7 +92,7 @@ LoadedPackage LoadForTest(const FileSystem& files, const Text& folder, TestMode 
                                   : LoadSetupInformation(files, folder);
 }
 
-ExitCode RunTest(const TestInput& input, const LoadedPackage& package)
+ExitCode RunTest(const TestInput& input, LoadedPackage& package)
 {
     const LanguageTexts& texts = package.texts;
     const auto fail = [&](ExitCode code, const Text& text) {

@@ -35,6 +35,7 @@ struct TestInput {
     std::function<void(const TestWindow& window)> show;
 };
 
-ExitCode RunTest(const TestInput& input, const LoadedPackage& package);
+/// `package` takes what is chosen on its pages.
+ExitCode RunTest(const TestInput& input, LoadedPackage& package);
 
 } // namespace quillon

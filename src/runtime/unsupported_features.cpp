@@ -22,9 +22,6 @@ std::vector<SkippedPart> UnsupportedFeatures(const SetupInformation& setup,
         {!project.Lists.AutoexecBat.empty(),              {Message::PartStartupLines, "AUTOEXEC.BAT"}},
         {!project.Lists.ConfigSys.empty(),                {Message::PartStartupLines, "CONFIG.SYS"}},
         {project.NET.NET_TestIfInstalled != kOff,         {Message::PartNetTest}},
-        {!project.RunAppAfter.AppFileName1.empty(),       {Message::PartProgram, "1"}},
-        {!project.RunAppAfter.AppFileName2.empty(),       {Message::PartProgram, "2"}},
-        {!project.ShowDocAfter.DocFileName.empty(),       {Message::PartDocument}},
         {project.InstallOptions.RestartWindows != kOff,   {Message::PartRestart}},
     };
     // clang-format on

@@ -60,7 +60,12 @@ protected:
         return component;
     }
 
-    PageInput Input() { return {memory.host, target, ask, texts, setup, rows, "D:\\Paket"}; }
+    /// Of a user who has chosen nothing yet.
+    PageInput Input()
+    {
+        used = setup;
+        return {memory.host, target, ask, texts, used, rows, "D:\\Paket"};
+    }
 
     /// Leads a new user through, who does these steps.
     PageChain::End Lead(std::deque<Step> steps)
@@ -79,6 +84,7 @@ protected:
     ScriptedAsk ask;
     LanguageTexts texts;
     SetupInformation setup;
+    SetupInformation used;
     Project& project = setup.project;
     std::vector<InstallRow> rows;
     UserChoices choices;

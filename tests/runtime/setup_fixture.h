@@ -153,6 +153,7 @@ protected:
     Ask* ask = nullptr; // null: silent
     PageView* pages = nullptr;
     bool otherSetupRuns = false;
+    std::vector<Text> started; // a file, and its arguments behind a blank
 };
 
 } // namespace quillon::test

@@ -203,6 +203,70 @@ TEST_F(SetupProgramTest, InstallsWhatWasChosenOnThePages)
     EXPECT_FALSE(memory.files.DirExists(kMain));
 }
 
+class AfterInstall : public SetupProgramTest {
+protected:
+    AfterInstall()
+    {
+        project.DialogBoxes = {};
+        project.DialogBoxes.WelcomeDlg = project.DialogBoxes.DestinationDlg = 0;
+        project.RunAppAfter = {"%DESTDIR\\prog.exe", "/ny \"%DESTDIR\"", "%DESTDIR\\borta.exe", ""};
+        project.ShowDocAfter.DocFileName = "%DESTDIR\\läs.rtf";
+        project.ShowDocAfter.ShowCheckBox = 1;
+        AddFile("läs.rtf", "%DESTDIR", "{\\rtf1 x}");
+    }
+    ExitCode Run(std::deque<test::ScriptedPages::Step> steps)
+    {
+        test::ScriptedPages script(std::move(steps));
+        test::ScriptedAsk user;
+        ask = &user;
+        pages = &script;
+        const ExitCode code = Install("");
+        shown = script.shown;
+        return code;
+    }
+
+    std::vector<SetupPage> shown;
+};
+
+TEST_F(AfterInstall, ProgramsAreStartedAndTheDocumentIsOpened)
+{
+    EXPECT_EQ(Run({{PageKind::InstallCompleted}}), ExitCode::Done);
+    EXPECT_THAT(started, testing::ElementsAre(kMain + "\\prog.exe /ny \"" + kMain + "\"",
+                                              kMain + "\\läs.rtf"));
+    EXPECT_THAT(Log(), HasSubstr("Startar " + kMain + "\\prog.exe"));
+    EXPECT_THAT(Log(), HasSubstr("Hoppar över program 2 efter installationen: filen '" + kMain +
+                                 "\\borta.exe' finns inte"));
+}
+
+TEST_F(AfterInstall, TheDocumentIsNotOpenedWhereItsBoxIsCleared)
+{
+    EXPECT_EQ(Run({{PageKind::InstallCompleted, PageAction::Next,
+                    [](SetupPage& page, const PageListener&) {
+                        page.Find(PageField::ShowDocument)->isTicked = false;
+                    }}}),
+              ExitCode::Done);
+    EXPECT_EQ(started.size(), 1U);
+}
+
+TEST_F(AfterInstall, ADocumentInRtfMayBeShownByTheSetup)
+{
+    project.ShowDocAfter.UseInternalRTFBox = 1;
+    project.ShowDocAfter.InternalRTFBoxDlgTitle = "Läs mig";
+    EXPECT_EQ(Run({{PageKind::InstallCompleted}, {PageKind::InstallCompleted}}), ExitCode::Done);
+    EXPECT_EQ(shown[1].title, "Läs mig");
+    EXPECT_EQ(shown[1].Find(PageField::Agreement)->text, "{\\rtf1 x}");
+    EXPECT_EQ(started.size(), 1U);
+}
+
+TEST_F(AfterInstall, NothingIsStartedUnderTheSilentSwitch)
+{
+    EXPECT_EQ(Install("/S"), ExitCode::Done);
+    EXPECT_TRUE(started.empty());
+    EXPECT_THAT(Log(), HasSubstr("Hoppar över program 1 efter installationen: startas inte när "
+                                 "ingenting visas"));
+    EXPECT_THAT(Log(), HasSubstr("Hoppar över dokumentet efter installationen: startas inte"));
+}
+
 TEST_F(SetupProgramTest, ChangesNothingWhereAPageIsCancelled)
 {
     const MachineState before = State();
@@ -441,13 +505,10 @@ TEST_F(SetupProgramTest, NamesEveryPartOfALaterStage)
 {
     project.Lists.RunScriptBefore = "x";
     project.Lists.AutoexecBat = "x";
-    project.RunAppAfter.AppFileName1 = "x";
-    project.ShowDocAfter.DocFileName = "x";
     project.NET.NET_TestIfInstalled = kOn;
     project.InstallOptions.RestartWindows = kOn;
     EXPECT_EQ(Install(), ExitCode::Done);
-    for (const char* what : {"skriptet före", "AUTOEXEC.BAT", "program 1", "dokumentet",
-                             ".NET Framework", "omstarten"})
+    for (const char* what : {"skriptet före", "AUTOEXEC.BAT", ".NET Framework", "omstarten"})
         EXPECT_THAT(Log(), HasSubstr(what));
 }
 

@@ -44,7 +44,7 @@ protected:
         ScriptedAsk user(std::move(script));
         SilentAsk nobody;
         const Switches switches = ReadSwitches(line);
-        const LoadedPackage package = LoadForTest(memory.files, kFolder, *switches.testMode);
+        LoadedPackage package = LoadForTest(memory.files, kFolder, *switches.testMode);
         const std::map<Text, std::string> before = Files();
         shown.clear();
         test::ScriptedPages pages(std::move(steps));

@@ -62,4 +62,10 @@ void PageChain::ShowClosingPage(PageView& view)
     Show(view, page);
 }
 
+void PageChain::ShowDocument(PageView& view, const Text& title, const std::string& rtf)
+{
+    SetupPage page = MakeDocumentPage(state_, title, rtf);
+    view.Show(page, [](SetupPage&, PageField) {});
+}
+
 } // namespace quillon

@@ -17,6 +17,9 @@ public:
     /// The page behind the installation, where the project has one.
     void ShowClosingPage(PageView& view);
 
+    /// An RTF document in a page of its own.
+    void ShowDocument(PageView& view, const Text& title, const std::string& rtf);
+
     const UserChoices& Choices() const { return state_.choices; }
     /// Whether the user wants to see the project's document.
     bool ShowsDocument() const { return state_.showsDocument; }

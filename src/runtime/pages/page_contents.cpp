@@ -36,16 +36,22 @@ public:
             page_.bitmap = state.setup.project.DialogBoxes.DlgBitmap;
     }
 
+    /// A page behind the installation, without anything on it.
+    SetupPage Empty()
+    {
+        page_.buttons = PageButtons::Finish;
+        page_.canGoBack = false;
+        return std::move(page_);
+    }
+
     SetupPage Make()
     {
         switch (page_.kind) {
         case PageKind::LicenseInfo:
-            Agreement({.kind = PieceKind::Paper, .text = Shown(data_.LicenseText)},
-                      data_.LicenseFootText);
+            Agreement(PieceKind::Paper, Shown(data_.LicenseText), data_.LicenseFootText);
             break;
         case PageKind::LicenseInfoRtf:
-            Agreement({.kind = PieceKind::RichPaper, .text = AgreementFile()},
-                      data_.LicenseFootTextRtf);
+            Agreement(PieceKind::RichPaper, AgreementFile(), data_.LicenseFootTextRtf);
             break;
         case PageKind::Password:
             Password();
@@ -66,20 +72,34 @@ public:
             Group();
             break;
         case PageKind::StartInstall:
-            Add({.kind = PieceKind::Rest, .field = PageField::BodyText, .text = WithSummary()});
+            Add(PieceKind::Rest, PageField::BodyText, WithSummary());
             break;
         case PageKind::InstallCompleted:
             Completed();
             break;
         default:
-            Add({.kind = PieceKind::Rest, .field = PageField::BodyText, .text = OwnText()});
+            Add(PieceKind::Rest, PageField::BodyText, OwnText());
         }
         return std::move(page_);
     }
 
 private:
-    void Add(PagePiece piece) { page_.pieces.push_back(std::move(piece)); }
-    void AddGap() { Add({}); }
+    // Filled in place: whole records as arguments are the larger half of this file's code.
+    PagePiece& Add(PieceKind kind, PageField field, const Text& text)
+    {
+        PagePiece& piece = page_.pieces.emplace_back();
+        piece.kind = kind;
+        piece.field = field;
+        piece.text = text;
+        return piece;
+    }
+    PagePiece& AddLabelled(PieceKind kind, PageField field, Message label, const Text& text)
+    {
+        PagePiece& piece = Add(kind, field, text);
+        piece.label = texts_[label];
+        return piece;
+    }
+    void AddGap() { Add(PieceKind::Gap, PageField::None, {}); }
 
     Text Shown(const Text& text) const
     {
@@ -92,22 +112,17 @@ private:
     void Paragraph(const Text& text)
     {
         if (!text.empty())
-            Add({.kind = PieceKind::Paragraph,
-                 .field = PageField::BodyText,
-                 .text = text,
-                 .maxHeight = PageLayout::kMaxTextHeight});
+            Add(PieceKind::Paragraph, PageField::BodyText, text).maxHeight =
+                PageLayout::kMaxTextHeight;
     }
 
-    void Agreement(PagePiece paper, const Text& footText)
+    void Agreement(PieceKind paper, const Text& agreement, const Text& footText)
     {
         page_.buttons = PageButtons::BackYesNo;
-        paper.field = PageField::Agreement;
-        Add(std::move(paper));
+        Add(paper, PageField::Agreement, agreement);
         if (!footText.empty())
-            Add({.kind = PieceKind::Paragraph,
-                 .field = PageField::FootText,
-                 .text = Shown(footText),
-                 .maxHeight = PageLayout::kMaxFootTextHeight});
+            Add(PieceKind::Paragraph, PageField::FootText, Shown(footText)).maxHeight =
+                PageLayout::kMaxFootTextHeight;
     }
 
     Text AgreementFile() const
@@ -125,22 +140,17 @@ private:
     void Password()
     {
         Paragraph(Shown(FirstLineOnly(data_.PasswordDialogText)));
-        Add({.kind = PieceKind::Secret,
-             .field = PageField::Password,
-             .label = texts_[Message::LabelPassword],
-             .text = state_.typedPassword,
-             .maxLength = LongestText(section::kDialogBoxData, &DialogBoxData::CorrectPassword)});
+        AddLabelled(PieceKind::Secret, PageField::Password, Message::LabelPassword,
+                    state_.typedPassword)
+            .maxLength = LongestText(section::kDialogBoxData, &DialogBoxData::CorrectPassword);
         AddGap();
         page_.focus = PageField::Password;
     }
 
     void UserEntry(PageField field, Message label, VariableMeaning meaning, Text LicenseData::*in)
     {
-        Add({.kind = PieceKind::Entry,
-             .field = field,
-             .label = texts_[label],
-             .text = variables_.Value(NameOf(meaning)),
-             .maxLength = LongestText(section::kLicenseData, in)});
+        AddLabelled(PieceKind::Entry, field, label, variables_.Value(NameOf(meaning))).maxLength =
+            LongestText(section::kLicenseData, in);
     }
 
     void NameCompany()
@@ -164,16 +174,14 @@ private:
 
     void Folder(const Text& text, bool isEnabled)
     {
-        Add({.kind = PieceKind::Entry,
-             .field = PageField::Folder,
-             .label = texts_[Message::LabelFolder],
-             .text = text,
-             .isLabelAbove = true,
-             .isEnabled = isEnabled,
-             .maxLength = LongestText(section::kInstallDirectories,
-                                      &section::InstallDirectories::DestinationDirectory),
-             .button = texts_[Message::Browse],
-             .buttonField = PageField::Browse});
+        PagePiece& folder =
+            AddLabelled(PieceKind::Entry, PageField::Folder, Message::LabelFolder, text);
+        folder.isLabelAbove = true;
+        folder.isEnabled = isEnabled;
+        folder.maxLength = LongestText(section::kInstallDirectories,
+                                       &section::InstallDirectories::DestinationDirectory);
+        folder.button = texts_[Message::Browse];
+        folder.buttonField = PageField::Browse;
     }
 
     void Destination()
@@ -188,10 +196,8 @@ private:
     {
         Paragraph(texts_[Message::TextDrive]);
         const FileSystem& files = state_.input.host.files;
-        PagePiece list{.kind = PieceKind::List,
-                       .field = PageField::Drives,
-                       .label = texts_[Message::LabelDrive],
-                       .selected = 0};
+        PagePiece& list = AddLabelled(PieceKind::List, PageField::Drives, Message::LabelDrive, {});
+        list.selected = 0;
         for (const Text& root : InstallDrives(files)) {
             if (EqualIgnoreCase(root.substr(0, 2), state_.MainFolder().substr(0, 2)))
                 list.selected = static_cast<int>(list.items.size());
@@ -199,7 +205,6 @@ private:
             RunErrorNumber([&] { volume = files.GetVolumeName(root); });
             list.items.push_back({.text = volume.empty() ? root : root + "  (" + volume + ")"});
         }
-        Add(std::move(list));
         Space(data_.DestDriveShowSizeInfo, data_.DestDriveShowSizeInfoButton);
         page_.focus = PageField::Drives;
     }
@@ -209,19 +214,13 @@ private:
         const Machine& machine = state_.input.host.machine;
         if (atOnce != kOff) {
             const auto free = FreeSpaceAt(state_.input.host.files, state_.MainFolder());
-            Add({.kind = PieceKind::Value,
-                 .field = PageField::NeededSpace,
-                 .label = texts_[Message::LabelNeededSpace],
-                 .text = SpaceText(state_.Needed(), machine)});
-            Add({.kind = PieceKind::Value,
-                 .field = PageField::FreeSpace,
-                 .label = texts_[Message::LabelFreeSpace],
-                 .text = free ? SpaceText(*free, machine) : texts_[Message::SpaceUnknown]});
+            AddLabelled(PieceKind::Value, PageField::NeededSpace, Message::LabelNeededSpace,
+                        SpaceText(state_.Needed(), machine));
+            AddLabelled(PieceKind::Value, PageField::FreeSpace, Message::LabelFreeSpace,
+                        free ? SpaceText(*free, machine) : texts_[Message::SpaceUnknown]);
         }
         if (behindButton != kOff)
-            Add({.kind = PieceKind::Button,
-                 .field = PageField::SpaceBox,
-                 .label = texts_[Message::DiskSpaceButton]});
+            AddLabelled(PieceKind::Button, PageField::SpaceBox, Message::DiskSpaceButton, {});
     }
 
     void Components()
@@ -229,10 +228,9 @@ private:
         Paragraph(texts_[Message::TextComponents]);
         const std::vector<int> numbers = ComponentsInUse(state_.setup);
         const auto sizes = SizesByComponent(state_.input.rows);
-        PagePiece list{.kind = PieceKind::CheckList,
-                       .field = PageField::Components,
-                       .label = texts_[Message::LabelComponents],
-                       .selected = 0};
+        PagePiece& list =
+            AddLabelled(PieceKind::CheckList, PageField::Components, Message::LabelComponents, {});
+        list.selected = 0;
         bool canChangeFolder = false;
         for (const int number : numbers) {
             const auto& component = Component(number);
@@ -243,12 +241,9 @@ private:
                      (component.CompDefault != 0 || component.CompMustAlwaysBeInstalled != 0)});
             canChangeFolder = canChangeFolder || component.CompCanChangeDir != 0;
         }
-        Add(std::move(list));
         const int first = numbers.empty() ? 1 : numbers.front();
-        Add({.kind = PieceKind::Paragraph,
-             .field = PageField::ComponentText,
-             .text = Shown(Component(first).CompText),
-             .maxHeight = kMaxDescriptionHeight});
+        Add(PieceKind::Paragraph, PageField::ComponentText, Shown(Component(first).CompText))
+            .maxHeight = kMaxDescriptionHeight;
         if (canChangeFolder)
             Folder(variables_.Value(NameOf(VariableMeaning::ComponentFolder, first)),
                    Component(first).CompCanChangeDir != 0);
@@ -264,23 +259,18 @@ private:
     void Group()
     {
         Paragraph(texts_[Message::TextProgramGroup]);
-        Add({.kind = PieceKind::Entry,
-             .field = PageField::Group,
-             .label = texts_[Message::LabelGroup],
-             .text = variables_.Expand(state_.setup.project.ProgramGroup.ProgramGroup),
-             .isLabelAbove = true,
-             .maxLength =
-                 LongestText(section::kProgramGroup, &section::ProgramGroup::ProgramGroup)});
-        PagePiece list{.kind = PieceKind::List,
-                       .field = PageField::Groups,
-                       .label = texts_[Message::LabelGroups]};
+        PagePiece& group =
+            AddLabelled(PieceKind::Entry, PageField::Group, Message::LabelGroup,
+                        variables_.Expand(state_.setup.project.ProgramGroup.ProgramGroup));
+        group.isLabelAbove = true;
+        group.maxLength = LongestText(section::kProgramGroup, &section::ProgramGroup::ProgramGroup);
+        PagePiece& list = AddLabelled(PieceKind::List, PageField::Groups, Message::LabelGroups, {});
         const FileSystem& files = state_.input.host.files;
         RunErrorNumber([&] {
             for (const FolderEntry& entry : files.List(GroupsFolder(state_)))
                 if (entry.status.isFolder && !entry.status.isHidden)
                     list.items.push_back({.text = entry.name});
         });
-        Add(std::move(list));
         page_.focus = PageField::Group;
     }
 
@@ -311,15 +301,15 @@ private:
     {
         page_.buttons = PageButtons::Finish;
         page_.canGoBack = false;
-        Add({.kind = PieceKind::Rest, .field = PageField::BodyText, .text = OwnText()});
+        Add(PieceKind::Rest, PageField::BodyText, OwnText());
         const section::ShowDocAfter& document = state_.setup.project.ShowDocAfter;
         if (document.ShowCheckBox == kOff || document.DocFileName.empty())
             return;
-        Add({.kind = PieceKind::CheckBox,
-             .field = PageField::ShowDocument,
-             .label = document.CheckBoxText.empty() ? texts_[Message::ShowDocument]
-                                                    : Shown(document.CheckBoxText),
-             .isTicked = state_.showsDocument});
+        PagePiece& box =
+            AddLabelled(PieceKind::CheckBox, PageField::ShowDocument, Message::ShowDocument, {});
+        if (!document.CheckBoxText.empty())
+            box.label = Shown(document.CheckBoxText);
+        box.isTicked = state_.showsDocument;
     }
 
     const PageState& state_;
@@ -334,6 +324,18 @@ private:
 SetupPage MakePage(const PageState& state, PageKind kind)
 {
     return PageMaker(state, kind).Make();
+}
+
+SetupPage MakeDocumentPage(const PageState& state, const Text& title, const std::string& rtf)
+{
+    SetupPage page = PageMaker(state, PageKind::InstallCompleted).Empty();
+    page.title = title;
+    page.windowTitle = title.empty() ? state.ProjectTitle() : title;
+    PagePiece& paper = page.pieces.emplace_back();
+    paper.kind = PieceKind::RichPaper;
+    paper.field = PageField::Agreement;
+    paper.text = rtf;
+    return page;
 }
 
 } // namespace quillon

@@ -13,7 +13,7 @@ struct PageInput {
     Target& target;
     Ask& ask;
     const LanguageTexts& texts;
-    const SetupInformation& setup;
+    SetupInformation& setup; // takes the user's choices as they are made
     const std::vector<InstallRow>& rows;
     Text packageFolder;
     Text destination;         // from a switch or of an earlier version; empty: the project's own
@@ -26,7 +26,7 @@ struct PageState {
 
     const PageInput& input;
     UserChoices choices;
-    SetupInformation setup; // the project with the choices in it
+    SetupInformation& setup; // the project with the choices in it
     Text typedPassword;
     Text acceptedFolder; // the user knows that it exists
     bool showsDocument = true;
@@ -45,6 +45,9 @@ struct PageState {
 
 /// The page as it stands, filled with what was chosen before.
 SetupPage MakePage(const PageState& state, PageKind kind);
+
+/// A page behind the installation that shows an RTF document.
+SetupPage MakeDocumentPage(const PageState& state, const Text& title, const std::string& rtf);
 
 /// Takes what has been typed and ticked.
 void StoreAnswers(PageState& state, const SetupPage& page);

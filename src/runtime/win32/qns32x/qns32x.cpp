@@ -18,6 +18,7 @@
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/register_process.h"
 #include "runtime/win32/screen_window.h"
+#include "runtime/win32/start_as_user.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
 
@@ -109,8 +110,7 @@ ScreenWindow::MakeScreen ScreenOf(const LoadedPackage& package, const ScreenInpu
 ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
                        LanguageTexts& texts)
 {
-    const LoadedPackage package =
-        LoadForTest(host.files, switches.packageFolder, *switches.testMode);
+    LoadedPackage package = LoadForTest(host.files, switches.packageFolder, *switches.testMode);
     texts = package.texts;
     // Nothing is registered, so no helper is needed.
     WinTarget target{Text()};
@@ -152,9 +152,9 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     const OpenContainer openContainer =
         LibraryContainers(UnzipLibrary(files, switches.packageFolder));
     const auto run = [&](Ask& ask, PageView* pages) {
-        return RunSetup(
-            {host, target, ask, openContainer, switches, work.Path(), pages, only.IsNot()},
-            package);
+        return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages,
+                         only.IsNot(), StartAsUser},
+                        package);
     };
     if (switches.silent && !switches.passive) {
         SilentAsk silent;
