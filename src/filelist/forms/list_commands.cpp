@@ -29,7 +29,7 @@ void ShowOutcome(MainWindow& window, const std::optional<NewPlaces>& places)
 
 } // namespace
 
-void AddFilesCommand(Session& session, MainWindow& window)
+void AddFilesInWindow(Session& session, MainWindow& window)
 {
     const bool oldStyle = session.Settings.ListOptions.OldStyleAddDialogBox != kOff;
     const auto look = oldStyle ? FileQuestion::Look::NamesOnly : FileQuestion::Look::Details;
@@ -48,18 +48,18 @@ void AddTreeCommand(Session& session, MainWindow& window, QWidget* parent)
     ShowMovedRows(window, form.Places());
 }
 
-void AddEmptyDirectoryCommand(Session& session, MainWindow& window)
+void AddEmptyDirectoryInWindow(Session& session, MainWindow& window)
 {
     ShowOutcome(window, AddEmptyDirectoryCommand(WorkOn(session)));
 }
 
-void DeleteRowsCommand(Session& session, MainWindow& window)
+void DeleteRowsInWindow(Session& session, MainWindow& window)
 {
     if (DeleteRowsCommand(WorkOn(session), window.SelectedRows()))
         window.ShowFileList({});
 }
 
-void UpdateFileListCommand(Session& session, MainWindow& window)
+void UpdateFileListInWindow(Session& session, MainWindow& window)
 {
     UpdateFileListCommand(WorkOn(session),
                           [&](const NewPlaces& places) { ShowMovedRows(window, places); });

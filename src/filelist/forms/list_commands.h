@@ -8,11 +8,11 @@ class QWidget;
 
 namespace quillon {
 
-void AddFilesCommand(Session& session, MainWindow& window);
+void AddFilesInWindow(Session& session, MainWindow& window);
 void AddTreeCommand(Session& session, MainWindow& window, QWidget* parent);
-void AddEmptyDirectoryCommand(Session& session, MainWindow& window);
-void DeleteRowsCommand(Session& session, MainWindow& window);
-void UpdateFileListCommand(Session& session, MainWindow& window);
+void AddEmptyDirectoryInWindow(Session& session, MainWindow& window);
+void DeleteRowsInWindow(Session& session, MainWindow& window);
+void UpdateFileListInWindow(Session& session, MainWindow& window);
 void SortListCommand(Session& session, MainWindow& window, QWidget* parent);
 
 /// Sorts by the column with this header, as a click on it does.

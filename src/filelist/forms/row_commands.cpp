@@ -60,7 +60,7 @@ void FindReplaceOptionsCommand(Session& session, MainWindow& window, QWidget* pa
     FindReplace(ReplaceIn::Options, session, window, parent);
 }
 
-void ChangeDestinationCommand(Session& session, MainWindow& window)
+void ChangeDestinationInWindow(Session& session, MainWindow& window)
 {
     const ListWork work{session.project, session.state, session.host, session.ask};
     if (const auto places = ChangeDestinationCommand(work, window.SelectedRows()))

@@ -13,7 +13,7 @@ void FindReplaceSourceCommand(Session& session, MainWindow& window, QWidget* par
 void FindReplaceOptionsCommand(Session& session, MainWindow& window, QWidget* parent);
 
 // These change selected rows; without any they do nothing.
-void ChangeDestinationCommand(Session& session, MainWindow& window);
+void ChangeDestinationInWindow(Session& session, MainWindow& window);
 /// The first selected row alone, where it has a file.
 void ChangeSourceCommand(Session& session, MainWindow& window, QWidget* parent);
 /// Ends where the first selected row has no file.

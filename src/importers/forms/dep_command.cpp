@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-void AddDepFileCommand(Session& session, MainWindow& window)
+void AddDepFileInWindow(Session& session, MainWindow& window)
 {
     const auto places =
         AddDepFileCommand(ListWork{session.project, session.state, session.host, session.ask},

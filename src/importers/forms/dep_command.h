@@ -6,6 +6,6 @@
 
 namespace quillon {
 
-void AddDepFileCommand(Session& session, MainWindow& window);
+void AddDepFileInWindow(Session& session, MainWindow& window);
 
 } // namespace quillon
