@@ -167,7 +167,7 @@ InstallPlan MakeInstallPlan(const PlanInput& input)
     plan.hasUninstaller = input.setup.project.InstallOptions.UninstallSupport != kOff;
     plan.installLog = ChooseInstallJournal(input.host.files, plan.mainFolder,
                                            input.setup.project.ProjectName.ProjectName);
-    plan.skipped = UnsupportedFeatures(input.setup, input.texts);
+    plan.skipped = UnsupportedFeatures(input.setup, input.rows, input.texts);
     PlanRows(input, plan);
     PlanShortcuts(input, plan);
     PlanRegistry(input, plan);

@@ -119,6 +119,8 @@ constexpr MessageKey kMessages[] = {
     {Message::PartProgram,            "Skipped",   "Part_Program",            "program %1 efter installationen"},
     {Message::PartDocument,           "Skipped",   "Part_Document",           "dokumentet efter installationen"},
     {Message::PartRestart,            "Skipped",   "Part_Restart",            "omstarten av datorn"},
+    {Message::PartSound,              "Skipped",   "Part_Sound",              "ljudet till installationsskärmen"},
+    {Message::PartDataAccess,         "Skipped",   "Part_DataAccess",         "installationen av dataåtkomst (%1)"},
     {Message::SkipNotYet,             "Skipped",   "Skip_NotYet",             "stöds inte av den här versionen av installationsprogrammet"},
     {Message::SkipSilent,              "Skipped",   "Skip_Silent",            "startas inte när ingenting visas"},
     {Message::SkipComponentOff,       "Skipped",   "Skip_ComponentOff",       "komponent %1 installeras inte"},

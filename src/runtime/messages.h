@@ -119,6 +119,8 @@ enum class Message {
     PartProgram,
     PartDocument,
     PartRestart,
+    PartSound,
+    PartDataAccess,
     SkipNotYet,
     SkipSilent,
     SkipComponentOff,

@@ -7,6 +7,7 @@
 namespace quillon {
 
 std::vector<SkippedPart> UnsupportedFeatures(const SetupInformation& setup,
+                                             const std::vector<InstallRow>& rows,
                                              const LanguageTexts& texts);
 
 } // namespace quillon

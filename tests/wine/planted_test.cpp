@@ -1,5 +1,6 @@
 // Libraries that somebody has laid beside the programs, under the names of the system's own: none
 // of the programs takes them.
+#include "runtime/pages/page.h"
 #include "wine/package.h"
 #include "wine/registry_text.h"
 #include "wine/sample_product.h"
@@ -15,14 +16,19 @@ namespace fs = std::filesystem;
 // on Wine. Missing are kernel32 and what it rests on, and the C library: Windows takes those from
 // its own folder always.
 constexpr const char* kNames[] = {
-    "actxprxy", "advapi32", "apphelp", "atl",       "bcrypt",   "cfgmgr32", "clbcatq", "combase",
-    "comctl32", "comres",   "crypt32", "cryptbase", "cryptsp",  "dbghelp",  "dnsapi",  "dwmapi",
-    "gdi32",    "gdiplus",  "imm32",   "iphlpapi",  "linkinfo", "lpk",      "mpr",     "msctf",
-    "msimg32",  "netapi32", "nsi",     "ntmarta",   "ntshrui",  "ole32",    "oleacc",  "oleaut32",
-    "powrprof", "profapi",  "propsys", "psapi",     "rpcrt4",   "rsaenh",   "sechost", "secur32",
-    "setupapi", "sfc",      "shcore",  "shell32",   "shfolder", "shlwapi",  "srvcli",  "urlmon",
-    "user32",   "userenv",  "usp10",   "uxtheme",   "version",  "win32u",   "winmm",   "winspool",
-    "wintrust", "ws2_32",   "wsock32", "wtsapi32",
+    "actxprxy", "advapi32",      "apphelp",       "atl",      "bcrypt",   "cfgmgr32",
+    "clbcatq",  "combase",       "comctl32",      "comdlg32", "comres",   "coremessaging",
+    "crypt32",  "cryptbase",     "cryptsp",       "d2d1",     "dbghelp",  "dnsapi",
+    "dwmapi",   "dwrite",        "explorerframe", "gdi32",    "gdiplus",  "imm32",
+    "iphlpapi", "linkinfo",      "lpk",           "mlang",    "mpr",      "mscms",
+    "msctf",    "msftedit",      "msimg32",       "msls31",   "netapi32", "nsi",
+    "ntmarta",  "ntshrui",       "ole32",         "oleacc",   "oleaut32", "powrprof",
+    "profapi",  "propsys",       "psapi",         "riched20", "riched32", "rpcrt4",
+    "rsaenh",   "rstrtmgr",      "sechost",       "secur32",  "setupapi", "sfc",
+    "shcore",   "shell32",       "shfolder",      "shlwapi",  "srvcli",   "textinputframework",
+    "urlmon",   "user32",        "userenv",       "usp10",    "uxtheme",  "version",
+    "win32u",   "windowscodecs", "winmm",         "winspool", "wintrust", "wldp",
+    "ws2_32",   "wsock32",       "wtsapi32",
 };
 
 void PlantIn(const fs::path& folder)
@@ -80,6 +86,36 @@ TEST(PlantedLibraries, AreNotTakenBySetupAndUninstaller)
     EXPECT_EQ(prefix.RunCommandLine(*uninstall), 0U);
     prefix.WaitForAll();
     EXPECT_FALSE(fs::exists(mainFolder / "QNXUNIN.EXE"));
+    EXPECT_EQ(Loaded(prefix), "");
+}
+
+// The pages bring the common controls, the rich text control and the system's dialogs, the screen
+// the decoders of pictures.
+TEST(PlantedLibraries, AreNotTakenByThePagesAndTheScreen)
+{
+    SampleProduct product;
+    product.project.DialogBoxes.LicenseInfoRtfDlg = 1;
+    product.project.DialogBoxData.LicenseFilenameRtf = "S:\\avtal.rtf";
+    WriteBytes(product.Drive() / "avtal.rtf", "{\\rtf1\\ansi Vi \\b lovar\\b0  inget.}");
+    const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
+    PlantIn(package);
+    const WinePrefix prefix;
+    // There is no screen, and Wine has to be told so, or it makes no window.
+    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
+              0U);
+    prefix.Stop();
+    PlantIn(prefix.OnHost("C:\\windows\\temp"));
+    const fs::path driver = WorkFolder() / "drive_setup.exe";
+    fs::copy_file(TestProgramFolder() / "drive_setup.exe", driver, fs::copy_options::skip_existing);
+    WriteBytes(prefix.DriveC() / "script.txt",
+               "run \"" + OnZ(package / "SETUP.EXE") + "\"\npage Välkommen\npress 1\n" +
+                   "page Licensinformation\nread " +
+                   std::to_string(100 + static_cast<int>(PageField::Agreement)) +
+                   "\npress 2\nbox 6\nend\n");
+    EXPECT_EQ(prefix.Run(OnZ(driver), R"(C:\script.txt C:\driven.txt)"), 0U);
+    const std::string driven = ReadBytes(prefix.DriveC() / "driven.txt");
+    EXPECT_NE(driven.find("Vi lovar inget."), std::string::npos) << driven;
+    EXPECT_NE(driven.find("code 1602"), std::string::npos) << driven;
     EXPECT_EQ(Loaded(prefix), "");
 }
 
