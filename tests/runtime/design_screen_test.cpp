@@ -28,7 +28,7 @@ std::string Bitmap(int width, int height, std::uint32_t colour)
     }
     return "BM" + number(54 + std::uint32_t(rows.size()), 4) + number(0, 4) + number(54, 4) +
            number(40, 4) + number(std::uint32_t(width), 4) + number(std::uint32_t(height), 4) +
-           number(1, 2) + number(24, 2) + number(0, 24) + rows;
+           number(1, 2) + number(24, 2) + std::string(24, '\0') + rows;
 }
 
 class NamedEntries : public Container {

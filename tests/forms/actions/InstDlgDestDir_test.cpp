@@ -37,7 +37,7 @@ TEST_F(InstDlgDestDirTest, ProposesTheMainFolder)
 {
     InstDlgDestDir form({}, session, nullptr);
     ShowActive(form);
-    EXPECT_EQ(form.windowTitle(), "Destinationskatalog");
+    EXPECT_EQ(form.windowTitle(), "Destinationsmapp"); // one word for it, as in the setup
     EXPECT_EQ(TextIn(form, "tDestDir"), "C:\\Program\\Receptboken");
     EXPECT_FALSE(Said(form.sText).empty());
     EXPECT_TRUE(form.cmdNext->hasFocus());
