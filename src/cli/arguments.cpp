@@ -120,7 +120,7 @@ private:
 void AddHelpLine(Text& help, Text left, const char* right)
 {
     if (CharacterCount(left) + 2 > kHelpColumn)
-        left += "\n" + Text(kHelpColumn, ' ');
+        left.append(1, '\n').append(kHelpColumn, ' ');
     else
         left.append(kHelpColumn - CharacterCount(left), ' ');
     help += left + right + "\n";
