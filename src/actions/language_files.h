@@ -36,7 +36,7 @@ Text LanguageFileName(std::string_view typed);
 bool CanBeLanguageFile(const Text& name, Ask& ask);
 
 /// Asks for a name and makes a copy of the reference under it; its name. Nothing where the user
-/// gave none or, told by a box, where it could not be made.
+/// gave none, or where it could not be made, which a message box reports.
 std::optional<Text> AddLanguage(const Host& host, const LanguageFolders& folders, Ask& ask);
 
 /// Opens a language file in a text editor and does not wait for it; reports it where that can't be

@@ -161,16 +161,4 @@ Text FreeSpaceText(const Host& host, const Text& folder)
     }
 }
 
-std::vector<Text> PreviewDrives(const FileSystem& files)
-{
-    std::vector<Text> drives;
-    for (char letter = 'C'; letter <= 'Z'; ++letter) {
-        const Text root = Text(1, letter) + ":\\";
-        const DriveKind kind = files.DriveType(root);
-        if (kind == DriveKind::Fixed || kind == DriveKind::Remote || kind == DriveKind::Removable)
-            drives.push_back(root);
-    }
-    return drives;
-}
-
 } // namespace quillon

@@ -25,7 +25,4 @@ Text NeededSpaceText(const Project& project, const Host& host, Ask& ask);
 /// What is free on the disk of a folder, which need not be there yet.
 Text FreeSpaceText(const Host& host, const Text& folder);
 
-/// The roots of the drives that something can be installed on, "C:\".
-std::vector<Text> PreviewDrives(const FileSystem& files);
-
 } // namespace quillon

@@ -12,8 +12,8 @@ namespace quillon::zip {
 namespace {
 
 constexpr std::uint64_t kMaxCommentLength = 0xFFFF;
-// Deflate spends at least two bits on 258 bytes. A size beyond that is a lie, told so that somebody
-// reserves the space.
+// Deflate spends at least two bits on 258 bytes. A larger size is false, and is there to make a
+// reader reserve the space.
 constexpr std::uint64_t kMaxExpansion = 1032;
 
 /// Where the directory is and what it shall hold.

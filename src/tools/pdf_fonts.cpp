@@ -1,5 +1,6 @@
 #include "tools/pdf_fonts.h"
 
+#include "helpers/closer.h"
 #include "helpers/utf8.h"
 #include "tools/list_pages.h"
 
@@ -9,15 +10,6 @@
 namespace quillon {
 
 namespace {
-
-template <auto close>
-struct Closer {
-    template <class Handle>
-    void operator()(Handle* handle) const
-    {
-        close(handle);
-    }
-};
 
 using Pattern = std::unique_ptr<FcPattern, Closer<FcPatternDestroy>>;
 using Letters = std::unique_ptr<FcCharSet, Closer<FcCharSetDestroy>>;

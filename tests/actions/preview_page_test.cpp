@@ -1,4 +1,5 @@
 #include "actions/preview_page.h"
+#include "formats/install_drives.h"
 
 #include "platform/run_error.h"
 #include "support/memory_host.h"
@@ -140,7 +141,7 @@ TEST_F(PreviewPage, OffersDrivesToInstallOn)
     machine.files.driveKinds["d:\\"] = DriveKind::Cd;
     machine.files.driveKinds["e:\\"] = DriveKind::Removable;
     machine.files.driveKinds["z:\\"] = DriveKind::Remote;
-    EXPECT_EQ(PreviewDrives(machine.files), (std::vector<Text>{"C:\\", "E:\\", "Z:\\"}));
+    EXPECT_EQ(InstallDrives(machine.files), (std::vector<Text>{"C:\\", "E:\\", "Z:\\"}));
 }
 
 } // namespace

@@ -25,12 +25,12 @@ constexpr std::uint64_t kMiB = 1024 * 1024;
 // A source up to this size is packed as one piece; a larger one is cut. Larger blocks would lose
 // less at their borders, but these lose a hundredth of a per cent only.
 constexpr std::uint64_t kBlockSize = 4 * kMiB;
-// Bytes of the sources that may be on their way at any time; this, and the buffers of the threads,
+// Bytes of the sources that may be in flight at any time; this, and the buffers of the threads,
 // is what keeps the whole below 256 MiB.
 constexpr std::uint64_t kMaxInFlight = 96 * kMiB;
 // What even the smallest block costs in memory.
 constexpr std::uint64_t kBlockOverhead = 16 * 1024;
-// Each thread holds a block beside the ones on their way. More threads than this don't pack faster
+// Each thread holds a block beside the ones in flight. More threads than this don't pack faster
 // than disks deliver.
 constexpr unsigned kMaxThreads = 16;
 

@@ -4,6 +4,7 @@
 #include "design/posix/font_letters.h"
 
 #include "design/letter_join.h"
+#include "helpers/closer.h"
 #include "helpers/utf8.h"
 
 #include <algorithm>
@@ -29,15 +30,6 @@ constexpr int kEmboldenPart = 24;
 constexpr double kSlant = 0.2126; // of an upright outline that stands in for an italic one
 constexpr FT_Pos kUnitsPerPixel = 64;
 constexpr const char* kUsualFamily = "sans-serif";
-
-template <auto close>
-struct Closer {
-    template <class Handle>
-    void operator()(Handle* handle) const
-    {
-        close(handle);
-    }
-};
 
 using Config = std::unique_ptr<FcConfig, Closer<FcConfigDestroy>>;
 using Pattern = std::unique_ptr<FcPattern, Closer<FcPatternDestroy>>;

@@ -50,18 +50,6 @@ bool PageState::CanBeInstalled(int component) const
         *this, [&](const PlanInput& plan) { return quillon::CanBeInstalled(plan, component); });
 }
 
-std::vector<Text> InstallDrives(const FileSystem& files)
-{
-    std::vector<Text> drives;
-    for (char letter = 'C'; letter <= 'Z'; ++letter) {
-        const Text root = Text(1, letter) + ":\\";
-        const DriveKind kind = files.DriveType(root);
-        if (kind == DriveKind::Fixed || kind == DriveKind::Remote || kind == DriveKind::Removable)
-            drives.push_back(root);
-    }
-    return drives;
-}
-
 Text GroupsFolder(const PageState& state)
 {
     const Target& target = state.input.target;

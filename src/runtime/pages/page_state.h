@@ -1,6 +1,7 @@
 // What the pages know while the user goes through them, and what they work out of it.
 #pragma once
 
+#include "formats/install_drives.h"
 #include "platform/ask.h"
 #include "runtime/install_plan.h"
 #include "runtime/pages/page.h"
@@ -57,9 +58,6 @@ bool MayLeavePage(PageState& state, SetupPage& page);
 
 /// What follows from a change of the field, on the same page.
 void ReactTo(PageState& state, SetupPage& page, PageField field);
-
-// The drives that something can be installed on, "C:\".
-std::vector<Text> InstallDrives(const FileSystem& files);
 
 /// Where the groups of programs are made.
 Text GroupsFolder(const PageState& state);

@@ -2,6 +2,7 @@
 
 #include "actions/forms/pages/DiskSpacePart.h"
 #include "actions/preview_page.h"
+#include "formats/install_drives.h"
 #include "formats/page_layout.h"
 #include "platform/run_error.h"
 #include "shell/session.h"
@@ -47,7 +48,7 @@ void InstDlgDestDrive::FillDrives()
 {
     const FileSystem& files = session_.host.files;
     const Text proposed = PreviewMainFolder(session_.project, session_.host).substr(0, 2);
-    for (const Text& root : PreviewDrives(files)) {
+    for (const Text& root : InstallDrives(files)) {
         const Text volume = VolumeName(files, root);
         const Text caption = volume.empty() ? root : root + "  (" + volume + ")";
         auto* item = new QListWidgetItem(NamedIcon("drive"), ToQt(caption), lbDrives);
