@@ -88,7 +88,8 @@ std::vector<std::string> OwnViolations(const Include& include)
         found.push_back("a folder includes from lower ones only");
     if (from == "runtime" && kHeight.count(to) > 0 && kRuntimeUses.count(to) == 0)
         found.push_back("the setup runtime does not use this folder");
-    if (from == "runtime" && include.target.starts_with("archive/writer/"))
+    if (from == "runtime" && (include.target.starts_with("archive/writer/") ||
+                              include.target.starts_with("archive/solid/writer/")))
         found.push_back("the setup runtime writes no archives");
     for (const char* system : {"posix", "win32"})
         if (Has(include.target, system) && !Has(include.file, system) &&

@@ -1,0 +1,173 @@
+#include "archive/solid/solid_reader.h"
+
+#include "archive/solid/solid_digest.h"
+#include "archive/solid/solid_error.h"
+#include "archive/solid/solid_stream.h"
+#include "archive/solid/x86_filter.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::size_t kPieceSize = 256 * 1024;
+
+std::size_t ReadUpTo(InputFile& file, std::uint64_t position, std::span<std::byte> bytes)
+{
+    file.Seek(position);
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const std::size_t got = file.Read(bytes.subspan(done));
+        if (got == 0)
+            break;
+        done += got;
+    }
+    return done;
+}
+
+std::optional<SignatureFields> FieldsOf(InputFile& file)
+{
+    zip::Bytes head(kProgramHeadSize);
+    head.resize(ReadUpTo(file, 0, head));
+    return FindSignatureFields(head);
+}
+
+// A payload ends where the file does, or where the certificates of a signed program begin.
+std::uint64_t EndOfPayload(const InputFile& file, const std::optional<SignatureFields>& fields)
+{
+    if (!fields || (fields->tableBegin == 0 && fields->tableSize == 0))
+        return file.Size();
+    if (std::uint64_t(fields->tableBegin) + fields->tableSize != file.Size())
+        RefuseSolid("signaturen ligger inte sist i filen");
+    return fields->tableBegin;
+}
+
+/// Unpacks one part of a file and undoes its filter.
+class RunReader {
+public:
+    RunReader(SolidStream& stream, zip::Bytes& buffer) : stream_(stream), buffer_(buffer) {}
+
+    void Read(const SolidRun& run, SolidSink& sink)
+    {
+        X86Filter filter(X86Filter::Direction::Decode);
+        std::uint64_t left = run.size;
+        std::size_t held = 0;
+        while (left > 0 || held > 0) {
+            const auto count =
+                static_cast<std::size_t>(std::min<std::uint64_t>(left, buffer_.size() - held));
+            stream_.Read(std::span(buffer_).subspan(held, count));
+            left -= count;
+            const auto filled = std::span(buffer_).first(held + count);
+            const std::size_t done =
+                run.filter == SolidFilter::X86 ? filter.Convert(filled, left == 0) : filled.size();
+            sink.Write(filled.first(done));
+            held = filled.size() - done;
+            std::memmove(buffer_.data(), buffer_.data() + done, held);
+        }
+    }
+
+private:
+    SolidStream& stream_;
+    zip::Bytes& buffer_;
+};
+
+} // namespace
+
+SolidReader::SolidReader(std::unique_ptr<InputFile> file, const Progress& onProgress)
+    : file_(std::move(file))
+{
+    const std::uint64_t end = EndOfPayload(*file_, FieldsOf(*file_));
+    CheckDigest(FindTrailer(end), onProgress);
+    ReadTable();
+}
+
+std::uint64_t SolidReader::FindTrailer(std::uint64_t end)
+{
+    constexpr auto kNoPayload = SolidError::Kind::NoPayload;
+    zip::Bytes bytes(kSolidTrailerFields);
+    if (end < kSolidTrailerSize)
+        throw SolidError(kNoPayload, "filen har inget innehåll att packa upp");
+    const std::uint64_t position = end - kSolidTrailerSize;
+    if (ReadUpTo(*file_, position, bytes) != bytes.size() || !zip::ReadFields(bytes, trailer_) ||
+        trailer_.mark != SolidTrailer::kMark)
+        throw SolidError(kNoPayload, "filen har inget innehåll att packa upp");
+    if (trailer_.version != SolidTrailer::kVersion || trailer_.flags != 0)
+        throw SolidError(SolidError::Kind::Unsupported, "filen är gjord av en nyare version");
+    if (trailer_.streamBegin > position || trailer_.streamSize > position - trailer_.streamBegin ||
+        position - trailer_.streamBegin - trailer_.streamSize >= kSolidAlignment ||
+        trailer_.tableSize > kMaxSolidTableSize)
+        RefuseSolid("innehållets läge stämmer inte");
+    return position;
+}
+
+void SolidReader::CheckDigest(std::uint64_t trailerPosition, const Progress& onProgress)
+{
+    SolidDigest digest(trailer_.streamBegin > 0 ? FieldsOf(*file_) : std::nullopt);
+    const std::uint64_t end = trailerPosition + kSolidTrailerFields;
+    zip::Bytes piece(kPieceSize);
+    for (std::uint64_t done = 0; done < end;) {
+        const auto wanted =
+            static_cast<std::size_t>(std::min<std::uint64_t>(end - done, piece.size()));
+        const auto bytes = std::span(piece).first(wanted);
+        if (ReadUpTo(*file_, done, bytes) != wanted)
+            RefuseSolid("filen slutar för tidigt");
+        digest.Add(bytes);
+        done += wanted;
+        if (onProgress)
+            onProgress(done, end);
+    }
+    Sha256Digest told;
+    if (ReadUpTo(*file_, end, told) != told.size() || told != digest.Finish())
+        RefuseSolid("kontrollsumman (SHA-256) stämmer inte");
+}
+
+void SolidReader::ReadTable()
+{
+    SolidStream stream(*file_, trailer_);
+    // It grows with what comes, since its size is only told.
+    zip::Bytes bytes;
+    while (bytes.size() < trailer_.tableSize) {
+        const std::size_t before = bytes.size();
+        const auto count = static_cast<std::size_t>(
+            std::min<std::uint64_t>(trailer_.tableSize - before, kPieceSize));
+        bytes.resize(before + count);
+        stream.Read(std::span(bytes).subspan(before));
+    }
+    table_ = ReadSolidTable(bytes);
+}
+
+void SolidReader::Extract(SolidSink& sink) const
+{
+    SolidStream stream(*file_, trailer_);
+    zip::Bytes buffer(kPieceSize);
+    for (std::uint64_t left = trailer_.tableSize; left > 0;) {
+        const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(left, buffer.size()));
+        stream.Read(std::span(buffer).first(count));
+        left -= count;
+    }
+    RunReader runs(stream, buffer);
+    for (const SolidFile& file : table_.files) {
+        sink.Begin(file);
+        for (const SolidRun& run : file.runs)
+            runs.Read(run, sink);
+        sink.End();
+    }
+    stream.Finish();
+}
+
+bool HasSolidPayload(InputFile& file)
+{
+    const auto fields = FieldsOf(file);
+    std::uint64_t end = file.Size();
+    if (fields && fields->tableSize > 0 && fields->tableBegin < end)
+        end = fields->tableBegin;
+    if (end < kSolidTrailerSize)
+        return false;
+    std::byte mark[sizeof(SolidTrailer::kMark)];
+    return ReadUpTo(file, end - kSolidTrailerSize, mark) == sizeof mark &&
+           zip::ReadNumber<std::uint64_t>(mark) == SolidTrailer::kMark;
+}
+
+} // namespace quillon

@@ -1,0 +1,31 @@
+// The files of a solid payload, written into a folder.
+#pragma once
+
+#include "archive/solid/solid_reader.h"
+
+namespace quillon {
+
+/// Writes each file as a new one, with its folders, time and read-only mark; bytes are counted by
+/// `onProgress`. Throws `RunError`: 75 (path/file access) where a file is there already. What was
+/// written until then stays, for the caller to remove.
+class FolderSink : public SolidSink {
+public:
+    using Progress = std::function<void(std::uint64_t done)>;
+
+    FolderSink(FileSystem& files, Text folder, Progress onProgress = {});
+
+    void Begin(const SolidFile& file) override;
+    void Write(std::span<const std::byte> bytes) override;
+    void End() override;
+
+private:
+    FileSystem& files_;
+    Text folder_;
+    Progress onProgress_;
+    std::uint64_t done_ = 0;
+    const SolidFile* file_ = nullptr;
+    Text path_;
+    std::unique_ptr<OutputFile> output_;
+};
+
+} // namespace quillon
