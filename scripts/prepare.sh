@@ -10,7 +10,8 @@ BUILD_PACKAGES=(
 )
 TEST_PACKAGES=(
     clang clang-format libclang-rt-14-dev
-    debootstrap p7zip-full poppler-utils procps unrtf unzip wine64 zip
+    debootstrap libengine-pkcs11-openssl openssl osslsigncode p7zip-full poppler-utils procps
+    softhsm2 unrtf unzip wine64 zip
     at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi xdotool xvfb
 )
 

@@ -70,6 +70,7 @@ int main(int argc, char** argv)
 
     QtAsk ask(machine.host, paths);
     Session session = NewSession(machine.host, ask, machine.ProgramFolder(), machine.OwnFolder());
+    session.programs = &machine.programs;
     StartSession(session);
     MainForm form(session, paths);
     ConnectFileListForms(ask, session);

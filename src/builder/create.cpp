@@ -11,6 +11,7 @@
 #include "builder/remove_quietly.h"
 #include "builder/runtime_files.h"
 #include "builder/setup_info_file.h"
+#include "builder/signing/sign_programs.h"
 #include "filelist/view/sort.h"
 #include "helpers/windows_path.h"
 
@@ -242,6 +243,7 @@ Step TellEnd(CreateRun& run)
 constexpr Step (*kStepsInOrder[])(CreateRun&) = {Begin,
                                                  SortLongList,
                                                  ClearInternetFolder,
+                                                 PrepareSigning,
                                                  BeginPackage,
                                                  CopySetupExe,
                                                  CopyRuntimeExe,

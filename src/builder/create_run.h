@@ -17,6 +17,8 @@ enum class Check { Passed, Stopped };
 /// Whether the pipeline goes on after a step. A step that stops it has shown why.
 enum class Step { GoOn, Stop };
 
+struct Signing;
+
 struct CreateRun {
     Project& project;
     OpenProjectState& state;
@@ -43,6 +45,8 @@ struct CreateRun {
     std::optional<RunError> failure = {};
     // The same of a container; its status lines have a number and no name.
     std::optional<CompressionFailure> compressionFailure = {};
+    // Which program could not be signed, and why; a sentence.
+    Text signingFailure = {};
 
     // Where the files are made while an older package is in the destination; empty otherwise.
     Text stagingFolder = {};
@@ -50,6 +54,9 @@ struct CreateRun {
     std::vector<Text> packageFiles = {};
     // The pieces of the container where it was cut: their disks may be out of the drive by now.
     std::vector<ManifestLine> piecesOnDisks = {};
+
+    // What signs the programs of the package; null where the caller can't sign.
+    Signing* signing = nullptr;
 
     const Text& BuildFolder() const { return stagingFolder.empty() ? DestDir : stagingFolder; }
     Text InDestination(const Text& name) const { return BuildFolder() + "\\" + name; }

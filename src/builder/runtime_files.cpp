@@ -1,6 +1,7 @@
 #include "builder/runtime_files.h"
 
 #include "builder/design_objects.h"
+#include "builder/signing/sign_programs.h"
 #include "formats/copy_letters.h"
 #include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
@@ -16,6 +17,7 @@ struct RuntimeFile {
     Text target; // in the destination
     Text name;   // as the status lines tell it
     Text remark = {};
+    bool isProgram = true; // which is signed where the project wants it
 };
 
 // What goes from the tool's Release folder as it is, under which name, and when.
@@ -68,12 +70,18 @@ Text ReleasePath(const CreateRun& run, const Text& name)
 Step CopyIntoPackage(CreateRun& run, const RuntimeFile& file)
 {
     run.ask.AddStatusLine("Kopierar " + file.name + file.remark);
+    const Text target = run.InDestination(file.target);
+    Step step = Step::GoOn;
     const auto copy = [&] {
-        run.host.files.CopyContent(file.source, run.InDestination(file.target));
+        if (file.isProgram)
+            step = CopyProgramSigned(run, file.source, target, file.name);
+        else
+            run.host.files.CopyContent(file.source, target);
     };
     if (RunErrorNumber(copy, run.failure) == ErrorNumber::kNone) {
-        run.packageFiles.push_back(file.target);
-        return Step::GoOn;
+        if (step == Step::GoOn)
+            run.packageFiles.push_back(file.target);
+        return step;
     }
     run.ask.AddStatusLine("Fel! Kan ej kopiera " + file.name + "!");
     return Step::Stop;
@@ -133,7 +141,7 @@ Step CopyLicenseRtf(CreateRun& run)
     const Text& license = run.project.DialogBoxData.LicenseFilenameRtf;
     if (run.project.DialogBoxes.LicenseInfoRtfDlg != 1 || license.empty())
         return Step::GoOn;
-    return CopyIntoPackage(run, {license, kLicenseRtfName, kLicenseRtfName});
+    return CopyIntoPackage(run, {license, kLicenseRtfName, kLicenseRtfName, "", false});
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 #include "cli/arguments.h"
 #include "helpers/number_text.h"
 #include "platform/host.h"
+#include "platform/program_runner.h"
 #include "shell/failure_text.h"
 
 #include <functional>
@@ -35,6 +36,8 @@ struct CallContext {
     std::function<std::optional<Text>(const std::string& hostPath)> toWindows;
     std::ostream& out;
     std::ostream& err;
+    // Null where no program of others can be run.
+    ProgramRunner* programs = nullptr;
 
     /// An operand as a Windows path, which it may be already. Throws `UsageError`.
     Text PathOperand(std::size_t number) const { return Path(arguments.operands.at(number)); }

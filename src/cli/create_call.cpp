@@ -5,6 +5,7 @@
 #include "cli/calls.h"
 #include "cli/console_ask.h"
 #include "cli/open_project.h"
+#include "cli/signing_switches.h"
 
 #include <algorithm>
 #include <array>
@@ -99,13 +100,15 @@ Exit CreatePackage(const CallContext& context)
         throw CallFailure{reason, Exit::Stopped};
     FolderDisks disks(context.host, form.tDestinationDir);
     CompressionInterface compression(context.host, ask, disks);
+    Signing signing(context.programs, ReadSigningSwitches(context), {});
     CreateRun run{.project = session.project,
                   .state = session.state,
                   .form = form,
                   .options = session.options,
                   .host = context.host,
                   .ask = ask,
-                  .compression = compression};
+                  .compression = compression,
+                  .signing = &signing};
     const CreateResult result = RunCreate(run);
     if (result == CreateResult::Done && form.TargetMedia == Medium::Floppy)
         disks.RemoveDisksBehind(run.FloppiesUsed);

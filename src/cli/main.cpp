@@ -25,7 +25,8 @@ Exit RunCall(const Arguments& arguments)
         .ownFolder = host.OwnFolder(),
         .toWindows = [&](const std::string& hostPath) { return host.drives.ToWindows(hostPath); },
         .out = std::cout,
-        .err = std::cerr};
+        .err = std::cerr,
+        .programs = &host.programs};
     try {
         return arguments.call->run(context);
     } catch (const CallFailure& failure) {

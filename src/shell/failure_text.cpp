@@ -31,6 +31,8 @@ Text FailureText(const CreateRun& run)
         return FailureText(*run.failure, run.form.tDestinationDir);
     if (run.compressionFailure)
         return FailureText(*run.compressionFailure);
+    if (!run.signingFailure.empty())
+        return run.signingFailure;
     return "Installationen är ej hel; statusraderna visar vad som saknas.";
 }
 

@@ -5,6 +5,7 @@
 #include "builder/create_options.h"
 #include "platform/ask.h"
 #include "platform/host.h"
+#include "platform/program_runner.h"
 #include "project/records.h"
 #include "shell/known_file.h"
 #include "shell/settings.h"
@@ -16,6 +17,8 @@ namespace quillon {
 struct Session {
     Host& host;
     Ask& ask;
+    // Null where no program of others can be run.
+    ProgramRunner* programs = nullptr;
 
     Project project;
     OpenProjectState state;

@@ -17,4 +17,11 @@ XInputBox::XInputBox(const Text& title, const Text& prompt, QWidget* parent)
                   OkCancel()}));
 }
 
+std::optional<Text> AskPassword(const Text& title, const Text& prompt, QWidget* parent)
+{
+    XInputBox form(title, prompt, parent);
+    form.tInput->setEchoMode(QLineEdit::Password);
+    return form.ShowModal() ? std::optional(form.Input) : std::nullopt;
+}
+
 } // namespace quillon

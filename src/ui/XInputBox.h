@@ -3,6 +3,8 @@
 
 #include "ui/Form.h"
 
+#include <optional>
+
 namespace quillon {
 
 class XInputBox : public Form {
@@ -13,5 +15,8 @@ public:
     Text Input;
     QLineEdit* tInput = nullptr;
 };
+
+/// A line that is not shown while it is typed; nothing where the user cancels.
+std::optional<Text> AskPassword(const Text& title, const Text& prompt, QWidget* parent);
 
 } // namespace quillon

@@ -5,10 +5,12 @@
 #include "builder/forms/DlgCompressOptions.h"
 #include "builder/forms/MediumPicture.h"
 #include "builder/package_summary.h"
+#include "builder/signing/sign_programs.h"
 #include "project/install_keys.h"
 #include "shell/failure_text.h"
 #include "shell/main_window.h"
 #include "shell/session.h"
+#include "ui/XInputBox.h"
 #include "ui/icons.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
@@ -301,6 +303,9 @@ CreateResult DlgCreate::RunOnce(Ask& ask)
     time.start();
     AskedDisks disks(session_.host, ask, form_.tDestinationDir);
     CompressionInterface compression(session_.host, ask, disks);
+    Signing signing(session_.programs, {}, [this](const Text& title, const Text& prompt) {
+        return AskPassword(title, prompt, this);
+    });
     CreateRun run{.project = session_.project,
                   .state = session_.state,
                   .form = form_,
@@ -308,7 +313,8 @@ CreateResult DlgCreate::RunOnce(Ask& ask)
                   .host = session_.host,
                   .ask = ask,
                   .compression = compression,
-                  .surface = session_.surface};
+                  .surface = session_.surface,
+                  .signing = &signing};
     const CreateResult result = RunCreate(run);
     if (result == CreateResult::Done && form_.TargetMedia == Medium::Floppy)
         disks.RemoveDisksBehind(run.FloppiesUsed);

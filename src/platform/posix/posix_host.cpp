@@ -44,7 +44,7 @@ PosixHost::PosixHost(MachineSettings settings)
     : complaints(settings.complaints), drives(settings.drives, settings.folders), files(drives),
       machine(settings, drives, files,
               ReadRegistryFiles(settings.registryFiles, drives, files, complaints)),
-      dataFolder_(settings.dataFolder)
+      programs(drives, settings.tempFolder), dataFolder_(settings.dataFolder)
 {
     LookAtDriveC(drives, machine, complaints);
 }

@@ -4,6 +4,7 @@
 
 #include "platform/host.h"
 #include "platform/posix/posix_machine.h"
+#include "platform/posix/posix_programs.h"
 
 namespace quillon {
 
@@ -23,6 +24,7 @@ struct PosixHost {
     DriveMap drives;
     PosixFiles files;
     PosixMachine machine;
+    PosixPrograms programs;
     Host host{files, machine};
 
 private:

@@ -1,0 +1,170 @@
+#include "builder/signing/signing_key.h"
+
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace quillon {
+
+namespace {
+
+using Kind = ProgramArgument::Kind;
+
+constexpr std::string_view kTokenScheme = "pkcs11:"; // RFC 7512
+constexpr std::string_view kModuleAttribute = "module-path=";
+constexpr std::string_view kPinAttribute = "pin-value=";
+
+bool IsTokenAddress(const Text& key)
+{
+    return LowerCase(key).starts_with(kTokenScheme);
+}
+
+bool IsContainer(const Text& file)
+{
+    const Text name = LowerCase(file);
+    return name.ends_with(".pfx") || name.ends_with(".p12");
+}
+
+/// What an address says after its "?".
+std::string_view QueryOf(std::string_view address)
+{
+    const std::size_t mark = address.find('?');
+    return mark == std::string_view::npos ? std::string_view() : address.substr(mark + 1);
+}
+
+int DigitOf(char digit)
+{
+    const std::size_t value = std::string_view("0123456789abcdef").find(LowerCase(Text(1, digit)));
+    return value == std::string_view::npos ? -1 : static_cast<int>(value);
+}
+
+Text WithoutPercents(std::string_view text)
+{
+    Text plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isCoded = text[i] == '%' && i + 2 < text.size() && DigitOf(text[i + 1]) >= 0 &&
+                             DigitOf(text[i + 2]) >= 0;
+        plain +=
+            isCoded ? static_cast<char>(DigitOf(text[i + 1]) * 16 + DigitOf(text[i + 2])) : text[i];
+        i += isCoded ? 2 : 0;
+    }
+    return plain;
+}
+
+/// The module that the address itself names, as a path of the machine that has it.
+Text ModuleIn(std::string_view address)
+{
+    const std::string_view query = QueryOf(address);
+    const std::size_t begin = query.find(kModuleAttribute);
+    if (begin == std::string_view::npos)
+        return {};
+    const std::string_view rest = query.substr(begin + kModuleAttribute.size());
+    return WithoutPercents(rest.substr(0, rest.find('&')));
+}
+
+Text WithoutQuery(const Text& address)
+{
+    return address.substr(0, address.find('?'));
+}
+
+Text FaultOfFile(const FileSystem& files, const Text& what, const Text& path, const Text& field)
+{
+    if (path.empty())
+        return what + " saknas: ange en fil " + field + ".";
+    return files.FileExists(path) ? Text() : what + " '" + path + "' finns inte.";
+}
+
+Text FaultOfToken(const FileSystem& files, const SigningKey& key)
+{
+    for (const Text& address : {key.certificate, key.key})
+        if (QueryOf(address).find(kPinAttribute) != std::string_view::npos)
+            return "PIN-koden får inte stå i nyckelns adress.";
+    const Text& module = key.module.text;
+    if (module.empty())
+        return "PKCS#11-modulen saknas: ange den med --sign-module, eller som module-path i "
+               "nyckelns adress.";
+    if (key.module.kind == Kind::Path && !files.FileExists(module))
+        return "PKCS#11-modulen '" + module + "' finns inte.";
+    return IsTokenAddress(key.certificate)
+               ? Text()
+               : FaultOfFile(files, "Certifikatet", key.certificate, "eller en pkcs11-adress");
+}
+
+// The beginning tells all kinds apart.
+std::string BeginningOf(const FileSystem& files, const Text& path)
+{
+    std::string bytes(8192, '\0');
+    bytes.resize(files.OpenInput(path)->Read(std::as_writable_bytes(std::span(bytes))));
+    return bytes;
+}
+
+// Bytes 12 to 15 of a .pvk tell whether it is encrypted, and 16 to 19 how long its salt is.
+bool IsLockedPvk(std::string_view bytes)
+{
+    constexpr std::string_view kMark = "\x1E\xF1\xB5\xB0";
+    return bytes.size() >= 24 && bytes.starts_with(kMark) &&
+           std::ranges::any_of(bytes.substr(12, 8), [](char byte) { return byte != 0; });
+}
+
+} // namespace
+
+SigningKey KeyFor(const section::Sign& sign, const SigningChoices& choices)
+{
+    // A named certificate comes with its own key, or has it in itself.
+    const bool namesCertificate = !choices.certificate.empty();
+    SigningKey key;
+    key.certificate = namesCertificate ? choices.certificate : sign.SignSPCFilename;
+    key.key = namesCertificate || !choices.key.empty() ? choices.key : sign.SignPVKFilename;
+    if (IsTokenAddress(key.key)) {
+        key.kind = SigningKey::Kind::Token;
+        key.module = choices.module.empty() ? ProgramArgument{ModuleIn(key.key), Kind::Plain}
+                                            : ProgramArgument{choices.module, Kind::Path};
+    } else if (IsContainer(key.certificate)) {
+        key.kind = SigningKey::Kind::Container;
+    }
+    return key;
+}
+
+Text FaultOfKey(const FileSystem& files, const SigningKey& key)
+{
+    if (key.kind == SigningKey::Kind::Token)
+        return FaultOfToken(files, key);
+    const Text certificate =
+        FaultOfFile(files, "Certifikatet", key.certificate, "på fliken Signering");
+    if (!certificate.empty() || key.kind == SigningKey::Kind::Container)
+        return certificate;
+    return FaultOfFile(files, "Den privata nyckeln", key.key, "på fliken Signering");
+}
+
+bool NeedsPassword(const FileSystem& files, const SigningKey& key)
+{
+    if (key.kind != SigningKey::Kind::Pair)
+        return true;
+    const std::string bytes = BeginningOf(files, key.key);
+    return IsLockedPvk(bytes) || bytes.find("ENCRYPTED") != std::string::npos;
+}
+
+std::vector<ProgramArgument> KeyArguments(const SigningKey& key)
+{
+    switch (key.kind) {
+    case SigningKey::Kind::Container:
+        return {{"-pkcs12"}, {key.certificate, Kind::Path}};
+    case SigningKey::Kind::Token: {
+        std::vector<ProgramArgument> arguments{{"-pkcs11module"}, key.module};
+        if (IsTokenAddress(key.certificate))
+            arguments.insert(arguments.end(), {{"-pkcs11cert"}, {WithoutQuery(key.certificate)}});
+        else
+            arguments.insert(arguments.end(), {{"-certs"}, {key.certificate, Kind::Path}});
+        arguments.insert(arguments.end(), {{"-key"}, {WithoutQuery(key.key)}});
+        return arguments;
+    }
+    case SigningKey::Kind::Pair:
+        break;
+    }
+    return {{"-certs"}, {key.certificate, Kind::Path}, {"-key"}, {key.key, Kind::Path}};
+}
+
+} // namespace quillon
