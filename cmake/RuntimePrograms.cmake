@@ -4,13 +4,23 @@
 set(win32 ${CMAKE_CURRENT_SOURCE_DIR}/runtime/win32)
 
 # Below all other libraries, so that the linker meets it behind them and before libstdc++.
-add_library(quillon_lean STATIC ${win32}/lean/failures.cpp)
+add_library(quillon_lean STATIC ${win32}/lean/failures.cpp ${win32}/lean/load_configuration.cpp)
 include(DelayLoad)
 add_dependencies(quillon_lean quillon_delayed_libraries)
 target_link_libraries(quillon_options INTERFACE quillon_lean ${delayed})
 # Programs begin at wWinMain. They are linked in one piece, since GCC 12 breaks down over symbols that
 # two pieces of a program share.
 target_link_options(quillon_options INTERFACE -municode -flto-partition=one)
+# Loaded where nobody can know, and no data runs as code. A 32-bit program registers no handler of
+# exceptions, so that none that somebody lays on its stack is taken for one; 64-bit programs keep theirs in
+# a table that can't be written.
+target_link_options(quillon_options INTERFACE -Wl,--dynamicbase,--nxcompat)
+if(QUILLON_TARGET_MACHINE STREQUAL "i686")
+  target_link_options(quillon_options INTERFACE -Wl,--no-seh -Wl,-u,_kLoadConfiguration)
+else()
+  target_link_options(quillon_options INTERFACE -Wl,--high-entropy-va -Wl,-u,kLoadConfiguration)
+endif()
+find_program(QUILLON_PYTHON python3 REQUIRED)
 
 # quillon_runtime_program(<folder of the sources> <file name> <folder> [linked libraries...])
 function(quillon_runtime_program source file folder)
@@ -33,6 +43,10 @@ function(quillon_runtime_program source file folder)
                          RUNTIME_OUTPUT_DIRECTORY ${folder}
                          ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/implib)
   target_link_libraries(${source} PRIVATE quillon_runtime quillon_platform ${ARGN})
+  add_custom_command(
+    TARGET ${source} POST_BUILD
+    COMMAND ${QUILLON_PYTHON} ${CMAKE_SOURCE_DIR}/cmake/load_configuration.py $<TARGET_FILE:${source}>
+    VERBATIM)
 endfunction()
 
 set(release ${QUILLON_RELEASE_FOLDER})

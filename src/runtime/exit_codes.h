@@ -15,6 +15,7 @@ enum class ExitCode : int {
     Cancelled = 1602,
     Failed = 1603, // and undone: the machine is as it was before
     NothingInstalled = 1605,
+    AlreadyUninstalled = 1614, // what is left of it goes when the machine starts next
     OtherSetupRuns = 1618,
     WrongSystem = 1633,
     BadSwitch = 1639,

@@ -75,6 +75,8 @@ void FileInstaller::InstallOne(const PlannedFile& file)
         wanted = !decidesLate || IsWanted(file, *existing, staged);
     }
     const bool atRestart = wanted && !Put(file, staged, existing.has_value());
+    if (wanted || record_.Has<record::File>(file.path) || record_.Has<record::Replaced>(file.path))
+        installed_ += file.row->size;
     if (!wanted && !staged.empty())
         input_.host.files.RemoveFile(staged);
     if (HasOption(options, CopyLetter::kShared) && !HasOption(options, CopyLetter::kNeverUninstall))

@@ -18,6 +18,10 @@ public:
     const std::vector<Text>& FilesToRegisterAtRestart() const { return toRegisterAtRestart_; }
     const std::vector<PlannedFile>& Fonts() const { return fonts_; }
 
+    /// Of the files that are the product's own now, whether written anew or kept from an earlier
+    /// version of it.
+    std::uint64_t InstalledBytes() const { return installed_; }
+
 private:
     void InstallOne(const PlannedFile& file);
     std::optional<FileStatus> StatusAt(const Text& path) const;
@@ -36,6 +40,7 @@ private:
     std::vector<PlannedFile> fonts_;
     std::uint64_t done_ = 0;
     std::uint64_t total_ = 0;
+    std::uint64_t installed_ = 0;
 };
 
 /// Where the system counts the products that use a shared file.

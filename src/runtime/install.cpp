@@ -306,7 +306,7 @@ void Installation::PutUninstaller()
     // The uninstaller goes last and by itself, and stays where another product needs it.
     changes_.PutFile(
         {staged, path, input_.host.files.FileExists(path), InstallTransaction::Recorded::No});
-    WriteUninstallEntry(input_, changes_);
+    WriteUninstallEntry({input_, files_.InstalledBytes()}, changes_);
 }
 
 } // namespace

@@ -150,12 +150,16 @@ constexpr MessageKey kMessages[] = {
     {Message::SkipIniUnreadable,      "Skipped",   "Skip_IniUnreadable",      "raden är varken filnamn, sektion eller namn=värde"},
     {Message::SkipIniUnicode,         "Skipped",   "Skip_IniUnicode",         "INI-filer i Unicode ändras inte"},
     {Message::UninstallTitle,         "Uninstall", "Title",                   "Avinstallation av %1"},
-    {Message::UninstallQuestion,      "Uninstall", "Ask_Uninstall",           "Vill du ta bort %1 från datorn?"},
+    {Message::UninstallQuestion,      "Uninstall", "Ask_Uninstall",           "Vill du ta bort %1 från datorn? Det här tas bort:"},
     {Message::UninstallRunning,       "Uninstall", "Msg_Running",             "Tar bort filer och inställningar..."},
     {Message::UninstallDone,          "Uninstall", "Msg_Done",                "%1 har tagits bort från datorn."},
-    {Message::UninstallPartly,        "Uninstall", "Msg_Partly",              "%1 har tagits bort, men några filer eller inställningar kunde inte tas bort."},
+    {Message::UninstallPartly,        "Uninstall", "Msg_Partly",              "%1 har tagits bort, men några filer eller inställningar kunde inte tas bort:"},
     {Message::UninstallNoLog,         "Uninstall", "Err_NoLog",               "Avinstallationen kan inte startas. Filen '%1' saknas eller är skadad."},
     {Message::UninstallFailed,        "Uninstall", "Err_Failed",              "Avinstallationen misslyckades (%1)."},
+    {Message::UninstallButton,        "Uninstall", "Button_Uninstall",        "&Avinstallera"},
+    {Message::UninstallLeft,          "Uninstall", "Msg_Left",                "%1 har tagits bort från datorn. Det här finns kvar:"},
+    {Message::UninstallRestart,       "Uninstall", "Msg_Restart",             "%1 har tagits bort från datorn. Starta om datorn, så försvinner även det som används nu:"},
+    {Message::UninstallGone,          "Uninstall", "Err_Gone",                "Programmet har redan avinstallerats. Det som finns kvar tas bort när datorn startas om."},
     {Message::LogBegins,              "Log",       "Log_Begins",              "Installation av %1 från %2"},
     {Message::LogDone,                "Log",       "Log_Done",                "Klart."},
     {Message::LogEnds,                "Log",       "Log_Ends",                "Avslutar med kod %1"},
@@ -202,6 +206,7 @@ constexpr MessageKey kMessages[] = {
     {Message::ReasonFolderNotEmpty,   "Reasons",   "Reason_FolderNotEmpty",   "mappen är inte tom"},
     {Message::ReasonOutsideProduct,   "Reasons",   "Reason_OutsideProduct",   "den ligger utanför programmets mappar"},
     {Message::ReasonLinkInPath,     "Reasons",   "Reason_LinkOnTheWay",     "en länk leder till en annan mapp"},
+    {Message::ReasonAtRestart,        "Reasons",   "Reason_AtRestart",        "tas bort när datorn startas om"},
 };
 // clang-format on
 static_assert(std::size(kMessages) == std::size_t(Message::Count));
@@ -233,6 +238,7 @@ bool IsOfUninstaller(Message message)
     case Message::Yes:
     case Message::No:
     case Message::BadSwitch:
+    case Message::OtherSetup:
         return true;
     default:
         return false;

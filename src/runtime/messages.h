@@ -156,6 +156,10 @@ enum class Message {
     UninstallPartly,
     UninstallNoLog,
     UninstallFailed,
+    UninstallButton,
+    UninstallLeft,
+    UninstallRestart,
+    UninstallGone,
     LogBegins,
     LogDone,
     LogEnds,
@@ -202,6 +206,7 @@ enum class Message {
     ReasonFolderNotEmpty,
     ReasonOutsideProduct,
     ReasonLinkInPath,
+    ReasonAtRestart,
     Count
 };
 

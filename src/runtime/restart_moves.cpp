@@ -1,5 +1,8 @@
 #include "runtime/restart_moves.h"
 
+#include "helpers/windows_path.h"
+#include "runtime/rollback.h"
+
 #include <algorithm>
 
 namespace quillon {
@@ -18,21 +21,35 @@ std::string_view TextAt(std::string_view bytes, std::size_t at)
     return bytes.substr(std::min(at, bytes.size()), end + kUnit - at);
 }
 
-// The value is a list of pairs, from and to, of which the second may be empty; so the empty text
-// that ends such a list elsewhere ends this one only in the first place.
-std::string WithoutMovesOf(std::string_view operations, const Text& from)
+// As the system writes a path there.
+std::string EntryOf(const Text& path)
 {
-    const std::string wanted = TextData("\\??\\" + from).bytes;
-    std::string kept;
+    return TextData("\\??\\" + path).bytes;
+}
+
+// Calls `see(from, to)` for each move. The value is a list of pairs of which the second may be
+// empty; so the empty text that ends such a list elsewhere ends this one only in the first place.
+template <class See>
+void EachMove(std::string_view operations, See see)
+{
     for (std::size_t at = 0; at < operations.size();) {
         const std::string_view first = TextAt(operations, at);
         if (first.size() <= kUnit)
             break;
         const std::string_view second = TextAt(operations, at + first.size());
-        if (first != wanted)
-            kept.append(first).append(second);
+        see(first, second);
         at += first.size() + second.size();
     }
+}
+
+std::string WithoutMovesOf(std::string_view operations, const Text& from)
+{
+    const std::string wanted = EntryOf(from);
+    std::string kept;
+    EachMove(operations, [&](std::string_view first, std::string_view second) {
+        if (first != wanted)
+            kept.append(first).append(second);
+    });
     return kept;
 }
 
@@ -54,6 +71,31 @@ void ForgetMoveAtRestart(Target& target, const Text& from)
     else if (kept.size() + kUnit < present->bytes.size())
         target.WriteValue(RestartMovesKey(), kRestartMoves,
                           {present->type, kept + std::string(kEnd)});
+}
+
+void RemoveWaitingFile(FileSystem& files, Target& target, const record::AtRestart& move)
+{
+    RemoveEvenReadOnly(files, move.from);
+    ForgetMoveAtRestart(target, move.from);
+    const Text place = LowerCase(ExtractDirectory(move.to) + "\\");
+    const Text folder = ExtractDirectory(move.from);
+    if (LowerCase(folder).starts_with(place) && files.List(folder).empty()) {
+        files.RemoveFolder(folder);
+        ForgetMoveAtRestart(target, folder);
+    }
+}
+
+bool IsRemovedAtRestart(const Target& target, const Text& path)
+{
+    const auto present = target.ReadValue(RestartMovesKey(), kRestartMoves);
+    if (!present)
+        return false;
+    const std::string wanted = EntryOf(path);
+    bool isRemoved = false;
+    EachMove(present->bytes, [&](std::string_view first, std::string_view second) {
+        isRemoved = isRemoved || (first == wanted && second.size() <= kUnit);
+    });
+    return isRemoved;
 }
 
 } // namespace quillon

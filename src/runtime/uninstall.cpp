@@ -2,11 +2,10 @@
 
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "platform/whole_file.h"
+#include "runtime/failure_reason.h"
 #include "runtime/file_installer.h"
 #include "runtime/ini_changes.h"
 #include "runtime/install_transaction.h"
-#include "runtime/journal_table.h"
 #include "runtime/planned_shortcuts.h"
 #include "runtime/recorded_paths.h"
 #include "runtime/restart_moves.h"
@@ -14,6 +13,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace quillon {
 
@@ -29,7 +29,7 @@ public:
     {
     }
 
-    ExitCode Run();
+    UninstallResult Run();
 
 private:
     enum class Part { AllButEntry, Entry };
@@ -66,10 +66,11 @@ private:
     void RemoveReplaced(std::size_t index);
     void RestoreBackup(const Text& path, const Text& backup);
     void ReleaseSharedFiles();
-    void SaveWithoutReleased();
     void RemoveSharedFile(const Text& path);
     void RemoveValue(const RegistryKey& key, const Text& name);
     void RemoveKeyIfEmpty(const RegistryKey& key);
+    void RemoveKeysThatAreEmptyByNow();
+    void NoteWhatIsNotEmpty();
     void RemoveKeyWithAllBelow(const RegistryKey& key);
     void UndoRestart(const record::AtRestart& move);
     void RemoveProductItself();
@@ -77,6 +78,9 @@ private:
     void RemoveFolder(const Text& folder);
     bool HoldsOnlyWhatGoes(const Text& folder) const;
     bool IsOfEntry(const JournalRecord& record) const;
+    void Stays(const Text& what, const Reason& reason);
+    void NoteLeft(const Text& what, const Text& why);
+    void LeaveToRestart(const Text& path);
     template <class Work>
     void Attempt(const Text& what, Work work);
 
@@ -87,8 +91,34 @@ private:
     const RecordedPaths paths_;
     const RegistryKey entry_;
     std::set<Text> goesAtRestart_; // in lower case
+    std::vector<LeftBehind> left_;
+    std::set<Text> named_; // what is in that list, in lower case
+    // What was not empty when its turn came.
+    std::vector<RegistryKey> keysLeft_;
+    std::vector<Text> foldersLeft_;
     bool partly_ = false;
 };
+
+// A path stands in several records where the product was installed more than once.
+void Uninstallation::NoteLeft(const Text& what, const Text& why)
+{
+    if (named_.insert(LowerCase(what)).second)
+        left_.push_back({what, why});
+}
+
+void Uninstallation::Stays(const Text& what, const Reason& reason)
+{
+    input_.log.Skipped(what, reason);
+    NoteLeft(what, input_.product.texts(reason));
+}
+
+void Uninstallation::LeaveToRestart(const Text& path)
+{
+    input_.target.MoveAtRestart(path, "");
+    goesAtRestart_.insert(LowerCase(path));
+    input_.log.Line(Message::LogRemovesAtRestart, path);
+    NoteLeft(path, input_.product.texts[Message::ReasonAtRestart]);
+}
 
 // One thing that can't be removed keeps nothing else from going.
 template <class Work>
@@ -99,24 +129,28 @@ void Uninstallation::Attempt(const Text& what, Work work)
     } catch (const std::exception& error) {
         partly_ = true;
         input_.log.CannotRemove(what, error);
+        NoteLeft(what, FailureReason(error, input_.product.texts));
     }
 }
 
 // The program, its journal and its entry in the system's list go when nothing else is left: whoever
 // is interrupted, or could not remove everything, can begin again.
-ExitCode Uninstallation::Run()
+UninstallResult Uninstallation::Run()
 {
     input_.ask.AddStatusLine(input_.product.texts[Message::UninstallRunning]);
     Attempt(input_.logPath, [&] { ReleaseSharedFiles(); });
     UndoAll(Part::AllButEntry);
     for (const record::AtRestart& move : paths_.Pending())
         Attempt(move.from, [&] { UndoRestart(move); });
+    RemoveKeysThatAreEmptyByNow();
     if (!partly_)
         UndoAll(Part::Entry);
     if (!partly_)
         Attempt(input_.logPath, [&] { RemoveProductItself(); });
     RemoveFolders();
-    return partly_ ? ExitCode::Failed : ExitCode::Done;
+    NoteWhatIsNotEmpty();
+    const ExitCode done = goesAtRestart_.empty() ? ExitCode::Done : ExitCode::RestartNeeded;
+    return {partly_ ? ExitCode::Failed : done, std::move(left_)};
 }
 
 void Uninstallation::UndoAll(Part part)
@@ -165,7 +199,7 @@ bool Uninstallation::IsInReach(const Text& path)
 {
     const auto reason = paths_.WhyOutOfReach(path);
     if (reason)
-        input_.log.Skipped(path, {*reason});
+        Stays(path, {*reason});
     return !reason;
 }
 
@@ -174,16 +208,14 @@ void Uninstallation::RemoveFile(const Text& path)
     if (!files_.FileExists(path) || !IsInReach(path))
         return;
     if (paths_.IsShared(path)) {
-        input_.log.Skipped(path, {Message::ReasonUsedByOthers});
+        Stays(path, {Message::ReasonUsedByOthers});
         return;
     }
     try {
         RemoveEvenReadOnly(files_, path);
         input_.log.Line(Message::LogRemoves, path);
     } catch (const RunError&) {
-        input_.target.MoveAtRestart(path, "");
-        goesAtRestart_.insert(LowerCase(path));
-        input_.log.Line(Message::LogRemovesAtRestart, path);
+        LeaveToRestart(path);
     }
 }
 
@@ -191,7 +223,7 @@ void Uninstallation::RemoveReplaced(std::size_t index)
 {
     const Text path = SubjectOf(records_[index]);
     if (paths_.WasInWindows(index))
-        input_.log.Skipped(path, {Message::ReasonWasInWindows});
+        Stays(path, {Message::ReasonWasInWindows});
     else if (!paths_.KeepsReplaced(index))
         RemoveFile(path);
 }
@@ -211,7 +243,7 @@ void Uninstallation::ReleaseSharedFiles()
 {
     if (paths_.ToRelease().empty())
         return;
-    SaveWithoutReleased();
+    ForgetSharedFiles({files_, input_.target, input_.logPath}, records_, paths_.ToRelease());
     for (const JournalRecord& record : records_) {
         const auto* const shared = std::get_if<record::Shared>(&record);
         const auto count =
@@ -221,21 +253,6 @@ void Uninstallation::ReleaseSharedFiles()
         if (count && *count > 1)
             input_.target.WriteValue(SharedFilesKey(), shared->path, NumberData(*count - 1));
     }
-}
-
-void Uninstallation::SaveWithoutReleased()
-{
-    std::set<Text> dropped;
-    for (const JournalRecord& record : records_)
-        if (std::holds_alternative<record::Shared>(record) &&
-            paths_.ToRelease().count(LowerCase(SubjectOf(record))) > 0)
-            dropped.insert(JournalLine(record));
-    Text kept;
-    for (const Text& line : SplitLines(ReadWholeFile(files_, input_.logPath)))
-        if (dropped.count(line) == 0 && !line.empty())
-            kept += line + Text(kLineBreak);
-    RewriteFile(files_, input_.logPath, kept);
-    input_.target.CloseToOthers(input_.logPath);
 }
 
 // The product that goes last takes a shared file along. Where the count has been lost nobody knows
@@ -259,7 +276,7 @@ void Uninstallation::Undo(const record::Value& value)
     else if (*present == value.data)
         input_.target.WriteValue(value.key, value.name, *value.former);
     else
-        input_.log.Skipped(KeyText(value.key) + " :: " + value.name, {Message::ReasonValueChanged});
+        Stays(KeyText(value.key) + " :: " + value.name, {Message::ReasonValueChanged});
 }
 
 void Uninstallation::RemoveValue(const RegistryKey& key, const Text& name)
@@ -276,10 +293,28 @@ void Uninstallation::RemoveKeyIfEmpty(const RegistryKey& key)
         return;
     if (!input_.target.SubKeys(key).empty() || !input_.target.ValueNames(key).empty()) {
         input_.log.Skipped(KeyText(key), {Message::ReasonKeyNotEmpty});
+        keysLeft_.push_back(key);
         return;
     }
     input_.target.RemoveKey(key);
     input_.log.Line(Message::LogRemovesRegistry, KeyText(key));
+}
+
+// What UNINSTALL= asks for may have emptied keys whose own turn came before.
+void Uninstallation::RemoveKeysThatAreEmptyByNow()
+{
+    for (const RegistryKey& key : std::exchange(keysLeft_, {}))
+        Attempt(KeyText(key), [&] { RemoveKeyIfEmpty(key); });
+}
+
+// A folder that several installations name was not empty at its first turn, but may be gone by now.
+void Uninstallation::NoteWhatIsNotEmpty()
+{
+    for (const Text& folder : foldersLeft_)
+        if (files_.DirExists(folder))
+            NoteLeft(folder, input_.product.texts[Message::ReasonFolderNotEmpty]);
+    for (const RegistryKey& key : keysLeft_)
+        NoteLeft(KeyText(key), input_.product.texts[Message::ReasonKeyNotEmpty]);
 }
 
 void Uninstallation::RemoveKeyWithAllBelow(const RegistryKey& key)
@@ -301,14 +336,7 @@ void Uninstallation::UndoRestart(const record::AtRestart& move)
         ResolvePath(move.from) == move.from && LowerCase(move.from).starts_with(place);
     if (!isBeside || !IsInReach(move.to))
         return;
-    RemoveEvenReadOnly(files_, move.from);
-    ForgetMoveAtRestart(input_.target, move.from);
-    // It may lie in a folder of its own beside the file.
-    const Text folder = ExtractDirectory(move.from);
-    if (LowerCase(folder).starts_with(place) && files_.List(folder).empty()) {
-        files_.RemoveFolder(folder);
-        ForgetMoveAtRestart(input_.target, folder);
-    }
+    RemoveWaitingFile(files_, input_.target, move);
     input_.log.Line(Message::LogTakesBackRestart, move.to);
 }
 
@@ -316,8 +344,8 @@ void Uninstallation::RemoveProductItself()
 {
     const Text uninstaller = UninstallerPath(mainFolder_);
     if (GoesWithProduct(files_, input_.logPath, uninstaller)) {
-        if (input_.removeProgram)
-            input_.removeProgram(uninstaller);
+        if (input_.running != nullptr)
+            input_.running->MoveAway(uninstaller);
         RemoveFile(uninstaller);
     }
     RemoveFile(input_.logPath);
@@ -335,11 +363,12 @@ void Uninstallation::RemoveFolder(const Text& folder)
     if (!files_.DirExists(folder))
         return;
     if (paths_.IsBehindLink(folder)) {
-        input_.log.Skipped(folder, {Message::ReasonLinkInPath});
+        Stays(folder, {Message::ReasonLinkInPath});
         return;
     }
     if (!HoldsOnlyWhatGoes(folder)) {
         input_.log.Skipped(folder, {Message::ReasonFolderNotEmpty});
+        foldersLeft_.push_back(folder);
         return;
     }
     if (files_.List(folder).empty()) {
@@ -347,9 +376,7 @@ void Uninstallation::RemoveFolder(const Text& folder)
         input_.log.Line(Message::LogRemovesFolder, folder);
         return;
     }
-    input_.target.MoveAtRestart(folder, "");
-    goesAtRestart_.insert(LowerCase(folder));
-    input_.log.Line(Message::LogRemovesAtRestart, folder);
+    LeaveToRestart(folder);
 }
 
 bool Uninstallation::HoldsOnlyWhatGoes(const Text& folder) const
@@ -362,56 +389,9 @@ bool Uninstallation::HoldsOnlyWhatGoes(const Text& folder) const
 
 } // namespace
 
-std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, const Text& logPath)
-{
-    if (!files.FileExists(logPath))
-        return std::nullopt;
-    auto records = ReadInstallJournal(ReadWholeFile(files, logPath));
-    if (!records)
-        return std::nullopt;
-    InstalledProduct product;
-    for (const JournalRecord& record : *records) {
-        if (const auto* const named = std::get_if<record::Product>(&record))
-            product.name = named->name;
-        const auto* const message = std::get_if<record::Message>(&record);
-        for (int i = 0; message && i < int(Message::Count); ++i)
-            if (IsOfUninstaller(Message(i)) && message->key == KeyOf(Message(i)).key)
-                product.texts.Set(Message(i), message->text);
-    }
-    product.records = std::move(*records);
-    return product;
-}
-
-ExitCode Uninstall(const UninstallInput& input)
+UninstallResult Uninstall(const UninstallInput& input)
 {
     return Uninstallation(input).Run();
-}
-
-bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& program)
-{
-    const Text wanted = files.ShortPath(logPath);
-    const std::vector<Text> logs = InstallJournalsIn(files, ExtractDirectory(program));
-    return std::any_of(logs.begin(), logs.end(), [&](const Text& log) {
-        return EqualIgnoreCase(files.ShortPath(log), wanted);
-    });
-}
-
-bool IsBelievable(const FileSystem& files, const Target& target, const Text& logPath,
-                  const Text& program)
-{
-    return IsInSameFolder(files, logPath, program) &&
-           (target.IsOfTrustedUser(logPath) || target.HaveSameOwner(logPath, program));
-}
-
-bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& uninstaller)
-{
-    const Text folder = ExtractDirectory(logPath);
-    const Text own = files.ShortPath(UninstallerPath(folder));
-    if (!EqualIgnoreCase(files.ShortPath(uninstaller), own))
-        return false;
-    const std::vector<Text> logs = InstallJournalsIn(files, folder);
-    return std::all_of(logs.begin(), logs.end(),
-                       [&](const Text& log) { return EqualIgnoreCase(log, logPath); });
 }
 
 } // namespace quillon

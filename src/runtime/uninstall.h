@@ -13,23 +13,20 @@
 #include "platform/host.h"
 #include "runtime/action_log.h"
 #include "runtime/exit_codes.h"
-#include "runtime/install_journal.h"
-#include "runtime/language_file.h"
-#include "runtime/target.h"
-
-#include <functional>
-#include <optional>
+#include "runtime/installed_product.h"
 
 namespace quillon {
 
-struct InstalledProduct {
-    Text name;
-    LanguageTexts texts; // with what the installation was told to show
-    std::vector<JournalRecord> records;
+/// The file of the running program, which can't be removed like any other.
+class RunningProgram {
+public:
+    virtual ~RunningProgram() = default;
+    /// Gets it out of the main folder. Nothing happens where it is not the one at `uninstaller`, or
+    /// where it can't be moved.
+    virtual void MoveAway(const Text& uninstaller) = 0;
+    /// What was moved goes as soon as the program has ended.
+    virtual void RemoveAfterEnd() = 0;
 };
-
-/// Nothing where the file is missing or no log.
-std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, const Text& logPath);
 
 struct UninstallInput {
     Host& host;
@@ -38,26 +35,25 @@ struct UninstallInput {
     ActionLog& log;
     Text logPath;
     const InstalledProduct& product;
-    /// Gets the running program's own file out of the main folder, if it is that one. Nothing where
-    /// the file can be removed like any other.
-    std::function<void(const Text& uninstaller)> removeProgram = {};
+    RunningProgram* running = nullptr;
 };
 
-/// `Failed` where something could not be removed; the rest is, and the product stays in the
-/// system's list, so that it can be tried again.
-ExitCode Uninstall(const UninstallInput& input);
+/// Something that is still there, and why, in the language of the installation.
+struct LeftBehind {
+    Text what;
+    Text why;
 
-/// Whether the log is one of a product in the folder of that program.
-bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& program);
+    bool operator==(const LeftBehind&) const = default;
+};
 
-/// The uninstaller believes no other log: it would remove whatever a file says that somebody has
-/// given it. One that is beside it must not be of a user with fewer rights either, unless that
-/// user has made the program as well.
-bool IsBelievable(const FileSystem& files, const Target& target, const Text& logPath,
-                  const Text& program);
+struct UninstallResult {
+    /// `Failed` where something could not be removed; the rest is, and the product stays in the
+    /// system's list, so that it can be tried again. `RestartNeeded` where something goes when the
+    /// machine starts next.
+    ExitCode code = ExitCode::Done;
+    std::vector<LeftBehind> left;
+};
 
-/// Products that share a main folder share the uninstaller in it: true where this product's going
-/// takes along the program at `uninstaller`.
-bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& uninstaller);
+UninstallResult Uninstall(const UninstallInput& input);
 
 } // namespace quillon

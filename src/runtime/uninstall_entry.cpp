@@ -2,9 +2,39 @@
 
 #include "runtime/planned_shortcuts.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
+
+const section::Version& VersionOf(const EntryFacts& facts)
+{
+    return facts.input.setup.project.Version;
+}
+
+const Text& ProductOf(const EntryFacts& facts)
+{
+    return facts.input.setup.project.ProjectName.ProjectName;
+}
+
+Text ShownName(const EntryFacts& facts)
+{
+    const Text& name = VersionOf(facts).ProductName;
+    return name.empty() ? ProductOf(facts) : name;
+}
+
+Text ShownVersion(const EntryFacts& facts)
+{
+    const Text& ofProgram = facts.input.setup.XProductVersion;
+    return ofProgram.empty() ? VersionOf(facts).ProductVersion : ofProgram;
+}
+
+Text Command(const EntryFacts& facts)
+{
+    const InstallPlan& plan = facts.input.plan;
+    return "\"" + UninstallerPath(plan.mainFolder) + "\" \"" + plan.installLog + "\"";
+}
 
 // "20040301"
 Text CompactDate(const LocalTime& time)
@@ -12,13 +42,35 @@ Text CompactDate(const LocalTime& time)
     return ReplaceAll(DateText(time), "-", "");
 }
 
-std::uint32_t InstalledKilobytes(const InstallPlan& plan)
+// The list counts in kilobytes; what is larger than it can count is as much as it can.
+RegistryData Kilobytes(const EntryFacts& facts)
 {
-    std::uint64_t bytes = 0;
-    for (const PlannedFile& file : plan.files)
-        bytes += file.row->size;
-    return static_cast<std::uint32_t>((bytes + 1023) / 1024);
+    constexpr std::uint64_t kMost = 0xFFFFFFFF;
+    return NumberData(
+        static_cast<std::uint32_t>(std::min((facts.installedBytes + 1023) / 1024, kMost)));
 }
+
+RegistryData One(const EntryFacts&)
+{
+    return NumberData(1);
+}
+
+// A project names no address of its maker, so there is none to show.
+// clang-format off
+constexpr EntryValue kValues[] = {
+    {"DisplayName",          [](const EntryFacts& facts) { return TextData(ShownName(facts)); }},
+    {"DisplayVersion",       [](const EntryFacts& facts) { return TextData(ShownVersion(facts)); }},
+    {"Publisher",            [](const EntryFacts& facts) { return TextData(VersionOf(facts).CompanyName); }},
+    {"UninstallString",      [](const EntryFacts& facts) { return TextData(Command(facts)); }},
+    {"QuietUninstallString", [](const EntryFacts& facts) { return TextData(Command(facts) + " /S"); }},
+    {"InstallLocation",      [](const EntryFacts& facts) { return TextData(facts.input.plan.mainFolder); }},
+    {"DisplayIcon",          [](const EntryFacts& facts) { return TextData(UninstallerPath(facts.input.plan.mainFolder)); }},
+    {"InstallDate",          [](const EntryFacts& facts) { return TextData(CompactDate(facts.input.host.machine.Now())); }},
+    {"EstimatedSize",        Kilobytes},
+    {"NoModify",             One},
+    {"NoRepair",             One},
+};
+// clang-format on
 
 } // namespace
 
@@ -28,29 +80,20 @@ RegistryKey UninstallEntryKey(const Text& product)
             "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + AsFileName(product)};
 }
 
-void WriteUninstallEntry(const InstallInput& input, InstallTransaction& changes)
+std::span<const EntryValue> UninstallEntryValues()
 {
-    const section::Version& version = input.setup.project.Version;
-    const Text& project = input.setup.project.ProjectName.ProjectName;
-    const Text uninstaller = UninstallerPath(input.plan.mainFolder);
-    const Text command = "\"" + uninstaller + "\" \"" + input.plan.installLog + "\"";
-    const RegistryKey key = UninstallEntryKey(project);
-    const auto write = [&](const char* name, const Text& text) {
-        if (!text.empty())
-            changes.WriteValue(key, name, TextData(text));
-    };
-    write("DisplayName", version.ProductName.empty() ? project : version.ProductName);
-    write("DisplayVersion", input.setup.XProductVersion.empty() ? version.ProductVersion
-                                                                : input.setup.XProductVersion);
-    write("Publisher", version.CompanyName);
-    write("UninstallString", command);
-    write("QuietUninstallString", command + " /S");
-    write("InstallLocation", input.plan.mainFolder);
-    write("DisplayIcon", uninstaller);
-    write("InstallDate", CompactDate(input.host.machine.Now()));
-    changes.WriteValue(key, "EstimatedSize", NumberData(InstalledKilobytes(input.plan)));
-    changes.WriteValue(key, "NoModify", NumberData(1));
-    changes.WriteValue(key, "NoRepair", NumberData(1));
+    return kValues;
+}
+
+void WriteUninstallEntry(const EntryFacts& facts, InstallTransaction& changes)
+{
+    const RegistryKey key = UninstallEntryKey(ProductOf(facts));
+    const RegistryData none = TextData("");
+    for (const EntryValue& value : kValues)
+        if (const RegistryData data = value.data(facts); data == none)
+            changes.RemoveValue(key, value.name);
+        else
+            changes.WriteValue(key, value.name, data);
 }
 
 } // namespace quillon

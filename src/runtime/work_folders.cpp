@@ -19,6 +19,7 @@ constexpr const char* kFilesOfASetup[] = {RuntimePrograms::kSetup.name,
                                           RuntimePrograms::kRegistryHelper.inPackage,
                                           RuntimePrograms::kSecondRegistryHelper.inPackage,
                                           RuntimePrograms::kUninstaller.inPackage,
+                                          kMovedUninstaller,
                                           kFileContainerName};
 
 // "QN123456.TMP"

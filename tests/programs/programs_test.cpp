@@ -134,6 +134,102 @@ TEST(SetupRuntime, ImportsOnlyWhatWindowsTakesFromItsOwnFolder)
             EXPECT_EQ(ImportsOf(folder / name), safe) << folder / name;
 }
 
+unsigned DllCharacteristics(const std::string& bytes)
+{
+    return NumberAt(bytes, NumberAt(bytes, 0x3C, 4) + 24 + 70, 2);
+}
+
+struct Directory {
+    unsigned address = 0;
+    unsigned size = 0;
+};
+
+Directory DirectoryOf(const std::string& bytes, unsigned number)
+{
+    const std::size_t options = NumberAt(bytes, 0x3C, 4) + 24;
+    const std::size_t first = options + (NumberAt(bytes, options, 2) == kPe32Plus ? 112 : 96);
+    return {NumberAt(bytes, first + 8 * number, 4), NumberAt(bytes, first + 8 * number + 4, 4)};
+}
+
+template <class Check>
+void ForEachProgram(Check check)
+{
+    for (const fs::path& folder : {kRelease32, kRelease64})
+        for (const char* name : kPrograms) {
+            SCOPED_TRACE(folder / name);
+            const std::string bytes = BytesOf(folder / name);
+            ASSERT_TRUE(bytes.starts_with("MZ"));
+            const std::size_t options = NumberAt(bytes, 0x3C, 4) + 24;
+            check(bytes, NumberAt(bytes, options, 2) == kPe32Plus);
+        }
+}
+
+// Without its relocations a program that says so would be loaded at the same place each time.
+TEST(SetupRuntime, IsLoadedWhereNobodyCanKnow)
+{
+    constexpr unsigned kDynamicBase = 0x0040;
+    constexpr unsigned kHighEntropy = 0x0020;
+    constexpr unsigned kRelocationsStripped = 0x0001;
+    constexpr unsigned kRelocations = 5;
+    ForEachProgram([&](const std::string& bytes, bool isWide) {
+        const unsigned traits = DllCharacteristics(bytes);
+        EXPECT_NE(traits & kDynamicBase, 0U);
+        EXPECT_EQ((traits & kHighEntropy) != 0, isWide);
+        EXPECT_EQ(NumberAt(bytes, NumberAt(bytes, 0x3C, 4) + 22, 2) & kRelocationsStripped, 0U);
+        const Directory relocations = DirectoryOf(bytes, kRelocations);
+        EXPECT_GT(relocations.size, 8U);
+        EXPECT_NE(PositionOf(bytes, relocations.address), 0U);
+    });
+}
+
+TEST(SetupRuntime, RunsNoDataAsCode)
+{
+    constexpr unsigned kNxCompatible = 0x0100;
+    constexpr unsigned kExecutes = 0x20000000;
+    constexpr unsigned kWrites = 0x80000000;
+    ForEachProgram([&](const std::string& bytes, bool) {
+        EXPECT_NE(DllCharacteristics(bytes) & kNxCompatible, 0U);
+        const std::size_t start = NumberAt(bytes, 0x3C, 4);
+        const std::size_t first = start + 24 + NumberAt(bytes, start + 20, 2);
+        for (unsigned i = 0; i < NumberAt(bytes, start + 6, 2); ++i) {
+            const unsigned traits = NumberAt(bytes, first + 40 * i + 36, 4);
+            EXPECT_FALSE((traits & kExecutes) != 0 && (traits & kWrites) != 0) << "section " << i;
+        }
+    });
+}
+
+// A 32-bit program that does not say so takes any address on its stack for a handler.
+TEST(SetupRuntime, TakesNoHandlerOfExceptionsFromItsStack)
+{
+    constexpr unsigned kNoHandlers = 0x0400;
+    constexpr unsigned kHandlerTable = 3;
+    ForEachProgram([&](const std::string& bytes, bool isWide) {
+        if (isWide)
+            EXPECT_GT(DirectoryOf(bytes, kHandlerTable).size, 0U);
+        else
+            EXPECT_NE(DllCharacteristics(bytes) & kNoHandlers, 0U);
+    });
+}
+
+// What Windows loads for a program before its first line comes from the system's folder, too.
+TEST(SetupRuntime, HasALoadConfiguration)
+{
+    constexpr unsigned kLoadConfiguration = 10;
+    constexpr unsigned kSystemFolderOnly = 0x0800;
+    constexpr unsigned kNoSecurityCookie = 0x0800;
+    ForEachProgram([&](const std::string& bytes, bool isWide) {
+        const Directory announced = DirectoryOf(bytes, kLoadConfiguration);
+        const std::size_t at = PositionOf(bytes, announced.address);
+        ASSERT_NE(at, 0U);
+        // Windows XP expects this size in the directory of a 32-bit program, whatever follows.
+        EXPECT_EQ(announced.size, isWide ? 148U : 64U);
+        EXPECT_EQ(NumberAt(bytes, at, 4), isWide ? 148U : 92U);
+        EXPECT_EQ(NumberAt(bytes, at + 4, 4), 0U);
+        EXPECT_EQ(NumberAt(bytes, at + (isWide ? 78 : 54), 2), kSystemFolderOnly);
+        EXPECT_EQ(NumberAt(bytes, at + (isWide ? 144 : 88), 4), kNoSecurityCookie);
+    });
+}
+
 // Many a machine that is no Windows has a Wine for 64-bit programs alone.
 TEST(SetupRuntime, HasItsTwinCopiedForTestRunsBesideIt)
 {

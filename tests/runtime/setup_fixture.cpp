@@ -168,7 +168,9 @@ ExitCode SetupFixture::UninstallProduct(const Text& path)
     }
     SilentAsk silent;
     ActionLog log(files, memory.machine, kLogFile, product->texts);
-    return Uninstall({host, target, silent, log, path, *product});
+    UninstallResult result = Uninstall({host, target, silent, log, path, *product});
+    left = std::move(result.left);
+    return result.code;
 }
 
 MachineState SetupFixture::State() const

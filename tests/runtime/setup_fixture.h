@@ -5,6 +5,7 @@
 #include "memory_target.h"
 #include "runtime/setup_program.h"
 #include "runtime/silent_ask.h"
+#include "runtime/uninstall.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"
 
@@ -153,7 +154,8 @@ protected:
     Ask* ask = nullptr; // null: silent
     PageView* pages = nullptr;
     bool otherSetupRuns = false;
-    std::vector<Text> started; // a file, and its arguments behind a blank
+    std::vector<LeftBehind> left; // what UninstallProduct has told to be there still
+    std::vector<Text> started;    // a file, and its arguments behind a blank
 };
 
 } // namespace quillon::test

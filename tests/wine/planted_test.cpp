@@ -119,6 +119,32 @@ TEST(PlantedLibraries, AreNotTakenByThePagesAndTheScreen)
     EXPECT_EQ(Loaded(prefix), "");
 }
 
+TEST(PlantedLibraries, AreNotTakenByTheWindowsOfTheUninstaller)
+{
+    SampleProduct product;
+    const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
+    const WinePrefix prefix;
+    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
+              0U);
+    prefix.Stop();
+    ASSERT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
+    const fs::path mainFolder = prefix.OnHost("C:\\Program Files\\Provpaket Åäö");
+    PlantIn(mainFolder);
+    PlantIn(prefix.OnHost("C:\\windows\\temp"));
+    const fs::path driver = WorkFolder() / "drive_setup.exe";
+    fs::copy_file(TestProgramFolder() / "drive_setup.exe", driver, fs::copy_options::skip_existing);
+    WriteBytes(
+        prefix.DriveC() / "script.txt",
+        "run \"C:\\Program Files\\Provpaket Åäö\\QNXUNIN.EXE\"\n"
+        "list Vill du ta bort Provpaket Åäö från datorn? Det här tas bort:\npress 1\n"
+        "list Provpaket Åäö har tagits bort från datorn. Det här finns kvar:\npress 1\nend\n");
+    EXPECT_EQ(prefix.Run(OnZ(driver), R"(C:\script.txt C:\driven.txt)"), 0U);
+    EXPECT_EQ(ReadBytes(prefix.DriveC() / "driven.txt"), "code 0\n");
+    prefix.WaitForAll();
+    EXPECT_FALSE(fs::exists(mainFolder / "QNXUNIN.EXE"));
+    EXPECT_EQ(Loaded(prefix), "");
+}
+
 TEST(PlantedLibraries, AreNotTakenByTheHelpersAndByATest)
 {
     const WinePrefix prefix;

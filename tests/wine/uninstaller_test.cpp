@@ -21,7 +21,7 @@ class Uninstaller : public testing::Test {
 protected:
     void Install()
     {
-        const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
+        package = MakePackage(product.Order({"--medium", "cd"}));
         ASSERT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
     }
     unsigned Uninstall(const std::string& arguments)
@@ -44,7 +44,16 @@ protected:
         return left;
     }
 
+    /// What the driver logs of the script; both are files of the prefix.
+    std::string Drive(const std::string& driver, const std::string& script)
+    {
+        WriteBytes(prefix.DriveC() / "script.txt", script);
+        EXPECT_EQ(prefix.Run(driver, R"(C:\script.txt C:\driven.txt)"), 0U);
+        return ReadBytes(prefix.DriveC() / "driven.txt");
+    }
+
     SampleProduct product;
+    fs::path package;
     const WinePrefix prefix;
 };
 
@@ -117,6 +126,123 @@ TEST_F(Uninstaller, TakesSwitchesThatAreQuotedAsAWhole)
     prefix.WaitForAll();
     EXPECT_FALSE(fs::exists(Main()));
     EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\en logg.txt")));
+}
+
+// Whoever starts it may go on as soon as its process has ended.
+TEST_F(Uninstaller, HasDoneItsWorkWhenItEnds)
+{
+    Install();
+    EXPECT_EQ(prefix.Run(std::string(kMainFolder) + "\\QNXUNIN.EXE", "/S"), 0U);
+    EXPECT_FALSE(fs::exists(Main()));
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
+    prefix.WaitForAll();
+    EXPECT_TRUE(fs::exists(Main() / "QNXUNIN.EXE"));
+}
+
+TEST_F(Uninstaller, TellsWhereNothingIsInstalled)
+{
+    Install();
+    fs::remove(Main() / "QNXUNIN.LOG");
+    EXPECT_EQ(Uninstall(""), 1605U);
+}
+
+// The driver is a file of the product, and runs.
+TEST_F(Uninstaller, LeavesAProgramThatRunsToTheNextStart)
+{
+    product.Add("Data", "driver.exe", ReadBytes(TestProgramFolder() / "drive_setup.exe"));
+    Install();
+    const std::string uninstaller = std::string(kMainFolder) + "\\QNXUNIN.EXE";
+    EXPECT_EQ(Drive(std::string(kMainFolder) + "\\Data\\driver.exe",
+                    "other \"" + uninstaller + "\" /S\n"),
+              "code 3010\n");
+    prefix.WaitForAll();
+    EXPECT_TRUE(fs::exists(Main() / "Data" / "driver.exe"));
+    EXPECT_FALSE(fs::exists(Main() / "QNXUNIN.EXE"));
+    EXPECT_FALSE(RegistryText(prefix).HasKey(kEntry));
+    prefix.Restart();
+    EXPECT_FALSE(fs::exists(Main()));
+}
+
+class UninstallerWindows : public Uninstaller {
+protected:
+    // There is no screen, and Wine has to be told so, or it makes no window.
+    void SetUp() override
+    {
+        ASSERT_EQ(
+            prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"), 0U);
+        prefix.Stop();
+        Install();
+    }
+
+    std::string DriveUninstaller(const std::string& script)
+    {
+        const fs::path driver = WorkFolder() / "drive_setup.exe";
+        fs::copy_file(TestProgramFolder() / "drive_setup.exe", driver,
+                      fs::copy_options::skip_existing);
+        const std::string run = "run \"" + std::string(kMainFolder) + "\\QNXUNIN.EXE\"\n";
+        std::string log = Drive(OnZ(driver), run + script);
+        prefix.WaitForAll();
+        return log;
+    }
+
+    const std::string question =
+        "list Vill du ta bort Provpaket Åäö från datorn? Det här tas bort:\n";
+};
+
+TEST_F(UninstallerWindows, ShowWhatGoesAndCanBeCancelled)
+{
+    const std::string log = DriveUninstaller(question + "controls\nread 102\npress 2\nend\n");
+    EXPECT_THAT(log, HasSubstr("Edit 102 tab"));
+    EXPECT_THAT(log, HasSubstr("Button 1 tab &Avinstallera\nButton 2 tab Avbryt\n"));
+    EXPECT_THAT(log, HasSubstr(std::string(kMainFolder) + "\\Stort\\Stor fil.bin|"));
+    EXPECT_THAT(log, HasSubstr("|" + std::string(kMainFolder) + "\\QNXUNIN.EXE|"));
+    EXPECT_THAT(log, HasSubstr("HKEY_LOCAL_MACHINE\\SOFTWARE\\Prov\\Djup\\Nyckel :: Tal|"));
+    EXPECT_THAT(log, HasSubstr("code 1602\n"));
+    EXPECT_TRUE(fs::exists(Main() / "Stort" / "Stor fil.bin"));
+    EXPECT_TRUE(RegistryText(prefix).HasKey(kEntry));
+}
+
+TEST_F(UninstallerWindows, AreClosedByTheFrameAsByCancel)
+{
+    EXPECT_EQ(DriveUninstaller(question + "close\nend\n"), "code 1602\n");
+    EXPECT_TRUE(fs::exists(Main() / "QNXUNIN.EXE"));
+}
+
+TEST_F(UninstallerWindows, TellThatTheProductIsGone)
+{
+    EXPECT_EQ(
+        DriveUninstaller(question + "press 1\nbox 1\nend\n"),
+        "Avinstallation av Provpaket Åäö: Provpaket Åäö har tagits bort från datorn.\ncode 0\n");
+    EXPECT_FALSE(fs::exists(Main()));
+    EXPECT_EQ(LeftInTemp(), "");
+}
+
+TEST_F(UninstallerWindows, ListWhatStaysAndWhy)
+{
+    WriteBytes(Main() / "Data" / "egen.txt", "användarens");
+    const std::string log = DriveUninstaller(
+        question +
+        "press 1\nlist Provpaket Åäö har tagits bort från datorn. Det här finns kvar:\nread 102\n"
+        "controls\npress 1\nend\n");
+    EXPECT_THAT(log, HasSubstr(std::string(kMainFolder) + "\\Data: mappen är inte tom"));
+    EXPECT_THAT(log, testing::Not(HasSubstr("Button 2")));
+    EXPECT_THAT(log, HasSubstr("code 0\n"));
+    EXPECT_EQ(ReadBytes(Main() / "Data" / "egen.txt"), "användarens");
+}
+
+TEST_F(UninstallerWindows, StayAwayWhileAnotherOneRuns)
+{
+    EXPECT_EQ(DriveUninstaller(question + "other \"" + std::string(kMainFolder) +
+                               "\\QNXUNIN.EXE\" /S\nother \"" + OnZ(package / "SETUP.EXE") +
+                               "\" /S\npress 2\nend\n"),
+              "code 1618\ncode 1618\ncode 1602\n");
+    EXPECT_TRUE(fs::exists(Main() / "QNXUNIN.EXE"));
+}
+
+TEST_F(UninstallerWindows, ShowNothingButProgressWhereNobodyIsAsked)
+{
+    EXPECT_EQ(prefix.Run(std::string(kMainFolder) + "\\QNXUNIN.EXE", "/passive"), 0U);
+    EXPECT_FALSE(fs::exists(Main()));
 }
 
 TEST(QuotedSwitches, AreTakenByTheStarter)

@@ -6,6 +6,7 @@
 //   other COMMAND        runs another program to its end and logs its code
 //   page TITLE           waits until the page of that title is shown
 //   screen               waits until the screen behind the pages is shown; then it is the page
+//   list TEXT            waits until a list under that text is shown; then it is the page
 //   escape               presses Esc on the screen
 //   press ID             clicks the button
 //   type ID TEXT         puts the text into the line and leaves it
@@ -23,6 +24,7 @@
 #include "platform/whole_file.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
+#include "runtime/win32/list_window.h"
 
 #include <windows.h>
 
@@ -39,6 +41,7 @@ struct Search {
     const wchar_t* kind;
     std::wstring title; // empty: any
     HWND found;
+    int textId = 0; // of the control that has the title; 0: the window itself
 };
 
 std::wstring TextOf(HWND window)
@@ -60,9 +63,10 @@ std::wstring KindOf(HWND window)
 BOOL CALLBACK Match(HWND window, LPARAM data)
 {
     auto& search = *reinterpret_cast<Search*>(data);
+    const HWND told = search.textId == 0 ? window : GetDlgItem(window, search.textId);
     const bool fits = IsWindowVisible(window) && IsWindowEnabled(window) &&
                       KindOf(window) == search.kind &&
-                      (search.title.empty() || TextOf(window) == search.title);
+                      (search.title.empty() || TextOf(told) == search.title);
     if (fits)
         search.found = window;
     return !fits;
@@ -106,6 +110,8 @@ private:
             return WaitFor(L"QuillonPages", Wide(rest), page_);
         if (verb == "screen")
             return WaitFor(L"QuillonScreen", {}, page_);
+        if (verb == "list")
+            return WaitFor(L"QuillonList", Wide(rest), page_, kListTextId);
         if (verb == "escape")
             return PostMessageW(page_, WM_KEYDOWN, VK_ESCAPE, 1) != FALSE;
         if (verb == "box")
@@ -182,10 +188,10 @@ private:
 
     // The page before is still there for a moment, so that one of the same title is another one
     // only once its controls are new: a script asks for titles that differ.
-    bool WaitFor(const wchar_t* kind, const std::wstring& title, HWND& window)
+    bool WaitFor(const wchar_t* kind, const std::wstring& title, HWND& window, int textId = 0)
     {
         for (int waited = 0; waited < kMaxWait; waited += kLook) {
-            Search search{kind, title, nullptr};
+            Search search{kind, title, nullptr, textId};
             EnumWindows(Match, reinterpret_cast<LPARAM>(&search));
             window = search.found;
             if (window != nullptr)

@@ -8,11 +8,12 @@
 #include "platform/win32/win_machine.h"
 #include "runtime/failure_reason.h"
 #include "runtime/pages/design_files.h"
+#include "runtime/passive_ask.h"
 #include "runtime/setup_program.h"
-#include "runtime/silent_ask.h"
 #include "runtime/test_mode.h"
 #include "runtime/win32/library_container.h"
 #include "runtime/win32/message_box.h"
+#include "runtime/win32/only_setup.h"
 #include "runtime/win32/page_window.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
@@ -35,45 +36,6 @@ Text UnzipLibrary(const FileSystem& files, const Text& packageFolder)
                ? own
                : JoinPath(packageFolder, RuntimePrograms::kUnzipLibrary.inPackage);
 }
-
-// One setup at a time: two would count the same shared files and replace the same system files.
-class OnlySetup {
-public:
-    OnlySetup() : mutex_(CreateMutexW(nullptr, FALSE, L"Global\\QuillonSetup"))
-    {
-        const DWORD found = GetLastError();
-        isNot_ = found == ERROR_ALREADY_EXISTS || found == ERROR_ACCESS_DENIED;
-    }
-    ~OnlySetup()
-    {
-        if (mutex_ != nullptr)
-            CloseHandle(mutex_);
-    }
-    OnlySetup(const OnlySetup&) = delete;
-    OnlySetup& operator=(const OnlySetup&) = delete;
-
-    bool IsNot() const { return isNot_; }
-
-private:
-    HANDLE mutex_;
-    bool isNot_ = false;
-};
-
-// Progress, and nobody to ask.
-class PassiveAsk : public SilentAsk {
-public:
-    explicit PassiveAsk(Ask& window) : window_(window) {}
-
-    void AddStatusLine(const Text& line) override { window_.AddStatusLine(line); }
-    void ShowProgress(std::uint64_t done, std::uint64_t total) override
-    {
-        window_.ShowProgress(done, total);
-    }
-    void ProcessEvents() override { window_.ProcessEvents(); }
-
-private:
-    Ask& window_;
-};
 
 // Under /S nobody is led anywhere.
 class NoPages : public PageView {

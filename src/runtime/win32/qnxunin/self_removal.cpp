@@ -6,6 +6,7 @@
 #include "platform/win32/open_file.h"
 #include "platform/win32/wide_text.h"
 #include "runtime/win32/private_folder.h"
+#include "runtime/work_folders.h"
 
 #include <windows.h>
 
@@ -18,7 +19,6 @@ namespace quillon {
 
 namespace {
 
-constexpr const char* kMovedProgram = "QNXUNIN.TMP";
 constexpr const char* kCleaner = RuntimePrograms::kUninstaller.name;
 constexpr std::string_view kSwitch =
     "/CLEAN="; // <the first one's process>,<the cleaner's own file>
@@ -91,20 +91,20 @@ void SelfRemoval::MoveAway(const Text& uninstaller)
     if (!EqualIgnoreCase(host_.files.ShortPath(ProgramPath()), host_.files.ShortPath(uninstaller)))
         return;
     const Text folder = MakePrivateFolder(host_);
-    const Text away = JoinPath(folder, kMovedProgram);
+    const Text away = JoinPath(folder, kMovedUninstaller);
     if (MoveFileExW(WidePath(uninstaller).c_str(), WidePath(away).c_str(), 0))
         folder_ = folder;
     else
         RemoveEmpty(folder);
 }
 
-void SelfRemoval::StartCleaner() const
+void SelfRemoval::RemoveAfterEnd()
 {
     if (folder_.empty())
         return;
     const Text cleaner = JoinPath(folder_, kCleaner);
-    if (!CopyFileW(WidePath(JoinPath(folder_, kMovedProgram)).c_str(), WidePath(cleaner).c_str(),
-                   TRUE))
+    if (!CopyFileW(WidePath(JoinPath(folder_, kMovedUninstaller)).c_str(),
+                   WidePath(cleaner).c_str(), TRUE))
         return;
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     const FileHandle file(CreateFileW(WidePath(cleaner).c_str(), GENERIC_READ | DELETE,
@@ -138,7 +138,7 @@ std::optional<int> CleanUpForParent(std::string_view commandLine)
     // Without a parent that waits to be followed, somebody else has started this.
     if (WaitForSingleObject(handle(numbers), INFINITE) != WAIT_OBJECT_0)
         return 1;
-    if (!Attempt([] { return Delete(JoinPath(ProgramFolder(), kMovedProgram)); }))
+    if (!Attempt([] { return Delete(JoinPath(ProgramFolder(), kMovedUninstaller)); }))
         return 1;
     RemoveOwnFolder(handle(numbers.substr(comma + 1)));
     return 0;

@@ -3,21 +3,18 @@
 // second copy of the program waits for this one's end and deletes what is left.
 #pragma once
 
-#include "platform/host.h"
+#include "runtime/uninstall.h"
 
 #include <optional>
 
 namespace quillon {
 
-class SelfRemoval {
+class SelfRemoval : public RunningProgram {
 public:
     explicit SelfRemoval(Host& host) : host_(host) {}
 
-    /// Nothing happens where `uninstaller` is not the running program, or can't be moved, from one
-    /// drive to another.
-    void MoveAway(const Text& uninstaller);
-    /// To be called last; nothing happens where nothing was moved.
-    void StartCleaner() const;
+    void MoveAway(const Text& uninstaller) override;
+    void RemoveAfterEnd() override;
 
 private:
     Host& host_;

@@ -1,0 +1,76 @@
+#include "runtime/installed_product.h"
+
+#include "helpers/windows_path.h"
+#include "platform/whole_file.h"
+#include "runtime/ini_changes.h"
+#include "runtime/journal_table.h"
+#include "runtime/planned_shortcuts.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, const Text& logPath)
+{
+    if (!files.FileExists(logPath))
+        return std::nullopt;
+    auto records = ReadInstallJournal(ReadWholeFile(files, logPath));
+    if (!records)
+        return std::nullopt;
+    InstalledProduct product;
+    for (const JournalRecord& record : *records) {
+        if (const auto* const named = std::get_if<record::Product>(&record))
+            product.name = named->name;
+        const auto* const message = std::get_if<record::Message>(&record);
+        for (int i = 0; message && i < int(Message::Count); ++i)
+            if (IsOfUninstaller(Message(i)) && message->key == KeyOf(Message(i)).key)
+                product.texts.Set(Message(i), message->text);
+    }
+    product.records = std::move(*records);
+    return product;
+}
+
+void ForgetSharedFiles(const LogToRewrite& log, const std::vector<JournalRecord>& records,
+                       const std::set<Text>& paths)
+{
+    std::set<Text> dropped;
+    for (const JournalRecord& record : records)
+        if (std::holds_alternative<record::Shared>(record) &&
+            paths.count(LowerCase(SubjectOf(record))) > 0)
+            dropped.insert(JournalLine(record));
+    Text kept;
+    for (const Text& line : SplitLines(ReadWholeFile(log.files, log.path)))
+        if (dropped.count(line) == 0 && !line.empty())
+            kept += line + Text(kLineBreak);
+    RewriteFile(log.files, log.path, kept);
+    log.target.CloseToOthers(log.path);
+}
+
+bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& program)
+{
+    const Text wanted = files.ShortPath(logPath);
+    const std::vector<Text> logs = InstallJournalsIn(files, ExtractDirectory(program));
+    return std::any_of(logs.begin(), logs.end(), [&](const Text& log) {
+        return EqualIgnoreCase(files.ShortPath(log), wanted);
+    });
+}
+
+bool IsBelievable(const FileSystem& files, const Target& target, const Text& logPath,
+                  const Text& program)
+{
+    return IsInSameFolder(files, logPath, program) &&
+           (target.IsOfTrustedUser(logPath) || target.HaveSameOwner(logPath, program));
+}
+
+bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& uninstaller)
+{
+    const Text folder = ExtractDirectory(logPath);
+    const Text own = files.ShortPath(UninstallerPath(folder));
+    if (!EqualIgnoreCase(files.ShortPath(uninstaller), own))
+        return false;
+    const std::vector<Text> logs = InstallJournalsIn(files, folder);
+    return std::all_of(logs.begin(), logs.end(),
+                       [&](const Text& log) { return EqualIgnoreCase(log, logPath); });
+}
+
+} // namespace quillon

@@ -1,0 +1,114 @@
+#include "runtime/removal_list.h"
+
+#include "helpers/windows_path.h"
+#include "runtime/planned_shortcuts.h"
+#include "runtime/recorded_paths.h"
+#include "runtime/uninstall_entry.h"
+
+#include <algorithm>
+#include <set>
+
+namespace quillon {
+
+namespace {
+
+class RemovalList {
+public:
+    RemovalList(const InstalledProduct& product, const Host& host, const Target& target,
+                const Text& logPath)
+        : product_(product), files_(host.files), target_(target),
+          paths_(product.records, host, target, ExtractDirectory(logPath)),
+          entry_(UninstallEntryKey(product.name))
+    {
+        for (const JournalRecord& record : product.records)
+            AddFileOf(record);
+        const Text uninstaller = UninstallerPath(ExtractDirectory(logPath));
+        if (GoesWithProduct(files_, logPath, uninstaller))
+            AddFile(uninstaller);
+        AddFile(logPath);
+        AddFolders();
+        for (const JournalRecord& record : product.records)
+            AddSettingOf(record);
+    }
+
+    std::vector<Text> lines;
+
+private:
+    void AddFileOf(const JournalRecord& record);
+    void AddFile(const Text& path);
+    void AddFolders();
+    bool GoesEmpty(const Text& folder) const;
+    void AddSettingOf(const JournalRecord& record);
+
+    const InstalledProduct& product_;
+    const FileSystem& files_;
+    const Target& target_;
+    const RecordedPaths paths_;
+    const RegistryKey entry_;
+    std::set<Text> goes_; // in lower case
+};
+
+void RemovalList::AddFileOf(const JournalRecord& record)
+{
+    const bool isFile = std::holds_alternative<record::File>(record) ||
+                        std::holds_alternative<record::Replaced>(record) ||
+                        std::holds_alternative<record::Shared>(record);
+    const Text path = SubjectOf(record);
+    if (isFile && !paths_.StaysBehind(path) && !paths_.WhyOutOfReach(path))
+        AddFile(path);
+}
+
+void RemovalList::AddFile(const Text& path)
+{
+    if (files_.FileExists(path) && goes_.insert(LowerCase(path)).second)
+        lines.push_back(path);
+}
+
+// From the inner ones outwards; they are told in the order of the record.
+void RemovalList::AddFolders()
+{
+    std::vector<Text> found;
+    for (auto record = product_.records.rbegin(); record != product_.records.rend(); ++record)
+        if (const auto* const folder = std::get_if<record::Folder>(&*record);
+            folder && GoesEmpty(folder->path) && goes_.insert(LowerCase(folder->path)).second)
+            found.push_back(folder->path);
+    lines.insert(lines.end(), found.rbegin(), found.rend());
+}
+
+bool RemovalList::GoesEmpty(const Text& folder) const
+{
+    if (!files_.DirExists(folder) || paths_.IsBehindLink(folder))
+        return false;
+    const std::vector<FolderEntry> entries = files_.List(folder);
+    return std::all_of(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
+        return goes_.count(LowerCase(JoinPath(folder, entry.name))) > 0;
+    });
+}
+
+void RemovalList::AddSettingOf(const JournalRecord& record)
+{
+    const auto addValue = [&](const RegistryKey& key, const Text& name) {
+        if (target_.ReadValue(key, name) && !EqualIgnoreCase(key.subKey, entry_.subKey))
+            lines.push_back(KeyText(key) + " :: " + name);
+    };
+    if (const auto* const value = std::get_if<record::Value>(&record); value && !value->former)
+        addValue(value->key, value->name);
+    if (const auto* const value = std::get_if<record::UninstallValue>(&record))
+        addValue(value->key, value->name);
+    if (const auto* const key = std::get_if<record::UninstallKey>(&record);
+        key && target_.KeyExists(key->key))
+        lines.push_back(KeyText(key->key));
+    if (const auto* const value = std::get_if<record::IniValue>(&record);
+        value && !value->formerLine && !paths_.WhyOutOfReach(value->path))
+        lines.push_back(value->path + " [" + value->section + "] " + value->name);
+}
+
+} // namespace
+
+std::vector<Text> LinesOfRemoval(const InstalledProduct& product, const Host& host,
+                                 const Target& target, const Text& logPath)
+{
+    return RemovalList(product, host, target, logPath).lines;
+}
+
+} // namespace quillon

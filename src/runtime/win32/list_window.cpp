@@ -1,0 +1,91 @@
+#include "runtime/win32/list_window.h"
+
+#include "platform/win32/wide_text.h"
+#include "runtime/win32/plain_window.h"
+
+namespace quillon {
+
+namespace {
+
+// In pixels of a display of normal size.
+constexpr int kWidth = 520;
+constexpr int kHeight = 340;
+constexpr int kEdge = 16;
+constexpr int kTextHeight = 34;
+constexpr int kButtonWidth = 110;
+constexpr int kButtonHeight = 26;
+constexpr int kButtonTop = kHeight - kEdge - kButtonHeight;
+
+constexpr LONG_PTR kNotPressed = 0;
+
+LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data)
+{
+    const int button = message == WM_CLOSE ? IDCANCEL : LOWORD(word);
+    if (message != WM_CLOSE && (message != WM_COMMAND || (button != IDOK && button != IDCANCEL)))
+        return DefWindowProcW(window, message, word, data);
+    SetWindowLongPtrW(window, GWLP_USERDATA, button);
+    return 0;
+}
+
+RECT ButtonPlace(int fromRight)
+{
+    const int right = kWidth - kEdge - fromRight * (kButtonWidth + 8);
+    return {right - kButtonWidth, kButtonTop, right, kButtonTop + kButtonHeight};
+}
+
+Text AllLines(const ListPage& page)
+{
+    Text all;
+    for (const Text& line : page.lines) {
+        if (!all.empty())
+            all += kLineBreak;
+        all += line;
+    }
+    return all;
+}
+
+void AddControls(HWND window, const ListPage& page)
+{
+    const bool canCancel = !page.cancelCaption.empty();
+    AddControl(window, {L"STATIC",
+                        page.text,
+                        SS_LEFT | SS_NOPREFIX,
+                        {kEdge, kEdge, kWidth - kEdge, kEdge + kTextHeight},
+                        kListTextId});
+    // A field, unlike a list, lets the user copy what is in it.
+    const HWND lines =
+        AddControl(window, {L"EDIT",
+                            "",
+                            WS_TABSTOP | WS_BORDER | WS_VSCROLL | WS_HSCROLL | ES_MULTILINE |
+                                ES_READONLY | ES_AUTOVSCROLL | ES_AUTOHSCROLL,
+                            {kEdge, kEdge + kTextHeight, kWidth - kEdge, kButtonTop - 12},
+                            kListLinesId});
+    SendMessageW(lines, EM_SETLIMITTEXT, 0, 0);
+    SetWindowTextW(lines, Wide(AllLines(page)).c_str());
+    const HWND first = AddControl(window, {L"BUTTON", page.okCaption, WS_TABSTOP | BS_DEFPUSHBUTTON,
+                                           ButtonPlace(canCancel ? 1 : 0), IDOK});
+    if (canCancel)
+        AddControl(window, {L"BUTTON", page.cancelCaption, WS_TABSTOP | BS_PUSHBUTTON,
+                            ButtonPlace(0), IDCANCEL});
+    SetFocus(first);
+}
+
+} // namespace
+
+bool ShowListWindow(HINSTANCE instance, const ListPage& page)
+{
+    const HWND window =
+        MakePlainWindow(instance, page.title, {L"QuillonList", Receive, kWidth, kHeight});
+    ShowWindow(window, SW_SHOWNORMAL);
+    SetForegroundWindow(window);
+    AddControls(window, page);
+    MSG message;
+    LONG_PTR pressed = kNotPressed;
+    while ((pressed = GetWindowLongPtrW(window, GWLP_USERDATA)) == kNotPressed &&
+           GetMessageW(&message, nullptr, 0, 0) > 0)
+        DispatchTo(window, message);
+    DestroyWindow(window);
+    return pressed == IDOK;
+}
+
+} // namespace quillon
