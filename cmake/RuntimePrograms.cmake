@@ -35,6 +35,9 @@ function(quillon_runtime_program source file folder)
     add_library(${source} SHARED ${sources})
     # Only the program itself: nobody links against an import library of it.
     set_target_properties(${source} PROPERTIES ENABLE_EXPORTS OFF)
+    # The compiler would keep every function for others to call; what the .def file names is all
+    # that anybody calls.
+    target_link_options(${source} PRIVATE -fwhole-program)
   else()
     add_executable(${source} WIN32 ${sources})
   endif()

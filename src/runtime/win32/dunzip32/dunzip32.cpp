@@ -60,21 +60,24 @@ int Guarded(QnUnzipFailure* failure, Work work)
 
 } // namespace
 
+// The linker knows from the .def file that others call these; the compiler has to be told.
 extern "C" {
 
-int QnUnzipOpen(const char* path, QnUnzipArchive** archive, QnUnzipFailure* failure)
+[[gnu::externally_visible]] int QnUnzipOpen(const char* path, QnUnzipArchive** archive,
+                                            QnUnzipFailure* failure)
 {
     *archive = nullptr;
     return Guarded(failure,
                    [&] { *archive = new QnUnzipArchive{ZipReader(WinFiles().OpenInput(path))}; });
 }
 
-size_t QnUnzipEntryCount(const QnUnzipArchive* archive)
+[[gnu::externally_visible]] size_t QnUnzipEntryCount(const QnUnzipArchive* archive)
 {
     return archive->reader.Entries().size();
 }
 
-void QnUnzipEntryInfo(const QnUnzipArchive* archive, size_t index, QnUnzipEntry* entry)
+[[gnu::externally_visible]] void QnUnzipEntryInfo(const QnUnzipArchive* archive, size_t index,
+                                                  QnUnzipEntry* entry)
 {
     const ZipEntry& from = archive->reader.Entries()[index];
     *entry = {};
@@ -95,8 +98,9 @@ void QnUnzipEntryInfo(const QnUnzipArchive* archive, size_t index, QnUnzipEntry*
     entry->isEncrypted = from.isEncrypted;
 }
 
-int QnUnzipExtract(QnUnzipArchive* archive, size_t index, const char* password, QnUnzipSink sink,
-                   void* context, QnUnzipFailure* failure)
+[[gnu::externally_visible]] int QnUnzipExtract(QnUnzipArchive* archive, size_t index,
+                                               const char* password, QnUnzipSink sink,
+                                               void* context, QnUnzipFailure* failure)
 {
     return Guarded(failure, [&] {
         archive->reader.Extract(archive->reader.Entries()[index], password,
@@ -107,7 +111,7 @@ int QnUnzipExtract(QnUnzipArchive* archive, size_t index, const char* password, 
     });
 }
 
-void QnUnzipClose(QnUnzipArchive* archive)
+[[gnu::externally_visible]] void QnUnzipClose(QnUnzipArchive* archive)
 {
     delete archive;
 }
