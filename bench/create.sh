@@ -117,6 +117,8 @@ compare_programs() {
     judge 1.02 'times the size of what zip makes' "$(ratio "$our_size" "$zip_size")" '<='
     judge 15 'times faster than makensis with zlib' "$(ratio "$nsis_time" "$our_time")" '>='
     judge 262144 'KB of memory at most' "$our_memory" '<='
+    judge 0.03 'of the time goes into looking for equal files' \
+        "$(ratio "$("$bin/find_equal" "$input")" "$our_time")" '<='
 }
 
 # The best of several repetitions, by the processor's time: what else runs here does not count.

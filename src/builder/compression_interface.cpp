@@ -2,14 +2,18 @@
 
 #include "archive/writer/spanned_archive.h"
 #include "archive/writer/zip_writer.h"
+#include "archive/zip_records.h"
 #include "builder/compression_log.h"
+#include "builder/equal_files.h"
 #include "builder/progress_display.h"
 #include "builder/responsive_copy.h"
 #include "builder/temporary_file.h"
 #include "formats/container_names.h"
+#include "formats/served_rows.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 
+#include <algorithm>
 #include <limits>
 #include <unordered_map>
 #include <vector>
@@ -27,12 +31,33 @@ Text PathKey(const Text& path)
     return LowerCase(path.substr(0, hasDrive ? 2 : 0)) + ContainerEntryName(path);
 }
 
+/// A date as an entry keeps it.
+LocalTime DateInArchive(const LocalTime& time)
+{
+    return zip::FromDosTime(zip::DosDate(time), zip::DosTime(time));
+}
+
+/// The rows of a file whose entry has another one's date.
+Text RowsWithDate(const Text& rows, const LocalTime& modified)
+{
+    Text dated;
+    for (std::size_t begin = 0; begin < rows.size();) {
+        const std::size_t end = std::min(rows.find(' ', begin), rows.size());
+        dated.append(dated.empty() ? "" : " ")
+            .append(RowWithDate(rows.substr(begin, end - begin), modified));
+        begin = end + 1;
+    }
+    return dated;
+}
+
 } // namespace
 
 struct CompressionInterface::State {
     struct Item {
         Text path;
         Text rows;
+        // Of a content that several rows share: what was compared is what must be packed.
+        std::optional<std::uint32_t> crc = {};
     };
     struct Order {
         Text target;
@@ -59,7 +84,8 @@ struct CompressionInterface::State {
 private:
     void Make(const Order& order, CompressionLog& log);
     Text FolderForUnfinished(const Order& order) const;
-    std::vector<ZipSource> Sources(const Order& order) const;
+    std::vector<Item> DistinctItems() const;
+    std::vector<ZipSource> Sources(const Order& order, const std::vector<Item>& packed) const;
     void Pack(const Order& order, OutputFile& unfinished, CompressionLog& log);
     void Deliver(const Order& order, const Text& finished);
     void MoveIntoPlace(const Text& finished, const Text& target);
@@ -124,11 +150,43 @@ Text CompressionInterface::State::FolderForUnfinished(const Order& order) const
     return order.spans ? host.machine.GetTempDir() : ExtractDirectory(order.target);
 }
 
-std::vector<ZipSource> CompressionInterface::State::Sources(const Order& order) const
+// Files with the same bytes become one, which serves the rows of all of them. A file without rows
+// is found by its name, and so stays.
+std::vector<CompressionInterface::State::Item> CompressionInterface::State::DistinctItems() const
+{
+    std::vector<Text> paths;
+    for (const Item& item : items)
+        paths.push_back(item.path);
+    const auto contents = FindEqualFiles(host.files, paths, [this] { ask.ProcessEvents(); });
+    std::vector<Item> distinct;
+    constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
+    std::vector<std::size_t> placeOf(items.size(), kNone); // of a content's item among these
+    std::vector<LocalTime> dates;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        std::size_t& place = placeOf[contents[i].original];
+        const LocalTime date = DateInArchive(contents[i].modified);
+        if (place != kNone && !items[i].rows.empty() && !distinct[place].rows.empty()) {
+            const bool isSameDate = dates[place] == date;
+            const Text rows = isSameDate ? items[i].rows : RowsWithDate(items[i].rows, date);
+            if (distinct[place].rows.size() + 1 + rows.size() <= kMaxCommentLength) {
+                distinct[place].rows.append(" ").append(rows);
+                distinct[place].crc = contents[i].crc;
+                continue;
+            }
+        }
+        place = distinct.size();
+        distinct.push_back(items[i]);
+        dates.push_back(date);
+    }
+    return distinct;
+}
+
+std::vector<ZipSource> CompressionInterface::State::Sources(const Order& order,
+                                                            const std::vector<Item>& packed) const
 {
     std::vector<ZipSource> sources;
-    sources.reserve(items.size());
-    for (const Item& item : items) {
+    sources.reserve(packed.size());
+    for (const Item& item : packed) {
         const Text name = ContainerEntryName(item.path);
         const std::size_t folderEnd = order.namesOnly ? name.rfind('/') : Text::npos;
         sources.push_back(
@@ -141,11 +199,19 @@ void CompressionInterface::State::Pack(const Order& order, OutputFile& unfinishe
                                        CompressionLog& log)
 {
     ProgressDisplay progress(ask);
+    const std::vector<Item> packed = order.namesOnly ? items : DistinctItems();
+    std::size_t done = 0;
     const ZipWatch watch{
-        .onEntry = [&](const ZipEntryReport& entry) { log.AddEntry(entry); },
-        .onProgress = [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); },
+        .onEntry =
+            [&](const ZipEntryReport& entry) {
+                if (packed[done].crc.value_or(entry.crc) != entry.crc)
+                    throw CompressionFailure(CompressionResult::kSourceChanged, entry.path);
+                ++done;
+                log.AddEntry(entry);
+            },
+        .onProgress = [&](std::uint64_t bytes, std::uint64_t all) { progress.Show(bytes, all); },
         .onYield = [&] { ask.ProcessEvents(); }};
-    WriteZip(host.files, Sources(order), unfinished,
+    WriteZip(host.files, Sources(order, packed), unfinished,
              {.deflate = deflates, .password = order.password}, watch);
     unfinished.Close();
 }

@@ -22,6 +22,8 @@ constexpr Option kIcon = {"--icon", "TITEL", "Ge programmet en ikon med denna ti
 constexpr Option kIconOn = {"--icon-on", "PLATS", "Var ikonen ska ligga",
                             "group|desktop|start|programs"};
 constexpr Option kDryRun = {"--dry-run", nullptr, "Visa vad som skulle adderas; spara inget"};
+constexpr Option kTrust = {"--trust", "FIL",
+                           "PEM-fil med rotcertifikat att lita på, utöver datorns egna"};
 constexpr Option kJson = {"--json", nullptr, "Skriv ett JSON-objekt och inget annat"};
 
 } // namespace
@@ -202,15 +204,23 @@ std::span<const Call> AllCalls()
          "Skriver ut fillistan som PDF.",
          PrintProject},
         {"list",
-         {"KATALOG"},
-         {kJson},
+         {"PAKET"},
+         {kTrust, kJson},
          "Visar varje rad i en färdig installation och var dess innehåll ligger.",
          ListPackage},
         {"verify",
-         {"KATALOG"},
-         {kJson},
+         {"PAKET"},
+         {kTrust, kJson},
          "Kontrollerar en färdig installation: varje fil, varje CRC, båda INF-filerna.",
          VerifyPackageFolder},
+        {"extract",
+         {"PAKET"},
+         {{"--to", "KATALOG", "Katalog som filerna packas upp i", nullptr, Need::Required},
+          {"--overwrite", nullptr, "Skriv över filer som redan finns"},
+          kTrust,
+          kJson},
+         "Packar upp filerna i en färdig installation. Inget installeras eller startas.",
+         ExtractPackage},
     };
     return kCalls;
 }

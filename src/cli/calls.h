@@ -15,6 +15,7 @@ Exit PaintProjectScreen(const CallContext& context);
 Exit PrintProject(const CallContext& context);
 Exit ListPackage(const CallContext& context);
 Exit VerifyPackageFolder(const CallContext& context);
+Exit ExtractPackage(const CallContext& context);
 
 // Calls that change a project.
 Exit NewProject(const CallContext& context);

@@ -1,6 +1,7 @@
 // quillonc list and quillonc verify: what is in a finished package, and whether it is whole.
 #include "cli/calls.h"
-#include "formats/package.h"
+#include "cli/package_source.h"
+#include "formats/served_rows.h"
 #include "helpers/number_text.h"
 
 #include <algorithm>
@@ -50,6 +51,10 @@ Json RowJson(const Package& package, std::size_t number)
     if (bytes.place == RowBytes::Place::Container) {
         const ZipEntry& entry = package.container->Entries()[bytes.entry];
         object["entry"] = entry.name;
+        Json rows = Json::array();
+        for (const ServedRow& served : ServedRows(entry.comment))
+            rows.push_back("F" + NumberText(served.number));
+        object["entryRows"] = std::move(rows);
         object["entrySize"] = entry.size;
         object["packedSize"] = entry.packedSize;
         object["crc"] = entry.hasCrc ? Json(HexText(entry.crc)) : Json();
@@ -116,19 +121,48 @@ bool HasManifest(const Package& package)
     return package.manifest.state != PackageManifest::State::Missing;
 }
 
-Package OpenFolder(const CallContext& context, const Text& folder)
+const char* KindOf(const PackageSource& source)
 {
-    if (!context.host.files.DirExists(folder))
-        throw CallFailure{"Katalogen '" + folder + "' finns inte.", Exit::Unreadable};
-    return OpenPackage(context.host.files, folder);
+    return source.isProgram ? "program" : "folder";
+}
+
+Json MediumJson(const Package& package)
+{
+    switch (Medium(package.setup.project.Media.TargetMedia)) {
+    case Medium::Floppy:
+        return "floppy";
+    case Medium::CompressedCd:
+        return "cd";
+    case Medium::CdTree:
+        return "tree";
+    case Medium::Internet:
+        return "internet";
+    }
+    return {};
+}
+
+Json VerifiedJson(const PackageSource& source, const std::vector<Text>& faults)
+{
+    const Package& package = source.package;
+    Json object = {{"folder", source.path},
+                   {"kind", KindOf(source)},
+                   {"isWhole", faults.empty()},
+                   {"hasManifest", HasManifest(package)},
+                   {"medium", MediumJson(package)},
+                   {"rows", package.rows.size()},
+                   {"entries", package.container ? package.container->Entries().size() : 0U},
+                   {"faults", faults}};
+    if (source.isProgram)
+        object["signature"] = SignatureJson(source.signature);
+    return object;
 }
 
 } // namespace
 
 Exit ListPackage(const CallContext& context)
 {
-    const Text folder = context.PathOperand(0);
-    const Package package = OpenFolder(context, folder);
+    const PackageSource source = OpenPackageSource(context, context.PathOperand(0));
+    const Package& package = source.package;
     for (const Text& fault : package.faults)
         context.err << fault << "\n";
     const Exit exit = package.faults.empty() ? Exit::Done : Exit::Unreadable;
@@ -137,29 +171,33 @@ Exit ListPackage(const CallContext& context)
         Json rows = Json::array();
         for (std::size_t i = 0; i < package.rows.size(); ++i)
             rows.push_back(RowJson(package, i));
-        return context.PrintJson(
-            {{"folder", folder}, {"rows", std::move(rows)}, {"faults", package.faults}}, exit);
+        Json object = {{"folder", source.path},
+                       {"kind", KindOf(source)},
+                       {"rows", std::move(rows)},
+                       {"faults", package.faults}};
+        if (source.isProgram)
+            object["signature"] = SignatureJson(source.signature);
+        return context.PrintJson(std::move(object), exit);
     }
     Table table = {{"Rad", "Namn", "Destination", "Storlek", "Packad", "CRC", "Post"}};
     for (std::size_t i = 0; i < package.rows.size(); ++i)
         table.push_back(RowLine(package, i));
     PrintTable(context.out, table);
+    if (source.isProgram)
+        context.out << SignatureLine(source.signature) << "\n";
     return exit;
 }
 
 Exit VerifyPackageFolder(const CallContext& context)
 {
-    const Text folder = context.PathOperand(0);
-    Package package = OpenFolder(context, folder);
-    const std::vector<Text> faults = VerifyPackage(context.host.files, package);
+    PackageSource source = OpenPackageSource(context, context.PathOperand(0));
+    Package& package = source.package;
+    std::vector<Text> faults = VerifyPackage(context.host.files, package);
+    if (const Text fault = SignatureFault(source.signature); !fault.empty())
+        faults.push_back(fault);
     const Exit exit = faults.empty() ? Exit::Done : Exit::Stopped;
     if (context.WantsJson())
-        return context.PrintJson({{"folder", folder},
-                                  {"isWhole", faults.empty()},
-                                  {"hasManifest", HasManifest(package)},
-                                  {"rows", package.rows.size()},
-                                  {"faults", faults}},
-                                 exit);
+        return context.PrintJson(VerifiedJson(source, faults), exit);
     for (const Text& fault : faults)
         context.out << fault << "\n";
     if (faults.empty())
@@ -167,6 +205,8 @@ Exit VerifyPackageFolder(const CallContext& context)
     if (!HasManifest(package))
         context.out << kManifestName
                     << " saknas: runtimefilerna är inte prövade, bara att de finns.\n";
+    if (source.isProgram)
+        context.out << SignatureLine(source.signature) << "\n";
     return exit;
 }
 

@@ -2,6 +2,7 @@
 
 #include "archive/joined_input.h"
 #include "formats/row_safety.h"
+#include "formats/served_rows.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
@@ -86,7 +87,11 @@ void OpenContainer(const FileSystem& files, Package& package)
     }
 }
 
-using EntryOfRow = std::map<int, std::size_t>; // by the row's number
+struct ServingEntry {
+    std::size_t entry;
+    std::optional<LocalTime> modified;
+};
+using EntryOfRow = std::map<int, ServingEntry>; // by the row's number
 
 EntryOfRow FindEntries(Package& package)
 {
@@ -94,12 +99,13 @@ EntryOfRow FindEntries(Package& package)
     const auto& entries = package.container->Entries();
     for (std::size_t i = 0; i < entries.size(); ++i) {
         bool servesARow = false;
-        for (const int number : RowNumbers(entries[i].comment)) {
-            const bool isRow = number > 0 && number <= static_cast<int>(package.rows.size());
+        for (const ServedRow& row : ServedRows(entries[i].comment)) {
+            const bool isRow =
+                row.number > 0 && row.number <= static_cast<int>(package.rows.size());
             servesARow = servesARow || isRow;
-            if (isRow && !found.emplace(number, i).second)
+            if (isRow && !found.emplace(row.number, ServingEntry{i, row.modified}).second)
                 package.faults.push_back(Text(kFileContainerName) + " har fler än en post för F" +
-                                         NumberText(number) + ".");
+                                         NumberText(row.number) + ".");
         }
         if (!servesARow)
             package.faults.push_back(Text(kFileContainerName) + ": posten '" + entries[i].name +
@@ -135,7 +141,10 @@ RowBytes FindEntry(const EntryOfRow& entries, const InstallRow& row)
     const auto found = entries.find(row.number);
     if (found == entries.end())
         return MissingBytes(row, {});
-    return {.place = RowBytes::Place::Container, .entry = found->second};
+    return {.place = RowBytes::Place::Container,
+            .entry = found->second.entry,
+            .path = {},
+            .modified = found->second.modified};
 }
 
 void FindBytesOfRows(const FileSystem& files, Package& package)

@@ -23,6 +23,8 @@ struct RowBytes {
     Place place = Place::None;
     std::size_t entry = 0; // of the container
     Text path;             // of the loose file, or where one was expected
+    // Where the entry serves files of several dates, that of this row.
+    std::optional<LocalTime> modified = {};
 
     bool operator==(const RowBytes&) const = default;
 };

@@ -2,10 +2,10 @@
 // package, since the setup itself reads archives through a library and must not carry their reader
 // twice.
 #include "formats/package.h"
+#include "formats/served_rows.h"
 #include "helpers/windows_path.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace quillon {
 
@@ -32,15 +32,8 @@ bool UsesContainer(const SetupInformation& setup)
 std::vector<int> RowNumbers(std::string_view comment)
 {
     std::vector<int> numbers;
-    while (!comment.empty()) {
-        const std::string_view word = comment.substr(0, comment.find(' '));
-        comment.remove_prefix(std::min(word.size() + 1, comment.size()));
-        int number = 0;
-        const char* const end = word.data() + word.size();
-        const bool isKey =
-            word.starts_with('F') && std::from_chars(word.data() + 1, end, number).ptr == end;
-        numbers.push_back(isKey ? number : 0);
-    }
+    for (const ServedRow& row : ServedRows(comment))
+        numbers.push_back(row.number);
     return numbers;
 }
 

@@ -1,6 +1,7 @@
 #include "runtime/package_reader.h"
 
 #include "formats/package.h"
+#include "formats/served_rows.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "project/file_list.h"
@@ -69,8 +70,8 @@ void PackageReader::FindInContainer()
         return;
     container_ = input_.openContainer(ContainerPath());
     for (const ZipEntry& entry : container_->Entries())
-        for (const int number : RowNumbers(entry.comment))
-            places_[number] = {&entry, {}};
+        for (const ServedRow& row : ServedRows(entry.comment))
+            places_[row.number] = {&entry, {}, row.modified};
 }
 
 Text PackageReader::ContainerPath()
@@ -184,6 +185,8 @@ void PackageReader::CheckEverything()
 LocalTime PackageReader::Modified(const InstallRow& row) const
 {
     const Place& place = PlaceOf(row);
+    if (place.modified)
+        return *place.modified;
     return place.entry ? place.entry->modified : input_.host.files.Status(place.path).modified;
 }
 

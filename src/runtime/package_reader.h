@@ -51,6 +51,7 @@ private:
     struct Place {
         const ZipEntry* entry = nullptr; // null: a file by itself
         Text path;
+        std::optional<LocalTime> modified = {}; // where the entry has another date
     };
 
     void FindInContainerOrRefuse();

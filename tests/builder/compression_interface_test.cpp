@@ -181,6 +181,69 @@ TEST_F(Compression, StoresFilesOfTheSameNameOnTwoDrives)
     EXPECT_EQ(reader.Entries()[1].comment, "F2");
 }
 
+TEST_F(Compression, StoresTheSameBytesOnceWhateverTheirPaths)
+{
+    for (const char* password : {"", "hemligt"}) {
+        Begin();
+        Put("C:\\Data\\a.txt", Noise(5000000), "F1");
+        Put("C:\\b.txt", "b", "F2");
+        Put("D:\\Other\\c.dll", Noise(5000000), "F3");
+        Put("C:\\empty", "", "F4");
+        Put("C:\\empty2", "", "F5");
+        EXPECT_EQ(Create(0, password), kDone);
+        ExpectOtherProgramsTest(Archive(), password);
+        const ZipReader reader = OpenArchive(Archive());
+        ASSERT_EQ(reader.Entries().size(), 3U);
+        EXPECT_EQ(reader.Entries()[0].name, "data/a.txt");
+        EXPECT_EQ(reader.Entries()[0].comment, "F1 F3");
+        EXPECT_EQ(reader.Entries()[1].comment, "F2");
+        EXPECT_EQ(reader.Entries()[2].comment, "F4 F5");
+        EXPECT_EQ(UnpackAll(Archive(), password).at("data/a.txt"), Noise(5000000));
+    }
+}
+
+TEST_F(Compression, KeepsTheDateOfEachRowOfAnEntry)
+{
+    Put("C:\\a.txt", "same", "F1");
+    Put("C:\\b.txt", "same", "F2");
+    Put("C:\\B.TXT", "same", "F3");
+    Put("C:\\c.txt", "same", "F4");
+    files.SetModified("C:\\b.txt", {2005, 1, 2, 3, 4, 7}); // an archive keeps even seconds
+    files.SetModified("C:\\c.txt", {2004, 2, 29, 12, 30, 1});
+    EXPECT_EQ(Create(), kDone);
+    const ZipReader reader = OpenArchive(Archive());
+    ASSERT_EQ(reader.Entries().size(), 1U);
+    EXPECT_EQ(reader.Entries()[0].comment, "F1 F2@20050102030406 F3@20050102030406 F4");
+}
+
+TEST_F(Compression, StoresEqualDesignFilesUnderTheirNames)
+{
+    Put("C:\\one.bmp", "logo");
+    Put("C:\\two.bmp", "logo");
+    EXPECT_EQ(zip.IfcCreateDesignZipFile("C:\\Out\\DESOBJ.DAT"), kDone);
+    EXPECT_EQ(OpenArchive(files.Get("C:\\Out\\DESOBJ.DAT")).Entries().size(), 2U);
+}
+
+// The row of the second file must not get what the first one has become meanwhile.
+TEST_F(Compression, NoticesThatASharedFileChangedAfterItWasCompared)
+{
+    Put("C:\\a.txt", "same bytes", "F1");
+    Put("C:\\b.txt", "same bytes", "F2");
+    int opened = 0;
+    files.PutTricky("C:\\a.txt", 10, [&opened] {
+        const bool isCompared = ++opened <= 2; // its beginning, and the whole
+        return std::make_unique<test::MadeUpInput>(
+            10, 10, [isCompared](std::uint64_t position, std::span<std::byte> bytes) {
+                const std::string text = isCompared ? "same bytes" : "others now";
+                for (std::size_t i = 0; i < bytes.size(); ++i)
+                    bytes[i] = std::byte(text[std::size_t(position) + i]);
+            });
+    });
+    EXPECT_EQ(Create(), kSourceChanged);
+    EXPECT_EQ(PathOfFailure(), "C:\\a.txt");
+    EXPECT_FALSE(files.FileExists(kTarget));
+}
+
 // A comment holds 65,535 bytes; the names of more rows go to another copy of the source.
 TEST_F(Compression, ServesMoreRowsThanOneCommentHolds)
 {

@@ -52,7 +52,7 @@ TEST_F(FileContainer, NamesTheRowsThatEachEntryServes)
 {
     desk.AddFile("A.txt");
     AddFolderRow();
-    desk.AddFile("Mapp\\B.txt")[Filename] = "annat.txt";
+    desk.AddFile("Mapp\\B.txt", "other bytes")[Filename] = "annat.txt";
     desk.project.Files.rows.push_back(desk.project.Files.rows[0]);
     Make();
     EXPECT_THAT(NamesAndRows(),

@@ -93,6 +93,17 @@ TEST(RowNumbers, AreTheNumbersOfTheCommentsKeys)
         EXPECT_EQ(RowNumbers(comment), numbers) << comment;
 }
 
+TEST_F(CompressedPackage, GivesARowTheDateThatTheCommentHasForIt)
+{
+    PutLists({Row(1, "a.txt", 3), Row(2, "b.txt", 3)});
+    PutFile("FILEDATA.DAT", MakeArchive({{"src/a.txt", "F1 F2@20040229123058", "abc"}}));
+    const Package package = Open();
+    EXPECT_THAT(package.faults, IsEmpty());
+    EXPECT_EQ(package.bytes[0].modified, std::nullopt);
+    EXPECT_EQ(package.bytes[1].modified, (LocalTime{2004, 2, 29, 12, 30, 58}));
+    EXPECT_EQ(package.bytes[1].entry, 0U);
+}
+
 TEST_F(CompressedPackage, FindsEntriesByTheRowsThatTheirCommentsName)
 {
     PutLists({Row(1, "a.txt", 3), FolderRow(2), Row(3, "renamed.txt", 5), Row(4, "twin.txt", 3)});

@@ -147,7 +147,12 @@ InstalledProduct InstallProduct(const PackageFiles& files, const Text& password)
     const ExitCode code = RunSetup({machine.memory.host, machine.target, ask,
                                     DirectContainers(machine.memory.files), switches, kWork},
                                    package);
-    return {code, machine.memory.files.Get(kLog), StateOf(machine.memory, machine.target)};
+    InstalledProduct installed{
+        code, machine.memory.files.Get(kLog), StateOf(machine.memory, machine.target), {}};
+    for (const auto& [path, node] : machine.memory.files.nodes)
+        if (node.bytes)
+            installed.modified[path] = node.status.modified;
+    return installed;
 }
 
 std::map<Text, std::string> EmptyMachine()

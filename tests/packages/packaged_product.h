@@ -33,6 +33,7 @@ struct InstalledProduct {
     ExitCode code;
     Text log;
     std::map<Text, std::string> machine; // all files but the log, and the registry as texts
+    std::map<Text, LocalTime> modified;  // of the files
 };
 
 /// Installs without a question on a machine that is always the same.

@@ -287,7 +287,7 @@ void ZipWriting::EndEntry(const Pending& pending)
     }
     directory_.Add(entry_);
     if (watch_.onEntry)
-        watch_.onEntry({*pending.block.path, entry_.size, entry_.packedSize});
+        watch_.onEntry({*pending.block.path, entry_.size, entry_.packedSize, entry_.crc});
 }
 
 } // namespace

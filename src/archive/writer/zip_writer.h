@@ -50,6 +50,7 @@ struct ZipEntryReport {
     Text path;
     std::uint64_t size = 0;
     std::uint64_t packedSize = 0;
+    std::uint32_t crc = 0; // of the content
 };
 
 /// What the writer tells while it works, always from the calling thread. Each may be empty.

@@ -1,0 +1,49 @@
+#include "formats/extracted_names.h"
+
+#include "formats/package_files.h"
+#include "formats/row_safety.h"
+#include "helpers/windows_path.h"
+#include "project/file_list.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+/// Every part must be a name: what a setup makes of a variable is known there, and not here.
+std::optional<Text> IfPlain(const Text& name)
+{
+    Text joined;
+    for (std::size_t begin = 0; begin <= name.size();) {
+        const std::size_t end = std::min(name.find_first_of("\\/", begin), name.size());
+        const Text part = name.substr(begin, end - begin);
+        begin = end + 1;
+        if (part.empty())
+            continue;
+        if (FaultOfName(part) != PathFault::None)
+            return std::nullopt;
+        joined = JoinPath(joined, part);
+    }
+    return joined.empty() ? std::nullopt : std::optional(joined);
+}
+
+} // namespace
+
+std::optional<Text> ExtractedName(const InstallRow& row)
+{
+    if (FaultOfRow(row, false) != PathFault::None)
+        return std::nullopt;
+    Text folder = FolderInTree("", TrimBlanks(row.destination));
+    std::erase(folder, ':');
+    return IfPlain(row.name == kEmptyFolderName ? folder : folder + "\\" + row.name);
+}
+
+std::optional<Text> ExtractedScreenName(const Text& entry)
+{
+    if (FaultOfName(entry) != PathFault::None)
+        return std::nullopt;
+    return JoinPath(kExtractedScreenFolder, entry);
+}
+
+} // namespace quillon
