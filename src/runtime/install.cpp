@@ -8,6 +8,8 @@
 #include "runtime/file_installer.h"
 #include "runtime/ini_changes.h"
 #include "runtime/planned_shortcuts.h"
+#include "runtime/registry_changes.h"
+#include "runtime/script/script_run.h"
 #include "runtime/uninstall_entry.h"
 
 namespace quillon {
@@ -48,7 +50,6 @@ private:
     void DeleteOldProgramGroup();
     bool IsOwnShortcut(const Text& path) const;
     void WriteRegistry();
-    void WriteRegistryLine(const RegistryLine& line);
     void RegisterFiles();
     void RegisterOne(const Text& path);
     void SkipRegistration(const Text& path, Message why);
@@ -71,6 +72,8 @@ void Installation::DoEverything()
     changes_.Begin(input_.plan.mainFolder, input_.setup.project.ProjectName.ProjectName);
     changes_.MakeFolder(input_.plan.mainFolder);
     BeginRecord();
+    const ScriptWork scripts{input_, changes_, record_};
+    RunScript(scripts, input_.plan.scriptBefore, Message::PartScriptBefore);
     DeleteOldProgramGroup();
     for (const Text& folder : input_.plan.folders)
         changes_.MakeFolder(folder);
@@ -83,6 +86,7 @@ void Installation::DoEverything()
     PutUninstaller();
     for (const PlannedShortcut& planned : input_.plan.shortcuts)
         changes_.MakeShortcut(planned.path, planned.shortcut);
+    RunScript(scripts, input_.plan.scriptAfter, Message::PartScriptAfter);
     RegisterAtRestart();
     SaveRecord();
     changes_.Commit();
@@ -180,43 +184,7 @@ void Installation::DeleteOldProgramGroup()
 void Installation::WriteRegistry()
 {
     for (const RegistryLine& line : input_.plan.registry)
-        WriteRegistryLine(line);
-}
-
-void Installation::WriteRegistryLine(const RegistryLine& line)
-{
-    using Kind = RegistryLine::Kind;
-    const Text name = KeyText(line.key) + (line.hasValue ? " :: " + line.valueName : "");
-    switch (line.kind) {
-    case Kind::Key:
-        changes_.MakeKey(line.key);
-        break;
-    case Kind::TextValue:
-        changes_.WriteValue(line.key, line.valueName, TextData(line.text));
-        break;
-    case Kind::NumberValue:
-        changes_.WriteValue(line.key, line.valueName, NumberData(line.number));
-        break;
-    case Kind::BytesValue:
-        changes_.WriteValue(line.key, line.valueName, BytesData(line.bytes));
-        break;
-    case Kind::Delete:
-        if (line.hasValue)
-            changes_.RemoveValue(line.key, line.valueName);
-        else
-            changes_.RemoveKeyWithAllBelow(line.key);
-        input_.log.Line(Message::LogRemovesRegistry, name);
-        return;
-    case Kind::Uninstall:
-        if (line.hasValue)
-            record_.Add(record::UninstallValue{line.key, line.valueName});
-        else
-            record_.Add(record::UninstallKey{line.key});
-        return;
-    case Kind::Unreadable:
-        return;
-    }
-    input_.log.Line(Message::LogWritesRegistry, name);
+        ApplyRegistryLine({changes_, record_, input_.log}, line);
 }
 
 void Installation::RegisterFiles()

@@ -21,6 +21,7 @@ struct InstallInput {
     const PackageReader& package;
     Text helpersFolder; // where the runtime's own programs lie while it works
     bool silent = false;
+    const PackageManifest& manifest;
 };
 
 struct InstallResult {

@@ -173,6 +173,8 @@ InstallPlan MakeInstallPlan(const PlanInput& input)
     PlanRegistry(input, plan);
     PlanIni(input, plan);
     PlanRegistrations(input, plan);
+    plan.scriptBefore = ReadScript(input.setup.project.Lists.RunScriptBefore);
+    plan.scriptAfter = ReadScript(input.setup.project.Lists.RunScriptAfter);
     return plan;
 }
 

@@ -8,6 +8,7 @@
 #include "runtime/ini_lines.h"
 #include "runtime/language_file.h"
 #include "runtime/registry_lines.h"
+#include "runtime/script/script_lines.h"
 #include "runtime/setup_variables.h"
 
 namespace quillon {
@@ -37,6 +38,8 @@ struct InstallPlan {
     std::vector<RegistryLine> registry;
     std::vector<IniLine> ini; // whole paths as files
     std::vector<Text> registerFiles;
+    Script scriptBefore;
+    Script scriptAfter;
     std::vector<SkippedPart> skipped;
     bool hasUninstaller = false;
     Text installLog; // where the record of this installation is kept

@@ -198,10 +198,32 @@ void InstallTransaction::Commit()
 void InstallTransaction::CleanUp()
 {
     quillon::CleanUp({host_, target_, log_}, transaction_.Steps());
+    RemoveLeavingFolders();
     std::optional<RunError> failure;
     RunErrorNumber([&] { transaction_.End(); }, failure);
     if (failure)
         log_.CannotRemove(failure->Path(), *failure);
+}
+
+void InstallTransaction::RemoveLeavingFolders()
+{
+    for (const Text& folder : leaving_) {
+        if (!host_.files.DirExists(folder))
+            continue;
+        std::optional<RunError> failure;
+        RunErrorNumber(
+            [&] {
+                if (host_.files.List(folder).empty()) {
+                    host_.files.RemoveFolder(folder);
+                    log_.Line(Message::LogRemovesFolder, folder);
+                } else {
+                    log_.Skipped(folder, {Message::ReasonFolderNotEmpty});
+                }
+            },
+            failure);
+        if (failure)
+            log_.CannotRemove(folder, *failure);
+    }
 }
 
 bool InstallTransaction::Undo()

@@ -41,6 +41,8 @@ public:
     /// Keeps a second name for the file that is at `path`, which `PutFile` is about to replace.
     void KeepBackup(const Text& path);
     void RemoveFile(const Text& path);
+    /// When everything is done, if the folder is empty by then: what was put aside lies in it.
+    void RemoveFolderAtEnd(const Text& folder) { leaving_.push_back(folder); }
 
     void MakeKey(const RegistryKey& key);
     void WriteValue(const RegistryKey& key, const Text& name, const RegistryData& data,
@@ -63,6 +65,7 @@ public:
     bool Undo();
 
 private:
+    void RemoveLeavingFolders();
     void RecordFile(const Text& path, bool existed);
     void MoveAside(const Text& path);
     void NoteNewFile(const Text& path);
@@ -74,6 +77,7 @@ private:
     TransactionJournal transaction_;
     std::unordered_set<Text> movedAside_; // places whose former file is aside, in lower case
     std::vector<record::AtRestart> atRestart_;
+    std::vector<Text> leaving_;
 };
 
 } // namespace quillon

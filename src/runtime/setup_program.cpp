@@ -16,6 +16,7 @@
 #include "runtime/pages/earlier_version.h"
 #include "runtime/pages/page_chain.h"
 #include "runtime/rollback.h"
+#include "runtime/script/script_run.h"
 #include "runtime/uninstall_entry.h"
 
 #include <algorithm>
@@ -174,6 +175,8 @@ void SetupProgram::CheckPackage() const
 {
     if (package_.fault)
         throw DamagedPackage(texts_, *package_.fault);
+    if (const auto fault = FaultOfScripts(package_.setup, texts_))
+        throw DamagedPackage(texts_, *fault);
     const Project& project = package_.setup.project;
     const Text& starter = project.InstallOptions.SetupName;
     // Not by the tool's words for it, which nobody would see here.
@@ -331,7 +334,7 @@ InstallResult SetupProgram::InstallPackage()
     reader.CheckEverything();
     CheckFreeSpace(plan);
     return Install({input_.host, input_.target, input_.ask, log_, texts_, setup_, variables, plan,
-                    reader, input_.workFolder, input_.switches.silent});
+                    reader, input_.workFolder, input_.switches.silent, package_.manifest});
 }
 
 // The product is installed: whatever happens here takes nothing back.

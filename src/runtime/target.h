@@ -51,6 +51,13 @@ struct Shortcut {
 /// What a self-registering file said.
 enum class Registration { Done, NotSelfRegistering, Failed };
 
+/// A program that is waited for.
+struct ProgramRun {
+    Text program;
+    Text arguments;
+    bool isHidden = false;
+};
+
 class Target {
 public:
     virtual ~Target() = default;
@@ -81,6 +88,11 @@ public:
     virtual void AnnounceFont(const Text& path, bool on) = 0;
     /// Puts `from` in the place of `to` when the machine starts next; an empty `to` removes `from`.
     virtual void MoveAtRestart(const Text& from, const Text& to) = 0;
+
+    /// Starts the program with the setup's own rights, in its own folder, and waits for its end;
+    /// the code that it ends with. Windows of the setup stay alive meanwhile. Throws where it can't
+    /// be started.
+    virtual int RunProgram(const ProgramRun& run) = 0;
 
     /// Leaves a file to administrators and the system alone, where an administrator does this and
     /// the disk knows of rights.

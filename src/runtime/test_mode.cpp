@@ -3,6 +3,7 @@
 #include "runtime/failure_reason.h"
 #include "runtime/pages/page_chain.h"
 #include "runtime/pages/page_order.h"
+#include "runtime/script/script_run.h"
 
 namespace quillon {
 
@@ -88,8 +89,13 @@ TestWindow DescribeScreen(const LoadedPackage& package)
 
 LoadedPackage LoadForTest(const FileSystem& files, const Text& folder, TestMode mode)
 {
-    return mode == TestMode::Test ? LoadPackage(files, folder)
-                                  : LoadSetupInformation(files, folder);
+    if (mode == TestMode::Preview)
+        return LoadSetupInformation(files, folder);
+    LoadedPackage package = LoadPackage(files, folder);
+    // The author learns of it here, and no user of the package does.
+    if (!package.fault)
+        package.fault = FaultOfScripts(package.setup, package.texts);
+    return package;
 }
 
 ExitCode RunTest(const TestInput& input, LoadedPackage& package)

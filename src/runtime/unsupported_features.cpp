@@ -30,8 +30,6 @@ std::vector<SkippedPart> UnsupportedFeatures(const SetupInformation& setup,
     const Project& project = setup.project;
     // clang-format off
     const Part parts[] = {
-        {!project.Lists.RunScriptBefore.empty(),          {Message::PartScriptBefore}},
-        {!project.Lists.RunScriptAfter.empty(),           {Message::PartScriptAfter}},
         {!project.Lists.AutoexecBat.empty(),              {Message::PartStartupLines, "AUTOEXEC.BAT"}},
         {!project.Lists.ConfigSys.empty(),                {Message::PartStartupLines, "CONFIG.SYS"}},
         {project.NET.NET_TestIfInstalled != kOff,         {Message::PartNetTest}},

@@ -1,21 +1,22 @@
 // docs/variables-and-lists.md names every variable, and its examples are lines that the setup
-// reads.
+// reads; so are those of docs/setup-scripts.md.
 #include "formats/variable_names.h"
 #include "runtime/ini_lines.h"
 #include "runtime/registry_lines.h"
+#include "runtime/script/script_lines.h"
 
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <sstream>
 
 namespace quillon {
 namespace {
 
-std::string Page()
+std::string Page(const std::string& name = "variables-and-lists.md")
 {
-    std::ifstream file(std::filesystem::path(QUILLON_TEST_DATA).parent_path() / "docs" /
-                       "variables-and-lists.md");
+    std::ifstream file(std::filesystem::path(QUILLON_TEST_DATA).parent_path() / "docs" / name);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
@@ -67,6 +68,46 @@ TEST(VariablesAndLists, ShowsAnIniListThatCanBeRead)
     EXPECT_EQ(list.lines[1].section, "Avsnitt");
     EXPECT_EQ(list.lines[1].name, "Namn");
     EXPECT_EQ(list.lines[1].value, "värde");
+}
+
+TEST(SetupScripts, ShowAScriptThatCanBeRead)
+{
+    Text script;
+    std::istringstream page(Page("setup-scripts.md"));
+    for (std::string line; std::getline(page, line);)
+        if (line.starts_with("    "))
+            script += line + "\r\n";
+    const Script read = ReadScript(script);
+    EXPECT_EQ(read.fault, std::nullopt);
+    EXPECT_EQ(read.commands.size(), 9U);
+}
+
+TEST(SetupScripts, ShowTheFormOfEveryCommandAndCondition)
+{
+    const std::string page = Page("setup-scripts.md");
+    int shown = 0;
+    for (const char* row :
+         {"`MESSAGE \"text\"`", "`LOG \"text\"`", "`COPY \"file\" \"to\"`", "`DELETE \"file\"`",
+          "`RENAME \"file\" \"to\"`", "`MAKEFOLDER \"folder\"`", "`REMOVEFOLDER \"folder\"`",
+          "`INI \"file\" \"section\" \"name\" \"value\"`",
+          "`REGISTRY HKEY_CURRENT_USER\\Software\\Firma :: Antal=7`",
+          "`REGISTRY DELETE=HKEY_CURRENT_USER\\Software\\Firma`",
+          "`RUN \"program\" \"parameters\"`", "`RUNHIDDEN \"program\" \"parameters\"`",
+          "`SET %NAME \"value\"`", "`EXIT`"}) {
+        const std::string line = row;
+        EXPECT_NE(page.find(line), std::string::npos) << row;
+        EXPECT_EQ(ReadScript(line.substr(1, line.size() - 2)).fault, std::nullopt) << row;
+        ++shown;
+    }
+    for (const char* condition :
+         {"FILE \"file\"", "FOLDER \"folder\"", "REGISTRY \"HKEY_CURRENT_USER\\Software\\Firma\"",
+          "REGISTRY \"HKEY_CURRENT_USER\\Software\\Firma :: Namn\"", "YES \"question\"",
+          "\"%A\" = \"text\"", "\"%A\" <> \"text\""}) {
+        EXPECT_NE(page.find("`" + std::string(condition) + "`"), std::string::npos) << condition;
+        EXPECT_EQ(ReadScript("IF " + Text(condition) + "\r\nEND").fault, std::nullopt) << condition;
+        ++shown;
+    }
+    EXPECT_EQ(shown, 21);
 }
 
 } // namespace

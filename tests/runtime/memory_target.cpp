@@ -160,6 +160,15 @@ void MemoryTarget::MoveAtRestart(const Text& from, const Text& to)
     movesAtRestart.emplace_back(from, to);
 }
 
+int MemoryTarget::RunProgram(const ProgramRun& run)
+{
+    programsRun.push_back(run.program + (run.arguments.empty() ? "" : " " + run.arguments) +
+                          (run.isHidden ? " (hidden)" : ""));
+    onProgram(run);
+    const auto code = programCodes.find(run.program);
+    return code == programCodes.end() ? 0 : code->second;
+}
+
 void MemoryTarget::CloseToOthers(const Text& path)
 {
     beforeChange();

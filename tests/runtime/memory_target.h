@@ -38,6 +38,7 @@ public:
     Registration RegisterServer(const Text& path, bool on) override;
     void AnnounceFont(const Text& path, bool on) override;
     void MoveAtRestart(const Text& from, const Text& to) override;
+    int RunProgram(const ProgramRun& run) override;
     void CloseToOthers(const Text& path) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
     bool IsOfTrustedUser(const Text& path) const override { return ofOthers.count(path) == 0; }
@@ -56,6 +57,10 @@ public:
     std::set<Text> fonts;
     std::vector<std::pair<Text, Text>> movesAtRestart;
     bool hasCommonFolders = true;
+    std::vector<Text> programsRun;    // a program, its arguments and " (hidden)" behind it
+    std::map<Text, int> programCodes; // 0 where not named
+    /// What a program does while it runs; may throw.
+    std::function<void(const ProgramRun&)> onProgram = [](const ProgramRun&) {};
     std::set<Text> closedToOthers;
     std::set<Text> ofOthers; // files that somebody else made
     std::set<Text> links;    // in lower case

@@ -26,14 +26,18 @@ namespace {
 
 const Text kFolder = "C:\\Quillon\\Test";
 const Text kSetup = kFolder + "\\QNSETUP.INF";
+// A line of the project's script that says nothing to the setup.
+constexpr const char* kNoCommand = "\r\n[Registry]\r\n\r\n....\r\n\r\n[RunScriptAfter]";
+constexpr const char* kNoLine = "\r\n\r\n....\r\n\r\n[RunScriptAfter]";
 const Text kList = kFolder + "\\FILELIST.INF";
 
 class TestModeTest : public testing::Test {
 protected:
     TestModeTest()
     {
-        memory.files.Put(kSetup, ReplaceAll(GoldenFile("builder/full_project/QNSETUP_test_run.INF"),
-                                            "\r\nFiles = 7\r\n", "\r\nFiles = 0\r\n"));
+        const std::string full = ReplaceAll(GoldenFile("builder/full_project/QNSETUP_test_run.INF"),
+                                            "\r\nFiles = 7\r\n", "\r\nFiles = 0\r\n");
+        memory.files.Put(kSetup, ReplaceAll(full, kNoCommand, kNoLine));
         memory.files.Put(kList, GoldenFile("builder/file_list/FILELIST_no_rows.INF"));
     }
 
@@ -69,6 +73,15 @@ protected:
     test::MemoryTarget target{&memory.files};
     std::vector<TestWindow> shown;
 };
+
+TEST_F(TestModeTest, TellsTheAuthorOfAFaultyScript)
+{
+    memory.files.Put(kSetup, ReplaceAll(memory.files.Get(kSetup), kNoLine, kNoCommand));
+    EXPECT_EQ(Run("/TEST", {{BoxKind::Critical, "Test av Räkna",
+                             "Testet kan inte visas (fel i skriptet före installationen, rad 2: "
+                             "okänt kommando '[Registry]'). Starta det på nytt."}}),
+              ExitCode::Failed);
+}
 
 Project WithPages()
 {

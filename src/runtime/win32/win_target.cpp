@@ -6,6 +6,7 @@
 #include "platform/win32/win_failure.h"
 #include "runtime/win32/register_process.h"
 #include "runtime/win32/register_server.h"
+#include "runtime/win32/run_program.h"
 
 #include <shlobj.h>
 
@@ -203,6 +204,11 @@ void WinTarget::MoveAtRestart(const Text& from, const Text& to)
     if (!MoveFileExW(WidePath(from).c_str(), to.empty() ? nullptr : target.c_str(),
                      MOVEFILE_DELAY_UNTIL_REBOOT | MOVEFILE_REPLACE_EXISTING))
         FailAsWindowsSays(from);
+}
+
+int WinTarget::RunProgram(const ProgramRun& run)
+{
+    return RunProgramAndWait(run);
 }
 
 void WinTarget::CloseToOthers(const Text& path)

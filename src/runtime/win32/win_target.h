@@ -28,6 +28,7 @@ public:
     Registration RegisterServer(const Text& path, bool on) override;
     void AnnounceFont(const Text& path, bool on) override;
     void MoveAtRestart(const Text& from, const Text& to) override;
+    int RunProgram(const ProgramRun& run) override;
     void CloseToOthers(const Text& path) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
     bool IsOfTrustedUser(const Text& path) const override;

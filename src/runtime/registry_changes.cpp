@@ -1,0 +1,41 @@
+#include "runtime/registry_changes.h"
+
+namespace quillon {
+
+void ApplyRegistryLine(const RegistryWork& work, const RegistryLine& line)
+{
+    using Kind = RegistryLine::Kind;
+    const Text name = KeyText(line.key) + (line.hasValue ? " :: " + line.valueName : "");
+    switch (line.kind) {
+    case Kind::Key:
+        work.changes.MakeKey(line.key);
+        break;
+    case Kind::TextValue:
+        work.changes.WriteValue(line.key, line.valueName, TextData(line.text));
+        break;
+    case Kind::NumberValue:
+        work.changes.WriteValue(line.key, line.valueName, NumberData(line.number));
+        break;
+    case Kind::BytesValue:
+        work.changes.WriteValue(line.key, line.valueName, BytesData(line.bytes));
+        break;
+    case Kind::Delete:
+        if (line.hasValue)
+            work.changes.RemoveValue(line.key, line.valueName);
+        else
+            work.changes.RemoveKeyWithAllBelow(line.key);
+        work.log.Line(Message::LogRemovesRegistry, name);
+        return;
+    case Kind::Uninstall:
+        if (line.hasValue)
+            work.record.Add(record::UninstallValue{line.key, line.valueName});
+        else
+            work.record.Add(record::UninstallKey{line.key});
+        return;
+    case Kind::Unreadable:
+        return;
+    }
+    work.log.Line(Message::LogWritesRegistry, name);
+}
+
+} // namespace quillon

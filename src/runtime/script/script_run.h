@@ -1,0 +1,28 @@
+// Runs a project's scripts within an installation: what they change is taken back with everything
+// else if the installation fails, and what they make is removed by the uninstaller. A command that
+// can't be done ends the installation.
+//
+// A script reaches no further than the setup itself: a path has to be whole and plain, and to lead
+// through no link but those above the folders that the setup uses anyway. Whoever may write to a
+// folder on the way could lead an administrator's setup elsewhere by a link.
+#pragma once
+
+#include "runtime/install.h"
+#include "runtime/script/script_lines.h"
+
+namespace quillon {
+
+struct ScriptWork {
+    const InstallInput& input;
+    InstallTransaction& changes;
+    InstallJournal& record;
+};
+
+/// `part` names the script for the log and for failures. Throws `SetupFailure`, with the code of
+/// an EXIT, or where a command fails.
+void RunScript(const ScriptWork& work, const Script& script, Message part);
+
+/// The first fault of the package's scripts.
+std::optional<Reason> FaultOfScripts(const SetupInformation& setup, const LanguageTexts& texts);
+
+} // namespace quillon
