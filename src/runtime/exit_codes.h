@@ -19,7 +19,9 @@ enum class ExitCode : int {
     OtherSetupRuns = 1618,
     WrongSystem = 1633,
     BadSwitch = 1639,
-    RestartNeeded = 3010, // done, but the product is whole only after the next start
+    RestartStarted = 1641, // done, and the machine starts anew
+    RestartNeeded = 3010,  // done, but the product is whole only after the next start
+    MissingPrerequisite = 4002,
 };
 
 /// Ends the installation. `what` is for the user and the log, in the user's language.

@@ -1,5 +1,6 @@
 #include "runtime/file_installer.h"
 
+#include "formats/digest_text.h"
 #include "helpers/version_resource.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -81,8 +82,10 @@ void FileInstaller::InstallOne(const PlannedFile& file)
         input_.host.files.RemoveFile(staged);
     if (HasOption(options, CopyLetter::kShared) && !HasOption(options, CopyLetter::kNeverUninstall))
         CountSharedFile(file, existing.has_value());
-    if (wanted)
+    if (wanted) {
+        NoteContent(file);
         NoteWhatFollows(file, atRestart);
+    }
 }
 
 // In one question: where a name is new, some file systems read the whole folder to say so.
@@ -126,13 +129,16 @@ Text FileInstaller::Stage(const PlannedFile& file)
 {
     const Text staged = changes_.StagingPath(file.path);
     const auto output = input_.host.files.OpenOutput(staged);
+    Sha256 hash;
     input_.package.Extract(*file.row, [&](std::span<const std::byte> bytes) {
         output->Write(bytes);
+        hash.Add(bytes);
         done_ += bytes.size();
         input_.ask.ShowProgress(done_, total_);
         input_.ask.ProcessEvents();
     });
     output->Close();
+    digest_ = hash.Finish();
     input_.host.files.SetModified(staged, input_.package.Modified(*file.row));
     return staged;
 }
@@ -173,6 +179,13 @@ void FileInstaller::CountSharedFile(const PlannedFile& file, bool existed)
     record_.Add(record::Shared{file.path});
     changes_.WriteValue(SharedFilesKey(), file.path, NumberData(before + 1),
                         InstallTransaction::Recorded::No);
+}
+
+void FileInstaller::NoteContent(const PlannedFile& file)
+{
+    if (input_.plan.hasUninstaller &&
+        !HasOption(file.row->copyOptions, CopyLetter::kNeverUninstall))
+        record_.Add(record::Content{file.path, file.row->size, DigestText(digest_)});
 }
 
 void FileInstaller::NoteWhatFollows(const PlannedFile& file, bool atRestart)

@@ -2,6 +2,7 @@
 // decides about a file that is already there by the row's copy options, and exchanges the two.
 #pragma once
 
+#include "helpers/sha256.h"
 #include "runtime/copy_decision.h"
 #include "runtime/install.h"
 
@@ -30,6 +31,7 @@ private:
     Text Stage(const PlannedFile& file);
     bool Put(const PlannedFile& file, const Text& staged, bool replaces);
     void CountSharedFile(const PlannedFile& file, bool existed);
+    void NoteContent(const PlannedFile& file);
     void NoteWhatFollows(const PlannedFile& file, bool atRestart);
 
     const InstallInput& input_;
@@ -38,6 +40,7 @@ private:
     std::vector<Text> toRegister_;
     std::vector<Text> toRegisterAtRestart_;
     std::vector<PlannedFile> fonts_;
+    Sha256Digest digest_{}; // of the file that was staged last
     std::uint64_t done_ = 0;
     std::uint64_t total_ = 0;
     std::uint64_t installed_ = 0;

@@ -7,9 +7,11 @@
 #include "runtime/failure_reason.h"
 #include "runtime/file_installer.h"
 #include "runtime/ini_changes.h"
+#include "runtime/old_files.h"
 #include "runtime/planned_shortcuts.h"
 #include "runtime/registry_changes.h"
 #include "runtime/script/script_run.h"
+#include "runtime/startup_files.h"
 #include "runtime/uninstall_entry.h"
 
 namespace quillon {
@@ -44,6 +46,7 @@ public:
 private:
     void DoEverything();
     void BeginRecord();
+    void TakeOverRecord(std::vector<JournalRecord> earlier);
     void RecordTexts();
     void SaveRecord();
     void ShareMainFolder();
@@ -62,6 +65,9 @@ private:
     InstallJournal record_;
     InstallTransaction changes_;
     FileInstaller files_;
+    // Of an earlier installation of the product.
+    std::size_t earlierRecords_ = 0;
+    KnownContents contents_;
 };
 
 void Installation::DoEverything()
@@ -81,6 +87,9 @@ void Installation::DoEverything()
     input_.ask.AddStatusLine(input_.texts[Message::Settings]);
     WriteRegistry();
     WriteIniFiles({input_.host.files, changes_, record_, input_.log}, input_.plan.ini);
+    WriteStartupFiles({input_.host.files, input_.target, changes_, record_, input_.log,
+                       input_.texts, input_.variables},
+                      input_.setup.project.Lists);
     RegisterFiles();
     RegisterFonts();
     PutUninstaller();
@@ -88,6 +97,8 @@ void Installation::DoEverything()
         changes_.MakeShortcut(planned.path, planned.shortcut);
     RunScript(scripts, input_.plan.scriptAfter, Message::PartScriptAfter);
     RegisterAtRestart();
+    RemoveOldFiles({input_.host, input_.target, changes_, record_, input_.log, input_.plan},
+                   earlierRecords_, contents_);
     SaveRecord();
     changes_.Commit();
 }
@@ -103,16 +114,25 @@ void Installation::BeginRecord()
     if (files.FileExists(path) && input_.target.IsOfTrustedUser(path)) {
         auto earlier =
             ReadInstallJournal(ReadWholeFile(files, path)).value_or(std::vector<JournalRecord>{});
-        // They are reported anew, and would come to more with each installation.
-        std::erase_if(earlier, [](const JournalRecord& record) {
-            return std::holds_alternative<record::Product>(record) ||
-                   std::holds_alternative<record::Message>(record);
-        });
-        record_.TakeOver(std::move(earlier));
+        TakeOverRecord(std::move(earlier));
     }
     ShareMainFolder();
     record_.Add(record::Product{input_.setup.project.ProjectName.ProjectName});
     RecordTexts();
+}
+
+void Installation::TakeOverRecord(std::vector<JournalRecord> earlier)
+{
+    // They are reported anew, and would come to more with each installation.
+    std::erase_if(earlier, [&](const JournalRecord& record) {
+        if (const auto* const content = std::get_if<record::Content>(&record))
+            contents_[LowerCase(content->path)] = *content;
+        return std::holds_alternative<record::Product>(record) ||
+               std::holds_alternative<record::Message>(record) ||
+               std::holds_alternative<record::Content>(record);
+    });
+    earlierRecords_ = earlier.size();
+    record_.TakeOver(std::move(earlier));
 }
 
 void Installation::SaveRecord()

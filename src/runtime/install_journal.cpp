@@ -28,7 +28,8 @@ bool IsOneOf(const JournalRecord& record)
 bool IsOfInstalledFile(const JournalRecord& record)
 {
     return IsOneOf<record::File, record::Replaced, record::Backup, record::Shared, record::IniFile,
-                   record::IniOpenEnd, record::IniSection, record::IniValue>(record);
+                   record::IniOpenEnd, record::IniSection, record::IniValue, record::StartupLine>(
+        record);
 }
 
 } // namespace
@@ -87,6 +88,20 @@ void InstallJournal::TakeOver(std::vector<JournalRecord> earlier)
         index_.insert(IndexOf(record));
     records_.insert(records_.begin(), std::make_move_iterator(earlier.begin()),
                     std::make_move_iterator(earlier.end()));
+}
+
+void InstallJournal::Forget(const std::set<Text>& paths)
+{
+    if (paths.empty())
+        return;
+    std::erase_if(records_, [&](const JournalRecord& record) {
+        const bool isAbout =
+            IsOneOf<record::File, record::Replaced, record::Backup, record::Content>(record) &&
+            paths.count(LowerCase(SubjectOf(record))) > 0;
+        if (isAbout)
+            index_.erase(IndexOf(record));
+        return isAbout;
+    });
 }
 
 // Each folder that something is put into is named once, since the uninstaller goes into no other.

@@ -6,6 +6,7 @@
 #include "platform/file_system.h"
 #include "runtime/journal_records.h"
 
+#include <set>
 #include <unordered_set>
 #include <vector>
 
@@ -33,6 +34,8 @@ public:
     {
         return index_.count(IndexOf(Record{Text(path)})) > 0;
     }
+    /// Everything about these files, by their paths in lower case.
+    void Forget(const std::set<Text>& paths);
     const std::vector<JournalRecord>& Records() const { return records_; }
     /// They precede all others.
     void TakeOver(std::vector<JournalRecord> earlier);

@@ -9,7 +9,6 @@
 #include "runtime/package_reader.h"
 #include "runtime/planned_shortcuts.h"
 #include "runtime/switches.h"
-#include "runtime/unsupported_features.h"
 
 #include <algorithm>
 
@@ -167,7 +166,6 @@ InstallPlan MakeInstallPlan(const PlanInput& input)
     plan.hasUninstaller = input.setup.project.InstallOptions.UninstallSupport != kOff;
     plan.installLog = ChooseInstallJournal(input.host.files, plan.mainFolder,
                                            input.setup.project.ProjectName.ProjectName);
-    plan.skipped = UnsupportedFeatures(input.setup, input.rows, input.texts);
     PlanRows(input, plan);
     PlanShortcuts(input, plan);
     PlanRegistry(input, plan);

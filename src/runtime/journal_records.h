@@ -135,6 +135,22 @@ struct IniValue {
     bool operator==(const IniValue&) const = default;
 };
 
+/// A line that we have added to a file which the system reads when it starts.
+struct StartupLine {
+    Text path;
+    Text line; // its bytes, as Windows-1252
+    bool operator==(const StartupLine&) const = default;
+};
+
+/// What a file that we wrote holds: of one that is still so nothing is lost when an update removes
+/// it.
+struct Content {
+    Text path;
+    std::uint64_t size = 0;
+    Text digest; // SHA-256
+    bool operator==(const Content&) const = default;
+};
+
 /// A folder of the transaction's own, with all that is in it.
 struct TempFolder {
     Text path;
@@ -185,9 +201,9 @@ using JournalRecord =
                  record::Replaced, record::Backup, record::Shared, record::Font, record::Registered,
                  record::AtRestart, record::Key, record::Value, record::UninstallKey,
                  record::UninstallValue, record::IniFile, record::IniOpenEnd, record::IniSection,
-                 record::IniValue, record::TempFolder, record::MovedAside, record::FormerValue,
-                 record::RemovedKey, record::RegisteredBefore, record::AnnouncedBefore,
-                 record::Committed>;
+                 record::IniValue, record::StartupLine, record::Content, record::TempFolder,
+                 record::MovedAside, record::FormerValue, record::RemovedKey,
+                 record::RegisteredBefore, record::AnnouncedBefore, record::Committed>;
 
 /// The path or the registry key that a record is about; empty where it is about none.
 Text SubjectOf(const JournalRecord& record);

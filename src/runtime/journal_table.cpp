@@ -45,6 +45,8 @@ constexpr std::tuple kRows{
     Line("INISECTION",       &record::IniSection::path, &record::IniSection::section),
     Line("INIVALUE",         &record::IniValue::path, &record::IniValue::section, &record::IniValue::name,
                              &record::IniValue::value, &record::IniValue::formerLine),
+    Line("STARTUPLINE",      &record::StartupLine::path, &record::StartupLine::line),
+    Line("CONTENT",          &record::Content::path, &record::Content::size, &record::Content::digest),
     Line("TEMPFOLDER",       &record::TempFolder::path),
     Line("ASIDE",            &record::MovedAside::path, &record::MovedAside::aside),
     Line("FORMERVALUE",      &record::FormerValue::key, &record::FormerValue::name, &record::FormerValue::former),
@@ -95,6 +97,11 @@ void Put(Text& line, const Text& field)
     line += "\t" + Escape(field);
 }
 
+void Put(Text& line, std::uint64_t number)
+{
+    Put(line, NumberText(static_cast<std::int64_t>(number)));
+}
+
 void Put(Text& line, const RegistryKey& key)
 {
     Put(line, RootName(key.root));
@@ -133,6 +140,15 @@ public:
         const bool there = hasMore_;
         field = Next();
         return there;
+    }
+
+    bool Take(std::uint64_t& number)
+    {
+        Text digits;
+        const bool there = Take(digits);
+        const std::int64_t read = LeadingNumber(digits);
+        number = static_cast<std::uint64_t>(read);
+        return there && read >= 0 && NumberText(read) == digits;
     }
 
     bool Take(RegistryKey& key)

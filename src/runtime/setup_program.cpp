@@ -9,12 +9,16 @@
 #include "platform/whole_file.h"
 #include "runtime/after_install.h"
 #include "runtime/copy_decision.h"
+#include "runtime/data_access.h"
 #include "runtime/failure_reason.h"
+#include "runtime/first_program.h"
 #include "runtime/install.h"
+#include "runtime/net_framework.h"
 #include "runtime/package_check.h"
 #include "runtime/pages/component_switch.h"
 #include "runtime/pages/earlier_version.h"
 #include "runtime/pages/page_chain.h"
+#include "runtime/restart.h"
 #include "runtime/rollback.h"
 #include "runtime/script/script_run.h"
 #include "runtime/uninstall_entry.h"
@@ -50,12 +54,15 @@ private:
     void CheckFreeSpace(const InstallPlan& plan) const;
     void KeepHelpers() const;
     void CheckHelpers(const InstallPlan& plan) const;
+    void RunProgramBefore();
     void FindDestination();
     void LeadThroughPages();
     void FinishEarlier(const SetupVariables& variables);
     SetupVariables Variables() const;
     InstallResult InstallPackage();
-    void TellTheEnd(const InstallResult& result);
+    void LogSound();
+    ExitCode TellTheEnd(const InstallResult& result);
+    Text Title() const { return texts_(Message::Title, setup_.project.ProjectName.ProjectName); }
 
     const SetupInput& input_;
     const LoadedPackage& package_;
@@ -111,13 +118,15 @@ ExitCode SetupProgram::Run()
         CheckFiles();
         CheckPassword();
         CheckSystem();
+        CheckNetFramework({setup_.project.NET, input_.target, input_.ask, log_, texts_, Title(),
+                           input_.switches.silent});
+        RunProgramBefore();
         FindDestination();
         LeadThroughPages();
-        const InstallResult result = InstallPackage();
-        TellTheEnd(result);
+        const ExitCode code = TellTheEnd(InstallPackage());
         log_.Line(Message::LogDone);
         log_.Close();
-        return result.needsRestart ? ExitCode::RestartNeeded : ExitCode::Done;
+        return code;
     } catch (const SetupFailure& failure) {
         return Fail(failure.Code(), failure.what());
     } catch (const ZipError& error) {
@@ -289,9 +298,20 @@ void SetupProgram::FinishEarlier(const SetupVariables& variables)
             throw SetupFailure(ExitCode::Failed, texts_(Message::EarlierNotUndone, folder));
 }
 
+void SetupProgram::RunProgramBefore()
+{
+    const SetupVariables variables = Variables();
+    const auto folder = RunFirstProgram(
+        {input_.host, input_.target, input_.ask, log_, texts_, setup_, variables, package_.manifest,
+         input_.switches.packageFolder, input_.workFolder, input_.switches.silent});
+    destination_ = folder.value_or("");
+}
+
+// What somebody has typed goes before what programs say.
 void SetupProgram::FindDestination()
 {
-    destination_ = input_.switches.destination;
+    if (!input_.switches.destination.empty())
+        destination_ = input_.switches.destination;
     if (!destination_.empty())
         return;
     const auto earlier = EarlierVersionFolder(setup_, input_.host, input_.target);
@@ -301,6 +321,8 @@ void SetupProgram::FindDestination()
 
 void SetupProgram::LeadThroughPages()
 {
+    if (input_.sound != nullptr)
+        input_.sound->Start();
     if (input_.pages == nullptr)
         return;
     chain_ = std::make_unique<PageChain>(
@@ -333,15 +355,31 @@ InstallResult SetupProgram::InstallPackage()
                           &package_.manifest});
     reader.CheckEverything();
     CheckFreeSpace(plan);
-    return Install({input_.host, input_.target, input_.ask, log_, texts_, setup_, variables, plan,
-                    reader, input_.workFolder, input_.switches.silent, package_.manifest});
+    InstallResult result =
+        Install({input_.host, input_.target, input_.ask, log_, texts_, setup_, variables, plan,
+                 reader, input_.workFolder, input_.switches.silent, package_.manifest});
+    if (InstallDataAccess({input_.host, input_.target, input_.ask, log_, texts_, setup_, plan,
+                           input_.workFolder, input_.switches.silent}))
+        result.needsRestart = true;
+    return result;
+}
+
+void SetupProgram::LogSound()
+{
+    if (setup_.project.DesSound.BackSoundFilename.empty())
+        return;
+    if (input_.sound == nullptr)
+        log_.Skipped(texts_[Message::PartSound], {Message::SkipSilent});
+    else if (input_.sound->HasFailed())
+        log_.Skipped(texts_[Message::PartSound], {Message::SkipNoSound});
 }
 
 // The product is installed: whatever happens here takes nothing back.
-void SetupProgram::TellTheEnd(const InstallResult& result)
+ExitCode SetupProgram::TellTheEnd(const InstallResult& result)
 {
     if (result.needsRestart)
         log_.Line(Message::RestartNeeded);
+    LogSound();
     if (chain_)
         chain_->ShowClosingPage(*input_.pages);
     const SetupVariables variables = Variables();
@@ -359,10 +397,9 @@ void SetupProgram::TellTheEnd(const InstallResult& result)
             chain_->ShowDocument(*input_.pages, setup_.project.ShowDocAfter.InternalRTFBoxDlgTitle,
                                  rtf);
     });
-    const Flag never = setup_.project.InstallOptions.NeverRestartWindows;
-    if (result.needsRestart && !input_.switches.silent && never == kOff)
-        input_.ask.Inform(texts_(Message::Title, setup_.project.ProjectName.ProjectName),
-                          texts_[Message::RestartNeeded]);
+    return DecideRestart({setup_.project.InstallOptions, input_.ask, texts_, Title(),
+                          result.needsRestart,
+                          !input_.switches.silent && !input_.switches.noRestart});
 }
 
 template <class Take>

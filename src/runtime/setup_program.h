@@ -5,6 +5,7 @@
 #include "formats/package_manifest.h"
 #include "platform/ask.h"
 #include "runtime/action_log.h"
+#include "runtime/background_sound.h"
 #include "runtime/container.h"
 #include "runtime/exit_codes.h"
 #include "runtime/install_plan.h"
@@ -38,6 +39,8 @@ struct SetupInput {
     Text workFolder; // exists, and is removed by the caller
     // Shows the pages of the package; null where nobody is to be asked.
     PageView* pages = nullptr;
+    // Of the screen behind the pages; null where nothing is to be heard.
+    BackgroundSound* sound = nullptr;
     bool otherSetupRuns = false; // another one on this machine
     // Starts a program or opens a document for the user; throws `RunError`.
     std::function<void(const Text& file, const Text& arguments)> startAsUser = {};

@@ -36,7 +36,7 @@ constexpr PlainSwitch kPlainSwitches[] = {
     {"PASSIVE", [](Switches& switches) { switches.silent = switches.passive = true; }},
     {"QB", [](Switches& switches) { switches.silent = switches.passive = true; }},
     // The machine is never started anew without being asked for; tools say so all the same.
-    {"NORESTART", [](Switches&) {}},
+    {"NORESTART", [](Switches& switches) { switches.noRestart = true; }},
 };
 
 struct ValueSwitch {

@@ -14,6 +14,7 @@ enum class TestMode { Test, Preview };
 struct Switches {
     bool silent = false;              // /S and its likes, and /passive
     bool passive = false;             // /passive, /qb: progress alone
+    bool noRestart = false;           // /norestart
     Text destination;                 // /D=, /DIR= or INSTALLDIR=
     std::optional<Text> components;   // /COMPONENTS=
     std::optional<Text> programGroup; // /GROUP=

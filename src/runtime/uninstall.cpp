@@ -9,6 +9,7 @@
 #include "runtime/planned_shortcuts.h"
 #include "runtime/recorded_paths.h"
 #include "runtime/restart_moves.h"
+#include "runtime/startup_files.h"
 #include "runtime/uninstall_entry.h"
 
 #include <algorithm>
@@ -49,6 +50,11 @@ private:
     void Undo(const record::IniOpenEnd& change) { UndoIni(change); }
     void Undo(const record::IniSection& change) { UndoIni(change); }
     void Undo(const record::IniValue& change) { UndoIni(change); }
+    void Undo(const record::StartupLine& line)
+    {
+        if (IsInReach(line.path))
+            UndoStartupLine(files_, line);
+    }
     // What tells of the product or belongs to the installation alone. Folders and what waits for
     // the machine's next start go last.
     template <class Record>

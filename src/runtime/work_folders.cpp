@@ -4,6 +4,9 @@
 #include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "runtime/background_sound.h"
+#include "runtime/data_access.h"
+#include "runtime/first_program.h"
 #include "runtime/rollback.h"
 
 #include <algorithm>
@@ -20,7 +23,9 @@ constexpr const char* kFilesOfASetup[] = {RuntimePrograms::kSetup.name,
                                           RuntimePrograms::kSecondRegistryHelper.inPackage,
                                           RuntimePrograms::kUninstaller.inPackage,
                                           kMovedUninstaller,
-                                          kFileContainerName};
+                                          kFileContainerName,
+                                          kFirstProgram,
+                                          kDataAccessProgram};
 
 // "QN123456.TMP"
 bool IsWorkFolderName(std::string_view name)
@@ -38,6 +43,9 @@ void RemoveWorkFolder(FileSystem& files, const Text& folder)
         return;
     for (const char* name : kFilesOfASetup)
         if (const Text path = JoinPath(folder, name); files.FileExists(path))
+            RemoveEvenReadOnly(files, path);
+    for (const SoundKind& kind : kSoundKinds)
+        if (const Text path = JoinPath(folder, kind.name); files.FileExists(path))
             RemoveEvenReadOnly(files, path);
     lock.reset();
     files.RemoveFolder(folder);

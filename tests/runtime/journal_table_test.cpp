@@ -52,6 +52,8 @@ INSTANTIATE_TEST_SUITE_P(OfEachKind, LineOfAJournal, testing::Values(
     LineCase{record::RemovedKey{kFirma}, "REMOVEDKEY\tHKEY_CURRENT_USER\tSOFTWARE\\Firma"},
     LineCase{record::RegisteredBefore{"C:\\b"}, "REGISTEREDBEFORE\tC:\\b"},
     LineCase{record::AnnouncedBefore{"C:\\b"}, "ANNOUNCEDBEFORE\tC:\\b"},
+    LineCase{record::StartupLine{"C:\\CONFIG.SYS", "FILES=40\t%A%"}, "STARTUPLINE\tC:\\CONFIG.SYS\tFILES=40%09%25A%25"},
+    LineCase{record::Content{"C:\\a.txt", 5000000000, "0a1b"}, "CONTENT\tC:\\a.txt\t5000000000\t0a1b"},
     LineCase{record::Committed{}, "COMMITTED"}));
 // clang-format on
 
@@ -83,6 +85,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "FORMERVALUE\tHKEY_CURRENT_USER\tFirma\tv\t4\t0",
                     "FORMERVALUE\tHKEY_CURRENT_USER\tFirma\tv\t4",
                     // Neither with nor without a former line.
+                    "CONTENT\tC:\\a.txt\t-1\t0a", "CONTENT\tC:\\a.txt\t05\t0a",
+                    "CONTENT\tC:\\a.txt\t\t0a", "CONTENT\tC:\\a.txt\t5",
                     "INIVALUE\tC:\\A.INI\tS\tx\t2\t2\tx=1", "INIVALUE\tC:\\A.INI\tS\tx\t2\t\tx=1",
                     // Keys of the system's own.
                     "UNINSTALLKEY\tHKEY_LOCAL_MACHINE\t", "UNINSTALLKEY\tHKEY_LOCAL_MACHINE\t\\",

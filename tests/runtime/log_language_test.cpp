@@ -58,8 +58,8 @@ TEST_F(LogLanguageTest, TellsOfAnInstallationInTheLanguageOfThePackage)
         Lines(),
         testing::IsSupersetOf(
             {"Installing Exempel from D:\\Paket",
-             "Skipping the lines for AUTOEXEC.BAT: not supported by this version of the "
-             "setup program",
+             "Skipping the lines for AUTOEXEC.BAT: this version of Windows doesn't read "
+             "the file",
              "Skipping the registry line \"x\": the line doesn't begin with a root key of "
              "the registry",
              "Skipping the registry line \"HKEY_DYN_DATA\\x\": HKEY_DYN_DATA can't be "

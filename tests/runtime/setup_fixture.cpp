@@ -150,7 +150,7 @@ ExitCode SetupFixture::Install(const Text& switches)
                              throw RunError(ErrorNumber::kFileNotFound, path);
                          return std::make_unique<MemoryContainer>(sources, damagedEntry);
                      },
-                     read, kWorkFolder, pages, otherSetupRuns,
+                     read, kWorkFolder, pages, sound, otherSetupRuns,
                      [this](const Text& file, const Text& arguments) {
                          if (!files.FileExists(file))
                              throw RunError(ErrorNumber::kFileNotFound, file);

@@ -153,6 +153,7 @@ protected:
     Text openedContainer;
     Ask* ask = nullptr; // null: silent
     PageView* pages = nullptr;
+    BackgroundSound* sound = nullptr;
     bool otherSetupRuns = false;
     std::vector<LeftBehind> left; // what UninstallProduct has told to be there still
     std::vector<Text> started;    // a file, and its arguments behind a blank

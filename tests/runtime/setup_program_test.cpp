@@ -501,19 +501,6 @@ TEST_F(SetupProgramTest, LeavesSystemFilesToNewWindows)
     EXPECT_TRUE(memory.files.FileExists("C:\\WINDOWS\\SYSTEM32\\STDOLE2.TLB"));
 }
 
-TEST_F(SetupProgramTest, NamesEveryPartOfALaterStage)
-{
-    project.Lists.AutoexecBat = "x";
-    project.NET.NET_TestIfInstalled = kOn;
-    project.InstallOptions.RestartWindows = kOn;
-    project.DesSound.BackSoundFilename = "S:\\fanfar.wav";
-    AddFile("MDAC_TYP.ZIP", "%DESTDIR", "x");
-    EXPECT_EQ(Install(), ExitCode::Done);
-    for (const char* what : {"AUTOEXEC.BAT", ".NET Framework", "omstarten", "ljudet till",
-                             "dataåtkomst (MDAC_TYP.ZIP)"})
-        EXPECT_THAT(Log(), HasSubstr(what));
-}
-
 TEST_F(SetupProgramTest, ReadsFilesThatAreKeptOneByOne)
 {
     sources.clear();

@@ -18,6 +18,8 @@
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/register_process.h"
+#include "runtime/win32/restart_machine.h"
+#include "runtime/win32/screen_sound.h"
 #include "runtime/win32/screen_window.h"
 #include "runtime/win32/start_as_user.h"
 #include "runtime/win32/win_target.h"
@@ -99,6 +101,8 @@ ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
     PageWindow pages(
         instance, boxes, package.texts,
         [&](const Text& bitmap) { return design.SidePicture(bitmap); }, &screen);
+    ScreenSound sound(design, package.setup.project.DesSound.BackSoundFilename, {});
+    sound.Start();
     return run(boxes, pages);
 }
 
@@ -113,20 +117,20 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     WinTarget target(JoinPath(work.Path(), RuntimePrograms::kRegistryHelper.inPackage));
     const OpenContainer openContainer =
         LibraryContainers(UnzipLibrary(files, switches.packageFolder));
-    const auto run = [&](Ask& ask, PageView* pages) {
-        return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages,
+    const auto run = [&](Ask& ask, PageView* pages, BackgroundSound* sound) {
+        return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages, sound,
                          only.IsNot(), StartAsUser},
                         package);
     };
     if (switches.silent && !switches.passive) {
         SilentAsk silent;
-        return run(silent, nullptr);
+        return run(silent, nullptr, nullptr);
     }
     if (switches.passive) {
         WindowAsk window(instance, ProjectTitle(package), package.texts);
         window.Show();
         PassiveAsk passive(window);
-        return run(passive, nullptr);
+        return run(passive, nullptr, nullptr);
     }
     const DesignFiles design(files, openContainer, switches.packageFolder,
                              DesignFiles::Names::InPackage);
@@ -140,7 +144,8 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
         instance, window, package.texts,
         [&](const Text& bitmap) { return design.SidePicture(bitmap); }, &screen);
     window.Show();
-    return run(window, &pages);
+    ScreenSound sound(design, package.setup.project.DesSound.BackSoundFilename, work.Path());
+    return run(window, &pages, &sound);
 }
 
 // `texts` become those of the package as soon as they have been read.
@@ -178,5 +183,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
                            texts);
     }
     OleUninitialize();
+    // By now the setup has left nothing behind.
+    if (code == ExitCode::RestartStarted && !RestartMachine())
+        code = ExitCode::RestartNeeded;
     return static_cast<int>(code);
 }

@@ -1,0 +1,47 @@
+// The sound of the screen behind the pages.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <array>
+#include <cstdint>
+
+namespace quillon {
+
+/// A kind of sound that Windows plays by itself.
+struct SoundKind {
+    const char* ending;
+    const char* device; // of the media control interface
+    const char* name;   // of the file in the setup's private folder
+};
+inline constexpr std::array<SoundKind, 5> kSoundKinds{{
+    {".WAV", "waveaudio", "QNSOUND.WAV"},
+    {".MID", "sequencer", "QNSOUND.MID"},
+    {".MIDI", "sequencer", "QNSOUND.MID"},
+    {".RMI", "sequencer", "QNSOUND.MID"},
+    {".MP3", "mpegvideo", "QNSOUND.MP3"},
+}};
+
+/// Null for any other kind.
+inline const SoundKind* KindOfSound(std::string_view file)
+{
+    for (const SoundKind& kind : kSoundKinds)
+        if (UpperCase(file).ends_with(kind.ending))
+            return &kind;
+    return nullptr;
+}
+
+/// A sound is read into memory once.
+inline constexpr std::uint64_t kMaxSoundSize = 16 * 1024 * 1024;
+
+class BackgroundSound {
+public:
+    virtual ~BackgroundSound() = default;
+
+    /// Begins to play, over and over, and waits for nothing. Nothing is thrown.
+    virtual void Start() = 0;
+    /// Whether it has turned out by now that it can't be played.
+    virtual bool HasFailed() const = 0;
+};
+
+} // namespace quillon

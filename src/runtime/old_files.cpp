@@ -1,0 +1,134 @@
+#include "runtime/old_files.h"
+
+#include "formats/digest_text.h"
+#include "formats/package_manifest.h"
+#include "platform/run_error.h"
+#include "runtime/failure_reason.h"
+#include "runtime/recorded_paths.h"
+
+#include <memory>
+#include <set>
+
+namespace quillon {
+
+namespace {
+
+class OldFiles {
+public:
+    OldFiles(const OldFilesWork& work, std::size_t earlier, const KnownContents& contents)
+        : work_(work), files_(work.host.files), contents_(contents),
+          records_(work.record.Records()), earlier_(earlier)
+    {
+        CollectNewOnes();
+    }
+
+    void RemoveAll();
+
+private:
+    void CollectNewOnes();
+    bool IsGone(const Text& path);
+    std::optional<Reason> ReasonToStay(const Text& path);
+    bool IsAsInstalled(const record::Content& content) const;
+    void KeepContents(const std::set<Text>& gone) const;
+
+    const OldFilesWork& work_;
+    const FileSystem& files_;
+    const KnownContents& contents_;
+    const std::vector<JournalRecord>& records_;
+    const std::size_t earlier_;
+    std::set<Text> written_; // by this installation; all in lower case
+    std::set<Text> wanted_;  // rows of the new version, installed or not
+    std::unique_ptr<RecordedPaths> paths_;
+};
+
+void OldFiles::CollectNewOnes()
+{
+    for (std::size_t i = earlier_; i < records_.size(); ++i)
+        if (std::holds_alternative<record::File>(records_[i]) ||
+            std::holds_alternative<record::Replaced>(records_[i]))
+            written_.insert(LowerCase(SubjectOf(records_[i])));
+    for (const PlannedFile& file : work_.plan.files)
+        wanted_.insert(LowerCase(file.path));
+    for (const SkippedPart& part : work_.plan.skipped)
+        wanted_.insert(LowerCase(part.what));
+}
+
+void OldFiles::RemoveAll()
+{
+    std::set<Text> gone;
+    for (std::size_t i = 0; i < earlier_; ++i) {
+        const auto* const file = std::get_if<record::File>(&records_[i]);
+        const Text key = file != nullptr ? LowerCase(file->path) : Text();
+        if (file == nullptr || written_.count(key) > 0 || wanted_.count(key) > 0 ||
+            gone.count(key) > 0)
+            continue;
+        // Taken along, since the record may grow meanwhile.
+        if (const Text path = file->path; IsGone(path))
+            gone.insert(key);
+    }
+    KeepContents(gone);
+    work_.record.Forget(gone);
+}
+
+// True also where it had gone before.
+bool OldFiles::IsGone(const Text& path)
+{
+    if (!files_.FileExists(path))
+        return true;
+    std::optional<Reason> reason = ReasonToStay(path);
+    std::optional<RunError> failure;
+    if (!reason && RunErrorNumber([&] { work_.changes.RemoveFile(path); }, failure) != 0)
+        reason = ReasonOf(*failure);
+    if (reason)
+        work_.log.Skipped(path, *reason);
+    else
+        work_.log.Line(Message::LogRemovesOldFile, path);
+    return !reason;
+}
+
+std::optional<Reason> OldFiles::ReasonToStay(const Text& path)
+{
+    const auto content = contents_.find(LowerCase(path));
+    if (content == contents_.end())
+        return Reason{Message::SkipUnknownContent};
+    if (paths_ == nullptr)
+        paths_ = std::make_unique<RecordedPaths>(records_, work_.host, work_.target,
+                                                 work_.plan.mainFolder);
+    if (const auto outside = paths_->WhyOutOfReach(path))
+        return Reason{*outside};
+    // Of these the system knows more than their contents; the uninstaller tells it that they go.
+    if (paths_->IsShared(path) || work_.record.Has<record::Shared>(path) ||
+        work_.record.Has<record::Registered>(path) || work_.record.Has<record::Font>(path))
+        return Reason{Message::SkipKnownToSystem};
+    if (!IsAsInstalled(content->second))
+        return Reason{Message::SkipChangedFile};
+    return std::nullopt;
+}
+
+bool OldFiles::IsAsInstalled(const record::Content& content) const
+{
+    bool isSame = false;
+    RunErrorNumber([&] {
+        isSame = files_.Status(content.path).size == content.size &&
+                 DigestText(DigestOfFile(files_, content.path)) == content.digest;
+    });
+    return isSame;
+}
+
+// What has not been written anew is still what it was.
+void OldFiles::KeepContents(const std::set<Text>& gone) const
+{
+    for (const auto& [key, content] : contents_)
+        if (written_.count(key) == 0 && gone.count(key) == 0)
+            work_.record.Add(content);
+}
+
+} // namespace
+
+void RemoveOldFiles(const OldFilesWork& work, std::size_t earlierRecords,
+                    const KnownContents& contents)
+{
+    OldFiles(work, earlierRecords, contents).RemoveAll();
+}
+
+} // namespace quillon

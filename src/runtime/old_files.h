@@ -1,0 +1,30 @@
+// What an earlier version of the product has left that the new one lacks.
+#pragma once
+
+#include "runtime/install_plan.h"
+#include "runtime/install_transaction.h"
+
+#include <map>
+
+namespace quillon {
+
+/// What the record of the earlier installation says about the contents of its files; by path in
+/// lower case.
+using KnownContents = std::map<Text, record::Content>;
+
+struct OldFilesWork {
+    const Host& host;
+    Target& target;
+    InstallTransaction& changes;
+    InstallJournal& record;
+    ActionLog& log;
+    const InstallPlan& plan;
+};
+
+/// Removes the files of the earlier version that are as they were installed and that no row of the
+/// new one names. The others stay, and the log says why. The first `earlierRecords` of the record
+/// are those of the earlier version.
+void RemoveOldFiles(const OldFilesWork& work, std::size_t earlierRecords,
+                    const KnownContents& contents);
+
+} // namespace quillon

@@ -1,0 +1,24 @@
+// Whether the machine is started anew once a product is installed.
+#pragma once
+
+#include "platform/ask.h"
+#include "project/records.h"
+#include "runtime/exit_codes.h"
+#include "runtime/language_file.h"
+
+namespace quillon {
+
+struct RestartInput {
+    const section::InstallOptions& options;
+    Ask& ask;
+    const LanguageTexts& texts;
+    Text title;            // of the setup's boxes
+    bool isNeeded = false; // a file takes its place then
+    bool mayAsk = true;    // false under /S and /norestart, which start no machine anew
+};
+
+/// `Done`, `RestartNeeded`, or `RestartStarted` for whoever called the setup to start the machine
+/// anew as the last thing of all.
+ExitCode DecideRestart(const RestartInput& input);
+
+} // namespace quillon

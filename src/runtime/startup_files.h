@@ -1,0 +1,25 @@
+// The files that Windows 95, 98 and ME read when the machine starts: lines that a project adds to
+// AUTOEXEC.BAT and CONFIG.SYS. Other systems do not read them, and they stay as they are there.
+#pragma once
+
+#include "runtime/install_transaction.h"
+#include "runtime/setup_variables.h"
+
+namespace quillon {
+
+struct StartupWork {
+    FileSystem& files;
+    const Target& target;
+    InstallTransaction& changes;
+    InstallJournal& record;
+    ActionLog& log;
+    const LanguageTexts& texts;
+    const SetupVariables& variables;
+};
+
+void WriteStartupFiles(const StartupWork& work, const section::Lists& lists);
+
+/// Takes the line out of its file again; nothing happens where it is no longer there.
+void UndoStartupLine(FileSystem& files, const record::StartupLine& line);
+
+} // namespace quillon

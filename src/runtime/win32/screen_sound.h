@@ -1,0 +1,38 @@
+// Plays the sound of the screen on a thread of its own: whatever a driver waits for, the setup goes
+// on.
+#pragma once
+
+#include "runtime/background_sound.h"
+#include "runtime/pages/design_files.h"
+
+#include <memory>
+
+namespace quillon {
+
+class ScreenSound : public BackgroundSound {
+public:
+    /// `name` is one of `design`. Its bytes go to `folder`, which is private, since Windows plays
+    /// files alone; an empty folder means that `name` is a file already.
+    ScreenSound(const DesignFiles& design, Text name, Text folder);
+    /// Silence, and no file.
+    ~ScreenSound() override;
+    ScreenSound(const ScreenSound&) = delete;
+    ScreenSound& operator=(const ScreenSound&) = delete;
+
+    void Start() override;
+    bool HasFailed() const override;
+
+private:
+    struct Playing;
+    Text MakeFile(const SoundKind& kind) const;
+    static unsigned long __stdcall Play(void* playing);
+
+    const DesignFiles& design_;
+    const Text name_;
+    const Text folder_;
+    std::shared_ptr<Playing> playing_; // the thread's as well
+    void* thread_ = nullptr;
+    bool isUnplayable_ = false;
+};
+
+} // namespace quillon

@@ -1,0 +1,86 @@
+#include "runtime/restart.h"
+
+#include "setup_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+namespace {
+
+using testing::HasSubstr;
+
+constexpr const char* kTitle = "Installation av Exempel";
+constexpr const char* kQuestion = "Datorn måste startas om innan programmet kan användas. Vill du "
+                                  "starta om den nu?";
+constexpr const char* kNow = "Datorn startas om när du stänger den här rutan. Spara först det som "
+                             "är öppet i andra program.";
+
+class RestartTest : public SetupFixture {
+protected:
+    RestartTest() { AddFile("prog.exe", "%DESTDIR", "program", "A"); }
+
+    void HoldTheFile()
+    {
+        memory.files.Put("C:\\Program\\Exempel\\prog.exe", "old");
+        files.inUse = {"C:\\Program\\Exempel\\prog.exe"};
+    }
+    ExitCode InstallWith(const Text& switches, std::deque<ExpectedBox> boxes)
+    {
+        ScriptedAsk user(std::move(boxes));
+        ask = &user;
+        const ExitCode code = Install(switches);
+        ask = nullptr;
+        return code;
+    }
+    section::InstallOptions& options = project.InstallOptions;
+};
+
+TEST_F(RestartTest, IsNotSpokenOfWhereNothingWaitsForIt)
+{
+    EXPECT_EQ(InstallWith("", {}), ExitCode::Done);
+    options.NeverRestartWindows = kOn;
+    EXPECT_EQ(InstallWith("", {}), ExitCode::Done);
+}
+
+TEST_F(RestartTest, IsAskedForWhereAFileWaitsForIt)
+{
+    HoldTheFile();
+    EXPECT_EQ(InstallWith("", {{BoxKind::YesNo, kTitle, kQuestion, Answer::Yes}}),
+              ExitCode::RestartStarted);
+    EXPECT_THAT(Log(), HasSubstr("Datorn måste startas om"));
+    EXPECT_EQ(InstallWith("", {{BoxKind::YesNo, kTitle, kQuestion, Answer::No}}),
+              ExitCode::RestartNeeded);
+}
+
+TEST_F(RestartTest, IsAnnouncedWhereTheProjectAlwaysWantsIt)
+{
+    options.RestartWindows = kOn;
+    EXPECT_EQ(InstallWith("", {{BoxKind::Inform, kTitle, kNow}}), ExitCode::RestartStarted);
+    HoldTheFile();
+    EXPECT_EQ(InstallWith("", {{BoxKind::Inform, kTitle, kNow}}), ExitCode::RestartStarted);
+}
+
+TEST_F(RestartTest, NeverComesWhereTheProjectForbidsIt)
+{
+    HoldTheFile();
+    options.NeverRestartWindows = kOn;
+    EXPECT_EQ(InstallWith("", {}), ExitCode::RestartNeeded);
+    options.RestartWindows = kOn;
+    EXPECT_EQ(InstallWith("", {}), ExitCode::RestartNeeded);
+}
+
+TEST_F(RestartTest, NeverComesBySilenceOrAgainstTheSwitch)
+{
+    for (const char* switches : {"/S", "/passive", "/norestart", "-NoRestart"}) {
+        options.RestartWindows = kOff;
+        EXPECT_EQ(InstallWith(switches, {}), ExitCode::Done) << switches;
+        options.RestartWindows = kOn;
+        EXPECT_EQ(InstallWith(switches, {}), ExitCode::RestartNeeded) << switches;
+    }
+    HoldTheFile();
+    options.RestartWindows = kOff;
+    EXPECT_EQ(InstallWith("/S", {}), ExitCode::RestartNeeded);
+}
+
+} // namespace
+} // namespace quillon::test
