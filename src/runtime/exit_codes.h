@@ -21,7 +21,7 @@ enum class ExitCode : int {
     BadSwitch = 1639,
     RestartStarted = 1641, // done, and the machine starts anew
     RestartNeeded = 3010,  // done, but the product is whole only after the next start
-    MissingPrerequisite = 4002,
+    PrerequisiteMissing = 20002,
 };
 
 /// Ends the installation. `what` is for the user and the log, in the user's language.

@@ -71,7 +71,7 @@ void CheckNetFramework(const NetTest& test)
         return;
     const Text name = NumberText(least.major) + "." + NumberText(least.minor);
     if (test.wanted.NET_StopIfNoNET != kOff)
-        throw SetupFailure(ExitCode::MissingPrerequisite, test.texts(Message::NeedsNet, name));
+        throw SetupFailure(ExitCode::PrerequisiteMissing, test.texts(Message::NeedsNet, name));
     test.log.Line(Message::LogNoNet, name);
     if (test.wanted.NET_WarnIfNoNET != kOff && !test.silent &&
         !test.ask.YesNo(test.title, test.texts(Message::NetQuestion, name), Ask::Stops::OnNo))

@@ -77,10 +77,10 @@ TEST_F(NetFrameworkTest, StopsTheSetupBeforeAnythingIsChanged)
                        "Programmet kräver Microsoft .NET Framework 1.1 eller senare. Installera "
                        "det och försök igen."}});
     ask = &user;
-    EXPECT_EQ(Install(""), ExitCode::MissingPrerequisite);
+    EXPECT_EQ(Install(""), ExitCode::PrerequisiteMissing);
     EXPECT_EQ(State(), before);
     ask = nullptr;
-    EXPECT_EQ(Install("/S"), ExitCode::MissingPrerequisite);
+    EXPECT_EQ(Install("/S"), ExitCode::PrerequisiteMissing);
 }
 
 TEST_F(NetFrameworkTest, PassesWithTheVersionOrANewerOne)
@@ -92,7 +92,7 @@ TEST_F(NetFrameworkTest, PassesWithTheVersionOrANewerOne)
     project.NET.NET_ver10 = kOn;
     project.NET.NET_ver11 = kOff;
     target.keys.clear();
-    EXPECT_EQ(Install(), ExitCode::MissingPrerequisite);
+    EXPECT_EQ(Install(), ExitCode::PrerequisiteMissing);
     EXPECT_THAT(Log(), HasSubstr("Framework 1.0 eller senare"));
     PutPolicy("v1.0", "3705");
     EXPECT_EQ(Install(), ExitCode::Done);

@@ -16,19 +16,21 @@ namespace fs = std::filesystem;
 // on Wine. Missing are kernel32 and what it rests on, and the C library: Windows takes those from
 // its own folder always.
 constexpr const char* kNames[] = {
-    "actxprxy", "advapi32",      "apphelp",       "atl",      "bcrypt",   "cfgmgr32",
-    "clbcatq",  "combase",       "comctl32",      "comdlg32", "comres",   "coremessaging",
-    "crypt32",  "cryptbase",     "cryptsp",       "d2d1",     "dbghelp",  "dnsapi",
-    "dwmapi",   "dwrite",        "explorerframe", "gdi32",    "gdiplus",  "imm32",
-    "iphlpapi", "linkinfo",      "lpk",           "mlang",    "mpr",      "mscms",
-    "msctf",    "msftedit",      "msimg32",       "msls31",   "netapi32", "nsi",
-    "ntmarta",  "ntshrui",       "ole32",         "oleacc",   "oleaut32", "powrprof",
-    "profapi",  "propsys",       "psapi",         "riched20", "riched32", "rpcrt4",
-    "rsaenh",   "rstrtmgr",      "sechost",       "secur32",  "setupapi", "sfc",
-    "shcore",   "shell32",       "shfolder",      "shlwapi",  "srvcli",   "textinputframework",
-    "urlmon",   "user32",        "userenv",       "usp10",    "uxtheme",  "version",
-    "win32u",   "windowscodecs", "winmm",         "winspool", "wintrust", "wldp",
-    "ws2_32",   "wsock32",       "wtsapi32",
+    "actxprxy",      "advapi32",      "apphelp",  "atl",       "audioses", "avrt",
+    "bcrypt",        "cfgmgr32",      "clbcatq",  "combase",   "comctl32", "comdlg32",
+    "comres",        "coremessaging", "crypt32",  "cryptbase", "cryptsp",  "d2d1",
+    "dbghelp",       "devenum",       "dnsapi",   "dsound",    "dwmapi",   "dwrite",
+    "explorerframe", "gdi32",         "gdiplus",  "imm32",     "iphlpapi", "ksuser",
+    "linkinfo",      "lpk",           "mciqtz32", "mciseq",    "mciwave",  "mlang",
+    "mmdevapi",      "mpr",           "msacm32",  "mscms",     "msctf",    "msdmo",
+    "msftedit",      "msimg32",       "msls31",   "netapi32",  "nsi",      "ntmarta",
+    "ntshrui",       "ole32",         "oleacc",   "oleaut32",  "powrprof", "profapi",
+    "propsys",       "psapi",         "quartz",   "riched20",  "riched32", "rpcrt4",
+    "rsaenh",        "rstrtmgr",      "sechost",  "secur32",   "setupapi", "sfc",
+    "shcore",        "shell32",       "shfolder", "shlwapi",   "srvcli",   "textinputframework",
+    "urlmon",        "user32",        "userenv",  "usp10",     "uxtheme",  "version",
+    "win32u",        "windowscodecs", "winmm",    "winspool",  "wintrust", "wldp",
+    "ws2_32",        "wsock32",       "wtsapi32",
 };
 
 void PlantIn(const fs::path& folder)
@@ -89,13 +91,33 @@ TEST(PlantedLibraries, AreNotTakenBySetupAndUninstaller)
     EXPECT_EQ(Loaded(prefix), "");
 }
 
+// A tone of one second: 8 bits, 8000 times in it.
+std::string ToneFile()
+{
+    const auto bytes = [](unsigned number, int size) {
+        std::string text;
+        for (int i = 0; i < size; ++i)
+            text += static_cast<char>(number >> (8 * i) & 0xFFU);
+        return text;
+    };
+    constexpr unsigned kRate = 8000;
+    std::string samples;
+    for (unsigned i = 0; i < kRate; ++i)
+        samples += static_cast<char>(i / 10 % 2 == 0 ? 0x70 : 0x90);
+    return "RIFF" + bytes(36 + kRate, 4) + "WAVEfmt " + bytes(16, 4) + bytes(1, 2) + bytes(1, 2) +
+           bytes(kRate, 4) + bytes(kRate, 4) + bytes(1, 2) + bytes(8, 2) + "data" +
+           bytes(kRate, 4) + samples;
+}
+
 // The pages bring the common controls, the rich text control and the system's dialogs, the screen
-// the decoders of pictures.
+// the decoders of pictures and the players of sounds.
 TEST(PlantedLibraries, AreNotTakenByThePagesAndTheScreen)
 {
     SampleProduct product;
     product.project.DialogBoxes.LicenseInfoRtfDlg = 1;
     product.project.DialogBoxData.LicenseFilenameRtf = "S:\\avtal.rtf";
+    WriteBytes(product.Drive() / "fanfar.wav", ToneFile());
+    product.project.DesSound.BackSoundFilename = "s:\\fanfar.wav";
     WriteBytes(product.Drive() / "avtal.rtf", "{\\rtf1\\ansi Vi \\b lovar\\b0  inget.}");
     const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
     PlantIn(package);
