@@ -8,9 +8,9 @@ add_library(quillon_lean STATIC ${win32}/lean/failures.cpp ${win32}/lean/load_co
 include(DelayLoad)
 add_dependencies(quillon_lean quillon_delayed_libraries)
 target_link_libraries(quillon_options INTERFACE quillon_lean ${delayed})
-# Programs begin at wWinMain. They are linked in one piece, since GCC 12 breaks down over symbols that
-# two pieces of a program share.
-target_link_options(quillon_options INTERFACE -municode -flto-partition=one)
+# Programs begin at wWinMain. They are compiled in one piece at the link, since GCC 12 breaks down over
+# symbols that two pieces of a program share, and now and then over the one piece that it makes of them.
+target_link_options(quillon_options INTERFACE -municode -flto-partition=none)
 # Loaded where nobody can know, and no data runs as code. A 32-bit program registers no handler of
 # exceptions, so that none that somebody lays on its stack is taken for one; 64-bit programs keep theirs in
 # a table that can't be written.

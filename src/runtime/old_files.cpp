@@ -2,11 +2,11 @@
 
 #include "formats/digest_text.h"
 #include "formats/package_manifest.h"
+#include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/failure_reason.h"
-#include "runtime/recorded_paths.h"
+#include "runtime/file_installer.h"
 
-#include <memory>
 #include <set>
 
 namespace quillon {
@@ -28,6 +28,7 @@ private:
     void CollectNewOnes();
     bool IsGone(const Text& path);
     std::optional<Reason> ReasonToStay(const Text& path);
+    bool LeadsThroughLink(const Text& path) const;
     bool IsAsInstalled(const record::Content& content) const;
     void KeepContents(const std::set<Text>& gone) const;
 
@@ -38,7 +39,6 @@ private:
     const std::size_t earlier_;
     std::set<Text> written_; // by this installation; all in lower case
     std::set<Text> wanted_;  // rows of the new version, installed or not
-    std::unique_ptr<RecordedPaths> paths_;
 };
 
 void OldFiles::CollectNewOnes()
@@ -91,18 +91,25 @@ std::optional<Reason> OldFiles::ReasonToStay(const Text& path)
     const auto content = contents_.find(LowerCase(path));
     if (content == contents_.end())
         return Reason{Message::SkipUnknownContent};
-    if (paths_ == nullptr)
-        paths_ = std::make_unique<RecordedPaths>(records_, work_.host, work_.target,
-                                                 work_.plan.mainFolder);
-    if (const auto outside = paths_->WhyOutOfReach(path))
-        return Reason{*outside};
+    if (LeadsThroughLink(path))
+        return Reason{Message::ReasonLinkInPath};
     // Of these the system knows more than their contents; the uninstaller tells it that they go.
-    if (paths_->IsShared(path) || work_.record.Has<record::Shared>(path) ||
+    if (CountOfUsers(work_.target, path) || work_.record.Has<record::Shared>(path) ||
         work_.record.Has<record::Registered>(path) || work_.record.Has<record::Font>(path))
         return Reason{Message::SkipKnownToSystem};
     if (!IsAsInstalled(content->second))
         return Reason{Message::SkipChangedFile};
     return std::nullopt;
+}
+
+// In the place of a folder that the product made; those above it are the machine owner's own.
+bool OldFiles::LeadsThroughLink(const Text& path) const
+{
+    for (Text at = ExtractDirectory(path); work_.record.Has<record::Folder>(at);
+         at = ExtractDirectory(at))
+        if (work_.target.IsLink(at))
+            return true;
+    return false;
 }
 
 bool OldFiles::IsAsInstalled(const record::Content& content) const

@@ -145,6 +145,25 @@ TEST_F(KilledSetup, IsPutRightWhereTheProductIsUpgraded)
     EXPECT_GT(KillEverywhere(), 150);
 }
 
+TEST_F(KilledSetup, IsPutRightWithItsScriptsStartupLinesAndOldFiles)
+{
+    target.system = SystemKind::Win98;
+    AddFile("prog.exe", "%DESTDIR", "program");
+    AddFile("gammal.txt", "%DESTDIR\\Data", "old text");
+    memory.files.Put("C:\\CONFIG.SYS", "DEVICE=A");
+    memory.files.Put("E:\\a.txt", "a");
+    memory.files.Put("E:\\b.txt", "b");
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    project.Lists.AutoexecBat = "SET MAPP=%DESTDIR";
+    project.Lists.ConfigSys = "FILES=40";
+    project.Lists.RunScriptBefore =
+        "IF FILE E:\\b.txt\r\nDELETE E:\\a.txt\r\nRENAME E:\\b.txt E:\\a.txt\r\nEND\r\n"
+        "INI E:\\ny.ini A b c\r\nREGISTRY HKCU\\Software\\Firma\\Ny :: a=1";
+    project.Lists.RunScriptAfter = "COPY %DESTDIR\\prog.exe E:\\a.txt";
+    package.rows.resize(1);
+    EXPECT_GT(KillEverywhere(), 60);
+}
+
 TEST_F(KilledSetup, IsPutRightInTheRootOfADrive)
 {
     AddFile("prog.exe", "%DESTDIR", "program");
