@@ -2,9 +2,9 @@
 # shellcheck shell=bash
 
 BUILD_PACKAGES=(
-    ca-certificates ccache cmake g++ libbenchmark-dev libcairo2-dev libdeflate-dev libfontconfig-dev
+    ca-certificates ccache cmake dpkg-dev g++ libbenchmark-dev libcairo2-dev libdeflate-dev libfontconfig-dev
     libfreetype-dev libgmock-dev libgtest-dev libjpeg62-turbo-dev libpng-dev libssl-dev libzstd-dev
-    ninja-build nlohmann-json3-dev pkg-config python3-minimal zlib1g-dev
+    ninja-build nlohmann-json3-dev pkg-config python3-minimal xz-utils zlib1g-dev
     g++-mingw-w64-i686 g++-mingw-w64-x86-64 libz-mingw-w64-dev
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-wayland fonts-dejavu-core fonts-liberation
 )

@@ -284,6 +284,13 @@ Integer CompressionInterface::IfcAddFileListItem(const Text& path, const Text& r
     return 1;
 }
 
+void CompressionInterface::Sort(bool (*isBefore)(const Text& left, const Text& right))
+{
+    std::ranges::stable_sort(state_->items, isBefore, &State::Item::path);
+    // Nothing is added after it.
+    state_->itemOfPath.clear();
+}
+
 Integer CompressionInterface::IfcCreateZipFile(const Text& target, Integer floppySpanning,
                                                const Text& password)
 {

@@ -32,6 +32,8 @@ public:
     /// `row` is the key of the FILELIST.INF row that the file serves ("F7"), empty for none. A path
     /// that comes again is stored once, and serves both rows. 0 is failure.
     Integer IfcAddFileListItem(const Text& path, const Text& row = {});
+    /// Puts the list into this order.
+    void Sort(bool (*isBefore)(const Text& left, const Text& right));
     Integer IfcCreateZipFile(const Text& target, Integer floppySpanning, const Text& password);
     /// Entries carry the file names alone.
     Integer IfcCreateDesignZipFile(const Text& target);

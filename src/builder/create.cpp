@@ -10,6 +10,7 @@
 #include "builder/package_writing.h"
 #include "builder/remove_quietly.h"
 #include "builder/runtime_files.h"
+#include "builder/selfextract/self_extracting_file.h"
 #include "builder/setup_info_file.h"
 #include "builder/signing/sign_programs.h"
 #include "filelist/view/sort.h"
@@ -196,19 +197,37 @@ Step CopyLanguageFile(CreateRun& run)
     return Step::GoOn;
 }
 
+// A copy that fails is passed over; the setup tells of a missing program.
+void CopyAccompanyingProgram(CreateRun& run)
+{
+    const Text& program = run.project.RunAppSelfX.ProgramFilename;
+    if (program.empty())
+        return;
+    const Text name = ExtractFilename(program);
+    run.ask.AddStatusLine("Kopierar " + UpperCase(name));
+    const auto copy = [&] { run.host.files.CopyContent(program, run.InDestination(name)); };
+    if (RunErrorNumber(copy) == ErrorNumber::kNone)
+        run.packageFiles.push_back(name);
+}
+
+// The package that is packed is a whole one, with its manifest. One whose files could not be packed
+// becomes no program.
 Step BuildSelfExtractingPackage(CreateRun& run)
 {
     CreateFileContainer(run, false);
-    const Text& program = run.project.RunAppSelfX.ProgramFilename;
-    if (!program.empty()) {
-        const Text name = ExtractFilename(program);
-        run.ask.AddStatusLine("Kopierar " + UpperCase(name));
-        RunErrorNumber([&] { run.host.files.CopyContent(program, run.InDestination(name)); });
-    }
-    run.ask.AddStatusLine("Den här versionen kan ännu inte skapa självuppackande filer!");
+    CopyAccompanyingProgram(run);
+    (void)FinishPackage(run);
+    if (run.CreateFailed || BuildSelfExtractingFile(run))
+        return Step::GoOn;
     run.ask.AddStatusLine("Kan ej skapa " +
                           UpperCase(run.project.InstallOptionsInternet.SelfExtractFilename) + "!");
     return Step::Stop;
+}
+
+// The package of the Internet medium is inside its program by now.
+Step FinishFolder(CreateRun& run)
+{
+    return run.form.TargetMedia == Medium::Internet ? Step::GoOn : FinishPackage(run);
 }
 
 Step PlaceProjectFiles(CreateRun& run)
@@ -258,7 +277,7 @@ constexpr Step (*kStepsInOrder[])(CreateRun&) = {Begin,
                                                  CopyLanguageFile,
                                                  CreateDesignContainer,
                                                  PlaceProjectFiles,
-                                                 FinishPackage,
+                                                 FinishFolder,
                                                  TellEnd};
 
 CreateResult RunPipeline(CreateRun& run)

@@ -132,6 +132,26 @@ Check CheckSelfExtractName(CreateRun& run)
     return Check::Stopped;
 }
 
+// Windows starts no program of 4 GiB. What the files become is not known before, so what they are
+// counts.
+Check CheckSizeOfProgram(CreateRun& run)
+{
+    constexpr std::uint64_t kMaxSize = 0xFFFFFFFF - 16 * 1024 * 1024;
+    std::uint64_t size = 0;
+    if (run.form.TargetMedia == Medium::Internet)
+        for (const FileListRow& row : run.project.Files.rows)
+            RunErrorNumber([&] {
+                if (row.HasSource())
+                    size += run.host.files.Status(row[Source]).size;
+            });
+    if (size <= kMaxSize)
+        return Check::Passed;
+    run.ask.Critical("För stor installation",
+                     "Filerna är tillsammans större än 4 GB, och så stort kan ett självuppackande "
+                     "installationsprogram inte vara! Välj ett annat medium.");
+    return Check::Stopped;
+}
+
 // A name that leads out of the package's folder would overwrite whatever lies there.
 Check CheckSetupNames(CreateRun& run)
 {
@@ -197,6 +217,7 @@ constexpr Check (*kChecksInOrder[])(CreateRun&) = {CheckProject,
                                                    CheckNotOntoCd,
                                                    CheckSelfExtractIcon,
                                                    CheckSelfExtractName,
+                                                   CheckSizeOfProgram,
                                                    CheckReservedFilenames,
                                                    CheckRows,
                                                    CheckUnknownVariables,

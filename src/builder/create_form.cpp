@@ -72,8 +72,6 @@ void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project
 
 Text WhyNotMade(const CreateForm& form)
 {
-    if (form.TargetMedia == Medium::Internet)
-        return "Installationer för Internet kan ännu ej skapas! Välj ett annat medium.";
     // The steps would cut a longer one and write somewhere else.
     if (CharacterCount(form.tDestinationDir) > kMaxPathLength)
         return "Destinationskatalogen är längre än " + NumberText(kMaxPathLength) + " tecken: '" +

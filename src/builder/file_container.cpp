@@ -3,6 +3,7 @@
 #include "builder/compression_setup.h"
 #include "builder/file_list_file.h"
 #include "builder/remove_quietly.h"
+#include "builder/selfextract/payload_sources.h"
 #include "builder/source_address.h"
 #include "filelist/adding/system_files.h"
 #include "formats/package.h"
@@ -39,6 +40,18 @@ Text ContainerPassword(const Project& project)
 {
     const bool asksForPassword = project.DialogBoxes.PasswordDlg == 1;
     return asksForPassword ? project.DialogBoxData.CorrectPassword : Text();
+}
+
+// What a self-extracting program carries is packed as a whole, and what was packed before does not
+// become smaller. Neither does what is encrypted.
+bool IsPackedLater(const CreateRun& run)
+{
+    return run.form.TargetMedia == Medium::Internet && ContainerPassword(run.project).empty();
+}
+
+Integer LevelOfContainer(const CreateRun& run)
+{
+    return IsPackedLater(run) ? kStoredLevel : CompressionLevel(run.form);
 }
 
 void TellSuccess(CreateRun& run, bool spanning)
@@ -80,10 +93,13 @@ void ReportCompressionError(Ask& ask, const Text& what, Integer result,
 
 void CreateFileContainer(CreateRun& run, bool spanning)
 {
-    InitCompression(run, CompressionLevel(run.form));
+    InitCompression(run, LevelOfContainer(run));
     run.ask.AddStatusLine("Öppnar FILEDATA.DAT");
     if (!AddProjectFiles(run))
         return;
+
+    if (IsPackedLater(run))
+        run.compression.Sort(PacksBefore);
 
     run.ask.AddStatusLine("Kopierar och komprimerar filer");
     const Text target = run.InDestination(kFileContainerName);

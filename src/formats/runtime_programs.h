@@ -16,6 +16,8 @@ inline constexpr RuntimeProgram kSetup = {"QNS32X.EXE", "QNS32X.BIN"};
 inline constexpr RuntimeProgram kUnzipLibrary = {"DUNZIP32.DLL", "DUNZIP32.DLL"};
 inline constexpr RuntimeProgram kRegistryHelper = {"QNREG32.EXE", "QNREG32.BIN"};
 inline constexpr RuntimeProgram kSecondRegistryHelper = {"QNXREG2.EXE", "QNXREG2.BIN"};
+// Stands before the package where that is one program.
+inline constexpr RuntimeProgram kSelfExtractor = {"QNSELFX.EXE", nullptr};
 inline constexpr RuntimeProgram kUninstaller = {"QNXUNIN.EXE", "QNXUNIN.BIN"};
 } // namespace RuntimePrograms
 

@@ -44,4 +44,20 @@ Text FromUtf16(std::string_view bytes)
     return text;
 }
 
+std::string ToUtf16(std::string_view text)
+{
+    std::string bytes;
+    const auto append = [&](char32_t unit) {
+        bytes += static_cast<char>(unit & 0xFFU);
+        bytes += static_cast<char>(unit >> 8U & 0xFFU);
+    };
+    for (std::size_t position = 0; position < text.size();) {
+        const char32_t codePoint = NextCodePoint(text, position);
+        if (codePoint >= 0x10000)
+            append(0xD800 | (codePoint - 0x10000) >> 10U);
+        append(codePoint < 0x10000 ? codePoint : 0xDC00 | ((codePoint - 0x10000) & 0x3FFU));
+    }
+    return bytes;
+}
+
 } // namespace quillon

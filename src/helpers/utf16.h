@@ -8,4 +8,6 @@ namespace quillon {
 /// Half a pair becomes U+FFFD; a last odd byte is passed over.
 Text FromUtf16(std::string_view bytes);
 
+std::string ToUtf16(std::string_view text);
+
 } // namespace quillon

@@ -11,6 +11,11 @@ namespace {
 constexpr MessageKey kMessages[] = {
     {Message::Extract,                "PreLoader", "Msg_Extract",             "Förbereder installationen. Vänta..."},
     {Message::NoRuntime,              "PreLoader", "Msg_NoRuntime",           "Installationen kan inte startas. Filen '%1' saknas eller är skadad."},
+    {Message::ExeDamaged,             "PreLoader", "Msg_ExeDamaged",          "Filen är skadad eller inte hel. Hämta den en gång till. Ingenting har installerats."},
+    {Message::ExeDiskFull,            "PreLoader", "Msg_ExeDiskFull",         "Det finns inte plats att packa upp installationen i '%1'."},
+    {Message::ExeFailed,              "PreLoader", "Msg_ExeFailed",           "Installationen kan inte packas upp: '%1'."},
+    {Message::ExeHelp,                "PreLoader", "Msg_ExeHelp",             "/extract:mapp packar upp filerna i mappen och installerar ingenting. /version visar version. Andra växlar går vidare till installationsprogrammet."},
+    {Message::ExeNoFolder,            "PreLoader", "Msg_ExeNoFolder",         "Växeln /extract behöver en mapp."},
     {Message::Title,                  "Setup",     "Title",                   "Installation av %1"},
     {Message::Checking,               "Setup",     "Msg_Checking",            "Kontrollerar installationsfilerna..."},
     {Message::Copying,                "Setup",     "Msg_Copying",             "Kopierar filer..."},

@@ -11,6 +11,11 @@ namespace quillon {
 enum class Message {
     Extract,
     NoRuntime,
+    ExeDamaged,
+    ExeDiskFull,
+    ExeFailed,
+    ExeHelp,
+    ExeNoFolder,
     Title,
     Checking,
     Copying,

@@ -1,5 +1,7 @@
 #include "create_desk.h"
 
+#include "support/linked_program.h"
+
 namespace quillon::test {
 
 std::optional<Text> FolderDisks::NextDisk(int number)
@@ -24,6 +26,7 @@ CreateDesk::CreateDesk()
     for (const char* program : {"SETUP32.EXE", "Small32\\QNS32X.EXE", "Full32\\QNS32X.EXE",
                                 "DUNZIP32.DLL", "QNREG32.EXE", "QNXREG2.EXE", "QNXUNIN.EXE"})
         machine.files.Put(Text("C:\\Quillon\\Release\\") + program, program);
+    machine.files.Put("C:\\Quillon\\Release\\QNSELFX.EXE", MakeLinkedProgram({}));
     machine.files.Put("C:\\Quillon\\Language\\SWEDISH.LNG", "[PreLoader]\r\n");
     machine.files.PutFolder("C:\\TEMP");
     machine.files.PutFolder("C:\\WINDOWS\\SYSTEM32");

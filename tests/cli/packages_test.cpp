@@ -163,16 +163,32 @@ TEST_F(Packages, ARunAsAnObjectPrintsNothingElse)
     EXPECT_EQ(object["boxes"].size(), 0U);
 }
 
-TEST_F(Packages, TheInternetMediumIsRefusedInAClearLine)
+TEST_F(Packages, TheInternetMediumIsOneProgram)
 {
     const ProgramRun run = Create(project, {"--medium", "internet"});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, "Installationer för Internet kan ännu ej skapas! Välj ett annat medium.\n");
-    EXPECT_EQ(Names("out"), std::vector<std::string>{});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(run.out, HasSubstr("\nSkapar SELF.EXE (självuppackande installationsprogram)\n"
+                                   "Raderar temporära filer\nFärdig!\n"));
+    EXPECT_EQ(Names("out"), std::vector<std::string>{"self.exe"});
+    const std::string first = disk.Get("out/self.exe");
+
+    // Once more, and the bytes are the same.
     const Json object = ObjectOf(Create(project, {"--medium", "internet", "--json"}));
-    EXPECT_EQ(object["error"],
-              "Installationer för Internet kan ännu ej skapas! Välj ett annat medium.");
+    EXPECT_EQ(object["result"], "done");
+    EXPECT_EQ(object["medium"], "internet");
+    EXPECT_TRUE(disk.Get("out/self.exe") == first);
+}
+
+TEST_F(Packages, AnInternetPackageWithoutItsExtractorIsToldWithTheFile)
+{
+    std::filesystem::remove(disk.Path("tool/Release/QNSELFX.EXE"));
+    const ProgramRun run = Create(project, {"--medium", "internet"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_THAT(run.out,
+                HasSubstr("Fel #53 inträffade när en självuppackande installation skulle skapas!\n"
+                          "Kan ej skapa SELF.EXE!\n"));
+    EXPECT_THAT(run.err, HasSubstr("QNSELFX.EXE"));
 }
 
 TEST_F(Packages, AQuestionStopsUnlessToldToGoOn)

@@ -1,5 +1,7 @@
 #include "workshop.h"
 
+#include "support/linked_program.h"
+
 #include "helpers/windows_path.h"
 #include "platform/posix/posix_host.h"
 #include "project/new_project.h"
@@ -43,6 +45,7 @@ Workshop::Workshop()
     for (const char* program : {"SETUP32.EXE", "Small32/QNS32X.EXE", "Full32/QNS32X.EXE",
                                 "DUNZIP32.DLL", "QNREG32.EXE", "QNXREG2.EXE", "QNXUNIN.EXE"})
         disk.Put(std::string("tool/Release/") + program, std::string("runtime: ") + program);
+    disk.Put("tool/Release/QNSELFX.EXE", MakeLinkedProgram({}));
     disk.Put("tool/Language/SWEDISH.LNG", "[PreLoader]\r\n");
     disk.Put("tool/Res/SetupDef.bmp", "BM");
     fs::copy_file(QUILLONC, disk.Path("tool/quillonc"));

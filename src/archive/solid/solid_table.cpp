@@ -4,8 +4,9 @@
 #include "helpers/utf8.h"
 #include "helpers/windows_name.h"
 
+#include <cstdlib>
 #include <limits>
-#include <set>
+#include <memory>
 
 namespace quillon {
 
@@ -108,6 +109,7 @@ public:
         for (std::uint32_t i = 0; i < counts.files; ++i)
             table.files.push_back(TakeFile());
         Require(rest_.empty(), "förteckningen är längre än den anger");
+        CheckThatNamesDiffer();
         return table;
     }
 
@@ -169,10 +171,24 @@ private:
         total_ += file.size;
     }
 
-    // Every folder of the name is remembered as one, so that no file takes its place.
+    // Texts that `texts_` holds, so that they can be moved about as they are.
+    struct Name {
+        const Text* text;
+        bool isFolder;
+    };
+    static int CompareNames(const void* left, const void* right)
+    {
+        return static_cast<const Name*>(left)->text->compare(
+            *static_cast<const Name*>(right)->text);
+    }
+    void AddName(std::string_view name, bool isFolder)
+    {
+        texts_.push_back(std::make_unique<Text>(LowerCase(name)));
+        names_.push_back({texts_.back().get(), isFolder});
+    }
+
     void CheckName(const Text& name)
     {
-        const Text lower = LowerCase(name);
         std::size_t begin = 0;
         while (true) {
             const std::size_t end = name.find('/', begin);
@@ -180,19 +196,27 @@ private:
             Require(FaultOfName(part) == PathFault::None, "en fil har ett otillåtet namn");
             if (end == Text::npos)
                 break;
-            Require(files_.count(LowerCase(name.substr(0, end))) == 0,
-                    "en fil och en mapp har samma namn");
-            folders_.insert(LowerCase(name.substr(0, end)));
+            AddName(std::string_view(name).substr(0, end), true);
             begin = end + 1;
         }
-        Require(folders_.count(lower) == 0, "en fil och en mapp har samma namn");
-        Require(files_.insert(lower).second, "två filer har samma namn");
+        AddName(name, false);
+    }
+
+    // No file takes the place of another, or of a folder; a folder may stand in many names.
+    void CheckThatNamesDiffer()
+    {
+        // The C library's sort: that of the other one is a large part of the self-extractor.
+        std::qsort(names_.data(), names_.size(), sizeof(Name), CompareNames);
+        for (std::size_t i = 1; i < names_.size(); ++i)
+            Require(*names_[i].text != *names_[i - 1].text ||
+                        (names_[i].isFolder && names_[i - 1].isFolder),
+                    "två filer har samma namn");
     }
 
     std::span<const std::byte> rest_;
     std::uint64_t total_ = 0;
-    std::set<Text> files_; // in lower case
-    std::set<Text> folders_;
+    std::vector<std::unique_ptr<Text>> texts_; // in lower case
+    std::vector<Name> names_;
 };
 
 } // namespace

@@ -48,16 +48,4 @@ PrivateFolder::~PrivateFolder()
     });
 }
 
-Text ProgramPath()
-{
-    std::wstring path(32768, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return Narrow(path);
-}
-
-Text ProgramFolder()
-{
-    return ExtractDirectory(ProgramPath());
-}
-
 } // namespace quillon

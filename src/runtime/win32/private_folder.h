@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/host.h"
+#include "runtime/win32/program_path.h"
 
 namespace quillon {
 
@@ -24,9 +25,5 @@ private:
 
 /// Such a folder that stays; its path. Throws where none can be made.
 Text MakePrivateFolder(Host& host);
-
-/// The folder that the running program's file is in, and that file.
-Text ProgramFolder();
-Text ProgramPath();
 
 } // namespace quillon

@@ -3,6 +3,7 @@
 
 #include "builder/forms/MediumPicture.h"
 #include "shell/main_window.h"
+#include "support/linked_program.h"
 #include "support/window_test.h"
 
 namespace quillon::test {
@@ -476,17 +477,19 @@ TEST_F(DlgCreateTest, StopsAtACheckWithNothingWritten)
     EXPECT_TRUE(machine.files.List("C:\\Ut").empty());
 }
 
-TEST_F(DlgCreateTest, SaysThatTheInternetMediumCannotBeMadeYet)
+TEST_F(DlgCreateTest, MakesOneProgramForTheInternet)
 {
-    Open({{BoxKind::Inform, "Kan ej skapa",
-           "Installationer för Internet kan ännu ej skapas! Välj ett annat medium."}});
+    Open();
     machine.files.PutFolder("C:\\Natet");
+    machine.files.Put("C:\\Quillon\\Release\\QNSELFX.EXE", MakeLinkedProgram({}));
     DlgCreate form(*session, nullptr);
     ShowActive(form);
     Click(form, "oInternet");
     Click(form, "cmdCreate");
-    EXPECT_EQ(form.lbStatus->count(), 0);
-    EXPECT_TRUE(machine.files.List("C:\\Natet").empty());
+    ASSERT_GT(form.lbStatus->count(), 2);
+    EXPECT_EQ(FromQt(form.lbStatus->item(form.lbStatus->count() - 1)->text()), "Färdig!");
+    ASSERT_EQ(machine.files.List("C:\\Natet").size(), 1U);
+    EXPECT_EQ(machine.files.List("C:\\Natet")[0].name, "self.exe");
     EXPECT_TRUE(form.cmdCreate->isEnabled());
 }
 

@@ -1,0 +1,217 @@
+// QNSELFX: what stands before the payload of a self-extracting program. It believes nothing of the
+// payload before all of it is hashed, unpacks it to a closed folder, starts the setup there with
+// the switches that it was given itself, waits, cleans up and ends with the setup's code.
+#include "archive/solid/solid_error.h"
+#include "archive/solid/solid_unpack.h"
+#include "formats/self_extraction.h"
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "platform/win32/locked_folder.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_failure.h"
+#include "platform/win32/win_files.h"
+#include "runtime/exit_codes.h"
+#include "runtime/self_extract_command.h"
+#include "runtime/unpack_folder.h"
+#include "runtime/win32/program_path.h"
+#include "runtime/win32/program_start.h"
+#include "runtime/win32/selfx/selfx_texts.h"
+#include "runtime/win32/selfx/start_setup.h"
+#include "runtime/win32/selfx/unpack_window.h"
+
+#include <windows.h>
+
+namespace quillon {
+
+namespace {
+
+// The parts of the bar: the payload is hashed, then unpacked.
+constexpr int kHashed = 40;
+constexpr int kUnpacked = 100;
+
+class WinFolderGuard : public FolderGuard {
+public:
+    bool MakeClosed(const Text& path) override
+    {
+        if (MakeLockedFolder(WidePath(path).c_str()))
+            return true;
+        if (GetLastError() != ERROR_ALREADY_EXISTS)
+            FailAsWindowsSays(path);
+        return false;
+    }
+    bool IsLink(const Text& path) const override
+    {
+        const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
+        return attributes == INVALID_FILE_ATTRIBUTES ||
+               (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    }
+    bool HaveSameOwner(const Text& path, const Text& other) const override
+    {
+        return quillon::HaveSameOwner(WidePath(path).c_str(), WidePath(other).c_str());
+    }
+    unsigned Number() override { return (GetTickCount() ^ GetCurrentProcessId() << 4U) + count_++; }
+
+private:
+    unsigned count_ = 0;
+};
+
+class SelfExtractor {
+public:
+    SelfExtractor(HINSTANCE instance, const Text& commandLine)
+        : instance_(instance), command_(ReadSelfExtractCommand(commandLine))
+    {
+    }
+
+    int Run()
+    {
+        if (command_.wantsHelp)
+            return Answer(texts_("Msg_ExeHelp",
+                                 "/extract:mapp packar upp filerna i mappen och installerar "
+                                 "ingenting. /version visar version. Andra växlar går vidare till "
+                                 "installationsprogrammet."));
+        try {
+            return Work();
+        } catch (const SolidError&) {
+            return Fail(kDamaged, texts_("Msg_ExeDamaged",
+                                         "Filen är skadad eller inte hel. Hämta den en gång till. "
+                                         "Ingenting har installerats."));
+        } catch (const RunError& error) {
+            return Fail(error);
+        } catch (const std::exception&) {
+            return Fail(RunError(ErrorNumber::kDeviceIo));
+        }
+    }
+
+private:
+    // Windows' own number for a package of an installation that can't be read.
+    static constexpr int kDamaged = 1620;
+
+    int Work()
+    {
+        window_.emplace(instance_, command_.isSilent || command_.wantsVersion
+                                       ? Text()
+                                       : texts_("Msg_Extract", ""));
+        const SolidReader payload(files_.OpenInput(ProgramPath()),
+                                  [this](std::uint64_t done, std::uint64_t total) {
+                                      window_->Show(done, total, 0, kHashed);
+                                  });
+        const SolidTable& table = payload.Table();
+        if (command_.wantsVersion)
+            return Answer(table.Property(SelfExtractAttribute::kProductName) + " " +
+                          table.Property(SelfExtractAttribute::kProductVersion));
+        if (command_.extractTo)
+            return ExtractTo(payload);
+        const bool elevates = !table.Property(SelfExtractAttribute::kElevates).empty();
+        if (elevates && !command_.isElevatedTwin && !IsElevated())
+            return RunElevatedTwin();
+        return Install(payload);
+    }
+
+    int RunElevatedTwin()
+    {
+        window_.reset();
+        return static_cast<int>(
+            RunElevatedAndWait(ProgramPath(), Text(kElevatedTwinSwitch) + " " + command_.forSetup));
+    }
+
+    int ExtractTo(const SolidReader& payload)
+    {
+        if (command_.extractTo->empty())
+            return Fail(static_cast<int>(ExitCode::BadSwitch),
+                        texts_("Msg_ExeNoFolder", "Växeln /extract behöver en mapp."));
+        wchar_t folder[32768];
+        const DWORD length =
+            GetFullPathNameW(Wide(*command_.extractTo).c_str(),
+                             static_cast<DWORD>(std::size(folder)), folder, nullptr);
+        if (length == 0 || length >= std::size(folder))
+            throw RunError(ErrorNumber::kBadFileName, *command_.extractTo);
+        const Text path = Narrow({folder, length});
+        if (!files_.DirCreate(path))
+            throw RunError(ErrorNumber::kPathFileAccess, path);
+        Unpack(payload, path);
+        return 0;
+    }
+
+    int Install(const SolidReader& payload)
+    {
+        const SolidTable& table = payload.Table();
+        const bool isNamed = table.Property(SelfExtractAttribute::kUnpackPlace) ==
+                             NumberText(Long(UnpackPlace::kNamedFolder));
+        WinFolderGuard guard;
+        UnpackFolder folder(files_, guard,
+                            JoinPath(isNamed ? TempFolder() : ProgramFolder(), kUnpackFolderName));
+        Unpack(payload, folder.Path());
+        window_.reset();
+        const Text name = ExtractFilename(table.Property(SelfExtractAttribute::kProgram));
+        const Text program = JoinPath(folder.Path(), name);
+        if (!files_.FileExists(program))
+            RefuseSolid("det som ska startas saknas");
+        return static_cast<int>(RunAndWait(program, command_.forSetup));
+    }
+
+    void Unpack(const SolidReader& payload, const Text& folder)
+    {
+        const std::uint64_t total = payload.Table().TotalSize();
+        if (files_.FreeSpace(folder) < total)
+            throw RunError(ErrorNumber::kDiskFull, folder);
+        FolderSink sink(files_, folder, [&](std::uint64_t done) {
+            window_->Show(done, total, kHashed, kUnpacked);
+        });
+        payload.Extract(sink);
+    }
+
+    static Text TempFolder()
+    {
+        wchar_t folder[MAX_PATH + 1];
+        const DWORD length = GetTempPathW(static_cast<DWORD>(std::size(folder)), folder);
+        if (length == 0 || length >= std::size(folder))
+            throw RunError(ErrorNumber::kPathNotFound);
+        return RemoveLastBackslash(Narrow({folder, length}));
+    }
+
+    int Answer(const Text& text)
+    {
+        window_.reset();
+        AnswerUser(text);
+        return 0;
+    }
+
+    int Fail(int code, const Text& text)
+    {
+        window_.reset();
+        if (!command_.isSilent)
+            ShowFailure(text);
+        return code;
+    }
+
+    int Fail(const RunError& error)
+    {
+        if (error.Number() == kRightsRefused)
+            return static_cast<int>(ExitCode::Cancelled);
+        if (error.Number() == ErrorNumber::kDiskFull)
+            return Fail(static_cast<int>(ExitCode::DiskFull),
+                        texts_("Msg_ExeDiskFull",
+                               "Det finns inte plats att packa upp installationen i '%1'.",
+                               error.Path()));
+        return Fail(
+            static_cast<int>(ExitCode::Failed),
+            texts_("Msg_ExeFailed", "Installationen kan inte packas upp: '%1'.", error.Path()));
+    }
+
+    HINSTANCE instance_;
+    SelfExtractCommand command_;
+    SelfTexts texts_;
+    WinFiles files_;
+    std::optional<UnpackWindow> window_;
+};
+
+} // namespace
+
+} // namespace quillon
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR switches, int)
+{
+    quillon::StartProgram();
+    return quillon::SelfExtractor(instance, quillon::Narrow(switches)).Run();
+}

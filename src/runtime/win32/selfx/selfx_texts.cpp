@@ -1,0 +1,75 @@
+#include "runtime/win32/selfx/selfx_texts.h"
+
+#include "formats/self_extraction.h"
+#include "helpers/windows_path.h"
+#include "platform/win32/wide_text.h"
+#include "runtime/starter_text.h"
+#include "runtime/win32/program_path.h"
+
+#include <windows.h>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kMaxTextLength = 2000;
+
+char16_t AnsiCharacterOf(unsigned char byte)
+{
+    constexpr UINT kWesternCodePage = 1252;
+    const char one = static_cast<char>(byte);
+    wchar_t wide = L'?';
+    MultiByteToWideChar(kWesternCodePage, 0, &one, 1, &wide, 1);
+    return wide;
+}
+
+Text ProgramName()
+{
+    return ExtractFilename(ProgramPath());
+}
+
+void ShowBox(const Text& text, UINT kind)
+{
+    MessageBoxW(nullptr, Wide(text).c_str(), Wide(ProgramName()).c_str(), kind | MB_SETFOREGROUND);
+}
+
+} // namespace
+
+SelfTexts::SelfTexts()
+{
+    const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(kSelfExtractTexts), RT_RCDATA);
+    const HGLOBAL loaded = found != nullptr ? LoadResource(nullptr, found) : nullptr;
+    const void* const bytes = loaded != nullptr ? LockResource(loaded) : nullptr;
+    if (bytes != nullptr)
+        bytes_ = {static_cast<const char*>(bytes), SizeofResource(nullptr, found)};
+}
+
+Text SelfTexts::operator()(const char* key, const char* otherwise, std::string_view first) const
+{
+    char16_t wide[kMaxTextLength];
+    Text text = otherwise;
+    if (FindStarterText(bytes_, key, AnsiCharacterOf, wide, kMaxTextLength))
+        text = Narrow(reinterpret_cast<const wchar_t*>(wide));
+    const std::size_t mark = text.find("%1");
+    return mark == Text::npos ? text : text.replace(mark, 2, first);
+}
+
+void ShowFailure(const Text& text)
+{
+    ShowBox(text, MB_OK | MB_ICONSTOP);
+}
+
+void AnswerUser(const Text& text)
+{
+    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+    const DWORD kind = output == nullptr || output == INVALID_HANDLE_VALUE ? FILE_TYPE_UNKNOWN
+                                                                           : GetFileType(output);
+    const Text line = text + "\r\n";
+    DWORD written = 0;
+    if ((kind == FILE_TYPE_DISK || kind == FILE_TYPE_PIPE) &&
+        WriteFile(output, line.data(), static_cast<DWORD>(line.size()), &written, nullptr))
+        return;
+    ShowBox(text, MB_OK | MB_ICONINFORMATION);
+}
+
+} // namespace quillon

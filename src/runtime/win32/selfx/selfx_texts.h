@@ -1,0 +1,29 @@
+// What the self-extractor tells. Its texts lie in a resource of the program, where the tool has put
+// the part of the package's language file that is read before there is a package: they are needed
+// before the payload is known to be whole.
+#pragma once
+
+#include "helpers/text.h"
+
+#include <string_view>
+
+namespace quillon {
+
+class SelfTexts {
+public:
+    SelfTexts();
+
+    /// The text of the key, `otherwise` where the resource lacks it, with `first` for "%1".
+    Text operator()(const char* key, const char* otherwise, std::string_view first = {}) const;
+
+private:
+    std::string_view bytes_;
+};
+
+/// A box with the program's own name over it.
+void ShowFailure(const Text& text);
+
+/// Into the standard output where that is a file or a pipe, else in a box.
+void AnswerUser(const Text& text);
+
+} // namespace quillon
