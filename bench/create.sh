@@ -74,7 +74,7 @@ judge() {
 
 ratio() { awk "BEGIN { printf \"%.4f\", $1 / $2 }"; }
 
-line() { printf '%-10s %9.2f s %13d bytes %9d KB peak\n' "$1" "$2" "$3" "$4"; }
+line() { printf '%-22s %9.2f s %13d bytes %9d KB peak\n' "$1" "$2" "$3" "$4"; }
 
 empty_package() { rm -rf "$work/package" && mkdir "$work/package"; }
 remove_zip() { rm -f "$work/all.zip"; }
@@ -121,6 +121,25 @@ compare_programs() {
         "$(ratio "$("$bin/find_equal" "$input")" "$our_time")" '<='
 }
 
+# The whole package as one program, against the smallest that makensis makes of the same tree.
+compare_one_program() {
+    measure empty_package "$quillonc" create "$work/all.qnp" --medium internet --to "$work/package"
+    local our_time=$seconds our_memory=$memory our_size
+    our_size=$(stat -c %s "$work"/package/*.exe)
+    line "quillonc, one program" "$our_time" "$our_size" "$our_memory"
+
+    sed 's|^SetCompressor zlib|SetCompressor /SOLID lzma|' "$work/all.nsi" >"$work/solid.nsi"
+    runs=1 measure remove_installer makensis -V1 "$work/solid.nsi"
+    local nsis_size
+    nsis_size=$(size_of "$work/all.exe")
+    line "makensis, solid lzma" "$seconds" "$nsis_size" "$memory"
+
+    echo
+    judge 8 'times faster than makensis with /SOLID lzma' "$(ratio "$seconds" "$our_time")" '>='
+    judge 1 'times its size' "$(ratio "$our_size" "$nsis_size")" '<'
+    judge 1048576 'KB of memory at most' "$our_memory" '<='
+}
+
 # The best of several repetitions, by the processor's time: what else runs here does not count.
 growth() {
     local program=$1 name small large
@@ -142,6 +161,7 @@ build release
 cmake --build --preset release --target benchmarks >>build/release.log 2>&1
 
 compare_programs
+compare_one_program
 growth "$bin/file_list_bench"
 growth "$bin/project_bench"
 exit "$failed"

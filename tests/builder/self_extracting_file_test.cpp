@@ -73,11 +73,12 @@ protected:
         });
     }
 
-    // The whole file that describes the program; a Create that fails leaves it.
-    std::string Described()
+    // The whole file that describes the program; a failure leaves it.
+    std::string Described(const std::string& languageFile)
     {
         desk.machine.files.nodes.erase("c:\\quillon\\release\\qnselfx.exe");
-        EXPECT_EQ(desk.Create(), CreateResult::Failed);
+        desk.machine.files.Put("C:\\Ut\\SWEDISH.LNG", languageFile);
+        EXPECT_FALSE(desk.With([](CreateRun& run) { return BuildSelfExtractingFile(run); }));
         return desk.Get("INSTALL.ADX");
     }
 
@@ -277,8 +278,6 @@ TEST_F(SelfExtractingFile, IsRefusedBeforeTheWorkWhereItWouldBeTooLarge)
 
 TEST_F(SelfExtractingFile, IsDescribedByNumbersInTheirOrder)
 {
-    desk.machine.files.Put("C:\\Quillon\\Language\\SWEDISH.LNG",
-                           "[PreLoader]\r\nMsg_Extract=Vänta...\r\n[Setup]\r\nX=1\r\n");
     desk.project.InstallOptionsInternet.SelfExtractIconFilename = "C:\\Data\\båt.ico";
     desk.machine.files.Put("C:\\Data\\båt.ico", IconFile());
     desk.project.Sign = {.SignSelfExtractFile = kOn,
@@ -287,7 +286,7 @@ TEST_F(SelfExtractingFile, IsDescribedByNumbersInTheirOrder)
                          .SignSPCFilename = "C:\\n\\a.spc",
                          .SignPVKFilename = "C:\\n\\a.pvk",
                          .SignTimeStampSystem = 1};
-    EXPECT_EQ(Described(),
+    EXPECT_EQ(Described("[PreLoader]\r\nMsg_Extract=Vänta...\r\n[Setup]\r\nX=1\r\n"),
               "Quillon self-extracting program 1\r\n0=0\r\n200=4\r\n202=<WinTemp>\\\\QNEXPAND\r\n"
               "100=C:\\\\Ut\\\\INSTALL.ZIP\r\n101=C:\\\\Ut\\\\self.exe\r\n"
               "103=C:\\\\Data\\\\båt.ico;0\r\n300=-1\r\n301=0\r\n302=1\r\n303=0\r\n600=0\r\n"
@@ -302,7 +301,7 @@ TEST_F(SelfExtractingFile, IsDescribedWithoutWhatItDoesNotHave)
 {
     desk.project.InstallOptionsInternet.ExpandEXEInWinTempMap = kOff;
     desk.project.InstallOptions.SetupName = "INSTALL.EXE";
-    EXPECT_EQ(Described(),
+    EXPECT_EQ(Described("[PreLoader]\r\n"),
               "Quillon self-extracting program 1\r\n0=0\r\n200=1\r\n100=C:\\\\Ut\\\\INSTALL.ZIP\r\n"
               "101=C:\\\\Ut\\\\self.exe\r\n300=-1\r\n301=0\r\n302=1\r\n303=0\r\n600=0\r\n500=0\r\n"
               "502=0\r\n501=-1\r\n8500=0;<Exe>\\\\INSTALL.EXE\r\n72400=2\r\n700=0\r\n"
@@ -323,7 +322,8 @@ TEST_F(SelfExtractingFile, AsksForTheRightsThatTheSetupAsksFor)
 TEST_F(SelfExtractingFile, TellsNoPathsOfTheMachineThatMadeIt)
 {
     ASSERT_EQ(desk.Create(), CreateResult::Done);
-    for (const SolidProperty& property : Payload().Table().properties)
+    const SolidReader payload = Payload();
+    for (const SolidProperty& property : payload.Table().properties)
         EXPECT_EQ(property.value.find("C:\\"), Text::npos) << property.number;
 }
 

@@ -91,6 +91,19 @@ TEST(PlantedLibraries, AreNotTakenBySetupAndUninstaller)
     EXPECT_EQ(Loaded(prefix), "");
 }
 
+TEST(PlantedLibraries, AreNotTakenByASelfExtractingProgram)
+{
+    if (WineBits() == 64)
+        GTEST_SKIP() << "the program is made for 32-bit Windows alone";
+    SampleProduct product;
+    const fs::path package = MakePackage(product.Order({"--medium", "internet"}));
+    PlantIn(package);
+    const WinePrefix prefix;
+    PlantIn(prefix.OnHost("C:\\windows\\temp"));
+    EXPECT_EQ(prefix.Run(OnZ(package / "self.exe"), "/S"), 0U);
+    EXPECT_EQ(Loaded(prefix), "");
+}
+
 // A tone of one second: 8 bits, 8000 times in it.
 std::string ToneFile()
 {

@@ -150,15 +150,14 @@ std::vector<SolidSource> PayloadSources(const FileSystem& files, const Text& arc
         if (!entry.isStored || entry.isEncrypted)
             throw RunError(ErrorNumber::kDeviceIo, archive);
         const std::uint64_t data = DataPosition(*input, entry);
-        SolidSource source{.file = {.name = entry.name,
-                                    .size = entry.size,
-                                    .modified = std::nullopt,
-                                    .attributes = SolidAttribute::kArchive,
-                                    .runs = RunsOf(files, archive, entry.name, data, entry.size)},
-                           .open = [&files, archive, data, size = entry.size] {
-                               return std::make_unique<FilePart>(files.OpenInput(archive), data,
-                                                                 size);
-                           }};
+        SolidSource source;
+        source.file.name = entry.name;
+        source.file.size = entry.size;
+        source.file.attributes = SolidAttribute::kArchive;
+        source.file.runs = RunsOf(files, archive, entry.name, data, entry.size);
+        source.open = [&files, archive, data, size = entry.size] {
+            return std::make_unique<FilePart>(files.OpenInput(archive), data, size);
+        };
         if (!IsWrittenByCreate(entry.name))
             source.file.modified = entry.modified;
         sources.push_back(std::move(source));

@@ -2,6 +2,7 @@
 
 #include "builder/remove_quietly.h"
 #include "builder/selfextract/active_delivery.h"
+#include "builder/signing/sign_programs.h"
 #include "formats/runtime_programs.h"
 #include "formats/self_extraction.h"
 #include "helpers/ansi_text.h"
@@ -259,6 +260,11 @@ bool BuildSelfExtractingFile(CreateRun& run)
     if (number != 0) {
         keepFailure();
         return TellFailure(run, number);
+    }
+    if (SignProgram(run, input.result, name) == Step::Stop) {
+        // Nobody shall take it for the signed one.
+        RemoveQuietly(run.host.files, input.result);
+        return false;
     }
     RemovePackedFiles(run);
     return true;
