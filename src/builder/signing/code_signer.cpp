@@ -13,8 +13,10 @@ using Kind = ProgramArgument::Kind;
 // The service of the second row of `ComboTimeStamp`, where its owner has it today; it knows both
 // kinds of stamps.
 constexpr const char* kTimeStampService = "http://timestamp.digicert.com";
-// A service that does not answer must not hold a build server for ever.
+// A service that does not answer must not hold a build server for ever. A large file takes its time
+// beside that, on a slow disk.
 constexpr int kMaxSeconds = 120;
+constexpr std::uint64_t kSlowDisk = 10'000'000; // bytes a second
 constexpr std::string_view kStampFailed = "timestamping failed";
 
 struct KnownFault {
@@ -47,10 +49,10 @@ Text FirstLineOf(const Text& output)
     return "inget besked";
 }
 
-Text FaultIn(const ProgramOutcome& outcome)
+Text FaultIn(const ProgramOutcome& outcome, int maxSeconds)
 {
     if (outcome.tookTooLong)
-        return Text(kSigningProgram) + " blev inte färdigt på " + NumberText(kMaxSeconds) +
+        return Text(kSigningProgram) + " blev inte färdigt på " + NumberText(maxSeconds) +
                " sekunder.";
     for (const KnownFault& fault : kKnownFaults)
         if (outcome.output.find(fault.output) != Text::npos)
@@ -96,7 +98,9 @@ Text CodeSigner::Sign(const Text& source, const Text& signedFile, const OnWait& 
 Text CodeSigner::Try(const Text& source, const Text& signedFile, const TimeStampServer* server,
                      const OnWait& onWait)
 {
-    ProgramOrder order{.program = kSigningProgram, .maxSeconds = kMaxSeconds};
+    const std::uint64_t size = files_.Status(source).size;
+    ProgramOrder order{.program = kSigningProgram,
+                       .maxSeconds = kMaxSeconds + static_cast<int>(size / kSlowDisk)};
     order.arguments = {{"sign"}};
     for (ProgramArgument& argument : KeyArguments(order_.key))
         order.arguments.push_back(std::move(argument));
@@ -119,7 +123,7 @@ Text CodeSigner::Try(const Text& source, const Text& signedFile, const TimeStamp
     else if (server && outcome.output.find(kStampFailed) != Text::npos)
         fault = kStampFailed;
     else
-        fault = FaultIn(outcome);
+        fault = FaultIn(outcome, order.maxSeconds);
     if (!fault.empty())
         RemoveQuietly(files_, signedFile);
     return fault;

@@ -678,6 +678,52 @@ TEST_F(DlgCreateTest, Picture)
     QApplication::setPalette(light);
 }
 
+/// A signing program that refuses, and remembers what it was handed.
+class RefusingPrograms : public ProgramRunner {
+public:
+    bool IsInstalled(const Text&) const override { return true; }
+    ProgramOutcome Run(const ProgramOrder& order, const std::function<void()>&) override
+    {
+        passwords.push_back(order.input);
+        return {.exitCode = 255, .output = "Failed (Wrong password?)\n"};
+    }
+    std::unique_ptr<WorkFolder> MakeWorkFolder() override
+    {
+        class Folder : public WorkFolder {
+        public:
+            const Text& Path() const override { return path_; }
+
+        private:
+            Text path_ = "C:\\TEMP";
+        };
+        return std::make_unique<Folder>();
+    }
+
+    std::vector<Text> passwords;
+};
+
+TEST_F(DlgCreateTest, AsksForThePasswordOfTheKeyThatSigns)
+{
+    Open().project.Sign = {.SignSelfExtractFile = kOn, .SignSPCFilename = "C:\\firma.pfx"};
+    machine.files.Put("C:\\firma.pfx", "key");
+    RefusingPrograms programs;
+    session->programs = &programs;
+    DlgCreate form(*session, nullptr);
+    ShowActive(form);
+    OnNextDialog([](QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Lösenord");
+        Type(dialog, "tInput", "hemligt");
+        Click(dialog, "cmdOK");
+    });
+    Click(form, "cmdCreate");
+    EXPECT_EQ(programs.passwords, std::vector<Text>{"hemligt"});
+    const std::vector<Text> lines = Lines(form);
+    EXPECT_THAT(lines, testing::Contains("Fel! Kan ej signera SETUP.EXE!"));
+    EXPECT_EQ(lines.back(), "'SETUP.EXE' kan ej signeras: Lösenordet till nyckeln stämmer inte, "
+                            "eller så är nyckelfilen skadad.");
+    EXPECT_FALSE(machine.files.FileExists("C:\\Ut\\SETUP.EXE"));
+}
+
 class ProbeWindow : public MainWindow {
 public:
     void ShowProject() override {}

@@ -58,5 +58,21 @@ TEST_F(XInputBoxTest, TellsAnEmptyAnswerFromACancelledOne)
     EXPECT_EQ(Asked(), "");
 }
 
+TEST(AskPasswordTest, ShowsNoLetterOfIt)
+{
+    OnNextDialog([](QDialog& box) {
+        EXPECT_EQ(box.windowTitle(), "Lösenord");
+        EXPECT_EQ(Find<QLineEdit>(box, "tInput").accessibleName(), "Lösenord till 'C:\\A&B.pvk'");
+        EXPECT_EQ(Find<QLineEdit>(box, "tInput").echoMode(), QLineEdit::Password);
+        SavePicture(box, "AskPassword");
+        Type(box, "tInput", "hemligt å");
+        EXPECT_EQ(Find<QLineEdit>(box, "tInput").displayText().indexOf("h"), -1);
+        Click(box, "cmdOK");
+    });
+    EXPECT_EQ(AskPassword("Lösenord", "Lösenord till 'C:\\A&B.pvk':", nullptr), "hemligt å");
+    OnNextDialog([](QDialog& box) { Click(box, "cmdCancel"); });
+    EXPECT_EQ(AskPassword("Lösenord", "Lösenord:", nullptr), std::nullopt);
+}
+
 } // namespace
 } // namespace quillon::test
