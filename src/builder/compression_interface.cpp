@@ -4,7 +4,6 @@
 #include "archive/writer/zip_writer.h"
 #include "archive/zip_records.h"
 #include "builder/compression_log.h"
-#include "builder/equal_files.h"
 #include "builder/progress_display.h"
 #include "builder/responsive_copy.h"
 #include "builder/temporary_file.h"
@@ -56,8 +55,6 @@ struct CompressionInterface::State {
     struct Item {
         Text path;
         Text rows;
-        // Of a content that several rows share: what was compared is what must be packed.
-        std::optional<std::uint32_t> crc = {};
     };
     struct Order {
         Text target;
@@ -84,8 +81,9 @@ struct CompressionInterface::State {
 private:
     void Make(const Order& order, CompressionLog& log);
     Text FolderForUnfinished(const Order& order) const;
-    std::vector<Item> DistinctItems() const;
-    std::vector<ZipSource> Sources(const Order& order, const std::vector<Item>& packed) const;
+    static std::optional<Text> Share(std::vector<Text>& rows, std::size_t first, std::size_t repeat,
+                                     bool isSameDate, const LocalTime& date);
+    std::vector<ZipSource> Sources(const Order& order) const;
     void Pack(const Order& order, OutputFile& unfinished, CompressionLog& log);
     void Deliver(const Order& order, const Text& finished);
     void MoveIntoPlace(const Text& finished, const Text& target);
@@ -150,43 +148,25 @@ Text CompressionInterface::State::FolderForUnfinished(const Order& order) const
     return order.spans ? host.machine.GetTempDir() : ExtractDirectory(order.target);
 }
 
-// Files with the same bytes become one, which serves the rows of all of them. A file without rows
-// is found by its name, and so stays.
-std::vector<CompressionInterface::State::Item> CompressionInterface::State::DistinctItems() const
+// Rows of files with the same bytes share an entry, as far as its comment has room. A file without
+// rows is found by its name, and so has its own.
+std::optional<Text> CompressionInterface::State::Share(std::vector<Text>& rows, std::size_t first,
+                                                       std::size_t repeat, bool isSameDate,
+                                                       const LocalTime& date)
 {
-    std::vector<Text> paths;
-    for (const Item& item : items)
-        paths.push_back(item.path);
-    const auto contents = FindEqualFiles(host.files, paths, [this] { ask.ProcessEvents(); });
-    std::vector<Item> distinct;
-    constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
-    std::vector<std::size_t> placeOf(items.size(), kNone); // of a content's item among these
-    std::vector<LocalTime> dates;
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        std::size_t& place = placeOf[contents[i].original];
-        const LocalTime date = DateInArchive(contents[i].modified);
-        if (place != kNone && !items[i].rows.empty() && !distinct[place].rows.empty()) {
-            const bool isSameDate = dates[place] == date;
-            const Text rows = isSameDate ? items[i].rows : RowsWithDate(items[i].rows, date);
-            if (distinct[place].rows.size() + 1 + rows.size() <= kMaxCommentLength) {
-                distinct[place].rows.append(" ").append(rows);
-                distinct[place].crc = contents[i].crc;
-                continue;
-            }
-        }
-        place = distinct.size();
-        distinct.push_back(items[i]);
-        dates.push_back(date);
-    }
-    return distinct;
+    if (rows[first].empty() || rows[repeat].empty())
+        return {};
+    const Text more = isSameDate ? rows[repeat] : RowsWithDate(rows[repeat], date);
+    if (rows[first].size() + 1 + more.size() > kMaxCommentLength)
+        return {};
+    return rows[first].append(" ").append(more);
 }
 
-std::vector<ZipSource> CompressionInterface::State::Sources(const Order& order,
-                                                            const std::vector<Item>& packed) const
+std::vector<ZipSource> CompressionInterface::State::Sources(const Order& order) const
 {
     std::vector<ZipSource> sources;
-    sources.reserve(packed.size());
-    for (const Item& item : packed) {
+    sources.reserve(items.size());
+    for (const Item& item : items) {
         const Text name = ContainerEntryName(item.path);
         const std::size_t folderEnd = order.namesOnly ? name.rfind('/') : Text::npos;
         sources.push_back(
@@ -199,19 +179,20 @@ void CompressionInterface::State::Pack(const Order& order, OutputFile& unfinishe
                                        CompressionLog& log)
 {
     ProgressDisplay progress(ask);
-    const std::vector<Item> packed = order.namesOnly ? items : DistinctItems();
-    std::size_t done = 0;
+    std::vector<Text> rows;
+    for (const Item& item : items)
+        rows.push_back(item.rows);
     const ZipWatch watch{
-        .onEntry =
-            [&](const ZipEntryReport& entry) {
-                if (packed[done].crc.value_or(entry.crc) != entry.crc)
-                    throw CompressionFailure(CompressionResult::kSourceChanged, entry.path);
-                ++done;
-                log.AddEntry(entry);
+        .onEqual =
+            [&](std::size_t first, std::size_t repeat, const LocalTime& firstDate,
+                const LocalTime& repeatDate) {
+                const LocalTime date = DateInArchive(repeatDate);
+                return Share(rows, first, repeat, DateInArchive(firstDate) == date, date);
             },
+        .onEntry = [&](const ZipEntryReport& entry) { log.AddEntry(entry); },
         .onProgress = [&](std::uint64_t bytes, std::uint64_t all) { progress.Show(bytes, all); },
         .onYield = [&] { ask.ProcessEvents(); }};
-    WriteZip(host.files, Sources(order, packed), unfinished,
+    WriteZip(host.files, Sources(order), unfinished,
              {.deflate = deflates, .password = order.password}, watch);
     unfinished.Close();
 }

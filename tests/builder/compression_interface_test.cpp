@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <random>
 
 namespace quillon {
@@ -224,20 +225,38 @@ TEST_F(Compression, StoresEqualDesignFilesUnderTheirNames)
     EXPECT_EQ(OpenArchive(files.Get("C:\\Out\\DESOBJ.DAT")).Entries().size(), 2U);
 }
 
-// The row of the second file must not get what the first one has become meanwhile.
-TEST_F(Compression, NoticesThatASharedFileChangedAfterItWasCompared)
+TEST_F(Compression, StoresAFileByItselfWhoseTwinChangedAfterItWasPacked)
 {
     Put("C:\\a.txt", "same bytes", "F1");
     Put("C:\\b.txt", "same bytes", "F2");
-    int opened = 0;
+    std::atomic<int> opened = 0;
     files.PutTricky("C:\\a.txt", 10, [&opened] {
-        const bool isCompared = ++opened <= 2; // its beginning, and the whole
+        const std::string text = ++opened == 1 ? "same bytes" : "others now";
         return std::make_unique<test::MadeUpInput>(
-            10, 10, [isCompared](std::uint64_t position, std::span<std::byte> bytes) {
-                const std::string text = isCompared ? "same bytes" : "others now";
+            10, 10, [text](std::uint64_t position, std::span<std::byte> bytes) {
                 for (std::size_t i = 0; i < bytes.size(); ++i)
                     bytes[i] = std::byte(text[std::size_t(position) + i]);
             });
+    });
+    EXPECT_EQ(Create(), kDone);
+    EXPECT_EQ(OpenArchive(Archive()).Entries().size(), 2U);
+    EXPECT_EQ(UnpackAll(Archive()).at("b.txt"), "same bytes");
+}
+
+// The row of the second file must not get what the first one has become meanwhile.
+TEST_F(Compression, NoticesThatALargeSharedFileChangedAfterItWasCompared)
+{
+    static constexpr std::uint64_t kSize = 9'000'000;
+    Put("C:\\a.txt", "", "F1");
+    Put("C:\\b.txt", "", "F2");
+    std::atomic<int> opened = 0;
+    files.PutTricky("C:\\a.txt", kSize, [&opened] {
+        const bool isCompared = ++opened <= 2; // its beginning, and the whole
+        return std::make_unique<test::MadeUpInput>(
+            kSize, kSize, isCompared ? test::FillWithZeros : test::FillWithText);
+    });
+    files.PutTricky("C:\\b.txt", kSize, [] {
+        return std::make_unique<test::MadeUpInput>(kSize, kSize, test::FillWithZeros);
     });
     EXPECT_EQ(Create(), kSourceChanged);
     EXPECT_EQ(PathOfFailure(), "C:\\a.txt");

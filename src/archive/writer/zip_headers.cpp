@@ -95,7 +95,9 @@ Bytes LocalHeaderBytes(const EntryRecord& entry)
     return bytes;
 }
 
-void DirectoryWriter::Add(const EntryRecord& entry)
+namespace {
+
+void AppendCentralHeader(Bytes& bytes, const EntryRecord& entry)
 {
     const Zip64Extra zip64{.size = WhereFull(entry.size),
                            .packedSize = WhereFull(entry.packedSize),
@@ -111,30 +113,46 @@ void DirectoryWriter::Add(const EntryRecord& entry)
     header.extraLength = Short16(extra.size());
     header.commentLength = Short16(entry.comment.size());
     header.externalAttributes = kArchiveAttribute;
-    AppendRecord(bytes_, header);
-    AppendText(bytes_, entry.name);
-    bytes_.insert(bytes_.end(), extra.begin(), extra.end());
-    AppendText(bytes_, entry.comment);
-    ++entries_;
+    AppendRecord(bytes, header);
+    AppendText(bytes, entry.name);
+    bytes.insert(bytes.end(), extra.begin(), extra.end());
+    AppendText(bytes, entry.comment);
+}
+
+} // namespace
+
+std::size_t DirectoryWriter::Add(EntryRecord entry)
+{
+    entries_.push_back(std::move(entry));
+    return entries_.size() - 1;
+}
+
+void DirectoryWriter::ChangeComment(std::size_t entry, Text comment)
+{
+    entries_[entry].comment = std::move(comment);
 }
 
 Bytes DirectoryWriter::Finish(std::uint64_t position)
 {
-    const std::uint64_t size = bytes_.size();
-    if (entries_ >= kFull16 || size >= kFull32 || position >= kFull32) {
-        AppendRecord(bytes_, Zip64EndRecord{.versionMadeBy = kVersionMadeBy,
-                                            .versionNeeded = VersionNeeded::kZip64,
-                                            .entriesOnDisk = entries_,
-                                            .entries = entries_,
-                                            .directorySize = size,
-                                            .directoryPosition = position});
-        AppendRecord(bytes_, Zip64Locator{.endRecordPosition = position + size});
+    Bytes bytes;
+    for (const EntryRecord& entry : entries_)
+        AppendCentralHeader(bytes, entry);
+    const std::uint64_t size = bytes.size();
+    const std::uint64_t count = entries_.size();
+    if (count >= kFull16 || size >= kFull32 || position >= kFull32) {
+        AppendRecord(bytes, Zip64EndRecord{.versionMadeBy = kVersionMadeBy,
+                                           .versionNeeded = VersionNeeded::kZip64,
+                                           .entriesOnDisk = count,
+                                           .entries = count,
+                                           .directorySize = size,
+                                           .directoryPosition = position});
+        AppendRecord(bytes, Zip64Locator{.endRecordPosition = position + size});
     }
-    AppendRecord(bytes_, EndRecord{.entriesOnDisk = Short16(entries_),
-                                   .entries = Short16(entries_),
-                                   .directorySize = Short32(size),
-                                   .directoryPosition = Short32(position)});
-    return std::exchange(bytes_, {});
+    AppendRecord(bytes, EndRecord{.entriesOnDisk = Short16(count),
+                                  .entries = Short16(count),
+                                  .directorySize = Short32(size),
+                                  .directoryPosition = Short32(position)});
+    return bytes;
 }
 
 } // namespace quillon

@@ -6,6 +6,7 @@
 #include "helpers/text.h"
 
 #include <cstdint>
+#include <vector>
 
 namespace quillon {
 
@@ -32,13 +33,15 @@ zip::Bytes LocalHeaderBytes(const EntryRecord& entry);
 /// The list of the entries, collected while they are written.
 class DirectoryWriter {
 public:
-    void Add(const EntryRecord& entry);
+    /// The number of the entry comes back.
+    std::size_t Add(EntryRecord entry);
+    /// The entry serves more than was known when it was written.
+    void ChangeComment(std::size_t entry, Text comment);
     /// The whole directory with the end records, to be written at this position.
     zip::Bytes Finish(std::uint64_t position);
 
 private:
-    zip::Bytes bytes_;
-    std::uint64_t entries_ = 0;
+    std::vector<EntryRecord> entries_;
 };
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "archive/writer/zip_writer.h"
 
 #include "archive/writer/archive_output.h"
+#include "archive/writer/equal_files.h"
 #include "archive/writer/ordered_workers.h"
 #include "archive/writer/source_block.h"
 #include "archive/writer/zip_headers.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <map>
 #include <memory>
 #include <optional>
 #include <thread>
@@ -71,6 +73,10 @@ private:
             watch_.onYield();
     }
     void StatSources();
+    void FindLargeEqualSources();
+    bool JoinsEarlier(std::size_t source);
+    bool RepeatsWritten(const Pending& pending, const PackedBlock& packed);
+    bool Share(std::size_t first, std::size_t repeat);
     void SubmitSource(std::size_t source);
     void Submit(std::size_t source, const SourceBlock& block);
     bool ShrinksInParts(const Text& path, std::uint64_t size);
@@ -100,6 +106,13 @@ private:
     std::deque<EncryptionState> encryptions_;
     EntryRecord entry_; // the one that is being written
     DirectoryWriter directory_;
+
+    // Of equal sources. By size and CRC, those of one block that have an entry.
+    std::map<std::pair<std::uint64_t, std::uint32_t>, std::vector<std::size_t>> written_;
+    std::vector<std::size_t> originals_;                    // of each source, the first like it
+    std::vector<std::optional<std::uint32_t>> comparedCrc_; // of large ones that are shared
+    std::map<std::size_t, Text> sharedComments_;            // by the source that has the entry
+    std::vector<std::optional<std::size_t>> entryOf_;       // by source
     // Last, so that the threads end before what they use.
     OrderedWorkers<SourceBlock, PackedBlock> workers_;
 };
@@ -117,8 +130,10 @@ ZipWriting::ZipWriting(const FileSystem& files, std::span<const ZipSource> sourc
 void ZipWriting::Run()
 {
     StatSources();
+    FindLargeEqualSources();
     for (std::size_t source = 0; source < sources_.size(); ++source)
-        SubmitSource(source);
+        if (!JoinsEarlier(source))
+            SubmitSource(source);
     while (!pending_.empty())
         WriteOldest();
     output_.Write(directory_.Finish(output_.Position()));
@@ -135,6 +150,73 @@ void ZipWriting::StatSources()
             throw CompressionFailure(CompressionResult::kNoReadAccess, source.path);
         total_ += status_.back().size;
     }
+}
+
+// Sources of several blocks, whose headers are written before their bytes are known.
+void ZipWriting::FindLargeEqualSources()
+{
+    entryOf_.resize(sources_.size());
+    comparedCrc_.resize(sources_.size());
+    originals_.resize(sources_.size());
+    std::vector<std::size_t> large;
+    std::vector<Text> paths;
+    for (std::size_t source = 0; source < sources_.size(); ++source) {
+        originals_[source] = source;
+        if (watch_.onEqual && status_[source].size > kBlockSize) {
+            large.push_back(source);
+            paths.push_back(sources_[source].path);
+        }
+    }
+    const auto contents = FindEqualFiles(files_, paths, [this] { Yield(); });
+    for (std::size_t i = 0; i < large.size(); ++i) {
+        originals_[large[i]] = large[contents[i].original];
+        if (contents[i].original != i)
+            comparedCrc_[large[contents[i].original]] = contents[i].crc;
+    }
+}
+
+bool ZipWriting::JoinsEarlier(std::size_t source)
+{
+    const std::size_t first = originals_[source];
+    if (first == source)
+        return false;
+    if (Share(first, source)) {
+        done_ += status_[source].size;
+        return true;
+    }
+    // The next ones like it may join this one.
+    comparedCrc_[source] = comparedCrc_[first];
+    for (std::size_t next = source; next < originals_.size(); ++next)
+        if (originals_[next] == first)
+            originals_[next] = source;
+    return false;
+}
+
+bool ZipWriting::Share(std::size_t first, std::size_t repeat)
+{
+    auto comment = watch_.onEqual(first, repeat, status_[first].modified, status_[repeat].modified);
+    if (!comment)
+        return false;
+    // Of an entry that is not written yet the comment waits for its end.
+    sharedComments_[first] = *comment;
+    if (entryOf_[first])
+        directory_.ChangeComment(*entryOf_[first], std::move(*comment));
+    return true;
+}
+
+// The CRC tells which are worth a second look; the bytes decide.
+bool ZipWriting::RepeatsWritten(const Pending& pending, const PackedBlock& packed)
+{
+    if (!watch_.onEqual || !pending.block.IsWhole())
+        return false;
+    std::vector<std::size_t>& alike = written_[{pending.block.fileSize, packed.crc}];
+    for (const std::size_t first : alike)
+        if ((pending.block.fileSize == 0 ||
+             AreEqualFiles(files_, sources_[first].path, *pending.block.path)) &&
+            Share(first, pending.source))
+            return true;
+    alike.push_back(pending.source);
+    return false;
 }
 
 void ZipWriting::SubmitSource(std::size_t source)
@@ -215,11 +297,13 @@ void ZipWriting::WriteOldest()
     onTheWay_ -= pending.block.length + kBlockOverhead;
     Yield();
     PackedBlock packed = workers_.Next(watch_.onYield);
-    if (pending.block.IsFirst())
-        BeginEntry(pending, packed);
-    WriteBlock(pending, packed);
-    if (pending.block.IsLast())
-        EndEntry(pending);
+    if (!RepeatsWritten(pending, packed)) {
+        if (pending.block.IsFirst())
+            BeginEntry(pending, packed);
+        WriteBlock(pending, packed);
+        if (pending.block.IsLast())
+            EndEntry(pending);
+    }
     done_ += pending.block.length;
     if (watch_.onProgress)
         watch_.onProgress(done_, total_);
@@ -285,9 +369,13 @@ void ZipWriting::EndEntry(const Pending& pending)
             EndEncryption(pending);
         output_.WriteAt(entry_.headerPosition, LocalHeaderBytes(entry_));
     }
-    directory_.Add(entry_);
+    if (const auto& crc = comparedCrc_[pending.source]; crc && *crc != entry_.crc)
+        throw CompressionFailure(CompressionResult::kSourceChanged, *pending.block.path);
+    entryOf_[pending.source] = directory_.Add(entry_);
+    if (const auto shared = sharedComments_.find(pending.source); shared != sharedComments_.end())
+        directory_.ChangeComment(*entryOf_[pending.source], shared->second);
     if (watch_.onEntry)
-        watch_.onEntry({*pending.block.path, entry_.size, entry_.packedSize, entry_.crc});
+        watch_.onEntry({*pending.block.path, entry_.size, entry_.packedSize});
 }
 
 } // namespace

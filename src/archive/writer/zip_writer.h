@@ -16,6 +16,10 @@
 //   password, not from chance, so a large encrypted source is read twice.
 // - Memory: at most 96 MiB of sources are in flight, each thread has its own deflater and a block,
 //   and 16 threads are the most; all of it stays below 256 MiB for any tree.
+// - Equal sources cost nothing where there are none: the CRC of a source of one block is known once
+//   it is packed, and only where size and CRC have come before are the two files read again and
+//   compared. What is found equal is thrown away. A larger source is on its way into the archive by
+//   then, so those are compared beforehand (`equal_files.h`); there are few of one size.
 // - The thread that called does the writing and calls `ZipWatch` between blocks, so that a window
 //   stays alive without locks of its own.
 //
@@ -30,6 +34,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 
 namespace quillon {
@@ -50,11 +55,16 @@ struct ZipEntryReport {
     Text path;
     std::uint64_t size = 0;
     std::uint64_t packedSize = 0;
-    std::uint32_t crc = 0; // of the content
 };
 
 /// What the writer tells while it works, always from the calling thread. Each may be empty.
 struct ZipWatch {
+    /// Called where a source has the same bytes as an earlier one; both are told by their places
+    /// among the sources. The comment of the entry that serves both comes back; nothing where each
+    /// shall have its own. Without it equal sources are stored each.
+    std::function<std::optional<Text>(std::size_t first, std::size_t repeat,
+                                      const LocalTime& firstDate, const LocalTime& repeatDate)>
+        onEqual;
     std::function<void(const ZipEntryReport&)> onEntry;
     /// Bytes of the sources that are packed, and of all of them.
     std::function<void(std::uint64_t done, std::uint64_t total)> onProgress;

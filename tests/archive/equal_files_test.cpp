@@ -1,4 +1,4 @@
-#include "builder/equal_files.h"
+#include "archive/writer/equal_files.h"
 
 #include "support/memory_host.h"
 

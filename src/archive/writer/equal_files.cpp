@@ -1,8 +1,9 @@
-#include "builder/equal_files.h"
+#include "archive/writer/equal_files.h"
 
 #include "helpers/sha256.h"
 #include "platform/run_error.h"
 
+#include <algorithm>
 #include <map>
 #include <unordered_map>
 #include <zlib.h>
@@ -119,6 +120,25 @@ private:
 };
 
 } // namespace
+
+bool AreEqualFiles(const FileSystem& files, const Text& first, const Text& second)
+{
+    bool isEqual = false;
+    RunErrorNumber([&] {
+        const auto one = files.OpenInput(first);
+        const auto other = files.OpenInput(second);
+        std::vector<std::byte> bytes(kPiece);
+        std::vector<std::byte> others(kPiece);
+        std::size_t count = 0;
+        do {
+            count = one->Read(bytes);
+            isEqual = other->Read(others) == count &&
+                      std::equal(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(count),
+                                 others.begin());
+        } while (isEqual && count > 0);
+    });
+    return isEqual;
+}
 
 std::vector<FileContent> FindEqualFiles(const FileSystem& files, const std::vector<Text>& paths,
                                         const std::function<void()>& onYield)

@@ -24,4 +24,7 @@ struct FileContent {
 std::vector<FileContent> FindEqualFiles(const FileSystem& files, const std::vector<Text>& paths,
                                         const std::function<void()>& onYield);
 
+/// Whether both can be read and hold the same bytes.
+bool AreEqualFiles(const FileSystem& files, const Text& first, const Text& second);
+
 } // namespace quillon
