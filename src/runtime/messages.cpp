@@ -55,6 +55,11 @@ constexpr MessageKey kMessages[] = {
     {Message::RestartQuestion,         "Setup", "Ask_Restart",            "Datorn måste startas om innan programmet kan användas. Vill du starta om den nu?"},
     {Message::RestartNow,              "Setup", "Msg_RestartNow",         "Datorn startas om när du stänger den här rutan. Spara först det som är öppet i andra program."},
     {Message::UninstallIcon,          "Setup",     "Icon_Uninstall",          "Avinstallera %1"},
+    {Message::InUsePrograms,          "Setup",     "InUse_Programs",          "De här programmen använder filer som ska ersättas eller tas bort:"},
+    {Message::InUseClose,             "Setup",     "InUse_Close",             "Vill du att de stängs? Om du svarar Nej kan datorn behöva startas om efteråt."},
+    {Message::InUseFiles,             "Setup",     "InUse_Files",             "De här filerna används av ett program:"},
+    {Message::InUseTryAgain,          "Setup",     "InUse_TryAgain",          "Stäng programmet och svara Ja. Om du svarar Nej kan datorn behöva startas om efteråt."},
+    {Message::FolderOfOthers,         "Setup",     "Err_FolderOfOthers",      "Mappen '%1' har skapats av en annan användare, som kan byta ut det som installeras där. Välj en annan mapp."},
     {Message::PageWelcome,            "Pages",     "Page_Welcome",            "Välkommen"},
     {Message::PageGeneralInfo,        "Pages",     "Page_GeneralInfo",        "Generell information"},
     {Message::PageGeneralInfo2,       "Pages",     "Page_GeneralInfo2",       "Generell information 2"},
@@ -230,6 +235,10 @@ constexpr MessageKey kMessages[] = {
     {Message::LogPutsBack,            "Log",       "Log_PutsBack",            "Lägger tillbaka %1"},
     {Message::LogTakesBackRestart,    "Log",       "Log_TakesBackRestart",    "Filen %1 ersätts inte längre när datorn startas om"},
     {Message::LogCannotRemove,        "Log",       "Log_CannotRemove",        "Kan inte ta bort %1: %2"},
+    {Message::LogInUse,               "Log",       "Log_InUse",               "Filen %1 används av ett program"},
+    {Message::LogUsesFiles,           "Log",       "Log_UsesFiles",           "Programmet %1 använder filer som ska ersättas eller tas bort"},
+    {Message::LogClosesPrograms,      "Log",       "Log_ClosesPrograms",      "Stänger programmen"},
+    {Message::LogProgramsRunOn,       "Log",       "Log_ProgramsRunOn",       "Alla program kunde inte stängas"},
     {Message::ReasonFileNotFound,     "Reasons",   "Reason_FileNotFound",     "filen '%1' finns inte"},
     {Message::ReasonFolderNotFound,   "Reasons",   "Reason_FolderNotFound",   "mappen till '%1' finns inte"},
     {Message::ReasonAccessDenied,     "Reasons",   "Reason_AccessDenied",     "åtkomst nekas till '%1'"},
@@ -279,6 +288,10 @@ bool IsOfUninstaller(Message message)
     case Message::No:
     case Message::BadSwitch:
     case Message::OtherSetup:
+    case Message::InUsePrograms:
+    case Message::InUseClose:
+    case Message::InUseFiles:
+    case Message::InUseTryAgain:
         return true;
     default:
         return false;

@@ -24,18 +24,18 @@ public:
             AddFileOf(record);
         const Text uninstaller = UninstallerPath(ExtractDirectory(logPath));
         if (GoesWithProduct(files_, logPath, uninstaller))
-            AddFile(uninstaller);
-        AddFile(logPath);
+            AddFile(uninstaller, removal.own);
+        AddFile(logPath, removal.own);
         AddFolders();
         for (const JournalRecord& record : product.records)
             AddSettingOf(record);
     }
 
-    std::vector<Text> lines;
+    Removal removal;
 
 private:
     void AddFileOf(const JournalRecord& record);
-    void AddFile(const Text& path);
+    void AddFile(const Text& path, std::vector<Text>& to);
     void AddFolders();
     bool GoesEmpty(const Text& folder) const;
     void AddSettingOf(const JournalRecord& record);
@@ -55,13 +55,13 @@ void RemovalList::AddFileOf(const JournalRecord& record)
                         std::holds_alternative<record::Shared>(record);
     const Text path = SubjectOf(record);
     if (isFile && !paths_.StaysBehind(path) && !paths_.WhyOutOfReach(path))
-        AddFile(path);
+        AddFile(path, removal.files);
 }
 
-void RemovalList::AddFile(const Text& path)
+void RemovalList::AddFile(const Text& path, std::vector<Text>& to)
 {
     if (files_.FileExists(path) && goes_.insert(LowerCase(path)).second)
-        lines.push_back(path);
+        to.push_back(path);
 }
 
 // From the inner ones outwards; they are told in the order of the record.
@@ -72,7 +72,7 @@ void RemovalList::AddFolders()
         if (const auto* const folder = std::get_if<record::Folder>(&*record);
             folder && GoesEmpty(folder->path) && goes_.insert(LowerCase(folder->path)).second)
             found.push_back(folder->path);
-    lines.insert(lines.end(), found.rbegin(), found.rend());
+    removal.folders.assign(found.rbegin(), found.rend());
 }
 
 bool RemovalList::GoesEmpty(const Text& folder) const
@@ -89,7 +89,7 @@ void RemovalList::AddSettingOf(const JournalRecord& record)
 {
     const auto addValue = [&](const RegistryKey& key, const Text& name) {
         if (target_.ReadValue(key, name) && !EqualIgnoreCase(key.subKey, entry_.subKey))
-            lines.push_back(KeyText(key) + " :: " + name);
+            removal.settings.push_back(KeyText(key) + " :: " + name);
     };
     if (const auto* const value = std::get_if<record::Value>(&record); value && !value->former)
         addValue(value->key, value->name);
@@ -97,18 +97,26 @@ void RemovalList::AddSettingOf(const JournalRecord& record)
         addValue(value->key, value->name);
     if (const auto* const key = std::get_if<record::UninstallKey>(&record);
         key && target_.KeyExists(key->key))
-        lines.push_back(KeyText(key->key));
+        removal.settings.push_back(KeyText(key->key));
     if (const auto* const value = std::get_if<record::IniValue>(&record);
         value && !value->formerLine && !paths_.WhyOutOfReach(value->path))
-        lines.push_back(value->path + " [" + value->section + "] " + value->name);
+        removal.settings.push_back(value->path + " [" + value->section + "] " + value->name);
 }
 
 } // namespace
 
-std::vector<Text> LinesOfRemoval(const InstalledProduct& product, const Host& host,
-                                 const Target& target, const Text& logPath)
+std::vector<Text> Removal::Lines() const
 {
-    return RemovalList(product, host, target, logPath).lines;
+    std::vector<Text> lines;
+    for (const std::vector<Text>* part : {&files, &own, &folders, &settings})
+        lines.insert(lines.end(), part->begin(), part->end());
+    return lines;
+}
+
+Removal PlanRemoval(const InstalledProduct& product, const Host& host, const Target& target,
+                    const Text& logPath)
+{
+    return RemovalList(product, host, target, logPath).removal;
 }
 
 } // namespace quillon

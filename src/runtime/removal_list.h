@@ -6,10 +6,18 @@
 
 namespace quillon {
 
-/// Files, folders, values of the registry and of INI files, by kind and in the order in which they
-/// were made. What has gone already, what stays, and what keeps the system's own books is not among
-/// them.
-std::vector<Text> LinesOfRemoval(const InstalledProduct& product, const Host& host,
-                                 const Target& target, const Text& logPath);
+/// By kind, and in the order in which they were made. What has gone already, what stays, and what
+/// keeps the system's own books is not among them.
+struct Removal {
+    std::vector<Text> files; // of the product, without the uninstaller's own
+    std::vector<Text> own;   // of the uninstaller
+    std::vector<Text> folders;
+    std::vector<Text> settings; // values and keys of the registry, values of INI files
+
+    std::vector<Text> Lines() const;
+};
+
+Removal PlanRemoval(const InstalledProduct& product, const Host& host, const Target& target,
+                    const Text& logPath);
 
 } // namespace quillon

@@ -11,6 +11,7 @@
 #include "runtime/copy_decision.h"
 #include "runtime/data_access.h"
 #include "runtime/failure_reason.h"
+#include "runtime/files_in_use.h"
 #include "runtime/first_program.h"
 #include "runtime/install.h"
 #include "runtime/net_framework.h"
@@ -52,6 +53,8 @@ private:
     void CheckPassword() const;
     void CheckSystem();
     void CheckFreeSpace(const InstallPlan& plan) const;
+    void CheckFolder(const Text& folder) const;
+    void FreeFilesInUse(const InstallPlan& plan);
     void KeepHelpers() const;
     void CheckHelpers(const InstallPlan& plan) const;
     void RunProgramBefore();
@@ -249,6 +252,30 @@ void SetupProgram::CheckFreeSpace(const InstallPlan& plan) const
             throw RunError(ErrorNumber::kDiskFull, root);
 }
 
+// Who has made a folder decides who may write to it, and so what the product's programs are. Other
+// machines' users, on shares and disks that are carried about, say nothing here.
+void SetupProgram::CheckFolder(const Text& folder) const
+{
+    if (folder[1] != ':' || input_.host.files.DriveType(folder.substr(0, 3)) != DriveKind::Fixed)
+        return;
+    Text at = folder;
+    for (Text above = ExtractDirectory(at); above != at && !at.empty();
+         at = above, above = ExtractDirectory(at))
+        if (input_.host.files.DirExists(at) && !input_.target.IsOfTrustedUser(at))
+            throw SetupFailure(ExitCode::Failed, texts_(Message::FolderOfOthers, at));
+}
+
+void SetupProgram::FreeFilesInUse(const InstallPlan& plan)
+{
+    std::vector<Text> paths;
+    for (const PlannedFile& file : plan.files)
+        if (!HasOption(file.row->copyOptions, CopyLetter::kNeverReplace))
+            paths.push_back(file.path);
+    const Text title = texts_(Message::Title, setup_.project.ProjectName.ProjectName);
+    if (!FreeFiles({input_.ask, log_, texts_, input_.users, input_.switches, title}, paths))
+        throw SetupFailure(ExitCode::Cancelled, {});
+}
+
 // The package may lie on a disk that is changed while its files are read.
 void SetupProgram::KeepHelpers() const
 {
@@ -344,6 +371,7 @@ SetupVariables SetupProgram::Variables() const
 InstallResult SetupProgram::InstallPackage()
 {
     const SetupVariables variables = Variables();
+    CheckFolder(variables.Value(NameOf(VariableMeaning::MainFolder)));
     FinishEarlier(variables);
     const InstallPlan plan =
         MakeInstallPlan({setup_, package_.rows, variables, texts_, input_.host, input_.target});
@@ -355,6 +383,7 @@ InstallResult SetupProgram::InstallPackage()
                           &package_.manifest});
     reader.CheckEverything();
     CheckFreeSpace(plan);
+    FreeFilesInUse(plan);
     InstallResult result =
         Install({input_.host, input_.target, input_.ask, log_, texts_, setup_, variables, plan,
                  reader, input_.workFolder, input_.switches.silent, package_.manifest});

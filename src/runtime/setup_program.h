@@ -8,6 +8,7 @@
 #include "runtime/background_sound.h"
 #include "runtime/container.h"
 #include "runtime/exit_codes.h"
+#include "runtime/file_users.h"
 #include "runtime/install_plan.h"
 #include "runtime/pages/page.h"
 #include "runtime/switches.h"
@@ -44,6 +45,7 @@ struct SetupInput {
     bool otherSetupRuns = false; // another one on this machine
     // Starts a program or opens a document for the user; throws `RunError`.
     std::function<void(const Text& file, const Text& arguments)> startAsUser = {};
+    FileUsers* users = nullptr; // null: nothing is known of programs that hold files
 };
 
 /// Installs, and tells the user and the log what went wrong.

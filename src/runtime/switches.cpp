@@ -37,6 +37,10 @@ constexpr PlainSwitch kPlainSwitches[] = {
     {"QB", [](Switches& switches) { switches.silent = switches.passive = true; }},
     // The machine is never started anew without being asked for; tools say so all the same.
     {"NORESTART", [](Switches& switches) { switches.noRestart = true; }},
+    {"CLOSEAPPLICATIONS",
+     [](Switches& switches) { switches.closeApplications = CloseApplications::Always; }},
+    {"NOCLOSEAPPLICATIONS",
+     [](Switches& switches) { switches.closeApplications = CloseApplications::Never; }},
 };
 
 struct ValueSwitch {

@@ -11,6 +11,9 @@ namespace quillon {
 /// What the tool starts the setup for: nothing is installed then.
 enum class TestMode { Test, Preview };
 
+/// What happens to programs that hold files which are replaced or removed.
+enum class CloseApplications { Ask, Always, Never };
+
 struct Switches {
     bool silent = false;              // /S and its likes, and /passive
     bool passive = false;             // /passive, /qb: progress alone
@@ -22,8 +25,9 @@ struct Switches {
     Text logFile;                     // /LOG=
     std::optional<Text> password;     // /PASSWORD=
     Text packageFolder;               // /PACKAGE=, which the starter adds for the program proper
-    std::optional<TestMode> testMode; // /TEST or /PREVIEW
-    std::optional<Text> badSwitch;    // the first one that is none, as it was given
+    CloseApplications closeApplications = CloseApplications::Ask; // /[NO]CLOSEAPPLICATIONS
+    std::optional<TestMode> testMode;                             // /TEST or /PREVIEW
+    std::optional<Text> badSwitch; // the first one that is none, as it was given
 };
 
 /// `commandLine` is what follows the program's own name.

@@ -2,6 +2,7 @@
 
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "runtime/files_in_use.h"
 #include "runtime/removal_list.h"
 #include "runtime/restart_moves.h"
 #include "runtime/rollback.h"
@@ -79,10 +80,14 @@ ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view, RunningProgram* ru
         return refusal->code;
     }
     const Text& log = input_.line.logPath;
+    const Removal removal = PlanRemoval(*product_, input_.host, input_.target, log);
     const ListPage question{Title(), Texts()(Message::UninstallQuestion, product_->name),
-                            LinesOfRemoval(*product_, input_.host, input_.target, log),
-                            Texts()[Message::UninstallButton], Texts()[Message::Cancel]};
+                            removal.Lines(), Texts()[Message::UninstallButton],
+                            Texts()[Message::Cancel]};
     if (!view.ShowList(question))
+        return ExitCode::Cancelled;
+    const InUseInput inUse{ask, log_, texts_, input_.users, input_.line.switches, Title()};
+    if (!FreeFiles(inUse, removal.files))
         return ExitCode::Cancelled;
     view.ShowProgress(true);
     const UninstallResult result =

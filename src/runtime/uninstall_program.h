@@ -2,6 +2,7 @@
 // adds is its windows, the machine's own registry, and the way its own file goes.
 #pragma once
 
+#include "runtime/file_users.h"
 #include "runtime/list_page.h"
 #include "runtime/switches.h"
 #include "runtime/uninstall.h"
@@ -14,6 +15,7 @@ struct UninstallProgramInput {
     const UninstallerCommand& line;
     Text program;                // the uninstaller's own file
     bool otherSetupRuns = false; // a setup or another uninstaller on this machine
+    FileUsers* users = nullptr;  // null: nothing is known of programs that hold files
 };
 
 /// The uninstaller's windows beside the boxes of `Ask`. Where nothing is shown, nobody cancels.

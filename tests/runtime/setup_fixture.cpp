@@ -155,7 +155,8 @@ ExitCode SetupFixture::Install(const Text& switches)
                          if (!files.FileExists(file))
                              throw RunError(ErrorNumber::kFileNotFound, file);
                          started.push_back(file + (arguments.empty() ? "" : " " + arguments));
-                     }},
+                     },
+                     users},
                     package);
 }
 

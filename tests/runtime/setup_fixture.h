@@ -155,6 +155,7 @@ protected:
     PageView* pages = nullptr;
     BackgroundSound* sound = nullptr;
     bool otherSetupRuns = false;
+    FileUsers* users = nullptr;
     std::vector<LeftBehind> left; // what UninstallProduct has told to be there still
     std::vector<Text> started;    // a file, and its arguments behind a blank
 };

@@ -288,7 +288,7 @@ TEST_F(UninstallProgramTest, ListsOnlyWhatReallyGoes)
     target.WriteValue(other, "Namn", TextData("x"));
     const auto product = ReadInstalledProduct(files, kLog);
     ASSERT_TRUE(product);
-    EXPECT_THAT(LinesOfRemoval(*product, host, target, kLog),
+    EXPECT_THAT(PlanRemoval(*product, host, target, kLog).Lines(),
                 ElementsAre(kMain + "\\Bin\\prog.exe", "C:\\WINDOWS\\SYSTEM32\\ensam.dll",
                             kUninstaller, kLog, kMain + "\\Bin",
                             "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Nytt",
@@ -303,7 +303,7 @@ TEST_F(UninstallProgramTest, LeavesTheProgramOfAnotherProductOutOfTheList)
     ASSERT_EQ(Install(), ExitCode::Done);
     const auto product = ReadInstalledProduct(files, kLog);
     ASSERT_TRUE(product);
-    EXPECT_THAT(LinesOfRemoval(*product, host, target, kLog),
+    EXPECT_THAT(PlanRemoval(*product, host, target, kLog).Lines(),
                 ElementsAre(kMain + "\\Bin\\prog.exe", kLog, kMain + "\\Bin"));
 }
 

@@ -171,6 +171,7 @@ protected:
         ASSERT_EQ(
             prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"), 0U);
         prefix.Stop();
+        product.Add("Data", "driver.exe", ReadBytes(TestProgramFolder() / "drive_setup.exe"));
         Install();
     }
 
@@ -228,6 +229,27 @@ TEST_F(UninstallerWindows, ListWhatStaysAndWhy)
     EXPECT_THAT(log, testing::Not(HasSubstr("Button 2")));
     EXPECT_THAT(log, HasSubstr("code 0\n"));
     EXPECT_EQ(ReadBytes(Main() / "Data" / "egen.txt"), "användarens");
+}
+
+// Wine's Restart Manager knows no programs, so that the file is named.
+TEST_F(UninstallerWindows, NameAFileThatAProgramHolds)
+{
+    const std::string main(kMainFolder);
+    const std::string driver = main + "\\Data\\driver.exe";
+    const std::string log = Drive(
+        driver, "run \"" + main + "\\QNXUNIN.EXE\"\n" + question +
+                    "press 1\nbox 7\nlist Provpaket Åäö har tagits bort från datorn. Starta om "
+                    "datorn, så försvinner även det som används nu:\nread 102\npress 1\nend\n");
+    prefix.WaitForAll();
+    EXPECT_EQ(log,
+              "Avinstallation av Provpaket Åäö: De här filerna används av ett program:||" + driver +
+                  "||Stäng programmet och svara Ja. Om du svarar Nej kan datorn behöva startas "
+                  "om efteråt.\n" +
+                  driver + ": tas bort när datorn startas om|" + main +
+                  "\\Data: tas bort när datorn startas om|" + main +
+                  ": tas bort när datorn startas om\ncode 3010\n");
+    prefix.Restart();
+    EXPECT_FALSE(fs::exists(Main()));
 }
 
 TEST_F(UninstallerWindows, StayAwayWhileAnotherOneRuns)

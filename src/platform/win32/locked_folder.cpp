@@ -35,6 +35,19 @@ bool IsWellKnown(PSID owner, WELL_KNOWN_SID_TYPE kind)
     return CreateWellKnownSid(kind, nullptr, sid, &size) && EqualSid(owner, sid);
 }
 
+// Whom the system's own folders belong to since Windows Vista.
+bool IsTrustedInstaller(PSID owner)
+{
+    SID_IDENTIFIER_AUTHORITY authority = SECURITY_NT_AUTHORITY;
+    PSID sid = nullptr;
+    if (!AllocateAndInitializeSid(&authority, 6, 80, 956008885, 3418522649, 1831038044, 1853292631,
+                                  2271478464, 0, 0, &sid))
+        return false;
+    const bool isSame = EqualSid(owner, sid);
+    FreeSid(sid);
+    return isSame;
+}
+
 bool IsCurrentUser(PSID owner)
 {
     HANDLE token = nullptr;
@@ -93,7 +106,8 @@ bool IsOfTrustedUser(const wchar_t* path)
     // A disk without owners says that everything belongs to everybody.
     return owner == nullptr || IsWellKnown(owner, WinWorldSid) ||
            IsWellKnown(owner, WinBuiltinAdministratorsSid) ||
-           IsWellKnown(owner, WinLocalSystemSid) || IsCurrentUser(owner);
+           IsWellKnown(owner, WinLocalSystemSid) || IsTrustedInstaller(owner) ||
+           IsCurrentUser(owner);
 }
 
 bool HaveSameOwner(const wchar_t* path, const wchar_t* other)

@@ -1,11 +1,14 @@
 // DUNZIP32.DLL: reads a package's archives for the setup. No exception leaves it.
 #include "archive/zip_reader.h"
 #include "platform/run_error.h"
-#include "platform/win32/win_files.h"
+#include "platform/win32/open_file.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_failure.h"
 #include "runtime/unzip_library.h"
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <new>
 
 using namespace quillon;
@@ -17,6 +20,17 @@ struct QnUnzipArchive {
 namespace {
 
 struct StoppedBySink {};
+
+// By itself: the system's files as a whole would bring all that can be done with them.
+std::unique_ptr<InputFile> OpenArchive(const Text& path)
+{
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
+                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen())
+        FailAsWindowsSays(path);
+    return std::make_unique<WinInputFile>(std::move(file), path);
+}
 
 int CodeOf(ZipError::Kind kind)
 {
@@ -67,8 +81,7 @@ extern "C" {
                                             QnUnzipFailure* failure)
 {
     *archive = nullptr;
-    return Guarded(failure,
-                   [&] { *archive = new QnUnzipArchive{ZipReader(WinFiles().OpenInput(path))}; });
+    return Guarded(failure, [&] { *archive = new QnUnzipArchive{ZipReader(OpenArchive(path))}; });
 }
 
 [[gnu::externally_visible]] size_t QnUnzipEntryCount(const QnUnzipArchive* archive)

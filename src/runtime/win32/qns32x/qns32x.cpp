@@ -19,6 +19,7 @@
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/register_process.h"
 #include "runtime/win32/restart_machine.h"
+#include "runtime/win32/restart_manager.h"
 #include "runtime/win32/screen_sound.h"
 #include "runtime/win32/screen_window.h"
 #include "runtime/win32/start_as_user.h"
@@ -112,6 +113,7 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     FileSystem& files = host.files;
     const LoadedPackage package = LoadPackage(files, switches.packageFolder, switches.languageFile);
     const OnlySetup only;
+    RestartManager users(RestartManager::StartsAgain::Yes);
     texts = package.texts;
     const PrivateFolder work(host);
     WinTarget target(JoinPath(work.Path(), RuntimePrograms::kRegistryHelper.inPackage));
@@ -119,7 +121,7 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
         LibraryContainers(UnzipLibrary(files, switches.packageFolder));
     const auto run = [&](Ask& ask, PageView* pages, BackgroundSound* sound) {
         return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages, sound,
-                         only.IsNot(), StartAsUser},
+                         only.IsNot(), StartAsUser, &users},
                         package);
     };
     if (switches.silent && !switches.passive) {

@@ -14,6 +14,7 @@
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/qnxunin/self_removal.h"
 #include "runtime/win32/register_process.h"
+#include "runtime/win32/restart_manager.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
 
@@ -84,7 +85,9 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
     Host host{files, machine};
     WinTarget target;
     const OnlySetup only;
-    UninstallProgram program({host, target, line, ProgramPath(), only.IsNot()});
+    // What they were started from is gone then.
+    RestartManager users(RestartManager::StartsAgain::No);
+    UninstallProgram program({host, target, line, ProgramPath(), only.IsNot(), &users});
     SelfRemoval running(host);
     ExitCode code = ExitCode::Failed;
     try {

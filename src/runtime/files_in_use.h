@@ -1,0 +1,25 @@
+// What is done about files that programs hold open before they are replaced or removed: the user is
+// told which programs, and they are closed where the user or the command line wants that. What is
+// held all the same is left to the machine's next start, or ends the installation, as ever.
+#pragma once
+
+#include "platform/ask.h"
+#include "runtime/action_log.h"
+#include "runtime/file_users.h"
+#include "runtime/switches.h"
+
+namespace quillon {
+
+struct InUseInput {
+    Ask& ask;
+    ActionLog& log;
+    const LanguageTexts& texts;
+    FileUsers* users; // null: nothing is known of programs
+    const Switches& switches;
+    Text title; // of the boxes
+};
+
+/// False where the user has cancelled.
+bool FreeFiles(const InUseInput& input, const std::vector<Text>& paths);
+
+} // namespace quillon

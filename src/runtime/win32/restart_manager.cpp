@@ -1,0 +1,102 @@
+#include "runtime/win32/restart_manager.h"
+
+#include "platform/win32/wide_text.h"
+#include "runtime/win32/program_start.h"
+
+#include <restartmanager.h>
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kLibrary = "rstrtmgr.dll";
+
+// The library is not there on every Windows, so nothing of it is linked.
+template <class Function>
+Function OfLibrary(HMODULE library, const char* name)
+{
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}
+
+} // namespace
+
+RestartManager::~RestartManager()
+{
+    if (hasClosed_ && startsAgain_ == StartsAgain::Yes)
+        OfLibrary<decltype(&RmRestart)>(library_, "RmRestart")(session_, 0, nullptr);
+    End();
+}
+
+// A session is about the files that were named in it, so each answer has one of its own.
+bool RestartManager::Begin()
+{
+    if (library_ == nullptr)
+        library_ = LoadFromSystemFolder(kLibrary);
+    if (library_ == nullptr)
+        return false;
+    wchar_t key[CCH_RM_SESSION_KEY + 1] = {};
+    isOpen_ = OfLibrary<decltype(&RmStartSession)>(library_, "RmStartSession")(&session_, 0, key) ==
+              ERROR_SUCCESS;
+    return isOpen_;
+}
+
+void RestartManager::End()
+{
+    if (isOpen_)
+        OfLibrary<decltype(&RmEndSession)>(library_, "RmEndSession")(session_);
+    isOpen_ = false;
+}
+
+bool RestartManager::IsHeld(const Text& path) const
+{
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE file = CreateFileW(WidePath(path).c_str(), GENERIC_WRITE | DELETE, kShareAll,
+                                    nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        const DWORD failure = GetLastError();
+        return failure == ERROR_SHARING_VIOLATION || failure == ERROR_LOCK_VIOLATION ||
+               failure == ERROR_USER_MAPPED_FILE;
+    }
+    CloseHandle(file);
+    return false;
+}
+
+std::vector<Text> RestartManager::ProgramsHolding(const std::vector<Text>& files)
+{
+    // What was closed before is started again by its own session alone.
+    if (!hasClosed_)
+        End();
+    if (!isOpen_ && !Begin())
+        return {};
+    std::vector<std::wstring> paths;
+    for (const Text& file : files)
+        paths.push_back(Wide(file));
+    std::vector<const wchar_t*> names;
+    for (const std::wstring& path : paths)
+        names.push_back(path.c_str());
+    if (OfLibrary<decltype(&RmRegisterResources)>(library_, "RmRegisterResources")(
+            session_, static_cast<UINT>(names.size()), names.data(), 0, nullptr, 0, nullptr) !=
+        ERROR_SUCCESS)
+        return {};
+    constexpr UINT kMaxPrograms = 64;
+    std::vector<RM_PROCESS_INFO> found(kMaxPrograms);
+    UINT needed = 0;
+    UINT count = kMaxPrograms;
+    DWORD reasons = 0;
+    const DWORD result = OfLibrary<decltype(&RmGetList)>(library_, "RmGetList")(
+        session_, &needed, &count, found.data(), &reasons);
+    std::vector<Text> programs;
+    for (UINT i = 0; result == ERROR_SUCCESS && i < count; ++i)
+        if (found[i].Process.dwProcessId != GetCurrentProcessId())
+            programs.push_back(Narrow(found[i].strAppName));
+    return programs;
+}
+
+bool RestartManager::CloseThem()
+{
+    hasClosed_ = true;
+    return OfLibrary<decltype(&RmShutdown)>(library_, "RmShutdown")(session_, 0, nullptr) ==
+           ERROR_SUCCESS;
+}
+
+} // namespace quillon

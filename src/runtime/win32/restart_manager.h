@@ -1,0 +1,34 @@
+// Windows' own knowledge of who holds which file: its Restart Manager, from Windows Vista on.
+#pragma once
+
+#include "runtime/file_users.h"
+
+#include <windows.h>
+
+namespace quillon {
+
+class RestartManager : public FileUsers {
+public:
+    /// Whether programs that were closed are started again in the end, where they can be.
+    enum class StartsAgain { Yes, No };
+    explicit RestartManager(StartsAgain startsAgain) : startsAgain_(startsAgain) {}
+    ~RestartManager() override;
+    RestartManager(const RestartManager&) = delete;
+    RestartManager& operator=(const RestartManager&) = delete;
+
+    bool IsHeld(const Text& path) const override;
+    std::vector<Text> ProgramsHolding(const std::vector<Text>& files) override;
+    bool CloseThem() override;
+
+private:
+    bool Begin();
+    void End();
+
+    const StartsAgain startsAgain_;
+    HMODULE library_ = nullptr;
+    DWORD session_ = 0;
+    bool isOpen_ = false;
+    bool hasClosed_ = false;
+};
+
+} // namespace quillon
