@@ -21,7 +21,7 @@ public:
 private:
     static constexpr std::size_t kBlock = 64;
 
-    void Mix(const std::byte* block);
+    void Mix(std::span<const std::byte> blocks);
 
     std::array<std::uint32_t, 8> state_{0x6A09E667, 0xBB67AE85, 0x3C6EF372, 0xA54FF53A,
                                         0x510E527F, 0x9B05688C, 0x1F83D9AB, 0x5BE0CD19};

@@ -1,5 +1,7 @@
 #include "helpers/sha256.h"
 
+#include "helpers/sha256_blocks.h"
+
 namespace quillon {
 namespace {
 
@@ -31,6 +33,22 @@ TEST(Sha256Test, GivesTheDigestsOfTheStandardsExamples)
               "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
     EXPECT_EQ(Hex(DigestOf(std::string(1'000'000, 'a'), 65536)),
               "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
+}
+
+TEST(Sha256Test, IsTheSameByInstructionsAndInPlainCode)
+{
+    if (!HasSha256Instructions())
+        GTEST_SKIP() << "this processor has no instructions for it";
+    std::vector<std::byte> bytes(37 * kSha256BlockSize);
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<std::byte>(i * i % 251);
+    for (const std::size_t blocks : {0U, 1U, 2U, 37U}) {
+        Sha256State plain{1, 2, 3, 4, 5, 6, 7, 8};
+        Sha256State fast = plain;
+        MixSha256Portably(plain, std::span(bytes).first(blocks * kSha256BlockSize));
+        MixSha256ByInstructions(fast, std::span(bytes).first(blocks * kSha256BlockSize));
+        EXPECT_EQ(plain, fast) << blocks;
+    }
 }
 
 TEST(Sha256Test, DoesNotDependOnHowTheBytesCome)
