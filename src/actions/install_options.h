@@ -45,7 +45,7 @@ inline constexpr std::array<TargetSystem, 8> kTargetSystems{{
 }};
 // clang-format on
 
-// Clicks on a box, behind which it is ticked or not.
+// Clicks on a box, after which it is ticked or not.
 
 /// A system that is ticked takes newer ones of its family along.
 void ClickTargetSystem(section::TargetOS& systems, Flag section::TargetOS::*system, bool isTicked);

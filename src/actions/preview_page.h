@@ -9,7 +9,7 @@
 namespace quillon {
 
 /// The text of a page with its variables expanded, if the project wants that in dialogs. A variable
-/// that only the end user's machine can tell stays as it stands.
+/// that only the end user's machine knows is left as it is.
 Text PreviewText(const Project& project, const Host& host, std::string_view text);
 
 /// The main folder as the setup will propose it.

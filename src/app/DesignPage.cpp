@@ -67,7 +67,7 @@ bool DesignPage::event(QEvent* event)
         parentWidget()->installEventFilter(this);
         PlaceSurface(parentWidget()->size());
     }
-    // After this event, since it may have to tell of a picture.
+    // After this event, since it may have to report a picture.
     if (event->type() == QEvent::Show)
         LayOutSoon();
     if (event->type() == QEvent::Hide)

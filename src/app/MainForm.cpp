@@ -23,6 +23,7 @@
 #include "helpers/product.h"
 #include "project/project_title.h"
 #include "shell/failure_text.h"
+#include "shell/help.h"
 #include "shell/project_commands.h"
 #include "shell/settings_file.h"
 #include "ui/fit_screen.h"
@@ -56,7 +57,8 @@ MainForm::MainForm(Session& session, HostPaths paths)
     ConnectFileList();
     bars_ = std::make_unique<CommandBars>(
         *this, [this](CommandId id) { RunCommand(id); },
-        [](CommandId id) { return FindAction(id) != nullptr; });
+        [](CommandId id) { return FindAction(id) != nullptr; },
+        [this](CommandId id) { ShowHelp(session_, {id}); });
     bars_->GiveListKeys(files_->List());
     bars_->ShowToolbar(SelectedTab());
     ConnectEdits();

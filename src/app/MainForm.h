@@ -28,7 +28,7 @@ class MainTabs;
 
 class MainForm : public QMainWindow, public MainWindow {
 public:
-    /// `paths` says where lies what is dropped on the window or typed as a path of this machine.
+    /// `paths` maps what is dropped on the window or typed as a path of this machine.
     explicit MainForm(Session& session, HostPaths paths = {});
     ~MainForm() override;
 
@@ -94,7 +94,7 @@ private:
     QLabel* unsavedPane_ = nullptr;
     std::array<Page*, kTabCount> pages_{};
     FilesPage* files_ = nullptr;
-    // The first pane tells of selected rows instead of all.
+    // The first pane shows the selected rows instead of all.
     bool paneTellsSelection_ = false;
     std::unique_ptr<CommandBars> bars_;
 };

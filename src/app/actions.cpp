@@ -50,9 +50,19 @@ void OpenRecent(MainForm& form)
     OpenRecentFile(form.GetSession(), form, slot);
 }
 
-void Help(MainForm& form)
+void HelpOnTab(MainForm& form)
 {
-    ShowHelp(form.GetSession());
+    ShowHelp(form.GetSession(), {CommandOf(form.SelectedTab())});
+}
+
+void SearchHelp(MainForm& form)
+{
+    ShowHelp(form.GetSession(), {.searches = true});
+}
+
+void HelpOnHelp(MainForm& form)
+{
+    ShowHelp(form.GetSession(), {CommandId::HelpOnHelp});
 }
 
 void Create(MainForm& form)
@@ -129,9 +139,9 @@ const std::map<CommandId, Action> kActions = {
     {CommandId::RegistryTab, Select<Tab::Registry>},
     {CommandId::IniFilesTab, Select<Tab::IniFiles>},
     {CommandId::ComponentsTab, Select<Tab::Components>},
-    {CommandId::HelpContents, Help},
-    {CommandId::HelpSearch, Help},
-    {CommandId::HelpOnHelp, Help},
+    {CommandId::HelpContents, HelpOnTab},
+    {CommandId::HelpSearch, SearchHelp},
+    {CommandId::HelpOnHelp, HelpOnHelp},
     {CommandId::Support, [](MainForm& form) { ShowSupport(form.GetSession()); }},
     {CommandId::BugReport, [](MainForm& form) { OpenBugReportWizard(form.GetSession(), &form); }},
     {CommandId::About, [](MainForm& form) { ShowAbout(&form); }},
@@ -151,7 +161,7 @@ const std::map<CommandId, Action> kActions = {
     {CommandId::RecentFile3, OpenRecent<2>},
     {CommandId::RecentFile4, OpenRecent<3>},
     {CommandId::PreviewScreen, [](MainForm& form) { ShowDesignPreview(form.GetSession()); }},
-    {CommandId::Help, Help},
+    {CommandId::Help, HelpOnTab},
 };
 // clang-format on
 

@@ -9,8 +9,40 @@
 
 namespace quillon {
 
-CommandBars::CommandBars(QMainWindow& window, Run run, CanRun canRun)
-    : window_(window), run_(std::move(run)), canRun_(std::move(canRun))
+namespace {
+
+/// F1 in an open menu: the help of the entry under the bar.
+class MenuHelpKey : public QObject {
+public:
+    MenuHelpKey(QMenu& menu, const CommandBars::Run& showHelp)
+        : QObject(&menu), menu_(menu), showHelp_(showHelp)
+    {
+        menu.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress ||
+            static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1 || !menu_.activeAction() ||
+            !menu_.activeAction()->data().isValid())
+            return QObject::eventFilter(watched, event);
+        const auto id = static_cast<CommandId>(menu_.activeAction()->data().toInt());
+        while (QWidget* open = QApplication::activePopupWidget())
+            open->close();
+        showHelp_(id);
+        return true;
+    }
+
+private:
+    QMenu& menu_;
+    const CommandBars::Run& showHelp_;
+};
+
+} // namespace
+
+CommandBars::CommandBars(QMainWindow& window, Run run, CanRun canRun, Run showHelp)
+    : window_(window), run_(std::move(run)), canRun_(std::move(canRun)),
+      showHelp_(std::move(showHelp))
 {
     MakeMenus();
     for (const Command& command : ToolbarOnlyCommands())
@@ -28,10 +60,10 @@ void CommandBars::MakeMenus()
         const QString caption = ToQt(row.command.caption);
         switch (row.part) {
         case MenuPart::Menu:
-            open = {window_.menuBar()->addMenu(caption)};
+            open = {ConnectHelp(window_.menuBar()->addMenu(caption))};
             break;
         case MenuPart::Submenu:
-            open.push_back(open.back()->addMenu(caption));
+            open.push_back(ConnectHelp(open.back()->addMenu(caption)));
             break;
         case MenuPart::SubmenuEnd:
             open.pop_back();
@@ -46,6 +78,12 @@ void CommandBars::MakeMenus()
     }
 }
 
+QMenu* CommandBars::ConnectHelp(QMenu* menu)
+{
+    new MenuHelpKey(*menu, showHelp_);
+    return menu;
+}
+
 QAction* CommandBars::MakeAction(const Command& command)
 {
     const CommandId id = command.id;
@@ -53,6 +91,7 @@ QAction* CommandBars::MakeAction(const Command& command)
     const std::string_view caption = command.caption.empty() ? command.tooltip : command.caption;
     auto* action = new QAction(ToQt(caption), &window_);
     action->setObjectName(QString("cmd%1").arg(static_cast<int>(id)));
+    action->setData(static_cast<int>(id));
     action->setToolTip(ToQt(command.tooltip));
     action->setIcon(CommandIcon(id));
     action->setIconVisibleInMenu(true);
@@ -82,7 +121,7 @@ void CommandBars::ShowRecentFiles(const std::array<Text, kRecentFileCount>& file
     for (int slot = 0; slot < kRecentFileCount; ++slot) {
         const Text& file = files[static_cast<std::size_t>(slot)];
         QAction* action = ActionOf(kRecentFiles[static_cast<std::size_t>(slot)]);
-        // The mark of a free slot stands alone, so that the list of a new machine is not empty.
+        // The mark of a free slot is shown alone, so that the list of a new machine is not empty.
         action->setVisible(!file.empty() || slot == 0);
         const Text name = file.empty() ? Text(kFreeSlot) : ProjectTitle(file);
         action->setText(ToQt(name).replace('&', "&&"));
@@ -92,10 +131,7 @@ void CommandBars::ShowRecentFiles(const std::array<Text, kRecentFileCount>& file
 
 void CommandBars::ShowTabEntry(Tab tab, bool visible)
 {
-    constexpr std::array kTabs = {CommandId::FilesTab,    CommandId::DesignTab,
-                                  CommandId::DialogsTab,  CommandId::RegistryTab,
-                                  CommandId::IniFilesTab, CommandId::ComponentsTab};
-    ActionOf(kTabs[static_cast<std::size_t>(tab)])->setVisible(visible);
+    ActionOf(CommandOf(tab))->setVisible(visible);
 }
 
 void CommandBars::ShowEntry(CommandId id, const Text& caption, bool canRun)

@@ -10,6 +10,7 @@
 
 class QAction;
 class QMainWindow;
+class QMenu;
 class QToolBar;
 class QWidget;
 
@@ -20,15 +21,16 @@ public:
     using Run = std::function<void(CommandId id)>;
     using CanRun = std::function<bool(CommandId id)>;
 
-    /// Ids that `canRun` denies are shown disabled.
-    CommandBars(QMainWindow& window, Run run, CanRun canRun);
+    /// Ids that `canRun` denies are shown disabled. `showHelp` is asked for the page of the entry
+    /// that is chosen in an open menu when F1 is pressed.
+    CommandBars(QMainWindow& window, Run run, CanRun canRun, Run showHelp);
 
     void ShowToolbar(Tab tab);
     void ShowRecentFiles(const std::array<Text, kRecentFileCount>& files);
     /// Hides the entry of the tab in the window menu, or shows it.
     void ShowTabEntry(Tab tab, bool visible);
 
-    /// What the entry says while it stands for something that changes; a disabled one has nothing.
+    /// The caption of an entry whose command changes; a disabled one has nothing.
     void ShowEntry(CommandId id, const Text& caption, bool canRun);
 
     /// From now on the keys that work in the file list do so in this widget.
@@ -38,11 +40,13 @@ public:
 
 private:
     void MakeMenus();
+    QMenu* ConnectHelp(QMenu* menu);
     QAction* MakeAction(const Command& command);
 
     QMainWindow& window_;
     Run run_;
     CanRun canRun_;
+    Run showHelp_;
     std::map<CommandId, QAction*> actions_;
     QToolBar* toolbar_ = nullptr;
 };

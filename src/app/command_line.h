@@ -7,8 +7,8 @@
 
 namespace quillon {
 
-/// The Windows path that the words after the program's name stand for; empty without any. A path
-/// of this machine, a relative one too, is turned into one; a Windows path stays as it stands.
+/// The Windows path that the words after the program's name mean; empty without any. A path
+/// of this machine, a relative one too, is turned into one; a Windows path is left as it is.
 /// Nothing where no Windows path can hold the name.
 std::optional<Text> ProjectOfCommandLine(std::span<char* const> words, const HostPaths& paths);
 

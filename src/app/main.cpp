@@ -8,6 +8,7 @@
 #include "helpers/product.h"
 #include "platform/this_host.h"
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
+#include "shell/forms/DlgHelp.h"
 #include "shell/projects_folder.h"
 #include "shell/start.h"
 #include "tools/fault_note.h"
@@ -74,6 +75,7 @@ int main(int argc, char** argv)
     StartSession(session);
     MainForm form(session, paths);
     ConnectFileListForms(ask, session);
+    session.helpWindow = HelpWindowOf(form);
     RecoveryCopy copy(session);
     RecoveryKeeper keeper(form, copy);
     PrepareForFaults(session, paths, copy);

@@ -1,4 +1,4 @@
-// Several files read as one, one behind the other: the pieces of an archive that was cut to fit
+// Several files read as one, one after the other: the pieces of an archive that was cut to fit
 // its disks.
 #pragma once
 

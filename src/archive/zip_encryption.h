@@ -1,6 +1,6 @@
 // The encryption of a ZIP entry, WinZip's AES-256: keys from the password by PBKDF2 with 1000
 // rounds, counter mode, and the first ten bytes of an HMAC-SHA1 over what is encrypted. Before the
-// data stand the salt and a verifier of the password, after it the HMAC.
+// data come the salt and a verifier of the password, after it the HMAC.
 #pragma once
 
 #include "helpers/text.h"

@@ -1,6 +1,6 @@
-// The records that a ZIP file is made of, each told once: writer and reader both walk `EachField`,
-// so they cannot drift apart. All numbers are little-endian. Names, extra fields and comments stand
-// after the fixed part of a record, which holds their lengths.
+// The records that a ZIP file is made of, each described once: writer and reader both walk
+// `EachField`, so they cannot drift apart. All numbers are little-endian. Names, extra fields and
+// comments stand after the fixed part of a record, which holds their lengths.
 #pragma once
 
 #include "helpers/date_text.h"
@@ -336,7 +336,7 @@ inline std::uint16_t DosTime(const LocalTime& time)
     return static_cast<std::uint16_t>((time.hour << 11) | (time.minute << 5) | (time.second / 2));
 }
 
-/// Numbers that no date has (month 0, hour 31) come back as they stand.
+/// Numbers that no date has (month 0, hour 31) come back unchanged.
 inline LocalTime FromDosTime(std::uint16_t date, std::uint16_t time)
 {
     return {1980 + (date >> 9), (date >> 5) & 15, date & 31,

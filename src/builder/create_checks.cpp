@@ -152,7 +152,7 @@ Check CheckSizeOfProgram(CreateRun& run)
     return Check::Stopped;
 }
 
-// A name that leads out of the package's folder would overwrite whatever lies there.
+// A name that leads out of the package's folder would overwrite whatever is there.
 Check CheckSetupNames(CreateRun& run)
 {
     const Project& project = run.project;
@@ -307,7 +307,7 @@ Check CheckUninstallIconCombination(CreateRun& run)
 
 Text FindReservedFilename(const Project& project)
 {
-    // Kept: the two names of the project's own choice are compared as they stand, so only those in
+    // Kept: the two names of the project's own choice are compared as they are, so only those in
     // capitals can match.
     const std::string_view reserved[] = {project.InstallOptions.SetupName,
                                          RuntimePrograms::kSetup.name,

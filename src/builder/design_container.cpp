@@ -22,7 +22,7 @@ Step TellMissingObject(CreateRun& run, const Text& path)
     return Step::Stop;
 }
 
-// Kept: no status line tells of a failed design container.
+// Kept: no status line reports a failed design container.
 void TakeUntoldFailure(CreateRun& run)
 {
     run.isIncomplete = true;

@@ -21,7 +21,7 @@ public:
     /// Clears away the disks of an earlier, larger package, which would pass for part of this one.
     void RemoveDisksBehind(int lastDisk);
 
-    /// The root of a drive has what is free there; a folder stands for a 1.44 MB disk, on which a
+    /// The root of a drive has what is free there; a folder acts as a 1.44 MB disk, on which a
     /// file takes whole clusters.
     std::uint64_t Capacity(const Text& folder) const override;
 

@@ -86,7 +86,7 @@ bool IsLeftOut(const CreateRun& run, const FileListRow& row)
                                     run.project.OperatingSystem.TargetOperatingSystem);
 }
 
-// A source that has gone is told where its turn comes.
+// A source that has gone is reported when its turn comes.
 std::uint64_t SourceSize(const CreateRun& run, const FileListRow& row)
 {
     std::uint64_t size = 0;

@@ -1,4 +1,4 @@
-// How a package comes to be whole: its manifest stands empty while it is being made and is filled
+// How a package becomes complete: its manifest is empty while it is being made and is filled
 // last of all. Where an older package is already, the new one is made in a folder of its own
 // beside it and only moved into its place once it is finished, so that a Create that ends early
 // leaves the older one as it was. On disks, which have no room for two packages, and on a disk too

@@ -1,4 +1,4 @@
-// How far a long step is, told to the user while it goes on.
+// The progress of a long step, shown while it goes on.
 #pragma once
 
 #include "platform/ask.h"

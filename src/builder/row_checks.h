@@ -9,7 +9,7 @@ namespace quillon {
 /// Rows that no setup could install: a name or destination that Windows cannot hold, and what is
 /// left of a file that could not be added.
 [[nodiscard]] Check CheckRows(CreateRun& run);
-/// The setup leaves such a word as it stands.
+/// The setup leaves such a word as it is.
 [[nodiscard]] Check CheckUnknownVariables(CreateRun& run);
 /// Files that are kept one by one, of which the later one would write over the earlier.
 [[nodiscard]] Check CheckOneByOneNames(CreateRun& run);

@@ -1,4 +1,4 @@
-// The folders below the tool's own, or below the user's stand-in for it.
+// The folders below the tool's own, or below the user's replacement for it.
 #pragma once
 
 #include "builder/create_options.h"
@@ -8,7 +8,7 @@ namespace quillon {
 
 /// Makes those that are missing beside the tool, or in the user's folder where the tool can't write
 /// beside itself. What comes with the tool is read from its own folder all the same. One that can't
-/// be made is told by whoever needs it.
+/// be made is reported by whoever needs it.
 void MakeToolFolders(const CreateOptions& options, FileSystem& files);
 
 } // namespace quillon

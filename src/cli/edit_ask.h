@@ -34,7 +34,7 @@ public:
     [[noreturn]] void EndCall() const;
 
     PreparedAnswers prepared;
-    // What could not be done, as the boxes with the stop sign told it.
+    // What could not be done, as the boxes with the stop sign said.
     std::vector<Text> refusals;
 
 private:

@@ -1,4 +1,4 @@
-// Projects on their way in, with every way told in which that can go wrong.
+// Opening projects, with a message for everything that can go wrong.
 #pragma once
 
 #include "cli/call_context.h"

@@ -66,7 +66,7 @@ Json RowJson(const Package& package, std::size_t number)
 
 using Table = std::vector<std::vector<Text>>;
 
-/// Numbers stand to the right in their columns.
+/// Numbers are right-aligned in their columns.
 void PrintTable(std::ostream& out, const Table& table)
 {
     constexpr std::size_t kFirstNumber = 3;

@@ -13,7 +13,7 @@ enum class UnderlineKind : Integer { None, Simple, Misty, Blended };
 /// The extra space between the title's letters, -10 to 100.
 Text CheckedCharInterSpace(const Text& entry);
 
-/// Kept: 3 stands for the blended kind too, although choosing that kind sets 4.
+/// Kept: 3 means the blended kind too, although choosing that kind sets 4.
 Text CheckedUnderlineHeight(const Text& entry, UnderlineKind kind);
 
 /// A stored height from before there was a smallest one.

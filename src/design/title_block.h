@@ -23,7 +23,7 @@ struct TitleRecords {
     const section::DesSubTitle& subTitle;
 };
 
-/// What stands where, in pixels of the painted screen.
+/// The places of the parts, in pixels of the painted screen.
 struct TitleBlock {
     TextLine title;
     TextLine subTitle;

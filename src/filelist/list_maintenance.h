@@ -16,7 +16,7 @@ namespace quillon {
 std::optional<NewPlaces> AddEmptyDirectoryCommand(const ListWork& work);
 
 /// Brings size, date and time of every row in line with its file, and marks those whose file is
-/// gone. `show` brings the list to the user before a box tells of these.
+/// gone. `show` shows the list before a box reports these.
 void UpdateFileListCommand(const ListWork& work, const std::function<void(const NewPlaces&)>& show);
 
 /// Takes the selected rows (rising numbers) out, if the user says so; true when they are gone.

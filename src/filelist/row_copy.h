@@ -14,8 +14,8 @@ namespace quillon {
 Text TabSeparatedRows(const FileList& list, std::span<const std::size_t> rows,
                       std::span<const Column> columns);
 
-// What the clipboard calls rows that are whole. After a line with this name they stand as in a
-// project file, in Windows-1252.
+// What the clipboard calls rows that are whole. After a line with this name they are written as in
+// a project file, in Windows-1252.
 inline constexpr const char* kRowsFormat = "application/x-quillon-rows";
 
 std::string WholeRows(const FileList& list, std::span<const std::size_t> rows);

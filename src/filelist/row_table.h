@@ -13,7 +13,7 @@ using RowNumber = std::uint32_t;
 
 class RowTable {
 public:
-    /// `isAlike` tells of a row whether it is what is looked for.
+    /// `isAlike` decides whether a row is what is looked for.
     template <class IsAlike>
     bool Holds(std::size_t hash, IsAlike isAlike) const
     {

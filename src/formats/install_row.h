@@ -20,7 +20,7 @@ struct InstallRow {
     Text sourceFolder;      // without drive, lower case
     Text iconMarker;
     Text copyOptions;
-    Text component = "0"; // as it stands in the project's row; "0" where that has none
+    Text component = "0"; // as in the project's row; "0" where that has none
     Text iconTitle;
     Text iconParameters;
     Text workFolder;

@@ -1,5 +1,5 @@
 // The files of Windows that later versions of Windows bring themselves. A package for these
-// versions alone leaves them out, and a setup that is told to leaves them as they are there.
+// versions alone leaves them out, and a setup with that option leaves them as they are there.
 #pragma once
 
 #include <string_view>

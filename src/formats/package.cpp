@@ -25,7 +25,7 @@ Text FailureText(const RunError& error)
     return "Fel #" + NumberText(error.Number());
 }
 
-// The bytes of one of the package's INF files; nothing, and told, where it can't be read.
+// The bytes of one of the package's INF files; nothing, and a fault, where it can't be read.
 std::optional<std::string> ReadInfFile(const FileSystem& files, Package& package, const char* name)
 {
     const Text path = JoinPath(package.folder, name);

@@ -63,8 +63,8 @@ Text LooseFilePath(const Text& packageFolder, const SetupInformation& setup, con
 /// drive's root, with no folder and the size 0.
 bool MayLackSource(const InstallRow& row);
 
-/// Reads what there is to read. Whatever is missing or damaged is told in `faults` or by the place
-/// of a row; nothing is thrown for it.
+/// Reads what there is to read. Whatever is missing or damaged is listed in `faults` or by the
+/// place of a row; nothing is thrown for it.
 Package OpenPackage(const FileSystem& files, const Text& folder);
 
 /// Hands the bytes of a row to `sink`, piece by piece; none where it has no bytes. Throws

@@ -1,4 +1,4 @@
-// Which files a package has to hold, told from its two INF files.
+// Which files a package has to hold, derived from its two INF files.
 #pragma once
 
 #include "formats/install_row.h"
@@ -9,7 +9,7 @@
 namespace quillon {
 
 /// All that is in the package's folder but the bytes of the rows: the starter, the setup, what it
-/// is told by, and those of its helper programs that this installation takes.
+/// is found by, and those of its helper programs that this installation takes.
 std::vector<Text> FixedFilesOf(const SetupInformation& setup, const std::vector<InstallRow>& rows);
 
 /// The pieces of the container, below the package's folder, in the order of the disks; none where a

@@ -10,7 +10,7 @@ namespace quillon {
 
 namespace {
 
-// The INF files and the container have been told of where they were read.
+// Faults of the INF files and the container were reported when they were read.
 bool IsToldAlready(const Text& name)
 {
     return EqualIgnoreCase(name, kSetupInformationName) || EqualIgnoreCase(name, kFileListName) ||

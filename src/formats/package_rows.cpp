@@ -1,4 +1,4 @@
-// Where the rows' bytes lie, told from the INF files alone. It stands apart from what opens a
+// Where the rows' bytes are, derived from the INF files alone. It is separate from what opens a
 // package, since the setup itself reads archives through a library and must not carry their reader
 // twice.
 #include "formats/package.h"

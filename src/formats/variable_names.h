@@ -1,5 +1,5 @@
-// The vocabulary of variables: words in a project's texts that stand for something on the machine
-// where the setup runs. The tool offers these and the setup knows these, by this one list.
+// The vocabulary of variables: words in a project's texts that are replaced by something on the
+// machine where the setup runs. The tool offers these and the setup knows these, by this one list.
 #pragma once
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// What a Windows program or library tells of what it needs: its machine, the libraries that it is
+// What a Windows program or library says about its needs: its machine, the libraries that it is
 // linked to, and the .NET run-time that runs it.
 #pragma once
 

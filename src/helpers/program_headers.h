@@ -39,7 +39,6 @@ public:
 
     std::uint16_t Machine() const { return machine_; }
     std::uint16_t Characteristics() const { return characteristics_; }
-    bool Is64Bit() const { return is64Bit_; }
     std::uint64_t ImageBase() const { return imageBase_; }
 
     struct Table {

@@ -52,10 +52,11 @@ Sha256Digest Sha256::Finish()
 
 void Sha256::Mix(std::span<const std::byte> blocks)
 {
-    if (HasSha256Instructions())
-        MixSha256ByInstructions(state_, blocks);
-    else
-        MixSha256Portably(state_, blocks);
+#ifdef _WIN32
+    MixSha256Portably(state_, blocks);
+#else
+    MixSha256ByLibrary(state_, blocks);
+#endif
 }
 
 } // namespace quillon

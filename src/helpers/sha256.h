@@ -1,6 +1,6 @@
-// SHA-256 (FIPS 180-4), the same code for tool, setup and starter: no memory is asked for and
-// nothing of a library used, so that the starter can carry it, and Windows before XP SP3, whose
-// own library knows no SHA-256, needs none.
+// SHA-256 (FIPS 180-4) for tool, setup and starter. No memory is asked for, and on Windows nothing
+// of a library is used, so that the starter can carry it, and Windows before XP SP3, whose own
+// library knows no SHA-256, needs none.
 #pragma once
 
 #include <array>

@@ -6,8 +6,8 @@ namespace quillon {
 
 namespace {
 
-// Where letters stand: at another letter, or at a byte that no UTF-8 text begins a character with,
-// after all of ASCII and in front of every other character.
+// Where letters are sorted: at another letter, or at a byte that no UTF-8 text begins a character
+// with, after all of ASCII and in front of every other character.
 struct Letters {
     std::u32string_view letters;
     std::string_view place;

@@ -1,4 +1,4 @@
-// The order of a Swedish dictionary for the letters of Windows-1252: å, ä, ö behind z, and a letter
+// The order of a Swedish dictionary for the letters of Windows-1252: å, ä, ö after z, and a letter
 // with any other mark beside the plain one.
 #pragma once
 

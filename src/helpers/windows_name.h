@@ -16,8 +16,8 @@ enum class PathFault {
     TooLong,         // more characters than a name can have
     Climbs,          // ".."
     Colon,           // anywhere but after the letter of a drive
-    NotWhole,        // no folder at all, or one that depends on where somebody stands: "C:Data"
-    UnknownVariable, // at the beginning, where it has to stand for a folder
+    NotWhole,        // no folder at all, or one that depends on the current folder: "C:Data"
+    UnknownVariable, // at the beginning, where it has to name a folder
 };
 
 /// What keeps this text from being the name of one file or folder.

@@ -14,7 +14,7 @@
 
 namespace quillon {
 
-/// The path that a value stands for, seen from the component's folder. Kept: of several "..\" only
+/// The path that a value means, relative to the component's folder. Kept: of several "..\" only
 /// the first is worked out. Empty where ".." leads out of a folder that has no parent.
 Text ResolveDepPath(std::string_view value, std::string_view baseFolder);
 

@@ -1,5 +1,5 @@
 // The table of what no project file tells: which controls are built with MFC, which modules call
-// which library, and which libraries are part of Windows. It is a text file that lies with the
+// which library, and which libraries are part of Windows. It is a text file that comes with the
 // tool, and its users may extend it.
 #pragma once
 
@@ -29,7 +29,7 @@ public:
 
     /// Needs Mfc42.dll and Msvcrt.dll.
     bool IsMfcControl(std::string_view fileName) const;
-    /// The libraries that a module calls, told by its own name or that of its file.
+    /// The libraries that a module calls, identified by its own name or that of its file.
     std::vector<Text> LibrariesOfModule(std::string_view name, std::string_view fileName) const;
     /// The libraries whose wrappers a line names; `upperLine` is in upper case.
     std::vector<Text> LibrariesOfWrappersIn(std::string_view upperLine) const;

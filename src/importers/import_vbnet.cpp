@@ -79,7 +79,7 @@ public:
             for (const Text& line : IncludedFileLines(project.lines))
                 std::ranges::copy(data_.LibrariesOfWrappersIn(line), std::back_inserter(libraries));
         } catch (const RunError&) {
-            return true; // told when the references were read
+            return true; // reported when the references were read
         }
         if (!libraries.empty() && !HasComponents())
             return false;

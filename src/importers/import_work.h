@@ -80,7 +80,7 @@ struct ImportResult {
     ImportEnd end = ImportEnd::Done;
     // Where each row is now, by its number so far: those from before, then the new ones.
     NewPlaces places;
-    // Where the rows stand that the import has made or filled, ascending.
+    // The places of the rows that the import has made or filled, ascending.
     std::vector<std::size_t> added;
     std::vector<NotAddedFile> notAdded;
     // Where the program's row is, where it is a new one; it is to be selected.

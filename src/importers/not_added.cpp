@@ -1,4 +1,4 @@
-// What is told of files that an import came upon and did not add.
+// The report of files that an import found and did not add.
 #include "importers/import_work.h"
 
 namespace quillon {

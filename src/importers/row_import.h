@@ -20,7 +20,7 @@ public:
     RowImport(const RowImport&) = delete;
     RowImport& operator=(const RowImport&) = delete;
 
-    // `ToldBefore`: it was missing before in this import, which has told it.
+    // `ToldBefore`: it was missing before in this import, which has reported it.
     enum class Added { Yes, AlreadyThere, LeftOut, Missing, ToldBefore };
 
     /// A file of the system folder. One that has a row already is not added twice; a row that is
@@ -40,7 +40,7 @@ public:
 
     /// True where any row with a file has this name, whatever its folder.
     bool PassIfListed(const Text& name);
-    /// A file that was not added. What is told of it is reported once.
+    /// A file that was not added. It is reported once.
     void Pass(const Text& file, NotAdded why);
 
     /// Asks for the destination and adds the program, in a subfolder of it where one is given.

@@ -15,7 +15,7 @@ inline constexpr ImportChecks kVbChecks = {
 // What is taken from the system folder.
 inline constexpr const char* kVbFiles = "Visual Basics filer";
 
-/// False, with a message box, where the folder of this version is not told or not there.
+/// False, with a message box, where the folder of this version is not given or not there.
 bool IsVbFolderThere(const char* version, const Text& folder, const FileSystem& files, Ask& ask);
 
 /// The ActiveX files that a project file names. What of it can't be read is reported in a message

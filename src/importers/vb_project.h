@@ -23,7 +23,7 @@ std::optional<VbModule> ModuleIn(std::string_view line);
 // No project has as many; a file that names more is none.
 inline constexpr std::size_t kMaxReferences = 1000;
 
-/// What is told where more are in a file; `what` is "ActiveX-filer".
+/// The message where a file holds more; `what` is "ActiveX-filer".
 Text TooManyReferencesText(const Text& path, const Text& what);
 
 struct ActiveXFiles {

@@ -93,7 +93,7 @@ bool IsCompressionOf(const BitmapHeader& header)
         return header.bits == 4 && !header.isTopDown;
     case kBitFields:
     case kAlphaBitFields:
-        // In the header of OS/2 the same number stands for another form.
+        // In the header of OS/2 the same number means another form.
         return header.headerSize != kOs2LongHeader;
     default:
         return false;

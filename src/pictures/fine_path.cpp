@@ -67,7 +67,7 @@ std::int64_t Cross(FinePoint centre, FinePoint a, FinePoint b)
            std::int64_t{a.y - centre.y} * (b.x - centre.x);
 }
 
-/// Where the direction of a point meets an ellipse: behind which of its points, and there.
+/// Where the direction of a point meets an ellipse: after which of its points, and where.
 struct Meeting {
     std::size_t behind = 0;
     FinePoint point;

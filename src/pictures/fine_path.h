@@ -21,7 +21,7 @@ inline constexpr std::int32_t kFurthest = 1 << 24;
 
 using FinePoints = std::vector<FinePoint>;
 
-/// Closed outlines, one behind the other.
+/// Closed outlines, one after the other.
 struct FinePath {
     FinePoints points;
     std::vector<std::size_t> ends; // after each outline's last point

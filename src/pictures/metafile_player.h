@@ -2,7 +2,7 @@
 //
 // Calls that no drawing in a file needs are passed over: mapping modes and viewports (the picture
 // fills the size that it is shown in), palettes, flood fills, bitmaps that depend on a device,
-// escapes. Text stands upright whatever its angle. A region is its surrounding rectangle.
+// escapes. Text is upright whatever its angle. A region is its surrounding rectangle.
 #pragma once
 
 #include "design/letters.h"

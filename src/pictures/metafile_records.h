@@ -64,7 +64,7 @@ enum Function : std::uint16_t {
 
 } // namespace metafile
 
-/// One call. What it is given counts from behind the record's head.
+/// One call. Offsets count from the end of the record's header.
 struct MetafileRecord {
     std::uint16_t function = 0;
     PictureBytes given;

@@ -113,7 +113,7 @@ public:
     /// written or missing. Rights, owner and links of the one that was there live on. Throws where
     /// they can't, and both files are then as they were.
     virtual void Replace(const Text& from, const Text& to) { Rename(from, to); }
-    /// The file under a second name as well, at which nothing stands; a copy where the disk has no
+    /// The file under a second name as well, which must be free; a copy where the disk has no
     /// links.
     virtual void KeepUnder(const Text& path, const Text& second) { CopyContent(path, second); }
     /// Where the file is that a link leads to; the path itself where there is no link.

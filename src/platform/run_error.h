@@ -1,4 +1,5 @@
-// A failure of the machine, told by the number that users see in "Fel #" and that callers compare.
+// A failure of the machine, identified by the number that users see in "Fel #" and that callers
+// compare.
 #pragma once
 
 #include "helpers/text.h"

@@ -36,7 +36,7 @@ void ResetToNewProject(Project& project, OpenProjectState& state, const Text& to
     Project fresh;
     // Kept: New leaves Comments alone, so a new project inherits the last one's comment.
     fresh.Version.Comments = std::move(project.Version.Comments);
-    // Kept: New hides the slide show's pictures behind a count of 0 and does not forget them.
+    // Kept: New hides the slide show's pictures by a count of 0 and does not forget them.
     fresh.DesPicturesAnim.P = std::move(project.DesPicturesAnim.P);
     SetDefaultBitmaps(fresh, toolFolder);
 

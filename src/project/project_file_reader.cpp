@@ -262,7 +262,7 @@ bool BeginsAsNumber(const Text& text)
     return first < text.size() && text[first] >= '0' && text[first] <= '9';
 }
 
-// The list may go on after the rows that its number tells of.
+// The list may go on after the number of rows that it announces.
 bool HasFurtherRow(ListLines& lines)
 {
     for (auto line = lines.Next(); line && *line != kEndOfList; line = lines.Next())

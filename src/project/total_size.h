@@ -16,7 +16,7 @@ namespace quillon {
 std::optional<Long> SumOfSizes(const std::vector<FileListRow>& rows, char decimalSign,
                                const std::function<bool(const FileListRow&)>& counts = {});
 
-/// The box for a list whose sum can't be told. It stands here because saving a project sums the
+/// The box for a list whose sum can't be computed. It is here because saving a project sums the
 /// list as well.
 void ReportUnreadableSizes(Ask& ask);
 

@@ -24,7 +24,7 @@ public:
     int CodePage(int number) const;
 
     /// Where the font is in `used`, at its end if it is new there; negative for a font that is
-    /// not in the table, and for one of signs, which are told by characters that any font has.
+    /// not in the table, and for one of signs, which are written by characters that any font has.
     int PlaceIn(std::vector<RtfFont>& used, int number);
 
 private:

@@ -81,7 +81,7 @@ RtfToken RtfTokens::ReadText()
             .text = Take(CountWhile(rest_, [](char byte) { return !EndsText(byte); }))};
 }
 
-/// Nothing where the backslash leads to nothing that could be told.
+/// Nothing where the backslash begins nothing known.
 std::optional<RtfToken> RtfTokens::ReadControl()
 {
     Take(1);

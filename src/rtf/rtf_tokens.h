@@ -13,7 +13,7 @@ struct RtfToken {
         Close,  // }
         Word,   // \word or \word12; `text` is the word
         Symbol, // a backslash and one other character, in `text`
-        Bytes,  // text as it stands, or the one byte of \'e5
+        Bytes,  // text as it is, or the one byte of \'e5
     };
     Kind kind = Kind::Bytes;
     std::string_view text;

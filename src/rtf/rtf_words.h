@@ -1,5 +1,5 @@
 // The control words of RTF that change how the text after them looks, one table row each, and
-// those that stand for a character or begin what is not part of the text.
+// those that mean a character or begin what is not part of the text.
 #pragma once
 
 #include "rtf/rtf_text.h"
@@ -41,7 +41,7 @@ bool ApplyRtfWord(RtfState& state, std::string_view word, std::optional<int> num
 void ResetParagraph(RtfState& state);
 void ResetStyle(RtfState& state);
 
-/// The character that the word or symbol stands for; 0 where it stands for none.
+/// The character that the word or symbol means; 0 where it means none.
 char32_t RtfCharacter(std::string_view word);
 
 /// Whether the group that begins with this word holds no text of the document.

@@ -5,8 +5,8 @@
 
 namespace quillon {
 
-/// The text as the bytes of a file, ASCII only: letters beyond stand as \u with a fallback for
-/// readers without Unicode. Reading it back gives the same text.
+/// The text as the bytes of a file, ASCII only: letters beyond are written as \u with a fallback
+/// for readers without Unicode. Reading it back gives the same text.
 std::string WriteRtf(const RtfText& text);
 
 } // namespace quillon

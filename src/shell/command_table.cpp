@@ -157,6 +157,25 @@ constexpr CommandId kTextBar[] = {
 
 } // namespace
 
+CommandId CommandOf(Tab tab)
+{
+    switch (tab) {
+    case Tab::Files:
+        return FilesTab;
+    case Tab::Design:
+        return DesignTab;
+    case Tab::Dialogs:
+        return DialogsTab;
+    case Tab::Registry:
+        return RegistryTab;
+    case Tab::IniFiles:
+        return IniFilesTab;
+    case Tab::Components:
+        return ComponentsTab;
+    }
+    return None;
+}
+
 std::span<const MenuRow> MenuBarRows()
 {
     return kMenuBar;

@@ -46,6 +46,9 @@ struct MenuRow {
     Command command = {}; // `None` where a title has no id
 };
 
+/// The command that opens the tab.
+CommandId CommandOf(Tab tab);
+
 /// The menu bar, row by row.
 std::span<const MenuRow> MenuBarRows();
 

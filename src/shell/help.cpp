@@ -3,13 +3,30 @@
 #include "helpers/product.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/whole_file.h"
 #include "shell/settings_file.h"
 
 namespace quillon {
 
-void ShowHelp(Session& session)
+namespace {
+
+std::vector<HelpPage> PagesOf(const FileSystem& files, const Text& path)
+{
+    try {
+        return ReadHelpPages(ReadWholeFile(files, path));
+    } catch (const RunError&) {
+        return {}; // opening it says why
+    }
+}
+
+} // namespace
+
+void ShowHelp(Session& session, const HelpRequest& request)
 {
     const Text file = JoinPath(session.options.ToolFolder, "QN.HLP");
+    if (session.helpWindow)
+        if (auto pages = PagesOf(session.host.files, file); !pages.empty())
+            return session.helpWindow(std::move(pages), request);
     try {
         session.host.machine.OpenDocument(file);
     } catch (const RunError& error) {

@@ -1,12 +1,14 @@
 // What the help menu does without a window of its own.
 #pragma once
 
+#include "shell/help_pages.h"
 #include "shell/session.h"
 
 namespace quillon {
 
-/// Opens QN.HLP in the program that the system has for it; reports it where that can't be done.
-void ShowHelp(Session& session);
+/// Shows QN.HLP at the page of that command, in the session's help window; a help file of another
+/// kind in the program that the system has for it. Reports it where neither can be done.
+void ShowHelp(Session& session, const HelpRequest& request = {});
 
 /// Tells what whoever helps the user has to know.
 void ShowSupport(Session& session);

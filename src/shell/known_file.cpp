@@ -1,19 +1,14 @@
 #include "shell/known_file.h"
 
+#include "formats/package_manifest.h"
 #include "platform/run_error.h"
-#include "platform/whole_file.h"
-
-#include <functional>
 
 namespace quillon {
 
 KnownFile LookAtFile(const FileSystem& files, const Text& path)
 {
     KnownFile known{.path = path, .content = {}};
-    RunErrorNumber([&] {
-        const std::string bytes = ReadWholeFile(files, path);
-        known.content = {.size = bytes.size(), .hash = std::hash<std::string>()(bytes)};
-    });
+    RunErrorNumber([&] { known.content = DigestOfFile(files, path); });
     return known;
 }
 

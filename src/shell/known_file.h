@@ -2,24 +2,18 @@
 // in the project, and whether another program has changed it since.
 #pragma once
 
+#include "helpers/sha256.h"
 #include "platform/file_system.h"
 
 #include <optional>
 
 namespace quillon {
 
-/// Enough of a file's content to tell it from another one.
-struct ContentMark {
-    std::uint64_t size = 0;
-    std::size_t hash = 0;
-
-    bool operator==(const ContentMark&) const = default;
-};
-
 struct KnownFile {
     Text path; // empty as long as no file was read or saved
-    // Nothing where no file was there, or where it could not be read.
-    std::optional<ContentMark> content;
+    // The digest of all of its bytes; nothing where no file was there, or where it could not be
+    // read.
+    std::optional<Sha256Digest> content;
     // False where the file was refused or read in part only: saving over it would lose the rest.
     bool isInProject = true;
 };

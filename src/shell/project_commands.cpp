@@ -120,7 +120,7 @@ void OpenRecentFile(Session& session, MainWindow& window, std::size_t slot)
     if (AskSaveChanges(session, window) == SaveChanges::Cancel)
         return;
     if (!session.host.files.FileExists(file)) {
-        // Kept: the misspelt first word is what users have always been told.
+        // Kept: the misspelt first word is what users have always seen.
         session.ask.Critical("Fel", "Kaj ej öppna '" + file + "'!");
         return;
     }

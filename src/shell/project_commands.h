@@ -21,7 +21,7 @@ void OpenChosenProject(Session& session, MainWindow& window, const Text& file);
 /// Opens the file whether it is there or not, and asks nothing.
 void OpenNamedProject(Session& session, MainWindow& window, const Text& file);
 
-/// False where nothing was saved: the user cancelled, or was told why it can't be.
+/// False where nothing was saved: the user cancelled, or a message said why it can't be.
 bool SaveProjectCommand(Session& session, MainWindow& window);
 bool SaveProjectAs(Session& session, MainWindow& window);
 

@@ -79,7 +79,7 @@ std::shared_ptr<const ProjectHistory::RowNumbers> ProjectHistory::LookAtRows()
     RowNumbers numbers;
     numbers.reserve(project_.Files.rows.size());
     Text packed;
-    // Most rows stand where they stood, or a few places off; only others are looked up.
+    // Most rows keep their place, or move by a few; only others are looked up.
     auto expected = before.begin();
     for (const FileListRow& row : project_.Files.rows) {
         PackRow(row, packed);

@@ -1,6 +1,8 @@
 #include "shell/recovery.h"
 
 #include "filelist/view/sort.h"
+#include "formats/digest_text.h"
+#include "formats/manifest_line.h"
 #include "helpers/windows_path.h"
 #include "ini/profile_reader.h"
 #include "ini/profile_writer.h"
@@ -10,6 +12,7 @@
 #include "project/project_file.h"
 #include "project/project_title.h"
 #include "project/unicode_value.h"
+#include "runtime/silent_ask.h"
 
 namespace quillon {
 
@@ -17,25 +20,14 @@ namespace {
 
 constexpr const char* kSection = "Recovery";
 constexpr const char* kProjectKey = "Project";
+// What was known of the project's file when it was last read or saved: its digest, "none" where
+// there was no file, and whether all of it is in the project.
+constexpr const char* kContentKey = "Content";
+constexpr const char* kNoContent = "none";
+constexpr const char* kWholeKey = "Whole";
 constexpr int kMaxValueLength = 5000;
 // More programs than anybody runs.
 constexpr int kPlaces = 99;
-
-/// A user who is not there: a copy is written after whatever is going on.
-class Nobody : public Ask {
-public:
-    void Inform(const Text&, const Text&) override {}
-    void Warn(const Text&, const Text&) override {}
-    void Critical(const Text&, const Text&) override {}
-    bool YesNo(const Text&, const Text&, Stops) override { return false; }
-    bool OkCancel(const Text&, const Text&) override { return false; }
-    Answer YesNoCancel(const Text&, const Text&) override { return Answer::Cancel; }
-    void AddStatusLine(const Text&) override {}
-    void ShowProgress(std::uint64_t, std::uint64_t) override {}
-    void ShowBusyPointer(bool) override {}
-    void Beep() override {}
-    void ProcessEvents() override {}
-};
 
 Text RecoveryFolder(const Session& session)
 {
@@ -90,6 +82,30 @@ Text ProjectNameOf(const FileSystem& files, const Text& place)
     return name.empty() ? kUnsavedProjectName : name;
 }
 
+void WriteKnownFile(FileSystem& files, const Text& place, const KnownFile& known)
+{
+    WriteProfileValue(files, NameFileOf(place), kSection, kContentKey,
+                      known.content ? DigestText(*known.content) : kNoContent);
+    WriteProfileValue(files, NameFileOf(place), kSection, kWholeKey, known.isInProject ? "1" : "0");
+}
+
+/// The project's file as the program knew it that left the copy, so that saving asks where another
+/// one has changed the file since.
+KnownFile ReadKnownFile(const FileSystem& files, const Text& place, const Text& project)
+{
+    ProfileReader reader;
+    reader.SetIniFile(files, NameFileOf(place));
+    reader.SetIniSection(kSection);
+    const Text content = reader.ReadIniString(kContentKey, kMaxValueLength);
+    KnownFile known = LookAtFile(files, project);
+    if (content == kNoContent)
+        known.content.reset();
+    else if (content.size() == kDigestDigits)
+        known.content = DigestOfDigits(content);
+    known.isInProject = reader.ReadIniString(kWholeKey, kMaxValueLength) != "0";
+    return known;
+}
+
 Answer AskAboutCopy(Session& session, const Text& place, const Text& project)
 {
     const LocalTime kept = session.host.files.Status(CopyOf(place)).modified;
@@ -109,7 +125,7 @@ bool OpenCopy(Session& session, MainWindow& window, const Text& place, const Tex
     KeepStoredOrder(session.project.Files);
     session.state.ProjectFileName = project;
     session.state.ProjectIsDirty = kOn;
-    session.knownFile = LookAtFile(session.host.files, project);
+    session.knownFile = ReadKnownFile(session.host.files, place, project);
     window.ShowProject();
     window.SelectTab(Tab::Files);
     return end == ReadEnd::Whole;
@@ -138,13 +154,14 @@ bool RecoveryCopy::Keep()
 {
     if (!lock_)
         return false;
-    Nobody nobody;
+    SilentAsk nobody; // a copy is written after whatever is going on
     // Writing fills an empty program group, which is the user's to save.
     const Text group = session_.project.ProgramGroup.ProgramGroup;
     const bool isWritten =
         RunErrorNumber([&] {
             WriteProfileValue(session_.host.files, NameFileOf(path_), kSection, kProjectKey,
                               UnicodeValueOnFile(session_.state.ProjectFileName, kMaxValueLength));
+            WriteKnownFile(session_.host.files, path_, session_.knownFile);
             WriteProjectFile(session_.project, CopyOf(path_), session_.host, nobody);
         }) == 0;
     session_.project.ProgramGroup.ProgramGroup = group;

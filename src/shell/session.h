@@ -7,6 +7,7 @@
 #include "platform/host.h"
 #include "platform/program_runner.h"
 #include "project/records.h"
+#include "shell/help_pages.h"
 #include "shell/known_file.h"
 #include "shell/settings.h"
 
@@ -39,6 +40,9 @@ struct Session {
 
     // The design tab's surface, whose size goes into the package; the window keeps it up to date.
     DesignSurface surface;
+
+    // Of the desktop program; without one the system shows the help.
+    HelpWindow helpWindow;
 };
 
 /// A session with a new project, and the options of a tool that was never set up. `ownFolder` is

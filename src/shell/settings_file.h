@@ -13,7 +13,7 @@ Text SettingsFile(const Machine& machine);
 /// do harm: what is missing or makes no sense has the value of a new machine.
 void ReadDataFromIniFile(Session& session);
 
-/// Lines of the file that are not ours stay. A file that can't be written is not told.
+/// Lines of the file that are not ours stay. A file that can't be written is not reported.
 void WriteDataToIniFile(const Session& session);
 
 } // namespace quillon

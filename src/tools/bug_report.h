@@ -45,10 +45,10 @@ Text DiagnosisFile(const Text& ownFolder);
 Text BugReportFolder(const Text& ownFolder);
 Text BugReportFile(const Text& ownFolder);
 
-/// True when at least one system is chosen; the user is told otherwise.
+/// True when at least one system is chosen; else a message.
 bool HasSystems(const BugReportAnswers& answers, Ask& ask);
 
-/// True when the diagnosis has been made; the user is told otherwise.
+/// True when the diagnosis has been made; else a message.
 bool HasDiagnosis(const FileSystem& files, const Text& ownFolder, Ask& ask);
 
 /// The whole report as it will be written, for the user to look at first. Throws as

@@ -1,5 +1,5 @@
 // The program that describes the machine for the support. It runs beside the tool, so that it can
-// tell of a machine on which the tool itself does not work.
+// describe a machine on which the tool itself does not work.
 #pragma once
 
 #include "platform/host.h"

@@ -1,5 +1,5 @@
-// The file list as printed pages: what stands where, before anything is drawn. A printer, a PDF and
-// a preview draw the same pages.
+// The file list as printed pages: the places of all texts, before anything is drawn. A printer, a
+// PDF and a preview draw the same pages.
 #pragma once
 
 #include "platform/ask.h"

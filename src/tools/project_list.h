@@ -22,7 +22,7 @@ struct ListedProject {
     Text path;
 };
 
-/// A column of the list, in the order in which the columns stand. The path's is hidden.
+/// A column of the list, in the order of the columns. The path's is hidden.
 struct ProjectColumn {
     const char* header;
     Text ListedProject::*text;
@@ -59,13 +59,13 @@ ProjectList ReadProjectList(const Host& host, const Text& settingsFile);
 void SaveProjectList(FileSystem& files, const Text& settingsFile, const ProjectList& read,
                      const std::vector<ListedProject>& projects);
 
-/// The row for the open project as it is in memory; nothing, and the user is told why, where it has
+/// The row for the open project as it is in memory; nothing, and a message, where it has
 /// no file, no name, or is in the list already.
 std::optional<ListedProject> ListOpenProject(const Project& project, const OpenProjectState& state,
                                              const std::vector<ListedProject>& listed, Host& host,
                                              Ask& ask);
 
-/// What `PMMoreInfo` tells of a project's file.
+/// What `PMMoreInfo` shows of a project's file.
 struct ProjectVersionData {
     Text CompanyName;
     Text ProductName;

@@ -1,5 +1,5 @@
 // One tab of the main window. A page shows a part of the session, writes edits straight back to it,
-// and is told when to show it anew.
+// and is notified when to show it anew.
 #pragma once
 
 #include "ui/form_kit.h"

@@ -7,7 +7,7 @@ class QPalette;
 
 namespace quillon {
 
-/// How far two colours stand apart for the eye: 1 is not at all, 21 is black on white. From 3 on a
+/// The contrast of two colours: 1 is not at all, 21 is black on white. From 3 on a
 /// line can be seen on its background, from 4.5 on a text can be read.
 double Contrast(const QColor& one, const QColor& other);
 
@@ -16,8 +16,8 @@ QColor Mixed(const QColor& one, const QColor& other, double share);
 
 bool IsDark(const QPalette& palette);
 
-/// The palette's colour for what is selected, as light or dark as it must be to be told from the
-/// window's background.
+/// The palette's colour for what is selected, as light or dark as it must be to be distinguished
+/// from the window's background.
 QColor AccentColour(const QPalette& palette);
 
 } // namespace quillon

@@ -13,7 +13,7 @@ namespace {
 // Where Qt's list of places keeps an entry's address.
 constexpr int kAddress = Qt::UserRole + 1;
 
-/// Calls a drive by its letter, and not by the folder that stands in for it.
+/// Calls a drive by its letter, and not by the folder that replaces it.
 class PlaceNames : public QStyledItemDelegate {
 public:
     PlaceNames(QMap<QUrl, QString> names, QObject* parent)

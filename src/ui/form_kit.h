@@ -1,4 +1,4 @@
-// How a form is declared: where its pieces stand, what they are called, what they say. Pieces have
+// How a form is declared: the places, names and captions of its pieces. Pieces have
 // no positions in pixels, so that no font, scale or text can break a form.
 //
 //   VBox({Fields({{"&Namn:", Field(NAMED(tName), name)}}), Stretch(), OkCancel()})
@@ -55,7 +55,7 @@ struct LabelledPiece {
 /// Captions to the left, pieces to the right, both in line. A caption names its piece for screen
 /// readers too.
 Piece Fields(std::initializer_list<LabelledPiece> rows);
-/// The caption stands above its piece.
+/// The caption is above its piece.
 Piece Above(const Text& caption, Piece piece);
 
 /// The pieces as one widget, such as a tab.
@@ -70,8 +70,8 @@ void AtMostOne(std::initializer_list<QCheckBox*> boxes);
 /// Running text; it wraps where the form is narrower.
 QLabel* Note(const Text& text);
 
-/// Gives a widget its object name, and the words that a screen reader says where no caption stands
-/// beside it.
+/// Gives a widget its object name, and the words that a screen reader says where there is no
+/// caption beside it.
 template <class Widget>
 Widget* Named(Widget*& member, const char* name, Widget* widget, const Text& accessibleName = {})
 {

@@ -6,7 +6,7 @@ class QMessageBox;
 
 namespace quillon {
 
-/// Puts our picture in the place of the one that the box's icon stands for.
+/// Replaces the picture of the box's icon by ours.
 void ShowOwnPicture(QMessageBox& box);
 
 } // namespace quillon

@@ -52,7 +52,7 @@ void TellTooLong(QWidget* field, int longest)
     QApplication::beep();
 }
 
-// The text that was put into an area by the change that its watcher is told of.
+// The text that was put into an area by the change that its watcher is notified of.
 class AddedText {
 public:
     explicit AddedText(QPlainTextEdit* area) : area_(area)
@@ -174,7 +174,7 @@ private:
 
     void Undo(const QString& text)
     {
-        // A line that is pasted with its break would stand as two in the project file.
+        // A line that is pasted with its break would become two in the project file.
         const QString line = InOneLine(text);
         const QString kept = std::exchange(isCut_, false) ? before_ : Holdable(line);
         if (kept == text)
@@ -236,7 +236,7 @@ public:
     bool eventFilter(QObject*, QEvent* event) override
     {
         // A window that is closed or destroyed takes the focus too; its fields are not read any
-        // more. A field on a tab that goes behind another one is.
+        // more. A field on a tab that is hidden by another one is.
         const bool isShown = static_cast<QWidget*>(parent())->window()->isVisible();
         if (event->type() == QEvent::FocusOut && isShown && !isLeaving_) {
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();

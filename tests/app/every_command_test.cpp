@@ -33,6 +33,29 @@ TEST_F(WindowTest, HasAPictureAndATipForEachCommand)
         look(command.id);
 }
 
+TEST_F(WindowTest, ShowsTheHelpOfTheTabAndOfTheEntryInAnOpenMenu)
+{
+    machine.files.Put("C:\\Quillon\\QN.HLP", "# Arkiv\n## Sida {cmd101}\nText.\n");
+    std::vector<HelpRequest> shown;
+    session.helpWindow = [&](const auto&, const HelpRequest& request) { shown.push_back(request); };
+    MainForm form(session);
+    form.show();
+    form.SelectTab(Tab::Registry);
+    form.RunCommand(CommandId::Help);
+    form.RunCommand(CommandId::HelpSearch);
+    form.RunCommand(CommandId::HelpOnHelp);
+    auto* menu = form.menuBar()->actions()[1]->menu();
+    menu->popup({0, 0});
+    menu->setActiveAction(form.findChild<QAction*>("cmd115"));
+    QTest::keyClick(menu, Qt::Key_F1);
+    EXPECT_FALSE(menu->isVisible());
+    ASSERT_EQ(shown.size(), 4U);
+    EXPECT_EQ(shown[0].command, CommandId::RegistryTab);
+    EXPECT_TRUE(shown[1].searches);
+    EXPECT_EQ(shown[2].command, CommandId::HelpOnHelp);
+    EXPECT_EQ(shown[3].command, CommandId::SortList);
+}
+
 TEST(EveryCommand, IsNoTitleAndNoUnknownId)
 {
     for (const int id : {0, 100, 106, 111, 159, 200, 204, 212, 213, 290, 295, 300, 303})

@@ -77,6 +77,7 @@
 #include "shell/forms/DlgAbout.h"
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
 #include "shell/forms/DlgEditorOptions.h"
+#include "shell/forms/DlgHelp.h"
 #include "shell/forms/DlgVersionInfo.h"
 #include "support/window_looks.h"
 #include "support/window_test.h"
@@ -200,6 +201,7 @@ const WindowCase kWindows[] = {
     {"DlgFormHelp", [](Subject of) { return Made<DlgFormHelp>(DlgImportVB6Project(of.imports, nullptr)); }},
     {"DlgGeneral", [](Subject of) { return Made<DlgGeneral>(kGeneralPages[0], of.session); }},
     {"DlgGetRegKey", [](Subject of) { return Made<DlgGetRegKey>(of.session.project.RunAppSelfX, of.session); }},
+    {"DlgHelp", [](Subject) { return Made<DlgHelp>(ReadHelpPages("# Arkiv\n## Nytt projekt {cmd101}\nBörjar om.\n")); }},
     {"DlgIcon", [](Subject of) { return Made<DlgIcon>(FirstRow(of), of.session); }},
     {"DlgIconOptions", [](Subject) { return Made<DlgIconOptions>(IconPlaces{}); }},
     {"DlgIconX", [](Subject of) { return Made<DlgIconX>(FirstRow(of), of.session); }},

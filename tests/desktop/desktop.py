@@ -104,9 +104,12 @@ class Desktop:
         self.manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
         # A window that comes up while the window manager starts may be lost to it.
         wait_for("the window manager", self.has_manager)
-        self.program = subprocess.Popen(
-            program, env={**os.environ, **environment, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
-        )
+        self.environment = {**environment, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+        self.start(program)
+
+    def start(self, program):
+        """Runs the program; a former one has ended."""
+        self.program = subprocess.Popen(program, env={**os.environ, **self.environment})
 
     @staticmethod
     def has_manager():

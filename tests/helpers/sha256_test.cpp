@@ -35,10 +35,8 @@ TEST(Sha256Test, GivesTheDigestsOfTheStandardsExamples)
               "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
 }
 
-TEST(Sha256Test, IsTheSameByInstructionsAndInPlainCode)
+TEST(Sha256Test, IsTheSameByTheLibraryAndInPlainCode)
 {
-    if (!HasSha256Instructions())
-        GTEST_SKIP() << "this processor has no instructions for it";
     std::vector<std::byte> bytes(37 * kSha256BlockSize);
     for (std::size_t i = 0; i < bytes.size(); ++i)
         bytes[i] = static_cast<std::byte>(i * i % 251);
@@ -46,7 +44,7 @@ TEST(Sha256Test, IsTheSameByInstructionsAndInPlainCode)
         Sha256State plain{1, 2, 3, 4, 5, 6, 7, 8};
         Sha256State fast = plain;
         MixSha256Portably(plain, std::span(bytes).first(blocks * kSha256BlockSize));
-        MixSha256ByInstructions(fast, std::span(bytes).first(blocks * kSha256BlockSize));
+        MixSha256ByLibrary(fast, std::span(bytes).first(blocks * kSha256BlockSize));
         EXPECT_EQ(plain, fast) << blocks;
     }
 }

@@ -48,10 +48,12 @@ protected:
 
     bool Has(const Text& path) const { return machine.files.FileExists(path); }
     /// A run that ends with a copy left behind; the lock goes with its program.
-    void LeaveCopy(const Text& project = "C:\\P\\a.qnp")
+    void LeaveCopy(const Text& project = "C:\\P\\a.qnp", bool isInProject = true)
     {
         OneRun run(machine);
         ResetToNewProject(run.session.project, run.session.state, "C:\\Tool");
+        run.session.knownFile = LookAtFile(machine.files, project);
+        run.session.knownFile.isInProject = isInProject;
         run.session.state.ProjectFileName = project;
         run.session.state.ProjectIsDirty = kOn;
         run.session.project.ProjectName.ProjectName = "Ändrat";
@@ -127,6 +129,39 @@ TEST_F(Recovery, OffersWhatWasLeftBehindAndOpensItAsChanged)
     machine.files.PutFolder("C:\\P");
     EXPECT_EQ(SaveProject(run.session), SaveEnd::Done);
     EXPECT_TRUE(Has("C:\\P\\a.qnp"));
+}
+
+TEST_F(Recovery, AsksBeforeItSavesOverAFileThatChangedMeanwhile)
+{
+    machine.files.Put("C:\\P\\a.qnp", "old");
+    for (const char* content : {"old", "new"}) {
+        LeaveCopy();
+        machine.files.Put("C:\\P\\a.qnp", content);
+        OneRun run(machine, {Offer("C:\\P\\a.qnp", Answer::Yes)});
+        run.Offer();
+        EXPECT_EQ(HasChangedSince(machine.files, run.session.knownFile, "C:\\P\\a.qnp"),
+                  content == std::string_view("new"));
+        EXPECT_TRUE(run.session.knownFile.isInProject);
+        run.copy.Remove();
+    }
+}
+
+TEST_F(Recovery, AsksBeforeItSavesOverAFileThatCameMeanwhile)
+{
+    LeaveCopy();
+    machine.files.Put("C:\\P\\a.qnp", "of another program");
+    OneRun run(machine, {Offer("C:\\P\\a.qnp", Answer::Yes)});
+    run.Offer();
+    EXPECT_TRUE(HasChangedSince(machine.files, run.session.knownFile, "C:\\P\\a.qnp"));
+}
+
+TEST_F(Recovery, StillKnowsThatTheProjectsFileWasReadInPart)
+{
+    machine.files.Put("C:\\P\\a.qnp", "cut");
+    LeaveCopy("C:\\P\\a.qnp", false);
+    OneRun run(machine, {Offer("C:\\P\\a.qnp", Answer::Yes)});
+    run.Offer();
+    EXPECT_FALSE(run.session.knownFile.isInProject);
 }
 
 TEST_F(Recovery, KnowsAProjectThatWasNeverSavedAndOneWithAForeignName)

@@ -20,7 +20,7 @@ DlgRegisterFiles::DlgRegisterFiles(Session& session, QWidget* parent)
            [this] { Gather(RowsToRegister::Marked); });
     Button(NAMED(cmdGetDllFiles), "Hämta alla &DLL-filer från fillistan",
            [this] { Gather(RowsToRegister::Libraries); });
-    Button(NAMED(cmdHelp), "&Hjälp", [this] { ShowHelp(session_); });
+    Button(NAMED(cmdHelp), "&Hjälp", [this] { ShowHelp(session_, {CommandId::RegisterFiles}); });
     Arrange(VBox({
         Growing(Above("&Filer som ska registreras, en sökväg per rad:",
                       ListEditor(tRegFileList, sRegFileListWarning))),

@@ -36,7 +36,7 @@ DlgRunScript::DlgRunScript(Session& session, QWidget* parent)
                       "&Före installationen");
     ScriptTab->addTab(TabOf(ListEditor(tRunScriptAfter, sRunScriptAfterWarning)),
                       "&Efter installationen");
-    Button(NAMED(cmdHelp), "&Hjälp", [this] { ShowHelp(session_); });
+    Button(NAMED(cmdHelp), "&Hjälp", [this] { ShowHelp(session_, {CommandId::RunScript}); });
     Arrange(VBox({Growing(ScriptTab), HBox({cmdHelp, Growing(OkCancel())})}));
     tRunScriptBefore->setFocus();
 }

@@ -8,7 +8,7 @@ class QLineEdit;
 namespace quillon {
 
 /// From now on the field completes variables while they are typed, and puts its path in order and
-/// tells of a variable in small letters when it is left. `fieldName` is what the box calls it.
+/// warns about a variable in small letters when it is left. `fieldName` is what the box calls it.
 void EditTargetFile(QLineEdit* field, const Text& fieldName, Ask& ask);
 
 } // namespace quillon

@@ -1,5 +1,5 @@
 // Deflates pieces of a file independently of each other, so that all cores can work on one file,
-// into streams that make one stream when they stand one behind the other.
+// into streams that make one stream when they are joined.
 #pragma once
 
 #include <cstddef>

@@ -5,7 +5,7 @@
 //
 // - The deflater (libdeflate) marks the last block of whatever it is given as the last one of a
 //   stream, and a block says nowhere how long it is: only reading all of its codes tells. Zlib
-//   could be told to leave the mark out, but deflates far slower.
+//   could be made to leave the mark out, but deflates far slower.
 // - So every block of 4 MiB of a large source is walked once more after it was packed. The walk
 //   reads codes alone, with no window and no output, and runs in the threads that pack.
 // - A table entry holds the bits of a code together with its extra bits, so a literal costs one

@@ -17,7 +17,7 @@ public:
     virtual std::optional<Text> NextDisk(int number) = 0;
     /// After the last disk: whether the first one, with the package's own files, is at hand again.
     virtual bool FirstDiskAgain() { return true; }
-    /// Bytes of the first disk to leave for what is written behind the pieces of an archive of this
+    /// Bytes of the first disk to leave for what is written after the pieces of an archive of this
     /// size.
     virtual std::uint64_t RoomToLeave(std::uint64_t) const { return 0; }
     /// Bytes that the disk in this folder can still take.

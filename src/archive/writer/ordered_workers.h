@@ -53,8 +53,6 @@ public:
         jobCame_.notify_one();
     }
 
-    bool IsIdle() const { return slots_.empty(); }
-
     /// Waits for the oldest job that was not handed back yet, and calls `whileWaiting` from time
     /// to time if it is not empty.
     Result Next(const std::function<void()>& whileWaiting = {})

@@ -73,7 +73,7 @@ struct ZipWatch {
 };
 
 /// Writes an archive of the sources in their order. Throws `CompressionFailure` where a source
-/// can't be read as it stands, `RunError` where the target can't be written; what was written so
+/// can't be read, `RunError` where the target can't be written; what was written so
 /// far is then of no use.
 void WriteZip(const FileSystem& files, std::span<const ZipSource> sources, OutputFile& target,
               const ZipOptions& options, const ZipWatch& watch = {});

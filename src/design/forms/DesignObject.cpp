@@ -81,7 +81,7 @@ void DesignObject::mousePressEvent(QMouseEvent* event)
 
 void DesignObject::mouseMoveEvent(QMouseEvent* event)
 {
-    // Kept: with a second button down the drag stands still.
+    // Kept: a second button pauses the drag.
     if (!drag_ || event->buttons() != Qt::LeftButton)
         return;
     const QPoint at = event->position().toPoint();

@@ -14,7 +14,7 @@ class DesignObject : public QWidget {
 public:
     DesignObject(const char* name, const Text& accessibleName, QWidget* parent);
 
-    /// What the window around knows and is told.
+    /// What the surrounding window knows and is notified of.
     struct Surround {
         std::function<SurfacePlace()> surface;
         ScreenMetrics screen;

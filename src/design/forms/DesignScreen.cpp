@@ -91,7 +91,7 @@ void DesignScreen::MakeObjects(const DesignObject::Surround& surround)
 }
 
 // Pictures and texts are painted, not made of controls, so that they look as in the setup. What
-// they show is told by their accessible descriptions.
+// they show is in their accessible descriptions.
 void DesignScreen::SetPaints()
 {
     Of(Object::PicturesAnim).paint = [](QImage& image, double scale) {

@@ -81,7 +81,7 @@ private:
     ScalablePicture ReadBackground();
     /// No more of the picture than fills a place of the surface.
     void KeepOnlyIn(const SurfacePlace& place, ScalablePicture& picture) const;
-    /// Whether the step has not told of that file yet.
+    /// Whether the step has not reported that file yet.
     bool MayTell(PictureStep step, const Text& file);
     void TellPictureError(PictureStep step, const RunError& error);
     void ShowDragRect(const std::optional<DragRect>& rect);
@@ -102,7 +102,7 @@ private:
     ScalablePicture logotype_;
     LogotypeBox logotypeBox_;
     QLabel* Label_DesRTFboxPic_ = nullptr;
-    // The file that each step told of last: it is drawn anew all the time.
+    // The file that each step reported last: steps are drawn again and again.
     std::map<PictureStep, Text> told_;
     DragRectFrame* dragRect_ = nullptr;
 };

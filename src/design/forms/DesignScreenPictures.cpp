@@ -1,6 +1,6 @@
-// The pictures of the design tab: how they are read, what is kept of them, and what is told of
-// those that can't be shown. All together take no more than `kMaxPicturesMemory`: the next one is
-// read into what the others leave, and then kept in no more pixels than the tab shows.
+// The pictures of the design tab: how they are read, what is kept of them, and what is reported
+// about those that can't be shown. All together take no more than `kMaxPicturesMemory`: the next
+// one is read into what the others leave, and then kept in no more pixels than the tab shows.
 #include "design/forms/DesignScreen.h"
 
 #include "pictures/picture_file.h"
@@ -98,7 +98,7 @@ bool DesignScreen::MayTell(PictureStep step, const Text& file)
 
 void DesignScreen::TellPictureError(PictureStep step, const RunError& error)
 {
-    // Of a file that is missing nothing is said; once it is there again, it is told of as any
+    // Of a file that is missing nothing is said; once it is there again, it is reported as any
     // other.
     if (error.Number() == ErrorNumber::kFileNotFound)
         told_.erase(step);

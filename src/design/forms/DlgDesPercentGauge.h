@@ -1,4 +1,4 @@
-// Where on the screen the setup's gauge stands.
+// The place of the setup's gauge on the screen.
 #pragma once
 
 #include "design/forms/DesignEditor.h"

@@ -30,7 +30,7 @@ DlgUnderline::DlgUnderline(Session& session, QWidget* parent)
     ColourOf(NAMED(CmdColor1), "Färg &1...", underline_.UnderlineColor1);
     ColourOf(NAMED(CmdColor2), "Färg &2...", underline_.UnderlineColor2);
     Check01(NAMED(cUnderlineTextOnly), "Stryk endast under te&xten", underline_.UnderlineTextOnly);
-    Button(NAMED(CmdHelp), "&Hjälp", [this] { ShowHelp(session_); });
+    Button(NAMED(CmdHelp), "&Hjälp", [this] { ShowHelp(session_, {CommandId::Underline}); });
     MakeHeight();
     for (QRadioButton* kind : {oNoUnderline, oSimpleUnderline, oMistyUnderline, oBlendUnderline})
         connect(kind, &QRadioButton::clicked, this, [this] { ChooseKind(); });

@@ -15,7 +15,7 @@
 
 namespace quillon {
 
-/// What `AddFileToFileList` is told, under the names of the tool.
+/// The arguments of `AddFileToFileList`, by the names of the tool.
 struct FileToAdd {
     Text FileName;
     Text SourcePath;
@@ -28,7 +28,7 @@ struct FileToAdd {
     // Instead of those that its name asks for; the row that is left of a file that fails has them.
     Text CopyOptions = {};
     bool KeepsFontHere = false; // a font goes to the destination too, not to the font folder
-    // What a listing of its folder told of the file, whatever path it is reached by.
+    // What a listing of its folder said about the file, whatever path it is reached by.
     std::optional<FileStatus> Listed = {};
 };
 
@@ -60,7 +60,7 @@ public:
 
     enum class RowOutcome { Added, Duplicate, Refused };
     /// A row of another list, whole as it is, by the same rules; its file need not be here. A
-    /// refusal is always told, a duplicate where `showDuplicateMessage` says so.
+    /// refusal is always reported, a duplicate where `showDuplicateMessage` says so.
     RowOutcome AddRow(const FileListRow& row, bool showDuplicateMessage);
 
     /// Where each row is now, by its number so far. No row may be added afterwards.

@@ -21,7 +21,7 @@ Text SelectionText(const std::vector<Text>& paths)
 }
 
 // Not every machine has such a folder, and an empty text would begin every path. After the folder
-// stands a backslash, or the mark before the names of several files.
+// comes a backslash, or the mark before the names of several files.
 bool LiesInSystemFolder(const Text& selection, const Machine& machine)
 {
     const Text folder = machine.GetSystemDir();

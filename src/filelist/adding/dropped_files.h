@@ -11,7 +11,7 @@ namespace quillon {
 
 /// Adds what was dropped by the rules of the commands, with one question for all of it: a file
 /// alone as a single file, several as a multiple selection, a folder as a tree. A folder alone
-/// stands for the destination itself; among others it keeps its name below the destination, as they
+/// means the destination itself; among others it keeps its name below the destination, as they
 /// do. Where each of the former rows is afterwards; nothing where the list is as it was.
 std::optional<NewPlaces> AddDroppedPaths(const ListWork& work, const std::vector<Text>& paths);
 

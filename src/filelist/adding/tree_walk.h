@@ -28,7 +28,7 @@ struct TreeProgress {
     std::function<void()> sawFile = [] {};
 };
 
-/// Adds the files; those of a folder come behind those of its subfolders. A folder that leads back
+/// Adds the files; those of a folder come after those of its subfolders. A folder that leads back
 /// to one that the walk is in, by a link, is not entered. A failure ends the walk and is thrown.
 void AddTree(FileAdding& adding, const FileSystem& files, const TreeToAdd& tree,
              const TreeProgress& progress = {});

@@ -30,7 +30,7 @@ private:
     void TickDefaultWhereItMustBe();
 
     section::FileComponent& component_;
-    // The advanced values as they stand here; they become the component's on OK alone.
+    // The advanced values as edited here; they become the component's on OK alone.
     section::FileComponent advanced_;
 };
 

@@ -24,7 +24,7 @@ DlgIconX::DlgIconX(FileListRow& row, Session& session, QWidget* parent)
     TickAddIconOnTyping(tCommandLine);
     // A question of this dialog sends its reader to the help by this key.
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { ShowHelp(session_); });
+            [this] { ShowHelp(session_, {CommandId::Icon}); });
     Arrange(VBox({
         Growing(IconPicture),
         Fields({

@@ -1,4 +1,4 @@
-// The variables with what they stand for here: a preview, or a list to pick one from.
+// The variables with their values here: a preview, or a list to pick one from.
 #pragma once
 
 #include "ui/Form.h"

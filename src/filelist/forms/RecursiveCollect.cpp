@@ -72,7 +72,7 @@ void RecursiveCollect::Start()
     cmdStart->setEnabled(true);
 }
 
-// The size is that of the new rows. A list whose sizes can't be summed has none told.
+// The size is that of the new rows. A list whose sizes can't be summed shows none.
 Text RecursiveCollect::Summary(std::int64_t milliseconds,
                                const std::optional<Long>& sizeBefore) const
 {

@@ -14,7 +14,7 @@ class RecursiveCollect : public Form {
 public:
     RecursiveCollect(const ListWork& work, const TreeToAdd& tree, QWidget* parent);
 
-    /// Where the rows from before stand now.
+    /// The new places of the rows from before.
     const NewPlaces& Places() const { return places_; }
 
     QLabel* sStartDirect = nullptr;

@@ -24,8 +24,8 @@ struct FileInfo {
 /// A file that is gone says so in place of its size and has no date.
 FileInfo FileInfoOf(const FileListRow& row, const FileSystem& files);
 
-/// "### ### ###" and its unit. Kept: the blanks of the pattern show also where no digits stand, and
-/// an empty file shows no digit at all.
+/// "### ### ###" and its unit. Kept: the blanks of the pattern show also where there are no digits,
+/// and an empty file shows no digit at all.
 Text FileSizeText(std::uint64_t bytes);
 /// "yyyy-mm-dd    hh:mm:ss"
 Text FileDateTimeText(const LocalTime& time);

@@ -22,8 +22,8 @@ constexpr OptionsOfFile kRuntimeFiles[] = {
 
 } // namespace
 
-// Kept: kinds of file are told by a part of the name, so `setup.exe.bak` counts as a program, and
-// a later kind overrules an earlier one.
+// Kept: kinds of file are recognised by a part of the name, so `setup.exe.bak` counts as a program,
+// and a later kind overrules an earlier one.
 Text StartingCopyOptions(std::string_view fileName, bool useVersionRules,
                          const std::function<bool()>& hasVersion)
 {

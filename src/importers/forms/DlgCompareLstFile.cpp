@@ -23,7 +23,7 @@ DlgCompareLstFile::DlgCompareLstFile(Session& session, QWidget* parent)
     Named(sLSTFileName, "sLSTFileName", new PathLabel);
     Named(ListOfFiles, "ListOfFiles", new QListWidget);
     Button(NAMED(CmdSelectLstFile), "&Välj LST-fil...", [this] { SelectLstFile(); });
-    Button(NAMED(CmdHelp), "&Hjälp", [this] { ShowHelp(session_); });
+    Button(NAMED(CmdHelp), "&Hjälp", [this] { ShowHelp(session_, {CommandId::CompareLstFile}); });
     Button(NAMED(cmdClose), "Stäng", [this] { reject(); });
     Arrange(VBox({
         Note("Välj den LST-fil som Package & Deployment Wizard har skapat för ditt projekt."),

@@ -7,37 +7,28 @@
 
 namespace quillon {
 
+namespace {
+
+constexpr const char* kFolderHelp =
+    "Katalogen som VB5.EXE ligger i. Filerna för vidaredistribution hämtas "
+    "från setupkit\\kitfil32\\sys32 under den.";
+
+} // namespace
+
 DlgImportVB5Project::DlgImportVB5Project(const ImportDesk& desk, QWidget* parent)
-    : ImportForm("DlgImportVB5Project", "Importera Visual Basic 5.0 projekt", desk, parent)
+    : VbProjectForm("DlgImportVB5Project", "Importera Visual Basic 5.0 projekt", desk, parent)
 {
-    Named(NAMED(tVBDirectory), new QLineEdit(ToQt(FindVb5Directory(desk.session.host.machine))));
-    Explained(tVBDirectory, "Katalogen som VB5.EXE ligger i. Filerna för vidaredistribution hämtas "
-                            "från setupkit\\kitfil32\\sys32 under den.");
     setWhatsThis("Adderar de filer som ett program i Visual Basic 5.0 behöver: körfilerna, "
                  "ActiveX-filerna i projektet och programmet självt. Filer som redan finns i "
                  "fillistan ligger kvar. DEP-filer följs inte.");
     Arrange(VBox({
-        Frame("Projekt",
-              {Fields({
-                  {"Projektfil (.VBP):",
-                   PathRow(NAMED(sVBPfile), cmdSelectVBP,
-                           {"cmdSelectVBP", "Välj pro&jektfil...",
-                            "Projektet som programmet byggs av. ActiveX-filerna som det anger "
-                            "hämtas från systemkatalogen; om en saknas där talar importen om det.",
-                            [this] { SelectVBP(); }})},
-                  {"Programfil (.EXE):",
-                   PathRow(NAMED(sEXEfile), cmdSelectEXE,
-                           {"cmdSelectEXE", "Välj programfi&l...",
-                            "Programmet som projektet skapar vid kompilering. Importen frågar vart "
-                            "på mottagarens dator det ska.",
-                            [this] { SelectEXE(); }})},
-                  {"&Visual Basic 5.0 katalog:", tVBDirectory},
-              })}),
+        ProjectFrame("5.0", kFolderHelp),
         MakeOptions(),
         Stretch(),
         Progress(),
         Buttons(),
     }));
+    tVBDirectory->setText(ToQt(FindVb5Directory(desk.session.host.machine)));
     cmdSelectVBP->setFocus();
 }
 
@@ -50,15 +41,14 @@ Piece DlgImportVB5Project::MakeOptions()
                         "Registry."),
                Choice01(NAMED(cImportActiveXSysFiles), "&Mfc42.dll och Msvcrt.dll",
                         "Behövs av ActiveX-kontroller som är byggda med MFC."),
-               Choice01(NAMED(cAddIcon), "Lägg till ik&on för programmet",
-                        "Frågar efter ikonens uppgifter när importen är klar.")});
+               IconBox()});
     cAddIcon->setChecked(true);
     return options;
 }
 
 void DlgImportVB5Project::SelectVBP()
 {
-    const auto file = SelectProject("Visual Basic projekt (*.vbp)|*.vbp", "*.vbp");
+    const auto file = SelectVbProject();
     if (!file)
         return;
     choices_.sVBPfile = *file;

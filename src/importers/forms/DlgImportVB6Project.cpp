@@ -7,33 +7,23 @@
 
 namespace quillon {
 
+namespace {
+
+constexpr const char* kFolderHelp =
+    "Katalogen som VB6.EXE ligger i. Filerna för vidaredistribution hämtas "
+    "från Wizards\\PDWizard\\Redist under den.";
+
+} // namespace
+
 DlgImportVB6Project::DlgImportVB6Project(const ImportDesk& desk, QWidget* parent)
-    : ImportForm("DlgImportVB6Project", "Importera Visual Basic 6.0 projekt", desk, parent)
+    : VbProjectForm("DlgImportVB6Project", "Importera Visual Basic 6.0 projekt", desk, parent)
 {
     choices_.tVBDirectory = FindVb6Directory(desk.session.host.machine);
-    Named(NAMED(tVBDirectory), new QLineEdit);
-    Explained(tVBDirectory, "Katalogen som VB6.EXE ligger i. Filerna för vidaredistribution hämtas "
-                            "från Wizards\\PDWizard\\Redist under den.");
     setWhatsThis("Adderar de filer som ett program i Visual Basic 6.0 behöver: körfilerna, "
                  "ActiveX-filerna i projektet, databasfilerna du väljer och programmet självt. "
                  "Filer som redan finns i fillistan ligger kvar.");
     Arrange(VBox({
-        Frame("Projekt",
-              {Fields({
-                  {"Projektfil (.VBP):",
-                   PathRow(NAMED(sVBPfile), cmdSelectVBP,
-                           {"cmdSelectVBP", "Välj pro&jektfil...",
-                            "Projektet som programmet byggs av. ActiveX-filerna som det anger "
-                            "hämtas från systemkatalogen; om en saknas där talar importen om det.",
-                            [this] { SelectVBP(); }})},
-                  {"Programfil (.EXE):",
-                   PathRow(NAMED(sEXEfile), cmdSelectEXE,
-                           {"cmdSelectEXE", "Välj programfi&l...",
-                            "Programmet som projektet skapar vid kompilering. Importen frågar vart "
-                            "på mottagarens dator det ska.",
-                            [this] { SelectEXE(); }})},
-                  {"&Visual Basic 6.0 katalog:", tVBDirectory},
-              })}),
+        ProjectFrame("6.0", kFolderHelp),
         HBox({Growing(MakeDatabases()), Growing(MakeOptions())}),
         Stretch(),
         Progress(),
@@ -79,14 +69,12 @@ Piece DlgImportVB6Project::MakeOptions()
          Choice01(NAMED(cUseDepFile), "Följ &DEP-filer för ActiveX",
                   "Adderar även de filer som DEP-filerna i systemkatalogen anger för projektets "
                   "ActiveX-filer."),
-         Choice01(NAMED(cAddIcon), "Lägg till ik&on för programmet",
-                  "Frågar efter ikonens uppgifter när importen är klar."),
-         Stretch()});
+         IconBox(), Stretch()});
 }
 
 void DlgImportVB6Project::SelectVBP()
 {
-    const auto file = SelectProject("Visual Basic projekt (*.vbp)|*.vbp", "*.vbp");
+    const auto file = SelectVbProject();
     if (!file)
         return;
     TakeChoices();

@@ -1,29 +1,21 @@
 // The import of a Visual Basic 6.0 project.
 #pragma once
 
-#include "importers/forms/ImportForm.h"
+#include "importers/forms/VbProjectForm.h"
 #include "importers/import_vb6.h"
 
 namespace quillon {
 
-class DlgImportVB6Project : public ImportForm {
+class DlgImportVB6Project : public VbProjectForm {
 public:
     DlgImportVB6Project(const ImportDesk& desk, QWidget* parent);
 
-    PathLabel* sVBPfile = nullptr;
-    PathLabel* sEXEfile = nullptr;
-    QPushButton* cmdSelectVBP = nullptr;
-    QPushButton* cmdSelectEXE = nullptr;
-    QLineEdit* tVBDirectory = nullptr;
-    QCheckBox* cImportDAO35 = nullptr;
     QCheckBox* cImportDAO36 = nullptr;
     QCheckBox* cImportADO = nullptr;
     QCheckBox* cImportRDO = nullptr;
     QCheckBox* cInstallMDA = nullptr;
     QPushButton* cmdMDADetails = nullptr;
-    QCheckBox* cImportActiveXSysFiles = nullptr;
     QCheckBox* cUseDepFile = nullptr;
-    QCheckBox* cAddIcon = nullptr;
 
 protected:
     ImportResult Import(const ImportWork& work) override;
@@ -31,8 +23,8 @@ protected:
 private:
     Piece MakeDatabases();
     Piece MakeOptions();
-    void SelectVBP();
-    void SelectEXE();
+    void SelectVBP() override;
+    void SelectEXE() override;
     void TakeChoices();
     void ShowChoices();
 

@@ -141,7 +141,7 @@ void ImportForm::ShowRunning(bool isRunning)
         sImportStatus->clear();
 }
 
-// But the way to stop. What a rule of the form has disabled stays so behind the run.
+// But the way to stop. What a rule of the form has disabled stays disabled after the run.
 void ImportForm::DisableControls()
 {
     for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {

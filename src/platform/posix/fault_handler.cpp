@@ -37,7 +37,7 @@ struct FaultPlan {
     std::unique_ptr<char[]> stack = std::make_unique<char[]>(kStackBytes);
 };
 
-// A handler is told nothing but the signal.
+// A handler gets nothing but the signal.
 const FaultPlan* plan = nullptr;
 
 void Write(int file, const char* text)

@@ -1,4 +1,5 @@
-// What POSIX tells of a file, in the words of the product; and moments to the local clock and back.
+// What POSIX knows about a file, in the terms of the product; and moments to the local clock and
+// back.
 #pragma once
 
 #include "platform/file_system.h"

@@ -8,7 +8,7 @@ namespace quillon {
 enum class Doing { Reading, Writing };
 
 /// The failure that `errorCode` (a value of errno) stands for. Whether a missing file is a missing
-/// folder is told by `folderExists`.
+/// folder is decided by `folderExists`.
 RunError PosixFailure(int errorCode, const Text& path, Doing doing, bool folderExists);
 
 } // namespace quillon

@@ -335,7 +335,7 @@ void PosixFiles::Replace(const Text& from, const Text& to)
     RefuseReadOnly(to, named);
     if (!S_ISREG(old.st_mode))
         throw RunError(ErrorNumber::kPathFileAccess, to);
-    // Behind a link lies the file that the name stands for.
+    // A link is followed to the file that the name means.
     const HostName real = BehindLinks(named);
     const struct stat own = StatOf(from, source);
     if (!real || access(named.c_str(), W_OK) != 0 || !TakesOver(source, own, old) ||

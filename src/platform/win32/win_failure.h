@@ -1,4 +1,4 @@
-// Failures of Windows, told by the numbers that users and callers know.
+// Failures of Windows, identified by the numbers that users and callers know.
 #pragma once
 
 #include "platform/run_error.h"

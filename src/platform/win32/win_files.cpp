@@ -27,7 +27,7 @@ bool Has(DWORD attributes, DWORD attribute)
 }
 
 // Windows denies access to a folder that is taken for a file, and to a file that is
-// write-protected, as it does where rights are missing. Users are told of two different things.
+// write-protected, as it does where rights are missing. Users see two different messages.
 [[noreturn]] void FailAtFile(const Text& path)
 {
     const DWORD errorCode = GetLastError();

@@ -1,5 +1,5 @@
 // What an installation needs and what is free where it would go, on the pages that ask for a place:
-// at once, behind a button, or both.
+// at once, by a button, or both.
 #pragma once
 
 #include "actions/forms/previews/previews.h"

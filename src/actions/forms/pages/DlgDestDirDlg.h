@@ -24,7 +24,7 @@ private:
     void Test();
 
     section::Updates& updates_;
-    // The advanced values as they stand here; they become the project's on OK alone.
+    // The advanced values as edited here; they become the project's on OK alone.
     section::Updates advanced_;
 };
 

@@ -1,5 +1,5 @@
 // The pages of the setup in small, as the end user will see them: what the editors of the pages
-// show on `cmdTest`. They are filled from an editor's fields as these stand; closing one has no
+// show on `cmdTest`. They are filled from an editor's current fields; closing one has no
 // effect on anything.
 #pragma once
 

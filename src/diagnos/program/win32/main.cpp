@@ -1,4 +1,5 @@
-// Diagnos for Windows: describes the machine in a text file beside itself, or where it is told to.
+// Diagnos for Windows: describes the machine in a text file beside itself, or at the path that it
+// is given.
 #include "diagnos/diagnosis_file.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
