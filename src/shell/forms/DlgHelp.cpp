@@ -10,8 +10,9 @@ namespace quillon {
 namespace {
 
 constexpr int kListLetters = 30;
-constexpr int kPageLetters = 60;
+constexpr int kPageLetters = 50;
 constexpr int kPageLines = 24;
+constexpr int kWindowLetters = 120;
 
 QTextBrowser* PageView()
 {
@@ -26,6 +27,8 @@ QTreeWidget* ListView()
     auto* list = new QTreeWidget;
     list->setHeaderHidden(true);
     list->setColumnCount(1);
+    list->setRootIsDecorated(false);
+    list->setIndentation(list->fontMetrics().horizontalAdvance("  "));
     return list;
 }
 
@@ -41,8 +44,9 @@ DlgHelp::DlgHelp(std::vector<HelpPage> pages, QWidget* parent)
     Button(NAMED(cmdClose), "S&täng", [this] { reject(); })->setDefault(true);
     ListPages();
     Arrange(HBox(
-        {VBox({Fields({{"&Sök:", tSearch}}), Growing(MinWidth(kListLetters, TreeOfPages))}),
-         Growing(VBox({Growing(MinWidth(kPageLetters, tPage)), HBox({Stretch(), cmdClose})}))}));
+        {Growing(VBox({Fields({{"&Sök:", tSearch}}), Growing(MinWidth(kListLetters, TreeOfPages))}),
+                 2),
+         Growing(VBox({Growing(MinWidth(kPageLetters, tPage)), HBox({Stretch(), cmdClose})}), 3)}));
     connect(tSearch, &QLineEdit::textChanged, this, [this] { FilterPages(); });
     // Enter after the words leads to what they found, and closes nothing.
     for (const char* key : {"Return", "Enter"}) {
@@ -57,7 +61,8 @@ DlgHelp::DlgHelp(std::vector<HelpPage> pages, QWidget* parent)
     connect(tPage, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         TreeOfPages->setCurrentItem(ItemOf(*FindHelpPage(pages_, FromQt(link.toString()))));
     });
-    resize(width(), std::max(height(), kPageLines * fontMetrics().lineSpacing()));
+    resize(kWindowLetters * fontMetrics().averageCharWidth(),
+           kPageLines * fontMetrics().lineSpacing());
     Show({});
 }
 
