@@ -1,6 +1,7 @@
 // The setup's pages as its user meets them: their windows and controls, found, read and pressed by
 // a second program; and what is installed then.
-#include "runtime/pages/page.h"
+#include "runtime/language_file.h"
+#include "runtime/pages/page_order.h"
 #include "wine/folder_state.h"
 #include "wine/package.h"
 #include "wine/registry_text.h"
@@ -338,39 +339,62 @@ TEST_F(SetupPages, AreThoseOfOneSetupAtATime)
                                                  ": Vill du avbryta installationen?\ncode 1602\n");
 }
 
-// For eyes: each page as Wine paints it, in build/<preset>/screens/setup.
-TEST_F(SetupPages, HaveTheirPicturesTaken)
+LanguageTexts TextsOf(const std::string& language)
 {
+    return LanguageTexts(ReadBytes(fs::path(QUILLON_SOURCE_FOLDER) / "resources" / "Language" /
+                                   (language + ".LNG")));
+}
+
+/// The title of the page's window: the project's own, else the language's.
+std::string TitleOf(const SampleProduct& product, PageKind kind, const LanguageTexts& texts)
+{
+    const PageSource& source = SourceOf(kind);
+    return source.title ? product.project.DialogBoxData.*source.title : texts[source.name];
+}
+
+// For eyes: each page as Wine paints it, in build/<preset>/screens/setup, in each language. The
+// programs that packages carry show them all; their twins show the Swedish ones.
+class SetupPictures : public SetupPages, public testing::WithParamInterface<const char*> {};
+
+TEST_P(SetupPictures, AreTakenOfEveryPage)
+{
+    const std::string language = GetParam();
+    if (WineBits() == 64 && language != "SWEDISH")
+        GTEST_SKIP() << "the 32-bit programs show the other languages";
     const VirtualDisplay display;
     SampleProduct product = WithAllPages();
+    product.project.Language.LanguageFile = language + ".LNG";
+    const LanguageTexts texts = TextsOf(language);
     const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
-    const fs::path shots = WorkFolder() / "bilder";
+    const fs::path shots = WorkFolder() / ("bilder-" + language);
     fs::create_directories(shots);
     Script script;
     int number = 0;
-    const auto shoot = [&](const std::string& title) -> Script& {
-        return script.Page(title).Shoot(shots / (std::to_string(++number) + ".bmp"));
-    };
-    shoot("Välkommen").Next();
-    shoot("Generell information").Next();
-    shoot("Generell information 2").Next();
-    shoot("Licensavtal").Next();
-    shoot("Lösenord").Type(PageField::Password, "Hemligt").Next();
-    shoot("Registrering").Next();
-    shoot("Destinationsmapp").Next();
-    shoot("Komponenter").Next();
-    shoot("Välj programgrupp").Next();
-    shoot("Starta installation").Next();
-    shoot("Installationen avslutad").Next();
+    for (const PageKind kind :
+         {PageKind::Welcome, PageKind::GeneralInfo, PageKind::GeneralInfo2, PageKind::LicenseInfo,
+          PageKind::Password, PageKind::NameCompany, PageKind::Destination, PageKind::Components,
+          PageKind::ProgramGroup, PageKind::StartInstall, PageKind::InstallCompleted}) {
+        script.Page(TitleOf(product, kind, texts));
+        script.Shoot(shots / (std::to_string(++number) + ".bmp"));
+        if (kind == PageKind::Password)
+            script.Type(PageField::Password, "Hemligt");
+        script.Next();
+    }
     script.End();
     EXPECT_EQ(Drive(script, Setup(package)), "code 0\n");
     for (int i = 1; i <= number; ++i) {
-        const fs::path png = fs::path(QUILLON_BUILD_FOLDER) / "screens" / "setup" /
-                             (std::to_string(WineBits()) + "-" + std::to_string(i) + ".png");
+        const fs::path png =
+            fs::path(QUILLON_BUILD_FOLDER) / "screens" / "setup" /
+            (language + "-" + std::to_string(WineBits()) + "-" + std::to_string(i) + ".png");
         BitmapToPng(shots / (std::to_string(i) + ".bmp"), png);
         EXPECT_GT(fs::file_size(png), 4000U) << "nothing was painted";
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, SetupPictures,
+                         testing::Values("SWEDISH", "DANISH", "ENGLISH", "FINNISH", "GERMAN",
+                                         "NORWEGIAN"),
+                         [](const auto& language) { return std::string(language.param); });
 
 } // namespace
 } // namespace quillon::test
