@@ -26,7 +26,8 @@ void Require(bool condition, const char* what)
 /// What comes out of an entry, on its way to the caller: never more than the entry's size.
 class CheckedOutput {
 public:
-    CheckedOutput(const ZipEntry& entry, const ZipReader::Sink& sink) : entry_(entry), sink_(sink)
+    CheckedOutput(const ZipEntry& entry, const ZipReader::Sink& sink, const Inflation& inflation)
+        : entry_(entry), sink_(sink), inflation_(inflation)
     {
     }
 
@@ -35,8 +36,8 @@ public:
         Require(bytes.size() <= entry_.size - written_, "en post är längre än den anger");
         if (bytes.empty())
             return;
-        crc_ = crc32(crc_, reinterpret_cast<const Bytef*>(bytes.data()),
-                     static_cast<uInt>(bytes.size()));
+        crc_ = inflation_.crc(crc_, reinterpret_cast<const Bytef*>(bytes.data()),
+                              static_cast<uInt>(bytes.size()));
         written_ += bytes.size();
         sink_(bytes);
     }
@@ -50,18 +51,19 @@ public:
 private:
     const ZipEntry& entry_;
     const ZipReader::Sink& sink_;
+    const Inflation& inflation_;
     std::uint64_t written_ = 0;
-    uLong crc_ = crc32(0, nullptr, 0);
+    uLong crc_ = 0; // of no bytes
 };
 
 class Inflater {
 public:
-    Inflater() : out_(kPieceSize)
+    explicit Inflater(const Inflation& inflation) : inflation_(inflation), out_(kPieceSize)
     {
-        if (inflateInit2(&stream_, -MAX_WBITS) != Z_OK)
+        if (inflation_.begin(&stream_) != Z_OK)
             throw std::bad_alloc();
     }
-    ~Inflater() { inflateEnd(&stream_); }
+    ~Inflater() { inflation_.end(&stream_); }
     Inflater(const Inflater&) = delete;
     Inflater& operator=(const Inflater&) = delete;
 
@@ -81,7 +83,7 @@ private:
     {
         stream_.next_out = reinterpret_cast<Bytef*>(out_.data());
         stream_.avail_out = static_cast<uInt>(out_.size());
-        const int result = inflate(&stream_, Z_NO_FLUSH);
+        const int result = inflation_.go(&stream_, Z_NO_FLUSH);
         // No progress is what it answers when the last full buffer was all that there was.
         Require(result == Z_OK || result == Z_STREAM_END || result == Z_BUF_ERROR,
                 "packade data går ej att packa upp");
@@ -91,6 +93,7 @@ private:
             stream_.avail_out = 1; // nothing more waits in the stream
     }
 
+    const Inflation& inflation_;
     z_stream stream_{};
     Bytes out_;
     bool isDone_ = false;
@@ -168,6 +171,7 @@ void CheckAuthentication(InputFile& archive, const Data& data, EntryCipher& ciph
 } // namespace
 
 struct ZipReader::State {
+    Inflation inflation;
     std::unique_ptr<InputFile> archive;
     Directory directory;
 
@@ -181,8 +185,10 @@ struct ZipReader::State {
     }
 };
 
-ZipReader::ZipReader(std::unique_ptr<InputFile> archive) : state_(std::make_unique<State>())
+ZipReader::ZipReader(std::unique_ptr<InputFile> archive, const Inflation& inflation)
+    : state_(std::make_unique<State>())
 {
+    state_->inflation = inflation;
     state_->archive = std::move(archive);
     state_->directory = ReadDirectory(*state_->archive);
 }
@@ -201,10 +207,10 @@ void ZipReader::Extract(const ZipEntry& entry, const Text& password, const Sink&
     InputFile& archive = *state_->archive;
     Data data = FindData(archive, entry, state_->ExtentOf(entry));
     const auto cipher = entry.isEncrypted ? OpenCipher(archive, data, password) : nullptr;
-    CheckedOutput output(entry, sink);
+    CheckedOutput output(entry, sink, state_->inflation);
     std::optional<Inflater> inflater;
     if (!entry.isStored)
-        inflater.emplace();
+        inflater.emplace(state_->inflation);
 
     Bytes buffer(kPieceSize);
     for (std::uint64_t at = data.begin; at < data.end;) {

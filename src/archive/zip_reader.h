@@ -4,6 +4,7 @@
 // checked against the file before it is used.
 #pragma once
 
+#include "archive/inflation.h"
 #include "helpers/date_text.h"
 #include "helpers/text.h"
 #include "platform/file_system.h"
@@ -54,7 +55,8 @@ public:
     using Sink = std::function<void(std::span<const std::byte>)>;
 
     /// Reads the list of entries. Throws `ZipError`, or `RunError` when the file can't be read.
-    explicit ZipReader(std::unique_ptr<InputFile> archive);
+    explicit ZipReader(std::unique_ptr<InputFile> archive,
+                       const Inflation& inflation = LinkedInflation());
     ~ZipReader();
     ZipReader(ZipReader&&) noexcept;
     ZipReader& operator=(ZipReader&&) noexcept;

@@ -1,4 +1,4 @@
-// Archives read through DUNZIP32.DLL.
+// Archives unpacked through DUNZIP32.DLL.
 #pragma once
 
 #include "runtime/container.h"
@@ -7,6 +7,6 @@ namespace quillon {
 
 /// The library is loaded when the first archive is opened. Throws 53 from there where it is
 /// missing.
-OpenContainer LibraryContainers(Text libraryPath);
+OpenContainer LibraryContainers(const FileSystem& files, Text libraryPath);
 
 } // namespace quillon

@@ -1,13 +1,24 @@
-// Looks like the library that reads a package's archives, and brings down the setup that opens one.
+// Looks like the library that unpacks a package's files, and brings down the setup that calls it.
 #define EXPORTED extern "C" __declspec(dllexport)
 
-EXPORTED int QnUnzipOpen(const char*, void**, void*)
+namespace {
+
+int Crash()
 {
     volatile int* volatile nowhere = nullptr;
     *nowhere = 1;
     return 0;
 }
-EXPORTED void QnUnzipEntryCount() {}
-EXPORTED void QnUnzipEntryInfo() {}
-EXPORTED void QnUnzipExtract() {}
-EXPORTED void QnUnzipClose() {}
+
+} // namespace
+
+EXPORTED int QnUnzipBegin(void*)
+{
+    return Crash();
+}
+EXPORTED void QnUnzipGo() {}
+EXPORTED void QnUnzipEnd() {}
+EXPORTED int QnUnzipCrc()
+{
+    return Crash();
+}

@@ -118,7 +118,7 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     const PrivateFolder work(host);
     WinTarget target(JoinPath(work.Path(), RuntimePrograms::kRegistryHelper.inPackage));
     const OpenContainer openContainer =
-        LibraryContainers(UnzipLibrary(files, switches.packageFolder));
+        LibraryContainers(files, UnzipLibrary(files, switches.packageFolder));
     const auto run = [&](Ask& ask, PageView* pages, BackgroundSound* sound) {
         return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages, sound,
                          only.IsNot(), StartAsUser, &users},
