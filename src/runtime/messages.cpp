@@ -1,5 +1,7 @@
 #include "runtime/messages.h"
 
+#include "runtime/self_extract_messages.h"
+
 #include <iterator>
 #include <string_view>
 
@@ -11,11 +13,11 @@ namespace {
 constexpr MessageKey kMessages[] = {
     {Message::Extract,                "PreLoader", "Msg_Extract",             "Förbereder installationen. Vänta..."},
     {Message::NoRuntime,              "PreLoader", "Msg_NoRuntime",           "Installationen kan inte startas. Filen '%1' saknas eller är skadad."},
-    {Message::ExeDamaged,             "PreLoader", "Msg_ExeDamaged",          "Filen är skadad eller inte hel. Hämta den en gång till. Ingenting har installerats."},
-    {Message::ExeDiskFull,            "PreLoader", "Msg_ExeDiskFull",         "Det finns inte plats att packa upp installationen i '%1'."},
-    {Message::ExeFailed,              "PreLoader", "Msg_ExeFailed",           "Installationen kan inte packas upp: '%1'."},
-    {Message::ExeHelp,                "PreLoader", "Msg_ExeHelp",             "/extract:mapp packar upp filerna i mappen och installerar ingenting. /version visar version. Andra växlar går vidare till installationsprogrammet."},
-    {Message::ExeNoFolder,            "PreLoader", "Msg_ExeNoFolder",         "Växeln /extract behöver en mapp."},
+    {Message::ExeDamaged,             "PreLoader", SelfExtractMessages::kDamaged.key, SelfExtractMessages::kDamaged.swedish},
+    {Message::ExeDiskFull,            "PreLoader", SelfExtractMessages::kDiskFull.key, SelfExtractMessages::kDiskFull.swedish},
+    {Message::ExeFailed,              "PreLoader", SelfExtractMessages::kFailed.key, SelfExtractMessages::kFailed.swedish},
+    {Message::ExeHelp,                "PreLoader", SelfExtractMessages::kHelp.key, SelfExtractMessages::kHelp.swedish},
+    {Message::ExeNoFolder,            "PreLoader", SelfExtractMessages::kNoFolder.key, SelfExtractMessages::kNoFolder.swedish},
     {Message::Title,                  "Setup",     "Title",                   "Installation av %1"},
     {Message::Checking,               "Setup",     "Msg_Checking",            "Kontrollerar installationsfilerna..."},
     {Message::Copying,                "Setup",     "Msg_Copying",             "Kopierar filer..."},

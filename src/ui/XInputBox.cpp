@@ -20,7 +20,9 @@ XInputBox::XInputBox(const Text& title, const Text& prompt, QWidget* parent)
 std::optional<Text> AskPassword(const Text& title, const Text& prompt, QWidget* parent)
 {
     // A file's name in the question may hold the mark of an access letter.
-    XInputBox form(title, "&" + ReplaceAll(prompt, "&", "&&"), parent);
+    Text question = "&";
+    question += ReplaceAll(prompt, "&", "&&");
+    XInputBox form(title, question, parent);
     form.tInput->setEchoMode(QLineEdit::Password);
     return form.ShowModal() ? std::optional(form.Input) : std::nullopt;
 }

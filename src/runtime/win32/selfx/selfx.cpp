@@ -66,16 +66,11 @@ public:
     int Run()
     {
         if (command_.wantsHelp)
-            return Answer(texts_("Msg_ExeHelp",
-                                 "/extract:mapp packar upp filerna i mappen och installerar "
-                                 "ingenting. /version visar version. Andra växlar går vidare till "
-                                 "installationsprogrammet."));
+            return Answer(texts_(SelfExtractMessages::kHelp));
         try {
             return Work();
         } catch (const SolidError&) {
-            return Fail(kDamaged, texts_("Msg_ExeDamaged",
-                                         "Filen är skadad eller inte hel. Hämta den en gång till. "
-                                         "Ingenting har installerats."));
+            return Fail(kDamaged, texts_(SelfExtractMessages::kDamaged));
         } catch (const RunError& error) {
             return Fail(error);
         } catch (const std::exception&) {
@@ -91,7 +86,7 @@ private:
     {
         window_.emplace(instance_, command_.isSilent || command_.wantsVersion
                                        ? Text()
-                                       : texts_("Msg_Extract", ""));
+                                       : texts_(SelfExtractMessages::kUnpacking));
         const SolidReader payload(files_.OpenInput(ProgramPath()),
                                   [this](std::uint64_t done, std::uint64_t total) {
                                       window_->Show(done, total, 0, kHashed);
@@ -119,7 +114,7 @@ private:
     {
         if (command_.extractTo->empty())
             return Fail(static_cast<int>(ExitCode::BadSwitch),
-                        texts_("Msg_ExeNoFolder", "Växeln /extract behöver en mapp."));
+                        texts_(SelfExtractMessages::kNoFolder));
         wchar_t folder[32768];
         const DWORD length =
             GetFullPathNameW(Wide(*command_.extractTo).c_str(),
@@ -191,12 +186,9 @@ private:
             return static_cast<int>(ExitCode::Cancelled);
         if (error.Number() == ErrorNumber::kDiskFull)
             return Fail(static_cast<int>(ExitCode::DiskFull),
-                        texts_("Msg_ExeDiskFull",
-                               "Det finns inte plats att packa upp installationen i '%1'.",
-                               error.Path()));
-        return Fail(
-            static_cast<int>(ExitCode::Failed),
-            texts_("Msg_ExeFailed", "Installationen kan inte packas upp: '%1'.", error.Path()));
+                        texts_(SelfExtractMessages::kDiskFull, error.Path()));
+        return Fail(static_cast<int>(ExitCode::Failed),
+                    texts_(SelfExtractMessages::kFailed, error.Path()));
     }
 
     HINSTANCE instance_;

@@ -44,11 +44,11 @@ SelfTexts::SelfTexts()
         bytes_ = {static_cast<const char*>(bytes), SizeofResource(nullptr, found)};
 }
 
-Text SelfTexts::operator()(const char* key, const char* otherwise, std::string_view first) const
+Text SelfTexts::operator()(const SelfExtractMessage& message, std::string_view first) const
 {
     char16_t wide[kMaxTextLength];
-    Text text = otherwise;
-    if (FindStarterText(bytes_, key, AnsiCharacterOf, wide, kMaxTextLength))
+    Text text = message.swedish;
+    if (FindStarterText(bytes_, message.key, AnsiCharacterOf, wide, kMaxTextLength))
         text = Narrow(reinterpret_cast<const wchar_t*>(wide));
     const std::size_t mark = text.find("%1");
     return mark == Text::npos ? text : text.replace(mark, 2, first);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "helpers/text.h"
+#include "runtime/self_extract_messages.h"
 
 #include <string_view>
 
@@ -13,8 +14,8 @@ class SelfTexts {
 public:
     SelfTexts();
 
-    /// The text of the key, `otherwise` where the resource lacks it, with `first` for "%1".
-    Text operator()(const char* key, const char* otherwise, std::string_view first = {}) const;
+    /// In Swedish where the resource lacks it, with `first` for "%1".
+    Text operator()(const SelfExtractMessage& message, std::string_view first = {}) const;
 
 private:
     std::string_view bytes_;
