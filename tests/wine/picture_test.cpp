@@ -64,6 +64,10 @@ TEST(WindowsPictures, HaveThePixelsThatTheToolShows)
     int count = 0;
     for (const auto& entry :
          fs::directory_iterator(fs::path(QUILLON_SOURCE_FOLDER) / "fuzz/corpus/picture_file")) {
+        // What fuzzing found has no extension: damaged JPEG files among it, which each decoder
+        // mends in a way of its own.
+        if (!entry.path().has_extension())
+            continue;
         const auto file = WorkFolder() / entry.path().filename();
         fs::copy_file(entry.path(), file);
         const PictureResult here = DecodePicture(ReadAll(file));
