@@ -36,17 +36,28 @@ def kill(desktop, number):
     assert desktop.program.returncode == -number, desktop.program.returncode
 
 
-def restart_into_copy(desktop, name):
-    desktop.start([QUILLON])
-    answer(desktop, "Återskapa projekt", "Ja")
+def wait_for_name(desktop, name):
     field = name_field(desktop)
     wait_for(f"the name '{name}'", lambda: field.text() == name)
 
 
+def decline_folder(desktop):
+    # Whoever was killed has not noted that it has asked already.
+    answer(desktop, PRODUCT, "Nej")
+
+
+def restart_into_copy(desktop, name):
+    desktop.start([QUILLON])
+    decline_folder(desktop)
+    answer(desktop, "Återskapa projekt", "Ja")
+    wait_for_name(desktop, name)
+
+
 def work_and_die(desktop, home):
-    answer(desktop, PRODUCT, "Nej")  # the offer of a folder for projects
+    decline_folder(desktop)
     desktop.click_into(name_field(desktop))
     desktop.type("Fel")
+    wait_for_name(desktop, "Fel")
     # Its own fault: what is typed is kept at once.
     kill(desktop, signal.SIGSEGV)
     restart_into_copy(desktop, "Fel")
