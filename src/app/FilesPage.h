@@ -21,7 +21,7 @@ public:
     FilesPage(Session& session, HostPaths paths);
 
     void ShowSession() override;
-    /// All but the rows, which are shown by themselves.
+    /// All but the rows, which `MainWindow::ShowFileList` shows.
     void ShowAboveRows();
     FileListView& List() { return *list_; }
     /// Opens the bar that looks for rows.

@@ -38,7 +38,7 @@ namespace {
 // What the status bar has to tell.
 constexpr int kMinLetters = 50;
 
-// The pages with many rows of controls; the others shrink by themselves.
+// The pages with many rows of controls; the others hold a view that can shrink.
 bool Scrolls(Tab tab)
 {
     return tab == Tab::Dialogs || tab == Tab::Components;

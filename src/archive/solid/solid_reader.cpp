@@ -118,15 +118,15 @@ void SolidReader::CheckDigest(std::uint64_t trailerPosition, const Progress& onP
         if (onProgress)
             onProgress(done, end);
     }
-    Sha256Digest told;
-    if (ReadUpTo(*file_, end, told) != told.size() || told != digest.Finish())
+    Sha256Digest recorded;
+    if (ReadUpTo(*file_, end, recorded) != recorded.size() || recorded != digest.Finish())
         RefuseSolid("kontrollsumman (SHA-256) stämmer inte");
 }
 
 void SolidReader::ReadTable()
 {
     SolidStream stream(*file_, trailer_);
-    // It grows with what comes, since its size is only told.
+    // It grows as bytes come in: the size in the trailer is a claim, and may be far too large.
     zip::Bytes bytes;
     while (bytes.size() < trailer_.tableSize) {
         const std::size_t before = bytes.size();

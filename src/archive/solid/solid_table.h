@@ -38,7 +38,7 @@ inline constexpr std::uint32_t kArchive = 0x20;
 inline constexpr std::uint32_t kAll = kReadOnly | kHidden | kSystem | kArchive;
 } // namespace SolidAttribute
 
-/// What whoever unpacks the payload is told, by number.
+/// A text for the program that unpacks the payload, by number.
 struct SolidProperty {
     std::uint32_t number = 0;
     Text value;

@@ -57,11 +57,11 @@ struct ZipEntryReport {
     std::uint64_t packedSize = 0;
 };
 
-/// What the writer tells while it works, always from the calling thread. Each may be empty.
+/// What the writer reports while it works, always from the calling thread. Each may be empty.
 struct ZipWatch {
-    /// Called where a source has the same bytes as an earlier one; both are told by their places
-    /// among the sources. The comment of the entry that serves both comes back; nothing where each
-    /// shall have its own. Without it equal sources are stored each.
+    /// Called where a source has the same bytes as an earlier one; both are given by their
+    /// places among the sources. The comment of the entry that serves both comes back; nothing
+    /// where each shall have its own. Without it equal sources are stored each.
     std::function<std::optional<Text>(std::size_t first, std::size_t repeat,
                                       const LocalTime& firstDate, const LocalTime& repeatDate)>
         onEqual;

@@ -22,7 +22,7 @@ constexpr const char* kArchiveName = "INSTALL.ZIP";
 constexpr const char* kProjectName = "INSTALL.ADX";
 constexpr const char* kTempFolderDirective = "<WinTemp>";
 constexpr const char* kProgramFolderDirective = "<Exe>";
-// The section of the language file with what is told before there is a package.
+// The section of the language file with the texts that are shown before there is a package.
 constexpr const char* kTextsSection = "PreLoader";
 constexpr int kMessageLimit = 201; // a text of 200 characters and the end mark
 
