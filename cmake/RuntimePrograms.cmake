@@ -58,7 +58,7 @@ quillon_runtime_program(qns32x QNS32X.EXE ${release}/Small32 uuid)
 quillon_runtime_program(dunzip32 DUNZIP32.DLL ${release})
 quillon_runtime_program(qnreg32 QNREG32.EXE ${release})
 quillon_runtime_program(qnxreg2 QNXREG2.EXE ${release})
-quillon_runtime_program(qnxunin QNXUNIN.EXE ${release} uuid)
+quillon_runtime_program(qnxunin QNXUNIN.EXE ${release})
 quillon_runtime_program(selfx QNSELFX.EXE ${release} quillon_archive_solid)
 if(TARGET qns32x)
   # The full version shows JPEG pictures too; nothing that is shown so far knows the difference. The

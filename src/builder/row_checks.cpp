@@ -130,6 +130,8 @@ bool IsNameOfUninstaller(const Text& name)
 {
     const Text upper = UpperCase(name);
     return upper == RuntimePrograms::kUninstaller.name ||
+           upper == RuntimePrograms::kSetup.inPackage ||
+           upper == RuntimePrograms::kUninstallerManifest ||
            (upper.starts_with("QNXUNIN") && upper.ends_with(".LOG"));
 }
 

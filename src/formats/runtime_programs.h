@@ -19,6 +19,10 @@ inline constexpr RuntimeProgram kSecondRegistryHelper = {"QNXREG2.EXE", "QNXREG2
 // Stands before the package where that is one program.
 inline constexpr RuntimeProgram kSelfExtractor = {"QNSELFX.EXE", nullptr};
 inline constexpr RuntimeProgram kUninstaller = {"QNXUNIN.EXE", "QNXUNIN.BIN"};
+// On the machine beside the uninstaller, which starts `kSetup` and has nothing but its digest to
+// know it by. The setup keeps the name there that it has in a package: by itself it would do
+// nothing.
+inline constexpr const char* kUninstallerManifest = "QNXUNIN.SHA256";
 } // namespace RuntimePrograms
 
 } // namespace quillon

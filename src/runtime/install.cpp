@@ -13,6 +13,7 @@
 #include "runtime/script/script_run.h"
 #include "runtime/startup_files.h"
 #include "runtime/uninstall_entry.h"
+#include "runtime/uninstaller_files.h"
 
 namespace quillon {
 
@@ -287,13 +288,7 @@ void Installation::PutUninstaller()
 {
     if (!input_.plan.hasUninstaller)
         return;
-    const Text path = UninstallerPath(input_.plan.mainFolder);
-    const Text staged = changes_.StagingPath(path);
-    input_.host.files.CopyContent(
-        JoinPath(input_.helpersFolder, RuntimePrograms::kUninstaller.inPackage), staged);
-    // The uninstaller goes last and by itself, and stays where another product needs it.
-    changes_.PutFile(
-        {staged, path, input_.host.files.FileExists(path), InstallTransaction::Recorded::No});
+    PutUninstallerFiles(input_.host.files, input_.helpersFolder, input_.plan.mainFolder, changes_);
     WriteUninstallEntry({input_, files_.InstalledBytes()}, changes_);
 }
 

@@ -1,6 +1,7 @@
 #include "runtime/messages.h"
 
 #include "runtime/self_extract_messages.h"
+#include "runtime/starter_messages.h"
 
 #include <iterator>
 #include <string_view>
@@ -11,8 +12,8 @@ namespace {
 
 // clang-format off
 constexpr MessageKey kMessages[] = {
-    {Message::Extract,                "PreLoader", "Msg_Extract",             "Förbereder installationen. Vänta..."},
-    {Message::NoRuntime,              "PreLoader", "Msg_NoRuntime",           "Installationen kan inte startas. Filen '%1' saknas eller är skadad."},
+    {Message::Extract,                "PreLoader", StarterMessages::kExtract.key, StarterMessages::kExtract.swedish},
+    {Message::NoRuntime,              "PreLoader", StarterMessages::kNoRuntime.key, StarterMessages::kNoRuntime.swedish},
     {Message::ExeDamaged,             "PreLoader", SelfExtractMessages::kDamaged.key, SelfExtractMessages::kDamaged.swedish},
     {Message::ExeDiskFull,            "PreLoader", SelfExtractMessages::kDiskFull.key, SelfExtractMessages::kDiskFull.swedish},
     {Message::ExeFailed,              "PreLoader", SelfExtractMessages::kFailed.key, SelfExtractMessages::kFailed.swedish},
@@ -192,7 +193,7 @@ constexpr MessageKey kMessages[] = {
     {Message::UninstallRunning,       "Uninstall", "Msg_Running",             "Tar bort filer och inställningar..."},
     {Message::UninstallDone,          "Uninstall", "Msg_Done",                "%1 har tagits bort från datorn."},
     {Message::UninstallPartly,        "Uninstall", "Msg_Partly",              "%1 har tagits bort, men några filer eller inställningar kunde inte tas bort:"},
-    {Message::UninstallNoLog,         "Uninstall", "Err_NoLog",               "Avinstallationen kan inte startas. Filen '%1' saknas eller är skadad."},
+    {Message::UninstallNoLog,         "Uninstall", StarterMessages::kNoUninstaller.key, StarterMessages::kNoUninstaller.swedish},
     {Message::UninstallFailed,        "Uninstall", "Err_Failed",              "Avinstallationen misslyckades (%1)."},
     {Message::UninstallButton,        "Uninstall", "Button_Uninstall",        "&Avinstallera"},
     {Message::UninstallLeft,          "Uninstall", "Msg_Left",                "%1 har tagits bort från datorn. Det här finns kvar:"},

@@ -4,6 +4,7 @@
 #include "runtime/planned_shortcuts.h"
 #include "runtime/recorded_paths.h"
 #include "runtime/uninstall_entry.h"
+#include "runtime/uninstaller_files.h"
 
 #include <algorithm>
 #include <set>
@@ -23,8 +24,11 @@ public:
         for (const JournalRecord& record : product.records)
             AddFileOf(record);
         const Text uninstaller = UninstallerPath(ExtractDirectory(logPath));
-        if (GoesWithProduct(files_, logPath, uninstaller))
+        if (GoesWithProduct(files_, logPath, uninstaller)) {
             AddFile(uninstaller, removal.own);
+            for (const Text& path : FilesOfUninstaller(ExtractDirectory(logPath)))
+                AddFile(path, removal.own);
+        }
         AddFile(logPath, removal.own);
         AddFolders();
         for (const JournalRecord& record : product.records)

@@ -280,9 +280,10 @@ void SetupProgram::FreeFilesInUse(const InstallPlan& plan)
 void SetupProgram::KeepHelpers() const
 {
     FileSystem& files = input_.host.files;
-    for (const char* helper : {RuntimePrograms::kRegistryHelper.inPackage,
-                               RuntimePrograms::kSecondRegistryHelper.inPackage,
-                               RuntimePrograms::kUninstaller.inPackage}) {
+    for (const char* helper :
+         {RuntimePrograms::kRegistryHelper.inPackage,
+          RuntimePrograms::kSecondRegistryHelper.inPackage, RuntimePrograms::kUninstaller.inPackage,
+          RuntimePrograms::kSetup.inPackage}) {
         const Text path = JoinPath(input_.switches.packageFolder, helper);
         if (files.FileExists(path))
             files.CopyContent(path, JoinPath(input_.workFolder, helper));
@@ -299,6 +300,7 @@ void SetupProgram::CheckHelpers(const InstallPlan& plan) const
             throw DamagedPackage(texts_, {Message::PackageFileMissing, helper});
     };
     check(plan.hasUninstaller, RuntimePrograms::kUninstaller.inPackage);
+    check(plan.hasUninstaller, RuntimePrograms::kSetup.inPackage);
     const bool mayRegisterLate =
         std::any_of(plan.files.begin(), plan.files.end(), [](const PlannedFile& file) {
             return HasOption(file.row->copyOptions, CopyLetter::kRegister) &&

@@ -12,6 +12,11 @@ namespace quillon {
 // All words for "show nothing"; deployment tools have one each.
 inline constexpr const char* kSilentWords[] = {"S", "SILENT", "VERYSILENT", "QUIET", "Q", "QN"};
 
+// How the starters tell the program proper where the package is, and that it is to be the
+// uninstaller of the program that is the value.
+inline constexpr const char* kPackageSwitch = "PACKAGE";
+inline constexpr const char* kUninstallerSwitch = "UNINSTALLER";
+
 template <class Char>
 bool IsSwitchBlank(Char character)
 {

@@ -75,7 +75,7 @@ constexpr ValueSwitch kValueSwitches[] = {
          return FaultOfProgramGroup(value) == PathFault::None;
      }},
     {"LOG",        [](Switches& switches, const Text& value) { switches.logFile = value; return !value.empty(); }},
-    {"PACKAGE",    [](Switches& switches, const Text& value) { switches.packageFolder = value; return !value.empty(); }},
+    {kPackageSwitch, [](Switches& switches, const Text& value) { switches.packageFolder = value; return !value.empty(); }},
 };
 // clang-format on
 

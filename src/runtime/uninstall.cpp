@@ -11,6 +11,7 @@
 #include "runtime/restart_moves.h"
 #include "runtime/startup_files.h"
 #include "runtime/uninstall_entry.h"
+#include "runtime/uninstaller_files.h"
 
 #include <algorithm>
 #include <set>
@@ -80,6 +81,7 @@ private:
     void RemoveKeyWithAllBelow(const RegistryKey& key);
     void UndoRestart(const record::AtRestart& move);
     void RemoveProductItself();
+    void RemoveWhatUninstallerLines(const Text& uninstaller);
     void RemoveFolders();
     void RemoveFolder(const Text& folder);
     bool HoldsOnlyWhatGoes(const Text& folder) const;
@@ -353,8 +355,19 @@ void Uninstallation::RemoveProductItself()
         if (input_.running != nullptr)
             input_.running->MoveAway(uninstaller);
         RemoveFile(uninstaller);
+        RemoveWhatUninstallerLines(uninstaller);
     }
     RemoveFile(input_.logPath);
+}
+
+// Not before the uninstaller: while that can be started it has to find them.
+void Uninstallation::RemoveWhatUninstallerLines(const Text& uninstaller)
+{
+    for (const Text& path : FilesOfUninstaller(mainFolder_))
+        if (files_.FileExists(path) && goesAtRestart_.count(LowerCase(uninstaller)) > 0)
+            LeaveToRestart(path);
+        else
+            RemoveFile(path);
 }
 
 void Uninstallation::RemoveFolders()

@@ -17,15 +17,13 @@
 
 namespace quillon {
 
-/// The file of the running program, which can't be removed like any other.
+/// The file of a program that runs, which can't be removed like any other.
 class RunningProgram {
 public:
     virtual ~RunningProgram() = default;
-    /// Gets it out of the main folder. Nothing happens where it is not the one at `uninstaller`, or
-    /// where it can't be moved.
+    /// Gets it out of the main folder; it goes as soon as the program has ended. Nothing happens
+    /// where it is not the one at `uninstaller`, or where it can't be moved.
     virtual void MoveAway(const Text& uninstaller) = 0;
-    /// What was moved goes as soon as the program has ended.
-    virtual void RemoveAfterEnd() = 0;
 };
 
 struct UninstallInput {

@@ -93,8 +93,6 @@ ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view, RunningProgram* ru
     const UninstallResult result =
         Uninstall({input_.host, input_.target, ask, log_, log, *product_, running});
     log_.Close();
-    if (running != nullptr)
-        running->RemoveAfterEnd();
     view.ShowProgress(false);
     TellTheEnd(result, ask, view);
     return result.code;

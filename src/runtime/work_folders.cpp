@@ -17,6 +17,7 @@ namespace {
 
 constexpr const char* kLockName = "LOCK";
 constexpr const char* kFilesOfASetup[] = {RuntimePrograms::kSetup.name,
+                                          RuntimePrograms::kSetup.inPackage,
                                           RuntimePrograms::kUninstaller.name,
                                           RuntimePrograms::kUnzipLibrary.inPackage,
                                           RuntimePrograms::kRegistryHelper.inPackage,

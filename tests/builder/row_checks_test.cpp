@@ -173,7 +173,8 @@ TEST_F(RowChecks, LetOneFileGoToTwoPlaces)
 
 TEST_F(RowChecks, RefuseNamesOfTheUninstallerInTheMainFolder)
 {
-    for (const char* name : {"QNXUNIN.EXE", "qnxunin.log", "Qnxunin2.log"}) {
+    for (const char* name :
+         {"QNXUNIN.EXE", "qnxunin.log", "Qnxunin2.log", "qnxunin.sha256", "QNS32X.BIN"}) {
         desk.AddFile(name);
         EXPECT_EQ(Run(CheckUninstallerNames,
                       {{BoxKind::Critical, "Reserverat filnamn hittades",

@@ -251,6 +251,13 @@ TEST(SetupRuntime, LeavesRoomOnTheFirstDisk)
     EXPECT_LT(sum, kRoomForAll);
 }
 
+// They start the setup proper, and carry nothing of it themselves.
+TEST(SetupRuntime, HasSmallStarters)
+{
+    for (const char* name : {"SETUP32.EXE", "QNXUNIN.EXE"})
+        EXPECT_LE(fs::file_size(kRelease32 / name), 40U * 1024) << name;
+}
+
 TEST(SetupRuntime, HasASmallSelfExtractor)
 {
     EXPECT_LE(fs::file_size(kRelease32 / "QNSELFX.EXE"), 150U * 1024);

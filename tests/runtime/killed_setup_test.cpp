@@ -2,6 +2,8 @@
 // uninstaller puts the machine right.
 #include "full_product.h"
 
+#include "formats/digest_text.h"
+#include "formats/package_manifest.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/rollback.h"
@@ -91,6 +93,17 @@ protected:
         EXPECT_EQ(state.fonts, right.fonts);
     }
 
+    // What it starts is beside it, and is what it was when its digest was taken.
+    void ExpectUninstallerThatCanStart() const
+    {
+        const Text program = kMain + "\\QNS32X.BIN";
+        if (!memory.files.FileExists(kMain + "\\QNXUNIN.EXE"))
+            return;
+        ASSERT_TRUE(memory.files.FileExists(program));
+        EXPECT_EQ(memory.files.Get(kMain + "\\QNXUNIN.SHA256"),
+                  DigestText(DigestOfFile(memory.files, program)) + "  QNS32X.BIN\n");
+    }
+
     // Kills the installation at each of its changes. Returns how many there are. Once it is
     // committed its state is the new one, and the next run installs over that.
     int KillEverywhere()
@@ -107,6 +120,7 @@ protected:
             killed = KillAt(++n, [&] { Install(); });
             SCOPED_TRACE("killed at change " + NumberText(n));
             const Machine wreck = Keep();
+            ExpectUninstallerThatCanStart();
             const bool committed = Journal().find("\r\nCOMMITTED") != Text::npos || !killed;
 
             EXPECT_TRUE(Finish());
@@ -142,6 +156,7 @@ TEST_F(KilledSetup, IsPutRightWhereTheProductIsUpgraded)
     memory.files.Put("C:\\Ulla\\Start-meny\\Program\\Exempelgrupp\\Annans.lnk",
                      "C:\\Program\\Annan\\a.exe||||");
     ChangePackage();
+    memory.files.Put("D:\\Paket\\QNS32X.BIN", "newer setup");
     EXPECT_GT(KillEverywhere(), 150);
 }
 

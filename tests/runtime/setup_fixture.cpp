@@ -107,6 +107,7 @@ SetupFixture::SetupFixture()
     memory.files.PutFolder("C:\\Ulla\\Skrivbord");
     memory.files.Put(JoinPath(kPackageFolder, "FILEDATA.DAT"), "the archive");
     memory.files.Put(JoinPath(kPackageFolder, "QNXUNIN.BIN"), "uninstaller");
+    memory.files.Put(JoinPath(kPackageFolder, "QNS32X.BIN"), "setup");
     memory.files.Put(JoinPath(kPackageFolder, "QNXREG2.BIN"), "second helper");
     target.keys[{RegistryRoot::LocalMachine, "software"}] = {"SOFTWARE", {}};
     target.keys[{RegistryRoot::LocalMachine, "software\\microsoft"}] = {"SOFTWARE\\Microsoft", {}};

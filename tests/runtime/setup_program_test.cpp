@@ -99,14 +99,18 @@ TEST_F(SetupProgramTest, PassesOverARowThatNeverHadASource)
 // It is copied at the very end, when everything else is in its place.
 TEST_F(SetupProgramTest, WritesNothingWhereTheUninstallerIsMissing)
 {
-    for (const char* bytes : {"", "x"}) {
-        memory.files.Put("D:\\Paket\\QNXUNIN.BIN", bytes);
-        if (*bytes != 0)
-            memory.files.RemoveFile("D:\\Paket\\QNXUNIN.BIN");
-        memory.files.nodes.erase("w:\\arbete\\qnxunin.bin");
-        EXPECT_EQ(InstallInVain(), ExitCode::Failed);
-        EXPECT_THAT(Log(), HasSubstr("QNXUNIN.BIN saknas eller kan inte läsas"));
+    for (const Text name : {"QNXUNIN.BIN", "QNS32X.BIN"}) {
+        for (const char* bytes : {"", "x"}) {
+            memory.files.Put("D:\\Paket\\" + name, bytes);
+            if (*bytes != 0)
+                memory.files.RemoveFile("D:\\Paket\\" + name);
+            memory.files.nodes.erase(LowerCase("W:\\Arbete\\" + name));
+            EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+            EXPECT_THAT(Log(), HasSubstr(name + " saknas eller kan inte läsas"));
+        }
+        memory.files.Put("D:\\Paket\\" + name, "whole again");
     }
+    memory.files.RemoveFile("D:\\Paket\\QNXUNIN.BIN");
     project.InstallOptions.UninstallSupport = kOff;
     EXPECT_EQ(Install(), ExitCode::Done) << Log();
 }

@@ -42,7 +42,6 @@ class Running : public RunningProgram {
 public:
     explicit Running(std::vector<Text>& events) : events_(events) {}
     void MoveAway(const Text& uninstaller) override { events_.push_back("away " + uninstaller); }
-    void RemoveAfterEnd() override { events_.push_back("after end"); }
 
 private:
     std::vector<Text>& events_;
@@ -88,7 +87,8 @@ TEST_F(UninstallProgramTest, ShowsWhatItWillRemoveAndDoesNothingWhereThatIsCance
     EXPECT_EQ(page.title, kTitle);
     EXPECT_EQ(page.text, "Vill du ta bort Exempel från datorn? Det här tas bort:");
     EXPECT_THAT(page.lines,
-                ElementsAre(kMain + "\\Bin\\prog.exe", kUninstaller, kLog, kMain, kMain + "\\Bin"));
+                ElementsAre(kMain + "\\Bin\\prog.exe", kUninstaller, kMain + "\\QNS32X.BIN",
+                            kMain + "\\QNXUNIN.SHA256", kLog, kMain, kMain + "\\Bin"));
     EXPECT_EQ(page.okCaption, "&Avinstallera");
     EXPECT_EQ(page.cancelCaption, "Avbryt");
 }
@@ -100,8 +100,7 @@ TEST_F(UninstallProgramTest, RemovesTheProductAndItself)
     EXPECT_EQ(RunProgram("", {{BoxKind::Inform, kTitle, "Exempel har tagits bort från datorn."}}),
               ExitCode::Done);
     EXPECT_EQ(State(), before);
-    EXPECT_THAT(lists.events,
-                ElementsAre("list", "work", "away " + kUninstaller, "after end", "rest"));
+    EXPECT_THAT(lists.events, ElementsAre("list", "work", "away " + kUninstaller, "rest"));
 }
 
 TEST_F(UninstallProgramTest, ListsWhatStaysAndWhy)
@@ -290,8 +289,8 @@ TEST_F(UninstallProgramTest, ListsOnlyWhatReallyGoes)
     ASSERT_TRUE(product);
     EXPECT_THAT(PlanRemoval(*product, host, target, kLog).Lines(),
                 ElementsAre(kMain + "\\Bin\\prog.exe", "C:\\WINDOWS\\SYSTEM32\\ensam.dll",
-                            kUninstaller, kLog, kMain + "\\Bin",
-                            "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Nytt",
+                            kUninstaller, kMain + "\\QNS32X.BIN", kMain + "\\QNXUNIN.SHA256", kLog,
+                            kMain + "\\Bin", "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Nytt",
                             "HKEY_CURRENT_USER\\Firma", "HKEY_CURRENT_USER\\Annan :: Namn",
                             "C:\\WINDOWS\\A.INI [S] x"));
 }

@@ -98,10 +98,36 @@ TEST_F(Uninstaller, ObeysNoLogButOneBesideIt)
 TEST_F(Uninstaller, RegistersNothingForWhoeverNamesAHandle)
 {
     Install();
-    EXPECT_EQ(prefix.Run(std::string(kMainFolder) + "\\QNXUNIN.EXE", "/UNREGISTER=64"), 2U);
-    EXPECT_EQ(prefix.Run(std::string(kMainFolder) + "\\QNXUNIN.EXE", "/REGISTER=64"), 2U);
-    EXPECT_EQ(prefix.Run(std::string(kMainFolder) + "\\QNXUNIN.EXE", "/CLEAN=0,0"), 1U);
+    const std::string uninstaller = std::string(kMainFolder) + "\\QNXUNIN.EXE";
+    EXPECT_EQ(prefix.Run(uninstaller, "/UNREGISTER=64 /S"), 1639U);
+    EXPECT_EQ(prefix.Run(uninstaller, "/REGISTER=64 /S"), 1639U);
+    EXPECT_EQ(prefix.Run(uninstaller, "/CLEAN=0,0"), 1U);
+    fs::copy_file(Main() / "QNS32X.BIN", prefix.DriveC() / "QNS32X.EXE");
+    EXPECT_EQ(prefix.Run("C:\\QNS32X.EXE", "/UNREGISTER=64"), 2U);
+    EXPECT_EQ(prefix.Run("C:\\QNS32X.EXE", "/REGISTER=64"), 2U);
     EXPECT_TRUE(fs::exists(Main() / "QNXUNIN.EXE"));
+}
+
+TEST_F(Uninstaller, IsRefusedWithoutTheProgramThatItStarts)
+{
+    Install();
+    const std::string whole = ReadBytes(Main() / "QNS32X.BIN");
+    std::string damaged = whole;
+    damaged[damaged.size() / 2] ^= 1;
+    for (const std::string& bytes : {damaged, whole.substr(0, whole.size() / 2), std::string()}) {
+        WriteBytes(Main() / "QNS32X.BIN", bytes);
+        EXPECT_EQ(Uninstall(""), 1603U) << bytes.size();
+    }
+    fs::remove(Main() / "QNS32X.BIN");
+    EXPECT_EQ(Uninstall(""), 1603U);
+    EXPECT_TRUE(fs::exists(Main() / "Stort" / "Stor fil.bin"));
+    EXPECT_TRUE(RegistryText(prefix).HasKey(kEntry));
+
+    // The next installation puts it right.
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
+    EXPECT_EQ(Uninstall(""), 0U);
+    EXPECT_FALSE(fs::exists(Main()));
+    EXPECT_EQ(LeftInTemp(), "");
 }
 
 TEST_F(Uninstaller, FollowsNoLinkInThePlaceOfAFolder)
@@ -216,6 +242,16 @@ TEST_F(UninstallerWindows, TellThatTheProductIsGone)
         "Avinstallation av Provpaket Åäö: Provpaket Åäö har tagits bort från datorn.\ncode 0\n");
     EXPECT_FALSE(fs::exists(Main()));
     EXPECT_EQ(LeftInTemp(), "");
+}
+
+TEST_F(UninstallerWindows, NameADamagedProgramInTheLanguageOfTheInstallation)
+{
+    WriteBytes(Main() / "QNS32X.BIN", "no program");
+    EXPECT_EQ(DriveUninstaller("box 1\nend\n"),
+              "Quillon: Avinstallationen kan inte startas. Filen 'QNS32X.BIN' saknas eller är "
+              "skadad.\ncode 1603\n");
+    WriteBytes(Main() / "QNXUNIN.LOG", "MESSAGE\tErr_NoLog\t'%251' är borta.\r\n");
+    EXPECT_EQ(DriveUninstaller("box 1\nend\n"), "Quillon: 'QNS32X.BIN' är borta.\ncode 1603\n");
 }
 
 TEST_F(UninstallerWindows, ListWhatStaysAndWhy)

@@ -2,6 +2,7 @@
 
 #include "platform/win32/wide_text.h"
 #include "runtime/win32/plain_window.h"
+#include "runtime/win32/window_scale.h"
 
 namespace quillon {
 
@@ -44,7 +45,8 @@ Text AllLines(const ListPage& page)
     return all;
 }
 
-void AddControls(HWND window, const ListPage& page)
+// Its first button.
+HWND AddControls(HWND window, const ListPage& page)
 {
     const bool canCancel = !page.cancelCaption.empty();
     AddControl(window, {L"STATIC",
@@ -67,7 +69,7 @@ void AddControls(HWND window, const ListPage& page)
     if (canCancel)
         AddControl(window, {L"BUTTON", page.cancelCaption, WS_TABSTOP | BS_PUSHBUTTON,
                             ButtonPlace(0), IDCANCEL});
-    SetFocus(first);
+    return first;
 }
 
 } // namespace
@@ -76,9 +78,11 @@ bool ShowListWindow(HINSTANCE instance, const ListPage& page)
 {
     const HWND window =
         MakePlainWindow(instance, page.title, {L"QuillonList", Receive, kWidth, kHeight});
+    const HWND first = AddControls(window, page);
+    const WindowScale scale(window);
     ShowWindow(window, SW_SHOWNORMAL);
     SetForegroundWindow(window);
-    AddControls(window, page);
+    SetFocus(first);
     MSG message;
     LONG_PTR pressed = kNotPressed;
     while ((pressed = GetWindowLongPtrW(window, GWLP_USERDATA)) == kNotPressed &&

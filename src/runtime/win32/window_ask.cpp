@@ -40,6 +40,7 @@ WindowAsk::WindowAsk(HINSTANCE instance, const Text& title, const LanguageTexts&
                              WS_TABSTOP | BS_PUSHBUTTON,
                              {kWidth - 106, 84, kWidth - 16, 110},
                              IDCANCEL});
+    scale_ = std::make_unique<WindowScale>(window_);
 }
 
 WindowAsk::~WindowAsk()

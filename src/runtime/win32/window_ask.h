@@ -4,8 +4,9 @@
 
 #include "platform/ask.h"
 #include "runtime/language_file.h"
+#include "runtime/win32/window_scale.h"
 
-#include <windows.h>
+#include <memory>
 
 namespace quillon {
 
@@ -53,6 +54,7 @@ private:
     HWND owner_ = nullptr;
     HWND status_ = nullptr;
     HWND bar_ = nullptr;
+    std::unique_ptr<WindowScale> scale_;
     int shownProgress_ = -1;
     const bool canCancel_;
     bool cancelPressed_ = false;

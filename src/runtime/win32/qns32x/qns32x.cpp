@@ -1,5 +1,6 @@
 // QNS32X: the setup proper. The starter copies it to a private folder and hands it the package's
-// folder, so that the disk with the package can be changed while it works.
+// folder, so that the disk with the package can be changed while it works. It is installed with the
+// product, whose own starter makes the uninstaller of it.
 #include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -17,6 +18,7 @@
 #include "runtime/win32/page_window.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
+#include "runtime/win32/qns32x/uninstaller.h"
 #include "runtime/win32/register_process.h"
 #include "runtime/win32/restart_machine.h"
 #include "runtime/win32/restart_manager.h"
@@ -162,16 +164,9 @@ ExitCode RunOnWindows(HINSTANCE instance, Switches switches, LanguageTexts& text
                              : InstallOnWindows(instance, host, switches, texts);
 }
 
-} // namespace
-
-int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
+int RunSetupProgram(HINSTANCE instance, const Text& line)
 {
-    StartProgram();
-    const Text given = Narrow(commandLine);
-    if (const auto code = RegisterForParent(given))
-        return *code;
-    OleInitialize(nullptr);
-    const Switches switches = ReadSwitches(given);
+    const Switches switches = ReadSwitches(line);
     LanguageTexts texts;
     ExitCode code = ExitCode::Failed;
     try {
@@ -184,9 +179,24 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
                             MB_OK | MB_ICONSTOP},
                            texts);
     }
-    OleUninitialize();
     // By now the setup has left nothing behind.
     if (code == ExitCode::RestartStarted && !RestartMachine())
         code = ExitCode::RestartNeeded;
     return static_cast<int>(code);
+}
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
+{
+    StartProgram();
+    const Text given = TrimBlanks(Narrow(commandLine));
+    if (const auto code = RegisterForParent(given))
+        return *code;
+    OleInitialize(nullptr);
+    const auto uninstaller = ReadStarterLine(given);
+    const int code =
+        uninstaller ? RunUninstaller(instance, *uninstaller) : RunSetupProgram(instance, given);
+    OleUninitialize();
+    return code;
 }

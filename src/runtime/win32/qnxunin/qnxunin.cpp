@@ -1,105 +1,74 @@
-// QNXUNIN: removes a product. Its command line names the product's install log; without a name it
-// takes the one beside itself.
-#include "helpers/windows_path.h"
-#include "platform/win32/wide_text.h"
-#include "platform/win32/win_files.h"
-#include "platform/win32/win_machine.h"
-#include "runtime/failure_reason.h"
-#include "runtime/passive_ask.h"
-#include "runtime/uninstall_program.h"
-#include "runtime/win32/list_window.h"
-#include "runtime/win32/message_box.h"
-#include "runtime/win32/only_setup.h"
-#include "runtime/win32/private_folder.h"
+// QNXUNIN: removes a product. It is a starter like SETUP32: what it starts is the setup proper,
+// which lies beside it and takes its place as the uninstaller. Its command line names the product's
+// record; without a name that is the one beside it.
+#include "runtime/recorded_text.h"
+#include "runtime/switch_words.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/qnxunin/self_removal.h"
-#include "runtime/win32/register_process.h"
-#include "runtime/win32/restart_manager.h"
-#include "runtime/win32/win_target.h"
-#include "runtime/win32/window_ask.h"
-
-#include <objbase.h>
+#include "runtime/win32/starter.h"
 
 using namespace quillon;
 
 namespace {
 
-class NoWindows : public UninstallView {
-public:
-    bool ShowList(const ListPage&) override { return true; }
-    void ShowProgress(bool) override {}
-};
-
-class Windows : public UninstallView {
-public:
-    Windows(HINSTANCE instance, WindowAsk& window, bool hasLists)
-        : instance_(instance), window_(window), hasLists_(hasLists)
-    {
-    }
-    bool ShowList(const ListPage& page) override
-    {
-        return !hasLists_ || ShowListWindow(instance_, page);
-    }
-    void ShowProgress(bool isAtWork) override { isAtWork ? window_.Show() : window_.Hide(); }
-
-private:
-    HINSTANCE instance_;
-    WindowAsk& window_;
-    const bool hasLists_;
-};
-
-ExitCode RunOnWindows(HINSTANCE instance, UninstallProgram& program, const Switches& switches,
-                      RunningProgram& running)
+// The path of the record, as the uninstaller itself reads the line.
+void FindRecord(wchar_t* path, const Starter& starter, const wchar_t* line)
 {
-    program.Prepare();
-    // A folder that is the current one of a program can't be removed.
-    SetCurrentDirectoryW(Wide(WinMachine().GetWindowsDir()).c_str());
-    if (switches.silent && !switches.passive) {
-        SilentAsk silent;
-        NoWindows none;
-        return program.Run(silent, none, &running);
+    const wchar_t* at = SkipSwitchBlanks(line);
+    if (*at == 0 || BeginsSwitch(at) || IsSwitchMark(*at)) {
+        JoinPaths(path, starter.folder, L"QNXUNIN.LOG");
+        return;
     }
-    // What has been removed can't be brought back half-way.
-    WindowAsk window(instance, program.Title(), program.Texts(), WindowAsk::CanCancel::No);
-    PassiveAsk passive(window);
-    Windows windows(instance, window, !switches.passive);
-    return program.Run(switches.passive ? static_cast<Ask&>(passive) : window, windows, &running);
+    for (const wchar_t* const end = EndOfSwitch(at); at != end; ++at)
+        if (*at != L'"')
+            *path++ = *at;
+    *path = 0;
+}
+
+// The installation has left the texts of its language in its record.
+void ReadMessage(Starter& starter, const wchar_t* line)
+{
+    SetMessage(starter, StarterMessages::kNoUninstaller.swedish);
+    FindRecord(starter.scratch, starter, line);
+    DWORD size = 0;
+    char* const bytes = ReadFileOf(starter.scratch, size);
+    if (bytes == nullptr)
+        return;
+    char text[kMaxMessageLength];
+    if (FindRecordedText({bytes, size}, StarterMessages::kNoUninstaller.key, text, sizeof text))
+        SetMessage(starter, text);
+    HeapFree(GetProcessHeap(), 0, bytes);
+}
+
+bool CopyUninstaller(Starter& starter)
+{
+    JoinPaths(starter.scratch, starter.folder, RuntimePrograms::kUninstallerManifest);
+    const ListedFiles listed(starter.scratch);
+    return KeepCleaner(starter) &&
+           CopyToWorkFolder(starter, starter.program, RuntimePrograms::kSetup, listed);
 }
 
 } // namespace
 
-int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR line, int)
 {
     StartProgram();
-    const Text given = TrimBlanks(Narrow(commandLine));
-    if (const auto code = CleanUpForParent(given))
-        return *code;
-    if (const auto code = RegisterForParent(given))
-        return *code;
-    OleInitialize(nullptr);
-    UninstallerCommand line = ReadUninstallerCommand(given);
-    if (line.logPath.empty())
-        line.logPath = JoinPath(ProgramFolder(), "QNXUNIN.LOG");
-    WinFiles files;
-    WinMachine machine;
-    Host host{files, machine};
-    WinTarget target;
-    const OnlySetup only;
-    // What they were started from is gone then.
-    RestartManager users(RestartManager::StartsAgain::No);
-    UninstallProgram program({host, target, line, ProgramPath(), only.IsNot(), &users});
-    SelfRemoval running(host);
-    ExitCode code = ExitCode::Failed;
-    try {
-        code = RunOnWindows(instance, program, line.switches, running);
-    } catch (const std::exception& error) {
-        const LanguageTexts& texts = program.Texts();
-        if (!line.switches.silent)
-            ShowMessageBox(nullptr,
-                           {"Quillon", texts(Message::UninstallFailed, FailureReason(error, texts)),
-                            MB_OK | MB_ICONSTOP},
-                           texts);
+    int cleaned = 0;
+    if (CleanUpForParent(line, cleaned))
+        return cleaned;
+    Starter* const starter = MakeStarter();
+    if (starter == nullptr)
+        return kNotStarted;
+    SetupRun run;
+    if (MakeWorkFolder(*starter)) {
+        if (CopyUninstaller(*starter))
+            run = RunSetup(*starter, {kUninstallerSwitch, starter->own, line}, nullptr);
+        DeleteFileW(starter->program);
+        RemoveWorkFolderAndItself(*starter);
     }
-    OleUninitialize();
-    return static_cast<int>(code);
+    if (!run.isStarted && !HasSilentSwitch(line)) {
+        ReadMessage(*starter, line);
+        ShowRefusal(*starter);
+    }
+    return static_cast<int>(run.code);
 }

@@ -1,37 +1,15 @@
 #include "runtime/win32/qnxunin/self_removal.h"
 
-#include "formats/runtime_programs.h"
-#include "helpers/number_text.h"
-#include "helpers/windows_path.h"
-#include "platform/win32/open_file.h"
-#include "platform/win32/wide_text.h"
-#include "runtime/win32/private_folder.h"
 #include "runtime/work_folders.h"
 
-#include <windows.h>
-
-#include <algorithm>
-#include <cstdint>
-#include <new>
-#include <vector>
+#include <cwchar>
 
 namespace quillon {
 
 namespace {
 
 constexpr const char* kCleaner = RuntimePrograms::kUninstaller.name;
-constexpr std::string_view kSwitch =
-    "/CLEAN="; // <the first one's process>,<the cleaner's own file>
-
-bool Delete(const Text& path)
-{
-    return DeleteFileW(WidePath(path).c_str()) != 0;
-}
-
-bool RemoveEmpty(const Text& folder)
-{
-    return RemoveDirectoryW(WidePath(folder).c_str()) != 0;
-}
+constexpr wchar_t kSwitch[] = L"/CLEAN="; // <the first one's process>,<the cleaner's own file>
 
 // A program that has ended, or a scanner, may hold a file for a moment longer.
 constexpr int kAttempts = 50;
@@ -49,7 +27,7 @@ bool Attempt(Work work)
 }
 
 // Through the handle that the file goes with. Systems before Windows Vista have no such function.
-bool RenameOpenFile(HANDLE file, const Text& path)
+void RenameOpenFile(HANDLE file, const wchar_t* path)
 {
     struct RenameInformation {
         BOOL replace;
@@ -61,87 +39,110 @@ bool RenameOpenFile(HANDLE file, const Text& path)
     constexpr int kRename = 3; // FileRenameInfo
     const auto set = reinterpret_cast<Set>(reinterpret_cast<void*>(
         GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetFileInformationByHandle")));
-    if (set == nullptr)
-        return false;
-    const std::wstring name = WidePath(path);
-    const std::size_t bytes = name.size() * sizeof(wchar_t);
-    // Bytes all of which are zero: a type with padding would leave some of them to chance.
-    std::vector<std::uint64_t> buffer((sizeof(RenameInformation) + bytes) / sizeof(std::uint64_t) +
-                                      1);
-    auto* const information = new (buffer.data()) RenameInformation{};
-    information->length = static_cast<DWORD>(bytes);
-    std::copy(name.begin(), name.end(), information->name);
-    return set(file, kRename, information,
-               static_cast<DWORD>(buffer.size() * sizeof(std::uint64_t))) != 0;
+    const auto length = static_cast<DWORD>(wcslen(path) * sizeof(wchar_t));
+    const DWORD size = sizeof(RenameInformation) + length;
+    auto* const information =
+        static_cast<RenameInformation*>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, size));
+    if (set == nullptr || information == nullptr)
+        return;
+    information->length = length;
+    lstrcpyW(information->name, path);
+    set(file, kRename, information, size);
 }
 
 // The cleaner's own file goes when its last handle is closed, so it has to leave the folder first.
-void RemoveOwnFolder(HANDLE ownFile)
+void RemoveOwnFolder(Starter& starter, HANDLE ownFile)
 {
-    const Text folder = ProgramFolder();
-    RenameOpenFile(ownFile, folder + "~");
-    if (!Attempt([&] { return RemoveEmpty(folder); }))
-        MoveFileExW(WidePath(folder).c_str(), nullptr, MOVEFILE_DELAY_UNTIL_REBOOT);
+    lstrcpyW(starter.scratch, starter.folder);
+    lstrcatW(starter.scratch, L"~");
+    RenameOpenFile(ownFile, starter.scratch);
+    if (!Attempt([&] { return RemoveDirectoryW(starter.folder) != 0; }))
+        MoveFileExW(starter.folder, nullptr, MOVEFILE_DELAY_UNTIL_REBOOT);
+}
+
+HANDLE TakeHandle(const wchar_t*& digits)
+{
+    ULONG_PTR number = 0;
+    for (; *digits >= L'0' && *digits <= L'9'; ++digits)
+        number = number * 10 + static_cast<ULONG_PTR>(*digits - L'0');
+    return reinterpret_cast<HANDLE>(number);
+}
+
+int CleanUp(Starter& starter, HANDLE parent, HANDLE ownFile)
+{
+    // Without a parent that waits to be followed, somebody else has started this.
+    if (WaitForSingleObject(parent, INFINITE) != WAIT_OBJECT_0)
+        return 1;
+    JoinPaths(starter.scratch, starter.folder, kMovedUninstaller);
+    if (!Attempt([&] { return DeleteFileW(starter.scratch) != 0; }))
+        return 1;
+    RemoveOwnFolder(starter, ownFile);
+    return 0;
+}
+
+bool StartCleaner(Starter& starter)
+{
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    const HANDLE file =
+        CreateFileW(starter.extra, GENERIC_READ | DELETE, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                    &inherited, OPEN_EXISTING, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    HANDLE self = nullptr;
+    DuplicateHandle(GetCurrentProcess(), GetCurrentProcess(), GetCurrentProcess(), &self,
+                    SYNCHRONIZE, TRUE, 0);
+    wchar_t handles[32];
+    wsprintfW(handles, L"%lu,%lu", HandleToUlong(self), HandleToUlong(file));
+    const wchar_t* const pieces[] = {L"\"", starter.extra, L"\" ", kSwitch, handles};
+    starter.commandLine[0] = 0;
+    for (const wchar_t* piece : pieces)
+        lstrcatW(starter.commandLine, piece);
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    // Both handles that are left open go with this program.
+    return CreateProcessW(starter.extra, starter.commandLine, nullptr, nullptr, TRUE, 0, nullptr,
+                          nullptr, &startup, &process) != 0;
 }
 
 } // namespace
 
-void SelfRemoval::MoveAway(const Text& uninstaller)
+bool KeepCleaner(Starter& starter)
 {
-    if (!EqualIgnoreCase(host_.files.ShortPath(ProgramPath()), host_.files.ShortPath(uninstaller)))
-        return;
-    const Text folder = MakePrivateFolder(host_);
-    const Text away = JoinPath(folder, kMovedUninstaller);
-    if (MoveFileExW(WidePath(uninstaller).c_str(), WidePath(away).c_str(), 0))
-        folder_ = folder;
-    else
-        RemoveEmpty(folder);
+    SetRefused(starter, wcsrchr(starter.own, L'\\') + 1);
+    JoinPaths(starter.extra, starter.work, kCleaner);
+    if (!CopyFileW(starter.own, starter.extra, TRUE))
+        return false;
+    SetFileAttributesW(starter.extra, FILE_ATTRIBUTE_NORMAL);
+    return true;
 }
 
-void SelfRemoval::RemoveAfterEnd()
+void RemoveWorkFolderAndItself(Starter& starter)
 {
-    if (folder_.empty())
+    JoinPaths(starter.scratch, starter.work, kMovedUninstaller);
+    if (GetFileAttributesW(starter.scratch) == INVALID_FILE_ATTRIBUTES) {
+        DeleteFileW(starter.extra);
+        RemoveWorkFolder(starter);
         return;
-    const Text cleaner = JoinPath(folder_, kCleaner);
-    if (!CopyFileW(WidePath(JoinPath(folder_, kMovedUninstaller)).c_str(),
-                   WidePath(cleaner).c_str(), TRUE))
-        return;
-    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-    const FileHandle file(CreateFileW(WidePath(cleaner).c_str(), GENERIC_READ | DELETE,
-                                      FILE_SHARE_READ | FILE_SHARE_DELETE, &inherited,
-                                      OPEN_EXISTING, FILE_FLAG_DELETE_ON_CLOSE, nullptr));
-    HANDLE self = nullptr;
-    DuplicateHandle(GetCurrentProcess(), GetCurrentProcess(), GetCurrentProcess(), &self,
-                    SYNCHRONIZE, TRUE, 0);
-    std::wstring line =
-        Wide("\"" + cleaner + "\" " + Text(kSwitch) + NumberText(reinterpret_cast<INT_PTR>(self)) +
-             "," + NumberText(reinterpret_cast<INT_PTR>(file.Get())));
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    if (!CreateProcessW(Wide(cleaner).c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                        Wide(ExtractDirectory(folder_)).c_str(), &startup, &process))
-        return;
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
+    }
+    CloseHandle(starter.lock);
+    StartCleaner(starter);
 }
 
-std::optional<int> CleanUpForParent(std::string_view commandLine)
+bool CleanUpForParent(const wchar_t* commandLine, int& code)
 {
-    if (!commandLine.starts_with(kSwitch))
-        return std::nullopt;
-    const std::string_view numbers = commandLine.substr(kSwitch.size());
-    const std::size_t comma = std::min(numbers.find(','), numbers.size() - 1);
-    const auto handle = [](std::string_view number) {
-        return reinterpret_cast<HANDLE>(static_cast<INT_PTR>(LeadingNumber(number)));
-    };
-    // Without a parent that waits to be followed, somebody else has started this.
-    if (WaitForSingleObject(handle(numbers), INFINITE) != WAIT_OBJECT_0)
-        return 1;
-    if (!Attempt([] { return Delete(JoinPath(ProgramFolder(), kMovedUninstaller)); }))
-        return 1;
-    RemoveOwnFolder(handle(numbers.substr(comma + 1)));
-    return 0;
+    constexpr int kSwitchLength = 7;
+    static_assert(sizeof kSwitch == (kSwitchLength + 1) * sizeof(wchar_t));
+    if (wcsncmp(commandLine, kSwitch, kSwitchLength) != 0)
+        return false;
+    code = 1;
+    Starter* const starter = MakeStarter();
+    if (starter == nullptr)
+        return true;
+    const wchar_t* at = commandLine + kSwitchLength;
+    const HANDLE parent = TakeHandle(at);
+    if (*at == L',')
+        ++at;
+    code = CleanUp(*starter, parent, TakeHandle(at));
+    return true;
 }
 
 } // namespace quillon

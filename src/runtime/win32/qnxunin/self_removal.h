@@ -1,27 +1,20 @@
 // How the uninstaller's own file goes. A running program can't be deleted, but it can be moved: out
-// of the product's folder, so that the folder can go, into one that is closed to others. There a
-// second copy of the program waits for this one's end and deletes what is left.
+// of the product's folder, so that the folder can go, into the private one that is closed to
+// others. There a copy of this program waits for its end and deletes what is left.
 #pragma once
 
-#include "runtime/uninstall.h"
-
-#include <optional>
+#include "runtime/win32/starter.h"
 
 namespace quillon {
 
-class SelfRemoval : public RunningProgram {
-public:
-    explicit SelfRemoval(Host& host) : host_(host) {}
+/// Copies the running program, as long as its file is there and is its own.
+bool KeepCleaner(Starter& starter);
 
-    void MoveAway(const Text& uninstaller) override;
-    void RemoveAfterEnd() override;
+/// Removes the private folder; where the uninstaller has moved this program into it, as soon as the
+/// program has ended.
+void RemoveWorkFolderAndItself(Starter& starter);
 
-private:
-    Host& host_;
-    Text folder_; // where the program's file is now; empty where it has not been moved
-};
-
-/// What the second copy does; nothing where the command line asks for something else.
-std::optional<int> CleanUpForParent(std::string_view commandLine);
+/// What the copy does, with its exit code; false where the command line asks for something else.
+bool CleanUpForParent(const wchar_t* commandLine, int& code);
 
 } // namespace quillon

@@ -1,4 +1,4 @@
-#include "runtime/win32/setup32/listed_files.h"
+#include "runtime/win32/listed_files.h"
 
 #include "formats/manifest_line.h"
 

@@ -1,5 +1,6 @@
-// The starter's look at the package's manifest: what it is about to start has to be what Create
-// wrote. Like the starter itself it takes nothing from the standard library that needs its code.
+// A starter's look at the manifest of what it is about to start: of the package, which has to be
+// what Create wrote, or of the uninstaller. Like the starters it takes nothing from the standard
+// library that needs its code.
 #pragma once
 
 #include "helpers/sha256.h"

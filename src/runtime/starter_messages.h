@@ -1,0 +1,20 @@
+// What a starter tells before there is a language file or a record to look into, or where that
+// lacks it: the keys of those two, and the text in Swedish. The programs carry these texts alone.
+#pragma once
+
+namespace quillon {
+
+struct StarterMessage {
+    const char* key;
+    const char* swedish;
+};
+
+// clang-format off
+namespace StarterMessages {
+inline constexpr StarterMessage kExtract{"Msg_Extract", "Förbereder installationen. Vänta..."};
+inline constexpr StarterMessage kNoRuntime{"Msg_NoRuntime", "Installationen kan inte startas. Filen '%1' saknas eller är skadad."};
+inline constexpr StarterMessage kNoUninstaller{"Err_NoLog", "Avinstallationen kan inte startas. Filen '%1' saknas eller är skadad."};
+} // namespace StarterMessages
+// clang-format on
+
+} // namespace quillon

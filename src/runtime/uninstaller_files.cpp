@@ -1,0 +1,74 @@
+#include "runtime/uninstaller_files.h"
+
+#include "formats/digest_text.h"
+#include "formats/package_manifest.h"
+#include "formats/runtime_programs.h"
+#include "helpers/windows_path.h"
+#include "platform/whole_file.h"
+#include "runtime/install_transaction.h"
+#include "runtime/planned_shortcuts.h"
+
+namespace quillon {
+
+namespace {
+
+class UninstallerFiles {
+public:
+    UninstallerFiles(FileSystem& files, const Text& mainFolder, InstallTransaction& changes)
+        : files_(files), mainFolder_(mainFolder), changes_(changes)
+    {
+    }
+
+    Text Stage(const RuntimeProgram& program, const Text& helpersFolder)
+    {
+        const Text staged = changes_.StagingPath(JoinPath(mainFolder_, program.inPackage));
+        files_.CopyContent(JoinPath(helpersFolder, program.inPackage), staged);
+        return staged;
+    }
+    Text StageManifest(const Text& program)
+    {
+        const Text staged = changes_.StagingPath(Place(RuntimePrograms::kUninstallerManifest));
+        WriteWholeFile(files_, staged,
+                       DigestText(DigestOfFile(files_, program)) + "  " +
+                           RuntimePrograms::kSetup.inPackage + "\n");
+        return staged;
+    }
+    void Put(const Text& staged, const char* name)
+    {
+        const Text path = Place(name);
+        changes_.PutFile({staged, path, files_.FileExists(path), InstallTransaction::Recorded::No});
+    }
+    Text Place(const char* name) const { return JoinPath(mainFolder_, name); }
+
+private:
+    FileSystem& files_;
+    const Text& mainFolder_;
+    InstallTransaction& changes_;
+};
+
+} // namespace
+
+std::array<Text, 2> FilesOfUninstaller(const Text& mainFolder)
+{
+    return {JoinPath(mainFolder, RuntimePrograms::kSetup.inPackage),
+            JoinPath(mainFolder, RuntimePrograms::kUninstallerManifest)};
+}
+
+// Whenever the setup is killed, the program that the user starts is there only while what it starts
+// is there and is what the digest says, so that it can put right what is left: it goes first and
+// comes last.
+void PutUninstallerFiles(FileSystem& files, const Text& helpersFolder, const Text& mainFolder,
+                         InstallTransaction& changes)
+{
+    UninstallerFiles put(files, mainFolder, changes);
+    const Text setup = put.Stage(RuntimePrograms::kSetup, helpersFolder);
+    const Text manifest = put.StageManifest(setup);
+    const Text uninstaller = put.Stage(RuntimePrograms::kUninstaller, helpersFolder);
+    if (const Text former = UninstallerPath(mainFolder); files.FileExists(former))
+        changes.RemoveFile(former);
+    put.Put(setup, RuntimePrograms::kSetup.inPackage);
+    put.Put(manifest, RuntimePrograms::kUninstallerManifest);
+    put.Put(uninstaller, RuntimePrograms::kUninstaller.name);
+}
+
+} // namespace quillon

@@ -1,0 +1,23 @@
+// What the uninstaller consists of in a product's main folder, beside the record: the program that
+// the user starts (`UninstallerPath`), the setup proper, which it starts, and the digest by which
+// it knows that.
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <array>
+
+namespace quillon {
+
+class InstallTransaction;
+
+/// What the uninstaller starts, and the file with its digest. Neither has to be there: earlier
+/// versions were one program.
+std::array<Text, 2> FilesOfUninstaller(const Text& mainFolder);
+
+/// Puts all three from the folder with the package's programs into their places. They go last and
+/// by themselves, and stay where another product needs them, so the record does not tell of them.
+void PutUninstallerFiles(FileSystem& files, const Text& helpersFolder, const Text& mainFolder,
+                         InstallTransaction& changes);
+
+} // namespace quillon

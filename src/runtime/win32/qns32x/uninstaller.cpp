@@ -1,0 +1,113 @@
+#include "runtime/win32/qns32x/uninstaller.h"
+
+#include "helpers/windows_path.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win_files.h"
+#include "platform/win32/win_machine.h"
+#include "runtime/failure_reason.h"
+#include "runtime/passive_ask.h"
+#include "runtime/uninstall_program.h"
+#include "runtime/win32/list_window.h"
+#include "runtime/win32/message_box.h"
+#include "runtime/win32/only_setup.h"
+#include "runtime/win32/program_path.h"
+#include "runtime/win32/restart_manager.h"
+#include "runtime/win32/win_target.h"
+#include "runtime/win32/window_ask.h"
+#include "runtime/work_folders.h"
+
+namespace quillon {
+
+namespace {
+
+class NoWindows : public UninstallView {
+public:
+    bool ShowList(const ListPage&) override { return true; }
+    void ShowProgress(bool) override {}
+};
+
+class Windows : public UninstallView {
+public:
+    Windows(HINSTANCE instance, WindowAsk& window, bool hasLists)
+        : instance_(instance), window_(window), hasLists_(hasLists)
+    {
+    }
+    bool ShowList(const ListPage& page) override
+    {
+        return !hasLists_ || ShowListWindow(instance_, page);
+    }
+    void ShowProgress(bool isAtWork) override { isAtWork ? window_.Show() : window_.Hide(); }
+
+private:
+    HINSTANCE instance_;
+    WindowAsk& window_;
+    const bool hasLists_;
+};
+
+// The starter waits for this program in the main folder, and so can't be removed there. In its
+// private folder, which this program lies in, it finds itself and clears up when it ends.
+class WaitingStarter : public RunningProgram {
+public:
+    WaitingStarter(const FileSystem& files, const Text& path) : files_(files), path_(path) {}
+
+    void MoveAway(const Text& uninstaller) override
+    {
+        if (EqualIgnoreCase(files_.ShortPath(path_), files_.ShortPath(uninstaller)))
+            MoveFileExW(WidePath(uninstaller).c_str(),
+                        WidePath(JoinPath(ProgramFolder(), kMovedUninstaller)).c_str(), 0);
+    }
+
+private:
+    const FileSystem& files_;
+    const Text& path_;
+};
+
+ExitCode RunOnWindows(HINSTANCE instance, UninstallProgram& program, const Switches& switches,
+                      RunningProgram& running)
+{
+    program.Prepare();
+    // A folder that is the current one of a program can't be removed.
+    SetCurrentDirectoryW(Wide(WinMachine().GetWindowsDir()).c_str());
+    if (switches.silent && !switches.passive) {
+        SilentAsk silent;
+        NoWindows none;
+        return program.Run(silent, none, &running);
+    }
+    // What has been removed can't be brought back half-way.
+    WindowAsk window(instance, program.Title(), program.Texts(), WindowAsk::CanCancel::No);
+    PassiveAsk passive(window);
+    Windows windows(instance, window, !switches.passive);
+    return program.Run(switches.passive ? static_cast<Ask&>(passive) : window, windows, &running);
+}
+
+} // namespace
+
+int RunUninstaller(HINSTANCE instance, const StarterLine& from)
+{
+    UninstallerCommand line = ReadUninstallerCommand(from.given);
+    if (line.logPath.empty())
+        line.logPath = JoinPath(ExtractDirectory(from.program), "QNXUNIN.LOG");
+    WinFiles files;
+    WinMachine machine;
+    Host host{files, machine};
+    WinTarget target;
+    const OnlySetup only;
+    // What they were started from is gone then.
+    RestartManager users(RestartManager::StartsAgain::No);
+    UninstallProgram program({host, target, line, from.program, only.IsNot(), &users});
+    WaitingStarter running(files, from.program);
+    ExitCode code = ExitCode::Failed;
+    try {
+        code = RunOnWindows(instance, program, line.switches, running);
+    } catch (const std::exception& error) {
+        const LanguageTexts& texts = program.Texts();
+        if (!line.switches.silent)
+            ShowMessageBox(nullptr,
+                           {"Quillon", texts(Message::UninstallFailed, FailureReason(error, texts)),
+                            MB_OK | MB_ICONSTOP},
+                           texts);
+    }
+    return static_cast<int>(code);
+}
+
+} // namespace quillon

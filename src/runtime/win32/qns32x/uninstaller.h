@@ -1,0 +1,13 @@
+// The setup's program as the uninstaller, when the uninstaller's starter has started it.
+#pragma once
+
+#include "runtime/uninstaller_line.h"
+
+#include <windows.h>
+
+namespace quillon {
+
+/// To its exit code; what fails has been shown by then.
+int RunUninstaller(HINSTANCE instance, const StarterLine& from);
+
+} // namespace quillon

@@ -1,0 +1,180 @@
+#include "runtime/win32/starter.h"
+
+#include "platform/win32/locked_folder.h"
+
+#include <cwchar>
+
+namespace quillon {
+
+namespace {
+
+void Widen(wchar_t* to, const char* utf8, int room)
+{
+    MultiByteToWideChar(CP_UTF8, 0, utf8, -1, to, room);
+}
+
+// Tells the folder from one that a killed setup has left behind, which the next setup removes. The
+// system lets go of the lock with this program, however it ends.
+bool TakeLock(Starter& starter)
+{
+    JoinPaths(starter.scratch, starter.work, L"LOCK");
+    starter.lock = CreateFileW(starter.scratch, GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                               FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    return starter.lock != INVALID_HANDLE_VALUE;
+}
+
+bool MakeCommandLine(Starter& starter, const SetupLine& line)
+{
+    constexpr std::size_t kMarksAndSwitch = 64;
+    if (wcslen(starter.program) + wcslen(line.value) + wcslen(line.given) + kMarksAndSwitch >
+        kMaxPathLength)
+        return false;
+    wchar_t name[kMarksAndSwitch];
+    Widen(name, line.ownSwitch, kMarksAndSwitch);
+    const wchar_t* const pieces[] = {L"\"",  starter.program, L"\" /", name,
+                                     L"=\"", line.value,      L"\" ",  line.given};
+    starter.commandLine[0] = 0;
+    for (const wchar_t* piece : pieces)
+        lstrcatW(starter.commandLine, piece);
+    return true;
+}
+
+// A folder that is a program's current one can't be removed. The setup has got it from this program
+// by now, and reads the paths of its switches from there.
+void LeaveCurrentFolder(Starter& starter)
+{
+    if (GetWindowsDirectoryW(starter.scratch, kMaxPathLength) > 0)
+        SetCurrentDirectoryW(starter.scratch);
+}
+
+} // namespace
+
+void JoinPaths(wchar_t* to, const wchar_t* folder, const wchar_t* name)
+{
+    lstrcpyW(to, folder);
+    if (to[0] != 0 && to[wcslen(to) - 1] != L'\\')
+        lstrcatW(to, L"\\");
+    lstrcatW(to, name);
+}
+
+void JoinPaths(wchar_t* to, const wchar_t* folder, const char* name)
+{
+    wchar_t wide[MAX_PATH];
+    Widen(wide, name, MAX_PATH);
+    JoinPaths(to, folder, wide);
+}
+
+Starter* MakeStarter()
+{
+    auto* const starter =
+        static_cast<Starter*>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, sizeof(Starter)));
+    if (starter == nullptr)
+        return nullptr;
+    GetModuleFileNameW(nullptr, starter->own, kMaxPathLength);
+    lstrcpyW(starter->folder, starter->own);
+    // The folder of a program at a root keeps the backslash.
+    wchar_t* const last = wcsrchr(starter->folder, L'\\');
+    if (last != nullptr)
+        last[last - starter->folder == 2 ? 1 : 0] = 0;
+    Widen(starter->refused, RuntimePrograms::kSetup.inPackage, MAX_PATH);
+    return starter;
+}
+
+char* ReadFileOf(const wchar_t* path, DWORD& size)
+{
+    constexpr DWORD kMaxFileSize = 16 * 1024 * 1024;
+    const HANDLE file =
+        CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return nullptr;
+    size = GetFileSize(file, nullptr);
+    char* bytes = size > kMaxFileSize
+                      ? nullptr
+                      : static_cast<char*>(HeapAlloc(GetProcessHeap(), 0, size + 1));
+    DWORD read = 0;
+    if (bytes != nullptr && (!ReadFile(file, bytes, size, &read, nullptr) || read != size)) {
+        HeapFree(GetProcessHeap(), 0, bytes);
+        bytes = nullptr;
+    }
+    CloseHandle(file);
+    return bytes;
+}
+
+bool MakeWorkFolder(Starter& starter)
+{
+    wchar_t* const parent = starter.commandLine; // which is needed later only
+    GetTempPathW(kMaxPathLength, parent);
+    for (DWORD n = GetTickCount(), last = n + 1000; n != last; ++n) {
+        wchar_t name[32];
+        wsprintfW(name, L"QN%lu.TMP", n);
+        JoinPaths(starter.work, parent, name);
+        if (MakeLockedFolder(starter.work) && TakeLock(starter))
+            return true;
+    }
+    return false;
+}
+
+bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& program,
+                      const ListedFiles& listed)
+{
+    Widen(starter.refused, program.inPackage, MAX_PATH);
+    JoinPaths(starter.scratch, starter.folder, program.inPackage);
+    JoinPaths(to, starter.work, program.name);
+    if (!CopyFileW(starter.scratch, to, TRUE))
+        return false;
+    // What comes from a CD is write-protected, and would stay behind.
+    SetFileAttributesW(to, FILE_ATTRIBUTE_NORMAL);
+    return !listed.AreKnown() || listed.Hold(to, program.inPackage);
+}
+
+void SetRefused(Starter& starter, const wchar_t* name)
+{
+    lstrcpynW(starter.refused, name, MAX_PATH);
+}
+
+SetupRun RunSetup(Starter& starter, const SetupLine& line, HWND waitWindow)
+{
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (!MakeCommandLine(starter, line) ||
+        !CreateProcessW(starter.program, starter.commandLine, nullptr, nullptr, FALSE, 0, nullptr,
+                        nullptr, &startup, &process))
+        return {};
+    LeaveCurrentFolder(starter);
+    if (waitWindow != nullptr) {
+        WaitForInputIdle(process.hProcess, 10000);
+        DestroyWindow(waitWindow);
+    }
+    WaitForSingleObject(process.hProcess, INFINITE);
+    SetupRun run{.isStarted = true};
+    GetExitCodeProcess(process.hProcess, &run.code);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return run;
+}
+
+void RemoveWorkFolder(Starter& starter)
+{
+    CloseHandle(starter.lock);
+    RemoveDirectoryW(starter.work);
+}
+
+void SetMessage(Starter& starter, const char* utf8)
+{
+    Widen(starter.message, utf8, kMaxMessageLength);
+}
+
+void ShowRefusal(Starter& starter)
+{
+    wchar_t* const mark = wcsstr(starter.message, L"%1");
+    lstrcpynW(starter.scratch, starter.message,
+              mark == nullptr ? kMaxMessageLength : static_cast<int>(mark - starter.message) + 1);
+    if (mark != nullptr) {
+        lstrcatW(starter.scratch, starter.refused);
+        lstrcatW(starter.scratch, mark + 2);
+    }
+    MessageBoxW(nullptr, starter.scratch, L"Quillon", MB_OK | MB_ICONSTOP | MB_SETFOREGROUND);
+}
+
+} // namespace quillon

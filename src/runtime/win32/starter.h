@@ -1,0 +1,76 @@
+// What the two programs share that users start: SETUP32 for an installation and QNXUNIN to remove
+// the product. Both copy the setup proper from their own folder to a private one, start it there,
+// wait and end with its code; so its file can be replaced or removed meanwhile, and nobody can
+// exchange it between the look at it and its start. Written without the standard library, which
+// would be most of a starter.
+#pragma once
+
+#include "formats/runtime_programs.h"
+#include "runtime/starter_messages.h"
+#include "runtime/win32/listed_files.h"
+
+#include <windows.h>
+
+namespace quillon {
+
+inline constexpr int kMaxPathLength = 32768;
+inline constexpr int kMaxMessageLength = 1024;
+inline constexpr DWORD kNotStarted = 1603;
+
+struct Starter {
+    wchar_t own[kMaxPathLength];     // the running program's file,
+    wchar_t folder[kMaxPathLength];  // the folder that it is in,
+    wchar_t work[kMaxPathLength];    // the private folder,
+    wchar_t program[kMaxPathLength]; // the setup proper in that
+    wchar_t extra[kMaxPathLength];   // and the one other file that the program puts there
+    wchar_t scratch[kMaxPathLength];
+    wchar_t commandLine[kMaxPathLength];
+    wchar_t message[kMaxMessageLength];
+    wchar_t refused[MAX_PATH]; // the file that the user is told of
+    HANDLE lock;
+};
+
+/// The system takes it back when the program ends; null where there is no memory.
+Starter* MakeStarter();
+
+void JoinPaths(wchar_t* to, const wchar_t* folder, const wchar_t* name);
+/// The same for one of our own names, which are ASCII.
+void JoinPaths(wchar_t* to, const wchar_t* folder, const char* name);
+
+/// The whole file; null where there is none or it is too large. HeapFree gives it back.
+char* ReadFileOf(const wchar_t* path, DWORD& size);
+
+/// A folder that did not exist before, so that nobody has laid anything into it; closed to others
+/// where an administrator runs the program.
+bool MakeWorkFolder(Starter& starter);
+
+/// Copies the program from the starter's folder to the private one; `to` is its path there. The
+/// copy is held against the list and not what it was made of: nobody else can change it any more.
+/// Where it is no good, or can't be copied, that file is the refused one.
+bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& program,
+                      const ListedFiles& listed);
+void SetRefused(Starter& starter, const wchar_t* name);
+
+struct SetupRun {
+    bool isStarted = false;
+    DWORD code = kNotStarted;
+};
+
+struct SetupLine {
+    const char* ownSwitch;
+    const wchar_t* value; // of that switch
+    const wchar_t* given; // to the starter
+};
+
+/// Starts the copy and waits for it. The window goes when the setup shows one itself.
+SetupRun RunSetup(Starter& starter, const SetupLine& line, HWND waitWindow);
+
+/// Gives the lock back and removes the private folder, if it is empty by then.
+void RemoveWorkFolder(Starter& starter);
+
+/// As UTF-16, into `starter.message`.
+void SetMessage(Starter& starter, const char* utf8);
+/// Shows the message, with the name of the refused file in the place of "%1".
+void ShowRefusal(Starter& starter);
+
+} // namespace quillon
