@@ -5,33 +5,22 @@
 #
 #   bench/install.sh [WORK-FOLDER]     default: build/bench-install
 #
-# FILES=2000 is how many files the larger product has; the smaller has half of them. QUILLON_WINE=32
-# takes the programs that ship (tests/wine/prepare-wine32.sh), 64 their twins; the work folder has to
-# lie where that Wine sees it.
+# FILES=2000 is how many files the larger product has; the smaller has half of them. QUILLON_WINE and
+# the work folder: bench/wine_setup.sh.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/prepare.sh
 
-bits=${QUILLON_WINE:-64}
 files=${FILES:-2000}
-root=
-[ "$bits" = 32 ] && root=$(tests/wine/prepare-wine32.sh)
-work=${1:-${root:-$PWD/build}/$([ -z "$root" ] || echo tmp/)bench-install}
-rm -rf "$work"
-mkdir -p "$work"
-work=$(cd "$work" && pwd)
-quillonc=$PWD/build/release/quillon/quillonc
-programs=build/release/$([ "$bits" = 32 ] && echo quillon || echo runtime-x86_64)/Release
-export QUILLON_DRIVE_C=$work/c QUILLON_REGISTRY='' QUILLON_DRIVES="S=$work"
+. bench/wine_setup.sh
+make_work bench-install "$@"
 failed=0
 
-on_z() { echo "Z:${1#"$root"}" | tr / '\\'; }
-
-# make_package COUNT VERSION: every file holds a little that differs, and is newer in the next version.
-make_package() {
+# make_version COUNT VERSION: every file holds a little that differs, and is newer in the next version.
+make_version() {
     local count=$1 version=$2 name=produkt$1
     local sources=$work/$name package=$work/$name-$2
-    mkdir -p "$sources" "$package"
+    mkdir -p "$sources"
     seq "$count" | awk -v dir="$sources" -v version="$version" \
         '{ file = sprintf("%s/fil%05d.txt", dir, $1); print "fil", $1, "version", version > file; close(file) }'
     find "$sources" -type f -exec touch -d "200$version-01-01 12:00" {} +
@@ -39,15 +28,8 @@ make_package() {
     "$quillonc" new "$work/$name.qnp" --name "$name" --destination "%PROGRAMFILES\\$name" >/dev/null
     "$quillonc" set "$work/$name.qnp" InstallOptions.UninstallSupport=1 >/dev/null
     "$quillonc" add-tree "$work/$name.qnp" "$sources" --to %DESTDIR >/dev/null
-    "$quillonc" create "$work/$name.qnp" --to "$package" --medium cd --continue >/dev/null
-    cp "$programs/SETUP32.EXE" "$package/SETUP.EXE"
-    cp "$programs/Small32/QNS32X.EXE" "$package/QNS32X.BIN"
-    cp "$programs/DUNZIP32.DLL" "$package/DUNZIP32.DLL"
-    cp "$programs/QNXUNIN.EXE" "$package/QNXUNIN.BIN"
-    rm -f "$package/PACKAGE.SHA256" # its programs have just been changed
+    make_package "$work/$name.qnp" "$package"
 }
-
-wine() { tests/wine/run-wine.sh "$bits" "$work/prefix" "$@"; }
 
 # took COUNT VERSION: seconds of a silent installation.
 took() {
@@ -68,13 +50,13 @@ judge() {
 }
 
 half=$((files / 2))
-wine wineboot --init >"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
+make_prefix
 for count in "$half" "$files"; do
     for version in 1 2; do
-        make_package "$count" "$version"
+        make_version "$count" "$version"
     done
 done
-make_package 10 1
+make_version 10 1
 took 10 1 >/dev/null # the first program in a new prefix waits for Wine's services
 small_fresh=$(took "$half" 1)
 small_upgrade=$(took "$half" 2)

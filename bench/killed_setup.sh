@@ -1,62 +1,81 @@
 #!/usr/bin/env bash
-# Kills a setup under Wine at random moments, and at every third turn its uninstaller too, and looks
-# whether the next run of the same setup or of the uninstaller puts the machine right: the prefix is
-# compared file by file, and the registry line by line. Ends with 1 where it is not.
+# Kills a setup under Wine at random moments, a first one or an upgrade, and its uninstaller too, and
+# looks whether the next run of the same setup or of the uninstaller puts the machine right: all files
+# are compared, and the registry line by line. Ends with 1 where it is not.
 #
 #   bench/killed_setup.sh [WORK-FOLDER]     default: build/bench-killed
 #
-# TURNS=100 is how often, SEED=n repeats a run (it is printed), QUILLON_WINE=32 takes the programs that
-# ship (tests/wine/prepare-wine32.sh), 64 their twins; the work folder has to lie where that Wine sees it.
+# TURNS=100 is how often, SEED=n repeats a run (it is printed). QUILLON_WINE and the work folder:
+# bench/wine_setup.sh.
+#
+# Wine's own programs go on, so that a turn takes a second or two. What is killed is told by the
+# prefix in its environment and by its name; all of it dies by one call, so that no part of the setup
+# sees another one end.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/prepare.sh
+. bench/wine_setup.sh
 
-bits=${QUILLON_WINE:-64}
 turns=${TURNS:-100}
 RANDOM=${SEED:=20041}
-root=
-[ "$bits" = 32 ] && root=$(tests/wine/prepare-wine32.sh)
-work=${1:-${root:-$PWD/build}/$([ -z "$root" ] || echo tmp/)bench-killed}
-rm -rf "$work"
-mkdir -p "$work/files" "$work/package" "$work/was"
-work=$(cd "$work" && pwd)
-programs=build/release/$([ "$bits" = 32 ] && echo quillon || echo runtime-x86_64)/Release
-quillonc=$PWD/build/release/quillon/quillonc
-export QUILLON_DRIVE_C=$work/c QUILLON_REGISTRY='' QUILLON_DRIVES="S=$work"
+make_work bench-killed "$@"
+mkdir "$work/was"
 main="$work/prefix/drive_c/Program Files/Dödad"
 failed=0
 
-on_z() { echo "Z:${1#"$root"}" | tr / '\\'; }
-wine() { tests/wine/run-wine.sh "$bits" "$work/prefix" "$@"; }
-
-make_package() {
-    seq 300 | awk -v dir="$work/files" '{ file = sprintf("%s/fil%03d.txt", dir, $1)
-        for (i = 0; i < $1 * 4; ++i) print "rad", i, "i fil", $1 > file; close(file) }'
-    "$quillonc" new "$work/dodad.qnp" --name Dödad --destination '%PROGRAMFILES\Dödad' >/dev/null
-    "$quillonc" set "$work/dodad.qnp" InstallOptions.UninstallSupport=1 >/dev/null
-    "$quillonc" add-tree "$work/dodad.qnp" "$work/files" --to %DESTDIR >/dev/null
-    "$quillonc" create "$work/dodad.qnp" --to "$work/package" --medium cd --continue >/dev/null
-    cp "$programs/SETUP32.EXE" "$work/package/SETUP.EXE"
-    cp "$programs/Small32/QNS32X.EXE" "$work/package/QNS32X.BIN"
-    cp "$programs/DUNZIP32.DLL" "$work/package/DUNZIP32.DLL"
-    cp "$programs/QNXUNIN.EXE" "$work/package/QNXUNIN.BIN"
-    rm -f "$work/package/PACKAGE.SHA256" # its programs have just been changed
+# make_version NUMBER: of the second one, half of the files are others, some are new and some are gone.
+make_version() {
+    local version=$1 project=$work/dodad-$1.qnp sources=$work/files-$1
+    mkdir -p "$sources"/{a,b,c,"$version"}
+    seq 120 | awk -v dir="$sources" -v version="$version" '{
+        folder = $1 % 10 == 0 ? version : substr("abc", $1 % 3 + 1, 1)
+        file = sprintf("%s/%s/fil%03d.txt", dir, folder, $1)
+        for (i = 0; i < $1 * 4; ++i) print "rad", i, "i fil", $1, $1 % 2 ? version : "" > file
+        close(file) }'
+    find "$sources" -type f -exec touch -d "200$version-01-01 12:00" {} +
+    "$quillonc" new "$project" --name Dödad --destination '%PROGRAMFILES\Dödad' >/dev/null
+    "$quillonc" set "$project" InstallOptions.UninstallSupport=1 InstallOptions.CreateUninstallIcon=1 \
+        ProgramGroup.ProgramGroup=Grupp >/dev/null
+    "$quillonc" add-tree "$project" "$sources" --to %DESTDIR >/dev/null
+    make_package "$project" "$work/package-$version"
 }
 
-# What is on the machine: every file with its content, every folder, every line of the registry but for times.
+processes() {
+    local prefix=${work#"$root"}/prefix
+    { grep -lzxF "WINEPREFIX=$prefix" /proc/[0-9]*/environ 2>/dev/null || true; } \
+        | sed 's/environ$/cmdline/' | { xargs -r grep -lE '(SETUP|QNS32X|QNREG32|QNXUNIN)\.' 2>/dev/null || true; } \
+        | cut -d / -f 3
+}
+
+# The uninstaller clears up behind its own end.
+wait_for_end() { while [ -n "$(processes)" ]; do sleep 0.02; done; }
+
+# What is on the machine: every file of its own with its content, every other one with its size and
+# time, every folder, the registry but for what Wine writes as it goes.
 state() {
-    wine wineserver -w || true # the uninstaller clears up behind its own end
+    wait_for_end
     (cd "$work/prefix/drive_c" && find . -type d ! -name 'QN*.TMP' -print &&
-        find . -type f ! -path '*/QN*.TMP/*' ! -name QNXUNIN.LOG -print0 | xargs -0 sha1sum) | sort
-    # Wine looks for its devices anew at each start, and notes them or not before it is killed.
-    sed -e 's/^\(\[.*\]\) [0-9]*$/\1/' -e '/^#/d' -e '/^$/d' -e '/"DriverDateData"/d' -e '/NetworkCards\]/d' \
-        -e '/^@="\(Display adapters\|Monitors\)"/d' "$work"/prefix/{system,user}.reg
+        find windows -type f ! -path '*/QN*.TMP/*' -printf '%p %s %T@\n' &&
+        find . -path ./windows -prune -o -type f ! -path '*/QN*.TMP/*' ! -name QNXUNIN.LOG -print0 | xargs -0 sha1sum) | sort
+    for key in HKLM\\Software HKLM\\System\\CurrentControlSet\\Control HKCU; do
+        wine reg export "$key" "$(on_z "$work/registry")" /y >"$work/log" 2>&1
+        iconv -f UTF-16 -t UTF-8 "$work/registry" | tr -d '\r'
+    done
     # One behind a setup that was killed after its commit tells of two installations.
     [ ! -e "$main/QNXUNIN.LOG" ] || sort -u "$main/QNXUNIN.LOG" | grep '^FILE\|^FOLDER'
 }
 
-setup() { wine "$(on_z "$work/package/SETUP.EXE")" /S; }
+setup() { wine "$(on_z "$work/package-$1/SETUP.EXE")" /S; }
 uninstall() { wine 'C:\Program Files\Dödad\QNXUNIN.EXE' /S; }
+
+# milliseconds COMMAND...: how long it takes.
+milliseconds() {
+    local began
+    began=$(date +%s%N)
+    "$@" >"$work/log" 2>&1
+    wait_for_end
+    echo $((($(date +%s%N) - began) / 1000000))
+}
 
 # kill_at MOMENT COMMAND: lets it run for so many milliseconds.
 kill_at() {
@@ -65,43 +84,62 @@ kill_at() {
     "$@" >"$work/log" 2>&1 &
     local running=$!
     sleep "$(awk -v ms="$moment" 'BEGIN { printf "%.3f", ms / 1000 }')"
-    wine wineserver -k || true # all programs die at once; the server alone saves the registry
+    local victims
+    victims=$(processes)
+    # shellcheck disable=SC2086
+    [ -z "$victims" ] || kill -9 $victims 2>/dev/null || true
     wait "$running" 2>/dev/null || true
+    wait_for_end
 }
 
+random_below() { echo $(((RANDOM * 32768 + RANDOM) % $1)); }
+
+# put_right WHAT COMMAND...
+put_right() { "$@" >"$work/log" 2>&1 || { echo "turn $turn: $* ended with $?"; failed=$((failed + 1)); }; }
+
 compare() {
-    if ! diff "$work/was/$2" <(state) >"$work/difference"; then
-        echo "turn $1, killed after $moment ms: not as it was $2"
+    if ! diff "$work/was/$1" <(state) >"$work/difference"; then
+        echo "turn $turn, killed after $moment ms: not as it was $1"
         head -n 20 "$work/difference"
         failed=$((failed + 1))
     fi
 }
 
-make_package
-wine wineboot --init >"$work/log" 2>&1
-setup && uninstall # Wine makes some folders and keys at first use
-state >"$work/was/before"
-began=$(date +%s%N)
-setup
-length=$((($(date +%s%N) - began) / 1000000))
-state >"$work/was/installed"
-uninstall
-state >/dev/null
-echo "seed $SEED, $turns turns, an installation takes $length ms"
-for turn in $(seq "$turns"); do
-    moment=$(((RANDOM * 32768 + RANDOM) % length))
-    kill_at "$moment" setup
-    if [ $((turn % 2)) = 1 ] || [ ! -e "$main/QNXUNIN.EXE" ]; then
-        setup || echo "turn $turn: the setup ended with $?"
-        compare "$turn" installed
-        [ $((turn % 3)) = 0 ] && kill_at $((moment / 2)) uninstall
+# At each even turn the killed setup is one of a new version over the former one.
+one_turn() {
+    local version=1 length=$fresh
+    if [ $((turn % 2)) = 0 ]; then
+        put_right setup 1
+        version=2 length=$upgrade
+    fi
+    moment=$(random_below "$length")
+    kill_at "$moment" setup "$version"
+    if [ $((turn % 4)) -lt 2 ] || [ ! -e "$main/QNXUNIN.EXE" ]; then
+        put_right setup "$version"
+        compare "installed-$version"
+        [ $((turn % 3)) != 0 ] || kill_at "$(random_below "$removal")" uninstall
     fi
     # An uninstaller that was killed behind its last step has left nothing to begin again.
-    if [ -e "$main/QNXUNIN.EXE" ]; then
-        uninstall || echo "turn $turn: the uninstaller ended with $?"
-    fi
-    compare "$turn" before
-done
+    [ ! -e "$main/QNXUNIN.EXE" ] || put_right uninstall
+    compare before
+}
+
+make_version 1
+make_version 2
+make_prefix
 wine wineserver -k || true
+wine wineserver -p # stays between two programs
+trap 'wine wineserver -k || true' EXIT
+setup 1 && setup 2 && uninstall # Wine makes some folders and keys at first use
+state >"$work/was/before"
+fresh=$(milliseconds setup 1)
+state >"$work/was/installed-1"
+upgrade=$(milliseconds setup 2)
+state >"$work/was/installed-2"
+removal=$(milliseconds uninstall)
+echo "seed $SEED, $turns turns; a setup takes $fresh ms, an upgrade $upgrade ms, an uninstaller $removal ms"
+for turn in $(seq "$turns"); do
+    one_turn
+done
 echo "$turns turns, $failed differences"
 [ "$failed" = 0 ]

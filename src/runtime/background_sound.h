@@ -31,6 +31,33 @@ inline const SoundKind* KindOfSound(std::string_view file)
     return nullptr;
 }
 
+/// What opens the file for the commands of `PlayOverAndOver`.
+inline Text OpenSoundCommand(const SoundKind& kind, std::string_view path)
+{
+    return "open \"" + Text(path) + "\" type " + kind.device + " alias quillon";
+}
+
+/// Plays a sound until `isStopped(wait)` says so, which is asked at least once in each round, with
+/// whether there is time to wait. `send(command, answer)` hands a command of the media control
+/// interface to Windows; `answer` is null where none is wanted. False where the sound can't be
+/// played.
+template <class Send, class IsStopped>
+bool PlayOverAndOver(const Text& open, Send send, IsStopped isStopped)
+{
+    if (!send(open, nullptr))
+        return false;
+    bool isPlayed = true;
+    while (isPlayed && !isStopped(false)) {
+        isPlayed = send("play quillon from 0", nullptr);
+        Text mode = "playing";
+        while (isPlayed && EqualIgnoreCase(mode, "playing") && !isStopped(true))
+            if (!send("status quillon mode", &mode))
+                mode.clear();
+    }
+    send("close quillon", nullptr);
+    return isPlayed;
+}
+
 /// A sound is read into memory once.
 inline constexpr std::uint64_t kMaxSoundSize = 16 * 1024 * 1024;
 

@@ -22,6 +22,7 @@ enum class ExitCode : int {
     RestartStarted = 1641, // done, and the machine starts anew
     RestartNeeded = 3010,  // done, but the product is whole only after the next start
     PrerequisiteMissing = 20002,
+    FileInUse = 20003, // by a program that goes on running; undone
 };
 
 /// Ends the installation. `what` is for the user and the log, in the user's language.

@@ -22,6 +22,8 @@ Message MessageOf(int number)
         return Message::ReasonNoAccess;
     case ErrorNumber::kDiskFull:
         return Message::ReasonDiskFull;
+    case ErrorNumber::kFileInUse:
+        return Message::ReasonInUse;
     default:
         return Message::Count;
     }

@@ -9,10 +9,11 @@ namespace quillon {
 
 namespace {
 
-// A file that someone holds open can be told by nothing but the refusal to move it.
-bool IsInUse(const RunError& error)
+// Where a program runs from a share or an old disk, its file is refused as one without rights is.
+bool MayBeInUse(const RunError& error)
 {
-    return error.Number() == ErrorNumber::kPermissionDenied ||
+    return error.Number() == ErrorNumber::kFileInUse ||
+           error.Number() == ErrorNumber::kPermissionDenied ||
            error.Number() == ErrorNumber::kPathFileAccess;
 }
 
@@ -160,7 +161,7 @@ bool FileInstaller::Put(const PlannedFile& file, const Text& staged, bool replac
         input_.log.Line(Message::LogCopies, file.path);
         return true;
     } catch (const RunError& error) {
-        if (!IsInUse(error) || !HasOption(options, CopyLetter::kActiveFile))
+        if (!MayBeInUse(error) || !HasOption(options, CopyLetter::kActiveFile))
             throw;
         changes_.PutFileAtRestart(placed);
         input_.log.Line(Message::LogReplacesAtRestart, file.path);

@@ -51,6 +51,14 @@ Text InstallTransaction::StagingPath(const Text& path)
     return transaction_.TempPath(ExtractDirectory(path));
 }
 
+// A failure names the place, not the temporary file.
+void InstallTransaction::Move(const Text& from, const Text& to, const Text& place)
+{
+    std::optional<RunError> failure;
+    if (RunErrorNumber([&] { host_.files.Rename(from, to); }, failure) != ErrorNumber::kNone)
+        throw RunError(failure->Number(), place);
+}
+
 void InstallTransaction::MoveAside(const Text& path)
 {
     // After the file itself on the way back.
@@ -60,7 +68,7 @@ void InstallTransaction::MoveAside(const Text& path)
         transaction_.Note(record::AnnouncedBefore{path});
     const Text aside = StagingPath(path);
     transaction_.Note(record::MovedAside{path, aside});
-    host_.files.Rename(path, aside);
+    Move(path, aside, path);
     movedAside_.insert(LowerCase(path));
 }
 
@@ -82,14 +90,10 @@ void InstallTransaction::RecordFile(const Text& path, bool existed)
 
 void InstallTransaction::PutFile(const NewFile& file)
 {
-    try {
-        if (file.replaces)
-            MoveAside(file.path);
-        NoteNewFile(file.path);
-        host_.files.Rename(file.staged, file.path);
-    } catch (const RunError& error) {
-        throw RunError(error.Number(), file.path);
-    }
+    if (file.replaces)
+        MoveAside(file.path);
+    NoteNewFile(file.path);
+    Move(file.staged, file.path, file.path);
     if (file.recorded == Recorded::Yes)
         RecordFile(file.path, file.replaces);
 }
@@ -117,6 +121,11 @@ void InstallTransaction::KeepBackup(const Text& path)
 void InstallTransaction::RemoveFile(const Text& path)
 {
     MoveAside(path);
+}
+
+void InstallTransaction::RemoveFolderAtEnd(const Text& folder)
+{
+    transaction_.Note(record::LeavingFolder{folder});
 }
 
 void InstallTransaction::MakeKey(const RegistryKey& key)
@@ -198,32 +207,10 @@ void InstallTransaction::Commit()
 void InstallTransaction::CleanUp()
 {
     quillon::CleanUp({host_, target_, log_}, transaction_.Steps());
-    RemoveLeavingFolders();
     std::optional<RunError> failure;
     RunErrorNumber([&] { transaction_.End(); }, failure);
     if (failure)
         log_.CannotRemove(failure->Path(), *failure);
-}
-
-void InstallTransaction::RemoveLeavingFolders()
-{
-    for (const Text& folder : leaving_) {
-        if (!host_.files.DirExists(folder))
-            continue;
-        std::optional<RunError> failure;
-        RunErrorNumber(
-            [&] {
-                if (host_.files.List(folder).empty()) {
-                    host_.files.RemoveFolder(folder);
-                    log_.Line(Message::LogRemovesFolder, folder);
-                } else {
-                    log_.Skipped(folder, {Message::ReasonFolderNotEmpty});
-                }
-            },
-            failure);
-        if (failure)
-            log_.CannotRemove(folder, *failure);
-    }
 }
 
 bool InstallTransaction::Undo()

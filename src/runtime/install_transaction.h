@@ -34,7 +34,6 @@ public:
     /// A name under which a file for that place can be written before it is put there. Its folder
     /// exists.
     Text StagingPath(const Text& path);
-    /// A failure names the place, not the temporary file.
     void PutFile(const NewFile& file);
     /// The same for a file that is in use now and free when the machine starts next.
     void PutFileAtRestart(const NewFile& file);
@@ -42,7 +41,7 @@ public:
     void KeepBackup(const Text& path);
     void RemoveFile(const Text& path);
     /// When everything is done, if the folder is empty by then: what was put aside lies in it.
-    void RemoveFolderAtEnd(const Text& folder) { leaving_.push_back(folder); }
+    void RemoveFolderAtEnd(const Text& folder);
 
     void MakeKey(const RegistryKey& key);
     void WriteValue(const RegistryKey& key, const Text& name, const RegistryData& data,
@@ -65,8 +64,8 @@ public:
     bool Undo();
 
 private:
-    void RemoveLeavingFolders();
     void RecordFile(const Text& path, bool existed);
+    void Move(const Text& from, const Text& to, const Text& place);
     void MoveAside(const Text& path);
     void NoteNewFile(const Text& path);
 
@@ -77,7 +76,6 @@ private:
     TransactionJournal transaction_;
     std::unordered_set<Text> movedAside_; // places whose former file is aside, in lower case
     std::vector<record::AtRestart> atRestart_;
-    std::vector<Text> leaving_;
 };
 
 } // namespace quillon

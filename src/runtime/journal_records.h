@@ -189,6 +189,12 @@ struct AnnouncedBefore {
     bool operator==(const AnnouncedBefore&) const = default;
 };
 
+/// The folder goes when everything else is done, if it is empty by then.
+struct LeavingFolder {
+    Text path;
+    bool operator==(const LeavingFolder&) const = default;
+};
+
 /// The transaction is through: what is left to do is to clear away.
 struct Committed {
     bool operator==(const Committed&) const = default;
@@ -196,14 +202,13 @@ struct Committed {
 
 } // namespace record
 
-using JournalRecord =
-    std::variant<record::Product, record::Message, record::Folder, record::Place, record::File,
-                 record::Replaced, record::Backup, record::Shared, record::Font, record::Registered,
-                 record::AtRestart, record::Key, record::Value, record::UninstallKey,
-                 record::UninstallValue, record::IniFile, record::IniOpenEnd, record::IniSection,
-                 record::IniValue, record::StartupLine, record::Content, record::TempFolder,
-                 record::MovedAside, record::FormerValue, record::RemovedKey,
-                 record::RegisteredBefore, record::AnnouncedBefore, record::Committed>;
+using JournalRecord = std::variant<
+    record::Product, record::Message, record::Folder, record::Place, record::File, record::Replaced,
+    record::Backup, record::Shared, record::Font, record::Registered, record::AtRestart,
+    record::Key, record::Value, record::UninstallKey, record::UninstallValue, record::IniFile,
+    record::IniOpenEnd, record::IniSection, record::IniValue, record::StartupLine, record::Content,
+    record::TempFolder, record::MovedAside, record::FormerValue, record::RemovedKey,
+    record::RegisteredBefore, record::AnnouncedBefore, record::LeavingFolder, record::Committed>;
 
 /// The path or the registry key that a record is about; empty where it is about none.
 Text SubjectOf(const JournalRecord& record);

@@ -48,6 +48,7 @@ constexpr std::tuple kRows{
     Line("STARTUPLINE",      &record::StartupLine::path, &record::StartupLine::line),
     Line("CONTENT",          &record::Content::path, &record::Content::size, &record::Content::digest),
     Line("TEMPFOLDER",       &record::TempFolder::path),
+    Line("LEAVING",          &record::LeavingFolder::path),
     Line("ASIDE",            &record::MovedAside::path, &record::MovedAside::aside),
     Line("FORMERVALUE",      &record::FormerValue::key, &record::FormerValue::name, &record::FormerValue::former),
     Line("REMOVEDKEY",       &record::RemovedKey::key),

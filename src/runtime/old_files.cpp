@@ -31,14 +31,19 @@ private:
     bool LeadsThroughLink(const Text& path) const;
     bool IsAsInstalled(const record::Content& content) const;
     void KeepContents(const std::set<Text>& gone) const;
+    void KeepFolder(const Text& folder);
+    void NoteFolders(const Text& path);
+    void RemoveFolders();
 
     const OldFilesWork& work_;
     const FileSystem& files_;
     const KnownContents& contents_;
     const std::vector<JournalRecord>& records_;
     const std::size_t earlier_;
-    std::set<Text> written_; // by this installation; all in lower case
-    std::set<Text> wanted_;  // rows of the new version, installed or not
+    std::set<Text> written_;       // by this installation; all in lower case
+    std::set<Text> wanted_;        // rows of the new version, installed or not
+    std::set<Text> kept_;          // folders that the new version needs
+    std::map<Text, Text> leaving_; // folders that are empty afterwards, perhaps
 };
 
 void OldFiles::CollectNewOnes()
@@ -51,6 +56,19 @@ void OldFiles::CollectNewOnes()
         wanted_.insert(LowerCase(file.path));
     for (const SkippedPart& part : work_.plan.skipped)
         wanted_.insert(LowerCase(part.what));
+    for (const std::set<Text>* const paths : {&written_, &wanted_})
+        for (const Text& path : *paths)
+            KeepFolder(ExtractDirectory(path));
+    for (const Text& folder : work_.plan.folders)
+        KeepFolder(LowerCase(folder));
+    KeepFolder(LowerCase(work_.plan.mainFolder));
+}
+
+// With those above it.
+void OldFiles::KeepFolder(const Text& folder)
+{
+    for (Text at = folder; kept_.insert(at).second;)
+        at = ExtractDirectory(at);
 }
 
 void OldFiles::RemoveAll()
@@ -63,9 +81,12 @@ void OldFiles::RemoveAll()
             gone.count(key) > 0)
             continue;
         // Taken along, since the record may grow meanwhile.
-        if (const Text path = file->path; IsGone(path))
+        if (const Text path = file->path; IsGone(path)) {
             gone.insert(key);
+            NoteFolders(path);
+        }
     }
+    RemoveFolders();
     KeepContents(gone);
     work_.record.Forget(gone);
 }
@@ -128,6 +149,24 @@ void OldFiles::KeepContents(const std::set<Text>& gone) const
     for (const auto& [key, content] : contents_)
         if (written_.count(key) == 0 && gone.count(key) == 0)
             work_.record.Add(content);
+}
+
+// Those that the product made and that nothing of the new version lies in. What somebody else has
+// put there keeps them.
+void OldFiles::NoteFolders(const Text& path)
+{
+    for (Text at = ExtractDirectory(path);
+         work_.record.Has<record::Folder>(at) && kept_.count(LowerCase(at)) == 0 &&
+         !work_.target.IsLink(at);
+         at = ExtractDirectory(at))
+        leaving_[LowerCase(at)] = at;
+}
+
+void OldFiles::RemoveFolders()
+{
+    // A folder stands behind the one that it is in.
+    for (auto folder = leaving_.rbegin(); folder != leaving_.rend(); ++folder)
+        work_.changes.RemoveFolderAtEnd(folder->second);
 }
 
 } // namespace

@@ -22,7 +22,8 @@ struct OldFilesWork {
 };
 
 /// Removes the files of the earlier version that are as they were installed and that no row of the
-/// new one names. The others stay, and the log says why. The first `earlierRecords` of the record
+/// new one names, and the folders of the product that this empties. The others stay, and the log
+/// says why. The first `earlierRecords` of the record
 /// are those of the earlier version.
 void RemoveOldFiles(const OldFilesWork& work, std::size_t earlierRecords,
                     const KnownContents& contents);

@@ -53,6 +53,23 @@ std::string WithoutMovesOf(std::string_view operations, const Text& from)
     return kept;
 }
 
+// The second path of a move that replaces a file has a mark before it.
+Text PathOf(std::string_view entry)
+{
+    constexpr std::string_view kRoot = "\\??\\";
+    const Text text = TextOf({kRegistryText, std::string(entry)}).value_or("");
+    const std::size_t at = text.find(kRoot);
+    return at > 1 ? Text() : text.substr(at + kRoot.size());
+}
+
+// A transaction's temporary folder, beside the place.
+bool WaitsInOwnFolder(const record::AtRestart& move)
+{
+    const Text folder = ExtractDirectory(move.from);
+    return ExtractFilename(folder).starts_with("~qn") &&
+           EqualIgnoreCase(ExtractDirectory(folder), ExtractDirectory(move.to));
+}
+
 } // namespace
 
 RegistryKey RestartMovesKey()
@@ -73,16 +90,32 @@ void ForgetMoveAtRestart(Target& target, const Text& from)
                           {present->type, kept + std::string(kEnd)});
 }
 
+void ForgetMovesTo(FileSystem& files, Target& target, const std::set<Text>& places)
+{
+    const auto present = target.ReadValue(RestartMovesKey(), kRestartMoves);
+    if (!present)
+        return;
+    EachMove(present->bytes, [&](std::string_view first, std::string_view second) {
+        const record::AtRestart move{PathOf(first), PathOf(second)};
+        if (places.count(LowerCase(move.to)) == 0 || !WaitsInOwnFolder(move))
+            return;
+        RemoveWaitingFile(files, target, move);
+    });
+}
+
+// The move of the file is forgotten last, so that all of this can be begun again.
 void RemoveWaitingFile(FileSystem& files, Target& target, const record::AtRestart& move)
 {
-    RemoveEvenReadOnly(files, move.from);
-    ForgetMoveAtRestart(target, move.from);
     const Text place = LowerCase(ExtractDirectory(move.to) + "\\");
     const Text folder = ExtractDirectory(move.from);
-    if (LowerCase(folder).starts_with(place) && files.List(folder).empty()) {
+    const bool isItsOwn = LowerCase(folder).starts_with(place);
+    if (files.FileExists(move.from))
+        RemoveEvenReadOnly(files, move.from);
+    if (isItsOwn && files.DirExists(folder) && files.List(folder).empty())
         files.RemoveFolder(folder);
+    if (isItsOwn && !files.DirExists(folder))
         ForgetMoveAtRestart(target, folder);
-    }
+    ForgetMoveAtRestart(target, move.from);
 }
 
 bool IsRemovedAtRestart(const Target& target, const Text& path)

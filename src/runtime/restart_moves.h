@@ -4,10 +4,16 @@
 #include "platform/file_system.h"
 #include "runtime/journal_records.h"
 
+#include <set>
+
 namespace quillon {
 
 /// The system makes no move of that file any more. Nothing happens where it would have made none.
 void ForgetMoveAtRestart(Target& target, const Text& from);
+
+/// What an earlier setup of this kind has left to wait for one of these places (in lower case) is
+/// out of date: it goes, and so does its move. What waits for them by others' doing stays.
+void ForgetMovesTo(FileSystem& files, Target& target, const std::set<Text>& places);
 
 /// The file that waits goes, and a folder of its own beside the place that it was for.
 void RemoveWaitingFile(FileSystem& files, Target& target, const record::AtRestart& move);

@@ -5,6 +5,7 @@
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "runtime/journal_table.h"
+#include "runtime/restart_moves.h"
 #include "runtime/transaction_journal.h"
 
 #include <algorithm>
@@ -175,6 +176,20 @@ void Rollback::EmptyTempFolder(const Text& folder, const Paths& staying)
         target_.MoveAtRestart(folder, "");
 }
 
+// Places that are by now as this transaction wants them.
+Paths PlacesDone(const std::vector<JournalRecord>& steps)
+{
+    Paths places;
+    for (const JournalRecord& step : steps)
+        if (std::holds_alternative<record::File>(step) ||
+            std::holds_alternative<record::MovedAside>(step))
+            places.insert(LowerCase(SubjectOf(step)));
+    for (const JournalRecord& step : steps)
+        if (const auto* const move = std::get_if<record::AtRestart>(&step))
+            places.erase(LowerCase(move->to));
+    return places;
+}
+
 // True for the beginning of a journal in which no step stands yet.
 bool HasNoStep(const std::string& bytes)
 {
@@ -210,6 +225,20 @@ bool FinishOne(const RollbackInput& input, const Text& path)
     return true;
 }
 
+// What was put aside lay in it, too.
+void RemoveLeavingFolder(const RollbackInput& input, const Text& folder)
+{
+    FileSystem& files = input.host.files;
+    if (!files.DirExists(folder))
+        return;
+    if (!files.List(folder).empty()) {
+        input.log.Skipped(folder, {Message::ReasonFolderNotEmpty});
+        return;
+    }
+    files.RemoveFolder(folder);
+    input.log.Line(Message::LogRemovesFolder, folder);
+}
+
 } // namespace
 
 bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps)
@@ -219,21 +248,24 @@ bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps)
 
 void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps)
 {
+    const auto attempt = [&](const Text& what, auto work) {
+        std::optional<RunError> failure;
+        if (RunErrorNumber(work, failure) != ErrorNumber::kNone)
+            input.log.CannotRemove(what, *failure);
+    };
+    attempt(kRestartMoves,
+            [&] { ForgetMovesTo(input.host.files, input.target, PlacesDone(steps)); });
     Paths pending;
     for (const JournalRecord& step : steps)
         if (const auto* const move = std::get_if<record::AtRestart>(&step))
             pending.insert(LowerCase(move->from));
     Rollback rollback(input);
-    for (const JournalRecord& step : steps) {
-        const auto* const folder = std::get_if<record::TempFolder>(&step);
-        if (folder == nullptr)
-            continue;
-        try {
-            rollback.EmptyTempFolder(folder->path, pending);
-        } catch (const RunError& error) {
-            input.log.CannotRemove(folder->path, error);
-        }
-    }
+    for (const JournalRecord& step : steps)
+        if (const auto* const folder = std::get_if<record::TempFolder>(&step))
+            attempt(folder->path, [&] { rollback.EmptyTempFolder(folder->path, pending); });
+    for (const JournalRecord& step : steps)
+        if (const auto* const folder = std::get_if<record::LeavingFolder>(&step))
+            attempt(folder->path, [&] { RemoveLeavingFolder(input, folder->path); });
 }
 
 EarlierRun FinishInterrupted(const RollbackInput& input, const Text& mainFolder)

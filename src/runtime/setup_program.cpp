@@ -139,6 +139,8 @@ ExitCode SetupProgram::Run()
     } catch (const RunError& error) {
         if (error.Number() == ErrorNumber::kDiskFull)
             return Fail(ExitCode::DiskFull, texts_(Message::DiskFull, error.Path()));
+        if (error.Number() == ErrorNumber::kFileInUse)
+            return Fail(ExitCode::FileInUse, texts_(Message::FileInUse, error.Path()));
         return Fail(ExitCode::Failed, texts_(Message::Failed, texts_(ReasonOf(error))));
     } catch (const std::exception& error) { // too little memory
         return Fail(ExitCode::Failed, texts_(Message::Failed, FailureReason(error, texts_)));

@@ -36,6 +36,77 @@ TEST(SoundKinds, AreThoseThatWindowsPlays)
     EXPECT_EQ(device(""), "");
 }
 
+/// A player that ends a round after so many looks, and is told to stop after so many rounds.
+struct Player {
+    int looksOfARound = 3;
+    int rounds = 2;
+    Text refused; // the beginning of a command that fails
+    Text ending = "stopped";
+    std::vector<Text> commands;
+    int looks = 0;
+    int played = 0;
+
+    bool Play()
+    {
+        const auto send = [&](const Text& command, Text* answer) {
+            commands.push_back(command);
+            if (!refused.empty() && command.starts_with(refused))
+                return false;
+            if (command.starts_with("play")) {
+                ++played;
+                looks = 0;
+            }
+            if (answer != nullptr)
+                *answer = ++looks < looksOfARound ? "Playing" : ending;
+            return true;
+        };
+        return PlayOverAndOver(OpenSoundCommand(kSoundKinds[0], "C:\\QN1.TMP\\QNSOUND.WAV"), send,
+                               [&](bool) { return played == rounds && looks == looksOfARound; });
+    }
+};
+
+const Text kOpen = "open \"C:\\QN1.TMP\\QNSOUND.WAV\" type waveaudio alias quillon";
+const Text kPlay = "play quillon from 0";
+const Text kLook = "status quillon mode";
+const Text kClose = "close quillon";
+
+TEST(SoundLoop, PlaysOverAndOverAndLetsGoOfTheFile)
+{
+    Player player;
+    EXPECT_TRUE(player.Play());
+    EXPECT_THAT(player.commands, testing::ElementsAre(kOpen, kPlay, kLook, kLook, kLook, kPlay,
+                                                      kLook, kLook, kLook, kClose));
+}
+
+TEST(SoundLoop, EndsWhereThereIsNoDevice)
+{
+    Player player{.refused = "open"};
+    EXPECT_FALSE(player.Play());
+    EXPECT_THAT(player.commands, testing::ElementsAre(kOpen));
+}
+
+TEST(SoundLoop, EndsWhereTheFileCanNotBePlayed)
+{
+    Player player{.refused = "play"};
+    EXPECT_FALSE(player.Play());
+    EXPECT_THAT(player.commands, testing::ElementsAre(kOpen, kPlay, kClose));
+}
+
+TEST(SoundLoop, BeginsAnewWhereNobodySaysHowFarItIs)
+{
+    Player player{.looksOfARound = 0, .rounds = 2, .refused = "status"};
+    EXPECT_TRUE(player.Play());
+    EXPECT_THAT(player.commands, testing::ElementsAre(kOpen, kPlay, kLook, kPlay, kClose));
+}
+
+TEST(SoundLoop, NamesEachKindByItsOwnDevice)
+{
+    EXPECT_EQ(OpenSoundCommand(*KindOfSound("a.mp3"), "C:\\a b.mp3"),
+              "open \"C:\\a b.mp3\" type mpegvideo alias quillon");
+    EXPECT_EQ(OpenSoundCommand(*KindOfSound("a.MID"), "C:\\a.mid"),
+              "open \"C:\\a.mid\" type sequencer alias quillon");
+}
+
 class SoundTest : public SetupFixture {
 protected:
     SoundTest()

@@ -21,6 +21,7 @@ TEST(FailureReason, SaysWhatTheMachineRefused)
         {ErrorNumber::kPathFileAccess, "C:\\a", "'C:\\a' kan inte läsas eller skrivas"},
         {ErrorNumber::kDeviceIo, "C:\\a", "'C:\\a' kan inte läsas eller skrivas"},
         {ErrorNumber::kDiskFull, "C:\\a", "disken är full: 'C:\\a'"},
+        {ErrorNumber::kFileInUse, "C:\\a", "filen 'C:\\a' används av ett program"},
         {ErrorNumber::kOverflow, "C:\\%1", "fel 6: 'C:\\%1'"},
         {ErrorNumber::kFileNotFound, "", "fel 53"},
     };

@@ -141,7 +141,7 @@ TEST_F(CopyOptionsTest, AFileInUseEndsTheInstallationWithoutA)
     memory.files.Put(kFile, "gammal", kOlder);
     const MachineState before = State();
     files.inUse.insert(kFile);
-    EXPECT_EQ(InstallOver("D", kOlder), ExitCode::Failed);
+    EXPECT_EQ(InstallOver("D", kOlder), ExitCode::FileInUse);
     EXPECT_EQ(State(), before);
 }
 

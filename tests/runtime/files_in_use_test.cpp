@@ -220,9 +220,56 @@ TEST_F(SetupOfFilesInUse, TellsOfAProgramThatRunsOn)
 {
     InstallNewVersionWhileItRuns();
     programs.stubborn = {"Exempelprogram"};
-    EXPECT_EQ(Install("/S /CLOSEAPPLICATIONS"), ExitCode::Failed) << Log();
+    EXPECT_EQ(Install("/S /CLOSEAPPLICATIONS"), ExitCode::FileInUse) << Log();
     EXPECT_EQ(memory.files.Get(kProgram), "version 1");
     EXPECT_THAT(Log(), HasSubstr("Alla program kunde inte stängas"));
+}
+
+TEST_F(SetupOfFilesInUse, NamesTheFileThatItCannotReplace)
+{
+    const Text told = "Filen '" + kProgram +
+                      "' används av ett program och kan inte skrivas. Stäng programmet, eller "
+                      "starta om datorn, och kör installationen igen. Alla ändringar har ångrats.";
+    InstallNewVersionWhileItRuns();
+    const test::MachineState before = State();
+    // The system knows of no program, so nothing is asked that could be answered.
+    for (FileUsers* const known :
+         {static_cast<FileUsers*>(nullptr), static_cast<FileUsers*>(&programs)}) {
+        users = known;
+        EXPECT_EQ(Install("/S"), ExitCode::FileInUse);
+        EXPECT_THAT(Log(), HasSubstr("20003: " + told)) << Log();
+        EXPECT_EQ(State(), before);
+    }
+    ScriptedAsk scripted(
+        {{BoxKind::YesNoCancel, kTitle, "", Answer::No}, {BoxKind::Critical, kTitle, told}});
+    ask = &scripted;
+    EXPECT_EQ(Install(""), ExitCode::FileInUse);
+    EXPECT_EQ(State(), before);
+}
+
+// Rights that are missing are no program that could be closed.
+TEST_F(SetupOfFilesInUse, IsNotWhatAFileWithoutRightsIsTakenFor)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const test::MachineState before = State();
+    files.withoutRights.insert(kProgram);
+    EXPECT_EQ(Install("/S"), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("åtkomst nekas till '" + kProgram + "'"));
+    EXPECT_EQ(State(), before);
+    package.rows[0].copyOptions = "A";
+    EXPECT_EQ(Install("/S"), ExitCode::RestartNeeded) << "the system may do at its next start";
+}
+
+TEST_F(SetupOfFilesInUse, IsTheSameForAScript)
+{
+    InstallNewVersionWhileItRuns();
+    programs.running.clear();
+    package.rows[0].copyOptions = "N";
+    project.Lists.RunScriptBefore = "DELETE %DESTDIR\\prog.exe";
+    const test::MachineState before = State();
+    EXPECT_EQ(Install("/S"), ExitCode::FileInUse);
+    EXPECT_THAT(Log(), HasSubstr("20003: Filen '" + kProgram + "' används av ett program"));
+    EXPECT_EQ(State(), before);
 }
 
 TEST_F(SetupOfFilesInUse, LeavesTheFileToTheNextStartWhereItsRowSaysSo)

@@ -134,8 +134,8 @@ TEST_F(InstallTest, SaysWhereItCouldNotTakeEverythingBack)
         throw RunError(ErrorNumber::kDiskFull, "disken");
     };
     EXPECT_EQ(Install(), ExitCode::Failed);
-    EXPECT_THAT(Log(), HasSubstr("Kan inte ångra en ändring: åtkomst nekas till '" + kMain +
-                                 "\\prog.exe'"));
+    EXPECT_THAT(Log(), HasSubstr("Kan inte ångra en ändring: filen '" + kMain +
+                                 "\\prog.exe' används av ett program"));
     EXPECT_THAT(Log(),
                 HasSubstr("Avslutar med kod 1603: Installationen avbröts, men alla ändringar "
                           "kunde inte ångras (disken är full: 'disken')."));

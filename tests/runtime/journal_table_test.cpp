@@ -46,6 +46,7 @@ INSTANTIATE_TEST_SUITE_P(OfEachKind, LineOfAJournal, testing::Values(
     LineCase{record::IniValue{"C:\\A.INI", "S", "x", "2", std::nullopt}, "INIVALUE\tC:\\A.INI\tS\tx\t2\t\t"},
     LineCase{record::IniValue{"C:\\A.INI", "S", "x", "2", "\tx = 1 "}, "INIVALUE\tC:\\A.INI\tS\tx\t2\t1\t%09x = 1 "},
     LineCase{record::TempFolder{"C:\\~qn1.tmp"}, "TEMPFOLDER\tC:\\~qn1.tmp"},
+    LineCase{record::LeavingFolder{"C:\\Data"}, "LEAVING\tC:\\Data"},
     LineCase{record::MovedAside{"C:\\b", "C:\\~qn1.tmp\\1"}, "ASIDE\tC:\\b\tC:\\~qn1.tmp\\1"},
     LineCase{record::FormerValue{kFirma, "v", kNumber},
              "FORMERVALUE\tHKEY_CURRENT_USER\tSOFTWARE\\Firma\tv\t4\t07000000"},

@@ -1,4 +1,5 @@
 // What an update does with the files of the earlier version that it lacks.
+#include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/install_journal.h"
 #include "setup_fixture.h"
@@ -48,12 +49,54 @@ TEST_F(OldFilesTest, GoWhereNobodyHasChangedThem)
     Update();
     EXPECT_FALSE(memory.files.FileExists(kOld));
     EXPECT_THAT(Log(), HasSubstr("Tar bort " + kOld + ", som inte ingår i den nya versionen"));
+    EXPECT_FALSE(memory.files.DirExists(ExtractDirectory(kOld)));
+    EXPECT_THAT(Log(), HasSubstr("Tar bort mappen " + ExtractDirectory(kOld)));
     // A file that somebody puts there now is nobody's but theirs.
     memory.files.Put(kOld, "användarens");
     EXPECT_EQ(UninstallProduct(), ExitCode::Done);
     EXPECT_EQ(memory.files.Get(kOld), "användarens");
     memory.files.RemoveFile(kOld);
     EXPECT_EQ(State().registry, before.registry);
+}
+
+// With the folders that they were in, as far as the product made them and nobody needs them.
+TEST_F(OldFilesTest, TakeTheirFoldersAlong)
+{
+    memory.files.PutFolder(kMain + "\\Fanns");
+    AddFile("a.txt", "%DESTDIR\\Data\\Inre\\Innerst", "a");
+    AddFile("b.txt", "%DESTDIR\\Fanns", "b");
+    AddFile("c.txt", "%DESTDIR\\Anteckningar", "c");
+    AddFile("d.txt", "%DESTDIR\\Tom", "d");
+    AddFile("e.txt", "%DESTDIR\\Länk", "e");
+    ASSERT_EQ(Install(), ExitCode::Done);
+    memory.files.Put(kMain + "\\Anteckningar\\min.txt", "the user's own");
+    memory.files.RemoveFile(kMain + "\\Länk\\e.txt");
+    target.links = {LowerCase(kMain + "\\Länk")};
+    package.rows.resize(1);
+    sources.resize(1);
+    AddFolder("%DESTDIR\\Tom");
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_FALSE(memory.files.DirExists(kMain + "\\Data"));
+    EXPECT_TRUE(memory.files.DirExists(kMain + "\\Fanns"));
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\Anteckningar\\min.txt"));
+    EXPECT_FALSE(memory.files.FileExists(kMain + "\\Anteckningar\\c.txt"));
+    EXPECT_THAT(Log(), HasSubstr(kMain + "\\Anteckningar: mappen är inte tom"));
+    EXPECT_TRUE(memory.files.DirExists(kMain + "\\Tom")) << "the new version has it too";
+    EXPECT_TRUE(memory.files.DirExists(kMain + "\\Länk"));
+    EXPECT_THAT(Log(), Not(HasSubstr("Tar bort mappen " + kMain + "\r\n")));
+}
+
+TEST_F(OldFilesTest, LeaveTheirFolderToTheFilesThatStayInIt)
+{
+    AddFile("kvar.txt", "%DESTDIR\\Data", "kept");
+    std::swap(package.rows[1], package.rows[2]);
+    std::swap(sources[1], sources[2]);
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    package.rows.resize(2);
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_FALSE(memory.files.FileExists(kOld));
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\Data\\kvar.txt"));
+    EXPECT_THAT(Log(), Not(HasSubstr("mappen är inte tom")));
 }
 
 TEST_F(OldFilesTest, StayWhereSomebodyHasChangedThem)

@@ -59,7 +59,7 @@ void FailingFiles::RemoveFile(const Text& path)
 {
     BeforeChange(path);
     if (inUse.count(path) > 0)
-        throw RunError(ErrorNumber::kPermissionDenied, path);
+        throw RunError(ErrorNumber::kFileInUse, path);
     files_.RemoveFile(path);
 }
 
@@ -68,6 +68,8 @@ void FailingFiles::Rename(const Text& from, const Text& to)
     BeforeChange(from);
     // Windows names the new place in its refusal.
     if (inUse.count(from) > 0)
+        throw RunError(ErrorNumber::kFileInUse, to);
+    if (withoutRights.count(from) > 0)
         throw RunError(ErrorNumber::kPermissionDenied, to);
     files_.Rename(from, to);
 }

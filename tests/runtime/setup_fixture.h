@@ -86,6 +86,8 @@ public:
 
     /// Files that a program holds open: they can be neither moved nor removed.
     std::set<Text> inUse;
+    /// Files that others alone may move.
+    std::set<Text> withoutRights;
     /// Locks that another program has.
     std::set<Text> locked;
     /// What has been asked for so far.

@@ -138,8 +138,8 @@ TEST_F(SetupProgramTest, NamesAFileInUseByItsOwnName)
 {
     memory.files.Put(kMain + "\\prog.exe", "old", {2003, 1, 1, 0, 0, 0});
     files.inUse.insert(kMain + "\\prog.exe");
-    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
-    EXPECT_THAT(Log(), HasSubstr("åtkomst nekas till '" + kMain + "\\prog.exe'"));
+    EXPECT_EQ(InstallInVain(), ExitCode::FileInUse);
+    EXPECT_THAT(Log(), HasSubstr("20003: Filen '" + kMain + "\\prog.exe' används"));
 }
 
 struct PasswordCase {

@@ -15,28 +15,33 @@ namespace fs = std::filesystem;
 // What the programs and the system's libraries below them import or load by name on some Windows or
 // on Wine. Missing are kernel32 and what it rests on, and the C library: Windows takes those from
 // its own folder always.
+// clang-format off
 constexpr const char* kNames[] = {
-    "actxprxy",      "advapi32",      "apphelp",  "atl",       "audioses", "avrt",
-    "bcrypt",        "cfgmgr32",      "clbcatq",  "combase",   "comctl32", "comdlg32",
-    "comres",        "coremessaging", "crypt32",  "cryptbase", "cryptsp",  "d2d1",
-    "dbghelp",       "devenum",       "dnsapi",   "dsound",    "dwmapi",   "dwrite",
-    "explorerframe", "gdi32",         "gdiplus",  "imm32",     "iphlpapi", "ksuser",
-    "linkinfo",      "lpk",           "mciqtz32", "mciseq",    "mciwave",  "mlang",
-    "mmdevapi",      "mpr",           "msacm32",  "mscms",     "msctf",    "msdmo",
-    "msftedit",      "msimg32",       "msls31",   "netapi32",  "nsi",      "ntmarta",
-    "ntshrui",       "ole32",         "oleacc",   "oleaut32",  "powrprof", "profapi",
-    "propsys",       "psapi",         "quartz",   "riched20",  "riched32", "rpcrt4",
-    "rsaenh",        "rstrtmgr",      "sechost",  "secur32",   "setupapi", "sfc",
-    "shcore",        "shell32",       "shfolder", "shlwapi",   "srvcli",   "textinputframework",
-    "urlmon",        "user32",        "userenv",  "usp10",     "uxtheme",  "version",
-    "win32u",        "windowscodecs", "winmm",    "winspool",  "wintrust", "wldp",
-    "ws2_32",        "wsock32",       "wtsapi32",
+    "actxprxy", "advapi32", "apphelp", "atl", "audioses", "avrt", "bcrypt", "bcryptprimitives",
+    "browcli", "cabinet", "cfgmgr32", "clbcatq", "combase", "comctl32", "comdlg32", "comres",
+    "coremessaging", "coreuicomponents", "crypt32", "cryptbase", "cryptsp", "cscapi", "d2d1",
+    "davhlpr", "dbgcore", "dbghelp", "devenum", "devobj", "dhcpcsvc", "dnsapi", "drprov", "dsound",
+    "dui70", "duser", "dwmapi", "dwrite", "edputil", "explorerframe", "fltlib", "gdi32", "gdiplus",
+    "gpapi", "hid", "iertutil", "imm32", "iphlpapi", "kernel.appcore", "ksuser", "linkinfo", "lpk",
+    "mciqtz32", "mciseq", "mciwave", "mlang", "mmdevapi", "mpr", "msacm32", "msacm32.drv", "mscms", "mscoree",
+    "mscoreei", "msctf", "msdmo", "msftedit", "msimg32", "msls31", "mssprxy", "msxml3", "ncrypt",
+    "netapi32", "nsi", "ntasn1", "ntdsapi", "ntlanman", "ntmarta", "ntshrui", "ole32", "oleacc",
+    "oleaccrc", "oleaut32", "powrprof", "profapi", "propsys", "psapi", "quartz", "riched20",
+    "riched32", "rpcrt4", "rpcrtremote", "rsaenh", "rstrtmgr", "samcli", "sechost", "secur32",
+    "setupapi", "sfc", "sfc_os", "shcore", "shell32", "shfolder", "shlwapi", "slc", "srvcli",
+    "sspicli", "sxs", "textinputframework", "textshaping", "thumbcache", "twinapi",
+    "twinapi.appcore", "umpdc", "urlmon", "user32", "userenv", "usp10", "uxtheme", "version",
+    "win32u", "winbrand", "windows.storage", "wdmaud.drv", "windowscodecs", "wininet", "winmm", "winmmbase",
+    "winnsi", "winspool.drv", "winsta", "wintrust", "wkscli", "wlanapi", "wldp", "ws2_32", "wsock32",
+    "wtsapi32", "xmllite",
 };
+// clang-format on
 
 void PlantIn(const fs::path& folder)
 {
     for (const std::string name : kNames)
-        fs::copy_file(TestProgramFolder() / "planted.dll", folder / (name + ".dll"),
+        fs::copy_file(TestProgramFolder() / "planted.dll",
+                      folder / (name.ends_with(".drv") ? name : name + ".dll"),
                       fs::copy_options::skip_existing);
 }
 
@@ -151,6 +156,44 @@ TEST(PlantedLibraries, AreNotTakenByThePagesAndTheScreen)
     const std::string driven = ReadBytes(prefix.DriveC() / "driven.txt");
     EXPECT_NE(driven.find("Vi lovar inget."), std::string::npos) << driven;
     EXPECT_NE(driven.find("code 1602"), std::string::npos) << driven;
+    EXPECT_EQ(Loaded(prefix), "");
+}
+
+// The Restart Manager is asked about a file that is held, the system's dialog for a folder is
+// opened, a .NET Framework is looked for; and names lie in the private folder and in the product's,
+// too.
+TEST(PlantedLibraries, AreNotTakenWithTheRestartManagerAndTheDialogs)
+{
+    SampleProduct product;
+    product.Add("Data", "hållen.txt", "is held");
+    product.project.DialogBoxes.DestinationDlg = 1;
+    product.project.NET.NET_TestIfInstalled = kOn;
+    const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
+    const WinePrefix prefix;
+    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
+              0U);
+    prefix.Stop();
+    ASSERT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
+    fs::create_directory(prefix.DriveC() / "names");
+    for (const fs::path& folder :
+         {package, prefix.OnHost("C:\\windows\\temp"), prefix.DriveC() / "names",
+          prefix.OnHost("C:\\Program Files\\Provpaket Åäö")})
+        PlantIn(folder);
+    const fs::path driver = WorkFolder() / "drive_setup.exe";
+    fs::copy_file(TestProgramFolder() / "drive_setup.exe", driver, fs::copy_options::skip_existing);
+    WriteBytes(prefix.DriveC() / "script.txt",
+               "hold C:\\Program Files\\Provpaket Åäö\\Data\\hållen.txt\nrun \"" +
+                   OnZ(package / "SETUP.EXE") +
+                   "\"\nbox 6\npage Välkommen\nplant C:\\names\npress 1\npage Destinationsmapp\n"
+                   "press 112\nbox 2\npage Destinationsmapp\npress 1\npage Komponenter\npress 1\n"
+                   "box 7\nbox 2\nend\n");
+    EXPECT_EQ(prefix.Run(OnZ(driver), R"(C:\script.txt C:\driven.txt)"), 0U);
+    const std::string driven = ReadBytes(prefix.DriveC() / "driven.txt");
+    EXPECT_NE(driven.find("De här filerna används av ett program"), std::string::npos) << driven;
+    EXPECT_NE(driven.find("hållen.txt' används av ett program och kan inte skrivas"),
+              std::string::npos)
+        << driven;
+    EXPECT_NE(driven.find("code 20003"), std::string::npos) << driven;
     EXPECT_EQ(Loaded(prefix), "");
 }
 

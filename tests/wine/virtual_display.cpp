@@ -10,6 +10,7 @@
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace quillon::test {
 
@@ -28,7 +29,7 @@ std::uint32_t NumberAt(const std::string& bytes, std::size_t at)
 } // namespace
 
 // The server tells its number through a pipe once it is ready to be used.
-VirtualDisplay::VirtualDisplay()
+VirtualDisplay::VirtualDisplay(Displays displays)
 {
     int ends[2] = {};
     if (pipe(ends) != 0)
@@ -37,10 +38,14 @@ VirtualDisplay::VirtualDisplay()
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, ends[1], 5);
     posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", 1, 0);
-    const char* const words[] = {"Xvfb",        "-displayfd", "5",   "-screen", "0",
-                                 "1024x768x24", "-nolisten",  "tcp", nullptr};
+    std::vector<const char*> words{"Xvfb", "-displayfd",  "5",         "-screen",
+                                   "0",    "1024x768x24", "-nolisten", "tcp"};
+    if (displays == Displays::Two)
+        words.insert(words.end(),
+                     {"-screen", "1", "800x600x24", "+xinerama", "-extension", "RANDR"});
+    words.push_back(nullptr);
     const int failure = posix_spawnp(&process_, "Xvfb", &actions, nullptr,
-                                     const_cast<char* const*>(words), environ);
+                                     const_cast<char* const*>(words.data()), environ);
     posix_spawn_file_actions_destroy(&actions);
     close(ends[1]);
     std::string number;

@@ -9,8 +9,10 @@ namespace quillon::test {
 
 class VirtualDisplay {
 public:
-    /// Fails the test where the machine can't make one.
-    VirtualDisplay();
+    /// One display of 1024 x 768, or a smaller one of 800 x 600 to the right of it as well.
+    enum class Displays { One, Two };
+    /// Fails the test where the machine can't make them.
+    explicit VirtualDisplay(Displays displays = Displays::One);
     ~VirtualDisplay();
     VirtualDisplay(const VirtualDisplay&) = delete;
     VirtualDisplay& operator=(const VirtualDisplay&) = delete;

@@ -18,10 +18,11 @@ int NumberOf(unsigned long errorCode)
     case ERROR_DIRECTORY:
         return ErrorNumber::kPathNotFound;
     case ERROR_ACCESS_DENIED:
+        return ErrorNumber::kPermissionDenied;
     case ERROR_SHARING_VIOLATION:
     case ERROR_LOCK_VIOLATION:
     case ERROR_USER_MAPPED_FILE:
-        return ErrorNumber::kPermissionDenied;
+        return ErrorNumber::kFileInUse;
     case ERROR_WRITE_PROTECT:
     case ERROR_DIR_NOT_EMPTY:
     case ERROR_FILE_EXISTS:

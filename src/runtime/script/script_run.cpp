@@ -298,7 +298,7 @@ void RunScript(const ScriptWork& work, const Script& script, Message part)
     } catch (const ScriptStop& stop) {
         fail(texts(stop.Why()));
     } catch (const RunError& error) {
-        if (error.Number() == ErrorNumber::kDiskFull)
+        if (error.Number() == ErrorNumber::kDiskFull || error.Number() == ErrorNumber::kFileInUse)
             throw;
         fail(texts(ReasonOf(error)));
     }

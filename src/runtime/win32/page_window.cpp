@@ -2,6 +2,8 @@
 
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
+#include "runtime/pages/window_place.h"
+#include "runtime/win32/display.h"
 #include "runtime/win32/gdi_letters.h"
 #include "runtime/win32/screen_window.h"
 #include "runtime/win32/window_ask.h"
@@ -40,14 +42,6 @@ void RegisterKind(HINSTANCE instance)
     RegisterClassW(&kind);
 }
 
-RECT WorkArea(HWND window)
-{
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    return monitor.rcWork;
-}
-
 } // namespace
 
 PageWindow::PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& texts,
@@ -66,7 +60,15 @@ PageWindow::PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& 
                                    Receive, reinterpret_cast<LPARAM>(this));
     if (window_ == nullptr)
         FailAsWindowsSays("QuillonPages");
+    MoveToDisplay(behind ? DisplayOf(behind->Handle()) : DisplayWithPointer());
     letters_ = std::make_unique<PageLetters>(DpiOf(window_));
+}
+
+// Before it is measured: letters have another size on another display.
+void PageWindow::MoveToDisplay(const Display& display)
+{
+    SetWindowPos(window_, nullptr, display.workArea.left, display.workArea.top, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 PageWindow::~PageWindow()
@@ -262,13 +264,13 @@ void PageWindow::FitWindow(const PageArrangement& arrangement)
     AdjustWindowRectEx(&frame, kStyle, FALSE, 0);
     const int width = frame.right - frame.left;
     const int height = frame.bottom - frame.top;
-    const RECT area = WorkArea(window_);
     RECT now{};
     GetWindowRect(window_, &now);
     // In the middle at first; afterwards where the user has put it.
-    const int left = isPlaced_ ? now.left : area.left + (area.right - area.left - width) / 2;
-    const int top = isPlaced_ ? now.top : area.top + (area.bottom - area.top - height) / 2;
-    SetWindowPos(window_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    const WindowPlace place = isPlaced_ ? WindowPlace{now.left, now.top}
+                                        : InTheMiddle(DisplayOf(window_).workArea, width, height);
+    SetWindowPos(window_, nullptr, place.left, place.top, width, height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
     isPlaced_ = true;
 }
 

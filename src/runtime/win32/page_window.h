@@ -13,6 +13,7 @@ namespace quillon {
 
 class ScreenWindow;
 class WindowAsk;
+struct Display;
 
 class PageWindow : public PageView {
 public:
@@ -38,6 +39,7 @@ private:
     void Notify(PageField field);
     void Leave(PageAction action);
     void Build();
+    void MoveToDisplay(const Display& display);
     void FitWindow(const PageArrangement& arrangement);
     void LoadPicture(const PixelRect& place);
     void Paint();

@@ -2,6 +2,8 @@
 
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
+#include "runtime/pages/window_place.h"
+#include "runtime/win32/display.h"
 
 namespace quillon {
 
@@ -19,10 +21,11 @@ HWND MakePlainWindow(HINSTANCE instance, const Text& title, const PlainWindow& w
     AdjustWindowRect(&frame, kStyle, FALSE);
     const int width = frame.right - frame.left;
     const int height = frame.bottom - frame.top;
-    const HWND made = CreateWindowExW(WS_EX_APPWINDOW, window.kind, Wide(title).c_str(), kStyle,
-                                      (GetSystemMetrics(SM_CXSCREEN) - width) / 2,
-                                      (GetSystemMetrics(SM_CYSCREEN) - height) / 2, width, height,
-                                      window.owner, nullptr, instance, window.data);
+    const Display display = window.owner ? DisplayOf(window.owner) : DisplayWithPointer();
+    const WindowPlace place = InTheMiddle(display.workArea, width, height);
+    const HWND made =
+        CreateWindowExW(WS_EX_APPWINDOW, window.kind, Wide(title).c_str(), kStyle, place.left,
+                        place.top, width, height, window.owner, nullptr, instance, window.data);
     if (made == nullptr)
         FailAsWindowsSays(title);
     return made;

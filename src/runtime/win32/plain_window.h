@@ -1,4 +1,4 @@
-// What the setup's own windows share: a plain window in the middle of the screen, with controls
+// What the setup's own windows share: a plain window in the middle of its display, with controls
 // that are placed in pixels of a display of normal size.
 #pragma once
 
@@ -14,7 +14,7 @@ struct PlainWindow {
     int width; // inside the frame
     int height;
     void* data = nullptr; // what WM_NCCREATE brings
-    HWND owner = nullptr; // the window stays in front of it
+    HWND owner = nullptr; // the window stays in front of it, on its display
 };
 
 /// Makes the window; it is not shown yet. Throws RunError where Windows makes none.

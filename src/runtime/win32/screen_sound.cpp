@@ -40,7 +40,7 @@ SendCommand LoadPlayer()
 } // namespace
 
 struct ScreenSound::Playing {
-    std::wstring open; // the command
+    Text open; // the command
     HANDLE stop = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     std::atomic<bool> hasFailed = false;
 
@@ -50,25 +50,7 @@ struct ScreenSound::Playing {
     Playing& operator=(const Playing&) = delete;
 
     bool IsStopped(DWORD wait) const { return WaitForSingleObject(stop, wait) == WAIT_OBJECT_0; }
-    /// False where it can't be played.
-    bool PlayAgainAndAgain(SendCommand send) const;
 };
-
-bool ScreenSound::Playing::PlayAgainAndAgain(SendCommand send) const
-{
-    if (send == nullptr || send(open.c_str(), nullptr, 0, nullptr) != 0)
-        return false;
-    bool isPlayed = true;
-    while (isPlayed && !IsStopped(0)) {
-        isPlayed = send(L"play quillon from 0", nullptr, 0, nullptr) == 0;
-        wchar_t mode[32] = L"playing";
-        while (isPlayed && lstrcmpiW(mode, L"playing") == 0 && !IsStopped(kPollTime))
-            if (send(L"status quillon mode", mode, 32, nullptr) != 0)
-                mode[0] = 0;
-    }
-    send(L"close quillon", nullptr, 0, nullptr);
-    return isPlayed;
-}
 
 ScreenSound::ScreenSound(const DesignFiles& design, Text name, Text folder)
     : design_(design), name_(std::move(name)), folder_(std::move(folder))
@@ -97,8 +79,7 @@ void ScreenSound::Start()
         if (kind == nullptr || design_.Files().Status(name_).size > kMaxSoundSize)
             return;
         playing_ = std::make_shared<Playing>();
-        playing_->open =
-            Wide("open \"" + MakeFile(*kind) + "\" type " + kind->device + " alias quillon");
+        playing_->open = OpenSoundCommand(*kind, MakeFile(*kind));
         auto given = std::make_unique<std::shared_ptr<Playing>>(playing_);
         thread_ = CreateThread(nullptr, 0, Play, given.get(), 0, nullptr);
         if (thread_ == nullptr)
@@ -129,7 +110,18 @@ unsigned long __stdcall ScreenSound::Play(void* playing)
 {
     const std::unique_ptr<std::shared_ptr<Playing>> mine(
         static_cast<std::shared_ptr<Playing>*>(playing));
-    (*mine)->hasFailed = !(*mine)->PlayAgainAndAgain(LoadPlayer());
+    const SendCommand player = LoadPlayer();
+    const auto send = [player](const Text& command, Text* answer) {
+        wchar_t words[32] = {};
+        if (player == nullptr || player(Wide(command).c_str(), words, 32, nullptr) != 0)
+            return false;
+        if (answer != nullptr)
+            *answer = Narrow(words);
+        return true;
+    };
+    (*mine)->hasFailed = !PlayOverAndOver((*mine)->open, send, [&](bool hasTime) {
+        return (*mine)->IsStopped(hasTime ? kPollTime : 0);
+    });
     return 0;
 }
 

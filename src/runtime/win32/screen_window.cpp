@@ -2,6 +2,7 @@
 
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
+#include "runtime/win32/display.h"
 
 namespace quillon {
 
@@ -26,8 +27,9 @@ ScreenWindow::ScreenWindow(HINSTANCE instance, const Text& title, MakeScreen mak
     : make_(std::move(make))
 {
     RegisterKind(instance, Receive);
-    window_ = CreateWindowExW(WS_EX_TOOLWINDOW, kWindowClass, Wide(title).c_str(), WS_POPUP, 0, 0,
-                              GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), nullptr,
+    const PixelRect display = DisplayWithPointer().whole;
+    window_ = CreateWindowExW(WS_EX_TOOLWINDOW, kWindowClass, Wide(title).c_str(), WS_POPUP,
+                              display.left, display.top, display.Width(), display.Height(), nullptr,
                               nullptr, instance, this);
     if (window_ == nullptr)
         FailAsWindowsSays(title);
@@ -88,13 +90,15 @@ void ScreenWindow::Show()
 
 void ScreenWindow::FitDisplay()
 {
-    const int width = GetSystemMetrics(SM_CXSCREEN);
-    const int height = GetSystemMetrics(SM_CYSCREEN);
+    const PixelRect display = DisplayOf(window_).whole;
+    const int width = display.Width();
+    const int height = display.Height();
+    SetWindowPos(window_, nullptr, display.left, display.top, width, height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
     if (screen_ && screen_->Width() == width && screen_->Height() == height)
         return;
     screen_ = make_(width, height);
     pixels_.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
-    SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
     Paint({0, 0, width, height});
     if (screen_->Interval() > 0)
         SetTimer(window_, kTimer, static_cast<UINT>(screen_->Interval()), nullptr);

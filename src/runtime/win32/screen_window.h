@@ -1,6 +1,6 @@
-// The screen behind the pages: a window over the whole of the first display, behind all other
-// windows of the setup. It is painted once into memory; of the changing pictures only their place
-// is anew.
+// The screen behind the pages: a window over the whole of one display, behind all other windows of
+// the setup; other displays are left to their user. It is painted once into memory; of the changing
+// pictures only their place is anew.
 #pragma once
 
 #include "runtime/pages/design_screen.h"

@@ -2,6 +2,8 @@
 
 #include "platform/win32/wide_text.h"
 #include "runtime/exit_codes.h"
+#include "runtime/pages/window_place.h"
+#include "runtime/win32/display.h"
 #include "runtime/win32/folder_choice.h"
 #include "runtime/win32/message_box.h"
 #include "runtime/win32/plain_window.h"
@@ -71,18 +73,11 @@ void WindowAsk::Show()
 
 void WindowAsk::PlaceAt(int column, int row)
 {
-    constexpr int kFromEdge = 24;
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
     RECT now{};
     GetWindowRect(window_, &now);
-    const auto place = [](int number, int first, int last, int size) {
-        return number == 1   ? first + kFromEdge
-               : number == 3 ? last - kFromEdge - size
-                             : first + (last - first - size) / 2;
-    };
-    SetWindowPos(window_, nullptr, place(column, area.left, area.right, now.right - now.left),
-                 place(row, area.top, area.bottom, now.bottom - now.top), 0, 0,
+    const WindowPlace place = AtColumnAndRow(DisplayOf(window_).workArea, column, row,
+                                             now.right - now.left, now.bottom - now.top);
+    SetWindowPos(window_, nullptr, place.left, place.top, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

@@ -16,10 +16,18 @@
 //   await ID TEXT        waits until the control has that text
 //   controls             logs kind, id and text of each control, in the order of the Tab key
 //   box BUTTON           waits for a message box, logs its text and presses the button
+//   pointer X Y          moves the pointer there, in pixels of the desktop
+//   where                logs left, top, right and bottom of the page in the desktop
+//   hold FILE            keeps the file open, so that nobody moves it
+//   release              lets go of it
+//   watch                from now on is asked when the session is to end, and says no
+//   session              waits until the session was to end, and logs it
+//   plant FOLDER         copies the folder's files into each private folder of a setup
 //   shot FILE            writes what the page looks like as a bitmap
 //   close                closes the page by its frame
 //   end                  waits for the program's end and logs its code
 #include "helpers/number_text.h"
+#include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "platform/win32/wide_text.h"
@@ -70,6 +78,14 @@ BOOL CALLBACK Match(HWND window, LPARAM data)
     if (fits)
         search.found = window;
     return !fits;
+}
+
+LRESULT CALLBACK RefuseToEnd(HWND window, UINT message, WPARAM word, LPARAM data)
+{
+    if (message != WM_QUERYENDSESSION)
+        return DefWindowProcW(window, message, word, data);
+    SetWindowLongPtrW(window, GWLP_USERDATA, 1);
+    return FALSE;
 }
 
 Text OneLine(const std::wstring& text)
@@ -124,6 +140,20 @@ private:
             return PostMessageW(page_, WM_CLOSE, 0, 0) != FALSE;
         if (verb == "controls")
             return ListControls();
+        if (verb == "pointer")
+            return SetCursorPos(id, static_cast<int>(LeadingNumber(value))) != FALSE;
+        if (verb == "where")
+            return LogPlace();
+        if (verb == "hold")
+            return Hold(Wide(rest));
+        if (verb == "watch")
+            return Watch();
+        if (verb == "session")
+            return AwaitEndOfSession();
+        if (verb == "plant")
+            return Plant(rest);
+        if (verb == "release")
+            return CloseHandle(held_) != FALSE;
         const HWND control = GetDlgItem(page_, id);
         if (control == nullptr)
             return false;
@@ -162,6 +192,65 @@ private:
             if (WaitForSingleObject(process_, kLook) != WAIT_TIMEOUT)
                 return false;
         return TextOf(control) == text;
+    }
+
+    bool LogPlace()
+    {
+        RECT place{};
+        GetWindowRect(page_, &place);
+        for (const LONG edge : {place.left, place.top, place.right, place.bottom})
+            log_ += NumberText(std::int64_t{edge}) + " ";
+        log_.back() = '\n';
+        return true;
+    }
+
+    bool Hold(const std::wstring& path)
+    {
+        held_ = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0,
+                            nullptr);
+        return held_ != INVALID_HANDLE_VALUE;
+    }
+
+    bool Watch()
+    {
+        WNDCLASSW kind{};
+        kind.lpfnWndProc = RefuseToEnd;
+        kind.lpszClassName = L"QuillonWatch";
+        RegisterClassW(&kind);
+        watch_ = CreateWindowW(kind.lpszClassName, L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+                               nullptr, nullptr);
+        return watch_ != nullptr;
+    }
+
+    bool AwaitEndOfSession()
+    {
+        MSG message;
+        for (int waited = 0; waited < kMaxWait; waited += kLook) {
+            while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+                DispatchMessageW(&message);
+            if (GetWindowLongPtrW(watch_, GWLP_USERDATA) != 0) {
+                log_ += "the session was to end\n";
+                return true;
+            }
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, kLook, QS_ALLINPUT);
+        }
+        return false;
+    }
+
+    bool Plant(const Text& from)
+    {
+        wchar_t temp[MAX_PATH] = {};
+        GetTempPathW(MAX_PATH, temp);
+        bool isPlanted = false;
+        for (const FolderEntry& folder : files_.List(Narrow(temp))) {
+            if (!folder.status.isFolder || !UpperCase(folder.name).starts_with("QN"))
+                continue;
+            for (const FolderEntry& file : files_.List(from))
+                files_.CopyContent(JoinPath(from, file.name),
+                                   JoinPath(JoinPath(Narrow(temp), folder.name), file.name));
+            isPlanted = true;
+        }
+        return isPlanted;
     }
 
     bool Start(const Text& command)
@@ -292,6 +381,8 @@ private:
     FileSystem& files_;
     Text log_;
     HANDLE process_ = nullptr;
+    HWND watch_ = nullptr;
+    HANDLE held_ = INVALID_HANDLE_VALUE;
     HWND page_ = nullptr;
 };
 

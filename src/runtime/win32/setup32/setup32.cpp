@@ -4,6 +4,7 @@
 #include "formats/package_files.h"
 #include "runtime/starter_text.h"
 #include "runtime/switch_words.h"
+#include "runtime/win32/display.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/starter.h"
 
@@ -48,11 +49,12 @@ HWND ShowWaitWindow(Starter& starter)
     ReadMessage(starter, StarterMessages::kExtract);
     constexpr int kWidth = 320;
     constexpr int kHeight = 60;
+    const quillon::PixelRect area = quillon::DisplayWithPointer().workArea;
     const HWND window = CreateWindowExW(WS_EX_DLGMODALFRAME, L"STATIC", starter.message,
                                         WS_POPUP | WS_VISIBLE | SS_CENTER | SS_CENTERIMAGE,
-                                        (GetSystemMetrics(SM_CXSCREEN) - kWidth) / 2,
-                                        (GetSystemMetrics(SM_CYSCREEN) - kHeight) / 2, kWidth,
-                                        kHeight, nullptr, nullptr, nullptr, nullptr);
+                                        area.left + (area.Width() - kWidth) / 2,
+                                        area.top + (area.Height() - kHeight) / 2, kWidth, kHeight,
+                                        nullptr, nullptr, nullptr, nullptr);
     SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)),
                  TRUE);
     UpdateWindow(window);

@@ -1,0 +1,162 @@
+// What waits for the machine's next start, when a later setup has done it already.
+#include "runtime/restart_moves.h"
+
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "runtime/install_journal.h"
+#include "runtime/rollback.h"
+#include "setup_fixture.h"
+
+namespace quillon::test {
+namespace {
+
+const Text kMain = "C:\\Program\\Exempel";
+const Text kFile = kMain + "\\levande.dll";
+const std::string kEmpty("\0\0", 2);
+constexpr std::uint32_t kListOfTexts = 7;
+
+/// A system that writes down what it is to move, as Windows does.
+class RestartMoves : public SetupFixture {
+protected:
+    RestartMoves()
+    {
+        AddFile("levande.dll", "%DESTDIR", "version 1", "A");
+        target.MakeKey(RestartMovesKey());
+    }
+
+    static std::string Move(const Text& from, const Text& to)
+    {
+        return TextData("\\??\\" + from).bytes +
+               (to.empty() ? kEmpty : TextData("!\\??\\" + to).bytes);
+    }
+    void WriteMoves(const std::string& moves)
+    {
+        target.WriteValue(RestartMovesKey(), kRestartMoves, {kListOfTexts, moves + kEmpty});
+    }
+    std::string Moves() const
+    {
+        const auto present = target.ReadValue(RestartMovesKey(), kRestartMoves);
+        return present ? present->bytes : "";
+    }
+    /// What the setup has asked the system for so far stands in its list.
+    void TakeDown()
+    {
+        std::string moves;
+        for (const auto& [from, to] : target.movesAtRestart)
+            moves += Move(from, to);
+        WriteMoves(moves);
+    }
+    void InstallWhileItIsHeld(const std::string& bytes)
+    {
+        sources[0].bytes = bytes;
+        package.rows[0].size = bytes.size();
+        files.inUse = {kFile};
+        ASSERT_EQ(Install(), ExitCode::RestartNeeded) << Log();
+        files.inUse.clear();
+    }
+    void InstallVersion(const std::string& bytes)
+    {
+        sources[0].bytes = bytes;
+        package.rows[0].size = bytes.size();
+        ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    }
+    /// The temporary folders beside the file.
+    int TempFolders() const
+    {
+        int count = 0;
+        for (const FolderEntry& entry : memory.files.List(kMain))
+            count += entry.name.starts_with("~qn");
+        return count;
+    }
+};
+
+// Otherwise the machine's next start would bring the older file back.
+TEST_F(RestartMoves, AreForgottenWhenALaterVersionIsInItsPlace)
+{
+    InstallVersion("version 1");
+    InstallWhileItIsHeld("version 2");
+    TakeDown();
+    const Text waiting = target.movesAtRestart.at(0).first;
+    ASSERT_EQ(memory.files.Get(waiting), "version 2");
+    InstallVersion("version 3");
+    EXPECT_EQ(Moves(), "");
+    EXPECT_FALSE(memory.files.FileExists(waiting));
+    EXPECT_EQ(TempFolders(), 0);
+    EXPECT_EQ(memory.files.Get(kFile), "version 3");
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_FALSE(memory.files.DirExists(kMain)) << Log();
+}
+
+TEST_F(RestartMoves, OfOthersStay)
+{
+    InstallVersion("version 1");
+    const Text others = "C:\\Temp\\annan.tmp";
+    memory.files.Put(others, "of another setup");
+    memory.files.Put(kMain + "\\~qn5.tmp\\1", "for another place");
+    const std::string moves = Move("C:\\bort.txt", "") + Move(others, kFile) +
+                              Move(kMain + "\\~qn5.tmp\\1", kMain + "\\annan.dll");
+    WriteMoves(moves);
+    InstallVersion("version 2");
+    EXPECT_EQ(Moves(), moves + kEmpty);
+    EXPECT_TRUE(memory.files.FileExists(others));
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\~qn5.tmp\\1"));
+}
+
+TEST_F(RestartMoves, OfWhatHasGoneAreForgottenToo)
+{
+    InstallVersion("version 1");
+    WriteMoves(Move(kMain + "\\~qn6.tmp\\1", "c:\\PROGRAM\\exempel\\Levande.dll"));
+    InstallVersion("version 2");
+    EXPECT_EQ(Moves(), "");
+}
+
+TEST_F(RestartMoves, OfTheSetupItselfStay)
+{
+    InstallVersion("version 1");
+    InstallWhileItIsHeld("version 2");
+    TakeDown();
+    const std::string first = Moves();
+    InstallWhileItIsHeld("version 3");
+    // The later one comes last, so that it is what is there in the end.
+    EXPECT_EQ(Moves(), first);
+    EXPECT_EQ(memory.files.Get(target.movesAtRestart.at(0).first), "version 2");
+}
+
+// One that fails has put nothing in the place of what waits.
+TEST_F(RestartMoves, StayWhereTheLaterSetupFails)
+{
+    InstallVersion("version 1");
+    InstallWhileItIsHeld("version 2");
+    TakeDown();
+    const std::string before = Moves();
+    AddFile("annan.dll", "%DESTDIR", "annan");
+    memory.files.Put(kMain + "\\annan.dll", "held", {2003, 1, 1, 0, 0, 0});
+    files.inUse = {kMain + "\\annan.dll"};
+    EXPECT_EQ(Install(), ExitCode::FileInUse) << Log();
+    EXPECT_EQ(Moves(), before);
+    EXPECT_EQ(memory.files.Get(target.movesAtRestart.at(0).first), "version 2");
+}
+
+// The next run clears away behind it, and that is part of it.
+TEST_F(RestartMoves, AreForgottenBehindASetupThatWasKilledAfterItsCommit)
+{
+    InstallVersion("version 1");
+    InstallWhileItIsHeld("version 2");
+    TakeDown();
+    struct Killed {};
+    target.beforeChange = [&] {
+        if (memory.files.FileExists(kMain + "\\~qnsetup.tmp") &&
+            memory.files.Get(kMain + "\\~qnsetup.tmp").find("\r\nCOMMITTED") != Text::npos)
+            throw Killed{};
+    };
+    EXPECT_THROW(InstallVersion("version 3"), Killed);
+    target.beforeChange = [] {};
+    EXPECT_NE(Moves(), "");
+    ActionLog log;
+    EXPECT_EQ(FinishInterrupted({host, target, log}, kMain), EarlierRun::Finished);
+    EXPECT_EQ(Moves(), "");
+    EXPECT_EQ(memory.files.Get(kFile), "version 3");
+}
+
+} // namespace
+} // namespace quillon::test

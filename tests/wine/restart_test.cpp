@@ -1,0 +1,60 @@
+// The restart that a project asks for. The driver is a program of the same session: Windows asks it
+// whether the session may end, and it says no, so that the test goes on.
+#include "wine/package.h"
+#include "wine/sample_product.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class RestartedMachine : public testing::Test {
+protected:
+    RestartedMachine()
+    {
+        product.project.InstallOptions.RestartWindows = kOn;
+        product.project.DialogBoxes.DestinationDlg = 0;
+        package = MakePackage(product.Order({"--medium", "cd"}));
+        EXPECT_EQ(
+            prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"), 0U);
+        prefix.Stop();
+    }
+
+    std::string Drive(const std::string& switches, const std::string& script)
+    {
+        const fs::path driver = WorkFolder() / "drive_setup.exe";
+        fs::copy_file(TestProgramFolder() / "drive_setup.exe", driver,
+                      fs::copy_options::skip_existing);
+        WriteBytes(prefix.DriveC() / "script.txt",
+                   "watch\nrun \"" + OnZ(package / "SETUP.EXE") + "\"" + switches + "\n" + script);
+        EXPECT_EQ(prefix.Run(OnZ(driver), R"(C:\script.txt C:\driven.txt)"), 0U);
+        return ReadBytes(prefix.DriveC() / "driven.txt");
+    }
+
+    SampleProduct product;
+    fs::path package;
+    const WinePrefix prefix;
+};
+
+TEST_F(RestartedMachine, IsAskedToEndTheSessionAsTheLastThingOfAll)
+{
+    EXPECT_EQ(Drive("", "page Välkommen\npress 1\npage Komponenter\npress 1\n"
+                        "page Installationen avslutad\npress 1\nbox 2\nsession\nend\n"),
+              "Installation av Provpaket Åäö: Datorn startas om när du stänger den här rutan. "
+              "Spara först det som är öppet i andra program.\n"
+              "the session was to end\n"
+              "code 1641\n");
+    EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\Program Files\\Provpaket Åäö\\QNXUNIN.EXE")));
+}
+
+TEST_F(RestartedMachine, IsLeftAloneAgainstTheSwitch)
+{
+    EXPECT_EQ(Drive(" /norestart", "page Välkommen\npress 1\npage Komponenter\npress 1\n"
+                                   "page Installationen avslutad\npress 1\nend\n"),
+              "code 3010\n");
+}
+
+} // namespace
+} // namespace quillon::test
