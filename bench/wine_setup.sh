@@ -32,9 +32,14 @@ make_package() {
     mkdir -p "$2"
     "$quillonc" create "$1" --to "$2" --medium cd --continue >/dev/null
     [ "$bits" = 64 ] || return 0
-    cp "$programs/SETUP32.EXE" "$2/SETUP.EXE"
-    cp "$programs/Small32/QNS32X.EXE" "$2/QNS32X.BIN"
-    cp "$programs/DUNZIP32.DLL" "$2/DUNZIP32.DLL"
-    cp "$programs/QNXUNIN.EXE" "$2/QNXUNIN.BIN"
+    local name source
+    while read -r name source; do
+        [ ! -e "$2/$name" ] || cp "$programs/$source" "$2/$name"
+    done <<<'SETUP.EXE SETUP32.EXE
+QNS32X.BIN Small32/QNS32X.EXE
+DUNZIP32.DLL DUNZIP32.DLL
+QNREG32.BIN QNREG32.EXE
+QNXREG2.BIN QNXREG2.EXE
+QNXUNIN.BIN QNXUNIN.EXE'
     (cd "$2" && find . -type f ! -name PACKAGE.SHA256 -printf '%P\0' | xargs -0 sha256sum >PACKAGE.SHA256)
 }

@@ -12,7 +12,7 @@ TEST_PACKAGES=(
     clang clang-format libclang-rt-14-dev
     debootstrap libengine-pkcs11-openssl openssl osslsigncode p7zip-full poppler-utils procps
     softhsm2 unrtf unzip wine64 zip
-    at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi xdotool xvfb
+    at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi xdotool xserver-xephyr xvfb
 )
 
 as_root() {

@@ -26,26 +26,40 @@ std::uint32_t NumberAt(const std::string& bytes, std::size_t at)
     return number;
 }
 
+// The server tells its number through a pipe once it is ready to be used.
+constexpr int kNumberPipe = 5;
+
 } // namespace
 
-// The server tells its number through a pipe once it is ready to be used.
 VirtualDisplay::VirtualDisplay(Displays displays)
+{
+    const std::string number = std::to_string(kNumberPipe);
+    if (displays == Displays::One) {
+        Start({"Xvfb", "-displayfd", number, "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
+        return;
+    }
+    // One server has one display; a second one in its window has as many as it is told.
+    Start({"Xvfb", "-displayfd", number, "-screen", "0", "1900x800x24", "-nolisten", "tcp"});
+    Start({"Xephyr", "-displayfd", number, "-screen", "1024x768", "-origin", "1024,0", "-screen",
+           "800x600", "+xinerama", "-extension", "RANDR", "-nolisten", "tcp"});
+}
+
+void VirtualDisplay::Start(const std::vector<std::string>& words)
 {
     int ends[2] = {};
     if (pipe(ends) != 0)
         return;
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, ends[1], 5);
+    posix_spawn_file_actions_adddup2(&actions, ends[1], kNumberPipe);
     posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", 1, 0);
-    std::vector<const char*> words{"Xvfb", "-displayfd",  "5",         "-screen",
-                                   "0",    "1024x768x24", "-nolisten", "tcp"};
-    if (displays == Displays::Two)
-        words.insert(words.end(),
-                     {"-screen", "1", "800x600x24", "+xinerama", "-extension", "RANDR"});
-    words.push_back(nullptr);
-    const int failure = posix_spawnp(&process_, "Xvfb", &actions, nullptr,
-                                     const_cast<char* const*>(words.data()), environ);
+    std::vector<const char*> arguments;
+    for (const std::string& word : words)
+        arguments.push_back(word.c_str());
+    arguments.push_back(nullptr);
+    pid_t process = -1;
+    const int failure = posix_spawnp(&process, arguments[0], &actions, nullptr,
+                                     const_cast<char* const*>(arguments.data()), environ);
     posix_spawn_file_actions_destroy(&actions);
     close(ends[1]);
     std::string number;
@@ -53,16 +67,21 @@ VirtualDisplay::VirtualDisplay(Displays displays)
     while (failure == 0 && read(ends[0], &digit, 1) == 1 && digit != '\n')
         number += digit;
     close(ends[0]);
-    EXPECT_FALSE(number.empty()) << "Xvfb does not run";
+    EXPECT_FALSE(number.empty()) << words[0] << " does not run";
+    if (failure == 0)
+        processes_.push_back(process);
+    // For Wine, and for a server that is shown on this one.
     setenv("QUILLON_WINE_DISPLAY", (":" + number).c_str(), 1);
+    setenv("DISPLAY", (":" + number).c_str(), 1);
 }
 
 VirtualDisplay::~VirtualDisplay()
 {
     unsetenv("QUILLON_WINE_DISPLAY");
-    if (process_ > 0) {
-        kill(process_, SIGTERM);
-        waitpid(process_, nullptr, 0);
+    unsetenv("DISPLAY");
+    for (auto process = processes_.rbegin(); process != processes_.rend(); ++process) {
+        kill(*process, SIGTERM);
+        waitpid(*process, nullptr, 0);
     }
 }
 

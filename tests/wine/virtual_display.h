@@ -3,7 +3,9 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <sys/types.h>
+#include <vector>
 
 namespace quillon::test {
 
@@ -18,7 +20,9 @@ public:
     VirtualDisplay& operator=(const VirtualDisplay&) = delete;
 
 private:
-    pid_t process_ = -1;
+    void Start(const std::vector<std::string>& words);
+
+    std::vector<pid_t> processes_;
 };
 
 /// A bitmap of 32 bits, as Windows programs write it, as a PNG file.
