@@ -66,7 +66,7 @@ make_product() {
 watch_memory() {
     local peak=0 own
     while kill -0 "$1" 2>/dev/null; do
-        own=$(pgrep -f 'QNS32X\.EXE' | xargs -r -I{} awk '/^VmHWM/ { print $2 }' /proc/{}/status 2>/dev/null \
+        own=$(processes 'QNS32X\.EXE' | xargs -r -I{} awk '/^VmHWM/ { print $2 }' /proc/{}/status 2>/dev/null \
             | sort -n | tail -n 1 || true)
         [ -z "$own" ] || [ "$own" -le "$peak" ] || peak=$own
         sleep 0.05

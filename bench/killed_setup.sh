@@ -34,30 +34,24 @@ make_version() {
         close(file) }'
     find "$sources" -type f -exec touch -d "200$version-01-01 12:00" {} +
     "$quillonc" new "$project" --name Dödad --destination '%PROGRAMFILES\Dödad' >/dev/null
-    "$quillonc" set "$project" InstallOptions.UninstallSupport=1 InstallOptions.CreateUninstallIcon=1 \
-        ProgramGroup.ProgramGroup=Grupp >/dev/null
+    "$quillonc" set "$project" InstallOptions.UninstallSupport=1 >/dev/null
     "$quillonc" add-tree "$project" "$sources" --to %DESTDIR >/dev/null
     make_package "$project" "$work/package-$version"
 }
 
-processes() {
-    local prefix=${work#"$root"}/prefix
-    { grep -lzxF "WINEPREFIX=$prefix" /proc/[0-9]*/environ 2>/dev/null || true; } \
-        | sed 's/environ$/cmdline/' | { xargs -r grep -lE '(SETUP|QNS32X|QNREG32|QNXUNIN)\.' 2>/dev/null || true; } \
-        | cut -d / -f 3
-}
-
 # The uninstaller clears up behind its own end.
-wait_for_end() { while [ -n "$(processes)" ]; do sleep 0.02; done; }
+own_processes() { processes '(SETUP|QNS32X|QNREG32|QNXUNIN)\.'; }
+wait_for_end() { while [ -n "$(own_processes)" ]; do sleep 0.02; done; }
 
 # What is on the machine: every file of its own with its content, every other one with its size and
-# time, every folder, the registry but for what Wine writes as it goes.
+# time, every folder, the registry but for the part that Wine writes as it goes.
 state() {
     wait_for_end
     (cd "$work/prefix/drive_c" && find . -type d ! -name 'QN*.TMP' -print &&
         find windows -type f ! -path '*/QN*.TMP/*' -printf '%p %s %T@\n' &&
         find . -path ./windows -prune -o -type f ! -path '*/QN*.TMP/*' ! -name QNXUNIN.LOG -print0 | xargs -0 sha1sum) | sort
-    for key in HKLM\\Software HKLM\\System\\CurrentControlSet\\Control HKCU; do
+    local key
+    for key in 'HKLM\Software' 'HKLM\System\CurrentControlSet\Control\Session Manager' HKCU; do
         wine reg export "$key" "$(on_z "$work/registry")" /y >"$work/log" 2>&1
         iconv -f UTF-16 -t UTF-8 "$work/registry" | tr -d '\r'
     done
@@ -85,7 +79,7 @@ kill_at() {
     local running=$!
     sleep "$(awk -v ms="$moment" 'BEGIN { printf "%.3f", ms / 1000 }')"
     local victims
-    victims=$(processes)
+    victims=$(own_processes)
     # shellcheck disable=SC2086
     [ -z "$victims" ] || kill -9 $victims 2>/dev/null || true
     wait "$running" 2>/dev/null || true
@@ -140,6 +134,7 @@ removal=$(milliseconds uninstall)
 echo "seed $SEED, $turns turns; a setup takes $fresh ms, an upgrade $upgrade ms, an uninstaller $removal ms"
 for turn in $(seq "$turns"); do
     one_turn
+    [ $((turn % 10)) != 0 ] || echo "$turn turns, $failed differences so far"
 done
 echo "$turns turns, $failed differences"
 [ "$failed" = 0 ]

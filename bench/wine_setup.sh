@@ -27,6 +27,12 @@ make_prefix() {
     wine wineboot --init >"$work/log" 2>&1 || { cat "$work/log" >&2; return 1; }
 }
 
+# processes PATTERN: the ids of the prefix's programs whose command line fits.
+processes() {
+    { grep -lzxF "WINEPREFIX=${work#"$root"}/prefix" /proc/[0-9]*/environ 2>/dev/null || true; } \
+        | sed 's/environ$/cmdline/' | { xargs -r grep -lE "$1" 2>/dev/null || true; } | cut -d / -f 3
+}
+
 # make_package PROJECT PACKAGE: with the programs for this Wine, listed as Create lists them.
 make_package() {
     mkdir -p "$2"

