@@ -44,7 +44,7 @@ function(quillon_runtime_program source file folder)
   set_target_properties(
     ${source} PROPERTIES PREFIX "" OUTPUT_NAME ${name} SUFFIX ${ending}
                          RUNTIME_OUTPUT_DIRECTORY ${folder}
-                         ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/implib)
+                         ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/implib/${source})
   target_link_libraries(${source} PRIVATE quillon_runtime quillon_platform ${ARGN})
   add_custom_command(
     TARGET ${source} POST_BUILD
@@ -56,6 +56,11 @@ set(release ${QUILLON_RELEASE_FOLDER})
 quillon_runtime_program(setup32 SETUP32.EXE ${release})
 quillon_runtime_program(qns32x QNS32X.EXE ${release}/Small32 uuid)
 quillon_runtime_program(dunzip32 DUNZIP32.DLL ${release})
+# The same with the decoder of Zstandard, for packages with a solid container.
+quillon_runtime_program(dunzip32_solid DUNZIP32.DLL ${release}/Solid zstd_decoder)
+if(TARGET dunzip32_solid)
+  target_sources(dunzip32_solid PRIVATE ${win32}/dunzip32/dunzip32.cpp)
+endif()
 quillon_runtime_program(qnreg32 QNREG32.EXE ${release})
 quillon_runtime_program(qnxreg2 QNXREG2.EXE ${release})
 quillon_runtime_program(qnxunin QNXUNIN.EXE ${release})

@@ -30,6 +30,9 @@ struct ZipEntry {
     bool isStored = false;
     bool isEncrypted = false;
     bool hasCrc = true; // false under AE-2, which authenticates instead
+    // Packed together with other files: it has no packed size and no CRC of its own, and the
+    // entries' order is the one in which they are unpacked fastest.
+    bool isSolid = false;
     // Where the entry's local header is, and the real method below an encryption.
     std::uint64_t headerPosition = 0;
     std::uint16_t method = 0;

@@ -1,5 +1,6 @@
 #include "builder/compression_interface.h"
 
+#include "archive/solid/writer/solid_container_writer.h"
 #include "archive/writer/spanned_archive.h"
 #include "archive/writer/zip_writer.h"
 #include "archive/zip_records.h"
@@ -60,6 +61,7 @@ struct CompressionInterface::State {
         Text target;
         bool spans = false;
         bool namesOnly = false;
+        bool isSolid = false;
         Text password;
     };
 
@@ -192,8 +194,11 @@ void CompressionInterface::State::Pack(const Order& order, OutputFile& unfinishe
         .onEntry = [&](const ZipEntryReport& entry) { log.AddEntry(entry); },
         .onProgress = [&](std::uint64_t bytes, std::uint64_t all) { progress.Show(bytes, all); },
         .onYield = [&] { ask.ProcessEvents(); }};
-    WriteZip(host.files, Sources(order), unfinished,
-             {.deflate = deflates, .password = order.password}, watch);
+    if (order.isSolid)
+        WriteSolidContainer(host.files, Sources(order), unfinished, {}, watch);
+    else
+        WriteZip(host.files, Sources(order), unfinished,
+                 {.deflate = deflates, .password = order.password}, watch);
     unfinished.Close();
 }
 
@@ -281,6 +286,11 @@ Integer CompressionInterface::IfcCreateZipFile(const Text& target, Integer flopp
 Integer CompressionInterface::IfcCreateDesignZipFile(const Text& target)
 {
     return state_->Create({.target = target, .namesOnly = true});
+}
+
+Integer CompressionInterface::IfcCreateSolidFile(const Text& target)
+{
+    return state_->Create({.target = target, .isSolid = true});
 }
 
 Integer CompressionInterface::IfcGetNrFloppiesUsed() const

@@ -37,6 +37,8 @@ public:
     Integer IfcCreateZipFile(const Text& target, Integer floppySpanning, const Text& password);
     /// Entries carry the file names alone.
     Integer IfcCreateDesignZipFile(const Text& target);
+    /// A solid container: smaller, slower to make, and for the setup alone.
+    Integer IfcCreateSolidFile(const Text& target);
     Integer IfcGetNrFloppiesUsed() const;
     /// Of the pieces that the last spanning call wrote, in the order of the disks.
     const std::vector<Sha256Digest>& PieceDigests() const;

@@ -10,6 +10,7 @@
 #include "builder/package_writing.h"
 #include "builder/remove_quietly.h"
 #include "builder/runtime_files.h"
+#include "builder/selfextract/older_program.h"
 #include "builder/selfextract/self_extracting_file.h"
 #include "builder/setup_info_file.h"
 #include "builder/signing/sign_programs.h"
@@ -37,6 +38,7 @@ void Prepare(CreateRun& run)
     if (form.KeepCompressedFilesOneAndOne == 1)
         form.UseCompression = 0;
     run.project.Compression.KeepCompressedFilesOneAndOne = form.KeepCompressedFilesOneAndOne;
+    run.project.Compression.SmallContainer = form.SmallContainer == 1 ? kOn : kOff;
     run.project.Compression.CompressFiles = form.UseCompression == 1 ? kOn : kOff;
     run.project.OperatingSystem.TargetOperatingSystem = form.cbOS;
     // Kept: it stays on in the project when the target is changed back.
@@ -86,9 +88,9 @@ Step ClearInternetFolder(CreateRun& run)
 {
     if (run.form.TargetMedia != Medium::Internet)
         return Step::GoOn;
-    for (const Text& name : {Text("INSTALL.ZIP"), Text("INSTALL.ADX"),
-                             run.project.InstallOptionsInternet.SelfExtractFilename})
+    for (const char* name : {"INSTALL.ZIP", "INSTALL.ADX"})
         RemoveQuietly(run.host.files, run.InDestination(name));
+    PutOlderProgramAside(run);
     if (!HoldsAnyFile(run.host.files, run.InDestination("")))
         return Step::GoOn;
     const bool goOn = run.ask.YesNo(
@@ -303,11 +305,13 @@ CreateResult RunCreate(CreateRun& run)
             return CreateResult::Stopped;
         const CreateResult result = RunPipeline(run);
         LeavePackage(run);
+        SettleOlderProgram(run);
         return result;
     } catch (const RunError& error) {
         // Kept: the buttons stay disabled until the form is opened anew.
         run.failure = error;
         LeavePackage(run);
+        SettleOlderProgram(run);
         run.ask.AddStatusLine("Kan ej skapa!");
         run.ask.Critical("Fel", "Fel! Kan ej skriva till destinationsenheten!");
         return CreateResult::Failed;

@@ -1,5 +1,6 @@
 #include "builder/create_checks.h"
 
+#include "builder/file_container.h"
 #include "builder/row_checks.h"
 #include "filelist/adding/redist_folder.h"
 #include "filelist/adding/system_files.h"
@@ -186,6 +187,19 @@ Check CheckReservedFilenames(CreateRun& run)
     return Check::Stopped;
 }
 
+// A solid container is not encrypted, and files behind a password must not lie open.
+Check CheckSmallContainer(CreateRun& run)
+{
+    if (!MakesSmallContainer(run.form) || ContainerPassword(run.project).empty())
+        return Check::Passed;
+    run.ask.Critical(
+        "Felaktig kombination",
+        "Kan ej skapa! Du har valt 'Minsta möjliga storlek' i dialogrutan 'Komprimering' och ett "
+        "lösenord för installationen. En sådan FILEDATA.DAT kan ej krypteras. Ta bort lösenordet "
+        "eller välj den vanliga komprimeringen.");
+    return Check::Stopped;
+}
+
 Check CheckFirstFloppy(CreateRun& run)
 {
     return run.form.TargetMedia == Medium::Floppy ? AskForFloppy(run.ask, 1) : Check::Passed;
@@ -227,6 +241,7 @@ constexpr Check (*kChecksInOrder[])(CreateRun&) = {CheckProject,
                                                    CheckDesignNames,
                                                    CheckNamesInTree,
                                                    CheckSetupNames,
+                                                   CheckSmallContainer,
                                                    CheckFirstFloppy,
                                                    CheckDestinationExists};
 

@@ -34,6 +34,7 @@ CreateForm OpenCreateForm(Project& project, OpenProjectState& state)
         form.cbOS = project.OperatingSystem.TargetOperatingSystem;
     form.UseCompression = project.Compression.CompressFiles != kOff ? 1 : 0;
     form.KeepCompressedFilesOneAndOne = project.Compression.KeepCompressedFilesOneAndOne;
+    form.SmallContainer = project.Compression.SmallContainer != kOff ? 1 : 0;
 
     ClickMedium(form, MediumOfProject(project), project, state);
     if (form.TargetMedia != Medium::Floppy)
@@ -47,6 +48,7 @@ void CloseCreateForm(const CreateForm& form, Project& project)
     project.LastDirectories.CreatationDestDir = form.tDestinationDir;
     project.Compression.CompressFiles = form.UseCompression == 1 ? kOn : kOff;
     project.Compression.KeepCompressedFilesOneAndOne = form.KeepCompressedFilesOneAndOne;
+    project.Compression.SmallContainer = form.SmallContainer == 1 ? kOn : kOff;
     project.Media.TargetMedia = Integer(form.TargetMedia);
     project.OperatingSystem.TargetOperatingSystem = form.cbOS;
 }
@@ -79,6 +81,12 @@ Text WhyNotMade(const CreateForm& form)
     return {};
 }
 
+bool MakesSmallContainer(const CreateForm& form)
+{
+    return form.TargetMedia == Medium::CompressedCd && form.SmallContainer == 1 &&
+           form.UseCompression == 1 && form.KeepCompressedFilesOneAndOne == 0;
+}
+
 Text ProgressText(std::uint64_t done, std::uint64_t total, char decimalSign)
 {
     constexpr double kMegabyte = 1024.0 * 1024.0;
@@ -92,8 +100,10 @@ CompressOptionsForm OpenCompressOptions(const CreateForm& form)
 {
     CompressOptionsForm options;
     options.cUseCompression = form.UseCompression;
+    options.cSmallContainer = form.SmallContainer;
+    options.isCd = form.TargetMedia == Medium::CompressedCd;
     ClickKeepCompressedFilesOneAndOne(options, form.KeepCompressedFilesOneAndOne);
-    options.isCKeepCompressedFilesOneAndOneEnabled = form.TargetMedia == Medium::CompressedCd;
+    options.isCKeepCompressedFilesOneAndOneEnabled = options.isCd;
     if (form.TargetMedia == Medium::CdTree)
         options.isCUseCompressionEnabled = false;
     return options;
@@ -111,6 +121,7 @@ void StoreCompressOptions(const CompressOptionsForm& options, CreateForm& form)
 {
     form.UseCompression = options.cUseCompression;
     form.KeepCompressedFilesOneAndOne = options.cKeepCompressedFilesOneAndOne;
+    form.SmallContainer = options.cSmallContainer;
 }
 
 } // namespace quillon

@@ -40,6 +40,7 @@ struct CreateForm {
     Integer cbOS = 0;
     Integer UseCompression = 1;               // 0 or 1
     Integer KeepCompressedFilesOneAndOne = 0; // 0 or 1
+    Integer SmallContainer = 0;               // 0 or 1
 
     bool isCmdSelectDirectoryEnabled = true;
     // Off while Create runs.
@@ -66,6 +67,10 @@ void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project
 /// empty text where one can.
 Text WhyNotMade(const CreateForm& form);
 
+/// True where FILEDATA.DAT becomes a solid container: what the medium or another choice does not
+/// allow has no effect.
+bool MakesSmallContainer(const CreateForm& form);
+
 /// How far a long step is: "12,3 av 45,6 MB".
 Text ProgressText(std::uint64_t done, std::uint64_t total, char decimalSign);
 
@@ -73,8 +78,13 @@ Text ProgressText(std::uint64_t done, std::uint64_t total, char decimalSign);
 struct CompressOptionsForm {
     Integer cUseCompression = 0;
     Integer cKeepCompressedFilesOneAndOne = 0;
+    Integer cSmallContainer = 0;
     bool isCUseCompressionEnabled = true;
     bool isCKeepCompressedFilesOneAndOneEnabled = true;
+    bool isCd = true;
+
+    // Only one that is compressed, and as a whole, can be small.
+    bool IsCSmallContainerEnabled() const { return isCd && cUseCompression != 0; }
 };
 
 CompressOptionsForm OpenCompressOptions(const CreateForm& form);

@@ -36,12 +36,6 @@ bool AddProjectFiles(CreateRun& run)
     return true;
 }
 
-Text ContainerPassword(const Project& project)
-{
-    const bool asksForPassword = project.DialogBoxes.PasswordDlg == 1;
-    return asksForPassword ? project.DialogBoxData.CorrectPassword : Text();
-}
-
 // What a self-extracting program carries is packed as a whole, and what was packed before does not
 // become smaller. Neither does what is encrypted.
 bool IsPackedLater(const CreateRun& run)
@@ -80,7 +74,28 @@ void WriteFloppyCount(CreateRun& run)
                       NumberText(run.FloppiesUsed));
 }
 
+// A solid container finds more where files that are alike are beside each other.
+Integer MakeContainer(CreateRun& run, bool spanning)
+{
+    const Text target = run.InDestination(kFileContainerName);
+    const bool isSolid = MakesSmallContainer(run.form);
+    if (isSolid || IsPackedLater(run))
+        run.compression.Sort(PacksBefore);
+
+    run.ask.AddStatusLine("Kopierar och komprimerar filer");
+    RemoveQuietly(run.host.files, target);
+    return isSolid ? run.compression.IfcCreateSolidFile(target)
+                   : run.compression.IfcCreateZipFile(target, spanning ? 1 : 0,
+                                                      ContainerPassword(run.project));
+}
+
 } // namespace
+
+Text ContainerPassword(const Project& project)
+{
+    const bool asksForPassword = project.DialogBoxes.PasswordDlg == 1;
+    return asksForPassword ? project.DialogBoxData.CorrectPassword : Text();
+}
 
 void ReportCompressionError(Ask& ask, const Text& what, Integer result,
                             const Text& missingReadRight)
@@ -98,14 +113,7 @@ void CreateFileContainer(CreateRun& run, bool spanning)
     if (!AddProjectFiles(run))
         return;
 
-    if (IsPackedLater(run))
-        run.compression.Sort(PacksBefore);
-
-    run.ask.AddStatusLine("Kopierar och komprimerar filer");
-    const Text target = run.InDestination(kFileContainerName);
-    RemoveQuietly(run.host.files, target);
-    const Integer result =
-        run.compression.IfcCreateZipFile(target, spanning ? 1 : 0, ContainerPassword(run.project));
+    const Integer result = MakeContainer(run, spanning);
     const bool failed = result > CompressionResult::kDone;
     if (failed) {
         ReportCompressionError(run.ask, "filer", result,

@@ -9,6 +9,9 @@ namespace quillon {
 /// disks goes into QNSETUP.INF whether or not the compression failed; a failure of that is thrown.
 void CreateFileContainer(CreateRun& run, bool spanning);
 
+/// What the container is encrypted with; empty where it isn't.
+Text ContainerPassword(const Project& project);
+
 /// The lines that tell a failed compression; `missingReadRight` is said where that was the reason.
 void ReportCompressionError(Ask& ask, const Text& what, Integer result,
                             const Text& missingReadRight);

@@ -26,11 +26,6 @@ struct ReleaseFile {
     bool (*isNeeded)(const Project&);
 };
 
-bool IsAlwaysNeeded(const Project&)
-{
-    return true;
-}
-
 // Scripts run in the helper that registers files.
 bool NeedsRegistryHelper(const Project& project)
 {
@@ -56,7 +51,6 @@ bool NeedsUninstaller(const Project& project)
     return project.InstallOptions.UninstallSupport != kOff;
 }
 
-constexpr ReleaseFile kUnzipLibrary = {RuntimePrograms::kUnzipLibrary, IsAlwaysNeeded};
 constexpr ReleaseFile kRegistryHelper = {RuntimePrograms::kRegistryHelper, NeedsRegistryHelper};
 constexpr ReleaseFile kSecondRegistryHelper = {RuntimePrograms::kSecondRegistryHelper,
                                                NeedsSecondRegistryHelper};
@@ -118,7 +112,11 @@ Step CopyRuntimeExe(CreateRun& run)
 
 Step CopyUnzipLibrary(CreateRun& run)
 {
-    return CopyReleaseFile(run, kUnzipLibrary);
+    // The one that reads solid containers too is larger, and of use to no other package.
+    const RuntimeProgram& library = RuntimePrograms::kUnzipLibrary;
+    const Text folder = MakesSmallContainer(run.form) ? "Solid\\" : "";
+    return CopyIntoPackage(
+        run, {ReleasePath(run, folder + library.name), library.inPackage, library.name});
 }
 
 Step CopyRegistryHelper(CreateRun& run)

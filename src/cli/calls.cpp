@@ -38,6 +38,7 @@ std::span<const Call> AllCalls()
           {"--os", "SYSTEM", "Alla Windows, eller endast ME, 2000 och XP", "all|new"},
           {"--no-compress", nullptr, "Lagra filerna utan komprimering"},
           {"--separate", nullptr, "Slå ej samman filerna"},
+          {"--small", nullptr, "Minsta möjliga FILEDATA.DAT (Zstandard); bara för cd"},
           {"--sign-cert", "FIL", "Signera med detta certifikat (.spc, PEM, .pfx, .p12, pkcs11:)"},
           {"--sign-key", "FIL", "Dess privata nyckel (.pvk, PEM, pkcs11:)"},
           {"--sign-module", "FIL", "PKCS#11-modulen för en nyckel i en nyckelenhet"},

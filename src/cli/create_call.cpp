@@ -29,6 +29,20 @@ Text WordOfMedium(Medium medium)
     return Text(std::ranges::find(kMediumWords, medium, &MediumWord::medium)->word);
 }
 
+// A switch that could have no effect is a mistake, unlike a project's choice for another medium.
+void ChooseSmallContainer(const Arguments& arguments, CreateForm& form)
+{
+    for (const char* other : {"--no-compress", "--separate"})
+        if (arguments.Has(other))
+            throw UsageError{Text("--small och ") + other + " utesluter varandra."};
+    if (form.TargetMedia != Medium::CompressedCd)
+        throw UsageError{"--small gäller bara mediet cd, inte " + WordOfMedium(form.TargetMedia) +
+                         "."};
+    form.UseCompression = 1;
+    form.KeepCompressedFilesOneAndOne = 0;
+    form.SmallContainer = 1;
+}
+
 // The order is that of a user's hands: choosing a medium puts that medium's last folder into the
 // form, so the folder is reported afterwards.
 CreateForm FillForm(const CallContext& context, Session& session)
@@ -46,6 +60,8 @@ CreateForm FillForm(const CallContext& context, Session& session)
         form.UseCompression = 0;
     if (arguments.Has("--separate"))
         form.KeepCompressedFilesOneAndOne = 1;
+    if (arguments.Has("--small"))
+        ChooseSmallContainer(arguments, form);
     return form;
 }
 

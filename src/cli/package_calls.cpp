@@ -56,7 +56,7 @@ Json RowJson(const Package& package, std::size_t number)
             rows.push_back("F" + NumberText(served.number));
         object["entryRows"] = std::move(rows);
         object["entrySize"] = entry.size;
-        object["packedSize"] = entry.packedSize;
+        object["packedSize"] = entry.isSolid ? Json() : Json(entry.packedSize);
         object["crc"] = entry.hasCrc ? Json(HexText(entry.crc)) : Json();
     } else if (!bytes.path.empty()) {
         object["path"] = bytes.path;
@@ -98,7 +98,7 @@ std::vector<Text> RowLine(const Package& package, std::size_t number)
     switch (bytes.place) {
     case RowBytes::Place::Container: {
         const ZipEntry& entry = package.container->Entries()[bytes.entry];
-        line.push_back(SizeText(entry.packedSize));
+        line.push_back(entry.isSolid ? "-" : SizeText(entry.packedSize));
         line.push_back(entry.hasCrc ? HexText(entry.crc) : "-");
         line.push_back(entry.name);
         break;

@@ -34,7 +34,8 @@ bool IsPixels(Stored form)
 bool IsFlag(Stored form)
 {
     return form == Stored::AsFlag || form == Stored::AsFlagOnIfMissing ||
-           form == Stored::AsFlagReadAsNumber || form == Stored::AsFlagText;
+           form == Stored::AsFlagWhenOn || form == Stored::AsFlagReadAsNumber ||
+           form == Stored::AsFlagText;
 }
 
 /// Of the numbers of 32 bits, those of a colour say so in their names.

@@ -1,6 +1,7 @@
 #include "formats/package.h"
 
 #include "archive/joined_input.h"
+#include "archive/solid/package_container.h"
 #include "formats/row_safety.h"
 #include "formats/served_rows.h"
 #include "helpers/windows_path.h"
@@ -78,7 +79,7 @@ void OpenContainer(const FileSystem& files, Package& package)
 {
     try {
         if (auto pieces = OpenPieces(files, package))
-            package.container.emplace(std::move(pieces));
+            package.container = OpenAnyContainer(std::move(pieces));
     } catch (const ZipError& error) {
         package.faults.push_back(Text(kFileContainerName) + " är skadad: " + error.what() + ".");
     } catch (const RunError& error) {

@@ -2,7 +2,7 @@
 // tool verifies packages by it, and the setup runtime finds its files by it.
 #pragma once
 
-#include "archive/zip_reader.h"
+#include "archive/container.h"
 #include "formats/install_row.h"
 #include "formats/package_files.h"
 #include "formats/package_manifest.h"
@@ -35,7 +35,7 @@ struct Package {
     std::vector<InstallRow> rows;
     std::vector<RowBytes> bytes; // of the row at the same place
     PackageManifest manifest;
-    std::optional<ZipReader> container;
+    std::unique_ptr<Container> container;
     // What was wrong with the package as a whole, a line each.
     std::vector<Text> faults;
 };

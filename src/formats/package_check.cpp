@@ -1,5 +1,7 @@
 // The reading test of a finished package: every byte that the setup will want is looked at.
 #include "formats/package.h"
+
+#include "archive/solid/package_container.h"
 #include "formats/package_contents_check.h"
 
 #include "formats/row_safety.h"
@@ -101,7 +103,7 @@ void CheckRows(const FileSystem& files, Package& package, Faults& faults)
 }
 
 // An entry is unpacked once, however many rows it serves.
-void CheckEntries(ZipReader& archive, const char* archiveName, const Text& password, Faults& faults)
+void CheckEntries(Container& archive, const char* archiveName, const Text& password, Faults& faults)
 {
     for (const ZipEntry& entry : archive.Entries()) {
         const Text failure =
@@ -127,8 +129,7 @@ void CheckDesignContainer(const FileSystem& files, const Package& package, Fault
     if (!files.FileExists(path))
         return; // a setup without pictures and sounds has none
     const Text failure = FailureOf([&] {
-        ZipReader archive(files.OpenInput(path));
-        CheckEntries(archive, kDesignContainerName, {}, faults);
+        CheckEntries(*OpenAnyContainer(files.OpenInput(path)), kDesignContainerName, {}, faults);
     });
     if (!failure.empty())
         faults.push_back(Text(kDesignContainerName) + ": " + failure + ".");

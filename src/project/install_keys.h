@@ -38,6 +38,7 @@ inline constexpr ProjectKey<OperatingSystem> kOperatingSystem[] = {
 inline constexpr ProjectKey<Compression> kCompression[] = {
     {"CompressFiles",                &Compression::CompressFiles,                Stored::AsFlagOnIfMissing},
     {"KeepCompressedFilesOneAndOne", &Compression::KeepCompressedFilesOneAndOne, Stored::AsNumber},
+    {"SmallContainer",               &Compression::SmallContainer,               Stored::AsFlagWhenOn},
 };
 
 inline constexpr ProjectKey<InstallDirectories> kInstallDirectories[] = {

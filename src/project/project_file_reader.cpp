@@ -62,6 +62,7 @@ void IntegerFromFile(const ProfileReader& reader, Stored form, std::string_view 
 {
     switch (form) {
     case Stored::AsFlag:
+    case Stored::AsFlagWhenOn:
         field = reader.ReadIniBoolean(key);
         break;
     case Stored::AsFlagOnIfMissing:

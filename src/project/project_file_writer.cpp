@@ -57,6 +57,7 @@ Text NumberOnFile(Stored form, Long value, const ScreenMetrics& screen)
     switch (form) {
     case Stored::AsFlag:
     case Stored::AsFlagOnIfMissing:
+    case Stored::AsFlagWhenOn:
     case Stored::AsFlagReadAsNumber:
         return FlagText(value != 0);
     case Stored::AsPixelsX:
@@ -132,7 +133,8 @@ private:
             else
                 Setting(name, TextOnFile(key.form, record.**text, key.limit));
         } else if (const auto number = std::get_if<Integer Record::*>(&key.field)) {
-            Setting(name, NumberOnFile(key.form, record.**number, screen_));
+            if (key.form != Stored::AsFlagWhenOn || record.**number != kOff)
+                Setting(name, NumberOnFile(key.form, record.**number, screen_));
         } else {
             Setting(name,
                     NumberOnFile(key.form, record.*std::get<Long Record::*>(key.field), screen_));

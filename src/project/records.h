@@ -49,6 +49,7 @@ struct OperatingSystem {
 struct Compression {
     Flag CompressFiles = kOn;
     Integer KeepCompressedFilesOneAndOne = 0;
+    Flag SmallContainer = kOff; // of the compressed CD: a solid container instead of a ZIP file
 };
 
 struct InstallDirectories {

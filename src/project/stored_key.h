@@ -22,6 +22,7 @@ enum class Stored {
 
     AsFlag,             // "1" or "0"; off if missing
     AsFlagOnIfMissing,  // the same, on if missing
+    AsFlagWhenOn,       // the same, left out when off: files without it are as they always were
     AsFlagReadAsNumber, // written as a flag; a set one comes back as 1
     AsFlagText,         // a boolean that is kept as a text; comes back as "-1" or "0"
 };

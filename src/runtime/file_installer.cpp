@@ -4,6 +4,7 @@
 #include "helpers/version_resource.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "runtime/install_order.h"
 
 namespace quillon {
 
@@ -55,16 +56,20 @@ void FileInstaller::InstallAll()
 {
     for (const PlannedFile& file : input_.plan.files)
         total_ += file.row->size;
-    for (const PlannedFile& file : input_.plan.files)
-        InstallOne(file);
+    const std::vector<PlannedFile>& files = input_.plan.files;
+    std::vector<Outcome> outcomes(files.size());
+    for (const std::size_t number : InstallOrder(files, input_.package))
+        outcomes[number] = InstallOne(files[number]);
+    for (std::size_t number = 0; number < files.size(); ++number)
+        NoteWhatFollows(files[number], outcomes[number]);
 }
 
-void FileInstaller::InstallOne(const PlannedFile& file)
+FileInstaller::Outcome FileInstaller::InstallOne(const PlannedFile& file)
 {
     const Text& options = file.row->copyOptions;
     if (!input_.package.HasBytes(*file.row)) {
         input_.log.Skipped(file.path, {Message::SkipNoSource});
-        return;
+        return Outcome::Kept;
     }
     changes_.MakeFolder(ExtractDirectory(file.path));
     const auto existing = StatusAt(file.path);
@@ -83,10 +88,10 @@ void FileInstaller::InstallOne(const PlannedFile& file)
         input_.host.files.RemoveFile(staged);
     if (HasOption(options, CopyLetter::kShared) && !HasOption(options, CopyLetter::kNeverUninstall))
         CountSharedFile(file, existing.has_value());
-    if (wanted) {
-        NoteContent(file);
-        NoteWhatFollows(file, atRestart);
-    }
+    if (!wanted)
+        return Outcome::Kept;
+    NoteContent(file);
+    return atRestart ? Outcome::AtRestart : Outcome::Written;
 }
 
 // In one question: where a name is new, some file systems read the whole folder to say so.
@@ -189,11 +194,13 @@ void FileInstaller::NoteContent(const PlannedFile& file)
         record_.Add(record::Content{file.path, file.row->size, DigestText(digest_)});
 }
 
-void FileInstaller::NoteWhatFollows(const PlannedFile& file, bool atRestart)
+void FileInstaller::NoteWhatFollows(const PlannedFile& file, Outcome outcome)
 {
+    if (outcome == Outcome::Kept)
+        return;
     const Text& options = file.row->copyOptions;
     if (HasOption(options, CopyLetter::kRegister))
-        (atRestart ? toRegisterAtRestart_ : toRegister_).push_back(file.path);
+        (outcome == Outcome::AtRestart ? toRegisterAtRestart_ : toRegister_).push_back(file.path);
     if (HasOption(options, CopyLetter::kFont))
         fonts_.push_back(file);
 }

@@ -24,7 +24,9 @@ public:
     std::uint64_t InstalledBytes() const { return installed_; }
 
 private:
-    void InstallOne(const PlannedFile& file);
+    enum class Outcome { Kept, Written, AtRestart };
+
+    Outcome InstallOne(const PlannedFile& file);
     std::optional<FileStatus> StatusAt(const Text& path) const;
     bool IsWanted(const PlannedFile& file, const FileStatus& status, const Text& staged);
     CopyDecision AskWhetherToReplace(const Text& path);
@@ -32,7 +34,7 @@ private:
     bool Put(const PlannedFile& file, const Text& staged, bool replaces);
     void CountSharedFile(const PlannedFile& file, bool existed);
     void NoteContent(const PlannedFile& file);
-    void NoteWhatFollows(const PlannedFile& file, bool atRestart);
+    void NoteWhatFollows(const PlannedFile& file, Outcome outcome);
 
     const InstallInput& input_;
     InstallTransaction& changes_;

@@ -182,6 +182,13 @@ void PackageReader::CheckEverything()
         });
 }
 
+std::uint64_t PackageReader::Position(const InstallRow& row) const
+{
+    const auto place = places_.find(row.number);
+    const ZipEntry* const entry = place == places_.end() ? nullptr : place->second.entry;
+    return entry && entry->isSolid ? entry->headerPosition : 0;
+}
+
 LocalTime PackageReader::Modified(const InstallRow& row) const
 {
     const Place& place = PlaceOf(row);

@@ -44,6 +44,8 @@ public:
 
     /// False on a row that makes a folder, and on one that never had a source.
     bool HasBytes(const InstallRow& row) const;
+    /// Where the bytes lie in a container that is unpacked fastest in its own order; 0 elsewhere.
+    std::uint64_t Position(const InstallRow& row) const;
     LocalTime Modified(const InstallRow& row) const;
     void Extract(const InstallRow& row, const ZipReader::Sink& sink) const;
 

@@ -404,6 +404,28 @@ TEST(CheckUninstallIconCombination, TakesAnyIconOfAnyRow)
     EXPECT_EQ(desk.With(check), Check::Passed);
 }
 
+TEST(CheckSmallContainer, RefusesAPassword)
+{
+    CreateDesk desk;
+    desk.Choose(Medium::CompressedCd);
+    desk.form.SmallContainer = 1;
+    desk.project.DialogBoxData.CorrectPassword = "Hemlig7";
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    desk.project.DialogBoxes.PasswordDlg = 1;
+    EXPECT_EQ(desk.Create({{BoxKind::Critical, "Felaktig kombination",
+                            "Kan ej skapa! Du har valt 'Minsta möjliga storlek' i dialogrutan "
+                            "'Komprimering' och ett lösenord för installationen. En sådan "
+                            "FILEDATA.DAT kan ej krypteras. Ta bort lösenordet eller välj den "
+                            "vanliga komprimeringen."}}),
+              CreateResult::Stopped);
+    // Where there is none, nothing keeps it from being encrypted.
+    desk.Choose(Medium::Internet);
+    desk.form.UseCompression = 1;
+    desk.form.TargetMedia = Medium::CompressedCd;
+    desk.form.SmallContainer = 0;
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+}
+
 TEST(FindReservedFilename, KnowsEachFileOfThePackage)
 {
     for (const char* name :

@@ -23,8 +23,9 @@ CreateDesk::CreateDesk()
     project.ProjectName.ProjectName = "Demo";
     project.InstallDirectories.DestinationDirectory = "%PROGDIR\\Demo";
     AddFile("a.txt");
-    for (const char* program : {"SETUP32.EXE", "Small32\\QNS32X.EXE", "Full32\\QNS32X.EXE",
-                                "DUNZIP32.DLL", "QNREG32.EXE", "QNXREG2.EXE", "QNXUNIN.EXE"})
+    for (const char* program :
+         {"SETUP32.EXE", "Small32\\QNS32X.EXE", "Full32\\QNS32X.EXE", "DUNZIP32.DLL",
+          "Solid\\DUNZIP32.DLL", "QNREG32.EXE", "QNXREG2.EXE", "QNXUNIN.EXE"})
         machine.files.Put(Text("C:\\Quillon\\Release\\") + program, program);
     machine.files.Put("C:\\Quillon\\Release\\QNSELFX.EXE", MakeLinkedProgram({}));
     machine.files.Put("C:\\Quillon\\Language\\SWEDISH.LNG", "[PreLoader]\r\n");

@@ -56,12 +56,14 @@ TEST_F(Form, OpensWithTheProjectsValues)
     project.OperatingSystem.TargetOperatingSystem = 1;
     project.Compression.CompressFiles = kOff;
     project.Compression.KeepCompressedFilesOneAndOne = 1;
+    project.Compression.SmallContainer = kOn;
     const CreateForm form = OpenCreateForm(project, state);
     EXPECT_EQ(form.TargetMedia, Medium::CdTree);
     EXPECT_EQ(form.tDestinationDir, "C:\\Ut");
     EXPECT_EQ(form.cbOS, 1);
     EXPECT_EQ(form.UseCompression, 0);
     EXPECT_EQ(form.KeepCompressedFilesOneAndOne, 1);
+    EXPECT_EQ(form.SmallContainer, 1);
     EXPECT_TRUE(form.isCmdCreateEnabled);
     EXPECT_TRUE(form.isCmdSelectDirectoryEnabled);
 }
@@ -115,14 +117,18 @@ TEST_F(Form, PutsItsChoicesBackWhenItCloses)
     form.cbOS = 1;
     form.UseCompression = 0;
     form.KeepCompressedFilesOneAndOne = 1;
+    form.SmallContainer = 1;
     CloseCreateForm(form, project);
+    EXPECT_EQ(project.Compression.SmallContainer, kOn);
     EXPECT_EQ(project.LastDirectories.CreatationDestDir, "D:\\Nytt");
     EXPECT_EQ(project.Media.TargetMedia, Integer(Medium::Internet));
     EXPECT_EQ(project.OperatingSystem.TargetOperatingSystem, 1);
     EXPECT_EQ(project.Compression.CompressFiles, kOff);
     EXPECT_EQ(project.Compression.KeepCompressedFilesOneAndOne, 1);
     form.UseCompression = 1;
+    form.SmallContainer = 0;
     CloseCreateForm(form, project);
+    EXPECT_EQ(project.Compression.SmallContainer, kOff);
     EXPECT_EQ(project.Compression.CompressFiles, kOn);
 }
 
@@ -187,6 +193,38 @@ TEST(CompressOptions, EnablesByMediumAndChoice)
         EXPECT_EQ(options.cUseCompression, expected.use);
         EXPECT_EQ(options.cKeepCompressedFilesOneAndOne, expected.keep);
     }
+}
+
+TEST(CompressOptions, OfferTheSmallContainerForACdThatIsCompressed)
+{
+    for (const Medium medium :
+         {Medium::Floppy, Medium::CompressedCd, Medium::CdTree, Medium::Internet}) {
+        CreateForm form;
+        form.TargetMedia = medium;
+        form.SmallContainer = 1;
+        CompressOptionsForm options = OpenCompressOptions(form);
+        EXPECT_EQ(options.cSmallContainer, 1);
+        EXPECT_EQ(options.IsCSmallContainerEnabled(), medium == Medium::CompressedCd);
+        EXPECT_EQ(MakesSmallContainer(form), medium == Medium::CompressedCd);
+        options.cUseCompression = 0;
+        EXPECT_FALSE(options.IsCSmallContainerEnabled());
+        options.cSmallContainer = 0;
+        StoreCompressOptions(options, form);
+        EXPECT_EQ(form.SmallContainer, 0);
+    }
+}
+
+TEST(CompressOptions, MakeNoSmallContainerOfWhatIsNotCompressedTogether)
+{
+    CreateForm form;
+    EXPECT_FALSE(MakesSmallContainer(form));
+    form.SmallContainer = 1;
+    EXPECT_TRUE(MakesSmallContainer(form));
+    form.UseCompression = 0;
+    EXPECT_FALSE(MakesSmallContainer(form));
+    form.UseCompression = 1;
+    form.KeepCompressedFilesOneAndOne = 1;
+    EXPECT_FALSE(MakesSmallContainer(form));
 }
 
 TEST(CompressOptions, ClearsCompressionWhileFilesAreKeptOneByOne)

@@ -1,6 +1,6 @@
 #include "builder/file_container.h"
 
-#include "archive/zip_reader.h"
+#include "archive/solid/package_container.h"
 #include "create_desk.h"
 #include "formats/setup_information.h"
 
@@ -28,7 +28,7 @@ protected:
     }
     std::vector<ZipEntry> Entries() const
     {
-        return ZipReader(desk.machine.files.OpenInput("C:\\Ut\\FILEDATA.DAT")).Entries();
+        return OpenAnyContainer(desk.machine.files.OpenInput("C:\\Ut\\FILEDATA.DAT"))->Entries();
     }
     std::vector<std::pair<Text, Text>> NamesAndRows() const
     {
@@ -47,6 +47,43 @@ protected:
 };
 
 } // namespace
+
+TEST_F(FileContainer, IsSolidAndInTheOrderOfKindsWhereItIsToBeSmall)
+{
+    desk.form.SmallContainer = 1;
+    desk.AddFile("b.txt", "text");
+    desk.AddFile("a.txt", "other text");
+    desk.AddFile("c.dll", "library");
+    desk.AddFile("d.txt", "text");
+    Make();
+    EXPECT_FALSE(desk.CreateFailed);
+    EXPECT_THAT(NamesAndRows(), ElementsAre(Pair("data/c.dll", "F3"), Pair("data/a.txt", "F2"),
+                                            Pair("data/b.txt", "F1 F4")));
+    for (const ZipEntry& entry : Entries())
+        EXPECT_TRUE(entry.isSolid);
+    EXPECT_EQ(desk.statusLines.back(), "Antal filer som adderats till FILEDATA.DTA: 0 st");
+}
+
+TEST_F(FileContainer, IsAZipFileOnEveryOtherMediumWhateverTheProjectSays)
+{
+    desk.form.SmallContainer = 1;
+    desk.form.TargetMedia = Medium::Internet;
+    desk.AddFile("b.txt");
+    Make();
+    EXPECT_FALSE(Entries()[0].isSolid);
+}
+
+TEST_F(FileContainer, TellsASolidOneThatFails)
+{
+    desk.form.SmallContainer = 1;
+    desk.machine.files.At(desk.AddFile("b.txt")[Source]).unreadable = true;
+    Make();
+    EXPECT_TRUE(desk.CreateFailed);
+    EXPECT_THAT(
+        desk.statusLines,
+        testing::Contains(" Felmeddelande: Saknar läsrättigheter till en eller flera filer!"));
+    EXPECT_FALSE(desk.Has("FILEDATA.DAT"));
+}
 
 TEST_F(FileContainer, NamesTheRowsThatEachEntryServes)
 {

@@ -57,6 +57,18 @@ TEST(RuntimeFiles, AreCopiedUnderTheNamesOfThePackage)
     }
 }
 
+TEST(RuntimeFiles, ReadASolidContainerByALibraryOfItsOwn)
+{
+    CreateDesk desk;
+    desk.form.SmallContainer = 1;
+    EXPECT_EQ(desk.With(CopyUnzipLibrary), Step::GoOn);
+    EXPECT_THAT(desk.statusLines, ElementsAre("Kopierar DUNZIP32.DLL"));
+    EXPECT_EQ(desk.Get("DUNZIP32.DLL"), "Solid\\DUNZIP32.DLL");
+    desk.form.TargetMedia = Medium::Internet;
+    EXPECT_EQ(desk.With(CopyUnzipLibrary), Step::GoOn);
+    EXPECT_EQ(desk.Get("DUNZIP32.DLL"), "DUNZIP32.DLL");
+}
+
 TEST(RuntimeFiles, EndThePipelineWhereOneIsMissing)
 {
     for (const Copied& copied : kCopies) {

@@ -140,6 +140,53 @@ TEST_F(Packages, NothingIsCompressedWhereThatIsAskedFor)
     EXPECT_EQ(rows[0]["packedSize"], 5000);
 }
 
+TEST_F(Packages, AreSmallWhereThatIsAskedFor)
+{
+    const ProgramRun run = Create(project, {"--medium", "cd", "--small"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(disk.Get("out/DUNZIP32.DLL"), "runtime: Solid/DUNZIP32.DLL");
+    const std::string container = disk.Get("out/FILEDATA.DAT");
+    EXPECT_EQ(container.substr(container.size() - 72, 8), "QNSMALL\x1A");
+    EXPECT_EQ(Quillonc({"verify", out}).exitCode, 0);
+    const Json rows = ObjectOf(Quillonc({"list", out, "--json"}))["rows"];
+    EXPECT_EQ(rows[0]["place"], "container");
+    EXPECT_EQ(rows[0]["entrySize"], 5000);
+    EXPECT_TRUE(rows[0]["packedSize"].is_null());
+    EXPECT_TRUE(rows[0]["crc"].is_null());
+    EXPECT_THAT(Quillonc({"list", out}).out, HasSubstr("5000       -  -    "));
+    disk.PutFolder("unpacked");
+    const ProgramRun extract = Quillonc({"extract", out, "--to", disk.Path("unpacked")});
+    EXPECT_EQ(extract.exitCode, 0) << extract.err;
+    EXPECT_EQ(disk.Get("unpacked/DESTDIR/Prog.exe"), std::string(5000, 'p'));
+}
+
+TEST_F(Packages, AreNotSmallWhereTheyCannotBe)
+{
+    const std::pair<std::vector<std::string>, const char*> cases[] = {
+        {{"--medium", "floppy", "--small"}, "--small gäller bara mediet cd, inte floppy."},
+        {{"--medium", "tree", "--small"}, "--small gäller bara mediet cd, inte tree."},
+        {{"--medium", "internet", "--small"}, "--small gäller bara mediet cd, inte internet."},
+        {{"--medium", "cd", "--no-compress", "--small"},
+         "--small och --no-compress utesluter varandra."},
+        {{"--medium", "cd", "--separate", "--small"}, "--small och --separate utesluter varandra."},
+    };
+    for (const auto& [switches, words] : cases) {
+        const ProgramRun run = Create(project, switches);
+        EXPECT_EQ(run.exitCode, 2) << words;
+        EXPECT_THAT(run.err, HasSubstr(words));
+        EXPECT_FALSE(disk.Has("out/QNSETUP.INF"));
+    }
+}
+
+TEST_F(Packages, AreSmallWhereTheProjectSaysSo)
+{
+    ASSERT_EQ(Quillonc({"set", project, "Compression.SmallContainer=1"}).exitCode, 0);
+    EXPECT_EQ(Create(project, {"--medium", "cd"}).exitCode, 0);
+    EXPECT_EQ(disk.Get("out/DUNZIP32.DLL"), "runtime: Solid/DUNZIP32.DLL");
+    EXPECT_EQ(Create(project, {"--medium", "tree"}).exitCode, 0);
+    EXPECT_EQ(disk.Get("out/DUNZIP32.DLL"), "runtime: DUNZIP32.DLL");
+}
+
 TEST_F(Packages, TheTargetSystemDecidesWhichSystemFilesAreLeftOut)
 {
     disk.Put("src/msvcrt.dll", "system file");

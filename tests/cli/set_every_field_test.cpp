@@ -26,7 +26,7 @@ struct FieldCase {
 bool IsFlag(Stored form)
 {
     return form == Stored::AsFlag || form == Stored::AsFlagOnIfMissing ||
-           form == Stored::AsFlagReadAsNumber;
+           form == Stored::AsFlagWhenOn || form == Stored::AsFlagReadAsNumber;
 }
 
 /// A flag other than it is in a new project.

@@ -42,8 +42,9 @@ Workshop::Workshop()
     fs::permissions(disk.Path(), fs::perms(0755));
     disk.PutFolder("out");
     disk.PutFolder("src");
-    for (const char* program : {"SETUP32.EXE", "Small32/QNS32X.EXE", "Full32/QNS32X.EXE",
-                                "DUNZIP32.DLL", "QNREG32.EXE", "QNXREG2.EXE", "QNXUNIN.EXE"})
+    for (const char* program :
+         {"SETUP32.EXE", "Small32/QNS32X.EXE", "Full32/QNS32X.EXE", "DUNZIP32.DLL",
+          "Solid/DUNZIP32.DLL", "QNREG32.EXE", "QNXREG2.EXE", "QNXUNIN.EXE"})
         disk.Put(std::string("tool/Release/") + program, std::string("runtime: ") + program);
     disk.Put("tool/Release/QNSELFX.EXE", MakeLinkedProgram({}));
     disk.Put("tool/Language/SWEDISH.LNG", "[PreLoader]\r\n");

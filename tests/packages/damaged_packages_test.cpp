@@ -14,6 +14,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 const ProductMedium kMedia[] = {{"Cd", Medium::CompressedCd},
+                                {"SmallCd", Medium::CompressedCd, false, true},
                                 {"OneByOne", Medium::CompressedCd, true},
                                 {"Tree", Medium::CdTree},
                                 {"Floppies", Medium::Floppy}};

@@ -2,7 +2,7 @@
 // date.
 #include "packages/packaged_product.h"
 
-#include "archive/zip_reader.h"
+#include "archive/solid/package_container.h"
 #include "formats/package_files.h"
 
 namespace quillon::test {
@@ -13,7 +13,7 @@ using testing::IsEmpty;
 constexpr LocalTime kFirst{2004, 2, 29, 12, 30, 0};
 constexpr LocalTime kSecond{2005, 1, 2, 3, 4, 6};
 
-PackageFiles MakePackage(const Text& password = {})
+PackageFiles MakePackage(const Text& password, bool isSmall)
 {
     CreateDesk desk;
     desk.project.Files.rows.clear();
@@ -24,6 +24,7 @@ PackageFiles MakePackage(const Text& password = {})
     desk.project.DialogBoxes.PasswordDlg = password.empty() ? 0 : 1;
     desk.project.DialogBoxData.CorrectPassword = password;
     desk.Choose(Medium::CompressedCd);
+    desk.form.SmallContainer = isSmall ? 1 : 0;
     EXPECT_EQ(desk.Create(), CreateResult::Done);
     PackageFiles files;
     for (const Text& name : desk.Package())
@@ -43,11 +44,14 @@ auto ByName(const Values& values, const Text& end)
 
 TEST(EqualFilesInAPackage, ShareAnEntryAndAreInstalledEachOnItsOwn)
 {
-    for (const Text password : {"", "Hemlig7"}) {
-        const PackageFiles files = MakePackage(password);
+    const std::pair<Text, bool> kinds[] = {{"", false}, {"Hemlig7", false}, {"", true}};
+    for (const auto& [password, isSmall] : kinds) {
+        const PackageFiles files = MakePackage(password, isSmall);
         MemoryFiles memory;
         memory.Put("D:\\a.zip", files.at(kFileContainerName));
-        EXPECT_EQ(ZipReader(memory.OpenInput("D:\\a.zip")).Entries().size(), 1U);
+        const auto container = OpenAnyContainer(memory.OpenInput("D:\\a.zip"));
+        ASSERT_EQ(container->Entries().size(), 1U);
+        EXPECT_EQ(container->Entries()[0].isSolid, isSmall);
         EXPECT_THAT(VerifyProduct(files), IsEmpty());
         const InstalledProduct product = InstallProduct(files, password);
         EXPECT_EQ(product.code, ExitCode::Done) << product.log;

@@ -101,6 +101,7 @@ PackageFiles MakeProductPackage(const ProductMedium& medium, const Text& passwor
     FillProject(desk, password);
     desk.Choose(medium.medium);
     desk.form.KeepCompressedFilesOneAndOne = medium.isOneByOne ? 1 : 0;
+    desk.form.SmallContainer = medium.isSmall ? 1 : 0;
     ScriptedAsk ask;
     if (medium.medium == Medium::Floppy)
         ask.Expect({BoxKind::OkCancel, "Diskett", "Stoppa in diskett nr 1!"});

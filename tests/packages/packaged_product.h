@@ -16,6 +16,7 @@ struct ProductMedium {
     const char* name;
     Medium medium;
     bool isOneByOne = false;
+    bool isSmall = false;
 };
 inline void PrintTo(const ProductMedium& medium, std::ostream* out)
 {

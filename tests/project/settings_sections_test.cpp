@@ -79,6 +79,7 @@ private:
         switch (form) {
         case Stored::AsFlag:
         case Stored::AsFlagOnIfMissing:
+        case Stored::AsFlagWhenOn:
             return last_ % 2 == 0 ? kOn : kOff;
         case Stored::AsFlagReadAsNumber:
             return last_ % 2 == 0 ? 1 : 0;
@@ -193,6 +194,22 @@ TEST(SettingsSections, EachMissingKeyAloneGivesWhatAMissingSectionGives)
         const std::string saved = disk.Resave(WithoutKey(Empty(), section, key));
         EXPECT_EQ(ValueIn(saved, section, key), "0") << key;
     }
+}
+
+// Older tools never wrote it, and what they compare by bytes stays as it was.
+TEST(SettingsSections, NameTheSmallContainerOnlyWhereItIsChosen)
+{
+    ProjectOnDisk disk;
+    disk.Load(Empty());
+    EXPECT_EQ(disk.project.Compression.SmallContainer, kOff);
+    EXPECT_EQ(disk.Save().find("SmallContainer"), std::string::npos);
+    disk.project.Compression.SmallContainer = kOn;
+    const std::string saved = disk.Save();
+    EXPECT_EQ(ValueIn(saved, "Compression", "SmallContainer"), "1");
+    EXPECT_EQ(disk.Load(saved), ReadEnd::Whole);
+    EXPECT_EQ(disk.project.Compression.SmallContainer, kOn);
+    EXPECT_EQ(disk.Load(Empty()), ReadEnd::Whole);
+    EXPECT_EQ(disk.project.Compression.SmallContainer, kOff);
 }
 
 TEST(TypeMark, ComparesWithCaseButItsKeyDoesNot)

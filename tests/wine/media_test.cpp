@@ -134,6 +134,7 @@ INSTANTIATE_TEST_SUITE_P(
     Media, EveryMedium,
     testing::Values(
         MediumCase{"CompressedCd", {"--medium", "cd"}},
+        MediumCase{"SmallCd", {"--medium", "cd", "--small"}},
         MediumCase{"StoredCd", {"--medium", "cd", "--no-compress"}},
         MediumCase{"CdTree", {"--medium", "tree"}, LayOutTree},
         MediumCase{"OneByOneInAFolder", {"--medium", "cd", "--separate"}},

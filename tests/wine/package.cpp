@@ -4,6 +4,7 @@
 #include "helpers/ansi_text.h"
 #include "helpers/text.h"
 
+#include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
@@ -21,12 +22,15 @@ constexpr std::pair<const char*, const char*> kRuntimeFiles[] = {
     {"QNXREG2.BIN", "QNXREG2.EXE"},   {"QNXUNIN.BIN", "QNXUNIN.EXE"},
 };
 
-void UseRuntimeOfThisWine(const fs::path& package)
+void UseRuntimeOfThisWine(const fs::path& package, bool isSmall)
 {
     for (const auto& [name, source] : kRuntimeFiles)
         if (fs::exists(package / name))
             fs::copy_file(RuntimeFolder() / source, package / name,
                           fs::copy_options::overwrite_existing);
+    if (isSmall)
+        fs::copy_file(RuntimeFolder() / "Solid" / "DUNZIP32.DLL", package / "DUNZIP32.DLL",
+                      fs::copy_options::overwrite_existing);
     WriteManifest(package);
 }
 
@@ -46,7 +50,7 @@ fs::path MakePackage(const PackageOrder& order)
                              {"TZ", "UTC"}});
     EXPECT_EQ(created.exitCode, 0) << created.output;
     if (WineBits() == 64)
-        UseRuntimeOfThisWine(package);
+        UseRuntimeOfThisWine(package, std::ranges::count(order.options, "--small") > 0);
     return package;
 }
 

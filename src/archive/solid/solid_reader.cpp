@@ -1,12 +1,11 @@
 #include "archive/solid/solid_reader.h"
 
+#include "archive/solid/filtered_run.h"
+#include "archive/solid/frame_reader.h"
 #include "archive/solid/solid_digest.h"
 #include "archive/solid/solid_error.h"
-#include "archive/solid/solid_stream.h"
-#include "archive/solid/x86_filter.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace quillon {
 
@@ -43,35 +42,6 @@ std::uint64_t EndOfPayload(const InputFile& file, const std::optional<SignatureF
         RefuseSolid("signaturen ligger inte sist i filen");
     return fields->tableBegin;
 }
-
-/// Unpacks one part of a file and undoes its filter.
-class RunReader {
-public:
-    RunReader(SolidStream& stream, zip::Bytes& buffer) : stream_(stream), buffer_(buffer) {}
-
-    void Read(const SolidRun& run, SolidSink& sink)
-    {
-        X86Filter filter(X86Filter::Direction::Decode);
-        std::uint64_t left = run.size;
-        std::size_t held = 0;
-        while (left > 0 || held > 0) {
-            const auto count =
-                static_cast<std::size_t>(std::min<std::uint64_t>(left, buffer_.size() - held));
-            stream_.Read(std::span(buffer_).subspan(held, count));
-            left -= count;
-            const auto filled = std::span(buffer_).first(held + count);
-            const std::size_t done =
-                run.filter == SolidFilter::X86 ? filter.Convert(filled, left == 0) : filled.size();
-            sink.Write(filled.first(done));
-            held = filled.size() - done;
-            std::memmove(buffer_.data(), buffer_.data() + done, held);
-        }
-    }
-
-private:
-    SolidStream& stream_;
-    zip::Bytes& buffer_;
-};
 
 } // namespace
 
@@ -125,7 +95,8 @@ void SolidReader::CheckDigest(std::uint64_t trailerPosition, const Progress& onP
 
 void SolidReader::ReadTable()
 {
-    SolidStream stream(*file_, trailer_);
+    FrameReader stream(*file_, LinkedFrameDecoding(), kMaxSolidWindowLog, RefuseSolid);
+    stream.Open(trailer_.streamBegin, trailer_.streamSize);
     // It grows as bytes come in: the size in the trailer is a claim, and may be far too large.
     zip::Bytes bytes;
     while (bytes.size() < trailer_.tableSize) {
@@ -140,18 +111,21 @@ void SolidReader::ReadTable()
 
 void SolidReader::Extract(SolidSink& sink) const
 {
-    SolidStream stream(*file_, trailer_);
+    FrameReader stream(*file_, LinkedFrameDecoding(), kMaxSolidWindowLog, RefuseSolid);
+    stream.Open(trailer_.streamBegin, trailer_.streamSize);
     zip::Bytes buffer(kPieceSize);
     for (std::uint64_t left = trailer_.tableSize; left > 0;) {
         const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(left, buffer.size()));
         stream.Read(std::span(buffer).first(count));
         left -= count;
     }
-    RunReader runs(stream, buffer);
     for (const SolidFile& file : table_.files) {
         sink.Begin(file);
         for (const SolidRun& run : file.runs)
-            runs.Read(run, sink);
+            PassThroughFilter(
+                run, X86Filter::Direction::Decode, buffer,
+                [&](std::span<std::byte> bytes) { stream.Read(bytes); },
+                [&](std::span<const std::byte> bytes) { sink.Write(bytes); });
         sink.End();
     }
     stream.Finish();

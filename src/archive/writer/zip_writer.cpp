@@ -4,6 +4,7 @@
 #include "archive/writer/equal_files.h"
 #include "archive/writer/ordered_workers.h"
 #include "archive/writer/source_block.h"
+#include "archive/writer/source_status.h"
 #include "archive/writer/zip_headers.h"
 #include "platform/run_error.h"
 
@@ -142,14 +143,9 @@ void ZipWriting::Run()
 
 void ZipWriting::StatSources()
 {
-    status_.reserve(sources_.size());
-    for (const ZipSource& source : sources_) {
-        Yield();
-        ReadingSource(source.path, [&] { status_.push_back(files_.Status(source.path)); });
-        if (status_.back().isFolder)
-            throw CompressionFailure(CompressionResult::kNoReadAccess, source.path);
-        total_ += status_.back().size;
-    }
+    status_ = StatusOfSources(files_, sources_, watch_.onYield);
+    for (const FileStatus& status : status_)
+        total_ += status.size;
 }
 
 // Sources of several blocks, whose headers are written before their bytes are known.

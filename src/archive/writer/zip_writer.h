@@ -54,7 +54,7 @@ struct ZipOptions {
 struct ZipEntryReport {
     Text path;
     std::uint64_t size = 0;
-    std::uint64_t packedSize = 0;
+    std::uint64_t packedSize = 0; // 0 where it was packed together with others
 };
 
 /// What the writer reports while it works, always from the calling thread. Each may be empty.

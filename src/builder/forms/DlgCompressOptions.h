@@ -12,6 +12,7 @@ public:
 
     QCheckBox* cUseCompression = nullptr;
     QCheckBox* cKeepCompressedFilesOneAndOne = nullptr;
+    QCheckBox* cSmallContainer = nullptr;
 
 protected:
     void Store() override;

@@ -11,6 +11,8 @@
 #include "platform/saved_file.h"
 #include "platform/whole_file.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace Attribute = SelfExtractAttribute;
@@ -39,6 +41,33 @@ Text IconPath(const SelfExtractAttributes& attributes)
     const Text icon = AttributeOf(attributes, Attribute::kIcon);
     return icon.substr(0, icon.rfind(';'));
 }
+
+/// Refuses what would make the file larger than it may be.
+class LimitedOutput : public OutputFile {
+public:
+    LimitedOutput(OutputFile& file, std::uint64_t maxSize, Text path)
+        : file_(file), maxSize_(maxSize), path_(std::move(path))
+    {
+    }
+
+    void Write(std::span<const std::byte> bytes) override
+    {
+        if (bytes.size() > maxSize_ - std::min(maxSize_, file_.Position()))
+            throw RunError(ErrorNumber::kOverflow, path_);
+        file_.Write(bytes);
+    }
+    void WriteAt(std::uint64_t position, std::span<const std::byte> bytes) override
+    {
+        file_.WriteAt(position, bytes);
+    }
+    std::uint64_t Position() const override { return file_.Position(); }
+    void Close() override { file_.Close(); }
+
+private:
+    OutputFile& file_;
+    std::uint64_t maxSize_;
+    Text path_;
+};
 
 ProgramIdentity IdentityOf(const SelfExtractAttributes& attributes)
 {
@@ -71,8 +100,8 @@ std::optional<std::vector<ProgramResource>> ReadIcon(const FileSystem& files, co
 
 } // namespace
 
-ActiveDelivery::ActiveDelivery(Host& host, Ask& ask, Text extractor)
-    : host_(host), ask_(ask), extractor_(std::move(extractor))
+ActiveDelivery::ActiveDelivery(Host& host, Ask& ask, Text extractor, std::uint64_t maxSize)
+    : host_(host), ask_(ask), extractor_(std::move(extractor)), maxSize_(maxSize)
 {
 }
 
@@ -154,9 +183,11 @@ Long ActiveDelivery::Build(const SelfExtractAttributes& attributes)
 
     const std::vector<SolidSource> sources =
         PayloadSources(host_.files, AttributeOf(attributes, Attribute::kArchive));
-    SavedFile result(host_.files, AttributeOf(attributes, Attribute::kResult));
+    const Text path = AttributeOf(attributes, Attribute::kResult);
+    SavedFile result(host_.files, path);
+    LimitedOutput limited(result, maxSize_, path);
     ProgressDisplay progress(ask_);
-    WriteSolid(CarriedProperties(attributes), sources, result,
+    WriteSolid(CarriedProperties(attributes), sources, limited,
                {.program = std::as_bytes(std::span(*program)),
                 .onProgress = [&](std::uint64_t done, std::uint64_t total) {
                     progress.Show(done, total);

@@ -17,8 +17,11 @@ public:
     /// What `Method10` answers where the icon can't be opened.
     static constexpr Long kNoIcon = 39;
 
+    /// Windows starts no program of 4 GiB; a signature has room behind it.
+    static constexpr std::uint64_t kMaxProgramSize = 0xFFFFFFFF - 1024 * 1024;
+
     /// `extractor` is the program that stands before the payload.
-    ActiveDelivery(Host& host, Ask& ask, Text extractor);
+    ActiveDelivery(Host& host, Ask& ask, Text extractor, std::uint64_t maxSize = kMaxProgramSize);
 
     /// Puts all files that match the pattern ("C:\Ut\*.*": those of a folder) into an archive,
     /// stored: what comes after packs them.
@@ -29,7 +32,8 @@ public:
     Long Method4(const Text& projectPath, Long attribute, Long value);
     /// Sets an attribute that is a text.
     Long Method6(const Text& projectPath, Long attribute, const Text& value);
-    /// Builds the program that the project describes.
+    /// Builds the program that the project describes. Answers 6 for one that becomes too large, of
+    /// which nothing is left.
     Long Method10(const Text& projectPath);
 
     /// What the machine could not do, of the last method that failed.
@@ -43,6 +47,7 @@ private:
     Host& host_;
     Ask& ask_;
     Text extractor_;
+    std::uint64_t maxSize_;
     std::optional<RunError> failure_;
 };
 

@@ -1,6 +1,7 @@
 #include "builder/selfextract/payload_sources.h"
 
 #include "archive/solid/signature_fields.h"
+#include "archive/solid/writer/x86_program.h"
 #include "archive/zip_directory.h"
 #include "formats/package_files.h"
 #include "formats/package_manifest.h"
@@ -11,9 +12,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr std::uint16_t kMachine386 = 0x14C;
-constexpr std::uint16_t kMachineAmd64 = 0x8664;
 
 /// A part of a file, as a file.
 class FilePart : public InputFile {
@@ -52,15 +50,11 @@ std::uint64_t DataPosition(InputFile& archive, const ZipEntry& entry)
     return entry.headerPosition + bytes.size() + header->nameLength + header->extraLength;
 }
 
-bool IsX86Program(InputFile& file, std::uint64_t position, std::uint64_t size)
+bool IsX86ProgramAt(InputFile& file, std::uint64_t position, std::uint64_t size)
 {
     zip::Bytes head(static_cast<std::size_t>(std::min<std::uint64_t>(size, kProgramHeadSize)));
     zip::ReadExactly(file, position, head);
-    if (!FindSignatureFields(head))
-        return false;
-    const auto header = zip::ReadNumber<std::uint32_t>(std::span(head).subspan(60));
-    const auto machine = zip::ReadNumber<std::uint16_t>(std::span(head).subspan(header + 4));
-    return machine == kMachine386 || machine == kMachineAmd64;
+    return IsX86Program(head);
 }
 
 void AddRun(std::vector<SolidRun>& runs, std::uint64_t size, SolidFilter filter)
@@ -85,7 +79,7 @@ std::vector<SolidRun> RunsOfContainer(InputFile& container)
             continue;
         const std::uint64_t data = DataPosition(container, entry);
         // Two entries may share their bytes.
-        if (data < done || !IsX86Program(container, data, entry.size))
+        if (data < done || !IsX86ProgramAt(container, data, entry.size))
             continue;
         AddRun(runs, data - done, SolidFilter::None);
         AddRun(runs, entry.size, SolidFilter::X86);
@@ -118,7 +112,7 @@ std::vector<SolidRun> RunsOf(const FileSystem& files, const Text& archive, const
     FilePart part(files.OpenInput(archive), data, size);
     if (IsContainer(name))
         return RunsOfContainer(part);
-    return {{size, IsX86Program(part, 0, size) ? SolidFilter::X86 : SolidFilter::None}};
+    return {{size, IsX86ProgramAt(part, 0, size) ? SolidFilter::X86 : SolidFilter::None}};
 }
 
 Text Kind(const Text& name)

@@ -2,6 +2,7 @@
 
 #include "builder/remove_quietly.h"
 #include "builder/selfextract/active_delivery.h"
+#include "builder/selfextract/older_program.h"
 #include "builder/signing/sign_programs.h"
 #include "formats/runtime_programs.h"
 #include "formats/self_extraction.h"
@@ -201,6 +202,8 @@ bool TellFailure(CreateRun& run, Long number)
                           " inträffade när en självuppackande installation skulle skapas!");
     if (number == ActiveDelivery::kNoIcon)
         run.ask.AddStatusLine(" - Ikonen till den självuppackande filen kan ej öppnas!");
+    if (number == ErrorNumber::kOverflow)
+        run.ask.AddStatusLine(" - Den självuppackande filen blir större än 4 GB!");
     if (run.DestDir.find(' ') != Text::npos)
         run.ask.Critical("Info",
                          "Destinationskatalogen (dit installationsfilerna kopieras till) får ej "
@@ -238,8 +241,10 @@ bool BuildSelfExtractingFile(CreateRun& run)
     run.ask.AddStatusLine("Skapar " + UpperCase(name) + " (självuppackande installationsprogram)");
     const Text project = run.InDestination(kProjectName);
     const SelfExtractInput input = InputOf(run);
-    for (const Text& path : {input.archive, project, input.result})
+    for (const Text& path : {input.archive, project})
         RemoveQuietly(run.host.files, path);
+    // Where the name was empty until now.
+    PutOlderProgramAside(run);
 
     ActiveDelivery delivery(run.host, run.ask,
                             run.options.ToolFolder + "\\Release\\" +

@@ -1,5 +1,6 @@
 #include "runtime/win32/library_container.h"
 
+#include "archive/solid/package_container.h"
 #include "platform/run_error.h"
 #include "platform/win32/wide_text.h"
 #include "runtime/unzip_library.h"
@@ -20,6 +21,11 @@ public:
         Find(functions_.go, "QnUnzipGo");
         Find(functions_.end, "QnUnzipEnd");
         Find(functions_.crc, "QnUnzipCrc");
+        // Of the library of a package with a solid container.
+        Find(frames_.begin, "QnFramesBegin");
+        Find(frames_.reset, "QnFramesReset");
+        Find(frames_.go, "QnFramesGo");
+        Find(frames_.end, "QnFramesEnd");
         if (functions_.begin && functions_.go && functions_.end && functions_.crc)
             return;
         FreeLibrary(module_);
@@ -30,6 +36,7 @@ public:
     Library& operator=(const Library&) = delete;
 
     const Inflation& Functions() const { return functions_; }
+    const FrameDecoding& Frames() const { return frames_; }
 
 private:
     template <class Function>
@@ -41,24 +48,27 @@ private:
 
     HMODULE module_;
     Inflation functions_;
+    FrameDecoding frames_;
 };
 
 class LibraryContainer : public Container {
 public:
     LibraryContainer(const FileSystem& files, const Text& libraryPath, const Text& path)
-        : library_(libraryPath), reader_(files.OpenInput(path), library_.Functions())
+        : library_(libraryPath),
+          container_(
+              OpenAnyContainer(files.OpenInput(path), library_.Functions(), library_.Frames()))
     {
     }
 
-    const std::vector<ZipEntry>& Entries() const override { return reader_.Entries(); }
+    const std::vector<ZipEntry>& Entries() const override { return container_->Entries(); }
     void Extract(const ZipEntry& entry, const Text& password, const ZipReader::Sink& sink) override
     {
-        reader_.Extract(entry, password, sink);
+        container_->Extract(entry, password, sink);
     }
 
 private:
     Library library_;
-    ZipReader reader_;
+    std::unique_ptr<Container> container_;
 };
 
 } // namespace

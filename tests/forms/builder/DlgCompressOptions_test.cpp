@@ -16,15 +16,18 @@ TEST_F(DlgCompressOptionsTest, EnablesWhatTheMediumOffers)
         Medium medium;
         bool canUse;
         bool canKeep;
-    } const cases[] = {{Medium::Floppy, true, false},
-                       {Medium::CompressedCd, true, true},
-                       {Medium::CdTree, false, false},
-                       {Medium::Internet, true, false}};
+        bool canBeSmall;
+    } const cases[] = {{Medium::Floppy, true, false, false},
+                       {Medium::CompressedCd, true, true, true},
+                       {Medium::CdTree, false, false, false},
+                       {Medium::Internet, true, false, false}};
     for (const auto& expected : cases) {
         create.TargetMedia = expected.medium;
         DlgCompressOptions form(session, create, nullptr);
         EXPECT_EQ(form.cUseCompression->isEnabled(), expected.canUse);
         EXPECT_EQ(form.cKeepCompressedFilesOneAndOne->isEnabled(), expected.canKeep);
+        EXPECT_EQ(form.cSmallContainer->isEnabled(), expected.canBeSmall);
+        EXPECT_FALSE(form.cSmallContainer->isChecked());
         EXPECT_TRUE(form.cUseCompression->isChecked());
         EXPECT_FALSE(form.cKeepCompressedFilesOneAndOne->isChecked());
     }
@@ -64,12 +67,43 @@ TEST_F(DlgCompressOptionsTest, OkStoresBoth)
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
 }
 
+TEST_F(DlgCompressOptionsTest, OnlyWhatIsCompressedTogetherCanBeSmall)
+{
+    create.SmallContainer = 1;
+    DlgCompressOptions form(session, create, nullptr);
+    ShowActive(form);
+    EXPECT_TRUE(form.cSmallContainer->isChecked());
+    EXPECT_TRUE(form.cSmallContainer->isEnabled());
+    Click(form, "cUseCompression");
+    EXPECT_FALSE(form.cSmallContainer->isEnabled());
+    Click(form, "cUseCompression");
+    EXPECT_TRUE(form.cSmallContainer->isEnabled());
+    Click(form, "cKeepCompressedFilesOneAndOne");
+    EXPECT_FALSE(form.cSmallContainer->isEnabled());
+    // What was chosen is still there when the way is free again.
+    EXPECT_TRUE(form.cSmallContainer->isChecked());
+}
+
+TEST_F(DlgCompressOptionsTest, OkStoresTheSmallContainer)
+{
+    DlgCompressOptions form(session, create, nullptr);
+    ShowActive(form);
+    Click(form, "cSmallContainer");
+    EXPECT_EQ(create.SmallContainer, 0);
+    Click(form, "cmdOK");
+    EXPECT_EQ(create.SmallContainer, 1);
+    EXPECT_EQ(create.UseCompression, 1);
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
+}
+
 TEST_F(DlgCompressOptionsTest, CancelStoresNothing)
 {
     DlgCompressOptions form(session, create, nullptr);
     ShowActive(form);
+    Click(form, "cSmallContainer");
     Click(form, "cKeepCompressedFilesOneAndOne");
     Click(form, "cmdCancel");
+    EXPECT_EQ(create.SmallContainer, 0);
     EXPECT_EQ(create.UseCompression, 1);
     EXPECT_EQ(create.KeepCompressedFilesOneAndOne, 0);
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
@@ -79,6 +113,8 @@ TEST_F(DlgCompressOptionsTest, AccessLettersReachTheBoxes)
 {
     DlgCompressOptions form(session, create, nullptr);
     ShowActive(form);
+    QTest::keyClick(&form, Qt::Key_M, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.cSmallContainer->isChecked(); }));
     QTest::keyClick(&form, Qt::Key_A, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !form.cUseCompression->isChecked(); }));
     QTest::keyClick(&form, Qt::Key_S, Qt::AltModifier);

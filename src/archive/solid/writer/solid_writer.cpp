@@ -1,14 +1,13 @@
 #include "archive/solid/writer/solid_writer.h"
 
+#include "archive/solid/filtered_run.h"
 #include "archive/solid/solid_digest.h"
-#include "archive/solid/x86_filter.h"
 #include "helpers/closer.h"
 #include "platform/run_error.h"
 
 #include <zstd.h>
 
 #include <algorithm>
-#include <cstring>
 #include <new>
 #include <thread>
 
@@ -142,24 +141,17 @@ public:
 private:
     void PackRun(const SolidSource& source, InputFile& input, const SolidRun& run)
     {
-        X86Filter filter(X86Filter::Direction::Encode);
-        std::uint64_t left = run.size;
-        std::size_t held = 0;
-        while (left > 0 || held > 0) {
-            const auto count =
-                static_cast<std::size_t>(std::min<std::uint64_t>(left, buffer_.size() - held));
-            ReadFully(source, input, std::span(buffer_).subspan(held, count));
-            left -= count;
-            const auto filled = std::span(buffer_).first(held + count);
-            const std::size_t done =
-                run.filter == SolidFilter::X86 ? filter.Convert(filled, left == 0) : filled.size();
-            output_.Pack(filled.first(done));
-            held = filled.size() - done;
-            std::memmove(buffer_.data(), buffer_.data() + done, held);
-            done_ += count;
-            if (options_.onProgress)
-                options_.onProgress(done_, total_);
-        }
+        PassThroughFilter(
+            run, X86Filter::Direction::Encode, buffer_,
+            [&](std::span<std::byte> bytes) {
+                ReadFully(source, input, bytes);
+                done_ += bytes.size();
+            },
+            [&](std::span<const std::byte> bytes) {
+                output_.Pack(bytes);
+                if (options_.onProgress)
+                    options_.onProgress(done_, total_);
+            });
     }
 
     static void ReadFully(const SolidSource& source, InputFile& input, std::span<std::byte> bytes)

@@ -1,0 +1,16 @@
+// The self-extracting program of an earlier run. Everything beside it in the folder of the Internet
+// medium is packed, so it is out of the way while a new one is made; it is gone only when the new
+// one is there, and comes back where that was not made.
+#pragma once
+
+#include "builder/create_run.h"
+
+namespace quillon {
+
+/// Kept: a program that can't be put aside is deleted, and a failure of that is passed over.
+void PutOlderProgramAside(CreateRun& run);
+
+/// At the end of a run, however it went. What a killed run has put aside is settled by the next.
+void SettleOlderProgram(CreateRun& run);
+
+} // namespace quillon
