@@ -140,6 +140,22 @@ compare_one_program() {
     judge 1048576 'KB of memory at most' "$our_memory" '<='
 }
 
+# The container that is as small as it can be, against the ZIP file of the same tree.
+compare_containers() {
+    local zip_size small_size
+    empty_package
+    "$quillonc" create "$work/all.qnp" --medium cd --to "$work/package" >/dev/null
+    zip_size=$(size_of "$work/package/FILEDATA.DAT")
+    measure empty_package "$quillonc" create "$work/all.qnp" --medium cd --small --to "$work/package"
+    small_size=$(size_of "$work/package/FILEDATA.DAT")
+    line "quillonc, solid" "$seconds" "$small_size" "$memory"
+    "$quillonc" verify "$work/package" || { echo "The package is not whole." >&2; exit 1; }
+
+    echo
+    judge 0.8 'times the size of the container as a ZIP file' "$(ratio "$small_size" "$zip_size")" '<='
+    judge 1048576 'KB of memory at most' "$memory" '<='
+}
+
 # The best of several repetitions, by the processor's time: what else runs here does not count.
 growth() {
     local program=$1 name small large
@@ -161,6 +177,7 @@ build release
 cmake --build --preset release --target benchmarks >>build/release.log 2>&1
 
 compare_programs
+compare_containers
 compare_one_program
 growth "$bin/file_list_bench"
 growth "$bin/project_bench"

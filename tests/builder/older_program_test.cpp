@@ -9,7 +9,6 @@
 
 namespace quillon {
 
-using test::Answer;
 using test::BoxKind;
 using test::CreateDesk;
 using testing::ElementsAre;

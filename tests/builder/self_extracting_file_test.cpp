@@ -120,7 +120,7 @@ TEST_F(SelfExtractingFile, CarriesAWholePackage)
     EXPECT_EQ(package.rows.size(), 3U);
     EXPECT_TRUE(package.manifest.Names("starta.exe"));
     EXPECT_EQ(desk.machine.files.Get("C:\\Upp\\starta.exe"), "start");
-    ASSERT_TRUE(package.container.has_value());
+    ASSERT_NE(package.container, nullptr);
     // Stored, in the order that packs best.
     std::vector<Text> names;
     for (const ZipEntry& entry : package.container->Entries()) {

@@ -19,8 +19,8 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kPieceSize = 1024 * 1024;
-// Each takes about 150 MiB with the largest frames.
-constexpr unsigned kMaxThreads = 4;
+// Each takes about 120 MiB with the largest frames, match finder and result included.
+constexpr unsigned kMaxThreads = 6;
 
 unsigned ThreadCount(const SolidContainerOptions& options)
 {
