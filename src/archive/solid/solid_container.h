@@ -7,7 +7,8 @@
 //   stream that is cut into frames; a file costs the unpacking of what is before it in its frame,
 //   and nothing where the files are asked for in the order of the container. Frames with
 //   nothing that is wanted are passed over.
-// - Memory: one frame's window, 32 MiB, and a last file that serves several rows, which come one
+// - Memory: one frame's window, at most 32 MiB, and a last file that serves several rows, which
+// come one
 //   behind the other.
 // - The packed bytes of a frame are held against their SHA-256 before the first of them is
 //   unpacked, and the index against its own. Whoever made the file made the digests too, so what

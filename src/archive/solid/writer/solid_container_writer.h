@@ -13,9 +13,12 @@
 
 namespace quillon {
 
+/// Less than the format allows: a setup of more than ten thousand rows stays below 64 MiB that way.
+inline constexpr std::uint32_t kContainerFrameSize = 24 * 1024 * 1024;
+
 struct SolidContainerOptions {
     unsigned threads = 0; // 0 takes as many as the machine has
-    std::uint32_t frameSize = kMaxContainerFrameSize;
+    std::uint32_t frameSize = kContainerFrameSize;
 };
 
 /// Packs the sources in their order. Throws as `WriteZip` does; what was written so far is then of
