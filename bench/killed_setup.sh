@@ -10,7 +10,7 @@
 #
 # Wine's own programs go on, so that a turn takes a second or two. What is killed is told by the
 # prefix in its environment and by its name; all of it dies by one call, so that no part of the setup
-# sees another one end.
+# does anything about the end of another one.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/prepare.sh
@@ -78,12 +78,14 @@ kill_at() {
     "$@" >"$work/log" 2>&1 &
     local running=$!
     sleep "$(awk -v ms="$moment" 'BEGIN { printf "%.3f", ms / 1000 }')"
+    # A program that was about to start is seen by the next look alone; without its parent, Wine lets
+    # it wait for ever.
     local victims
-    victims=$(own_processes)
-    # shellcheck disable=SC2086
-    [ -z "$victims" ] || kill -9 $victims 2>/dev/null || true
+    while victims=$(own_processes) && [ -n "$victims" ]; do
+        # shellcheck disable=SC2086
+        kill -9 $victims 2>/dev/null || true
+    done
     wait "$running" 2>/dev/null || true
-    wait_for_end
 }
 
 random_below() { echo $(((RANDOM * 32768 + RANDOM) % $1)); }
