@@ -175,6 +175,8 @@ TEST_F(SetupPages, LeadToWhatIsInstalled)
     script.Type(PageField::Group, "Min grupp").Next();
     script.Page("Starta installation").Read(PageField::BodyText).Next();
     script.Page("Installationen avslutad").Read(PageField::BodyText).Next().End();
+    const RegistryText registryBefore(prefix);
+    const FolderState before = StateOf(prefix.DriveC());
     EXPECT_EQ(Drive(script, Setup(package)),
               "Välkommen till Provpaket Åäö.|Två rader & ett tecken.\n"
               "Godkänner du avtalet?\n" +
@@ -197,6 +199,13 @@ TEST_F(SetupPages, LeadToWhatIsInstalled)
     EXPECT_FALSE(fs::exists(prefix.OnHost("C:\\Min mapp\\Kanske")));
     EXPECT_FALSE(fs::exists(prefix.OnHost("C:\\Program Files\\Provpaket Åäö")));
     EXPECT_THAT(ReadBytes(prefix.OnHost("C:\\windows\\win.ini")), HasSubstr("Namn=\xC5ke \xD6"));
+
+    // What the user has chosen goes as well: every file and every value is as it was.
+    EXPECT_EQ(prefix.Run("C:\\Min mapp\\QNXUNIN.EXE", "/S"), 0U);
+    prefix.Restart();
+    EXPECT_EQ(RegistryDifference(registryBefore, RegistryText(prefix)), "");
+    EXPECT_EQ(FolderDifference(before, StateOf(prefix.DriveC())),
+              "new: driven.txt\nnew: script.txt\nchanged: windows/win.ini\n");
 }
 
 TEST_F(SetupPages, ChangeNothingWhereTheUserDeclinesOrCancels)
