@@ -1,11 +1,13 @@
-// The log that /LOG= asks for: UTF-8, in the language of the package, a line for each action, with
-// the reason where something was skipped. A log that can't be written any more stops being written;
-// it never stops the work.
+// What the run tells of itself: the log that /LOG asks for, UTF-8 in the language of the package, a
+// line for each action, with the reason where something was skipped; and the same for programs
+// (json_log.h). A log that can't be written any more stops being written; it never stops the work.
 #pragma once
 
 #include "platform/file_system.h"
 #include "platform/machine.h"
+#include "runtime/json_log.h"
 #include "runtime/language_file.h"
+#include "runtime/switches.h"
 
 #include <exception>
 #include <memory>
@@ -16,8 +18,14 @@ class ActionLog {
 public:
     /// A log that goes nowhere.
     ActionLog() = default;
-    /// Throws as `OpenOutput` does. The texts have to live as long as the log.
+    /// Throws as `OpenOutput` does. The texts have to live as long as the log. No file for an empty
+    /// path.
     ActionLog(FileSystem& files, const Machine& machine, const Text& path,
+              const LanguageTexts& texts)
+        : ActionLog(files, machine, LogFiles{path, {}, {}}, texts)
+    {
+    }
+    ActionLog(FileSystem& files, const Machine& machine, const LogFiles& paths,
               const LanguageTexts& texts);
 
     /// With `first` in the place of "%1" and `second` in that of "%2".
@@ -28,12 +36,27 @@ public:
     void CannotRemove(std::string_view what, const std::exception& error);
     /// A line that is in the language of the package already.
     void TextLine(std::string_view text);
+    /// Ends the log for programs with the code of the whole run.
+    void End(ExitCode code, bool needsRestart, std::string_view error = {});
     void Close();
 
 private:
+    void Because(Message message, std::string_view what, std::string_view detail,
+                 const std::optional<Reason>& reason);
+
     const Machine* machine_ = nullptr;
     const LanguageTexts* texts_ = nullptr;
     std::unique_ptr<OutputFile> file_;
+    std::unique_ptr<JsonLog> json_;
 };
+
+/// A path in the folder for temporary files at which nothing is: "QNSETUP-20040301-123005.LOG".
+Text NewFileInTemp(const FileSystem& files, const Machine& machine, std::string_view program,
+                   std::string_view ending);
+
+/// The files that the switches ask for. A /LOG without a value means a new file in the folder for
+/// temporary files, named after the program and the time.
+LogFiles LogFilesOf(const Switches& switches, const FileSystem& files, const Machine& machine,
+                    std::string_view program);
 
 } // namespace quillon

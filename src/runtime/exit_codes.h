@@ -1,5 +1,6 @@
 // What the setup and the uninstaller tell whoever started them. The numbers are those that Windows
-// itself uses for the same ends, so that scripts and deployment tools know them.
+// itself uses for the same ends, so that scripts and deployment tools know them; what Windows has
+// no number for begins at 20001, where it has none of any kind.
 #pragma once
 
 #include "helpers/text.h"
@@ -15,12 +16,16 @@ enum class ExitCode : int {
     Cancelled = 1602,
     Failed = 1603, // and undone: the machine is as it was before
     NothingInstalled = 1605,
-    AlreadyUninstalled = 1614, // what is left of it goes when the machine starts next
+    AlreadyUninstalled =
+        1614, // what is left of it goes at the next start, or its uninstaller has gone
     OtherSetupRuns = 1618,
+    Forbidden = 1625, // for those users, by the project or the system
     WrongSystem = 1633,
+    OtherVersion = 1638, // the version that is installed does not let this one in
     BadSwitch = 1639,
-    RestartStarted = 1641, // done, and the machine starts anew
+    RestartStarted = 1641, // done, and the machine is on its way to its next start
     RestartNeeded = 3010,  // done, but the product is whole only after the next start
+    DamagedPackage = 20001,
     PrerequisiteMissing = 20002,
     FileInUse = 20003, // by a program that goes on running; undone
 };

@@ -56,21 +56,27 @@ Reason ReasonOf(const ZipError& error)
     return {Message::PackageFileDamaged, kFileContainerName};
 }
 
-Text FailureReason(const std::exception& error, const LanguageTexts& texts)
+std::optional<Reason> ReasonOf(const std::exception& error)
 {
     if (const auto* machine = dynamic_cast<const RunError*>(&error))
-        return texts(ReasonOf(*machine));
+        return ReasonOf(*machine);
     if (const auto* archive = dynamic_cast<const ZipError*>(&error))
-        return texts(ReasonOf(*archive));
+        return ReasonOf(*archive);
     // Where the user has cancelled there is nothing to explain.
     if (const auto* setup = dynamic_cast<const SetupFailure*>(&error))
-        return *setup->what() == 0 ? texts[Message::ReasonCancelled] : setup->what();
-    return texts[Message::ReasonUnexpected];
+        return *setup->what() == 0 ? std::optional(Reason{Message::ReasonCancelled}) : std::nullopt;
+    return Reason{Message::ReasonUnexpected};
+}
+
+Text FailureReason(const std::exception& error, const LanguageTexts& texts)
+{
+    const auto reason = ReasonOf(error);
+    return reason ? texts(*reason) : error.what();
 }
 
 SetupFailure DamagedPackage(const LanguageTexts& texts, const Reason& reason)
 {
-    return {ExitCode::Failed, texts(Message::Damaged, texts(reason))};
+    return {ExitCode::DamagedPackage, texts(Message::Damaged, texts(reason))};
 }
 
 } // namespace quillon

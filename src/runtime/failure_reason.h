@@ -8,12 +8,16 @@
 #include "runtime/language_file.h"
 
 #include <exception>
+#include <optional>
 
 namespace quillon {
 
 Reason ReasonOf(const RunError& error);
 /// The archive is the one of the package's files.
 Reason ReasonOf(const ZipError& error);
+
+/// Nothing where the reason is in words alone.
+std::optional<Reason> ReasonOf(const std::exception& error);
 
 Text FailureReason(const std::exception& error, const LanguageTexts& texts);
 

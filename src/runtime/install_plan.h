@@ -30,6 +30,7 @@ struct SkippedPart {
 };
 
 struct InstallPlan {
+    InstallScope scope = InstallScope::Project;
     Text mainFolder;
     std::vector<Text> folders; // of the rows that make an empty one
     std::vector<PlannedFile> files;

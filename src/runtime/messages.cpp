@@ -121,6 +121,32 @@ constexpr MessageKey kMessages[] = {
     {Message::ScreenPicture,          "Test",      "Msg_ScreenPicture",       "Bakgrundsbild: %1"},
     {Message::Close,                  "Test",      "Button_Close",            "Stäng"},
     {Message::TestFiles,              "Test",      "Err_TestFiles",           "Testet kan inte visas (%1). Starta det på nytt."},
+    {Message::HelpHeading,             "Switches",  "Help_Heading",            "Växlar:"},
+    {Message::HelpSilent,              "Switches",  "Help_Silent",             "visar och frågar ingenting"},
+    {Message::HelpPassive,             "Switches",  "Help_Passive",            "visar bara förloppet"},
+    {Message::HelpFolder,              "Switches",  "Help_Folder",             "installerar i den mappen"},
+    {Message::HelpChoices,             "Switches",  "Help_Choices",            "väljer komponenter och programgrupp"},
+    {Message::HelpScope,               "Switches",  "Help_Scope",              "installerar för alla användare eller bara för den aktuella"},
+    {Message::HelpLanguage,            "Switches",  "Help_Language",           "väljer språk"},
+    {Message::HelpPassword,            "Switches",  "Help_Password",           "anger lösenordet"},
+    {Message::HelpLogs,                "Switches",  "Help_Logs",               "skriver en logg att läsa, en för program eller bara resultatet"},
+    {Message::HelpAnswers,             "Switches",  "Help_Answers",            "läser eller sparar svaren"},
+    {Message::HelpPlan,                "Switches",  "Help_Plan",               "skriver vad som skulle göras, och gör ingenting"},
+    {Message::HelpExtract,             "Switches",  "Help_Extract",            "packar upp filerna och installerar ingenting"},
+    {Message::HelpUninstall,           "Switches",  "Help_Uninstall",          "avinstallerar programmet"},
+    {Message::HelpRestart,             "Switches",  "Help_Restart",            "startar inte om datorn; slutar med den koden där en omstart behövs"},
+    {Message::HelpBoxes,               "Switches",  "Help_Boxes",              "ställer inga frågor; går inte att avbryta"},
+    {Message::HelpClose,               "Switches",  "Help_Close",              "stänger program som använder filerna, eller låter dem vara"},
+    {Message::HelpVersion,             "Switches",  "Help_Version",            "visar versionen"},
+    {Message::VersionText,             "Switches",  "Msg_Version",             "%1, version %2"},
+    {Message::PlanWritten,             "Switches",  "Msg_PlanWritten",         "Planen har skrivits till %1. Ingenting har installerats."},
+    {Message::Extracted,               "Switches",  "Msg_Extracted",           "Filerna har packats upp i %1. Ingenting har installerats."},
+    {Message::ExtractFolderInUse,      "Switches",  "Err_ExtractFolder",       "Mappen '%1' är inte tom. Ange en tom mapp att packa upp filerna i."},
+    {Message::NotInstalled,            "Switches",  "Err_NotInstalled",        "%1 är inte installerat."},
+    {Message::UninstallerMissing,      "Switches",  "Err_UninstallerMissing",  "%1 kan inte avinstalleras. Filen '%2' saknas eller går inte att lita på."},
+    {Message::NotForCurrentUser,       "Switches",  "Err_NotForCurrentUser",   "Programmet kan inte installeras bara för den aktuella användaren (%1)."},
+    {Message::NotForAllUsers,          "Switches",  "Err_NotForAllUsers",      "Programmet kan inte installeras för alla användare på den här datorn."},
+    {Message::SavesAnswers,            "Switches",  "Msg_SavesAnswers",        "Sparar svaren i %1"},
     {Message::PackageFileMissing,     "Package",   "Package_FileMissing",     "%1 saknas eller kan inte läsas"},
     {Message::PackageFileIncomplete,  "Package",   "Package_FileIncomplete",  "%1 är ofullständig"},
     {Message::PackageFileDamaged,     "Package",   "Package_FileDamaged",     "%1 är skadad"},
@@ -274,6 +300,13 @@ constexpr bool IsInOrder()
 }
 static_assert(IsInOrder(), "the rows stand in the order of Message");
 
+constexpr Message kSharedWithSetup[] = {
+    Message::Ok,          Message::Cancel,        Message::Yes,           Message::No,
+    Message::BadSwitch,   Message::OtherSetup,    Message::InUsePrograms, Message::InUseClose,
+    Message::InUseFiles,  Message::InUseTryAgain, Message::HelpHeading,   Message::HelpSilent,
+    Message::HelpPassive, Message::HelpLogs,      Message::HelpRestart,   Message::HelpBoxes,
+    Message::HelpClose,   Message::HelpVersion,   Message::VersionText};
+
 } // namespace
 
 const MessageKey& KeyOf(Message message)
@@ -283,24 +316,13 @@ const MessageKey& KeyOf(Message message)
 
 bool IsOfUninstaller(Message message)
 {
-    const std::string_view section = KeyOf(message).section;
-    if (section == "Uninstall" || section == "Log" || section == "Reasons")
-        return true;
-    switch (message) {
-    case Message::Ok:
-    case Message::Cancel:
-    case Message::Yes:
-    case Message::No:
-    case Message::BadSwitch:
-    case Message::OtherSetup:
-    case Message::InUsePrograms:
-    case Message::InUseClose:
-    case Message::InUseFiles:
-    case Message::InUseTryAgain:
-        return true;
-    default:
-        return false;
-    }
+    for (const std::string_view section : {"Uninstall", "Log", "Reasons"})
+        if (KeyOf(message).section == section)
+            return true;
+    for (const Message shared : kSharedWithSetup)
+        if (message == shared)
+            return true;
+    return false;
 }
 
 } // namespace quillon

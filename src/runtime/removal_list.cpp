@@ -19,7 +19,7 @@ public:
                 const Text& logPath)
         : product_(product), files_(host.files), target_(target),
           paths_(product.records, host, target, ExtractDirectory(logPath)),
-          entry_(UninstallEntryKey(product.name))
+          entry_(RecordedUninstallEntry(product.name, product.records))
     {
         for (const JournalRecord& record : product.records)
             AddFileOf(record);

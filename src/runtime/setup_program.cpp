@@ -1,15 +1,17 @@
 #include "runtime/setup_program.h"
 
 #include "formats/package.h"
-#include "formats/runtime_programs.h"
 #include "formats/setup_names.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "runtime/after_install.h"
+#include "runtime/answer_file.h"
+#include "runtime/before_install.h"
 #include "runtime/copy_decision.h"
 #include "runtime/data_access.h"
+#include "runtime/extraction.h"
 #include "runtime/failure_reason.h"
 #include "runtime/files_in_use.h"
 #include "runtime/first_program.h"
@@ -19,13 +21,15 @@
 #include "runtime/pages/component_switch.h"
 #include "runtime/pages/earlier_version.h"
 #include "runtime/pages/page_chain.h"
+#include "runtime/passive_ask.h"
+#include "runtime/plan_report.h"
 #include "runtime/restart.h"
 #include "runtime/rollback.h"
 #include "runtime/script/script_run.h"
+#include "runtime/setup_help.h"
+#include "runtime/start_uninstaller.h"
 #include "runtime/uninstall_entry.h"
 
-#include <algorithm>
-#include <map>
 #include <set>
 
 namespace quillon {
@@ -35,13 +39,15 @@ namespace {
 class SetupProgram {
 public:
     SetupProgram(const SetupInput& input, const LoadedPackage& package)
-        : input_(input), package_(package), texts_(package.texts), setup_(package.setup)
+        : input_(input), package_(package), texts_(package.texts), setup_(package.setup),
+          withoutBoxes_(input.ask), ask_(input.switches.suppressBoxes ? withoutBoxes_ : input.ask)
     {
     }
 
     ExitCode Run();
 
 private:
+    ExitCode Work();
     ExitCode Fail(ExitCode code, const Text& text);
     void OpenLog();
     void CheckSwitches() const;
@@ -52,82 +58,88 @@ private:
     bool HasPassword() const;
     void CheckPassword() const;
     void CheckSystem();
-    void CheckFreeSpace(const InstallPlan& plan) const;
     void CheckFolder(const Text& folder) const;
     void FreeFilesInUse(const InstallPlan& plan);
-    void KeepHelpers() const;
-    void CheckHelpers(const InstallPlan& plan) const;
     void RunProgramBefore();
     void FindDestination();
     void LeadThroughPages();
+    void KeepAnswers();
     void FinishEarlier(const SetupVariables& variables);
     SetupVariables Variables() const;
+    InstallPlan Plan(const SetupVariables& variables) const;
+    PackageReader Reader();
     InstallResult InstallPackage();
     void LogSound();
     ExitCode TellTheEnd(const InstallResult& result);
     Text Title() const { return texts_(Message::Title, setup_.project.ProjectName.ProjectName); }
+    ExitCode Tell(const std::vector<Text>& lines);
+    ExitCode Uninstall();
+    ExitCode Extract();
+    ExitCode WritePlan();
+    bool IsTask(SetupTask task) const { return input_.switches.task == task; }
 
     const SetupInput& input_;
     const LoadedPackage& package_;
     const LanguageTexts& texts_;
     SetupInformation setup_; // with what the user has chosen
-    Text destination_;       // empty: the project's own
+    PassiveAsk withoutBoxes_;
+    Ask& ask_;         // the pages alone have a user who is asked under /SUPPRESSMSGBOXES
+    Text destination_; // empty: the project's own
     bool isUpdate_ = false;
     std::unique_ptr<PageChain> chain_;
     ActionLog log_;
 };
-
-Flag IsMeantFor(const section::TargetOS& systems, SystemKind system)
-{
-    switch (system) {
-    case SystemKind::Win95:
-        return systems.TargetOS_Win95;
-    case SystemKind::Win95OSR2:
-        return systems.TargetOS_Win95OSR2;
-    case SystemKind::Win98:
-        return systems.TargetOS_Win98;
-    case SystemKind::WinME:
-        return systems.TargetOS_WinME;
-    case SystemKind::WinNT4:
-        return systems.TargetOS_WinNT4;
-    case SystemKind::WinNT4SP3:
-        return systems.TargetOS_WinNT4SP3;
-    case SystemKind::Win2000:
-        return systems.TargetOS_Win2000;
-    case SystemKind::WinXP:
-        break;
-    }
-    return systems.TargetOS_WinXP;
-}
 
 ExitCode SetupProgram::Fail(ExitCode code, const Text& text)
 {
     const Text& project = package_.setup.project.ProjectName.ProjectName;
     log_.Line(text.empty() ? Message::LogEnds : Message::LogEndsBecause, NumberText(int(code)),
               text);
+    log_.End(code, false, text);
     log_.Close();
     if (!text.empty() && !input_.switches.silent)
-        input_.ask.Critical(texts_(Message::Title, project), text);
+        ask_.Critical(texts_(Message::Title, project), text);
     return code;
+}
+
+// Everything else is over before the first change is made to the machine.
+ExitCode SetupProgram::Work()
+{
+    OpenLog();
+    CheckSwitches();
+    if (IsTask(SetupTask::Help))
+        return Tell(HelpLines(texts_, HelpOf::Setup));
+    if (IsTask(SetupTask::Version))
+        return Tell(
+            {VersionLine(setup_.project.ProjectName.ProjectName, VersionOf(setup_), texts_)});
+    if (IsTask(SetupTask::Uninstall))
+        return Uninstall();
+    CheckPackage();
+    TakeSwitches();
+    CheckFiles();
+    CheckPassword();
+    if (IsTask(SetupTask::Extract))
+        return Extract();
+    CheckSystem();
+    CheckNetFramework(
+        {setup_.project.NET, input_.target, ask_, log_, texts_, Title(), input_.switches.silent});
+    if (IsTask(SetupTask::Install))
+        RunProgramBefore();
+    FindDestination();
+    LeadThroughPages();
+    KeepAnswers();
+    if (IsTask(SetupTask::Plan))
+        return WritePlan();
+    return TellTheEnd(InstallPackage());
 }
 
 ExitCode SetupProgram::Run()
 {
     try {
-        OpenLog();
-        CheckSwitches();
-        CheckPackage();
-        TakeSwitches();
-        CheckFiles();
-        CheckPassword();
-        CheckSystem();
-        CheckNetFramework({setup_.project.NET, input_.target, input_.ask, log_, texts_, Title(),
-                           input_.switches.silent});
-        RunProgramBefore();
-        FindDestination();
-        LeadThroughPages();
-        const ExitCode code = TellTheEnd(InstallPackage());
+        const ExitCode done = Work();
+        const ExitCode code = CodeToEndWith(done, input_.switches);
         log_.Line(Message::LogDone);
+        log_.End(code, done == ExitCode::RestartNeeded || done == ExitCode::RestartStarted);
         log_.Close();
         return code;
     } catch (const SetupFailure& failure) {
@@ -135,7 +147,7 @@ ExitCode SetupProgram::Run()
     } catch (const ZipError& error) {
         if (error.Reason() == ZipError::Kind::WrongPassword)
             return Fail(ExitCode::Failed, texts_[Message::WrongPassword]);
-        return Fail(ExitCode::Failed, texts_(Message::Damaged, texts_(ReasonOf(error))));
+        return Fail(ExitCode::DamagedPackage, texts_(Message::Damaged, texts_(ReasonOf(error))));
     } catch (const RunError& error) {
         if (error.Number() == ErrorNumber::kDiskFull)
             return Fail(ExitCode::DiskFull, texts_(Message::DiskFull, error.Path()));
@@ -149,9 +161,9 @@ ExitCode SetupProgram::Run()
 
 void SetupProgram::OpenLog()
 {
-    if (input_.switches.logFile.empty())
-        return;
-    log_ = ActionLog(input_.host.files, input_.host.machine, input_.switches.logFile, texts_);
+    log_ = ActionLog(input_.host.files, input_.host.machine,
+                     LogFilesOf(input_.switches, input_.host.files, input_.host.machine, "QNSETUP"),
+                     texts_);
     log_.Line(Message::LogBegins, package_.setup.project.ProjectName.ProjectName,
               input_.switches.packageFolder);
 }
@@ -170,7 +182,7 @@ void SetupProgram::CheckSwitches() const
     if (!language.empty() &&
         !input_.host.files.FileExists(JoinPath(switches.packageFolder, language)))
         Refuse("/LANG=" + language);
-    if (input_.otherSetupRuns)
+    if (input_.otherSetupRuns && IsTask(SetupTask::Install))
         throw SetupFailure(ExitCode::OtherSetupRuns, texts_[Message::OtherSetup]);
 }
 
@@ -183,6 +195,10 @@ void SetupProgram::TakeSwitches()
         if (const auto unknown = TakeComponents(*input_.switches.components, setup_, choices))
             Refuse("/COMPONENTS=" + *unknown);
     ApplyChoices(choices, setup_);
+    ApplyUser(input_.switches, setup_);
+    if (input_.switches.scope != InstallScope::Project)
+        setup_.project.ProgramGroup.ProgramGroup_AllUsers =
+            input_.switches.scope == InstallScope::AllUsers ? kOn : kOff;
 }
 
 void SetupProgram::CheckPackage() const
@@ -201,9 +217,9 @@ void SetupProgram::CheckPackage() const
 
 void SetupProgram::CheckFiles()
 {
-    input_.ask.AddStatusLine(texts_[Message::Checking]);
-    CheckAgainstManifest({input_.host.files, input_.ask, log_, texts_, package_.setup,
-                          package_.rows, package_.manifest, input_.switches.packageFolder});
+    ask_.AddStatusLine(texts_[Message::Checking]);
+    CheckAgainstManifest({input_.host.files, ask_, log_, texts_, package_.setup, package_.rows,
+                          package_.manifest, input_.switches.packageFolder});
 }
 
 // True also for a package that asks for none.
@@ -237,21 +253,9 @@ void SetupProgram::CheckSystem()
         return;
     log_.Line(Message::LogWrongSystem);
     const Text title = texts_(Message::Title, package_.setup.project.ProjectName.ProjectName);
-    if (!input_.switches.silent &&
-        !input_.ask.YesNo(title, texts_[Message::WrongSystemQuestion], Ask::Stops::OnNo))
+    if (!input_.switches.silent && !IsTask(SetupTask::Plan) &&
+        !ask_.YesNo(title, texts_[Message::WrongSystemQuestion], Ask::Stops::OnNo))
         throw SetupFailure(ExitCode::Cancelled, {});
-}
-
-// Files that are replaced are counted in full: the old ones stay until everything is in its place.
-void SetupProgram::CheckFreeSpace(const InstallPlan& plan) const
-{
-    std::map<Text, std::uint64_t> needed;
-    for (const PlannedFile& file : plan.files)
-        if (file.path[1] == ':')
-            needed[UpperCase(file.path.substr(0, 3))] += file.row->size;
-    for (const auto& [root, bytes] : needed)
-        if (input_.host.files.FreeSpace(root) < bytes)
-            throw RunError(ErrorNumber::kDiskFull, root);
 }
 
 // Who has made a folder decides who may write to it, and so what the product's programs are. Other
@@ -274,52 +278,21 @@ void SetupProgram::FreeFilesInUse(const InstallPlan& plan)
         if (!HasOption(file.row->copyOptions, CopyLetter::kNeverReplace))
             paths.push_back(file.path);
     const Text title = texts_(Message::Title, setup_.project.ProjectName.ProjectName);
-    if (!FreeFiles({input_.ask, log_, texts_, input_.users, input_.switches, title}, paths))
+    if (!FreeFiles({ask_, log_, texts_, input_.users, input_.switches, title}, paths))
         throw SetupFailure(ExitCode::Cancelled, {});
-}
-
-// The package may lie on a disk that is changed while its files are read.
-void SetupProgram::KeepHelpers() const
-{
-    FileSystem& files = input_.host.files;
-    for (const char* helper :
-         {RuntimePrograms::kRegistryHelper.inPackage,
-          RuntimePrograms::kSecondRegistryHelper.inPackage, RuntimePrograms::kUninstaller.inPackage,
-          RuntimePrograms::kSetup.inPackage}) {
-        const Text path = JoinPath(input_.switches.packageFolder, helper);
-        if (files.FileExists(path))
-            files.CopyContent(path, JoinPath(input_.workFolder, helper));
-    }
-}
-
-// What is needed at the very end has to be there before the first file is written.
-void SetupProgram::CheckHelpers(const InstallPlan& plan) const
-{
-    const auto check = [&](bool isNeeded, const char* helper) {
-        const Text path = JoinPath(input_.workFolder, helper);
-        FileSystem& files = input_.host.files;
-        if (isNeeded && (!files.FileExists(path) || files.Status(path).size == 0))
-            throw DamagedPackage(texts_, {Message::PackageFileMissing, helper});
-    };
-    check(plan.hasUninstaller, RuntimePrograms::kUninstaller.inPackage);
-    check(plan.hasUninstaller, RuntimePrograms::kSetup.inPackage);
-    const bool mayRegisterLate =
-        std::any_of(plan.files.begin(), plan.files.end(), [](const PlannedFile& file) {
-            return HasOption(file.row->copyOptions, CopyLetter::kRegister) &&
-                   HasOption(file.row->copyOptions, CopyLetter::kActiveFile);
-        });
-    check(mayRegisterLate, RuntimePrograms::kSecondRegistryHelper.inPackage);
 }
 
 // An installation of the product that was ended from outside, to this folder or to another one.
 void SetupProgram::FinishEarlier(const SetupVariables& variables)
 {
     const std::string_view mainFolder = NameOf(VariableMeaning::MainFolder);
+    const InstallScope scope = input_.switches.scope;
     const SetupVariables usual = MakeSetupVariables(
-        {package_.setup, input_.host, input_.target, input_.switches.packageFolder, {}});
+        {package_.setup, input_.host, input_.target, input_.switches.packageFolder, {}, scope});
     std::set<Text> folders{variables.Value(mainFolder), usual.Value(mainFolder)};
     const auto installed = input_.target.ReadValue(
-        UninstallEntryKey(package_.setup.project.ProjectName.ProjectName), "InstallLocation");
+        UninstallEntryKey(package_.setup.project.ProjectName.ProjectName, scope),
+        "InstallLocation");
     // Anything may stand in such a value.
     if (const auto folder = installed ? TextOf(*installed) : std::nullopt;
         folder && IsAbsolutePath(*folder))
@@ -345,7 +318,8 @@ void SetupProgram::FindDestination()
         destination_ = input_.switches.destination;
     if (!destination_.empty())
         return;
-    const auto earlier = EarlierVersionFolder(setup_, input_.host, input_.target);
+    const auto earlier =
+        EarlierVersionFolder(setup_, input_.host, input_.target, input_.switches.scope);
     destination_ = earlier.value_or("");
     isUpdate_ = earlier.has_value();
 }
@@ -354,11 +328,12 @@ void SetupProgram::LeadThroughPages()
 {
     if (input_.sound != nullptr)
         input_.sound->Start();
-    if (input_.pages == nullptr)
+    if (input_.pages == nullptr || IsTask(SetupTask::Plan))
         return;
     chain_ = std::make_unique<PageChain>(
         PageInput{input_.host, input_.target, input_.ask, texts_, setup_, package_.rows,
-                  input_.switches.packageFolder, destination_, isUpdate_, HasPassword()});
+                  input_.switches.packageFolder, destination_, isUpdate_, HasPassword(),
+                  input_.switches.scope, input_.switches.canCancel});
     if (chain_->LeadThrough(*input_.pages) == PageChain::End::Cancelled)
         throw SetupFailure(ExitCode::Cancelled, {});
     const UserChoices& choices = chain_->Choices();
@@ -366,32 +341,57 @@ void SetupProgram::LeadThroughPages()
         destination_ = choices.destination;
 }
 
+void SetupProgram::KeepAnswers()
+{
+    const Text& path = input_.switches.saveAnswers;
+    if (path.empty())
+        return;
+    SaveAnswers(input_.host.files, path,
+                {setup_, Variables().Value(NameOf(VariableMeaning::MainFolder)),
+                 input_.switches.languageFile, input_.switches.scope});
+    log_.Line(Message::SavesAnswers, path);
+}
+
 SetupVariables SetupProgram::Variables() const
 {
-    return MakeSetupVariables(
-        {setup_, input_.host, input_.target, input_.switches.packageFolder, destination_});
+    return MakeSetupVariables({setup_, input_.host, input_.target, input_.switches.packageFolder,
+                               destination_, input_.switches.scope});
+}
+
+InstallPlan SetupProgram::Plan(const SetupVariables& variables) const
+{
+    InstallPlan plan =
+        MakeInstallPlan({setup_, package_.rows, variables, texts_, input_.host, input_.target});
+    plan.scope = input_.switches.scope;
+    CheckScope(plan, texts_, input_.target, input_.host.machine);
+    return plan;
+}
+
+PackageReader SetupProgram::Reader()
+{
+    return PackageReader({input_.host, ask_, log_, texts_, setup_, package_.rows,
+                          input_.openContainer, input_.switches.packageFolder, input_.workFolder,
+                          setup_.project.DialogBoxData.CorrectPassword, input_.switches.silent,
+                          &package_.manifest});
 }
 
 InstallResult SetupProgram::InstallPackage()
 {
     const SetupVariables variables = Variables();
     CheckFolder(variables.Value(NameOf(VariableMeaning::MainFolder)));
+    const InstallPlan plan = Plan(variables);
     FinishEarlier(variables);
-    const InstallPlan plan =
-        MakeInstallPlan({setup_, package_.rows, variables, texts_, input_.host, input_.target});
-    KeepHelpers();
-    CheckHelpers(plan);
-    PackageReader reader({input_.host, input_.ask, log_, texts_, setup_, package_.rows,
-                          input_.openContainer, input_.switches.packageFolder, input_.workFolder,
-                          setup_.project.DialogBoxData.CorrectPassword, input_.switches.silent,
-                          &package_.manifest});
+    FileSystem& files = input_.host.files;
+    KeepHelpers(files, input_.switches.packageFolder, input_.workFolder);
+    CheckHelpers(files, input_.workFolder, plan, texts_);
+    PackageReader reader = Reader();
     reader.CheckEverything();
-    CheckFreeSpace(plan);
+    CheckFreeSpace(files, plan);
     FreeFilesInUse(plan);
     InstallResult result =
-        Install({input_.host, input_.target, input_.ask, log_, texts_, setup_, variables, plan,
-                 reader, input_.workFolder, input_.switches.silent, package_.manifest});
-    if (InstallDataAccess({input_.host, input_.target, input_.ask, log_, texts_, setup_, plan,
+        Install({input_.host, input_.target, ask_, log_, texts_, setup_, variables, plan, reader,
+                 input_.workFolder, input_.switches.silent, package_.manifest});
+    if (InstallDataAccess({input_.host, input_.target, ask_, log_, texts_, setup_, plan,
                            input_.workFolder, input_.switches.silent}))
         result.needsRestart = true;
     return result;
@@ -430,82 +430,59 @@ ExitCode SetupProgram::TellTheEnd(const InstallResult& result)
             chain_->ShowDocument(*input_.pages, setup_.project.ShowDocAfter.InternalRTFBoxDlgTitle,
                                  rtf);
     });
-    return DecideRestart({setup_.project.InstallOptions, input_.ask, texts_, Title(),
-                          result.needsRestart,
+    return DecideRestart({setup_.project.InstallOptions, ask_, texts_, Title(), result.needsRestart,
                           !input_.switches.silent && !input_.switches.noRestart});
 }
 
-template <class Take>
-void ReadPart(const FileSystem& files, const Text& folder, const Text& name, LoadedPackage& package,
-              Take take)
+// What is asked for is shown also where boxes are not wanted, but never under /S.
+ExitCode SetupProgram::Tell(const std::vector<Text>& lines)
 {
-    const int failure = RunErrorNumber([&] { take(ReadWholeFile(files, JoinPath(folder, name))); });
-    if (failure != ErrorNumber::kNone && !package.fault)
-        package.fault = {Message::PackageFileMissing, name};
+    Text whole;
+    for (const Text& line : lines) {
+        log_.TextLine(line);
+        whole += (whole.empty() ? Text() : Text(kLineBreak)) + line;
+    }
+    if (!input_.switches.silent)
+        input_.ask.Inform(texts_(Message::Title, setup_.project.ProjectName.ProjectName), whole);
+    return ExitCode::Done;
 }
 
-LoadedPackage ReadSetupInformationFile(const FileSystem& files, const Text& folder)
+// From its start on the logs are the uninstaller's, which writes them anew.
+ExitCode SetupProgram::Uninstall()
 {
-    LoadedPackage package;
-    ReadPart(files, folder, kSetupInformationName, package,
-             [&](const std::string& bytes) { package.setup = ReadSetupInformation(bytes); });
-    return package;
+    const RunProgramToEnd run = [this](const Text& program, const Text& arguments) {
+        log_.Close();
+        log_ = ActionLog();
+        return input_.runToEnd(program, arguments);
+    };
+    return StartUninstaller({input_.host.files, input_.target, texts_,
+                             setup_.project.ProjectName.ProjectName, input_.switches, run});
 }
 
-void TellBrokenInformation(LoadedPackage& package)
+ExitCode SetupProgram::Extract()
 {
-    if (!package.fault && !package.setup.isWhole)
-        package.fault = {Message::PackageFileIncomplete, kSetupInformationName};
+    const Text& folder = input_.switches.extractFolder;
+    PackageReader reader = Reader();
+    reader.CheckEverything();
+    ExtractPackage({input_.host.files, ask_, log_, texts_, package_.rows, reader, folder});
+    return Tell({texts_(Message::Extracted, folder)});
 }
 
-void ReadLanguageFile(const FileSystem& files, const Text& path, LoadedPackage& package)
+ExitCode SetupProgram::WritePlan()
 {
-    RunErrorNumber([&] {
-        if (files.FileExists(path) && files.Status(path).size <= kMaxLanguageFileSize)
-            package.texts = LanguageTexts(ReadWholeFile(files, path));
-    });
-}
-
-// Without it everything is said in Swedish.
-void ReadLanguage(const FileSystem& files, const Text& folder, LoadedPackage& package)
-{
-    const Text& name = package.setup.project.Language.LanguageFile;
-    if (FaultOfName(name) != PathFault::None)
-        return;
-    ReadLanguageFile(files, JoinPath(folder, name), package);
+    const SetupVariables variables = Variables();
+    const InstallPlan plan = Plan(variables);
+    Reader().CheckEverything();
+    FileSystem& files = input_.host.files;
+    CheckFreeSpace(files, plan);
+    const Text& wanted = input_.switches.planFile;
+    const Text path =
+        wanted.empty() ? NewFileInTemp(files, input_.host.machine, "QNSETUP", ".JSON") : wanted;
+    WriteWholeFile(files, path, PlanReport({setup_, texts_, files, plan}));
+    return Tell({texts_(Message::PlanWritten, path)});
 }
 
 } // namespace
-
-LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder,
-                          const Text& languageFile)
-{
-    LoadedPackage package = ReadSetupInformationFile(files, packageFolder);
-    package.manifest = ReadPackageManifest(files, packageFolder);
-    ReadPart(files, packageFolder, kFileListName, package, [&](const std::string& bytes) {
-        InstallFileList list = ReadInstallFileList(bytes);
-        package.rows = std::move(list.rows);
-        if (!list.isWhole)
-            package.fault = {Message::PackageFileIncomplete, kFileListName};
-    });
-    TellBrokenInformation(package);
-    if (!package.fault && package.setup.isPreview)
-        package.fault = {Message::PackageForPreview, kSetupInformationName};
-    if (!package.fault && package.setup.Files != Long(package.rows.size()))
-        package.fault = {Message::PackageFilesDiffer, kSetupInformationName, kFileListName};
-    ReadLanguage(files, packageFolder, package);
-    if (!languageFile.empty())
-        ReadLanguageFile(files, JoinPath(packageFolder, languageFile), package);
-    return package;
-}
-
-LoadedPackage LoadSetupInformation(const FileSystem& files, const Text& packageFolder)
-{
-    LoadedPackage package = ReadSetupInformationFile(files, packageFolder);
-    TellBrokenInformation(package);
-    ReadLanguage(files, packageFolder, package);
-    return package;
-}
 
 ExitCode RunSetup(const SetupInput& input, const LoadedPackage& package)
 {

@@ -2,7 +2,6 @@
 // for Windows add is a window, the machine's own registry, and the library that reads archives.
 #pragma once
 
-#include "formats/package_manifest.h"
 #include "platform/ask.h"
 #include "runtime/action_log.h"
 #include "runtime/background_sound.h"
@@ -10,26 +9,12 @@
 #include "runtime/exit_codes.h"
 #include "runtime/file_users.h"
 #include "runtime/install_plan.h"
+#include "runtime/loaded_package.h"
 #include "runtime/pages/page.h"
+#include "runtime/start_uninstaller.h"
 #include "runtime/switches.h"
 
 namespace quillon {
-
-struct LoadedPackage {
-    SetupInformation setup;
-    std::vector<InstallRow> rows;
-    PackageManifest manifest;
-    LanguageTexts texts;
-    std::optional<Reason> fault; // what is wrong with the package
-};
-
-/// Reads both INF files and the language file. Whatever is missing is told in `fault`. A language
-/// file of that name goes before the project's own.
-LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder,
-                          const Text& languageFile = {});
-
-/// The same without the file list, of files that may be made for a preview alone.
-LoadedPackage LoadSetupInformation(const FileSystem& files, const Text& packageFolder);
 
 struct SetupInput {
     Host& host;
@@ -45,7 +30,8 @@ struct SetupInput {
     bool otherSetupRuns = false; // another one on this machine
     // Starts a program or opens a document for the user; throws `RunError`.
     std::function<void(const Text& file, const Text& arguments)> startAsUser = {};
-    FileUsers* users = nullptr; // null: nothing is known of programs that hold files
+    FileUsers* users = nullptr;    // null: nothing is known of programs that hold files
+    RunProgramToEnd runToEnd = {}; // for /UNINSTALL
 };
 
 /// Installs, and tells the user and the log what went wrong.

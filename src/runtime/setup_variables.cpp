@@ -16,13 +16,22 @@ Text DriveOf(const Text& path)
     return path.size() >= 2 && path[1] == ':' ? path.substr(0, 2) : Text();
 }
 
+// Where Windows keeps the programs that one user has installed for himself.
+Text ProgramsOfUser(const Machine& machine)
+{
+    return JoinPath(machine.GetSysLocalAppDataDirectory(), "Programs");
+}
+
 void SetMachineFolders(SetupVariables& variables, const VariableSources& sources)
 {
     const Machine& machine = sources.host.machine;
-    const Text commonFiles = sources.target.Folder(TargetFolder::CommonFiles);
+    const bool isOwn = sources.scope == InstallScope::CurrentUser;
+    const Text programs = isOwn ? ProgramsOfUser(machine) : machine.GetProgramFilesDir();
+    const Text commonFiles =
+        isOwn ? JoinPath(programs, "Common") : sources.target.Folder(TargetFolder::CommonFiles);
     variables.Set(Meaning::SystemFolder, machine.GetSystemDir());
     variables.Set(Meaning::WindowsFolder, machine.GetWindowsDir());
-    variables.Set(Meaning::ProgramFilesFolder, machine.GetProgramFilesDir());
+    variables.Set(Meaning::ProgramFilesFolder, programs);
     variables.Set(Meaning::CommonFilesFolder, commonFiles);
     variables.Set(Meaning::FontFolder, sources.target.Folder(TargetFolder::Fonts));
     variables.Set(Meaning::DataAccessFolder, commonFiles + "\\Microsoft Shared\\DAO");

@@ -5,6 +5,7 @@
 #include "formats/setup_information.h"
 #include "formats/variable_names.h"
 #include "platform/host.h"
+#include "runtime/install_scope.h"
 #include "runtime/target.h"
 
 #include <utility>
@@ -35,6 +36,7 @@ struct VariableSources {
     const Target& target;
     Text packageFolder;
     Text destination; // from the command line; empty: the package's own
+    InstallScope scope = InstallScope::Project;
 };
 
 SetupVariables MakeSetupVariables(const VariableSources& sources);

@@ -1,10 +1,10 @@
 // How a command line falls into switches. The starter asks the same, so it is written for any kind
 // of character and without the standard library.
 //
-// A switch begins with a slash or a dash. Blanks and tabs part switches, but not inside quotation
-// marks, which may stand around a value or around a switch as a whole: "/D=C:\My Folder" is what
-// shells and launchers make of a blank. The folder of /D= needs none: it goes on to the next
-// switch, a slash, or a dash with a letter behind it.
+// A switch begins with a slash or a dash, and its value with '=' or ':'. Blanks and tabs part
+// switches, but not inside quotation marks, which may stand around a value or around a switch as a
+// whole: "/D=C:\My Folder" is what shells and launchers make of a blank. The folder of /D= needs
+// none: it goes on to the next switch, a slash, or a dash with a letter behind it.
 #pragma once
 
 namespace quillon {
@@ -53,12 +53,18 @@ bool BeginsSwitch(const Char* word)
     return *word == '/' || (*word == '-' && IsSwitchLetter(word[1]));
 }
 
+template <class Char>
+bool IsValueMark(Char character)
+{
+    return character == '=' || character == ':';
+}
+
 /// Where the switch that begins at `word` ends.
 template <class Char>
 const Char* EndOfSwitch(const Char* word)
 {
     const bool isFolder =
-        IsSwitchMark(word[0]) && (word[1] == 'D' || word[1] == 'd') && word[2] == '=';
+        IsSwitchMark(word[0]) && (word[1] == 'D' || word[1] == 'd') && IsValueMark(word[2]);
     bool quoted = false;
     for (; *word != 0; ++word) {
         if (*word == '"')
@@ -97,7 +103,7 @@ bool HasSilentSwitch(const Char* line)
         // Its characters up to a value, the quotation marks left out.
         Char name[kLongest] = {};
         int length = 0;
-        for (; line != end && *line != '='; ++line)
+        for (; line != end && !IsValueMark(*line); ++line)
             if (*line != '"' && length++ < kLongest)
                 name[length - 1] = *line;
         if (length > 1 && length <= kLongest && IsSwitchMark(name[0]))

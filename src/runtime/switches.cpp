@@ -1,10 +1,12 @@
 #include "runtime/switches.h"
 
 #include "formats/setup_names.h"
+#include "helpers/number_text.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "runtime/switch_words.h"
 
+#include <algorithm>
 #include <cctype>
 #include <utility>
 
@@ -22,26 +24,66 @@ bool SetTestMode(Switches& switches, std::string_view name)
         if (EqualIgnoreCase(name, word)) {
             const bool isOther = switches.testMode && switches.testMode != mode;
             switches.testMode = switches.testMode.value_or(mode);
-            return !isOther;
+            return !isOther && switches.task == SetupTask::Install;
         }
     return false;
 }
 
+// One thing at a time.
+bool SetTask(Switches& switches, SetupTask task)
+{
+    const bool isOther =
+        switches.testMode || (switches.task != SetupTask::Install && switches.task != task);
+    if (!isOther)
+        switches.task = task;
+    return !isOther;
+}
+
+bool SetScope(Switches& switches, InstallScope scope)
+{
+    const bool isOther = switches.scope != InstallScope::Project && switches.scope != scope;
+    switches.scope = scope;
+    return !isOther;
+}
+
+bool ShowProgressAlone(Switches& switches)
+{
+    switches.silent = switches.passive = true;
+    return true;
+}
+
+// Asks for what the setup does anyhow.
+bool TakeAsGiven(Switches&)
+{
+    return true;
+}
+
 struct PlainSwitch {
     std::string_view name;
-    void (*set)(Switches& switches);
+    bool (*set)(Switches& switches); // false: it does not go with another one
 };
 
+// clang-format off
 constexpr PlainSwitch kPlainSwitches[] = {
-    {"PASSIVE", [](Switches& switches) { switches.silent = switches.passive = true; }},
-    {"QB", [](Switches& switches) { switches.silent = switches.passive = true; }},
-    // The machine is never started anew without being asked for; tools say so all the same.
-    {"NORESTART", [](Switches& switches) { switches.noRestart = true; }},
-    {"CLOSEAPPLICATIONS",
-     [](Switches& switches) { switches.closeApplications = CloseApplications::Always; }},
-    {"NOCLOSEAPPLICATIONS",
-     [](Switches& switches) { switches.closeApplications = CloseApplications::Never; }},
+    {"PASSIVE",          ShowProgressAlone},
+    {"QB",               ShowProgressAlone},
+    {"NORESTART",        [](Switches& switches) { return switches.noRestart = true; }},
+    {"CLOSEAPPLICATIONS",   [](Switches& switches) { switches.closeApplications = CloseApplications::Always; return true; }},
+    {"NOCLOSEAPPLICATIONS", [](Switches& switches) { switches.closeApplications = CloseApplications::Never; return true; }},
+    // Nobody is asked whether to begin at all.
+    {"SP-",              TakeAsGiven},
+    {"SUPPRESSMSGBOXES", [](Switches& switches) { return switches.suppressBoxes = true; }},
+    {"NOCANCEL",         [](Switches& switches) { switches.canCancel = false; return true; }},
+    {"ALLUSERS",         [](Switches& switches) { return SetScope(switches, InstallScope::AllUsers); }},
+    {"CURRENTUSER",      [](Switches& switches) { return SetScope(switches, InstallScope::CurrentUser); }},
+    {"LOG",              [](Switches& switches) { return switches.hasLog = true; }},
+    {"?",                [](Switches& switches) { return SetTask(switches, SetupTask::Help); }},
+    {"HELP",             [](Switches& switches) { return SetTask(switches, SetupTask::Help); }},
+    {"VERSION",          [](Switches& switches) { return SetTask(switches, SetupTask::Version); }},
+    {"UNINSTALL",        [](Switches& switches) { return SetTask(switches, SetupTask::Uninstall); }},
+    {"PLAN",             [](Switches& switches) { return SetTask(switches, SetupTask::Plan); }},
 };
+// clang-format on
 
 struct ValueSwitch {
     std::string_view name;
@@ -62,6 +104,34 @@ bool SetLanguage(Switches& switches, const Text& value)
     return !value.empty() && FaultOfName(switches.languageFile) == PathFault::None;
 }
 
+bool SetExtraction(Switches& switches, const Text& value)
+{
+    switches.extractFolder = ResolvePath(value);
+    return IsAbsolutePath(value) && FaultOfFolder(switches.extractFolder) == PathFault::None &&
+           SetTask(switches, SetupTask::Extract);
+}
+
+bool SetPlan(Switches& switches, const Text& value)
+{
+    switches.planFile = value;
+    return !value.empty() && SetTask(switches, SetupTask::Plan);
+}
+
+// As large as a process of Windows can end with, and as some that start it take.
+bool SetRestartCode(Switches& switches, const Text& value)
+{
+    constexpr std::int64_t kMaxCode = 65535;
+    const std::int64_t code = LeadingNumber(value);
+    switches.restartCode = static_cast<ExitCode>(std::clamp<std::int64_t>(code, 0, kMaxCode));
+    return code >= 0 && code <= kMaxCode && NumberText(code) == value;
+}
+
+bool SetFile(Text& field, const Text& value)
+{
+    field = value;
+    return !value.empty();
+}
+
 // clang-format off
 constexpr ValueSwitch kValueSwitches[] = {
     {"D",          SetDestination},
@@ -74,18 +144,26 @@ constexpr ValueSwitch kValueSwitches[] = {
          switches.programGroup = value;
          return FaultOfProgramGroup(value) == PathFault::None;
      }},
-    {"LOG",        [](Switches& switches, const Text& value) { switches.logFile = value; return !value.empty(); }},
-    {kPackageSwitch, [](Switches& switches, const Text& value) { switches.packageFolder = value; return !value.empty(); }},
+    {"LOG",        [](Switches& switches, const Text& value) {
+         switches.hasLog = true;
+         return SetFile(switches.logFile, value);
+     }},
+    {"LOGJSON",    [](Switches& switches, const Text& value) { return SetFile(switches.jsonLogFile, value); }},
+    {"RESULT",     [](Switches& switches, const Text& value) { return SetFile(switches.resultFile, value); }},
+    {"LOADINF",    [](Switches& switches, const Text& value) { return SetFile(switches.loadAnswers, value); }},
+    {"SAVEINF",    [](Switches& switches, const Text& value) { return SetFile(switches.saveAnswers, value); }},
+    {"RESTARTEXITCODE", SetRestartCode},
+    {"PLAN",       SetPlan},
+    {"EXTRACT",    SetExtraction},
+    {kPackageSwitch, [](Switches& switches, const Text& value) { return SetFile(switches.packageFolder, value); }},
 };
 // clang-format on
 
 bool SetPlain(Switches& switches, std::string_view name)
 {
     for (const PlainSwitch& plain : kPlainSwitches)
-        if (EqualIgnoreCase(name, plain.name)) {
-            plain.set(switches);
-            return true;
-        }
+        if (EqualIgnoreCase(name, plain.name))
+            return plain.set(switches);
     return SetTestMode(switches, name);
 }
 
@@ -98,12 +176,7 @@ bool ApplySwitch(Switches& switches, std::string_view name, const std::optional<
             switches.silent = true;
             return !value;
         }
-    if (!value)
-        return SetPlain(switches, name);
-    for (const ValueSwitch& one : kValueSwitches)
-        if (EqualIgnoreCase(name, one.name))
-            return one.set(switches, *value);
-    return false;
+    return value ? SetSwitch(switches, name, *value) : SetPlain(switches, name);
 }
 
 Text WithoutQuotes(std::string_view word)
@@ -111,22 +184,41 @@ Text WithoutQuotes(std::string_view word)
     return ReplaceAll(word, "\"", "");
 }
 
+// A password stays one where its switch is misspelt, and is shown and logged by nobody.
+bool IsSecret(std::string_view name)
+{
+    return UpperCase(name).find("PASS") != Text::npos && !EqualIgnoreCase(name, "/PASSIVE");
+}
+
 void ReadSwitch(Switches& switches, const Text& given)
 {
     const Text word = WithoutQuotes(given);
-    const std::size_t equals = word.find('=');
-    const auto value = equals == Text::npos ? std::nullopt : std::optional(word.substr(equals + 1));
-    const Text name = word.substr(0, equals);
+    const std::size_t mark = word.find_first_of("=:");
+    const auto value = mark == Text::npos ? std::nullopt : std::optional(word.substr(mark + 1));
+    const Text name = word.substr(0, mark);
     const bool hasMark = !name.empty() && IsSwitchMark(name[0]);
     // Written as a property, as for the system's own installer.
     const bool isProperty = EqualIgnoreCase(name, "INSTALLDIR");
     const bool isKnown =
         (hasMark || isProperty) && ApplySwitch(switches, hasMark ? name.substr(1) : name, value);
     if (!isKnown && !switches.badSwitch)
-        switches.badSwitch = given;
+        switches.badSwitch = IsSecret(name) ? name : given;
 }
 
 } // namespace
+
+bool SetSwitch(Switches& switches, std::string_view name, const Text& value)
+{
+    for (const ValueSwitch& one : kValueSwitches)
+        if (EqualIgnoreCase(name, one.name))
+            return one.set(switches, value);
+    return false;
+}
+
+ExitCode CodeToEndWith(ExitCode code, const Switches& switches)
+{
+    return code == ExitCode::RestartNeeded ? switches.restartCode : code;
+}
 
 bool IsAbsolutePath(std::string_view path)
 {
@@ -163,6 +255,10 @@ UninstallerCommand ReadUninstallerCommand(std::string_view commandLine)
     for (const auto& [name, mode] : kTestModes)
         if (command.switches.testMode == mode && !command.switches.badSwitch)
             command.switches.badSwitch = "/" + Text(name);
+    // Nor one that was asked for a plan, or to unpack.
+    const SetupTask task = command.switches.task;
+    if ((task == SetupTask::Plan || task == SetupTask::Extract) && !command.switches.badSwitch)
+        command.switches.badSwitch = task == SetupTask::Plan ? "/PLAN" : "/EXTRACT";
     return command;
 }
 

@@ -27,7 +27,7 @@ public:
         : input_(input), files_(input.host.files), records_(input.product.records),
           mainFolder_(ExtractDirectory(input.logPath)),
           paths_(records_, input.host, input.target, mainFolder_),
-          entry_(UninstallEntryKey(input.product.name))
+          entry_(RecordedUninstallEntry(input.product.name, records_))
     {
     }
 

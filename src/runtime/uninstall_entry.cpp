@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-const section::Version& VersionOf(const EntryFacts& facts)
+const section::Version& VersionData(const EntryFacts& facts)
 {
     return facts.input.setup.project.Version;
 }
@@ -20,14 +20,8 @@ const Text& ProductOf(const EntryFacts& facts)
 
 Text ShownName(const EntryFacts& facts)
 {
-    const Text& name = VersionOf(facts).ProductName;
+    const Text& name = VersionData(facts).ProductName;
     return name.empty() ? ProductOf(facts) : name;
-}
-
-Text ShownVersion(const EntryFacts& facts)
-{
-    const Text& ofProgram = facts.input.setup.XProductVersion;
-    return ofProgram.empty() ? VersionOf(facts).ProductVersion : ofProgram;
 }
 
 Text Command(const EntryFacts& facts)
@@ -59,8 +53,8 @@ RegistryData One(const EntryFacts&)
 // clang-format off
 constexpr EntryValue kValues[] = {
     {"DisplayName",          [](const EntryFacts& facts) { return TextData(ShownName(facts)); }},
-    {"DisplayVersion",       [](const EntryFacts& facts) { return TextData(ShownVersion(facts)); }},
-    {"Publisher",            [](const EntryFacts& facts) { return TextData(VersionOf(facts).CompanyName); }},
+    {"DisplayVersion",       [](const EntryFacts& facts) { return TextData(VersionOf(facts.input.setup)); }},
+    {"Publisher",            [](const EntryFacts& facts) { return TextData(VersionData(facts).CompanyName); }},
     {"UninstallString",      [](const EntryFacts& facts) { return TextData(Command(facts)); }},
     {"QuietUninstallString", [](const EntryFacts& facts) { return TextData(Command(facts) + " /S"); }},
     {"InstallLocation",      [](const EntryFacts& facts) { return TextData(facts.input.plan.mainFolder); }},
@@ -74,10 +68,17 @@ constexpr EntryValue kValues[] = {
 
 } // namespace
 
-RegistryKey UninstallEntryKey(const Text& product)
+RegistryKey UninstallEntryKey(const Text& product, InstallScope scope)
 {
-    return {RegistryRoot::LocalMachine,
+    return {scope == InstallScope::CurrentUser ? RegistryRoot::CurrentUser
+                                               : RegistryRoot::LocalMachine,
             "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + AsFileName(product)};
+}
+
+const Text& VersionOf(const SetupInformation& setup)
+{
+    const Text& ofProgram = setup.XProductVersion;
+    return ofProgram.empty() ? setup.project.Version.ProductVersion : ofProgram;
 }
 
 std::span<const EntryValue> UninstallEntryValues()
@@ -87,13 +88,23 @@ std::span<const EntryValue> UninstallEntryValues()
 
 void WriteUninstallEntry(const EntryFacts& facts, InstallTransaction& changes)
 {
-    const RegistryKey key = UninstallEntryKey(ProductOf(facts));
+    const RegistryKey key = UninstallEntryKey(ProductOf(facts), facts.input.plan.scope);
     const RegistryData none = TextData("");
     for (const EntryValue& value : kValues)
         if (const RegistryData data = value.data(facts); data == none)
             changes.RemoveValue(key, value.name);
         else
             changes.WriteValue(key, value.name, data);
+}
+
+RegistryKey RecordedUninstallEntry(const Text& product, const std::vector<JournalRecord>& records)
+{
+    const RegistryKey ofUser = UninstallEntryKey(product, InstallScope::CurrentUser);
+    for (const JournalRecord& record : records)
+        if (const auto* const value = std::get_if<record::Value>(&record);
+            value && EqualIgnoreCase(KeyText(value->key), KeyText(ofUser)))
+            return ofUser;
+    return UninstallEntryKey(product);
 }
 
 } // namespace quillon

@@ -3,13 +3,21 @@
 #pragma once
 
 #include "runtime/install.h"
+#include "runtime/install_journal.h"
+#include "runtime/install_scope.h"
 
 #include <span>
 
 namespace quillon {
 
 /// Where the entry of the product of that name is.
-RegistryKey UninstallEntryKey(const Text& product);
+RegistryKey UninstallEntryKey(const Text& product, InstallScope scope = InstallScope::Project);
+
+/// Where the installation with this record has put it.
+RegistryKey RecordedUninstallEntry(const Text& product, const std::vector<JournalRecord>& records);
+
+/// What the user knows as the product's version: that of its program, before the project's own.
+const Text& VersionOf(const SetupInformation& setup);
 
 struct EntryFacts {
     const InstallInput& input;

@@ -2,10 +2,14 @@
 
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "runtime/failure_reason.h"
 #include "runtime/files_in_use.h"
+#include "runtime/passive_ask.h"
 #include "runtime/removal_list.h"
 #include "runtime/restart_moves.h"
 #include "runtime/rollback.h"
+#include "runtime/setup_help.h"
+#include "runtime/uninstall_entry.h"
 
 namespace quillon {
 
@@ -24,12 +28,13 @@ void UninstallProgram::FindProduct()
 void UninstallProgram::Prepare()
 {
     FindProduct();
-    // A run that is refused changes nothing.
-    if (IsRefused())
+    FileSystem& files = input_.host.files;
+    const Machine& machine = input_.host.machine;
+    log_ =
+        ActionLog(files, machine, LogFilesOf(GivenSwitches(), files, machine, "QNXUNIN"), Texts());
+    // A run that is refused, or only tells something, changes nothing.
+    if (GivenSwitches().badSwitch || input_.otherSetupRuns || IsToTell())
         return;
-    const Text& path = input_.line.switches.logFile;
-    if (!path.empty())
-        log_ = ActionLog(input_.host.files, input_.host.machine, path, Texts());
     // A setup that was killed is brought to its end first, so that the log says what is there.
     const Text folder = ExtractDirectory(input_.program);
     const EarlierRun earlier = FinishInterrupted({input_.host, input_.target, log_}, folder);
@@ -38,6 +43,12 @@ void UninstallProgram::Prepare()
     hasFinishedEarlier_ = earlier == EarlierRun::Finished;
     if (hasFinishedEarlier_)
         FindProduct();
+}
+
+bool UninstallProgram::IsToTell() const
+{
+    const SetupTask task = GivenSwitches().task;
+    return task == SetupTask::Help || task == SetupTask::Version;
 }
 
 Text UninstallProgram::Title() const
@@ -62,40 +73,84 @@ UninstallProgram::Refusal UninstallProgram::WithoutProduct() const
 
 std::optional<UninstallProgram::Refusal> UninstallProgram::WhyRefused() const
 {
-    const Switches& switches = input_.line.switches;
-    if (switches.badSwitch)
-        return Refusal{ExitCode::BadSwitch, Texts()(Message::BadSwitch, *switches.badSwitch)};
-    if (input_.otherSetupRuns)
+    if (const auto& badSwitch = GivenSwitches().badSwitch)
+        return Refusal{ExitCode::BadSwitch, Texts()(Message::BadSwitch, *badSwitch)};
+    if (GivenSwitches().task == SetupTask::Help)
+        return std::nullopt;
+    if (input_.otherSetupRuns && !IsToTell())
         return Refusal{ExitCode::OtherSetupRuns, Texts()[Message::OtherSetup]};
     if (!product_ || IsRemovedAtRestart(input_.target, input_.line.logPath))
         return WithoutProduct();
     return std::nullopt;
 }
 
+// The last line of every log, whatever the end is.
+ExitCode UninstallProgram::End(ExitCode code, const Text& error)
+{
+    const ExitCode given = CodeToEndWith(code, GivenSwitches());
+    if (!error.empty())
+        log_.Line(Message::LogEndsBecause, NumberText(static_cast<int>(given)), error);
+    log_.End(given, code == ExitCode::RestartNeeded, error);
+    log_.Close();
+    return given;
+}
+
+Text UninstallProgram::Fail(const std::exception& error)
+{
+    const Text text = Texts()(Message::UninstallFailed, FailureReason(error, Texts()));
+    End(ExitCode::Failed, text);
+    return text;
+}
+
+Text UninstallProgram::InstalledVersion() const
+{
+    const auto data = input_.target.ReadValue(
+        RecordedUninstallEntry(product_->name, product_->records), "DisplayVersion");
+    return data ? TextOf(*data).value_or("") : Text();
+}
+
+// What is asked for is shown also where boxes are not wanted, but never under /S.
+ExitCode UninstallProgram::Tell(Ask& ask)
+{
+    const std::vector<Text> lines =
+        GivenSwitches().task == SetupTask::Help
+            ? HelpLines(Texts(), HelpOf::Uninstaller)
+            : std::vector<Text>{VersionLine(product_->name, InstalledVersion(), Texts())};
+    Text whole;
+    for (const Text& line : lines) {
+        log_.TextLine(line);
+        whole += (whole.empty() ? Text() : Text(kLineBreak)) + line;
+    }
+    ask.Inform(Title(), whole);
+    return End(ExitCode::Done);
+}
+
 ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view, RunningProgram* running)
 {
+    PassiveAsk withoutBoxes(ask);
+    Ask& boxes = GivenSwitches().suppressBoxes ? withoutBoxes : ask;
     if (const auto refusal = WhyRefused()) {
         if (!refusal->text.empty())
-            ask.Critical(Title(), refusal->text);
-        return refusal->code;
+            boxes.Critical(Title(), refusal->text);
+        return End(refusal->code, refusal->text);
     }
+    if (IsToTell())
+        return Tell(ask);
     const Text& log = input_.line.logPath;
     const Removal removal = PlanRemoval(*product_, input_.host, input_.target, log);
     const ListPage question{Title(), Texts()(Message::UninstallQuestion, product_->name),
                             removal.Lines(), Texts()[Message::UninstallButton],
                             Texts()[Message::Cancel]};
-    if (!view.ShowList(question))
-        return ExitCode::Cancelled;
-    const InUseInput inUse{ask, log_, texts_, input_.users, input_.line.switches, Title()};
-    if (!FreeFiles(inUse, removal.files))
-        return ExitCode::Cancelled;
+    const InUseInput inUse{boxes, log_, texts_, input_.users, GivenSwitches(), Title()};
+    if (!view.ShowList(question) || !FreeFiles(inUse, removal.files))
+        return End(ExitCode::Cancelled);
     view.ShowProgress(true);
     const UninstallResult result =
-        Uninstall({input_.host, input_.target, ask, log_, log, *product_, running});
-    log_.Close();
+        Uninstall({input_.host, input_.target, boxes, log_, log, *product_, running});
+    const ExitCode code = End(result.code);
     view.ShowProgress(false);
-    TellTheEnd(result, ask, view);
-    return result.code;
+    TellTheEnd(result, boxes, view);
+    return code;
 }
 
 void UninstallProgram::TellTheEnd(const UninstallResult& result, Ask& ask,

@@ -41,6 +41,8 @@ public:
     const LanguageTexts& Texts() const { return texts_; }
     Text Title() const;
     ExitCode Run(Ask& ask, UninstallView& view, RunningProgram* running);
+    /// After a failure was thrown: ends the logs, and gives what the user is to be told.
+    Text Fail(const std::exception& error);
 
 private:
     struct Refusal {
@@ -48,9 +50,13 @@ private:
         Text text; // empty: there is nothing to tell
     };
     void FindProduct();
-    bool IsRefused() const { return input_.line.switches.badSwitch || input_.otherSetupRuns; }
+    const Switches& GivenSwitches() const { return input_.line.switches; }
+    bool IsToTell() const;
     std::optional<Refusal> WhyRefused() const;
     Refusal WithoutProduct() const;
+    Text InstalledVersion() const;
+    ExitCode Tell(Ask& ask);
+    ExitCode End(ExitCode code, const Text& error = {});
     void TellTheEnd(const UninstallResult& result, Ask& ask, UninstallView& view) const;
 
     const UninstallProgramInput input_;

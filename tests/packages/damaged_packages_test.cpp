@@ -54,7 +54,7 @@ protected:
             EXPECT_EQ(run.machine == installed.machine, true) << what << "\n" << run.log;
             return false;
         }
-        EXPECT_EQ(run.code, ExitCode::Failed) << what;
+        EXPECT_EQ(run.code, ExitCode::DamagedPackage) << what;
         EXPECT_EQ(run.machine == before, true) << what << "\n" << run.log;
         return true;
     }

@@ -67,7 +67,7 @@ protected:
                 files.erase("PACKAGE.SHA256");
             EXPECT_THAT(VerifyProduct(files), Not(IsEmpty())) << what;
             const InstalledProduct run = InstallProduct(files);
-            EXPECT_EQ(run.code, ExitCode::Failed) << what;
+            EXPECT_EQ(run.code, ExitCode::DamagedPackage) << what;
             EXPECT_EQ(run.machine == EmptyMachine(), true) << what << "\n" << run.log;
         }
     }
@@ -115,7 +115,7 @@ TEST(HostileInformation, NamesNoLanguageFileOutsideThePackage)
     ListAgain(files);
     EXPECT_THAT(VerifyProduct(files),
                 testing::Contains(testing::StartsWith("Namnet '..\\OND.LNG' fungerar inte")));
-    EXPECT_EQ(InstallProduct(files).code, ExitCode::Failed);
+    EXPECT_EQ(InstallProduct(files).code, ExitCode::DamagedPackage);
 }
 
 } // namespace

@@ -90,7 +90,7 @@ TEST(SmallPackage, IsNotInstalledWithADamageThatNoManifestTellsOf)
         char& byte = files[kFileContainerName][at];
         byte = static_cast<char>(byte ^ 4);
         const InstalledProduct product = InstallProduct(files);
-        EXPECT_EQ(product.code, ExitCode::Failed) << at;
+        EXPECT_EQ(product.code, ExitCode::DamagedPackage) << at;
         EXPECT_EQ(product.machine == EmptyMachine(), true) << at;
         EXPECT_THAT(product.log, HasSubstr(kFileContainerName)) << at;
     }

@@ -60,7 +60,7 @@ TEST(DamagedPackage, EndsTheInstallationAndSaysWhy)
 {
     const SetupFailure failure =
         DamagedPackage({}, {Message::PackageFilesDiffer, "QNSETUP.INF", "FILELIST.INF"});
-    EXPECT_EQ(failure.Code(), ExitCode::Failed);
+    EXPECT_EQ(failure.Code(), ExitCode::DamagedPackage);
     EXPECT_STREQ(
         failure.what(),
         "Installationsfilerna är skadade eller ofullständiga (QNSETUP.INF och FILELIST.INF "

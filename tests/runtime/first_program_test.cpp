@@ -161,7 +161,7 @@ TEST_F(FirstProgramTest, MustBeThereAndCalledAsAFileCanBe)
 {
     for (const char* name : {"saknas.exe", "..\\licens.exe", "con"}) {
         program.ProgramFilename = name;
-        EXPECT_EQ(Install(), ExitCode::Failed) << name;
+        EXPECT_EQ(Install(), ExitCode::DamagedPackage) << name;
         EXPECT_THAT(Log(), HasSubstr("Ingenting har installerats")) << name;
     }
     EXPECT_THAT(target.programsRun, IsEmpty());

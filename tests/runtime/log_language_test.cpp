@@ -84,8 +84,8 @@ TEST_F(LogLanguageTest, TellsOfAFailureInTheLanguageOfThePackage)
                          "damaged). Nothing has been installed. Please obtain the setup files "
                          "again."}});
     ask = &script;
-    EXPECT_EQ(Install(""), ExitCode::Failed);
-    EXPECT_THAT(Lines(), testing::Contains(HasSubstr("Ending with code 1603: The installation "
+    EXPECT_EQ(Install(""), ExitCode::DamagedPackage);
+    EXPECT_THAT(Lines(), testing::Contains(HasSubstr("Ending with code 20001: The installation "
                                                      "files are damaged or incomplete")));
 }
 

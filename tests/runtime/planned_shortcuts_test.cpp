@@ -166,7 +166,7 @@ TEST_P(GroupElsewhere, IsRefusedBeforeAnythingIsWritten)
     AddIcon("prog.exe", "Ikon", "Prog");
     project.ProgramGroup.ProgramGroup = GetParam();
     const test::MachineState before = State();
-    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_EQ(Install(), ExitCode::DamagedPackage);
     EXPECT_EQ(State(), before);
     EXPECT_THAT(Log(), testing::HasSubstr(Text("ProgramGroup saknar giltig mapp: ") + GetParam()));
 }

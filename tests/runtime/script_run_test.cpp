@@ -61,13 +61,13 @@ TEST_F(ScriptTestOfSetup, RunsBeforeAndAfterTheFilesAreCopied)
 TEST_F(ScriptTestOfSetup, RefusesAFaultyScriptBeforeAnythingIsChanged)
 {
     const MachineState before = State();
-    EXPECT_EQ(RunBefore("LOG a\r\nKOPIERA a b"), ExitCode::Failed);
+    EXPECT_EQ(RunBefore("LOG a\r\nKOPIERA a b"), ExitCode::DamagedPackage);
     EXPECT_THAT(Log(), HasSubstr("fel i skriptet före installationen, rad 2: okänt kommando "
                                  "'KOPIERA'"));
     EXPECT_THAT(Log(), Not(HasSubstr("ångras")));
     EXPECT_EQ(State(), before);
     project.Lists.RunScriptBefore.clear();
-    EXPECT_EQ(RunAfter("IF FILE a"), ExitCode::Failed);
+    EXPECT_EQ(RunAfter("IF FILE a"), ExitCode::DamagedPackage);
     EXPECT_THAT(Log(), HasSubstr("fel i skriptet efter installationen, rad 1: IF utan END"));
     EXPECT_EQ(State(), before);
 }

@@ -2,6 +2,7 @@
 
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "runtime/answer_file.h"
 #include "runtime/uninstall.h"
 
 namespace quillon::test {
@@ -144,7 +145,9 @@ ExitCode SetupFixture::Install(const Text& switches)
 {
     Switches read = ReadSwitches(switches);
     read.packageFolder = kPackageFolder;
-    read.logFile = kLogFile;
+    if (read.logFile.empty())
+        read.logFile = kLogFile;
+    LoadAnswers(files, read);
     SilentAsk silent;
     return RunSetup({host, target, ask ? *ask : silent,
                      [this](const Text& path) {
@@ -159,7 +162,11 @@ ExitCode SetupFixture::Install(const Text& switches)
                              throw RunError(ErrorNumber::kFileNotFound, file);
                          started.push_back(file + (arguments.empty() ? "" : " " + arguments));
                      },
-                     users},
+                     users,
+                     [this](const Text& program, const Text& arguments) {
+                         started.push_back(program + " " + arguments);
+                         return codeOfStarted;
+                     }},
                     package);
 }
 

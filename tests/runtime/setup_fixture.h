@@ -160,6 +160,7 @@ protected:
     FileUsers* users = nullptr;
     std::vector<LeftBehind> left; // what UninstallProduct has told to be there still
     std::vector<Text> started;    // a file, and its arguments behind a blank
+    int codeOfStarted = 0;        // of a program that is waited for
 };
 
 } // namespace quillon::test

@@ -48,7 +48,7 @@ TEST_F(SetupProgramTest, WritesNothingOutOfADamagedArchive)
 {
     AddFile("andra.txt", "%DESTDIR", "text");
     damagedEntry = 1;
-    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_EQ(InstallInVain(), ExitCode::DamagedPackage);
     EXPECT_THAT(
         Log(),
         HasSubstr("Installationsfilerna är skadade eller ofullständiga (FILEDATA.DAT är skadad)."));
@@ -62,27 +62,27 @@ TEST_F(SetupProgramTest, TellsAMissingArchiveAsAnIncompletePackage)
           "Installationsfilerna är skadade eller ofullständiga (FILEDATA.DAT saknas eller kan inte "
           "läsas). Ingenting har installerats. Hämta installationsfilerna på nytt."}});
     ask = &script;
-    EXPECT_EQ(InstallInVain(""), ExitCode::Failed);
+    EXPECT_EQ(InstallInVain(""), ExitCode::DamagedPackage);
 }
 
 TEST_F(SetupProgramTest, WritesNothingWhereARowLacksItsBytes)
 {
     sources.clear();
-    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_EQ(InstallInVain(), ExitCode::DamagedPackage);
     EXPECT_THAT(Log(), HasSubstr("prog.exe saknas"));
 }
 
 TEST_F(SetupProgramTest, WritesNothingWhereALengthIsWrong)
 {
     package.rows[0].size += 1;
-    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_EQ(InstallInVain(), ExitCode::DamagedPackage);
     EXPECT_THAT(Log(), HasSubstr("prog.exe har fel storlek"));
 }
 
 TEST_F(SetupProgramTest, WritesNothingOfAPackageWithAFault)
 {
     package.fault = Reason{Message::PackageFileIncomplete, "QNSETUP.INF"};
-    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_EQ(InstallInVain(), ExitCode::DamagedPackage);
     EXPECT_THAT(Log(), HasSubstr("ofullständiga (QNSETUP.INF är ofullständig)."));
 }
 
@@ -105,7 +105,7 @@ TEST_F(SetupProgramTest, WritesNothingWhereTheUninstallerIsMissing)
             if (*bytes != 0)
                 memory.files.RemoveFile("D:\\Paket\\" + name);
             memory.files.nodes.erase(LowerCase("W:\\Arbete\\" + name));
-            EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+            EXPECT_EQ(InstallInVain(), ExitCode::DamagedPackage);
             EXPECT_THAT(Log(), HasSubstr(name + " saknas eller kan inte läsas"));
         }
         memory.files.Put("D:\\Paket\\" + name, "whole again");
@@ -119,7 +119,7 @@ TEST_F(SetupProgramTest, WritesNothingWhereTheHelperOfTheNextStartIsMissing)
 {
     memory.files.RemoveFile("D:\\Paket\\QNXREG2.BIN");
     package.rows[0].copyOptions = "RA";
-    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_EQ(InstallInVain(), ExitCode::DamagedPackage);
     EXPECT_THAT(Log(), HasSubstr("QNXREG2.BIN saknas eller kan inte läsas"));
     package.rows[0].copyOptions = "R";
     EXPECT_EQ(Install(), ExitCode::Done) << Log();
@@ -129,7 +129,7 @@ TEST_F(SetupProgramTest, WritesNothingOfAPackageWhoseStarterIsElsewhere)
 {
     for (const char* name : {"..\\viktig.doc", "C:\\x.exe", "NUL", "", "FILELIST.INF"}) {
         project.InstallOptions.SetupName = name;
-        EXPECT_EQ(InstallInVain(), ExitCode::Failed) << name;
+        EXPECT_EQ(InstallInVain(), ExitCode::DamagedPackage) << name;
         EXPECT_THAT(Log(), HasSubstr("QNSETUP.INF är skadad"));
     }
 }
@@ -438,7 +438,7 @@ class BadDestination : public SetupProgramTest, public testing::WithParamInterfa
 TEST_P(BadDestination, IsRefusedBeforeAnythingIsWritten)
 {
     AddFile("fel.txt", GetParam(), "x");
-    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_EQ(InstallInVain(), ExitCode::DamagedPackage);
     EXPECT_THAT(Log(), HasSubstr("fel.txt saknar giltig mapp: " + Text(GetParam())));
 }
 
@@ -534,7 +534,7 @@ TEST_F(SetupProgramTest, JoinsThePiecesOfAllDisks)
     package.setup.Floppies = 3;
     memory.files.Put("D:\\Paket\\FILEDATA.DAT", "ett");
     memory.files.Put("D:\\Paket\\disk2\\FILEDATA.DAT", "två");
-    EXPECT_EQ(InstallInVain(), ExitCode::Failed);
+    EXPECT_EQ(InstallInVain(), ExitCode::DamagedPackage);
     EXPECT_THAT(Log(), HasSubstr("D:\\Paket\\disk3 saknas"));
     memory.files.Put("D:\\Paket\\disk3\\FILEDATA.DAT", "tre");
     EXPECT_EQ(Install(), ExitCode::Done);

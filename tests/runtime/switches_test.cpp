@@ -113,6 +113,77 @@ TEST(ReadSwitches, TakesASwitchThatIsQuotedAsAWhole)
     EXPECT_EQ(switches.badSwitch, std::nullopt);
 }
 
+TEST(ReadSwitches, TakesTheScopeOnce)
+{
+    EXPECT_EQ(ReadSwitches("").scope, InstallScope::Project);
+    EXPECT_EQ(ReadSwitches("-allusers /ALLUSERS").scope, InstallScope::AllUsers);
+    EXPECT_EQ(ReadSwitches("/CurrentUser").scope, InstallScope::CurrentUser);
+    EXPECT_EQ(ReadSwitches("/ALLUSERS /CURRENTUSER").badSwitch, "/CURRENTUSER");
+}
+
+TEST(ReadSwitches, TakesOneTaskInThePlaceOfAnInstallation)
+{
+    EXPECT_EQ(ReadSwitches("/S").task, SetupTask::Install);
+    EXPECT_EQ(ReadSwitches("/?").task, SetupTask::Help);
+    EXPECT_EQ(ReadSwitches("-help").task, SetupTask::Help);
+    EXPECT_EQ(ReadSwitches("-Version").task, SetupTask::Version);
+    EXPECT_EQ(ReadSwitches("/uninstall").task, SetupTask::Uninstall);
+    EXPECT_EQ(ReadSwitches("/PLAN /plan").task, SetupTask::Plan);
+    const Switches plan = ReadSwitches("\"/PLAN=C:\\en plan.json\"");
+    EXPECT_EQ(plan.task, SetupTask::Plan);
+    EXPECT_EQ(plan.planFile, "C:\\en plan.json");
+    const Switches unpack = ReadSwitches("/extract:\"C:\\En mapp\\\" /S");
+    EXPECT_EQ(unpack.task, SetupTask::Extract);
+    EXPECT_EQ(unpack.extractFolder, "C:\\En mapp");
+    EXPECT_TRUE(unpack.silent);
+    EXPECT_EQ(ReadSwitches("/EXTRACT=C:\\A").extractFolder, "C:\\A");
+    EXPECT_EQ(ReadSwitches("/PLAN /uninstall").badSwitch, "/uninstall");
+    EXPECT_EQ(ReadSwitches("/TEST /PLAN").badSwitch, "/PLAN");
+    EXPECT_EQ(ReadSwitches("/PLAN /TEST").badSwitch, "/TEST");
+    for (const char* line : {"/extract", "/extract:", "/extract:ut", "/extract:C:\\a?b", "/PLAN=",
+                             "/LOGJSON", "/LOGJSON=", "/RESULT=", "/SAVEINF", "/LOADINF="})
+        EXPECT_EQ(ReadSwitches(line).badSwitch, line);
+}
+
+TEST(ReadSwitches, TakesALogWithAndWithoutAName)
+{
+    EXPECT_FALSE(ReadSwitches("/S").hasLog);
+    EXPECT_TRUE(ReadSwitches("/log").hasLog);
+    EXPECT_EQ(ReadSwitches("/log").logFile, "");
+    const Switches named = ReadSwitches("-LOG:C:\\a.log /LOGJSON=C:\\a.json /RESULT=C:\\r.json");
+    EXPECT_TRUE(named.hasLog);
+    EXPECT_EQ(named.logFile, "C:\\a.log");
+    EXPECT_EQ(named.jsonLogFile, "C:\\a.json");
+    EXPECT_EQ(named.resultFile, "C:\\r.json");
+}
+
+TEST(ReadSwitches, TakesACodeForADueRestart)
+{
+    EXPECT_EQ(CodeToEndWith(ExitCode::RestartNeeded, ReadSwitches("")), ExitCode::RestartNeeded);
+    const Switches switches = ReadSwitches("/RestartExitCode=77");
+    EXPECT_EQ(CodeToEndWith(ExitCode::RestartNeeded, switches), ExitCode{77});
+    EXPECT_EQ(CodeToEndWith(ExitCode::Done, switches), ExitCode::Done);
+    for (const char* line : {"/RESTARTEXITCODE", "/RESTARTEXITCODE=", "/RESTARTEXITCODE=-1",
+                             "/RESTARTEXITCODE=65536", "/RESTARTEXITCODE=7x"})
+        EXPECT_EQ(ReadSwitches(line).badSwitch, line);
+}
+
+TEST(ReadSwitches, TakesWhatKeepsBoxesAndCancelAway)
+{
+    const Switches switches = ReadSwitches("/SP- -suppressmsgboxes /NOCANCEL");
+    EXPECT_TRUE(switches.suppressBoxes);
+    EXPECT_FALSE(switches.canCancel);
+    EXPECT_FALSE(switches.silent);
+    EXPECT_EQ(switches.badSwitch, std::nullopt);
+}
+
+TEST(ReadSwitches, NamesNoPasswordOfAMisspeltSwitch)
+{
+    EXPECT_EQ(ReadSwitches("/PASSWORDS=Hemligt").badSwitch, "/PASSWORDS");
+    EXPECT_EQ(ReadSwitches("-pass:Hemligt").badSwitch, "-pass");
+    EXPECT_EQ(ReadSwitches("/PASSWORD:Hemligt").password, "Hemligt");
+}
+
 class SilentWord : public testing::TestWithParam<const char*> {};
 
 TEST_P(SilentWord, IsAsGoodAsAnyOther)
@@ -239,6 +310,10 @@ TEST(ReadUninstallerCommand, KnowsNoTestMode)
     EXPECT_EQ(badSwitch("\"C:\\A.LOG\" /X /TEST"), "/X");
     EXPECT_EQ(badSwitch("/S C:\\A.LOG"), "C:\\A.LOG");
     EXPECT_EQ(badSwitch("/S"), std::nullopt);
+    // What would change nothing must not remove anything.
+    EXPECT_EQ(badSwitch("/S /PLAN"), "/PLAN");
+    EXPECT_EQ(badSwitch("/extract:C:\\A"), "/EXTRACT");
+    EXPECT_EQ(badSwitch("/LOG /RESULT=C:\\r.json /uninstall"), std::nullopt);
 }
 
 TEST(IsAbsolutePath, WantsADriveOrAServer)

@@ -8,9 +8,12 @@
 #include "runtime/restart_moves.h"
 #include "runtime/uninstall_program.h"
 
+#include <nlohmann/json.hpp>
+
 namespace quillon {
 namespace {
 
+using nlohmann::json;
 using test::BoxKind;
 using test::ScriptedAsk;
 using testing::ElementsAre;
@@ -70,6 +73,8 @@ protected:
         const RegistryData from = TextData("\\??\\" + path);
         target.WriteValue(RestartMovesKey(), kRestartMoves, {7, from.bytes + std::string(4, '\0')});
     }
+
+    json Result() const { return json::parse(memory.files.Get("L:\\r.json")); }
 
     Lists lists;
 };
@@ -227,12 +232,14 @@ TEST_F(UninstallProgramTest, WaitsForNoOtherSetup)
     const test::MachineState before = State();
     otherSetupRuns = true;
     EXPECT_EQ(
-        RunProgram("/LOG=\"C:\\bort.txt\"",
+        RunProgram("/LOG=\"L:\\bort.txt\"",
                    {{BoxKind::Critical, kTitle,
                      "En annan installation pågår. Vänta tills den är klar och försök igen."}}),
         ExitCode::OtherSetupRuns);
     EXPECT_EQ(State(), before);
     EXPECT_THAT(lists.events, IsEmpty());
+    EXPECT_THAT(memory.files.Get("L:\\bort.txt"),
+                testing::HasSubstr("En annan installation pågår."));
 }
 
 TEST_F(UninstallProgramTest, RefusesAWrongSwitchBeforeItChangesAnything)
@@ -242,7 +249,7 @@ TEST_F(UninstallProgramTest, RefusesAWrongSwitchBeforeItChangesAnything)
     otherSetupRuns = true;
     ScriptedAsk scripted({{BoxKind::Critical, kTitle, package.texts(Message::BadSwitch, "/X")}});
     const UninstallerCommand line =
-        ReadUninstallerCommand("\"" + kLog + "\" /X /LOG=\"C:\\l.txt\"");
+        ReadUninstallerCommand("\"" + kLog + "\" /X /LOG=\"L:\\l.txt\"");
     UninstallProgram program({host, target, line, kUninstaller, otherSetupRuns});
     program.Prepare();
     EXPECT_EQ(program.Run(scripted, lists, nullptr), ExitCode::BadSwitch);
@@ -293,6 +300,69 @@ TEST_F(UninstallProgramTest, ListsOnlyWhatReallyGoes)
                             kMain + "\\Bin", "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Nytt",
                             "HKEY_CURRENT_USER\\Firma", "HKEY_CURRENT_USER\\Annan :: Namn",
                             "C:\\WINDOWS\\A.INI [S] x"));
+}
+
+TEST_F(UninstallProgramTest, TellsProgramsHowItEnded)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const Text logs = "/LOG=L:\\l.txt /LOGJSON=L:\\a.json /RESULT=L:\\r.json ";
+    EXPECT_EQ(RunProgram(logs + "/FEL", {{BoxKind::Critical, kTitle}}), ExitCode::BadSwitch);
+    EXPECT_EQ(Result()["result"], "bad switch");
+    EXPECT_THAT(Result()["error"].get<std::string>(), testing::HasSubstr("'/FEL'"));
+    EXPECT_THAT(memory.files.Get("L:\\l.txt"), testing::HasSubstr("'/FEL'"));
+    otherSetupRuns = true;
+    EXPECT_EQ(RunProgram(logs, {{BoxKind::Critical, kTitle}}), ExitCode::OtherSetupRuns);
+    EXPECT_EQ(Result()["result"], "another setup runs");
+    otherSetupRuns = false;
+    lists.goesOn = false;
+    EXPECT_EQ(RunProgram(logs), ExitCode::Cancelled);
+    EXPECT_EQ(Result()["result"], "cancelled");
+    lists.goesOn = true;
+    EXPECT_EQ(RunProgram(logs + "/SUPPRESSMSGBOXES"), ExitCode::Done);
+    EXPECT_EQ(Result()["result"], "done");
+    EXPECT_EQ(Result()["counts"]["filesRemoved"], 5) << memory.files.Get("L:\\l.txt");
+    EXPECT_THAT(memory.files.Get("L:\\a.json"), testing::EndsWith(memory.files.Get("L:\\r.json")));
+    EXPECT_EQ(RunProgram(logs + "/SUPPRESSMSGBOXES"), ExitCode::NothingInstalled);
+    EXPECT_EQ(Result()["code"], 1605);
+}
+
+TEST_F(UninstallProgramTest, EndsWithTheGivenCodeWhereARestartIsDue)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    files.inUse.insert(kMain + "\\Bin\\prog.exe");
+    EXPECT_EQ(RunProgram("/RESTARTEXITCODE=77 /RESULT=L:\\r.json"), ExitCode{77});
+    EXPECT_EQ(Result()["code"], 77);
+    EXPECT_EQ(Result()["restart"], true);
+}
+
+TEST_F(UninstallProgramTest, TellsAFailureToPrograms)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const UninstallerCommand line = ReadUninstallerCommand("\"" + kLog + "\" /RESULT=L:\\r.json");
+    UninstallProgram program({host, target, line, kUninstaller});
+    program.Prepare();
+    const Text text = program.Fail(RunError(ErrorNumber::kPermissionDenied, "C:\\x"));
+    EXPECT_THAT(text, testing::StartsWith("Avinstallationen misslyckades ("));
+    EXPECT_EQ(Result()["code"], 1603);
+    EXPECT_EQ(Result()["error"], text);
+}
+
+TEST_F(UninstallProgramTest, ShowsItsSwitchesAndTheVersionAndRemovesNothing)
+{
+    project.Version.ProductVersion = "1.2";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const test::MachineState before = State();
+    otherSetupRuns = true; // which it waits for nobody to end
+    EXPECT_EQ(RunProgram("/version", {{BoxKind::Inform, kTitle, "Exempel, version 1.2"}}),
+              ExitCode::Done);
+    EXPECT_EQ(RunProgram("/? /LOG=L:\\l.txt", {{BoxKind::Inform, kTitle}}), ExitCode::Done);
+    const Text log = memory.files.Get("L:\\l.txt");
+    EXPECT_THAT(log, testing::HasSubstr("Växlar:"));
+    EXPECT_THAT(log, testing::HasSubstr("/version  visar versionen"));
+    EXPECT_THAT(log, testing::Not(testing::HasSubstr("/PLAN")));
+    EXPECT_TRUE(lists.events.empty());
+    memory.files.RemoveFile("L:\\l.txt");
+    EXPECT_EQ(State(), before);
 }
 
 TEST_F(UninstallProgramTest, LeavesTheProgramOfAnotherProductOutOfTheList)

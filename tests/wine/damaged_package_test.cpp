@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr unsigned kRefused = 1603;
+constexpr unsigned kRefused = 20001;
 
 class DamagedPackage : public testing::Test {
 protected:

@@ -226,7 +226,7 @@ TEST(ExampleSetup, WritesNothingWhenThePackageIsDamaged)
     std::string bytes = ReadBytes(package / "FILEDATA.DAT");
     bytes[bytes.size() / 3] = static_cast<char>(bytes[bytes.size() / 3] ^ 0x10);
     WriteBytes(package / "FILEDATA.DAT", bytes);
-    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 1603U);
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 20001U);
     EXPECT_EQ(RegistryDifference(registryBefore, RegistryText(prefix)), "");
     EXPECT_EQ(FolderDifference(before, StateOf(prefix.DriveC())), "");
 }

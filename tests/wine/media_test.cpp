@@ -160,7 +160,7 @@ TEST(Floppies, WriteNothingWhenOneIsMissing)
     const fs::path package = MakePackage(product.Order({"--medium", "floppy", "--continue"}));
     fs::remove_all(package / "disk3");
     const WinePrefix prefix;
-    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 1603U);
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 20001U);
     EXPECT_FALSE(fs::exists(prefix.OnHost("C:\\Program Files\\Provpaket Åäö")));
 }
 

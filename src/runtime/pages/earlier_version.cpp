@@ -44,13 +44,13 @@ bool HoldsTheProduct(const FileSystem& files, const Text& folder, const Text& re
 } // namespace
 
 std::optional<Text> EarlierVersionFolder(const SetupInformation& setup, const Host& host,
-                                         const Target& target)
+                                         const Target& target, InstallScope scope)
 {
     const section::Updates& updates = setup.project.Updates;
     if (updates.HandleUpdate == kOff)
         return std::nullopt;
     const auto usual = FolderNamedBy(
-        target, UninstallEntryKey(setup.project.ProjectName.ProjectName), "InstallLocation");
+        target, UninstallEntryKey(setup.project.ProjectName.ProjectName, scope), "InstallLocation");
     const auto own = FolderOfOwnKey(updates, target);
     const bool ownFirst = updates.AdvUpdateRegAlwaysUseUserDefKey != kOff;
     for (const auto& found : {ownFirst ? own : usual, ownFirst ? usual : own})

@@ -10,6 +10,7 @@ namespace quillon {
 /// The main folder of the installed version; nothing where the project does not handle updates or
 /// none is found. The folder counts only if the project's reference file is in it.
 std::optional<Text> EarlierVersionFolder(const SetupInformation& setup, const Host& host,
-                                         const Target& target);
+                                         const Target& target,
+                                         InstallScope scope = InstallScope::Project);
 
 } // namespace quillon

@@ -108,6 +108,7 @@ struct SetupPage {
     std::vector<PagePiece> pieces;
     PageButtons buttons = PageButtons::BackNextCancel;
     bool canGoBack = true;
+    bool canCancel = true; // where not, the button is grey, and Esc and the window's own do nothing
     PageField focus = PageField::None; // None: the button that leads on
 
     PagePiece* Find(PageField field)

@@ -36,6 +36,8 @@ PageChain::End PageChain::LeadThrough(PageView& view)
     for (std::size_t at = 0; at < pages.size();) {
         SetupPage page = MakePage(state_, pages[at]);
         page.canGoBack = at > 0;
+        // Who declines an agreement can't be made to go on.
+        page.canCancel = input_.canCancel || page.buttons == PageButtons::BackYesNo;
         switch (Show(view, page)) {
         case PageAction::Back:
             at -= at > 0 ? 1 : 0;

@@ -21,7 +21,7 @@ SetupVariables PageState::Variables() const
 {
     return MakeSetupVariables(
         {setup, input.host, input.target, input.packageFolder,
-         choices.destination.empty() ? input.destination : choices.destination});
+         choices.destination.empty() ? input.destination : choices.destination, input.scope});
 }
 
 Text PageState::MainFolder() const

@@ -20,6 +20,8 @@ struct PageInput {
     Text destination;         // from a switch or of an earlier version; empty: the project's own
     bool isUpdate = false;    // the destination is that of an earlier version
     bool hasPassword = false; // the right one has been given already
+    InstallScope scope = InstallScope::Project;
+    bool canCancel = true; // but for /NOCANCEL
 };
 
 struct PageState {

@@ -240,7 +240,9 @@ void PageControls::AddButtons(const SetupPage& page, const PageArrangement& arra
     if (back != nullptr)
         EnableWindow(back, page.canGoBack);
     button(captions.forward, arrangement.forward, kForwardId, BS_DEFPUSHBUTTON);
-    button(captions.away, arrangement.away, kAwayId, BS_PUSHBUTTON);
+    const HWND away = button(captions.away, arrangement.away, kAwayId, BS_PUSHBUTTON);
+    if (away != nullptr)
+        EnableWindow(away, page.canCancel);
 }
 
 void PageControls::Enable(const Shown& shown, bool isEnabled) const

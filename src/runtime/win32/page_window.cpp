@@ -122,7 +122,7 @@ void PageWindow::OnCommand(int id, int what)
     const bool isLast = page_->buttons == PageButtons::Finish;
     if (id == kForwardId)
         Leave(PageAction::Next);
-    else if (id == kAwayId)
+    else if (id == kAwayId && page_->canCancel)
         Leave(isLast ? PageAction::Next : PageAction::Cancel);
     else if (id == kBackId && page_->canGoBack)
         Leave(PageAction::Back);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "formats/runtime_programs.h"
+#include "runtime/exit_codes.h"
 #include "runtime/starter_messages.h"
 #include "runtime/win32/listed_files.h"
 
@@ -15,7 +16,7 @@ namespace quillon {
 
 inline constexpr int kMaxPathLength = 32768;
 inline constexpr int kMaxMessageLength = 1024;
-inline constexpr DWORD kNotStarted = 1603;
+inline constexpr auto kNotStarted = static_cast<DWORD>(ExitCode::Failed);
 
 struct Starter {
     wchar_t own[kMaxPathLength];     // the running program's file,

@@ -7,6 +7,7 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
+#include "runtime/answer_file.h"
 #include "runtime/failure_reason.h"
 #include "runtime/pages/design_files.h"
 #include "runtime/passive_ask.h"
@@ -22,6 +23,7 @@
 #include "runtime/win32/register_process.h"
 #include "runtime/win32/restart_machine.h"
 #include "runtime/win32/restart_manager.h"
+#include "runtime/win32/run_to_end.h"
 #include "runtime/win32/screen_sound.h"
 #include "runtime/win32/screen_window.h"
 #include "runtime/win32/start_as_user.h"
@@ -65,9 +67,9 @@ struct ScreenInput {
 ScreenWindow::MakeScreen ScreenOf(const LoadedPackage& package, const ScreenInput& input)
 {
     return [&package, input](int width, int height) {
-        const SetupVariables variables =
-            MakeSetupVariables({package.setup, input.host, input.target,
-                                input.switches.packageFolder, input.switches.destination});
+        const SetupVariables variables = MakeSetupVariables(
+            {package.setup, input.host, input.target, input.switches.packageFolder,
+             input.switches.destination, input.switches.scope});
         return std::make_unique<DesignScreen>(package.setup, variables, input.design, width,
                                               height);
     };
@@ -114,7 +116,10 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
 {
     FileSystem& files = host.files;
     const LoadedPackage package = LoadPackage(files, switches.packageFolder, switches.languageFile);
-    const OnlySetup only;
+    // What changes nothing on the machine waits for nobody, and the uninstaller looks for itself.
+    std::optional<OnlySetup> only;
+    if (switches.task == SetupTask::Install)
+        only.emplace();
     RestartManager users(RestartManager::StartsAgain::Yes);
     texts = package.texts;
     const PrivateFolder work(host);
@@ -123,16 +128,25 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
         LibraryContainers(files, UnzipLibrary(files, switches.packageFolder));
     const auto run = [&](Ask& ask, PageView* pages, BackgroundSound* sound) {
         return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages, sound,
-                         only.IsNot(), StartAsUser, &users},
+                         only && only->IsNot(), StartAsUser, &users, RunToEnd},
                         package);
     };
     if (switches.silent && !switches.passive) {
         SilentAsk silent;
         return run(silent, nullptr, nullptr);
     }
-    if (switches.passive) {
-        WindowAsk window(instance, ProjectTitle(package), package.texts);
-        window.Show();
+    const auto canCancel =
+        switches.canCancel ? WindowAsk::CanCancel::Yes : WindowAsk::CanCancel::No;
+    if (switches.passive || switches.task != SetupTask::Install) {
+        WindowAsk window(instance, ProjectTitle(package), package.texts, canCancel);
+        // The others have a box to show, or a program with a window of its own.
+        const bool hasProgress = switches.task == SetupTask::Install ||
+                                 switches.task == SetupTask::Extract ||
+                                 switches.task == SetupTask::Plan;
+        if (hasProgress)
+            window.Show();
+        if (!switches.passive)
+            return run(window, nullptr, nullptr);
         PassiveAsk passive(window);
         return run(passive, nullptr, nullptr);
     }
@@ -140,8 +154,7 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
                              DesignFiles::Names::InPackage);
     ScreenWindow screen(instance, ProjectTitle(package),
                         ScreenOf(package, {host, target, design, switches}));
-    WindowAsk window(instance, ProjectTitle(package), package.texts, WindowAsk::CanCancel::Yes,
-                     screen.Handle());
+    WindowAsk window(instance, ProjectTitle(package), package.texts, canCancel, screen.Handle());
     const section::DesPercentGauge& gauge = package.setup.project.DesPercentGauge;
     window.PlaceAt(gauge.GaugeAlignmentH, gauge.GaugeAlignmentV);
     PageWindow pages(
@@ -160,6 +173,7 @@ ExitCode RunOnWindows(HINSTANCE instance, Switches switches, LanguageTexts& text
     Host host{files, machine};
     if (switches.packageFolder.empty())
         switches.packageFolder = ProgramFolder();
+    LoadAnswers(files, switches);
     return switches.testMode ? TestOnWindows(instance, host, switches, texts)
                              : InstallOnWindows(instance, host, switches, texts);
 }

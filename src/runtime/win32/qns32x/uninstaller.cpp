@@ -4,7 +4,6 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
-#include "runtime/failure_reason.h"
 #include "runtime/passive_ask.h"
 #include "runtime/uninstall_program.h"
 #include "runtime/win32/list_window.h"
@@ -100,12 +99,9 @@ int RunUninstaller(HINSTANCE instance, const StarterLine& from)
     try {
         code = RunOnWindows(instance, program, line.switches, running);
     } catch (const std::exception& error) {
-        const LanguageTexts& texts = program.Texts();
-        if (!line.switches.silent)
-            ShowMessageBox(nullptr,
-                           {"Quillon", texts(Message::UninstallFailed, FailureReason(error, texts)),
-                            MB_OK | MB_ICONSTOP},
-                           texts);
+        const Text text = program.Fail(error);
+        if (!line.switches.silent && !line.switches.suppressBoxes)
+            ShowMessageBox(nullptr, {"Quillon", text, MB_OK | MB_ICONSTOP}, program.Texts());
     }
     return static_cast<int>(code);
 }

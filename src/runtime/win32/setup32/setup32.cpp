@@ -84,6 +84,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR switches, int)
     const HWND waitWindow = silent ? nullptr : ShowWaitWindow(*starter);
     SetupRun run;
     if (MakeWorkFolder(*starter)) {
+        run.code = static_cast<DWORD>(ExitCode::DamagedPackage);
         if (CopyRuntime(*starter))
             run = RunSetup(*starter, {kPackageSwitch, starter->folder, switches}, waitWindow);
         DeleteFileW(starter->program);

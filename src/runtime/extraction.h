@@ -1,0 +1,27 @@
+// /EXTRACT: lays what a package holds into a folder, and installs nothing.
+#pragma once
+
+#include "runtime/language_file.h"
+#include "runtime/package_reader.h"
+
+namespace quillon {
+
+struct ExtractInput {
+    FileSystem& files;
+    Ask& ask;
+    ActionLog& log;
+    const LanguageTexts& texts;
+    const std::vector<InstallRow>& rows;
+    const PackageReader& package;
+    Text folder;
+};
+
+/// What goes into the main folder lies in the folder itself; what goes elsewhere in one that is
+/// named after the variable or the drive: "%SYSDIR\a" in "SYSDIR\a". A second file of the same name
+/// gets its row's number behind it. Throws `SetupFailure` where the folder holds anything.
+void ExtractPackage(const ExtractInput& input);
+
+/// Where a row's file goes, below the folder.
+Text ExtractedPath(const InstallRow& row);
+
+} // namespace quillon

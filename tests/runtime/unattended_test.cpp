@@ -1,0 +1,395 @@
+// The setup as deployment tools run it: its switches, the codes it ends with, and what it tells
+// programs.
+#include "scripted_pages.h"
+#include "setup_fixture.h"
+
+#include "runtime/answer_file.h"
+#include "runtime/uninstall_entry.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+#include <utility>
+
+namespace quillon {
+
+using nlohmann::json;
+using test::BoxKind;
+using test::MachineState;
+using test::ScriptedAsk;
+using test::ScriptedPages;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+const Text kMain = "C:\\Program\\Exempel";
+const Text kTitle = "Installation av Exempel";
+
+} // namespace
+
+class UnattendedTest : public test::SetupFixture {
+protected:
+    UnattendedTest() { AddFile("prog.exe", "%DESTDIR\\bin", "program"); }
+
+    Text BytesOf(const Text& path) const
+    {
+        const auto found = memory.files.nodes.find(LowerCase(path));
+        return found == memory.files.nodes.end() ? "<none>" : *found->second.bytes;
+    }
+    std::vector<json> Records(const Text& path) const
+    {
+        std::vector<json> records;
+        Text line;
+        for (const char c : BytesOf(path)) {
+            if (c == '\n')
+                records.push_back(json::parse(std::exchange(line, {})));
+            else
+                line += c;
+        }
+        EXPECT_EQ(line, "") << "the last record is whole";
+        return records;
+    }
+    /// Runs what changes nothing on the machine.
+    ExitCode RunInVain(const Text& switches)
+    {
+        const MachineState before = State();
+        const ExitCode code = Install(switches);
+        EXPECT_EQ(State(), before) << switches;
+        return code;
+    }
+};
+
+TEST_F(UnattendedTest, EndsWithTheGivenCodeWhereARestartIsDue)
+{
+    memory.files.Put(kMain + "\\bin\\prog.exe", "old", {2003, 1, 1, 0, 0, 0});
+    package.rows[0].copyOptions = "A";
+    files.inUse.insert(kMain + "\\bin\\prog.exe");
+    EXPECT_EQ(Install("/S /RESTARTEXITCODE=77 /RESULT=L:\\r.json"), ExitCode{77}) << Log();
+    const json last = Records("L:\\r.json").at(0);
+    EXPECT_EQ(last["code"], 77);
+    EXPECT_EQ(last["result"], "done");
+    EXPECT_EQ(last["restart"], true);
+    EXPECT_EQ(last["counts"]["filesAtRestart"], 1);
+}
+
+TEST_F(UnattendedTest, ShowsItsSwitches)
+{
+    ScriptedAsk script({{BoxKind::Inform, kTitle}});
+    ask = &script;
+    EXPECT_EQ(RunInVain("/?"), ExitCode::Done);
+    EXPECT_THAT(Log(), HasSubstr("Växlar:"));
+    EXPECT_THAT(Log(), HasSubstr("/PLAN, /PLAN=  skriver vad som skulle göras, och gör ingenting"));
+    ask = nullptr;
+    EXPECT_EQ(RunInVain("/S /?"), ExitCode::Done);
+    EXPECT_THAT(Log(), HasSubstr("/uninstall  avinstallerar programmet"));
+}
+
+TEST_F(UnattendedTest, ShowsItsVersion)
+{
+    project.Version.ProductVersion = "1.2";
+    ScriptedAsk script({{BoxKind::Inform, kTitle, "Exempel, version 1.2"}});
+    ask = &script;
+    EXPECT_EQ(RunInVain("/version"), ExitCode::Done);
+    package.setup.XProductVersion = "1.3";
+    ask = nullptr;
+    EXPECT_EQ(RunInVain("/S -version"), ExitCode::Done);
+    EXPECT_THAT(Log(), HasSubstr("Exempel, version 1.3"));
+}
+
+TEST_F(UnattendedTest, InstallsForTheCurrentUserAlone)
+{
+    project.Lists.Registry = "HKEY_CURRENT_USER\\Software\\Firma :: Namn=\"Värde\"";
+    package.rows[0].iconMarker = "IKON";
+    package.rows[0].iconTitle = "Exempel";
+    project.ProgramGroup.ProgramGroup_AllUsers = kOn;
+    memory.files.PutFolder("C:\\Data\\Local");
+    target.keys[{RegistryRoot::CurrentUser, "software"}] = {"SOFTWARE", {}};
+    const MachineState before = State();
+    EXPECT_EQ(Install("/S /CURRENTUSER"), ExitCode::Done) << Log();
+    const Text folder = "C:\\Data\\Local\\Programs\\Exempel";
+    EXPECT_TRUE(files.FileExists(folder + "\\bin\\prog.exe"));
+    EXPECT_TRUE(files.FileExists("C:\\Ulla\\Start-meny\\Program\\Exempelgrupp\\Exempel.lnk"));
+    EXPECT_EQ(
+        target.TextAt(UninstallEntryKey("Exempel", InstallScope::CurrentUser), "InstallLocation"),
+        folder);
+    EXPECT_EQ(target.TextAt(UninstallEntryKey("Exempel"), "InstallLocation"), "<none>");
+    EXPECT_EQ(UninstallProduct(folder + "\\QNXUNIN.LOG"), ExitCode::Done) << Log();
+    EXPECT_EQ(State(), before);
+}
+
+TEST_F(UnattendedTest, DoesNotInstallForTheCurrentUserWhatTheMachineShares)
+{
+    project.Lists.Registry = "HKEY_LOCAL_MACHINE\\Software\\Firma :: Namn=\"Värde\"";
+    EXPECT_EQ(RunInVain("/S /CURRENTUSER"), ExitCode::Forbidden);
+    EXPECT_THAT(Log(), HasSubstr("Programmet kan inte installeras bara för den aktuella användaren "
+                                 "(HKEY_LOCAL_MACHINE\\Software\\Firma)."));
+    project.Lists.Registry.clear();
+    for (const char* options : {"R", "S", "F"}) {
+        package.rows[0].copyOptions = options;
+        EXPECT_EQ(RunInVain("/S /CURRENTUSER"), ExitCode::Forbidden) << options;
+    }
+    package.rows[0].copyOptions = "";
+    package.rows[0].destination = "%SYSDIR";
+    EXPECT_EQ(RunInVain("/S /CURRENTUSER"), ExitCode::Forbidden);
+    EXPECT_EQ(Install("/S /ALLUSERS"), ExitCode::Done) << Log();
+}
+
+TEST_F(UnattendedTest, InstallsForAllUsersWhereTheSystemKnowsThem)
+{
+    package.rows[0].iconMarker = "IKON";
+    package.rows[0].iconTitle = "Exempel";
+    memory.files.PutFolder("C:\\Alla\\Start-meny\\Program");
+    target.hasCommonFolders = false;
+    EXPECT_EQ(RunInVain("/S /ALLUSERS"), ExitCode::Forbidden);
+    EXPECT_THAT(Log(), HasSubstr("Programmet kan inte installeras för alla användare på den här "
+                                 "datorn."));
+    target.hasCommonFolders = true;
+    EXPECT_EQ(Install("/S /ALLUSERS"), ExitCode::Done) << Log();
+    EXPECT_TRUE(files.FileExists("C:\\Alla\\Start-meny\\Program\\Exempelgrupp\\Exempel.lnk"));
+}
+
+TEST_F(UnattendedTest, StartsTheUninstallerAndEndsWithItsCode)
+{
+    EXPECT_EQ(RunInVain("/S /uninstall"), ExitCode::NothingInstalled);
+    EXPECT_THAT(Log(), HasSubstr("Exempel är inte installerat."));
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    codeOfStarted = 3010;
+    EXPECT_EQ(RunInVain("/S /uninstall /LOGJSON=L:\\a.json"), ExitCode::RestartNeeded);
+    EXPECT_THAT(started, ElementsAre(kMain + "\\QNXUNIN.EXE \"" + kMain +
+                                     "\\QNXUNIN.LOG\" /S /LOG=\"L:\\logg.txt\" "
+                                     "/LOGJSON=\"L:\\a.json\""));
+    target.ofOthers.insert(kMain + "\\QNXUNIN.EXE");
+    EXPECT_EQ(RunInVain("/S /uninstall"), ExitCode::AlreadyUninstalled);
+    target.ofOthers.clear();
+    memory.files.RemoveFile(kMain + "\\QNXUNIN.EXE");
+    EXPECT_EQ(RunInVain("/S /uninstall"), ExitCode::AlreadyUninstalled);
+    EXPECT_THAT(Log(), HasSubstr("Exempel kan inte avinstalleras. Filen '" + kMain +
+                                 "\\QNXUNIN.EXE' saknas"));
+    EXPECT_EQ(started.size(), 1U);
+}
+
+TEST_F(UnattendedTest, UnpacksWhatItHoldsAndInstallsNothing)
+{
+    AddFile("system.dll", "%SYSDIR\\Sub", "dll");
+    AddFile("prog.exe", "%DESTDIR\\bin", "twin");
+    AddFile("data.txt", "D:\\..\\Data", "text");
+    package.rows.back().destination = "D:\\Data";
+    AddFolder("%DESTDIR\\tom");
+    EXPECT_EQ(RunInVain("/S /extract:L:\\ut"), ExitCode::Done) << Log();
+    EXPECT_EQ(BytesOf("L:\\ut\\bin\\prog.exe"), "program");
+    EXPECT_EQ(BytesOf("L:\\ut\\bin\\prog.exe.3"), "twin");
+    EXPECT_EQ(BytesOf("L:\\ut\\SYSDIR\\Sub\\system.dll"), "dll");
+    EXPECT_EQ(BytesOf("L:\\ut\\D\\Data\\data.txt"), "text");
+    EXPECT_TRUE(files.DirExists("L:\\ut\\tom"));
+    EXPECT_EQ(files.Status("L:\\ut\\bin\\prog.exe").modified, (LocalTime{2004, 1, 2, 3, 4, 6}));
+    EXPECT_EQ(RunInVain("/S /extract:L:\\ut"), ExitCode::Failed);
+    EXPECT_THAT(Log(), HasSubstr("Mappen 'L:\\ut' är inte tom."));
+}
+
+TEST_F(UnattendedTest, UnpacksNothingOfADamagedPackage)
+{
+    damagedEntry = 0;
+    EXPECT_EQ(RunInVain("/S /extract:L:\\ut"), ExitCode::DamagedPackage);
+    EXPECT_FALSE(files.DirExists("L:\\ut"));
+}
+
+TEST_F(UnattendedTest, PlansAndDoesNothing)
+{
+    AddFile("ny.sys", "%SYSDIR", "s");
+    package.rows.back().component = "1";
+    package.setup.UseComponents = kOn;
+    project.FileComponents[0].Comp = 1;
+    project.FileComponents[0].CompName = "Ett";
+    project.FileComponents[0].CompDefault = 0;
+    project.Lists.Registry = "HKEY_LOCAL_MACHINE\\Software\\Firma :: Namn=\"Värde\"";
+    project.Lists.INIFiles = "-- prov.ini --\r\n[Del]\r\nNamn=värde\r\n";
+    ScriptedAsk script({{BoxKind::Inform, kTitle,
+                         "Planen har skrivits till L:\\plan.json. Ingenting har installerats."}});
+    ask = &script;
+    otherSetupRuns = true;
+    EXPECT_EQ(RunInVain("/PLAN=L:\\plan.json"), ExitCode::Done) << Log();
+    const json plan = json::parse(BytesOf("L:\\plan.json"));
+    EXPECT_EQ(plan["product"], "Exempel");
+    EXPECT_EQ(plan["scope"], "project");
+    EXPECT_EQ(plan["mainFolder"], kMain);
+    EXPECT_EQ(plan["bytes"], 7);
+    EXPECT_EQ(plan["uninstaller"], true);
+    EXPECT_EQ(plan["record"], kMain + "\\QNXUNIN.LOG");
+    ASSERT_EQ(plan["files"].size(), 1U);
+    EXPECT_EQ(plan["files"][0]["path"], kMain + "\\bin\\prog.exe");
+    EXPECT_EQ(plan["files"][0]["size"], 7);
+    EXPECT_EQ(plan["files"][0]["exists"], false);
+    EXPECT_EQ(plan["registry"][0]["key"], "HKEY_LOCAL_MACHINE\\Software\\Firma");
+    EXPECT_EQ(plan["registry"][0]["action"], "write");
+    EXPECT_EQ(plan["ini"][0]["file"], "C:\\WINDOWS\\prov.ini");
+    EXPECT_EQ(plan["skipped"][0]["reason"], "Skip_ComponentOff");
+}
+
+TEST_F(UnattendedTest, PlansIntoANewFileWhereNoneIsNamed)
+{
+    memory.files.PutFolder("C:\\TEMP");
+    ASSERT_EQ(Install("/S /PLAN"), ExitCode::Done) << Log();
+    std::vector<Text> names;
+    for (const FolderEntry& entry : files.List("C:\\TEMP"))
+        names.push_back(entry.name);
+    ASSERT_EQ(names.size(), 1U);
+    EXPECT_THAT(names[0], testing::StartsWith("QNSETUP-"));
+    EXPECT_THAT(names[0], testing::EndsWith(".JSON"));
+}
+
+TEST_F(UnattendedTest, PlansWithTheCodeThatTheInstallationWouldHave)
+{
+    project.TargetOS.TargetOS_Win2000 = kOff;
+    project.TargetOS.TargetOS_StopIfWrong = kOn;
+    EXPECT_EQ(RunInVain("/S /PLAN=L:\\plan.json"), ExitCode::WrongSystem);
+    EXPECT_EQ(BytesOf("L:\\plan.json"), "<none>");
+}
+
+TEST_F(UnattendedTest, LogsEachActionForPrograms)
+{
+    AddFile("gammal.txt", "%DESTDIR", "x", "N");
+    memory.files.Put(kMain + "\\gammal.txt", "y");
+    ASSERT_EQ(Install("/S /LOGJSON=L:\\a.json /RESULT=L:\\r.json"), ExitCode::Done) << Log();
+    const std::vector<json> records = Records("L:\\a.json");
+    ASSERT_GT(records.size(), 3U);
+    EXPECT_EQ(records[0]["action"], "Log_Begins");
+    bool copied = false;
+    bool skipped = false;
+    for (const json& record : records) {
+        EXPECT_THAT(record["time"].get<std::string>(),
+                    testing::MatchesRegex("....-..-..T..:..:.."));
+        copied = copied || (record["action"] == "Log_Copies" &&
+                            record["subject"] == kMain + "\\bin\\prog.exe");
+        if (record["action"] == "Log_Skips") {
+            skipped = true;
+            EXPECT_EQ(record["subject"], kMain + "\\gammal.txt");
+            EXPECT_EQ(record["reason"], "Skip_NeverReplaced");
+        }
+    }
+    EXPECT_TRUE(copied);
+    EXPECT_TRUE(skipped);
+    const json& last = records.back();
+    EXPECT_EQ(last["action"], "result");
+    EXPECT_EQ(last["result"], "done");
+    EXPECT_EQ(last["code"], 0);
+    EXPECT_EQ(last["restart"], false);
+    EXPECT_EQ(last["counts"]["files"], 1);
+    EXPECT_EQ(last["counts"]["skipped"], 1);
+    EXPECT_EQ(Records("L:\\r.json"), std::vector<json>{last});
+}
+
+TEST_F(UnattendedTest, TellsTheResultOfWhatFailsToo)
+{
+    struct Case {
+        Text switches;
+        int code;
+        const char* result;
+    };
+    damagedEntry = 0;
+    for (const Case& one : {Case{"/FEL", 1639, "bad switch"}, Case{"", 20001, "damaged package"},
+                            Case{"/uninstall", 1605, "not installed"}}) {
+        RunInVain("/S /RESULT=L:\\r.json " + one.switches);
+        const json last = Records("L:\\r.json").at(0);
+        EXPECT_EQ(last["code"], one.code);
+        EXPECT_EQ(last["result"], one.result);
+        EXPECT_NE(last["error"], "");
+    }
+    otherSetupRuns = true;
+    EXPECT_EQ(RunInVain("/S /RESULT=L:\\r.json"), ExitCode::OtherSetupRuns);
+    EXPECT_EQ(Records("L:\\r.json").at(0)["result"], "another setup runs");
+}
+
+TEST_F(UnattendedTest, NamesNoPasswordAnywhere)
+{
+    project.DialogBoxes.PasswordDlg = 1;
+    project.DialogBoxData.CorrectPassword = "Hemligt";
+    for (const char* password :
+         {"/PASSWORD=Hemligt", "/PASSWORD=Fel-Hemligt", "/PASSWORDS=Hemligt"}) {
+        Install(Text("/S /LOGJSON=L:\\a.json /RESULT=L:\\r.json /SAVEINF=L:\\svar.inf "
+                     "/PLAN=L:\\plan.json ") +
+                password);
+        for (const char* file :
+             {"L:\\logg.txt", "L:\\a.json", "L:\\r.json", "L:\\svar.inf", "L:\\plan.json"})
+            EXPECT_THAT(BytesOf(file), Not(HasSubstr("Hemligt"))) << file << password;
+    }
+}
+
+TEST_F(UnattendedTest, SavesTheAnswersAndTakesThemAgain)
+{
+    package.setup.UseComponents = kOn;
+    for (std::size_t i = 0; i < 3; ++i) {
+        project.FileComponents[i].Comp = 1;
+        project.FileComponents[i].CompName = i == 1 ? "Med, komma" : "Del" + NumberText(int(i) + 1);
+    }
+    ASSERT_EQ(Install("/S /D=C:\\Egen mapp /GROUP=Gruppen /COMPONENTS=2,del3 /ALLUSERS "
+                      "/SAVEINF=L:\\svar.inf"),
+              ExitCode::Done)
+        << Log();
+    EXPECT_THAT(BytesOf("L:\\svar.inf"),
+                testing::StartsWith("\xEF\xBB\xBF[Setup]\r\nDir=C:\\Egen mapp\r\nGroup=Gruppen\r\n"
+                                    "Components=2,Del3\r\nScope=ALLUSERS\r\nUserName="));
+    Switches switches = ReadSwitches("/LOADINF=L:\\svar.inf /GROUP=Annan");
+    LoadAnswers(files, switches);
+    EXPECT_EQ(switches.badSwitch, std::nullopt);
+    EXPECT_EQ(switches.destination, "C:\\Egen mapp");
+    EXPECT_EQ(switches.programGroup, "Annan");
+    EXPECT_EQ(switches.components, "2,Del3");
+    EXPECT_EQ(switches.scope, InstallScope::AllUsers);
+}
+
+TEST_F(UnattendedTest, TakesTheNamesOfTheRegistrationPageFromAFile)
+{
+    memory.files.Put("L:\\svar.inf", "[Annat]\r\nDir=fel\r\n[setup]\r\nUSERNAME = \xC5ke\r\n"
+                                     "Okänd=1\r\n");
+    project.Lists.INIFiles = "-- prov.ini --\r\n[Del]\r\nNamn=%USERNAME\r\n";
+    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf"), ExitCode::Done) << Log();
+    EXPECT_THAT(BytesOf("C:\\WINDOWS\\prov.ini"), HasSubstr("Namn=\xC5ke"));
+}
+
+TEST_F(UnattendedTest, RefusesAFileOfAnswersThatIsNone)
+{
+    EXPECT_EQ(RunInVain("/S /LOADINF=L:\\borta.inf"), ExitCode::BadSwitch);
+    EXPECT_THAT(Log(), HasSubstr("Växeln '/LOADINF=L:\\borta.inf' är okänd"));
+    memory.files.Put("L:\\svar.inf", "[Setup]\r\nDir=fel\r\n");
+    EXPECT_EQ(RunInVain("/S /LOADINF=L:\\svar.inf"), ExitCode::BadSwitch);
+    EXPECT_THAT(Log(), HasSubstr("Växeln '/LOADINF=L:\\svar.inf (Dir)' är okänd"));
+}
+
+TEST_F(UnattendedTest, ShowsNoBoxesWhereTheyAreSuppressed)
+{
+    memory.files.Put(kMain + "\\bin\\prog.exe", "old", {2003, 1, 1, 0, 0, 0});
+    package.rows[0].copyOptions = "X";
+    ScriptedAsk nobody;
+    ask = &nobody;
+    EXPECT_EQ(Install("/SUPPRESSMSGBOXES"), ExitCode::Done) << Log();
+    EXPECT_EQ(BytesOf(kMain + "\\bin\\prog.exe"), "old");
+    EXPECT_EQ(Install("/SUPPRESSMSGBOXES /FEL"), ExitCode::BadSwitch);
+}
+
+TEST_F(UnattendedTest, LetsNobodyCancelWhereThatIsNotWanted)
+{
+    project.DialogBoxes.WelcomeDlg = project.DialogBoxes.LicenseInfoDlg = 1;
+    ScriptedPages shown({{PageKind::Welcome}, {PageKind::LicenseInfo}});
+    pages = &shown;
+    ScriptedAsk nobody;
+    ask = &nobody;
+    project.DialogBoxes.DestinationDlg = project.DialogBoxes.InstallCompletedDlg = 0;
+    EXPECT_EQ(Install("/NOCANCEL"), ExitCode::Done) << Log();
+    EXPECT_FALSE(shown.shown[0].canCancel);
+    EXPECT_TRUE(shown.shown[1].canCancel) << "an agreement can be declined";
+}
+
+TEST_F(UnattendedTest, WritesALogOfItsOwnNameWhereNoneIsGiven)
+{
+    Switches switches = ReadSwitches("/LOG");
+    const Text path = LogFilesOf(switches, files, memory.machine, "QNSETUP").readable;
+    EXPECT_THAT(path, testing::MatchesRegex("C:.TEMP.QNSETUP-........-.......LOG"));
+    memory.files.Put(path, "");
+    EXPECT_EQ(LogFilesOf(switches, files, memory.machine, "QNSETUP").readable,
+              path.substr(0, path.size() - 4) + "-2.LOG");
+    EXPECT_EQ(LogFilesOf(ReadSwitches("/S"), files, memory.machine, "QNSETUP").readable, "");
+}
+
+} // namespace quillon
