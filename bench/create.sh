@@ -13,34 +13,10 @@ runs=${RUNS:-3}
 work=${1:-build/bench-input}
 mkdir -p "$work"
 work=$(cd "$work" && pwd)
-input=$work/input
 bin=$PWD/build/release/bench
 quillonc=$PWD/build/release/quillon/quillonc
 failed=0
-
-# The files to copy: of each folder the first in byte order that make up a third of the amount. A
-# name that Windows or a project can't hold, and one that differs from another in case alone, is
-# passed over, so that all three programs pack the same files.
-choose_files() {
-    local folder
-    for folder in /usr/lib /usr/share /usr/bin; do
-        find "$folder" -xdev -type f -printf '%s\t%p\n' 2>/dev/null | LC_ALL=C sort -t $'\t' -k 2 \
-            | LC_ALL=C awk -F '\t' -v wanted=180000000 '
-                sum >= wanted { next }
-                $2 !~ /^[-A-Za-z0-9_.+~@=,()\/]+$/ || $2 ~ /\.(\/|$)/ || length($2) > 180 { next }
-                tolower($2) in seen { next }
-                { seen[tolower($2)]; sum += $1; print substr($2, 2) }'
-    done
-}
-
-make_input() {
-    [ -f "$work/input.done" ] && return 0
-    rm -rf "$input" "$work/input.list"
-    mkdir -p "$input"
-    choose_files >"$work/input.list"
-    tar -C / --files-from="$work/input.list" --hard-dereference -cf - | tar -C "$input" -xf -
-    touch "$work/input.done"
-}
+. bench/tree.sh
 
 # Seconds and peak kilobytes of the best of several runs, in `seconds` and `memory`. PREPARE is run
 # before each and not counted.
@@ -65,13 +41,6 @@ measure() {
 
 size_of() { stat -c %s "$1"; }
 
-# judge LIMIT TEXT VALUE OPERATOR: prints the line and remembers a failure.
-judge() {
-    local word=holds
-    awk "BEGIN { exit !($3 $4 $1) }" || { word=FAILS failed=1; }
-    printf '%-6s %-58s %8.2f (limit %s %s)\n' "$word" "$2" "$3" "$4" "$1"
-}
-
 ratio() { awk "BEGIN { printf \"%.4f\", $1 / $2 }"; }
 
 line() { printf '%-22s %9.2f s %13d bytes %9d KB peak\n' "$1" "$2" "$3" "$4"; }
@@ -83,13 +52,7 @@ zip_input() { (cd "$input" && zip -q -5 -r "$work/all.zip" .); }
 
 compare_programs() {
     local files bytes
-    make_input
-    files=$(find "$input" -type f | wc -l)
-    bytes=$(find "$input" -type f -printf '%s\n' | awk '{ sum += $1 } END { printf "%d", sum }')
-    echo "Input: $files files, $bytes bytes in $input"
-    [ "$bytes" -ge 500000000 ] || { echo "That is less than 500 MB." >&2; exit 1; }
-    [ "$("$bin/make_project" "$input" "$work/all.qnp")" -eq "$files" ] \
-        || { echo "The project does not hold every file." >&2; exit 1; }
+    make_tree_project
     find "$input" -type f -exec cat {} + >/dev/null # every program finds the files in memory
 
     measure empty_package "$quillonc" create "$work/all.qnp" --medium cd --to "$work/package"

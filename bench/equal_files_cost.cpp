@@ -4,6 +4,7 @@
 #include "archive/writer/zip_writer.h"
 #include "helpers/windows_path.h"
 #include "platform/posix/posix_host.h"
+#include "support/counting_output.h"
 
 #include <algorithm>
 #include <chrono>
@@ -14,17 +15,6 @@ namespace quillon::bench {
 namespace {
 
 constexpr int kRuns = 3;
-
-class Nowhere : public OutputFile {
-public:
-    void Write(std::span<const std::byte> bytes) override { position_ += bytes.size(); }
-    void WriteAt(std::uint64_t, std::span<const std::byte>) override {}
-    std::uint64_t Position() const override { return position_; }
-    void Close() override {}
-
-private:
-    std::uint64_t position_ = 0;
-};
 
 void AddFolder(const FileSystem& files, const Text& folder, std::vector<Text>& paths)
 {
@@ -52,7 +42,7 @@ double Seconds(const FileSystem& files, const std::vector<ZipSource>& sources, b
     ZipWatch watch;
     if (shares)
         watch.onEqual = [](auto...) { return std::nullopt; };
-    Nowhere target;
+    test::CountingOutput target;
     const auto begin = std::chrono::steady_clock::now();
     WriteZip(files, sources, target, {}, watch);
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();

@@ -287,6 +287,36 @@ TEST(FolderSink, WritesTheFilesWithTimesAndMarks)
     EXPECT_EQ(told, 101'014U);
 }
 
+std::vector<Text> PathsOn(const test::MemoryHost& machine)
+{
+    std::vector<Text> paths;
+    for (const auto& [key, node] : machine.files.nodes)
+        paths.push_back(key);
+    return paths;
+}
+
+TEST(FolderSink, TakesBackWhatItHasMadeAndNothingElse)
+{
+    test::MemoryHost machine;
+    machine.files.Put("C:\\Ut\\Djup\\Mapp\\min.txt", "mine");
+    machine.files.Put("C:\\Ut\\Djup\\Mapp\\Å ä.dat", "in the way");
+    const std::vector<Text> before = PathsOn(machine);
+    FolderSink sink(machine.files, "C:\\Ut\\Djup");
+    sink.MakeFolder();
+    EXPECT_EQ(RunErrorNumber([&] { Open(MakeSolid(SomeFiles())).Extract(sink); }),
+              ErrorNumber::kPathFileAccess);
+    EXPECT_TRUE(machine.files.FileExists("C:\\Ut\\Djup\\SETUP.EXE"));
+    sink.TakeBack();
+    EXPECT_EQ(PathsOn(machine), before);
+
+    FolderSink fresh(machine.files, "C:\\Ny\\Mapp");
+    fresh.MakeFolder();
+    Open(MakeSolid(SomeFiles())).Extract(fresh);
+    EXPECT_TRUE(machine.files.FileExists("C:\\Ny\\Mapp\\Mapp\\Å ä.dat"));
+    fresh.TakeBack();
+    EXPECT_EQ(PathsOn(machine), before);
+}
+
 TEST(FolderSink, OverwritesNothing)
 {
     test::MemoryHost machine;

@@ -5,6 +5,7 @@
 #include "builder/archive_tools.h"
 #include "builder/tricky_files.h"
 #include "formats/container_names.h"
+#include "support/counting_output.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 #include "create_desk.h"
 
 #include "support/linked_program.h"
+#include "support/plain_icon.h"
 
 namespace quillon::test {
 
@@ -28,6 +29,7 @@ CreateDesk::CreateDesk()
           "Solid\\DUNZIP32.DLL", "QNREG32.EXE", "QNXREG2.EXE", "QNXUNIN.EXE"})
         machine.files.Put(Text("C:\\Quillon\\Release\\") + program, program);
     machine.files.Put("C:\\Quillon\\Release\\QNSELFX.EXE", MakeLinkedProgram({}));
+    machine.files.Put("C:\\Quillon\\Res\\SelfExtract.ico", PlainIconFile());
     machine.files.Put("C:\\Quillon\\Language\\SWEDISH.LNG", "[PreLoader]\r\n");
     machine.files.PutFolder("C:\\TEMP");
     machine.files.PutFolder("C:\\WINDOWS\\SYSTEM32");

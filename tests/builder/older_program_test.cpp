@@ -117,7 +117,7 @@ TEST(ActiveDelivery, MakesNoProgramThatIsTooLarge)
     const Text project = "C:\\TEMP\\INSTALL.ADX";
     const auto build = [&](std::uint64_t maxSize) {
         ActiveDelivery delivery(desk.machine.host, ask, "C:\\Quillon\\Release\\QNSELFX.EXE",
-                                maxSize);
+                                "C:\\Quillon\\Res\\SelfExtract.ico", maxSize);
         delivery.Method11("C:\\Ut\\*.*", "C:\\TEMP\\INSTALL.ZIP");
         delivery.Method1(project);
         delivery.Method6(project, SelfExtractAttribute::kArchive, "C:\\TEMP\\INSTALL.ZIP");

@@ -10,8 +10,10 @@
 #include "helpers/version_resource.h"
 #include "support/linked_program.h"
 #include "support/one_file_host.h"
+#include "support/plain_icon.h"
 
 #include <cstring>
+#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -25,27 +27,6 @@ using testing::HasSubstr;
 using testing::IsSupersetOf;
 
 namespace {
-
-/// A picture of this size in an icon file, as a bitmap or as PNG; what is in it matters to nobody.
-std::string IconPicture(std::size_t size, bool isPng)
-{
-    std::string picture(size, isPng ? 'p' : 'b');
-    if (isPng)
-        picture.replace(0, 8, "\x89PNG\r\n\x1A\n");
-    else
-        picture.replace(0, 4, std::string("\x28\0\0\0", 4));
-    return picture;
-}
-
-std::string IconFile()
-{
-    const std::string small = IconPicture(100, false);
-    const std::string large = IconPicture(300, true);
-    std::string file("\0\0\1\0\2\0", 6);
-    file += std::string("\x10\x10\0\0\1\0\x20\0", 8) + std::string("\x64\0\0\0\x26\0\0\0", 8);
-    file += std::string("\0\0\0\0\1\0\x20\0", 8) + std::string("\x2C\1\0\0\x8A\0\0\0", 8);
-    return file + small + large;
-}
 
 class SelfExtractingFile : public testing::Test {
 protected:
@@ -190,13 +171,37 @@ TEST_F(SelfExtractingFile, SaysWhoseItIs)
 
 TEST_F(SelfExtractingFile, CarriesEverySizeOfTheIcon)
 {
-    desk.machine.files.Put("C:\\Data\\båt.ico", IconFile());
+    desk.machine.files.Put("C:\\Data\\båt.ico", test::PlainIconFile());
     desk.project.InstallOptionsInternet.SelfExtractIconFilename = "C:\\Data\\båt.ico";
     ASSERT_EQ(desk.Create(), CreateResult::Done);
     const std::string bytes = desk.Get("self.exe");
-    EXPECT_THAT(bytes, HasSubstr(IconPicture(100, false)));
-    EXPECT_THAT(bytes, HasSubstr(IconPicture(300, true)));
+    EXPECT_THAT(bytes, HasSubstr(test::PlainIconPicture(100, false)));
+    EXPECT_THAT(bytes, HasSubstr(test::PlainIconPicture(300, true)));
     EXPECT_EQ(Version().CompanyName, "Firma AB");
+}
+
+TEST_F(SelfExtractingFile, HasTheStandardIconWhereTheProjectNamesNone)
+{
+    std::ifstream file(QUILLON_TEST_DATA "/../resources/Res/SelfExtract.ico", std::ios::binary);
+    const std::string icon{std::istreambuf_iterator<char>(file), {}};
+    desk.machine.files.Put("C:\\Quillon\\Res\\SelfExtract.ico", icon);
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    const std::string bytes = desk.Get("self.exe");
+    const auto standard = IconResources(icon);
+    ASSERT_TRUE(standard.has_value());
+    EXPECT_EQ(standard->size(), 6U); // 16, 24, 32, 48 and 256 pixels, and the list of them
+    for (const ProgramResource& picture : *standard)
+        EXPECT_NE(bytes.find(picture.bytes), std::string::npos) << picture.id;
+}
+
+TEST_F(SelfExtractingFile, TellsAStandardIconThatIsMissing)
+{
+    desk.machine.files.nodes.erase("c:\\quillon\\res\\selfextract.ico");
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_EQ(desk.statusLines[desk.statusLines.size() - 2],
+              "Fel #53 inträffade när en självuppackande installation skulle skapas!");
+    ASSERT_TRUE(desk.failure.has_value());
+    EXPECT_EQ(desk.failure->Path(), "C:\\Quillon\\Res\\SelfExtract.ico");
 }
 
 TEST_F(SelfExtractingFile, TellsAnIconThatIsNone)
@@ -279,7 +284,7 @@ TEST_F(SelfExtractingFile, IsRefusedBeforeTheWorkWhereItWouldBeTooLarge)
 TEST_F(SelfExtractingFile, IsDescribedByNumbersInTheirOrder)
 {
     desk.project.InstallOptionsInternet.SelfExtractIconFilename = "C:\\Data\\båt.ico";
-    desk.machine.files.Put("C:\\Data\\båt.ico", IconFile());
+    desk.machine.files.Put("C:\\Data\\båt.ico", test::PlainIconFile());
     desk.project.Sign = {.SignSelfExtractFile = kOn,
                          .SignDescription = "Båtar",
                          .SignURL = "https://firma.example",
@@ -361,7 +366,7 @@ TEST(WithResources, RefusesWhatHasNoRoomOrIsNoProgram)
 
 TEST(IconResources, RefusesEveryCut)
 {
-    const std::string icon = IconFile();
+    const std::string icon = test::PlainIconFile();
     EXPECT_EQ(IconResources(icon)->size(), 3U);
     for (std::size_t length = 0; length < icon.size(); ++length)
         EXPECT_FALSE(IconResources(std::string_view(icon).substr(0, length))) << length;

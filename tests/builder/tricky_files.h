@@ -77,18 +77,6 @@ private:
     std::map<Text, Open> tricks_;
 };
 
-/// An output that only counts.
-class CountingOutput : public OutputFile {
-public:
-    void Write(std::span<const std::byte> bytes) override { position_ += bytes.size(); }
-    void WriteAt(std::uint64_t, std::span<const std::byte>) override {}
-    std::uint64_t Position() const override { return position_; }
-    void Close() override {}
-
-private:
-    std::uint64_t position_ = 0;
-};
-
 /// An output on the real disk in which zeros take no room.
 class SparseOutput : public OutputFile {
 public:

@@ -1,6 +1,7 @@
 #include "workshop.h"
 
 #include "support/linked_program.h"
+#include "support/plain_icon.h"
 
 #include "helpers/windows_path.h"
 #include "platform/posix/posix_host.h"
@@ -49,6 +50,7 @@ Workshop::Workshop()
     disk.Put("tool/Release/QNSELFX.EXE", MakeLinkedProgram({}));
     disk.Put("tool/Language/SWEDISH.LNG", "[PreLoader]\r\n");
     disk.Put("tool/Res/SetupDef.bmp", "BM");
+    disk.Put("tool/Res/SelfExtract.ico", PlainIconFile());
     fs::copy_file(QUILLONC, disk.Path("tool/quillonc"));
     environment = {{"QUILLON_DRIVES", "S=" + disk.Path("src")},
                    {"QUILLON_DRIVE_C", disk.Path("c")},

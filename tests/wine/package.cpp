@@ -15,23 +15,28 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The runtime's files as they are called in a package, and where they come from.
-constexpr std::pair<const char*, const char*> kRuntimeFiles[] = {
-    {"SETUP.EXE", "SETUP32.EXE"},     {"QNS32X.BIN", "Small32/QNS32X.EXE"},
-    {"DUNZIP32.DLL", "DUNZIP32.DLL"}, {"QNREG32.BIN", "QNREG32.EXE"},
-    {"QNXREG2.BIN", "QNXREG2.EXE"},   {"QNXUNIN.BIN", "QNXUNIN.EXE"},
-};
-
-void UseRuntimeOfThisWine(const fs::path& package, bool isSmall)
+// The tool; for 64-bit Wine beside the runtime of that kind. A program finds its data beside
+// itself, so the files are copies.
+fs::path ToolFolder()
 {
-    for (const auto& [name, source] : kRuntimeFiles)
-        if (fs::exists(package / name))
-            fs::copy_file(RuntimeFolder() / source, package / name,
-                          fs::copy_options::overwrite_existing);
-    if (isSmall)
-        fs::copy_file(RuntimeFolder() / "Solid" / "DUNZIP32.DLL", package / "DUNZIP32.DLL",
-                      fs::copy_options::overwrite_existing);
-    WriteManifest(package);
+    const fs::path tool = fs::path(QUILLON_BUILD_FOLDER) / "quillon";
+    if (WineBits() == 32)
+        return tool;
+    static const fs::path twin = [&] {
+        const fs::path folder = WorkFolder() / "tool";
+        fs::create_directory(folder);
+        for (const fs::directory_entry& entry : fs::directory_iterator(tool)) {
+            const fs::path name = entry.path().filename();
+            if (name == "Release")
+                fs::create_directory_symlink(RuntimeFolder(), folder / name);
+            else if (entry.is_directory())
+                fs::create_directory_symlink(entry.path(), folder / name);
+            else
+                fs::copy_file(entry.path(), folder / name);
+        }
+        return folder;
+    }();
+    return twin;
 }
 
 } // namespace
@@ -41,16 +46,14 @@ fs::path MakePackage(const PackageOrder& order)
     static int number = 0;
     const fs::path package = WorkFolder() / ("paket " + std::to_string(++number));
     fs::create_directory(package);
-    const fs::path quillonc = fs::path(QUILLON_BUILD_FOLDER) / "quillon" / "quillonc";
-    std::vector<std::string> command{quillonc, "create", order.project, "--to", package};
+    std::vector<std::string> command{ToolFolder() / "quillonc", "create", order.project, "--to",
+                                     package};
     command.insert(command.end(), order.options.begin(), order.options.end());
     const ProgramResult created =
         RunProgram(command, {{"QUILLON_DRIVES", "S=" + order.drive.string()},
                              {"QUILLON_DRIVE_C", WorkFolder() / "drive-of-the-tool"},
                              {"TZ", "UTC"}});
     EXPECT_EQ(created.exitCode, 0) << created.output;
-    if (WineBits() == 64)
-        UseRuntimeOfThisWine(package, std::ranges::count(order.options, "--small") > 0);
     return package;
 }
 

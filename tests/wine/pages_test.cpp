@@ -2,6 +2,7 @@
 // a second program; and what is installed then.
 #include "runtime/language_file.h"
 #include "runtime/pages/page_order.h"
+#include "wine/driven_setup.h"
 #include "wine/folder_state.h"
 #include "wine/package.h"
 #include "wine/registry_text.h"
@@ -122,28 +123,13 @@ protected:
     /// What the driver has logged.
     std::string Drive(const Script& script, const std::string& command)
     {
-        WriteBytes(prefix.DriveC() / "script.txt", script.Text(command));
-        EXPECT_EQ(prefix.Run(OnZ(TestDriver()), R"(C:\script.txt C:\driven.txt)"), 0U);
-        return ReadBytes(prefix.DriveC() / "driven.txt");
-    }
-    static fs::path TestDriver()
-    {
-        const fs::path driver = WorkFolder() / "drive_setup.exe";
-        fs::copy_file(TestProgramFolder() / "drive_setup.exe", driver,
-                      fs::copy_options::skip_existing);
-        return driver;
+        return DriveSetup(prefix, script.Text(command));
     }
     static std::string Setup(const fs::path& package, const std::string& switches = {})
     {
         return "\"" + OnZ(package / "SETUP.EXE") + "\" " + switches;
     }
-    // There is no screen, and Wine has to be told so, or it makes no window.
-    void UseNoScreen()
-    {
-        ASSERT_EQ(
-            prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"), 0U);
-        prefix.Stop();
-    }
+    void UseNoScreen() { quillon::test::UseNoScreen(prefix); }
 
     const WinePrefix prefix;
 };

@@ -14,11 +14,41 @@ void FolderSink::Begin(const SolidFile& file)
 {
     file_ = &file;
     path_ = JoinPath(folder_, ReplaceAll(file.name, "/", "\\"));
-    if (file.name.find('/') != Text::npos && !files_.DirCreate(ExtractDirectory(path_)))
-        throw RunError(ErrorNumber::kPathFileAccess, ExtractDirectory(path_));
+    if (file.name.find('/') != Text::npos)
+        MakeFolder(path_.substr(0, path_.rfind('\\')));
     output_ = files_.OpenNew(path_);
     if (!output_)
         throw RunError(ErrorNumber::kPathFileAccess, path_);
+    made_ += path_ + "\n";
+}
+
+// Where a folder can't be made, the first file that goes into it says so.
+void FolderSink::MakeFolder(const Text& folder)
+{
+    if (files_.DirExists(folder))
+        return;
+    const std::size_t last = folder.rfind('\\');
+    if (last != Text::npos && last > 0 && folder[last - 1] != ':')
+        MakeFolder(folder.substr(0, last));
+    if (files_.DirCreate(folder))
+        made_ += folder + "\n";
+}
+
+void FolderSink::TakeBack()
+{
+    output_.reset();
+    while (!made_.empty()) {
+        made_.pop_back();
+        const std::size_t begin = made_.rfind('\n') + 1; // 0 for the first line
+        const Text path = made_.substr(begin);
+        made_.resize(begin);
+        RunErrorNumber([&] {
+            if (files_.DirExists(path))
+                return files_.RemoveFolder(path);
+            files_.SetReadOnly(path, false);
+            files_.RemoveFile(path);
+        });
+    }
 }
 
 void FolderSink::Write(std::span<const std::byte> bytes)

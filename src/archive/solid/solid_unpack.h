@@ -7,18 +7,25 @@ namespace quillon {
 
 /// Writes each file as a new one, with its folders, time and read-only mark; bytes are counted by
 /// `onProgress`. Throws `RunError`: 75 (path/file access) where a file is there already. What was
-/// written until then stays, for the caller to remove.
+/// written until then stays, until `TakeBack`.
 class FolderSink : public SolidSink {
 public:
     using Progress = std::function<void(std::uint64_t done)>;
 
     FolderSink(FileSystem& files, Text folder, Progress onProgress = {});
 
+    /// The folder itself, where it is missing.
+    void MakeFolder() { MakeFolder(folder_); }
+    /// Removes the files and folders that it has made, as far as they can be removed.
+    void TakeBack();
+
     void Begin(const SolidFile& file) override;
     void Write(std::span<const std::byte> bytes) override;
     void End() override;
 
 private:
+    void MakeFolder(const Text& folder);
+
     FileSystem& files_;
     Text folder_;
     Progress onProgress_;
@@ -26,6 +33,7 @@ private:
     const SolidFile* file_ = nullptr;
     Text path_;
     std::unique_ptr<OutputFile> output_;
+    Text made_; // the paths of what it has made, a line each; a folder before what is in it
 };
 
 } // namespace quillon

@@ -5,7 +5,6 @@
 #include "builder/progress_display.h"
 #include "builder/selfextract/payload_sources.h"
 #include "builder/selfextract/program_identity.h"
-#include "builder/selfextract/program_resources.h"
 #include "formats/self_extraction.h"
 #include "helpers/windows_path.h"
 #include "platform/saved_file.h"
@@ -87,21 +86,12 @@ std::vector<ProgramResource> ResourcesOf(const SelfExtractAttributes& attributes
         {ResourceType::kRawData, kSelfExtractTexts, AttributeOf(attributes, Attribute::kTexts)}};
 }
 
-/// Nothing where the icon can't be opened or is none.
-std::optional<std::vector<ProgramResource>> ReadIcon(const FileSystem& files, const Text& path)
-{
-    if (path.empty())
-        return std::vector<ProgramResource>{};
-    std::string bytes;
-    if (RunErrorNumber([&] { bytes = ReadWholeFile(files, path); }) != ErrorNumber::kNone)
-        return std::nullopt;
-    return IconResources(bytes);
-}
-
 } // namespace
 
-ActiveDelivery::ActiveDelivery(Host& host, Ask& ask, Text extractor, std::uint64_t maxSize)
-    : host_(host), ask_(ask), extractor_(std::move(extractor)), maxSize_(maxSize)
+ActiveDelivery::ActiveDelivery(Host& host, Ask& ask, Text extractor, Text standardIcon,
+                               std::uint64_t maxSize)
+    : host_(host), ask_(ask), extractor_(std::move(extractor)),
+      standardIcon_(std::move(standardIcon)), maxSize_(maxSize)
 {
 }
 
@@ -170,9 +160,23 @@ Long ActiveDelivery::Method10(const Text& projectPath)
     return failed != 0 ? failed : result;
 }
 
+/// Nothing where the icon of the project can't be opened, or is none.
+std::optional<std::vector<ProgramResource>>
+ActiveDelivery::Icon(const SelfExtractAttributes& attributes) const
+{
+    const Text path = IconPath(attributes);
+    std::string bytes;
+    if (path.empty())
+        bytes = ReadWholeFile(host_.files, standardIcon_);
+    else if (RunErrorNumber([&] { bytes = ReadWholeFile(host_.files, path); }) !=
+             ErrorNumber::kNone)
+        return std::nullopt;
+    return IconResources(bytes);
+}
+
 Long ActiveDelivery::Build(const SelfExtractAttributes& attributes)
 {
-    const auto icon = ReadIcon(host_.files, IconPath(attributes));
+    const auto icon = Icon(attributes);
     if (!icon)
         return kNoIcon;
     std::vector<ProgramResource> resources = ResourcesOf(attributes);

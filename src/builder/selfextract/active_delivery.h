@@ -2,6 +2,7 @@
 // success, else the number that a status line tells.
 #pragma once
 
+#include "builder/selfextract/program_resources.h"
 #include "builder/selfextract/self_extract_project.h"
 #include "helpers/number_text.h"
 #include "platform/ask.h"
@@ -20,8 +21,10 @@ public:
     /// Windows starts no program of 4 GiB; a signature has room behind it.
     static constexpr std::uint64_t kMaxProgramSize = 0xFFFFFFFF - 1024 * 1024;
 
-    /// `extractor` is the program that stands before the payload.
-    ActiveDelivery(Host& host, Ask& ask, Text extractor, std::uint64_t maxSize = kMaxProgramSize);
+    /// `extractor` is the program that stands before the payload; `standardIcon` is for a project
+    /// that names none.
+    ActiveDelivery(Host& host, Ask& ask, Text extractor, Text standardIcon,
+                   std::uint64_t maxSize = kMaxProgramSize);
 
     /// Puts all files that match the pattern ("C:\Ut\*.*": those of a folder) into an archive,
     /// stored: what comes after packs them.
@@ -43,10 +46,12 @@ private:
     Long Number(const std::function<void()>& work);
     void Archive(const Text& folder, const Text& zipPath);
     Long Build(const SelfExtractAttributes& attributes);
+    std::optional<std::vector<ProgramResource>> Icon(const SelfExtractAttributes& attributes) const;
 
     Host& host_;
     Ask& ask_;
     Text extractor_;
+    Text standardIcon_;
     std::uint64_t maxSize_;
     std::optional<RunError> failure_;
 };

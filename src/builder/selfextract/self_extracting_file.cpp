@@ -21,6 +21,7 @@ namespace {
 constexpr const char* kDefaultName = "SELF.EXE";
 constexpr const char* kArchiveName = "INSTALL.ZIP";
 constexpr const char* kProjectName = "INSTALL.ADX";
+constexpr const char* kStandardIconName = "SelfExtract.ico";
 constexpr const char* kTempFolderDirective = "<WinTemp>";
 constexpr const char* kProgramFolderDirective = "<Exe>";
 // The section of the language file with the texts that are shown before there is a package.
@@ -248,7 +249,8 @@ bool BuildSelfExtractingFile(CreateRun& run)
 
     ActiveDelivery delivery(run.host, run.ask,
                             run.options.ToolFolder + "\\Release\\" +
-                                RuntimePrograms::kSelfExtractor.name);
+                                RuntimePrograms::kSelfExtractor.name,
+                            run.options.ToolFolder + "\\Res\\" + kStandardIconName);
     const auto keepFailure = [&] {
         if (delivery.LastFailure())
             run.failure = delivery.LastFailure();

@@ -1,5 +1,7 @@
 #include "platform/posix/certificates.h"
 
+#include "helpers/utf8.h"
+
 #include <openssl/err.h>
 #include <openssl/pem.h>
 #include <openssl/x509_vfy.h>
@@ -13,6 +15,18 @@ using Store = std::unique_ptr<X509_STORE, Closer<X509_STORE_free>>;
 using Certificate = std::unique_ptr<X509, Closer<X509_free>>;
 using StoreContext = std::unique_ptr<X509_STORE_CTX, Closer<X509_STORE_CTX_free>>;
 
+// The words are a stranger's, and are printed to terminals and logs.
+Text WithoutControls(std::string_view text)
+{
+    Text printable;
+    for (std::size_t position = 0; position < text.size();) {
+        const char32_t code = NextCodePoint(text, position);
+        const bool isControl = code < 0x20 || (code >= 0x7F && code < 0xA0);
+        AppendCodePoint(printable, isControl ? U' ' : code);
+    }
+    return printable;
+}
+
 Text EntryOf(const X509_NAME* name, int kind)
 {
     const int place = X509_NAME_get_index_by_NID(name, kind, -1);
@@ -23,7 +37,8 @@ Text EntryOf(const X509_NAME* name, int kind)
         ASN1_STRING_to_UTF8(&utf8, X509_NAME_ENTRY_get_data(X509_NAME_get_entry(name, place)));
     if (length < 0)
         return {};
-    Text text(reinterpret_cast<const char*>(utf8), static_cast<std::size_t>(length));
+    Text text =
+        WithoutControls({reinterpret_cast<const char*>(utf8), static_cast<std::size_t>(length)});
     OPENSSL_free(utf8);
     return text;
 }

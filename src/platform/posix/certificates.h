@@ -14,7 +14,8 @@ namespace quillon {
 using OwnedPkcs7 = std::unique_ptr<PKCS7, Closer<PKCS7_free>>;
 using OwnedBio = std::unique_ptr<BIO, Closer<BIO_free_all>>;
 
-/// The common name, or the organization of a certificate without one.
+/// The common name, or the organization of a certificate without one; blanks for control
+/// characters.
 Text NameIn(const X509_NAME* name);
 
 /// "2026-11-22 10:40:05Z"

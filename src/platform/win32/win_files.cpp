@@ -146,7 +146,7 @@ std::unique_ptr<OutputFile> WinFiles::OpenNew(const Text& path)
 {
     FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                 CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file.IsOpen() && (FileExists(path) || DirExists(path)))
+    if (!file.IsOpen() && GetLastError() == ERROR_FILE_EXISTS)
         return nullptr;
     if (!file.IsOpen())
         FailAtFile(path);

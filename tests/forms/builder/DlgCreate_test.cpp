@@ -4,6 +4,7 @@
 #include "builder/forms/MediumPicture.h"
 #include "shell/main_window.h"
 #include "support/linked_program.h"
+#include "support/plain_icon.h"
 #include "support/window_test.h"
 
 namespace quillon::test {
@@ -482,6 +483,7 @@ TEST_F(DlgCreateTest, MakesOneProgramForTheInternet)
     Open();
     machine.files.PutFolder("C:\\Natet");
     machine.files.Put("C:\\Quillon\\Release\\QNSELFX.EXE", MakeLinkedProgram({}));
+    machine.files.Put("C:\\Quillon\\Res\\SelfExtract.ico", PlainIconFile());
     DlgCreate form(*session, nullptr);
     ShowActive(form);
     Click(form, "oInternet");

@@ -15,7 +15,13 @@
 //   read ID              logs the text of the control
 //   await ID TEXT        waits until the control has that text
 //   controls             logs kind, id and text of each control, in the order of the Tab key
+//   unpacking TITLE      waits for the message of a self-extracting program; then it is the page
+//   grip                 holds the page by its title bar, so that its program does not go on
+//   let                  lets it go again
+//   position ID          logs how far the bar is
+//   positions ID         holds the page, logs how far the bar is and lets go, until the page closes
 //   box BUTTON           waits for a message box, logs its text and presses the button
+//   buttons              waits for a message box and logs its buttons
 //   pointer X Y          moves the pointer there, in pixels of the desktop
 //   where                logs left, top, right and bottom of the page in the desktop
 //   hold FILE            keeps the file open, so that nobody moves it
@@ -36,6 +42,7 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
 #include <shellapi.h>
 
 using namespace quillon;
@@ -128,6 +135,16 @@ private:
             return WaitFor(L"QuillonScreen", {}, page_);
         if (verb == "list")
             return WaitFor(L"QuillonList", Wide(rest), page_, kListTextId);
+        if (verb == "unpacking")
+            return WaitFor(L"QuillonUnpack", Wide(rest), page_);
+        if (verb == "grip")
+            return Grip();
+        if (verb == "let")
+            return LetGo();
+        if (verb == "positions")
+            return LogPositions(id);
+        if (verb == "buttons")
+            return ListButtons();
         if (verb == "escape")
             return PostMessageW(page_, WM_KEYDOWN, VK_ESCAPE, 1) != FALSE;
         if (verb == "box")
@@ -180,6 +197,8 @@ private:
             return PostMessageW(control, WM_KEYDOWN, static_cast<WPARAM>(LeadingNumber(value)), 1);
         if (verb == "await")
             return Await(control, Wide(value));
+        if (verb == "position")
+            return LogPosition(id);
         if (verb != "read")
             return false;
         log_ += OneLine(TextOf(control)) + "\n";
@@ -289,6 +308,58 @@ private:
                 return false;
         }
         return false;
+    }
+
+    // The window handles nothing but its own moving then, until Esc.
+    bool Grip() const
+    {
+        return PostMessageW(page_, WM_SYSCOMMAND, SC_MOVE, 0) && AwaitGripped(true);
+    }
+    bool LetGo() const
+    {
+        return PostMessageW(page_, WM_KEYDOWN, VK_ESCAPE, 1) && AwaitGripped(false);
+    }
+
+    bool AwaitGripped(bool isGripped) const
+    {
+        const DWORD thread = GetWindowThreadProcessId(page_, nullptr);
+        for (int waited = 0; IsWindow(page_) && waited < kMaxWait; ++waited) {
+            GUITHREADINFO info{};
+            info.cbSize = sizeof info;
+            if (GetGUIThreadInfo(thread, &info) &&
+                ((info.flags & GUI_INMOVESIZE) != 0) == isGripped)
+                return true;
+            WaitForSingleObject(process_, 1);
+        }
+        return false;
+    }
+
+    bool LogPosition(int id)
+    {
+        const LRESULT position = SendMessageW(GetDlgItem(page_, id), PBM_GETPOS, 0, 0);
+        log_ += "position " + NumberText(std::int64_t{position}) + "\n";
+        return true;
+    }
+
+    bool LogPositions(int id)
+    {
+        while (Grip()) {
+            LogPosition(id);
+            LetGo();
+        }
+        return !IsWindow(page_);
+    }
+
+    bool ListButtons()
+    {
+        HWND box = nullptr;
+        if (!WaitFor(L"#32770", {}, box))
+            return false;
+        for (HWND control = GetWindow(box, GW_CHILD); control != nullptr;
+             control = GetWindow(control, GW_HWNDNEXT))
+            if (KindOf(control) == L"Button" && IsWindowVisible(control))
+                log_ += "button " + OneLine(TextOf(control)) + "\n";
+        return true;
     }
 
     bool Answer(int button)

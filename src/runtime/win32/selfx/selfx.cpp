@@ -121,10 +121,7 @@ private:
                              static_cast<DWORD>(std::size(folder)), folder, nullptr);
         if (length == 0 || length >= std::size(folder))
             throw RunError(ErrorNumber::kBadFileName, *command_.extractTo);
-        const Text path = Narrow({folder, length});
-        if (!files_.DirCreate(path))
-            throw RunError(ErrorNumber::kPathFileAccess, path);
-        Unpack(payload, path);
+        Unpack(payload, Narrow({folder, length}));
         return 0;
     }
 
@@ -148,12 +145,18 @@ private:
     void Unpack(const SolidReader& payload, const Text& folder)
     {
         const std::uint64_t total = payload.Table().TotalSize();
-        if (files_.FreeSpace(folder) < total)
-            throw RunError(ErrorNumber::kDiskFull, folder);
         FolderSink sink(files_, folder, [&](std::uint64_t done) {
             window_->Show(done, total, kHashed, kUnpacked);
         });
-        payload.Extract(sink);
+        try {
+            sink.MakeFolder();
+            if (files_.FreeSpace(folder) < total)
+                throw RunError(ErrorNumber::kDiskFull, folder);
+            payload.Extract(sink);
+        } catch (...) {
+            sink.TakeBack();
+            throw;
+        }
     }
 
     static Text TempFolder()

@@ -40,6 +40,8 @@ UnpackWindow::UnpackWindow(HINSTANCE instance, const Text& text)
     window_ = MakePlainWindow(
         instance, text,
         {.kind = L"QuillonUnpack", .receive = Receive, .width = kWidth, .height = kHeight});
+    SendMessageW(window_, WM_SETICON, ICON_BIG,
+                 reinterpret_cast<LPARAM>(LoadIconW(instance, MAKEINTRESOURCEW(1))));
     AddControl(window_, {.kind = L"STATIC",
                          .text = text,
                          .style = SS_LEFT | SS_NOPREFIX,
@@ -51,7 +53,6 @@ UnpackWindow::UnpackWindow(HINSTANCE instance, const Text& text)
                                 .place = {16, 50, kWidth - 16, 68},
                                 .id = 2});
     ShowWindow(window_, SW_SHOWNORMAL);
-    UpdateWindow(window_);
 }
 
 void UnpackWindow::Show(std::uint64_t done, std::uint64_t total, int from, int to)
