@@ -21,4 +21,4 @@ target_compile_definitions(
 target_compile_options(zstd_decoder PRIVATE -fno-asynchronous-unwind-tables -fno-exceptions)
 # The smallest code for a copy of 16 bytes takes a third of the whole time that unpacking takes.
 set_source_files_properties(${zstd}/decompress/zstd_decompress_block.c PROPERTIES COMPILE_OPTIONS
-                            -mstringop-strategy=unrolled_loop)
+                            -mstringop-strategy=loop)

@@ -25,12 +25,7 @@ void FolderSink::Begin(const SolidFile& file)
 // Where a folder can't be made, the first file that goes into it says so.
 void FolderSink::MakeFolder(const Text& folder)
 {
-    if (files_.DirExists(folder))
-        return;
-    const std::size_t last = folder.rfind('\\');
-    if (last != Text::npos && last > 0 && folder[last - 1] != ':')
-        MakeFolder(folder.substr(0, last));
-    if (files_.DirCreate(folder))
+    if (!files_.DirExists(folder) && files_.DirCreate(folder))
         made_ += folder + "\n";
 }
 

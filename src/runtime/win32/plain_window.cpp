@@ -43,12 +43,4 @@ HWND AddControl(HWND window, const Control& control)
     return made;
 }
 
-void DispatchTo(HWND window, MSG& message)
-{
-    if (IsDialogMessageW(window, &message))
-        return;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-}
-
 } // namespace quillon

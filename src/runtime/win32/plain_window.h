@@ -31,6 +31,12 @@ struct Control {
 HWND AddControl(HWND window, const Control& control);
 
 /// The message goes to the window's controls first, as in a dialog: Tab, Enter and Esc.
-void DispatchTo(HWND window, MSG& message);
+inline void DispatchTo(HWND window, MSG& message)
+{
+    if (IsDialogMessageW(window, &message))
+        return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
 
 } // namespace quillon

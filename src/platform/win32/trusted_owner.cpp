@@ -1,0 +1,59 @@
+// Whether a folder's owner may be trusted: by itself, since it takes much of the system's library
+// that the self-extractor does without.
+#include "platform/win32/locked_folder.h"
+#include "platform/win32/owner_of.h"
+
+#include <windows.h>
+
+namespace quillon {
+
+namespace {
+
+bool IsWellKnown(PSID owner, WELL_KNOWN_SID_TYPE kind)
+{
+    BYTE sid[SECURITY_MAX_SID_SIZE];
+    DWORD size = sizeof sid;
+    return CreateWellKnownSid(kind, nullptr, sid, &size) && EqualSid(owner, sid);
+}
+
+// Whom the system's own folders belong to since Windows Vista.
+bool IsTrustedInstaller(PSID owner)
+{
+    SID_IDENTIFIER_AUTHORITY authority = SECURITY_NT_AUTHORITY;
+    PSID sid = nullptr;
+    if (!AllocateAndInitializeSid(&authority, 6, 80, 956008885, 3418522649, 1831038044, 1853292631,
+                                  2271478464, 0, 0, &sid))
+        return false;
+    const bool isSame = EqualSid(owner, sid);
+    FreeSid(sid);
+    return isSame;
+}
+
+bool IsCurrentUser(PSID owner)
+{
+    HANDLE token = nullptr;
+    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token))
+        return false;
+    alignas(TOKEN_USER) BYTE user[sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE];
+    DWORD size = 0;
+    const bool known = GetTokenInformation(token, TokenUser, user, sizeof user, &size);
+    CloseHandle(token);
+    return known && EqualSid(owner, reinterpret_cast<TOKEN_USER*>(user)->User.Sid);
+}
+
+} // namespace
+
+bool IsOfTrustedUser(const wchar_t* path)
+{
+    alignas(void*) BYTE descriptor[kMaxOwnerSize];
+    PSID owner = nullptr;
+    if (!ReadOwner(path, descriptor, owner))
+        return false;
+    // A disk without owners says that everything belongs to everybody.
+    return owner == nullptr || IsWellKnown(owner, WinWorldSid) ||
+           IsWellKnown(owner, WinBuiltinAdministratorsSid) ||
+           IsWellKnown(owner, WinLocalSystemSid) || IsTrustedInstaller(owner) ||
+           IsCurrentUser(owner);
+}
+
+} // namespace quillon
