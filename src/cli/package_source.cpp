@@ -37,6 +37,7 @@ void Unpack(const CallContext& context, PackageSource& source)
         const SolidReader payload(files.OpenInput(source.path));
         FolderSink sink(files, source.unpacked->Path());
         payload.Extract(sink);
+        sink.Keep();
     } catch (const SolidError& error) {
         throw CallFailure{"'" + source.path + "' är skadad: " + error.what() + ".",
                           Exit::Unreadable};

@@ -11,8 +11,6 @@ namespace quillon {
 /// What only the system itself can say and do.
 class FolderGuard {
 public:
-    virtual ~FolderGuard() = default;
-
     /// Makes a folder that nobody else may write to; false where something has the name already.
     /// Throws `RunError` where none can be made.
     virtual bool MakeClosed(const Text& path) = 0;
@@ -23,6 +21,9 @@ public:
     virtual bool HaveSameOwner(const Text& path, const Text& other) const = 0;
     /// A number that no other run has at the same time.
     virtual unsigned Number() = 0;
+
+protected:
+    ~FolderGuard() = default; // nobody owns one by this class
 };
 
 class UnpackFolder {

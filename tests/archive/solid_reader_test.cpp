@@ -295,26 +295,40 @@ std::vector<Text> PathsOn(const test::MemoryHost& machine)
     return paths;
 }
 
-TEST(FolderSink, TakesBackWhatItHasMadeAndNothingElse)
+TEST(FolderSink, TakesWhatItHasMadeAlongAndNothingElse)
 {
     test::MemoryHost machine;
     machine.files.Put("C:\\Ut\\Djup\\Mapp\\min.txt", "mine");
     machine.files.Put("C:\\Ut\\Djup\\Mapp\\Å ä.dat", "in the way");
     const std::vector<Text> before = PathsOn(machine);
-    FolderSink sink(machine.files, "C:\\Ut\\Djup");
-    sink.MakeFolder();
-    EXPECT_EQ(RunErrorNumber([&] { Open(MakeSolid(SomeFiles())).Extract(sink); }),
-              ErrorNumber::kPathFileAccess);
-    EXPECT_TRUE(machine.files.FileExists("C:\\Ut\\Djup\\SETUP.EXE"));
-    sink.TakeBack();
+    {
+        FolderSink sink(machine.files, "C:\\Ut\\Djup");
+        sink.MakeFolder();
+        EXPECT_EQ(RunErrorNumber([&] { Open(MakeSolid(SomeFiles())).Extract(sink); }),
+                  ErrorNumber::kPathFileAccess);
+        EXPECT_TRUE(machine.files.FileExists("C:\\Ut\\Djup\\SETUP.EXE"));
+    }
     EXPECT_EQ(PathsOn(machine), before);
+    {
+        FolderSink sink(machine.files, "C:\\Ny");
+        sink.MakeFolder();
+        Open(MakeSolid(SomeFiles())).Extract(sink);
+        EXPECT_TRUE(machine.files.FileExists("C:\\Ny\\Mapp\\Å ä.dat"));
+    }
+    EXPECT_EQ(PathsOn(machine), before);
+}
 
-    FolderSink fresh(machine.files, "C:\\Ny");
-    fresh.MakeFolder();
-    Open(MakeSolid(SomeFiles())).Extract(fresh);
-    EXPECT_TRUE(machine.files.FileExists("C:\\Ny\\Mapp\\Å ä.dat"));
-    fresh.TakeBack();
-    EXPECT_EQ(PathsOn(machine), before);
+TEST(FolderSink, LeavesWhatIsKept)
+{
+    test::MemoryHost machine;
+    {
+        FolderSink sink(machine.files, "C:\\Ut");
+        sink.MakeFolder();
+        Open(MakeSolid(SomeFiles())).Extract(sink);
+        sink.Keep();
+    }
+    EXPECT_EQ(machine.files.Get("C:\\Ut\\SETUP.EXE"), SomeFiles()[0].bytes);
+    EXPECT_EQ(machine.files.Get("C:\\Ut\\Mapp\\Å ä.dat"), SomeFiles()[2].bytes);
 }
 
 TEST(FolderSink, OverwritesNothing)

@@ -15,11 +15,12 @@ namespace quillon {
 /// through.
 class SolidSink {
 public:
-    virtual ~SolidSink() = default;
-
     virtual void Begin(const SolidFile& file) = 0;
     virtual void Write(std::span<const std::byte> bytes) = 0;
     virtual void End() = 0;
+
+protected:
+    ~SolidSink() = default; // nobody owns one by this class
 };
 
 class SolidReader {

@@ -29,7 +29,7 @@ void FolderSink::MakeFolder(const Text& folder)
         made_ += folder + "\n";
 }
 
-void FolderSink::TakeBack()
+FolderSink::~FolderSink()
 {
     output_.reset();
     while (!made_.empty()) {

@@ -7,17 +7,20 @@ namespace quillon {
 
 /// Writes each file as a new one, with its folders, time and read-only mark; bytes are counted by
 /// `onProgress`. Throws `RunError`: 75 (path/file access) where a file is there already. What was
-/// written until then stays, until `TakeBack`.
+/// made goes with the sink, as far as it can be removed, unless it is kept.
 class FolderSink : public SolidSink {
 public:
     using Progress = std::function<void(std::uint64_t done)>;
 
     FolderSink(FileSystem& files, Text folder, Progress onProgress = {});
+    ~FolderSink();
+    FolderSink(const FolderSink&) = delete;
+    FolderSink& operator=(const FolderSink&) = delete;
 
     /// The folder itself, where it is missing.
     void MakeFolder() { MakeFolder(folder_); }
-    /// Removes the files and folders that it has made, as far as they can be removed.
-    void TakeBack();
+    /// All that was made until now stays.
+    void Keep() { made_.clear(); }
 
     void Begin(const SolidFile& file) override;
     void Write(std::span<const std::byte> bytes) override;

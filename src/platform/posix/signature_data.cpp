@@ -34,6 +34,12 @@ std::optional<Bytes> TakeElement(Bytes& bytes, int kind)
     return content;
 }
 
+// With none the library would free the content that it was given, with several it would lose one.
+bool HasOneDigest(const PKCS7_SIGNED& data)
+{
+    return sk_X509_ALGOR_num(data.md_algs) == 1;
+}
+
 /// What the signature is over, without its outermost header, which the format leaves out.
 std::optional<Bytes> SignedContent(const PKCS7& signedData)
 {
@@ -64,7 +70,9 @@ bool NamesDigest(Bytes content, const Sha256Digest& digest)
 // The library's own sum of the attributes is compared there too.
 bool IsSignedBy(PKCS7* signedData, Bytes content)
 {
-    const OwnedBio input(BIO_new_mem_buf(content.data(), int(content.size())));
+    // The library makes a copy of what lies in memory and loses it where it knows no such digest.
+    const OwnedBio input(
+        BIO_push(BIO_new(BIO_f_null()), BIO_new_mem_buf(content.data(), int(content.size()))));
     return PKCS7_verify(signedData, nullptr, nullptr, input.get(), nullptr, PKCS7_NOVERIFY) == 1;
 }
 
@@ -97,6 +105,7 @@ SignatureFacts ReadSignatureData(std::span<const std::byte> signature,
     const OwnedPkcs7 signedData(d2i_PKCS7(nullptr, &at, long(signature.size())));
     const bool isReadable = signedData && PKCS7_type_is_signed(signedData.get()) &&
                             signedData->d.sign && signedData->d.sign->contents &&
+                            HasOneDigest(*signedData->d.sign) &&
                             sk_PKCS7_SIGNER_INFO_num(signedData->d.sign->signer_info) == 1;
     const auto content = isReadable ? SignedContent(*signedData) : std::nullopt;
     if (!content)

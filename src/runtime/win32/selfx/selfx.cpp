@@ -66,15 +66,16 @@ public:
     int Run()
     {
         if (command_.wantsHelp)
-            return Answer(texts_(SelfExtractMessages::kHelp));
+            return EndWith(0, texts_(SelfExtractMessages::kHelp));
         try {
             return Work();
         } catch (const SolidError&) {
-            return Fail(kDamaged, texts_(SelfExtractMessages::kDamaged));
+            return EndWith(kDamaged, texts_(SelfExtractMessages::kDamaged));
         } catch (const RunError& error) {
             return Fail(error);
         } catch (const std::exception&) {
-            return Fail(RunError(ErrorNumber::kDeviceIo));
+            return EndWith(static_cast<int>(ExitCode::Failed),
+                           texts_(SelfExtractMessages::kFailed));
         }
     }
 
@@ -93,8 +94,8 @@ private:
                                   });
         const SolidTable& table = payload.Table();
         if (command_.wantsVersion)
-            return Answer(table.Property(SelfExtractAttribute::kProductName) + " " +
-                          table.Property(SelfExtractAttribute::kProductVersion));
+            return EndWith(0, table.Property(SelfExtractAttribute::kProductName) + " " +
+                                  table.Property(SelfExtractAttribute::kProductVersion));
         if (command_.extractTo)
             return ExtractTo(payload);
         const bool elevates = !table.Property(SelfExtractAttribute::kElevates).empty();
@@ -113,8 +114,8 @@ private:
     int ExtractTo(const SolidReader& payload)
     {
         if (command_.extractTo->empty())
-            return Fail(static_cast<int>(ExitCode::BadSwitch),
-                        texts_(SelfExtractMessages::kNoFolder));
+            return EndWith(static_cast<int>(ExitCode::BadSwitch),
+                           texts_(SelfExtractMessages::kNoFolder));
         wchar_t folder[32768];
         const DWORD length =
             GetFullPathNameW(Wide(*command_.extractTo).c_str(),
@@ -148,15 +149,11 @@ private:
         FolderSink sink(files_, folder, [&](std::uint64_t done) {
             window_->Show(done, total, kHashed, kUnpacked);
         });
-        try {
-            sink.MakeFolder();
-            if (files_.FreeSpace(folder) < total)
-                throw RunError(ErrorNumber::kDiskFull, folder);
-            payload.Extract(sink);
-        } catch (...) {
-            sink.TakeBack();
-            throw;
-        }
+        sink.MakeFolder();
+        if (files_.FreeSpace(folder) < total)
+            throw RunError(ErrorNumber::kDiskFull, folder);
+        payload.Extract(sink);
+        sink.Keep();
     }
 
     static Text TempFolder()
@@ -168,18 +165,12 @@ private:
         return RemoveLastBackslash(Narrow({folder, length}));
     }
 
-    int Answer(const Text& text)
+    /// The text is an answer where the code is 0, else a failure.
+    int EndWith(int code, const Text& text)
     {
         window_.reset();
-        AnswerUser(text);
-        return 0;
-    }
-
-    int Fail(int code, const Text& text)
-    {
-        window_.reset();
-        if (!command_.isSilent)
-            ShowFailure(text);
+        if (code == 0 || !command_.isSilent)
+            TellUser(text, code != 0);
         return code;
     }
 
@@ -188,10 +179,10 @@ private:
         if (error.Number() == kRightsRefused)
             return static_cast<int>(ExitCode::Cancelled);
         if (error.Number() == ErrorNumber::kDiskFull)
-            return Fail(static_cast<int>(ExitCode::DiskFull),
-                        texts_(SelfExtractMessages::kDiskFull, error.Path()));
-        return Fail(static_cast<int>(ExitCode::Failed),
-                    texts_(SelfExtractMessages::kFailed, error.Path()));
+            return EndWith(static_cast<int>(ExitCode::DiskFull),
+                           texts_(SelfExtractMessages::kDiskFull, error.Path()));
+        return EndWith(static_cast<int>(ExitCode::Failed),
+                       texts_(SelfExtractMessages::kFailed, error.Path()));
     }
 
     HINSTANCE instance_;

@@ -23,14 +23,15 @@ char16_t AnsiCharacterOf(unsigned char byte)
     return wide;
 }
 
-Text ProgramName()
+bool WritesToOutput(const Text& text)
 {
-    return ExtractFilename(ProgramPath());
-}
-
-void ShowBox(const Text& text, UINT kind)
-{
-    MessageBoxW(nullptr, Wide(text).c_str(), Wide(ProgramName()).c_str(), kind | MB_SETFOREGROUND);
+    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+    const DWORD kind = output == nullptr || output == INVALID_HANDLE_VALUE ? FILE_TYPE_UNKNOWN
+                                                                           : GetFileType(output);
+    const Text line = text + "\r\n";
+    DWORD written = 0;
+    return (kind == FILE_TYPE_DISK || kind == FILE_TYPE_PIPE) &&
+           WriteFile(output, line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
 }
 
 } // namespace
@@ -54,22 +55,12 @@ Text SelfTexts::operator()(const SelfExtractMessage& message, std::string_view f
     return mark == Text::npos ? text : text.replace(mark, 2, first);
 }
 
-void ShowFailure(const Text& text)
+void TellUser(const Text& text, bool isFailure)
 {
-    ShowBox(text, MB_OK | MB_ICONSTOP);
-}
-
-void AnswerUser(const Text& text)
-{
-    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
-    const DWORD kind = output == nullptr || output == INVALID_HANDLE_VALUE ? FILE_TYPE_UNKNOWN
-                                                                           : GetFileType(output);
-    const Text line = text + "\r\n";
-    DWORD written = 0;
-    if ((kind == FILE_TYPE_DISK || kind == FILE_TYPE_PIPE) &&
-        WriteFile(output, line.data(), static_cast<DWORD>(line.size()), &written, nullptr))
+    if (!isFailure && WritesToOutput(text))
         return;
-    ShowBox(text, MB_OK | MB_ICONINFORMATION);
+    const UINT kind = MB_OK | MB_SETFOREGROUND | (isFailure ? MB_ICONSTOP : MB_ICONINFORMATION);
+    MessageBoxW(nullptr, Wide(text).c_str(), Wide(ExtractFilename(ProgramPath())).c_str(), kind);
 }
 
 } // namespace quillon

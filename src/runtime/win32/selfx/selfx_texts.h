@@ -21,10 +21,8 @@ private:
     std::string_view bytes_;
 };
 
-/// A box with the program's own name over it.
-void ShowFailure(const Text& text);
-
-/// Into the standard output where that is a file or a pipe, else in a box.
-void AnswerUser(const Text& text);
+/// A failure in a box with the program's own name over it; an answer into the standard output where
+/// that is a file or a pipe, else in such a box.
+void TellUser(const Text& text, bool isFailure);
 
 } // namespace quillon
