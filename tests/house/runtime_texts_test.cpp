@@ -13,7 +13,8 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path kRuntime = fs::path(QUILLON_TEST_DATA).parent_path() / "src" / "runtime";
-constexpr const char* kTablesOfTexts[] = {"messages.cpp", "self_extract_messages.h"};
+constexpr const char* kTablesOfTexts[] = {"messages.cpp", "self_extract_messages.h",
+                                          "starter_messages.h"};
 
 TEST(RuntimeTexts, StandInTheTablesOfTextsAlone)
 {

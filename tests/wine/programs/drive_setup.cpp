@@ -19,6 +19,7 @@
 //   grip                 holds the page by its title bar, so that its program does not go on
 //   let                  lets it go again
 //   position ID          logs how far the bar is
+//   filled ID            holds the page as soon as a tenth of its bar is filled
 //   positions ID         holds the page, logs how far the bar is and lets go, until the page closes
 //   box BUTTON           waits for a message box, logs its text and presses the button
 //   buttons              waits for a message box and logs its buttons
@@ -141,6 +142,8 @@ private:
             return Grip();
         if (verb == "let")
             return LetGo();
+        if (verb == "filled")
+            return HoldWhenFilled(id);
         if (verb == "positions")
             return LogPositions(id);
         if (verb == "buttons")
@@ -334,10 +337,24 @@ private:
         return false;
     }
 
+    LRESULT PositionOf(int id) const
+    {
+        return SendMessageW(GetDlgItem(page_, id), PBM_GETPOS, 0, 0);
+    }
+
+    bool HoldWhenFilled(int id) const
+    {
+        while (Grip()) {
+            if (PositionOf(id) >= 10)
+                return true;
+            LetGo();
+        }
+        return false;
+    }
+
     bool LogPosition(int id)
     {
-        const LRESULT position = SendMessageW(GetDlgItem(page_, id), PBM_GETPOS, 0, 0);
-        log_ += "position " + NumberText(std::int64_t{position}) + "\n";
+        log_ += "position " + NumberText(std::int64_t{PositionOf(id)}) + "\n";
         return true;
     }
 
