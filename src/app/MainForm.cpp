@@ -180,8 +180,11 @@ void MainForm::ShowRestored(const ProjectHistory::Restored& restored)
 
 void MainForm::ShowTitle()
 {
-    const Text name = ProjectTitle(session_.state.ProjectFileName);
-    setWindowTitle(ToQt(Text(kProductName) + " - [" + name + "]"));
+    Text title(kProductName);
+    title += " - [";
+    title += ProjectTitle(session_.state.ProjectFileName);
+    title += "]";
+    setWindowTitle(ToQt(title));
 }
 
 void MainForm::ShowRecentFiles()

@@ -12,7 +12,4 @@ namespace quillon {
 /// Throws `ZipError`, or `RunError` when the file can't be read.
 using OpenContainer = std::function<std::unique_ptr<Container>(const Text& path)>;
 
-/// Reads archives without the library.
-OpenContainer DirectContainers(const FileSystem& files);
-
 } // namespace quillon

@@ -2,6 +2,7 @@
 
 #include "formats/package.h"
 #include "helpers/windows_path.h"
+#include "packages/direct_container.h"
 #include "runtime/setup_program.h"
 #include "runtime/silent_ask.h"
 

@@ -1,4 +1,4 @@
-#include "runtime/container.h"
+#include "packages/direct_container.h"
 
 #include "archive/solid/package_container.h"
 
