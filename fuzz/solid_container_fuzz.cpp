@@ -72,9 +72,10 @@ void ReadCompleted(const std::string& input)
 {
     if (input.size() < 2)
         return;
-    const std::size_t length =
-        std::min<std::size_t>(input.size() - 2, static_cast<unsigned char>(input[0]) |
-                                                    static_cast<unsigned char>(input[1]) << 8U);
+    const auto byteAt = [&](std::size_t i) -> std::size_t {
+        return static_cast<unsigned char>(input[i]);
+    };
+    const std::size_t length = std::min(input.size() - 2, byteAt(0) | byteAt(1) << 8U);
     const std::string bytes = input.substr(2, length);
     try {
         const ContainerIndex index = ReadContainerIndex(std::as_bytes(std::span(bytes)));

@@ -17,9 +17,15 @@ void Require(bool holds)
         std::abort();
 }
 
-void ReadQuotedAsAWhole(Text value)
+// The name of a misspelt password is told without them.
+Text WithoutQuotes(Text text)
 {
-    std::erase(value, '"');
+    std::erase(text, '"');
+    return text;
+}
+
+void ReadQuotedAsAWhole(const Text& value)
+{
     const Switches switches =
         ReadSwitches("\"/S\"\t\"/LOG=" + value + "\" \"/PASSWORD=" + value + '"');
     Require(switches.silent && switches.logFile == value && switches.password == value);
@@ -34,13 +40,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const Text line = Text(reinterpret_cast<const char*>(bytes), size).c_str();
     const Switches switches = ReadSwitches(line);
     Require(switches.silent == HasSilentSwitch(std::wstring(line.begin(), line.end()).c_str()));
-    Require(!switches.badSwitch || line.find(*switches.badSwitch) != Text::npos);
+    Require(!switches.badSwitch ||
+            WithoutQuotes(line).find(WithoutQuotes(*switches.badSwitch)) != Text::npos);
     Require(switches.badSwitch || switches.destination.empty() ||
             IsAbsolutePath(switches.destination));
 
     const UninstallerCommand command = ReadUninstallerCommand(line);
     Require(command.logPath.empty() || command.logPath[0] != '/');
     Require(!command.switches.testMode || command.switches.badSwitch);
-    ReadQuotedAsAWhole(line);
+    ReadQuotedAsAWhole(WithoutQuotes(line));
     return 0;
 }

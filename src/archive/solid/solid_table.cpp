@@ -206,7 +206,8 @@ private:
     void CheckThatNamesDiffer()
     {
         // The C library's sort: that of the other one is a large part of the self-extractor.
-        std::qsort(names_.data(), names_.size(), sizeof(Name), CompareNames);
+        if (!names_.empty())
+            std::qsort(names_.data(), names_.size(), sizeof(Name), CompareNames);
         for (std::size_t i = 1; i < names_.size(); ++i)
             Require(*names_[i].text != *names_[i - 1].text ||
                         (names_[i].isFolder && names_[i - 1].isFolder),
