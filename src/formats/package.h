@@ -45,7 +45,7 @@ Text DiskFolder(const Text& packageFolder, int disk);
 /// The container's piece on that disk, below the package's folder.
 Text PieceName(int disk);
 
-/// True where the rows' bytes lie in the container and not in files by themselves.
+/// True where the container holds the bytes of all rows, instead of a file for each row.
 bool UsesContainer(const SetupInformation& setup);
 
 /// The numbers of the rows that an entry's comment, such as "F1 F7", names; 0 for a word that names

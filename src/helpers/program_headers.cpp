@@ -82,8 +82,8 @@ bool ProgramHeaders::ReadOptionalHeader(std::string_view header)
         return false;
     imageBase_ = is64Bit_ ? std::uint64_t(LongAt(header, 28)) << 32U | LongAt(header, 24)
                           : LongAt(header, 28);
-    const std::size_t told = std::min<std::size_t>(LongAt(header, firstTable - 4), kMaxTables);
-    for (std::size_t i = 0; i < told && firstTable + (i + 1) * 8 <= header.size(); ++i)
+    const std::size_t count = std::min<std::size_t>(LongAt(header, firstTable - 4), kMaxTables);
+    for (std::size_t i = 0; i < count && firstTable + (i + 1) * 8 <= header.size(); ++i)
         tables_.push_back(
             {LongAt(header, firstTable + i * 8), LongAt(header, firstTable + i * 8 + 4)});
     return true;

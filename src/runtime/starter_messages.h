@@ -4,6 +4,7 @@
 
 namespace quillon {
 
+/// A text of a program that has no table of messages in it.
 struct StarterMessage {
     const char* key;
     const char* swedish;

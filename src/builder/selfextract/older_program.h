@@ -7,7 +7,8 @@
 
 namespace quillon {
 
-/// Kept: a program that can't be put aside is deleted, and a failure of that is passed over.
+/// A program that cannot be put aside is deleted, since it would be packed into the new one
+/// otherwise; a failure of that is passed over.
 void PutOlderProgramAside(CreateRun& run);
 
 /// At the end of a run, however it went. What a killed run has put aside is settled by the next.

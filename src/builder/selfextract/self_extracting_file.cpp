@@ -80,8 +80,8 @@ Text ProductName(const SelfExtractInput& in)
 
 Text Description(const SelfExtractInput& in)
 {
-    const Text& told = in.Of().Version.Description;
-    return told.empty() ? ProductName(in) : told;
+    const Text& given = in.Of().Version.Description;
+    return given.empty() ? ProductName(in) : given;
 }
 
 // The setup says in its manifest whether it needs the rights of an administrator.

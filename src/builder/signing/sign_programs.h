@@ -32,7 +32,7 @@ struct Signing {
 /// Whether this run signs what it makes.
 bool SignsPrograms(const CreateRun& run);
 
-/// Looks at the key and has its password told, before anything is written.
+/// Checks the key and asks for its password, before anything is written.
 Step PrepareSigning(CreateRun& run);
 
 /// Puts a program into the package, signed where the run signs. `name` is what the status lines

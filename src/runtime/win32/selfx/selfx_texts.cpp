@@ -45,7 +45,7 @@ SelfTexts::SelfTexts()
         bytes_ = {static_cast<const char*>(bytes), SizeofResource(nullptr, found)};
 }
 
-Text SelfTexts::operator()(const SelfExtractMessage& message, std::string_view first) const
+Text SelfTexts::operator()(const StarterMessage& message, std::string_view first) const
 {
     char16_t wide[kMaxTextLength];
     Text text = message.swedish;

@@ -15,7 +15,7 @@ public:
     SelfTexts();
 
     /// In Swedish where the resource lacks it, with `first` for "%1".
-    Text operator()(const SelfExtractMessage& message, std::string_view first = {}) const;
+    Text operator()(const StarterMessage& message, std::string_view first = {}) const;
 
 private:
     std::string_view bytes_;
