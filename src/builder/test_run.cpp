@@ -80,6 +80,25 @@ bool CopyLanguageFile(TestRun& run, const Text& folder)
            Fail(run, kTestTitle, error, "språkfilen '" + name + "' skulle kopieras");
 }
 
+// Where the project names none, that of an earlier test run is not this project's.
+bool CopyAgreement(TestRun& run, const Text& folder)
+{
+    if (run.project.DialogBoxes.LicenseInfoRtfDlg != 1)
+        return true;
+    const Text& source = run.project.DialogBoxData.LicenseFilenameRtf;
+    const Text target = JoinPath(folder, kLicenseRtfName);
+    FileSystem& files = run.host.files;
+    const auto bring = [&] {
+        if (!source.empty() && !EqualIgnoreCase(source, target))
+            files.CopyContent(source, target);
+        else if (source.empty() && files.FileExists(target))
+            files.RemoveFile(target);
+    };
+    const int error = RunErrorNumber(bring, run.failure);
+    return error == ErrorNumber::kNone ||
+           Fail(run, kTestTitle, error, "licensavtalet '" + source + "' skulle kopieras");
+}
+
 /// The setup reads its files from its own folder, so it is copied to where they are written.
 void BringRuntime(TestRun& run, const Text& runtime)
 {
@@ -122,7 +141,7 @@ bool WriteTestFiles(TestRun& run, const Text& folder)
     project.Media.TargetMedia = kTestMedium;
     return MakeFolder(run, kTestTitle, folder) && WriteFileList(run, project, folder) &&
            WriteSetupInfo(run, project, folder, SetupInfoMode::TestRun) &&
-           CopyLanguageFile(run, folder);
+           CopyLanguageFile(run, folder) && CopyAgreement(run, folder);
 }
 
 bool StartSimulation(TestRun& run)

@@ -26,8 +26,9 @@ struct TestRun {
 /// Where the setup is that a test run starts, and where its files go.
 Text TestFolder(const CreateOptions& options);
 
-/// The check of the project, then both INF files and the language file in `folder`, which is made
-/// where it is missing. False where that failed; a box has shown why.
+/// The check of the project, then both INF files, the language file and the agreement of the RTF
+/// page in `folder`, which is made where it is missing. False where that failed; a box has shown
+/// why.
 [[nodiscard]] bool WriteTestFiles(TestRun& run, const Text& folder);
 
 /// Writes the files and starts the setup, which goes on by itself.

@@ -9,14 +9,6 @@ namespace {
 // Other programs write these files too, and some end their lines with a CR alone.
 constexpr IniSyntax kSyntax = {IniSyntax::LineEnd::AtLfOrCr, IniSyntax::Header::ToFirstBracket};
 
-// Case is folded for ASCII alone, since the bytes may be of any code page.
-bool SameName(std::string_view left, std::string_view right)
-{
-    const auto fold = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [&](char a, char b) { return fold(a) == fold(b); });
-}
-
 // A header whose bracket is missing ends the section before it, too.
 bool EndsSection(const ScannedLine& line)
 {
@@ -33,6 +25,15 @@ bool IsEmptySection(IniScanner lines)
 }
 
 } // namespace
+
+bool IniText::SameName(std::string_view left, std::string_view right) const
+{
+    if (names_ == Names::Utf8)
+        return EqualIgnoreCase(left, right);
+    const auto fold = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [&](char a, char b) { return fold(a) == fold(b); });
+}
 
 std::optional<ScannedLine> IniText::FindSection(std::string_view section) const
 {

@@ -14,7 +14,13 @@ namespace quillon {
 /// An INI file as bytes on file. Texts that go in and out are in the same encoding as the bytes.
 class IniText {
 public:
-    explicit IniText(std::string bytes) : bytes_(std::move(bytes)) {}
+    /// Of which names are equal: by ASCII alone where the bytes may be of any code page.
+    enum class Names { Bytes, Utf8 };
+
+    explicit IniText(std::string bytes, Names names = Names::Bytes)
+        : bytes_(std::move(bytes)), names_(names)
+    {
+    }
 
     const std::string& Bytes() const { return bytes_; }
 
@@ -41,9 +47,11 @@ public:
 private:
     std::optional<ScannedLine> FindSection(std::string_view section) const;
     std::optional<ScannedLine> FindValue(std::string_view section, std::string_view name) const;
+    bool SameName(std::string_view left, std::string_view right) const;
     void Insert(std::size_t at, std::string text);
 
     std::string bytes_;
+    Names names_;
 };
 
 } // namespace quillon

@@ -1,8 +1,7 @@
 #include "runtime/ini_changes.h"
 
-#include "helpers/ansi_text.h"
 #include "helpers/windows_path.h"
-#include "ini/ini_text.h"
+#include "ini/encoded_ini.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 
@@ -12,15 +11,14 @@ namespace quillon {
 
 namespace {
 
-constexpr std::string_view kUtf16Bom = "\xFF\xFE";
-
 // The record of what a line changed, and the change.
 using IniRecords = std::vector<JournalRecord>;
 
-void ApplyIniLine(const IniWork& work, IniText& ini, const IniLine& line, IniRecords& records)
+void ApplyIniLine(const IniWork& work, EncodedIni& file, const IniLine& line, IniRecords& records)
 {
-    const std::string section = AnsiText::ToBytes(line.section);
-    const std::string name = AnsiText::ToBytes(line.name);
+    IniText& ini = file.ini;
+    const std::string section = file.Coded(line.section);
+    const std::string name = file.Coded(line.name);
     if (!ini.HasSection(section))
         records.push_back(record::IniSection{line.file, line.section});
     ini.MakeSection(section);
@@ -29,8 +27,8 @@ void ApplyIniLine(const IniWork& work, IniText& ini, const IniLine& line, IniRec
     const auto former = ini.LineOf(section, name);
     records.push_back(
         record::IniValue{line.file, line.section, line.name, line.value,
-                         former ? std::optional(AnsiText::FromBytes(*former)) : std::nullopt});
-    ini.SetValue(section, name, AnsiText::ToBytes(line.value));
+                         former ? std::optional(file.Decoded(*former)) : std::nullopt});
+    ini.SetValue(section, name, file.Coded(line.value));
     work.log.Line(Message::LogWritesIni, line.file, "[" + line.section + "] " + line.name);
 }
 
@@ -38,39 +36,41 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
 {
     const Text& path = lines[0].file;
     const bool existed = work.files.FileExists(path);
-    const std::string before = existed ? ReadWholeFile(work.files, path) : std::string();
-    if (before.substr(0, kUtf16Bom.size()) == kUtf16Bom) {
+    auto file = EncodedIni::Read(existed ? ReadWholeFile(work.files, path) : std::string());
+    if (!file) {
         work.log.Skipped(path, {Message::SkipIniUnicode});
         return;
     }
     work.changes.MakeFolder(ExtractDirectory(path));
     if (!existed)
         work.record.Add(record::IniFile{path});
-    IniText ini(before);
-    const std::string lastLine = ini.OpenLastLine();
+    const std::string lastLine = file->ini.OpenLastLine();
     IniRecords records;
     for (const IniLine& line : lines)
-        ApplyIniLine(work, ini, line, records);
+        ApplyIniLine(work, *file, line, records);
     // The first record is the last that is taken back: by then the lines after it have gone.
-    if (!lastLine.empty() && ini.OpenLastLine().empty())
-        work.record.Add(record::IniOpenEnd{path, AnsiText::FromBytes(lastLine)});
+    if (!lastLine.empty() && file->ini.OpenLastLine().empty())
+        work.record.Add(record::IniOpenEnd{path, file->Decoded(lastLine)});
     for (JournalRecord& record : records)
         work.record.Add(std::move(record));
     const Text staged = work.changes.StagingPath(path);
-    WriteWholeFile(work.files, staged, ini.Bytes());
+    WriteWholeFile(work.files, staged, file->Bytes());
     work.changes.PutFile({staged, path, existed, InstallTransaction::Recorded::No});
 }
 
+// A file that has become something else since holds nothing of ours any more.
 template <class Work>
 void Change(FileSystem& files, const Text& path, Work work)
 {
     if (!files.FileExists(path))
         return;
-    IniText ini(ReadWholeFile(files, path));
-    const std::string before = ini.Bytes();
-    work(ini);
-    if (ini.Bytes() != before)
-        RewriteFile(files, path, ini.Bytes());
+    auto file = EncodedIni::Read(ReadWholeFile(files, path));
+    if (!file)
+        return;
+    const std::string before = file->ini.Bytes();
+    work(*file);
+    if (file->ini.Bytes() != before)
+        RewriteFile(files, path, file->Bytes());
 }
 
 } // namespace
@@ -98,34 +98,36 @@ void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines)
 
 void UndoIniChange(FileSystem& files, const record::IniFile& record)
 {
-    if (files.FileExists(record.path) &&
-        ReadWholeFile(files, record.path).find_first_not_of(" \t\r\n") == Text::npos)
+    if (!files.FileExists(record.path))
+        return;
+    const auto file = EncodedIni::Read(ReadWholeFile(files, record.path));
+    if (file && file->ini.Bytes().find_first_not_of(" \t\r\n") == Text::npos)
         files.RemoveFile(record.path);
 }
 
 void UndoIniChange(FileSystem& files, const record::IniOpenEnd& record)
 {
     Change(files, record.path,
-           [&](IniText& ini) { ini.OpenEndOf(AnsiText::ToBytes(record.lastLine)); });
+           [&](EncodedIni& file) { file.ini.OpenEndOf(file.Coded(record.lastLine)); });
 }
 
 void UndoIniChange(FileSystem& files, const record::IniSection& record)
 {
     Change(files, record.path,
-           [&](IniText& ini) { ini.RemoveEmptySection(AnsiText::ToBytes(record.section)); });
+           [&](EncodedIni& file) { file.ini.RemoveEmptySection(file.Coded(record.section)); });
 }
 
 void UndoIniChange(FileSystem& files, const record::IniValue& record)
 {
-    const std::string section = AnsiText::ToBytes(record.section);
-    const std::string name = AnsiText::ToBytes(record.name);
-    Change(files, record.path, [&](IniText& ini) {
-        const auto present = ini.Value(section, name);
-        const bool isOurs = present == TrimBlanks(AnsiText::ToBytes(record.value));
+    Change(files, record.path, [&](EncodedIni& file) {
+        const std::string section = file.Coded(record.section);
+        const std::string name = file.Coded(record.name);
+        const auto present = file.ini.Value(section, name);
+        const bool isOurs = present == TrimBlanks(file.Coded(record.value));
         if (!record.formerLine)
-            ini.RemoveValue(section, name);
+            file.ini.RemoveValue(section, name);
         else if (isOurs)
-            ini.SetLine(section, name, AnsiText::ToBytes(*record.formerLine));
+            file.ini.SetLine(section, name, file.Coded(*record.formerLine));
     });
 }
 

@@ -214,7 +214,7 @@ constexpr MessageKey kMessages[] = {
     {Message::SkipIniNoFile,          "Skipped",   "Skip_IniNoFile",          "raden står inte under något filnamn"},
     {Message::SkipIniNoSection,       "Skipped",   "Skip_IniNoSection",       "raden står inte under någon sektion"},
     {Message::SkipIniUnreadable,      "Skipped",   "Skip_IniUnreadable",      "raden är varken filnamn, sektion eller namn=värde"},
-    {Message::SkipIniUnicode,         "Skipped",   "Skip_IniUnicode",         "INI-filer i Unicode ändras inte"},
+    {Message::SkipIniUnicode,         "Skipped",   "Skip_IniUnicode",         "filen är i en form av Unicode som inte kan ändras"},
     {Message::UninstallTitle,         "Uninstall", "Title",                   "Avinstallation av %1"},
     {Message::UninstallQuestion,      "Uninstall", "Ask_Uninstall",           "Vill du ta bort %1 från datorn? Det här tas bort:"},
     {Message::UninstallRunning,       "Uninstall", "Msg_Running",             "Tar bort filer och inställningar..."},

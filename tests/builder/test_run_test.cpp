@@ -230,6 +230,42 @@ TEST_F(TestRunTest, TellsWhyTheLanguageFileCouldNotBeCopied)
     EXPECT_THAT(desk.machine.machine.started, IsEmpty());
 }
 
+TEST_F(TestRunTest, BringsTheAgreementOfTheProject)
+{
+    desk.machine.files.Put("C:\\Data\\avtal.rtf", "{\\rtf1 Avtal}");
+    project.DialogBoxData.LicenseFilenameRtf = "C:\\Data\\avtal.rtf";
+    EXPECT_TRUE(Simulate());
+    EXPECT_FALSE(Has(kLicenseRtfName)) << "the page is off";
+    project.DialogBoxes.LicenseInfoRtfDlg = 1;
+    EXPECT_TRUE(Simulate());
+    EXPECT_EQ(Get(kLicenseRtfName), "{\\rtf1 Avtal}");
+    EXPECT_EQ(project.DialogBoxData.LicenseFilenameRtf, "C:\\Data\\avtal.rtf");
+
+    // One that was copied by hand is the project's own as well.
+    project.DialogBoxData.LicenseFilenameRtf = "c:\\quillon\\test\\license.rtf";
+    EXPECT_TRUE(Simulate());
+    EXPECT_EQ(Get(kLicenseRtfName), "{\\rtf1 Avtal}");
+}
+
+TEST_F(TestRunTest, ShowsNoAgreementOfAnotherProject)
+{
+    desk.machine.files.Put(JoinTest(kLicenseRtfName), "{\\rtf1 En annans}");
+    project.DialogBoxes.LicenseInfoRtfDlg = 1;
+    EXPECT_TRUE(Simulate());
+    EXPECT_FALSE(Has(kLicenseRtfName));
+}
+
+TEST_F(TestRunTest, TellsWhyTheAgreementCouldNotBeCopied)
+{
+    project.DialogBoxes.LicenseInfoRtfDlg = 1;
+    project.DialogBoxData.LicenseFilenameRtf = "C:\\Data\\avtal.rtf";
+    EXPECT_FALSE(Simulate({CannotTest(
+        "Fel #53 inträffade när licensavtalet 'C:\\Data\\avtal.rtf' skulle kopieras!")}));
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->Number(), 53);
+    EXPECT_THAT(desk.machine.machine.started, IsEmpty());
+}
+
 TEST_F(TestRunTest, TellsWhyTheSetupCouldNotBeStarted)
 {
     project.Media.TargetMedia = 1;
