@@ -5,6 +5,7 @@
 #include "builder/source_address.h"
 #include "filelist/adding/system_files.h"
 #include "filelist/row_facts.h"
+#include "formats/installation_log_name.h"
 #include "formats/row_safety.h"
 #include "formats/runtime_programs.h"
 #include "formats/variable_names.h"
@@ -131,8 +132,7 @@ bool IsNameOfUninstaller(const Text& name)
     const Text upper = UpperCase(name);
     return upper == RuntimePrograms::kUninstaller.name ||
            upper == RuntimePrograms::kSetup.inPackage ||
-           upper == RuntimePrograms::kUninstallerManifest ||
-           (upper.starts_with("QNXUNIN") && upper.ends_with(".LOG"));
+           upper == RuntimePrograms::kUninstallerManifest || IsInstallationLogName(upper);
 }
 
 Text IconTitle(const FileListRow& row)

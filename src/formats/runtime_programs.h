@@ -23,6 +23,8 @@ inline constexpr RuntimeProgram kUninstaller = {"QNXUNIN.EXE", "QNXUNIN.BIN"};
 // know it by. The setup keeps the name there that it has in a package: by itself it would do
 // nothing.
 inline constexpr const char* kUninstallerManifest = "QNXUNIN.SHA256";
+// What the uninstaller removes, see `installation_log_name.h`.
+inline constexpr const char* kInstallationLog = "QNXUNIN.LOG";
 } // namespace RuntimePrograms
 
 } // namespace quillon

@@ -21,7 +21,6 @@ enum class ExitCode : int {
     OtherSetupRuns = 1618,
     Forbidden = 1625, // for those users, by the project or the system
     WrongSystem = 1633,
-    OtherVersion = 1638, // the version that is installed does not let this one in
     BadSwitch = 1639,
     RestartStarted = 1641, // done, and the machine is on its way to its next start
     RestartNeeded = 3010,  // done, but the product is whole only after the next start

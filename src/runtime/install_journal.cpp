@@ -1,5 +1,6 @@
 #include "runtime/install_journal.h"
 
+#include "formats/installation_log_name.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/whole_file.h"
@@ -50,11 +51,9 @@ std::vector<Text> InstallJournalsIn(const FileSystem& files, const Text& mainFol
     std::vector<Text> logs;
     if (!files.DirExists(mainFolder))
         return logs;
-    for (const FolderEntry& entry : files.List(mainFolder)) {
-        const Text name = UpperCase(entry.name);
-        if (name.starts_with("QNXUNIN") && ExtensionFromFirstDot(name) == "LOG")
+    for (const FolderEntry& entry : files.List(mainFolder))
+        if (IsInstallationLogName(entry.name))
             logs.push_back(JoinPath(mainFolder, entry.name));
-    }
     return logs;
 }
 

@@ -1,5 +1,6 @@
 #include "runtime/install_plan.h"
 
+#include "formats/installation_log_name.h"
 #include "formats/new_windows_files.h"
 #include "formats/package_files.h"
 #include "formats/row_safety.h"
@@ -152,8 +153,7 @@ bool IsNewWindows(SystemKind system)
 Text ChooseInstallJournal(const FileSystem& files, const Text& mainFolder, const Text& product)
 {
     for (int n = 1;; ++n) {
-        const Text path =
-            JoinPath(mainFolder, "QNXUNIN" + (n == 1 ? Text() : NumberText(n)) + ".LOG");
+        const Text path = JoinPath(mainFolder, InstallationLogName(n));
         if (!files.FileExists(path) || ProductOfJournal(files, path) == product)
             return path;
     }

@@ -69,15 +69,27 @@ void InstallTransaction::MoveAside(const Text& path)
     const Text aside = StagingPath(path);
     transaction_.Note(record::MovedAside{path, aside});
     Move(path, aside, path);
-    movedAside_.insert(LowerCase(path));
+    movedAside_[LowerCase(path)] = aside;
 }
 
-// What is at the place from now on is ours. Where a former file is aside, its coming back is
-// all that has to be done.
-void InstallTransaction::NoteNewFile(const Text& path)
+// The new file could not take its place, and the installation may go on without it.
+void InstallTransaction::MoveBack(const Text& path)
 {
-    if (movedAside_.count(LowerCase(path)) == 0)
-        transaction_.Note(record::File{path});
+    const auto aside = movedAside_.find(LowerCase(path));
+    if (RunErrorNumber([&] { host_.files.Rename(aside->second, path); }) != ErrorNumber::kNone)
+        throw RunError(ErrorNumber::kDeviceIo, path);
+    movedAside_.erase(aside);
+}
+
+// What is at the place from now on is ours. Where a former file was moved aside just before, its
+// coming back is all that has to be done; where steps lie between the two, the new file goes first.
+void InstallTransaction::NoteNewFile(const NewFile& file)
+{
+    const auto aside = movedAside_.find(LowerCase(file.path));
+    if (aside == movedAside_.end())
+        transaction_.Note(record::File{file.path});
+    else if (!file.replaces)
+        transaction_.Note(record::InsteadOf{file.path, aside->second});
 }
 
 void InstallTransaction::RecordFile(const Text& path, bool existed)
@@ -92,8 +104,14 @@ void InstallTransaction::PutFile(const NewFile& file)
 {
     if (file.replaces)
         MoveAside(file.path);
-    NoteNewFile(file.path);
-    Move(file.staged, file.path, file.path);
+    NoteNewFile(file);
+    try {
+        Move(file.staged, file.path, file.path);
+    } catch (const RunError&) {
+        if (file.replaces)
+            MoveBack(file.path);
+        throw;
+    }
     if (file.recorded == Recorded::Yes)
         RecordFile(file.path, file.replaces);
 }
@@ -178,7 +196,7 @@ void InstallTransaction::MakeShortcut(const Text& path, const Shortcut& shortcut
     RecordFile(path, existed);
     if (existed)
         MoveAside(path);
-    NoteNewFile(path);
+    NoteNewFile({{}, path, existed});
     target_.MakeShortcut(path, shortcut);
     log_.Line(Message::LogMakesShortcut, path);
 }

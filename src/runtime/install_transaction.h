@@ -7,7 +7,7 @@
 #include "runtime/rollback.h"
 #include "runtime/transaction_journal.h"
 
-#include <unordered_set>
+#include <unordered_map>
 
 namespace quillon {
 
@@ -67,14 +67,16 @@ private:
     void RecordFile(const Text& path, bool existed);
     void Move(const Text& from, const Text& to, const Text& place);
     void MoveAside(const Text& path);
-    void NoteNewFile(const Text& path);
+    void MoveBack(const Text& path);
+    void NoteNewFile(const NewFile& file);
 
     Host& host_;
     Target& target_;
     InstallJournal& record_;
     ActionLog& log_;
     TransactionJournal transaction_;
-    std::unordered_set<Text> movedAside_; // places whose former file is aside, in lower case
+    std::unordered_map<Text, Text>
+        movedAside_; // where the former files are, by their places in lower case
     std::vector<record::AtRestart> atRestart_;
 };
 

@@ -164,6 +164,14 @@ struct MovedAside {
     bool operator==(const MovedAside&) const = default;
 };
 
+/// A new file stands at the path, put there some steps after the former one was moved aside. It has
+/// gone already, or never came, where nothing is aside.
+struct InsteadOf {
+    Text path;
+    Text aside;
+    bool operator==(const InsteadOf&) const = default;
+};
+
 /// What a value was before it was written or removed; nothing where there was none.
 struct FormerValue {
     RegistryKey key;
@@ -202,13 +210,15 @@ struct Committed {
 
 } // namespace record
 
-using JournalRecord = std::variant<
-    record::Product, record::Message, record::Folder, record::Place, record::File, record::Replaced,
-    record::Backup, record::Shared, record::Font, record::Registered, record::AtRestart,
-    record::Key, record::Value, record::UninstallKey, record::UninstallValue, record::IniFile,
-    record::IniOpenEnd, record::IniSection, record::IniValue, record::StartupLine, record::Content,
-    record::TempFolder, record::MovedAside, record::FormerValue, record::RemovedKey,
-    record::RegisteredBefore, record::AnnouncedBefore, record::LeavingFolder, record::Committed>;
+using JournalRecord =
+    std::variant<record::Product, record::Message, record::Folder, record::Place, record::File,
+                 record::Replaced, record::Backup, record::Shared, record::Font, record::Registered,
+                 record::AtRestart, record::Key, record::Value, record::UninstallKey,
+                 record::UninstallValue, record::IniFile, record::IniOpenEnd, record::IniSection,
+                 record::IniValue, record::StartupLine, record::Content, record::TempFolder,
+                 record::MovedAside, record::InsteadOf, record::FormerValue, record::RemovedKey,
+                 record::RegisteredBefore, record::AnnouncedBefore, record::LeavingFolder,
+                 record::Committed>;
 
 /// The path or the registry key that a record is about; empty where it is about none.
 Text SubjectOf(const JournalRecord& record);

@@ -50,6 +50,7 @@ constexpr std::tuple kRows{
     Line("TEMPFOLDER",       &record::TempFolder::path),
     Line("LEAVING",          &record::LeavingFolder::path),
     Line("ASIDE",            &record::MovedAside::path, &record::MovedAside::aside),
+    Line("INSTEADOF",        &record::InsteadOf::path, &record::InsteadOf::aside),
     Line("FORMERVALUE",      &record::FormerValue::key, &record::FormerValue::name, &record::FormerValue::former),
     Line("REMOVEDKEY",       &record::RemovedKey::key),
     Line("REGISTEREDBEFORE", &record::RegisteredBefore::path),

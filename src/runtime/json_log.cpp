@@ -20,7 +20,6 @@ constexpr std::pair<ExitCode, const char*> kResults[] = {
     {ExitCode::OtherSetupRuns, "another setup runs"},
     {ExitCode::Forbidden, "forbidden"},
     {ExitCode::WrongSystem, "wrong system"},
-    {ExitCode::OtherVersion, "other version installed"},
     {ExitCode::BadSwitch, "bad switch"},
     {ExitCode::DamagedPackage, "damaged package"},
     {ExitCode::PrerequisiteMissing, "prerequisite missing"},

@@ -32,6 +32,7 @@ private:
     void Undo(const record::Folder& folder);
     void Undo(const record::File& file) { MakeWay(file.path); }
     void Undo(const record::MovedAside& file);
+    void Undo(const record::InsteadOf& file);
     void Undo(const record::TempFolder& folder) { EmptyTempFolder(folder.path, lost_); }
     void Undo(const record::Key& key);
     void Undo(const record::RemovedKey& key) { target_.MakeKey(key.key); }
@@ -88,6 +89,12 @@ void Rollback::Undo(const record::MovedAside& file)
         lost_.insert(LowerCase(file.aside));
         throw;
     }
+}
+
+void Rollback::Undo(const record::InsteadOf& file)
+{
+    if (files_.FileExists(file.aside))
+        MakeWay(file.path);
 }
 
 void Rollback::Undo(const record::Key& key)

@@ -1,8 +1,5 @@
 #include "runtime/setup_program.h"
 
-#include "formats/package.h"
-#include "formats/setup_names.h"
-#include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
@@ -17,7 +14,6 @@
 #include "runtime/first_program.h"
 #include "runtime/install.h"
 #include "runtime/net_framework.h"
-#include "runtime/package_check.h"
 #include "runtime/pages/component_switch.h"
 #include "runtime/pages/earlier_version.h"
 #include "runtime/pages/page_chain.h"
@@ -25,7 +21,7 @@
 #include "runtime/plan_report.h"
 #include "runtime/restart.h"
 #include "runtime/rollback.h"
-#include "runtime/script/script_run.h"
+#include "runtime/setup_checks.h"
 #include "runtime/setup_help.h"
 #include "runtime/start_uninstaller.h"
 #include "runtime/uninstall_entry.h"
@@ -50,15 +46,8 @@ private:
     ExitCode Work();
     ExitCode Fail(ExitCode code, const Text& text);
     void OpenLog();
-    void CheckSwitches() const;
-    [[noreturn]] void Refuse(const Text& badSwitch) const;
+    SetupCheck Checked();
     void TakeSwitches();
-    void CheckPackage() const;
-    void CheckFiles();
-    bool HasPassword() const;
-    void CheckPassword() const;
-    void CheckSystem();
-    void CheckFolder(const Text& folder) const;
     void FreeFilesInUse(const InstallPlan& plan);
     void RunProgramBefore();
     void FindDestination();
@@ -106,7 +95,7 @@ ExitCode SetupProgram::Fail(ExitCode code, const Text& text)
 ExitCode SetupProgram::Work()
 {
     OpenLog();
-    CheckSwitches();
+    CheckSwitches(Checked());
     if (IsTask(SetupTask::Help))
         return Tell(HelpLines(texts_, HelpOf::Setup));
     if (IsTask(SetupTask::Version))
@@ -114,13 +103,13 @@ ExitCode SetupProgram::Work()
             {VersionLine(setup_.project.ProjectName.ProjectName, VersionOf(setup_), texts_)});
     if (IsTask(SetupTask::Uninstall))
         return Uninstall();
-    CheckPackage();
+    CheckPackage(package_);
     TakeSwitches();
-    CheckFiles();
-    CheckPassword();
+    CheckFiles(Checked());
+    CheckPassword(input_, package_);
     if (IsTask(SetupTask::Extract))
         return Extract();
-    CheckSystem();
+    CheckSystem(Checked());
     CheckNetFramework(
         {setup_.project.NET, input_.target, ask_, log_, texts_, Title(), input_.switches.silent});
     if (IsTask(SetupTask::Install))
@@ -168,22 +157,9 @@ void SetupProgram::OpenLog()
               input_.switches.packageFolder);
 }
 
-void SetupProgram::Refuse(const Text& badSwitch) const
+SetupCheck SetupProgram::Checked()
 {
-    throw SetupFailure(ExitCode::BadSwitch, texts_(Message::BadSwitch, badSwitch));
-}
-
-void SetupProgram::CheckSwitches() const
-{
-    const Switches& switches = input_.switches;
-    if (switches.badSwitch)
-        Refuse(*switches.badSwitch);
-    const Text& language = switches.languageFile;
-    if (!language.empty() &&
-        !input_.host.files.FileExists(JoinPath(switches.packageFolder, language)))
-        Refuse("/LANG=" + language);
-    if (input_.otherSetupRuns && IsTask(SetupTask::Install))
-        throw SetupFailure(ExitCode::OtherSetupRuns, texts_[Message::OtherSetup]);
+    return {input_, package_, ask_, log_};
 }
 
 // What only the package can tell the meaning of.
@@ -193,82 +169,12 @@ void SetupProgram::TakeSwitches()
     choices.programGroup = input_.switches.programGroup;
     if (input_.switches.components)
         if (const auto unknown = TakeComponents(*input_.switches.components, setup_, choices))
-            Refuse("/COMPONENTS=" + *unknown);
+            RefuseSwitch(texts_, "/COMPONENTS=" + *unknown);
     ApplyChoices(choices, setup_);
     ApplyUser(input_.switches, setup_);
     if (input_.switches.scope != InstallScope::Project)
         setup_.project.ProgramGroup.ProgramGroup_AllUsers =
             input_.switches.scope == InstallScope::AllUsers ? kOn : kOff;
-}
-
-void SetupProgram::CheckPackage() const
-{
-    if (package_.fault)
-        throw DamagedPackage(texts_, *package_.fault);
-    if (const auto fault = FaultOfScripts(package_.setup, texts_))
-        throw DamagedPackage(texts_, *fault);
-    const Project& project = package_.setup.project;
-    const Text& starter = project.InstallOptions.SetupName;
-    // Not by the tool's words for it, which nobody would see here.
-    if (FaultOfName(starter) != PathFault::None ||
-        IsNameOfPackageFile(starter, project.Language.LanguageFile))
-        throw DamagedPackage(texts_, {Message::PackageFileDamaged, kSetupInformationName});
-}
-
-void SetupProgram::CheckFiles()
-{
-    ask_.AddStatusLine(texts_[Message::Checking]);
-    CheckAgainstManifest({input_.host.files, ask_, log_, texts_, package_.setup, package_.rows,
-                          package_.manifest, input_.switches.packageFolder});
-}
-
-// True also for a package that asks for none.
-bool SetupProgram::HasPassword() const
-{
-    const Project& project = setup_.project;
-    const Text& correct = project.DialogBoxData.CorrectPassword;
-    return project.DialogBoxes.PasswordDlg != 1 || correct.empty() ||
-           input_.switches.password == correct;
-}
-
-// Where there are pages, one of them asks for it.
-void SetupProgram::CheckPassword() const
-{
-    if (HasPassword())
-        return;
-    if (input_.switches.password)
-        throw SetupFailure(ExitCode::Failed, texts_[Message::WrongPassword]);
-    if (input_.pages == nullptr)
-        throw SetupFailure(ExitCode::Failed, texts_[Message::NeedsPassword]);
-}
-
-void SetupProgram::CheckSystem()
-{
-    const section::TargetOS& systems = package_.setup.project.TargetOS;
-    if (IsMeantFor(systems, input_.target.System()) != kOff)
-        return;
-    if (systems.TargetOS_StopIfWrong != kOff)
-        throw SetupFailure(ExitCode::WrongSystem, texts_[Message::WrongSystem]);
-    if (systems.TargetOS_WarnIfWrong == kOff)
-        return;
-    log_.Line(Message::LogWrongSystem);
-    const Text title = texts_(Message::Title, package_.setup.project.ProjectName.ProjectName);
-    if (!input_.switches.silent && !IsTask(SetupTask::Plan) &&
-        !ask_.YesNo(title, texts_[Message::WrongSystemQuestion], Ask::Stops::OnNo))
-        throw SetupFailure(ExitCode::Cancelled, {});
-}
-
-// Who has made a folder decides who may write to it, and so what the product's programs are. Other
-// machines' users, on shares and disks that are carried about, say nothing here.
-void SetupProgram::CheckFolder(const Text& folder) const
-{
-    if (folder[1] != ':' || input_.host.files.DriveType(folder.substr(0, 3)) != DriveKind::Fixed)
-        return;
-    Text at = folder;
-    for (Text above = ExtractDirectory(at); above != at && !at.empty();
-         at = above, above = ExtractDirectory(at))
-        if (input_.host.files.DirExists(at) && !input_.target.IsOfTrustedUser(at))
-            throw SetupFailure(ExitCode::Failed, texts_(Message::FolderOfOthers, at));
 }
 
 void SetupProgram::FreeFilesInUse(const InstallPlan& plan)
@@ -330,10 +236,10 @@ void SetupProgram::LeadThroughPages()
         input_.sound->Start();
     if (input_.pages == nullptr || IsTask(SetupTask::Plan))
         return;
-    chain_ = std::make_unique<PageChain>(
-        PageInput{input_.host, input_.target, input_.ask, texts_, setup_, package_.rows,
-                  input_.switches.packageFolder, destination_, isUpdate_, HasPassword(),
-                  input_.switches.scope, input_.switches.canCancel});
+    chain_ = std::make_unique<PageChain>(PageInput{
+        input_.host, input_.target, input_.ask, texts_, setup_, package_.rows,
+        input_.switches.packageFolder, destination_, isUpdate_,
+        HasPassword(input_.switches, setup_), input_.switches.scope, input_.switches.canCancel});
     if (chain_->LeadThrough(*input_.pages) == PageChain::End::Cancelled)
         throw SetupFailure(ExitCode::Cancelled, {});
     const UserChoices& choices = chain_->Choices();
@@ -378,7 +284,7 @@ PackageReader SetupProgram::Reader()
 InstallResult SetupProgram::InstallPackage()
 {
     const SetupVariables variables = Variables();
-    CheckFolder(variables.Value(NameOf(VariableMeaning::MainFolder)));
+    CheckFolder(Checked(), variables.Value(NameOf(VariableMeaning::MainFolder)));
     const InstallPlan plan = Plan(variables);
     FinishEarlier(variables);
     FileSystem& files = input_.host.files;

@@ -1,6 +1,7 @@
 // The letters of the copy options, one by one, on a machine where the file is already there.
 #include "setup_fixture.h"
 
+#include "platform/run_error.h"
 #include "runtime/file_installer.h"
 
 namespace quillon {
@@ -134,6 +135,43 @@ TEST_F(CopyOptionsTest, EachFileInUseIsRegisteredByACommandOfItsOwn)
     files.inUse.clear();
     EXPECT_EQ(UninstallProduct(), ExitCode::Done);
     EXPECT_EQ(target.TextAt(key, "QNXREG2 Exempel"), "<none>") << "before the next start";
+}
+
+// The former file has been moved aside by then, and is needed until the next start.
+TEST_F(CopyOptionsTest, ALeavesTheFileInItsPlaceWhereTheNewOneIsRefusedThere)
+{
+    bool wasRefused = false;
+    files.beforeChange = [&] {
+        if (wasRefused || !memory.files.DirExists("C:\\Program\\Exempel") ||
+            memory.files.FileExists(kFile))
+            return;
+        wasRefused = true;
+        throw RunError(ErrorNumber::kPermissionDenied, kFile);
+    };
+    EXPECT_EQ(InstallOver("A", kOlder), ExitCode::RestartNeeded) << Log();
+    EXPECT_TRUE(wasRefused);
+    EXPECT_EQ(memory.files.Get(kFile), "gammal");
+    ASSERT_FALSE(target.movesAtRestart.empty());
+    EXPECT_EQ(memory.files.Get(target.movesAtRestart[0].first), "ny");
+    EXPECT_EQ(target.movesAtRestart[0].second, kFile);
+}
+
+TEST_F(CopyOptionsTest, AEndsTheInstallationWhereNeitherFileCanTakeThePlace)
+{
+    memory.files.Put(kFile, "gammal", kOlder);
+    const MachineState before = State();
+    int refusals = 0;
+    files.beforeChange = [&] {
+        if (refusals == 2 || memory.files.FileExists(kFile))
+            return;
+        ++refusals;
+        throw RunError(ErrorNumber::kPermissionDenied, kFile);
+    };
+    EXPECT_EQ(InstallOver("A", kOlder), ExitCode::Failed);
+    EXPECT_EQ(refusals, 2);
+    EXPECT_THAT(Log(), HasSubstr(kFile));
+    EXPECT_TRUE(target.movesAtRestart.empty());
+    EXPECT_EQ(State(), before) << "undone, and the file is back";
 }
 
 TEST_F(CopyOptionsTest, AFileInUseEndsTheInstallationWithoutA)

@@ -48,6 +48,7 @@ INSTANTIATE_TEST_SUITE_P(OfEachKind, LineOfAJournal, testing::Values(
     LineCase{record::TempFolder{"C:\\~qn1.tmp"}, "TEMPFOLDER\tC:\\~qn1.tmp"},
     LineCase{record::LeavingFolder{"C:\\Data"}, "LEAVING\tC:\\Data"},
     LineCase{record::MovedAside{"C:\\b", "C:\\~qn1.tmp\\1"}, "ASIDE\tC:\\b\tC:\\~qn1.tmp\\1"},
+    LineCase{record::InsteadOf{"C:\\b", "C:\\~qn1.tmp\\1"}, "INSTEADOF\tC:\\b\tC:\\~qn1.tmp\\1"},
     LineCase{record::FormerValue{kFirma, "v", kNumber},
              "FORMERVALUE\tHKEY_CURRENT_USER\tSOFTWARE\\Firma\tv\t4\t07000000"},
     LineCase{record::RemovedKey{kFirma}, "REMOVEDKEY\tHKEY_CURRENT_USER\tSOFTWARE\\Firma"},

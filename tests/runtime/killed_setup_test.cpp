@@ -93,13 +93,16 @@ protected:
         EXPECT_EQ(state.fonts, right.fonts);
     }
 
-    // What it starts is beside it, and is what it was when its digest was taken.
+    // What it starts is beside it, of the same version, and is what it was when its digest was
+    // taken.
     void ExpectUninstallerThatCanStart() const
     {
         const Text program = kMain + "\\QNS32X.BIN";
         if (!memory.files.FileExists(kMain + "\\QNXUNIN.EXE"))
             return;
         ASSERT_TRUE(memory.files.FileExists(program));
+        const std::string starter = memory.files.Get(kMain + "\\QNXUNIN.EXE");
+        EXPECT_EQ(memory.files.Get(program), ReplaceAll(starter, "uninstaller", "setup"));
         EXPECT_EQ(memory.files.Get(kMain + "\\QNXUNIN.SHA256"),
                   DigestText(DigestOfFile(memory.files, program)) + "  QNS32X.BIN\n");
     }
@@ -129,7 +132,9 @@ protected:
             // The run that puts it right is killed as well, each time at another place.
             Restore(wreck);
             KillAt(n % 97 + 1, [&] { Finish(); });
+            ExpectUninstallerThatCanStart();
             KillAt(n % 61 + 1, [&] { Finish(); });
+            ExpectUninstallerThatCanStart();
             EXPECT_TRUE(Finish());
             ExpectState(committed ? after : before);
 
@@ -157,7 +162,43 @@ TEST_F(KilledSetup, IsPutRightWhereTheProductIsUpgraded)
                      "C:\\Program\\Annan\\a.exe||||");
     ChangePackage();
     memory.files.Put("D:\\Paket\\QNS32X.BIN", "newer setup");
+    memory.files.Put("D:\\Paket\\QNXUNIN.BIN", "newer uninstaller");
     EXPECT_GT(KillEverywhere(), 150);
+}
+
+// Whatever ends the way back at whichever of its steps: the program that the user starts is never
+// beside another version of what it starts.
+TEST_F(KilledSetup, LeavesNoUninstallerOfAnotherVersionAtAnyStepOfTheWayBack)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    memory.files.Put("D:\\Paket\\QNS32X.BIN", "newer setup");
+    memory.files.Put("D:\\Paket\\QNXUNIN.BIN", "newer uninstaller");
+    const MachineState before = State();
+    const Text starter = kMain + "\\QNXUNIN.EXE";
+    const auto hasNewStarter = [&] {
+        return memory.files.FileExists(starter) && memory.files.Get(starter) == "newer uninstaller";
+    };
+    // As far as the newer starter has come to its place.
+    const Machine newer = Keep();
+    for (int n = 1; !hasNewStarter(); ++n) {
+        Restore(newer);
+        ASSERT_TRUE(KillAt(n, [&] { Install(); }));
+    }
+    const Machine wreck = Keep();
+    ASSERT_EQ(Journal().find("\r\nCOMMITTED"), Text::npos);
+    bool wasWithout = false;
+    bool killed = true;
+    for (int n = 1; killed; ++n) {
+        Restore(wreck);
+        killed = KillAt(n, [&] { EXPECT_TRUE(Finish()); });
+        SCOPED_TRACE("way back ended at change " + NumberText(n));
+        ExpectUninstallerThatCanStart();
+        wasWithout = wasWithout || !memory.files.FileExists(starter);
+        EXPECT_TRUE(Finish());
+        EXPECT_EQ(State(), before);
+    }
+    EXPECT_TRUE(wasWithout);
 }
 
 TEST_F(KilledSetup, IsPutRightWithItsScriptsStartupLinesAndOldFiles)

@@ -29,13 +29,6 @@ constexpr Place kSecond{1024, 0, 1824, 600};
 
 class Displays : public testing::Test {
 protected:
-    void SetUp() override
-    {
-        if (WineBits() == 32)
-            GTEST_SKIP()
-                << "the small Debian of this Wine has no libXinerama, which knows displays";
-    }
-
     /// What the driver logs, a place for each `where`.
     std::vector<Place> Drive(const std::string& script, const std::string& end)
     {

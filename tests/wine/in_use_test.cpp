@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace quillon::test {
 namespace {
@@ -29,7 +30,8 @@ protected:
         // It would be the same one otherwise.
         WriteBytes(prefix.OnHost(kHeld), "by hand");
         before = StateOf(prefix.OnHost("C:\\Program Files"));
-        return Drive("hold " + std::string(kHeld) + "\n" + setup_ + "/LOG=C:\\logg.txt\n");
+        return Drive("hold " + std::string(kHeld) + "\n" + setup_ +
+                     "/LOG=C:\\logg.txt /RESULT=C:\\r.json\n");
     }
     std::string Drive(const std::string& script)
     {
@@ -52,6 +54,11 @@ TEST_F(HeldFile, EndsTheSetupWithACodeOfItsOwn)
     EXPECT_EQ(InstallTwice(""), "code 20003\n");
     EXPECT_THAT(Log(), HasSubstr("20003: Filen '" + std::string(kHeld) +
                                  "' används av ett program och kan inte skrivas."));
+    const auto result = nlohmann::json::parse(ReadBytes(prefix.OnHost("C:\\r.json")));
+    EXPECT_EQ(result["code"], 20003);
+    EXPECT_EQ(result["result"], "file in use");
+    EXPECT_EQ(result["restart"], false);
+    EXPECT_THAT(result["error"].get<std::string>(), HasSubstr(kHeld));
     EXPECT_EQ(FolderDifference(before, StateOf(prefix.OnHost("C:\\Program Files"))), "");
 }
 

@@ -5,7 +5,10 @@
 set -eu
 
 suite=bookworm
-root=${QUILLON_WINE32_ROOT:-${XDG_CACHE_HOME:-$HOME/.cache}/quillon/wine32-root}
+# The second one is how Wine knows of several displays. Whoever changes this list counts up the number
+# in the folder's name, here and in run-wine.sh.
+packages=wine32,libxinerama1
+root=${QUILLON_WINE32_ROOT:-${XDG_CACHE_HOME:-$HOME/.cache}/quillon/wine32-root-2}
 as_root() { if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi; }
 
 # The mirror that this machine's own packages come from.
@@ -39,7 +42,7 @@ if [ ! -x "$root/usr/lib/wine/wine" ]; then
     remove_part
     trap remove_part EXIT
     # The lock must not outlive this script in anything that the packages start.
-    as_root debootstrap --variant=minbase --arch=i386 --include=wine32 "$suite" "$part" "$mirror" \
+    as_root debootstrap --variant=minbase --arch=i386 --include="$packages" "$suite" "$part" "$mirror" \
         >"$root.log" 2>&1 9>&- || { tail -5 "$root.log" >&2; exit 1; }
     as_root rm -rf "$part/var/cache/apt" "$part/var/lib/apt/lists" "$part/usr/share/doc" \
         "$part/usr/share/man" "$part/usr/share/locale"

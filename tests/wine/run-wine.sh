@@ -14,7 +14,7 @@ if [ "$kind" = 64 ]; then
     loader=/usr/lib/wine/wine64
     server=/usr/lib/wine/wineserver64
 else
-    root=${QUILLON_WINE32_ROOT:-${XDG_CACHE_HOME:-$HOME/.cache}/quillon/wine32-root}
+    root=${QUILLON_WINE32_ROOT:-${XDG_CACHE_HOME:-$HOME/.cache}/quillon/wine32-root-2}
     loader=/usr/lib/wine/wine
     server=/usr/lib/wine/wineserver32
 fi

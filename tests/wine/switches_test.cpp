@@ -264,6 +264,30 @@ TEST_F(SetupSwitches, TellOfADamagedPackage)
     EXPECT_FALSE(IsThere());
 }
 
+TEST_F(SetupSwitches, TellOfAMissingFrameworkThatTheProductNeeds)
+{
+    product.project.NET.NET_TestIfInstalled = kOn;
+    product.project.NET.NET_ver11 = kOn;
+    product.project.NET.NET_StopIfNoNET = kOn;
+    Make();
+    for (const char* place :
+         {"Microsoft\\.NETFramework\\policy", "Microsoft\\NET Framework Setup\\NDP",
+          "Wow6432Node\\Microsoft\\.NETFramework\\policy",
+          "Wow6432Node\\Microsoft\\NET Framework Setup\\NDP"})
+        prefix.RunCommandLine("reg delete \"HKLM\\SOFTWARE\\" + std::string(place) + "\" /f");
+    EXPECT_EQ(Setup("/S /RESULT=C:\\r.json"), 20002U);
+    EXPECT_EQ(Result()["code"], 20002);
+    EXPECT_EQ(Result()["result"], "prerequisite missing");
+    EXPECT_THAT(Result()["error"].get<std::string>(), HasSubstr("1.1"));
+    EXPECT_FALSE(IsThere());
+    ASSERT_EQ(prefix.RunCommandLine("reg add \"HKLM\\SOFTWARE\\Microsoft\\NET Framework "
+                                    "Setup\\NDP\\v4\\Full\" /v Install /t REG_DWORD /d 1"),
+              0U);
+    EXPECT_EQ(Setup("/S /RESULT=C:\\r.json"), 0U);
+    EXPECT_EQ(Result()["result"], "done");
+    EXPECT_TRUE(IsThere());
+}
+
 TEST_F(SetupSwitches, LeaveThePasswordOutOfEveryFile)
 {
     product.project.DialogBoxes.PasswordDlg = 1;

@@ -34,8 +34,9 @@ constexpr int kNumberPipe = 5;
 VirtualDisplay::VirtualDisplay(Displays displays)
 {
     const std::string number = std::to_string(kNumberPipe);
-    if (displays == Displays::One) {
-        Start({"Xvfb", "-displayfd", number, "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
+    if (displays != Displays::Two) {
+        const char* const size = displays == Displays::Fine ? "1920x1440x24" : "1024x768x24";
+        Start({"Xvfb", "-displayfd", number, "-screen", "0", size, "-nolisten", "tcp"});
         return;
     }
     // One server has one display; a second one in its window has as many as it is told.

@@ -11,8 +11,9 @@ namespace quillon::test {
 
 class VirtualDisplay {
 public:
-    /// One display of 1024 x 768, or a smaller one of 800 x 600 to the right of it as well.
-    enum class Displays { One, Two };
+    /// One display of 1024 x 768, or a smaller one of 800 x 600 to the right of it as well; or a
+    /// single one of 1920 x 1440, where there is room for windows of twice the size.
+    enum class Displays { One, Two, Fine };
     /// Fails the test where the machine can't make them.
     explicit VirtualDisplay(Displays displays = Displays::One);
     ~VirtualDisplay();

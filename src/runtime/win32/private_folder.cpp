@@ -42,8 +42,9 @@ PrivateFolder::~PrivateFolder()
 {
     lock_.reset();
     RunErrorNumber([&] {
+        // A driver that hangs may hold one of them.
         for (const FolderEntry& entry : host_.files.List(path_))
-            RemoveEvenReadOnly(host_.files, JoinPath(path_, entry.name));
+            RunErrorNumber([&] { RemoveEvenReadOnly(host_.files, JoinPath(path_, entry.name)); });
         host_.files.RemoveFolder(path_);
     });
 }

@@ -14,8 +14,10 @@ namespace quillon {
 
 namespace {
 
-constexpr DWORD kPollTime = 200;  // milliseconds between two looks at whether the sound has ended
-constexpr DWORD kStopTime = 2000; // the longest that the setup waits for a driver to let go
+constexpr DWORD kPollTime = 200; // milliseconds between two looks at whether the sound has ended
+// The longest that the setup waits for a driver to let go of the file, milliseconds. One that takes
+// longer may hang: the next setup removes what it holds, with the private folder.
+constexpr DWORD kStopTime = 300;
 
 // What Windows loads by the name alone while it plays a sound, on those of its versions that can't
 // be told where to look.
@@ -25,9 +27,9 @@ constexpr const char* kSoundLibraries[] = {
     "audioses.dll", "devenum.dll", "quartz.dll",   "msdmo.dll",   "dsound.dll",
 };
 
-using SendCommand = DWORD(WINAPI*)(const wchar_t* command, wchar_t* answer, UINT size, HWND);
+} // namespace
 
-SendCommand LoadPlayer()
+ScreenSound::SendCommand ScreenSound::LoadPlayer()
 {
     for (const char* name : kSoundLibraries)
         LoadFromSystemFolder(name);
@@ -37,14 +39,13 @@ SendCommand LoadPlayer()
                                     GetProcAddress(library, "mciSendStringW")));
 }
 
-} // namespace
-
 struct ScreenSound::Playing {
     Text open; // the command
+    FindPlayer findPlayer;
     HANDLE stop = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     std::atomic<bool> hasFailed = false;
 
-    Playing() = default;
+    Playing(Text command, FindPlayer find) : open(std::move(command)), findPlayer(find) {}
     ~Playing() { CloseHandle(stop); }
     Playing(const Playing&) = delete;
     Playing& operator=(const Playing&) = delete;
@@ -52,8 +53,8 @@ struct ScreenSound::Playing {
     bool IsStopped(DWORD wait) const { return WaitForSingleObject(stop, wait) == WAIT_OBJECT_0; }
 };
 
-ScreenSound::ScreenSound(const DesignFiles& design, Text name, Text folder)
-    : design_(design), name_(std::move(name)), folder_(std::move(folder))
+ScreenSound::ScreenSound(const DesignFiles& design, Text name, Text folder, FindPlayer findPlayer)
+    : design_(design), name_(std::move(name)), folder_(std::move(folder)), findPlayer_(findPlayer)
 {
 }
 
@@ -78,8 +79,7 @@ void ScreenSound::Start()
     try {
         if (kind == nullptr || design_.Files().Status(name_).size > kMaxSoundSize)
             return;
-        playing_ = std::make_shared<Playing>();
-        playing_->open = OpenSoundCommand(*kind, MakeFile(*kind));
+        playing_ = std::make_shared<Playing>(OpenSoundCommand(*kind, MakeFile(*kind)), findPlayer_);
         auto given = std::make_unique<std::shared_ptr<Playing>>(playing_);
         thread_ = CreateThread(nullptr, 0, Play, given.get(), 0, nullptr);
         if (thread_ == nullptr)
@@ -110,7 +110,7 @@ unsigned long __stdcall ScreenSound::Play(void* playing)
 {
     const std::unique_ptr<std::shared_ptr<Playing>> mine(
         static_cast<std::shared_ptr<Playing>*>(playing));
-    const SendCommand player = LoadPlayer();
+    const SendCommand player = (*mine)->findPlayer();
     const auto send = [player](const Text& command, Text* answer) {
         wchar_t words[32] = {};
         if (player == nullptr || player(Wide(command).c_str(), words, 32, nullptr) != 0)

@@ -6,7 +6,8 @@
 //   other COMMAND        runs another program to its end and logs its code
 //   page TITLE           waits until the page of that title is shown
 //   screen               waits until the screen behind the pages is shown; then it is the page
-//   list TEXT            waits until a list under that text is shown; then it is the page
+//   progress             waits until the progress is shown, behind a box or not; then it is the
+//   page list TEXT            waits until a list under that text is shown; then it is the page
 //   escape               presses Esc on the screen
 //   press ID             clicks the button
 //   type ID TEXT         puts the text into the line and leaves it
@@ -23,6 +24,7 @@
 //   positions ID         holds the page, logs how far the bar is and lets go, until the page closes
 //   box BUTTON           waits for a message box, logs its text and presses the button
 //   buttons              waits for a message box and logs its buttons
+//   aside                waits for a message box and moves it into the corner of the desktop
 //   pointer X Y          moves the pointer there, in pixels of the desktop
 //   where                logs left, top, right and bottom of the page in the desktop
 //   hold FILE            keeps the file open, so that nobody moves it
@@ -31,7 +33,11 @@
 //   session              waits until the session was to end, and logs it
 //   plant FOLDER         copies the folder's files into each private folder of a setup
 //   shot FILE            writes what the page looks like as a bitmap
+//   inside               logs width and height of the page without its frame
+//   clipped              logs each control of the page whose text does not fit into it, or that
+//                        sticks out of the page
 //   close                closes the page by its frame
+//   leave                closes it as Alt+F4 does
 //   end                  waits for the program's end and logs its code
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
@@ -40,6 +46,7 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "runtime/win32/list_window.h"
+#include "window_look.h"
 
 #include <windows.h>
 
@@ -57,30 +64,15 @@ struct Search {
     const wchar_t* kind;
     std::wstring title; // empty: any
     HWND found;
-    int textId = 0; // of the control that has the title; 0: the window itself
+    int textId = 0;       // of the control that has the title; 0: the window itself
+    bool mayWait = false; // for a box in front of it
 };
-
-std::wstring TextOf(HWND window)
-{
-    std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1,
-                      L'\0');
-    text.resize(static_cast<std::size_t>(
-        SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-    return text;
-}
-
-std::wstring KindOf(HWND window)
-{
-    wchar_t kind[64] = {};
-    GetClassNameW(window, kind, 64);
-    return kind;
-}
 
 BOOL CALLBACK Match(HWND window, LPARAM data)
 {
     auto& search = *reinterpret_cast<Search*>(data);
     const HWND told = search.textId == 0 ? window : GetDlgItem(window, search.textId);
-    const bool fits = IsWindowVisible(window) && IsWindowEnabled(window) &&
+    const bool fits = IsWindowVisible(window) && (search.mayWait || IsWindowEnabled(window)) &&
                       KindOf(window) == search.kind &&
                       (search.title.empty() || TextOf(told) == search.title);
     if (fits)
@@ -134,6 +126,8 @@ private:
             return WaitFor(L"QuillonPages", Wide(rest), page_);
         if (verb == "screen")
             return WaitFor(L"QuillonScreen", {}, page_);
+        if (verb == "progress")
+            return WaitFor({.kind = L"QuillonSetup", .mayWait = true}, page_);
         if (verb == "list")
             return WaitFor(L"QuillonList", Wide(rest), page_, kListTextId);
         if (verb == "unpacking")
@@ -158,6 +152,14 @@ private:
             return Shoot(rest);
         if (verb == "close")
             return PostMessageW(page_, WM_CLOSE, 0, 0) != FALSE;
+        if (verb == "leave")
+            return PostMessageW(page_, WM_SYSCOMMAND, SC_CLOSE, 0) != FALSE;
+        if (verb == "inside")
+            return LogInside();
+        if (verb == "aside")
+            return MoveBoxAside();
+        if (verb == "clipped")
+            return LogClipped();
         if (verb == "controls")
             return ListControls();
         if (verb == "pointer")
@@ -224,6 +226,29 @@ private:
             log_ += NumberText(std::int64_t{edge}) + " ";
         log_.back() = '\n';
         return true;
+    }
+
+    bool LogClipped()
+    {
+        for (const HWND control : ClippedControls(page_))
+            log_ += "clipped " + OneLine(KindOf(control)) + " " + OneLine(TextOf(control)) + "\n";
+        return true;
+    }
+
+    bool LogInside()
+    {
+        RECT inside{};
+        GetClientRect(page_, &inside);
+        log_ += "inside " + NumberText(std::int64_t{inside.right}) + " " +
+                NumberText(std::int64_t{inside.bottom}) + "\n";
+        return true;
+    }
+
+    bool MoveBoxAside()
+    {
+        HWND box = nullptr;
+        return WaitFor(L"#32770", {}, box) &&
+               SetWindowPos(box, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     }
 
     bool Hold(const std::wstring& path)
@@ -301,8 +326,12 @@ private:
     // only once its controls are new: a script asks for titles that differ.
     bool WaitFor(const wchar_t* kind, const std::wstring& title, HWND& window, int textId = 0)
     {
+        return WaitFor({kind, title, nullptr, textId}, window);
+    }
+    bool WaitFor(Search search, HWND& window)
+    {
         for (int waited = 0; waited < kMaxWait; waited += kLook) {
-            Search search{kind, title, nullptr, textId};
+            search.found = nullptr;
             EnumWindows(Match, reinterpret_cast<LPARAM>(&search));
             window = search.found;
             if (window != nullptr)
@@ -422,7 +451,7 @@ private:
         constexpr int kSteadyLooks = 20;
         Text file;
         for (int same = 0, waited = 0; same < kSteadyLooks && waited < kMaxWait; waited += kLook) {
-            Text next = Bitmap();
+            Text next = BitmapOf(page_);
             same = next == file ? same + 1 : 0;
             file = std::move(next);
             if (WaitForSingleObject(process_, kLook) != WAIT_TIMEOUT)
@@ -430,40 +459,6 @@ private:
         }
         WriteWholeFile(files_, path, file);
         return true;
-    }
-
-    Text Bitmap() const
-    {
-        RECT inside{};
-        GetClientRect(page_, &inside);
-        POINT corner{};
-        ClientToScreen(page_, &corner);
-        const HDC screen = GetDC(nullptr);
-        const HDC memory = CreateCompatibleDC(screen);
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = inside.right;
-        info.bmiHeader.biHeight = inside.bottom;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* pixels = nullptr;
-        const HBITMAP bitmap = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
-        const HGDIOBJ before = SelectObject(memory, bitmap);
-        BitBlt(memory, 0, 0, inside.right, inside.bottom, screen, corner.x, corner.y, SRCCOPY);
-        GdiFlush();
-        const auto size = static_cast<DWORD>(inside.right * inside.bottom * 4);
-        BITMAPFILEHEADER head{};
-        head.bfType = 0x4D42;
-        head.bfOffBits = sizeof head + sizeof info.bmiHeader;
-        head.bfSize = head.bfOffBits + size;
-        Text file(reinterpret_cast<const char*>(&head), sizeof head);
-        file.append(reinterpret_cast<const char*>(&info.bmiHeader), sizeof info.bmiHeader);
-        file.append(static_cast<const char*>(pixels), size);
-        SelectObject(memory, before);
-        DeleteObject(bitmap);
-        DeleteDC(memory);
-        ReleaseDC(nullptr, screen);
-        return file;
     }
 
     FileSystem& files_;
@@ -478,6 +473,8 @@ private:
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
 {
+    // Places are told in the pixels of the display, as the setup's own.
+    SetProcessDPIAware();
     int count = 0;
     wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
     if (arguments == nullptr || count != 3)

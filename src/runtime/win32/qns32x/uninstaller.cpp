@@ -1,5 +1,6 @@
 #include "runtime/win32/qns32x/uninstaller.h"
 
+#include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
@@ -85,7 +86,7 @@ int RunUninstaller(HINSTANCE instance, const StarterLine& from)
 {
     UninstallerCommand line = ReadUninstallerCommand(from.given);
     if (line.logPath.empty())
-        line.logPath = JoinPath(ExtractDirectory(from.program), "QNXUNIN.LOG");
+        line.logPath = JoinPath(ExtractDirectory(from.program), RuntimePrograms::kInstallationLog);
     WinFiles files;
     WinMachine machine;
     Host host{files, machine};

@@ -1,0 +1,29 @@
+#include "formats/installation_log_name.h"
+
+#include "formats/runtime_programs.h"
+#include "helpers/number_text.h"
+#include "helpers/windows_path.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr std::string_view kName = RuntimePrograms::kInstallationLog;
+constexpr std::string_view kStem = kName.substr(0, kName.find('.'));
+constexpr std::string_view kEnding = kName.substr(kStem.size());
+
+} // namespace
+
+Text InstallationLogName(int number)
+{
+    return Text(kStem) + (number == 1 ? Text() : NumberText(number)) + Text(kEnding);
+}
+
+bool IsInstallationLogName(std::string_view name)
+{
+    const Text upper = UpperCase(name);
+    return upper.starts_with(kStem) && upper.find('.') == upper.size() - kEnding.size() &&
+           upper.ends_with(kEnding);
+}
+
+} // namespace quillon

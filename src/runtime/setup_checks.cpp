@@ -1,0 +1,105 @@
+#include "runtime/setup_checks.h"
+
+#include "formats/package.h"
+#include "formats/setup_names.h"
+#include "helpers/windows_name.h"
+#include "helpers/windows_path.h"
+#include "runtime/before_install.h"
+#include "runtime/failure_reason.h"
+#include "runtime/package_check.h"
+#include "runtime/script/script_run.h"
+
+namespace quillon {
+
+void RefuseSwitch(const LanguageTexts& texts, const Text& badSwitch)
+{
+    throw SetupFailure(ExitCode::BadSwitch, texts(Message::BadSwitch, badSwitch));
+}
+
+void CheckSwitches(const SetupCheck& check)
+{
+    const Switches& switches = check.input.switches;
+    const LanguageTexts& texts = check.package.texts;
+    if (switches.badSwitch)
+        RefuseSwitch(texts, *switches.badSwitch);
+    const Text& language = switches.languageFile;
+    if (!language.empty() &&
+        !check.input.host.files.FileExists(JoinPath(switches.packageFolder, language)))
+        RefuseSwitch(texts, "/LANG=" + language);
+    if (check.input.otherSetupRuns && switches.task == SetupTask::Install)
+        throw SetupFailure(ExitCode::OtherSetupRuns, texts[Message::OtherSetup]);
+}
+
+void CheckPackage(const LoadedPackage& package)
+{
+    const LanguageTexts& texts = package.texts;
+    if (package.fault)
+        throw DamagedPackage(texts, *package.fault);
+    if (const auto fault = FaultOfScripts(package.setup, texts))
+        throw DamagedPackage(texts, *fault);
+    const Project& project = package.setup.project;
+    const Text& starter = project.InstallOptions.SetupName;
+    // Not by the tool's words for it, which nobody would see here.
+    if (FaultOfName(starter) != PathFault::None ||
+        IsNameOfPackageFile(starter, project.Language.LanguageFile))
+        throw DamagedPackage(texts, {Message::PackageFileDamaged, kSetupInformationName});
+}
+
+void CheckFiles(const SetupCheck& check)
+{
+    const auto& [input, package, ask, log] = check;
+    ask.AddStatusLine(package.texts[Message::Checking]);
+    CheckAgainstManifest({input.host.files, ask, log, package.texts, package.setup, package.rows,
+                          package.manifest, input.switches.packageFolder});
+}
+
+bool HasPassword(const Switches& switches, const SetupInformation& setup)
+{
+    const Text& correct = setup.project.DialogBoxData.CorrectPassword;
+    return setup.project.DialogBoxes.PasswordDlg != 1 || correct.empty() ||
+           switches.password == correct;
+}
+
+// Where there are pages, one of them asks for it.
+void CheckPassword(const SetupInput& input, const LoadedPackage& package)
+{
+    if (HasPassword(input.switches, package.setup))
+        return;
+    if (input.switches.password)
+        throw SetupFailure(ExitCode::Failed, package.texts[Message::WrongPassword]);
+    if (input.pages == nullptr)
+        throw SetupFailure(ExitCode::Failed, package.texts[Message::NeedsPassword]);
+}
+
+void CheckSystem(const SetupCheck& check)
+{
+    const Project& project = check.package.setup.project;
+    const LanguageTexts& texts = check.package.texts;
+    if (IsMeantFor(project.TargetOS, check.input.target.System()) != kOff)
+        return;
+    if (project.TargetOS.TargetOS_StopIfWrong != kOff)
+        throw SetupFailure(ExitCode::WrongSystem, texts[Message::WrongSystem]);
+    if (project.TargetOS.TargetOS_WarnIfWrong == kOff)
+        return;
+    check.log.Line(Message::LogWrongSystem);
+    const Switches& switches = check.input.switches;
+    if (!switches.silent && switches.task != SetupTask::Plan &&
+        !check.ask.YesNo(texts(Message::Title, project.ProjectName.ProjectName),
+                         texts[Message::WrongSystemQuestion], Ask::Stops::OnNo))
+        throw SetupFailure(ExitCode::Cancelled, {});
+}
+
+// Other machines' users, on shares and disks that are carried about, say nothing here.
+void CheckFolder(const SetupCheck& check, const Text& folder)
+{
+    const FileSystem& files = check.input.host.files;
+    if (folder[1] != ':' || files.DriveType(folder.substr(0, 3)) != DriveKind::Fixed)
+        return;
+    Text at = folder;
+    for (Text above = ExtractDirectory(at); above != at && !at.empty();
+         at = above, above = ExtractDirectory(at))
+        if (files.DirExists(at) && !check.input.target.IsOfTrustedUser(at))
+            throw SetupFailure(ExitCode::Failed, check.package.texts(Message::FolderOfOthers, at));
+}
+
+} // namespace quillon

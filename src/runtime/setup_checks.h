@@ -1,0 +1,35 @@
+// What the setup finds out before it asks its user anything, each by itself: whether the command
+// line, the package, the machine and the folder are such that it may go on. Each check ends the
+// setup by a `SetupFailure`.
+#pragma once
+
+#include "runtime/setup_program.h"
+
+namespace quillon {
+
+struct SetupCheck {
+    const SetupInput& input;
+    const LoadedPackage& package;
+    Ask& ask;
+    ActionLog& log;
+};
+
+/// The switches, and whether another setup runs that they would disturb.
+void CheckSwitches(const SetupCheck& check);
+[[noreturn]] void RefuseSwitch(const LanguageTexts& texts, const Text& badSwitch);
+
+void CheckPackage(const LoadedPackage& package);
+/// Against the package's manifest.
+void CheckFiles(const SetupCheck& check);
+
+/// True also for a package that asks for none.
+bool HasPassword(const Switches& switches, const SetupInformation& setup);
+void CheckPassword(const SetupInput& input, const LoadedPackage& package);
+
+/// Whether the product is meant for this system. Asks about one that the project only warns about.
+void CheckSystem(const SetupCheck& check);
+
+/// Who has made a folder decides who may write to it, and so what the product's programs are.
+void CheckFolder(const SetupCheck& check, const Text& folder);
+
+} // namespace quillon
