@@ -474,7 +474,10 @@ private:
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
 {
     // Places are told in the pixels of the display, as the setup's own.
-    SetProcessDPIAware();
+    using Declare = BOOL(WINAPI*)();
+    if (const auto declare = reinterpret_cast<Declare>(reinterpret_cast<void*>(
+            GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetProcessDPIAware"))))
+        declare();
     int count = 0;
     wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
     if (arguments == nullptr || count != 3)

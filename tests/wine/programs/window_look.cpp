@@ -10,6 +10,8 @@ bool IsClipped(HDC letters, HWND window, HWND control)
 {
     RECT inside{};
     RECT place{};
+    if (KindOf(control) == L"Static" && TextOf(control).empty())
+        return false; // a line, which may end outside, or a picture
     GetClientRect(window, &inside);
     GetWindowRect(control, &place);
     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
