@@ -15,7 +15,7 @@ using namespace zip;
 
 namespace {
 
-constexpr std::size_t kPieceSize = 32 * 1024;
+constexpr std::size_t kPieceSize = 64 * 1024;
 
 void Require(bool condition, const char* what)
 {

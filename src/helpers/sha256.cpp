@@ -53,7 +53,7 @@ Sha256Digest Sha256::Finish()
 void Sha256::Mix(std::span<const std::byte> blocks)
 {
 #ifdef _WIN32
-    MixSha256Portably(state_, blocks);
+    MixSha256OfProgram(state_, blocks);
 #else
     MixSha256ByLibrary(state_, blocks);
 #endif

@@ -16,7 +16,11 @@ using Sha256State = std::array<std::uint32_t, 8>;
 /// `blocks` is a multiple of `kSha256BlockSize` long.
 void MixSha256Portably(Sha256State& state, std::span<const std::byte> blocks);
 
-#ifndef _WIN32
+#ifdef _WIN32
+/// What a program carries: a small one plain code, and the setup the processor's own instructions
+/// too.
+void MixSha256OfProgram(Sha256State& state, std::span<const std::byte> blocks);
+#else
 void MixSha256ByLibrary(Sha256State& state, std::span<const std::byte> blocks);
 #endif
 

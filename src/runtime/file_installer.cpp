@@ -135,16 +135,15 @@ Text FileInstaller::Stage(const PlannedFile& file)
 {
     const Text staged = changes_.StagingPath(file.path);
     const auto output = input_.host.files.OpenOutput(staged);
-    Sha256 hash;
+    BackgroundWriter::File writing(writer_, *output);
     input_.package.Extract(*file.row, [&](std::span<const std::byte> bytes) {
-        output->Write(bytes);
-        hash.Add(bytes);
+        writing.Add(bytes);
         done_ += bytes.size();
         input_.ask.ShowProgress(done_, total_);
         input_.ask.ProcessEvents();
     });
+    digest_ = writing.Finish();
     output->Close();
-    digest_ = hash.Finish();
     input_.host.files.SetModified(staged, input_.package.Modified(*file.row));
     return staged;
 }

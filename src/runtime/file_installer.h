@@ -3,6 +3,7 @@
 #pragma once
 
 #include "helpers/sha256.h"
+#include "runtime/background_writer.h"
 #include "runtime/copy_decision.h"
 #include "runtime/install.h"
 
@@ -42,6 +43,7 @@ private:
     std::vector<Text> toRegister_;
     std::vector<Text> toRegisterAtRestart_;
     std::vector<PlannedFile> fonts_;
+    BackgroundWriter writer_;
     Sha256Digest digest_{}; // of the file that was staged last
     std::uint64_t done_ = 0;
     std::uint64_t total_ = 0;

@@ -1,6 +1,9 @@
 #include "helpers/sha256.h"
 
 #include "helpers/sha256_blocks.h"
+#include "helpers/sha256_instructions.h"
+
+#include <fstream>
 
 namespace quillon {
 namespace {
@@ -35,18 +38,83 @@ TEST(Sha256Test, GivesTheDigestsOfTheStandardsExamples)
               "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
 }
 
-TEST(Sha256Test, IsTheSameByTheLibraryAndInPlainCode)
+using Mix = void (*)(Sha256State&, std::span<const std::byte>);
+
+struct Way {
+    const char* name;
+    Mix mix;
+};
+
+// Whatever can compute it on this machine.
+std::vector<Way> Ways()
 {
-    std::vector<std::byte> bytes(37 * kSha256BlockSize);
+    std::vector<Way> ways{{"plain code", MixSha256Portably}, {"library", MixSha256ByLibrary}};
+    if (HasSha256Instructions())
+        ways.push_back({"instructions", MixSha256ByInstructions});
+    return ways;
+}
+
+// Blocks as the standard pads them, from its initial state.
+std::string DigestBy(Mix mix, std::string bytes)
+{
+    const std::uint64_t bits = bytes.size() * 8;
+    bytes += '\x80';
+    bytes.resize((bytes.size() + 8 + kSha256BlockSize - 1) / kSha256BlockSize * kSha256BlockSize);
+    for (std::size_t i = 0; i < 8; ++i)
+        bytes[bytes.size() - 1 - i] = static_cast<char>(bits >> 8 * i);
+    Sha256State state{0x6A09E667, 0xBB67AE85, 0x3C6EF372, 0xA54FF53A,
+                      0x510E527F, 0x9B05688C, 0x1F83D9AB, 0x5BE0CD19};
+    mix(state, std::as_bytes(std::span(bytes)));
+    Sha256Digest digest;
+    for (std::size_t i = 0; i < digest.size(); ++i)
+        digest[i] = static_cast<std::byte>(state[i / 4] >> (24 - i % 4 * 8));
+    return Hex(digest);
+}
+
+TEST(Sha256Test, GivesTheStandardsDigestsInEachWay)
+{
+    for (const auto& [name, mix] : Ways()) {
+        EXPECT_EQ(DigestBy(mix, ""),
+                  "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855")
+            << name;
+        EXPECT_EQ(DigestBy(mix, "abc"),
+                  "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad")
+            << name;
+        EXPECT_EQ(DigestBy(mix, "abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"),
+                  "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1")
+            << name;
+        EXPECT_EQ(DigestBy(mix, std::string(1'000'000, 'a')),
+                  "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0")
+            << name;
+    }
+}
+
+TEST(Sha256Test, GoesOnFromAnyStateInEachWay)
+{
+    std::vector<std::byte> bytes(37 * kSha256BlockSize + 1);
     for (std::size_t i = 0; i < bytes.size(); ++i)
         bytes[i] = static_cast<std::byte>(i * i % 251);
-    for (const std::size_t blocks : {0U, 1U, 2U, 37U}) {
-        Sha256State plain{1, 2, 3, 4, 5, 6, 7, 8};
-        Sha256State fast = plain;
-        MixSha256Portably(plain, std::span(bytes).first(blocks * kSha256BlockSize));
-        MixSha256ByLibrary(fast, std::span(bytes).first(blocks * kSha256BlockSize));
-        EXPECT_EQ(plain, fast) << blocks;
-    }
+    for (const std::size_t blocks : {0U, 1U, 2U, 37U})
+        for (const std::size_t odd : {0U, 1U}) {
+            const auto input = std::span(bytes).subspan(odd, blocks * kSha256BlockSize);
+            const Sha256State begin{1, 0xFFFFFFFF, 3, 0x80000000, 5, 0x7FFFFFFF, 7, 8};
+            Sha256State plain = begin;
+            MixSha256Portably(plain, input);
+            for (const auto& [name, mix] : Ways()) {
+                Sha256State state = begin;
+                mix(state, input);
+                EXPECT_EQ(state, plain) << name << ", " << blocks << " blocks from " << odd;
+            }
+        }
+}
+
+// The kernel's word for the processor. Where it has none, as on another kind of processor, there
+// are no instructions either.
+TEST(Sha256Test, TakesTheInstructionsWhereTheProcessorHasThem)
+{
+    std::ifstream file("/proc/cpuinfo");
+    const std::string facts{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_EQ(HasSha256Instructions(), facts.find(" sha_ni") != std::string::npos);
 }
 
 TEST(Sha256Test, DoesNotDependOnHowTheBytesCome)

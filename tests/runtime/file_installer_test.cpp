@@ -1,7 +1,11 @@
 // The letters of the copy options, one by one, on a machine where the file is already there.
 #include "setup_fixture.h"
 
+#include "formats/digest_text.h"
+#include "formats/package_manifest.h"
+#include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/whole_file.h"
 #include "runtime/file_installer.h"
 
 namespace quillon {
@@ -15,6 +19,56 @@ using testing::HasSubstr;
 const Text kFile = "C:\\Program\\Exempel\\a.dll";
 constexpr LocalTime kOlder{2003, 1, 1, 0, 0, 0};
 constexpr LocalTime kNewer{2005, 1, 1, 0, 0, 0};
+
+class LargeFilesTest : public test::SetupFixture {
+protected:
+    static std::string Bytes(std::size_t size)
+    {
+        std::string bytes(size, '\0');
+        for (std::size_t i = 0; i < size; ++i)
+            bytes[i] = static_cast<char>(i * 131 + i / 4099);
+        return bytes;
+    }
+};
+
+TEST_F(LargeFilesTest, RecordsSizeAndDigestOfWhatIsOnTheDisk)
+{
+    const std::map<Text, std::size_t> sizes = {
+        {"tom.dat", 0}, {"kort.dat", 5}, {"jamn.dat", 128 * 1024}, {"stor.dat", 3'000'001}};
+    for (const auto& [name, size] : sizes)
+        AddFile(name, "%DESTDIR", Bytes(size));
+    EXPECT_EQ(Install(), ExitCode::Done);
+    const auto records =
+        ReadInstallJournal(ReadWholeFile(memory.files, "C:\\Program\\Exempel\\QNXUNIN.LOG"));
+    ASSERT_TRUE(records);
+    std::size_t found = 0;
+    for (const JournalRecord& record : *records) {
+        const auto* const content = std::get_if<record::Content>(&record);
+        if (content == nullptr || !sizes.count(ExtractFilename(content->path)))
+            continue;
+        ++found;
+        EXPECT_EQ(content->size, sizes.at(ExtractFilename(content->path)));
+        EXPECT_EQ(content->digest, DigestText(DigestOfFile(memory.files, content->path)));
+        EXPECT_TRUE(memory.files.Get(content->path) == Bytes(content->size)) << content->path;
+    }
+    EXPECT_EQ(found, sizes.size());
+}
+
+// The disk is full in the middle of a file that is written while the next piece is unpacked.
+TEST_F(LargeFilesTest, AreTakenBackFromAFullDisk)
+{
+    AddFile("stor.dat", "%DESTDIR", Bytes(3'000'001));
+    const MachineState before = State();
+    int failures = 0;
+    for (const int write : {3, 8, 20}) {
+        memory.files.FailFromWrite(write, ErrorNumber::kDiskFull);
+        failures += Install() == ExitCode::DiskFull ? 1 : 0;
+        memory.files.FailFromWrite(1000000, 0);
+        EXPECT_TRUE(State() == before) << write;
+    }
+    EXPECT_EQ(failures, 3);
+    EXPECT_EQ(Install(), ExitCode::Done);
+}
 
 class CopyOptionsTest : public test::SetupFixture {
 protected:

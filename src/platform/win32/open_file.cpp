@@ -12,12 +12,14 @@ namespace {
 // One call never moves more, so that its length fits a DWORD and a network drive takes it.
 constexpr std::size_t kMaxChunkSize = 1024 * 1024;
 
-OVERLAPPED At(std::uint64_t position)
+// Where the file then is.
+std::uint64_t MoveTo(HANDLE file, std::uint64_t distance, DWORD origin, const Text& path)
 {
-    OVERLAPPED place{};
-    place.Offset = static_cast<DWORD>(position);
-    place.OffsetHigh = static_cast<DWORD>(position >> 32U);
-    return place;
+    LARGE_INTEGER place;
+    place.QuadPart = static_cast<LONGLONG>(distance);
+    if (!SetFilePointerEx(file, place, &place, origin))
+        FailAsWindowsSays(path);
+    return static_cast<std::uint64_t>(place.QuadPart);
 }
 
 } // namespace
@@ -33,28 +35,27 @@ bool FileHandle::Close()
 }
 
 WinInputFile::WinInputFile(FileHandle file, Text path)
-    : file_(std::move(file)), path_(std::move(path))
+    : file_(std::move(file)), path_(std::move(path)), size_(MoveTo(file_.Get(), 0, FILE_END, path_))
 {
-    LARGE_INTEGER size{};
-    if (!GetFileSizeEx(file_.Get(), &size))
-        FailAsWindowsSays(path_);
-    size_ = static_cast<std::uint64_t>(size.QuadPart);
+    MoveTo(file_.Get(), 0, FILE_BEGIN, path_);
+}
+
+void WinInputFile::Seek(std::uint64_t position)
+{
+    MoveTo(file_.Get(), position, FILE_BEGIN, path_);
 }
 
 std::size_t WinInputFile::Read(std::span<std::byte> buffer)
 {
     std::size_t filled = 0;
     while (filled < buffer.size()) {
-        OVERLAPPED place = At(position_);
         const auto wanted = static_cast<DWORD>(std::min(buffer.size() - filled, kMaxChunkSize));
         DWORD count = 0;
-        if (!ReadFile(file_.Get(), buffer.data() + filled, wanted, &count, &place) &&
-            GetLastError() != ERROR_HANDLE_EOF)
+        if (!ReadFile(file_.Get(), buffer.data() + filled, wanted, &count, nullptr))
             FailAsWindowsSays(path_);
         if (count == 0)
             break;
         filled += count;
-        position_ += count;
     }
     return filled;
 }
@@ -64,26 +65,29 @@ WinOutputFile::WinOutputFile(FileHandle file, Text path)
 {
 }
 
+// At the file's own place: Wine reports the end of each call that names one to its server.
 void WinOutputFile::Write(std::span<const std::byte> bytes)
 {
-    WriteAt(position_, bytes);
-    position_ += bytes.size();
+    while (!bytes.empty()) {
+        const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMaxChunkSize));
+        DWORD count = 0;
+        const bool isWritten = WriteFile(file_.Get(), bytes.data(), wanted, &count, nullptr) != 0;
+        // Some disks say that they are full by taking less, and call that a success.
+        if (isWritten && count == 0)
+            SetLastError(ERROR_DISK_FULL);
+        if (!isWritten || count == 0)
+            FailAsWindowsSays(path_);
+        bytes = bytes.subspan(count);
+        position_ += count;
+    }
 }
 
 void WinOutputFile::WriteAt(std::uint64_t position, std::span<const std::byte> bytes)
 {
-    while (!bytes.empty()) {
-        OVERLAPPED place = At(position);
-        const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMaxChunkSize));
-        DWORD count = 0;
-        if (!WriteFile(file_.Get(), bytes.data(), wanted, &count, &place))
-            FailAsWindowsSays(path_);
-        // Some disks say that they are full by taking less, and call that a success.
-        if (count == 0)
-            throw RunError(ErrorNumber::kDiskFull, path_);
-        bytes = bytes.subspan(count);
-        position += count;
-    }
+    MoveTo(file_.Get(), position, FILE_BEGIN, path_);
+    Write(bytes);
+    position_ -= bytes.size();
+    MoveTo(file_.Get(), position_, FILE_BEGIN, path_);
 }
 
 void WinOutputFile::Flush()

@@ -30,14 +30,13 @@ public:
     WinInputFile(FileHandle file, Text path);
 
     std::size_t Read(std::span<std::byte> buffer) override;
-    void Seek(std::uint64_t position) override { position_ = position; }
+    void Seek(std::uint64_t position) override;
     std::uint64_t Size() const override { return size_; }
 
 private:
     FileHandle file_;
     Text path_;
     std::uint64_t size_ = 0;
-    std::uint64_t position_ = 0;
 };
 
 class WinOutputFile : public OutputFile {

@@ -1,9 +1,12 @@
 // platform_check FOLDER LOG: tries the Windows side of src/platform on an empty folder. What fails
 // is written to the log, a line each; the exit code is the number of failures.
+#include "helpers/sha256.h"
+#include "helpers/sha256_instructions.h"
 #include "helpers/windows_path.h"
 #include "platform/crypto.h"
 #include "platform/run_error.h"
 #include "platform/saved_file.h"
+#include "platform/second_thread.h"
 #include "platform/whole_file.h"
 #include "platform/win32/locked_folder.h"
 #include "platform/win32/registry_key.h"
@@ -111,6 +114,56 @@ void CheckCrypto(Checks& checks)
     checks.Expect(Hex(encrypted) == one + one, "two blocks");
     encryptor.EncryptBlocks(blocks, blocks);
     checks.Expect(Hex(blocks) == one + one, "two blocks in place");
+}
+
+// The second example of FIPS 180-2. What computes it is the program's own choice, so the
+// processor's instructions are held against plain code as well.
+void CheckDigests(Checks& checks)
+{
+    Sha256 hash;
+    hash.Add(BytesOf("abc"));
+    checks.Expect(Hex(hash.Finish()) ==
+                      "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad",
+                  "a digest");
+    std::vector<std::byte> bytes(37 * kSha256BlockSize);
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<std::byte>(i * i % 251);
+    Sha256State plain{1, 2, 3, 4, 5, 6, 7, 8};
+    Sha256State fast = plain;
+    MixSha256Portably(plain, bytes);
+    if (HasSha256Instructions())
+        MixSha256ByInstructions(fast, bytes);
+    else
+        MixSha256OfProgram(fast, bytes);
+    checks.Expect(plain == fast, "a digest by the processor's instructions");
+}
+
+void CheckSecondThread(Checks& checks)
+{
+    SecondThread thread;
+    DWORD worker = 0;
+    thread.Start([&] { worker = GetCurrentThreadId(); });
+    thread.Wait();
+    checks.Expect(worker != 0 && worker != GetCurrentThreadId(), "a thread of its own");
+    unsigned sum = 0;
+    for (unsigned i = 1; i <= 10000; ++i)
+        thread.Start([&sum, i] { sum += i; });
+    thread.Wait();
+    checks.Expect(sum == 50005000, "each work after the one before");
+    const auto fail = [] { throw RunError(ErrorNumber::kDiskFull, "C:\\a.txt"); };
+    thread.Start(fail);
+    checks.ExpectFailure(
+        ErrorNumber::kDiskFull, [&] { thread.Wait(); }, "a failure of the other thread");
+    thread.Start(fail);
+    thread.Abandon();
+    checks.ExpectFailure(
+        ErrorNumber::kNone, [&] { thread.Wait(); }, "a failure that was dropped");
+    bool isDone = false;
+    {
+        SecondThread ending;
+        ending.Start([&] { isDone = true; });
+    }
+    checks.Expect(isDone, "the work is done before the thread ends");
 }
 
 void CheckReadingAndWriting(Checks& checks, WinFiles& files, const Text& folder)
@@ -345,6 +398,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
     const Text folder = Narrow(arguments[1]);
     try {
         CheckCrypto(checks);
+        CheckDigests(checks);
+        CheckSecondThread(checks);
         CheckReadingAndWriting(checks, files, folder);
         CheckSaving(checks, files, folder);
         CheckFacts(checks, files, folder);
