@@ -85,6 +85,7 @@ void Installation::DoEverything()
     for (const Text& folder : input_.plan.folders)
         changes_.MakeFolder(folder);
     files_.InstallAll();
+    input_.ask.ProcessEvents();
     input_.ask.AddStatusLine(input_.texts[Message::Settings]);
     WriteRegistry();
     WriteIniFiles({input_.host.files, changes_, record_, input_.log}, input_.plan.ini);
@@ -100,6 +101,8 @@ void Installation::DoEverything()
     RegisterAtRestart();
     RemoveOldFiles({input_.host, input_.target, changes_, record_, input_.log, input_.plan},
                    earlierRecords_, contents_);
+    // The last moment at which the user can cancel.
+    input_.ask.ProcessEvents();
     SaveRecord();
     changes_.Commit();
 }
@@ -221,6 +224,7 @@ void Installation::RegisterFiles()
 
 void Installation::RegisterOne(const Text& path)
 {
+    input_.ask.ProcessEvents();
     switch (changes_.RegisterServer(path)) {
     case Registration::Done:
         input_.log.Line(Message::LogRegisters, path);

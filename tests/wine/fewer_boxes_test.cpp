@@ -110,7 +110,7 @@ TEST_F(PagesWithFewer, WaysToCancelStillLetAnAgreementBeDeclined)
 TEST_F(PagesWithFewer, WaysToCancelAreThereOtherwise)
 {
     const std::string log =
-        Drive("", kPages + "buttons\nprogress\ncontrols\nclose\nbox 6\nbox 6\nend\n");
+        Drive("", kPages + "buttons\nprogress\ncontrols\nclose\nbox 7\nbox 6\nend\n");
     EXPECT_THAT(log, HasSubstr("Button 2 tab Avbryt\n"));
     EXPECT_THAT(log,
                 testing::EndsWith(kQuestion +

@@ -5,6 +5,7 @@
 #include "wine/driven_setup.h"
 #include "wine/folder_state.h"
 #include "wine/package.h"
+#include "wine/page_script.h"
 #include "wine/registry_text.h"
 #include "wine/sample_product.h"
 #include "wine/virtual_display.h"
@@ -23,67 +24,6 @@ using testing::HasSubstr;
 using testing::Not;
 
 constexpr const char* kTitle = "Installation av Provpaket Åäö";
-constexpr int kNext = 1;
-constexpr int kCancel = 2;
-constexpr int kBack = 3;
-constexpr int kYes = 6;
-constexpr int kNo = 7;
-constexpr int kEnter = 13;
-constexpr int kEscape = 27;
-constexpr int kSpace = 32;
-constexpr int kDown = 40;
-
-int IdOf(PageField field)
-{
-    return 100 + static_cast<int>(field);
-}
-
-/// The lines of a script, as `drive_setup` takes them.
-class Script {
-public:
-    Script& Page(const std::string& title) { return Add("page " + title); }
-    Script& Press(int id) { return Add("press " + std::to_string(id)); }
-    Script& Press(PageField field) { return Press(IdOf(field)); }
-    Script& Next() { return Press(kNext); }
-    Script& Back() { return Press(kBack); }
-    Script& Type(PageField field, const std::string& text)
-    {
-        return Add("type " + std::to_string(IdOf(field)) + " " + text);
-    }
-    Script& Choose(PageField field, int row)
-    {
-        return Add("choose " + std::to_string(IdOf(field)) + " " + std::to_string(row));
-    }
-    Script& Key(int id, int code)
-    {
-        return Add("key " + std::to_string(id) + " " + std::to_string(code));
-    }
-    Script& Read(PageField field) { return Add("read " + std::to_string(IdOf(field))); }
-    Script& Await(PageField field, const std::string& text)
-    {
-        return Add("await " + std::to_string(IdOf(field)) + " " + text);
-    }
-    Script& Box(int button) { return Add("box " + std::to_string(button)); }
-    Script& Controls() { return Add("controls"); }
-    Script& Close() { return Add("close"); }
-    Script& Shoot(const fs::path& bitmap) { return Add("shot " + OnZ(bitmap)); }
-    /// Runs another program to its end and logs its code.
-    Script& Run(const std::string& command) { return Add("other " + command); }
-    Script& Screen() { return Add("screen"); }
-    Script& Escape() { return Add("escape"); }
-    Script& End() { return Add("end"); }
-
-    std::string Text(const std::string& command) const { return "run " + command + "\n" + lines_; }
-
-private:
-    Script& Add(const std::string& line)
-    {
-        lines_ += line + "\n";
-        return *this;
-    }
-
-    std::string lines_;
-};
 
 /// A product with every page but those that exclude each other.
 SampleProduct WithAllPages()
@@ -271,15 +211,19 @@ TEST_F(SetupPages, OfATestInstallNothing)
     UseNoScreen();
     SampleProduct product;
     product.project.DialogBoxes.LicenseInfoRtfDlg = 1;
+    product.project.DialogBoxData.LicenseFilenameRtf = "S:\\avtal.rtf";
+    WriteBytes(product.Drive() / "avtal.rtf", R"({\rtf1\ansi Det h\'e4r \'e4r {\b avtalet}.})");
     product.project.DialogBoxes.DestinationDlg = 0;
     product.project.DialogBoxes.DestinationDriveDlg = 1;
     const fs::path folder = MakeTestRun(product, "provkörning");
     const FolderState before = StateOf(prefix.DriveC() / "Program Files");
     Script script;
-    script.Page("Välkommen").Next().Page("Licensinformation").Next();
+    script.Page("Välkommen").Next();
+    script.Page("Licensinformation").Read(PageField::Agreement).Next();
     script.Page("Enhet").Next().Page("Komponenter").Next().Box(kCancel);
     script.Page("Installationen avslutad").Press(kNext).End();
     EXPECT_EQ(Drive(script, "\"" + OnZ(folder / "Qns32x.exe") + "\" /TEST"),
+              "Det här är avtalet.\n"
               "Test av Provpaket Åäö: Det här är ett test. Ingenting installeras.\ncode 0\n");
     EXPECT_EQ(FolderDifference(before, StateOf(prefix.DriveC() / "Program Files")), "");
 }
@@ -371,7 +315,7 @@ TEST_P(SetupPictures, AreTakenOfEveryPage)
          {PageKind::Welcome, PageKind::GeneralInfo, PageKind::GeneralInfo2, PageKind::LicenseInfo,
           PageKind::Password, PageKind::NameCompany, PageKind::Destination, PageKind::Components,
           PageKind::ProgramGroup, PageKind::StartInstall, PageKind::InstallCompleted}) {
-        script.Page(TitleOf(product, kind, texts));
+        script.Page(TitleOf(product, kind, texts)).Clipped();
         script.Shoot(shots / (std::to_string(++number) + ".bmp"));
         if (kind == PageKind::Password)
             script.Type(PageField::Password, "Hemligt");
