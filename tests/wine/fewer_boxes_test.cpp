@@ -121,6 +121,29 @@ TEST_F(PagesWithFewer, WaysToCancelAreThereOtherwise)
     EXPECT_EQ(Asked(), "gammal");
 }
 
+// Its list is no box: it is the question whether to begin.
+TEST_F(PagesWithFewer, BoxesAreLeftOutByTheUninstallerToo)
+{
+    const fs::path main = prefix.OnHost("C:\\Program Files\\Provpaket Åäö");
+    fs::remove_all(main); // what was there before would stay
+    const std::string uninstaller = "C:\\Program Files\\Provpaket Åäö\\QNXUNIN.EXE";
+    const std::string remove =
+        "\nlist Vill du ta bort Provpaket Åäö från datorn? Det här tas bort:\npress 1\n";
+    package = MakePackage(product.Order({"--medium", "cd"}));
+    const auto uninstall = [&](const std::string& switches, const std::string& end) {
+        EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
+        const std::string log =
+            DriveSetup(prefix, "run \"" + uninstaller + "\"" + switches + remove + end);
+        prefix.WaitForAll();
+        EXPECT_FALSE(fs::exists(main));
+        return log;
+    };
+    EXPECT_EQ(uninstall(" /SUPPRESSMSGBOXES", "end\n"), "code 0\n");
+    EXPECT_THAT(
+        uninstall("", "box 2\nend\n"),
+        testing::AllOf(HasSubstr("Provpaket Åäö har tagits bort"), testing::EndsWith("code 0\n")));
+}
+
 TEST(HangingSound, HoldsNothingUp)
 {
     const WinePrefix prefix;

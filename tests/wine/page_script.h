@@ -44,6 +44,7 @@ public:
         return Add("key " + std::to_string(id) + " " + std::to_string(code));
     }
     Script& Read(PageField field) { return Add("read " + std::to_string(IdOf(field))); }
+    Script& Margin(PageField field) { return Add("margin " + std::to_string(IdOf(field))); }
     Script& Await(PageField field, const std::string& text)
     {
         return Add("await " + std::to_string(IdOf(field)) + " " + text);

@@ -182,6 +182,12 @@ HWND PageControls::AddRichPaper(const PagePiece& piece, const PlacedPiece& place
     LoadFromSystemFolder("riched20.dll");
     const HWND made = Add(RICHEDIT_CLASSW, {}, kReadOnlyText, place.field, ControlId(piece.field),
                           WS_EX_CLIENTEDGE);
+    // Unlike a plain field, this one would begin its lines at its very edge.
+    RECT inside{};
+    GetClientRect(made, &inside);
+    const int margin = static_cast<int>(4 * letters_.UnitAcross());
+    InflateRect(&inside, -margin, -margin);
+    SendMessageW(made, EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inside));
     SendMessageW(made, EM_EXLIMITTEXT, 0, static_cast<LPARAM>(piece.text.size()) + 1);
     RtfSource source{piece.text};
     EDITSTREAM stream{};

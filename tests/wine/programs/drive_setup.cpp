@@ -14,6 +14,7 @@
 //   choose ID ROW        chooses the row of a list
 //   key ID CODE          presses the key in the control
 //   read ID              logs the text of the control
+//   margin ID            logs whether the text of a field stays away from its edges
 //   await ID TEXT        waits until the control has that text
 //   controls             logs kind, id and text of each control, in the order of the Tab key
 //   unpacking TITLE      waits for the message of a self-extracting program; then it is the page
@@ -204,6 +205,8 @@ private:
             return Await(control, Wide(value));
         if (verb == "position")
             return LogPosition(id);
+        if (verb == "margin")
+            return LogMargin(control);
         if (verb != "read")
             return false;
         log_ += OneLine(TextOf(control)) + "\n";
@@ -232,6 +235,17 @@ private:
     {
         for (const HWND control : ClippedControls(page_))
             log_ += "clipped " + OneLine(KindOf(control)) + " " + OneLine(TextOf(control)) + "\n";
+        return true;
+    }
+
+    bool LogMargin(HWND control)
+    {
+        RECT inside{};
+        RECT text{};
+        GetClientRect(control, &inside);
+        SendMessageW(control, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&text));
+        const bool isAway = text.left >= 4 && text.top >= 4 && text.right <= inside.right - 4;
+        log_ += isAway ? "margin\n" : "no margin\n";
         return true;
     }
 
