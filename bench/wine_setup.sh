@@ -33,19 +33,19 @@ processes() {
         | sed 's/environ$/cmdline/' | { xargs -r grep -lE "$1" 2>/dev/null || true; } | cut -d / -f 3
 }
 
-# make_package PROJECT PACKAGE: with the programs for this Wine, listed as Create lists them.
+# make_package PROJECT PACKAGE [--small]: with the programs for this Wine, listed as Create lists them.
 make_package() {
     mkdir -p "$2"
-    "$quillonc" create "$1" --to "$2" --medium cd --continue >/dev/null
+    "$quillonc" create "$1" --to "$2" --medium cd --continue "${@:3}" >/dev/null
     [ "$bits" = 64 ] || return 0
     local name source
     while read -r name source; do
         [ ! -e "$2/$name" ] || cp "$programs/$source" "$2/$name"
-    done <<<'SETUP.EXE SETUP32.EXE
+    done <<<"SETUP.EXE SETUP32.EXE
 QNS32X.BIN Small32/QNS32X.EXE
-DUNZIP32.DLL DUNZIP32.DLL
+DUNZIP32.DLL ${3:+Solid/}DUNZIP32.DLL
 QNREG32.BIN QNREG32.EXE
 QNXREG2.BIN QNXREG2.EXE
-QNXUNIN.BIN QNXUNIN.EXE'
+QNXUNIN.BIN QNXUNIN.EXE"
     (cd "$2" && find . -type f ! -name PACKAGE.SHA256 -printf '%P\0' | xargs -0 sha256sum >PACKAGE.SHA256)
 }

@@ -8,6 +8,7 @@
 #include "runtime/planned_shortcuts.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace quillon {
 
@@ -32,16 +33,45 @@ Text FolderBelow(const Text& destination)
     return folder;
 }
 
-Text FreePath(const FileSystem& files, const Text& path, const InstallRow& row)
-{
-    return files.FileExists(path) || files.DirExists(path) ? path + "." + NumberText(row.number)
-                                                           : path;
-}
-
 void MakeFolder(FileSystem& files, const Text& folder)
 {
     if (!files.DirCreate(folder))
         throw RunError(ErrorNumber::kPathNotFound, folder);
+}
+
+struct ExtractedFile {
+    const InstallRow* row;
+    Text path;
+};
+
+// Makes the folders, and gives the files their names, in the order of the rows.
+std::vector<ExtractedFile> LayOut(const ExtractInput& input)
+{
+    std::vector<ExtractedFile> files;
+    std::unordered_set<Text> taken; // in lower case
+    for (const InstallRow& row : input.rows) {
+        const Text path = JoinPath(input.folder, ExtractedPath(row));
+        if (IsEmptyFolderRow(row)) {
+            MakeFolder(input.files, path);
+            continue;
+        }
+        if (!input.package.HasBytes(row)) {
+            input.log.Skipped(path, {Message::SkipNoSource});
+            continue;
+        }
+        MakeFolder(input.files, ExtractDirectory(path));
+        const bool isFree = !input.files.DirExists(path) && taken.insert(LowerCase(path)).second;
+        files.push_back({&row, isFree ? path : path + "." + NumberText(row.number)});
+    }
+    return files;
+}
+
+// A solid container is unpacked from its beginning to its end; going back costs a frame each time.
+void PutInOrder(std::vector<ExtractedFile>& files, const PackageReader& package)
+{
+    std::stable_sort(files.begin(), files.end(), [&](const auto& a, const auto& b) {
+        return package.Position(*a.row) < package.Position(*b.row);
+    });
 }
 
 } // namespace
@@ -65,28 +95,19 @@ void ExtractPackage(const ExtractInput& input)
     std::uint64_t done = 0;
     for (const InstallRow& row : input.rows)
         total += row.size;
-    for (const InstallRow& row : input.rows) {
-        const Text path = JoinPath(input.folder, ExtractedPath(row));
-        if (IsEmptyFolderRow(row)) {
-            MakeFolder(files, path);
-            continue;
-        }
-        if (!input.package.HasBytes(row)) {
-            input.log.Skipped(path, {Message::SkipNoSource});
-            continue;
-        }
-        MakeFolder(files, ExtractDirectory(path));
-        const Text free = FreePath(files, path, row);
-        const auto output = files.OpenOutput(free);
-        input.package.Extract(row, [&](std::span<const std::byte> bytes) {
+    std::vector<ExtractedFile> extracted = LayOut(input);
+    PutInOrder(extracted, input.package);
+    for (const auto& [row, path] : extracted) {
+        const auto output = files.OpenOutput(path);
+        input.package.Extract(*row, [&](std::span<const std::byte> bytes) {
             output->Write(bytes);
             done += bytes.size();
             input.ask.ShowProgress(done, total);
             input.ask.ProcessEvents();
         });
         output->Close();
-        files.SetModified(free, input.package.Modified(row));
-        input.log.Line(Message::LogCopies, free);
+        files.SetModified(path, input.package.Modified(*row));
+        input.log.Line(Message::LogCopies, path);
     }
 }
 

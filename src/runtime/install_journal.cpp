@@ -11,6 +11,7 @@ namespace quillon {
 namespace {
 
 constexpr const char* kFirstLine = "Quillon installationslogg 2";
+constexpr std::size_t kPieceSize = 64 * 1024;
 constexpr const char* kFirstLineOfFormat1 = "Quillon installationslogg 1";
 
 // Format 1 kept an INI file's former value without the line that it stood in.
@@ -66,25 +67,33 @@ std::optional<Text> ProductOfJournal(const FileSystem& files, const Text& path)
     return std::nullopt;
 }
 
+// In pieces, since the largest packages make it several megabytes long.
 void InstallJournal::Save(FileSystem& files, const Text& path) const
 {
-    Text bytes = kFirstLine + Text(kLineBreak);
-    for (const JournalRecord& record : records_)
-        bytes += JournalLine(record) + Text(kLineBreak);
-    WriteWholeFile(files, path, bytes);
+    const auto file = files.OpenOutput(path);
+    Text lines = kFirstLine + Text(kLineBreak);
+    for (const JournalRecord& record : records_) {
+        if (lines.size() >= kPieceSize) {
+            file->Write(std::as_bytes(std::span(lines)));
+            lines.clear();
+        }
+        lines += JournalLine(record) + Text(kLineBreak);
+    }
+    file->Write(std::as_bytes(std::span(lines)));
+    file->Close();
 }
 
 void InstallJournal::Add(JournalRecord record)
 {
     NotePlace(record);
-    index_.insert(IndexOf(record));
+    AddToIndex(record);
     records_.push_back(std::move(record));
 }
 
 void InstallJournal::TakeOver(std::vector<JournalRecord> earlier)
 {
     for (const JournalRecord& record : earlier)
-        index_.insert(IndexOf(record));
+        AddToIndex(record);
     records_.insert(records_.begin(), std::make_move_iterator(earlier.begin()),
                     std::make_move_iterator(earlier.end()));
 }
@@ -111,6 +120,13 @@ void InstallJournal::NotePlace(const JournalRecord& record)
     const Text folder = ExtractDirectory(SubjectOf(record));
     if (!Has<record::Folder>(folder) && !Has<record::Place>(folder))
         Add(record::Place{folder});
+}
+
+// One of each file, which nobody looks for by its path.
+void InstallJournal::AddToIndex(const JournalRecord& record)
+{
+    if (!std::holds_alternative<record::Content>(record))
+        index_.insert(IndexOf(record));
 }
 
 Text InstallJournal::IndexOf(const JournalRecord& record)

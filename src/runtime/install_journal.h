@@ -6,7 +6,9 @@
 #include "platform/file_system.h"
 #include "runtime/journal_records.h"
 
+#include <deque>
 #include <set>
+#include <type_traits>
 #include <unordered_set>
 #include <vector>
 
@@ -32,19 +34,22 @@ public:
     template <class Record>
     bool Has(std::string_view path) const
     {
+        static_assert(!std::is_same_v<Record, record::Content>, "is not in the index");
         return index_.count(IndexOf(Record{Text(path)})) > 0;
     }
     /// Everything about these files, by their paths in lower case.
     void Forget(const std::set<Text>& paths);
-    const std::vector<JournalRecord>& Records() const { return records_; }
+    const std::deque<JournalRecord>& Records() const { return records_; }
     /// They precede all others.
     void TakeOver(std::vector<JournalRecord> earlier);
 
 private:
     void NotePlace(const JournalRecord& record);
+    void AddToIndex(const JournalRecord& record);
     static Text IndexOf(const JournalRecord& record);
 
-    std::vector<JournalRecord> records_;
+    // Some hundred bytes for each file, which never move: a vector that grows holds them twice.
+    std::deque<JournalRecord> records_;
     std::unordered_set<Text> index_; // kinds and subjects, in lower case
 };
 

@@ -132,4 +132,10 @@ void JsonLog::End(ExitCode code, bool needsRestart, std::string_view error)
     CloseFile(std::move(result_));
 }
 
+void WriteResult(FileSystem& files, const Machine& machine, const Text& path, ExitCode code,
+                 std::string_view error)
+{
+    RunErrorNumber([&] { JsonLog(files, machine, {{}, {}, path}).End(code, false, error); });
+}
+
 } // namespace quillon

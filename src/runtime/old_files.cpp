@@ -38,7 +38,7 @@ private:
     const OldFilesWork& work_;
     const FileSystem& files_;
     const KnownContents& contents_;
-    const std::vector<JournalRecord>& records_;
+    const std::deque<JournalRecord>& records_;
     const std::size_t earlier_;
     std::set<Text> written_;       // by this installation; all in lower case
     std::set<Text> wanted_;        // rows of the new version, installed or not

@@ -150,9 +150,15 @@ ExitCode SetupProgram::Run()
 
 void SetupProgram::OpenLog()
 {
-    log_ = ActionLog(input_.host.files, input_.host.machine,
-                     LogFilesOf(input_.switches, input_.host.files, input_.host.machine, "QNSETUP"),
-                     texts_);
+    FileSystem& files = input_.host.files;
+    const Machine& machine = input_.host.machine;
+    const LogFiles paths = LogFilesOf(input_.switches, files, machine, "QNSETUP");
+    try {
+        log_ = ActionLog(files, machine, paths, texts_);
+    } catch (const RunError&) { // the result at least can tell why
+        RunErrorNumber([&] { log_ = ActionLog(files, machine, {{}, {}, paths.result}, texts_); });
+        throw;
+    }
     log_.Line(Message::LogBegins, package_.setup.project.ProjectName.ProjectName,
               input_.switches.packageFolder);
 }

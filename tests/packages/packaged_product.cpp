@@ -139,10 +139,15 @@ void ListAgain(PackageFiles& files)
 
 InstalledProduct InstallProduct(const PackageFiles& files, const Text& password)
 {
+    return RunProduct(files, password.empty() ? "/S" : "/S /PASSWORD=" + password);
+}
+
+InstalledProduct RunProduct(const PackageFiles& files, const Text& given)
+{
     Machine machine;
     PutFiles(machine.memory.files, files);
     const LoadedPackage package = LoadPackage(machine.memory.files, kPackage);
-    Switches switches = ReadSwitches(password.empty() ? "/S" : "/S /PASSWORD=" + password);
+    Switches switches = ReadSwitches(given);
     switches.packageFolder = kPackage;
     switches.logFile = kLog;
     SilentAsk ask;

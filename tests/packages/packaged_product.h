@@ -40,6 +40,9 @@ struct InstalledProduct {
 /// Installs without a question on a machine that is always the same.
 InstalledProduct InstallProduct(const PackageFiles& files, const Text& password = {});
 
+/// The same with these switches.
+InstalledProduct RunProduct(const PackageFiles& files, const Text& switches);
+
 /// What that machine holds before.
 std::map<Text, std::string> EmptyMachine();
 

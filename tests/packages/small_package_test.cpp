@@ -75,6 +75,28 @@ TEST(SmallPackage, LetsTheLaterOfTwoRowsForOnePlaceDecide)
     EXPECT_THAT(contents, ElementsAre("second"));
 }
 
+TEST(SmallPackage, IsUnpackedInTheOrderOfItsContainer)
+{
+    CreateDesk desk;
+    desk.project.Files.rows.clear();
+    // The container has them the other way round.
+    desk.AddFile("c.txt", "third")[Filename] = "same.txt";
+    desk.AddFile("b.txt", "second");
+    desk.AddFile("a.txt", "first")[Filename] = "Same.txt";
+    const InstalledProduct product = RunProduct(PackageOf(desk), "/S /extract:C:\\Ut");
+    EXPECT_EQ(product.code, ExitCode::Done) << product.log;
+    // The names are still given in the order of the rows.
+    EXPECT_EQ(product.machine.at("c:\\ut\\same.txt"), "third");
+    EXPECT_EQ(product.machine.at("c:\\ut\\same.txt.3"), "first");
+    EXPECT_EQ(product.machine.at("c:\\ut\\b.txt"), "second");
+    const std::size_t first = product.log.find("C:\\Ut\\Same.txt.3");
+    const std::size_t second = product.log.find("C:\\Ut\\b.txt");
+    const std::size_t third = product.log.find("C:\\Ut\\same.txt\r");
+    ASSERT_NE(third, Text::npos) << product.log;
+    EXPECT_LT(first, second) << product.log;
+    EXPECT_LT(second, third) << product.log;
+}
+
 TEST(SmallPackage, IsWholeForWhoeverVerifiesIt)
 {
     EXPECT_THAT(VerifyProduct(MakeProductPackage(kSmall)), IsEmpty());

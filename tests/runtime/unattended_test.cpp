@@ -296,9 +296,26 @@ TEST_F(UnattendedTest, TellsTheResultOfWhatFailsToo)
         EXPECT_EQ(last["result"], one.result);
         EXPECT_NE(last["error"], "");
     }
+    EXPECT_EQ(RunInVain("/S /LOG=Q:\\borta\\l.txt /RESULT=L:\\r.json"), ExitCode::Failed);
+    EXPECT_EQ(Records("L:\\r.json").at(0)["code"], 1603);
+    EXPECT_THAT(Text(Records("L:\\r.json").at(0)["error"]), HasSubstr("Q:\\borta\\l.txt"));
     otherSetupRuns = true;
     EXPECT_EQ(RunInVain("/S /RESULT=L:\\r.json"), ExitCode::OtherSetupRuns);
     EXPECT_EQ(Records("L:\\r.json").at(0)["result"], "another setup runs");
+}
+
+TEST_F(UnattendedTest, TellsItsResultEvenBeforeItHasALog)
+{
+    WriteResult(memory.files, memory.machine, "L:\\r.json", ExitCode::Failed, "ingen mapp");
+    const json last = Records("L:\\r.json").at(0);
+    EXPECT_EQ(last["action"], "result");
+    EXPECT_EQ(last["result"], "failed");
+    EXPECT_EQ(last["code"], 1603);
+    EXPECT_EQ(last["error"], "ingen mapp");
+    // Nobody asked for one, and one that can't be written.
+    WriteResult(memory.files, memory.machine, {}, ExitCode::Failed, "ingen mapp");
+    WriteResult(memory.files, memory.machine, "Q:\\borta\\r.json", ExitCode::Failed, "x");
+    EXPECT_FALSE(memory.files.FileExists("Q:\\borta\\r.json"));
 }
 
 TEST_F(UnattendedTest, NamesNoPasswordAnywhere)

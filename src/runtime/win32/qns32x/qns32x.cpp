@@ -9,6 +9,7 @@
 #include "platform/win32/win_machine.h"
 #include "runtime/answer_file.h"
 #include "runtime/failure_reason.h"
+#include "runtime/json_log.h"
 #include "runtime/pages/design_files.h"
 #include "runtime/passive_ask.h"
 #include "runtime/setup_program.h"
@@ -187,11 +188,11 @@ int RunSetupProgram(HINSTANCE instance, const Text& line)
         code = RunOnWindows(instance, switches, texts);
     } catch (const std::exception& error) {
         // Nothing was changed: what an installation does is undone before a failure comes here.
+        const Text text = texts(Message::Failed, FailureReason(error, texts));
+        WinFiles files;
+        WriteResult(files, WinMachine(), switches.resultFile, code, text);
         if (!switches.silent)
-            ShowMessageBox(nullptr,
-                           {"Quillon", texts(Message::Failed, FailureReason(error, texts)),
-                            MB_OK | MB_ICONSTOP},
-                           texts);
+            ShowMessageBox(nullptr, {"Quillon", text, MB_OK | MB_ICONSTOP}, texts);
     }
     // By now the setup has left nothing behind.
     if (code == ExitCode::RestartStarted && !RestartMachine())
