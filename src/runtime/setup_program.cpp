@@ -8,6 +8,7 @@
 #include "runtime/before_install.h"
 #include "runtime/copy_decision.h"
 #include "runtime/data_access.h"
+#include "runtime/earlier_runs.h"
 #include "runtime/extraction.h"
 #include "runtime/failure_reason.h"
 #include "runtime/files_in_use.h"
@@ -20,13 +21,10 @@
 #include "runtime/passive_ask.h"
 #include "runtime/plan_report.h"
 #include "runtime/restart.h"
-#include "runtime/rollback.h"
 #include "runtime/setup_checks.h"
 #include "runtime/setup_help.h"
 #include "runtime/start_uninstaller.h"
 #include "runtime/uninstall_entry.h"
-
-#include <set>
 
 namespace quillon {
 
@@ -53,7 +51,6 @@ private:
     void FindDestination();
     void LeadThroughPages();
     void KeepAnswers();
-    void FinishEarlier(const SetupVariables& variables);
     SetupVariables Variables() const;
     InstallPlan Plan(const SetupVariables& variables) const;
     PackageReader Reader();
@@ -194,26 +191,6 @@ void SetupProgram::FreeFilesInUse(const InstallPlan& plan)
         throw SetupFailure(ExitCode::Cancelled, {});
 }
 
-// An installation of the product that was ended from outside, to this folder or to another one.
-void SetupProgram::FinishEarlier(const SetupVariables& variables)
-{
-    const std::string_view mainFolder = NameOf(VariableMeaning::MainFolder);
-    const InstallScope scope = input_.switches.scope;
-    const SetupVariables usual = MakeSetupVariables(
-        {package_.setup, input_.host, input_.target, input_.switches.packageFolder, {}, scope});
-    std::set<Text> folders{variables.Value(mainFolder), usual.Value(mainFolder)};
-    const auto installed = input_.target.ReadValue(
-        UninstallEntryKey(package_.setup.project.ProjectName.ProjectName, scope),
-        "InstallLocation");
-    // Anything may stand in such a value.
-    if (const auto folder = installed ? TextOf(*installed) : std::nullopt;
-        folder && IsAbsolutePath(*folder))
-        folders.insert(*folder);
-    for (const Text& folder : folders)
-        if (FinishInterrupted({input_.host, input_.target, log_}, folder) == EarlierRun::Incomplete)
-            throw SetupFailure(ExitCode::Failed, texts_(Message::EarlierNotUndone, folder));
-}
-
 void SetupProgram::RunProgramBefore()
 {
     const SetupVariables variables = Variables();
@@ -292,7 +269,8 @@ InstallResult SetupProgram::InstallPackage()
     const SetupVariables variables = Variables();
     CheckFolder(Checked(), variables.Value(NameOf(VariableMeaning::MainFolder)));
     const InstallPlan plan = Plan(variables);
-    FinishEarlier(variables);
+    FinishEarlierRuns({input_.host, input_.target, log_, texts_, package_.setup, variables,
+                       input_.switches.packageFolder, input_.switches.scope});
     FileSystem& files = input_.host.files;
     KeepHelpers(files, input_.switches.packageFolder, input_.workFolder);
     CheckHelpers(files, input_.workFolder, plan, texts_);

@@ -1,0 +1,31 @@
+#include "runtime/earlier_runs.h"
+
+#include "helpers/windows_path.h"
+#include "runtime/exit_codes.h"
+#include "runtime/rollback.h"
+#include "runtime/uninstall_entry.h"
+
+#include <set>
+
+namespace quillon {
+
+void FinishEarlierRuns(const EarlierRunsInput& input)
+{
+    const std::string_view mainFolder = NameOf(VariableMeaning::MainFolder);
+    const SetupVariables usual = MakeSetupVariables(
+        {input.setup, input.host, input.target, input.packageFolder, {}, input.scope});
+    std::set<Text> folders{input.variables.Value(mainFolder), usual.Value(mainFolder)};
+    const auto installed = input.target.ReadValue(
+        UninstallEntryKey(input.setup.project.ProjectName.ProjectName, input.scope),
+        "InstallLocation");
+    // Anything may stand in such a value.
+    if (const auto folder = installed ? TextOf(*installed) : std::nullopt;
+        folder && IsAbsolutePath(*folder))
+        folders.insert(*folder);
+    for (const Text& folder : folders)
+        if (FinishInterrupted({input.host, input.target, input.log}, folder) ==
+            EarlierRun::Incomplete)
+            throw SetupFailure(ExitCode::Failed, input.texts(Message::EarlierNotUndone, folder));
+}
+
+} // namespace quillon
