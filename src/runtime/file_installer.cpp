@@ -57,6 +57,7 @@ void FileInstaller::InstallAll()
     for (const PlannedFile& file : input_.plan.files)
         total_ += file.row->size;
     const std::vector<PlannedFile>& files = input_.plan.files;
+    changes_.ExpectFiles(files.size());
     std::vector<Outcome> outcomes(files.size());
     for (const std::size_t number : InstallOrder(files, input_.package))
         outcomes[number] = InstallOne(files[number]);

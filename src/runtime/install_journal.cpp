@@ -34,6 +34,11 @@ bool IsOfInstalledFile(const JournalRecord& record)
         record);
 }
 
+Text LineOf(const JournalRecord& record)
+{
+    return JournalLine(record) + Text(kLineBreak);
+}
+
 } // namespace
 
 std::optional<std::vector<JournalRecord>> ReadInstallJournal(std::string_view bytes)
@@ -72,28 +77,42 @@ void InstallJournal::Save(FileSystem& files, const Text& path) const
 {
     const auto file = files.OpenOutput(path);
     Text lines = kFirstLine + Text(kLineBreak);
-    for (const JournalRecord& record : records_) {
-        if (lines.size() >= kPieceSize) {
+    const auto add = [&](const Text& more) {
+        if (lines.size() + more.size() > kPieceSize) {
             file->Write(std::as_bytes(std::span(lines)));
             lines.clear();
         }
-        lines += JournalLine(record) + Text(kLineBreak);
-    }
+        lines += more;
+    };
+    for (const JournalRecord& record : records_)
+        add(LineOf(record));
+    for (const Text& piece : contents_)
+        add(piece);
     file->Write(std::as_bytes(std::span(lines)));
     file->Close();
 }
 
 void InstallJournal::Add(JournalRecord record)
 {
+    if (std::holds_alternative<record::Content>(record))
+        return AddContent(record);
     NotePlace(record);
-    AddToIndex(record);
+    index_.insert(IndexOf(record));
     records_.push_back(std::move(record));
+}
+
+// Nobody looks for one by its path, and as a line it takes a third of the memory.
+void InstallJournal::AddContent(const JournalRecord& content)
+{
+    if (contents_.empty() || contents_.back().size() >= kPieceSize)
+        contents_.emplace_back();
+    contents_.back() += LineOf(content);
 }
 
 void InstallJournal::TakeOver(std::vector<JournalRecord> earlier)
 {
     for (const JournalRecord& record : earlier)
-        AddToIndex(record);
+        index_.insert(IndexOf(record));
     records_.insert(records_.begin(), std::make_move_iterator(earlier.begin()),
                     std::make_move_iterator(earlier.end()));
 }
@@ -103,9 +122,8 @@ void InstallJournal::Forget(const std::set<Text>& paths)
     if (paths.empty())
         return;
     std::erase_if(records_, [&](const JournalRecord& record) {
-        const bool isAbout =
-            IsOneOf<record::File, record::Replaced, record::Backup, record::Content>(record) &&
-            paths.count(LowerCase(SubjectOf(record))) > 0;
+        const bool isAbout = IsOneOf<record::File, record::Replaced, record::Backup>(record) &&
+                             paths.count(LowerCase(SubjectOf(record))) > 0;
         if (isAbout)
             index_.erase(IndexOf(record));
         return isAbout;
@@ -120,13 +138,6 @@ void InstallJournal::NotePlace(const JournalRecord& record)
     const Text folder = ExtractDirectory(SubjectOf(record));
     if (!Has<record::Folder>(folder) && !Has<record::Place>(folder))
         Add(record::Place{folder});
-}
-
-// One of each file, which nobody looks for by its path.
-void InstallJournal::AddToIndex(const JournalRecord& record)
-{
-    if (!std::holds_alternative<record::Content>(record))
-        index_.insert(IndexOf(record));
 }
 
 Text InstallJournal::IndexOf(const JournalRecord& record)

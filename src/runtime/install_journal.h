@@ -34,22 +34,24 @@ public:
     template <class Record>
     bool Has(std::string_view path) const
     {
-        static_assert(!std::is_same_v<Record, record::Content>, "is not in the index");
+        static_assert(!std::is_same_v<Record, record::Content>, "is kept as a line");
         return index_.count(IndexOf(Record{Text(path)})) > 0;
     }
-    /// Everything about these files, by their paths in lower case.
+    /// Everything but contents about these files, by their paths in lower case.
     void Forget(const std::set<Text>& paths);
+    /// Without those of contents, which stand at the end of the file.
     const std::deque<JournalRecord>& Records() const { return records_; }
     /// They precede all others.
     void TakeOver(std::vector<JournalRecord> earlier);
 
 private:
     void NotePlace(const JournalRecord& record);
-    void AddToIndex(const JournalRecord& record);
+    void AddContent(const JournalRecord& content);
     static Text IndexOf(const JournalRecord& record);
 
     // Some hundred bytes for each file, which never move: a vector that grows holds them twice.
     std::deque<JournalRecord> records_;
+    std::deque<Text> contents_;      // lines, in pieces
     std::unordered_set<Text> index_; // kinds and subjects, in lower case
 };
 

@@ -30,6 +30,12 @@ void InstallTransaction::Begin(const Text& mainFolder, const Text& product)
     transaction_.Begin(mainFolder, product);
 }
 
+void InstallTransaction::ExpectFiles(std::size_t count)
+{
+    constexpr std::size_t kStepsBeside = 1024; // folders, values of the registry, shortcuts
+    transaction_.Expect(count + kStepsBeside);
+}
+
 void InstallTransaction::MakeFolder(const Text& folder)
 {
     if (folder.empty() || host_.files.DirExists(folder))

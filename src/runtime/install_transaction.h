@@ -29,6 +29,8 @@ public:
     /// Before the first change. Throws where another installation to the same folder is at work.
     void Begin(const Text& mainFolder, const Text& product);
 
+    /// So many files are to be put in their places.
+    void ExpectFiles(std::size_t count);
     /// With all missing folders above it.
     void MakeFolder(const Text& folder);
     /// A name under which a file for that place can be written before it is put there. Its folder

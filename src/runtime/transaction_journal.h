@@ -47,6 +47,9 @@ public:
     /// installation to the same folder is at work.
     void Begin(const Text& mainFolder, const Text& product);
     void Note(JournalRecord step);
+    /// About so many steps are still to come: where there are some ten thousand, growing bit by bit
+    /// would take twice their memory.
+    void Expect(std::size_t steps) { steps_.reserve(steps_.size() + steps); }
     /// A free name on the disk of `folder`, which exists, for a file of the transaction's own.
     Text TempPath(const Text& folder);
     /// Nothing is taken back from here on.

@@ -46,6 +46,30 @@ TEST(InstallJournal, IsReadAsItWasSaved)
     EXPECT_TRUE(std::ranges::equal(*read, log.Records()));
 }
 
+// Long enough for several pieces.
+TEST(InstallJournal, IsWholeHoweverLongItIs)
+{
+    test::MemoryHost host;
+    host.files.PutFolder("C:\\App");
+    InstallJournal log;
+    std::vector<JournalRecord> expected{record::Folder{"C:\\App"}};
+    std::vector<JournalRecord> contents;
+    log.Add(expected.front());
+    for (int i = 0; i < 5000; ++i) {
+        const Text path = "C:\\App\\" + std::to_string(i) + ".txt";
+        expected.push_back(record::File{path});
+        contents.push_back(record::Content{path, std::uint64_t(i), Text(64, 'a')});
+        log.Add(expected.back());
+        log.Add(contents.back());
+    }
+    EXPECT_TRUE(std::ranges::equal(expected, log.Records()));
+    log.Save(host.files, "C:\\App\\QNXUNIN.LOG");
+    expected.insert(expected.end(), contents.begin(), contents.end());
+    const auto read = ReadInstallJournal(host.files.Get("C:\\App\\QNXUNIN.LOG"));
+    ASSERT_TRUE(read);
+    EXPECT_TRUE(std::ranges::equal(*read, expected));
+}
+
 TEST(InstallJournal, KnowsTheSharedFilesOfEarlierInstallations)
 {
     InstallJournal log;
