@@ -115,12 +115,13 @@ void Rollback::Undo(const record::FormerValue& value)
     }
 }
 
+// Where the file is gone, an earlier way back may have been killed between this step and the former
+// file's return.
 void Rollback::Undo(const record::Registered& file)
 {
-    if (!files_.FileExists(file.path))
-        return;
-    target_.RegisterServer(file.path, false);
     unregistered_.insert(LowerCase(file.path));
+    if (files_.FileExists(file.path))
+        target_.RegisterServer(file.path, false);
 }
 
 // The former file is in its place again, and the system has just forgotten it.

@@ -166,6 +166,35 @@ TEST_F(KilledSetup, IsPutRightWhereTheProductIsUpgraded)
     EXPECT_GT(KillEverywhere(), 150);
 }
 
+// The last moment before the installation is committed has the longest way back.
+TEST_F(KilledSetup, IsPutRightWhereverTheWayBackOfAnUpgradeIsKilled)
+{
+    FillMachine();
+    FillPackage();
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    ChangePackage();
+    const Machine start = Keep();
+    const MachineState before = State();
+    std::optional<Machine> wreck;
+    for (int n = 1;; ++n) {
+        Restore(start);
+        const bool killed = KillAt(n, [&] { Install(); });
+        if (!killed || Journal().find("\r\nCOMMITTED") != Text::npos)
+            break;
+        wreck.emplace(Keep());
+    }
+    ASSERT_TRUE(wreck);
+    int steps = 0;
+    for (bool killed = true; killed && !HasFailure();) {
+        Restore(*wreck);
+        killed = KillAt(++steps, [&] { Finish(); });
+        SCOPED_TRACE("killed at change " + NumberText(steps));
+        EXPECT_TRUE(Finish());
+        ExpectState(before);
+    }
+    EXPECT_GT(steps, 50);
+}
+
 // Whatever ends the way back at whichever of its steps: the program that the user starts is never
 // beside another version of what it starts.
 TEST_F(KilledSetup, LeavesNoUninstallerOfAnotherVersionAtAnyStepOfTheWayBack)
