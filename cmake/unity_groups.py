@@ -5,7 +5,8 @@
 
 Prints "<group>;<source>" for each source that shares a piece with others. Two sources share a piece
 only where neither mentions a name that the other keeps to itself (in an unnamed namespace, as a
-static, as a macro), so that no name ever has to be chosen with a look at other files.
+static, as a macro), so that no name ever has to be chosen with a look at other files. A source that
+brings the names of an enumeration into its namespace ("using enum") is compiled alone.
 """
 import os
 import re
@@ -54,6 +55,8 @@ def main():
         with open(path, encoding="utf-8") as file:
             raw = file.read()
         text = COMMENT_OR_TEXT.sub(" ", raw)
+        if re.search(r"^using enum", text, re.M):
+            continue
         mentioned = set(WORD.findall(text))
         # The helpers of tests are headers that are seldom included twice, so they meet strange names.
         for header in re.findall(r'#include "([^"]+)"', raw):

@@ -9,7 +9,7 @@ BUILD_PACKAGES=(
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-wayland fonts-dejavu-core fonts-liberation
 )
 TEST_PACKAGES=(
-    clang clang-format libclang-rt-14-dev
+    clang-19 clang-format libclang-rt-19-dev
     debootstrap libengine-pkcs11-openssl openssl osslsigncode p7zip-full poppler-utils procps
     softhsm2 unrtf unzip wine64 zip
     at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi xdotool xserver-xephyr xvfb

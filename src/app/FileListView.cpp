@@ -272,7 +272,7 @@ void FileListView::ShowSortIndicator()
 {
     const FileList& files = project_.Files;
     header()->setSortIndicatorShown(files.sorted);
-    header()->setSortIndicator(files.sortKey,
+    header()->setSortIndicator(static_cast<int>(files.sortKey),
                                files.sortDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 

@@ -48,7 +48,7 @@ std::vector<Text> FoldersIn(const FileSystem& files, const Text& folder)
     } catch (const RunError&) {
         return {};
     }
-    const QCollator order(QLocale(QLocale::Swedish));
+    const QCollator order{QLocale(QLocale::Swedish)};
     std::vector<std::pair<QCollatorSortKey, Text>> sorted;
     for (const Text& name : names)
         sorted.emplace_back(order.sortKey(ToQt(name)), name);

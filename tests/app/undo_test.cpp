@@ -17,7 +17,6 @@ using testing::IsEmpty;
 
 constexpr CommandId kSave = CommandId::SaveProject;
 constexpr CommandId kDelete = CommandId::DeleteRows;
-constexpr int kSort = 115;
 constexpr CommandId kVersion = CommandId::VersionInfo;
 
 class Undo : public WindowTest {

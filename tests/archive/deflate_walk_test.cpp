@@ -92,7 +92,7 @@ void ExpectSameEnd(const Stream& stream)
 
 TEST(FindStreamEnd, AgreesWithAnUnpackingForEveryKindOfStream)
 {
-    for (const std::size_t size : {0, 1, 2, 100, 5000, 70000, 600000})
+    for (const std::size_t size : {0U, 1U, 2U, 100U, 5000U, 70000U, 600000U})
         for (const unsigned letters : {1U, 2U, 30U, 256U})
             for (const int level : {0, 1, 4, 6, 12}) {
                 SCOPED_TRACE(std::to_string(size) + " bytes of " + std::to_string(letters) +

@@ -456,7 +456,7 @@ std::size_t PeakInOwnProcess(const std::function<void()>& work)
 
 void ExpectPeakWithin(std::size_t least, std::size_t most, const std::function<void()>& work)
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef QUILLON_SANITIZED
     GTEST_SKIP() << "the sanitizer keeps freed memory, so that nothing can be measured";
 #endif
     const std::size_t peak = PeakInOwnProcess(work);

@@ -154,7 +154,7 @@ TEST_F(ScreenTest, PaintsTheSameOfWhatIsKeptOfLargePictures)
     const auto colourful = [](int width, int height) {
         Picture picture{width, height, {}};
         for (int i = 0; i < width * height; ++i)
-            picture.pixels.push_back(0xFF000000 | Pixel(i * 2654435761U) >> 8);
+            picture.pixels.push_back(0xFF000000 | static_cast<Pixel>(i) * 2654435761U >> 8);
         return picture;
     };
     project.DesBackground = {.Type = 2, .BackColor1 = 0x00FF00, .PictureFilename = "b"};

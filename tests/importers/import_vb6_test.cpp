@@ -577,7 +577,7 @@ TEST_F(ImportVb6Dao, AsksAndTellsNothingMoreOnceItIsStopped)
                               "i fillistan."};
     choices.cImportDAO35 = choices.cImportDAO36 = choices.cImportADO = choices.cImportRDO =
         choices.cInstallMDA = true;
-    for (const std::size_t place : {7, 13}) {
+    for (const std::size_t place : {7U, 13U}) {
         project.Files.rows.clear();
         user.seen.clear();
         user.stopAfter = place;

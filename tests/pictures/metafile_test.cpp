@@ -522,7 +522,7 @@ TEST(DecodeMetafile, OfAMillionRecordsEnds)
          }}};
     for (const auto& [name, add] : kinds) {
         const Usage usage = DecodeInChild(
-            [&add = add] {
+            [&add] {
                 MadeMetafile file;
                 file.Window(0, 0, 1000, 800).Plain(kRedColour);
                 for (int i = 0; i < 1'000'000 && file.Records().size() < 40'000'000; ++i)

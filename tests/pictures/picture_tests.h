@@ -70,7 +70,7 @@ struct Usage {
 /// `width` is not 0.
 Usage DecodeInChild(const std::function<std::string()>& make, int width = 0, int height = 0);
 
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef QUILLON_SANITIZED
 inline constexpr bool kIsMemoryMeasured = false;
 #else
 inline constexpr bool kIsMemoryMeasured = true;

@@ -8,7 +8,7 @@
 #include "support/temp_folder.h"
 
 #include <cstdlib>
-#ifdef __SANITIZE_ADDRESS__
+#ifdef QUILLON_SANITIZED
 #include <sanitizer/lsan_interface.h>
 #endif
 #include <fcntl.h>
@@ -184,7 +184,7 @@ TEST_F(PosixMachineTest, KnowsADecimalComma)
         ",\0\0\0,\0\0\0\0\0\0\0ANSI_X3.4-1968\0",
         59);
     disk.Put("locales/comma/LC_NUMERIC", std::string(kNumbersWithComma));
-#ifdef __SANITIZE_ADDRESS__
+#ifdef QUILLON_SANITIZED
     // The C library never gives its own copy of LOCPATH back.
     const __lsan::ScopedDisabler leaksOfTheLibrary;
 #endif

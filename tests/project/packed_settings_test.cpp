@@ -11,10 +11,7 @@ namespace {
 // Changes the values of a project one by one; `look` is called after each change.
 class OneByOne {
 public:
-    OneByOne(Project& project, std::function<void(const Text& key)> look)
-        : project_(project), look_(std::move(look))
-    {
-    }
+    explicit OneByOne(std::function<void(const Text& key)> look) : look_(std::move(look)) {}
 
     void Begin(const char*) {}
     void End() {}
@@ -56,7 +53,6 @@ private:
         value = before;
     }
 
-    Project& project_;
     std::function<void(const Text& key)> look_;
 };
 
@@ -65,7 +61,7 @@ TEST(PackedSettings, TellAProjectFromOneWithAnyOtherValue)
     Project project;
     const Text packed = PackSettings(project);
     int changes = 0;
-    OneByOne walk(project, [&](const Text& key) {
+    OneByOne walk([&](const Text& key) {
         const Text changed = PackSettings(project);
         EXPECT_NE(changed, packed) << key;
         Project other;

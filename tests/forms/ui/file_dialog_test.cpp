@@ -173,7 +173,7 @@ TEST_F(FileDialogTest, RefusesNamesThatNoProjectHolds)
         {"日.qnp", "tecken som inte får plats i ett projekt"},
         {"d\\e.qnp", "inte går att skriva som en sökväg i Windows"}};
     for (const auto& [name, reason] : cases) {
-        OnNextDialog([name = name, reason = reason](QDialog& dialog) {
+        OnNextDialog([name, reason](QDialog& dialog) {
             EXPECT_TRUE(RefusalOf(dialog, name).contains(reason)) << name;
             EXPECT_TRUE(dialog.isVisible());
         });
