@@ -5,8 +5,9 @@
 
 Prints "<group>;<source>" for each source that shares a piece with others. Two sources share a piece
 only where neither mentions a name that the other keeps to itself (in an unnamed namespace, as a
-static, as a macro), so that no name ever has to be chosen with a look at other files. A source that
-brings the names of an enumeration into its namespace ("using enum") is compiled alone.
+static, as a macro), so that no name ever has to be chosen with a look at other files. A name that both bring
+in by the same using-declaration keeps no two sources apart. A source that brings the names of an enumeration
+into its namespace ("using enum") is compiled alone.
 """
 import os
 import re
@@ -21,8 +22,9 @@ DECLARED = re.compile(r"([A-Za-z_]\w*)\s*(?:\[[^\]]*\]\s*)*$")
 
 
 def own_names(text):
-    """What a source declares for itself alone. Namespaces are not indented here."""
-    names, is_unnamed, in_enum = set(), False, False
+    """What a source declares for itself alone, and what the names of using-declarations stand for. Namespaces
+    are not indented here."""
+    names, borrowed, is_unnamed, in_enum = set(), {}, False, False
     for line in text.splitlines():
         # The enumerators of a plain enum are names of their own.
         if is_unnamed and re.match(r"enum (?!class)", line):
@@ -32,6 +34,9 @@ def own_names(text):
             in_enum = "}" not in line
         if match := MACRO.match(line):
             names.add(match[1])
+        if match := re.match(r"using ((?:\w+::)+(\w+));", line):
+            borrowed[match[2]] = match[1]
+            continue
         if line.startswith("namespace"):
             is_unnamed = line.startswith("namespace {")
         # Tests name their classes after the test, which no other test has.
@@ -41,11 +46,17 @@ def own_names(text):
             continue
         if match := TYPE.match(line):
             names.add(match[1])
-        elif match := re.match(r"using (?:.*::)?(\w+)", line):
+        elif match := re.match(r"using (\w+)", line):
             names.add(match[1])
         elif match := DECLARED.search(re.split(r"[(={;]", line, maxsplit=1)[0].rstrip()):
             names.add(match[1])
-    return names
+    return names, borrowed
+
+
+def clash(one, other):
+    """Whether a source can't be compiled together with a group of others, or a group with a source."""
+    borrowed = {name for name, meaning in one["borrowed"].items() if other["borrowed"].get(name) != meaning}
+    return (one["own"] | borrowed) & other["mentioned"]
 
 
 def main():
@@ -63,16 +74,18 @@ def main():
             if os.path.exists(os.path.join(TESTS, header)):
                 with open(os.path.join(TESTS, header), encoding="utf-8") as file:
                     mentioned |= set(WORD.findall(COMMENT_OR_TEXT.sub(" ", file.read())))
-        own = own_names(text)
+        own, borrowed = own_names(text)
+        source = {"own": own, "borrowed": borrowed, "mentioned": mentioned}
         lines = raw.count("\n")
         for group in groups:
-            if group["lines"] + lines <= limit and not own & group["mentioned"] and not mentioned & group["own"]:
+            if group["lines"] + lines <= limit and not clash(source, group) and not clash(group, source):
                 break
         else:
-            group = {"lines": 0, "own": set(), "mentioned": set(), "paths": []}
+            group = {"lines": 0, "own": set(), "borrowed": {}, "mentioned": set(), "paths": []}
             groups.append(group)
         group["lines"] += lines
         group["own"] |= own
+        group["borrowed"].update(borrowed)
         group["mentioned"] |= mentioned
         group["paths"].append(path)
     for number, group in enumerate(groups):

@@ -9,7 +9,7 @@ using test::MachineState;
 
 namespace {
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 
 // Presses Cancel, and says Yes to the question, as soon as it is time.
 class CancellingUser : public SilentAsk {

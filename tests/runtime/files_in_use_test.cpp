@@ -13,7 +13,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 const Text kProgram = kMain + "\\prog.exe";
 const Text kTitle = "Installation av Exempel";
 const Text kPrograms = "De här programmen använder filer som ska ersättas eller tas bort:\r\n\r\n";

@@ -6,7 +6,7 @@ namespace {
 
 using testing::HasSubstr;
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 
 class FolderOfOthers : public test::SetupFixture {
 protected:

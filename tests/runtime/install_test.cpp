@@ -9,7 +9,7 @@ using test::MachineState;
 using testing::HasSubstr;
 using testing::Not;
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 
 class InstallTest : public test::FullProduct {};
 

@@ -15,7 +15,7 @@ namespace quillon {
 using test::MachineState;
 using testing::HasSubstr;
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 
 namespace {
 

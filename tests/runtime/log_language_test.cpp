@@ -14,7 +14,7 @@ using testing::HasSubstr;
 
 namespace {
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 
 LanguageTexts English()
 {

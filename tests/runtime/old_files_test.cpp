@@ -12,7 +12,6 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-const Text kMain = "C:\\Program\\Exempel";
 const Text kOld = kMain + "\\Data\\gammal.txt";
 
 class OldFilesTest : public SetupFixture {

@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 const Text kGroup = "C:\\Ulla\\Start-meny\\Program\\Exempelgrupp\\";
 
 class PlannedShortcutsTest : public test::SetupFixture {

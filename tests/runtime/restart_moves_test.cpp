@@ -10,7 +10,6 @@
 namespace quillon::test {
 namespace {
 
-const Text kMain = "C:\\Program\\Exempel";
 const Text kFile = kMain + "\\levande.dll";
 const std::string kEmpty("\0\0", 2);
 constexpr std::uint32_t kListOfTexts = 7;

@@ -12,8 +12,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-const Text kMain = "C:\\Program\\Exempel";
-
 class ScriptTestOfSetup : public SetupFixture {
 protected:
     ScriptTestOfSetup() { AddFile("prog.exe", "%DESTDIR", "program"); }

@@ -15,6 +15,9 @@
 
 namespace quillon::test {
 
+/// The folder that the product goes to.
+inline const Text kMain = "C:\\Program\\Exempel";
+
 /// Files that pass everything on, and fail at one change when told to.
 class FailingFiles : public FileSystem {
 public:

@@ -12,7 +12,7 @@ using test::MachineState;
 using test::ScriptedAsk;
 using testing::HasSubstr;
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 
 class SetupProgramTest : public test::SetupFixture {
 protected:

@@ -24,7 +24,7 @@ using testing::Not;
 
 namespace {
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 const Text kTitle = "Installation av Exempel";
 
 } // namespace

@@ -6,7 +6,7 @@
 namespace quillon {
 namespace {
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 const RegistryKey kEntry{RegistryRoot::LocalMachine,
                          "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Exempel"};
 

@@ -19,7 +19,7 @@ using test::ScriptedAsk;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 const Text kLog = kMain + "\\QNXUNIN.LOG";
 const Text kUninstaller = kMain + "\\QNXUNIN.EXE";
 const Text kTitle = "Avinstallation av Exempel";

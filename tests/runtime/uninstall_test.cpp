@@ -11,7 +11,7 @@ namespace quillon {
 using test::MachineState;
 using testing::HasSubstr;
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 const RegistryKey kFirma{RegistryRoot::LocalMachine, "SOFTWARE\\Firma"};
 
 class UninstallTest : public test::SetupFixture {

@@ -10,7 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 
-const Text kMain = "C:\\Program\\Exempel";
+using test::kMain;
 const Text kStarter = kMain + "\\QNXUNIN.EXE";
 const Text kSetup = kMain + "\\QNS32X.BIN";
 const Text kManifest = kMain + "\\QNXUNIN.SHA256";
