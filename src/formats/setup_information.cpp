@@ -29,7 +29,7 @@ Number NumberOf(InfForm form, const Text& value)
         return number == 1 ? kOn : kOff;
     case InfForm::AsPxX:
     case InfForm::AsPxY:
-        return WithinType<Number>(number * kTwipsPerPixel);
+        return WithinType<Number>(std::int64_t{WithinType<Number>(number)} * kTwipsPerPixel);
     default: // The placeholder of a count that never came is no number, so it reads as 0.
         return WithinType<Number>(number);
     }

@@ -84,10 +84,12 @@ TEST(ReadSetupInformation, TakesNumbersBeyondTheTypeAtItsEnd)
 {
     const Project project = ReadSections("[Media]\r\nTargetMedia = 99999\r\n"
                                          "[DesTextBox]\r\nBoxXPos = -99999\r\n"
+                                         "BoxYPos = 99999999999999999999\r\n"
                                          "[DesTitle]\r\nTitleForeColor = 99999999999999999999\r\n")
                                 .project;
     EXPECT_EQ(project.Media.TargetMedia, 32767);
     EXPECT_EQ(project.DesTextBox.BoxXPos, -32768);
+    EXPECT_EQ(project.DesTextBox.BoxYPos, 32767);
     EXPECT_EQ(project.DesTitle.TitleForeColor, 2147483647);
 }
 
