@@ -127,5 +127,6 @@ if [ "${MEMORY:-1}" != 0 ]; then
     memory_of large two_gigabytes "a package of 2 GB"
     memory_of many most_files "32,767 files"
     memory_of solid copy_of_usr "a solid container" --small
+    memory_of solidmany most_files "32,767 files in a solid container" --small
 fi
 exit $failed

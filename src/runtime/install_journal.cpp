@@ -97,8 +97,8 @@ void InstallJournal::Add(JournalRecord record)
     if (std::holds_alternative<record::Content>(record))
         return AddContent(record);
     NotePlace(record);
-    index_.insert(IndexOf(record));
     records_.push_back(std::move(record));
+    index_.insert(&records_.back());
 }
 
 // Nobody looks for one by its path, and as a line it takes a third of the memory.
@@ -111,23 +111,24 @@ void InstallJournal::AddContent(const JournalRecord& content)
 
 void InstallJournal::TakeOver(std::vector<JournalRecord> earlier)
 {
-    for (const JournalRecord& record : earlier)
-        index_.insert(IndexOf(record));
+    // At an end of the deque, so that the others stay where the index has them.
     records_.insert(records_.begin(), std::make_move_iterator(earlier.begin()),
                     std::make_move_iterator(earlier.end()));
+    for (std::size_t i = 0; i < earlier.size(); ++i)
+        index_.insert(&records_[i]);
 }
 
 void InstallJournal::Forget(const std::set<Text>& paths)
 {
     if (paths.empty())
         return;
+    index_.clear();
     std::erase_if(records_, [&](const JournalRecord& record) {
-        const bool isAbout = IsOneOf<record::File, record::Replaced, record::Backup>(record) &&
-                             paths.count(LowerCase(SubjectOf(record))) > 0;
-        if (isAbout)
-            index_.erase(IndexOf(record));
-        return isAbout;
+        return IsOneOf<record::File, record::Replaced, record::Backup>(record) &&
+               paths.count(LowerCase(SubjectOf(record))) > 0;
     });
+    for (const JournalRecord& record : records_)
+        index_.insert(&record);
 }
 
 // Each folder that something is put into is named once, since the uninstaller goes into no other.
@@ -140,7 +141,7 @@ void InstallJournal::NotePlace(const JournalRecord& record)
         Add(record::Place{folder});
 }
 
-Text InstallJournal::IndexOf(const JournalRecord& record)
+Text InstallJournal::KeyOf(const JournalRecord& record)
 {
     return NumberText(std::int64_t(record.index())) + " " + LowerCase(SubjectOf(record));
 }

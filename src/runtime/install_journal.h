@@ -26,6 +26,10 @@ std::optional<Text> ProductOfJournal(const FileSystem& files, const Text& path);
 
 class InstallJournal {
 public:
+    InstallJournal() = default;
+    InstallJournal(const InstallJournal&) = delete;
+    InstallJournal& operator=(const InstallJournal&) = delete;
+
     void Save(FileSystem& files, const Text& path) const;
 
     void Add(JournalRecord record);
@@ -35,7 +39,7 @@ public:
     bool Has(std::string_view path) const
     {
         static_assert(!std::is_same_v<Record, record::Content>, "is kept as a line");
-        return index_.count(IndexOf(Record{Text(path)})) > 0;
+        return index_.contains(KeyOf(Record{Text(path)}));
     }
     /// Everything but contents about these files, by their paths in lower case.
     void Forget(const std::set<Text>& paths);
@@ -47,12 +51,35 @@ public:
 private:
     void NotePlace(const JournalRecord& record);
     void AddContent(const JournalRecord& content);
-    static Text IndexOf(const JournalRecord& record);
+    // Kind and subject, in lower case.
+    static Text KeyOf(const JournalRecord& record);
+
+    // Finds a record by its key, which is made when it is asked for: kept, the keys would take as
+    // much memory as the records.
+    struct KeyHash {
+        using is_transparent = void;
+        std::size_t operator()(const Text& key) const { return std::hash<Text>{}(key); }
+        std::size_t operator()(const JournalRecord* record) const
+        {
+            return (*this)(KeyOf(*record));
+        }
+    };
+    struct KeyEqual {
+        using is_transparent = void;
+        bool operator()(const JournalRecord* a, const JournalRecord* b) const
+        {
+            return KeyOf(*a) == KeyOf(*b);
+        }
+        bool operator()(const Text& key, const JournalRecord* record) const
+        {
+            return key == KeyOf(*record);
+        }
+    };
 
     // Some hundred bytes for each file, which never move: a vector that grows holds them twice.
     std::deque<JournalRecord> records_;
-    std::deque<Text> contents_;      // lines, in pieces
-    std::unordered_set<Text> index_; // kinds and subjects, in lower case
+    std::deque<Text> contents_; // lines, in pieces
+    std::unordered_set<const JournalRecord*, KeyHash, KeyEqual> index_;
 };
 
 } // namespace quillon

@@ -70,8 +70,12 @@ void PackageReader::FindInContainer()
         return;
     container_ = input_.openContainer(ContainerPath());
     for (const ZipEntry& entry : container_->Entries())
-        for (const ServedRow& row : ServedRows(entry.comment))
-            places_[row.number] = {&entry, {}, row.modified};
+        for (const ServedRow& row : ServedRows(entry.comment)) {
+            entries_[row.number] = &entry;
+            dates_.erase(row.number);
+            if (row.modified)
+                dates_[row.number] = *row.modified;
+        }
 }
 
 Text PackageReader::ContainerPath()
@@ -140,21 +144,20 @@ void PackageReader::CheckPiece(int disk, const Sha256Digest& digest) const
 
 void PackageReader::FindByThemselves()
 {
-    for (const InstallRow& row : input_.rows) {
-        const Text path = LooseFilePath(input_.packageFolder, input_.setup, row);
-        if (!IsEmptyFolderRow(row) && input_.host.files.FileExists(path))
-            places_[row.number] = {nullptr, path};
-    }
+    for (const InstallRow& row : input_.rows)
+        if (!IsEmptyFolderRow(row) && input_.host.files.FileExists(PathOf(row)))
+            entries_[row.number] = nullptr;
 }
 
 bool PackageReader::HasBytes(const InstallRow& row) const
 {
-    return places_.count(row.number) > 0;
+    return entries_.contains(row.number);
 }
 
-const PackageReader::Place& PackageReader::PlaceOf(const InstallRow& row) const
+// Of a file that lies by itself.
+Text PackageReader::PathOf(const InstallRow& row) const
 {
-    return places_.at(row.number);
+    return LooseFilePath(input_.packageFolder, input_.setup, row);
 }
 
 void PackageReader::CheckEverything()
@@ -162,9 +165,8 @@ void PackageReader::CheckEverything()
     for (const InstallRow& row : input_.rows) {
         if (!HasBytes(row))
             continue;
-        const Place& place = PlaceOf(row);
-        const std::uint64_t size =
-            place.entry ? place.entry->size : input_.host.files.Status(place.path).size;
+        const ZipEntry* const entry = entries_.at(row.number);
+        const std::uint64_t size = entry ? entry->size : input_.host.files.Status(PathOf(row)).size;
         if (size != row.size)
             throw DamagedPackage(input_.texts, {Message::PackageFileSize, row.name});
     }
@@ -184,26 +186,26 @@ void PackageReader::CheckEverything()
 
 std::uint64_t PackageReader::Position(const InstallRow& row) const
 {
-    const auto place = places_.find(row.number);
-    const ZipEntry* const entry = place == places_.end() ? nullptr : place->second.entry;
+    const auto place = entries_.find(row.number);
+    const ZipEntry* const entry = place == entries_.end() ? nullptr : place->second;
     return entry && entry->isSolid ? entry->headerPosition : 0;
 }
 
 LocalTime PackageReader::Modified(const InstallRow& row) const
 {
-    const Place& place = PlaceOf(row);
-    if (place.modified)
-        return *place.modified;
-    return place.entry ? place.entry->modified : input_.host.files.Status(place.path).modified;
+    if (const auto date = dates_.find(row.number); date != dates_.end())
+        return date->second;
+    const ZipEntry* const entry = entries_.at(row.number);
+    return entry ? entry->modified : input_.host.files.Status(PathOf(row)).modified;
 }
 
 void PackageReader::Extract(const InstallRow& row, const ZipReader::Sink& sink) const
 {
-    const Place& place = PlaceOf(row);
-    if (place.entry)
-        container_->Extract(*place.entry, input_.password, sink);
+    const ZipEntry* const entry = entries_.at(row.number);
+    if (entry)
+        container_->Extract(*entry, input_.password, sink);
     else
-        CopyAll(*input_.host.files.OpenInput(place.path), sink);
+        CopyAll(*input_.host.files.OpenInput(PathOf(row)), sink);
 }
 
 } // namespace quillon

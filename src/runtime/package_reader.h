@@ -50,12 +50,6 @@ public:
     void Extract(const InstallRow& row, const ZipReader::Sink& sink) const;
 
 private:
-    struct Place {
-        const ZipEntry* entry = nullptr; // null: a file by itself
-        Text path;
-        std::optional<LocalTime> modified = {}; // where the entry has another date
-    };
-
     void FindInContainerOrRefuse();
     void FindInContainer();
     void FindByThemselves();
@@ -64,12 +58,14 @@ private:
     void AppendDisk(int disk, OutputFile& joined);
     void CheckPiece(int disk, const Sha256Digest& digest) const;
     bool HasManifest() const;
-    const Place& PlaceOf(const InstallRow& row) const;
+    Text PathOf(const InstallRow& row) const;
 
     PackageInput input_;
     std::unique_ptr<Container> container_;
     Text joinedFile_;
-    std::map<int, Place> places_; // by the rows' numbers
+    // By the rows' numbers. A row whose file lies by itself has no entry.
+    std::map<int, const ZipEntry*> entries_;
+    std::map<int, LocalTime> dates_; // where the entry has another one
 };
 
 bool IsEmptyFolderRow(const InstallRow& row);
