@@ -67,7 +67,7 @@ bool TakeAnswer(Switches& answers, const ScannedLine& line)
     return true;
 }
 
-// What the command line has told stays.
+// The command line takes precedence.
 void Merge(const Switches& answers, Switches& switches)
 {
     if (switches.destination.empty())

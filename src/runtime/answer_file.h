@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-/// Takes the answers of the file that /LOADINF= names, for what no switch has told. One that can't
+/// Takes the answers of the file that /LOADINF= names, for what no switch gives. One that can't
 /// be taken becomes the bad switch, with the key.
 void LoadAnswers(const FileSystem& files, Switches& switches);
 

@@ -1,5 +1,5 @@
 // What is done about files that programs hold open before they are replaced or removed: the user is
-// told which programs, and they are closed where the user or the command line wants that. What is
+// shown which programs, and they are closed where the user or the command line wants that. What is
 // held all the same is left to the machine's next start, or ends the installation, as ever.
 #pragma once
 

@@ -14,7 +14,7 @@ namespace quillon {
 
 struct InstalledProduct {
     Text name;
-    LanguageTexts texts; // with what the installation was told to show
+    LanguageTexts texts; // with those that the installation recorded
     std::vector<JournalRecord> records;
 };
 

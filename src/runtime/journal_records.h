@@ -61,7 +61,7 @@ struct Shared {
     bool operator==(const Shared&) const = default;
 };
 
-/// The system has been told of the font.
+/// The system has been notified of the font.
 struct Font {
     Text path;
     bool operator==(const Font&) const = default;

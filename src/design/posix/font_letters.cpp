@@ -25,9 +25,9 @@ namespace {
 // A design has a handful; a hostile text box could name thousands.
 constexpr std::size_t kMaxOpenFaces = 64;
 constexpr FT_Int32 kLoadFlags = FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_LIGHT;
-// How much thicker an outline becomes that stands in for a missing bold one, as a part of its size.
+// How much thicker an outline becomes to simulate a missing bold one, as a part of its size.
 constexpr int kEmboldenPart = 24;
-constexpr double kSlant = 0.2126; // of an upright outline that stands in for an italic one
+constexpr double kSlant = 0.2126; // of an upright outline, to simulate an italic one
 constexpr FT_Pos kUnitsPerPixel = 64;
 constexpr const char* kUsualFamily = "sans-serif";
 
