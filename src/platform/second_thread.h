@@ -7,6 +7,8 @@
 
 namespace quillon {
 
+class SystemThread;
+
 /// Used by one thread, its owner. Where the system gives no thread, the work is done by the
 /// owner's.
 class SecondThread {
@@ -24,8 +26,7 @@ public:
     void Abandon();
 
 private:
-    struct State;
-    std::unique_ptr<State> state_;
+    std::unique_ptr<SystemThread> thread_;
 };
 
 } // namespace quillon

@@ -10,9 +10,15 @@ kind=$1 prefix=$2
 shift 2
 root=
 server=wineserver
+fixed_heap=
 if [ "$kind" = 64 ]; then
     loader=/usr/lib/wine/wine64
     server=/usr/lib/wine/wineserver64
+    # The kernel lays the heap of a 64-bit program anywhere in a gigabyte in which Wine needs the page
+    # 0x7ffe0000 for itself; where the heap takes it, the process ends with code 1 and says nothing: one
+    # in some thousands.
+    fixed_heap="setarch -R"
+    $fixed_heap true 2>/dev/null || fixed_heap=
 else
     root=${QUILLON_WINE32_ROOT:-${XDG_CACHE_HOME:-$HOME/.cache}/quillon/wine32-root-2}
     loader=/usr/lib/wine/wine
@@ -32,7 +38,7 @@ set -- env -i PATH=/usr/bin:/bin HOME="${prefix#"$root"}" LANG=C.UTF-8 TZ=UTC WI
     WINEPREFIX="${prefix#"$root"}" WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d' \
     ${root:+WINEDLLPATH=/usr/lib/i386-linux-gnu/wine} \
     ${QUILLON_WINE_DISPLAY:+DISPLAY="$QUILLON_WINE_DISPLAY"} "$@"
-[ -n "$root" ] || exec "$@"
+[ -n "$root" ] || exec $fixed_heap "$@"
 if [ "$(id -u)" = 0 ]; then
     exec /usr/sbin/chroot "$root" "$@"
 fi

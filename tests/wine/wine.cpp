@@ -53,6 +53,19 @@ ProgramResult RunWine(const fs::path& prefix, const std::vector<std::string>& ar
     return RunProgram(command);
 }
 
+// The code of run-wine.sh for a Wine that is missing, and the shell's own for a program that is
+// missing or that the kernel doesn't run.
+bool CanNotRunHere(const ProgramResult& result)
+{
+    return result.exitCode >= 125 && result.exitCode <= 127;
+}
+
+std::runtime_error WineFailure(const std::string& what, const ProgramResult& result)
+{
+    return std::runtime_error("Wine of " + Bits() + " bits " + what + ": exit code " +
+                              std::to_string(result.exitCode) + "\n" + result.output);
+}
+
 void EndServer(const fs::path& prefix)
 {
     RunWine(prefix, {"wineserver", "-k"});
@@ -148,9 +161,10 @@ std::string PrepareWine()
     if (WineBits() == 32 && Root().empty())
         return "no 32-bit Wine could be prepared";
     const ProgramResult made = RunWine(Template(), {"wineboot", "--init"});
+    if (CanNotRunHere(made))
+        return "there is no Wine of " + Bits() + " bits that runs here";
     if (made.exitCode != 0)
-        return "Wine of " + Bits() + " bits makes no prefix: exit code " +
-               std::to_string(made.exitCode) + "\n" + made.output;
+        throw WineFailure("makes no prefix", made);
 
     const fs::path song = WorkFolder() / "song";
     const fs::path canary = WorkFolder() / "canary.exe";
@@ -159,8 +173,7 @@ std::string PrepareWine()
         RunWine(Template(), {OnZ(canary), OnZ(song), std::to_string(kCanaryCode)});
     EndServer(Template());
     if (sung.exitCode != kCanaryCode || ReadFile(song) != "sings")
-        return "Wine of " + Bits() + " bits does not run a program of this kind: exit code " +
-               std::to_string(sung.exitCode) + "\n" + sung.output;
+        throw WineFailure("does not run a program of this kind", sung);
     fs::copy_file(TestProgramFolder() / "runner.exe", WorkFolder() / "runner.exe");
     return {};
 }

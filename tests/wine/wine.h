@@ -22,7 +22,8 @@ std::filesystem::path WorkFolder();
 /// The host path as Windows programs know it.
 std::string OnZ(const std::filesystem::path& path);
 
-/// Why tests can't run here; empty where they can. Makes what all prefixes are copied from.
+/// Why tests can't run here; empty where they can. Makes what all prefixes are copied from. Throws
+/// where there is a Wine that runs, but fails.
 std::string PrepareWine();
 void CleanUpAfterWine();
 

@@ -2,6 +2,7 @@
 // what is made of them does not depend on how many threads there are.
 #pragma once
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
 #include <cstddef>
@@ -16,6 +17,13 @@
 #include <vector>
 
 namespace quillon {
+
+/// How many threads to start: `wanted`, or as many as the machine has where that is 0, at least one
+/// and at most `most`.
+inline unsigned ThreadCount(unsigned wanted, unsigned most)
+{
+    return std::clamp(wanted > 0 ? wanted : std::thread::hardware_concurrency(), 1U, most);
+}
 
 /// `Worker` is made once for each thread, by copying nothing: `make()` runs in the thread itself.
 /// It is called with a `Job&` and answers a `Result`. What it throws comes out of `Next`.

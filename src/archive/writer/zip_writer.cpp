@@ -16,7 +16,6 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <thread>
 #include <vector>
 
 namespace quillon {
@@ -40,13 +39,6 @@ constexpr unsigned kMaxThreads = 16;
 // How a source of several blocks is asked whether it shrinks at all.
 constexpr std::size_t kSampleSize = 64 * 1024;
 constexpr std::uint64_t kMinSavedPart = 256;
-
-unsigned ThreadCount(const ZipOptions& options)
-{
-    const unsigned wanted =
-        options.threads > 0 ? options.threads : std::thread::hardware_concurrency();
-    return std::clamp(wanted, 1U, kMaxThreads);
-}
 
 class ZipWriting {
 public:
@@ -122,7 +114,7 @@ ZipWriting::ZipWriting(const FileSystem& files, std::span<const ZipSource> sourc
                        OutputFile& target, const ZipOptions& options, const ZipWatch& watch)
     : files_(files), sources_(sources), options_(options), watch_(watch), output_(target),
       salts_(options.password.empty() ? std::nullopt : std::optional<SaltMaker>(options.password)),
-      workers_(ThreadCount(options), [this] {
+      workers_(ThreadCount(options.threads, kMaxThreads), [this] {
           return BlockPacker(files_, salts_ ? &*salts_ : nullptr, options_.password);
       })
 {

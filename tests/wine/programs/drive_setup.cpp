@@ -321,8 +321,10 @@ private:
         start.cb = sizeof start;
         PROCESS_INFORMATION made{};
         if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                            &start, &made))
+                            &start, &made)) {
+            log_ += "error " + NumberText(std::int64_t{GetLastError()}) + "\n";
             return false;
+        }
         CloseHandle(made.hThread);
         process_ = made.hProcess;
         return true;

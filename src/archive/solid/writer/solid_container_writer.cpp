@@ -12,7 +12,6 @@
 #include <libdeflate.h>
 
 #include <algorithm>
-#include <thread>
 
 namespace quillon {
 
@@ -22,21 +21,14 @@ constexpr std::size_t kPieceSize = 1024 * 1024;
 // Each takes about 120 MiB with the largest frames, match finder and result included.
 constexpr unsigned kMaxThreads = 6;
 
-unsigned ThreadCount(const SolidContainerOptions& options)
-{
-    const unsigned wanted =
-        options.threads > 0 ? options.threads : std::thread::hardware_concurrency();
-    return std::clamp(wanted, 1U, kMaxThreads);
-}
-
 class ContainerWriting {
 public:
     ContainerWriting(const FileSystem& files, std::span<const ZipSource> sources,
                      OutputFile& target, const SolidContainerOptions& options,
                      const ZipWatch& watch)
         : files_(files), sources_(sources), target_(target), watch_(watch),
-          threads_(ThreadCount(options)), buffer_(kPieceSize), entryOf_(sources.size()),
-          workers_(threads_, [] { return FramePacker(); })
+          threads_(ThreadCount(options.threads, kMaxThreads)), buffer_(kPieceSize),
+          entryOf_(sources.size()), workers_(threads_, [] { return FramePacker(); })
     {
         index_.frameSize = options.frameSize;
     }
