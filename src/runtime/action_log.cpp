@@ -66,10 +66,10 @@ void ActionLog::CannotRemove(std::string_view what, const std::exception& error)
         Because(Message::LogCannotRemove, what, FailureReason(error, *texts_), ReasonOf(error));
 }
 
-void ActionLog::End(ExitCode code, bool needsRestart, std::string_view error)
+void ActionLog::End(ExitCode code, RunEnd end, std::string_view error)
 {
     if (json_)
-        json_->End(code, needsRestart, error);
+        json_->End(code, end, error);
     json_.reset();
 }
 
@@ -81,6 +81,17 @@ void ActionLog::Close()
             file->Close();
     } catch (const RunError&) {
         // The disk gave out at the very end; what it took is there to read.
+    }
+}
+
+void OpenLogs(ActionLog& log, FileSystem& files, const Machine& machine, const LogFiles& paths,
+              const LanguageTexts& texts)
+{
+    try {
+        log = ActionLog(files, machine, paths, texts);
+    } catch (const RunError&) {
+        RunErrorNumber([&] { log = ActionLog(files, machine, {{}, {}, paths.result}, texts); });
+        throw;
     }
 }
 

@@ -34,13 +34,12 @@ public:
     /// What could not be undone, or not be removed where `what` says so, and why.
     void CannotUndo(const std::exception& error);
     void CannotRemove(std::string_view what, const std::exception& error);
-    /// A line that is in the language of the package already.
-    void TextLine(std::string_view text);
     /// Ends the log for programs with the code of the whole run.
-    void End(ExitCode code, bool needsRestart, std::string_view error = {});
+    void End(ExitCode code, RunEnd end, std::string_view error = {});
     void Close();
 
 private:
+    void TextLine(std::string_view text);
     void Because(Message message, std::string_view what, std::string_view detail,
                  const std::optional<Reason>& reason);
 
@@ -49,6 +48,11 @@ private:
     std::unique_ptr<OutputFile> file_;
     std::unique_ptr<JsonLog> json_;
 };
+
+/// Opens the logs. Where one can't be made the failure is thrown on, but `log` has the file of the
+/// result where that can be made, so that it at least can tell why.
+void OpenLogs(ActionLog& log, FileSystem& files, const Machine& machine, const LogFiles& paths,
+              const LanguageTexts& texts);
 
 /// A path in the folder for temporary files at which nothing is: "QNSETUP-20040301-123005.LOG".
 Text NewFileInTemp(const FileSystem& files, const Machine& machine, std::string_view program,

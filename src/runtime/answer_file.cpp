@@ -1,12 +1,13 @@
 #include "runtime/answer_file.h"
 
 #include "helpers/encoded_text.h"
+#include "helpers/number_text.h"
+#include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "ini/ini_scanner.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "runtime/pages/page_order.h"
-#include "runtime/pages/user_choices.h"
 
 #include <algorithm>
 
@@ -44,6 +45,25 @@ bool TakeScope(Switches& answers, const Text& value)
     return value.empty();
 }
 
+// "CompDir2" for the second component.
+constexpr std::string_view kComponentFolder = "CompDir";
+
+// 0 where the key names the folder of no component.
+int ComponentOfKey(std::string_view key)
+{
+    for (int number = 1; number <= int(kComponentCount); ++number)
+        if (EqualIgnoreCase(key, Text(kComponentFolder) + NumberText(number)))
+            return number;
+    return 0;
+}
+
+bool TakeComponentFolder(Switches& answers, int number, const Text& value)
+{
+    const Text folder = ResolvePath(value);
+    answers.componentFolders.emplace_back(number, folder);
+    return IsAbsolutePath(value) && FaultOfFolder(folder) == PathFault::None;
+}
+
 bool TakeUser(Switches& answers, std::string_view key, const Text& value)
 {
     for (const UserKey& one : kUserKeys)
@@ -63,6 +83,8 @@ bool TakeAnswer(Switches& answers, const ScannedLine& line)
             return SetSwitch(answers, key, value);
     if (EqualIgnoreCase(line.name, "Scope"))
         return TakeScope(answers, value);
+    if (const int number = ComponentOfKey(line.name))
+        return TakeComponentFolder(answers, number, value);
     TakeUser(answers, line.name, value);
     return true;
 }
@@ -81,6 +103,7 @@ void Merge(const Switches& answers, Switches& switches)
     if (switches.scope == InstallScope::Project)
         switches.scope = answers.scope;
     switches.user = answers.user;
+    switches.componentFolders = answers.componentFolders;
 }
 
 Text ReadAnswers(const FileSystem& files, const Text& path)
@@ -151,31 +174,40 @@ void SaveAnswers(FileSystem& files, const Text& path, const Answers& answers)
     const auto add = [&](const char* key, const Text& value) {
         text += Text(key) + "=" + OneLine(value) + Text(kLineBreak);
     };
-    add("Dir", answers.destination);
+    add("Dir", answers.variables.Value(NameOf(VariableMeaning::MainFolder)));
     add("Group", project.ProgramGroup.ProgramGroup);
     if (!ComponentsInUse(answers.setup).empty())
         add("Components", TickedComponents(answers.setup));
+    for (int number = 1; number <= int(kComponentCount); ++number)
+        if (answers.choices.components[std::size_t(number) - 1].folder)
+            add((Text(kComponentFolder) + NumberText(number)).c_str(),
+                answers.variables.Value(NameOf(VariableMeaning::ComponentFolder, number)));
     if (!answers.languageFile.empty())
         add("Lang", answers.languageFile);
     for (const auto& [scope, word] : kScopes)
         if (scope == answers.scope)
             add("Scope", word);
+    // Names that nobody has chosen are those of the machine, and the next one has its own.
     for (const UserKey& one : kUserKeys)
-        add(one.key, project.LicenseData.*one.field);
+        if (answers.choices.user)
+            add(one.key, (*answers.choices.user).*one.field);
     WriteWholeFile(files, path, text);
 }
 
-void ApplyUser(const Switches& switches, SetupInformation& setup)
+void TakeAnswers(const Switches& switches, const SetupInformation& setup, const Machine& machine,
+                 UserChoices& choices)
 {
-    if (switches.user.empty())
-        return;
-    UserChoices choices;
-    choices.user = setup.project.LicenseData;
+    if (!switches.user.empty())
+        choices.user = ProposedUser(setup, machine);
     for (const auto& [key, value] : switches.user)
         for (const UserKey& one : kUserKeys)
             if (EqualIgnoreCase(one.key, key))
                 (*choices.user).*one.field = value;
-    ApplyChoices(choices, setup);
+    for (const auto& [number, folder] : switches.componentFolders) {
+        const std::size_t at = std::size_t(number) - 1;
+        if (setup.project.FileComponents[at].CompCanChangeDir != 0)
+            choices.components[at].folder = folder;
+    }
 }
 
 } // namespace quillon

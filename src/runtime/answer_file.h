@@ -4,6 +4,9 @@
 
 #include "formats/setup_information.h"
 #include "platform/file_system.h"
+#include "platform/machine.h"
+#include "runtime/pages/user_choices.h"
+#include "runtime/setup_variables.h"
 #include "runtime/switches.h"
 
 namespace quillon {
@@ -14,14 +17,17 @@ void LoadAnswers(const FileSystem& files, Switches& switches);
 
 struct Answers {
     const SetupInformation& setup; // with what has been chosen
-    Text destination;
+    const UserChoices& choices;    // what was, of names and folders of components
+    const SetupVariables& variables;
     Text languageFile; // of /LANG=
     InstallScope scope;
 };
 
 void SaveAnswers(FileSystem& files, const Text& path, const Answers& answers);
 
-/// Puts the file's names of the registration page into the project.
-void ApplyUser(const Switches& switches, SetupInformation& setup);
+/// Adds the file's names of the registration page, and its folders of components that the user may
+/// choose. A name that the file leaves out is the one that the setup would propose.
+void TakeAnswers(const Switches& switches, const SetupInformation& setup, const Machine& machine,
+                 UserChoices& choices);
 
 } // namespace quillon

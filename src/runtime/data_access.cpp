@@ -15,14 +15,6 @@ constexpr const char* kDataAccess = "MDAC_TYP.ZIP";
 // Unpack without a window, and set up without one and without a restart.
 constexpr const char* kHidden = "/Q /C:\"setup /QNT\"";
 
-const PlannedFile* FindDataAccess(const DataAccessInput& input)
-{
-    for (const PlannedFile& file : input.plan.files)
-        if (EqualIgnoreCase(file.row->name, kDataAccess) && input.host.files.FileExists(file.path))
-            return &file;
-    return nullptr;
-}
-
 // Why it is not run; nothing where it is.
 std::optional<Reason> ReasonNotToRun(const DataAccessInput& input)
 {
@@ -51,10 +43,18 @@ int RunIt(const DataAccessInput& input, const Text& path)
 
 } // namespace
 
+const PlannedFile* FindDataAccess(const InstallPlan& plan)
+{
+    for (const PlannedFile& file : plan.files)
+        if (EqualIgnoreCase(file.row->name, kDataAccess))
+            return &file;
+    return nullptr;
+}
+
 bool InstallDataAccess(const DataAccessInput& input)
 {
-    const PlannedFile* const file = FindDataAccess(input);
-    if (file == nullptr)
+    const PlannedFile* const file = FindDataAccess(input.plan);
+    if (file == nullptr || !input.host.files.FileExists(file->path))
         return false;
     const Text part = input.texts(Message::PartDataAccess, kDataAccess);
     if (const auto reason = ReasonNotToRun(input)) {

@@ -21,6 +21,7 @@ enum class ExitCode : int {
     OtherSetupRuns = 1618,
     Forbidden = 1625, // for those users, by the project or the system
     WrongSystem = 1633,
+    NewerInstalled = 1638, // a newer version of the product
     BadSwitch = 1639,
     RestartStarted = 1641, // done, and the machine is on its way to its next start
     RestartNeeded = 3010,  // done, but the product is whole only after the next start

@@ -34,6 +34,14 @@ void LogAll(ActionLog& log, Message message, const std::vector<Text>& names)
         log.Line(message, name);
 }
 
+// Under /NOCANCEL there is nothing to cancel here either.
+Answer AskUser(const InUseInput& input, const Text& text)
+{
+    if (input.switches.canCancel)
+        return input.ask.YesNoCancel(input.title, text);
+    return input.ask.YesNo(input.title, text, Ask::Stops::OnNo) ? Answer::Yes : Answer::No;
+}
+
 bool Close(const InUseInput& input)
 {
     input.log.Line(Message::LogClosesPrograms);
@@ -63,13 +71,13 @@ bool FreeFiles(const InUseInput& input, const std::vector<Text>& paths)
                 Close(input);
             return true;
         }
-        if (input.switches.silent)
+        if (!MayAsk(input.switches))
             return true;
         const Text text =
             programs.empty()
                 ? BoxText(texts[Message::InUseFiles], held, texts[Message::InUseTryAgain])
                 : BoxText(texts[Message::InUsePrograms], programs, texts[Message::InUseClose]);
-        const Answer answer = input.ask.YesNoCancel(input.title, text);
+        const Answer answer = AskUser(input, text);
         if (answer != Answer::Yes)
             return answer == Answer::No;
         // Whoever goes on running is named once more.

@@ -8,6 +8,7 @@
 #include "runtime/file_installer.h"
 #include "runtime/ini_changes.h"
 #include "runtime/old_files.h"
+#include "runtime/old_shortcuts.h"
 #include "runtime/planned_shortcuts.h"
 #include "runtime/registry_changes.h"
 #include "runtime/script/script_run.h"
@@ -47,12 +48,10 @@ public:
 private:
     void DoEverything();
     void BeginRecord();
-    void TakeOverRecord(std::vector<JournalRecord> earlier);
     void RecordTexts();
     void SaveRecord();
     void ShareMainFolder();
     void DeleteOldProgramGroup();
-    bool IsOwnShortcut(const Text& path) const;
     void WriteRegistry();
     void RegisterFiles();
     void RegisterOne(const Text& path);
@@ -114,29 +113,13 @@ void Installation::BeginRecord()
     if (!input_.plan.hasUninstaller)
         return;
     const Text& path = input_.plan.installLog;
-    FileSystem& files = input_.host.files;
-    if (files.FileExists(path) && input_.target.IsOfTrustedUser(path)) {
-        auto earlier =
-            ReadInstallJournal(ReadWholeFile(files, path)).value_or(std::vector<JournalRecord>{});
-        TakeOverRecord(std::move(earlier));
-    }
+    EarlierRecord earlier = ReadEarlierRecord(input_.host.files, input_.target, path);
+    earlierRecords_ = earlier.records.size();
+    contents_ = std::move(earlier.contents);
+    record_.TakeOver(std::move(earlier.records));
     ShareMainFolder();
     record_.Add(record::Product{input_.setup.project.ProjectName.ProjectName});
     RecordTexts();
-}
-
-void Installation::TakeOverRecord(std::vector<JournalRecord> earlier)
-{
-    // They are reported anew, and would come to more with each installation.
-    std::erase_if(earlier, [&](const JournalRecord& record) {
-        if (const auto* const content = std::get_if<record::Content>(&record))
-            contents_[LowerCase(content->path)] = *content;
-        return std::holds_alternative<record::Product>(record) ||
-               std::holds_alternative<record::Message>(record) ||
-               std::holds_alternative<record::Content>(record);
-    });
-    earlierRecords_ = earlier.size();
-    record_.TakeOver(std::move(earlier));
 }
 
 void Installation::SaveRecord()
@@ -150,6 +133,7 @@ void Installation::SaveRecord()
     // The uninstaller will believe it.
     input_.target.CloseToOthers(staged);
     changes_.PutFile({staged, path, files.FileExists(path), InstallTransaction::Recorded::No});
+    input_.log.Line(Message::LogWritesOwnFile, path);
 }
 
 void Installation::RecordTexts()
@@ -175,31 +159,12 @@ void Installation::ShareMainFolder()
     }
 }
 
-// A shortcut that an earlier installation of the product made, or that leads to it all the same. In
-// the group of a new project, products of many makers lie side by side.
-bool Installation::IsOwnShortcut(const Text& path) const
-{
-    if (record_.Has<record::File>(path) || record_.Has<record::Replaced>(path))
-        return true;
-    const auto shortcut = input_.target.ReadShortcut(path);
-    const Text inside = LowerCase(input_.plan.mainFolder) + "\\";
-    // A document is opened by a viewer, whose first argument it is.
-    return shortcut && (LowerCase(shortcut->program).starts_with(inside) ||
-                        LowerCase(shortcut->arguments).starts_with("\"" + inside));
-}
-
 // Only the product's own shortcuts go, and the group stays where anything else is in it.
 void Installation::DeleteOldProgramGroup()
 {
-    const Text& group = input_.plan.programGroup;
-    const bool wanted = input_.setup.project.InstallOptions.DeleteProgGroup != kOff;
-    if (!wanted || !input_.host.files.DirExists(group))
+    if (input_.setup.project.InstallOptions.DeleteProgGroup == kOff)
         return;
-    for (const FolderEntry& entry : input_.host.files.List(group)) {
-        const Text path = JoinPath(group, entry.name);
-        const bool isShortcut = !entry.status.isFolder && LowerCase(entry.name).ends_with(".lnk");
-        if (!isShortcut || !IsOwnShortcut(path))
-            continue;
+    for (const Text& path : OldShortcuts(input_.host.files, input_.target, record_, input_.plan)) {
         changes_.RemoveFile(path);
         input_.log.Line(Message::LogRemovesShortcut, path);
     }
@@ -286,13 +251,18 @@ void Installation::PutHelper(const char* helper, const Text& path)
     const Text staged = changes_.StagingPath(path);
     input_.host.files.CopyContent(JoinPath(input_.helpersFolder, helper), staged);
     changes_.PutFile({staged, path, input_.host.files.FileExists(path)});
+    input_.log.Line(Message::LogWritesOwnFile, path);
 }
 
 void Installation::PutUninstaller()
 {
     if (!input_.plan.hasUninstaller)
         return;
-    PutUninstallerFiles(input_.host.files, input_.helpersFolder, input_.plan.mainFolder, changes_);
+    const Text& folder = input_.plan.mainFolder;
+    PutUninstallerFiles(input_.host.files, input_.helpersFolder, folder, changes_);
+    for (const Text& path : FilesOfUninstaller(folder))
+        input_.log.Line(Message::LogWritesOwnFile, path);
+    input_.log.Line(Message::LogWritesOwnFile, UninstallerPath(folder));
     WriteUninstallEntry({input_, files_.InstalledBytes()}, changes_);
 }
 

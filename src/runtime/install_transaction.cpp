@@ -172,25 +172,39 @@ void InstallTransaction::WriteValue(const RegistryKey& key, const Text& name,
         record_.Add(record::Value{key, name, data, former});
     transaction_.Note(record::FormerValue{key, name, former});
     target_.WriteValue(key, name, data);
+    log_.Line(Message::LogWritesRegistry, KeyText(key) + " :: " + name);
+}
+
+bool InstallTransaction::TakeValueAway(const RegistryKey& key, const Text& name)
+{
+    const auto former = target_.ReadValue(key, name);
+    if (!former)
+        return false;
+    transaction_.Note(record::FormerValue{key, name, former});
+    target_.RemoveValue(key, name);
+    return true;
 }
 
 void InstallTransaction::RemoveValue(const RegistryKey& key, const Text& name)
 {
-    const auto former = target_.ReadValue(key, name);
-    if (!former)
-        return;
-    transaction_.Note(record::FormerValue{key, name, former});
-    target_.RemoveValue(key, name);
+    if (TakeValueAway(key, name))
+        log_.Line(Message::LogRemovesRegistry, KeyText(key) + " :: " + name);
 }
 
 void InstallTransaction::RemoveKeyWithAllBelow(const RegistryKey& key)
 {
     if (!target_.KeyExists(key))
         return;
+    TakeKeyAway(key);
+    log_.Line(Message::LogRemovesRegistry, KeyText(key));
+}
+
+void InstallTransaction::TakeKeyAway(const RegistryKey& key)
+{
     for (const Text& name : target_.SubKeys(key))
-        RemoveKeyWithAllBelow({key.root, key.subKey + "\\" + name});
+        TakeKeyAway({key.root, key.subKey + "\\" + name});
     for (const Text& name : target_.ValueNames(key))
-        RemoveValue(key, name);
+        TakeValueAway(key, name);
     transaction_.Note(record::RemovedKey{key});
     target_.RemoveKey(key);
 }

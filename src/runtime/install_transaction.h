@@ -45,6 +45,7 @@ public:
     /// When everything is done, if the folder is empty by then: what was put aside lies in it.
     void RemoveFolderAtEnd(const Text& folder);
 
+    // What they write and remove is logged here.
     void MakeKey(const RegistryKey& key);
     void WriteValue(const RegistryKey& key, const Text& name, const RegistryData& data,
                     Recorded recorded = Recorded::Yes);
@@ -66,6 +67,8 @@ public:
     bool Undo();
 
 private:
+    bool TakeValueAway(const RegistryKey& key, const Text& name);
+    void TakeKeyAway(const RegistryKey& key);
     void RecordFile(const Text& path, bool existed);
     void Move(const Text& from, const Text& to, const Text& place);
     void MoveAside(const Text& path);

@@ -20,6 +20,7 @@ constexpr std::pair<ExitCode, const char*> kResults[] = {
     {ExitCode::OtherSetupRuns, "another setup runs"},
     {ExitCode::Forbidden, "forbidden"},
     {ExitCode::WrongSystem, "wrong system"},
+    {ExitCode::NewerInstalled, "newer version installed"},
     {ExitCode::BadSwitch, "bad switch"},
     {ExitCode::DamagedPackage, "damaged package"},
     {ExitCode::PrerequisiteMissing, "prerequisite missing"},
@@ -75,6 +76,14 @@ void CloseFile(std::unique_ptr<OutputFile> file)
         RunErrorNumber([&] { file->Close(); });
 }
 
+// A script may end the setup with any code, and everything is undone then.
+const char* NameOfStop(ExitCode code)
+{
+    const bool isOfSuccess = code == ExitCode::Done || code == ExitCode::RestartNeeded ||
+                             code == ExitCode::RestartStarted;
+    return NameOfResult(isOfSuccess ? ExitCode::Failed : code);
+}
+
 } // namespace
 
 const char* NameOfResult(ExitCode code)
@@ -110,15 +119,15 @@ void JsonLog::Action(Message message, std::string_view subject, std::string_view
     WriteTo(file_, record.Written());
 }
 
-void JsonLog::End(ExitCode code, bool needsRestart, std::string_view error)
+void JsonLog::End(ExitCode code, RunEnd end, std::string_view error)
 {
     JsonWriter record;
     record.OpenObject();
     record.Add("time", TimeOf(machine_));
     record.Add("action", "result");
-    record.Add("result", needsRestart ? "done" : NameOfResult(code));
+    record.Add("result", end == RunEnd::Stopped ? NameOfStop(code) : NameOfResult(ExitCode::Done));
     record.Add("code", static_cast<std::int64_t>(code));
-    record.AddFlag("restart", needsRestart);
+    record.AddFlag("restart", end == RunEnd::RestartDue);
     if (!error.empty())
         record.Add("error", error);
     record.OpenObject("counts");
@@ -135,7 +144,9 @@ void JsonLog::End(ExitCode code, bool needsRestart, std::string_view error)
 void WriteResult(FileSystem& files, const Machine& machine, const Text& path, ExitCode code,
                  std::string_view error)
 {
-    RunErrorNumber([&] { JsonLog(files, machine, {{}, {}, path}).End(code, false, error); });
+    RunErrorNumber([&] {
+        JsonLog(files, machine, {{}, {}, path}).End(code, RunEnd::Stopped, error);
+    });
 }
 
 } // namespace quillon

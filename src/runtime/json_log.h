@@ -20,6 +20,10 @@ struct LogFiles {
     Text result;
 };
 
+/// How a run has ended, whatever code its caller is told. What was stopped is undone, or was never
+/// begun.
+enum class RunEnd { Done, RestartDue, Stopped };
+
 class JsonLog {
 public:
     JsonLog(FileSystem& files, const Machine& machine, const LogFiles& paths);
@@ -27,7 +31,7 @@ public:
     void Action(Message message, std::string_view subject, std::string_view detail,
                 std::optional<Message> reason);
     /// The last record, into both files.
-    void End(ExitCode code, bool needsRestart, std::string_view error);
+    void End(ExitCode code, RunEnd end, std::string_view error);
 
 private:
     const Machine& machine_;

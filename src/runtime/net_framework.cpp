@@ -73,7 +73,7 @@ void CheckNetFramework(const NetTest& test)
     if (test.wanted.NET_StopIfNoNET != kOff)
         throw SetupFailure(ExitCode::PrerequisiteMissing, test.texts(Message::NeedsNet, name));
     test.log.Line(Message::LogNoNet, name);
-    if (test.wanted.NET_WarnIfNoNET != kOff && !test.silent &&
+    if (test.wanted.NET_WarnIfNoNET != kOff && test.mayAsk &&
         !test.ask.YesNo(test.title, test.texts(Message::NetQuestion, name), Ask::Stops::OnNo))
         throw SetupFailure(ExitCode::Cancelled, {});
 }

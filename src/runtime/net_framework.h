@@ -24,8 +24,8 @@ struct NetTest {
     Ask& ask;
     ActionLog& log;
     const LanguageTexts& texts;
-    Text title; // of the setup's boxes
-    bool silent = false;
+    Text title;         // of the setup's boxes
+    bool mayAsk = true; // otherwise a warning is logged alone
 };
 
 /// Throws `SetupFailure` where the project stops without it, or the user says no.

@@ -4,6 +4,7 @@
 #include "formats/package_manifest.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/whole_file.h"
 #include "runtime/failure_reason.h"
 #include "runtime/file_installer.h"
 
@@ -13,11 +14,65 @@ namespace quillon {
 
 namespace {
 
+struct EarlierFiles {
+    const FileSystem& files;
+    const Target& target;
+    const InstallJournal& record;
+    const KnownContents& contents;
+};
+
+// In the place of a folder that the product made; those above it are the machine owner's own.
+bool LeadsThroughLink(const EarlierFiles& earlier, const Text& path)
+{
+    for (Text at = ExtractDirectory(path); earlier.record.Has<record::Folder>(at);
+         at = ExtractDirectory(at))
+        if (earlier.target.IsLink(at))
+            return true;
+    return false;
+}
+
+bool IsAsInstalled(const FileSystem& files, const record::Content& content)
+{
+    bool isSame = false;
+    RunErrorNumber([&] {
+        isSame = files.Status(content.path).size == content.size &&
+                 DigestText(DigestOfFile(files, content.path)) == content.digest;
+    });
+    return isSame;
+}
+
+std::optional<Reason> ReasonToStay(const EarlierFiles& earlier, const Text& path)
+{
+    const auto content = earlier.contents.find(LowerCase(path));
+    if (content == earlier.contents.end())
+        return Reason{Message::SkipUnknownContent};
+    if (LeadsThroughLink(earlier, path))
+        return Reason{Message::ReasonLinkInPath};
+    // Of these the system knows more than their contents; the uninstaller tells it that they go.
+    const InstallJournal& record = earlier.record;
+    if (CountOfUsers(earlier.target, path) || record.Has<record::Shared>(path) ||
+        record.Has<record::Registered>(path) || record.Has<record::Font>(path))
+        return Reason{Message::SkipKnownToSystem};
+    if (!IsAsInstalled(earlier.files, content->second))
+        return Reason{Message::SkipChangedFile};
+    return std::nullopt;
+}
+
+std::set<Text> PathsOfNewVersion(const InstallPlan& plan)
+{
+    std::set<Text> paths;
+    for (const PlannedFile& file : plan.files)
+        paths.insert(LowerCase(file.path));
+    for (const SkippedPart& part : plan.skipped)
+        paths.insert(LowerCase(part.what));
+    return paths;
+}
+
 class OldFiles {
 public:
     OldFiles(const OldFilesWork& work, std::size_t earlier, const KnownContents& contents)
         : work_(work), files_(work.host.files), contents_(contents),
-          records_(work.record.Records()), earlier_(earlier)
+          records_(work.record.Records()), earlier_(earlier), wanted_(PathsOfNewVersion(work.plan))
     {
         CollectNewOnes();
     }
@@ -27,9 +82,6 @@ public:
 private:
     void CollectNewOnes();
     bool IsGone(const Text& path);
-    std::optional<Reason> ReasonToStay(const Text& path);
-    bool LeadsThroughLink(const Text& path) const;
-    bool IsAsInstalled(const record::Content& content) const;
     void KeepContents(const std::set<Text>& gone) const;
     void KeepFolder(const Text& folder);
     void NoteFolders(const Text& path);
@@ -52,10 +104,6 @@ void OldFiles::CollectNewOnes()
         if (std::holds_alternative<record::File>(records_[i]) ||
             std::holds_alternative<record::Replaced>(records_[i]))
             written_.insert(LowerCase(SubjectOf(records_[i])));
-    for (const PlannedFile& file : work_.plan.files)
-        wanted_.insert(LowerCase(file.path));
-    for (const SkippedPart& part : work_.plan.skipped)
-        wanted_.insert(LowerCase(part.what));
     for (const std::set<Text>* const paths : {&written_, &wanted_})
         for (const Text& path : *paths)
             KeepFolder(ExtractDirectory(path));
@@ -96,7 +144,8 @@ bool OldFiles::IsGone(const Text& path)
 {
     if (!files_.FileExists(path))
         return true;
-    std::optional<Reason> reason = ReasonToStay(path);
+    std::optional<Reason> reason =
+        ReasonToStay({files_, work_.target, work_.record, contents_}, path);
     std::optional<RunError> failure;
     if (!reason && RunErrorNumber([&] { work_.changes.RemoveFile(path); }, failure) != 0)
         reason = ReasonOf(*failure);
@@ -105,42 +154,6 @@ bool OldFiles::IsGone(const Text& path)
     else
         work_.log.Line(Message::LogRemovesOldFile, path);
     return !reason;
-}
-
-std::optional<Reason> OldFiles::ReasonToStay(const Text& path)
-{
-    const auto content = contents_.find(LowerCase(path));
-    if (content == contents_.end())
-        return Reason{Message::SkipUnknownContent};
-    if (LeadsThroughLink(path))
-        return Reason{Message::ReasonLinkInPath};
-    // Of these the system knows more than their contents; the uninstaller tells it that they go.
-    if (CountOfUsers(work_.target, path) || work_.record.Has<record::Shared>(path) ||
-        work_.record.Has<record::Registered>(path) || work_.record.Has<record::Font>(path))
-        return Reason{Message::SkipKnownToSystem};
-    if (!IsAsInstalled(content->second))
-        return Reason{Message::SkipChangedFile};
-    return std::nullopt;
-}
-
-// In the place of a folder that the product made; those above it are the machine owner's own.
-bool OldFiles::LeadsThroughLink(const Text& path) const
-{
-    for (Text at = ExtractDirectory(path); work_.record.Has<record::Folder>(at);
-         at = ExtractDirectory(at))
-        if (work_.target.IsLink(at))
-            return true;
-    return false;
-}
-
-bool OldFiles::IsAsInstalled(const record::Content& content) const
-{
-    bool isSame = false;
-    RunErrorNumber([&] {
-        isSame = files_.Status(content.path).size == content.size &&
-                 DigestText(DigestOfFile(files_, content.path)) == content.digest;
-    });
-    return isSame;
 }
 
 // What has not been written anew is still what it was.
@@ -170,6 +183,42 @@ void OldFiles::RemoveFolders()
 }
 
 } // namespace
+
+EarlierRecord ReadEarlierRecord(const FileSystem& files, const Target& target, const Text& path)
+{
+    EarlierRecord earlier;
+    if (!files.FileExists(path) || !target.IsOfTrustedUser(path))
+        return earlier;
+    if (auto records = ReadInstallJournal(ReadWholeFile(files, path)))
+        earlier.records = std::move(*records);
+    // They are reported anew, and would come to more with each installation.
+    std::erase_if(earlier.records, [&](const JournalRecord& record) {
+        if (const auto* const content = std::get_if<record::Content>(&record))
+            earlier.contents[LowerCase(content->path)] = *content;
+        return std::holds_alternative<record::Product>(record) ||
+               std::holds_alternative<record::Message>(record) ||
+               std::holds_alternative<record::Content>(record);
+    });
+    return earlier;
+}
+
+std::vector<OldFile> PlanOldFiles(const FileSystem& files, const Target& target,
+                                  const InstallPlan& plan)
+{
+    EarlierRecord earlier = ReadEarlierRecord(files, target, plan.installLog);
+    InstallJournal record;
+    record.TakeOver(std::move(earlier.records));
+    std::set<Text> known = PathsOfNewVersion(plan);
+    for (const PlannedShortcut& shortcut : plan.shortcuts)
+        known.insert(LowerCase(shortcut.path));
+    std::vector<OldFile> found;
+    for (const JournalRecord& one : record.Records())
+        if (const auto* const file = std::get_if<record::File>(&one);
+            file && known.insert(LowerCase(file->path)).second && files.FileExists(file->path))
+            found.push_back(
+                {file->path, ReasonToStay({files, target, record, earlier.contents}, file->path)});
+    return found;
+}
 
 void RemoveOldFiles(const OldFilesWork& work, std::size_t earlierRecords,
                     const KnownContents& contents)

@@ -12,6 +12,25 @@ namespace quillon {
 /// lower case.
 using KnownContents = std::map<Text, record::Content>;
 
+struct EarlierRecord {
+    std::vector<JournalRecord> records; // but for names, texts and contents
+    KnownContents contents;
+};
+
+/// What the record of an earlier installation tells; nothing where there is none, or somebody with
+/// fewer rights has made it.
+EarlierRecord ReadEarlierRecord(const FileSystem& files, const Target& target, const Text& path);
+
+struct OldFile {
+    Text path;
+    std::optional<Reason> stays; // why it does; nothing where it goes
+};
+
+/// What `RemoveOldFiles` would find, as far as that is known before anything is done: a file that a
+/// script of the new version writes again is among them.
+std::vector<OldFile> PlanOldFiles(const FileSystem& files, const Target& target,
+                                  const InstallPlan& plan);
+
 struct OldFilesWork {
     const Host& host;
     Target& target;

@@ -1,7 +1,11 @@
 #include "runtime/plan_report.h"
 
 #include "formats/copy_letters.h"
+#include "runtime/data_access.h"
 #include "runtime/json_writer.h"
+#include "runtime/old_files.h"
+#include "runtime/old_shortcuts.h"
+#include "runtime/startup_files.h"
 #include "runtime/uninstall_entry.h"
 
 namespace quillon {
@@ -90,10 +94,11 @@ void AddTexts(JsonWriter& json, const char* name, const std::vector<Text>& texts
     json.Close();
 }
 
-void AddSkipped(JsonWriter& json, const PlanReportInput& input)
+void AddSkipped(JsonWriter& json, const PlanReportInput& input,
+                const std::vector<SkippedPart>& skipped)
 {
     json.OpenArray("skipped");
-    for (const SkippedPart& part : input.plan.skipped) {
+    for (const SkippedPart& part : skipped) {
         json.OpenObject();
         json.Add("subject", part.what);
         json.Add("reason", KeyOf(part.reason.message).key);
@@ -101,6 +106,138 @@ void AddSkipped(JsonWriter& json, const PlanReportInput& input)
         json.Close();
     }
     json.Close();
+}
+
+void AddScript(JsonWriter& json, const char* name, const Text& script)
+{
+    std::vector<Text> lines;
+    for (const Text& line : SplitLines(script))
+        if (!TrimBlanks(line).empty())
+            lines.push_back(TrimBlanks(line));
+    AddTexts(json, name, lines);
+}
+
+void AddFonts(JsonWriter& json, const InstallPlan& plan)
+{
+    std::vector<Text> paths;
+    for (const PlannedFile& file : plan.files)
+        if (HasOption(file.row->copyOptions, CopyLetter::kFont))
+            paths.push_back(file.path);
+    AddTexts(json, "fonts", paths);
+}
+
+// Lines for systems that read no such files are skipped.
+void AddStartupLines(JsonWriter& json, const PlanReportInput& input,
+                     std::vector<SkippedPart>& skipped)
+{
+    const section::Lists& lists = input.setup.project.Lists;
+    json.OpenArray("startupLines");
+    for (const PlannedStartupLine& planned :
+         PlanStartupLines(input.files, input.target, input.variables, lists)) {
+        json.OpenObject();
+        json.Add("file", planned.path);
+        json.Add("line", planned.line);
+        json.Close();
+    }
+    json.Close();
+    if (ReadsStartupFiles(input.target))
+        return;
+    const auto skip = [&](const char* name, const Text& lines) {
+        if (!lines.empty())
+            skipped.push_back(
+                {input.texts(Message::PartStartupLines, name), {Message::SkipNoStartupFiles}});
+    };
+    skip("AUTOEXEC.BAT", lists.AutoexecBat);
+    skip("CONFIG.SYS", lists.ConfigSys);
+}
+
+// Programs, and the document, which are started beside copying.
+class StartedParts {
+public:
+    StartedParts(JsonWriter& json, const PlanReportInput& input, std::vector<SkippedPart>& skipped)
+        : json_(json), input_(input), skipped_(skipped)
+    {
+    }
+    void AddAll();
+
+private:
+    void Add(const char* when, const Text& part, const Text& path, const Text& parameters,
+             bool isSkipped);
+    void AddAfter(const char* number, const Text& file, const Text& parameters)
+    {
+        if (!file.empty())
+            Add("after", input_.texts(Message::PartProgram, number),
+                input_.variables.ExpandPath(file), parameters, input_.silent);
+    }
+
+    JsonWriter& json_;
+    const PlanReportInput& input_;
+    std::vector<SkippedPart>& skipped_;
+};
+
+void StartedParts::Add(const char* when, const Text& part, const Text& path, const Text& parameters,
+                       bool isSkipped)
+{
+    if (isSkipped) {
+        skipped_.push_back({part, {Message::SkipSilent}});
+        return;
+    }
+    json_.OpenObject();
+    json_.Add("when", when);
+    json_.Add("path", path);
+    if (const Text arguments = TrimBlanks(input_.variables.Expand(parameters)); !arguments.empty())
+        json_.Add("arguments", arguments);
+    json_.Close();
+}
+
+void StartedParts::AddAll()
+{
+    const Project& project = input_.setup.project;
+    const section::RunAppSelfX& first = project.RunAppSelfX;
+    json_.OpenArray("programs");
+    if (!first.ProgramFilename.empty())
+        Add("before", input_.texts[Message::PartFirstProgram], first.ProgramFilename, first.Param,
+            input_.silent && first.VisibleWin != kOff);
+    if (const PlannedFile* const file = FindDataAccess(input_.plan))
+        Add("after", input_.texts(Message::PartDataAccess, file->row->name), file->path, {},
+            input_.silent && project.Databases.MDAAskUser != kOff);
+    AddAfter("1", project.RunAppAfter.AppFileName1, project.RunAppAfter.AppParam1);
+    AddAfter("2", project.RunAppAfter.AppFileName2, project.RunAppAfter.AppParam2);
+    const Text& document = project.ShowDocAfter.DocFileName;
+    if (!document.empty())
+        Add("document", input_.texts[Message::PartDocument], input_.variables.ExpandPath(document),
+            {}, input_.silent);
+    json_.Close();
+}
+
+// What an earlier version has left. What stays of it is skipped.
+void AddRemovals(JsonWriter& json, const PlanReportInput& input, std::vector<SkippedPart>& skipped)
+{
+    const InstallPlan& plan = input.plan;
+    std::vector<Text> files;
+    const auto found = plan.hasUninstaller ? PlanOldFiles(input.files, input.target, plan)
+                                           : std::vector<OldFile>();
+    for (const OldFile& old : found)
+        if (old.stays)
+            skipped.push_back({old.path, *old.stays});
+        else
+            files.push_back(old.path);
+    AddTexts(json, "filesRemoved", files);
+    std::vector<Text> shortcuts;
+    if (input.setup.project.InstallOptions.DeleteProgGroup != kOff) {
+        InstallJournal record;
+        if (plan.hasUninstaller)
+            record.TakeOver(ReadEarlierRecord(input.files, input.target, plan.installLog).records);
+        shortcuts = OldShortcuts(input.files, input.target, record, plan);
+    }
+    AddTexts(json, "shortcutsRemoved", shortcuts);
+}
+
+const char* RestartOf(const section::InstallOptions& options)
+{
+    if (options.NeverRestartWindows != kOff)
+        return "never";
+    return options.RestartWindows != kOff ? "always" : "ifNeeded";
 }
 
 bool IsBelow(const Text& path, const Text& folder)
@@ -125,15 +262,26 @@ Text PlanReport(const PlanReportInput& input)
     json.Add("programGroup", plan.programGroup);
     json.Add("bytes", static_cast<std::int64_t>(bytes));
     json.AddFlag("uninstaller", plan.hasUninstaller);
-    if (plan.hasUninstaller)
+    if (plan.hasUninstaller) {
         json.Add("record", plan.installLog);
+        json.Add("entry", KeyText(UninstallEntryKey(input.setup.project.ProjectName.ProjectName,
+                                                    plan.scope)));
+    }
+    json.Add("restart", RestartOf(input.setup.project.InstallOptions));
     AddTexts(json, "folders", plan.folders);
     AddFiles(json, input);
     AddRegistry(json, plan);
     AddIni(json, plan);
     AddTexts(json, "registrations", plan.registerFiles);
+    AddFonts(json, plan);
     AddShortcuts(json, plan);
-    AddSkipped(json, input);
+    AddScript(json, "scriptBefore", input.setup.project.Lists.RunScriptBefore);
+    AddScript(json, "scriptAfter", input.setup.project.Lists.RunScriptAfter);
+    std::vector<SkippedPart> skipped = plan.skipped;
+    AddStartupLines(json, input, skipped);
+    StartedParts(json, input, skipped).AddAll();
+    AddRemovals(json, input, skipped);
+    AddSkipped(json, input, skipped);
     json.Close();
     return json.Written() + "\n";
 }

@@ -9,7 +9,10 @@ struct PlanReportInput {
     const SetupInformation& setup;
     const LanguageTexts& texts;
     const FileSystem& files;
+    const Target& target;
+    const SetupVariables& variables;
     const InstallPlan& plan;
+    bool silent = false; // what needs a user is skipped then
 };
 
 Text PlanReport(const PlanReportInput& input);

@@ -5,10 +5,10 @@ namespace quillon {
 void ApplyRegistryLine(const RegistryWork& work, const RegistryLine& line)
 {
     using Kind = RegistryLine::Kind;
-    const Text name = KeyText(line.key) + (line.hasValue ? " :: " + line.valueName : "");
     switch (line.kind) {
     case Kind::Key:
         work.changes.MakeKey(line.key);
+        work.log.Line(Message::LogWritesRegistry, KeyText(line.key));
         break;
     case Kind::TextValue:
         work.changes.WriteValue(line.key, line.valueName, TextData(line.text));
@@ -24,18 +24,16 @@ void ApplyRegistryLine(const RegistryWork& work, const RegistryLine& line)
             work.changes.RemoveValue(line.key, line.valueName);
         else
             work.changes.RemoveKeyWithAllBelow(line.key);
-        work.log.Line(Message::LogRemovesRegistry, name);
-        return;
+        break;
     case Kind::Uninstall:
         if (line.hasValue)
             work.record.Add(record::UninstallValue{line.key, line.valueName});
         else
             work.record.Add(record::UninstallKey{line.key});
-        return;
+        break;
     case Kind::Unreadable:
-        return;
+        break;
     }
-    work.log.Line(Message::LogWritesRegistry, name);
 }
 
 } // namespace quillon

@@ -8,7 +8,7 @@ ExitCode DecideRestart(const RestartInput& input)
     const bool always = input.options.RestartWindows != kOff && !never;
     if (!input.isNeeded && !always)
         return ExitCode::Done;
-    if (never || !input.mayAsk)
+    if (never || !input.mayRestart)
         return ExitCode::RestartNeeded;
     if (always) {
         input.ask.Inform(input.title, input.texts[Message::RestartNow]);

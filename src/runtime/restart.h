@@ -14,7 +14,9 @@ struct RestartInput {
     const LanguageTexts& texts;
     Text title;            // of the setup's boxes
     bool isNeeded = false; // a file takes its place then
-    bool mayAsk = true;    // false under /S and /norestart, which start no machine anew
+    // False where nobody is shown a box, under /norestart, and where the user may not start the
+    // machine anew: it goes on running then.
+    bool mayRestart = true;
 };
 
 /// `Done`, `RestartNeeded`, or `RestartStarted` for whoever called the setup to start the machine

@@ -5,11 +5,30 @@
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "runtime/before_install.h"
+#include "runtime/copy_decision.h"
 #include "runtime/failure_reason.h"
 #include "runtime/package_check.h"
 #include "runtime/script/script_run.h"
+#include "runtime/uninstall_entry.h"
 
 namespace quillon {
+
+namespace {
+
+// The version that the list of programs names; empty where the product's folder has gone, and
+// nothing is left that could be newer.
+Text InstalledVersion(const SetupInput& input, const Text& product)
+{
+    const RegistryKey entry = UninstallEntryKey(product, input.switches.scope);
+    const auto textAt = [&](const char* name) {
+        const auto data = input.target.ReadValue(entry, name);
+        return data ? TextOf(*data).value_or("") : Text();
+    };
+    return input.host.files.DirExists(textAt("InstallLocation")) ? textAt("DisplayVersion")
+                                                                 : Text();
+}
+
+} // namespace
 
 void RefuseSwitch(const LanguageTexts& texts, const Text& badSwitch)
 {
@@ -71,6 +90,11 @@ void CheckPassword(const SetupInput& input, const LoadedPackage& package)
         throw SetupFailure(ExitCode::Failed, package.texts[Message::NeedsPassword]);
 }
 
+bool MayWarn(const Switches& switches)
+{
+    return MayAsk(switches) && switches.task != SetupTask::Plan;
+}
+
 void CheckSystem(const SetupCheck& check)
 {
     const Project& project = check.package.setup.project;
@@ -82,10 +106,29 @@ void CheckSystem(const SetupCheck& check)
     if (project.TargetOS.TargetOS_WarnIfWrong == kOff)
         return;
     check.log.Line(Message::LogWrongSystem);
-    const Switches& switches = check.input.switches;
-    if (!switches.silent && switches.task != SetupTask::Plan &&
+    if (MayWarn(check.input.switches) &&
         !check.ask.YesNo(texts(Message::Title, project.ProjectName.ProjectName),
                          texts[Message::WrongSystemQuestion], Ask::Stops::OnNo))
+        throw SetupFailure(ExitCode::Cancelled, {});
+}
+
+void CheckInstalledVersion(const SetupCheck& check)
+{
+    const SetupInformation& setup = check.package.setup;
+    const LanguageTexts& texts = check.package.texts;
+    const Text& product = setup.project.ProjectName.ProjectName;
+    const Text& own = VersionOf(setup);
+    const Text installed = InstalledVersion(check.input, product);
+    if (own.empty() || installed.empty() || CompareVersions(installed, own) <= 0)
+        return;
+    const Switches& switches = check.input.switches;
+    if (!MayAsk(switches))
+        throw SetupFailure(ExitCode::NewerInstalled,
+                           texts(Message::NewerInstalled, installed, own));
+    check.log.Line(Message::LogNewerInstalled, installed, own);
+    if (MayWarn(switches) &&
+        !check.ask.YesNo(texts(Message::Title, product),
+                         texts(Message::NewerInstalledQuestion, installed, own), Ask::Stops::OnNo))
         throw SetupFailure(ExitCode::Cancelled, {});
 }
 

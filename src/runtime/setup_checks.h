@@ -26,8 +26,15 @@ void CheckFiles(const SetupCheck& check);
 bool HasPassword(const Switches& switches, const SetupInformation& setup);
 void CheckPassword(const SetupInput& input, const LoadedPackage& package);
 
+/// Whether somebody is asked about what the project only warns about. A plan asks nobody.
+bool MayWarn(const Switches& switches);
+
 /// Whether the product is meant for this system. Asks about one that the project only warns about.
 void CheckSystem(const SetupCheck& check);
+
+/// Whether a newer version of the product is installed. Where nobody is asked whether the older one
+/// replaces it, the setup ends.
+void CheckInstalledVersion(const SetupCheck& check);
 
 /// Who has made a folder decides who may write to it, and so what the product's programs are.
 void CheckFolder(const SetupCheck& check, const Text& folder);

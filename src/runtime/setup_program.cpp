@@ -38,7 +38,7 @@ public:
     {
     }
 
-    ExitCode Run();
+    SetupEnd Run();
 
 private:
     ExitCode Work();
@@ -57,6 +57,7 @@ private:
     InstallResult InstallPackage();
     void LogSound();
     ExitCode TellTheEnd(const InstallResult& result);
+    bool MayRestart() const;
     Text Title() const { return texts_(Message::Title, setup_.project.ProjectName.ProjectName); }
     ExitCode Tell(const std::vector<Text>& lines);
     ExitCode Uninstall();
@@ -69,10 +70,12 @@ private:
     const LanguageTexts& texts_;
     SetupInformation setup_; // with what the user has chosen
     PassiveAsk withoutBoxes_;
-    Ask& ask_;         // the pages alone have a user who is asked under /SUPPRESSMSGBOXES
-    Text destination_; // empty: the project's own
+    Ask& ask_;            // the pages alone have a user who is asked under /SUPPRESSMSGBOXES
+    UserChoices choices_; // so far
+    Text destination_;    // empty: the project's own
     bool isUpdate_ = false;
     std::unique_ptr<PageChain> chain_;
+    bool startsMachineAnew_ = false;
     ActionLog log_;
 };
 
@@ -81,7 +84,7 @@ ExitCode SetupProgram::Fail(ExitCode code, const Text& text)
     const Text& project = package_.setup.project.ProjectName.ProjectName;
     log_.Line(text.empty() ? Message::LogEnds : Message::LogEndsBecause, NumberText(int(code)),
               text);
-    log_.End(code, false, text);
+    log_.End(code, RunEnd::Stopped, text);
     log_.Close();
     if (!text.empty() && !input_.switches.silent)
         ask_.Critical(texts_(Message::Title, project), text);
@@ -108,7 +111,8 @@ ExitCode SetupProgram::Work()
         return Extract();
     CheckSystem(Checked());
     CheckNetFramework(
-        {setup_.project.NET, input_.target, ask_, log_, texts_, Title(), input_.switches.silent});
+        {setup_.project.NET, input_.target, ask_, log_, texts_, Title(), MayWarn(input_.switches)});
+    CheckInstalledVersion(Checked());
     if (IsTask(SetupTask::Install))
         RunProgramBefore();
     FindDestination();
@@ -119,29 +123,29 @@ ExitCode SetupProgram::Work()
     return TellTheEnd(InstallPackage());
 }
 
-ExitCode SetupProgram::Run()
+SetupEnd SetupProgram::Run()
 {
     try {
         const ExitCode done = Work();
         const ExitCode code = CodeToEndWith(done, input_.switches);
         log_.Line(Message::LogDone);
-        log_.End(code, done == ExitCode::RestartNeeded || done == ExitCode::RestartStarted);
+        log_.End(code, done == ExitCode::Done ? RunEnd::Done : RunEnd::RestartDue);
         log_.Close();
-        return code;
+        return {code, startsMachineAnew_};
     } catch (const SetupFailure& failure) {
-        return Fail(failure.Code(), failure.what());
+        return {Fail(failure.Code(), failure.what())};
     } catch (const ZipError& error) {
         if (error.Reason() == ZipError::Kind::WrongPassword)
-            return Fail(ExitCode::Failed, texts_[Message::WrongPassword]);
-        return Fail(ExitCode::DamagedPackage, texts_(Message::Damaged, texts_(ReasonOf(error))));
+            return {Fail(ExitCode::Failed, texts_[Message::WrongPassword])};
+        return {Fail(ExitCode::DamagedPackage, texts_(Message::Damaged, texts_(ReasonOf(error))))};
     } catch (const RunError& error) {
         if (error.Number() == ErrorNumber::kDiskFull)
-            return Fail(ExitCode::DiskFull, texts_(Message::DiskFull, error.Path()));
+            return {Fail(ExitCode::DiskFull, texts_(Message::DiskFull, error.Path()))};
         if (error.Number() == ErrorNumber::kFileInUse)
-            return Fail(ExitCode::FileInUse, texts_(Message::FileInUse, error.Path()));
-        return Fail(ExitCode::Failed, texts_(Message::Failed, texts_(ReasonOf(error))));
+            return {Fail(ExitCode::FileInUse, texts_(Message::FileInUse, error.Path()))};
+        return {Fail(ExitCode::Failed, texts_(Message::Failed, texts_(ReasonOf(error))))};
     } catch (const std::exception& error) { // too little memory
-        return Fail(ExitCode::Failed, texts_(Message::Failed, FailureReason(error, texts_)));
+        return {Fail(ExitCode::Failed, texts_(Message::Failed, FailureReason(error, texts_)))};
     }
 }
 
@@ -150,12 +154,7 @@ void SetupProgram::OpenLog()
     FileSystem& files = input_.host.files;
     const Machine& machine = input_.host.machine;
     const LogFiles paths = LogFilesOf(input_.switches, files, machine, "QNSETUP");
-    try {
-        log_ = ActionLog(files, machine, paths, texts_);
-    } catch (const RunError&) { // the result at least can tell why
-        RunErrorNumber([&] { log_ = ActionLog(files, machine, {{}, {}, paths.result}, texts_); });
-        throw;
-    }
+    OpenLogs(log_, files, machine, paths, texts_);
     log_.Line(Message::LogBegins, package_.setup.project.ProjectName.ProjectName,
               input_.switches.packageFolder);
 }
@@ -168,13 +167,12 @@ SetupCheck SetupProgram::Checked()
 // What only the package can tell the meaning of.
 void SetupProgram::TakeSwitches()
 {
-    UserChoices choices;
-    choices.programGroup = input_.switches.programGroup;
+    choices_.programGroup = input_.switches.programGroup;
     if (input_.switches.components)
-        if (const auto unknown = TakeComponents(*input_.switches.components, setup_, choices))
+        if (const auto unknown = TakeComponents(*input_.switches.components, setup_, choices_))
             RefuseSwitch(texts_, "/COMPONENTS=" + *unknown);
-    ApplyChoices(choices, setup_);
-    ApplyUser(input_.switches, setup_);
+    TakeAnswers(input_.switches, setup_, input_.host.machine, choices_);
+    ApplyChoices(choices_, setup_);
     if (input_.switches.scope != InstallScope::Project)
         setup_.project.ProgramGroup.ProgramGroup_AllUsers =
             input_.switches.scope == InstallScope::AllUsers ? kOn : kOff;
@@ -195,7 +193,7 @@ void SetupProgram::RunProgramBefore()
 {
     const SetupVariables variables = Variables();
     const auto folder = RunFirstProgram(
-        {input_.host, input_.target, input_.ask, log_, texts_, setup_, variables, package_.manifest,
+        {input_.host, input_.target, ask_, log_, texts_, setup_, variables, package_.manifest,
          input_.switches.packageFolder, input_.workFolder, input_.switches.silent});
     destination_ = folder.value_or("");
 }
@@ -225,9 +223,9 @@ void SetupProgram::LeadThroughPages()
         HasPassword(input_.switches, setup_), input_.switches.scope, input_.switches.canCancel});
     if (chain_->LeadThrough(*input_.pages) == PageChain::End::Cancelled)
         throw SetupFailure(ExitCode::Cancelled, {});
-    const UserChoices& choices = chain_->Choices();
-    if (!choices.destination.empty())
-        destination_ = choices.destination;
+    AddChoices(chain_->Choices(), choices_);
+    if (!choices_.destination.empty())
+        destination_ = choices_.destination;
 }
 
 void SetupProgram::KeepAnswers()
@@ -235,9 +233,9 @@ void SetupProgram::KeepAnswers()
     const Text& path = input_.switches.saveAnswers;
     if (path.empty())
         return;
+    const SetupVariables variables = Variables();
     SaveAnswers(input_.host.files, path,
-                {setup_, Variables().Value(NameOf(VariableMeaning::MainFolder)),
-                 input_.switches.languageFile, input_.switches.scope});
+                {setup_, choices_, variables, input_.switches.languageFile, input_.switches.scope});
     log_.Line(Message::SavesAnswers, path);
 }
 
@@ -260,7 +258,7 @@ PackageReader SetupProgram::Reader()
 {
     return PackageReader({input_.host, ask_, log_, texts_, setup_, package_.rows,
                           input_.openContainer, input_.switches.packageFolder, input_.workFolder,
-                          setup_.project.DialogBoxData.CorrectPassword, input_.switches.silent,
+                          setup_.project.DialogBoxData.CorrectPassword, !MayAsk(input_.switches),
                           &package_.manifest});
 }
 
@@ -320,8 +318,17 @@ ExitCode SetupProgram::TellTheEnd(const InstallResult& result)
             chain_->ShowDocument(*input_.pages, setup_.project.ShowDocAfter.InternalRTFBoxDlgTitle,
                                  rtf);
     });
-    return DecideRestart({setup_.project.InstallOptions, ask_, texts_, Title(), result.needsRestart,
-                          !input_.switches.silent && !input_.switches.noRestart});
+    const ExitCode code = DecideRestart(
+        {setup_.project.InstallOptions, ask_, texts_, Title(), result.needsRestart, MayRestart()});
+    startsMachineAnew_ = code == ExitCode::RestartStarted;
+    return code;
+}
+
+// Never unannounced, and nothing is promised that the user has no right to.
+bool SetupProgram::MayRestart() const
+{
+    return MayAsk(input_.switches) && !input_.switches.noRestart &&
+           (input_.mayRestart == nullptr || input_.mayRestart());
 }
 
 // What is asked for is shown also where boxes are not wanted, but never under /S.
@@ -329,7 +336,7 @@ ExitCode SetupProgram::Tell(const std::vector<Text>& lines)
 {
     Text whole;
     for (const Text& line : lines) {
-        log_.TextLine(line);
+        log_.Line(Message::LogNote, line);
         whole += (whole.empty() ? Text() : Text(kLineBreak)) + line;
     }
     if (!input_.switches.silent)
@@ -361,20 +368,24 @@ ExitCode SetupProgram::Extract()
 ExitCode SetupProgram::WritePlan()
 {
     const SetupVariables variables = Variables();
+    CheckFolder(Checked(), variables.Value(NameOf(VariableMeaning::MainFolder)));
     const InstallPlan plan = Plan(variables);
-    Reader().CheckEverything();
     FileSystem& files = input_.host.files;
+    CheckHelpers(files, input_.switches.packageFolder, plan, texts_);
+    Reader().CheckEverything();
     CheckFreeSpace(files, plan);
     const Text& wanted = input_.switches.planFile;
     const Text path =
         wanted.empty() ? NewFileInTemp(files, input_.host.machine, "QNSETUP", ".JSON") : wanted;
-    WriteWholeFile(files, path, PlanReport({setup_, texts_, files, plan}));
+    WriteWholeFile(files, path,
+                   PlanReport({setup_, texts_, files, input_.target, variables, plan,
+                               input_.switches.silent}));
     return Tell({texts_(Message::PlanWritten, path)});
 }
 
 } // namespace
 
-ExitCode RunSetup(const SetupInput& input, const LoadedPackage& package)
+SetupEnd RunSetup(const SetupInput& input, const LoadedPackage& package)
 {
     return SetupProgram(input, package).Run();
 }

@@ -32,9 +32,18 @@ struct SetupInput {
     std::function<void(const Text& file, const Text& arguments)> startAsUser = {};
     FileUsers* users = nullptr;    // null: nothing is known of programs that hold files
     RunProgramToEnd runToEnd = {}; // for /UNINSTALL
+    // Whether this user may start the machine anew; null: yes.
+    bool (*mayRestart)() = nullptr;
+};
+
+struct SetupEnd {
+    ExitCode code = ExitCode::Done;
+    // What the caller does as the last thing of all. The code alone does not say so: a script, or
+    // the uninstaller that was started, may end with any.
+    bool startsMachineAnew = false;
 };
 
 /// Installs, and tells the user and the log what went wrong.
-ExitCode RunSetup(const SetupInput& input, const LoadedPackage& package);
+SetupEnd RunSetup(const SetupInput& input, const LoadedPackage& package);
 
 } // namespace quillon

@@ -61,14 +61,9 @@ void SetProjectTexts(SetupVariables& variables, const VariableSources& sources)
 
 void SetUser(SetupVariables& variables, const VariableSources& sources)
 {
-    const section::LicenseData& user = sources.setup.project.LicenseData;
-    RegisteredOwner owner;
-    if (sources.setup.project.DialogBoxData.GetNameCompanyFromRegistry != kOff)
-        owner = sources.host.machine.GetWindowsRegisteredOwner();
-    // As the tool previews it: what the machine knows goes before what the project proposes.
-    variables.Set(Meaning::UserCompany,
-                  owner.organization.empty() ? user.UserCompany : owner.organization);
-    variables.Set(Meaning::UserName, owner.owner.empty() ? user.UserName : owner.owner);
+    const section::LicenseData user = ProposedUser(sources.setup, sources.host.machine);
+    variables.Set(Meaning::UserCompany, user.UserCompany);
+    variables.Set(Meaning::UserName, user.UserName);
     variables.Set(Meaning::UserAddress, user.UserAddress);
     variables.Set(Meaning::UserPhone, user.UserPhone);
     variables.Set(Meaning::UserFax, user.UserFax);
@@ -149,6 +144,20 @@ Text SetupVariables::ExpandPath(std::string_view path) const
     const Text expanded = RemoveDupBackslashesEx(TrimBlanks(Expand(path)));
     const bool isRoot = expanded.size() == 3 && expanded[1] == ':';
     return isRoot ? expanded : RemoveLastBackslash(expanded);
+}
+
+// As the tool previews it: what the machine knows goes before what the project proposes.
+section::LicenseData ProposedUser(const SetupInformation& setup, const Machine& machine)
+{
+    section::LicenseData user = setup.project.LicenseData;
+    RegisteredOwner owner;
+    if (setup.project.DialogBoxData.GetNameCompanyFromRegistry != kOff)
+        owner = machine.GetWindowsRegisteredOwner();
+    if (!owner.organization.empty())
+        user.UserCompany = owner.organization;
+    if (!owner.owner.empty())
+        user.UserName = owner.owner;
+    return user;
 }
 
 SetupVariables MakeSetupVariables(const VariableSources& sources)

@@ -39,6 +39,9 @@ struct VariableSources {
     InstallScope scope = InstallScope::Project;
 };
 
+/// The names of the registration page before anybody has chosen any.
+section::LicenseData ProposedUser(const SetupInformation& setup, const Machine& machine);
+
 SetupVariables MakeSetupVariables(const VariableSources& sources);
 
 /// The text of the registry value that a private variable names: "HKEY_...\key :: name", or the

@@ -25,6 +25,9 @@ constexpr unsigned char kOfCodePage850[] = {
 };
 static_assert(sizeof kOfCodePage850 == 0x100 - kFirstOther);
 
+constexpr const char* kAutoexec = "AUTOEXEC.BAT";
+constexpr const char* kConfig = "CONFIG.SYS";
+
 std::string DosBytes(const Text& line)
 {
     std::string bytes = AnsiText::ToBytes(line);
@@ -54,9 +57,9 @@ std::size_t FindLine(std::string_view bytes, std::string_view line)
 }
 
 // Set up from another disk than C:, Windows still starts from its boot disk.
-Text BootFolder(const StartupWork& work)
+Text BootFolder(const Target& target)
 {
-    const auto folder = work.target.ReadValue(
+    const auto folder = target.ReadValue(
         {RegistryRoot::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Setup"},
         "BootDir");
     const Text path = folder ? TextOf(*folder).value_or("") : Text();
@@ -66,7 +69,7 @@ Text BootFolder(const StartupWork& work)
 class StartupFile {
 public:
     StartupFile(const StartupWork& work, const char* name)
-        : work_(work), path_(JoinPath(BootFolder(work), name))
+        : work_(work), path_(JoinPath(BootFolder(work.target), name))
     {
     }
 
@@ -118,19 +121,44 @@ void StartupFile::AddLine(std::string& bytes, const Text& line)
 
 } // namespace
 
+bool ReadsStartupFiles(const Target& target)
+{
+    return target.System() <= SystemKind::WinME;
+}
+
+std::vector<PlannedStartupLine> PlanStartupLines(const FileSystem& files, const Target& target,
+                                                 const SetupVariables& variables,
+                                                 const section::Lists& lists)
+{
+    std::vector<PlannedStartupLine> planned;
+    const auto plan = [&](const char* name, const Text& lines) {
+        const Text path = JoinPath(BootFolder(target), name);
+        const std::string bytes = files.FileExists(path) ? ReadWholeFile(files, path) : "";
+        for (const Text& line : SplitLines(lines))
+            if (const Text added = variables.Expand(line);
+                !TrimBlanks(line).empty() && FindLine(bytes, DosBytes(added)) == std::string::npos)
+                planned.push_back({path, added});
+    };
+    if (!ReadsStartupFiles(target))
+        return planned;
+    plan(kAutoexec, lists.AutoexecBat);
+    plan(kConfig, lists.ConfigSys);
+    return planned;
+}
+
 void WriteStartupFiles(const StartupWork& work, const section::Lists& lists)
 {
     const auto write = [&](const char* name, const Text& lines) {
         if (lines.empty())
             return;
-        if (work.target.System() > SystemKind::WinME)
+        if (!ReadsStartupFiles(work.target))
             work.log.Skipped(work.texts(Message::PartStartupLines, name),
                              {Message::SkipNoStartupFiles});
         else
             StartupFile(work, name).Add(lines);
     };
-    write("AUTOEXEC.BAT", lists.AutoexecBat);
-    write("CONFIG.SYS", lists.ConfigSys);
+    write(kAutoexec, lists.AutoexecBat);
+    write(kConfig, lists.ConfigSys);
 }
 
 void UndoStartupLine(FileSystem& files, const record::StartupLine& line)

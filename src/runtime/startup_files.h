@@ -17,6 +17,20 @@ struct StartupWork {
     const SetupVariables& variables;
 };
 
+struct PlannedStartupLine {
+    Text path;
+    Text line;
+};
+
+/// The lines that would be added: those that are not there yet, and none where the system reads no
+/// such files.
+std::vector<PlannedStartupLine> PlanStartupLines(const FileSystem& files, const Target& target,
+                                                 const SetupVariables& variables,
+                                                 const section::Lists& lists);
+
+/// Whether the system reads the files.
+bool ReadsStartupFiles(const Target& target);
+
 void WriteStartupFiles(const StartupWork& work, const section::Lists& lists);
 
 /// Takes the line out of its file again; nothing happens where it is no longer there.

@@ -94,7 +94,8 @@ bool SetDestination(Switches& switches, const Text& value)
 {
     // In its plain form, for it becomes a part of every path, and of the record of them.
     switches.destination = ResolvePath(value);
-    return IsAbsolutePath(value) && IsAbsolutePath(switches.destination);
+    return IsAbsolutePath(value) && IsAbsolutePath(switches.destination) &&
+           FaultOfFolder(switches.destination) == PathFault::None;
 }
 
 bool SetLanguage(Switches& switches, const Text& value)

@@ -49,7 +49,14 @@ struct Switches {
     std::optional<Text> badSwitch; // the first one that is none, as it was given
     // Names of the registration page by their keys in a file of answers.
     std::vector<std::pair<Text, Text>> user;
+    std::vector<std::pair<int, Text>> componentFolders; // by their numbers, from the same
 };
+
+/// False where nobody is shown a box: under /S, /passive and /SUPPRESSMSGBOXES.
+inline bool MayAsk(const Switches& switches)
+{
+    return !switches.silent && !switches.suppressBoxes;
+}
 
 /// `commandLine` is what follows the program's own name.
 Switches ReadSwitches(std::string_view commandLine);

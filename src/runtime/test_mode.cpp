@@ -33,16 +33,12 @@ TestWindow Describe(const LoadedPackage& package, TestMode mode)
     return mode == TestMode::Test ? DescribePages(package) : DescribeScreen(package);
 }
 
-void LogWindow(const TestInput& input, const TestWindow& window, const LanguageTexts& texts)
+void LogWindow(ActionLog& log, const TestWindow& window)
 {
-    if (input.switches.logFile.empty())
-        return;
-    ActionLog log(input.host.files, input.host.machine, input.switches.logFile, texts);
     for (const Text& line : {window.title, window.note, window.heading})
-        log.TextLine(line);
+        log.Line(Message::LogNote, line);
     for (const Text& line : window.lines)
-        log.TextLine(line);
-    log.Close();
+        log.Line(Message::LogNote, line);
 }
 
 // As the user of the setup would be led, but for the installation itself.
@@ -101,23 +97,32 @@ LoadedPackage LoadForTest(const FileSystem& files, const Text& folder, TestMode 
 ExitCode RunTest(const TestInput& input, LoadedPackage& package)
 {
     const LanguageTexts& texts = package.texts;
+    ActionLog log;
     const auto fail = [&](ExitCode code, const Text& text) {
+        log.Line(Message::LogEndsBecause, NumberText(int(code)), text);
+        log.End(code, RunEnd::Stopped, text);
+        log.Close();
         if (!input.switches.silent)
             input.ask.Critical(texts(TitleFor(*input.switches.testMode), ProjectNameOf(package)),
                                text);
         return code;
     };
-    if (input.switches.badSwitch)
-        return fail(ExitCode::BadSwitch, texts(Message::BadSwitch, *input.switches.badSwitch));
-    if (package.fault)
-        return fail(ExitCode::Failed, texts(Message::TestFiles, texts(*package.fault)));
     try {
+        OpenLogs(log, input.host.files, input.host.machine,
+                 LogFilesOf(input.switches, input.host.files, input.host.machine, "QNSETUP"),
+                 texts);
+        if (input.switches.badSwitch)
+            return fail(ExitCode::BadSwitch, texts(Message::BadSwitch, *input.switches.badSwitch));
+        if (package.fault)
+            return fail(ExitCode::Failed, texts(Message::TestFiles, texts(*package.fault)));
         const TestWindow window = Describe(package, *input.switches.testMode);
-        LogWindow(input, window, texts);
+        LogWindow(log, window);
         if (!input.switches.silent && input.switches.testMode == TestMode::Test)
             LeadThroughPages(input, package);
         else if (!input.switches.silent)
             input.show(window);
+        log.End(ExitCode::Done, RunEnd::Done);
+        log.Close();
         return ExitCode::Done;
     } catch (const RunError& error) {
         return fail(ExitCode::Failed, texts(Message::TestFiles, texts(ReasonOf(error))));

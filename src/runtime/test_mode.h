@@ -1,6 +1,6 @@
 // What the setup does when its author tries it from the tool: it reads its files, leads through its
-// pages or shows its screen, and installs nothing. Nothing is written but the log that /LOG= asks
-// for.
+// pages or shows its screen, and installs nothing. Nothing is written but the logs that are
+// asked for.
 #pragma once
 
 #include "runtime/setup_program.h"

@@ -30,8 +30,7 @@ void UninstallProgram::Prepare()
     FindProduct();
     FileSystem& files = input_.host.files;
     const Machine& machine = input_.host.machine;
-    log_ =
-        ActionLog(files, machine, LogFilesOf(GivenSwitches(), files, machine, "QNXUNIN"), Texts());
+    OpenLogs(log_, files, machine, LogFilesOf(GivenSwitches(), files, machine, "QNXUNIN"), Texts());
     // A run that is refused, or only tells something, changes nothing.
     if (GivenSwitches().badSwitch || input_.otherSetupRuns || IsToTell())
         return;
@@ -84,13 +83,24 @@ std::optional<UninstallProgram::Refusal> UninstallProgram::WhyRefused() const
     return std::nullopt;
 }
 
+namespace {
+
+RunEnd EndOf(ExitCode code)
+{
+    if (code == ExitCode::Done)
+        return RunEnd::Done;
+    return code == ExitCode::RestartNeeded ? RunEnd::RestartDue : RunEnd::Stopped;
+}
+
+} // namespace
+
 // The last line of every log, whatever the end is.
 ExitCode UninstallProgram::End(ExitCode code, const Text& error)
 {
     const ExitCode given = CodeToEndWith(code, GivenSwitches());
     if (!error.empty())
         log_.Line(Message::LogEndsBecause, NumberText(static_cast<int>(given)), error);
-    log_.End(given, code == ExitCode::RestartNeeded, error);
+    log_.End(given, EndOf(code), error);
     log_.Close();
     return given;
 }
@@ -118,7 +128,7 @@ ExitCode UninstallProgram::Tell(Ask& ask)
             : std::vector<Text>{VersionLine(product_->name, InstalledVersion(), Texts())};
     Text whole;
     for (const Text& line : lines) {
-        log_.TextLine(line);
+        log_.Line(Message::LogNote, line);
         whole += (whole.empty() ? Text() : Text(kLineBreak)) + line;
     }
     ask.Inform(Title(), whole);

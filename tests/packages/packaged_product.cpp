@@ -151,11 +151,11 @@ InstalledProduct RunProduct(const PackageFiles& files, const Text& given)
     switches.packageFolder = kPackage;
     switches.logFile = kLog;
     SilentAsk ask;
-    const ExitCode code = RunSetup({machine.memory.host, machine.target, ask,
-                                    DirectContainers(machine.memory.files), switches, kWork},
-                                   package);
+    const SetupEnd end = RunSetup({machine.memory.host, machine.target, ask,
+                                   DirectContainers(machine.memory.files), switches, kWork},
+                                  package);
     InstalledProduct installed{
-        code, machine.memory.files.Get(kLog), StateOf(machine.memory, machine.target), {}};
+        end.code, machine.memory.files.Get(kLog), StateOf(machine.memory, machine.target), {}};
     for (const auto& [path, node] : machine.memory.files.nodes)
         if (node.bytes)
             installed.modified[path] = node.status.modified;

@@ -160,7 +160,19 @@ TEST_F(FilesInUse, AreLeftUnderSilence)
     programs.Run(kProgram, "Exempelprogram");
     EXPECT_TRUE(Free({}, "/S"));
     EXPECT_TRUE(Free({}, "/passive"));
+    EXPECT_TRUE(Free({}, "/SUPPRESSMSGBOXES"));
     EXPECT_EQ(programs.closings, 0);
+}
+
+TEST_F(FilesInUse, EndNothingWhereNobodyIsToCancel)
+{
+    programs.Run(kProgram, "Exempelprogram");
+    EXPECT_TRUE(
+        Free({{BoxKind::YesNo, kTitle, kPrograms + "Exempelprogram\r\n" + kClose, Answer::No}},
+             "/NOCANCEL"));
+    EXPECT_EQ(programs.closings, 0);
+    EXPECT_TRUE(Free({{BoxKind::YesNo, kTitle, "", Answer::Yes}}, "/NOCANCEL"));
+    EXPECT_EQ(programs.closings, 1);
 }
 
 TEST_F(FilesInUse, AreFreedWithoutAQuestionWhereTheLineSaysSo)

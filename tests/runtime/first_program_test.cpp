@@ -101,6 +101,9 @@ TEST_F(FirstProgramTest, BeginsAgainOrEndsWhereItGoesBack)
     target.onProgram = [](const ProgramRun&) {};
     EndWith(2);
     EXPECT_EQ(Install("/S"), ExitCode::Cancelled);
+    ScriptedAsk nobody;
+    ask = &nobody;
+    EXPECT_EQ(Install("/SUPPRESSMSGBOXES"), ExitCode::Cancelled);
 }
 
 TEST_F(FirstProgramTest, GivesTheMainFolderFromTheRegistry)

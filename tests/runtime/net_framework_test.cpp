@@ -117,8 +117,22 @@ TEST_F(NetFrameworkTest, WarnsInTheLogAloneWhereNothingIsShown)
 {
     project.NET.NET_StopIfNoNET = kOff;
     project.NET.NET_WarnIfNoNET = kOn;
-    EXPECT_EQ(Install("/S"), ExitCode::Done);
-    EXPECT_THAT(Log(), HasSubstr("Microsoft .NET Framework 1.1 eller senare finns inte på datorn"));
+    ScriptedAsk nobody;
+    for (const char* switches : {"/S", "/SUPPRESSMSGBOXES"}) {
+        ask = &nobody;
+        EXPECT_EQ(Install(switches), ExitCode::Done) << switches;
+        EXPECT_THAT(Log(),
+                    HasSubstr("Microsoft .NET Framework 1.1 eller senare finns inte på datorn"));
+    }
+}
+
+TEST_F(NetFrameworkTest, AsksNobodyForAPlan)
+{
+    project.NET.NET_StopIfNoNET = kOff;
+    project.NET.NET_WarnIfNoNET = kOn;
+    ScriptedAsk user({{BoxKind::Inform, "Installation av Exempel"}});
+    ask = &user;
+    EXPECT_EQ(Install("/PLAN=L:\\plan.json"), ExitCode::Done);
 }
 
 } // namespace

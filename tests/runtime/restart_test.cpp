@@ -1,5 +1,6 @@
 #include "runtime/restart.h"
 
+#include "helpers/number_text.h"
 #include "setup_fixture.h"
 
 #include <gmock/gmock.h>
@@ -80,6 +81,61 @@ TEST_F(RestartTest, NeverComesBySilenceOrAgainstTheSwitch)
     HoldTheFile();
     options.RestartWindows = kOff;
     EXPECT_EQ(InstallWith("/S", {}), ExitCode::RestartNeeded);
+}
+
+TEST_F(RestartTest, NeverComesUnannouncedWhereBoxesAreSuppressed)
+{
+    options.RestartWindows = kOn;
+    EXPECT_EQ(InstallWith("/SUPPRESSMSGBOXES", {}), ExitCode::RestartNeeded);
+    EXPECT_FALSE(startsMachineAnew);
+}
+
+TEST_F(RestartTest, IsNotPromisedToAUserWhoHasNoRightToIt)
+{
+    mayRestart = [] { return false; };
+    options.RestartWindows = kOn;
+    EXPECT_EQ(InstallWith("/RESTARTEXITCODE=77", {}), ExitCode{77});
+    EXPECT_FALSE(startsMachineAnew);
+    HoldTheFile();
+    options.RestartWindows = kOff;
+    EXPECT_EQ(InstallWith("", {}), ExitCode::RestartNeeded);
+    mayRestart = [] { return true; };
+    EXPECT_EQ(InstallWith("", {{BoxKind::YesNo, kTitle, kQuestion, Answer::Yes}}),
+              ExitCode::RestartStarted);
+    EXPECT_TRUE(startsMachineAnew);
+}
+
+// The code is the caller's, and says nothing of what the machine does.
+TEST_F(RestartTest, DoesNotComeFromACodeAlone)
+{
+    options.RestartWindows = kOn;
+    for (const char* switches : {"/S", "/passive", "/norestart"}) {
+        EXPECT_EQ(InstallWith(Text(switches) + " /RESTARTEXITCODE=1641", {}),
+                  ExitCode::RestartStarted)
+            << switches;
+        EXPECT_FALSE(startsMachineAnew) << switches;
+    }
+    options.NeverRestartWindows = kOn;
+    HoldTheFile();
+    EXPECT_EQ(InstallWith("/RESTARTEXITCODE=1641", {}), ExitCode::RestartStarted);
+    EXPECT_FALSE(startsMachineAnew);
+    codeOfStarted = 1641;
+    EXPECT_EQ(InstallWith("/S /uninstall", {}), ExitCode::RestartStarted);
+    EXPECT_FALSE(startsMachineAnew);
+}
+
+TEST_F(RestartTest, DoesNotComeFromTheCodeOfAScriptThatIsUndone)
+{
+    options.RestartWindows = kOn;
+    for (const Text code : {"1641", "3010"}) {
+        project.Lists.RunScriptBefore = "EXIT " + code + " \"Stopp\"";
+        const MachineState before = State();
+        EXPECT_EQ(InstallWith("/S /RESULT=L:\\r.json", {}), ExitCode(LeadingNumber(code)));
+        EXPECT_EQ(State(), before);
+        EXPECT_FALSE(startsMachineAnew);
+        EXPECT_THAT(memory.files.Get("L:\\r.json"), HasSubstr("\"result\":\"failed\""));
+        EXPECT_THAT(memory.files.Get("L:\\r.json"), HasSubstr("\"restart\":false"));
+    }
 }
 
 } // namespace

@@ -149,25 +149,29 @@ ExitCode SetupFixture::Install(const Text& switches)
         read.logFile = kLogFile;
     LoadAnswers(files, read);
     SilentAsk silent;
-    return RunSetup({host, target, ask ? *ask : silent,
-                     [this](const Text& path) {
-                         openedContainer = path;
-                         if (isContainerMissing)
-                             throw RunError(ErrorNumber::kFileNotFound, path);
-                         return std::make_unique<MemoryContainer>(sources, damagedEntry);
-                     },
-                     read, kWorkFolder, pages, sound, otherSetupRuns,
-                     [this](const Text& file, const Text& arguments) {
-                         if (!files.FileExists(file))
-                             throw RunError(ErrorNumber::kFileNotFound, file);
-                         started.push_back(file + (arguments.empty() ? "" : " " + arguments));
-                     },
-                     users,
-                     [this](const Text& program, const Text& arguments) {
-                         started.push_back(program + " " + arguments);
-                         return codeOfStarted;
-                     }},
-                    package);
+    const SetupEnd end =
+        RunSetup({host, target, ask ? *ask : silent,
+                  [this](const Text& path) {
+                      openedContainer = path;
+                      if (isContainerMissing)
+                          throw RunError(ErrorNumber::kFileNotFound, path);
+                      return std::make_unique<MemoryContainer>(sources, damagedEntry);
+                  },
+                  read, kWorkFolder, pages, sound, otherSetupRuns,
+                  [this](const Text& file, const Text& arguments) {
+                      if (!files.FileExists(file))
+                          throw RunError(ErrorNumber::kFileNotFound, file);
+                      started.push_back(file + (arguments.empty() ? "" : " " + arguments));
+                  },
+                  users,
+                  [this](const Text& program, const Text& arguments) {
+                      started.push_back(program + " " + arguments);
+                      return codeOfStarted;
+                  },
+                  mayRestart},
+                 package);
+    startsMachineAnew = end.startsMachineAnew;
+    return end.code;
 }
 
 ExitCode SetupFixture::UninstallProduct(const Text& path)

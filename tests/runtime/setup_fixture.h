@@ -161,9 +161,11 @@ protected:
     BackgroundSound* sound = nullptr;
     bool otherSetupRuns = false;
     FileUsers* users = nullptr;
-    std::vector<LeftBehind> left; // what UninstallProduct has told to be there still
-    std::vector<Text> started;    // a file, and its arguments behind a blank
-    int codeOfStarted = 0;        // of a program that is waited for
+    bool (*mayRestart)() = nullptr;
+    bool startsMachineAnew = false; // what Install has ended with beside its code
+    std::vector<LeftBehind> left;   // what UninstallProduct has told to be there still
+    std::vector<Text> started;      // a file, and its arguments behind a blank
+    int codeOfStarted = 0;          // of a program that is waited for
 };
 
 } // namespace quillon::test

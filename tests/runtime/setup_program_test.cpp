@@ -413,6 +413,10 @@ TEST_F(SetupProgramTest, WarnsOfTheWrongSystem)
     ask = nullptr;
     EXPECT_EQ(Install(), ExitCode::Done);
     EXPECT_THAT(Log(), HasSubstr("Paketet är inte avsett för den här versionen av Windows"));
+    ScriptedAsk nobody;
+    ask = &nobody;
+    EXPECT_EQ(Install("/SUPPRESSMSGBOXES"), ExitCode::Done);
+    EXPECT_THAT(Log(), HasSubstr("Paketet är inte avsett för den här versionen av Windows"));
 }
 
 TEST_F(SetupProgramTest, EndsAsCancelledAndUndoneWhenTheUserCancels)
@@ -551,6 +555,9 @@ TEST_F(SetupProgramTest, AsksForTheNextDiskUntilItIsThere)
     ScriptedAsk script({{BoxKind::OkCancel, "Exempel", "Sätt in diskett 2.", Answer::No}});
     ask = &script;
     EXPECT_EQ(InstallInVain(""), ExitCode::Cancelled);
+    ScriptedAsk nobody;
+    ask = &nobody;
+    EXPECT_EQ(InstallInVain("/SUPPRESSMSGBOXES"), ExitCode::DamagedPackage);
 }
 
 TEST_F(SetupProgramTest, AsksAgainWhileTheDriveIsEmpty)

@@ -58,6 +58,9 @@ protected:
                     package);
         std::map<Text, std::string> after = Files();
         after.erase("c:\\log.txt");
+        std::erase_if(after, [](const auto& file) {
+            return file.first.find("\\qnsetup-") != std::string::npos;
+        });
         EXPECT_EQ(after, before);
         return code;
     }
@@ -233,6 +236,23 @@ TEST_F(TestModeTest, WritesWhatItShowsToTheLogThatIsAskedFor)
     EXPECT_THAT(log, HasSubstr("Förhandsgranskning av "));
     EXPECT_THAT(log, HasSubstr("Installationsskärmen:"));
     EXPECT_THAT(log, HasSubstr("Storlek: "));
+}
+
+TEST_F(TestModeTest, WritesTheLogsForPrograms)
+{
+    EXPECT_EQ(Run("/TEST /S /LOGJSON=C:\\log.txt"), ExitCode::Done);
+    EXPECT_THAT(memory.files.Get("C:\\log.txt"), HasSubstr("\"action\":\"Log_Note\""));
+    EXPECT_THAT(memory.files.Get("C:\\log.txt"), HasSubstr("\"result\":\"done\",\"code\":0"));
+    memory.files.RemoveFile("C:\\log.txt");
+    EXPECT_EQ(Run("/PREVIEW /S /RESULT=C:\\log.txt /X"), ExitCode::BadSwitch);
+    EXPECT_THAT(memory.files.Get("C:\\log.txt"),
+                HasSubstr("\"result\":\"bad switch\",\"code\":1639"));
+    memory.files.RemoveFile("C:\\log.txt");
+    memory.files.PutFolder("C:\\TEMP");
+    EXPECT_EQ(Run("/TEST /S /LOG"), ExitCode::Done);
+    const auto temp = memory.files.List("C:\\TEMP");
+    ASSERT_EQ(temp.size(), 1U);
+    EXPECT_THAT(temp[0].name, testing::StartsWith("QNSETUP-"));
 }
 
 TEST_F(TestModeTest, IsSilentWithoutATrace)

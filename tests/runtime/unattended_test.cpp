@@ -18,6 +18,7 @@ using test::BoxKind;
 using test::MachineState;
 using test::ScriptedAsk;
 using test::ScriptedPages;
+using test::Typing;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
@@ -227,6 +228,94 @@ TEST_F(UnattendedTest, PlansAndDoesNothing)
     EXPECT_EQ(plan["skipped"][0]["reason"], "Skip_ComponentOff");
 }
 
+TEST_F(UnattendedTest, PlansWhatRunsBesideCopying)
+{
+    AddFile("gammal.txt", "%DESTDIR", "old");
+    AddFile("egen.txt", "%DESTDIR", "own");
+    AddFile("MDAC_TYP.ZIP", "%DESTDIR", "mdac");
+    AddFile("brev.ttf", "%DESTDIR", "font", "F");
+    package.rows[0].iconMarker = "IKON";
+    package.rows[0].iconTitle = "Exempel";
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    memory.files.Put(kMain + "\\egen.txt", "changed");
+    package.rows.erase(package.rows.begin() + 1, package.rows.begin() + 3);
+    package.rows[0].iconTitle = "Nytt namn";
+    project.InstallOptions.DeleteProgGroup = kOn;
+    project.InstallOptions.RestartWindows = kOn;
+    project.Lists.RunScriptBefore = "LOG \"ett\"\r\n\r\n  LOG \"två\"\r\n";
+    project.Lists.RunScriptAfter = "LOG \"tre\"";
+    project.Lists.AutoexecBat = "SET A=%DESTDIR\r\n";
+    project.RunAppSelfX.ProgramFilename = "licens.exe";
+    project.RunAppSelfX.VisibleWin = kOff;
+    project.RunAppAfter.AppFileName1 = "%DESTDIR\\bin\\prog.exe";
+    project.RunAppAfter.AppParam1 = " /x ";
+    project.ShowDocAfter.DocFileName = "%DESTDIR\\egen.txt";
+    ScriptedAsk script({{BoxKind::Inform, kTitle}});
+    ask = &script;
+    EXPECT_EQ(RunInVain("/PLAN=L:\\plan.json"), ExitCode::Done) << Log();
+    const json plan = json::parse(BytesOf("L:\\plan.json"));
+    EXPECT_EQ(plan["entry"], KeyText(UninstallEntryKey("Exempel")));
+    EXPECT_EQ(plan["restart"], "always");
+    EXPECT_EQ(plan["fonts"], json({kMain + "\\brev.ttf"}));
+    EXPECT_EQ(plan["scriptBefore"], json({"LOG \"ett\"", "LOG \"två\""}));
+    EXPECT_EQ(plan["scriptAfter"], json({"LOG \"tre\""}));
+    EXPECT_EQ(plan["programs"].dump(),
+              json({{{"path", "licens.exe"}, {"when", "before"}},
+                    {{"path", kMain + "\\MDAC_TYP.ZIP"}, {"when", "after"}},
+                    {{"arguments", "/x"}, {"path", kMain + "\\bin\\prog.exe"}, {"when", "after"}},
+                    {{"path", kMain + "\\egen.txt"}, {"when", "document"}}})
+                  .dump());
+    EXPECT_EQ(plan["filesRemoved"], json({kMain + "\\gammal.txt"}));
+    EXPECT_EQ(plan["shortcutsRemoved"],
+              json({"C:\\Ulla\\Start-meny\\Program\\Exempelgrupp\\Exempel.lnk"}));
+    EXPECT_TRUE(plan["startupLines"].empty());
+    std::map<std::string, std::string> skipped;
+    for (const json& part : plan["skipped"])
+        skipped[part["subject"]] = part["reason"];
+    EXPECT_EQ(skipped[kMain + "\\egen.txt"], "Skip_ChangedFile");
+    EXPECT_EQ(skipped["raderna till AUTOEXEC.BAT"], "Skip_NoStartupFiles");
+    // The installation itself does what the plan says.
+    ask = nullptr;
+    project.RunAppSelfX.ProgramFilename.clear();
+    project.InstallOptions.RestartWindows = kOff;
+    ASSERT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_FALSE(files.FileExists(kMain + "\\gammal.txt"));
+    EXPECT_TRUE(files.FileExists(kMain + "\\egen.txt"));
+    EXPECT_FALSE(files.FileExists("C:\\Ulla\\Start-meny\\Program\\Exempelgrupp\\Exempel.lnk"));
+}
+
+TEST_F(UnattendedTest, PlansForOldWindowsAndForSilence)
+{
+    target.system = SystemKind::Win98;
+    memory.files.Put("C:\\CONFIG.SYS", "FILES=60\r\n");
+    project.Lists.AutoexecBat = "SET A=%DESTDIR\r\n";
+    project.Lists.ConfigSys = "files=60\r\nBUFFERS=20\r\n";
+    project.RunAppSelfX.ProgramFilename = "licens.exe";
+    project.RunAppSelfX.VisibleWin = kOn;
+    project.RunAppAfter.AppFileName2 = "%DESTDIR\\bin\\prog.exe";
+    project.ShowDocAfter.DocFileName = "%DESTDIR\\egen.txt";
+    EXPECT_EQ(RunInVain("/S /PLAN=L:\\plan.json"), ExitCode::Done) << Log();
+    const json plan = json::parse(BytesOf("L:\\plan.json"));
+    EXPECT_EQ(plan["startupLines"],
+              json({{{"file", "C:\\AUTOEXEC.BAT"}, {"line", "SET A=" + kMain}},
+                    {{"file", "C:\\CONFIG.SYS"}, {"line", "BUFFERS=20"}}}));
+    EXPECT_TRUE(plan["programs"].empty());
+    ASSERT_EQ(plan["skipped"].size(), 3U);
+    for (const json& part : plan["skipped"])
+        EXPECT_EQ(part["reason"], "Skip_Silent");
+    EXPECT_EQ(plan["restart"], "ifNeeded");
+}
+
+TEST_F(UnattendedTest, PlansWithTheCodesOfTheFolderAndOfTheHelpers)
+{
+    target.ofOthers.insert("C:\\Program");
+    EXPECT_EQ(RunInVain("/S /PLAN=L:\\plan.json"), ExitCode::Failed);
+    target.ofOthers.clear();
+    memory.files.RemoveFile("D:\\Paket\\QNXUNIN.BIN");
+    EXPECT_EQ(RunInVain("/S /PLAN=L:\\plan.json"), ExitCode::DamagedPackage);
+    EXPECT_FALSE(files.FileExists("L:\\plan.json"));
+}
+
 TEST_F(UnattendedTest, PlansIntoANewFileWhereNoneIsNamed)
 {
     memory.files.PutFolder("C:\\TEMP");
@@ -278,6 +367,42 @@ TEST_F(UnattendedTest, LogsEachActionForPrograms)
     EXPECT_EQ(last["counts"]["files"], 1);
     EXPECT_EQ(last["counts"]["skipped"], 1);
     EXPECT_EQ(Records("L:\\r.json"), std::vector<json>{last});
+}
+
+// Whatever an installation leaves on the machine stands in the log.
+TEST_F(UnattendedTest, LogsWhatTheSetupAddsByItself)
+{
+    AddFile("delad.dll", "%DESTDIR", "shared", "S");
+    AddFile("brev.ttf", "%DESTDIR", "font", "F");
+    package.rows.back().iconTitle = "Brev";
+    AddFile("sen.dll", "%DESTDIR", "registers later", "AR");
+    memory.files.Put(kMain + "\\sen.dll", "old");
+    files.inUse.insert(kMain + "\\sen.dll");
+    project.Lists.RunScriptAfter = "LOG \"klart så långt\"";
+    project.Lists.Registry = "HKEY_CURRENT_USER\\Firma :: Namn=\"Värde\"\r\n"
+                             "DELETE=HKEY_CURRENT_USER\\Finns ej\r\n";
+    ASSERT_EQ(Install("/S /LOGJSON=L:\\a.json"), ExitCode::RestartNeeded) << Log();
+    std::map<std::string, std::vector<std::string>> subjects;
+    for (const json& record : Records("L:\\a.json"))
+        if (record.contains("subject"))
+            subjects[record["action"]].push_back(record["subject"]);
+    EXPECT_THAT(subjects["Log_WritesOwnFile"],
+                testing::UnorderedElementsAre(kMain + "\\QNXUNIN.EXE", kMain + "\\QNS32X.BIN",
+                                              kMain + "\\QNXUNIN.SHA256", kMain + "\\QNXREG2.EXE",
+                                              kMain + "\\QNXUNIN.LOG"));
+    const std::vector<std::string>& values = subjects["Log_WritesRegistry"];
+    const Text current = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\";
+    const Text entry = KeyText(UninstallEntryKey("Exempel")) + " :: ";
+    for (const Text& value :
+         {entry + "DisplayName", entry + "UninstallString", entry + "EstimatedSize",
+          current + "SharedDLLs :: " + kMain + "\\delad.dll",
+          current + "RunOnce :: QNXREG2 Exempel", Text("HKEY_CURRENT_USER\\Firma :: Namn"),
+          Text("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts :: "
+               "Brev (TrueType)")})
+        EXPECT_THAT(values, testing::Contains(value).Times(1));
+    EXPECT_EQ(Records("L:\\a.json").back()["counts"]["registryWritten"], values.size());
+    EXPECT_THAT(subjects["Log_RemovesRegistry"], testing::IsEmpty()) << "there was nothing";
+    EXPECT_THAT(subjects["Log_Note"], ElementsAre("klart så långt"));
 }
 
 TEST_F(UnattendedTest, TellsTheResultOfWhatFailsToo)
@@ -346,7 +471,9 @@ TEST_F(UnattendedTest, SavesTheAnswersAndTakesThemAgain)
         << Log();
     EXPECT_THAT(BytesOf("L:\\svar.inf"),
                 testing::StartsWith("\xEF\xBB\xBF[Setup]\r\nDir=C:\\Egen mapp\r\nGroup=Gruppen\r\n"
-                                    "Components=2,Del3\r\nScope=ALLUSERS\r\nUserName="));
+                                    "Components=2,Del3\r\nScope=ALLUSERS\r\n"));
+    EXPECT_THAT(BytesOf("L:\\svar.inf"), Not(HasSubstr("User")));
+    EXPECT_THAT(BytesOf("L:\\svar.inf"), Not(HasSubstr("CompDir")));
     Switches switches = ReadSwitches("/LOADINF=L:\\svar.inf /GROUP=Annan");
     LoadAnswers(files, switches);
     EXPECT_EQ(switches.badSwitch, std::nullopt);
@@ -354,6 +481,57 @@ TEST_F(UnattendedTest, SavesTheAnswersAndTakesThemAgain)
     EXPECT_EQ(switches.programGroup, "Annan");
     EXPECT_EQ(switches.components, "2,Del3");
     EXPECT_EQ(switches.scope, InstallScope::AllUsers);
+}
+
+// What nobody has chosen is the next machine's own.
+TEST_F(UnattendedTest, SavesNoNamesThatTheMachineHasGiven)
+{
+    project.DialogBoxData.GetNameCompanyFromRegistry = kOn;
+    project.Lists.INIFiles = "-- prov.ini --\r\n[Del]\r\nNamn=%USERNAME\r\nFirma=%USERCOMPANY\r\n";
+    memory.machine.owner = {"Ulla", "Ullas firma"};
+    ASSERT_EQ(Install("/S /SAVEINF=L:\\svar.inf"), ExitCode::Done) << Log();
+    memory.machine.owner = {"Olle", "Olles firma"};
+    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf"), ExitCode::Done) << Log();
+    EXPECT_EQ(BytesOf("C:\\WINDOWS\\prov.ini"), "[Del]\r\nNamn=Olle\r\nFirma=Olles firma\r\n");
+    // A file that gives one of them leaves the others as they are.
+    memory.files.Put("L:\\svar.inf", "[Setup]\r\nUserName=\r\n");
+    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf"), ExitCode::Done) << Log();
+    EXPECT_EQ(BytesOf("C:\\WINDOWS\\prov.ini"), "[Del]\r\nNamn=\r\nFirma=Olles firma\r\n");
+}
+
+TEST_F(UnattendedTest, SavesWhatWasChosenOnThePages)
+{
+    project.DialogBoxes.WelcomeDlg = project.DialogBoxes.DestinationDlg = 0;
+    project.DialogBoxes.InstallCompletedDlg = 0;
+    project.DialogBoxes.NameCompanyDlg = 1;
+    project.DialogBoxData.GetNameCompanyFromRegistry = kOn;
+    memory.machine.owner = {"Ulla", "Ullas firma"};
+    package.setup.UseComponents = kOn;
+    auto& component = project.FileComponents[0];
+    component = {.Comp = 1, .CompName = "Ett", .CompDir = "Ett", .CompDefault = 1};
+    component.CompCanChangeDir = 1;
+    package.rows[0].component = "1";
+    package.rows[0].destination = "%COMPDIR1";
+    project.Lists.INIFiles = "-- prov.ini --\r\n[Del]\r\nNamn=%USERNAME\r\nFirma=%USERCOMPANY\r\n";
+    ScriptedPages shown(
+        {{PageKind::NameCompany, PageAction::Next, Typing(PageField::UserName, "Åke")},
+         {PageKind::Components, PageAction::Next, Typing(PageField::Folder, "C:\\Eget\\Ett")}});
+    pages = &shown;
+    ASSERT_EQ(Install("/SAVEINF=L:\\svar.inf"), ExitCode::Done) << Log();
+    pages = nullptr;
+    EXPECT_THAT(BytesOf("L:\\svar.inf"), HasSubstr("\r\nCompDir1=C:\\Eget\\Ett\r\n"));
+    const MachineState installed = State();
+    ASSERT_EQ(UninstallProduct(), ExitCode::Done);
+    memory.machine.owner = {"Olle", "Olles firma"};
+    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf /SAVEINF=L:\\igen.inf"), ExitCode::Done) << Log();
+    EXPECT_EQ(BytesOf("C:\\Eget\\Ett\\prog.exe"), "program");
+    EXPECT_EQ(BytesOf("C:\\WINDOWS\\prov.ini"), "[Del]\r\nNamn=\xC5ke\r\nFirma=Ullas firma\r\n");
+    EXPECT_EQ(State(), installed);
+    EXPECT_EQ(BytesOf("L:\\igen.inf"), BytesOf("L:\\svar.inf"));
+    // A folder that the project does not leave to its user stays the project's.
+    component.CompCanChangeDir = 0;
+    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf"), ExitCode::Done) << Log();
+    EXPECT_TRUE(files.FileExists(kMain + "\\Ett\\prog.exe"));
 }
 
 TEST_F(UnattendedTest, TakesTheNamesOfTheRegistrationPageFromAFile)
@@ -372,6 +550,10 @@ TEST_F(UnattendedTest, RefusesAFileOfAnswersThatIsNone)
     memory.files.Put("L:\\svar.inf", "[Setup]\r\nDir=fel\r\n");
     EXPECT_EQ(RunInVain("/S /LOADINF=L:\\svar.inf"), ExitCode::BadSwitch);
     EXPECT_THAT(Log(), HasSubstr("Växeln '/LOADINF=L:\\svar.inf (Dir)' är okänd"));
+    for (const Text answer : {"Dir=C:\\con\\x", "CompDir2=Ett", "CompDir2=C:\\a|b"}) {
+        memory.files.Put("L:\\svar.inf", "[Setup]\r\n" + answer + "\r\n");
+        EXPECT_EQ(RunInVain("/S /LOADINF=L:\\svar.inf"), ExitCode::BadSwitch) << answer;
+    }
 }
 
 TEST_F(UnattendedTest, ShowsNoBoxesWhereTheyAreSuppressed)

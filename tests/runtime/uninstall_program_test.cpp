@@ -193,6 +193,23 @@ TEST_F(UninstallProgramTest, NamesNoKeyThatHasGoneAfterAll)
     EXPECT_FALSE(target.KeyExists(key));
 }
 
+TEST_F(UninstallProgramTest, TellsItsResultWhereItsLogCanNotBeMade)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    UninstallerCommand line = ReadUninstallerCommand("/S /LOG=Q:\\borta\\l.txt /RESULT=L:\\r.json");
+    line.logPath = kLog;
+    UninstallProgram program({host, target, line, kUninstaller});
+    try {
+        program.Prepare();
+        FAIL() << "there is no such drive";
+    } catch (const RunError& error) {
+        program.Fail(error);
+    }
+    EXPECT_EQ(Result()["code"], 1603);
+    EXPECT_EQ(Result()["result"], "failed");
+    EXPECT_THAT(Text(Result()["error"]), testing::HasSubstr("Q:\\borta\\l.txt"));
+}
+
 TEST_F(UninstallProgramTest, EndsWithACodeOfItsOwnWhereNothingIsInstalled)
 {
     EXPECT_EQ(RunProgram("", {{BoxKind::Critical, "Avinstallation av ", kNoLog}}),

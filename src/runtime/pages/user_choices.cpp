@@ -2,6 +2,22 @@
 
 namespace quillon {
 
+void AddChoices(const UserChoices& chosen, UserChoices& choices)
+{
+    if (!chosen.destination.empty())
+        choices.destination = chosen.destination;
+    if (chosen.programGroup)
+        choices.programGroup = chosen.programGroup;
+    if (chosen.user)
+        choices.user = chosen.user;
+    for (std::size_t i = 0; i < chosen.components.size(); ++i) {
+        if (chosen.components[i].isTicked)
+            choices.components[i].isTicked = chosen.components[i].isTicked;
+        if (chosen.components[i].folder)
+            choices.components[i].folder = chosen.components[i].folder;
+    }
+}
+
 void ApplyChoices(const UserChoices& choices, SetupInformation& setup)
 {
     Project& project = setup.project;

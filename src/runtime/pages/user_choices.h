@@ -21,6 +21,9 @@ struct UserChoices {
     std::array<Component, kComponentCount> components; // component n is at n - 1
 };
 
+/// What has been chosen now goes before what was chosen earlier.
+void AddChoices(const UserChoices& chosen, UserChoices& choices);
+
 /// Puts the choices into the project as if they had been its own. The main folder is not among
 /// them: it is beside the project wherever it is asked for.
 void ApplyChoices(const UserChoices& choices, SetupInformation& setup);

@@ -109,7 +109,7 @@ void ScriptRun::Do(const ScriptCommand& command)
     case ScriptWord::Message:
         return Tell(Expanded(arguments, 0));
     case ScriptWord::Log:
-        return input_.log.TextLine(Expanded(arguments, 0));
+        return input_.log.Line(Message::LogNote, Expanded(arguments, 0));
     case ScriptWord::Copy:
         return Copy(PathIn(arguments[0]), PathIn(arguments[1]));
     case ScriptWord::Delete:

@@ -6,26 +6,28 @@ namespace quillon {
 
 namespace {
 
+constexpr DWORD kPlannedInstallation = 0x80040002; // planned; application, installation
+
+} // namespace
+
 // Even an administrator has to ask for it.
-void TakeShutdownRight()
+bool MayRestartMachine()
 {
     HANDLE token = nullptr;
     if (!OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES, &token))
-        return;
+        return false;
     const FileHandle held(token);
     TOKEN_PRIVILEGES rights{};
     rights.PrivilegeCount = 1;
     rights.Privileges[0].Attributes = SE_PRIVILEGE_ENABLED;
-    if (LookupPrivilegeValueW(nullptr, L"SeShutdownPrivilege", &rights.Privileges[0].Luid))
-        AdjustTokenPrivileges(token, FALSE, &rights, 0, nullptr, nullptr);
+    // It succeeds too where the user has no such right, and says so in its error alone.
+    return LookupPrivilegeValueW(nullptr, L"SeShutdownPrivilege", &rights.Privileges[0].Luid) &&
+           AdjustTokenPrivileges(token, FALSE, &rights, 0, nullptr, nullptr) &&
+           GetLastError() == ERROR_SUCCESS;
 }
-
-} // namespace
 
 bool RestartMachine()
 {
-    constexpr DWORD kPlannedInstallation = 0x80040002; // planned; application, installation
-    TakeShutdownRight();
     return ExitWindowsEx(EWX_REBOOT, kPlannedInstallation) != FALSE;
 }
 

@@ -112,7 +112,7 @@ ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
     return run(boxes, pages);
 }
 
-ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
+SetupEnd InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
                           LanguageTexts& texts)
 {
     FileSystem& files = host.files;
@@ -129,7 +129,7 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
         LibraryContainers(files, UnzipLibrary(files, switches.packageFolder));
     const auto run = [&](Ask& ask, PageView* pages, BackgroundSound* sound) {
         return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages, sound,
-                         only && only->IsNot(), StartAsUser, &users, RunToEnd},
+                         only && only->IsNot(), StartAsUser, &users, RunToEnd, MayRestartMachine},
                         package);
     };
     if (switches.silent && !switches.passive) {
@@ -167,7 +167,7 @@ ExitCode InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
 }
 
 // `texts` become those of the package as soon as they have been read.
-ExitCode RunOnWindows(HINSTANCE instance, Switches switches, LanguageTexts& texts)
+SetupEnd RunOnWindows(HINSTANCE instance, Switches switches, LanguageTexts& texts)
 {
     WinFiles files;
     WinMachine machine;
@@ -175,7 +175,7 @@ ExitCode RunOnWindows(HINSTANCE instance, Switches switches, LanguageTexts& text
     if (switches.packageFolder.empty())
         switches.packageFolder = ProgramFolder();
     LoadAnswers(files, switches);
-    return switches.testMode ? TestOnWindows(instance, host, switches, texts)
+    return switches.testMode ? SetupEnd{TestOnWindows(instance, host, switches, texts)}
                              : InstallOnWindows(instance, host, switches, texts);
 }
 
@@ -183,21 +183,21 @@ int RunSetupProgram(HINSTANCE instance, const Text& line)
 {
     const Switches switches = ReadSwitches(line);
     LanguageTexts texts;
-    ExitCode code = ExitCode::Failed;
+    SetupEnd end{ExitCode::Failed};
     try {
-        code = RunOnWindows(instance, switches, texts);
+        end = RunOnWindows(instance, switches, texts);
     } catch (const std::exception& error) {
         // Nothing was changed: what an installation does is undone before a failure comes here.
         const Text text = texts(Message::Failed, FailureReason(error, texts));
         WinFiles files;
-        WriteResult(files, WinMachine(), switches.resultFile, code, text);
+        WriteResult(files, WinMachine(), switches.resultFile, end.code, text);
         if (!switches.silent)
             ShowMessageBox(nullptr, {"Quillon", text, MB_OK | MB_ICONSTOP}, texts);
     }
     // By now the setup has left nothing behind.
-    if (code == ExitCode::RestartStarted && !RestartMachine())
-        code = ExitCode::RestartNeeded;
-    return static_cast<int>(code);
+    if (end.startsMachineAnew && !RestartMachine())
+        end.code = CodeToEndWith(ExitCode::RestartNeeded, switches);
+    return static_cast<int>(end.code);
 }
 
 } // namespace

@@ -1,0 +1,14 @@
+// Shortcuts that an earlier version of the product has left in its program group.
+#pragma once
+
+#include "runtime/install_journal.h"
+#include "runtime/install_plan.h"
+
+namespace quillon {
+
+/// Those that the record names, and those that lead into the main folder all the same. In the group
+/// of a new project, products of many makers lie side by side.
+std::vector<Text> OldShortcuts(const FileSystem& files, const Target& target,
+                               const InstallJournal& record, const InstallPlan& plan);
+
+} // namespace quillon
