@@ -49,6 +49,12 @@ TEST_F(RestartedMachine, IsAskedToEndTheSessionAsTheLastThingOfAll)
     EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\Program Files\\Provpaket Åäö\\QNXUNIN.EXE")));
 }
 
+// The code of a restart is not a restart.
+TEST_F(RestartedMachine, IsLeftAloneUnderSilenceWhateverTheCode)
+{
+    EXPECT_EQ(Drive(" /S /RESTARTEXITCODE=1641", "end\n"), "code 1641\n");
+}
+
 TEST_F(RestartedMachine, IsLeftAloneAgainstTheSwitch)
 {
     EXPECT_EQ(Drive(" /norestart", "page Välkommen\npress 1\npage Komponenter\npress 1\n"

@@ -1,14 +1,8 @@
 // The switches and codes of deployment tools, by what they leave on the machine: files, registry,
 // shortcuts and logs.
-#include "wine/package.h"
-#include "wine/registry_text.h"
-#include "wine/sample_product.h"
+#include "wine/setup_switches.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
-
-#include <sstream>
 
 namespace quillon::test {
 namespace {
@@ -19,70 +13,6 @@ using nlohmann::json;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
-
-const std::string kMainFolder = "C:\\Program Files\\Provpaket Åäö";
-const std::string kEntry =
-    "\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Provpaket Åäö";
-const std::string kForAll = "HKLM" + kEntry;
-const std::string kForUser = "HKCU" + kEntry;
-
-class SetupSwitches : public testing::Test {
-protected:
-    SetupSwitches()
-    {
-        product.project.Files.rows.clear();
-        product.project.Lists = {};
-        product.project.Lists.Registry = "HKEY_CURRENT_USER\\SOFTWARE\\Prov :: Mapp=\"%DESTDIR\"";
-        product.project.ProgramGroup.ProgramGroup = "Provgrupp";
-        product.Add("Data", "a.txt", "innehåll");
-        product.project.Files.rows.back()[IconMarker] = "Ikon";
-        product.project.Files.rows.back()[IconDesc] = "Provet";
-        product.Add("Kanske", "Kanske.txt", "kanske", "", 2);
-    }
-
-    void Make() { package = MakePackage(product.Order({"--medium", "cd"})); }
-    unsigned Setup(const std::string& switches) const
-    {
-        return prefix.Run(OnZ(package / "SETUP.EXE"), switches);
-    }
-    unsigned Uninstall(const std::string& switches) const
-    {
-        const unsigned code = prefix.Run(kMainFolder + "\\QNXUNIN.EXE", switches);
-        prefix.WaitForAll();
-        return code;
-    }
-    bool Has(const std::string& path) const { return fs::exists(prefix.OnHost(path)); }
-    std::string Bytes(const std::string& path) const { return ReadBytes(prefix.OnHost(path)); }
-
-    /// Each line is an object of its own.
-    std::vector<json> Records(const std::string& path) const
-    {
-        std::vector<json> records;
-        std::istringstream lines(Bytes(path));
-        for (std::string line; std::getline(lines, line);)
-            records.push_back(json::parse(line));
-        return records;
-    }
-    json Result(const std::string& path = "C:\\r.json") const
-    {
-        const std::vector<json> records = Records(path);
-        EXPECT_EQ(records.size(), 1U);
-        return records.empty() ? json::object() : records.back();
-    }
-    bool IsThere() const { return Has(kMainFolder) || RegistryText(prefix).HasKey(kForAll); }
-    /// Whether one of the shortcuts below the folder has that name.
-    bool HasShortcut(const fs::path& below, const std::string& name) const
-    {
-        for (const auto& entry : fs::recursive_directory_iterator(below))
-            if (entry.path().filename() == name)
-                return true;
-        return false;
-    }
-
-    SampleProduct product;
-    fs::path package;
-    const WinePrefix prefix;
-};
 
 TEST_F(SetupSwitches, InstallForTheUserOrForAll)
 {
@@ -165,6 +95,8 @@ TEST_F(SetupSwitches, StartTheUninstallerAndHandItTheLogs)
     ASSERT_EQ(Setup("/S"), 0U);
     fs::remove(prefix.OnHost(kMainFolder) / "QNXUNIN.EXE");
     EXPECT_EQ(Setup("/S /uninstall"), 1614U);
+    // The next installation brings it again.
+    EXPECT_EQ(Setup("/S"), 0U);
 }
 
 TEST_F(SetupSwitches, SaveTheAnswersAndTakeThemAgain)
@@ -190,7 +122,7 @@ TEST_F(SetupSwitches, ShowNothingAndNameTheOneThatIsWrong)
     Make();
     ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
               0U);
-    prefix.Stop();
+    Remember();
     for (const char* wrong :
          {"/FEL=1", "/ALLUSERS /CURRENTUSER", "/RESTARTEXITCODE=x", "/extract:ut", "/D=ut",
           "/LANG=FINNS_EJ", "/PLAN /uninstall", "/COMPONENTS=Borta"}) {
@@ -229,6 +161,7 @@ TEST_F(SetupSwitches, LogEachActionForPrograms)
     Make();
     WriteBytes(prefix.DriveC() / "Program Files" / "Provpaket Åäö" / "Data" / "finns.txt",
                "gammal");
+    Remember();
     ASSERT_EQ(Setup("/S /LOGJSON=C:\\a.json /RESULT=C:\\r.json"), 0U);
     const std::vector<json> records = Records("C:\\a.json");
     ASSERT_GT(records.size(), 4U);
@@ -251,6 +184,8 @@ TEST_F(SetupSwitches, LogEachActionForPrograms)
     EXPECT_EQ(Result()["result"], "done");
     EXPECT_GE(Result()["counts"]["filesRemoved"], 2);
     EXPECT_GE(Result()["counts"]["skipped"], 1);
+    // The user's own file has kept its folder.
+    fs::remove_all(prefix.OnHost(kMainFolder) / "Kanske");
 }
 
 TEST_F(SetupSwitches, TellOfADamagedPackage)
@@ -275,6 +210,7 @@ TEST_F(SetupSwitches, TellOfAMissingFrameworkThatTheProductNeeds)
           "Wow6432Node\\Microsoft\\.NETFramework\\policy",
           "Wow6432Node\\Microsoft\\NET Framework Setup\\NDP"})
         prefix.RunCommandLine("reg delete \"HKLM\\SOFTWARE\\" + std::string(place) + "\" /f");
+    Remember();
     EXPECT_EQ(Setup("/S /RESULT=C:\\r.json"), 20002U);
     EXPECT_EQ(Result()["code"], 20002);
     EXPECT_EQ(Result()["result"], "prerequisite missing");
@@ -283,6 +219,7 @@ TEST_F(SetupSwitches, TellOfAMissingFrameworkThatTheProductNeeds)
     ASSERT_EQ(prefix.RunCommandLine("reg add \"HKLM\\SOFTWARE\\Microsoft\\NET Framework "
                                     "Setup\\NDP\\v4\\Full\" /v Install /t REG_DWORD /d 1"),
               0U);
+    Remember();
     EXPECT_EQ(Setup("/S /RESULT=C:\\r.json"), 0U);
     EXPECT_EQ(Result()["result"], "done");
     EXPECT_TRUE(IsThere());

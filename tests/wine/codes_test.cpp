@@ -1,0 +1,136 @@
+// The codes that the setup ends with, and switches without a value, by what they leave behind.
+#include "support/small_disk.h"
+#include "wine/self_extracting_program.h"
+#include "wine/setup_switches.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+using nlohmann::json;
+using testing::HasSubstr;
+using testing::Not;
+
+class SetupCodes : public SetupSwitches {
+protected:
+    /// The one file of the folder that is called so; it is taken away.
+    std::string TakeFile(const fs::path& folder, const std::string& begin, const std::string& end)
+    {
+        for (const auto& entry : fs::directory_iterator(folder)) {
+            const std::string name = entry.path().filename();
+            if (name.starts_with(begin) && name.ends_with(end)) {
+                const fs::path path = entry.path();
+                std::string bytes = ReadBytes(path);
+                fs::remove(path);
+                return bytes;
+            }
+        }
+        return "<none>";
+    }
+};
+
+TEST_F(SetupCodes, SpeakTheLanguageOfTheSwitch)
+{
+    Make();
+    fs::copy_file(fs::path(QUILLON_SOURCE_FOLDER) / "resources" / "Language" / "GERMAN.LNG",
+                  package / "GERMAN.LNG");
+    ASSERT_EQ(Setup("/S /LANG=german /LOG=C:\\l.txt"), 0U);
+    EXPECT_THAT(Bytes("C:\\l.txt"), HasSubstr("Kopiert: " + kMainFolder + "\\Data\\a.txt"));
+    EXPECT_EQ(Uninstall("/S /LOG=C:\\l.txt"), 0U);
+    EXPECT_THAT(Bytes("C:\\l.txt"), Not(HasSubstr("Tar bort")));
+}
+
+TEST_F(SetupCodes, WriteFilesOfTheirOwnNamesWhereNoneIsGiven)
+{
+    const fs::path temp = TempFolderOf(prefix);
+    Make();
+    ASSERT_EQ(Setup("/S /LOG"), 0U);
+    EXPECT_THAT(TakeFile(temp, "QNSETUP-", ".LOG"), HasSubstr("\\Data\\a.txt"));
+    ASSERT_EQ(Setup("/S /PLAN"), 0U);
+    const json plan = json::parse(TakeFile(temp, "QNSETUP-", ".JSON"));
+    EXPECT_EQ(plan["mainFolder"], kMainFolder);
+    EXPECT_EQ(plan["entry"], "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\"
+                             "Uninstall\\Provpaket Åäö");
+    EXPECT_EQ(Uninstall("/S /LOG"), 0U);
+    EXPECT_THAT(TakeFile(temp, "QNXUNIN-", ".LOG"), HasSubstr("\\Data\\a.txt"));
+}
+
+// A setup that showed something would wait for somebody: nobody is there.
+TEST_F(SetupCodes, AreTheSameByAnyWordForSilence)
+{
+    Make();
+    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
+              0U);
+    Remember();
+    for (const char* word : {"/SILENT", "-verysilent", "/q", "/qb", "/passive"}) {
+        EXPECT_EQ(Setup(std::string(word) + " /RESULT=C:\\r.json"), 0U) << word;
+        EXPECT_EQ(Result()["result"], "done") << word;
+        EXPECT_TRUE(IsThere()) << word;
+        EXPECT_EQ(Uninstall(std::string(word)), 0U) << word;
+        EXPECT_FALSE(IsThere()) << word;
+    }
+}
+
+TEST_F(SetupCodes, TellOfASystemThatThePackageIsNotMeantFor)
+{
+    product.project.TargetOS.TargetOS_WinXP = kOff;
+    product.project.TargetOS.TargetOS_StopIfWrong = kOn;
+    Make();
+    EXPECT_EQ(Setup("/S /RESULT=C:\\r.json"), 1633U);
+    EXPECT_EQ(Result()["result"], "wrong system");
+    EXPECT_FALSE(IsThere());
+}
+
+TEST_F(SetupCodes, TellOfAFullDisk)
+{
+    product.Add("Data", "stor.bin", std::string(3 << 20, 'x'));
+    Make();
+    const fs::path folder = prefix.DriveC() / "ut packat";
+    fs::create_directory(folder);
+    const MountedDisk disk(folder, "size=1m");
+    if (!disk.IsMounted())
+        GTEST_SKIP() << "only an administrator can mount a small disk";
+    EXPECT_EQ(Setup("/S /D=C:\\ut packat\\Prov /RESULT=C:\\r.json"), 112U);
+    EXPECT_EQ(Result()["result"], "disk full");
+    EXPECT_TRUE(fs::is_empty(folder)) << "everything was undone";
+    EXPECT_FALSE(IsThere());
+}
+
+TEST_F(SetupCodes, TellOfANewerVersion)
+{
+    Make();
+    ASSERT_EQ(Setup("/S"), 0U);
+    product.project.Version.ProductVersion = "3.3";
+    Make();
+    EXPECT_EQ(Setup("/S /RESULT=C:\\r.json"), 1638U);
+    EXPECT_EQ(Result()["result"], "newer version installed");
+    EXPECT_THAT(Result()["error"].get<std::string>(), HasSubstr("3.4"));
+    EXPECT_EQ(RegistryText(prefix).Value(kForAll, "DisplayVersion"), "3.4");
+    EXPECT_EQ(Setup("/S /PLAN=C:\\plan.json"), 1638U);
+    EXPECT_EQ(Uninstall("/S"), 0U);
+    EXPECT_EQ(Setup("/S"), 0U);
+    EXPECT_EQ(RegistryText(prefix).Value(kForAll, "DisplayVersion"), "3.3");
+}
+
+TEST_F(SetupCodes, TellOfAFolderThatWindowsCannotHold)
+{
+    Make();
+    EXPECT_EQ(Setup("/S /D=C:\\con\\x /RESULT=C:\\r.json"), 1639U);
+    EXPECT_EQ(Result()["result"], "bad switch");
+}
+
+TEST_F(SetupCodes, OfAScriptAreNeverASuccess)
+{
+    product.project.Lists.RunScriptAfter = "EXIT 1641 \"Stopp\"";
+    Make();
+    EXPECT_EQ(Setup("/S /RESULT=C:\\r.json"), 1641U);
+    EXPECT_EQ(Result()["result"], "failed");
+    EXPECT_EQ(Result()["restart"], false);
+    EXPECT_FALSE(IsThere());
+}
+
+} // namespace
+} // namespace quillon::test
