@@ -85,12 +85,15 @@ bool RegistryText::HasKey(const std::string& key) const
     return keys_.contains(LowerCase(key));
 }
 
-// Wine tells here, anew at each start, which screen and which devices it found.
+// Wine tells here, anew at each start, which screen and which devices it found; and that its own
+// debugger has run, which the setup's programs start none of.
 bool IsWinesOwn(const std::string& key)
 {
-    return key.starts_with("hklm\\system\\currentcontrolset\\control\\class\\") ||
+    return key == "hkcu\\software\\wine\\winedbg" ||
+           key.starts_with("hklm\\system\\currentcontrolset\\control\\class\\") ||
            key.starts_with("hklm\\system\\currentcontrolset\\control\\video\\") ||
-           key.starts_with("hklm\\system\\currentcontrolset\\enum\\");
+           key.starts_with("hklm\\system\\currentcontrolset\\enum\\") ||
+           key.starts_with("hklm\\software\\microsoft\\windows nt\\currentversion\\networkcards");
 }
 
 std::string RegistryDifference(const RegistryText& before, const RegistryText& after)
