@@ -1,15 +1,11 @@
 // The setup as deployment tools run it: its switches, the codes it ends with, and what it tells
 // programs.
 #include "scripted_pages.h"
-#include "setup_fixture.h"
+#include "unattended_fixture.h"
 
-#include "runtime/answer_file.h"
 #include "runtime/uninstall_entry.h"
 
 #include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
-
-#include <utility>
 
 namespace quillon {
 
@@ -18,7 +14,6 @@ using test::BoxKind;
 using test::MachineState;
 using test::ScriptedAsk;
 using test::ScriptedPages;
-using test::Typing;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
@@ -30,37 +25,7 @@ const Text kTitle = "Installation av Exempel";
 
 } // namespace
 
-class UnattendedTest : public test::SetupFixture {
-protected:
-    UnattendedTest() { AddFile("prog.exe", "%DESTDIR\\bin", "program"); }
-
-    Text BytesOf(const Text& path) const
-    {
-        const auto found = memory.files.nodes.find(LowerCase(path));
-        return found == memory.files.nodes.end() ? "<none>" : *found->second.bytes;
-    }
-    std::vector<json> Records(const Text& path) const
-    {
-        std::vector<json> records;
-        Text line;
-        for (const char c : BytesOf(path)) {
-            if (c == '\n')
-                records.push_back(json::parse(std::exchange(line, {})));
-            else
-                line += c;
-        }
-        EXPECT_EQ(line, "") << "the last record is whole";
-        return records;
-    }
-    /// Runs what changes nothing on the machine.
-    ExitCode RunInVain(const Text& switches)
-    {
-        const MachineState before = State();
-        const ExitCode code = Install(switches);
-        EXPECT_EQ(State(), before) << switches;
-        return code;
-    }
-};
+class UnattendedTest : public test::UnattendedFixture {};
 
 TEST_F(UnattendedTest, EndsWithTheGivenCodeWhereARestartIsDue)
 {
@@ -196,146 +161,6 @@ TEST_F(UnattendedTest, UnpacksNothingOfADamagedPackage)
     EXPECT_FALSE(files.DirExists("L:\\ut"));
 }
 
-TEST_F(UnattendedTest, PlansAndDoesNothing)
-{
-    AddFile("ny.sys", "%SYSDIR", "s");
-    package.rows.back().component = "1";
-    package.setup.UseComponents = kOn;
-    project.FileComponents[0].Comp = 1;
-    project.FileComponents[0].CompName = "Ett";
-    project.FileComponents[0].CompDefault = 0;
-    project.Lists.Registry = "HKEY_LOCAL_MACHINE\\Software\\Firma :: Namn=\"Värde\"";
-    project.Lists.INIFiles = "-- prov.ini --\r\n[Del]\r\nNamn=värde\r\n";
-    ScriptedAsk script({{BoxKind::Inform, kTitle,
-                         "Planen har skrivits till L:\\plan.json. Ingenting har installerats."}});
-    ask = &script;
-    otherSetupRuns = true;
-    EXPECT_EQ(RunInVain("/PLAN=L:\\plan.json"), ExitCode::Done) << Log();
-    const json plan = json::parse(BytesOf("L:\\plan.json"));
-    EXPECT_EQ(plan["product"], "Exempel");
-    EXPECT_EQ(plan["scope"], "project");
-    EXPECT_EQ(plan["mainFolder"], kMain);
-    EXPECT_EQ(plan["bytes"], 7);
-    EXPECT_EQ(plan["uninstaller"], true);
-    EXPECT_EQ(plan["record"], kMain + "\\QNXUNIN.LOG");
-    ASSERT_EQ(plan["files"].size(), 1U);
-    EXPECT_EQ(plan["files"][0]["path"], kMain + "\\bin\\prog.exe");
-    EXPECT_EQ(plan["files"][0]["size"], 7);
-    EXPECT_EQ(plan["files"][0]["exists"], false);
-    EXPECT_EQ(plan["registry"][0]["key"], "HKEY_LOCAL_MACHINE\\Software\\Firma");
-    EXPECT_EQ(plan["registry"][0]["action"], "write");
-    EXPECT_EQ(plan["ini"][0]["file"], "C:\\WINDOWS\\prov.ini");
-    EXPECT_EQ(plan["skipped"][0]["reason"], "Skip_ComponentOff");
-}
-
-TEST_F(UnattendedTest, PlansWhatRunsBesideCopying)
-{
-    AddFile("gammal.txt", "%DESTDIR", "old");
-    AddFile("egen.txt", "%DESTDIR", "own");
-    AddFile("MDAC_TYP.ZIP", "%DESTDIR", "mdac");
-    AddFile("brev.ttf", "%DESTDIR", "font", "F");
-    package.rows[0].iconMarker = "IKON";
-    package.rows[0].iconTitle = "Exempel";
-    ASSERT_EQ(Install(), ExitCode::Done) << Log();
-    memory.files.Put(kMain + "\\egen.txt", "changed");
-    package.rows.erase(package.rows.begin() + 1, package.rows.begin() + 3);
-    package.rows[0].iconTitle = "Nytt namn";
-    project.InstallOptions.DeleteProgGroup = kOn;
-    project.InstallOptions.RestartWindows = kOn;
-    project.Lists.RunScriptBefore = "LOG \"ett\"\r\n\r\n  LOG \"två\"\r\n";
-    project.Lists.RunScriptAfter = "LOG \"tre\"";
-    project.Lists.AutoexecBat = "SET A=%DESTDIR\r\n";
-    project.RunAppSelfX.ProgramFilename = "licens.exe";
-    project.RunAppSelfX.VisibleWin = kOff;
-    project.RunAppAfter.AppFileName1 = "%DESTDIR\\bin\\prog.exe";
-    project.RunAppAfter.AppParam1 = " /x ";
-    project.ShowDocAfter.DocFileName = "%DESTDIR\\egen.txt";
-    ScriptedAsk script({{BoxKind::Inform, kTitle}});
-    ask = &script;
-    EXPECT_EQ(RunInVain("/PLAN=L:\\plan.json"), ExitCode::Done) << Log();
-    const json plan = json::parse(BytesOf("L:\\plan.json"));
-    EXPECT_EQ(plan["entry"], KeyText(UninstallEntryKey("Exempel")));
-    EXPECT_EQ(plan["restart"], "always");
-    EXPECT_EQ(plan["fonts"], json({kMain + "\\brev.ttf"}));
-    EXPECT_EQ(plan["scriptBefore"], json({"LOG \"ett\"", "LOG \"två\""}));
-    EXPECT_EQ(plan["scriptAfter"], json({"LOG \"tre\""}));
-    EXPECT_EQ(plan["programs"].dump(),
-              json({{{"path", "licens.exe"}, {"when", "before"}},
-                    {{"path", kMain + "\\MDAC_TYP.ZIP"}, {"when", "after"}},
-                    {{"arguments", "/x"}, {"path", kMain + "\\bin\\prog.exe"}, {"when", "after"}},
-                    {{"path", kMain + "\\egen.txt"}, {"when", "document"}}})
-                  .dump());
-    EXPECT_EQ(plan["filesRemoved"], json({kMain + "\\gammal.txt"}));
-    EXPECT_EQ(plan["shortcutsRemoved"],
-              json({"C:\\Ulla\\Start-meny\\Program\\Exempelgrupp\\Exempel.lnk"}));
-    EXPECT_TRUE(plan["startupLines"].empty());
-    std::map<std::string, std::string> skipped;
-    for (const json& part : plan["skipped"])
-        skipped[part["subject"]] = part["reason"];
-    EXPECT_EQ(skipped[kMain + "\\egen.txt"], "Skip_ChangedFile");
-    EXPECT_EQ(skipped["raderna till AUTOEXEC.BAT"], "Skip_NoStartupFiles");
-    // The installation itself does what the plan says.
-    ask = nullptr;
-    project.RunAppSelfX.ProgramFilename.clear();
-    project.InstallOptions.RestartWindows = kOff;
-    ASSERT_EQ(Install(), ExitCode::Done) << Log();
-    EXPECT_FALSE(files.FileExists(kMain + "\\gammal.txt"));
-    EXPECT_TRUE(files.FileExists(kMain + "\\egen.txt"));
-    EXPECT_FALSE(files.FileExists("C:\\Ulla\\Start-meny\\Program\\Exempelgrupp\\Exempel.lnk"));
-}
-
-TEST_F(UnattendedTest, PlansForOldWindowsAndForSilence)
-{
-    target.system = SystemKind::Win98;
-    memory.files.Put("C:\\CONFIG.SYS", "FILES=60\r\n");
-    project.Lists.AutoexecBat = "SET A=%DESTDIR\r\n";
-    project.Lists.ConfigSys = "files=60\r\nBUFFERS=20\r\n";
-    project.RunAppSelfX.ProgramFilename = "licens.exe";
-    project.RunAppSelfX.VisibleWin = kOn;
-    project.RunAppAfter.AppFileName2 = "%DESTDIR\\bin\\prog.exe";
-    project.ShowDocAfter.DocFileName = "%DESTDIR\\egen.txt";
-    EXPECT_EQ(RunInVain("/S /PLAN=L:\\plan.json"), ExitCode::Done) << Log();
-    const json plan = json::parse(BytesOf("L:\\plan.json"));
-    EXPECT_EQ(plan["startupLines"],
-              json({{{"file", "C:\\AUTOEXEC.BAT"}, {"line", "SET A=" + kMain}},
-                    {{"file", "C:\\CONFIG.SYS"}, {"line", "BUFFERS=20"}}}));
-    EXPECT_TRUE(plan["programs"].empty());
-    ASSERT_EQ(plan["skipped"].size(), 3U);
-    for (const json& part : plan["skipped"])
-        EXPECT_EQ(part["reason"], "Skip_Silent");
-    EXPECT_EQ(plan["restart"], "ifNeeded");
-}
-
-TEST_F(UnattendedTest, PlansWithTheCodesOfTheFolderAndOfTheHelpers)
-{
-    target.ofOthers.insert("C:\\Program");
-    EXPECT_EQ(RunInVain("/S /PLAN=L:\\plan.json"), ExitCode::Failed);
-    target.ofOthers.clear();
-    memory.files.RemoveFile("D:\\Paket\\QNXUNIN.BIN");
-    EXPECT_EQ(RunInVain("/S /PLAN=L:\\plan.json"), ExitCode::DamagedPackage);
-    EXPECT_FALSE(files.FileExists("L:\\plan.json"));
-}
-
-TEST_F(UnattendedTest, PlansIntoANewFileWhereNoneIsNamed)
-{
-    memory.files.PutFolder("C:\\TEMP");
-    ASSERT_EQ(Install("/S /PLAN"), ExitCode::Done) << Log();
-    std::vector<Text> names;
-    for (const FolderEntry& entry : files.List("C:\\TEMP"))
-        names.push_back(entry.name);
-    ASSERT_EQ(names.size(), 1U);
-    EXPECT_THAT(names[0], testing::StartsWith("QNSETUP-"));
-    EXPECT_THAT(names[0], testing::EndsWith(".JSON"));
-}
-
-TEST_F(UnattendedTest, PlansWithTheCodeThatTheInstallationWouldHave)
-{
-    project.TargetOS.TargetOS_Win2000 = kOff;
-    project.TargetOS.TargetOS_StopIfWrong = kOn;
-    EXPECT_EQ(RunInVain("/S /PLAN=L:\\plan.json"), ExitCode::WrongSystem);
-    EXPECT_EQ(BytesOf("L:\\plan.json"), "<none>");
-}
-
 TEST_F(UnattendedTest, LogsEachActionForPrograms)
 {
     AddFile("gammal.txt", "%DESTDIR", "x", "N");
@@ -455,104 +280,6 @@ TEST_F(UnattendedTest, NamesNoPasswordAnywhere)
         for (const char* file :
              {"L:\\logg.txt", "L:\\a.json", "L:\\r.json", "L:\\svar.inf", "L:\\plan.json"})
             EXPECT_THAT(BytesOf(file), Not(HasSubstr("Hemligt"))) << file << password;
-    }
-}
-
-TEST_F(UnattendedTest, SavesTheAnswersAndTakesThemAgain)
-{
-    package.setup.UseComponents = kOn;
-    for (std::size_t i = 0; i < 3; ++i) {
-        project.FileComponents[i].Comp = 1;
-        project.FileComponents[i].CompName = i == 1 ? "Med, komma" : "Del" + NumberText(int(i) + 1);
-    }
-    ASSERT_EQ(Install("/S /D=C:\\Egen mapp /GROUP=Gruppen /COMPONENTS=2,del3 /ALLUSERS "
-                      "/SAVEINF=L:\\svar.inf"),
-              ExitCode::Done)
-        << Log();
-    EXPECT_THAT(BytesOf("L:\\svar.inf"),
-                testing::StartsWith("\xEF\xBB\xBF[Setup]\r\nDir=C:\\Egen mapp\r\nGroup=Gruppen\r\n"
-                                    "Components=2,Del3\r\nScope=ALLUSERS\r\n"));
-    EXPECT_THAT(BytesOf("L:\\svar.inf"), Not(HasSubstr("User")));
-    EXPECT_THAT(BytesOf("L:\\svar.inf"), Not(HasSubstr("CompDir")));
-    Switches switches = ReadSwitches("/LOADINF=L:\\svar.inf /GROUP=Annan");
-    LoadAnswers(files, switches);
-    EXPECT_EQ(switches.badSwitch, std::nullopt);
-    EXPECT_EQ(switches.destination, "C:\\Egen mapp");
-    EXPECT_EQ(switches.programGroup, "Annan");
-    EXPECT_EQ(switches.components, "2,Del3");
-    EXPECT_EQ(switches.scope, InstallScope::AllUsers);
-}
-
-// What nobody has chosen is the next machine's own.
-TEST_F(UnattendedTest, SavesNoNamesThatTheMachineHasGiven)
-{
-    project.DialogBoxData.GetNameCompanyFromRegistry = kOn;
-    project.Lists.INIFiles = "-- prov.ini --\r\n[Del]\r\nNamn=%USERNAME\r\nFirma=%USERCOMPANY\r\n";
-    memory.machine.owner = {"Ulla", "Ullas firma"};
-    ASSERT_EQ(Install("/S /SAVEINF=L:\\svar.inf"), ExitCode::Done) << Log();
-    memory.machine.owner = {"Olle", "Olles firma"};
-    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf"), ExitCode::Done) << Log();
-    EXPECT_EQ(BytesOf("C:\\WINDOWS\\prov.ini"), "[Del]\r\nNamn=Olle\r\nFirma=Olles firma\r\n");
-    // A file that gives one of them leaves the others as they are.
-    memory.files.Put("L:\\svar.inf", "[Setup]\r\nUserName=\r\n");
-    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf"), ExitCode::Done) << Log();
-    EXPECT_EQ(BytesOf("C:\\WINDOWS\\prov.ini"), "[Del]\r\nNamn=\r\nFirma=Olles firma\r\n");
-}
-
-TEST_F(UnattendedTest, SavesWhatWasChosenOnThePages)
-{
-    project.DialogBoxes.WelcomeDlg = project.DialogBoxes.DestinationDlg = 0;
-    project.DialogBoxes.InstallCompletedDlg = 0;
-    project.DialogBoxes.NameCompanyDlg = 1;
-    project.DialogBoxData.GetNameCompanyFromRegistry = kOn;
-    memory.machine.owner = {"Ulla", "Ullas firma"};
-    package.setup.UseComponents = kOn;
-    auto& component = project.FileComponents[0];
-    component = {.Comp = 1, .CompName = "Ett", .CompDir = "Ett", .CompDefault = 1};
-    component.CompCanChangeDir = 1;
-    package.rows[0].component = "1";
-    package.rows[0].destination = "%COMPDIR1";
-    project.Lists.INIFiles = "-- prov.ini --\r\n[Del]\r\nNamn=%USERNAME\r\nFirma=%USERCOMPANY\r\n";
-    ScriptedPages shown(
-        {{PageKind::NameCompany, PageAction::Next, Typing(PageField::UserName, "Åke")},
-         {PageKind::Components, PageAction::Next, Typing(PageField::Folder, "C:\\Eget\\Ett")}});
-    pages = &shown;
-    ASSERT_EQ(Install("/SAVEINF=L:\\svar.inf"), ExitCode::Done) << Log();
-    pages = nullptr;
-    EXPECT_THAT(BytesOf("L:\\svar.inf"), HasSubstr("\r\nCompDir1=C:\\Eget\\Ett\r\n"));
-    const MachineState installed = State();
-    ASSERT_EQ(UninstallProduct(), ExitCode::Done);
-    memory.machine.owner = {"Olle", "Olles firma"};
-    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf /SAVEINF=L:\\igen.inf"), ExitCode::Done) << Log();
-    EXPECT_EQ(BytesOf("C:\\Eget\\Ett\\prog.exe"), "program");
-    EXPECT_EQ(BytesOf("C:\\WINDOWS\\prov.ini"), "[Del]\r\nNamn=\xC5ke\r\nFirma=Ullas firma\r\n");
-    EXPECT_EQ(State(), installed);
-    EXPECT_EQ(BytesOf("L:\\igen.inf"), BytesOf("L:\\svar.inf"));
-    // A folder that the project does not leave to its user stays the project's.
-    component.CompCanChangeDir = 0;
-    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf"), ExitCode::Done) << Log();
-    EXPECT_TRUE(files.FileExists(kMain + "\\Ett\\prog.exe"));
-}
-
-TEST_F(UnattendedTest, TakesTheNamesOfTheRegistrationPageFromAFile)
-{
-    memory.files.Put("L:\\svar.inf", "[Annat]\r\nDir=fel\r\n[setup]\r\nUSERNAME = \xC5ke\r\n"
-                                     "Okänd=1\r\n");
-    project.Lists.INIFiles = "-- prov.ini --\r\n[Del]\r\nNamn=%USERNAME\r\n";
-    ASSERT_EQ(Install("/S /LOADINF=L:\\svar.inf"), ExitCode::Done) << Log();
-    EXPECT_THAT(BytesOf("C:\\WINDOWS\\prov.ini"), HasSubstr("Namn=\xC5ke"));
-}
-
-TEST_F(UnattendedTest, RefusesAFileOfAnswersThatIsNone)
-{
-    EXPECT_EQ(RunInVain("/S /LOADINF=L:\\borta.inf"), ExitCode::BadSwitch);
-    EXPECT_THAT(Log(), HasSubstr("Växeln '/LOADINF=L:\\borta.inf' är okänd"));
-    memory.files.Put("L:\\svar.inf", "[Setup]\r\nDir=fel\r\n");
-    EXPECT_EQ(RunInVain("/S /LOADINF=L:\\svar.inf"), ExitCode::BadSwitch);
-    EXPECT_THAT(Log(), HasSubstr("Växeln '/LOADINF=L:\\svar.inf (Dir)' är okänd"));
-    for (const Text answer : {"Dir=C:\\con\\x", "CompDir2=Ett", "CompDir2=C:\\a|b"}) {
-        memory.files.Put("L:\\svar.inf", "[Setup]\r\n" + answer + "\r\n");
-        EXPECT_EQ(RunInVain("/S /LOADINF=L:\\svar.inf"), ExitCode::BadSwitch) << answer;
     }
 }
 
