@@ -1,5 +1,7 @@
 // The codes that the setup ends with, and switches without a value, by what they leave behind.
 #include "support/small_disk.h"
+#include "wine/driven_setup.h"
+#include "wine/page_script.h"
 #include "wine/self_extracting_program.h"
 #include "wine/setup_switches.h"
 
@@ -113,6 +115,23 @@ TEST_F(SetupCodes, TellOfANewerVersion)
     EXPECT_EQ(Uninstall("/S"), 0U);
     EXPECT_EQ(Setup("/S"), 0U);
     EXPECT_EQ(RegistryText(prefix).Value(kForAll, "DisplayVersion"), "3.3");
+}
+
+TEST_F(SetupCodes, ComeFromTheUserWhoIsAskedAboutANewerVersion)
+{
+    Make();
+    UseNoScreen(prefix);
+    Remember();
+    ASSERT_EQ(Setup("/S"), 0U);
+    product.project.Version.ProductVersion = "3.3";
+    Make();
+    Script script;
+    script.Box(kNo).End();
+    EXPECT_EQ(
+        DriveSetup(prefix, script.Text("\"" + OnZ(package / "SETUP.EXE") + "\"")),
+        "Installation av Provpaket Åäö: Version 3.4 är redan installerad, och den är nyare än "
+        "version 3.3. Vill du ersätta den med den äldre?\ncode 1602\n");
+    EXPECT_EQ(RegistryText(prefix).Value(kForAll, "DisplayVersion"), "3.4");
 }
 
 TEST_F(SetupCodes, TellOfAFolderThatWindowsCannotHold)

@@ -55,6 +55,14 @@ TEST_F(RestartedMachine, IsLeftAloneUnderSilenceWhateverTheCode)
     EXPECT_EQ(Drive(" /S /RESTARTEXITCODE=1641", "end\n"), "code 1641\n");
 }
 
+// Nobody would be told of it beforehand.
+TEST_F(RestartedMachine, IsLeftAloneWhereBoxesAreSuppressed)
+{
+    EXPECT_EQ(Drive(" /SUPPRESSMSGBOXES", "page Välkommen\npress 1\npage Komponenter\npress 1\n"
+                                          "page Installationen avslutad\npress 1\nend\n"),
+              "code 3010\n");
+}
+
 TEST_F(RestartedMachine, IsLeftAloneAgainstTheSwitch)
 {
     EXPECT_EQ(Drive(" /norestart", "page Välkommen\npress 1\npage Komponenter\npress 1\n"

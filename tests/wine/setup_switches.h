@@ -105,7 +105,8 @@ private:
     FolderState Files() const
     {
         FolderState state = StateOf(prefix.DriveC());
-        for (const char* path : {"l.txt", "a.json", "r.json", "plan.json", "svar.inf", "temp.txt"})
+        for (const char* path : {"l.txt", "a.json", "r.json", "plan.json", "svar.inf", "temp.txt",
+                                 "script.txt", "driven.txt"})
             state.erase(path);
         std::erase_if(state, [](const auto& entry) {
             return entry.first.starts_with("ut packat") || entry.first.starts_with("windows/inf");
