@@ -36,7 +36,7 @@ quillon_forms(importers)
 quillon_forms(builder)
 quillon_forms(shell)
 quillon_forms(tools)
-# As for DBus above.
+# Linked, but not needed by who includes the forms.
 target_link_libraries(quillon_tools_forms INTERFACE $<LINK_ONLY:Qt6::PrintSupport>)
 
 file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/app/*.cpp

@@ -42,7 +42,7 @@ void TakeBack(EncodedIni& file, const std::string& section, const std::string& n
     if (change.makesSection)
         file.ini.RemoveEmptySection(section);
     if (!change.openEnd.empty())
-        file.ini.OpenEndOf(change.openEnd);
+        file.ini.RemoveFinalLineBreakAfter(change.openEnd);
 }
 
 } // namespace

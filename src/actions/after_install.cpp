@@ -44,11 +44,11 @@ std::optional<Text> DocumentOfRow(const FileListRow& row, Ask& ask)
     // the main folder.
     const Text path =
         row[Destination] == kFileIsGone ? row[Filename] : JoinPath(row[Destination], row[Filename]);
-    const int longest = LongestText(section::kShowDocAfter, &ShowDocAfter::DocFileName);
-    if (CharacterCount(path) <= static_cast<std::size_t>(longest))
+    const int maxLength = LongestText(section::kShowDocAfter, &ShowDocAfter::DocFileName);
+    if (CharacterCount(path) <= static_cast<std::size_t>(maxLength))
         return path;
     ask.Inform("Ogiltig fil",
-               "Sökvägen '" + path + "' är längre än " + NumberText(longest) + " tecken!");
+               "Sökvägen '" + path + "' är längre än " + NumberText(maxLength) + " tecken!");
     return {};
 }
 

@@ -7,7 +7,7 @@ namespace quillon {
 
 namespace {
 
-bool CanKeepPath(const Text& path, int longest, const PathKind& kind, Ask& ask)
+bool CanKeepPath(const Text& path, int maxLength, const PathKind& kind, Ask& ask)
 {
     const Text refusal = Text(kind.thing) + " '" + path + "' kan ej väljas. ";
     if (!AnsiText::Holds(path)) {
@@ -16,7 +16,7 @@ bool CanKeepPath(const Text& path, int longest, const PathKind& kind, Ask& ask)
                                "namn på filen eller katalogen och försök igen.");
         return false;
     }
-    if (CharacterCount(path) > static_cast<std::size_t>(longest)) {
+    if (CharacterCount(path) > static_cast<std::size_t>(maxLength)) {
         ask.Critical("Fel", refusal + "Sökvägen är för lång för att kunna lagras i ett projekt. " +
                                 kind.advice);
         return false;
@@ -26,7 +26,7 @@ bool CanKeepPath(const Text& path, int longest, const PathKind& kind, Ask& ask)
 
 } // namespace
 
-std::optional<Text> ChooseKeptPath(FileQuestion question, Text& folder, int longest,
+std::optional<Text> ChooseKeptPath(FileQuestion question, Text& folder, int maxLength,
                                    const PathKind& kind, Ask& ask)
 {
     question.folder = folder;
@@ -34,7 +34,7 @@ std::optional<Text> ChooseKeptPath(FileQuestion question, Text& folder, int long
     if (!path || path->empty())
         return std::nullopt;
     folder = ExtractDirectory(*path);
-    return CanKeepPath(*path, longest, kind, ask) ? path : std::nullopt;
+    return CanKeepPath(*path, maxLength, kind, ask) ? path : std::nullopt;
 }
 
 } // namespace quillon

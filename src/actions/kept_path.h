@@ -16,8 +16,8 @@ struct PathKind {
 
 /// Asks for a file; `folder` is where the dialog opens, and afterwards where the user went. Nothing
 /// where the user cancelled, or chose a file whose path the project file would not give back from
-/// `longest` bytes, which a box says.
-std::optional<Text> ChooseKeptPath(FileQuestion question, Text& folder, int longest,
+/// `maxLength` bytes, which a box says.
+std::optional<Text> ChooseKeptPath(FileQuestion question, Text& folder, int maxLength,
                                    const PathKind& kind, Ask& ask);
 
 } // namespace quillon

@@ -2,39 +2,18 @@
 
 #include "helpers/ansi_text.h"
 #include "helpers/swedish_order.h"
+#include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/failure_text.h"
 #include "project/install_keys.h"
 
 #include <algorithm>
-#include <array>
 
 namespace quillon {
 
 namespace {
 
 constexpr std::string_view kExtension = ".LNG";
-
-// Windows takes these for devices, whatever extension follows them.
-constexpr std::array<std::string_view, 4> kDevices{"CON", "PRN", "AUX", "NUL"};
-
-bool IsDevice(std::string_view upperName)
-{
-    const std::string_view base = upperName.substr(0, upperName.find('.'));
-    const bool isPort = base.size() == 4 && (base.starts_with("COM") || base.starts_with("LPT")) &&
-                        base[3] >= '1' && base[3] <= '9';
-    return isPort || std::ranges::find(kDevices, base) != kDevices.end();
-}
-
-bool CanBeFileName(const Text& name)
-{
-    const auto isForbidden = [](char character) {
-        const bool isControl = static_cast<unsigned char>(character) < ' ';
-        return isControl || std::string_view("\\/:*?\"<>|").find(character) != Text::npos;
-    };
-    return std::ranges::none_of(name, isForbidden) && !name.ends_with('.') &&
-           !name.ends_with(' ') && !IsDevice(UpperCase(name));
-}
 
 bool IsLanguageFile(const FolderEntry& entry)
 {
@@ -110,15 +89,15 @@ Text LanguageFileName(std::string_view typed)
 
 bool CanBeLanguageFile(const Text& name, Ask& ask)
 {
-    const int longest = LongestText(section::kLanguage, &section::Language::LanguageFile);
+    const int maxLength = LongestText(section::kLanguage, &section::Language::LanguageFile);
     Text reason;
-    if (!CanBeFileName(name))
+    if (FaultOfName(name) != PathFault::None)
         reason = "kan inte vara ett filnamn i Windows. Tecknen \\ / : * ? \" < > | är inte "
                  "tillåtna, och inte heller namn på enheter som CON.";
     else if (!AnsiText::Holds(name))
         reason = "innehåller tecken som inte får plats i ett projekt. Byt namn på filen!";
-    else if (CharacterCount(name) > static_cast<std::size_t>(longest))
-        reason = "är längre än " + NumberText(longest) + " tecken.";
+    else if (CharacterCount(name) > static_cast<std::size_t>(maxLength))
+        reason = "är längre än " + NumberText(maxLength) + " tecken.";
     if (reason.empty())
         return true;
     ask.Inform("Ogiltigt filnamn", "'" + name + "' " + reason);

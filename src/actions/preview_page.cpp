@@ -4,6 +4,7 @@
 #include "filelist/view/totals.h"
 #include "formats/variable_names.h"
 #include "helpers/amount_text.h"
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "project/new_project.h"
@@ -36,7 +37,7 @@ const VariableName& NamedVariable(const Text& name)
     return *std::ranges::find(kVariableNames, name, &VariableName::name);
 }
 
-/// The longest variable that is at this place of a text, or null.
+/// The maxLength variable that is at this place of a text, or null.
 const VariableValue* VariableAt(std::string_view text, const std::vector<VariableValue>& known)
 {
     const VariableValue* best = nullptr;
@@ -58,16 +59,11 @@ Text Expand(std::string_view text, const std::vector<VariableValue>& known)
     return expanded;
 }
 
-bool HasDrive(const Text& folder)
-{
-    return folder.size() >= 2 && folder[1] == ':';
-}
-
 /// Where the end user's folders would be. A folder without a drive is on that of Windows.
 Text ExpandFolder(const Text& folder, const std::vector<VariableValue>& known, const Host& host)
 {
     const Text expanded = Expand(TrimBlanks(folder), known);
-    const bool isWhole = HasDrive(expanded) || expanded.starts_with("\\\\");
+    const bool isWhole = BeginsWithDrive(expanded) || expanded.starts_with("\\\\");
     if (isWhole || expanded.starts_with('%'))
         return expanded;
     const Text drive = host.machine.GetWindowsDir().substr(0, 2);
@@ -92,7 +88,7 @@ std::vector<VariableValue> KnownVariables(const Project& project, const Host& ho
 void AddMainFolder(std::vector<VariableValue>& known, const Text& folder)
 {
     known.push_back({Text(NameOf(Meaning::MainFolder)), folder});
-    if (HasDrive(folder))
+    if (BeginsWithDrive(folder))
         known.push_back({Text(NameOf(Meaning::MainFolderDrive)), folder.substr(0, 2)});
 }
 
@@ -104,7 +100,7 @@ void AddComponentFolders(std::vector<VariableValue>& known, const Project& proje
         const Text folder = Expand(component.CompDir, known);
         const Text below = folder.empty() ? mainFolder : JoinPath(mainFolder, folder);
         known.push_back({Text(NameOf(Meaning::ComponentFolder, ++number)),
-                         HasDrive(folder) ? folder : RemoveDupBackslashesEx(below)});
+                         BeginsWithDrive(folder) ? folder : RemoveDupBackslashesEx(below)});
     }
 }
 
@@ -151,7 +147,7 @@ Text NeededSpaceText(const Project& project, const Host& host, Ask& ask)
 
 Text FreeSpaceText(const Host& host, const Text& folder)
 {
-    if (!HasDrive(folder))
+    if (!BeginsWithDrive(folder))
         return kUnknownSpace;
     try {
         const std::uint64_t bytes = host.files.FreeSpace(folder.substr(0, 2) + "\\");

@@ -27,13 +27,13 @@ constexpr std::array<ListName, std::size(kListSections)> kNames{{
 }};
 
 // A section between or after the lists, found by its first header in any case of letters.
-struct UnsupportedSection {
+struct SectionAfterLists {
     const char* name;
-    ListField firstListBehind; // null where none is
+    ListField firstListAfter; // null where none is
     const char* hit;
 };
 
-constexpr UnsupportedSection kUnsupportedSections[] = {
+constexpr SectionAfterLists kSectionsAfterLists[] = {
     // The file lacks it where there is no such program.
     {"RunAppSelfX",    nullptr,                            "Program i den självuppackande installationen"},
     {"Configuration",  &section::Lists::Registry,          "Registry, INI-filer, AUTOEXEC.BAT och CONFIG.SYS"},
@@ -70,10 +70,10 @@ const char* ListHitBy(std::string_view line, ListField list)
 
 const char* SectionHitBy(std::string_view header, ListField list)
 {
-    for (const UnsupportedSection& section : kUnsupportedSections) {
-        const bool isBehind =
-            !section.firstListBehind || PlaceOf(list) < PlaceOf(section.firstListBehind);
-        if (isBehind && FoldedName(header) == FoldedName(section.name))
+    for (const SectionAfterLists& section : kSectionsAfterLists) {
+        const bool isAfter =
+            !section.firstListAfter || PlaceOf(list) < PlaceOf(section.firstListAfter);
+        if (isAfter && FoldedName(header) == FoldedName(section.name))
             return section.hit;
     }
     return nullptr;

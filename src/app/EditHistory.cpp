@@ -76,7 +76,7 @@ void EditHistory::Run(const Text& name, const std::function<void()>& work)
     if (--runningCommands_ > 0)
         return;
     if (name.empty())
-        history_.Absorb(Changed::SettingsAndRows);
+        history_.MergeIntoLastStep(Changed::SettingsAndRows);
     else
         history_.Record(name, Changed::SettingsAndRows);
 }
@@ -99,10 +99,10 @@ void EditHistory::EndPageEdit()
         history_.Record(EditName(tab_), Changed::Settings);
 }
 
-void EditHistory::Absorb()
+void EditHistory::MergeIntoLastStep()
 {
     if (!IsBusy())
-        history_.Absorb(Changed::Settings);
+        history_.MergeIntoLastStep(Changed::Settings);
 }
 
 std::optional<Text> EditHistory::UndoName() const

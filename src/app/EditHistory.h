@@ -32,7 +32,7 @@ public:
     /// Another tab is in front.
     void GoToTab(Tab tab);
     /// What has changed since is no step of its own.
-    void Absorb();
+    void MergeIntoLastStep();
 
     /// What would be undone and done again, a field's own text too; nothing where nothing would.
     std::optional<Text> UndoName() const;

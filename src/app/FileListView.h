@@ -18,7 +18,7 @@ public:
 
     /// The rows anew, these of them selected.
     void ShowRows(const std::vector<std::size_t>& selectedRows);
-    /// Rising.
+    /// Row numbers, ascending.
     std::vector<std::size_t> SelectedRows() const;
     std::size_t SelectedRowCount() const;
 
@@ -65,7 +65,7 @@ private:
     const Project& project_;
     quillon::Settings& settings_;
     FileListModel model_;
-    // The room that the longest name asks for.
+    // The room that the maxLength name asks for.
     int widestName_ = 0;
     // Widths that change while this is set are not the user's.
     bool isArranging_ = false;

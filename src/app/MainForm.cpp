@@ -125,7 +125,7 @@ void MainForm::ConnectEdits()
     connect(MainTab_, &QTabWidget::currentChanged, this,
             [this] { edits_->GoToTab(SelectedTab()); });
     auto& design = static_cast<DesignPage&>(PageOf(Tab::Design));
-    design.onLaidOut = [this] { edits_->Absorb(); };
+    design.onLaidOut = [this] { edits_->MergeIntoLastStep(); };
 }
 
 void MainForm::ShowEdits()

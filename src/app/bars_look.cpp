@@ -67,7 +67,7 @@ BaseColours BaseColoursOf(const QPalette& palette)
             Mixed(window, Qt::black, dark ? 0.6 : 0.45)};
 }
 
-// Soft and round.
+// Bars without gradients, buttons with rounded corners and a shade.
 Look WindowsXpLook(const BaseColours& g)
 {
     return {.bar = Solid(Mixed(g.window, g.light, 0.3)),

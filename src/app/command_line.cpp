@@ -4,15 +4,6 @@
 
 namespace quillon {
 
-namespace {
-
-bool IsWindowsPath(const Text& path)
-{
-    return path.starts_with("\\\\") || IsDrivePath(path);
-}
-
-} // namespace
-
 std::optional<Text> ProjectOfCommandLine(std::span<char* const> words, const HostPaths& paths)
 {
     Text line;

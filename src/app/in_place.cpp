@@ -21,22 +21,22 @@ void Change(Session& session, Text& value, Text typed)
 } // namespace
 
 QLineEdit* EditInPlace(QLineEdit*& member, const char* name, Session& session, Text& value,
-                       int longest)
+                       int maxLength)
 {
     auto* field = Named(member, name, new QLineEdit);
-    LimitTyping(field, longest);
+    LimitTyping(field, maxLength);
     QObject::connect(field, &QLineEdit::textChanged, field,
                      [field, &session, &value] { Change(session, value, FromQt(field->text())); });
     return field;
 }
 
 QPlainTextEdit* EditListInPlace(QPlainTextEdit*& member, const char* name, Session& session,
-                                Text& value, int longest)
+                                Text& value, int maxLength)
 {
     auto* area = Named(member, name, new QPlainTextEdit);
     ShowAsList(area);
     area->setTabChangesFocus(true);
-    LimitTyping(area, longest);
+    LimitTyping(area, maxLength);
     QObject::connect(area, &QPlainTextEdit::textChanged, area, [area, &session, &value] {
         Change(session, value, LinesFromQt(TypedText(area)));
     });

@@ -11,12 +11,12 @@ class QWidget;
 
 namespace quillon {
 
-/// A field that edits `value`; `longest` is in bytes on file (see `LongestText`).
+/// A field that edits `value`; `maxLength` is in bytes on file (see `LongestText`).
 QLineEdit* EditInPlace(QLineEdit*& member, const char* name, Session& session, Text& value,
-                       int longest);
-/// An area that edits a list, a line a row, in letters of one width. `longest` 0 is any length.
+                       int maxLength);
+/// An area that edits a list, a line a row, in letters of one width. `maxLength` 0 is any length.
 QPlainTextEdit* EditListInPlace(QPlainTextEdit*& member, const char* name, Session& session,
-                                Text& value, int longest);
+                                Text& value, int maxLength);
 
 /// Shows the value of the project. A field that shows it already keeps its caret and its undo.
 void ShowInPlace(QLineEdit* field, const Text& value);

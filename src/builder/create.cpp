@@ -88,9 +88,9 @@ Step ClearInternetFolder(CreateRun& run)
 {
     if (run.form.TargetMedia != Medium::Internet)
         return Step::GoOn;
-    for (const char* name : {"INSTALL.ZIP", "INSTALL.ADX"})
+    for (const char* name : {kSelfExtractArchive, kSelfExtractProject})
         RemoveQuietly(run.host.files, run.InDestination(name));
-    PutOlderProgramAside(run);
+    MoveOlderProgramAside(run);
     if (!HoldsAnyFile(run.host.files, run.InDestination("")))
         return Step::GoOn;
     const bool goOn = run.ask.YesNo(
@@ -305,13 +305,13 @@ CreateResult RunCreate(CreateRun& run)
             return CreateResult::Stopped;
         const CreateResult result = RunPipeline(run);
         LeavePackage(run);
-        SettleOlderProgram(run);
+        RemoveOrRestoreOlderProgram(run);
         return result;
     } catch (const RunError& error) {
         // Kept: the buttons stay disabled until the form is opened anew.
         run.failure = error;
         LeavePackage(run);
-        SettleOlderProgram(run);
+        RemoveOrRestoreOlderProgram(run);
         run.ask.AddStatusLine("Kan ej skapa!");
         run.ask.Critical("Fel", "Fel! Kan ej skriva till destinationsenheten!");
         return CreateResult::Failed;

@@ -72,7 +72,7 @@ void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project
         project.LastDirectories.*lastFolder = folder;
 }
 
-Text WhyNotMade(const CreateForm& form)
+Text CreateObstacle(const CreateForm& form)
 {
     // The steps would cut a longer one and write somewhere else.
     if (CharacterCount(form.tDestinationDir) > kMaxPathLength)

@@ -65,7 +65,7 @@ void ChangeDestinationDir(CreateForm& form, const Text& folder, Project& project
 
 /// Why no package can be made of what the form holds, which it says before anything is written; an
 /// empty text where one can.
-Text WhyNotMade(const CreateForm& form);
+Text CreateObstacle(const CreateForm& form);
 
 /// True where FILEDATA.DAT becomes a solid container: what the medium or another choice does not
 /// allow has no effect.

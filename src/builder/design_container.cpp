@@ -23,7 +23,7 @@ Step TellMissingObject(CreateRun& run, const Text& path)
 }
 
 // Kept: no status line reports a failed design container.
-void TakeUntoldFailure(CreateRun& run)
+void StoreUnreportedFailure(CreateRun& run)
 {
     run.isIncomplete = true;
     run.compressionFailure = run.compression.LastFailure();
@@ -52,7 +52,7 @@ Step CreateDesignContainer(CreateRun& run)
     if (result == CompressionResult::kNothingToDo)
         run.ask.AddStatusLine("Inga skärmobjekt kopierade - raderar DESOBJ.DAT");
     else if (result > CompressionResult::kDone)
-        TakeUntoldFailure(run);
+        StoreUnreportedFailure(run);
     else
         run.packageFiles.push_back(kDesignContainerName);
     return Step::GoOn;

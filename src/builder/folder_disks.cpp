@@ -92,7 +92,7 @@ std::uint64_t FolderDisks::Capacity(const Text& folder) const
     return used < kDiskCapacity ? kDiskCapacity - used : 0;
 }
 
-std::uint64_t FolderDisks::RoomToLeave(std::uint64_t archiveSize) const
+std::uint64_t FolderDisks::ReservedBytes(std::uint64_t archiveSize) const
 {
     constexpr std::uint64_t kLinesOfFiles = 2048; // two dozen
     constexpr std::uint64_t kLineOfPiece = 96;

@@ -26,7 +26,7 @@ public:
     std::uint64_t Capacity(const Text& folder) const override;
 
     /// The package's manifest goes onto the first disk when all are full.
-    std::uint64_t RoomToLeave(std::uint64_t archiveSize) const override;
+    std::uint64_t ReservedBytes(std::uint64_t archiveSize) const override;
 
 protected:
     Host& host_;

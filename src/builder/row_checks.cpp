@@ -4,7 +4,7 @@
 #include "builder/one_by_one.h"
 #include "builder/source_address.h"
 #include "filelist/adding/system_files.h"
-#include "filelist/row_facts.h"
+#include "filelist/row_status.h"
 #include "formats/installation_log_name.h"
 #include "formats/row_safety.h"
 #include "formats/runtime_programs.h"

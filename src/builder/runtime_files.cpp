@@ -2,11 +2,10 @@
 
 #include "builder/design_objects.h"
 #include "builder/signing/sign_programs.h"
-#include "formats/copy_letters.h"
-#include "formats/runtime_programs.h"
+#include "formats/needed_helpers.h"
 #include "helpers/windows_path.h"
 
-#include <algorithm>
+#include <ranges>
 
 namespace quillon {
 
@@ -20,41 +19,11 @@ struct RuntimeFile {
     bool isProgram = true; // which is signed where the project wants it
 };
 
-// What goes from the tool's Release folder as it is, under which name, and when.
-struct ReleaseFile {
-    RuntimeProgram program;
-    bool (*isNeeded)(const Project&);
-};
-
-// Scripts run in the helper that registers files.
-bool NeedsRegistryHelper(const Project& project)
+auto CopyOptionsOf(const Project& project)
 {
-    return std::ranges::any_of(project.Files.rows,
-                               [](const FileListRow& row) {
-                                   return HasOption(row[CopyOptions], CopyLetter::kRegister);
-                               }) ||
-           !project.Lists.RunScriptBefore.empty() || !project.Lists.RunScriptAfter.empty();
+    return std::views::transform(project.Files.rows,
+                                 [](const FileListRow& row) { return row[CopyOptions]; });
 }
-
-// A file that is in use can't be registered before the next start of Windows, which is the second
-// helper's work.
-bool NeedsSecondRegistryHelper(const Project& project)
-{
-    return std::ranges::any_of(project.Files.rows, [](const FileListRow& row) {
-        return HasOption(row[CopyOptions], CopyLetter::kRegister) &&
-               HasOption(row[CopyOptions], CopyLetter::kActiveFile);
-    });
-}
-
-bool NeedsUninstaller(const Project& project)
-{
-    return project.InstallOptions.UninstallSupport != kOff;
-}
-
-constexpr ReleaseFile kRegistryHelper = {RuntimePrograms::kRegistryHelper, NeedsRegistryHelper};
-constexpr ReleaseFile kSecondRegistryHelper = {RuntimePrograms::kSecondRegistryHelper,
-                                               NeedsSecondRegistryHelper};
-constexpr ReleaseFile kUninstaller = {RuntimePrograms::kUninstaller, NeedsUninstaller};
 
 Text ReleasePath(const CreateRun& run, const Text& name)
 {
@@ -81,12 +50,10 @@ Step CopyIntoPackage(CreateRun& run, const RuntimeFile& file)
     return Step::Stop;
 }
 
-Step CopyReleaseFile(CreateRun& run, const ReleaseFile& file)
+// What goes from the tool's Release folder as it is.
+Step CopyReleaseFile(CreateRun& run, const RuntimeProgram& program)
 {
-    if (!file.isNeeded(run.project))
-        return Step::GoOn;
-    return CopyIntoPackage(
-        run, {ReleasePath(run, file.program.name), file.program.inPackage, file.program.name});
+    return CopyIntoPackage(run, {ReleasePath(run, program.name), program.inPackage, program.name});
 }
 
 } // namespace
@@ -121,17 +88,23 @@ Step CopyUnzipLibrary(CreateRun& run)
 
 Step CopyRegistryHelper(CreateRun& run)
 {
-    return CopyReleaseFile(run, kRegistryHelper);
+    if (!NeedsRegistryHelper(run.project, CopyOptionsOf(run.project)))
+        return Step::GoOn;
+    return CopyReleaseFile(run, RuntimePrograms::kRegistryHelper);
 }
 
 Step CopySecondRegistryHelper(CreateRun& run)
 {
-    return CopyReleaseFile(run, kSecondRegistryHelper);
+    if (!NeedsSecondRegistryHelper(CopyOptionsOf(run.project)))
+        return Step::GoOn;
+    return CopyReleaseFile(run, RuntimePrograms::kSecondRegistryHelper);
 }
 
 Step CopyUninstaller(CreateRun& run)
 {
-    return CopyReleaseFile(run, kUninstaller);
+    if (!NeedsUninstaller(run.project))
+        return Step::GoOn;
+    return CopyReleaseFile(run, RuntimePrograms::kUninstaller);
 }
 
 Step CopyLicenseRtf(CreateRun& run)

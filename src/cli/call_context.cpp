@@ -8,15 +8,6 @@
 
 namespace quillon::cli {
 
-namespace {
-
-bool IsWindowsPath(std::string_view path)
-{
-    return IsDrivePath(path) || (BeginsWithDrive(path) && path.size() == 2);
-}
-
-} // namespace
-
 Text CallContext::Path(const std::string& argument) const
 {
     if (argument.empty())

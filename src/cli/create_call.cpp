@@ -112,7 +112,7 @@ Exit CreatePackage(const CallContext& context)
         throw CallFailure{PartlyReadText(path) + " Ingen installation skapas.", Exit::Unreadable};
 
     CreateForm form = FillForm(context, session);
-    if (const Text reason = WhyNotMade(form); !reason.empty())
+    if (const Text reason = CreateObstacle(form); !reason.empty())
         throw CallFailure{reason, Exit::Stopped};
     FolderDisks disks(context.host, form.tDestinationDir);
     CompressionInterface compression(context.host, ask, disks);

@@ -120,11 +120,6 @@ bool IsAmong(const std::vector<Text>& fields, const FieldRule& rule)
         fields, [&](const Text& field) { return EqualIgnoreCase(field, NameOf(rule)); });
 }
 
-Text ValueText(const Json& value)
-{
-    return value.is_string() ? value.get<Text>() : value.dump();
-}
-
 } // namespace
 
 ChangedFields ApplyFieldRules(Project& project, const std::vector<Text>& fields, EditAsk& ask)

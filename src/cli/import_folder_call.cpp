@@ -86,7 +86,7 @@ Text MixedText(const ProgramFindings& findings)
     return text + "'" + other->file + "' är för " + MachineText(other->machine) + ".";
 }
 
-void DemandWhole(const ProgramFindings& findings)
+void RequireMatchingLibraries(const ProgramFindings& findings)
 {
     for (const MissingLibrary& library : findings.missing)
         if (!library.isDelayed)
@@ -117,7 +117,7 @@ Exit ImportFolder(const CallContext& context)
     const FolderFile& program = folder.files[place];
     const ProgramFindings findings = FindingsOf(files, folder, program, run.Data());
     if (context.arguments.Has("--strict"))
-        DemandWhole(findings);
+        RequireMatchingLibraries(findings);
     Text lines = "Program: " + program.RelativePath() + "\n";
     for (const Text& line : FindingsText(findings))
         lines += line + "\n";

@@ -2,18 +2,12 @@
 
 #include "cli/box_json.h"
 #include "filelist/options/icon_row.h"
-#include "helpers/number_text.h"
 
 #include <ostream>
 
 namespace quillon::cli {
 
 namespace {
-
-Text CountText(std::size_t count)
-{
-    return NumberText(static_cast<std::int64_t>(count));
-}
 
 Text LinesOf(const FileList& files, const std::vector<std::size_t>& added,
              const ImportResult& result)
@@ -71,7 +65,7 @@ bool ImportRun::EditIcon(FileListRow& row, const Text&)
 }
 
 // What a check refused, or what was answered so that the import ends.
-void ImportRun::DemandEnd(ImportEnd end)
+void ImportRun::RequireFinished(ImportEnd end)
 {
     if (end == ImportEnd::Refused && !edit.ask.boxes.empty())
         throw CallFailure{edit.ask.boxes.back().text + " Inget är sparat.", Exit::Stopped};
@@ -89,7 +83,7 @@ Json ImportRun::MissedJson(const ImportResult& result) const
 
 Exit ImportRun::Finish(const ImportResult& result, const Text& lines, Json members)
 {
-    DemandEnd(result.end);
+    RequireFinished(result.end);
     const std::vector<std::size_t>& added = result.added;
     const Text text = LinesOf(edit.Files(), added, result) + lines;
     const bool isDryRun = context_.arguments.Has("--dry-run");

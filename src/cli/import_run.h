@@ -26,7 +26,7 @@ private:
     std::optional<Text> ChooseProgramDestination(const ProgramQuestion& question) override;
     bool EditIcon(FileListRow& row, const Text& title) override;
 
-    void DemandEnd(ImportEnd end);
+    void RequireFinished(ImportEnd end);
     Json MissedJson(const ImportResult& result) const;
 
     const CallContext& context_;

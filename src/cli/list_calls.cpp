@@ -5,7 +5,7 @@
 #include "cli/row_pattern.h"
 #include "filelist/list_maintenance.h"
 #include "filelist/options/row_options.h"
-#include "filelist/row_facts.h"
+#include "filelist/row_status.h"
 #include "helpers/number_text.h"
 #include "importers/lst_file.h"
 #include "platform/run_error.h"

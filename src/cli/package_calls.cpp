@@ -2,6 +2,7 @@
 #include "cli/calls.h"
 #include "cli/package_source.h"
 #include "formats/served_rows.h"
+#include "helpers/hex.h"
 #include "helpers/number_text.h"
 
 #include <algorithm>
@@ -15,7 +16,7 @@ Text HexText(std::uint32_t number)
 {
     Text digits;
     for (unsigned shift = 32; shift > 0; shift -= 4)
-        digits += "0123456789ABCDEF"[number >> (shift - 4) & 15U];
+        digits += kHexDigits[number >> (shift - 4) & 15U];
     return digits;
 }
 

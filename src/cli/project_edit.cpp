@@ -23,11 +23,6 @@ constexpr const char* kNothingSaved = " Inget är sparat.";
 // Of a value that is reported, in characters; a whole agreement would bury what is said about it.
 constexpr std::size_t kMaxShownLength = 60;
 
-Text ValueText(const Json& value)
-{
-    return value.is_string() ? value.get<Text>() : value.dump();
-}
-
 Text BeginningOf(const Text& value)
 {
     const Text beginning = FirstCharacters(value, kMaxShownLength);

@@ -26,11 +26,6 @@ constexpr NumberRange kAnyNumber{std::numeric_limits<Number>::min(),
 constexpr NumberRange kAnyInteger = kAnyNumber<Integer>;
 constexpr NumberRange kAnyLong = kAnyNumber<Long>;
 
-bool IsPixels(Stored form)
-{
-    return form == Stored::AsPixelsX || form == Stored::AsPixelsY;
-}
-
 bool IsFlag(Stored form)
 {
     return form == Stored::AsFlag || form == Stored::AsFlagOnIfMissing ||

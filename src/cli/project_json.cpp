@@ -7,11 +7,6 @@ namespace quillon::cli {
 
 namespace {
 
-bool IsPixels(Stored form)
-{
-    return form == Stored::AsPixelsX || form == Stored::AsPixelsY;
-}
-
 /// Walks the same tables as the project file's writer.
 class JsonWriter {
 public:

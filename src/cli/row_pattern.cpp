@@ -10,7 +10,6 @@ namespace quillon::cli {
 
 namespace {
 
-constexpr std::string_view kDigits = "0123456789";
 constexpr std::string_view kNamePrefix = "name:";
 
 struct Range {
@@ -18,18 +17,13 @@ struct Range {
     std::int64_t last;
 };
 
-bool IsNumber(std::string_view text)
-{
-    return !text.empty() && text.find_first_not_of(kDigits) == std::string_view::npos;
-}
-
 // "3" or "2-5"; nothing where it is neither.
 std::optional<Range> RangeIn(std::string_view text)
 {
     const std::size_t dash = text.find('-');
     const std::string_view first = text.substr(0, dash);
     const std::string_view last = dash == std::string_view::npos ? first : text.substr(dash + 1);
-    if (!IsNumber(first) || !IsNumber(last))
+    if (!IsDigits(first) || !IsDigits(last))
         return std::nullopt;
     return Range{LeadingNumber(first), LeadingNumber(last)};
 }

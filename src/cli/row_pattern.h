@@ -8,7 +8,7 @@
 
 namespace quillon::cli {
 
-/// The rows that any of the patterns selects, in rising order, counted from 0.
+/// The rows that any of the patterns selects, in ascending order, counted from 0.
 ///
 /// "3", "2-5" and "1,4-6" are numbers, counted from 1 as the list shows them. All else is a name,
 /// case ignored: "*" stands for any characters, "?" for one. "name:3" is the file "3". Throws

@@ -66,7 +66,7 @@ Text FaultText(const ScreenFileFault& fault)
 }
 
 /// What the user would miss in the picture ends the call; all of it is reported.
-void DemandAllFiles(const ScreenFiles& files)
+void RequireAllFiles(const ScreenFiles& files)
 {
     Text text;
     for (const ScreenFileFault& fault : files.faults)
@@ -108,7 +108,7 @@ Exit PaintProjectScreen(const CallContext& context)
                          .metrics = session.surface.screen,
                          .width = size.width,
                          .height = size.height});
-    DemandAllFiles(files);
+    RequireAllFiles(files);
     const PngFile picture(PaintWhole({.project = session.project,
                                       .width = surface.width,
                                       .height = surface.height,

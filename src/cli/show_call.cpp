@@ -12,11 +12,6 @@ namespace quillon::cli {
 
 namespace {
 
-Text ValueText(const Json& value)
-{
-    return value.is_string() ? value.get<Text>() : value.dump();
-}
-
 /// A text of several lines is on lines of its own, set in, so that it can't be taken for a key.
 void PrintValue(std::ostream& out, const Text& key, const Text& value)
 {

@@ -48,11 +48,11 @@ SigningChoices ReadSigningSwitches(const CallContext& context)
     if (const auto module = context.arguments.Value("--sign-module"))
         choices.module = context.Path(*module);
     if (!choices.certificate.empty())
-        choices.wish = SigningChoices::Wish::Sign;
+        choices.wish = SigningChoices::SigningMode::Sign;
     if (context.arguments.Has("--no-sign")) {
-        if (choices.wish == SigningChoices::Wish::Sign)
+        if (choices.wish == SigningChoices::SigningMode::Sign)
             throw UsageError{"--sign-cert och --no-sign utesluter varandra."};
-        choices.wish = SigningChoices::Wish::DoNotSign;
+        choices.wish = SigningChoices::SigningMode::DoNotSign;
         return choices;
     }
     choices.password = Password(context);

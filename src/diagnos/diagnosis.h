@@ -1,5 +1,5 @@
 // What the support needs to know of a machine, as a text file. Lines 6 and 8 are short, since the
-// report to the support quotes them in its head.
+// report to the support quotes them at its top.
 #pragma once
 
 #include "platform/host.h"

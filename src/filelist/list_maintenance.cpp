@@ -1,6 +1,6 @@
 #include "filelist/list_maintenance.h"
 
-#include "filelist/row_facts.h"
+#include "filelist/row_status.h"
 #include "filelist/row_text.h"
 #include "helpers/number_text.h"
 #include "platform/run_error.h"

@@ -19,7 +19,7 @@ std::optional<NewPlaces> AddEmptyDirectoryCommand(const ListWork& work);
 /// gone. `show` shows the list before a box reports these.
 void UpdateFileListCommand(const ListWork& work, const std::function<void(const NewPlaces&)>& show);
 
-/// Takes the selected rows (rising numbers) out, if the user says so; true when they are gone.
+/// Takes the selected rows (ascending numbers) out, if the user says so; true when they are gone.
 bool DeleteRowsCommand(const ListWork& work, std::span<const std::size_t> selectedRows);
 
 /// Asks for the destination of the selected rows. Nothing where the list is as it was.

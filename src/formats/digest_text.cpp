@@ -1,5 +1,7 @@
 #include "formats/digest_text.h"
 
+#include "helpers/hex.h"
+
 namespace quillon {
 
 Text DigestText(const Sha256Digest& digest)
@@ -7,7 +9,7 @@ Text DigestText(const Sha256Digest& digest)
     Text digits;
     for (const std::byte byte : digest)
         for (const unsigned shift : {4U, 0U})
-            digits += "0123456789abcdef"[std::to_integer<unsigned>(byte) >> shift & 15U];
+            digits += kSmallHexDigits[std::to_integer<unsigned>(byte) >> shift & 15U];
     return digits;
 }
 

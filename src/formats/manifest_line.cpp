@@ -1,22 +1,15 @@
 #include "formats/manifest_line.h"
 
+#include "helpers/hex.h"
+
 namespace quillon {
 
 namespace {
 
-// The value of a hexadecimal digit; 16 of any other character.
-unsigned ValueOf(char digit)
-{
-    if (digit >= '0' && digit <= '9')
-        return unsigned(digit - '0');
-    const char lower = static_cast<char>(digit | 0x20);
-    return lower >= 'a' && lower <= 'f' ? unsigned(lower - 'a') + 10U : 16U;
-}
-
 bool AreDigits(std::string_view text)
 {
     for (const char digit : text)
-        if (ValueOf(digit) > 15)
+        if (HexDigitValue(digit) > 15)
             return false;
     return true;
 }
@@ -49,8 +42,8 @@ Sha256Digest DigestOfDigits(std::string_view digits)
 {
     Sha256Digest digest{};
     for (std::size_t i = 0; i < digest.size() && 2 * i + 1 < digits.size(); ++i)
-        digest[i] =
-            static_cast<std::byte>(ValueOf(digits[2 * i]) << 4U | ValueOf(digits[2 * i + 1]));
+        digest[i] = static_cast<std::byte>(HexDigitValue(digits[2 * i]) << 4U |
+                                           HexDigitValue(digits[2 * i + 1]));
     return digest;
 }
 

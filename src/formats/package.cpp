@@ -16,11 +16,6 @@ namespace quillon {
 
 namespace {
 
-Medium MediumOf(const SetupInformation& setup)
-{
-    return static_cast<Medium>(setup.project.Media.TargetMedia);
-}
-
 Text FailureText(const RunError& error)
 {
     return "Fel #" + NumberText(error.Number());

@@ -1,8 +1,6 @@
 #include "formats/package_contents.h"
 
-#include "formats/copy_letters.h"
-#include "formats/runtime_programs.h"
-
+#include "formats/needed_helpers.h"
 #include "formats/package.h"
 #include "formats/package_files.h"
 #include "project/file_list.h"
@@ -19,33 +17,15 @@ bool HasSource(const InstallRow& row)
     return row.name != kEmptyFolderName && !MayLackSource(row);
 }
 
-// Create copies the helpers by the same conditions, asked of the project.
-bool NeedsRegistryHelper(const SetupInformation& setup, const std::vector<InstallRow>& rows)
+std::vector<Text> HelpersOf(const Project& project, const std::vector<InstallRow>& rows)
 {
-    return std::ranges::any_of(rows,
-                               [](const InstallRow& row) {
-                                   return HasOption(row.copyOptions, CopyLetter::kRegister);
-                               }) ||
-           !setup.project.Lists.RunScriptBefore.empty() ||
-           !setup.project.Lists.RunScriptAfter.empty();
-}
-
-bool NeedsSecondRegistryHelper(const std::vector<InstallRow>& rows)
-{
-    return std::ranges::any_of(rows, [](const InstallRow& row) {
-        return HasOption(row.copyOptions, CopyLetter::kRegister) &&
-               HasOption(row.copyOptions, CopyLetter::kActiveFile);
-    });
-}
-
-std::vector<Text> HelpersOf(const SetupInformation& setup, const std::vector<InstallRow>& rows)
-{
+    const auto options = std::views::transform(rows, &InstallRow::copyOptions);
     std::vector<Text> names;
-    if (NeedsRegistryHelper(setup, rows))
+    if (NeedsRegistryHelper(project, options))
         names.push_back(RuntimePrograms::kRegistryHelper.inPackage);
-    if (NeedsSecondRegistryHelper(rows))
+    if (NeedsSecondRegistryHelper(options))
         names.push_back(RuntimePrograms::kSecondRegistryHelper.inPackage);
-    if (setup.project.InstallOptions.UninstallSupport != kOff)
+    if (NeedsUninstaller(project))
         names.push_back(RuntimePrograms::kUninstaller.inPackage);
     return names;
 }
@@ -60,7 +40,7 @@ std::vector<Text> FixedFilesOf(const SetupInformation& setup, const std::vector<
                                kSetupInformationName,
                                kFileListName,
                                setup.project.Language.LanguageFile};
-    const std::vector<Text> helpers = HelpersOf(setup, rows);
+    const std::vector<Text> helpers = HelpersOf(setup.project, rows);
     names.insert(names.end(), helpers.begin(), helpers.end());
     std::erase(names, "");
     return names;
@@ -71,7 +51,7 @@ std::vector<Text> ContainerPieces(const SetupInformation& setup,
 {
     if (!UsesContainer(setup) || std::ranges::none_of(rows, HasSource))
         return {};
-    const bool isSpanned = Medium(setup.project.Media.TargetMedia) == Medium::Floppy;
+    const bool isSpanned = MediumOf(setup) == Medium::Floppy;
     // As many as Create can count.
     constexpr int kMaxDisks = std::numeric_limits<Integer>::max();
     const int disks = isSpanned ? std::clamp(setup.Floppies, 1, kMaxDisks) : 1;

@@ -1,6 +1,4 @@
-// Where the rows' bytes are, derived from the INF files alone. It is separate from what opens a
-// package, since the setup itself reads archives through a library and must not carry their reader
-// twice.
+// Where the rows' bytes are, derived from the INF files alone, without opening the package.
 #include "formats/package.h"
 #include "formats/served_rows.h"
 #include "helpers/windows_path.h"
@@ -10,11 +8,6 @@
 namespace quillon {
 
 namespace {
-
-Medium MediumOf(const SetupInformation& setup)
-{
-    return static_cast<Medium>(setup.project.Media.TargetMedia);
-}
 
 bool KeepsFilesOneByOne(const SetupInformation& setup)
 {

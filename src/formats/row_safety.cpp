@@ -14,7 +14,7 @@ constexpr std::string_view kSomeFolder = "C:\\x";
 constexpr std::string_view kSomeDrive = "C:";
 constexpr std::string_view kSomeText = "x";
 
-std::string_view Standin(Meaning meaning)
+std::string_view SampleValue(Meaning meaning)
 {
     switch (meaning) {
     case Meaning::MainFolder:
@@ -54,12 +54,12 @@ const VariableName* VariableAtStart(std::string_view text)
     return best;
 }
 
-Text WithStandins(std::string_view text)
+Text WithSampleValues(std::string_view text)
 {
     Text replaced;
     while (!text.empty()) {
         const VariableName* const variable = VariableAtStart(text);
-        replaced += variable != nullptr ? Standin(variable->meaning) : text.substr(0, 1);
+        replaced += variable != nullptr ? SampleValue(variable->meaning) : text.substr(0, 1);
         text.remove_prefix(variable != nullptr ? variable->name.size() : 1);
     }
     return replaced;
@@ -86,7 +86,7 @@ PathFault FaultOfDestination(std::string_view destination)
     const Text text = TrimBlanks(destination);
     if (text.starts_with('%') && VariableAtStart(text) == nullptr)
         return PathFault::UnknownVariable;
-    return FaultOfFolder(WithStandins(text));
+    return FaultOfFolder(WithSampleValues(text));
 }
 
 PathFault FaultOfSourceFolder(std::string_view folder)

@@ -1,5 +1,6 @@
 #include "formats/scramble.h"
 
+#include "helpers/hex.h"
 #include "helpers/utf8.h"
 
 #include <algorithm>
@@ -58,7 +59,6 @@ Text HeaderOfShift(int shift)
 
 Text MinuteMark(int minute)
 {
-    constexpr std::string_view kHexDigits = "0123456789ABCDEF";
     Text mark(kMinuteDigits, '0');
     int rest = minute * kMinuteFactor;
     for (std::size_t i = kMinuteDigits; i-- > 0; rest /= 16)

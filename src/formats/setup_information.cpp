@@ -14,7 +14,7 @@ namespace quillon {
 namespace {
 
 template <class Number>
-Number WithinType(std::int64_t number)
+Number ClampToType(std::int64_t number)
 {
     return Number(std::clamp<std::int64_t>(number, std::numeric_limits<Number>::min(),
                                            std::numeric_limits<Number>::max()));
@@ -29,9 +29,9 @@ Number NumberOf(InfForm form, const Text& value)
         return number == 1 ? kOn : kOff;
     case InfForm::AsPxX:
     case InfForm::AsPxY:
-        return WithinType<Number>(std::int64_t{WithinType<Number>(number)} * kTwipsPerPixel);
+        return ClampToType<Number>(std::int64_t{ClampToType<Number>(number)} * kTwipsPerPixel);
     default: // The placeholder of a count that never came is no number, so it reads as 0.
-        return WithinType<Number>(number);
+        return ClampToType<Number>(number);
     }
 }
 

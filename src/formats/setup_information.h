@@ -2,6 +2,7 @@
 // walks are beside this reader, so that both agree.
 #pragma once
 
+#include "formats/package_files.h"
 #include "helpers/number_text.h"
 #include "helpers/text.h"
 #include "project/records.h"
@@ -35,5 +36,10 @@ struct SetupInformation {
 
 /// Reads QNSETUP.INF from the bytes on file. The password comes back in plain.
 SetupInformation ReadSetupInformation(std::string_view bytes);
+
+inline Medium MediumOf(const SetupInformation& setup)
+{
+    return static_cast<Medium>(setup.project.Media.TargetMedia);
+}
 
 } // namespace quillon

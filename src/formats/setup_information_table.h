@@ -24,7 +24,7 @@ enum class InfForm {
     AsMulti,    // line breaks encoded
     AsRawLines, // line breaks as they are: the value goes on over the lines up to the next key
     AsLine,     // the first line alone
-    AsFile,     // the name without folder; the whole path in test mode
+    AsFile,     // the name without folder; the absolute path in test mode
     AsNameAlone,
     AsDlgBitmap, // as AsFile, but empty for the picture that the runtime has of its own
     AsRtfFile,   // a name in the tool's RTF folder

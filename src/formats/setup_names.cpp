@@ -3,6 +3,7 @@
 #include "formats/package_files.h"
 #include "formats/row_safety.h"
 #include "formats/runtime_programs.h"
+#include "helpers/drive_path.h"
 
 #include <algorithm>
 
@@ -24,15 +25,9 @@ constexpr const char* kPackageFiles[] = {kFileListName,
                                          RuntimePrograms::kUninstaller.inPackage,
                                          kManifestName};
 
-bool IsDrive(std::string_view part)
-{
-    const char letter = part.empty() ? ' ' : char(part[0] | 0x20);
-    return part.size() == 2 && part[1] == ':' && letter >= 'a' && letter <= 'z';
-}
-
 PathFault FaultOfGroupPart(const Text& part)
 {
-    if (IsDrive(part))
+    if (BeginsWithDrive(part) && part.size() == 2)
         return PathFault::Colon;
     const PathFault fault = FaultOfName(part);
     const bool leadsElsewhere = fault == PathFault::Climbs || fault == PathFault::Device ||

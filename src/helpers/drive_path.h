@@ -18,4 +18,12 @@ constexpr bool IsDrivePath(std::string_view path)
     return BeginsWithDrive(path) && path.size() > 2 && (path[2] == '\\' || path[2] == '/');
 }
 
+/// Whether a path that a user gives is Windows' own: with a drive, "C:" alone too, or of another
+/// machine, "\\\\machine\\share". Any other is one of this machine.
+constexpr bool IsWindowsPath(std::string_view path)
+{
+    return IsDrivePath(path) || (BeginsWithDrive(path) && path.size() == 2) ||
+           path.starts_with("\\\\");
+}
+
 } // namespace quillon

@@ -26,6 +26,12 @@ Text ConvertLongToString(Long number);
 /// starts with no digit gives 0. Values beyond 64 bits stay at the type's end.
 std::int64_t LeadingNumber(std::string_view text);
 
+/// True of one digit or more and nothing else.
+constexpr bool IsDigits(std::string_view text)
+{
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 /// The whole text as a floating number with `decimalSign`; blanks round it and a leading sign are
 /// allowed. Nothing when the text is no such number.
 std::optional<double> FloatingNumber(std::string_view text, char decimalSign);

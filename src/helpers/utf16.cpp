@@ -6,16 +6,6 @@ namespace quillon {
 
 namespace {
 
-constexpr bool IsHighSurrogate(char32_t unit)
-{
-    return unit >= 0xD800 && unit < 0xDC00;
-}
-
-constexpr bool IsLowSurrogate(char32_t unit)
-{
-    return unit >= 0xDC00 && unit < 0xE000;
-}
-
 char32_t UnitAt(std::string_view bytes, std::size_t position)
 {
     const auto low = static_cast<unsigned char>(bytes[position]);

@@ -5,6 +5,16 @@
 
 namespace quillon {
 
+constexpr bool IsHighSurrogate(char32_t unit)
+{
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+
+constexpr bool IsLowSurrogate(char32_t unit)
+{
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+
 /// Half a pair becomes U+FFFD; a last odd byte is passed over.
 Text FromUtf16(std::string_view bytes);
 

@@ -1,5 +1,6 @@
 #include "helpers/windows_name.h"
 
+#include "helpers/drive_path.h"
 #include "helpers/text.h"
 
 #include <algorithm>
@@ -34,12 +35,6 @@ bool IsDevice(std::string_view name)
     const bool isPort = stem.starts_with("COM") || stem.starts_with("LPT");
     return isPort &&
            std::ranges::find(kPortNumbers, std::string_view(stem).substr(3)) != kPortNumbers.end();
-}
-
-bool HasDrive(std::string_view path)
-{
-    const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
-    return path.size() >= 2 && path[1] == ':' && isLetter(path[0]);
 }
 
 bool StartsWithSeparator(std::string_view path)
@@ -86,7 +81,7 @@ PathFault FaultOfName(std::string_view name)
 PathFault FaultOfFolder(std::string_view path)
 {
     std::string_view parts = path;
-    if (HasDrive(path)) {
+    if (BeginsWithDrive(path)) {
         parts.remove_prefix(2);
         if (!StartsWithSeparator(parts))
             return PathFault::NotWhole;

@@ -1,5 +1,6 @@
 #include "importers/data_access.h"
 
+#include "formats/package_files.h"
 #include "helpers/windows_path.h"
 #include "platform/failure_text.h"
 
@@ -10,7 +11,6 @@ namespace {
 const Text kSharedTools = "SOFTWARE\\Microsoft\\Shared Tools";
 constexpr const char* kDaoFailed = "Fel vid hämtning av DAO-filer";
 constexpr const char* kPackage = "MDAC_TYP.EXE";
-constexpr const char* kPackageInSetup = "MDAC_TYP.ZIP";
 
 constexpr const char* kDataAccessQuestion =
     "Vill du att Microsoft Data Access komponenter ska installeras på din användarens dator? Ifall "
@@ -104,7 +104,7 @@ Text CopyForSetup(const RowImport& import, const Text& package)
     FileSystem& files = import.GetHost().files;
     const Text folder = JoinPath(import.Work().ownFolder, "Temp\\Mda");
     files.DirCreate(folder); // what fails here fails again below
-    const Text copy = JoinPath(folder, kPackageInSetup);
+    const Text copy = JoinPath(folder, kDataAccessArchive);
     files.CopyContent(package, copy);
     return copy;
 }
@@ -188,7 +188,7 @@ void AddDataAccessPackage(RowImport& import, const Text& redistFolder)
         return;
     }
     try {
-        import.Add({.FileName = kPackageInSetup,
+        import.Add({.FileName = kDataAccessArchive,
                     .SourcePath = CopyForSetup(import, package),
                     .Destination = "%DESTDIR",
                     .CheckDuplicates = true,

@@ -60,13 +60,13 @@ DotNetNeed NeedOfRuntimeConfig(std::string_view json)
             .version = TextOf(*framework, "version")};
 }
 
-DotNetNeed NeedOfProgram(const ProgramFacts& status)
+DotNetNeed NeedOfProgram(const ProgramInfo& info)
 {
     constexpr std::string_view kFrameworkNote = ".NETFramework,Version=v";
     constexpr std::string_view kCoreNote = ".NETCoreApp,Version=v";
-    if (!status.isManaged)
+    if (!info.isManaged)
         return {};
-    const std::string_view target = status.targetFramework;
+    const std::string_view target = info.targetFramework;
     if (target.starts_with(kFrameworkNote))
         return {.kind = DotNetNeed::Kind::Framework,
                 .name = kFramework,
@@ -76,7 +76,7 @@ DotNetNeed NeedOfProgram(const ProgramFacts& status)
                 .name = ".NET",
                 .version = Text(target.substr(kCoreNote.size()))};
     for (const ClrVersion& known : kClrVersions)
-        if (status.clrVersion == known.clr)
+        if (info.clrVersion == known.clr)
             return {.kind = DotNetNeed::Kind::Framework,
                     .name = kFramework,
                     .version = known.framework};

@@ -1,7 +1,7 @@
 // Which run-time of .NET a program asks for.
 #pragma once
 
-#include "helpers/program_facts.h"
+#include "helpers/program_info.h"
 
 #include <string_view>
 
@@ -27,7 +27,7 @@ struct DotNetNeed {
 DotNetNeed NeedOfRuntimeConfig(std::string_view json);
 
 /// By the program's own header.
-DotNetNeed NeedOfProgram(const ProgramFacts& status);
+DotNetNeed NeedOfProgram(const ProgramInfo& info);
 
 /// "Programmet behöver .NET Framework 4.7.2."; empty where it needs none.
 Text DotNetNeedText(const DotNetNeed& need);

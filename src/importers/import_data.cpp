@@ -97,9 +97,9 @@ std::vector<ImportData::Fault> ImportData::Add(std::string_view bytes)
 Text ImportData::AddRow(std::string_view section, Row row)
 {
     if (section == "Modules")
-        return AddBringing(row, modules_);
+        return AddLibraryRule(row, modules_);
     if (section == "Wrappers")
-        return AddBringing(row, wrappers_);
+        return AddLibraryRule(row, wrappers_);
     if (section == "Windows")
         return AddWindowsLibrary(LowerCase(row));
     if (section != "Controls")
@@ -110,7 +110,7 @@ Text ImportData::AddRow(std::string_view section, Row row)
     return {};
 }
 
-Text ImportData::AddBringing(Row row, std::vector<Bringing>& rows)
+Text ImportData::AddLibraryRule(Row row, std::vector<LibraryRule>& rows)
 {
     const std::size_t sign = row.find('=');
     if (sign == Row::npos)
@@ -145,7 +145,7 @@ std::vector<Text> ImportData::LibrariesOfModule(std::string_view name,
                                                 std::string_view fileName) const
 {
     std::vector<Text> libraries;
-    for (const Bringing& row : modules_)
+    for (const LibraryRule& row : modules_)
         if (EqualIgnoreCase(row.name, name) || EqualIgnoreCase(row.name, fileName))
             libraries.push_back(row.library);
     return libraries;
@@ -154,7 +154,7 @@ std::vector<Text> ImportData::LibrariesOfModule(std::string_view name,
 std::vector<Text> ImportData::LibrariesOfWrappersIn(std::string_view upperLine) const
 {
     std::vector<Text> libraries;
-    for (const Bringing& row : wrappers_)
+    for (const LibraryRule& row : wrappers_)
         if (ContainsText(upperLine, row.name))
             libraries.push_back(row.library);
     return libraries;

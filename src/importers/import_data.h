@@ -39,16 +39,16 @@ private:
     using Row = std::string_view;
     Text AddRow(std::string_view section, Row row);
 
-    struct Bringing {
+    struct LibraryRule {
         Text name; // in upper case
         Text library;
     };
-    static Text AddBringing(Row row, std::vector<Bringing>& rows);
+    static Text AddLibraryRule(Row row, std::vector<LibraryRule>& rows);
     Text AddWindowsLibrary(const Text& name);
 
     std::set<Text> controls_;
-    std::vector<Bringing> modules_;
-    std::vector<Bringing> wrappers_;
+    std::vector<LibraryRule> modules_;
+    std::vector<LibraryRule> wrappers_;
     std::set<Text> windows_;
     std::vector<Text> windowsBeginnings_; // of "api-ms-win-*"
 };

@@ -11,9 +11,9 @@ bool NeedsMfc(const ImportData& data, Host host, const Text& fileName)
 {
     if (data.IsMfcControl(fileName))
         return true;
-    const auto status =
-        FactsOfProgram(host.files, LowerCase(JoinPath(host.machine.GetSystemDir(), fileName)));
-    return status && std::ranges::any_of(status->imports, [](const Text& library) {
+    const auto info =
+        InfoOfProgram(host.files, LowerCase(JoinPath(host.machine.GetSystemDir(), fileName)));
+    return info && std::ranges::any_of(info->imports, [](const Text& library) {
                return EqualIgnoreCase(library, "Mfc42.dll");
            });
 }

@@ -72,7 +72,7 @@ private:
                 Walk(Joined(folder, entry.name), entry.status.identity);
         for (const FolderEntry& entry : entries)
             if (!entry.status.isFolder && isGoingOn_)
-                Take({.folder = folder, .entry = entry, .status = {}});
+                Take({.folder = folder, .entry = entry, .info = {}});
         entered_.pop_back();
     }
 
@@ -94,7 +94,7 @@ private:
             return;
         }
         if (EndsInOneOf(LowerCase(file.entry.name), kProgramExtensions))
-            file.status = FactsOfProgram(files_, JoinPath(read_.folder, file.RelativePath()));
+            file.info = InfoOfProgram(files_, JoinPath(read_.folder, file.RelativePath()));
         read_.files.push_back(std::move(file));
     }
 
@@ -135,7 +135,7 @@ void FindPrograms(ProgramFolder& folder)
     std::vector<std::pair<Likelihood, std::size_t>> found;
     for (std::size_t i = 0; i < folder.files.size(); ++i) {
         const FolderFile& file = folder.files[i];
-        if (file.status && !file.status->isLibrary && LowerCase(file.entry.name).ends_with(".exe"))
+        if (file.info && !file.info->isLibrary && LowerCase(file.entry.name).ends_with(".exe"))
             found.emplace_back(LikelihoodOf(folder, file, lowerPaths), i);
     }
     std::ranges::stable_sort(
@@ -154,9 +154,9 @@ public:
 
     void Look(const FolderFile& file)
     {
-        for (const Text& library : file.status->imports)
+        for (const Text& library : file.info->imports)
             Take(library, file, false);
-        for (const Text& library : file.status->delayedImports)
+        for (const Text& library : file.info->delayedImports)
             Take(library, file, true);
     }
 
@@ -202,12 +202,12 @@ bool LiesInFolderOfAMachine(const FolderFile& file)
     return std::ranges::find(kFolders, folder) != kFolders.end();
 }
 
-void FindMixed(const ProgramFolder& folder, const ProgramFacts& program, ProgramFindings& findings)
+void FindMixed(const ProgramFolder& folder, const ProgramInfo& program, ProgramFindings& findings)
 {
     for (const FolderFile& file : folder.files)
-        if (file.status && file.status->isLibrary && !file.status->isForAnyMachine &&
-            file.status->machine != program.machine && !IsForItsMachine(file))
-            findings.mixed.push_back({file.RelativePath(), file.status->machine});
+        if (file.info && file.info->isLibrary && !file.info->isForAnyMachine &&
+            file.info->machine != program.machine && !IsForItsMachine(file))
+            findings.mixed.push_back({file.RelativePath(), file.info->machine});
 }
 
 // Such a program runs where its libraries do, and nowhere where these are for several machines.
@@ -215,9 +215,9 @@ void FindMixedForAnyMachine(const ProgramFolder& folder, ProgramFindings& findin
 {
     std::vector<MixedMachine> libraries;
     for (const FolderFile& file : folder.files)
-        if (file.status && file.status->isLibrary && !file.status->isForAnyMachine &&
+        if (file.info && file.info->isLibrary && !file.info->isForAnyMachine &&
             !IsForItsMachine(file) && !LiesInFolderOfAMachine(file))
-            libraries.push_back({file.RelativePath(), file.status->machine});
+            libraries.push_back({file.RelativePath(), file.info->machine});
     const bool isMixed = std::ranges::any_of(libraries, [&](const MixedMachine& library) {
         return library.machine != libraries.front().machine;
     });
@@ -233,7 +233,7 @@ DotNetNeed FindDotNet(const FileSystem& files, const ProgramFolder& folder,
     const Text path = JoinPath(folder.folder, program.RelativePath());
     const Text config = path.substr(0, path.size() - 4) + ".runtimeconfig.json";
     if (!files.FileExists(config))
-        return NeedOfProgram(*program.status);
+        return NeedOfProgram(*program.info);
     try {
         if (files.Status(config).size <= kMaxRuntimeConfigSize)
             return NeedOfRuntimeConfig(ReadWholeFile(files, config));
@@ -298,8 +298,8 @@ ProgramFindings FindingsOf(const FileSystem& files, const ProgramFolder& folder,
                            const FolderFile& program, const ImportData& data)
 {
     ProgramFindings findings{
-        .machine = program.status->machine,
-        .isForAnyMachine = program.status->isForAnyMachine,
+        .machine = program.info->machine,
+        .isForAnyMachine = program.info->isForAnyMachine,
         .onlyFor = {},
         .version = VersionDataOfFile(files, JoinPath(folder.folder, program.RelativePath())),
         .dotNet = FindDotNet(files, folder, program),
@@ -308,10 +308,10 @@ ProgramFindings FindingsOf(const FileSystem& files, const ProgramFolder& folder,
     if (findings.isForAnyMachine)
         FindMixedForAnyMachine(folder, findings);
     else
-        FindMixed(folder, *program.status, findings);
+        FindMixed(folder, *program.info, findings);
     MissingFinder finder(folder, data);
     for (const FolderFile& file : folder.files)
-        if (file.status && !IsForItsMachine(file))
+        if (file.info && !IsForItsMachine(file))
             finder.Look(file);
     findings.missing = finder.Missing();
     return findings;

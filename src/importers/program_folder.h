@@ -16,7 +16,7 @@ struct FolderFile {
     Text folder; // below the output folder, without backslashes at its ends; empty at the top
     FolderEntry entry;
     // Of programs and libraries.
-    std::optional<ProgramFacts> status;
+    std::optional<ProgramInfo> info;
 
     Text RelativePath() const;
 };

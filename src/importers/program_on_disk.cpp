@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-std::optional<ProgramFacts> FactsOfProgram(const FileSystem& files, const Text& path)
+std::optional<ProgramInfo> InfoOfProgram(const FileSystem& files, const Text& path)
 {
     try {
         const auto file = files.OpenInput(path);
@@ -12,7 +12,7 @@ std::optional<ProgramFacts> FactsOfProgram(const FileSystem& files, const Text& 
             file->Seek(position);
             return file->Read(buffer);
         };
-        return ReadProgramFacts(read);
+        return ReadProgramInfo(read);
     } catch (const RunError&) {
         return std::nullopt;
     }

@@ -3,7 +3,7 @@
 #include "filelist/adding/add_target.h"
 #include "filelist/adding/use_filter.h"
 #include "filelist/options/icon_row.h"
-#include "filelist/row_facts.h"
+#include "filelist/row_status.h"
 #include "helpers/windows_path.h"
 #include "importers/project_lines.h"
 #include "platform/failure_text.h"
@@ -66,7 +66,7 @@ void RowImport::Pass(const Text& file, NotAdded why)
 void RowImport::Pass(const Text& file, NotAdded why, const Text& path)
 {
     const NotAddedFile entry{file, why};
-    if (told_.insert(LowerCase(path) + "\n" + entry.Reason()).second)
+    if (reported_.insert(LowerCase(path) + "\n" + entry.Reason()).second)
         notAdded_.push_back(entry);
 }
 
@@ -98,7 +98,7 @@ RowImport::Added RowImport::AddSystemFile(const Text& name, bool isRuntimeFile)
     if (!MayGoOn(name))
         return Added::LeftOut;
     if (missingSystemFiles_.contains(LowerCase(name)))
-        return Added::ToldBefore;
+        return Added::AlreadyReported;
     const Text path = LowerCase(JoinPath(GetHost().machine.GetSystemDir(), name));
     if (const auto row = SystemRow(name, path)) {
         if (!IsOfThisImport(*row))

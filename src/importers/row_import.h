@@ -20,8 +20,8 @@ public:
     RowImport(const RowImport&) = delete;
     RowImport& operator=(const RowImport&) = delete;
 
-    // `ToldBefore`: it was missing before in this import, which has reported it.
-    enum class Added { Yes, AlreadyThere, LeftOut, Missing, ToldBefore };
+    // `AlreadyReported`: it was missing before in this import, which has reported it.
+    enum class Added { Yes, AlreadyThere, LeftOut, Missing, AlreadyReported };
 
     /// A file of the system folder. One that has a row already is not added twice; a row that is
     /// left of a missing file is none.
@@ -90,7 +90,7 @@ private:
     // imported again would else compare each of its files with each row.
     std::unordered_multimap<Text, std::size_t> rowsByName_;
     std::size_t rowsLookedAt_ = 0;
-    std::unordered_set<Text> told_;               // of `notAdded_`
+    std::unordered_set<Text> reported_;           // of `notAdded_`
     std::unordered_set<Text> missingSystemFiles_; // their names, in lower case
 };
 

@@ -84,7 +84,7 @@ std::string IniText::OpenLastLine() const
     return last == std::string::npos ? bytes_ : bytes_.substr(last + 1);
 }
 
-void IniText::OpenEndOf(std::string_view lastLine)
+void IniText::RemoveFinalLineBreakAfter(std::string_view lastLine)
 {
     std::string closed(lastLine);
     closed += kLineBreak;

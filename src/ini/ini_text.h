@@ -42,7 +42,7 @@ public:
     /// Removes the section's line if the section holds nothing but blank lines.
     void RemoveEmptySection(std::string_view section);
     /// Takes the line break away that follows the last line, if that is this line.
-    void OpenEndOf(std::string_view lastLine);
+    void RemoveFinalLineBreakAfter(std::string_view lastLine);
 
 private:
     std::optional<ScannedLine> FindSection(std::string_view section) const;

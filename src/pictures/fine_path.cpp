@@ -68,12 +68,12 @@ std::int64_t Cross(FinePoint centre, FinePoint a, FinePoint b)
 }
 
 /// Where the direction of a point meets an ellipse: after which of its points, and where.
-struct Meeting {
+struct Intersection {
     std::size_t behind = 0;
     FinePoint point;
 };
 
-Meeting MeetingOf(const FinePoints& ellipse, FinePoint centre, FinePoint direction)
+Intersection MeetingOf(const FinePoints& ellipse, FinePoint centre, FinePoint direction)
 {
     for (std::size_t i = 0; i < ellipse.size(); ++i) {
         const FinePoint next = ellipse[(i + 1) % ellipse.size()];
@@ -144,8 +144,8 @@ FinePoints ArcOf(const FineRect& rect, FinePoint from, FinePoint to)
     const Frame frame(rect);
     const FinePoint centre{frame.left + (frame.right - frame.left) / 2,
                            frame.top + (frame.bottom - frame.top) / 2};
-    const Meeting begin = MeetingOf(ellipse, centre, from);
-    const Meeting end = MeetingOf(ellipse, centre, to);
+    const Intersection begin = MeetingOf(ellipse, centre, from);
+    const Intersection end = MeetingOf(ellipse, centre, to);
     FinePoints points{begin.point};
     std::size_t count = (end.behind + ellipse.size() - begin.behind) % ellipse.size();
     // Both after one point: a small piece, or all but one.

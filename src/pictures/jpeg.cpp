@@ -45,7 +45,7 @@ bool ReadFrame(const PictureBytes& frame, JpegHeader& header)
            header.height <= kMaxSideSize;
 }
 
-/// Numbers in the order that the note's own head names.
+/// Numbers in the order that the note's own header names.
 class Exif {
 public:
     explicit Exif(PictureBytes note) : tiff_(note.Part(6)), isBig_(note.Byte(6) == 'M')
@@ -87,7 +87,7 @@ private:
 };
 
 /// The pixel that comes to a place when the picture is turned as it was held.
-Picture Turned(Picture picture, int orientation)
+Picture Rotated(Picture picture, int orientation)
 {
     if (orientation == 1)
         return picture;
@@ -181,7 +181,7 @@ PictureResult DecodeJpeg(std::string_view bytes, std::int64_t memory)
         {.width = header.width, .height = header.height, .reduction = reduction, .memory = rest});
     if (pixels.IsEmpty())
         return {{}, PictureFault::Damaged};
-    pixels = Turned(std::move(pixels), header.orientation);
+    pixels = Rotated(std::move(pixels), header.orientation);
     const bool swaps = header.orientation >= 5;
     return {ScalablePicture(swaps ? header.height : header.width,
                             swaps ? header.width : header.height, std::move(pixels)),

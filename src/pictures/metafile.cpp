@@ -41,12 +41,12 @@ int SideOf(std::int64_t units, std::int64_t pixels, std::int64_t perUnits)
     return side <= kMaxSideSize ? static_cast<int>(side) : 0;
 }
 
-void ReadPlaceableHead(PictureBytes head, Metafile& file)
+void ReadPlaceableHeader(PictureBytes header, Metafile& file)
 {
     constexpr int kUsualUnitsPerInch = 1440;
-    const int inch = head.Word(14) == 0 ? kUsualUnitsPerInch : head.Word(14);
-    file.window = {head.Short(6), head.Short(8), head.Short(10) - head.Short(6),
-                   head.Short(12) - head.Short(8)};
+    const int inch = header.Word(14) == 0 ? kUsualUnitsPerInch : header.Word(14);
+    file.window = {header.Short(6), header.Short(8), header.Short(10) - header.Short(6),
+                   header.Short(12) - header.Short(8)};
     file.width = SideOf(file.window.width, kDotsPerInch, inch);
     file.height = SideOf(file.window.height, kDotsPerInch, inch);
 }
@@ -81,15 +81,15 @@ bool CheckRecords(Metafile& file, std::size_t declaredSize, bool needsWindow)
 }
 
 Picture PlayAt(const Metafile& file, int width, int height, int scale, Letters& letters,
-               bool& isSpent)
+               bool& isExhausted)
 {
     Picture raster{width * scale, height * scale, {}};
     raster.pixels.resize(static_cast<std::size_t>(raster.width) *
                          static_cast<std::size_t>(raster.height));
-    WorkLeft work(kMaxWork);
+    WorkBudget work(kMaxWork);
     Raster target(WholeCanvas(raster.pixels.data(), raster.width, raster.height), work);
     MetafilePlayer(target, letters, file.window, scale).Play(RecordsOf(file));
-    isSpent = work.IsSpent();
+    isExhausted = work.IsExhausted();
     return scale == 1 ? std::move(raster) : Scaled(raster, width, height);
 }
 
@@ -98,18 +98,18 @@ Picture DrawAt(const Metafile& file, int width, int height, Letters& letters)
     const std::int64_t pixels = std::int64_t{width} * height;
     if (pixels > kMaxRasterPixels)
         return Scaled(DrawAt(file, (width + 1) / 2, (height + 1) / 2, letters), width, height);
-    bool isSpent = false;
+    bool isExhausted = false;
     for (const int scale : kSmoothing) {
         if (pixels * scale * scale > kMaxRasterPixels)
             continue;
-        Picture picture = PlayAt(file, width, height, scale, letters, isSpent);
-        if (!isSpent)
+        Picture picture = PlayAt(file, width, height, scale, letters, isExhausted);
+        if (!isExhausted)
             return picture;
         break;
     }
     // Too much for smooth edges. Where it is too much without them too, what was drawn so far
     // stays.
-    return PlayAt(file, width, height, 1, letters, isSpent);
+    return PlayAt(file, width, height, 1, letters, isExhausted);
 }
 
 } // namespace
@@ -137,7 +137,7 @@ PictureResult DecodeMetafile(std::string bytes)
         return {{}, PictureFault::Damaged};
     file->records = all.Size() - header.Size() + metafile::kHeader;
     if (isPlaceable)
-        ReadPlaceableHead(all, *file);
+        ReadPlaceableHeader(all, *file);
     // Never from a file of many gigabytes: the number is that of words.
     const std::uint64_t declared = std::uint64_t{header.Long(6)} * 2;
     if (declared > kMaxMetafileBytes * std::uint64_t{2} ||

@@ -53,7 +53,7 @@ std::shared_ptr<const Picture> MetafilePlayer::DecodeDib(PictureBytes dib, std::
     if (ReadBitmapHeader(dib, header) != PictureFault::None ||
         header.width * header.height > mostPixels)
         return nullptr;
-    raster_.Work().Spend(header.width * header.height * kWorkOfDibPixel);
+    raster_.Work().Use(header.width * header.height * kWorkOfDibPixel);
     DecodedPixels decoded = DecodeBitmap(dib, header);
     if (decoded.fault != PictureFault::None)
         return nullptr;
@@ -62,7 +62,7 @@ std::shared_ptr<const Picture> MetafilePlayer::DecodeDib(PictureBytes dib, std::
 
 void MetafilePlayer::PlayBlit(const Blit& blit, PictureBytes dib)
 {
-    if (raster_.Work().IsSpent())
+    if (raster_.Work().IsExhausted())
         return;
     const auto source = DecodeDib(dib, kMaxDibPixels);
     if (!source)
@@ -80,9 +80,9 @@ void MetafilePlayer::PaintBlit(const Blit& blit, const Picture& source)
     const Sampling across(blit.target.first.x, blit.target.last.x, blit.left, blit.width);
     const Sampling down(blit.target.first.y, blit.target.last.y, blit.top, blit.height);
     const Pixel pattern = quillon::PixelOf(state_.brush.colour);
-    for (int y = part.top; y < part.bottom && !raster_.Work().IsSpent(); ++y) {
+    for (int y = part.top; y < part.bottom && !raster_.Work().IsExhausted(); ++y) {
         const int row = down(y);
-        raster_.Work().Spend(std::int64_t{kWorkOfBlitPixel} * std::max(part.Width(), 1));
+        raster_.Work().Use(std::int64_t{kWorkOfBlitPixel} * std::max(part.Width(), 1));
         if (row < 0 || row >= source.height)
             continue;
         const Pixel* pixels = source.pixels.data() + std::ptrdiff_t{row} * source.width;
@@ -103,11 +103,11 @@ void MetafilePlayer::PatBlt(const Record& record)
     const int left = record[5];
     const int top = record[4];
     const std::uint8_t table = TableAt(record);
-    Ink ink = BrushInk();
+    Paint paint = BrushPaint();
     // The brush alone, without a source.
-    ink.combination = static_cast<Combination>((table & 3) | (table >> 2 & 0xC));
-    if (HasBrush() || ink.combination == 0 || ink.combination == 0xF || ink.combination == 5)
-        raster_.FillPixels(PixelsOf(Rect(left, top, left + record[3], top + record[2])), ink,
+    paint.combination = static_cast<Combination>((table & 3) | (table >> 2 & 0xC));
+    if (HasBrush() || paint.combination == 0 || paint.combination == 0xF || paint.combination == 5)
+        raster_.FillPixels(PixelsOf(Rect(left, top, left + record[3], top + record[2])), paint,
                            state_.clip);
 }
 

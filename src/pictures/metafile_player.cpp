@@ -77,8 +77,8 @@ MetafilePlayer::MetafilePlayer(Raster& raster, Letters& letters, const MetafileW
 void MetafilePlayer::Play(PictureBytes records)
 {
     MetafileReader reader(records);
-    for (Record record; reader.Next(record) && !raster_.Work().IsSpent();) {
-        raster_.Work().Spend(kWorkOfRecord);
+    for (Record record; reader.Next(record) && !raster_.Work().IsExhausted();) {
+        raster_.Work().Use(kWorkOfRecord);
         const auto call = std::ranges::lower_bound(kCalls, record.function, {}, &Call::function);
         if (call != std::end(kCalls) && call->function == record.function &&
             record.given.Has(0, call->words * 2))

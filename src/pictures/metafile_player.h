@@ -122,12 +122,13 @@ private:
     FineRect ArcRect(const Record& record) const;
     FinePoints ArcPoints(const Record& record) const;
 
-    Ink BrushInk() const;
+    Paint BrushPaint() const;
     bool HasBrush() const { return state_.brush.style != BrushStyle::None; }
     void FillAndStroke(const FinePath& path);
     void FillAndStroke(FinePoints outline);
     void Stroke(const FinePoints& line, bool isClosed);
-    void StrokeDashes(const FinePoints& line, bool isClosed, std::int32_t width, const Ink& ink);
+    void StrokeDashes(const FinePoints& line, bool isClosed, std::int32_t width,
+                      const Paint& paint);
 
     struct Blit {
         FineRect target;

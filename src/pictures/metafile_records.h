@@ -1,4 +1,4 @@
-// The records of a metafile (WMF) and where they are: a head of its own in most files from
+// The records of a metafile (WMF) and where they are: a header of its own in most files from
 // programs that draw ("placeable"), the header, then one call of the graphics system after another.
 #pragma once
 

@@ -38,25 +38,25 @@ constexpr int kWorkOfStroke = 200; // for each point or dash
 
 } // namespace
 
-Ink MetafilePlayer::BrushInk() const
+Paint MetafilePlayer::BrushPaint() const
 {
-    Ink ink{.colour = quillon::PixelOf(state_.brush.colour),
-            .patternScale = scale_,
-            .combination = state_.combination};
-    ink.tile = state_.brush.tile.get();
+    Paint paint{.colour = quillon::PixelOf(state_.brush.colour),
+                .patternScale = scale_,
+                .combination = state_.combination};
+    paint.tile = state_.brush.tile.get();
     const bool isHatch = state_.brush.style == BrushStyle::Hatched && state_.brush.hatch >= 0 &&
                          state_.brush.hatch < static_cast<int>(std::size(kHatches));
     if (isHatch) {
-        ink.hatch = kHatches[state_.brush.hatch];
-        ink.ground = state_.isBkOpaque ? quillon::PixelOf(state_.bkColour) : 0;
+        paint.hatch = kHatches[state_.brush.hatch];
+        paint.background = state_.isBkOpaque ? quillon::PixelOf(state_.bkColour) : 0;
     }
-    return ink;
+    return paint;
 }
 
 void MetafilePlayer::FillAndStroke(const FinePath& path)
 {
     if (HasBrush())
-        raster_.Fill(path, state_.fillRule, BrushInk(), state_.clip);
+        raster_.Fill(path, state_.fillRule, BrushPaint(), state_.clip);
     std::size_t begin = 0;
     for (const std::size_t end : path.ends) {
         Stroke({path.points.begin() + static_cast<std::ptrdiff_t>(begin),
@@ -76,22 +76,22 @@ void MetafilePlayer::FillAndStroke(FinePoints outline)
 void MetafilePlayer::Stroke(const FinePoints& line, bool isClosed)
 {
     const MetafilePen& pen = state_.pen;
-    if (pen.style == PenStyle::None || line.empty() || raster_.Work().IsSpent())
+    if (pen.style == PenStyle::None || line.empty() || raster_.Work().IsExhausted())
         return;
     // No pen is thinner than one pixel of the picture.
     const std::int32_t pixel = scale_ * kFine;
     const std::int32_t width = std::max(HBox(pen.width), pixel);
-    const Ink ink{.colour = quillon::PixelOf(pen.colour), .combination = state_.combination};
+    const Paint paint{.colour = quillon::PixelOf(pen.colour), .combination = state_.combination};
     const bool isDashed = pen.style != PenStyle::Solid && pen.style != PenStyle::InsideFrame;
-    raster_.Work().Spend(kWorkOfStroke * static_cast<std::int64_t>(line.size()));
+    raster_.Work().Use(kWorkOfStroke * static_cast<std::int64_t>(line.size()));
     if (isDashed && width == pixel)
-        StrokeDashes(line, isClosed, width, ink);
+        StrokeDashes(line, isClosed, width, paint);
     else
-        raster_.Fill(StrokeOf(line, isClosed, width), FillRule::NonZero, ink, state_.clip);
+        raster_.Fill(StrokeOf(line, isClosed, width), FillRule::NonZero, paint, state_.clip);
 }
 
 void MetafilePlayer::StrokeDashes(const FinePoints& line, bool isClosed, std::int32_t width,
-                                  const Ink& ink)
+                                  const Paint& paint)
 {
     FinePoints whole = line;
     if (isClosed)
@@ -100,8 +100,8 @@ void MetafilePlayer::StrokeDashes(const FinePoints& line, bool isClosed, std::in
     for (std::int32_t& length : lengths)
         length *= scale_ * kFine;
     for (const FinePoints& dash : quillon::DashesOf(whole, lengths, kMaxDashes)) {
-        raster_.Work().Spend(kWorkOfStroke);
-        raster_.Fill(StrokeOf(dash, false, width), FillRule::NonZero, ink, state_.clip);
+        raster_.Work().Use(kWorkOfStroke);
+        raster_.Fill(StrokeOf(dash, false, width), FillRule::NonZero, paint, state_.clip);
     }
 }
 

@@ -56,7 +56,7 @@ ScreenFont MetafilePlayer::FontInPixels()
 void MetafilePlayer::PaintText(Line line)
 {
     const ScreenFont font = FontInPixels();
-    const bool isNothing = font.size == 0 || line.text.empty() || raster_.Work().IsSpent();
+    const bool isNothing = font.size == 0 || line.text.empty() || raster_.Work().IsExhausted();
     if (isNothing)
         return;
     if (line.advances.empty()) {
@@ -69,7 +69,7 @@ void MetafilePlayer::PaintText(Line line)
     const FontHeight height = letters_.Height(font);
     if (std::abs(width) * height.Line() > kMaxMask)
         return;
-    raster_.Work().Spend((std::abs(width) + 1) * height.Line() * kWorkOfMaskPixel);
+    raster_.Work().Use((std::abs(width) + 1) * height.Line() * kWorkOfMaskPixel);
 
     int left = line.place.x / kFine;
     if ((state_.textAlign & kCentre) == kCentre)

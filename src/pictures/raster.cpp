@@ -62,12 +62,13 @@ struct Crossing {
 
 /// Goes down the rows and calls `span(row, left, right)` for what lies inside.
 template <class Span>
-void EachSpan(const std::vector<Edge>& edges, FillRule rule, WorkLeft& work, Span span)
+void EachSpan(const std::vector<Edge>& edges, FillRule rule, WorkBudget& work, Span span)
 {
     std::vector<const Edge*> active;
     std::vector<Crossing> crossings;
     std::size_t next = 0;
-    for (std::int32_t row = 0; (next < edges.size() || !active.empty()) && !work.IsSpent(); ++row) {
+    for (std::int32_t row = 0; (next < edges.size() || !active.empty()) && !work.IsExhausted();
+         ++row) {
         if (active.empty() && next < edges.size())
             row = edges[next].firstRow;
         for (; next < edges.size() && edges[next].firstRow <= row; ++next)
@@ -77,7 +78,7 @@ void EachSpan(const std::vector<Edge>& edges, FillRule rule, WorkLeft& work, Spa
         for (const Edge* edge : active)
             crossings.push_back({FirstPixelFrom(edge->At(row)), edge->winding});
         std::ranges::sort(crossings, {}, &Crossing::column);
-        work.Spend(kWorkOfEdge * static_cast<std::int64_t>(active.size() + 1));
+        work.Use(kWorkOfEdge * static_cast<std::int64_t>(active.size() + 1));
         int winding = 0;
         for (std::size_t i = 0; i + 1 < crossings.size(); ++i) {
             winding += rule == FillRule::NonZero ? crossings[i].winding : 1;
@@ -114,29 +115,29 @@ bool Contains(const RasterClip& clip, int x, int y)
     return has(clip.bounds) && std::ranges::none_of(clip.holes, has);
 }
 
-void Raster::Fill(const FinePath& path, FillRule rule, const Ink& ink, const RasterClip& clip)
+void Raster::Fill(const FinePath& path, FillRule rule, const Paint& paint, const RasterClip& clip)
 {
     const PixelRect bounds = Intersect(clip.bounds, canvas_.clip);
     if (bounds.IsEmpty())
         return;
-    work_.Spend(static_cast<std::int64_t>(path.points.size()));
+    work_.Use(static_cast<std::int64_t>(path.points.size()));
     EachSpan(EdgesOf(path, bounds), rule, work_,
-             [&](int row, int left, int right) { Span(row, left, right, ink, clip); });
+             [&](int row, int left, int right) { Span(row, left, right, paint, clip); });
 }
 
-void Raster::FillPixels(const PixelRect& rect, const Ink& ink, const RasterClip& clip)
+void Raster::FillPixels(const PixelRect& rect, const Paint& paint, const RasterClip& clip)
 {
     const PixelRect part = Intersect(Intersect(rect, clip.bounds), canvas_.clip);
-    for (int y = part.top; y < part.bottom && !work_.IsSpent(); ++y)
-        Span(y, part.left, part.right, ink, clip);
+    for (int y = part.top; y < part.bottom && !work_.IsExhausted(); ++y)
+        Span(y, part.left, part.right, paint, clip);
 }
 
-void Raster::Span(int y, int left, int right, const Ink& ink, const RasterClip& clip)
+void Raster::Span(int y, int left, int right, const Paint& paint, const RasterClip& clip)
 {
     const PixelRect bounds = Intersect(clip.bounds, canvas_.clip);
     left = std::max(left, bounds.left);
     right = std::min(right, bounds.right);
-    work_.Spend(1);
+    work_.Use(1);
     // Piece by piece between the holes of this row.
     while (left < right) {
         int end = right;
@@ -147,37 +148,37 @@ void Raster::Span(int y, int left, int right, const Ink& ink, const RasterClip& 
             end = std::max(hole.left, left);
             next = hole.right;
         }
-        PlainSpan(y, left, end, ink);
+        PlainSpan(y, left, end, paint);
         left = std::max(next, end);
     }
 }
 
-void Raster::PlainSpan(int y, int left, int right, const Ink& ink)
+void Raster::PlainSpan(int y, int left, int right, const Paint& paint)
 {
     if (left >= right)
         return;
     Pixel* row = canvas_.Row(y);
-    if (!ink.hatch && !ink.tile && ink.combination == kCopy) {
-        work_.Spend(right - left);
-        std::fill(row + left, row + right, ink.colour);
+    if (!paint.hatch && !paint.tile && paint.combination == kCopy) {
+        work_.Use(right - left);
+        std::fill(row + left, row + right, paint.colour);
         return;
     }
-    work_.Spend(std::int64_t{right - left} * kWorkOfCombining);
-    const int down = y / ink.patternScale;
+    work_.Use(std::int64_t{right - left} * kWorkOfCombining);
+    const int down = y / paint.patternScale;
     for (int x = left; x < right; ++x) {
-        const int across = x / ink.patternScale;
-        Pixel colour = ink.colour;
-        if (ink.tile)
-            colour = ink.tile->pixels[static_cast<std::size_t>(down % ink.tile->height) *
-                                          static_cast<std::size_t>(ink.tile->width) +
-                                      static_cast<std::size_t>(across % ink.tile->width)];
-        else if (ink.hatch && (ink.hatch[down % 8] >> (7 - across % 8) & 1) == 0)
-            colour = ink.ground;
+        const int across = x / paint.patternScale;
+        Pixel colour = paint.colour;
+        if (paint.tile)
+            colour = paint.tile->pixels[static_cast<std::size_t>(down % paint.tile->height) *
+                                            static_cast<std::size_t>(paint.tile->width) +
+                                        static_cast<std::size_t>(across % paint.tile->width)];
+        else if (paint.hatch && (paint.hatch[down % 8] >> (7 - across % 8) & 1) == 0)
+            colour = paint.background;
         if (colour == 0)
             continue;
-        row[x] = ink.combination == kCopy
+        row[x] = paint.combination == kCopy
                      ? colour
-                     : Result(Combined(ink.combination, colour, Over(row[x], kPaper)), row[x]);
+                     : Result(Combined(paint.combination, colour, Over(row[x], kPaper)), row[x]);
     }
 }
 

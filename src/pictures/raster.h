@@ -20,12 +20,12 @@ using Combination = std::uint8_t;
 inline constexpr Combination kCopy = 0xC;
 
 /// What an outline is filled with.
-struct Ink {
+struct Paint {
     Pixel colour = 0xFF000000;
-    // Rows of a pattern of 8 x 8, a set bit for `colour`; what is not set is `ground`, or left as
-    // it is where that is 0.
+    // Rows of a pattern of 8 x 8, a set bit for `colour`; what is not set is `background`, or left
+    // as it is where that is 0.
     const std::uint8_t* hatch = nullptr;
-    Pixel ground = 0;
+    Pixel background = 0;
     // In the place of both: pixels that are repeated.
     const Picture* tile = nullptr;
     // How many pixels of the raster are one of a pattern.
@@ -40,12 +40,12 @@ struct RasterClip {
 };
 
 /// What may still be done, in pixels. A file of a million shapes must end some time.
-class WorkLeft {
+class WorkBudget {
 public:
-    explicit WorkLeft(std::int64_t work) : work_(work) {}
+    explicit WorkBudget(std::int64_t work) : work_(work) {}
 
-    void Spend(std::int64_t work) { work_ -= work; }
-    bool IsSpent() const { return work_ < 0; }
+    void Use(std::int64_t work) { work_ -= work; }
+    bool IsExhausted() const { return work_ < 0; }
 
 private:
     std::int64_t work_;
@@ -53,24 +53,24 @@ private:
 
 class Raster {
 public:
-    Raster(const Canvas& canvas, WorkLeft& work) : canvas_(canvas), work_(work) {}
+    Raster(const Canvas& canvas, WorkBudget& work) : canvas_(canvas), work_(work) {}
 
-    void Fill(const FinePath& path, FillRule rule, const Ink& ink, const RasterClip& clip);
-    void FillPixels(const PixelRect& rect, const Ink& ink, const RasterClip& clip);
+    void Fill(const FinePath& path, FillRule rule, const Paint& paint, const RasterClip& clip);
+    void FillPixels(const PixelRect& rect, const Paint& paint, const RasterClip& clip);
     /// One pixel of three inputs: bit 4 * p + 2 * s + d of the table is the result.
     void Combine(int x, int y, Pixel pattern, Pixel source, std::uint8_t table);
     /// A colour that covers a part of the pixel, 0 to 255.
     void Cover(int x, int y, Pixel colour, Pixel coverage);
 
     const Canvas& Target() const { return canvas_; }
-    WorkLeft& Work() { return work_; }
+    WorkBudget& Work() { return work_; }
 
 private:
-    void Span(int y, int left, int right, const Ink& ink, const RasterClip& clip);
-    void PlainSpan(int y, int left, int right, const Ink& ink);
+    void Span(int y, int left, int right, const Paint& paint, const RasterClip& clip);
+    void PlainSpan(int y, int left, int right, const Paint& paint);
 
     Canvas canvas_;
-    WorkLeft& work_;
+    WorkBudget& work_;
 };
 
 /// Whether the pixel is in the clip.

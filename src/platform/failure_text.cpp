@@ -7,7 +7,7 @@ namespace quillon {
 namespace {
 
 // What users can't be expected to know by its number.
-Text WhatItMeans(int number)
+Text Explanation(int number)
 {
     return number == ErrorNumber::kDeviceIo
                ? " Disken svarar inte som den ska, eller så är filen för stor för den."
@@ -40,7 +40,7 @@ Text FailureText(const RunError& error, const Text& path)
         return "Filen '" + named + "' är för kort.";
     default:
         return "Fel #" + NumberText(error.Number()) + (named.empty() ? "." : ": '" + named + "'.") +
-               WhatItMeans(error.Number());
+               Explanation(error.Number());
     }
 }
 

@@ -115,7 +115,7 @@ public:
     virtual void Replace(const Text& from, const Text& to) { Rename(from, to); }
     /// The file under a second name as well, which must be free; a copy where the disk has no
     /// links.
-    virtual void KeepUnder(const Text& path, const Text& second) { CopyContent(path, second); }
+    virtual void LinkOrCopy(const Text& path, const Text& second) { CopyContent(path, second); }
     /// Where the file is that a link leads to; the path itself where there is no link.
     virtual Text RealPath(const Text& path) const { return path; }
     virtual void SetModified(const Text& path, const LocalTime& time) = 0;

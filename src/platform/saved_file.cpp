@@ -116,7 +116,7 @@ Text KeepBeside(FileSystem& files, const Text& path)
     Text kept = real + ".bak";
     for (int number = 2; files.FileExists(kept) || files.DirExists(kept); ++number)
         kept = real + ".bak" + NumberText(number);
-    files.KeepUnder(real, kept);
+    files.LinkOrCopy(real, kept);
     return kept;
 }
 

@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-struct SignatureFacts {
+struct SignatureInfo {
     // The signature is by the certificate that it names, and over this very program.
     bool isIntact = false;
     // The certificate is one for programs, and it leads to a root that this machine trusts: at the
@@ -24,7 +24,7 @@ struct SignatureFacts {
 };
 
 /// `trustedRoots` are further roots in PEM form, empty for none.
-SignatureFacts ReadSignatureData(std::span<const std::byte> signature,
-                                 const Sha256Digest& programDigest, const Text& trustedRoots = {});
+SignatureInfo ReadSignatureData(std::span<const std::byte> signature,
+                                const Sha256Digest& programDigest, const Text& trustedRoots = {});
 
 } // namespace quillon

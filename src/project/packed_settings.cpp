@@ -106,7 +106,7 @@ Text PackSettings(const Project& project)
     Packer packer;
     // The walk serves readers too; this one changes nothing.
     VisitValues(packer, const_cast<Project&>(project));
-    // Many are kept.
+    // The undo history keeps many of these, so spare capacity is given back.
     packer.packed.shrink_to_fit();
     return std::move(packer.packed);
 }

@@ -27,6 +27,12 @@ enum class Stored {
     AsFlagText,         // a boolean that is kept as a text; comes back as "-1" or "0"
 };
 
+/// A place or size on the screen, which the file has in twips.
+constexpr bool IsPixels(Stored form)
+{
+    return form == Stored::AsPixelsX || form == Stored::AsPixelsY;
+}
+
 template <class Section>
 using ProjectKey = Key<Section, Stored>;
 

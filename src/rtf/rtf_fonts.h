@@ -1,4 +1,4 @@
-// The table of fonts at the head of an RTF file: which name, family and alphabet a font's number
+// The table of fonts at the front of an RTF file: which name, family and alphabet a font's number
 // stands for.
 #pragma once
 

@@ -73,7 +73,7 @@ constexpr Loss kLosses[] = {
 };
 // clang-format on
 
-/// Goes through the file as its reader does: what is in the tables at its head is no text, and
+/// Goes through the file as its reader does: what is in the tables at its front is no text, and
 /// what belongs to a picture or a note is lost with it.
 class LossFinder {
 public:
@@ -104,8 +104,8 @@ private:
                 skippedFrom_ = 0;
             --depth_;
         } else if (skippedFrom_ == 0) {
-            const bool isAside =
-                std::exchange(isAside_, wasNew && token.text == "*" && token.kind == Kind::Symbol);
+            const bool isAside = std::exchange(isIgnorable_, wasNew && token.text == "*" &&
+                                                                 token.kind == Kind::Symbol);
             if (token.kind == Kind::Word)
                 Note(token);
             if (isAside || (token.kind == Kind::Word && HoldsNoText(token.text)))
@@ -129,7 +129,7 @@ private:
     int depth_ = 0;
     int skippedFrom_ = 0; // the group in which nothing counts any more; 0: none
     bool isGroupNew_ = false;
-    bool isAside_ = false; // a group that its first word alone says something of
+    bool isIgnorable_ = false; // a group that its first word alone says something of
     std::array<bool, std::size(kLosses)> isFound_{};
 };
 

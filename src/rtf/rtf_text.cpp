@@ -1,6 +1,7 @@
 #include "rtf/rtf_text.h"
 
 #include "helpers/code_page.h"
+#include "helpers/utf16.h"
 #include "helpers/utf8.h"
 #include "rtf/rtf_fonts.h"
 #include "rtf/rtf_tokens.h"
@@ -23,16 +24,6 @@ constexpr std::size_t kMaxColours = 1000;
 char32_t CombinePair(char32_t high, char32_t low)
 {
     return 0x10000 + ((high - 0xD800) << 10U) + (low - 0xDC00);
-}
-
-bool IsHighSurrogate(char32_t character)
-{
-    return character >= 0xD800 && character < 0xDC00;
-}
-
-bool IsLowSurrogate(char32_t character)
-{
-    return character >= 0xDC00 && character < 0xE000;
 }
 
 /// Walks through the file once, brace by brace, with a stack of its own.

@@ -1,6 +1,7 @@
 #include "rtf/rtf_tokens.h"
 
 #include "helpers/ascii.h"
+#include "helpers/hex.h"
 
 #include <algorithm>
 
@@ -16,16 +17,6 @@ constexpr int kMaxNumber = 99'999'999;
 bool IsLetter(char byte)
 {
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
-
-/// Negative for what is no hexadecimal digit.
-int HexDigit(char byte)
-{
-    if (IsDigit(byte))
-        return byte - '0';
-    if (byte >= 'a' && byte <= 'f')
-        return byte - 'a' + 10;
-    return byte >= 'A' && byte <= 'F' ? byte - 'A' + 10 : -1;
 }
 
 /// Zeros fill a file up to the size of its disk's blocks.
@@ -124,14 +115,13 @@ std::optional<RtfToken> RtfTokens::ReadHexByte()
 {
     Take(1);
     const bool isCut = rest_.size() < 2;
-    const int high = isCut ? -1 : HexDigit(rest_[0]);
-    const int low = isCut ? -1 : HexDigit(rest_[1]);
+    const int byte = isCut ? -1 : HexByteValue(rest_[0], rest_[1]);
     if (isCut)
         Take(2);
-    if (high < 0 || low < 0)
+    if (byte < 0)
         return std::nullopt;
     Take(2);
-    return RtfToken{.kind = Kind::Bytes, .byte = static_cast<unsigned char>(high * 16 + low)};
+    return RtfToken{.kind = Kind::Bytes, .byte = static_cast<unsigned char>(byte)};
 }
 
 } // namespace quillon

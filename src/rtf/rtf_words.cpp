@@ -151,7 +151,7 @@ constexpr CharacterWord kCharacterWords[] = {
 
 // Pictures, notes, headers, what the writer remembers for itself. Groups that begin with \* are none
 // of the text either and need no row.
-constexpr std::string_view kAsides[] = {
+constexpr std::string_view kIgnorableDestinations[] = {
     "annotation", "atnauthor", "atnid",   "bkmkend", "bkmkstart", "comment",    "datafield",
     "do",         "fldinst",   "footer",  "footerf", "footerl",   "footerr",    "footnote",
     "ftncn",      "ftnsep",    "ftnsepc", "header",  "headerf",   "headerl",    "headerr",
@@ -184,7 +184,7 @@ constexpr Sign kSigns[] = {
 
 static_assert(std::ranges::is_sorted(kStateWords, {}, &StateWord::word));
 static_assert(std::ranges::is_sorted(kCharacterWords, {}, &CharacterWord::word));
-static_assert(std::ranges::is_sorted(kAsides));
+static_assert(std::ranges::is_sorted(kIgnorableDestinations));
 
 /// The row of a sorted table, or null.
 template <class Row, std::size_t count>
@@ -232,7 +232,7 @@ char32_t RtfCharacter(std::string_view word)
 
 bool IsIgnorableDestination(std::string_view word)
 {
-    return std::ranges::binary_search(kAsides, word);
+    return std::ranges::binary_search(kIgnorableDestinations, word);
 }
 
 char32_t SymbolCharacter(unsigned char byte)

@@ -1,5 +1,6 @@
 #include "rtf/rtf_writer.h"
 
+#include "helpers/hex.h"
 #include "helpers/number_text.h"
 #include "helpers/utf8.h"
 
@@ -9,7 +10,6 @@ namespace quillon {
 
 namespace {
 
-constexpr const char* kHexDigits = "0123456789abcdef";
 constexpr const char* kUsualFont = "Arial";
 
 class RtfFileWriter {
@@ -195,8 +195,8 @@ private:
     void WriteByte(unsigned char byte)
     {
         out_ += "\\'";
-        out_.push_back(kHexDigits[byte >> 4]);
-        out_.push_back(kHexDigits[byte & 0xF]);
+        out_.push_back(kSmallHexDigits[byte >> 4]);
+        out_.push_back(kSmallHexDigits[byte & 0xF]);
     }
 
     const RtfText& text_;

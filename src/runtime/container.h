@@ -1,5 +1,5 @@
-// How the setup comes to a package's archive. In a package it is read through the library that
-// travels with it; the tests read it directly.
+// How the setup opens a package's archive. It reads the archive itself; the library that comes with
+// the package inflates, and zlib does in the tests.
 #pragma once
 
 #include "archive/container.h"

@@ -1,5 +1,6 @@
 #include "runtime/data_access.h"
 
+#include "formats/package_files.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/ask.h"
@@ -11,7 +12,6 @@ namespace quillon {
 
 namespace {
 
-constexpr const char* kDataAccess = "MDAC_TYP.ZIP";
 // Unpack without a window, and set up without one and without a restart.
 constexpr const char* kHidden = "/Q /C:\"setup /QNT\"";
 
@@ -46,7 +46,7 @@ int RunIt(const DataAccessInput& input, const Text& path)
 const PlannedFile* FindDataAccess(const InstallPlan& plan)
 {
     for (const PlannedFile& file : plan.files)
-        if (EqualIgnoreCase(file.row->name, kDataAccess))
+        if (EqualIgnoreCase(file.row->name, kDataAccessArchive))
             return &file;
     return nullptr;
 }
@@ -56,7 +56,7 @@ bool InstallDataAccess(const DataAccessInput& input)
     const PlannedFile* const file = FindDataAccess(input.plan);
     if (file == nullptr || !input.host.files.FileExists(file->path))
         return false;
-    const Text part = input.texts(Message::PartDataAccess, kDataAccess);
+    const Text part = input.texts(Message::PartDataAccess, kDataAccessArchive);
     if (const auto reason = ReasonNotToRun(input)) {
         input.log.Skipped(part, *reason);
         return false;

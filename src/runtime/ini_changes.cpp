@@ -107,8 +107,9 @@ void UndoIniChange(FileSystem& files, const record::IniFile& record)
 
 void UndoIniChange(FileSystem& files, const record::IniOpenEnd& record)
 {
-    Change(files, record.path,
-           [&](EncodedIni& file) { file.ini.OpenEndOf(file.Coded(record.lastLine)); });
+    Change(files, record.path, [&](EncodedIni& file) {
+        file.ini.RemoveFinalLineBreakAfter(file.Coded(record.lastLine));
+    });
 }
 
 void UndoIniChange(FileSystem& files, const record::IniSection& record)

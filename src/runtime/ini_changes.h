@@ -13,7 +13,7 @@ struct IniWork {
     ActionLog& log;
 };
 
-/// The lines' files are whole paths.
+/// The lines' files are absolute paths.
 void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines);
 
 void UndoIniChange(FileSystem& files, const record::IniFile& record);

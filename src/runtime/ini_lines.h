@@ -1,5 +1,5 @@
-// The INI list of a project: file heads, sections and values, each belonging to the nearest header
-// and section above it.
+// The INI list of a project: file headers, sections and values, each belonging to the nearest
+// header and section above it.
 #pragma once
 
 #include "runtime/messages.h"

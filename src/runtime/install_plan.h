@@ -37,7 +37,7 @@ struct InstallPlan {
     std::vector<PlannedShortcut> shortcuts;
     Text programGroup; // the folder of the group
     std::vector<RegistryLine> registry;
-    std::vector<IniLine> ini; // whole paths as files
+    std::vector<IniLine> ini; // absolute paths as files
     std::vector<Text> registerFiles;
     Script scriptBefore;
     Script scriptAfter;

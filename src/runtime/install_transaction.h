@@ -29,9 +29,9 @@ public:
     /// Before the first change. Throws where another installation to the same folder is at work.
     void Begin(const Text& mainFolder, const Text& product);
 
-    /// So many files are to be put in their places.
+    /// Reserves memory for that many files.
     void ExpectFiles(std::size_t count);
-    /// With all missing folders above it.
+    /// Creates the folder and its missing parents.
     void MakeFolder(const Text& folder);
     /// A name under which a file for that place can be written before it is put there. Its folder
     /// exists.
@@ -42,7 +42,8 @@ public:
     /// Keeps a second name for the file that is at `path`, which `PutFile` is about to replace.
     void KeepBackup(const Text& path);
     void RemoveFile(const Text& path);
-    /// When everything is done, if the folder is empty by then: what was put aside lies in it.
+    /// When everything is done, if the folder is empty by then: the files that were moved aside are
+    /// in it.
     void RemoveFolderAtEnd(const Text& folder);
 
     // What they write and remove is logged here.
@@ -60,7 +61,7 @@ public:
     bool NeedsRestart() const { return !atRestart_.empty(); }
     /// The changes stay: the last thing that can fail, the moves of the next start among it.
     void Commit();
-    /// Removes what was put aside.
+    /// Removes the files that were moved aside.
     void CleanUp();
     /// False where something could not be taken back; the log says what, and the next run tries
     /// again.

@@ -55,14 +55,14 @@ bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& pr
     });
 }
 
-bool IsBelievable(const FileSystem& files, const Target& target, const Text& logPath,
-                  const Text& program)
+bool IsTrusted(const FileSystem& files, const Target& target, const Text& logPath,
+               const Text& program)
 {
     return IsInSameFolder(files, logPath, program) &&
            (target.IsOfTrustedUser(logPath) || target.HaveSameOwner(logPath, program));
 }
 
-bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& uninstaller)
+bool IsUninstallerRemovedWith(const FileSystem& files, const Text& logPath, const Text& uninstaller)
 {
     const Text folder = ExtractDirectory(logPath);
     const Text own = files.ShortPath(UninstallerPath(folder));

@@ -38,11 +38,12 @@ bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& pr
 /// The uninstaller believes no other log: it would remove whatever a file says that somebody has
 /// given it. One that is beside it must not be of a user with fewer rights either, unless that
 /// user has made the program as well.
-bool IsBelievable(const FileSystem& files, const Target& target, const Text& logPath,
-                  const Text& program);
+bool IsTrusted(const FileSystem& files, const Target& target, const Text& logPath,
+               const Text& program);
 
 /// Products that share a main folder share the uninstaller in it: true where this product's going
 /// takes along the program at `uninstaller`.
-bool GoesWithProduct(const FileSystem& files, const Text& logPath, const Text& uninstaller);
+bool IsUninstallerRemovedWith(const FileSystem& files, const Text& logPath,
+                              const Text& uninstaller);
 
 } // namespace quillon

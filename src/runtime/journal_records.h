@@ -24,7 +24,7 @@ struct Message {
     bool operator==(const Message&) const = default;
 };
 
-/// Made by us.
+/// A folder that the setup created.
 struct Folder {
     Text path;
     bool operator==(const Folder&) const = default;
@@ -80,7 +80,7 @@ struct AtRestart {
     bool operator==(const AtRestart&) const = default;
 };
 
-/// Made by us.
+/// A key that the setup created.
 struct Key {
     RegistryKey key;
     bool operator==(const Key&) const = default;
@@ -106,7 +106,7 @@ struct UninstallValue {
     bool operator==(const UninstallValue&) const = default;
 };
 
-/// Made by us.
+/// A file that the setup created.
 struct IniFile {
     Text path;
     bool operator==(const IniFile&) const = default;
@@ -119,7 +119,7 @@ struct IniOpenEnd {
     bool operator==(const IniOpenEnd&) const = default;
 };
 
-/// Made by us.
+/// A section that the setup created.
 struct IniSection {
     Text path;
     Text section;

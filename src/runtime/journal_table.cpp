@@ -1,5 +1,6 @@
 #include "runtime/journal_table.h"
 
+#include "helpers/hex.h"
 #include "helpers/number_text.h"
 #include "runtime/registry_lines.h"
 
@@ -69,7 +70,6 @@ constexpr std::string_view kEscaped = "%\t\r\n";
 
 Text Escape(std::string_view field)
 {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
     Text escaped;
     for (const char c : field) {
         if (kEscaped.find(c) == Text::npos) {
@@ -77,8 +77,8 @@ Text Escape(std::string_view field)
             continue;
         }
         escaped += '%';
-        escaped += kDigits[static_cast<unsigned char>(c) >> 4U];
-        escaped += kDigits[static_cast<unsigned char>(c) & 15U];
+        escaped += kHexDigits[static_cast<unsigned char>(c) >> 4U];
+        escaped += kHexDigits[static_cast<unsigned char>(c) & 15U];
     }
     return escaped;
 }

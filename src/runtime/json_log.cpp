@@ -2,30 +2,13 @@
 
 #include "platform/run_error.h"
 #include "runtime/json_writer.h"
+#include "runtime/result_names.h"
 
 #include <utility>
 
 namespace quillon {
 
 namespace {
-
-constexpr std::pair<ExitCode, const char*> kResults[] = {
-    {ExitCode::Done, "done"},
-    {ExitCode::RestartNeeded, "done"},
-    {ExitCode::RestartStarted, "done"},
-    {ExitCode::DiskFull, "disk full"},
-    {ExitCode::Cancelled, "cancelled"},
-    {ExitCode::NothingInstalled, "not installed"},
-    {ExitCode::AlreadyUninstalled, "already uninstalled"},
-    {ExitCode::OtherSetupRuns, "another setup runs"},
-    {ExitCode::Forbidden, "forbidden"},
-    {ExitCode::WrongSystem, "wrong system"},
-    {ExitCode::NewerInstalled, "newer version installed"},
-    {ExitCode::BadSwitch, "bad switch"},
-    {ExitCode::DamagedPackage, "damaged package"},
-    {ExitCode::PrerequisiteMissing, "prerequisite missing"},
-    {ExitCode::FileInUse, "file in use"},
-};
 
 // What the end counts, under which name.
 constexpr std::pair<Message, const char*> kCounted[] = {
@@ -85,14 +68,6 @@ const char* NameOfStop(ExitCode code)
 }
 
 } // namespace
-
-const char* NameOfResult(ExitCode code)
-{
-    for (const auto& [known, name] : kResults)
-        if (known == code)
-            return name;
-    return "failed";
-}
 
 JsonLog::JsonLog(FileSystem& files, const Machine& machine, const LogFiles& paths)
     : machine_(machine), file_(Open(files, paths.json)), result_(Open(files, paths.result))

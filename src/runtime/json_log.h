@@ -45,7 +45,4 @@ private:
 void WriteResult(FileSystem& files, const Machine& machine, const Text& path, ExitCode code,
                  std::string_view error);
 
-/// "done", "failed" and the like.
-const char* NameOfResult(ExitCode code);
-
 } // namespace quillon

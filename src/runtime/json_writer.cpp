@@ -1,5 +1,6 @@
 #include "runtime/json_writer.h"
 
+#include "helpers/hex.h"
 #include "helpers/number_text.h"
 #include "helpers/utf8.h"
 
@@ -48,14 +49,13 @@ void JsonWriter::AddFlag(std::string_view name, bool value)
 
 void JsonWriter::Quote(std::string_view text)
 {
-    constexpr char kDigits[] = "0123456789abcdef";
     text_ += '"';
     for (std::size_t at = 0; at < text.size();) {
         const char32_t codePoint = NextCodePoint(text, at);
         if (codePoint < 0x20 || codePoint == 0x7F) {
             text_ += "\\u00";
-            text_ += kDigits[codePoint >> 4U];
-            text_ += kDigits[codePoint & 0xFU];
+            text_ += kSmallHexDigits[codePoint >> 4U];
+            text_ += kSmallHexDigits[codePoint & 0xFU];
             continue;
         }
         if (codePoint == '"' || codePoint == '\\')

@@ -112,7 +112,7 @@ void OldFiles::CollectNewOnes()
     KeepFolder(LowerCase(work_.plan.mainFolder));
 }
 
-// With those above it.
+// The folder and all of its parents.
 void OldFiles::KeepFolder(const Text& folder)
 {
     for (Text at = folder; kept_.insert(at).second;)

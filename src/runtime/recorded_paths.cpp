@@ -62,7 +62,7 @@ void RecordedPaths::Note(std::size_t index, const JournalRecord& record)
     }
 }
 
-// The record that the file was replaced stands right before: that has not come true.
+// The record before it says that the file was replaced, which has not happened yet.
 void RecordedPaths::NotePending(std::size_t index, const record::AtRestart& move)
 {
     if (move.to.empty() || !host_.files.FileExists(move.from))

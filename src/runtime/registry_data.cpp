@@ -1,5 +1,6 @@
 #include "runtime/registry_data.h"
 
+#include "helpers/hex.h"
 #include "helpers/utf8.h"
 
 #include <utility>
@@ -24,14 +25,6 @@ char32_t UnitAt(std::string_view bytes, std::size_t at)
     const auto low = static_cast<unsigned char>(bytes[at]);
     const auto high = static_cast<unsigned char>(bytes[at + 1]);
     return char32_t(low) | char32_t(high) << 8U;
-}
-
-int HexDigit(char c)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    const char lower = static_cast<char>(c | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
 } // namespace
@@ -94,12 +87,11 @@ std::optional<std::uint32_t> NumberOf(const RegistryData& data)
 
 Text HexText(std::string_view bytes)
 {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
     Text hex;
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
-        hex += kDigits[byte >> 4U];
-        hex += kDigits[byte & 15U];
+        hex += kHexDigits[byte >> 4U];
+        hex += kHexDigits[byte & 15U];
     }
     return hex;
 }
@@ -110,11 +102,10 @@ std::optional<std::string> BytesOfHex(std::string_view hex)
         return std::nullopt;
     std::string bytes;
     for (std::size_t at = 0; at < hex.size(); at += 2) {
-        const int high = HexDigit(hex[at]);
-        const int low = HexDigit(hex[at + 1]);
-        if (high < 0 || low < 0)
+        const int byte = HexByteValue(hex[at], hex[at + 1]);
+        if (byte < 0)
             return std::nullopt;
-        bytes += static_cast<char>(high * 16 + low);
+        bytes += static_cast<char>(byte);
     }
     return bytes;
 }

@@ -24,7 +24,7 @@ public:
         for (const JournalRecord& record : product.records)
             AddFileOf(record);
         const Text uninstaller = UninstallerPath(ExtractDirectory(logPath));
-        if (GoesWithProduct(files_, logPath, uninstaller)) {
+        if (IsUninstallerRemovedWith(files_, logPath, uninstaller)) {
             AddFile(uninstaller, removal.own);
             for (const Text& path : FilesOfUninstaller(ExtractDirectory(logPath)))
                 AddFile(path, removal.own);

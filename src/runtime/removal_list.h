@@ -7,7 +7,7 @@
 namespace quillon {
 
 /// By kind, and in the order in which they were made. What has gone already, what stays, and what
-/// keeps the system's own books is not among them.
+/// the system itself counts by is not among them.
 struct Removal {
     std::vector<Text> files; // of the product, without the uninstaller's own
     std::vector<Text> own;   // of the uninstaller

@@ -53,7 +53,7 @@ private:
     FileSystem& files_;
     Target& target_;
     Paths lost_; // files aside that could not come back, and must not go
-    // Taken back so far.
+    // The files unregistered and the fonts withdrawn in this rollback.
     Paths unregistered_;
     Paths withdrawn_;
 };
@@ -233,7 +233,7 @@ bool FinishOne(const RollbackInput& input, const Text& path)
     return true;
 }
 
-// What was put aside lay in it, too.
+// The files that were moved aside were in it, too.
 void RemoveLeavingFolder(const RollbackInput& input, const Text& folder)
 {
     FileSystem& files = input.host.files;

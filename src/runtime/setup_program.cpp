@@ -221,7 +221,7 @@ void SetupProgram::LeadThroughPages()
         input_.host, input_.target, input_.ask, texts_, setup_, package_.rows,
         input_.switches.packageFolder, destination_, isUpdate_,
         HasPassword(input_.switches, setup_), input_.switches.scope, input_.switches.canCancel});
-    if (chain_->LeadThrough(*input_.pages) == PageChain::End::Cancelled)
+    if (chain_->ShowPages(*input_.pages) == PageChain::End::Cancelled)
         throw SetupFailure(ExitCode::Cancelled, {});
     AddChoices(chain_->Choices(), choices_);
     if (!choices_.destination.empty())

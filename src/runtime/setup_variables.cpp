@@ -89,7 +89,7 @@ void SetMainFolder(SetupVariables& variables, const VariableSources& sources)
     variables.Set(Meaning::MainFolderDrive, DriveOf(folder));
 }
 
-// A component's folder may be told by variables, as a whole path, or as a folder below the main
+// A component's folder may be told by variables, as an absolute path, or as a folder below the main
 // one; a component without a folder goes to the main one.
 void SetComponentFolders(SetupVariables& variables, const VariableSources& sources)
 {

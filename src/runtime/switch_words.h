@@ -97,22 +97,49 @@ bool IsSwitchWord(const Char* name, int length, const char* word)
 template <class Char>
 bool HasSilentSwitch(const Char* line)
 {
-    constexpr int kLongest = 16;
+    constexpr int kMaxLength = 16;
     for (line = SkipSwitchBlanks(line); *line != 0; line = SkipSwitchBlanks(line)) {
         const Char* const end = EndOfSwitch(line);
         // Its characters up to a value, the quotation marks left out.
-        Char name[kLongest] = {};
+        Char name[kMaxLength] = {};
         int length = 0;
         for (; line != end && !IsValueMark(*line); ++line)
-            if (*line != '"' && length++ < kLongest)
+            if (*line != '"' && length++ < kMaxLength)
                 name[length - 1] = *line;
-        if (length > 1 && length <= kLongest && IsSwitchMark(name[0]))
+        if (length > 1 && length <= kMaxLength && IsSwitchMark(name[0]))
             for (const char* word : kSilentWords)
                 if (IsSwitchWord(name + 1, length - 1, word))
                     return true;
         line = end;
     }
     return false;
+}
+
+/// Puts the value of the switch of that name, without quotation marks, into `to` with a null after
+/// it; of several the last one counts. False, with `to` empty, where there is none, or only an
+/// empty one or one of `room` characters or more.
+template <class Char>
+bool FindSwitchValue(const Char* line, const char* word, Char* to, int room)
+{
+    to[0] = 0;
+    for (line = SkipSwitchBlanks(line); *line != 0; line = SkipSwitchBlanks(line)) {
+        const Char* const end = EndOfSwitch(line);
+        if (*line == '"')
+            ++line;
+        const Char* mark = line;
+        while (mark != end && !IsValueMark(*mark))
+            ++mark;
+        const bool isIt = mark != end && IsSwitchMark(*line) &&
+                          IsSwitchWord(line + 1, static_cast<int>(mark - line) - 1, word);
+        int length = 0;
+        for (line = mark; isIt && line != end && length < room; ++line)
+            if (line != mark && *line != '"')
+                to[length++] = *line;
+        if (isIt)
+            to[length < room ? length : 0] = 0;
+        line = end;
+    }
+    return to[0] != 0;
 }
 
 } // namespace quillon

@@ -46,7 +46,7 @@ void LeadThroughPages(const TestInput& input, LoadedPackage& package)
 {
     PageChain chain({input.host, input.target, input.ask, package.texts, package.setup,
                      package.rows, input.switches.packageFolder, input.switches.destination});
-    if (chain.LeadThrough(input.pages) == PageChain::End::Cancelled)
+    if (chain.ShowPages(input.pages) == PageChain::End::Cancelled)
         return;
     input.ask.Inform(package.texts(Message::TestTitle, ProjectNameOf(package)),
                      package.texts[Message::TestNothing]);

@@ -5,7 +5,7 @@
 // The constraints that shaped it:
 //
 // - Taking back writes nothing to a disk, so that a full one can't stop it: a file that is replaced
-//   is put aside on its own disk and comes back by one rename.
+//   is moved aside on its own disk and comes back by one rename.
 // - Taking back can be ended from outside too, and is then begun anew. So each step looks at what
 //   there is before it does anything, and a step done twice does no harm. That is why
 //   `InstallTransaction` notes no `File` at a place whose former file is aside: it would be removed

@@ -351,7 +351,7 @@ void Uninstallation::UndoRestart(const record::AtRestart& move)
 void Uninstallation::RemoveProductItself()
 {
     const Text uninstaller = UninstallerPath(mainFolder_);
-    if (GoesWithProduct(files_, input_.logPath, uninstaller)) {
+    if (IsUninstallerRemovedWith(files_, input_.logPath, uninstaller)) {
         if (input_.running != nullptr)
             input_.running->MoveAway(uninstaller);
         RemoveFile(uninstaller);

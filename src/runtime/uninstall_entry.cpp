@@ -39,9 +39,9 @@ Text CompactDate(const LocalTime& time)
 // The list counts in kilobytes; what is larger than it can count is as much as it can.
 RegistryData Kilobytes(const EntryFacts& facts)
 {
-    constexpr std::uint64_t kMost = 0xFFFFFFFF;
+    constexpr std::uint64_t kMax = 0xFFFFFFFF;
     return NumberData(
-        static_cast<std::uint32_t>(std::min((facts.installedBytes + 1023) / 1024, kMost)));
+        static_cast<std::uint32_t>(std::min((facts.installedBytes + 1023) / 1024, kMax)));
 }
 
 RegistryData One(const EntryFacts&)

@@ -19,7 +19,7 @@ void UninstallProgram::FindProduct()
     const FileSystem& files = input_.host.files;
     const Text& log = input_.line.logPath;
     product_.reset();
-    if (IsBelievable(files, input_.target, log, input_.program))
+    if (IsTrusted(files, input_.target, log, input_.program))
         product_ = ReadInstalledProduct(files, log);
     if (product_)
         texts_ = product_->texts;
@@ -32,7 +32,7 @@ void UninstallProgram::Prepare()
     const Machine& machine = input_.host.machine;
     OpenLogs(log_, files, machine, LogFilesOf(GivenSwitches(), files, machine, "QNXUNIN"), Texts());
     // A run that is refused, or only tells something, changes nothing.
-    if (GivenSwitches().badSwitch || input_.otherSetupRuns || IsToTell())
+    if (GivenSwitches().badSwitch || input_.otherSetupRuns || OnlyShowsInformation())
         return;
     // A setup that was killed is brought to its end first, so that the log says what is there.
     const Text folder = ExtractDirectory(input_.program);
@@ -44,7 +44,7 @@ void UninstallProgram::Prepare()
         FindProduct();
 }
 
-bool UninstallProgram::IsToTell() const
+bool UninstallProgram::OnlyShowsInformation() const
 {
     const SetupTask task = GivenSwitches().task;
     return task == SetupTask::Help || task == SetupTask::Version;
@@ -76,7 +76,7 @@ std::optional<UninstallProgram::Refusal> UninstallProgram::WhyRefused() const
         return Refusal{ExitCode::BadSwitch, Texts()(Message::BadSwitch, *badSwitch)};
     if (GivenSwitches().task == SetupTask::Help)
         return std::nullopt;
-    if (input_.otherSetupRuns && !IsToTell())
+    if (input_.otherSetupRuns && !OnlyShowsInformation())
         return Refusal{ExitCode::OtherSetupRuns, Texts()[Message::OtherSetup]};
     if (!product_ || IsRemovedAtRestart(input_.target, input_.line.logPath))
         return WithoutProduct();
@@ -144,7 +144,7 @@ ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view, RunningProgram* ru
             boxes.Critical(Title(), refusal->text);
         return End(refusal->code, refusal->text);
     }
-    if (IsToTell())
+    if (OnlyShowsInformation())
         return Tell(ask);
     const Text& log = input_.line.logPath;
     const Removal removal = PlanRemoval(*product_, input_.host, input_.target, log);

@@ -51,7 +51,7 @@ private:
     };
     void FindProduct();
     const Switches& GivenSwitches() const { return input_.line.switches; }
-    bool IsToTell() const;
+    bool OnlyShowsInformation() const;
     std::optional<Refusal> WhyRefused() const;
     Refusal WithoutProduct() const;
     Text InstalledVersion() const;

@@ -29,7 +29,7 @@ public:
 
     /// The rows of the file list anew, these of them selected; then `UpdateStatusBar`.
     virtual void ShowFileList(const std::vector<std::size_t>& selectedRows) = 0;
-    /// The numbers of the selected rows, rising.
+    /// The numbers of the selected rows, ascending.
     virtual std::vector<std::size_t> SelectedRows() const = 0;
 
     /// The number of rows and their size in the first pane of the status bar.

@@ -38,7 +38,7 @@ bool ProjectHistory::Record(const Text& name, Changed changed)
     return true;
 }
 
-void ProjectHistory::Absorb(Changed changed)
+void ProjectHistory::MergeIntoLastStep(Changed changed)
 {
     NoteSaving();
     State now = Look(changed);

@@ -34,7 +34,7 @@ public:
     /// What has changed since the last call becomes a step of this name; false where nothing has.
     bool Record(const Text& name, Changed changed);
     /// The same without a step of its own: undoing what was done before takes it back as well.
-    void Absorb(Changed changed);
+    void MergeIntoLastStep(Changed changed);
 
     // The steps that can be undone and done again; null where there is none.
     const Text* UndoName() const;

@@ -132,7 +132,7 @@ void UseKnownBarsStyle(WindowOptions& options)
         options.CBarsCurrentStyle = WindowOptions().CBarsCurrentStyle;
 }
 
-void ForgetImpossiblePlace(WindowPlace& place)
+void ResetInvalidWindowPlace(WindowPlace& place)
 {
     const auto possible = [](Integer length) {
         constexpr Integer kMin = 100;
@@ -162,7 +162,7 @@ void ReadDataFromIniFile(Session& session)
     EmptyFreeSlots(session.RecentFiles);
     UseFlagsForHiddenTabs(session.Settings.HideTabs);
     UseKnownBarsStyle(session.Settings.WindowOptions);
-    ForgetImpossiblePlace(session.Settings.WindowPlace);
+    ResetInvalidWindowPlace(session.Settings.WindowPlace);
 }
 
 void WriteDataToIniFile(const Session& session)

@@ -43,21 +43,21 @@ bool Form::ShowModal()
     return OK;
 }
 
-QLineEdit* Form::Field(QLineEdit*& member, const char* name, Text& value, int longest)
+QLineEdit* Form::Field(QLineEdit*& member, const char* name, Text& value, int maxLength)
 {
     auto* field = Named(member, name, new QLineEdit(ToQt(value)));
-    LimitTyping(field, longest);
-    limits_.push_back({field, longest});
+    LimitTyping(field, maxLength);
+    limits_.push_back({field, maxLength});
     Bind([field, &value] { value = FromQt(field->text()); });
     return field;
 }
 
-QPlainTextEdit* Form::Area(QPlainTextEdit*& member, const char* name, Text& value, int longest)
+QPlainTextEdit* Form::Area(QPlainTextEdit*& member, const char* name, Text& value, int maxLength)
 {
     auto* area = Named(member, name, new QPlainTextEdit(LinesToQt(value)));
     area->setTabChangesFocus(true);
-    LimitTyping(area, longest);
-    limits_.push_back({area, longest});
+    LimitTyping(area, maxLength);
+    limits_.push_back({area, maxLength});
     Bind([area, &value] { value = LinesFromQt(TypedText(area)); });
     return area;
 }
@@ -162,7 +162,7 @@ void Form::PressOk()
     if (QWidget* focus = focusWidget(); focus && cmdOK)
         cmdOK->setFocus();
     const auto isTooLong = [](const Limit& limit) {
-        return WarnIfTooLong(limit.field, limit.longest);
+        return WarnIfTooLong(limit.field, limit.maxLength);
     };
     if (std::ranges::any_of(limits_, isTooLong) || !MayClose())
         return;

@@ -34,10 +34,10 @@ protected:
     /// `name` is the class's own, for tests and style sheets.
     Form(const char* name, const Text& title, QWidget* parent);
 
-    // Controls bound to a field, which they load now and store on OK. `longest` is in bytes on
+    // Controls bound to a field, which they load now and store on OK. `maxLength` is in bytes on
     // file (see `LongestText`).
-    QLineEdit* Field(QLineEdit*& member, const char* name, Text& value, int longest = 0);
-    QPlainTextEdit* Area(QPlainTextEdit*& member, const char* name, Text& value, int longest = 0);
+    QLineEdit* Field(QLineEdit*& member, const char* name, Text& value, int maxLength = 0);
+    QPlainTextEdit* Area(QPlainTextEdit*& member, const char* name, Text& value, int maxLength = 0);
     /// A box for a flag, 0 and -1.
     QCheckBox* Check(QCheckBox*& member, const char* name, const Text& caption, Flag& value);
     /// A box for a number 0 or 1.
@@ -77,7 +77,7 @@ private:
     // A field whose text the project file cuts at a length.
     struct Limit {
         QWidget* field;
-        int longest;
+        int maxLength;
     };
 
     std::vector<std::function<void()>> stores_;

@@ -2,8 +2,10 @@
 
 #include "formats/row_safety.h"
 #include "helpers/ansi_text.h"
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/volume_name.h"
 #include "ui/icons.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
@@ -60,21 +62,12 @@ std::vector<Text> FoldersIn(const FileSystem& files, const Text& folder)
 /// The root of a folder's drive, "C:\", or nothing.
 Text RootOf(const Text& folder)
 {
-    return folder.size() >= 2 && folder[1] == ':' ? UpperCase(folder.substr(0, 1)) + ":\\" : Text();
+    return BeginsWithDrive(folder) ? UpperCase(folder.substr(0, 1)) + ":\\" : Text();
 }
 
 Text ParentOf(const Text& folder)
 {
     return folder.size() <= 3 ? Text() : ExtractDirectory(RemoveLastBackslash(folder));
-}
-
-Text VolumeName(const FileSystem& files, const Text& root)
-{
-    try {
-        return files.GetVolumeName(root);
-    } catch (const RunError&) {
-        return {};
-    }
 }
 
 /// Fills an item of the tree when the view opens it, and tells the view that a folder not looked
@@ -143,7 +136,7 @@ void SelectDir::FillDrives()
         const DriveKind kind = files_.DriveType(root);
         if (kind == DriveKind::NoRoot || kind == DriveKind::Unknown)
             continue;
-        const Text volume = VolumeName(files_, root);
+        const Text volume = VolumeNameIfAny(files_, root);
         const Text caption = volume.empty() ? root : root + "  (" + volume + ")";
         DriveListX->addItem(NamedIcon("drive"), ToQt(caption), ToQt(root));
     }

@@ -49,10 +49,10 @@ protected:
 
 private:
     void OpenFolder(const Text& folder);
-    void LetWindowsPathsBeTyped();
+    void AcceptWindowsPaths();
     bool TakeTypedPattern();
     bool TakeTypedWindowsPath();
-    void LetTypedNamesCount();
+    void PreferTypedNames();
     bool RefusesAFile();
     void Refuse(const QString& text);
 
@@ -77,14 +77,14 @@ FileDialog::FileDialog(const FileQuestion& question, const HostPaths& paths, QWi
         setDefaultSuffix(ToQt(question.defaultExtension).remove(0, 1));
     DrawButtons(*this);
     LayOut(*this);
-    LetWindowsPathsBeTyped();
+    AcceptWindowsPaths();
     auto* name = findChild<QLineEdit*>("fileNameEdit");
     name->setText(ToQt(question.fileName));
     name->selectAll();
 }
 
 /// Qt turns the button off for a name that is no file of this machine's. A pattern is none either.
-void FileDialog::LetWindowsPathsBeTyped()
+void FileDialog::AcceptWindowsPaths()
 {
     auto* field = findChild<QLineEdit*>("fileNameEdit");
     auto* buttons = findChild<QDialogButtonBox*>("buttonBox");
@@ -119,14 +119,14 @@ void FileDialog::accept()
 {
     if (TakeTypedPattern())
         return;
-    LetTypedNamesCount();
+    PreferTypedNames();
     if (TakeTypedWindowsPath() && !RefusesAFile())
         QFileDialog::accept();
 }
 
 /// While `"a.txt" "b.txt"` is typed, Qt selects the first of them in the list, and would then take
 /// the selection for the answer.
-void FileDialog::LetTypedNamesCount()
+void FileDialog::PreferTypedNames()
 {
     auto* field = findChild<QLineEdit*>("fileNameEdit");
     const QString typed = field->text();

@@ -9,7 +9,7 @@ namespace quillon {
 namespace {
 
 // A caption of "&Namn:" is read aloud as "Namn".
-QString Spoken(const Text& caption)
+QString AccessibleNameOf(const Text& caption)
 {
     QString spoken = ToQt(caption).remove(QRegularExpression("&(?!&)")).trimmed();
     while (spoken.endsWith(':'))
@@ -35,7 +35,7 @@ QLabel* Caption(const Text& caption, const Piece& piece)
     if (QWidget* widget = Reached(piece)) {
         label->setBuddy(widget);
         if (widget->accessibleName().isEmpty())
-            widget->setAccessibleName(Spoken(caption));
+            widget->setAccessibleName(AccessibleNameOf(caption));
     }
     return label;
 }
@@ -90,7 +90,7 @@ QGroupBox* Frame(const Text& caption, Pieces pieces)
     for (const Piece& piece : pieces)
         if (piece.widget && piece.widget->inherits("QLineEdit") &&
             piece.widget->accessibleName().isEmpty())
-            piece.widget->setAccessibleName(Spoken(caption));
+            piece.widget->setAccessibleName(AccessibleNameOf(caption));
     return frame;
 }
 

@@ -16,7 +16,7 @@ constexpr std::uint64_t kMaxBytes = 32U << 20U;
 constexpr double kTabsPerInch = 2; // where a paragraph has none of its own
 const QColor kPaper = Qt::white;
 const QColor kInk = Qt::black;
-const QColor kNoteInk(0x80, 0x30, 0x00);
+const QColor kNoteForeground(0x80, 0x30, 0x00);
 
 Text NoteOf(RtfText::Fault fault)
 {
@@ -79,7 +79,7 @@ void RtfView::ShowNote(const Text& note)
         return;
     QTextCharFormat look;
     look.setFontItalic(true);
-    look.setForeground(kNoteInk);
+    look.setForeground(kNoteForeground);
     QTextCursor(document()).insertText(note_, look);
 }
 

@@ -21,13 +21,13 @@ protected:
 TEST_F(Form, RefusesWhatCannotBeMade)
 {
     CreateForm form = OpenCreateForm(project, state);
-    EXPECT_EQ(WhyNotMade(form), "");
+    EXPECT_EQ(CreateObstacle(form), "");
     form.tDestinationDir = "C:\\" + Text(298, 'x');
-    EXPECT_EQ(WhyNotMade(form),
+    EXPECT_EQ(CreateObstacle(form),
               "Destinationskatalogen är längre än 300 tecken: '" + form.tDestinationDir + "'.");
     form.tDestinationDir = "C:\\Ut";
     form.TargetMedia = Medium::Internet;
-    EXPECT_EQ(WhyNotMade(form), "");
+    EXPECT_EQ(CreateObstacle(form), "");
 }
 
 TEST(ProgressText, CountsMegabytes)

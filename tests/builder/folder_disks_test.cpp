@@ -58,7 +58,7 @@ TEST_F(FolderDisksTest, LeaveRoomForTheManifestOfAsManyDisksAsThereWillBe)
 {
     constexpr std::uint64_t kLongLine = 96;
     for (const std::uint64_t further : {0U, 1U, 9U, 400U}) {
-        const std::uint64_t room = disks.RoomToLeave(further * kDiskCapacity);
+        const std::uint64_t room = disks.ReservedBytes(further * kDiskCapacity);
         EXPECT_GE(room, (further + 20) * kLongLine) << further;
         EXPECT_EQ(room % 512, 0U);
     }

@@ -53,12 +53,12 @@ TEST(NeedOfRuntimeConfig, EndsOnDeepNesting)
 
 TEST(NeedOfProgram, ReadsTheNoteOfTheCompiler)
 {
-    ProgramFacts status{.isManaged = true,
-                        .clrVersion = "v4.0.30319",
-                        .targetFramework = ".NETFramework,Version=v4.7.2"};
-    EXPECT_EQ(NeedOfProgram(status), (DotNetNeed{Kind::Framework, ".NET Framework", "4.7.2", ""}));
-    status.targetFramework = ".NETCoreApp,Version=v8.0";
-    EXPECT_EQ(NeedOfProgram(status), (DotNetNeed{Kind::Core, ".NET", "8.0", ""}));
+    ProgramInfo info{.isManaged = true,
+                     .clrVersion = "v4.0.30319",
+                     .targetFramework = ".NETFramework,Version=v4.7.2"};
+    EXPECT_EQ(NeedOfProgram(info), (DotNetNeed{Kind::Framework, ".NET Framework", "4.7.2", ""}));
+    info.targetFramework = ".NETCoreApp,Version=v8.0";
+    EXPECT_EQ(NeedOfProgram(info), (DotNetNeed{Kind::Core, ".NET", "8.0", ""}));
 }
 
 TEST(NeedOfProgram, TellsOlderProgramsByTheirClr)

@@ -201,10 +201,10 @@ public:
         PosixFiles::Replace(from, to);
         Step();
     }
-    void KeepUnder(const Text& path, const Text& second) override
+    void LinkOrCopy(const Text& path, const Text& second) override
     {
         Step();
-        PosixFiles::KeepUnder(path, second);
+        PosixFiles::LinkOrCopy(path, second);
     }
     void Step()
     {

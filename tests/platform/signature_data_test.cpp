@@ -15,7 +15,7 @@ std::string SampleSignature()
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-SignatureFacts FactsOf(std::string_view signature)
+SignatureInfo FactsOf(std::string_view signature)
 {
     return ReadSignatureData(std::as_bytes(std::span(signature)), {});
 }
@@ -42,7 +42,7 @@ std::string WithDigests(int count)
 
 TEST(ReadSignatureData, NamesTheSignerAlsoOfAnotherProgram)
 {
-    const SignatureFacts facts = FactsOf(SampleSignature());
+    const SignatureInfo facts = FactsOf(SampleSignature());
     EXPECT_EQ(facts.signer, "Firma Åke AB");
     EXPECT_EQ(facts.issuer, "Prov CA");
     EXPECT_EQ(facts.fault, "filen har ändrats sedan den signerades");

@@ -72,7 +72,7 @@ protected:
     {
         ScriptedPages pages(std::move(steps));
         PageChain chain(Input());
-        const PageChain::End end = chain.LeadThrough(pages);
+        const PageChain::End end = chain.ShowPages(pages);
         choices = chain.Choices();
         shown = pages.shown;
         stepsAside = pages.stepsAside;
@@ -238,7 +238,7 @@ TEST_F(PagesTest, APasswordHasToBeTheRightOne)
         PageChain::End::Install);
     EXPECT_EQ(shown[0].Find(PageField::BodyText)->text, "Skriv.");
     EXPECT_EQ(shown[2].Find(PageField::Password)->text, "") << "a wrong one is not kept";
-    EXPECT_EQ(shown[0].Find(PageField::Password)->kind, PieceKind::Secret);
+    EXPECT_EQ(shown[0].Find(PageField::Password)->kind, PieceKind::Password);
 }
 
 TEST_F(PagesTest, AskForNoPasswordThatIsGivenOrThatThereIsNot)
@@ -249,7 +249,7 @@ TEST_F(PagesTest, AskForNoPasswordThatIsGivenOrThatThereIsNot)
     ScriptedPages none;
     PageInput input = Input();
     input.hasPassword = true;
-    EXPECT_EQ(PageChain(input).LeadThrough(none), PageChain::End::Install);
+    EXPECT_EQ(PageChain(input).ShowPages(none), PageChain::End::Install);
 }
 
 TEST_F(PagesTest, TheUserIsProposedAsTheMachineKnowsIt)
@@ -608,7 +608,7 @@ TEST_F(EarlierVersion, IsUpdatedInItsFolderWithoutAWarning)
     input.destination = "E:\\Gammal";
     input.isUpdate = true;
     PageChain chain(input);
-    EXPECT_EQ(chain.LeadThrough(pages), PageChain::End::Install);
+    EXPECT_EQ(chain.ShowPages(pages), PageChain::End::Install);
     EXPECT_EQ(pages.shown[0].Find(PageField::Folder)->text, "E:\\Gammal");
 }
 

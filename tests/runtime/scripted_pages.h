@@ -37,7 +37,7 @@ public:
             step.act(page, listener);
         return step.action;
     }
-    void StepAside() override { ++stepsAside; }
+    void Hide() override { ++stepsAside; }
 
     std::vector<SetupPage> shown;
     int stepsAside = 0;

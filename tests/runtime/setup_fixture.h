@@ -135,7 +135,7 @@ class SetupFixture : public testing::Test {
 protected:
     SetupFixture();
 
-    /// A row with its bytes, dated `modified`; the setup's status are kept in step.
+    /// A row with its bytes, dated `modified`; FILELIST.INF and the container get it too.
     InstallRow& AddFile(const Text& name, const Text& destination, const std::string& bytes,
                         const Text& options = "D", LocalTime modified = {2004, 1, 2, 3, 4, 6});
     InstallRow& AddFolder(const Text& destination);

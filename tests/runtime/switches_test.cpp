@@ -276,6 +276,28 @@ TEST(HasSilentSwitch, AgreesWithTheSetup)
     EXPECT_FALSE(HasSilentSwitch("/D=\"C:\\A /S\""));
 }
 
+TEST(FindSwitchValue, AgreesWithTheSetup)
+{
+    for (const char* line :
+         {"", "/S", "/RESULT=a.json", "-result:a.json", "/Result=\"C:\\a b.json\" /S",
+          "/S \"/RESULT=C:\\a b.json\"", "/RESULT", "/RESULT=", "/RESULT=a /RESULT=b", "RESULT=a",
+          "/RESULTS=a", "/D=C:\\A /B /RESULT=c", "/D=\"C:\\A /RESULT=c\"", "/LOG=/RESULT=a",
+          "/RESULT=a=b:c", "\"/RESULT=a", "/RESULT=\"\""}) {
+        Text::value_type value[32];
+        EXPECT_EQ(FindSwitchValue(line, "RESULT", value, 32), value[0] != 0) << line;
+        EXPECT_EQ(Text(value), ReadSwitches(line).resultFile) << line;
+    }
+}
+
+TEST(FindSwitchValue, TakesNoValueThatHasNoRoom)
+{
+    char value[5];
+    EXPECT_TRUE(FindSwitchValue("/RESULT=1234", "RESULT", value, 5));
+    EXPECT_STREQ(value, "1234");
+    EXPECT_FALSE(FindSwitchValue("/RESULT=12345", "RESULT", value, 5));
+    EXPECT_STREQ(value, "");
+}
+
 struct UninstallerCase {
     const char* line;
     const char* logPath;

@@ -55,11 +55,11 @@ TEST_F(UninstallTest, LeavesTheUninstallerToAnotherProductInTheSameFolder)
     ASSERT_EQ(Install(), ExitCode::Done);
     EXPECT_TRUE(memory.files.FileExists(kMain + "\\QNXUNIN2.LOG"));
     const Text uninstaller = kMain + "\\qnxunin.exe";
-    EXPECT_FALSE(GoesWithProduct(files, kMain + "\\QNXUNIN.LOG", uninstaller));
-    EXPECT_FALSE(GoesWithProduct(files, kMain + "\\qnxunin2.log", uninstaller));
+    EXPECT_FALSE(IsUninstallerRemovedWith(files, kMain + "\\QNXUNIN.LOG", uninstaller));
+    EXPECT_FALSE(IsUninstallerRemovedWith(files, kMain + "\\qnxunin2.log", uninstaller));
     ASSERT_EQ(UninstallProduct(), ExitCode::Done);
-    EXPECT_TRUE(GoesWithProduct(files, kMain + "\\QNXUNIN2.LOG", uninstaller));
-    EXPECT_FALSE(GoesWithProduct(files, "D:\\Kopia\\QNXUNIN2.LOG", uninstaller))
+    EXPECT_TRUE(IsUninstallerRemovedWith(files, kMain + "\\QNXUNIN2.LOG", uninstaller));
+    EXPECT_FALSE(IsUninstallerRemovedWith(files, "D:\\Kopia\\QNXUNIN2.LOG", uninstaller))
         << "another folder's";
     EXPECT_TRUE(memory.files.FileExists(kMain + "\\QNXUNIN.EXE"));
     EXPECT_FALSE(memory.files.FileExists(kMain + "\\QNXUNIN.LOG"));
@@ -433,7 +433,7 @@ TEST_F(UninstallTest, BelievesOnlyALogBesideTheProgram)
     EXPECT_FALSE(IsInSameFolder(files, "C:\\Annan\\QNXUNIN.LOG", program));
     EXPECT_FALSE(IsInSameFolder(files, kMain + "\\annat.txt", program));
     EXPECT_FALSE(IsInSameFolder(files, "", program));
-    EXPECT_FALSE(IsBelievable(files, target, "C:\\Annan\\QNXUNIN.LOG", program));
+    EXPECT_FALSE(IsTrusted(files, target, "C:\\Annan\\QNXUNIN.LOG", program));
 }
 
 // A disk from which a lesser user has removed the product's log, to lay one of their own there.
@@ -442,12 +442,12 @@ TEST_F(UninstallTest, BelievesNoLogOfSomebodyElse)
     ASSERT_EQ(Install(), ExitCode::Done);
     const Text log = kMain + "\\QNXUNIN.LOG";
     const Text program = kMain + "\\QNXUNIN.EXE";
-    EXPECT_TRUE(IsBelievable(files, target, log, program));
+    EXPECT_TRUE(IsTrusted(files, target, log, program));
     target.ofOthers.insert(log);
-    EXPECT_FALSE(IsBelievable(files, target, log, program));
+    EXPECT_FALSE(IsTrusted(files, target, log, program));
     // Who has made the program too has installed the product.
     target.ofOthers.insert(program);
-    EXPECT_TRUE(IsBelievable(files, target, log, program));
+    EXPECT_TRUE(IsTrusted(files, target, log, program));
 }
 
 TEST_F(UninstallTest, GoesOnBehindNoLogOfSomebodyElse)

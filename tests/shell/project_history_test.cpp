@@ -33,7 +33,7 @@ protected:
     void Save()
     {
         state.ProjectIsDirty = kOff;
-        history.Absorb(kAll);
+        history.MergeIntoLastStep(kAll);
     }
     std::vector<Text> Names() const { return NamesOf(project.Files); }
     Text UndoName() const { return history.UndoName() ? *history.UndoName() : "-"; }
@@ -134,7 +134,7 @@ TEST_F(History, MakesWhatIsAbsorbedAPartOfTheStepBefore)
 {
     Add("a");
     project.ProgramGroup.ProgramGroup = "Filled in by saving";
-    history.Absorb(kAll);
+    history.MergeIntoLastStep(kAll);
     EXPECT_EQ(UndoName(), "Addera a");
     history.Undo();
     EXPECT_EQ(project.ProgramGroup.ProgramGroup, "");
@@ -190,7 +190,7 @@ TEST_F(History, CountsEveryChange)
     EXPECT_NE(history.Revision(), added);
     const auto undone = history.Revision();
     project.Media.TargetMedia = 4;
-    history.Absorb(Changed::Settings);
+    history.MergeIntoLastStep(Changed::Settings);
     EXPECT_NE(history.Revision(), undone);
 }
 

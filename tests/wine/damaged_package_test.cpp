@@ -5,6 +5,7 @@
 #include "wine/registry_text.h"
 
 #include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
 
 #include <random>
 
@@ -14,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr unsigned kRefused = 20001;
+constexpr unsigned kFailed = 1603;
 
 class DamagedPackage : public testing::Test {
 protected:
@@ -82,6 +84,35 @@ TEST_F(DamagedPackage, IsRefusedWithoutALibraryOrASetup)
         WriteBytes(package / file, whole);
     }
     EXPECT_FALSE(IsInstalled());
+}
+
+TEST_F(DamagedPackage, IsToldInTheResultByAStarterToo)
+{
+    fs::remove(package / "QNS32X.BIN");
+    const fs::path file = prefix.Folder() / "resultat av körningen.json";
+    EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "-q /result=\"" + OnZ(file) + '"'), kRefused);
+    const auto record = nlohmann::json::parse(ReadBytes(file));
+    EXPECT_EQ(record["action"], "result");
+    EXPECT_EQ(record["result"], "damaged package");
+    EXPECT_EQ(record["code"], kRefused);
+    EXPECT_EQ(record["restart"], false);
+    EXPECT_EQ(record["error"],
+              "Installationen kan inte startas. Filen 'QNS32X.BIN' saknas eller är skadad.");
+    EXPECT_THAT(record["time"], testing::ContainsRegex("^20..-..-..T..:..:..$"));
+}
+
+TEST_F(DamagedPackage, IsToldInTheResultByAnUninstallerToo)
+{
+    ASSERT_EQ(Install(), 0U);
+    const fs::path folder = prefix.OnHost("C:\\Program Files\\Hej");
+    fs::remove(folder / "QNS32X.BIN");
+    EXPECT_EQ(prefix.Run("C:\\Program Files\\Hej\\QNXUNIN.EXE",
+                         R"(/S "/RESULT=C:\slut.json")"),
+              kFailed);
+    const auto record = nlohmann::json::parse(ReadBytes(prefix.DriveC() / "slut.json"));
+    EXPECT_EQ(record["result"], "failed");
+    EXPECT_EQ(record["code"], kFailed);
+    EXPECT_TRUE(IsInstalled());
 }
 
 TEST_F(DamagedPackage, IsRefusedWhereCreateWasNotFinished)

@@ -233,20 +233,20 @@ QWidget* DlgInstallOptions::SignTab()
 }
 
 QPushButton* DlgInstallOptions::BrowseButton(QPushButton*& member, const char* name,
-                                             const Text& caption, QLineEdit*& field, int longest,
+                                             const Text& caption, QLineEdit*& field, int maxLength,
                                              const FileQuestion& question)
 {
-    QPushButton* button = Button(member, name, caption, [this, &field, longest, question] {
-        Browse(*field, longest, question);
+    QPushButton* button = Button(member, name, caption, [this, &field, maxLength, question] {
+        Browse(*field, maxLength, question);
     });
     button->setAccessibleName(ToQt(question.title));
     return button;
 }
 
-void DlgInstallOptions::Browse(QLineEdit& field, int longest, const FileQuestion& question)
+void DlgInstallOptions::Browse(QLineEdit& field, int maxLength, const FileQuestion& question)
 {
     Text folder = "C:\\";
-    if (const auto path = ChooseKeptPath(question, folder, longest, kFile, session_.ask))
+    if (const auto path = ChooseKeptPath(question, folder, maxLength, kFile, session_.ask))
         field.setText(ToQt(*path));
 }
 

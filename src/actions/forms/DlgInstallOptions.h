@@ -61,8 +61,8 @@ private:
     void MakeRestartOptions();
     QCheckBox* CheckText(QCheckBox*& member, const char* name, const Text& caption, Text& value);
     QPushButton* BrowseButton(QPushButton*& member, const char* name, const Text& caption,
-                              QLineEdit*& field, int longest, const FileQuestion& question);
-    void Browse(QLineEdit& field, int longest, const FileQuestion& question);
+                              QLineEdit*& field, int maxLength, const FileQuestion& question);
+    void Browse(QLineEdit& field, int maxLength, const FileQuestion& question);
 
     section::InstallOptions ShownUninstall() const;
     void ShowUninstall(const section::InstallOptions& options);

@@ -8,7 +8,7 @@ namespace quillon {
 
 class RegistryKeyForm : public Form {
 public:
-    // After OK.
+    // The chosen line, valid once OK was pressed.
     Text Line;
 
     QComboBox* ComboHKEY = nullptr;

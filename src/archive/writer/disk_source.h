@@ -19,7 +19,7 @@ public:
     virtual bool FirstDiskAgain() { return true; }
     /// Bytes of the first disk to leave for what is written after the pieces of an archive of this
     /// size.
-    virtual std::uint64_t RoomToLeave(std::uint64_t) const { return 0; }
+    virtual std::uint64_t ReservedBytes(std::uint64_t) const { return 0; }
     /// Bytes that the disk in this folder can still take.
     virtual std::uint64_t Capacity(const Text& folder) const = 0;
 };

@@ -19,10 +19,10 @@
 namespace quillon {
 
 /// How many threads to start: `wanted`, or as many as the machine has where that is 0, at least one
-/// and at most `most`.
-inline unsigned ThreadCount(unsigned wanted, unsigned most)
+/// and at max `max`.
+inline unsigned ThreadCount(unsigned wanted, unsigned max)
 {
-    return std::clamp(wanted > 0 ? wanted : std::thread::hardware_concurrency(), 1U, most);
+    return std::clamp(wanted > 0 ? wanted : std::thread::hardware_concurrency(), 1U, max);
 }
 
 /// `Worker` is made once for each thread, by copying nothing: `make()` runs in the thread itself.

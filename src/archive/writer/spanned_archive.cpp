@@ -30,7 +30,7 @@ public:
 
     void Run(Integer& disksUsed, std::vector<Sha256Digest>& digests)
     {
-        WritePiece(disksUsed, digests, disks_.RoomToLeave(left_));
+        WritePiece(disksUsed, digests, disks_.ReservedBytes(left_));
         while (left_ > 0) {
             if (disksUsed == std::numeric_limits<Integer>::max())
                 throw NoDisk{CompressionResult::kDiskFull, PiecePath()};
@@ -50,11 +50,11 @@ private:
             if (!folder)
                 throw NoDisk{CompressionResult::kCancelled};
             folder_ = *folder;
-        } while (EqualIgnoreCase(PiecePath(), pieceBefore) && HoldsThePieceBefore());
+        } while (EqualIgnoreCase(PiecePath(), pieceBefore) && IsPreviousDisk());
     }
 
     // A disk that nobody changed would lose the piece that was just written to it.
-    bool HoldsThePieceBefore() const
+    bool IsPreviousDisk() const
     {
         if (!files_.FileExists(PiecePath()))
             return false;

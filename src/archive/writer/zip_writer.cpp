@@ -93,7 +93,7 @@ private:
     std::vector<FileStatus> status_;
     std::uint64_t total_ = 0;
     std::uint64_t done_ = 0;
-    std::uint64_t onTheWay_ = 0;
+    std::uint64_t inFlight_ = 0;
     std::deque<Pending> pending_;
     // Of sources that are cut, in their order.
     std::deque<EncryptionState> encryptions_;
@@ -229,9 +229,9 @@ void ZipWriting::SubmitSource(std::size_t source)
 void ZipWriting::Submit(std::size_t source, const SourceBlock& block)
 {
     const std::uint64_t cost = block.length + kBlockOverhead;
-    while (!pending_.empty() && onTheWay_ + cost > kMaxInFlight)
+    while (!pending_.empty() && inFlight_ + cost > kMaxInFlight)
         WriteOldest();
-    onTheWay_ += cost;
+    inFlight_ += cost;
     pending_.push_back({source, block});
     workers_.Submit(block);
 }
@@ -282,7 +282,7 @@ void ZipWriting::WriteOldest()
 {
     const Pending pending = pending_.front();
     pending_.pop_front();
-    onTheWay_ -= pending.block.length + kBlockOverhead;
+    inFlight_ -= pending.block.length + kBlockOverhead;
     Yield();
     PackedBlock packed = workers_.Next(watch_.onYield);
     if (!RepeatsWritten(pending, packed)) {

@@ -272,7 +272,7 @@ void DlgCreate::StartCreate()
         TellNoRoomFor(folder);
         return;
     }
-    if (const Text reason = WhyNotMade(form_); !reason.empty()) {
+    if (const Text reason = CreateObstacle(form_); !reason.empty()) {
         session_.ask.Inform("Kan ej skapa", reason);
         return;
     }

@@ -8,7 +8,7 @@ namespace quillon {
 namespace {
 
 // A folder, since the files of folders are not packed.
-constexpr const char* kAsideFolder = "PROGRAM.OLD";
+constexpr const char* kOlderProgramFolder = "PROGRAM.OLD";
 
 struct OlderProgram {
     Text path;
@@ -22,13 +22,13 @@ std::optional<OlderProgram> OlderProgramOf(const CreateRun& run)
     const Text& name = run.project.InstallOptionsInternet.SelfExtractFilename;
     if (run.form.TargetMedia != Medium::Internet || name.empty() || ExtractFilename(name) != name)
         return std::nullopt;
-    const Text folder = JoinPath(run.DestDir, kAsideFolder);
+    const Text folder = JoinPath(run.DestDir, kOlderProgramFolder);
     return OlderProgram{JoinPath(run.DestDir, name), folder, JoinPath(folder, name)};
 }
 
 } // namespace
 
-void PutOlderProgramAside(CreateRun& run)
+void MoveOlderProgramAside(CreateRun& run)
 {
     FileSystem& files = run.host.files;
     const auto older = OlderProgramOf(run);
@@ -43,7 +43,7 @@ void PutOlderProgramAside(CreateRun& run)
     RemoveQuietly(files, older->path);
 }
 
-void SettleOlderProgram(CreateRun& run)
+void RemoveOrRestoreOlderProgram(CreateRun& run)
 {
     FileSystem& files = run.host.files;
     const auto older = OlderProgramOf(run);

@@ -7,11 +7,12 @@
 
 namespace quillon {
 
-/// A program that cannot be put aside is deleted, since it would be packed into the new one
+/// A program that cannot be moved aside is deleted, since it would be packed into the new one
 /// otherwise; a failure of that is passed over.
-void PutOlderProgramAside(CreateRun& run);
+void MoveOlderProgramAside(CreateRun& run);
 
-/// At the end of a run, however it went. What a killed run has put aside is settled by the next.
-void SettleOlderProgram(CreateRun& run);
+/// At the end of a run, however it went. What a killed run has moved aside is removed or restored
+/// by the next one.
+void RemoveOrRestoreOlderProgram(CreateRun& run);
 
 } // namespace quillon

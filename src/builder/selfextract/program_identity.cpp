@@ -1,5 +1,6 @@
 #include "builder/selfextract/program_identity.h"
 
+#include "builder/selfextract/little_endian.h"
 #include "helpers/utf16.h"
 
 #include <array>
@@ -8,12 +9,6 @@
 namespace quillon {
 
 namespace {
-
-void Append(std::string& bytes, std::uint32_t number, int size)
-{
-    for (int i = 0; i < size; ++i)
-        bytes += static_cast<char>(number >> (8 * i) & 0xFFU);
-}
 
 void Align(std::string& bytes)
 {
@@ -27,9 +22,9 @@ std::string Block(const Text& name, Holds kind, const std::string& value, std::s
                   const std::string& parts = {})
 {
     std::string block;
-    Append(block, 0, 2);
-    Append(block, static_cast<std::uint32_t>(valueLength), 2);
-    Append(block, static_cast<std::uint32_t>(kind), 2);
+    AppendNumber(block, 0, 2);
+    AppendNumber(block, static_cast<std::uint32_t>(valueLength), 2);
+    AppendNumber(block, static_cast<std::uint32_t>(kind), 2);
     block += ToUtf16(name) + std::string(2, '\0');
     Align(block);
     block += value;
@@ -83,7 +78,7 @@ std::string FixedNumbers(const ProgramIdentity& identity)
     std::string fixed;
     for (const std::uint32_t number : {kMark, kStructure, high, low, high, low, kFlagMask, 0U,
                                        kWindows, kApplication, 0U, 0U, 0U})
-        Append(fixed, number, 4);
+        AppendNumber(fixed, number, 4);
     return fixed;
 }
 
@@ -132,8 +127,8 @@ std::string VersionResource(const ProgramIdentity& identity)
     std::string parts = Block("StringFileInfo", Holds::Text, {}, 0, table);
     Align(parts);
     std::string translation;
-    Append(translation, 0, 2);
-    Append(translation, 1200, 2);
+    AppendNumber(translation, 0, 2);
+    AppendNumber(translation, 1200, 2);
     parts += Block("VarFileInfo", Holds::Text, {}, 0,
                    Block("Translation", Holds::Binary, translation, translation.size()));
     const std::string fixed = FixedNumbers(identity);

@@ -1,5 +1,6 @@
 #include "builder/selfextract/program_resources.h"
 
+#include "builder/selfextract/little_endian.h"
 #include "helpers/program_headers.h"
 
 #include <algorithm>
@@ -16,12 +17,6 @@ constexpr std::uint32_t kIsFolder = 0x80000000;
 std::uint32_t Aligned(std::uint32_t position, std::uint32_t alignment)
 {
     return (position + alignment - 1) / alignment * alignment;
-}
-
-void Append(std::string& bytes, std::uint32_t number, int size)
-{
-    for (int i = 0; i < size; ++i)
-        bytes += static_cast<char>(number >> (8 * i) & 0xFFU);
 }
 
 void Set(std::string& bytes, std::size_t position, std::uint32_t number, std::size_t size)
@@ -77,14 +72,14 @@ private:
     void PutFolder(std::size_t entries)
     {
         bytes_.append(12, '\0');
-        Append(bytes_, 0, 2); // named entries
-        Append(bytes_, static_cast<std::uint32_t>(entries), 2);
+        AppendNumber(bytes_, 0, 2); // named entries
+        AppendNumber(bytes_, static_cast<std::uint32_t>(entries), 2);
     }
 
     void PutEntry(std::uint32_t id, std::size_t place, bool isFolder)
     {
-        Append(bytes_, id, 4);
-        Append(bytes_, static_cast<std::uint32_t>(place) | (isFolder ? kIsFolder : 0U), 4);
+        AppendNumber(bytes_, id, 4);
+        AppendNumber(bytes_, static_cast<std::uint32_t>(place) | (isFolder ? kIsFolder : 0U), 4);
     }
 
     void PutFolders(const std::vector<std::uint16_t>& types)
@@ -117,10 +112,10 @@ private:
         std::uint32_t place = Aligned(static_cast<std::uint32_t>(data_), kDataAlignment);
         for (const ProgramResource& resource : resources_) {
             const auto size = static_cast<std::uint32_t>(resource.bytes.size());
-            Append(bytes_, address_ + place, 4);
-            Append(bytes_, size, 4);
-            Append(bytes_, 0, 4);
-            Append(bytes_, 0, 4);
+            AppendNumber(bytes_, address_ + place, 4);
+            AppendNumber(bytes_, size, 4);
+            AppendNumber(bytes_, 0, 4);
+            AppendNumber(bytes_, 0, 4);
             place = Aligned(place + size, kDataAlignment);
         }
         for (const ProgramResource& resource : resources_) {
@@ -260,7 +255,7 @@ std::optional<std::vector<ProgramResource>> IconResources(std::string_view file)
         resources.push_back({ResourceType::kIcon, id, std::string(picture)});
         // The same entry, with the picture's number in the place of its position.
         group += entry.substr(0, 12);
-        Append(group, id, 2);
+        AppendNumber(group, id, 2);
     }
     resources.push_back({ResourceType::kGroupIcon, 1, group});
     return resources;

@@ -19,8 +19,6 @@ namespace Attribute = SelfExtractAttribute;
 namespace {
 
 constexpr const char* kDefaultName = "SELF.EXE";
-constexpr const char* kArchiveName = "INSTALL.ZIP";
-constexpr const char* kProjectName = "INSTALL.ADX";
 constexpr const char* kStandardIconName = "SelfExtract.ico";
 constexpr const char* kTempFolderDirective = "<WinTemp>";
 constexpr const char* kProgramFolderDirective = "<Exe>";
@@ -176,7 +174,7 @@ SelfExtractInput InputOf(const CreateRun& run)
     });
     const Text languageFile = DecodedText(bytes);
     return {.run = run,
-            .archive = run.InDestination(kArchiveName),
+            .archive = run.InDestination(kSelfExtractArchive),
             .result = run.InDestination(run.project.InstallOptionsInternet.SelfExtractFilename),
             .message = MessageOf(languageFile),
             .texts = SectionOfTexts(languageFile)};
@@ -218,7 +216,7 @@ void RemovePackedFiles(CreateRun& run)
     run.ask.AddStatusLine("Raderar temporära filer");
     const Project& project = run.project;
     for (const Text& name :
-         {Text(kArchiveName), Text(kProjectName), project.InstallOptions.SetupName,
+         {Text(kSelfExtractArchive), Text(kSelfExtractProject), project.InstallOptions.SetupName,
           Text(kSetupInformationName), Text(kFileListName), project.Language.LanguageFile,
           Text(RuntimePrograms::kUnzipLibrary.inPackage), Text(kFileContainerName),
           Text(kDesignContainerName), Text(RuntimePrograms::kSetup.inPackage), Text("QNXREG.BIN"),
@@ -240,12 +238,12 @@ bool BuildSelfExtractingFile(CreateRun& run)
     if (name.empty())
         name = kDefaultName;
     run.ask.AddStatusLine("Skapar " + UpperCase(name) + " (självuppackande installationsprogram)");
-    const Text project = run.InDestination(kProjectName);
+    const Text project = run.InDestination(kSelfExtractProject);
     const SelfExtractInput input = InputOf(run);
     for (const Text& path : {input.archive, project})
         RemoveQuietly(run.host.files, path);
     // Where the name was empty until now.
-    PutOlderProgramAside(run);
+    MoveOlderProgramAside(run);
 
     ActiveDelivery delivery(run.host, run.ask,
                             run.options.ToolFolder + "\\Release\\" +

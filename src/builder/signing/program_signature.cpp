@@ -78,7 +78,7 @@ ProgramSignature ReadProgramSignature(InputFile& program, const Text& trustedRoo
         return Damaged("signaturen är skadad");
     const std::string_view signature =
         std::string_view(table).substr(kCertificateHeader, length - kCertificateHeader);
-    static_cast<SignatureFacts&>(found) =
+    static_cast<SignatureInfo&>(found) =
         ReadSignatureData(std::as_bytes(std::span(signature)),
                           DigestWithoutSignature(program, *fields), trustedRoots);
     found.state = ProgramSignature::State::Signed;

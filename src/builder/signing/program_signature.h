@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-struct ProgramSignature : SignatureFacts {
+struct ProgramSignature : SignatureInfo {
     enum class State { NoProgram, Unsigned, Signed };
     State state = State::NoProgram;
 };

@@ -91,8 +91,8 @@ Signing::~Signing() = default;
 
 bool SignsPrograms(const CreateRun& run)
 {
-    if (run.signing && run.signing->choices.wish != SigningChoices::Wish::OfProject)
-        return run.signing->choices.wish == SigningChoices::Wish::Sign;
+    if (run.signing && run.signing->choices.wish != SigningChoices::SigningMode::OfProject)
+        return run.signing->choices.wish == SigningChoices::SigningMode::Sign;
     return run.project.Sign.SignSelfExtractFile != kOff;
 }
 

@@ -1,5 +1,6 @@
 #include "builder/signing/signing_key.h"
 
+#include "helpers/hex.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 
@@ -35,21 +36,14 @@ std::string_view QueryOf(std::string_view address)
     return mark == std::string_view::npos ? std::string_view() : address.substr(mark + 1);
 }
 
-int DigitOf(char digit)
-{
-    const std::size_t value = std::string_view("0123456789abcdef").find(LowerCase(Text(1, digit)));
-    return value == std::string_view::npos ? -1 : static_cast<int>(value);
-}
-
 Text WithoutPercents(std::string_view text)
 {
     Text plain;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isCoded = text[i] == '%' && i + 2 < text.size() && DigitOf(text[i + 1]) >= 0 &&
-                             DigitOf(text[i + 2]) >= 0;
-        plain +=
-            isCoded ? static_cast<char>(DigitOf(text[i + 1]) * 16 + DigitOf(text[i + 2])) : text[i];
-        i += isCoded ? 2 : 0;
+        const bool canBeCoded = text[i] == '%' && i + 2 < text.size();
+        const int byte = canBeCoded ? HexByteValue(text[i + 1], text[i + 2]) : -1;
+        plain += byte >= 0 ? static_cast<char>(byte) : text[i];
+        i += byte >= 0 ? 2 : 0;
     }
     return plain;
 }

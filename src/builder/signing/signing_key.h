@@ -11,8 +11,8 @@ namespace quillon {
 
 /// What is said about signing beside the project. An empty text leaves the project's own.
 struct SigningChoices {
-    enum class Wish { OfProject, Sign, DoNotSign };
-    Wish wish = Wish::OfProject;
+    enum class SigningMode { OfProject, Sign, DoNotSign };
+    SigningMode wish = SigningMode::OfProject;
     Text certificate;
     Text key;
     Text module; // the library of a token

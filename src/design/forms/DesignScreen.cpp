@@ -188,7 +188,7 @@ void DesignScreen::DrawDesPictures()
     if (failure)
         TellPictureError(PictureStep::Pictures, *failure);
     else
-        told_.erase(PictureStep::Pictures);
+        reported_.erase(PictureStep::Pictures);
     ShowPictures();
 }
 
@@ -235,8 +235,8 @@ void DesignScreen::DrawDesLogotype()
     if (failure)
         TellPictureError(PictureStep::Logotype, *failure);
     else if (!logotypeBox_.isTooLarge)
-        told_.erase(PictureStep::Logotype);
-    else if (MayTell(PictureStep::Logotype, record.LogotypeFilename))
+        reported_.erase(PictureStep::Logotype);
+    else if (IsUnreported(PictureStep::Logotype, record.LogotypeFilename))
         TellLogotypeTooLarge(session_.ask);
     DesignObject& object = Of(Object::Logotype);
     object.setAccessibleDescription(ToQt(record.LogotypeFilename));

@@ -39,9 +39,9 @@ public:
 
     enum class PictureStep { Background, Pictures, Logotype };
     /// The next time that step tells again what it can't show: the user has set it anew.
-    void TellAgain(PictureStep step) { told_.erase(step); }
+    void ReportAgain(PictureStep step) { reported_.erase(step); }
     /// The same of all steps: the project is another one, or was read again.
-    void TellAllAgain() { told_.clear(); }
+    void ReportAllAgain() { reported_.clear(); }
 
     /// Shows a font of the text box that was chosen, and lays nothing out.
     void RepaintDesTextBox() { Of(Object::TextBox).update(); }
@@ -82,7 +82,7 @@ private:
     /// No more of the picture than fills a place of the surface.
     void KeepOnlyIn(const SurfacePlace& place, ScalablePicture& picture) const;
     /// Whether the step has not reported that file yet.
-    bool MayTell(PictureStep step, const Text& file);
+    bool IsUnreported(PictureStep step, const Text& file);
     void TellPictureError(PictureStep step, const RunError& error);
     void ShowDragRect(const std::optional<DragRect>& rect);
 
@@ -103,7 +103,7 @@ private:
     LogotypeBox logotypeBox_;
     QLabel* Label_DesRTFboxPic_ = nullptr;
     // The file that each step reported last: steps are drawn again and again.
-    std::map<PictureStep, Text> told_;
+    std::map<PictureStep, Text> reported_;
     DragRectFrame* dragRect_ = nullptr;
 };
 

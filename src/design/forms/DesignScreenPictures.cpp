@@ -18,7 +18,7 @@ ScalablePicture DesignScreen::ReadBackground()
     ScalablePicture picture;
     try {
         MeasureAndKeep(session_.project.DesBackground.PictureFilename, picture);
-        told_.erase(PictureStep::Background);
+        reported_.erase(PictureStep::Background);
     } catch (const RunError& error) {
         TellPictureError(PictureStep::Background, error);
         paint_.UsePicture = false;
@@ -91,9 +91,9 @@ std::int64_t DesignScreen::PicturesMemory() const
     return memory;
 }
 
-bool DesignScreen::MayTell(PictureStep step, const Text& file)
+bool DesignScreen::IsUnreported(PictureStep step, const Text& file)
 {
-    return std::exchange(told_[step], file) != file;
+    return std::exchange(reported_[step], file) != file;
 }
 
 void DesignScreen::TellPictureError(PictureStep step, const RunError& error)
@@ -101,8 +101,8 @@ void DesignScreen::TellPictureError(PictureStep step, const RunError& error)
     // Of a file that is missing nothing is said; once it is there again, it is reported as any
     // other.
     if (error.Number() == ErrorNumber::kFileNotFound)
-        told_.erase(step);
-    else if (MayTell(step, error.Path()))
+        reported_.erase(step);
+    else if (IsUnreported(step, error.Path()))
         ShowErrorBoxIfPictureError(session_.ask, error.Number());
 }
 

@@ -26,7 +26,7 @@ bool Edited(DesignScreen& screen)
 }
 
 // The box may hang below the title.
-void DrawWhatHangsOnTheTitle(DesignScreen& screen)
+void RedrawTextBoxBelowTitle(DesignScreen& screen)
 {
     if (screen.GetSession().project.DesTextBox.ShowTextBox != kOff)
         screen.DrawDesTextBox();
@@ -66,7 +66,7 @@ void EditDesBackground(DesignScreen& screen)
 {
     if (!Edited<DlgDesBackground>(screen))
         return;
-    screen.TellAgain(DesignScreen::PictureStep::Background);
+    screen.ReportAgain(DesignScreen::PictureStep::Background);
     screen.DrawDesLogotypeBackColor();
     screen.DrawDesBackground();
     screen.DrawDesTitle();
@@ -79,7 +79,7 @@ void EditDesTitle(DesignScreen& screen)
     screen.DrawDesBackground();
     screen.DrawDesTitle();
     screen.GetSession().ask.ProcessEvents();
-    DrawWhatHangsOnTheTitle(screen);
+    RedrawTextBoxBelowTitle(screen);
 }
 
 void EditDesUnderline(DesignScreen& screen)
@@ -88,7 +88,7 @@ void EditDesUnderline(DesignScreen& screen)
         return;
     screen.DrawDesBackground();
     screen.DrawDesTitle();
-    DrawWhatHangsOnTheTitle(screen);
+    RedrawTextBoxBelowTitle(screen);
 }
 
 void EditDesTextBox(DesignScreen& screen)
@@ -109,7 +109,7 @@ void EditDesPictures(DesignScreen& screen, std::size_t index)
 {
     if (!DlgDesPictures(index, screen.GetSession(), screen.window()).ShowModal())
         return;
-    screen.TellAgain(DesignScreen::PictureStep::Pictures);
+    screen.ReportAgain(DesignScreen::PictureStep::Pictures);
     screen.DrawDesPictures();
 }
 
@@ -123,7 +123,7 @@ void EditDesLogotype(DesignScreen& screen)
 {
     if (!Edited<DlgDesLogotype>(screen))
         return;
-    screen.TellAgain(DesignScreen::PictureStep::Logotype);
+    screen.ReportAgain(DesignScreen::PictureStep::Logotype);
     screen.DrawDesLogotype();
 }
 

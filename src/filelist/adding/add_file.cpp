@@ -4,7 +4,7 @@
 #include "filelist/adding/file_version.h"
 #include "filelist/adding/system_files.h"
 #include "filelist/options/row_options.h"
-#include "filelist/row_facts.h"
+#include "filelist/row_status.h"
 #include "filelist/row_text.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"

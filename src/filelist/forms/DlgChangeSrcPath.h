@@ -9,7 +9,7 @@ class DlgChangeSrcPath : public EditorForm {
 public:
     DlgChangeSrcPath(const Text& source, Session& session, QWidget* parent);
 
-    // After OK.
+    // The chosen source, valid once OK was pressed.
     Text Source;
     bool Accepted() const { return OK; }
 

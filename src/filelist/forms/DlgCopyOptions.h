@@ -10,7 +10,7 @@ class DlgCopyOptions : public Form {
 public:
     DlgCopyOptions(const CopyOptionTicks& ticks, QWidget* parent);
 
-    // After OK.
+    // The chosen letters, valid once OK was pressed.
     Text Letters;
 
 protected:

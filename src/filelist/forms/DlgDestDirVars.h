@@ -11,7 +11,7 @@ class DlgDestDirVars : public Form {
 public:
     explicit DlgDestDirVars(QWidget* parent);
 
-    // After OK.
+    // The chosen variable, valid once OK was pressed.
     Text Variable;
 
     QListWidget* lbVariables = nullptr;

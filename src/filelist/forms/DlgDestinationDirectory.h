@@ -12,7 +12,7 @@ class DlgDestinationDirectory : public Form {
 public:
     DlgDestinationDirectory(const DestinationQuestion& question, Session& session, QWidget* parent);
 
-    // After OK.
+    // The chosen destination, valid once OK was pressed.
     Text Destination;
     bool Accepted() const { return OK; }
 

@@ -11,7 +11,7 @@ public:
     /// `findThis` is proposed to look for.
     DlgFindReplaceData(ReplaceIn where, const Text& findThis, Session& session, QWidget* parent);
 
-    // After OK.
+    // The chosen texts, valid once OK was pressed.
     Replacement Data;
     bool Accepted() const { return OK; }
 

@@ -10,7 +10,7 @@ class DlgIconOptions : public Form {
 public:
     DlgIconOptions(const IconPlaces& places, QWidget* parent);
 
-    // After OK.
+    // The chosen places, valid once OK was pressed.
     IconPlaces Places;
 
     QCheckBox* cIconOnDesktop = nullptr;

@@ -12,7 +12,7 @@ class DlgSortList : public Form {
 public:
     DlgSortList(const Project& project, QWidget* parent);
 
-    // After OK.
+    // The chosen column, valid once OK was pressed.
     Column Key = Filename;
     bool Accepted() const { return OK; }
 

@@ -89,7 +89,7 @@ bool RecursiveCollect::Collect(FileAdding& adding)
 {
     try {
         AddTree(adding, work_.host.files, tree_,
-                {.enteredFolder = [this] { LetWindowLive(); }, .sawFile = [this] { CountFile(); }});
+                {.enteredFolder = [this] { ProcessEvents(); }, .sawFile = [this] { CountFile(); }});
         sSearchStatus->setText("Klar!");
         cmdClose->setDefault(true);
         cmdClose->setFocus();
@@ -105,10 +105,10 @@ void RecursiveCollect::CountFile()
 {
     ++seen_;
     if (seen_ % kFilesBetweenLooks == 0)
-        LetWindowLive();
+        ProcessEvents();
 }
 
-void RecursiveCollect::LetWindowLive()
+void RecursiveCollect::ProcessEvents()
 {
     sNumberFiles->setText(QString::number(seen_));
     // Closing does not stop the walk, but without this window in front the user could reach the

@@ -32,7 +32,7 @@ private:
     bool Collect(FileAdding& adding);
     Text Summary(std::int64_t milliseconds, const std::optional<Long>& sizeBefore) const;
     void CountFile();
-    void LetWindowLive();
+    void ProcessEvents();
 
     const ListWork work_;
     TreeToAdd tree_;

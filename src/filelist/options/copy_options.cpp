@@ -1,13 +1,12 @@
 #include "filelist/options/copy_options.h"
 
+#include "formats/copy_letters.h"
+
 #include <algorithm>
 
 namespace quillon {
 
 namespace {
-
-constexpr char kCompareVersion = 'V';
-constexpr char kNoCopyIfEqual = 'E';
 
 CopyOptionTicks TicksOf(std::string_view letters)
 {
@@ -38,7 +37,8 @@ Text CopyOptionLetters(const CopyOptionTicks& ticks)
     for (std::size_t box = 0; box < ticks.size(); ++box) {
         const char letter = kCopyOptions[box].letter;
         // The comparison precedes what depends on it.
-        const bool counts = letter != kNoCopyIfEqual || letters.find(kCompareVersion) != Text::npos;
+        const bool counts = letter != CopyLetter::kNotIfEqualVersion ||
+                            HasOption(letters, CopyLetter::kVersionCheck);
         if (ticks[box] && counts)
             letters += letter;
     }

@@ -1,6 +1,7 @@
 #include "filelist/options/file_info.h"
 
 #include "filelist/adding/file_version.h"
+#include "formats/package_files.h"
 #include "helpers/number_text.h"
 #include "platform/run_error.h"
 
@@ -66,7 +67,7 @@ Text FileAttrText(const FileStatus& status)
 
 bool IsDataAccessPackage(const FileListRow& row)
 {
-    return EqualIgnoreCase(row[Filename], "MDAC_TYP.ZIP");
+    return EqualIgnoreCase(row[Filename], kDataAccessArchive);
 }
 
 } // namespace quillon

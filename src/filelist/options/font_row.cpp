@@ -1,12 +1,8 @@
 #include "filelist/options/font_row.h"
 
+#include "formats/copy_letters.h"
+
 namespace quillon {
-
-namespace {
-
-constexpr char kRegisterFont = 'F';
-
-} // namespace
 
 // Kept: the extension begins at the first dot, so `a.b.ttf` counts as no font.
 bool IsFontToRegister(const FileListRow& row, Ask& ask)
@@ -20,7 +16,7 @@ bool IsFontToRegister(const FileListRow& row, Ask& ask)
 
 RowFont FontOf(const FileListRow& row)
 {
-    if (row[CopyOptions].find(kRegisterFont) == Text::npos)
+    if (!HasOption(row[CopyOptions], CopyLetter::kFont))
         return {};
     return {.isRegistered = kOn, .description = row[IconDesc]};
 }

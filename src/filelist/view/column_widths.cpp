@@ -13,11 +13,6 @@ constexpr std::int64_t kNarrowest = 8;
 constexpr std::int64_t kMaxColumnWidth = 10000;
 constexpr std::int64_t kColumns = kColumnCount;
 
-bool IsNumber(std::string_view text)
-{
-    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
 void ReadOne(std::string_view word, ColumnWidths& widths)
 {
     const std::size_t colon = word.find(':');
@@ -25,7 +20,7 @@ void ReadOne(std::string_view word, ColumnWidths& widths)
         return;
     const std::string_view column = word.substr(0, colon);
     const std::string_view width = word.substr(colon + 1);
-    if (!IsNumber(column) || !IsNumber(width) || LeadingNumber(column) >= kColumns)
+    if (!IsDigits(column) || !IsDigits(width) || LeadingNumber(column) >= kColumns)
         return;
     const std::int64_t pixels = LeadingNumber(width);
     if (pixels >= kNarrowest && pixels <= kMaxColumnWidth)

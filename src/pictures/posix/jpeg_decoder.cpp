@@ -51,7 +51,7 @@ void LimitScans(j_common_ptr common)
 
 // Inks to light. Programs of one vendor store them the other way round and leave a note that they
 // do; all others that are met with follow them.
-void FromInks(const JSAMPLE* inks, int width, bool areInverted, Pixel* out)
+void PixelsFromCmyk(const JSAMPLE* inks, int width, bool areInverted, Pixel* out)
 {
     const auto light = [areInverted](unsigned ink) { return areInverted ? ink : 255 - ink; };
     for (int x = 0; x < width; ++x, inks += 4) {
@@ -73,7 +73,7 @@ void ReadLines(Decoding& decoding)
         if (jpeg_read_scanlines(&jpeg, &line, 1) != 1)
             Fail(reinterpret_cast<j_common_ptr>(&jpeg));
         if (areInks)
-            FromInks(line, width, jpeg.saw_Adobe_marker, row);
+            PixelsFromCmyk(line, width, jpeg.saw_Adobe_marker, row);
     }
 }
 

@@ -345,7 +345,7 @@ void PosixFiles::Replace(const Text& from, const Text& to)
     FlushFolderOf(to, real.get());
 }
 
-void PosixFiles::KeepUnder(const Text& path, const Text& second)
+void PosixFiles::LinkOrCopy(const Text& path, const Text& second)
 {
     const std::string hostPath = HostPath(drives_, path);
     const std::string target = HostPath(drives_, second);

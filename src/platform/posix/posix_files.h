@@ -27,7 +27,7 @@ public:
     void RemoveFolder(const Text& path) override;
     void Rename(const Text& from, const Text& to) override;
     void Replace(const Text& from, const Text& to) override;
-    void KeepUnder(const Text& path, const Text& second) override;
+    void LinkOrCopy(const Text& path, const Text& second) override;
     Text RealPath(const Text& path) const override;
     void SetModified(const Text& path, const LocalTime& time) override;
     void SetReadOnly(const Text& path, bool readOnly) override;

@@ -76,7 +76,7 @@ bool IsSignedBy(PKCS7* signedData, Bytes content)
     return PKCS7_verify(signedData, nullptr, nullptr, input.get(), nullptr, PKCS7_NOVERIFY) == 1;
 }
 
-void ReadTrust(PKCS7* signedData, X509* signer, const Text& trustedRoots, SignatureFacts& facts)
+void ReadTrust(PKCS7* signedData, X509* signer, const Text& trustedRoots, SignatureInfo& facts)
 {
     STACK_OF(X509)* others = signedData->d.sign->cert;
     const TimeStamp stamp = ReadTimeStamp(
@@ -90,7 +90,7 @@ void ReadTrust(PKCS7* signedData, X509* signer, const Text& trustedRoots, Signat
     facts.isTrusted = facts.fault.empty();
 }
 
-SignatureFacts Refused(Text fault)
+SignatureInfo Refused(Text fault)
 {
     ERR_clear_error();
     return {.fault = std::move(fault)};
@@ -98,8 +98,8 @@ SignatureFacts Refused(Text fault)
 
 } // namespace
 
-SignatureFacts ReadSignatureData(std::span<const std::byte> signature,
-                                 const Sha256Digest& programDigest, const Text& trustedRoots)
+SignatureInfo ReadSignatureData(std::span<const std::byte> signature,
+                                const Sha256Digest& programDigest, const Text& trustedRoots)
 {
     const auto* at = reinterpret_cast<const unsigned char*>(signature.data());
     const OwnedPkcs7 signedData(d2i_PKCS7(nullptr, &at, long(signature.size())));
@@ -115,7 +115,7 @@ SignatureFacts ReadSignatureData(std::span<const std::byte> signature,
     if (!signers || sk_X509_num(signers.get()) != 1)
         return Refused("signaturen saknar sitt certifikat");
 
-    SignatureFacts facts;
+    SignatureInfo facts;
     X509* signer = sk_X509_value(signers.get(), 0);
     facts.signer = NameIn(X509_get_subject_name(signer));
     facts.issuer = NameIn(X509_get_issuer_name(signer));

@@ -22,7 +22,8 @@ void ExpandTexts(Project& project, const SetupVariables& variables)
         *text = variables.Expand(*text);
 }
 
-// A test run names the file by its whole path: the tool's folder, one for such files, and a name.
+// A test run names the file by its absolute path: the tool's folder, one for such files, and a
+// name.
 Text ToolFolderOf(const Text& rtfFile)
 {
     return ExtractDirectory(ExtractDirectory(rtfFile));

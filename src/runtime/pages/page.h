@@ -60,7 +60,7 @@ enum class PieceKind {
     Paper,     // the same, to be read: on paper, in a frame
     RichPaper, // the same from RTF
     Entry,     // a line to type in, its label before it or above
-    Secret,    // the same, each letter shown as an asterisk
+    Password,  // the same, each letter shown as an asterisk
     List,      // one of several lines, below its label
     CheckList, // any of several lines, each with a second column
     Value,     // a label and what it tells
@@ -138,7 +138,7 @@ public:
     /// afterwards.
     virtual PageAction Show(SetupPage& page, const PageListener& listener) = 0;
     /// The pages are done with for now: something else shows what happens.
-    virtual void StepAside() = 0;
+    virtual void Hide() = 0;
 };
 
 } // namespace quillon

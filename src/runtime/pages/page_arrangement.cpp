@@ -26,7 +26,7 @@ bool Grows(PieceKind kind)
 
 bool HasLabelBefore(const PagePiece& piece)
 {
-    const bool isLine = piece.kind == PieceKind::Entry || piece.kind == PieceKind::Secret ||
+    const bool isLine = piece.kind == PieceKind::Entry || piece.kind == PieceKind::Password ||
                         piece.kind == PieceKind::Value;
     return isLine && !piece.isLabelAbove;
 }
@@ -83,7 +83,7 @@ private:
                        : std::min(ruler_.TextHeight(piece.text, right_ - left_, false),
                                   Down(piece.maxHeight));
         case PieceKind::Entry:
-        case PieceKind::Secret:
+        case PieceKind::Password:
             return Down(kEntryHeight);
         case PieceKind::Button:
             return Down(kButtonHeight);

@@ -30,7 +30,7 @@ PageAction PageChain::Show(PageView& view, SetupPage& page)
     return action;
 }
 
-PageChain::End PageChain::LeadThrough(PageView& view)
+PageChain::End PageChain::ShowPages(PageView& view)
 {
     const std::vector<PageKind> pages = PagesBefore(input_);
     for (std::size_t at = 0; at < pages.size();) {
@@ -51,7 +51,7 @@ PageChain::End PageChain::LeadThrough(PageView& view)
                 return End::Cancelled;
         }
     }
-    view.StepAside();
+    view.Hide();
     return End::Install;
 }
 

@@ -13,7 +13,7 @@ public:
 
     enum class End { Install, Cancelled };
     /// All pages before the installation. Cancel ends it once the user has confirmed that.
-    End LeadThrough(PageView& view);
+    End ShowPages(PageView& view);
     /// The page behind the installation, where the project has one.
     void ShowClosingPage(PageView& view);
 

@@ -140,7 +140,7 @@ private:
     void Password()
     {
         Paragraph(Shown(FirstLineOnly(data_.PasswordDialogText)));
-        AddLabelled(PieceKind::Secret, PageField::Password, Message::LabelPassword,
+        AddLabelled(PieceKind::Password, PageField::Password, Message::LabelPassword,
                     state_.typedPassword)
             .maxLength = LongestText(section::kDialogBoxData, &DialogBoxData::CorrectPassword);
         AddGap();

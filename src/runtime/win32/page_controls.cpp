@@ -151,8 +151,8 @@ HWND PageControls::AddField(const PagePiece& piece, const PlacedPiece& place)
     case PieceKind::RichPaper:
         return AddRichPaper(piece, place);
     case PieceKind::Entry:
-    case PieceKind::Secret: {
-        const DWORD secret = piece.kind == PieceKind::Secret ? ES_PASSWORD : 0;
+    case PieceKind::Password: {
+        const DWORD secret = piece.kind == PieceKind::Password ? ES_PASSWORD : 0;
         const HWND made = Add(L"EDIT", piece.text, ES_AUTOHSCROLL | WS_TABSTOP | secret,
                               place.field, id, WS_EX_CLIENTEDGE);
         SendMessageW(made, EM_LIMITTEXT, static_cast<WPARAM>(piece.maxLength), 0);
@@ -265,7 +265,7 @@ void PageControls::Read(SetupPage& page) const
         const HWND control = pieces_[i].control;
         switch (piece.kind) {
         case PieceKind::Entry:
-        case PieceKind::Secret:
+        case PieceKind::Password:
             piece.text = TextOf(control);
             break;
         case PieceKind::List:

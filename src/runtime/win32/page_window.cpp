@@ -219,7 +219,7 @@ void PageWindow::ShowBehind(bool isPageShown)
     behind_->Show();
 }
 
-void PageWindow::StepAside()
+void PageWindow::Hide()
 {
     ask_.SetOwner(nullptr);
     ShowWindow(window_, SW_HIDE);

@@ -28,7 +28,7 @@ public:
     PageWindow& operator=(const PageWindow&) = delete;
 
     PageAction Show(SetupPage& page, const PageListener& listener) override;
-    void StepAside() override;
+    void Hide() override;
 
 private:
     static INT_PTR CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data);

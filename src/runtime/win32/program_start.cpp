@@ -59,7 +59,7 @@ LONG WINAPI EndAtOnce(EXCEPTION_POINTERS* crash)
 
 } // namespace
 
-// With a whole path Windows looks for what the library needs beside it, not beside the program.
+// With an absolute path Windows looks for what the library needs beside it, not beside the program.
 HMODULE LoadFromSystemFolder(const char* name)
 {
     char path[MAX_PATH + kMaxNameLength];

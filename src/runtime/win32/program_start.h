@@ -12,11 +12,11 @@ namespace quillon {
 /// crash ends the program at once, with the exception's code.
 void StartProgram();
 
-/// The library of that name; null where the system has none. With its whole path, so that what it
-/// needs itself is looked for beside it.
+/// The library of that name; null where the system has none. With its absolute path, so that what
+/// it needs itself is looked for beside it.
 HMODULE LoadFromSystemFolder(const char* name);
 
-/// Loads from the system's folder, by its whole path, what Windows itself asks for by the name
+/// Loads from the system's folder, by its absolute path, what Windows itself asks for by the name
 /// alone while a program runs. Systems that can't be told where to look need it: those before
 /// Windows 8 without an update of 2011.
 void LoadCommonLibraries();

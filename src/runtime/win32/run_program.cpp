@@ -35,7 +35,7 @@ int RunProgramAndWait(const ProgramRun& run)
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = run.isHidden ? SW_HIDE : SW_SHOWNORMAL;
     PROCESS_INFORMATION process{};
-    // With its whole path, so that no other program of that name is found.
+    // With its absolute path, so that no other program of that name is found.
     if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE,
                         run.isHidden ? CREATE_NO_WINDOW : 0, nullptr,
                         Wide(ExtractDirectory(run.program)).c_str(), &startup, &process))

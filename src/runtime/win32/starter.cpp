@@ -1,6 +1,8 @@
 #include "runtime/win32/starter.h"
 
 #include "platform/win32/locked_folder.h"
+#include "runtime/result_names.h"
+#include "runtime/switch_words.h"
 
 #include <cwchar>
 
@@ -45,6 +47,55 @@ void LeaveCurrentFolder(Starter& starter)
 {
     if (GetWindowsDirectoryW(starter.scratch, kMaxPathLength) > 0)
         SetCurrentDirectoryW(starter.scratch);
+}
+
+// Into `starter.scratch`.
+void ComposeRefusal(Starter& starter)
+{
+    wchar_t* const mark = wcsstr(starter.message, L"%1");
+    lstrcpynW(starter.scratch, starter.message,
+              mark == nullptr ? kMaxMessageLength : static_cast<int>(mark - starter.message) + 1);
+    if (mark == nullptr)
+        return;
+    lstrcatW(starter.scratch, starter.refused);
+    lstrcatW(starter.scratch, mark + 2);
+}
+
+wchar_t* AppendJsonText(wchar_t* to, const wchar_t* text)
+{
+    for (; *text != 0; ++text) {
+        if (*text == L'"' || *text == L'\\')
+            *to++ = L'\\';
+        *to++ = *text < L' ' ? L' ' : *text;
+    }
+    return to;
+}
+
+// The record that ends the setup's log for programs, without the counts of what was done.
+void WriteRefusal(Starter& starter, const wchar_t* path, DWORD code)
+{
+    wchar_t result[MAX_PATH];
+    Widen(result, NameOfResult(static_cast<ExitCode>(code)), MAX_PATH);
+    SYSTEMTIME now;
+    GetLocalTime(&now);
+    wchar_t* end = starter.commandLine;
+    end += wsprintfW(end,
+                     L"{\"time\":\"%04u-%02u-%02uT%02u:%02u:%02u\",\"action\":\"result\","
+                     L"\"result\":\"%s\",\"code\":%lu,\"restart\":false,\"error\":\"",
+                     now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond, result,
+                     code);
+    end = AppendJsonText(end, starter.scratch);
+    lstrcpyW(end, L"\"}\n");
+
+    auto* const utf8 = reinterpret_cast<char*>(starter.work);
+    const int size = WideCharToMultiByte(CP_UTF8, 0, starter.commandLine, -1, utf8,
+                                         sizeof starter.work, nullptr, nullptr);
+    const HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return;
+    DWORD written = 0;
+    WriteFile(file, utf8, static_cast<DWORD>(size > 0 ? size - 1 : 0), &written, nullptr);
+    CloseHandle(file);
 }
 
 } // namespace
@@ -165,16 +216,14 @@ void SetMessage(Starter& starter, const char* utf8)
     Widen(starter.message, utf8, kMaxMessageLength);
 }
 
-void ShowRefusal(Starter& starter)
+void TellRefusal(Starter& starter, const wchar_t* switches, DWORD code)
 {
-    wchar_t* const mark = wcsstr(starter.message, L"%1");
-    lstrcpynW(starter.scratch, starter.message,
-              mark == nullptr ? kMaxMessageLength : static_cast<int>(mark - starter.message) + 1);
-    if (mark != nullptr) {
-        lstrcatW(starter.scratch, starter.refused);
-        lstrcatW(starter.scratch, mark + 2);
-    }
-    MessageBoxW(nullptr, starter.scratch, L"Quillon", MB_OK | MB_ICONSTOP | MB_SETFOREGROUND);
+    ComposeRefusal(starter);
+    // Nothing else is started any more.
+    if (FindSwitchValue(switches, "RESULT", starter.program, kMaxPathLength))
+        WriteRefusal(starter, starter.program, code);
+    if (!HasSilentSwitch(switches))
+        MessageBoxW(nullptr, starter.scratch, L"Quillon", MB_OK | MB_ICONSTOP | MB_SETFOREGROUND);
 }
 
 } // namespace quillon

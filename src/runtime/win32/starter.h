@@ -71,7 +71,8 @@ void RemoveWorkFolder(Starter& starter);
 
 /// As UTF-16, into `starter.message`.
 void SetMessage(Starter& starter, const char* utf8);
-/// Shows the message, with the name of the refused file in the place of "%1".
-void ShowRefusal(Starter& starter);
+/// Tells why nothing was started: the message, with the name of the refused file in the place of
+/// "%1", in a box and in the file of /RESULT=, as the switches given to the starter want it.
+void TellRefusal(Starter& starter, const wchar_t* switches, DWORD code);
 
 } // namespace quillon

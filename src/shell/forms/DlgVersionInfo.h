@@ -1,4 +1,4 @@
-// The status about the product that the setup and its version dialogs show.
+// Information about the product that the setup and its version dialogs show.
 #pragma once
 
 #include "ui/Form.h"

@@ -4,7 +4,7 @@
 #include "actions/preview_page.h"
 #include "formats/install_drives.h"
 #include "formats/page_layout.h"
-#include "platform/run_error.h"
+#include "platform/volume_name.h"
 #include "shell/session.h"
 #include "ui/RunningText.h"
 #include "ui/icons.h"
@@ -17,15 +17,6 @@ namespace quillon {
 namespace {
 
 constexpr int kRoot = Qt::UserRole;
-
-Text VolumeName(const FileSystem& files, const Text& root)
-{
-    try {
-        return files.GetVolumeName(root);
-    } catch (const RunError&) {
-        return {};
-    }
-}
 
 } // namespace
 
@@ -49,7 +40,7 @@ void InstDlgDestDrive::FillDrives()
     const FileSystem& files = session_.host.files;
     const Text proposed = PreviewMainFolder(session_.project, session_.host).substr(0, 2);
     for (const Text& root : InstallDrives(files)) {
-        const Text volume = VolumeName(files, root);
+        const Text volume = VolumeNameIfAny(files, root);
         const Text caption = volume.empty() ? root : root + "  (" + volume + ")";
         auto* item = new QListWidgetItem(NamedIcon("drive"), ToQt(caption), lbDrives);
         item->setData(kRoot, ToQt(root));

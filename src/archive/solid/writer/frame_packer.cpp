@@ -1,6 +1,7 @@
 #include "archive/solid/writer/frame_packer.h"
 
 #include "archive/solid/container_index.h"
+#include "archive/solid/writer/zstd_result.h"
 
 #include <new>
 #include <utility>
@@ -10,13 +11,6 @@ namespace quillon {
 namespace {
 
 constexpr int kLevel = 17;
-
-std::size_t Checked(std::size_t result)
-{
-    if (ZSTD_isError(result) != 0)
-        throw std::bad_alloc(); // The only way in which packing fails.
-    return result;
-}
 
 } // namespace
 
@@ -28,13 +22,13 @@ FramePacker::FramePacker() : encoder_(ZSTD_createCCtx())
          {std::pair(ZSTD_c_compressionLevel, kLevel),
           std::pair(ZSTD_c_windowLog, kMaxContainerWindowLog),
           std::pair(ZSTD_c_enableLongDistanceMatching, 1), std::pair(ZSTD_c_checksumFlag, 1)})
-        Checked(ZSTD_CCtx_setParameter(encoder_.get(), parameter, value));
+        CheckedSize(ZSTD_CCtx_setParameter(encoder_.get(), parameter, value));
 }
 
 PackedFrame FramePacker::operator()(const zip::Bytes& content)
 {
     PackedFrame packed{zip::Bytes(ZSTD_compressBound(content.size())), {}};
-    packed.bytes.resize(Checked(ZSTD_compress2(
+    packed.bytes.resize(CheckedSize(ZSTD_compress2(
         encoder_.get(), packed.bytes.data(), packed.bytes.size(), content.data(), content.size())));
     Sha256 digest;
     digest.Add(packed.bytes);

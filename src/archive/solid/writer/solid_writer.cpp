@@ -2,6 +2,7 @@
 
 #include "archive/solid/filtered_run.h"
 #include "archive/solid/solid_digest.h"
+#include "archive/solid/writer/zstd_result.h"
 #include "helpers/closer.h"
 #include "platform/run_error.h"
 
@@ -21,13 +22,6 @@ constexpr int kJobSize = 16 * 1024 * 1024;
 // What a job sees of the bytes before it: the window's 16th part, 8 MiB of the largest.
 constexpr int kOverlapLog = 5;
 constexpr unsigned kMaxWorkers = 8;
-
-std::size_t Checked(std::size_t result)
-{
-    if (ZSTD_isError(result) != 0)
-        throw std::bad_alloc(); // The only way in which packing fails.
-    return result;
-}
 
 /// The way from the sources' bytes to the target, all of which the digest sees.
 class SolidOutput {
@@ -52,7 +46,7 @@ public:
         Set(ZSTD_c_nbWorkers, static_cast<int>(std::clamp(cores, 1U, kMaxWorkers)));
         Set(ZSTD_c_jobSize, kJobSize);
         Set(ZSTD_c_overlapLog, kOverlapLog);
-        Checked(ZSTD_CCtx_setPledgedSrcSize(encoder_.get(), total));
+        CheckedSize(ZSTD_CCtx_setPledgedSrcSize(encoder_.get(), total));
         streamBegin_ = position_;
     }
 
@@ -92,14 +86,14 @@ private:
 
     void Set(ZSTD_cParameter parameter, int value)
     {
-        Checked(ZSTD_CCtx_setParameter(encoder_.get(), parameter, value));
+        CheckedSize(ZSTD_CCtx_setParameter(encoder_.get(), parameter, value));
     }
 
     std::size_t Drain(ZSTD_inBuffer& input, ZSTD_EndDirective directive)
     {
         ZSTD_outBuffer output{packed_.data(), packed_.size(), 0};
         const std::size_t left =
-            Checked(ZSTD_compressStream2(encoder_.get(), &output, &input, directive));
+            CheckedSize(ZSTD_compressStream2(encoder_.get(), &output, &input, directive));
         Put(std::span(packed_).first(output.pos));
         return left;
     }

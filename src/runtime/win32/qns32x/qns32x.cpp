@@ -16,7 +16,6 @@
 #include "runtime/test_mode.h"
 #include "runtime/win32/library_container.h"
 #include "runtime/win32/message_box.h"
-#include "runtime/win32/only_setup.h"
 #include "runtime/win32/page_window.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/program_start.h"
@@ -27,6 +26,7 @@
 #include "runtime/win32/run_to_end.h"
 #include "runtime/win32/screen_sound.h"
 #include "runtime/win32/screen_window.h"
+#include "runtime/win32/single_instance.h"
 #include "runtime/win32/start_as_user.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
@@ -49,7 +49,7 @@ Text UnzipLibrary(const FileSystem& files, const Text& packageFolder)
 class NoPages : public PageView {
 public:
     PageAction Show(SetupPage&, const PageListener&) override { return PageAction::Cancel; }
-    void StepAside() override {}
+    void Hide() override {}
 };
 
 Text ProjectTitle(const LoadedPackage& package)
@@ -118,7 +118,7 @@ SetupEnd InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     FileSystem& files = host.files;
     const LoadedPackage package = LoadPackage(files, switches.packageFolder, switches.languageFile);
     // What changes nothing on the machine waits for nobody, and the uninstaller looks for itself.
-    std::optional<OnlySetup> only;
+    std::optional<SingleInstance> only;
     if (switches.task == SetupTask::Install)
         only.emplace();
     RestartManager users(RestartManager::StartsAgain::Yes);

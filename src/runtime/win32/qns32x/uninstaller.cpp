@@ -9,9 +9,9 @@
 #include "runtime/uninstall_program.h"
 #include "runtime/win32/list_window.h"
 #include "runtime/win32/message_box.h"
-#include "runtime/win32/only_setup.h"
 #include "runtime/win32/program_path.h"
 #include "runtime/win32/restart_manager.h"
+#include "runtime/win32/single_instance.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
 #include "runtime/work_folders.h"
@@ -91,7 +91,7 @@ int RunUninstaller(HINSTANCE instance, const StarterLine& from)
     WinMachine machine;
     Host host{files, machine};
     WinTarget target;
-    const OnlySetup only;
+    const SingleInstance only;
     // What they were started from is gone then.
     RestartManager users(RestartManager::StartsAgain::No);
     UninstallProgram program({host, target, line, from.program, only.IsNot(), &users});

@@ -66,9 +66,9 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR line, int)
         DeleteFileW(starter->program);
         RemoveWorkFolderAndItself(*starter);
     }
-    if (!run.isStarted && !HasSilentSwitch(line)) {
+    if (!run.isStarted) {
         ReadMessage(*starter, line);
-        ShowRefusal(*starter);
+        TellRefusal(*starter, line, run.code);
     }
     return static_cast<int>(run.code);
 }

@@ -91,9 +91,9 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR switches, int)
         DeleteFileW(starter->extra);
         RemoveWorkFolder(*starter);
     }
-    if (!run.isStarted && !silent) {
+    if (!run.isStarted) {
         ReadMessage(*starter, StarterMessages::kNoRuntime);
-        ShowRefusal(*starter);
+        TellRefusal(*starter, switches, run.code);
     }
     return static_cast<int>(run.code);
 }

@@ -1,4 +1,4 @@
-#include "helpers/program_facts.h"
+#include "helpers/program_info.h"
 
 #include "support/linked_program.h"
 
@@ -12,7 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::optional<ProgramFacts> StatusOf(const std::string& bytes)
+std::optional<ProgramInfo> StatusOf(const std::string& bytes)
 {
     const ReadFileAt read = [&](std::uint64_t position, std::span<std::byte> buffer) {
         if (position >= bytes.size())
@@ -22,10 +22,10 @@ std::optional<ProgramFacts> StatusOf(const std::string& bytes)
         std::memcpy(buffer.data(), bytes.data() + position, count);
         return count;
     };
-    return ReadProgramFacts(read);
+    return ReadProgramInfo(read);
 }
 
-TEST(ProgramFacts, TellWhatAProgramIsLinkedTo)
+TEST(ProgramInfo, TellWhatAProgramIsLinkedTo)
 {
     const auto status = StatusOf(MakeLinkedProgram(
         {.imports = {"KERNEL32.dll", "Qt6Core.dll"}, .delayedImports = {"WINMM.dll"}}));
@@ -37,7 +37,7 @@ TEST(ProgramFacts, TellWhatAProgramIsLinkedTo)
     EXPECT_FALSE(status->isManaged);
 }
 
-TEST(ProgramFacts, KnowBothSizesOfAddressAndLibraries)
+TEST(ProgramInfo, KnowBothSizesOfAddressAndLibraries)
 {
     const auto status =
         StatusOf(MakeLinkedProgram({.is64Bit = true, .isLibrary = true, .imports = {"a.dll"}}));
@@ -50,20 +50,20 @@ TEST(ProgramFacts, KnowBothSizesOfAddressAndLibraries)
     EXPECT_EQ(StatusOf(MakeLinkedProgram({.machine = 0x1F0}))->machine, ProgramMachine::Other);
 }
 
-TEST(ProgramFacts, TellALibraryOnce)
+TEST(ProgramInfo, TellALibraryOnce)
 {
     const auto status = StatusOf(MakeLinkedProgram({.imports = {"a.dll", "A.DLL", "b.dll"}}));
     EXPECT_THAT(status->imports, ElementsAre("a.dll", "b.dll"));
 }
 
-TEST(ProgramFacts, ReadTheDelayTablesOfOldLinkers)
+TEST(ProgramInfo, ReadTheDelayTablesOfOldLinkers)
 {
     const auto status =
         StatusOf(MakeLinkedProgram({.delayedImports = {"old.dll"}, .hasOldDelayTable = true}));
     EXPECT_THAT(status->delayedImports, ElementsAre("old.dll"));
 }
 
-TEST(ProgramFacts, TellTheRunTimeOfAManagedProgram)
+TEST(ProgramInfo, TellTheRunTimeOfAManagedProgram)
 {
     const auto status =
         StatusOf(MakeLinkedProgram({.imports = {"mscoree.dll"},
@@ -76,7 +76,7 @@ TEST(ProgramFacts, TellTheRunTimeOfAManagedProgram)
     EXPECT_EQ(status->targetFramework, ".NETFramework,Version=v4.7.2");
 }
 
-TEST(ProgramFacts, KnowAManagedProgramFor32BitAlone)
+TEST(ProgramInfo, KnowAManagedProgramFor32BitAlone)
 {
     EXPECT_FALSE(
         StatusOf(MakeLinkedProgram({.clrVersion = "v1.1.4322", .clrFlags = 3}))->isForAnyMachine);
@@ -85,7 +85,7 @@ TEST(ProgramFacts, KnowAManagedProgramFor32BitAlone)
     EXPECT_EQ(StatusOf(MakeLinkedProgram({.clrVersion = "v1.1.4322"}))->targetFramework, "");
 }
 
-TEST(ProgramFacts, AreMissingWhereTheFileIsNoProgram)
+TEST(ProgramInfo, AreMissingWhereTheFileIsNoProgram)
 {
     EXPECT_FALSE(StatusOf(""));
     EXPECT_FALSE(StatusOf("MZ"));
@@ -93,7 +93,7 @@ TEST(ProgramFacts, AreMissingWhereTheFileIsNoProgram)
 }
 
 // Whatever is cut off a program, the reading ends with what was there.
-TEST(ProgramFacts, EndWhereTheFileIsCut)
+TEST(ProgramInfo, EndWhereTheFileIsCut)
 {
     const std::string whole = MakeLinkedProgram(
         {.imports = {"a.dll", "b.dll"}, .delayedImports = {"c.dll"}, .clrVersion = "v4.0.30319"});

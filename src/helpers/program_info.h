@@ -12,7 +12,7 @@ namespace quillon {
 
 enum class ProgramMachine { X86, X64, Arm64, Other };
 
-struct ProgramFacts {
+struct ProgramInfo {
     ProgramMachine machine = ProgramMachine::Other;
     bool isLibrary = false;
     /// Names as the program spells them, each once. Without those that are loaded at first use
@@ -29,11 +29,11 @@ struct ProgramFacts {
     /// than this note.
     Text targetFramework;
 
-    bool operator==(const ProgramFacts&) const = default;
+    bool operator==(const ProgramInfo&) const = default;
 };
 
 /// Nothing where the file is no program. A damaged table ends where it is damaged; what was read of
 /// it so far counts.
-std::optional<ProgramFacts> ReadProgramFacts(const ReadFileAt& read);
+std::optional<ProgramInfo> ReadProgramInfo(const ReadFileAt& read);
 
 } // namespace quillon

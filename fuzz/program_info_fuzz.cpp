@@ -1,5 +1,5 @@
 // Programs that lie about what they need: any bytes must come to an end, with short plain names.
-#include "helpers/program_facts.h"
+#include "helpers/program_info.h"
 #include "importers/dotnet_need.h"
 
 #include <algorithm>
@@ -31,10 +31,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         std::memcpy(buffer.data(), bytes + position, count);
         return count;
     };
-    if (const auto status = ReadProgramFacts(read)) {
-        RequireNames(status->imports);
-        RequireNames(status->delayedImports);
-        DotNetNeedText(NeedOfProgram(*status));
+    if (const auto info = ReadProgramInfo(read)) {
+        RequireNames(info->imports);
+        RequireNames(info->delayedImports);
+        DotNetNeedText(NeedOfProgram(*info));
     }
     // A run-time configuration is as foreign as the program beside it.
     DotNetNeedText(NeedOfRuntimeConfig({reinterpret_cast<const char*>(bytes), size}));

@@ -1,4 +1,4 @@
-#include "helpers/program_facts.h"
+#include "helpers/program_info.h"
 
 #include <algorithm>
 #include <array>
@@ -38,20 +38,20 @@ bool IsNameCharacter(char character)
     return character > ' ' && character < '\x7F';
 }
 
-class FactsReader {
+class InfoReader {
 public:
-    explicit FactsReader(const ReadFileAt& read) : headers_(read) {}
+    explicit InfoReader(const ReadFileAt& read) : headers_(read) {}
 
-    std::optional<ProgramFacts> Read()
+    std::optional<ProgramInfo> Read()
     {
         if (!headers_.Read())
             return std::nullopt;
-        status_.machine = MachineOf(headers_.Machine());
-        status_.isLibrary = (headers_.Characteristics() & kIsLibrary) != 0;
+        info_.machine = MachineOf(headers_.Machine());
+        info_.isLibrary = (headers_.Characteristics() & kIsLibrary) != 0;
         ReadImports();
         ReadDelayedImports();
         ReadClrHeader();
-        return std::move(status_);
+        return std::move(info_);
     }
 
 private:
@@ -64,7 +64,7 @@ private:
             const auto entry = BytesAt(table->address + i * kEntrySize, kEntrySize);
             if (!entry || LongAt(*entry, kNamePlace) == 0)
                 return;
-            Take(LongAt(*entry, kNamePlace), status_.imports);
+            Take(LongAt(*entry, kNamePlace), info_.imports);
         }
     }
 
@@ -80,7 +80,7 @@ private:
             // The linkers of the nineties noted whole addresses.
             const std::uint64_t base =
                 (LongAt(*entry, 0) & kIsRelative) != 0 ? 0 : headers_.ImageBase();
-            Take(LongAt(*entry, 4) - base, status_.delayedImports);
+            Take(LongAt(*entry, 4) - base, info_.delayedImports);
         }
     }
 
@@ -94,10 +94,10 @@ private:
             table && table->address != 0 ? BytesAt(table->address, kHeaderSize) : std::nullopt;
         if (!header)
             return;
-        status_.isManaged = true;
+        info_.isManaged = true;
         const std::uint32_t flags = LongAt(*header, 16);
-        status_.isForAnyMachine = status_.machine == ProgramMachine::X86 &&
-                                  (flags & kOnlyManagedCode) != 0 && (flags & kNeeds32Bit) == 0;
+        info_.isForAnyMachine = info_.machine == ProgramMachine::X86 &&
+                                (flags & kOnlyManagedCode) != 0 && (flags & kNeeds32Bit) == 0;
         ReadMetadata(LongAt(*header, 8), LongAt(*header, 12));
     }
 
@@ -111,9 +111,9 @@ private:
         const auto version = BytesAt(std::uint64_t(address) + kRootSize,
                                      std::min<std::size_t>(LongAt(*root, 12), kMaxVersionLength));
         if (version)
-            status_.clrVersion = NameIn(*version);
+            info_.clrVersion = NameIn(*version);
         if (const auto metadata = BytesAt(address, std::min<std::size_t>(size, kMaxMetadata)))
-            status_.targetFramework = FrameworkIn(*metadata);
+            info_.targetFramework = FrameworkIn(*metadata);
     }
 
     static Text FrameworkIn(std::string_view metadata)
@@ -160,14 +160,14 @@ private:
     }
 
     ProgramHeaders headers_;
-    ProgramFacts status_;
+    ProgramInfo info_;
 };
 
 } // namespace
 
-std::optional<ProgramFacts> ReadProgramFacts(const ReadFileAt& read)
+std::optional<ProgramInfo> ReadProgramInfo(const ReadFileAt& read)
 {
-    return FactsReader(read).Read();
+    return InfoReader(read).Read();
 }
 
 } // namespace quillon

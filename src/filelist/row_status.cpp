@@ -1,4 +1,4 @@
-#include "filelist/row_facts.h"
+#include "filelist/row_status.h"
 
 #include "helpers/number_text.h"
 

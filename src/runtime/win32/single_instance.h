@@ -6,20 +6,20 @@
 
 namespace quillon {
 
-class OnlySetup {
+class SingleInstance {
 public:
-    OnlySetup() : mutex_(CreateMutexW(nullptr, FALSE, L"Global\\QuillonSetup"))
+    SingleInstance() : mutex_(CreateMutexW(nullptr, FALSE, L"Global\\QuillonSetup"))
     {
         const DWORD found = GetLastError();
         isNot_ = found == ERROR_ALREADY_EXISTS || found == ERROR_ACCESS_DENIED;
     }
-    ~OnlySetup()
+    ~SingleInstance()
     {
         if (mutex_ != nullptr)
             CloseHandle(mutex_);
     }
-    OnlySetup(const OnlySetup&) = delete;
-    OnlySetup& operator=(const OnlySetup&) = delete;
+    SingleInstance(const SingleInstance&) = delete;
+    SingleInstance& operator=(const SingleInstance&) = delete;
 
     /// Another one runs on this machine.
     bool IsNot() const { return isNot_; }
