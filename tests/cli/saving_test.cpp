@@ -197,7 +197,7 @@ TEST_F(Saving, AProjectIsWholeWheneverACallIsKilled)
     int killedBefore = 0;
     int killedBehind = 0;
     PutProject(before);
-    for (int n = std::max(1, systemCalls - 60); IsKilledBeforeSystemCall(n, call, environment);
+    for (int n = std::max(1, systemCalls - 90); IsKilledBeforeSystemCall(n, call, environment);
          ++n) {
         const std::string now = disk.Get("p.qnp");
         ASSERT_TRUE(now == before || now == after) << "killed before system call " << n;
