@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
             IsAbsolutePath(switches.destination));
 
     const UninstallerCommand command = ReadUninstallerCommand(line);
-    Require(command.logPath.empty() || command.logPath[0] != '/');
+    Require(command.journalPath.empty() || command.journalPath[0] != '/');
     Require(!command.switches.testMode || command.switches.badSwitch);
     ReadQuotedAsAWhole(WithoutQuotes(line));
     return 0;

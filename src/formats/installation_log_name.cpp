@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-constexpr std::string_view kName = RuntimePrograms::kInstallationLog;
+constexpr std::string_view kName = RuntimePrograms::kInstallJournal;
 constexpr std::string_view kStem = kName.substr(0, kName.find('.'));
 constexpr std::string_view kEnding = kName.substr(kStem.size());
 

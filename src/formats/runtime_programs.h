@@ -24,7 +24,7 @@ inline constexpr RuntimeProgram kUninstaller = {"QNXUNIN.EXE", "QNXUNIN.BIN"};
 // nothing.
 inline constexpr const char* kUninstallerManifest = "QNXUNIN.SHA256";
 // What the uninstaller removes, see `installation_log_name.h`.
-inline constexpr const char* kInstallationLog = "QNXUNIN.LOG";
+inline constexpr const char* kInstallJournal = "QNXUNIN.LOG";
 } // namespace RuntimePrograms
 
 } // namespace quillon

@@ -46,9 +46,9 @@ Text VersionOfFile(const FileSystem& files, const Text& path)
         .FileVersion;
 }
 
-FileInstaller::FileInstaller(const InstallInput& input, InstallTransaction& changes,
-                             InstallJournal& record)
-    : input_(input), changes_(changes), record_(record)
+FileInstaller::FileInstaller(const InstallInput& input, InstallTransaction& transaction,
+                             InstallJournal& journal)
+    : input_(input), transaction_(transaction), journal_(journal)
 {
 }
 
@@ -57,7 +57,7 @@ void FileInstaller::InstallAll()
     for (const PlannedFile& file : input_.plan.files)
         total_ += file.row->size;
     const std::vector<PlannedFile>& files = input_.plan.files;
-    changes_.ExpectFiles(files.size());
+    transaction_.ExpectFiles(files.size());
     std::vector<Outcome> outcomes(files.size());
     for (const std::size_t number : InstallOrder(files, input_.package))
         outcomes[number] = InstallOne(files[number]);
@@ -72,7 +72,7 @@ FileInstaller::Outcome FileInstaller::InstallOne(const PlannedFile& file)
         input_.log.Skipped(file.path, {Message::SkipNoSource});
         return Outcome::Kept;
     }
-    changes_.MakeFolder(ExtractDirectory(file.path));
+    transaction_.MakeFolder(ExtractDirectory(file.path));
     const auto existing = StatusAt(file.path);
     // A version can only be read from a file on disk, so such a file is written in any case.
     const bool decidesLate = existing && HasOption(options, CopyLetter::kVersionCheck);
@@ -83,7 +83,8 @@ FileInstaller::Outcome FileInstaller::InstallOne(const PlannedFile& file)
         wanted = !decidesLate || IsWanted(file, *existing, staged);
     }
     const bool atRestart = wanted && !Put(file, staged, existing.has_value());
-    if (wanted || record_.Has<record::File>(file.path) || record_.Has<record::Replaced>(file.path))
+    if (wanted || journal_.Has<record::File>(file.path) ||
+        journal_.Has<record::Replaced>(file.path))
         installed_ += file.row->size;
     if (!wanted && !staged.empty())
         input_.host.files.RemoveFile(staged);
@@ -134,7 +135,7 @@ CopyDecision FileInstaller::AskWhetherToReplace(const Text& path)
 
 Text FileInstaller::Stage(const PlannedFile& file)
 {
-    const Text staged = changes_.StagingPath(file.path);
+    const Text staged = transaction_.StagingPath(file.path);
     const auto output = input_.host.files.OpenOutput(staged);
     BackgroundWriter::File writing(writer_, *output);
     input_.package.Extract(*file.row, [&](std::span<const std::byte> bytes) {
@@ -158,17 +159,17 @@ bool FileInstaller::Put(const PlannedFile& file, const Text& staged, bool replac
                               : InstallTransaction::Recorded::Yes;
     const InstallTransaction::NewFile placed{staged, file.path, replaces, recorded};
     if (replaces && HasOption(options, CopyLetter::kBackup))
-        changes_.KeepBackup(file.path);
+        transaction_.KeepBackup(file.path);
     if (HasOption(options, CopyLetter::kSetWriteProtection))
         input_.host.files.SetReadOnly(staged, true);
     try {
-        changes_.PutFile(placed);
+        transaction_.PutFile(placed);
         input_.log.Line(Message::LogCopies, file.path);
         return true;
     } catch (const RunError& error) {
         if (!MayBeInUse(error) || !HasOption(options, CopyLetter::kActiveFile))
             throw;
-        changes_.PutFileAtRestart(placed);
+        transaction_.PutFileAtRestart(placed);
         input_.log.Line(Message::LogReplacesAtRestart, file.path);
         return false;
     }
@@ -177,21 +178,21 @@ bool FileInstaller::Put(const PlannedFile& file, const Text& staged, bool replac
 // A file that was there before and that nobody counted has a user already.
 void FileInstaller::CountSharedFile(const PlannedFile& file, bool existed)
 {
-    if (record_.Has<record::Shared>(file.path))
+    if (journal_.Has<record::Shared>(file.path))
         return;
     const std::uint32_t before = CountOfUsers(input_.target, file.path).value_or(existed ? 1 : 0);
     // The key first, since it can go only when the count in it has gone.
-    changes_.MakeKey(SharedFilesKey());
-    record_.Add(record::Shared{file.path});
-    changes_.WriteValue(SharedFilesKey(), file.path, NumberData(before + 1),
-                        InstallTransaction::Recorded::No);
+    transaction_.MakeKey(SharedFilesKey());
+    journal_.Add(record::Shared{file.path});
+    transaction_.WriteValue(SharedFilesKey(), file.path, NumberData(before + 1),
+                            InstallTransaction::Recorded::No);
 }
 
 void FileInstaller::NoteContent(const PlannedFile& file)
 {
     if (input_.plan.hasUninstaller &&
         !HasOption(file.row->copyOptions, CopyLetter::kNeverUninstall))
-        record_.Add(record::Content{file.path, file.row->size, DigestText(digest_)});
+        journal_.Add(record::Content{file.path, file.row->size, DigestText(digest_)});
 }
 
 void FileInstaller::NoteWhatFollows(const PlannedFile& file, Outcome outcome)

@@ -11,7 +11,8 @@ namespace quillon {
 
 class FileInstaller {
 public:
-    FileInstaller(const InstallInput& input, InstallTransaction& changes, InstallJournal& record);
+    FileInstaller(const InstallInput& input, InstallTransaction& transaction,
+                  InstallJournal& journal);
 
     void InstallAll();
 
@@ -38,8 +39,8 @@ private:
     void NoteWhatFollows(const PlannedFile& file, Outcome outcome);
 
     const InstallInput& input_;
-    InstallTransaction& changes_;
-    InstallJournal& record_;
+    InstallTransaction& transaction_;
+    InstallJournal& journal_;
     std::vector<Text> toRegister_;
     std::vector<Text> toRegisterAtRestart_;
     std::vector<PlannedFile> fonts_;

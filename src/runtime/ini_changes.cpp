@@ -41,7 +41,7 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
         work.log.Skipped(path, {Message::SkipIniUnicode});
         return;
     }
-    work.changes.MakeFolder(ExtractDirectory(path));
+    work.transaction.MakeFolder(ExtractDirectory(path));
     if (!existed)
         work.record.Add(record::IniFile{path});
     const std::string lastLine = file->ini.OpenLastLine();
@@ -53,9 +53,9 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
         work.record.Add(record::IniOpenEnd{path, file->Decoded(lastLine)});
     for (JournalRecord& record : records)
         work.record.Add(std::move(record));
-    const Text staged = work.changes.StagingPath(path);
+    const Text staged = work.transaction.StagingPath(path);
     WriteWholeFile(work.files, staged, file->Bytes());
-    work.changes.PutFile({staged, path, existed, InstallTransaction::Recorded::No});
+    work.transaction.PutFile({staged, path, existed, InstallTransaction::Recorded::No});
 }
 
 // A file that has become something else since holds nothing of ours any more.

@@ -8,7 +8,7 @@ namespace quillon {
 
 struct IniWork {
     FileSystem& files;
-    InstallTransaction& changes;
+    InstallTransaction& transaction;
     InstallJournal& record;
     ActionLog& log;
 };

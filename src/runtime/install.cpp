@@ -23,8 +23,8 @@ namespace {
 class Installation {
 public:
     Installation(const InstallInput& input)
-        : input_(input), changes_(input.host, input.target, record_, input.log),
-          files_(input, changes_, record_)
+        : input_(input), transaction_(input.host, input.target, journal_, input.log),
+          files_(input, transaction_, journal_)
     {
     }
 
@@ -35,14 +35,14 @@ public:
         } catch (const std::exception& error) {
             input_.log.Line(Message::LogUndoes);
             input_.ask.AddStatusLine(input_.texts[Message::Undoing]);
-            if (!changes_.Undo())
+            if (!transaction_.Undo())
                 throw SetupFailure(
                     ExitCode::Failed,
                     input_.texts(Message::NotUndone, FailureReason(error, input_.texts)));
             throw;
         }
-        changes_.CleanUp();
-        return {changes_.NeedsRestart()};
+        transaction_.CleanUp();
+        return {transaction_.NeedsRestart()};
     }
 
 private:
@@ -62,8 +62,8 @@ private:
     void PutUninstaller();
 
     const InstallInput& input_;
-    InstallJournal record_;
-    InstallTransaction changes_;
+    InstallJournal journal_;
+    InstallTransaction transaction_;
     FileInstaller files_;
     // Of an earlier installation of the product.
     std::size_t earlierRecords_ = 0;
@@ -75,35 +75,35 @@ void Installation::DoEverything()
     for (const SkippedPart& part : input_.plan.skipped)
         input_.log.Skipped(part.what, part.reason);
     input_.ask.AddStatusLine(input_.texts[Message::Copying]);
-    changes_.Begin(input_.plan.mainFolder, input_.setup.project.ProjectName.ProjectName);
-    changes_.MakeFolder(input_.plan.mainFolder);
+    transaction_.Begin(input_.plan.mainFolder, input_.setup.project.ProjectName.ProjectName);
+    transaction_.MakeFolder(input_.plan.mainFolder);
     BeginRecord();
-    const ScriptWork scripts{input_, changes_, record_};
+    const ScriptWork scripts{input_, transaction_, journal_};
     RunScript(scripts, input_.plan.scriptBefore, Message::PartScriptBefore);
     DeleteOldProgramGroup();
     for (const Text& folder : input_.plan.folders)
-        changes_.MakeFolder(folder);
+        transaction_.MakeFolder(folder);
     files_.InstallAll();
     input_.ask.ProcessEvents();
     input_.ask.AddStatusLine(input_.texts[Message::Settings]);
     WriteRegistry();
-    WriteIniFiles({input_.host.files, changes_, record_, input_.log}, input_.plan.ini);
-    WriteStartupFiles({input_.host.files, input_.target, changes_, record_, input_.log,
+    WriteIniFiles({input_.host.files, transaction_, journal_, input_.log}, input_.plan.ini);
+    WriteStartupFiles({input_.host.files, input_.target, transaction_, journal_, input_.log,
                        input_.texts, input_.variables},
                       input_.setup.project.Lists);
     RegisterFiles();
     RegisterFonts();
     PutUninstaller();
     for (const PlannedShortcut& planned : input_.plan.shortcuts)
-        changes_.MakeShortcut(planned.path, planned.shortcut);
+        transaction_.MakeShortcut(planned.path, planned.shortcut);
     RunScript(scripts, input_.plan.scriptAfter, Message::PartScriptAfter);
     RegisterAtRestart();
-    RemoveOldFiles({input_.host, input_.target, changes_, record_, input_.log, input_.plan},
+    RemoveOldFiles({input_.host, input_.target, transaction_, journal_, input_.log, input_.plan},
                    earlierRecords_, contents_);
     // The last moment at which the user can cancel.
     input_.ask.ProcessEvents();
     SaveRecord();
-    changes_.Commit();
+    transaction_.Commit();
 }
 
 // The record of an earlier installation of the same product goes on: what it made is ours too. One
@@ -112,13 +112,13 @@ void Installation::BeginRecord()
 {
     if (!input_.plan.hasUninstaller)
         return;
-    const Text& path = input_.plan.installLog;
+    const Text& path = input_.plan.installJournal;
     EarlierRecord earlier = ReadEarlierRecord(input_.host.files, input_.target, path);
     earlierRecords_ = earlier.records.size();
     contents_ = std::move(earlier.contents);
-    record_.TakeOver(std::move(earlier.records));
+    journal_.TakeOver(std::move(earlier.records));
     ShareMainFolder();
-    record_.Add(record::Product{input_.setup.project.ProjectName.ProjectName});
+    journal_.Add(record::Product{input_.setup.project.ProjectName.ProjectName});
     RecordTexts();
 }
 
@@ -126,13 +126,13 @@ void Installation::SaveRecord()
 {
     if (!input_.plan.hasUninstaller)
         return;
-    const Text& path = input_.plan.installLog;
+    const Text& path = input_.plan.installJournal;
     FileSystem& files = input_.host.files;
-    const Text staged = changes_.StagingPath(path);
-    record_.Save(files, staged);
+    const Text staged = transaction_.StagingPath(path);
+    journal_.Save(files, staged);
     // The uninstaller will believe it.
     input_.target.CloseToOthers(staged);
-    changes_.PutFile({staged, path, files.FileExists(path), InstallTransaction::Recorded::No});
+    transaction_.PutFile({staged, path, files.FileExists(path), InstallTransaction::Recorded::No});
     input_.log.Line(Message::LogWritesOwnFile, path);
 }
 
@@ -140,7 +140,7 @@ void Installation::RecordTexts()
 {
     for (int i = 0; i < int(Message::Count); ++i)
         if (IsOfUninstaller(Message(i)))
-            record_.Add(record::Message{KeyOf(Message(i)).key, input_.texts[Message(i)]});
+            journal_.Add(record::Message{KeyOf(Message(i)).key, input_.texts[Message(i)]});
 }
 
 // Of products that share a main folder, the last to go takes along the folder that the first one
@@ -155,7 +155,7 @@ void Installation::ShareMainFolder()
         for (const JournalRecord& record : records.value_or(std::vector<JournalRecord>{}))
             if (const auto* const folder = std::get_if<record::Folder>(&record);
                 folder && inside.starts_with(LowerCase(folder->path) + "\\"))
-                record_.Add(*folder);
+                journal_.Add(*folder);
     }
 }
 
@@ -164,8 +164,8 @@ void Installation::DeleteOldProgramGroup()
 {
     if (input_.setup.project.InstallOptions.DeleteProgGroup == kOff)
         return;
-    for (const Text& path : OldShortcuts(input_.host.files, input_.target, record_, input_.plan)) {
-        changes_.RemoveFile(path);
+    for (const Text& path : OldShortcuts(input_.host.files, input_.target, journal_, input_.plan)) {
+        transaction_.RemoveFile(path);
         input_.log.Line(Message::LogRemovesShortcut, path);
     }
 }
@@ -173,7 +173,7 @@ void Installation::DeleteOldProgramGroup()
 void Installation::WriteRegistry()
 {
     for (const RegistryLine& line : input_.plan.registry)
-        ApplyRegistryLine({changes_, record_, input_.log}, line);
+        ApplyRegistryLine({transaction_, journal_, input_.log}, line);
 }
 
 void Installation::RegisterFiles()
@@ -190,7 +190,7 @@ void Installation::RegisterFiles()
 void Installation::RegisterOne(const Text& path)
 {
     input_.ask.ProcessEvents();
-    switch (changes_.RegisterServer(path)) {
+    switch (transaction_.RegisterServer(path)) {
     case Registration::Done:
         input_.log.Line(Message::LogRegisters, path);
         break;
@@ -222,9 +222,9 @@ void Installation::RegisterAtRestart()
                           "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"};
     const Text name = "QNXREG2 " + input_.setup.project.ProjectName.ProjectName;
     for (std::size_t i = 0; i < paths.size(); ++i) {
-        record_.Add(record::Registered{paths[i]});
-        changes_.WriteValue(key, name + (i == 0 ? "" : " " + NumberText(std::int64_t(i) + 1)),
-                            TextData("\"" + helper + "\" \"" + paths[i] + "\""));
+        journal_.Add(record::Registered{paths[i]});
+        transaction_.WriteValue(key, name + (i == 0 ? "" : " " + NumberText(std::int64_t(i) + 1)),
+                                TextData("\"" + helper + "\" \"" + paths[i] + "\""));
     }
 }
 
@@ -239,18 +239,18 @@ void Installation::RegisterFonts()
         const Text description = input_.variables.Expand(font.row->iconTitle);
         const bool marked = description.find("(TrueType)") != Text::npos;
         const bool inFontFolder = EqualIgnoreCase(ExtractDirectory(font.path), fontFolder);
-        changes_.WriteValue(key, description + (marked ? "" : " (TrueType)"),
-                            TextData(inFontFolder ? font.row->name : font.path));
-        changes_.AnnounceFont(font.path);
+        transaction_.WriteValue(key, description + (marked ? "" : " (TrueType)"),
+                                TextData(inFontFolder ? font.row->name : font.path));
+        transaction_.AnnounceFont(font.path);
         input_.log.Line(Message::LogRegistersFont, font.path);
     }
 }
 
 void Installation::PutHelper(const char* helper, const Text& path)
 {
-    const Text staged = changes_.StagingPath(path);
+    const Text staged = transaction_.StagingPath(path);
     input_.host.files.CopyContent(JoinPath(input_.helpersFolder, helper), staged);
-    changes_.PutFile({staged, path, input_.host.files.FileExists(path)});
+    transaction_.PutFile({staged, path, input_.host.files.FileExists(path)});
     input_.log.Line(Message::LogWritesOwnFile, path);
 }
 
@@ -259,11 +259,11 @@ void Installation::PutUninstaller()
     if (!input_.plan.hasUninstaller)
         return;
     const Text& folder = input_.plan.mainFolder;
-    PutUninstallerFiles(input_.host.files, input_.helpersFolder, folder, changes_);
+    PutUninstallerFiles(input_.host.files, input_.helpersFolder, folder, transaction_);
     for (const Text& path : FilesOfUninstaller(folder))
         input_.log.Line(Message::LogWritesOwnFile, path);
     input_.log.Line(Message::LogWritesOwnFile, UninstallerPath(folder));
-    WriteUninstallEntry({input_, files_.InstalledBytes()}, changes_);
+    WriteUninstallEntry({input_, files_.InstalledBytes()}, transaction_);
 }
 
 } // namespace

@@ -164,8 +164,8 @@ InstallPlan MakeInstallPlan(const PlanInput& input)
     InstallPlan plan;
     plan.mainFolder = input.variables.Value(NameOf(VariableMeaning::MainFolder));
     plan.hasUninstaller = input.setup.project.InstallOptions.UninstallSupport != kOff;
-    plan.installLog = ChooseInstallJournal(input.host.files, plan.mainFolder,
-                                           input.setup.project.ProjectName.ProjectName);
+    plan.installJournal = ChooseInstallJournal(input.host.files, plan.mainFolder,
+                                               input.setup.project.ProjectName.ProjectName);
     PlanRows(input, plan);
     PlanShortcuts(input, plan);
     PlanRegistry(input, plan);

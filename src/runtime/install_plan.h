@@ -43,7 +43,7 @@ struct InstallPlan {
     Script scriptAfter;
     std::vector<SkippedPart> skipped;
     bool hasUninstaller = false;
-    Text installLog; // where the record of this installation is kept
+    Text installJournal; // where the record of this installation is kept
 };
 
 struct PlanInput {

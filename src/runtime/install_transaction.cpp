@@ -19,21 +19,22 @@ Text BackupPath(const FileSystem& files, const Text& path)
 
 } // namespace
 
-InstallTransaction::InstallTransaction(Host& host, Target& target, InstallJournal& record,
+InstallTransaction::InstallTransaction(Host& host, Target& target, InstallJournal& installJournal,
                                        ActionLog& log)
-    : host_(host), target_(target), record_(record), log_(log), transaction_(host, target)
+    : host_(host), target_(target), installJournal_(installJournal), log_(log),
+      journal_(host, target)
 {
 }
 
 void InstallTransaction::Begin(const Text& mainFolder, const Text& product)
 {
-    transaction_.Begin(mainFolder, product);
+    journal_.Begin(mainFolder, product);
 }
 
 void InstallTransaction::ExpectFiles(std::size_t count)
 {
     constexpr std::size_t kStepsBeside = 1024; // folders, values of the registry, shortcuts
-    transaction_.Expect(count + kStepsBeside);
+    journal_.Expect(count + kStepsBeside);
 }
 
 void InstallTransaction::MakeFolder(const Text& folder)
@@ -45,8 +46,8 @@ void InstallTransaction::MakeFolder(const Text& folder)
     if (parent.empty() || parent == folder)
         throw RunError(ErrorNumber::kPathNotFound, folder);
     MakeFolder(parent);
-    record_.Add(record::Folder{folder});
-    transaction_.Note(record::Folder{folder});
+    installJournal_.Add(record::Folder{folder});
+    journal_.Note(record::Folder{folder});
     if (!host_.files.DirCreate(folder))
         throw RunError(ErrorNumber::kPathFileAccess, folder);
     log_.Line(Message::LogMakesFolder, folder);
@@ -54,7 +55,7 @@ void InstallTransaction::MakeFolder(const Text& folder)
 
 Text InstallTransaction::StagingPath(const Text& path)
 {
-    return transaction_.TempPath(ExtractDirectory(path));
+    return journal_.TempPath(ExtractDirectory(path));
 }
 
 // A failure names the place, not the temporary file.
@@ -68,12 +69,12 @@ void InstallTransaction::Move(const Text& from, const Text& to, const Text& plac
 void InstallTransaction::MoveAside(const Text& path)
 {
     // After the file itself on the way back.
-    if (record_.Has<record::Registered>(path))
-        transaction_.Note(record::RegisteredBefore{path});
-    if (record_.Has<record::Font>(path))
-        transaction_.Note(record::AnnouncedBefore{path});
+    if (installJournal_.Has<record::Registered>(path))
+        journal_.Note(record::RegisteredBefore{path});
+    if (installJournal_.Has<record::Font>(path))
+        journal_.Note(record::AnnouncedBefore{path});
     const Text aside = StagingPath(path);
-    transaction_.Note(record::MovedAside{path, aside});
+    journal_.Note(record::MovedAside{path, aside});
     Move(path, aside, path);
     movedAside_[LowerCase(path)] = aside;
 }
@@ -93,17 +94,17 @@ void InstallTransaction::NoteNewFile(const NewFile& file)
 {
     const auto aside = movedAside_.find(LowerCase(file.path));
     if (aside == movedAside_.end())
-        transaction_.Note(record::File{file.path});
+        journal_.Note(record::File{file.path});
     else if (!file.replaces)
-        transaction_.Note(record::InsteadOf{file.path, aside->second});
+        journal_.Note(record::InsteadOf{file.path, aside->second});
 }
 
 void InstallTransaction::RecordFile(const Text& path, bool existed)
 {
     if (existed)
-        record_.Add(record::Replaced{path});
+        installJournal_.Add(record::Replaced{path});
     else
-        record_.Add(record::File{path});
+        installJournal_.Add(record::File{path});
 }
 
 void InstallTransaction::PutFile(const NewFile& file)
@@ -127,17 +128,17 @@ void InstallTransaction::PutFileAtRestart(const NewFile& file)
     const record::AtRestart move{file.staged, file.path};
     if (file.recorded == Recorded::Yes) {
         RecordFile(file.path, true);
-        record_.Add(move);
+        installJournal_.Add(move);
     }
-    transaction_.Note(move);
+    journal_.Note(move);
     atRestart_.push_back(move);
 }
 
 void InstallTransaction::KeepBackup(const Text& path)
 {
     const Text backup = BackupPath(host_.files, path);
-    record_.Add(record::Backup{path, backup});
-    transaction_.Note(record::File{backup});
+    installJournal_.Add(record::Backup{path, backup});
+    journal_.Note(record::File{backup});
     host_.files.CopyContent(path, backup);
     log_.Line(Message::LogBacksUp, path, backup);
 }
@@ -149,7 +150,7 @@ void InstallTransaction::RemoveFile(const Text& path)
 
 void InstallTransaction::RemoveFolderAtEnd(const Text& folder)
 {
-    transaction_.Note(record::LeavingFolder{folder});
+    journal_.Note(record::LeavingFolder{folder});
 }
 
 void InstallTransaction::MakeKey(const RegistryKey& key)
@@ -158,8 +159,8 @@ void InstallTransaction::MakeKey(const RegistryKey& key)
         return;
     if (const Text parent = ExtractDirectory(key.subKey); !parent.empty())
         MakeKey({key.root, parent});
-    record_.Add(record::Key{key});
-    transaction_.Note(record::Key{key});
+    installJournal_.Add(record::Key{key});
+    journal_.Note(record::Key{key});
     target_.MakeKey(key);
 }
 
@@ -169,8 +170,8 @@ void InstallTransaction::WriteValue(const RegistryKey& key, const Text& name,
     MakeKey(key);
     const auto former = target_.ReadValue(key, name);
     if (recorded == Recorded::Yes)
-        record_.Add(record::Value{key, name, data, former});
-    transaction_.Note(record::FormerValue{key, name, former});
+        installJournal_.Add(record::Value{key, name, data, former});
+    journal_.Note(record::FormerValue{key, name, former});
     target_.WriteValue(key, name, data);
     log_.Line(Message::LogWritesRegistry, KeyText(key) + " :: " + name);
 }
@@ -180,7 +181,7 @@ bool InstallTransaction::TakeValueAway(const RegistryKey& key, const Text& name)
     const auto former = target_.ReadValue(key, name);
     if (!former)
         return false;
-    transaction_.Note(record::FormerValue{key, name, former});
+    journal_.Note(record::FormerValue{key, name, former});
     target_.RemoveValue(key, name);
     return true;
 }
@@ -205,7 +206,7 @@ void InstallTransaction::TakeKeyAway(const RegistryKey& key)
         TakeKeyAway({key.root, key.subKey + "\\" + name});
     for (const Text& name : target_.ValueNames(key))
         TakeValueAway(key, name);
-    transaction_.Note(record::RemovedKey{key});
+    journal_.Note(record::RemovedKey{key});
     target_.RemoveKey(key);
 }
 
@@ -223,15 +224,15 @@ void InstallTransaction::MakeShortcut(const Text& path, const Shortcut& shortcut
 
 Registration InstallTransaction::RegisterServer(const Text& path)
 {
-    record_.Add(record::Registered{path});
-    transaction_.Note(record::Registered{path});
+    installJournal_.Add(record::Registered{path});
+    journal_.Note(record::Registered{path});
     return target_.RegisterServer(path, true);
 }
 
 void InstallTransaction::AnnounceFont(const Text& path)
 {
-    record_.Add(record::Font{path});
-    transaction_.Note(record::Font{path});
+    installJournal_.Add(record::Font{path});
+    journal_.Note(record::Font{path});
     target_.AnnounceFont(path, true);
 }
 
@@ -239,24 +240,24 @@ void InstallTransaction::Commit()
 {
     for (const record::AtRestart& move : atRestart_)
         target_.MoveAtRestart(move.from, move.to);
-    transaction_.Commit();
+    journal_.Commit();
 }
 
 void InstallTransaction::CleanUp()
 {
-    quillon::CleanUp({host_, target_, log_}, transaction_.Steps());
+    quillon::CleanUp({host_, target_, log_}, journal_.Steps());
     std::optional<RunError> failure;
-    RunErrorNumber([&] { transaction_.End(); }, failure);
+    RunErrorNumber([&] { journal_.End(); }, failure);
     if (failure)
         log_.CannotRemove(failure->Path(), *failure);
 }
 
 bool InstallTransaction::Undo()
 {
-    const bool whole = quillon::Undo({host_, target_, log_}, transaction_.Steps());
-    if (whole && RunErrorNumber([&] { transaction_.End(); }) == ErrorNumber::kNone)
+    const bool whole = quillon::Undo({host_, target_, log_}, journal_.Steps());
+    if (whole && RunErrorNumber([&] { journal_.End(); }) == ErrorNumber::kNone)
         return true;
-    transaction_.Leave();
+    journal_.Leave();
     return false;
 }
 

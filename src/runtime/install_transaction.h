@@ -13,7 +13,7 @@ namespace quillon {
 
 class InstallTransaction {
 public:
-    InstallTransaction(Host& host, Target& target, InstallJournal& record, ActionLog& log);
+    InstallTransaction(Host& host, Target& target, InstallJournal& installJournal, ActionLog& log);
 
     /// What is not recorded is taken back after a failure, but the uninstaller does not know of it.
     enum class Recorded { Yes, No };
@@ -78,9 +78,9 @@ private:
 
     Host& host_;
     Target& target_;
-    InstallJournal& record_;
+    InstallJournal& installJournal_;
     ActionLog& log_;
-    TransactionJournal transaction_;
+    TransactionJournal journal_;
     std::unordered_map<Text, Text>
         movedAside_; // where the former files are, by their places in lower case
     std::vector<record::AtRestart> atRestart_;

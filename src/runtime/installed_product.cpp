@@ -10,11 +10,12 @@
 
 namespace quillon {
 
-std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, const Text& logPath)
+std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files,
+                                                     const Text& journalPath)
 {
-    if (!files.FileExists(logPath))
+    if (!files.FileExists(journalPath))
         return std::nullopt;
-    auto records = ReadInstallJournal(ReadWholeFile(files, logPath));
+    auto records = ReadInstallJournal(ReadWholeFile(files, journalPath));
     if (!records)
         return std::nullopt;
     InstalledProduct product;
@@ -30,7 +31,7 @@ std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files, co
     return product;
 }
 
-void ForgetSharedFiles(const LogToRewrite& log, const std::vector<JournalRecord>& records,
+void ForgetSharedFiles(const JournalToRewrite& log, const std::vector<JournalRecord>& records,
                        const std::set<Text>& paths)
 {
     std::set<Text> dropped;
@@ -46,31 +47,32 @@ void ForgetSharedFiles(const LogToRewrite& log, const std::vector<JournalRecord>
     log.target.CloseToOthers(log.path);
 }
 
-bool IsInSameFolder(const FileSystem& files, const Text& logPath, const Text& program)
+bool IsInSameFolder(const FileSystem& files, const Text& journalPath, const Text& program)
 {
-    const Text wanted = files.ShortPath(logPath);
+    const Text wanted = files.ShortPath(journalPath);
     const std::vector<Text> logs = InstallJournalsIn(files, ExtractDirectory(program));
     return std::any_of(logs.begin(), logs.end(), [&](const Text& log) {
         return EqualIgnoreCase(files.ShortPath(log), wanted);
     });
 }
 
-bool IsTrusted(const FileSystem& files, const Target& target, const Text& logPath,
+bool IsTrusted(const FileSystem& files, const Target& target, const Text& journalPath,
                const Text& program)
 {
-    return IsInSameFolder(files, logPath, program) &&
-           (target.IsOfTrustedUser(logPath) || target.HaveSameOwner(logPath, program));
+    return IsInSameFolder(files, journalPath, program) &&
+           (target.IsOfTrustedUser(journalPath) || target.HaveSameOwner(journalPath, program));
 }
 
-bool IsUninstallerRemovedWith(const FileSystem& files, const Text& logPath, const Text& uninstaller)
+bool IsUninstallerRemovedWith(const FileSystem& files, const Text& journalPath,
+                              const Text& uninstaller)
 {
-    const Text folder = ExtractDirectory(logPath);
+    const Text folder = ExtractDirectory(journalPath);
     const Text own = files.ShortPath(UninstallerPath(folder));
     if (!EqualIgnoreCase(files.ShortPath(uninstaller), own))
         return false;
     const std::vector<Text> logs = InstallJournalsIn(files, folder);
     return std::all_of(logs.begin(), logs.end(),
-                       [&](const Text& log) { return EqualIgnoreCase(log, logPath); });
+                       [&](const Text& log) { return EqualIgnoreCase(log, journalPath); });
 }
 
 } // namespace quillon

@@ -219,7 +219,7 @@ enum class Message {
     UninstallRunning,
     UninstallDone,
     UninstallPartly,
-    UninstallNoLog,
+    UninstallNoJournal,
     UninstallFailed,
     UninstallButton,
     UninstallLeft,

@@ -147,7 +147,7 @@ bool OldFiles::IsGone(const Text& path)
     std::optional<Reason> reason =
         ReasonToStay({files_, work_.target, work_.record, contents_}, path);
     std::optional<RunError> failure;
-    if (!reason && RunErrorNumber([&] { work_.changes.RemoveFile(path); }, failure) != 0)
+    if (!reason && RunErrorNumber([&] { work_.transaction.RemoveFile(path); }, failure) != 0)
         reason = ReasonOf(*failure);
     if (reason)
         work_.log.Skipped(path, *reason);
@@ -179,7 +179,7 @@ void OldFiles::RemoveFolders()
 {
     // A folder stands behind the one that it is in.
     for (auto folder = leaving_.rbegin(); folder != leaving_.rend(); ++folder)
-        work_.changes.RemoveFolderAtEnd(folder->second);
+        work_.transaction.RemoveFolderAtEnd(folder->second);
 }
 
 } // namespace
@@ -205,7 +205,7 @@ EarlierRecord ReadEarlierRecord(const FileSystem& files, const Target& target, c
 std::vector<OldFile> PlanOldFiles(const FileSystem& files, const Target& target,
                                   const InstallPlan& plan)
 {
-    EarlierRecord earlier = ReadEarlierRecord(files, target, plan.installLog);
+    EarlierRecord earlier = ReadEarlierRecord(files, target, plan.installJournal);
     InstallJournal record;
     record.TakeOver(std::move(earlier.records));
     std::set<Text> known = PathsOfNewVersion(plan);

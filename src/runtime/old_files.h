@@ -34,7 +34,7 @@ std::vector<OldFile> PlanOldFiles(const FileSystem& files, const Target& target,
 struct OldFilesWork {
     const Host& host;
     Target& target;
-    InstallTransaction& changes;
+    InstallTransaction& transaction;
     InstallJournal& record;
     ActionLog& log;
     const InstallPlan& plan;

@@ -227,7 +227,8 @@ void AddRemovals(JsonWriter& json, const PlanReportInput& input, std::vector<Ski
     if (input.setup.project.InstallOptions.DeleteProgGroup != kOff) {
         InstallJournal record;
         if (plan.hasUninstaller)
-            record.TakeOver(ReadEarlierRecord(input.files, input.target, plan.installLog).records);
+            record.TakeOver(
+                ReadEarlierRecord(input.files, input.target, plan.installJournal).records);
         shortcuts = OldShortcuts(input.files, input.target, record, plan);
     }
     AddTexts(json, "shortcutsRemoved", shortcuts);
@@ -263,7 +264,7 @@ Text PlanReport(const PlanReportInput& input)
     json.Add("bytes", static_cast<std::int64_t>(bytes));
     json.AddFlag("uninstaller", plan.hasUninstaller);
     if (plan.hasUninstaller) {
-        json.Add("record", plan.installLog);
+        json.Add("record", plan.installJournal);
         json.Add("entry", KeyText(UninstallEntryKey(input.setup.project.ProjectName.ProjectName,
                                                     plan.scope)));
     }

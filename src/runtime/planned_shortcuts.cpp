@@ -137,7 +137,7 @@ void PlanUninstallIcon(const PlanInput& input, InstallPlan& plan)
         return;
     Shortcut shortcut;
     shortcut.program = UninstallerPath(plan.mainFolder);
-    shortcut.arguments = "\"" + plan.installLog + "\"";
+    shortcut.arguments = "\"" + plan.installJournal + "\"";
     shortcut.workFolder = plan.mainFolder;
     shortcut.description =
         input.texts(Message::UninstallIcon, input.setup.project.ProjectName.ProjectName);

@@ -7,23 +7,23 @@ void ApplyRegistryLine(const RegistryWork& work, const RegistryLine& line)
     using Kind = RegistryLine::Kind;
     switch (line.kind) {
     case Kind::Key:
-        work.changes.MakeKey(line.key);
+        work.transaction.MakeKey(line.key);
         work.log.Line(Message::LogWritesRegistry, KeyText(line.key));
         break;
     case Kind::TextValue:
-        work.changes.WriteValue(line.key, line.valueName, TextData(line.text));
+        work.transaction.WriteValue(line.key, line.valueName, TextData(line.text));
         break;
     case Kind::NumberValue:
-        work.changes.WriteValue(line.key, line.valueName, NumberData(line.number));
+        work.transaction.WriteValue(line.key, line.valueName, NumberData(line.number));
         break;
     case Kind::BytesValue:
-        work.changes.WriteValue(line.key, line.valueName, BytesData(line.bytes));
+        work.transaction.WriteValue(line.key, line.valueName, BytesData(line.bytes));
         break;
     case Kind::Delete:
         if (line.hasValue)
-            work.changes.RemoveValue(line.key, line.valueName);
+            work.transaction.RemoveValue(line.key, line.valueName);
         else
-            work.changes.RemoveKeyWithAllBelow(line.key);
+            work.transaction.RemoveKeyWithAllBelow(line.key);
         break;
     case Kind::Uninstall:
         if (line.hasValue)

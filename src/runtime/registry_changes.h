@@ -7,7 +7,7 @@
 namespace quillon {
 
 struct RegistryWork {
-    InstallTransaction& changes;
+    InstallTransaction& transaction;
     InstallJournal& record;
     ActionLog& log;
 };

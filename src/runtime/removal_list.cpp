@@ -16,20 +16,20 @@ namespace {
 class RemovalList {
 public:
     RemovalList(const InstalledProduct& product, const Host& host, const Target& target,
-                const Text& logPath)
+                const Text& journalPath)
         : product_(product), files_(host.files), target_(target),
-          paths_(product.records, host, target, ExtractDirectory(logPath)),
+          paths_(product.records, host, target, ExtractDirectory(journalPath)),
           entry_(RecordedUninstallEntry(product.name, product.records))
     {
         for (const JournalRecord& record : product.records)
             AddFileOf(record);
-        const Text uninstaller = UninstallerPath(ExtractDirectory(logPath));
-        if (IsUninstallerRemovedWith(files_, logPath, uninstaller)) {
+        const Text uninstaller = UninstallerPath(ExtractDirectory(journalPath));
+        if (IsUninstallerRemovedWith(files_, journalPath, uninstaller)) {
             AddFile(uninstaller, removal.own);
-            for (const Text& path : FilesOfUninstaller(ExtractDirectory(logPath)))
+            for (const Text& path : FilesOfUninstaller(ExtractDirectory(journalPath)))
                 AddFile(path, removal.own);
         }
-        AddFile(logPath, removal.own);
+        AddFile(journalPath, removal.own);
         AddFolders();
         for (const JournalRecord& record : product.records)
             AddSettingOf(record);
@@ -118,9 +118,9 @@ std::vector<Text> Removal::Lines() const
 }
 
 Removal PlanRemoval(const InstalledProduct& product, const Host& host, const Target& target,
-                    const Text& logPath)
+                    const Text& journalPath)
 {
-    return RemovalList(product, host, target, logPath).removal;
+    return RemovalList(product, host, target, journalPath).removal;
 }
 
 } // namespace quillon

@@ -18,6 +18,6 @@ struct Removal {
 };
 
 Removal PlanRemoval(const InstalledProduct& product, const Host& host, const Target& target,
-                    const Text& logPath);
+                    const Text& journalPath);
 
 } // namespace quillon

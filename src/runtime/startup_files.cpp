@@ -100,9 +100,9 @@ void StartupFile::Add(const Text& lines)
         work_.record.Add(record::IniOpenEnd{path_, AnsiText::FromBytes(lastLine)});
     for (JournalRecord& record : records_)
         work_.record.Add(std::move(record));
-    const Text staged = work_.changes.StagingPath(path_);
+    const Text staged = work_.transaction.StagingPath(path_);
     WriteWholeFile(work_.files, staged, bytes);
-    work_.changes.PutFile({staged, path_, existed, InstallTransaction::Recorded::No});
+    work_.transaction.PutFile({staged, path_, existed, InstallTransaction::Recorded::No});
 }
 
 void StartupFile::AddLine(std::string& bytes, const Text& line)

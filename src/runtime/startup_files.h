@@ -10,7 +10,7 @@ namespace quillon {
 struct StartupWork {
     FileSystem& files;
     const Target& target;
-    InstallTransaction& changes;
+    InstallTransaction& transaction;
     InstallJournal& record;
     ActionLog& log;
     const LanguageTexts& texts;

@@ -248,7 +248,7 @@ UninstallerCommand ReadUninstallerCommand(std::string_view commandLine)
     const char* rest = first;
     const Text word = WithoutQuotes(Text(first, EndOfSwitch(first)));
     if (!word.empty() && !IsSwitchMark(word[0])) {
-        command.logPath = word;
+        command.journalPath = word;
         rest = EndOfSwitch(first);
     }
     command.switches = ReadSwitches(rest);

@@ -69,7 +69,7 @@ bool SetSwitch(Switches& switches, std::string_view name, const Text& value);
 ExitCode CodeToEndWith(ExitCode code, const Switches& switches);
 
 struct UninstallerCommand {
-    Text logPath; // empty where the line names none
+    Text journalPath; // empty where the line names none
     Switches switches;
 };
 

@@ -25,7 +25,7 @@ class Uninstallation {
 public:
     explicit Uninstallation(const UninstallInput& input)
         : input_(input), files_(input.host.files), records_(input.product.records),
-          mainFolder_(ExtractDirectory(input.logPath)),
+          mainFolder_(ExtractDirectory(input.journalPath)),
           paths_(records_, input.host, input.target, mainFolder_),
           entry_(RecordedUninstallEntry(input.product.name, records_))
     {
@@ -146,7 +146,7 @@ void Uninstallation::Attempt(const Text& what, Work work)
 UninstallResult Uninstallation::Run()
 {
     input_.ask.AddStatusLine(input_.product.texts[Message::UninstallRunning]);
-    Attempt(input_.logPath, [&] { ReleaseSharedFiles(); });
+    Attempt(input_.journalPath, [&] { ReleaseSharedFiles(); });
     UndoAll(Part::AllButEntry);
     for (const record::AtRestart& move : paths_.Pending())
         Attempt(move.from, [&] { UndoRestart(move); });
@@ -154,7 +154,7 @@ UninstallResult Uninstallation::Run()
     if (!partly_)
         UndoAll(Part::Entry);
     if (!partly_)
-        Attempt(input_.logPath, [&] { RemoveProductItself(); });
+        Attempt(input_.journalPath, [&] { RemoveProductItself(); });
     RemoveFolders();
     NoteWhatIsNotEmpty();
     const ExitCode done = goesAtRestart_.empty() ? ExitCode::Done : ExitCode::RestartNeeded;
@@ -251,7 +251,7 @@ void Uninstallation::ReleaseSharedFiles()
 {
     if (paths_.ToRelease().empty())
         return;
-    ForgetSharedFiles({files_, input_.target, input_.logPath}, records_, paths_.ToRelease());
+    ForgetSharedFiles({files_, input_.target, input_.journalPath}, records_, paths_.ToRelease());
     for (const JournalRecord& record : records_) {
         const auto* const shared = std::get_if<record::Shared>(&record);
         const auto count =
@@ -351,13 +351,13 @@ void Uninstallation::UndoRestart(const record::AtRestart& move)
 void Uninstallation::RemoveProductItself()
 {
     const Text uninstaller = UninstallerPath(mainFolder_);
-    if (IsUninstallerRemovedWith(files_, input_.logPath, uninstaller)) {
+    if (IsUninstallerRemovedWith(files_, input_.journalPath, uninstaller)) {
         if (input_.running != nullptr)
             input_.running->MoveAway(uninstaller);
         RemoveFile(uninstaller);
         RemoveWhatUninstallerLines(uninstaller);
     }
-    RemoveFile(input_.logPath);
+    RemoveFile(input_.journalPath);
 }
 
 // Not before the uninstaller: while that can be started it has to find them.

@@ -31,7 +31,7 @@ struct UninstallInput {
     Target& target;
     Ask& ask;
     ActionLog& log;
-    Text logPath;
+    Text journalPath;
     const InstalledProduct& product;
     RunningProgram* running = nullptr;
 };

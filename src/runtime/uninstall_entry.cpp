@@ -27,7 +27,7 @@ Text ShownName(const EntryFacts& facts)
 Text Command(const EntryFacts& facts)
 {
     const InstallPlan& plan = facts.input.plan;
-    return "\"" + UninstallerPath(plan.mainFolder) + "\" \"" + plan.installLog + "\"";
+    return "\"" + UninstallerPath(plan.mainFolder) + "\" \"" + plan.installJournal + "\"";
 }
 
 // "20040301"
@@ -86,15 +86,15 @@ std::span<const EntryValue> UninstallEntryValues()
     return kValues;
 }
 
-void WriteUninstallEntry(const EntryFacts& facts, InstallTransaction& changes)
+void WriteUninstallEntry(const EntryFacts& facts, InstallTransaction& transaction)
 {
     const RegistryKey key = UninstallEntryKey(ProductOf(facts), facts.input.plan.scope);
     const RegistryData none = TextData("");
     for (const EntryValue& value : kValues)
         if (const RegistryData data = value.data(facts); data == none)
-            changes.RemoveValue(key, value.name);
+            transaction.RemoveValue(key, value.name);
         else
-            changes.WriteValue(key, value.name, data);
+            transaction.WriteValue(key, value.name, data);
 }
 
 RegistryKey RecordedUninstallEntry(const Text& product, const std::vector<JournalRecord>& records)

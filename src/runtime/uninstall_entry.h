@@ -33,6 +33,6 @@ struct EntryValue {
 std::span<const EntryValue> UninstallEntryValues();
 
 /// The entry of an earlier version is written over; what that had and this one lacks goes.
-void WriteUninstallEntry(const EntryFacts& facts, InstallTransaction& changes);
+void WriteUninstallEntry(const EntryFacts& facts, InstallTransaction& transaction);
 
 } // namespace quillon

@@ -17,7 +17,7 @@ namespace quillon {
 void UninstallProgram::FindProduct()
 {
     const FileSystem& files = input_.host.files;
-    const Text& log = input_.line.logPath;
+    const Text& log = input_.line.journalPath;
     product_.reset();
     if (IsTrusted(files, input_.target, log, input_.program))
         product_ = ReadInstalledProduct(files, log);
@@ -60,14 +60,14 @@ UninstallProgram::Refusal UninstallProgram::WithoutProduct() const
     // A first installation that was killed has been taken back.
     if (hasFinishedEarlier_)
         return {ExitCode::Done, {}};
-    const Text& log = input_.line.logPath;
+    const Text& log = input_.line.journalPath;
     // Only what was in use is still there.
     if (IsRemovedAtRestart(input_.target, log) ||
         (!input_.host.files.FileExists(log) && IsRemovedAtRestart(input_.target, input_.program)))
         return {ExitCode::AlreadyUninstalled, Texts()[Message::UninstallGone]};
     const bool isThere = input_.host.files.FileExists(log);
     return {isThere ? ExitCode::Failed : ExitCode::NothingInstalled,
-            Texts()(Message::UninstallNoLog, log)};
+            Texts()(Message::UninstallNoJournal, log)};
 }
 
 std::optional<UninstallProgram::Refusal> UninstallProgram::WhyRefused() const
@@ -78,7 +78,7 @@ std::optional<UninstallProgram::Refusal> UninstallProgram::WhyRefused() const
         return std::nullopt;
     if (input_.otherSetupRuns && !OnlyShowsInformation())
         return Refusal{ExitCode::OtherSetupRuns, Texts()[Message::OtherSetup]};
-    if (!product_ || IsRemovedAtRestart(input_.target, input_.line.logPath))
+    if (!product_ || IsRemovedAtRestart(input_.target, input_.line.journalPath))
         return WithoutProduct();
     return std::nullopt;
 }
@@ -146,7 +146,7 @@ ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view, RunningProgram* ru
     }
     if (OnlyShowsInformation())
         return Tell(ask);
-    const Text& log = input_.line.logPath;
+    const Text& log = input_.line.journalPath;
     const Removal removal = PlanRemoval(*product_, input_.host, input_.target, log);
     const ListPage question{Title(), Texts()(Message::UninstallQuestion, product_->name),
                             removal.Lines(), Texts()[Message::UninstallButton],

@@ -14,20 +14,20 @@ namespace {
 
 class UninstallerFiles {
 public:
-    UninstallerFiles(FileSystem& files, const Text& mainFolder, InstallTransaction& changes)
-        : files_(files), mainFolder_(mainFolder), changes_(changes)
+    UninstallerFiles(FileSystem& files, const Text& mainFolder, InstallTransaction& transaction)
+        : files_(files), mainFolder_(mainFolder), transaction_(transaction)
     {
     }
 
     Text Stage(const RuntimeProgram& program, const Text& helpersFolder)
     {
-        const Text staged = changes_.StagingPath(JoinPath(mainFolder_, program.inPackage));
+        const Text staged = transaction_.StagingPath(JoinPath(mainFolder_, program.inPackage));
         files_.CopyContent(JoinPath(helpersFolder, program.inPackage), staged);
         return staged;
     }
     Text StageManifest(const Text& program)
     {
-        const Text staged = changes_.StagingPath(Place(RuntimePrograms::kUninstallerManifest));
+        const Text staged = transaction_.StagingPath(Place(RuntimePrograms::kUninstallerManifest));
         WriteWholeFile(files_, staged,
                        DigestText(DigestOfFile(files_, program)) + "  " +
                            RuntimePrograms::kSetup.inPackage + "\n");
@@ -36,14 +36,15 @@ public:
     void Put(const Text& staged, const char* name)
     {
         const Text path = Place(name);
-        changes_.PutFile({staged, path, files_.FileExists(path), InstallTransaction::Recorded::No});
+        transaction_.PutFile(
+            {staged, path, files_.FileExists(path), InstallTransaction::Recorded::No});
     }
     Text Place(const char* name) const { return JoinPath(mainFolder_, name); }
 
 private:
     FileSystem& files_;
     const Text& mainFolder_;
-    InstallTransaction& changes_;
+    InstallTransaction& transaction_;
 };
 
 } // namespace
@@ -58,14 +59,14 @@ std::array<Text, 2> FilesOfUninstaller(const Text& mainFolder)
 // is there and is what the digest says, so that it can put right what is left: it goes first and
 // comes last.
 void PutUninstallerFiles(FileSystem& files, const Text& helpersFolder, const Text& mainFolder,
-                         InstallTransaction& changes)
+                         InstallTransaction& transaction)
 {
-    UninstallerFiles put(files, mainFolder, changes);
+    UninstallerFiles put(files, mainFolder, transaction);
     const Text setup = put.Stage(RuntimePrograms::kSetup, helpersFolder);
     const Text manifest = put.StageManifest(setup);
     const Text uninstaller = put.Stage(RuntimePrograms::kUninstaller, helpersFolder);
     if (const Text former = UninstallerPath(mainFolder); files.FileExists(former))
-        changes.RemoveFile(former);
+        transaction.RemoveFile(former);
     put.Put(setup, RuntimePrograms::kSetup.inPackage);
     put.Put(manifest, RuntimePrograms::kUninstallerManifest);
     put.Put(uninstaller, RuntimePrograms::kUninstaller.name);

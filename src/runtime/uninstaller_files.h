@@ -18,6 +18,6 @@ std::array<Text, 2> FilesOfUninstaller(const Text& mainFolder);
 /// Puts all three from the folder with the package's programs into their places. They go last and
 /// by themselves, and stay where another product needs them, so the record does not tell of them.
 void PutUninstallerFiles(FileSystem& files, const Text& helpersFolder, const Text& mainFolder,
-                         InstallTransaction& changes);
+                         InstallTransaction& transaction);
 
 } // namespace quillon

@@ -45,7 +45,7 @@ class RecordedTextOfAProduct : public test::SetupFixture {};
 TEST_F(RecordedTextOfAProduct, IsWhatTheInstallationPutThere)
 {
     AddFile("prog.exe", "%DESTDIR", "program");
-    package.texts.Set(Message::UninstallNoLog, "The file '%1' is missing.");
+    package.texts.Set(Message::UninstallNoJournal, "The file '%1' is missing.");
     ASSERT_EQ(Install(), ExitCode::Done);
     EXPECT_EQ(TextOf(memory.files.Get("C:\\Program\\Exempel\\QNXUNIN.LOG"),
                      StarterMessages::kNoUninstaller.key),

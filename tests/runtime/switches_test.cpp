@@ -300,7 +300,7 @@ TEST(FindSwitchValue, TakesNoValueThatHasNoRoom)
 
 struct UninstallerCase {
     const char* line;
-    const char* logPath;
+    const char* journalPath;
     bool silent;
 };
 
@@ -309,7 +309,7 @@ class UninstallerLine : public testing::TestWithParam<UninstallerCase> {};
 TEST_P(UninstallerLine, BeginsWithTheLog)
 {
     const UninstallerCommand command = ReadUninstallerCommand(GetParam().line);
-    EXPECT_EQ(command.logPath, GetParam().logPath);
+    EXPECT_EQ(command.journalPath, GetParam().journalPath);
     EXPECT_EQ(command.switches.silent, GetParam().silent);
     EXPECT_EQ(command.switches.badSwitch, std::nullopt);
 }

@@ -58,8 +58,8 @@ protected:
     {
         ScriptedAsk scripted(std::move(boxes));
         UninstallerCommand line = ReadUninstallerCommand(commandLine);
-        if (line.logPath.empty())
-            line.logPath = kLog;
+        if (line.journalPath.empty())
+            line.journalPath = kLog;
         UninstallProgram program({host, target, line, kUninstaller, otherSetupRuns});
         program.Prepare();
         Running running(lists.events);
@@ -197,7 +197,7 @@ TEST_F(UninstallProgramTest, TellsItsResultWhereItsLogCanNotBeMade)
 {
     ASSERT_EQ(Install(), ExitCode::Done);
     UninstallerCommand line = ReadUninstallerCommand("/S /LOG=Q:\\borta\\l.txt /RESULT=L:\\r.json");
-    line.logPath = kLog;
+    line.journalPath = kLog;
     UninstallProgram program({host, target, line, kUninstaller});
     try {
         program.Prepare();

@@ -106,8 +106,7 @@ TEST_F(DamagedPackage, IsToldInTheResultByAnUninstallerToo)
     ASSERT_EQ(Install(), 0U);
     const fs::path folder = prefix.OnHost("C:\\Program Files\\Hej");
     fs::remove(folder / "QNS32X.BIN");
-    EXPECT_EQ(prefix.Run("C:\\Program Files\\Hej\\QNXUNIN.EXE",
-                         R"(/S "/RESULT=C:\slut.json")"),
+    EXPECT_EQ(prefix.Run("C:\\Program Files\\Hej\\QNXUNIN.EXE", R"(/S "/RESULT=C:\slut.json")"),
               kFailed);
     const auto record = nlohmann::json::parse(ReadBytes(prefix.DriveC() / "slut.json"));
     EXPECT_EQ(record["result"], "failed");

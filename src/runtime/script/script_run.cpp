@@ -117,9 +117,9 @@ void ScriptRun::Do(const ScriptCommand& command)
     case ScriptWord::Rename:
         return Rename(PathIn(arguments[0]), PathIn(arguments[1]));
     case ScriptWord::MakeFolder:
-        return work_.changes.MakeFolder(PathIn(arguments[0]));
+        return work_.transaction.MakeFolder(PathIn(arguments[0]));
     case ScriptWord::RemoveFolder:
-        return work_.changes.RemoveFolderAtEnd(PathIn(arguments[0]));
+        return work_.transaction.RemoveFolderAtEnd(PathIn(arguments[0]));
     case ScriptWord::Ini:
         return WriteIni(arguments);
     case ScriptWord::Registry:
@@ -189,7 +189,7 @@ void ScriptRun::Copy(const Text& from, const Text& to)
     const bool isOthers = files_.FileExists(place) && !work_.record.Has<record::File>(place) &&
                           !work_.record.Has<record::Replaced>(place);
     if (isOthers)
-        work_.changes.KeepBackup(place);
+        work_.transaction.KeepBackup(place);
     Put(from, place, InstallTransaction::Recorded::Yes);
     input_.log.Line(Message::LogCopies, place);
 }
@@ -198,10 +198,10 @@ void ScriptRun::Put(const Text& from, const Text& to, InstallTransaction::Record
 {
     if (!files_.FileExists(from))
         throw RunError(ErrorNumber::kFileNotFound, from);
-    work_.changes.MakeFolder(ExtractDirectory(to));
-    const Text staged = work_.changes.StagingPath(to);
+    work_.transaction.MakeFolder(ExtractDirectory(to));
+    const Text staged = work_.transaction.StagingPath(to);
     files_.CopyContent(from, staged);
-    work_.changes.PutFile({staged, to, files_.FileExists(to), recorded});
+    work_.transaction.PutFile({staged, to, files_.FileExists(to), recorded});
 }
 
 void ScriptRun::Delete(const Text& path)
@@ -210,7 +210,7 @@ void ScriptRun::Delete(const Text& path)
         input_.log.Skipped(path, {Message::SkipNoFile});
         return;
     }
-    work_.changes.RemoveFile(path);
+    work_.transaction.RemoveFile(path);
     input_.log.Line(Message::LogRemoves, path);
 }
 
@@ -223,13 +223,13 @@ void ScriptRun::Rename(const Text& from, const Text& to)
     Put(from, to,
         work_.record.Has<record::File>(from) ? InstallTransaction::Recorded::Yes
                                              : InstallTransaction::Recorded::No);
-    work_.changes.RemoveFile(from);
+    work_.transaction.RemoveFile(from);
     input_.log.Line(Message::LogRenames, from, to);
 }
 
 void ScriptRun::WriteIni(const std::vector<Text>& arguments)
 {
-    WriteIniFiles({files_, work_.changes, work_.record, input_.log},
+    WriteIniFiles({files_, work_.transaction, work_.record, input_.log},
                   {{PathIn(arguments[0]), Expanded(arguments, 1), Expanded(arguments, 2),
                     Expanded(arguments, 3)}});
 }
@@ -244,7 +244,7 @@ void ScriptRun::WriteRegistry(const Text& text)
         throw ScriptStop({Message::SkipFixedRoot, RootName(RegistryRoot::DynData)});
     if (RemovesSystemKey(line))
         throw ScriptStop({Message::SkipSystemKey});
-    ApplyRegistryLine({work_.changes, work_.record, input_.log}, line);
+    ApplyRegistryLine({work_.transaction, work_.record, input_.log}, line);
 }
 
 // Beside the package anybody may have laid a program: there only the package's own are started.

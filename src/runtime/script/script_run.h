@@ -14,7 +14,7 @@ namespace quillon {
 
 struct ScriptWork {
     const InstallInput& input;
-    InstallTransaction& changes;
+    InstallTransaction& transaction;
     InstallJournal& record;
 };
 

@@ -85,8 +85,9 @@ ExitCode RunOnWindows(HINSTANCE instance, UninstallProgram& program, const Switc
 int RunUninstaller(HINSTANCE instance, const StarterLine& from)
 {
     UninstallerCommand line = ReadUninstallerCommand(from.given);
-    if (line.logPath.empty())
-        line.logPath = JoinPath(ExtractDirectory(from.program), RuntimePrograms::kInstallationLog);
+    if (line.journalPath.empty())
+        line.journalPath =
+            JoinPath(ExtractDirectory(from.program), RuntimePrograms::kInstallJournal);
     WinFiles files;
     WinMachine machine;
     Host host{files, machine};

@@ -16,7 +16,7 @@ void FindRecord(wchar_t* path, const Starter& starter, const wchar_t* line)
 {
     const wchar_t* at = SkipSwitchBlanks(line);
     if (*at == 0 || BeginsSwitch(at) || IsSwitchMark(*at)) {
-        JoinPaths(path, starter.folder, RuntimePrograms::kInstallationLog);
+        JoinPaths(path, starter.folder, RuntimePrograms::kInstallJournal);
         return;
     }
     for (const wchar_t* const end = EndOfSwitch(at); at != end; ++at)
