@@ -19,7 +19,7 @@ constexpr bool IsDrivePath(std::string_view path)
 }
 
 /// Whether a path that a user gives is Windows' own: with a drive, "C:" alone too, or of another
-/// machine, "\\\\machine\\share". Any other is one of this machine.
+/// machine, `\\machine\share`. Any other is one of this machine.
 constexpr bool IsWindowsPath(std::string_view path)
 {
     return IsDrivePath(path) || (BeginsWithDrive(path) && path.size() == 2) ||

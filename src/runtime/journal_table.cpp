@@ -92,7 +92,7 @@ Text Unescape(std::string_view field)
 }
 
 // How each type of field is in a line. A registry key is a root and a sub key; data are a type
-// and hexadecimal bytes; what may be missing is told by an empty first field.
+// and hexadecimal bytes; an empty first field means that an optional part is missing.
 
 void Put(Text& line, const Text& field)
 {

@@ -20,8 +20,7 @@ struct LogFiles {
     Text result;
 };
 
-/// How a run has ended, whatever code its caller is told. What was stopped is undone, or was never
-/// begun.
+/// How a run has ended, which its exit code may hide. A stopped run was undone, or changed nothing.
 enum class RunEnd { Done, RestartDue, Stopped };
 
 class JsonLog {

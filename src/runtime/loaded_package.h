@@ -20,7 +20,7 @@ struct LoadedPackage {
     std::optional<Reason> fault; // what is wrong with the package
 };
 
-/// Reads both INF files and the language file. Whatever is missing is told in `fault`. A language
+/// Reads both INF files and the language file. `fault` names what is missing. A language
 /// file of that name goes before the project's own.
 LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder,
                           const Text& languageFile = {});

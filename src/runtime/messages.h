@@ -1,6 +1,6 @@
 // Every text that an end user of a package reads: the setup's boxes, its log, the uninstaller's. A
-// text stands in the package's language file under a section and a key; the Swedish one here is for
-// a file that lacks it. The key doubles as the text's code wherever a program reads what was told.
+// text is in the package's language file under a section and a key; the Swedish one here is for a
+// file that lacks it. The key is also the text's code in what other programs read.
 #pragma once
 
 #include "helpers/text.h"

@@ -404,7 +404,7 @@ DriveKind PosixFiles::DriveType(const Text& root) const
     const auto hostPath = drives_.ToHost(root);
     if (!hostPath || !IsFolder(*hostPath))
         return DriveKind::NoRoot;
-    // These two letters belong to floppy drives, whatever stands in for one.
+    // Windows keeps these two letters for floppy drives, whichever folder is mapped to one here.
     const bool isFloppyLetter = std::string_view("AaBb").find(root[0]) != std::string_view::npos;
     return isFloppyLetter ? DriveKind::Removable : KindOfDisk(*hostPath);
 }

@@ -56,7 +56,7 @@ bool HasRoom(const PageState& state, std::uint64_t needed)
            Refuse(state, state.input.texts(Message::NoRoom, folder.substr(0, 2)));
 }
 
-// The drive of a main folder that the project or the user has told.
+// `folder` on another drive.
 Text OnDrive(const Text& folder, const Text& root)
 {
     return JoinPath(root, WithoutDrive(folder));
