@@ -283,8 +283,9 @@ TEST(FindSwitchValue, AgreesWithTheSetup)
           "/S \"/RESULT=C:\\a b.json\"", "/RESULT", "/RESULT=", "/RESULT=a /RESULT=b", "RESULT=a",
           "/RESULTS=a", "/D=C:\\A /B /RESULT=c", "/D=\"C:\\A /RESULT=c\"", "/LOG=/RESULT=a",
           "/RESULT=a=b:c", "\"/RESULT=a", "/RESULT=\"\""}) {
-        Text::value_type value[32];
-        EXPECT_EQ(FindSwitchValue(line, "RESULT", value, 32), value[0] != 0) << line;
+        Text::value_type value[32] = {};
+        const bool isFound = FindSwitchValue(line, "RESULT", value, 32);
+        EXPECT_EQ(isFound, value[0] != 0) << line;
         EXPECT_EQ(Text(value), ReadSwitches(line).resultFile) << line;
     }
 }
