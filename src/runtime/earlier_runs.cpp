@@ -15,13 +15,15 @@ void FinishEarlierRuns(const EarlierRunsInput& input)
     const SetupVariables usual = MakeSetupVariables(
         {input.setup, input.host, input.target, input.packageFolder, {}, input.scope});
     std::set<Text> folders{input.variables.Value(mainFolder), usual.Value(mainFolder)};
-    const auto installed = input.target.ReadValue(
-        UninstallEntryKey(input.setup.project.ProjectName.ProjectName, input.scope),
-        "InstallLocation");
-    // Anything may stand in such a value.
-    if (const auto folder = installed ? TextOf(*installed) : std::nullopt;
-        folder && IsAbsolutePath(*folder))
-        folders.insert(*folder);
+    for (const InstallScope scope : {InstallScope::AllUsers, InstallScope::CurrentUser}) {
+        const auto installed = input.target.ReadValue(
+            UninstallEntryKey(input.setup.project.ProjectName.ProjectName, scope),
+            "InstallLocation");
+        // Anything may stand in such a value.
+        if (const auto folder = installed ? TextOf(*installed) : std::nullopt;
+            folder && IsAbsolutePath(*folder))
+            folders.insert(*folder);
+    }
     for (const Text& folder : folders)
         if (FinishInterrupted({input.host, input.target, input.log}, folder) ==
             EarlierRun::Incomplete)

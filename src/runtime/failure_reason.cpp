@@ -74,6 +74,23 @@ Text FailureReason(const std::exception& error, const LanguageTexts& texts)
     return reason ? texts(*reason) : error.what();
 }
 
+SetupFailure FailureOfSetup(const std::exception& error, const LanguageTexts& texts)
+{
+    if (const auto* setup = dynamic_cast<const SetupFailure*>(&error))
+        return *setup;
+    if (const auto* archive = dynamic_cast<const ZipError*>(&error)) {
+        if (archive->Reason() == ZipError::Kind::WrongPassword)
+            return {ExitCode::Failed, texts[Message::WrongPassword]};
+        return DamagedPackage(texts, ReasonOf(*archive));
+    }
+    const auto* machine = dynamic_cast<const RunError*>(&error);
+    if (machine != nullptr && machine->Number() == ErrorNumber::kDiskFull)
+        return {ExitCode::DiskFull, texts(Message::DiskFull, machine->Path())};
+    if (machine != nullptr && machine->Number() == ErrorNumber::kFileInUse)
+        return {ExitCode::FileInUse, texts(Message::FileInUse, machine->Path())};
+    return {ExitCode::Failed, texts(Message::Failed, FailureReason(error, texts))};
+}
+
 SetupFailure DamagedPackage(const LanguageTexts& texts, const Reason& reason)
 {
     return {ExitCode::DamagedPackage, texts(Message::Damaged, texts(reason))};

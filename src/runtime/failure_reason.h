@@ -21,6 +21,9 @@ std::optional<Reason> ReasonOf(const std::exception& error);
 
 Text FailureReason(const std::exception& error, const LanguageTexts& texts);
 
+/// What an installation that the error has ended says to its user, and the code that it ends with.
+SetupFailure FailureOfSetup(const std::exception& error, const LanguageTexts& texts);
+
 /// Ends the installation because of the package itself: nothing has been changed yet.
 SetupFailure DamagedPackage(const LanguageTexts& texts, const Reason& reason);
 

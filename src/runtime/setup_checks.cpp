@@ -17,9 +17,9 @@ namespace {
 
 // The version that the list of programs names; empty where the product's folder has gone, and
 // nothing is left that could be newer.
-Text InstalledVersion(const SetupInput& input, const Text& product)
+Text InstalledVersion(const SetupInput& input, const Text& product, InstallScope scope)
 {
-    const RegistryKey entry = UninstallEntryKey(product, input.switches.scope);
+    const RegistryKey entry = UninstallEntryKey(product, scope);
     const auto textAt = [&](const char* name) {
         const auto data = input.target.ReadValue(entry, name);
         return data ? TextOf(*data).value_or("") : Text();
@@ -66,7 +66,7 @@ void CheckPackage(const LoadedPackage& package)
 
 void CheckFiles(const SetupCheck& check)
 {
-    const auto& [input, package, ask, log] = check;
+    const auto& [input, package, ask, log, scope] = check;
     ask.AddStatusLine(package.texts[Message::Checking]);
     CheckAgainstManifest({input.host.files, ask, log, package.texts, package.setup, package.rows,
                           package.manifest, input.switches.packageFolder});
@@ -118,7 +118,7 @@ void CheckInstalledVersion(const SetupCheck& check)
     const LanguageTexts& texts = check.package.texts;
     const Text& product = setup.project.ProjectName.ProjectName;
     const Text& own = VersionOf(setup);
-    const Text installed = InstalledVersion(check.input, product);
+    const Text installed = InstalledVersion(check.input, product, check.scope);
     if (own.empty() || installed.empty() || CompareVersions(installed, own) <= 0)
         return;
     const Switches& switches = check.input.switches;
@@ -130,19 +130,6 @@ void CheckInstalledVersion(const SetupCheck& check)
         !check.ask.YesNo(texts(Message::Title, product),
                          texts(Message::NewerInstalledQuestion, installed, own), Ask::Stops::OnNo))
         throw SetupFailure(ExitCode::Cancelled, {});
-}
-
-// Other machines' users, on shares and disks that are carried about, say nothing here.
-void CheckFolder(const SetupCheck& check, const Text& folder)
-{
-    const FileSystem& files = check.input.host.files;
-    if (folder[1] != ':' || files.DriveType(folder.substr(0, 3)) != DriveKind::Fixed)
-        return;
-    Text at = folder;
-    for (Text above = ExtractDirectory(at); above != at && !at.empty();
-         at = above, above = ExtractDirectory(at))
-        if (files.DirExists(at) && !check.input.target.IsOfTrustedUser(at))
-            throw SetupFailure(ExitCode::Failed, check.package.texts(Message::FolderOfOthers, at));
 }
 
 } // namespace quillon

@@ -1,5 +1,5 @@
 // What the setup finds out before it asks its user anything, each by itself: whether the command
-// line, the package, the machine and the folder are such that it may go on. Each check ends the
+// line, the package and the machine are such that it may go on. Each check ends the
 // setup by a `SetupFailure`.
 #pragma once
 
@@ -12,6 +12,7 @@ struct SetupCheck {
     const LoadedPackage& package;
     Ask& ask;
     ActionLog& log;
+    InstallScope scope; // that the setup installs in
 };
 
 /// The switches, and whether another setup runs that they would disturb.
@@ -35,8 +36,5 @@ void CheckSystem(const SetupCheck& check);
 /// Whether a newer version of the product is installed. Where nobody is asked whether the older one
 /// replaces it, the setup ends.
 void CheckInstalledVersion(const SetupCheck& check);
-
-/// Who has made a folder decides who may write to it, and so what the product's programs are.
-void CheckFolder(const SetupCheck& check, const Text& folder);
 
 } // namespace quillon

@@ -24,6 +24,7 @@
 #include "runtime/setup_checks.h"
 #include "runtime/setup_help.h"
 #include "runtime/start_uninstaller.h"
+#include "runtime/trusted_folders.h"
 #include "runtime/uninstall_entry.h"
 
 namespace quillon {
@@ -34,7 +35,8 @@ class SetupProgram {
 public:
     SetupProgram(const SetupInput& input, const LoadedPackage& package)
         : input_(input), package_(package), texts_(package.texts), setup_(package.setup),
-          withoutBoxes_(input.ask), ask_(input.switches.suppressBoxes ? withoutBoxes_ : input.ask)
+          withoutBoxes_(input.ask), ask_(input.switches.suppressBoxes ? withoutBoxes_ : input.ask),
+          scope_(input.switches.scope)
     {
     }
 
@@ -46,13 +48,14 @@ private:
     void OpenLog();
     SetupCheck Checked();
     void TakeSwitches();
+    void ChooseScope();
     void FreeFilesInUse(const InstallPlan& plan);
     void RunProgramBefore();
     void FindDestination();
     void LeadThroughPages();
     void KeepAnswers();
     SetupVariables Variables() const;
-    InstallPlan Plan(const SetupVariables& variables) const;
+    InstallPlan PlanForTrustedFolders(const SetupVariables& variables);
     PackageReader Reader();
     InstallResult InstallPackage();
     void LogSound();
@@ -72,7 +75,8 @@ private:
     PassiveAsk withoutBoxes_;
     Ask& ask_;            // the pages alone have a user who is asked under /SUPPRESSMSGBOXES
     UserChoices choices_; // so far
-    Text destination_;    // empty: the project's own
+    InstallScope scope_;
+    Text destination_; // empty: the project's own
     bool isUpdate_ = false;
     std::unique_ptr<PageChain> chain_;
     bool startsMachineAnew_ = false;
@@ -132,20 +136,9 @@ SetupEnd SetupProgram::Run()
         log_.End(code, done == ExitCode::Done ? RunEnd::Done : RunEnd::RestartDue);
         log_.Close();
         return {code, startsMachineAnew_};
-    } catch (const SetupFailure& failure) {
+    } catch (const std::exception& error) {
+        const SetupFailure failure = FailureOfSetup(error, texts_);
         return {Fail(failure.Code(), failure.what())};
-    } catch (const ZipError& error) {
-        if (error.Reason() == ZipError::Kind::WrongPassword)
-            return {Fail(ExitCode::Failed, texts_[Message::WrongPassword])};
-        return {Fail(ExitCode::DamagedPackage, texts_(Message::Damaged, texts_(ReasonOf(error))))};
-    } catch (const RunError& error) {
-        if (error.Number() == ErrorNumber::kDiskFull)
-            return {Fail(ExitCode::DiskFull, texts_(Message::DiskFull, error.Path()))};
-        if (error.Number() == ErrorNumber::kFileInUse)
-            return {Fail(ExitCode::FileInUse, texts_(Message::FileInUse, error.Path()))};
-        return {Fail(ExitCode::Failed, texts_(Message::Failed, texts_(ReasonOf(error))))};
-    } catch (const std::exception& error) { // too little memory
-        return {Fail(ExitCode::Failed, texts_(Message::Failed, FailureReason(error, texts_)))};
     }
 }
 
@@ -161,7 +154,7 @@ void SetupProgram::OpenLog()
 
 SetupCheck SetupProgram::Checked()
 {
-    return {input_, package_, ask_, log_};
+    return {input_, package_, ask_, log_, scope_};
 }
 
 // What only the package can tell the meaning of.
@@ -173,9 +166,18 @@ void SetupProgram::TakeSwitches()
             RefuseSwitch(texts_, "/COMPONENTS=" + *unknown);
     TakeAnswers(input_.switches, setup_, input_.host.machine, choices_);
     ApplyChoices(choices_, setup_);
-    if (input_.switches.scope != InstallScope::Project)
+    ChooseScope();
+}
+
+// An update stays with whom its earlier version was installed for, so that the product is installed
+// once.
+void SetupProgram::ChooseScope()
+{
+    if (const auto earlier = FindEarlierVersion(setup_, input_.host, input_.target, scope_))
+        scope_ = earlier->scope;
+    if (scope_ != InstallScope::Project)
         setup_.project.ProgramGroup.ProgramGroup_AllUsers =
-            input_.switches.scope == InstallScope::AllUsers ? kOn : kOff;
+            scope_ == InstallScope::AllUsers ? kOn : kOff;
 }
 
 void SetupProgram::FreeFilesInUse(const InstallPlan& plan)
@@ -205,10 +207,11 @@ void SetupProgram::FindDestination()
         destination_ = input_.switches.destination;
     if (!destination_.empty())
         return;
-    const auto earlier =
-        EarlierVersionFolder(setup_, input_.host, input_.target, input_.switches.scope);
-    destination_ = earlier.value_or("");
-    isUpdate_ = earlier.has_value();
+    // A program that has run before may have changed what is installed, but for whom is settled.
+    const auto earlier = FindEarlierVersion(setup_, input_.host, input_.target, scope_);
+    isUpdate_ = earlier && earlier->scope == scope_;
+    if (isUpdate_)
+        destination_ = earlier->folder;
 }
 
 void SetupProgram::LeadThroughPages()
@@ -217,10 +220,10 @@ void SetupProgram::LeadThroughPages()
         input_.sound->Start();
     if (input_.pages == nullptr || IsTask(SetupTask::Plan))
         return;
-    chain_ = std::make_unique<PageChain>(PageInput{
-        input_.host, input_.target, input_.ask, texts_, setup_, package_.rows,
-        input_.switches.packageFolder, destination_, isUpdate_,
-        HasPassword(input_.switches, setup_), input_.switches.scope, input_.switches.canCancel});
+    chain_ = std::make_unique<PageChain>(
+        PageInput{input_.host, input_.target, input_.ask, texts_, setup_, package_.rows,
+                  input_.switches.packageFolder, destination_, isUpdate_,
+                  HasPassword(input_.switches, setup_), scope_, input_.switches.canCancel});
     if (chain_->ShowPages(*input_.pages) == PageChain::End::Cancelled)
         throw SetupFailure(ExitCode::Cancelled, {});
     AddChoices(chain_->Choices(), choices_);
@@ -241,16 +244,18 @@ void SetupProgram::KeepAnswers()
 
 SetupVariables SetupProgram::Variables() const
 {
-    return MakeSetupVariables({setup_, input_.host, input_.target, input_.switches.packageFolder,
-                               destination_, input_.switches.scope});
+    return MakeSetupVariables(
+        {setup_, input_.host, input_.target, input_.switches.packageFolder, destination_, scope_});
 }
 
-InstallPlan SetupProgram::Plan(const SetupVariables& variables) const
+InstallPlan SetupProgram::PlanForTrustedFolders(const SetupVariables& variables)
 {
+    CheckFolder(Checked(), variables.Value(NameOf(VariableMeaning::MainFolder)));
     InstallPlan plan =
         MakeInstallPlan({setup_, package_.rows, variables, texts_, input_.host, input_.target});
-    plan.scope = input_.switches.scope;
+    plan.scope = scope_;
     CheckScope(plan, texts_, input_.target, input_.host.machine);
+    CheckFoldersOfParts(Checked(), plan);
     return plan;
 }
 
@@ -265,10 +270,9 @@ PackageReader SetupProgram::Reader()
 InstallResult SetupProgram::InstallPackage()
 {
     const SetupVariables variables = Variables();
-    CheckFolder(Checked(), variables.Value(NameOf(VariableMeaning::MainFolder)));
-    const InstallPlan plan = Plan(variables);
+    const InstallPlan plan = PlanForTrustedFolders(variables);
     FinishEarlierRuns({input_.host, input_.target, log_, texts_, package_.setup, variables,
-                       input_.switches.packageFolder, input_.switches.scope});
+                       input_.switches.packageFolder, scope_});
     FileSystem& files = input_.host.files;
     KeepHelpers(files, input_.switches.packageFolder, input_.workFolder);
     CheckHelpers(files, input_.workFolder, plan, texts_);
@@ -368,8 +372,7 @@ ExitCode SetupProgram::Extract()
 ExitCode SetupProgram::WritePlan()
 {
     const SetupVariables variables = Variables();
-    CheckFolder(Checked(), variables.Value(NameOf(VariableMeaning::MainFolder)));
-    const InstallPlan plan = Plan(variables);
+    const InstallPlan plan = PlanForTrustedFolders(variables);
     FileSystem& files = input_.host.files;
     CheckHelpers(files, input_.switches.packageFolder, plan, texts_);
     Reader().CheckEverything();

@@ -565,7 +565,11 @@ protected:
         target.MakeKey(key);
         target.WriteValue(key, name, TextData(text));
     }
-    std::optional<Text> Find() { return EarlierVersionFolder(setup, memory.host, target); }
+    std::optional<Text> Find()
+    {
+        const auto found = FindEarlierVersion(setup, memory.host, target);
+        return found ? std::optional(found->folder) : std::nullopt;
+    }
 };
 
 TEST_F(EarlierVersion, IsFoundWhereItWasInstalled)

@@ -5,6 +5,8 @@
 #include "runtime/switches.h"
 #include "runtime/uninstall_entry.h"
 
+#include <vector>
+
 namespace quillon {
 
 namespace {
@@ -35,31 +37,49 @@ Text FolderItself(const FileSystem& files, const Text& path)
     return files.FileExists(path) ? ExtractDirectory(path) : path;
 }
 
-bool HoldsTheProduct(const FileSystem& files, const Text& folder, const Text& referenceFile)
+// Nothing where the folder does not hold the product.
+std::optional<Text> FolderOfProduct(const SetupInformation& setup, const FileSystem& files,
+                                    const std::optional<Text>& named)
 {
-    return referenceFile.empty() ? files.DirExists(folder)
-                                 : files.FileExists(JoinPath(folder, referenceFile));
+    if (!named)
+        return std::nullopt;
+    const Text folder = FolderItself(files, *named);
+    const Text& referenceFile = setup.project.Updates.UpdateReferenceFile;
+    const bool holds = referenceFile.empty() ? files.DirExists(folder)
+                                             : files.FileExists(JoinPath(folder, referenceFile));
+    return holds ? std::optional(folder) : std::nullopt;
+}
+
+// The one that the list of programs names.
+std::optional<EarlierVersion> ListedVersion(const SetupInformation& setup, const FileSystem& files,
+                                            const Target& target, InstallScope wanted)
+{
+    std::vector<InstallScope> scopes{wanted};
+    if (wanted == InstallScope::Project)
+        scopes.push_back(InstallScope::CurrentUser);
+    for (const InstallScope scope : scopes) {
+        const RegistryKey entry = UninstallEntryKey(setup.project.ProjectName.ProjectName, scope);
+        if (const auto folder =
+                FolderOfProduct(setup, files, FolderNamedBy(target, entry, "InstallLocation")))
+            return EarlierVersion{*folder, scope};
+    }
+    return std::nullopt;
 }
 
 } // namespace
 
-std::optional<Text> EarlierVersionFolder(const SetupInformation& setup, const Host& host,
-                                         const Target& target, InstallScope scope)
+std::optional<EarlierVersion> FindEarlierVersion(const SetupInformation& setup, const Host& host,
+                                                 const Target& target, InstallScope scope)
 {
     const section::Updates& updates = setup.project.Updates;
     if (updates.HandleUpdate == kOff)
         return std::nullopt;
-    const auto usual = FolderNamedBy(
-        target, UninstallEntryKey(setup.project.ProjectName.ProjectName, scope), "InstallLocation");
-    const auto own = FolderOfOwnKey(updates, target);
-    const bool ownFirst = updates.AdvUpdateRegAlwaysUseUserDefKey != kOff;
-    for (const auto& found : {ownFirst ? own : usual, ownFirst ? usual : own})
-        if (found) {
-            const Text folder = FolderItself(host.files, *found);
-            if (HoldsTheProduct(host.files, folder, updates.UpdateReferenceFile))
-                return folder;
-        }
-    return std::nullopt;
+    const auto listed = ListedVersion(setup, host.files, target, scope);
+    const auto own = FolderOfProduct(setup, host.files, FolderOfOwnKey(updates, target));
+    if (!own || (listed && updates.AdvUpdateRegAlwaysUseUserDefKey == kOff))
+        return listed;
+    // The project's key does not say for whom the product is, but the list of programs does.
+    return EarlierVersion{*own, listed ? listed->scope : scope};
 }
 
 } // namespace quillon

@@ -7,10 +7,19 @@
 
 namespace quillon {
 
-/// The main folder of the installed version; nothing where the project does not handle updates or
-/// none is found. The folder counts only if the project's reference file is in it.
-std::optional<Text> EarlierVersionFolder(const SetupInformation& setup, const Host& host,
-                                         const Target& target,
-                                         InstallScope scope = InstallScope::Project);
+struct EarlierVersion {
+    Text folder; // its main one
+    InstallScope scope = InstallScope::Project;
+
+    bool operator==(const EarlierVersion&) const = default;
+};
+
+/// Nothing where the project does not handle updates or no version is found. A folder counts only
+/// if the project's reference file is in it. Where no switch has said for whom the product is, a
+/// version that is installed for the current user alone is found too, after one for the whole
+/// machine.
+std::optional<EarlierVersion> FindEarlierVersion(const SetupInformation& setup, const Host& host,
+                                                 const Target& target,
+                                                 InstallScope scope = InstallScope::Project);
 
 } // namespace quillon
