@@ -1,5 +1,7 @@
 #include "runtime/install.h"
 
+#include "formats/digest_text.h"
+#include "formats/package_manifest.h"
 #include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -58,6 +60,7 @@ private:
     void SkipRegistration(const Text& path, Message why);
     void RegisterAtRestart();
     void RegisterFonts();
+    void MakeShortcut(const PlannedShortcut& planned);
     void PutHelper(const char* helper, const Text& path);
     void PutUninstaller();
 
@@ -95,7 +98,7 @@ void Installation::DoEverything()
     RegisterFonts();
     PutUninstaller();
     for (const PlannedShortcut& planned : input_.plan.shortcuts)
-        transaction_.MakeShortcut(planned.path, planned.shortcut);
+        MakeShortcut(planned);
     RunScript(scripts, input_.plan.scriptAfter, Message::PartScriptAfter);
     RegisterAtRestart();
     RemoveOldFiles({input_.host, input_.target, transaction_, journal_, input_.log, input_.plan},
@@ -244,6 +247,16 @@ void Installation::RegisterFonts()
         transaction_.AnnounceFont(font.path);
         input_.log.Line(Message::LogRegistersFont, font.path);
     }
+}
+
+// What it holds shows an update whether somebody has changed it.
+void Installation::MakeShortcut(const PlannedShortcut& planned)
+{
+    const FileSystem& files = input_.host.files;
+    transaction_.MakeShortcut(planned.path, planned.shortcut);
+    if (input_.plan.hasUninstaller)
+        journal_.Add(record::Content{planned.path, files.Status(planned.path).size,
+                                     DigestText(DigestOfFile(files, planned.path))});
 }
 
 void Installation::PutHelper(const char* helper, const Text& path)

@@ -65,12 +65,13 @@ void PlanRows(const PlanInput& input, InstallPlan& plan)
     for (const InstallRow& row : input.rows) {
         const Text folder = DestinationOf(input, row);
         const Text path = IsEmptyFolderRow(row) ? folder : JoinPath(folder, row.name);
-        if (const auto reason = ReasonToSkip(input, row))
+        const auto reason = ReasonToSkip(input, row);
+        if (reason)
             plan.skipped.push_back({path, *reason});
-        else if (IsEmptyFolderRow(row))
+        if (!IsEmptyFolderRow(row))
+            (reason ? plan.filesLeftOut : plan.files).push_back({&row, path});
+        else if (!reason)
             plan.folders.push_back(path);
-        else
-            plan.files.push_back({&row, path});
     }
 }
 

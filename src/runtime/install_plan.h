@@ -34,6 +34,9 @@ struct InstallPlan {
     Text mainFolder;
     std::vector<Text> folders; // of the rows that make an empty one
     std::vector<PlannedFile> files;
+    // Of rows that are not installed this time. Those of an earlier installation stay.
+    std::vector<PlannedFile> filesLeftOut;
+    std::vector<Text> shortcutsLeftOut;
     std::vector<PlannedShortcut> shortcuts;
     Text programGroup; // the folder of the group
     std::vector<RegistryLine> registry;

@@ -7,6 +7,7 @@
 #include "platform/whole_file.h"
 #include "runtime/failure_reason.h"
 #include "runtime/file_installer.h"
+#include "runtime/old_shortcuts.h"
 
 #include <set>
 
@@ -19,6 +20,7 @@ struct EarlierFiles {
     const Target& target;
     const InstallJournal& record;
     const KnownContents& contents;
+    const Text& mainFolder;
 };
 
 // In the place of a folder that the product made; those above it are the machine owner's own.
@@ -41,10 +43,21 @@ bool IsAsInstalled(const FileSystem& files, const record::Content& content)
     return isSame;
 }
 
+// Older records do not tell what a shortcut held. One that still leads to the product is taken for
+// unchanged.
+bool IsOwnShortcut(const EarlierFiles& earlier, const Text& path)
+{
+    if (!IsShortcut(path))
+        return false;
+    const auto shortcut = earlier.target.ReadShortcut(path);
+    return shortcut && LeadsInto(earlier.mainFolder, *shortcut);
+}
+
 std::optional<Reason> ReasonToStay(const EarlierFiles& earlier, const Text& path)
 {
     const auto content = earlier.contents.find(LowerCase(path));
-    if (content == earlier.contents.end())
+    const bool isKnown = content != earlier.contents.end();
+    if (!isKnown && !IsOwnShortcut(earlier, path))
         return Reason{Message::SkipUnknownContent};
     if (LeadsThroughLink(earlier, path))
         return Reason{Message::ReasonLinkInPath};
@@ -53,7 +66,7 @@ std::optional<Reason> ReasonToStay(const EarlierFiles& earlier, const Text& path
     if (CountOfUsers(earlier.target, path) || record.Has<record::Shared>(path) ||
         record.Has<record::Registered>(path) || record.Has<record::Font>(path))
         return Reason{Message::SkipKnownToSystem};
-    if (!IsAsInstalled(earlier.files, content->second))
+    if (isKnown && !IsAsInstalled(earlier.files, content->second))
         return Reason{Message::SkipChangedFile};
     return std::nullopt;
 }
@@ -65,6 +78,8 @@ std::set<Text> PathsOfNewVersion(const InstallPlan& plan)
         paths.insert(LowerCase(file.path));
     for (const SkippedPart& part : plan.skipped)
         paths.insert(LowerCase(part.what));
+    for (const Text& shortcut : plan.shortcutsLeftOut)
+        paths.insert(LowerCase(shortcut));
     return paths;
 }
 
@@ -93,7 +108,7 @@ private:
     const std::deque<JournalRecord>& records_;
     const std::size_t earlier_;
     std::set<Text> written_;       // by this installation; all in lower case
-    std::set<Text> wanted_;        // rows of the new version, installed or not
+    std::set<Text> wanted_;        // rows of the new version and their shortcuts, installed or not
     std::set<Text> kept_;          // folders that the new version needs
     std::map<Text, Text> leaving_; // folders that are empty afterwards, perhaps
 };
@@ -145,14 +160,15 @@ bool OldFiles::IsGone(const Text& path)
     if (!files_.FileExists(path))
         return true;
     std::optional<Reason> reason =
-        ReasonToStay({files_, work_.target, work_.record, contents_}, path);
+        ReasonToStay({files_, work_.target, work_.record, contents_, work_.plan.mainFolder}, path);
     std::optional<RunError> failure;
     if (!reason && RunErrorNumber([&] { work_.transaction.RemoveFile(path); }, failure) != 0)
         reason = ReasonOf(*failure);
     if (reason)
         work_.log.Skipped(path, *reason);
     else
-        work_.log.Line(Message::LogRemovesOldFile, path);
+        work_.log.Line(IsShortcut(path) ? Message::LogRemovesShortcut : Message::LogRemovesOldFile,
+                       path);
     return !reason;
 }
 
@@ -215,8 +231,9 @@ std::vector<OldFile> PlanOldFiles(const FileSystem& files, const Target& target,
     for (const JournalRecord& one : record.Records())
         if (const auto* const file = std::get_if<record::File>(&one);
             file && known.insert(LowerCase(file->path)).second && files.FileExists(file->path))
-            found.push_back(
-                {file->path, ReasonToStay({files, target, record, earlier.contents}, file->path)});
+            found.push_back({file->path, ReasonToStay({files, target, record, earlier.contents,
+                                                       plan.mainFolder},
+                                                      file->path)});
     return found;
 }
 

@@ -4,17 +4,18 @@
 
 namespace quillon {
 
-namespace {
-
-bool LeadsInto(const Text& folder, const std::optional<Shortcut>& shortcut)
+bool LeadsInto(const Text& folder, const Shortcut& shortcut)
 {
     const Text inside = LowerCase(folder) + "\\";
-    // A document is opened by a viewer, whose first argument it is.
-    return shortcut && (LowerCase(shortcut->program).starts_with(inside) ||
-                        LowerCase(shortcut->arguments).starts_with("\"" + inside));
+    // A document is the first argument of its viewer.
+    return LowerCase(shortcut.program).starts_with(inside) ||
+           LowerCase(shortcut.arguments).starts_with("\"" + inside);
 }
 
-} // namespace
+bool IsShortcut(const Text& path)
+{
+    return LowerCase(path).ends_with(".lnk");
+}
 
 std::vector<Text> OldShortcuts(const FileSystem& files, const Target& target,
                                const InstallJournal& record, const InstallPlan& plan)
@@ -24,9 +25,12 @@ std::vector<Text> OldShortcuts(const FileSystem& files, const Target& target,
         return found;
     for (const FolderEntry& entry : files.List(plan.programGroup)) {
         const Text path = JoinPath(plan.programGroup, entry.name);
-        const bool isShortcut = !entry.status.isFolder && LowerCase(entry.name).ends_with(".lnk");
-        if (isShortcut && (record.Has<record::File>(path) || record.Has<record::Replaced>(path) ||
-                           LeadsInto(plan.mainFolder, target.ReadShortcut(path))))
+        if (entry.status.isFolder || !IsShortcut(path))
+            continue;
+        const bool isRecorded =
+            record.Has<record::File>(path) || record.Has<record::Replaced>(path);
+        const auto shortcut = isRecorded ? std::nullopt : target.ReadShortcut(path);
+        if (isRecorded || (shortcut && LeadsInto(plan.mainFolder, *shortcut)))
             found.push_back(path);
     }
     return found;

@@ -6,6 +6,11 @@
 
 namespace quillon {
 
+/// By its program or by the document that a viewer opens.
+bool LeadsInto(const Text& folder, const Shortcut& shortcut);
+
+bool IsShortcut(const Text& path);
+
 /// Those that the record names, and those that lead into the main folder all the same. In the group
 /// of a new project, products of many makers lie side by side.
 std::vector<Text> OldShortcuts(const FileSystem& files, const Target& target,

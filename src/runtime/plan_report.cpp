@@ -8,6 +8,8 @@
 #include "runtime/startup_files.h"
 #include "runtime/uninstall_entry.h"
 
+#include <set>
+
 namespace quillon {
 
 namespace {
@@ -215,14 +217,6 @@ void AddRemovals(JsonWriter& json, const PlanReportInput& input, std::vector<Ski
 {
     const InstallPlan& plan = input.plan;
     std::vector<Text> files;
-    const auto found = plan.hasUninstaller ? PlanOldFiles(input.files, input.target, plan)
-                                           : std::vector<OldFile>();
-    for (const OldFile& old : found)
-        if (old.stays)
-            skipped.push_back({old.path, *old.stays});
-        else
-            files.push_back(old.path);
-    AddTexts(json, "filesRemoved", files);
     std::vector<Text> shortcuts;
     if (input.setup.project.InstallOptions.DeleteProgGroup != kOff) {
         InstallJournal record;
@@ -231,6 +225,17 @@ void AddRemovals(JsonWriter& json, const PlanReportInput& input, std::vector<Ski
                 ReadEarlierRecord(input.files, input.target, plan.installJournal).records);
         shortcuts = OldShortcuts(input.files, input.target, record, plan);
     }
+    const std::set<Text> ofGroup(shortcuts.begin(), shortcuts.end());
+    const auto found = plan.hasUninstaller ? PlanOldFiles(input.files, input.target, plan)
+                                           : std::vector<OldFile>();
+    for (const OldFile& old : found)
+        if (ofGroup.count(old.path) > 0)
+            continue;
+        else if (old.stays)
+            skipped.push_back({old.path, *old.stays});
+        else
+            (IsShortcut(old.path) ? shortcuts : files).push_back(old.path);
+    AddTexts(json, "filesRemoved", files);
     AddTexts(json, "shortcutsRemoved", shortcuts);
 }
 

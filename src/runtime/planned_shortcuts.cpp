@@ -130,6 +130,26 @@ Text SecondPlace(const PlanInput& input, const Places& places, const Text& marke
     }
 }
 
+struct ShortcutPlaces {
+    const PlanInput& input;
+    const Places& places;
+    const Text& programGroup;
+};
+
+void AddShortcuts(const ShortcutPlaces& where, const PlannedFile& file,
+                  std::vector<PlannedShortcut>& shortcuts)
+{
+    if (!HasIcon(*file.row))
+        return;
+    const Shortcut shortcut = ShortcutOf(where.input, file);
+    const Text title =
+        AsFileName(shortcut.description.empty() ? file.row->name : shortcut.description);
+    shortcuts.push_back({JoinPath(where.programGroup, title + ".lnk"), shortcut});
+    const Text second = SecondPlace(where.input, where.places, file.row->iconMarker);
+    if (!second.empty())
+        shortcuts.push_back({JoinPath(second, title + ".lnk"), shortcut});
+}
+
 void PlanUninstallIcon(const PlanInput& input, InstallPlan& plan)
 {
     const section::InstallOptions& options = input.setup.project.InstallOptions;
@@ -151,18 +171,14 @@ void PlanShortcuts(const PlanInput& input, InstallPlan& plan)
 {
     const Places places = PlacesOf(input);
     plan.programGroup = GroupFolder(input, places);
-    for (const PlannedFile& file : plan.files) {
-        if (!HasIcon(*file.row))
-            continue;
-        const Shortcut shortcut = ShortcutOf(input, file);
-        const Text title =
-            AsFileName(shortcut.description.empty() ? file.row->name : shortcut.description);
-        plan.shortcuts.push_back({JoinPath(plan.programGroup, title + ".lnk"), shortcut});
-        const Text second = SecondPlace(input, places, file.row->iconMarker);
-        if (!second.empty())
-            plan.shortcuts.push_back({JoinPath(second, title + ".lnk"), shortcut});
-    }
+    for (const PlannedFile& file : plan.files)
+        AddShortcuts({input, places, plan.programGroup}, file, plan.shortcuts);
     PlanUninstallIcon(input, plan);
+    std::vector<PlannedShortcut> leftOut;
+    for (const PlannedFile& file : plan.filesLeftOut)
+        AddShortcuts({input, places, plan.programGroup}, file, leftOut);
+    for (const PlannedShortcut& shortcut : leftOut)
+        plan.shortcutsLeftOut.push_back(shortcut.path);
 }
 
 Text AsFileName(std::string_view text)

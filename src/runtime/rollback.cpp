@@ -41,6 +41,7 @@ private:
     void Undo(const record::RegisteredBefore& file);
     void Undo(const record::Font& font);
     void Undo(const record::AnnouncedBefore& font);
+    void Undo(const record::AtRestart& move) { ForgetMoveAtRestart(target_, move.from); }
     // What is no step of a transaction, or nothing to take back.
     template <class Record>
     void Undo(const Record&)

@@ -2,6 +2,7 @@
 
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
+#include "runtime/restart_moves.h"
 
 #include <gtest/gtest.h>
 
@@ -158,6 +159,22 @@ void MemoryTarget::MoveAtRestart(const Text& from, const Text& to)
 {
     beforeChange();
     movesAtRestart.emplace_back(from, to);
+    if (listsMovesAtRestart)
+        ListMoveAtRestart(from, to);
+}
+
+// Pairs of texts, of which the second may be empty, and an empty text behind the last pair.
+void MemoryTarget::ListMoveAtRestart(const Text& from, const Text& to)
+{
+    constexpr std::uint32_t kListOfTexts = 7;
+    const std::string empty(2, '\0');
+    const auto present = ReadValue(RestartMovesKey(), kRestartMoves);
+    std::string moves = present ? present->bytes : empty;
+    moves.resize(moves.size() - empty.size());
+    moves += TextData("\\??\\" + from).bytes;
+    moves += to.empty() ? empty : TextData("!\\??\\" + to).bytes;
+    auto& value = keys.at(IdOf(RestartMovesKey())).values[LowerCase(kRestartMoves)];
+    value = {kRestartMoves, {kListOfTexts, moves + empty}};
 }
 
 int MemoryTarget::RunProgram(const ProgramRun& run)

@@ -56,6 +56,7 @@ public:
     std::map<Text, Registration> registrationAnswers; // Done where not named
     std::set<Text> fonts;
     std::vector<std::pair<Text, Text>> movesAtRestart;
+    bool listsMovesAtRestart = false; // in its registry as well, as Windows does
     bool hasCommonFolders = true;
     std::vector<Text> programsRun;    // a program, its arguments and " (hidden)" behind it
     std::map<Text, int> programCodes; // 0 where not named
@@ -66,6 +67,8 @@ public:
     std::set<Text> links;    // in lower case
 
 private:
+    void ListMoveAtRestart(const Text& from, const Text& to);
+
     FileSystem* files_;
 };
 

@@ -157,5 +157,61 @@ TEST_F(RestartMoves, AreForgottenBehindASetupThatWasKilledAfterItsCommit)
     EXPECT_EQ(memory.files.Get(kFile), "version 3");
 }
 
+/// A setup that ends when it asks the system for its second move.
+class RestartMovesOfAFailedSetup : public RestartMoves {
+protected:
+    RestartMovesOfAFailedSetup()
+    {
+        AddFile("b.dll", "%DESTDIR", "version 1", "A");
+        EXPECT_EQ(Install(), ExitCode::Done) << Log();
+        before = State();
+        target.listsMovesAtRestart = true;
+        WriteMoves(others);
+        files.inUse = {kFile, kMain + "\\b.dll"};
+    }
+    /// Once.
+    template <class Failure>
+    void FailAtSecondMove(const Failure& failure)
+    {
+        target.beforeChange = [this, failure] {
+            if (target.movesAtRestart.size() != 1 || wasListed)
+                return;
+            wasListed = Moves() != others + kEmpty;
+            throw failure;
+        };
+    }
+    void ExpectNothingLeft()
+    {
+        EXPECT_EQ(Moves(), others + kEmpty);
+        EXPECT_EQ(TempFolders(), 0);
+        target.keys.at({RegistryRoot::LocalMachine, LowerCase(RestartMovesKey().subKey)})
+            .values.clear();
+        EXPECT_EQ(State(), before);
+    }
+
+    const std::string others = Move("C:\\bort.txt", "");
+    MachineState before;
+    bool wasListed = false; // the first move
+};
+
+TEST_F(RestartMovesOfAFailedSetup, AreForgottenWhenItIsUndone)
+{
+    FailAtSecondMove(RunError(ErrorNumber::kDeviceIo, "disken"));
+    EXPECT_EQ(Install(), ExitCode::Failed) << Log();
+    EXPECT_TRUE(wasListed);
+    ExpectNothingLeft();
+}
+
+TEST_F(RestartMovesOfAFailedSetup, AreForgottenByTheNextRunWhereItWasKilled)
+{
+    struct Killed {};
+    FailAtSecondMove(Killed{});
+    EXPECT_THROW(Install(), Killed);
+    EXPECT_TRUE(wasListed);
+    ActionLog log;
+    EXPECT_EQ(FinishInterrupted({host, target, log}, kMain), EarlierRun::Finished);
+    ExpectNothingLeft();
+}
+
 } // namespace
 } // namespace quillon::test
