@@ -5,6 +5,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/failure_reason.h"
+#include "runtime/package_copy.h"
 #include "runtime/plan_report.h"
 
 #include <algorithm>
@@ -48,16 +49,15 @@ void CheckFreeSpace(const FileSystem& files, const InstallPlan& plan)
 }
 
 // The package may lie on a disk that is changed while its files are read.
-void KeepHelpers(FileSystem& files, const Text& packageFolder, const Text& workFolder)
+void KeepHelpers(const HelperCopies& input)
 {
     for (const char* helper :
          {RuntimePrograms::kRegistryHelper.inPackage,
           RuntimePrograms::kSecondRegistryHelper.inPackage, RuntimePrograms::kUninstaller.inPackage,
-          RuntimePrograms::kSetup.inPackage}) {
-        const Text path = JoinPath(packageFolder, helper);
-        if (files.FileExists(path))
-            files.CopyContent(path, JoinPath(workFolder, helper));
-    }
+          RuntimePrograms::kSetup.inPackage})
+        if (input.files.FileExists(JoinPath(input.packageFolder, helper)))
+            CopyFromPackage(input.files, input.packageFolder, helper,
+                            JoinPath(input.workFolder, helper), input.manifest, input.texts);
 }
 
 // What is needed at the very end has to be there before the first file is written.

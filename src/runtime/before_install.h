@@ -1,6 +1,7 @@
 // What has to hold before the first file of a package is written.
 #pragma once
 
+#include "formats/package_manifest.h"
 #include "runtime/install_plan.h"
 
 namespace quillon {
@@ -11,8 +12,17 @@ Flag IsMeantFor(const section::TargetOS& systems, SystemKind system);
 /// Throws `RunError` of a full disk where a drive has less room than goes there.
 void CheckFreeSpace(const FileSystem& files, const InstallPlan& plan);
 
-/// Copies the programs that an installation leaves on the machine to the work folder.
-void KeepHelpers(FileSystem& files, const Text& packageFolder, const Text& workFolder);
+struct HelperCopies {
+    FileSystem& files;
+    const Text& packageFolder;
+    const Text& workFolder;
+    const PackageManifest& manifest;
+    const LanguageTexts& texts;
+};
+
+/// Copies the programs that an installation starts or leaves on the machine to the work folder, as
+/// far as the package has them. Throws `SetupFailure` where a copy is not what the manifest lists.
+void KeepHelpers(const HelperCopies& input);
 
 /// Throws `SetupFailure` where one that the plan needs is missing.
 void CheckHelpers(const FileSystem& files, const Text& workFolder, const InstallPlan& plan,

@@ -7,10 +7,9 @@
 #include "platform/registry_roots.h"
 #include "platform/run_error.h"
 #include "runtime/failure_reason.h"
+#include "runtime/package_copy.h"
 #include "runtime/rollback.h"
 #include "runtime/switches.h"
-
-#include <algorithm>
 
 namespace quillon {
 
@@ -27,7 +26,7 @@ public:
     std::optional<Text> Run();
 
 private:
-    void CopyFromPackage() const;
+    void Copy() const;
     int Start() const;
     [[noreturn]] void Cancel() const { throw SetupFailure(ExitCode::Cancelled, {}); }
     std::optional<Text> FolderFromRegistry() const;
@@ -52,7 +51,7 @@ std::optional<Text> FirstProgram::Run()
         input_.log.Skipped(input_.texts[Message::PartFirstProgram], {Message::SkipSilent});
         return std::nullopt;
     }
-    CopyFromPackage();
+    Copy();
     int code = Start();
     // Before it there is nothing to go back to: the user leaves the setup, or begins again.
     while (IsCode(program_.ReturnValueBack, code) && !IsCode(program_.ReturnValueExit, code)) {
@@ -68,24 +67,13 @@ std::optional<Text> FirstProgram::Run()
     return IsCode(program_.ReturnValueDD, code) ? FolderFromRegistry() : std::nullopt;
 }
 
-// What is started is what the manifest tells, whoever may write to the package's folder.
-void FirstProgram::CopyFromPackage() const
+void FirstProgram::Copy() const
 {
-    FileSystem& files = input_.host.files;
     const Text& name = program_.ProgramFilename;
     if (FaultOfName(name) != PathFault::None)
         throw DamagedPackage(input_.texts, {Message::PackageFileDamaged, kSetupInformationName});
-    const Text path = JoinPath(input_.packageFolder, name);
-    if (!files.FileExists(path))
-        throw DamagedPackage(input_.texts, {Message::PackageFileMissing, name});
-    files.CopyContent(path, copy_);
-    if (input_.manifest.state == PackageManifest::State::Missing)
-        return;
-    const Sha256Digest digest = DigestOfFile(files, copy_);
-    if (std::ranges::none_of(input_.manifest.lines, [&](const ManifestLine& line) {
-            return EqualIgnoreCase(line.name, name) && line.digest == digest;
-        }))
-        throw DamagedPackage(input_.texts, {Message::PackageFileDamaged, name});
+    CopyFromPackage(input_.host.files, input_.packageFolder, name, copy_, input_.manifest,
+                    input_.texts);
 }
 
 int FirstProgram::Start() const

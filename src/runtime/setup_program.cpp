@@ -274,7 +274,8 @@ InstallResult SetupProgram::InstallPackage()
     FinishEarlierRuns({input_.host, input_.target, log_, texts_, package_.setup, variables,
                        input_.switches.packageFolder, scope_});
     FileSystem& files = input_.host.files;
-    KeepHelpers(files, input_.switches.packageFolder, input_.workFolder);
+    KeepHelpers(
+        {files, input_.switches.packageFolder, input_.workFolder, package_.manifest, texts_});
     CheckHelpers(files, input_.workFolder, plan, texts_);
     PackageReader reader = Reader();
     reader.CheckEverything();

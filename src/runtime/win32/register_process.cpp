@@ -5,6 +5,7 @@
 #include "platform/win32/wide_text.h"
 #include "runtime/win32/private_folder.h"
 #include "runtime/win32/register_server.h"
+#include "runtime/win32/wait_for_program.h"
 
 #include <objbase.h>
 
@@ -46,18 +47,15 @@ int RegisterInOwnProcess(const Text& path, bool on)
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    if (!CreateProcessW(Wide(ProgramPath()).c_str(), line.data(), nullptr, nullptr, TRUE, 0,
-                        nullptr, nullptr, &startup, &process))
+    if (!CreateProcessW(Wide(ProgramPath()).c_str(), line.data(), nullptr, nullptr, TRUE,
+                        CREATE_NO_WINDOW, nullptr, nullptr, &startup, &process))
         return kRegistrationFailed;
     const FileHandle thread(process.hThread);
     const FileHandle running(process.hProcess);
     DWORD written = 0;
     WriteFile(write, path.data(), static_cast<DWORD>(path.size()), &written, nullptr);
     writeEnd.Close();
-    WaitForSingleObject(running.Get(), INFINITE);
-    DWORD code = kRegistrationFailed;
-    GetExitCodeProcess(running.Get(), &code);
-    return static_cast<int>(code);
+    return static_cast<int>(WaitForProgram(running.Get()));
 }
 
 std::optional<int> RegisterForParent(std::string_view commandLine)

@@ -1,5 +1,7 @@
 #include "runtime/win32/register_server.h"
 
+#include "runtime/win32/wait_for_program.h"
+
 #include <objbase.h>
 
 #include <cwchar>
@@ -34,12 +36,10 @@ int RunAndWait(const wchar_t* program, wchar_t* commandLine)
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    if (!CreateProcessW(program, commandLine, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &process))
+    if (!CreateProcessW(program, commandLine, nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
+                        nullptr, &startup, &process))
         return -1;
-    WaitForSingleObject(process.hProcess, INFINITE);
-    DWORD code = 0;
-    GetExitCodeProcess(process.hProcess, &code);
+    const DWORD code = WaitForProgram(process.hProcess);
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
     return static_cast<int>(code);

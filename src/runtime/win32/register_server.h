@@ -14,7 +14,8 @@ inline constexpr int kRegistrationFailed = 2;
 /// its entry point called, in the file's own folder.
 int RegisterServerFile(const wchar_t* path, bool on);
 
-/// Starts a program and waits for it; its exit code, or -1 where it can't be started.
+/// Starts a program, a console program without a window, and waits for it as `WaitForProgram` does;
+/// its exit code, or -1 where it can't be started.
 int RunAndWait(const wchar_t* program, wchar_t* commandLine);
 
 } // namespace quillon

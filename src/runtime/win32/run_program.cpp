@@ -4,27 +4,11 @@
 #include "platform/win32/open_file.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
+#include "runtime/win32/wait_for_program.h"
 
 #include <windows.h>
 
 namespace quillon {
-
-namespace {
-
-// The setup's own windows are moved and painted meanwhile; what the user presses there is heeded
-// afterwards.
-void WaitFor(HANDLE process)
-{
-    while (MsgWaitForMultipleObjects(1, &process, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) {
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
-    }
-}
-
-} // namespace
 
 int RunProgramAndWait(const ProgramRun& run)
 {
@@ -42,10 +26,7 @@ int RunProgramAndWait(const ProgramRun& run)
         FailAsWindowsSays(run.program);
     const FileHandle thread(process.hThread);
     const FileHandle running(process.hProcess);
-    WaitFor(running.Get());
-    DWORD code = 0;
-    GetExitCodeProcess(running.Get(), &code);
-    return static_cast<int>(code);
+    return static_cast<int>(WaitForProgram(running.Get()));
 }
 
 } // namespace quillon

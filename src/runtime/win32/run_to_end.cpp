@@ -1,8 +1,9 @@
 #include "runtime/win32/run_to_end.h"
 
-#include "helpers/windows_path.h"
+#include "platform/win32/open_file.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
+#include "runtime/win32/wait_for_program.h"
 
 #include <windows.h>
 
@@ -14,15 +15,12 @@ int RunToEnd(const Text& program, const Text& arguments)
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    if (!CreateProcessW(Wide(program).c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                        nullptr, &startup, &process))
+    if (!CreateProcessW(Wide(program).c_str(), line.data(), nullptr, nullptr, FALSE,
+                        CREATE_NO_WINDOW, nullptr, nullptr, &startup, &process))
         FailAsWindowsSays(program);
-    WaitForSingleObject(process.hProcess, INFINITE);
-    DWORD code = 0;
-    GetExitCodeProcess(process.hProcess, &code);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    return static_cast<int>(code);
+    const FileHandle thread(process.hThread);
+    const FileHandle running(process.hProcess);
+    return static_cast<int>(WaitForProgram(running.Get()));
 }
 
 } // namespace quillon
