@@ -20,9 +20,7 @@ void ActionLog::TextLine(std::string_view text)
 {
     if (!file_)
         return;
-    const LocalTime now = machine_->Now();
-    const Text line =
-        DateText(now) + " " + TimeTextWithSeconds(now) + "  " + Text(text) + Text(kLineBreak);
+    const Text line = LogLine(*machine_, text);
     try {
         file_->Write(std::as_bytes(std::span(line)));
     } catch (const RunError&) {
@@ -82,6 +80,12 @@ void ActionLog::Close()
     } catch (const RunError&) {
         // The disk gave out at the very end; what it took is there to read.
     }
+}
+
+Text LogLine(const Machine& machine, std::string_view text)
+{
+    const LocalTime now = machine.Now();
+    return DateText(now) + " " + TimeTextWithSeconds(now) + "  " + Text(text) + Text(kLineBreak);
 }
 
 void OpenLogs(ActionLog& log, FileSystem& files, const Machine& machine, const LogFiles& paths,

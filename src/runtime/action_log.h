@@ -49,6 +49,9 @@ private:
     std::unique_ptr<JsonLog> json_;
 };
 
+/// A line of the readable log, with its time and its end.
+Text LogLine(const Machine& machine, std::string_view text);
+
 /// Opens the logs. Where one can't be made the failure is thrown on, but `log` has the file of the
 /// result where that can be made, so that it at least can tell why.
 void OpenLogs(ActionLog& log, FileSystem& files, const Machine& machine, const LogFiles& paths,

@@ -232,6 +232,7 @@ constexpr MessageKey kMessages[] = {
     {Message::LogDone,                "Log",       "Log_Done",                "Klart."},
     {Message::LogEnds,                "Log",       "Log_Ends",                "Avslutar med kod %1"},
     {Message::LogEndsBecause,         "Log",       "Log_EndsBecause",         "Avslutar med kod %1: %2"},
+    {Message::LogRestartRefused,      "Log",       "Log_RestartRefused",      "Windows startar inte om datorn. Avslutar med kod %1"},
     {Message::LogSkips,               "Log",       "Log_Skips",               "Hoppar över %1: %2"},
     {Message::LogUndoes,              "Log",       "Log_Undoes",              "Installationen avbryts. Alla ändringar ångras."},
     {Message::LogUndoesInterrupted,   "Log",       "Log_UndoesInterrupted",   "En tidigare installation avbröts. Dess ändringar ångras: %1"},

@@ -229,6 +229,7 @@ enum class Message {
     LogDone,
     LogEnds,
     LogEndsBecause,
+    LogRestartRefused,
     LogSkips,
     LogUndoes,
     LogUndoesInterrupted,

@@ -80,6 +80,7 @@ private:
     bool isUpdate_ = false;
     std::unique_ptr<PageChain> chain_;
     bool startsMachineAnew_ = false;
+    LogFiles logs_;
     ActionLog log_;
 };
 
@@ -135,7 +136,7 @@ SetupEnd SetupProgram::Run()
         log_.Line(Message::LogDone);
         log_.End(code, done == ExitCode::Done ? RunEnd::Done : RunEnd::RestartDue);
         log_.Close();
-        return {code, startsMachineAnew_};
+        return {code, startsMachineAnew_, logs_};
     } catch (const std::exception& error) {
         const SetupFailure failure = FailureOfSetup(error, texts_);
         return {Fail(failure.Code(), failure.what())};
@@ -146,8 +147,8 @@ void SetupProgram::OpenLog()
 {
     FileSystem& files = input_.host.files;
     const Machine& machine = input_.host.machine;
-    const LogFiles paths = LogFilesOf(input_.switches, files, machine, "QNSETUP");
-    OpenLogs(log_, files, machine, paths, texts_);
+    logs_ = LogFilesOf(input_.switches, files, machine, "QNSETUP");
+    OpenLogs(log_, files, machine, logs_, texts_);
     log_.Line(Message::LogBegins, package_.setup.project.ProjectName.ProjectName,
               input_.switches.packageFolder);
 }

@@ -41,6 +41,7 @@ struct SetupEnd {
     // What the caller does as the last thing of all. The code alone does not say so: a script, or
     // the uninstaller that was started, may end with any.
     bool startsMachineAnew = false;
+    LogFiles logs = {}; // that were written, for `LogRefusedRestart`
 };
 
 /// Installs, and tells the user and the log what went wrong.

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace quillon::test {
 
 namespace {
@@ -67,6 +69,16 @@ struct NoLetters : Letters {
     LetterMask Draw(const ScreenFont&, const Text&, const std::vector<int>&) override { return {}; }
 };
 
+/// Keeps the lines that are drawn.
+struct KeptLines : NoLetters {
+    LetterMask Draw(const ScreenFont&, const Text& line, const std::vector<int>&) override
+    {
+        lines.push_back(line);
+        return {};
+    }
+    std::vector<Text> lines;
+};
+
 class DesignTest : public testing::Test {
 protected:
     DesignTest()
@@ -97,6 +109,14 @@ protected:
         NoLetters letters;
         screen.Paint(WholeCanvas(pixels.data(), 200, 200), letters, isPageShown);
         return pixels[std::size_t(y) * 200 + std::size_t(x)] & 0xFFFFFF;
+    }
+    /// Each line once, though a title may be drawn with its shadow.
+    std::set<Text> LinesOf(const DesignScreen& screen)
+    {
+        std::vector<Pixel> pixels(200U * 200U);
+        KeptLines letters;
+        screen.Paint(WholeCanvas(pixels.data(), 200, 200), letters, false);
+        return {letters.lines.begin(), letters.lines.end()};
     }
     std::unique_ptr<DesignScreen> Screen(const DesignFiles& files)
     {
@@ -173,6 +193,39 @@ TEST_F(DesignTest, PicturesChangeByTheirInterval)
     EXPECT_EQ(PointOf(*screen, 30, 30), 0xFF0000U);
     changing.NrAnimPictures = 1;
     EXPECT_EQ(Screen(files)->Interval(), 0);
+}
+
+TEST_F(DesignTest, TextsFollowWhatTheVariablesStandFor)
+{
+    setup.project.DesTitle.TitleText = "%USERNAME";
+    setup.project.DesSubTitle.SubTitleText = "%DESTDIR";
+    setup.project.DesTextBox.ShowTextBox = kOn;
+    setup.project.DesTextBox.BoxTitle = "%USERCOMPANY";
+    setup.project.DesTextBox.BoxText = "Ordagrant";
+    const DesignFiles files = Files();
+    SetupVariables variables;
+    variables.Set("%USERNAME", "Ada");
+    variables.Set("%USERCOMPANY", "Bolag");
+    variables.Set("%DESTDIR", "C:\\A");
+    DesignScreen screen(setup, variables, files, 200, 200);
+    EXPECT_EQ(LinesOf(screen), (std::set<Text>{"Ada", "Bolag", "C:\\A", "Ordagrant"}));
+    EXPECT_FALSE(screen.SetVariables(variables)) << "nothing has to be painted anew";
+    variables.Set("%USERNAME", "Ulla");
+    variables.Set("%DESTDIR", "D:\\B");
+    EXPECT_TRUE(screen.SetVariables(variables));
+    EXPECT_EQ(LinesOf(screen), (std::set<Text>{"Ulla", "Bolag", "D:\\B", "Ordagrant"}));
+}
+
+TEST_F(DesignTest, TextsStayAsTheyAreWhereTheProjectExpandsNone)
+{
+    setup.project.DesTitle.TitleText = "%USERNAME";
+    setup.project.InstallOptions.ExpandVariablesInDialogBoxes = "0";
+    const DesignFiles files = Files();
+    SetupVariables variables;
+    variables.Set("%USERNAME", "Ada");
+    DesignScreen screen(setup, variables, files, 200, 200);
+    EXPECT_FALSE(screen.SetVariables(variables));
+    EXPECT_EQ(LinesOf(screen), std::set<Text>{"%USERNAME"});
 }
 
 } // namespace

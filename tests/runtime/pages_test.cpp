@@ -76,6 +76,7 @@ protected:
         choices = chain.Choices();
         shown = pages.shown;
         stepsAside = pages.stepsAside;
+        variables = pages.variables;
         return end;
     }
 
@@ -90,6 +91,7 @@ protected:
     UserChoices choices;
     std::vector<SetupPage> shown;
     int stepsAside = 0;
+    std::vector<SetupVariables> variables;
 };
 
 TEST_F(PagesTest, ComeInTheOrderOfTheProject)
@@ -147,6 +149,26 @@ TEST_F(PagesTest, ExpandVariablesInTheirTextsWhereTheProjectWantsThat)
     EXPECT_EQ(shown[0].title, "");
     EXPECT_EQ(shown[0].windowTitle, kTitle);
     EXPECT_EQ(shown[0].Find(PageField::BodyText)->text, "Läggs i %DESTDIR.");
+}
+
+TEST_F(PagesTest, HandOnWhatTheVariablesStandForByThen)
+{
+    project.DialogBoxes.WelcomeDlg = project.DialogBoxes.NameCompanyDlg = 1;
+    project.DialogBoxes.DestinationDlg = project.DialogBoxes.ProgramGroupDlg = 1;
+    project.LicenseData.UserName = "Ada";
+    Lead({{PageKind::Welcome},
+          {PageKind::NameCompany, PageAction::Next,
+           [](SetupPage& page, const PageListener& listener) {
+               Typing(PageField::UserName, "Ulla")(page, listener);
+               Typing(PageField::UserCompany, "Firma AB")(page, listener);
+           }},
+          {PageKind::Destination, PageAction::Next, Typing(PageField::Folder, "D:\\Annan")},
+          {PageKind::ProgramGroup, PageAction::Next, Typing(PageField::Group, "Min grupp")}});
+    ASSERT_EQ(variables.size(), 5U);
+    EXPECT_EQ(variables[1].Expand("%USERNAME"), "Ada");
+    EXPECT_EQ(variables[2].Expand("%USERNAME, %USERCOMPANY"), "Ulla, Firma AB");
+    EXPECT_EQ(variables[3].Expand("%DESTDIR"), "D:\\Annan");
+    EXPECT_EQ(variables[4].Expand("%PROGRAMGROUP"), "Min grupp");
 }
 
 TEST_F(PagesTest, TakeTheirOwnPictureOrTheSharedOne)

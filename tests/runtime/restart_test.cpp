@@ -1,6 +1,7 @@
 #include "runtime/restart.h"
 
 #include "helpers/number_text.h"
+#include "runtime/refused_restart.h"
 #include "setup_fixture.h"
 
 #include <gmock/gmock.h>
@@ -103,6 +104,34 @@ TEST_F(RestartTest, IsNotPromisedToAUserWhoHasNoRightToIt)
     EXPECT_EQ(InstallWith("", {{BoxKind::YesNo, kTitle, kQuestion, Answer::Yes}}),
               ExitCode::RestartStarted);
     EXPECT_TRUE(startsMachineAnew);
+}
+
+TEST_F(RestartTest, ThatWindowsRefusesIsCorrectedInTheLogs)
+{
+    options.RestartWindows = kOn;
+    EXPECT_EQ(
+        InstallWith("/LOGJSON=L:\\a.json /RESULT=L:\\r.json", {{BoxKind::Inform, kTitle, kNow}}),
+        ExitCode::RestartStarted);
+    const Text log = Log();
+    const Text records = memory.files.Get("L:\\a.json");
+    const Text result = memory.files.Get("L:\\r.json");
+    EXPECT_THAT(result, HasSubstr("\"code\":1641,\"restart\":true"));
+    const LanguageTexts texts;
+    LogRefusedRestart({files, memory.machine, texts, logsWritten, ExitCode{77}});
+    EXPECT_TRUE(Log().starts_with(log));
+    EXPECT_TRUE(Log().ends_with("Windows startar inte om datorn. Avslutar med kod 77\r\n"));
+    EXPECT_EQ(memory.files.Get("L:\\a.json"), ReplaceAll(records, "\"code\":1641", "\"code\":77"));
+    EXPECT_EQ(memory.files.Get("L:\\r.json"), ReplaceAll(result, "\"code\":1641", "\"code\":77"));
+}
+
+TEST_F(RestartTest, ThatWindowsRefusesMakesNoLogThatNobodyWanted)
+{
+    const LanguageTexts texts;
+    LogRefusedRestart({files, memory.machine, texts, {}, ExitCode::RestartNeeded});
+    LogRefusedRestart(
+        {files, memory.machine, texts, {"L:\\l.txt", {}, "L:\\r.json"}, ExitCode::RestartNeeded});
+    EXPECT_FALSE(memory.files.FileExists("L:\\l.txt"));
+    EXPECT_FALSE(memory.files.FileExists("L:\\r.json"));
 }
 
 // The code is the caller's, and says nothing of what the machine does.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "runtime/pages/page.h"
+#include "runtime/setup_variables.h"
 
 #include <gtest/gtest.h>
 
@@ -38,9 +39,11 @@ public:
         return step.action;
     }
     void Hide() override { ++stepsAside; }
+    void SetVariables(const SetupVariables& given) override { variables.push_back(given); }
 
     std::vector<SetupPage> shown;
     int stepsAside = 0;
+    std::vector<SetupVariables> variables; // one for each page, and those of the end
 
 private:
     std::deque<Step> steps_;

@@ -171,6 +171,7 @@ ExitCode SetupFixture::Install(const Text& switches)
                   mayRestart},
                  package);
     startsMachineAnew = end.startsMachineAnew;
+    logsWritten = end.logs;
     return end.code;
 }
 

@@ -162,7 +162,8 @@ protected:
     bool otherSetupRuns = false;
     FileUsers* users = nullptr;
     bool (*mayRestart)() = nullptr;
-    bool startsMachineAnew = false; // what Install has ended with beside its code
+    bool startsMachineAnew = false; // what Install has ended with beside its code,
+    LogFiles logsWritten;           // and the logs of that run
     std::vector<LeftBehind> left;   // what UninstallProduct has told to be there still
     std::vector<Text> started;      // a file, and its arguments behind a blank
     int codeOfStarted = 0;          // of a program that is waited for

@@ -13,13 +13,10 @@ namespace {
 constexpr int kUsualWidth = 640;
 constexpr int kUsualHeight = 480;
 
-void ExpandTexts(Project& project, const SetupVariables& variables)
+std::array<Text*, 4> TextsOf(Project& project)
 {
-    if (!IsTrueText(project.InstallOptions.ExpandVariablesInDialogBoxes))
-        return;
-    for (Text* text : {&project.DesTitle.TitleText, &project.DesSubTitle.SubTitleText,
-                       &project.DesTextBox.BoxTitle, &project.DesTextBox.BoxText})
-        *text = variables.Expand(*text);
+    return {&project.DesTitle.TitleText, &project.DesSubTitle.SubTitleText,
+            &project.DesTextBox.BoxTitle, &project.DesTextBox.BoxText};
 }
 
 // A test run names the file by its absolute path: the tool's folder, one for such files, and a
@@ -38,7 +35,9 @@ DesignScreen::DesignScreen(const SetupInformation& setup, const SetupVariables& 
       surfaceHeight_(setup.DesHeight > 0 ? setup.DesHeight : kUsualHeight), width_(width),
       height_(height), changing_(ChangingPictures(setup.project.DesPicturesAnim))
 {
-    ExpandTexts(project_, variables);
+    std::ranges::transform(TextsOf(project_), texts_.begin(),
+                           [](const Text* text) { return *text; });
+    SetVariables(variables);
     Text& rtf = project_.DesRTFbox.RTFfilename;
     const Text toolFolder = ToolFolderOf(rtf);
     rtf = ExtractFilename(rtf);
@@ -48,6 +47,20 @@ DesignScreen::DesignScreen(const SetupInformation& setup, const SetupVariables& 
                              .metrics = {},
                              .width = width,
                              .height = height});
+}
+
+bool DesignScreen::SetVariables(const SetupVariables& variables)
+{
+    if (!IsTrueText(project_.InstallOptions.ExpandVariablesInDialogBoxes))
+        return false;
+    bool isChanged = false;
+    const std::array<Text*, 4> shown = TextsOf(project_);
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const Text text = variables.Expand(texts_[i]);
+        isChanged = isChanged || text != *shown[i];
+        *shown[i] = text;
+    }
+    return isChanged;
 }
 
 ScreenDesign DesignScreen::Design(bool isPageShown) const

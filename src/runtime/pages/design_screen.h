@@ -5,6 +5,8 @@
 #include "runtime/pages/design_files.h"
 #include "runtime/setup_variables.h"
 
+#include <array>
+
 namespace quillon {
 
 class DesignScreen {
@@ -24,13 +26,17 @@ public:
     /// can't be shown is passed over.
     PixelRect ShowNext();
 
+    /// Expands the variables of its texts anew; whether one of them reads differently then.
+    bool SetVariables(const SetupVariables& variables);
+
     int Width() const { return width_; }
     int Height() const { return height_; }
 
 private:
     ScreenDesign Design(bool isPageShown) const;
 
-    Project project_; // its texts have their variables expanded
+    Project project_;           // its texts have their variables expanded
+    std::array<Text, 4> texts_; // as the project has them
     const DesignFiles& files_;
     int surfaceWidth_;
     int surfaceHeight_;

@@ -130,6 +130,8 @@ enum class PageAction { Back, Next, Cancel };
 /// the page is shown.
 using PageListener = std::function<void(SetupPage& page, PageField field)>;
 
+class SetupVariables;
+
 class PageView {
 public:
     virtual ~PageView() = default;
@@ -139,6 +141,9 @@ public:
     virtual PageAction Show(SetupPage& page, const PageListener& listener) = 0;
     /// The pages are done with for now: something else shows what happens.
     virtual void Hide() = 0;
+    /// What the variables stand for with the choices so far, for texts behind the pages. Called
+    /// before each page, and once more when the choices are complete.
+    virtual void SetVariables(const SetupVariables& variables) = 0;
 };
 
 } // namespace quillon

@@ -24,6 +24,7 @@ std::vector<PageKind> PagesBefore(const PageInput& input)
 
 PageAction PageChain::Show(PageView& view, SetupPage& page)
 {
+    view.SetVariables(state_.Variables());
     const PageAction action = view.Show(
         page, [this](SetupPage& shown, PageField field) { ReactTo(state_, shown, field); });
     StoreAnswers(state_, page);
@@ -51,6 +52,7 @@ PageChain::End PageChain::ShowPages(PageView& view)
                 return End::Cancelled;
         }
     }
+    view.SetVariables(state_.Variables());
     view.Hide();
     return End::Install;
 }

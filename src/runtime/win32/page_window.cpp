@@ -227,6 +227,12 @@ void PageWindow::Hide()
     ask_.Show();
 }
 
+void PageWindow::SetVariables(const SetupVariables& variables)
+{
+    if (behind_ != nullptr)
+        behind_->SetVariables(variables);
+}
+
 void PageWindow::Build()
 {
     isBusy_ = true;

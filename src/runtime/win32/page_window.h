@@ -29,6 +29,7 @@ public:
 
     PageAction Show(SetupPage& page, const PageListener& listener) override;
     void Hide() override;
+    void SetVariables(const SetupVariables& variables) override;
 
 private:
     static INT_PTR CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data);

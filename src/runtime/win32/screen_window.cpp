@@ -23,8 +23,9 @@ void RegisterKind(HINSTANCE instance, WNDPROC receive)
 
 } // namespace
 
-ScreenWindow::ScreenWindow(HINSTANCE instance, const Text& title, MakeScreen make)
-    : make_(std::move(make))
+ScreenWindow::ScreenWindow(HINSTANCE instance, const Text& title, SetupVariables variables,
+                           MakeScreen make)
+    : variables_(std::move(variables)), make_(std::move(make))
 {
     RegisterKind(instance, Receive);
     const PixelRect display = DisplayWithPointer().whole;
@@ -97,9 +98,9 @@ void ScreenWindow::FitDisplay()
                  SWP_NOZORDER | SWP_NOACTIVATE);
     if (screen_ && screen_->Width() == width && screen_->Height() == height)
         return;
-    screen_ = make_(width, height);
+    screen_ = make_(variables_, width, height);
     pixels_.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
-    Paint({0, 0, width, height});
+    PaintWhole();
     if (screen_->Interval() > 0)
         SetTimer(window_, kTimer, static_cast<UINT>(screen_->Interval()), nullptr);
 }
@@ -109,6 +110,18 @@ void ScreenWindow::SetPageShown(bool isShown)
     if (isShown == isPageShown_)
         return;
     isPageShown_ = isShown;
+    PaintWhole();
+}
+
+void ScreenWindow::SetVariables(const SetupVariables& variables)
+{
+    variables_ = variables;
+    if (screen_ && screen_->SetVariables(variables))
+        PaintWhole();
+}
+
+void ScreenWindow::PaintWhole()
+{
     if (screen_)
         Paint({0, 0, screen_->Width(), screen_->Height()});
 }

@@ -15,10 +15,11 @@ namespace quillon {
 
 class ScreenWindow {
 public:
-    /// Makes the screen in the size of the display.
-    using MakeScreen = std::function<std::unique_ptr<DesignScreen>(int width, int height)>;
+    /// Makes the screen in the size of the display, with these variables in its texts.
+    using MakeScreen = std::function<std::unique_ptr<DesignScreen>(const SetupVariables& variables,
+                                                                   int width, int height)>;
 
-    ScreenWindow(HINSTANCE instance, const Text& title, MakeScreen make);
+    ScreenWindow(HINSTANCE instance, const Text& title, SetupVariables variables, MakeScreen make);
     ~ScreenWindow();
     ScreenWindow(const ScreenWindow&) = delete;
     ScreenWindow& operator=(const ScreenWindow&) = delete;
@@ -27,15 +28,18 @@ public:
     /// Until the user leaves by Esc.
     void WaitForEscape();
     void SetPageShown(bool isShown);
+    void SetVariables(const SetupVariables& variables);
     HWND Handle() const { return window_; }
 
 private:
     static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data);
     LRESULT OnMessage(UINT message, WPARAM word, LPARAM data);
     void FitDisplay();
+    void PaintWhole();
     void Paint(const PixelRect& part);
     void OnPaint();
 
+    SetupVariables variables_;
     MakeScreen make_;
     HWND window_ = nullptr;
     std::unique_ptr<DesignScreen> screen_;

@@ -12,6 +12,7 @@
 #include "runtime/json_log.h"
 #include "runtime/pages/design_files.h"
 #include "runtime/passive_ask.h"
+#include "runtime/refused_restart.h"
 #include "runtime/setup_program.h"
 #include "runtime/test_mode.h"
 #include "runtime/win32/library_container.h"
@@ -50,6 +51,7 @@ class NoPages : public PageView {
 public:
     PageAction Show(SetupPage&, const PageListener&) override { return PageAction::Cancel; }
     void Hide() override {}
+    void SetVariables(const SetupVariables&) override {}
 };
 
 Text ProjectTitle(const LoadedPackage& package)
@@ -57,22 +59,19 @@ Text ProjectTitle(const LoadedPackage& package)
     return package.texts(Message::Title, package.setup.project.ProjectName.ProjectName);
 }
 
-struct ScreenInput {
-    Host& host;
-    const Target& target;
-    const DesignFiles& design;
-    const Switches& switches;
-};
-
-// `package` and what `input` names outlive the result.
-ScreenWindow::MakeScreen ScreenOf(const LoadedPackage& package, const ScreenInput& input)
+// Those before anybody has chosen anything.
+SetupVariables VariablesOf(const LoadedPackage& package, const Host& host, const Target& target,
+                           const Switches& switches)
 {
-    return [&package, input](int width, int height) {
-        const SetupVariables variables = MakeSetupVariables(
-            {package.setup, input.host, input.target, input.switches.packageFolder,
-             input.switches.destination, input.switches.scope});
-        return std::make_unique<DesignScreen>(package.setup, variables, input.design, width,
-                                              height);
+    return MakeSetupVariables({package.setup, host, target, switches.packageFolder,
+                               switches.destination, switches.scope});
+}
+
+// `package` and `design` outlive the result.
+ScreenWindow::MakeScreen ScreenOf(const LoadedPackage& package, const DesignFiles& design)
+{
+    return [&](const SetupVariables& variables, int width, int height) {
+        return std::make_unique<DesignScreen>(package.setup, variables, design, width, height);
     };
 }
 
@@ -92,7 +91,7 @@ ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
         return RunTest({host, target, silent, switches, none, [](const TestWindow&) {}}, package);
     }
     ScreenWindow screen(instance, ProjectTitle(package),
-                        ScreenOf(package, {host, target, design, switches}));
+                        VariablesOf(package, host, target, switches), ScreenOf(package, design));
     const auto run = [&](Ask& ask, PageView& pages) {
         return RunTest({host, target, ask, switches, pages,
                         [&](const TestWindow&) {
@@ -154,7 +153,7 @@ SetupEnd InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     const DesignFiles design(files, openContainer, switches.packageFolder,
                              DesignFiles::Names::InPackage);
     ScreenWindow screen(instance, ProjectTitle(package),
-                        ScreenOf(package, {host, target, design, switches}));
+                        VariablesOf(package, host, target, switches), ScreenOf(package, design));
     WindowAsk window(instance, ProjectTitle(package), package.texts, canCancel, screen.Handle());
     const section::DesPercentGauge& gauge = package.setup.project.DesPercentGauge;
     window.PlaceAt(gauge.GaugeAlignmentH, gauge.GaugeAlignmentV);
@@ -195,8 +194,11 @@ int RunSetupProgram(HINSTANCE instance, const Text& line)
             ShowMessageBox(nullptr, {"Quillon", text, MB_OK | MB_ICONSTOP}, texts);
     }
     // By now the setup has left nothing behind.
-    if (end.startsMachineAnew && !RestartMachine())
+    if (end.startsMachineAnew && !RestartMachine()) {
         end.code = CodeToEndWith(ExitCode::RestartNeeded, switches);
+        WinFiles files;
+        LogRefusedRestart({files, WinMachine(), texts, end.logs, end.code});
+    }
     return static_cast<int>(end.code);
 }
 
