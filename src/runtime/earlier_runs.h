@@ -18,7 +18,8 @@ struct EarlierRunsInput {
 };
 
 /// Takes it back, or clears it away: for this installation's main folder, for the package's own,
-/// and for the one where the list of programs says that the product is. Ends the setup where
+/// for those where the list of programs says that the product is, and for the one that the setup
+/// has noted when it began. Ends the setup where
 /// something could not be taken back.
 void FinishEarlierRuns(const EarlierRunsInput& input);
 

@@ -14,6 +14,7 @@
 #include "runtime/planned_shortcuts.h"
 #include "runtime/registry_changes.h"
 #include "runtime/script/script_run.h"
+#include "runtime/started_setups.h"
 #include "runtime/startup_files.h"
 #include "runtime/uninstall_entry.h"
 #include "runtime/uninstaller_files.h"
@@ -41,13 +42,16 @@ public:
                 throw SetupFailure(
                     ExitCode::Failed,
                     input_.texts(Message::NotUndone, FailureReason(error, input_.texts)));
+            ForgetStartedSetups(input_.target, Product());
             throw;
         }
         transaction_.CleanUp();
+        ForgetStartedSetups(input_.target, Product());
         return {transaction_.NeedsRestart()};
     }
 
 private:
+    const Text& Product() const { return input_.setup.project.ProjectName.ProjectName; }
     void DoEverything();
     void BeginRecord();
     void RecordTexts();
@@ -78,7 +82,8 @@ void Installation::DoEverything()
     for (const SkippedPart& part : input_.plan.skipped)
         input_.log.Skipped(part.what, part.reason);
     input_.ask.AddStatusLine(input_.texts[Message::Copying]);
-    transaction_.Begin(input_.plan.mainFolder, input_.setup.project.ProjectName.ProjectName);
+    NoteStartedSetup(input_.target, Product(), input_.plan.scope, input_.plan.mainFolder);
+    transaction_.Begin(input_.plan.mainFolder, Product());
     transaction_.MakeFolder(input_.plan.mainFolder);
     BeginRecord();
     const ScriptWork scripts{input_, transaction_, journal_};
@@ -121,7 +126,7 @@ void Installation::BeginRecord()
     contents_ = std::move(earlier.contents);
     journal_.TakeOver(std::move(earlier.records));
     ShareMainFolder();
-    journal_.Add(record::Product{input_.setup.project.ProjectName.ProjectName});
+    journal_.Add(record::Product{Product()});
     RecordTexts();
 }
 
@@ -223,7 +228,7 @@ void Installation::RegisterAtRestart()
     PutHelper(RuntimePrograms::kSecondRegistryHelper.inPackage, helper);
     const RegistryKey key{RegistryRoot::LocalMachine,
                           "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"};
-    const Text name = "QNXREG2 " + input_.setup.project.ProjectName.ProjectName;
+    const Text name = "QNXREG2 " + Product();
     for (std::size_t i = 0; i < paths.size(); ++i) {
         journal_.Add(record::Registered{paths[i]});
         transaction_.WriteValue(key, name + (i == 0 ? "" : " " + NumberText(std::int64_t(i) + 1)),

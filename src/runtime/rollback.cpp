@@ -6,6 +6,7 @@
 #include "platform/whole_file.h"
 #include "runtime/journal_table.h"
 #include "runtime/restart_moves.h"
+#include "runtime/started_setups.h"
 #include "runtime/transaction_journal.h"
 
 #include <algorithm>
@@ -231,6 +232,9 @@ bool FinishOne(const RollbackInput& input, const Text& path)
         }
     }
     files.RemoveFile(path);
+    for (const JournalRecord& step : steps.value_or(std::vector<JournalRecord>{}))
+        if (const auto* const product = std::get_if<record::Product>(&step))
+            ForgetStartedSetups(input.target, product->name);
     return true;
 }
 

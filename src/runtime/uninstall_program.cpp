@@ -9,6 +9,7 @@
 #include "runtime/restart_moves.h"
 #include "runtime/rollback.h"
 #include "runtime/setup_help.h"
+#include "runtime/started_setups.h"
 #include "runtime/uninstall_entry.h"
 
 namespace quillon {
@@ -35,13 +36,23 @@ void UninstallProgram::Prepare()
     if (GivenSwitches().badSwitch || input_.otherSetupRuns || OnlyShowsInformation())
         return;
     // A setup that was killed is brought to its end first, so that the log says what is there.
-    const Text folder = ExtractDirectory(input_.program);
-    const EarlierRun earlier = FinishInterrupted({input_.host, input_.target, log_}, folder);
-    if (earlier == EarlierRun::Incomplete)
-        throw RunError(ErrorNumber::kPermissionDenied, folder);
-    hasFinishedEarlier_ = earlier == EarlierRun::Finished;
+    FinishEarlierSetup(ExtractDirectory(input_.program));
+    if (product_) {
+        const Text name = product_->name;
+        for (const Text& folder : FoldersOfStartedSetups(files, input_.target, name))
+            FinishEarlierSetup(folder);
+        ForgetStartedSetups(input_.target, name);
+    }
     if (hasFinishedEarlier_)
         FindProduct();
+}
+
+void UninstallProgram::FinishEarlierSetup(const Text& mainFolder)
+{
+    const EarlierRun earlier = FinishInterrupted({input_.host, input_.target, log_}, mainFolder);
+    if (earlier == EarlierRun::Incomplete)
+        throw RunError(ErrorNumber::kPermissionDenied, mainFolder);
+    hasFinishedEarlier_ = hasFinishedEarlier_ || earlier == EarlierRun::Finished;
 }
 
 bool UninstallProgram::OnlyShowsInformation() const

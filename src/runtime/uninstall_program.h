@@ -50,6 +50,7 @@ private:
         Text text; // empty: there is nothing to tell
     };
     void FindProduct();
+    void FinishEarlierSetup(const Text& mainFolder);
     const Switches& GivenSwitches() const { return input_.line.switches; }
     bool OnlyShowsInformation() const;
     std::optional<Refusal> WhyRefused() const;
