@@ -149,8 +149,36 @@ TEST(HangingSound, HoldsNothingUp)
     const WinePrefix prefix;
     WriteBytes(prefix.DriveC() / "fanfar.wav", "never read");
     fs::copy_file(TestProgramFolder() / "hanging_sound.exe", prefix.DriveC() / "sound.exe");
-    EXPECT_EQ(prefix.Run("C:\\sound.exe", "C:\\fanfar.wav C:\\log.txt"), 0U);
-    EXPECT_EQ(ReadBytes(prefix.DriveC() / "log.txt"), "plays\nwent on\n");
+    for (const std::string when : {"play", "load"}) {
+        EXPECT_EQ(prefix.Run("C:\\sound.exe", "C:\\fanfar.wav C:\\log.txt " + when), 0U);
+        EXPECT_EQ(ReadBytes(prefix.DriveC() / "log.txt"), "plays\nwent on\n") << when;
+    }
+}
+
+// What a program loads waits for the library that is being loaded.
+TEST(HangingDriver, HoldsNothingUpWhileItIsLoaded)
+{
+    const WinePrefix prefix;
+    UseNoScreen(prefix);
+    ASSERT_EQ(
+        prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\DllOverrides /v mciwave /d native"),
+        0U);
+    prefix.Stop();
+    const fs::path driver = prefix.OnHost("C:\\windows\\system32\\mciwave.dll");
+    fs::remove(driver);
+    fs::copy_file(TestProgramFolder() / "hanging_driver.dll", driver);
+    SampleProduct product;
+    WriteBytes(product.Drive() / "fanfar.wav", "never read");
+    product.project.DesSound.BackSoundFilename = "s:\\fanfar.wav";
+    product.project.DialogBoxes.DestinationDlg = 0;
+    const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
+    EXPECT_EQ(DriveSetup(prefix, "run \"" + OnZ(package / "SETUP.EXE") +
+                                     "\"\npage Välkommen\npress 1\npage Komponenter\npress 1\n"
+                                     "page Installationen avslutad\npress 1\nend\n"),
+              "code 0\n");
+    prefix.WaitForAll();
+    for (const auto& entry : fs::recursive_directory_iterator(prefix.DriveC()))
+        EXPECT_NE(entry.path().filename(), "QNSOUND.WAV") << entry.path();
 }
 
 } // namespace

@@ -43,6 +43,18 @@ public:
     {
         return Add("key " + std::to_string(id) + " " + std::to_string(code));
     }
+    /// The same wherever the focus is on the page.
+    Script& Tap(int code) { return Add("tap " + std::to_string(code)); }
+    Script& Alt(char letter) { return Add(std::string("alt ") + letter); }
+    /// Presses Tab so often, and logs each time where the focus is then.
+    Script& Tabs(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            Add("tab");
+        return *this;
+    }
+    Script& Focus(int id) { return Add("focus " + std::to_string(id)); }
+    Script& Focus(PageField field) { return Focus(IdOf(field)); }
     Script& Read(PageField field) { return Add("read " + std::to_string(IdOf(field))); }
     Script& Margin(PageField field) { return Add("margin " + std::to_string(IdOf(field))); }
     Script& Await(PageField field, const std::string& text)

@@ -1,11 +1,10 @@
 // The setup's pages as its user meets them: their windows and controls, found, read and pressed by
 // a second program; and what is installed then.
-#include "runtime/language_file.h"
-#include "runtime/pages/page_order.h"
 #include "wine/driven_setup.h"
 #include "wine/folder_state.h"
 #include "wine/package.h"
 #include "wine/page_script.h"
+#include "wine/page_titles.h"
 #include "wine/registry_text.h"
 #include "wine/sample_product.h"
 #include "wine/virtual_display.h"
@@ -280,19 +279,6 @@ TEST_F(SetupPages, AreThoseOfOneSetupAtATime)
                                                  ": Vill du avbryta installationen?\ncode 1602\n");
 }
 
-LanguageTexts TextsOf(const std::string& language)
-{
-    return LanguageTexts(ReadBytes(fs::path(QUILLON_SOURCE_FOLDER) / "resources" / "Language" /
-                                   (language + ".LNG")));
-}
-
-/// The title of the page's window: the project's own, else the language's.
-std::string TitleOf(const SampleProduct& product, PageKind kind, const LanguageTexts& texts)
-{
-    const PageSource& source = SourceOf(kind);
-    return source.title ? product.project.DialogBoxData.*source.title : texts[source.name];
-}
-
 // For eyes: each page as Wine paints it, in build/<preset>/screens/setup, in each language. The
 // programs that packages carry show them all; their twins show the Swedish ones.
 class SetupPictures : public SetupPages, public testing::WithParamInterface<const char*> {
@@ -301,8 +287,9 @@ protected:
 
     void Picture(Script& script, const std::string& title)
     {
-        script.Page(title).Clipped().Shoot(Shot(++count_));
+        Picture(script.Page(title).Clipped());
     }
+    void Picture(Script& script) { script.Shoot(Shot(++count_)); }
     void KeepPictures(const std::string& kind) const
     {
         for (int i = 1; i <= count_; ++i) {
@@ -328,6 +315,8 @@ TEST_P(SetupPictures, AreTakenOfEveryPage)
         GTEST_SKIP() << "the 32-bit programs show the other languages";
     const VirtualDisplay display;
     SampleProduct product = WithAllPages();
+    product.project.DesTitle.TitleText = "%PROJECTNAME";
+    product.project.DesSubTitle.SubTitleText = "%USERNAME, %DESTDIR";
     product.project.Language.LanguageFile = language + ".LNG";
     const LanguageTexts texts = TextsOf(language);
     const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
@@ -339,6 +328,11 @@ TEST_P(SetupPictures, AreTakenOfEveryPage)
         Picture(script, TitleOf(product, kind, texts));
         if (kind == PageKind::Password)
             script.Type(PageField::Password, "Hemligt");
+        // The screen with the page in front of it.
+        if (kind == PageKind::Destination) {
+            Picture(script.Screen());
+            script.Page(TitleOf(product, kind, texts));
+        }
         script.Next();
     }
     script.End();

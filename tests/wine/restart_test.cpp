@@ -3,6 +3,7 @@
 #include "wine/package.h"
 #include "wine/sample_product.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace quillon::test {
@@ -47,6 +48,25 @@ TEST_F(RestartedMachine, IsAskedToEndTheSessionAsTheLastThingOfAll)
               "the session was to end\n"
               "code 1641\n");
     EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\Program Files\\Provpaket Åäö\\QNXUNIN.EXE")));
+}
+
+// Wine asks a program of its own to end the session; without that program it refuses.
+TEST_F(RestartedMachine, IsDueWhereWindowsRefuses)
+{
+    WriteBytes(prefix.DriveC() / "break.cmd",
+               "move C:\\windows\\system32\\wineboot.exe C:\\wineboot.exe\r\n"
+               "echo x>C:\\windows\\system32\\wineboot.exe\r\n");
+    EXPECT_EQ(Drive(" /LOG=C:\\l.txt /RESULT=C:\\r.json",
+                    "page Välkommen\npress 1\npage Komponenter\npress 1\n"
+                    "page Installationen avslutad\n"
+                    "other C:\\windows\\system32\\cmd.exe /c C:\\break.cmd\npress 1\nbox 2\nend\n"),
+              "code 0\n"
+              "Installation av Provpaket Åäö: Datorn startas om när du stänger den här rutan. "
+              "Spara först det som är öppet i andra program.\n"
+              "code 3010\n");
+    EXPECT_THAT(ReadBytes(prefix.DriveC() / "r.json"), testing::HasSubstr("\"code\":3010,"));
+    EXPECT_THAT(ReadBytes(prefix.DriveC() / "l.txt"),
+                testing::EndsWith("Windows startar inte om datorn. Avslutar med kod 3010\r\n"));
 }
 
 // The code of a restart is not a restart.

@@ -86,6 +86,59 @@ TEST_P(ScaledWindows, ShowTheListOfTheUninstallerWhole)
     KeepPicture("list");
 }
 
+/// The lines of a script that takes the window from display to display, and what is logged then.
+std::string Through(const std::vector<int>& scales)
+{
+    std::string lines;
+    for (const int dpi : scales)
+        lines += "scale " + std::to_string(dpi) + "\ninside\nclipped\n";
+    return lines;
+}
+
+std::string Insides(const std::vector<int>& scales, int width, int height)
+{
+    std::string lines;
+    for (const int dpi : scales)
+        lines += "inside " + std::to_string((width * dpi + 48) / 96) + " " +
+                 std::to_string((height * dpi + 48) / 96) + "\n";
+    return lines;
+}
+
+class MovedWindows : public ScaledWindows {
+protected:
+    const std::vector<int> scales_ = {144, 192, 120, 96, 168, 96};
+};
+
+TEST_P(MovedWindows, ShowTheProgressWholeOnEachDisplay)
+{
+    SampleProduct product;
+    product.Add("Data", "finns.txt", "ny", "X");
+    const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
+    WriteBytes(prefix.OnHost("C:\\Program Files\\Provpaket Åäö\\Data\\finns.txt"), "gammal");
+    const std::string log = DriveSetup(
+        prefix, "run \"" + OnZ(package / "SETUP.EXE") +
+                    "\"\npage Välkommen\npress 1\npage Destinationsmapp\npress 1\n"
+                    "page Komponenter\npress 1\naside\nprogress\n" +
+                    Through(scales_) + "box 7\npage Installationen avslutad\npress 1\nend\n");
+    EXPECT_TRUE(log.starts_with(Insides(scales_, 420, 130))) << log;
+    EXPECT_THAT(log, Not(HasSubstr("clipped")));
+    EXPECT_THAT(log, testing::EndsWith("code 0\n"));
+}
+
+TEST_P(MovedWindows, ShowTheListOfTheUninstallerWholeOnEachDisplay)
+{
+    SampleProduct product;
+    const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
+    ASSERT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
+    const std::string log =
+        DriveSetup(prefix, "run \"C:\\Program Files\\Provpaket Åäö\\QNXUNIN.EXE\"\n"
+                           "list Vill du ta bort Provpaket Åäö från datorn? Det här tas bort:\n" +
+                               Through(scales_) + "press 2\nend\n");
+    EXPECT_EQ(log, Insides(scales_, 520, 340) + "code 1602\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(Dpi, MovedWindows, testing::Values(96, 192),
+                         [](const auto& dpi) { return std::to_string(dpi.param); });
 INSTANTIATE_TEST_SUITE_P(Dpi, ScaledWindows, testing::Values(96, 144, 192),
                          [](const auto& dpi) { return std::to_string(dpi.param); });
 

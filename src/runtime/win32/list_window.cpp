@@ -17,14 +17,25 @@ constexpr int kButtonWidth = 110;
 constexpr int kButtonHeight = 26;
 constexpr int kButtonTop = kHeight - kEdge - kButtonHeight;
 
-constexpr LONG_PTR kNotPressed = 0;
+struct Shown {
+    WindowScale scale;
+    int pressed = 0; // the button's id
+};
 
 LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data)
 {
+    // Null until the window has its controls.
+    auto* const shown = reinterpret_cast<Shown*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (shown == nullptr)
+        return DefWindowProcW(window, message, word, data);
+    if (message == kDpiChanged) {
+        shown->scale.Change(word, data);
+        return 0;
+    }
     const int button = message == WM_CLOSE ? IDCANCEL : LOWORD(word);
     if (message != WM_CLOSE && (message != WM_COMMAND || (button != IDOK && button != IDCANCEL)))
         return DefWindowProcW(window, message, word, data);
-    SetWindowLongPtrW(window, GWLP_USERDATA, button);
+    shown->pressed = button;
     return 0;
 }
 
@@ -79,17 +90,16 @@ bool ShowListWindow(HINSTANCE instance, const ListPage& page)
     const HWND window =
         MakePlainWindow(instance, page.title, {L"QuillonList", Receive, kWidth, kHeight});
     const HWND first = AddControls(window, page);
-    const WindowScale scale(window);
+    Shown shown{WindowScale(window)};
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&shown));
     ShowWindow(window, SW_SHOWNORMAL);
     SetForegroundWindow(window);
     SetFocus(first);
     MSG message;
-    LONG_PTR pressed = kNotPressed;
-    while ((pressed = GetWindowLongPtrW(window, GWLP_USERDATA)) == kNotPressed &&
-           GetMessageW(&message, nullptr, 0, 0) > 0)
+    while (shown.pressed == 0 && GetMessageW(&message, nullptr, 0, 0) > 0)
         DispatchTo(window, message);
     DestroyWindow(window);
-    return pressed == IDOK;
+    return shown.pressed == IDOK;
 }
 
 } // namespace quillon

@@ -7,6 +7,7 @@
 #include "runtime/win32/gdi_letters.h"
 #include "runtime/win32/screen_window.h"
 #include "runtime/win32/window_ask.h"
+#include "runtime/win32/window_scale.h"
 
 #include <commctrl.h>
 
@@ -17,7 +18,6 @@ namespace quillon {
 namespace {
 
 constexpr const wchar_t* kWindowClass = L"QuillonPages";
-constexpr UINT kDpiChanged = 0x02E0; // WM_DPICHANGED, since Windows 8.1
 constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 
 // A dialog without controls of its own kind, so that boxes of the system can be distinguished from

@@ -3,8 +3,6 @@
 #include "platform/win32/wide_text.h"
 #include "runtime/win32/program_start.h"
 
-#include <restartmanager.h>
-
 namespace quillon {
 
 namespace {
@@ -78,18 +76,34 @@ std::vector<Text> RestartManager::ProgramsHolding(const std::vector<Text>& files
             session_, static_cast<UINT>(names.size()), names.data(), 0, nullptr, 0, nullptr) !=
         ERROR_SUCCESS)
         return {};
-    constexpr UINT kMaxPrograms = 64;
-    std::vector<RM_PROCESS_INFO> found(kMaxPrograms);
-    UINT needed = 0;
-    UINT count = kMaxPrograms;
-    DWORD reasons = 0;
-    const DWORD result = OfLibrary<decltype(&RmGetList)>(library_, "RmGetList")(
-        session_, &needed, &count, found.data(), &reasons);
     std::vector<Text> programs;
-    for (UINT i = 0; result == ERROR_SUCCESS && i < count; ++i)
-        if (found[i].Process.dwProcessId != GetCurrentProcessId())
-            programs.push_back(Narrow(found[i].strAppName));
+    for (const RM_PROCESS_INFO& program : Listed())
+        if (program.Process.dwProcessId != GetCurrentProcessId())
+            programs.push_back(Narrow(program.strAppName));
     return programs;
+}
+
+// Programs start and end between two calls, so that what was needed once may be too little.
+std::vector<RM_PROCESS_INFO> RestartManager::Listed() const
+{
+    constexpr int kMaxTries = 16;
+    constexpr UINT kSpare = 16;
+    const auto getList = OfLibrary<decltype(&RmGetList)>(library_, "RmGetList");
+    std::vector<RM_PROCESS_INFO> found(kSpare);
+    for (int i = 0; i < kMaxTries; ++i) {
+        UINT needed = 0;
+        auto count = static_cast<UINT>(found.size());
+        DWORD reasons = 0;
+        const DWORD result = getList(session_, &needed, &count, found.data(), &reasons);
+        if (result == ERROR_SUCCESS) {
+            found.resize(count);
+            return found;
+        }
+        if (result != ERROR_MORE_DATA)
+            break;
+        found.resize(needed + kSpare);
+    }
+    return {};
 }
 
 bool RestartManager::CloseThem()

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <restartmanager.h>
+
 namespace quillon {
 
 class RestartManager : public FileUsers {
@@ -23,6 +25,7 @@ public:
 private:
     bool Begin();
     void End();
+    std::vector<RM_PROCESS_INFO> Listed() const;
 
     const StartsAgain startsAgain_;
     HMODULE library_ = nullptr;

@@ -1,22 +1,30 @@
 #include "runtime/win32/screen_sound.h"
 
+#include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
+#include "platform/win32/open_file.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
+#include "runtime/win32/program_path.h"
 #include "runtime/win32/program_start.h"
 
-#include <atomic>
+#include <utility>
 #include <windows.h>
 
 namespace quillon {
 
 namespace {
 
+// With the handle of the pipe after it.
+constexpr std::string_view kPlay = "/SOUND=";
+
+constexpr int kNotPlayed = 1;
 constexpr DWORD kPollTime = 200; // milliseconds between two looks at whether the sound has ended
-// The longest that the setup waits for a driver to let go of the file, milliseconds. One that takes
-// longer may hang: the next setup removes what it holds, with the private folder.
+// The longest that the setup waits for a player to end by itself, and then for the system to end
+// it, milliseconds. What a driver holds beyond that, the next setup removes with the private
+// folder.
 constexpr DWORD kStopTime = 300;
 
 // What Windows loads by the name alone while it plays a sound, on those of its versions that can't
@@ -27,65 +35,61 @@ constexpr const char* kSoundLibraries[] = {
     "audioses.dll", "devenum.dll", "quartz.dll",   "msdmo.dll",   "dsound.dll",
 };
 
-} // namespace
-
-ScreenSound::SendCommand ScreenSound::LoadPlayer()
+// The parent writes the command at once and whole.
+Text ReadCommand(HANDLE pipe)
 {
-    for (const char* name : kSoundLibraries)
-        LoadFromSystemFolder(name);
-    const HMODULE library = LoadFromSystemFolder("winmm.dll");
-    return library == nullptr ? nullptr
-                              : reinterpret_cast<SendCommand>(reinterpret_cast<void*>(
-                                    GetProcAddress(library, "mciSendStringW")));
+    Text command(2 * 32768, '\0');
+    DWORD count = 0;
+    if (GetFileType(pipe) != FILE_TYPE_PIPE ||
+        !ReadFile(pipe, command.data(), static_cast<DWORD>(command.size()), &count, nullptr))
+        count = 0;
+    command.resize(count);
+    return command;
 }
 
-struct ScreenSound::Playing {
-    Text open; // the command
-    FindPlayer findPlayer;
-    HANDLE stop = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    std::atomic<bool> hasFailed = false;
+bool IsBroken(HANDLE pipe)
+{
+    return !PeekNamedPipe(pipe, nullptr, 0, nullptr, nullptr, nullptr);
+}
 
-    Playing(Text command, FindPlayer find) : open(std::move(command)), findPlayer(find) {}
-    ~Playing() { CloseHandle(stop); }
-    Playing(const Playing&) = delete;
-    Playing& operator=(const Playing&) = delete;
+} // namespace
 
-    bool IsStopped(DWORD wait) const { return WaitForSingleObject(stop, wait) == WAIT_OBJECT_0; }
-};
-
-ScreenSound::ScreenSound(const DesignFiles& design, Text name, Text folder, FindPlayer findPlayer)
-    : design_(design), name_(std::move(name)), folder_(std::move(folder)), findPlayer_(findPlayer)
+ScreenSound::ScreenSound(const DesignFiles& design, Text name, Text folder)
+    : design_(design), name_(std::move(name)), folder_(std::move(folder))
 {
 }
 
 ScreenSound::~ScreenSound()
 {
-    if (thread_ != nullptr) {
-        SetEvent(playing_->stop);
-        WaitForSingleObject(thread_, kStopTime);
-        CloseHandle(thread_);
-    }
+    EndPlayer();
     const SoundKind* const kind = KindOfSound(name_);
     if (kind != nullptr && !folder_.empty())
         DeleteFileW(WidePath(JoinPath(folder_, kind->name)).c_str());
 }
 
+void ScreenSound::EndPlayer()
+{
+    if (process_ == nullptr)
+        return;
+    CloseHandle(pipe_);
+    if (WaitForSingleObject(process_, kStopTime) != WAIT_OBJECT_0) {
+        TerminateProcess(process_, kNotPlayed);
+        WaitForSingleObject(process_, kStopTime);
+    }
+    CloseHandle(process_);
+    process_ = nullptr;
+}
+
 void ScreenSound::Start()
 {
     const SoundKind* const kind = KindOfSound(name_);
-    if (thread_ != nullptr || name_.empty())
+    if (process_ != nullptr || name_.empty())
         return;
     isUnplayable_ = true;
     try {
         if (kind == nullptr || design_.Files().Status(name_).size > kMaxSoundSize)
             return;
-        playing_ = std::make_shared<Playing>(OpenSoundCommand(*kind, MakeFile(*kind)), findPlayer_);
-        auto given = std::make_unique<std::shared_ptr<Playing>>(playing_);
-        thread_ = CreateThread(nullptr, 0, Play, given.get(), 0, nullptr);
-        if (thread_ == nullptr)
-            return;
-        given.release();
-        isUnplayable_ = false;
+        isUnplayable_ = !StartPlayer(OpenSoundCommand(*kind, MakeFile(*kind)));
     } catch (const RunError&) {
         // A setup without its sound is a setup all the same.
     }
@@ -101,16 +105,63 @@ Text ScreenSound::MakeFile(const SoundKind& kind) const
     return path;
 }
 
-bool ScreenSound::HasFailed() const
+bool ScreenSound::StartPlayer(const Text& open)
 {
-    return isUnplayable_ || (playing_ && playing_->hasFailed);
+    HANDLE read = nullptr;
+    HANDLE write = nullptr;
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    if (!CreatePipe(&read, &write, &inherited, static_cast<DWORD>(open.size())))
+        return false;
+    const FileHandle readEnd(read);
+    // Otherwise the pipe would never break for the reader.
+    SetHandleInformation(write, HANDLE_FLAG_INHERIT, 0);
+    std::wstring line = Wide("\"" + ProgramPath() + "\" " + Text(kPlay) +
+                             NumberText(reinterpret_cast<INT_PTR>(read)));
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_FORCEOFFFEEDBACK; // no pointer of a program that is on its way
+    PROCESS_INFORMATION process{};
+    DWORD written = 0;
+    if (!WriteFile(write, open.data(), static_cast<DWORD>(open.size()), &written, nullptr) ||
+        !CreateProcessW(Wide(ProgramPath()).c_str(), line.data(), nullptr, nullptr, TRUE,
+                        CREATE_NO_WINDOW, nullptr, nullptr, &startup, &process)) {
+        CloseHandle(write);
+        return false;
+    }
+    CloseHandle(process.hThread);
+    pipe_ = write;
+    process_ = process.hProcess;
+    return true;
 }
 
-unsigned long __stdcall ScreenSound::Play(void* playing)
+bool ScreenSound::HasFailed() const
 {
-    const std::unique_ptr<std::shared_ptr<Playing>> mine(
-        static_cast<std::shared_ptr<Playing>*>(playing));
-    const SendCommand player = (*mine)->findPlayer();
+    DWORD code = 0;
+    return isUnplayable_ ||
+           (process_ != nullptr && WaitForSingleObject(process_, 0) == WAIT_OBJECT_0 &&
+            GetExitCodeProcess(process_, &code) && code != 0);
+}
+
+SendSoundCommand LoadSoundPlayer()
+{
+    for (const char* name : kSoundLibraries)
+        LoadFromSystemFolder(name);
+    const HMODULE library = LoadFromSystemFolder("winmm.dll");
+    return library == nullptr ? nullptr
+                              : reinterpret_cast<SendSoundCommand>(reinterpret_cast<void*>(
+                                    GetProcAddress(library, "mciSendStringW")));
+}
+
+std::optional<int> PlayForParent(std::string_view commandLine, SendSoundCommand (*findPlayer)())
+{
+    if (!commandLine.starts_with(kPlay))
+        return std::nullopt;
+    const FileHandle pipe(reinterpret_cast<HANDLE>(
+        static_cast<INT_PTR>(LeadingNumber(commandLine.substr(kPlay.size())))));
+    const Text open = ReadCommand(pipe.Get());
+    if (open.empty())
+        return kNotPlayed;
+    const SendSoundCommand player = findPlayer();
     const auto send = [player](const Text& command, Text* answer) {
         wchar_t words[32] = {};
         if (player == nullptr || player(Wide(command).c_str(), words, 32, nullptr) != 0)
@@ -119,10 +170,12 @@ unsigned long __stdcall ScreenSound::Play(void* playing)
             *answer = Narrow(words);
         return true;
     };
-    (*mine)->hasFailed = !PlayOverAndOver((*mine)->open, send, [&](bool hasTime) {
-        return (*mine)->IsStopped(hasTime ? kPollTime : 0);
+    const bool isPlayed = PlayOverAndOver(open, send, [&](bool hasTime) {
+        if (hasTime)
+            Sleep(kPollTime);
+        return IsBroken(pipe.Get());
     });
-    return 0;
+    return isPlayed ? 0 : kNotPlayed;
 }
 
 } // namespace quillon

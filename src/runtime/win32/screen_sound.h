@@ -1,11 +1,14 @@
-// Plays the sound of the screen on a thread of its own: whatever a driver waits for, the setup goes
-// on.
+// Plays the sound of the screen in a process of its own: the running program, started once more. A
+// driver that hangs or crashes there, even while it is loaded, holds up and ends nothing else.
+//
+// The process gets its file through a pipe that only the parent can hand down, and plays until the
+// pipe breaks, which the end of the parent does too, whatever ends that.
 #pragma once
 
 #include "runtime/background_sound.h"
 #include "runtime/pages/design_files.h"
 
-#include <memory>
+#include <optional>
 
 struct HWND__;
 
@@ -13,17 +16,11 @@ namespace quillon {
 
 class ScreenSound : public BackgroundSound {
 public:
-    /// Hands a command to the system's player; 0 where it was carried out. Null: there is none.
-    using SendCommand = unsigned long(__stdcall*)(const wchar_t* command, wchar_t* answer,
-                                                  unsigned size, HWND__* window);
-    /// Called on the thread of the sound, since loading a driver may take its time, too.
-    using FindPlayer = SendCommand (*)();
-
     /// `name` is one of `design`. Its bytes go to `folder`, which is private, since Windows plays
-    /// files alone; an empty folder means that `name` is a file already.
-    ScreenSound(const DesignFiles& design, Text name, Text folder,
-                FindPlayer findPlayer = LoadPlayer);
-    /// Silence, and no file, but where a driver hangs.
+    /// files alone; an empty folder means that `name` is a file already. The running program has to
+    /// call `PlayForParent` first.
+    ScreenSound(const DesignFiles& design, Text name, Text folder);
+    /// Silence, and no file.
     ~ScreenSound() override;
     ScreenSound(const ScreenSound&) = delete;
     ScreenSound& operator=(const ScreenSound&) = delete;
@@ -32,18 +29,25 @@ public:
     bool HasFailed() const override;
 
 private:
-    struct Playing;
     Text MakeFile(const SoundKind& kind) const;
-    static SendCommand LoadPlayer();
-    static unsigned long __stdcall Play(void* playing);
+    bool StartPlayer(const Text& open);
+    void EndPlayer();
 
     const DesignFiles& design_;
     const Text name_;
     const Text folder_;
-    const FindPlayer findPlayer_;
-    std::shared_ptr<Playing> playing_; // the thread's as well
-    void* thread_ = nullptr;
+    void* pipe_ = nullptr;
+    void* process_ = nullptr;
     bool isUnplayable_ = false;
 };
+
+/// Hands a command to the system's player; 0 where it was carried out. Null: there is none.
+using SendSoundCommand = unsigned long(__stdcall*)(const wchar_t* command, wchar_t* answer,
+                                                   unsigned size, HWND__* window);
+SendSoundCommand LoadSoundPlayer();
+
+/// What the second process does; nothing where the command line asks for something else.
+std::optional<int> PlayForParent(std::string_view commandLine,
+                                 SendSoundCommand (*findPlayer)() = LoadSoundPlayer);
 
 } // namespace quillon

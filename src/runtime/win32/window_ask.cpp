@@ -57,6 +57,11 @@ LRESULT CALLBACK WindowAsk::Receive(HWND window, UINT message, WPARAM word, LPAR
             window, GWLP_USERDATA,
             reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(data)->lpCreateParams));
     auto* const self = reinterpret_cast<WindowAsk*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    // Windows are scaled once they have their controls.
+    if (message == kDpiChanged && self != nullptr && self->scale_) {
+        self->scale_->Change(word, data);
+        return 0;
+    }
     const bool cancels = message == WM_CLOSE || (message == WM_COMMAND && LOWORD(word) == IDCANCEL);
     if (self == nullptr || !cancels)
         return DefWindowProcW(window, message, word, data);

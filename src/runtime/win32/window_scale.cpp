@@ -6,46 +6,76 @@ namespace {
 
 constexpr int kNormalDpi = 96;
 
-void ScaleControl(HWND window, HWND control, int dpi)
+int Scaled(LONG pixels, int dpi)
 {
-    RECT place{};
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
-    const auto scaled = [dpi](LONG pixels) {
-        return MulDiv(static_cast<int>(pixels), dpi, kNormalDpi);
-    };
-    SetWindowPos(control, nullptr, scaled(place.left), scaled(place.top),
-                 scaled(place.right - place.left), scaled(place.bottom - place.top),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    return MulDiv(static_cast<int>(pixels), dpi, kNormalDpi);
 }
 
-// The frame has the right width already: it is Windows that draws it.
-void ScaleFrame(HWND window, int dpi)
+RECT PlaceOf(HWND window)
+{
+    RECT place{};
+    GetWindowRect(window, &place);
+    return place;
+}
+
+// The frame is as wide as Windows draws it at that scale, so the window gets its size by what is
+// missing inside.
+void SetInside(HWND window, int width, int height)
 {
     RECT inside{};
-    RECT place{};
     GetClientRect(window, &inside);
-    GetWindowRect(window, &place);
-    const int moreAcross = MulDiv(static_cast<int>(inside.right), dpi - kNormalDpi, kNormalDpi);
-    const int moreDown = MulDiv(static_cast<int>(inside.bottom), dpi - kNormalDpi, kNormalDpi);
-    SetWindowPos(window, nullptr, static_cast<int>(place.left) - moreAcross / 2,
-                 static_cast<int>(place.top) - moreDown / 2,
-                 static_cast<int>(place.right - place.left) + moreAcross,
-                 static_cast<int>(place.bottom - place.top) + moreDown,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    const RECT place = PlaceOf(window);
+    SetWindowPos(window, nullptr, 0, 0, place.right - place.left + width - inside.right,
+                 place.bottom - place.top + height - inside.bottom,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Move(HWND window, int left, int top)
+{
+    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 } // namespace
 
-WindowScale::WindowScale(HWND window) : letters_(DpiOf(window))
+WindowScale::WindowScale(HWND window) : window_(window)
 {
-    const int dpi = DpiOf(window);
+    RECT inside{};
+    GetClientRect(window, &inside);
+    inside_ = {inside.right, inside.bottom};
     for (HWND control = GetWindow(window, GW_CHILD); control != nullptr;
          control = GetWindow(control, GW_HWNDNEXT)) {
-        ScaleControl(window, control, dpi);
-        SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(letters_.Font()), TRUE);
+        RECT place = PlaceOf(control);
+        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+        controls_.push_back({control, place});
     }
-    ScaleFrame(window, dpi);
+    const int dpi = DpiOf(window);
+    const RECT place = PlaceOf(window);
+    PlaceControls(dpi);
+    Move(window, static_cast<int>(place.left) - (Scaled(inside_.cx, dpi) - inside_.cx) / 2,
+         static_cast<int>(place.top) - (Scaled(inside_.cy, dpi) - inside_.cy) / 2);
+}
+
+void WindowScale::Change(WPARAM word, LPARAM data)
+{
+    const RECT& place = *reinterpret_cast<const RECT*>(data);
+    Move(window_, place.left, place.top);
+    PlaceControls(HIWORD(word));
+}
+
+// From the measures of a normal display each time, since rounded ones would drift.
+void WindowScale::PlaceControls(int dpi)
+{
+    // The controls use the former letters until they have the new ones.
+    auto letters = std::make_unique<const PageLetters>(dpi);
+    for (const Control& control : controls_) {
+        const RECT& place = control.place;
+        SetWindowPos(control.window, nullptr, Scaled(place.left, dpi), Scaled(place.top, dpi),
+                     Scaled(place.right - place.left, dpi), Scaled(place.bottom - place.top, dpi),
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        SendMessageW(control.window, WM_SETFONT, reinterpret_cast<WPARAM>(letters->Font()), TRUE);
+    }
+    letters_ = std::move(letters);
+    SetInside(window_, Scaled(inside_.cx, dpi), Scaled(inside_.cy, dpi));
 }
 
 } // namespace quillon

@@ -13,6 +13,10 @@
 //   type ID TEXT         puts the text into the line and leaves it
 //   choose ID ROW        chooses the row of a list
 //   key ID CODE          presses the key in the control
+//   tap CODE             presses the key wherever the focus is on the page
+//   alt LETTER           presses Alt and the letter
+//   tab                  presses Tab and logs the control that has the focus then
+//   focus ID             waits until the control has the focus
 //   read ID              logs the text of the control
 //   margin ID            logs whether the text of a field stays away from its edges
 //   await ID TEXT        waits until the control has that text
@@ -35,6 +39,8 @@
 //   plant FOLDER         copies the folder's files into each private folder of a setup
 //   shot FILE            writes what the page looks like as a bitmap
 //   inside               logs width and height of the page without its frame
+//   scale DPI            sends the page what it gets when it has come to a display of that scale,
+//                        by which `clipped` measures from then on
 //   clipped              logs each control of the page whose text does not fit into it, or that
 //                        sticks out of the page
 //   close                closes the page by its frame
@@ -47,6 +53,7 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "runtime/win32/list_window.h"
+#include "runtime/win32/page_letters.h"
 #include "window_look.h"
 
 #include <windows.h>
@@ -60,6 +67,7 @@ namespace {
 
 constexpr int kMaxWait = 60'000; // milliseconds; a step that takes longer never comes
 constexpr int kLook = 10;
+constexpr LPARAM kAltIsDown = 1 << 29; // of a message of the keyboard
 
 struct Search {
     const wchar_t* kind;
@@ -161,6 +169,16 @@ private:
             return MoveBoxAside();
         if (verb == "clipped")
             return LogClipped();
+        if (verb == "scale")
+            return Scale(id);
+        if (verb == "tap")
+            return Tap(WM_KEYDOWN, static_cast<WPARAM>(id), 0);
+        if (verb == "alt")
+            return Tap(WM_SYSKEYDOWN, static_cast<WPARAM>(Wide(rest).at(0)), kAltIsDown);
+        if (verb == "tab")
+            return Tab();
+        if (verb == "focus")
+            return AwaitFocus([id](int focus) { return focus == id; });
         if (verb == "controls")
             return ListControls();
         if (verb == "pointer")
@@ -213,6 +231,44 @@ private:
         return true;
     }
 
+    HWND Focus() const
+    {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        const bool isKnown = GetGUIThreadInfo(GetWindowThreadProcessId(page_, nullptr), &info);
+        return isKnown ? info.hwndFocus : nullptr;
+    }
+
+    // The key comes to the program's queue as from the keyboard; what it means there is up to it.
+    bool Tap(UINT message, WPARAM key, LPARAM state) const
+    {
+        const HWND focus = Focus();
+        return focus != nullptr && PostMessageW(focus, message, key, state | 1);
+    }
+
+    template <class IsIt>
+    bool AwaitFocus(IsIt isIt) const
+    {
+        for (int waited = 0; waited < kMaxWait; waited += kLook) {
+            const HWND focus = Focus();
+            if (focus != nullptr && GetParent(focus) == page_ && isIt(GetDlgCtrlID(focus)))
+                return true;
+            if (WaitForSingleObject(process_, kLook) != WAIT_TIMEOUT)
+                return false;
+        }
+        return false;
+    }
+
+    bool Tab()
+    {
+        const int before = GetDlgCtrlID(Focus());
+        if (!Tap(WM_KEYDOWN, VK_TAB, 0) ||
+            !AwaitFocus([before](int focus) { return focus != before; }))
+            return false;
+        log_ += "tab " + NumberText(std::int64_t{GetDlgCtrlID(Focus())}) + "\n";
+        return true;
+    }
+
     bool Await(HWND control, const std::wstring& text) const
     {
         for (int waited = 0; TextOf(control) != text && waited < kMaxWait; waited += kLook)
@@ -231,9 +287,30 @@ private:
         return true;
     }
 
+    bool Scale(int dpi)
+    {
+        // A record that another program sends is in that program's memory, so it is put there.
+        RECT place{};
+        GetWindowRect(page_, &place);
+        DWORD process = 0;
+        GetWindowThreadProcessId(page_, &process);
+        const HANDLE owner = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_WRITE, FALSE, process);
+        void* const there =
+            VirtualAllocEx(owner, nullptr, sizeof place, MEM_COMMIT, PAGE_READWRITE);
+        const bool isWritten = WriteProcessMemory(owner, there, &place, sizeof place, nullptr);
+        constexpr UINT kDpiChanged = 0x02E0;
+        if (isWritten)
+            SendMessageW(page_, kDpiChanged, static_cast<WPARAM>(MAKELONG(dpi, dpi)),
+                         reinterpret_cast<LPARAM>(there));
+        VirtualFreeEx(owner, there, 0, MEM_RELEASE);
+        CloseHandle(owner);
+        dpi_ = dpi;
+        return isWritten;
+    }
+
     bool LogClipped()
     {
-        for (const HWND control : ClippedControls(page_))
+        for (const HWND control : ClippedControls(page_, dpi_ == 0 ? DpiOf(page_) : dpi_))
             log_ += "clipped " + OneLine(KindOf(control)) + " " + OneLine(TextOf(control)) + "\n";
         return true;
     }
@@ -483,6 +560,7 @@ private:
     HWND watch_ = nullptr;
     HANDLE held_ = INVALID_HANDLE_VALUE;
     HWND page_ = nullptr;
+    int dpi_ = 0; // 0: that of the page's own display
 };
 
 } // namespace

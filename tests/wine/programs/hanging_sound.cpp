@@ -1,5 +1,5 @@
-// hanging_sound FILE LOG: plays the file on a player that never answers, and comes to its end as a
-// setup does.
+// hanging_sound FILE LOG WHEN: plays the file on a player that never answers, or on one that never
+// comes to an end of being loaded where WHEN is "load", and comes to its end as a setup does.
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "platform/win32/wide_text.h"
@@ -14,9 +14,12 @@ using namespace quillon;
 
 namespace {
 
+// The process that plays has a command line of its own, but the surroundings of this one.
+constexpr const wchar_t* kWhen = L"QUILLON_HANGS_AT";
+
 HANDLE Asked()
 {
-    static const HANDLE asked = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    static const HANDLE asked = CreateEventW(nullptr, TRUE, FALSE, L"QuillonSoundAsked");
     return asked;
 }
 
@@ -27,29 +30,42 @@ DWORD WINAPI NeverAnswer(const wchar_t*, wchar_t*, UINT, HWND)
     return 0;
 }
 
-ScreenSound::SendCommand FindHangingPlayer()
+SendSoundCommand FindHangingPlayer()
 {
+    wchar_t when[16] = {};
+    GetEnvironmentVariableW(kWhen, when, 16);
+    if (when[0] == L'l')
+        NeverAnswer(nullptr, nullptr, 0, nullptr);
     return NeverAnswer;
 }
 
-} // namespace
-
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
+int Play(const wchar_t* sound, const wchar_t* logFile)
 {
-    int count = 0;
-    wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
-    if (arguments == nullptr || count != 3)
-        return 1;
     return RunErrorNumber([&] {
         WinFiles files;
         const DesignFiles design(files, {}, {}, DesignFiles::Names::WholePaths);
         Text log;
         {
-            ScreenSound sound(design, Narrow(arguments[1]), {}, FindHangingPlayer);
-            sound.Start();
+            ScreenSound player(design, Narrow(sound), {});
+            player.Start();
             WaitForSingleObject(Asked(), INFINITE);
-            log = sound.HasFailed() ? "failed\n" : "plays\n";
+            log = player.HasFailed() ? "failed\n" : "plays\n";
         }
-        WriteWholeFile(files, Narrow(arguments[2]), log + "went on\n");
+        WriteWholeFile(files, Narrow(logFile), log + "went on\n");
     });
+}
+
+} // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int)
+{
+    if (const auto code = PlayForParent(Narrow(commandLine), FindHangingPlayer))
+        return *code;
+    int count = 0;
+    wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
+    if (arguments == nullptr || count != 4)
+        return 1;
+    Asked();
+    SetEnvironmentVariableW(kWhen, arguments[3]);
+    return Play(arguments[1], arguments[2]);
 }

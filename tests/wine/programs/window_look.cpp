@@ -84,10 +84,10 @@ Text BitmapOf(HWND window)
 }
 
 // In the letters that the setup gives its controls, which another program can't ask for.
-std::vector<HWND> ClippedControls(HWND window)
+std::vector<HWND> ClippedControls(HWND window, int dpi)
 {
     std::vector<HWND> clipped;
-    const PageLetters letters(DpiOf(window));
+    const PageLetters letters(dpi);
     const HDC device = GetDC(window);
     const HGDIOBJ before = SelectObject(device, letters.Font());
     for (HWND control = GetWindow(window, GW_CHILD); control != nullptr;

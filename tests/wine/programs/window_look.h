@@ -15,7 +15,8 @@ std::wstring KindOf(HWND window);
 /// What is inside the frame, as a file.
 Text BitmapOf(HWND window);
 
-/// The controls whose text does not fit into them, or that stick out of the window.
-std::vector<HWND> ClippedControls(HWND window);
+/// The controls whose text does not fit into them, or that stick out of the window, on a display of
+/// that scale.
+std::vector<HWND> ClippedControls(HWND window, int dpi);
 
 } // namespace quillon

@@ -210,6 +210,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int)
     const Text given = TrimBlanks(Narrow(commandLine));
     if (const auto code = RegisterForParent(given))
         return *code;
+    if (const auto code = PlayForParent(given))
+        return *code;
     OleInitialize(nullptr);
     const auto uninstaller = ReadStarterLine(given);
     const int code =
