@@ -4,6 +4,7 @@
 #include "ini/encoded_ini.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
+#include "runtime/rollback.h"
 
 #include <span>
 
@@ -55,34 +56,54 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
         work.record.Add(std::move(record));
     const Text staged = work.transaction.StagingPath(path);
     WriteWholeFile(work.files, staged, file->Bytes());
-    work.transaction.PutFile({staged, path, existed, InstallTransaction::Recorded::No});
+    work.transaction.PutFile({.staged = staged,
+                              .path = path,
+                              .replaces = existed,
+                              .recorded = InstallTransaction::Recorded::No,
+                              .keepsRights = true});
 }
 
 // A file that has become something else since holds nothing of ours any more.
 template <class Work>
-void Change(FileSystem& files, const Text& path, Work work)
+void Change(const FileRewriting& rewriting, const Text& path, Work work)
 {
-    if (!files.FileExists(path))
+    if (!rewriting.files.FileExists(path))
         return;
-    auto file = EncodedIni::Read(ReadWholeFile(files, path));
+    auto file = EncodedIni::Read(ReadWholeFile(rewriting.files, path));
     if (!file)
         return;
     const std::string before = file->ini.Bytes();
     work(*file);
     if (file->ini.Bytes() != before)
-        RewriteFile(files, path, file->Bytes());
+        RewriteFile(rewriting, path, file->Bytes());
 }
 
 } // namespace
 
-void RewriteFile(FileSystem& files, const Text& path, std::string_view bytes)
+// The write protection goes first, or nothing could take the file's place. A removal that is broken
+// off behind that finds it on the temporary file.
+void RewriteFile(const FileRewriting& rewriting, const Text& path, std::string_view bytes)
 {
+    FileSystem& files = rewriting.files;
     const Text staged = JoinPath(ExtractDirectory(path), "~qn-" + ExtractFilename(path) + ".tmp");
+    const auto isProtected = [&](const Text& file) {
+        return files.FileExists(file) && files.Status(file).isReadOnly;
+    };
+    const bool wasProtected = isProtected(staged) || isProtected(path);
     try {
+        if (files.FileExists(staged))
+            RemoveEvenReadOnly(files, staged);
         WriteWholeFile(files, staged, bytes);
+        rewriting.target.CopyRights(path, staged);
+        if (wasProtected) {
+            files.SetReadOnly(staged, true);
+            files.SetReadOnly(path, false);
+        }
         files.Rename(staged, path);
     } catch (const RunError&) {
-        RunErrorNumber([&] { files.RemoveFile(staged); });
+        if (wasProtected)
+            RunErrorNumber([&] { files.SetReadOnly(path, true); });
+        RunErrorNumber([&] { RemoveEvenReadOnly(files, staged); });
         throw;
     }
 }
@@ -96,31 +117,32 @@ void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines)
     }
 }
 
-void UndoIniChange(FileSystem& files, const record::IniFile& record)
+void UndoIniChange(const FileRewriting& rewriting, const record::IniFile& record)
 {
+    FileSystem& files = rewriting.files;
     if (!files.FileExists(record.path))
         return;
     const auto file = EncodedIni::Read(ReadWholeFile(files, record.path));
     if (file && file->ini.Bytes().find_first_not_of(" \t\r\n") == Text::npos)
-        files.RemoveFile(record.path);
+        RemoveEvenReadOnly(files, record.path);
 }
 
-void UndoIniChange(FileSystem& files, const record::IniOpenEnd& record)
+void UndoIniChange(const FileRewriting& rewriting, const record::IniOpenEnd& record)
 {
-    Change(files, record.path, [&](EncodedIni& file) {
+    Change(rewriting, record.path, [&](EncodedIni& file) {
         file.ini.RemoveFinalLineBreakAfter(file.Coded(record.lastLine));
     });
 }
 
-void UndoIniChange(FileSystem& files, const record::IniSection& record)
+void UndoIniChange(const FileRewriting& rewriting, const record::IniSection& record)
 {
-    Change(files, record.path,
+    Change(rewriting, record.path,
            [&](EncodedIni& file) { file.ini.RemoveEmptySection(file.Coded(record.section)); });
 }
 
-void UndoIniChange(FileSystem& files, const record::IniValue& record)
+void UndoIniChange(const FileRewriting& rewriting, const record::IniValue& record)
 {
-    Change(files, record.path, [&](EncodedIni& file) {
+    Change(rewriting, record.path, [&](EncodedIni& file) {
         const std::string section = file.Coded(record.section);
         const std::string name = file.Coded(record.name);
         const auto present = file.ini.Value(section, name);

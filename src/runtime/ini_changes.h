@@ -16,13 +16,18 @@ struct IniWork {
 /// The lines' files are absolute paths.
 void WriteIniFiles(const IniWork& work, const std::vector<IniLine>& lines);
 
-void UndoIniChange(FileSystem& files, const record::IniFile& record);
-void UndoIniChange(FileSystem& files, const record::IniOpenEnd& record);
-void UndoIniChange(FileSystem& files, const record::IniSection& record);
-void UndoIniChange(FileSystem& files, const record::IniValue& record);
+struct FileRewriting {
+    FileSystem& files;
+    Target& target;
+};
 
-/// The old file stays until the new one is whole. A removal that was broken off here is repeated,
-/// and then finds its temporary file under the same name.
-void RewriteFile(FileSystem& files, const Text& path, std::string_view bytes);
+void UndoIniChange(const FileRewriting& rewriting, const record::IniFile& record);
+void UndoIniChange(const FileRewriting& rewriting, const record::IniOpenEnd& record);
+void UndoIniChange(const FileRewriting& rewriting, const record::IniSection& record);
+void UndoIniChange(const FileRewriting& rewriting, const record::IniValue& record);
+
+/// The old file stays until the new one is whole, which has its rights and attributes. A removal
+/// that was broken off here is repeated, and then finds its temporary file under the same name.
+void RewriteFile(const FileRewriting& rewriting, const Text& path, std::string_view bytes);
 
 } // namespace quillon

@@ -109,6 +109,8 @@ void InstallTransaction::RecordFile(const Text& path, bool existed)
 
 void InstallTransaction::PutFile(const NewFile& file)
 {
+    if (file.replaces && file.keepsRights)
+        target_.CopyRights(file.path, file.staged);
     if (file.replaces)
         MoveAside(file.path);
     NoteNewFile(file);

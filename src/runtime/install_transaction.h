@@ -24,6 +24,7 @@ public:
         Text path;
         bool replaces = false; // a file is there
         Recorded recorded = Recorded::Yes;
+        bool keepsRights = false; // and the attributes of the file that it replaces
     };
 
     /// Before the first change. Throws where another installation to the same folder is at work.

@@ -43,7 +43,7 @@ void ForgetSharedFiles(const JournalToRewrite& log, const std::vector<JournalRec
     for (const Text& line : SplitLines(ReadWholeFile(log.files, log.path)))
         if (dropped.count(line) == 0 && !line.empty())
             kept += line + Text(kLineBreak);
-    RewriteFile(log.files, log.path, kept);
+    RewriteFile({log.files, log.target}, log.path, kept);
     log.target.CloseToOthers(log.path);
 }
 

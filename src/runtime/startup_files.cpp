@@ -102,7 +102,11 @@ void StartupFile::Add(const Text& lines)
         work_.record.Add(std::move(record));
     const Text staged = work_.transaction.StagingPath(path_);
     WriteWholeFile(work_.files, staged, bytes);
-    work_.transaction.PutFile({staged, path_, existed, InstallTransaction::Recorded::No});
+    work_.transaction.PutFile({.staged = staged,
+                               .path = path_,
+                               .replaces = existed,
+                               .recorded = InstallTransaction::Recorded::No,
+                               .keepsRights = true});
 }
 
 void StartupFile::AddLine(std::string& bytes, const Text& line)
@@ -161,8 +165,9 @@ void WriteStartupFiles(const StartupWork& work, const section::Lists& lists)
     write(kConfig, lists.ConfigSys);
 }
 
-void UndoStartupLine(FileSystem& files, const record::StartupLine& line)
+void UndoStartupLine(const FileRewriting& rewriting, const record::StartupLine& line)
 {
+    const FileSystem& files = rewriting.files;
     if (!files.FileExists(line.path))
         return;
     std::string bytes = ReadWholeFile(files, line.path);
@@ -171,7 +176,7 @@ void UndoStartupLine(FileSystem& files, const record::StartupLine& line)
         return;
     const std::size_t end = bytes.find('\n', at);
     bytes.erase(at, end == std::string::npos ? end : end + 1 - at);
-    RewriteFile(files, line.path, bytes);
+    RewriteFile(rewriting, line.path, bytes);
 }
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 // AUTOEXEC.BAT and CONFIG.SYS. Other systems do not read them, and they stay as they are there.
 #pragma once
 
+#include "runtime/ini_changes.h"
 #include "runtime/install_transaction.h"
 #include "runtime/setup_variables.h"
 
@@ -34,6 +35,6 @@ bool ReadsStartupFiles(const Target& target);
 void WriteStartupFiles(const StartupWork& work, const section::Lists& lists);
 
 /// Takes the line out of its file again; nothing happens where it is no longer there.
-void UndoStartupLine(FileSystem& files, const record::StartupLine& line);
+void UndoStartupLine(const FileRewriting& rewriting, const record::StartupLine& line);
 
 } // namespace quillon

@@ -97,6 +97,9 @@ public:
     /// Leaves a file to administrators and the system alone, where an administrator does this and
     /// the disk knows of rights.
     virtual void CloseToOthers(const Text& path) = 0;
+    /// Gives a file the rights and the attributes (read-only, hidden, system) of another one on the
+    /// same disk, whose place it is about to take.
+    virtual void CopyRights(const Text& from, const Text& to) = 0;
     /// False where somebody else made `path` than who makes files now, such as `own`.
     virtual bool HaveSameOwner(const Text& path, const Text& own) const = 0;
     /// Whether the file belongs to administrators, to the system or to the user who runs this, so

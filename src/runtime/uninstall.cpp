@@ -54,7 +54,7 @@ private:
     void Undo(const record::StartupLine& line)
     {
         if (IsInReach(line.path))
-            UndoStartupLine(files_, line);
+            UndoStartupLine({files_, input_.target}, line);
     }
     // What tells of the product or belongs to the installation alone. Folders and what waits for
     // the machine's next start go last.
@@ -66,7 +66,7 @@ private:
     void UndoIni(const Record& change)
     {
         if (IsInReach(change.path))
-            UndoIniChange(files_, change);
+            UndoIniChange({files_, input_.target}, change);
     }
     bool IsInReach(const Text& path);
     void RemoveFile(const Text& path);

@@ -192,6 +192,12 @@ void MemoryTarget::CloseToOthers(const Text& path)
     closedToOthers.insert(path);
 }
 
+void MemoryTarget::CopyRights(const Text& from, const Text& to)
+{
+    beforeChange();
+    copyRights(from, to);
+}
+
 bool MemoryTarget::HaveSameOwner(const Text& path, const Text& own) const
 {
     return ofOthers.count(path) == ofOthers.count(own);

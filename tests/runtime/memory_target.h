@@ -40,6 +40,7 @@ public:
     void MoveAtRestart(const Text& from, const Text& to) override;
     int RunProgram(const ProgramRun& run) override;
     void CloseToOthers(const Text& path) override;
+    void CopyRights(const Text& from, const Text& to) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
     bool IsOfTrustedUser(const Text& path) const override { return ofOthers.count(path) == 0; }
     bool IsLink(const Text& folder) const override { return links.count(LowerCase(folder)) > 0; }
@@ -60,6 +61,8 @@ public:
     bool hasCommonFolders = true;
     std::vector<Text> programsRun;    // a program, its arguments and " (hidden)" behind it
     std::map<Text, int> programCodes; // 0 where not named
+    /// How rights and attributes are copied, where the test's machine has any.
+    std::function<void(const Text& from, const Text& to)> copyRights = [](auto&, auto&) {};
     /// What a program does while it runs; may throw.
     std::function<void(const ProgramRun&)> onProgram = [](const ProgramRun&) {};
     std::set<Text> closedToOthers;

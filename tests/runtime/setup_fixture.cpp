@@ -98,6 +98,14 @@ void MemoryContainer::Extract(const ZipEntry& entry, const Text&, const ZipReade
 
 SetupFixture::SetupFixture()
 {
+    target.copyRights = [this](const Text& from, const Text& to) {
+        const MemoryFiles::Node& model = memory.files.At(from);
+        MemoryFiles::Node& copy = memory.files.At(to);
+        copy.rights = model.rights;
+        copy.status.isReadOnly = model.status.isReadOnly;
+        copy.status.isHidden = model.status.isHidden;
+        copy.status.isSystem = model.status.isSystem;
+    };
     project.ProjectName.ProjectName = "Exempel";
     project.ProgramGroup.ProgramGroup = "Exempelgrupp";
     project.InstallDirectories.DestinationDirectory = "%PROGRAMFILES\\Exempel";
@@ -196,10 +204,12 @@ MachineState SetupFixture::State() const
         if (key.substr(0, 2) == "l:" || key.substr(0, 2) == "w:")
             continue;
         const LocalTime& time = node.status.modified;
-        state.files[key] = node.bytes ? *node.bytes + "|" + DateText(time) + " " +
-                                            TimeTextWithSeconds(time) +
-                                            (node.status.isReadOnly ? "|r" : "")
-                                      : "<folder>";
+        state.files[key] =
+            node.bytes
+                ? *node.bytes + "|" + DateText(time) + " " + TimeTextWithSeconds(time) +
+                      (node.status.isReadOnly ? "|r" : "") + (node.status.isHidden ? "|h" : "") +
+                      (node.status.isSystem ? "|s" : "") + node.rights
+                : "<folder>";
     }
     state.registry = target.keys;
     state.registered = target.registered;

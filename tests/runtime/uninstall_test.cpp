@@ -517,12 +517,12 @@ TEST_F(UninstallTest, LosesNoLineOfAnIniFileOnAFullDisk)
             if (++change == failAt)
                 throw RunError(ErrorNumber::kDiskFull, "full");
         };
-        EXPECT_THROW(UndoIniChange(files, record), RunError) << failAt;
+        EXPECT_THROW(UndoIniChange({files, target}, record), RunError) << failAt;
         EXPECT_EQ(memory.files.Get(path), "[S]\r\nannat=1\r\nx=1\r\n") << failAt;
         EXPECT_FALSE(memory.files.FileExists("C:\\WINDOWS\\~qn-A.INI.tmp")) << failAt;
     }
     files.beforeChange = [] {};
-    UndoIniChange(files, record);
+    UndoIniChange({files, target}, record);
     EXPECT_EQ(memory.files.Get(path), "[S]\r\nannat=1\r\n");
 }
 

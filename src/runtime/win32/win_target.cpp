@@ -1,5 +1,6 @@
 #include "runtime/win32/win_target.h"
 
+#include "platform/win32/copied_rights.h"
 #include "platform/win32/locked_folder.h"
 #include "platform/win32/registry_key.h"
 #include "platform/win32/wide_text.h"
@@ -214,6 +215,13 @@ int WinTarget::RunProgram(const ProgramRun& run)
 void WinTarget::CloseToOthers(const Text& path)
 {
     LockFileToOthers(WidePath(path).c_str());
+}
+
+void WinTarget::CopyRights(const Text& from, const Text& to)
+{
+    const DWORD status = quillon::CopyRights(WidePath(from).c_str(), WidePath(to).c_str());
+    if (status != ERROR_SUCCESS)
+        throw WindowsFailure(status, from);
 }
 
 bool WinTarget::HaveSameOwner(const Text& path, const Text& own) const

@@ -30,6 +30,7 @@ public:
     void MoveAtRestart(const Text& from, const Text& to) override;
     int RunProgram(const ProgramRun& run) override;
     void CloseToOthers(const Text& path) override;
+    void CopyRights(const Text& from, const Text& to) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
     bool IsOfTrustedUser(const Text& path) const override;
     bool IsLink(const Text& folder) const override;

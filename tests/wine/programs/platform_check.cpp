@@ -8,6 +8,7 @@
 #include "platform/saved_file.h"
 #include "platform/second_thread.h"
 #include "platform/whole_file.h"
+#include "platform/win32/copied_rights.h"
 #include "platform/win32/locked_folder.h"
 #include "platform/win32/registry_key.h"
 #include "platform/win32/wide_text.h"
@@ -385,6 +386,31 @@ void CheckLockedFolder(Checks& checks, FileSystem& files, const Text& folder)
     checks.Expect(!files.DirExists(locked), "removing a locked folder");
 }
 
+// Of a file that is written anew.
+void CheckCopiedRights(Checks& checks, FileSystem& files, const Text& folder)
+{
+    constexpr DWORD kAttributes =
+        FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    const Text first = JoinPath(folder, "closed.ini");
+    const Text second = JoinPath(folder, "new.ini");
+    WriteWholeFile(files, first, "old");
+    WriteWholeFile(files, second, "new");
+    LockFileToOthers(Wide(first).c_str());
+    checks.Expect(IsOpenToEveryone(second) && !IsOpenToEveryone(first),
+                  "a file is open to everyone until it is closed");
+    SetFileAttributesW(Wide(first).c_str(), kAttributes);
+    checks.Expect(CopyRights(Wide(first).c_str(), Wide(second).c_str()) == ERROR_SUCCESS,
+                  "copying rights");
+    checks.Expect(!IsOpenToEveryone(second), "the copy is closed, too");
+    checks.Expect((GetFileAttributesW(Wide(second).c_str()) & kAttributes) == kAttributes,
+                  "attributes are copied");
+    files.SetReadOnly(second, false);
+    checks.Expect(ReadWholeFile(files, second) == "new", "the copy keeps its content");
+    files.RemoveFile(second);
+    files.SetReadOnly(first, false);
+    files.RemoveFile(first);
+}
+
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
@@ -408,6 +434,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
         CheckDrives(checks, files, folder);
         CheckMachine(checks, files);
         CheckLockedFolder(checks, files, folder);
+        CheckCopiedRights(checks, files, folder);
     } catch (const std::exception& failure) {
         checks.Expect(false, Text("a failure that nobody caught: ") + failure.what());
     }
