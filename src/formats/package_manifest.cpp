@@ -85,10 +85,14 @@ void WritePackageManifest(FileSystem& files, const Text& folder, std::vector<Man
 
 Sha256Digest DigestOfFile(const FileSystem& files, const Text& path, const BytesRead& onBytes)
 {
+    return DigestOf(*files.OpenInput(path), onBytes);
+}
+
+Sha256Digest DigestOf(InputFile& file, const BytesRead& onBytes)
+{
     Sha256 hash;
-    const auto file = files.OpenInput(path);
     std::vector<std::byte> piece(kPieceSize);
-    while (const std::size_t got = file->Read(piece)) {
+    while (const std::size_t got = file.Read(piece)) {
         hash.Add(std::span(piece).first(got));
         if (onBytes)
             onBytes(got);
@@ -102,8 +106,16 @@ FileFault CompareFile(const FileSystem& files, const Text& folder, const Manifes
     const Text path = JoinPath(folder, line.name);
     if (!files.FileExists(path))
         return FileFault::Missing;
+    std::unique_ptr<InputFile> file;
+    if (RunErrorNumber([&] { file = files.OpenInput(path); }) != ErrorNumber::kNone)
+        return FileFault::Unreadable;
+    return CompareFile(*file, line, onBytes);
+}
+
+FileFault CompareFile(InputFile& file, const ManifestLine& line, const BytesRead& onBytes)
+{
     std::optional<Sha256Digest> digest;
-    RunErrorNumber([&] { digest = DigestOfFile(files, path, onBytes); });
+    RunErrorNumber([&] { digest = DigestOf(file, onBytes); });
     if (!digest)
         return FileFault::Unreadable;
     return *digest == line.digest ? FileFault::None : FileFault::Different;

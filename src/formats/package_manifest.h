@@ -52,10 +52,14 @@ using BytesRead = std::function<void(std::size_t)>;
 /// Throws `RunError` where the file can't be read.
 Sha256Digest DigestOfFile(const FileSystem& files, const Text& path, const BytesRead& onBytes = {});
 
+/// The same of a file that is open, from where it is.
+Sha256Digest DigestOf(InputFile& file, const BytesRead& onBytes = {});
+
 enum class FileFault { None, Missing, Unreadable, Different };
 
 /// Compares a file of the package with its line.
 FileFault CompareFile(const FileSystem& files, const Text& folder, const ManifestLine& line,
                       const BytesRead& onBytes = {});
+FileFault CompareFile(InputFile& file, const ManifestLine& line, const BytesRead& onBytes = {});
 
 } // namespace quillon

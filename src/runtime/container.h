@@ -10,6 +10,6 @@
 namespace quillon {
 
 /// Throws `ZipError`, or `RunError` when the file can't be read.
-using OpenContainer = std::function<std::unique_ptr<Container>(const Text& path)>;
+using OpenContainer = std::function<std::unique_ptr<Container>(std::unique_ptr<InputFile> archive)>;
 
 } // namespace quillon

@@ -145,6 +145,7 @@ Text FileInstaller::Stage(const PlannedFile& file)
         input_.ask.ProcessEvents();
     });
     digest_ = writing.Finish();
+    input_.package.CheckDigest(*file.row, digest_);
     output->Close();
     input_.host.files.SetModified(staged, input_.package.Modified(*file.row));
     return staged;

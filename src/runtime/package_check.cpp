@@ -81,12 +81,16 @@ private:
 
     void CheckFile(const ManifestLine& line)
     {
+        const BytesRead onBytes = [&](std::size_t count) {
+            done_ += count;
+            input_.ask.ShowProgress(done_, total_);
+            input_.ask.ProcessEvents();
+        };
+        const bool isOpen =
+            input_.archive != nullptr && EqualIgnoreCase(line.name, kFileContainerName);
         const FileFault fault =
-            CompareFile(input_.files, input_.packageFolder, line, [&](std::size_t count) {
-                done_ += count;
-                input_.ask.ShowProgress(done_, total_);
-                input_.ask.ProcessEvents();
-            });
+            isOpen ? CompareFile(*input_.archive, line, onBytes)
+                   : CompareFile(input_.files, input_.packageFolder, line, onBytes);
         if (fault == FileFault::Different)
             Refuse({Message::PackageFileDamaged, line.name});
         if (fault != FileFault::None)

@@ -20,6 +20,7 @@ struct PackageCheckInput {
     const std::vector<InstallRow>& rows;
     const PackageManifest& manifest;
     Text packageFolder;
+    InputFile* archive = nullptr; // the one of the package's files, where it is open already
 };
 
 /// Throws `SetupFailure` for the first file that is missing, is not listed, or is not what the

@@ -29,7 +29,8 @@ bool IsEmptyFolderRow(const InstallRow& row)
     return row.name == kEmptyFolderName;
 }
 
-PackageReader::PackageReader(const PackageInput& input) : input_(input)
+PackageReader::PackageReader(const PackageInput& input, std::unique_ptr<InputFile> archive)
+    : input_(input), archive_(std::move(archive))
 {
     if (UsesContainer(input_.setup))
         FindInContainerOrRefuse();
@@ -68,7 +69,7 @@ void PackageReader::FindInContainer()
         hasFiles = hasFiles || !IsEmptyFolderRow(row);
     if (!hasFiles)
         return;
-    container_ = input_.openContainer(ContainerPath());
+    container_ = input_.openContainer(Archive());
     for (const ZipEntry& entry : container_->Entries())
         for (const ServedRow& row : ServedRows(entry.comment)) {
             entries_[row.number] = &entry;
@@ -76,6 +77,11 @@ void PackageReader::FindInContainer()
             if (row.modified)
                 dates_[row.number] = *row.modified;
         }
+}
+
+std::unique_ptr<InputFile> PackageReader::Archive()
+{
+    return archive_ ? std::move(archive_) : input_.host.files.OpenInput(ContainerPath());
 }
 
 Text PackageReader::ContainerPath()
@@ -147,6 +153,9 @@ void PackageReader::FindByThemselves()
     for (const InstallRow& row : input_.rows)
         if (!IsEmptyFolderRow(row) && input_.host.files.FileExists(PathOf(row)))
             entries_[row.number] = nullptr;
+    if (HasManifest())
+        for (const ManifestLine& line : input_.manifest->lines)
+            digests_[LowerCase(line.name)] = &line.digest;
 }
 
 bool PackageReader::HasBytes(const InstallRow& row) const
@@ -197,6 +206,15 @@ LocalTime PackageReader::Modified(const InstallRow& row) const
         return date->second;
     const ZipEntry* const entry = entries_.at(row.number);
     return entry ? entry->modified : input_.host.files.Status(PathOf(row)).modified;
+}
+
+void PackageReader::CheckDigest(const InstallRow& row, const Sha256Digest& digest) const
+{
+    if (entries_.at(row.number) != nullptr)
+        return;
+    const auto listed = digests_.find(LowerCase(LooseFileName(input_.setup, row)));
+    if (listed != digests_.end() && *listed->second != digest)
+        throw DamagedPackage(input_.texts, {Message::PackageFileDamaged, row.name});
 }
 
 void PackageReader::Extract(const InstallRow& row, const ZipReader::Sink& sink) const

@@ -33,7 +33,8 @@ struct PackageInput {
 class PackageReader {
 public:
     /// Finds every row. Throws `SetupFailure` where the package lacks one.
-    explicit PackageReader(const PackageInput& input);
+    /// `archive`: of the package's files, where it is open already.
+    explicit PackageReader(const PackageInput& input, std::unique_ptr<InputFile> archive = nullptr);
     ~PackageReader();
     PackageReader(const PackageReader&) = delete;
     PackageReader& operator=(const PackageReader&) = delete;
@@ -48,11 +49,15 @@ public:
     std::uint64_t Position(const InstallRow& row) const;
     LocalTime Modified(const InstallRow& row) const;
     void Extract(const InstallRow& row, const ZipReader::Sink& sink) const;
+    /// Of a file that lies by itself and was read long after the package was checked: throws
+    /// `SetupFailure` where its digest is not the manifest's.
+    void CheckDigest(const InstallRow& row, const Sha256Digest& digest) const;
 
 private:
     void FindInContainerOrRefuse();
     void FindInContainer();
     void FindByThemselves();
+    std::unique_ptr<InputFile> Archive();
     Text ContainerPath();
     Text JoinDisks(int disks);
     void AppendDisk(int disk, OutputFile& joined);
@@ -61,11 +66,13 @@ private:
     Text PathOf(const InstallRow& row) const;
 
     PackageInput input_;
+    std::unique_ptr<InputFile> archive_; // until the container takes it
     std::unique_ptr<Container> container_;
     Text joinedFile_;
     // By the rows' numbers. A row whose file lies by itself has no entry.
     std::map<int, const ZipEntry*> entries_;
-    std::map<int, LocalTime> dates_; // where the entry has another one
+    std::map<int, LocalTime> dates_;              // where the entry has another one
+    std::map<Text, const Sha256Digest*> digests_; // of files by themselves, by lower-cased name
 };
 
 bool IsEmptyFolderRow(const InstallRow& row);

@@ -28,6 +28,23 @@ Text InstalledVersion(const SetupInput& input, const Text& product, InstallScope
                                                                  : Text();
 }
 
+// One that somebody could change meanwhile is no good.
+std::unique_ptr<InputFile> OpenArchive(const SetupInput& input, const LoadedPackage& package)
+{
+    const FileSystem& files = input.host.files;
+    const bool isInPieces = package.setup.project.Media.TargetMedia == int(Medium::Floppy) &&
+                            package.setup.Floppies > 1;
+    const Text path = JoinPath(input.switches.packageFolder, kFileContainerName);
+    if (!UsesContainer(package.setup) || isInPieces || !files.FileExists(path))
+        return nullptr;
+    std::unique_ptr<InputFile> archive;
+    if (RunErrorNumber([&] {
+            archive = input.openHeld ? input.openHeld(path) : files.OpenInput(path);
+        }) != ErrorNumber::kNone)
+        throw DamagedPackage(package.texts, {Message::PackageFileMissing, kFileContainerName});
+    return archive;
+}
+
 } // namespace
 
 void RefuseSwitch(const LanguageTexts& texts, const Text& badSwitch)
@@ -64,12 +81,16 @@ void CheckPackage(const LoadedPackage& package)
         throw DamagedPackage(texts, {Message::PackageFileDamaged, kSetupInformationName});
 }
 
-void CheckFiles(const SetupCheck& check)
+std::unique_ptr<InputFile> CheckFiles(const SetupCheck& check)
 {
     const auto& [input, package, ask, log, scope] = check;
     ask.AddStatusLine(package.texts[Message::Checking]);
+    auto archive = OpenArchive(input, package);
     CheckAgainstManifest({input.host.files, ask, log, package.texts, package.setup, package.rows,
-                          package.manifest, input.switches.packageFolder});
+                          package.manifest, input.switches.packageFolder, archive.get()});
+    if (archive)
+        archive->Seek(0);
+    return archive;
 }
 
 bool HasPassword(const Switches& switches, const SetupInformation& setup)

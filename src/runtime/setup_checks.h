@@ -20,8 +20,9 @@ void CheckSwitches(const SetupCheck& check);
 [[noreturn]] void RefuseSwitch(const LanguageTexts& texts, const Text& badSwitch);
 
 void CheckPackage(const LoadedPackage& package);
-/// Against the package's manifest.
-void CheckFiles(const SetupCheck& check);
+/// Against the package's manifest. The archive of the package's files comes back open, so that what
+/// was checked is what is read; nothing where there is none or it lies on several disks.
+std::unique_ptr<InputFile> CheckFiles(const SetupCheck& check);
 
 /// True also for a package that asks for none.
 bool HasPassword(const Switches& switches, const SetupInformation& setup);

@@ -78,6 +78,7 @@ private:
     InstallScope scope_;
     Text destination_; // empty: the project's own
     bool isUpdate_ = false;
+    std::unique_ptr<InputFile> archive_; // as it was checked, until the reader takes it
     std::unique_ptr<PageChain> chain_;
     bool startsMachineAnew_ = false;
     LogFiles logs_;
@@ -86,13 +87,12 @@ private:
 
 ExitCode SetupProgram::Fail(ExitCode code, const Text& text)
 {
-    const Text& project = package_.setup.project.ProjectName.ProjectName;
     log_.Line(text.empty() ? Message::LogEnds : Message::LogEndsBecause, NumberText(int(code)),
               text);
     log_.End(code, RunEnd::Stopped, text);
     log_.Close();
     if (!text.empty() && !input_.switches.silent)
-        ask_.Critical(texts_(Message::Title, project), text);
+        ask_.Critical(Title(), text);
     return code;
 }
 
@@ -110,7 +110,7 @@ ExitCode SetupProgram::Work()
         return Uninstall();
     CheckPackage(package_);
     TakeSwitches();
-    CheckFiles(Checked());
+    archive_ = CheckFiles(Checked());
     CheckPassword(input_, package_);
     if (IsTask(SetupTask::Extract))
         return Extract();
@@ -187,8 +187,7 @@ void SetupProgram::FreeFilesInUse(const InstallPlan& plan)
     for (const PlannedFile& file : plan.files)
         if (!HasOption(file.row->copyOptions, CopyLetter::kNeverReplace))
             paths.push_back(file.path);
-    const Text title = texts_(Message::Title, setup_.project.ProjectName.ProjectName);
-    if (!FreeFiles({ask_, log_, texts_, input_.users, input_.switches, title}, paths))
+    if (!FreeFiles({ask_, log_, texts_, input_.users, input_.switches, Title()}, paths))
         throw SetupFailure(ExitCode::Cancelled, {});
 }
 
@@ -265,7 +264,8 @@ PackageReader SetupProgram::Reader()
     return PackageReader({input_.host, ask_, log_, texts_, setup_, package_.rows,
                           input_.openContainer, input_.switches.packageFolder, input_.workFolder,
                           setup_.project.DialogBoxData.CorrectPassword, !MayAsk(input_.switches),
-                          &package_.manifest});
+                          &package_.manifest},
+                         std::move(archive_));
 }
 
 InstallResult SetupProgram::InstallPackage()

@@ -34,6 +34,8 @@ struct SetupInput {
     RunProgramToEnd runToEnd = {}; // for /UNINSTALL
     // Whether this user may start the machine anew; null: yes.
     bool (*mayRestart)() = nullptr;
+    // Opens a file that nobody can change or exchange until it is closed; null: as any file.
+    std::unique_ptr<InputFile> (*openHeld)(const Text& path) = nullptr;
 };
 
 struct SetupEnd {

@@ -4,9 +4,9 @@
 
 namespace quillon {
 
-OpenContainer DirectContainers(const FileSystem& files)
+OpenContainer DirectContainers()
 {
-    return [&files](const Text& path) { return OpenAnyContainer(files.OpenInput(path)); };
+    return [](std::unique_ptr<InputFile> archive) { return OpenAnyContainer(std::move(archive)); };
 }
 
 } // namespace quillon

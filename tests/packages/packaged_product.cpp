@@ -151,9 +151,8 @@ InstalledProduct RunProduct(const PackageFiles& files, const Text& given)
     switches.packageFolder = kPackage;
     switches.logFile = kLog;
     SilentAsk ask;
-    const SetupEnd end = RunSetup({machine.memory.host, machine.target, ask,
-                                   DirectContainers(machine.memory.files), switches, kWork},
-                                  package);
+    const SetupEnd end = RunSetup(
+        {machine.memory.host, machine.target, ask, DirectContainers(), switches, kWork}, package);
     InstalledProduct installed{
         end.code, machine.memory.files.Get(kLog), StateOf(machine.memory, machine.target), {}};
     for (const auto& [path, node] : machine.memory.files.nodes)

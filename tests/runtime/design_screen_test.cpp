@@ -92,12 +92,13 @@ protected:
     }
     DesignFiles Files()
     {
+        memory.files.nodes.clear();
+        if (hasArchive)
+            memory.files.Put("D:\\Paket\\DESOBJ.DAT", "packed");
         return DesignFiles(
             memory.files,
-            [this](const Text& path) -> std::unique_ptr<Container> {
-                EXPECT_EQ(path, "D:\\Paket\\DESOBJ.DAT");
-                if (!hasArchive)
-                    throw RunError(ErrorNumber::kFileNotFound, path);
+            [this](std::unique_ptr<InputFile> archive) -> std::unique_ptr<Container> {
+                EXPECT_EQ(archive->Size(), 6U);
                 return std::make_unique<NamedEntries>(packed);
             },
             "D:\\Paket", DesignFiles::Names::InPackage);

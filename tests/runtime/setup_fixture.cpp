@@ -159,10 +159,12 @@ ExitCode SetupFixture::Install(const Text& switches)
     SilentAsk silent;
     const SetupEnd end =
         RunSetup({host, target, ask ? *ask : silent,
-                  [this](const Text& path) {
-                      openedContainer = path;
+                  [this](std::unique_ptr<InputFile> archive) {
+                      std::string bytes(archive->Size(), '\0');
+                      archive->Read(std::as_writable_bytes(std::span(bytes)));
+                      openedContainer = bytes;
                       if (isContainerMissing)
-                          throw RunError(ErrorNumber::kFileNotFound, path);
+                          throw RunError(ErrorNumber::kFileNotFound, "D:\\Paket\\FILEDATA.DAT");
                       return std::make_unique<MemoryContainer>(sources, damagedEntry);
                   },
                   read, kWorkFolder, pages, sound, otherSetupRuns,

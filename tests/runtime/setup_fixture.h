@@ -155,8 +155,8 @@ protected:
     std::vector<MemoryContainer::Source> sources;
     int damagedEntry = -1;
     bool isContainerMissing = false;
-    Text openedContainer;
-    Ask* ask = nullptr; // null: silent
+    std::string openedContainer; // its bytes
+    Ask* ask = nullptr;          // null: silent
     PageView* pages = nullptr;
     BackgroundSound* sound = nullptr;
     bool otherSetupRuns = false;

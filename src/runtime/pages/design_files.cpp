@@ -45,8 +45,8 @@ private:
 /// names alone.
 class PackedFiles : public FileSystem {
 public:
-    PackedFiles(OpenContainer openContainer, Text archive)
-        : openContainer_(std::move(openContainer)), archive_(std::move(archive))
+    PackedFiles(const FileSystem& files, OpenContainer openContainer, Text archive)
+        : files_(files), openContainer_(std::move(openContainer)), archive_(std::move(archive))
     {
     }
 
@@ -113,12 +113,13 @@ private:
         if (std::exchange(isOpened_, true))
             return;
         try {
-            container_ = openContainer_(archive_);
+            container_ = openContainer_(files_.OpenInput(archive_));
         } catch (const RunError&) {
         } catch (const ZipError&) {
         }
     }
 
+    const FileSystem& files_;
     OpenContainer openContainer_;
     Text archive_;
     mutable std::unique_ptr<Container> container_;
@@ -133,7 +134,7 @@ DesignFiles::DesignFiles(const FileSystem& files, OpenContainer openContainer,
 {
     if (names == Names::WholePaths)
         return;
-    packed_ = std::make_unique<PackedFiles>(std::move(openContainer),
+    packed_ = std::make_unique<PackedFiles>(files, std::move(openContainer),
                                             JoinPath(packageFolder, kDesignContainerName));
     files_ = packed_.get();
 }

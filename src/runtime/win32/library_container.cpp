@@ -53,10 +53,9 @@ private:
 
 class LibraryContainer : public Container {
 public:
-    LibraryContainer(const FileSystem& files, const Text& libraryPath, const Text& path)
+    LibraryContainer(const Text& libraryPath, std::unique_ptr<InputFile> archive)
         : library_(libraryPath),
-          container_(
-              OpenAnyContainer(files.OpenInput(path), library_.Functions(), library_.Frames()))
+          container_(OpenAnyContainer(std::move(archive), library_.Functions(), library_.Frames()))
     {
     }
 
@@ -73,10 +72,10 @@ private:
 
 } // namespace
 
-OpenContainer LibraryContainers(const FileSystem& files, Text libraryPath)
+OpenContainer LibraryContainers(Text libraryPath)
 {
-    return [&files, libraryPath = std::move(libraryPath)](const Text& path) {
-        return std::make_unique<LibraryContainer>(files, libraryPath, path);
+    return [libraryPath = std::move(libraryPath)](std::unique_ptr<InputFile> archive) {
+        return std::make_unique<LibraryContainer>(libraryPath, std::move(archive));
     };
 }
 

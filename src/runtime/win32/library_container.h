@@ -7,6 +7,6 @@ namespace quillon {
 
 /// The library is loaded when the first archive is opened. Throws 53 from there where it is
 /// missing.
-OpenContainer LibraryContainers(const FileSystem& files, Text libraryPath);
+OpenContainer LibraryContainers(Text libraryPath);
 
 } // namespace quillon

@@ -9,6 +9,7 @@
 #include "platform/second_thread.h"
 #include "platform/whole_file.h"
 #include "platform/win32/copied_rights.h"
+#include "platform/win32/held_file.h"
 #include "platform/win32/locked_folder.h"
 #include "platform/win32/registry_key.h"
 #include "platform/win32/wide_text.h"
@@ -411,6 +412,35 @@ void CheckCopiedRights(Checks& checks, FileSystem& files, const Text& folder)
     files.RemoveFile(first);
 }
 
+// Until it is closed nobody else can make another file of it.
+void CheckHeldFile(Checks& checks, FileSystem& files, const Text& folder)
+{
+    const Text path = JoinPath(folder, "held.dat");
+    const Text other = JoinPath(folder, "other.dat");
+    WriteWholeFile(files, path, "as it was");
+    WriteWholeFile(files, other, "other");
+    {
+        const auto held = OpenHeldFile(path);
+        checks.Expect(held->Size() == 9, "a held file has its size");
+        const int inUse = ErrorNumber::kFileInUse;
+        checks.ExpectFailure(
+            inUse, [&] { files.OpenOutput(path); }, "writing to a held file");
+        checks.Expect(RunErrorNumber([&] { files.Rename(other, path); }) != ErrorNumber::kNone,
+                      "another file in the place of a held one");
+        checks.ExpectFailure(
+            inUse, [&] { files.RemoveFile(path); }, "removing a held file");
+        checks.Expect(ReadWholeFile(files, path) == "as it was", "a held file can be read");
+    }
+    {
+        const auto written = files.OpenOutput(path);
+        checks.ExpectFailure(
+            ErrorNumber::kFileInUse, [&] { OpenHeldFile(path); },
+            "holding a file that somebody writes to");
+    }
+    files.RemoveFile(path);
+    files.RemoveFile(other);
+}
+
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
@@ -435,6 +465,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
         CheckMachine(checks, files);
         CheckLockedFolder(checks, files, folder);
         CheckCopiedRights(checks, files, folder);
+        CheckHeldFile(checks, files, folder);
     } catch (const std::exception& failure) {
         checks.Expect(false, Text("a failure that nobody caught: ") + failure.what());
     }

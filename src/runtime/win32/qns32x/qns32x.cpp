@@ -4,6 +4,7 @@
 #include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/win32/held_file.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
@@ -125,10 +126,11 @@ SetupEnd InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     const PrivateFolder work(host);
     WinTarget target(JoinPath(work.Path(), RuntimePrograms::kRegistryHelper.inPackage));
     const OpenContainer openContainer =
-        LibraryContainers(files, UnzipLibrary(files, switches.packageFolder));
+        LibraryContainers(UnzipLibrary(files, switches.packageFolder));
     const auto run = [&](Ask& ask, PageView* pages, BackgroundSound* sound) {
         return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages, sound,
-                         only && only->IsNot(), StartAsUser, &users, RunToEnd, MayRestartMachine},
+                         only && only->IsNot(), StartAsUser, &users, RunToEnd, MayRestartMachine,
+                         OpenHeldFile},
                         package);
     };
     if (switches.silent && !switches.passive) {

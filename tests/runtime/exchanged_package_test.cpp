@@ -1,0 +1,91 @@
+// A package whose files somebody exchanges after they were held against its manifest.
+#include "setup_fixture.h"
+
+#include "formats/package_contents.h"
+#include "helpers/windows_path.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+namespace {
+
+using testing::HasSubstr;
+
+class ExchangedPackage : public SetupFixture {
+protected:
+    ExchangedPackage()
+    {
+        AddFile("prog.exe", "%DESTDIR", "program");
+        memory.files.RemoveFile("D:\\Paket\\QNXREG2.BIN"); // such a package needs none
+    }
+    /// Every file of the package is listed as it is now, and made where it is missing.
+    void MakeManifest(std::vector<Text> names)
+    {
+        for (const Text& name : FixedFilesOf(package.setup, package.rows))
+            names.push_back(name);
+        for (const Text& name : names) {
+            const Text path = "D:\\Paket\\" + name;
+            if (!memory.files.FileExists(path))
+                memory.files.Put(path, name);
+            package.manifest.lines.push_back({name, DigestOfFile(memory.files, path)});
+            package.manifest.names.insert(LowerCase(name));
+        }
+        package.manifest.state = PackageManifest::State::Whole;
+    }
+    /// At the first change that the setup makes, which is behind the check of its files.
+    void ExchangeBehindTheCheck(const Text& path, const std::string& bytes)
+    {
+        files.beforeChange = [this, path, bytes] {
+            memory.files.Put(path, bytes);
+            files.beforeChange = [] {};
+        };
+    }
+};
+
+TEST_F(ExchangedPackage, IsReadFromTheArchiveThatWasChecked)
+{
+    MakeManifest({"FILEDATA.DAT"});
+    ExchangeBehindTheCheck("D:\\Paket\\FILEDATA.DAT", "another one");
+    EXPECT_EQ(Install("/S /SAVEINF=L:\\svar.inf"), ExitCode::Done) << Log();
+    EXPECT_EQ(memory.files.Get("D:\\Paket\\FILEDATA.DAT"), "another one");
+    EXPECT_EQ(openedContainer, "the archive");
+}
+
+TEST_F(ExchangedPackage, IsRefusedWhereItsArchiveIsNoLongerTheListedOne)
+{
+    MakeManifest({"FILEDATA.DAT"});
+    memory.files.Put("D:\\Paket\\FILEDATA.DAT", "another one");
+    EXPECT_EQ(Install(), ExitCode::DamagedPackage);
+    EXPECT_THAT(Log(), HasSubstr("FILEDATA.DAT är skadad"));
+}
+
+// What could be changed while it is read is not read.
+TEST_F(ExchangedPackage, IsRefusedWhereItsArchiveCanNotBeHeld)
+{
+    MakeManifest({"FILEDATA.DAT"});
+    memory.files.At("D:\\Paket\\FILEDATA.DAT").unreadable = true;
+    const MachineState before = State();
+    EXPECT_EQ(Install(), ExitCode::DamagedPackage);
+    EXPECT_EQ(State(), before);
+    EXPECT_THAT(Log(), HasSubstr("FILEDATA.DAT saknas eller kan inte läsas"));
+}
+
+TEST_F(ExchangedPackage, IsUndoneWhereAFileThatLiesByItselfIsAnotherOne)
+{
+    sources.clear();
+    project.Media.TargetMedia = 3;
+    const Text path = "D:\\Paket\\src\\prog.exe";
+    memory.files.Put(path, "program");
+    MakeManifest({"src\\prog.exe"});
+    const MachineState before = State();
+    ExchangeBehindTheCheck(path, "virus!!");
+    EXPECT_EQ(Install("/S /SAVEINF=L:\\svar.inf"), ExitCode::DamagedPackage);
+    EXPECT_THAT(Log(), HasSubstr("prog.exe är skadad"));
+    memory.files.Put(path, "program");
+    EXPECT_EQ(State(), before);
+    EXPECT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_EQ(memory.files.Get("C:\\Program\\Exempel\\prog.exe"), "program");
+}
+
+} // namespace
+} // namespace quillon::test
