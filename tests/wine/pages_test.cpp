@@ -328,6 +328,8 @@ TEST_P(SetupPictures, AreTakenOfEveryPage)
         Picture(script, TitleOf(product, kind, texts));
         if (kind == PageKind::Password)
             script.Type(PageField::Password, "Hemligt");
+        if (kind == PageKind::NameCompany)
+            script.Type(PageField::UserName, "Ulla Ek");
         // The screen with the page in front of it.
         if (kind == PageKind::Destination) {
             Picture(script.Screen());

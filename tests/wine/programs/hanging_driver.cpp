@@ -1,4 +1,4 @@
-// A driver for sound that never comes to an end of being loaded.
+// A driver for sound that hangs while it is loaded.
 #include <windows.h>
 
 BOOL WINAPI DllMain(HINSTANCE, DWORD reason, void*)

@@ -1,5 +1,5 @@
-// hanging_sound FILE LOG WHEN: plays the file on a player that never answers, or on one that never
-// comes to an end of being loaded where WHEN is "load", and comes to its end as a setup does.
+// hanging_sound FILE LOG WHEN: plays the file on a player that never answers, or on one that hangs
+// while it is loaded where WHEN is "load", and comes to its end as a setup does.
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "platform/win32/wide_text.h"
