@@ -3,6 +3,7 @@
 
 #include "formats/package_contents.h"
 #include "helpers/windows_path.h"
+#include "platform/run_error.h"
 
 #include <gmock/gmock.h>
 
@@ -63,7 +64,9 @@ TEST_F(ExchangedPackage, IsRefusedWhereItsArchiveIsNoLongerTheListedOne)
 TEST_F(ExchangedPackage, IsRefusedWhereItsArchiveCanNotBeHeld)
 {
     MakeManifest({"FILEDATA.DAT"});
-    memory.files.At("D:\\Paket\\FILEDATA.DAT").unreadable = true;
+    openHeld = [](const Text& path) -> std::unique_ptr<InputFile> {
+        throw RunError(ErrorNumber::kFileInUse, path);
+    };
     const MachineState before = State();
     EXPECT_EQ(Install(), ExitCode::DamagedPackage);
     EXPECT_EQ(State(), before);

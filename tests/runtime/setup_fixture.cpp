@@ -178,7 +178,7 @@ ExitCode SetupFixture::Install(const Text& switches)
                       started.push_back(program + " " + arguments);
                       return codeOfStarted;
                   },
-                  mayRestart},
+                  mayRestart, openHeld},
                  package);
     startsMachineAnew = end.startsMachineAnew;
     logsWritten = end.logs;

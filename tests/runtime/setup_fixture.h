@@ -162,6 +162,7 @@ protected:
     bool otherSetupRuns = false;
     FileUsers* users = nullptr;
     bool (*mayRestart)() = nullptr;
+    std::unique_ptr<InputFile> (*openHeld)(const Text& path) = nullptr;
     bool startsMachineAnew = false; // what Install has ended with beside its code,
     LogFiles logsWritten;           // and the logs of that run
     std::vector<LeftBehind> left;   // what UninstallProduct has told to be there still
