@@ -16,6 +16,17 @@ constexpr std::size_t kOs2LongHeader = 64;
 constexpr std::size_t kMasksHeader = 52;
 constexpr std::size_t kAlphaMaskHeader = 56;
 constexpr std::size_t kMaxHeaderSize = 124;
+
+// Where the fields of BITMAPCOREHEADER and BITMAPINFOHEADER begin, and BITMAPFILEHEADER's offset of
+// the pixels; in bytes.
+namespace core_header {
+constexpr std::size_t kWidth = 4, kHeight = 6, kBits = 10;
+}
+namespace info_header {
+constexpr std::size_t kWidth = 4, kHeight = 8, kBits = 14, kCompression = 16, kColoursUsed = 32;
+}
+constexpr std::size_t kPixelsOffset = 10;
+
 constexpr Pixel kOpaque = 0xFF000000;
 // More than a byte can name, since some writers store that many.
 constexpr std::uint32_t kMaxColours = 65536;
@@ -65,21 +76,25 @@ bool SetMasks(PictureBytes dib, BitmapHeader& header)
 void ReadOs2Header(PictureBytes dib, BitmapHeader& header)
 {
     header.isOs2 = true;
-    header.width = dib.Word(4);
-    header.height = dib.Word(6);
-    header.bits = dib.Word(10);
+    header.width = dib.Word(core_header::kWidth);
+    header.height = dib.Word(core_header::kHeight);
+    header.bits = dib.Word(core_header::kBits);
 }
 
 void ReadInfoHeader(PictureBytes dib, BitmapHeader& header)
 {
-    header.width = dib.SignedLong(4);
-    header.height = dib.SignedLong(8);
+    header.width = dib.SignedLong(info_header::kWidth);
+    header.height = dib.SignedLong(info_header::kHeight);
     header.isTopDown = header.height < 0;
     header.height = header.isTopDown ? -header.height : header.height;
-    header.bits = dib.Word(14);
+    header.bits = dib.Word(info_header::kBits);
     // A header that ends earlier has zeros there.
-    header.compression = header.headerSize >= 20 ? dib.Long(16) : 0;
-    header.colours = header.headerSize >= 36 ? std::min(dib.Long(32), kMaxColours) : 0;
+    header.compression = header.headerSize >= info_header::kCompression + 4
+                             ? dib.Long(info_header::kCompression)
+                             : 0;
+    header.colours = header.headerSize >= info_header::kColoursUsed + 4
+                         ? std::min(dib.Long(info_header::kColoursUsed), kMaxColours)
+                         : 0;
 }
 
 bool IsCompressionOf(const BitmapHeader& header)
@@ -270,7 +285,7 @@ DecodedPixels DecodeBitmapFile(std::string_view bytes, std::int64_t memory)
             header.width * header.height * std::int64_t{sizeof(Pixel)} >
         memory)
         return {{}, PictureFault::TooLarge};
-    const std::size_t offset = file.Long(10);
+    const std::size_t offset = file.Long(kPixelsOffset);
     // Some writers leave the place of the pixels out, or count it from elsewhere.
     const bool isKnown = offset >= kFileHeader + header.headerSize;
     if (isKnown && !file.Has(offset, 1))

@@ -26,23 +26,36 @@ std::uint16_t BigWord(const PictureBytes& bytes, std::size_t place)
     return static_cast<std::uint16_t>(bytes.Byte(place) << 8 | bytes.Byte(place + 1));
 }
 
+// The frame header after its length (ITU T.81, B.2.2), in bytes: three of each component.
+namespace frame_header {
+constexpr std::size_t kPrecision = 0, kHeight = 1, kWidth = 3, kComponents = 5, kSampling = 7,
+                      kComponentSize = 3;
+}
+
+// A directory of TIFF and its entries, in bytes.
+namespace tiff {
+constexpr std::size_t kDirectory = 4, kEntries = 2, kEntrySize = 12, kValue = 8;
+}
+
 bool ReadFrame(const PictureBytes& frame, JpegHeader& header)
 {
-    header.height = BigWord(frame, 1);
-    header.width = BigWord(frame, 3);
-    const int components = frame.Byte(5);
+    namespace at = frame_header;
+    header.height = BigWord(frame, at::kHeight);
+    header.width = BigWord(frame, at::kWidth);
+    const int components = frame.Byte(at::kComponents);
     int most = 1;
     header.samples16 = 0;
     for (int i = 0; i < components && i < 4; ++i) {
-        const int sampling = frame.Byte(7 + static_cast<std::size_t>(i) * 3);
+        const int sampling =
+            frame.Byte(at::kSampling + static_cast<std::size_t>(i) * at::kComponentSize);
         const int blocks = (sampling >> 4) * (sampling & 0xF);
         most = std::max(most, blocks);
         header.samples16 += blocks;
     }
     header.samples16 = (header.samples16 * 16 + most - 1) / most;
-    return frame.Byte(0) == 8 && (components == 1 || components == 3 || components == 4) &&
-           header.width >= 1 && header.height >= 1 && header.width <= kMaxSideSize &&
-           header.height <= kMaxSideSize;
+    return frame.Byte(at::kPrecision) == 8 &&
+           (components == 1 || components == 3 || components == 4) && header.width >= 1 &&
+           header.height >= 1 && header.width <= kMaxSideSize && header.height <= kMaxSideSize;
 }
 
 /// Numbers in the order that the note's own header names.
@@ -58,14 +71,17 @@ public:
         constexpr std::uint16_t kOrientation = 0x0112;
         if (!isExif_)
             return 1;
-        const std::size_t list = Long(4);
+        const std::size_t list = Long(tiff::kDirectory);
         const int count = tiff_.Has(list, 2) ? Word(list) : 0;
         for (int i = 0; i < count; ++i) {
-            const std::size_t entry = list + 2 + static_cast<std::size_t>(i) * 12;
-            if (!tiff_.Has(entry, 12))
+            const std::size_t entry =
+                list + tiff::kEntries + static_cast<std::size_t>(i) * tiff::kEntrySize;
+            if (!tiff_.Has(entry, tiff::kEntrySize))
                 return 1;
-            if (Word(entry) == kOrientation)
-                return Word(entry + 8) >= 1 && Word(entry + 8) <= 8 ? Word(entry + 8) : 1;
+            if (Word(entry) != kOrientation)
+                continue;
+            const int value = Word(entry + tiff::kValue);
+            return value >= 1 && value <= 8 ? value : 1;
         }
         return 1;
     }

@@ -44,9 +44,12 @@ int SideOf(std::int64_t units, std::int64_t pixels, std::int64_t perUnits)
 void ReadPlaceableHeader(PictureBytes header, Metafile& file)
 {
     constexpr int kUsualUnitsPerInch = 1440;
-    const int inch = header.Word(14) == 0 ? kUsualUnitsPerInch : header.Word(14);
-    file.window = {header.Short(6), header.Short(8), header.Short(10) - header.Short(6),
-                   header.Short(12) - header.Short(8)};
+    namespace at = metafile::placeable;
+    const int given = header.Word(at::kUnitsPerInch);
+    const int inch = given == 0 ? kUsualUnitsPerInch : given;
+    const int left = header.Short(at::kLeft);
+    const int top = header.Short(at::kTop);
+    file.window = {left, top, header.Short(at::kRight) - left, header.Short(at::kBottom) - top};
     file.width = SideOf(file.window.width, kDotsPerInch, inch);
     file.height = SideOf(file.window.height, kDotsPerInch, inch);
 }
@@ -66,14 +69,10 @@ bool CheckRecords(Metafile& file, std::size_t declaredSize, bool needsWindow)
     for (MetafileRecord record; reader.Next(record);) {
         if (!needsWindow || !record.given.Has(0, 4))
             continue;
-        if (record.function == metafile::kSetWindowOrg) {
-            file.window.left = record[1];
-            file.window.top = record[0];
-        } else if (record.function == metafile::kSetWindowExt && record[0] != 0 && record[1] != 0) {
-            file.window.width = record[1];
-            file.window.height = record[0];
-            needsWindow = false;
-        }
+        if (record.function == metafile::kSetWindowOrg)
+            SetOrigin(record, file.window);
+        else if (record.function == metafile::kSetWindowExt)
+            needsWindow = !SetExtent(record, file.window);
     }
     // Some programs leave the last record out; then the size says whether the file is cut.
     const bool isWhole = RecordsOf(file).Size() + metafile::kHeader >= declaredSize;
@@ -119,9 +118,12 @@ bool IsMetafile(std::string_view bytes)
     const PictureBytes file(bytes);
     if (file.Size() >= 4 && file.Long(0) == metafile::kPlaceableKey)
         return true;
-    const bool isInMemoryOrOnDisk = file.Word(0) == 1 || file.Word(0) == 2;
-    const bool isKnownVersion = file.Word(4) == 0x0300 || file.Word(4) == 0x0100;
-    return isInMemoryOrOnDisk && file.Word(2) * 2 == metafile::kHeader && isKnownVersion;
+    namespace at = metafile::header;
+    const int type = file.Word(at::kType);
+    const int version = file.Word(at::kVersion);
+    return (type == at::kInMemory || type == at::kOnDisk) &&
+           file.Word(at::kHeaderWords) * 2 == metafile::kHeader &&
+           (version == at::kVersion1 || version == at::kVersion3);
 }
 
 PictureResult DecodeMetafile(std::string bytes)
@@ -139,7 +141,7 @@ PictureResult DecodeMetafile(std::string bytes)
     if (isPlaceable)
         ReadPlaceableHeader(all, *file);
     // Never from a file of many gigabytes: the number is that of words.
-    const std::uint64_t declared = std::uint64_t{header.Long(6)} * 2;
+    const std::uint64_t declared = std::uint64_t{header.Long(metafile::header::kFileWords)} * 2;
     if (declared > kMaxMetafileBytes * std::uint64_t{2} ||
         !CheckRecords(*file, static_cast<std::size_t>(declared), !isPlaceable))
         return {{}, PictureFault::Damaged};

@@ -14,10 +14,15 @@ constexpr int kWorkOfDibPixel = 4;
 constexpr int kWorkOfBlitPixel = 8;
 constexpr std::uint8_t kSourceCopy = 0xCC;
 
-// The third byte of an operation's code is its table.
 std::uint8_t TableAt(const MetafileRecord& record)
 {
-    return record.given.Byte(2);
+    return record.given.Byte(metafile::kOperationTableAtByte);
+}
+
+bool IsTopDown(PictureBytes dib)
+{
+    BitmapHeader header;
+    return ReadBitmapHeader(dib, header) == PictureFault::None && header.isTopDown;
 }
 
 /// Where a place of the target is in the source.
@@ -69,7 +74,7 @@ void MetafilePlayer::PlayBlit(const Blit& blit, PictureBytes dib)
         return;
     Blit placed = blit;
     // Some records count the rows of a bitmap as it is in the file.
-    if (blit.countsFromBottom && dib.SignedLong(8) > 0)
+    if (blit.countsFromBottom && !IsTopDown(dib))
         placed.top = source->height - blit.top - blit.height;
     PaintBlit(placed, *source);
 }
@@ -100,74 +105,55 @@ void MetafilePlayer::PaintBlit(const Blit& blit, const Picture& source)
 
 void MetafilePlayer::PatBlt(const Record& record)
 {
-    const int left = record[5];
-    const int top = record[4];
+    namespace at = metafile::pat_blt;
+    const int left = record[at::kLeft];
+    const int top = record[at::kTop];
     const std::uint8_t table = TableAt(record);
     Paint paint = BrushPaint();
     // The brush alone, without a source.
     paint.combination = static_cast<Combination>((table & 3) | (table >> 2 & 0xC));
     if (HasBrush() || paint.combination == 0 || paint.combination == 0xF || paint.combination == 5)
-        raster_.FillPixels(PixelsOf(Rect(left, top, left + record[3], top + record[2])), paint,
-                           state_.clip);
+        raster_.FillPixels(
+            PixelsOf(Rect(left, top, left + record[at::kWidth], top + record[at::kHeight])), paint,
+            state_.clip);
+}
+
+void MetafilePlayer::PlayBitmap(const Record& record, const metafile::BitmapLayout& at)
+{
+    const int left = record[at.left];
+    const int top = record[at.top];
+    PlayBlit({.target = Rect(left, top, left + record[at.width], top + record[at.height]),
+              .left = record[at.sourceLeft],
+              .top = record[at.sourceTop],
+              .width = record[at.sourceWidth],
+              .height = record[at.sourceHeight],
+              .table = at.hasOperation ? TableAt(record) : kSourceCopy,
+              .countsFromBottom = at.countsFromBottom},
+             record.given.Part(at.bitmapAtByte));
 }
 
 void MetafilePlayer::DIBBitBlt(const Record& record)
 {
     // Without a bitmap there is a word between, and the brush alone is used.
-    constexpr std::size_t kBitmap = 16;
+    constexpr std::size_t kBitmap = metafile::kDIBBitBltLayout.bitmapAtByte;
     const bool hasBitmap = record.given.Has(0, kBitmap + 4) && record.given.Long(kBitmap) >= 12;
-    if (!hasBitmap)
-        return;
-    const int left = record[7];
-    const int top = record[6];
-    PlayBlit({.target = Rect(left, top, left + record[5], top + record[4]),
-              .left = record[3],
-              .top = record[2],
-              .width = record[5],
-              .height = record[4],
-              .table = TableAt(record)},
-             record.given.Part(kBitmap));
+    if (hasBitmap)
+        PlayBitmap(record, metafile::kDIBBitBltLayout);
 }
 
 void MetafilePlayer::DIBStretchBlt(const Record& record)
 {
-    const int left = record[9];
-    const int top = record[8];
-    PlayBlit({.target = Rect(left, top, left + record[7], top + record[6]),
-              .left = record[5],
-              .top = record[4],
-              .width = record[3],
-              .height = record[2],
-              .table = TableAt(record)},
-             record.given.Part(20));
+    PlayBitmap(record, metafile::kDIBStretchBltLayout);
 }
 
 void MetafilePlayer::StretchDIBits(const Record& record)
 {
-    const int left = record[10];
-    const int top = record[9];
-    PlayBlit({.target = Rect(left, top, left + record[8], top + record[7]),
-              .left = record[6],
-              .top = record[5],
-              .width = record[4],
-              .height = record[3],
-              .table = TableAt(record),
-              .countsFromBottom = true},
-             record.given.Part(22));
+    PlayBitmap(record, metafile::kStretchDIBitsLayout);
 }
 
 void MetafilePlayer::SetDIBitsToDevice(const Record& record)
 {
-    const int left = record[8];
-    const int top = record[7];
-    PlayBlit({.target = Rect(left, top, left + record[6], top + record[5]),
-              .left = record[4],
-              .top = record[3],
-              .width = record[6],
-              .height = record[5],
-              .table = kSourceCopy,
-              .countsFromBottom = true},
-             record.given.Part(18));
+    PlayBitmap(record, metafile::kSetDIBitsToDeviceLayout);
 }
 
 } // namespace quillon

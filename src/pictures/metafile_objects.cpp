@@ -18,7 +18,7 @@ constexpr Colour kGrey = 0x808080;
 
 void MetafilePlayer::SelectObject(const Record& record)
 {
-    const MetafileObject* object = objects_.Find(static_cast<std::uint16_t>(record[0]));
+    const MetafileObject* object = objects_.Find(record.Count());
     if (!object)
         return;
     if (object->pen)
@@ -31,16 +31,17 @@ void MetafilePlayer::SelectObject(const Record& record)
 
 void MetafilePlayer::DeleteObject(const Record& record)
 {
-    objects_.Remove(static_cast<std::uint16_t>(record[0]));
+    objects_.Remove(record.Count());
 }
 
 void MetafilePlayer::CreatePenIndirect(const Record& record)
 {
-    const int style = record[0] & 0xF;
+    namespace at = metafile::pen;
+    const int style = record[at::kStyle] & 0xF;
     const bool isKnown = style <= static_cast<int>(PenStyle::InsideFrame);
     const MetafilePen pen{.style = isKnown ? static_cast<PenStyle>(style) : PenStyle::Solid,
-                          .width = std::abs(int{record[1]}),
-                          .colour = record.given.SignedLong(6)};
+                          .width = std::abs(int{record[at::kWidth]}),
+                          .colour = record.given.SignedLong(at::kColourAtByte)};
     objects_.Add({.pen = std::make_unique<const MetafilePen>(pen)});
 }
 
@@ -51,39 +52,39 @@ void MetafilePlayer::AddBrush(const MetafileBrush& brush)
 
 void MetafilePlayer::CreateBrushIndirect(const Record& record)
 {
-    const int style = record[0];
+    namespace at = metafile::brush;
+    const int style = record[at::kStyle];
     const bool isKnown = style >= 0 && style <= static_cast<int>(BrushStyle::Hatched);
     AddBrush({.style = isKnown ? static_cast<BrushStyle>(style) : BrushStyle::Solid,
-              .colour = record.given.SignedLong(2),
-              .hatch = record[3]});
+              .colour = record.given.SignedLong(at::kColourAtByte),
+              .hatch = record[at::kHatch]});
 }
 
 void MetafilePlayer::CreateFontObject(const Record& record)
 {
+    namespace at = metafile::font;
     constexpr int kBold = 600;
-    constexpr std::size_t kName = 18;
-    MetafileFont font{.height = record[0],
-                      .isBold = record[4] >= kBold,
-                      .isItalic = record.given.Byte(10) != 0,
-                      .isUnderlined = record.given.Byte(11) != 0,
-                      .isStrikeOut = record.given.Byte(12) != 0};
-    const std::string_view name = record.given.Part(kName, 32).View();
+    MetafileFont font{.height = record[at::kHeight],
+                      .isBold = record[at::kWeight] >= kBold,
+                      .isItalic = record.given.Byte(at::kItalicAtByte) != 0,
+                      .isUnderlined = record.given.Byte(at::kUnderlineAtByte) != 0,
+                      .isStrikeOut = record.given.Byte(at::kStrikeOutAtByte) != 0};
+    const std::string_view name = record.given.Part(at::kNameAtByte, at::kNameBytes).View();
     font.name = AnsiText::FromBytes(name.substr(0, name.find('\0')));
     objects_.Add({.font = std::make_unique<const MetafileFont>(std::move(font))});
 }
 
 void MetafilePlayer::CreateRegion(const Record& record)
 {
-    // The rectangle follows six numbers about the rest.
-    constexpr std::size_t kRect = 7;
-    if (!record.given.Has(0, (kRect + 4) * 2)) {
+    namespace at = metafile::region;
+    if (!record.given.Has(0, at::kWords * 2)) {
         objects_.Add({});
         return;
     }
-    const MetafileRegion region{.left = record[kRect],
-                                .top = record[kRect + 1],
-                                .right = record[kRect + 2],
-                                .bottom = record[kRect + 3]};
+    const MetafileRegion region{.left = record[at::kLeft],
+                                .top = record[at::kTop],
+                                .right = record[at::kRight],
+                                .bottom = record[at::kBottom]};
     objects_.Add({.region = std::make_unique<const MetafileRegion>(region)});
 }
 
@@ -101,7 +102,8 @@ void MetafilePlayer::CreatePatternBrush(const Record&)
 void MetafilePlayer::DIBCreatePatternBrush(const Record& record)
 {
     MetafileBrush brush{.colour = kGrey};
-    brush.tile = DecodeDib(record.given.Part(4), std::min(kMaxTile, kMaxTiles - tilePixels_));
+    brush.tile = DecodeDib(record.given.Part(metafile::brush::kPatternAtByte),
+                           std::min(kMaxTile, kMaxTiles - tilePixels_));
     if (brush.tile)
         tilePixels_ += static_cast<std::int64_t>(brush.tile->pixels.size());
     AddBrush(brush);

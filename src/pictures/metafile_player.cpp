@@ -102,9 +102,28 @@ FineRect MetafilePlayer::Rect(int left, int top, int right, int bottom) const
     return {Place(left, top), Place(right, bottom)};
 }
 
+void SetOrigin(const MetafileRecord& record, MetafileWindow& window)
+{
+    window.left = record[metafile::point::kX];
+    window.top = record[metafile::point::kY];
+}
+
+bool SetExtent(const MetafileRecord& record, MetafileWindow& window)
+{
+    const int width = record[metafile::extent::kWidth];
+    const int height = record[metafile::extent::kHeight];
+    if (width == 0 || height == 0)
+        return false;
+    window.width = width;
+    window.height = height;
+    return true;
+}
+
 FineRect MetafilePlayer::RectAt(const Record& record, std::size_t word) const
 {
-    return Rect(record[word + 3], record[word + 2], record[word + 1], record[word]);
+    namespace at = metafile::rectangle;
+    return Rect(record[word + at::kLeft], record[word + at::kTop], record[word + at::kRight],
+                record[word + at::kBottom]);
 }
 
 PixelRect MetafilePlayer::PixelsOf(const FineRect& rect) const
@@ -134,7 +153,7 @@ void MetafilePlayer::SaveDC(const Record&)
 void MetafilePlayer::RestoreDC(const Record& record)
 {
     // Negative counts back from the last one, positive from the first.
-    const int number = record[0];
+    const int number = record.Value();
     const auto count = static_cast<int>(saved_.size());
     const int index = number < 0 ? count + number : number - 1;
     if (number == 0 || index < 0 || index >= count)
@@ -146,78 +165,76 @@ void MetafilePlayer::RestoreDC(const Record& record)
 void MetafilePlayer::SetBkMode(const Record& record)
 {
     constexpr int kTransparent = 1;
-    state_.isBkOpaque = record[0] != kTransparent;
+    state_.isBkOpaque = record.Value() != kTransparent;
 }
 
 void MetafilePlayer::SetROP2(const Record& record)
 {
     // Its numbers are the tables of the combinations, from 1 on.
-    if (record[0] >= 1 && record[0] <= 16)
-        state_.combination = static_cast<Combination>(record[0] - 1);
+    if (record.Value() >= 1 && record.Value() <= 16)
+        state_.combination = static_cast<Combination>(record.Value() - 1);
 }
 
 void MetafilePlayer::SetPolyFillMode(const Record& record)
 {
     constexpr int kWinding = 2;
-    state_.fillRule = record[0] == kWinding ? FillRule::NonZero : FillRule::EvenOdd;
+    state_.fillRule = record.Value() == kWinding ? FillRule::NonZero : FillRule::EvenOdd;
 }
 
 void MetafilePlayer::SetTextCharExtra(const Record& record)
 {
-    state_.charExtra = record[0];
+    state_.charExtra = record.Value();
 }
 
 void MetafilePlayer::SetTextAlign(const Record& record)
 {
-    state_.textAlign = record[0];
+    state_.textAlign = record.Value();
 }
 
 void MetafilePlayer::SetBkColor(const Record& record)
 {
-    state_.bkColour = record.given.SignedLong(0);
+    state_.bkColour = record.Colour();
 }
 
 void MetafilePlayer::SetTextColor(const Record& record)
 {
-    state_.textColour = record.given.SignedLong(0);
+    state_.textColour = record.Colour();
 }
 
 void MetafilePlayer::SetWindowOrg(const Record& record)
 {
-    state_.window.left = record[1];
-    state_.window.top = record[0];
+    SetOrigin(record, state_.window);
 }
 
 void MetafilePlayer::SetWindowExt(const Record& record)
 {
-    if (record[0] == 0 || record[1] == 0)
-        return;
-    state_.window.width = record[1];
-    state_.window.height = record[0];
+    SetExtent(record, state_.window);
 }
 
 void MetafilePlayer::OffsetWindowOrg(const Record& record)
 {
     constexpr int kMax = 1'000'000;
-    state_.window.left = std::clamp(state_.window.left + record[1], -kMax, kMax);
-    state_.window.top = std::clamp(state_.window.top + record[0], -kMax, kMax);
+    state_.window.left = std::clamp(state_.window.left + record[metafile::point::kX], -kMax, kMax);
+    state_.window.top = std::clamp(state_.window.top + record[metafile::point::kY], -kMax, kMax);
 }
 
 void MetafilePlayer::ScaleWindowExt(const Record& record)
 {
+    namespace at = metafile::scale;
     const auto scaled = [](int units, int times, int through) {
         const std::int64_t result = through == 0 ? 0 : std::int64_t{units} * times / through;
         return result == 0 || std::abs(result) > 1'000'000 ? units : static_cast<int>(result);
     };
-    state_.window.height = scaled(state_.window.height, record[1], record[0]);
-    state_.window.width = scaled(state_.window.width, record[3], record[2]);
+    state_.window.height =
+        scaled(state_.window.height, record[at::kYFactor], record[at::kYDivisor]);
+    state_.window.width = scaled(state_.window.width, record[at::kXFactor], record[at::kXDivisor]);
 }
 
 void MetafilePlayer::SelectClipRegion(const Record& record)
 {
     state_.clip = {.bounds = raster_.Target().clip, .holes = {}};
     // Number 0 is that of an object too; where it is no region, there is no clip any more.
-    const MetafileObject* object = objects_.Find(static_cast<std::uint16_t>(record[0]));
+    const MetafileObject* object = objects_.Find(record.Count());
     if (const MetafileRegion* region = object ? object->region.get() : nullptr)
         state_.clip.bounds =
             Intersect(state_.clip.bounds,
@@ -238,7 +255,7 @@ void MetafilePlayer::ExcludeClipRect(const Record& record)
 void MetafilePlayer::OffsetClipRgn(const Record& record)
 {
     const FinePoint origin = Place(0, 0);
-    const FinePoint moved = Place(record[1], record[0]);
+    const FinePoint moved = Place(record[metafile::point::kX], record[metafile::point::kY]);
     PixelRect& bounds = state_.clip.bounds;
     const int across = (moved.x - origin.x) / kFine;
     const int down = (moved.y - origin.y) / kFine;

@@ -20,6 +20,11 @@ struct MetafileWindow {
     int height = 1;
 };
 
+/// As SetWindowOrg has it.
+void SetOrigin(const MetafileRecord& record, MetafileWindow& window);
+/// As SetWindowExt has it. False, and no change, where a side is 0.
+bool SetExtent(const MetafileRecord& record, MetafileWindow& window);
+
 class MetafilePlayer {
 public:
     /// `scale` pixels of the raster are one of the picture.
@@ -140,6 +145,7 @@ private:
         std::uint8_t table = 0; // see Raster::Combine
         bool countsFromBottom = false;
     };
+    void PlayBitmap(const Record& record, const metafile::BitmapLayout& at);
     void PlayBlit(const Blit& blit, PictureBytes dib);
     void PaintBlit(const Blit& blit, const Picture& source);
     std::shared_ptr<const Picture> DecodeDib(PictureBytes dib, std::int64_t mostPixels);

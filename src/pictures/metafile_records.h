@@ -2,6 +2,7 @@
 // programs that draw ("placeable"), the header, then one call of the graphics system after another.
 #pragma once
 
+#include "pictures/metafile_layout.h"
 #include "pictures/picture_bytes.h"
 
 namespace quillon {
@@ -71,6 +72,11 @@ struct MetafileRecord {
 
     /// The number at that place, counted in words.
     std::int16_t operator[](std::size_t word) const { return given.Short(word * 2); }
+    /// The only argument, or the first that is written.
+    std::int16_t Value() const { return given.Short(0); }
+    /// The same where it is a count, or the number of an object.
+    std::uint16_t Count() const { return given.Word(0); }
+    std::int32_t Colour() const { return given.SignedLong(0); }
 };
 
 /// Goes from record to record; false after the last one, and from where the file is damaged.

@@ -107,8 +107,8 @@ void MetafilePlayer::StrokeDashes(const FinePoints& line, bool isClosed, std::in
 
 void MetafilePlayer::MoveTo(const Record& record)
 {
-    state_.x = record[1];
-    state_.y = record[0];
+    state_.x = record[metafile::point::kX];
+    state_.y = record[metafile::point::kY];
 }
 
 void MetafilePlayer::LineTo(const Record& record)
@@ -132,21 +132,22 @@ FinePoints MetafilePlayer::PointsAt(const Record& record, std::size_t byte, std:
 
 void MetafilePlayer::Polygon(const Record& record)
 {
-    FillAndStroke(PointsAt(record, 2, static_cast<std::uint16_t>(record[0])));
+    FillAndStroke(PointsAt(record, metafile::polygon::kPointsAtByte, record.Count()));
 }
 
 void MetafilePlayer::Polyline(const Record& record)
 {
-    Stroke(PointsAt(record, 2, static_cast<std::uint16_t>(record[0])), false);
+    Stroke(PointsAt(record, metafile::polygon::kPointsAtByte, record.Count()), false);
 }
 
 void MetafilePlayer::PolyPolygon(const Record& record)
 {
-    const std::size_t count = static_cast<std::uint16_t>(record[0]);
-    std::size_t at = 2 + count * 2;
+    constexpr std::size_t kCounts = metafile::polygon::kCountsAtByte;
+    const std::size_t count = record.Count();
+    std::size_t at = kCounts + count * 2;
     FinePath path;
     for (std::size_t i = 0; i < count && record.given.Has(0, at); ++i) {
-        const std::size_t length = record.given.Word(2 + i * 2);
+        const std::size_t length = record.given.Word(kCounts + i * 2);
         const FinePoints points = PointsAt(record, at, length);
         path.points.insert(path.points.end(), points.begin(), points.end());
         path.Close();
@@ -164,7 +165,9 @@ void MetafilePlayer::Rectangle(const Record& record)
 
 void MetafilePlayer::RoundRect(const Record& record)
 {
-    FillAndStroke(RoundRectOf(RectAt(record, 2), HBox(record[1]), VBox(record[0])));
+    namespace at = metafile::round_rect;
+    FillAndStroke(RoundRectOf(RectAt(record, at::kRect), HBox(record[at::kWidth]),
+                              VBox(record[at::kHeight])));
 }
 
 void MetafilePlayer::Ellipse(const Record& record)
@@ -174,12 +177,14 @@ void MetafilePlayer::Ellipse(const Record& record)
 
 FineRect MetafilePlayer::ArcRect(const Record& record) const
 {
-    return RectAt(record, 4);
+    return RectAt(record, metafile::arc::kRect);
 }
 
 FinePoints MetafilePlayer::ArcPoints(const Record& record) const
 {
-    return ArcOf(ArcRect(record), Place(record[3], record[2]), Place(record[1], record[0]));
+    namespace at = metafile::arc;
+    return ArcOf(ArcRect(record), Place(record[at::kStartX], record[at::kStartY]),
+                 Place(record[at::kEndX], record[at::kEndY]));
 }
 
 void MetafilePlayer::Arc(const Record& record)
@@ -203,11 +208,12 @@ void MetafilePlayer::Chord(const Record& record)
 
 void MetafilePlayer::SetPixel(const Record& record)
 {
-    const FinePoint place = Place(record[3], record[2]);
+    namespace at = metafile::set_pixel;
+    const FinePoint place = Place(record[at::kX], record[at::kY]);
     const int left = FirstPixelFrom(place.x);
     const int top = FirstPixelFrom(place.y);
     raster_.FillPixels({left, top, left + scale_, top + scale_},
-                       {.colour = quillon::PixelOf(record.given.SignedLong(0))}, state_.clip);
+                       {.colour = quillon::PixelOf(record.Colour())}, state_.clip);
 }
 
 } // namespace quillon

@@ -106,27 +106,30 @@ void MetafilePlayer::PaintMask(const LetterMask& mask, int left, int baseline)
 
 void MetafilePlayer::WriteText(const Record& record)
 {
-    const std::size_t length = static_cast<std::uint16_t>(record[0]);
-    const std::size_t behind = 2 + (length + 1) / 2 * 2;
-    if (!record.given.Has(behind, 4))
+    namespace at = metafile::text_out;
+    const std::size_t length = record.Count();
+    const std::size_t place = at::kTextAtByte + (length + 1) / 2 * 2;
+    if (!record.given.Has(place, at::kPlaceBytes))
         return;
     const bool isAtPosition = (state_.textAlign & kUpdatePosition) != 0;
-    const int x = isAtPosition ? state_.x : record.given.Short(behind + 2);
-    const int y = isAtPosition ? state_.y : record.given.Short(behind);
-    PaintText({.text = TextOf(record.given.Part(2), length), .place = Place(x, y)});
+    const int x = isAtPosition ? state_.x : record.given.Short(place + at::kXAfterText);
+    const int y = isAtPosition ? state_.y : record.given.Short(place + at::kYAfterText);
+    PaintText({.text = TextOf(record.given.Part(at::kTextAtByte), length), .place = Place(x, y)});
 }
 
 void MetafilePlayer::WriteExtendedText(const Record& record)
 {
-    const std::size_t length = static_cast<std::uint16_t>(record[2]);
-    const int options = record[3];
+    namespace at = metafile::ext_text_out;
+    const std::size_t length = static_cast<std::uint16_t>(record[at::kCount]);
+    const int options = record[at::kOptions];
     const bool hasRect = (options & (kOpaqueRect | kClippedRect)) != 0;
-    const std::size_t begin = hasRect ? 16 : 8;
+    const std::size_t begin = hasRect ? at::kTextAfterRectAtByte : at::kTextAtByte;
     if (!record.given.Has(begin, length))
         return;
     const RasterClip clip = state_.clip;
     if (hasRect) {
-        const PixelRect rect = PixelsOf(Rect(record[4], record[5], record[6], record[7]));
+        const PixelRect rect = PixelsOf(
+            Rect(record[at::kLeft], record[at::kTop], record[at::kRight], record[at::kBottom]));
         if ((options & kOpaqueRect) != 0)
             raster_.FillPixels(rect, {.colour = quillon::PixelOf(state_.bkColour)}, state_.clip);
         if ((options & kClippedRect) != 0)
@@ -134,13 +137,13 @@ void MetafilePlayer::WriteExtendedText(const Record& record)
     }
     const bool isAtPosition = (state_.textAlign & kUpdatePosition) != 0;
     Line line{.text = TextOf(record.given.Part(begin), length),
-              .place =
-                  Place(isAtPosition ? state_.x : record[1], isAtPosition ? state_.y : record[0])};
-    const std::size_t behind = begin + (length + 1) / 2 * 2;
+              .place = Place(isAtPosition ? state_.x : record[at::kX],
+                             isAtPosition ? state_.y : record[at::kY])};
+    const std::size_t advances = begin + (length + 1) / 2 * 2;
     const std::size_t letters = std::min(length, kMaxTextLength);
-    if (letters > 0 && record.given.Has(behind, std::uint64_t{letters} * 2))
+    if (letters > 0 && record.given.Has(advances, std::uint64_t{letters} * 2))
         for (std::size_t i = 0; i < letters; ++i)
-            line.advances.push_back(HBox(record.given.Short(behind + i * 2)) / kFine);
+            line.advances.push_back(HBox(record.given.Short(advances + i * 2)) / kFine);
     PaintText(std::move(line));
     state_.clip = clip;
 }
