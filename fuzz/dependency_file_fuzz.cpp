@@ -2,22 +2,16 @@
 // in bounded time, each file once, and nothing but a RunError is thrown.
 #include "importers/dependency_file.h"
 #include "importers/lst_file.h"
+#include "require.h"
 
 #include "support/one_file_host.h"
 
-#include <cstdlib>
 #include <set>
 #include <utility>
 
 using namespace quillon;
 
 namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void FollowDepFile(Host host, const std::string& bytes)
 {

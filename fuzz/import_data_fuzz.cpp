@@ -1,4 +1,4 @@
-// Tables of the importers with any content: each line is taken in or told, and what comes out is a
+// Tables of the importers with any content: each line is read or reported, and what comes out is a
 // plain file name.
 #include "importers/import_data.h"
 

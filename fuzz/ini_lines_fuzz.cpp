@@ -1,10 +1,10 @@
 // INI lists of any content: each value has its file and section, nothing is passed over without a
 // reason, and a list that is written from what was read is read as the same.
 #include "helpers/ansi_text.h"
+#include "require.h"
 #include "runtime/ini_lines.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <tuple>
 
 using namespace quillon;
@@ -12,12 +12,6 @@ using namespace quillon;
 namespace {
 
 using Value = std::tuple<Text, Text, Text, Text>;
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 std::vector<Value> ValuesOf(const IniList& list)
 {

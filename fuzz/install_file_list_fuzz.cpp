@@ -3,19 +3,13 @@
 #include "formats/install_row.h"
 #include "formats/package.h"
 #include "formats/row_safety.h"
+#include "require.h"
 
 #include <cstdint>
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void RequireSafe(const InstallRow& row)
 {

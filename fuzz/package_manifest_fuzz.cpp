@@ -3,21 +3,10 @@
 #include "formats/package_manifest.h"
 
 #include "formats/package_files.h"
+#include "require.h"
 #include "support/one_file_host.h"
 
-#include <cstdlib>
-
 using namespace quillon;
-
-namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {

@@ -1,20 +1,14 @@
 // Picture files of any content: what comes out is a whole picture or a reason, of the size that was
 // asked for, with colours that are multiplied by their alpha.
 #include "pictures/picture_file.h"
+#include "require.h"
 #include "support/block_letters.h"
 
 #include <cstdint>
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 constexpr std::int64_t kMaxScaled = 50'000;
 

@@ -2,11 +2,10 @@
 // and a value that is written is the value that is read.
 #include "ini/profile_reader.h"
 #include "ini/profile_writer.h"
+#include "require.h"
 
 #include "helpers/ansi_text.h"
 #include "support/one_file_host.h"
-
-#include <cstdlib>
 
 using namespace quillon;
 
@@ -15,12 +14,6 @@ namespace {
 constexpr const char* kPath = "C:\\a.ini";
 constexpr const char* kSection = "S";
 constexpr const char* kKey = "K";
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 bool Overflows(const ProfileReader& reader)
 {

@@ -1,27 +1,21 @@
 // Signatures of any content: the input as the signature of a program, over which those of the
-// corpus are, and as a whole file. What is told of it can be printed, and nothing is trusted that
-// is not whole.
+// corpus are, and as a whole file. What is reported of it can be printed, and nothing is trusted
+// that is not whole.
 #include "builder/signing/program_signature.h"
 
 #include "archive/solid/signature_fields.h"
 #include "helpers/utf8.h"
+#include "require.h"
 #include "support/linked_program.h"
 #include "support/one_file_host.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
 
 using State = ProgramSignature::State;
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void CheckText(const Text& text)
 {

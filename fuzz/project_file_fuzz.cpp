@@ -5,9 +5,8 @@
 #include "project/file_rows.h"
 #include "project/new_project.h"
 #include "project/project_file.h"
+#include "require.h"
 #include "support/one_file_host.h"
-
-#include <cstdlib>
 
 using namespace quillon;
 
@@ -15,12 +14,6 @@ namespace {
 
 constexpr const char* kPath = "C:\\a.qnp";
 constexpr const char* kToolFolder = "C:\\Quillon";
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 struct Desk {
     explicit Desk(std::string bytes) : files(std::move(bytes)) {}

@@ -1,8 +1,7 @@
 // `.reg` files of any content: whatever precedes it, a key that is written as Windows
 // writes it is read, and one that is removed is gone; and a file read twice says what it said once.
 #include "platform/posix/registry_files.h"
-
-#include <cstdlib>
+#include "require.h"
 
 using namespace quillon;
 
@@ -10,12 +9,6 @@ namespace {
 
 constexpr auto kRoot = RegistryRoot::LocalMachine;
 constexpr std::string_view kUtf16Bom = "\xFF\xFE";
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 bool IsUtf16(std::string_view bytes)
 {

@@ -3,20 +3,14 @@
 #include "actions/registry_list.h"
 #include "actions/unsavable_line.h"
 #include "helpers/ansi_text.h"
+#include "require.h"
 #include "runtime/registry_lines.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void CheckLine(const RegistryLine& line)
 {

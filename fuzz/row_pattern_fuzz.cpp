@@ -3,9 +3,9 @@
 #include "cli/call_context.h"
 #include "cli/row_pattern.h"
 #include "helpers/ansi_text.h"
+#include "require.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 using namespace quillon;
 
@@ -13,12 +13,6 @@ namespace {
 
 constexpr std::size_t kMaxNames = 40;
 constexpr std::size_t kMaxTextLength = 200; // the plain comparison below takes the product of two
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 /// The lines of the input: names of rows up to an empty line, then patterns.
 struct Input {

@@ -1,21 +1,15 @@
 // Formatted text of any content: what comes out is well formed, within its limits, and no larger
 // than the file could make it.
 #include "helpers/utf8.h"
+#include "require.h"
 #include "rtf/rtf_losses.h"
 #include "rtf/rtf_text.h"
 
 #include <cstdint>
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void RequireText(const Text& text)
 {

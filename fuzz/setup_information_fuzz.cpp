@@ -1,22 +1,12 @@
 // QNSETUP.INF of any content: reading comes to an end, every number is within its type, and what a
-// package has to hold can be told from it.
+// package has to hold follows from it.
 #include "formats/package_contents.h"
 #include "formats/setup_information.h"
+#include "require.h"
 
 #include <cstdint>
-#include <cstdlib>
 
 using namespace quillon;
-
-namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {

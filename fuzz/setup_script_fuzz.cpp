@@ -1,20 +1,14 @@
 // Scripts of any content: a script is taken whole or not at all, every fault names a line that
 // there is, and every script that is taken comes to its end.
+#include "require.h"
 #include "runtime/script/script_lines.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 bool IsBranch(const ScriptCommand& command)
 {

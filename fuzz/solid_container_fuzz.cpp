@@ -5,10 +5,10 @@
 
 #include "archive/solid/container_index.h"
 #include "archive/solid/package_container.h"
+#include "require.h"
 #include "support/complete_container.h"
 #include "support/one_file_host.h"
 
-#include <cstdlib>
 #include <optional>
 #include <vector>
 
@@ -17,12 +17,6 @@ using namespace quillon;
 namespace {
 
 constexpr std::uint64_t kEnough = 1024 * 1024;
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 /// Nothing where the file is damaged.
 std::optional<Sha256Digest> DigestOf(Container& container, const ZipEntry& entry)

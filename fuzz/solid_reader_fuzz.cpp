@@ -5,19 +5,12 @@
 
 #include "archive/solid/solid_digest.h"
 #include "archive/solid/solid_error.h"
+#include "require.h"
 #include "support/one_file_host.h"
-
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 class CountingSink : public SolidSink {
 public:

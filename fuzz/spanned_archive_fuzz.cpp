@@ -1,23 +1,16 @@
-// The container of several disks, cut anywhere and with any content: the first bytes tell where it
+// The container of several disks, cut anywhere and with any content: the first bytes say where it
 // is cut. The pieces joined are read as the whole is, in whatever steps.
 #include "archive/joined_input.h"
 #include "archive/zip_reader.h"
+#include "require.h"
 
 #include "support/one_file_host.h"
-
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
 
 constexpr std::size_t kCuts = 3;
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 std::vector<std::string> CutUp(std::string_view bytes)
 {

@@ -1,23 +1,18 @@
 // Command lines of any content, for the setup, its starter and the uninstaller: the starter is
 // silent exactly when the setup is, and a switch that is quoted as a whole means what it says.
+#include "helpers/drive_path.h"
+#include "require.h"
 #include "runtime/switch_words.h"
 #include "runtime/switches.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
 
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-// The name of a misspelt password is told without them.
+// The name of a misspelt password is reported without them.
 Text WithoutQuotes(Text text)
 {
     std::erase(text, '"');

@@ -1,20 +1,13 @@
 // Containers of any content: reading comes to an end, the entries share no bytes of the file, and
 // none gives more than its size.
 #include "archive/zip_reader.h"
+#include "require.h"
 
 #include "support/one_file_host.h"
-
-#include <cstdlib>
 
 using namespace quillon;
 
 namespace {
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void Extract(ZipReader& reader, const ZipEntry& entry)
 {
