@@ -4,6 +4,7 @@
 #include <map>
 #include <regex>
 #include <set>
+#include <utility>
 
 namespace quillon::test {
 
@@ -24,6 +25,14 @@ const std::set<std::string> kRuntimeUses = {"helpers",  "platform", "archive", "
 
 // Streams look at the locale, and they alone would double the size of the setup runtime.
 const std::set<std::string> kStreams = {"iostream", "fstream", "sstream", "iomanip", "regex"};
+
+// The libraries' headers, by how their names begin, and the folders that may use them.
+const std::vector<std::pair<std::string, std::set<std::string>>> kLibraries = {
+    {"zlib.h", {"archive"}},  {"libdeflate.h", {"archive"}},
+    {"zstd.h", {"archive"}},  {"nlohmann/", {"cli", "importers"}},
+    {"png.h", {"cli"}},       {"openssl/sha.h", {"helpers"}},
+    {"cpuid.h", {"helpers"}}, {"immintrin.h", {"helpers"}},
+    {"cairo-", {"tools"}},    {"fontconfig/", {"tools"}}};
 
 // The headers that choose between the systems, for all that lies above.
 const std::set<std::string> kSystemChoosers = {"platform/this_host.h", "design/system_letters.h"};
@@ -59,11 +68,21 @@ bool IsWindow(const std::string& file)
     return Has(file, "forms") || Folder(file) == "ui" || Folder(file) == "app";
 }
 
+bool IsLibraryOf(const Include& include)
+{
+    for (const auto& [header, folders] : kLibraries)
+        if (include.target.starts_with(header))
+            return folders.count(Folder(include.file)) > 0;
+    return false;
+}
+
 std::vector<std::string> SystemViolations(const Include& include)
 {
     static const std::regex qt("^Q[A-Z].*|^Qt.*/.*");
     static const std::regex windows("^(windows|shlobj|shellapi|wincrypt|winver|objbase)\\.h$");
-    static const std::regex posix("^(unistd|fcntl|dirent|spawn|langinfo|sys/.*)(\\.h)?$");
+    static const std::regex posix(
+        "^(unistd|fcntl|dirent|poll|pwd|spawn|langinfo|(sys|linux)/.*)(\\.h)?$");
+    static const std::regex notStandard(".*\\.h|.*/.*");
     std::vector<std::string> found;
     if (std::regex_match(include.target, qt) && !IsWindow(include.file))
         found.push_back("Qt stays in ui, app and the forms");
@@ -71,6 +90,9 @@ std::vector<std::string> SystemViolations(const Include& include)
         found.push_back("headers of Windows stay in win32 folders");
     if (std::regex_match(include.target, posix) && !Has(include.file, "posix"))
         found.push_back("headers of POSIX stay in posix folders");
+    if (std::regex_match(include.target, notStandard) && !std::regex_match(include.target, qt) &&
+        !Has(include.file, "posix") && !Has(include.file, "win32") && !IsLibraryOf(include))
+        found.push_back("headers of systems and libraries stay in the folders that the test names");
     if (kStreams.count(include.target) > 0 && HeightOf(include.file) < kHeight.at("cli"))
         found.push_back("streams stay in the programs");
     return found;

@@ -76,6 +76,9 @@ TEST(House, FindsPlantedViolations)
         {"platform/whole_file.cpp", "sys/stat.h", true},
         {"platform/win32/open_file.cpp", "unistd.h", true},
         {"runtime/install.cpp", "sstream", true},
+        {"runtime/install.cpp", "dlfcn.h", true},
+        {"builder/create.cpp", "zstd.h", true},
+        {"runtime/action_log.cpp", "nlohmann/json.hpp", true},
     };
     for (const Include& include : planted)
         EXPECT_FALSE(Violations(include).empty()) << include.file << " includes " << include.target;
@@ -92,6 +95,8 @@ TEST(House, LetsThroughWhatIsInOrder)
         {"ui/QtAsk.cpp", "QWidget", true},
         {"platform/posix/posix_files.cpp", "sys/stat.h", true},
         {"builder/create.cpp", "algorithm", true},
+        {"archive/zip_reader.cpp", "zlib.h", true},
+        {"ui/colour_scheme.cpp", "QtDBus/QDBusMessage", true},
     };
     for (const Include& include : sound)
         EXPECT_TRUE(Violations(include).empty()) << include.file << " includes " << include.target;
