@@ -13,6 +13,7 @@
 #include "ini/profile_reader.h"
 #include "platform/run_error.h"
 
+#include <nlohmann/json.hpp>
 #include <numeric>
 #include <unordered_set>
 

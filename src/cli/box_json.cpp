@@ -1,5 +1,7 @@
 #include "cli/box_json.h"
 
+#include <nlohmann/json.hpp>
+
 namespace quillon::cli {
 
 Json BoxesJson(const ConsoleAsk& ask)

@@ -4,6 +4,7 @@
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace quillon::cli {

@@ -9,7 +9,7 @@
 
 #include <functional>
 #include <iosfwd>
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 namespace quillon::cli {
 

@@ -1,5 +1,8 @@
 #include "cli/calls.h"
 
+#include <utility>
+#include <vector>
+
 namespace quillon::cli {
 
 namespace {
@@ -26,11 +29,9 @@ constexpr Option kTrust = {"--trust", "FIL",
                            "PEM-fil med rotcertifikat att lita på, utöver datorns egna"};
 constexpr Option kJson = {"--json", nullptr, "Skriv ett JSON-objekt och inget annat"};
 
-} // namespace
-
-std::span<const Call> AllCalls()
+std::vector<Call> WritingCalls()
 {
-    static const Call kCalls[] = {
+    return {
         {"create",
          {"PROJEKT"},
          {{"--medium", "MEDIUM", "Medium i stället för projektets eget", "floppy|cd|tree|internet"},
@@ -56,6 +57,12 @@ std::span<const Call> AllCalls()
           kJson},
          "Skriver de filer som ett test läser. Inget startas, och projektfilen ändras ej.",
          TestProject},
+    };
+}
+
+std::vector<Call> ProjectCalls()
+{
+    return {
         {"resave",
          {"IN", "UT"},
          {{"--after", "TIDIGARE", "Öppna först detta projekt"}, kJson},
@@ -83,6 +90,12 @@ std::span<const Call> AllCalls()
          {kJson},
          "Ändrar fält, t.ex. Version.ProductName=Hej, FileComponent3.CompName=Hjälp, Registry=...",
          SetFields},
+    };
+}
+
+std::vector<Call> AddingCalls()
+{
+    return {
         {"add",
          {"PROJEKT", "FIL..."},
          {kTo, kComponent, kTakeTheRest, kJson},
@@ -107,6 +120,12 @@ std::span<const Call> AllCalls()
          {kTo, kTakeTheRest, kJson},
          "Adderar de filer som DEP-filen anger för den binära filen.",
          AddByDepFile},
+    };
+}
+
+std::vector<Call> VisualBasicCalls()
+{
+    return {
         {"import-vb6",
          {"PROJEKT"},
          {kVbp,
@@ -152,6 +171,12 @@ std::span<const Call> AllCalls()
           kJson},
          "Adderar de filer som ett Visual Basic .NET-projekt (2002, 2003) behöver.",
          ImportVbNet},
+    };
+}
+
+std::vector<Call> FolderImportCalls()
+{
+    return {
         {"import-folder",
          {"PROJEKT", "KATALOG"},
          {{"--exe", "NAMN", "Programmet, om katalogen har flera"},
@@ -167,6 +192,12 @@ std::span<const Call> AllCalls()
           kJson},
          "Adderar katalogen där ett program är byggt eller publicerat.",
          ImportFolder},
+    };
+}
+
+std::vector<Call> RowCalls()
+{
+    return {
         {"remove",
          {"PROJEKT", "RADER..."},
          {kJson},
@@ -204,6 +235,12 @@ std::span<const Call> AllCalls()
          {{"--to", "FIL", "PDF-fil som fillistan skrivs ut i", nullptr, Need::Required}, kJson},
          "Skriver ut fillistan som PDF.",
          PrintProject},
+    };
+}
+
+std::vector<Call> PackageCalls()
+{
+    return {
         {"list",
          {"PAKET"},
          {kTrust, kJson},
@@ -223,6 +260,20 @@ std::span<const Call> AllCalls()
          "Packar upp filerna i en färdig installation. Inget installeras eller startas.",
          ExtractPackage},
     };
+}
+
+} // namespace
+
+std::span<const Call> AllCalls()
+{
+    static const std::vector<Call> kCalls = [] {
+        std::vector<Call> calls;
+        for (const auto part : {WritingCalls, ProjectCalls, AddingCalls, VisualBasicCalls,
+                                FolderImportCalls, RowCalls, PackageCalls})
+            for (Call& call : part())
+                calls.push_back(std::move(call));
+        return calls;
+    }();
     return kCalls;
 }
 

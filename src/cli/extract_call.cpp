@@ -6,9 +6,11 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "project/file_list.h"
+#include "project/file_rows.h"
 
 #include <algorithm>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace quillon::cli {
@@ -73,7 +75,7 @@ private:
     {
         const InstallRow& row = source_.package.rows[number];
         const RowBytes& bytes = source_.package.bytes[number];
-        const Text label = "F" + NumberText(row.number) + " '" + row.name + "'";
+        const Text label = FileRowKey(row.number) + " '" + row.name + "'";
         const auto name = ExtractedName(row);
         if (!name)
             return faults.push_back(label + ": namnet eller destinationen leder ut ur katalogen.");

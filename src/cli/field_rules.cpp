@@ -8,6 +8,7 @@
 #include "cli/project_json.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 namespace quillon::cli {
 

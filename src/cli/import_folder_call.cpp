@@ -5,6 +5,7 @@
 #include "importers/import_folder.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 namespace quillon::cli {
 

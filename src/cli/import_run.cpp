@@ -3,6 +3,7 @@
 #include "cli/box_json.h"
 #include "filelist/options/icon_row.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace quillon::cli {

@@ -3,15 +3,18 @@
 #include "cli/project_edit.h"
 #include "cli/row_pattern.h"
 #include "filelist/options/copy_options.h"
+#include "formats/copy_letters.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 namespace quillon::cli {
 
 namespace {
 
 // At most one of these says what becomes of a file that is there already.
-constexpr std::string_view kOneOfThese = "DVN";
+constexpr char kOneOfThese[] = {CopyLetter::kDateCheck, CopyLetter::kVersionCheck,
+                                CopyLetter::kNeverReplace};
 
 Text OfferedLetters()
 {

@@ -4,8 +4,10 @@
 #include "formats/served_rows.h"
 #include "helpers/hex.h"
 #include "helpers/number_text.h"
+#include "project/file_rows.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace quillon::cli {
@@ -43,7 +45,7 @@ Json RowJson(const Package& package, std::size_t number)
 {
     const InstallRow& row = package.rows[number];
     const RowBytes& bytes = package.bytes[number];
-    Json object = {{"row", "F" + NumberText(row.number)},
+    Json object = {{"row", FileRowKey(row.number)},
                    {"name", row.name},
                    {"destination", row.destination},
                    {"component", ComponentNumberOf(row)},
@@ -54,7 +56,7 @@ Json RowJson(const Package& package, std::size_t number)
         object["entry"] = entry.name;
         Json rows = Json::array();
         for (const ServedRow& served : ServedRows(entry.comment))
-            rows.push_back("F" + NumberText(served.number));
+            rows.push_back(FileRowKey(served.number));
         object["entryRows"] = std::move(rows);
         object["entrySize"] = entry.size;
         object["packedSize"] = entry.isSolid ? Json() : Json(entry.packedSize);
@@ -94,7 +96,7 @@ std::vector<Text> RowLine(const Package& package, std::size_t number)
 {
     const InstallRow& row = package.rows[number];
     const RowBytes& bytes = package.bytes[number];
-    std::vector<Text> line = {"F" + NumberText(row.number), row.name, row.destination,
+    std::vector<Text> line = {FileRowKey(row.number), row.name, row.destination,
                               SizeText(row.size)};
     switch (bytes.place) {
     case RowBytes::Place::Container: {

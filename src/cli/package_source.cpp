@@ -5,6 +5,8 @@
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 
+#include <nlohmann/json.hpp>
+
 namespace quillon::cli {
 
 namespace {

@@ -6,6 +6,7 @@
 #include "project/project_title.h"
 #include "tools/pdf_file.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace quillon::cli {

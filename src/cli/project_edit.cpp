@@ -13,6 +13,7 @@
 #include "project/project_file.h"
 
 #include <array>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace quillon::cli {
@@ -106,7 +107,7 @@ ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin beg
       session(NewSession(context.host, ask, context.toolFolder)), context_(context), path_(path),
       isNew_(begin == Begin::WithANewProject)
 {
-    // Where it fails, so does the reading or the saving, which have more to tell.
+    // Where it fails, so does the reading or the saving, whose messages say more.
     RunErrorNumber([&] { Lock(); });
     if (!isNew_) {
         if (OpenProject(session, path) == Opened::InPart)

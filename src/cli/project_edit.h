@@ -25,7 +25,7 @@ public:
     /// Ends the call where something could not be done, unless the user wants the rest.
     void RequireNothingRefused() const;
 
-    /// Saves what has changed and tells it: the lines to people, the members to scripts.
+    /// Saves what has changed and reports it: the lines to people, the members to scripts.
     Exit Save(const Text& lines, Json members);
 
     EditAsk ask;

@@ -3,6 +3,8 @@
 #include "project/list_sections.h"
 #include "project/section_walk.h"
 
+#include <nlohmann/json.hpp>
+
 namespace quillon::cli {
 
 namespace {

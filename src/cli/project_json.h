@@ -13,7 +13,7 @@ Json ProjectJson(const Project& project);
 /// The same without the rows; nothing is changed.
 Json SettingsJson(Project& project);
 
-/// A value as a line of output tells it: a text without its quotation marks.
+/// A value as a line of output shows it: a text without its quotation marks.
 inline Text ValueText(const Json& value)
 {
     return value.is_string() ? value.get<Text>() : value.dump();

@@ -6,6 +6,7 @@
 #include "platform/run_error.h"
 #include "shell/lifecycle.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace quillon::cli {

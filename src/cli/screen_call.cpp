@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace quillon::cli {

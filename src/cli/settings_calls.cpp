@@ -6,12 +6,14 @@
 #include "filelist/main_directory.h"
 #include "formats/setup_names.h"
 
+#include <nlohmann/json.hpp>
+
 namespace quillon::cli {
 
 namespace {
 
 // The rules of the main folder's field in the window. Nobody is there to correct it, so what the
-// window only tells ends the call.
+// window only reports ends the call.
 void CheckMainFolder(ProjectEdit& edit)
 {
     Text& folder = edit.session.project.InstallDirectories.DestinationDirectory;

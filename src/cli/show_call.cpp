@@ -5,6 +5,7 @@
 #include "cli/project_json.h"
 #include "helpers/line_breaks.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <utility>
 

@@ -5,6 +5,7 @@
 #include "cli/console_ask.h"
 #include "cli/open_project.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace quillon::cli {
@@ -14,7 +15,7 @@ namespace {
 Exit Report(const CallContext& context, const ConsoleAsk& ask, const TestRun& run,
             const Text& folder, bool isDone)
 {
-    // The boxes tell a number and no file.
+    // The boxes show a number and no file.
     const Text error = run.failure ? FailureText(*run.failure, folder) : Text();
     if (!error.empty())
         context.err << error << "\n";
