@@ -1,6 +1,7 @@
 #include "actions/ini_list.h"
 
 #include "helpers/ansi_text.h"
+#include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 
@@ -58,8 +59,7 @@ bool HasRoomInIniList(std::string_view list, std::string_view added, Ask& ask)
     if (CharacterCount(list) + CharacterCount(added) <= kMaxIniListLength)
         return true;
     ask.Critical("Fel", "Listan över INI-filer kan innehålla högst " +
-                            std::to_string(kMaxIniListLength) +
-                            " tecken! Ingenting har lagts till.");
+                            NumberText(kMaxIniListLength) + " tecken! Ingenting har lagts till.");
     return false;
 }
 

@@ -4,14 +4,12 @@
 
 #include "platform/ask.h"
 #include "platform/host.h"
+#include "project/reference_language.h"
 
 #include <optional>
 #include <vector>
 
 namespace quillon {
-
-// The base of every other language.
-inline constexpr const char* kReferenceLanguage = "SWEDISH.LNG";
 
 /// The folders in which language files lie: those of the tool, and those that users have added
 /// where the tool's own folder can't be written. Of two equal names the added one counts.

@@ -2,6 +2,7 @@
 
 #include "app/in_place.h"
 #include "filelist/forms/DlgCompMoreData.h"
+#include "helpers/number_text.h"
 #include "project/dialog_keys.h"
 
 #include <QtWidgets>
@@ -25,7 +26,7 @@ ComponentsPage::ComponentsPage(Session& session, std::function<void()> showCompo
 
 void ComponentsPage::MakeRow(std::size_t component, QGridLayout& grid)
 {
-    const Text number = std::to_string(component + 1);
+    const Text number = NumberText(static_cast<std::int64_t>(component) + 1);
     const auto name = [&](const char* array) { return array + number; };
     section::FileComponent& stored = session_.project.FileComponents[component];
     Row& row = rows_[component];

@@ -36,7 +36,7 @@ bool DesignPage::HasSize() const
     return isVisible() || (parentWidget() && window && window->isExposed());
 }
 
-// Laying the objects out moves them inside the surface, which has the same size behind another tab
+// Laying the objects out moves them inside the surface, which has the same size on a hidden tab
 // as in front: a project that is opened and saved is the same whether its design was looked at or
 // not.
 void DesignPage::LayOut()
@@ -62,7 +62,7 @@ void DesignPage::LayOutSoon()
 
 bool DesignPage::event(QEvent* event)
 {
-    // A page behind another one is not resized, but the size of the surface goes into the package.
+    // A hidden page is not resized, but the size of the surface goes into the package.
     if (event->type() == QEvent::ParentChange && parentWidget()) {
         parentWidget()->installEventFilter(this);
         PlaceSurface(parentWidget()->size());

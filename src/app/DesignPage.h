@@ -11,7 +11,7 @@ public:
     explicit DesignPage(Session& session);
 
     /// Another project is open, or the same one was read again: the next time that the session is
-    /// shown it is laid out, behind another tab too, and all that can't be shown is reported.
+    /// shown it is laid out, on a hidden tab too, and all that can't be shown is reported.
     void BeginProject();
     void ShowSession() override;
 

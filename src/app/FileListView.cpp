@@ -1,5 +1,6 @@
 #include "app/FileListView.h"
 
+#include "formats/icon_marker.h"
 #include "project/components.h"
 #include "ui/character_widths.h"
 #include "ui/qt_text.h"
@@ -33,7 +34,7 @@ QString WidestText(Column column)
     case Time:
         return "12:30";
     case IconMarker:
-        return "IkonD";
+        return kIconMarkerDesktop;
     default:
         return {};
     }

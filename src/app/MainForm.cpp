@@ -35,7 +35,7 @@ namespace quillon {
 
 namespace {
 
-// What the status bar has to tell.
+// What the status bar shows.
 constexpr int kMinLetters = 50;
 
 // The pages with many rows of controls; the others hold a view that can shrink.

@@ -20,7 +20,7 @@ public:
     void Keep();
 
 private:
-    // What tells one content of the project from another one.
+    // Distinguishes one content of the project from another.
     struct Mark {
         std::uint64_t revision;
         std::size_t settings; // also those that are being typed

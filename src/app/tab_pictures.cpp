@@ -18,7 +18,7 @@ constexpr std::array<const char*, kTabCount> kOwnPictures{
 
 QIcon TabPicture(const FileSystem& files, const Text& toolFolder, int tab)
 {
-    const Text file = "Res\\tab" + std::to_string(tab + 1) + ".bmp";
+    const Text file = "Res\\tab" + NumberText(tab + 1) + ".bmp";
     // The bitmaps are larger than they show, so that they stay sharp on a fine screen.
     if (const auto picture = LoadPicture(files, JoinPath(toolFolder, file)))
         return QIcon(QPixmap::fromImage(*picture));

@@ -223,7 +223,8 @@ struct AesExtra {
     static constexpr std::uint16_t kId = 0x9901;
     static constexpr std::uint16_t kVendor = 'A' + 256 * 'E';
     static constexpr std::uint8_t kAes256 = 3;
-    // AE-1 keeps the CRC of the content; AE-2 leaves it 0, since it would tell about the content.
+    // AE-1 keeps the CRC of the content; AE-2 leaves it 0, since it would reveal something of the
+    // content.
     static constexpr std::uint16_t kAe1 = 1;
     static constexpr std::uint16_t kAe2 = 2;
 

@@ -1,5 +1,5 @@
 // The compression interface as Create sees it: a list of paths, then one call that makes an archive
-// of them. Results are numbers, because the status list tells them by number.
+// of them. Results are numbers, because the status list shows them by number.
 #pragma once
 
 #include "archive/writer/compression_result.h"

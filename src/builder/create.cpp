@@ -199,7 +199,7 @@ Step CopyLanguageFile(CreateRun& run)
     return Step::GoOn;
 }
 
-// A copy that fails is passed over; the setup tells of a missing program.
+// A copy that fails is passed over; the setup reports a missing program.
 void CopyAccompanyingProgram(CreateRun& run)
 {
     const Text& program = run.project.RunAppSelfX.ProgramFilename;

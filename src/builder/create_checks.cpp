@@ -4,6 +4,7 @@
 #include "builder/row_checks.h"
 #include "filelist/adding/redist_folder.h"
 #include "filelist/adding/system_files.h"
+#include "formats/icon_marker.h"
 #include "formats/runtime_programs.h"
 #include "formats/setup_names.h"
 #include "helpers/windows_path.h"
@@ -85,8 +86,7 @@ Check CheckProtectedFile(CreateRun& run, const Text& redistFolder, FileListRow& 
 
 bool HasIcon(const FileListRow& row)
 {
-    const Text marker = UpperCase(row[IconMarker]);
-    return marker.starts_with("IKON") || marker.starts_with("ICON");
+    return HasIconMarker(row[IconMarker]);
 }
 
 Check CheckNotOntoCd(CreateRun& run)

@@ -30,7 +30,7 @@ struct CreateRun {
     DesignSurface surface = {};
 
     Text DestDir = {};
-    // A compression failed; the pipeline goes on and tells it at its end.
+    // A compression failed; the pipeline goes on and reports it at its end.
     bool CreateFailed = false;
     Integer FloppiesUsed = 0;
     Long FilesInList = 0;
@@ -41,7 +41,7 @@ struct CreateRun {
     bool isCancelled = false;
     // The package lacks something although the status lines end as after a success.
     bool isIncomplete = false;
-    // What the machine could not do, where a status line tells it without the file.
+    // What the machine could not do, where a status line reports it without the file.
     std::optional<RunError> failure = {};
     // The same of a container; its status lines have a number and no name.
     std::optional<CompressionFailure> compressionFailure = {};

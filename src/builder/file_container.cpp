@@ -8,6 +8,7 @@
 #include "filelist/adding/system_files.h"
 #include "formats/package.h"
 #include "ini/profile_writer.h"
+#include "project/file_rows.h"
 
 namespace quillon {
 
@@ -25,7 +26,7 @@ bool AddProjectFiles(CreateRun& run)
         if (!file.HasSource())
             continue;
         const Text path = ConvertLongFilenameToShortFilename(run.host.files, file[Source]);
-        if (run.compression.IfcAddFileListItem(path, FileListRowKey(row)) == 0) {
+        if (run.compression.IfcAddFileListItem(path, FileRowKey(row)) == 0) {
             run.ask.AddStatusLine("Fel inträffade! Kan ej addera filen " + file[Filename] +
                                   " till filtabell!");
             run.CreateFailed = true;

@@ -12,7 +12,8 @@ void CreateFileContainer(CreateRun& run, bool spanning);
 /// What the container is encrypted with; empty where it isn't.
 Text ContainerPassword(const Project& project);
 
-/// The lines that tell a failed compression; `missingReadRight` is said where that was the reason.
+/// The lines that report a failed compression; `missingReadRight` is said where that was the
+/// reason.
 void ReportCompressionError(Ask& ask, const Text& what, Integer result,
                             const Text& missingReadRight);
 

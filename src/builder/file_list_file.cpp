@@ -63,11 +63,6 @@ void WriteRow(AnsiTextFile& file, const InstallRow& row)
 
 } // namespace
 
-Text FileListRowKey(Long n)
-{
-    return "F" + ConvertLongToString(n);
-}
-
 int WriteFileListFile(const Text& path, const Project& project, const Host& host,
                       FileListOutcome& outcome)
 {

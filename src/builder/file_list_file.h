@@ -17,7 +17,4 @@ struct FileListOutcome {
 int WriteFileListFile(const Text& path, const Project& project, const Host& host,
                       FileListOutcome& outcome);
 
-/// The key of the n-th row, by which a container names the rows that an entry serves.
-Text FileListRowKey(Long n);
-
 } // namespace quillon

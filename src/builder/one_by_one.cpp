@@ -12,7 +12,7 @@ namespace quillon {
 
 namespace {
 
-// Where the routine is, for the line that tells its failure.
+// Where the routine is, for the line that reports its failure.
 struct Layout {
     Text base;
     Text folder;

@@ -151,7 +151,7 @@ Step BeginPackage(CreateRun& run)
                           files.DirCreate(StagingFolder(run));
     if (isStaged)
         run.stagingFolder = StagingFolder(run);
-    // Where it can't be written nothing else can, and the step that follows tells it.
+    // Where it can't be written nothing else can, and the step that follows reports it.
     RunErrorNumber([&] { WriteUnfinishedManifest(files, run.BuildFolder()); });
     return Step::GoOn;
 }

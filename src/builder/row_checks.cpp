@@ -5,7 +5,8 @@
 #include "builder/source_address.h"
 #include "filelist/adding/system_files.h"
 #include "filelist/row_status.h"
-#include "formats/installation_log_name.h"
+#include "formats/icon_marker.h"
+#include "formats/install_journal_name.h"
 #include "formats/row_safety.h"
 #include "formats/runtime_programs.h"
 #include "formats/variable_names.h"
@@ -37,7 +38,7 @@ Text RowLabel(std::size_t number, const FileListRow& row)
     return "Rad " + NumberAndName(number, row);
 }
 
-// Kept: a marked row whose file is gone gets as far as the file list, which tells all of these.
+// Kept: a marked row whose file is gone gets as far as the file list, which reports all of these.
 Text FaultOfMarkedRow(const CreateRun& run, const FileListRow& row)
 {
     if (!run.host.files.FileExists(row[Source]))
@@ -132,13 +133,12 @@ bool IsNameOfUninstaller(const Text& name)
     const Text upper = UpperCase(name);
     return upper == RuntimePrograms::kUninstaller.name ||
            upper == RuntimePrograms::kSetup.inPackage ||
-           upper == RuntimePrograms::kUninstallerManifest || IsInstallationLogName(upper);
+           upper == RuntimePrograms::kUninstallerManifest || IsInstallJournalName(upper);
 }
 
 Text IconTitle(const FileListRow& row)
 {
-    const Text marker = UpperCase(row[IconMarker].substr(0, 4));
-    if (marker != "IKON" && marker != "ICON")
+    if (!HasIconMarker(row[IconMarker]))
         return {};
     const Text title = TrimBlanks(row[IconDesc]);
     return LowerCase(title.empty() ? row[Filename] : title);

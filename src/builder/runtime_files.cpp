@@ -14,7 +14,7 @@ namespace {
 struct RuntimeFile {
     Text source;
     Text target; // in the destination
-    Text name;   // as the status lines tell it
+    Text name;   // as the status lines name it
     Text remark = {};
     bool isProgram = true; // which is signed where the project wants it
 };

@@ -211,7 +211,7 @@ private:
     ValueTexts values_;
 };
 
-// What the file tells beside the project's own fields.
+// What the file holds beside the project's own fields.
 SetupInformation InformationBesideProject(const SetupInfoInput& in)
 {
     const Project& project = in.project;

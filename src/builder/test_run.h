@@ -19,7 +19,7 @@ struct TestRun {
     DesignSurface surface = {};
 
     Long FilesInList = 0;
-    // What the machine could not do; the boxes tell its number alone.
+    // What the machine could not do; the boxes show its number alone.
     std::optional<RunError> failure = {};
 };
 

@@ -22,7 +22,7 @@ struct DragRect {
 };
 
 /// One drag, from the press to the release. The mouse's points are twips from the object's own top
-/// left, as its window tells them.
+/// left, as its window reports them.
 class DesDrag {
 public:
     DesDrag(const SurfacePlace& object, const SurfacePlace& surface, ScreenMetrics screen, Long x,

@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// One mask for a line: `letters[i]` begins where the advances before it end. The font tells only
+/// One mask for a line: `letters[i]` begins where the advances before it end. The font gives only
 /// whether lines go below the letters and through them.
 LetterMask JoinLetters(const ScreenFont& font, const std::vector<LetterMask>& letters,
                        const std::vector<int>& advances);

@@ -16,8 +16,8 @@ Text ProposedRTFfilename(const Text& projectFileName);
 /// The name under which the text is stored: one without ".rtf" anywhere gets it.
 Text StoredRTFfilename(const Text& typed);
 
-/// Whether OK may close the editor; tells the user where not. A name that leads out of the folder,
-/// or that Windows can't hold, is none.
+/// Whether OK may close the editor; the user is informed where not. A name that leads out of the
+/// folder, or that Windows can't hold, is none.
 bool CheckRTFfilename(const Text& typed, Ask& ask);
 
 /// What becomes of the file that the new one takes the place of. One that the editor did not show

@@ -9,7 +9,7 @@
 namespace quillon {
 
 /// The main folder as it is to be in its field after the user has left it; empty where what was
-/// typed can be no folder. The boxes only tell; none of them keeps the user in the field.
+/// typed can be no folder. The boxes only inform; none of them keeps the user in the field.
 Text CheckMainDirectory(std::string_view typed, Ask& ask);
 
 } // namespace quillon

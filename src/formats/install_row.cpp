@@ -3,6 +3,7 @@
 #include "formats/section_document.h"
 #include "helpers/ansi_text.h"
 #include "helpers/number_text.h"
+#include "project/file_rows.h"
 
 #include <algorithm>
 #include <charconv>
@@ -47,7 +48,10 @@ struct FieldText {
 
     Text operator()(Text InstallRow::*field) const { return row.*field; }
     Text operator()(int InstallRow::*field) const { return NumberText(row.*field); }
-    Text operator()(std::uint64_t InstallRow::*field) const { return std::to_string(row.*field); }
+    Text operator()(std::uint64_t InstallRow::*field) const
+    {
+        return NumberText(static_cast<std::int64_t>(row.*field));
+    }
 };
 
 template <class Number>
@@ -107,7 +111,7 @@ int ComponentNumberOf(const InstallRow& row)
 
 Text InstallRowLine(const InstallRow& row)
 {
-    Text line = "F" + NumberText(row.number) + "=";
+    Text line = FileRowKey(row.number) + "=";
     for (const FieldRule& rule : kFields) {
         line += std::visit(FieldText{row}, rule.field);
         line += rule.behind == Behind::BlankAndSemicolon ? " ;" : ";";

@@ -5,8 +5,10 @@
 #include "formats/package_contents_check.h"
 
 #include "formats/row_safety.h"
+#include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "project/file_rows.h"
 
 namespace quillon {
 
@@ -16,7 +18,7 @@ using Faults = std::vector<Text>;
 
 Text RowLabel(const InstallRow& row)
 {
-    return "F" + NumberText(row.number) + " '" + row.name + "': ";
+    return FileRowKey(row.number) + " '" + row.name + "': ";
 }
 
 Text FailureText(const ZipError& error)
@@ -48,8 +50,9 @@ Text FailureOf(Read read)
 void CheckSize(const InstallRow& row, std::uint64_t size, Faults& faults)
 {
     if (size != row.size)
-        faults.push_back(RowLabel(row) + "storleken är " + std::to_string(size) +
-                         " byte i paketet men " + std::to_string(row.size) + " byte i " +
+        faults.push_back(RowLabel(row) + "storleken är " +
+                         NumberText(static_cast<std::int64_t>(size)) + " byte i paketet men " +
+                         NumberText(static_cast<std::int64_t>(row.size)) + " byte i " +
                          kFileListName + ".");
 }
 
@@ -86,7 +89,7 @@ void CheckNames(const Package& package, Faults& faults)
         for (const Text& fault : {RowNameFaultText(row.name), DestinationFaultText(row.destination),
                                   isTree ? SourceFolderFaultText(row.sourceFolder) : Text()})
             if (!fault.empty())
-                faults.push_back("F" + NumberText(row.number) + ": " + fault);
+                faults.push_back(FileRowKey(row.number) + ": " + fault);
 }
 
 void CheckRows(const FileSystem& files, Package& package, Faults& faults)

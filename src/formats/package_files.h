@@ -8,6 +8,9 @@
 namespace quillon {
 
 inline constexpr const char* kFileListName = "FILELIST.INF";
+/// The section of a language file with the texts that are shown before there is a package.
+inline constexpr const char* kStarterSection = "PreLoader";
+
 inline constexpr const char* kSetupInformationName = "QNSETUP.INF";
 inline constexpr const char* kFileContainerName = "FILEDATA.DAT";
 inline constexpr const char* kDesignContainerName = "DESOBJ.DAT";
@@ -16,7 +19,7 @@ inline constexpr const char* kLicenseRtfName = "LICENSE.RTF";
 // The installer of Microsoft Data Access, which the setup runs before it copies; in a package it
 // has a name that does not look runnable.
 inline constexpr const char* kDataAccessArchive = "MDAC_TYP.ZIP";
-// What tells a whole package from a half or a damaged one.
+// Distinguishes a whole package from a half or a damaged one.
 inline constexpr const char* kManifestName = "PACKAGE.SHA256";
 // Where files that are kept one by one lie.
 inline constexpr const char* kSetupFilesFolder = "SetupFiles";

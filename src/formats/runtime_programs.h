@@ -23,7 +23,7 @@ inline constexpr RuntimeProgram kUninstaller = {"QNXUNIN.EXE", "QNXUNIN.BIN"};
 // know it by. The setup keeps the name there that it has in a package: by itself it would do
 // nothing.
 inline constexpr const char* kUninstallerManifest = "QNXUNIN.SHA256";
-// What the uninstaller removes, see `installation_log_name.h`.
+// What the uninstaller removes, see `install_journal_name.h`.
 inline constexpr const char* kInstallJournal = "QNXUNIN.LOG";
 } // namespace RuntimePrograms
 

@@ -24,7 +24,7 @@ static_assert(kPlain.size() == kAlphabetSize && kSubstitution.size() == kAlphabe
 
 constexpr int kMaxShift = 59;
 
-// The header tells the shift more than once, so that an ordinary text is hardly taken for a
+// The header holds the shift more than once, so that an ordinary text is hardly taken for a
 // scrambled one. Between constant pieces are the characters shift + offset.
 constexpr std::string_view kMarker = "Qsv";
 constexpr std::string_view kPieces[] = {"k7R", "xW2", "Tq", "m9e"};

@@ -1,6 +1,6 @@
 // The comment of an entry in FILEDATA.DAT: the rows of FILELIST.INF that it serves, such as
 // "F1 F7". Files with the same bytes share an entry, which has one date only: where the file of a
-// further row has another one, that stands behind the row, as in "F7@20040229123000".
+// further row has another one, that follows the row, as in "F7@20040229123000".
 #pragma once
 
 #include "helpers/date_text.h"

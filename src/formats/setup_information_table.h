@@ -4,6 +4,7 @@
 
 #include "formats/package_files.h"
 #include "formats/setup_information.h"
+#include "helpers/number_text.h"
 #include "project/key_table.h"
 
 namespace quillon {
@@ -65,7 +66,7 @@ InfKeys<Record, N> KeysIf(bool isWritten, const InfKey<Record> (&keys)[N], Recor
 template <class Record, std::size_t N>
 InfKeys<Record, N> NumberedKeys(const InfKey<Record> (&keys)[N], Record& record, std::size_t n)
 {
-    return {keys, record, std::to_string(n)};
+    return {keys, record, NumberText(static_cast<std::int64_t>(n))};
 }
 
 /// "1" where the text is in use; computed on writing and not read.

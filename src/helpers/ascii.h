@@ -15,9 +15,14 @@ inline bool IsAscii(std::string_view text)
     return AsciiLength(text) == text.size();
 }
 
-inline bool IsDigit(char character)
+constexpr bool IsDigit(char character)
 {
     return character >= '0' && character <= '9';
+}
+
+constexpr bool IsLetter(char character)
+{
+    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
 }
 
 /// A space or a tab; no line break.

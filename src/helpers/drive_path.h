@@ -1,5 +1,7 @@
-// Whether a path that a user gives begins with a drive of Windows.
+// What kind of path one is, by how it begins.
 #pragma once
+
+#include "helpers/ascii.h"
 
 #include <string_view>
 
@@ -8,8 +10,7 @@ namespace quillon {
 /// "C:", whatever follows.
 constexpr bool BeginsWithDrive(std::string_view path)
 {
-    return path.size() >= 2 && path[1] == ':' &&
-           ((path[0] >= 'A' && path[0] <= 'Z') || (path[0] >= 'a' && path[0] <= 'z'));
+    return path.size() >= 2 && path[1] == ':' && IsLetter(path[0]);
 }
 
 /// "C:\..." or "C:/...".
@@ -24,6 +25,13 @@ constexpr bool IsWindowsPath(std::string_view path)
 {
     return IsDrivePath(path) || (BeginsWithDrive(path) && path.size() == 2) ||
            path.starts_with("\\\\");
+}
+
+/// Drive and folder, or a network path: a folder that means the same wherever a program is started.
+constexpr bool IsAbsolutePath(std::string_view path)
+{
+    return (BeginsWithDrive(path) && path.size() > 2 && path[2] == '\\') ||
+           (path.size() > 2 && path.starts_with("\\\\") && path[2] != '\\');
 }
 
 } // namespace quillon

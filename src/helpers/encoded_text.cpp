@@ -10,7 +10,6 @@ namespace quillon {
 
 namespace {
 
-constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
 constexpr std::string_view kUtf16Bom = "\xFF\xFE";
 constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
 

@@ -23,7 +23,7 @@ struct ProgramInfo {
     bool isManaged = false; // a program of .NET
     /// A managed program without code of its own for one machine runs on any.
     bool isForAnyMachine = false;
-    /// "v4.0.30319" of the CLR header; empty where it tells none.
+    /// "v4.0.30319" of the CLR header; empty where it has none.
     Text clrVersion;
     /// ".NETFramework,Version=v4.7.2", as the compiler noted it; empty in programs that are older
     /// than this note.

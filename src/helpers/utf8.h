@@ -7,6 +7,9 @@
 
 namespace quillon {
 
+/// The byte order mark that a file in UTF-8 may begin with.
+inline constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
+
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
 
 /// The code point that begins at `position`, which is moved after it.

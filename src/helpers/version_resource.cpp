@@ -23,7 +23,7 @@ constexpr std::uint32_t kIsFolder = 0x80000000;
 // More than any program has; a damaged count ends here.
 constexpr std::size_t kMaxEntries = 1024;
 constexpr std::size_t kMaxLanguages = 64;
-// A version block tells its length in 16 bits.
+// A version block gives its length in 16 bits.
 constexpr std::size_t kMaxResourceSize = 0xFFFF;
 
 /// The part of a program that holds its resources.

@@ -1,5 +1,6 @@
 #include "importers/data_access.h"
 
+#include "formats/copy_letters.h"
 #include "formats/package_files.h"
 #include "helpers/windows_path.h"
 #include "platform/failure_text.h"
@@ -81,8 +82,10 @@ void AddVb6DaoLibrary(RowImport& import)
         types = JoinPath(FolderOfLibrary(*shared), "DAO2535.TLB");
     if (!types)
         return TellDao35Missing(import, "dao2535.tlb");
-    AddDaoFile(import, "DAO350.dll", LibraryPath(*library, "DAO350.dll"), "VRS");
-    AddDaoFile(import, "DAO2535.tlb", LibraryPath(*types, "DAO2535.TLB"), "DS");
+    AddDaoFile(import, "DAO350.dll", LibraryPath(*library, "DAO350.dll"),
+               StartingLetters::kSharedServer);
+    AddDaoFile(import, "DAO2535.tlb", LibraryPath(*types, "DAO2535.TLB"),
+               StartingLetters::kSharedFile);
 }
 
 void AskForDataAccess(RowImport& import, Vb6Choices& choices, DataAccessQuestion question)
@@ -130,7 +133,8 @@ void AddVb6Dao36(RowImport& import)
         if (const auto shared = SharedTool(import, "", "SharedFilesDir"))
             library = JoinPath(*shared, "DAO\\dao360.dll");
     if (library) {
-        AddDaoFile(import, "DAO360.dll", LibraryPath(*library, "dao360.dll"), "VRS");
+        AddDaoFile(import, "DAO360.dll", LibraryPath(*library, "dao360.dll"),
+                   StartingLetters::kSharedServer);
         return;
     }
     import.Pass("dao360.dll", NotAdded::NotRegistered);
@@ -159,8 +163,10 @@ void AddVb5Dao35(RowImport& import)
         return;
     }
     const Text folder = FolderOfLibrary(*library);
-    AddDaoFile(import, "DAO2535.tlb", JoinPath(folder, "DAO2535.tlb"), "DS");
-    AddDaoFile(import, "DAO350.dll", JoinPath(folder, "DAO350.dll"), "VRS");
+    AddDaoFile(import, "DAO2535.tlb", JoinPath(folder, "DAO2535.tlb"),
+               StartingLetters::kSharedFile);
+    AddDaoFile(import, "DAO350.dll", JoinPath(folder, "DAO350.dll"),
+               StartingLetters::kSharedServer);
 }
 
 void AddAdo(RowImport& import, Vb6Choices& choices, DataAccessQuestion question)

@@ -1,4 +1,4 @@
-// The database files that an import of Visual Basic adds on request: DAO by what the registry tells
+// The database files that an import of Visual Basic adds on request: DAO by what the registry says
 // of it, the data controls, and the package of Microsoft's data access components.
 #pragma once
 

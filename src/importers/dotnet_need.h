@@ -16,7 +16,7 @@ struct DotNetNeed {
     };
     Kind kind = Kind::None;
     Text name;    // ".NET Framework", "Microsoft.WindowsDesktop.App"
-    Text version; // "4.7.2"; empty where nobody tells it
+    Text version; // "4.7.2"; empty where nothing says it
     // What could not be read of the program's run-time file, in words.
     Text damage;
 

@@ -1,4 +1,4 @@
-// The table of what no project file tells: which controls are built with MFC, which modules call
+// The table of what no project file says: which controls are built with MFC, which modules call
 // which library, and which libraries are part of Windows. It is a text file that comes with the
 // tool, and its users may extend it.
 #pragma once

@@ -12,7 +12,7 @@ constexpr const char* kDone =
     "saknas enligt listan över katalogens innehåll måste läggas in manuellt eller finnas hos "
     "mottagaren.";
 
-// What the program does not tell stays as it was.
+// What the program does not say stays as it was.
 void TakeVersion(const FileVersionData& program, section::Version& version)
 {
     const auto take = [](const Text& from, Text& to) {

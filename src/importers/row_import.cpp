@@ -4,6 +4,7 @@
 #include "filelist/adding/use_filter.h"
 #include "filelist/options/icon_row.h"
 #include "filelist/row_status.h"
+#include "formats/icon_marker.h"
 #include "helpers/windows_path.h"
 #include "importers/project_lines.h"
 #include "platform/failure_text.h"
@@ -13,8 +14,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr const char* kIconMarker = "Ikon";
 
 bool HasFolder(const Text& name)
 {

@@ -2,6 +2,8 @@
 // order in which an import adds them.
 #pragma once
 
+#include "formats/copy_letters.h"
+
 #include <span>
 #include <string_view>
 
@@ -21,23 +23,23 @@ struct SystemFile {
 
 // clang-format off
 inline constexpr RedistFile kVb6RedistFiles[] = {
-    {"ASYCFILT.dll", "VAWE"},
-    {"COMCAT.dll",   "VRAW"},
-    {"OLEPRO32.dll", "VRAW"},
-    {"OLEAUT32.dll", "VRAW"},
-    {"STDOLE2.tlb",  "VAW"},
+    {"ASYCFILT.dll", StartingLetters::kRuntimeLibrary},
+    {"COMCAT.dll",   StartingLetters::kRuntimeServer},
+    {"OLEPRO32.dll", StartingLetters::kRuntimeServer},
+    {"OLEAUT32.dll", StartingLetters::kRuntimeServer},
+    {"STDOLE2.tlb",  StartingLetters::kTypeLibrary},
 };
 
 inline constexpr RedistFile kVb5RedistFiles[] = {
-    {"AsycFilt.dll", "VAWE"},
-    {"ComCat.dll",   "VRAW"},
-    {"Ctl3d32.dll",  "VAWE"},
-    {"OleAut32.dll", "VRAW"},
-    {"OlePro32.dll", "VRAW"},
-    {"StdOle2.tlb",  "DAW"},
+    {"AsycFilt.dll", StartingLetters::kRuntimeLibrary},
+    {"ComCat.dll",   StartingLetters::kRuntimeServer},
+    {"Ctl3d32.dll",  StartingLetters::kRuntimeLibrary},
+    {"OleAut32.dll", StartingLetters::kRuntimeServer},
+    {"OlePro32.dll", StartingLetters::kRuntimeServer},
+    {"StdOle2.tlb",  StartingLetters::kTypeLibraryByDate},
 };
 
-inline constexpr RedistFile kVb6Dao35RedistFile = {"MSVCRT40.dll", "VAW"};
+inline constexpr RedistFile kVb6Dao35RedistFile = {"MSVCRT40.dll", StartingLetters::kTypeLibrary};
 
 inline constexpr SystemFile kVb6Runtime[] = {{"MSVBVM60.dll", true}};
 inline constexpr SystemFile kVb5Runtime[] = {{"MSVBVM50.dll", true}};

@@ -2,6 +2,7 @@
 // compare.
 #pragma once
 
+#include "helpers/number_text.h"
 #include "helpers/text.h"
 
 #include <exception>
@@ -33,7 +34,7 @@ public:
     /// `path` is the file concerned, empty where there is none.
     explicit RunError(int number, Text path = {})
         : number_(number), path_(std::move(path)),
-          what_("Fel #" + std::to_string(number) + (path_.empty() ? "" : ": " + path_))
+          what_("Fel #" + NumberText(number) + (path_.empty() ? "" : ": " + path_))
     {
     }
 
@@ -59,7 +60,7 @@ int RunErrorNumber(Work work)
     }
 }
 
-/// The same, and keeps the failure for a caller that tells the file as well.
+/// The same, and keeps the failure for a caller that names the file as well.
 template <class Work>
 int RunErrorNumber(Work work, std::optional<RunError>& failure)
 {

@@ -1,4 +1,4 @@
-// What stands behind a signature of the kind that Windows' programs carry (PKCS #7 signed data with
+// What vouches for a signature of the kind that Windows' programs carry (PKCS #7 signed data with
 // the digest of the program in it), by the system's own library.
 #pragma once
 

@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-/// Empty where the volume has no name, or doesn't tell it.
+/// Empty where the volume has no name, or doesn't give it.
 inline Text VolumeNameIfAny(const FileSystem& files, const Text& root)
 {
     try {

@@ -50,7 +50,7 @@ AnsiTextFile::~AnsiTextFile()
     try {
         Flush();
     } catch (const RunError&) {
-        // The failure that brought the writer here is the one to tell; this one changes nothing.
+        // The failure that brought the writer here is the one to report; this one changes nothing.
     }
 }
 

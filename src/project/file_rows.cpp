@@ -26,7 +26,7 @@ std::optional<Text> TakeField(std::string_view& fields)
 
 Text FileRowLine(std::size_t number, const FileListRow& row)
 {
-    Text line = "F" + NumberText(static_cast<std::int64_t>(number)) + "=";
+    Text line = FileRowKey(static_cast<std::int64_t>(number)) + "=";
     for (const Text& field : row.columns)
         line.append(field).append(1, kFieldEnd);
     return line;

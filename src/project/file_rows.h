@@ -2,11 +2,18 @@
 // semicolon after it.
 #pragma once
 
+#include "helpers/number_text.h"
 #include "project/file_list.h"
 
 #include <string_view>
 
 namespace quillon {
+
+/// The key of a row in a project and in a package's list.
+inline Text FileRowKey(std::int64_t number)
+{
+    return "F" + NumberText(number);
+}
 
 /// The row as its line, without line end.
 Text FileRowLine(std::size_t number, const FileListRow& row);

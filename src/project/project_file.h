@@ -45,7 +45,7 @@ enum class ReadEnd {
     Failed, // a value that does not fit its field, or a failure of the machine; two beeps
 };
 
-/// Reads over the project that is open: what the file does not tell takes the value of a missing
+/// Reads over the project that is open: what the file does not hold takes the value of a missing
 /// key, and the two texts `AutoexecBat` and `ConfigSys` stay as they were where the file has none.
 /// Rows are added after those that are there.
 ReadEnd ReadProjectFile(Project& project, const Text& path, Host& host, Ask& ask,

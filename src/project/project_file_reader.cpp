@@ -241,7 +241,7 @@ ReadEnd ReadList(ReadRun& run, const ListSection& list)
         return ReadEnd::Stopped;
     if (ReadTextList(lines, list, text))
         return ReadEnd::Whole;
-    // Kept: only the first list tells the user that the file ends too early.
+    // Kept: only the first list reports that the file ends too early.
     if (&list != kListSections)
         return ReadEnd::Stopped;
     TellDamage(run.ask);

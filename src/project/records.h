@@ -8,6 +8,7 @@
 #include "helpers/number_text.h"
 #include "helpers/text.h"
 #include "project/file_list.h"
+#include "project/reference_language.h"
 
 #include <array>
 #include <cstddef>
@@ -125,7 +126,7 @@ struct RunAppSelfX {
 };
 
 struct Language {
-    Text LanguageFile = "SWEDISH.LNG";
+    Text LanguageFile = kReferenceLanguage;
 };
 
 struct Databases {

@@ -1,8 +1,8 @@
 // The settings sections of the project file, in the order on file. Writer and reader are two
 // visitors of this walk:
 //   Begin(name), Keys(table, record[, number]), NumberedText(key, number, text, limit), End()
-// and Section(name, table, record), which is all of these for a section that its table tells whole.
-// One that is after the values alone also has AllPictures(texts), and gets the slide show's
+// and Section(name, table, record), which is all of these for a section that its table describes
+// whole. One that is after the values alone also has AllPictures(texts), and gets the slide show's
 // pictures through it, those after its count too.
 #pragma once
 

@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-constexpr std::string_view kUtf8Bom = "utf-8:";
+constexpr std::string_view kUtf8Prefix = "utf-8:";
 
 } // namespace
 
@@ -16,8 +16,8 @@ Text UnicodeValueOnFile(const Text& value, int limit)
 {
     if (value.find_first_of("\r\n") != Text::npos)
         return {};
-    const bool isPlain = AnsiText::Holds(value) && !value.starts_with(kUtf8Bom);
-    std::string bytes = isPlain ? AnsiText::ToBytes(value) : std::string(kUtf8Bom).append(value);
+    const bool isPlain = AnsiText::Holds(value) && !value.starts_with(kUtf8Prefix);
+    std::string bytes = isPlain ? AnsiText::ToBytes(value) : std::string(kUtf8Prefix).append(value);
     // A reader takes blanks off at both ends, and one pair of quotation marks.
     if (BareValue(bytes) != bytes)
         bytes = '"' + bytes + '"';
@@ -28,9 +28,9 @@ Text UnicodeValueOnFile(const Text& value, int limit)
 
 Text UnicodeValueFromFile(const Text& onFile)
 {
-    if (!onFile.starts_with(kUtf8Bom))
+    if (!onFile.starts_with(kUtf8Prefix))
         return onFile;
-    Text value = AnsiText::ToBytes(std::string_view(onFile).substr(kUtf8Bom.size()));
+    Text value = AnsiText::ToBytes(std::string_view(onFile).substr(kUtf8Prefix.size()));
     return IsUtf8(value) ? value : Text();
 }
 

@@ -14,11 +14,6 @@ using Kind = RtfToken::Kind;
 // A number with more digits is beyond all limits anyway.
 constexpr int kMaxNumber = 99'999'999;
 
-bool IsLetter(char byte)
-{
-    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
-
 /// Zeros fill a file up to the size of its disk's blocks.
 bool IsLineEnd(char byte)
 {

@@ -1,4 +1,4 @@
-// What the run tells of itself: the log that /LOG asks for, UTF-8 in the language of the package, a
+// What the run reports: the log that /LOG asks for, UTF-8 in the language of the package, a
 // line for each action, with the reason where something was skipped; and the same for programs
 // (json_log.h). A log that can't be written any more stops being written; it never stops the work.
 #pragma once
@@ -53,7 +53,7 @@ private:
 Text LogLine(const Machine& machine, std::string_view text);
 
 /// Opens the logs. Where one can't be made the failure is thrown on, but `log` has the file of the
-/// result where that can be made, so that it at least can tell why.
+/// result where that can be made, so that it at least can say why.
 void OpenLogs(ActionLog& log, FileSystem& files, const Machine& machine, const LogFiles& paths,
               const LanguageTexts& texts);
 

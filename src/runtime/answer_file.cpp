@@ -1,7 +1,9 @@
 #include "runtime/answer_file.h"
 
+#include "helpers/drive_path.h"
 #include "helpers/encoded_text.h"
 #include "helpers/number_text.h"
+#include "helpers/utf8.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "ini/ini_scanner.h"
@@ -18,7 +20,6 @@ namespace {
 using section::LicenseData;
 
 constexpr std::string_view kSection = "Setup";
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF"; // for editors
 constexpr std::uint64_t kMaxSize = 64 * 1024;
 
 struct UserKey {
@@ -113,7 +114,7 @@ Text ReadAnswers(const FileSystem& files, const Text& path)
     return DecodedText(ReadWholeFile(files, path));
 }
 
-// A name that the switch could not tell from others is given as the component's number.
+// A name that the switch could not distinguish from others is given as the component's number.
 Text NameOfComponent(const SetupInformation& setup, int number)
 {
     const Text& name = setup.project.FileComponents[std::size_t(number) - 1].CompName;
@@ -170,7 +171,8 @@ void LoadAnswers(const FileSystem& files, Switches& switches)
 void SaveAnswers(FileSystem& files, const Text& path, const Answers& answers)
 {
     const Project& project = answers.setup.project;
-    Text text = Text(kUtf8Mark) + "[" + Text(kSection) + "]" + Text(kLineBreak);
+    Text text = Text(kUtf8Bom) + // for editors
+                "[" + Text(kSection) + "]" + Text(kLineBreak);
     const auto add = [&](const char* key, const Text& value) {
         text += Text(key) + "=" + OneLine(value) + Text(kLineBreak);
     };

@@ -1,4 +1,4 @@
-// The sound of the screen behind the pages.
+// The sound of the screen that is shown under the pages.
 #pragma once
 
 #include "helpers/text.h"

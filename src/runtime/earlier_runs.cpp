@@ -1,5 +1,6 @@
 #include "runtime/earlier_runs.h"
 
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "runtime/exit_codes.h"
 #include "runtime/rollback.h"

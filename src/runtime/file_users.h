@@ -1,4 +1,4 @@
-// The programs that hold files open, as the system tells of them.
+// The programs that hold files open, as the system lists them.
 #pragma once
 
 #include "helpers/text.h"
@@ -15,7 +15,7 @@ public:
     /// such file.
     virtual bool IsHeld(const Text& path) const = 0;
     /// The programs that hold these files, by the names that their users know; none where the
-    /// system can't tell.
+    /// system can't say.
     virtual std::vector<Text> ProgramsHolding(const std::vector<Text>& files) = 0;
     /// Asks the programs of the last answer to end; false where one goes on running.
     virtual bool CloseThem() = 0;

@@ -1,6 +1,7 @@
 #include "runtime/first_program.h"
 
 #include "formats/package_files.h"
+#include "helpers/drive_path.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"

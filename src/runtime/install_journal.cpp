@@ -1,6 +1,6 @@
 #include "runtime/install_journal.h"
 
-#include "formats/installation_log_name.h"
+#include "formats/install_journal_name.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/whole_file.h"
@@ -58,7 +58,7 @@ std::vector<Text> InstallJournalsIn(const FileSystem& files, const Text& mainFol
     if (!files.DirExists(mainFolder))
         return logs;
     for (const FolderEntry& entry : files.List(mainFolder))
-        if (IsInstallationLogName(entry.name))
+        if (IsInstallJournalName(entry.name))
             logs.push_back(JoinPath(mainFolder, entry.name));
     return logs;
 }

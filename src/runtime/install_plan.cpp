@@ -1,9 +1,10 @@
 #include "runtime/install_plan.h"
 
-#include "formats/installation_log_name.h"
+#include "formats/install_journal_name.h"
 #include "formats/new_windows_files.h"
 #include "formats/package_files.h"
 #include "formats/row_safety.h"
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "runtime/failure_reason.h"
 #include "runtime/install_journal.h"
@@ -154,7 +155,7 @@ bool IsNewWindows(SystemKind system)
 Text ChooseInstallJournal(const FileSystem& files, const Text& mainFolder, const Text& product)
 {
     for (int n = 1;; ++n) {
-        const Text path = JoinPath(mainFolder, InstallationLogName(n));
+        const Text path = JoinPath(mainFolder, InstallJournalName(n));
         if (!files.FileExists(path) || ProductOfJournal(files, path) == product)
             return path;
     }

@@ -1,5 +1,6 @@
 #include "runtime/messages.h"
 
+#include "formats/package_files.h"
 #include "runtime/self_extract_messages.h"
 #include "runtime/starter_messages.h"
 
@@ -12,13 +13,13 @@ namespace {
 
 // clang-format off
 constexpr MessageKey kMessages[] = {
-    {Message::Extract,                "PreLoader", StarterMessages::kExtract.key, StarterMessages::kExtract.swedish},
-    {Message::NoRuntime,              "PreLoader", StarterMessages::kNoRuntime.key, StarterMessages::kNoRuntime.swedish},
-    {Message::ExeDamaged,             "PreLoader", SelfExtractMessages::kDamaged.key, SelfExtractMessages::kDamaged.swedish},
-    {Message::ExeDiskFull,            "PreLoader", SelfExtractMessages::kDiskFull.key, SelfExtractMessages::kDiskFull.swedish},
-    {Message::ExeFailed,              "PreLoader", SelfExtractMessages::kFailed.key, SelfExtractMessages::kFailed.swedish},
-    {Message::ExeHelp,                "PreLoader", SelfExtractMessages::kHelp.key, SelfExtractMessages::kHelp.swedish},
-    {Message::ExeNoFolder,            "PreLoader", SelfExtractMessages::kNoFolder.key, SelfExtractMessages::kNoFolder.swedish},
+    {Message::Extract,                kStarterSection, StarterMessages::kExtract.key, StarterMessages::kExtract.swedish},
+    {Message::NoRuntime,              kStarterSection, StarterMessages::kNoRuntime.key, StarterMessages::kNoRuntime.swedish},
+    {Message::ExeDamaged,             kStarterSection, SelfExtractMessages::kDamaged.key, SelfExtractMessages::kDamaged.swedish},
+    {Message::ExeDiskFull,            kStarterSection, SelfExtractMessages::kDiskFull.key, SelfExtractMessages::kDiskFull.swedish},
+    {Message::ExeFailed,              kStarterSection, SelfExtractMessages::kFailed.key, SelfExtractMessages::kFailed.swedish},
+    {Message::ExeHelp,                kStarterSection, SelfExtractMessages::kHelp.key, SelfExtractMessages::kHelp.swedish},
+    {Message::ExeNoFolder,            kStarterSection, SelfExtractMessages::kNoFolder.key, SelfExtractMessages::kNoFolder.swedish},
     {Message::Title,                  "Setup",     "Title",                   "Installation av %1"},
     {Message::Checking,               "Setup",     "Msg_Checking",            "Kontrollerar installationsfilerna..."},
     {Message::Copying,                "Setup",     "Msg_Copying",             "Kopierar filer..."},

@@ -15,7 +15,7 @@ struct NetVersion {
     auto operator<=>(const NetVersion&) const = default;
 };
 
-/// The newest one that the registry tells of.
+/// The newest one that the registry has.
 std::optional<NetVersion> InstalledNetFramework(const Target& target);
 
 struct NetTest {

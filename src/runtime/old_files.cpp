@@ -61,7 +61,7 @@ std::optional<Reason> ReasonToStay(const EarlierFiles& earlier, const Text& path
         return Reason{Message::SkipUnknownContent};
     if (LeadsThroughLink(earlier, path))
         return Reason{Message::ReasonLinkInPath};
-    // Of these the system knows more than their contents; the uninstaller tells it that they go.
+    // Of these the system knows more than their contents; the uninstaller takes that back too.
     const InstallJournal& record = earlier.record;
     if (CountOfUsers(earlier.target, path) || record.Has<record::Shared>(path) ||
         record.Has<record::Registered>(path) || record.Has<record::Font>(path))
@@ -193,7 +193,7 @@ void OldFiles::NoteFolders(const Text& path)
 
 void OldFiles::RemoveFolders()
 {
-    // A folder stands behind the one that it is in.
+    // A folder comes after the one that it is in.
     for (auto folder = leaving_.rbegin(); folder != leaving_.rend(); ++folder)
         work_.transaction.RemoveFolderAtEnd(folder->second);
 }

@@ -17,7 +17,7 @@ struct EarlierRecord {
     KnownContents contents;
 };
 
-/// What the record of an earlier installation tells; nothing where there is none, or somebody with
+/// What the record of an earlier installation says; nothing where there is none, or somebody with
 /// fewer rights has made it.
 EarlierRecord ReadEarlierRecord(const FileSystem& files, const Target& target, const Text& path);
 

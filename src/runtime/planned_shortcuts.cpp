@@ -1,5 +1,6 @@
 #include "runtime/planned_shortcuts.h"
 
+#include "formats/icon_marker.h"
 #include "formats/runtime_programs.h"
 #include "formats/setup_names.h"
 #include "helpers/windows_path.h"
@@ -26,12 +27,6 @@ Places PlacesOf(const PlanInput& input)
 {
     const bool forAll = input.setup.project.ProgramGroup.ProgramGroup_AllUsers != kOff;
     return forAll && !input.target.Folder(TargetFolder::CommonPrograms).empty() ? kCommon : kOwn;
-}
-
-bool HasIcon(const InstallRow& row)
-{
-    const Text word = UpperCase(row.iconMarker.substr(0, 4));
-    return word == "IKON" || word == "ICON";
 }
 
 // The program that shows a document, by the row's viewer code.
@@ -139,7 +134,7 @@ struct ShortcutPlaces {
 void AddShortcuts(const ShortcutPlaces& where, const PlannedFile& file,
                   std::vector<PlannedShortcut>& shortcuts)
 {
-    if (!HasIcon(*file.row))
+    if (!HasIconMarker(file.row->iconMarker))
         return;
     const Shortcut shortcut = ShortcutOf(where.input, file);
     const Text title =

@@ -1,5 +1,7 @@
 #include "runtime/protected_keys.h"
 
+#include "helpers/number_text.h"
+
 #include <algorithm>
 #include <cctype>
 #include <span>
@@ -232,9 +234,7 @@ void UseCurrentControlSet(Parts& key)
 {
     const Text name = key.size() > 1 ? UpperCase(key[1]) : Text();
     constexpr std::string_view kSet = "CONTROLSET";
-    if (name.starts_with(kSet) && name.size() > kSet.size() &&
-        std::all_of(name.begin() + kSet.size(), name.end(),
-                    [](unsigned char c) { return std::isdigit(c) != 0; }))
+    if (name.starts_with(kSet) && IsDigits(std::string_view(name).substr(kSet.size())))
         key[1] = "CurrentControlSet";
 }
 

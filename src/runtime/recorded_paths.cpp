@@ -82,7 +82,7 @@ void RecordedPaths::FindWhatGoes()
              CountOfUsers(target_, path).value_or(0) == 1) ||
             (std::holds_alternative<record::Replaced>(records_[i]) && !KeepsReplaced(i));
         if (goes && !IsShared(path))
-            goes_.insert(LowerCase(path));
+            removed_.insert(LowerCase(path));
     }
 }
 

@@ -28,7 +28,7 @@ public:
     /// The same for the sake of others alone: the file was in the Windows folder before us.
     bool WasInWindows(std::size_t index) const;
     /// Whether the file is still there after us, so that what the system knows of it has to stay.
-    bool StaysBehind(const Text& path) const { return goes_.count(LowerCase(path)) == 0; }
+    bool Stays(const Text& path) const { return removed_.count(LowerCase(path)) == 0; }
 
     /// Replacements that still wait for the machine's next start.
     const std::vector<record::AtRestart>& Pending() const { return pending_; }
@@ -51,7 +51,7 @@ private:
     bool HasLinkInPath(const Text& folder) const;
 
     // The first backup of a path holds what was there before the product; once it is back, the
-    // records after it tell of nothing that is left.
+    // records after it name nothing that is left.
     struct FirstBackup {
         std::size_t index;
         bool exists;
@@ -68,7 +68,7 @@ private:
     std::set<std::size_t> waiting_; // Replaced records of what has not been replaced yet
     std::set<Text> counted_;
     std::set<Text> toRelease_;
-    std::set<Text> goes_;
+    std::set<Text> removed_;
     std::vector<record::AtRestart> pending_;
     mutable std::map<Text, bool> links_;
 };

@@ -36,7 +36,7 @@ std::string_view TakeLine(std::string_view& rest)
     return line;
 }
 
-// A tab, a line break and the percent sign stand as two digits behind a percent sign.
+// A tab, a line break and the percent sign stand as two digits after a percent sign.
 bool Unescape(std::string_view text, char* to, std::size_t room)
 {
     std::size_t length = 0;

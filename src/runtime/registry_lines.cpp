@@ -34,8 +34,7 @@ bool ReadNumber(std::string_view text, std::uint32_t& number)
 {
     const bool plus = !text.empty() && text[0] == '+';
     const std::string_view digits = text.substr(plus || text.substr(0, 1) == "-" ? 1 : 0);
-    const auto isDigit = [](unsigned char c) { return std::isdigit(c) != 0; };
-    if (digits.empty() || !std::all_of(digits.begin(), digits.end(), isDigit))
+    if (!IsDigits(digits))
         return false;
     const std::int64_t value = LeadingNumber(plus ? digits : text);
     number = static_cast<std::uint32_t>(value);

@@ -49,7 +49,7 @@ private:
     const Target& target_;
     const RecordedPaths paths_;
     const RegistryKey entry_;
-    std::set<Text> goes_; // in lower case
+    std::set<Text> removed_; // in lower case
 };
 
 void RemovalList::AddFileOf(const JournalRecord& record)
@@ -58,23 +58,23 @@ void RemovalList::AddFileOf(const JournalRecord& record)
                         std::holds_alternative<record::Replaced>(record) ||
                         std::holds_alternative<record::Shared>(record);
     const Text path = SubjectOf(record);
-    if (isFile && !paths_.StaysBehind(path) && !paths_.WhyOutOfReach(path))
+    if (isFile && !paths_.Stays(path) && !paths_.WhyOutOfReach(path))
         AddFile(path, removal.files);
 }
 
 void RemovalList::AddFile(const Text& path, std::vector<Text>& to)
 {
-    if (files_.FileExists(path) && goes_.insert(LowerCase(path)).second)
+    if (files_.FileExists(path) && removed_.insert(LowerCase(path)).second)
         to.push_back(path);
 }
 
-// From the inner ones outwards; they are told in the order of the record.
+// From the inner ones outwards; they are listed in the order of the record.
 void RemovalList::AddFolders()
 {
     std::vector<Text> found;
     for (auto record = product_.records.rbegin(); record != product_.records.rend(); ++record)
         if (const auto* const folder = std::get_if<record::Folder>(&*record);
-            folder && GoesEmpty(folder->path) && goes_.insert(LowerCase(folder->path)).second)
+            folder && GoesEmpty(folder->path) && removed_.insert(LowerCase(folder->path)).second)
             found.push_back(folder->path);
     removal.folders.assign(found.rbegin(), found.rend());
 }
@@ -85,7 +85,7 @@ bool RemovalList::GoesEmpty(const Text& folder) const
         return false;
     const std::vector<FolderEntry> entries = files_.List(folder);
     return std::all_of(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
-        return goes_.count(LowerCase(JoinPath(folder, entry.name))) > 0;
+        return removed_.count(LowerCase(JoinPath(folder, entry.name))) > 0;
     });
 }
 

@@ -1,4 +1,4 @@
-// What the self-extractor tells, by its keys of the language file, and in Swedish for a program
+// The texts of the self-extractor, by its keys of the language file, and in Swedish for a program
 // whose project's language file lacks them. The program carries these texts alone.
 #pragma once
 

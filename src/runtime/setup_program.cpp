@@ -158,7 +158,7 @@ SetupCheck SetupProgram::Checked()
     return {input_, package_, ask_, log_, scope_};
 }
 
-// What only the package can tell the meaning of.
+// What only the package can give a meaning to.
 void SetupProgram::TakeSwitches()
 {
     choices_.programGroup = input_.switches.programGroup;

@@ -46,7 +46,7 @@ struct SetupEnd {
     LogFiles logs = {}; // that were written, for `LogRefusedRestart`
 };
 
-/// Installs, and tells the user and the log what went wrong.
+/// Installs, and reports to the user and the log what went wrong.
 SetupEnd RunSetup(const SetupInput& input, const LoadedPackage& package);
 
 } // namespace quillon

@@ -1,5 +1,6 @@
 #include "runtime/setup_variables.h"
 
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "runtime/switches.h"
 
@@ -89,8 +90,8 @@ void SetMainFolder(SetupVariables& variables, const VariableSources& sources)
     variables.Set(Meaning::MainFolderDrive, DriveOf(folder));
 }
 
-// A component's folder may be told by variables, as an absolute path, or as a folder below the main
-// one; a component without a folder goes to the main one.
+// A component's folder may be given by variables, as an absolute path, or as a folder below the
+// main one; a component without a folder goes to the main one.
 void SetComponentFolders(SetupVariables& variables, const VariableSources& sources)
 {
     const Text mainFolder = variables.Value(NameOf(Meaning::MainFolder));
@@ -173,7 +174,7 @@ SetupVariables MakeSetupVariables(const VariableSources& sources)
                   PrivateVariableValue(sources.host.machine, own.Reg2));
     variables.Set(NameOf(Meaning::OwnVariable, 3),
                   PrivateVariableValue(sources.host.machine, own.Reg3));
-    // The main folder may be told by any of the variables so far, the components' folders by it.
+    // The main folder may be given by any of the variables so far, the components' folders by it.
     SetMainFolder(variables, sources);
     SetComponentFolders(variables, sources);
     return variables;

@@ -1,6 +1,7 @@
 #include "runtime/start_uninstaller.h"
 
 #include "formats/runtime_programs.h"
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "runtime/uninstall_entry.h"
 

@@ -1,13 +1,14 @@
 #include "runtime/starter_text.h"
 
+#include "formats/package_files.h"
 #include "helpers/utf8.h"
+#include "runtime/starter_messages.h"
 
 namespace quillon {
 
 namespace {
 
-constexpr std::string_view kSection = "PreLoader";
-constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
+constexpr std::string_view kSection = kStarterSection;
 constexpr std::string_view kUtf16Bom = "\xFF\xFE";
 constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
 // Longer than a key, its text and the blanks round them; what follows it is not looked at.

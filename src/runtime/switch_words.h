@@ -4,7 +4,7 @@
 // A switch begins with a slash or a dash, and its value with '=' or ':'. Blanks and tabs part
 // switches, but not inside quotation marks, which may stand around a value or around a switch as a
 // whole: "/D=C:\My Folder" is what shells and launchers make of a blank. The folder of /D= needs
-// none: it goes on to the next switch, a slash, or a dash with a letter behind it.
+// none: it goes on to the next switch, a slash, or a dash with a letter after it.
 #pragma once
 
 namespace quillon {
@@ -12,7 +12,7 @@ namespace quillon {
 // All words for "show nothing"; deployment tools have one each.
 inline constexpr const char* kSilentWords[] = {"S", "SILENT", "VERYSILENT", "QUIET", "Q", "QN"};
 
-// How the starters tell the program proper where the package is, and that it is to be the
+// How the starters hand down to the program proper where the package is, and that it is to be the
 // uninstaller of the program that is the value.
 inline constexpr const char* kPackageSwitch = "PACKAGE";
 inline constexpr const char* kUninstallerSwitch = "UNINSTALLER";

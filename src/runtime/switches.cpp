@@ -1,6 +1,7 @@
 #include "runtime/switches.h"
 
 #include "formats/setup_names.h"
+#include "helpers/drive_path.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
@@ -219,13 +220,6 @@ bool SetSwitch(Switches& switches, std::string_view name, const Text& value)
 ExitCode CodeToEndWith(ExitCode code, const Switches& switches)
 {
     return code == ExitCode::RestartNeeded ? switches.restartCode : code;
-}
-
-bool IsAbsolutePath(std::string_view path)
-{
-    if (path.size() >= 3 && path[1] == ':' && path[2] == '\\')
-        return std::isalpha(static_cast<unsigned char>(path[0])) != 0;
-    return path.size() > 2 && path.substr(0, 2) == "\\\\" && path[2] != '\\';
 }
 
 Switches ReadSwitches(std::string_view commandLine)

@@ -77,7 +77,4 @@ struct UninstallerCommand {
 /// and nothing to unpack.
 UninstallerCommand ReadUninstallerCommand(std::string_view commandLine);
 
-/// Drive and folder, or a network path: a folder that means the same wherever the setup is started.
-bool IsAbsolutePath(std::string_view path);
-
 } // namespace quillon

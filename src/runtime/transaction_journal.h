@@ -17,6 +17,15 @@
 // - The journal can't lie in a folder that the installation has yet to make. It is in the deepest
 //   one that is there, and is looked for in the main folder and in each folder above it.
 //
+// What was considered and rejected:
+//
+// - Transactional NTFS: not on Windows XP, FAT or network drives, and deprecated since.
+// - Copies of the former files in one backup folder: they need their room twice, on a disk that may
+//   lack it, and coming back is another copy, which can fail for the same reason.
+// - A line after each change: a kill between the two leaves a change that nothing names.
+// - A snapshot of the registry's keys (RegSaveKey): it needs a privilege, takes whole branches, and
+//   bringing one back undoes what other programs have written meanwhile.
+//
 // The lines are forced to the disk at the commit alone: they protect from a killed program, not
 // from a power failure in the middle.
 #pragma once

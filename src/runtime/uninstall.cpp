@@ -56,7 +56,7 @@ private:
         if (IsInReach(line.path))
             UndoStartupLine({files_, input_.target}, line);
     }
-    // What tells of the product or belongs to the installation alone. Folders and what waits for
+    // What names the product or belongs to the installation alone. Folders and what waits for
     // the machine's next start go last.
     template <class Record>
     void Undo(const Record&)
@@ -192,14 +192,14 @@ void Uninstallation::Undo(std::size_t index)
 
 void Uninstallation::Undo(const record::Font& font)
 {
-    if (!paths_.StaysBehind(font.path) && IsInReach(font.path))
+    if (!paths_.Stays(font.path) && IsInReach(font.path))
         input_.target.AnnounceFont(font.path, false);
 }
 
 void Uninstallation::Undo(const record::Registered& registered)
 {
     const Text& path = registered.path;
-    if (files_.FileExists(path) && !paths_.StaysBehind(path) && IsInReach(path))
+    if (files_.FileExists(path) && !paths_.Stays(path) && IsInReach(path))
         input_.target.RegisterServer(path, false);
 }
 
@@ -264,7 +264,7 @@ void Uninstallation::ReleaseSharedFiles()
 }
 
 // The product that goes last takes a shared file along. Where the count has been lost nobody knows
-// who is last, and only a file of our own goes, by its own record. The count goes behind the file,
+// who is last, and only a file of our own goes, by its own record. The count goes after the file,
 // so that it is still known where that fails.
 void Uninstallation::RemoveSharedFile(const Text& path)
 {

@@ -8,25 +8,25 @@ namespace quillon {
 
 namespace {
 
-const section::Version& VersionData(const EntryFacts& facts)
+const section::Version& VersionData(const EntryContext& entry)
 {
-    return facts.input.setup.project.Version;
+    return entry.input.setup.project.Version;
 }
 
-const Text& ProductOf(const EntryFacts& facts)
+const Text& ProductOf(const EntryContext& entry)
 {
-    return facts.input.setup.project.ProjectName.ProjectName;
+    return entry.input.setup.project.ProjectName.ProjectName;
 }
 
-Text ShownName(const EntryFacts& facts)
+Text ShownName(const EntryContext& entry)
 {
-    const Text& name = VersionData(facts).ProductName;
-    return name.empty() ? ProductOf(facts) : name;
+    const Text& name = VersionData(entry).ProductName;
+    return name.empty() ? ProductOf(entry) : name;
 }
 
-Text Command(const EntryFacts& facts)
+Text Command(const EntryContext& entry)
 {
-    const InstallPlan& plan = facts.input.plan;
+    const InstallPlan& plan = entry.input.plan;
     return "\"" + UninstallerPath(plan.mainFolder) + "\" \"" + plan.installJournal + "\"";
 }
 
@@ -37,14 +37,14 @@ Text CompactDate(const LocalTime& time)
 }
 
 // The list counts in kilobytes; what is larger than it can count is as much as it can.
-RegistryData Kilobytes(const EntryFacts& facts)
+RegistryData Kilobytes(const EntryContext& entry)
 {
     constexpr std::uint64_t kMax = 0xFFFFFFFF;
     return NumberData(
-        static_cast<std::uint32_t>(std::min((facts.installedBytes + 1023) / 1024, kMax)));
+        static_cast<std::uint32_t>(std::min((entry.installedBytes + 1023) / 1024, kMax)));
 }
 
-RegistryData One(const EntryFacts&)
+RegistryData One(const EntryContext&)
 {
     return NumberData(1);
 }
@@ -52,14 +52,14 @@ RegistryData One(const EntryFacts&)
 // A project names no address of its maker, so there is none to show.
 // clang-format off
 constexpr EntryValue kValues[] = {
-    {"DisplayName",          [](const EntryFacts& facts) { return TextData(ShownName(facts)); }},
-    {"DisplayVersion",       [](const EntryFacts& facts) { return TextData(VersionOf(facts.input.setup)); }},
-    {"Publisher",            [](const EntryFacts& facts) { return TextData(VersionData(facts).CompanyName); }},
-    {"UninstallString",      [](const EntryFacts& facts) { return TextData(Command(facts)); }},
-    {"QuietUninstallString", [](const EntryFacts& facts) { return TextData(Command(facts) + " /S"); }},
-    {"InstallLocation",      [](const EntryFacts& facts) { return TextData(facts.input.plan.mainFolder); }},
-    {"DisplayIcon",          [](const EntryFacts& facts) { return TextData(UninstallerPath(facts.input.plan.mainFolder)); }},
-    {"InstallDate",          [](const EntryFacts& facts) { return TextData(CompactDate(facts.input.host.machine.Now())); }},
+    {"DisplayName",          [](const EntryContext& entry) { return TextData(ShownName(entry)); }},
+    {"DisplayVersion",       [](const EntryContext& entry) { return TextData(VersionOf(entry.input.setup)); }},
+    {"Publisher",            [](const EntryContext& entry) { return TextData(VersionData(entry).CompanyName); }},
+    {"UninstallString",      [](const EntryContext& entry) { return TextData(Command(entry)); }},
+    {"QuietUninstallString", [](const EntryContext& entry) { return TextData(Command(entry) + " /S"); }},
+    {"InstallLocation",      [](const EntryContext& entry) { return TextData(entry.input.plan.mainFolder); }},
+    {"DisplayIcon",          [](const EntryContext& entry) { return TextData(UninstallerPath(entry.input.plan.mainFolder)); }},
+    {"InstallDate",          [](const EntryContext& entry) { return TextData(CompactDate(entry.input.host.machine.Now())); }},
     {"EstimatedSize",        Kilobytes},
     {"NoModify",             One},
     {"NoRepair",             One},
@@ -86,12 +86,12 @@ std::span<const EntryValue> UninstallEntryValues()
     return kValues;
 }
 
-void WriteUninstallEntry(const EntryFacts& facts, InstallTransaction& transaction)
+void WriteUninstallEntry(const EntryContext& entry, InstallTransaction& transaction)
 {
-    const RegistryKey key = UninstallEntryKey(ProductOf(facts), facts.input.plan.scope);
+    const RegistryKey key = UninstallEntryKey(ProductOf(entry), entry.input.plan.scope);
     const RegistryData none = TextData("");
     for (const EntryValue& value : kValues)
-        if (const RegistryData data = value.data(facts); data == none)
+        if (const RegistryData data = value.data(entry); data == none)
             transaction.RemoveValue(key, value.name);
         else
             transaction.WriteValue(key, value.name, data);

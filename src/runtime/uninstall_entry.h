@@ -19,7 +19,7 @@ RegistryKey RecordedUninstallEntry(const Text& product, const std::vector<Journa
 /// What the user knows as the product's version: that of its program, before the project's own.
 const Text& VersionOf(const SetupInformation& setup);
 
-struct EntryFacts {
+struct EntryContext {
     const InstallInput& input;
     std::uint64_t installedBytes; // of the product's files
 };
@@ -27,12 +27,12 @@ struct EntryFacts {
 struct EntryValue {
     const char* name;
     /// An empty text: the product has none, and the key has no such value.
-    RegistryData (*data)(const EntryFacts& facts);
+    RegistryData (*data)(const EntryContext& entry);
 };
 
 std::span<const EntryValue> UninstallEntryValues();
 
 /// The entry of an earlier version is written over; what that had and this one lacks goes.
-void WriteUninstallEntry(const EntryFacts& facts, InstallTransaction& transaction);
+void WriteUninstallEntry(const EntryContext& entry, InstallTransaction& transaction);
 
 } // namespace quillon

@@ -32,7 +32,7 @@ void UninstallProgram::Prepare()
     FileSystem& files = input_.host.files;
     const Machine& machine = input_.host.machine;
     OpenLogs(log_, files, machine, LogFilesOf(GivenSwitches(), files, machine, "QNXUNIN"), Texts());
-    // A run that is refused, or only tells something, changes nothing.
+    // A run that is refused, or only informs, changes nothing.
     if (GivenSwitches().badSwitch || input_.otherSetupRuns || OnlyShowsInformation())
         return;
     // A setup that was killed is brought to its end first, so that the log says what is there.

@@ -41,13 +41,13 @@ public:
     const LanguageTexts& Texts() const { return texts_; }
     Text Title() const;
     ExitCode Run(Ask& ask, UninstallView& view, RunningProgram* running);
-    /// After a failure was thrown: ends the logs, and gives what the user is to be told.
+    /// After a failure was thrown: ends the logs, and gives what the user is to be shown.
     Text Fail(const std::exception& error);
 
 private:
     struct Refusal {
         ExitCode code;
-        Text text; // empty: there is nothing to tell
+        Text text; // empty: there is nothing to show
     };
     void FindProduct();
     void FinishEarlierSetup(const Text& mainFolder);

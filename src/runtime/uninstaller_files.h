@@ -16,7 +16,7 @@ class InstallTransaction;
 std::array<Text, 2> FilesOfUninstaller(const Text& mainFolder);
 
 /// Puts all three from the folder with the package's programs into their places. They go last and
-/// by themselves, and stay where another product needs them, so the record does not tell of them.
+/// by themselves, and stay where another product needs them, so the record does not name them.
 void PutUninstallerFiles(FileSystem& files, const Text& helpersFolder, const Text& mainFolder,
                          InstallTransaction& transaction);
 

@@ -23,8 +23,8 @@ enum class SaveEnd {
 
 /// Saves the project in the file that `ProjectFileName` names. A file that the project does not
 /// hold whole, because it was refused or read in part only, is kept beside it first, and a box
-/// tells under which name. Throws when the file can't be written, 55 when another program is about
-/// to change it and the call doesn't wait; the project then still counts as changed.
+/// reports under which name. Throws when the file can't be written, 55 when another program is
+/// about to change it and the call doesn't wait; the project then still counts as changed.
 SaveEnd SaveProject(Session& session, LockWait wait = LockWait::None);
 
 /// Puts the project's file in front of the recent files.

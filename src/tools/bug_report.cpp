@@ -2,6 +2,7 @@
 
 #include "helpers/ansi_text.h"
 #include "helpers/product.h"
+#include "helpers/utf8.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
@@ -35,7 +36,6 @@ constexpr const char* kVirusTest[] = {"Ja - inga virus funna", "Ja - ett virus h
 
 constexpr int kPageOfSystems = 2;
 constexpr std::size_t kRuleLength = 111;
-constexpr const char* kUtf8Bom = "\xEF\xBB\xBF";
 constexpr std::size_t kFirstLineOfDiagnosis = 6;
 constexpr std::size_t kSecondLineOfDiagnosis = 8;
 
@@ -209,7 +209,7 @@ void WriteBugReport(const BugReportAnswers& answers, Project& project,
         throw RunError(ErrorNumber::kPathNotFound, folder);
     // Names with letters that Windows-1252 lacks would come out as question marks.
     WriteWholeFile(host.files, BugReportFile(ownFolder),
-                   AnsiText::Holds(text) ? AnsiText::ToBytes(text) : kUtf8Bom + text);
+                   AnsiText::Holds(text) ? AnsiText::ToBytes(text) : Text(kUtf8Bom) + text);
     if (state.ProjectFileName != kUnsavedProjectName)
         WriteProjectFile(project, JoinPath(folder, ProjectTitle(state.ProjectFileName)), host, ask);
 }

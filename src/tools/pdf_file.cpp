@@ -25,7 +25,7 @@ cairo_status_t Append(void* bytes, const unsigned char* data, unsigned length)
     return CAIRO_STATUS_SUCCESS;
 }
 
-void DrawText(cairo_t* context, PdfFonts& fonts, const PrintedText& printed)
+void PaintText(cairo_t* context, PdfFonts& fonts, const PrintedText& printed)
 {
     cairo_set_font_face(context, fonts.Usual(printed.bold));
     // Points, on a page that is measured in millimetres.
@@ -50,7 +50,7 @@ void DrawRule(cairo_t* context, const PrintedRule& rule)
 void DrawPage(cairo_t* context, PdfFonts& fonts, const PrintedPage& page)
 {
     for (const PrintedText& text : page.texts)
-        DrawText(context, fonts, text);
+        PaintText(context, fonts, text);
     for (const PrintedRule& rule : page.rules)
         DrawRule(context, rule);
     cairo_show_page(context);

@@ -3,6 +3,7 @@
 #include "formats/row_safety.h"
 #include "helpers/ansi_text.h"
 #include "helpers/drive_path.h"
+#include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/volume_name.h"
@@ -70,8 +71,8 @@ Text ParentOf(const Text& folder)
     return folder.size() <= 3 ? Text() : ExtractDirectory(RemoveLastBackslash(folder));
 }
 
-/// Fills an item of the tree when the view opens it, and tells the view that a folder not looked
-/// into yet may have folders.
+/// Fills an item of the tree when the view opens it, and reports to the view that a folder not
+/// looked into yet may have folders.
 class FolderTree : public QStandardItemModel {
 public:
     explicit FolderTree(QObject* parent) : QStandardItemModel(parent) {}
@@ -256,7 +257,7 @@ bool SelectDir::MayClose()
     const Text folder = TypedFolder();
     if (CharacterCount(folder) > kMaxPathBytes)
         return Refuse("Ogiltig katalog", "Katalogen '" + folder + "' är längre än " +
-                                             std::to_string(kMaxPathBytes) +
+                                             NumberText(kMaxPathBytes) +
                                              " tecken! Välj en annan katalog.");
     // "C:Data" has no place that is the same for everybody.
     const bool isWhole = folder.size() > 2 && folder[2] == '\\';

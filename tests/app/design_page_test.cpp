@@ -169,12 +169,12 @@ TEST_F(DesignPageTest, TellsOnceOfAPictureThatIsNoneAndKeepsItsName)
     const QImage shown = Shown();
     EXPECT_EQ(shown.pixel(0, 0), kRedPixel);
     EXPECT_EQ(shown.pixel(shown.width() - 1, 0), kBluePixel);
-    // Each project that is opened is told of, the same one too.
+    // Each project that is opened is reported, the same one too.
     ask.Expect(told);
     page.BeginProject();
     page.ShowSession();
     page.Screen().DrawDesAll();
-    // One that is whole again in between is told of when it fails anew.
+    // One that is whole again in between is reported when it fails anew.
     PutPicture("C:\\bild.bmp", TwoColours(4, 4));
     page.Screen().DrawDesBackground();
     machine.files.Put("C:\\bild.bmp", "no picture at all");

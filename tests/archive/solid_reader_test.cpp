@@ -171,7 +171,7 @@ TEST(SolidReader, ReadsASignedProgram)
     EXPECT_FALSE(Refusal(bytes));
     BytesInput input(bytes);
     EXPECT_TRUE(HasSolidPayload(input));
-    // A table of certificates with something behind it is none.
+    // A table of certificates with something after it is none.
     EXPECT_EQ(Refusal(bytes + "x"), SolidError::Kind::Damaged);
     std::string changed = bytes;
     changed[changed.size() - 80] ^= 1;

@@ -17,8 +17,8 @@ namespace {
 constexpr Medium kAnyMedium{};
 const Text kSystemFolder = "c:\\windows\\system32\\";
 
-// A way in which Create is stopped before it begins, and the box that tells it. Cases of one check
-// are in its own order of questions.
+// A way in which Create is stopped before it begins, and the box that reports it. Cases of one
+// check are in its own order of questions.
 struct Refusal {
     const char* name;
     int check;

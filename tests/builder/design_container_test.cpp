@@ -132,7 +132,7 @@ TEST_F(DesignContainer, ChecksEveryObjectButTheText)
     }
 }
 
-// Kept: neither a missing text nor a failed container is told in a line.
+// Kept: neither a missing text nor a failed container is reported in a line.
 TEST_F(DesignContainer, GoesOnAfterAFailureThatItDoesNotTell)
 {
     desk.machine.files.RemoveFile("C:\\Quillon\\rtf\\text.rtf");

@@ -59,7 +59,7 @@ class TrickyFiles : public MemoryFiles {
 public:
     using Open = std::function<std::unique_ptr<InputFile>()>;
 
-    /// `size` is what the folder tells about the file.
+    /// `size` is what the folder says about the file.
     void PutTricky(const Text& path, std::uint64_t size, Open open)
     {
         Put(path, "");

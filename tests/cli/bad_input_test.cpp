@@ -1,4 +1,4 @@
-// What users hand over by mistake, and machines by bad luck: each case tells its message, its exit
+// What users hand over by mistake, and machines by bad luck: each case has its message, its exit
 // code and what is left on disk.
 #include "workshop.h"
 

@@ -25,7 +25,7 @@ protected:
     /// The call is done and leaves the project as it is.
     void ExpectUntouched(const std::vector<std::string>& words) const;
 
-    /// The project as `quillonc show` tells it.
+    /// The project as `quillonc show` prints it.
     Json Show() const;
     /// Column `column` of each row.
     std::vector<std::string> Rows(std::size_t column) const;

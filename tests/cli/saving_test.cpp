@@ -228,7 +228,7 @@ TEST_F(Saving, TellsThatAFileMayNotBecomeSoLarge)
 
 TEST_F(Saving, TellsWhatEndedItFromOutside)
 {
-    // It waits for the lock, which the shell has, until it is told to end.
+    // It waits for the lock, which the shell has, until it gets the signal to end.
     const std::string command = "exec 9> '" + project + ".lock'; flock 9; '" QUILLONC "' set '" +
                                 project + "' Version.Comments=x 9>&- 2> '" + disk.Path("err") +
                                 "' & call=$!; until grep -q 'väntar' '" + disk.Path("err") +

@@ -1,4 +1,4 @@
-// quillonc set reaches every key of the setup's screen, and show tells it.
+// quillonc set reaches every key of the setup's screen, and show prints it.
 #include "edit_workshop.h"
 
 #include "project/design_keys.h"

@@ -45,7 +45,7 @@ TEST_F(FontLettersTest, HasOneAdvanceForEachCodePoint)
 TEST_F(FontLettersTest, DrawsInsideTheFontsHeight)
 {
     const FontHeight height = letters.Height(sans);
-    // What the font tells Windows: 1901 above the baseline and 483 below it, of 2048.
+    // What the font gives Windows: 1901 above the baseline and 483 below it, of 2048.
     EXPECT_EQ(height.ascent, 37);
     EXPECT_EQ(height.descent, 9);
     const LetterMask mask = Drawn(sans, "Ågj");

@@ -18,7 +18,7 @@ std::map<Text, Text> ValuesByName(Project& project, const Host& host)
     return values;
 }
 
-// A machine that tells all its folders in capitals.
+// A machine that gives all its folders in capitals.
 class LoudMachine : public FixedMachine {
 public:
     Text GetSysAppDataDirectory() const override { return "C:\\DATA\\ROAMING"; }

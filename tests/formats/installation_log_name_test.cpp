@@ -1,23 +1,23 @@
-#include "formats/installation_log_name.h"
+#include "formats/install_journal_name.h"
 
 #include <gtest/gtest.h>
 
 namespace quillon {
 
-TEST(InstallationLogName, CountsTheProductsOfAFolder)
+TEST(InstallJournalName, CountsTheProductsOfAFolder)
 {
-    EXPECT_EQ(InstallationLogName(1), "QNXUNIN.LOG");
-    EXPECT_EQ(InstallationLogName(2), "QNXUNIN2.LOG");
-    EXPECT_EQ(InstallationLogName(12), "QNXUNIN12.LOG");
+    EXPECT_EQ(InstallJournalName(1), "QNXUNIN.LOG");
+    EXPECT_EQ(InstallJournalName(2), "QNXUNIN2.LOG");
+    EXPECT_EQ(InstallJournalName(12), "QNXUNIN12.LOG");
 }
 
-TEST(InstallationLogName, IsKnownAgain)
+TEST(InstallJournalName, IsKnownAgain)
 {
     for (const char* name : {"QNXUNIN.LOG", "qnxunin2.log", "QnxUnin12.Log"})
-        EXPECT_TRUE(IsInstallationLogName(name)) << name;
+        EXPECT_TRUE(IsInstallJournalName(name)) << name;
     for (const char* name : {"QNXUNIN.EXE", "QNXUNIN", "QNXUNI.LOG", "XQNXUNIN.LOG",
                              "QNXUNIN.LOG.bak", "QNXUNIN.A.LOG", "QNXUNIN.LOGG", "QNXUNINLOG", ""})
-        EXPECT_FALSE(IsInstallationLogName(name)) << name;
+        EXPECT_FALSE(IsInstallJournalName(name)) << name;
 }
 
 } // namespace quillon

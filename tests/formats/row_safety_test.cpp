@@ -96,7 +96,7 @@ TEST(UnknownVariableIn, FindsWordsThatTheSetupLeavesAsTheyStand)
         {"%DESTDIR\\50%A", ""},
         {"%DESTDIR\\50%OFF", "%OFF"},
         {"%DESTDIR\\%date", ""},
-        {"%DATEX", ""}, // expanded, with an X behind
+        {"%DATEX", ""}, // expanded, with an X after it
         {"%COMPDIR\\%COMPDIR1", "%COMPDIR"},
     };
     for (const auto& [destination, word] : cases)

@@ -207,7 +207,7 @@ TEST_F(DependencyFile, ObeysTheFilterOfTheImporters)
 
 TEST_F(DependencyFile, PassesAFileWithoutTheSectionWithoutAWord)
 {
-    // Kept: the walk counts its gaps before it ends, so nothing is ever told of.
+    // Kept: the walk counts its gaps before it ends, so nothing is ever reported.
     for (const std::string file :
          {"", "[other.ocx]\r\nUses1=a.dll\r\n", "[main.ocx]\r\n", "Uses1=a.dll\r\n", "\0\x1A\xFF[",
           "[main.ocx]\r\nUse1=a.dll\r\nUses01=a.dll\r\nUses 1=a.dll\r\n"})

@@ -63,7 +63,7 @@ TEST(DecodeJpeg, LooksAsInAnotherProgram)
 
 TEST(DecodeJpeg, TurnsThePictureAsItWasHeld)
 {
-    // Bright in one corner only, which tells all eight apart.
+    // Bright in one corner only, which distinguishes all eight.
     for (const auto& [orientation, isRight, isBottom] : {std::tuple{1, false, false},
                                                          {2, true, false},
                                                          {3, true, true},

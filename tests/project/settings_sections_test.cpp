@@ -447,7 +447,7 @@ TEST(Texts, OfSeveralLinesComeBackWithTheirBreaks)
     const std::pair<const char*, const char*> kTexts[] = {
         {"a\r\nb", "a\r\nb"},
         {"\r\n\r\n", "\r\n\r\n"},
-        {"a\rbc", "a\r\nc"}, // a lone CR eats the character behind it
+        {"a\rbc", "a\r\nc"}, // a lone CR eats the character after it
         {"a\xC2\x9D"
          "bc",
          "a\r\nc"},    // so does a byte 157 of the text itself

@@ -10,7 +10,7 @@
 namespace quillon {
 namespace {
 
-// What comes out, and by which threads; fails at a write when told to.
+// What comes out, and by which threads; fails at a write where the test wants it.
 class RecordingOutput : public OutputFile {
 public:
     void Write(std::span<const std::byte> bytes) override

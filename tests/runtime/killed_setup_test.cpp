@@ -295,7 +295,7 @@ TEST_F(KilledSetup, LeavesWhatWaitsForTheNextStart)
     ASSERT_FALSE(target.movesAtRestart.empty());
     EXPECT_EQ(target.movesAtRestart[0].second, kMain + "\\a.dll");
     EXPECT_EQ(memory.files.Get(target.movesAtRestart[0].first), "old");
-    // The folder that it waited in goes behind it.
+    // The folder that it waited in goes after it.
     EXPECT_EQ(target.movesAtRestart.back(),
               std::pair(Text(ExtractDirectory(target.movesAtRestart[0].first)), Text()));
 }
@@ -319,7 +319,7 @@ TEST_F(KilledSetup, IsFoundFromAnotherMainFolder)
     EXPECT_FALSE(memory.files.FileExists("E:\\Annan\\~qnsetup.tmp"));
 }
 
-// The main folder that the list of programs tells may be anything.
+// The main folder that the list of programs names may be anything.
 TEST_F(KilledSetup, IsLookedForInNoFolderThatIsNone)
 {
     AddFile("prog.exe", "%DESTDIR", "program");

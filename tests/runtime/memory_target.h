@@ -59,7 +59,7 @@ public:
     std::vector<std::pair<Text, Text>> movesAtRestart;
     bool listsMovesAtRestart = false; // in its registry as well, as Windows does
     bool hasCommonFolders = true;
-    std::vector<Text> programsRun;    // a program, its arguments and " (hidden)" behind it
+    std::vector<Text> programsRun;    // a program, its arguments and " (hidden)" after it
     std::map<Text, int> programCodes; // 0 where not named
     /// How rights and attributes are copied, where the test's machine has any.
     std::function<void(const Text& from, const Text& to)> copyRights = [](auto&, auto&) {};

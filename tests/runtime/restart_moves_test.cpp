@@ -136,7 +136,7 @@ TEST_F(RestartMoves, StayWhereTheLaterSetupFails)
     EXPECT_EQ(memory.files.Get(target.movesAtRestart.at(0).first), "version 2");
 }
 
-// The next run clears away behind it, and that is part of it.
+// The next run clears that away, and that is part of it.
 TEST_F(RestartMoves, AreForgottenBehindASetupThatWasKilledAfterItsCommit)
 {
     InstallVersion("version 1");

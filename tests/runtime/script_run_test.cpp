@@ -264,7 +264,7 @@ TEST_F(ScriptTestOfSetup, EndsTheSetupWithTheScriptsOwnCodeAndText)
     EXPECT_EQ(Install(""), ExitCode(4711));
     EXPECT_THAT(Log(), HasSubstr("Avslutar med kod 4711: Exempel behöver en dongel."));
     EXPECT_EQ(State(), before);
-    // Without a text nobody is told anything.
+    // Without a text nothing is shown.
     project.Lists.RunScriptAfter = "EXIT 12";
     EXPECT_EQ(Install(""), ExitCode(12));
 }

@@ -58,9 +58,4 @@ inline auto Typing(PageField field, Text text)
     };
 }
 
-inline auto Pressing(PageField field)
-{
-    return [field](SetupPage& page, const PageListener& listener) { listener(page, field); };
-}
-
 } // namespace quillon::test

@@ -18,7 +18,7 @@ namespace quillon::test {
 /// The folder that the product goes to.
 inline const Text kMain = "C:\\Program\\Exempel";
 
-/// Files that pass everything on, and fail at one change when told to.
+/// Files that pass everything on, and fail at one change where the test wants it.
 class FailingFiles : public FileSystem {
 public:
     explicit FailingFiles(MemoryFiles& files) : files_(files) {}
@@ -165,8 +165,8 @@ protected:
     std::unique_ptr<InputFile> (*openHeld)(const Text& path) = nullptr;
     bool startsMachineAnew = false; // what Install has ended with beside its code,
     LogFiles logsWritten;           // and the logs of that run
-    std::vector<LeftBehind> left;   // what UninstallProduct has told to be there still
-    std::vector<Text> started;      // a file, and its arguments behind a blank
+    std::vector<LeftBehind> left;   // what UninstallProduct has listed as still there
+    std::vector<Text> started;      // a file, and its arguments after a blank
     int codeOfStarted = 0;          // of a program that is waited for
 };
 

@@ -29,7 +29,7 @@ protected:
 TEST_F(StartupFilesTest, GetTheLinesAtTheirEndAndLoseThemAgain)
 {
     memory.files.Put(kAutoexec, "@ECHO OFF\r\nPROMPT $P$G\r\n");
-    memory.files.Put(kConfig, "DEVICE=A"); // without a line break behind it
+    memory.files.Put(kConfig, "DEVICE=A"); // without a line break after it
     const MachineState before = State();
     EXPECT_EQ(Install(), ExitCode::Done) << Log();
     EXPECT_EQ(memory.files.Get(kAutoexec), "@ECHO OFF\r\nPROMPT $P$G\r\n" + Added());
@@ -66,7 +66,7 @@ TEST_F(StartupFilesTest, GetNoLineTwiceWhenInstalledTwice)
     EXPECT_EQ(Install(), ExitCode::Done);
     EXPECT_EQ(Install(), ExitCode::Done);
     EXPECT_EQ(memory.files.Get(kAutoexec), "@ECHO OFF\r\n" + Added());
-    // What somebody has added behind ours stays.
+    // What somebody has added after ours stays.
     memory.files.Put(kAutoexec, "@ECHO OFF\r\n" + Added() + "REM mitt\r\n");
     EXPECT_EQ(UninstallProduct(), ExitCode::Done);
     EXPECT_EQ(memory.files.Get(kAutoexec), "@ECHO OFF\r\nREM mitt\r\n");

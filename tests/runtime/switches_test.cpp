@@ -1,3 +1,4 @@
+#include "helpers/drive_path.h"
 #include "runtime/switches.h"
 
 #include "runtime/switch_words.h"

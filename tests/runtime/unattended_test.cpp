@@ -1,4 +1,4 @@
-// The setup as deployment tools run it: its switches, the codes it ends with, and what it tells
+// The setup as deployment tools run it: its switches, the codes it ends with, and what it reports
 // programs.
 #include "scripted_pages.h"
 #include "unattended_fixture.h"

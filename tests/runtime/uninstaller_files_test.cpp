@@ -34,7 +34,7 @@ TEST_F(UninstallerFilesTest, ComeTogetherAndGoTogether)
     ASSERT_EQ(Install(), ExitCode::Done) << Log();
     ExpectWhole("uninstaller", "setup");
     EXPECT_THAT(FilesOfUninstaller(kMain), ElementsAre(kSetup, kManifest));
-    // The record tells of none of them.
+    // The record names none of them.
     const auto records = ReadInstallJournal(memory.files.Get(kMain + "\\QNXUNIN.LOG"));
     for (const JournalRecord& record : records.value())
         EXPECT_NE(SubjectOf(record), kSetup);
@@ -76,7 +76,7 @@ TEST_F(UninstallerFilesTest, StayWhereAnotherProductNeedsThem)
         EXPECT_FALSE(memory.files.FileExists(path)) << path;
 }
 
-// Whoever starts it until then is told that the product is gone already.
+// Whoever starts it until then reads that the product is gone already.
 TEST_F(UninstallerFilesTest, GoAtTheNextStartWhereTheProgramCantGoBefore)
 {
     ASSERT_EQ(Install(), ExitCode::Done);

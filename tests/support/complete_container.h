@@ -33,7 +33,7 @@ inline std::string ContainerEnd(const std::string& packedIndex, ContainerTrailer
     return end.append(reinterpret_cast<const char*>(hash.data()), hash.size());
 }
 
-/// Puts the digests of the frames, which lie one behind the other, into the index.
+/// Puts the digests of the frames, which follow one another, into the index.
 inline std::string CompleteContainer(ContainerIndex index, const std::string& frames)
 {
     std::size_t at = 0;

@@ -11,7 +11,7 @@ struct IconPart {
     int side;
     QColor colour;
     bool isPng = false;
-    int bits = 32; // as the file's directory tells
+    int bits = 32; // as the file's directory says
 };
 
 namespace icon_file {

@@ -1,5 +1,5 @@
 // A user whose answers are laid ready. Every box that comes up must be the next one of the script,
-// by its title and, where the script tells one, by its text; a box that nobody expected fails the
+// by its title and, where the script has one, by its text; a box that nobody expected fails the
 // test, and so does one that never came.
 #pragma once
 

@@ -25,7 +25,7 @@ TEST_P(MessageBoxes, HaveButtonsInTheLanguageOfThePackage)
     fs::copy_file(TestProgramFolder() / "box_captions.exe", prefix.DriveC() / "boxes.exe");
     fs::copy_file(fs::path(QUILLON_SOURCE_FOLDER) / "resources" / "Language" / GetParam().file,
                   prefix.DriveC() / "language.lng");
-    // There is no screen, and Wine has to be told so, or it makes no window.
+    // There is no screen, and Wine has to know it, or it makes no window.
     ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
               0U);
     prefix.Stop();

@@ -1,4 +1,4 @@
-// The codes that the setup ends with, and switches without a value, by what they leave behind.
+// The codes that the setup ends with, and switches without a value, by what they leave.
 #include "support/small_disk.h"
 #include "wine/driven_setup.h"
 #include "wine/page_script.h"

@@ -8,7 +8,7 @@
 
 namespace quillon::test {
 
-/// Wine is told that there is no screen; it makes no window otherwise.
+/// Wine gets to know that there is no screen; it makes no window otherwise.
 void UseNoScreen(const WinePrefix& prefix);
 
 /// Does what the lines of the script say. What the driver has logged.

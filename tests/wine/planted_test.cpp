@@ -140,7 +140,7 @@ TEST(PlantedLibraries, AreNotTakenByThePagesAndTheScreen)
     const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
     PlantIn(package);
     const WinePrefix prefix;
-    // There is no screen, and Wine has to be told so, or it makes no window.
+    // There is no screen, and Wine has to know it, or it makes no window.
     ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
               0U);
     prefix.Stop();

@@ -1,5 +1,5 @@
 // What the record of an installation says of each file, held against the file: the uninstaller and
-// the next version tell by it what the user has changed.
+// the next version see by it what the user has changed.
 #include "formats/digest_text.h"
 #include "helpers/sha256.h"
 #include "runtime/install_journal.h"

@@ -85,7 +85,7 @@ bool RegistryText::HasKey(const std::string& key) const
     return keys_.contains(LowerCase(key));
 }
 
-// Wine tells here, anew at each start, which screen and which devices it found; and that its own
+// Wine writes here, anew at each start, which screen and which devices it found; and that its own
 // debugger has run, which the setup's programs start none of.
 bool IsWinesOwn(const std::string& key)
 {

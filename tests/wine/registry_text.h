@@ -1,4 +1,4 @@
-// A prefix's registry as its files tell it once the server has ended.
+// A prefix's registry as its files hold it once the server has ended.
 #pragma once
 
 #include "wine/wine.h"

@@ -35,7 +35,7 @@ constexpr const char* kSecondsAtMost = "180";
 ProgramResult RunProgram(const std::vector<std::string>& command,
                          const std::map<std::string, std::string>& settings)
 {
-    // A file, not a pipe: a server that the program leaves behind would hold a pipe open.
+    // A file, not a pipe: a server that the program leaves running would hold a pipe open.
     char name[] = "/tmp/quillon-output-XXXXXX";
     const int file = mkostemp(name, O_CLOEXEC);
     if (file < 0)

@@ -32,7 +32,7 @@ void Share(const WinePrefix& prefix, const fs::path& folder)
     prefix.Stop();
 }
 
-// Wine tells a program that was started from \\server\delning a path without its
+// Wine gives a program that was started from \\server\delning a path without its
 // beginning, so the program is started from the mapped drive.
 class SelfExtractorOnAShare : public testing::Test {
 protected:

@@ -191,7 +191,7 @@ TEST_F(Uninstaller, LeavesAProgramThatRunsToTheNextStart)
 
 class UninstallerWindows : public Uninstaller {
 protected:
-    // There is no screen, and Wine has to be told so, or it makes no window.
+    // There is no screen, and Wine has to know it, or it makes no window.
     void SetUp() override
     {
         ASSERT_EQ(

@@ -26,7 +26,7 @@ std::uint32_t NumberAt(const std::string& bytes, std::size_t at)
     return number;
 }
 
-// The server tells its number through a pipe once it is ready to be used.
+// The server writes its number to a pipe once it is ready to be used.
 constexpr int kNumberPipe = 5;
 
 } // namespace
@@ -39,7 +39,7 @@ VirtualDisplay::VirtualDisplay(Displays displays)
         Start({"Xvfb", "-displayfd", number, "-screen", "0", size, "-nolisten", "tcp"});
         return;
     }
-    // One server has one display; a second one in its window has as many as it is told.
+    // One server has one display; a second one in its window has as many as its arguments say.
     Start({"Xvfb", "-displayfd", number, "-screen", "0", "1900x800x24", "-nolisten", "tcp"});
     Start({"Xephyr", "-displayfd", number, "-screen", "1024x768", "-origin", "1024,0", "-screen",
            "800x600", "+xinerama", "-extension", "RANDR", "-nolisten", "tcp"});

@@ -17,7 +17,7 @@ DlgAutoexecConfig::DlgAutoexecConfig(Session& session, QWidget* parent)
     : EditorForm("DlgAutoexecConfig", "Autoexec.bat & Config.sys", session, parent)
 {
     section::Lists& lists = session.project.Lists;
-    // Both captions say the same, which tells a listener too little.
+    // Both captions read the same, which is not enough for a screen reader's user.
     Area(NAMED(tAUTOEXEC), lists.AutoexecBat)
         ->setAccessibleName("Rader att lägga till i AUTOEXEC.BAT");
     Area(NAMED(tCONFIG), lists.ConfigSys)->setAccessibleName("Rader att lägga till i CONFIG.SYS");

@@ -19,7 +19,7 @@ struct ContainerFrame {
     Sha256Digest digest{}; // of the packed bytes
 };
 
-/// The files' bytes stand one behind the other, and are cut into frames of one size whatever the
+/// The files' bytes follow one another, and are cut into frames of one size whatever the
 /// borders of the files.
 struct ContainerIndex {
     std::uint32_t frameSize = kMaxContainerFrameSize;

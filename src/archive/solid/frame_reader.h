@@ -1,4 +1,4 @@
-// A frame of Zstandard (RFC 8878) in a file, unpacked one byte behind the other.
+// A frame of Zstandard (RFC 8878) in a file, unpacked byte after byte.
 #pragma once
 
 #include "archive/solid/frame_decoding.h"
@@ -22,7 +22,7 @@ public:
     void Open(std::uint64_t position, std::uint64_t size);
     /// Fills all of `bytes`. Refuses a frame that ends before.
     void Read(std::span<std::byte> bytes);
-    /// Refuses where there is more in the frame, or behind it.
+    /// Refuses where there is more in the frame, or after it.
     void Finish();
 
 private:

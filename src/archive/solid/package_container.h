@@ -1,4 +1,4 @@
-// Opens a package's archive, a ZIP file or a solid container; the bytes tell which.
+// Opens a package's archive, a ZIP file or a solid container, whichever its first bytes are.
 #pragma once
 
 #include "archive/container.h"

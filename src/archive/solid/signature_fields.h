@@ -1,5 +1,5 @@
 // What a signature changes in a Windows program: the checksum, the entry that says where the table
-// of certificates is, and the table itself behind all else. Everything else is as it was built, so
+// of certificates is, and the table itself after all else. Everything else is as it was built, so
 // a digest that leaves these out holds before and after signing. The layout is described in
 // Microsoft's "PE Format" page.
 #pragma once

@@ -34,7 +34,6 @@ public:
 
     const SolidTable& Table() const { return table_; }
     /// How much of the file the packed bytes take.
-    std::uint64_t PackedSize() const { return trailer_.streamSize; }
 
     /// All files, in the order of the table. Throws `SolidError`.
     void Extract(SolidSink& sink) const;

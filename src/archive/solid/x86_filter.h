@@ -2,7 +2,7 @@
 //
 // CALL (E8) and JMP (E9) hold how far away their target is, so two calls of one function differ.
 // The filter writes the target's place in the file instead, which packs better. Of E8 or E9 and the
-// number behind it the highest byte has to be 00 or FF, as of a distance of less than 16 MiB; the
+// number after it the highest byte has to be 00 or FF, as of a distance of less than 16 MiB; the
 // lowest 25 bits of the number are counted round, so it is one of the two afterwards as well.
 // Whether it was or not, the next look is at what follows the five bytes: a number that was passed
 // over must not change later. So both directions stop at the same places, and each undoes the

@@ -1,5 +1,5 @@
 // What a call of the compression interface answers; 0 and below is success. Results are numbers,
-// because the status list tells them by number.
+// because the status list shows them by number.
 #pragma once
 
 #include "helpers/number_text.h"

@@ -4,7 +4,7 @@
 // The constraints that shaped it:
 //
 // - The deflater (libdeflate) marks the last block of whatever it is given as the last one of a
-//   stream, and a block says nowhere how long it is: only reading all of its codes tells. Zlib
+//   stream, and a block says nowhere how long it is: only reading all of its codes shows it. Zlib
 //   could be made to leave the mark out, but deflates far slower.
 // - So every block of 4 MiB of a large source is walked once more after it was packed. The walk
 //   reads codes alone, with no window and no output, and runs in the threads that pack.

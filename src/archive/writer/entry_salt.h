@@ -14,7 +14,7 @@ namespace quillon {
 // they would share a key stream, and whoever has both could tell one from the other. So it is an
 // HMAC over what is encrypted itself. Its key comes from the password by many rounds, more than
 // those of the format; so a salt, which anybody can read, helps nobody to try passwords faster. All
-// that it tells is that two entries are the same in name and content.
+// that it reveals is that two entries are the same in name and content.
 class SaltMaker {
 public:
     explicit SaltMaker(const Text& password);

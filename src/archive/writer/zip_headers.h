@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// An entry as its headers tell it.
+/// An entry as its headers describe it.
 struct EntryRecord {
     Text name;
     Text comment;

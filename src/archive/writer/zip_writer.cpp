@@ -60,7 +60,7 @@ private:
         std::unique_ptr<zip::EntryCipher> cipher;
     };
 
-    void Yield() const
+    void ProcessEvents() const
     {
         if (watch_.onYield)
             watch_.onYield();
@@ -155,7 +155,7 @@ void ZipWriting::FindLargeEqualSources()
             paths.push_back(sources_[source].path);
         }
     }
-    const auto contents = FindEqualFiles(files_, paths, [this] { Yield(); });
+    const auto contents = FindEqualFiles(files_, paths, [this] { ProcessEvents(); });
     for (std::size_t i = 0; i < large.size(); ++i) {
         originals_[large[i]] = large[contents[i].original];
         if (contents[i].original != i)
@@ -192,7 +192,7 @@ bool ZipWriting::Share(std::size_t first, std::size_t repeat)
     return true;
 }
 
-// The CRC tells which are worth a second look; the bytes decide.
+// The CRC shows which are worth a second look; the bytes decide.
 bool ZipWriting::RepeatsWritten(const Pending& pending, const PackedBlock& packed)
 {
     if (!watch_.onEqual || !pending.block.IsWhole())
@@ -248,7 +248,7 @@ bool ZipWriting::ShrinksInParts(const Text& path, std::uint64_t size)
         for (std::uint64_t begin = 0; begin < size && saved < enough; begin += kBlockSize) {
             sample.resize(
                 static_cast<std::size_t>(std::min<std::uint64_t>(kSampleSize, size - begin)));
-            Yield();
+            ProcessEvents();
             file->Seek(begin);
             ReadSource(*file, path, sample);
             const std::size_t packed = sampler_.DeflateIfSmaller(sample).size();
@@ -267,7 +267,7 @@ ZipWriting::EncryptionState ZipWriting::DigestContent(const Text& path, std::uin
         const auto file = OpenSource(files_, path, size);
         for (std::uint64_t begin = 0; begin < size; begin += piece.size()) {
             piece.resize(static_cast<std::size_t>(std::min(kMiB, size - begin)));
-            Yield();
+            ProcessEvents();
             ReadSource(*file, path, piece);
             hmac.Add(piece);
             encryption.crc = libdeflate_crc32(encryption.crc, piece.data(), piece.size());
@@ -283,7 +283,7 @@ void ZipWriting::WriteOldest()
     const Pending pending = pending_.front();
     pending_.pop_front();
     inFlight_ -= pending.block.length + kBlockOverhead;
-    Yield();
+    ProcessEvents();
     PackedBlock packed = workers_.Next(watch_.onYield);
     if (!RepeatsWritten(pending, packed)) {
         if (pending.block.IsFirst())

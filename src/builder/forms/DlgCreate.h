@@ -1,4 +1,4 @@
-// The form of the Create command: medium, target system, folder, and what a run of it tells. What
+// The form of the Create command: medium, target system, folder, and what a run of it reports. What
 // its controls hold is a `CreateForm`, and the rules between them are that one's functions.
 #pragma once
 

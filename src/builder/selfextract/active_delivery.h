@@ -1,5 +1,5 @@
 // The builder of self-extracting programs, by its numbered methods. What it answers is 0 for
-// success, else the number that a status line tells.
+// success, else the number that a status line shows.
 #pragma once
 
 #include "builder/selfextract/program_resources.h"
@@ -18,7 +18,7 @@ public:
     /// What `Method10` answers where the icon can't be opened.
     static constexpr Long kNoIcon = 39;
 
-    /// Windows starts no program of 4 GiB; a signature has room behind it.
+    /// Windows starts no program of 4 GiB; a signature has room after it.
     static constexpr std::uint64_t kMaxProgramSize = 0xFFFFFFFF - 1024 * 1024;
 
     /// `extractor` is the program that stands before the payload; `standardIcon` is for a project

@@ -1,6 +1,7 @@
 #include "builder/selfextract/program_identity.h"
 
 #include "builder/selfextract/little_endian.h"
+#include "helpers/number_text.h"
 #include "helpers/utf16.h"
 
 #include <array>
@@ -140,7 +141,7 @@ std::string ProgramManifest(const ProgramIdentity& identity)
     const auto numbers = Numbers(identity.version);
     Text version;
     for (const std::uint16_t number : numbers)
-        version.append(version.empty() ? "" : ".").append(std::to_string(number));
+        version.append(version.empty() ? "" : ".").append(NumberText(number));
     return R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">
 <assemblyIdentity type="win32" name=")" +

@@ -55,7 +55,7 @@ void WriteSelfExtractProject(FileSystem& files, const Text& path,
 {
     std::string bytes(kHeading);
     for (const auto& [number, value] : attributes)
-        bytes += std::to_string(number) + "=" + Escaped(value) + "\r\n";
+        bytes += NumberText(number) + "=" + Escaped(value) + "\r\n";
     WriteWholeFile(files, path, bytes);
 }
 

@@ -4,6 +4,7 @@
 #include "builder/selfextract/active_delivery.h"
 #include "builder/selfextract/older_program.h"
 #include "builder/signing/sign_programs.h"
+#include "formats/package_files.h"
 #include "formats/runtime_programs.h"
 #include "formats/self_extraction.h"
 #include "helpers/ansi_text.h"
@@ -22,8 +23,6 @@ constexpr const char* kDefaultName = "SELF.EXE";
 constexpr const char* kStandardIconName = "SelfExtract.ico";
 constexpr const char* kTempFolderDirective = "<WinTemp>";
 constexpr const char* kProgramFolderDirective = "<Exe>";
-// The section of the language file with the texts that are shown before there is a package.
-constexpr const char* kTextsSection = "PreLoader";
 constexpr int kMessageLimit = 201; // a text of 200 characters and the end mark
 
 struct SelfExtractInput {
@@ -150,7 +149,7 @@ constexpr AttributeRow kAttributesInOrder[] = {
 // Whoever runs the program reads these before there is a language file.
 Text SectionOfTexts(const Text& file)
 {
-    const Text heading = Text("[") + kTextsSection + "]";
+    const Text heading = Text("[") + kStarterSection + "]";
     const std::size_t begin = LowerCase(file).find(LowerCase(heading));
     if (begin == Text::npos)
         return {};
@@ -162,7 +161,7 @@ Text MessageOf(const Text& file)
 {
     ProfileReader reader;
     reader.SetIniBytes(AnsiText::ToBytes(file));
-    reader.SetIniSection(kTextsSection);
+    reader.SetIniSection(kStarterSection);
     return reader.ReadIniString("Msg_Extract", kMessageLimit);
 }
 

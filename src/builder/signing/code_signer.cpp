@@ -133,12 +133,12 @@ Text CodeSigner::Try(const Text& source, const Text& signedFile, const TimeStamp
 // machine does not know is no fault, since a company may have its own.
 Text CodeSigner::FaultOfSignature(const Text& signedFile)
 {
-    signature_ = ReadProgramSignature(*files_.OpenInput(signedFile));
-    if (signature_.state != ProgramSignature::State::Signed)
+    const ProgramSignature signature = ReadProgramSignature(*files_.OpenInput(signedFile));
+    if (signature.state != ProgramSignature::State::Signed)
         return "Filen blev inte signerad.";
-    if (!signature_.isIntact)
-        return "Signaturen håller inte: " + signature_.fault + ".";
-    return !order_.servers.empty() && signature_.stamped.empty()
+    if (!signature.isIntact)
+        return "Signaturen håller inte: " + signature.fault + ".";
+    return !order_.servers.empty() && signature.stamped.empty()
                ? "Signaturen har ingen giltig tidsstämpel."
                : Text();
 }

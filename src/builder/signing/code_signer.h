@@ -46,7 +46,6 @@ public:
     Text Sign(const Text& source, const Text& signedFile, const OnWait& onWait);
 
     /// Of the last file that was signed.
-    const ProgramSignature& LastSignature() const { return signature_; }
 
 private:
     Text Try(const Text& source, const Text& signedFile, const TimeStampServer* server,
@@ -56,7 +55,6 @@ private:
     FileSystem& files_;
     ProgramRunner& programs_;
     SigningOrder order_;
-    ProgramSignature signature_;
 };
 
 } // namespace quillon

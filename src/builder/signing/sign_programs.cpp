@@ -29,7 +29,7 @@ Text FaultOf(Work work)
     }
 }
 
-// Nothing where the user does not tell one.
+// Nothing where the user gives none.
 std::optional<Text> PasswordFor(const Signing& signing, const SigningKey& key)
 {
     if (signing.choices.password)

@@ -95,7 +95,7 @@ std::string BeginningOf(const FileSystem& files, const Text& path)
     return bytes;
 }
 
-// Bytes 12 to 15 of a .pvk tell whether it is encrypted, and 16 to 19 how long its salt is.
+// Bytes 12 to 15 of a .pvk say whether it is encrypted, and 16 to 19 how long its salt is.
 bool IsLockedPvk(std::string_view bytes)
 {
     constexpr std::string_view kMark = "\x1E\xF1\xB5\xB0";

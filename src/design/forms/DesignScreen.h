@@ -38,7 +38,7 @@ public:
     void HideDesObjects();
 
     enum class PictureStep { Background, Pictures, Logotype };
-    /// The next time that step tells again what it can't show: the user has set it anew.
+    /// The next time that step reports again what it can't show: the user has set it anew.
     void ReportAgain(PictureStep step) { reported_.erase(step); }
     /// The same of all steps: the project is another one, or was read again.
     void ReportAllAgain() { reported_.clear(); }

@@ -1,4 +1,4 @@
-// Diagnos: describes the machine in a text file beside itself, or where the tool tells it to.
+// Diagnos: describes the machine in a text file beside itself, or where the tool wants it.
 #include "diagnos/diagnosis_file.h"
 #include "platform/this_host.h"
 

@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-/// The box that tells it.
+/// The box that reports it.
 struct Refusal {
     Text title;
     Text text;

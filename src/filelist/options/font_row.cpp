@@ -25,11 +25,12 @@ RowFont FontOf(const FileListRow& row)
 void SetFont(FileListRow& row, const RowFont& font, bool neverReplaceExisting)
 {
     const bool isRegistered = font.isRegistered != kOff;
-    row[CopyOptions] = "D";
+    row[CopyOptions] = StartingLetters::kAnyFile;
     row[IconDesc].clear();
     if (!isRegistered)
         return;
-    row[CopyOptions] = neverReplaceExisting ? "DWFN" : "DWF";
+    row[CopyOptions] =
+        neverReplaceExisting ? StartingLetters::kKeptFontFile : StartingLetters::kFontFile;
     row[IconDesc] = font.description;
 }
 

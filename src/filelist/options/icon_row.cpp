@@ -1,5 +1,6 @@
 #include "filelist/options/icon_row.h"
 
+#include "formats/icon_marker.h"
 #include "helpers/text.h"
 
 namespace quillon {
@@ -25,21 +26,17 @@ constexpr const char* kNoQuotes =
     "expansion kan innehålla mellanslag. För mer information om detta tryck F1 i dialogrutan. Vill "
     "du redigera kommandoraden?";
 
-constexpr const char* kOnDesktop = "IkonD";
-constexpr const char* kOnStartMenu = "IkonS";
-constexpr const char* kOnProgramMenu = "IkonP";
-
 Text MarkerOf(const RowIcon& icon)
 {
     if (icon.isAdded == kOff)
         return {};
-    Text marker = "Ikon";
+    Text marker = kIconMarker;
     if (icon.places.onDesktop)
-        marker = kOnDesktop;
+        marker = kIconMarkerDesktop;
     if (icon.places.onStartMenu)
-        marker = kOnStartMenu;
+        marker = kIconMarkerStartMenu;
     if (icon.places.onProgramMenu)
-        marker = kOnProgramMenu;
+        marker = kIconMarkerPrograms;
     return marker;
 }
 
@@ -69,7 +66,8 @@ RowIcon IconOf(const FileListRow& row)
     if (marker.empty())
         return {.workDir = row[Destination], .documentReader = kDocumentReaders.front()};
     return {.isAdded = kOn,
-            .places = {marker == kOnDesktop, marker == kOnStartMenu, marker == kOnProgramMenu},
+            .places = {marker == kIconMarkerDesktop, marker == kIconMarkerStartMenu,
+                       marker == kIconMarkerPrograms},
             .description = row[IconDesc],
             .parameters = row[IconPar],
             .workDir = row[IconWorkDir],

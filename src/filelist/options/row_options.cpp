@@ -1,10 +1,13 @@
 #include "filelist/options/row_options.h"
 
+#include "formats/copy_letters.h"
 #include "helpers/windows_path.h"
 
 namespace quillon {
 
 namespace {
+
+using namespace StartingLetters;
 
 struct OptionsOfFile {
     std::string_view name;
@@ -13,12 +16,15 @@ struct OptionsOfFile {
 
 // Run-time files of Microsoft whose copies a setup must treat with care.
 constexpr OptionsOfFile kRuntimeFiles[] = {
-    {"OLEAUT32.DLL", "VRAW"}, {"OLEPRO32.DLL", "VRAW"}, {"COMCAT.DLL", "VRAW"},
-    {"MSVBVM50.DLL", "VRAW"}, {"MSVBVM60.DLL", "VRAW"}, {"MFC40.DLL", "VRAW"},
-    {"MFC42.DLL", "VRAW"},    {"MSDERUN.DLL", "VRAW"},  {"MSBIND.DLL", "VRAW"},
-    {"MSDBRPTR.DLL", "VRAW"}, {"ASYCFILT.DLL", "VAWE"}, {"CTL3D32.DLL", "VAWE"},
-    {"COMCTL32.DLL", "VAWE"}, {"COMDLG32.DLL", "VAWE"}, {"MSVCRT.DLL", "VAWE"},
-    {"MSVCRT40.DLL", "VAWE"}, {"STDOLE2.TLB", "VAW"}};
+    {"OLEAUT32.DLL", kRuntimeServer},  {"OLEPRO32.DLL", kRuntimeServer},
+    {"COMCAT.DLL", kRuntimeServer},    {"MSVBVM50.DLL", kRuntimeServer},
+    {"MSVBVM60.DLL", kRuntimeServer},  {"MFC40.DLL", kRuntimeServer},
+    {"MFC42.DLL", kRuntimeServer},     {"MSDERUN.DLL", kRuntimeServer},
+    {"MSBIND.DLL", kRuntimeServer},    {"MSDBRPTR.DLL", kRuntimeServer},
+    {"ASYCFILT.DLL", kRuntimeLibrary}, {"CTL3D32.DLL", kRuntimeLibrary},
+    {"COMCTL32.DLL", kRuntimeLibrary}, {"COMDLG32.DLL", kRuntimeLibrary},
+    {"MSVCRT.DLL", kRuntimeLibrary},   {"MSVCRT40.DLL", kRuntimeLibrary},
+    {"STDOLE2.TLB", kTypeLibrary}};
 
 } // namespace
 
@@ -36,19 +42,19 @@ Text StartingCopyOptions(std::string_view fileName, bool useVersionRules,
     const bool isLibrary = ContainsText(upperName, ".DLL");
     const bool isControl = ContainsText(upperName, ".OCX");
     if (useVersionRules && (isProgram || isLibrary) && hasVersion())
-        return isProgram ? "V" : "VA";
+        return isProgram ? kProgramWithVersion : kLibraryWithVersion;
     if (isControl)
-        return "VRA";
-    return isLibrary ? "DA" : "D";
+        return kControl;
+    return isLibrary ? kLibrary : kAnyFile;
 }
 
 Text StartingSystemFileOptions(std::string_view fileName, bool isRuntimeFile)
 {
     if (EqualIgnoreCase(fileName, "stdole2.tlb"))
-        return "VAW";
+        return kTypeLibrary;
     if (EqualIgnoreCase(ExtensionFromFirstDot(fileName), "tlb"))
-        return "D";
-    return isRuntimeFile ? "VRAW" : "VA";
+        return kAnyFile;
+    return isRuntimeFile ? kRuntimeServer : kLibraryWithVersion;
 }
 
 } // namespace quillon

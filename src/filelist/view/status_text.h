@@ -1,4 +1,4 @@
-// What the file list tells about itself: the first pane of the status bar, and the refusals of
+// What the file list shows about itself: the first pane of the status bar, and the refusals of
 // commands that work on rows.
 #pragma once
 

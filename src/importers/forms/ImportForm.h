@@ -38,7 +38,7 @@ protected:
     /// A path and the button that chooses it.
     Piece PathRow(PathLabel*& label, const char* name, QPushButton*& button,
                   const PathButton& choice);
-    /// A box with words that tell what it does.
+    /// A box with words that say what it does.
     QCheckBox* Choice01(QCheckBox*& member, const char* name, const Text& caption,
                         const Text& help);
     Piece Progress();

@@ -1,5 +1,6 @@
 #include "platform/posix/disk_info.h"
 
+#include "helpers/number_text.h"
 #include "platform/posix/open_file.h"
 
 #include <algorithm>
@@ -33,7 +34,7 @@ bool IsOneOf(const std::array<unsigned, n>& systems, unsigned type)
 bool IsRemovable(dev_t device)
 {
     const std::string folder =
-        "/sys/dev/block/" + std::to_string(major(device)) + ":" + std::to_string(minor(device));
+        "/sys/dev/block/" + NumberText(major(device)) + ":" + NumberText(minor(device));
     for (const char* place : {"/removable", "/../removable"}) {
         const Descriptor file(open((folder + place).c_str(), O_RDONLY | O_CLOEXEC));
         char word = '0';

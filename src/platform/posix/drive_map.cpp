@@ -1,16 +1,13 @@
 #include "platform/posix/drive_map.h"
 
+#include "helpers/ascii.h"
+
 #include <algorithm>
 #include <filesystem>
 
 namespace quillon {
 
 namespace {
-
-bool IsLetter(char character)
-{
-    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
-}
 
 char UpperLetter(char letter)
 {

@@ -1,5 +1,6 @@
 #include "platform/posix/machine_settings.h"
 
+#include "helpers/ascii.h"
 #include "platform/posix/user_directories.h"
 
 #include <algorithm>
@@ -128,8 +129,7 @@ void ReadUser(MachineSettings& settings)
 void AddDrives(std::string_view list, MachineSettings& settings)
 {
     for (const std::string& entry : SplitList(list)) {
-        const bool isDrive = entry.size() > 2 && entry[1] == '=' &&
-                             std::isalpha(static_cast<unsigned char>(entry[0])) != 0;
+        const bool isDrive = entry.size() > 2 && entry[1] == '=' && IsLetter(entry[0]);
         const bool isTaken =
             isDrive && std::string_view("CcZz").find(entry[0]) != std::string_view::npos;
         if (!isDrive)

@@ -1,4 +1,4 @@
-// What the user of a POSIX machine tells the product through the environment: drives, registry.
+// What the user of a POSIX machine sets for the product through the environment: drives, registry.
 #pragma once
 
 #include "helpers/text.h"

@@ -20,7 +20,7 @@ constexpr std::int64_t kSecond = 1000 * kMillisecond;
 constexpr std::int64_t kTickOfTheKernel = 20 * kMillisecond;
 constexpr std::int64_t kTickOfWholeSeconds = 2 * kSecond + kTickOfTheKernel;
 
-// While this program fills a folder, the stamp moves all the time and can't tell another program's
+// While this program fills a folder, the stamp moves all the time and can't show another program's
 // change from its own; the listing is renewed so often, but never for more than a small part of the
 // time, since a folder of many files takes long to list.
 constexpr std::int64_t kRenewWhileFilling = 100 * kMillisecond;

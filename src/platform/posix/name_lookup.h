@@ -59,7 +59,7 @@ private:
         Stamp stamp;
         timespec listedAt;
         std::int64_t nanosecondsToList = 0;
-        // Nothing had changed in the folder for long enough that its stamp tells the next change.
+        // Nothing had changed in the folder for long enough that its stamp shows the next change.
         bool settled = false;
         bool changedByUs = false;
 

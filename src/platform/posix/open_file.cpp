@@ -79,7 +79,7 @@ void PosixOutputFile::Close()
 {
     if (!file_.IsOpen())
         return;
-    // Disks across a network tell of a full disk only when a descriptor is closed, any of the
+    // Disks across a network report a full disk only when a descriptor is closed, any of the
     // file's. The one given here is gone in any case.
     const int closing =
         held_ == Held::Yes ? fcntl(file_.Number(), F_DUPFD_CLOEXEC, 0) : file_.Release();

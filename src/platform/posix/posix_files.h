@@ -1,4 +1,4 @@
-// The file system of a POSIX machine behind drive letters.
+// The file system of a POSIX machine under drive letters.
 #pragma once
 
 #include "platform/file_system.h"

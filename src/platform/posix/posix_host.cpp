@@ -1,5 +1,6 @@
 #include "platform/posix/posix_host.h"
 
+#include "helpers/number_text.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 
@@ -24,7 +25,7 @@ RegistryFiles ReadRegistryFiles(const std::vector<std::string>& hostPaths, const
                                      "eller Windows Registry Editor Version 5.00.");
         } catch (const RunError& error) {
             complaints.push_back("QUILLON_REGISTRY: '" + hostPath + "' kan ej läsas (Fel #" +
-                                 std::to_string(error.Number()) + ").");
+                                 NumberText(error.Number()) + ").");
         }
     }
     return registry;

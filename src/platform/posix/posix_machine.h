@@ -1,4 +1,4 @@
-// The machine behind a POSIX system: the Windows folders of drive C:, a registry out of files, the
+// A POSIX system as the machine: the Windows folders of drive C:, a registry out of files, the
 // user's own clock, locale and programs.
 #pragma once
 

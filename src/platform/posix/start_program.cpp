@@ -17,7 +17,7 @@ namespace {
 /// The child's part: nothing here may take memory, since another thread may hold the heap's lock.
 [[noreturn]] void BecomeProgram(char* const* arguments, int failurePipe)
 {
-    // The grandchild has no parent to wait for it, so it leaves no dead process behind.
+    // The grandchild has no parent to wait for it, so no zombie process stays.
     setsid();
     const pid_t grandchild = fork();
     if (grandchild > 0)

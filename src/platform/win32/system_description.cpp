@@ -11,7 +11,7 @@ namespace quillon {
 
 namespace {
 
-/// "Windows XP, 5.1 (2600)", as far as the system tells; the older ones have their names elsewhere.
+/// "Windows XP, 5.1 (2600)", as far as the system says; the older ones have their names elsewhere.
 Text NameOfSystem()
 {
     const WinMachine machine;

@@ -161,7 +161,7 @@ void WinFiles::RemoveAbandoned(const Text& path)
 
 std::unique_ptr<FileLock> WinFiles::Lock(const Text& path, LockWait wait)
 {
-    constexpr DWORD kPause = 20; // milliseconds; Windows tells nobody that a file is free again
+    constexpr DWORD kPause = 20; // milliseconds; Windows notifies nobody when a file is free again
     for (;;) {
         FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                                     FILE_FLAG_DELETE_ON_CLOSE, nullptr));

@@ -1,6 +1,7 @@
 #include "runtime/pages/disk_space.h"
 
 #include "helpers/amount_text.h"
+#include "helpers/drive_path.h"
 #include "platform/run_error.h"
 #include "runtime/switches.h"
 

@@ -1,4 +1,4 @@
-// The room that an installation takes, and what is free where it goes, as the pages tell it.
+// The room that an installation takes, and what is free where it goes, as the pages show it.
 #pragma once
 
 #include "runtime/install_plan.h"
@@ -16,7 +16,7 @@ std::uint64_t NeededSpace(const PlanInput& input);
 /// The same with nothing that the user could still leave out.
 std::uint64_t LeastNeededSpace(const PlanInput& input);
 
-/// Bytes that are free where the folder is or will be; nothing where the machine can't tell.
+/// Bytes that are free where the folder is or will be; nothing where the machine can't say.
 std::optional<std::uint64_t> FreeSpaceAt(const FileSystem& files, const Text& folder);
 
 /// "12,5 MB".

@@ -1,5 +1,6 @@
 #include "runtime/pages/earlier_version.h"
 
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "platform/registry_roots.h"
 #include "runtime/switches.h"

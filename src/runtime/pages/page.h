@@ -63,7 +63,7 @@ enum class PieceKind {
     Password,  // the same, each letter shown as an asterisk
     List,      // one of several lines, below its label
     CheckList, // any of several lines, each with a second column
-    Value,     // a label and what it tells
+    Value,     // a label and its text
     Button,
     CheckBox,
     Gap, // room that is left empty

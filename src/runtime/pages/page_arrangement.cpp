@@ -129,7 +129,7 @@ private:
         }
     }
 
-    // Lines that tell something stand closer.
+    // Lines that only inform stand closer.
     static double GapBehind(const PagePiece& piece)
     {
         return piece.kind == PieceKind::Gap     ? 0

@@ -14,7 +14,7 @@ public:
     enum class End { Install, Cancelled };
     /// All pages before the installation. Cancel ends it once the user has confirmed that.
     End ShowPages(PageView& view);
-    /// The page behind the installation, where the project has one.
+    /// The page after the installation, where the project has one.
     void ShowClosingPage(PageView& view);
 
     /// An RTF document in a page of its own.

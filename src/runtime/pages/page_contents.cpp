@@ -36,7 +36,7 @@ public:
             page_.bitmap = state.setup.project.DialogBoxes.DlgBitmap;
     }
 
-    /// A page behind the installation, without anything on it.
+    /// A page after the installation, without anything on it.
     SetupPage Empty()
     {
         page_.buttons = PageButtons::Finish;

@@ -1,4 +1,5 @@
 #include "formats/setup_names.h"
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "runtime/pages/disk_space.h"
 #include "runtime/pages/page_order.h"

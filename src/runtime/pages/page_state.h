@@ -49,13 +49,13 @@ struct PageState {
 /// The page as it stands, filled with what was chosen before.
 SetupPage MakePage(const PageState& state, PageKind kind);
 
-/// A page behind the installation that shows an RTF document.
+/// A page after the installation that shows an RTF document.
 SetupPage MakeDocumentPage(const PageState& state, const Text& title, const std::string& rtf);
 
 /// Takes what has been typed and ticked.
 void StoreAnswers(PageState& state, const SetupPage& page);
 
-/// Whether the page's answers will do; tells the user where not.
+/// Whether the page's answers will do; the user is informed where not.
 bool MayLeavePage(PageState& state, SetupPage& page);
 
 /// What follows from a change of the field, on the same page.

@@ -64,7 +64,7 @@ struct Script {
 
 Script ReadScript(std::string_view text);
 
-/// A key of the registry, or with " :: " and a name behind it a value.
+/// A key of the registry, or with " :: " and a name after it a value.
 RegistryLine ReadRegistryPlace(std::string_view place);
 
 } // namespace quillon

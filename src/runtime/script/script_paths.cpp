@@ -1,5 +1,6 @@
 #include "runtime/script/script_paths.h"
 
+#include "helpers/drive_path.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "runtime/switches.h"

@@ -202,7 +202,7 @@ private:
         return static_cast<int>((units * size + measuredSize_ / 2) / measuredSize_);
     }
 
-    Bitmap bitmap_; // goes behind the context that holds it
+    Bitmap bitmap_; // is destroyed after the context that holds it
     FontContext drawn_;
     FontContext measured_;
     bool isSelected_ = false;

@@ -21,7 +21,7 @@ struct Box {
     bool hasOkAlone;
 };
 
-// A hook is told nothing but what happens, so the box that it is for has to stand here; boxes are
+// A hook gets nothing but what happens, so the box that it is for has to stand here; boxes are
 // shown by one thread, one at a time.
 const Box* shownBox = nullptr;
 

@@ -20,7 +20,7 @@ public:
     using PictureSource = std::function<ScalablePicture(const Text& bitmap)>;
 
     /// `ask` is the window of the installation, which steps aside for the pages.
-    /// `behind` is the screen, if there is one; it is told when a page comes and goes.
+    /// `behind` is the screen, if there is one, and is notified when a page comes and goes.
     PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& texts,
                PictureSource pictures, ScreenWindow* behind = nullptr);
     ~PageWindow() override;

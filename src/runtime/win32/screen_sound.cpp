@@ -28,7 +28,7 @@ constexpr DWORD kPollTime = 200; // milliseconds between two looks at whether th
 constexpr DWORD kStopTime = 300;
 
 // What Windows loads by the name alone while it plays a sound, on those of its versions that can't
-// be told where to look.
+// have a way to say where to look.
 constexpr const char* kSoundLibraries[] = {
     "mciwave.dll",  "mciseq.dll",  "mciqtz32.dll", "msacm32.dll", "msacm32.drv",
     "wdmaud.drv",   "midimap.dll", "ksuser.dll",   "avrt.dll",    "mmdevapi.dll",

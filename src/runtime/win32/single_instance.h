@@ -11,7 +11,7 @@ public:
     SingleInstance() : mutex_(CreateMutexW(nullptr, FALSE, L"Global\\QuillonSetup"))
     {
         const DWORD found = GetLastError();
-        isNot_ = found == ERROR_ALREADY_EXISTS || found == ERROR_ACCESS_DENIED;
+        isAlreadyRunning_ = found == ERROR_ALREADY_EXISTS || found == ERROR_ACCESS_DENIED;
     }
     ~SingleInstance()
     {
@@ -22,11 +22,11 @@ public:
     SingleInstance& operator=(const SingleInstance&) = delete;
 
     /// Another one runs on this machine.
-    bool IsNot() const { return isNot_; }
+    bool IsAlreadyRunning() const { return isAlreadyRunning_; }
 
 private:
     HANDLE mutex_;
-    bool isNot_ = false;
+    bool isAlreadyRunning_ = false;
 };
 
 } // namespace quillon

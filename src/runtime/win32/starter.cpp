@@ -173,7 +173,7 @@ bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& progr
     JoinPaths(to, starter.work, program.name);
     if (!CopyFileW(starter.scratch, to, TRUE))
         return false;
-    // What comes from a CD is write-protected, and would stay behind.
+    // What comes from a CD is write-protected, and would stay.
     SetFileAttributesW(to, FILE_ATTRIBUTE_NORMAL);
     return !listed.AreKnown() || listed.Hold(to, program.inPackage);
 }

@@ -27,7 +27,7 @@ struct Starter {
     wchar_t scratch[kMaxPathLength];
     wchar_t commandLine[kMaxPathLength];
     wchar_t message[kMaxMessageLength];
-    wchar_t refused[MAX_PATH]; // the file that the user is told of
+    wchar_t refused[MAX_PATH]; // the file that the message names
     HANDLE lock;
 };
 

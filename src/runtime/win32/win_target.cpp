@@ -19,7 +19,7 @@ namespace {
 
 constexpr DWORD kMaxNameLength = 16384; // of a registry value, in characters
 
-// Windows NT 4.0 tells its service pack by a text such as "Service Pack 6".
+// Windows NT 4.0 gives its service pack as a text such as "Service Pack 6".
 int ServicePack(const OSVERSIONINFOW& version)
 {
     const Text text = Narrow(version.szCSDVersion);

@@ -14,7 +14,7 @@ class PagePreview;
 /// A printer of this machine.
 struct PrinterChoice {
     Text name;
-    Text port; // where it is, or what it is, as far as the system tells
+    Text port; // where it is, or what it is, as far as the system says
 };
 
 class PrintFileList : public Form {
@@ -23,7 +23,7 @@ public:
     PrintFileList(Session& session, std::vector<PrinterChoice> printers, QWidget* parent);
     ~PrintFileList() override;
 
-    /// Prints on the printer of that name; the text tells why it could not. Replaced by tests.
+    /// Prints on the printer of that name; the text says why it could not. Replaced by tests.
     std::function<std::optional<Text>(const Text& printer, const std::vector<PrintedPage>& pages)>
         print;
 

@@ -102,7 +102,7 @@ void WizBugReport_7::OnShow()
         tReport->setPlainText(LinesToQt(BugReportText(wizard_.answers, session.state, session.host,
                                                       session.options.OwnFolder)));
     } catch (const RunError&) {
-        // The button tells why.
+        // The button says why.
         tReport->clear();
     }
 }

@@ -15,7 +15,7 @@ constexpr double kUnitsPerMillimetre = kUnitsPerInch / 25.4;
 constexpr double kPointsPerInch = 72;
 constexpr double kRuleWidth = 0.1; // mm
 
-void DrawText(QPainter& painter, const PrintedText& printed)
+void PaintText(QPainter& painter, const PrintedText& printed)
 {
     QFont font(kPrintFont);
     font.setPixelSize(qRound(printed.size * kUnitsPerInch / kPointsPerInch));
@@ -38,7 +38,7 @@ void DrawPage(QPainter& painter, const PrintedPage& page, const QRectF& paper)
         painter.drawLine(QPointF(rule.fromX, rule.y) * kUnitsPerMillimetre,
                          QPointF(rule.toX, rule.y) * kUnitsPerMillimetre);
     for (const PrintedText& text : page.texts)
-        DrawText(painter, text);
+        PaintText(painter, text);
     painter.restore();
 }
 

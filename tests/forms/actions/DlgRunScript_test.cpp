@@ -69,7 +69,7 @@ TEST_F(DlgRunScriptTest, TellsALineThatTheProjectFileWouldNotGiveBack)
     EXPECT_TRUE(form.sRunScriptBeforeWarning->text().startsWith("Raden '[Configuration]' kan ej"));
     QApplication::processEvents();
     SavePicture(form, "DlgRunScript-varning");
-    TypeKeys(*form.tRunScriptBefore, "x"); // what stands behind a header does not count
+    TypeKeys(*form.tRunScriptBefore, "x"); // what follows a header does not count
     EXPECT_TRUE(form.sRunScriptBeforeWarning->isVisible());
     form.tRunScriptBefore->moveCursor(QTextCursor::Start);
     TypeKeys(*form.tRunScriptBefore, "x");

@@ -61,7 +61,7 @@ TEST_F(LoadPictureTest, SurvivesACutFile)
 {
     for (const char* format : {"bmp", "png", "jpg"}) {
         const std::string whole = Encoded(Striped(), format);
-        // Some readers tell each cut file on stderr, so these are few.
+        // Some readers report each cut file on stderr, so these are few.
         const std::size_t step = format == std::string("bmp") ? 1 : 97;
         for (std::size_t length = 0; length < whole.size(); length += step) {
             machine.files.Put("C:\\bild", whole.substr(0, length));

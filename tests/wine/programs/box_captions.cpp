@@ -17,7 +17,7 @@ using namespace quillon;
 
 namespace {
 
-// Of the box that is shown; a timer is told nothing else.
+// Of the box that is shown; a timer gets nothing else.
 Text captions;
 
 BOOL CALLBACK ReadAndPress(HWND window, LPARAM)

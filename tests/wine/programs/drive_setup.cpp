@@ -567,7 +567,7 @@ private:
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
 {
-    // Places are told in the pixels of the display, as the setup's own.
+    // Places are given in the pixels of the display, as the setup's own.
     using Declare = BOOL(WINAPI*)();
     if (const auto declare = reinterpret_cast<Declare>(reinterpret_cast<void*>(
             GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetProcessDPIAware"))))

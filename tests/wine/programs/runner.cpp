@@ -1,6 +1,6 @@
 // runner FILE: runs the command line that is in the file, in UTF-8, and writes the program's
 // exit code in decimal to FILE.code. A code of Windows has 32 bits, of which only eight get out of
-// Wine, and Wine changes the quotation marks of what it is told to run.
+// Wine, and Wine changes the quotation marks of the command that it runs.
 #include <windows.h>
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-// What the editors of the two pages for a destination share: how the page tells the disk space.
+// What the editors of the two pages for a destination share: how the page shows the disk space.
 #pragma once
 
 #include "actions/forms/pages/PageEditor.h"

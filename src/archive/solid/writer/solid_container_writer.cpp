@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    void Yield() const
+    void ProcessEvents() const
     {
         if (watch_.onYield)
             watch_.onYield();
@@ -63,7 +63,7 @@ private:
         for (const ZipSource& source : sources_)
             paths.push_back(source.path);
         if (watch_.onEqual)
-            contents_ = FindEqualFiles(files_, paths, [this] { Yield(); });
+            contents_ = FindEqualFiles(files_, paths, [this] { ProcessEvents(); });
         else
             for (std::size_t source = 0; source < sources_.size(); ++source)
                 contents_.push_back({.original = source, .crc = {}, .modified = {}});
@@ -93,7 +93,7 @@ private:
         done_ += bytes;
         if (watch_.onProgress)
             watch_.onProgress(done_, total_);
-        Yield();
+        ProcessEvents();
     }
 
     void PackSource(std::size_t source)

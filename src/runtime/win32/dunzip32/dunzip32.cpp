@@ -4,7 +4,7 @@
 
 #include <zlib.h>
 
-// The linker knows from the .def file that others call these; the compiler has to be told.
+// The linker knows from the .def file that others call these; the compiler can't see that.
 extern "C" {
 
 [[gnu::externally_visible]] int QnUnzipBegin(z_stream_s* stream)

@@ -129,8 +129,8 @@ SetupEnd InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
         LibraryContainers(UnzipLibrary(files, switches.packageFolder));
     const auto run = [&](Ask& ask, PageView* pages, BackgroundSound* sound) {
         return RunSetup({host, target, ask, openContainer, switches, work.Path(), pages, sound,
-                         only && only->IsNot(), StartAsUser, &users, RunToEnd, MayRestartMachine,
-                         OpenHeldFile},
+                         only && only->IsAlreadyRunning(), StartAsUser, &users, RunToEnd,
+                         MayRestartMachine, OpenHeldFile},
                         package);
     };
     if (switches.silent && !switches.passive) {

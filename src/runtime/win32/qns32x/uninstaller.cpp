@@ -95,7 +95,7 @@ int RunUninstaller(HINSTANCE instance, const StarterLine& from)
     const SingleInstance only;
     // What they were started from is gone then.
     RestartManager users(RestartManager::StartsAgain::No);
-    UninstallProgram program({host, target, line, from.program, only.IsNot(), &users});
+    UninstallProgram program({host, target, line, from.program, only.IsAlreadyRunning(), &users});
     WaitingStarter running(files, from.program);
     ExitCode code = ExitCode::Failed;
     try {

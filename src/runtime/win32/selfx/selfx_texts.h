@@ -1,4 +1,4 @@
-// What the self-extractor tells. Its texts lie in a resource of the program, where the tool has put
+// The texts of the self-extractor. They lie in a resource of the program, where the tool has put
 // the part of the package's language file that is read before there is a package: they are needed
 // before the payload is known to be whole.
 #pragma once

@@ -2,6 +2,7 @@
 // a private folder, starts it there with the package's folder and its own switches, waits, cleans
 // up and ends with the same code.
 #include "formats/package_files.h"
+#include "project/reference_language.h"
 #include "runtime/starter_text.h"
 #include "runtime/switch_words.h"
 #include "runtime/win32/display.h"
@@ -28,10 +29,13 @@ char16_t AnsiCharacterOf(unsigned char byte)
 void ReadMessage(Starter& starter, const StarterMessage& message)
 {
     wchar_t language[MAX_PATH];
-    JoinPaths(starter.scratch, starter.folder, L"QNSETUP.INF");
-    GetPrivateProfileStringW(L"Language", L"LanguageFile", L"SWEDISH.LNG", language, MAX_PATH,
+    JoinPaths(starter.scratch, starter.folder, kSetupInformationName);
+    GetPrivateProfileStringW(L"Language", L"LanguageFile", L"", language, MAX_PATH,
                              starter.scratch);
-    JoinPaths(starter.scratch, starter.folder, language);
+    if (language[0] != 0)
+        JoinPaths(starter.scratch, starter.folder, language);
+    else
+        JoinPaths(starter.scratch, starter.folder, kReferenceLanguage);
     SetMessage(starter, message.swedish);
     DWORD size = 0;
     char* const bytes = ReadFileOf(starter.scratch, size);

@@ -1,4 +1,4 @@
-#include "formats/installation_log_name.h"
+#include "formats/install_journal_name.h"
 
 #include "formats/runtime_programs.h"
 #include "helpers/number_text.h"
@@ -14,12 +14,12 @@ constexpr std::string_view kEnding = kName.substr(kStem.size());
 
 } // namespace
 
-Text InstallationLogName(int number)
+Text InstallJournalName(int number)
 {
     return Text(kStem) + (number == 1 ? Text() : NumberText(number)) + Text(kEnding);
 }
 
-bool IsInstallationLogName(std::string_view name)
+bool IsInstallJournalName(std::string_view name)
 {
     const Text upper = UpperCase(name);
     return upper.starts_with(kStem) && upper.find('.') == upper.size() - kEnding.size() &&

@@ -6,8 +6,8 @@
 namespace quillon {
 
 /// Of the n-th product; the first one is 1.
-Text InstallationLogName(int number);
+Text InstallJournalName(int number);
 
-bool IsInstallationLogName(std::string_view name);
+bool IsInstallJournalName(std::string_view name);
 
 } // namespace quillon

@@ -1,0 +1,20 @@
+// The field of a row that says whether the setup makes a shortcut to its file, and where.
+#pragma once
+
+#include "helpers/text.h"
+
+namespace quillon {
+
+inline constexpr const char* kIconMarker = "Ikon"; // in the program group
+inline constexpr const char* kIconMarkerDesktop = "IkonD";
+inline constexpr const char* kIconMarkerStartMenu = "IkonS";
+inline constexpr const char* kIconMarkerPrograms = "IkonP";
+
+/// Case is ignored. Older projects have the English word.
+inline bool HasIconMarker(std::string_view marker)
+{
+    const std::string_view word = marker.substr(0, 4);
+    return EqualIgnoreCase(word, kIconMarker) || EqualIgnoreCase(word, "Icon");
+}
+
+} // namespace quillon
