@@ -7,6 +7,8 @@
 #include "filelist/list_work.h"
 #include "shell/session.h"
 
+#include <nlohmann/json.hpp>
+
 namespace quillon::cli {
 
 class ProjectEdit {

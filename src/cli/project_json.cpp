@@ -91,4 +91,9 @@ Json SettingsJson(Project& project)
     return settings;
 }
 
+Text ValueText(const Json& value)
+{
+    return value.is_string() ? value.get<Text>() : value.dump();
+}
+
 } // namespace quillon::cli

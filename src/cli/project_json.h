@@ -14,9 +14,6 @@ Json ProjectJson(const Project& project);
 Json SettingsJson(Project& project);
 
 /// A value as a line of output shows it: a text without its quotation marks.
-inline Text ValueText(const Json& value)
-{
-    return value.is_string() ? value.get<Text>() : value.dump();
-}
+Text ValueText(const Json& value);
 
 } // namespace quillon::cli
