@@ -20,7 +20,7 @@ void FinishEarlierRuns(const EarlierRunsInput& input)
     std::set<Text> folders{input.variables.Value(mainFolder), usual.Value(mainFolder)};
     for (const InstallScope scope : {InstallScope::AllUsers, InstallScope::CurrentUser}) {
         const auto installed =
-            input.target.ReadValue(UninstallEntryKey(product, scope), "InstallLocation");
+            input.target.ReadValue(UninstallEntryKey(product, scope), kInstallLocation);
         // Anything may stand in such a value.
         if (const auto folder = installed ? TextOf(*installed) : std::nullopt;
             folder && IsAbsolutePath(*folder))

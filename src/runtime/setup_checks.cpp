@@ -24,8 +24,7 @@ Text InstalledVersion(const SetupInput& input, const Text& product, InstallScope
         const auto data = input.target.ReadValue(entry, name);
         return data ? TextOf(*data).value_or("") : Text();
     };
-    return input.host.files.DirExists(textAt("InstallLocation")) ? textAt("DisplayVersion")
-                                                                 : Text();
+    return input.host.files.DirExists(textAt(kInstallLocation)) ? textAt(kDisplayVersion) : Text();
 }
 
 // One that somebody could change meanwhile is no good.

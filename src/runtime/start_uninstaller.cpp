@@ -34,7 +34,7 @@ std::optional<UninstallCommand> InstalledCommand(const UninstallerStart& start)
 {
     for (const InstallScope scope : {start.switches.scope, InstallScope::CurrentUser}) {
         const auto data =
-            start.target.ReadValue(UninstallEntryKey(start.product, scope), "UninstallString");
+            start.target.ReadValue(UninstallEntryKey(start.product, scope), kUninstallString);
         if (const auto text = data ? TextOf(*data) : std::nullopt)
             return ReadCommand(*text);
     }

@@ -53,11 +53,11 @@ RegistryData One(const EntryContext&)
 // clang-format off
 constexpr EntryValue kValues[] = {
     {"DisplayName",          [](const EntryContext& entry) { return TextData(ShownName(entry)); }},
-    {"DisplayVersion",       [](const EntryContext& entry) { return TextData(VersionOf(entry.input.setup)); }},
+    {kDisplayVersion,        [](const EntryContext& entry) { return TextData(VersionOf(entry.input.setup)); }},
     {"Publisher",            [](const EntryContext& entry) { return TextData(VersionData(entry).CompanyName); }},
-    {"UninstallString",      [](const EntryContext& entry) { return TextData(Command(entry)); }},
+    {kUninstallString,       [](const EntryContext& entry) { return TextData(Command(entry)); }},
     {"QuietUninstallString", [](const EntryContext& entry) { return TextData(Command(entry) + " /S"); }},
-    {"InstallLocation",      [](const EntryContext& entry) { return TextData(entry.input.plan.mainFolder); }},
+    {kInstallLocation,       [](const EntryContext& entry) { return TextData(entry.input.plan.mainFolder); }},
     {"DisplayIcon",          [](const EntryContext& entry) { return TextData(UninstallerPath(entry.input.plan.mainFolder)); }},
     {"InstallDate",          [](const EntryContext& entry) { return TextData(CompactDate(entry.input.host.machine.Now())); }},
     {"EstimatedSize",        Kilobytes},

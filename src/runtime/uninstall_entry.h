@@ -10,6 +10,11 @@
 
 namespace quillon {
 
+// The values that others read: where the product is, its version, and the command that removes it.
+inline constexpr const char* kInstallLocation = "InstallLocation";
+inline constexpr const char* kDisplayVersion = "DisplayVersion";
+inline constexpr const char* kUninstallString = "UninstallString";
+
 /// Where the entry of the product of that name is.
 RegistryKey UninstallEntryKey(const Text& product, InstallScope scope = InstallScope::Project);
 

@@ -126,7 +126,7 @@ Text UninstallProgram::Fail(const std::exception& error)
 Text UninstallProgram::InstalledVersion() const
 {
     const auto data = input_.target.ReadValue(
-        RecordedUninstallEntry(product_->name, product_->records), "DisplayVersion");
+        RecordedUninstallEntry(product_->name, product_->records), kDisplayVersion);
     return data ? TextOf(*data).value_or("") : Text();
 }
 

@@ -42,10 +42,10 @@ std::string WithDigests(int count)
 
 TEST(ReadSignatureData, NamesTheSignerAlsoOfAnotherProgram)
 {
-    const SignatureInfo facts = FactsOf(SampleSignature());
-    EXPECT_EQ(facts.signer, "Firma Åke AB");
-    EXPECT_EQ(facts.issuer, "Prov CA");
-    EXPECT_EQ(facts.fault, "filen har ändrats sedan den signerades");
+    const SignatureInfo info = FactsOf(SampleSignature());
+    EXPECT_EQ(info.signer, "Firma Åke AB");
+    EXPECT_EQ(info.issuer, "Prov CA");
+    EXPECT_EQ(info.fault, "filen har ändrats sedan den signerades");
 }
 
 TEST(ReadSignatureData, RefusesASignatureWithoutADigestOrWithSeveral)

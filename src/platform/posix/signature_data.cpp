@@ -76,18 +76,18 @@ bool IsSignedBy(PKCS7* signedData, Bytes content)
     return PKCS7_verify(signedData, nullptr, nullptr, input.get(), nullptr, PKCS7_NOVERIFY) == 1;
 }
 
-void ReadTrust(PKCS7* signedData, X509* signer, const Text& trustedRoots, SignatureInfo& facts)
+void ReadTrust(PKCS7* signedData, X509* signer, const Text& trustedRoots, SignatureInfo& info)
 {
     STACK_OF(X509)* others = signedData->d.sign->cert;
     const TimeStamp stamp = ReadTimeStamp(
         sk_PKCS7_SIGNER_INFO_value(signedData->d.sign->signer_info, 0), others, trustedRoots);
-    facts.stamped = stamp.time;
-    facts.stampedBy = stamp.signer;
-    facts.fault = stamp.fault;
-    if (facts.fault.empty())
-        facts.fault = FaultOfChain({signer, others, XKU_CODE_SIGN,
-                                    stamp.isTrusted ? stamp.moment.get() : nullptr, trustedRoots});
-    facts.isTrusted = facts.fault.empty();
+    info.stamped = stamp.time;
+    info.stampedBy = stamp.signer;
+    info.fault = stamp.fault;
+    if (info.fault.empty())
+        info.fault = FaultOfChain({signer, others, XKU_CODE_SIGN,
+                                   stamp.isTrusted ? stamp.moment.get() : nullptr, trustedRoots});
+    info.isTrusted = info.fault.empty();
 }
 
 SignatureInfo Refused(Text fault)
@@ -115,20 +115,20 @@ SignatureInfo ReadSignatureData(std::span<const std::byte> signature,
     if (!signers || sk_X509_num(signers.get()) != 1)
         return Refused("signaturen saknar sitt certifikat");
 
-    SignatureInfo facts;
+    SignatureInfo info;
     X509* signer = sk_X509_value(signers.get(), 0);
-    facts.signer = NameIn(X509_get_subject_name(signer));
-    facts.issuer = NameIn(X509_get_issuer_name(signer));
+    info.signer = NameIn(X509_get_subject_name(signer));
+    info.issuer = NameIn(X509_get_issuer_name(signer));
     if (!NamesDigest(*content, programDigest))
-        facts.fault = "filen har ändrats sedan den signerades";
+        info.fault = "filen har ändrats sedan den signerades";
     else if (!IsSignedBy(signedData.get(), *content))
-        facts.fault = "signaturen stämmer inte med sitt certifikat";
+        info.fault = "signaturen stämmer inte med sitt certifikat";
     else
-        facts.isIntact = true;
-    if (facts.isIntact)
-        ReadTrust(signedData.get(), signer, trustedRoots, facts);
+        info.isIntact = true;
+    if (info.isIntact)
+        ReadTrust(signedData.get(), signer, trustedRoots, info);
     ERR_clear_error();
-    return facts;
+    return info;
 }
 
 } // namespace quillon

@@ -61,7 +61,7 @@ std::optional<EarlierVersion> ListedVersion(const SetupInformation& setup, const
     for (const InstallScope scope : scopes) {
         const RegistryKey entry = UninstallEntryKey(setup.project.ProjectName.ProjectName, scope);
         if (const auto folder =
-                FolderOfProduct(setup, files, FolderNamedBy(target, entry, "InstallLocation")))
+                FolderOfProduct(setup, files, FolderNamedBy(target, entry, kInstallLocation)))
             return EarlierVersion{*folder, scope};
     }
     return std::nullopt;
