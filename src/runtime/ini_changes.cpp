@@ -80,8 +80,8 @@ void Change(const FileRewriting& rewriting, const Text& path, Work work)
 
 } // namespace
 
-// The write protection goes first, or nothing could take the file's place. A removal that is broken
-// off behind that finds it on the temporary file.
+// The write protection goes first, or nothing could take the file's place. A run that is
+// interrupted before the end leaves it on the temporary file, where the next one finds it.
 void RewriteFile(const FileRewriting& rewriting, const Text& path, std::string_view bytes)
 {
     FileSystem& files = rewriting.files;

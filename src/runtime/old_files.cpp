@@ -43,7 +43,7 @@ bool IsAsInstalled(const FileSystem& files, const record::Content& content)
     return isSame;
 }
 
-// Older records do not tell what a shortcut held. One that still leads to the product is taken for
+// Older records do not hold what a shortcut was. One that still leads to the product is taken for
 // unchanged.
 bool IsOwnShortcut(const EarlierFiles& earlier, const Text& path)
 {

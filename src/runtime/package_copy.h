@@ -1,5 +1,5 @@
 // Files of the package that the setup copies to its private folder, to start or to install them
-// from there. The copy is held against the manifest and not the file in the package: nobody else
+// from there. The copy is compared with the manifest, and not the file in the package: nobody else
 // can change the copy, while the package may lie where anybody can.
 #pragma once
 

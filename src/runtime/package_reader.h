@@ -27,7 +27,7 @@ struct PackageInput {
     Text workFolder; // private to this installation
     Text password;
     bool silent = false;
-    const PackageManifest* manifest = nullptr; // of files that have been held against it
+    const PackageManifest* manifest = nullptr; // of files that have been compared with it
 };
 
 class PackageReader {

@@ -1,7 +1,7 @@
 // A note that a setup of a product is at work, and in which folder, for the next run: a setup that
 // is killed in a folder that its user has chosen is named neither by the list of programs nor by
 // its package. It is a registry value, of the machine or, where that may not be written, of the
-// user; it is there before the journal of the transaction is, and goes behind it.
+// user; it is there before the journal of the transaction is, and goes after it.
 #pragma once
 
 #include "platform/file_system.h"

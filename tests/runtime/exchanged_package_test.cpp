@@ -33,7 +33,7 @@ protected:
         }
         package.manifest.state = PackageManifest::State::Whole;
     }
-    /// At the first change that the setup makes, which is behind the check of its files.
+    /// At the first change that the setup makes, which is after the check of its files.
     void ExchangeBehindTheCheck(const Text& path, const std::string& bytes)
     {
         files.beforeChange = [this, path, bytes] {

@@ -68,7 +68,7 @@ protected:
         return killed;
     }
 
-    // What ended last was killed behind its commit, and its journal may have gone since.
+    // What ended last was killed after its commit, and its journal may have gone since.
     bool wasCommitted = false;
 
     bool Finish()
@@ -76,7 +76,8 @@ protected:
         ActionLog log;
         if (FinishInterrupted({host, target, log}, kMain) == EarlierRun::Incomplete)
             return false;
-        // Killed before its journal was there, or behind it, a setup has left nothing but its note.
+        // Killed before its journal was there, or after it went, a setup has left nothing but its
+        // note.
         ForgetStartedSetups(target, "Exempel");
         return true;
     }

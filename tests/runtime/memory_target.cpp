@@ -163,7 +163,7 @@ void MemoryTarget::MoveAtRestart(const Text& from, const Text& to)
         ListMoveAtRestart(from, to);
 }
 
-// Pairs of texts, of which the second may be empty, and an empty text behind the last pair.
+// Pairs of texts, of which the second may be empty, and an empty text after the last pair.
 void MemoryTarget::ListMoveAtRestart(const Text& from, const Text& to)
 {
     constexpr std::uint32_t kListOfTexts = 7;

@@ -133,7 +133,7 @@ TEST_F(UpdateScope, IsToldByThePlan)
     EXPECT_THAT(plan, HasSubstr("\"entry\":\"HKEY_CURRENT_USER"));
 }
 
-// The project's own key tells the folder, the list of programs for whom it is.
+// The project's own key names the folder, the list of programs for whom it is.
 TEST_F(UpdateScope, IsTheListedOneWhereTheProjectsKeyNamesTheFolder)
 {
     ASSERT_EQ(Install("/S /CURRENTUSER"), ExitCode::Done) << Log();

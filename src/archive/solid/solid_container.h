@@ -10,7 +10,7 @@
 // - Memory: one frame's window, at most 32 MiB, and a last file that serves several rows, which
 // come one
 //   behind the other.
-// - The packed bytes of a frame are held against their SHA-256 before the first of them is
+// - The packed bytes of a frame are compared with their SHA-256 before the first of them is
 //   unpacked, and the index against its own. Whoever made the file made the digests too, so what
 //   comes out is measured nevertheless.
 #pragma once

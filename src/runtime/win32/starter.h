@@ -46,7 +46,7 @@ char* ReadFileOf(const wchar_t* path, DWORD& size);
 bool MakeWorkFolder(Starter& starter);
 
 /// Copies the program from the starter's folder to the private one; `to` is its path there. The
-/// copy is held against the list and not what it was made of: nobody else can change it any more.
+/// copy is compared with the list, and not what it was made of: nobody else can change it any more.
 /// Where it is no good, or can't be copied, that file is the refused one.
 bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& program,
                       const ListedFiles& listed);
