@@ -1,5 +1,6 @@
 #include "runtime/started_setups.h"
 
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/planned_shortcuts.h"
