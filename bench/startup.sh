@@ -32,7 +32,7 @@ fi
 printf '[Options]\r\nMyDocFolderAutoCreateDone=1\r\n' >"$work/config/quillon/QUILLON.INI"
 
 exec {display_pipe}<> <(:)
-Xvfb -displayfd "$display_pipe" -screen 0 1280x900x24 >/dev/null 2>&1 &
+Xvfb -noreset -displayfd "$display_pipe" -screen 0 1280x900x24 >/dev/null 2>&1 &
 xvfb=$!
 read -r number <&"$display_pipe"
 export DISPLAY=:$number

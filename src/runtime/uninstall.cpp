@@ -401,8 +401,10 @@ void Uninstallation::RemoveFolder(const Text& folder)
 bool Uninstallation::HoldsOnlyWhatGoes(const Text& folder) const
 {
     const std::vector<FolderEntry> entries = files_.List(folder);
+    // An installation that was undone may have left a program there that ran, such as this one.
     return std::all_of(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
-        return goesAtRestart_.count(LowerCase(JoinPath(folder, entry.name))) > 0;
+        const Text path = JoinPath(folder, entry.name);
+        return goesAtRestart_.count(LowerCase(path)) > 0 || IsRemovedAtRestart(input_.target, path);
     });
 }
 

@@ -85,8 +85,9 @@ class Control:
 def start_screen():
     """An X server of its own, and the number that it tells once it takes clients."""
     told, number = os.pipe()
+    # A server starts anew when its last client goes, and drops those that are about to connect.
     screen = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(number), "-screen", "0", "1280x900x24"],
+        ["Xvfb", "-noreset", "-displayfd", str(number), "-screen", "0", "1280x900x24"],
         pass_fds=[number],
         stderr=subprocess.DEVNULL,
     )
@@ -100,16 +101,23 @@ class Desktop:
     """A screen with the program on it."""
 
     def __init__(self, program, environment):
-        self.screen = start_screen()
-        self.manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
-        # A window that comes up while the window manager starts may be lost to it.
-        wait_for("the window manager", self.has_manager)
+        self.processes = []
         self.environment = {**environment, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
-        self.start(program)
+        try:
+            self.processes.append(start_screen())
+            self.processes.append(subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL))
+            # A window that comes up while the window manager starts may be lost to it.
+            wait_for("the window manager", self.has_manager)
+            self.start(program)
+        except BaseException:
+            # What goes on would hold the test's output open.
+            self.end()
+            raise
 
     def start(self, program):
         """Runs the program; a former one has ended."""
         self.program = subprocess.Popen(program, env={**os.environ, **self.environment})
+        self.processes.append(self.program)
 
     @staticmethod
     def has_manager():
@@ -120,7 +128,10 @@ class Desktop:
         return self
 
     def __exit__(self, *_):
-        for process in (self.program, self.manager, self.screen):
+        self.end()
+
+    def end(self):
+        for process in reversed(self.processes):
             process.kill()
             process.wait()
 

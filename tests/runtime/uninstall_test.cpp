@@ -379,6 +379,21 @@ TEST_F(UninstallTest, LeavesNoFolderBehindForAFileThatGoesAtTheNextStart)
     EXPECT_EQ(moved, (std::vector<Text>{kMain + "\\Bin\\prog.exe", kMain + "\\Bin", kMain}));
 }
 
+TEST_F(UninstallTest, LeavesNoFolderBehindForWhatAnUndoneSetupHasLeftToTheNextStart)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const Text away = kMain + "\\~qn1away.tmp";
+    memory.files.Put(away, "a program that runs");
+    target.MakeKey(RestartMovesKey());
+    target.listsMovesAtRestart = true;
+    target.MoveAtRestart(away, "");
+    EXPECT_EQ(UninstallProduct(), ExitCode::RestartNeeded);
+    std::vector<Text> moved;
+    for (const auto& [from, to] : target.movesAtRestart)
+        moved.push_back(from);
+    EXPECT_EQ(moved, (std::vector<Text>{away, kMain}));
+}
+
 TEST_F(UninstallTest, TouchesNothingOutsideTheFoldersOfTheProduct)
 {
     memory.files.Put("C:\\offer.txt", "offer");

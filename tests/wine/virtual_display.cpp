@@ -36,13 +36,14 @@ VirtualDisplay::VirtualDisplay(Displays displays)
     const std::string number = std::to_string(kNumberPipe);
     if (displays != Displays::Two) {
         const char* const size = displays == Displays::Fine ? "1920x1440x24" : "1024x768x24";
-        Start({"Xvfb", "-displayfd", number, "-screen", "0", size, "-nolisten", "tcp"});
+        Start({"Xvfb", "-noreset", "-displayfd", number, "-screen", "0", size, "-nolisten", "tcp"});
         return;
     }
     // One server has one display; a second one in its window has as many as its arguments say.
-    Start({"Xvfb", "-displayfd", number, "-screen", "0", "1900x800x24", "-nolisten", "tcp"});
-    Start({"Xephyr", "-displayfd", number, "-screen", "1024x768", "-origin", "1024,0", "-screen",
-           "800x600", "+xinerama", "-extension", "RANDR", "-nolisten", "tcp"});
+    Start({"Xvfb", "-noreset", "-displayfd", number, "-screen", "0", "1900x800x24", "-nolisten",
+           "tcp"});
+    Start({"Xephyr", "-noreset", "-displayfd", number, "-screen", "1024x768", "-origin", "1024,0",
+           "-screen", "800x600", "+xinerama", "-extension", "RANDR", "-nolisten", "tcp"});
 }
 
 void VirtualDisplay::Start(const std::vector<std::string>& words)
