@@ -71,8 +71,9 @@ private:
     Text joinedFile_;
     // By the rows' numbers. A row whose file lies by itself has no entry.
     std::map<int, const ZipEntry*> entries_;
-    std::map<int, LocalTime> dates_;              // where the entry has another one
-    std::map<Text, const Sha256Digest*> digests_; // of files by themselves, by lower-cased name
+    std::map<int, LocalTime> dates_; // where the entry has another one
+    // Of the files outside the archives, by lower-cased name.
+    std::map<Text, const Sha256Digest*> digests_;
 };
 
 bool IsEmptyFolderRow(const InstallRow& row);

@@ -107,7 +107,7 @@ private:
     bool partly_ = false;
 };
 
-// A path stands in several records where the product was installed more than once.
+// Several records name a path where the product was installed more than once.
 void Uninstallation::NoteLeft(const Text& what, const Text& why)
 {
     if (named_.insert(LowerCase(what)).second)

@@ -117,12 +117,7 @@ TEST_F(OldFilesTest, StayWhereSomebodyHasChangedThem)
 TEST_F(OldFilesTest, StayWhereTheRecordDoesNotTellWhatTheyHeld)
 {
     ASSERT_EQ(Install(), ExitCode::Done);
-    const Text log = kMain + "\\QNXUNIN.LOG";
-    Text without;
-    for (const Text& line : SplitLines(memory.files.Get(log)))
-        if (!line.starts_with("CONTENT") && !line.empty())
-            without += line + "\r\n";
-    memory.files.Put(log, without);
+    ForgetRecordedContents();
     Update();
     EXPECT_TRUE(memory.files.FileExists(kOld));
     EXPECT_THAT(Log(), HasSubstr(kOld + ": det är okänt om filen har ändrats"));

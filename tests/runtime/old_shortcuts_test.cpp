@@ -30,16 +30,6 @@ protected:
         package.rows[0].iconTitle = "Nytt namn";
         EXPECT_EQ(Install(switches), ExitCode::Done) << Log();
     }
-    // As older setups left it.
-    void ForgetContents()
-    {
-        const Text log = kMain + "\\QNXUNIN.LOG";
-        Text without;
-        for (const Text& line : SplitLines(memory.files.Get(log)))
-            if (!line.starts_with("CONTENT") && !line.empty())
-                without += line + "\r\n";
-        memory.files.Put(log, without);
-    }
     void ExpectKept(const Text& path, const char* reason)
     {
         EXPECT_TRUE(memory.files.FileExists(path));
@@ -85,7 +75,7 @@ TEST_F(OldShortcutsTest, StayWhereSomebodyHasChangedThem)
 TEST_F(OldShortcutsTest, OfOlderRecordsGoWhereTheyStillLeadToTheProduct)
 {
     ASSERT_EQ(Install(), ExitCode::Done) << Log();
-    ForgetContents();
+    ForgetRecordedContents();
     memory.files.Put(kInGroup, "C:\\Annat\\annan.exe||||");
     Update();
     EXPECT_FALSE(memory.files.FileExists(kOnDesktop));

@@ -219,6 +219,16 @@ MachineState SetupFixture::State() const
     return state;
 }
 
+void SetupFixture::ForgetRecordedContents()
+{
+    const Text log = kMain + "\\QNXUNIN.LOG";
+    Text without;
+    for (const Text& line : SplitLines(memory.files.Get(log)))
+        if (!line.starts_with("CONTENT") && !line.empty())
+            without += line + "\r\n";
+    memory.files.Put(log, without);
+}
+
 Text SetupFixture::Log() const
 {
     return *memory.files.nodes.at(LowerCase(kLogFile)).bytes;

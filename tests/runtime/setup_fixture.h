@@ -142,6 +142,8 @@ protected:
 
     ExitCode Install(const Text& switches = "/S");
     ExitCode UninstallProduct(const Text& log = "C:\\Program\\Exempel\\QNXUNIN.LOG");
+    /// Makes the record one of an older setup, which says of no file what it held.
+    void ForgetRecordedContents();
     MachineState State() const;
     /// The text of the log that Install writes.
     Text Log() const;
