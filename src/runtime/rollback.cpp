@@ -21,7 +21,8 @@ using Paths = std::set<Text>; // in lower case
 class Rollback {
 public:
     explicit Rollback(const RollbackInput& input)
-        : log_(input.log), host_(input.host), files_(input.host.files), target_(input.target)
+        : log_(input.log), host_(input.host), files_(input.host.files), target_(input.target),
+          running_(input.running)
     {
     }
 
@@ -54,6 +55,7 @@ private:
     Host& host_;
     FileSystem& files_;
     Target& target_;
+    RunningProgram* const running_;
     Paths lost_; // files aside that could not come back, and must not go
     // The files unregistered and the fonts withdrawn in this rollback.
     Paths unregistered_;
@@ -76,8 +78,16 @@ bool Rollback::UndoAll(const std::vector<JournalRecord>& steps)
 
 void Rollback::Undo(const record::Folder& folder)
 {
-    if (files_.DirExists(folder.path) && files_.List(folder.path).empty())
+    if (!files_.DirExists(folder.path))
+        return;
+    const std::vector<FolderEntry> entries = files_.List(folder.path);
+    const bool goesWithAll = std::all_of(entries.begin(), entries.end(), [&](const auto& entry) {
+        return IsRemovedAtRestart(target_, JoinPath(folder.path, entry.name));
+    });
+    if (entries.empty())
         files_.RemoveFolder(folder.path);
+    else if (goesWithAll)
+        target_.MoveAtRestart(folder.path, "");
 }
 
 void Rollback::Undo(const record::MovedAside& file)
@@ -152,6 +162,10 @@ void Rollback::MakeWay(const Text& path)
         return;
     std::optional<RunError> failure;
     if (RunErrorNumber([&] { RemoveEvenReadOnly(files_, path); }, failure) == ErrorNumber::kNone)
+        return;
+    if (running_ != nullptr)
+        running_->MoveAway(path);
+    if (!files_.FileExists(path))
         return;
     const Text away = JoinPath(ExtractDirectory(path),
                                "~qn" + NumberText(host_.machine.Random(1000000)) + "away.tmp");

@@ -5,6 +5,7 @@
 #include "platform/host.h"
 #include "runtime/action_log.h"
 #include "runtime/journal_records.h"
+#include "runtime/running_program.h"
 
 #include <vector>
 
@@ -14,6 +15,7 @@ struct RollbackInput {
     Host& host;
     Target& target;
     ActionLog& log;
+    RunningProgram* running = nullptr; // this one, where it may be what has to go
 };
 
 /// Takes the steps back, from the last to the first. False where one could not be taken back; the

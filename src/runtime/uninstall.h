@@ -14,17 +14,9 @@
 #include "runtime/action_log.h"
 #include "runtime/exit_codes.h"
 #include "runtime/installed_product.h"
+#include "runtime/running_program.h"
 
 namespace quillon {
-
-/// The file of a program that runs, which can't be removed like any other.
-class RunningProgram {
-public:
-    virtual ~RunningProgram() = default;
-    /// Gets it out of the main folder; it goes as soon as the program has ended. Nothing happens
-    /// where it is not the one at `uninstaller`, or where it can't be moved.
-    virtual void MoveAway(const Text& uninstaller) = 0;
-};
 
 struct UninstallInput {
     Host& host;

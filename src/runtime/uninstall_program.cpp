@@ -49,7 +49,8 @@ void UninstallProgram::Prepare()
 
 void UninstallProgram::FinishEarlierSetup(const Text& mainFolder)
 {
-    const EarlierRun earlier = FinishInterrupted({input_.host, input_.target, log_}, mainFolder);
+    const EarlierRun earlier =
+        FinishInterrupted({input_.host, input_.target, log_, input_.running}, mainFolder);
     if (earlier == EarlierRun::Incomplete)
         throw RunError(ErrorNumber::kPermissionDenied, mainFolder);
     hasFinishedEarlier_ = hasFinishedEarlier_ || earlier == EarlierRun::Finished;
@@ -70,7 +71,10 @@ UninstallProgram::Refusal UninstallProgram::WithoutProduct() const
 {
     // A first installation that was killed has been taken back.
     if (hasFinishedEarlier_)
-        return {ExitCode::Done, {}};
+        return {IsRemovedAtRestart(input_.target, ExtractDirectory(input_.program))
+                    ? ExitCode::RestartNeeded
+                    : ExitCode::Done,
+                {}};
     const Text& log = input_.line.journalPath;
     // Only what was in use is still there.
     if (IsRemovedAtRestart(input_.target, log) ||
@@ -146,7 +150,7 @@ ExitCode UninstallProgram::Tell(Ask& ask)
     return End(ExitCode::Done);
 }
 
-ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view, RunningProgram* running)
+ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view)
 {
     PassiveAsk withoutBoxes(ask);
     Ask& boxes = GivenSwitches().suppressBoxes ? withoutBoxes : ask;
@@ -167,7 +171,7 @@ ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view, RunningProgram* ru
         return End(ExitCode::Cancelled);
     view.ShowProgress(true);
     const UninstallResult result =
-        Uninstall({input_.host, input_.target, boxes, log_, log, *product_, running});
+        Uninstall({input_.host, input_.target, boxes, log_, log, *product_, input_.running});
     const ExitCode code = End(result.code);
     view.ShowProgress(false);
     TellTheEnd(result, boxes, view);

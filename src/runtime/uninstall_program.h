@@ -13,9 +13,10 @@ struct UninstallProgramInput {
     Host& host;
     Target& target;
     const UninstallerCommand& line;
-    Text program;                // the uninstaller's own file
-    bool otherSetupRuns = false; // a setup or another uninstaller on this machine
-    FileUsers* users = nullptr;  // null: nothing is known of programs that hold files
+    Text program;                      // the uninstaller's own file
+    bool otherSetupRuns = false;       // a setup or another uninstaller on this machine
+    FileUsers* users = nullptr;        // null: nothing is known of programs that hold files
+    RunningProgram* running = nullptr; // that file, where it runs
 };
 
 /// The uninstaller's windows beside the boxes of `Ask`. Where nothing is shown, nobody cancels.
@@ -40,7 +41,7 @@ public:
     /// In the language of the installation, once that is known.
     const LanguageTexts& Texts() const { return texts_; }
     Text Title() const;
-    ExitCode Run(Ask& ask, UninstallView& view, RunningProgram* running);
+    ExitCode Run(Ask& ask, UninstallView& view);
     /// After a failure was thrown: ends the logs, and gives what the user is to be shown.
     Text Fail(const std::exception& error);
 

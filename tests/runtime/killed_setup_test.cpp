@@ -6,6 +6,7 @@
 #include "formats/package_manifest.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "runtime/restart_moves.h"
 #include "runtime/rollback.h"
 #include "runtime/started_setups.h"
 #include "runtime/transaction_journal.h"
@@ -68,6 +69,20 @@ protected:
         return killed;
     }
 
+    // A first installation, killed when its uninstaller had come to its place, which then runs.
+    void KillWhereTheUninstallerRuns()
+    {
+        AddFile("prog.exe", "%DESTDIR\\Bin", "program");
+        const Machine start = Keep();
+        for (int n = 1; !memory.files.FileExists(kUninstaller); ++n) {
+            Restore(start);
+            ASSERT_TRUE(KillAt(n, [&] { Install(); }));
+        }
+        ASSERT_FALSE(wasCommitted);
+        files.running.insert(kUninstaller);
+    }
+
+    const Text kUninstaller = kMain + "\\QNXUNIN.EXE";
     // What ended last was killed after its commit, and its journal may have gone since.
     bool wasCommitted = false;
 
@@ -364,6 +379,46 @@ TEST_F(KilledSetup, LeavesItsJournalToTheNextRunWhereAFileIsHeldOpen)
     files.inUse.clear();
     EXPECT_TRUE(Finish());
     EXPECT_EQ(State(), before);
+}
+
+TEST_F(KilledSetup, LeavesNothingWhereItsUninstallerTakesItBack)
+{
+    class Running : public RunningProgram {
+    public:
+        explicit Running(FileSystem& files) : files_(files) {}
+        void MoveAway(const Text& path) override
+        {
+            if (path == kMain + "\\QNXUNIN.EXE")
+                files_.Rename(path, "T:\\QNXUNIN.TMP");
+        }
+
+    private:
+        FileSystem& files_;
+    };
+    memory.files.PutFolder("T:\\");
+    const MachineState before = State();
+    KillWhereTheUninstallerRuns();
+    Running running(files);
+    ActionLog log;
+    EXPECT_EQ(FinishInterrupted({host, target, log, &running}, kMain), EarlierRun::Finished);
+    EXPECT_TRUE(memory.files.FileExists("T:\\QNXUNIN.TMP"));
+    memory.files.RemoveFile("T:\\QNXUNIN.TMP");
+    ForgetStartedSetups(target, "Exempel");
+    EXPECT_EQ(State(), before);
+    EXPECT_TRUE(target.movesAtRestart.empty());
+}
+
+TEST_F(KilledSetup, LeavesAProgramThatCanNotLeaveItsFolderToTheNextStartWithThatFolder)
+{
+    target.MakeKey(RestartMovesKey());
+    target.listsMovesAtRestart = true;
+    KillWhereTheUninstallerRuns();
+    EXPECT_TRUE(Finish());
+    ASSERT_EQ(target.movesAtRestart.size(), 2U);
+    EXPECT_THAT(target.movesAtRestart[0].first, testing::MatchesRegex(".*~qn[0-9]+away[.]tmp"));
+    EXPECT_TRUE(memory.files.FileExists(target.movesAtRestart[0].first));
+    EXPECT_EQ(target.movesAtRestart[1], std::pair(kMain, Text()));
+    EXPECT_FALSE(memory.files.DirExists(kMain + "\\Bin"));
 }
 
 TEST_F(KilledSetup, IsNotTakenForOneThatIsStillAtWork)

@@ -61,6 +61,8 @@ void FailingFiles::RemoveFile(const Text& path)
     BeforeChange(path);
     if (inUse.count(path) > 0)
         throw RunError(ErrorNumber::kFileInUse, path);
+    if (running.count(path) > 0)
+        throw RunError(ErrorNumber::kPermissionDenied, path);
     files_.RemoveFile(path);
 }
 

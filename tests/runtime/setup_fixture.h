@@ -89,6 +89,8 @@ public:
 
     /// Files that a program holds open: they can be neither moved nor removed.
     std::set<Text> inUse;
+    /// Files of programs that run: they can be moved, but not removed.
+    std::set<Text> running;
     /// Files that others alone may move.
     std::set<Text> withoutRights;
     /// Locks that another program has.

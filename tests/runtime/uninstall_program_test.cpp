@@ -44,7 +44,7 @@ public:
 class Running : public RunningProgram {
 public:
     explicit Running(std::vector<Text>& events) : events_(events) {}
-    void MoveAway(const Text& uninstaller) override { events_.push_back("away " + uninstaller); }
+    void MoveAway(const Text& path) override { events_.push_back("away " + path); }
 
 private:
     std::vector<Text>& events_;
@@ -60,10 +60,11 @@ protected:
         UninstallerCommand line = ReadUninstallerCommand(commandLine);
         if (line.journalPath.empty())
             line.journalPath = kLog;
-        UninstallProgram program({host, target, line, kUninstaller, otherSetupRuns});
-        program.Prepare();
         Running running(lists.events);
-        return program.Run(scripted, lists, &running);
+        UninstallProgram program(
+            {host, target, line, kUninstaller, otherSetupRuns, nullptr, &running});
+        program.Prepare();
+        return program.Run(scripted, lists);
     }
 
     /// As the system writes a file down that it removes at its next start.
@@ -148,6 +149,28 @@ TEST_F(UninstallProgramTest, TellsWhatCouldNotBeRemoved)
     EXPECT_THAT(lists.pages[1].lines,
                 testing::Contains(kMain + "\\Bin\\prog.exe: åtkomst nekas till 'registret'"));
     EXPECT_TRUE(files.FileExists(kUninstaller));
+}
+
+TEST_F(UninstallProgramTest, AsksForARestartWhereWhatAKilledSetupLeftCanNotGoYet)
+{
+    const Text journal = "C:\\Program\\~qnsetup-Exempel.tmp";
+    const auto leave = [&] {
+        memory.files.Put(kUninstaller, "uninstaller");
+        memory.files.Put(journal, "Quillon installationsjournal 1\r\nFOLDER\t" + kMain +
+                                      "\r\nFILE\t" + kUninstaller + "\r\n");
+    };
+    leave();
+    EXPECT_EQ(RunProgram("/S"), ExitCode::Done);
+    EXPECT_FALSE(memory.files.DirExists(kMain));
+
+    leave();
+    target.MakeKey(RestartMovesKey());
+    target.listsMovesAtRestart = true;
+    files.running.insert(kUninstaller); // and can't leave its folder
+    EXPECT_EQ(RunProgram("/S"), ExitCode::RestartNeeded);
+    EXPECT_FALSE(memory.files.FileExists(kUninstaller));
+    ASSERT_EQ(target.movesAtRestart.size(), 2U);
+    EXPECT_EQ(target.movesAtRestart[1].first, kMain);
 }
 
 TEST_F(UninstallProgramTest, NamesNothingTwice)
@@ -269,7 +292,7 @@ TEST_F(UninstallProgramTest, RefusesAWrongSwitchBeforeItChangesAnything)
         ReadUninstallerCommand("\"" + kLog + "\" /X /LOG=\"L:\\l.txt\"");
     UninstallProgram program({host, target, line, kUninstaller, otherSetupRuns});
     program.Prepare();
-    EXPECT_EQ(program.Run(scripted, lists, nullptr), ExitCode::BadSwitch);
+    EXPECT_EQ(program.Run(scripted, lists), ExitCode::BadSwitch);
     EXPECT_EQ(State(), before);
 }
 

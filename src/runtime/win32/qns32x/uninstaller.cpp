@@ -50,10 +50,10 @@ class WaitingStarter : public RunningProgram {
 public:
     WaitingStarter(const FileSystem& files, const Text& path) : files_(files), path_(path) {}
 
-    void MoveAway(const Text& uninstaller) override
+    void MoveAway(const Text& path) override
     {
-        if (EqualIgnoreCase(files_.ShortPath(path_), files_.ShortPath(uninstaller)))
-            MoveFileExW(WidePath(uninstaller).c_str(),
+        if (EqualIgnoreCase(files_.ShortPath(path_), files_.ShortPath(path)))
+            MoveFileExW(WidePath(path).c_str(),
                         WidePath(JoinPath(ProgramFolder(), kMovedUninstaller)).c_str(), 0);
     }
 
@@ -62,8 +62,7 @@ private:
     const Text& path_;
 };
 
-ExitCode RunOnWindows(HINSTANCE instance, UninstallProgram& program, const Switches& switches,
-                      RunningProgram& running)
+ExitCode RunOnWindows(HINSTANCE instance, UninstallProgram& program, const Switches& switches)
 {
     program.Prepare();
     // A folder that is the current one of a program can't be removed.
@@ -71,13 +70,13 @@ ExitCode RunOnWindows(HINSTANCE instance, UninstallProgram& program, const Switc
     if (switches.silent && !switches.passive) {
         SilentAsk silent;
         NoWindows none;
-        return program.Run(silent, none, &running);
+        return program.Run(silent, none);
     }
     // What has been removed can't be brought back half-way.
     WindowAsk window(instance, program.Title(), program.Texts(), WindowAsk::CanCancel::No);
     PassiveAsk passive(window);
     Windows windows(instance, window, !switches.passive);
-    return program.Run(switches.passive ? static_cast<Ask&>(passive) : window, windows, &running);
+    return program.Run(switches.passive ? static_cast<Ask&>(passive) : window, windows);
 }
 
 } // namespace
@@ -95,11 +94,12 @@ int RunUninstaller(HINSTANCE instance, const StarterLine& from)
     const SingleInstance only;
     // What they were started from is gone then.
     RestartManager users(RestartManager::StartsAgain::No);
-    UninstallProgram program({host, target, line, from.program, only.IsAlreadyRunning(), &users});
     WaitingStarter running(files, from.program);
+    UninstallProgram program(
+        {host, target, line, from.program, only.IsAlreadyRunning(), &users, &running});
     ExitCode code = ExitCode::Failed;
     try {
-        code = RunOnWindows(instance, program, line.switches, running);
+        code = RunOnWindows(instance, program, line.switches);
     } catch (const std::exception& error) {
         const Text text = program.Fail(error);
         if (!line.switches.silent && !line.switches.suppressBoxes)

@@ -1,0 +1,17 @@
+// The file of a program that runs, such as the uninstaller itself.
+#pragma once
+
+#include "helpers/text.h"
+
+namespace quillon {
+
+/// Such a file can't be removed like any other.
+class RunningProgram {
+public:
+    virtual ~RunningProgram() = default;
+    /// Gets the file out of its folder; it goes as soon as the program has ended. Nothing happens
+    /// where `path` is not its place, or where it can't be moved.
+    virtual void MoveAway(const Text& path) = 0;
+};
+
+} // namespace quillon
