@@ -152,14 +152,15 @@ std::string Huge(bool isProgressive, int side)
                      .components = 1,
                      .isProgressive = isProgressive,
                      .quality = 50},
-                    [](int y, std::vector<unsigned char>& row) {
-                        std::fill(row.begin(), row.end(), static_cast<std::uint8_t>(y / 100));
+                    [side](int y, std::vector<unsigned char>& row) {
+                        const int gray = static_cast<int>(std::int64_t{y} * 200 / side);
+                        std::fill(row.begin(), row.end(), static_cast<std::uint8_t>(gray));
                     });
 }
 
 TEST(DecodeJpeg, KeepsAHugePictureSmall)
 {
-    const std::string file = Huge(false, 20'000);
+    const std::string file = Huge(false, kHugeSide);
     const Usage usage = DecodeInChild([&] { return file; }, 1920, 1080);
     EXPECT_TRUE(usage.isOver);
     EXPECT_EQ(usage.fault, PictureFault::None);
@@ -167,8 +168,8 @@ TEST(DecodeJpeg, KeepsAHugePictureSmall)
         EXPECT_LT(usage.peakKilobytes, kMaxKilobytes);
     // It is laid out in its own size all the same.
     const PictureResult result = DecodePicture(file);
-    EXPECT_EQ(result.picture.Width(), 20'000);
-    EXPECT_EQ(result.picture.Height(), 20'000);
+    EXPECT_EQ(result.picture.Width(), kHugeSide);
+    EXPECT_EQ(result.picture.Height(), kHugeSide);
     BlockLetters letters;
     const Picture& shown = result.picture.InSize(200, 200, letters);
     EXPECT_NEAR(Red(shown, 100, 190), 190, 3);

@@ -525,7 +525,10 @@ TEST(DecodeMetafile, OfAMillionRecordsEnds)
             [&add] {
                 MadeMetafile file;
                 file.Window(0, 0, 1000, 800).Plain(kRedColour);
-                for (int i = 0; i < 1'000'000 && file.Records().size() < 40'000'000; ++i)
+                constexpr int kShare = kShareOfHugeSide * kShareOfHugeSide;
+                constexpr int kRecords = 1'000'000 / kShare;
+                constexpr std::size_t kBytes = 40'000'000 / kShare;
+                for (int i = 0; i < kRecords && file.Records().size() < kBytes; ++i)
                     add(file, i);
                 return file.File();
             },

@@ -130,7 +130,8 @@ Usage ReadAndPaintInChild(const Project& project, const FileSystem& files)
 TEST(ReadScreenFiles, OfSixLargePicturesStaysWithinBounds)
 {
     const TempFolder folder;
-    folder.Put("b", GrayBitmap(4900, 4900));
+    constexpr int kSide = 4904 / kShareOfHugeSide;
+    folder.Put("b", GrayBitmap(kSide, kSide));
     const OneFileDisk files(folder.Path("b"));
     for (const Flag stretch : {kOn, kOff}) {
         const Usage usage = ReadAndPaintInChild(FullDesign(stretch), files);
@@ -143,10 +144,11 @@ TEST(ReadScreenFiles, OfSixLargePicturesStaysWithinBounds)
 TEST(ReadScreenFiles, OfAHugeJpegInItsOwnSizeStaysWithinBounds)
 {
     const TempFolder folder;
-    folder.Put("b", MakeJpeg({.width = 20'000, .height = 20'000, .components = 1, .quality = 50},
-                             [](int, std::vector<unsigned char>& row) {
-                                 std::ranges::fill(row, std::uint8_t{0x40});
-                             }));
+    folder.Put("b",
+               MakeJpeg({.width = kHugeSide, .height = kHugeSide, .components = 1, .quality = 50},
+                        [](int, std::vector<unsigned char>& row) {
+                            std::ranges::fill(row, std::uint8_t{0x40});
+                        }));
     const OneFileDisk files(folder.Path("b"));
     const Usage usage = ReadAndPaintInChild(FullDesign(kOff), files);
     EXPECT_TRUE(usage.isOver);

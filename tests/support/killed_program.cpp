@@ -39,20 +39,24 @@ bool ChangesAFile(const __ptrace_syscall_info& info)
     case SYS_openat:
         return (info.entry.args[2] & (O_CREAT | O_TRUNC)) != 0;
     case SYS_write:
+    case SYS_writev:
     case SYS_pwrite64:
         return info.entry.args[0] > STDERR_FILENO;
 #ifdef SYS_open
     case SYS_open:
         return (info.entry.args[1] & (O_CREAT | O_TRUNC)) != 0;
     case SYS_rename:
+    case SYS_link:
     case SYS_unlink:
     case SYS_mkdir:
     case SYS_rmdir:
 #endif
     case SYS_renameat:
     case SYS_renameat2:
+    case SYS_linkat:
     case SYS_unlinkat:
     case SYS_mkdirat:
+    case SYS_fchmod:
     case SYS_ftruncate:
     case SYS_utimensat:
         return true;
