@@ -2,6 +2,7 @@
 
 #include "formats/variable_names.h"
 #include "helpers/number_text.h"
+#include "helpers/sha256.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -99,13 +100,21 @@ void ExtractPackage(const ExtractInput& input)
     PutInOrder(extracted, input.package);
     for (const auto& [row, path] : extracted) {
         const auto output = files.OpenOutput(path);
+        Sha256 digest;
         input.package.Extract(*row, [&](std::span<const std::byte> bytes) {
             output->Write(bytes);
+            digest.Add(bytes);
             done += bytes.size();
             input.ask.ShowProgress(done, total);
             input.ask.ProcessEvents();
         });
         output->Close();
+        try {
+            input.package.CheckDigest(*row, digest.Finish());
+        } catch (const SetupFailure&) {
+            files.RemoveFile(path);
+            throw;
+        }
         files.SetModified(path, input.package.Modified(*row));
         input.log.Line(Message::LogCopies, path);
     }

@@ -136,7 +136,7 @@ SetupEnd SetupProgram::Run()
         log_.Line(Message::LogDone);
         log_.End(code, done == ExitCode::Done ? RunEnd::Done : RunEnd::RestartDue);
         log_.Close();
-        return {code, startsMachineAnew_, logs_};
+        return {code, startsMachineAnew_, logs_, Title()};
     } catch (const std::exception& error) {
         const SetupFailure failure = FailureOfSetup(error, texts_);
         return {Fail(failure.Code(), failure.what())};

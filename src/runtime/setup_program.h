@@ -44,6 +44,7 @@ struct SetupEnd {
     // the uninstaller that was started, may end with any.
     bool startsMachineAnew = false;
     LogFiles logs = {}; // that were written, for `LogRefusedRestart`
+    Text title = {};    // of the setup's boxes
 };
 
 /// Installs, and reports to the user and the log what went wrong.

@@ -90,5 +90,20 @@ TEST_F(ExchangedPackage, IsUndoneWhereAFileThatLiesByItselfIsAnotherOne)
     EXPECT_EQ(memory.files.Get("C:\\Program\\Exempel\\prog.exe"), "program");
 }
 
+TEST_F(ExchangedPackage, IsNotExtractedWhereAFileThatLiesByItselfIsAnotherOne)
+{
+    sources.clear();
+    project.Media.TargetMedia = 3;
+    const Text path = "D:\\Paket\\src\\prog.exe";
+    memory.files.Put(path, "program");
+    MakeManifest({"src\\prog.exe"});
+    ExchangeBehindTheCheck(path, "virus!!");
+    EXPECT_EQ(Install("/S /EXTRACT:E:\\Ut"), ExitCode::DamagedPackage);
+    EXPECT_FALSE(memory.files.FileExists("E:\\Ut\\prog.exe"));
+    memory.files.Put(path, "program");
+    EXPECT_EQ(Install("/S /EXTRACT:E:\\Ut"), ExitCode::Done) << Log();
+    EXPECT_EQ(memory.files.Get("E:\\Ut\\prog.exe"), "program");
+}
+
 } // namespace
 } // namespace quillon::test

@@ -1,4 +1,5 @@
 // What the setup shows to its user, and that it shows nothing where nobody is there.
+#include "wine/driven_setup.h"
 #include "wine/package.h"
 #include "wine/registry_text.h"
 #include "wine/sample_product.h"
@@ -25,10 +26,7 @@ TEST_P(MessageBoxes, HaveButtonsInTheLanguageOfThePackage)
     fs::copy_file(TestProgramFolder() / "box_captions.exe", prefix.DriveC() / "boxes.exe");
     fs::copy_file(fs::path(QUILLON_SOURCE_FOLDER) / "resources" / "Language" / GetParam().file,
                   prefix.DriveC() / "language.lng");
-    // There is no screen, and Wine has to know it, or it makes no window.
-    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
-              0U);
-    prefix.Stop();
+    UseNoScreen(prefix);
     ASSERT_EQ(prefix.Run("C:\\boxes.exe", "C:\\language.lng C:\\log.txt"), 0U);
     EXPECT_EQ(ReadBytes(prefix.DriveC() / "log.txt"), GetParam().captions);
 }

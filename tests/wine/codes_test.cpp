@@ -64,8 +64,7 @@ TEST_F(SetupCodes, WriteFilesOfTheirOwnNamesWhereNoneIsGiven)
 TEST_F(SetupCodes, AreTheSameByAnyWordForSilence)
 {
     Make();
-    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
-              0U);
+    UseNoScreen(prefix);
     Remember();
     for (const char* word : {"/SILENT", "-verysilent", "/q", "/qb", "/passive"}) {
         EXPECT_EQ(Setup(std::string(word) + " /RESULT=C:\\r.json"), 0U) << word;

@@ -4,15 +4,19 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 namespace quillon::test {
 
 namespace fs = std::filesystem;
 
+// Written into the registry's file, since a session of Wine takes longer than many a test.
 void UseNoScreen(const WinePrefix& prefix)
 {
-    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
-              0U);
     prefix.Stop();
+    std::ofstream registry(prefix.Folder() / "user.reg", std::ios::binary | std::ios::app);
+    registry << "\n[Software\\\\Wine\\\\Drivers]\n\"Graphics\"=\"null\"\n";
+    ASSERT_TRUE(registry.flush().good());
 }
 
 std::string DriveSetup(const WinePrefix& prefix, const std::string& script)

@@ -88,6 +88,44 @@ TEST_F(Keyboard, LeadsThroughEveryPage)
                   Order({browse, space, kBack, kNext, kCancel, folder}) + "code 0\n");
 }
 
+// An agreement that keeps its own keys would hold the user there.
+TEST_F(Keyboard, LeadsThroughThePagesInThePlaceOfOthers)
+{
+    WriteBytes(product.Drive() / "avtal.rtf",
+               R"({\rtf1\ansi{\fonttbl{\f0 Arial;}}\f0\fs20 Det h\'e4r g\'e4ller.})");
+    product.project.DialogBoxes = {.WelcomeDlg = 0,
+                                   .GeneralInfoDlg = 1,
+                                   .GeneralInfoDlg2 = 1,
+                                   .LicenseInfoRtfDlg = 1,
+                                   .DestinationDlg = 0,
+                                   .DestinationDriveDlg = 1,
+                                   .InstallCompletedDlg = 1};
+    section::DialogBoxData& data = product.project.DialogBoxData;
+    data.GeneralDlgText = "Om programmet.";
+    data.GeneralDlgText2 = "Mer om programmet.";
+    data.LicenseFilenameRtf = "S:\\avtal.rtf";
+    data.LicenseTitleRtf = "Avtalet";
+    const std::string drive = TitleOf(product, PageKind::DestinationDrive, TextsOf("SWEDISH"));
+    const int paper = IdOf(PageField::Agreement);
+    Script script;
+    script.Page("Generell information").Focus(kNext).Tap(kEnter);
+    script.Page("Generell information 2").Focus(kNext).Alt('B');
+    script.Page("Generell information").Focus(kNext).Alt('N');
+    script.Page("Generell information 2").Focus(kNext).Tabs(3).Tap(kEnter);
+    script.Page("Avtalet").Focus(kNext).Tabs(2).Tap(kEscape).Box(kNo);
+    script.Page("Avtalet").Focus(kNext).Tabs(4).Alt('B');
+    script.Page("Generell information 2").Focus(kNext).Tap(kEnter);
+    script.Page("Avtalet").Focus(kNext).Tabs(2).Tap(kEnter);
+    script.Page(drive).Focus(PageField::Drives).Tabs(5).Tap(kEnter);
+    script.Page("Komponenter").Focus(PageField::Components).Tap(kEnter);
+    script.Page("Installationen avslutad").Focus(kNext).Tap(kEnter).End();
+    EXPECT_EQ(Drive(script), Order({kCancel, kBack, kNext}) + Order({kCancel, paper}) + kQuestion +
+                                 Order({kCancel, paper, kBack, kNext}) + Order({kCancel, paper}) +
+                                 Order({IdOf(PageField::SpaceBox), kBack, kNext, kCancel,
+                                        IdOf(PageField::Drives)}) +
+                                 "code 0\n");
+}
+
 /// Alt and the letter that a caption underlines.
 char LetterOf(const std::string& caption)
 {

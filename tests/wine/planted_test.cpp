@@ -1,6 +1,7 @@
 // Libraries that somebody has laid beside the programs, under the names of the system's own: none
 // of the programs takes them.
 #include "runtime/pages/page.h"
+#include "wine/driven_setup.h"
 #include "wine/package.h"
 #include "wine/registry_text.h"
 #include "wine/sample_product.h"
@@ -140,10 +141,7 @@ TEST(PlantedLibraries, AreNotTakenByThePagesAndTheScreen)
     const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
     PlantIn(package);
     const WinePrefix prefix;
-    // There is no screen, and Wine has to know it, or it makes no window.
-    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
-              0U);
-    prefix.Stop();
+    UseNoScreen(prefix);
     PlantIn(prefix.OnHost("C:\\windows\\temp"));
     const fs::path driver = WorkFolder() / "drive_setup.exe";
     fs::copy_file(TestProgramFolder() / "drive_setup.exe", driver, fs::copy_options::skip_existing);
@@ -170,9 +168,7 @@ TEST(PlantedLibraries, AreNotTakenWithTheRestartManagerAndTheDialogs)
     product.project.NET.NET_TestIfInstalled = kOn;
     const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
     const WinePrefix prefix;
-    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
-              0U);
-    prefix.Stop();
+    UseNoScreen(prefix);
     ASSERT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
     fs::create_directory(prefix.DriveC() / "names");
     for (const fs::path& folder :
@@ -202,9 +198,7 @@ TEST(PlantedLibraries, AreNotTakenByTheWindowsOfTheUninstaller)
     SampleProduct product;
     const fs::path package = MakePackage(product.Order({"--medium", "cd"}));
     const WinePrefix prefix;
-    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
-              0U);
-    prefix.Stop();
+    UseNoScreen(prefix);
     ASSERT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
     const fs::path mainFolder = prefix.OnHost("C:\\Program Files\\Provpaket Åäö");
     PlantIn(mainFolder);

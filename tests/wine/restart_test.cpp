@@ -1,5 +1,6 @@
 // The restart that a project asks for. The driver is a program of the same session: Windows asks it
 // whether the session may end, and it says no, so that the test goes on.
+#include "wine/driven_setup.h"
 #include "wine/package.h"
 #include "wine/sample_product.h"
 
@@ -18,9 +19,7 @@ protected:
         product.project.InstallOptions.RestartWindows = kOn;
         product.project.DialogBoxes.DestinationDlg = 0;
         package = MakePackage(product.Order({"--medium", "cd"}));
-        EXPECT_EQ(
-            prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"), 0U);
-        prefix.Stop();
+        UseNoScreen(prefix);
     }
 
     std::string Drive(const std::string& switches, const std::string& script)
@@ -56,14 +55,18 @@ TEST_F(RestartedMachine, IsDueWhereWindowsRefuses)
     WriteBytes(prefix.DriveC() / "break.cmd",
                "move C:\\windows\\system32\\wineboot.exe C:\\wineboot.exe\r\n"
                "echo x>C:\\windows\\system32\\wineboot.exe\r\n");
-    EXPECT_EQ(Drive(" /LOG=C:\\l.txt /RESULT=C:\\r.json",
-                    "page Välkommen\npress 1\npage Komponenter\npress 1\n"
-                    "page Installationen avslutad\n"
-                    "other C:\\windows\\system32\\cmd.exe /c C:\\break.cmd\npress 1\nbox 2\nend\n"),
-              "code 0\n"
-              "Installation av Provpaket Åäö: Datorn startas om när du stänger den här rutan. "
-              "Spara först det som är öppet i andra program.\n"
-              "code 3010\n");
+    EXPECT_EQ(
+        Drive(
+            " /LOG=C:\\l.txt /RESULT=C:\\r.json",
+            "page Välkommen\npress 1\npage Komponenter\npress 1\n"
+            "page Installationen avslutad\n"
+            "other C:\\windows\\system32\\cmd.exe /c C:\\break.cmd\npress 1\nbox 2\nbox 2\nend\n"),
+        "code 0\n"
+        "Installation av Provpaket Åäö: Datorn startas om när du stänger den här rutan. "
+        "Spara först det som är öppet i andra program.\n"
+        "Installation av Provpaket Åäö: Datorn måste startas om innan programmet kan "
+        "användas.\n"
+        "code 3010\n");
     EXPECT_THAT(ReadBytes(prefix.DriveC() / "r.json"), testing::HasSubstr("\"code\":3010,"));
     EXPECT_THAT(ReadBytes(prefix.DriveC() / "l.txt"),
                 testing::EndsWith("Windows startar inte om datorn. Avslutar med kod 3010\r\n"));

@@ -1,5 +1,6 @@
 // The switches and codes of deployment tools, by what they leave on the machine: files, registry,
 // shortcuts and logs.
+#include "wine/driven_setup.h"
 #include "wine/setup_switches.h"
 
 #include <gmock/gmock.h>
@@ -120,8 +121,7 @@ TEST_F(SetupSwitches, SaveTheAnswersAndTakeThemAgain)
 TEST_F(SetupSwitches, ShowNothingAndNameTheOneThatIsWrong)
 {
     Make();
-    ASSERT_EQ(prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"),
-              0U);
+    UseNoScreen(prefix);
     Remember();
     for (const char* wrong :
          {"/FEL=1", "/ALLUSERS /CURRENTUSER", "/RESTARTEXITCODE=x", "/extract:ut", "/D=ut",

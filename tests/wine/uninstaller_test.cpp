@@ -1,4 +1,5 @@
 // The uninstaller against what crashes in it and against what somebody has laid in its way.
+#include "wine/driven_setup.h"
 #include "wine/package.h"
 #include "wine/registry_text.h"
 #include "wine/sample_product.h"
@@ -194,9 +195,7 @@ protected:
     // There is no screen, and Wine has to know it, or it makes no window.
     void SetUp() override
     {
-        ASSERT_EQ(
-            prefix.RunCommandLine("reg add HKCU\\Software\\Wine\\Drivers /v Graphics /d null"), 0U);
-        prefix.Stop();
+        UseNoScreen(prefix);
         product.Add("Data", "driver.exe", ReadBytes(TestProgramFolder() / "drive_setup.exe"));
         Install();
     }

@@ -200,6 +200,9 @@ int RunSetupProgram(HINSTANCE instance, const Text& line)
         end.code = CodeToEndWith(ExitCode::RestartNeeded, switches);
         WinFiles files;
         LogRefusedRestart({files, WinMachine(), texts, end.logs, end.code});
+        // A restart was announced or agreed to, so somebody waits for it.
+        ShowMessageBox(
+            nullptr, {end.title, texts[Message::RestartNeeded], MB_OK | MB_ICONINFORMATION}, texts);
     }
     return static_cast<int>(end.code);
 }
