@@ -35,6 +35,7 @@ public:
 
 private:
     enum class Part { AllButEntry, Entry };
+    enum class Folders { Others, OfProductItself };
 
     void UndoAll(Part part);
     void Undo(std::size_t index);
@@ -82,7 +83,7 @@ private:
     void UndoRestart(const record::AtRestart& move);
     void RemoveProductItself();
     void RemoveWhatUninstallerLines(const Text& uninstaller);
-    void RemoveFolders();
+    void RemoveFolders(Folders which);
     void RemoveFolder(const Text& folder);
     bool HoldsOnlyWhatGoes(const Text& folder) const;
     bool IsOfEntry(const JournalRecord& record) const;
@@ -151,11 +152,12 @@ UninstallResult Uninstallation::Run()
     for (const record::AtRestart& move : paths_.Pending())
         Attempt(move.from, [&] { UndoRestart(move); });
     RemoveKeysThatAreEmptyByNow();
+    RemoveFolders(Folders::Others);
     if (!partly_)
         UndoAll(Part::Entry);
     if (!partly_)
         Attempt(input_.journalPath, [&] { RemoveProductItself(); });
-    RemoveFolders();
+    RemoveFolders(Folders::OfProductItself);
     NoteWhatIsNotEmpty();
     const ExitCode done = goesAtRestart_.empty() ? ExitCode::Done : ExitCode::RestartNeeded;
     return {partly_ ? ExitCode::Failed : done, std::move(left_)};
@@ -370,11 +372,19 @@ void Uninstallation::RemoveWhatUninstallerLines(const Text& uninstaller)
             RemoveFile(path);
 }
 
-void Uninstallation::RemoveFolders()
+// The main folder and those above it hold the journal, and without it nobody knows which folders
+// are the product's.
+void Uninstallation::RemoveFolders(Folders which)
 {
-    for (auto record = records_.rbegin(); record != records_.rend(); ++record)
-        if (const auto* const folder = std::get_if<record::Folder>(&*record))
+    const Text journal = LowerCase(input_.journalPath);
+    for (auto record = records_.rbegin(); record != records_.rend(); ++record) {
+        const auto* const folder = std::get_if<record::Folder>(&*record);
+        if (folder == nullptr)
+            continue;
+        const bool holdsJournal = journal.starts_with(LowerCase(folder->path) + "\\");
+        if (holdsJournal == (which == Folders::OfProductItself))
             Attempt(folder->path, [&] { RemoveFolder(folder->path); });
+    }
 }
 
 void Uninstallation::RemoveFolder(const Text& folder)

@@ -181,7 +181,7 @@ TEST_F(UninstallProgramTest, NamesNothingTwice)
     EXPECT_EQ(RunProgram(), ExitCode::Done);
     ASSERT_EQ(lists.pages.size(), 2U);
     EXPECT_THAT(lists.pages[1].lines,
-                ElementsAre(kMain + ": mappen är inte tom", kMain + "\\Bin: mappen är inte tom"));
+                ElementsAre(kMain + "\\Bin: mappen är inte tom", kMain + ": mappen är inte tom"));
 }
 
 // The first installation has made the folder that the second one names first.
