@@ -33,6 +33,14 @@ protected:
         }
         package.manifest.state = PackageManifest::State::Whole;
     }
+    /// A CD tree, in which the file lies by itself.
+    void MakeTree()
+    {
+        sources.clear();
+        project.Media.TargetMedia = 3;
+        memory.files.Put(program, "program");
+        MakeManifest({"src\\prog.exe"});
+    }
     /// At the first change that the setup makes, which is after the check of its files.
     void ExchangeBehindTheCheck(const Text& path, const std::string& bytes)
     {
@@ -41,6 +49,8 @@ protected:
             files.beforeChange = [] {};
         };
     }
+
+    const Text program = "D:\\Paket\\src\\prog.exe";
 };
 
 TEST_F(ExchangedPackage, IsReadFromTheArchiveThatWasChecked)
@@ -75,16 +85,12 @@ TEST_F(ExchangedPackage, IsRefusedWhereItsArchiveCanNotBeHeld)
 
 TEST_F(ExchangedPackage, IsUndoneWhereAFileThatLiesByItselfIsAnotherOne)
 {
-    sources.clear();
-    project.Media.TargetMedia = 3;
-    const Text path = "D:\\Paket\\src\\prog.exe";
-    memory.files.Put(path, "program");
-    MakeManifest({"src\\prog.exe"});
+    MakeTree();
     const MachineState before = State();
-    ExchangeBehindTheCheck(path, "virus!!");
+    ExchangeBehindTheCheck(program, "virus!!");
     EXPECT_EQ(Install("/S /SAVEINF=L:\\svar.inf"), ExitCode::DamagedPackage);
     EXPECT_THAT(Log(), HasSubstr("prog.exe är skadad"));
-    memory.files.Put(path, "program");
+    memory.files.Put(program, "program");
     EXPECT_EQ(State(), before);
     EXPECT_EQ(Install(), ExitCode::Done) << Log();
     EXPECT_EQ(memory.files.Get("C:\\Program\\Exempel\\prog.exe"), "program");
@@ -92,15 +98,11 @@ TEST_F(ExchangedPackage, IsUndoneWhereAFileThatLiesByItselfIsAnotherOne)
 
 TEST_F(ExchangedPackage, IsNotExtractedWhereAFileThatLiesByItselfIsAnotherOne)
 {
-    sources.clear();
-    project.Media.TargetMedia = 3;
-    const Text path = "D:\\Paket\\src\\prog.exe";
-    memory.files.Put(path, "program");
-    MakeManifest({"src\\prog.exe"});
-    ExchangeBehindTheCheck(path, "virus!!");
+    MakeTree();
+    ExchangeBehindTheCheck(program, "virus!!");
     EXPECT_EQ(Install("/S /EXTRACT:E:\\Ut"), ExitCode::DamagedPackage);
     EXPECT_FALSE(memory.files.FileExists("E:\\Ut\\prog.exe"));
-    memory.files.Put(path, "program");
+    memory.files.Put(program, "program");
     EXPECT_EQ(Install("/S /EXTRACT:E:\\Ut"), ExitCode::Done) << Log();
     EXPECT_EQ(memory.files.Get("E:\\Ut\\prog.exe"), "program");
 }
