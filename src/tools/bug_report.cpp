@@ -80,6 +80,15 @@ std::vector<Text> LinesOfDiagnosis(const FileSystem& files, const Text& path)
     return lines;
 }
 
+/// The copy's name. One that was opened among the reports is not written over.
+Text AttachedName(const OpenProjectState& state, const Text& ownFolder)
+{
+    const Text title = ProjectTitle(state.ProjectFileName);
+    const bool isOpenProject =
+        EqualIgnoreCase(JoinPath(BugReportFolder(ownFolder), title), state.ProjectFileName);
+    return isOpenProject ? "kopia-" + title : title;
+}
+
 Text SystemsText(const BugReportAnswers& answers)
 {
     Text text;
@@ -180,7 +189,7 @@ Text BugReportText(const BugReportAnswers& answers, const OpenProjectState& stat
     report.Line(diagnosis[kFirstLineOfDiagnosis - 1]);
     report.Line(diagnosis[kSecondLineOfDiagnosis - 1]);
     report.Rule();
-    report.Line("Bifogad projetfil:   " + ProjectTitle(state.ProjectFileName));
+    report.Line("Bifogad projetfil:   " + AttachedName(state, ownFolder));
     report.Rule();
     report.Line();
     report.Heading("Frågor & Svar");
@@ -211,7 +220,7 @@ void WriteBugReport(const BugReportAnswers& answers, Project& project,
     WriteWholeFile(host.files, BugReportFile(ownFolder),
                    AnsiText::Holds(text) ? AnsiText::ToBytes(text) : Text(kUtf8Bom) + text);
     if (state.ProjectFileName != kUnsavedProjectName)
-        WriteProjectFile(project, JoinPath(folder, ProjectTitle(state.ProjectFileName)), host, ask);
+        WriteProjectFile(project, JoinPath(folder, AttachedName(state, ownFolder)), host, ask);
 }
 
 } // namespace quillon

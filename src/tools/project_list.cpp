@@ -149,8 +149,9 @@ ProjectList ReadProjectList(const Host& host, const Text& settingsFile)
     reader.SetIniFile(host.files, settingsFile);
     ProjectList list;
     list.paths = EntriesOf(reader);
+    std::set<Text> known;
     for (const Text& path : list.paths)
-        if (host.files.FileExists(path))
+        if (host.files.FileExists(path) && known.insert(LowerCase(path)).second)
             list.projects.push_back(Summary(host, path));
     return list;
 }

@@ -114,6 +114,17 @@ TEST_F(BugReportTest, HasNoCopyOfAProjectThatWasNeverSaved)
     EXPECT_FALSE(machine.files.FileExists("C:\\Quillon\\BugReport\\noname"));
 }
 
+TEST_F(BugReportTest, WritesOverNoProjectThatIsOpen)
+{
+    state.ProjectFileName = "C:\\Quillon\\bugreport\\Hej.qnp";
+    machine.files.Put(state.ProjectFileName, "as the author saved it");
+    Write();
+    EXPECT_EQ(machine.files.Get(state.ProjectFileName), "as the author saved it");
+    EXPECT_THAT(machine.files.Get("C:\\Quillon\\BugReport\\kopia-Hej.qnp"),
+                HasSubstr("ProjectName = Hej\r\n"));
+    EXPECT_THAT(machine.files.Get(kReport), HasSubstr("Bifogad projetfil:   kopia-Hej.qnp\r\n"));
+}
+
 TEST_F(BugReportTest, IsWrittenAgainOverTheOldOne)
 {
     Write();

@@ -183,6 +183,17 @@ TEST_F(ProjectListTest, KnowsAPathInWhateverCaseItIsSpelt)
     EXPECT_THAT(Names(), ElementsAre("Alfa", "Gamma"));
 }
 
+TEST_F(ProjectListTest, ShowsAProjectThatIsNamedTwiceOnce)
+{
+    PutSettings("[ProjectManager]\r\nProjectFiles=3\r\nPF1=C:\\A\\a.qnp\r\nPF2=c:\\a\\A.QNP\r\n"
+                "PF3=C:\\B\\b.qnp\r\n");
+    const ProjectList list = Read();
+    EXPECT_THAT(Names(), ElementsAre("Alfa", "Beta"));
+    SaveProjectList(machine.files, kSettings, list, {list.projects[1]});
+    EXPECT_THAT(machine.files.Get(kSettings), HasSubstr("ProjectFiles=1\r\n"));
+    EXPECT_THAT(Names(), ElementsAre("Beta"));
+}
+
 TEST_F(ProjectListTest, ReadsEachFileOnce)
 {
     struct CountingFiles : MemoryFiles {
@@ -244,6 +255,27 @@ TEST_F(ProjectListTest, AddsNoProjectTwice)
     state.ProjectFileName = "C:\\Å\\A.QNP";
     ask.Expect({BoxKind::Inform, "Info", "Projektfilen finns redan i projektlistan!"});
     EXPECT_FALSE(Add({{.path = "c:\\å\\a.qnp"}}));
+}
+
+TEST_F(ProjectListTest, AddsNoProjectWhosePathHasNoRoomInTheFile)
+{
+    project.ProjectName.ProjectName = "Hej";
+    state.ProjectFileName = "C:\\Ω" + Text(6000, 'x') + ".qnp";
+    ask.Expect({BoxKind::Critical, "Fel",
+                "Sökvägen till projektfilen kan ej stå i projektlistan. Spara projektet under ett "
+                "annat namn först."});
+    EXPECT_FALSE(Add());
+}
+
+TEST_F(ProjectListTest, DatesAnAddedProjectAnewWhenItIsReadAgain)
+{
+    project.ProjectName.ProjectName = "Alfa";
+    state.ProjectFileName = "C:\\A\\a.qnp";
+    const auto row = Add();
+    ASSERT_TRUE(row);
+    EXPECT_EQ(row->date, "2004-03-01");
+    SaveProjectList(machine.files, kSettings, {}, {*row});
+    EXPECT_EQ(Read().projects.at(0).date, "2003-05-06");
 }
 
 TEST_F(ProjectListTest, AddsTheOpenProjectFromMemory)

@@ -168,6 +168,33 @@ TEST_F(WizBugReportTest, ShowsTheReportBeforeItIsWritten)
     EXPECT_TRUE(Page(7).cmdNext->isEnabled());
 }
 
+TEST_F(WizBugReportTest, WritesTheReportAgainOverTheOldOne)
+{
+    PutDiagnosis();
+    const test::ExpectedBox created{BoxKind::Inform, "Felrapport skapad"};
+    wizard.answers.systems[5] = true;
+    Show(5);
+    Find<QPlainTextEdit>(Page(5), "tBugDescription").setPlainText("Allt stannar.");
+    Click(Page(5), "cmdNext");
+    Show(7);
+    ask.Expect(created);
+    Click(Page(7), "cmdCreateReport");
+    Show(8);
+    Click(Page(8), "cmdPrev");
+    Show(7);
+    Click(Page(7), "cmdPrev");
+    Show(5);
+    EXPECT_EQ(Find<QPlainTextEdit>(Page(5), "tBugDescription").toPlainText(), "Allt stannar.");
+    Find<QPlainTextEdit>(Page(5), "tBugDescription").setPlainText("Det stannar igen.");
+    Click(Page(5), "cmdNext");
+    Show(7);
+    ask.Expect(created);
+    Click(Page(7), "cmdCreateReport");
+    EXPECT_THAT(machine.files.Get(kReport), HasSubstr("Det stannar igen."));
+    EXPECT_THAT(machine.files.Get(kReport), testing::Not(HasSubstr("Allt stannar.")));
+    EXPECT_THAT(machine.files.Get(kReport), HasSubstr("'Win XP'"));
+}
+
 TEST_F(WizBugReportTest, TellsWhyTheReportCanNotBeWritten)
 {
     machine.files.Put(kDiagnosis, "1\n2\n");
