@@ -10,6 +10,7 @@
 #include "builder/package_writing.h"
 #include "builder/remove_quietly.h"
 #include "builder/runtime_files.h"
+#include "builder/selfextract/accompanying_program.h"
 #include "builder/selfextract/older_program.h"
 #include "builder/selfextract/self_extracting_file.h"
 #include "builder/setup_info_file.h"
@@ -197,19 +198,6 @@ Step CopyLanguageFile(CreateRun& run)
     CopyLanguageTo(run.BuildFolder(), name, run.options, run.host.files);
     run.packageFiles.push_back(name);
     return Step::GoOn;
-}
-
-// A copy that fails is passed over; the setup reports a missing program.
-void CopyAccompanyingProgram(CreateRun& run)
-{
-    const Text& program = run.project.RunAppSelfX.ProgramFilename;
-    if (program.empty())
-        return;
-    const Text name = ExtractFilename(program);
-    run.ask.AddStatusLine("Kopierar " + UpperCase(name));
-    const auto copy = [&] { run.host.files.CopyContent(program, run.InDestination(name)); };
-    if (RunErrorNumber(copy) == ErrorNumber::kNone)
-        run.packageFiles.push_back(name);
 }
 
 // The package that is packed is a whole one, with its manifest. One whose files could not be packed

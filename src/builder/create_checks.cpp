@@ -2,6 +2,7 @@
 
 #include "builder/file_container.h"
 #include "builder/row_checks.h"
+#include "builder/selfextract/self_extract_checks.h"
 #include "filelist/adding/redist_folder.h"
 #include "filelist/adding/system_files.h"
 #include "formats/icon_marker.h"
@@ -103,56 +104,6 @@ Check CheckNotOntoCd(CreateRun& run)
     return Check::Stopped;
 }
 
-Check CheckSelfExtractIcon(CreateRun& run)
-{
-    const Text& icon = run.project.InstallOptionsInternet.SelfExtractIconFilename;
-    const bool isMissing = run.form.TargetMedia == Medium::Internet && !icon.empty() &&
-                           !run.host.files.FileExists(icon);
-    if (!isMissing)
-        return Check::Passed;
-    run.ask.Critical(
-        "Ikon saknas",
-        "Den externa ikonen som ska användas till den självuppackande installationen "
-        "saknas eller så kan den ej öppnas! Kontrollera att ikonen verkligen existerar "
-        "vid angiven katalog eller välj en ny.");
-    return Check::Stopped;
-}
-
-Check CheckSelfExtractName(CreateRun& run)
-{
-    const Text& name = run.project.InstallOptionsInternet.SelfExtractFilename;
-    const bool isSame = run.form.TargetMedia == Medium::Internet &&
-                        UpperCase(run.project.InstallOptions.SetupName) == UpperCase(name);
-    if (!isSame)
-        return Check::Passed;
-    run.ask.Critical(
-        "Ogiltigt filnamn",
-        "Filnamnet på den självuppackande Internet-installationen får ej vara "
-        "detsamma som filnamnet på Setup-filen! Du måste välja ett annat filnamn än '" +
-            name + "'! Tryck på knappen 'Inställningar' för att ändra.");
-    return Check::Stopped;
-}
-
-// Windows starts no program of 4 GiB. What the files become is not known before, so what they are
-// counts.
-Check CheckSizeOfProgram(CreateRun& run)
-{
-    constexpr std::uint64_t kMaxSize = 0xFFFFFFFF - 16 * 1024 * 1024;
-    std::uint64_t size = 0;
-    if (run.form.TargetMedia == Medium::Internet)
-        for (const FileListRow& row : run.project.Files.rows)
-            RunErrorNumber([&] {
-                if (row.HasSource())
-                    size += run.host.files.Status(row[Source]).size;
-            });
-    if (size <= kMaxSize)
-        return Check::Passed;
-    run.ask.Critical("För stor installation",
-                     "Filerna är tillsammans större än 4 GB, och så stort kan ett självuppackande "
-                     "installationsprogram inte vara! Välj ett annat medium.");
-    return Check::Stopped;
-}
-
 // A name that leads out of the package's folder would overwrite whatever is there.
 Check CheckSetupNames(CreateRun& run)
 {
@@ -231,6 +182,7 @@ constexpr Check (*kChecksInOrder[])(CreateRun&) = {CheckProject,
                                                    CheckNotOntoCd,
                                                    CheckSelfExtractIcon,
                                                    CheckSelfExtractName,
+                                                   CheckAccompanyingProgram,
                                                    CheckSizeOfProgram,
                                                    CheckReservedFilenames,
                                                    CheckRows,

@@ -21,6 +21,11 @@ inline constexpr const char* kLicenseRtfName = "LICENSE.RTF";
 inline constexpr const char* kDataAccessArchive = "MDAC_TYP.ZIP";
 // Distinguishes a whole package from a half or a damaged one.
 inline constexpr const char* kManifestName = "PACKAGE.SHA256";
+// What a self-extracting program is made of and by, in the folder for as long as it is being made.
+inline constexpr const char* kSelfExtractArchive = "INSTALL.ZIP";
+inline constexpr const char* kSelfExtractProject = "INSTALL.ADX";
+// The name of such a program where the project gives none.
+inline constexpr const char* kSelfExtractDefaultName = "SELF.EXE";
 // Where files that are kept one by one lie.
 inline constexpr const char* kSetupFilesFolder = "SetupFiles";
 

@@ -139,6 +139,57 @@ const std::vector<Refusal>& Refusals()
            "Filnamnet på den självuppackande Internet-installationen får ej vara detsamma som "
            "filnamnet på Setup-filen! Du måste välja ett annat filnamn än 'Setup.exe'! Tryck på "
            "knappen 'Inställningar' för att ändra."}}},
+        {"the standard name for two programs",
+         7,
+         Medium::Internet,
+         [](CreateDesk& desk) {
+             desk.project.InstallOptionsInternet.SelfExtractFilename = "";
+             desk.project.InstallOptions.SetupName = "Self.exe";
+         },
+         {{BoxKind::Critical, "Ogiltigt filnamn",
+           "Filnamnet på den självuppackande Internet-installationen får ej vara detsamma som "
+           "filnamnet på Setup-filen! Du måste välja ett annat filnamn än 'SELF.EXE'! Tryck på "
+           "knappen 'Inställningar' för att ändra."}}},
+        {"program outside the folder",
+         7,
+         Medium::Internet,
+         [](CreateDesk& desk) {
+             desk.project.InstallOptionsInternet.SelfExtractFilename = "..\\self.exe";
+         },
+         {{BoxKind::Critical, "Ogiltigt filnamn",
+           "Filnamnet på den självuppackande Internet-installationen fungerar inte "
+           "('..\\self.exe'): tecknen \\ / : * ? \" < > | får inte ingå i ett namn. Tryck på "
+           "knappen 'Inställningar' för att ändra."}}},
+        {"program with the name of a packed file",
+         7,
+         Medium::Internet,
+         [](CreateDesk& desk) {
+             desk.project.InstallOptionsInternet.SelfExtractFilename = "Install.zip";
+         },
+         {{BoxKind::Critical, "Ogiltigt filnamn",
+           "Filnamnet på den självuppackande Internet-installationen fungerar inte "
+           "('Install.zip'): paketet har en annan fil med det namnet. Tryck på knappen "
+           "'Inställningar' för att ändra."}}},
+        {"first program with the name of the self-extracting one",
+         7,
+         Medium::Internet,
+         [](CreateDesk& desk) { desk.project.RunAppSelfX.ProgramFilename = "C:\\Data\\SELF.EXE"; },
+         {{BoxKind::Critical, "Ogiltigt filnamn",
+           "Programmet 'C:\\Data\\SELF.EXE', som ska köras i den självuppackande "
+           "installationen, har samma filnamn som en av installationens egna filer! Döp om "
+           "programmet och välj det på nytt."}}},
+        {"first program with the name of the starter",
+         7,
+         Medium::Internet,
+         [](CreateDesk& desk) { desk.project.RunAppSelfX.ProgramFilename = "C:\\Data\\setup.exe"; },
+         {{BoxKind::Critical, "Ogiltigt filnamn"}}},
+        {"first program with the name of a packed file",
+         7,
+         Medium::Internet,
+         [](CreateDesk& desk) {
+             desk.project.RunAppSelfX.ProgramFilename = "C:\\Data\\qns32x.bin";
+         },
+         {{BoxKind::Critical, "Ogiltigt filnamn"}}},
         {"reserved name",
          8,
          Medium::CompressedCd,

@@ -111,6 +111,46 @@ TEST_F(SelfExtractingFile, CarriesAWholePackage)
     EXPECT_THAT(names, ElementsAre("data/prog.exe", "data/a.txt", "data/b.txt"));
 }
 
+// The user has agreed that the folder is not empty; that is no leave to remove a source.
+TEST_F(SelfExtractingFile, LeavesTheFirstProgramWhereItLiesInTheFolderItself)
+{
+    desk.project.RunAppSelfX.ProgramFilename = "c:\\ut\\.\\starta.exe";
+    desk.machine.files.Put("C:\\Ut\\starta.exe", "start");
+    ASSERT_EQ(desk.Create({{BoxKind::YesNo, "Katalogen är ej tom", "", Answer::Yes}}),
+              CreateResult::Done);
+    EXPECT_THAT(desk.Package(), ElementsAre("self.exe", "starta.exe"));
+    EXPECT_EQ(desk.Get("starta.exe"), "start");
+    desk.machine.files.PutFolder("C:\\Upp");
+    FolderSink sink(desk.machine.files, "C:\\Upp");
+    Payload().Extract(sink);
+    Package package = OpenPackage(desk.machine.files, "C:\\Upp");
+    EXPECT_THAT(VerifyPackage(desk.machine.files, package), ElementsAre());
+    EXPECT_TRUE(package.manifest.Names("starta.exe"));
+}
+
+TEST_F(SelfExtractingFile, RemovesNoFileThatItHasNotCopied)
+{
+    desk.project.RunAppSelfX.ProgramFilename = "C:\\Data\\saknas.exe";
+    desk.machine.files.Put("C:\\Ut\\saknas.exe", "another");
+    ASSERT_EQ(desk.Create({{BoxKind::YesNo, "Katalogen är ej tom", "", Answer::Yes}}),
+              CreateResult::Done);
+    EXPECT_EQ(desk.Get("saknas.exe"), "another");
+}
+
+TEST_F(SelfExtractingFile, RemovesAllOfThePackage)
+{
+    desk.project.InstallOptions.UninstallSupport = kOn;
+    desk.project.Lists.RunScriptBefore = "MESSAGE 'a'";
+    desk.AddFile("c.dll")[CopyOptions] = "RA";
+    desk.project.DialogBoxes.LicenseInfoRtfDlg = 1;
+    desk.project.DialogBoxData.LicenseFilenameRtf = "C:\\Data\\avtal.rtf";
+    desk.machine.files.Put("C:\\Data\\avtal.rtf", "{\\rtf1 a}");
+    ASSERT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_THAT(desk.statusLines, IsSupersetOf({"Kopierar QNREG32.EXE", "Kopierar QNXREG2.EXE",
+                                                "Kopierar QNXUNIN.EXE", "Kopierar LICENSE.RTF"}));
+    EXPECT_THAT(desk.Package(), ElementsAre("self.exe"));
+}
+
 TEST_F(SelfExtractingFile, SendsProgramsThroughTheFilterAlsoInTheContainer)
 {
     ASSERT_EQ(desk.Create(), CreateResult::Done);
@@ -314,6 +354,26 @@ TEST_F(SelfExtractingFile, IsDescribedWithoutWhatItDoesNotHave)
               "9005=[PreLoader]\\r\\n\r\n9006=\r\n");
 }
 
+TEST_F(SelfExtractingFile, ShowsTheMessageThatIsDescribed)
+{
+    EXPECT_THAT(Described("[PreLoader]\r\nMsg_Extract=\"Vänta...\"\r\nMsg_NoRuntime=\"b\"\r\n"),
+                testing::AllOf(HasSubstr("72502=Vänta...\r\n"),
+                               HasSubstr("9005=[PreLoader]\\r\\nMsg_Extract=Vänta...\\r\\n"
+                                         "Msg_NoRuntime=\"b\"\\r\\n\r\n")));
+    const std::string longest(200, 'x');
+    EXPECT_THAT(Described("[PreLoader]\r\nMsg_Extract=" + longest + "y\r\n"),
+                testing::AllOf(HasSubstr("72502=" + longest + "\r\n"),
+                               HasSubstr("Msg_Extract=" + longest + "\\r\\n\r\n")));
+}
+
+TEST_F(SelfExtractingFile, TakesItsTextsFromTheSectionAndNoRemark)
+{
+    EXPECT_THAT(Described("; Texts of [PreLoader]\r\n[Setup]\r\nMsg_Extract=b\r\n[preloader]\r\n"
+                          "Msg_Extract=Vänta\r\n[Setup]\r\nX=1\r\n"),
+                testing::AllOf(HasSubstr("72502=Vänta\r\n"),
+                               HasSubstr("9005=[PreLoader]\\r\\nMsg_Extract=Vänta\\r\\n\r\n")));
+}
+
 TEST_F(SelfExtractingFile, AsksForTheRightsThatTheSetupAsksFor)
 {
     ASSERT_EQ(desk.Create(), CreateResult::Done);
@@ -333,9 +393,11 @@ TEST_F(SelfExtractingFile, TellsNoPathsOfTheMachineThatMadeIt)
 }
 
 // Whatever write fails: no program that looks finished, and the package's files are all there.
+// What can't be set of the paths ends the step without a line of its own.
 TEST_F(SelfExtractingFile, IsWholeOrNotThere)
 {
     int failures = 0;
+    int failuresWithoutLine = 0;
     for (int n = 1; n < 200; ++n) {
         CreateDesk fresh;
         fresh.Choose(Medium::Internet);
@@ -348,8 +410,14 @@ TEST_F(SelfExtractingFile, IsWholeOrNotThere)
             break;
         ++failures;
         EXPECT_FALSE(fresh.Has("self.exe")) << n;
+        const Text& last = fresh.statusLines.back();
+        const bool hasLine = last.starts_with("Fel #");
+        EXPECT_TRUE(hasLine || last.starts_with("Skapar SELF.EXE ")) << last;
+        failuresWithoutLine += hasLine ? 0 : 1;
     }
     EXPECT_GT(failures, 5);
+    EXPECT_GT(failuresWithoutLine, 0);
+    EXPECT_GT(failures, failuresWithoutLine);
 }
 
 TEST(WithResources, RefusesWhatHasNoRoomOrIsNoProgram)

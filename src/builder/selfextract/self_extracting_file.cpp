@@ -1,6 +1,7 @@
 #include "builder/selfextract/self_extracting_file.h"
 
 #include "builder/remove_quietly.h"
+#include "builder/selfextract/accompanying_program.h"
 #include "builder/selfextract/active_delivery.h"
 #include "builder/selfextract/older_program.h"
 #include "builder/signing/sign_programs.h"
@@ -10,6 +11,8 @@
 #include "helpers/ansi_text.h"
 #include "helpers/encoded_text.h"
 #include "helpers/windows_path.h"
+#include "ini/ini_text.h"
+#include "ini/profile_lines.h"
 #include "ini/profile_reader.h"
 #include "platform/whole_file.h"
 
@@ -19,10 +22,10 @@ namespace Attribute = SelfExtractAttribute;
 
 namespace {
 
-constexpr const char* kDefaultName = "SELF.EXE";
 constexpr const char* kStandardIconName = "SelfExtract.ico";
 constexpr const char* kTempFolderDirective = "<WinTemp>";
 constexpr const char* kProgramFolderDirective = "<Exe>";
+constexpr const char* kMessageKey = "Msg_Extract";
 constexpr int kMessageLimit = 201; // a text of 200 characters and the end mark
 
 struct SelfExtractInput {
@@ -146,23 +149,27 @@ constexpr AttributeRow kAttributesInOrder[] = {
 };
 // clang-format on
 
-// Whoever runs the program reads these before there is a language file.
-Text SectionOfTexts(const Text& file)
-{
-    const Text heading = Text("[") + kStarterSection + "]";
-    const std::size_t begin = LowerCase(file).find(LowerCase(heading));
-    if (begin == Text::npos)
-        return {};
-    const std::size_t end = file.find("\n[", begin);
-    return file.substr(begin, end == Text::npos ? end : end + 1 - begin);
-}
-
-Text MessageOf(const Text& file)
+Text MessageOf(const Text& languageFile)
 {
     ProfileReader reader;
-    reader.SetIniBytes(AnsiText::ToBytes(file));
+    reader.SetIniBytes(AnsiText::ToBytes(languageFile));
     reader.SetIniSection(kStarterSection);
-    return reader.ReadIniString("Msg_Extract", kMessageLimit);
+    return reader.ReadIniString(kMessageKey, kMessageLimit);
+}
+
+// Whoever runs the program reads these before there is a language file; of its message, what the
+// attribute says.
+Text TextsOf(const Text& languageFile, const Text& message)
+{
+    const auto section = ProfileSections(languageFile).Find(kStarterSection);
+    if (!section)
+        return {};
+    IniText texts(Text("[") + kStarterSection + "]\r\n" +
+                      languageFile.substr(section->begin, section->end - section->begin),
+                  IniText::Names::Utf8);
+    if (texts.Value(kStarterSection, kMessageKey))
+        texts.SetValue(kStarterSection, kMessageKey, message);
+    return texts.Bytes();
 }
 
 SelfExtractInput InputOf(const CreateRun& run)
@@ -172,11 +179,12 @@ SelfExtractInput InputOf(const CreateRun& run)
         bytes = ReadWholeFile(run.host.files, run.InDestination(run.project.Language.LanguageFile));
     });
     const Text languageFile = DecodedText(bytes);
+    const Text message = MessageOf(languageFile);
     return {.run = run,
             .archive = run.InDestination(kSelfExtractArchive),
             .result = run.InDestination(run.project.InstallOptionsInternet.SelfExtractFilename),
-            .message = MessageOf(languageFile),
-            .texts = SectionOfTexts(languageFile)};
+            .message = message,
+            .texts = TextsOf(languageFile, message)};
 }
 
 bool SetAttributes(ActiveDelivery& delivery, const Text& project, const SelfExtractInput& input)
@@ -224,9 +232,7 @@ void RemovePackedFiles(CreateRun& run)
           Text(RuntimePrograms::kUninstaller.inPackage), Text(kLicenseRtfName),
           Text(kManifestName)})
         RemoveQuietly(run.host.files, run.InDestination(name));
-    const Text& program = project.RunAppSelfX.ProgramFilename;
-    if (!program.empty())
-        RemoveQuietly(run.host.files, run.InDestination(ExtractFilename(program)));
+    RemoveCopyOfAccompanyingProgram(run);
 }
 
 } // namespace
@@ -235,7 +241,7 @@ bool BuildSelfExtractingFile(CreateRun& run)
 {
     Text& name = run.project.InstallOptionsInternet.SelfExtractFilename;
     if (name.empty())
-        name = kDefaultName;
+        name = kSelfExtractDefaultName;
     run.ask.AddStatusLine("Skapar " + UpperCase(name) + " (självuppackande installationsprogram)");
     const Text project = run.InDestination(kSelfExtractProject);
     const SelfExtractInput input = InputOf(run);
