@@ -34,8 +34,6 @@ public:
 
     Session& GetSession() { return session_; }
     const HostPaths& Paths() const { return paths_; }
-    /// Where the last development project was chosen; empty until one is.
-    Text& LastImportFolder() { return lastImportFolder_; }
 
     void ShowProject() override;
     void ShowTitle() override;
@@ -88,7 +86,6 @@ private:
     Session& session_;
     std::unique_ptr<EditHistory> edits_;
     HostPaths paths_;
-    Text lastImportFolder_;
     MainTabs* MainTab_ = nullptr;
     QLabel* statusPane_ = nullptr;
     QLabel* unsavedPane_ = nullptr;

@@ -54,8 +54,7 @@ ImportDesk MakeImportDesk(MainForm& form)
             .showMDADetails =
                 [&session](QWidget* parent) { DlgMDADetails(session, parent).ShowModal(); },
             .showTestNETFramework =
-                [&session](QWidget* parent) { DlgTestNETFramework(session, parent).ShowModal(); }},
-        .lastFolder = form.LastImportFolder()};
+                [&session](QWidget* parent) { DlgTestNETFramework(session, parent).ShowModal(); }}};
 }
 
 } // namespace quillon

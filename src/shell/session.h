@@ -37,6 +37,7 @@ struct Session {
     Text ProjectsFolder;
     Text LastInstallFilesDir = "C:\\";
     Text LastDepFileDir = "C:\\";
+    Text LastImportFolder; // of a build; empty until one is chosen
 
     // The design tab's surface, whose size goes into the package; the window keeps it up to date.
     DesignSurface surface;

@@ -345,8 +345,7 @@ protected:
     CreateForm create;
     InternetAdvanced advanced;
     FakeWindow mainWindow;
-    Text lastImportFolder;
-    const ImportDesk imports{session, mainWindow, {}, lastImportFolder};
+    const ImportDesk imports{session, mainWindow, {}};
     const QFont usualFont = QApplication::font();
 };
 

@@ -102,7 +102,7 @@ TEST_F(ImportWindows, AskForDestinationAndIconAndSelectTheProgram)
     EXPECT_EQ(session.project.Files.rows[1][Destination], "%DESTDIR");
     EXPECT_EQ(session.project.Files.rows[1][IconDesc], "Kundregister");
     EXPECT_THAT(form.SelectedRows(), ElementsAre(1U));
-    EXPECT_EQ(form.LastImportFolder(), "C:\\Proj");
+    EXPECT_EQ(session.Settings.Directories.LastVBNETProjDir, "C:\\Proj");
 }
 
 TEST_F(ImportWindows, OpenTheWindowsOfOtherSettings)

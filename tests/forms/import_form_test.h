@@ -44,8 +44,7 @@ protected:
                               [this](QWidget*) {
                                   captions.emplace_back("NET");
                                   session.project.NET.NET_TestIfInstalled = kOn;
-                              }},
-                .lastFolder = lastFolder};
+                              }}};
     }
 
     void Choose(QWidget& form, const char* button, const Text& file)
@@ -56,7 +55,6 @@ protected:
     void Expect(BoxKind kind, const Text& title) { ask.Expect({kind, title}); }
 
     FakeWindow window;
-    Text lastFolder;
     std::optional<Text> destination = "%DESTDIR";
     std::vector<Text> captions;
 };

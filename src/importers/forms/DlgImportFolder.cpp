@@ -15,7 +15,8 @@ constexpr int kLinesInView = 5;
 } // namespace
 
 DlgImportFolder::DlgImportFolder(const ImportDesk& desk, QWidget* parent)
-    : ImportForm("DlgImportFolder", "Importera programkatalog", desk, parent)
+    : ImportForm("DlgImportFolder", "Importera programkatalog", desk, desk.session.LastImportFolder,
+                 parent)
 {
     Named(NAMED(cbProgram), new QComboBox);
     connect(cbProgram, &QComboBox::activated, this, [this] { ShowFindings(); });
@@ -76,11 +77,12 @@ Piece DlgImportFolder::MakeOptions()
 void DlgImportFolder::SelectFolder()
 {
     const Session& session = Desk().session;
-    const auto folder = session.ask.SelectDir(
-        "Välj katalogen där programmet är byggt eller publicerat.", LastFolder());
+    const auto folder =
+        session.ask.SelectDir("Välj katalogen där programmet är byggt eller publicerat.",
+                              LastFolder().empty() ? session.ProjectsFolder : LastFolder());
     if (!folder)
         return;
-    RememberFolder(*folder);
+    LastFolder() = *folder;
     RunStoppable([&] {
         folder_ = ReadProgramFolder(session.host.files, *folder,
                                     [this](const Text& file) { return ShowStep("Läser " + file); });

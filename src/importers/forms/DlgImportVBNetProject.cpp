@@ -8,7 +8,8 @@
 namespace quillon {
 
 DlgImportVBNetProject::DlgImportVBNetProject(const ImportDesk& desk, QWidget* parent)
-    : ImportForm("DlgImportVBNetProject", "Importera Visual Basic .NET projekt", desk, parent)
+    : ImportForm("DlgImportVBNetProject", "Importera Visual Basic .NET projekt", desk,
+                 desk.session.Settings.Directories.LastVBNETProjDir, parent)
 {
     Named(NAMED(labNETtestStatus), new QLabel);
     Button(NAMED(CmdTestNETFramework), "&Ändra...", [this] {

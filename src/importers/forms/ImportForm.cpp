@@ -20,8 +20,9 @@ constexpr const char* kStop = "S&toppa";
 
 } // namespace
 
-ImportForm::ImportForm(const char* name, const Text& title, const ImportDesk& desk, QWidget* parent)
-    : Form(name, title, parent), desk_(desk)
+ImportForm::ImportForm(const char* name, const Text& title, const ImportDesk& desk,
+                       Text& lastFolder, QWidget* parent)
+    : Form(name, title, parent), desk_(desk), lastFolder_(lastFolder)
 {
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
             [this] { ShowFormHelp(); });
@@ -68,26 +69,21 @@ Piece ImportForm::Buttons()
     return HBox({CmdHelp, Stretch(), cmdImport, cmdClose});
 }
 
-Text ImportForm::LastFolder() const
-{
-    return desk_.lastFolder.empty() ? desk_.session.ProjectsFolder : desk_.lastFolder;
-}
-
 std::optional<Text> ImportForm::SelectProject(const Text& filter, const Text& fileName)
 {
     auto file = desk_.session.ask.OpenFile({.title = "Välj Visual Basic projekt",
-                                            .folder = LastFolder(),
+                                            .folder = lastFolder_,
                                             .fileName = fileName,
                                             .filter = filter});
     if (file)
-        desk_.lastFolder = ExtractDirectory(*file);
+        lastFolder_ = ExtractDirectory(*file);
     return file;
 }
 
 std::optional<Text> ImportForm::SelectProgram(const Text& folder)
 {
     return desk_.session.ask.OpenFile({.title = "Välj programfil",
-                                       .folder = folder.empty() ? LastFolder() : folder,
+                                       .folder = folder.empty() ? lastFolder_ : folder,
                                        .fileName = "*.exe",
                                        .filter = "Programfiler (*.exe)|*.exe"});
 }

@@ -27,7 +27,10 @@ public:
     void reject() override;
 
 protected:
-    ImportForm(const char* name, const Text& title, const ImportDesk& desk, QWidget* parent);
+    /// `lastFolder` is where the choices of the project and the program open, and takes the folder
+    /// of the project.
+    ImportForm(const char* name, const Text& title, const ImportDesk& desk, Text& lastFolder,
+               QWidget* parent);
 
     struct PathButton {
         const char* name;
@@ -55,8 +58,7 @@ protected:
     /// What the work is at; false once the user has stopped it.
     bool ShowStep(const Text& step);
 
-    Text LastFolder() const;
-    void RememberFolder(const Text& folder) { desk_.lastFolder = folder; }
+    Text& LastFolder() { return lastFolder_; }
 
     virtual ImportResult Import(const ImportWork& work) = 0;
     /// The table of the importers, read when it is needed for the first time.
@@ -79,6 +81,7 @@ private:
     bool MayGoOn(const Text& file) override;
 
     const ImportDesk desk_;
+    Text& lastFolder_;
     std::optional<ImportData> data_;
     std::optional<ImportResult> result_;
     bool isRunning_ = false;

@@ -6,6 +6,13 @@
 
 namespace quillon {
 
+// Both versions have projects of one kind (.vbp), so they share the folder.
+VbProjectForm::VbProjectForm(const char* name, const Text& title, const ImportDesk& desk,
+                             QWidget* parent)
+    : ImportForm(name, title, desk, desk.session.Settings.Directories.LastVB6ProjDir, parent)
+{
+}
+
 Piece VbProjectForm::ProjectFrame(const Text& version, const Text& folderHelp)
 {
     Named(NAMED(tVBDirectory), new QLineEdit);

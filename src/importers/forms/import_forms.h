@@ -1,5 +1,5 @@
-// What the windows of the importers are opened with: the session, the main window, the windows of
-// other folders that they open, and what is remembered for as long as the tool runs.
+// What the windows of the importers are opened with: the session, the main window, and the windows
+// of other folders that they open.
 #pragma once
 
 #include "importers/import_work.h"
@@ -24,8 +24,6 @@ struct ImportDesk {
     Session& session;
     MainWindow& window;
     ImportForms forms;
-    // The folder of the last project that was chosen; empty until one is.
-    Text& lastFolder;
 };
 
 void ShowImportVB5Project(const ImportDesk& desk, QWidget* parent);

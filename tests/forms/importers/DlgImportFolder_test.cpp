@@ -39,9 +39,14 @@ TEST_F(DlgImportFolderTest, ShowsWhatTheFolderHoldsAndLacks)
     DlgImportFolder form(Desk(), nullptr);
     ShowActive(form);
     EXPECT_FALSE(form.cbProgram->isEnabled());
+    session.Settings.Directories = {.LastVB6ProjDir = "C:\\VB6", .LastVBNETProjDir = "C:\\NET"};
+    session.ProjectsFolder = "C:\\Projekt";
     Choose(form, "cmdSelectFolder", "C:\\Out\\Kund");
     EXPECT_EQ(form.sFolder->text(), "C:\\Out\\Kund");
-    EXPECT_EQ(lastFolder, "C:\\Out\\Kund");
+    EXPECT_EQ(ask.questions[0].folder, "C:\\Projekt");
+    EXPECT_EQ(session.LastImportFolder, "C:\\Out\\Kund");
+    EXPECT_EQ(session.Settings.Directories.LastVB6ProjDir, "C:\\VB6") << "it is no project";
+    EXPECT_EQ(session.Settings.Directories.LastVBNETProjDir, "C:\\NET");
     EXPECT_EQ(form.cbProgram->currentText(), "Kund.exe");
     EXPECT_TRUE(form.cbProgram->isEnabled());
     EXPECT_THAT(Findings(form), ElementsAre("Programmet är för valfri processor.",

@@ -27,10 +27,12 @@ TEST_F(DlgImportVB5ProjectTest, OpensWithItsDefaultsAndScansNothing)
     EXPECT_EQ(TextIn(form, "tVBDirectory"), "C:\\VB");
     EXPECT_TRUE(form.cAddIcon->isChecked());
     EXPECT_FALSE(form.cImportDAO35->isChecked());
+    session.Settings.Directories.LastVB6ProjDir = "C:\\VB6";
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
+    EXPECT_EQ(ask.questions[0].folder, "C:\\VB6") << "as for the other projects of this kind";
     EXPECT_EQ(form.sVBPfile->text(), "C:\\Proj\\Kund.vbp");
     EXPECT_FALSE(form.cImportActiveXSysFiles->isChecked());
-    EXPECT_EQ(lastFolder, "C:\\Proj");
+    EXPECT_EQ(session.Settings.Directories.LastVB6ProjDir, "C:\\Proj");
 }
 
 TEST_F(DlgImportVB5ProjectTest, ImportsAndCloses)

@@ -1,6 +1,7 @@
 #include "importers/forms/DlgImportVB6Project.h"
 
 #include "forms/import_form_test.h"
+#include "shell/settings_file.h"
 #include "ui/PathLabel.h"
 
 #include <gmock/gmock.h>
@@ -46,11 +47,42 @@ TEST_F(DlgImportVB6ProjectTest, ScansTheProjectThatIsChosen)
     EXPECT_EQ(ask.questions[0].title, "Välj Visual Basic projekt");
     EXPECT_EQ(ask.questions[0].filter, "Visual Basic projekt (*.vbp)|*.vbp");
     EXPECT_EQ(ask.questions[0].fileName, "*.vbp");
-    EXPECT_EQ(ask.questions[0].folder, session.ProjectsFolder);
-    EXPECT_EQ(lastFolder, "C:\\Proj");
     Choose(form, "cmdSelectVBP", "");
-    EXPECT_EQ(ask.questions[1].folder, "C:\\Proj");
     EXPECT_EQ(form.sVBPfile->text(), "C:\\Proj\\Kund.vbp") << "a cancelled choice changes nothing";
+}
+
+TEST_F(DlgImportVB6ProjectTest, OpensItsChoicesInTheFolderOfTheSettings)
+{
+    LastFolders& folders = session.Settings.Directories;
+    folders.LastVB6ProjDir = "C:\\Källor\\VB6";
+    folders.LastVBNETProjDir = "C:\\Källor\\NET";
+    {
+        DlgImportVB6Project form(Desk(), nullptr);
+        ShowActive(form);
+        Choose(form, "cmdSelectVBP", "");
+        Choose(form, "cmdSelectEXE", "");
+        EXPECT_EQ(ask.questions[0].folder, "C:\\Källor\\VB6");
+        EXPECT_EQ(ask.questions[1].folder, "C:\\Källor\\VB6");
+        Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
+        Choose(form, "cmdSelectEXE", "C:\\Bin\\Kund.exe");
+        EXPECT_EQ(ask.questions[3].folder, "C:\\Proj");
+    }
+    EXPECT_EQ(folders.LastVB6ProjDir, "C:\\Proj") << "that of the project";
+    EXPECT_EQ(folders.LastVBNETProjDir, "C:\\Källor\\NET");
+    WriteDataToIniFile(session);
+    Session next = NewSession(machine.host, ask, "C:\\Quillon");
+    ReadDataFromIniFile(next);
+    EXPECT_EQ(next.Settings.Directories.LastVB6ProjDir, "C:\\Proj") << "at the next start";
+    EXPECT_EQ(next.Settings.Directories.LastVBNETProjDir, "C:\\Källor\\NET");
+}
+
+TEST_F(DlgImportVB6ProjectTest, OpensItsChoicesInMyDocumentsOnANewMachine)
+{
+    ReadDataFromIniFile(session);
+    DlgImportVB6Project form(Desk(), nullptr);
+    ShowActive(form);
+    Choose(form, "cmdSelectVBP", "");
+    EXPECT_EQ(ask.questions[0].folder, "C:\\Mina dokument");
 }
 
 TEST_F(DlgImportVB6ProjectTest, AsksForTheProgram)
@@ -124,7 +156,7 @@ TEST_F(DlgImportVB6ProjectTest, StopsInTheMidstOfAnImport)
     };
     StoppingAsk user{{{BoxKind::Inform, "Importen är avbruten"}}};
     Session other = NewSession(machine.host, user, "C:\\Quillon");
-    const ImportDesk desk{other, window, Desk().forms, lastFolder};
+    const ImportDesk desk{other, window, Desk().forms};
     DlgImportVB6Project form(desk, nullptr);
     ShowActive(form);
     user.choices = {{{"C:\\Proj\\Kund.vbp"}}, {{"C:\\Proj\\Kund.exe"}}};

@@ -33,11 +33,17 @@ TEST_F(DlgImportVBNetProjectTest, TellsWhetherTheFrameworkIsTested)
 
 TEST_F(DlgImportVBNetProjectTest, BeginsTheChoiceOfTheProgramWhereItIsBuilt)
 {
+    LastFolders& folders = session.Settings.Directories;
+    folders.LastVB6ProjDir = "C:\\VB6";
+    folders.LastVBNETProjDir = "C:\\NET";
     DlgImportVBNetProject form(Desk(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectEXE", "");
-    EXPECT_EQ(ask.questions[0].folder, session.ProjectsFolder);
+    EXPECT_EQ(ask.questions[0].folder, "C:\\NET");
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbproj");
+    EXPECT_EQ(ask.questions[1].folder, "C:\\NET");
+    EXPECT_EQ(folders.LastVBNETProjDir, "C:\\Proj");
+    EXPECT_EQ(folders.LastVB6ProjDir, "C:\\VB6");
     EXPECT_EQ(ask.questions[1].filter,
               "Visual Basic projekt (*.vbproj)|*.vbproj|C#-projekt (*.csproj)|*.csproj");
     EXPECT_EQ(ask.questions[1].fileName, "*.vbproj");
@@ -89,7 +95,7 @@ TEST_F(DlgImportVBNetProjectTest, ShowsItsProgressAmongManyLibrariesAndStopsTher
         machine.files.Put("C:\\Proj\\bin\\lib" + std::to_string(i) + ".dll", "MZ");
     WatchingAsk user{{{BoxKind::Inform, "Importen är avbruten"}}};
     Session other = NewSession(machine.host, user, "C:\\Quillon");
-    const ImportDesk desk{other, window, Desk().forms, lastFolder};
+    const ImportDesk desk{other, window, Desk().forms};
     DlgImportVBNetProject form(desk, nullptr);
     ShowActive(form);
     user.choices = {{{"C:\\Proj\\Kund.vbproj"}}, {{"C:\\Proj\\bin\\Kund.exe"}}};
