@@ -416,6 +416,31 @@ TEST_F(AddFile, LeavesOneRowOfAFileThatFailsTwice)
     EXPECT_EQ(list.rows[0][CopyOptions], "VS");
 }
 
+// A command that comes to a missing file again, by whatever list names it, goes on with its next
+// file.
+TEST_F(AddFile, TriesAMissingFileOnceForOneRow)
+{
+    machine.files.PutFolder("C:\\D");
+    list.rows = {MakeRow("Old.dll", "%DESTDIR")};
+    ScriptedAsk ask;
+    FileAdding adding(list, machine.host, ask, FileAdding::RowsWithoutSource::AreFilled);
+    for (const char* const name : {"old.dll", "new.dll"}) {
+        FileToAdd file = FileAt("C:\\D", name);
+        file.CheckDuplicates = true;
+        EXPECT_EQ(RunErrorNumber([&] { adding.AddFileToFileList(file); }),
+                  ErrorNumber::kFileNotFound);
+        EXPECT_EQ(adding.AddFileToFileList(file), std::nullopt) << name;
+        machine.files.PutFolder(Text("C:\\D\\") + name);
+        EXPECT_EQ(adding.AddFileToFileList(file), std::nullopt) << "no folder fills it";
+    }
+    EXPECT_THAT(NamesOf(list), ElementsAre("old.dll", "new.dll"));
+    machine.files.Put("C:\\E\\new.dll", "x");
+    FileToAdd found = FileAt("C:\\E", "new.dll");
+    found.CheckDuplicates = true;
+    EXPECT_EQ(adding.AddFileToFileList(found), 1U) << "a file that is there still does";
+    EXPECT_EQ(list.rows[1][Source], "c:\\e\\new.dll");
+}
+
 TEST_F(AddFile, LeavesAFontWhereTheCallerWantsIt)
 {
     machine.files.Put("C:\\D\\a.TTF", "x");

@@ -673,6 +673,30 @@ TEST_F(ImportVb6, TellsWhatADependencyFileNamesAndIsNotAdded)
                             "kunde adderas"));
 }
 
+// Neither of the two files is cut because the other one has told of what both name.
+TEST_F(ImportVb6, TellsAFileOnceThatTwoDependencyFilesMiss)
+{
+    PutProject("Object={1}; A.OCX\r\nObject={2}; B.OCX\r\n");
+    PutAll(kSystem, {"a.ocx", "b.ocx", "x.dll"});
+    machine.files.Put(kSystem + "\\a.dep", "[A.OCX]\r\nUses1=gone.dll\r\n");
+    machine.files.Put(kSystem + "\\b.dep", "[B.OCX]\r\nUses1=gone.dll\r\nUses2=x.dll\r\n");
+    const ExpectedBox gone{BoxKind::Critical, "Fel",
+                           "Filen 'c:\\windows\\system32\\gone.dll' finns inte."};
+    for (const bool isAgain : {false, true}) {
+        const ImportResult result = Run({gone, kDone});
+        EXPECT_THAT(Rows(), Contains("x.dll %SYSDIR DA")) << isAgain;
+        EXPECT_THAT(Missed(result),
+                    IsSupersetOf({"gone.dll: finns inte vid källsökvägen",
+                                  "A.DEP: är ej läst till slutet, eftersom en fil i den inte kunde "
+                                  "adderas"}));
+        EXPECT_THAT(Missed(result), Not(Contains(HasSubstr("B.DEP"))));
+        EXPECT_EQ(std::ranges::count(Rows(), "gone.dll %SYSDIR "), 1);
+        // The next import tries its row once again.
+        std::erase_if(project.Files.rows,
+                      [](const FileListRow& row) { return row[Filename] == "x.dll"; });
+    }
+}
+
 TEST_F(ImportVb6, AsksForTheIconOfTheProgram)
 {
     PutProject("");

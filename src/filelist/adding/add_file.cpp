@@ -49,7 +49,7 @@ FileAdding::FileAdding(FileList& files, Host host, Ask& ask, RowsWithoutSource w
     if (withoutSource_ == RowsWithoutSource::AreFilled)
         for (std::size_t i = 0; i < files_.rows.size(); ++i)
             if (LacksSource(files_.rows[i]))
-                toBeFilled_.push_back(i);
+                toBeFilled_.push_back({i, false});
 }
 
 FileAdding::~FileAdding()
@@ -90,7 +90,7 @@ std::optional<std::size_t> FileAdding::AddOrRefuse(const FileToAdd& file)
     // Before the duplicate test: of two names that differ in case alone, the second one's file is
     // not in the list.
     if (IsRefused(RefusalOfLowerCase(file.SourcePath, meant, found)) ||
-        IsRefusedAsDuplicate(file) ||
+        IsRefusedAsDuplicate(file, found && !found->isFolder) ||
         IsRefused(RefusalOfTexts(file.FileName, file.SourcePath, file.Destination)))
         return std::nullopt;
     if ((found && found->isHidden) || IsRefused(RefusalToRead(host_.files, stored)))
@@ -179,7 +179,8 @@ FileAdding::RowOutcome FileAdding::AddRow(const FileListRow& row, bool showDupli
                                          .SourcePath = row[Source],
                                          .Destination = row[Destination],
                                          .CheckDuplicates = true,
-                                         .ShowDuplicateMessage = showDuplicateMessage});
+                                         .ShowDuplicateMessage = showDuplicateMessage},
+                                        true);
     if (isDuplicate)
         return RowOutcome::Duplicate;
     Append(row);
@@ -203,7 +204,7 @@ bool FileAdding::IsGuardedHere(const Text& fileName, const Text& sourcePath) con
            EqualIgnoreCase(ExtractDirectory(sourcePath), host_.machine.GetSystemDir());
 }
 
-bool FileAdding::IsRefusedAsDuplicate(const FileToAdd& file)
+bool FileAdding::IsRefusedAsDuplicate(const FileToAdd& file, bool isThere)
 {
     if (!file.CheckDuplicates)
         return false;
@@ -212,7 +213,8 @@ bool FileAdding::IsRefusedAsDuplicate(const FileToAdd& file)
     if (!duplicates_->IsFileAlreadyInList(file.FileName, file.SourcePath, file.Destination))
         return false;
     // The index counts the rows to be filled too.
-    if (ToBeFilled(file.FileName, file.Destination) != toBeFilled_.end() &&
+    const auto place = ToBeFilled(file.FileName, file.Destination);
+    if (place != toBeFilled_.end() && (isThere || !place->wasTried) &&
         std::ranges::none_of(files_.rows, [&](const FileListRow& row) {
             return !LacksSource(row) && IsSameFile(row, file);
         }))
@@ -253,10 +255,11 @@ std::size_t FileAdding::AppendRow(FileListRow row, Fill fill)
 }
 
 // The row without its source that a file of this name and destination fills.
-std::vector<std::size_t>::iterator FileAdding::ToBeFilled(const Text& name, const Text& destination)
+std::vector<FileAdding::Unfilled>::iterator FileAdding::ToBeFilled(const Text& name,
+                                                                   const Text& destination)
 {
-    return std::ranges::find_if(toBeFilled_, [&](std::size_t number) {
-        const FileListRow& row = files_.rows[number];
+    return std::ranges::find_if(toBeFilled_, [&](const Unfilled& unfilled) {
+        const FileListRow& row = files_.rows[unfilled.row];
         return EqualIgnoreCase(row[Filename], name) &&
                EqualIgnoreCase(row[Destination], destination);
     });
@@ -266,15 +269,16 @@ std::size_t FileAdding::Append(FileListRow row)
 {
     if (const auto place = ToBeFilled(row[Filename], row[Destination]);
         place != toBeFilled_.end()) {
-        const std::size_t number = *place;
+        const std::size_t number = place->row;
         files_.rows[number] = std::move(row);
+        place->wasTried = true;
         if (!LacksSource(files_.rows[number]))
             toBeFilled_.erase(place);
         duplicates_.reset();
         return number;
     }
     if (withoutSource_ == RowsWithoutSource::AreFilled && LacksSource(row))
-        toBeFilled_.push_back(files_.rows.size());
+        toBeFilled_.push_back({files_.rows.size(), true});
     files_.rows.push_back(std::move(row));
     if (duplicates_)
         duplicates_->NoteNewRow();

@@ -40,7 +40,9 @@ public:
     // What becomes of the rows that lack their source, as failures leave them.
     enum class RowsWithoutSource {
         StayAsTheyAre,
-        AreFilled // by the next file of their name and destination, which is no duplicate of them
+        // By the next file of their name and destination, which is no duplicate of them. A file
+        // that is missing is tried for one row once in a command.
+        AreFilled
     };
 
     FileAdding(FileList& files, Host host, Ask& ask,
@@ -70,14 +72,19 @@ private:
     std::optional<std::size_t> AddOrRefuse(const FileToAdd& file);
     std::optional<std::size_t> AddSystemFile(const Text& fileName, bool isRuntimeFile);
     bool IsGuardedHere(const Text& fileName, const Text& sourcePath) const;
-    bool IsRefusedAsDuplicate(const FileToAdd& file);
+    bool IsRefusedAsDuplicate(const FileToAdd& file, bool isThere);
     bool IsRefused(const std::optional<Refusal>& refusal);
     bool IsNewEmptyFolder(const Text& destination);
     void FillFromDisk(FileListRow& row, const FileStatus& status, const Text& path) const;
     template <class Fill>
     std::size_t AppendRow(FileListRow row, Fill fill);
     std::size_t Append(FileListRow row);
-    std::vector<std::size_t>::iterator ToBeFilled(const Text& name, const Text& destination);
+    // A row that lacks its source.
+    struct Unfilled {
+        std::size_t row;
+        bool wasTried; // by this command, so only a file that is there fills it
+    };
+    std::vector<Unfilled>::iterator ToBeFilled(const Text& name, const Text& destination);
 
     FileList& files_;
     Host host_;
@@ -87,7 +94,7 @@ private:
     // Where the list makes empty folders, in lower case; made by the first that is added whole.
     std::optional<std::set<Text>> emptyFolders_;
     RowsWithoutSource withoutSource_;
-    std::vector<std::size_t> toBeFilled_; // rows that lack their source, if they are filled
+    std::vector<Unfilled> toBeFilled_; // empty where such rows stay as they are
     bool finished_ = false;
 };
 
