@@ -44,6 +44,11 @@ Text ExtractDirectory(std::string_view path)
     return FirstCharacters(keepsIt ? withBackslash : path.substr(0, last), kMaxPathLength);
 }
 
+bool HasFolder(std::string_view path)
+{
+    return path.find_first_of("\\/") != std::string_view::npos;
+}
+
 Text ChangeFilenameExt(std::string_view name, std::string_view extension)
 {
     const std::size_t nameStart = name.find_last_of(kBackslash);

@@ -16,6 +16,9 @@ Text ExtractFilename(std::string_view path);
 /// it a root. Empty where the path has no folder.
 Text ExtractDirectory(std::string_view path);
 
+/// Whether more than a name is there: a folder stands before it, or might.
+bool HasFolder(std::string_view path);
+
 /// The name with what follows its last dot replaced by `extension` (given without dot); a
 /// name without a dot gets one.
 Text ChangeFilenameExt(std::string_view name, std::string_view extension);

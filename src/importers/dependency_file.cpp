@@ -94,6 +94,8 @@ void DependencyFiles::AddWithSecondLevel(const DepSection& section)
 
 void DependencyFiles::FollowActiveXDepFile(const Text& fileName)
 {
+    if (HasFolder(fileName))
+        return;
     const Text systemFolder = host_.machine.GetSystemDir();
     AddWithSecondLevel({.DepFile = systemFolder + "\\" + ChangeFilenameExt(fileName, "DEP"),
                         .SectionName = fileName,

@@ -62,7 +62,8 @@ public:
     /// The same, and then for each file of the section the dependency file that is beside it.
     void AddWithSecondLevel(const DepSection& section);
 
-    /// All that a component of the system folder needs, by the dependency file beside it.
+    /// All that a component of the system folder needs, by the dependency file beside it. A name
+    /// with a folder is that of no such component, whatever file it may lead to.
     void FollowActiveXDepFile(const Text& fileName);
 
 private:

@@ -11,6 +11,9 @@ bool NeedsMfc(const ImportData& data, Host host, const Text& fileName)
 {
     if (data.IsMfcControl(fileName))
         return true;
+    // The system folder has no such control, whatever file the name may lead to.
+    if (HasFolder(fileName))
+        return false;
     const auto info =
         InfoOfProgram(host.files, LowerCase(JoinPath(host.machine.GetSystemDir(), fileName)));
     return info && std::ranges::any_of(info->imports, [](const Text& library) {

@@ -15,11 +15,6 @@ namespace quillon {
 
 namespace {
 
-bool HasFolder(const Text& name)
-{
-    return name.find_first_of("\\/") != Text::npos;
-}
-
 std::vector<std::size_t> RowsWithoutSource(const FileList& files)
 {
     std::vector<std::size_t> rows;

@@ -18,6 +18,14 @@ TEST(ExtractDirectory, KeepsTheBackslashOfARootAlone)
     EXPECT_EQ(ExtractDirectory("a.txt"), "");
 }
 
+TEST(HasFolder, IsTrueOfMoreThanAName)
+{
+    for (const char* const name : {"", "a.dll", "..", "C:a.dll"})
+        EXPECT_FALSE(HasFolder(name)) << name;
+    for (const char* const path : {"C:\\a.dll", "..\\a.dll", "sub/a.dll", "a\\"})
+        EXPECT_TRUE(HasFolder(path)) << path;
+}
+
 TEST(PathFunctions, AnswerWithAtMost300Characters)
 {
     const Text name(400, 'x');

@@ -636,6 +636,23 @@ TEST_F(ImportVb6, FollowsDependencyFilesWhereTheBoxIsTicked)
     EXPECT_THAT(Rows(), Contains("helper.dll %SYSDIR DA"));
 }
 
+// Neither its dependency file nor the control itself is one of the system folder.
+TEST_F(ImportVb6, FollowsNoControlThatIsNamedWithAFolder)
+{
+    PutAll(kSystem + "\\Proj", {"helper.dll"});
+    PutAll(kSystem, {"helper.dll"});
+    machine.files.Put(kSystem + "\\Proj\\own.ocx",
+                      MakeLinkedProgram({.isLibrary = true, .imports = {"MFC42.DLL"}}));
+    machine.files.Put(kSystem + "\\Proj\\own.dep", "[Proj\\own.ocx]\r\nUses1=helper.dll\r\n");
+    PutProject("Object={1}; Proj\\own.ocx\r\n");
+    Scan();
+    EXPECT_FALSE(choices.cImportActiveXSysFiles);
+    EXPECT_THAT(Missed(Run({NotInSystemFolder("Proj\\own.ocx"), kControlElsewhere, kDone})),
+                ElementsAre("Proj\\own.ocx: ligger utanför systemkatalogen"));
+    EXPECT_FALSE(choices.cImportActiveXSysFiles);
+    EXPECT_THAT(Rows(), Not(Contains(HasSubstr("helper.dll"))));
+}
+
 TEST_F(ImportVb6, ShowsTheFilesOfDependencyFilesAndStopsAmongThem)
 {
     PutProject("Object={1}; COMDLG32.OCX\r\n");

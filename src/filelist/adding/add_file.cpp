@@ -138,7 +138,7 @@ std::optional<std::size_t> FileAdding::AddSystemFile(const Text& fileName, bool 
     if (folder.empty())
         throw RunError(ErrorNumber::kFileNotFound, fileName);
     // A name with a folder is none of the system folder, even where the folder leads there.
-    if (fileName.find_first_of("\\/") != Text::npos)
+    if (HasFolder(fileName))
         throw RunError(ErrorNumber::kFileNotFound, fileName);
     const Text path = LowerCase(JoinPath(folder, fileName));
     if (IsGuardedHere(fileName, path))
