@@ -13,6 +13,7 @@ constexpr int kMaxKeys = 1000;
 // Gaps in the numbering, all of a section together, after which it counts as ended.
 constexpr int kMaxMisses = 15;
 constexpr int kValueLimit = 200;
+constexpr int kStepsBetweenLooks = 1000;
 
 // Dependency files hold some hundred lines. A larger one than this is something else by that name.
 constexpr std::uint64_t kMaxDepFileSize = std::uint64_t{32} << 20;
@@ -31,6 +32,20 @@ Text NameOf(const Text& path)
 bool HasDot(const Text& path)
 {
     return path.find('.') != Text::npos;
+}
+
+Text KeyOf(const Text& path)
+{
+    return LowerCase(ResolvePath(path));
+}
+
+// Of folders that give the same files for all values. "C:\A\." is another than "C:\A": from there
+// "..\" leads to C:\A, and every path has a point.
+Text KeyOfBase(const Text& folder)
+{
+    const Text above = folder.substr(0, folder.rfind('\\') + 1);
+    return KeyOf(folder) + (HasDot(folder) ? "\n.\n" : "\n\n") + KeyOf(above) +
+           (HasDot(above) ? "\n." : "\n");
 }
 
 } // namespace
@@ -58,38 +73,67 @@ Text ResolveDepPath(std::string_view value, std::string_view baseFolder)
 
 bool DependencyFiles::AddFilesToFileListViaDepFile(const DepSection& section)
 {
+    return Walk(section) != Outcome::NothingNamed;
+}
+
+DependencyFiles::Outcome DependencyFiles::Walk(const DepSection& section)
+{
+    Done& done = DoneFor(section);
+    const Text name = LowerCase(section.SectionName);
+    if (done.walked.contains(name))
+        return Outcome::Whole;
     ask_.ShowStatusText("Adderar filer...");
     try {
         // Kept: the walk never ends at its first number, so this box doesn't come up, and a file
         // without the section is passed without a word.
-        if (AddFilesOf(section, *ReaderFor(section.DepFile)) == 1 && !isStopped_) {
+        if (AddFilesOf(section, *ReaderFor(section.DepFile), done) == 1 && !isStopped_) {
             ask_.Inform("Inga filer hittades",
                         "Hittade inga matchande filer i DEP-filen. Kontrollera att du valt rätt "
                         "DEP-fil och binär fil.");
-            return false;
+            return Outcome::NothingNamed;
         }
     } catch (const RunError& error) {
         ask_.Critical("Fel", FailureText(error, section.DepFile));
+        return Outcome::Failed;
     }
-    return true;
+    done.walked.insert(name);
+    return Outcome::Whole;
 }
 
 void DependencyFiles::AddWithSecondLevel(const DepSection& section)
 {
-    if (!AddFilesToFileListViaDepFile(section))
+    Done& done = DoneFor(section);
+    const Text name = LowerCase(section.SectionName);
+    if (done.followed.contains(name))
         return;
-    const auto reader = ReaderFor(section.DepFile);
+    const Outcome outcome = Walk(section);
+    if (outcome == Outcome::NothingNamed)
+        return;
+    if (AddSecondLevelOf(section, *ReaderFor(section.DepFile)) && outcome == Outcome::Whole)
+        done.followed.insert(name);
+}
+
+// True where none of its walks has failed.
+bool DependencyFiles::AddSecondLevelOf(const DepSection& section, ProfileReader& reader)
+{
+    bool isWhole = true;
     for (int i = 1; i <= kMaxKeys && !isStopped_; ++i) {
-        reader->SetIniSection(section.SectionName);
-        const Text value = UsedFile(*reader, i);
+        NoteStep(section.DepFile);
+        reader.SetIniSection(section.SectionName);
+        const Text value = UsedFile(reader, i);
         if (value.empty())
-            return;
+            break;
         const Text path = ResolveDepPath(value, section.BaseFolder);
-        AddFilesToFileListViaDepFile({.DepFile = ChangeFilenameExt(path, "DEP"),
+        // What leads out of its drive names no file.
+        if (path.empty())
+            continue;
+        const Outcome outcome = Walk({.DepFile = ChangeFilenameExt(path, "DEP"),
                                       .SectionName = NameOf(path),
                                       .BaseFolder = FolderForNames(path),
                                       .Destination = section.Destination});
+        isWhole = isWhole && outcome != Outcome::Failed;
     }
+    return isWhole;
 }
 
 void DependencyFiles::FollowActiveXDepFile(const Text& fileName)
@@ -104,13 +148,13 @@ void DependencyFiles::FollowActiveXDepFile(const Text& fileName)
 }
 
 // The number at which the walk ended.
-int DependencyFiles::AddFilesOf(const DepSection& section, ProfileReader& reader)
+int DependencyFiles::AddFilesOf(const DepSection& section, ProfileReader& reader, Done& done)
 {
-    Done& done = DoneFor(section);
     reader.SetIniSection(section.SectionName);
     int misses = 0;
     int number = 1;
     for (; number <= kMaxKeys && !isStopped_; ++number) {
+        NoteStep(section.DepFile);
         const Text value = UsedFile(reader, number);
         if (value.empty()) {
             if (++misses > kMaxMisses)
@@ -134,10 +178,10 @@ DependencyFiles::Walked DependencyFiles::AddFilesOfInnerSection(const Text& name
                                                                 ProfileReader& reader, Done& done)
 {
     reader.SetIniSection(name);
-    if (const auto known = done.sections.find(name); known != done.sections.end())
+    if (const auto known = done.inner.find(name); known != done.inner.end())
         return known->second;
     const Walked walked = AddFilesOfCurrentSection(origin, reader, done);
-    done.sections.emplace(name, walked);
+    done.inner.emplace(name, walked);
     return walked;
 }
 
@@ -146,6 +190,7 @@ DependencyFiles::Walked DependencyFiles::AddFilesOfCurrentSection(const DepSecti
                                                                   Done& done)
 {
     for (int i = 1; i <= kMaxKeys && !isStopped_; ++i) {
+        NoteStep(origin.DepFile);
         const Text value = UsedFile(reader, i);
         if (value.empty())
             break;
@@ -163,7 +208,9 @@ void DependencyFiles::AddFile(const Text& value, const Text& path, const DepSect
     if (!done.values.insert(value).second)
         return;
     const Text name = LowerCase(NameOf(value));
-    isStopped_ = isStopped_ || (watch_ && !watch_->MayGoOn(name));
+    if (!tried_.insert({name, KeyOf(path), origin.Destination}).second)
+        return;
+    AskWatch(name);
     if (!isStopped_)
         AddOrLeaveOut({.FileName = name,
                        .SourcePath = LowerCase(path),
@@ -171,6 +218,18 @@ void DependencyFiles::AddFile(const Text& value, const Text& path, const DepSect
                        .CheckDuplicates = true,
                        .UseVersionRules = true},
                       origin.DepFile);
+}
+
+void DependencyFiles::AskWatch(const Text& file)
+{
+    stepsUnwatched_ = 0;
+    isStopped_ = isStopped_ || (watch_ && !watch_->MayGoOn(file));
+}
+
+void DependencyFiles::NoteStep(const Text& depFile)
+{
+    if (++stepsUnwatched_ >= kStepsBetweenLooks)
+        AskWatch(ExtractFilename(depFile));
 }
 
 void DependencyFiles::AddOrLeaveOut(const FileToAdd& file, const Text& depFile)
@@ -187,14 +246,15 @@ void DependencyFiles::AddOrLeaveOut(const FileToAdd& file, const Text& depFile)
 
 DependencyFiles::Done& DependencyFiles::DoneFor(const DepSection& section)
 {
-    return done_[{LowerCase(section.DepFile), section.BaseFolder, section.Destination}];
+    return done_[{KeyOf(section.DepFile), KeyOfBase(section.BaseFolder), section.Destination}];
 }
 
 // Shared, since a reader that is at work may leave the table to make room for another. A failure is
 // thrown once; afterwards the file counts as empty, like one that is not there.
 std::shared_ptr<ProfileReader> DependencyFiles::ReaderFor(const Text& depFile)
 {
-    const Text key = LowerCase(depFile);
+    const Text path = ResolvePath(depFile);
+    const Text key = LowerCase(path);
     if (const auto known = readers_.find(key); known != readers_.end())
         return known->second;
     if (bytesHeld_ > kMaxBytesHeld) {
@@ -202,13 +262,13 @@ std::shared_ptr<ProfileReader> DependencyFiles::ReaderFor(const Text& depFile)
         bytesHeld_ = 0;
     }
     const auto reader = readers_.emplace(key, std::make_shared<ProfileReader>()).first->second;
-    if (!host_.files.FileExists(depFile))
+    if (!host_.files.FileExists(path))
         return reader;
-    if (host_.files.Status(depFile).size > kMaxDepFileSize) {
-        ask_.Critical("Fel", "Filen '" + depFile + "' är för stor för att vara en DEP-fil.");
+    if (host_.files.Status(path).size > kMaxDepFileSize) {
+        ask_.Critical("Fel", "Filen '" + path + "' är för stor för att vara en DEP-fil.");
         return reader;
     }
-    reader->SetIniBytes(ReadWholeFile(host_.files, depFile));
+    reader->SetIniBytes(ReadWholeFile(host_.files, path));
     bytesHeld_ += reader->Bytes().size();
     return reader;
 }

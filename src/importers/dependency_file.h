@@ -9,6 +9,7 @@
 #include <array>
 #include <map>
 #include <memory>
+#include <set>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -35,7 +36,8 @@ class DependencyWatch {
 public:
     virtual ~DependencyWatch() = default;
 
-    /// Comes before each file; false ends the walk.
+    /// Comes before each file, and now and then where a walk comes to none that is new; false ends
+    /// the walk.
     virtual bool MayGoOn(const Text& file) = 0;
     /// The file was not added, without a failure: the list may have it already.
     virtual void LeftOut(const FileToAdd& file) = 0;
@@ -43,8 +45,14 @@ public:
     virtual void Failed(const FileToAdd& file, const Text& depFile) = 0;
 };
 
-/// Follows dependency files for one command, which adds the files through one `FileAdding`. Each
-/// file is read once, however often it is come back to.
+/// Follows dependency files for one command, which adds the files through one `FileAdding`.
+///
+/// Files may name each other, and themselves, in thousands of lines on both levels: walked line by
+/// line, a thousand controls would take hours. So each dependency file is read once, each file that
+/// one names is tried once, and a section that was walked to its end is not walked again. The rows
+/// are those of the plain walk, which would try the rest again and find it in the list. A walk that
+/// a failure has ended is none of these: the next one passes over the file that failed, whose row
+/// is there, and adds what follows.
 class DependencyFiles {
 public:
     DependencyFiles(FileAdding& adding, Host host, Ask& ask, DependencyWatch* watch = nullptr)
@@ -67,23 +75,28 @@ public:
     void FollowActiveXDepFile(const Text& fileName);
 
 private:
+    enum class Outcome { Whole, Failed, NothingNamed };
     enum class Walked { ToItsEnd, StoppedAtNameWithoutExtension };
 
-    // What was done with one file for one folder and destination. What is named again is in the
-    // list already, so nothing is done twice: files that name each other in thousands of lines
-    // would take hours.
+    // What was done with one dependency file for one folder and destination, by sections.
     struct Done {
-        std::unordered_set<Text> values;
-        std::unordered_map<Text, Walked> sections; // by the name of the file that led there
+        std::unordered_set<Text> values;        // whatever the section
+        std::unordered_map<Text, Walked> inner; // by the name of the file that led there
+        std::unordered_set<Text> walked;        // in lower case
+        std::unordered_set<Text> followed;      // the same, with the second level
     };
 
-    int AddFilesOf(const DepSection& section, ProfileReader& reader);
+    Outcome Walk(const DepSection& section);
+    int AddFilesOf(const DepSection& section, ProfileReader& reader, Done& done);
+    bool AddSecondLevelOf(const DepSection& section, ProfileReader& reader);
     Walked AddFilesOfInnerSection(const Text& name, const DepSection& origin, ProfileReader& reader,
                                   Done& done);
     Walked AddFilesOfCurrentSection(const DepSection& origin, const ProfileReader& reader,
                                     Done& done);
     void AddFile(const Text& value, const Text& path, const DepSection& origin, Done& done);
     void AddOrLeaveOut(const FileToAdd& file, const Text& depFile);
+    void AskWatch(const Text& file);
+    void NoteStep(const Text& depFile);
     Done& DoneFor(const DepSection& section);
     std::shared_ptr<ProfileReader> ReaderFor(const Text& depFile);
 
@@ -92,9 +105,11 @@ private:
     Ask& ask_;
     DependencyWatch* watch_;
     bool isStopped_ = false;
-    std::map<Text, std::shared_ptr<ProfileReader>> readers_; // by lower-cased path
+    int stepsUnwatched_ = 0;
+    std::map<Text, std::shared_ptr<ProfileReader>> readers_; // by resolved path in lower case
     std::size_t bytesHeld_ = 0;
     std::map<std::array<Text, 3>, Done> done_; // by file, folder and destination
+    std::set<std::array<Text, 3>> tried_;      // names, resolved paths and destinations
 };
 
 } // namespace quillon

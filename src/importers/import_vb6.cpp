@@ -8,6 +8,8 @@
 #include "importers/vb_import_steps.h"
 #include "importers/vb_project.h"
 
+#include <utility>
+
 namespace quillon {
 
 namespace {
@@ -19,6 +21,13 @@ constexpr const char* kDone =
 
 constexpr std::string_view kAdoControl = "MSADODC.OCX";
 constexpr std::string_view kRdoControl = "MSRDC20.OCX";
+
+// What is ticked already needs no look into the control.
+void TickMfc(const ImportData& data, Host host, const Text& control, Vb6Choices& choices)
+{
+    if (!choices.cImportActiveXSysFiles)
+        choices.cImportActiveXSysFiles = NeedsMfc(data, host, control);
+}
 
 class Vb6Import {
 public:
@@ -41,8 +50,7 @@ public:
                  [this] { AddAdo(import_, choices_, DataAccessQuestion::Ask); });
         AddWhere(&Vb6Choices::cImportRDO,
                  [this] { AddRdo(import_, choices_, DataAccessQuestion::Ask); });
-        AddWhere(&Vb6Choices::cInstallMDA,
-                 [this] { AddDataAccessPackage(import_, redistFolder_); });
+        AddPackageIfWanted();
         AddWhere(&Vb6Choices::cImportActiveXSysFiles,
                  [this] { import_.AddSystemFiles(kMfcFiles); });
         AddLibrariesOfModules();
@@ -73,8 +81,7 @@ private:
     void AddActiveXFile(const Text& name)
     {
         AddControl(import_, name);
-        if (NeedsMfc(data_, import_.GetHost(), name))
-            choices_.cImportActiveXSysFiles = true;
+        TickMfc(data_, import_.GetHost(), name, choices_);
         if (EqualIgnoreCase(name, kAdoControl)) {
             AddAdo(import_, choices_, DataAccessQuestion::DoNotAsk);
             AddPackageIfWanted();
@@ -88,9 +95,10 @@ private:
             import_.FollowActiveXDepFile(name);
     }
 
+    // Once: it is large, and each data control asks for it.
     void AddPackageIfWanted()
     {
-        if (choices_.cInstallMDA)
+        if (choices_.cInstallMDA && !import_.IsStopped() && !std::exchange(isPackageTried_, true))
             AddDataAccessPackage(import_, redistFolder_);
     }
 
@@ -109,6 +117,7 @@ private:
     const ImportData& data_;
     Vb6Choices& choices_;
     Text redistFolder_;
+    bool isPackageTried_ = false;
 };
 
 } // namespace
@@ -137,8 +146,7 @@ Text GetDirectoryToVB6RedistDir(const Vb6Choices& choices)
 void ScanVb6Project(Host host, Ask& ask, const ImportData& data, Vb6Choices& choices)
 {
     for (const Text& name : ReadActiveXFiles(host.files, choices.sVBPfile, ask)) {
-        if (NeedsMfc(data, host, name))
-            choices.cImportActiveXSysFiles = true;
+        TickMfc(data, host, name, choices);
         if (EqualIgnoreCase(name, kAdoControl))
             choices.cImportADO = true;
         if (EqualIgnoreCase(name, kRdoControl))

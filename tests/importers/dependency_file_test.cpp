@@ -1,16 +1,22 @@
 #include "importers/dependency_file.h"
 
+#include "filelist/adding/use_filter.h"
 #include "filelist/list_builder.h"
+#include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "support/memory_host.h"
+#include "support/one_file_host.h"
 #include "support/scripted_ask.h"
 
 #include <gmock/gmock.h>
+#include <random>
 
 namespace quillon::test {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 
 namespace {
 
@@ -384,6 +390,271 @@ TEST_F(FollowActiveXDepFile, ComesToAnEndInAFileThatNamesItself)
     machine.files.Put(kSystem + "\\chart.dep", "[chart.ocx]\r\n" + UsesUpTo(300, "chart.ocx"));
     FollowActiveX("chart.ocx");
     EXPECT_THAT(Names(), ElementsAre("chart.ocx"));
+}
+
+namespace {
+
+// A disk that works out "." and ".." as Windows does, and notes what it is asked about.
+class WatchedFiles : public MemoryFiles {
+public:
+    bool FileExists(const Text& path) const override { return MemoryFiles::FileExists(Note(path)); }
+    bool DirExists(const Text& path) const override { return MemoryFiles::DirExists(Note(path)); }
+    FileStatus Status(const Text& path) const override { return MemoryFiles::Status(Note(path)); }
+    std::unique_ptr<InputFile> OpenInput(const Text& path) const override
+    {
+        ++opened[LowerCase(ResolvePath(path))];
+        return MemoryFiles::OpenInput(Note(path));
+    }
+
+    mutable std::vector<Text> looks;
+    mutable std::map<Text, int> opened; // by resolved path
+
+private:
+    Text Note(const Text& path) const
+    {
+        looks.push_back(path);
+        return ResolvePath(path);
+    }
+};
+
+// Ends a walk that goes on for too long.
+class ImpatientWatch : public DependencyWatch {
+public:
+    explicit ImpatientWatch(int patience) : patience_(patience) {}
+
+    bool MayGoOn(const Text& file) override
+    {
+        asked.push_back(file);
+        return static_cast<int>(asked.size()) <= patience_;
+    }
+    void LeftOut(const FileToAdd&) override {}
+    void Failed(const FileToAdd&, const Text&) override {}
+
+    std::vector<Text> asked;
+
+private:
+    int patience_;
+};
+
+class DependencyWork : public testing::Test {
+protected:
+    DependencyWork() { list.sorted = false; }
+
+    std::vector<Text> Follow(int times, const Text& control, int patience = 1000)
+    {
+        ImpatientWatch watch(patience);
+        SilentUser user;
+        FileAdding adding(list, host, user);
+        DependencyFiles walk(adding, host, user, &watch);
+        for (int i = 0; i < times; ++i)
+            walk.FollowActiveXDepFile(control);
+        return watch.asked;
+    }
+
+    WatchedFiles files;
+    FixedMachine machine;
+    Host host{files, machine};
+    FileList list;
+};
+
+} // namespace
+
+// A file that names itself a thousand times, for each of a thousand controls: a thousand million
+// lines, line by line.
+TEST_F(DependencyWork, WalksASectionOnceHoweverOftenItIsNamed)
+{
+    files.Put(kSystem + "\\chart.ocx", "x");
+    files.Put(kSystem + "\\chart.dep", "[chart.ocx]\r\n" + UsesUpTo(1000, "chart.ocx"));
+    EXPECT_LE(Follow(1000, "chart.ocx").size(), 10U);
+    EXPECT_THAT(NamesOf(list), ElementsAre("chart.ocx"));
+    EXPECT_EQ(files.opened[LowerCase(kSystem) + "\\chart.dep"], 1);
+}
+
+TEST_F(DependencyWork, KnowsAFileByWhateverPathItIsNamed)
+{
+    std::string names;
+    Text path = "chart.ocx";
+    for (int i = 1; i <= 60; ++i)
+        names += Uses(i, path = ".\\" + path);
+    for (int i = 61; i <= 120; ++i)
+        names += Uses(i, "sub" + std::to_string(i) + "\\..\\Chart.OCX");
+    for (int i = 121; i <= 300; ++i) {
+        names += Uses(i, "f" + std::to_string(i) + ".dll");
+        files.Put(kSystem + "\\f" + std::to_string(i) + ".dll", "x");
+    }
+    files.Put(kSystem + "\\chart.ocx", "x");
+    files.Put(kSystem + "\\chart.dep", "[chart.ocx]\r\n" + names);
+    Follow(1, "chart.ocx");
+    EXPECT_EQ(list.rows.size(), 181U);
+    EXPECT_EQ(files.opened[LowerCase(kSystem) + "\\chart.dep"], 1);
+    EXPECT_LE(files.opened[LowerCase(kSystem) + "\\f200.dll"], 2) << "can it be read; its version";
+    EXPECT_LT(files.looks.size(), 181U * 20U);
+}
+
+// Nothing new comes up in it, so nothing else would ask.
+TEST_F(DependencyWork, AsksNowAndThenInALongWalk)
+{
+    std::string file = "[chart.ocx]\r\n";
+    for (int i = 1; i <= 50; ++i)
+        file += Uses(i, "chart.o" + std::to_string(i));
+    for (int i = 1; i <= 50; ++i) {
+        files.Put(kSystem + "\\chart.o" + std::to_string(i), "x");
+        file += "[chart.o" + std::to_string(i) + "]\r\n" + UsesUpTo(1000, "chart.o1");
+    }
+    files.Put(kSystem + "\\chart.dep", file);
+    const std::vector<Text> asked = Follow(1, "chart.ocx");
+    EXPECT_THAT(asked, Contains("chart.DEP"));
+    EXPECT_GT(asked.size(), 50U + 90U) << "of a hundred thousand lines";
+    list.rows.clear();
+    EXPECT_EQ(Follow(1, "chart.ocx", 60).size(), 61U) << "and stops where it is told to";
+}
+
+TEST_F(DependencyWork, LooksForNothingAboveADrive)
+{
+    for (const char* const name : {"a.dll", "b.dll"})
+        files.Put(Text("D:\\") + name, "x");
+    files.Put("D:\\main.dep", "[main.ocx]\r\nUses1=..\\x.dll\r\nUses2=a.dll\r\n");
+    files.Put("D:\\a.dep", "[a.dll]\r\nUses1=b.dll\r\n");
+    ScriptedAsk ask;
+    FileAdding adding(list, host, ask);
+    DependencyFiles(adding, host, ask)
+        .AddWithSecondLevel({"D:\\main.dep", "main.ocx", "D:", "%SYSDIR"});
+    EXPECT_THAT(NamesOf(list), ElementsAre("a.dll", "b.dll"));
+    EXPECT_THAT(files.looks, Not(Contains(".DEP")));
+}
+
+namespace {
+
+// The rules of the walk and no more: nothing is remembered.
+class PlainWalk {
+public:
+    PlainWalk(FileAdding& adding, Host host) : adding_(adding), host_(host) {}
+
+    void FollowActiveXDepFile(const Text& name)
+    {
+        const Text dep = kSystem + "\\" + ChangeFilenameExt(name, "DEP");
+        AddVia(dep, name, kSystem);
+        for (int i = 1; i <= 1000; ++i) {
+            ProfileReader reader;
+            reader.SetIniFile(host_.files, dep);
+            reader.SetIniSection(name);
+            const Text value = Value(reader, i);
+            if (value.empty())
+                return;
+            const Text path = ResolveDepPath(value, kSystem);
+            const std::size_t last = path.rfind('\\');
+            AddVia(ChangeFilenameExt(path, "DEP"), path.substr(last + 1), path.substr(0, last));
+        }
+    }
+
+private:
+    static Text Value(const ProfileReader& reader, int number)
+    {
+        return reader.ReadIniString("Uses" + std::to_string(number), 200);
+    }
+    static Text NameOf(const Text& value) { return LowerCase(value.substr(value.rfind('\\') + 1)); }
+
+    void AddVia(const Text& dep, const Text& section, const Text& base)
+    {
+        ProfileReader reader;
+        reader.SetIniFile(host_.files, dep);
+        reader.SetIniSection(section);
+        int misses = 0;
+        try {
+            for (int i = 1; i <= 1000 && misses <= 15; ++i) {
+                const Text value = Value(reader, i);
+                misses += value.empty() ? 1 : 0;
+                if (value.empty() || !Add(value, base))
+                    continue;
+                reader.SetIniSection(NameOf(value));
+                if (AddInner(reader, base))
+                    reader.SetIniSection(section);
+            }
+        } catch (const RunError&) {
+            // A box, and the walk is over.
+        }
+    }
+
+    bool AddInner(const ProfileReader& reader, const Text& base)
+    {
+        for (int i = 1; i <= 1000; ++i) {
+            const Text value = Value(reader, i);
+            if (value.empty())
+                return true;
+            if (!Add(value, base))
+                return false;
+        }
+        return true;
+    }
+
+    // False where the path has no point.
+    bool Add(const Text& value, const Text& base)
+    {
+        const Text path = ResolveDepPath(value, base);
+        if (!ContainsText(path, "."))
+            return false;
+        AddFileToFileListView_UseFilter(adding_, host_.machine,
+                                        {.FileName = NameOf(value),
+                                         .SourcePath = LowerCase(path),
+                                         .Destination = "%SYSDIR",
+                                         .CheckDuplicates = true,
+                                         .UseVersionRules = true});
+        return true;
+    }
+
+    FileAdding& adding_;
+    Host host_;
+};
+
+constexpr const char* kNames[] = {
+    "a.dll",          "b.dll",       "c.ocx",       "A.DLL", "gone.dll",       "lost.dll",
+    ".\\a.dll",       ".\\.\\c.ocx", "..\\up.dll",  "part",  ".\\part",        "sub\\d.dll",
+    "sub\\..\\b.dll", "\\a.dll",     "shdocvw.dll", "d.dll", "..\\..\\top.dll"};
+
+// Dependency files that lead to each other in every way that there is.
+void PutRandomFiles(WatchedFiles& files, std::mt19937& random)
+{
+    const auto below = [&](std::size_t end) { return random() % end; };
+    for (const char* const name : {"a.dll", "b.dll", "c.ocx", "d.dll", "sub\\d.dll", "..\\up.dll"})
+        if (below(4) != 0)
+            files.Put(ResolvePath(kSystem + "\\" + name), "x");
+    for (const char* const name : {"a", "b", "c", "sub\\d", "..\\up", "part"}) {
+        std::string bytes;
+        for (const char* const section : {"a.dll", "b.dll", "c.ocx", "d.dll", "up.dll", "part"}) {
+            bytes += Text("[") + section + "]\r\n";
+            for (std::size_t key = below(3); key < below(8); key += 1 + below(8) / 7)
+                bytes += Uses(static_cast<int>(key) + 1, kNames[below(std::size(kNames))]);
+        }
+        files.Put(ResolvePath(kSystem + "\\" + name + ".dep"), bytes);
+    }
+}
+
+} // namespace
+
+TEST(DependencyFiles, AddsTheRowsOfThePlainWalk)
+{
+    std::size_t rows = 0;
+    for (unsigned seed = 0; seed < 150; ++seed) {
+        WatchedFiles files;
+        FixedMachine machine;
+        const Host host{files, machine};
+        std::mt19937 random(seed);
+        PutRandomFiles(files, random);
+        FileList plain, list;
+        plain.sorted = list.sorted = false;
+        SilentUser user;
+        FileAdding plainAdding(plain, host, user);
+        FileAdding adding(list, host, user);
+        PlainWalk plainWalk(plainAdding, host);
+        DependencyFiles walk(adding, host, user);
+        for (const char* const control : {"c.ocx", "a.dll", "C.ocx", "none.ocx", "b.dll"}) {
+            plainWalk.FollowActiveXDepFile(control);
+            walk.FollowActiveXDepFile(control);
+        }
+        ASSERT_EQ(list.rows, plain.rows) << "seed " << seed;
+        rows += list.rows.size();
+    }
+    EXPECT_GT(rows, 450U) << "there was something to compare";
 }
 
 } // namespace quillon::test

@@ -431,6 +431,17 @@ TEST_F(ImportVb6, TellsAMissingPackage)
     EXPECT_THAT(Rows(), Not(Contains(HasSubstr("MDAC"))));
 }
 
+TEST_F(ImportVb6, CopiesThePackageOnceForAllDataControls)
+{
+    PutProject("Object={1}; MSADODC.OCX\r\nObject={2}; MSADODC.OCX\r\nObject={3}; MSRDC20.OCX\r\n");
+    choices.cInstallMDA = true;
+    Run({{BoxKind::Critical, "Fel"}, kDone}); // it is not there, which is told once
+    machine.files.Put(kRedist + "\\MDAC_TYP.EXE", "package");
+    machine.files.FailFromWrite(2, 61);
+    Run({kDone});
+    EXPECT_THAT(Rows(), Contains("MDAC_TYP.ZIP %DESTDIR W"));
+}
+
 TEST_F(ImportVb6, TellsAPackageThatCannotBeCopied)
 {
     PutProject("");
