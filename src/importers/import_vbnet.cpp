@@ -88,7 +88,8 @@ public:
         return true;
     }
 
-    // Kept: they go to the main folder, whatever folder the program goes to.
+    // Kept: they go to the main folder, whatever folder the program goes to. What can't be read is
+    // passed over without a box, and listed with what was not added.
     void AddLibrariesBesideProgram()
     {
         const Text folder = ExtractDirectory(choices_.sEXEfile);
@@ -96,7 +97,7 @@ public:
         try {
             entries = import_.GetHost().files.List(folder);
         } catch (const RunError&) {
-            return;
+            return import_.Pass(folder, NotAdded::LeftOut);
         }
         std::erase_if(entries, [](const FolderEntry& entry) {
             return entry.status.isFolder || !LowerCase(entry.name).ends_with(".dll");
@@ -162,7 +163,8 @@ private:
                          .SourcePath = JoinPath(folder, entry.name),
                          .Destination = "%DESTDIR",
                          .CheckDuplicates = true,
-                         .Listed = entry.status});
+                         .Listed = entry.status,
+                         .PassOverUnreadable = true});
         } catch (const RunError&) {
             // The import has noted it.
         }

@@ -210,8 +210,24 @@ TEST_F(ImportVbNet, PassesOverLibrariesThatCannotBeRead)
     PutAll("C:\\Proj\\bin", {"shut.dll", "zopen.dll"});
     machine.files.At("C:\\Proj\\bin\\shut.dll").unreadable = true;
     PutProject("");
-    Run({{BoxKind::Critical, "Kan ej addera"}, kDone});
+    const ImportResult result = Run({kDone});
     EXPECT_THAT(Rows(), ElementsAre("Kund.exe %DESTDIR\\Bin D", "zopen.dll %DESTDIR DA"));
+    EXPECT_THAT(Missed(result),
+                ElementsAre("shut.dll: är dold eller skyddad av Windows, kan ej läsas eller har "
+                            "ett otillåtet namn"))
+        << "listed, not lost";
+}
+
+TEST_F(ImportVbNet, ListsAProgramFolderThatCannotBeRead)
+{
+    PutAll("C:\\Proj\\bin", {"Other.dll"});
+    machine.files.PutFolder("C:\\Proj\\bin");
+    machine.files.At("C:\\Proj\\bin").unreadable = true;
+    PutProject("");
+    EXPECT_THAT(Missed(Run({kDone})),
+                ElementsAre("C:\\Proj\\bin: är dold eller skyddad av Windows, kan ej läsas eller "
+                            "har ett otillåtet namn"));
+    EXPECT_THAT(Rows(), ElementsAre("Kund.exe %DESTDIR\\Bin D"));
 }
 
 TEST_F(ImportVbNet, TellsWhatToSetWhereComponentsNeedASystemFolderThatIsNotThere)

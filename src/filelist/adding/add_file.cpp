@@ -93,7 +93,9 @@ std::optional<std::size_t> FileAdding::AddOrRefuse(const FileToAdd& file)
         IsRefusedAsDuplicate(file, found && !found->isFolder) ||
         IsRefused(RefusalOfTexts(file.FileName, file.SourcePath, file.Destination)))
         return std::nullopt;
-    if ((found && found->isHidden) || IsRefused(RefusalToRead(host_.files, stored)))
+    const auto unreadable = RefusalToRead(host_.files, stored);
+    if ((found && found->isHidden) || (unreadable && file.PassOverUnreadable) ||
+        IsRefused(unreadable))
         return std::nullopt;
 
     FileListRow row;

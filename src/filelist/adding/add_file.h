@@ -30,6 +30,7 @@ struct FileToAdd {
     bool KeepsFontHere = false; // a font goes to the destination too, not to the font folder
     // What a listing of its folder said about the file, whatever path it is reached by.
     std::optional<FileStatus> Listed = {};
+    bool PassOverUnreadable = false; // without a box
 };
 
 /// One command's additions to a file list. While it lives, new rows are at the end of the list
