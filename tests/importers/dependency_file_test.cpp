@@ -133,6 +133,14 @@ TEST_F(DependencyFile, EndsAtTheSixteenthGapOfTheSection)
     EXPECT_THAT(Names(), ElementsAre("a.dll", "b.dll")) << "gaps count together";
 
     list.rows.clear();
+    Follow("[main.ocx]\r\n" + Uses(16, "a.dll") + Uses(18, "b.dll"));
+    EXPECT_THAT(Names(), ElementsAre("a.dll")) << "17 is the sixteenth";
+
+    list.rows.clear();
+    Follow("[main.ocx]\r\n" + Uses(1, "c.dll") + Uses(16, "a.dll") + Uses(18, "b.dll"));
+    EXPECT_THAT(Names(), ElementsAre("c.dll", "a.dll", "b.dll")) << "17 is the fifteenth";
+
+    list.rows.clear();
     Follow("[main.ocx]\r\nUses1=\r\nUses2=\"\"\r\n" + Uses(17, "b.dll"));
     EXPECT_THAT(Names(), IsEmpty()) << "an empty value is a gap like a missing one";
 }

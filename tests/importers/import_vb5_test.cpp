@@ -172,4 +172,16 @@ TEST(FindVb5Directory, IsTheRegisteredOne)
     EXPECT_EQ(FindVb5Directory(machine.machine), "C:\\VB5");
 }
 
+TEST(FindVb5Directory, HasNoMoreThanTheBufferHolds)
+{
+    MemoryHost machine;
+    Text& folder = machine.machine.registry[{
+        RegistryRoot::LocalMachine, "SOFTWARE\\Microsoft\\Visual Basic\\5.0", "InstallDir"}];
+    const Text longest = "C:\\" + Text(508, 'x');
+    folder = longest;
+    EXPECT_EQ(FindVb5Directory(machine.machine), longest) << "511 characters, and a NUL";
+    folder = longest + "y";
+    EXPECT_EQ(FindVb5Directory(machine.machine), longest);
+}
+
 } // namespace quillon::test

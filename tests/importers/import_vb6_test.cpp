@@ -383,6 +383,19 @@ TEST_F(ImportVb6, AsksForDataAccessOnlyWhereABoxIsTicked)
     EXPECT_EQ(project.Files.rows.size(), 9U) << "none of them twice";
 }
 
+TEST_F(ImportVb6, AsksForDataAccessOnceWhereTheScanHasTickedTheControl)
+{
+    PutProject("Object={1}; MSADODC.OCX\r\n");
+    Scan();
+    EXPECT_TRUE(choices.cImportADO);
+    EXPECT_FALSE(choices.cImportRDO || choices.cInstallMDA);
+    Run({kDataAccess, kDone});
+    EXPECT_THAT(shown, testing::SizeIs(2)) << "the question, and the end";
+    EXPECT_TRUE(choices.MDAQuestionAsked);
+    EXPECT_THAT(RowsFrom(6), ElementsAre("Msadodc.ocx %SYSDIR VRAW", "Msstdfmt.dll %SYSDIR VRAW",
+                                         "Kund.exe %DESTDIR\\Bin D"));
+}
+
 TEST_F(ImportVb6, AsksForDataAccessOnce)
 {
     PutProject("Object={1}; MSADODC.OCX\r\nObject={2}; MSRDC20.OCX\r\n");

@@ -68,6 +68,20 @@ TEST(ComReferencesOf, KeepsTheVersionsOfOtherReferencesBehindADamagedLine)
     EXPECT_THAT(references->list, ElementsAre(ComReference{"{0}", "", "7"}));
 }
 
+TEST(ComReferencesOf, CutsValuesAtTheirLimit)
+{
+    const Text longest(2000, '7');
+    for (const Text& rest : {Text(), Text("8"), Text(1000, '8')}) {
+        const auto references = ComReferencesOf(
+            Lines("<References>\r\nGuid = \"{" + longest + rest + "}\"\r\nVersionMajor = \"" +
+                  longest + rest + "\"\r\nVersionMinor = \"" + longest + rest + "\"\r\n"));
+        ASSERT_TRUE(references);
+        EXPECT_THAT(references->list,
+                    ElementsAre(ComReference{"{" + longest + "}", longest, longest}))
+            << rest.size();
+    }
+}
+
 TEST(ComReferencesOf, TellsAFileWithoutAList)
 {
     EXPECT_FALSE(ComReferencesOf(Lines("Guid = \"{0}\"\r\nVersionMajor = \"1\"\r\n")));
