@@ -88,6 +88,8 @@ Exit CompareLstFile(const CallContext& context)
     const Text lstFile = context.PathOperand(1);
     ProjectEdit edit(context, context.PathOperand(0));
     RequireReadableFile(context.host.files, lstFile);
+    if (const Text fault = TooLargeLstText(context.host.files, lstFile); !fault.empty())
+        throw CallFailure{fault, Exit::Unreadable};
     const auto missing = MissingFromFileList(context.host.files, lstFile, edit.Files().rows);
     if (!missing)
         throw CallFailure{"Filen '" + lstFile +

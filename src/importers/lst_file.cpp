@@ -14,7 +14,7 @@ constexpr int kMaxKeys = 5000;
 constexpr int kValueLimit = 200;
 
 // Setup lists hold some hundred lines. A larger one than this is something else by that name.
-constexpr std::uint64_t kMaxLstFileSize = std::uint64_t{32} << 20;
+constexpr std::int64_t kMaxLstMegabytes = 32;
 
 // Carries the wizard's own setup, which has no use in one of this tool.
 constexpr std::string_view kWizardsKit = "VB6STKIT.DLL";
@@ -62,10 +62,18 @@ private:
 
 } // namespace
 
+Text TooLargeLstText(const FileSystem& files, const Text& lstFile)
+{
+    if (files.Status(lstFile).size <= std::uint64_t{kMaxLstMegabytes} << 20)
+        return {};
+    return "Filen '" + lstFile + "' är för stor för att vara en LST-fil: den är större än " +
+           NumberText(kMaxLstMegabytes) + " MB. Kontrollera att du valt rätt LST-fil.";
+}
+
 std::optional<std::vector<Text>> MissingFromFileList(const FileSystem& files, const Text& lstFile,
                                                      const std::vector<FileListRow>& rows)
 {
-    if (files.Status(lstFile).size > kMaxLstFileSize)
+    if (!TooLargeLstText(files, lstFile).empty())
         return std::nullopt;
     ProfileReader reader;
     reader.SetIniBytes(ReadWholeFile(files, lstFile));

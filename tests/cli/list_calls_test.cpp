@@ -130,6 +130,9 @@ TEST_F(ListCalls, ListsWhatASetupListHasMore)
     disk.Put("none.lst", "File1=a\r\n");
     ExpectRefused({"compare-lst", disk.Path("none.lst")}, 3, "är ingen LST-fil");
     ExpectRefused({"compare-lst", disk.Path("gone.lst")}, 3, "finns inte");
+    disk.Put("large.lst", std::string((32U << 20) + 1, 'x'));
+    ExpectRefused({"compare-lst", disk.Path("large.lst")}, 3,
+                  "är för stor för att vara en LST-fil");
 }
 
 TEST_F(ListCalls, TouchNoProjectThatCanBeReadInPartOnly)

@@ -108,7 +108,21 @@ TEST(MissingFromFileList, KnowsAFileThatListsNothing)
     for (const std::string& file : {""s, "File1=a\r\n"s, "[Setup1 Files]\r\nFile2=a\r\n"s,
                                     "[Setup1]\r\nFile1=a\r\n"s, "\0\xFF\x1A[Setup1 Files\0"s})
         EXPECT_EQ(Missing(file), std::nullopt) << file;
-    EXPECT_EQ(Missing(std::string((32U << 20) + 1, 'x')), std::nullopt);
+}
+
+TEST(MissingFromFileList, TellsAFileThatIsTooLargeToBeOne)
+{
+    const std::string list = "[Setup1 Files]\r\nFile1=a\r\n";
+    MemoryHost machine;
+    machine.files.Put(kPath, list + std::string((32U << 20) - list.size(), '\n'));
+    EXPECT_EQ(TooLargeLstText(machine.files, kPath), "");
+    EXPECT_THAT(MissingFromFileList(machine.files, kPath, {}), Optional(ElementsAre("a")));
+    machine.files.Put(kPath, list + std::string((32U << 20) - list.size() + 1, '\n'));
+    EXPECT_EQ(
+        TooLargeLstText(machine.files, kPath),
+        "Filen 'C:\\Data\\SETUP.LST' är för stor för att vara en LST-fil: den är större än 32 "
+        "MB. Kontrollera att du valt rätt LST-fil.");
+    EXPECT_EQ(MissingFromFileList(machine.files, kPath, {}), std::nullopt);
 }
 
 TEST(MissingFromFileList, ThrowsWhereTheFileCannotBeRead)

@@ -50,6 +50,8 @@ void DlgCompareLstFile::Compare(const Text& lstFile)
     ListOfFiles->clear();
     // Nothing may be thrown through Qt.
     try {
+        if (const Text fault = TooLargeLstText(session_.host.files, lstFile); !fault.empty())
+            return session_.ask.Critical("Fel", fault);
         const auto missing =
             MissingFromFileList(session_.host.files, lstFile, session_.project.Files.rows);
         if (!missing)

@@ -103,6 +103,15 @@ TEST_F(DlgCompareLstFileFailures, TellsOfAFileThatListsNothing)
     ExpectNothingListed(user);
 }
 
+TEST_F(DlgCompareLstFileFailures, TellsOfAFileThatIsTooLarge)
+{
+    machine.files.Put(kLst, std::string((32U << 20) + 1, 'x'));
+    ScriptedAsk user{{{BoxKind::Critical, "Fel",
+                       "Filen 'C:\\Data\\SETUP.LST' är för stor för att vara en LST-fil: den är "
+                       "större än 32 MB. Kontrollera att du valt rätt LST-fil."}}};
+    ExpectNothingListed(user);
+}
+
 TEST_F(DlgCompareLstFileFailures, TellsOfAFileThatCannotBeRead)
 {
     machine.files.At(kLst).unreadable = true;
