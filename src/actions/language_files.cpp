@@ -31,11 +31,6 @@ bool TryOrReport(Work work, const Text& path, Ask& ask)
     return false;
 }
 
-Text FolderBelow(const Text& folder)
-{
-    return JoinPath(folder, "Language");
-}
-
 std::vector<Text> LanguageFilesIn(const FileSystem& files, const Text& folder, Ask& ask)
 {
     std::vector<Text> names;
@@ -53,22 +48,10 @@ std::vector<Text> LanguageFilesIn(const FileSystem& files, const Text& folder, A
 
 } // namespace
 
-LanguageFolders::LanguageFolders(const Text& toolFolder, const Text& ownFolder)
-    : ofTool(FolderBelow(toolFolder)),
-      added(FolderBelow(ownFolder.empty() ? toolFolder : ownFolder))
-{
-}
-
-Text LanguagePath(const FileSystem& files, const LanguageFolders& folders, const Text& name)
-{
-    const Text added = JoinPath(folders.added, name);
-    return files.FileExists(added) ? added : JoinPath(folders.ofTool, name);
-}
-
 std::vector<Text> LanguageFiles(const FileSystem& files, const LanguageFolders& folders, Ask& ask)
 {
-    std::vector<Text> names = LanguageFilesIn(files, folders.added, ask);
-    if (folders.added != folders.ofTool)
+    std::vector<Text> names = LanguageFilesIn(files, folders.own, ask);
+    if (folders.own != folders.ofTool)
         for (const Text& name : LanguageFilesIn(files, folders.ofTool, ask))
             if (std::ranges::none_of(names,
                                      [&](const Text& own) { return EqualIgnoreCase(own, name); }))
@@ -112,13 +95,13 @@ std::optional<Text> AddLanguage(const Host& host, const LanguageFolders& folders
     const Text name = LanguageFileName(*typed);
     if (!CanBeLanguageFile(name, ask))
         return {};
-    const Text reference = LanguagePath(host.files, folders, kReferenceLanguage);
-    const Text copy = JoinPath(folders.added, name);
+    const Text reference = PathIn(host.files, folders, kReferenceLanguage);
+    const Text copy = JoinPath(folders.own, name);
     // The reference is there under its own name already.
     const auto make = [&] {
         if (name == kReferenceLanguage)
             return;
-        host.files.DirCreate(folders.added);
+        host.files.DirCreate(folders.own);
         host.files.CopyContent(reference, copy);
     };
     return TryOrReport(make, copy, ask) ? std::optional(name) : std::nullopt;
@@ -126,7 +109,7 @@ std::optional<Text> AddLanguage(const Host& host, const LanguageFolders& folders
 
 void EditLanguage(const Host& host, const LanguageFolders& folders, const Text& name, Ask& ask)
 {
-    const Text path = LanguagePath(host.files, folders, name);
+    const Text path = PathIn(host.files, folders, name);
     TryOrReport([&] { host.machine.EditTextFile(path); }, path, ask);
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/ask.h"
+#include "platform/data_folders.h"
 #include "platform/host.h"
 #include "project/reference_language.h"
 
@@ -11,18 +12,13 @@
 
 namespace quillon {
 
-/// The folders in which language files lie: those of the tool, and those that users have added
-/// where the tool's own folder can't be written. Of two equal names the added one counts.
-struct LanguageFolders {
-    LanguageFolders(const Text& toolFolder) : LanguageFolders(toolFolder, toolFolder) {}
-    LanguageFolders(const Text& toolFolder, const Text& ownFolder);
-
-    Text ofTool;
-    Text added; // may be the same
+/// The folders in which language files lie; those that users add go into `own`.
+struct LanguageFolders : DataFolders {
+    LanguageFolders(const Text& toolFolder, const Text& ownFolder = {})
+        : DataFolders(toolFolder, ownFolder, "Language")
+    {
+    }
 };
-
-/// The path of a language file that is there, or where it would be expected.
-Text LanguagePath(const FileSystem& files, const LanguageFolders& folders, const Text& name);
 
 /// Their names, sorted; none where the folder is missing. A folder that can't be read is reported.
 std::vector<Text> LanguageFiles(const FileSystem& files, const LanguageFolders& folders, Ask& ask);

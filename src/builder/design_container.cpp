@@ -35,7 +35,7 @@ Step CreateDesignContainer(CreateRun& run)
 {
     InitCompression(run, kDeflateLevel);
     run.ask.AddStatusLine("Öppnar DESOBJ.DAT");
-    for (const DesignObject& object : DesignObjects(run.project, run.options.ToolFolder)) {
+    for (const DesignObject& object : DesignObjects(run.project, run.host.files, run.options)) {
         if (object.isCheckedFirst && !run.host.files.FileExists(object.path))
             return TellMissingObject(run, object.path);
         run.compression.IfcAddFileListItem(

@@ -1,5 +1,6 @@
 #include "builder/design_objects.h"
 
+#include "design/rtf_box_file.h"
 #include "helpers/windows_path.h"
 
 #include <algorithm>
@@ -7,6 +8,12 @@
 namespace quillon {
 
 namespace {
+
+Text RTFboxPath(const Project& project, const FileSystem& files, const CreateOptions& options)
+{
+    return PathIn(files, RTFboxFolders(options.ToolFolder, options.OwnFolder),
+                  project.DesRTFbox.RTFfilename);
+}
 
 void AddIfNamed(std::vector<DesignObject>& objects, const Text& path)
 {
@@ -39,11 +46,12 @@ bool IsDefaultDialogBitmap(const Text& path)
     return ContainsText(UpperCase(path), "SETUPDEF.BMP");
 }
 
-std::vector<DesignObject> DesignObjects(const Project& project, const Text& toolFolder)
+std::vector<DesignObject> DesignObjects(const Project& project, const FileSystem& files,
+                                        const CreateOptions& options)
 {
     std::vector<DesignObject> objects;
     if (!project.DesRTFbox.RTFfilename.empty() && project.DesRTFbox.ShowRTFbox != kOff)
-        objects.push_back({JoinPath(toolFolder + "\\rtf", project.DesRTFbox.RTFfilename), false});
+        objects.push_back({RTFboxPath(project, files, options), false});
     AddIfNamed(objects, project.DesBackground.PictureFilename);
     for (const section::DesPicture& picture : project.DesPictures.Pictures)
         AddIfNamed(objects, picture.PictureFilename);

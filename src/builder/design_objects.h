@@ -1,7 +1,8 @@
 // The files that the setup shows on its background screen and in its dialogs.
 #pragma once
 
-#include "helpers/text.h"
+#include "builder/create_options.h"
+#include "platform/file_system.h"
 #include "project/records.h"
 
 #include <vector>
@@ -21,7 +22,8 @@ struct DesignObject {
 };
 
 /// What goes into the design container, in its order there.
-std::vector<DesignObject> DesignObjects(const Project& project, const Text& toolFolder);
+std::vector<DesignObject> DesignObjects(const Project& project, const FileSystem& files,
+                                        const CreateOptions& options);
 
 /// Whether the runtime must be the one that can show JPEG pictures. Kept: only ".jpg" counts, and
 /// the pictures of dialogs do not.

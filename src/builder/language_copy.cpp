@@ -13,7 +13,7 @@ void CopyLanguageTo(const Text& folder, const Text& name, const CreateOptions& o
     // A project from elsewhere must not name a file outside these folders.
     if (name.empty() || name.find_first_of("\\/:") != Text::npos)
         throw RunError(ErrorNumber::kBadFileName, JoinPath(folders.ofTool, name));
-    files.CopyContent(LanguagePath(files, folders, name), JoinPath(folder, name));
+    files.CopyContent(PathIn(files, folders, name), JoinPath(folder, name));
 }
 
 } // namespace quillon

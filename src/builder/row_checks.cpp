@@ -233,7 +233,7 @@ Check CheckIconTitles(CreateRun& run)
 Check CheckDesignNames(CreateRun& run)
 {
     std::unordered_map<Text, Text> seen;
-    for (const DesignObject& object : DesignObjects(run.project, run.options.ToolFolder)) {
+    for (const DesignObject& object : DesignObjects(run.project, run.host.files, run.options)) {
         const Text name = ExtractFilename(object.path);
         const auto [found, isNew] = seen.emplace(LowerCase(name), object.path);
         if (!isNew && !EqualIgnoreCase(found->second, object.path))

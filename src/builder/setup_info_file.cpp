@@ -1,6 +1,7 @@
 #include "builder/setup_info_file.h"
 
 #include "builder/design_objects.h"
+#include "design/rtf_box_file.h"
 #include "filelist/adding/file_version.h"
 #include "filelist/view/totals.h"
 #include "formats/scramble.h"
@@ -31,10 +32,12 @@ Text DialogBitmapReference(const Text& path, SetupInfoMode mode)
     return IsDefaultDialogBitmap(path) ? Text() : DesignFileReference(path, mode);
 }
 
-Text RtfReference(const Text& name, const Text& toolFolder, SetupInfoMode mode)
+Text RtfReference(const Text& name, const SetupInfoInput& in, SetupInfoMode mode)
 {
     const bool asItStands = name.empty() || mode == SetupInfoMode::Create;
-    return asItStands ? name : JoinPath(toolFolder + "\\RTF", name);
+    if (asItStands)
+        return name;
+    return PathIn(in.host.files, RTFboxFolders(in.options.ToolFolder, in.options.OwnFolder), name);
 }
 
 Text DocumentReference(const Text& name)
@@ -74,7 +77,7 @@ public:
         case InfForm::AsDlgBitmap:
             return DialogBitmapReference(value, mode_);
         case InfForm::AsRtfFile:
-            return RtfReference(value, in_.options.ToolFolder, mode_);
+            return RtfReference(value, in_, mode_);
         case InfForm::AsDocument:
             return DocumentReference(value);
         case InfForm::AsNoFirstBackslash:

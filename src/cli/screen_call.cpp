@@ -103,7 +103,8 @@ Exit PaintProjectScreen(const CallContext& context)
         throw CallFailure{PartlyReadText(path) + " Ingen bild skapas.", Exit::Unreadable};
 
     const ScreenFiles files =
-        ReadScreenFiles(session.project, context.host.files, session.options.ToolFolder,
+        ReadScreenFiles(session.project, context.host.files,
+                        {session.options.ToolFolder, session.options.OwnFolder},
                         {.surfaceWidth = surface.width,
                          .surfaceHeight = surface.height,
                          .metrics = session.surface.screen,

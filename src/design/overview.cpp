@@ -1,7 +1,6 @@
 #include "design/overview.h"
 
 #include "design/changing_pictures.h"
-#include "design/rtf_box_file.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 
@@ -16,12 +15,13 @@ struct DesignFile {
     Text path;
 };
 
-std::vector<DesignFile> DesignFiles(const Project& project, const Text& toolFolder)
+std::vector<DesignFile> DesignFiles(const Project& project, const FileSystem& files,
+                                    const RTFboxFolders& texts)
 {
     std::vector<DesignFile> list;
     const section::DesRTFbox& box = project.DesRTFbox;
     if (!box.RTFfilename.empty() && box.ShowRTFbox != kOff)
-        list.push_back({"RTF-ruta", RTFboxPath(toolFolder, box.RTFfilename)});
+        list.push_back({"RTF-ruta", PathIn(files, texts, box.RTFfilename)});
     for (std::size_t i = 0; i < section::kDesPictureCount; ++i)
         if (const Text& file = project.DesPictures.Pictures[i].PictureFilename; !file.empty())
             list.push_back({"Bild " + NumberText(std::int64_t(i) + 1), file});
@@ -45,11 +45,11 @@ Text SizeText(std::uint64_t bytes)
 } // namespace
 
 std::vector<OverviewRow> DesOverview(const Project& project, const FileSystem& files,
-                                     const Text& toolFolder)
+                                     const RTFboxFolders& texts)
 {
     std::vector<OverviewRow> rows;
     try {
-        for (const auto& [label, path] : DesignFiles(project, toolFolder))
+        for (const auto& [label, path] : DesignFiles(project, files, texts))
             rows.push_back({label, ExtractFilename(path), SizeText(files.Status(path).size)});
     } catch (const RunError&) {
         // the rows up to here are the list

@@ -1,7 +1,7 @@
 // The files that a design uses, as the overview lists them.
 #pragma once
 
-#include "platform/file_system.h"
+#include "design/rtf_box_file.h"
 #include "project/records.h"
 
 #include <vector>
@@ -18,6 +18,6 @@ struct OverviewRow {
 
 /// Kept: a file that can't be measured ends the list without a word.
 std::vector<OverviewRow> DesOverview(const Project& project, const FileSystem& files,
-                                     const Text& toolFolder);
+                                     const RTFboxFolders& texts);
 
 } // namespace quillon

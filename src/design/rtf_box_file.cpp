@@ -7,11 +7,6 @@
 
 namespace quillon {
 
-Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename)
-{
-    return JoinPath(JoinPath(toolFolder, "rtf"), RTFfilename);
-}
-
 Text ProposedRTFfilename(const Text& projectFileName)
 {
     const Text name = ExtractFilename(projectFileName);
@@ -43,10 +38,8 @@ bool CheckRTFfilename(const Text& typed, Ask& ask)
     return true;
 }
 
-void SaveRTFbox(FileSystem& files, const Text& toolFolder, const Text& RTFfilename,
-                std::string_view bytes, OldRtfFile old)
+void SaveRTFbox(FileSystem& files, const Text& path, std::string_view bytes, OldRtfFile old)
 {
-    const Text path = RTFboxPath(toolFolder, RTFfilename);
     const Text unfinished = path + ".tmp";
     files.DirCreate(ExtractDirectory(path));
     if (old == OldRtfFile::Kept && files.FileExists(path))

@@ -2,12 +2,17 @@
 #pragma once
 
 #include "platform/ask.h"
-#include "platform/file_system.h"
+#include "platform/data_folders.h"
 
 namespace quillon {
 
-/// Where the text is kept: in the folder for it beside the tool.
-Text RTFboxPath(const Text& toolFolder, const Text& RTFfilename);
+/// The folders in which the texts lie; the editor writes into `own`. `PathIn` finds one.
+struct RTFboxFolders : DataFolders {
+    RTFboxFolders(const Text& toolFolder, const Text& ownFolder = {})
+        : DataFolders(toolFolder, ownFolder, "RTF")
+    {
+    }
+};
 
 /// The name that the editor proposes for a box without a file: the project's own with "rtf" after
 /// its dot. Kept: an unsaved project has no ".qnp" to find, and is given "rtf" alone.
@@ -26,8 +31,7 @@ enum class OldRtfFile { Replaced, Kept };
 
 /// Writes the file beside its name first, so that one that was there stays whole until the new one
 /// is. Throws `RunError`.
-void SaveRTFbox(FileSystem& files, const Text& toolFolder, const Text& RTFfilename,
-                std::string_view bytes, OldRtfFile old);
+void SaveRTFbox(FileSystem& files, const Text& path, std::string_view bytes, OldRtfFile old);
 
 /// Tells what of the file the editor does not show, and that the file is kept.
 void ReportRtfLosses(const std::vector<Text>& losses, bool isCut, const Text& path, Ask& ask);

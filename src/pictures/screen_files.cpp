@@ -1,7 +1,6 @@
 #include "pictures/screen_files.h"
 
 #include "design/changing_pictures.h"
-#include "design/rtf_box_file.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 
@@ -73,8 +72,8 @@ std::optional<RtfText> ReadRtfBox(const Text& file, const FileSystem& files,
 
 } // namespace
 
-ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files, const Text& toolFolder,
-                            const ScreenSize& size)
+ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files,
+                            const RTFboxFolders& texts, const ScreenSize& size)
 {
     ScreenFiles read;
     ScreenPictures& pictures = read.pictures;
@@ -90,7 +89,7 @@ ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files, con
                 TransparentColourOf(project.DesLogotype));
     const section::DesRTFbox& box = project.DesRTFbox;
     if (box.ShowRTFbox != kOff && !box.RTFfilename.empty())
-        read.rtfBox = ReadRtfBox(RTFboxPath(toolFolder, box.RTFfilename), files, read.faults);
+        read.rtfBox = ReadRtfBox(PathIn(files, texts, box.RTFfilename), files, read.faults);
     return read;
 }
 

@@ -1,6 +1,7 @@
 // The files that a design names, read for the painter: its pictures and the text of its RTF box.
 #pragma once
 
+#include "design/rtf_box_file.h"
 #include "design/screen.h"
 #include "pictures/picture_file.h"
 
@@ -35,7 +36,7 @@ struct ScreenSize {
 /// Only what is shown is read, of the changing pictures the first one, and only as much of a
 /// picture is kept as is shown: all together take no more than `kMaxPicturesMemory`, with the file
 /// that is being read. A file that there is no more room for is too large.
-ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files, const Text& toolFolder,
-                            const ScreenSize& size);
+ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files,
+                            const RTFboxFolders& texts, const ScreenSize& size);
 
 } // namespace quillon

@@ -174,12 +174,10 @@ TEST_F(LanguageFilesTest, AreAddedInTheUsersFolderWhereTheToolsIsClosed)
     EXPECT_EQ(AddLanguage(machine.host, folders, ask), "NORSK.LNG");
     EXPECT_THAT(LanguageFiles(machine.files, folders, ask),
                 ElementsAre("FINSKA.LNG", "NORSK.LNG", "SWEDISH.LNG"));
-    EXPECT_EQ(LanguagePath(machine.files, folders, "NORSK.LNG"),
+    EXPECT_EQ(PathIn(machine.files, folders, "NORSK.LNG"),
               "C:\\Data\\Quillon\\Language\\NORSK.LNG");
-    EXPECT_EQ(LanguagePath(machine.files, folders, "SWEDISH.LNG"),
-              "C:\\Quillon\\Language\\SWEDISH.LNG");
-    EXPECT_EQ(LanguagePath(machine.files, folders, "BORTA.LNG"),
-              "C:\\Quillon\\Language\\BORTA.LNG");
+    EXPECT_EQ(PathIn(machine.files, folders, "SWEDISH.LNG"), "C:\\Quillon\\Language\\SWEDISH.LNG");
+    EXPECT_EQ(PathIn(machine.files, folders, "BORTA.LNG"), "C:\\Quillon\\Language\\BORTA.LNG");
     EditLanguage(machine.host, folders, "FINSKA.LNG", ask);
     ASSERT_FALSE(machine.machine.started.empty());
     EXPECT_EQ(machine.machine.started.back().second, "C:\\Data\\Quillon\\Language\\FINSKA.LNG");

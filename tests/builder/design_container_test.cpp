@@ -57,6 +57,19 @@ TEST_F(DesignContainer, HoldsEveryObjectInItsOrder)
                             "b6.bmp"));
 }
 
+TEST_F(DesignContainer, HoldsTheUsersOwnTextInFrontOfTheTools)
+{
+    desk.options.OwnFolder = "C:\\Data\\Quillon";
+    desk.machine.files.Put("C:\\Data\\Quillon\\RTF\\text.rtf", "{\\rtf1 user}");
+    EXPECT_EQ(desk.With(CreateDesignContainer), Step::GoOn);
+    ZipReader container(desk.machine.files.OpenInput("C:\\Ut\\DESOBJ.DAT"));
+    std::string bytes;
+    container.Extract(container.Entries().at(0), "", [&](std::span<const std::byte> piece) {
+        bytes.append(reinterpret_cast<const char*>(piece.data()), piece.size());
+    });
+    EXPECT_EQ(bytes, "{\\rtf1 user}");
+}
+
 TEST_F(DesignContainer, LeavesOutATextBoxThatIsNotShown)
 {
     desk.project.DesRTFbox.ShowRTFbox = kOff;

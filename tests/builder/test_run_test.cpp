@@ -349,7 +349,12 @@ TEST_F(TestRunTest, RunsInTheUsersFolderWhereTheToolsIsClosed)
     desk.options.OwnFolder = own;
     desk.machine.files.Put(own + "\\Language\\FINSKA.LNG", "egen");
     project.Language.LanguageFile = "FINSKA.LNG";
+    desk.machine.files.Put(own + "\\RTF\\info.rtf", "{\\rtf1 egen}");
+    project.DesRTFbox.RTFfilename = "info.rtf";
     EXPECT_TRUE(Simulate());
+    EXPECT_EQ(ReadSetupInformation(desk.machine.files.Get(own + "\\Test\\QNSETUP.INF"))
+                  .project.DesRTFbox.RTFfilename,
+              own + "\\RTF\\info.rtf");
     EXPECT_FALSE(Has(kFileListName)) << "nothing is written beside the tool";
     EXPECT_TRUE(desk.machine.files.FileExists(own + "\\Test\\FILELIST.INF"));
     EXPECT_EQ(desk.machine.files.Get(own + "\\Test\\FINSKA.LNG"), "egen");

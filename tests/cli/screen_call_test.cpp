@@ -191,7 +191,7 @@ TEST_F(ScreenCall, TellsEveryFileThatCannotBeShown)
     EXPECT_THAT(Names("out"), ElementsAre());
     EXPECT_THAT(run.err, HasSubstr("Filen 'S:\\gone.bmp' finns inte.\n"
                                    "Filen 'S:\\bad.bmp' är ingen bild i BMP, JPEG eller WMF.\n"));
-    EXPECT_THAT(run.err, HasSubstr("\\rtf\\bad.rtf' är ingen RTF-fil.\n"));
+    EXPECT_THAT(run.err, HasSubstr("\\RTF\\bad.rtf' är ingen RTF-fil.\n"));
     EXPECT_THAT(run.err, HasSubstr(ObjectOf(run)["error"].get<std::string>()));
 }
 

@@ -22,6 +22,7 @@ namespace {
 
 class Overview : public testing::Test {
 protected:
+    const RTFboxFolders texts_{"C:\\Quillon"};
     Overview()
     {
         files_.Put("C:\\Quillon\\rtf\\Demo.rtf", std::string(1234567, 'x'));
@@ -32,7 +33,7 @@ protected:
         files_.Put("C:\\b\\ljud.mid", "1");
     }
 
-    std::vector<OverviewRow> Rows() const { return DesOverview(project_, files_, "C:\\Quillon"); }
+    std::vector<OverviewRow> Rows() const { return DesOverview(project_, files_, texts_); }
 
     MemoryFiles files_;
     Project project_;
@@ -69,6 +70,18 @@ TEST_F(Overview, LeavesOutAnRtfBoxThatIsNotShown)
 {
     project_.DesRTFbox.RTFfilename = "Demo.rtf";
     EXPECT_TRUE(Rows().empty());
+}
+
+TEST_F(Overview, MeasuresTheUsersOwnTextInFrontOfTheTools)
+{
+    project_.DesRTFbox.RTFfilename = "Demo.rtf";
+    project_.DesRTFbox.ShowRTFbox = kOn;
+    const RTFboxFolders texts("C:\\Quillon", "C:\\Data\\Quillon");
+    EXPECT_THAT(DesOverview(project_, files_, texts),
+                ElementsAre(OverviewRow{"RTF-ruta", "Demo.rtf", "1 234 567"}));
+    files_.Put("C:\\Data\\Quillon\\RTF\\Demo.rtf", "1234");
+    EXPECT_THAT(DesOverview(project_, files_, texts),
+                ElementsAre(OverviewRow{"RTF-ruta", "Demo.rtf", "4"}));
 }
 
 TEST_F(Overview, EndsAtAFileThatCantBeMeasured)

@@ -112,7 +112,7 @@ Usage ReadAndPaintInChild(const Project& project, const FileSystem& files)
     const pid_t child = fork();
     if (child == 0) {
         const ScreenFiles read =
-            ReadScreenFiles(project, files, "C:\\", {.width = kWidth, .height = kHeight});
+            ReadScreenFiles(project, files, Text("C:\\"), {.width = kWidth, .height = kHeight});
         std::vector<Pixel> pixels(std::size_t{kWidth} * kHeight);
         BlockLetters letters;
         PaintScreen(WholeCanvas(pixels.data(), kWidth, kHeight), letters,
@@ -156,6 +156,23 @@ TEST(ReadScreenFiles, OfAHugeJpegInItsOwnSizeStaysWithinBounds)
         EXPECT_LT(usage.peakKilobytes, kMaxKilobytes);
 }
 
+TEST(ReadScreenFiles, ReadsTheUsersOwnTextInFrontOfTheTools)
+{
+    MemoryFiles files;
+    files.Put("C:\\Quillon\\RTF\\a.rtf", "{\\rtf1 tool}");
+    Project project;
+    project.DesRTFbox.ShowRTFbox = kOn;
+    project.DesRTFbox.RTFfilename = "a.rtf";
+    const auto text = [&] {
+        const ScreenFiles read = ReadScreenFiles(project, files, {"C:\\Quillon", "C:\\Data"},
+                                                 {.width = 640, .height = 480});
+        return read.rtfBox ? read.rtfBox->paragraphs.at(0).runs.at(0).text : Text();
+    };
+    EXPECT_EQ(text(), "tool");
+    files.Put("C:\\Data\\RTF\\a.rtf", "{\\rtf1 user}");
+    EXPECT_EQ(text(), "user");
+}
+
 TEST(ReadScreenFiles, KeepsNoMoreThanIsShown)
 {
     MemoryFiles files;
@@ -163,7 +180,7 @@ TEST(ReadScreenFiles, KeepsNoMoreThanIsShown)
     Project project = FullDesign(kOn);
     project.DesLogotype.LogotypeFilename.clear();
     const ScreenFiles read =
-        ReadScreenFiles(project, files, "C:\\", {.width = kWidth, .height = kHeight});
+        ReadScreenFiles(project, files, Text("C:\\"), {.width = kWidth, .height = kHeight});
     EXPECT_THAT(read.faults, IsEmpty());
     EXPECT_EQ(read.pictures.background.Memory(), std::int64_t{kWidth} * kHeight * 4);
     // The others fill 200 x 100 pixels of a surface of 640 x 480.
@@ -185,7 +202,8 @@ TEST(ReadScreenFiles, TakesTheTransparentColourOutOfThePicturesOwnPixels)
                .StretchPicture = kOn,
                .PictureWidth = 100,
                .PictureHeight = 1};
-    const ScreenFiles read = ReadScreenFiles(project, files, "C:\\", {.width = 640, .height = 480});
+    const ScreenFiles read =
+        ReadScreenFiles(project, files, Text("C:\\"), {.width = 640, .height = 480});
     BlockLetters letters;
     const Picture& shown = read.pictures.pictures[0].InSize(100, 1, letters);
     EXPECT_EQ(shown.pixels[50], 0x80808080) << "half of it white, half of it clear";
@@ -230,8 +248,8 @@ TEST(ReadScreenFiles, TellsOfAPictureThatThereIsNoMoreRoomFor)
     folder.Put("b", metafile);
     metafile = {};
     const OneFileDisk files(folder.Path("b"));
-    const ScreenFiles read =
-        ReadScreenFiles(FullDesign(kOff), files, "C:\\", {.width = kWidth, .height = kHeight});
+    const ScreenFiles read = ReadScreenFiles(FullDesign(kOff), files, Text("C:\\"),
+                                             {.width = kWidth, .height = kHeight});
     EXPECT_LE(MemoryOf(read.pictures), kMaxPicturesMemory);
     ASSERT_EQ(read.faults.size(), 1U);
     EXPECT_EQ(read.faults[0].fault, PictureFault::TooLarge);

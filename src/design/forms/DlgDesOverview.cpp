@@ -22,8 +22,8 @@ DlgDesOverview::DlgDesOverview(Session& session, QWidget* parent)
     ListViewOverview->setHeaderLabels({"Objekt", "Fil", "Storlek (byte)"});
     ListViewOverview->setRootIsDecorated(false);
     ListViewOverview->setAllColumnsShowFocus(true);
-    for (const OverviewRow& row :
-         DesOverview(session.project, session.host.files, session.options.ToolFolder)) {
+    const RTFboxFolders texts(session.options.ToolFolder, session.options.OwnFolder);
+    for (const OverviewRow& row : DesOverview(session.project, session.host.files, texts)) {
         auto* item = new QTreeWidgetItem(ListViewOverview,
                                          {ToQt(row.label), ToQt(row.file), ToQt(row.size)});
         item->setTextAlignment(kSizeColumn, Qt::AlignRight | Qt::AlignVCenter);

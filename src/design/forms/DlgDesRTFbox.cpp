@@ -1,7 +1,7 @@
 #include "design/forms/DlgDesRTFbox.h"
 
 #include "design/number_fields.h"
-#include "design/rtf_box_file.h"
+#include "helpers/windows_path.h"
 #include "platform/failure_text.h"
 #include "platform/whole_file.h"
 #include "rtf/rtf_losses.h"
@@ -214,9 +214,14 @@ void DlgDesRTFbox::ChooseRTFfont()
     RTFbox->setFocus();
 }
 
+RTFboxFolders DlgDesRTFbox::Folders() const
+{
+    return {session_.options.ToolFolder, session_.options.OwnFolder};
+}
+
 void DlgDesRTFbox::Load()
 {
-    const Text path = RTFboxPath(session_.options.ToolFolder, box_.RTFfilename);
+    const Text path = PathIn(session_.host.files, Folders(), box_.RTFfilename);
     try {
         const std::string bytes = ReadWholeFile(session_.host.files, path);
         const auto text = ReadRtf(bytes);
@@ -245,10 +250,10 @@ bool DlgDesRTFbox::MayClose()
 bool DlgDesRTFbox::SaveText()
 {
     const Text name = StoredRTFfilename(FromQt(tRTFfilename->text()));
-    const Text path = RTFboxPath(session_.options.ToolFolder, name);
+    const Text path = JoinPath(Folders().own, name);
     try {
         const RtfText text = ExtractRtf(*RTFbox->document(), RTFbox->logicalDpiX());
-        SaveRTFbox(session_.host.files, session_.options.ToolFolder, name, WriteRtf(text),
+        SaveRTFbox(session_.host.files, path, WriteRtf(text),
                    EqualIgnoreCase(path, shownFile_) ? OldRtfFile::Replaced : OldRtfFile::Kept);
         shownFile_ = path;
         return true;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "design/forms/DesignEditor.h"
+#include "design/rtf_box_file.h"
 
 class QTextCharFormat;
 class QTextEdit;
@@ -37,6 +38,7 @@ private:
     void ShowFormat();
     void ShowBackColour();
     void ChooseRTFfont();
+    RTFboxFolders Folders() const;
     void Load();
     bool SaveText();
 

@@ -135,7 +135,7 @@ TEST_F(DlgDesRTFboxTest, LoadsTheFileAndTellsWhatItCantShow)
     machine.files.Put("C:\\Quillon\\rtf\\a.rtf",
                       "{\\rtf1\\ansi Hej {\\b d\\'e5}{\\pict\\wmetafile8 00}}");
     ask.Expect({BoxKind::Warn, "RTF-ruta",
-                "Filen 'C:\\Quillon\\rtf\\a.rtf' innehåller bilder, som inte kan visas i rutan. "
+                "Filen 'C:\\Quillon\\RTF\\a.rtf' innehåller bilder, som inte kan visas i rutan. "
                 "Trycker du på 'OK' behålls den gamla filen bredvid den nya, med .bak efter "
                 "namnet."});
     DlgDesRTFbox form(session, nullptr);
@@ -152,7 +152,7 @@ TEST_F(DlgDesRTFboxTest, TellsAllThatItCantShow)
     machine.files.Put("C:\\Quillon\\rtf\\a.rtf",
                       "{\\rtf1{\\footerr 1}{\\shp{\\*\\shpinst}}\\ls1 a{\\up6 b}{\\v c}\\\\pict}");
     ask.Expect({BoxKind::Warn, "RTF-ruta",
-                "Filen 'C:\\Quillon\\rtf\\a.rtf' innehåller ritade figurer, sidfot, automatiska "
+                "Filen 'C:\\Quillon\\RTF\\a.rtf' innehåller ritade figurer, sidfot, automatiska "
                 "listor, höjda eller sänkta tecken, dold text, som inte kan visas i rutan. "
                 "Trycker du på 'OK' behålls den gamla filen bredvid den nya, med .bak efter "
                 "namnet."});
@@ -275,6 +275,31 @@ TEST_F(DlgDesRTFboxTest, TellsOfAFileThatIsMissing)
     DlgDesRTFbox form(session, nullptr);
     ShowActive(form);
     EXPECT_EQ(form.RTFbox->toPlainText(), "");
+}
+
+TEST_F(DlgDesRTFboxTest, KeepsTheTextInTheUsersFolderWhereTheToolsIsClosed)
+{
+    const Text ofTool = "C:\\Quillon\\RTF\\a.rtf";
+    const Text own = "C:\\Data\\Quillon\\RTF\\a.rtf";
+    session.options.OwnFolder = "C:\\Data\\Quillon";
+    machine.files.Put(ofTool, "{\\rtf1 tool}");
+    machine.files.RefuseOutput(ofTool + ".tmp", 70);
+    box.RTFfilename = "a.rtf";
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    EXPECT_EQ(form.RTFbox->toPlainText(), "tool");
+    form.RTFbox->setPlainText("user");
+    Click(form, "cmdOK");
+    EXPECT_TRUE(form.OK);
+    EXPECT_EQ(machine.files.Get(ofTool), "{\\rtf1 tool}");
+    const auto saved = ReadRtf(machine.files.Get(own));
+    ASSERT_TRUE(saved);
+    EXPECT_EQ(saved->paragraphs.at(0).runs.at(0).text, "user");
+    DlgDesRTFbox again(session, nullptr);
+    ShowActive(again);
+    EXPECT_EQ(again.RTFbox->toPlainText(), "user");
+    Click(again, "cmdOK");
+    EXPECT_FALSE(machine.files.FileExists(own + ".bak")) << "it was shown whole";
 }
 
 TEST_F(DlgDesRTFboxTest, WantsAFileName)
