@@ -71,6 +71,16 @@ bool Holds(const std::string& text, const std::string& part)
 
 } // namespace
 
+TEST_F(WriteSetupInfo, HasSizeAndPlaceOfChangingPicturesWhereThereAreNone)
+{
+    project.DesPicturesAnim = {
+        .PictureWidth = 310, .PictureHeight = 170, .PictureXPos = 900, .PictureYPos = 1500};
+    EXPECT_TRUE(Holds(Written(), "[DesPicturesAnim]\r\nNrAnimPictures = 0\r\n"
+                                 "StretchPicture = 0\r\nPictureWidth = 310\r\n"
+                                 "PictureHeight = 170\r\nPictureXPos = 60\r\n"
+                                 "PictureYPos = 100\r\n"));
+}
+
 TEST_F(FullSetupInfo, IsWrittenToTheByteForCreate)
 {
     EXPECT_TRUE(SameBytes(Written(), GoldenFile("builder/full_project/QNSETUP.INF")));

@@ -1,5 +1,6 @@
 #include "design/forms/DesignEditor.h"
 
+#include "design/transparent_colours.h"
 #include "shell/session.h"
 #include "ui/PathLabel.h"
 #include "ui/qt_text.h"
@@ -8,6 +9,7 @@
 #include <QtWidgets>
 #include <algorithm>
 #include <limits>
+#include <memory>
 
 namespace quillon {
 
@@ -25,12 +27,13 @@ Integer StoredNumber(const QString& text)
 } // namespace
 
 QLineEdit* DesignEditor::NumberField(QLineEdit*& member, const char* name, Integer& value,
-                                     EntryCheck check)
+                                     EntryCheck check, OnOk onOk)
 {
     QLineEdit* field = CheckedField(member, name, NumberText(value), check);
-    // Once more, for a number that was out of its range before and was never touched.
-    Bind([field, &value, check = std::move(check)] {
-        value = StoredNumber(ToQt(check(FromQt(field->text()))));
+    // Once more, for an entry whose field was not left.
+    Bind([field, shown = field->text(), &value, check = std::move(check), onOk] {
+        if (onOk == OnOk::ChecksAlways || field->text() != shown)
+            value = StoredNumber(ToQt(check(FromQt(field->text()))));
     });
     return field;
 }
@@ -69,6 +72,23 @@ Piece DesignEditor::Options(Integer& value, std::initializer_list<NumberOption> 
     if (!isChosen)
         options.begin()->member->setChecked(true);
     return column;
+}
+
+QComboBox* DesignEditor::TransparentColorList(QComboBox*& member, const char* name, Integer& value)
+{
+    QComboBox* list = Choice(member, name, kTransparentColorNames, value);
+    if (list->currentIndex() >= 0)
+        return list;
+    list->setCurrentIndex(kDefaultTransparentColor);
+    const auto isChosen = std::make_shared<bool>(false);
+    const auto choose = [isChosen] { *isChosen = true; };
+    connect(list, &QComboBox::currentIndexChanged, this, choose);
+    connect(list, &QComboBox::activated, this, choose); // the one that is shown, too
+    Bind([&value, stored = value, isChosen] {
+        if (!*isChosen)
+            value = stored;
+    });
+    return list;
 }
 
 ColourButton* DesignEditor::ColourOf(ColourButton*& member, const char* name, const Text& caption,

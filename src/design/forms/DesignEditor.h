@@ -18,8 +18,12 @@ protected:
     /// What an entry becomes when its field is left.
     using EntryCheck = std::function<Text(const Text& entry)>;
 
+    /// When a number is checked beside on leaving its field: where the user changed it only, so
+    /// that one from elsewhere stays as it is, or on each OK.
+    enum class OnOk { ChecksWhatIsChanged, ChecksAlways };
     /// A field for a number of a record.
-    QLineEdit* NumberField(QLineEdit*& member, const char* name, Integer& value, EntryCheck check);
+    QLineEdit* NumberField(QLineEdit*& member, const char* name, Integer& value, EntryCheck check,
+                           OnOk onOk = OnOk::ChecksWhatIsChanged);
     /// The field of a number that is kept as text, or that something else stores.
     QLineEdit* CheckedField(QLineEdit*& member, const char* name, const Text& text,
                             EntryCheck check);
@@ -34,6 +38,10 @@ protected:
     QRadioButton* OptionOf(Integer& value, const NumberOption& option);
     /// Options that are in one frame. A value that none has chooses the first.
     Piece Options(Integer& value, std::initializer_list<NumberOption> options);
+
+    /// The list of the colours that can be taken out of a picture. A number that is none of them
+    /// shows the default, and stays in the record until a colour is chosen.
+    QComboBox* TransparentColorList(QComboBox*& member, const char* name, Integer& value);
 
     ColourButton* ColourOf(ColourButton*& member, const char* name, const Text& caption,
                            Colour& value);

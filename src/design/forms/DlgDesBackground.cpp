@@ -49,6 +49,7 @@ Piece DlgDesBackground::ColourFrame()
     // Kept: trying a direction marks the project changed, also where Cancel follows.
     connect(ComboBlendDirection, &QComboBox::currentIndexChanged, this, [this] {
         EnableDepth();
+        FillDepth();
         session_.state.ProjectIsDirty = kOn;
     });
     return Frame({}, {HBox({cmdBackColor, cmdBackColor2, Stretch()}),
@@ -79,7 +80,12 @@ void DlgDesBackground::EnableDepth()
     const bool isBlend = ComboBlendDirection->currentIndex() > 0;
     labBlendDepth->setEnabled(isBlend);
     tBlendDepth->setEnabled(isBlend);
-    if (isBlend && tBlendDepth->text().isEmpty())
+}
+
+// An empty depth of the record means the same, and stays until a direction is chosen.
+void DlgDesBackground::FillDepth()
+{
+    if (tBlendDepth->isEnabled() && tBlendDepth->text().isEmpty())
         tBlendDepth->setText("100");
 }
 

@@ -30,6 +30,7 @@ private:
     Piece ColourFrame();
     Piece PictureFrame();
     void EnableDepth();
+    void FillDepth();
 
     section::DesBackground& background_;
 };

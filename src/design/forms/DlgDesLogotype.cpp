@@ -2,7 +2,6 @@
 
 #include "design/forms/choose_file.h"
 #include "design/number_fields.h"
-#include "design/transparent_colours.h"
 #include "shell/session.h"
 #include "ui/PathLabel.h"
 #include "ui/qt_text.h"
@@ -22,9 +21,11 @@ DlgDesLogotype::DlgDesLogotype(Session& session, QWidget* parent)
 {
     section::DesLogotype& logotype = session.project.DesLogotype;
     Check(NAMED(cTransparentBkg), "&Transparent bakgrund", logotype.UseTransparentBkg);
-    Choice(NAMED(ComboTransparentColor), kTransparentColorNames, logotype.TransparentColorNr);
-    NumberField(NAMED(tLogotypeWMFWidth), logotype.LogotypeWMFWidth, CheckedLogotypeWMFWidth);
-    NumberField(NAMED(tLogotypeWMFHeight), logotype.LogotypeWMFHeight, CheckedLogotypeWMFHeight);
+    TransparentColorList(NAMED(ComboTransparentColor), logotype.TransparentColorNr);
+    NumberField(NAMED(tLogotypeWMFWidth), logotype.LogotypeWMFWidth, CheckedLogotypeWMFWidth,
+                OnOk::ChecksAlways);
+    NumberField(NAMED(tLogotypeWMFHeight), logotype.LogotypeWMFHeight, CheckedLogotypeWMFHeight,
+                OnOk::ChecksAlways);
     Piece sides = Options(logotype.LogotypeAlignment,
                           {{NAMED(oRight), "Till &höger", 3}, {NAMED(oLeft), "Till &vänster", 1}});
     Arrange(VBox({

@@ -2,7 +2,6 @@
 
 #include "design/forms/choose_file.h"
 #include "design/number_fields.h"
-#include "design/transparent_colours.h"
 #include "shell/session.h"
 #include "ui/PathLabel.h"
 #include "ui/qt_text.h"
@@ -24,7 +23,7 @@ DlgDesPictures::DlgDesPictures(std::size_t index, Session& session, QWidget* par
 {
     section::DesPictures& shared = session.project.DesPictures;
     Check(NAMED(cTransparentBkg), "&Transparent bakgrund", picture_.UseTransparentBkg);
-    Choice(NAMED(ComboTransparentColor), kTransparentColorNames, shared.TransparentColorNr);
+    TransparentColorList(NAMED(ComboTransparentColor), shared.TransparentColorNr);
     Check01(NAMED(cHidePicturesWhenDialogsShowed), "&Dölj bilderna när dialogrutor visas",
             shared.HidePicturesWhenDialogsShowed);
     Piece file = FileFrame();

@@ -22,9 +22,10 @@ DlgDesPicturesAnim::DlgDesPicturesAnim(Session& session, QWidget* parent)
 {
     Piece list = ListFrame();
     Check(NAMED(cStretchPicture), "&Skala bilderna", pictures_.StretchPicture);
-    NumberField(NAMED(tWidth), pictures_.PictureWidth, CheckedPictureSize);
-    NumberField(NAMED(tHeight), pictures_.PictureHeight, CheckedPictureSize);
-    NumberField(NAMED(tIntervalSeconds), pictures_.IntervalSeconds, CheckedIntervalSeconds);
+    NumberField(NAMED(tWidth), pictures_.PictureWidth, CheckedPictureSize, OnOk::ChecksAlways);
+    NumberField(NAMED(tHeight), pictures_.PictureHeight, CheckedPictureSize, OnOk::ChecksAlways);
+    NumberField(NAMED(tIntervalSeconds), pictures_.IntervalSeconds, CheckedIntervalSeconds,
+                OnOk::ChecksAlways);
     Arrange(VBox({
         Growing(list),
         HBox({

@@ -72,8 +72,10 @@ void DlgUnderline::MakeHeight()
                      return CheckedUnderlineHeight(entry, UnderlineKind(GetUnderlineTypeNr()));
                  });
     Bind([this] {
-        underline_.UnderlineHeight =
-            static_cast<Integer>(LeadingNumber(FromQt(tUnderlineHeight->text())));
+        Text height = FromQt(tUnderlineHeight->text());
+        if (height.empty())
+            height = CheckedUnderlineHeight(height, UnderlineKind(GetUnderlineTypeNr()));
+        underline_.UnderlineHeight = static_cast<Integer>(LeadingNumber(height));
     });
     Named(NAMED(UpDownArr), new UpDownArrows(tUnderlineHeight));
     const auto kind = ChoiceOf(UnderlineKind(GetUnderlineTypeNr()));

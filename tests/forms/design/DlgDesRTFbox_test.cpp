@@ -339,6 +339,17 @@ TEST_F(DlgDesRTFboxTest, StaysOpenWhereTheTextCantBeSaved)
     EXPECT_EQ(box.RTFfilename, "");
 }
 
+TEST_F(DlgDesRTFboxTest, LeavesASizeAloneThatNobodyChanges)
+{
+    box.RTFboxWidth = 1700;
+    box.RTFboxHeight = 40;
+    DlgDesRTFbox form(session, nullptr);
+    ShowActive(form);
+    Click(form, "cmdOK");
+    EXPECT_EQ(box.RTFboxWidth, 1700);
+    EXPECT_EQ(box.RTFboxHeight, 40);
+}
+
 TEST_F(DlgDesRTFboxTest, CorrectsItsSize)
 {
     DlgDesRTFbox form(session, nullptr);

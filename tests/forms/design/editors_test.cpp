@@ -9,6 +9,8 @@
 #include "design/forms/DlgDesTitle.h"
 #include "design/forms/DlgSound.h"
 #include "design/forms/DlgUnderline.h"
+#include "shell/help_pages.h"
+#include "shell/lifecycle.h"
 #include "support/window_test.h"
 #include "ui/PathLabel.h"
 #include "ui/UpDownArrows.h"
@@ -44,6 +46,7 @@ TEST_F(DesignEditorsTest, BackgroundStoresItsFields)
     EXPECT_EQ(form.ComboBlendDirection->currentText(), "Tona ned");
     EXPECT_TRUE(form.tBlendDepth->isEnabled());
     // An empty depth of the record is shown as it is until a direction is chosen.
+    EXPECT_EQ(form.tBlendDepth->text(), "");
     ask.colours = {0x123456};
     Click(form, "cmdBackColor");
     EXPECT_EQ(ask.shownColours, std::vector<Long>{16711680});
@@ -61,6 +64,7 @@ TEST_F(DesignEditorsTest, BackgroundStoresItsFields)
     Click(form, "cmdOK");
     EXPECT_EQ(project.DesBackground.Type, 2);
     EXPECT_EQ(project.DesBackground.BackColor1, 0x123456);
+    EXPECT_EQ(project.DesBackground.BlendDepth, "");
     EXPECT_EQ(project.DesBackground.PictureFilename, "C:\\Bilder\\sol.jpg");
     EXPECT_EQ(project.DesBackground.StretchPicture, kOff);
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
@@ -226,6 +230,62 @@ TEST_F(DesignEditorsTest, PicturesResetTakesAllOfASlotBack)
     EXPECT_EQ(picture.PictureXPos, 700);
 }
 
+// They come from a larger window, or follow their pictures.
+TEST_F(DesignEditorsTest, SizesThatNobodyChangesStayAsTheyAre)
+{
+    project.DesTextBox.BoxWidth = 800;
+    project.DesTextBox.BoxHeight = 20;
+    DlgDesTextbox box(session, nullptr);
+    ShowActive(box);
+    Type(box, "tTitleText", "Rubrik");
+    Click(box, "cmdOK");
+    EXPECT_EQ(project.DesTextBox.BoxTitle, "Rubrik");
+    EXPECT_EQ(project.DesTextBox.BoxWidth, 800);
+    EXPECT_EQ(project.DesTextBox.BoxHeight, 20);
+    section::DesPicture& picture = project.DesPictures.Pictures[0];
+    for (const auto& [width, height] : {std::pair<Integer, Integer>{3000, 2250}, {5, 9}}) {
+        picture = {.PictureFilename = "C:\\a.bmp", .PictureWidth = width, .PictureHeight = height};
+        DlgDesPictures form(0, session, nullptr);
+        ShowActive(form);
+        Click(form, "cmdOK");
+        EXPECT_EQ(picture.PictureWidth, width);
+        EXPECT_EQ(picture.PictureHeight, height);
+    }
+}
+
+TEST_F(DesignEditorsTest, SizesThatAreStillBeingTypedAreChecked)
+{
+    section::DesPicture& picture = project.DesPictures.Pictures[0];
+    DlgDesPictures form(0, session, nullptr);
+    ShowActive(form);
+    Type(form, "tWidth", "2001");
+    QTest::keyClick(form.tWidth, Qt::Key_Return);
+    EXPECT_TRUE(form.OK);
+    EXPECT_EQ(picture.PictureWidth, 2000);
+    DlgDesPictures never(0, session, nullptr); // is on the screen, so no field is left
+    never.tWidth->setText("9");
+    never.cmdOK->click();
+    EXPECT_EQ(picture.PictureWidth, 10);
+}
+
+TEST_F(DesignEditorsTest, ChangingPicturesAndLogotypesCheckWhatNobodyChangesToo)
+{
+    project.DesPicturesAnim = {.PictureWidth = 5, .PictureHeight = 3000, .IntervalSeconds = 0};
+    DlgDesPicturesAnim changing(session, nullptr);
+    ShowActive(changing);
+    Click(changing, "cmdOK");
+    EXPECT_EQ(project.DesPicturesAnim.PictureWidth, 10);
+    EXPECT_EQ(project.DesPicturesAnim.PictureHeight, 2000);
+    EXPECT_EQ(project.DesPicturesAnim.IntervalSeconds, 1);
+    project.DesLogotype.LogotypeWMFWidth = 900;
+    project.DesLogotype.LogotypeWMFHeight = 0;
+    DlgDesLogotype logotype(session, nullptr);
+    ShowActive(logotype);
+    Click(logotype, "cmdOK");
+    EXPECT_EQ(project.DesLogotype.LogotypeWMFWidth, 100);
+    EXPECT_EQ(project.DesLogotype.LogotypeWMFHeight, 50);
+}
+
 TEST_F(DesignEditorsTest, ChangingPicturesCheckTheirFieldsOnOk)
 {
     DlgDesPicturesAnim form(session, nullptr);
@@ -249,6 +309,114 @@ TEST_F(DesignEditorsTest, LogotypeChecksItsSizeAgainOnOk)
     Click(form, "cmdOK");
     EXPECT_EQ(project.DesLogotype.LogotypeWMFWidth, 100);
     EXPECT_EQ(project.DesLogotype.LogotypeWMFHeight, 50);
+}
+
+TEST_F(DesignEditorsTest, ATransparentColourThatIsNoneShowsTheDefaultAndStays)
+{
+    Integer& ofPictures = project.DesPictures.TransparentColorNr;
+    Integer& ofLogotype = project.DesLogotype.TransparentColorNr;
+    for (const Integer number : std::initializer_list<Integer>{-1, 12, 32767}) {
+        ofPictures = ofLogotype = number;
+        DlgDesPictures pictures(0, session, nullptr);
+        ShowActive(pictures);
+        EXPECT_EQ(pictures.ComboTransparentColor->currentText(), "Svart") << number;
+        Click(pictures, "cmdOK");
+        DlgDesLogotype logotype(session, nullptr);
+        ShowActive(logotype);
+        EXPECT_EQ(logotype.ComboTransparentColor->currentText(), "Svart") << number;
+        Click(logotype, "cmdOK");
+        EXPECT_EQ(ofPictures, number);
+        EXPECT_EQ(ofLogotype, number);
+    }
+    DlgDesPictures other(0, session, nullptr);
+    ShowActive(other);
+    other.ComboTransparentColor->setCurrentIndex(2);
+    Click(other, "cmdOK");
+    EXPECT_EQ(ofPictures, 2);
+    // The one that is shown can be chosen, too.
+    DlgDesLogotype same(session, nullptr);
+    ShowActive(same);
+    same.ComboTransparentColor->showPopup();
+    QTest::keyClick(same.ComboTransparentColor->view(), Qt::Key_Return);
+    Click(same, "cmdOK");
+    EXPECT_EQ(ofLogotype, 8);
+}
+
+TEST_F(DesignEditorsTest, ListsHaveTheirNamesInOrder)
+{
+    const auto rows = [](const QComboBox& list) {
+        QStringList names;
+        for (int i = 0; i < list.count(); ++i)
+            names << list.itemText(i);
+        return names;
+    };
+    const QStringList colours = {"Gul",     "Röd",     "Blå",   "Grön", "Cyan",    "Magenta",
+                                 "Mörkröd", "Mörkblå", "Svart", "Grå",  "Ljusgrå", "Vit"};
+    EXPECT_EQ(rows(*DlgDesPictures(0, session, nullptr).ComboTransparentColor), colours);
+    EXPECT_EQ(rows(*DlgDesLogotype(session, nullptr).ComboTransparentColor), colours);
+    EXPECT_EQ(rows(*DlgDesBackground(session, nullptr).ComboBlendDirection),
+              QStringList({"Ingen toning", "Tona höger", "Tona vänster", "Tona upp", "Tona ned",
+                           "Rektangulär toning"}));
+}
+
+TEST_F(DesignEditorsTest, LogotypeIsChosenAndTakenAway)
+{
+    session.Settings.Directories.LastPictureDir = "C:\\Bilder";
+    DlgDesLogotype form(session, nullptr);
+    ShowActive(form);
+    ask.choices = {{{"C:\\b\\firma.wmf"}}};
+    Click(form, "cmdSelectPicture");
+    EXPECT_EQ(ask.questions.back().title, "Välj bild");
+    EXPECT_EQ(ask.questions.back().folder, "C:\\Bilder");
+    EXPECT_EQ(ask.questions.back().filter,
+              "Alla bildfiler|*.bmp;*.wmf;*.jpg|Bitmappar (*.bmp)|*.bmp|Metafiler "
+              "(*.wmf)|*.wmf|JPEG-bilder (*.jpg)|*.jpg");
+    EXPECT_EQ(session.Settings.Directories.LastPictureDir, "C:\\b");
+    EXPECT_EQ(form.sFilename->text(), "C:\\b\\firma.wmf");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesLogotype.LogotypeFilename, "C:\\b\\firma.wmf");
+    DlgDesLogotype again(session, nullptr);
+    ShowActive(again);
+    Click(again, "cmdReset");
+    EXPECT_EQ(again.sFilename->text(), "");
+    Click(again, "cmdOK");
+    EXPECT_EQ(project.DesLogotype.LogotypeFilename, "");
+}
+
+TEST_F(DesignEditorsTest, ChangingPicturesAreChosenAsForABackground)
+{
+    session.Settings.Directories.LastPictureDir = "C:\\Bilder";
+    DlgDesPicturesAnim form(session, nullptr);
+    ShowActive(form);
+    ask.choices = {{{"C:\\b\\ett.jpg"}}};
+    Click(form, "cmdAddPicture");
+    EXPECT_EQ(ask.questions.back().title, "Välj bild");
+    EXPECT_EQ(ask.questions.back().folder, "C:\\Bilder");
+    EXPECT_EQ(ask.questions.back().filter,
+              "Alla bildfiler (*.bmp;*.jpg)|*.bmp;*.jpg|Bitmappar (*.bmp)|*.bmp|JPEG-bilder "
+              "(*.jpg)|*.jpg");
+    EXPECT_EQ(session.Settings.Directories.LastPictureDir, "C:\\b");
+}
+
+TEST_F(DesignEditorsTest, NoChangingPicturesKeepTheirSizeAndPlaceInTheFile)
+{
+    project.DesPicturesAnim.PictureXPos = 900;
+    project.DesPicturesAnim.PictureYPos = 1500;
+    DlgDesPicturesAnim form(session, nullptr);
+    ShowActive(form);
+    Type(form, "tWidth", "310");
+    Type(form, "tHeight", "170");
+    Click(form, "cmdOK");
+    EXPECT_EQ(project.DesPicturesAnim.NrAnimPictures, 0);
+    session.state.ProjectFileName = "C:\\P\\a.qnp";
+    machine.files.PutFolder("C:\\P");
+    ASSERT_EQ(SaveProject(session), SaveEnd::Done);
+    const std::string written = machine.files.Get("C:\\P\\a.qnp");
+    EXPECT_NE(written.find("[DesPicturesAnim]\r\nNrAnimPictures = 0\r\nStretchPicture = 0\r\n"
+                           "PictureWidth = 310\r\nPictureHeight = 170\r\nPictureXPos = 60\r\n"
+                           "PictureYPos = 100\r\nPictureXPosTwips = 900\r\n"
+                           "PictureYPosTwips = 1500\r\n"),
+              std::string::npos);
 }
 
 TEST_F(DesignEditorsTest, TitleKeepsANewFontOnCancel)
@@ -331,6 +499,39 @@ TEST_F(DesignEditorsTest, UnderlineSwitchesItsControls)
     EXPECT_EQ(stored.UnderlineColor2, 0x22);
     EXPECT_EQ(stored.UnderlineHeight, 4);
     EXPECT_EQ(stored.UnderlineTextOnly, 0);
+}
+
+TEST_F(DesignEditorsTest, UnderlineStoresThreeForAnEmptiedHeight)
+{
+    project.DesTitleUnderline = {.UnderlineType = 1, .UnderlineHeight = 20};
+    DlgUnderline form(session, nullptr);
+    ShowActive(form);
+    Type(form, "tUnderlineHeight", "");
+    Click(form, "OKButton");
+    EXPECT_EQ(project.DesTitleUnderline.UnderlineHeight, 3);
+    DlgUnderline never(session, nullptr); // is on the screen, so no field is left
+    never.tUnderlineHeight->clear();
+    never.cmdOK->click();
+    EXPECT_EQ(project.DesTitleUnderline.UnderlineHeight, 3);
+}
+
+TEST_F(DesignEditorsTest, UnderlineOpensItsPageOfTheHelp)
+{
+    machine.files.Put("C:\\Quillon\\QN.HLP", "# Hjälp\n\n## Understrykning {underline}\n\nText\n");
+    std::vector<CommandId> opened;
+    session.helpWindow = [&](const auto&, const HelpRequest& request) {
+        opened.push_back(request.command);
+    };
+    DlgUnderline form(session, nullptr);
+    ShowActive(form);
+    Click(form, "CmdHelp");
+    EXPECT_EQ(opened, std::vector{CommandId::Underline});
+    // A help file of another kind is opened by the system.
+    machine.files.Put("C:\\Quillon\\QN.HLP", "?_ an old one");
+    Click(form, "CmdHelp");
+    ASSERT_FALSE(machine.machine.started.empty());
+    EXPECT_EQ(machine.machine.started.back().first, "C:\\Quillon\\QN.HLP");
+    EXPECT_TRUE(form.isVisible());
 }
 
 TEST_F(DesignEditorsTest, TextboxStoresItsFields)
