@@ -16,7 +16,7 @@ DesignPage::DesignPage(Session& session) : screen_(new DesignScreen(session))
 
 void DesignPage::BeginProject()
 {
-    screen_->ReportAllAgain();
+    screen_->BeginProject();
     isPending_ = true;
 }
 

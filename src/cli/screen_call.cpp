@@ -4,6 +4,7 @@
 #include "cli/open_project.h"
 #include "cli/png_file.h"
 #include "design/system_letters.h"
+#include "pictures/picture_error.h"
 #include "pictures/screen_files.h"
 #include "platform/saved_file.h"
 
@@ -51,19 +52,9 @@ Size SizeOf(const CallContext& context, const char* option, Size ifMissing)
 
 Text FaultText(const ScreenFileFault& fault)
 {
-    const Text file = "Filen '" + fault.file + "' ";
-    switch (fault.fault) {
-    case PictureFault::NotFound:
-        return file + "finns inte.";
-    case PictureFault::Unreadable:
-        return file + "kan ej läsas.";
-    case PictureFault::Damaged:
-        return file + "är skadad.";
-    case PictureFault::TooLarge:
-        return file + "är en för stor bild.";
-    default:
-        return file + (fault.isRtf ? "är ingen RTF-fil." : "är ingen bild i BMP, JPEG eller WMF.");
-    }
+    if (fault.isRtf && fault.fault == PictureFault::UnknownFormat)
+        return "Filen '" + fault.file + "' är ingen RTF-fil.";
+    return PictureFaultText(fault.fault, fault.file);
 }
 
 /// What the user would miss in the picture ends the call; all of it is reported.

@@ -34,6 +34,7 @@ void LayOutPicture(section::DesPicture& picture, PictureBox& box, ScreenMetrics 
                    const MeasurePicture& measure)
 {
     const bool hasFile = !picture.PictureFilename.empty();
+    box.isVisible = false;
     box.isStretched = picture.StretchPicture != kOff;
     if (hasFile) {
         const PixelSize size = measure(picture.PictureFilename);
@@ -52,6 +53,7 @@ void LayOutPicture(section::DesPicture& picture, PictureBox& box, ScreenMetrics 
     if (!hasFile && !box.isStretched)
         box.place.Width = box.place.Height = 0;
     box.isVisible = hasFile;
+    box.file = picture.PictureFilename;
     box.isUnread = false;
     box.place.Left = picture.PictureXPos;
     box.place.Top = picture.PictureYPos;
@@ -129,9 +131,10 @@ Long ClampDesY(const SurfacePlace& surface, ScreenMetrics screen, Long y, Long h
 void LayOutPictures(section::DesPictures& record, PictureBoxes& boxes, SurfacePlace& surface,
                     ScreenMetrics screen, const MeasurePicture& measure)
 {
-    for (PictureBox& box : boxes) {
-        box.isVisible = false;
-        box.isUnread = true;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        boxes[i].isVisible =
+            boxes[i].isVisible && boxes[i].file == record.Pictures[i].PictureFilename;
+        boxes[i].isUnread = true;
     }
     for (std::size_t i = 0; i < boxes.size(); ++i)
         LayOutPicture(record.Pictures[i], boxes[i], screen, measure);

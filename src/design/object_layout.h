@@ -39,6 +39,8 @@ struct PictureBox {
     SurfacePlace place;
     bool isVisible = false;
     bool isStretched = false;
+    // The file that it shows; empty where it shows none.
+    Text file;
     // Its file, or one in front of it, could not be read: the record keeps its place.
     bool isUnread = false;
 };
@@ -46,8 +48,9 @@ using PictureBoxes = std::array<PictureBox, section::kDesPictureCount>;
 
 /// Lays the free pictures out. The record follows: a picture that isn't stretched gives it its
 /// size, one that is larger than the surface becomes a stretched one, and every place is moved
-/// inside the surface. A picture that can't be read ends the work with its `RunError`; the slots
-/// after it stay as they were.
+/// inside the surface. A picture that can't be read ends the work with its `RunError` and is
+/// hidden; a slot after it stays as it was, and is hidden where the record names another file by
+/// now.
 void LayOutPictures(section::DesPictures& record, PictureBoxes& boxes, SurfacePlace& surface,
                     ScreenMetrics screen, const MeasurePicture& measure);
 

@@ -16,6 +16,7 @@ namespace ErrorNumber {
 inline constexpr int kNone = 0;
 inline constexpr int kCannotStart = 5;
 inline constexpr int kOverflow = 6;
+inline constexpr int kOutOfMemory = 7;
 inline constexpr int kSubscriptOutOfRange = 9;
 inline constexpr int kTypeMismatch = 13;
 inline constexpr int kBadFileName = 52;

@@ -420,6 +420,122 @@ TEST_F(DesignObjectsTest, PicturesBehindADamagedOneAreNotLaidOut)
     EXPECT_FALSE(ask.busyPointer);
 }
 
+TEST_F(DesignObjectsTest, PicturesBehindOneThatAnEditorBreaksStayShown)
+{
+    machine.files.Put("C:\\fel.bmp", "no picture");
+    PutPicture("C:\\b.bmp", 60, 40);
+    section::DesPictures& record = project.DesPictures;
+    for (section::DesPicture& picture : record.Pictures)
+        picture.PictureFilename = "C:\\b.bmp";
+    Show();
+    const QRect before = Object("DesPicture1").geometry();
+    ask.Expect({BoxKind::Critical, "Fel bildformat"});
+    record.Pictures[0].PictureFilename = "C:\\fel.bmp";
+    OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdOK"); });
+    EditDesPictures(page->Screen(), 0);
+    EXPECT_FALSE(Object("DesPicture0").isVisible());
+    for (const char* name : {"DesPicture1", "DesPicture2"}) {
+        EXPECT_TRUE(Object(name).isVisible()) << name;
+        EXPECT_EQ(PixelAt(Object(name).grab().toImage(), {30, 20}), qRgb(255, 0, 0)) << name;
+    }
+    EXPECT_EQ(Object("DesPicture1").geometry(), before);
+    Drag(Object("DesPicture1"), {37, 11});
+    EXPECT_EQ(record.Pictures[1].PictureXPos, 340 + 37 * 15);
+    EXPECT_EQ(record.Pictures[2].PictureXPos, 440);
+    // Of another project nothing is shown that is not its own, also where it names the same files.
+    ask.Expect({BoxKind::Critical, "Fel bildformat"});
+    page->BeginProject();
+    page->ShowSession();
+    EXPECT_FALSE(Object("DesPicture1").isVisible());
+    EXPECT_EQ(page->Screen().PicturesMemory(), 0);
+}
+
+TEST_F(DesignObjectsTest, AnEmptiedSlotIsHiddenBehindOneThatCantBeRead)
+{
+    machine.files.Put("C:\\fel.bmp", "no picture");
+    PutPicture("C:\\b.bmp", 60, 40);
+    for (section::DesPicture& picture : project.DesPictures.Pictures)
+        picture.PictureFilename = "C:\\b.bmp";
+    DesignScreen& screen = Show();
+    const std::int64_t before = screen.PicturesMemory();
+    ask.Expect({BoxKind::Critical, "Fel bildformat"});
+    project.DesPictures.Pictures[0].PictureFilename = "C:\\fel.bmp";
+    project.DesPictures.Pictures[1].PictureFilename.clear();
+    screen.DrawDesPictures();
+    EXPECT_FALSE(Object("DesPicture1").isVisible());
+    EXPECT_TRUE(Object("DesPicture2").isVisible());
+    EXPECT_LE(screen.PicturesMemory(), before / 2) << "nothing is kept of what is hidden";
+}
+
+/// Files that report which one is opened.
+class WatchedFiles : public MemoryFiles {
+public:
+    std::unique_ptr<InputFile> OpenInput(const Text& path) const override
+    {
+        if (onOpen)
+            onOpen(path);
+        return MemoryFiles::OpenInput(path);
+    }
+
+    std::function<void(const Text&)> onOpen;
+};
+
+/// Notes when a widget comes up.
+class ShownNote : public QObject {
+public:
+    ShownNote(QWidget& widget, QStringList& notes) : notes_(notes)
+    {
+        widget.installEventFilter(this);
+    }
+
+private:
+    bool eventFilter(QObject* widget, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show)
+            notes_ << widget->objectName();
+        return false;
+    }
+
+    QStringList& notes_;
+};
+
+TEST_F(DesignObjectsTest, AreDrawnInTheirOrderWithABusyPointerAtPictures)
+{
+    WatchedFiles watched;
+    PutPicture("C:\\b.bmp", 60, 40);
+    for (const char* path : {"C:\\bak.bmp", "C:\\ett.bmp", "C:\\tre.bmp", "C:\\logo.bmp"})
+        watched.Put(path, machine.files.Get("C:\\b.bmp"));
+    Host host{watched, machine.machine};
+    Session own = NewSession(host, ask, "C:\\Quillon");
+    own.project.DesBackground = {.Type = 2, .PictureFilename = "C:\\bak.bmp"};
+    own.project.DesPictures.Pictures[0].PictureFilename = "C:\\ett.bmp";
+    own.project.DesPictures.Pictures[2].PictureFilename = "C:\\tre.bmp";
+    own.project.DesPicturesAnim.NrAnimPictures = 1;
+    own.project.DesLogotype.LogotypeFilename = "C:\\logo.bmp";
+    own.project.DesTextBox.ShowTextBox = own.project.DesRTFbox.ShowRTFbox = kOn;
+    DesignScreen screen(own);
+    screen.PlaceSurface({800, 600}, 0);
+    ShowActive(screen);
+    QStringList notes;
+    std::vector<std::unique_ptr<ShownNote>> watches;
+    for (const char* name : {"DesPicture0", "DesPicture1", "DesPicture2", "DesPictureAnim",
+                             "DesLogotype", "DesTextBoxPic", "DesRTFboxPic"})
+        watches.push_back(std::make_unique<ShownNote>(Find<QWidget>(screen, name), notes));
+    const auto& surface = Find<QWidget>(screen, "colorblendBackground");
+    watched.onOpen = [&](const Text& path) {
+        notes << ToQt(path) + (ask.busyPointer ? " busy" : "") +
+                     (surface.accessibleDescription() == "Ny" ? " titled" : "");
+    };
+    own.project.DesTitle.TitleText = "Ny";
+    screen.DrawDesAll();
+    EXPECT_EQ(notes, QStringList({"C:\\bak.bmp", "C:\\ett.bmp busy titled",
+                                  "C:\\tre.bmp busy titled", "DesPicture0", "DesPicture2",
+                                  "DesPictureAnim", "C:\\logo.bmp busy titled", "DesLogotype",
+                                  "DesTextBoxPic", "DesRTFboxPic"}))
+        << notes.join('\n').toStdString();
+    EXPECT_FALSE(ask.busyPointer);
+}
+
 TEST_F(DesignObjectsTest, CommandsOpenTheEditors)
 {
     MainForm form(session);

@@ -188,6 +188,49 @@ TEST_F(DesignPageTest, TellsOnceOfAPictureThatIsNoneAndKeepsItsName)
     page.Screen().DrawDesBackground();
 }
 
+TEST_F(DesignPageTest, SaysInTheStatusBarWhyAPictureIsMissing)
+{
+    PutPicture("C:\\bild.bmp", TwoColours(4, 4));
+    std::string huge = machine.files.Get("C:\\bild.bmp");
+    huge.replace(18, 4, std::string("\0\0\1\0", 4)); // 65536 pixels wide
+    machine.files.Put("C:\\stor.bmp", huge);
+    machine.files.At("C:\\bild.bmp").unreadable = true;
+    Background() = {.Type = 2, .PictureFilename = "C:\\bild.bmp"};
+    section::DesPicture& picture = session.project.DesPictures.Pictures[0];
+    picture.PictureFilename = "C:\\stor.bmp";
+    DesignPage& page = Show();
+    QTest::qWait(0);
+    // No box comes up, since neither is a wrong format.
+    const Text unreadable = "Filen 'C:\\bild.bmp' kan ej läsas. Kontrollera att du får läsa den.";
+    ASSERT_FALSE(ask.statusTexts.empty());
+    EXPECT_EQ(ask.statusTexts.back(), unreadable);
+    machine.files.At("C:\\bild.bmp").unreadable = false;
+    page.Screen().DrawDesBackground();
+    EXPECT_EQ(ask.statusTexts.back(), "Filen 'C:\\stor.bmp' är en för stor bild. Välj en mindre "
+                                      "bild, eller mindre bilder bredvid den.");
+    picture.PictureFilename = "C:\\borta.bmp";
+    page.Screen().DrawDesPictures();
+    EXPECT_EQ(ask.statusTexts.back(), "Filen 'C:\\borta.bmp' finns inte. Lägg tillbaka den eller "
+                                      "välj en annan bild.");
+    picture.PictureFilename = "C:\\bild.bmp";
+    page.Screen().DrawDesPictures();
+    EXPECT_EQ(ask.statusTexts.back(), "");
+    // Behind another tab nothing of it stays, and nothing that others say is taken away.
+    const std::size_t said = ask.statusTexts.size();
+    page.Screen().DrawDesAll();
+    page.Screen().HideDesObjects();
+    EXPECT_EQ(ask.statusTexts.size(), said);
+    machine.files.RemoveFile("C:\\bild.bmp");
+    page.Screen().DrawDesAll();
+    EXPECT_NE(ask.statusTexts.back(), "");
+    page.Screen().HideDesObjects();
+    EXPECT_EQ(ask.statusTexts.back(), "");
+    // A file that could not be read is reported once it can be and is no picture.
+    machine.files.Put("C:\\bild.bmp", "no picture at all");
+    ask.Expect({BoxKind::Critical, "Fel bildformat"});
+    page.Screen().DrawDesBackground();
+}
+
 TEST_F(DesignPageTest, TellsAgainOfAPictureThatTheUserSetsAnew)
 {
     machine.files.Put("C:\\bild.bmp", "no picture at all");

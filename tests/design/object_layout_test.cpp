@@ -196,6 +196,26 @@ TEST_F(Pictures, OfTheProjectBeforeAreNotShownBehindOneThatCantBeRead)
         EXPECT_FALSE(box.isVisible);
 }
 
+TEST_F(Pictures, BehindOneThatCantBeReadAreShownAsBefore)
+{
+    for (section::DesPicture& picture : record_.Pictures)
+        picture.PictureFilename = "x.bmp";
+    LayOut(Measures(10, 10));
+    const PictureBoxes before = boxes_;
+    record_.Pictures[0].PictureFilename = "damaged.bmp";
+    record_.Pictures[1].PictureXPos = 900;
+    record_.Pictures[2].PictureFilename = "y.bmp";
+    const auto fails = [](const Text&) -> PixelSize { throw RunError(kInvalidPicture); };
+    EXPECT_EQ(RunErrorNumber([&] { LayOut(fails); }), kInvalidPicture);
+    EXPECT_FALSE(boxes_[0].isVisible);
+    EXPECT_TRUE(boxes_[1].isVisible);
+    EXPECT_EQ(boxes_[1].place, before[1].place) << "not laid out in this pass";
+    EXPECT_FALSE(boxes_[2].isVisible) << "it would show another picture than the record's";
+    // Nothing is stored of a box that is not where its record says.
+    KeepPicturesInsideDesign(record_, boxes_, surface_, kScreen);
+    EXPECT_EQ(record_.Pictures[1].PictureXPos, 900);
+}
+
 TEST_F(Pictures, TakenAwayLeaveNoSizeBehind)
 {
     record_.Pictures[0] = {.PictureFilename = "a.bmp", .PictureXPos = 6000, .PictureYPos = 1140};

@@ -4,7 +4,6 @@
 #include "design/forms/pixel_image.h"
 #include "design/surface_click.h"
 #include "design/text_panel.h"
-#include "platform/run_error.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 
@@ -147,6 +146,12 @@ void DesignScreen::MakePictures(const DesignObject::Surround& surround)
     }
 }
 
+void DesignScreen::BeginProject()
+{
+    reported_.clear();
+    ForgetPictures();
+}
+
 void DesignScreen::DrawDesBackground()
 {
     section::DesBackground& background = session_.project.DesBackground;
@@ -157,6 +162,8 @@ void DesignScreen::DrawDesBackground()
     colorblendBackground_->Show(paint_);
     if (paint_.UsePicture)
         colorblendBackground_->Show(paint_, ReadBackground());
+    else
+        ShowWhyMissing(PictureStep::Background, {});
 }
 
 void DesignScreen::DrawDesTitle()
@@ -169,26 +176,17 @@ void DesignScreen::DrawDesTitle()
 void DesignScreen::DrawDesPictures()
 {
     session_.ask.ShowBusyPointer(true);
-    pictures_ = {};
-    std::size_t next = 0;
-    const section::DesPictures& record = session_.project.DesPictures;
-    const auto measure = [&](const Text&) {
-        while (record.Pictures[next].PictureFilename.empty())
-            ++next;
-        return ReadDesPicture(next++);
-    };
-    std::optional<RunError> failure;
-    RunErrorNumber(
-        [&] {
-            LayOutPictures(session_.project.DesPictures, boxes_, place_, session_.surface.screen,
-                           measure);
-        },
-        failure);
+    std::optional<PictureError> failure = LayOutDesPictures();
+    // What stayed behind it may have taken its room.
+    if (failure && failure->Fault() == PictureFault::TooLarge) {
+        ForgetPictures();
+        failure = LayOutDesPictures();
+    }
     session_.ask.ShowBusyPointer(false);
     if (failure)
         TellPictureError(PictureStep::Pictures, *failure);
     else
-        reported_.erase(PictureStep::Pictures);
+        TellShown(PictureStep::Pictures);
     ShowPictures();
 }
 
@@ -204,6 +202,8 @@ void DesignScreen::ShowPictures()
 void DesignScreen::MovePicture(std::size_t index, const SurfacePlace& place)
 {
     boxes_[index].place = place;
+    // Also where the last pass did not come as far as this picture.
+    boxes_[index].isUnread = false;
     KeepPicturesInsideDesign(session_.project.DesPictures, boxes_, place_, session_.surface.screen);
     ShowPictures();
     session_.state.ProjectIsDirty = kOn;
@@ -224,20 +224,17 @@ void DesignScreen::DrawDesLogotype()
     session_.ask.ShowBusyPointer(true);
     logotype_ = {};
     logotypeBox_ = {};
-    std::optional<RunError> failure;
-    RunErrorNumber(
-        [&] {
-            logotypeBox_ = LayOutLogotype(record, SurroundOfLogotype(),
-                                          [this](const Text&) { return ReadDesLogotype(); });
-        },
-        failure);
+    const auto failure = PictureErrorOf([&] {
+        logotypeBox_ = LayOutLogotype(record, SurroundOfLogotype(),
+                                      [this](const Text&) { return ReadDesLogotype(); });
+    });
     session_.ask.ShowBusyPointer(false);
     if (failure)
         TellPictureError(PictureStep::Logotype, *failure);
     else if (!logotypeBox_.isTooLarge)
-        reported_.erase(PictureStep::Logotype);
-    else if (IsUnreported(PictureStep::Logotype, record.LogotypeFilename))
-        TellLogotypeTooLarge(session_.ask);
+        TellShown(PictureStep::Logotype);
+    else
+        TellTooLargeLogotype();
     DesignObject& object = Of(Object::Logotype);
     object.setAccessibleDescription(ToQt(record.LogotypeFilename));
     ShowObject(object, logotypeBox_.place, logotypeBox_.isVisible);
@@ -317,6 +314,9 @@ void DesignScreen::HideDesObjects()
         picture->hide();
     for (const auto& [kind, object] : objects_)
         object->hide();
+    for (const PictureStep step :
+         {PictureStep::Background, PictureStep::Pictures, PictureStep::Logotype})
+        ShowWhyMissing(step, {});
 }
 
 void DesignScreen::PlaceSurface(QSize tab, int captionHeight)

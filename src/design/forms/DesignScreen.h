@@ -7,6 +7,7 @@
 #include "design/object_layout.h"
 #include "design/surface_click.h"
 #include "design/system_letters.h"
+#include "pictures/picture_error.h"
 
 #include <array>
 #include <map>
@@ -16,7 +17,6 @@ class QLabel;
 namespace quillon {
 
 class DragRectFrame;
-class RunError;
 struct Session;
 
 class DesignScreen : public QWidget {
@@ -26,7 +26,8 @@ public:
     Session& GetSession() { return session_; }
 
     // Each lays one object out anew. What the layout corrects is kept in the record. A picture that
-    // can't be shown is reported once, and its name stays in the record.
+    // can't be shown is reported once, and its name stays in the record; as long as it is missing,
+    // the status bar says why.
     void DrawDesBackground();
     void DrawDesTitle();
     void DrawDesPictures();
@@ -40,8 +41,9 @@ public:
     enum class PictureStep { Background, Pictures, Logotype };
     /// The next time that step reports again what it can't show: the user has set it anew.
     void ReportAgain(PictureStep step) { reported_.erase(step); }
-    /// The same of all steps: the project is another one, or was read again.
-    void ReportAllAgain() { reported_.clear(); }
+    /// The project is another one, or was read again: nothing of what was shown stays, and all
+    /// steps report again.
+    void BeginProject();
 
     /// Shows a font of the text box that was chosen, and lays nothing out.
     void RepaintDesTextBox() { Of(Object::TextBox).update(); }
@@ -73,8 +75,10 @@ private:
     void MovePicture(std::size_t index, const SurfacePlace& place);
     void ShowPictures();
     void EditAt(QPoint place);
-    /// Throws `RunError` where the file is no picture.
+    /// Throws `PictureError` where the file can't be shown.
     PixelSize MeasureAndKeep(const Text& file, ScalablePicture& kept);
+    void ForgetPictures();
+    std::optional<PictureError> LayOutDesPictures();
     PixelSize ReadDesPicture(std::size_t index);
     PixelSize ReadDesLogotype();
     LogotypeSurround SurroundOfLogotype() const;
@@ -83,7 +87,11 @@ private:
     void KeepOnlyIn(const SurfacePlace& place, ScalablePicture& picture) const;
     /// Whether the step has not reported that file yet.
     bool IsUnreported(PictureStep step, const Text& file);
-    void TellPictureError(PictureStep step, const RunError& error);
+    void TellPictureError(PictureStep step, const PictureError& error);
+    void TellShown(PictureStep step);
+    void TellTooLargeLogotype();
+    /// Has the status bar say why a picture is missing; an empty text says that none is.
+    void ShowWhyMissing(PictureStep step, const Text& why);
     void ShowDragRect(const std::optional<DragRect>& rect);
 
     Session& session_;
@@ -104,6 +112,8 @@ private:
     QLabel* Label_DesRTFboxPic_ = nullptr;
     // The file that each step reported last: steps are drawn again and again.
     std::map<PictureStep, Text> reported_;
+    // What the status bar says of each step.
+    std::map<PictureStep, Text> whyMissing_;
     DragRectFrame* dragRect_ = nullptr;
 };
 

@@ -3,8 +3,6 @@
 // one is read into what the others leave, and then kept in no more pixels than the tab shows.
 #include "design/forms/DesignScreen.h"
 
-#include "pictures/picture_file.h"
-#include "platform/run_error.h"
 #include "shell/session.h"
 
 #include <QtWidgets>
@@ -18,8 +16,8 @@ ScalablePicture DesignScreen::ReadBackground()
     ScalablePicture picture;
     try {
         MeasureAndKeep(session_.project.DesBackground.PictureFilename, picture);
-        reported_.erase(PictureStep::Background);
-    } catch (const RunError& error) {
+        TellShown(PictureStep::Background);
+    } catch (const PictureError& error) {
         TellPictureError(PictureStep::Background, error);
         paint_.UsePicture = false;
         return {};
@@ -32,6 +30,29 @@ ScalablePicture DesignScreen::ReadBackground()
     else
         CropToMiddle(picture, pixels.width(), pixels.height(), devicePixelRatioF());
     return picture;
+}
+
+void DesignScreen::ForgetPictures()
+{
+    pictures_ = {};
+    boxes_ = {};
+}
+
+std::optional<PictureError> DesignScreen::LayOutDesPictures()
+{
+    section::DesPictures& record = session_.project.DesPictures;
+    // A slot keeps its picture until it is read anew: it stays behind one that can't be read.
+    for (std::size_t i = 0; i < boxes_.size(); ++i)
+        if (boxes_[i].file != record.Pictures[i].PictureFilename)
+            pictures_[i] = {};
+    std::size_t next = 0;
+    const auto measure = [&](const Text&) {
+        while (record.Pictures[next].PictureFilename.empty())
+            ++next;
+        return ReadDesPicture(next++);
+    };
+    return PictureErrorOf(
+        [&] { LayOutPictures(record, boxes_, place_, session_.surface.screen, measure); });
 }
 
 PixelSize DesignScreen::ReadDesPicture(std::size_t index)
@@ -67,9 +88,7 @@ PixelSize DesignScreen::MeasureAndKeep(const Text& file, ScalablePicture& kept)
     PictureResult read =
         ReadPictureFile(session_.host.files, file, kMaxPicturesMemory - PicturesMemory());
     if (read.fault != PictureFault::None)
-        throw RunError(read.fault == PictureFault::NotFound ? ErrorNumber::kFileNotFound
-                                                            : kInvalidPicture,
-                       file);
+        throw PictureError(read.fault, file);
     kept = std::move(read.picture);
     return {kept.Width(), kept.Height()};
 }
@@ -96,14 +115,42 @@ bool DesignScreen::IsUnreported(PictureStep step, const Text& file)
     return std::exchange(reported_[step], file) != file;
 }
 
-void DesignScreen::TellPictureError(PictureStep step, const RunError& error)
+void DesignScreen::TellPictureError(PictureStep step, const PictureError& error)
 {
-    // Of a file that is missing nothing is said; once it is there again, it is reported as any
-    // other.
-    if (error.Number() == ErrorNumber::kFileNotFound)
+    // A box tells of a file that is no picture; one that is missing or can't be read may turn out
+    // to be none later.
+    if (error.Number() != kInvalidPicture)
         reported_.erase(step);
     else if (IsUnreported(step, error.Path()))
         ShowErrorBoxIfPictureError(session_.ask, error.Number());
+    if (!error.Path().empty())
+        ShowWhyMissing(step, PictureFaultText(error.Fault(), error.Path()) + " " +
+                                 PictureFaultAdvice(error.Fault()));
+}
+
+void DesignScreen::TellShown(PictureStep step)
+{
+    reported_.erase(step);
+    ShowWhyMissing(step, {});
+}
+
+void DesignScreen::TellTooLargeLogotype()
+{
+    ShowWhyMissing(PictureStep::Logotype, {});
+    if (IsUnreported(PictureStep::Logotype, session_.project.DesLogotype.LogotypeFilename))
+        TellLogotypeTooLarge(session_.ask);
+}
+
+void DesignScreen::ShowWhyMissing(PictureStep step, const Text& why)
+{
+    // What others say in the status bar stays there.
+    if (why.empty() && !whyMissing_.contains(step))
+        return;
+    if (why.empty())
+        whyMissing_.erase(step);
+    else
+        whyMissing_[step] = why;
+    session_.ask.ShowStatusText(whyMissing_.empty() ? Text() : whyMissing_.begin()->second);
 }
 
 } // namespace quillon
