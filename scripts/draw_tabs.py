@@ -104,12 +104,12 @@ def is_inside(lines, x, y):
     return inside
 
 
-def pixel(drawing, column, row):
+def pixel(drawing, column, row, side, grid):
     colour, alpha = (0.0, 0.0, 0.0), 0.0
     for tone, share, filled, lines in drawing:
         hit = is_inside if filled else is_near
-        hits = sum(hit(lines, (column + (i + .5) / SAMPLES) * GRID / SIDE,
-                       (row + (j + .5) / SAMPLES) * GRID / SIDE)
+        hits = sum(hit(lines, (column + (i + .5) / SAMPLES) * grid / side,
+                       (row + (j + .5) / SAMPLES) * grid / side)
                    for i in range(SAMPLES) for j in range(SAMPLES))
         ink = share * hits / SAMPLES ** 2
         over = ink + alpha * (1 - ink)
@@ -120,12 +120,12 @@ def pixel(drawing, column, row):
     return struct.pack("<BBBB", blue, green, red, round(alpha * 255))
 
 
-def write(drawing, path):
-    pixels = b"".join(pixel(drawing, column, row) for row in reversed(range(SIDE))
-                      for column in range(SIDE))
+def write(drawing, path, side=SIDE, grid=GRID):
+    pixels = b"".join(pixel(drawing, column, row, side, grid) for row in reversed(range(side))
+                      for column in range(side))
     start = 14 + 108
     head = struct.pack("<2sIHHI", b"BM", start + len(pixels), 0, 0, start)
-    head += struct.pack("<IiiHHIIiiII", 108, SIDE, SIDE, 1, 32, 3, len(pixels), 2835, 2835, 0, 0)
+    head += struct.pack("<IiiHHIIiiII", 108, side, side, 1, 32, 3, len(pixels), 2835, 2835, 0, 0)
     head += struct.pack("<IIII", 0xff0000, 0xff00, 0xff, 0xff000000)
     head += b"BGRs" + b"\0" * 48
     with open(path, "wb") as file:

@@ -5,6 +5,9 @@
 #include "design/number_fields.h"
 #include "support/window_test.h"
 
+#include <fstream>
+#include <iterator>
+
 namespace quillon::test {
 namespace {
 
@@ -534,6 +537,52 @@ TEST_F(DesignObjectsTest, AreDrawnInTheirOrderWithABusyPointerAtPictures)
                                   "DesTextBoxPic", "DesRTFboxPic"}))
         << notes.join('\n').toStdString();
     EXPECT_FALSE(ask.busyPointer);
+}
+
+TEST_F(DesignObjectsTest, ThatOnlyTheSetupFillsHavePicturesInTheirPlaces)
+{
+    for (const char* name : {"BtDesRTF.bmp", "BtDesPix.bmp"}) {
+        std::ifstream file(Text(QUILLON_TOOL_FOLDER) + "/Res/" + name, std::ios::binary);
+        const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+        ASSERT_FALSE(bytes.empty()) << name;
+        machine.files.Put(Text("C:\\Quillon\\Res\\") + name, bytes);
+    }
+    project.DesRTFbox = {.RTFfilename = "demo.rtf",
+                         .RTFboxBackColor = 0x80FFFF,
+                         .ShowRTFbox = kOn,
+                         .RTFboxXPos = 400,
+                         .RTFboxYPos = 2800};
+    project.DesPicturesAnim.NrAnimPictures = 3;
+    project.DesPicturesAnim.PictureXPos = 6000;
+    Show();
+    SavePicture(*tabs, "DesignPage_placeholders");
+    const std::tuple<const char*, QRgb, QSize> cases[] = {
+        {"DesRTFboxPic", qRgb(255, 255, 128), {48, 48}},
+        {"DesPictureAnim", qRgb(0x80, 0x80, 0x80), {48, 48}}};
+    for (const auto& [name, ground, size] : cases) {
+        const QImage shown = Object(name).grab().toImage();
+        const double ratio = shown.devicePixelRatio();
+        QRect paper; // of the picture, which is white on each ground
+        for (int y = 2; y < shown.height() - 2; ++y)
+            for (int x = 2; x < shown.width() - 2; ++x)
+                if (shown.pixel(x, y) == qRgb(255, 255, 255) &&
+                    (name == Text("DesRTFboxPic") || y < shown.height() * 2 / 3))
+                    paper |= QRect(x, y, 1, 1);
+        EXPECT_GT(paper.width(), size.width() * ratio / 2) << name;
+        EXPECT_LE(paper.width(), size.width() * ratio) << name;
+        EXPECT_LE(paper.height(), size.height() * ratio) << name;
+        EXPECT_NEAR(paper.center().x(), shown.width() / 2.0, 6 * ratio) << name;
+        EXPECT_NEAR(paper.center().y(), shown.height() / 2.0, 14 * ratio) << name;
+        EXPECT_EQ(shown.pixel(3, shown.height() - 4), ground) << name;
+    }
+    EXPECT_EQ(Find<QLabel>(Object("DesRTFboxPic"), "Label_DesRTFboxPic").text(), "demo.rtf");
+    // In the smallest ones they are as small as needed.
+    project.DesRTFbox.RTFboxWidth = 100;
+    project.DesRTFbox.RTFboxHeight = 50;
+    project.DesPicturesAnim.PictureWidth = project.DesPicturesAnim.PictureHeight = 10;
+    page->Screen().DrawDesAll();
+    SavePicture(*tabs, "DesignPage_small_placeholders");
+    EXPECT_EQ(Object("DesPictureAnim").size(), QSize(10, 10));
 }
 
 TEST_F(DesignObjectsTest, CommandsOpenTheEditors)

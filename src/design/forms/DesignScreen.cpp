@@ -50,7 +50,9 @@ Long TwipsDown(int pixels, ScreenMetrics screen)
 } // namespace
 
 DesignScreen::DesignScreen(Session& session)
-    : session_(session), colorblendBackground_(new ColorblendBackground(letters_))
+    : session_(session), colorblendBackground_(new ColorblendBackground(letters_)),
+      BtDesRTF_(session.host.files, session.options.ToolFolder, "BtDesRTF.bmp"),
+      BtDesPix_(session.host.files, session.options.ToolFolder, "BtDesPix.bmp")
 {
     setObjectName("DesignScreen");
     colorblendBackground_->setParent(this);
@@ -93,15 +95,12 @@ void DesignScreen::MakeObjects(const DesignObject::Surround& surround)
 // they show is in their accessible descriptions.
 void DesignScreen::SetPaints()
 {
-    Of(Object::PicturesAnim).paint = [](QImage& image, double scale) {
+    Of(Object::PicturesAnim).paint = [this](QImage& image, double scale) {
         image.fill(QColor(0x80, 0x80, 0x80));
         QPainter painter(&image);
         painter.setPen(QPen(Qt::white, scale));
         painter.drawRect(image.rect().adjusted(0, 0, -1, -1));
-        QFont font = painter.font();
-        font.setPixelSize(static_cast<int>(13 * scale));
-        painter.setFont(font);
-        painter.drawText(image.rect(), Qt::AlignCenter | Qt::TextWordWrap, "Växlingsbara bilder");
+        BtDesPix_.PaintAbove("Växlingsbara bilder", painter, image.rect(), scale);
     };
     Of(Object::Logotype).paint = [this](QImage& image, double) {
         if (logotypeBox_.isMetafile)
@@ -109,8 +108,12 @@ void DesignScreen::SetPaints()
         PaintSized(image, logotype_, image.width(), image.height());
     };
     Of(Object::TextBox).paint = [this](QImage& image, double scale) { PaintLabels(image, scale); };
-    Of(Object::RTFbox).paint = [this](QImage& image, double) {
+    Of(Object::RTFbox).paint = [this](QImage& image, double scale) {
         image.fill(PixelOf(session_.project.DesRTFbox.RTFboxBackColor));
+        QPainter painter(&image);
+        // Below the file's name.
+        const double top = scale * Label_DesRTFboxPic_->geometry().bottom();
+        BtDesRTF_.Paint(painter, QRectF(image.rect()).adjusted(0, top, 0, 0), scale);
     };
 }
 

@@ -4,6 +4,7 @@
 
 #include "design/forms/ColorblendBackground.h"
 #include "design/forms/DesignObject.h"
+#include "design/forms/Placeholder.h"
 #include "design/object_layout.h"
 #include "design/surface_click.h"
 #include "design/system_letters.h"
@@ -115,6 +116,8 @@ private:
     // What the status bar says of each step.
     std::map<PictureStep, Text> whyMissing_;
     DragRectFrame* dragRect_ = nullptr;
+    Placeholder BtDesRTF_;
+    Placeholder BtDesPix_;
 };
 
 } // namespace quillon
