@@ -328,6 +328,30 @@ TEST_F(DesignPageTest, KeepsNothingOfALogotypeThatIsTakenAway)
     EXPECT_EQ(page.Screen().PicturesMemory(), 0);
 }
 
+// What the ones behind it keep is given up then: they are read anew after it.
+TEST_F(DesignPageTest, ReadsALargePictureAlsoWhereTheOnesBehindItTakeItsRoom)
+{
+    const auto put = [&](const Text& path, int width, int height) {
+        QImage picture(width, height, QImage::Format_Mono);
+        picture.fill(1);
+        PutPicture(path, picture);
+    };
+    put("C:\\hel.bmp", 4200, 4200);
+    put("C:\\stor.bmp", 5000, 4900);
+    auto& pictures = session.project.DesPictures.Pictures;
+    pictures[0].StretchPicture = kOn;
+    pictures[1].PictureFilename = pictures[2].PictureFilename = "C:\\hel.bmp";
+    DesignScreen screen(session);
+    screen.PlaceSurface({4400, 4400}, 0);
+    screen.DrawDesPictures();
+    const std::int64_t behind = screen.PicturesMemory();
+    ASSERT_GT(behind + std::int64_t{5000} * 4900 * 4, kMaxPicturesMemory);
+    pictures[0].PictureFilename = "C:\\stor.bmp";
+    screen.DrawDesPictures();
+    EXPECT_GT(screen.PicturesMemory(), behind);
+    EXPECT_EQ(ask.statusTexts, std::vector<Text>());
+}
+
 TEST_F(DesignPageTest, ShowsTheMiddleOfAPictureLargerThanTheSurface)
 {
     PutPicture("C:\\stor.bmp", TwoColours(3000, 3000));
