@@ -18,16 +18,20 @@ constexpr std::size_t kMinChunkSize = 1024;
 
 std::string ReadWholeFile(const FileSystem& files, const Text& path)
 {
-    const auto file = files.OpenInput(path);
+    return ReadWholeFile(*files.OpenInput(path));
+}
+
+std::string ReadWholeFile(InputFile& file)
+{
     std::string bytes;
     // A file of the kernel's may be longer than it says; all others need one reading and a look at
     // their end.
     std::size_t piece =
-        std::clamp<std::size_t>(std::size_t(file->Size()) + 1, kMinChunkSize, kPieceSize);
+        std::clamp<std::size_t>(std::size_t(file.Size()) + 1, kMinChunkSize, kPieceSize);
     for (std::size_t got = piece; got > 0;) {
         const std::size_t before = bytes.size();
         bytes.resize(before + piece);
-        got = file->Read(std::as_writable_bytes(std::span(bytes).subspan(before)));
+        got = file.Read(std::as_writable_bytes(std::span(bytes).subspan(before)));
         bytes.resize(before + got);
     }
     return bytes;

@@ -9,6 +9,8 @@ namespace quillon {
 
 /// All bytes of the file. Throws as `OpenInput` does.
 std::string ReadWholeFile(const FileSystem& files, const Text& path);
+/// From its beginning, where it has just been opened.
+std::string ReadWholeFile(InputFile& file);
 
 void WriteWholeFile(FileSystem& files, const Text& path, std::string_view bytes);
 

@@ -3,7 +3,7 @@
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "platform/whole_file.h"
+#include "runtime/file_installer.h"
 #include "runtime/journal_table.h"
 #include "runtime/restart_moves.h"
 #include "runtime/started_setups.h"
@@ -226,11 +226,26 @@ bool FinishOne(const RollbackInput& input, const Text& path)
     const auto lock = files.Lock(LockPathOf(path), LockWait::None);
     if (!lock)
         throw RunError(ErrorNumber::kPermissionDenied, path);
-    const std::string bytes = ReadWholeFile(files, path);
-    const auto steps = ReadJournal(bytes, kTransactionJournal);
-    const bool isOurs = input.target.HaveSameOwner(path, LockPathOf(path));
-    if (!isOurs || (!steps && !HasNoStep(bytes)))
+    // Whoever may write to a folder above a product's could have laid both.
+    const bool isLockOurs = IsOfOwnUser(files, input.target, LockPathOf(path));
+    const auto bytes = ReadOwnJournal(files, input.target, path);
+    if (!isLockOurs || !bytes)
         throw RunError(ErrorNumber::kPathFileAccess, path);
+    const auto steps = ReadJournal(*bytes, kTransactionJournal);
+    if (!steps && !HasNoStep(*bytes))
+        throw RunError(ErrorNumber::kPathFileAccess, path);
+    const auto removeJournal = [&] {
+        files.RemoveFile(path);
+        ForgetNotes(input.target, steps.value_or(std::vector<JournalRecord>{}));
+    };
+    const bool isCommitted =
+        steps && std::any_of(steps->begin(), steps->end(), [](const JournalRecord& step) {
+            return std::holds_alternative<record::Committed>(step);
+        });
+    if (steps && !isCommitted) {
+        input.log.Line(Message::LogUndoesInterrupted, path);
+        return Undo(input, *steps, removeJournal);
+    }
     if (steps) {
         const bool isCommitted =
             std::any_of(steps->begin(), steps->end(), [](const JournalRecord& step) {

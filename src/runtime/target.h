@@ -4,9 +4,11 @@
 // Failures are `RunError`s with the numbers of the file system; their path names the registry key.
 #pragma once
 
+#include "platform/file_system.h"
 #include "platform/machine.h"
 #include "runtime/registry_data.h"
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -105,6 +107,10 @@ public:
     /// Whether the file belongs to administrators, to the system or to the user who runs this, so
     /// that nobody with fewer rights can have made it. True on a disk without owners.
     virtual bool IsOfTrustedUser(const Text& path) const = 0;
+    /// Such a file for reading; nothing comes back where it belongs to somebody else. Nobody can
+    /// write to it, or give another file its name, while it is open. Throws as
+    /// `FileSystem::OpenInput` does.
+    virtual std::unique_ptr<InputFile> OpenOfTrustedUser(const Text& path) const = 0;
     /// Whether what is there leads to another folder.
     virtual bool IsLink(const Text& folder) const = 0;
 };

@@ -3,6 +3,7 @@
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/whole_file.h"
 #include "runtime/journal_table.h"
 
 namespace quillon {
@@ -35,6 +36,24 @@ Text NewJournalPath(const FileSystem& files, const Text& mainFolder)
     throw RunError(ErrorNumber::kPathNotFound, mainFolder);
 }
 
+bool IsOnServer(const FileSystem& files, const Text& path)
+{
+    return path.substr(1, 1) != ":" || files.DriveType(path.substr(0, 3)) == DriveKind::Remote;
+}
+
+bool HasOwnerOfNewFile(FileSystem& files, const Target& target, const Text& path)
+{
+    const Text made = path + ".own";
+    files.RemoveAbandoned(made);
+    const auto file = files.OpenNew(made);
+    if (!file)
+        return false;
+    const bool isSame = target.HaveSameOwner(path, made);
+    file->Close();
+    files.RemoveFile(made);
+    return isSame;
+}
+
 } // namespace
 
 std::vector<Text> JournalPaths(const Text& mainFolder)
@@ -50,12 +69,28 @@ Text LockPathOf(const Text& journalPath)
     return journalPath + ".lock";
 }
 
+bool IsOfOwnUser(FileSystem& files, const Target& target, const Text& path)
+{
+    return target.IsOfTrustedUser(path) ||
+           (IsOnServer(files, path) && HasOwnerOfNewFile(files, target, path));
+}
+
+std::optional<std::string> ReadOwnJournal(FileSystem& files, const Target& target, const Text& path)
+{
+    const auto file = target.OpenOfTrustedUser(path);
+    if (!file && IsOnServer(files, path) && HasOwnerOfNewFile(files, target, path))
+        return ReadWholeFile(files, path);
+    return file ? std::optional(ReadWholeFile(*file)) : std::nullopt;
+}
+
 void TransactionJournal::Begin(const Text& mainFolder, const Text& product)
 {
     path_ = NewJournalPath(host_.files, mainFolder);
     lock_ = host_.files.Lock(LockPathOf(path_), LockWait::None);
     if (!lock_)
         throw RunError(ErrorNumber::kPermissionDenied, path_);
+    if (!IsOfOwnUser(host_.files, target_, LockPathOf(path_)))
+        throw RunError(ErrorNumber::kPathFileAccess, LockPathOf(path_));
     // What others may have laid here is no journal of ours.
     file_ = host_.files.OpenNew(path_);
     if (!file_)

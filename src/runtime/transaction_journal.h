@@ -35,6 +35,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -47,6 +48,15 @@ std::vector<Text> JournalPaths(const Text& mainFolder);
 
 /// Beside the journal, for as long as its installation runs.
 Text LockPathOf(const Text& journalPath);
+
+/// Whether such a file, a journal or its lock, may be believed: it belongs to administrators, to
+/// the system or to the user who runs this. On a server, which may know its users by names of its
+/// own, it belongs to whom a new file there belongs.
+bool IsOfOwnUser(FileSystem& files, const Target& target, const Text& path);
+/// All bytes of a journal that may be believed; nothing of any other. Throws as
+/// `FileSystem::OpenInput` does.
+std::optional<std::string> ReadOwnJournal(FileSystem& files, const Target& target,
+                                          const Text& path);
 
 class TransactionJournal {
 public:

@@ -454,6 +454,74 @@ TEST_F(KilledSetup, BelievesNoJournalOfSomebodyElse)
     EXPECT_THAT(Log(), HasSubstr(journal));
 }
 
+// Whoever may write to a folder above the product's can lay the lock there too. It is of no use to
+// them: a journal has to be of somebody who is believed.
+TEST_F(KilledSetup, BelievesNoJournalOfSomebodyElseBesideTheirLock)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    memory.files.Put("C:\\victim.txt", "important");
+    for (const Text& journal : JournalPaths(kMain)) {
+        memory.files.Put(journal, "Quillon installationsjournal 1\r\nFILE\tC:\\victim.txt\r\n");
+        target.ofOthers = {journal, LockPathOf(journal)};
+        EXPECT_EQ(Install(), ExitCode::Failed) << journal;
+        EXPECT_EQ(memory.files.Get("C:\\victim.txt"), "important") << journal;
+        EXPECT_THAT(Log(), HasSubstr(journal));
+        memory.files.RemoveFile(journal);
+    }
+}
+
+// The list of programs and the note of a started setup lead to folders that nothing else vouches
+// for. One journal that is believed says nothing of the others on the way to the same folder.
+TEST_F(KilledSetup, BelievesNoJournalOfSomebodyElseWhereAnEarlierRunLeads)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    memory.files.Put("C:\\victim.txt", "important");
+    const Text own = "C:\\Annan\\Mapp\\~qnsetup.tmp";
+    const Text planted = "C:\\Annan\\~qnsetup-Mapp.tmp";
+    memory.files.Put(own, "Quillon installationsjournal 1\r\n");
+    memory.files.Put(planted, "Quillon installationsjournal 1\r\nFILE\tC:\\victim.txt\r\n");
+    target.ofOthers = {planted, LockPathOf(planted)};
+    NoteStartedSetup(target, "Exempel", InstallScope::CurrentUser, "C:\\Annan\\Mapp");
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_EQ(memory.files.Get("C:\\victim.txt"), "important");
+    EXPECT_THAT(Log(), HasSubstr(planted));
+}
+
+TEST_F(KilledSetup, TakesNoLockOfSomebodyElse)
+{
+    const Text lock = LockPathOf("C:\\Program\\~qnsetup-Exempel.tmp");
+    AddFile("prog.exe", "%DESTDIR", "program");
+    target.ofOthers = {lock};
+    const MachineState before = State();
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_EQ(State(), before);
+    EXPECT_THAT(Log(), HasSubstr(lock));
+    const Text journal = "C:\\Program\\~qnsetup-Exempel.tmp";
+    memory.files.Put(journal, "Quillon installationsjournal 1\r\n");
+    EXPECT_EQ(Install(), ExitCode::Failed);
+    EXPECT_TRUE(memory.files.FileExists(journal));
+}
+
+// A server may know its users by names that this machine does not. What a new file gets there is
+// ours, and so is a journal with the same.
+TEST_F(KilledSetup, BelievesOnAServerWhoMakesTheFilesThere)
+{
+    AddFile("prog.exe", "%DESTDIR", "program");
+    memory.files.PutFolder("N:\\Delat");
+    memory.files.driveKinds["n:\\"] = DriveKind::Remote;
+    const Text journal = "N:\\Delat\\~qnsetup-Exempel.tmp";
+    const Text started = "Quillon installationsjournal 1\r\nFILE\tN:\\Delat\\halv.txt\r\n";
+    memory.files.Put(journal, started);
+    memory.files.Put("N:\\Delat\\halv.txt", "half");
+    target.ofOthers = {journal, LockPathOf(journal)};
+    EXPECT_EQ(Install("/S /D=N:\\Delat\\Exempel"), ExitCode::Failed);
+    EXPECT_TRUE(memory.files.FileExists("N:\\Delat\\halv.txt"));
+    target.ofOthers = {journal, LockPathOf(journal), journal + ".own",
+                       LockPathOf(journal) + ".own"};
+    EXPECT_EQ(Install("/S /D=N:\\Delat\\Exempel"), ExitCode::Done);
+    EXPECT_FALSE(memory.files.FileExists("N:\\Delat\\halv.txt"));
+}
+
 TEST_F(KilledSetup, ClosesItsJournalToOthers)
 {
     AddFile("prog.exe", "%DESTDIR", "program");

@@ -43,6 +43,10 @@ public:
     void CopyRights(const Text& from, const Text& to) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
     bool IsOfTrustedUser(const Text& path) const override { return ofOthers.count(path) == 0; }
+    std::unique_ptr<InputFile> OpenOfTrustedUser(const Text& path) const override
+    {
+        return IsOfTrustedUser(path) ? files_->OpenInput(path) : nullptr;
+    }
     bool IsLink(const Text& folder) const override { return links.count(LowerCase(folder)) > 0; }
 
     /// The value's text, "<none>" where there is none.

@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 namespace quillon::test {
 namespace {
 
@@ -83,6 +85,37 @@ TEST_F(KilledSetup, IsRepeatedAndLeavesNothingOfTheKilledOne)
     prefix_.Restart();
     EXPECT_EQ(RegistryDifference(registryBefore, RegistryText(prefix_)), "");
     EXPECT_EQ(FolderDifference(before, StateOf(prefix_.DriveC())), "changed: windows/win.ini\n");
+}
+
+// A journal is obeyed by whose it is. Wine shows a file of another Unix user as somebody else's,
+// and only an administrator can make one.
+TEST_F(KilledSetup, IsBelievedOnlyFromWhoeverRunsTheSetup)
+{
+    const fs::path victim = prefix_.DriveC() / "victim.txt";
+    const fs::path folder = prefix_.OnHost("C:\\Program Files");
+    const fs::path journal = folder / "~qnsetup-Provpaket Åäö.tmp";
+    const fs::path lock = journal.string() + ".lock";
+    const auto plant = [&] {
+        WriteBytes(victim, "important");
+        WriteBytes(journal, "Quillon installationsjournal 1\r\nFILE\tC:\\victim.txt\r\n");
+    };
+    constexpr uid_t kOther = 4711;
+    if (geteuid() == 0) {
+        plant();
+        WriteBytes(lock, "");
+        ASSERT_EQ(chown(journal.c_str(), kOther, kOther), 0);
+        ASSERT_EQ(chown(lock.c_str(), kOther, kOther), 0);
+        EXPECT_EQ(prefix_.Run(OnZ(package_ / "SETUP.EXE"), "/S /RESULT=C:\\r.json"), 1603U);
+        EXPECT_THAT(ReadBytes(prefix_.OnHost("C:\\r.json")), testing::HasSubstr("~qnsetup-"));
+        EXPECT_TRUE(fs::exists(victim));
+        EXPECT_FALSE(fs::exists(prefix_.OnHost(kMainFolder)));
+        fs::remove(journal);
+        fs::remove(lock);
+    }
+    plant();
+    EXPECT_EQ(prefix_.Run(OnZ(package_ / "SETUP.EXE"), "/S"), 0U);
+    EXPECT_FALSE(fs::exists(victim));
+    ExpectInstalled(prefix_, product_);
 }
 
 TEST_F(KilledSetup, GivesTheEarlierVersionBackToItsUninstaller)

@@ -41,19 +41,36 @@ bool IsCurrentUser(PSID owner)
     return known && EqualSid(owner, reinterpret_cast<TOKEN_USER*>(user)->User.Sid);
 }
 
+// A disk without owners says that everything belongs to everybody.
+bool IsTrustedOwner(PSID owner)
+{
+    return owner == nullptr || IsWellKnown(owner, WinWorldSid) || IsTrustedUser(owner);
+}
+
 } // namespace
+
+bool IsTrustedUser(PSID user)
+{
+    return IsWellKnown(user, WinBuiltinAdministratorsSid) || IsWellKnown(user, WinLocalSystemSid) ||
+           IsTrustedInstaller(user) || IsCurrentUser(user);
+}
 
 bool IsOfTrustedUser(const wchar_t* path)
 {
     alignas(void*) BYTE descriptor[kMaxOwnerSize];
     PSID owner = nullptr;
-    if (!ReadOwner(path, descriptor, owner))
-        return false;
-    // A disk without owners says that everything belongs to everybody.
-    return owner == nullptr || IsWellKnown(owner, WinWorldSid) ||
-           IsWellKnown(owner, WinBuiltinAdministratorsSid) ||
-           IsWellKnown(owner, WinLocalSystemSid) || IsTrustedInstaller(owner) ||
-           IsCurrentUser(owner);
+    return ReadOwner(path, descriptor, owner) && IsTrustedOwner(owner);
+}
+
+bool IsOpenFileOfTrustedUser(HANDLE file)
+{
+    alignas(void*) BYTE descriptor[kMaxOwnerSize];
+    PSID owner = nullptr;
+    DWORD size = 0;
+    BOOL isDefault = FALSE;
+    return GetKernelObjectSecurity(file, OWNER_SECURITY_INFORMATION, descriptor, kMaxOwnerSize,
+                                   &size) &&
+           GetSecurityDescriptorOwner(descriptor, &owner, &isDefault) && IsTrustedOwner(owner);
 }
 
 } // namespace quillon

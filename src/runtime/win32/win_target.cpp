@@ -2,6 +2,8 @@
 
 #include "platform/win32/copied_rights.h"
 #include "platform/win32/locked_folder.h"
+#include "platform/win32/open_file.h"
+#include "platform/win32/owner_of.h"
 #include "platform/win32/registry_key.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
@@ -232,6 +234,18 @@ bool WinTarget::HaveSameOwner(const Text& path, const Text& own) const
 bool WinTarget::IsOfTrustedUser(const Text& path) const
 {
     return quillon::IsOfTrustedUser(WidePath(path).c_str());
+}
+
+// By the handle, since a link on the way to the file could lead elsewhere a moment later.
+std::unique_ptr<InputFile> WinTarget::OpenOfTrustedUser(const Text& path) const
+{
+    FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen())
+        FailAsWindowsSays(path);
+    if (!IsOpenFileOfTrustedUser(file.Get()))
+        return nullptr;
+    return std::make_unique<WinInputFile>(std::move(file), path);
 }
 
 bool WinTarget::IsLink(const Text& folder) const

@@ -33,6 +33,7 @@ public:
     void CopyRights(const Text& from, const Text& to) override;
     bool HaveSameOwner(const Text& path, const Text& own) const override;
     bool IsOfTrustedUser(const Text& path) const override;
+    std::unique_ptr<InputFile> OpenOfTrustedUser(const Text& path) const override;
     bool IsLink(const Text& folder) const override;
 
 private:
