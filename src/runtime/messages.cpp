@@ -270,6 +270,7 @@ constexpr MessageKey kMessages[] = {
     {Message::LogRemovesAtRestart,    "Log",       "Log_RemovesAtRestart",    "Filen %1 används och tas bort när datorn startas om"},
     {Message::LogRemovesFolder,       "Log",       "Log_RemovesFolder",       "Tar bort mappen %1"},
     {Message::LogPutsBack,            "Log",       "Log_PutsBack",            "Lägger tillbaka %1"},
+    {Message::LogPutsBackAtRestart,   "Log",       "Log_PutsBackAtRestart",   "Lägger tillbaka %1 när datorn startas om"},
     {Message::LogTakesBackRestart,    "Log",       "Log_TakesBackRestart",    "Filen %1 ersätts inte längre när datorn startas om"},
     {Message::LogCannotRemove,        "Log",       "Log_CannotRemove",        "Kan inte ta bort %1: %2"},
     {Message::LogInUse,               "Log",       "Log_InUse",               "Filen %1 används av ett program"},
@@ -294,6 +295,7 @@ constexpr MessageKey kMessages[] = {
     {Message::ReasonOutsideProduct,   "Reasons",   "Reason_OutsideProduct",   "den ligger utanför programmets mappar"},
     {Message::ReasonLinkInPath,     "Reasons",   "Reason_LinkOnTheWay",     "en länk leder till en annan mapp"},
     {Message::ReasonAtRestart,        "Reasons",   "Reason_AtRestart",        "tas bort när datorn startas om"},
+    {Message::ReasonBackAtRestart,    "Reasons",   "Reason_BackAtRestart",    "läggs tillbaka som '%1' när datorn startas om"},
 };
 // clang-format on
 static_assert(std::size(kMessages) == std::size_t(Message::Count));

@@ -266,6 +266,7 @@ enum class Message {
     LogRemovesAtRestart,
     LogRemovesFolder,
     LogPutsBack,
+    LogPutsBackAtRestart,
     LogTakesBackRestart,
     LogCannotRemove,
     LogInUse,
@@ -290,6 +291,7 @@ enum class Message {
     ReasonOutsideProduct,
     ReasonLinkInPath,
     ReasonAtRestart,
+    ReasonBackAtRestart,
     Count
 };
 

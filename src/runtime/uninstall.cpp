@@ -73,6 +73,7 @@ private:
     void RemoveFile(const Text& path);
     void RemoveReplaced(std::size_t index);
     void RestoreBackup(const Text& path, const Text& backup);
+    void PutBackAtRestart(const Text& path, const Text& backup);
     void ReleaseSharedFiles();
     void RemoveSharedFile(const Text& path);
     void RemoveValue(const RegistryKey& key, const Text& name);
@@ -121,8 +122,11 @@ void Uninstallation::Stays(const Text& what, const Reason& reason)
     NoteLeft(what, input_.product.texts(reason));
 }
 
+// The system makes its moves in their order. One that an earlier run has asked for goes to the end,
+// where it removes nothing that comes back before it.
 void Uninstallation::LeaveToRestart(const Text& path)
 {
+    ForgetMoveAtRestart(input_.target, path);
     input_.target.MoveAtRestart(path, "");
     goesAtRestart_.insert(LowerCase(path));
     input_.log.Line(Message::LogRemovesAtRestart, path);
@@ -240,11 +244,28 @@ void Uninstallation::RemoveReplaced(std::size_t index)
 
 void Uninstallation::RestoreBackup(const Text& path, const Text& backup)
 {
-    if (files_.FileExists(path) || !files_.FileExists(backup) || !IsInReach(path) ||
+    const bool waits = goesAtRestart_.count(LowerCase(path)) > 0;
+    if ((files_.FileExists(path) && !waits) || !files_.FileExists(backup) || !IsInReach(path) ||
         !IsInReach(backup))
         return;
+    if (waits) {
+        PutBackAtRestart(path, backup);
+        return;
+    }
     files_.Rename(backup, path);
     input_.log.Line(Message::LogPutsBack, path);
+    // An earlier run may have found the file in use.
+    ForgetMoveAtRestart(input_.target, backup);
+    ForgetMoveAtRestart(input_.target, path);
+}
+
+// Behind the removal of the file that is in use now.
+void Uninstallation::PutBackAtRestart(const Text& path, const Text& backup)
+{
+    ForgetMoveAtRestart(input_.target, backup);
+    input_.target.MoveAtRestart(backup, path);
+    input_.log.Line(Message::LogPutsBackAtRestart, path);
+    NoteLeft(backup, input_.product.texts(Message::ReasonBackAtRestart, path));
 }
 
 // Nothing but our journal says that the count of a file's users holds one for us, so the journal

@@ -186,6 +186,112 @@ TEST_F(UninstallTest, GoesOnWhenOneFileCanNotBeRemovedAndLeavesItToTheNextStart)
     EXPECT_EQ(target.movesAtRestart[0], std::pair(kMain + "\\Bin\\prog.exe", Text()));
 }
 
+// A file that was there before, in the place of one of the product's that a program holds.
+class HeldFileWithBackup : public UninstallTest {
+protected:
+    HeldFileWithBackup()
+    {
+        memory.files.Put(kHeld, "the user's", {2003, 1, 1, 0, 0, 0});
+        AddFile("delad.ini", "C:\\Gemensamt", "ours", "DB");
+        target.MakeKey(RestartMovesKey());
+        target.listsMovesAtRestart = true;
+    }
+
+    // The moves as the system keeps them; an empty second name removes the first.
+    std::vector<std::pair<Text, Text>> Waiting() const
+    {
+        std::vector<std::pair<Text, Text>> moves;
+        const auto list = target.ReadValue(RestartMovesKey(), kRestartMoves);
+        std::vector<Text> names{{}};
+        for (std::size_t at = 0; list && at + 1 < list->bytes.size(); at += 2)
+            if (list->bytes[at] != 0)
+                names.back() += list->bytes[at];
+            else
+                names.emplace_back();
+        const auto plain = [](const Text& name) { return name.substr(name.find('C') % 100); };
+        for (std::size_t at = 0; at + 1 < names.size() && !names[at].empty(); at += 2)
+            moves.emplace_back(plain(names[at]),
+                               names[at + 1].empty() ? Text() : plain(names[at + 1]));
+        return moves;
+    }
+
+    void StartMachine()
+    {
+        files.inUse.clear();
+        for (const auto& [from, to] : Waiting())
+            if (to.empty() && files.FileExists(from))
+                memory.files.RemoveFile(from);
+            else if (!to.empty() && files.FileExists(from))
+                memory.files.Rename(from, to);
+        target.RemoveValue(RestartMovesKey(), kRestartMoves);
+    }
+
+    const Text kHeld = "C:\\Gemensamt\\delad.ini";
+};
+
+TEST_F(HeldFileWithBackup, ComesBackAtTheNextStart)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    ASSERT_EQ(memory.files.Get(kHeld), "ours");
+    files.inUse = {kHeld};
+    EXPECT_EQ(UninstallProduct(), ExitCode::RestartNeeded) << Log();
+    EXPECT_THAT(Log(), HasSubstr("Lägger tillbaka " + kHeld + " när datorn startas om"));
+    const auto told = std::find_if(left.begin(), left.end(), [&](const LeftBehind& one) {
+        return one.what == kHeld + ".bak";
+    });
+    ASSERT_NE(told, left.end());
+    EXPECT_EQ(told->why, "läggs tillbaka som '" + kHeld + "' när datorn startas om");
+    StartMachine();
+    EXPECT_EQ(memory.files.Get(kHeld), "the user's");
+    EXPECT_FALSE(memory.files.FileExists(kHeld + ".bak"));
+}
+
+// Each installation has kept what it found.
+TEST_F(HeldFileWithBackup, ComesBackBehindTheProductsOwnVersions)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    sources.back().bytes = "new!";
+    sources.back().modified.year = 2005;
+    ASSERT_EQ(Install(), ExitCode::Done);
+    ASSERT_EQ(memory.files.Get(kHeld + ".bak2"), "ours");
+    files.inUse = {kHeld};
+    EXPECT_EQ(UninstallProduct(), ExitCode::RestartNeeded);
+    StartMachine();
+    EXPECT_EQ(memory.files.Get(kHeld), "the user's");
+    EXPECT_FALSE(memory.files.FileExists(kHeld + ".bak"));
+    EXPECT_FALSE(memory.files.FileExists(kHeld + ".bak2"));
+}
+
+// What could not be removed is tried again, and the moves that wait from the first time neither
+// remove the file that came back nor bring it twice.
+TEST_F(HeldFileWithBackup, ComesBackOnceWhereItTakesTwoRuns)
+{
+    for (const bool isHeldTwice : {true, false}) {
+        memory.files.Put(kHeld, "the user's", {2003, 1, 1, 0, 0, 0});
+        ASSERT_EQ(Install(), ExitCode::Done) << Log();
+        files.inUse = {kHeld, kMain + "\\Bin\\prog.exe"};
+        target.beforeChange = [this] {
+            if (target.movesAtRestart.size() == 2)
+                throw RunError(ErrorNumber::kPermissionDenied, "list");
+        };
+        EXPECT_EQ(UninstallProduct(), ExitCode::Failed);
+        EXPECT_EQ(Waiting().size(), 2U);
+        target.beforeChange = [] {};
+        files.inUse.clear();
+        if (isHeldTwice)
+            files.inUse = {kHeld};
+        target.movesAtRestart.clear();
+        EXPECT_EQ(UninstallProduct(), isHeldTwice ? ExitCode::RestartNeeded : ExitCode::Done);
+        if (isHeldTwice)
+            StartMachine();
+        else
+            EXPECT_TRUE(Waiting().empty());
+        target.movesAtRestart.clear();
+        EXPECT_EQ(memory.files.Get(kHeld), "the user's");
+        EXPECT_FALSE(memory.files.FileExists(kHeld + ".bak"));
+    }
+}
+
 // A product's upgrade writes a second record for a file, after the one that counts its users.
 TEST_F(UninstallTest, LeavesAFileThatAnotherProductSharesAfterAnUpgrade)
 {
