@@ -15,6 +15,9 @@ namespace quillon {
 
 namespace {
 
+constexpr std::string_view kPassword = "PASSWORD";
+constexpr const char* kEllipsis = "\u2026";
+
 constexpr std::pair<std::string_view, TestMode> kTestModes[] = {{"TEST", TestMode::Test},
                                                                 {"PREVIEW", TestMode::Preview}};
 
@@ -140,7 +143,7 @@ constexpr ValueSwitch kValueSwitches[] = {
     {"DIR",        SetDestination},
     {"INSTALLDIR", SetDestination},
     {"LANG",       SetLanguage},
-    {"PASSWORD",   [](Switches& switches, const Text& value) { switches.password = value; return true; }},
+    {kPassword,    [](Switches& switches, const Text& value) { switches.password = value; return true; }},
     {"COMPONENTS", [](Switches& switches, const Text& value) { switches.components = value; return true; }},
     {"GROUP",      [](Switches& switches, const Text& value) {
          switches.programGroup = value;
@@ -160,6 +163,12 @@ constexpr ValueSwitch kValueSwitches[] = {
     {kPackageSwitch, [](Switches& switches, const Text& value) { return SetFile(switches.packageFolder, value); }},
 };
 // clang-format on
+
+bool HasValueSwitch(std::string_view name)
+{
+    return std::ranges::any_of(
+        kValueSwitches, [&](const ValueSwitch& one) { return EqualIgnoreCase(name, one.name); });
+}
 
 bool SetPlain(Switches& switches, std::string_view name)
 {
@@ -186,13 +195,35 @@ Text WithoutQuotes(std::string_view word)
     return ReplaceAll(word, "\"", "");
 }
 
-// A password stays one where its switch is misspelt, and is shown and logged by nobody.
-bool IsSecret(std::string_view name)
+// With its mark.
+bool IsPassword(const Text& name)
 {
-    return UpperCase(name).find("PASS") != Text::npos && !EqualIgnoreCase(name, "/PASSIVE");
+    return !name.empty() && IsSwitchMark(name[0]) && EqualIgnoreCase(name.substr(1), kPassword);
 }
 
-void ReadSwitch(Switches& switches, const Text& given)
+// Of what is no switch only a name is shown and logged: whatever follows it may be a password,
+// also where its switch is misspelt.
+Text ShownName(std::string_view given)
+{
+    const Text word(given.substr(given.starts_with('"') ? 1 : 0));
+    const Text name = word.substr(0, word.find_first_of("=:\" \t"));
+    const Text begin = name.substr(0, 1 + kPassword.size());
+    return name == word && IsPassword(begin) ? begin : name;
+}
+
+// Nor a word that a password with a blank may end in: that is told by the switch before it.
+Text ShownWord(std::string_view given, std::string_view before)
+{
+    const Text name = ShownName(given);
+    const bool hasMark = !name.empty() && IsSwitchMark(name[0]);
+    const bool isKnown = name.size() < given.size() && HasValueSwitch(name.substr(hasMark ? 1 : 0));
+    const Text nameBefore = ShownName(before);
+    if (isKnown || (hasMark && !IsPassword(nameBefore)))
+        return name;
+    return nameBefore + (before.empty() ? "" : " ") + kEllipsis;
+}
+
+void ReadSwitch(Switches& switches, const Text& given, const Text& before)
 {
     const Text word = WithoutQuotes(given);
     const std::size_t mark = word.find_first_of("=:");
@@ -204,7 +235,7 @@ void ReadSwitch(Switches& switches, const Text& given)
     const bool isKnown =
         (hasMark || isProperty) && ApplySwitch(switches, hasMark ? name.substr(1) : name, value);
     if (!isKnown && !switches.badSwitch)
-        switches.badSwitch = IsSecret(name) ? name : given;
+        switches.badSwitch = ShownWord(given, before);
 }
 
 } // namespace
@@ -226,9 +257,12 @@ Switches ReadSwitches(std::string_view commandLine)
 {
     Switches switches;
     const Text line(commandLine);
+    Text before;
     for (const char* at = SkipSwitchBlanks(line.c_str()); *at != 0; at = SkipSwitchBlanks(at)) {
         const char* const end = EndOfSwitch(at);
-        ReadSwitch(switches, Text(at, end));
+        const Text given(at, end);
+        ReadSwitch(switches, given, before);
+        before = given;
         at = end;
     }
     return switches;

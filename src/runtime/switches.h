@@ -46,7 +46,8 @@ struct Switches {
     Text packageFolder; // /PACKAGE=, which the starter adds for the program proper
     CloseApplications closeApplications = CloseApplications::Ask; // /[NO]CLOSEAPPLICATIONS
     std::optional<TestMode> testMode;                             // /TEST or /PREVIEW
-    std::optional<Text> badSwitch; // the first one that is none, as it was given
+    // The name of the first one that is none, or is no good: as it may be shown and logged.
+    std::optional<Text> badSwitch;
     // Names of the registration page by their keys in a file of answers.
     std::vector<std::pair<Text, Text>> user;
     std::vector<std::pair<int, Text>> componentFolders; // by their numbers, from the same

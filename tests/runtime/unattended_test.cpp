@@ -273,7 +273,8 @@ TEST_F(UnattendedTest, NamesNoPasswordAnywhere)
     project.DialogBoxes.PasswordDlg = 1;
     project.DialogBoxData.CorrectPassword = "Hemligt";
     for (const char* password :
-         {"/PASSWORD=Hemligt", "/PASSWORD=Fel-Hemligt", "/PASSWORDS=Hemligt"}) {
+         {"/PASSWORD=Hemligt", "/PASSWORD=Fel-Hemligt", "/PASSWORDS=Hemligt", "/PASWORD=Hemligt",
+          "/PWD=Hemligt", "/PASSWORD=Mitt Hemligt", "/PASSWORD=Mitt -Hemligt"}) {
         Install(Text("/S /LOGJSON=L:\\a.json /RESULT=L:\\r.json /SAVEINF=L:\\svar.inf "
                      "/PLAN=L:\\plan.json ") +
                 password);

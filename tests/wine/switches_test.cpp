@@ -129,9 +129,12 @@ TEST_F(SetupSwitches, ShowNothingAndNameTheOneThatIsWrong)
         EXPECT_EQ(Setup(std::string("/S /LOG=C:\\l.txt /RESULT=C:\\r.json ") + wrong), 1639U)
             << wrong;
         const std::string last = std::string(wrong).substr(std::string(wrong).rfind('/'));
-        EXPECT_THAT(Bytes("C:\\l.txt"), HasSubstr(last));
+        // The value of a switch that is none may be a password; these two are understood.
+        const bool isKnown = last.starts_with("/LANG=") || last.starts_with("/COMPONENTS=");
+        const std::string name = isKnown ? last : last.substr(0, last.find_first_of("=:"));
+        EXPECT_THAT(Bytes("C:\\l.txt"), HasSubstr(name));
         EXPECT_EQ(Result()["code"], 1639) << wrong;
-        EXPECT_THAT(Result()["error"].get<std::string>(), HasSubstr(last));
+        EXPECT_THAT(Result()["error"].get<std::string>(), HasSubstr(name));
     }
     EXPECT_FALSE(IsThere());
     ASSERT_EQ(Setup("/S /SP- /SUPPRESSMSGBOXES /NOCANCEL /norestart /NOCLOSEAPPLICATIONS"), 0U);
@@ -233,7 +236,8 @@ TEST_F(SetupSwitches, LeaveThePasswordOutOfEveryFile)
     const std::string logs = "/S /LOG=C:\\l.txt /LOGJSON=C:\\a.json /RESULT=C:\\r.json "
                              "/SAVEINF=C:\\svar.inf ";
     EXPECT_EQ(Setup(logs), 1603U);
-    for (const char* password : {"/PASSWORD=Mellon7x", "/PASSWRD=Mellon7", "/PASSWORD=Mellon7"}) {
+    for (const char* password : {"/PASSWORD=Mellon7x", "/PASSWRD=Mellon7", "/PASWORD=Mellon7",
+                                 "/PASSWORD=Mitt Mellon7", "/PASSWORD=Mellon7"}) {
         const bool isRight = std::string(password) == "/PASSWORD=Mellon7";
         EXPECT_EQ(Setup(logs + password) == 0, isRight) << password;
         for (const char* file : {"C:\\l.txt", "C:\\a.json", "C:\\r.json"})
