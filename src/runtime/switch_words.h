@@ -11,6 +11,8 @@ namespace quillon {
 
 // All words for "show nothing"; deployment tools have one each.
 inline constexpr const char* kSilentWords[] = {"S", "SILENT", "VERYSILENT", "QUIET", "Q", "QN"};
+// The others that keep boxes away, which nobody may be there to answer.
+inline constexpr const char* kBoxlessWords[] = {"PASSIVE", "QB", "SUPPRESSMSGBOXES"};
 
 // How the starters hand down to the program proper where the package is, and that it is to be the
 // uninstaller of the program that is the value.
@@ -92,12 +94,12 @@ bool IsSwitchWord(const Char* name, int length, const char* word)
     return i == length && word[i] == 0;
 }
 
-/// Whether the line holds one of the words for silence, with or without quotation marks. A switch
-/// of that name with a value counts too: it is wrong, and nothing is shown of that either.
-template <class Char>
-bool HasSilentSwitch(const Char* line)
+/// Whether the line holds one of the words, with or without quotation marks. A switch of that name
+/// with a value counts too: it is wrong, and nothing is shown of that either.
+template <class Char, int count>
+bool HasSwitchOf(const Char* line, const char* const (&words)[count])
 {
-    constexpr int kMaxLength = 16;
+    constexpr int kMaxLength = 24;
     for (line = SkipSwitchBlanks(line); *line != 0; line = SkipSwitchBlanks(line)) {
         const Char* const end = EndOfSwitch(line);
         // Its characters up to a value, the quotation marks left out.
@@ -107,12 +109,25 @@ bool HasSilentSwitch(const Char* line)
             if (*line != '"' && length++ < kMaxLength)
                 name[length - 1] = *line;
         if (length > 1 && length <= kMaxLength && IsSwitchMark(name[0]))
-            for (const char* word : kSilentWords)
+            for (const char* word : words)
                 if (IsSwitchWord(name + 1, length - 1, word))
                     return true;
         line = end;
     }
     return false;
+}
+
+template <class Char>
+bool HasSilentSwitch(const Char* line)
+{
+    return HasSwitchOf(line, kSilentWords);
+}
+
+/// Whether a box may be shown that somebody has to answer.
+template <class Char>
+bool AllowsBoxes(const Char* line)
+{
+    return !HasSilentSwitch(line) && !HasSwitchOf(line, kBoxlessWords);
 }
 
 /// Puts the value of the switch of that name, without quotation marks, into `to` with a null after

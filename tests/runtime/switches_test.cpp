@@ -235,6 +235,23 @@ TEST(ReadSwitches, ShowsProgressAloneWherePassive)
     }
 }
 
+// Nobody may be there to answer one.
+TEST(AllowsBoxes, AgreesWithTheSetup)
+{
+    for (const char* line :
+         {"", "/S", "-qn", "/passive", "-PASSIVE", "/qb", "\"/QB\"", "/SUPPRESSMSGBOXES",
+          "-suppressmsgboxes", "/LOG=a /SuppressMsgBoxes", "/SUPPRESSMSGBOX", "/PASSIV",
+          "/SUPPRESSMSGBOXES2", "/D=C:\\A passive", "/D=\"C:\\A /passive\""}) {
+        const std::string text = line;
+        const std::wstring wide(text.begin(), text.end());
+        EXPECT_EQ(AllowsBoxes(wide.c_str()), MayAsk(ReadSwitches(line))) << line;
+    }
+    EXPECT_FALSE(AllowsBoxes("/passive"));
+    EXPECT_FALSE(AllowsBoxes("/qb"));
+    EXPECT_FALSE(AllowsBoxes("/SUPPRESSMSGBOXES"));
+    EXPECT_TRUE(AllowsBoxes("/NOCANCEL"));
+}
+
 TEST(ReadSwitches, TakesTheFolderAsAPropertyAndWithADash)
 {
     EXPECT_EQ(ReadSwitches("INSTALLDIR=\"C:\\En mapp\"").destination, "C:\\En mapp");

@@ -1,5 +1,6 @@
 // Packages with a bit that has turned, in the hands of the real programs: nothing is installed, and
 // nothing crashes.
+#include "wine/driven_setup.h"
 #include "wine/folder_state.h"
 #include "wine/package.h"
 #include "wine/registry_text.h"
@@ -84,6 +85,19 @@ TEST_F(DamagedPackage, IsRefusedWithoutALibraryOrASetup)
         WriteBytes(package / file, whole);
     }
     EXPECT_FALSE(IsInstalled());
+}
+
+// Nobody may be there to close it.
+TEST_F(DamagedPackage, IsRefusedWithoutABoxWhereBoxesAreNotWanted)
+{
+    UseNoScreen(prefix);
+    ASSERT_EQ(Install(), 0U);
+    fs::remove(package / "QNS32X.BIN");
+    fs::remove(prefix.OnHost("C:\\Program Files\\Hej") / "QNS32X.BIN");
+    for (const char* word : {"/passive", "-qb", "/SUPPRESSMSGBOXES"}) {
+        EXPECT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), word), kRefused) << word;
+        EXPECT_EQ(prefix.Run("C:\\Program Files\\Hej\\QNXUNIN.EXE", word), kFailed) << word;
+    }
 }
 
 TEST_F(DamagedPackage, IsToldInTheResultByAStarterToo)

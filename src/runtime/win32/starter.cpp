@@ -222,7 +222,7 @@ void TellRefusal(Starter& starter, const wchar_t* switches, DWORD code)
     // Nothing else is started any more.
     if (FindSwitchValue(switches, "RESULT", starter.program, kMaxPathLength))
         WriteRefusal(starter, starter.program, code);
-    if (!HasSilentSwitch(switches))
+    if (AllowsBoxes(switches))
         MessageBoxW(nullptr, starter.scratch, L"Quillon", MB_OK | MB_ICONSTOP | MB_SETFOREGROUND);
 }
 

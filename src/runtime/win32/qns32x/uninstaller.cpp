@@ -102,7 +102,7 @@ int RunUninstaller(HINSTANCE instance, const StarterLine& from)
         code = RunOnWindows(instance, program, line.switches);
     } catch (const std::exception& error) {
         const Text text = program.Fail(error);
-        if (!line.switches.silent && !line.switches.suppressBoxes)
+        if (MayAsk(line.switches))
             ShowMessageBox(nullptr, {"Quillon", text, MB_OK | MB_ICONSTOP}, program.Texts());
     }
     return static_cast<int>(code);
