@@ -224,6 +224,7 @@ constexpr MessageKey kMessages[] = {
     {Message::UninstallDone,          "Uninstall", "Msg_Done",                "%1 har tagits bort från datorn."},
     {Message::UninstallPartly,        "Uninstall", "Msg_Partly",              "%1 har tagits bort, men några filer eller inställningar kunde inte tas bort:"},
     {Message::UninstallNoJournal,         "Uninstall", StarterMessages::kNoUninstaller.key, StarterMessages::kNoUninstaller.swedish},
+    {Message::UninstallNoRoom,        "Uninstall", StarterMessages::kNoRoomToUninstall.key, StarterMessages::kNoRoomToUninstall.swedish},
     {Message::UninstallFailed,        "Uninstall", "Err_Failed",              "Avinstallationen misslyckades (%1)."},
     {Message::UninstallButton,        "Uninstall", "Button_Uninstall",        "&Avinstallera"},
     {Message::UninstallLeft,          "Uninstall", "Msg_Left",                "%1 har tagits bort från datorn. Det här finns kvar:"},

@@ -220,6 +220,7 @@ enum class Message {
     UninstallDone,
     UninstallPartly,
     UninstallNoJournal,
+    UninstallNoRoom,
     UninstallFailed,
     UninstallButton,
     UninstallLeft,

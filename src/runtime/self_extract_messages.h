@@ -9,7 +9,7 @@ namespace quillon {
 // clang-format off
 namespace SelfExtractMessages {
 inline constexpr StarterMessage kDamaged{"Msg_ExeDamaged", "Filen är skadad eller inte hel. Hämta den en gång till. Ingenting har installerats."};
-inline constexpr StarterMessage kDiskFull{"Msg_ExeDiskFull", "Det finns inte plats att packa upp installationen i '%1'."};
+inline constexpr StarterMessage kDiskFull = StarterMessages::kNoRoom;
 inline constexpr StarterMessage kFailed{"Msg_ExeFailed", "Installationen kan inte packas upp: '%1'."};
 inline constexpr StarterMessage kHelp{"Msg_ExeHelp", "/extract:mapp packar upp filerna i mappen och installerar ingenting. /version visar version. Andra växlar går vidare till installationsprogrammet."};
 inline constexpr StarterMessage kNoFolder{"Msg_ExeNoFolder", "Växeln /extract behöver en mapp."};

@@ -390,6 +390,21 @@ ExitCode SetupProgram::WritePlan()
 
 } // namespace
 
+SetupFailure FailBeforeSetup(const Host& host, const Switches& switches,
+                             const std::exception& error, const LanguageTexts& texts)
+{
+    const SetupFailure failure = FailureOfSetup(error, texts);
+    ActionLog log;
+    RunErrorNumber([&] {
+        OpenLogs(log, host.files, host.machine,
+                 LogFilesOf(switches, host.files, host.machine, "QNSETUP"), texts);
+    });
+    log.Line(Message::LogEndsBecause, NumberText(int(failure.Code())), failure.what());
+    log.End(failure.Code(), RunEnd::Stopped, failure.what());
+    log.Close();
+    return failure;
+}
+
 SetupEnd RunSetup(const SetupInput& input, const LoadedPackage& package)
 {
     return SetupProgram(input, package).Run();

@@ -47,6 +47,11 @@ struct SetupEnd {
     Text title = {};    // of the setup's boxes
 };
 
+/// What ends a setup that has not come as far as `RunSetup`. It stands in the logs that the
+/// switches ask for, where they can be made.
+SetupFailure FailBeforeSetup(const Host& host, const Switches& switches,
+                             const std::exception& error, const LanguageTexts& texts);
+
 /// Installs, and reports to the user and the log what went wrong.
 SetupEnd RunSetup(const SetupInput& input, const LoadedPackage& package);
 

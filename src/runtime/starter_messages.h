@@ -14,7 +14,9 @@ struct StarterMessage {
 namespace StarterMessages {
 inline constexpr StarterMessage kExtract{"Msg_Extract", "Förbereder installationen. Vänta..."};
 inline constexpr StarterMessage kNoRuntime{"Msg_NoRuntime", "Installationen kan inte startas. Filen '%1' saknas eller är skadad."};
+inline constexpr StarterMessage kNoRoom{"Msg_ExeDiskFull", "Det finns inte plats att packa upp installationen i '%1'."};
 inline constexpr StarterMessage kNoUninstaller{"Err_NoLog", "Avinstallationen kan inte startas. Filen '%1' saknas eller är skadad."};
+inline constexpr StarterMessage kNoRoomToUninstall{"Err_NoRoom", "Avinstallationen kan inte startas. Det finns inte plats i '%1'."};
 } // namespace StarterMessages
 // clang-format on
 

@@ -268,6 +268,26 @@ TEST_F(UnattendedTest, TellsItsResultEvenBeforeItHasALog)
     EXPECT_FALSE(memory.files.FileExists("Q:\\borta\\r.json"));
 }
 
+// Before the pages there is a private folder to make, for instance.
+TEST_F(UnattendedTest, WritesItsLogsAlsoWhereItComesToNothing)
+{
+    const Switches switches =
+        ReadSwitches("/S /LOG=L:\\logg.txt /LOGJSON=L:\\a.json /RESULT=L:\\r.json");
+    const RunError full(ErrorNumber::kDiskFull, "C:\\TEMP\\QN1.TMP");
+    const SetupFailure failure = FailBeforeSetup(host, switches, full, package.texts);
+    EXPECT_EQ(failure.Code(), ExitCode::DiskFull);
+    EXPECT_STREQ(failure.what(), "Det finns inte tillräckligt med ledigt utrymme "
+                                 "(C:\\TEMP\\QN1.TMP). Frigör utrymme och försök igen.");
+    EXPECT_THAT(Log(), HasSubstr(Text("Avslutar med kod 112: ") + failure.what()));
+    for (const char* file : {"L:\\a.json", "L:\\r.json"})
+        EXPECT_EQ(Records(file).back()["result"], "disk full") << file;
+    // Also where one of them can't be made.
+    const Switches nowhere = ReadSwitches("/S /LOG=Q:\\logg.txt /RESULT=L:\\r.json");
+    EXPECT_EQ(FailBeforeSetup(host, nowhere, std::bad_alloc(), package.texts).Code(),
+              ExitCode::Failed);
+    EXPECT_EQ(Records("L:\\r.json").at(0)["code"], 1603);
+}
+
 TEST_F(UnattendedTest, NamesNoPasswordAnywhere)
 {
     project.DialogBoxes.PasswordDlg = 1;

@@ -98,6 +98,51 @@ TEST_F(SetupCodes, TellOfAFullDisk)
     EXPECT_EQ(Result()["result"], "disk full");
     EXPECT_TRUE(fs::is_empty(folder)) << "everything was undone";
     EXPECT_FALSE(IsThere());
+
+    const fs::path temp = TempFolderOf(prefix);
+    const std::string logs = " /LOG=C:\\l.txt /LOGJSON=C:\\a.json /RESULT=C:\\r.json";
+    {
+        const MountedDisk forTheStarter(temp, "size=64k");
+        EXPECT_EQ(Setup("/SUPPRESSMSGBOXES" + logs), 112U);
+        EXPECT_EQ(Result()["result"], "disk full");
+        EXPECT_THAT(Result()["error"].get<std::string>(),
+                    HasSubstr("Det finns inte plats att packa upp installationen i 'C:\\users"));
+        EXPECT_TRUE(fs::is_empty(temp));
+    }
+    {
+        // The root, the starter's folder with its lock, and the two programs: no more.
+        const MountedDisk forTheSetupProper(temp, "nr_inodes=5");
+        EXPECT_EQ(Setup("/SUPPRESSMSGBOXES" + logs), 112U);
+        EXPECT_EQ(Result()["result"], "disk full");
+        EXPECT_EQ(Records("C:\\a.json").back()["result"], "disk full");
+        EXPECT_THAT(Bytes("C:\\l.txt"),
+                    HasSubstr("Avslutar med kod 112: Det finns inte tillräckligt"));
+    }
+    ASSERT_EQ(Setup("/S"), 0U);
+    {
+        const MountedDisk forTheUninstaller(temp, "size=64k");
+        EXPECT_EQ(Uninstall("/passive /RESULT=C:\\r.json"), 112U);
+        EXPECT_EQ(Result()["result"], "disk full");
+        EXPECT_THAT(
+            Result()["error"].get<std::string>(),
+            HasSubstr("Avinstallationen kan inte startas. Det finns inte plats i 'C:\\users"));
+        EXPECT_TRUE(IsThere());
+    }
+}
+
+// Somebody has cleared up too thoroughly.
+TEST_F(SetupCodes, AreThoseOfAnyOtherRunWithoutAFolderForTemporaryFiles)
+{
+    Make();
+    const fs::path temp = TempFolderOf(prefix);
+    fs::remove_all(temp);
+    EXPECT_EQ(Setup("/S"), 0U);
+    EXPECT_TRUE(IsThere());
+    EXPECT_TRUE(fs::is_empty(temp));
+    fs::remove_all(temp);
+    EXPECT_EQ(Uninstall("/S"), 0U);
+    EXPECT_FALSE(IsThere());
+    fs::create_directory(temp);
 }
 
 TEST_F(SetupCodes, TellOfANewerVersion)

@@ -25,6 +25,17 @@ bool TakeLock(Starter& starter)
     return starter.lock != INVALID_HANDLE_VALUE;
 }
 
+// All folders of a path that ends with a backslash; those that are there stay as they are.
+void MakeFolders(wchar_t* path)
+{
+    for (wchar_t* at = path; *at != 0; ++at)
+        if (*at == L'\\') {
+            *at = 0;
+            CreateDirectoryW(path, nullptr);
+            *at = L'\\';
+        }
+}
+
 bool MakeCommandLine(Starter& starter, const SetupLine& line)
 {
     constexpr std::size_t kMarksAndSwitch = 64;
@@ -155,12 +166,18 @@ bool MakeWorkFolder(Starter& starter)
 {
     wchar_t* const parent = starter.commandLine; // which is needed later only
     GetTempPathW(kMaxPathLength, parent);
+    MakeFolders(parent);
     for (DWORD n = GetTickCount(), last = n + 1000; n != last; ++n) {
         wchar_t name[32];
         wsprintfW(name, L"QN%lu.TMP", n);
         JoinPaths(starter.work, parent, name);
         if (MakeLockedFolder(starter.work) && TakeLock(starter))
             return true;
+        NoteFailure(starter);
+        if (starter.isDiskFull) {
+            RemoveDirectoryW(starter.work);
+            break;
+        }
     }
     return false;
 }
@@ -172,7 +189,7 @@ bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& progr
     JoinPaths(starter.scratch, starter.folder, program.inPackage);
     JoinPaths(to, starter.work, program.name);
     if (!CopyFileW(starter.scratch, to, TRUE))
-        return false;
+        return NoteFailure(starter);
     // What comes from a CD is write-protected, and would stay.
     SetFileAttributesW(to, FILE_ATTRIBUTE_NORMAL);
     return !listed.AreKnown() || listed.Hold(to, program.inPackage);
@@ -181,6 +198,15 @@ bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& progr
 void SetRefused(Starter& starter, const wchar_t* name)
 {
     lstrcpynW(starter.refused, name, MAX_PATH);
+}
+
+bool NoteFailure(Starter& starter)
+{
+    const DWORD errorCode = GetLastError();
+    starter.isDiskFull = errorCode == ERROR_DISK_FULL || errorCode == ERROR_HANDLE_DISK_FULL;
+    if (starter.isDiskFull)
+        GetTempPathW(MAX_PATH, starter.refused);
+    return false;
 }
 
 SetupRun RunSetup(Starter& starter, const SetupLine& line, HWND waitWindow)

@@ -27,8 +27,9 @@ struct Starter {
     wchar_t scratch[kMaxPathLength];
     wchar_t commandLine[kMaxPathLength];
     wchar_t message[kMaxMessageLength];
-    wchar_t refused[MAX_PATH]; // the file that the message names
+    wchar_t refused[MAX_PATH]; // the file or folder that the message names
     HANDLE lock;
+    bool isDiskFull; // that is why nothing was started
 };
 
 /// The system takes it back when the program ends; null where there is no memory.
@@ -42,7 +43,8 @@ void JoinPaths(wchar_t* to, const wchar_t* folder, const char* name);
 char* ReadFileOf(const wchar_t* path, DWORD& size);
 
 /// A folder that did not exist before, so that nobody has laid anything into it; closed to others
-/// where an administrator runs the program.
+/// where an administrator runs the program. The folder for temporary files is made, too, where
+/// somebody has removed it.
 bool MakeWorkFolder(Starter& starter);
 
 /// Copies the program from the starter's folder to the private one; `to` is its path there. The
@@ -51,6 +53,9 @@ bool MakeWorkFolder(Starter& starter);
 bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& program,
                       const ListedFiles& listed);
 void SetRefused(Starter& starter, const wchar_t* name);
+/// Right behind a failure to copy or to make something: where the disk is full, the folder for
+/// temporary files is what is refused. Always false.
+bool NoteFailure(Starter& starter);
 
 struct SetupRun {
     bool isStarted = false;

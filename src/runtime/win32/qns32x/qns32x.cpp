@@ -9,8 +9,6 @@
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
 #include "runtime/answer_file.h"
-#include "runtime/failure_reason.h"
-#include "runtime/json_log.h"
 #include "runtime/pages/design_files.h"
 #include "runtime/passive_ask.h"
 #include "runtime/refused_restart.h"
@@ -189,11 +187,12 @@ int RunSetupProgram(HINSTANCE instance, const Text& line)
         end = RunOnWindows(instance, switches, texts);
     } catch (const std::exception& error) {
         // Nothing was changed: what an installation does is undone before a failure comes here.
-        const Text text = texts(Message::Failed, FailureReason(error, texts));
         WinFiles files;
-        WriteResult(files, WinMachine(), switches.resultFile, end.code, text);
-        if (!switches.silent)
-            ShowMessageBox(nullptr, {"Quillon", text, MB_OK | MB_ICONSTOP}, texts);
+        WinMachine machine;
+        const SetupFailure failure = FailBeforeSetup({files, machine}, switches, error, texts);
+        end.code = failure.Code();
+        if (MayAsk(switches))
+            ShowMessageBox(nullptr, {"Quillon", failure.what(), MB_OK | MB_ICONSTOP}, texts);
     }
     // By now the setup has left nothing behind.
     if (end.startsMachineAnew && !RestartMachine()) {

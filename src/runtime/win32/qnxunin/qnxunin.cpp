@@ -26,16 +26,16 @@ void FindRecord(wchar_t* path, const Starter& starter, const wchar_t* line)
 }
 
 // The installation has left the texts of its language in its record.
-void ReadMessage(Starter& starter, const wchar_t* line)
+void ReadMessage(Starter& starter, const wchar_t* line, const StarterMessage& message)
 {
-    SetMessage(starter, StarterMessages::kNoUninstaller.swedish);
+    SetMessage(starter, message.swedish);
     FindRecord(starter.scratch, starter, line);
     DWORD size = 0;
     char* const bytes = ReadFileOf(starter.scratch, size);
     if (bytes == nullptr)
         return;
     char text[kMaxMessageLength];
-    if (FindRecordedText({bytes, size}, StarterMessages::kNoUninstaller.key, text, sizeof text))
+    if (FindRecordedText({bytes, size}, message.key, text, sizeof text))
         SetMessage(starter, text);
     HeapFree(GetProcessHeap(), 0, bytes);
 }
@@ -67,7 +67,11 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR line, int)
         RemoveWorkFolderAndItself(*starter);
     }
     if (!run.isStarted) {
-        ReadMessage(*starter, line);
+        if (starter->isDiskFull)
+            run.code = static_cast<DWORD>(ExitCode::DiskFull);
+        ReadMessage(*starter, line,
+                    starter->isDiskFull ? StarterMessages::kNoRoomToUninstall
+                                        : StarterMessages::kNoUninstaller);
         TellRefusal(*starter, line, run.code);
     }
     return static_cast<int>(run.code);

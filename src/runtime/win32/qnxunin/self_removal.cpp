@@ -110,7 +110,7 @@ bool KeepCleaner(Starter& starter)
     SetRefused(starter, wcsrchr(starter.own, L'\\') + 1);
     JoinPaths(starter.extra, starter.work, kCleaner);
     if (!CopyFileW(starter.own, starter.extra, TRUE))
-        return false;
+        return NoteFailure(starter);
     SetFileAttributesW(starter.extra, FILE_ATTRIBUTE_NORMAL);
     return true;
 }

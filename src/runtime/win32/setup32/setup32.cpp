@@ -96,7 +96,10 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR switches, int)
         RemoveWorkFolder(*starter);
     }
     if (!run.isStarted) {
-        ReadMessage(*starter, StarterMessages::kNoRuntime);
+        if (starter->isDiskFull)
+            run.code = static_cast<DWORD>(ExitCode::DiskFull);
+        ReadMessage(*starter,
+                    starter->isDiskFull ? StarterMessages::kNoRoom : StarterMessages::kNoRuntime);
         TellRefusal(*starter, switches, run.code);
     }
     return static_cast<int>(run.code);
