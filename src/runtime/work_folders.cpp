@@ -8,6 +8,7 @@
 #include "runtime/data_access.h"
 #include "runtime/first_program.h"
 #include "runtime/rollback.h"
+#include "runtime/script/script_run.h"
 
 #include <algorithm>
 
@@ -47,6 +48,9 @@ void RemoveWorkFolder(FileSystem& files, const Text& folder)
             RemoveEvenReadOnly(files, path);
     for (const SoundKind& kind : kSoundKinds)
         if (const Text path = JoinPath(folder, kind.name); files.FileExists(path))
+            RemoveEvenReadOnly(files, path);
+    for (const char* name : kScriptPrograms)
+        if (const Text path = JoinPath(folder, name); files.FileExists(path))
             RemoveEvenReadOnly(files, path);
     lock.reset();
     files.RemoveFolder(folder);

@@ -107,5 +107,47 @@ TEST_F(ExchangedPackage, IsNotExtractedWhereAFileThatLiesByItselfIsAnotherOne)
     EXPECT_EQ(memory.files.Get("E:\\Ut\\prog.exe"), "program");
 }
 
+// Libraries may lie beside it there, too.
+TEST_F(ExchangedPackage, LendsItsProgramsToScriptsAsCopiesInThePrivateFolder)
+{
+    const Text tool = "D:\\Paket\\verktyg.exe";
+    const Text copy = "W:\\Arbete\\QNSCRIPT.EXE";
+    project.Lists.RunScriptAfter = "RUN %SRCDIR\\verktyg.exe /x\r\nLOG %EXITCODE";
+    MakeManifest({"FILEDATA.DAT", "verktyg.exe"});
+    target.onProgram = [&](const ProgramRun& run) {
+        EXPECT_EQ(run.program, copy);
+        EXPECT_EQ(memory.files.Get(run.program), "verktyg.exe");
+        // What is in the package's folder is of no use to anybody by then.
+        memory.files.Put(tool, "exchanged");
+    };
+    target.programCodes[copy] = 7;
+    EXPECT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_EQ(target.programsRun, (std::vector<Text>{copy + " /x (hidden)"}));
+    EXPECT_THAT(Log(), HasSubstr(tool + " slutade med kod 7"));
+    EXPECT_FALSE(memory.files.FileExists(copy));
+}
+
+TEST_F(ExchangedPackage, LendsNoProgramToAScriptThatWasExchangedSinceItsCheck)
+{
+    project.Lists.RunScriptAfter = "RUN %SRCDIR\\verktyg.exe";
+    MakeManifest({"FILEDATA.DAT", "verktyg.exe"});
+    ExchangeBehindTheCheck("D:\\Paket\\verktyg.exe", "another one");
+    const MachineState before = State();
+    EXPECT_EQ(Install(), ExitCode::DamagedPackage) << Log();
+    EXPECT_THAT(Log(), HasSubstr("verktyg.exe är skadad"));
+    EXPECT_TRUE(target.programsRun.empty());
+    EXPECT_EQ(State().registry, before.registry);
+    EXPECT_FALSE(memory.files.DirExists(kMain));
+}
+
+// A batch file is started by its name's ending.
+TEST_F(ExchangedPackage, KeepsTheEndingOfAProgramThatItLendsToAScript)
+{
+    project.Lists.RunScriptAfter = "RUN %SRCDIR\\gor.CMD";
+    MakeManifest({"FILEDATA.DAT", "gor.CMD"});
+    EXPECT_EQ(Install(), ExitCode::Done) << Log();
+    EXPECT_EQ(target.programsRun, (std::vector<Text>{"W:\\Arbete\\QNSCRIPT.CMD (hidden)"}));
+}
+
 } // namespace
 } // namespace quillon::test

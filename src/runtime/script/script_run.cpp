@@ -1,12 +1,13 @@
 #include "runtime/script/script_run.h"
 
-#include "formats/package_manifest.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/failure_reason.h"
 #include "runtime/ini_changes.h"
+#include "runtime/package_copy.h"
 #include "runtime/registry_changes.h"
+#include "runtime/rollback.h"
 #include "runtime/script/script_paths.h"
 #include "runtime/switches.h"
 
@@ -23,6 +24,15 @@ public:
 private:
     Reason reason_;
 };
+
+// A program is started by what its name ends with.
+Text ScriptProgramFor(const Text& name)
+{
+    for (const char* copy : kScriptPrograms)
+        if (UpperCase(name).ends_with(std::string_view(copy).substr(kScriptProgramStem.size())))
+            return copy;
+    return kScriptPrograms[0];
+}
 
 Reason ScriptReason(const LanguageTexts& texts, Message part, int line, const Text& reason)
 {
@@ -55,7 +65,7 @@ private:
     void WriteRegistry(const Text& line);
     void StartAndWait(const ScriptCommand& command);
     [[noreturn]] void Exit(const std::vector<Text>& arguments) const;
-    void CheckListed(const Text& program) const;
+    Text ProgramToStart(const Text& program) const;
     Text Title() const
     {
         return input_.texts(Message::Title, input_.setup.project.ProjectName.ProjectName);
@@ -247,28 +257,32 @@ void ScriptRun::WriteRegistry(const Text& text)
     ApplyRegistryLine({work_.transaction, work_.record, input_.log}, line);
 }
 
-// Beside the package anybody may have laid a program: there only the package's own are started.
-void ScriptRun::CheckListed(const Text& program) const
+// Beside the package anybody may have laid a program, and libraries for it: there only the
+// package's own are started, and from a copy that nobody else can exchange.
+Text ScriptRun::ProgramToStart(const Text& program) const
 {
     const Text folder = variables_.Value(NameOf(VariableMeaning::SetupFolder)) + "\\";
     if (!LowerCase(program).starts_with(LowerCase(folder)))
-        return;
-    for (const ManifestLine& line : input_.manifest.lines)
-        if (EqualIgnoreCase(line.name, program.substr(folder.size())) &&
-            CompareFile(files_, RemoveLastBackslash(folder), line) == FileFault::None)
-            return;
-    throw ScriptStop({Message::PackageNotListed, program});
+        return program;
+    const Text name = program.substr(folder.size());
+    if (!input_.manifest.Names(name) || !files_.FileExists(program))
+        throw ScriptStop({Message::PackageNotListed, program});
+    const Text copy = JoinPath(input_.helpersFolder, ScriptProgramFor(name));
+    CopyFromPackage(files_, folder, name, copy, input_.manifest, input_.texts);
+    return copy;
 }
 
 void ScriptRun::StartAndWait(const ScriptCommand& command)
 {
     const Text program = PathIn(command.arguments[0]);
-    CheckListed(program);
-    if (!files_.FileExists(program))
-        throw RunError(ErrorNumber::kFileNotFound, program);
+    const Text started = ProgramToStart(program);
+    if (!files_.FileExists(started))
+        throw RunError(ErrorNumber::kFileNotFound, started);
     input_.log.Line(Message::LogStarts, program);
     const bool isHidden = command.word == ScriptWord::RunHidden || input_.silent;
-    const int code = input_.target.RunProgram({program, Expanded(command.arguments, 1), isHidden});
+    const int code = input_.target.RunProgram({started, Expanded(command.arguments, 1), isHidden});
+    if (started != program)
+        RunErrorNumber([&] { RemoveEvenReadOnly(files_, started); });
     variables_.Set(kScriptExitCode, NumberText(code));
     input_.log.Line(Message::LogEndsWithCode, program, NumberText(code));
 }

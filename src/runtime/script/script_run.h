@@ -12,6 +12,11 @@
 
 namespace quillon {
 
+/// Names in the setup's private folder of what a script starts from the package.
+inline constexpr std::string_view kScriptProgramStem = "QNSCRIPT";
+inline constexpr const char* kScriptPrograms[] = {"QNSCRIPT.EXE", "QNSCRIPT.COM", "QNSCRIPT.BAT",
+                                                  "QNSCRIPT.CMD"};
+
 struct ScriptWork {
     const InstallInput& input;
     InstallTransaction& transaction;
