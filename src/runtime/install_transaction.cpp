@@ -174,6 +174,7 @@ void InstallTransaction::WriteValue(const RegistryKey& key, const Text& name,
     if (recorded == Recorded::Yes)
         installJournal_.Add(record::Value{key, name, data, former});
     journal_.Note(record::FormerValue{key, name, former});
+    journal_.Note(record::WrittenValue{key, name, data});
     target_.WriteValue(key, name, data);
     log_.Line(Message::LogWritesRegistry, KeyText(key) + " :: " + name);
 }
@@ -184,6 +185,7 @@ bool InstallTransaction::TakeValueAway(const RegistryKey& key, const Text& name)
     if (!former)
         return false;
     journal_.Note(record::FormerValue{key, name, former});
+    journal_.Note(record::WrittenValue{key, name, std::nullopt});
     target_.RemoveValue(key, name);
     return true;
 }
@@ -256,8 +258,11 @@ void InstallTransaction::CleanUp()
 
 bool InstallTransaction::Undo()
 {
-    const bool whole = quillon::Undo({host_, target_, log_}, journal_.Steps());
-    if (whole && RunErrorNumber([&] { journal_.End(); }) == ErrorNumber::kNone)
+    bool isWhole = false;
+    const auto undo = [&] {
+        isWhole = quillon::Undo({host_, target_, log_}, journal_.Steps(), [&] { journal_.End(); });
+    };
+    if (RunErrorNumber(undo) == ErrorNumber::kNone && isWhole)
         return true;
     journal_.Leave();
     return false;

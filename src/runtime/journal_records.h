@@ -180,6 +180,14 @@ struct FormerValue {
     bool operator==(const FormerValue&) const = default;
 };
 
+/// What it is from then on, behind the line of its former state; nothing where it was removed.
+struct WrittenValue {
+    RegistryKey key;
+    Text name;
+    std::optional<RegistryData> data;
+    bool operator==(const WrittenValue&) const = default;
+};
+
 struct RemovedKey {
     RegistryKey key;
     bool operator==(const RemovedKey&) const = default;
@@ -216,9 +224,9 @@ using JournalRecord =
                  record::AtRestart, record::Key, record::Value, record::UninstallKey,
                  record::UninstallValue, record::IniFile, record::IniOpenEnd, record::IniSection,
                  record::IniValue, record::StartupLine, record::Content, record::TempFolder,
-                 record::MovedAside, record::InsteadOf, record::FormerValue, record::RemovedKey,
-                 record::RegisteredBefore, record::AnnouncedBefore, record::LeavingFolder,
-                 record::Committed>;
+                 record::MovedAside, record::InsteadOf, record::FormerValue, record::WrittenValue,
+                 record::RemovedKey, record::RegisteredBefore, record::AnnouncedBefore,
+                 record::LeavingFolder, record::Committed>;
 
 /// The path or the registry key that a record is about; empty where it is about none.
 Text SubjectOf(const JournalRecord& record);

@@ -53,6 +53,7 @@ constexpr std::tuple kRows{
     Line("ASIDE",            &record::MovedAside::path, &record::MovedAside::aside),
     Line("INSTEADOF",        &record::InsteadOf::path, &record::InsteadOf::aside),
     Line("FORMERVALUE",      &record::FormerValue::key, &record::FormerValue::name, &record::FormerValue::former),
+    Line("WRITTENVALUE",     &record::WrittenValue::key, &record::WrittenValue::name, &record::WrittenValue::data),
     Line("REMOVEDKEY",       &record::RemovedKey::key),
     Line("REGISTEREDBEFORE", &record::RegisteredBefore::path),
     Line("ANNOUNCEDBEFORE",  &record::AnnouncedBefore::path),

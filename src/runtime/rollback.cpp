@@ -10,7 +10,9 @@
 #include "runtime/transaction_journal.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
+#include <utility>
 
 namespace quillon {
 
@@ -27,18 +29,23 @@ public:
     }
 
     bool UndoAll(const std::vector<JournalRecord>& steps);
+    /// Takes our user off the counts that others have changed since. What is done twice would take
+    /// off another's, so nothing may lead here again.
+    void LowerCounts();
     /// Removes a temporary folder with all but what has to stay.
     void EmptyTempFolder(const Text& folder, const Paths& staying);
 
 private:
     void Undo(const record::Folder& folder);
-    void Undo(const record::File& file) { MakeWay(file.path); }
+    void Undo(const record::File& file);
     void Undo(const record::MovedAside& file);
     void Undo(const record::InsteadOf& file);
     void Undo(const record::TempFolder& folder) { EmptyTempFolder(folder.path, lost_); }
     void Undo(const record::Key& key);
     void Undo(const record::RemovedKey& key) { target_.MakeKey(key.key); }
     void Undo(const record::FormerValue& value);
+    void Undo(const record::WrittenValue& value) { written_ = value; }
+    bool IsOthersNow(const record::FormerValue& value);
     void Undo(const record::Registered& file);
     void Undo(const record::RegisteredBefore& file);
     void Undo(const record::Font& font);
@@ -56,7 +63,9 @@ private:
     FileSystem& files_;
     Target& target_;
     RunningProgram* const running_;
-    Paths lost_; // files aside that could not come back, and must not go
+    std::optional<record::WrittenValue> written_; // by the step behind the one that is undone
+    std::map<Text, Text> counts_; // of shared files, that others have changed; by lower case
+    Paths lost_;                  // files aside that could not come back, and must not go
     // The files unregistered and the fonts withdrawn in this rollback.
     Paths unregistered_;
     Paths withdrawn_;
@@ -90,6 +99,15 @@ void Rollback::Undo(const record::Folder& folder)
         target_.MoveAtRestart(folder.path, "");
 }
 
+// Who has counted it since needs it.
+void Rollback::Undo(const record::File& file)
+{
+    if (counts_.count(LowerCase(file.path)) == 0)
+        MakeWay(file.path);
+    else if (files_.FileExists(file.path))
+        log_.Skipped(file.path, {Message::ReasonUsedByOthers});
+}
+
 void Rollback::Undo(const record::MovedAside& file)
 {
     if (!files_.FileExists(file.aside))
@@ -117,13 +135,46 @@ void Rollback::Undo(const record::Key& key)
         target_.RemoveKey(key.key);
 }
 
+// By what the journal says that we wrote, which one of an older setup does not. Whoever has removed
+// it has left nothing to lose.
+bool Rollback::IsOthersNow(const record::FormerValue& value)
+{
+    const auto written = std::exchange(written_, std::nullopt);
+    if (!written || !(written->key == value.key) || written->name != value.name)
+        return false;
+    const auto present = target_.ReadValue(value.key, value.name);
+    return present && present != written->data && present != value.former;
+}
+
 void Rollback::Undo(const record::FormerValue& value)
 {
+    if (IsOthersNow(value)) {
+        if (value.key == SharedFilesKey())
+            counts_.emplace(LowerCase(value.name), value.name);
+        else
+            log_.Skipped(KeyText(value.key) + " :: " + value.name, {Message::ReasonValueChanged});
+        return;
+    }
     if (value.former) {
         target_.MakeKey(value.key);
         target_.WriteValue(value.key, value.name, *value.former);
     } else if (target_.ReadValue(value.key, value.name)) {
         target_.RemoveValue(value.key, value.name);
+    }
+}
+
+void Rollback::LowerCounts()
+{
+    for (const auto& [id, path] : counts_) {
+        const auto users = CountOfUsers(target_, path);
+        try {
+            if (users && *users > 1)
+                target_.WriteValue(SharedFilesKey(), path, NumberData(*users - 1));
+            else if (users)
+                target_.RemoveValue(SharedFilesKey(), path);
+        } catch (const std::exception& error) {
+            log_.CannotUndo(error);
+        }
     }
 }
 
@@ -220,6 +271,13 @@ bool HasNoStep(const std::string& bytes)
     return (kTransactionJournal + Text(kLineBreak)).starts_with(bytes);
 }
 
+void ForgetNotes(Target& target, const std::vector<JournalRecord>& steps)
+{
+    for (const JournalRecord& step : steps)
+        if (const auto* const product = std::get_if<record::Product>(&step))
+            ForgetStartedSetups(target, product->name);
+}
+
 bool FinishOne(const RollbackInput& input, const Text& path)
 {
     FileSystem& files = input.host.files;
@@ -247,23 +305,10 @@ bool FinishOne(const RollbackInput& input, const Text& path)
         return Undo(input, *steps, removeJournal);
     }
     if (steps) {
-        const bool isCommitted =
-            std::any_of(steps->begin(), steps->end(), [](const JournalRecord& step) {
-                return std::holds_alternative<record::Committed>(step);
-            });
-        if (isCommitted) {
-            input.log.Line(Message::LogClearsInterrupted, path);
-            CleanUp(input, *steps);
-        } else {
-            input.log.Line(Message::LogUndoesInterrupted, path);
-            if (!Undo(input, *steps))
-                return false;
-        }
+        input.log.Line(Message::LogClearsInterrupted, path);
+        CleanUp(input, *steps);
     }
-    files.RemoveFile(path);
-    for (const JournalRecord& step : steps.value_or(std::vector<JournalRecord>{}))
-        if (const auto* const product = std::get_if<record::Product>(&step))
-            ForgetStartedSetups(input.target, product->name);
+    removeJournal();
     return true;
 }
 
@@ -283,9 +328,16 @@ void RemoveLeavingFolder(const RollbackInput& input, const Text& folder)
 
 } // namespace
 
-bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps)
+bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps,
+          const std::function<void()>& removeJournal)
 {
-    return Rollback(input).UndoAll(steps);
+    Rollback rollback(input);
+    if (!rollback.UndoAll(steps))
+        return false;
+    removeJournal();
+    // Killed here, the setup leaves a count that is too high: the file stays, and that is all.
+    rollback.LowerCounts();
+    return true;
 }
 
 void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps)

@@ -7,6 +7,7 @@
 #include "runtime/journal_records.h"
 #include "runtime/running_program.h"
 
+#include <functional>
 #include <vector>
 
 namespace quillon {
@@ -18,9 +19,12 @@ struct RollbackInput {
     RunningProgram* running = nullptr; // this one, where it may be what has to go
 };
 
-/// Takes the steps back, from the last to the first. False where one could not be taken back; the
-/// log says which, and what is needed to try again stays.
-bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps);
+/// Takes the steps back, from the last to the first, and then has their journal removed. False
+/// where one could not be taken back; the log says which, and what is needed to try again stays,
+/// the journal too. A value that somebody else has changed since is theirs, and stays; of a shared
+/// file's users only our own is taken off.
+bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps,
+          const std::function<void()>& removeJournal);
 
 /// Removes the temporary files of steps that stay, now or when the machine starts next.
 void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps);

@@ -6,6 +6,7 @@
 #include "formats/package_manifest.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "runtime/file_installer.h"
 #include "runtime/restart_moves.h"
 #include "runtime/rollback.h"
 #include "runtime/started_setups.h"
@@ -527,6 +528,116 @@ TEST_F(KilledSetup, ClosesItsJournalToOthers)
     AddFile("prog.exe", "%DESTDIR", "program");
     ASSERT_EQ(Install(), ExitCode::Done);
     EXPECT_EQ(target.closedToOthers.count("C:\\Program\\~qnsetup-Exempel.tmp"), 1U);
+}
+
+// Another product has come before the machine was put right.
+TEST_F(KilledSetup, TakesOnlyItsOwnUserOffASharedFile)
+{
+    const Text shared = "C:\\Gemensamt\\delad.dll";
+    AddFile("delad.dll", "C:\\Gemensamt", "v1", "S");
+    const Machine start = Keep();
+    for (const std::uint32_t users : {1U, 2U}) {
+        Restore(start);
+        const auto isCounted = [&] {
+            return CountOfUsers(target, shared).value_or(0) == (users == 1 ? 1U : users + 1);
+        };
+        if (users > 1) {
+            memory.files.Put(shared, "v1");
+            target.MakeKey(SharedFilesKey());
+            target.WriteValue(SharedFilesKey(), shared, NumberData(users));
+        }
+        const Machine before = Keep();
+        for (int n = 1; !isCounted(); ++n) {
+            Restore(before);
+            ASSERT_TRUE(KillAt(n, [&] { Install(); }));
+        }
+        const std::uint32_t counted = *CountOfUsers(target, shared);
+        target.WriteValue(SharedFilesKey(), shared, NumberData(counted + 1));
+        ASSERT_TRUE(Finish());
+        EXPECT_EQ(CountOfUsers(target, shared), counted);
+        EXPECT_EQ(memory.files.Get(shared), "v1") << "the other product needs it";
+        // Nothing is left that could count down once more.
+        ASSERT_TRUE(Finish());
+        EXPECT_EQ(CountOfUsers(target, shared), counted);
+    }
+}
+
+// However often it is killed while it puts the machine right.
+TEST_F(KilledSetup, TakesNoUserOffASharedFileTwice)
+{
+    const Text shared = "C:\\Gemensamt\\delad.dll";
+    AddFile("delad.dll", "C:\\Gemensamt", "v1", "S");
+    const Machine start = Keep();
+    for (int n = 1; !CountOfUsers(target, shared); ++n) {
+        Restore(start);
+        ASSERT_TRUE(KillAt(n, [&] { Install(); }));
+    }
+    target.WriteValue(SharedFilesKey(), shared, NumberData(2));
+    const Machine killed = Keep();
+    for (int n = 1;; ++n) {
+        Restore(killed);
+        const bool wasKilled = KillAt(n, [&] { Finish(); });
+        ASSERT_TRUE(Finish());
+        const auto users = CountOfUsers(target, shared);
+        EXPECT_TRUE(users == 1U || (users == 2U && wasKilled)) << n;
+        EXPECT_EQ(memory.files.Get(shared), "v1");
+        if (!wasKilled) {
+            EXPECT_EQ(users, 1U);
+            break;
+        }
+    }
+}
+
+TEST_F(KilledSetup, LeavesAValueThatSomebodyElseHasWrittenSince)
+{
+    const RegistryKey key{RegistryRoot::LocalMachine, "SOFTWARE\\Firma"};
+    project.Lists.Registry = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Antal=\"2\"\r\n"
+                             "DELETE=HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: Bort";
+    AddFile("prog.exe", "%DESTDIR", "program");
+    target.MakeKey(key);
+    target.WriteValue(key, "Antal", TextData("1"));
+    target.WriteValue(key, "Bort", TextData("former"));
+    const Machine start = Keep();
+    const auto killBehindBoth = [&] {
+        for (int n = 1; target.TextAt(key, "Antal") != "2" || target.ReadValue(key, "Bort"); ++n) {
+            Restore(start);
+            ASSERT_TRUE(KillAt(n, [&] { Install(); }));
+        }
+    };
+    killBehindBoth();
+    ASSERT_TRUE(Finish());
+    EXPECT_EQ(target.TextAt(key, "Antal"), "1");
+    EXPECT_EQ(target.TextAt(key, "Bort"), "former");
+    killBehindBoth();
+    target.WriteValue(key, "Antal", TextData("3"));
+    target.WriteValue(key, "Bort", TextData("anew"));
+    EXPECT_EQ(Install("/S /PASSWORD=fel"), ExitCode::Done) << Log();
+    EXPECT_THAT(Log(), HasSubstr("SOFTWARE\\Firma :: Antal: värdet har ändrats efter"));
+    EXPECT_THAT(Log(), HasSubstr("SOFTWARE\\Firma :: Bort: värdet har ändrats efter"));
+    // Whoever has removed it has left nothing to lose.
+    Restore(start);
+    killBehindBoth();
+    target.RemoveValue(key, "Antal");
+    ASSERT_TRUE(Finish());
+    EXPECT_EQ(target.TextAt(key, "Antal"), "1");
+}
+
+// One of an older setup does not say what was written.
+TEST_F(KilledSetup, TakesBackAJournalOfAnOlderSetup)
+{
+    const Text journal = "C:\\Program\\~qnsetup-Exempel.tmp";
+    const RegistryKey key{RegistryRoot::CurrentUser, "SOFTWARE\\Firma"};
+    target.MakeKey(key);
+    target.WriteValue(key, "Antal", TextData("2"));
+    memory.files.Put(journal,
+                     "Quillon installationsjournal 1\r\nPRODUCT\tExempel\r\n"
+                     "FORMERVALUE\tHKEY_CURRENT_USER\tSOFTWARE\\Firma\tAntal\t1\t31000000\r\n"
+                     "FORMERVALUE\tHKEY_CURRENT_USER\tSOFTWARE\\Firma\tNy\t\t\r\n");
+    target.WriteValue(key, "Ny", TextData("x"));
+    ASSERT_TRUE(Finish());
+    EXPECT_EQ(target.TextAt(key, "Antal"), "1");
+    EXPECT_FALSE(target.ReadValue(key, "Ny"));
+    EXPECT_FALSE(memory.files.FileExists(journal));
 }
 
 TEST_F(KilledSetup, TellsAJournalThatCanNotBeRead)
