@@ -247,6 +247,15 @@ TEST_F(SetupSwitches, LeaveThePasswordOutOfEveryFile)
     EXPECT_THAT(Bytes(kMainFolder + "\\QNXUNIN.LOG"), Not(HasSubstr("Mellon7")));
 }
 
+// It ends with 0 only where it was started hidden, and is counted only then.
+TEST_F(SetupSwitches, ShowNothingOfAProgramThatRegistersItself)
+{
+    product.Add("Data", "server.exe", ReadBytes(TestProgramFolder() / "hidden_server.exe"), "R");
+    Make();
+    ASSERT_EQ(Setup("/S /LOGJSON=C:\\a.json"), 0U);
+    EXPECT_EQ(Records("C:\\a.json").back()["counts"]["registrations"], 1);
+}
+
 TEST_F(SetupSwitches, MeanTheSameToTheUninstaller)
 {
     Make();

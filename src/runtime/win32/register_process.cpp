@@ -46,6 +46,8 @@ int RegisterInOwnProcess(const Text& path, bool on)
                              NumberText(reinterpret_cast<INT_PTR>(read)));
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = SW_HIDE;
     PROCESS_INFORMATION process{};
     if (!CreateProcessW(Wide(ProgramPath()).c_str(), line.data(), nullptr, nullptr, TRUE,
                         CREATE_NO_WINDOW, nullptr, nullptr, &startup, &process))

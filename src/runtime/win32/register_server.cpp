@@ -35,6 +35,9 @@ int RunAndWait(const wchar_t* program, wchar_t* commandLine)
 {
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
+    // Whatever a file shows when it registers itself, nobody is there to close it.
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = SW_HIDE;
     PROCESS_INFORMATION process{};
     if (!CreateProcessW(program, commandLine, nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
                         nullptr, &startup, &process))
