@@ -47,8 +47,8 @@ struct SetupEnd {
     Text title = {};    // of the setup's boxes
 };
 
-/// What ends a setup that has not come as far as `RunSetup`. It stands in the logs that the
-/// switches ask for, where they can be made.
+/// Reports a failure that ends a setup before `RunSetup`: gives its exit code and its reason, and
+/// writes both to the logs that the switches ask for, where these can be made.
 SetupFailure FailBeforeSetup(const Host& host, const Switches& switches,
                              const std::exception& error, const LanguageTexts& texts);
 

@@ -211,7 +211,8 @@ Text ShownName(std::string_view given)
     return name == word && IsPassword(begin) ? begin : name;
 }
 
-// Nor a word that a password with a blank may end in: that is told by the switch before it.
+// A word that is no switch may be the rest of a password with a blank in it: it is not shown, and
+// the switch before it says where it stands.
 Text ShownWord(std::string_view given, std::string_view before)
 {
     const Text name = ShownName(given);

@@ -46,7 +46,7 @@ struct Switches {
     Text packageFolder; // /PACKAGE=, which the starter adds for the program proper
     CloseApplications closeApplications = CloseApplications::Ask; // /[NO]CLOSEAPPLICATIONS
     std::optional<TestMode> testMode;                             // /TEST or /PREVIEW
-    // The name of the first one that is none, or is no good: as it may be shown and logged.
+    // The first one that is unknown or invalid, in a form that may be shown and logged.
     std::optional<Text> badSwitch;
     // Names of the registration page by their keys in a file of answers.
     std::vector<std::pair<Text, Text>> user;
