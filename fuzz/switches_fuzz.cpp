@@ -27,6 +27,23 @@ void ReadQuotedAsAWhole(const Text& value)
     Require(switches.badSwitch.has_value() == value.empty());
 }
 
+// What follows a misspelt switch may be a password.
+void ShowNoValue(const Text& value)
+{
+    Require(ReadSwitches("\"/PASWORD=" + value + '"').badSwitch == "/PASWORD");
+}
+
+// The switch that is reported, up to the ellipsis for a word that is not shown.
+Text ShownPart(Text badSwitch)
+{
+    constexpr std::string_view kEllipsis = "\u2026";
+    if (badSwitch.ends_with(kEllipsis))
+        badSwitch.resize(badSwitch.size() - kEllipsis.size());
+    if (badSwitch.ends_with(' '))
+        badSwitch.pop_back();
+    return badSwitch;
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
@@ -36,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const Switches switches = ReadSwitches(line);
     Require(switches.silent == HasSilentSwitch(std::wstring(line.begin(), line.end()).c_str()));
     Require(!switches.badSwitch ||
-            WithoutQuotes(line).find(WithoutQuotes(*switches.badSwitch)) != Text::npos);
+            WithoutQuotes(line).find(WithoutQuotes(ShownPart(*switches.badSwitch))) != Text::npos);
     Require(switches.badSwitch || switches.destination.empty() ||
             IsAbsolutePath(switches.destination));
 
@@ -44,5 +61,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     Require(command.journalPath.empty() || command.journalPath[0] != '/');
     Require(!command.switches.testMode || command.switches.badSwitch);
     ReadQuotedAsAWhole(WithoutQuotes(line));
+    ShowNoValue(WithoutQuotes(line));
     return 0;
 }
