@@ -1,5 +1,6 @@
 // `.reg` files of any content: whatever precedes it, a key that is written as Windows
 // writes it is read, and one that is removed is gone; and a file read twice says what it said once.
+#include "helpers/utf16.h"
 #include "platform/posix/registry_files.h"
 #include "require.h"
 
@@ -8,7 +9,6 @@ using namespace quillon;
 namespace {
 
 constexpr auto kRoot = RegistryRoot::LocalMachine;
-constexpr std::string_view kUtf16Bom = "\xFF\xFE";
 
 bool IsUtf16(std::string_view bytes)
 {

@@ -10,9 +10,6 @@ namespace quillon {
 
 namespace {
 
-constexpr std::string_view kUtf16Bom = "\xFF\xFE";
-constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
-
 Text FromUtf16BigEndian(std::string_view bytes)
 {
     std::string swapped(bytes.substr(0, bytes.size() / 2 * 2));

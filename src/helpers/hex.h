@@ -7,6 +7,14 @@ namespace quillon {
 inline constexpr char kHexDigits[] = "0123456789ABCDEF";
 inline constexpr char kSmallHexDigits[] = "0123456789abcdef";
 
+/// The two digits of a byte, after whatever the text holds.
+template <class Text>
+void AppendHexByte(Text& text, unsigned char byte, const char* digits)
+{
+    text += digits[byte >> 4U];
+    text += digits[byte & 15U];
+}
+
 /// 16 or more for a character that is no hexadecimal digit, of either case.
 constexpr unsigned HexDigitValue(char digit)
 {

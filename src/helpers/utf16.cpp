@@ -24,8 +24,7 @@ Text FromUtf16(std::string_view bytes)
             IsHighSurrogate(unit) && i + 3 < bytes.size() && IsLowSurrogate(UnitAt(bytes, i + 2));
         if (isPair) {
             i += 2;
-            const char32_t low = UnitAt(bytes, i);
-            AppendCodePoint(text, 0x10000 + ((unit - 0xD800) << 10U) + (low - 0xDC00));
+            AppendCodePoint(text, JoinSurrogates(unit, UnitAt(bytes, i)));
         } else {
             const bool isHalf = IsHighSurrogate(unit) || IsLowSurrogate(unit);
             AppendCodePoint(text, isHalf ? kReplacementCharacter : unit);
@@ -43,9 +42,9 @@ std::string ToUtf16(std::string_view text)
     };
     for (std::size_t position = 0; position < text.size();) {
         const char32_t codePoint = NextCodePoint(text, position);
-        if (codePoint >= 0x10000)
-            append(0xD800 | (codePoint - 0x10000) >> 10U);
-        append(codePoint < 0x10000 ? codePoint : 0xDC00 | ((codePoint - 0x10000) & 0x3FFU));
+        if (codePoint >= kFirstBeyond16Bits)
+            append(HighSurrogate(codePoint));
+        append(codePoint < kFirstBeyond16Bits ? codePoint : LowSurrogate(codePoint));
     }
     return bytes;
 }

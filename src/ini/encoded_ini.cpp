@@ -5,13 +5,6 @@
 
 namespace quillon {
 
-namespace {
-
-constexpr std::string_view kUtf16Bom = "\xFF\xFE";
-constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
-
-} // namespace
-
 std::optional<EncodedIni> EncodedIni::Read(std::string bytes)
 {
     if (bytes.starts_with(kUtf16BigEndianBom))

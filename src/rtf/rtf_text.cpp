@@ -21,11 +21,6 @@ using Place = RtfState::Place;
 constexpr std::size_t kMaxGroups = 200;
 constexpr std::size_t kMaxColours = 1000;
 
-char32_t CombinePair(char32_t high, char32_t low)
-{
-    return 0x10000 + ((high - 0xD800) << 10U) + (low - 0xDC00);
-}
-
 /// Walks through the file once, brace by brace, with a stack of its own.
 class RtfReader {
 public:
@@ -207,7 +202,7 @@ void RtfReader::TakeUnicode(int number)
     const auto unit = static_cast<char32_t>(number) & 0xFFFFU;
     const char32_t high = std::exchange(highSurrogate_, IsHighSurrogate(unit) ? unit : 0);
     if (IsLowSurrogate(unit))
-        Put(high != 0 ? CombinePair(high, unit) : kReplacementCharacter);
+        Put(high != 0 ? JoinSurrogates(high, unit) : kReplacementCharacter);
     else if ((unit & 0xFF00U) == 0xF000)
         Put(SymbolCharacter(static_cast<unsigned char>(unit & 0xFFU)));
     else if (highSurrogate_ == 0)

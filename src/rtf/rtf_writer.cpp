@@ -2,6 +2,7 @@
 
 #include "helpers/hex.h"
 #include "helpers/number_text.h"
+#include "helpers/utf16.h"
 #include "helpers/utf8.h"
 
 #include <algorithm>
@@ -162,7 +163,6 @@ private:
 
     void WriteCodePoint(char32_t codePoint)
     {
-        constexpr char32_t kFirstBeyond16Bits = 0x10000;
         if (codePoint == U'\t')
             out_ += "\\tab ";
         else if (codePoint == U'\n')
@@ -174,15 +174,15 @@ private:
         else if (codePoint >= 0xA0 && codePoint <= 0xFF)
             WriteByte(static_cast<unsigned char>(codePoint)); // the same in the code page
         else if (codePoint >= kFirstBeyond16Bits)
-            WriteSurrogates(codePoint - kFirstBeyond16Bits);
+            WriteSurrogates(codePoint);
         else if (codePoint >= 0x7F)
             WriteUnit(codePoint);
     }
 
-    void WriteSurrogates(char32_t rest)
+    void WriteSurrogates(char32_t codePoint)
     {
-        WriteUnit(0xD800 + (rest >> 10));
-        WriteUnit(0xDC00 + (rest & 0x3FF));
+        WriteUnit(HighSurrogate(codePoint));
+        WriteUnit(LowSurrogate(codePoint));
     }
 
     // The number is one of 16 bits with a sign.
@@ -195,8 +195,7 @@ private:
     void WriteByte(unsigned char byte)
     {
         out_ += "\\'";
-        out_.push_back(kSmallHexDigits[byte >> 4]);
-        out_.push_back(kSmallHexDigits[byte & 0xF]);
+        AppendHexByte(out_, byte, kSmallHexDigits);
     }
 
     const RtfText& text_;

@@ -5,6 +5,7 @@
 #include "runtime/registry_lines.h"
 
 #include <algorithm>
+#include <array>
 #include <tuple>
 #include <type_traits>
 
@@ -61,6 +62,39 @@ constexpr std::tuple kRows{
 };
 // clang-format on
 
+template <class Record, class Other, class... Fields>
+constexpr std::size_t IsRowOf(const Row<Other, Fields...>&)
+{
+    return std::is_same_v<Record, Other> ? 1 : 0;
+}
+
+template <class Record>
+constexpr std::size_t RowsOf()
+{
+    return std::apply([](const auto&... row) { return (IsRowOf<Record>(row) + ...); }, kRows);
+}
+
+template <class... Records>
+constexpr bool HaveOneRowEach(const std::variant<Records...>*)
+{
+    return sizeof...(Records) == std::tuple_size_v<decltype(kRows)> &&
+           ((RowsOf<Records>() == 1) && ...);
+}
+
+constexpr bool AreWordsUnique()
+{
+    const auto words = std::apply(
+        [](const auto&... row) { return std::array{std::string_view(row.word)...}; }, kRows);
+    for (std::size_t i = 0; i < words.size(); ++i)
+        for (std::size_t other = i + 1; other < words.size(); ++other)
+            if (words[i] == words[other])
+                return false;
+    return true;
+}
+
+// A kind of record without a row would be written as an empty line.
+static_assert(HaveOneRowEach(static_cast<const JournalRecord*>(nullptr)) && AreWordsUnique());
+
 template <class Visit>
 void EachRow(Visit visit)
 {
@@ -78,8 +112,7 @@ Text Escape(std::string_view field)
             continue;
         }
         escaped += '%';
-        escaped += kHexDigits[static_cast<unsigned char>(c) >> 4U];
-        escaped += kHexDigits[static_cast<unsigned char>(c) & 15U];
+        AppendHexByte(escaped, static_cast<unsigned char>(c), kHexDigits);
     }
     return escaped;
 }

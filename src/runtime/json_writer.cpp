@@ -54,8 +54,7 @@ void JsonWriter::Quote(std::string_view text)
         const char32_t codePoint = NextCodePoint(text, at);
         if (codePoint < 0x20 || codePoint == 0x7F) {
             text_ += "\\u00";
-            text_ += kSmallHexDigits[codePoint >> 4U];
-            text_ += kSmallHexDigits[codePoint & 0xFU];
+            AppendHexByte(text_, static_cast<unsigned char>(codePoint), kSmallHexDigits);
             continue;
         }
         if (codePoint == '"' || codePoint == '\\')

@@ -1,6 +1,7 @@
 #include "runtime/registry_data.h"
 
 #include "helpers/hex.h"
+#include "helpers/utf16.h"
 #include "helpers/utf8.h"
 
 #include <utility>
@@ -8,11 +9,6 @@
 namespace quillon {
 
 namespace {
-
-constexpr char32_t kFirstBeyondOneUnit = 0x10000;
-constexpr char32_t kHighSurrogate = 0xD800;
-constexpr char32_t kLowSurrogate = 0xDC00;
-constexpr char32_t kBehindSurrogates = 0xE000;
 
 void AppendUnit(std::string& bytes, char32_t unit)
 {
@@ -31,16 +27,7 @@ char32_t UnitAt(std::string_view bytes, std::size_t at)
 
 RegistryData TextData(std::string_view text)
 {
-    RegistryData data{kRegistryText, {}};
-    for (std::size_t at = 0; at < text.size();) {
-        const char32_t code = NextCodePoint(text, at);
-        if (code >= kFirstBeyondOneUnit) {
-            AppendUnit(data.bytes, kHighSurrogate + ((code - kFirstBeyondOneUnit) >> 10U));
-            AppendUnit(data.bytes, kLowSurrogate + ((code - kFirstBeyondOneUnit) & 0x3FFU));
-        } else {
-            AppendUnit(data.bytes, code);
-        }
-    }
+    RegistryData data{kRegistryText, ToUtf16(text)};
     AppendUnit(data.bytes, 0);
     return data;
 }
@@ -67,10 +54,10 @@ std::optional<Text> TextOf(const RegistryData& data)
         char32_t code = UnitAt(data.bytes, at);
         if (code == 0)
             break;
-        const bool isHigh = code >= kHighSurrogate && code < kLowSurrogate;
-        const char32_t low = isHigh && at + 3 < data.bytes.size() ? UnitAt(data.bytes, at + 2) : 0;
-        if (low >= kLowSurrogate && low < kBehindSurrogates) {
-            code = kFirstBeyondOneUnit + ((code - kHighSurrogate) << 10U) + (low - kLowSurrogate);
+        const char32_t low =
+            IsHighSurrogate(code) && at + 3 < data.bytes.size() ? UnitAt(data.bytes, at + 2) : 0;
+        if (IsLowSurrogate(low)) {
+            code = JoinSurrogates(code, low);
             at += 2;
         }
         AppendCodePoint(text, code);
@@ -88,11 +75,8 @@ std::optional<std::uint32_t> NumberOf(const RegistryData& data)
 Text HexText(std::string_view bytes)
 {
     Text hex;
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        hex += kHexDigits[byte >> 4U];
-        hex += kHexDigits[byte & 15U];
-    }
+    for (const char c : bytes)
+        AppendHexByte(hex, static_cast<unsigned char>(c), kHexDigits);
     return hex;
 }
 

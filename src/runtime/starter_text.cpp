@@ -1,6 +1,7 @@
 #include "runtime/starter_text.h"
 
 #include "formats/package_files.h"
+#include "helpers/utf16.h"
 #include "helpers/utf8.h"
 #include "runtime/starter_messages.h"
 
@@ -9,8 +10,6 @@ namespace quillon {
 namespace {
 
 constexpr std::string_view kSection = kStarterSection;
-constexpr std::string_view kUtf16Bom = "\xFF\xFE";
-constexpr std::string_view kUtf16BigEndianBom = "\xFE\xFF";
 // Longer than a key, its text and the blanks round them; what follows it is not looked at.
 constexpr std::size_t kMaxLineLength = 2100;
 
@@ -73,10 +72,10 @@ private:
         std::size_t position = 0;
         const char32_t codePoint = NextCodePoint(rest_, position);
         rest_.remove_prefix(position);
-        if (codePoint < 0x10000)
+        if (codePoint < kFirstBeyond16Bits)
             return static_cast<char16_t>(codePoint);
-        second_ = static_cast<char16_t>(0xDC00 | ((codePoint - 0x10000) & 0x3FFU));
-        return static_cast<char16_t>(0xD800 | ((codePoint - 0x10000) >> 10U));
+        second_ = static_cast<char16_t>(LowSurrogate(codePoint));
+        return static_cast<char16_t>(HighSurrogate(codePoint));
     }
 
     std::string_view rest_;

@@ -26,6 +26,7 @@ INSTANTIATE_TEST_SUITE_P(OfEachKind, LineOfAJournal, testing::Values(
     LineCase{record::Product{"Exempel"}, "PRODUCT\tExempel"},
     LineCase{record::Message{"Uninstall_Title", "Ta bort %1"}, "MESSAGE\tUninstall_Title\tTa bort %251"},
     LineCase{record::Folder{"C:\\A"}, "FOLDER\tC:\\A"},
+    LineCase{record::Place{"C:\\A"}, "PLACE\tC:\\A"},
     LineCase{record::File{"C:\\A\\b"}, "FILE\tC:\\A\\b"},
     LineCase{record::Replaced{"C:\\A\\b"}, "REPLACED\tC:\\A\\b"},
     LineCase{record::Backup{"C:\\b", "C:\\b.bak"}, "BACKUP\tC:\\b\tC:\\b.bak"},
