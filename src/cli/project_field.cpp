@@ -39,11 +39,6 @@ bool IsColour(std::string_view key)
     return ContainsText(key, "Color");
 }
 
-Text WindowsLines(const Text& value)
-{
-    return ReplaceAll(ReplaceAll(value, kLineBreak, "\n"), "\n", kLineBreak);
-}
-
 // A value on its way into a field, and all that can be wrong with it.
 class NewValue {
 public:
@@ -60,7 +55,7 @@ public:
         if (form == Stored::AsNumberText)
             return NumberText(NumberIn(range));
         const bool hasLines = form == Stored::AsLines || form == Stored::AsLongLines;
-        const Text text = hasLines ? WindowsLines(value_) : value_;
+        const Text text = hasLines ? WithWindowsLineEnds(value_) : value_;
         if (!hasLines && text.find_first_of("\r\n") != Text::npos)
             Refuse("ryms på en rad; värdet har flera.");
         RequireLength(AnsiText::ToBytes(EncodeLineBreaks(text)).size(),
@@ -102,7 +97,7 @@ public:
 
     Text ListText(ListSection::Lines lines) const
     {
-        const Text text = WindowsLines(value_);
+        const Text text = WithWindowsLineEnds(value_);
         if (lines == ListSection::Lines::Marked)
             RequireLength(AnsiText::ToBytes(text).size(), kMaxMarkedListLength);
         return text;

@@ -136,8 +136,7 @@ void WriteSettings(DiagnosisWriter& writer, const Host& host)
     try {
         const Text text = AnsiText::FromBytes(ReadWholeFile(host.files, file));
         // The file may have been edited where lines end in a line feed alone.
-        for (const Text& line :
-             SplitLines(ReplaceAll(ReplaceAll(text, "\r\n", "\n"), "\n", "\r\n")))
+        for (const Text& line : SplitLines(WithWindowsLineEnds(text)))
             if (!line.empty())
                 writer.Line(IsSecret(line) ? line.substr(0, line.find('=') + 1) + "(utelämnat)"
                                            : line);

@@ -28,6 +28,9 @@ Text TrimBlanks(std::string_view text);
 
 Text ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
 
+/// Every line end, a line feed alone too, as CR LF.
+Text WithWindowsLineEnds(std::string_view text);
+
 /// Cut at each CR LF; an empty text is one empty line, and a final CR LF gives a last empty line.
 std::vector<Text> SplitLines(std::string_view text);
 

@@ -72,7 +72,7 @@ std::vector<Text> LinesOfDiagnosis(const FileSystem& files, const Text& path)
 {
     const Text text = AnsiText::FromBytes(ReadWholeFile(files, path));
     // The program may run on a system whose lines end in a line feed alone.
-    std::vector<Text> lines = SplitLines(ReplaceAll(ReplaceAll(text, "\r\n", "\n"), "\n", "\r\n"));
+    std::vector<Text> lines = SplitLines(WithWindowsLineEnds(text));
     if (lines.back().empty())
         lines.pop_back();
     if (lines.size() < kSecondLineOfDiagnosis)

@@ -20,7 +20,7 @@ Text ReadFaultNote(const FileSystem& files, const Text& ownFolder)
         if (files.FileExists(file))
             note = AnsiText::FromBytes(ReadWholeFile(files, file));
     });
-    return ReplaceAll(ReplaceAll(note, "\r\n", "\n"), "\n", "\r\n");
+    return WithWindowsLineEnds(note);
 }
 
 void RemoveFaultNote(FileSystem& files, const Text& ownFolder)

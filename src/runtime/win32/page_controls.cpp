@@ -73,12 +73,6 @@ void SetCell(HWND list, int row, int column, const Text& text)
                  reinterpret_cast<LPARAM>(&item));
 }
 
-// As a line break of a control has to be.
-Text WithWholeLineBreaks(const Text& text)
-{
-    return ReplaceAll(ReplaceAll(text, kLineBreak, "\n"), "\n", kLineBreak);
-}
-
 } // namespace
 
 PageControls::PageControls(HWND window, const PageLetters& letters, const SetupPage& page,
@@ -103,7 +97,7 @@ HWND PageControls::Add(const wchar_t* kind, const Text& text, DWORD style, const
                        int id, DWORD exStyle)
 {
     const HWND made = CreateWindowExW(
-        exStyle, kind, Wide(WithWholeLineBreaks(text)).c_str(), WS_CHILD | WS_VISIBLE | style,
+        exStyle, kind, Wide(WithWindowsLineEnds(text)).c_str(), WS_CHILD | WS_VISIBLE | style,
         place.left, place.top, place.Width(), place.Height(), window_,
         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
     SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(letters_.Font()), TRUE);
@@ -293,7 +287,7 @@ void PageControls::Refresh(const SetupPage& page)
         const PagePiece& piece = page.pieces[i];
         const Shown& shown = pieces_[i];
         if (piece.text != now.pieces[i].text)
-            SetWindowTextW(shown.control, Wide(WithWholeLineBreaks(piece.text)).c_str());
+            SetWindowTextW(shown.control, Wide(WithWindowsLineEnds(piece.text)).c_str());
         for (std::size_t row = 0; row < piece.items.size(); ++row)
             if (piece.kind == PieceKind::CheckList &&
                 piece.items[row].isTicked != now.pieces[i].items[row].isTicked)
