@@ -4,12 +4,12 @@
 #include "cli/open_project.h"
 #include "cli/png_file.h"
 #include "design/system_letters.h"
+#include "helpers/number_text.h"
 #include "pictures/picture_error.h"
 #include "pictures/screen_files.h"
 #include "platform/saved_file.h"
 
 #include <algorithm>
-#include <charconv>
 #include <nlohmann/json.hpp>
 #include <ostream>
 
@@ -27,11 +27,8 @@ struct Size {
 
 std::optional<int> SideIn(std::string_view text)
 {
-    int side = 0;
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), side);
-    const bool isSide =
-        fault == std::errc() && end == text.data() + text.size() && side >= 1 && side <= kMaxSide;
-    return isSide ? std::optional(side) : std::nullopt;
+    const auto side = WholeNumber<int>(text);
+    return side && *side >= 1 && *side <= kMaxSide ? side : std::nullopt;
 }
 
 /// "1024x768", the "x" in either case.

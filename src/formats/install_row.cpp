@@ -6,7 +6,6 @@
 #include "project/file_rows.h"
 
 #include <algorithm>
-#include <charconv>
 #include <variant>
 
 namespace quillon {
@@ -54,14 +53,6 @@ struct FieldText {
     }
 };
 
-template <class Number>
-bool ReadWholeNumber(std::string_view text, Number& number)
-{
-    const char* const end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, number);
-    return read.ec == std::errc() && read.ptr == end;
-}
-
 // False where the field does not take the text.
 struct FieldReader {
     InstallRow& row;
@@ -72,21 +63,23 @@ struct FieldReader {
         row.*field = text;
         return true;
     }
-    bool operator()(int InstallRow::*field) const { return ReadWholeNumber(text, row.*field); }
-    bool operator()(std::uint64_t InstallRow::*field) const
+    template <class Number>
+    bool operator()(Number InstallRow::*field) const
     {
-        return ReadWholeNumber(text, row.*field);
+        const auto number = WholeNumber<Number>(text);
+        row.*field = number.value_or(0);
+        return number.has_value();
     }
 };
 
 bool ReadKey(std::string_view& line, InstallRow& row)
 {
     const std::size_t equals = line.find('=');
-    if (equals == line.npos || !line.starts_with('F'))
+    if (equals == line.npos || !line.starts_with(kFileRowLetter))
         return false;
-    const bool isNumber = ReadWholeNumber(line.substr(1, equals - 1), row.number);
+    row.number = WholeNumber<int>(line.substr(1, equals - 1)).value_or(0);
     line.remove_prefix(equals + 1);
-    return isNumber && row.number > 0;
+    return row.number > 0;
 }
 
 bool ReadField(std::string_view& line, const FieldRule& rule, InstallRow& row)

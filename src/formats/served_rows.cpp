@@ -1,7 +1,9 @@
 #include "formats/served_rows.h"
 
+#include "helpers/number_text.h"
+#include "project/file_rows.h"
+
 #include <algorithm>
-#include <charconv>
 
 namespace quillon {
 
@@ -9,23 +11,12 @@ namespace {
 
 constexpr std::size_t kDigitsOfDate = 14;
 
-/// All of the text is a number; nothing where it is none.
-std::optional<int> WholeNumber(std::string_view text)
-{
-    int number = 0;
-    const char* const end = text.data() + text.size();
-    const bool isWhole = !text.empty() && text.front() != '-' &&
-                         std::from_chars(text.data(), end, number).ptr == end;
-    return isWhole ? std::optional(number) : std::nullopt;
-}
-
 std::optional<LocalTime> DateIn(std::string_view digits)
 {
-    if (digits.size() != kDigitsOfDate ||
-        digits.find_first_not_of("0123456789") != std::string_view::npos)
+    if (digits.size() != kDigitsOfDate || !IsDigits(digits))
         return std::nullopt;
     const auto part = [&](std::size_t begin, std::size_t count) {
-        return *WholeNumber(digits.substr(begin, count));
+        return *WholeNumber<int>(digits.substr(begin, count));
     };
     return LocalTime{part(0, 4), part(4, 2), part(6, 2), part(8, 2), part(10, 2), part(12, 2)};
 }
@@ -33,15 +24,16 @@ std::optional<LocalTime> DateIn(std::string_view digits)
 ServedRow RowOf(std::string_view word)
 {
     const std::size_t mark = word.find('@');
-    const auto number = word.starts_with('F')
-                            ? WholeNumber(word.substr(1, mark == word.npos ? mark : mark - 1))
-                            : std::nullopt;
-    if (!number)
+    const auto digits = word.starts_with(kFileRowLetter)
+                            ? word.substr(1, mark == word.npos ? mark : mark - 1)
+                            : std::string_view();
+    if (!IsDigits(digits))
         return {};
+    const int number = WholeNumber<int>(digits).value_or(0);
     if (mark == word.npos)
-        return {*number, {}};
+        return {number, {}};
     const auto modified = DateIn(word.substr(mark + 1));
-    return modified ? ServedRow{*number, modified} : ServedRow();
+    return modified ? ServedRow{number, modified} : ServedRow();
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "helpers/number_text.h"
 
-#include <charconv>
 #include <limits>
 
 namespace quillon {

@@ -4,6 +4,7 @@
 
 #include "helpers/text.h"
 
+#include <charconv>
 #include <cstdint>
 #include <optional>
 
@@ -25,6 +26,17 @@ Text ConvertLongToString(Long number);
 /// Optional minus sign, then digits; reading stops at the first other character, and a text that
 /// starts with no digit gives 0. Values beyond 64 bits stay at the type's end.
 std::int64_t LeadingNumber(std::string_view text);
+
+/// The text as a number of the type; nothing where it is anything but an optional minus sign and
+/// digits, or a number beyond the type's.
+template <class Number>
+std::optional<Number> WholeNumber(std::string_view text)
+{
+    Number number = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, number);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
+}
 
 /// True of one digit or more and nothing else.
 constexpr bool IsDigits(std::string_view text)

@@ -9,10 +9,12 @@
 
 namespace quillon {
 
+inline constexpr char kFileRowLetter = 'F';
+
 /// The key of a row in a project and in a package's list.
 inline Text FileRowKey(std::int64_t number)
 {
-    return "F" + NumberText(number);
+    return kFileRowLetter + NumberText(number);
 }
 
 /// The row as its line, without line end.

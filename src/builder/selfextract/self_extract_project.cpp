@@ -71,8 +71,7 @@ SelfExtractAttributes ReadSelfExtractProject(const FileSystem& files, const Text
         const std::string_view line = rest.substr(0, end);
         rest.remove_prefix(end == rest.npos ? rest.size() : end + 2);
         const std::size_t equals = line.find('=');
-        if (equals == line.npos || equals == 0 || equals > 6 ||
-            line.substr(0, equals).find_first_not_of("0123456789") != line.npos)
+        if (equals == line.npos || equals > 6 || !IsDigits(line.substr(0, equals)))
             throw RunError(ErrorNumber::kDeviceIo, path);
         attributes.emplace_back(std::stoul(std::string(line.substr(0, equals))),
                                 Unescaped(line.substr(equals + 1)));
