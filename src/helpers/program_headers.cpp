@@ -1,13 +1,14 @@
 #include "helpers/program_headers.h"
 
+#include "helpers/program_format.h"
+
 #include <algorithm>
 
 namespace quillon {
 
 namespace {
 
-constexpr std::uint16_t kMagic32 = 0x10B;
-constexpr std::uint16_t kMagic64 = 0x20B;
+using namespace program_format;
 
 // More than any program has; a damaged count ends here.
 constexpr std::size_t kMaxSections = 96;
@@ -50,20 +51,18 @@ std::string ProgramHeaders::BytesUpTo(std::uint64_t position, std::size_t count)
 
 bool ProgramHeaders::Read()
 {
-    constexpr std::size_t kDosHeaderSize = 64;
-    constexpr std::size_t kFileHeaderSize = 24; // with the mark before it
     const auto dosHeader = Bytes(0, kDosHeaderSize);
     if (!dosHeader || !dosHeader->starts_with("MZ"))
         return false;
-    const std::uint64_t start = LongAt(*dosHeader, 60);
+    const std::uint64_t start = LongAt(*dosHeader, kHeaderPosition);
     const auto fileHeader = Bytes(start, kFileHeaderSize);
     if (!fileHeader || fileHeader->compare(0, 4, "PE\0\0", 4) != 0)
         return false;
 
-    machine_ = ShortAt(*fileHeader, 4);
-    characteristics_ = ShortAt(*fileHeader, 22);
-    const std::size_t sectionCount = ShortAt(*fileHeader, 6);
-    const std::size_t optionalSize = ShortAt(*fileHeader, 20);
+    machine_ = ShortAt(*fileHeader, kMachine);
+    characteristics_ = ShortAt(*fileHeader, kCharacteristics);
+    const std::size_t sectionCount = ShortAt(*fileHeader, kSectionCount);
+    const std::size_t optionalSize = ShortAt(*fileHeader, kOptionalSize);
     const auto optional = Bytes(start + kFileHeaderSize, optionalSize);
     return optional && ReadOptionalHeader(*optional) &&
            ReadSections(start + kFileHeaderSize + optionalSize, sectionCount);
@@ -77,25 +76,25 @@ bool ProgramHeaders::ReadOptionalHeader(std::string_view header)
     if (magic != kMagic32 && magic != kMagic64)
         return false;
     is64Bit_ = magic == kMagic64;
-    const std::size_t firstTable = is64Bit_ ? 112 : 96;
+    const std::size_t firstTable = FirstTable(magic);
     if (header.size() < firstTable)
         return false;
     imageBase_ = is64Bit_ ? std::uint64_t(LongAt(header, 28)) << 32U | LongAt(header, 24)
                           : LongAt(header, 28);
     const std::size_t count = std::min<std::size_t>(LongAt(header, firstTable - 4), kMaxTables);
-    for (std::size_t i = 0; i < count && firstTable + (i + 1) * 8 <= header.size(); ++i)
-        tables_.push_back(
-            {LongAt(header, firstTable + i * 8), LongAt(header, firstTable + i * 8 + 4)});
+    for (std::size_t i = 0; i < count && firstTable + (i + 1) * kTableEntrySize <= header.size();
+         ++i)
+        tables_.push_back({LongAt(header, firstTable + i * kTableEntrySize),
+                           LongAt(header, firstTable + i * kTableEntrySize + 4)});
     return true;
 }
 
 bool ProgramHeaders::ReadSections(std::uint64_t position, std::size_t count)
 {
-    constexpr std::size_t kSectionSize = 40;
-    const auto table = Bytes(position, std::min(count, kMaxSections) * kSectionSize);
+    const auto table = Bytes(position, std::min(count, kMaxSections) * kSectionHeaderSize);
     if (!table)
         return false;
-    for (std::size_t i = 0; i < table->size(); i += kSectionSize)
+    for (std::size_t i = 0; i < table->size(); i += kSectionHeaderSize)
         sections_.push_back(
             {LongAt(*table, i + 12), LongAt(*table, i + 16), LongAt(*table, i + 20)});
     return true;

@@ -1,5 +1,7 @@
 #include "helpers/program_info.h"
 
+#include "helpers/program_format.h"
+
 #include <algorithm>
 #include <array>
 
@@ -7,9 +9,8 @@ namespace quillon {
 
 namespace {
 
-constexpr std::uint16_t kMachineX86 = 0x14C;
-constexpr std::uint16_t kMachineX64 = 0x8664;
-constexpr std::uint16_t kMachineArm64 = 0xAA64;
+using namespace program_format;
+
 constexpr std::uint16_t kIsLibrary = 0x2000;
 
 // More than any program has; a damaged table ends here.

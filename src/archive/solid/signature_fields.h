@@ -22,9 +22,9 @@ struct SignatureFields {
 };
 
 /// As many bytes from the front of a program as `FindSignatureFields` wants to see.
-inline constexpr std::size_t kProgramHeadSize = 4096;
+inline constexpr std::size_t kProgramHeadersSize = 4096;
 
 /// Nothing where the file is no Windows program.
-std::optional<SignatureFields> FindSignatureFields(std::span<const std::byte> head);
+std::optional<SignatureFields> FindSignatureFields(std::span<const std::byte> headers);
 
 } // namespace quillon

@@ -28,9 +28,9 @@ std::size_t ReadUpTo(InputFile& file, std::uint64_t position, std::span<std::byt
 
 std::optional<SignatureFields> FieldsOf(InputFile& file)
 {
-    zip::Bytes head(kProgramHeadSize);
-    head.resize(ReadUpTo(file, 0, head));
-    return FindSignatureFields(head);
+    zip::Bytes headers(kProgramHeadersSize);
+    headers.resize(ReadUpTo(file, 0, headers));
+    return FindSignatureFields(headers);
 }
 
 // A payload ends where the file does, or where the certificates of a signed program begin.

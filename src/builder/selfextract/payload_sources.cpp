@@ -52,9 +52,10 @@ std::uint64_t DataPosition(InputFile& archive, const ZipEntry& entry)
 
 bool IsX86ProgramAt(InputFile& file, std::uint64_t position, std::uint64_t size)
 {
-    zip::Bytes head(static_cast<std::size_t>(std::min<std::uint64_t>(size, kProgramHeadSize)));
-    zip::ReadExactly(file, position, head);
-    return IsX86Program(head);
+    zip::Bytes headers(
+        static_cast<std::size_t>(std::min<std::uint64_t>(size, kProgramHeadersSize)));
+    zip::ReadExactly(file, position, headers);
+    return IsX86Program(headers);
 }
 
 void AddRun(std::vector<SolidRun>& runs, std::uint64_t size, SolidFilter filter)

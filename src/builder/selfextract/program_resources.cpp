@@ -1,6 +1,7 @@
 #include "builder/selfextract/program_resources.h"
 
 #include "builder/selfextract/little_endian.h"
+#include "helpers/program_format.h"
 #include "helpers/program_headers.h"
 
 #include <algorithm>
@@ -10,19 +11,14 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t kSectionHeaderSize = 40;
+using namespace program_format;
+
 constexpr std::size_t kResourceTable = 2;
 constexpr std::uint32_t kIsFolder = 0x80000000;
 
 std::uint32_t Aligned(std::uint32_t position, std::uint32_t alignment)
 {
     return (position + alignment - 1) / alignment * alignment;
-}
-
-void Set(std::string& bytes, std::size_t position, std::uint32_t number, std::size_t size)
-{
-    for (std::size_t i = 0; i < size; ++i)
-        bytes[position + i] = static_cast<char>(number >> (8 * i) & 0xFFU);
 }
 
 /// The tree of a section: types, below them numbers, below them the one language, then the data.
@@ -141,26 +137,23 @@ struct ProgramLayout {
     std::uint16_t sectionCount = 0;
 
     std::size_t NewSection() const { return sections + sectionCount * kSectionHeaderSize; }
-    std::size_t TableEntry() const { return tables + kResourceTable * 8; }
+    std::size_t TableEntry() const { return tables + kResourceTable * kTableEntrySize; }
 };
 
 std::optional<ProgramLayout> LayoutOf(std::string_view program)
 {
-    constexpr std::size_t kDosHeaderSize = 64;
-    constexpr std::size_t kFileHeaderSize = 24;
-    constexpr std::size_t kOptionalSize = 240; // of a 64-bit program; a 32-bit one has 16 less
+    constexpr std::size_t kLeastOptionalSize = 240; // of a 64-bit program; a 32-bit one has 16 less
     if (program.size() < kDosHeaderSize || !program.starts_with("MZ"))
         return std::nullopt;
-    ProgramLayout layout{.header = LongAt(program, 60)};
+    ProgramLayout layout{.header = LongAt(program, kHeaderPosition)};
     if (layout.header > program.size() ||
-        program.size() - layout.header < kFileHeaderSize + kOptionalSize ||
+        program.size() - layout.header < kFileHeaderSize + kLeastOptionalSize ||
         program.compare(layout.header, 4, "PE\0\0", 4) != 0)
         return std::nullopt;
     layout.optional = layout.header + kFileHeaderSize;
-    layout.sectionCount = ShortAt(program, layout.header + 6);
-    layout.sections = layout.optional + ShortAt(program, layout.header + 20);
-    const bool is64Bit = ShortAt(program, layout.optional) == 0x20B;
-    layout.tables = layout.optional + (is64Bit ? 112 : 96);
+    layout.sectionCount = ShortAt(program, layout.header + kSectionCount);
+    layout.sections = layout.optional + ShortAt(program, layout.header + kOptionalSize);
+    layout.tables = layout.optional + FirstTable(ShortAt(program, layout.optional));
     const bool hasTable = LongAt(program, layout.tables - 4) > kResourceTable;
     if (!hasTable || layout.sectionCount == 0 ||
         layout.NewSection() + kSectionHeaderSize > program.size())
@@ -213,17 +206,17 @@ std::optional<std::string> WithResources(std::string program,
     const std::size_t at = layout->NewSection();
     program.replace(at, kSectionHeaderSize, kSectionHeaderSize, '\0');
     program.replace(at, 5, ".rsrc");
-    Set(program, at + 8, size, 4);
-    Set(program, at + 12, address, 4);
-    Set(program, at + 16, static_cast<std::uint32_t>(section.size()), 4);
-    Set(program, at + 20, position, 4);
+    SetNumber(program, at + 8, size, 4);
+    SetNumber(program, at + 12, address, 4);
+    SetNumber(program, at + 16, static_cast<std::uint32_t>(section.size()), 4);
+    SetNumber(program, at + 20, position, 4);
     constexpr std::uint32_t kReadableData = 0x40000040;
-    Set(program, at + 36, kReadableData, 4);
-    Set(program, layout->header + 6, layout->sectionCount + 1U, 2);
-    Set(program, layout->optional + 56, Aligned(address + size, alignment), 4);
-    Set(program, layout->optional + 64, 0, 4); // The checksum does not hold any more.
-    Set(program, layout->TableEntry(), address, 4);
-    Set(program, layout->TableEntry() + 4, size, 4);
+    SetNumber(program, at + 36, kReadableData, 4);
+    SetNumber(program, layout->header + kSectionCount, layout->sectionCount + 1U, 2);
+    SetNumber(program, layout->optional + 56, Aligned(address + size, alignment), 4);
+    SetNumber(program, layout->optional + kChecksum, 0, 4); // The checksum does not hold any more.
+    SetNumber(program, layout->TableEntry(), address, 4);
+    SetNumber(program, layout->TableEntry() + 4, size, 4);
     program.resize(position, '\0');
     return program + section;
 }

@@ -58,8 +58,8 @@ ProgramSignature Damaged(const char* fault)
 
 ProgramSignature ReadProgramSignature(InputFile& program, const Text& trustedRoots)
 {
-    const std::string head = BytesAt(program, 0, kProgramHeadSize);
-    const auto fields = FindSignatureFields(std::as_bytes(std::span(head)));
+    const std::string headers = BytesAt(program, 0, kProgramHeadersSize);
+    const auto fields = FindSignatureFields(std::as_bytes(std::span(headers)));
     ProgramSignature found;
     if (!fields)
         return found;

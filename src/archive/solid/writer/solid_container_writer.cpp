@@ -122,13 +122,13 @@ private:
 
     SolidFilter FilterOf(InputFile& input, const Text& path, std::uint64_t size)
     {
-        const auto head = std::span(buffer_).first(
-            static_cast<std::size_t>(std::min<std::uint64_t>(size, kProgramHeadSize)));
+        const auto headers = std::span(buffer_).first(
+            static_cast<std::size_t>(std::min<std::uint64_t>(size, kProgramHeadersSize)));
         ReadingSource(path, [&] {
-            ReadSource(input, path, head);
+            ReadSource(input, path, headers);
             input.Seek(0);
         });
-        return IsX86Program(head) ? SolidFilter::X86 : SolidFilter::None;
+        return IsX86Program(headers) ? SolidFilter::X86 : SolidFilter::None;
     }
 
     static bool HasMore(InputFile& input, const Text& path)

@@ -2,24 +2,19 @@
 
 #include "archive/solid/signature_fields.h"
 #include "archive/zip_records.h"
+#include "helpers/program_format.h"
 
 namespace quillon {
 
-namespace {
+using namespace program_format;
 
-constexpr std::uint16_t kMachine386 = 0x14C;
-constexpr std::uint16_t kMachineAmd64 = 0x8664;
-constexpr std::size_t kPlaceOfHeader = 60;
-
-} // namespace
-
-bool IsX86Program(std::span<const std::byte> head)
+bool IsX86Program(std::span<const std::byte> headers)
 {
-    if (!FindSignatureFields(head))
+    if (!FindSignatureFields(headers))
         return false;
-    const auto header = zip::ReadNumber<std::uint32_t>(head.subspan(kPlaceOfHeader));
-    const auto machine = zip::ReadNumber<std::uint16_t>(head.subspan(header + 4));
-    return machine == kMachine386 || machine == kMachineAmd64;
+    const auto header = zip::ReadNumber<std::uint32_t>(headers.subspan(kHeaderPosition));
+    const auto machine = zip::ReadNumber<std::uint16_t>(headers.subspan(header + kMachine));
+    return machine == kMachineX86 || machine == kMachineX64;
 }
 
 } // namespace quillon

@@ -6,8 +6,8 @@
 
 namespace quillon {
 
-/// True of a Windows program for x86 or x64. `head` is as much of the front of the file as
-/// `kProgramHeadSize`, or all of a smaller one.
-bool IsX86Program(std::span<const std::byte> head);
+/// True of a Windows program for x86 or x64. `headers` is as much of the front of the file as
+/// `kProgramHeadersSize`, or all of a smaller one.
+bool IsX86Program(std::span<const std::byte> headers);
 
 } // namespace quillon
