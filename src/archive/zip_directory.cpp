@@ -24,12 +24,6 @@ struct Place {
     std::uint64_t endRecord = 0; // the record that must follow the directory at once
 };
 
-void Require(bool condition, const char* what)
-{
-    if (!condition)
-        RefuseArchive(what);
-}
-
 Text AsText(std::span<const std::byte> bytes)
 {
     return Text(reinterpret_cast<const char*>(bytes.data()), bytes.size());

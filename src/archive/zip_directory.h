@@ -42,4 +42,10 @@ void ReadExtras(std::span<const std::byte> bytes, Extras& extras);
 
 [[noreturn]] void RefuseArchive(const char* what);
 
+inline void Require(bool holds, const char* what)
+{
+    if (!holds)
+        RefuseArchive(what);
+}
+
 } // namespace quillon::zip

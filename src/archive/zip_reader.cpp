@@ -17,12 +17,6 @@ namespace {
 
 constexpr std::size_t kPieceSize = 64 * 1024;
 
-void Require(bool condition, const char* what)
-{
-    if (!condition)
-        RefuseArchive(what);
-}
-
 /// What comes out of an entry, on its way to the caller: never more than the entry's size.
 class CheckedOutput {
 public:

@@ -1,7 +1,7 @@
 #include "archive/solid/container_index.h"
 
+#include "archive/solid/fields_reader.h"
 #include "archive/zip_directory.h"
-#include "helpers/utf8.h"
 
 #include <algorithm>
 #include <limits>
@@ -59,15 +59,9 @@ void Append(zip::Bytes& bytes, std::span<const std::byte> more)
     bytes.insert(bytes.end(), more.begin(), more.end());
 }
 
-void Require(bool holds, const char* what)
-{
-    if (!holds)
-        zip::RefuseArchive(what);
-}
-
-class IndexReader {
+class IndexReader : private FieldsReader<zip::RefuseArchive> {
 public:
-    explicit IndexReader(std::span<const std::byte> bytes) : rest_(bytes) {}
+    using FieldsReader::FieldsReader;
 
     ContainerIndex Read()
     {
@@ -79,7 +73,7 @@ public:
             TakeFrame();
         for (std::uint32_t i = 0; i < counts.files; ++i)
             TakeEntry();
-        Require(rest_.empty(), "förteckningen är längre än den anger");
+        RequireEnd();
         const std::uint64_t needed =
             index_.totalSize / index_.frameSize + (index_.totalSize % index_.frameSize > 0 ? 1 : 0);
         Require(needed == index_.frames.size(), "filernas storlekar stämmer inte");
@@ -87,31 +81,6 @@ public:
     }
 
 private:
-    template <class Record>
-    Record Take()
-    {
-        Record record;
-        Require(zip::ReadFields(rest_, record), "förteckningen är kortare än den anger");
-        rest_ = rest_.subspan(zip::FieldsSize(record));
-        return record;
-    }
-
-    std::span<const std::byte> TakeBytes(std::size_t count)
-    {
-        Require(count <= rest_.size(), "förteckningen är kortare än den anger");
-        const auto bytes = rest_.first(count);
-        rest_ = rest_.subspan(count);
-        return bytes;
-    }
-
-    Text TakeText(std::uint32_t length)
-    {
-        const auto bytes = TakeBytes(length);
-        Text text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-        Require(IsUtf8(text), "en text i förteckningen är inte UTF-8");
-        return text;
-    }
-
     void TakeFrame()
     {
         ContainerFrame frame{.packedSize = Take<FrameFields>().packedSize, .digest = {}};
@@ -140,7 +109,6 @@ private:
         index_.entries.push_back(std::move(entry));
     }
 
-    std::span<const std::byte> rest_;
     ContainerIndex index_;
 };
 

@@ -1,7 +1,7 @@
 #include "archive/solid/solid_table.h"
 
+#include "archive/solid/fields_reader.h"
 #include "archive/solid/solid_error.h"
-#include "helpers/utf8.h"
 #include "helpers/windows_name.h"
 
 #include <cstdlib>
@@ -90,15 +90,9 @@ void AppendFile(zip::Bytes& bytes, const SolidFile& file)
         zip::AppendFields(bytes, RunFields{run.size, static_cast<std::uint8_t>(run.filter)});
 }
 
-void Require(bool holds, const char* what)
-{
-    if (!holds)
-        RefuseSolid(what);
-}
-
-class TableReader {
+class TableReader : private FieldsReader<RefuseSolid> {
 public:
-    explicit TableReader(std::span<const std::byte> bytes) : rest_(bytes) {}
+    using FieldsReader::FieldsReader;
 
     SolidTable Read()
     {
@@ -108,30 +102,12 @@ public:
             table.properties.push_back(TakeProperty());
         for (std::uint32_t i = 0; i < counts.files; ++i)
             table.files.push_back(TakeFile());
-        Require(rest_.empty(), "förteckningen är längre än den anger");
+        RequireEnd();
         CheckThatNamesDiffer();
         return table;
     }
 
 private:
-    template <class Record>
-    Record Take()
-    {
-        Record record;
-        Require(zip::ReadFields(rest_, record), "förteckningen är kortare än den anger");
-        rest_ = rest_.subspan(zip::FieldsSize(record));
-        return record;
-    }
-
-    Text TakeText(std::uint32_t length)
-    {
-        Require(length <= rest_.size(), "förteckningen är kortare än den anger");
-        Text text(reinterpret_cast<const char*>(rest_.data()), length);
-        rest_ = rest_.subspan(length);
-        Require(IsUtf8(text), "en text i förteckningen är inte UTF-8");
-        return text;
-    }
-
     SolidProperty TakeProperty()
     {
         const auto fields = Take<PropertyFields>();
@@ -214,7 +190,6 @@ private:
                     "två filer har samma namn");
     }
 
-    std::span<const std::byte> rest_;
     std::uint64_t total_ = 0;
     std::vector<std::unique_ptr<Text>> texts_; // in lower case
     std::vector<Name> names_;

@@ -4,6 +4,7 @@
 #include "helpers/windows_path.h"
 #include "platform/win32/wide_text.h"
 #include "runtime/starter_text.h"
+#include "runtime/win32/ansi_character.h"
 #include "runtime/win32/program_path.h"
 
 #include <windows.h>
@@ -13,15 +14,6 @@ namespace quillon {
 namespace {
 
 constexpr int kMaxTextLength = 2000;
-
-char16_t AnsiCharacterOf(unsigned char byte)
-{
-    constexpr UINT kWesternCodePage = 1252;
-    const char one = static_cast<char>(byte);
-    wchar_t wide = L'?';
-    MultiByteToWideChar(kWesternCodePage, 0, &one, 1, &wide, 1);
-    return wide;
-}
 
 bool WritesToOutput(const Text& text)
 {

@@ -5,6 +5,7 @@
 #include "project/reference_language.h"
 #include "runtime/starter_text.h"
 #include "runtime/switch_words.h"
+#include "runtime/win32/ansi_character.h"
 #include "runtime/win32/display.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/starter.h"
@@ -14,15 +15,6 @@
 using namespace quillon;
 
 namespace {
-
-char16_t AnsiCharacterOf(unsigned char byte)
-{
-    constexpr UINT kWesternCodePage = 1252;
-    const char one = static_cast<char>(byte);
-    wchar_t wide = L'?';
-    MultiByteToWideChar(kWesternCodePage, 0, &one, 1, &wide, 1);
-    return wide;
-}
 
 // A text of the language file that the package names. Windows' own functions for such files would
 // take UTF-8 for the code page of the machine.
