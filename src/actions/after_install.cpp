@@ -1,5 +1,6 @@
 #include "actions/after_install.h"
 
+#include "formats/copy_letters.h"
 #include "helpers/windows_path.h"
 #include "project/install_keys.h"
 
@@ -7,12 +8,10 @@ namespace quillon {
 
 namespace {
 
-constexpr char kRegister = 'R';
-
 bool IsGathered(const FileListRow& row, RowsToRegister which)
 {
     if (which == RowsToRegister::Marked)
-        return row[CopyOptions].find(kRegister) != Text::npos;
+        return HasOption(row[CopyOptions], CopyLetter::kRegister);
     return EqualIgnoreCase(row[Extension], "dll");
 }
 

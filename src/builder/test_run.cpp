@@ -5,6 +5,7 @@
 #include "builder/language_copy.h"
 #include "builder/setup_info_file.h"
 #include "formats/package_files.h"
+#include "formats/test_switches.h"
 #include "helpers/windows_path.h"
 #include "platform/missing_program.h"
 
@@ -16,7 +17,7 @@ constexpr const char* kTestTitle = "Kan ej testa";
 constexpr const char* kPreviewTitle = "Kan ej förhandsgranska";
 constexpr const char* kRuntime = "Qns32x.exe";
 // The setup takes its files from folders: this medium has neither disks nor one file for all.
-constexpr Integer kTestMedium = 2;
+constexpr Medium kTestMedium = Medium::CompressedCd;
 
 bool Fail(TestRun& run, const char* title, int error, const Text& what, const Text& advice = {})
 {
@@ -107,14 +108,14 @@ void BringRuntime(TestRun& run, const Text& runtime)
         run.host.files.CopyContent(ofTool, runtime);
 }
 
-bool StartRuntime(TestRun& run, const char* title, const Text& argument)
+bool StartRuntime(TestRun& run, const char* title, std::string_view switchName)
 {
     Text advice;
     const auto start = [&] {
         const Text runtime = JoinPath(TestFolder(run.options), kRuntime);
         BringRuntime(run, runtime);
         try {
-            run.host.machine.StartProgram(runtime, argument);
+            run.host.machine.StartProgram(runtime, "/" + Text(switchName));
         } catch (const MissingProgram& missing) {
             advice = missing.Name() + " saknas på den här datorn. Programmet behövs för att visa "
                                       "installationen; installera det och försök igen.";
@@ -138,7 +139,7 @@ bool WriteTestFiles(TestRun& run, const Text& folder)
     if (ValidateProjectForAction(run.project, run.ask, "simulera") == Check::Stopped)
         return false;
     Project project = run.project;
-    project.Media.TargetMedia = kTestMedium;
+    project.Media.TargetMedia = static_cast<Integer>(kTestMedium);
     return MakeFolder(run, kTestTitle, folder) && WriteFileList(run, project, folder) &&
            WriteSetupInfo(run, project, folder, SetupInfoMode::TestRun) &&
            CopyLanguageFile(run, folder) && CopyAgreement(run, folder);
@@ -146,7 +147,8 @@ bool WriteTestFiles(TestRun& run, const Text& folder)
 
 bool StartSimulation(TestRun& run)
 {
-    return WriteTestFiles(run, TestFolder(run.options)) && StartRuntime(run, kTestTitle, "/TEST");
+    return WriteTestFiles(run, TestFolder(run.options)) &&
+           StartRuntime(run, kTestTitle, kTestSwitch);
 }
 
 bool StartDesignPreview(TestRun& run)
@@ -155,7 +157,7 @@ bool StartDesignPreview(TestRun& run)
     Project project = run.project;
     return MakeFolder(run, kPreviewTitle, folder) &&
            WriteSetupInfo(run, project, folder, SetupInfoMode::Preview) &&
-           StartRuntime(run, kPreviewTitle, "/PREVIEW");
+           StartRuntime(run, kPreviewTitle, kPreviewSwitch);
 }
 
 } // namespace quillon

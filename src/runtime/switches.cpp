@@ -1,6 +1,7 @@
 #include "runtime/switches.h"
 
 #include "formats/setup_names.h"
+#include "formats/test_switches.h"
 #include "helpers/drive_path.h"
 #include "helpers/number_text.h"
 #include "helpers/windows_name.h"
@@ -18,8 +19,8 @@ namespace {
 constexpr std::string_view kPassword = "PASSWORD";
 constexpr const char* kEllipsis = "\u2026";
 
-constexpr std::pair<std::string_view, TestMode> kTestModes[] = {{"TEST", TestMode::Test},
-                                                                {"PREVIEW", TestMode::Preview}};
+constexpr std::pair<std::string_view, TestMode> kTestModes[] = {
+    {kTestSwitch, TestMode::Test}, {kPreviewSwitch, TestMode::Preview}};
 
 // Nobody can be shown both.
 bool SetTestMode(Switches& switches, std::string_view name)
@@ -91,7 +92,7 @@ constexpr PlainSwitch kPlainSwitches[] = {
 
 struct ValueSwitch {
     std::string_view name;
-    bool (*set)(Switches& switches, const Text& value); // false: the value is no good
+    bool (*set)(Switches& switches, const Text& value); // false: the value is invalid
 };
 
 bool SetDestination(Switches& switches, const Text& value)
@@ -178,8 +179,8 @@ bool SetPlain(Switches& switches, std::string_view name)
     return SetTestMode(switches, name);
 }
 
-// Sets the field that the switch names; false where there is no such switch or its value is no
-// good. `name` has no mark.
+// Sets the field that the switch names; false where there is no such switch or its value is
+// invalid. `name` has no mark.
 bool ApplySwitch(Switches& switches, std::string_view name, const std::optional<Text>& value)
 {
     for (const char* word : kSilentWords)

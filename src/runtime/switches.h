@@ -63,7 +63,7 @@ inline bool MayAsk(const Switches& switches)
 Switches ReadSwitches(std::string_view commandLine);
 
 /// Sets the field of a switch with a value; false where there is none of that name, or its value is
-/// no good.
+/// invalid.
 bool SetSwitch(Switches& switches, std::string_view name, const Text& value);
 
 /// The code that the program ends with in the place of this one.
@@ -74,8 +74,8 @@ struct UninstallerCommand {
     Switches switches;
 };
 
-/// The uninstaller's line begins with the product's log, if at all. It has no test mode, no plan
-/// and nothing to unpack.
+/// The uninstaller's line begins with the product's journal, if at all. It has no test mode, no
+/// plan and nothing to unpack.
 UninstallerCommand ReadUninstallerCommand(std::string_view commandLine);
 
 } // namespace quillon

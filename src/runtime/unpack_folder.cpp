@@ -1,22 +1,14 @@
 #include "runtime/unpack_folder.h"
 
-#include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "runtime/run_folder.h"
 
 namespace quillon {
 
 namespace {
 
-constexpr const char* kLockName = "LOCK";
 constexpr unsigned kMaxTries = 1000;
-
-// "QN123456.TMP"
-bool IsRunFolderName(std::string_view name)
-{
-    const std::size_t end = name.find_first_not_of("0123456789", 2);
-    return name.starts_with("QN") && end > 2 && end != Text::npos && name.substr(end) == ".TMP";
-}
 
 } // namespace
 
@@ -51,11 +43,11 @@ bool UnpackFolder::TakeBase(const Text& base)
 
 bool UnpackFolder::TakeFolder()
 {
-    path_ = JoinPath(base_, "QN" + NumberText(static_cast<Long>(guard_.Number())) + ".TMP");
+    path_ = JoinPath(base_, RunFolderName(static_cast<Long>(guard_.Number())));
     if (!guard_.MakeClosed(path_))
         return false;
     // Another run that clears up may have come first.
-    RunErrorNumber([&] { lock_ = files_.Lock(JoinPath(path_, kLockName), LockWait::None); });
+    RunErrorNumber([&] { lock_ = files_.Lock(JoinPath(path_, kRunFolderLock), LockWait::None); });
     return lock_ != nullptr;
 }
 
@@ -69,7 +61,7 @@ void UnpackFolder::RemoveLeftOvers()
             !guard_.HaveSameOwner(folder, path_))
             continue;
         RunErrorNumber([&] {
-            auto lock = files_.Lock(JoinPath(folder, kLockName), LockWait::None);
+            auto lock = files_.Lock(JoinPath(folder, kRunFolderLock), LockWait::None);
             if (!lock)
                 return;
             RemoveAll(folder);

@@ -8,6 +8,7 @@
 #include "runtime/data_access.h"
 #include "runtime/first_program.h"
 #include "runtime/rollback.h"
+#include "runtime/run_folder.h"
 #include "runtime/script/script_run.h"
 
 #include <algorithm>
@@ -16,7 +17,6 @@ namespace quillon {
 
 namespace {
 
-constexpr const char* kLockName = "LOCK";
 constexpr const char* kFilesOfASetup[] = {RuntimePrograms::kSetup.name,
                                           RuntimePrograms::kSetup.inPackage,
                                           RuntimePrograms::kUninstaller.name,
@@ -28,15 +28,6 @@ constexpr const char* kFilesOfASetup[] = {RuntimePrograms::kSetup.name,
                                           kFileContainerName,
                                           kFirstProgram,
                                           kDataAccessProgram};
-
-// "QN123456.TMP"
-bool IsWorkFolderName(std::string_view name)
-{
-    constexpr std::string_view kDigits = "0123456789";
-    const Text upper = UpperCase(name);
-    const std::size_t end = upper.find_first_not_of(kDigits, 2);
-    return upper.starts_with("QN") && end > 2 && end != Text::npos && upper.substr(end) == ".TMP";
-}
 
 void RemoveWorkFolder(FileSystem& files, const Text& folder)
 {
@@ -60,7 +51,7 @@ void RemoveWorkFolder(FileSystem& files, const Text& folder)
 
 Text WorkFolderLock(const Text& folder)
 {
-    return JoinPath(folder, kLockName);
+    return JoinPath(folder, kRunFolderLock);
 }
 
 void RemoveAbandonedWorkFolders(FileSystem& files, const Text& tempFolder,
@@ -70,7 +61,7 @@ void RemoveAbandonedWorkFolders(FileSystem& files, const Text& tempFolder,
         return;
     for (const FolderEntry& entry : files.List(tempFolder)) {
         const Text folder = JoinPath(tempFolder, entry.name);
-        if (!entry.status.isFolder || !IsWorkFolderName(entry.name) || isLink(folder))
+        if (!entry.status.isFolder || !IsRunFolderName(UpperCase(entry.name)) || isLink(folder))
             continue;
         // Another user's folder, or one with more in it, stays.
         RunErrorNumber([&] { RemoveWorkFolder(files, folder); });

@@ -1,12 +1,12 @@
 #include "runtime/win32/private_folder.h"
 
-#include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/win32/locked_folder.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
 #include "runtime/rollback.h"
+#include "runtime/run_folder.h"
 #include "runtime/work_folders.h"
 
 #include <windows.h>
@@ -23,7 +23,7 @@ Text MakePrivateFolder(Host& host)
     Text path;
     // Only a folder that did not exist before is private, so its making has to say so itself.
     do {
-        path = JoinPath(parent, "QN" + NumberText(host.machine.Random(1000000)) + ".TMP");
+        path = JoinPath(parent, RunFolderName(host.machine.Random(1000000)));
         if (MakeLockedFolder(WidePath(path).c_str()))
             return path;
     } while (GetLastError() == ERROR_ALREADY_EXISTS);
