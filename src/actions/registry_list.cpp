@@ -11,7 +11,6 @@ namespace quillon {
 namespace {
 
 constexpr std::string_view kSoftware = "\\SOFTWARE\\";
-constexpr std::string_view kValueMark = " :: ";
 constexpr std::size_t kMaxNumberLength = 18; // digits that surely fit in 64 bits
 
 constexpr const char* kNoSubKey = "Ingen subnyckel har definierats!";
@@ -62,8 +61,8 @@ Text SubKeyOnLeave(const Text& subKey)
 Text NameOnChoiceOfType(const Text& name, RegistryValueType type)
 {
     if (type == RegistryValueType::Standard)
-        return kStandardName;
-    return name == kStandardName ? Text() : name;
+        return kDefaultValueName;
+    return name == kDefaultValueName ? Text() : name;
 }
 
 bool HasSubKey(const Text& subKey, Ask& ask)
@@ -133,7 +132,7 @@ Text MakeRegistryLine(const RegistryEntry& entry)
 Text MakeRegistryRemovalLine(RegistryRemoval when, const Text& root, const Text& subKey,
                              const Text& valueName)
 {
-    const Text mark = when == RegistryRemoval::AtInstallation ? "DELETE=" : "UNINSTALL=";
+    const Text mark(when == RegistryRemoval::AtInstallation ? kDeleteMark : kUninstallMark);
     return mark + KeyOf(root, subKey) + (valueName.empty() ? "" : Text(kValueMark) + valueName);
 }
 

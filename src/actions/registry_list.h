@@ -2,20 +2,28 @@
 // The list itself is free text; only what a dialog adds is looked at.
 #pragma once
 
+#include "formats/registry_marks.h"
 #include "helpers/number_text.h"
 #include "platform/ask.h"
 
+#include <array>
 #include <string_view>
 
 namespace quillon {
 
 /// By the places in `ComboType`.
 enum class RegistryValueType : Integer { String, Dword, Binary, Standard };
-inline constexpr const char* kRegistryValueTypes[] = {"Sträng", "Värde (DWORD)", "Binär data",
-                                                      "(Standard)"};
-
-/// The name that stands for the default value of a key.
-inline constexpr const char* kStandardName = "(Standard)";
+inline constexpr std::array kRegistryValueTypes = [] {
+    std::array<const char*, 4> captions{};
+    const auto set = [&](RegistryValueType type, const char* caption) {
+        captions[static_cast<std::size_t>(type)] = caption;
+    };
+    set(RegistryValueType::String, "Sträng");
+    set(RegistryValueType::Dword, "Värde (DWORD)");
+    set(RegistryValueType::Binary, "Binär data");
+    set(RegistryValueType::Standard, kDefaultValueName);
+    return captions;
+}();
 
 /// A key or value to be added, as its dialog holds it.
 struct RegistryEntry {

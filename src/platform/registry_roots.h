@@ -7,15 +7,34 @@
 
 namespace quillon {
 
-inline constexpr std::array<const char*, 6> kRegistryRoots = {
-    "HKEY_CLASSES_ROOT", "HKEY_CURRENT_USER",   "HKEY_LOCAL_MACHINE",
-    "HKEY_USERS",        "HKEY_CURRENT_CONFIG", "HKEY_DYN_DATA",
+struct RegistryRootName {
+    RegistryRoot root;
+    const char* name;
+    const char* shortName;
 };
+
+// clang-format off
+inline constexpr std::array<RegistryRootName, 6> kRegistryRootNames = {{
+    {RegistryRoot::ClassesRoot,   "HKEY_CLASSES_ROOT",   "HKCR"},
+    {RegistryRoot::CurrentUser,   "HKEY_CURRENT_USER",   "HKCU"},
+    {RegistryRoot::LocalMachine,  "HKEY_LOCAL_MACHINE",  "HKLM"},
+    {RegistryRoot::Users,         "HKEY_USERS",          "HKU"},
+    {RegistryRoot::CurrentConfig, "HKEY_CURRENT_CONFIG", "HKCC"},
+    {RegistryRoot::DynData,       "HKEY_DYN_DATA",       "HKDD"},
+}};
+// clang-format on
+
+inline constexpr std::array kRegistryRoots = [] {
+    std::array<const char*, kRegistryRootNames.size()> names{};
+    for (std::size_t i = 0; i < names.size(); ++i)
+        names[i] = kRegistryRootNames[i].name;
+    return names;
+}();
 
 /// The root at a place of that list, which counts from 0.
 constexpr RegistryRoot RegistryRootAt(std::size_t index)
 {
-    return static_cast<RegistryRoot>(index + 1);
+    return kRegistryRootNames[index].root;
 }
 
 } // namespace quillon

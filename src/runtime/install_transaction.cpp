@@ -176,7 +176,7 @@ void InstallTransaction::WriteValue(const RegistryKey& key, const Text& name,
     journal_.Note(record::FormerValue{key, name, former});
     journal_.Note(record::WrittenValue{key, name, data});
     target_.WriteValue(key, name, data);
-    log_.Line(Message::LogWritesRegistry, KeyText(key) + " :: " + name);
+    log_.Line(Message::LogWritesRegistry, ValueText(key, name));
 }
 
 bool InstallTransaction::TakeValueAway(const RegistryKey& key, const Text& name)
@@ -193,7 +193,7 @@ bool InstallTransaction::TakeValueAway(const RegistryKey& key, const Text& name)
 void InstallTransaction::RemoveValue(const RegistryKey& key, const Text& name)
 {
     if (TakeValueAway(key, name))
-        log_.Line(Message::LogRemovesRegistry, KeyText(key) + " :: " + name);
+        log_.Line(Message::LogRemovesRegistry, ValueText(key, name));
 }
 
 void InstallTransaction::RemoveKeyWithAllBelow(const RegistryKey& key)

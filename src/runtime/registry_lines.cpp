@@ -1,5 +1,6 @@
 #include "runtime/registry_lines.h"
 
+#include "formats/registry_marks.h"
 #include "helpers/number_text.h"
 #include "runtime/protected_keys.h"
 
@@ -10,10 +11,6 @@ namespace quillon {
 
 namespace {
 
-constexpr std::string_view kValueMark = " :: ";
-constexpr std::string_view kDeleteMark = "DELETE=";
-constexpr std::string_view kUninstallMark = "UNINSTALL=";
-constexpr std::string_view kDefaultValueName = "(Standard)";
 constexpr std::int64_t kLowestNumber = -2147483648LL;
 constexpr std::int64_t kMaxDword = 4294967295LL;
 

@@ -93,7 +93,7 @@ void RemovalList::AddSettingOf(const JournalRecord& record)
 {
     const auto addValue = [&](const RegistryKey& key, const Text& name) {
         if (target_.ReadValue(key, name) && !EqualIgnoreCase(key.subKey, entry_.subKey))
-            removal.settings.push_back(KeyText(key) + " :: " + name);
+            removal.settings.push_back(ValueText(key, name));
     };
     if (const auto* const value = std::get_if<record::Value>(&record); value && !value->former)
         addValue(value->key, value->name);

@@ -1,5 +1,6 @@
 #include "runtime/setup_variables.h"
 
+#include "formats/registry_marks.h"
 #include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "runtime/switches.h"
@@ -9,8 +10,6 @@ namespace quillon {
 namespace {
 
 using Meaning = VariableMeaning;
-
-constexpr std::string_view kValueMark = " :: ";
 
 Text DriveOf(const Text& path)
 {
@@ -191,7 +190,7 @@ Text PrivateVariableValue(const Machine& machine, std::string_view place)
     const Text subKey = RemoveLastBackslash(key.substr(rootEnd + 1));
     if (mark != Text::npos) {
         const Text name = TrimBlanks(place.substr(mark + kValueMark.size()));
-        const bool isDefault = EqualIgnoreCase(name, "(Standard)");
+        const bool isDefault = EqualIgnoreCase(name, kDefaultValueName);
         return machine.ReadRegistryValue(*root, subKey, isDefault ? "" : name).value_or("");
     }
     if (const auto value = machine.ReadRegistryValue(*root, subKey, ""))

@@ -38,6 +38,8 @@ struct RegistryKey {
 
 /// "HKEY_LOCAL_MACHINE\Software\Firma", for logs and failures.
 Text KeyText(const RegistryKey& key);
+/// The same with the name of a value after it, as in a line of the registry list.
+Text ValueText(const RegistryKey& key, std::string_view name);
 /// The root of that name, and its name.
 std::optional<RegistryRoot> RootNamed(std::string_view name);
 Text RootName(RegistryRoot root);

@@ -307,7 +307,7 @@ void Uninstallation::Undo(const record::Value& value)
     else if (*present == value.data)
         input_.target.WriteValue(value.key, value.name, *value.former);
     else
-        Stays(KeyText(value.key) + " :: " + value.name, {Message::ReasonValueChanged});
+        Stays(ValueText(value.key, value.name), {Message::ReasonValueChanged});
 }
 
 void Uninstallation::RemoveValue(const RegistryKey& key, const Text& name)
@@ -315,7 +315,7 @@ void Uninstallation::RemoveValue(const RegistryKey& key, const Text& name)
     if (!input_.target.ReadValue(key, name))
         return;
     input_.target.RemoveValue(key, name);
-    input_.log.Line(Message::LogRemovesRegistry, KeyText(key) + " :: " + name);
+    input_.log.Line(Message::LogRemovesRegistry, ValueText(key, name));
 }
 
 void Uninstallation::RemoveKeyIfEmpty(const RegistryKey& key)

@@ -1,5 +1,6 @@
 #include "runtime/script/script_lines.h"
 
+#include "formats/registry_marks.h"
 #include "formats/variable_names.h"
 #include "helpers/number_text.h"
 
@@ -245,8 +246,8 @@ private:
 RegistryLine ReadRegistryPlace(std::string_view place)
 {
     // As a line that removes the value, or makes the key.
-    const bool isValue = place.find(" :: ") != std::string_view::npos;
-    return ReadRegistryLine((isValue ? "DELETE=" : "") + Text(place));
+    const bool isValue = place.find(kValueMark) != std::string_view::npos;
+    return ReadRegistryLine(Text(isValue ? kDeleteMark : "") + Text(place));
 }
 
 Script ReadScript(std::string_view text)
