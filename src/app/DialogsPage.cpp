@@ -11,6 +11,7 @@
 #include "actions/forms/pages/PictureChoice.h"
 
 #include <QtWidgets>
+#include <algorithm>
 
 namespace quillon {
 
@@ -36,27 +37,29 @@ void EditGeneral(Session& session, QWidget* parent)
 
 // The controls of each page of the chain, in its order, and what its button opens.
 struct TickControls {
+    DialogSwitch page;
     const char* box;
     const char* edit; // none for a page that has a command of its own
     void (*open)(Session& session, QWidget* parent);
 };
 // clang-format off
 constexpr TickControls kControls[] = {
-    {"cWelcomeDlg",          "cmdWelcomeDlg",          EditGeneral<&DialogBoxes::WelcomeDlg>},
-    {"cGeneralInfoDlg",      "cmdGeneralInfoDlg",      EditGeneral<&DialogBoxes::GeneralInfoDlg>},
-    {"cGeneralInfoDlg2",     "cmdGeneralInfoDlg2",     EditGeneral<&DialogBoxes::GeneralInfoDlg2>},
-    {"cLicenseInfoDlg",      "cmdLicenseInfoDlg",      Edit<DlgLicenseInfo>},
-    {"cLicenseInfoRtfDlg",   "cmdLicenseInfoRtfDlg",   Edit<DlgLicenseInfoRtf>},
-    {"cPasswordDlg",         "cmdPasswordDlg",         Edit<DlgPassword>},
-    {"cNameCompanyDlg",      "cmdNameCompanyDlg",      Edit<DlgNameCompany>},
-    {"cDestinationDlg",      "cmdDestDirDlg",          Edit<DlgDestDirDlg>},
-    {"cDestinationDriveDlg", "cmdDestDriveDlg",        Edit<DlgDestDriveDlg>},
-    {"cSelectProgGroup",     nullptr,                  nullptr},
-    {"cStartInstallDlg",     "cmdStartInstallDlg",     EditGeneral<&DialogBoxes::StartInstallDlg>},
-    {"cInstallCompletedDlg", "cmdInstallCompletedDlg", EditGeneral<&DialogBoxes::InstallCompletedDlg>},
+    {&DialogBoxes::WelcomeDlg,          "cWelcomeDlg",          "cmdWelcomeDlg",          EditGeneral<&DialogBoxes::WelcomeDlg>},
+    {&DialogBoxes::GeneralInfoDlg,      "cGeneralInfoDlg",      "cmdGeneralInfoDlg",      EditGeneral<&DialogBoxes::GeneralInfoDlg>},
+    {&DialogBoxes::GeneralInfoDlg2,     "cGeneralInfoDlg2",     "cmdGeneralInfoDlg2",     EditGeneral<&DialogBoxes::GeneralInfoDlg2>},
+    {&DialogBoxes::LicenseInfoDlg,      "cLicenseInfoDlg",      "cmdLicenseInfoDlg",      Edit<DlgLicenseInfo>},
+    {&DialogBoxes::LicenseInfoRtfDlg,   "cLicenseInfoRtfDlg",   "cmdLicenseInfoRtfDlg",   Edit<DlgLicenseInfoRtf>},
+    {&DialogBoxes::PasswordDlg,         "cPasswordDlg",         "cmdPasswordDlg",         Edit<DlgPassword>},
+    {&DialogBoxes::NameCompanyDlg,      "cNameCompanyDlg",      "cmdNameCompanyDlg",      Edit<DlgNameCompany>},
+    {&DialogBoxes::DestinationDlg,      "cDestinationDlg",      "cmdDestDirDlg",          Edit<DlgDestDirDlg>},
+    {&DialogBoxes::DestinationDriveDlg, "cDestinationDriveDlg", "cmdDestDriveDlg",        Edit<DlgDestDriveDlg>},
+    {&DialogBoxes::ProgramGroupDlg,     "cSelectProgGroup",     nullptr,                  nullptr},
+    {&DialogBoxes::StartInstallDlg,     "cStartInstallDlg",     "cmdStartInstallDlg",     EditGeneral<&DialogBoxes::StartInstallDlg>},
+    {&DialogBoxes::InstallCompletedDlg, "cInstallCompletedDlg", "cmdInstallCompletedDlg", EditGeneral<&DialogBoxes::InstallCompletedDlg>},
 };
 // clang-format on
-static_assert(std::size(kControls) == std::size(kDialogChain));
+static_assert(std::ranges::equal(kControls, kDialogChain, {}, &TickControls::page,
+                                 &DialogChainPage::isOn));
 
 } // namespace
 

@@ -1,14 +1,20 @@
 #include "app/MainTabs.h"
 
+#include "app/edit_name.h"
+#include "shell/command_table.h"
+#include "ui/qt_text.h"
+
 #include <algorithm>
 
 namespace quillon {
 
 namespace {
 
-constexpr std::array<const char*, kTabCount> kCaptions{"  Fillista  ",    "  Design  ",
-                                                       "  Dialogrutor  ", "  Registry  ",
-                                                       "  INI-filer  ",   "  Komponenter  "};
+/// That of the tab's command, without its access letter: the menu has the keys.
+QString CaptionOf(Tab tab)
+{
+    return ToQt("  " + EditName(FindCommand(CommandOf(tab))->caption) + "  ");
+}
 
 } // namespace
 
@@ -16,7 +22,7 @@ MainTabs::MainTabs(const std::array<QWidget*, kTabCount>& pages) : pages_(pages)
 {
     setObjectName("MainTab");
     for (std::size_t i = 0; i < pages_.size(); ++i)
-        addTab(pages_[i], kCaptions[i]);
+        addTab(pages_[i], CaptionOf(static_cast<Tab>(i)));
 }
 
 void MainTabs::ShowTab(Tab tab, bool isShown)
@@ -25,7 +31,7 @@ void MainTabs::ShowTab(Tab tab, bool isShown)
         return;
     const auto number = static_cast<std::size_t>(tab);
     if (isShown) {
-        insertTab(PlaceFor(tab), pages_[number], pictures_[number], kCaptions[number]);
+        insertTab(PlaceFor(tab), pages_[number], pictures_[number], CaptionOf(tab));
     } else {
         const int place = indexOf(pages_[number]);
         pictures_[number] = tabIcon(place);

@@ -2,19 +2,15 @@
 
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
-#include "shell/main_window.h"
+#include "shell/command_table.h"
 #include "ui/icons.h"
 #include "ui/picture.h"
 
 #include <QtWidgets>
-#include <array>
 
 namespace quillon {
 
 namespace {
-
-constexpr std::array<const char*, kTabCount> kOwnPictures{
-    "tab-files", "tab-design", "tab-dialogs", "tab-registry", "tab-ini", "tab-components"};
 
 QIcon TabPicture(const FileSystem& files, const Text& toolFolder, int tab)
 {
@@ -22,7 +18,7 @@ QIcon TabPicture(const FileSystem& files, const Text& toolFolder, int tab)
     // The bitmaps are larger than they show, so that they stay sharp on a fine screen.
     if (const auto picture = LoadPicture(files, JoinPath(toolFolder, file)))
         return QIcon(QPixmap::fromImage(*picture));
-    return NamedIcon(kOwnPictures[static_cast<std::size_t>(tab)]);
+    return CommandIcon(CommandOf(static_cast<Tab>(tab)));
 }
 
 } // namespace

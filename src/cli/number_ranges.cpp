@@ -1,6 +1,9 @@
 #include "cli/number_ranges.h"
 
+#include "actions/install_options.h"
 #include "builder/create_form.h"
+#include "design/number_fields.h"
+#include "design/transparent_colours.h"
 #include "helpers/text.h"
 #include "platform/registry_roots.h"
 
@@ -19,7 +22,7 @@ struct FieldRange {
 
 constexpr NumberRange kCheckBox{0, 1};
 constexpr NumberRange kAlignment{1, 3};
-constexpr NumberRange kColourName{0, 11};
+constexpr NumberRange kColourName{0, std::int64_t(kTransparentColors.size()) - 1};
 constexpr NumberRange kRegistryRoot{0, std::int64_t(kRegistryRoots.size()) - 1};
 
 // clang-format off
@@ -27,14 +30,14 @@ constexpr FieldRange kRanges[] = {
     {"Media",             "TargetMedia",                   {1, std::int64_t(kMedia.size())}},
     {"OperatingSystem",   "TargetOperatingSystem",         {0, std::int64_t(kTargetOperatingSystems.size()) - 1}},
     {"Compression",       "KeepCompressedFilesOneAndOne",  kCheckBox},
-    {"Sign",              "SignTimeStampSystem",           {0, 1}},
+    {"Sign",              "SignTimeStampSystem",           {0, std::int64_t(kTimeStampSystems.size()) - 1}},
     {"RunAppSelfX",       "DD_iHKEYIndex",                 kRegistryRoot},
     {"FontOptions",       "NeverReplaceExistingFonts",     kCheckBox},
     {"Updates",           "AdvUpdateRegHKEYIndex",         kRegistryRoot},
     {"DesBackground",     "Type",                          {1, 2}},
     {"DesBackground",     "BlendDirection",                {0, 5}},
     {"DesTitle",          "TitleAlignment",                kAlignment},
-    {"DesTitleUnderline", "UnderlineType",                 {0, 3}},
+    {"DesTitleUnderline", "UnderlineType",                 {0, std::int64_t(UnderlineKind::Blended)}},
     {"DesTitleUnderline", "UnderlineTextOnly",             kCheckBox},
     {"DesPictures",       "TransparentColorNr",            kColourName},
     {"DesPictures",       "HidePicturesWhenDialogsShowed", kCheckBox},

@@ -1,18 +1,15 @@
 #include "design/picture.h"
 
+#include "design/transparent_colours.h"
+
 #include <algorithm>
-#include <iterator>
 
 namespace quillon {
 
 Colour TransparentColour(Integer number)
 {
-    // In the order of the editors' list, 0x00BBGGRR.
-    static constexpr Colour kColours[] = {0x00FFFF, 0x0000FF, 0xFF0000, 0x00FF00,
-                                          0xFFFF00, 0xFF00FF, 0x000080, 0x800000,
-                                          0x000000, 0x808080, 0xC0C0C0, 0xFFFFFF};
-    const bool isKnown = number >= 0 && static_cast<std::size_t>(number) < std::size(kColours);
-    return isKnown ? kColours[number] : 0;
+    const auto place = static_cast<std::size_t>(number);
+    return number >= 0 && place < kTransparentColors.size() ? kTransparentColors[place].colour : 0;
 }
 
 std::optional<Colour> TransparentColourOf(const section::DesPictures& record, std::size_t index)

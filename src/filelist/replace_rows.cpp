@@ -3,18 +3,28 @@
 #include "filelist/row_text.h"
 #include "helpers/windows_path.h"
 
+#include <iterator>
+
 namespace quillon {
 
 namespace {
 
-// By `ReplaceIn`.
 // clang-format off
 constexpr ReplaceUse kUses[] = {
-    {"Sök och ersätt destinationskatalog",       "Destinationskatalogen",      Destination, true},
-    {"Sök och ersätt källkatalog",               "Källsökvägen",               Source,      true},
-    {"Sök och ersätt kopieringsinställningar",   "Kopieringsinställningarna",  CopyOptions, false},
+    {ReplaceIn::Destinations, "Sök och ersätt destinationskatalog",     "Destinationskatalogen",     Destination, true},
+    {ReplaceIn::Sources,      "Sök och ersätt källkatalog",             "Källsökvägen",              Source,      true},
+    {ReplaceIn::Options,      "Sök och ersätt kopieringsinställningar", "Kopieringsinställningarna", CopyOptions, false},
 };
 // clang-format on
+
+constexpr bool AreUsesInOrder()
+{
+    for (std::size_t i = 0; i < std::size(kUses); ++i)
+        if (kUses[i].where != static_cast<ReplaceIn>(i))
+            return false;
+    return true;
+}
+static_assert(AreUsesInOrder(), "the rows stand in the order of ReplaceIn");
 
 /// What a row has in place of its text; the text itself where it is not what is looked for.
 Text Replaced(const FileListRow& row, ReplaceIn where, const Replacement& replacement)

@@ -11,6 +11,7 @@ namespace quillon {
 enum class ReplaceIn { Destinations, Sources, Options };
 
 struct ReplaceUse {
+    ReplaceIn where;
     const char* caption;     // of the dialog
     const char* replacement; // what is typed, where it has to be refused
     Column column;

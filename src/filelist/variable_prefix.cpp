@@ -3,7 +3,6 @@
 #include "formats/variable_names.h"
 
 #include <algorithm>
-#include <array>
 
 namespace quillon {
 
@@ -11,23 +10,41 @@ namespace {
 
 struct VariablePrefix {
     std::string_view prefix;
-    // By PrefixTable; empty where the field does not know the variable.
-    std::array<std::string_view, 4> completion;
+    // Empty where the field does not know the variable.
+    std::string_view mainFolder;
+    std::string_view programOrDocument;
+    std::string_view folder;
+    std::string_view iconFile;
+
+    constexpr std::string_view CompletionIn(PrefixTable table) const
+    {
+        switch (table) {
+        case PrefixTable::MainFolder:
+            return mainFolder;
+        case PrefixTable::ProgramOrDocument:
+            return programOrDocument;
+        case PrefixTable::Folder:
+            return folder;
+        case PrefixTable::IconFile:
+            return iconFile;
+        }
+        return {};
+    }
 };
 
 // A field for a folder gets no backslash, since the variable's own folder may be meant; a field for
 // a file needs one in front of the name. A component's number is the user's to type.
 // clang-format off
 constexpr VariablePrefix kPrefixes[] = {
-    // main folder                 program, document     folder             icon file
-    {"%PR",   {"%PROGRAMFILES\\", "%PROGRAMFILES\\", "%PROGRAMFILES\\", "%PROGRAMFILES\\"}},
-    {"%MY",   {"%MYDOCUMENTS\\",  "%MYDOCUMENTS\\",  "%MYDOCUMENTS\\",  "%MYDOCUMENTS\\"}},
-    {"%DE",   {"",                "%DESTDIR\\",      "%DESTDIR",        "%DESTDIR\\"}},
-    {"%WI",   {"",                "%WINDIR\\",       "",                ""}},
-    {"%SY",   {"",                "%SYSDIR\\",       "",                ""}},
-    {"%FO",   {"",                "",                "%FONTDIR",        ""}},
-    {"%COMM", {"",                "%COMMONFILES\\",  "%COMMONFILES\\",  "%COMMONFILES\\"}},
-    {"%COMP", {"",                "%COMPDIR\\",      "%COMPDIR",        "%COMPDIR\\"}},
+    //        main folder         program, document   folder              icon file
+    {"%PR",   "%PROGRAMFILES\\", "%PROGRAMFILES\\", "%PROGRAMFILES\\", "%PROGRAMFILES\\"},
+    {"%MY",   "%MYDOCUMENTS\\",  "%MYDOCUMENTS\\",  "%MYDOCUMENTS\\",  "%MYDOCUMENTS\\"},
+    {"%DE",   "",                "%DESTDIR\\",      "%DESTDIR",        "%DESTDIR\\"},
+    {"%WI",   "",                "%WINDIR\\",       "",                ""},
+    {"%SY",   "",                "%SYSDIR\\",       "",                ""},
+    {"%FO",   "",                "",                "%FONTDIR",        ""},
+    {"%COMM", "",                "%COMMONFILES\\",  "%COMMONFILES\\",  "%COMMONFILES\\"},
+    {"%COMP", "",                "%COMPDIR\\",      "%COMPDIR",        "%COMPDIR\\"},
 };
 // clang-format on
 
@@ -46,7 +63,7 @@ bool BeginsVariable(std::string_view text)
 std::optional<Text> CompleteVariablePrefix(std::string_view text, PrefixTable table)
 {
     for (const VariablePrefix& row : kPrefixes) {
-        const std::string_view completion = row.completion[static_cast<std::size_t>(table)];
+        const std::string_view completion = row.CompletionIn(table);
         if (row.prefix == text && !completion.empty())
             return Text(completion);
     }

@@ -14,8 +14,18 @@ namespace quillon {
 
 namespace {
 
-// In the order of the scopes.
-constexpr const char* kScopeNames[] = {"project", "allUsers", "currentUser"};
+const char* NameOf(InstallScope scope)
+{
+    switch (scope) {
+    case InstallScope::Project:
+        return "project";
+    case InstallScope::AllUsers:
+        return "allUsers";
+    case InstallScope::CurrentUser:
+        return "currentUser";
+    }
+    return "";
+}
 
 const char* ActionOf(RegistryLine::Kind kind)
 {
@@ -263,7 +273,7 @@ Text PlanReport(const PlanReportInput& input)
     json.OpenObject();
     json.Add("product", input.setup.project.ProjectName.ProjectName);
     json.Add("version", VersionOf(input.setup));
-    json.Add("scope", kScopeNames[static_cast<std::size_t>(plan.scope)]);
+    json.Add("scope", NameOf(plan.scope));
     json.Add("mainFolder", plan.mainFolder);
     json.Add("programGroup", plan.programGroup);
     json.Add("bytes", static_cast<std::int64_t>(bytes));

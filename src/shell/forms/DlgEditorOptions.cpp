@@ -5,13 +5,23 @@
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
+#include <array>
 
 namespace quillon {
 
 namespace {
 
-// By `BarsStyle`.
-constexpr const char* kBarsStyles[] = {"Windows XP", "Office 2000", "Office XP", "Office 2003"};
+constexpr std::array kBarsStyles = [] {
+    std::array<const char*, 4> captions{};
+    const auto set = [&](BarsStyle style, const char* caption) {
+        captions[static_cast<std::size_t>(style)] = caption;
+    };
+    set(BarsStyle::WindowsXP, "Windows XP");
+    set(BarsStyle::Office2000, "Office 2000");
+    set(BarsStyle::OfficeXP, "Office XP");
+    set(BarsStyle::Office2003, "Office 2003");
+    return captions;
+}();
 
 } // namespace
 
