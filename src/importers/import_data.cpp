@@ -5,6 +5,7 @@
 #include "helpers/windows_path.h"
 #include "ini/ini_scanner.h"
 #include "platform/failure_text.h"
+#include "platform/whole_file.h"
 
 #include <algorithm>
 #include <array>
@@ -40,27 +41,11 @@ Text FaultsText(const Text& path, const std::vector<ImportData::Fault>& faults)
     return text;
 }
 
-std::string ReadTable(const FileSystem& files, const Text& path)
-{
-    const auto file = files.OpenInput(path);
-    std::string bytes(
-        static_cast<std::size_t>(std::min<std::uint64_t>(file->Size(), kMaxTableSize)), '\0');
-    std::size_t filled = 0;
-    while (filled < bytes.size()) {
-        const std::size_t got =
-            file->Read(std::as_writable_bytes(std::span(bytes)).subspan(filled));
-        if (got == 0)
-            break;
-        filled += got;
-    }
-    bytes.resize(filled);
-    return bytes;
-}
-
 void AddTable(const FileSystem& files, const Text& path, Ask& ask, ImportData& data)
 {
     try {
-        const std::vector<ImportData::Fault> faults = data.Add(ReadTable(files, path));
+        const std::vector<ImportData::Fault> faults =
+            data.Add(ReadBeginning(files, path, kMaxTableSize));
         if (!faults.empty())
             ask.Warn("Fel i " + Text(kImportDataFile), FaultsText(path, faults));
     } catch (const RunError& error) {

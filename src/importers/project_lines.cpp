@@ -85,19 +85,8 @@ ProjectLines SplitProject(std::string_view bytes, const Text& path)
 
 ProjectLines ReadProjectLines(const FileSystem& files, const Text& path)
 {
-    const auto file = files.OpenInput(path);
     // One byte more shows that there is more.
-    std::string bytes(kMaxProjectBytes + 1, '\0');
-    std::size_t filled = 0;
-    while (filled < bytes.size()) {
-        const std::size_t got =
-            file->Read(std::as_writable_bytes(std::span(bytes)).subspan(filled));
-        if (got == 0)
-            break;
-        filled += got;
-    }
-    bytes.resize(filled);
-    return SplitProject(bytes, path);
+    return SplitProject(ReadBeginning(files, path, kMaxProjectBytes + 1), path);
 }
 
 } // namespace quillon

@@ -37,6 +37,19 @@ std::string ReadWholeFile(InputFile& file)
     return bytes;
 }
 
+std::string ReadBeginning(const FileSystem& files, const Text& path, std::size_t limit)
+{
+    const auto file = files.OpenInput(path);
+    std::string bytes;
+    for (std::size_t got = 1; got > 0 && bytes.size() < limit;) {
+        const std::size_t before = bytes.size();
+        bytes.resize(before + std::min(kPieceSize, limit - before));
+        got = file->Read(std::as_writable_bytes(std::span(bytes).subspan(before)));
+        bytes.resize(before + got);
+    }
+    return bytes;
+}
+
 void WriteWholeFile(FileSystem& files, const Text& path, std::string_view bytes)
 {
     const auto file = files.OpenOutput(path);

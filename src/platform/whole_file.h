@@ -12,6 +12,9 @@ std::string ReadWholeFile(const FileSystem& files, const Text& path);
 /// From its beginning, where it has just been opened.
 std::string ReadWholeFile(InputFile& file);
 
+/// The first bytes of the file, at most `limit`; all of a smaller one. Throws as `OpenInput` does.
+std::string ReadBeginning(const FileSystem& files, const Text& path, std::size_t limit);
+
 void WriteWholeFile(FileSystem& files, const Text& path, std::string_view bytes);
 
 /// A text file on its way out: Windows-1252, CR LF after every line. Lines are collected and

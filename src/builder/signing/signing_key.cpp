@@ -3,6 +3,7 @@
 #include "helpers/hex.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/whole_file.h"
 
 #include <algorithm>
 #include <array>
@@ -87,13 +88,8 @@ Text FaultOfToken(const FileSystem& files, const SigningKey& key)
                : FaultOfFile(files, "Certifikatet", key.certificate, "eller en pkcs11-adress");
 }
 
-// The beginning tells all kinds apart.
-std::string BeginningOf(const FileSystem& files, const Text& path)
-{
-    std::string bytes(8192, '\0');
-    bytes.resize(files.OpenInput(path)->Read(std::as_writable_bytes(std::span(bytes))));
-    return bytes;
-}
+// Tells all kinds of keys apart.
+constexpr std::size_t kBeginningSize = 8192;
 
 // Bytes 12 to 15 of a .pvk say whether it is encrypted, and 16 to 19 how long its salt is.
 bool IsLockedPvk(std::string_view bytes)
@@ -137,7 +133,7 @@ bool NeedsPassword(const FileSystem& files, const SigningKey& key)
 {
     if (key.kind != SigningKey::Kind::Pair)
         return true;
-    const std::string bytes = BeginningOf(files, key.key);
+    const std::string bytes = ReadBeginning(files, key.key, kBeginningSize);
     return IsLockedPvk(bytes) || bytes.find("ENCRYPTED") != std::string::npos;
 }
 
