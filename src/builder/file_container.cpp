@@ -19,8 +19,7 @@ bool AddProjectFiles(CreateRun& run)
 {
     Long row = 0;
     for (const FileListRow& file : run.project.Files.rows) {
-        if (IsFileSkippedForTargetOS(file[Filename],
-                                     run.project.OperatingSystem.TargetOperatingSystem))
+        if (IsRowSkipped(file, run.project))
             continue;
         ++row;
         if (!file.HasSource())

@@ -73,8 +73,7 @@ int WriteFileListFile(const Text& path, const Project& project, const Host& host
         file.Line();
         file.Line("[FileList]");
         for (const FileListRow& row : project.Files.rows) {
-            if (IsFileSkippedForTargetOS(row[Filename],
-                                         project.OperatingSystem.TargetOperatingSystem))
+            if (IsRowSkipped(row, project))
                 continue;
             WriteRow(file, MakeInstallRow(row, outcome.FilesInList + 1, host.files));
             ++outcome.FilesInList;

@@ -81,9 +81,7 @@ void CopyCompressed(CreateRun& run, const Layout& layout, const FileListRow& row
 
 bool IsLeftOut(const CreateRun& run, const FileListRow& row)
 {
-    return !row.HasSource() ||
-           IsFileSkippedForTargetOS(row[Filename],
-                                    run.project.OperatingSystem.TargetOperatingSystem);
+    return !row.HasSource() || IsRowSkipped(row, run.project);
 }
 
 // A source that has gone is reported when its turn comes.

@@ -49,8 +49,7 @@ void RemoveStaging(FileSystem& files, const Text& folder)
 
 bool IsPacked(const CreateRun& run, const FileListRow& row)
 {
-    return row.HasSource() && !IsFileSkippedForTargetOS(
-                                  row[Filename], run.project.OperatingSystem.TargetOperatingSystem);
+    return row.HasSource() && !IsRowSkipped(row, run.project);
 }
 
 std::uint64_t RoomForAnother(const CreateRun& run)

@@ -21,12 +21,6 @@ namespace {
 
 constexpr const char* kGoOnQuestion = " Vill du fortsätta att skapa ändå?";
 
-bool IsLeftOut(const CreateRun& run, const FileListRow& row)
-{
-    return IsFileSkippedForTargetOS(row[Filename],
-                                    run.project.OperatingSystem.TargetOperatingSystem);
-}
-
 /// "3 ('a.txt')"
 Text NumberAndName(std::size_t number, const FileListRow& row)
 {
@@ -77,7 +71,7 @@ std::optional<Pair> FindPair(const CreateRun& run, const RowText& keyOf, bool ma
     const std::vector<FileListRow>& rows = run.project.Files.rows;
     std::unordered_map<Text, std::size_t> seen;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const Text key = IsLeftOut(run, rows[i]) ? Text() : keyOf(rows[i]);
+        const Text key = IsRowSkipped(rows[i], run.project) ? Text() : keyOf(rows[i]);
         if (key.empty())
             continue;
         const auto [found, isNew] = seen.emplace(key, i);
@@ -152,7 +146,7 @@ Check CheckRows(CreateRun& run)
     std::int64_t more = -1;
     const std::vector<FileListRow>& rows = run.project.Files.rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const Text fault = IsLeftOut(run, rows[i]) ? Text() : FaultOfRow(run, rows[i]);
+        const Text fault = IsRowSkipped(rows[i], run.project) ? Text() : FaultOfRow(run, rows[i]);
         if (fault.empty())
             continue;
         if (++more == 0)
@@ -172,7 +166,7 @@ Check CheckUnknownVariables(CreateRun& run)
     const std::vector<FileListRow>& rows = run.project.Files.rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const Text word =
-            IsLeftOut(run, rows[i]) ? Text() : UnknownVariableIn(rows[i][Destination]);
+            IsRowSkipped(rows[i], run.project) ? Text() : UnknownVariableIn(rows[i][Destination]);
         if (!word.empty())
             return GoOn(run, "Okänd variabel",
                         RowLabel(i, rows[i]) + " har destinationen '" + rows[i][Destination] +
@@ -252,7 +246,7 @@ Check CheckNamesInTree(CreateRun& run)
     const std::vector<FileListRow>& rows = run.project.Files.rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const bool isRenamed =
-            rows[i].HasSource() && !IsLeftOut(run, rows[i]) &&
+            rows[i].HasSource() && !IsRowSkipped(rows[i], run.project) &&
             !EqualIgnoreCase(rows[i][Filename], ExtractFilename(rows[i][Source]));
         if (isRenamed)
             return GoOn(run, "Filen har bytt namn",

@@ -25,4 +25,9 @@ bool IsFileSkippedForTargetOS(std::string_view fileName, int targetOperatingSyst
     return targetOperatingSystem == kOnlyNewWindows && IsPartOfNewWindows(fileName);
 }
 
+bool IsRowSkipped(const FileListRow& row, const Project& project)
+{
+    return IsFileSkippedForTargetOS(row[Filename], project.OperatingSystem.TargetOperatingSystem);
+}
+
 } // namespace quillon

@@ -1,7 +1,7 @@
 // Windows' own files that projects often carry, and the cases in which they are left out.
 #pragma once
 
-#include "project/file_list.h"
+#include "project/records.h"
 
 #include <string_view>
 
@@ -15,5 +15,7 @@ bool IsProtectedOnWindowsXP(std::string_view fileName);
 
 /// True for the files that newer versions of Windows bring themselves, in a package for these.
 bool IsFileSkippedForTargetOS(std::string_view fileName, int targetOperatingSystem);
+/// The same of a row, in a package of the project.
+bool IsRowSkipped(const FileListRow& row, const Project& project);
 
 } // namespace quillon
