@@ -2,6 +2,7 @@
 // along.
 #pragma once
 
+#include "formats/runtime_programs.h"
 #include "platform/ask.h"
 #include "project/records.h"
 
@@ -12,8 +13,8 @@
 namespace quillon {
 
 /// The names that the starter on the medium may have.
-inline constexpr std::array<const char*, 4> kSetupNames{"SETUP.EXE", "INSTALL.EXE", "SETUP32.EXE",
-                                                        "START.EXE"};
+inline constexpr std::array<const char*, 4> kSetupNames{
+    "SETUP.EXE", "INSTALL.EXE", RuntimePrograms::kStarter.name, "START.EXE"};
 /// The row of a name; nothing for a name that is not offered.
 std::optional<int> SetupNameRow(std::string_view name);
 

@@ -1,6 +1,7 @@
 #include "app/FileListView.h"
 
 #include "formats/icon_marker.h"
+#include "helpers/twips.h"
 #include "project/components.h"
 #include "ui/character_widths.h"
 #include "ui/qt_text.h"
@@ -12,7 +13,6 @@ namespace quillon {
 namespace {
 
 // The widths of the columns are twips of a font 13 pixels high; they grow with the user's font.
-constexpr int kTwipsPerPixel = 15;
 constexpr int kFontOfTwips = 13;
 
 // What is shown on demand only.

@@ -6,8 +6,6 @@ namespace quillon {
 
 namespace {
 
-constexpr Pixel kOpaque = 0xFF000000;
-
 Pixel Share(Pixel part, Pixel coverage)
 {
     const Pixel product = part * coverage + 0x80;
@@ -19,7 +17,7 @@ Pixel Share(Pixel part, Pixel coverage)
 Pixel PixelOf(Colour colour)
 {
     const auto bits = static_cast<Pixel>(colour);
-    return kOpaque | (bits & 0xFF) << 16 | (bits & 0xFF00) | (bits >> 16 & 0xFF);
+    return kOpaquePixel | (bits & 0xFF) << 16 | (bits & 0xFF00) | (bits >> 16 & 0xFF);
 }
 
 PixelRect Intersect(const PixelRect& a, const PixelRect& b)

@@ -14,6 +14,8 @@ namespace quillon {
 
 using Pixel = std::uint32_t;
 
+inline constexpr Pixel kOpaquePixel = 0xFF000000;
+
 /// Opaque; `colour` is 0x00BBGGRR, as records have it.
 Pixel PixelOf(Colour colour);
 

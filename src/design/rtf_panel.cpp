@@ -1,6 +1,7 @@
 #include "design/rtf_panel.h"
 
 #include "helpers/number_text.h"
+#include "helpers/twips.h"
 #include "helpers/utf8.h"
 
 #include <algorithm>
@@ -9,7 +10,6 @@ namespace quillon {
 
 namespace {
 
-constexpr double kTwipsPerPixelAt96 = 15;
 constexpr double kPixelsPerHalfPoint = 96.0 / 144;
 constexpr int kMarginPixels = 4;
 constexpr int kTabPixels = 48; // half an inch
@@ -19,7 +19,6 @@ constexpr int kScriptDenominator = 3;
 // Small capitals in the size of the letters.
 constexpr int kSmallNumerator = 4;
 constexpr int kSmallDenominator = 5;
-constexpr int kRtfLine = 240; // a line as high as its letters, where lines are counted
 
 // A piece of a line in one style, ready to be painted.
 struct Piece {
@@ -84,7 +83,7 @@ public:
 
 private:
     int Pixels(double pixels) const { return static_cast<int>(RoundToEven(pixels * panel_.scale)); }
-    int TwipPixels(int twips) const { return Pixels(twips / kTwipsPerPixelAt96); }
+    int TwipPixels(int twips) const { return Pixels(double(twips) / kTwipsPerPixel); }
 
     ScreenFont FontOf(const RtfStyle& style) const
     {

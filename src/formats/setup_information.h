@@ -5,15 +5,14 @@
 #include "formats/package_files.h"
 #include "helpers/number_text.h"
 #include "helpers/text.h"
+#include "helpers/twips.h"
 #include "project/records.h"
 
 #include <string_view>
 
 namespace quillon {
 
-// The file holds positions in pixels; back in the records they are twips, this many to the pixel.
-inline constexpr int kTwipsPerPixel = 15;
-
+/// The file holds positions in pixels; here they are twips, as in the project.
 struct SetupInformation {
     // Every field that the file carries, under the names of the project; the file list is empty,
     // and a path that the file holds without its folder has none.

@@ -27,7 +27,6 @@ constexpr std::size_t kWidth = 4, kHeight = 8, kBits = 14, kCompression = 16, kC
 }
 constexpr std::size_t kPixelsOffset = 10;
 
-constexpr Pixel kOpaque = 0xFF000000;
 // More than a byte can name, since some writers store that many.
 constexpr std::uint32_t kMaxColours = 65536;
 
@@ -166,8 +165,8 @@ private:
         case 16:
             return Fields(row.Word(x * 2));
         case 24:
-            return kOpaque | Pixel{row.Byte(x * 3 + 2)} << 16 | Pixel{row.Byte(x * 3 + 1)} << 8 |
-                   row.Byte(x * 3);
+            return kOpaquePixel | Pixel{row.Byte(x * 3 + 2)} << 16 |
+                   Pixel{row.Byte(x * 3 + 1)} << 8 | row.Byte(x * 3);
         default:
             return Fields(row.Long(x * 4));
         }
@@ -176,7 +175,7 @@ private:
     Pixel Fields(std::uint32_t pixel) const
     {
         const Pixel colour = red_(pixel) << 16 | green_(pixel) << 8 | blue_(pixel);
-        return (hasAlpha_ ? alpha_(pixel) << 24 : kOpaque) | colour;
+        return (hasAlpha_ ? alpha_(pixel) << 24 : kOpaquePixel) | colour;
     }
 
     int bits_;
@@ -194,19 +193,19 @@ void ApplyAlpha(Picture& picture)
     const bool isUnused =
         std::ranges::none_of(picture.pixels, [](Pixel pixel) { return pixel >> 24 != 0; });
     for (Pixel& pixel : picture.pixels)
-        pixel = isUnused ? pixel | kOpaque : Covering(pixel | kOpaque, pixel >> 24);
+        pixel = isUnused ? pixel | kOpaquePixel : Covering(pixel | kOpaquePixel, pixel >> 24);
 }
 
 /// As many entries as the bits can name; those that the file lacks are black.
 std::vector<Pixel> ReadPalette(PictureBytes dib, const BitmapHeader& header)
 {
-    std::vector<Pixel> palette(header.bits <= 8 ? std::size_t{1} << header.bits : 0, kOpaque);
+    std::vector<Pixel> palette(header.bits <= 8 ? std::size_t{1} << header.bits : 0, kOpaquePixel);
     const std::size_t entry = header.isOs2 ? 3 : 4;
     std::size_t at = header.headerSize + header.masksSize;
     const std::size_t count = std::min<std::size_t>(palette.size(), header.colours);
     for (std::size_t i = 0; i < count; ++i, at += entry)
-        palette[i] =
-            kOpaque | Pixel{dib.Byte(at + 2)} << 16 | Pixel{dib.Byte(at + 1)} << 8 | dib.Byte(at);
+        palette[i] = kOpaquePixel | Pixel{dib.Byte(at + 2)} << 16 | Pixel{dib.Byte(at + 1)} << 8 |
+                     dib.Byte(at);
     return palette;
 }
 

@@ -1,5 +1,6 @@
 #include "pictures/metafile.h"
 
+#include "helpers/twips.h"
 #include "pictures/metafile_player.h"
 
 #include <cstdlib>
@@ -13,7 +14,6 @@ constexpr std::int64_t kDotsPerInch = 96;
 constexpr int kMaxSideSize = 32767;
 // A drawing without a size on paper: as many pixels as it has units, or, of many, as twips.
 constexpr int kMaxUnitsAsPixels = 2048;
-constexpr std::int64_t kTwipsPerPixel = 15;
 
 // Drawn this much larger in both directions and made smaller again, which smooths the edges, as
 // long as that takes no more than 64 MiB.

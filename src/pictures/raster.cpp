@@ -8,7 +8,6 @@ namespace quillon {
 
 namespace {
 
-constexpr Pixel kOpaque = 0xFF000000;
 constexpr Pixel kPaper = 0xFFFFFFFF;
 // Against a pixel that is only filled.
 constexpr int kWorkOfCombining = 4;
@@ -95,7 +94,7 @@ Pixel Combined(Combination combination, Pixel source, Pixel below)
                        ((combination & 2) != 0 ? ~source & below : 0) |
                        ((combination & 4) != 0 ? source & ~below : 0) |
                        ((combination & 8) != 0 ? source & below : 0);
-    return bits | kOpaque;
+    return bits | kOpaquePixel;
 }
 
 // What is not painted yet counts as white paper. A combination that leaves the paper white leaves
@@ -188,7 +187,7 @@ void Raster::Combine(int x, int y, Pixel pattern, Pixel source, std::uint8_t tab
     const Pixel below = Over(pixel, kPaper);
     const Pixel without = Combined(table & 0xF, source, below);
     const Pixel with = Combined(table >> 4, source, below);
-    pixel = Result((with & pattern) | (without & ~pattern) | kOpaque, pixel);
+    pixel = Result((with & pattern) | (without & ~pattern) | kOpaquePixel, pixel);
 }
 
 void Raster::Cover(int x, int y, Pixel colour, Pixel coverage)

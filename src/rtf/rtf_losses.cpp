@@ -29,7 +29,7 @@ constexpr const char* kDrawings = "ritade figurer";
 constexpr const char* kHeaders = "sidhuvud";
 constexpr const char* kFooters = "sidfot";
 constexpr const char* kLists = "automatiska listor";
-constexpr const char* kRaised = "höjda eller sänkta tecken";
+constexpr const char* kShiftedBaseline = "höjda eller sänkta tecken";
 constexpr const char* kHidden = "dold text";
 constexpr const char* kUnderlines = "streckade, dubbla eller vågiga understrykningar";
 constexpr const char* kEffects = "konturer, skuggor eller relief på tecken";
@@ -53,7 +53,7 @@ constexpr Loss kLosses[] = {
     {"field",      "fält och länkar", kAlways},
     {"listtext",   kLists, kAlways},     {"ls",         kLists},
     {"pn",         kLists, kAlways},     {"pntext",     kLists, kAlways},
-    {"dn",         kRaised},             {"up",         kRaised},
+    {"dn",         kShiftedBaseline},    {"up",         kShiftedBaseline},
     {"deleted",    kHidden},             {"v",          kHidden},
     {"uld",        kUnderlines},         {"uldash",     kUnderlines},
     {"uldashd",    kUnderlines},         {"uldashdd",   kUnderlines},

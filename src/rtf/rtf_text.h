@@ -13,6 +13,9 @@ namespace quillon {
 
 inline constexpr Colour kNoColour = -1;
 
+/// A line as high as its letters, where `\sl` counts in lines.
+inline constexpr int kRtfLine = 240;
+
 struct RtfStyle {
     int font = -1; // place in `RtfText::fonts`; negative: the reader's own
     int halfPoints = 24;

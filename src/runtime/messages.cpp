@@ -294,7 +294,7 @@ constexpr MessageKey kMessages[] = {
     {Message::ReasonKeyNotEmpty,      "Reasons",   "Reason_KeyNotEmpty",      "nyckeln är inte tom"},
     {Message::ReasonFolderNotEmpty,   "Reasons",   "Reason_FolderNotEmpty",   "mappen är inte tom"},
     {Message::ReasonOutsideProduct,   "Reasons",   "Reason_OutsideProduct",   "den ligger utanför programmets mappar"},
-    {Message::ReasonLinkInPath,     "Reasons",   "Reason_LinkOnTheWay",     "en länk leder till en annan mapp"},
+    {Message::ReasonLinkInPath,       "Reasons",   "Reason_LinkOnTheWay",     "en länk leder till en annan mapp"},
     {Message::ReasonAtRestart,        "Reasons",   "Reason_AtRestart",        "tas bort när datorn startas om"},
     {Message::ReasonBackAtRestart,    "Reasons",   "Reason_BackAtRestart",    "läggs tillbaka som '%1' när datorn startas om"},
 };

@@ -114,11 +114,11 @@ Text GroupFolder(const PlanInput& input, const Places& places)
 Text SecondPlace(const PlanInput& input, const Places& places, const Text& marker)
 {
     switch (marker.back()) {
-    case 'D':
+    case kDesktopLetter:
         return input.target.Folder(places.desktop);
-    case 'S':
+    case kStartMenuLetter:
         return input.target.Folder(places.startMenu);
-    case 'P':
+    case kProgramsLetter:
         return input.target.Folder(places.programs);
     default:
         return {};

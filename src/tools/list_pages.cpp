@@ -16,7 +16,7 @@ constexpr double kLastRowY = 266;
 
 struct PrintedColumn {
     double x;
-    const char* head;
+    const char* header;
     Column column;
 };
 
@@ -45,7 +45,7 @@ public:
         NewPage();
         PrintProjectInfo();
         PrintRuleLine(46);
-        PrintColumnHeads(52);
+        PrintColumnHeaders(52);
         lineY_ = 61;
         for (const FileListRow& row : project_.Files.rows)
             PrintRow(row);
@@ -92,11 +92,11 @@ private:
         line(40, "Total storlek:", total_ + " kb");
     }
 
-    void PrintColumnHeads(double y)
+    void PrintColumnHeaders(double y)
     {
         for (const PrintedColumn& column : kPrintedColumns)
             if (column.column != ComponentNumber || IsAnyComponentInUse(project_))
-                Print(column.x, y, 9, true, column.head);
+                Print(column.x, y, 9, true, column.header);
     }
 
     void PrintRow(const FileListRow& row)
@@ -110,7 +110,7 @@ private:
         if (lineY_ > kLastRowY) {
             lineY_ = 34;
             NewPage();
-            PrintColumnHeads(25);
+            PrintColumnHeaders(25);
         }
     }
 

@@ -22,6 +22,8 @@ struct PrintedText {
     Text text;
 };
 
+inline constexpr double kRuleWidth = 0.1;
+
 /// A thin horizontal line.
 struct PrintedRule {
     double fromX;

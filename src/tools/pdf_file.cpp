@@ -13,7 +13,6 @@ namespace quillon {
 namespace {
 
 constexpr double kPointsPerMillimetre = 72 / 25.4;
-constexpr double kRuleWidth = 0.1; // mm
 
 using Surface = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
 using Context = std::unique_ptr<cairo_t, decltype(&cairo_destroy)>;

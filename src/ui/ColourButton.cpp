@@ -1,6 +1,7 @@
 #include "ui/ColourButton.h"
 
 #include "platform/ask.h"
+#include "ui/qt_colour.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -18,7 +19,7 @@ ColourButton::ColourButton(const Text& caption, Ask& ask, std::function<void()> 
 void ColourButton::SetColour(Long colour)
 {
     colour_ = colour & 0xFFFFFF;
-    const QColor shown(colour_ & 0xFF, (colour_ >> 8) & 0xFF, (colour_ >> 16) & 0xFF);
+    const QColor shown = ToQtColour(colour_);
     const int side = fontMetrics().height();
     QPixmap swatch(QSize(2 * side, side) * devicePixelRatioF());
     swatch.setDevicePixelRatio(devicePixelRatioF());

@@ -5,6 +5,7 @@
 #include "ui/XInputBox.h"
 #include "ui/file_dialog.h"
 #include "ui/message_box.h"
+#include "ui/qt_colour.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -134,13 +135,11 @@ std::optional<Text> QtAsk::ChooseVariable()
 
 std::optional<Long> QtAsk::ChooseColour(Long current)
 {
-    QColorDialog form(QColor(current & 0xFF, (current >> 8) & 0xFF, (current >> 16) & 0xFF),
-                      WindowInFront());
+    QColorDialog form(ToQtColour(current), WindowInFront());
     form.setOption(QColorDialog::DontUseNativeDialog);
     if (form.exec() != QDialog::Accepted)
         return {};
-    const QColor chosen = form.currentColor();
-    return chosen.red() | chosen.green() << 8 | chosen.blue() << 16;
+    return FromQtColour(form.currentColor());
 }
 
 std::optional<FontChoice> QtAsk::ChooseFont(const FontChoice& current)

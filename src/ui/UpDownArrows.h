@@ -15,7 +15,6 @@ public:
 
     void SetRange(int min, int max);
     int Min() const { return min_; }
-    int Max() const { return max_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

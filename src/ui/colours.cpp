@@ -44,7 +44,6 @@ bool IsDark(const QPalette& palette)
 
 QColor AccentColour(const QPalette& palette)
 {
-    constexpr double kMinContrast = 4;
     const QColor background = palette.color(QPalette::Window);
     const QColor selection = palette.color(QPalette::Active, QPalette::Highlight);
     const QColor wanted = selection.hslSaturationF() < 0.25F ? kBlue : selection;

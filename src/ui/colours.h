@@ -11,6 +11,10 @@ namespace quillon {
 /// line can be seen on its background, from 4.5 on a text can be read.
 double Contrast(const QColor& one, const QColor& other);
 
+/// Of lines and marks to what is behind them. Some controls are drawn in a somewhat lighter or
+/// darker shade, which still has 3.
+inline constexpr double kMinContrast = 4;
+
 /// `share` of `other`, the rest of `one`.
 QColor Mixed(const QColor& one, const QColor& other, double share);
 

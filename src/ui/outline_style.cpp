@@ -8,9 +8,6 @@ namespace quillon {
 
 namespace {
 
-// Some controls are drawn in a somewhat lighter or darker shade of it, which still has 3.
-constexpr double kMinContrast = 4;
-
 constexpr std::size_t kMaxPalettes = 64;
 
 QColor OutlineColour(const QPalette& palette)

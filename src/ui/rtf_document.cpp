@@ -1,5 +1,6 @@
 #include "ui/rtf_document.h"
 
+#include "ui/qt_colour.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -10,15 +11,8 @@ namespace quillon {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
-constexpr int kRtfLine = 240; // a line as high as its letters, where lines are counted
 constexpr qsizetype kMaxLettersOfBlock = 8000;
 constexpr int kMaxRunsOfBlock = 400;
-const QColor kInk = Qt::black;
-
-QColor ToQtColour(Colour colour)
-{
-    return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
-}
 
 /// Puts the paragraphs of a text into a document, for a screen of so many points per inch.
 class RtfWriter {
@@ -139,7 +133,8 @@ private:
             look.setFontLetterSpacingType(QFont::AbsoluteSpacing);
             look.setFontLetterSpacing(Points(style.letterSpacing));
         }
-        look.setForeground(style.foreground == kNoColour ? kInk : ToQtColour(style.foreground));
+        look.setForeground(style.foreground == kNoColour ? kDefaultForeground
+                                                         : ToQtColour(style.foreground));
         if (style.background != kNoColour)
             look.setBackground(ToQtColour(style.background));
         return look;
@@ -161,11 +156,6 @@ private:
     qsizetype lettersOfBlock_ = 0;
     int runsOfBlock_ = 0;
 };
-
-Colour ToColour(const QColor& colour)
-{
-    return colour.red() | colour.green() << 8 | colour.blue() << 16;
-}
 
 /// Reads a document back as paragraphs and runs.
 class RtfExtractor {
@@ -262,11 +252,12 @@ private:
             style.capitals = RtfStyle::Capitals::Small;
         if (look.fontLetterSpacingType() == QFont::AbsoluteSpacing)
             style.letterSpacing = Twips(look.fontLetterSpacing());
-        if (look.hasProperty(QTextFormat::ForegroundBrush) && look.foreground().color() != kInk)
-            style.foreground = ToColour(look.foreground().color());
+        if (look.hasProperty(QTextFormat::ForegroundBrush) &&
+            look.foreground().color() != kDefaultForeground)
+            style.foreground = FromQtColour(look.foreground().color());
         if (look.hasProperty(QTextFormat::BackgroundBrush) &&
             look.background().style() != Qt::NoBrush)
-            style.background = ToColour(look.background().color());
+            style.background = FromQtColour(look.background().color());
         return style;
     }
 

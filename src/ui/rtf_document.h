@@ -3,9 +3,14 @@
 
 #include "rtf/rtf_text.h"
 
+#include <QColor>
+
 class QTextDocument;
 
 namespace quillon {
+
+/// Of text without a colour of its own.
+inline const QColor kDefaultForeground = Qt::black;
 
 /// Puts the paragraphs at the end of the document, for a screen of so many points per inch.
 void InsertRtf(const RtfText& text, QTextDocument& document, int pointsPerInch);

@@ -15,7 +15,6 @@ namespace {
 constexpr std::uint64_t kMaxBytes = 32U << 20U;
 constexpr double kTabsPerInch = 2; // where a paragraph has none of its own
 const QColor kPaper = Qt::white;
-const QColor kInk = Qt::black;
 const QColor kNoteForeground(0x80, 0x30, 0x00);
 
 Text NoteOf(RtfText::Fault fault)
@@ -42,7 +41,7 @@ RtfView::RtfView(const Text& accessibleName)
     setAccessibleName(ToQt(accessibleName));
     QPalette paper = palette();
     paper.setColor(QPalette::Base, kPaper);
-    paper.setColor(QPalette::Text, kInk);
+    paper.setColor(QPalette::Text, kDefaultForeground);
     viewport()->setPalette(paper);
     document()->setDocumentMargin(fontMetrics().height() / 2.0);
 }

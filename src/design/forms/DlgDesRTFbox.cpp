@@ -7,6 +7,7 @@
 #include "rtf/rtf_losses.h"
 #include "rtf/rtf_writer.h"
 #include "shell/session.h"
+#include "ui/qt_colour.h"
 #include "ui/qt_text.h"
 #include "ui/rtf_document.h"
 #include "ui/typed_text.h"
@@ -168,8 +169,7 @@ void DlgDesRTFbox::ShowFormat()
 
 void DlgDesRTFbox::ShowBackColour()
 {
-    const Colour colour = cmdSetBackColor->GetColour();
-    const QColor shown(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+    const QColor shown = ToQtColour(cmdSetBackColor->GetColour());
     QPalette palette = RTFbox->palette();
     palette.setColor(QPalette::Base, shown);
     // Text without a colour of its own is black in the setup, on whatever the box is filled with.
@@ -189,14 +189,13 @@ void DlgDesRTFbox::ChooseRTFfont()
         static_cast<Integer>(font.pointSizeF() > 0 ? font.pointSizeF() : kUsualPoints);
     const QColor colour =
         now.hasProperty(QTextFormat::ForegroundBrush) ? now.foreground().color() : Qt::black;
-    const auto chosen = session_.ask.ChooseFont(
-        {.name = FromQt(font.family()),
-         .size = points,
-         .isBold = font.bold(),
-         .isItalic = font.italic(),
-         .isUnderlined = font.underline(),
-         .isStruckOut = font.strikeOut(),
-         .colour = colour.red() | colour.green() << 8 | colour.blue() << 16});
+    const auto chosen = session_.ask.ChooseFont({.name = FromQt(font.family()),
+                                                 .size = points,
+                                                 .isBold = font.bold(),
+                                                 .isItalic = font.italic(),
+                                                 .isUnderlined = font.underline(),
+                                                 .isStruckOut = font.strikeOut(),
+                                                 .colour = FromQtColour(colour)});
     if (chosen) {
         QTextCharFormat format;
         format.setFontFamilies({ToQt(chosen->name)});
@@ -206,8 +205,7 @@ void DlgDesRTFbox::ChooseRTFfont()
         format.setFontItalic(chosen->isItalic);
         format.setFontUnderline(chosen->isUnderlined.value_or(false));
         format.setFontStrikeOut(chosen->isStruckOut.value_or(false));
-        const Long text = chosen->colour.value_or(0);
-        format.setForeground(QColor(text & 0xFF, (text >> 8) & 0xFF, (text >> 16) & 0xFF));
+        format.setForeground(ToQtColour(chosen->colour.value_or(0)));
         RTFbox->mergeCurrentCharFormat(format);
         ShowFormat();
     }

@@ -13,7 +13,6 @@ namespace {
 constexpr double kUnitsPerInch = 1200;
 constexpr double kUnitsPerMillimetre = kUnitsPerInch / 25.4;
 constexpr double kPointsPerInch = 72;
-constexpr double kRuleWidth = 0.1; // mm
 
 void PaintText(QPainter& painter, const PrintedText& printed)
 {
