@@ -3,6 +3,8 @@
 // library is looked for in the folder of the program. A system without it has no JPEG pictures.
 #include "pictures/jpeg_decoder.h"
 
+#include "platform/win32/com_pointer.h"
+
 #include <windows.h>
 
 #include <ocidl.h>
@@ -17,26 +19,6 @@
 namespace quillon {
 
 namespace {
-
-template <class Interface>
-class ComPointer {
-public:
-    ComPointer() = default;
-    ~ComPointer()
-    {
-        if (pointer_)
-            pointer_->Release();
-    }
-    ComPointer(const ComPointer&) = delete;
-    ComPointer& operator=(const ComPointer&) = delete;
-
-    Interface** Out() { return &pointer_; }
-    Interface* Get() const { return pointer_; }
-    Interface* operator->() const { return pointer_; }
-
-private:
-    Interface* pointer_ = nullptr;
-};
 
 class ComApartment {
 public:
@@ -101,8 +83,7 @@ bool Decode(std::string_view bytes, const JpegRequest& request, Picture& picture
     // The stream only reads.
     auto* memory = reinterpret_cast<BYTE*>(const_cast<char*>(bytes.data()));
     return SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                                      IID_IWICImagingFactory,
-                                      reinterpret_cast<void**>(factory.Out()))) &&
+                                      IID_IWICImagingFactory, factory.UntypedOut())) &&
            SUCCEEDED(factory->CreateStream(stream.Out())) &&
            SUCCEEDED(stream->InitializeFromMemory(memory, static_cast<DWORD>(bytes.size()))) &&
            SUCCEEDED(factory->CreateDecoderFromStream(

@@ -7,6 +7,9 @@
 
 namespace quillon {
 
+/// Keeps nobody from doing anything with the file meanwhile.
+inline constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
 class FileHandle {
 public:
     explicit FileHandle(HANDLE handle) : handle_(handle) {}

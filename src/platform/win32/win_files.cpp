@@ -13,8 +13,6 @@ namespace quillon {
 
 namespace {
 
-constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
 DWORD AttributesOf(const Text& path)
 {
     return path.find('\0') == Text::npos ? GetFileAttributesW(WidePath(path).c_str())

@@ -1,5 +1,6 @@
 #include "runtime/win32/restart_manager.h"
 
+#include "platform/win32/open_file.h"
 #include "platform/win32/wide_text.h"
 #include "runtime/win32/program_start.h"
 
@@ -47,7 +48,6 @@ void RestartManager::End()
 
 bool RestartManager::IsHeld(const Text& path) const
 {
-    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE file = CreateFileW(WidePath(path).c_str(), GENERIC_WRITE | DELETE, kShareAll,
                                     nullptr, OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE) {

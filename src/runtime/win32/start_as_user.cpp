@@ -6,6 +6,7 @@
 
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
+#include "platform/win32/com_pointer.h"
 #include "platform/win32/wide_text.h"
 
 #include <windows.h>
@@ -20,26 +21,6 @@
 namespace quillon {
 
 namespace {
-
-template <class Interface>
-class Owned {
-public:
-    Owned() = default;
-    ~Owned()
-    {
-        if (pointer_ != nullptr)
-            pointer_->Release();
-    }
-    Owned(const Owned&) = delete;
-    Owned& operator=(const Owned&) = delete;
-
-    void** Out() { return reinterpret_cast<void**>(&pointer_); }
-    Interface** Typed() { return &pointer_; }
-    Interface* operator->() const { return pointer_; }
-
-private:
-    Interface* pointer_ = nullptr;
-};
 
 class TextVariant {
 public:
@@ -60,40 +41,41 @@ private:
 };
 
 // The object of the desktop that starts programs; it lives in the desktop's own process.
-bool FindDesktop(Owned<IShellDispatch2>& shell)
+bool FindDesktop(ComPointer<IShellDispatch2>& shell)
 {
-    Owned<IShellWindows> windows;
+    ComPointer<IShellWindows> windows;
     if (FAILED(CoCreateInstance(CLSID_ShellWindows, nullptr, CLSCTX_LOCAL_SERVER, IID_IShellWindows,
-                                windows.Out())))
+                                windows.UntypedOut())))
         return false;
     VARIANT place{};
     place.vt = VT_I4;
     place.lVal = CSIDL_DESKTOP;
     VARIANT none{};
     long window = 0;
-    Owned<IDispatch> desktop;
+    ComPointer<IDispatch> desktop;
     if (windows->FindWindowSW(&place, &none, SWC_DESKTOP, &window, SWFO_NEEDDISPATCH,
-                              desktop.Typed()) != S_OK)
+                              desktop.Out()) != S_OK)
         return false;
-    Owned<IServiceProvider> services;
-    Owned<IShellBrowser> browser;
-    Owned<IShellView> view;
-    Owned<IDispatch> background;
-    Owned<IShellFolderViewDual> folder;
-    Owned<IDispatch> application;
-    return SUCCEEDED(desktop->QueryInterface(IID_IServiceProvider, services.Out())) &&
+    ComPointer<IServiceProvider> services;
+    ComPointer<IShellBrowser> browser;
+    ComPointer<IShellView> view;
+    ComPointer<IDispatch> background;
+    ComPointer<IShellFolderViewDual> folder;
+    ComPointer<IDispatch> application;
+    return SUCCEEDED(desktop->QueryInterface(IID_IServiceProvider, services.UntypedOut())) &&
+           SUCCEEDED(services->QueryService(SID_STopLevelBrowser, IID_IShellBrowser,
+                                            browser.UntypedOut())) &&
+           SUCCEEDED(browser->QueryActiveShellView(view.Out())) &&
            SUCCEEDED(
-               services->QueryService(SID_STopLevelBrowser, IID_IShellBrowser, browser.Out())) &&
-           SUCCEEDED(browser->QueryActiveShellView(view.Typed())) &&
-           SUCCEEDED(view->GetItemObject(SVGIO_BACKGROUND, IID_IDispatch, background.Out())) &&
-           SUCCEEDED(background->QueryInterface(IID_IShellFolderViewDual, folder.Out())) &&
-           SUCCEEDED(folder->get_Application(application.Typed())) &&
-           SUCCEEDED(application->QueryInterface(IID_IShellDispatch2, shell.Out()));
+               view->GetItemObject(SVGIO_BACKGROUND, IID_IDispatch, background.UntypedOut())) &&
+           SUCCEEDED(background->QueryInterface(IID_IShellFolderViewDual, folder.UntypedOut())) &&
+           SUCCEEDED(folder->get_Application(application.Out())) &&
+           SUCCEEDED(application->QueryInterface(IID_IShellDispatch2, shell.UntypedOut()));
 }
 
 bool StartByDesktop(const Text& file, const Text& arguments)
 {
-    Owned<IShellDispatch2> shell;
+    ComPointer<IShellDispatch2> shell;
     if (!FindDesktop(shell))
         return false;
     TextVariant parameters(Wide(arguments));

@@ -1,5 +1,6 @@
 // Shortcuts, which only the shell itself can write.
 #include "platform/run_error.h"
+#include "platform/win32/com_pointer.h"
 #include "platform/win32/wide_text.h"
 #include "runtime/win32/win_target.h"
 
@@ -11,26 +12,6 @@ namespace {
 
 constexpr int kMaxArgumentsLength = 1024; // in characters, as the shell keeps them
 
-// A pointer to a COM object, released with it.
-template <class Interface>
-class ComPointer {
-public:
-    ComPointer() = default;
-    ~ComPointer()
-    {
-        if (object_ != nullptr)
-            object_->Release();
-    }
-    ComPointer(const ComPointer&) = delete;
-    ComPointer& operator=(const ComPointer&) = delete;
-
-    Interface* operator->() const { return object_; }
-    void** Out() { return reinterpret_cast<void**>(&object_); }
-
-private:
-    Interface* object_ = nullptr;
-};
-
 } // namespace
 
 void WinTarget::MakeShortcut(const Text& path, const Shortcut& shortcut)
@@ -41,7 +22,7 @@ void WinTarget::MakeShortcut(const Text& path, const Shortcut& shortcut)
     };
     ComPointer<IShellLinkW> link;
     check(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
-                           link.Out()));
+                           link.UntypedOut()));
     check(link->SetPath(Wide(shortcut.program).c_str()));
     check(link->SetArguments(Wide(shortcut.arguments).c_str()));
     check(link->SetWorkingDirectory(Wide(shortcut.workFolder).c_str()));
@@ -49,7 +30,7 @@ void WinTarget::MakeShortcut(const Text& path, const Shortcut& shortcut)
     if (!shortcut.iconFile.empty())
         check(link->SetIconLocation(Wide(shortcut.iconFile).c_str(), 0));
     ComPointer<IPersistFile> file;
-    check(link->QueryInterface(IID_IPersistFile, file.Out()));
+    check(link->QueryInterface(IID_IPersistFile, file.UntypedOut()));
     check(file->Save(Wide(path).c_str(), TRUE));
 }
 
@@ -60,8 +41,8 @@ std::optional<Shortcut> WinTarget::ReadShortcut(const Text& path) const
     wchar_t program[MAX_PATH] = {};
     wchar_t arguments[kMaxArgumentsLength] = {};
     const bool isRead = SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER,
-                                                   IID_IShellLinkW, link.Out())) &&
-                        SUCCEEDED(link->QueryInterface(IID_IPersistFile, file.Out())) &&
+                                                   IID_IShellLinkW, link.UntypedOut())) &&
+                        SUCCEEDED(link->QueryInterface(IID_IPersistFile, file.UntypedOut())) &&
                         SUCCEEDED(file->Load(Wide(path).c_str(), STGM_READ)) &&
                         link->GetPath(program, MAX_PATH, nullptr, SLGP_RAWPATH) == S_OK &&
                         SUCCEEDED(link->GetArguments(arguments, kMaxArgumentsLength));
