@@ -24,7 +24,7 @@ TEST_F(MainFormTest, SelectsEachTabByItsCommand)
 {
     MainForm form(session);
     for (int tab = kTabCount - 1; tab >= 0; --tab) {
-        form.RunCommand(CommandId(147 + tab));
+        form.RunCommand(CommandOf(static_cast<Tab>(tab)));
         EXPECT_EQ(static_cast<int>(form.SelectedTab()), tab);
     }
 }

@@ -589,22 +589,23 @@ TEST_F(DesignObjectsTest, CommandsOpenTheEditors)
 {
     MainForm form(session);
     ShowActive(form);
-    const std::pair<int, const char*> commands[] = {{125, "Bakgrund"},
-                                                    {126, "Titel"},
-                                                    {127, "Understrykning av titel"},
-                                                    {128, "Textruta"},
-                                                    {129, "RTF-ruta"},
-                                                    {130, "Bild 1"},
-                                                    {131, "Växlingsbara bilder"},
-                                                    {132, "Logotype"},
-                                                    {133, "Procentmätare"},
-                                                    {134, "Ljud"},
-                                                    {135, "Översikt"}};
+    const std::pair<CommandId, const char*> commands[] = {
+        {CommandId::Background, "Bakgrund"},
+        {CommandId::Title, "Titel"},
+        {CommandId::Underline, "Understrykning av titel"},
+        {CommandId::TextBox, "Textruta"},
+        {CommandId::RtfBox, "RTF-ruta"},
+        {CommandId::Pictures, "Bild 1"},
+        {CommandId::ChangingPictures, "Växlingsbara bilder"},
+        {CommandId::Logotype, "Logotype"},
+        {CommandId::PercentGauge, "Procentmätare"},
+        {CommandId::Sound, "Ljud"},
+        {CommandId::Overview, "Översikt"}};
     for (const auto& [id, title] : commands) {
         QString opened;
         OnNextDialog([&](QDialog& dialog) { opened = dialog.windowTitle(); });
-        form.RunCommand(CommandId(id));
-        EXPECT_EQ(opened, title) << id;
+        form.RunCommand(id);
+        EXPECT_EQ(opened, title) << static_cast<int>(id);
     }
 }
 

@@ -64,13 +64,14 @@ TEST_F(ImportWindows, OpenByTheirCommands)
 {
     MainForm form(session);
     ShowActive(form);
-    const std::pair<int, const char*> kWindows[] = {{201, "DlgImportVB5Project"},
-                                                    {202, "DlgImportVB6Project"},
-                                                    {203, "DlgImportVBNetProject"},
-                                                    {214, "DlgImportFolder"}};
+    const std::pair<CommandId, const char*> kWindows[] = {
+        {CommandId::ImportVB5, "DlgImportVB5Project"},
+        {CommandId::ImportVB6, "DlgImportVB6Project"},
+        {CommandId::ImportVBNet, "DlgImportVBNetProject"},
+        {CommandId::ImportFolder, "DlgImportFolder"}};
     for (const auto& [id, name] : kWindows) {
         OnNextDialog([&](QDialog& dialog) { EXPECT_EQ(dialog.objectName(), name); });
-        form.RunCommand(CommandId(id));
+        form.RunCommand(id);
     }
 }
 

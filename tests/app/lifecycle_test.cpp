@@ -350,12 +350,14 @@ TEST(ShellByCommand, ShowsItsDialogs)
 {
     Desk desk;
     desk.form.show();
-    const std::pair<int, const char*> dialogs[] = {
-        {145, "DlgVersionInfo"}, {146, "DlgEditorOptions"}, {158, "DlgAbout"}};
+    const std::pair<CommandId, const char*> dialogs[] = {
+        {CommandId::VersionInfo, "DlgVersionInfo"},
+        {CommandId::EditorOptions, "DlgEditorOptions"},
+        {CommandId::About, "DlgAbout"}};
     for (const auto& [id, name] : dialogs) {
         Text shown;
         OnNextDialog([&](QDialog& form) { shown = FromQt(form.objectName()); });
-        desk.form.RunCommand(CommandId(id));
+        desk.form.RunCommand(id);
         EXPECT_EQ(shown, name);
     }
 }
@@ -363,8 +365,9 @@ TEST(ShellByCommand, ShowsItsDialogs)
 TEST(ShellByCommand, OpensTheHelpFileAndTellsOfSupport)
 {
     Desk desk({{BoxKind::Inform, "Support"}});
-    for (const int id : {153, 154, 155, 302})
-        desk.form.RunCommand(CommandId(id));
+    for (const CommandId id :
+         {CommandId::HelpContents, CommandId::HelpSearch, CommandId::HelpOnHelp, CommandId::Help})
+        desk.form.RunCommand(id);
     ASSERT_EQ(desk.machine.machine.started.size(), 4U);
     EXPECT_EQ(desk.machine.machine.started[3].first, "C:\\Quillon\\QN.HLP");
     desk.form.RunCommand(CommandId::Support);

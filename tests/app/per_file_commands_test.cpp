@@ -46,7 +46,7 @@ protected:
     }
     /// Runs the command and returns the name of the dialog that it shows; empty where it shows
     /// none.
-    Text DialogOf(int id)
+    Text DialogOf(CommandId id)
     {
         Text name;
         QTimer::singleShot(0, [&] {
@@ -55,7 +55,7 @@ protected:
                 dialog->reject();
             }
         });
-        form->RunCommand(CommandId(id));
+        form->RunCommand(id);
         QApplication::processEvents();
         return name;
     }
@@ -76,12 +76,15 @@ protected:
     FileListView* list = nullptr;
 };
 
+constexpr CommandId kCommandsOfAFile[] = {CommandId::Icon, CommandId::CopyOptions,
+                                          CommandId::RegisterFont, CommandId::FileInfo};
+
 TEST_F(PerFileCommands, TellOfAnEmptyList)
 {
     Open();
-    for (const int id : {116, 117, 118, 119}) {
+    for (const CommandId id : kCommandsOfAFile) {
         ask.Expect({BoxKind::Inform, "Info", kNoFiles});
-        EXPECT_EQ(DialogOf(id), "") << id;
+        EXPECT_EQ(DialogOf(id), "") << static_cast<int>(id);
     }
 }
 
@@ -90,8 +93,8 @@ TEST_F(PerFileCommands, DoNothingWithoutARowThatHasAFile)
     OpenRows();
     for (const std::vector<std::size_t>& rows : {std::vector<std::size_t>{}, {0}}) {
         form->ShowFileList(rows);
-        for (const int id : {116, 117, 118, 119})
-            EXPECT_EQ(DialogOf(id), "") << id;
+        for (const CommandId id : kCommandsOfAFile)
+            EXPECT_EQ(DialogOf(id), "") << static_cast<int>(id);
     }
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
@@ -100,16 +103,16 @@ TEST_F(PerFileCommands, ShowTheDialogOfTheFirstSelectedRow)
 {
     OpenRows();
     form->ShowFileList({1, 2});
-    EXPECT_EQ(DialogOf(116), "DlgIcon");
-    EXPECT_EQ(DialogOf(117), "DlgCopyOptions");
-    EXPECT_EQ(DialogOf(119), "DlgFileInfo");
-    EXPECT_EQ(DialogOf(144), "DlgVariables");
+    EXPECT_EQ(DialogOf(CommandId::Icon), "DlgIcon");
+    EXPECT_EQ(DialogOf(CommandId::CopyOptions), "DlgCopyOptions");
+    EXPECT_EQ(DialogOf(CommandId::FileInfo), "DlgFileInfo");
+    EXPECT_EQ(DialogOf(CommandId::Variables), "DlgVariables");
     form->ShowFileList({3});
-    EXPECT_EQ(DialogOf(116), "") << "a font has no icon";
+    EXPECT_EQ(DialogOf(CommandId::Icon), "") << "a font has no icon";
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
     form->ShowFileList({2});
     ask.Expect({BoxKind::Critical, "Fel"}); // its file is not there
-    EXPECT_EQ(DialogOf(116), "DlgIconX");
+    EXPECT_EQ(DialogOf(CommandId::Icon), "DlgIconX");
 }
 
 TEST_F(PerFileCommands, SetCopyOptionsOfOneRow)
@@ -194,7 +197,7 @@ TEST_F(PerFileCommands, RegisterNothingButFonts)
     OpenRows();
     form->ShowFileList({1});
     ask.Expect({BoxKind::Inform, "Info"});
-    EXPECT_EQ(DialogOf(118), "");
+    EXPECT_EQ(DialogOf(CommandId::RegisterFont), "");
     EXPECT_EQ(CellOf(1, CopyOptions), "VA");
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }

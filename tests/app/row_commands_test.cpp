@@ -14,9 +14,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr int kReplaceDestinations = 209;
-constexpr int kReplaceSources = 210;
-constexpr int kReplaceOptions = 211;
 constexpr CommandId kChangeDestination = CommandId::ChangeDestination;
 constexpr CommandId kShowDestinations = CommandId::ShowDestinations;
 
@@ -60,7 +57,7 @@ protected:
             names.push_back(FromQt(list.model()->index(row, 0).data().toString()));
         return names;
     }
-    void Replace(int command, const Text& with, const Text& find = {}, bool part = false)
+    void Replace(CommandId command, const Text& with, const Text& find = {}, bool part = false)
     {
         OnNextDialog([=](QDialog& dialog) {
             EXPECT_EQ(dialog.objectName(), "DlgFindReplaceData");
@@ -71,7 +68,7 @@ protected:
                 Click(dialog, "cPartOfText");
             Click(dialog, "cmdOK");
         });
-        form->RunCommand(CommandId(command));
+        form->RunCommand(command);
     }
 
     std::unique_ptr<MainForm> form;
@@ -80,11 +77,12 @@ protected:
 TEST_F(RowCommands, FindAndReplaceOnlyInAListWithRows)
 {
     form = std::make_unique<MainForm>(session);
-    for (const int id : {kReplaceDestinations, kReplaceSources, kReplaceOptions}) {
+    for (const CommandId id :
+         {CommandId::ReplaceDestinations, CommandId::ReplaceSources, CommandId::ReplaceOptions}) {
         ask.Expect({BoxKind::Inform, "Info",
                     "Det finns inga filer i fillistan. Innan du kan använda detta kommando måste "
                     "du ha lagt in filer i fillistan."});
-        form->RunCommand(CommandId(id));
+        form->RunCommand(id);
     }
     EXPECT_EQ(ask.shown.size(), 3U);
 }
@@ -92,15 +90,16 @@ TEST_F(RowCommands, FindAndReplaceOnlyInAListWithRows)
 TEST_F(RowCommands, ProposeTheTextOfTheFirstSelectedRow)
 {
     OpenWindow();
-    const std::pair<int, Text> proposals[] = {
-        {kReplaceDestinations, "%WINDIR"}, {kReplaceSources, "c:\\d"}, {kReplaceOptions, "DA"}};
+    const std::pair<CommandId, Text> proposals[] = {{CommandId::ReplaceDestinations, "%WINDIR"},
+                                                    {CommandId::ReplaceSources, "c:\\d"},
+                                                    {CommandId::ReplaceOptions, "DA"}};
     for (const auto& [id, text] : proposals) {
         form->ShowFileList({2, 3});
         OnNextDialog([&](QDialog& dialog) { EXPECT_EQ(TextIn(dialog, "tFindThis"), text); });
-        form->RunCommand(CommandId(id));
+        form->RunCommand(id);
         form->ShowFileList({});
         OnNextDialog([](QDialog& dialog) { EXPECT_EQ(TextIn(dialog, "tFindThis"), ""); });
-        form->RunCommand(CommandId(id));
+        form->RunCommand(id);
     }
     EXPECT_EQ(session.state.ProjectIsDirty, kOff) << "each was cancelled";
 }
@@ -109,11 +108,11 @@ TEST_F(RowCommands, ReplaceDestinations)
 {
     OpenWindow();
     form->ShowFileList({1});
-    Replace(kReplaceDestinations, "%FONTDIR");
+    Replace(CommandId::ReplaceDestinations, "%FONTDIR");
     EXPECT_THAT(Texts(Destination),
                 ElementsAre("%DESTDIR\\Temp", "%FONTDIR", "%WINDIR", "%FONTDIR"));
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
-    Replace(kReplaceDestinations, "%APPDATADIR", "%DESTDIR", true);
+    Replace(CommandId::ReplaceDestinations, "%APPDATADIR", "%DESTDIR", true);
     EXPECT_THAT(Texts(Destination),
                 ElementsAre("%APPDATADIR\\Temp", "%FONTDIR", "%WINDIR", "%FONTDIR"));
 }
@@ -122,9 +121,9 @@ TEST_F(RowCommands, ReplaceSources)
 {
     OpenWindow();
     form->ShowFileList({1});
-    Replace(kReplaceSources, "E:\\Ny", "c:\\d", true);
+    Replace(CommandId::ReplaceSources, "E:\\Ny", "c:\\d", true);
     EXPECT_THAT(Texts(Source), ElementsAre("", "E:\\Ny\\a.txt", "E:\\Ny\\b.txt", "E:\\Ny\\c.txt"));
-    Replace(kReplaceSources, "F:\\x");
+    Replace(CommandId::ReplaceSources, "F:\\x");
     EXPECT_THAT(Texts(Source), ElementsAre("", "F:\\x", "F:\\x", "F:\\x"));
 }
 
@@ -132,7 +131,7 @@ TEST_F(RowCommands, ReplaceCopyOptions)
 {
     OpenWindow();
     form->ShowFileList({1});
-    Replace(kReplaceOptions, "vra");
+    Replace(CommandId::ReplaceOptions, "vra");
     EXPECT_THAT(Texts(CopyOptions), ElementsAre("", "VRA", "DA", "VRA"));
 }
 
@@ -141,7 +140,7 @@ TEST_F(RowCommands, PutReplacedRowsWhereTheyBelongAndKeepThemSelected)
     OpenWindow();
     SortBy(CopyOptions);
     form->ShowFileList({1, 2});
-    Replace(kReplaceOptions, "X");
+    Replace(CommandId::ReplaceOptions, "X");
     EXPECT_THAT(Names(), ElementsAre("<Dir>", "b.txt", "a.txt", "c.txt"));
     EXPECT_EQ(ShownNames(), Names());
     EXPECT_THAT(form->SelectedRows(), ElementsAre(1, 2));
@@ -151,7 +150,7 @@ TEST_F(RowCommands, PutReplacedRowsWhereTheyBelongAndKeepThemSelected)
 TEST_F(RowCommands, MarkTheProjectByOkEvenWhereNothingIsFound)
 {
     OpenWindow();
-    Replace(kReplaceDestinations, "x", "finns inte");
+    Replace(CommandId::ReplaceDestinations, "x", "finns inte");
     EXPECT_EQ(session.state.ProjectIsDirty, kOn);
     EXPECT_THAT(Texts(Destination),
                 ElementsAre("%DESTDIR\\Temp", "%DESTDIR", "%WINDIR", "%DESTDIR"));

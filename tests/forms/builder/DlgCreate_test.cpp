@@ -659,25 +659,15 @@ TEST_F(DlgCreateTest, EveryControlHasASpokenName)
         EXPECT_NE(control->accessibleName(), "") << FromQt(control->objectName());
 }
 
-TEST_F(DlgCreateTest, Picture)
+TEST_F(DlgCreateTest, LooksRight)
 {
     Open();
     DlgCreate form(*session, nullptr);
     ShowActive(form);
     MoveMouse(*form.PictureFloppy, {10, 10});
     SavePicture(form, "DlgCreate");
-    QPalette dark(QColor(53, 53, 53));
-    dark.setColor(QPalette::Base, QColor(35, 35, 35));
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::WindowText, Qt::white);
-    dark.setColor(QPalette::ButtonText, Qt::white);
-    dark.setColor(QPalette::Link, QColor(110, 170, 255));
-    const QPalette light = QApplication::palette();
-    QApplication::setPalette(dark);
     Click(form, "cmdCreate");
-    QApplication::processEvents();
-    SavePicture(form, "DlgCreate_dark");
-    QApplication::setPalette(light);
+    SaveDarkPicture(form, "DlgCreate");
 }
 
 /// A signing program that refuses, and remembers what it was handed.

@@ -34,25 +34,25 @@ private:
     QPalette before_ = QApplication::palette();
 };
 
-std::set<int> IdsWithAButton()
+std::set<CommandId> IdsWithAButton()
 {
-    std::set<int> ids;
+    std::set<CommandId> ids;
     for (int tab = 0; tab < kTabCount; ++tab)
         for (const CommandId id : ToolbarIds(static_cast<Tab>(tab)))
             if (id != CommandId::None)
-                ids.insert(static_cast<int>(id));
+                ids.insert(id);
     return ids;
 }
 
-std::set<int> IdsWithAPicture()
+std::set<CommandId> IdsWithAPicture()
 {
-    std::set<int> ids;
+    std::set<CommandId> ids;
     for (const MenuRow& row : MenuBarRows())
         if (!CommandIcon(row.command.id).isNull())
-            ids.insert(static_cast<int>(row.command.id));
+            ids.insert(row.command.id);
     for (const Command& command : ToolbarOnlyCommands())
         if (!CommandIcon(command.id).isNull())
-            ids.insert(static_cast<int>(command.id));
+            ids.insert(command.id);
     return ids;
 }
 
@@ -72,8 +72,8 @@ int InkIn(const QImage& picture)
 
 TEST_F(Icons, StandOnEveryButtonAndInTheMenus)
 {
-    for (const int id : IdsWithAButton())
-        EXPECT_FALSE(CommandIcon(CommandId(id)).isNull()) << id;
+    for (const CommandId id : IdsWithAButton())
+        EXPECT_FALSE(CommandIcon(id).isNull()) << static_cast<int>(id);
     for (const MenuRow& row : MenuBarRows())
         if (row.part == MenuPart::Entry)
             EXPECT_FALSE(CommandIcon(row.command.id).isNull()) << row.command.caption;
@@ -86,17 +86,19 @@ TEST_F(Icons, HaveInkAndDifferFromEachOther)
 {
     std::map<QByteArray, int> seen;
     // Commands that do the same thing to another file, or in another place.
-    const std::set<int> alike = {154, 155, 202, 203, 292, 293, 294};
-    for (const int id : IdsWithAPicture()) {
+    const std::set<CommandId> alike = {
+        CommandId::HelpSearch, CommandId::HelpOnHelp, CommandId::ImportVB6, CommandId::ImportVBNet,
+        kRecentFiles[1],       kRecentFiles[2],       kRecentFiles[3]};
+    for (const CommandId id : IdsWithAPicture()) {
         if (alike.count(id) > 0)
             continue;
-        const QImage picture = Draw(CommandIcon(CommandId(id)));
-        EXPECT_GT(InkIn(picture), 50) << id;
-        EXPECT_LT(InkIn(picture), 24 * 24) << id;
+        const QImage picture = Draw(CommandIcon(id));
+        EXPECT_GT(InkIn(picture), 50) << static_cast<int>(id);
+        EXPECT_LT(InkIn(picture), 24 * 24) << static_cast<int>(id);
         const QByteArray bytes(reinterpret_cast<const char*>(picture.constBits()),
                                picture.sizeInBytes());
-        const auto [same, isNew] = seen.emplace(bytes, id);
-        EXPECT_TRUE(isNew) << id << " looks like " << same->second;
+        const auto [same, isNew] = seen.emplace(bytes, static_cast<int>(id));
+        EXPECT_TRUE(isNew) << static_cast<int>(id) << " looks like " << same->second;
     }
     for (const char* name : kNames)
         EXPECT_GT(InkIn(Draw(NamedIcon(name), 48)), 200) << name;
@@ -104,12 +106,12 @@ TEST_F(Icons, HaveInkAndDifferFromEachOther)
 
 TEST_F(Icons, AreDrawnInDevicePixels)
 {
-    for (const int id : IdsWithAPicture())
+    for (const CommandId id : IdsWithAPicture())
         for (const qreal scale : {1.0, 1.5, 2.0}) {
-            const QPixmap picture = CommandIcon(CommandId(id)).pixmap(QSize(24, 24), scale);
-            EXPECT_EQ(picture.width(), qRound(24 * scale)) << id;
-            EXPECT_EQ(picture.height(), qRound(24 * scale)) << id;
-            EXPECT_EQ(picture.devicePixelRatio(), scale) << id;
+            const QPixmap picture = CommandIcon(id).pixmap(QSize(24, 24), scale);
+            EXPECT_EQ(picture.width(), qRound(24 * scale)) << static_cast<int>(id);
+            EXPECT_EQ(picture.height(), qRound(24 * scale)) << static_cast<int>(id);
+            EXPECT_EQ(picture.devicePixelRatio(), scale) << static_cast<int>(id);
         }
 }
 
@@ -180,13 +182,13 @@ QWidget* Sheet(qreal scale)
         grid->addWidget(label, place / 10 * 2 + 1, place % 10);
         ++place;
     };
-    for (const int id : IdsWithAPicture())
-        add(CommandIcon(CommandId(id)), 24, QString::number(id));
+    for (const CommandId id : IdsWithAPicture())
+        add(CommandIcon(id), 24, QString::number(static_cast<int>(id)));
     for (const char* name : kNames)
         add(NamedIcon(name), 48, name);
-    for (const int id : {101, 102, 103, 108, 109})
-        add(QIcon(CommandIcon(CommandId(id)).pixmap(QSize(24, 24), scale, QIcon::Disabled)), 24,
-            "off");
+    for (const CommandId id : {CommandId::NewProject, CommandId::OpenProject,
+                               CommandId::SaveProject, CommandId::Create, CommandId::Test})
+        add(QIcon(CommandIcon(id).pixmap(QSize(24, 24), scale, QIcon::Disabled)), 24, "off");
     return sheet;
 }
 

@@ -61,6 +61,9 @@
 #include <commctrl.h>
 #include <shellapi.h>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace quillon;
 
 namespace {
@@ -119,86 +122,31 @@ public:
     }
 
 private:
+    // What follows the verb of a line.
+    struct Operands {
+        Text rest;
+        int id;     // the number that it begins with
+        Text value; // from the second word on
+    };
+    struct Verb {
+        const char* name;
+        bool (*run)(Driver& driver, const Operands& operands);
+    };
+    static const Verb kVerbs[];
+    static const Verb* FindVerb(const Text& name);
+
     bool Step(const Text& line)
     {
         const std::size_t blank = std::min(line.find(' '), line.size());
-        const Text verb = line.substr(0, blank);
+        const Text name = line.substr(0, blank);
         const Text rest = line.substr(std::min(blank + 1, line.size()));
-        const int id = static_cast<int>(LeadingNumber(rest));
         const std::size_t second = rest.find(' ');
-        const Text value = second == Text::npos ? "" : rest.substr(second + 1);
-        if (verb == "run")
-            return Start(rest);
-        if (verb == "other")
-            return RunOther(rest);
-        if (verb == "page")
-            return WaitFor(L"QuillonPages", Wide(rest), page_);
-        if (verb == "screen")
-            return WaitFor(L"QuillonScreen", {}, page_);
-        if (verb == "progress")
-            return WaitFor({.kind = L"QuillonSetup", .mayWait = true}, page_);
-        if (verb == "list")
-            return WaitFor(L"QuillonList", Wide(rest), page_, kListTextId);
-        if (verb == "unpacking")
-            return WaitFor(L"QuillonUnpack", Wide(rest), page_);
-        if (verb == "grip")
-            return Grip();
-        if (verb == "let")
-            return LetGo();
-        if (verb == "filled")
-            return HoldWhenFilled(id);
-        if (verb == "positions")
-            return LogPositions(id);
-        if (verb == "buttons")
-            return ListButtons();
-        if (verb == "escape")
-            return PostMessageW(page_, WM_KEYDOWN, VK_ESCAPE, 1) != FALSE;
-        if (verb == "box")
-            return Answer(id);
-        if (verb == "end")
-            return End();
-        if (verb == "shot")
-            return Shoot(rest);
-        if (verb == "close")
-            return PostMessageW(page_, WM_CLOSE, 0, 0) != FALSE;
-        if (verb == "leave")
-            return PostMessageW(page_, WM_SYSCOMMAND, SC_CLOSE, 0) != FALSE;
-        if (verb == "inside")
-            return LogInside();
-        if (verb == "aside")
-            return MoveBoxAside();
-        if (verb == "clipped")
-            return LogClipped();
-        if (verb == "scale")
-            return Scale(id);
-        if (verb == "tap")
-            return Tap(WM_KEYDOWN, static_cast<WPARAM>(id), 0);
-        if (verb == "alt")
-            return Tap(WM_SYSKEYDOWN, static_cast<WPARAM>(Wide(rest).at(0)), kAltIsDown);
-        if (verb == "tab")
-            return Tab();
-        if (verb == "focus")
-            return AwaitFocus([id](int focus) { return focus == id; });
-        if (verb == "controls")
-            return ListControls();
-        if (verb == "pointer")
-            return SetCursorPos(id, static_cast<int>(LeadingNumber(value))) != FALSE;
-        if (verb == "where")
-            return LogPlace();
-        if (verb == "hold")
-            return Hold(Wide(rest));
-        if (verb == "watch")
-            return Watch();
-        if (verb == "session")
-            return AwaitEndOfSession();
-        if (verb == "plant")
-            return Plant(rest);
-        if (verb == "release")
-            return CloseHandle(held_) != FALSE;
-        const HWND control = GetDlgItem(page_, id);
-        if (control == nullptr)
-            return false;
-        return OnControl(verb, control, id, value);
+        const Operands operands{rest, static_cast<int>(LeadingNumber(rest)),
+                                second == Text::npos ? "" : rest.substr(second + 1)};
+        if (const Verb* const verb = FindVerb(name))
+            return verb->run(*this, operands);
+        const HWND control = GetDlgItem(page_, operands.id);
+        return control != nullptr && OnControl(name, control, operands.id, operands.value);
     }
 
     bool OnControl(const Text& verb, HWND control, int id, const Text& value)
@@ -562,6 +510,53 @@ private:
     HWND page_ = nullptr;
     int dpi_ = 0; // 0: that of the page's own display
 };
+
+// Those of controls are in `OnControl`.
+// clang-format off
+const Driver::Verb Driver::kVerbs[] = {
+    {"run", [](Driver& driver, const Operands& operands) { return driver.Start(operands.rest); }},
+    {"other", [](Driver& driver, const Operands& operands) { return driver.RunOther(operands.rest); }},
+    {"page", [](Driver& driver, const Operands& operands) { return driver.WaitFor(L"QuillonPages", Wide(operands.rest), driver.page_); }},
+    {"screen", [](Driver& driver, const Operands&) { return driver.WaitFor(L"QuillonScreen", {}, driver.page_); }},
+    {"progress", [](Driver& driver, const Operands&) { return driver.WaitFor({.kind = L"QuillonSetup", .mayWait = true}, driver.page_); }},
+    {"list", [](Driver& driver, const Operands& operands) { return driver.WaitFor(L"QuillonList", Wide(operands.rest), driver.page_, kListTextId); }},
+    {"unpacking", [](Driver& driver, const Operands& operands) { return driver.WaitFor(L"QuillonUnpack", Wide(operands.rest), driver.page_); }},
+    {"grip", [](Driver& driver, const Operands&) { return driver.Grip(); }},
+    {"let", [](Driver& driver, const Operands&) { return driver.LetGo(); }},
+    {"filled", [](Driver& driver, const Operands& operands) { return driver.HoldWhenFilled(operands.id); }},
+    {"positions", [](Driver& driver, const Operands& operands) { return driver.LogPositions(operands.id); }},
+    {"buttons", [](Driver& driver, const Operands&) { return driver.ListButtons(); }},
+    {"escape", [](Driver& driver, const Operands&) { return PostMessageW(driver.page_, WM_KEYDOWN, VK_ESCAPE, 1) != FALSE; }},
+    {"box", [](Driver& driver, const Operands& operands) { return driver.Answer(operands.id); }},
+    {"end", [](Driver& driver, const Operands&) { return driver.End(); }},
+    {"shot", [](Driver& driver, const Operands& operands) { return driver.Shoot(operands.rest); }},
+    {"close", [](Driver& driver, const Operands&) { return PostMessageW(driver.page_, WM_CLOSE, 0, 0) != FALSE; }},
+    {"leave", [](Driver& driver, const Operands&) { return PostMessageW(driver.page_, WM_SYSCOMMAND, SC_CLOSE, 0) != FALSE; }},
+    {"inside", [](Driver& driver, const Operands&) { return driver.LogInside(); }},
+    {"aside", [](Driver& driver, const Operands&) { return driver.MoveBoxAside(); }},
+    {"clipped", [](Driver& driver, const Operands&) { return driver.LogClipped(); }},
+    {"scale", [](Driver& driver, const Operands& operands) { return driver.Scale(operands.id); }},
+    {"tap", [](Driver& driver, const Operands& operands) { return driver.Tap(WM_KEYDOWN, static_cast<WPARAM>(operands.id), 0); }},
+    {"alt", [](Driver& driver, const Operands& operands) { return driver.Tap(WM_SYSKEYDOWN, static_cast<WPARAM>(Wide(operands.rest).at(0)), kAltIsDown); }},
+    {"tab", [](Driver& driver, const Operands&) { return driver.Tab(); }},
+    {"focus", [](Driver& driver, const Operands& operands) { return driver.AwaitFocus([&](int focus) { return focus == operands.id; }); }},
+    {"controls", [](Driver& driver, const Operands&) { return driver.ListControls(); }},
+    {"pointer", [](Driver&, const Operands& operands) { return SetCursorPos(operands.id, static_cast<int>(LeadingNumber(operands.value))) != FALSE; }},
+    {"where", [](Driver& driver, const Operands&) { return driver.LogPlace(); }},
+    {"hold", [](Driver& driver, const Operands& operands) { return driver.Hold(Wide(operands.rest)); }},
+    {"watch", [](Driver& driver, const Operands&) { return driver.Watch(); }},
+    {"session", [](Driver& driver, const Operands&) { return driver.AwaitEndOfSession(); }},
+    {"plant", [](Driver& driver, const Operands& operands) { return driver.Plant(operands.rest); }},
+    {"release", [](Driver& driver, const Operands&) { return CloseHandle(driver.held_) != FALSE; }},
+};
+// clang-format on
+
+const Driver::Verb* Driver::FindVerb(const Text& name)
+{
+    const auto* const found =
+        std::ranges::find_if(kVerbs, [&](const Verb& verb) { return name == verb.name; });
+    return found != std::end(kVerbs) ? found : nullptr;
+}
 
 } // namespace
 
