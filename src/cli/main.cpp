@@ -41,17 +41,18 @@ Exit RunCall(const Arguments& arguments)
 }
 
 // Also after a call: who asks there wants to know what it takes.
-bool AsksForHelp(const std::vector<std::string>& words)
+bool AsksForHelp(const std::vector<std::string>& arguments)
 {
-    const auto last = std::ranges::find(words, "--");
-    return std::any_of(words.begin(), last,
-                       [](const std::string& word) { return word == "--help" || word == "-h"; });
+    const auto last = std::ranges::find(arguments, "--");
+    return std::any_of(arguments.begin(), last, [](const std::string& argument) {
+        return argument == "--help" || argument == "-h";
+    });
 }
 
-Exit Run(const std::vector<std::string>& words)
+Exit Run(const std::vector<std::string>& arguments)
 {
-    const std::string first = words.empty() ? "" : words[0];
-    if (AsksForHelp(words)) {
+    const std::string first = arguments.empty() ? "" : arguments[0];
+    if (AsksForHelp(arguments)) {
         std::cout << HelpText(AllCalls());
         return Exit::Done;
     }
@@ -60,7 +61,7 @@ Exit Run(const std::vector<std::string>& words)
         return Exit::Done;
     }
     try {
-        return RunCall(ReadArguments(words, AllCalls()));
+        return RunCall(ReadArguments(arguments, AllCalls()));
     } catch (const UsageError& error) {
         std::cerr << error.text << "\nquillonc --help visar alla anrop.\n";
         return Exit::Usage;

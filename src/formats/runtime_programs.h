@@ -19,11 +19,11 @@ inline constexpr RuntimeProgram kSecondRegistryHelper = {"QNXREG2.EXE", "QNXREG2
 // Stands before the package where that is one program.
 inline constexpr RuntimeProgram kSelfExtractor = {"QNSELFX.EXE", nullptr};
 inline constexpr RuntimeProgram kUninstaller = {"QNXUNIN.EXE", "QNXUNIN.BIN"};
-// On the machine beside the uninstaller, which starts `kSetup` and has nothing but its digest to
-// know it by. The setup keeps the name there that it has in a package: by itself it would do
-// nothing.
+// Installed beside the uninstaller: the digest of `kSetup`, which the uninstaller compares before
+// it starts that program. There `kSetup` has its name of a package, because a user who started it
+// by itself would see nothing happen.
 inline constexpr const char* kUninstallerManifest = "QNXUNIN.SHA256";
-// What the uninstaller removes, see `install_journal_name.h`.
+// Says what the uninstaller has to remove, see `install_journal_name.h`.
 inline constexpr const char* kInstallJournal = "QNXUNIN.LOG";
 } // namespace RuntimePrograms
 

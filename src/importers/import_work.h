@@ -43,12 +43,12 @@ struct ImportWork {
 enum class ImportEnd {
     Done,
     Refused,   // by a check, before anything changed
-    Cancelled, // where the destination was asked; the rows so far stay
+    Cancelled, // when asked for the destination; the rows so far stay
     Stopped,   // by the user in its midst; the rows so far stay
     Failed     // reported in a message box; the rows so far stay
 };
 
-/// Why a file that the import came upon has no new row.
+/// Why an import has added no row for a file.
 enum class NotAdded {
     NotInSystemFolder,
     NotAtSource,

@@ -44,11 +44,11 @@ struct ProgramFolder {
     Text damage;
 };
 
-/// What hangs on which program is the main one.
+/// What is found once the main program is chosen.
 struct ProgramFindings {
     ProgramMachine machine = ProgramMachine::Other;
-    // A managed program that runs as what the machine is. Its libraries may be for one machine
-    // only.
+    // A managed program for any processor: Windows runs it with 64 bits where it has them. Its
+    // libraries may be for one kind of processor only.
     bool isForAnyMachine = false;
     std::optional<MixedMachine> onlyFor; // the first of these libraries
     FileVersionData version;

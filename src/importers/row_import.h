@@ -55,7 +55,7 @@ public:
     bool IsStopped() const { return isStopped_; }
     ImportResult Finish(ImportEnd end);
 
-    /// While steps run that nobody is asked in.
+    /// Shows the busy pointer, which must be off before anything is asked.
     void ShowBusy(bool isBusy);
 
     Host GetHost() const { return work_.list.host; }

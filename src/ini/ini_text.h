@@ -14,7 +14,8 @@ namespace quillon {
 /// An INI file as bytes on file. Texts that go in and out are in the same encoding as the bytes.
 class IniText {
 public:
-    /// Of which names are equal: by ASCII alone where the bytes may be of any code page.
+    /// How names are compared without case. In bytes of an unknown code page only the letters A to
+    /// Z have another case.
     enum class Names { Bytes, Utf8 };
 
     explicit IniText(std::string bytes, Names names = Names::Bytes)

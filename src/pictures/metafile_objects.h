@@ -37,14 +37,15 @@ struct MetafileFont {
 };
 
 struct MetafileRegion {
-    // What is all of it, in the drawing's own units.
+    // One rectangle, in the drawing's own units.
     int left = 0;
     int top = 0;
     int right = 0;
     int bottom = 0;
 };
 
-/// One of them; with none it only takes its place in the table, as a palette does.
+/// At most one of these is set. An object of another kind, such as a palette, sets none of them and
+/// only takes its place in the table.
 struct MetafileObject {
     std::unique_ptr<const MetafilePen> pen;
     std::unique_ptr<const MetafileBrush> brush;

@@ -137,7 +137,7 @@ private:
 
     struct Blit {
         FineRect target;
-        // Of the bitmap, from its top left.
+        // The part of the bitmap that is painted, from the bitmap's top left.
         int left = 0;
         int top = 0;
         int width = 0;

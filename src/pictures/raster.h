@@ -26,9 +26,9 @@ struct Paint {
     // as it is where that is 0.
     const std::uint8_t* hatch = nullptr;
     Pixel background = 0;
-    // In the place of both: pixels that are repeated.
+    // Where set, its pixels are repeated, and neither colours nor hatch are used.
     const Picture* tile = nullptr;
-    // How many pixels of the raster are one of a pattern.
+    // The size of one pixel of a pattern, in pixels of the raster.
     int patternScale = 1;
     Combination combination = kCopy;
 };

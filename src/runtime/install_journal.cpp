@@ -54,13 +54,13 @@ std::optional<std::vector<JournalRecord>> ReadInstallJournal(std::string_view by
 
 std::vector<Text> InstallJournalsIn(const FileSystem& files, const Text& mainFolder)
 {
-    std::vector<Text> logs;
+    std::vector<Text> journals;
     if (!files.DirExists(mainFolder))
-        return logs;
+        return journals;
     for (const FolderEntry& entry : files.List(mainFolder))
         if (IsInstallJournalName(entry.name))
-            logs.push_back(JoinPath(mainFolder, entry.name));
-    return logs;
+            journals.push_back(JoinPath(mainFolder, entry.name));
+    return journals;
 }
 
 std::optional<Text> ProductOfJournal(const FileSystem& files, const Text& path)

@@ -14,14 +14,14 @@
 
 namespace quillon {
 
-/// The records of a log file from its bytes, of this format or of the first; nothing where it is no
-/// such log. A last line that broke off in the middle is left out.
+/// The records of a journal from its bytes, of this format or of the first; nothing where it is no
+/// such journal. A last line that broke off in the middle is left out.
 std::optional<std::vector<JournalRecord>> ReadInstallJournal(std::string_view bytes);
 
-/// The logs of all products that share a main folder.
+/// The journals of all products that share a main folder.
 std::vector<Text> InstallJournalsIn(const FileSystem& files, const Text& mainFolder);
 
-/// The product that a log file is of; nothing where the file is no log.
+/// The product that a journal is of; nothing where the file is no journal.
 std::optional<Text> ProductOfJournal(const FileSystem& files, const Text& path);
 
 class InstallJournal {

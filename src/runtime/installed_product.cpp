@@ -31,7 +31,7 @@ std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files,
     return product;
 }
 
-void ForgetSharedFiles(const JournalToRewrite& log, const std::vector<JournalRecord>& records,
+void ForgetSharedFiles(const JournalToRewrite& journal, const std::vector<JournalRecord>& records,
                        const std::set<Text>& paths)
 {
     std::set<Text> dropped;
@@ -40,19 +40,19 @@ void ForgetSharedFiles(const JournalToRewrite& log, const std::vector<JournalRec
             paths.count(LowerCase(SubjectOf(record))) > 0)
             dropped.insert(JournalLine(record));
     Text kept;
-    for (const Text& line : SplitLines(ReadWholeFile(log.files, log.path)))
+    for (const Text& line : SplitLines(ReadWholeFile(journal.files, journal.path)))
         if (dropped.count(line) == 0 && !line.empty())
             kept += line + Text(kLineBreak);
-    RewriteFile({log.files, log.target}, log.path, kept);
-    log.target.CloseToOthers(log.path);
+    RewriteFile({journal.files, journal.target}, journal.path, kept);
+    journal.target.CloseToOthers(journal.path);
 }
 
 bool IsInSameFolder(const FileSystem& files, const Text& journalPath, const Text& program)
 {
     const Text wanted = files.ShortPath(journalPath);
-    const std::vector<Text> logs = InstallJournalsIn(files, ExtractDirectory(program));
-    return std::any_of(logs.begin(), logs.end(), [&](const Text& log) {
-        return EqualIgnoreCase(files.ShortPath(log), wanted);
+    const std::vector<Text> journals = InstallJournalsIn(files, ExtractDirectory(program));
+    return std::any_of(journals.begin(), journals.end(), [&](const Text& journal) {
+        return EqualIgnoreCase(files.ShortPath(journal), wanted);
     });
 }
 
@@ -70,9 +70,9 @@ bool IsUninstallerRemovedWith(const FileSystem& files, const Text& journalPath,
     const Text own = files.ShortPath(UninstallerPath(folder));
     if (!EqualIgnoreCase(files.ShortPath(uninstaller), own))
         return false;
-    const std::vector<Text> logs = InstallJournalsIn(files, folder);
-    return std::all_of(logs.begin(), logs.end(),
-                       [&](const Text& log) { return EqualIgnoreCase(log, journalPath); });
+    const std::vector<Text> journals = InstallJournalsIn(files, folder);
+    return std::all_of(journals.begin(), journals.end(),
+                       [&](const Text& journal) { return EqualIgnoreCase(journal, journalPath); });
 }
 
 } // namespace quillon

@@ -14,11 +14,11 @@ namespace quillon {
 
 struct InstalledProduct {
     Text name;
-    LanguageTexts texts; // with those that the installation recorded
+    LanguageTexts texts; // the installation's where it recorded them, else the standard ones
     std::vector<JournalRecord> records;
 };
 
-/// Nothing where the file is missing or no log.
+/// Nothing where the file is missing or no journal.
 std::optional<InstalledProduct> ReadInstalledProduct(const FileSystem& files,
                                                      const Text& journalPath);
 
@@ -28,17 +28,17 @@ struct JournalToRewrite {
     const Text& path;
 };
 
-/// Writes the log anew without the records that count those shared files; the paths are in lower
-/// case.
-void ForgetSharedFiles(const JournalToRewrite& log, const std::vector<JournalRecord>& records,
+/// Writes the journal anew without the records that count those shared files; the paths are in
+/// lower case.
+void ForgetSharedFiles(const JournalToRewrite& journal, const std::vector<JournalRecord>& records,
                        const std::set<Text>& paths);
 
-/// Whether the log is one of a product in the folder of that program.
+/// Whether the journal is one of a product in the folder of that program.
 bool IsInSameFolder(const FileSystem& files, const Text& journalPath, const Text& program);
 
-/// The uninstaller believes no other log: it would remove whatever a file says that somebody has
-/// given it. One that is beside it must not be of a user with fewer rights either, unless that
-/// user has made the program as well.
+/// The uninstaller takes no other journal: it would remove whatever is named in a file that
+/// somebody has given it. A journal beside the program must not belong to a user with fewer rights
+/// either, unless the program belongs to the same user.
 bool IsTrusted(const FileSystem& files, const Target& target, const Text& journalPath,
                const Text& program);
 

@@ -18,16 +18,18 @@ public:
     RecordedPaths(const std::vector<JournalRecord>& records, const Host& host, const Target& target,
                   const Text& mainFolder);
 
-    /// Whether others than this product count on the file.
+    /// Whether other products use the file too.
     bool IsShared(const Text& path) const;
-    /// The shared files that others count on, which this product has counted too.
+    /// The shared files that other products use too, and that this product has counted.
     const std::set<Text>& ToRelease() const { return toRelease_; }
 
-    /// Whether the file of that `Replaced` record is not ours to remove, or stays for others' sake.
+    /// Whether the file of the `Replaced` record is to stay: because it is the former one again, or
+    /// waits to be replaced, or for the reason of `WasInWindows`.
     bool KeepsReplaced(std::size_t index) const;
-    /// The same for the sake of others alone: the file was in the Windows folder before us.
+    /// Whether the file was in the Windows folder before the installation, where other programs may
+    /// need it, and has no backup that comes back.
     bool WasInWindows(std::size_t index) const;
-    /// Whether the file is still there after us, so that what the system knows of it has to stay.
+    /// Whether the file is still there after the uninstallation, so that its registration stays.
     bool Stays(const Text& path) const { return removed_.count(LowerCase(path)) == 0; }
 
     /// Replacements that still wait for the machine's next start.

@@ -14,14 +14,14 @@
 
 namespace quillon {
 
-// Nothing is found where there is no log that this program believes.
+// Nothing is found where there is no trusted journal.
 void UninstallProgram::FindProduct()
 {
     const FileSystem& files = input_.host.files;
-    const Text& log = input_.line.journalPath;
+    const Text& journal = input_.line.journalPath;
     product_.reset();
-    if (IsTrusted(files, input_.target, log, input_.program))
-        product_ = ReadInstalledProduct(files, log);
+    if (IsTrusted(files, input_.target, journal, input_.program))
+        product_ = ReadInstalledProduct(files, journal);
     if (product_)
         texts_ = product_->texts;
 }
@@ -75,14 +75,14 @@ UninstallProgram::Refusal UninstallProgram::WithoutProduct() const
                     ? ExitCode::RestartNeeded
                     : ExitCode::Done,
                 {}};
-    const Text& log = input_.line.journalPath;
+    const Text& journal = input_.line.journalPath;
+    const bool isThere = input_.host.files.FileExists(journal);
     // Only what was in use is still there.
-    if (IsRemovedAtRestart(input_.target, log) ||
-        (!input_.host.files.FileExists(log) && IsRemovedAtRestart(input_.target, input_.program)))
+    if (IsRemovedAtRestart(input_.target, journal) ||
+        (!isThere && IsRemovedAtRestart(input_.target, input_.program)))
         return {ExitCode::AlreadyUninstalled, Texts()[Message::UninstallGone]};
-    const bool isThere = input_.host.files.FileExists(log);
     return {isThere ? ExitCode::Failed : ExitCode::NothingInstalled,
-            Texts()(Message::UninstallNoJournal, log)};
+            Texts()(Message::UninstallNoJournal, journal)};
 }
 
 std::optional<UninstallProgram::Refusal> UninstallProgram::WhyRefused() const

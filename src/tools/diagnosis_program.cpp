@@ -17,7 +17,7 @@ void StartDiagnosis(Host& host, const Text& toolFolder, const Text& ownFolder, c
     const Text own = JoinPath(toolFolder, kOwnProgram);
     const Text program = host.files.FileExists(own) ? own : JoinPath(toolFolder, kWindowsProgram);
     Text arguments = " /X";
-    // By itself the program writes beside itself.
+    // Without /To= the program writes into its own folder.
     if (ownFolder != toolFolder)
         arguments += " \"/To=" + DiagnosisFile(ownFolder) + "\"";
     host.machine.StartProgram(program, arguments + more);

@@ -23,13 +23,13 @@ constexpr int kCannotTrace = 125;
     const int nowhere = open("/dev/null", O_RDWR);
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         dup2(nowhere, stream);
-    std::vector<char*> words;
-    for (const std::string& word : command)
-        words.push_back(const_cast<char*>(word.c_str()));
-    words.push_back(nullptr);
+    std::vector<char*> arguments;
+    for (const std::string& argument : command)
+        arguments.push_back(const_cast<char*>(argument.c_str()));
+    arguments.push_back(nullptr);
     if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
         _exit(kCannotTrace);
-    execv(words[0], words.data());
+    execv(arguments[0], arguments.data());
     _exit(127);
 }
 

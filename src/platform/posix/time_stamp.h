@@ -11,7 +11,7 @@ struct TimeStamp {
     Text signer;
     std::unique_ptr<ASN1_TIME, Closer<ASN1_STRING_free>> moment;
     bool isTrusted = false;
-    Text fault; // of a stamp that is no good
+    Text fault; // of a stamp that is invalid
 };
 
 /// `certificates` are those of the signature, among which an older stamp has its own.

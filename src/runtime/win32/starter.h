@@ -49,7 +49,7 @@ bool MakeWorkFolder(Starter& starter);
 
 /// Copies the program from the starter's folder to the private one; `to` is its path there. The
 /// copy is compared with the list, and not what it was made of: nobody else can change it any more.
-/// Where it is no good, or can't be copied, that file is the refused one.
+/// Where it is invalid, or can't be copied, that file is the refused one.
 bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& program,
                       const ListedFiles& listed);
 void SetRefused(Starter& starter, const wchar_t* name);

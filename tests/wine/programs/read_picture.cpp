@@ -46,12 +46,12 @@ void Append(std::string& bytes, std::uint32_t number)
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
 {
     int count = 0;
-    wchar_t** words = CommandLineToArgvW(GetCommandLineW(), &count);
+    wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
     if (count != 5)
         return 2;
-    const quillon::PictureResult result = quillon::DecodePicture(ReadAll(words[1]));
-    const int width = static_cast<int>(std::wcstol(words[2], nullptr, 10));
-    const int height = static_cast<int>(std::wcstol(words[3], nullptr, 10));
+    const quillon::PictureResult result = quillon::DecodePicture(ReadAll(arguments[1]));
+    const int width = static_cast<int>(std::wcstol(arguments[2], nullptr, 10));
+    const int height = static_cast<int>(std::wcstol(arguments[3], nullptr, 10));
     NoLetters letters;
     const quillon::Picture& picture =
         result.picture.InSize(width == 0 ? result.picture.Width() : width,
@@ -62,7 +62,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
     Append(bytes, static_cast<std::uint32_t>(result.fault));
     for (const quillon::Pixel pixel : picture.pixels)
         Append(bytes, pixel);
-    const HANDLE file = CreateFileW(words[4], GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    const HANDLE file =
+        CreateFileW(arguments[4], GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
     DWORD written = 0;
     WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
     CloseHandle(file);

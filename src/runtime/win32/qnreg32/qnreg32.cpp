@@ -10,12 +10,12 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int)
 {
     quillon::StartProgram();
     int count = 0;
-    LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
-    const bool off = count == 3 && lstrcmpiW(words[1], L"/U") == 0;
-    if (words == nullptr || (count != 2 && !off))
+    LPWSTR* const arguments = CommandLineToArgvW(GetCommandLineW(), &count);
+    const bool off = count == 3 && lstrcmpiW(arguments[1], L"/U") == 0;
+    if (arguments == nullptr || (count != 2 && !off))
         return quillon::kRegistrationFailed;
     OleInitialize(nullptr);
-    const int result = quillon::RegisterServerFile(words[count - 1], !off);
+    const int result = quillon::RegisterServerFile(arguments[count - 1], !off);
     OleUninitialize();
     return result;
 }

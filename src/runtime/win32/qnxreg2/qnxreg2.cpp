@@ -10,13 +10,13 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int)
 {
     quillon::StartProgram();
     int count = 0;
-    LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
-    if (words == nullptr)
+    LPWSTR* const arguments = CommandLineToArgvW(GetCommandLineW(), &count);
+    if (arguments == nullptr)
         return 1;
     OleInitialize(nullptr);
     int failed = 0;
     for (int i = 1; i < count; ++i)
-        if (quillon::RegisterServerFile(words[i], true) != quillon::kRegistrationDone)
+        if (quillon::RegisterServerFile(arguments[i], true) != quillon::kRegistrationDone)
             ++failed;
     OleUninitialize();
     return failed;
