@@ -2,7 +2,7 @@
 // reason, and a list that is written from what was read is read as the same.
 #include "helpers/ansi_text.h"
 #include "require.h"
-#include "runtime/ini_lines.h"
+#include "runtime/ini_files/ini_lines.h"
 
 #include <algorithm>
 #include <tuple>

@@ -1,9 +1,9 @@
 // Install logs and journals of transactions of any content: what is read comes back from its own
 // line, and no record has a key of the system's own removed.
-#include "runtime/install_journal.h"
-#include "runtime/journal_table.h"
-#include "runtime/registry_lines.h"
-#include "runtime/transaction_journal.h"
+#include "runtime/journal/install_journal.h"
+#include "runtime/journal/journal_table.h"
+#include "runtime/journal/transaction_journal.h"
+#include "runtime/registry/registry_lines.h"
 
 #include <cstdlib>
 

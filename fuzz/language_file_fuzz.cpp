@@ -1,5 +1,5 @@
 // Language files of any content: every text is there, short enough to be shown, and a text.
-#include "runtime/language_file.h"
+#include "runtime/texts/language_file.h"
 
 #include "helpers/utf8.h"
 

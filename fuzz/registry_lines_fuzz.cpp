@@ -4,7 +4,7 @@
 #include "actions/unsavable_line.h"
 #include "helpers/ansi_text.h"
 #include "require.h"
-#include "runtime/registry_lines.h"
+#include "runtime/registry/registry_lines.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 // silent exactly when the setup is, and a switch that is quoted as a whole means what it says.
 #include "helpers/drive_path.h"
 #include "require.h"
-#include "runtime/switch_words.h"
-#include "runtime/switches.h"
+#include "runtime/command_line/switch_words.h"
+#include "runtime/command_line/switches.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "platform/ask.h"
-#include "runtime/action_log.h"
+#include "runtime/command_line/switches.h"
 #include "runtime/file_users.h"
-#include "runtime/switches.h"
+#include "runtime/log/action_log.h"
 
 namespace quillon {
 

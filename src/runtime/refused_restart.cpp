@@ -3,7 +3,7 @@
 #include "helpers/number_text.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "runtime/action_log.h"
+#include "runtime/log/action_log.h"
 
 namespace quillon {
 

@@ -5,8 +5,8 @@
 
 #include "platform/file_system.h"
 #include "platform/machine.h"
-#include "runtime/json_log.h"
-#include "runtime/language_file.h"
+#include "runtime/log/json_log.h"
+#include "runtime/texts/language_file.h"
 
 namespace quillon {
 

@@ -3,16 +3,16 @@
 #pragma once
 
 #include "platform/ask.h"
-#include "runtime/action_log.h"
 #include "runtime/background_sound.h"
-#include "runtime/container.h"
-#include "runtime/exit_codes.h"
+#include "runtime/command_line/exit_codes.h"
+#include "runtime/command_line/switches.h"
 #include "runtime/file_users.h"
-#include "runtime/install_plan.h"
-#include "runtime/loaded_package.h"
+#include "runtime/install/install_plan.h"
+#include "runtime/log/action_log.h"
+#include "runtime/package/container.h"
+#include "runtime/package/loaded_package.h"
 #include "runtime/pages/page.h"
-#include "runtime/start_uninstaller.h"
-#include "runtime/switches.h"
+#include "runtime/uninstall/start_uninstaller.h"
 
 namespace quillon {
 

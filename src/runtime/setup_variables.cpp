@@ -3,7 +3,7 @@
 #include "formats/registry_marks.h"
 #include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
-#include "runtime/switches.h"
+#include "runtime/command_line/switches.h"
 
 namespace quillon {
 

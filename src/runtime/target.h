@@ -6,7 +6,7 @@
 
 #include "platform/file_system.h"
 #include "platform/machine.h"
-#include "runtime/registry_data.h"
+#include "runtime/registry/registry_data.h"
 
 #include <memory>
 #include <optional>

@@ -1,9 +1,9 @@
 #include "runtime/test_mode.h"
 
-#include "runtime/failure_reason.h"
 #include "runtime/pages/page_chain.h"
 #include "runtime/pages/page_order.h"
 #include "runtime/script/script_run.h"
+#include "runtime/texts/failure_reason.h"
 
 namespace quillon {
 

@@ -5,9 +5,9 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/background_sound.h"
-#include "runtime/data_access.h"
-#include "runtime/first_program.h"
-#include "runtime/rollback.h"
+#include "runtime/install/data_access.h"
+#include "runtime/install/first_program.h"
+#include "runtime/journal/rollback.h"
 #include "runtime/run_folder.h"
 #include "runtime/script/script_run.h"
 

@@ -1,7 +1,7 @@
 // Reads a package's archive without the library that travels with it.
 #pragma once
 
-#include "runtime/container.h"
+#include "runtime/package/container.h"
 
 namespace quillon {
 

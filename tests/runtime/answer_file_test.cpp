@@ -2,7 +2,7 @@
 #include "scripted_pages.h"
 #include "unattended_fixture.h"
 
-#include "runtime/answer_file.h"
+#include "runtime/command_line/answer_file.h"
 
 #include <gmock/gmock.h>
 

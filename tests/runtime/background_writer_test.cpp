@@ -1,4 +1,4 @@
-#include "runtime/background_writer.h"
+#include "runtime/install/background_writer.h"
 
 #include "formats/digest_text.h"
 #include "platform/run_error.h"

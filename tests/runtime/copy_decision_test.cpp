@@ -1,6 +1,6 @@
-#include "runtime/copy_decision.h"
+#include "runtime/install/copy_decision.h"
 
-#include "runtime/language_file.h"
+#include "runtime/texts/language_file.h"
 
 #include <gtest/gtest.h>
 

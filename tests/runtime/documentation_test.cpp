@@ -1,8 +1,8 @@
 // docs/variables-and-lists.md names every variable, and its examples are lines that the setup
 // reads; so are those of docs/setup-scripts.md.
 #include "formats/variable_names.h"
-#include "runtime/ini_lines.h"
-#include "runtime/registry_lines.h"
+#include "runtime/ini_files/ini_lines.h"
+#include "runtime/registry/registry_lines.h"
 #include "runtime/script/script_lines.h"
 
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "runtime/failure_reason.h"
+#include "runtime/texts/failure_reason.h"
 
 #include <gtest/gtest.h>
 

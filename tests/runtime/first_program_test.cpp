@@ -1,7 +1,7 @@
 // The program that a package for download starts before anything else.
-#include "runtime/first_program.h"
+#include "runtime/install/first_program.h"
 
-#include "runtime/failure_reason.h"
+#include "runtime/texts/failure_reason.h"
 #include "setup_fixture.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 // A folder that somebody else has made: what is installed there could be exchanged.
 #include "setup_fixture.h"
 
-#include "runtime/trusted_folders.h"
+#include "runtime/install/trusted_folders.h"
 
 namespace quillon {
 namespace {

@@ -1,6 +1,6 @@
 #include "full_product.h"
 
-#include "runtime/package_reader.h"
+#include "runtime/package/package_reader.h"
 
 namespace quillon::test {
 

@@ -1,4 +1,4 @@
-#include "runtime/ini_lines.h"
+#include "runtime/ini_files/ini_lines.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "runtime/install_journal.h"
+#include "runtime/journal/install_journal.h"
 
 #include "support/memory_host.h"
 

@@ -1,10 +1,10 @@
 // Each change that a transaction can make, by itself: it is noted before it is made, it can be
 // taken back, and after a kill a second time, and it stays once it is committed.
-#include "runtime/install_transaction.h"
+#include "runtime/journal/install_transaction.h"
 
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "runtime/rollback.h"
+#include "runtime/journal/rollback.h"
 #include "setup_fixture.h"
 
 #include <gmock/gmock.h>

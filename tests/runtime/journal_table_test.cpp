@@ -1,4 +1,4 @@
-#include "runtime/journal_table.h"
+#include "runtime/journal/journal_table.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "runtime/json_writer.h"
+#include "runtime/log/json_writer.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

@@ -1,7 +1,7 @@
 // Text files that setup and uninstaller write anew: their rights and attributes are what they were.
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/ini_changes.h"
+#include "runtime/ini_files/ini_changes.h"
 #include "setup_fixture.h"
 
 namespace quillon::test {

@@ -1,4 +1,4 @@
-#include "runtime/language_file.h"
+#include "runtime/texts/language_file.h"
 
 #include <gtest/gtest.h>
 

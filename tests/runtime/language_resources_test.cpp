@@ -1,7 +1,7 @@
 // The language files that are laid beside the tool: each one says everything that the reference
 // says.
 #include "helpers/ansi_text.h"
-#include "runtime/language_file.h"
+#include "runtime/texts/language_file.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

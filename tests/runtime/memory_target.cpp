@@ -2,7 +2,7 @@
 
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "runtime/restart_moves.h"
+#include "runtime/journal/restart_moves.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "runtime/net_framework.h"
+#include "runtime/install/net_framework.h"
 
 #include "setup_fixture.h"
 

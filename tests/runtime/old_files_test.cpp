@@ -1,7 +1,7 @@
 // What an update does with the files of the earlier version that it lacks.
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/install_journal.h"
+#include "runtime/journal/install_journal.h"
 #include "setup_fixture.h"
 
 #include <gmock/gmock.h>

@@ -1,11 +1,11 @@
 // What is started or installed from the private folder is what the package lists, whoever may write
 // to the package's folder.
-#include "runtime/package_copy.h"
+#include "runtime/package/package_copy.h"
 
 #include "formats/package.h"
 #include "formats/package_contents.h"
 #include "helpers/windows_path.h"
-#include "runtime/before_install.h"
+#include "runtime/install/before_install.h"
 #include "setup_fixture.h"
 
 #include <gmock/gmock.h>

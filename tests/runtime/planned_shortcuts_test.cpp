@@ -1,6 +1,6 @@
 #include "setup_fixture.h"
 
-#include "runtime/planned_shortcuts.h"
+#include "runtime/install/planned_shortcuts.h"
 
 namespace quillon {
 

@@ -1,4 +1,4 @@
-#include "runtime/protected_keys.h"
+#include "runtime/registry/protected_keys.h"
 
 #include <gtest/gtest.h>
 

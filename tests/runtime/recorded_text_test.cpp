@@ -1,9 +1,9 @@
-#include "runtime/recorded_text.h"
+#include "runtime/journal/recorded_text.h"
 
 #include "platform/whole_file.h"
-#include "runtime/install_journal.h"
-#include "runtime/messages.h"
-#include "runtime/starter_messages.h"
+#include "runtime/journal/install_journal.h"
+#include "runtime/texts/messages.h"
+#include "runtime/texts/starter_messages.h"
 #include "setup_fixture.h"
 
 namespace quillon {

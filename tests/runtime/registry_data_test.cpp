@@ -1,4 +1,4 @@
-#include "runtime/registry_data.h"
+#include "runtime/registry/registry_data.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "runtime/registry_lines.h"
+#include "runtime/registry/registry_lines.h"
 
-#include "runtime/language_file.h"
+#include "runtime/texts/language_file.h"
 
 #include <gtest/gtest.h>
 

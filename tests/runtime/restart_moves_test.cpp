@@ -1,10 +1,10 @@
 // What waits for the machine's next start, when a later setup has done it already.
-#include "runtime/restart_moves.h"
+#include "runtime/journal/restart_moves.h"
 
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/install_journal.h"
-#include "runtime/rollback.h"
+#include "runtime/journal/install_journal.h"
+#include "runtime/journal/rollback.h"
 #include "setup_fixture.h"
 
 namespace quillon::test {

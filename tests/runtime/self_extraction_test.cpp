@@ -1,5 +1,5 @@
-#include "runtime/self_extract_command.h"
-#include "runtime/unpack_folder.h"
+#include "runtime/command_line/self_extract_command.h"
+#include "runtime/package/unpack_folder.h"
 
 #include "platform/run_error.h"
 #include "support/memory_host.h"

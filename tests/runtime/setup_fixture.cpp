@@ -2,8 +2,8 @@
 
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/answer_file.h"
-#include "runtime/uninstall.h"
+#include "runtime/command_line/answer_file.h"
+#include "runtime/uninstall/uninstall.h"
 
 namespace quillon::test {
 

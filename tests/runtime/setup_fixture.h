@@ -5,7 +5,7 @@
 #include "memory_target.h"
 #include "runtime/setup_program.h"
 #include "runtime/silent_ask.h"
-#include "runtime/uninstall.h"
+#include "runtime/uninstall/uninstall.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"
 

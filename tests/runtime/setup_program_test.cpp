@@ -2,7 +2,7 @@
 #include "setup_fixture.h"
 
 #include "platform/run_error.h"
-#include "runtime/file_installer.h"
+#include "runtime/install/file_installer.h"
 
 namespace quillon {
 

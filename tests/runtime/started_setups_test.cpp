@@ -1,10 +1,10 @@
 // A setup that is killed in a folder that its user has chosen, which nothing names but its own
 // note.
-#include "runtime/started_setups.h"
+#include "runtime/journal/started_setups.h"
 
 #include "platform/run_error.h"
-#include "runtime/transaction_journal.h"
-#include "runtime/uninstall_program.h"
+#include "runtime/journal/transaction_journal.h"
+#include "runtime/uninstall/uninstall_program.h"
 #include "setup_fixture.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
-#include "runtime/starter_text.h"
+#include "runtime/texts/starter_text.h"
 
 #include "helpers/code_page.h"
 #include "helpers/utf8.h"
-#include "runtime/language_file.h"
+#include "runtime/texts/language_file.h"
 
 #include <gtest/gtest.h>
 

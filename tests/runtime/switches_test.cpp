@@ -1,7 +1,7 @@
 #include "helpers/drive_path.h"
-#include "runtime/switches.h"
+#include "runtime/command_line/switches.h"
 
-#include "runtime/switch_words.h"
+#include "runtime/command_line/switch_words.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,8 @@
 #include "scripted_pages.h"
 #include "unattended_fixture.h"
 
-#include "runtime/uninstall_entry.h"
+#include "platform/run_error.h"
+#include "runtime/install/uninstall_entry.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 // The entry in the system's list of programs: each value of the table that writes it.
 #include "setup_fixture.h"
 
-#include "runtime/uninstall_entry.h"
+#include "runtime/install/uninstall_entry.h"
 
 namespace quillon {
 namespace {

@@ -3,10 +3,10 @@
 #include "setup_fixture.h"
 
 #include "platform/run_error.h"
-#include "runtime/file_installer.h"
-#include "runtime/removal_list.h"
-#include "runtime/restart_moves.h"
-#include "runtime/uninstall_program.h"
+#include "runtime/install/file_installer.h"
+#include "runtime/journal/restart_moves.h"
+#include "runtime/uninstall/removal_list.h"
+#include "runtime/uninstall/uninstall_program.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,10 +1,10 @@
 #include "setup_fixture.h"
 
 #include "platform/run_error.h"
-#include "runtime/file_installer.h"
-#include "runtime/ini_changes.h"
-#include "runtime/restart_moves.h"
-#include "runtime/uninstall.h"
+#include "runtime/ini_files/ini_changes.h"
+#include "runtime/install/file_installer.h"
+#include "runtime/journal/restart_moves.h"
+#include "runtime/uninstall/uninstall.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 
 #include "formats/digest_text.h"
 #include "formats/package_manifest.h"
-#include "runtime/uninstaller_files.h"
+#include "runtime/install/uninstaller_files.h"
 
 namespace quillon {
 namespace {

@@ -1,4 +1,4 @@
-#include "runtime/uninstaller_line.h"
+#include "runtime/command_line/uninstaller_line.h"
 
 #include <gtest/gtest.h>
 

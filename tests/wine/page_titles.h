@@ -1,8 +1,8 @@
 // What the pages of a product's setup are called in each language.
 #pragma once
 
-#include "runtime/language_file.h"
 #include "runtime/pages/page_order.h"
+#include "runtime/texts/language_file.h"
 #include "wine/package.h"
 #include "wine/sample_product.h"
 

@@ -2,7 +2,7 @@
 // the next version see by it what the user has changed.
 #include "formats/digest_text.h"
 #include "helpers/sha256.h"
-#include "runtime/install_journal.h"
+#include "runtime/journal/install_journal.h"
 #include "wine/sample_product.h"
 
 #include <gmock/gmock.h>

@@ -5,7 +5,7 @@
 
 #include "design/scalable_picture.h"
 #include "platform/file_system.h"
-#include "runtime/container.h"
+#include "runtime/package/container.h"
 
 namespace quillon {
 

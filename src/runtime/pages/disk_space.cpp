@@ -3,7 +3,7 @@
 #include "helpers/amount_text.h"
 #include "helpers/drive_path.h"
 #include "platform/run_error.h"
-#include "runtime/switches.h"
+#include "runtime/command_line/switches.h"
 
 namespace quillon {
 

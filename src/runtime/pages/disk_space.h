@@ -1,7 +1,7 @@
 // The room that an installation takes, and what is free where it goes, as the pages show it.
 #pragma once
 
-#include "runtime/install_plan.h"
+#include "runtime/install/install_plan.h"
 
 #include <optional>
 

@@ -3,8 +3,8 @@
 #include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "platform/registry_roots.h"
-#include "runtime/switches.h"
-#include "runtime/uninstall_entry.h"
+#include "runtime/command_line/switches.h"
+#include "runtime/install/uninstall_entry.h"
 
 #include <vector>
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "formats/setup_information.h"
-#include "runtime/messages.h"
 #include "runtime/pages/page.h"
+#include "runtime/texts/messages.h"
 
 #include <vector>
 

@@ -1,10 +1,10 @@
 #include "formats/setup_names.h"
 #include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
+#include "runtime/command_line/switches.h"
 #include "runtime/pages/disk_space.h"
 #include "runtime/pages/page_order.h"
 #include "runtime/pages/page_state.h"
-#include "runtime/switches.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 
 #include "formats/install_drives.h"
 #include "platform/ask.h"
-#include "runtime/install_plan.h"
+#include "runtime/install/install_plan.h"
 #include "runtime/pages/page.h"
 #include "runtime/pages/user_choices.h"
 

@@ -3,7 +3,7 @@
 // whole or not at all.
 #pragma once
 
-#include "runtime/registry_lines.h"
+#include "runtime/registry/registry_lines.h"
 
 #include <cstddef>
 #include <optional>

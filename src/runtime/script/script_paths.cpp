@@ -3,7 +3,7 @@
 #include "helpers/drive_path.h"
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
-#include "runtime/switches.h"
+#include "runtime/command_line/switches.h"
 
 namespace quillon {
 

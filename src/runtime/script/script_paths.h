@@ -1,8 +1,8 @@
 // Which paths a script may use.
 #pragma once
 
-#include "runtime/messages.h"
 #include "runtime/setup_variables.h"
+#include "runtime/texts/messages.h"
 
 #include <optional>
 

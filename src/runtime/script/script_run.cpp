@@ -3,13 +3,13 @@
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/failure_reason.h"
-#include "runtime/ini_changes.h"
-#include "runtime/package_copy.h"
-#include "runtime/registry_changes.h"
-#include "runtime/rollback.h"
+#include "runtime/command_line/switches.h"
+#include "runtime/ini_files/ini_changes.h"
+#include "runtime/journal/rollback.h"
+#include "runtime/package/package_copy.h"
+#include "runtime/registry/registry_changes.h"
 #include "runtime/script/script_paths.h"
-#include "runtime/switches.h"
+#include "runtime/texts/failure_reason.h"
 
 namespace quillon {
 

@@ -7,7 +7,7 @@
 // folder on the way could lead an administrator's setup elsewhere by a link.
 #pragma once
 
-#include "runtime/install.h"
+#include "runtime/install/install.h"
 #include "runtime/script/script_lines.h"
 
 namespace quillon {

@@ -3,7 +3,7 @@
 #include "archive/solid/package_container.h"
 #include "platform/run_error.h"
 #include "platform/win32/wide_text.h"
-#include "runtime/unzip_library.h"
+#include "runtime/package/unzip_library.h"
 
 #include <windows.h>
 

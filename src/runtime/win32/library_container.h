@@ -1,7 +1,7 @@
 // Archives unpacked through DUNZIP32.DLL.
 #pragma once
 
-#include "runtime/container.h"
+#include "runtime/package/container.h"
 
 namespace quillon {
 

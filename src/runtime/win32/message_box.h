@@ -2,7 +2,7 @@
 // its own, so that a box would speak two languages.
 #pragma once
 
-#include "runtime/language_file.h"
+#include "runtime/texts/language_file.h"
 
 #include <windows.h>
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "design/scalable_picture.h"
-#include "runtime/language_file.h"
 #include "runtime/pages/page.h"
+#include "runtime/texts/language_file.h"
 #include "runtime/win32/page_controls.h"
 
 #include <memory>

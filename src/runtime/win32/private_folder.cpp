@@ -5,7 +5,7 @@
 #include "platform/win32/locked_folder.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
-#include "runtime/rollback.h"
+#include "runtime/journal/rollback.h"
 #include "runtime/run_folder.h"
 #include "runtime/work_folders.h"
 

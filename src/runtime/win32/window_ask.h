@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/ask.h"
-#include "runtime/language_file.h"
+#include "runtime/texts/language_file.h"
 #include "runtime/win32/window_scale.h"
 
 #include <memory>

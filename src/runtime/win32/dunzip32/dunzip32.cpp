@@ -1,6 +1,6 @@
 // DUNZIP32.DLL: zlib for the setup. It needs nothing of the C++ library, whose exceptions alone are
 // larger than all of it.
-#include "runtime/unzip_library.h"
+#include "runtime/package/unzip_library.h"
 
 #include <zlib.h>
 

@@ -1,7 +1,7 @@
 // DUNZIP32.DLL of a package with a solid container: zlib as in every package, and the decoder of
 // zstd.
 #include "archive/solid/frame_functions.h"
-#include "runtime/unzip_library.h"
+#include "runtime/package/unzip_library.h"
 
 extern "C" {
 

@@ -8,7 +8,7 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
-#include "runtime/answer_file.h"
+#include "runtime/command_line/answer_file.h"
 #include "runtime/pages/design_files.h"
 #include "runtime/passive_ask.h"
 #include "runtime/refused_restart.h"

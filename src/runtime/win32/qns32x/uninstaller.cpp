@@ -6,7 +6,7 @@
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
 #include "runtime/passive_ask.h"
-#include "runtime/uninstall_program.h"
+#include "runtime/uninstall/uninstall_program.h"
 #include "runtime/win32/list_window.h"
 #include "runtime/win32/message_box.h"
 #include "runtime/win32/program_path.h"

@@ -1,7 +1,7 @@
 // The setup's program as the uninstaller, when the uninstaller's starter has started it.
 #pragma once
 
-#include "runtime/uninstaller_line.h"
+#include "runtime/command_line/uninstaller_line.h"
 
 #include <windows.h>
 

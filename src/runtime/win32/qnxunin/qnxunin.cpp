@@ -1,8 +1,8 @@
 // QNXUNIN: removes a product. It is a starter like SETUP32: what it starts is the setup proper,
 // which lies beside it and takes its place as the uninstaller. Its command line names the product's
 // record; without a name that is the one beside it.
-#include "runtime/recorded_text.h"
-#include "runtime/switch_words.h"
+#include "runtime/command_line/switch_words.h"
+#include "runtime/journal/recorded_text.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/qnxunin/self_removal.h"
 #include "runtime/win32/starter.h"

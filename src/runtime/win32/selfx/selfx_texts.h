@@ -4,7 +4,7 @@
 #pragma once
 
 #include "helpers/text.h"
-#include "runtime/self_extract_messages.h"
+#include "runtime/texts/self_extract_messages.h"
 
 #include <string_view>
 

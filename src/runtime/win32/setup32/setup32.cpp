@@ -3,8 +3,8 @@
 // up and ends with the same code.
 #include "formats/package_files.h"
 #include "project/reference_language.h"
-#include "runtime/starter_text.h"
-#include "runtime/switch_words.h"
+#include "runtime/command_line/switch_words.h"
+#include "runtime/texts/starter_text.h"
 #include "runtime/win32/ansi_character.h"
 #include "runtime/win32/display.h"
 #include "runtime/win32/program_start.h"

@@ -1,0 +1,246 @@
+#include "runtime/install/old_files.h"
+
+#include "formats/digest_text.h"
+#include "formats/package_manifest.h"
+#include "helpers/windows_path.h"
+#include "platform/run_error.h"
+#include "platform/whole_file.h"
+#include "runtime/install/file_installer.h"
+#include "runtime/install/old_shortcuts.h"
+#include "runtime/texts/failure_reason.h"
+
+#include <set>
+
+namespace quillon {
+
+namespace {
+
+struct EarlierFiles {
+    const FileSystem& files;
+    const Target& target;
+    const InstallJournal& record;
+    const KnownContents& contents;
+    const Text& mainFolder;
+};
+
+// In the place of a folder that the product made; those above it are the machine owner's own.
+bool LeadsThroughLink(const EarlierFiles& earlier, const Text& path)
+{
+    for (Text at = ExtractDirectory(path); earlier.record.Has<record::Folder>(at);
+         at = ExtractDirectory(at))
+        if (earlier.target.IsLink(at))
+            return true;
+    return false;
+}
+
+bool IsAsInstalled(const FileSystem& files, const record::Content& content)
+{
+    bool isSame = false;
+    RunErrorNumber([&] {
+        isSame = files.Status(content.path).size == content.size &&
+                 DigestText(DigestOfFile(files, content.path)) == content.digest;
+    });
+    return isSame;
+}
+
+// Older records do not hold what a shortcut was. One that still leads to the product is taken for
+// unchanged.
+bool IsOwnShortcut(const EarlierFiles& earlier, const Text& path)
+{
+    if (!IsShortcut(path))
+        return false;
+    const auto shortcut = earlier.target.ReadShortcut(path);
+    return shortcut && LeadsInto(earlier.mainFolder, *shortcut);
+}
+
+std::optional<Reason> ReasonToStay(const EarlierFiles& earlier, const Text& path)
+{
+    const auto content = earlier.contents.find(LowerCase(path));
+    const bool isKnown = content != earlier.contents.end();
+    if (!isKnown && !IsOwnShortcut(earlier, path))
+        return Reason{Message::SkipUnknownContent};
+    if (LeadsThroughLink(earlier, path))
+        return Reason{Message::ReasonLinkInPath};
+    // Of these the system knows more than their contents; the uninstaller takes that back too.
+    const InstallJournal& record = earlier.record;
+    if (CountOfUsers(earlier.target, path) || record.Has<record::Shared>(path) ||
+        record.Has<record::Registered>(path) || record.Has<record::Font>(path))
+        return Reason{Message::SkipKnownToSystem};
+    if (isKnown && !IsAsInstalled(earlier.files, content->second))
+        return Reason{Message::SkipChangedFile};
+    return std::nullopt;
+}
+
+std::set<Text> PathsOfNewVersion(const InstallPlan& plan)
+{
+    std::set<Text> paths;
+    for (const PlannedFile& file : plan.files)
+        paths.insert(LowerCase(file.path));
+    for (const SkippedPart& part : plan.skipped)
+        paths.insert(LowerCase(part.what));
+    for (const Text& shortcut : plan.shortcutsLeftOut)
+        paths.insert(LowerCase(shortcut));
+    return paths;
+}
+
+class OldFiles {
+public:
+    OldFiles(const OldFilesWork& work, std::size_t earlier, const KnownContents& contents)
+        : work_(work), files_(work.host.files), contents_(contents),
+          records_(work.record.Records()), earlier_(earlier), wanted_(PathsOfNewVersion(work.plan))
+    {
+        CollectNewOnes();
+    }
+
+    void RemoveAll();
+
+private:
+    void CollectNewOnes();
+    bool IsGone(const Text& path);
+    void KeepContents(const std::set<Text>& gone) const;
+    void KeepFolder(const Text& folder);
+    void NoteFolders(const Text& path);
+    void RemoveFolders();
+
+    const OldFilesWork& work_;
+    const FileSystem& files_;
+    const KnownContents& contents_;
+    const std::deque<JournalRecord>& records_;
+    const std::size_t earlier_;
+    std::set<Text> written_;       // by this installation; all in lower case
+    std::set<Text> wanted_;        // rows of the new version and their shortcuts, installed or not
+    std::set<Text> kept_;          // folders that the new version needs
+    std::map<Text, Text> leaving_; // folders that are empty afterwards, perhaps
+};
+
+void OldFiles::CollectNewOnes()
+{
+    for (std::size_t i = earlier_; i < records_.size(); ++i)
+        if (std::holds_alternative<record::File>(records_[i]) ||
+            std::holds_alternative<record::Replaced>(records_[i]))
+            written_.insert(LowerCase(SubjectOf(records_[i])));
+    for (const std::set<Text>* const paths : {&written_, &wanted_})
+        for (const Text& path : *paths)
+            KeepFolder(ExtractDirectory(path));
+    for (const Text& folder : work_.plan.folders)
+        KeepFolder(LowerCase(folder));
+    KeepFolder(LowerCase(work_.plan.mainFolder));
+}
+
+// The folder and all of its parents.
+void OldFiles::KeepFolder(const Text& folder)
+{
+    for (Text at = folder; kept_.insert(at).second;)
+        at = ExtractDirectory(at);
+}
+
+void OldFiles::RemoveAll()
+{
+    std::set<Text> gone;
+    for (std::size_t i = 0; i < earlier_; ++i) {
+        const auto* const file = std::get_if<record::File>(&records_[i]);
+        const Text key = file != nullptr ? LowerCase(file->path) : Text();
+        if (file == nullptr || written_.count(key) > 0 || wanted_.count(key) > 0 ||
+            gone.count(key) > 0)
+            continue;
+        // Taken along, since the record may grow meanwhile.
+        if (const Text path = file->path; IsGone(path)) {
+            gone.insert(key);
+            NoteFolders(path);
+        }
+    }
+    RemoveFolders();
+    KeepContents(gone);
+    work_.record.Forget(gone);
+}
+
+// True also where it had gone before.
+bool OldFiles::IsGone(const Text& path)
+{
+    if (!files_.FileExists(path))
+        return true;
+    std::optional<Reason> reason =
+        ReasonToStay({files_, work_.target, work_.record, contents_, work_.plan.mainFolder}, path);
+    std::optional<RunError> failure;
+    if (!reason && RunErrorNumber([&] { work_.transaction.RemoveFile(path); }, failure) != 0)
+        reason = ReasonOf(*failure);
+    if (reason)
+        work_.log.Skipped(path, *reason);
+    else
+        work_.log.Line(IsShortcut(path) ? Message::LogRemovesShortcut : Message::LogRemovesOldFile,
+                       path);
+    return !reason;
+}
+
+// What has not been written anew is still what it was.
+void OldFiles::KeepContents(const std::set<Text>& gone) const
+{
+    for (const auto& [key, content] : contents_)
+        if (written_.count(key) == 0 && gone.count(key) == 0)
+            work_.record.Add(content);
+}
+
+// Those that the product made and that nothing of the new version lies in. What somebody else has
+// put there keeps them.
+void OldFiles::NoteFolders(const Text& path)
+{
+    for (Text at = ExtractDirectory(path);
+         work_.record.Has<record::Folder>(at) && kept_.count(LowerCase(at)) == 0 &&
+         !work_.target.IsLink(at);
+         at = ExtractDirectory(at))
+        leaving_[LowerCase(at)] = at;
+}
+
+void OldFiles::RemoveFolders()
+{
+    // A folder comes after the one that it is in.
+    for (auto folder = leaving_.rbegin(); folder != leaving_.rend(); ++folder)
+        work_.transaction.RemoveFolderAtEnd(folder->second);
+}
+
+} // namespace
+
+EarlierRecord ReadEarlierRecord(const FileSystem& files, const Target& target, const Text& path)
+{
+    EarlierRecord earlier;
+    if (!files.FileExists(path) || !target.IsOfTrustedUser(path))
+        return earlier;
+    if (auto records = ReadInstallJournal(ReadWholeFile(files, path)))
+        earlier.records = std::move(*records);
+    // They are reported anew, and would come to more with each installation.
+    std::erase_if(earlier.records, [&](const JournalRecord& record) {
+        if (const auto* const content = std::get_if<record::Content>(&record))
+            earlier.contents[LowerCase(content->path)] = *content;
+        return std::holds_alternative<record::Product>(record) ||
+               std::holds_alternative<record::Message>(record) ||
+               std::holds_alternative<record::Content>(record);
+    });
+    return earlier;
+}
+
+std::vector<OldFile> PlanOldFiles(const FileSystem& files, const Target& target,
+                                  const InstallPlan& plan)
+{
+    EarlierRecord earlier = ReadEarlierRecord(files, target, plan.installJournal);
+    InstallJournal record;
+    record.TakeOver(std::move(earlier.records));
+    std::set<Text> known = PathsOfNewVersion(plan);
+    for (const PlannedShortcut& shortcut : plan.shortcuts)
+        known.insert(LowerCase(shortcut.path));
+    std::vector<OldFile> found;
+    for (const JournalRecord& one : record.Records())
+        if (const auto* const file = std::get_if<record::File>(&one);
+            file && known.insert(LowerCase(file->path)).second && files.FileExists(file->path))
+            found.push_back({file->path, ReasonToStay({files, target, record, earlier.contents,
+                                                       plan.mainFolder},
+                                                      file->path)});
+    return found;
+}
+
+void RemoveOldFiles(const OldFilesWork& work, std::size_t earlierRecords,
+                    const KnownContents& contents)
+{
+    OldFiles(work, earlierRecords, contents).RemoveAll();
+}
+
+} // namespace quillon

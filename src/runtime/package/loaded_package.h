@@ -1,0 +1,31 @@
+// What a package says of itself, read whole before anything is done.
+#pragma once
+
+#include "formats/install_row.h"
+#include "formats/package_manifest.h"
+#include "formats/setup_information.h"
+#include "platform/file_system.h"
+#include "runtime/texts/language_file.h"
+
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+struct LoadedPackage {
+    SetupInformation setup;
+    std::vector<InstallRow> rows;
+    PackageManifest manifest;
+    LanguageTexts texts;
+    std::optional<Reason> fault; // what is wrong with the package
+};
+
+/// Reads both INF files and the language file. `fault` names what is missing. A language
+/// file of that name goes before the project's own.
+LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder,
+                          const Text& languageFile = {});
+
+/// The same without the file list, of files that may be made for a preview alone.
+LoadedPackage LoadSetupInformation(const FileSystem& files, const Text& packageFolder);
+
+} // namespace quillon
