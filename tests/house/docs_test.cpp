@@ -95,18 +95,24 @@ bool IsIdentifier(const std::string& word)
     return std::regex_match(word, identifier);
 }
 
-/// A path of the repository; those below src/ may leave that out.
+/// A path of the repository; those below src/ may leave that out. Below a folder of src/ a file may
+/// stand without its ending, which then means header and source.
 bool IsSourcePath(const std::string& word)
 {
     static const std::regex path("[A-Za-z0-9_./-]+\\.(h|cpp|cmake|py|sh)");
+    static const std::regex withoutEnding("(src/)?([a-z]+)/[a-z0-9_/]+");
+    std::smatch parts;
+    if (std::regex_match(word, parts, withoutEnding))
+        return fs::is_directory(kRoot / "src" / parts[2].str());
     return word.find('/') != std::string::npos && std::regex_match(word, path);
 }
 
 bool Exists(const std::string& path)
 {
     for (const char* folder : {"", "src", "tests", "build"})
-        if (fs::exists(kRoot / folder / path))
-            return true;
+        for (const char* ending : {"", ".h", ".cpp"})
+            if (fs::exists(kRoot / folder / (path + ending)))
+                return true;
     return false;
 }
 
@@ -145,7 +151,12 @@ TEST(Docs, AreSearchedForWhatThereIsNot)
     EXPECT_TRUE(IsIdentifier("kMaxInFlight"));
     EXPECT_FALSE(IsIdentifier("PROJECT"));
     EXPECT_TRUE(IsSourcePath("formats/row_safety.h"));
+    EXPECT_TRUE(IsSourcePath("runtime/setup_program"));
+    EXPECT_TRUE(Exists("runtime/setup_program"));
+    EXPECT_TRUE(Exists("src/runtime/win32"));
+    EXPECT_FALSE(IsSourcePath("text/plain"));
     EXPECT_FALSE(Exists("formats/no_such_file.h"));
+    EXPECT_FALSE(Exists("runtime/no_such_file"));
     EXPECT_EQ(WithoutComments("int a; // NotHere\nauto b = \"// here\";"),
               "int a; \nauto b = \"// here\";");
     EXPECT_EQ(WordsOfTheSources().count(std::string("No") + "SuchIdentifier"), 0U);
