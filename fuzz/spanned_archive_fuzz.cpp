@@ -39,7 +39,7 @@ std::unique_ptr<InputFile> Joined(const std::vector<std::string>& pieces)
 }
 
 /// What there is to say of an archive: its entries, and what each of them gives.
-std::string Told(std::unique_ptr<InputFile> file)
+std::string OutcomeOfReading(std::unique_ptr<InputFile> file)
 {
     std::string outcome;
     try {
@@ -66,6 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     for (const std::string& piece : pieces)
         whole += piece;
     Require(Joined(pieces)->Size() == whole.size());
-    Require(Told(Joined(pieces)) == Told(std::make_unique<test::BytesInput>(whole)));
+    Require(OutcomeOfReading(Joined(pieces)) ==
+            OutcomeOfReading(std::make_unique<test::BytesInput>(whole)));
     return 0;
 }

@@ -2,7 +2,7 @@
 
 #include "formats/copy_letters.h"
 #include "helpers/windows_path.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 
 namespace quillon {
 
@@ -43,7 +43,7 @@ std::optional<Text> DocumentOfRow(const FileListRow& row, Ask& ask)
     // the main folder.
     const Text path =
         row[Destination] == kFileIsGone ? row[Filename] : JoinPath(row[Destination], row[Filename]);
-    const int maxLength = LongestText(section::kShowDocAfter, &ShowDocAfter::DocFileName);
+    const int maxLength = MaxTextLength(&ShowDocAfter::DocFileName);
     if (CharacterCount(path) <= static_cast<std::size_t>(maxLength))
         return path;
     ask.Inform("Ogiltig fil",

@@ -2,7 +2,7 @@
 
 #include "actions/kept_path.h"
 #include "platform/run_error.h"
-#include "project/dialog_keys.h"
+#include "project/text_limits.h"
 
 namespace quillon {
 
@@ -20,9 +20,8 @@ std::optional<Text> ChooseRtfFile(Text& folder, Ask& ask)
                            .fileName = "*.rtf",
                            .filter = "RTF-filer (*.rtf)|*.rtf",
                            .defaultExtension = ".rtf"},
-                          folder,
-                          LongestText(section::kDialogBoxData, &DialogBoxData::LicenseFilenameRtf),
-                          kDocument, ask);
+                          folder, MaxTextLength(&DialogBoxData::LicenseFilenameRtf), kDocument,
+                          ask);
 }
 
 void OpenRtfFile(const Text& path, Machine& machine, Ask& ask)

@@ -1,8 +1,8 @@
 #include "actions/dialog_bitmap.h"
 
 #include "actions/kept_path.h"
-#include "project/dialog_keys.h"
 #include "project/new_project.h"
+#include "project/text_limits.h"
 
 namespace quillon {
 
@@ -16,8 +16,7 @@ std::optional<Text> ChooseDlgBitmap(Text& folder, Ask& ask)
 {
     return ChooseKeptPath(
         {.title = "Välj bild", .filter = "Bitmappar (*.bmp)|*.bmp", .defaultExtension = ".bmp"},
-        folder, LongestText(section::kDialogBoxes, &section::DialogBoxes::DlgBitmap), kPicture,
-        ask);
+        folder, MaxTextLength(&section::DialogBoxes::DlgBitmap), kPicture, ask);
 }
 
 std::optional<Text> StandardDlgBitmap(const FileSystem& files, const Text& toolFolder, Ask& ask)

@@ -5,7 +5,7 @@
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/failure_text.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 
 #include <algorithm>
 
@@ -72,7 +72,7 @@ Text LanguageFileName(std::string_view typed)
 
 bool CanBeLanguageFile(const Text& name, Ask& ask)
 {
-    const int maxLength = LongestText(section::kLanguage, &section::Language::LanguageFile);
+    const int maxLength = MaxTextLength(&section::Language::LanguageFile);
     Text reason;
     if (FaultOfName(name) != PathFault::None)
         reason = "kan inte vara ett filnamn i Windows. Tecknen \\ / : * ? \" < > | är inte "

@@ -3,7 +3,7 @@
 #include "app/in_place.h"
 #include "filelist/forms/DlgCompMoreData.h"
 #include "helpers/number_text.h"
-#include "project/dialog_keys.h"
+#include "project/text_limits.h"
 
 #include <QtWidgets>
 
@@ -36,11 +36,11 @@ void ComponentsPage::MakeRow(std::size_t component, QGridLayout& grid)
     connect(row.cComp, &QCheckBox::clicked, this,
             [this, component](bool ticked) { Tick(component, ticked); });
     EditInPlace(row.tCompName, name("tCompName").c_str(), session_, stored.CompName,
-                LongestText(section::kFileComponent, &section::FileComponent::CompName));
+                MaxTextLength(&section::FileComponent::CompName));
     row.tCompName->setAccessibleName(QString::fromStdString("Namn på komponent nr " + number));
     Named(row.sCompDir, name("sCompDir").c_str(), new QLabel("Katalog:"));
     EditInPlace(row.tCompDir, name("tCompDir").c_str(), session_, stored.CompDir,
-                LongestText(section::kFileComponent, &section::FileComponent::CompDir));
+                MaxTextLength(&section::FileComponent::CompDir));
     row.tCompDir->setAccessibleName(QString::fromStdString("Katalog för komponent nr " + number));
     Button(row.cmdCompData, name("cmdCompData").c_str(), "Mer...",
            [this, component] { ShowCompMoreData(session_, component, this); });

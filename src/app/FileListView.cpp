@@ -202,7 +202,7 @@ int FileListView::WidthOf(const ListColumn& column) const
         return static_cast<int>(std::lround(set->second * logicalDpiX() / kUsualDpi));
     switch (column.column) {
     case Filename:
-        return NameWidth(std::max(Pixels(column.width), LeastWidth(column)));
+        return NameWidth(std::max(Pixels(column.width), MinWidth(column)));
     case Destination:
         return DestinationWidth();
     case ComponentNumber:
@@ -210,11 +210,11 @@ int FileListView::WidthOf(const ListColumn& column) const
     case Source:
         return Pixels(kSourceWidth);
     default:
-        return std::max(Pixels(column.width), LeastWidth(column));
+        return std::max(Pixels(column.width), MinWidth(column));
     }
 }
 
-int FileListView::LeastWidth(const ListColumn& column) const
+int FileListView::MinWidth(const ListColumn& column) const
 {
     const int margin = 2 * (style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header()) +
                             style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this));
@@ -222,11 +222,11 @@ int FileListView::LeastWidth(const ListColumn& column) const
                              fontMetrics().horizontalAdvance(WidestText(column.column)));
 }
 
-int FileListView::NameWidth(int least) const
+int FileListView::NameWidth(int minWidth) const
 {
-    const int most =
+    const int maxWidth =
         std::min(kMaxNameLetters * fontMetrics().averageCharWidth(), viewport()->width() / 2);
-    return std::max(least, std::min(widestName_, most));
+    return std::max(minWidth, std::min(widestName_, maxWidth));
 }
 
 void FileListView::MeasureNames()

@@ -52,8 +52,8 @@ private:
     void MakeHeader();
     void ArrangeColumns();
     int WidthOf(const ListColumn& column) const;
-    int LeastWidth(const ListColumn& column) const;
-    int NameWidth(int least) const;
+    int MinWidth(const ListColumn& column) const;
+    int NameWidth(int minWidth) const;
     int DestinationWidth() const;
     void MeasureNames();
     int Pixels(int twips) const;

@@ -2,7 +2,7 @@
 
 #include "app/in_place.h"
 #include "filelist/main_directory.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "ui/complete_variable.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
@@ -17,10 +17,10 @@ ProjectHeader::ProjectHeader(Session& session) : session_(session)
     setObjectName("ProjectHeader");
     Project& project = session.project;
     auto* name = EditInPlace(NAMED(tProjectName), session, project.ProjectName.ProjectName,
-                             LongestText(kProjectName, &section::ProjectName::ProjectName));
-    auto* folder = EditInPlace(
-        NAMED(tDestinationDirectory), session, project.InstallDirectories.DestinationDirectory,
-        LongestText(kInstallDirectories, &InstallDirectories::DestinationDirectory));
+                             MaxTextLength(&section::ProjectName::ProjectName));
+    auto* folder = EditInPlace(NAMED(tDestinationDirectory), session,
+                               project.InstallDirectories.DestinationDirectory,
+                               MaxTextLength(&InstallDirectories::DestinationDirectory));
     CompleteVariables(folder, PrefixTable::MainFolder);
     OnLeave(folder, [this] { LeaveDestinationDirectory(); });
     Arrange(this, Fields({{"&Projektnamn:", name}, {"Huvud&katalog:", folder}}));

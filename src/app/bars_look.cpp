@@ -17,9 +17,9 @@ struct Look {
     QString menu;         // after the entries
     QString menuEdge;     // round them
     QString hover;        // under the pointer
-    QString hoverEdge;    //
-    QString pressed;      //
-    QString pressedEdge;  //
+    QString hoverEdge;    // its border
+    QString pressed;      // under a button that is held down
+    QString pressedEdge;  // its border
     QString radius = "0"; // of the corners of a button
 };
 

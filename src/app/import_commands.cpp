@@ -36,7 +36,7 @@ bool EditIcon(Session& session, FileListRow& row, const Text& title, QWidget* pa
 
 } // namespace
 
-ImportDesk MakeImportDesk(MainForm& form)
+ImportContext MakeImportContext(MainForm& form)
 {
     Session& session = form.GetSession();
     return {

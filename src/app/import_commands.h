@@ -7,6 +7,6 @@ namespace quillon {
 
 class MainForm;
 
-ImportDesk MakeImportDesk(MainForm& form);
+ImportContext MakeImportContext(MainForm& form);
 
 } // namespace quillon

@@ -11,7 +11,7 @@ class QWidget;
 
 namespace quillon {
 
-/// A field that edits `value`; `maxLength` is in bytes on file (see `LongestText`).
+/// A field that edits `value`; `maxLength` is in bytes on file (see `MaxTextLength`).
 QLineEdit* EditInPlace(QLineEdit*& member, const char* name, Session& session, Text& value,
                        int maxLength);
 /// An area that edits a list, a line a row, in letters of one width. `maxLength` 0 is any length.

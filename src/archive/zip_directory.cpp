@@ -226,11 +226,11 @@ ZipEntry ReadEntry(DirectoryCursor& cursor, const Place& place, Directory::Exten
     entry.name = name;
     entry.comment = DecodeText(cursor.Take(header->commentLength), header->flags);
     RequireSoundSizes(entry, place);
-    const std::uint64_t least = kRecordSize<LocalHeader> + header->nameLength + entry.packedSize;
+    const std::uint64_t minSize = kRecordSize<LocalHeader> + header->nameLength + entry.packedSize;
     Require(entry.headerPosition <= place.position &&
-                least <= place.position - entry.headerPosition,
+                minSize <= place.position - entry.headerPosition,
             "en post ligger utanför arkivet");
-    extent = {entry.headerPosition, entry.headerPosition + least};
+    extent = {entry.headerPosition, entry.headerPosition + minSize};
     return entry;
 }
 

@@ -193,7 +193,7 @@ void CompressionInterface::State::Pack(const Order& order, OutputFile& unfinishe
             },
         .onEntry = [&](const ZipEntryReport& entry) { log.AddEntry(entry); },
         .onProgress = [&](std::uint64_t bytes, std::uint64_t all) { progress.Show(bytes, all); },
-        .onYield = [&] { ask.ProcessEvents(); }};
+        .processEvents = [&] { ask.ProcessEvents(); }};
     if (order.isSolid)
         WriteSolidContainer(host.files, Sources(order), unfinished, {}, watch);
     else

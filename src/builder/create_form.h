@@ -83,7 +83,7 @@ struct CompressOptionsForm {
     bool isCKeepCompressedFilesOneAndOneEnabled = true;
     bool isCd = true;
 
-    // Only one that is compressed, and as a whole, can be small.
+    // A small container needs compression of all files together.
     bool IsCSmallContainerEnabled() const { return isCd && cUseCompression != 0; }
 };
 

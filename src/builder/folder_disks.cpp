@@ -94,7 +94,7 @@ std::uint64_t FolderDisks::Capacity(const Text& folder) const
 
 std::uint64_t FolderDisks::ReservedBytes(std::uint64_t archiveSize) const
 {
-    constexpr std::uint64_t kLinesOfFiles = 2048; // two dozen
+    constexpr std::uint64_t kLinesOfFiles = 2048; // for about two dozen files
     constexpr std::uint64_t kLineOfPiece = 96;
     constexpr std::uint64_t kMinDiskSize = 360 * 1024;
     return WholeClusters(kLinesOfFiles + kLineOfPiece * (archiveSize / kMinDiskSize + 1));

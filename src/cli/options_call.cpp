@@ -25,7 +25,7 @@ Text OfferedLetters()
     return letters;
 }
 
-// Told as a mistake where the dialog would not let it be ticked, or would drop it.
+// Reported as a mistake where the dialog would not let it be ticked, or would drop it.
 Text OrderedOptions(const Text& typed)
 {
     const Text letters = UpperCase(typed);

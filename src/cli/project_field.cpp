@@ -124,10 +124,10 @@ private:
         return false;
     }
 
-    void RequireLength(std::size_t length, std::size_t longest) const
+    void RequireLength(std::size_t length, std::size_t maxLength) const
     {
-        if (length > longest)
-            Refuse("rymmer högst " + NumberText(static_cast<std::int64_t>(longest)) +
+        if (length > maxLength)
+            Refuse("rymmer högst " + NumberText(static_cast<std::int64_t>(maxLength)) +
                    " tecken; värdet har " + NumberText(static_cast<std::int64_t>(length)) + ".");
     }
 

@@ -46,8 +46,8 @@ int OuterColumns(int y, int width, int height)
         return (width + 1) / 2;
     const std::int64_t row = std::int64_t{FromMiddle(y, height)} * (width - 1);
     // FromMiddle(x) * (height - 1) >= row, where FromMiddle(x) = width - 1 - 2x on the left.
-    const std::int64_t least = (row + height - 2) / (height - 1);
-    const std::int64_t columns = (width - 1 - least) / 2 + 1;
+    const std::int64_t minWidth = (row + height - 2) / (height - 1);
+    const std::int64_t columns = (width - 1 - minWidth) / 2 + 1;
     return static_cast<int>(std::clamp<std::int64_t>(columns, 0, (width + 1) / 2));
 }
 

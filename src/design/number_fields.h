@@ -23,7 +23,7 @@ Integer UnderlineHeightToEdit(Integer stored);
 struct UnderlineChoice {
     bool takesColor1 = false;
     bool takesColor2 = false;
-    // Nothing: the spin control and the height stay.
+    // Empty: the spin control and the height stay as they are.
     std::optional<Integer> minHeight;
     std::optional<Integer> height;
 };

@@ -26,7 +26,7 @@ Text FullListText()
 Text TypedDestinationFaultText(const Text& destination)
 {
     switch (FaultOfDestination(destination)) {
-    case PathFault::NotWhole:
+    case PathFault::NotAbsolute:
     case PathFault::UnknownVariable:
         return {};
     default:

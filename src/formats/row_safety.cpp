@@ -143,7 +143,7 @@ Text PathFaultText(PathFault fault)
         return "'..' får inte ingå";
     case PathFault::Colon:
         return "ett kolon får bara stå efter enhetens bokstav";
-    case PathFault::NotWhole:
+    case PathFault::NotAbsolute:
         return "det är ingen fullständig katalog";
     case PathFault::UnknownVariable:
         return "variabeln är okänd";

@@ -88,7 +88,7 @@ std::optional<Text> Substitute(std::string_view text, std::u32string_view from,
     return result;
 }
 
-std::optional<int> ShiftOfHead(std::string_view text)
+std::optional<int> ShiftOfHeader(std::string_view text)
 {
     for (int shift = 0; shift <= kMaxShift; ++shift)
         if (text.starts_with(HeaderOfShift(shift)))
@@ -116,7 +116,7 @@ Text UnscrambleString(const Text& scrambled)
     if (!rest.starts_with(kMarker))
         return scrambled;
     rest.remove_prefix(kMarker.size());
-    const auto shift = ShiftOfHead(rest);
+    const auto shift = ShiftOfHeader(rest);
     if (!shift)
         return scrambled;
 

@@ -84,14 +84,14 @@ PathFault FaultOfFolder(std::string_view path)
     if (BeginsWithDrive(path)) {
         parts.remove_prefix(2);
         if (!StartsWithSeparator(parts))
-            return PathFault::NotWhole;
+            return PathFault::NotAbsolute;
     } else if (StartsWithSeparator(path)) {
         parts.remove_prefix(1);
         const bool isNetwork = StartsWithSeparator(parts) && parts.size() > 1;
         if (!isNetwork)
-            return PathFault::NotWhole;
+            return PathFault::NotAbsolute;
     }
-    return path.empty() ? PathFault::NotWhole : FaultOfParts(parts);
+    return path.empty() ? PathFault::NotAbsolute : FaultOfParts(parts);
 }
 
 } // namespace quillon

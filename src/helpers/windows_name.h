@@ -16,7 +16,7 @@ enum class PathFault {
     TooLong,         // more characters than a name can have
     Climbs,          // ".."
     Colon,           // anywhere but after the letter of a drive
-    NotWhole,        // no folder at all, or one that depends on the current folder: "C:Data"
+    NotAbsolute,     // no folder at all, or one that depends on the current folder: "C:Data"
     UnknownVariable, // at the beginning, where it has to name a folder
 };
 

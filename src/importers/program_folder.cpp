@@ -238,7 +238,7 @@ DotNetNeed FindDotNet(const FileSystem& files, const ProgramFolder& folder,
         if (files.Status(config).size <= kMaxRuntimeConfigSize)
             return NeedOfRuntimeConfig(ReadWholeFile(files, config));
     } catch (const RunError&) {
-        // Told as a damaged one.
+        // Reported as a damaged one.
     }
     return {.kind = DotNetNeed::Kind::Core,
             .name = ".NET",

@@ -25,7 +25,7 @@ struct FolderFile {
 struct MissingLibrary {
     Text name;
     std::vector<Text> neededBy; // relative paths, in the order of the folder
-    // Nobody is linked to it; it is loaded at first use only.
+    // No file imports it at load time, only by delayed import.
     bool isDelayed = false;
 };
 

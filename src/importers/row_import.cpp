@@ -282,7 +282,7 @@ bool HasSystemFolder(Host host, Ask& ask, const Text& what)
         if (std::ranges::any_of(entries, [](const auto& entry) { return !entry.status.isFolder; }))
             return true;
     } catch (const RunError&) {
-        // Told below, as a folder without files is.
+        // Reported below, as a folder without files is.
     }
     ask.Critical("Systemkatalogen saknas",
                  (folder.empty() ? Text("Den här datorn har ingen systemkatalog")

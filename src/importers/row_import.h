@@ -90,7 +90,7 @@ private:
     // imported again would else compare each of its files with each row.
     std::unordered_multimap<Text, std::size_t> rowsByName_;
     std::size_t rowsLookedAt_ = 0;
-    std::unordered_set<Text> reported_;           // of `notAdded_`
+    std::unordered_set<Text> reported_;           // the names in `notAdded_`
     std::unordered_set<Text> missingSystemFiles_; // their names, in lower case
 };
 

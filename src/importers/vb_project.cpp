@@ -55,9 +55,9 @@ std::optional<VbModule> ModuleIn(std::string_view line)
 
 Text TooManyReferencesText(const Text& path, const Text& what)
 {
-    const Text most = NumberText(static_cast<std::int64_t>(kMaxReferences));
-    return "Projektfilen '" + path + "' anger fler än " + most + " " + what +
-           ". Endast de första " + most + " är lästa.";
+    const Text maxCount = NumberText(static_cast<std::int64_t>(kMaxReferences));
+    return "Projektfilen '" + path + "' anger fler än " + maxCount + " " + what +
+           ". Endast de första " + maxCount + " är lästa.";
 }
 
 ActiveXFiles ActiveXFilesOf(const std::vector<Text>& lines)

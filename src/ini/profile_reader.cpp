@@ -88,8 +88,8 @@ Flag ProfileReader::ReadFlag(std::string_view key, Flag whenMissing) const
 Text ProfileReader::ReadText(std::string_view key, int limit) const
 {
     const std::string_view value = Find(key).value_or("");
-    const auto longest = static_cast<std::size_t>(limit > 0 ? limit - 1 : 0);
-    const std::string_view fitting = value.substr(0, longest);
+    const auto maxLength = static_cast<std::size_t>(limit > 0 ? limit - 1 : 0);
+    const std::string_view fitting = value.substr(0, maxLength);
     return AnsiText::FromBytes(fitting.substr(0, fitting.find('\0')));
 }
 

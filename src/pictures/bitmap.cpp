@@ -118,24 +118,24 @@ bool IsCompressionOf(const BitmapHeader& header)
 class Channel {
 public:
     explicit Channel(std::uint32_t mask)
-        : mask_(mask), shift_(mask == 0 ? 0 : std::countr_zero(mask)), most_(mask >> shift_)
+        : mask_(mask), shift_(mask == 0 ? 0 : std::countr_zero(mask)), maxValue_(mask >> shift_)
     {
     }
 
     Pixel operator()(std::uint32_t pixel) const
     {
-        if (most_ == 255)
+        if (maxValue_ == 255)
             return pixel >> shift_ & 0xFF;
-        if (most_ == 0)
+        if (maxValue_ == 0)
             return 0;
         const std::uint64_t value = (pixel & mask_) >> shift_;
-        return static_cast<Pixel>((value * 510 + most_) / (2 * std::uint64_t{most_}));
+        return static_cast<Pixel>((value * 510 + maxValue_) / (2 * std::uint64_t{maxValue_}));
     }
 
 private:
     std::uint32_t mask_;
     int shift_;
-    std::uint32_t most_;
+    std::uint32_t maxValue_;
 };
 
 class PlainPixels {

@@ -8,8 +8,9 @@ namespace quillon {
 
 namespace {
 
-// What a Bezier curve's handles take of the radius, so that four of them look like a circle.
-constexpr std::int64_t kHandle = 36195; // of 65536
+// What a Bezier curve's handles take of the radius, in 1/65536, so that four of them look like a
+// circle.
+constexpr std::int64_t kHandle = 36195;
 
 std::int64_t Root(std::int64_t square)
 {
@@ -148,7 +149,8 @@ FinePoints ArcOf(const FineRect& rect, FinePoint from, FinePoint to)
     const Intersection end = MeetingOf(ellipse, centre, to);
     FinePoints points{begin.point};
     std::size_t count = (end.behind + ellipse.size() - begin.behind) % ellipse.size();
-    // Both after one point: a small piece, or all but one.
+    // Begin and end lie on the same segment: the arc is a small piece of it, or the whole ellipse
+    // but for that piece.
     if (count == 0 && Cross(centre, begin.point, end.point) >= 0)
         count = ellipse.size();
     for (std::size_t i = 1; i <= count; ++i)
@@ -189,7 +191,7 @@ FinePath StrokeOf(const FinePoints& line, bool isClosed, std::int32_t width)
 }
 
 std::vector<FinePoints> DashesOf(const FinePoints& line, const std::vector<std::int32_t>& lengths,
-                                 std::size_t most)
+                                 std::size_t maxDashes)
 {
     std::vector<FinePoints> dashes;
     std::size_t at = 0;
@@ -207,7 +209,7 @@ std::vector<FinePoints> DashesOf(const FinePoints& line, const std::vector<std::
             };
             if (at % 2 == 0)
                 dashes.push_back({along(done), along(next)});
-            if (dashes.size() >= most)
+            if (dashes.size() >= maxDashes)
                 return dashes;
             left -= next - done;
             done = next;

@@ -17,7 +17,7 @@ struct FinePoint {
 };
 
 // Beyond every picture, and small enough that products of two fit in 64 bits with room to spare.
-inline constexpr std::int32_t kFurthest = 1 << 24;
+inline constexpr std::int32_t kMaxCoordinate = 1 << 24;
 
 using FinePoints = std::vector<FinePoint>;
 
@@ -59,8 +59,9 @@ FinePoints RoundRectOf(const FineRect& rect, std::int32_t across, std::int32_t d
 /// What a round pen of that width covers on its way from point to point.
 FinePath StrokeOf(const FinePoints& line, bool isClosed, std::int32_t width);
 
-/// The dashes of a line: lengths that are drawn and left out in turn. At most `most` come back.
+/// The dashes of a line: lengths that are drawn and left out in turn. At most `maxDashes` come
+/// back.
 std::vector<FinePoints> DashesOf(const FinePoints& line, const std::vector<std::int32_t>& lengths,
-                                 std::size_t most);
+                                 std::size_t maxDashes);
 
 } // namespace quillon

@@ -43,16 +43,16 @@ bool ReadFrame(const PictureBytes& frame, JpegHeader& header)
     header.height = BigWord(frame, at::kHeight);
     header.width = BigWord(frame, at::kWidth);
     const int components = frame.Byte(at::kComponents);
-    int most = 1;
+    int maxBlocks = 1;
     header.samples16 = 0;
     for (int i = 0; i < components && i < 4; ++i) {
         const int sampling =
             frame.Byte(at::kSampling + static_cast<std::size_t>(i) * at::kComponentSize);
         const int blocks = (sampling >> 4) * (sampling & 0xF);
-        most = std::max(most, blocks);
+        maxBlocks = std::max(maxBlocks, blocks);
         header.samples16 += blocks;
     }
-    header.samples16 = (header.samples16 * 16 + most - 1) / most;
+    header.samples16 = (header.samples16 * 16 + maxBlocks - 1) / maxBlocks;
     return frame.Byte(at::kPrecision) == 8 &&
            (components == 1 || components == 3 || components == 4) && header.width >= 1 &&
            header.height >= 1 && header.width <= kMaxSideSize && header.height <= kMaxSideSize;

@@ -134,7 +134,7 @@ PictureResult DecodeMetafile(std::string bytes)
     file->bytes = std::move(bytes);
     const PictureBytes all(file->bytes);
     const bool isPlaceable = all.Long(0) == metafile::kPlaceableKey;
-    const PictureBytes header = all.Part(isPlaceable ? metafile::kPlaceableHead : 0);
+    const PictureBytes header = all.Part(isPlaceable ? metafile::kPlaceableHeader : 0);
     if (!header.Has(0, metafile::kHeader) || !IsMetafile(header.View()))
         return {{}, PictureFault::Damaged};
     file->records = all.Size() - header.Size() + metafile::kHeader;

@@ -91,7 +91,8 @@ FinePoint MetafilePlayer::Place(int x, int y) const
     const Canvas& canvas = raster_.Target();
     const auto fine = [](std::int64_t away, int pixels, int units) {
         const std::int64_t place = away * pixels * kFine / units;
-        return static_cast<std::int32_t>(std::clamp<std::int64_t>(place, -kFurthest, kFurthest));
+        return static_cast<std::int32_t>(
+            std::clamp<std::int64_t>(place, -kMaxCoordinate, kMaxCoordinate));
     };
     return {fine(x - state_.window.left, canvas.width, state_.window.width),
             fine(y - state_.window.top, canvas.height, state_.window.height)};

@@ -9,9 +9,9 @@ namespace quillon {
 
 namespace metafile {
 
-inline constexpr std::size_t kPlaceableHead = 22;
+inline constexpr std::size_t kPlaceableHeader = 22;
 inline constexpr std::size_t kHeader = 18;
-inline constexpr std::size_t kRecordHead = 6;
+inline constexpr std::size_t kRecordHeader = 6;
 inline constexpr std::uint32_t kPlaceableKey = 0x9AC6CDD7;
 
 enum Function : std::uint16_t {
@@ -87,15 +87,15 @@ public:
     bool Next(MetafileRecord& record)
     {
         const std::uint64_t size = std::uint64_t{records_.Long(at_)} * 2;
-        const bool isRecord = records_.Has(at_, metafile::kRecordHead) &&
-                              size >= metafile::kRecordHead && records_.Has(at_, size);
+        const bool isRecord = records_.Has(at_, metafile::kRecordHeader) &&
+                              size >= metafile::kRecordHeader && records_.Has(at_, size);
         if (!isRecord) {
             isDamaged_ = isDamaged_ || at_ != records_.Size();
             return false;
         }
         record.function = records_.Word(at_ + 4);
-        record.given = records_.Part(at_ + metafile::kRecordHead,
-                                     static_cast<std::size_t>(size) - metafile::kRecordHead);
+        record.given = records_.Part(at_ + metafile::kRecordHeader,
+                                     static_cast<std::size_t>(size) - metafile::kRecordHeader);
         at_ += static_cast<std::size_t>(size);
         hasEnd_ = record.function == metafile::kEndOfFile;
         return !hasEnd_;

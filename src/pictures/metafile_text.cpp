@@ -14,7 +14,7 @@ enum TextAlign { kUpdatePosition = 1, kRight = 2, kCentre = 6, kBottom = 8, kBas
 enum TextOptions { kOpaqueRect = 2, kClippedRect = 4 };
 
 constexpr std::size_t kMaxTextLength = 1024;
-constexpr int kSmallestLetters = 2;
+constexpr int kMinLetterSize = 2;
 constexpr int kMaxHalfPoints = 1500;
 // Letters are drawn in one piece.
 constexpr std::int64_t kMaxMask = 8'000'000;
@@ -41,7 +41,7 @@ ScreenFont MetafilePlayer::FontInPixels()
                       .isItalic = font.isItalic,
                       .isStrikeOut = font.isStrikeOut,
                       .isUnderlined = font.isUnderlined};
-    if (screen.size < kSmallestLetters || screen.size > kMaxHalfPoints) {
+    if (screen.size < kMinLetterSize || screen.size > kMaxHalfPoints) {
         screen.size = 0;
         return screen;
     }

@@ -24,9 +24,9 @@ struct Key {
     int limit = 0;
 };
 
-/// The longest text that comes back for this field, in bytes on file. A window takes no more.
+/// Of the longest text that comes back for this field, in bytes on file. A window takes no more.
 template <class Section, class Form, std::size_t Rows>
-int LongestText(const Key<Section, Form> (&table)[Rows], Text Section::*field)
+int MaxTextLength(const Key<Section, Form> (&table)[Rows], Text Section::*field)
 {
     for (const Key<Section, Form>& key : table)
         if (const auto* text = std::get_if<Text Section::*>(&key.field); text && *text == field)

@@ -14,7 +14,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kHeadLimit = 200;
+constexpr int kMaxHeaderSize = 200;
 
 // Files of the tool's third and fourth generation lack what came later. Every other file, from the
 // future or without a version, is read as one of today.
@@ -277,7 +277,7 @@ ReadEnd ReadFileList(ReadRun& run)
     run.reader.SetIniSection("FileListInfo");
     const Integer files = run.reader.ReadIniInteger("Files");
     const bool isNumber = !run.reader.HasKey("Files") ||
-                          BeginsAsNumber(run.reader.ReadIniString("Files", kHeadLimit));
+                          BeginsAsNumber(run.reader.ReadIniString("Files", kMaxHeaderSize));
     ListLines lines(run.reader.Bytes());
     if (!lines.FindSection("FileList"))
         return ReadEnd::Stopped;
@@ -295,21 +295,21 @@ ReadEnd ReadFileList(ReadRun& run)
     return isNumber && !HasFurtherRow(lines) ? ReadEnd::Whole : ReadEnd::RowsLeft;
 }
 
-bool ReadHead(ReadRun& run)
+bool ReadHeader(ReadRun& run)
 {
     run.reader.SetIniSection("ID");
-    if (run.reader.ReadIniString("App", kHeadLimit) != kTypeMark) {
+    if (run.reader.ReadIniString("App", kMaxHeaderSize) != kTypeMark) {
         run.ask.Warn("Fel filformat", "Kan ej öppna! Filen är ej en Quillon 2004 projektfil.");
         return false;
     }
-    run.generation = GenerationOf(run.reader.ReadIniString("Ver", kHeadLimit));
+    run.generation = GenerationOf(run.reader.ReadIniString("Ver", kMaxHeaderSize));
     return true;
 }
 
 ReadEnd ReadEverything(ReadRun& run, const Text& path)
 {
     run.reader.SetIniFile(run.host.files, path);
-    if (!ReadHead(run))
+    if (!ReadHeader(run))
         return ReadEnd::Refused;
 
     SectionReader sections(run);

@@ -30,7 +30,7 @@ public:
 private:
     struct Row {
         RtfFont font;
-        int charset = 1; // the document's
+        int charset = 1; // the default one: that of the document
         int codePage = 0;
         int place = -1;
     };

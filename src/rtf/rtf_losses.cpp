@@ -21,7 +21,7 @@ struct Loss {
     const char* name;
     // The number after the word from which on it counts, since 0 switches most words off. A word
     // without a number is switched on.
-    int least = 1;
+    int minNumber = 1;
 };
 
 constexpr const char* kPictures = "bilder";
@@ -121,7 +121,7 @@ private:
     void Note(const RtfToken& token)
     {
         const auto* const loss = std::ranges::find(kLosses, token.text, &Loss::word);
-        if (loss != std::end(kLosses) && token.number.value_or(1) >= loss->least)
+        if (loss != std::end(kLosses) && token.number.value_or(1) >= loss->minNumber)
             isFound_[static_cast<std::size_t>(loss - std::begin(kLosses))] = true;
     }
 

@@ -74,7 +74,7 @@ private:
     SetupInformation setup_; // with what the user has chosen
     PassiveAsk withoutBoxes_;
     Ask& ask_;            // the pages alone have a user who is asked under /SUPPRESSMSGBOXES
-    UserChoices choices_; // so far
+    UserChoices choices_; // of the pages that were left by Next
     InstallScope scope_;
     Text destination_; // empty: the project's own
     bool isUpdate_ = false;

@@ -37,7 +37,7 @@ enum class MenuPart {
     Menu,       // a menu of the menu bar begins
     Entry,      // a command
     Submenu,    // a submenu begins
-    SubmenuEnd, // and ends
+    SubmenuEnd, // the submenu ends
     Line        // between groups of entries
 };
 

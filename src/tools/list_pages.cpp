@@ -106,7 +106,7 @@ private:
             Print(column.x, lineY_, 8, false, row[column.column]);
         lineY_ += kRowHeight;
         // Kept: the test follows the row, so a list that just fills a page is followed by one
-        // with heads and no rows.
+        // with headings and no rows.
         if (lineY_ > kLastRowY) {
             lineY_ = 34;
             NewPage();

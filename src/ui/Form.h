@@ -35,7 +35,7 @@ protected:
     Form(const char* name, const Text& title, QWidget* parent);
 
     // Controls bound to a field, which they load now and store on OK. `maxLength` is in bytes on
-    // file (see `LongestText`).
+    // file (see `MaxTextLength`).
     QLineEdit* Field(QLineEdit*& member, const char* name, Text& value, int maxLength = 0);
     QPlainTextEdit* Area(QPlainTextEdit*& member, const char* name, Text& value, int maxLength = 0);
     /// A box for a flag, 0 and -1.

@@ -21,14 +21,14 @@ RunningText::RunningText(const Text& text, const Text& accessibleName)
     setFocusPolicy(Qt::NoFocus);
 }
 
-void RunningText::FitHeight(int width, int most)
+void RunningText::FitHeight(int width, int maxHeight)
 {
     // The document itself follows the editor's present size, so a copy is asked.
     const std::unique_ptr<QTextDocument> copy(document()->clone());
     copy->setDefaultFont(font());
     copy->setDocumentMargin(0);
     copy->setTextWidth(width);
-    setFixedHeight(std::min(static_cast<int>(std::ceil(copy->size().height())), most));
+    setFixedHeight(std::min(static_cast<int>(std::ceil(copy->size().height())), maxHeight));
 }
 
 void RunningText::LieOnPaper()

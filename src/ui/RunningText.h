@@ -13,8 +13,8 @@ public:
     /// `accessibleName` is said where the text is so long that it takes the focus, to be scrolled.
     RunningText(const Text& text, const Text& accessibleName);
 
-    /// From now on as high as its lines at this width, up to `most`.
-    void FitHeight(int width, int most);
+    /// From now on as high as its lines at this width, up to `maxHeight`.
+    void FitHeight(int width, int maxHeight);
 
     /// From now on in a box of the background that fields have.
     void LieOnPaper();

@@ -13,10 +13,11 @@ UpDownArrows::UpDownArrows(QLineEdit* field) : field_(field)
     auto* arrows = new QVBoxLayout(this);
     arrows->setContentsMargins(0, 0, 0, 0);
     arrows->setSpacing(0);
-    const auto arrow = [&](Qt::ArrowType type, const char* name, const char* spoken, int by) {
+    const auto arrow = [&](Qt::ArrowType type, const char* name, const char* accessibleName,
+                           int by) {
         auto* button = new QToolButton;
         button->setObjectName(name);
-        button->setAccessibleName(spoken);
+        button->setAccessibleName(accessibleName);
         button->setArrowType(type);
         button->setAutoRepeat(true);
         button->setFocusPolicy(Qt::NoFocus);

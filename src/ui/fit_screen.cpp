@@ -140,14 +140,14 @@ QSize WishedSize(const QWidget& window)
                : size;
 }
 
-QSize LeastSize(const QWidget& window, int width)
+QSize MinSizeOf(const QWidget& window, int width)
 {
     const QLayout& layout = *window.layout();
-    const QSize least = layout.totalMinimumSize();
+    const QSize minSize = layout.totalMinimumSize();
     const int height = layout.hasHeightForWidth()
-                           ? layout.totalMinimumHeightForWidth(std::max(width, least.width()))
-                           : least.height();
-    return {least.width(), std::max(least.height(), height)};
+                           ? layout.totalMinimumHeightForWidth(std::max(width, minSize.width()))
+                           : minSize.height();
+    return {minSize.width(), std::max(minSize.height(), height)};
 }
 
 } // namespace
@@ -162,12 +162,12 @@ void FitInto(QWidget& window, const QSize& room)
     if (!window.layout())
         return;
     const QSize wished = WishedSize(window).boundedTo(room);
-    const QSize least = LeastSize(window, wished.width());
-    if (least.width() > room.width() || least.height() > room.height()) {
+    const QSize minSize = MinSizeOf(window, wished.width());
+    if (minSize.width() > room.width() || minSize.height() > room.height()) {
         ScrollContents(window, room);
         window.resize(WishedSize(window).boundedTo(room));
     } else if (wished != WishedSize(window)) {
-        window.resize(wished.expandedTo(least));
+        window.resize(wished.expandedTo(minSize));
     }
 }
 

@@ -11,10 +11,10 @@ namespace {
 // A caption of "&Namn:" is read aloud as "Namn".
 QString AccessibleNameOf(const Text& caption)
 {
-    QString spoken = ToQt(caption).remove(QRegularExpression("&(?!&)")).trimmed();
-    while (spoken.endsWith(':'))
-        spoken.chop(1);
-    return spoken;
+    QString name = ToQt(caption).remove(QRegularExpression("&(?!&)")).trimmed();
+    while (name.endsWith(':'))
+        name.chop(1);
+    return name;
 }
 
 /// The widget of a piece that a caption leads to: the piece itself or the first that takes keys.

@@ -44,10 +44,10 @@ int BytesOnFile(const QString& text)
     return static_cast<int>(text.size() + text.count('\n'));
 }
 
-void TellTooLong(QWidget* field, int longest)
+void TellTooLong(QWidget* field, int maxLength)
 {
     QToolTip::showText(field->mapToGlobal(QPoint(0, field->height())),
-                       QString("Texten är för lång. Här får högst %1 tecken stå.").arg(longest),
+                       QString("Texten är för lång. Här får högst %1 tecken stå.").arg(maxLength),
                        field);
     QApplication::beep();
 }
@@ -88,8 +88,8 @@ private:
 // nothing is taken, since half of it might go unnoticed.
 class AreaLimit : public QObject {
 public:
-    AreaLimit(QPlainTextEdit* area, int longest)
-        : QObject(area), area_(area), added_(area), longest_(longest)
+    AreaLimit(QPlainTextEdit* area, int maxLength)
+        : QObject(area), area_(area), added_(area), maxLength_(maxLength)
     {
         Remember();
         connect(area, &QPlainTextEdit::textChanged, this, [this] { Undo(); });
@@ -109,7 +109,7 @@ private:
         if (kept != added)
             Replace(cursor, added, kept);
         if (isTooLong)
-            TellTooLong(area_, longest_);
+            TellTooLong(area_, maxLength_);
         Remember();
     }
 
@@ -117,7 +117,7 @@ private:
     {
         const QScopedValueRollback isRestoring(isRestoring_, true);
         const bool hasReplaced = TypedText(area_).size() != before_.size() + added.size();
-        if (kept.isEmpty() && longest_ > 0 && hasReplaced) {
+        if (kept.isEmpty() && maxLength_ > 0 && hasReplaced) {
             area_->setPlainText(before_);
             cursor = area_->textCursor();
             cursor.movePosition(QTextCursor::End);
@@ -133,20 +133,20 @@ private:
     /// How many bytes of what was added there is room for.
     int MinWidth(const QString& added) const
     {
-        if (longest_ == 0)
+        if (maxLength_ == 0)
             return std::numeric_limits<int>::max();
-        return std::max(0, longest_ - BytesOnFile(TypedText(area_)) + BytesOnFile(added));
+        return std::max(0, maxLength_ - BytesOnFile(TypedText(area_)) + BytesOnFile(added));
     }
 
     void Remember()
     {
-        if (longest_ > 0)
+        if (maxLength_ > 0)
             before_ = TypedText(area_);
     }
 
     QPlainTextEdit* area_;
     AddedText added_;
-    int longest_;
+    int maxLength_;
     QString before_;
     bool isRestoring_ = false;
 };
@@ -258,28 +258,28 @@ private:
 
 } // namespace
 
-void LimitTyping(QLineEdit* field, int longest)
+void LimitTyping(QLineEdit* field, int maxLength)
 {
     // Setting it cuts what a project may have come with.
-    if (longest > 0)
-        field->setMaxLength(std::max(longest, static_cast<int>(field->text().size())));
+    if (maxLength > 0)
+        field->setMaxLength(std::max(maxLength, static_cast<int>(field->text().size())));
     new LineLimit(field);
 }
 
-void LimitTyping(QPlainTextEdit* field, int longest)
+void LimitTyping(QPlainTextEdit* field, int maxLength)
 {
-    new AreaLimit(field, longest);
+    new AreaLimit(field, maxLength);
 }
 
-bool WarnIfTooLong(QWidget* field, int longest)
+bool WarnIfTooLong(QWidget* field, int maxLength)
 {
     const auto* const line = qobject_cast<QLineEdit*>(field);
     const auto* const area = qobject_cast<QPlainTextEdit*>(field);
     const QString text = line ? line->text() : area ? TypedText(area) : QString();
-    if (longest == 0 || BytesOnFile(text) <= longest)
+    if (maxLength == 0 || BytesOnFile(text) <= maxLength)
         return false;
     field->setFocus();
-    TellTooLong(field, longest);
+    TellTooLong(field, maxLength);
     return true;
 }
 

@@ -13,13 +13,13 @@ namespace quillon {
 
 /// From now on characters that no project can hold are taken out again with a beep, typed, pasted
 /// or dropped; so is the whole of what is put in where there is no room for it, and the field says
-/// why. `longest` is in bytes on file, 0 is any length. Line breaks in a line become blanks.
-void LimitTyping(QLineEdit* field, int longest);
-void LimitTyping(QPlainTextEdit* field, int longest);
+/// why. `maxLength` is in bytes on file, 0 is any length. Line breaks in a line become blanks.
+void LimitTyping(QLineEdit* field, int maxLength);
+void LimitTyping(QPlainTextEdit* field, int maxLength);
 
-/// Whether the field, a line or an area, holds more than `longest` bytes on file: a project that
+/// Whether the field, a line or an area, holds more than `maxLength` bytes on file: a project that
 /// was not read from a file may have come with it. The field says so and takes the keyboard.
-bool WarnIfTooLong(QWidget* field, int longest);
+bool WarnIfTooLong(QWidget* field, int maxLength);
 
 /// From now on no line break comes into an area whose text the project file holds in one line:
 /// Enter presses the form's default button, and breaks that are pasted become blanks.

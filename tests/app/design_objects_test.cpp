@@ -138,8 +138,8 @@ TEST_F(DesignObjectsTest, TellTheirNamesAndWhatTheyShow)
         {"DesTextBoxPic", "Textruta", "Rubrik\nText"},
         {"DesRTFboxPic", "RTF-ruta", "demo.rtf"},
         {"colorblendBackground", "Installationens bakgrund", "Titel"}};
-    for (const auto& [name, spoken, content] : cases) {
-        EXPECT_EQ(Object(name).accessibleName(), spoken) << name;
+    for (const auto& [name, accessibleName, content] : cases) {
+        EXPECT_EQ(Object(name).accessibleName(), accessibleName) << name;
         EXPECT_EQ(Object(name).accessibleDescription(), content) << name;
         EXPECT_EQ(Object(name).focusPolicy(), Qt::StrongFocus) << name;
     }
@@ -559,10 +559,10 @@ TEST_F(DesignObjectsTest, ThatOnlyTheSetupFillsHavePicturesInTheirPlaces)
     const std::tuple<const char*, QRgb, QSize> cases[] = {
         {"DesRTFboxPic", qRgb(255, 255, 128), {48, 48}},
         {"DesPictureAnim", qRgb(0x80, 0x80, 0x80), {48, 48}}};
-    for (const auto& [name, ground, size] : cases) {
+    for (const auto& [name, background, size] : cases) {
         const QImage shown = Object(name).grab().toImage();
         const double ratio = shown.devicePixelRatio();
-        QRect paper; // of the picture, which is white on each ground
+        QRect paper; // of the picture, which is white on each background
         for (int y = 2; y < shown.height() - 2; ++y)
             for (int x = 2; x < shown.width() - 2; ++x)
                 if (shown.pixel(x, y) == qRgb(255, 255, 255) &&
@@ -573,7 +573,7 @@ TEST_F(DesignObjectsTest, ThatOnlyTheSetupFillsHavePicturesInTheirPlaces)
         EXPECT_LE(paper.height(), size.height() * ratio) << name;
         EXPECT_NEAR(paper.center().x(), shown.width() / 2.0, 6 * ratio) << name;
         EXPECT_NEAR(paper.center().y(), shown.height() / 2.0, 14 * ratio) << name;
-        EXPECT_EQ(shown.pixel(3, shown.height() - 4), ground) << name;
+        EXPECT_EQ(shown.pixel(3, shown.height() - 4), background) << name;
     }
     EXPECT_EQ(Find<QLabel>(Object("DesRTFboxPic"), "Label_DesRTFboxPic").text(), "demo.rtf");
     // In the smallest ones they are as small as needed.

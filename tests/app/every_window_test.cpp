@@ -104,7 +104,7 @@ struct Subject {
     Session& session;
     CreateForm& create;
     InternetAdvanced& advanced;
-    const ImportDesk& imports;
+    const ImportContext& imports;
 };
 
 struct WindowCase {
@@ -345,7 +345,7 @@ protected:
     CreateForm create;
     InternetAdvanced advanced;
     FakeWindow mainWindow;
-    const ImportDesk imports{session, mainWindow, {}};
+    const ImportContext imports{session, mainWindow, {}};
     const QFont usualFont = QApplication::font();
 };
 
@@ -399,8 +399,8 @@ TEST_F(EveryWindow, NamesEachButtonOfItsToolbar)
         for (QToolButton* button : Find<QToolBar>(form, "Standard").findChildren<QToolButton*>()) {
             if (button->objectName() == "qt_toolbar_ext_button")
                 continue;
-            const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(button);
-            EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty())
+            const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(button);
+            EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty())
                 << button->defaultAction()->objectName().toStdString();
         }
     });

@@ -90,102 +90,102 @@ public:
 
 TEST(LifecycleByCommand, BeginsANewProjectOnTheFirstTab)
 {
-    Desk desk({SaveQuestion(Answer::No)});
-    desk.session.state.ProjectFileName = kA;
-    desk.Change();
-    desk.form.SelectTab(Tab::Dialogs);
-    desk.form.RunCommand(CommandId::NewProject);
-    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [noname]");
-    EXPECT_EQ(desk.Name(), "");
-    EXPECT_EQ(desk.form.SelectedTab(), Tab::Files);
-    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
+    Desk context({SaveQuestion(Answer::No)});
+    context.session.state.ProjectFileName = kA;
+    context.Change();
+    context.form.SelectTab(Tab::Dialogs);
+    context.form.RunCommand(CommandId::NewProject);
+    EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [noname]");
+    EXPECT_EQ(context.Name(), "");
+    EXPECT_EQ(context.form.SelectedTab(), Tab::Files);
+    EXPECT_EQ(context.session.state.ProjectIsDirty, kOff);
 }
 
 TEST(LifecycleByCommand, OpensAProject)
 {
-    Desk desk({}, {{{kA}}});
-    desk.form.SelectTab(Tab::Design);
-    desk.form.RunCommand(CommandId::OpenProject);
-    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [a.qnp]");
-    EXPECT_EQ(desk.Name(), kA);
-    EXPECT_EQ(desk.form.SelectedTab(), Tab::Design);
-    EXPECT_EQ(desk.Entry(291).text(), "a.qnp");
+    Desk context({}, {{{kA}}});
+    context.form.SelectTab(Tab::Design);
+    context.form.RunCommand(CommandId::OpenProject);
+    EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [a.qnp]");
+    EXPECT_EQ(context.Name(), kA);
+    EXPECT_EQ(context.form.SelectedTab(), Tab::Design);
+    EXPECT_EQ(context.Entry(291).text(), "a.qnp");
 }
 
 TEST(LifecycleByCommand, SavesAndSavesUnderAnotherName)
 {
-    Desk desk({}, {{{"C:\\P\\c.qnp"}}, {{"C:\\P\\d.qnp"}}});
-    desk.Change();
-    desk.form.RunCommand(CommandId::SaveProject);
-    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [c.qnp]");
-    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
-    desk.form.RunCommand(CommandId::SaveProject);
-    desk.form.RunCommand(CommandId::SaveProjectAs);
-    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [d.qnp]");
-    EXPECT_TRUE(desk.machine.files.FileExists("C:\\P\\d.qnp"));
-    EXPECT_EQ(desk.Entry(291).text(), "d.qnp");
-    EXPECT_EQ(desk.Entry(292).text(), "c.qnp");
+    Desk context({}, {{{"C:\\P\\c.qnp"}}, {{"C:\\P\\d.qnp"}}});
+    context.Change();
+    context.form.RunCommand(CommandId::SaveProject);
+    EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [c.qnp]");
+    EXPECT_EQ(context.session.state.ProjectIsDirty, kOff);
+    context.form.RunCommand(CommandId::SaveProject);
+    context.form.RunCommand(CommandId::SaveProjectAs);
+    EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [d.qnp]");
+    EXPECT_TRUE(context.machine.files.FileExists("C:\\P\\d.qnp"));
+    EXPECT_EQ(context.Entry(291).text(), "d.qnp");
+    EXPECT_EQ(context.Entry(292).text(), "c.qnp");
 }
 
 TEST(LifecycleByCommand, TellsWhyAProjectCannotBeSaved)
 {
-    Desk desk({{BoxKind::Critical, "Fel", "Disken är full: 'C:\\P\\a.qnp'."}});
-    desk.session.state.ProjectFileName = kA;
-    desk.Change();
-    desk.machine.files.FailFromWrite(1, ErrorNumber::kDiskFull);
-    desk.form.RunCommand(CommandId::SaveProject);
-    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOn);
+    Desk context({{BoxKind::Critical, "Fel", "Disken är full: 'C:\\P\\a.qnp'."}});
+    context.session.state.ProjectFileName = kA;
+    context.Change();
+    context.machine.files.FailFromWrite(1, ErrorNumber::kDiskFull);
+    context.form.RunCommand(CommandId::SaveProject);
+    EXPECT_EQ(context.session.state.ProjectIsDirty, kOn);
 }
 
 TEST(LifecycleByCommand, OpensEachRecentFileByItsOwnCommand)
 {
-    Desk desk;
+    Desk context;
     const std::array<Text, 4> files{"C:\\P\\1.qnp", "C:\\P\\2.qnp", "C:\\P\\3.qnp", "C:\\P\\4.qnp"};
     for (const Text& file : files)
-        desk.Put(file);
+        context.Put(file);
     for (std::size_t slot = 0; slot < files.size(); ++slot) {
-        desk.session.RecentFiles = files;
-        desk.form.RunCommand(CommandId(291 + static_cast<int>(slot)));
-        EXPECT_EQ(desk.Name(), files[slot]);
-        EXPECT_EQ(desk.session.RecentFiles[0], files[slot]);
+        context.session.RecentFiles = files;
+        context.form.RunCommand(CommandId(291 + static_cast<int>(slot)));
+        EXPECT_EQ(context.Name(), files[slot]);
+        EXPECT_EQ(context.session.RecentFiles[0], files[slot]);
     }
-    desk.session.RecentFiles = {kA};
-    desk.form.RunCommand(CommandId::RecentFile3);
-    EXPECT_EQ(desk.Name(), files[3]) << "a free slot does nothing";
+    context.session.RecentFiles = {kA};
+    context.form.RunCommand(CommandId::RecentFile3);
+    EXPECT_EQ(context.Name(), files[3]) << "a free slot does nothing";
 }
 
 TEST(LifecycleByCommand, KeepsTheEntryOfAProjectThatVanished)
 {
-    Desk desk({{BoxKind::Critical, "Fel", "Kaj ej öppna 'C:\\P\\borta.qnp'!"}});
-    desk.session.RecentFiles = {"C:\\P\\borta.qnp"};
-    desk.form.ShowRecentFiles();
-    desk.form.RunCommand(CommandId::RecentFile1);
-    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [noname]");
-    EXPECT_EQ(desk.Entry(291).text(), "borta.qnp");
+    Desk context({{BoxKind::Critical, "Fel", "Kaj ej öppna 'C:\\P\\borta.qnp'!"}});
+    context.session.RecentFiles = {"C:\\P\\borta.qnp"};
+    context.form.ShowRecentFiles();
+    context.form.RunCommand(CommandId::RecentFile1);
+    EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [noname]");
+    EXPECT_EQ(context.Entry(291).text(), "borta.qnp");
 }
 
 // Kept: a refused file is in the title and among the recent files.
 TEST(LifecycleByCommand, NamesARefusedFileInItsTitle)
 {
-    Desk desk({{BoxKind::Warn, "Fel filformat"}}, {{{"C:\\P\\x.txt"}}});
-    desk.machine.files.Put("C:\\P\\x.txt", "no project");
-    desk.form.RunCommand(CommandId::OpenProject);
-    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [x.txt]");
-    EXPECT_EQ(desk.Entry(291).text(), "x.txt");
+    Desk context({{BoxKind::Warn, "Fel filformat"}}, {{{"C:\\P\\x.txt"}}});
+    context.machine.files.Put("C:\\P\\x.txt", "no project");
+    context.form.RunCommand(CommandId::OpenProject);
+    EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [x.txt]");
+    EXPECT_EQ(context.Entry(291).text(), "x.txt");
 }
 
 TEST(RecentFilesMenu, ShowsTheMarkOfAFreeSlotOnANewMachineAndFillsFromTheTop)
 {
-    Desk desk;
-    EXPECT_EQ(desk.Entry(291).text(), "(tom)");
-    EXPECT_TRUE(desk.Entry(291).isVisible());
+    Desk context;
+    EXPECT_EQ(context.Entry(291).text(), "(tom)");
+    EXPECT_TRUE(context.Entry(291).isVisible());
     for (const int id : {292, 293, 294})
-        EXPECT_FALSE(desk.Entry(id).isVisible()) << id;
-    desk.session.RecentFiles = {"C:\\P\\R&D.qnp", kB};
-    desk.form.ShowRecentFiles();
-    EXPECT_EQ(desk.Entry(291).text(), "R&&D.qnp");
-    EXPECT_EQ(desk.Entry(292).text(), "b.qnp");
-    EXPECT_FALSE(desk.Entry(293).isVisible());
+        EXPECT_FALSE(context.Entry(id).isVisible()) << id;
+    context.session.RecentFiles = {"C:\\P\\R&D.qnp", kB};
+    context.form.ShowRecentFiles();
+    EXPECT_EQ(context.Entry(291).text(), "R&&D.qnp");
+    EXPECT_EQ(context.Entry(292).text(), "b.qnp");
+    EXPECT_FALSE(context.Entry(293).isVisible());
 }
 
 struct Closing {
@@ -201,16 +201,17 @@ class CloseWindow : public testing::TestWithParam<Closing> {};
 TEST_P(CloseWindow, AsksAboutChangesAndWritesTheSettingsWhereItCloses)
 {
     const Closing& closing = GetParam();
-    Desk desk({SaveQuestion(closing.answer)}, closing.choices);
-    desk.form.show();
+    Desk context({SaveQuestion(closing.answer)}, closing.choices);
+    context.form.show();
     if (closing.isNamed)
-        desk.session.state.ProjectFileName = kA;
-    desk.Change();
-    desk.form.RunCommand(CommandId::Exit);
-    EXPECT_EQ(desk.form.isVisible(), !closing.closes);
-    EXPECT_EQ(desk.session.state.ProjectIsDirty != kOff,
+        context.session.state.ProjectFileName = kA;
+    context.Change();
+    context.form.RunCommand(CommandId::Exit);
+    EXPECT_EQ(context.form.isVisible(), !closing.closes);
+    EXPECT_EQ(context.session.state.ProjectIsDirty != kOff,
               !closing.closes || closing.answer == Answer::No);
-    EXPECT_EQ(desk.machine.files.FileExists(SettingsFile(desk.machine.machine)), closing.closes);
+    EXPECT_EQ(context.machine.files.FileExists(SettingsFile(context.machine.machine)),
+              closing.closes);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -224,12 +225,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CloseWindowUnchanged, LeavesSizeAndRecentFilesInTheSettings)
 {
-    Desk desk;
-    desk.form.resize(1000, 700);
-    desk.form.show();
-    desk.session.RecentFiles = {kB};
-    desk.form.close();
-    Session next = NewSession(desk.machine.host, desk.ask, "C:\\Quillon");
+    Desk context;
+    context.form.resize(1000, 700);
+    context.form.show();
+    context.session.RecentFiles = {kB};
+    context.form.close();
+    Session next = NewSession(context.machine.host, context.ask, "C:\\Quillon");
     StartSession(next);
     EXPECT_EQ(next.RecentFiles[0], kB);
     EXPECT_EQ(next.Settings.WindowPlace.Width, 1000);
@@ -280,15 +281,15 @@ TEST(WindowPlaceTest, IsKeptOverAStayOnASmallerScreen)
 
 TEST(FirstActivation, OffersFoldersOnceAndBehindTheProject)
 {
-    Desk desk;
-    desk.Activate(kA);
-    EXPECT_EQ(desk.titleAtOffer, "Tavrell Quillon 2004 - [a.qnp]");
-    EXPECT_TRUE(desk.machine.files.DirExists(kOffered));
-    EXPECT_EQ(desk.session.ProjectsFolder, kOffered);
-    EXPECT_FALSE(desk.form.onFirstActivation) << "a later activation does nothing";
-    desk.form.close();
+    Desk context;
+    context.Activate(kA);
+    EXPECT_EQ(context.titleAtOffer, "Tavrell Quillon 2004 - [a.qnp]");
+    EXPECT_TRUE(context.machine.files.DirExists(kOffered));
+    EXPECT_EQ(context.session.ProjectsFolder, kOffered);
+    EXPECT_FALSE(context.form.onFirstActivation) << "a later activation does nothing";
+    context.form.close();
 
-    Session next = NewSession(desk.machine.host, desk.ask, "C:\\Quillon");
+    Session next = NewSession(context.machine.host, context.ask, "C:\\Quillon");
     StartSession(next);
     EXPECT_EQ(next.Settings.WindowOptions.MyDocFolderAutoCreateDone, kOn);
     EXPECT_EQ(next.ProjectsFolder, kOffered);
@@ -296,60 +297,60 @@ TEST(FirstActivation, OffersFoldersOnceAndBehindTheProject)
 
 TEST(FirstActivation, OpensTheProjectOfTheCommandLine)
 {
-    Desk desk;
-    desk.session.Settings.WindowOptions.MyDocFolderAutoCreateDone = kOn;
-    desk.Activate(kA);
-    EXPECT_EQ(desk.titleAtOffer, "") << "the offer was answered in another run";
-    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [a.qnp]");
-    EXPECT_EQ(desk.Name(), kA);
-    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
-    EXPECT_EQ(desk.Entry(291).text(), "a.qnp");
+    Desk context;
+    context.session.Settings.WindowOptions.MyDocFolderAutoCreateDone = kOn;
+    context.Activate(kA);
+    EXPECT_EQ(context.titleAtOffer, "") << "the offer was answered in another run";
+    EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [a.qnp]");
+    EXPECT_EQ(context.Name(), kA);
+    EXPECT_EQ(context.session.state.ProjectIsDirty, kOff);
+    EXPECT_EQ(context.Entry(291).text(), "a.qnp");
 }
 
 TEST(FirstActivation, GoesOnUnderTheNameOfAProjectThatIsNotThere)
 {
-    Desk desk({{BoxKind::Warn, "Fel filformat"}});
-    desk.session.Settings.WindowOptions.MyDocFolderAutoCreateDone = kOn;
-    desk.Activate("C:\\P\\borta.qnp");
-    EXPECT_EQ(desk.Title(), "Tavrell Quillon 2004 - [borta.qnp]");
+    Desk context({{BoxKind::Warn, "Fel filformat"}});
+    context.session.Settings.WindowOptions.MyDocFolderAutoCreateDone = kOn;
+    context.Activate("C:\\P\\borta.qnp");
+    EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [borta.qnp]");
 }
 
 TEST(FirstActivation, HidesTabsAndTheirEntries)
 {
-    Desk desk;
-    desk.session.Settings.WindowOptions.MyDocFolderAutoCreateDone = kOn;
-    desk.session.Settings.HideTabs = {kOn, kOff, kOn};
-    desk.Activate();
-    const auto& tabs = desk.Find<QTabWidget>("MainTab");
+    Desk context;
+    context.session.Settings.WindowOptions.MyDocFolderAutoCreateDone = kOn;
+    context.session.Settings.HideTabs = {kOn, kOff, kOn};
+    context.Activate();
+    const auto& tabs = context.Find<QTabWidget>("MainTab");
     EXPECT_EQ(tabs.count(), 4);
     const std::pair<int, bool> expected[] = {{3, false}, {4, true}, {5, false}};
     for (const auto& [tab, isVisible] : expected) {
-        EXPECT_EQ(desk.Entry(147 + tab).isVisible(), isVisible) << tab;
+        EXPECT_EQ(context.Entry(147 + tab).isVisible(), isVisible) << tab;
     }
-    EXPECT_EQ(desk.form.SelectedTab(), Tab::Files);
-    desk.form.RunCommand(CommandId::RegistryTab);
-    EXPECT_EQ(desk.form.SelectedTab(), Tab::Files) << "a hidden tab can't be reached";
+    EXPECT_EQ(context.form.SelectedTab(), Tab::Files);
+    context.form.RunCommand(CommandId::RegistryTab);
+    EXPECT_EQ(context.form.SelectedTab(), Tab::Files) << "a hidden tab can't be reached";
 }
 
 TEST(OptionsByCommand, HideATabAtOnce)
 {
-    Desk desk;
-    desk.form.show();
+    Desk context;
+    context.form.show();
     OnNextDialog([](QDialog& form) {
         test::Find<QCheckBox>(form, "cHideINIFiles").setChecked(true);
         Click(form, "cmdOK");
     });
-    desk.form.RunCommand(CommandId::EditorOptions);
-    EXPECT_EQ(desk.Find<QTabWidget>("MainTab").count(), 5);
-    EXPECT_EQ(desk.Find<QTabWidget>("MainTab").tabText(4), "  Komponenter  ");
-    EXPECT_FALSE(desk.Entry(151).isVisible());
-    EXPECT_EQ(desk.session.state.ProjectIsDirty, kOff);
+    context.form.RunCommand(CommandId::EditorOptions);
+    EXPECT_EQ(context.Find<QTabWidget>("MainTab").count(), 5);
+    EXPECT_EQ(context.Find<QTabWidget>("MainTab").tabText(4), "  Komponenter  ");
+    EXPECT_FALSE(context.Entry(151).isVisible());
+    EXPECT_EQ(context.session.state.ProjectIsDirty, kOff);
 }
 
 TEST(ShellByCommand, ShowsItsDialogs)
 {
-    Desk desk;
-    desk.form.show();
+    Desk context;
+    context.form.show();
     const std::pair<CommandId, const char*> dialogs[] = {
         {CommandId::VersionInfo, "DlgVersionInfo"},
         {CommandId::EditorOptions, "DlgEditorOptions"},
@@ -357,20 +358,20 @@ TEST(ShellByCommand, ShowsItsDialogs)
     for (const auto& [id, name] : dialogs) {
         Text shown;
         OnNextDialog([&](QDialog& form) { shown = FromQt(form.objectName()); });
-        desk.form.RunCommand(id);
+        context.form.RunCommand(id);
         EXPECT_EQ(shown, name);
     }
 }
 
 TEST(ShellByCommand, OpensTheHelpFileAndTellsOfSupport)
 {
-    Desk desk({{BoxKind::Inform, "Support"}});
+    Desk context({{BoxKind::Inform, "Support"}});
     for (const CommandId id :
          {CommandId::HelpContents, CommandId::HelpSearch, CommandId::HelpOnHelp, CommandId::Help})
-        desk.form.RunCommand(id);
-    ASSERT_EQ(desk.machine.machine.started.size(), 4U);
-    EXPECT_EQ(desk.machine.machine.started[3].first, "C:\\Quillon\\QN.HLP");
-    desk.form.RunCommand(CommandId::Support);
+        context.form.RunCommand(id);
+    ASSERT_EQ(context.machine.machine.started.size(), 4U);
+    EXPECT_EQ(context.machine.machine.started[3].first, "C:\\Quillon\\QN.HLP");
+    context.form.RunCommand(CommandId::Support);
 }
 
 struct Line {

@@ -141,21 +141,21 @@ private:
 
 TEST(KilledProgramDeathTest, LosesWhatCameAfterTheLastCopyWhenTheSystemEndsIt)
 {
-    KilledDesk desk;
+    KilledDesk context;
     EXPECT_EXIT(KilledDesk::WorkUntil(SIGKILL), testing::KilledBySignal(SIGKILL), "");
-    EXPECT_EQ(desk.RecoveredName(), "kvar");
-    EXPECT_EQ(desk.note, "");
+    EXPECT_EQ(context.RecoveredName(), "kvar");
+    EXPECT_EQ(context.note, "");
 }
 
 class FaultDeathTest : public testing::TestWithParam<int> {};
 
 TEST_P(FaultDeathTest, LosesNothingAndKeepsANote)
 {
-    KilledDesk desk;
+    KilledDesk context;
     EXPECT_EXIT(KilledDesk::WorkUntil(GetParam()), testing::KilledBySignal(GetParam()), "");
-    EXPECT_EQ(desk.RecoveredName(), "sist");
-    EXPECT_THAT(desk.note, testing::HasSubstr("Programversion: 6.5.6\r\nSignal: SIG"));
-    EXPECT_THAT(desk.note, testing::HasSubstr("app_test")) << "a stack";
+    EXPECT_EQ(context.RecoveredName(), "sist");
+    EXPECT_THAT(context.note, testing::HasSubstr("Programversion: 6.5.6\r\nSignal: SIG"));
+    EXPECT_THAT(context.note, testing::HasSubstr("app_test")) << "a stack";
 }
 
 INSTANTIATE_TEST_SUITE_P(OfTheProgram, FaultDeathTest, testing::Values(SIGSEGV, SIGABRT, SIGFPE));

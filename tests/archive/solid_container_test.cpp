@@ -240,7 +240,7 @@ TEST(SolidContainer, StoresEqualFilesOnce)
                  EXPECT_EQ(all, 150'001U);
                  done.push_back(now);
              },
-         .onYield = {}});
+         .processEvents = {}});
     // What nobody shares is packed again, and found again in the window.
     EXPECT_LT(bytes.size(), 52'000U);
     const auto container = Open(bytes);

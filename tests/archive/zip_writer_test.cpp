@@ -233,7 +233,8 @@ TEST_F(ZipWriter, YieldsOftenAlsoInsideALargeSource)
     for (const auto& [password, least] : {std::pair{"", 6}, std::pair{"hemligt", 15}}) {
         int yields = 0;
         CountingOutput output;
-        WriteZip(files, sources, output, {.password = password}, {.onYield = [&] { ++yields; }});
+        WriteZip(files, sources, output, {.password = password},
+                 {.processEvents = [&] { ++yields; }});
         EXPECT_GE(yields, least) << password;
     }
 }

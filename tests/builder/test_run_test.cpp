@@ -128,7 +128,7 @@ TEST_F(TestRunTest, LeavesTheProjectAsItIs)
     EXPECT_EQ(project.Media.TargetMedia, 1);
 }
 
-TEST_F(TestRunTest, NamesPicturesAndTextsByTheirWholePaths)
+TEST_F(TestRunTest, NamesPicturesAndTextsByTheirAbsolutePaths)
 {
     project.DesBackground.PictureFilename = "c:\\bilder\\bak.jpg";
     project.DesPictures.Pictures[1].PictureFilename = "c:\\bilder\\två.bmp";

@@ -26,7 +26,7 @@ protected:
     {
         return letters.Draw(font, line, letters.Advances(font, line));
     }
-    static long Ink(const LetterMask& mask)
+    static long Coverage(const LetterMask& mask)
     {
         return std::accumulate(mask.coverage.begin(), mask.coverage.end(), 0L);
     }
@@ -65,7 +65,7 @@ TEST_F(FontLettersTest, HasGreysAtTheEdgesOfLetters)
 
 TEST_F(FontLettersTest, DrawsNothingForBlanksButMovesOn)
 {
-    EXPECT_EQ(Ink(Drawn(sans, "   ")), 0);
+    EXPECT_EQ(Coverage(Drawn(sans, "   ")), 0);
     EXPECT_GT(WidthOf(sans, "   "), 20);
 }
 
@@ -74,7 +74,7 @@ TEST_F(FontLettersTest, StandsEachLetterWhereItIsTold)
     const LetterMask near = letters.Draw(sans, "ll", {10, 10});
     const LetterMask far = letters.Draw(sans, "ll", {100, 10});
     EXPECT_EQ(far.width, near.width + 90);
-    EXPECT_EQ(Ink(far), Ink(near));
+    EXPECT_EQ(Coverage(far), Coverage(near));
 }
 
 TEST_F(FontLettersTest, DoesNotKernBySiblings)
@@ -86,7 +86,7 @@ TEST_F(FontLettersTest, IsBolderAndLeans)
 {
     ScreenFont bold = sans;
     bold.isBold = true;
-    EXPECT_GT(Ink(Drawn(bold, "Titel")), Ink(Drawn(sans, "Titel")) * 5 / 4);
+    EXPECT_GT(Coverage(Drawn(bold, "Titel")), Coverage(Drawn(sans, "Titel")) * 5 / 4);
     ScreenFont italic = sans;
     italic.isItalic = true;
     EXPECT_NE(Drawn(italic, "Titel").coverage, Drawn(sans, "Titel").coverage);
@@ -105,7 +105,7 @@ TEST_F(FontLettersTest, ReplacesFontsThatTheMachineLacks)
     for (const char* name : {"", "Inget sådant teckensnitt", "Times New Roman"}) {
         const ScreenFont font{.name = name, .size = 20};
         EXPECT_THAT(letters.Height(font).Line(), Gt(15)) << name;
-        EXPECT_THAT(Ink(Drawn(font, "abc")), Gt(1000)) << name;
+        EXPECT_THAT(Coverage(Drawn(font, "abc")), Gt(1000)) << name;
     }
 }
 
@@ -115,7 +115,7 @@ TEST_F(FontLettersTest, FindsLettersThatTheFontLacksInOthers)
     const ScreenFont latin{.name = "DejaVu Sans Mono", .size = 40};
     const LetterMask missing = Drawn(latin, "\xEF\xBF\xBF"); // no letter at all
     EXPECT_NE(Drawn(latin, "α").coverage, missing.coverage);
-    EXPECT_GT(Ink(Drawn(latin, "α")), 1000);
+    EXPECT_GT(Coverage(Drawn(latin, "α")), 1000);
 }
 
 TEST_F(FontLettersTest, TakesDamagedTextAndSizesBelowOne)

@@ -20,7 +20,7 @@ protected:
         Paint(text);
         std::vector<int> tops;
         for (int y = 1; y < kSide; ++y)
-            if (!HasInk(y - 1) && HasInk(y))
+            if (!HasForeground(y - 1) && HasForeground(y))
                 tops.push_back(y);
         return tops;
     }
@@ -58,7 +58,7 @@ private:
                       {.box = RectAt(0, 0, kSide, kSide), .backColor = 0xFFFFFF}, text);
     }
     Pixel At(int x, int y) const { return pixels_[static_cast<std::size_t>(y * kSide + x)]; }
-    bool HasInk(int y) const
+    bool HasForeground(int y) const
     {
         for (int x = 0; x < kSide; ++x)
             if (At(x, y) != kPaper)

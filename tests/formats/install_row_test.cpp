@@ -22,9 +22,9 @@ const InstallRow kFullRow{.number = 12,
 const Text kFullLine = "F12=Läsmig.TXT;%DESTDIR\\Doc;5000000000;data\\app;IkonD ;VRAW ;3;Läs mig ;"
                        "/a /b ;%DESTDIR ;%DESTDIR\\a.ico ;1;";
 
-const Text kHead = "[Origin]\r\nInfo = This file is created by Tavrell Quillon 2004\r\n\r\n"
-                   "[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\nFileType = FileList\r\n\r\n"
-                   "[FileList]\r\n";
+const Text kHeader = "[Origin]\r\nInfo = This file is created by Tavrell Quillon 2004\r\n\r\n"
+                     "[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\nFileType = FileList\r\n\r\n"
+                     "[FileList]\r\n";
 const Text kTail = "....\r\n\r\n-(EOF)-\r\n\r\n";
 const Text kRow1 = "F1=a.txt;%DESTDIR;1;data; ; ;0; ; ; ; ;0;\r\n";
 const Text kRow2 = "F2=<Dir>;%DESTDIR\\Tom;0;; ; ;0; ; ; ; ;0;\r\n";
@@ -85,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(ReadInstallFileList, ReadsAllRowsOfAWholeFile)
 {
-    const InstallFileList list = ReadInstallFileList(kHead + kRow1 + kRow2 + kTail);
+    const InstallFileList list = ReadInstallFileList(kHeader + kRow1 + kRow2 + kTail);
     EXPECT_TRUE(list.isWhole);
     ASSERT_EQ(list.rows.size(), 2u);
     EXPECT_EQ(list.rows[0].name, "a.txt");
@@ -95,7 +95,7 @@ TEST(ReadInstallFileList, ReadsAllRowsOfAWholeFile)
 TEST(ReadInstallFileList, DecodesTheCodePage)
 {
     const InstallFileList list =
-        ReadInstallFileList(kHead + "F1=\xC5.txt;d;1;data; ; ;0; ; ; ; ;0;\r\n" + kTail);
+        ReadInstallFileList(kHeader + "F1=\xC5.txt;d;1;data; ; ;0; ; ; ; ;0;\r\n" + kTail);
     ASSERT_TRUE(list.isWhole);
     EXPECT_EQ(list.rows[0].name, "Å.txt");
 }
@@ -103,7 +103,7 @@ TEST(ReadInstallFileList, DecodesTheCodePage)
 TEST(ReadInstallFileList, TakesAListWithoutRowsAsWhole)
 {
     for (const Text& tail : {Text("-(EOF)-\r\n\r\n"), kTail}) {
-        const InstallFileList list = ReadInstallFileList(kHead + tail);
+        const InstallFileList list = ReadInstallFileList(kHeader + tail);
         EXPECT_TRUE(list.isWhole);
         EXPECT_TRUE(list.rows.empty());
     }
@@ -111,7 +111,7 @@ TEST(ReadInstallFileList, TakesAListWithoutRowsAsWhole)
 
 TEST(ReadInstallFileList, IsNotWholeWhereverTheFileIsCut)
 {
-    const Text whole = kHead + kRow1 + kRow2 + kTail;
+    const Text whole = kHeader + kRow1 + kRow2 + kTail;
     const std::size_t lastMark = whole.find("-(EOF)-") + 7;
     for (std::size_t length = 0; length < lastMark; ++length)
         EXPECT_FALSE(ReadInstallFileList(whole.substr(0, length)).isWhole) << length;
@@ -120,15 +120,15 @@ TEST(ReadInstallFileList, IsNotWholeWhereverTheFileIsCut)
 
 TEST(ReadInstallFileList, IsNotWholeWithARowMissingOrBroken)
 {
-    EXPECT_FALSE(ReadInstallFileList(kHead + kRow2 + kTail).isWhole);
-    EXPECT_FALSE(ReadInstallFileList(kHead + kRow1 + kRow1 + kTail).isWhole);
-    EXPECT_FALSE(ReadInstallFileList(kHead + kRow1 + "\r\n" + kTail).isWhole);
-    EXPECT_FALSE(ReadInstallFileList(kHead + "F1=a.txt\r\n" + kTail).isWhole);
+    EXPECT_FALSE(ReadInstallFileList(kHeader + kRow2 + kTail).isWhole);
+    EXPECT_FALSE(ReadInstallFileList(kHeader + kRow1 + kRow1 + kTail).isWhole);
+    EXPECT_FALSE(ReadInstallFileList(kHeader + kRow1 + "\r\n" + kTail).isWhole);
+    EXPECT_FALSE(ReadInstallFileList(kHeader + "F1=a.txt\r\n" + kTail).isWhole);
 }
 
 TEST(ReadInstallFileList, IsNotWholeUnderAnotherTypeMark)
 {
-    const Text whole = kHead + kRow1 + kTail;
+    const Text whole = kHeader + kRow1 + kTail;
     EXPECT_FALSE(ReadInstallFileList(ReplaceAll(whole, "= Quillon", "= quillon")).isWhole);
     EXPECT_FALSE(ReadInstallFileList(ReplaceAll(whole, "= FileList", "= Options")).isWhole);
     EXPECT_FALSE(ReadInstallFileList("").isWhole);

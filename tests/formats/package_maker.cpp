@@ -12,8 +12,8 @@ using namespace zip;
 
 namespace {
 
-const Text kHead = "[Origin]\r\nInfo = This file is created by Tavrell Quillon 2004\r\n\r\n"
-                   "[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\n";
+const Text kHeader = "[Origin]\r\nInfo = This file is created by Tavrell Quillon 2004\r\n\r\n"
+                     "[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\n";
 
 void AppendText(Bytes& bytes, std::string_view text)
 {
@@ -103,7 +103,7 @@ std::string MakeArchive(const std::vector<PackedEntry>& entries)
 std::string MakeSetupInformation(const SetupLines& lines)
 {
     return AnsiText::ToBytes(
-        kHead + "FileType = Options\r\n\r\n" + "[Media]\r\nTargetMedia = " +
+        kHeader + "FileType = Options\r\n\r\n" + "[Media]\r\nTargetMedia = " +
         std::to_string(lines.targetMedia) + "\r\n" + lines.floppies + "\r\n[Compression]\r\n" +
         "CompressFiles = 1\r\nKeepCompressedFilesOneAndOne = " + lines.keepOneAndOne +
         "\r\nPlaceCompressedFilesInFolderSetupFiles = " + lines.inSetupFiles +
@@ -114,7 +114,7 @@ std::string MakeSetupInformation(const SetupLines& lines)
 
 std::string MakeInstallFileList(const std::vector<InstallRow>& rows)
 {
-    Text text = kHead + "FileType = FileList\r\n\r\n[FileList]\r\n";
+    Text text = kHeader + "FileType = FileList\r\n\r\n[FileList]\r\n";
     for (const InstallRow& row : rows)
         text += InstallRowLine(row) + "\r\n";
     text += rows.empty() ? "" : "....\r\n\r\n";

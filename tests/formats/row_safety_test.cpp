@@ -29,7 +29,7 @@ TEST(FaultOfDestination, TakesEveryVariableAtTheBeginning)
         const Text name(variable.name);
         const bool isDrive = name == "%DESTDRIVE" || name == "%SRCDRIVE";
         EXPECT_EQ(FaultOfDestination(name + "\\Data"), PathFault::None) << name;
-        EXPECT_EQ(FaultOfDestination(name), isDrive ? PathFault::NotWhole : PathFault::None)
+        EXPECT_EQ(FaultOfDestination(name), isDrive ? PathFault::NotAbsolute : PathFault::None)
             << name;
     }
 }
@@ -45,16 +45,16 @@ TEST(FaultOfDestination, TakesTextsWhereTheyMakeNames)
 TEST(FaultOfDestination, TellsWhatTheSetupCouldNotMake)
 {
     const Case cases[] = {
-        {"", PathFault::NotWhole},
-        {"C:", PathFault::NotWhole},
-        {"\\Data", PathFault::NotWhole},
+        {"", PathFault::NotAbsolute},
+        {"C:", PathFault::NotAbsolute},
+        {"\\Data", PathFault::NotAbsolute},
         {"%DESTDIR\\..\\..\\Windows", PathFault::Climbs},
         {"%DESTDIR\\..", PathFault::Climbs},
         {"%DESTDIR/../x", PathFault::Climbs},
         {"%DESTDIR:stream", PathFault::Colon},
         {"C:\\%SYSDIR", PathFault::Colon},
         {"%DESTDIR\\%SRCDRIVE", PathFault::Colon},
-        {"%DESTDRIVE:\\x", PathFault::NotWhole},
+        {"%DESTDRIVE:\\x", PathFault::NotAbsolute},
         {"%DESTDIR\\C:\\x", PathFault::Colon},
         {"%DESTDIR\\a|b", PathFault::Character},
         {"<Filen saknas>", PathFault::Character},

@@ -9,18 +9,18 @@ namespace quillon {
 
 namespace {
 
-const Text kHead = "[Origin]\r\nInfo = This file is created by Tavrell Quillon 2004\r\n\r\n"
-                   "[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\nFileType = Options\r\n\r\n";
+const Text kHeader = "[Origin]\r\nInfo = This file is created by Tavrell Quillon 2004\r\n\r\n"
+                     "[ID]\r\nApp = Quillon\r\nVer = 6.5.6\r\nFileType = Options\r\n\r\n";
 const Text kTail = "-(EOF)-\r\n\r\n";
 
 SetupInformation ReadSections(const Text& sections)
 {
-    return ReadSetupInformation(kHead + sections + kTail);
+    return ReadSetupInformation(kHeader + sections + kTail);
 }
 
 } // namespace
 
-TEST(ReadSetupInformation, ReadsTheHead)
+TEST(ReadSetupInformation, ReadsTheHeader)
 {
     SetupInformation info = ReadSections("");
     EXPECT_TRUE(info.isWhole);
@@ -28,7 +28,7 @@ TEST(ReadSetupInformation, ReadsTheHead)
     EXPECT_EQ(info.toolVersion, "6.5.6");
 
     info = ReadSetupInformation(
-        ReplaceAll(kHead, "= Options", "= Options\r\nFileSubType = PreviewFile") + kTail);
+        ReplaceAll(kHeader, "= Options", "= Options\r\nFileSubType = PreviewFile") + kTail);
     EXPECT_TRUE(info.isWhole);
     EXPECT_TRUE(info.isPreview);
 }
@@ -36,10 +36,10 @@ TEST(ReadSetupInformation, ReadsTheHead)
 TEST(ReadSetupInformation, IsNotWholeWithoutTypeMarkOrEnd)
 {
     EXPECT_FALSE(ReadSetupInformation("").isWhole);
-    EXPECT_FALSE(ReadSetupInformation(kHead).isWhole);
+    EXPECT_FALSE(ReadSetupInformation(kHeader).isWhole);
     EXPECT_FALSE(ReadSetupInformation(kTail).isWhole);
     EXPECT_FALSE(
-        ReadSetupInformation(ReplaceAll(kHead, "= Options", "= FileList") + kTail).isWhole);
+        ReadSetupInformation(ReplaceAll(kHeader, "= Options", "= FileList") + kTail).isWhole);
 }
 
 TEST(ReadSetupInformation, IsNotWholeWithAListThatDoesNotEnd)

@@ -25,7 +25,7 @@ protected:
         machine.files.Put("C:\\Proj\\Kund.exe", "MZ");
     }
 
-    ImportDesk Desk()
+    ImportContext Context()
     {
         return {.session = session,
                 .window = window,

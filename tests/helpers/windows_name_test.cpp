@@ -69,7 +69,7 @@ TEST(FaultOfName, CountsCharactersAsTheFileSystemsDo)
     EXPECT_EQ(FaultOfName(umlauts + "x"), PathFault::TooLong);
 }
 
-TEST(FaultOfFolder, TakesWholePathsAndThoseBelowAnother)
+TEST(FaultOfFolder, TakesAbsolutePathsAndThoseBelowAnother)
 {
     for (const char* folder : {"C:\\", "c:/Data/App", "C:\\Data\\App\\", "Data", "Data\\App",
                                "\\\\server\\share\\App", "//server/share", "C:\\a\\\\b"})
@@ -79,11 +79,11 @@ TEST(FaultOfFolder, TakesWholePathsAndThoseBelowAnother)
 TEST(FaultOfFolder, TellsWhatIsNone)
 {
     const Case cases[] = {
-        {"", PathFault::NotWhole},
-        {"C:", PathFault::NotWhole},
-        {"C:Data", PathFault::NotWhole},
-        {"\\Data", PathFault::NotWhole},
-        {"\\\\", PathFault::NotWhole},
+        {"", PathFault::NotAbsolute},
+        {"C:", PathFault::NotAbsolute},
+        {"C:Data", PathFault::NotAbsolute},
+        {"\\Data", PathFault::NotAbsolute},
+        {"\\\\", PathFault::NotAbsolute},
         {"C:\\Data\\..\\Windows", PathFault::Climbs},
         {"../Data", PathFault::Climbs},
         {"Data\\..", PathFault::Climbs},

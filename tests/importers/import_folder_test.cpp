@@ -1,6 +1,6 @@
 #include "importers/import_folder.h"
 
-#include "import_desk.h"
+#include "import_context.h"
 #include "support/program_file.h"
 
 #include <gmock/gmock.h>
@@ -22,7 +22,7 @@ const ExpectedBox kDone{
     "saknas enligt listan över katalogens innehåll måste läggas in manuellt eller finnas hos "
     "mottagaren."};
 
-class ImportFolderTest : public ImportDesk {
+class ImportFolderTest : public ImportContext {
 protected:
     ImportFolderTest()
     {

@@ -1,6 +1,6 @@
 #include "importers/import_vb5.h"
 
-#include "import_desk.h"
+#include "import_context.h"
 
 #include <gmock/gmock.h>
 
@@ -20,7 +20,7 @@ const ExpectedBox kDone{
 
 const Text kKit = "C:\\VB\\setupkit\\kitfil32\\sys32";
 
-class ImportVb5 : public ImportDesk {
+class ImportVb5 : public ImportContext {
 protected:
     ImportVb5()
     {

@@ -1,6 +1,6 @@
 #include "importers/import_vb6.h"
 
-#include "import_desk.h"
+#include "import_context.h"
 #include "importers/vb_project.h"
 
 #include <gmock/gmock.h>
@@ -41,7 +41,7 @@ ExpectedBox NotInSystemFolder(const Text& name)
                 "' existerar inte i systemkatalogen! Kan ej addera den till fillistan!"};
 }
 
-class ImportVb6 : public ImportDesk {
+class ImportVb6 : public ImportContext {
 protected:
     ImportVb6()
     {

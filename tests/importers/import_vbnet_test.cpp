@@ -1,6 +1,6 @@
 #include "importers/import_vbnet.h"
 
-#include "import_desk.h"
+#include "import_context.h"
 #include "importers/vb_project.h"
 
 #include <gmock/gmock.h>
@@ -30,7 +30,7 @@ std::string Reference(const std::string& guid, const std::string& major, const s
            "\"\r\nVersionMinor = \"" + minor + "\"\r\n/>\r\n";
 }
 
-class ImportVbNet : public ImportDesk {
+class ImportVbNet : public ImportContext {
 protected:
     ImportVbNet()
     {

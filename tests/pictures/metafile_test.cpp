@@ -45,7 +45,7 @@ protected:
     }
 };
 
-TEST(DecodeMetafile, HasTheSizeOfItsHead)
+TEST(DecodeMetafile, HasTheSizeOfItsHeader)
 {
     const MadeMetafile file = MadeMetafile().Plain(kRedColour).Rectangle(0, 0, 100, 100);
     const PictureResult inches = DecodePicture(file.Placeable(0, 0, 2880, 1440, 1440));
@@ -227,7 +227,7 @@ TEST_F(Drawing, OfHatchedBrushes)
         const Picture clear = Drawn(80, 80);
         const double lines = hatch < 4 ? 1.0 / 8 : 15.0 / 64;
         EXPECT_NEAR(Area(clear), 6400 * (hatch == 5 ? 16.0 / 64 : lines), 1) << hatch;
-        // On a ground of its own nothing is left clear.
+        // On a background of its own nothing is left clear.
         file = MadeMetafile().Window(0, 0, 20, 10).Brush(2, kBlueColour, hatch).Pen(5, 0, 0);
         file.Select(0).Select(1).Add(0x0201, Long(kRedColour)).Rectangle(0, 0, 20, 10);
         EXPECT_EQ(Area(Drawn(80, 80)), 6400) << hatch;

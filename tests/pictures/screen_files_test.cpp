@@ -23,7 +23,7 @@ using testing::IsEmpty;
 constexpr int kWidth = 1024;
 constexpr int kHeight = 768;
 
-/// The head of a bitmap of 24 bits from the top, whose pixels are all that follows.
+/// The header of a bitmap of 24 bits from the top, whose pixels are all that follows.
 std::string BitmapHeader(int width, int height)
 {
     const auto pixels = std::int64_t{width} * 3 * height;

@@ -15,7 +15,7 @@ std::string SampleSignature()
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-SignatureInfo FactsOf(std::string_view signature)
+SignatureInfo SignatureInfoOf(std::string_view signature)
 {
     return ReadSignatureData(std::as_bytes(std::span(signature)), {});
 }
@@ -42,7 +42,7 @@ std::string WithDigests(int count)
 
 TEST(ReadSignatureData, NamesTheSignerAlsoOfAnotherProgram)
 {
-    const SignatureInfo info = FactsOf(SampleSignature());
+    const SignatureInfo info = SignatureInfoOf(SampleSignature());
     EXPECT_EQ(info.signer, "Firma Åke AB");
     EXPECT_EQ(info.issuer, "Prov CA");
     EXPECT_EQ(info.fault, "filen har ändrats sedan den signerades");
@@ -50,9 +50,9 @@ TEST(ReadSignatureData, NamesTheSignerAlsoOfAnotherProgram)
 
 TEST(ReadSignatureData, RefusesASignatureWithoutADigestOrWithSeveral)
 {
-    EXPECT_EQ(FactsOf(WithDigests(1)).signer, "Firma Åke AB");
-    EXPECT_EQ(FactsOf(WithDigests(0)).fault, "signaturen är skadad");
-    EXPECT_EQ(FactsOf(WithDigests(2)).fault, "signaturen är skadad");
+    EXPECT_EQ(SignatureInfoOf(WithDigests(1)).signer, "Firma Åke AB");
+    EXPECT_EQ(SignatureInfoOf(WithDigests(0)).fault, "signaturen är skadad");
+    EXPECT_EQ(SignatureInfoOf(WithDigests(2)).fault, "signaturen är skadad");
 }
 
 } // namespace

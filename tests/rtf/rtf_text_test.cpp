@@ -11,13 +11,13 @@
 namespace quillon::test {
 namespace {
 
-constexpr char kHead[] = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss Arial;}"
-                         "{\\f1\\froman\\fcharset238 Times;}{\\f2\\fnil\\fcharset2 Symbol;}}"
-                         "{\\colortbl ;\\red255\\green0\\blue0;\\red1\\green2\\blue3;}";
+constexpr char kHeader[] = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss Arial;}"
+                           "{\\f1\\froman\\fcharset238 Times;}{\\f2\\fnil\\fcharset2 Symbol;}}"
+                           "{\\colortbl ;\\red255\\green0\\blue0;\\red1\\green2\\blue3;}";
 
 Text ReadBody(const std::string& body)
 {
-    const auto text = ReadRtf(kHead + body + "}");
+    const auto text = ReadRtf(kHeader + body + "}");
     return text ? Dump(*text) : "no RTF";
 }
 

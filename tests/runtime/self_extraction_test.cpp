@@ -17,7 +17,7 @@ TEST(SelfExtractCommand, HandsOnWhatIsNotItsOwn)
         ReadSelfExtractCommand("/S /D=C:\\My Folder /LOG=\"C:\\a b.txt\" \"/GROUP=x y\"");
     EXPECT_EQ(command.forSetup, "/S /D=C:\\My Folder /LOG=\"C:\\a b.txt\" \"/GROUP=x y\"");
     EXPECT_TRUE(command.isSilent);
-    EXPECT_FALSE(command.wantsHelp || command.wantsVersion || command.isElevatedTwin);
+    EXPECT_FALSE(command.wantsHelp || command.wantsVersion || command.isElevatedInstance);
     EXPECT_FALSE(command.extractTo);
     EXPECT_FALSE(ReadSelfExtractCommand("").isSilent);
 }
@@ -28,7 +28,7 @@ TEST(SelfExtractCommand, TakesItsOwnSwitchesOut)
     EXPECT_TRUE(ReadSelfExtractCommand("-?").wantsHelp);
     EXPECT_TRUE(ReadSelfExtractCommand("/S /Version").wantsVersion);
     const SelfExtractCommand twin = ReadSelfExtractCommand("/QNELEVATED /S /extract:C:\\Ut /X");
-    EXPECT_TRUE(twin.isElevatedTwin);
+    EXPECT_TRUE(twin.isElevatedInstance);
     EXPECT_EQ(twin.extractTo, "C:\\Ut");
     EXPECT_EQ(twin.forSetup, "/S /X");
 }

@@ -19,7 +19,7 @@ inline std::string Bitmap(QColor colour, int width = 100, int height = 200)
 }
 
 /// The header of a bitmap file that says to be this large, and nothing after it.
-inline std::string BitmapHead(int width, int height)
+inline std::string BitmapHeader(int width, int height)
 {
     std::string bytes = Bitmap(Qt::black, 1, 1);
     for (const auto& [place, number] : {std::pair{18, width}, std::pair{22, height}})

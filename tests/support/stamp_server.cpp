@@ -35,11 +35,12 @@ std::string ReadRequest(int connection)
         if (count <= 0)
             return request;
         request.append(piece.data(), std::size_t(count));
-        const std::size_t head = request.find("\r\n\r\n");
+        const std::size_t headerEnd = request.find("\r\n\r\n");
         const std::size_t length = request.find("Content-Length: ");
-        if (head == std::string::npos || length == std::string::npos)
+        if (headerEnd == std::string::npos || length == std::string::npos)
             continue;
-        if (request.size() >= head + 4 + std::strtoul(request.c_str() + length + 16, nullptr, 10))
+        if (request.size() >=
+            headerEnd + 4 + std::strtoul(request.c_str() + length + 16, nullptr, 10))
             return request;
     }
 }
@@ -95,11 +96,11 @@ void StampServer::Serve()
 void StampServer::Answer(int connection)
 {
     const std::string request = ReadRequest(connection);
-    const std::size_t head = request.find("\r\n\r\n");
-    if (head == std::string::npos)
+    const std::size_t headerEnd = request.find("\r\n\r\n");
+    if (headerEnd == std::string::npos)
         return;
     ++requests_;
-    const std::string stamp = StampFor(request, request.substr(head + 4));
+    const std::string stamp = StampFor(request, request.substr(headerEnd + 4));
     const std::string type = request.find("timestamp-query") != std::string::npos
                                  ? "application/timestamp-reply"
                                  : "application/octet-stream";

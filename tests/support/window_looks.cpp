@@ -125,8 +125,8 @@ Faults UnnamedControls(QWidget& window)
     for (QWidget* widget : WidgetsInView(window)) {
         if (widget->focusPolicy() == Qt::NoFocus || IsPartOfAnother(*widget))
             continue;
-        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
-        if (!spoken || spoken->text(QAccessible::Name).trimmed().isEmpty())
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+        if (!accessible || accessible->text(QAccessible::Name).trimmed().isEmpty())
             faults.push_back(NameOf(*widget));
     }
     return faults;

@@ -117,8 +117,8 @@ TEST_F(ListPagesTest, HasItsColumnsAndRulesInPlace)
         {17, "Filnamn", "f1"},        {55, "Destination", "%DESTDIR"}, {124, "Storlek", "1,0"},
         {139, "Datum", "2004-02-29"}, {155, "Tid", "12:30"},           {166, "(nothing)", "IkonD"},
         {174, "Inst", "DA"},          {187, "(nothing)", "3"}};
-    for (const auto& [x, head, value] : kColumns) {
-        EXPECT_EQ(TextAt(page, x, 52), head);
+    for (const auto& [x, heading, value] : kColumns) {
+        EXPECT_EQ(TextAt(page, x, 52), heading);
         EXPECT_EQ(TextAt(page, x, 61), value);
         ExpectLook(page, x, 61, 8, false);
     }

@@ -89,9 +89,9 @@ VirtualDisplay::~VirtualDisplay()
 
 void BitmapToPng(const fs::path& bitmap, const fs::path& png)
 {
-    constexpr std::size_t kHead = 14 + 40;
+    constexpr std::size_t kHeaderSize = 14 + 40;
     const std::string bytes = ReadBytes(bitmap);
-    ASSERT_GT(bytes.size(), kHead) << bitmap;
+    ASSERT_GT(bytes.size(), kHeaderSize) << bitmap;
     png_image image{};
     image.version = PNG_IMAGE_VERSION;
     image.width = NumberAt(bytes, 18);
@@ -101,7 +101,7 @@ void BitmapToPng(const fs::path& bitmap, const fs::path& png)
     std::string rows;
     for (std::size_t y = image.height; y-- > 0;)
         for (std::size_t x = 0; x < image.width; ++x)
-            rows += bytes.substr(kHead + 4 * (y * image.width + x), 3);
+            rows += bytes.substr(kHeaderSize + 4 * (y * image.width + x), 3);
     fs::create_directories(png.parent_path());
     EXPECT_TRUE(png_image_write_to_file(&image, png.c_str(), 0, rows.data(), 0, nullptr))
         << image.message;

@@ -26,8 +26,9 @@ std::uint32_t Crc(std::uint32_t crc, std::span<const std::byte> bytes)
 class EqualFileSearch {
 public:
     EqualFileSearch(const FileSystem& files, const std::vector<Text>& paths,
-                    const std::function<void()>& onYield)
-        : files_(files), paths_(paths), onYield_(onYield), found_(paths.size()), piece_(kPiece)
+                    const std::function<void()>& processEvents)
+        : files_(files), paths_(paths), processEvents_(processEvents), found_(paths.size()),
+          piece_(kPiece)
     {
     }
 
@@ -47,7 +48,7 @@ private:
         std::unordered_map<std::uint64_t, Places> bySize;
         for (std::size_t place = 0; place < paths_.size(); ++place) {
             found_[place].original = place;
-            onYield_();
+            processEvents_();
             RunErrorNumber([&] {
                 const FileStatus status = files_.Status(paths_[place]);
                 found_[place].modified = status.modified;
@@ -63,7 +64,7 @@ private:
         std::map<std::uint32_t, Places> byBeginning;
         for (const std::size_t place : places)
             RunErrorNumber([&] {
-                onYield_();
+                processEvents_();
                 const auto file = files_.OpenInput(paths_[place]);
                 const std::size_t count = file->Read(std::span(piece_).first(kBeginning));
                 byBeginning[Crc(0, std::span(piece_).first(count))].push_back(place);
@@ -97,7 +98,7 @@ private:
             digest.Add(bytes);
             crc = Crc(crc, bytes);
             read += count;
-            onYield_();
+            processEvents_();
         }
         if (read != size)
             return std::nullopt;
@@ -114,7 +115,7 @@ private:
 
     const FileSystem& files_;
     const std::vector<Text>& paths_;
-    const std::function<void()>& onYield_;
+    const std::function<void()>& processEvents_;
     std::vector<FileContent> found_;
     std::vector<std::byte> piece_;
 };
@@ -141,9 +142,9 @@ bool AreEqualFiles(const FileSystem& files, const Text& first, const Text& secon
 }
 
 std::vector<FileContent> FindEqualFiles(const FileSystem& files, const std::vector<Text>& paths,
-                                        const std::function<void()>& onYield)
+                                        const std::function<void()>& processEvents)
 {
-    return EqualFileSearch(files, paths, onYield).Run();
+    return EqualFileSearch(files, paths, processEvents).Run();
 }
 
 } // namespace quillon

@@ -20,9 +20,9 @@ struct FileContent {
 };
 
 /// One for each path, in their order. A file that can't be read is like no other; who packs it will
-/// tell why. `onYield` is called often.
+/// tell why. `processEvents` is called often.
 std::vector<FileContent> FindEqualFiles(const FileSystem& files, const std::vector<Text>& paths,
-                                        const std::function<void()>& onYield);
+                                        const std::function<void()>& processEvents);
 
 /// Whether both can be read and hold the same bytes.
 bool AreEqualFiles(const FileSystem& files, const Text& first, const Text& second);

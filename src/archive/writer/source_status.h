@@ -8,8 +8,8 @@
 namespace quillon {
 
 /// One for each source, in their order. Throws `CompressionFailure` for one that can't be read or
-/// is a folder. `onYield` may be empty.
+/// is a folder. `processEvents` may be empty.
 std::vector<FileStatus> StatusOfSources(const FileSystem& files, std::span<const ZipSource> sources,
-                                        const std::function<void()>& onYield);
+                                        const std::function<void()>& processEvents);
 
 } // namespace quillon

@@ -62,8 +62,8 @@ private:
 
     void ProcessEvents() const
     {
-        if (watch_.onYield)
-            watch_.onYield();
+        if (watch_.processEvents)
+            watch_.processEvents();
     }
     void StatSources();
     void FindLargeEqualSources();
@@ -135,7 +135,7 @@ void ZipWriting::Run()
 
 void ZipWriting::StatSources()
 {
-    status_ = StatusOfSources(files_, sources_, watch_.onYield);
+    status_ = StatusOfSources(files_, sources_, watch_.processEvents);
     for (const FileStatus& status : status_)
         total_ += status.size;
 }
@@ -284,7 +284,7 @@ void ZipWriting::WriteOldest()
     pending_.pop_front();
     inFlight_ -= pending.block.length + kBlockOverhead;
     ProcessEvents();
-    PackedBlock packed = workers_.Next(watch_.onYield);
+    PackedBlock packed = workers_.Next(watch_.processEvents);
     if (!RepeatsWritten(pending, packed)) {
         if (pending.block.IsFirst())
             BeginEntry(pending, packed);

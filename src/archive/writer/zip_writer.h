@@ -69,7 +69,7 @@ struct ZipWatch {
     /// Bytes of the sources that are packed, and of all of them.
     std::function<void(std::uint64_t done, std::uint64_t total)> onProgress;
     /// Called often, also while a thread is waited for, so that a window stays alive.
-    std::function<void()> onYield;
+    std::function<void()> processEvents;
 };
 
 /// Writes an archive of the sources in their order. Throws `CompressionFailure` where a source

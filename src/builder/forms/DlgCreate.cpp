@@ -7,6 +7,7 @@
 #include "builder/package_summary.h"
 #include "builder/signing/sign_programs.h"
 #include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "shell/failure_text.h"
 #include "shell/main_window.h"
 #include "shell/session.h"
@@ -42,9 +43,9 @@ const std::array<MediumControls, 4> kControls{{
 constexpr int kProgressSteps = 1000;
 constexpr int kLinesInView = 9;
 
-int LongestDestination()
+int MaxDestinationLength()
 {
-    return LongestText(section::kLastDirectories, &section::LastDirectories::CreatationDestDir);
+    return MaxTextLength(&section::LastDirectories::CreatationDestDir);
 }
 
 } // namespace
@@ -92,7 +93,7 @@ Piece DlgCreate::MakeMedium(Medium medium)
 Piece DlgCreate::MakeSettings()
 {
     Named(NAMED(tDestinationDir), new QLineEdit);
-    LimitTyping(tDestinationDir, LongestDestination());
+    LimitTyping(tDestinationDir, MaxDestinationLength());
     connect(tDestinationDir, &QLineEdit::textChanged, this,
             [this](const QString& text) { ChangeDestination(text); });
     OnLeave(tDestinationDir, [this] { TakeHostPath(); });

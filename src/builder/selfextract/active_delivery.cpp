@@ -128,7 +128,7 @@ void ActiveDelivery::Archive(const Text& folder, const Text& zipPath)
         host_.files, sources, zip, {.deflate = false},
         {.onEntry = {},
          .onProgress = [&](std::uint64_t done, std::uint64_t total) { progress.Show(done, total); },
-         .onYield = [&] { ask_.ProcessEvents(); }});
+         .processEvents = [&] { ask_.ProcessEvents(); }});
     zip.Close();
     zip.Commit();
 }

@@ -142,12 +142,12 @@ struct ProgramLayout {
 
 std::optional<ProgramLayout> LayoutOf(std::string_view program)
 {
-    constexpr std::size_t kLeastOptionalSize = 240; // of a 64-bit program; a 32-bit one has 16 less
+    constexpr std::size_t kMinOptionalSize = 240; // of a 64-bit program; a 32-bit one has 16 less
     if (program.size() < kDosHeaderSize || !program.starts_with("MZ"))
         return std::nullopt;
     ProgramLayout layout{.header = LongAt(program, kHeaderPosition)};
     if (layout.header > program.size() ||
-        program.size() - layout.header < kFileHeaderSize + kLeastOptionalSize ||
+        program.size() - layout.header < kFileHeaderSize + kMinOptionalSize ||
         program.compare(layout.header, 4, "PE\0\0", 4) != 0)
         return std::nullopt;
     layout.optional = layout.header + kFileHeaderSize;

@@ -24,7 +24,7 @@ public:
     /// The pixel row below the title block.
     int TitleBottom() const;
 
-    /// Told a place in pixels of the surface.
+    /// Called with a place in pixels of the surface.
     std::function<void(QPoint)> onDoubleClick;
 
 protected:

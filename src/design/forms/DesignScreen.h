@@ -60,9 +60,9 @@ public:
     void PlaceSurface(QSize tab, int captionHeight);
 
     enum class Object { Pictures, PicturesAnim, Logotype, TextBox, RTFbox };
-    /// Told which object is to be edited; `index` counts the free pictures.
+    /// Called with the object that is to be edited; `index` counts the free pictures.
     std::function<void(Object, std::size_t index)> onEditObject;
-    /// Told which editor a double click on the surface itself opens.
+    /// Called with the editor that a double click on the surface itself opens.
     std::function<void(SurfaceEditor)> onEditSurface;
 
 private:

@@ -1,6 +1,7 @@
 #include "design/forms/DlgDesBackground.h"
 
 #include "design/forms/choose_file.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/PathLabel.h"
 #include "ui/qt_text.h"
@@ -40,8 +41,7 @@ Piece DlgDesBackground::ColourFrame()
     ColourOf(NAMED(cmdBackColor), "Färg &1...", background_.BackColor1);
     ColourOf(NAMED(cmdBackColor2), "Färg &2...", background_.BackColor2);
     Choice(NAMED(ComboBlendDirection), kBlendDirections, background_.BlendDirection);
-    Field(NAMED(tBlendDepth), background_.BlendDepth,
-          LongestText(section::kDesBackground, &DesBackground::BlendDepth));
+    Field(NAMED(tBlendDepth), background_.BlendDepth, MaxTextLength(&DesBackground::BlendDepth));
     Named(NAMED(labBlendDepth), new QLabel("Toningens &djup (%):"));
     labBlendDepth->setBuddy(tBlendDepth);
     tBlendDepth->setAccessibleName("Toningens djup i procent");

@@ -4,6 +4,7 @@
 #include "helpers/windows_path.h"
 #include "platform/failure_text.h"
 #include "platform/whole_file.h"
+#include "project/text_limits.h"
 #include "rtf/rtf_losses.h"
 #include "rtf/rtf_writer.h"
 #include "shell/session.h"
@@ -73,8 +74,7 @@ DlgDesRTFbox::DlgDesRTFbox(Session& session, QWidget* parent)
               ToQt(stored.empty() ? ProposedRTFfilename(session.state.ProjectFileName) : stored)));
     // With room for the ending that a name without one gets.
     constexpr int kEnding = 4;
-    LimitTyping(tRTFfilename,
-                LongestText(section::kDesRTFbox, &section::DesRTFbox::RTFfilename) - kEnding);
+    LimitTyping(tRTFfilename, MaxTextLength(&section::DesRTFbox::RTFfilename) - kEnding);
     Check(NAMED(cShowRTFbox), "&Visa RTF-rutan", box_.ShowRTFbox);
     Named(NAMED(cmdSetBackColor),
           new ColourButton("&Bakgrundsfärg...", session.ask, [this] { ShowBackColour(); }));
@@ -174,7 +174,7 @@ void DlgDesRTFbox::ShowBackColour()
     palette.setColor(QPalette::Base, shown);
     // Text without a colour of its own is black in the setup, on whatever the box is filled with.
     palette.setColor(QPalette::Text, Qt::black);
-    // The letters take the colours of the editor, the ground those of its viewport.
+    // The letters take the colours of the editor, the background those of its viewport.
     RTFbox->setPalette(palette);
     RTFbox->viewport()->setPalette(palette);
 }

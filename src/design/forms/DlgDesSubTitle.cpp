@@ -1,5 +1,6 @@
 #include "design/forms/DlgDesSubTitle.h"
 
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 
@@ -16,8 +17,7 @@ constexpr int kFieldCharacters = 50;
 DlgDesSubTitle::DlgDesSubTitle(Text& subTitle, Session& session, QWidget* parent)
     : EditorForm("DlgDesSubTitle", "Undertitel", session, parent)
 {
-    Field(NAMED(tSubtitle), subTitle,
-          LongestText(section::kDesSubTitle, &section::DesSubTitle::SubTitleText));
+    Field(NAMED(tSubtitle), subTitle, MaxTextLength(&section::DesSubTitle::SubTitleText));
     Button(NAMED(cmdVariables), "&Variabler...", [this] {
         const int cursor = tSubtitle->cursorPosition();
         if (const auto variable = session_.ask.ChooseVariable()) {

@@ -4,6 +4,7 @@
 #include "design/forms/DlgDesSubTitle.h"
 #include "design/forms/font_records.h"
 #include "design/number_fields.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/UpDownArrows.h"
 #include "ui/qt_text.h"
@@ -22,8 +23,7 @@ DlgDesTitle::DlgDesTitle(Session& session, QWidget* parent)
     : DesignEditor("DlgDesTitle", "Titel", session, parent), title_(session.project.DesTitle),
       subTitle_(session.project.DesSubTitle.SubTitleText)
 {
-    Field(NAMED(tTitleText), title_.TitleText,
-          LongestText(section::kDesTitle, &section::DesTitle::TitleText));
+    Field(NAMED(tTitleText), title_.TitleText, MaxTextLength(&section::DesTitle::TitleText));
     Check(NAMED(cTitleShadow), "&Skugga", title_.TitleShadow);
     ColourOf(NAMED(cmdTitleColor), "&Färg...", title_.TitleForeColor);
     Button(NAMED(cmdTitleFont), "&Teckensnitt...", [this] { ChooseFont(); });

@@ -1,7 +1,7 @@
 #include "design/forms/choose_file.h"
 
 #include "actions/kept_path.h"
-#include "project/design_keys.h"
+#include "project/text_limits.h"
 
 namespace quillon {
 
@@ -38,8 +38,7 @@ std::optional<Text> ChooseDesignFile(DesignFile kind, Text& folder, Ask& ask)
 {
     using section::DesBackground;
     // All of the design's files have the room of this one.
-    static const int kMaxPath =
-        LongestText(section::kDesBackground, &DesBackground::PictureFilename);
+    static const int kMaxPath = MaxTextLength(&DesBackground::PictureFilename);
     return ChooseKeptPath(QuestionOf(kind), folder, kMaxPath,
                           kind == DesignFile::Sound ? kSound : kPicture, ask);
 }

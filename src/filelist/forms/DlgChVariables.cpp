@@ -1,7 +1,6 @@
 #include "filelist/forms/DlgChVariables.h"
 
-#include "project/dialog_keys.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 
@@ -31,21 +30,18 @@ DlgChVariables::DlgChVariables(Session& session, QWidget* parent)
 
 QLineEdit* DlgChVariables::VersionField(QLineEdit*& member, const char* name, Text Version::*field)
 {
-    return Field(member, name, session_.project.Version.*field,
-                 LongestText(section::kVersion, field));
+    return Field(member, name, session_.project.Version.*field, MaxTextLength(field));
 }
 
 QLineEdit* DlgChVariables::UserField(QLineEdit*& member, const char* name, Text LicenseData::*field)
 {
-    return Field(member, name, session_.project.LicenseData.*field,
-                 LongestText(section::kLicenseData, field));
+    return Field(member, name, session_.project.LicenseData.*field, MaxTextLength(field));
 }
 
 QLineEdit* DlgChVariables::OwnField(QLineEdit*& member, const char* name,
                                     Text RegPrivateVar::*field)
 {
-    return Field(member, name, session_.project.RegPrivateVar.*field,
-                 LongestText(section::kRegPrivateVar, field));
+    return Field(member, name, session_.project.RegPrivateVar.*field, MaxTextLength(field));
 }
 
 Piece DlgChVariables::VersionFrames()

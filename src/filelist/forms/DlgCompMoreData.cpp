@@ -1,7 +1,7 @@
 #include "filelist/forms/DlgCompMoreData.h"
 
 #include "filelist/forms/DlgCompMoreDataAdv.h"
-#include "project/dialog_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
@@ -20,8 +20,7 @@ DlgCompMoreData::DlgCompMoreData(std::size_t component, Session& session, QWidge
     const Text number = NumberText(static_cast<std::int64_t>(component) + 1);
     Named(NAMED(sComponent), new QLabel(ToQt(component_.CompName + "   (# " + number + ")")));
     sComponent->setTextFormat(Qt::PlainText);
-    Area(NAMED(tCompText), component_.CompText,
-         LongestText(section::kFileComponent, &FileComponent::CompText));
+    Area(NAMED(tCompText), component_.CompText, MaxTextLength(&FileComponent::CompText));
     KeepOneLine(tCompText);
     Check01(NAMED(cCompDefault),
             "&Denna komponent ska vara ikryssad från början i installationsdialogrutan",

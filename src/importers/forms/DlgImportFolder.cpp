@@ -14,9 +14,9 @@ constexpr int kLinesInView = 5;
 
 } // namespace
 
-DlgImportFolder::DlgImportFolder(const ImportDesk& desk, QWidget* parent)
-    : ImportForm("DlgImportFolder", "Importera programkatalog", desk, desk.session.LastImportFolder,
-                 parent)
+DlgImportFolder::DlgImportFolder(const ImportContext& context, QWidget* parent)
+    : ImportForm("DlgImportFolder", "Importera programkatalog", context,
+                 context.session.LastImportFolder, parent)
 {
     Named(NAMED(cbProgram), new QComboBox);
     connect(cbProgram, &QComboBox::activated, this, [this] { ShowFindings(); });
@@ -76,7 +76,7 @@ Piece DlgImportFolder::MakeOptions()
 
 void DlgImportFolder::SelectFolder()
 {
-    const Session& session = Desk().session;
+    const Session& session = Context().session;
     const auto folder =
         session.ask.SelectDir("Välj katalogen där programmet är byggt eller publicerat.",
                               LastFolder().empty() ? session.ProjectsFolder : LastFolder());
@@ -109,7 +109,7 @@ void DlgImportFolder::ShowFindings()
     const int row = cbProgram->currentIndex();
     if (row >= 0) {
         const FolderFile& program = folder_.files[folder_.programs[static_cast<std::size_t>(row)]];
-        findings_ = FindingsOf(Desk().session.host.files, folder_, program, Data());
+        findings_ = FindingsOf(Context().session.host.files, folder_, program, Data());
         for (const Text& line : FindingsText(findings_))
             ListOfFindings->addItem(ToQt(line));
     }
@@ -128,10 +128,10 @@ ImportResult DlgImportFolder::Import(const ImportWork& work)
                                 .cAddIcon = cAddIcon->isChecked()});
 }
 
-void ShowImportFolder(const ImportDesk& desk, QWidget* parent)
+void ShowImportFolder(const ImportContext& context, QWidget* parent)
 {
-    DlgImportFolder form(desk, parent);
-    RunImportForm(form, desk.window);
+    DlgImportFolder form(context, parent);
+    RunImportForm(form, context.window);
 }
 
 } // namespace quillon

@@ -12,7 +12,7 @@ namespace quillon {
 
 class DlgImportFolder : public ImportForm {
 public:
-    DlgImportFolder(const ImportDesk& desk, QWidget* parent);
+    DlgImportFolder(const ImportContext& context, QWidget* parent);
 
     PathLabel* sFolder = nullptr;
     QPushButton* cmdSelectFolder = nullptr;

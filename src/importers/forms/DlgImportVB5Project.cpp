@@ -15,8 +15,8 @@ constexpr const char* kFolderHelp =
 
 } // namespace
 
-DlgImportVB5Project::DlgImportVB5Project(const ImportDesk& desk, QWidget* parent)
-    : VbProjectForm("DlgImportVB5Project", "Importera Visual Basic 5.0 projekt", desk, parent)
+DlgImportVB5Project::DlgImportVB5Project(const ImportContext& context, QWidget* parent)
+    : VbProjectForm("DlgImportVB5Project", "Importera Visual Basic 5.0 projekt", context, parent)
 {
     setWhatsThis("Adderar de filer som ett program i Visual Basic 5.0 behöver: körfilerna, "
                  "ActiveX-filerna i projektet och programmet självt. Filer som redan finns i "
@@ -28,7 +28,7 @@ DlgImportVB5Project::DlgImportVB5Project(const ImportDesk& desk, QWidget* parent
         Progress(),
         Buttons(),
     }));
-    tVBDirectory->setText(ToQt(FindVb5Directory(desk.session.host.machine)));
+    tVBDirectory->setText(ToQt(FindVb5Directory(context.session.host.machine)));
     cmdSelectVBP->setFocus();
 }
 
@@ -73,10 +73,10 @@ ImportResult DlgImportVB5Project::Import(const ImportWork& work)
     return ImportVb5Project(work, choices_);
 }
 
-void ShowImportVB5Project(const ImportDesk& desk, QWidget* parent)
+void ShowImportVB5Project(const ImportContext& context, QWidget* parent)
 {
-    DlgImportVB5Project form(desk, parent);
-    RunImportForm(form, desk.window);
+    DlgImportVB5Project form(context, parent);
+    RunImportForm(form, context.window);
 }
 
 } // namespace quillon

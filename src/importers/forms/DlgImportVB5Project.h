@@ -8,7 +8,7 @@ namespace quillon {
 
 class DlgImportVB5Project : public VbProjectForm {
 public:
-    DlgImportVB5Project(const ImportDesk& desk, QWidget* parent);
+    DlgImportVB5Project(const ImportContext& context, QWidget* parent);
 
 protected:
     ImportResult Import(const ImportWork& work) override;

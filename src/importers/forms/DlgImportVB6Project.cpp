@@ -15,10 +15,10 @@ constexpr const char* kFolderHelp =
 
 } // namespace
 
-DlgImportVB6Project::DlgImportVB6Project(const ImportDesk& desk, QWidget* parent)
-    : VbProjectForm("DlgImportVB6Project", "Importera Visual Basic 6.0 projekt", desk, parent)
+DlgImportVB6Project::DlgImportVB6Project(const ImportContext& context, QWidget* parent)
+    : VbProjectForm("DlgImportVB6Project", "Importera Visual Basic 6.0 projekt", context, parent)
 {
-    choices_.tVBDirectory = FindVb6Directory(desk.session.host.machine);
+    choices_.tVBDirectory = FindVb6Directory(context.session.host.machine);
     setWhatsThis("Adderar de filer som ett program i Visual Basic 6.0 behöver: körfilerna, "
                  "ActiveX-filerna i projektet, databasfilerna du väljer och programmet självt. "
                  "Filer som redan finns i fillistan ligger kvar.");
@@ -35,7 +35,7 @@ DlgImportVB6Project::DlgImportVB6Project(const ImportDesk& desk, QWidget* parent
 
 Piece DlgImportVB6Project::MakeDatabases()
 {
-    Button(NAMED(cmdMDADetails), "D&etaljer...", [this] { Desk().forms.showMDADetails(this); });
+    Button(NAMED(cmdMDADetails), "D&etaljer...", [this] { Context().forms.showMDADetails(this); });
     cmdMDADetails->setAccessibleName("Detaljer om Data Access");
     Explained(cmdMDADetails, "Väljer om installationen av Microsoft Data Access ska synas för "
                              "mottagaren, och om han ska tillfrågas innan.");
@@ -79,7 +79,7 @@ void DlgImportVB6Project::SelectVBP()
         return;
     TakeChoices();
     choices_.sVBPfile = *file;
-    const Session& session = Desk().session;
+    const Session& session = Context().session;
     ScanVb6Project(session.host, session.ask, Data(), choices_);
     ShowChoices();
 }
@@ -127,10 +127,10 @@ ImportResult DlgImportVB6Project::Import(const ImportWork& work)
     return ImportVb6Project(work, Data(), choices_);
 }
 
-void ShowImportVB6Project(const ImportDesk& desk, QWidget* parent)
+void ShowImportVB6Project(const ImportContext& context, QWidget* parent)
 {
-    DlgImportVB6Project form(desk, parent);
-    RunImportForm(form, desk.window);
+    DlgImportVB6Project form(context, parent);
+    RunImportForm(form, context.window);
 }
 
 } // namespace quillon

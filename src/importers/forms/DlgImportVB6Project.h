@@ -8,7 +8,7 @@ namespace quillon {
 
 class DlgImportVB6Project : public VbProjectForm {
 public:
-    DlgImportVB6Project(const ImportDesk& desk, QWidget* parent);
+    DlgImportVB6Project(const ImportContext& context, QWidget* parent);
 
     QCheckBox* cImportDAO36 = nullptr;
     QCheckBox* cImportADO = nullptr;

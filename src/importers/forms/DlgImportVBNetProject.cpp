@@ -7,13 +7,13 @@
 
 namespace quillon {
 
-DlgImportVBNetProject::DlgImportVBNetProject(const ImportDesk& desk, QWidget* parent)
-    : ImportForm("DlgImportVBNetProject", "Importera Visual Basic .NET projekt", desk,
-                 desk.session.Settings.Directories.LastVBNETProjDir, parent)
+DlgImportVBNetProject::DlgImportVBNetProject(const ImportContext& context, QWidget* parent)
+    : ImportForm("DlgImportVBNetProject", "Importera Visual Basic .NET projekt", context,
+                 context.session.Settings.Directories.LastVBNETProjDir, parent)
 {
     Named(NAMED(labNETtestStatus), new QLabel);
     Button(NAMED(CmdTestNETFramework), "&Ändra...", [this] {
-        Desk().forms.showTestNETFramework(this);
+        Context().forms.showTestNETFramework(this);
         ShowNetTest();
     });
     CmdTestNETFramework->setAccessibleName("Ändra testet av .NET Framework");
@@ -76,7 +76,7 @@ void DlgImportVBNetProject::SelectEXE()
 
 void DlgImportVBNetProject::ShowNetTest()
 {
-    labNETtestStatus->setText(Desk().session.project.NET.NET_TestIfInstalled != kOff
+    labNETtestStatus->setText(Context().session.project.NET.NET_TestIfInstalled != kOff
                                   ? "Testa att .NET Framework är installerad"
                                   : "Testa inte att .NET Framework är installerad");
 }
@@ -87,10 +87,10 @@ ImportResult DlgImportVBNetProject::Import(const ImportWork& work)
     return ImportVbNetProject(work, Data(), choices_);
 }
 
-void ShowImportVBNetProject(const ImportDesk& desk, QWidget* parent)
+void ShowImportVBNetProject(const ImportContext& context, QWidget* parent)
 {
-    DlgImportVBNetProject form(desk, parent);
-    RunImportForm(form, desk.window);
+    DlgImportVBNetProject form(context, parent);
+    RunImportForm(form, context.window);
 }
 
 } // namespace quillon

@@ -8,7 +8,7 @@ namespace quillon {
 
 class DlgImportVBNetProject : public ImportForm {
 public:
-    DlgImportVBNetProject(const ImportDesk& desk, QWidget* parent);
+    DlgImportVBNetProject(const ImportContext& context, QWidget* parent);
 
     PathLabel* sVBPfile = nullptr;
     PathLabel* sEXEfile = nullptr;

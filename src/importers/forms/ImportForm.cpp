@@ -20,9 +20,9 @@ constexpr const char* kStop = "S&toppa";
 
 } // namespace
 
-ImportForm::ImportForm(const char* name, const Text& title, const ImportDesk& desk,
+ImportForm::ImportForm(const char* name, const Text& title, const ImportContext& context,
                        Text& lastFolder, QWidget* parent)
-    : Form(name, title, parent), desk_(desk), lastFolder_(lastFolder)
+    : Form(name, title, parent), context_(context), lastFolder_(lastFolder)
 {
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
             [this] { ShowFormHelp(); });
@@ -71,10 +71,10 @@ Piece ImportForm::Buttons()
 
 std::optional<Text> ImportForm::SelectProject(const Text& filter, const Text& fileName)
 {
-    auto file = desk_.session.ask.OpenFile({.title = "Välj Visual Basic projekt",
-                                            .folder = lastFolder_,
-                                            .fileName = fileName,
-                                            .filter = filter});
+    auto file = context_.session.ask.OpenFile({.title = "Välj Visual Basic projekt",
+                                               .folder = lastFolder_,
+                                               .fileName = fileName,
+                                               .filter = filter});
     if (file)
         lastFolder_ = ExtractDirectory(*file);
     return file;
@@ -82,15 +82,15 @@ std::optional<Text> ImportForm::SelectProject(const Text& filter, const Text& fi
 
 std::optional<Text> ImportForm::SelectProgram(const Text& folder)
 {
-    return desk_.session.ask.OpenFile({.title = "Välj programfil",
-                                       .folder = folder.empty() ? lastFolder_ : folder,
-                                       .fileName = "*.exe",
-                                       .filter = "Programfiler (*.exe)|*.exe"});
+    return context_.session.ask.OpenFile({.title = "Välj programfil",
+                                          .folder = folder.empty() ? lastFolder_ : folder,
+                                          .fileName = "*.exe",
+                                          .filter = "Programfiler (*.exe)|*.exe"});
 }
 
 const ImportData& ImportForm::Data()
 {
-    const Session& session = desk_.session;
+    const Session& session = context_.session;
     if (!data_)
         data_ = ReadImportData(session.host.files, session.options.ToolFolder,
                                session.options.OwnFolder, session.ask);
@@ -99,7 +99,7 @@ const ImportData& ImportForm::Data()
 
 void ImportForm::StartImport()
 {
-    Session& session = desk_.session;
+    Session& session = context_.session;
     ImportResult result;
     RunStoppable([&] {
         result = Import({.list = {session.project, session.state, session.host, session.ask},
@@ -161,17 +161,17 @@ void ImportForm::reject()
 std::optional<Text>
 ImportForm::ChooseProgramDestination(const ImportUser::ProgramQuestion& question)
 {
-    return desk_.forms.chooseProgramDestination(question, parentWidget());
+    return context_.forms.chooseProgramDestination(question, parentWidget());
 }
 
 bool ImportForm::EditIcon(FileListRow& row, const Text& title)
 {
-    return desk_.forms.editIcon(row, title, parentWidget());
+    return context_.forms.editIcon(row, title, parentWidget());
 }
 
 void ImportForm::UpdateStatusBar()
 {
-    desk_.window.UpdateStatusBar();
+    context_.window.UpdateStatusBar();
 }
 
 bool ImportForm::MayGoOn(const Text& file)
@@ -184,7 +184,7 @@ bool ImportForm::ShowStep(const Text& step)
     sImportStatus->setText(ToQt(step));
     // Once the dialog is gone nothing keeps the user from the list that is being filled.
     if (isVisible())
-        desk_.session.ask.ProcessEvents();
+        context_.session.ask.ProcessEvents();
     return !isStopWanted_;
 }
 

@@ -29,7 +29,7 @@ public:
 protected:
     /// `lastFolder` is where the choices of the project and the program open, and takes the folder
     /// of the project.
-    ImportForm(const char* name, const Text& title, const ImportDesk& desk, Text& lastFolder,
+    ImportForm(const char* name, const Text& title, const ImportContext& context, Text& lastFolder,
                QWidget* parent);
 
     struct PathButton {
@@ -64,7 +64,7 @@ protected:
     /// The table of the importers, read when it is needed for the first time.
     const ImportData& Data();
 
-    const ImportDesk& Desk() const { return desk_; }
+    const ImportContext& Context() const { return context_; }
 
 private:
     void StartImport();
@@ -80,7 +80,7 @@ private:
     void UpdateStatusBar() override;
     bool MayGoOn(const Text& file) override;
 
-    const ImportDesk desk_;
+    const ImportContext context_;
     Text& lastFolder_;
     std::optional<ImportData> data_;
     std::optional<ImportResult> result_;

@@ -7,9 +7,9 @@
 namespace quillon {
 
 // Both versions have projects of one kind (.vbp), so they share the folder.
-VbProjectForm::VbProjectForm(const char* name, const Text& title, const ImportDesk& desk,
+VbProjectForm::VbProjectForm(const char* name, const Text& title, const ImportContext& context,
                              QWidget* parent)
-    : ImportForm(name, title, desk, desk.session.Settings.Directories.LastVB6ProjDir, parent)
+    : ImportForm(name, title, context, context.session.Settings.Directories.LastVB6ProjDir, parent)
 {
 }
 

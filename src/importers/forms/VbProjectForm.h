@@ -18,7 +18,8 @@ public:
     QCheckBox* cAddIcon = nullptr;
 
 protected:
-    VbProjectForm(const char* name, const Text& title, const ImportDesk& desk, QWidget* parent);
+    VbProjectForm(const char* name, const Text& title, const ImportContext& context,
+                  QWidget* parent);
 
     /// `version` is "6.0"; `folderHelp` says what is in the folder of that Visual Basic.
     Piece ProjectFrame(const Text& version, const Text& folderHelp);

@@ -20,15 +20,15 @@ struct ImportForms {
     std::function<void(QWidget* parent)> showTestNETFramework;
 };
 
-struct ImportDesk {
+struct ImportContext {
     Session& session;
     MainWindow& window;
     ImportForms forms;
 };
 
-void ShowImportVB5Project(const ImportDesk& desk, QWidget* parent);
-void ShowImportVB6Project(const ImportDesk& desk, QWidget* parent);
-void ShowImportVBNetProject(const ImportDesk& desk, QWidget* parent);
-void ShowImportFolder(const ImportDesk& desk, QWidget* parent);
+void ShowImportVB5Project(const ImportContext& context, QWidget* parent);
+void ShowImportVB6Project(const ImportContext& context, QWidget* parent);
+void ShowImportVBNetProject(const ImportContext& context, QWidget* parent);
+void ShowImportFolder(const ImportContext& context, QWidget* parent);
 
 } // namespace quillon

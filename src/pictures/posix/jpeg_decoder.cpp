@@ -53,7 +53,9 @@ void LimitScans(j_common_ptr common)
 // do; all others that are met with follow them.
 void PixelsFromCmyk(const JSAMPLE* inks, int width, bool areInverted, Pixel* out)
 {
-    const auto light = [areInverted](unsigned ink) { return areInverted ? ink : 255 - ink; };
+    const auto light = [areInverted](unsigned coverage) {
+        return areInverted ? coverage : 255 - coverage;
+    };
     for (int x = 0; x < width; ++x, inks += 4) {
         const unsigned black = light(inks[3]);
         const auto part = [&](int i) { return (light(inks[i]) * black + 127) / 255; };

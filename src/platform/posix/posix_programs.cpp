@@ -22,7 +22,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr const char* kInputAsFile = "/dev/stdin";
 constexpr std::size_t kMaxOutput = 64 * 1024;
-constexpr int kYieldMilliseconds = 50;
+constexpr int kPollMilliseconds = 50;
 
 struct Pipe {
     Descriptor reading;
@@ -73,7 +73,7 @@ bool CollectOutput(int reading, int maxSeconds, Text& output, const std::functio
     std::array<char, 4096> piece{};
     for (;;) {
         pollfd watched{reading, POLLIN, 0};
-        const int ready = poll(&watched, 1, kYieldMilliseconds);
+        const int ready = poll(&watched, 1, kPollMilliseconds);
         if (onWait)
             onWait();
         if (maxSeconds > 0 && Clock::now() >= end)

@@ -123,11 +123,11 @@ AesEncryptor::AesEncryptor(std::span<const std::byte, kAes256KeySize> key)
     : state_(std::make_unique<State>())
 {
     struct {
-        BLOBHEADER head;
+        BLOBHEADER header;
         DWORD size;
         std::array<std::byte, kAes256KeySize> key;
     } blob{};
-    blob.head = {PLAINTEXTKEYBLOB, CUR_BLOB_VERSION, 0, CALG_AES_256};
+    blob.header = {PLAINTEXTKEYBLOB, CUR_BLOB_VERSION, 0, CALG_AES_256};
     blob.size = kAes256KeySize;
     std::copy(key.begin(), key.end(), blob.key.begin());
     Require(CryptImportKey(state_->provider.Get(), reinterpret_cast<const BYTE*>(&blob),

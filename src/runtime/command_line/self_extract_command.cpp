@@ -37,8 +37,8 @@ bool TakeOwnSwitch(std::string_view word, SelfExtractCommand& command)
         command.wantsHelp = true;
     else if (EqualIgnoreCase(name, "version"))
         command.wantsVersion = true;
-    else if (EqualIgnoreCase(bare, kElevatedTwinSwitch))
-        command.isElevatedTwin = true;
+    else if (EqualIgnoreCase(bare, kElevatedInstanceSwitch))
+        command.isElevatedInstance = true;
     else
         return TakeExtract(bare, command);
     return true;

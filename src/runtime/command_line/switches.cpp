@@ -282,11 +282,11 @@ UninstallerCommand ReadUninstallerCommand(std::string_view commandLine)
         rest = EndOfSwitch(first);
     }
     command.switches = ReadSwitches(rest);
-    // One that was asked for a test must not remove anything.
+    // An uninstaller that was asked for a test must not remove anything.
     for (const auto& [name, mode] : kTestModes)
         if (command.switches.testMode == mode && !command.switches.badSwitch)
             command.switches.badSwitch = "/" + Text(name);
-    // Nor one that was asked for a plan, or to unpack.
+    // It neither plans nor unpacks.
     const SetupTask task = command.switches.task;
     if ((task == SetupTask::Plan || task == SetupTask::Extract) && !command.switches.badSwitch)
         command.switches.badSwitch = task == SetupTask::Plan ? "/PLAN" : "/EXTRACT";

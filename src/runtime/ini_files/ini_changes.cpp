@@ -44,16 +44,16 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
     }
     work.transaction.MakeFolder(ExtractDirectory(path));
     if (!existed)
-        work.record.Add(record::IniFile{path});
+        work.journal.Add(record::IniFile{path});
     const std::string lastLine = file->ini.OpenLastLine();
     IniRecords records;
     for (const IniLine& line : lines)
         ApplyIniLine(work, *file, line, records);
     // The first record is the last that is taken back: by then the lines after it have gone.
     if (!lastLine.empty() && file->ini.OpenLastLine().empty())
-        work.record.Add(record::IniOpenEnd{path, file->Decoded(lastLine)});
+        work.journal.Add(record::IniOpenEnd{path, file->Decoded(lastLine)});
     for (JournalRecord& record : records)
-        work.record.Add(std::move(record));
+        work.journal.Add(std::move(record));
     const Text staged = work.transaction.StagingPath(path);
     WriteWholeFile(work.files, staged, file->Bytes());
     work.transaction.PutFile({.staged = staged,

@@ -9,7 +9,7 @@ namespace quillon {
 struct IniWork {
     FileSystem& files;
     InstallTransaction& transaction;
-    InstallJournal& record;
+    InstallJournal& journal;
     ActionLog& log;
 };
 

@@ -94,12 +94,12 @@ void StartupFile::Add(const Text& lines)
     if (records_.empty())
         return;
     if (!existed)
-        work_.record.Add(record::IniFile{path_});
+        work_.journal.Add(record::IniFile{path_});
     // The first record is the last that is taken back: by then the lines after it have gone.
     if (!lastLine.empty())
-        work_.record.Add(record::IniOpenEnd{path_, AnsiText::FromBytes(lastLine)});
+        work_.journal.Add(record::IniOpenEnd{path_, AnsiText::FromBytes(lastLine)});
     for (JournalRecord& record : records_)
-        work_.record.Add(std::move(record));
+        work_.journal.Add(std::move(record));
     const Text staged = work_.transaction.StagingPath(path_);
     WriteWholeFile(work_.files, staged, bytes);
     work_.transaction.PutFile({.staged = staged,

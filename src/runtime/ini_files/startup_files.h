@@ -12,7 +12,7 @@ struct StartupWork {
     FileSystem& files;
     const Target& target;
     InstallTransaction& transaction;
-    InstallJournal& record;
+    InstallJournal& journal;
     ActionLog& log;
     const LanguageTexts& texts;
     const SetupVariables& variables;

@@ -53,9 +53,9 @@ public:
 private:
     const Text& Product() const { return input_.setup.project.ProjectName.ProjectName; }
     void DoEverything();
-    void BeginRecord();
+    void BeginJournal();
     void RecordTexts();
-    void SaveRecord();
+    void SaveJournal();
     void ShareMainFolder();
     void DeleteOldProgramGroup();
     void WriteRegistry();
@@ -85,7 +85,7 @@ void Installation::DoEverything()
     NoteStartedSetup(input_.target, Product(), input_.plan.scope, input_.plan.mainFolder);
     transaction_.Begin(input_.plan.mainFolder, Product());
     transaction_.MakeFolder(input_.plan.mainFolder);
-    BeginRecord();
+    BeginJournal();
     const ScriptWork scripts{input_, transaction_, journal_};
     RunScript(scripts, input_.plan.scriptBefore, Message::PartScriptBefore);
     DeleteOldProgramGroup();
@@ -110,18 +110,18 @@ void Installation::DoEverything()
                    earlierRecords_, contents_);
     // The last moment at which the user can cancel.
     input_.ask.ProcessEvents();
-    SaveRecord();
+    SaveJournal();
     transaction_.Commit();
 }
 
-// The record of an earlier installation of the same product goes on: what it made is ours too. One
+// The journal of an earlier installation of the same product goes on: what it made is ours too. One
 // of a user with fewer rights does not: the uninstaller will believe what is in ours.
-void Installation::BeginRecord()
+void Installation::BeginJournal()
 {
     if (!input_.plan.hasUninstaller)
         return;
     const Text& path = input_.plan.installJournal;
-    EarlierRecord earlier = ReadEarlierRecord(input_.host.files, input_.target, path);
+    EarlierJournal earlier = ReadEarlierJournal(input_.host.files, input_.target, path);
     earlierRecords_ = earlier.records.size();
     contents_ = std::move(earlier.contents);
     journal_.TakeOver(std::move(earlier.records));
@@ -130,7 +130,7 @@ void Installation::BeginRecord()
     RecordTexts();
 }
 
-void Installation::SaveRecord()
+void Installation::SaveJournal()
 {
     if (!input_.plan.hasUninstaller)
         return;
@@ -156,10 +156,10 @@ void Installation::RecordTexts()
 void Installation::ShareMainFolder()
 {
     const Text inside = LowerCase(input_.plan.mainFolder) + "\\";
-    for (const Text& log : InstallJournalsIn(input_.host.files, input_.plan.mainFolder)) {
-        if (!input_.target.IsOfTrustedUser(log))
+    for (const Text& path : InstallJournalsIn(input_.host.files, input_.plan.mainFolder)) {
+        if (!input_.target.IsOfTrustedUser(path))
             continue;
-        const auto records = ReadInstallJournal(ReadWholeFile(input_.host.files, log));
+        const auto records = ReadInstallJournal(ReadWholeFile(input_.host.files, path));
         for (const JournalRecord& record : records.value_or(std::vector<JournalRecord>{}))
             if (const auto* const folder = std::get_if<record::Folder>(&record);
                 folder && inside.starts_with(LowerCase(folder->path) + "\\"))

@@ -46,7 +46,7 @@ struct InstallPlan {
     Script scriptAfter;
     std::vector<SkippedPart> skipped;
     bool hasUninstaller = false;
-    Text installJournal; // where the record of this installation is kept
+    Text installJournal; // where the journal of this installation is kept
 };
 
 struct PlanInput {

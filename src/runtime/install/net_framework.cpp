@@ -66,10 +66,10 @@ void CheckNetFramework(const NetTest& test)
 {
     if (test.wanted.NET_TestIfInstalled == kOff)
         return;
-    const NetVersion least{1, test.wanted.NET_ver11 != kOff ? 1 : 0};
-    if (InstalledNetFramework(test.target).value_or(kNone) >= least)
+    const NetVersion needed{1, test.wanted.NET_ver11 != kOff ? 1 : 0};
+    if (InstalledNetFramework(test.target).value_or(kNone) >= needed)
         return;
-    const Text name = NumberText(least.major) + "." + NumberText(least.minor);
+    const Text name = NumberText(needed.major) + "." + NumberText(needed.minor);
     if (test.wanted.NET_StopIfNoNET != kOff)
         throw SetupFailure(ExitCode::PrerequisiteMissing, test.texts(Message::NeedsNet, name));
     test.log.Line(Message::LogNoNet, name);

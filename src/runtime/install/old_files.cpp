@@ -18,7 +18,7 @@ namespace {
 struct EarlierFiles {
     const FileSystem& files;
     const Target& target;
-    const InstallJournal& record;
+    const InstallJournal& journal;
     const KnownContents& contents;
     const Text& mainFolder;
 };
@@ -26,7 +26,7 @@ struct EarlierFiles {
 // In the place of a folder that the product made; those above it are the machine owner's own.
 bool LeadsThroughLink(const EarlierFiles& earlier, const Text& path)
 {
-    for (Text at = ExtractDirectory(path); earlier.record.Has<record::Folder>(at);
+    for (Text at = ExtractDirectory(path); earlier.journal.Has<record::Folder>(at);
          at = ExtractDirectory(at))
         if (earlier.target.IsLink(at))
             return true;
@@ -62,9 +62,9 @@ std::optional<Reason> ReasonToStay(const EarlierFiles& earlier, const Text& path
     if (LeadsThroughLink(earlier, path))
         return Reason{Message::ReasonLinkInPath};
     // Of these the system knows more than their contents; the uninstaller takes that back too.
-    const InstallJournal& record = earlier.record;
-    if (CountOfUsers(earlier.target, path) || record.Has<record::Shared>(path) ||
-        record.Has<record::Registered>(path) || record.Has<record::Font>(path))
+    const InstallJournal& journal = earlier.journal;
+    if (CountOfUsers(earlier.target, path) || journal.Has<record::Shared>(path) ||
+        journal.Has<record::Registered>(path) || journal.Has<record::Font>(path))
         return Reason{Message::SkipKnownToSystem};
     if (isKnown && !IsAsInstalled(earlier.files, content->second))
         return Reason{Message::SkipChangedFile};
@@ -87,7 +87,7 @@ class OldFiles {
 public:
     OldFiles(const OldFilesWork& work, std::size_t earlier, const KnownContents& contents)
         : work_(work), files_(work.host.files), contents_(contents),
-          records_(work.record.Records()), earlier_(earlier), wanted_(PathsOfNewVersion(work.plan))
+          records_(work.journal.Records()), earlier_(earlier), wanted_(PathsOfNewVersion(work.plan))
     {
         CollectNewOnes();
     }
@@ -143,7 +143,7 @@ void OldFiles::RemoveAll()
         if (file == nullptr || written_.count(key) > 0 || wanted_.count(key) > 0 ||
             gone.count(key) > 0)
             continue;
-        // Taken along, since the record may grow meanwhile.
+        // Taken along, since the journal may grow meanwhile.
         if (const Text path = file->path; IsGone(path)) {
             gone.insert(key);
             NoteFolders(path);
@@ -151,7 +151,7 @@ void OldFiles::RemoveAll()
     }
     RemoveFolders();
     KeepContents(gone);
-    work_.record.Forget(gone);
+    work_.journal.Forget(gone);
 }
 
 // True also where it had gone before.
@@ -160,7 +160,7 @@ bool OldFiles::IsGone(const Text& path)
     if (!files_.FileExists(path))
         return true;
     std::optional<Reason> reason =
-        ReasonToStay({files_, work_.target, work_.record, contents_, work_.plan.mainFolder}, path);
+        ReasonToStay({files_, work_.target, work_.journal, contents_, work_.plan.mainFolder}, path);
     std::optional<RunError> failure;
     if (!reason && RunErrorNumber([&] { work_.transaction.RemoveFile(path); }, failure) != 0)
         reason = ReasonOf(*failure);
@@ -177,7 +177,7 @@ void OldFiles::KeepContents(const std::set<Text>& gone) const
 {
     for (const auto& [key, content] : contents_)
         if (written_.count(key) == 0 && gone.count(key) == 0)
-            work_.record.Add(content);
+            work_.journal.Add(content);
 }
 
 // Those that the product made and that nothing of the new version lies in. What somebody else has
@@ -185,7 +185,7 @@ void OldFiles::KeepContents(const std::set<Text>& gone) const
 void OldFiles::NoteFolders(const Text& path)
 {
     for (Text at = ExtractDirectory(path);
-         work_.record.Has<record::Folder>(at) && kept_.count(LowerCase(at)) == 0 &&
+         work_.journal.Has<record::Folder>(at) && kept_.count(LowerCase(at)) == 0 &&
          !work_.target.IsLink(at);
          at = ExtractDirectory(at))
         leaving_[LowerCase(at)] = at;
@@ -200,9 +200,9 @@ void OldFiles::RemoveFolders()
 
 } // namespace
 
-EarlierRecord ReadEarlierRecord(const FileSystem& files, const Target& target, const Text& path)
+EarlierJournal ReadEarlierJournal(const FileSystem& files, const Target& target, const Text& path)
 {
-    EarlierRecord earlier;
+    EarlierJournal earlier;
     if (!files.FileExists(path) || !target.IsOfTrustedUser(path))
         return earlier;
     if (auto records = ReadInstallJournal(ReadWholeFile(files, path)))
@@ -221,14 +221,14 @@ EarlierRecord ReadEarlierRecord(const FileSystem& files, const Target& target, c
 std::vector<OldFile> PlanOldFiles(const FileSystem& files, const Target& target,
                                   const InstallPlan& plan)
 {
-    EarlierRecord earlier = ReadEarlierRecord(files, target, plan.installJournal);
-    InstallJournal record;
-    record.TakeOver(std::move(earlier.records));
+    EarlierJournal earlier = ReadEarlierJournal(files, target, plan.installJournal);
+    InstallJournal journal;
+    journal.TakeOver(std::move(earlier.records));
     std::set<Text> known = PathsOfNewVersion(plan);
     for (const PlannedShortcut& shortcut : plan.shortcuts)
         known.insert(LowerCase(shortcut.path));
     std::vector<OldFile> found;
-    for (const JournalRecord& one : record.Records())
+    for (const JournalRecord& one : journal.Records())
         if (const auto* const file = std::get_if<record::File>(&one);
             file && known.insert(LowerCase(file->path)).second && files.FileExists(file->path))
             found.push_back({file->path, ReasonToStay({files, target, record, earlier.contents,

@@ -8,18 +8,18 @@
 
 namespace quillon {
 
-/// What the record of the earlier installation says about the contents of its files; by path in
+/// What the journal of the earlier installation says about the contents of its files; by path in
 /// lower case.
 using KnownContents = std::map<Text, record::Content>;
 
-struct EarlierRecord {
+struct EarlierJournal {
     std::vector<JournalRecord> records; // but for names, texts and contents
     KnownContents contents;
 };
 
-/// What the record of an earlier installation says; nothing where there is none, or somebody with
+/// What the journal of an earlier installation says; nothing where there is none, or somebody with
 /// fewer rights has made it.
-EarlierRecord ReadEarlierRecord(const FileSystem& files, const Target& target, const Text& path);
+EarlierJournal ReadEarlierJournal(const FileSystem& files, const Target& target, const Text& path);
 
 struct OldFile {
     Text path;
@@ -35,14 +35,14 @@ struct OldFilesWork {
     const Host& host;
     Target& target;
     InstallTransaction& transaction;
-    InstallJournal& record;
+    InstallJournal& journal;
     ActionLog& log;
     const InstallPlan& plan;
 };
 
 /// Removes the files of the earlier version that are as they were installed and that no row of the
 /// new one names, and the folders of the product that this empties. The others stay, and the log
-/// says why. The first `earlierRecords` of the record
+/// says why. The first `earlierRecords` of the journal
 /// are those of the earlier version.
 void RemoveOldFiles(const OldFilesWork& work, std::size_t earlierRecords,
                     const KnownContents& contents);

@@ -18,7 +18,7 @@ bool IsShortcut(const Text& path)
 }
 
 std::vector<Text> OldShortcuts(const FileSystem& files, const Target& target,
-                               const InstallJournal& record, const InstallPlan& plan)
+                               const InstallJournal& journal, const InstallPlan& plan)
 {
     std::vector<Text> found;
     if (!files.DirExists(plan.programGroup))
@@ -28,7 +28,7 @@ std::vector<Text> OldShortcuts(const FileSystem& files, const Target& target,
         if (entry.status.isFolder || !IsShortcut(path))
             continue;
         const bool isRecorded =
-            record.Has<record::File>(path) || record.Has<record::Replaced>(path);
+            journal.Has<record::File>(path) || journal.Has<record::Replaced>(path);
         const auto shortcut = isRecorded ? std::nullopt : target.ReadShortcut(path);
         if (isRecorded || (shortcut && LeadsInto(plan.mainFolder, *shortcut)))
             found.push_back(path);

@@ -11,9 +11,9 @@ bool LeadsInto(const Text& folder, const Shortcut& shortcut);
 
 bool IsShortcut(const Text& path);
 
-/// Those that the record names, and those that lead into the main folder all the same. In the group
-/// of a new project, products of many makers lie side by side.
+/// Those that the journal names, and those that lead into the main folder all the same. In the
+/// group of a new project, products of many makers lie side by side.
 std::vector<Text> OldShortcuts(const FileSystem& files, const Target& target,
-                               const InstallJournal& record, const InstallPlan& plan);
+                               const InstallJournal& journal, const InstallPlan& plan);
 
 } // namespace quillon

@@ -229,11 +229,11 @@ void AddRemovals(JsonWriter& json, const PlanReportInput& input, std::vector<Ski
     std::vector<Text> files;
     std::vector<Text> shortcuts;
     if (input.setup.project.InstallOptions.DeleteProgGroup != kOff) {
-        InstallJournal record;
+        InstallJournal journal;
         if (plan.hasUninstaller)
-            record.TakeOver(
-                ReadEarlierRecord(input.files, input.target, plan.installJournal).records);
-        shortcuts = OldShortcuts(input.files, input.target, record, plan);
+            journal.TakeOver(
+                ReadEarlierJournal(input.files, input.target, plan.installJournal).records);
+        shortcuts = OldShortcuts(input.files, input.target, journal, plan);
     }
     const std::set<Text> ofGroup(shortcuts.begin(), shortcuts.end());
     const auto found = plan.hasUninstaller ? PlanOldFiles(input.files, input.target, plan)

@@ -27,7 +27,7 @@ Text InstalledVersion(const SetupInput& input, const Text& product, InstallScope
     return input.host.files.DirExists(textAt(kInstallLocation)) ? textAt(kDisplayVersion) : Text();
 }
 
-// One that somebody could change meanwhile is no good.
+// An archive that somebody could change meanwhile is refused.
 std::unique_ptr<InputFile> OpenArchive(const SetupInput& input, const LoadedPackage& package)
 {
     const FileSystem& files = input.host.files;
@@ -74,7 +74,7 @@ void CheckPackage(const LoadedPackage& package)
         throw DamagedPackage(texts, *fault);
     const Project& project = package.setup.project;
     const Text& starter = project.InstallOptions.SetupName;
-    // Not by the tool's words for it, which nobody would see here.
+    // The tool's own text for such a name would tell the end user nothing.
     if (FaultOfName(starter) != PathFault::None ||
         IsNameOfPackageFile(starter, project.Language.LanguageFile))
         throw DamagedPackage(texts, {Message::PackageFileDamaged, kSetupInformationName});

@@ -18,7 +18,7 @@ inline constexpr const char* kUninstallString = "UninstallString";
 /// Where the entry of the product of that name is.
 RegistryKey UninstallEntryKey(const Text& product, InstallScope scope = InstallScope::Project);
 
-/// Where the installation with this record has put it.
+/// Where the installation with these records has put it.
 RegistryKey RecordedUninstallEntry(const Text& product, const std::vector<JournalRecord>& records);
 
 /// What the user knows as the product's version: that of its program, before the project's own.

@@ -1,4 +1,4 @@
-// What the uninstaller consists of in a product's main folder, beside the record: the program that
+// What the uninstaller consists of in a product's main folder, beside the journal: the program that
 // the user starts (`UninstallerPath`), the setup proper, which it starts, and the digest by which
 // it knows that.
 #pragma once
@@ -16,7 +16,7 @@ class InstallTransaction;
 std::array<Text, 2> FilesOfUninstaller(const Text& mainFolder);
 
 /// Puts all three from the folder with the package's programs into their places. They go last and
-/// by themselves, and stay where another product needs them, so the record does not name them.
+/// by themselves, and stay where another product needs them, so the journal does not name them.
 void PutUninstallerFiles(FileSystem& files, const Text& helpersFolder, const Text& mainFolder,
                          InstallTransaction& transaction);
 

@@ -1,4 +1,4 @@
-// The record of an installation, from which the uninstaller removes what was installed and nothing
+// The journal of an installation, from which the uninstaller removes what was installed and nothing
 // else: a file of journal lines beside the product, in UTF-8. It is written whole at the end of an
 // installation; until then the transaction's own journal says what has been done.
 #pragma once

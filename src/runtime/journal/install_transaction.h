@@ -1,6 +1,6 @@
 // Changes to the machine that can be taken back. Each one is noted in the transaction's journal
 // before it is made, so that an installation that fails half-way, or is killed, leaves the machine
-// as it was; what the uninstaller has to know goes into the installation's record as well.
+// as it was; what the uninstaller has to know goes into the installation's journal as well.
 #pragma once
 
 #include "runtime/journal/install_journal.h"

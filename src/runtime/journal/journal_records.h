@@ -1,4 +1,4 @@
-// What a journal says: a struct for each kind of line. The record of an installation
+// What a journal says: a struct for each kind of line. The journal of an installation
 // (`install_journal.h`) and the journal of a transaction (`transaction_journal.h`) are files of
 // such lines, and `journal_table.h` is how they stand there.
 #pragma once

@@ -37,11 +37,11 @@ std::string_view TakeLine(std::string_view& rest)
 }
 
 // A tab, a line break and the percent sign stand as two digits after a percent sign.
-bool Unescape(std::string_view text, char* to, std::size_t room)
+bool Unescape(std::string_view text, char* to, std::size_t capacity)
 {
     std::size_t length = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (length + 1 >= room)
+        if (length + 1 >= capacity)
             return false;
         char c = text[i];
         if (c == '%' && i + 2 < text.size()) {
@@ -60,12 +60,13 @@ bool Unescape(std::string_view text, char* to, std::size_t room)
 
 } // namespace
 
-bool FindRecordedText(std::string_view record, std::string_view key, char* to, std::size_t room)
+bool FindRecordedText(std::string_view journal, std::string_view key, char* to,
+                      std::size_t capacity)
 {
-    while (!record.empty())
-        if (std::string_view line = TakeLine(record);
+    while (!journal.empty())
+        if (std::string_view line = TakeLine(journal);
             TakeWord(line, "MESSAGE") && TakeWord(line, key))
-            return Unescape(line, to, room);
+            return Unescape(line, to, capacity);
     return false;
 }
 

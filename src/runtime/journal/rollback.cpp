@@ -135,8 +135,8 @@ void Rollback::Undo(const record::Key& key)
         target_.RemoveKey(key.key);
 }
 
-// By what the journal says that we wrote, which one of an older setup does not. Whoever has removed
-// it has left nothing to lose.
+// Whether somebody has changed the value since the setup wrote it. The journal of an older setup
+// does not say what was written; a value that is gone can't be overwritten.
 bool Rollback::IsOthersNow(const record::FormerValue& value)
 {
     const auto written = std::exchange(written_, std::nullopt);

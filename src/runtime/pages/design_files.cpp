@@ -132,7 +132,7 @@ DesignFiles::DesignFiles(const FileSystem& files, OpenContainer openContainer,
                          const Text& packageFolder, Names names)
     : files_(&files)
 {
-    if (names == Names::WholePaths)
+    if (names == Names::AbsolutePaths)
         return;
     packed_ = std::make_unique<PackedFiles>(files, std::move(openContainer),
                                             JoinPath(packageFolder, kDesignContainerName));

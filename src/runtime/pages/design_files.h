@@ -11,7 +11,7 @@ namespace quillon {
 
 class DesignFiles {
 public:
-    enum class Names { InPackage, WholePaths };
+    enum class Names { InPackage, AbsolutePaths };
 
     DesignFiles(const FileSystem& files, OpenContainer openContainer, const Text& packageFolder,
                 Names names);

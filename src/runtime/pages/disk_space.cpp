@@ -42,7 +42,7 @@ std::uint64_t NeededSpace(const PlanInput& input)
     return needed;
 }
 
-std::uint64_t LeastNeededSpace(const PlanInput& input)
+std::uint64_t MinSpaceNeeded(const PlanInput& input)
 {
     const auto sizes = SizesByComponent(input.rows);
     std::uint64_t needed = sizes[0];

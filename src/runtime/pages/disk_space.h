@@ -14,7 +14,7 @@ SizesByComponent(const std::vector<InstallRow>& rows);
 /// What would be installed as the project is in `input`, in bytes.
 std::uint64_t NeededSpace(const PlanInput& input);
 /// The same with nothing that the user could still leave out.
-std::uint64_t LeastNeededSpace(const PlanInput& input);
+std::uint64_t MinSpaceNeeded(const PlanInput& input);
 
 /// Bytes that are free where the folder is or will be; nothing where the machine can't say.
 std::optional<std::uint64_t> FreeSpaceAt(const FileSystem& files, const Text& folder);

@@ -4,8 +4,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "project/dialog_keys.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "runtime/pages/disk_space.h"
 #include "runtime/pages/page_order.h"
 #include "runtime/pages/page_state.h"
@@ -142,7 +141,7 @@ private:
         Paragraph(Shown(FirstLineOnly(data_.PasswordDialogText)));
         AddLabelled(PieceKind::Password, PageField::Password, Message::LabelPassword,
                     state_.typedPassword)
-            .maxLength = LongestText(section::kDialogBoxData, &DialogBoxData::CorrectPassword);
+            .maxLength = MaxTextLength(&DialogBoxData::CorrectPassword);
         AddGap();
         page_.focus = PageField::Password;
     }
@@ -150,7 +149,7 @@ private:
     void UserEntry(PageField field, Message label, VariableMeaning meaning, Text LicenseData::*in)
     {
         AddLabelled(PieceKind::Entry, field, label, variables_.Value(NameOf(meaning))).maxLength =
-            LongestText(section::kLicenseData, in);
+            MaxTextLength(in);
     }
 
     void NameCompany()
@@ -178,8 +177,7 @@ private:
             AddLabelled(PieceKind::Entry, PageField::Folder, Message::LabelFolder, text);
         folder.isLabelAbove = true;
         folder.isEnabled = isEnabled;
-        folder.maxLength = LongestText(section::kInstallDirectories,
-                                       &section::InstallDirectories::DestinationDirectory);
+        folder.maxLength = MaxTextLength(&section::InstallDirectories::DestinationDirectory);
         folder.button = texts_[Message::Browse];
         folder.buttonField = PageField::Browse;
     }
@@ -263,7 +261,7 @@ private:
             AddLabelled(PieceKind::Entry, PageField::Group, Message::LabelGroup,
                         variables_.Expand(state_.setup.project.ProgramGroup.ProgramGroup));
         group.isLabelAbove = true;
-        group.maxLength = LongestText(section::kProgramGroup, &section::ProgramGroup::ProgramGroup);
+        group.maxLength = MaxTextLength(&section::ProgramGroup::ProgramGroup);
         PagePiece& list = AddLabelled(PieceKind::List, PageField::Groups, Message::LabelGroups, {});
         const FileSystem& files = state_.input.host.files;
         RunErrorNumber([&] {

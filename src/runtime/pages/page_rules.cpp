@@ -125,7 +125,7 @@ bool MayTakeFolder(PageState& state, const SetupPage& page)
     if (!IsFolder(folder))
         return RefuseFolder(state, TextOf(page, PageField::Folder));
     // What the user can still leave out is no reason to refuse the place.
-    if (!HasRoom(state, state.LeastNeeded()))
+    if (!HasRoom(state, state.MinSpace()))
         return false;
     const bool warns = state.setup.project.DialogBoxData.WarnIfDestDirExists != kOff &&
                        !EqualIgnoreCase(folder, state.acceptedFolder) &&
@@ -278,7 +278,7 @@ bool MayLeavePage(PageState& state, SetupPage& page)
     case PageKind::Destination:
         return MayTakeFolder(state, page);
     case PageKind::DestinationDrive:
-        return HasRoom(state, state.LeastNeeded());
+        return HasRoom(state, state.MinSpace());
     case PageKind::Components:
         return MayTakeComponents(state);
     case PageKind::ProgramGroup:

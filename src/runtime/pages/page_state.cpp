@@ -39,9 +39,9 @@ std::uint64_t PageState::Needed() const
     return WithPlanInput(*this, NeededSpace);
 }
 
-std::uint64_t PageState::LeastNeeded() const
+std::uint64_t PageState::MinSpace() const
 {
-    return WithPlanInput(*this, LeastNeededSpace);
+    return WithPlanInput(*this, MinSpaceNeeded);
 }
 
 bool PageState::CanBeInstalled(int component) const

@@ -41,7 +41,7 @@ struct PageState {
     Text ProjectTitle() const; // "Installation av X"
     // Bytes that the choices so far take, and without what can still be left out.
     std::uint64_t Needed() const;
-    std::uint64_t LeastNeeded() const;
+    std::uint64_t MinSpace() const;
     /// False for a component that only updates an earlier version which is not there.
     bool CanBeInstalled(int component) const;
 };

@@ -27,9 +27,9 @@ void ApplyRegistryLine(const RegistryWork& work, const RegistryLine& line)
         break;
     case Kind::Uninstall:
         if (line.hasValue)
-            work.record.Add(record::UninstallValue{line.key, line.valueName});
+            work.journal.Add(record::UninstallValue{line.key, line.valueName});
         else
-            work.record.Add(record::UninstallKey{line.key});
+            work.journal.Add(record::UninstallKey{line.key});
         break;
     case Kind::Unreadable:
         break;

@@ -8,7 +8,7 @@ namespace quillon {
 
 struct RegistryWork {
     InstallTransaction& transaction;
-    InstallJournal& record;
+    InstallJournal& journal;
     ActionLog& log;
 };
 

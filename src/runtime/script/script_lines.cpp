@@ -17,8 +17,8 @@ constexpr std::string_view kBlanks = " \t";
 struct WordRow {
     const char* name;
     ScriptWord word;
-    std::size_t least; // arguments
-    std::size_t most;
+    std::size_t minArguments;
+    std::size_t maxArguments;
 };
 
 // clang-format off
@@ -153,7 +153,7 @@ private:
             return Reason{Message::ScriptQuotes};
         if (row.word == ScriptWord::If)
             return TakeIf(std::move(*parts));
-        if (parts->size() < row.least || parts->size() > row.most)
+        if (parts->size() < row.minArguments || parts->size() > row.maxArguments)
             return Reason{Message::ScriptArguments, row.name};
         for (Part& part : *parts)
             command_.arguments.push_back(std::move(part.text));

@@ -196,8 +196,8 @@ Text ScriptRun::PathIn(const Text& argument) const
 void ScriptRun::Copy(const Text& from, const Text& to)
 {
     const Text place = files_.DirExists(to) ? JoinPath(to, ExtractFilename(from)) : to;
-    const bool isOthers = files_.FileExists(place) && !work_.record.Has<record::File>(place) &&
-                          !work_.record.Has<record::Replaced>(place);
+    const bool isOthers = files_.FileExists(place) && !work_.journal.Has<record::File>(place) &&
+                          !work_.journal.Has<record::Replaced>(place);
     if (isOthers)
         work_.transaction.KeepBackup(place);
     Put(from, place, InstallTransaction::Recorded::Yes);
@@ -231,15 +231,15 @@ void ScriptRun::Rename(const Text& from, const Text& to)
     if (files_.FileExists(to) || files_.DirExists(to))
         throw ScriptStop({Message::PackageAlreadyThere, to});
     Put(from, to,
-        work_.record.Has<record::File>(from) ? InstallTransaction::Recorded::Yes
-                                             : InstallTransaction::Recorded::No);
+        work_.journal.Has<record::File>(from) ? InstallTransaction::Recorded::Yes
+                                              : InstallTransaction::Recorded::No);
     work_.transaction.RemoveFile(from);
     input_.log.Line(Message::LogRenames, from, to);
 }
 
 void ScriptRun::WriteIni(const std::vector<Text>& arguments)
 {
-    WriteIniFiles({files_, work_.transaction, work_.record, input_.log},
+    WriteIniFiles({files_, work_.transaction, work_.journal, input_.log},
                   {{PathIn(arguments[0]), Expanded(arguments, 1), Expanded(arguments, 2),
                     Expanded(arguments, 3)}});
 }
@@ -254,7 +254,7 @@ void ScriptRun::WriteRegistry(const Text& text)
         throw ScriptStop({Message::SkipFixedRoot, RootName(RegistryRoot::DynData)});
     if (RemovesSystemKey(line))
         throw ScriptStop({Message::SkipSystemKey});
-    ApplyRegistryLine({work_.transaction, work_.record, input_.log}, line);
+    ApplyRegistryLine({work_.transaction, work_.journal, input_.log}, line);
 }
 
 // Beside the package anybody may have laid a program, and libraries for it: there only the

@@ -20,7 +20,7 @@ inline constexpr const char* kScriptPrograms[] = {"QNSCRIPT.EXE", "QNSCRIPT.COM"
 struct ScriptWork {
     const InstallInput& input;
     InstallTransaction& transaction;
-    InstallJournal& record;
+    InstallJournal& journal;
 };
 
 /// `part` names the script for the log and for failures. Throws `SetupFailure`, with the code of

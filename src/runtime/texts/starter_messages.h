@@ -1,4 +1,4 @@
-// The texts of a starter before there is a language file or a record to look into, or where that
+// The texts of a starter before there is a language file or a journal to look into, or where that
 // lacks it: the keys of those two, and the text in Swedish. The programs carry these texts alone.
 #pragma once
 

@@ -1,4 +1,4 @@
-// A product as the record of its installation describes it, and which of such records the
+// A product as the journal of its installation describes it, and which of such journals the
 // uninstaller believes.
 #pragma once
 

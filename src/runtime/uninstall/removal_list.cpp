@@ -68,7 +68,7 @@ void RemovalList::AddFile(const Text& path, std::vector<Text>& to)
         to.push_back(path);
 }
 
-// From the inner ones outwards; they are listed in the order of the record.
+// From the inner ones outwards; they are listed in the order of the journal.
 void RemovalList::AddFolders()
 {
     std::vector<Text> found;

@@ -11,10 +11,10 @@ namespace {
 
 struct UninstallCommand {
     Text program;
-    Text log;
+    Text journal;
 };
 
-// "program" "log", as the setup writes it into the list of programs.
+// "program" "journal", as the setup writes it into the list of programs.
 UninstallCommand ReadCommand(const Text& command)
 {
     UninstallCommand read;
@@ -24,7 +24,7 @@ UninstallCommand ReadCommand(const Text& command)
         if (end == Text::npos || part == nullptr)
             break;
         *part = command.substr(at + 1, end - at - 1);
-        part = part == &read.program ? &read.log : nullptr;
+        part = part == &read.program ? &read.journal : nullptr;
         at = end + 1;
     }
     return read;
@@ -52,7 +52,7 @@ bool IsOurUninstaller(const UninstallerStart& start, const Text& program)
 
 Text Arguments(const UninstallCommand& command, const Switches& switches)
 {
-    Text arguments = "\"" + command.log + "\"";
+    Text arguments = "\"" + command.journal + "\"";
     const auto add = [&](bool isGiven, const Text& word) {
         if (isGiven)
             arguments += " " + word;

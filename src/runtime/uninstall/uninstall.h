@@ -1,4 +1,4 @@
-// Removes a product by the record of its installation, from the last change to the first: exactly
+// Removes a product by the journal of its installation, from the last change to the first: exactly
 // what was installed, and nothing else.
 //
 // - A file that the setup wrote goes, whether or not it was there before; in the Windows folder and

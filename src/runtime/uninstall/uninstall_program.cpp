@@ -161,8 +161,8 @@ ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view)
     }
     if (OnlyShowsInformation())
         return Tell(ask);
-    const Text& log = input_.line.journalPath;
-    const Removal removal = PlanRemoval(*product_, input_.host, input_.target, log);
+    const Text& journal = input_.line.journalPath;
+    const Removal removal = PlanRemoval(*product_, input_.host, input_.target, journal);
     const ListPage question{Title(), Texts()(Message::UninstallQuestion, product_->name),
                             removal.Lines(), Texts()[Message::UninstallButton],
                             Texts()[Message::Cancel]};

@@ -4,7 +4,7 @@
 //
 // Each letter is drawn white on black into a bitmap of its own, where the brightness of a pixel is
 // how much of it the letter covers. Grey smoothing is asked for: the colours of the other kind are
-// right on one ground only.
+// right on one background only.
 #include "runtime/win32/gdi_letters.h"
 
 #include "design/letter_join.h"

@@ -23,7 +23,7 @@ constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 // A dialog without controls of its own kind, so that boxes of the system can be distinguished from
 // it.
 struct EmptyDialog {
-    DLGTEMPLATE head;
+    DLGTEMPLATE header;
     WORD menu;
     wchar_t kind[13];
     wchar_t title;
@@ -52,11 +52,11 @@ PageWindow::PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& 
     InitCommonControlsEx(&controls);
     RegisterKind(instance);
     alignas(DWORD) EmptyDialog dialog{};
-    dialog.head.style = kStyle;
-    dialog.head.dwExtendedStyle = WS_EX_APPWINDOW | WS_EX_CONTROLPARENT;
+    dialog.header.style = kStyle;
+    dialog.header.dwExtendedStyle = WS_EX_APPWINDOW | WS_EX_CONTROLPARENT;
     std::copy_n(kWindowClass, std::size(dialog.kind), dialog.kind);
     window_ =
-        CreateDialogIndirectParamW(instance, &dialog.head, behind ? behind->Handle() : nullptr,
+        CreateDialogIndirectParamW(instance, &dialog.header, behind ? behind->Handle() : nullptr,
                                    Receive, reinterpret_cast<LPARAM>(this));
     if (window_ == nullptr)
         FailAsWindowsSays("QuillonPages");

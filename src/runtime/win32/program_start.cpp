@@ -86,7 +86,7 @@ void StartProgram()
     const auto setDefault = OfKernel<BOOL(WINAPI*)(DWORD)>("SetDefaultDllDirectories");
     if (setDefault != nullptr && setDefault(kSystemFolderOnly))
         return;
-    // Not in the current folder either.
+    // Before Windows 8: at least not from the current folder.
     const auto setFolder = OfKernel<BOOL(WINAPI*)(const wchar_t*)>("SetDllDirectoryW");
     if (setFolder != nullptr)
         setFolder(L"");

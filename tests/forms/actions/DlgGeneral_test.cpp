@@ -139,7 +139,7 @@ TEST_F(DlgGeneralTest, KeepsThePictureWhenTheStandardOneIsMissing)
 TEST_F(DlgGeneralTest, SaysWhyThereIsNoPicture)
 {
     machine.files.Put("D:\\trasig.bmp", Bitmap(Qt::red).substr(0, 30));
-    machine.files.Put("D:\\enorm.bmp", BitmapHead(100000, 100000));
+    machine.files.Put("D:\\enorm.bmp", BitmapHeader(100000, 100000));
     const char* const damaged = "Bilden kan inte visas: den är skadad eller för stor";
     for (const auto& [path, note] :
          {std::pair{"", "Ingen bild är vald"}, std::pair{"D:\\borta.bmp", "Bildfilen finns inte"},

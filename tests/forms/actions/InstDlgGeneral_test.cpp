@@ -98,7 +98,7 @@ TEST_F(InstDlgGeneralTest, SaysWhyThereIsNoPicture)
 {
     machine.files.Put("C:\\skadad.bmp", "BM" + std::string(300, 'x'));
     machine.files.Put("C:\\huvud.bmp", Bitmap(Qt::red).substr(0, 20));
-    machine.files.Put("C:\\stor.bmp", BitmapHead(65535, 65535));
+    machine.files.Put("C:\\stor.bmp", BitmapHeader(65535, 65535));
     for (const auto& [bitmap, shared, note] :
          {std::tuple{"", "", "Ingen bild är vald"},
           std::tuple{"C:\\a.bmp", "", "Bildfilen finns inte"},

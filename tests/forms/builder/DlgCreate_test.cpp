@@ -12,8 +12,8 @@ namespace {
 
 const ExpectedBox kFirstDisk{BoxKind::OkCancel, "Diskett", "Stoppa in diskett nr 1!"};
 
-/// A user in whose presence more happens: `onBox` runs as each box comes up, `onYield` as often as
-/// the window is let live.
+/// A user in whose presence more happens: `onBox` runs as each box comes up, `onProcessEvents` as
+/// often as the window is let live.
 class WatchedAsk : public ScriptedAsk {
 public:
     using ScriptedAsk::ScriptedAsk;
@@ -32,13 +32,13 @@ public:
     }
     void ProcessEvents() override
     {
-        if (onYield)
-            onYield();
+        if (onProcessEvents)
+            onProcessEvents();
         QApplication::processEvents();
     }
 
     std::function<void(const Text& text)> onBox;
-    std::function<void()> onYield;
+    std::function<void()> onProcessEvents;
 };
 
 class DlgCreateTest : public testing::Test {
@@ -397,7 +397,7 @@ TEST_F(DlgCreateTest, NothingCanBeChangedOrClosedWhileItRuns)
     DlgCreate form(*session, &window);
     ShowActive(form);
     int yields = 0;
-    ask->onYield = [&] {
+    ask->onProcessEvents = [&] {
         if (form.lbStatus->count() == 0 || ++yields > 1)
             return;
         EXPECT_TRUE(form.IsRunning());

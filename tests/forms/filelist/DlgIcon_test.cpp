@@ -181,12 +181,12 @@ TEST_F(DlgIconTest, StaysOpenOverASemicolon)
     const FileListRow before = row;
     DlgIcon form(row, session, nullptr);
     ShowActive(form);
-    for (const auto& [name, spoken] :
+    for (const auto& [name, accessibleName] :
          {std::pair{"tDescription", "Beskrivning"}, std::pair{"tWorkDir", "Starta i"},
           std::pair{"tParameters", "Parametrar"}, std::pair{"tIconFile", "Extern ikonfil"}}) {
         Type(form, name, "a;b");
         ask.Expect({BoxKind::Critical, "Ogiltiga tecken hittade",
-                    Text("Fältet '") + spoken +
+                    Text("Fältet '") + accessibleName +
                         "' innehåller ogiltiga tecken! Semikolon kan inte användas, eftersom det "
                         "skiljer fälten i projektfilen åt."});
         Click(form, "cmdOK");

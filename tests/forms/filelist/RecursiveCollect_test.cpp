@@ -15,10 +15,10 @@ public:
     using ScriptedAsk::ScriptedAsk;
     void ProcessEvents() override
     {
-        if (onYield)
-            onYield();
+        if (onProcessEvents)
+            onProcessEvents();
     }
-    std::function<void()> onYield;
+    std::function<void()> onProcessEvents;
 };
 
 class RecursiveCollectTest : public WindowTest {
@@ -132,7 +132,7 @@ TEST_F(RecursiveCollectTest, LivesWhileItWalksAndGoesOnWhenItIsClosed)
     RecursiveCollect form(Work(), tree, nullptr);
     ShowActive(form);
     int looks = 0;
-    live.onYield = [&] {
+    live.onProcessEvents = [&] {
         ++looks;
         EXPECT_EQ(Label(form, "sSearchStatus"), "Söker...");
         EXPECT_FALSE(form.cmdStart->isEnabled());

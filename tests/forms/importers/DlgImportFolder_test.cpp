@@ -36,7 +36,7 @@ protected:
 
 TEST_F(DlgImportFolderTest, ShowsWhatTheFolderHoldsAndLacks)
 {
-    DlgImportFolder form(Desk(), nullptr);
+    DlgImportFolder form(Context(), nullptr);
     ShowActive(form);
     EXPECT_FALSE(form.cbProgram->isEnabled());
     session.Settings.Directories = {.LastVB6ProjDir = "C:\\VB6", .LastVBNETProjDir = "C:\\NET"};
@@ -61,7 +61,7 @@ TEST_F(DlgImportFolderTest, ShowsWhatTheFolderHoldsAndLacks)
 
 TEST_F(DlgImportFolderTest, ImportsAndCloses)
 {
-    DlgImportFolder form(Desk(), nullptr);
+    DlgImportFolder form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectFolder", "C:\\Out\\Kund");
     Expect(BoxKind::Inform, "Importen är klar");
@@ -75,7 +75,7 @@ TEST_F(DlgImportFolderTest, ImportsAndCloses)
 
 TEST_F(DlgImportFolderTest, HandsOverWhatIsTicked)
 {
-    DlgImportFolder form(Desk(), nullptr);
+    DlgImportFolder form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectFolder", "C:\\Out\\Kund");
     for (const char* const box : {"cTestNETFramework", "cSkipBuildFiles", "cAddIcon"})
@@ -98,7 +98,7 @@ TEST_F(DlgImportFolderTest, KeepsItsControlsAsTheyWereBehindARun)
     protected:
         ImportResult Import(const ImportWork&) override { return {.end = ImportEnd::Refused}; }
     };
-    Refusing form(Desk(), nullptr);
+    Refusing form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectFolder", "C:\\Out\\One");
     Click(form, "cmdImport");
@@ -111,7 +111,7 @@ TEST_F(DlgImportFolderTest, KeepsItsControlsAsTheyWereBehindARun)
 
 TEST_F(DlgImportFolderTest, StaysOpenWithoutAFolder)
 {
-    DlgImportFolder form(Desk(), nullptr);
+    DlgImportFolder form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectFolder", "");
     Expect(BoxKind::Inform, "Info");
@@ -122,13 +122,13 @@ TEST_F(DlgImportFolderTest, StaysOpenWithoutAFolder)
 
 TEST_F(DlgImportFolderTest, LooksRight)
 {
-    DlgImportFolder form(Desk(), nullptr);
+    DlgImportFolder form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectFolder", "C:\\Out\\Kund");
     SavePicture(form, "DlgImportFolder");
     SaveDarkPicture(form, "DlgImportFolder");
     OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdClose"); });
-    ShowImportFolder(Desk(), nullptr);
+    ShowImportFolder(Context(), nullptr);
 }
 
 } // namespace

@@ -22,7 +22,7 @@ protected:
 
 TEST_F(DlgImportVB5ProjectTest, OpensWithItsDefaultsAndScansNothing)
 {
-    DlgImportVB5Project form(Desk(), nullptr);
+    DlgImportVB5Project form(Context(), nullptr);
     ShowActive(form);
     EXPECT_EQ(TextIn(form, "tVBDirectory"), "C:\\VB");
     EXPECT_TRUE(form.cAddIcon->isChecked());
@@ -37,7 +37,7 @@ TEST_F(DlgImportVB5ProjectTest, OpensWithItsDefaultsAndScansNothing)
 
 TEST_F(DlgImportVB5ProjectTest, ImportsAndCloses)
 {
-    DlgImportVB5Project form(Desk(), nullptr);
+    DlgImportVB5Project form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
     Choose(form, "cmdSelectEXE", "C:\\Proj\\Kund.exe");
@@ -52,7 +52,7 @@ TEST_F(DlgImportVB5ProjectTest, ImportsAndCloses)
 
 TEST_F(DlgImportVB5ProjectTest, KeepsWhatWasChosenWhereAChoiceIsCancelled)
 {
-    DlgImportVB5Project form(Desk(), nullptr);
+    DlgImportVB5Project form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectEXE", "C:\\Proj\\Kund.exe");
     Choose(form, "cmdSelectEXE", "");
@@ -65,12 +65,12 @@ TEST_F(DlgImportVB5ProjectTest, KeepsWhatWasChosenWhereAChoiceIsCancelled)
 
 TEST_F(DlgImportVB5ProjectTest, LooksRight)
 {
-    DlgImportVB5Project form(Desk(), nullptr);
+    DlgImportVB5Project form(Context(), nullptr);
     ShowActive(form);
     SavePicture(form, "DlgImportVB5Project");
     SaveDarkPicture(form, "DlgImportVB5Project");
     OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdClose"); });
-    ShowImportVB5Project(Desk(), nullptr);
+    ShowImportVB5Project(Context(), nullptr);
 }
 
 } // namespace

@@ -23,7 +23,7 @@ protected:
 
 TEST_F(DlgImportVB6ProjectTest, OpensWithItsDefaults)
 {
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     EXPECT_EQ(form.sVBPfile->text(), "");
     EXPECT_EQ(form.sEXEfile->text(), "");
@@ -37,7 +37,7 @@ TEST_F(DlgImportVB6ProjectTest, OpensWithItsDefaults)
 
 TEST_F(DlgImportVB6ProjectTest, ScansTheProjectThatIsChosen)
 {
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     Click(form, "cImportDAO36");
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
@@ -57,7 +57,7 @@ TEST_F(DlgImportVB6ProjectTest, OpensItsChoicesInTheFolderOfTheSettings)
     folders.LastVB6ProjDir = "C:\\Källor\\VB6";
     folders.LastVBNETProjDir = "C:\\Källor\\NET";
     {
-        DlgImportVB6Project form(Desk(), nullptr);
+        DlgImportVB6Project form(Context(), nullptr);
         ShowActive(form);
         Choose(form, "cmdSelectVBP", "");
         Choose(form, "cmdSelectEXE", "");
@@ -79,7 +79,7 @@ TEST_F(DlgImportVB6ProjectTest, OpensItsChoicesInTheFolderOfTheSettings)
 TEST_F(DlgImportVB6ProjectTest, OpensItsChoicesInMyDocumentsOnANewMachine)
 {
     ReadDataFromIniFile(session);
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectVBP", "");
     EXPECT_EQ(ask.questions[0].folder, "C:\\Mina dokument");
@@ -87,7 +87,7 @@ TEST_F(DlgImportVB6ProjectTest, OpensItsChoicesInMyDocumentsOnANewMachine)
 
 TEST_F(DlgImportVB6ProjectTest, AsksForTheProgram)
 {
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectEXE", "C:\\Proj\\Kund.exe");
     EXPECT_EQ(form.sEXEfile->text(), "C:\\Proj\\Kund.exe");
@@ -98,7 +98,7 @@ TEST_F(DlgImportVB6ProjectTest, AsksForTheProgram)
 
 TEST_F(DlgImportVB6ProjectTest, ImportsAndCloses)
 {
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
     Choose(form, "cmdSelectEXE", "C:\\Proj\\Kund.exe");
@@ -115,7 +115,7 @@ TEST_F(DlgImportVB6ProjectTest, ImportsAndCloses)
 
 TEST_F(DlgImportVB6ProjectTest, HandsOverWhatIsTicked)
 {
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectEXE", "C:\\Proj\\Kund.exe");
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
@@ -131,7 +131,7 @@ TEST_F(DlgImportVB6ProjectTest, HandsOverWhatIsTicked)
 
 TEST_F(DlgImportVB6ProjectTest, StaysOpenWhereACheckRefuses)
 {
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     Expect(BoxKind::Inform, "Info");
     Click(form, "cmdImport");
@@ -156,8 +156,8 @@ TEST_F(DlgImportVB6ProjectTest, StopsInTheMidstOfAnImport)
     };
     StoppingAsk user{{{BoxKind::Inform, "Importen är avbruten"}}};
     Session other = NewSession(machine.host, user, "C:\\Quillon");
-    const ImportDesk desk{other, window, Desk().forms};
-    DlgImportVB6Project form(desk, nullptr);
+    const ImportContext context{other, window, Context().forms};
+    DlgImportVB6Project form(context, nullptr);
     ShowActive(form);
     user.choices = {{{"C:\\Proj\\Kund.vbp"}}, {{"C:\\Proj\\Kund.exe"}}};
     Click(form, "cmdSelectVBP");
@@ -178,7 +178,7 @@ TEST_F(DlgImportVB6ProjectTest, StopsInTheMidstOfAnImport)
 
 TEST_F(DlgImportVB6ProjectTest, OpensTheDetailsOfThePackage)
 {
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     Click(form, "cmdMDADetails");
     EXPECT_THAT(captions, ElementsAre("MDA"));
@@ -187,7 +187,7 @@ TEST_F(DlgImportVB6ProjectTest, OpensTheDetailsOfThePackage)
 TEST_F(DlgImportVB6ProjectTest, ShowsTheListAnewBehindAnImportAlone)
 {
     OnNextDialog([](QDialog& form) { Click(form, "cmdClose"); });
-    ShowImportVB6Project(Desk(), nullptr);
+    ShowImportVB6Project(Context(), nullptr);
     EXPECT_TRUE(window.calls.empty());
     ask.choices = {{{"C:\\Proj\\Kund.vbp"}}, {{"C:\\Proj\\Kund.exe"}}};
     Expect(BoxKind::Inform, "Importen är klar");
@@ -196,13 +196,13 @@ TEST_F(DlgImportVB6ProjectTest, ShowsTheListAnewBehindAnImportAlone)
         Click(form, "cmdSelectEXE");
         Click(form, "cmdImport");
     });
-    ShowImportVB6Project(Desk(), nullptr);
+    ShowImportVB6Project(Context(), nullptr);
     EXPECT_THAT(window.calls, ElementsAre("status", "status", "list"));
 }
 
 TEST_F(DlgImportVB6ProjectTest, ExplainsEachChoiceInItsHelp)
 {
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     const std::vector<HelpTopic> topics = HelpTopicsOf(form);
     std::vector<Text> explained;
@@ -259,7 +259,7 @@ TEST_F(DlgImportVB6ProjectTest, ShowsWhatItHasNotAddedBehindTheImport)
         });
         Click(form, "cmdImport");
     });
-    ShowImportVB6Project(Desk(), nullptr);
+    ShowImportVB6Project(Context(), nullptr);
     EXPECT_THAT(rows, ElementsAre("MSVBVM60.dll: finns inte i systemkatalogen"))
         << "and nothing of what no setup needs";
     EXPECT_THAT(window.calls, ElementsAre("status", "status", "list"));
@@ -267,7 +267,7 @@ TEST_F(DlgImportVB6ProjectTest, ShowsWhatItHasNotAddedBehindTheImport)
 
 TEST_F(DlgImportVB6ProjectTest, LooksRight)
 {
-    DlgImportVB6Project form(Desk(), nullptr);
+    DlgImportVB6Project form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbp");
     QApplication::processEvents();

@@ -22,7 +22,7 @@ protected:
 
 TEST_F(DlgImportVBNetProjectTest, TellsWhetherTheFrameworkIsTested)
 {
-    DlgImportVBNetProject form(Desk(), nullptr);
+    DlgImportVBNetProject form(Context(), nullptr);
     ShowActive(form);
     EXPECT_TRUE(form.cUseDepFile->isChecked());
     EXPECT_EQ(form.labNETtestStatus->text(), "Testa inte att .NET Framework är installerad");
@@ -36,7 +36,7 @@ TEST_F(DlgImportVBNetProjectTest, BeginsTheChoiceOfTheProgramWhereItIsBuilt)
     LastFolders& folders = session.Settings.Directories;
     folders.LastVB6ProjDir = "C:\\VB6";
     folders.LastVBNETProjDir = "C:\\NET";
-    DlgImportVBNetProject form(Desk(), nullptr);
+    DlgImportVBNetProject form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectEXE", "");
     EXPECT_EQ(ask.questions[0].folder, "C:\\NET");
@@ -54,7 +54,7 @@ TEST_F(DlgImportVBNetProjectTest, BeginsTheChoiceOfTheProgramWhereItIsBuilt)
 
 TEST_F(DlgImportVBNetProjectTest, ImportsAndAlwaysAsksForTheIcon)
 {
-    DlgImportVBNetProject form(Desk(), nullptr);
+    DlgImportVBNetProject form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbproj");
     Choose(form, "cmdSelectEXE", "C:\\Proj\\bin\\Kund.exe");
@@ -69,7 +69,7 @@ TEST_F(DlgImportVBNetProjectTest, ImportsAndAlwaysAsksForTheIcon)
 TEST_F(DlgImportVBNetProjectTest, StaysOpenForAProjectOfAnotherKind)
 {
     machine.files.Put("C:\\Proj\\New.vbproj", "<Project Sdk=\"Microsoft.NET.Sdk\">\n");
-    DlgImportVBNetProject form(Desk(), nullptr);
+    DlgImportVBNetProject form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectVBP", "C:\\Proj\\New.vbproj");
     Choose(form, "cmdSelectEXE", "C:\\Proj\\bin\\Kund.exe");
@@ -95,8 +95,8 @@ TEST_F(DlgImportVBNetProjectTest, ShowsItsProgressAmongManyLibrariesAndStopsTher
         machine.files.Put("C:\\Proj\\bin\\lib" + std::to_string(i) + ".dll", "MZ");
     WatchingAsk user{{{BoxKind::Inform, "Importen är avbruten"}}};
     Session other = NewSession(machine.host, user, "C:\\Quillon");
-    const ImportDesk desk{other, window, Desk().forms};
-    DlgImportVBNetProject form(desk, nullptr);
+    const ImportContext context{other, window, Context().forms};
+    DlgImportVBNetProject form(context, nullptr);
     ShowActive(form);
     user.choices = {{{"C:\\Proj\\Kund.vbproj"}}, {{"C:\\Proj\\bin\\Kund.exe"}}};
     Click(form, "cmdSelectVBP");
@@ -117,13 +117,13 @@ TEST_F(DlgImportVBNetProjectTest, ShowsItsProgressAmongManyLibrariesAndStopsTher
 
 TEST_F(DlgImportVBNetProjectTest, LooksRight)
 {
-    DlgImportVBNetProject form(Desk(), nullptr);
+    DlgImportVBNetProject form(Context(), nullptr);
     ShowActive(form);
     Choose(form, "cmdSelectVBP", "C:\\Proj\\Kund.vbproj");
     SavePicture(form, "DlgImportVBNetProject");
     SaveDarkPicture(form, "DlgImportVBNetProject");
     OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdClose"); });
-    ShowImportVBNetProject(Desk(), nullptr);
+    ShowImportVBNetProject(Context(), nullptr);
 }
 
 } // namespace

@@ -61,13 +61,13 @@ constexpr const char* kNames[] = {"tab-files",      "tab-design",    "tab-dialog
                                   "tab-components", "medium-floppy", "medium-internet",
                                   "medium-cd",      "medium-cd-tree"};
 
-int InkIn(const QImage& picture)
+int OpaquePixels(const QImage& picture)
 {
-    int ink = 0;
+    int count = 0;
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)
-            ink += qAlpha(picture.pixel(x, y)) > 100 ? 1 : 0;
-    return ink;
+            count += qAlpha(picture.pixel(x, y)) > 100 ? 1 : 0;
+    return count;
 }
 
 TEST_F(Icons, StandOnEveryButtonAndInTheMenus)
@@ -93,15 +93,15 @@ TEST_F(Icons, HaveInkAndDifferFromEachOther)
         if (alike.count(id) > 0)
             continue;
         const QImage picture = Draw(CommandIcon(id));
-        EXPECT_GT(InkIn(picture), 50) << static_cast<int>(id);
-        EXPECT_LT(InkIn(picture), 24 * 24) << static_cast<int>(id);
+        EXPECT_GT(OpaquePixels(picture), 50) << static_cast<int>(id);
+        EXPECT_LT(OpaquePixels(picture), 24 * 24) << static_cast<int>(id);
         const QByteArray bytes(reinterpret_cast<const char*>(picture.constBits()),
                                picture.sizeInBytes());
         const auto [same, isNew] = seen.emplace(bytes, static_cast<int>(id));
         EXPECT_TRUE(isNew) << static_cast<int>(id) << " looks like " << same->second;
     }
     for (const char* name : kNames)
-        EXPECT_GT(InkIn(Draw(NamedIcon(name), 48)), 200) << name;
+        EXPECT_GT(OpaquePixels(Draw(NamedIcon(name), 48)), 200) << name;
 }
 
 TEST_F(Icons, AreDrawnInDevicePixels)
@@ -115,18 +115,18 @@ TEST_F(Icons, AreDrawnInDevicePixels)
         }
 }
 
-// A sharp vertical line: full ink in two columns, none beside them.
+// A sharp vertical line: opaque in two columns, none beside them.
 TEST_F(Icons, HaveSharpLinesAtEachScale)
 {
     for (const int scale : {2, 3, 4}) {
         // The sides of the picture frame are at 3 and 21 of 24.
         const QImage picture = Draw(CommandIcon(CommandId::TextBox), 12 * scale);
         const int middle = picture.height() * 18 / 24;
-        const auto inkAt = [&](int x) { return qAlpha(picture.pixel(x, middle)); };
-        EXPECT_LT(inkAt(scale - 1), 8) << scale;
-        EXPECT_GT(inkAt(scale), 247) << scale;
-        EXPECT_GT(inkAt(2 * scale - 1), 247) << scale;
-        EXPECT_LT(inkAt(2 * scale), 8) << scale;
+        const auto alphaAt = [&](int x) { return qAlpha(picture.pixel(x, middle)); };
+        EXPECT_LT(alphaAt(scale - 1), 8) << scale;
+        EXPECT_GT(alphaAt(scale), 247) << scale;
+        EXPECT_GT(alphaAt(2 * scale - 1), 247) << scale;
+        EXPECT_LT(alphaAt(2 * scale), 8) << scale;
     }
 }
 

@@ -43,7 +43,7 @@ int Play(const wchar_t* sound, const wchar_t* logFile)
 {
     return RunErrorNumber([&] {
         WinFiles files;
-        const DesignFiles design(files, {}, {}, DesignFiles::Names::WholePaths);
+        const DesignFiles design(files, {}, {}, DesignFiles::Names::AbsolutePaths);
         Text log;
         {
             ScreenSound player(design, Narrow(sound), {});

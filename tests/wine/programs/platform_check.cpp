@@ -230,7 +230,7 @@ void CheckSaving(Checks& checks, WinFiles& files, const Text& folder)
     checks.Expect(named == 2, "the file and the kept one alone are left");
 }
 
-void CheckFacts(Checks& checks, WinFiles& files, const Text& folder)
+void CheckFileInformation(Checks& checks, WinFiles& files, const Text& folder)
 {
     const Text path = JoinPath(folder, "status.bin");
     WriteWholeFile(files, path, "12345");
@@ -458,7 +458,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int)
         CheckSecondThread(checks);
         CheckReadingAndWriting(checks, files, folder);
         CheckSaving(checks, files, folder);
-        CheckFacts(checks, files, folder);
+        CheckFileInformation(checks, files, folder);
         CheckFailures(checks, files, folder);
         CheckFolders(checks, files, folder);
         CheckDrives(checks, files, folder);

@@ -69,11 +69,11 @@ Text BitmapOf(HWND window)
     BitBlt(memory, 0, 0, inside.right, inside.bottom, screen, corner.x, corner.y, SRCCOPY);
     GdiFlush();
     const auto size = static_cast<DWORD>(inside.right * inside.bottom * 4);
-    BITMAPFILEHEADER head{};
-    head.bfType = 0x4D42;
-    head.bfOffBits = sizeof head + sizeof info.bmiHeader;
-    head.bfSize = head.bfOffBits + size;
-    Text file(reinterpret_cast<const char*>(&head), sizeof head);
+    BITMAPFILEHEADER header{};
+    header.bfType = 0x4D42;
+    header.bfOffBits = sizeof header + sizeof info.bmiHeader;
+    header.bfSize = header.bfOffBits + size;
+    Text file(reinterpret_cast<const char*>(&header), sizeof header);
     file.append(reinterpret_cast<const char*>(&info.bmiHeader), sizeof info.bmiHeader);
     file.append(static_cast<const char*>(pixels), size);
     SelectObject(memory, before);

@@ -3,7 +3,7 @@
 #include "actions/forms/DlgDestDirAdvUpdate.h"
 #include "actions/forms/previews/previews.h"
 #include "actions/update_reference.h"
-#include "project/dialog_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/qt_text.h"
 #include "ui/typed_text.h"
@@ -35,7 +35,7 @@ QWidget* DlgDestDirDlg::UpdateFrame()
     Check(NAMED(cHandleUpdate), "&Hantera uppdatering av en tidigare installerad version",
           updates_.HandleUpdate);
     Field(NAMED(tUpdateReferenceFile), updates_.UpdateReferenceFile,
-          LongestText(section::kUpdates, &Updates::UpdateReferenceFile));
+          MaxTextLength(&Updates::UpdateReferenceFile));
     OnLeave(tUpdateReferenceFile, [this] {
         const Text typed = FromQt(tUpdateReferenceFile->text());
         if (const Text name = UpdateReferenceName(typed); name != typed)

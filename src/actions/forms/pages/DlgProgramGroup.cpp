@@ -1,7 +1,7 @@
 #include "actions/forms/pages/DlgProgramGroup.h"
 
-#include "project/install_keys.h"
 #include "project/program_group.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 
 #include <QtWidgets>
@@ -25,7 +25,7 @@ DlgProgramGroup::DlgProgramGroup(Session& session, QWidget* parent)
 {
     section::ProgramGroup& group = NamedGroup(session.project);
     Field(NAMED(tProgramGroupName), group.ProgramGroup,
-          LongestText(section::kProgramGroup, &section::ProgramGroup::ProgramGroup));
+          MaxTextLength(&section::ProgramGroup::ProgramGroup));
     Named(NAMED(oCurrentUser), new QRadioButton("&Aktuell användare"));
     Named(NAMED(oAllUsers), new QRadioButton("A&lla användare"));
     oCurrentUser->setChecked(PlaceOfGroup(group) == GroupPlace::CurrentUser);

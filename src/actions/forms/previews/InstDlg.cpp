@@ -95,11 +95,11 @@ void InstDlg::MakeTitle(const Text& title)
 }
 
 RunningText* InstDlg::Paragraph(RunningText*& member, const char* name, const Text& text,
-                                const Text& accessibleName, int most)
+                                const Text& accessibleName, int maxHeight)
 {
     auto* paragraph = Named(member, name, new RunningText(Shown(text), accessibleName));
     paragraph->setFont(font());
-    paragraph->FitHeight(ContentWidth(), UnitsDown(most));
+    paragraph->FitHeight(ContentWidth(), UnitsDown(maxHeight));
     return paragraph;
 }
 

@@ -34,10 +34,10 @@ protected:
     /// Lays the page out; `pieces` are below the title.
     void ArrangePage(Piece pieces, Buttons buttons = Buttons::NextCancel);
 
-    /// Text on the page's background, as wide as the page and as high as its lines, up to `most`
-    /// dialog units.
+    /// Text on the page's background, as wide as the page and as high as its lines, up to
+    /// `maxHeight` dialog units.
     RunningText* Paragraph(RunningText*& member, const char* name, const Text& text,
-                           const Text& accessibleName, int most);
+                           const Text& accessibleName, int maxHeight);
 
     /// The text as the end user will see it.
     Text Shown(const Text& text) const;

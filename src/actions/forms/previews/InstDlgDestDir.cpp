@@ -3,7 +3,7 @@
 #include "actions/forms/pages/DiskSpacePart.h"
 #include "actions/preview_page.h"
 #include "formats/page_layout.h"
-#include "project/install_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/RunningText.h"
 #include "ui/qt_text.h"
@@ -22,8 +22,7 @@ InstDlgDestDir::InstDlgDestDir(const DiskSpacePreview& page, Session& session, Q
               "någon annanstans.",
               "Text", PageLayout::kMaxTextHeight);
     Named(NAMED(tDestDir), new QLineEdit(ToQt(PreviewMainFolder(session.project, session.host))));
-    LimitTyping(tDestDir, LongestText(section::kInstallDirectories,
-                                      &section::InstallDirectories::DestinationDirectory));
+    LimitTyping(tDestDir, MaxTextLength(&section::InstallDirectories::DestinationDirectory));
     tDestDir->setCursorPosition(0);
     Button(NAMED(cmdBrowse), "B&läddra...", [this] { Browse(); });
     space = new DiskSpacePart(page, session);

@@ -1,7 +1,7 @@
 #include "actions/forms/previews/InstDlgNameCompany.h"
 
 #include "formats/page_layout.h"
-#include "project/dialog_keys.h"
+#include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/RunningText.h"
 #include "ui/qt_text.h"
@@ -23,7 +23,7 @@ QLineEdit* UserField(QLineEdit*& member, const char* name, Text LicenseData::*fi
                      const Session& session)
 {
     Named(member, name, new QLineEdit(ToQt(session.project.LicenseData.*field)));
-    LimitTyping(member, LongestText(section::kLicenseData, field));
+    LimitTyping(member, MaxTextLength(field));
     return member;
 }
 

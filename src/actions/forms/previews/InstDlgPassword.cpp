@@ -3,7 +3,7 @@
 #include "actions/forms/previews/previews.h"
 #include "formats/page_layout.h"
 #include "helpers/line_breaks.h"
-#include "project/dialog_keys.h"
+#include "project/text_limits.h"
 #include "ui/RunningText.h"
 #include "ui/typed_text.h"
 
@@ -21,8 +21,7 @@ InstDlgPassword::InstDlgPassword(const Text& prompt, Session& session, QWidget* 
     tPassword->setEchoMode(QLineEdit::Password);
     // An asterisk for each letter, whatever the desktop's style has.
     tPassword->setStyleSheet("lineedit-password-character: 42");
-    LimitTyping(tPassword,
-                LongestText(section::kDialogBoxData, &section::DialogBoxData::CorrectPassword));
+    LimitTyping(tPassword, MaxTextLength(&section::DialogBoxData::CorrectPassword));
     ArrangePage(VBox({sText, Fields({{"&Lösenord:", tPassword}}), Stretch()}));
     tPassword->setFocus();
 }

@@ -35,7 +35,7 @@ public:
 
     void Run()
     {
-        status_ = StatusOfSources(files_, sources_, watch_.onYield);
+        status_ = StatusOfSources(files_, sources_, watch_.processEvents);
         for (const FileStatus& status : status_)
             total_ += status.size;
         FindEqualSources();
@@ -53,8 +53,8 @@ public:
 private:
     void ProcessEvents() const
     {
-        if (watch_.onYield)
-            watch_.onYield();
+        if (watch_.processEvents)
+            watch_.processEvents();
     }
 
     void FindEqualSources()
@@ -114,7 +114,7 @@ private:
                 Advance(bytes.size());
             },
             [&](std::span<const std::byte> bytes) { AddToFrame(bytes); });
-        // It was compared with others, and is another one by now.
+        // The file has changed since it was compared with others.
         const auto& compared = contents_[source].crc;
         if ((compared && *compared != crc) || HasMore(*input, path))
             throw CompressionFailure(CompressionResult::kSourceChanged, path);
@@ -176,7 +176,7 @@ private:
 
     void WriteOldest()
     {
-        const PackedFrame packed = workers_.Next(watch_.onYield);
+        const PackedFrame packed = workers_.Next(watch_.processEvents);
         --waiting_;
         index_.frames.push_back({static_cast<std::uint32_t>(packed.bytes.size()), packed.digest});
         target_.Write(packed.bytes);

@@ -58,7 +58,7 @@ Text ProjectTitle(const LoadedPackage& package)
     return package.texts(Message::Title, package.setup.project.ProjectName.ProjectName);
 }
 
-// Those before anybody has chosen anything.
+// The variables before the user has chosen anything.
 SetupVariables VariablesOf(const LoadedPackage& package, const Host& host, const Target& target,
                            const Switches& switches)
 {
@@ -83,7 +83,7 @@ ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
     // Nothing is registered, so no helper is needed.
     WinTarget target{Text()};
     const DesignFiles design(host.files, {}, switches.packageFolder,
-                             DesignFiles::Names::WholePaths);
+                             DesignFiles::Names::AbsolutePaths);
     if (switches.silent) {
         SilentAsk silent;
         NoPages none;

@@ -11,8 +11,8 @@ using namespace quillon;
 
 namespace {
 
-// The path of the record, as the uninstaller itself reads the line.
-void FindRecord(wchar_t* path, const Starter& starter, const wchar_t* line)
+// The path of the journal, as the uninstaller itself reads the line.
+void FindJournal(wchar_t* path, const Starter& starter, const wchar_t* line)
 {
     const wchar_t* at = SkipSwitchBlanks(line);
     if (*at == 0 || BeginsSwitch(at) || IsSwitchMark(*at)) {
@@ -25,11 +25,11 @@ void FindRecord(wchar_t* path, const Starter& starter, const wchar_t* line)
     *path = 0;
 }
 
-// The installation has left the texts of its language in its record.
+// The installation has left the texts of its language in its journal.
 void ReadMessage(Starter& starter, const wchar_t* line, const StarterMessage& message)
 {
     SetMessage(starter, message.swedish);
-    FindRecord(starter.scratch, starter, line);
+    FindJournal(starter.scratch, starter, line);
     DWORD size = 0;
     char* const bytes = ReadFileOf(starter.scratch, size);
     if (bytes == nullptr)

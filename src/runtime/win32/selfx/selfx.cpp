@@ -99,16 +99,16 @@ private:
         if (command_.extractTo)
             return ExtractTo(payload);
         const bool elevates = !table.Property(SelfExtractAttribute::kElevates).empty();
-        if (elevates && !command_.isElevatedTwin && !IsElevated())
-            return RunElevatedTwin();
+        if (elevates && !command_.isElevatedInstance && !IsElevated())
+            return RunElevatedInstance();
         return Install(payload);
     }
 
-    int RunElevatedTwin()
+    int RunElevatedInstance()
     {
         window_.reset();
-        return static_cast<int>(
-            RunElevatedAndWait(ProgramPath(), Text(kElevatedTwinSwitch) + " " + command_.forSetup));
+        return static_cast<int>(RunElevatedAndWait(ProgramPath(), Text(kElevatedInstanceSwitch) +
+                                                                      " " + command_.forSetup));
     }
 
     int ExtractTo(const SolidReader& payload)

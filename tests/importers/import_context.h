@@ -69,9 +69,9 @@ public:
     std::vector<Text> seen;
 };
 
-class ImportDesk : public testing::Test {
+class ImportContext : public testing::Test {
 protected:
-    ImportDesk()
+    ImportContext()
     {
         project.Files.sorted = false;
         machine.files.Put(kExe, "MZ");
