@@ -94,4 +94,13 @@ PathFault FaultOfFolder(std::string_view path)
     return path.empty() ? PathFault::NotAbsolute : FaultOfParts(parts);
 }
 
+Text AsFileName(std::string_view text)
+{
+    Text name = TrimBlanks(text);
+    std::replace_if(
+        name.begin(), name.end(),
+        [](char c) { return std::string_view("\\/:*?\"<>|\t\r\n").find(c) != Text::npos; }, '-');
+    return name;
+}
+
 } // namespace quillon

@@ -2,6 +2,8 @@
 // `verify` and the setup before anything is written, all by the one answer given here.
 #pragma once
 
+#include "helpers/text.h"
+
 #include <string_view>
 
 namespace quillon {
@@ -27,5 +29,8 @@ PathFault FaultOfName(std::string_view name);
 /// below a folder that is given elsewhere. Slashes count as backslashes, and empty parts for
 /// nothing.
 PathFault FaultOfFolder(std::string_view path);
+
+/// A text as a file name: characters that no file name holds become hyphens.
+Text AsFileName(std::string_view text);
 
 } // namespace quillon

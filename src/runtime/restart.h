@@ -3,7 +3,7 @@
 
 #include "platform/ask.h"
 #include "project/records.h"
-#include "runtime/command_line/exit_codes.h"
+#include "runtime/exit_codes.h"
 #include "runtime/texts/language_file.h"
 
 namespace quillon {

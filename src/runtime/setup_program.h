@@ -3,14 +3,14 @@
 #pragma once
 
 #include "platform/ask.h"
-#include "runtime/background_sound.h"
-#include "runtime/command_line/exit_codes.h"
 #include "runtime/command_line/switches.h"
+#include "runtime/exit_codes.h"
 #include "runtime/file_users.h"
 #include "runtime/install/install_plan.h"
 #include "runtime/log/action_log.h"
 #include "runtime/package/container.h"
 #include "runtime/package/loaded_package.h"
+#include "runtime/pages/background_sound.h"
 #include "runtime/pages/page.h"
 #include "runtime/uninstall/start_uninstaller.h"
 

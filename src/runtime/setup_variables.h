@@ -5,7 +5,7 @@
 #include "formats/setup_information.h"
 #include "formats/variable_names.h"
 #include "platform/host.h"
-#include "runtime/command_line/install_scope.h"
+#include "runtime/install_scope.h"
 #include "runtime/target.h"
 
 #include <utility>

@@ -4,10 +4,10 @@
 #include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/background_sound.h"
 #include "runtime/install/data_access.h"
 #include "runtime/install/first_program.h"
 #include "runtime/journal/rollback.h"
+#include "runtime/pages/background_sound.h"
 #include "runtime/run_folder.h"
 #include "runtime/script/script_run.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "builder/create_desk.h"
-#include "runtime/command_line/exit_codes.h"
+#include "runtime/exit_codes.h"
 #include "runtime/memory_target.h"
 
 #include <ostream>

@@ -1,4 +1,4 @@
-#include "runtime/background_sound.h"
+#include "runtime/pages/background_sound.h"
 
 #include "scripted_pages.h"
 #include "setup_fixture.h"

@@ -1,7 +1,7 @@
 // Cancel during the installation is heard at each of its stages, not while files are copied alone.
 #include "setup_fixture.h"
 
-#include "runtime/install/uninstall_entry.h"
+#include "runtime/uninstall_entry_key.h"
 
 namespace quillon {
 

@@ -6,7 +6,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "runtime/install/file_installer.h"
+#include "runtime/shared_files.h"
 
 namespace quillon {
 

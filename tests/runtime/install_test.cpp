@@ -1,7 +1,7 @@
 #include "full_product.h"
 
 #include "platform/run_error.h"
-#include "runtime/install/file_installer.h"
+#include "runtime/shared_files.h"
 
 namespace quillon {
 

@@ -6,12 +6,12 @@
 #include "formats/package_manifest.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/install/file_installer.h"
-#include "runtime/install/uninstall_entry.h"
 #include "runtime/journal/restart_moves.h"
 #include "runtime/journal/rollback.h"
 #include "runtime/journal/started_setups.h"
 #include "runtime/journal/transaction_journal.h"
+#include "runtime/shared_files.h"
+#include "runtime/uninstall_entry_key.h"
 
 namespace quillon {
 

@@ -1,7 +1,7 @@
 // An older setup where a newer version of the product is installed.
 #include "setup_fixture.h"
 
-#include "runtime/install/uninstall_entry.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <gmock/gmock.h>
 

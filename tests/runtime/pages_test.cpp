@@ -1,9 +1,9 @@
 // The pages of the setup by their rules, without any window.
 #include "memory_target.h"
-#include "runtime/install/uninstall_entry.h"
 #include "runtime/pages/earlier_version.h"
 #include "runtime/pages/page_chain.h"
 #include "runtime/pages/page_order.h"
+#include "runtime/uninstall_entry_key.h"
 #include "scripted_pages.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"

@@ -1,7 +1,7 @@
 // /PLAN: what an installation would do, and that nothing of it is done.
 #include "unattended_fixture.h"
 
-#include "runtime/install/uninstall_entry.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <gmock/gmock.h>
 

@@ -4,7 +4,7 @@
 #include "unattended_fixture.h"
 
 #include "platform/run_error.h"
-#include "runtime/install/uninstall_entry.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <gmock/gmock.h>
 

@@ -3,8 +3,8 @@
 #include "setup_fixture.h"
 
 #include "platform/run_error.h"
-#include "runtime/install/file_installer.h"
 #include "runtime/journal/restart_moves.h"
+#include "runtime/shared_files.h"
 #include "runtime/uninstall/removal_list.h"
 #include "runtime/uninstall/uninstall_program.h"
 

@@ -2,8 +2,8 @@
 
 #include "platform/run_error.h"
 #include "runtime/ini_files/ini_changes.h"
-#include "runtime/install/file_installer.h"
 #include "runtime/journal/restart_moves.h"
+#include "runtime/shared_files.h"
 #include "runtime/uninstall/uninstall.h"
 
 namespace quillon {

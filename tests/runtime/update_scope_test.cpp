@@ -1,8 +1,8 @@
 // An update of a product that is installed for the current user alone, or for the whole machine.
 #include "setup_fixture.h"
 
-#include "runtime/install/uninstall_entry.h"
 #include "runtime/pages/earlier_version.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <gmock/gmock.h>
 

@@ -6,8 +6,8 @@
 #include "platform/file_system.h"
 #include "platform/machine.h"
 #include "runtime/command_line/switches.h"
-#include "runtime/pages/user_choices.h"
 #include "runtime/setup_variables.h"
+#include "runtime/user_choices.h"
 
 namespace quillon {
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "helpers/text.h"
-#include "runtime/command_line/exit_codes.h"
-#include "runtime/command_line/install_scope.h"
+#include "runtime/exit_codes.h"
+#include "runtime/install_scope.h"
 
 #include <optional>
 #include <utility>

@@ -5,6 +5,7 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/install/install_order.h"
+#include "runtime/shared_files.h"
 
 namespace quillon {
 
@@ -19,19 +20,6 @@ bool MayBeInUse(const RunError& error)
 }
 
 } // namespace
-
-RegistryKey SharedFilesKey()
-{
-    return {RegistryRoot::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\SharedDLLs"};
-}
-
-std::optional<std::uint32_t> CountOfUsers(const Target& target, const Text& path)
-{
-    auto data = target.ReadValue(SharedFilesKey(), path);
-    if (data && data->type == kRegistryBytes)
-        data->type = kRegistryNumber;
-    return data ? NumberOf(*data) : std::nullopt;
-}
 
 Text VersionOfFile(const FileSystem& files, const Text& path)
 {

@@ -51,13 +51,6 @@ private:
     std::uint64_t installed_ = 0;
 };
 
-/// Where the system counts the products that use a shared file.
-RegistryKey SharedFilesKey();
-
-/// How many products use the file; nothing where nobody has counted. Older setups keep the number
-/// as four bytes.
-std::optional<std::uint32_t> CountOfUsers(const Target& target, const Text& path);
-
 /// The version of a program or library; empty where it has none.
 Text VersionOfFile(const FileSystem& files, const Text& path);
 

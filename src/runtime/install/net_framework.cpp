@@ -1,7 +1,7 @@
 #include "runtime/install/net_framework.h"
 
 #include "helpers/number_text.h"
-#include "runtime/command_line/exit_codes.h"
+#include "runtime/exit_codes.h"
 
 namespace quillon {
 

@@ -5,8 +5,8 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
-#include "runtime/install/file_installer.h"
 #include "runtime/install/old_shortcuts.h"
+#include "runtime/shared_files.h"
 #include "runtime/texts/failure_reason.h"
 
 #include <set>

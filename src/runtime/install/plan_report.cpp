@@ -7,6 +7,7 @@
 #include "runtime/install/old_shortcuts.h"
 #include "runtime/install/uninstall_entry.h"
 #include "runtime/log/json_writer.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <set>
 

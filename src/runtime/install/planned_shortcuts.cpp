@@ -3,6 +3,7 @@
 #include "formats/icon_marker.h"
 #include "formats/runtime_programs.h"
 #include "formats/setup_names.h"
+#include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "runtime/texts/failure_reason.h"
 
@@ -174,15 +175,6 @@ void PlanShortcuts(const PlanInput& input, InstallPlan& plan)
         AddShortcuts({input, places, plan.programGroup}, file, leftOut);
     for (const PlannedShortcut& shortcut : leftOut)
         plan.shortcutsLeftOut.push_back(shortcut.path);
-}
-
-Text AsFileName(std::string_view text)
-{
-    Text name = TrimBlanks(text);
-    std::replace_if(
-        name.begin(), name.end(),
-        [](char c) { return std::string_view("\\/:*?\"<>|\t\r\n").find(c) != Text::npos; }, '-');
-    return name;
 }
 
 Text UninstallerPath(const Text& mainFolder)

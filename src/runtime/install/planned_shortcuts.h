@@ -9,9 +9,6 @@ namespace quillon {
 /// Adds the shortcuts of the planned files, and the uninstaller's own.
 void PlanShortcuts(const PlanInput& input, InstallPlan& plan);
 
-/// A text as a file name: characters that no file name holds become hyphens.
-Text AsFileName(std::string_view text);
-
 /// The uninstaller as it is in a product's main folder.
 Text UninstallerPath(const Text& mainFolder);
 

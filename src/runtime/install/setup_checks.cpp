@@ -10,6 +10,7 @@
 #include "runtime/package/package_check.h"
 #include "runtime/script/script_run.h"
 #include "runtime/texts/failure_reason.h"
+#include "runtime/uninstall_entry_key.h"
 
 namespace quillon {
 

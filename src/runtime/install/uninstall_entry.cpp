@@ -1,6 +1,7 @@
 #include "runtime/install/uninstall_entry.h"
 
 #include "runtime/install/planned_shortcuts.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <algorithm>
 
@@ -68,13 +69,6 @@ constexpr EntryValue kValues[] = {
 
 } // namespace
 
-RegistryKey UninstallEntryKey(const Text& product, InstallScope scope)
-{
-    return {scope == InstallScope::CurrentUser ? RegistryRoot::CurrentUser
-                                               : RegistryRoot::LocalMachine,
-            "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + AsFileName(product)};
-}
-
 const Text& VersionOf(const SetupInformation& setup)
 {
     const Text& ofProgram = setup.XProductVersion;
@@ -95,16 +89,6 @@ void WriteUninstallEntry(const EntryContext& entry, InstallTransaction& transact
             transaction.RemoveValue(key, value.name);
         else
             transaction.WriteValue(key, value.name, data);
-}
-
-RegistryKey RecordedUninstallEntry(const Text& product, const std::vector<JournalRecord>& records)
-{
-    const RegistryKey ofUser = UninstallEntryKey(product, InstallScope::CurrentUser);
-    for (const JournalRecord& record : records)
-        if (const auto* const value = std::get_if<record::Value>(&record);
-            value && EqualIgnoreCase(KeyText(value->key), KeyText(ofUser)))
-            return ofUser;
-    return UninstallEntryKey(product);
 }
 
 } // namespace quillon

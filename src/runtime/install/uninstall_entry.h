@@ -2,24 +2,11 @@
 // thing that the list shows or that administrators look up. One table says what stands there.
 #pragma once
 
-#include "runtime/command_line/install_scope.h"
 #include "runtime/install/install.h"
-#include "runtime/journal/install_journal.h"
 
 #include <span>
 
 namespace quillon {
-
-// The values that others read: where the product is, its version, and the command that removes it.
-inline constexpr const char* kInstallLocation = "InstallLocation";
-inline constexpr const char* kDisplayVersion = "DisplayVersion";
-inline constexpr const char* kUninstallString = "UninstallString";
-
-/// Where the entry of the product of that name is.
-RegistryKey UninstallEntryKey(const Text& product, InstallScope scope = InstallScope::Project);
-
-/// Where the installation with these records has put it.
-RegistryKey RecordedUninstallEntry(const Text& product, const std::vector<JournalRecord>& records);
 
 /// What the user knows as the product's version: that of its program, before the project's own.
 const Text& VersionOf(const SetupInformation& setup);

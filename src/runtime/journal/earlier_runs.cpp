@@ -2,10 +2,10 @@
 
 #include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
-#include "runtime/command_line/exit_codes.h"
-#include "runtime/install/uninstall_entry.h"
+#include "runtime/exit_codes.h"
 #include "runtime/journal/rollback.h"
 #include "runtime/journal/started_setups.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <set>
 

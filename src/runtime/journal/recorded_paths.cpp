@@ -1,7 +1,7 @@
 #include "runtime/journal/recorded_paths.h"
 
 #include "helpers/windows_path.h"
-#include "runtime/install/file_installer.h"
+#include "runtime/shared_files.h"
 
 #include <algorithm>
 

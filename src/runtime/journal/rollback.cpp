@@ -3,11 +3,11 @@
 #include "helpers/number_text.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/install/file_installer.h"
 #include "runtime/journal/journal_table.h"
 #include "runtime/journal/restart_moves.h"
 #include "runtime/journal/started_setups.h"
 #include "runtime/journal/transaction_journal.h"
+#include "runtime/shared_files.h"
 
 #include <algorithm>
 #include <map>

@@ -1,9 +1,9 @@
 #include "runtime/journal/started_setups.h"
 
 #include "helpers/drive_path.h"
+#include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/install/planned_shortcuts.h"
 #include "runtime/journal/transaction_journal.h"
 
 #include <algorithm>

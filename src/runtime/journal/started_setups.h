@@ -5,7 +5,7 @@
 #pragma once
 
 #include "platform/file_system.h"
-#include "runtime/command_line/install_scope.h"
+#include "runtime/install_scope.h"
 #include "runtime/target.h"
 
 namespace quillon {

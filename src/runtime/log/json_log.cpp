@@ -1,8 +1,8 @@
 #include "runtime/log/json_log.h"
 
 #include "platform/run_error.h"
-#include "runtime/command_line/result_names.h"
 #include "runtime/log/json_writer.h"
+#include "runtime/log/result_names.h"
 
 #include <utility>
 

@@ -5,7 +5,7 @@
 
 #include "platform/file_system.h"
 #include "platform/machine.h"
-#include "runtime/command_line/exit_codes.h"
+#include "runtime/exit_codes.h"
 #include "runtime/texts/messages.h"
 
 #include <array>

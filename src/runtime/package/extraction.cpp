@@ -6,7 +6,6 @@
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/install/planned_shortcuts.h"
 
 #include <algorithm>
 #include <unordered_set>

@@ -1,7 +1,7 @@
 // The choice of components on a command line: "a,!b".
 #pragma once
 
-#include "runtime/pages/user_choices.h"
+#include "runtime/user_choices.h"
 
 namespace quillon {
 

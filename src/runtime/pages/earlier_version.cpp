@@ -4,7 +4,7 @@
 #include "helpers/windows_path.h"
 #include "platform/registry_roots.h"
 #include "runtime/command_line/switches.h"
-#include "runtime/install/uninstall_entry.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <vector>
 

@@ -5,7 +5,7 @@
 #include "platform/ask.h"
 #include "runtime/install/install_plan.h"
 #include "runtime/pages/page.h"
-#include "runtime/pages/user_choices.h"
+#include "runtime/user_choices.h"
 
 namespace quillon {
 

@@ -4,7 +4,7 @@
 
 #include "archive/zip_reader.h"
 #include "platform/run_error.h"
-#include "runtime/command_line/exit_codes.h"
+#include "runtime/exit_codes.h"
 #include "runtime/texts/language_file.h"
 
 #include <exception>

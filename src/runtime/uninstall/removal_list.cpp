@@ -2,9 +2,9 @@
 
 #include "helpers/windows_path.h"
 #include "runtime/install/planned_shortcuts.h"
-#include "runtime/install/uninstall_entry.h"
 #include "runtime/install/uninstaller_files.h"
 #include "runtime/journal/recorded_paths.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <algorithm>
 #include <set>

@@ -3,7 +3,7 @@
 #include "formats/runtime_programs.h"
 #include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
-#include "runtime/install/uninstall_entry.h"
+#include "runtime/uninstall_entry_key.h"
 
 namespace quillon {
 

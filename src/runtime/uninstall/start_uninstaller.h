@@ -1,8 +1,8 @@
 // /UNINSTALL: the setup starts the uninstaller of the product that it would install.
 #pragma once
 
-#include "runtime/command_line/install_scope.h"
 #include "runtime/command_line/switches.h"
+#include "runtime/install_scope.h"
 #include "runtime/log/action_log.h"
 #include "runtime/target.h"
 

@@ -4,14 +4,14 @@
 #include "platform/run_error.h"
 #include "runtime/ini_files/ini_changes.h"
 #include "runtime/ini_files/startup_files.h"
-#include "runtime/install/file_installer.h"
 #include "runtime/install/planned_shortcuts.h"
-#include "runtime/install/uninstall_entry.h"
 #include "runtime/install/uninstaller_files.h"
 #include "runtime/journal/install_transaction.h"
 #include "runtime/journal/recorded_paths.h"
 #include "runtime/journal/restart_moves.h"
+#include "runtime/shared_files.h"
 #include "runtime/texts/failure_reason.h"
+#include "runtime/uninstall_entry_key.h"
 
 #include <algorithm>
 #include <set>

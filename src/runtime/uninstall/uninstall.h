@@ -11,7 +11,7 @@
 
 #include "platform/ask.h"
 #include "platform/host.h"
-#include "runtime/command_line/exit_codes.h"
+#include "runtime/exit_codes.h"
 #include "runtime/log/action_log.h"
 #include "runtime/running_program.h"
 #include "runtime/uninstall/installed_product.h"

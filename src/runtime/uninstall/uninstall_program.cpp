@@ -3,7 +3,6 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/files_in_use.h"
-#include "runtime/install/uninstall_entry.h"
 #include "runtime/journal/restart_moves.h"
 #include "runtime/journal/rollback.h"
 #include "runtime/journal/started_setups.h"
@@ -11,6 +10,7 @@
 #include "runtime/texts/failure_reason.h"
 #include "runtime/texts/setup_help.h"
 #include "runtime/uninstall/removal_list.h"
+#include "runtime/uninstall_entry_key.h"
 
 namespace quillon {
 

@@ -5,7 +5,7 @@
 // pipe breaks, which the end of the parent does too, whatever ends that.
 #pragma once
 
-#include "runtime/background_sound.h"
+#include "runtime/pages/background_sound.h"
 #include "runtime/pages/design_files.h"
 
 #include <optional>

@@ -1,8 +1,8 @@
 #include "runtime/win32/starter.h"
 
 #include "platform/win32/locked_folder.h"
-#include "runtime/command_line/result_names.h"
 #include "runtime/command_line/switch_words.h"
+#include "runtime/log/result_names.h"
 
 #include <cwchar>
 

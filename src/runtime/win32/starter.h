@@ -6,7 +6,7 @@
 #pragma once
 
 #include "formats/runtime_programs.h"
-#include "runtime/command_line/exit_codes.h"
+#include "runtime/exit_codes.h"
 #include "runtime/texts/starter_messages.h"
 #include "runtime/win32/listed_files.h"
 

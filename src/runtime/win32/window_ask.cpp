@@ -1,7 +1,7 @@
 #include "runtime/win32/window_ask.h"
 
 #include "platform/win32/wide_text.h"
-#include "runtime/command_line/exit_codes.h"
+#include "runtime/exit_codes.h"
 #include "runtime/pages/window_place.h"
 #include "runtime/win32/display.h"
 #include "runtime/win32/folder_choice.h"

@@ -1,4 +1,4 @@
-#include "runtime/pages/user_choices.h"
+#include "runtime/user_choices.h"
 
 namespace quillon {
 

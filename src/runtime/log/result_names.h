@@ -1,7 +1,7 @@
 // What the record of the end calls each result: one word for programs that read it.
 #pragma once
 
-#include "runtime/command_line/exit_codes.h"
+#include "runtime/exit_codes.h"
 
 namespace quillon {
 
