@@ -231,7 +231,7 @@ std::vector<OldFile> PlanOldFiles(const FileSystem& files, const Target& target,
     for (const JournalRecord& one : journal.Records())
         if (const auto* const file = std::get_if<record::File>(&one);
             file && known.insert(LowerCase(file->path)).second && files.FileExists(file->path))
-            found.push_back({file->path, ReasonToStay({files, target, record, earlier.contents,
+            found.push_back({file->path, ReasonToStay({files, target, journal, earlier.contents,
                                                        plan.mainFolder},
                                                       file->path)});
     return found;
