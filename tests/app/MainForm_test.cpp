@@ -11,6 +11,11 @@ namespace {
 
 using MainFormTest = WindowTest;
 
+QAction& ActionOf(QWidget& form, CommandId id)
+{
+    return Find<QAction>(form, ("cmd" + std::to_string(static_cast<int>(id))).c_str());
+}
+
 TEST_F(MainFormTest, NamesTheProjectInItsTitle)
 {
     MainForm form(session);
@@ -34,8 +39,7 @@ TEST_F(MainFormTest, ShowsTheKeysOfItsCommandsInTheMenus)
     MainForm form(session);
     for (const MenuRow& row : MenuBarRows())
         if (row.part == MenuPart::Entry) {
-            const auto& action = Find<QAction>(
-                form, ("cmd" + std::to_string(static_cast<int>(row.command.id))).c_str());
+            const QAction& action = ActionOf(form, row.command.id);
             EXPECT_EQ(FromQt(action.shortcut().toString(QKeySequence::PortableText)),
                       row.command.keys)
                 << row.command.caption;
@@ -107,7 +111,7 @@ TEST_F(MainFormTest, NamesTheProjectAloneWhateverItsSlashes)
     EXPECT_EQ(form.windowTitle(), "Tavrell Quillon 2004 - [b.qnp]");
     session.RecentFiles = {"Z:/a/b.qnp"};
     form.ShowRecentFiles();
-    EXPECT_EQ(Find<QAction>(form, "cmd291").text(), "b.qnp");
+    EXPECT_EQ(ActionOf(form, CommandId::RecentFile1).text(), "b.qnp");
 }
 
 class HiddenTabs : public WindowTest {

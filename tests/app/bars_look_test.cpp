@@ -87,8 +87,9 @@ TEST_F(BarsLook, ShowsItselfInPictures)
                 action->setEnabled(true);
             form.resize(760, 160);
             ShowActive(form);
-            auto* button = dynamic_cast<QToolButton*>(
-                Standard(form).widgetForAction(form.findChild<QAction*>("cmd102")));
+            auto* open = form.findChild<QAction*>(
+                QString("cmd%1").arg(static_cast<int>(CommandId::OpenProject)));
+            auto* button = dynamic_cast<QToolButton*>(Standard(form).widgetForAction(open));
             ASSERT_NE(button, nullptr);
             button->setAttribute(Qt::WA_UnderMouse);
             const std::string name =

@@ -70,7 +70,10 @@ public:
 
     Text Title() const { return FromQt(form.windowTitle()); }
     const Text& Name() const { return session.project.ProjectName.ProjectName; }
-    QAction& Entry(int id) { return Find<QAction>(QString("cmd%1").arg(id)); }
+    QAction& Entry(CommandId id)
+    {
+        return Find<QAction>(QString("cmd%1").arg(static_cast<int>(id)));
+    }
 
     template <class Object>
     Object& Find(const QString& name)
@@ -109,7 +112,7 @@ TEST(LifecycleByCommand, OpensAProject)
     EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [a.qnp]");
     EXPECT_EQ(context.Name(), kA);
     EXPECT_EQ(context.form.SelectedTab(), Tab::Design);
-    EXPECT_EQ(context.Entry(291).text(), "a.qnp");
+    EXPECT_EQ(context.Entry(CommandId::RecentFile1).text(), "a.qnp");
 }
 
 TEST(LifecycleByCommand, SavesAndSavesUnderAnotherName)
@@ -123,8 +126,8 @@ TEST(LifecycleByCommand, SavesAndSavesUnderAnotherName)
     context.form.RunCommand(CommandId::SaveProjectAs);
     EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [d.qnp]");
     EXPECT_TRUE(context.machine.files.FileExists("C:\\P\\d.qnp"));
-    EXPECT_EQ(context.Entry(291).text(), "d.qnp");
-    EXPECT_EQ(context.Entry(292).text(), "c.qnp");
+    EXPECT_EQ(context.Entry(CommandId::RecentFile1).text(), "d.qnp");
+    EXPECT_EQ(context.Entry(CommandId::RecentFile2).text(), "c.qnp");
 }
 
 TEST(LifecycleByCommand, TellsWhyAProjectCannotBeSaved)
@@ -145,7 +148,7 @@ TEST(LifecycleByCommand, OpensEachRecentFileByItsOwnCommand)
         context.Put(file);
     for (std::size_t slot = 0; slot < files.size(); ++slot) {
         context.session.RecentFiles = files;
-        context.form.RunCommand(CommandId(291 + static_cast<int>(slot)));
+        context.form.RunCommand(kRecentFiles[slot]);
         EXPECT_EQ(context.Name(), files[slot]);
         EXPECT_EQ(context.session.RecentFiles[0], files[slot]);
     }
@@ -161,7 +164,7 @@ TEST(LifecycleByCommand, KeepsTheEntryOfAProjectThatVanished)
     context.form.ShowRecentFiles();
     context.form.RunCommand(CommandId::RecentFile1);
     EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [noname]");
-    EXPECT_EQ(context.Entry(291).text(), "borta.qnp");
+    EXPECT_EQ(context.Entry(CommandId::RecentFile1).text(), "borta.qnp");
 }
 
 // Kept: a refused file is in the title and among the recent files.
@@ -171,21 +174,22 @@ TEST(LifecycleByCommand, NamesARefusedFileInItsTitle)
     context.machine.files.Put("C:\\P\\x.txt", "no project");
     context.form.RunCommand(CommandId::OpenProject);
     EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [x.txt]");
-    EXPECT_EQ(context.Entry(291).text(), "x.txt");
+    EXPECT_EQ(context.Entry(CommandId::RecentFile1).text(), "x.txt");
 }
 
 TEST(RecentFilesMenu, ShowsTheMarkOfAFreeSlotOnANewMachineAndFillsFromTheTop)
 {
     Desk context;
-    EXPECT_EQ(context.Entry(291).text(), "(tom)");
-    EXPECT_TRUE(context.Entry(291).isVisible());
-    for (const int id : {292, 293, 294})
-        EXPECT_FALSE(context.Entry(id).isVisible()) << id;
+    EXPECT_EQ(context.Entry(CommandId::RecentFile1).text(), "(tom)");
+    EXPECT_TRUE(context.Entry(CommandId::RecentFile1).isVisible());
+    for (const CommandId id :
+         {CommandId::RecentFile2, CommandId::RecentFile3, CommandId::RecentFile4})
+        EXPECT_FALSE(context.Entry(id).isVisible()) << static_cast<int>(id);
     context.session.RecentFiles = {"C:\\P\\R&D.qnp", kB};
     context.form.ShowRecentFiles();
-    EXPECT_EQ(context.Entry(291).text(), "R&&D.qnp");
-    EXPECT_EQ(context.Entry(292).text(), "b.qnp");
-    EXPECT_FALSE(context.Entry(293).isVisible());
+    EXPECT_EQ(context.Entry(CommandId::RecentFile1).text(), "R&&D.qnp");
+    EXPECT_EQ(context.Entry(CommandId::RecentFile2).text(), "b.qnp");
+    EXPECT_FALSE(context.Entry(CommandId::RecentFile3).isVisible());
 }
 
 struct Closing {
@@ -304,7 +308,7 @@ TEST(FirstActivation, OpensTheProjectOfTheCommandLine)
     EXPECT_EQ(context.Title(), "Tavrell Quillon 2004 - [a.qnp]");
     EXPECT_EQ(context.Name(), kA);
     EXPECT_EQ(context.session.state.ProjectIsDirty, kOff);
-    EXPECT_EQ(context.Entry(291).text(), "a.qnp");
+    EXPECT_EQ(context.Entry(CommandId::RecentFile1).text(), "a.qnp");
 }
 
 TEST(FirstActivation, GoesOnUnderTheNameOfAProjectThatIsNotThere)
