@@ -5,6 +5,7 @@
 #include "builder/language_copy.h"
 #include "builder/setup_info_file.h"
 #include "formats/package_files.h"
+#include "formats/runtime_programs.h"
 #include "formats/test_switches.h"
 #include "helpers/windows_path.h"
 #include "platform/missing_program.h"
@@ -15,7 +16,6 @@ namespace {
 
 constexpr const char* kTestTitle = "Kan ej testa";
 constexpr const char* kPreviewTitle = "Kan ej förhandsgranska";
-constexpr const char* kRuntime = "Qns32x.exe";
 // The setup takes its files from folders: this medium has neither disks nor one file for all.
 constexpr Medium kTestMedium = Medium::CompressedCd;
 
@@ -103,7 +103,8 @@ bool CopyAgreement(TestRun& run, const Text& folder)
 /// The setup reads its files from its own folder, so it is copied to where they are written.
 void BringRuntime(TestRun& run, const Text& runtime)
 {
-    const Text ofTool = JoinPath(run.options.ToolFolder, "Test\\" + Text(kRuntime));
+    const Text ofTool =
+        JoinPath(run.options.ToolFolder, "Test\\" + Text(RuntimePrograms::kTestSetup));
     if (!EqualIgnoreCase(runtime, ofTool))
         run.host.files.CopyContent(ofTool, runtime);
 }
@@ -112,7 +113,7 @@ bool StartRuntime(TestRun& run, const char* title, std::string_view switchName)
 {
     Text advice;
     const auto start = [&] {
-        const Text runtime = JoinPath(TestFolder(run.options), kRuntime);
+        const Text runtime = JoinPath(TestFolder(run.options), RuntimePrograms::kTestSetup);
         BringRuntime(run, runtime);
         try {
             run.host.machine.StartProgram(runtime, "/" + Text(switchName));

@@ -18,6 +18,7 @@ inline constexpr const char* kAutorunName = "AUTORUN.INF";
 inline constexpr const char* kLicenseRtfName = "LICENSE.RTF";
 // The installer of Microsoft Data Access, which the setup runs before it copies; in a package it
 // has a name that does not look runnable.
+inline constexpr const char* kDataAccessProgram = "MDAC_TYP.EXE";
 inline constexpr const char* kDataAccessArchive = "MDAC_TYP.ZIP";
 // Distinguishes a whole package from a half or a damaged one.
 inline constexpr const char* kManifestName = "PACKAGE.SHA256";

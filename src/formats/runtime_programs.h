@@ -13,12 +13,20 @@ namespace RuntimePrograms {
 // The project names it in a package.
 inline constexpr RuntimeProgram kStarter = {"SETUP32.EXE", nullptr};
 inline constexpr RuntimeProgram kSetup = {"QNS32X.EXE", "QNS32X.BIN"};
+// `kSetup` for 64-bit machines, which the tool starts for a test run; no package has it.
+inline constexpr const char* kTestSetup = "Qns32x.exe";
 inline constexpr RuntimeProgram kUnzipLibrary = {"DUNZIP32.DLL", "DUNZIP32.DLL"};
 inline constexpr RuntimeProgram kRegistryHelper = {"QNREG32.EXE", "QNREG32.BIN"};
 inline constexpr RuntimeProgram kSecondRegistryHelper = {"QNXREG2.EXE", "QNXREG2.BIN"};
+// Begins the names of the commands by which the system starts it.
+inline constexpr const char* kRunOnceName = "QNXREG2";
 // Stands before the package where that is one program.
 inline constexpr RuntimeProgram kSelfExtractor = {"QNSELFX.EXE", nullptr};
 inline constexpr RuntimeProgram kUninstaller = {"QNXUNIN.EXE", "QNXUNIN.BIN"};
+// The uninstaller's own log is called by it.
+inline constexpr const char* kUninstallerLogName = "QNXUNIN";
+// Under which name the uninstaller's file lies in a private folder until it can go.
+inline constexpr const char* kMovedUninstaller = "QNXUNIN.TMP";
 // Installed beside the uninstaller: the digest of `kSetup`, which the uninstaller compares before
 // it starts that program. There `kSetup` has its name of a package, because a user who started it
 // by itself would see nothing happen.

@@ -11,7 +11,6 @@ namespace {
 
 const Text kSharedTools = "SOFTWARE\\Microsoft\\Shared Tools";
 constexpr const char* kDaoFailed = "Fel vid hämtning av DAO-filer";
-constexpr const char* kPackage = "MDAC_TYP.EXE";
 
 constexpr const char* kDataAccessQuestion =
     "Vill du att Microsoft Data Access komponenter ska installeras på din användarens dator? Ifall "
@@ -183,11 +182,11 @@ void AddRdo(RowImport& import, Vb6Choices& choices, DataAccessQuestion question)
 
 void AddDataAccessPackage(RowImport& import, const Text& redistFolder)
 {
-    const Text package = redistFolder + "\\" + kPackage;
+    const Text package = redistFolder + "\\" + kDataAccessProgram;
     if (import.IsStopped())
         return;
     if (!import.GetHost().files.FileExists(package)) {
-        import.Pass(kPackage, NotAdded::NotAtSource);
+        import.Pass(kDataAccessProgram, NotAdded::NotAtSource);
         import.GetAsk().Critical(
             "Fel", "Kan ej hitta filen 'MDAC_TYP.EXE' på din hårddisk! Denna fil krävs för "
                    "installation av Microsoft Data Objects!");

@@ -9,17 +9,23 @@ namespace quillon {
 
 inline constexpr const char* kRunFolderLock = "LOCK";
 
+// What stands round the number in its name.
+inline constexpr const char* kRunFolderPrefix = "QN";
+inline constexpr const char* kRunFolderSuffix = ".TMP";
+
 /// "QN123456.TMP"
 inline Text RunFolderName(Long number)
 {
-    return "QN" + NumberText(number) + ".TMP";
+    return kRunFolderPrefix + NumberText(number) + kRunFolderSuffix;
 }
 
 /// Whether the name, in capitals, is such a one.
 inline bool IsRunFolderName(std::string_view name)
 {
-    const std::size_t end = name.find_first_not_of("0123456789", 2);
-    return name.starts_with("QN") && end > 2 && end != Text::npos && name.substr(end) == ".TMP";
+    constexpr std::size_t kDigits = std::string_view(kRunFolderPrefix).size();
+    const std::size_t end = name.find_first_not_of("0123456789", kDigits);
+    return name.starts_with(kRunFolderPrefix) && end > kDigits && end != Text::npos &&
+           name.substr(end) == kRunFolderSuffix;
 }
 
 } // namespace quillon

@@ -4,7 +4,6 @@
 #include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/install/data_access.h"
 #include "runtime/install/first_program.h"
 #include "runtime/journal/rollback.h"
 #include "runtime/pages/background_sound.h"
@@ -24,7 +23,7 @@ constexpr const char* kFilesOfASetup[] = {RuntimePrograms::kSetup.name,
                                           RuntimePrograms::kRegistryHelper.inPackage,
                                           RuntimePrograms::kSecondRegistryHelper.inPackage,
                                           RuntimePrograms::kUninstaller.inPackage,
-                                          kMovedUninstaller,
+                                          RuntimePrograms::kMovedUninstaller,
                                           kFileContainerName,
                                           kFirstProgram,
                                           kDataAccessProgram};

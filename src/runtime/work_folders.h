@@ -8,9 +8,6 @@
 
 namespace quillon {
 
-/// Under which name the uninstaller's file lies there until it can go.
-inline constexpr const char* kMovedUninstaller = "QNXUNIN.TMP";
-
 /// The lock in such a folder, which its owner holds for as long as it lives.
 Text WorkFolderLock(const Text& folder);
 

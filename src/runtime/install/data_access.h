@@ -9,9 +9,6 @@
 
 namespace quillon {
 
-/// The name that it has in the setup's private folder.
-inline constexpr const char* kDataAccessProgram = "MDAC_TYP.EXE";
-
 /// The file of the plan that is run; null where the package has none.
 const PlannedFile* FindDataAccess(const InstallPlan& plan);
 

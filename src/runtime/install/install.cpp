@@ -228,7 +228,7 @@ void Installation::RegisterAtRestart()
     PutHelper(RuntimePrograms::kSecondRegistryHelper.inPackage, helper);
     const RegistryKey key{RegistryRoot::LocalMachine,
                           "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce"};
-    const Text name = "QNXREG2 " + Product();
+    const Text name = Text(RuntimePrograms::kRunOnceName) + " " + Product();
     for (std::size_t i = 0; i < paths.size(); ++i) {
         journal_.Add(record::Registered{paths[i]});
         transaction_.WriteValue(key, name + (i == 0 ? "" : " " + NumberText(std::int64_t(i) + 1)),

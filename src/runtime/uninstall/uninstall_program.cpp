@@ -1,5 +1,6 @@
 #include "runtime/uninstall/uninstall_program.h"
 
+#include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/files_in_use.h"
@@ -31,7 +32,9 @@ void UninstallProgram::Prepare()
     FindProduct();
     FileSystem& files = input_.host.files;
     const Machine& machine = input_.host.machine;
-    OpenLogs(log_, files, machine, LogFilesOf(GivenSwitches(), files, machine, "QNXUNIN"), Texts());
+    OpenLogs(log_, files, machine,
+             LogFilesOf(GivenSwitches(), files, machine, RuntimePrograms::kUninstallerLogName),
+             Texts());
     // A run that is refused, or only informs, changes nothing.
     if (GivenSwitches().badSwitch || input_.otherSetupRuns || OnlyShowsInformation())
         return;

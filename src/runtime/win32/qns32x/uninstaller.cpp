@@ -2,6 +2,7 @@
 
 #include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
+#include "platform/win32/program_path.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
@@ -9,7 +10,6 @@
 #include "runtime/uninstall/uninstall_program.h"
 #include "runtime/win32/list_window.h"
 #include "runtime/win32/message_box.h"
-#include "runtime/win32/program_path.h"
 #include "runtime/win32/restart_manager.h"
 #include "runtime/win32/single_instance.h"
 #include "runtime/win32/win_target.h"
@@ -53,8 +53,9 @@ public:
     void MoveAway(const Text& path) override
     {
         if (EqualIgnoreCase(files_.ShortPath(path_), files_.ShortPath(path)))
-            MoveFileExW(WidePath(path).c_str(),
-                        WidePath(JoinPath(ProgramFolder(), kMovedUninstaller)).c_str(), 0);
+            MoveFileExW(
+                WidePath(path).c_str(),
+                WidePath(JoinPath(ProgramFolder(), RuntimePrograms::kMovedUninstaller)).c_str(), 0);
     }
 
 private:

@@ -73,7 +73,7 @@ int CleanUp(Starter& starter, HANDLE parent, HANDLE ownFile)
     // Without a parent that waits to be followed, somebody else has started this.
     if (WaitForSingleObject(parent, INFINITE) != WAIT_OBJECT_0)
         return 1;
-    JoinPaths(starter.scratch, starter.folder, kMovedUninstaller);
+    JoinPaths(starter.scratch, starter.folder, RuntimePrograms::kMovedUninstaller);
     if (!Attempt([&] { return DeleteFileW(starter.scratch) != 0; }))
         return 1;
     RemoveOwnFolder(starter, ownFile);
@@ -117,7 +117,7 @@ bool KeepCleaner(Starter& starter)
 
 void RemoveWorkFolderAndItself(Starter& starter)
 {
-    JoinPaths(starter.scratch, starter.work, kMovedUninstaller);
+    JoinPaths(starter.scratch, starter.work, RuntimePrograms::kMovedUninstaller);
     if (GetFileAttributesW(starter.scratch) == INVALID_FILE_ATTRIBUTES) {
         DeleteFileW(starter.extra);
         RemoveWorkFolder(starter);
