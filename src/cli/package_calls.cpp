@@ -14,11 +14,11 @@ namespace quillon::cli {
 
 namespace {
 
-Text HexText(std::uint32_t number)
+Text CrcText(std::uint32_t crc)
 {
     Text digits;
-    for (unsigned shift = 32; shift > 0; shift -= 4)
-        digits += kHexDigits[number >> (shift - 4) & 15U];
+    for (const unsigned shift : {24U, 16U, 8U, 0U})
+        AppendHexByte(digits, static_cast<unsigned char>(crc >> shift & 0xFFU), kHexDigits);
     return digits;
 }
 
@@ -60,7 +60,7 @@ Json RowJson(const Package& package, std::size_t number)
         object["entryRows"] = std::move(rows);
         object["entrySize"] = entry.size;
         object["packedSize"] = entry.isSolid ? Json() : Json(entry.packedSize);
-        object["crc"] = entry.hasCrc ? Json(HexText(entry.crc)) : Json();
+        object["crc"] = entry.hasCrc ? Json(CrcText(entry.crc)) : Json();
     } else if (!bytes.path.empty()) {
         object["path"] = bytes.path;
     }
@@ -102,7 +102,7 @@ std::vector<Text> RowLine(const Package& package, std::size_t number)
     case RowBytes::Place::Container: {
         const ZipEntry& entry = package.container->Entries()[bytes.entry];
         line.push_back(entry.isSolid ? "-" : SizeText(entry.packedSize));
-        line.push_back(entry.hasCrc ? HexText(entry.crc) : "-");
+        line.push_back(entry.hasCrc ? CrcText(entry.crc) : "-");
         line.push_back(entry.name);
         break;
     }

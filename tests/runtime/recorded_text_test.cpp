@@ -24,6 +24,7 @@ TEST(RecordedText, IsFoundByItsKey)
     EXPECT_EQ(TextOf(record, "Err_NoLog"), "Filen '%1'\tär\r\nborta.");
     EXPECT_EQ(TextOf(record, "Err"), "Ett fel");
     EXPECT_EQ(TextOf("MESSAGE\tA\tutan radslut", "A"), "utan radslut");
+    EXPECT_EQ(TextOf("MESSAGE\tA\ten%0arad", "A"), "en\nrad") << "digits of either case";
 }
 
 TEST(RecordedText, IsNoneWhereTheRecordHasNone)

@@ -1,5 +1,7 @@
 #include "runtime/journal/recorded_text.h"
 
+#include "helpers/hex.h"
+
 namespace quillon {
 
 namespace {
@@ -14,14 +16,6 @@ bool TakeWord(std::string_view& line, std::string_view word)
             return false;
     line.remove_prefix(word.size() + 1);
     return true;
-}
-
-// 16 of a character that is no digit.
-int ValueOf(char digit)
-{
-    if (digit >= '0' && digit <= '9')
-        return digit - '0';
-    return digit >= 'A' && digit <= 'F' ? digit - 'A' + 10 : 16;
 }
 
 std::string_view TakeLine(std::string_view& rest)
@@ -45,11 +39,10 @@ bool Unescape(std::string_view text, char* to, std::size_t capacity)
             return false;
         char c = text[i];
         if (c == '%' && i + 2 < text.size()) {
-            const int high = ValueOf(text[i + 1]);
-            const int low = ValueOf(text[i + 2]);
-            if (high > 15 || low > 15)
+            const int byte = HexByteValue(text[i + 1], text[i + 2]);
+            if (byte < 0)
                 return false;
-            c = static_cast<char>(high * 16 + low);
+            c = static_cast<char>(byte);
             i += 2;
         }
         to[length++] = c;
