@@ -152,7 +152,7 @@ void Rollback::Undo(const record::FormerValue& value)
         if (value.key == SharedFilesKey())
             counts_.emplace(LowerCase(value.name), value.name);
         else
-            log_.Skipped(KeyText(value.key) + " :: " + value.name, {Message::ReasonValueChanged});
+            log_.Skipped(ValueText(value.key, value.name), {Message::ReasonValueChanged});
         return;
     }
     if (value.former) {
