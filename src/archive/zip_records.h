@@ -4,6 +4,7 @@
 #pragma once
 
 #include "helpers/date_text.h"
+#include "helpers/little_endian.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -255,13 +256,6 @@ constexpr std::size_t FieldsSize(const Record& record)
 /// Bytes that a record with a signature takes.
 template <class Record>
 inline constexpr std::size_t kRecordSize = sizeof(std::uint32_t) + FieldsSize(Record{});
-
-template <class Number>
-void AppendNumber(Bytes& bytes, Number number)
-{
-    for (std::size_t i = 0; i < sizeof(Number); ++i)
-        bytes.push_back(static_cast<std::byte>(number >> (8 * i)));
-}
 
 template <class Number>
 Number ReadNumber(std::span<const std::byte> bytes)

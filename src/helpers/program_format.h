@@ -7,6 +7,9 @@
 
 namespace quillon::program_format {
 
+inline constexpr std::uint16_t kDosMark = 0x5A4D;  // "MZ", at the beginning
+inline constexpr std::uint32_t kFileMark = 0x4550; // "PE" and two zeros, before the file header
+
 inline constexpr std::size_t kDosHeaderSize = 64;
 inline constexpr std::size_t kHeaderPosition = 60; // holds where the file header is
 inline constexpr std::size_t kFileHeaderSize = 24; // with the mark before it
@@ -28,6 +31,15 @@ inline constexpr std::uint16_t kMagic64 = 0x20B;
 inline constexpr std::uint16_t kMachineX86 = 0x14C;
 inline constexpr std::uint16_t kMachineX64 = 0x8664;
 inline constexpr std::uint16_t kMachineArm64 = 0xAA64;
+
+/// A table of the optional header, by its number there.
+enum class DataDirectory : std::size_t {
+    Imports = 1,
+    Resources = 2,
+    Certificates = 4,
+    DelayedImports = 13,
+    ClrHeader = 14
+};
 
 /// Where the tables are in the optional header; their count precedes them.
 constexpr std::size_t FirstTable(std::uint16_t magic)

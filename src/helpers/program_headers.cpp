@@ -1,7 +1,5 @@
 #include "helpers/program_headers.h"
 
-#include "helpers/program_format.h"
-
 #include <algorithm>
 
 namespace quillon {
@@ -14,25 +12,7 @@ using namespace program_format;
 constexpr std::size_t kMaxSections = 96;
 constexpr std::size_t kMaxTables = 16;
 
-std::uint32_t NumberAt(std::string_view bytes, std::size_t position, std::size_t size)
-{
-    std::uint32_t number = 0;
-    for (std::size_t i = size; i-- > 0;)
-        number = number << 8U | static_cast<unsigned char>(bytes[position + i]);
-    return number;
-}
-
 } // namespace
-
-std::uint16_t ShortAt(std::string_view bytes, std::size_t position)
-{
-    return static_cast<std::uint16_t>(NumberAt(bytes, position, 2));
-}
-
-std::uint32_t LongAt(std::string_view bytes, std::size_t position)
-{
-    return NumberAt(bytes, position, 4);
-}
 
 std::optional<std::string> ProgramHeaders::Bytes(std::uint64_t position, std::size_t count) const
 {
@@ -52,11 +32,11 @@ std::string ProgramHeaders::BytesUpTo(std::uint64_t position, std::size_t count)
 bool ProgramHeaders::Read()
 {
     const auto dosHeader = Bytes(0, kDosHeaderSize);
-    if (!dosHeader || !dosHeader->starts_with("MZ"))
+    if (!dosHeader || ShortAt(*dosHeader, 0) != kDosMark)
         return false;
     const std::uint64_t start = LongAt(*dosHeader, kHeaderPosition);
     const auto fileHeader = Bytes(start, kFileHeaderSize);
-    if (!fileHeader || fileHeader->compare(0, 4, "PE\0\0", 4) != 0)
+    if (!fileHeader || LongAt(*fileHeader, 0) != kFileMark)
         return false;
 
     machine_ = ShortAt(*fileHeader, kMachine);

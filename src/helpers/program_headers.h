@@ -3,6 +3,9 @@
 // further than reading there gives bytes. The layout is described in Microsoft's "PE Format" page.
 #pragma once
 
+#include "helpers/little_endian.h"
+#include "helpers/program_format.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -17,18 +20,6 @@ namespace quillon {
 /// Fills the buffer from a position of the file and says how many bytes there were; fewer than
 /// asked for only at the file's end.
 using ReadFileAt = std::function<std::size_t(std::uint64_t position, std::span<std::byte> buffer)>;
-
-// Numbers in a program file, low byte first. The bytes must be there.
-std::uint16_t ShortAt(std::string_view bytes, std::size_t position);
-std::uint32_t LongAt(std::string_view bytes, std::size_t position);
-
-/// A table of the optional header, by its number there.
-enum class DataDirectory : std::size_t {
-    Imports = 1,
-    Resources = 2,
-    DelayedImports = 13,
-    ClrHeader = 14
-};
 
 class ProgramHeaders {
 public:
@@ -46,7 +37,7 @@ public:
         std::uint32_t size;
     };
     /// Nothing where the program has no such table.
-    std::optional<Table> TableOf(DataDirectory directory) const;
+    std::optional<Table> TableOf(program_format::DataDirectory directory) const;
 
     /// Exactly so many bytes, or nothing.
     std::optional<std::string> Bytes(std::uint64_t position, std::size_t count) const;

@@ -52,7 +52,7 @@ bool ResourceTree::Open()
 {
     if (!headers_.Read())
         return false;
-    const auto table = headers_.TableOf(DataDirectory::Resources);
+    const auto table = headers_.TableOf(program_format::DataDirectory::Resources);
     const auto tree = table ? headers_.FilePosition(table->address) : std::nullopt;
     tree_ = tree.value_or(0);
     return tree.has_value();

@@ -9,7 +9,7 @@ namespace {
 
 using namespace program_format;
 
-constexpr std::size_t kCertificateTable = 4; // its number among the tables
+constexpr auto kCertificateTable = static_cast<std::size_t>(DataDirectory::Certificates);
 
 /// Numbers of the headers; those beyond their end are 0.
 class HeaderNumbers {
@@ -33,10 +33,10 @@ private:
 std::optional<SignatureFields> FindSignatureFields(std::span<const std::byte> bytes)
 {
     const HeaderNumbers numbers(bytes);
-    if (numbers.At<std::uint16_t>(0) != 0x5A4D)
+    if (numbers.At<std::uint16_t>(0) != kDosMark)
         return std::nullopt;
     const std::size_t header = numbers.At<std::uint32_t>(kHeaderPosition);
-    if (header > bytes.size() || numbers.At<std::uint32_t>(header) != 0x4550)
+    if (header > bytes.size() || numbers.At<std::uint32_t>(header) != kFileMark)
         return std::nullopt;
     const std::size_t optional = header + kFileHeaderSize;
     const std::uint16_t magic = numbers.At<std::uint16_t>(optional);

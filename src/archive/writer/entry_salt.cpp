@@ -31,10 +31,10 @@ zip::Salt SaltMaker::Make(const Entry& entry, std::span<const std::byte> data,
 {
     // The lengths precede the texts, so that no two entries give the same bytes.
     zip::Bytes header;
-    zip::AppendNumber(header, entry.method);
-    zip::AppendNumber(header, entry.size);
-    zip::AppendNumber(header, std::uint64_t(entry.name.size()));
-    zip::AppendNumber(header, std::uint64_t(contentDigest.size()));
+    AppendNumber(header, entry.method);
+    AppendNumber(header, entry.size);
+    AppendNumber(header, std::uint64_t(entry.name.size()));
+    AppendNumber(header, std::uint64_t(contentDigest.size()));
     HmacSha1 hmac(saltKey_);
     hmac.Add(header);
     hmac.Add(BytesOf(entry.name));

@@ -1,6 +1,6 @@
 #include "builder/selfextract/program_identity.h"
 
-#include "builder/selfextract/little_endian.h"
+#include "helpers/little_endian.h"
 #include "helpers/number_text.h"
 #include "helpers/utf16.h"
 
@@ -23,9 +23,9 @@ std::string Block(const Text& name, Holds kind, const std::string& value, std::s
                   const std::string& parts = {})
 {
     std::string block;
-    AppendNumber(block, 0, 2);
-    AppendNumber(block, static_cast<std::uint32_t>(valueLength), 2);
-    AppendNumber(block, static_cast<std::uint32_t>(kind), 2);
+    AppendNumber(block, std::uint16_t{0});
+    AppendNumber(block, static_cast<std::uint16_t>(valueLength));
+    AppendNumber(block, static_cast<std::uint16_t>(kind));
     block += ToUtf16(name) + std::string(2, '\0');
     Align(block);
     block += value;
@@ -33,8 +33,7 @@ std::string Block(const Text& name, Holds kind, const std::string& value, std::s
         Align(block);
         block += parts;
     }
-    block[0] = static_cast<char>(block.size() & 0xFFU);
-    block[1] = static_cast<char>(block.size() >> 8U & 0xFFU);
+    SetNumber(block, 0, static_cast<std::uint16_t>(block.size()));
     return block;
 }
 
@@ -79,7 +78,7 @@ std::string FixedNumbers(const ProgramIdentity& identity)
     std::string fixed;
     for (const std::uint32_t number : {kMark, kStructure, high, low, high, low, kFlagMask, 0U,
                                        kWindows, kApplication, 0U, 0U, 0U})
-        AppendNumber(fixed, number, 4);
+        AppendNumber(fixed, number);
     return fixed;
 }
 
@@ -128,8 +127,8 @@ std::string VersionResource(const ProgramIdentity& identity)
     std::string parts = Block("StringFileInfo", Holds::Text, {}, 0, table);
     Align(parts);
     std::string translation;
-    AppendNumber(translation, 0, 2);
-    AppendNumber(translation, 1200, 2);
+    AppendNumber(translation, std::uint16_t{0});
+    AppendNumber(translation, std::uint16_t{1200});
     parts += Block("VarFileInfo", Holds::Text, {}, 0,
                    Block("Translation", Holds::Binary, translation, translation.size()));
     const std::string fixed = FixedNumbers(identity);

@@ -1,8 +1,7 @@
 #include "builder/selfextract/program_resources.h"
 
-#include "builder/selfextract/little_endian.h"
+#include "helpers/little_endian.h"
 #include "helpers/program_format.h"
-#include "helpers/program_headers.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +12,7 @@ namespace {
 
 using namespace program_format;
 
-constexpr std::size_t kResourceTable = 2;
+constexpr auto kResourceTable = static_cast<std::size_t>(DataDirectory::Resources);
 constexpr std::uint32_t kIsFolder = 0x80000000;
 
 std::uint32_t Aligned(std::uint32_t position, std::uint32_t alignment)
@@ -68,14 +67,14 @@ private:
     void PutFolder(std::size_t entries)
     {
         bytes_.append(12, '\0');
-        AppendNumber(bytes_, 0, 2); // named entries
-        AppendNumber(bytes_, static_cast<std::uint32_t>(entries), 2);
+        AppendNumber(bytes_, std::uint16_t{0}); // named entries
+        AppendNumber(bytes_, static_cast<std::uint16_t>(entries));
     }
 
     void PutEntry(std::uint32_t id, std::size_t place, bool isFolder)
     {
-        AppendNumber(bytes_, id, 4);
-        AppendNumber(bytes_, static_cast<std::uint32_t>(place) | (isFolder ? kIsFolder : 0U), 4);
+        AppendNumber(bytes_, id);
+        AppendNumber(bytes_, static_cast<std::uint32_t>(place) | (isFolder ? kIsFolder : 0U));
     }
 
     void PutFolders(const std::vector<std::uint16_t>& types)
@@ -108,10 +107,10 @@ private:
         std::uint32_t place = Aligned(static_cast<std::uint32_t>(data_), kDataAlignment);
         for (const ProgramResource& resource : resources_) {
             const auto size = static_cast<std::uint32_t>(resource.bytes.size());
-            AppendNumber(bytes_, address_ + place, 4);
-            AppendNumber(bytes_, size, 4);
-            AppendNumber(bytes_, 0, 4);
-            AppendNumber(bytes_, 0, 4);
+            AppendNumber(bytes_, address_ + place);
+            AppendNumber(bytes_, size);
+            AppendNumber(bytes_, std::uint32_t{0});
+            AppendNumber(bytes_, std::uint32_t{0});
             place = Aligned(place + size, kDataAlignment);
         }
         for (const ProgramResource& resource : resources_) {
@@ -143,12 +142,12 @@ struct ProgramLayout {
 std::optional<ProgramLayout> LayoutOf(std::string_view program)
 {
     constexpr std::size_t kMinOptionalSize = 240; // of a 64-bit program; a 32-bit one has 16 less
-    if (program.size() < kDosHeaderSize || !program.starts_with("MZ"))
+    if (program.size() < kDosHeaderSize || ShortAt(program, 0) != kDosMark)
         return std::nullopt;
     ProgramLayout layout{.header = LongAt(program, kHeaderPosition)};
     if (layout.header > program.size() ||
         program.size() - layout.header < kFileHeaderSize + kMinOptionalSize ||
-        program.compare(layout.header, 4, "PE\0\0", 4) != 0)
+        LongAt(program, layout.header) != kFileMark)
         return std::nullopt;
     layout.optional = layout.header + kFileHeaderSize;
     layout.sectionCount = ShortAt(program, layout.header + kSectionCount);
@@ -206,17 +205,19 @@ std::optional<std::string> WithResources(std::string program,
     const std::size_t at = layout->NewSection();
     program.replace(at, kSectionHeaderSize, kSectionHeaderSize, '\0');
     program.replace(at, 5, ".rsrc");
-    SetNumber(program, at + 8, size, 4);
-    SetNumber(program, at + 12, address, 4);
-    SetNumber(program, at + 16, static_cast<std::uint32_t>(section.size()), 4);
-    SetNumber(program, at + 20, position, 4);
+    SetNumber(program, at + 8, size);
+    SetNumber(program, at + 12, address);
+    SetNumber(program, at + 16, static_cast<std::uint32_t>(section.size()));
+    SetNumber(program, at + 20, position);
     constexpr std::uint32_t kReadableData = 0x40000040;
-    SetNumber(program, at + 36, kReadableData, 4);
-    SetNumber(program, layout->header + kSectionCount, layout->sectionCount + 1U, 2);
-    SetNumber(program, layout->optional + 56, Aligned(address + size, alignment), 4);
-    SetNumber(program, layout->optional + kChecksum, 0, 4); // The checksum does not hold any more.
-    SetNumber(program, layout->TableEntry(), address, 4);
-    SetNumber(program, layout->TableEntry() + 4, size, 4);
+    SetNumber(program, at + 36, kReadableData);
+    SetNumber(program, layout->header + kSectionCount,
+              static_cast<std::uint16_t>(layout->sectionCount + 1U));
+    SetNumber(program, layout->optional + 56, Aligned(address + size, alignment));
+    // The checksum does not hold any more.
+    SetNumber(program, layout->optional + kChecksum, std::uint32_t{0});
+    SetNumber(program, layout->TableEntry(), address);
+    SetNumber(program, layout->TableEntry() + 4, size);
     program.resize(position, '\0');
     return program + section;
 }
@@ -248,7 +249,7 @@ std::optional<std::vector<ProgramResource>> IconResources(std::string_view file)
         resources.push_back({ResourceType::kIcon, id, std::string(picture)});
         // The same entry, with the picture's number in the place of its position.
         group += entry.substr(0, 12);
-        AppendNumber(group, id, 2);
+        AppendNumber(group, id);
     }
     resources.push_back({ResourceType::kGroupIcon, 1, group});
     return resources;

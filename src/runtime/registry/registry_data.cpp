@@ -1,6 +1,7 @@
 #include "runtime/registry/registry_data.h"
 
 #include "helpers/hex.h"
+#include "helpers/little_endian.h"
 #include "helpers/utf16.h"
 #include "helpers/utf8.h"
 
@@ -8,35 +9,17 @@
 
 namespace quillon {
 
-namespace {
-
-void AppendUnit(std::string& bytes, char32_t unit)
-{
-    bytes += static_cast<char>(unit & 0xFFU);
-    bytes += static_cast<char>(unit >> 8U & 0xFFU);
-}
-
-char32_t UnitAt(std::string_view bytes, std::size_t at)
-{
-    const auto low = static_cast<unsigned char>(bytes[at]);
-    const auto high = static_cast<unsigned char>(bytes[at + 1]);
-    return char32_t(low) | char32_t(high) << 8U;
-}
-
-} // namespace
-
 RegistryData TextData(std::string_view text)
 {
     RegistryData data{kRegistryText, ToUtf16(text)};
-    AppendUnit(data.bytes, 0);
+    AppendNumber(data.bytes, std::uint16_t{0});
     return data;
 }
 
 RegistryData NumberData(std::uint32_t number)
 {
     RegistryData data{kRegistryNumber, {}};
-    AppendUnit(data.bytes, number & 0xFFFFU);
-    AppendUnit(data.bytes, number >> 16U);
+    AppendNumber(data.bytes, number);
     return data;
 }
 
@@ -51,11 +34,12 @@ std::optional<Text> TextOf(const RegistryData& data)
         return std::nullopt;
     Text text;
     for (std::size_t at = 0; at + 1 < data.bytes.size(); at += 2) {
-        char32_t code = UnitAt(data.bytes, at);
+        char32_t code = ShortAt(data.bytes, at);
         if (code == 0)
             break;
-        const char32_t low =
-            IsHighSurrogate(code) && at + 3 < data.bytes.size() ? UnitAt(data.bytes, at + 2) : 0;
+        const char32_t low = IsHighSurrogate(code) && at + 3 < data.bytes.size()
+                                 ? ShortAt(data.bytes, at + 2)
+                                 : char32_t{0};
         if (IsLowSurrogate(low)) {
             code = JoinSurrogates(code, low);
             at += 2;
@@ -69,7 +53,7 @@ std::optional<std::uint32_t> NumberOf(const RegistryData& data)
 {
     if (data.type != kRegistryNumber || data.bytes.size() != 4)
         return std::nullopt;
-    return UnitAt(data.bytes, 0) | UnitAt(data.bytes, 2) << 16U;
+    return LongAt(data.bytes, 0);
 }
 
 Text HexText(std::string_view bytes)
