@@ -3,6 +3,7 @@
 #include "filelist/adding/file_version.h"
 #include "helpers/windows_path.h"
 #include "importers/program_on_disk.h"
+#include "platform/entered_folders.h"
 #include "platform/failure_text.h"
 #include "platform/whole_file.h"
 
@@ -62,9 +63,9 @@ public:
 private:
     void Walk(const Text& folder, std::uint64_t identity)
     {
-        if (LeadsBack(identity) || entered_.size() > kMaxDepth)
+        if (entered_.Has(identity) || entered_.Depth() > kMaxDepth)
             return;
-        entered_.push_back(identity);
+        entered_.Enter(identity);
         const std::vector<FolderEntry> entries =
             files_.List(folder.empty() ? read_.folder : JoinPath(read_.folder, folder));
         for (const FolderEntry& entry : entries)
@@ -73,12 +74,7 @@ private:
         for (const FolderEntry& entry : entries)
             if (!entry.status.isFolder && isGoingOn_)
                 Take({.folder = folder, .entry = entry, .info = {}});
-        entered_.pop_back();
-    }
-
-    bool LeadsBack(std::uint64_t identity) const
-    {
-        return identity != 0 && std::ranges::find(entered_, identity) != entered_.end();
+        entered_.Leave();
     }
 
     void Take(FolderFile file)
@@ -101,7 +97,7 @@ private:
     const FileSystem& files_;
     ProgramFolder& read_;
     const std::function<bool(const Text&)>& mayGoOn_;
-    std::vector<std::uint64_t> entered_;
+    EnteredFolders entered_;
     bool isGoingOn_ = true;
 };
 

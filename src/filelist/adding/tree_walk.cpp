@@ -3,9 +3,8 @@
 #include "filelist/adding/file_name_case.h"
 #include "filelist/row_text.h"
 #include "helpers/windows_path.h"
+#include "platform/entered_folders.h"
 #include "platform/failure_text.h"
-
-#include <algorithm>
 
 namespace quillon {
 
@@ -21,24 +20,19 @@ public:
 
     void Walk(const Text& folder, std::uint64_t identity)
     {
-        if (LeadsBack(identity))
+        if (entered_.Has(identity))
             return;
-        entered_.push_back(identity);
+        entered_.Enter(identity);
         progress_.enteredFolder();
         const std::vector<FolderEntry> entries = files_.List(folder);
         for (const FolderEntry& entry : entries)
             if (entry.status.isFolder)
                 Walk(JoinPath(folder, entry.name), entry.status.identity);
         AddFilesOf(JoinPath(folder, ""), entries);
-        entered_.pop_back();
+        entered_.Leave();
     }
 
 private:
-    bool LeadsBack(std::uint64_t identity) const
-    {
-        return identity != 0 && std::ranges::find(entered_, identity) != entered_.end();
-    }
-
     void AddFilesOf(const Text& folder, const std::vector<FolderEntry>& entries)
     {
         const Text path = FormatFileNameCase(folder);
@@ -62,7 +56,7 @@ private:
     const FileSystem& files_;
     const TreeToAdd& tree_;
     const TreeProgress& progress_;
-    std::vector<std::uint64_t> entered_;
+    EnteredFolders entered_;
 };
 
 // The tool's own function for this also cuts long paths, and these must stay whole.
