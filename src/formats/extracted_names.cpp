@@ -5,8 +5,6 @@
 #include "helpers/windows_path.h"
 #include "project/file_list.h"
 
-#include <algorithm>
-
 namespace quillon {
 
 namespace {
@@ -15,12 +13,7 @@ namespace {
 std::optional<Text> IfPlain(const Text& name)
 {
     Text joined;
-    for (std::size_t begin = 0; begin <= name.size();) {
-        const std::size_t end = std::min(name.find_first_of("\\/", begin), name.size());
-        const Text part = name.substr(begin, end - begin);
-        begin = end + 1;
-        if (part.empty())
-            continue;
+    for (const Text& part : PathParts(name)) {
         if (FaultOfName(part) != PathFault::None)
             return std::nullopt;
         joined = JoinPath(joined, part);

@@ -4,6 +4,7 @@
 #include "formats/row_safety.h"
 #include "formats/runtime_programs.h"
 #include "helpers/drive_path.h"
+#include "helpers/windows_path.h"
 
 #include <algorithm>
 
@@ -41,12 +42,9 @@ PathFault FaultOfGroupPart(const Text& part)
 
 PathFault FaultOfProgramGroup(std::string_view group)
 {
-    while (!group.empty()) {
-        const std::string_view part = group.substr(0, group.find_first_of("\\/"));
-        group.remove_prefix(std::min(part.size() + 1, group.size()));
+    for (const Text& part : PathParts(group))
         if (const PathFault fault = FaultOfGroupPart(TrimBlanks(part)); fault != PathFault::None)
             return fault;
-    }
     return PathFault::None;
 }
 

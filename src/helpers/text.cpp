@@ -117,6 +117,11 @@ Text ReplaceAll(std::string_view text, std::string_view from, std::string_view t
     return result.append(text.substr(position));
 }
 
+Text RemoveQuotes(std::string_view text)
+{
+    return ReplaceAll(text, "\"", "");
+}
+
 Text WithWindowsLineEnds(std::string_view text)
 {
     return ReplaceAll(ReplaceAll(text, kLineBreak, "\n"), "\n", kLineBreak);

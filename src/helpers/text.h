@@ -27,6 +27,8 @@ bool ContainsText(std::string_view text, std::string_view part);
 Text TrimBlanks(std::string_view text);
 
 Text ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
+/// Without its quotation marks, wherever they are.
+Text RemoveQuotes(std::string_view text);
 
 /// Every line end, a line feed alone too, as CR LF.
 Text WithWindowsLineEnds(std::string_view text);

@@ -91,6 +91,18 @@ Text JoinPath(std::string_view folder, std::string_view name)
     return path.append(name);
 }
 
+std::vector<Text> PathParts(std::string_view path, std::string_view separators)
+{
+    std::vector<Text> parts;
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find_first_of(separators), path.size());
+        if (end > 0)
+            parts.emplace_back(path.substr(0, end));
+        path.remove_prefix(std::min(end + 1, path.size()));
+    }
+    return parts;
+}
+
 Text ResolvePath(std::string_view path)
 {
     const Text backslashed = ReplaceAll(path, "/", "\\");

@@ -34,6 +34,9 @@ Text RemoveDupBackslashesEx(std::string_view path);
 /// The folder and the name joined by exactly one backslash.
 Text JoinPath(std::string_view folder, std::string_view name);
 
+/// The names between the separators, empty ones left out; "." and ".." are names here.
+std::vector<Text> PathParts(std::string_view path, std::string_view separators = "\\/");
+
 /// The path with its "." and ".." worked out, slashes as backslashes and no backslash twice. A ".."
 /// at the root of a drive or of a network share leads nowhere.
 Text ResolvePath(std::string_view path);

@@ -54,6 +54,12 @@ TEST(ReplaceAll, DoesNotLookAtWhatItPutIn)
     EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
 }
 
+TEST(RemoveQuotes, TakesOutEachOne)
+{
+    EXPECT_EQ(RemoveQuotes("\"C:\\a b\"\\c\""), "C:\\a b\\c");
+    EXPECT_EQ(RemoveQuotes(""), "");
+}
+
 TEST(SplitLines, CutsAtEachLineBreakAndAtNothingElse)
 {
     EXPECT_EQ(SplitLines(""), (std::vector<Text>{""}));

@@ -76,6 +76,16 @@ TEST(WithoutDrive, LeavesTheWayBelowTheRoot)
     EXPECT_EQ(WithoutDrive("\\\\server\\x\\a"), "server\\x\\a");
 }
 
+TEST(PathParts, AreTheNamesBetweenSeparators)
+{
+    using Parts = std::vector<Text>;
+    EXPECT_EQ(PathParts("C:\\data/a.txt"), (Parts{"C:", "data", "a.txt"}));
+    EXPECT_EQ(PathParts("\\\\a\\\\..\\. \\"), (Parts{"a", "..", ". "}));
+    EXPECT_EQ(PathParts("\\/"), Parts{});
+    EXPECT_EQ(PathParts(""), Parts{});
+    EXPECT_EQ(PathParts("Software\\a/b", "\\"), (Parts{"Software", "a/b"}));
+}
+
 TEST(ResolvePath, WorksOutDotsAndBackslashes)
 {
     const std::pair<const char*, const char*> cases[] = {

@@ -191,11 +191,6 @@ bool ApplySwitch(Switches& switches, std::string_view name, const std::optional<
     return value ? SetSwitch(switches, name, *value) : SetPlain(switches, name);
 }
 
-Text WithoutQuotes(std::string_view word)
-{
-    return ReplaceAll(word, "\"", "");
-}
-
 // With its mark.
 bool IsPassword(const Text& name)
 {
@@ -227,7 +222,7 @@ Text ShownWord(std::string_view given, std::string_view before)
 
 void ReadSwitch(Switches& switches, const Text& given, const Text& before)
 {
-    const Text word = WithoutQuotes(given);
+    const Text word = RemoveQuotes(given);
     const std::size_t mark = word.find_first_of("=:");
     const auto value = mark == Text::npos ? std::nullopt : std::optional(word.substr(mark + 1));
     const Text name = word.substr(0, mark);
@@ -276,7 +271,7 @@ UninstallerCommand ReadUninstallerCommand(std::string_view commandLine)
     const Text line(commandLine);
     const char* const first = SkipSwitchBlanks(line.c_str());
     const char* rest = first;
-    const Text word = WithoutQuotes(Text(first, EndOfSwitch(first)));
+    const Text word = RemoveQuotes(Text(first, EndOfSwitch(first)));
     if (!word.empty() && !IsSwitchMark(word[0])) {
         command.journalPath = word;
         rest = EndOfSwitch(first);

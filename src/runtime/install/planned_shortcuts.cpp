@@ -53,11 +53,6 @@ Text ViewerProgram(const PlanInput& input, int viewer)
     }
 }
 
-Text Unquoted(const Text& text)
-{
-    return ReplaceAll(text, "\"", "");
-}
-
 // An icon file's row carries the command line that the icon starts: a program, in quotation marks
 // where its path holds blanks, and its parameters. It is cut before it is expanded, since a folder
 // that a variable stands for may hold blanks of its own.
@@ -66,7 +61,7 @@ void SetCommandLine(const PlanInput& input, const Text& commandLine, Shortcut& s
     const Text line = TrimBlanks(commandLine);
     const bool quoted = line.substr(0, 1) == "\"";
     const std::size_t end = quoted ? line.find('"', 1) : line.find(' ');
-    shortcut.program = input.variables.ExpandPath(Unquoted(line.substr(0, end)));
+    shortcut.program = input.variables.ExpandPath(RemoveQuotes(line.substr(0, end)));
     if (end != Text::npos)
         shortcut.arguments = TrimBlanks(input.variables.Expand(line.substr(end + 1)));
 }
@@ -102,12 +97,9 @@ Text GroupFolder(const PlanInput& input, const Places& places)
     if (FaultOfProgramGroup(group) != PathFault::None)
         throw DamagedPackage(input.texts, {Message::PackageBadFolder, "ProgramGroup", group});
     // A group may lie in another one.
-    for (std::size_t at = 0; at <= group.size();) {
-        const std::size_t end = std::min(group.find('\\', at), group.size());
-        if (const Text part = AsFileName(group.substr(at, end - at)); !part.empty())
-            folder = JoinPath(folder, part);
-        at = end + 1;
-    }
+    for (const Text& part : PathParts(group, "\\"))
+        if (const Text name = AsFileName(part); !name.empty())
+            folder = JoinPath(folder, name);
     return folder;
 }
 

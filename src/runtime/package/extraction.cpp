@@ -19,12 +19,8 @@ Text FolderBelow(const Text& destination)
 {
     const Text mainFolder = Text(NameOf(VariableMeaning::MainFolder));
     Text folder;
-    const Text whole = ReplaceAll(destination, "/", "\\");
-    for (std::size_t at = 0; at <= whole.size();) {
-        const std::size_t end = std::min(whole.find('\\', at), whole.size());
-        const Text part = whole.substr(at, end - at);
-        at = end + 1;
-        if (part.empty() || part == mainFolder)
+    for (const Text& part : PathParts(destination)) {
+        if (part == mainFolder)
             continue;
         const Text name = AsFileName(ReplaceAll(ReplaceAll(part, "%", ""), ":", ""));
         if (FaultOfName(name) == PathFault::None)

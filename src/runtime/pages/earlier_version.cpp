@@ -19,7 +19,7 @@ std::optional<Text> FolderNamedBy(const Target& target, const RegistryKey& key, 
     if (!text)
         return std::nullopt;
     // Programs also write down their own path, often in quotation marks.
-    const Text path = RemoveLastBackslash(TrimBlanks(ReplaceAll(*text, "\"", "")));
+    const Text path = RemoveLastBackslash(TrimBlanks(RemoveQuotes(*text)));
     return IsAbsolutePath(path + "\\") ? std::optional(path) : std::nullopt;
 }
 

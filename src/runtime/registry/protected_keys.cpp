@@ -1,6 +1,7 @@
 #include "runtime/registry/protected_keys.h"
 
 #include "helpers/number_text.h"
+#include "helpers/windows_path.h"
 
 #include <algorithm>
 #include <cctype>
@@ -149,16 +150,10 @@ constexpr Rule kUser[] = {
     {"Volatile Environment", Covers::Tree},
 };
 
-Parts PartsOf(std::string_view path)
+// A slash is a letter of a key's name.
+Parts PartsOf(std::string_view key)
 {
-    Parts parts;
-    for (std::size_t at = 0; at < path.size();) {
-        const std::size_t end = std::min(path.find('\\', at), path.size());
-        if (end > at)
-            parts.emplace_back(path.substr(at, end - at));
-        at = end + 1;
-    }
-    return parts;
+    return PathParts(key, "\\");
 }
 
 bool BeginsWith(const Parts& key, const Parts& pattern)
