@@ -1,10 +1,10 @@
 #include "platform/posix/machine_settings.h"
 
 #include "helpers/ascii.h"
+#include "platform/posix/environment.h"
 #include "platform/posix/user_directories.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <pwd.h>
 #include <unistd.h>
@@ -12,13 +12,6 @@
 namespace quillon {
 
 namespace {
-
-/// Empty where the variable is missing.
-std::string Variable(const char* name)
-{
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
 
 std::vector<std::string> SplitList(std::string_view list)
 {
@@ -35,20 +28,20 @@ std::vector<std::string> SplitList(std::string_view list)
 /// The folder for a user's data, by the desktop's convention.
 std::string DataFolder()
 {
-    const std::string named = Variable("XDG_DATA_HOME");
+    const std::string named = EnvironmentVariable("XDG_DATA_HOME");
     if (named.starts_with("/"))
         return named;
-    const std::string home = Variable("HOME");
-    return (home.empty() ? Variable("TMPDIR") : home) + "/.local/share";
+    const std::string home = EnvironmentVariable("HOME");
+    return (home.empty() ? EnvironmentVariable("TMPDIR") : home) + "/.local/share";
 }
 
 /// The same for what programs remember of their user. Empty where there is no home.
 std::string ConfigFolder()
 {
-    const std::string named = Variable("XDG_CONFIG_HOME");
+    const std::string named = EnvironmentVariable("XDG_CONFIG_HOME");
     if (named.starts_with("/"))
         return named;
-    const std::string home = Variable("HOME");
+    const std::string home = EnvironmentVariable("HOME");
     return home.empty() ? std::string() : home + "/.config";
 }
 
@@ -62,7 +55,7 @@ std::string SettingsFolder()
 /// which the desktop says by naming the home folder.
 std::string UserDirectory(const std::string& kind, const std::string& usualName)
 {
-    const std::string home = Variable("HOME");
+    const std::string home = EnvironmentVariable("HOME");
     const std::string found =
         FindUserDirectory(ConfigFolder() + "/user-dirs.dirs", "XDG_" + kind + "_DIR", home)
             .value_or(home + "/" + usualName);
@@ -87,7 +80,7 @@ bool HoldsFiles(const std::string& driveC, const Text& path)
 
 std::string FolderOfDriveC()
 {
-    const std::string named = Variable("QUILLON_DRIVE_C");
+    const std::string named = EnvironmentVariable("QUILLON_DRIVE_C");
     return named.empty() ? DataFolder() + "/quillon/drive_c" : named;
 }
 
@@ -95,7 +88,7 @@ std::string FolderOfDriveC()
 // taken as it is.
 void MapFoldersOfUser(MachineSettings& settings)
 {
-    if (Variable("HOME").empty() || !Variable("QUILLON_DRIVE_C").empty())
+    if (EnvironmentVariable("HOME").empty() || !EnvironmentVariable("QUILLON_DRIVE_C").empty())
         return;
     const Text user = "C:\\Users\\" + settings.user;
     std::vector<MappedFolder> folders{{kOwnDocuments, UserDirectory("DOCUMENTS", "Documents")}};
@@ -148,9 +141,9 @@ MachineSettings ReadMachineSettings()
 {
     MachineSettings settings;
     settings.drives = {{'Z', "/"}, {'C', FolderOfDriveC()}};
-    AddDrives(Variable("QUILLON_DRIVES"), settings);
-    settings.registryFiles = SplitList(Variable("QUILLON_REGISTRY"));
-    if (const std::string temp = Variable("TMPDIR"); !temp.empty())
+    AddDrives(EnvironmentVariable("QUILLON_DRIVES"), settings);
+    settings.registryFiles = SplitList(EnvironmentVariable("QUILLON_REGISTRY"));
+    if (const std::string temp = EnvironmentVariable("TMPDIR"); !temp.empty())
         settings.tempFolder = temp;
     settings.settingsFolder = SettingsFolder();
     settings.dataFolder = DataFolder() + "/quillon";

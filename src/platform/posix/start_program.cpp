@@ -1,11 +1,11 @@
 #include "platform/posix/start_program.h"
 
 #include "helpers/ascii.h"
+#include "platform/posix/environment.h"
 #include "platform/posix/open_file.h"
 
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -57,8 +57,8 @@ std::vector<std::string> SplitArguments(std::string_view arguments)
 
 std::string FindOnPath(std::string_view name)
 {
-    const char* variable = std::getenv("PATH");
-    std::string_view path = variable ? variable : "";
+    const std::string variable = EnvironmentVariable("PATH");
+    std::string_view path = variable;
     while (!path.empty()) {
         const std::size_t end = path.find(':');
         const std::string candidate = std::string(path.substr(0, end)) + "/" + std::string(name);

@@ -1,10 +1,10 @@
 #include "platform/system_description.h"
 
 #include "helpers/number_text.h"
+#include "platform/posix/environment.h"
 #include "platform/posix/host_lines.h"
 
 #include <clocale>
-#include <cstdlib>
 #include <langinfo.h>
 #include <sys/utsname.h>
 #include <thread>
@@ -18,7 +18,7 @@ Text ValueIn(const char* path, const Text& name)
 {
     for (const std::string& line : LinesOfHostFile(path))
         if (line.starts_with(name + "="))
-            return ReplaceAll(line.substr(name.size() + 1), "\"", "");
+            return RemoveQuotes(line.substr(name.size() + 1));
     return {};
 }
 
@@ -32,16 +32,10 @@ std::uint64_t MemoryLine(const Text& name)
     return 0;
 }
 
-Text Environment(const char* name)
-{
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
-
 Text FirstSet(std::initializer_list<const char*> names)
 {
     for (const char* name : names)
-        if (Text value = Environment(name); !value.empty())
+        if (Text value = EnvironmentVariable(name); !value.empty())
             return value;
     return {};
 }

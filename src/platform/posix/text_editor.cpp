@@ -1,11 +1,11 @@
 #include "platform/posix/text_editor.h"
 
+#include "platform/posix/environment.h"
 #include "platform/posix/start_program.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 namespace quillon {
@@ -34,19 +34,19 @@ std::string DefaultTextEditor()
     return answer.substr(0, answer.find_first_of("\r\n"));
 }
 
-/// What a variable holds, or what counts where it is not set.
-std::string Variable(const char* name, const std::string& otherwise)
+/// What a variable holds, or what counts where it is not set or empty.
+std::string VariableOr(const char* name, const std::string& otherwise)
 {
-    const char* value = std::getenv(name);
-    return value && *value ? value : otherwise;
+    const std::string value = EnvironmentVariable(name);
+    return value.empty() ? otherwise : value;
 }
 
 /// Where programs may be described, the user's own folder first.
 std::vector<std::string> DataFolders()
 {
     std::vector<std::string> folders{
-        Variable("XDG_DATA_HOME", Variable("HOME", "") + "/.local/share")};
-    const std::string shared = Variable("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
+        VariableOr("XDG_DATA_HOME", EnvironmentVariable("HOME") + "/.local/share")};
+    const std::string shared = VariableOr("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
     for (std::size_t start = 0; start <= shared.size();) {
         const std::size_t end = std::min(shared.find(':', start), shared.size());
         folders.push_back(shared.substr(start, end - start));
