@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/host.h"
-#include "runtime/win32/program_path.h"
+#include "platform/win32/program_path.h"
 
 namespace quillon {
 

@@ -5,9 +5,9 @@
 #include "platform/run_error.h"
 #include "platform/whole_file.h"
 #include "platform/win32/open_file.h"
+#include "platform/win32/program_path.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
-#include "runtime/win32/program_path.h"
 #include "runtime/win32/program_start.h"
 
 #include <utility>

@@ -1,26 +1,17 @@
 // Diagnos for Windows: describes the machine in a text file beside itself, or at the path that it
 // is given.
 #include "diagnos/diagnosis_file.h"
+#include "platform/win32/program_path.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
 
-#include "helpers/windows_path.h"
-
-#include <array>
 #include <cstdlib>
 #include <windows.h>
 
 namespace {
 
 using namespace quillon;
-
-Text ProgramFolder()
-{
-    std::array<wchar_t, 32768> path{};
-    const DWORD length = GetModuleFileNameW(nullptr, path.data(), DWORD(path.size()));
-    return ExtractDirectory(Narrow({path.data(), length}));
-}
 
 std::optional<std::uint64_t> SizeOfDisk(const Text& root)
 {

@@ -2,10 +2,10 @@
 
 #include "formats/self_extraction.h"
 #include "helpers/windows_path.h"
+#include "platform/win32/program_path.h"
 #include "platform/win32/wide_text.h"
 #include "runtime/texts/starter_text.h"
 #include "runtime/win32/ansi_character.h"
-#include "runtime/win32/program_path.h"
 
 #include <windows.h>
 

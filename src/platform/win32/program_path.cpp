@@ -1,4 +1,4 @@
-#include "runtime/win32/program_path.h"
+#include "platform/win32/program_path.h"
 
 #include "helpers/windows_path.h"
 #include "platform/win32/wide_text.h"
