@@ -20,6 +20,18 @@ struct PlainWindow {
 /// Makes the window; it is not shown yet. Throws RunError where Windows makes none.
 HWND MakePlainWindow(HINSTANCE instance, const Text& title, const PlainWindow& window);
 
+/// The object that `PlainWindow::data`, or the last argument of CreateWindowEx, gave the window;
+/// null before WM_NCCREATE.
+template <class Window>
+Window* SelfOf(HWND window, UINT message, LPARAM data)
+{
+    if (message == WM_NCCREATE)
+        SetWindowLongPtrW(
+            window, GWLP_USERDATA,
+            reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(data)->lpCreateParams));
+    return reinterpret_cast<Window*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+}
+
 struct Control {
     const wchar_t* kind;
     Text text;

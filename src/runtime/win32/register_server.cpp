@@ -26,12 +26,12 @@ int RegisterProgram(const wchar_t* path, bool on)
     lstrcpyW(line, L"\"");
     lstrcatW(line, path);
     lstrcatW(line, on ? L"\" /regserver" : L"\" /unregserver");
-    return RunAndWait(path, line) == 0 ? kRegistrationDone : kRegistrationFailed;
+    return RunHiddenAndWait(path, line) == 0 ? kRegistrationDone : kRegistrationFailed;
 }
 
 } // namespace
 
-int RunAndWait(const wchar_t* program, wchar_t* commandLine)
+int RunHiddenAndWait(const wchar_t* program, wchar_t* commandLine)
 {
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;

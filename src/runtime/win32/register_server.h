@@ -16,6 +16,6 @@ int RegisterServerFile(const wchar_t* path, bool on);
 
 /// Starts a program, a console program without a window, and waits for it as `WaitForProgram` does;
 /// its exit code, or -1 where it can't be started.
-int RunAndWait(const wchar_t* program, wchar_t* commandLine);
+int RunHiddenAndWait(const wchar_t* program, wchar_t* commandLine);
 
 } // namespace quillon

@@ -3,6 +3,7 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
 #include "runtime/win32/display.h"
+#include "runtime/win32/plain_window.h"
 
 namespace quillon {
 
@@ -43,11 +44,7 @@ ScreenWindow::~ScreenWindow()
 
 LRESULT CALLBACK ScreenWindow::Receive(HWND window, UINT message, WPARAM word, LPARAM data)
 {
-    if (message == WM_NCCREATE)
-        SetWindowLongPtrW(
-            window, GWLP_USERDATA,
-            reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(data)->lpCreateParams));
-    auto* const self = reinterpret_cast<ScreenWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto* const self = SelfOf<ScreenWindow>(window, message, data);
     return self != nullptr && self->window_ != nullptr
                ? self->OnMessage(message, word, data)
                : DefWindowProcW(window, message, word, data);

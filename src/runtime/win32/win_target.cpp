@@ -185,7 +185,7 @@ Registration WinTarget::RegisterServer(const Text& path, bool on)
         result = RegisterInOwnProcess(path, on);
     } else {
         std::wstring line = L"\"" + helper + (on ? L"\" \"" : L"\" /U \"") + Wide(path) + L"\"";
-        result = RunAndWait(helper.c_str(), line.data());
+        result = RunHiddenAndWait(helper.c_str(), line.data());
     }
     if (result == kNotSelfRegistering)
         return Registration::NotSelfRegistering;

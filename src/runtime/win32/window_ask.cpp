@@ -52,11 +52,7 @@ WindowAsk::~WindowAsk()
 
 LRESULT CALLBACK WindowAsk::Receive(HWND window, UINT message, WPARAM word, LPARAM data)
 {
-    if (message == WM_NCCREATE)
-        SetWindowLongPtrW(
-            window, GWLP_USERDATA,
-            reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(data)->lpCreateParams));
-    auto* const self = reinterpret_cast<WindowAsk*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto* const self = SelfOf<WindowAsk>(window, message, data);
     // Windows are scaled once they have their controls.
     if (message == kDpiChanged && self != nullptr && self->scale_) {
         self->scale_->Change(word, data);

@@ -8,13 +8,13 @@
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "platform/win32/locked_folder.h"
+#include "platform/win32/program_path.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
 #include "platform/win32/win_files.h"
 #include "runtime/command_line/self_extract_command.h"
 #include "runtime/exit_codes.h"
 #include "runtime/package/unpack_folder.h"
-#include "runtime/win32/program_path.h"
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/selfx/selfx_texts.h"
 #include "runtime/win32/selfx/start_setup.h"
@@ -140,7 +140,7 @@ private:
         const Text program = JoinPath(folder.Path(), name);
         if (!files_.FileExists(program))
             RefuseSolid("det som ska startas saknas");
-        return static_cast<int>(RunAndWait(program, command_.forSetup));
+        return static_cast<int>(RunSetupAndWait(program, command_.forSetup));
     }
 
     void Unpack(const SolidReader& payload, const Text& folder)

@@ -56,7 +56,7 @@ bool IsElevated()
            isElevated != 0;
 }
 
-unsigned RunAndWait(const Text& program, const Text& arguments)
+unsigned RunSetupAndWait(const Text& program, const Text& arguments)
 {
     std::wstring line = Wide("\"" + program + "\" " + arguments);
     STARTUPINFOW startup{};

@@ -11,7 +11,7 @@ bool IsElevated();
 /// Starts it, waits for its end and says its code. `arguments` stand as they are. Throws `RunError`
 /// where it can't be started; where the user refuses the rights, that is a `RunError` too:
 /// `kRightsRefused`.
-unsigned RunAndWait(const Text& program, const Text& arguments);
+unsigned RunSetupAndWait(const Text& program, const Text& arguments);
 /// The same with the rights of an administrator, for which the system asks the user.
 unsigned RunElevatedAndWait(const Text& program, const Text& arguments);
 
