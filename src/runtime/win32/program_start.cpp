@@ -1,5 +1,7 @@
 #include "runtime/win32/program_start.h"
 
+#include "runtime/win32/library_search.h"
+
 #include <windows.h>
 
 #include <delayimp.h>
@@ -82,7 +84,6 @@ void StartProgram()
     SetUnhandledExceptionFilter(EndAtOnce);
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX | SEM_NOGPFAULTERRORBOX);
     __pfnDliNotifyHook2 = OnDelayedLoad;
-    constexpr DWORD kSystemFolderOnly = 0x800; // LOAD_LIBRARY_SEARCH_SYSTEM32
     const auto setDefault = OfKernel<BOOL(WINAPI*)(DWORD)>("SetDefaultDllDirectories");
     if (setDefault != nullptr && setDefault(kSystemFolderOnly))
         return;

@@ -2,6 +2,8 @@
 // says that libraries come from the system's folder alone, for those that Windows loads by itself
 // before the program can say so. The linker has no way to announce it; cmake/load_configuration.py
 // finds it by its mark and does.
+#include "runtime/win32/library_search.h"
+
 #include <windows.h>
 
 #include <cstddef>
@@ -9,7 +11,6 @@
 namespace {
 
 constexpr DWORD kMark = 0x464C4E51;             // cleared when it is announced
-constexpr WORD kSystemFolderOnly = 0x800;       // LOAD_LIBRARY_SEARCH_SYSTEM32
 constexpr DWORD kNoSecurityCookie = 0x00000800; // IMAGE_GUARD_SECURITY_COOKIE_UNUSED
 
 // As Windows 8.1 knows it; the headers of the compiler stop at the handlers. On a 32-bit machine
@@ -39,6 +40,6 @@ struct LoadConfiguration {
 extern "C" __attribute__((used)) const LoadConfiguration kLoadConfiguration = {
     .size = offsetof(LoadConfiguration, guardFlags) + sizeof(DWORD),
     .timeStamp = kMark,
-    .dependentLoadFlags = kSystemFolderOnly,
+    .dependentLoadFlags = quillon::kSystemFolderOnly,
     .guardFlags = kNoSecurityCookie,
 };
