@@ -16,6 +16,16 @@ struct JpegRequest {
     int reduction = 1;
     // How much memory the decoder may take for itself, in bytes.
     std::uint64_t memory = 0;
+
+    /// As large as what is asked for, with pixels that nobody has set yet.
+    Picture MakePicture() const
+    {
+        const auto reduced = [this](int side) { return (side + reduction - 1) / reduction; };
+        Picture picture{reduced(width), reduced(height), {}};
+        picture.pixels.resize(static_cast<std::size_t>(picture.width) *
+                              static_cast<std::size_t>(picture.height));
+        return picture;
+    }
 };
 
 /// An empty picture where the file is damaged or asks for too much. A file that is only cut gives

@@ -3,6 +3,7 @@
 
 #include "made_jpeg.h"
 #include "picture_tests.h"
+#include "pictures/jpeg_decoder.h"
 
 namespace quillon::test {
 namespace {
@@ -126,6 +127,14 @@ TEST(DecodeJpeg, RefusesWhatIsNone)
           std::string("\xFF\xD8\xFF\xE0\0\x10JFIF", 10), "\xFF\xD8\xFF" + std::string(5000, '\xFF'),
           "\xFF\xD8\xFF" + std::string(5000, '\1')})
         EXPECT_EQ(DecodePicture(bytes).fault, PictureFault::Damaged);
+}
+
+TEST(JpegRequest, MakesAPictureOfTheReducedSize)
+{
+    const Picture picture = JpegRequest{.width = 17, .height = 8, .reduction = 8}.MakePicture();
+    EXPECT_EQ(picture.width, 3) << "rounded up";
+    EXPECT_EQ(picture.height, 1);
+    EXPECT_EQ(picture.pixels.size(), 3U);
 }
 
 TEST(JpegReduction, KeepsAPictureWithinItsMemory)

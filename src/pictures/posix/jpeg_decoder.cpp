@@ -123,12 +123,7 @@ bool Decode(Decoding& decoding, std::string_view bytes, const JpegRequest& reque
 
 Picture DecodeJpegPixels(std::string_view bytes, const JpegRequest& request)
 {
-    const auto reduced = [&](int side) {
-        return (side + request.reduction - 1) / request.reduction;
-    };
-    Picture picture{reduced(request.width), reduced(request.height), {}};
-    picture.pixels.resize(static_cast<std::size_t>(picture.width) *
-                          static_cast<std::size_t>(picture.height));
+    Picture picture = request.MakePicture();
     Decoding decoding{};
     decoding.picture = &picture;
     decoding.jpeg.err = jpeg_std_error(&decoding.errors);

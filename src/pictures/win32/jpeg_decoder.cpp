@@ -97,12 +97,7 @@ bool Decode(std::string_view bytes, const JpegRequest& request, Picture& picture
 
 Picture DecodeJpegPixels(std::string_view bytes, const JpegRequest& request)
 {
-    const auto reduced = [&](int side) {
-        return (side + request.reduction - 1) / request.reduction;
-    };
-    Picture picture{reduced(request.width), reduced(request.height), {}};
-    picture.pixels.resize(static_cast<std::size_t>(picture.width) *
-                          static_cast<std::size_t>(picture.height));
+    Picture picture = request.MakePicture();
     const ComApartment apartment;
     if (!Decode(bytes, request, picture))
         return {};
