@@ -71,10 +71,12 @@ SelfExtractAttributes ReadSelfExtractProject(const FileSystem& files, const Text
         const std::string_view line = rest.substr(0, end);
         rest.remove_prefix(end == rest.npos ? rest.size() : end + 2);
         const std::size_t equals = line.find('=');
-        if (equals == line.npos || equals > 6 || !IsDigits(line.substr(0, equals)))
+        const auto number = equals == line.npos || equals > 6
+                                ? std::nullopt
+                                : WholeNumber<std::uint32_t>(line.substr(0, equals));
+        if (!number)
             throw RunError(ErrorNumber::kDeviceIo, path);
-        attributes.emplace_back(std::stoul(std::string(line.substr(0, equals))),
-                                Unescaped(line.substr(equals + 1)));
+        attributes.emplace_back(*number, Unescaped(line.substr(equals + 1)));
     }
     return attributes;
 }
