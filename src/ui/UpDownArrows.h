@@ -14,7 +14,6 @@ public:
     explicit UpDownArrows(QLineEdit* field);
 
     void SetRange(int min, int max);
-    int Min() const { return min_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -255,17 +255,18 @@ TEST_F(UnattendedTest, TellsTheResultOfWhatFailsToo)
     EXPECT_EQ(Records("L:\\r.json").at(0)["result"], "another setup runs");
 }
 
-TEST_F(UnattendedTest, TellsItsResultEvenBeforeItHasALog)
+TEST_F(UnattendedTest, WritesItsResultWithoutALog)
 {
-    WriteResult(memory.files, memory.machine, "L:\\r.json", ExitCode::Failed, "ingen mapp");
+    JsonLog(memory.files, memory.machine, {{}, {}, "L:\\r.json"})
+        .End(ExitCode::Failed, RunEnd::Stopped, "ingen mapp");
     const json last = Records("L:\\r.json").at(0);
     EXPECT_EQ(last["action"], "result");
     EXPECT_EQ(last["result"], "failed");
     EXPECT_EQ(last["code"], 1603);
     EXPECT_EQ(last["error"], "ingen mapp");
     // Nobody asked for one, and one that can't be written.
-    WriteResult(memory.files, memory.machine, {}, ExitCode::Failed, "ingen mapp");
-    WriteResult(memory.files, memory.machine, "Q:\\borta\\r.json", ExitCode::Failed, "x");
+    JsonLog(memory.files, memory.machine, {}).End(ExitCode::Failed, RunEnd::Stopped, "ingen mapp");
+    EXPECT_THROW(JsonLog(memory.files, memory.machine, {{}, {}, "Q:\\borta\\r.json"}), RunError);
     EXPECT_FALSE(memory.files.FileExists("Q:\\borta\\r.json"));
 }
 

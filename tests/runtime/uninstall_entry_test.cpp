@@ -42,11 +42,8 @@ TEST_F(UninstallEntry, HasEachValueOfTheTable)
     };
     ASSERT_EQ(Install(), ExitCode::Done);
     EXPECT_EQ(target.ValueNames(kEntry).size(), expected.size());
-    EXPECT_EQ(UninstallEntryValues().size(), expected.size());
-    for (const EntryValue& value : UninstallEntryValues()) {
-        ASSERT_EQ(expected.count(value.name), 1U) << value.name;
-        EXPECT_EQ(Value(value.name), expected.at(value.name)) << value.name;
-    }
+    for (const auto& [name, data] : expected)
+        EXPECT_EQ(Value(name.c_str()), data) << name;
     EXPECT_EQ(UninstallProduct(), ExitCode::Done);
     EXPECT_FALSE(target.KeyExists(kEntry));
 }

@@ -27,7 +27,6 @@ public:
     DlgCreate(Session& session, QWidget* parent,
               std::function<void(QWidget* parent)> showOptions = {}, HostPaths paths = {});
 
-    bool IsRunning() const { return isRunning_; }
     /// What runs of Create have done to the file list while the form was open.
     bool HasRun() const { return hasRun_; }
     bool IsListSorted() const { return isListSorted_; }

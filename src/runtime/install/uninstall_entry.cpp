@@ -50,6 +50,12 @@ RegistryData One(const EntryContext&)
     return NumberData(1);
 }
 
+struct EntryValue {
+    const char* name;
+    /// An empty text: the product has none, and the key has no such value.
+    RegistryData (*data)(const EntryContext& entry);
+};
+
 // A project names no address of its maker, so there is none to show.
 // clang-format off
 constexpr EntryValue kValues[] = {
@@ -73,11 +79,6 @@ const Text& VersionOf(const SetupInformation& setup)
 {
     const Text& ofProgram = setup.XProductVersion;
     return ofProgram.empty() ? setup.project.Version.ProductVersion : ofProgram;
-}
-
-std::span<const EntryValue> UninstallEntryValues()
-{
-    return kValues;
 }
 
 void WriteUninstallEntry(const EntryContext& entry, InstallTransaction& transaction)

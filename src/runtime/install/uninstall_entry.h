@@ -4,8 +4,6 @@
 
 #include "runtime/install/install.h"
 
-#include <span>
-
 namespace quillon {
 
 /// What the user knows as the product's version: that of its program, before the project's own.
@@ -15,14 +13,6 @@ struct EntryContext {
     const InstallInput& input;
     std::uint64_t installedBytes; // of the product's files
 };
-
-struct EntryValue {
-    const char* name;
-    /// An empty text: the product has none, and the key has no such value.
-    RegistryData (*data)(const EntryContext& entry);
-};
-
-std::span<const EntryValue> UninstallEntryValues();
 
 /// The entry of an earlier version is written over; what that had and this one lacks goes.
 void WriteUninstallEntry(const EntryContext& entry, InstallTransaction& transaction);

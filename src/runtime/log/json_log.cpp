@@ -116,12 +116,4 @@ void JsonLog::End(ExitCode code, RunEnd end, std::string_view error)
     CloseFile(std::move(result_));
 }
 
-void WriteResult(FileSystem& files, const Machine& machine, const Text& path, ExitCode code,
-                 std::string_view error)
-{
-    RunErrorNumber([&] {
-        JsonLog(files, machine, {{}, {}, path}).End(code, RunEnd::Stopped, error);
-    });
-}
-
 } // namespace quillon

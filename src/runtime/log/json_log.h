@@ -39,9 +39,4 @@ private:
     std::array<std::uint32_t, std::size_t(Message::Count)> counts_{};
 };
 
-/// The result of a run that ends before it has its logs. Nothing is thrown where it can't be
-/// written.
-void WriteResult(FileSystem& files, const Machine& machine, const Text& path, ExitCode code,
-                 std::string_view error);
-
 } // namespace quillon

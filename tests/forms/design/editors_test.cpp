@@ -470,7 +470,8 @@ TEST_F(DesignEditorsTest, UnderlineSwitchesItsControls)
     EXPECT_FALSE(form.CmdColor1->isEnabled() || form.CmdColor2->isEnabled());
     Click(form, "oMistyUnderline");
     EXPECT_EQ(TextIn(form, "tUnderlineHeight"), "10");
-    EXPECT_EQ(form.UpDownArr->Min(), 10);
+    QTest::keyClick(form.tUnderlineHeight, Qt::Key_Down);
+    EXPECT_EQ(TextIn(form, "tUnderlineHeight"), "10") << "the least";
     EXPECT_TRUE(form.CmdColor1->isEnabled() && form.CmdColor2->isEnabled());
     EXPECT_EQ(Left(form, "tUnderlineHeight", "9"), "10");
     Click(form, "oSimpleUnderline");
@@ -479,7 +480,10 @@ TEST_F(DesignEditorsTest, UnderlineSwitchesItsControls)
     EXPECT_FALSE(form.CmdColor2->isEnabled());
     Click(form, "oBlendUnderline");
     EXPECT_EQ(TextIn(form, "tUnderlineHeight"), "4");
-    EXPECT_EQ(form.UpDownArr->Min(), 3);
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(form.tUnderlineHeight, Qt::Key_Down);
+        EXPECT_EQ(TextIn(form, "tUnderlineHeight"), "3") << "the least";
+    }
     EXPECT_EQ(Left(form, "tUnderlineHeight", "3"), "3");
     EXPECT_EQ(Left(form, "tUnderlineHeight", "51"), "50");
     EXPECT_EQ(Left(form, "tUnderlineHeight", ""), "3");
