@@ -133,48 +133,49 @@ private:
         bool (*run)(Driver& driver, const Operands& operands);
     };
     static const Verb kVerbs[];
-    static const Verb* FindVerb(const Text& name);
 
-    bool Step(const Text& line)
+    struct ControlOperands {
+        HWND control; // of the page
+        int id;
+        const Text& value;
+    };
+    struct ControlVerb {
+        const char* name;
+        bool (*run)(Driver& driver, const ControlOperands& operands);
+    };
+    static const ControlVerb kControlVerbs[];
+
+    bool Step(const Text& line);
+
+    // A control notifies its window of what a user does; a message that sets its value does not.
+    bool Notify(const ControlOperands& operands, WORD what) const
     {
-        const std::size_t blank = std::min(line.find(' '), line.size());
-        const Text name = line.substr(0, blank);
-        const Text rest = line.substr(std::min(blank + 1, line.size()));
-        const std::size_t second = rest.find(' ');
-        const Operands operands{rest, static_cast<int>(LeadingNumber(rest)),
-                                second == Text::npos ? "" : rest.substr(second + 1)};
-        if (const Verb* const verb = FindVerb(name))
-            return verb->run(*this, operands);
-        const HWND control = GetDlgItem(page_, operands.id);
-        return control != nullptr && OnControl(name, control, operands.id, operands.value);
+        SendMessageW(page_, WM_COMMAND, static_cast<WPARAM>(MAKELONG(operands.id, what)),
+                     reinterpret_cast<LPARAM>(operands.control));
+        return true;
     }
 
-    bool OnControl(const Text& verb, HWND control, int id, const Text& value)
+    static bool Press(const ControlOperands& operands)
     {
-        if (verb == "press")
-            return IsWindowEnabled(control) && PostMessageW(control, BM_CLICK, 0, 0);
-        if (verb == "type") {
-            SendMessageW(control, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(value).c_str()));
-            SendMessageW(page_, WM_COMMAND, static_cast<WPARAM>(MAKELONG(id, EN_KILLFOCUS)),
-                         reinterpret_cast<LPARAM>(control));
-            return true;
-        }
-        if (verb == "choose") {
-            SendMessageW(control, LB_SETCURSEL, static_cast<WPARAM>(LeadingNumber(value)), 0);
-            SendMessageW(page_, WM_COMMAND, static_cast<WPARAM>(MAKELONG(id, LBN_SELCHANGE)),
-                         reinterpret_cast<LPARAM>(control));
-            return true;
-        }
-        if (verb == "key")
-            return PostMessageW(control, WM_KEYDOWN, static_cast<WPARAM>(LeadingNumber(value)), 1);
-        if (verb == "await")
-            return Await(control, Wide(value));
-        if (verb == "position")
-            return LogPosition(id);
-        if (verb == "margin")
-            return LogMargin(control);
-        if (verb != "read")
-            return false;
+        return IsWindowEnabled(operands.control) && PostMessageW(operands.control, BM_CLICK, 0, 0);
+    }
+
+    bool TypeInto(const ControlOperands& operands) const
+    {
+        SendMessageW(operands.control, WM_SETTEXT, 0,
+                     reinterpret_cast<LPARAM>(Wide(operands.value).c_str()));
+        return Notify(operands, EN_KILLFOCUS);
+    }
+
+    bool ChooseRow(const ControlOperands& operands) const
+    {
+        SendMessageW(operands.control, LB_SETCURSEL,
+                     static_cast<WPARAM>(LeadingNumber(operands.value)), 0);
+        return Notify(operands, LBN_SELCHANGE);
+    }
+
+    bool LogTextOf(HWND control)
+    {
         log_ += OneLine(TextOf(control)) + "\n";
         return true;
     }
@@ -511,7 +512,6 @@ private:
     int dpi_ = 0; // 0: that of the page's own display
 };
 
-// Those of controls are in `OnControl`.
 // clang-format off
 const Driver::Verb Driver::kVerbs[] = {
     {"run", [](Driver& driver, const Operands& operands) { return driver.Start(operands.rest); }},
@@ -549,13 +549,42 @@ const Driver::Verb Driver::kVerbs[] = {
     {"plant", [](Driver& driver, const Operands& operands) { return driver.Plant(operands.rest); }},
     {"release", [](Driver& driver, const Operands&) { return CloseHandle(driver.held_) != FALSE; }},
 };
+
+// Those of a control of the page, whose number comes first.
+const Driver::ControlVerb Driver::kControlVerbs[] = {
+    {"press", [](Driver&, const ControlOperands& operands) { return Press(operands); }},
+    {"type", [](Driver& driver, const ControlOperands& operands) { return driver.TypeInto(operands); }},
+    {"choose", [](Driver& driver, const ControlOperands& operands) { return driver.ChooseRow(operands); }},
+    {"key", [](Driver&, const ControlOperands& operands) { return PostMessageW(operands.control, WM_KEYDOWN, static_cast<WPARAM>(LeadingNumber(operands.value)), 1) != FALSE; }},
+    {"await", [](Driver& driver, const ControlOperands& operands) { return driver.Await(operands.control, Wide(operands.value)); }},
+    {"position", [](Driver& driver, const ControlOperands& operands) { return driver.LogPosition(operands.id); }},
+    {"margin", [](Driver& driver, const ControlOperands& operands) { return driver.LogMargin(operands.control); }},
+    {"read", [](Driver& driver, const ControlOperands& operands) { return driver.LogTextOf(operands.control); }},
+};
 // clang-format on
 
-const Driver::Verb* Driver::FindVerb(const Text& name)
+template <class Row, std::size_t count>
+const Row* FindVerb(const Row (&rows)[count], const Text& name)
 {
     const auto* const found =
-        std::ranges::find_if(kVerbs, [&](const Verb& verb) { return name == verb.name; });
-    return found != std::end(kVerbs) ? found : nullptr;
+        std::ranges::find_if(rows, [&](const Row& row) { return name == row.name; });
+    return found != std::end(rows) ? found : nullptr;
+}
+
+bool Driver::Step(const Text& line)
+{
+    const std::size_t blank = std::min(line.find(' '), line.size());
+    const Text name = line.substr(0, blank);
+    const Text rest = line.substr(std::min(blank + 1, line.size()));
+    const std::size_t second = rest.find(' ');
+    const Operands operands{rest, static_cast<int>(LeadingNumber(rest)),
+                            second == Text::npos ? "" : rest.substr(second + 1)};
+    if (const Verb* const verb = FindVerb(kVerbs, name))
+        return verb->run(*this, operands);
+    const HWND control = GetDlgItem(page_, operands.id);
+    const ControlVerb* const verb = FindVerb(kControlVerbs, name);
+    return control != nullptr && verb != nullptr &&
+           verb->run(*this, {control, operands.id, operands.value});
 }
 
 } // namespace
