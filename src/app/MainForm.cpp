@@ -30,6 +30,8 @@
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
+#include <algorithm>
+#include <cassert>
 
 namespace quillon {
 
@@ -74,12 +76,15 @@ MainForm::~MainForm() = default;
 void MainForm::MakePages()
 {
     files_ = new FilesPage(session_, paths_);
-    pages_ = {files_,
-              new DesignPage(session_),
-              new DialogsPage(session_),
-              new RegistryPage(session_),
-              new IniFilesPage(session_),
-              new ComponentsPage(session_, [this] { files_->List().ShowComponentColumns(); })};
+    const auto put = [this](Tab tab, Page* page) { pages_[static_cast<std::size_t>(tab)] = page; };
+    put(Tab::Files, files_);
+    put(Tab::Design, new DesignPage(session_));
+    put(Tab::Dialogs, new DialogsPage(session_));
+    put(Tab::Registry, new RegistryPage(session_));
+    put(Tab::IniFiles, new IniFilesPage(session_));
+    put(Tab::Components,
+        new ComponentsPage(session_, [this] { files_->List().ShowComponentColumns(); }));
+    assert(std::ranges::find(pages_, nullptr) == pages_.end());
     std::array<QWidget*, kTabCount> pages{};
     for (std::size_t i = 0; i < pages_.size(); ++i)
         pages[i] = Scrolls(static_cast<Tab>(i)) ? Scrolled(pages_[i]) : pages_[i];

@@ -2,6 +2,7 @@
 
 #include "actions/install_options.h"
 #include "builder/create_form.h"
+#include "design/background.h"
 #include "design/number_fields.h"
 #include "design/transparent_colours.h"
 #include "helpers/text.h"
@@ -21,7 +22,8 @@ struct FieldRange {
 };
 
 constexpr NumberRange kCheckBox{0, 1};
-constexpr NumberRange kAlignment{1, 3};
+constexpr NumberRange kAlignment{std::int64_t(DesignAlignment::Begin),
+                                 std::int64_t(DesignAlignment::End)};
 constexpr NumberRange kColourName{0, std::int64_t(kTransparentColors.size()) - 1};
 constexpr NumberRange kRegistryRoot{0, std::int64_t(kRegistryRoots.size()) - 1};
 
@@ -34,8 +36,8 @@ constexpr FieldRange kRanges[] = {
     {"RunAppSelfX",       "DD_iHKEYIndex",                 kRegistryRoot},
     {"FontOptions",       "NeverReplaceExistingFonts",     kCheckBox},
     {"Updates",           "AdvUpdateRegHKEYIndex",         kRegistryRoot},
-    {"DesBackground",     "Type",                          {1, 2}},
-    {"DesBackground",     "BlendDirection",                {0, 5}},
+    {"DesBackground",     "Type",                          {std::int64_t(BackgroundType::Colours), std::int64_t(BackgroundType::Picture)}},
+    {"DesBackground",     "BlendDirection",                {kNoBlend, kMaxBlendDirection}},
     {"DesTitle",          "TitleAlignment",                kAlignment},
     {"DesTitleUnderline", "UnderlineType",                 {0, std::int64_t(UnderlineKind::Blended)}},
     {"DesTitleUnderline", "UnderlineTextOnly",             kCheckBox},

@@ -5,8 +5,20 @@
 
 namespace quillon {
 
-/// The ways of a blend, as `BlendDirection` less one counts them.
+/// The values of `DesBackground::Type`.
+enum class BackgroundType : Integer { Colours = 1, Picture = 2 };
+
 enum class BlendStyle : Integer { ToTheRight, ToTheLeft, Upwards, Downwards, Outwards };
+
+// The values of `DesBackground::BlendDirection`: no blend, then one for each style.
+inline constexpr Integer kNoBlend = 0;
+
+constexpr Integer BlendDirectionOf(BlendStyle style)
+{
+    return static_cast<Integer>(static_cast<Integer>(style) + 1);
+}
+
+inline constexpr Integer kMaxBlendDirection = BlendDirectionOf(BlendStyle::Outwards);
 
 struct Blend {
     Colour ColorFrom = 0;

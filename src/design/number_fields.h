@@ -8,6 +8,9 @@
 
 namespace quillon {
 
+/// Where an object is in a direction: at the left or at the top first.
+enum class DesignAlignment : Integer { Begin = 1, Centre = 2, End = 3 };
+
 enum class UnderlineKind : Integer { None, Simple, Misty, Blended };
 
 /// The extra space between the title's letters, -10 to 100.

@@ -1,5 +1,6 @@
 #include "design/object_layout.h"
 
+#include "design/number_fields.h"
 #include "helpers/number_text.h"
 
 #include <algorithm>
@@ -23,7 +24,6 @@ constexpr Long kBelowHeading = 210;
 constexpr Long kAboveEdge = 30;
 // What the frame of a text box takes of its height.
 constexpr Long kTextBoxFrame = 15;
-constexpr Integer kAtTheLeft = 1;
 
 Long Half(Long twips)
 {
@@ -202,7 +202,7 @@ LogotypeBox PlaceLogotype(const section::DesLogotype& record, const LogotypeSurr
         size = {record.LogotypeWMFWidth, record.LogotypeWMFHeight};
     box.place.Width = size.width * surround.screen.TPPX;
     box.place.Height = size.height * surround.screen.TPPY;
-    box.place.Left = record.LogotypeAlignment == kAtTheLeft
+    box.place.Left = record.LogotypeAlignment == Integer(DesignAlignment::Begin)
                          ? kLogotypeSide
                          : surround.tabWidth - box.place.Width - kLogotypeSide;
     box.place.Top = surround.surface.Height - box.place.Height - kLogotypeBelow;

@@ -20,7 +20,7 @@ public:
         surface_.Width = design.width * design.metrics.TPPX;
         surface_.Height = design.height * design.metrics.TPPY;
         surface_.Left = surface_.Top = kSurfaceMargin;
-        paint_.UsePicture = project_.DesBackground.Type != 1;
+        paint_.UsePicture = project_.DesBackground.Type != Integer(BackgroundType::Colours);
         paint_.StretchPicture = project_.DesBackground.StretchPicture != kOff;
         SetBlend(paint_, project_.DesBackground);
     }

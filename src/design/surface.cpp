@@ -50,20 +50,20 @@ Blend BlendOf(const SurfacePaint& paint)
 
 bool IsOnPicture(const section::DesBackground& background)
 {
-    return background.Type == 2;
+    return background.Type == Integer(BackgroundType::Picture);
 }
 
 void SetBlend(SurfacePaint& paint, const section::DesBackground& background)
 {
     paint.ColorFrom = background.BackColor1;
-    if (background.BlendDirection <= 0) {
+    if (background.BlendDirection <= kNoBlend) {
         paint.ColorTo = background.BackColor1;
         paint.BlendStyle = BlendStyle::ToTheLeft;
         return;
     }
     paint.ColorTo = background.BackColor2;
     paint.BlendDepth = DepthOf(background.BlendDepth);
-    paint.BlendStyle = BlendStyle(background.BlendDirection - 1);
+    paint.BlendStyle = BlendStyle(background.BlendDirection - BlendDirectionOf(BlendStyle{}));
 }
 
 void ShowErrorBoxIfPictureError(Ask& ask, int errorNumber)

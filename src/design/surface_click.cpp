@@ -13,8 +13,10 @@ constexpr Long kBelowTitle = 10;
 constexpr Long kUnderlineFrom = 12;
 constexpr Long kUnderlineTo = 14;
 constexpr Long kSubTitleFrom = 15;
-constexpr Long kSubTitleHeight = 18;
-constexpr Long kSubTitleAloneHeight = 22;
+constexpr Long kSubTitleBand = 18;
+// Without a line the band begins right below the title, two pixels above where the subtitle is
+// drawn.
+constexpr Long kSubTitleAloneBand = 22;
 
 Long TitleLimit(Integer fontSize, ScreenMetrics screen)
 {
@@ -25,9 +27,9 @@ Long TitleLimit(Integer fontSize, ScreenMetrics screen)
 bool IsOnSubTitle(Long y, Long limit, const SurfaceTexts& texts, ScreenMetrics screen)
 {
     if (texts.UnderlineType < 1)
-        return y > limit && y < kSubTitleAloneHeight * screen.TPPY + limit;
+        return y > limit && y < kSubTitleAloneBand * screen.TPPY + limit;
     const Long subLimit = (texts.UnderlineHeight + kSubTitleFrom) * screen.TPPY + limit;
-    return y > subLimit && y < kSubTitleHeight * screen.TPPY + subLimit;
+    return y > subLimit && y < kSubTitleBand * screen.TPPY + subLimit;
 }
 
 } // namespace

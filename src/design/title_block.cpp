@@ -1,5 +1,6 @@
 #include "design/title_block.h"
 
+#include "design/number_fields.h"
 #include "design/underline.h"
 #include "helpers/number_text.h"
 
@@ -25,8 +26,6 @@ constexpr Integer kSubTitlePoints = 10;
 constexpr int kShadowPart = 14;
 constexpr Colour kShadowColour = 0;
 
-enum Alignment : Integer { kLeft = 1, kCentre = 2, kRight = 3 };
-
 // A title's spacing is a number kept as text, within what its editor allows.
 int Spacing(const Text& text)
 {
@@ -35,9 +34,9 @@ int Spacing(const Text& text)
 
 int LeftOf(int lineWidth, Integer alignment, int side, int width)
 {
-    if (alignment == kCentre)
+    if (alignment == Integer(DesignAlignment::Centre))
         return (width - lineWidth) / 2;
-    return alignment == kRight ? width - side - lineWidth : side;
+    return alignment == Integer(DesignAlignment::End) ? width - side - lineWidth : side;
 }
 
 ScreenFont TitleFont(const section::DesTitle& title, double scale)

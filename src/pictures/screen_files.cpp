@@ -78,7 +78,7 @@ ScreenFiles ReadScreenFiles(const Project& project, const FileSystem& files,
     ScreenFiles read;
     ScreenPictures& pictures = read.pictures;
     PicturesReader reader(read, project, files, size);
-    if (project.DesBackground.Type != 1)
+    if (project.DesBackground.Type != Integer(BackgroundType::Colours))
         reader.Read(pictures.background, project.DesBackground.PictureFilename);
     for (std::size_t i = 0; i < pictures.pictures.size(); ++i)
         reader.Read(pictures.pictures[i], project.DesPictures.Pictures[i].PictureFilename,

@@ -158,7 +158,7 @@ void DesignScreen::BeginProject()
 void DesignScreen::DrawDesBackground()
 {
     section::DesBackground& background = session_.project.DesBackground;
-    paint_.UsePicture = background.Type != 1;
+    paint_.UsePicture = background.Type != Integer(BackgroundType::Colours);
     paint_.StretchPicture = background.StretchPicture != kOff;
     SetBlend(paint_, background);
     // Frees the picture that was shown.

@@ -1,10 +1,14 @@
 #include "design/forms/DlgDesBackground.h"
 
+#include "design/background.h"
 #include "design/forms/choose_file.h"
 #include "project/text_limits.h"
 #include "shell/session.h"
 #include "ui/PathLabel.h"
 #include "ui/qt_text.h"
+
+#include <algorithm>
+#include <array>
 
 #include <QtWidgets>
 
@@ -16,8 +20,18 @@ using section::DesBackground;
 
 constexpr int kPathCharacters = 50;
 
-constexpr const char* kBlendDirections[] = {"Ingen toning", "Tona höger", "Tona vänster",
-                                            "Tona upp",     "Tona ned",   "Rektangulär toning"};
+// The captions by the values of `BlendDirection`.
+constexpr auto kBlendDirections = [] {
+    std::array<const char*, kMaxBlendDirection + 1> captions{};
+    captions[kNoBlend] = "Ingen toning";
+    captions[BlendDirectionOf(BlendStyle::ToTheRight)] = "Tona höger";
+    captions[BlendDirectionOf(BlendStyle::ToTheLeft)] = "Tona vänster";
+    captions[BlendDirectionOf(BlendStyle::Upwards)] = "Tona upp";
+    captions[BlendDirectionOf(BlendStyle::Downwards)] = "Tona ned";
+    captions[BlendDirectionOf(BlendStyle::Outwards)] = "Rektangulär toning";
+    return captions;
+}();
+static_assert(std::ranges::find(kBlendDirections, nullptr) == kBlendDirections.end());
 
 } // namespace
 
@@ -25,10 +39,10 @@ DlgDesBackground::DlgDesBackground(Session& session, QWidget* parent)
     : DesignEditor("DlgDesBackground", "Bakgrund", session, parent),
       background_(session.project.DesBackground)
 {
-    OptionOf(background_.Type, {NAMED(oColor), "&Färg", 1});
-    OptionOf(background_.Type, {NAMED(oPicture), "B&ild", 2});
+    OptionOf(background_.Type, {NAMED(oColor), "&Färg", Integer(BackgroundType::Colours)});
+    OptionOf(background_.Type, {NAMED(oPicture), "B&ild", Integer(BackgroundType::Picture)});
     // Whatever is no colour is painted as a picture.
-    oPicture->setChecked(background_.Type != 1);
+    oPicture->setChecked(background_.Type != Integer(BackgroundType::Colours));
     // Two options that are in two frames.
     auto* kinds = new QButtonGroup(this);
     kinds->addButton(oColor);

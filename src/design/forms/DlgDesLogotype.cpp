@@ -27,7 +27,8 @@ DlgDesLogotype::DlgDesLogotype(Session& session, QWidget* parent)
     NumberField(NAMED(tLogotypeWMFHeight), logotype.LogotypeWMFHeight, CheckedLogotypeWMFHeight,
                 OnOk::ChecksAlways);
     Piece sides = Options(logotype.LogotypeAlignment,
-                          {{NAMED(oRight), "Till &höger", 3}, {NAMED(oLeft), "Till &vänster", 1}});
+                          {{NAMED(oRight), "Till &höger", Integer(DesignAlignment::End)},
+                           {NAMED(oLeft), "Till &vänster", Integer(DesignAlignment::Begin)}});
     Arrange(VBox({
         FileFrame(),
         HBox({

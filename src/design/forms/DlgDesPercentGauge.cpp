@@ -1,5 +1,6 @@
 #include "design/forms/DlgDesPercentGauge.h"
 
+#include "design/number_fields.h"
 #include "shell/session.h"
 
 #include <QtWidgets>
@@ -12,12 +13,16 @@ DlgDesPercentGauge::DlgDesPercentGauge(Session& session, QWidget* parent)
     section::DesPercentGauge& gauge = session.project.DesPercentGauge;
     Arrange(VBox({
         HBox({
-            Frame("Vågrätt", {Options(gauge.GaugeAlignmentH, {{NAMED(oLeft), "&Vänster", 1},
-                                                              {NAMED(oHCenter), "&Mitten", 2},
-                                                              {NAMED(oRight), "&Höger", 3}})}),
-            Frame("Lodrätt", {Options(gauge.GaugeAlignmentV, {{NAMED(oTop), "&Överst", 1},
-                                                              {NAMED(oVCenter), "M&itten", 2},
-                                                              {NAMED(oBottom), "&Nederst", 3}})}),
+            Frame("Vågrätt",
+                  {Options(gauge.GaugeAlignmentH,
+                           {{NAMED(oLeft), "&Vänster", Integer(DesignAlignment::Begin)},
+                            {NAMED(oHCenter), "&Mitten", Integer(DesignAlignment::Centre)},
+                            {NAMED(oRight), "&Höger", Integer(DesignAlignment::End)}})}),
+            Frame("Lodrätt",
+                  {Options(gauge.GaugeAlignmentV,
+                           {{NAMED(oTop), "&Överst", Integer(DesignAlignment::Begin)},
+                            {NAMED(oVCenter), "M&itten", Integer(DesignAlignment::Centre)},
+                            {NAMED(oBottom), "&Nederst", Integer(DesignAlignment::End)}})}),
         }),
         Stretch(),
         OkCancel(),

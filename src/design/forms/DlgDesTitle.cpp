@@ -37,9 +37,10 @@ DlgDesTitle::DlgDesTitle(Session& session, QWidget* parent)
         Above("T&itel:", MinWidth(kFieldCharacters, tTitleText)),
         HBox({
             Frame("Justering",
-                  {Options(title_.TitleAlignment, {{NAMED(oTitleLeft), "&Vänster", 1},
-                                                   {NAMED(oTitleCenter), "&Centrerad", 2},
-                                                   {NAMED(oTitleRight), "&Höger", 3}})}),
+                  {Options(title_.TitleAlignment,
+                           {{NAMED(oTitleLeft), "&Vänster", Integer(DesignAlignment::Begin)},
+                            {NAMED(oTitleCenter), "&Centrerad", Integer(DesignAlignment::Centre)},
+                            {NAMED(oTitleRight), "&Höger", Integer(DesignAlignment::End)}})}),
             VBox({
                 cTitleShadow,
                 Fields({{"Tecken&avstånd:", HBox({tTitleCharInterSpace, UpDownArr, Stretch()})}}),

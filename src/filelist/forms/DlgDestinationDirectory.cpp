@@ -35,8 +35,19 @@ void DlgDestinationDirectory::MakeOptions(DestinationQuestion::Place place)
     Named(NAMED(oWindowsDirectory), new QRadioButton("&Windowskatalogen (%WINDIR)"));
     for (QRadioButton* option : {oUserDirectory, oSystemDirectory, oWindowsDirectory})
         connect(option, &QRadioButton::toggled, this, [this] { EnableDirectory(); });
-    QRadioButton* const options[] = {oUserDirectory, oSystemDirectory, oWindowsDirectory};
-    options[static_cast<int>(place)]->setChecked(true);
+    OptionFor(place).setChecked(true);
+}
+
+QRadioButton& DlgDestinationDirectory::OptionFor(DestinationQuestion::Place place)
+{
+    switch (place) {
+    case DestinationQuestion::Place::System:
+        return *oSystemDirectory;
+    case DestinationQuestion::Place::Windows:
+        return *oWindowsDirectory;
+    default:
+        return *oUserDirectory;
+    }
 }
 
 void DlgDestinationDirectory::MakeDirectory(const Text& folder)

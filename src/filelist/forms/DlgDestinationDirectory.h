@@ -29,6 +29,7 @@ protected:
 
 private:
     void MakeOptions(DestinationQuestion::Place place);
+    QRadioButton& OptionFor(DestinationQuestion::Place place);
     void MakeDirectory(const Text& folder);
     void EnableDirectory();
     void PickVariable();
