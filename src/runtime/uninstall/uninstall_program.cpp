@@ -174,7 +174,7 @@ ExitCode UninstallProgram::Run(Ask& ask, UninstallView& view)
         return End(ExitCode::Cancelled);
     view.ShowProgress(true);
     const UninstallResult result =
-        Uninstall({input_.host, input_.target, boxes, log_, log, *product_, input_.running});
+        Uninstall({input_.host, input_.target, boxes, log_, journal, *product_, input_.running});
     const ExitCode code = End(result.code);
     view.ShowProgress(false);
     TellTheEnd(result, boxes, view);
