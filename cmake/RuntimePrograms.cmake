@@ -5,6 +5,7 @@ set(win32 ${CMAKE_CURRENT_SOURCE_DIR}/runtime/win32)
 
 # Below all other libraries, so that the linker meets it behind them and before libstdc++.
 add_library(quillon_lean STATIC ${win32}/lean/failures.cpp ${win32}/lean/load_configuration.cpp)
+target_include_directories(quillon_lean PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 include(DelayLoad)
 add_dependencies(quillon_lean quillon_delayed_libraries)
 target_link_libraries(quillon_options INTERFACE quillon_lean ${delayed})
