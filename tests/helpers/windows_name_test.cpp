@@ -101,4 +101,12 @@ TEST(FaultOfFolder, TellsWhatIsNone)
         EXPECT_EQ(FaultOfFolder(given.text), given.fault) << given.text;
 }
 
+TEST(AsFileName, PutsHyphensForWhatNoFileNameHolds)
+{
+    EXPECT_EQ(AsFileName("  Åkes \"Spel\": a/b\\c*d?e<f>g|h\ti\r\nj "),
+              "Åkes -Spel-- a-b-c-d-e-f-g-h-i--j");
+    EXPECT_EQ(AsFileName("Exempel 1.0"), "Exempel 1.0");
+    EXPECT_EQ(AsFileName(" "), "");
+}
+
 } // namespace quillon

@@ -109,6 +109,39 @@ TEST_F(RestartMoves, OfWhatHasGoneAreForgottenToo)
     EXPECT_EQ(Moves(), "");
 }
 
+// An uninstaller has found the file in use, and the product comes back before the next start.
+TEST_F(RestartMoves, RemoveNoFileThatIsInstalledAgain)
+{
+    const std::string others = Move("C:\\bort.txt", "");
+    WriteMoves(others + Move("c:\\PROGRAM\\exempel\\Levande.dll", ""));
+    memory.files.Put(kFile, "version 1");
+    InstallVersion("version 2");
+    EXPECT_EQ(Moves(), others + kEmpty);
+    EXPECT_EQ(memory.files.Get(kFile), "version 2");
+}
+
+TEST_F(RestartMoves, RemoveNoFileThatASetupKeeps)
+{
+    package.rows[0].copyOptions = "D";
+    memory.files.Put(kFile, "a newer one", {2030, 1, 1, 0, 0, 0});
+    WriteMoves(Move(kFile, ""));
+    InstallVersion("version 1");
+    ASSERT_EQ(memory.files.Get(kFile), "a newer one") << Log();
+    EXPECT_EQ(Moves(), "");
+}
+
+TEST_F(RestartMoves, RemoveWhatASetupThatFailsHasLeftAsItWas)
+{
+    const std::string before = Move(kFile, "");
+    WriteMoves(before);
+    memory.files.Put(kFile, "version 1");
+    AddFile("annan.dll", "%DESTDIR", "annan");
+    memory.files.Put(kMain + "\\annan.dll", "held", {2003, 1, 1, 0, 0, 0});
+    files.inUse = {kMain + "\\annan.dll"};
+    EXPECT_EQ(Install(), ExitCode::FileInUse) << Log();
+    EXPECT_EQ(Moves(), before + kEmpty);
+}
+
 TEST_F(RestartMoves, OfTheSetupItselfStay)
 {
     InstallVersion("version 1");

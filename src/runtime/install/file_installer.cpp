@@ -78,8 +78,10 @@ FileInstaller::Outcome FileInstaller::InstallOne(const PlannedFile& file)
         input_.host.files.RemoveFile(staged);
     if (HasOption(options, CopyLetter::kShared) && !HasOption(options, CopyLetter::kNeverUninstall))
         CountSharedFile(file, existing.has_value());
-    if (!wanted)
+    if (!wanted) {
+        transaction_.KeepFile(file.path);
         return Outcome::Kept;
+    }
     NoteContent(file);
     return atRestart ? Outcome::AtRestart : Outcome::Written;
 }

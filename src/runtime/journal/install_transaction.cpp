@@ -145,6 +145,11 @@ void InstallTransaction::KeepBackup(const Text& path)
     log_.Line(Message::LogBacksUp, path, backup);
 }
 
+void InstallTransaction::KeepFile(const Text& path)
+{
+    kept_.insert(LowerCase(path));
+}
+
 void InstallTransaction::RemoveFile(const Text& path)
 {
     MoveAside(path);
@@ -249,7 +254,7 @@ void InstallTransaction::Commit()
 
 void InstallTransaction::CleanUp()
 {
-    quillon::CleanUp({host_, target_, log_}, journal_.Steps());
+    quillon::CleanUp({host_, target_, log_}, journal_.Steps(), kept_);
     std::optional<RunError> failure;
     RunErrorNumber([&] { journal_.End(); }, failure);
     if (failure)

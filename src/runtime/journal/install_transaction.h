@@ -42,6 +42,9 @@ public:
     void PutFileAtRestart(const NewFile& file);
     /// Keeps a second name for the file that is at `path`, which `PutFile` is about to replace.
     void KeepBackup(const Text& path);
+    /// The file that is at `path` stays as it is and belongs to the product: once this is
+    /// committed, the system does not remove it at the next start.
+    void KeepFile(const Text& path);
     void RemoveFile(const Text& path);
     /// When everything is done, if the folder is empty by then: the files that were moved aside are
     /// in it.
@@ -85,6 +88,7 @@ private:
     std::unordered_map<Text, Text>
         movedAside_; // where the former files are, by their places in lower case
     std::vector<record::AtRestart> atRestart_;
+    std::set<Text> kept_; // in lower case
 };
 
 } // namespace quillon

@@ -101,6 +101,19 @@ void ForgetMovesTo(FileSystem& files, Target& target, const std::set<Text>& plac
             return;
         RemoveWaitingFile(files, target, move);
     });
+    ForgetRemovals(target, places);
+}
+
+void ForgetRemovals(Target& target, const std::set<Text>& places)
+{
+    const auto present = target.ReadValue(RestartMovesKey(), kRestartMoves);
+    if (!present)
+        return;
+    EachMove(present->bytes, [&](std::string_view first, std::string_view second) {
+        if (const Text path = PathOf(first);
+            second.size() <= kUnit && places.count(LowerCase(path)) > 0)
+            ForgetMoveAtRestart(target, path);
+    });
 }
 
 // The move of the file is forgotten last, so that all of this can be begun again.

@@ -12,8 +12,13 @@ namespace quillon {
 void ForgetMoveAtRestart(Target& target, const Text& from);
 
 /// What an earlier setup of this kind has left to wait for one of these places (in lower case) is
-/// out of date: it goes, and so does its move. What waits for them by others' doing stays.
+/// out of date: it goes, and so does its move. What waits for them by others' doing stays. Nor is
+/// what lies there removed.
 void ForgetMovesTo(FileSystem& files, Target& target, const std::set<Text>& places);
+
+/// The system removes no file at one of these places (in lower case) any more: an uninstaller that
+/// found it in use has asked for that before the product was installed again.
+void ForgetRemovals(Target& target, const std::set<Text>& places);
 
 /// The file that waits goes, and a folder of its own beside the place that it was for.
 void RemoveWaitingFile(FileSystem& files, Target& target, const record::AtRestart& move);

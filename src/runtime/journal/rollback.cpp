@@ -340,7 +340,8 @@ bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps,
     return true;
 }
 
-void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps)
+void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps,
+             const std::set<Text>& kept)
 {
     const auto attempt = [&](const Text& what, auto work) {
         std::optional<RunError> failure;
@@ -349,6 +350,7 @@ void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps
     };
     attempt(kRestartMoves,
             [&] { ForgetMovesTo(input.host.files, input.target, PlacesDone(steps)); });
+    attempt(kRestartMoves, [&] { ForgetRemovals(input.target, kept); });
     Paths pending;
     for (const JournalRecord& step : steps)
         if (const auto* const move = std::get_if<record::AtRestart>(&step))

@@ -27,7 +27,8 @@ bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps,
           const std::function<void()>& removeJournal);
 
 /// Removes the temporary files of steps that stay, now or when the machine starts next.
-void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps);
+void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps,
+             const std::set<Text>& kept = {});
 
 enum class EarlierRun { None, Finished, Incomplete };
 
