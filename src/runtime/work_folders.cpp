@@ -7,8 +7,8 @@
 #include "runtime/install/first_program.h"
 #include "runtime/journal/rollback.h"
 #include "runtime/pages/background_sound.h"
-#include "runtime/run_folder.h"
 #include "runtime/script/script_run.h"
+#include "runtime/work_folder.h"
 
 #include <algorithm>
 
@@ -50,7 +50,7 @@ void RemoveWorkFolder(FileSystem& files, const Text& folder)
 
 Text WorkFolderLock(const Text& folder)
 {
-    return JoinPath(folder, kRunFolderLock);
+    return JoinPath(folder, kWorkFolderLock);
 }
 
 void RemoveAbandonedWorkFolders(FileSystem& files, const Text& tempFolder,
@@ -60,7 +60,7 @@ void RemoveAbandonedWorkFolders(FileSystem& files, const Text& tempFolder,
         return;
     for (const FolderEntry& entry : files.List(tempFolder)) {
         const Text folder = JoinPath(tempFolder, entry.name);
-        if (!entry.status.isFolder || !IsRunFolderName(UpperCase(entry.name)) || isLink(folder))
+        if (!entry.status.isFolder || !IsWorkFolderName(UpperCase(entry.name)) || isLink(folder))
             continue;
         // Another user's folder, or one with more in it, stays.
         RunErrorNumber([&] { RemoveWorkFolder(files, folder); });

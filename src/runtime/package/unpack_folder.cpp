@@ -2,7 +2,7 @@
 
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
-#include "runtime/run_folder.h"
+#include "runtime/work_folder.h"
 
 namespace quillon {
 
@@ -43,11 +43,11 @@ bool UnpackFolder::TakeBase(const Text& base)
 
 bool UnpackFolder::TakeFolder()
 {
-    path_ = JoinPath(base_, RunFolderName(static_cast<Long>(guard_.Number())));
+    path_ = JoinPath(base_, WorkFolderName(static_cast<Long>(guard_.Number())));
     if (!guard_.MakeClosed(path_))
         return false;
     // Another run that clears up may have come first.
-    RunErrorNumber([&] { lock_ = files_.Lock(JoinPath(path_, kRunFolderLock), LockWait::None); });
+    RunErrorNumber([&] { lock_ = files_.Lock(JoinPath(path_, kWorkFolderLock), LockWait::None); });
     return lock_ != nullptr;
 }
 
@@ -57,11 +57,11 @@ void UnpackFolder::RemoveLeftOvers()
     RunErrorNumber([&] { entries = files_.List(base_); });
     for (const FolderEntry& entry : entries) {
         const Text folder = JoinPath(base_, entry.name);
-        if (!entry.status.isFolder || !IsRunFolderName(entry.name) || guard_.IsLink(folder) ||
+        if (!entry.status.isFolder || !IsWorkFolderName(entry.name) || guard_.IsLink(folder) ||
             !guard_.HaveSameOwner(folder, path_))
             continue;
         RunErrorNumber([&] {
-            auto lock = files_.Lock(JoinPath(folder, kRunFolderLock), LockWait::None);
+            auto lock = files_.Lock(JoinPath(folder, kWorkFolderLock), LockWait::None);
             if (!lock)
                 return;
             RemoveAll(folder);

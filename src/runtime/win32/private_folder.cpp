@@ -6,7 +6,7 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_failure.h"
 #include "runtime/journal/rollback.h"
-#include "runtime/run_folder.h"
+#include "runtime/work_folder.h"
 #include "runtime/work_folders.h"
 
 #include <windows.h>
@@ -23,7 +23,7 @@ Text MakePrivateFolder(Host& host)
     Text path;
     // Only a folder that did not exist before is private, so its making has to say so itself.
     do {
-        path = JoinPath(parent, RunFolderName(host.machine.Random(1000000)));
+        path = JoinPath(parent, WorkFolderName(host.machine.Random(1000000)));
         if (MakeLockedFolder(WidePath(path).c_str()))
             return path;
     } while (GetLastError() == ERROR_ALREADY_EXISTS);

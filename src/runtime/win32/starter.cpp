@@ -3,7 +3,7 @@
 #include "platform/win32/locked_folder.h"
 #include "runtime/command_line/switch_words.h"
 #include "runtime/log/result_names.h"
-#include "runtime/run_folder.h"
+#include "runtime/work_folder.h"
 
 #include <cwchar>
 
@@ -20,7 +20,7 @@ void Widen(wchar_t* to, const char* utf8, int room)
 // system lets go of the lock with this program, however it ends.
 bool TakeLock(Starter& starter)
 {
-    JoinPaths(starter.scratch, starter.work, kRunFolderLock);
+    JoinPaths(starter.scratch, starter.work, kWorkFolderLock);
     starter.lock = CreateFileW(starter.scratch, GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                                FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     return starter.lock != INVALID_HANDLE_VALUE;
@@ -170,7 +170,7 @@ bool MakeWorkFolder(Starter& starter)
     MakeFolders(parent);
     for (DWORD n = GetTickCount(), last = n + 1000; n != last; ++n) {
         wchar_t name[32];
-        wsprintfW(name, L"%hs%lu%hs", kRunFolderPrefix, n, kRunFolderSuffix);
+        wsprintfW(name, L"%hs%lu%hs", kWorkFolderPrefix, n, kWorkFolderSuffix);
         JoinPaths(starter.work, parent, name);
         if (MakeLockedFolder(starter.work) && TakeLock(starter))
             return true;

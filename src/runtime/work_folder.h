@@ -1,0 +1,31 @@
+// The folder that a run of a setup, or of a program that unpacks one, has for itself among
+// temporary files: how it is called, and the lock in it, which tells the folder of a living run
+// from one that was left behind.
+#pragma once
+
+#include "helpers/number_text.h"
+
+namespace quillon {
+
+inline constexpr const char* kWorkFolderLock = "LOCK";
+
+// What stands round the number in its name.
+inline constexpr const char* kWorkFolderPrefix = "QN";
+inline constexpr const char* kWorkFolderSuffix = ".TMP";
+
+/// "QN123456.TMP"
+inline Text WorkFolderName(Long number)
+{
+    return kWorkFolderPrefix + NumberText(number) + kWorkFolderSuffix;
+}
+
+/// Whether the name, in capitals, is such a one.
+inline bool IsWorkFolderName(std::string_view name)
+{
+    constexpr std::size_t kDigits = std::string_view(kWorkFolderPrefix).size();
+    const std::size_t end = name.find_first_not_of("0123456789", kDigits);
+    return name.starts_with(kWorkFolderPrefix) && end > kDigits && end != Text::npos &&
+           name.substr(end) == kWorkFolderSuffix;
+}
+
+} // namespace quillon
