@@ -59,7 +59,7 @@ protected:
     }
     EarlierRun Finish() { return FinishInterrupted({host, target, log}, kMain); }
 
-    InstallJournal record;
+    InstallJournal installJournal;
     ActionLog log;
 };
 
@@ -80,7 +80,7 @@ TEST_P(ChangeOfATransaction, IsNotedBeforeItIsMade)
         return memory.files.FileExists(kJournalPath) &&
                memory.files.Get(kJournalPath).find(GetParam().note) != Text::npos;
     };
-    InstallTransaction changes(host, target, record, log);
+    InstallTransaction changes(host, target, installJournal, log);
     OnEachChange([&] {
         if (!isNoted())
             EXPECT_EQ(StateOfProduct(), before);
@@ -93,7 +93,7 @@ TEST_P(ChangeOfATransaction, IsNotedBeforeItIsMade)
 TEST_P(ChangeOfATransaction, IsUndone)
 {
     const MachineState before = State();
-    InstallTransaction changes(host, target, record, log);
+    InstallTransaction changes(host, target, installJournal, log);
     Make(changes);
     EXPECT_TRUE(changes.Undo());
     EXPECT_EQ(State(), before);
@@ -103,7 +103,7 @@ TEST_P(ChangeOfATransaction, IsUndoneTwiceWithoutHarm)
 {
     const MachineState before = State();
     {
-        InstallTransaction killed(host, target, record, log);
+        InstallTransaction killed(host, target, installJournal, log);
         Make(killed);
     }
     const Text journal = memory.files.Get(kJournalPath);
@@ -117,7 +117,7 @@ TEST_P(ChangeOfATransaction, IsUndoneTwiceWithoutHarm)
 
 TEST_P(ChangeOfATransaction, StaysWhenItIsCommitted)
 {
-    InstallTransaction changes(host, target, record, log);
+    InstallTransaction changes(host, target, installJournal, log);
     Make(changes);
     const MachineState made = StateOfProduct();
     changes.Commit();
@@ -161,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(, ChangeOfATransaction, testing::Values(
 TEST_F(InstallTransactionTest, MovesAFileAtRestartOnlyOnceItIsCommitted)
 {
     const MachineState before = State();
-    InstallTransaction changes(host, target, record, log);
+    InstallTransaction changes(host, target, installJournal, log);
     changes.Begin(kMain, "Exempel");
     const NewFile file = Staged(changes, files, kFormerFile);
     changes.PutFileAtRestart(file);
@@ -180,7 +180,7 @@ TEST_F(InstallTransactionTest, MovesAFileAtRestartOnlyOnceItIsCommitted)
 TEST_F(InstallTransactionTest, ForgetsAFileForTheRestartWhenItIsUndone)
 {
     const MachineState before = State();
-    InstallTransaction changes(host, target, record, log);
+    InstallTransaction changes(host, target, installJournal, log);
     changes.Begin(kMain, "Exempel");
     changes.PutFileAtRestart(Staged(changes, files, kFormerFile));
     EXPECT_TRUE(changes.Undo());
@@ -188,10 +188,35 @@ TEST_F(InstallTransactionTest, ForgetsAFileForTheRestartWhenItIsUndone)
     EXPECT_EQ(State(), before);
 }
 
+// A commit forces to the disk what it has, writes its line, and forces that too.
+TEST_F(InstallTransactionTest, IsCommittedFromItsLineOn)
+{
+    for (const int failingWrite : {1, 2, 3}) {
+        memory.files.Put(kFormerFile, "gammal");
+        const MachineState before = State();
+        InstallTransaction changes(host, target, installJournal, log);
+        changes.Begin(kMain, "Exempel");
+        changes.PutFile(Staged(changes, files, kFormerFile));
+        memory.files.FailFromWrite(failingWrite, ErrorNumber::kDeviceIo);
+        const int failure = RunErrorNumber([&] { changes.Commit(); });
+        memory.files.FailFromWrite(std::numeric_limits<int>::max(), ErrorNumber::kNone);
+
+        const bool isCommitted = failingWrite == 3;
+        EXPECT_EQ(failure, isCommitted ? ErrorNumber::kNone : ErrorNumber::kDeviceIo);
+        EXPECT_EQ(memory.files.Get(kJournalPath).find("COMMITTED") != Text::npos, isCommitted);
+        if (isCommitted)
+            changes.CleanUp();
+        else
+            EXPECT_TRUE(changes.Undo());
+        EXPECT_EQ(memory.files.Get(kFormerFile), isCommitted ? "ny" : "gammal");
+        EXPECT_EQ(State().files.size(), before.files.size());
+    }
+}
+
 TEST_F(InstallTransactionTest, RemovesAnEmptyFolderAtItsEndAlone)
 {
     memory.files.PutFolder(kMain + "\\Tom");
-    InstallTransaction changes(host, target, record, log);
+    InstallTransaction changes(host, target, installJournal, log);
     changes.Begin(kMain, "Exempel");
     changes.RemoveFolderAtEnd(kMain + "\\Tom");
     changes.RemoveFolderAtEnd(kMain);
@@ -204,7 +229,7 @@ TEST_F(InstallTransactionTest, RemovesAnEmptyFolderAtItsEndAlone)
 
 TEST_F(InstallTransactionTest, GoesOnTakingBackWhateverOneStepThrows)
 {
-    InstallTransaction changes(host, target, record, log);
+    InstallTransaction changes(host, target, installJournal, log);
     changes.Begin("C:\\Ny", "Exempel");
     changes.MakeFolder("C:\\Ny");
     changes.MakeKey({RegistryRoot::LocalMachine, "SOFTWARE\\Ny"});

@@ -36,6 +36,11 @@ std::unique_ptr<OutputFile> FailingFiles::OpenOutput(const Text& path)
             file_->WriteAt(position, bytes);
         }
         std::uint64_t Position() const override { return file_->Position(); }
+        void Flush() override
+        {
+            files_.BeforeChange(path_);
+            file_->Flush();
+        }
         void Close() override
         {
             files_.BeforeChange(path_);

@@ -132,9 +132,13 @@ void TransactionJournal::MakeTempFolder(const Text& beside, TempFolder& folder)
 
 void TransactionJournal::Commit()
 {
-    Note(record::Committed{});
     if (file_)
         file_->Flush();
+    Note(record::Committed{});
+    // Whoever finds that line clears away what the way back would need, so that there is none from
+    // here on: a disk that fails now is no reason to go it.
+    if (file_)
+        RunErrorNumber([&] { file_->Flush(); });
 }
 
 void TransactionJournal::End()

@@ -71,7 +71,7 @@ public:
     void Expect(std::size_t steps) { steps_.reserve(steps_.size() + steps); }
     /// A free name on the disk of `folder`, which exists, for a file of the transaction's own.
     Text TempPath(const Text& folder);
-    /// Nothing is taken back from here on.
+    /// Nothing is taken back from here on, unless this throws.
     void Commit();
     /// Removes the journal, when everything is taken back or cleared away.
     void End();
