@@ -97,6 +97,17 @@ function(quillon_quick_sanitized_build)
   endif()
 endfunction()
 
+# quillon_quick_build(<target>...): the same for windows and calls, which wait for people and disks: the
+# product's build too takes a fifth less time for them, at -O1.
+function(quillon_quick_build)
+  quillon_quick_sanitized_build(${ARGN})
+  if(NOT QUILLON_SANITIZE)
+    foreach(target ${ARGN})
+      target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)
+    endforeach()
+  endif()
+endfunction()
+
 # quillon_test(<folder> [linked libraries...]): one fat test program for each folder of tests/.
 function(quillon_test folder)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
