@@ -15,7 +15,7 @@ namespace quillon {
 enum class KeysWork {
     Everywhere,
     InFileList, // while the list has the keyboard
-    InEditors   // texts and fields take them by themselves
+    InEditors   // the field that has the keyboard handles them
 };
 
 struct Command {

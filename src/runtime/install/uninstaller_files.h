@@ -15,8 +15,8 @@ class InstallTransaction;
 /// versions were one program.
 std::array<Text, 2> FilesOfUninstaller(const Text& mainFolder);
 
-/// Puts all three from the folder with the package's programs into their places. They go last and
-/// by themselves, and stay where another product needs them, so the journal does not name them.
+/// Puts all three from the folder with the package's programs into their places. The journal does
+/// not name them: the uninstaller removes them last, unless another product needs them.
 void PutUninstallerFiles(FileSystem& files, const Text& helpersFolder, const Text& mainFolder,
                          InstallTransaction& transaction);
 
