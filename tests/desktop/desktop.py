@@ -20,13 +20,22 @@ class NeverCame(Exception):
 
 
 def wait_for(what, condition):
-    """The first true answer of `condition`, asked again and again while events come in."""
+    """The first true answer of `condition`, asked again and again while events come in.
+
+    A window changes while its controls are read: the rows of a list that is being filled are
+    replaced, and the former ones no longer answer. That is no answer yet, not a failure.
+    """
     context = GLib.MainContext.default()
     deadline = GLib.get_monotonic_time() + DEADLINE_SECONDS * 1_000_000
     tick = GLib.timeout_add(20, lambda: True)
     try:
         while GLib.get_monotonic_time() < deadline:
-            answer = condition()
+            try:
+                answer = condition()
+            except GLib.Error as error:
+                if error.domain != "atspi_error":
+                    raise
+                answer = None
             if answer:
                 return answer
             context.iteration(True)
