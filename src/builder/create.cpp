@@ -11,7 +11,7 @@
 #include "builder/remove_quietly.h"
 #include "builder/runtime_files.h"
 #include "builder/selfextract/accompanying_program.h"
-#include "builder/selfextract/older_program.h"
+#include "builder/selfextract/files_aside.h"
 #include "builder/selfextract/self_extracting_file.h"
 #include "builder/setup_info_file.h"
 #include "builder/signing/sign_programs.h"
@@ -89,9 +89,7 @@ Step ClearInternetFolder(CreateRun& run)
 {
     if (run.form.TargetMedia != Medium::Internet)
         return Step::GoOn;
-    for (const char* name : {kSelfExtractArchive, kSelfExtractProject})
-        RemoveQuietly(run.host.files, run.InDestination(name));
-    MoveOlderProgramAside(run);
+    MoveFilesAside(run);
     if (!HoldsAnyFile(run.host.files, run.InDestination("")))
         return Step::GoOn;
     const bool goOn = run.ask.YesNo(
@@ -293,13 +291,13 @@ CreateResult RunCreate(CreateRun& run)
             return CreateResult::Stopped;
         const CreateResult result = RunPipeline(run);
         LeavePackage(run);
-        RemoveOrRestoreOlderProgram(run);
+        RestoreFilesAside(run);
         return result;
     } catch (const RunError& error) {
         // Kept: the buttons stay disabled until the form is opened anew.
         run.failure = error;
         LeavePackage(run);
-        RemoveOrRestoreOlderProgram(run);
+        RestoreFilesAside(run);
         run.ask.AddStatusLine("Kan ej skapa!");
         run.ask.Critical("Fel", "Fel! Kan ej skriva till destinationsenheten!");
         return CreateResult::Failed;

@@ -129,6 +129,7 @@ TEST(RunCreate, ClearsTheInternetFolderAndAsksForTheRest)
     desk.Choose(Medium::Internet);
     for (const char* name : {"INSTALL.ZIP", "INSTALL.ADX", "self.exe", "kvar.txt"})
         desk.machine.files.Put(Text("C:\\Ut\\") + name, "old");
+    desk.machine.files.Put("C:\\Ut\\INSTALL.ADX", "Quillon self-extracting program 1\r\n");
     const ExpectedBox notEmpty{
         BoxKind::YesNo, "Katalogen är ej tom",
         "Katalogen 'C:\\Ut', där den självuppackande installationsfilen ska skapas i är ej tom! "

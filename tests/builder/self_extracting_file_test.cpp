@@ -7,6 +7,7 @@
 #include "create_desk.h"
 #include "formats/package.h"
 #include "formats/self_extraction.h"
+#include "helpers/utf16.h"
 #include "helpers/version_resource.h"
 #include "support/linked_program.h"
 #include "support/one_file_host.h"
@@ -366,6 +367,21 @@ TEST_F(SelfExtractingFile, ShowsTheMessageThatIsDescribed)
                                HasSubstr("Msg_Extract=" + longest + "\\r\\n\r\n")));
 }
 
+TEST_F(SelfExtractingFile, ShowsAMessageOfEveryAlphabet)
+{
+    const auto isDescribed =
+        testing::AllOf(HasSubstr("72502=Подготовка 𝄞\r\n"),
+                       HasSubstr("9005=[PreLoader]\\r\\nMsg_Extract=Подготовка 𝄞\\r\\n\r\n"));
+    const Text file = "[PreLoader]\r\nMsg_Extract=\"Подготовка 𝄞\"\r\n";
+    EXPECT_THAT(Described("\xEF\xBB\xBF" + file), isDescribed);
+    EXPECT_THAT(Described("\xFF\xFE" + ToUtf16(file)), isDescribed);
+    Text longest;
+    for (int i = 0; i < 200; ++i)
+        longest += "я";
+    EXPECT_THAT(Described("\xEF\xBB\xBF[PreLoader]\r\nMsg_Extract=" + longest + "ю\r\n"),
+                HasSubstr("72502=" + longest + "\r\n"));
+}
+
 TEST_F(SelfExtractingFile, TakesItsTextsFromTheSectionAndNoRemark)
 {
     EXPECT_THAT(Described("; Texts of [PreLoader]\r\n[Setup]\r\nMsg_Extract=b\r\n[preloader]\r\n"
@@ -418,6 +434,29 @@ TEST_F(SelfExtractingFile, IsWholeOrNotThere)
     EXPECT_GT(failures, 5);
     EXPECT_GT(failuresWithoutLine, 0);
     EXPECT_GT(failures, failuresWithoutLine);
+}
+
+// What lies there then is an older archive, or none.
+TEST_F(SelfExtractingFile, IsNotMadeWhereTheArchiveCannotBeWritten)
+{
+    desk.machine.files.RefuseOutput("C:\\Ut\\INSTALL.ZIP", 70);
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_FALSE(desk.Has("self.exe"));
+    EXPECT_TRUE(desk.Has("FILEDATA.DAT"));
+    EXPECT_THAT(desk.statusLines,
+                testing::Contains("Fel #70 inträffade när en självuppackande installation skulle "
+                                  "skapas!"));
+}
+
+TEST_F(SelfExtractingFile, TellsWhyAFileCannotBePacked)
+{
+    desk.machine.files.Put("C:\\Ut\\låst.txt", "x");
+    desk.machine.files.At("C:\\Ut\\låst.txt").unreadable = true;
+    EXPECT_EQ(desk.Create({{BoxKind::YesNo, "Katalogen är ej tom", "", Answer::Yes}}),
+              CreateResult::Failed);
+    EXPECT_THAT(desk.statusLines,
+                testing::Contains("Fel #57 inträffade när en självuppackande installation skulle "
+                                  "skapas!"));
 }
 
 TEST(WithResources, RefusesWhatHasNoRoomOrIsNoProgram)

@@ -81,6 +81,13 @@ SelfExtractAttributes ReadSelfExtractProject(const FileSystem& files, const Text
     return attributes;
 }
 
+bool IsSelfExtractProject(const FileSystem& files, const Text& path)
+{
+    std::string beginning;
+    RunErrorNumber([&] { beginning = ReadBeginning(files, path, kHeading.size()); });
+    return beginning == kHeading;
+}
+
 Text AttributeOf(const SelfExtractAttributes& attributes, std::uint32_t number)
 {
     Text value;

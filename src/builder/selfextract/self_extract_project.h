@@ -20,6 +20,9 @@ void WriteSelfExtractProject(FileSystem& files, const Text& path,
 /// Throws `RunError`: 57 for a file that is none.
 SelfExtractAttributes ReadSelfExtractProject(const FileSystem& files, const Text& path);
 
+/// Whether such a file is there, by its heading.
+bool IsSelfExtractProject(const FileSystem& files, const Text& path);
+
 /// Empty where it is not set; the last one counts.
 Text AttributeOf(const SelfExtractAttributes& attributes, std::uint32_t number);
 

@@ -3,17 +3,15 @@
 #include "builder/remove_quietly.h"
 #include "builder/selfextract/accompanying_program.h"
 #include "builder/selfextract/active_delivery.h"
-#include "builder/selfextract/older_program.h"
+#include "builder/selfextract/files_aside.h"
 #include "builder/signing/sign_programs.h"
 #include "formats/package_files.h"
 #include "formats/runtime_programs.h"
 #include "formats/self_extraction.h"
-#include "helpers/ansi_text.h"
 #include "helpers/encoded_text.h"
 #include "helpers/windows_path.h"
 #include "ini/ini_text.h"
 #include "ini/profile_lines.h"
-#include "ini/profile_reader.h"
 #include "platform/whole_file.h"
 
 namespace quillon {
@@ -26,7 +24,7 @@ constexpr const char* kStandardIconName = "SelfExtract.ico";
 constexpr const char* kTempFolderDirective = "<WinTemp>";
 constexpr const char* kProgramFolderDirective = "<Exe>";
 constexpr const char* kMessageKey = "Msg_Extract";
-constexpr int kMessageLimit = 201; // a text of 200 characters and the end mark
+constexpr std::size_t kMaxMessageLength = 200; // characters
 
 struct SelfExtractInput {
     const CreateRun& run;
@@ -149,24 +147,26 @@ constexpr AttributeRow kAttributesInOrder[] = {
 };
 // clang-format on
 
-Text MessageOf(const Text& languageFile)
+/// The section alone; nothing where the file has none.
+IniText StarterTexts(const Text& languageFile)
 {
-    ProfileReader reader;
-    reader.SetIniBytes(AnsiText::ToBytes(languageFile));
-    reader.SetIniSection(kStarterSection);
-    return reader.ReadIniString(kMessageKey, kMessageLimit);
+    const auto section = ProfileSections(languageFile).Find(kStarterSection);
+    return IniText(section ? Text("[") + kStarterSection + "]\r\n" +
+                                 languageFile.substr(section->begin, section->end - section->begin)
+                           : Text(),
+                   IniText::Names::Utf8);
+}
+
+Text MessageOf(const IniText& texts)
+{
+    const Text onFile = texts.Value(kStarterSection, kMessageKey).value_or("");
+    return FirstCharacters(BareValue(onFile), kMaxMessageLength);
 }
 
 // Whoever runs the program reads these before there is a language file; of its message, what the
 // attribute says.
-Text TextsOf(const Text& languageFile, const Text& message)
+Text TextsWith(IniText texts, const Text& message)
 {
-    const auto section = ProfileSections(languageFile).Find(kStarterSection);
-    if (!section)
-        return {};
-    IniText texts(Text("[") + kStarterSection + "]\r\n" +
-                      languageFile.substr(section->begin, section->end - section->begin),
-                  IniText::Names::Utf8);
     if (texts.Value(kStarterSection, kMessageKey))
         texts.SetValue(kStarterSection, kMessageKey, message);
     return texts.Bytes();
@@ -178,13 +178,13 @@ SelfExtractInput InputOf(const CreateRun& run)
     RunErrorNumber([&] {
         bytes = ReadWholeFile(run.host.files, run.InDestination(run.project.Language.LanguageFile));
     });
-    const Text languageFile = DecodedText(bytes);
-    const Text message = MessageOf(languageFile);
+    const IniText texts = StarterTexts(DecodedText(bytes));
+    const Text message = MessageOf(texts);
     return {.run = run,
             .archive = run.InDestination(kSelfExtractArchive),
             .result = run.InDestination(run.project.InstallOptionsInternet.SelfExtractFilename),
             .message = message,
-            .texts = TextsOf(languageFile, message)};
+            .texts = TextsWith(texts, message)};
 }
 
 bool SetAttributes(ActiveDelivery& delivery, const Text& project, const SelfExtractInput& input)
@@ -245,10 +245,8 @@ bool BuildSelfExtractingFile(CreateRun& run)
     run.ask.AddStatusLine("Skapar " + UpperCase(name) + " (självuppackande installationsprogram)");
     const Text project = run.InDestination(kSelfExtractProject);
     const SelfExtractInput input = InputOf(run);
-    for (const Text& path : {input.archive, project})
-        RemoveQuietly(run.host.files, path);
     // Where the name was empty until now.
-    MoveOlderProgramAside(run);
+    MoveFilesAside(run);
 
     ActiveDelivery delivery(run.host, run.ask,
                             run.options.ToolFolder + "\\Release\\" +
@@ -259,7 +257,11 @@ bool BuildSelfExtractingFile(CreateRun& run)
             run.failure = delivery.LastFailure();
     };
     delivery.Method11(run.InDestination("*.*"), input.archive);
-    keepFailure();
+    // What is packed then is no archive of this folder: an older one, or none.
+    if (const auto failure = delivery.LastFailure()) {
+        run.failure = failure;
+        return TellFailure(run, failure->Number());
+    }
     Long number = delivery.Method1(project);
     if (number == 0 && !SetAttributes(delivery, project, input)) {
         keepFailure();

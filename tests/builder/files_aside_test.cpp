@@ -1,4 +1,4 @@
-#include "builder/selfextract/older_program.h"
+#include "builder/selfextract/files_aside.h"
 
 #include "builder/selfextract/active_delivery.h"
 #include "create_desk.h"
@@ -100,11 +100,86 @@ TEST_F(OlderProgram, GoesAfterARunThatWasKilledWhenANewOneIsThere)
     EXPECT_FALSE(desk.machine.files.DirExists("C:\\Ut\\PROGRAM.OLD"));
 }
 
+// Deleted it would be lost even to a user who does not go on, left it would be packed.
+TEST_F(OlderProgram, StopsARunThatCannotMoveItAside)
+{
+    desk.machine.files.Put("C:\\Ut\\PROGRAM.OLD", "a file, no folder");
+    EXPECT_EQ(desk.Create({{BoxKind::Critical, "Fel"}}), CreateResult::Failed);
+    EXPECT_EQ(desk.Get("self.exe"), "the older program");
+    EXPECT_EQ(desk.Get("PROGRAM.OLD"), "a file, no folder");
+    EXPECT_EQ(desk.statusLines.back(), "Kan ej skapa!");
+}
+
 TEST_F(OlderProgram, OnAnotherMediumIsNobodysMatter)
 {
     desk.Choose(Medium::CompressedCd);
     EXPECT_EQ(desk.Create(), CreateResult::Done);
     EXPECT_EQ(desk.Get("self.exe"), "the older program");
+}
+
+namespace {
+
+constexpr const char* kDescription = "Quillon self-extracting program 1\r\n0=0\r\n";
+
+class TemporaryNames : public testing::Test {
+protected:
+    TemporaryNames() { desk.Choose(Medium::Internet); }
+    void Put(const char* name, const Text& content)
+    {
+        desk.machine.files.Put(Text("C:\\Ut\\") + name, content);
+    }
+    bool HasFolderAside() const { return desk.machine.files.DirExists("C:\\Ut\\PROGRAM.OLD"); }
+
+    CreateDesk desk;
+};
+
+} // namespace
+
+TEST_F(TemporaryNames, OfAnEarlierRunAreDeleted)
+{
+    Put("INSTALL.ZIP", "its archive");
+    Put("INSTALL.ADX", kDescription);
+    Put("annat.txt", "other");
+    EXPECT_EQ(desk.Create({{BoxKind::YesNo, "Katalogen är ej tom", "", Answer::No}}),
+              CreateResult::Stopped);
+    EXPECT_THAT(desk.Package(), ElementsAre("annat.txt"));
+}
+
+TEST_F(TemporaryNames, OfTheUsersOwnFilesAreThereAfterwards)
+{
+    Put("INSTALL.ZIP", "an archive of the user's");
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_THAT(desk.Package(), ElementsAre("INSTALL.ZIP", "self.exe"));
+    EXPECT_EQ(desk.Get("INSTALL.ZIP"), "an archive of the user's");
+    EXPECT_FALSE(HasFolderAside());
+    // Nor was it packed.
+    EXPECT_EQ(desk.Get("self.exe").find("an archive of the user's"), std::string::npos);
+}
+
+TEST_F(TemporaryNames, OfTheUsersOwnFilesAreThereAfterAFailureAndANo)
+{
+    Put("INSTALL.ZIP", "an archive of the user's");
+    Put("INSTALL.ADX", "a text of the user's");
+    desk.machine.files.RemoveFile("C:\\Quillon\\Release\\QNSELFX.EXE");
+    EXPECT_EQ(desk.Create(), CreateResult::Failed);
+    EXPECT_EQ(desk.Get("INSTALL.ZIP"), "an archive of the user's");
+    EXPECT_EQ(desk.Get("INSTALL.ADX"), "a text of the user's");
+    // The package of the failed run is there.
+    EXPECT_EQ(desk.Create({{BoxKind::YesNo, "Katalogen är ej tom", "", Answer::No}}),
+              CreateResult::Stopped);
+    EXPECT_EQ(desk.Get("INSTALL.ZIP"), "an archive of the user's");
+    EXPECT_EQ(desk.Get("INSTALL.ADX"), "a text of the user's");
+    EXPECT_FALSE(HasFolderAside());
+}
+
+TEST_F(TemporaryNames, AreRestoredAfterARunThatWasKilled)
+{
+    Put("PROGRAM.OLD\\INSTALL.ZIP", "an archive of the user's");
+    Put("INSTALL.ZIP", "the killed run's");
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_THAT(desk.Package(), ElementsAre("INSTALL.ZIP", "self.exe"));
+    EXPECT_EQ(desk.Get("INSTALL.ZIP"), "an archive of the user's");
+    EXPECT_FALSE(HasFolderAside());
 }
 
 // Of a program that would be larger than Windows starts nothing is left, and the older one stays.
