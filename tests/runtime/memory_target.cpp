@@ -163,6 +163,13 @@ void MemoryTarget::MoveAtRestart(const Text& from, const Text& to)
         ListMoveAtRestart(from, to);
 }
 
+std::string MemoryTarget::RestartEntry(const Text& from, const Text& to) const
+{
+    const Text root = restartMark + "\\??\\";
+    return TextData(root + from).bytes +
+           (to.empty() ? std::string(2, '\0') : TextData("!" + root + to).bytes);
+}
+
 // Pairs of texts, of which the second may be empty, and an empty text after the last pair.
 void MemoryTarget::ListMoveAtRestart(const Text& from, const Text& to)
 {
@@ -171,8 +178,7 @@ void MemoryTarget::ListMoveAtRestart(const Text& from, const Text& to)
     const auto present = ReadValue(RestartMovesKey(), kRestartMoves);
     std::string moves = present ? present->bytes : empty;
     moves.resize(moves.size() - empty.size());
-    moves += TextData("\\??\\" + from).bytes;
-    moves += to.empty() ? empty : TextData("!\\??\\" + to).bytes;
+    moves += RestartEntry(from, to);
     auto& value = keys.at(IdOf(RestartMovesKey())).values[LowerCase(kRestartMoves)];
     value = {kRestartMoves, {kListOfTexts, moves + empty}};
 }

@@ -49,6 +49,9 @@ public:
     }
     bool IsLink(const Text& folder) const override { return links.count(LowerCase(folder)) > 0; }
 
+    /// A move as it stands in the registry.
+    std::string RestartEntry(const Text& from, const Text& to) const;
+
     /// The value's text, "<none>" where there is none.
     Text TextAt(const RegistryKey& key, const Text& name) const;
 
@@ -62,6 +65,7 @@ public:
     std::set<Text> fonts;
     std::vector<std::pair<Text, Text>> movesAtRestart;
     bool listsMovesAtRestart = false; // in its registry as well, as Windows does
+    Text restartMark; // before each path there: nothing, or '*' and a number in newer systems
     bool hasCommonFolders = true;
     std::vector<Text> programsRun;    // a program, its arguments and " (hidden)" after it
     std::map<Text, int> programCodes; // 0 where not named

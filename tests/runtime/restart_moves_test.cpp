@@ -15,18 +15,18 @@ const std::string kEmpty("\0\0", 2);
 constexpr std::uint32_t kListOfTexts = 7;
 
 /// A system that writes down what it is to move, as Windows does.
-class RestartMoves : public SetupFixture {
+class RestartMoves : public SetupFixture, public testing::WithParamInterface<const char*> {
 protected:
     RestartMoves()
     {
+        target.restartMark = GetParam();
         AddFile("levande.dll", "%DESTDIR", "version 1", "A");
         target.MakeKey(RestartMovesKey());
     }
 
-    static std::string Move(const Text& from, const Text& to)
+    std::string Move(const Text& from, const Text& to) const
     {
-        return TextData("\\??\\" + from).bytes +
-               (to.empty() ? kEmpty : TextData("!\\??\\" + to).bytes);
+        return target.RestartEntry(from, to);
     }
     void WriteMoves(const std::string& moves)
     {
@@ -70,7 +70,7 @@ protected:
 };
 
 // Otherwise the machine's next start would bring the older file back.
-TEST_F(RestartMoves, AreForgottenWhenALaterVersionIsInItsPlace)
+TEST_P(RestartMoves, AreForgottenWhenALaterVersionIsInItsPlace)
 {
     InstallVersion("version 1");
     InstallWhileItIsHeld("version 2");
@@ -86,7 +86,7 @@ TEST_F(RestartMoves, AreForgottenWhenALaterVersionIsInItsPlace)
     EXPECT_FALSE(memory.files.DirExists(kMain)) << Log();
 }
 
-TEST_F(RestartMoves, OfOthersStay)
+TEST_P(RestartMoves, OfOthersStay)
 {
     InstallVersion("version 1");
     const Text others = "C:\\Temp\\annan.tmp";
@@ -101,7 +101,7 @@ TEST_F(RestartMoves, OfOthersStay)
     EXPECT_TRUE(memory.files.FileExists(kMain + "\\~qn5.tmp\\1"));
 }
 
-TEST_F(RestartMoves, OfWhatHasGoneAreForgottenToo)
+TEST_P(RestartMoves, OfWhatHasGoneAreForgottenToo)
 {
     InstallVersion("version 1");
     WriteMoves(Move(kMain + "\\~qn6.tmp\\1", "c:\\PROGRAM\\exempel\\Levande.dll"));
@@ -110,7 +110,7 @@ TEST_F(RestartMoves, OfWhatHasGoneAreForgottenToo)
 }
 
 // An uninstaller has found the file in use, and the product comes back before the next start.
-TEST_F(RestartMoves, RemoveNoFileThatIsInstalledAgain)
+TEST_P(RestartMoves, RemoveNoFileThatIsInstalledAgain)
 {
     const std::string others = Move("C:\\bort.txt", "");
     WriteMoves(others + Move("c:\\PROGRAM\\exempel\\Levande.dll", ""));
@@ -120,7 +120,7 @@ TEST_F(RestartMoves, RemoveNoFileThatIsInstalledAgain)
     EXPECT_EQ(memory.files.Get(kFile), "version 2");
 }
 
-TEST_F(RestartMoves, RemoveNoFileThatASetupKeeps)
+TEST_P(RestartMoves, RemoveNoFileThatASetupKeeps)
 {
     package.rows[0].copyOptions = "D";
     memory.files.Put(kFile, "a newer one", {2030, 1, 1, 0, 0, 0});
@@ -130,7 +130,7 @@ TEST_F(RestartMoves, RemoveNoFileThatASetupKeeps)
     EXPECT_EQ(Moves(), "");
 }
 
-TEST_F(RestartMoves, RemoveWhatASetupThatFailsHasLeftAsItWas)
+TEST_P(RestartMoves, RemoveWhatASetupThatFailsHasLeftAsItWas)
 {
     const std::string before = Move(kFile, "");
     WriteMoves(before);
@@ -142,7 +142,7 @@ TEST_F(RestartMoves, RemoveWhatASetupThatFailsHasLeftAsItWas)
     EXPECT_EQ(Moves(), before + kEmpty);
 }
 
-TEST_F(RestartMoves, OfTheSetupItselfStay)
+TEST_P(RestartMoves, OfTheSetupItselfStay)
 {
     InstallVersion("version 1");
     InstallWhileItIsHeld("version 2");
@@ -155,7 +155,7 @@ TEST_F(RestartMoves, OfTheSetupItselfStay)
 }
 
 // One that fails has put nothing in the place of what waits.
-TEST_F(RestartMoves, StayWhereTheLaterSetupFails)
+TEST_P(RestartMoves, StayWhereTheLaterSetupFails)
 {
     InstallVersion("version 1");
     InstallWhileItIsHeld("version 2");
@@ -170,7 +170,7 @@ TEST_F(RestartMoves, StayWhereTheLaterSetupFails)
 }
 
 // The next run clears that away, and that is part of it.
-TEST_F(RestartMoves, AreForgottenBehindASetupThatWasKilledAfterItsCommit)
+TEST_P(RestartMoves, AreForgottenBehindASetupThatWasKilledAfterItsCommit)
 {
     InstallVersion("version 1");
     InstallWhileItIsHeld("version 2");
@@ -227,7 +227,7 @@ protected:
     bool wasListed = false; // the first move
 };
 
-TEST_F(RestartMovesOfAFailedSetup, AreForgottenWhenItIsUndone)
+TEST_P(RestartMovesOfAFailedSetup, AreForgottenWhenItIsUndone)
 {
     FailAtSecondMove(RunError(ErrorNumber::kDeviceIo, "disken"));
     EXPECT_EQ(Install(), ExitCode::Failed) << Log();
@@ -235,7 +235,7 @@ TEST_F(RestartMovesOfAFailedSetup, AreForgottenWhenItIsUndone)
     ExpectNothingLeft();
 }
 
-TEST_F(RestartMovesOfAFailedSetup, AreForgottenByTheNextRunWhereItWasKilled)
+TEST_P(RestartMovesOfAFailedSetup, AreForgottenByTheNextRunWhereItWasKilled)
 {
     struct Killed {};
     FailAtSecondMove(Killed{});
@@ -245,6 +245,10 @@ TEST_F(RestartMovesOfAFailedSetup, AreForgottenByTheNextRunWhereItWasKilled)
     EXPECT_EQ(FinishInterrupted({host, target, log}, kMain), EarlierRun::Finished);
     ExpectNothingLeft();
 }
+
+// What stands before a path depends on the system.
+INSTANTIATE_TEST_SUITE_P(Marked, RestartMoves, testing::Values("", "*1", "*12"));
+INSTANTIATE_TEST_SUITE_P(Marked, RestartMovesOfAFailedSetup, testing::Values("", "*1"));
 
 } // namespace
 } // namespace quillon::test

@@ -21,10 +21,22 @@ std::string_view TextAt(std::string_view bytes, std::size_t at)
     return bytes.substr(std::min(at, bytes.size()), end + kUnit - at);
 }
 
-// As the system writes a path there.
-std::string EntryOf(const Text& path)
+// Marks stand before the path: '!' where a file may be replaced, and in newer systems '*' with a
+// number. Empty for what is no path of a file.
+Text PathOf(std::string_view entry)
 {
-    return TextData("\\??\\" + path).bytes;
+    constexpr std::string_view kRoot = "\\??\\";
+    constexpr std::string_view kMarks = "!*0123456789";
+    const Text text = TextOf({kRegistryText, std::string(entry)}).value_or("");
+    const std::size_t root = text.find(kRoot);
+    return root != Text::npos && text.find_first_not_of(kMarks) == root
+               ? text.substr(root + kRoot.size())
+               : Text();
+}
+
+bool IsEntryOf(std::string_view entry, const Text& path)
+{
+    return EqualIgnoreCase(PathOf(entry), path);
 }
 
 // Calls `see(from, to)` for each move. The value is a list of pairs of which the second may be
@@ -44,22 +56,12 @@ void EachMove(std::string_view operations, See see)
 
 std::string WithoutMovesOf(std::string_view operations, const Text& from)
 {
-    const std::string wanted = EntryOf(from);
     std::string kept;
     EachMove(operations, [&](std::string_view first, std::string_view second) {
-        if (first != wanted)
+        if (!IsEntryOf(first, from))
             kept.append(first).append(second);
     });
     return kept;
-}
-
-// The second path of a move that replaces a file has a mark before it.
-Text PathOf(std::string_view entry)
-{
-    constexpr std::string_view kRoot = "\\??\\";
-    const Text text = TextOf({kRegistryText, std::string(entry)}).value_or("");
-    const std::size_t at = text.find(kRoot);
-    return at > 1 ? Text() : text.substr(at + kRoot.size());
 }
 
 // A transaction's temporary folder, beside the place.
@@ -136,10 +138,9 @@ bool IsRemovedAtRestart(const Target& target, const Text& path)
     const auto present = target.ReadValue(RestartMovesKey(), kRestartMoves);
     if (!present)
         return false;
-    const std::string wanted = EntryOf(path);
     bool isRemoved = false;
     EachMove(present->bytes, [&](std::string_view first, std::string_view second) {
-        isRemoved = isRemoved || (first == wanted && second.size() <= kUnit);
+        isRemoved = isRemoved || (second.size() <= kUnit && IsEntryOf(first, path));
     });
     return isRemoved;
 }
