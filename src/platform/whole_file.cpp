@@ -57,6 +57,14 @@ void WriteWholeFile(FileSystem& files, const Text& path, std::string_view bytes)
     file->Close();
 }
 
+void WriteFlushedFile(FileSystem& files, const Text& path, std::string_view bytes)
+{
+    const auto file = files.OpenOutput(path);
+    file->Write(std::as_bytes(std::span(bytes)));
+    file->Flush();
+    file->Close();
+}
+
 AnsiTextFile::AnsiTextFile(FileSystem& files, const Text& path)
     : owned_(files.OpenOutput(path)), file_(owned_.get())
 {

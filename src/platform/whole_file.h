@@ -16,6 +16,8 @@ std::string ReadWholeFile(InputFile& file);
 std::string ReadBeginning(const FileSystem& files, const Text& path, std::size_t limit);
 
 void WriteWholeFile(FileSystem& files, const Text& path, std::string_view bytes);
+/// The same, forced out to the disk: a former file that it takes the place of may be deleted next.
+void WriteFlushedFile(FileSystem& files, const Text& path, std::string_view bytes);
 
 /// A text file on its way out: Windows-1252, CR LF after every line. Lines are collected and
 /// written in large pieces, so a failed write may show some lines late, and in `Close` at the

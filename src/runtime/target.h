@@ -115,6 +115,12 @@ public:
     virtual std::unique_ptr<InputFile> OpenOfTrustedUser(const Text& path) const = 0;
     /// Whether what is there leads to another folder.
     virtual bool IsLink(const Text& folder) const = 0;
+    /// Whether two paths lead to one file, however they are spelt. False where one is missing.
+    virtual bool IsSameFile(const Text& path, const Text& other) const = 0;
+
+    /// Asks the system not to end the session while the answer is alive, with a reason for the
+    /// user.
+    virtual std::shared_ptr<void> HoldShutdown(const Text& reason) = 0;
 };
 
 } // namespace quillon

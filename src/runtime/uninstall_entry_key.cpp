@@ -11,6 +11,21 @@ RegistryKey UninstallEntryKey(const Text& product, InstallScope scope)
             "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + AsFileName(product)};
 }
 
+UninstallCommand ReadUninstallCommand(const Text& command)
+{
+    UninstallCommand read;
+    Text* part = &read.program;
+    for (std::size_t at = command.find('"'); at != Text::npos; at = command.find('"', at)) {
+        const std::size_t end = command.find('"', at + 1);
+        if (end == Text::npos || part == nullptr)
+            break;
+        *part = command.substr(at + 1, end - at - 1);
+        part = part == &read.program ? &read.journal : nullptr;
+        at = end + 1;
+    }
+    return read;
+}
+
 RegistryKey RecordedUninstallEntry(const Text& product, const std::vector<JournalRecord>& records)
 {
     const RegistryKey ofUser = UninstallEntryKey(product, InstallScope::CurrentUser);

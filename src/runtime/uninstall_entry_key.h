@@ -15,6 +15,15 @@ inline constexpr const char* kInstallLocation = "InstallLocation";
 inline constexpr const char* kDisplayVersion = "DisplayVersion";
 inline constexpr const char* kUninstallString = "UninstallString";
 
+/// What that command starts, and with which journal; empty parts of one that is not ours.
+struct UninstallCommand {
+    Text program;
+    Text journal;
+};
+
+/// "program" "journal", as the setup writes it there.
+UninstallCommand ReadUninstallCommand(const Text& command);
+
 /// Where the entry of the product of that name is.
 RegistryKey UninstallEntryKey(const Text& product, InstallScope scope = InstallScope::Project);
 

@@ -183,6 +183,24 @@ void MemoryTarget::ListMoveAtRestart(const Text& from, const Text& to)
     value = {kRestartMoves, {kListOfTexts, moves + empty}};
 }
 
+bool MemoryTarget::IsSameFile(const Text& path, const Text& other) const
+{
+    const auto plain = [&](const Text& name) {
+        return !otherNameOfMain.empty() && LowerCase(name).starts_with(LowerCase(otherNameOfMain))
+                   ? main + name.substr(otherNameOfMain.size())
+                   : name;
+    };
+    return files_->FileExists(path) && files_->FileExists(other) &&
+           EqualIgnoreCase(plain(path), plain(other));
+}
+
+std::shared_ptr<void> MemoryTarget::HoldShutdown(const Text& reason)
+{
+    shutdownReasons.push_back(reason);
+    ++shutdownHolds;
+    return {nullptr, [this](void*) { --shutdownHolds; }};
+}
+
 int MemoryTarget::RunProgram(const ProgramRun& run)
 {
     programsRun.push_back(run.program + (run.arguments.empty() ? "" : " " + run.arguments) +

@@ -48,6 +48,8 @@ public:
         return IsOfTrustedUser(path) ? files_->OpenInput(path) : nullptr;
     }
     bool IsLink(const Text& folder) const override { return links.count(LowerCase(folder)) > 0; }
+    bool IsSameFile(const Text& path, const Text& other) const override;
+    std::shared_ptr<void> HoldShutdown(const Text& reason) override;
 
     /// A move as it stands in the registry.
     std::string RestartEntry(const Text& from, const Text& to) const;
@@ -76,6 +78,10 @@ public:
     std::set<Text> closedToOthers;
     std::set<Text> ofOthers; // files that somebody else made
     std::set<Text> links;    // in lower case
+    Text otherNameOfMain;    // a second path of the folder `main`
+    Text main;
+    std::vector<Text> shutdownReasons; // of all holds so far
+    int shutdownHolds = 0;             // that are alive
 
 private:
     void ListMoveAtRestart(const Text& from, const Text& to);

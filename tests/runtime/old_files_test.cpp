@@ -215,5 +215,23 @@ TEST_F(OldFilesTest, AreKnownByOneLineEachHoweverOftenTheProductIsInstalled)
     EXPECT_EQ(Count(kOld), 1U);
 }
 
+// The folder has two paths, as one with a short name has: what the earlier version wrote under the
+// first is what this one writes under the second.
+TEST_F(OldFilesTest, StayWhereTheNewVersionHasThemUnderAnotherPath)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    const Text other = "C:\\PROGRA~1\\EXEMPEL";
+    target.main = kMain;
+    target.otherNameOfMain = other;
+    memory.files.Put(other + "\\QNXUNIN.LOG", memory.files.Get(kMain + "\\QNXUNIN.LOG"));
+    for (const char* name : {"\\prog.exe", "\\Data\\gammal.txt"})
+        memory.files.Put(other + name, memory.files.Get(kMain + name));
+    package.rows.resize(1);
+    ASSERT_EQ(Install("/S /D=" + other), ExitCode::Done) << Log();
+    EXPECT_TRUE(memory.files.FileExists(kMain + "\\prog.exe")) << Log();
+    // This one is not of the new version.
+    EXPECT_FALSE(memory.files.FileExists(kOld));
+}
+
 } // namespace
 } // namespace quillon::test

@@ -5,6 +5,7 @@
 #include "runtime/journal/restart_moves.h"
 #include "runtime/shared_files.h"
 #include "runtime/uninstall/uninstall.h"
+#include "runtime/uninstall_entry_key.h"
 
 namespace quillon {
 
@@ -703,6 +704,56 @@ TEST_F(UninstallTest, IsNotOfferedWithoutUninstallSupport)
     EXPECT_FALSE(
         target.KeyExists({RegistryRoot::LocalMachine,
                           "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Exempel"}));
+}
+
+// The entry in the system's list is the one of the copy that was installed last.
+TEST_F(UninstallTest, LeavesTheEntryOfACopyInAnotherFolder)
+{
+    ASSERT_EQ(Install(), ExitCode::Done);
+    ASSERT_EQ(Install("/S /D=C:\\Annan\\Exempel"), ExitCode::Done) << Log();
+    const RegistryKey entry = UninstallEntryKey("Exempel");
+    const Text command = target.TextAt(entry, kUninstallString);
+    ASSERT_THAT(command, HasSubstr("C:\\Annan\\Exempel"));
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done) << Log();
+    EXPECT_FALSE(memory.files.DirExists(kMain));
+    EXPECT_EQ(target.TextAt(entry, kUninstallString), command);
+    EXPECT_EQ(target.TextAt(entry, "DisplayName"), "Exempel");
+    EXPECT_EQ(UninstallProduct("C:\\Annan\\Exempel\\QNXUNIN.LOG"), ExitCode::Done) << Log();
+    EXPECT_FALSE(target.KeyExists(entry));
+}
+
+TEST_F(UninstallTest, HoldsAShutdownOffAsTheInstallationDoes)
+{
+    int holds = 0;
+    target.beforeChange = [&] {
+        // What says that a setup runs is written before it, and removed after it.
+        holds = std::max(holds, target.shutdownHolds);
+    };
+    project.Lists.Registry = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Firma :: A=\"1\"";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_EQ(std::exchange(holds, 0), 1);
+    EXPECT_EQ(target.shutdownHolds, 0);
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(holds, 1);
+    EXPECT_EQ(target.shutdownHolds, 0);
+    EXPECT_EQ(target.shutdownReasons,
+              (std::vector<Text>{package.texts[Message::Copying],
+                                 package.texts[Message::UninstallRunning]}));
+}
+
+// A machine that loses its power right afterwards has them whole.
+TEST_F(UninstallTest, ForcesOutWhatTakesThePlaceOfFormerFiles)
+{
+    const Text ini = "C:\\Windows\\A.INI";
+    memory.files.Put(ini, "[Egen]\r\ny=2\r\n");
+    project.Lists.INIFiles = "-- A.INI --\r\n[S]\r\nx=1";
+    ASSERT_EQ(Install(), ExitCode::Done);
+    EXPECT_THAT(memory.files.Get(ini), HasSubstr("x=1"));
+    EXPECT_TRUE(memory.files.At(ini).isFlushed);
+    EXPECT_TRUE(memory.files.At(kMain + "\\QNXUNIN.LOG").isFlushed);
+    EXPECT_EQ(UninstallProduct(), ExitCode::Done);
+    EXPECT_EQ(memory.files.Get(ini), "[Egen]\r\ny=2\r\n");
+    EXPECT_TRUE(memory.files.At(ini).isFlushed);
 }
 
 } // namespace quillon

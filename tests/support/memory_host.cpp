@@ -57,6 +57,7 @@ public:
         files_.BeforeWrite(path_, bytes.size());
         bytes_->append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
         files_.At(path_).status.size = bytes_->size();
+        files_.At(path_).isFlushed = false;
     }
     void WriteAt(std::uint64_t position, std::span<const std::byte> bytes) override
     {
@@ -65,7 +66,11 @@ public:
         std::memcpy(bytes_->data() + position, bytes.data(), bytes.size());
     }
     std::uint64_t Position() const override { return bytes_->size(); }
-    void Flush() override { files_.BeforeWrite(path_, 0); }
+    void Flush() override
+    {
+        files_.BeforeWrite(path_, 0);
+        files_.At(path_).isFlushed = true;
+    }
     void Close() override {}
 
 private:

@@ -24,7 +24,8 @@ public:
         std::shared_ptr<std::string> bytes; // null on a folder
         FileStatus status;
         bool unreadable = false;
-        Text rights; // who may do what, as the test calls it; empty: as in any folder
+        bool isFlushed = false; // to the disk, all that has been written
+        Text rights;            // who may do what, as the test calls it; empty: as in any folder
     };
 
     /// A file with all folders above it.

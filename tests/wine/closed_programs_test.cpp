@@ -76,6 +76,22 @@ TEST_F(ClosedPrograms, MayRefuseToEnd)
     EXPECT_EQ(ReadBytes(prefix.OnHost(kHeld)), "former");
 }
 
+// The desktop itself may be one of them. What is removed is not started again.
+TEST_F(ClosedPrograms, AreStartedAgainByAnUninstallerToo)
+{
+    ASSERT_THAT(Drive("box 6\nrelease\npage Installationen avslutad\npress 1\nend\n"),
+                testing::EndsWith("code 0\n"));
+    fs::remove(prefix.DriveC() / "rm.txt");
+    Set("programs=1\r\n");
+    const std::string main = kHeld;
+    const std::string uninstaller = main.substr(0, main.find("\\Data")) + "\\QNXUNIN.EXE";
+    EXPECT_THAT(DriveSetup(prefix, "hold " + main + "\nrun \"" + uninstaller +
+                                       "\" /CLOSEAPPLICATIONS /S\nrelease\nend\n"),
+                HasSubstr("code "));
+    prefix.WaitForAll();
+    EXPECT_EQ(Calls(), "start\nregister 1\nfilter 1\nlist 1 of 1\nshutdown\nrestart\nend\n");
+}
+
 TEST_F(ClosedPrograms, AreLeftAloneAgainstTheSwitch)
 {
     EXPECT_THAT(Drive("box 2\nend\n", " /NOCLOSEAPPLICATIONS"), testing::EndsWith("code 20003\n"));

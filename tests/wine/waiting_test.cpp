@@ -26,11 +26,11 @@ TEST_F(WaitingSetup, AnswersWhatAProgramSendsToAllWindows)
     UseNoScreen(prefix);
     Remember();
     EXPECT_EQ(Setup("/passive"), 0U);
-    EXPECT_EQ(TakeAnswers(), "/regserver 1 0\nscript 1 0\n");
+    EXPECT_EQ(TakeAnswers(), "/regserver 1 0 held\nscript 1 0 held\n");
     // The setup waits for the uninstaller, and that for the program.
     EXPECT_EQ(Setup("/uninstall /passive"), 0U);
     prefix.WaitForAll();
-    EXPECT_EQ(TakeAnswers(), "/unregserver 2 0\n");
+    EXPECT_EQ(TakeAnswers(), "/unregserver 2 0 held\n");
     EXPECT_FALSE(IsThere());
 }
 

@@ -55,7 +55,7 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
     for (JournalRecord& record : records)
         work.journal.Add(std::move(record));
     const Text staged = work.transaction.StagingPath(path);
-    WriteWholeFile(work.files, staged, file->Bytes());
+    WriteFlushedFile(work.files, staged, file->Bytes());
     work.transaction.PutFile({.staged = staged,
                               .path = path,
                               .replaces = existed,
@@ -93,7 +93,7 @@ void RewriteFile(const FileRewriting& rewriting, const Text& path, std::string_v
     try {
         if (files.FileExists(staged))
             RemoveEvenReadOnly(files, staged);
-        WriteWholeFile(files, staged, bytes);
+        WriteFlushedFile(files, staged, bytes);
         rewriting.target.CopyRights(path, staged);
         if (wasProtected) {
             files.SetReadOnly(staged, true);

@@ -101,7 +101,7 @@ void StartupFile::Add(const Text& lines)
     for (JournalRecord& record : records_)
         work_.journal.Add(std::move(record));
     const Text staged = work_.transaction.StagingPath(path_);
-    WriteWholeFile(work_.files, staged, bytes);
+    WriteFlushedFile(work_.files, staged, bytes);
     work_.transaction.PutFile({.staged = staged,
                                .path = path_,
                                .replaces = existed,

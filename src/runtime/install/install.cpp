@@ -33,6 +33,7 @@ public:
 
     InstallResult Run()
     {
+        const auto hold = input_.target.HoldShutdown(input_.texts[Message::Copying]);
         try {
             DoEverything();
         } catch (const std::exception& error) {

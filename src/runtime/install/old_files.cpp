@@ -9,6 +9,9 @@
 #include "runtime/shared_files.h"
 #include "runtime/texts/failure_reason.h"
 
+#include <algorithm>
+#include <map>
+#include <optional>
 #include <set>
 
 namespace quillon {
@@ -71,6 +74,25 @@ std::optional<Reason> ReasonToStay(const EarlierFiles& earlier, const Text& path
     return std::nullopt;
 }
 
+/// Finds a file of the new version by another path of its: with a short name, or through a link
+/// above, an earlier setup may have been given the same folder.
+class NewFiles {
+public:
+    explicit NewFiles(const Target& target) : target_(target) {}
+
+    void Add(const Text& path) { byName_.emplace(LowerCase(ExtractFilename(path)), &path); }
+    bool Has(const Text& path) const
+    {
+        const auto [begin, end] = byName_.equal_range(LowerCase(ExtractFilename(path)));
+        return std::any_of(
+            begin, end, [&](const auto& named) { return target_.IsSameFile(path, *named.second); });
+    }
+
+private:
+    const Target& target_;
+    std::multimap<Text, const Text*> byName_;
+};
+
 std::set<Text> PathsOfNewVersion(const InstallPlan& plan)
 {
     std::set<Text> paths;
@@ -96,6 +118,7 @@ public:
 
 private:
     void CollectNewOnes();
+    bool IsOfNewVersion(const Text& path);
     bool IsGone(const Text& path);
     void KeepContents(const std::set<Text>& gone) const;
     void KeepFolder(const Text& folder);
@@ -107,10 +130,11 @@ private:
     const KnownContents& contents_;
     const std::deque<JournalRecord>& records_;
     const std::size_t earlier_;
-    std::set<Text> written_;       // by this installation; all in lower case
-    std::set<Text> wanted_;        // rows of the new version and their shortcuts, installed or not
-    std::set<Text> kept_;          // folders that the new version needs
-    std::map<Text, Text> leaving_; // folders that are empty afterwards, perhaps
+    std::set<Text> written_; // by this installation; all in lower case
+    std::set<Text> wanted_;  // rows of the new version and their shortcuts, installed or not
+    std::optional<NewFiles> newFiles_; // of both; made where an old file is met
+    std::set<Text> kept_;              // folders that the new version needs
+    std::map<Text, Text> leaving_;     // folders that are empty afterwards, perhaps
 };
 
 void OldFiles::CollectNewOnes()
@@ -144,7 +168,10 @@ void OldFiles::RemoveAll()
             gone.count(key) > 0)
             continue;
         // Taken along, since the journal may grow meanwhile.
-        if (const Text path = file->path; IsGone(path)) {
+        const Text path = file->path;
+        if (IsOfNewVersion(path))
+            gone.insert(key);
+        else if (IsGone(path)) {
             gone.insert(key);
             NoteFolders(path);
         }
@@ -152,6 +179,17 @@ void OldFiles::RemoveAll()
     RemoveFolders();
     KeepContents(gone);
     work_.journal.Forget(gone);
+}
+
+bool OldFiles::IsOfNewVersion(const Text& path)
+{
+    if (!newFiles_) {
+        newFiles_.emplace(work_.target);
+        for (const std::set<Text>* const paths : {&written_, &wanted_})
+            for (const Text& one : *paths)
+                newFiles_->Add(one);
+    }
+    return newFiles_->Has(path);
 }
 
 // True also where it had gone before.
@@ -227,10 +265,14 @@ std::vector<OldFile> PlanOldFiles(const FileSystem& files, const Target& target,
     std::set<Text> known = PathsOfNewVersion(plan);
     for (const PlannedShortcut& shortcut : plan.shortcuts)
         known.insert(LowerCase(shortcut.path));
+    NewFiles newFiles(target);
+    for (const PlannedFile& file : plan.files)
+        newFiles.Add(file.path);
     std::vector<OldFile> found;
     for (const JournalRecord& one : journal.Records())
         if (const auto* const file = std::get_if<record::File>(&one);
-            file && known.insert(LowerCase(file->path)).second && files.FileExists(file->path))
+            file && known.insert(LowerCase(file->path)).second && files.FileExists(file->path) &&
+            !newFiles.Has(file->path))
             found.push_back({file->path, ReasonToStay({files, target, journal, earlier.contents,
                                                        plan.mainFolder},
                                                       file->path)});

@@ -89,6 +89,8 @@ void InstallJournal::Save(FileSystem& files, const Text& path) const
     for (const Text& piece : contents_)
         add(piece);
     file->Write(std::as_bytes(std::span(lines)));
+    // Without it nothing that is installed can be removed again.
+    file->Flush();
     file->Close();
 }
 

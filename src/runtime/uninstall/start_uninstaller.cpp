@@ -9,34 +9,13 @@ namespace quillon {
 
 namespace {
 
-struct UninstallCommand {
-    Text program;
-    Text journal;
-};
-
-// "program" "journal", as the setup writes it into the list of programs.
-UninstallCommand ReadCommand(const Text& command)
-{
-    UninstallCommand read;
-    Text* part = &read.program;
-    for (std::size_t at = command.find('"'); at != Text::npos; at = command.find('"', at)) {
-        const std::size_t end = command.find('"', at + 1);
-        if (end == Text::npos || part == nullptr)
-            break;
-        *part = command.substr(at + 1, end - at - 1);
-        part = part == &read.program ? &read.journal : nullptr;
-        at = end + 1;
-    }
-    return read;
-}
-
 std::optional<UninstallCommand> InstalledCommand(const UninstallerStart& start)
 {
     for (const InstallScope scope : {start.switches.scope, InstallScope::CurrentUser}) {
         const auto data =
             start.target.ReadValue(UninstallEntryKey(start.product, scope), kUninstallString);
         if (const auto text = data ? TextOf(*data) : std::nullopt)
-            return ReadCommand(*text);
+            return ReadUninstallCommand(*text);
     }
     return std::nullopt;
 }

@@ -88,6 +88,7 @@ private:
     void RemoveFolder(const Text& folder);
     bool HoldsOnlyWhatGoes(const Text& folder) const;
     bool IsOfEntry(const JournalRecord& record) const;
+    bool StartsAnotherUninstaller();
     void Stays(const Text& what, const Reason& reason);
     void NoteLeft(const Text& what, const Text& why);
     void LeaveToRestart(const Text& path);
@@ -150,6 +151,7 @@ void Uninstallation::Attempt(const Text& what, Work work)
 // is interrupted, or could not remove everything, can begin again.
 UninstallResult Uninstallation::Run()
 {
+    const auto hold = input_.target.HoldShutdown(input_.product.texts[Message::UninstallRunning]);
     input_.ask.AddStatusLine(input_.product.texts[Message::UninstallRunning]);
     Attempt(input_.journalPath, [&] { ReleaseSharedFiles(); });
     UndoAll(Part::AllButEntry);
@@ -157,7 +159,7 @@ UninstallResult Uninstallation::Run()
         Attempt(move.from, [&] { UndoRestart(move); });
     RemoveKeysThatAreEmptyByNow();
     RemoveFolders(Folders::Others);
-    if (!partly_)
+    if (!partly_ && !StartsAnotherUninstaller())
         UndoAll(Part::Entry);
     if (!partly_)
         Attempt(input_.journalPath, [&] { RemoveProductItself(); });
@@ -165,6 +167,19 @@ UninstallResult Uninstallation::Run()
     NoteWhatIsNotEmpty();
     const ExitCode done = goesAtRestart_.empty() ? ExitCode::Done : ExitCode::RestartNeeded;
     return {partly_ ? ExitCode::Failed : done, std::move(left_)};
+}
+
+// The product may have been installed in another folder since. Its entry starts that one's
+// uninstaller, and goes with it.
+bool Uninstallation::StartsAnotherUninstaller()
+{
+    const auto data = input_.target.ReadValue(entry_, kUninstallString);
+    const auto command = data ? TextOf(*data) : std::nullopt;
+    if (!command || EqualIgnoreCase(files_.ShortPath(ReadUninstallCommand(*command).journal),
+                                    files_.ShortPath(input_.journalPath)))
+        return false;
+    input_.log.Skipped(KeyText(entry_), {Message::ReasonValueChanged});
+    return true;
 }
 
 void Uninstallation::UndoAll(Part part)

@@ -21,7 +21,7 @@ Function OfLibrary(HMODULE library, const char* name)
 
 RestartManager::~RestartManager()
 {
-    if (hasClosed_ && startsAgain_ == StartsAgain::Yes)
+    if (hasClosed_)
         OfLibrary<decltype(&RmRestart)>(library_, "RmRestart")(session_, 0, nullptr);
     End();
 }
@@ -76,11 +76,24 @@ std::vector<Text> RestartManager::ProgramsHolding(const std::vector<Text>& files
             session_, static_cast<UINT>(names.size()), names.data(), 0, nullptr, 0, nullptr) !=
         ERROR_SUCCESS)
         return {};
+    if (startsAgain_ == StartsAgain::NotNamedOnes)
+        LeaveEnded(paths);
     std::vector<Text> programs;
     for (const RM_PROCESS_INFO& program : Listed())
         if (program.Process.dwProcessId != GetCurrentProcessId())
             programs.push_back(Narrow(program.strAppName));
     return programs;
+}
+
+// The desktop's own program and services have to come back, whatever they had loaded; a program
+// that is about to go has not. Of a file that is no program nothing is noted.
+void RestartManager::LeaveEnded(const std::vector<std::wstring>& programs) const
+{
+    const auto addFilter = OfLibrary<decltype(&RmAddFilter)>(library_, "RmAddFilter");
+    if (addFilter == nullptr)
+        return;
+    for (const std::wstring& program : programs)
+        addFilter(session_, program.c_str(), nullptr, nullptr, RmNoRestart);
 }
 
 // Programs start and end between two calls, so that what was needed once may be too little.

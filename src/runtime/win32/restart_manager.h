@@ -11,8 +11,8 @@ namespace quillon {
 
 class RestartManager : public FileUsers {
 public:
-    /// Whether programs that were closed are started again in the end, where they can be.
-    enum class StartsAgain { Yes, No };
+    /// Which of the programs that were closed are started again in the end, where they can be.
+    enum class StartsAgain { All, NotNamedOnes };
     explicit RestartManager(StartsAgain startsAgain) : startsAgain_(startsAgain) {}
     ~RestartManager() override;
     RestartManager(const RestartManager&) = delete;
@@ -25,6 +25,7 @@ public:
 private:
     bool Begin();
     void End();
+    void LeaveEnded(const std::vector<std::wstring>& programs) const;
     std::vector<RM_PROCESS_INFO> Listed() const;
 
     const StartsAgain startsAgain_;

@@ -10,6 +10,7 @@
 #include "runtime/win32/register_process.h"
 #include "runtime/win32/register_server.h"
 #include "runtime/win32/run_program.h"
+#include "runtime/win32/shutdown_hold.h"
 
 #include <shlobj.h>
 
@@ -259,6 +260,27 @@ bool WinTarget::IsLink(const Text& folder) const
         return false;
     // Other kinds of such points stand for where the contents are kept, not for another name.
     return found.dwReserved0 == 0 || IsReparseTagNameSurrogate(found.dwReserved0);
+}
+
+bool WinTarget::IsSameFile(const Text& path, const Text& other) const
+{
+    const auto informationOf = [](const Text& file) -> std::optional<BY_HANDLE_FILE_INFORMATION> {
+        const FileHandle handle(CreateFileW(WidePath(file).c_str(), 0, kShareAll, nullptr,
+                                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+        BY_HANDLE_FILE_INFORMATION information{};
+        if (!handle.IsOpen() || !GetFileInformationByHandle(handle.Get(), &information))
+            return std::nullopt;
+        return information;
+    };
+    const auto one = informationOf(path);
+    const auto two = informationOf(other);
+    return one && two && one->dwVolumeSerialNumber == two->dwVolumeSerialNumber &&
+           one->nFileIndexHigh == two->nFileIndexHigh && one->nFileIndexLow == two->nFileIndexLow;
+}
+
+std::shared_ptr<void> WinTarget::HoldShutdown(const Text& reason)
+{
+    return std::make_shared<ShutdownHold>(reason);
 }
 
 } // namespace quillon

@@ -35,6 +35,8 @@ public:
     bool IsOfTrustedUser(const Text& path) const override;
     std::unique_ptr<InputFile> OpenOfTrustedUser(const Text& path) const override;
     bool IsLink(const Text& folder) const override;
+    bool IsSameFile(const Text& path, const Text& other) const override;
+    std::shared_ptr<void> HoldShutdown(const Text& reason) override;
 
 private:
     Text registryHelper_;

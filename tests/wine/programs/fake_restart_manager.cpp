@@ -98,6 +98,13 @@ __declspec(dllexport) DWORD WINAPI RmRestart(DWORD, DWORD, RM_WRITE_STATUS_CALLB
     return ERROR_SUCCESS;
 }
 
+__declspec(dllexport) DWORD WINAPI
+    RmAddFilter(DWORD, LPCWSTR, RM_UNIQUE_PROCESS*, LPCWSTR, RM_FILTER_ACTION action)
+{
+    Append(L"filter %u", static_cast<UINT>(action));
+    return ERROR_SUCCESS;
+}
+
 __declspec(dllexport) DWORD WINAPI RmEndSession(DWORD)
 {
     Append(L"end");

@@ -26,6 +26,7 @@
 #include "runtime/win32/run_to_end.h"
 #include "runtime/win32/screen_sound.h"
 #include "runtime/win32/screen_window.h"
+#include "runtime/win32/setup_files.h"
 #include "runtime/win32/single_instance.h"
 #include "runtime/win32/start_as_user.h"
 #include "runtime/win32/win_target.h"
@@ -119,7 +120,7 @@ SetupEnd InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
     std::optional<SingleInstance> only;
     if (switches.task == SetupTask::Install)
         only.emplace();
-    RestartManager users(RestartManager::StartsAgain::Yes);
+    RestartManager users(RestartManager::StartsAgain::All);
     texts = package.texts;
     const PrivateFolder work(host);
     WinTarget target(JoinPath(work.Path(), RuntimePrograms::kRegistryHelper.inPackage));
@@ -168,7 +169,7 @@ SetupEnd InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
 // `texts` become those of the package as soon as they have been read.
 SetupEnd RunOnWindows(HINSTANCE instance, Switches switches, LanguageTexts& texts)
 {
-    WinFiles files;
+    SetupFiles files;
     WinMachine machine;
     Host host{files, machine};
     if (switches.packageFolder.empty())

@@ -4,13 +4,13 @@
 #include "helpers/windows_path.h"
 #include "platform/win32/program_path.h"
 #include "platform/win32/wide_text.h"
-#include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
 #include "runtime/passive_ask.h"
 #include "runtime/uninstall/uninstall_program.h"
 #include "runtime/win32/list_window.h"
 #include "runtime/win32/message_box.h"
 #include "runtime/win32/restart_manager.h"
+#include "runtime/win32/setup_files.h"
 #include "runtime/win32/single_instance.h"
 #include "runtime/win32/win_target.h"
 #include "runtime/win32/window_ask.h"
@@ -88,13 +88,12 @@ int RunUninstaller(HINSTANCE instance, const StarterLine& from)
     if (line.journalPath.empty())
         line.journalPath =
             JoinPath(ExtractDirectory(from.program), RuntimePrograms::kInstallJournal);
-    WinFiles files;
+    SetupFiles files;
     WinMachine machine;
     Host host{files, machine};
     WinTarget target;
     const SingleInstance only;
-    // What they were started from is gone then.
-    RestartManager users(RestartManager::StartsAgain::No);
+    RestartManager users(RestartManager::StartsAgain::NotNamedOnes);
     WaitingStarter running(files, from.program);
     UninstallProgram program(
         {host, target, line, from.program, only.IsAlreadyRunning(), &users, &running});
