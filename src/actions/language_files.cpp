@@ -5,6 +5,8 @@
 #include "helpers/windows_name.h"
 #include "helpers/windows_path.h"
 #include "platform/failure_text.h"
+#include "platform/saved_file.h"
+#include "platform/whole_file.h"
 #include "project/text_limits.h"
 
 #include <algorithm>
@@ -102,7 +104,11 @@ std::optional<Text> AddLanguage(const Host& host, const LanguageFolders& folders
         if (name == kReferenceLanguage)
             return;
         host.files.DirCreate(folders.own);
-        host.files.CopyContent(reference, copy);
+        const std::string texts = ReadWholeFile(host.files, reference);
+        // A translation may be in it.
+        if (host.files.FileExists(copy) && ReadWholeFile(host.files, copy) != texts)
+            KeepBeside(host.files, copy);
+        SaveWholeFile(host.files, copy, texts);
     };
     return TryOrReport(make, copy, ask) ? std::optional(name) : std::nullopt;
 }

@@ -118,11 +118,12 @@ void CommandBars::ShowToolbar(Tab tab)
 
 void CommandBars::ShowRecentFiles(const std::array<Text, kRecentFileCount>& files)
 {
+    // The mark of a free slot is shown alone, so that the list of a new machine is not empty.
+    const bool isEmpty = std::ranges::all_of(files, [](const Text& file) { return file.empty(); });
     for (int slot = 0; slot < kRecentFileCount; ++slot) {
         const Text& file = files[static_cast<std::size_t>(slot)];
         QAction* action = ActionOf(kRecentFiles[static_cast<std::size_t>(slot)]);
-        // The mark of a free slot is shown alone, so that the list of a new machine is not empty.
-        action->setVisible(!file.empty() || slot == 0);
+        action->setVisible(!file.empty() || (isEmpty && slot == 0));
         const Text name = file.empty() ? Text(kFreeSlot) : ProjectTitle(file);
         action->setText(ToQt(name).replace('&', "&&"));
         action->setStatusTip(ToQt(file));

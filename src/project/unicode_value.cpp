@@ -21,8 +21,6 @@ Text UnicodeValueOnFile(const Text& value, int limit)
     // A reader takes blanks off at both ends, and one pair of quotation marks.
     if (BareValue(bytes) != bytes)
         bytes = '"' + bytes + '"';
-    else if (isPlain)
-        return value;
     return bytes.size() < static_cast<std::size_t>(limit) ? AnsiText::FromBytes(bytes) : Text();
 }
 

@@ -8,7 +8,7 @@
 namespace quillon {
 
 /// The value as a profile file can hold it within `limit` (the size of the reader's buffer). Empty
-/// where it would come back as another one: it has a line break, or its marked form is too long.
+/// where it would come back as another one: it has a line break, or it is too long.
 Text UnicodeValueOnFile(const Text& value, int limit);
 
 /// The way back. A marked value that is no UTF-8 is empty.

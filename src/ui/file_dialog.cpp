@@ -30,6 +30,12 @@ QStringList NameFilters(const Text& filter)
     return filters;
 }
 
+/// The patterns of Qt's "A (*.x *.y)".
+QStringList PatternsIn(const QString& filter)
+{
+    return filter.section('(', -1).chopped(1).split(' ', Qt::SkipEmptyParts);
+}
+
 /// "*.ini" instead of a name, which no file of Windows has.
 bool IsPattern(const QString& typed)
 {
@@ -52,6 +58,7 @@ private:
     void AcceptWindowsPaths();
     bool TakeTypedPattern();
     bool TakeTypedWindowsPath();
+    void AddMissingExtension();
     void PreferTypedNames();
     bool RefusesAFile();
     void Refuse(const QString& text);
@@ -120,6 +127,7 @@ void FileDialog::accept()
     if (TakeTypedPattern())
         return;
     PreferTypedNames();
+    AddMissingExtension();
     if (TakeTypedWindowsPath() && !RefusesAFile())
         QFileDialog::accept();
 }
@@ -150,6 +158,25 @@ bool FileDialog::TakeTypedPattern()
         files->setNameFilters(PatternsOf(typed));
     field->selectAll();
     return true;
+}
+
+/// Qt gives no extension to a name that has a dot, such as one with a version, and the file would
+/// be hidden from the dialog that opens it.
+void FileDialog::AddMissingExtension()
+{
+    auto* field = findChild<QLineEdit*>("fileNameEdit");
+    const QString typed = field->text().trimmed();
+    const bool isName = !typed.isEmpty() && !typed.contains('"') && !QFileInfo(typed).isDir() &&
+                        !typed.endsWith('/') && !typed.endsWith('\\');
+    if (acceptMode() != AcceptSave || defaultSuffix().isEmpty() || !isName)
+        return;
+    const QStringList patterns = PatternsIn(selectedNameFilter());
+    const bool isOfFilter = std::ranges::any_of(patterns, [&](const QString& pattern) {
+        return pattern == "*" || pattern == "*.*" ||
+               typed.endsWith(pattern.mid(1), Qt::CaseInsensitive);
+    });
+    if (!isOfFilter)
+        field->setText(typed + '.' + defaultSuffix());
 }
 
 /// A typed "C:\Data\a.txt" is looked up where drive C: lies here. False where there is no such

@@ -85,6 +85,10 @@ TEST_F(LanguageFilesTest, AreReplacedWithoutAQuestion)
     EXPECT_EQ(Add("NORSK"), "NORSK.LNG");
     EXPECT_EQ(Get("norsk.lng"), "new");
     EXPECT_EQ(Listed().size(), 2U);
+    // A translation is kept beside it, and only once.
+    EXPECT_EQ(Get("NORSK.LNG.bak"), "old");
+    EXPECT_EQ(Add("NORSK"), "NORSK.LNG");
+    EXPECT_FALSE(machine.files.FileExists("C:\\Quillon\\Language\\NORSK.LNG.bak2"));
 }
 
 TEST_F(LanguageFilesTest, AreNotAddedWithoutAName)

@@ -191,6 +191,11 @@ TEST(RecentFilesMenu, ShowsTheMarkOfAFreeSlotOnANewMachineAndFillsFromTheTop)
     EXPECT_EQ(context.Entry(CommandId::RecentFile1).text(), "R&&D.qnp");
     EXPECT_EQ(context.Entry(CommandId::RecentFile2).text(), "b.qnp");
     EXPECT_FALSE(context.Entry(CommandId::RecentFile3).isVisible());
+    // A file that others have written may have a gap.
+    context.session.RecentFiles = {"", kB};
+    context.form.ShowRecentFiles();
+    EXPECT_FALSE(context.Entry(CommandId::RecentFile1).isVisible());
+    EXPECT_TRUE(context.Entry(CommandId::RecentFile2).isVisible());
 }
 
 struct Closing {

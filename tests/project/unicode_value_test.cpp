@@ -45,6 +45,8 @@ TEST(UnicodeValue, IsEmptyWhereItWouldComeBackAsAnotherOne)
     EXPECT_EQ(UnicodeValueOnFile(Text(kLimit, 'x') + "Ω", kLimit), "");
     EXPECT_EQ(UnicodeValueOnFile(" " + Text(kLimit - 3, 'x'), kLimit), "")
         << "with its quotation marks it is too long";
+    EXPECT_EQ(UnicodeValueOnFile(Text(kLimit - 1, 'x'), kLimit), Text(kLimit - 1, 'x'));
+    EXPECT_EQ(UnicodeValueOnFile(Text(kLimit, 'x'), kLimit), "") << "it would come back cut";
     EXPECT_EQ(UnicodeValueFromFile(AnsiText::FromBytes("utf-8:\xD0")), "");
 }
 

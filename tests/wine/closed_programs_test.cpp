@@ -79,17 +79,16 @@ TEST_F(ClosedPrograms, MayRefuseToEnd)
 // The desktop itself may be one of them. What is removed is not started again.
 TEST_F(ClosedPrograms, AreStartedAgainByAnUninstallerToo)
 {
-    ASSERT_THAT(Drive("box 6\nrelease\npage Installationen avslutad\npress 1\nend\n"),
-                testing::EndsWith("code 0\n"));
-    fs::remove(prefix.DriveC() / "rm.txt");
+    ASSERT_EQ(prefix.Run(OnZ(package / "SETUP.EXE"), "/S"), 0U);
     Set("programs=1\r\n");
-    const std::string main = kHeld;
-    const std::string uninstaller = main.substr(0, main.find("\\Data")) + "\\QNXUNIN.EXE";
-    EXPECT_THAT(DriveSetup(prefix, "hold " + main + "\nrun \"" + uninstaller +
-                                       "\" /CLOSEAPPLICATIONS /S\nrelease\nend\n"),
-                HasSubstr("code "));
-    prefix.WaitForAll();
+    const std::string log =
+        DriveSetup(prefix, "hold " + std::string(kHeld) +
+                               "\nrun \"C:\\Program Files\\Provpaket Åäö\\QNXUNIN.EXE\"\n"
+                               "list Vill du ta bort Provpaket Åäö från datorn? Det här tas bort:\n"
+                               "press 1\nbox 6\nrelease\nbox 1\nend\n");
+    EXPECT_THAT(log, testing::EndsWith("code 0\n"));
     EXPECT_EQ(Calls(), "start\nregister 1\nfilter 1\nlist 1 of 1\nshutdown\nrestart\nend\n");
+    EXPECT_FALSE(fs::exists(prefix.OnHost(kHeld)));
 }
 
 TEST_F(ClosedPrograms, AreLeftAloneAgainstTheSwitch)

@@ -34,8 +34,11 @@ void IconForm::TickAddIconOnTyping(QLineEdit* field)
 void IconForm::ChoosePlace()
 {
     DlgIconOptions form(icon_.places, this);
-    if (form.ShowModal())
-        icon_.places = form.Places;
+    if (!form.ShowModal())
+        return;
+    icon_.places = form.Places;
+    // Kept: any OK marks the project.
+    session_.state.ProjectIsDirty = kOn;
 }
 
 bool IconForm::CanStore(QLineEdit* field)

@@ -122,10 +122,12 @@ TEST_F(DlgIconTest, ChangesNothingOnCancel)
         Click(options, "cIconOnDesktop");
         Click(options, "cmdOK");
     });
+    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
     Click(form, "mIconOptions");
+    // Kept: any OK marks the project.
+    EXPECT_EQ(session.state.ProjectIsDirty, kOn);
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_EQ(row, before);
-    EXPECT_EQ(session.state.ProjectIsDirty, kOff);
 }
 
 TEST_F(DlgIconTest, TakesOnePlaceFromItsOptions)

@@ -137,6 +137,19 @@ TEST_F(FileDialogTest, GivesASavedNameItsExtension)
     EXPECT_EQ(ChooseFileToSave(question, paths, nullptr), "C:\\Data\\nytt.qnp");
 }
 
+// A name with a version has a dot, but no extension that the dialog for opening would show.
+TEST_F(FileDialogTest, GivesASavedNameWithADotItsExtensionToo)
+{
+    const auto saved = [&](const char* typed) {
+        OnNextDialog([&](QDialog& dialog) { Enter(dialog, typed); });
+        return ChooseFileToSave(question, paths, nullptr);
+    };
+    EXPECT_EQ(saved("Räkna 1.2"), "C:\\Data\\Räkna 1.2.qnp");
+    EXPECT_EQ(saved("C:\\Data\\nytt"), "C:\\Data\\nytt.qnp");
+    EXPECT_EQ(saved("c:\\data\\version 2.0"), "C:\\Data\\version 2.0.qnp");
+    EXPECT_EQ(saved("nytt.QNP"), "C:\\Data\\nytt.QNP");
+}
+
 TEST_F(FileDialogTest, AsksBeforeItOverwrites)
 {
     OnNextDialog([](QDialog& dialog) {
