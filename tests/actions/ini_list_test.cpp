@@ -41,7 +41,7 @@ TEST(IniValueToAppend, EndsItsLine)
     EXPECT_EQ(IniValueToAppend("[A]\r\n", "a=b", "c=d"), "a=b=c=d\r\n");
 }
 
-// Glued to the line before, a value would reach another file on the end user's machine.
+// Without a line break before it, the value would go to another file on the end user's machine.
 TEST(IniValueToAppend, BeginsALineWhereTheListsLastOneHasNoEnd)
 {
     EXPECT_EQ(IniValueToAppend("-- WIN.INI --", "a", "1"), "\r\na=1\r\n");

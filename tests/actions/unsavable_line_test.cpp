@@ -25,14 +25,14 @@ TEST(FindUnsavableLine, LetsEveryUsualLinePass)
         EXPECT_FALSE(FindUnsavableLine(kBefore, list)) << list;
 }
 
-// What stands further up in the file is found there first.
+// A mark that comes earlier in the file is found there first.
 TEST(FindUnsavableLine, LetsTheHeadersOfEarlierListsPass)
 {
     using section::Lists;
     EXPECT_FALSE(FindUnsavableLine(kBefore, "[RunScriptBefore]\r\n[Version]"));
     EXPECT_FALSE(FindUnsavableLine(&Lists::Registry, "[Configuration]\r\n[RunScriptAfter]"));
     EXPECT_FALSE(FindUnsavableLine(&Lists::RegisterFileList, "[RegisterFiles]\r\n[ConfigSys]"));
-    // A list is looked for in its own case of letters.
+    // The mark of a list is compared with case.
     EXPECT_FALSE(FindUnsavableLine(kBefore, "[registry]\r\n [Registry]\r\n[Registry] "));
     // These lines have a mark in front.
     EXPECT_FALSE(FindUnsavableLine(&Lists::INIFiles, "[AutoexecBat]\r\n....\r\n[FileList]"));
@@ -83,7 +83,7 @@ TEST(FindUnsavableLine, IsRightAboutAScriptWithTheHeaderOfTheFlags)
     EXPECT_EQ(read.Lists.Registry, "");
 }
 
-// Whatever a list may hold by this judgement comes back from the file, with all other lists.
+// Any list that passes this check comes back from the file, with all other lists.
 TEST(FindUnsavableLine, LetsNothingPassThatDoesHarm)
 {
     using section::Lists;

@@ -77,7 +77,7 @@ TEST_F(MainFormTest, TellsOfUnsavedChangesInTheStatusBar)
     MainForm form(session);
     ShowActive(form);
     const auto& pane = Find<QLabel>(form, "MainStatusBarUnsaved");
-    // The window looks when there is nothing else to do.
+    // The window compares when there are no further events.
     const auto waitForUser = [] {
         QEventLoop loop;
         QTimer::singleShot(0, &loop, [&loop] { QTimer::singleShot(0, &loop, &QEventLoop::quit); });

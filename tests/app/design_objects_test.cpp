@@ -276,7 +276,7 @@ TEST_F(DesignObjectsTest, CancelInAnEditorMovesNothing)
     project.DesTextBox.ShowTextBox = kOn;
     project.DesTextBox.BoxPlaceBelowTitle = kOff;
     Show();
-    // As a larger window would have left it.
+    // A place that was set in a larger window.
     project.DesTextBox.BoxXPos = 30000;
     for (const int editor : {0, 1}) {
         OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdCancel"); });
@@ -402,7 +402,7 @@ TEST_F(DesignObjectsTest, ALogotypeAsLargeAsTheSurfaceIsRefused)
     project.DesLogotype.LogotypeFilename = "C:\\stor.bmp";
     Show();
     EXPECT_FALSE(Object("DesLogotype").isVisible());
-    // The file may be right for a larger window; it is reported once, and stays.
+    // The picture may fit a larger window, so its name stays; it is reported once.
     EXPECT_EQ(project.DesLogotype.LogotypeFilename, "C:\\stor.bmp");
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
     page->Screen().DrawDesAll();
@@ -445,7 +445,7 @@ TEST_F(DesignObjectsTest, PicturesBehindOneThatAnEditorBreaksStayShown)
     Drag(Object("DesPicture1"), {37, 11});
     EXPECT_EQ(record.Pictures[1].PictureXPos, 340 + 37 * 15);
     EXPECT_EQ(record.Pictures[2].PictureXPos, 440);
-    // Of another project nothing is shown that is not its own, also where it names the same files.
+    // Nothing of another project is shown, even where it names the same files.
     ask.Expect({BoxKind::Critical, "Fel bildformat"});
     page->BeginProject();
     page->ShowSession();
@@ -470,7 +470,7 @@ TEST_F(DesignObjectsTest, AnEmptiedSlotIsHiddenBehindOneThatCantBeRead)
     EXPECT_LE(screen.PicturesMemory(), before / 2) << "nothing is kept of what is hidden";
 }
 
-/// Files that report which one is opened.
+/// Files that record which one is opened.
 class WatchedFiles : public MemoryFiles {
 public:
     std::unique_ptr<InputFile> OpenInput(const Text& path) const override
@@ -483,7 +483,7 @@ public:
     std::function<void(const Text&)> onOpen;
 };
 
-/// Notes when a widget comes up.
+/// Records that a widget is shown.
 class ShownNote : public QObject {
 public:
     ShownNote(QWidget& widget, QStringList& notes) : notes_(notes)

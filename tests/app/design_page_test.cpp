@@ -174,7 +174,7 @@ TEST_F(DesignPageTest, TellsOnceOfAPictureThatIsNoneAndKeepsItsName)
     page.BeginProject();
     page.ShowSession();
     page.Screen().DrawDesAll();
-    // One that is whole again in between is reported when it fails anew.
+    // One that could be read in between is reported when it fails again.
     PutPicture("C:\\bild.bmp", TwoColours(4, 4));
     page.Screen().DrawDesBackground();
     machine.files.Put("C:\\bild.bmp", "no picture at all");
@@ -215,7 +215,7 @@ TEST_F(DesignPageTest, SaysInTheStatusBarWhyAPictureIsMissing)
     picture.PictureFilename = "C:\\bild.bmp";
     page.Screen().DrawDesPictures();
     EXPECT_EQ(ask.statusTexts.back(), "");
-    // Behind another tab nothing of it stays, and nothing that others say is taken away.
+    // On another tab the status bar keeps nothing of it, and texts of others stay.
     const std::size_t said = ask.statusTexts.size();
     page.Screen().DrawDesAll();
     page.Screen().HideDesObjects();
@@ -301,7 +301,7 @@ TEST_F(DesignPageTest, KeepsOfItsPicturesNoMoreThanItShows)
     DesignPage& page = Show();
     QTest::qWait(0);
     const QSize screen = page.screen()->size().expandedTo(Surface().size());
-    // With its halves, of which a much smaller one is made.
+    // With its halves, from which a much smaller one is made.
     const double kept = double(screen.width()) * screen.height() * 4 / 3;
     const double shown = double(Surface().width()) * Surface().height() + 3.0 * 200 * 100;
     const double ratio = page.devicePixelRatioF();
@@ -328,7 +328,7 @@ TEST_F(DesignPageTest, KeepsNothingOfALogotypeThatIsTakenAway)
     EXPECT_EQ(page.Screen().PicturesMemory(), 0);
 }
 
-// What the ones behind it keep is given up then: they are read anew after it.
+// The pictures after it are given up then, and are read again after it.
 TEST_F(DesignPageTest, ReadsALargePictureAlsoWhereTheOnesBehindItTakeItsRoom)
 {
     const auto put = [&](const Text& path, int width, int height) {
@@ -362,7 +362,8 @@ TEST_F(DesignPageTest, ShowsTheMiddleOfAPictureLargerThanTheSurface)
     EXPECT_EQ(PixelAt(shown, {0, 0}), kRedPixel);
     EXPECT_EQ(PixelAt(shown, middle - QPoint(0, 5)), kRedPixel);
     EXPECT_EQ(PixelAt(shown, middle + QPoint(0, 5)), kBluePixel);
-    // What is kept is as large as the screen, and what is made of it for a screen of many pixels.
+    // Kept are as many pixels as the screen has points, and what is scaled from them, in pixels of
+    // the screen.
     const QSize most = page.screen()->size().expandedTo(Surface().size()).grownBy({4, 4, 4, 4});
     const double ratio = page.devicePixelRatioF();
     EXPECT_LE(page.Screen().PicturesMemory(),
@@ -405,7 +406,7 @@ TEST_F(DesignPageTest, MovesObjectsInsideTheSurfaceWhenAProjectIsOpenedBehindAno
     EXPECT_EQ(behind[4], 30000) << "these are not moved";
     EXPECT_EQ(session.state.ProjectIsDirty, kOff);
     EXPECT_FALSE(Find<QWidget>(form, "DesTextBoxPic").isVisible());
-    // Looking at it changes nothing any more, and it is the same where it is in front.
+    // Showing it changes nothing any more, and it is the same as on the hidden tab.
     form.SelectTab(Tab::Design);
     QTest::qWait(0);
     EXPECT_EQ(places(), behind);

@@ -122,7 +122,7 @@ TEST_F(DialogsPageTest, ClearsTheOtherAgreementByThePressAlone)
     QTest::mousePress(&rtf, Qt::LeftButton, {}, QPoint(10, rtf.height() / 2));
     EXPECT_FALSE(Box("cLicenseInfoDlg").isChecked());
     EXPECT_TRUE(TakeDirty());
-    // The finger goes off the box before it lets go, so its own tick stays.
+    // The mouse is released outside the box, so its own tick stays.
     QTest::mouseRelease(&rtf, Qt::LeftButton, {}, QPoint(-50, -50));
     EXPECT_FALSE(rtf.isChecked());
     EXPECT_EQ(pages.LicenseInfoDlg, 0);

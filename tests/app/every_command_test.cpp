@@ -1,4 +1,4 @@
-// Every command of the menus and toolbars does something.
+// Every command of the menus and toolbars has an effect.
 #include "app/MainForm.h"
 #include "app/actions.h"
 #include "shell/command_table.h"

@@ -440,7 +440,7 @@ TEST_F(EveryWindow, ShowsTheMainWindowWholeOnASmallScreen)
     }
 }
 
-// The checks see what they are to see.
+// Shows that the checks find such faults.
 TEST(WindowLooks, FindFaults)
 {
     QWidget window;

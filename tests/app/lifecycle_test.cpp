@@ -23,7 +23,7 @@ ExpectedBox SaveQuestion(Answer answer)
             "Vissa inställningar har ändrats. Vill du spara dessa?", answer};
 }
 
-/// A machine with two projects, a user with a script, and the window.
+/// A machine with two projects, a user with prepared answers, and the window.
 class Desk {
 public:
     explicit Desk(std::deque<ExpectedBox> boxes = {}, std::deque<ScriptedAsk::Choice> choices = {})

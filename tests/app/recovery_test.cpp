@@ -1,5 +1,5 @@
-// What is left of unsaved work when the program ends without asking: it is really killed, and a
-// second one finds what the first one left.
+// What is kept of unsaved work when the program ends unexpectedly: the program is really killed,
+// and a second one finds what the first one left.
 #include "app/MainForm.h"
 #include "app/RecoveryKeeper.h"
 #include "platform/this_host.h"
@@ -87,7 +87,8 @@ public:
             setenv(kFolder, folder_->Path("c").c_str(), 1);
         }
         setenv("QUILLON_DRIVE_C", getenv(kFolder), 1);
-        // A killed program is begun anew by its own command line, not copied with all its threads.
+        // A killed program is started again by its own command line, not as a copy with all its
+        // threads.
         GTEST_FLAG_SET(death_test_style, "threadsafe");
     }
     ~KilledDesk()

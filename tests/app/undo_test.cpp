@@ -37,7 +37,7 @@ protected:
         ask.Expect(std::move(box));
         OpenWindow();
     }
-    /// Until the window has nothing else to do than to wait for its user.
+    /// Until the window has no more events to handle.
     static void Idle()
     {
         QEventLoop loop;

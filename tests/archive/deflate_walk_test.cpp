@@ -40,7 +40,7 @@ Stream DeflatedByZlib(const std::string& raw, int strategy)
     return stream;
 }
 
-// The same by unpacking: zlib can stop at the border of every block.
+// The expected end, by unpacking: zlib can stop at the border of every block.
 StreamEnd EndByUnpacking(const Stream& stream)
 {
     z_stream inflater{};
@@ -69,7 +69,7 @@ std::string RandomText(unsigned seed, std::size_t size, unsigned letters)
     std::mt19937 random(seed);
     std::string text;
     while (text.size() < size) {
-        // Now and then what came before, and a change of the letters, so that there are matches of
+        // Sometimes repeats what came before, and changes the letters, so that there are matches of
         // all distances and blocks of several codes.
         if (random() % 50 == 0 && text.size() > 300)
             text += text.substr(random() % (text.size() - 300), random() % 300);

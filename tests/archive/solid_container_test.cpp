@@ -49,7 +49,7 @@ private:
 struct Held {
     std::string held;
 };
-/// Bytes that live as long as who reads them.
+/// Bytes that live as long as their reader.
 class HeldInput : private Held, public BytesInput {
 public:
     explicit HeldInput(std::string bytes) : Held{std::move(bytes)}, BytesInput(held) {}
@@ -144,7 +144,7 @@ TEST(SolidContainer, GivesBackWhatWasWritten)
             EXPECT_TRUE(entry.isSolid);
             EXPECT_FALSE(entry.hasCrc || entry.isEncrypted || entry.isStored);
         }
-        // As often as anybody likes.
+        // Any number of times.
         for (int i = 0; i < 2; ++i)
             for (std::size_t j = 0; j < SomeFiles().size(); ++j)
                 EXPECT_TRUE(BytesOf(*container, container->Entries()[j]) == SomeFiles()[j].bytes)
@@ -241,7 +241,7 @@ TEST(SolidContainer, StoresEqualFilesOnce)
                  done.push_back(now);
              },
          .processEvents = {}});
-    // What nobody shares is packed again, and found again in the window.
+    // A file that is not shared is packed again, and found again in the window.
     EXPECT_LT(bytes.size(), 52'000U);
     const auto container = Open(bytes);
     ASSERT_EQ(container->Entries().size(), 3U);
@@ -482,7 +482,7 @@ TEST(SolidContainerWriter, TellsASourceThatChanged)
     EXPECT_EQ(ResultOfPacking(files, {"C:\\växer.txt"}), CompressionResult::kSourceChanged);
 }
 
-// The sizes alone are as large as they say: nothing of 5 GiB is made.
+// Only the sizes are given: nothing of 5 GiB is made.
 TEST(ContainerIndex, CountsBeyondFourGiB)
 {
     ContainerIndex index;

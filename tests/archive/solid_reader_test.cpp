@@ -90,7 +90,7 @@ TEST(SolidReader, GivesBackWhatWasWritten)
     ASSERT_EQ(reader.Table().files.size(), 3U);
     for (std::size_t i = 0; i < 3; ++i)
         EXPECT_EQ(reader.Table().files[i], test::SourceOf(SomeFiles()[i]).file);
-    // As often as anybody likes.
+    // Any number of times.
     for (int i = 0; i < 2; ++i) {
         CollectingSink sink;
         reader.Extract(sink);
@@ -154,7 +154,7 @@ TEST(SolidReader, RefusesAThousandDamagesOfOneBit)
     std::mt19937 random(1000);
     for (int i = 0; i < 1000; ++i) {
         const std::size_t place = random() % bytes.size();
-        // Nobody reads the checksum, and signing changes it.
+        // The checksum is not read, and signing changes it.
         if (place - fields->checksum < SignatureFields::kChecksumSize)
             continue;
         std::string damaged = bytes;

@@ -56,7 +56,7 @@ TEST(X86Filter, LeavesFarDistancesAndShortEndsAlone)
 
 TEST(X86Filter, CountsRoundAtTheEndOfItsNumbers)
 {
-    // 0xFFFFFF and 1 leave the positive distances; the highest byte stays one of the two.
+    // 0xFFFFFF and 1 exceed the positive distances; the highest byte is still 00 or FF.
     const std::string bytes = Bytes({0x90, 0xE8, 0xFF, 0xFF, 0xFF, 0x00});
     const std::string encoded = Filtered(bytes, Direction::Encode, 100);
     EXPECT_EQ(encoded, Bytes({0x90, 0xE8, 0x00, 0x00, 0x00, 0xFF}));

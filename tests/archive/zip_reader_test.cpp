@@ -68,7 +68,7 @@ void ExpectRefused(const std::string& archive, ZipError::Kind kind, const Text& 
     }
 }
 
-// The records of an archive put together by hand, so that each number in them can be made to lie.
+// The records of an archive written by hand, so that each number in them can be wrong.
 std::string Number(std::uint64_t number, int bytes)
 {
     std::string text;

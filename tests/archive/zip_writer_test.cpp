@@ -28,7 +28,7 @@ namespace {
 
 constexpr std::size_t kMiB = 1024 * 1024;
 
-/// Bytes that no packer makes smaller.
+/// Bytes that no packer can make smaller.
 std::string Noise(std::size_t size)
 {
     std::mt19937_64 random(20040301);
@@ -38,7 +38,7 @@ std::string Noise(std::size_t size)
     return bytes;
 }
 
-/// Bytes that shrink, and that no two places share.
+/// Bytes that can be packed, and of which no two places are alike.
 std::string Prose(std::size_t size)
 {
     constexpr std::string_view kLetters = "etaoinshrdlu.,\r\n";
@@ -225,7 +225,7 @@ TEST_F(ZipWriter, WritesAnEmptyArchive)
     EXPECT_TRUE(OpenArchive(archive).Entries().empty());
 }
 
-// A window has to live through all of it: the look at the sources, the samples of a large one, the
+// Events have to be handled in all phases: the look at the sources, the samples of a large one, the
 // reading of it for a password, and the packing.
 TEST_F(ZipWriter, YieldsOftenAlsoInsideALargeSource)
 {

@@ -1,5 +1,4 @@
-// Looks at archives from both sides: with our own reader, and with the programs that the rest of
-// the world opens them with.
+// Reads archives with our own reader, and with the programs that others open them with.
 #pragma once
 
 #include "archive/zip_reader.h"
@@ -9,7 +8,7 @@
 
 namespace quillon::test {
 
-/// A folder on the real disk that is gone with the test.
+/// A folder on the real disk that is removed after the test.
 class TemporaryFolder {
 public:
     TemporaryFolder();
@@ -29,7 +28,7 @@ struct Outcome {
     std::string output;
 };
 
-/// Runs a shell command; what it says on both channels comes back.
+/// Runs a shell command; returns the output of both channels.
 Outcome RunCommand(const std::string& command);
 
 /// `7z t` and `unzip -t` find nothing to complain about. Without a password unzip is asked too; it

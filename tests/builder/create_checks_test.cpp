@@ -469,7 +469,7 @@ TEST(CheckSmallContainer, RefusesAPassword)
                             "FILEDATA.DAT kan ej krypteras. Ta bort lösenordet eller välj den "
                             "vanliga komprimeringen."}}),
               CreateResult::Stopped);
-    // Where there is none, nothing keeps it from being encrypted.
+    // Without a solid container the package can be encrypted.
     desk.Choose(Medium::Internet);
     desk.form.UseCompression = 1;
     desk.form.TargetMedia = Medium::CompressedCd;

@@ -1,5 +1,5 @@
-// All that a run of Create needs, in memory: a small project that goes through, a tool folder with
-// stand-ins for the runtime's programs, and a user with a script.
+// All that a run of Create needs, in memory: a small project without faults, a tool folder with
+// stand-ins for the runtime's programs, and a user with prepared answers.
 #pragma once
 
 #include "builder/create.h"

@@ -138,7 +138,7 @@ TEST(RunCreate, ClearsTheInternetFolderAndAsksForTheRest)
         "installationsprogrammet! Vill du fortsätta?",
         Answer::No};
     EXPECT_EQ(desk.Create({notEmpty}), CreateResult::Stopped);
-    // The program of an earlier run is no waste: it comes back where no new one is made.
+    // The program of an earlier run is kept: it comes back where no new one is made.
     EXPECT_THAT(desk.Package(), ElementsAre("kvar.txt", "self.exe"));
     EXPECT_THAT(
         desk.statusLines,
@@ -612,14 +612,14 @@ TEST(RunCreate, ClearsAwayWhatAKilledRunHasLeft)
     desk.machine.files.Put("C:\\Ut\\PACKAGE.NEW\\SetupFiles\\a.txt_", "half");
     ASSERT_EQ(desk.Create(), CreateResult::Done);
     EXPECT_FALSE(desk.machine.files.DirExists("C:\\Ut\\PACKAGE.NEW"));
-    // A folder of that name that is no such thing stays.
+    // A folder of that name that was not made by Create stays.
     desk.machine.files.Put("C:\\Ut\\PACKAGE.NEW\\brev.txt", "the user's own");
     ASSERT_EQ(desk.Create(), CreateResult::Done);
     EXPECT_EQ(desk.Get("PACKAGE.NEW\\brev.txt"), "the user's own");
 }
 
-// Each write of a run fails once, from the first to the last: the run ends as a failure, says so,
-// and asks nothing but what it would ask anyway.
+// Each write of a run fails once, from the first to the last: the run ends as a failure, reports
+// it, and asks no further questions.
 class FullDisk : public testing::TestWithParam<Medium> {};
 
 TEST_P(FullDisk, EndsEveryRunAsAFailure)

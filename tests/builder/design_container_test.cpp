@@ -81,7 +81,7 @@ TEST_F(DesignContainer, LeavesOutATextBoxThatIsNotShown)
     EXPECT_EQ(EntryNames(desk).front(), "bakgrund.jpg");
 }
 
-// The runtime shows these before anybody was asked for a password.
+// The runtime shows these before it asks for a password.
 TEST_F(DesignContainer, IsAlwaysCompressedAndNeverEncrypted)
 {
     desk.form.UseCompression = 0;

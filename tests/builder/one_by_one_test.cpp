@@ -142,7 +142,7 @@ TEST_F(OneByOne, EndsAtAFolderOfTheTreeThatCannotBeMade)
                             "Kan ej skapa katalogen 'C:\\Ut\\SetupFiles\\DESTDIR\\Doc'!"));
 }
 
-// Kept: the line speaks of a folder, whatever it was that failed, and Create ends as if done.
+// Kept: the line names a folder, whatever failed, and Create ends as after a success.
 TEST_F(OneByOne, TellsAFileThatCannotBeCopiedAsAFolder)
 {
     desk.machine.files.RefuseOutput("C:\\Ut\\SetupFiles\\a.txt_", 61);

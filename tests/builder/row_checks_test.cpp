@@ -107,7 +107,7 @@ TEST_F(RowChecks, TellAMarkedRowOnceItsFileIsThereAgain)
             Faulty("Rad 2 ('b.txt'): Raden är markerad med <Filen saknas>, men filen finns. Ta "
                    "bort raden och addera filen på nytt.")),
         Check::Stopped);
-    // The file list has words of its own for sources that are gone.
+    // Missing sources are reported by the file list.
     desk.machine.files.RemoveFile("C:\\Data\\b.txt");
     EXPECT_EQ(Run(CheckRows), Check::Passed);
 }
@@ -155,7 +155,7 @@ TEST_F(RowChecks, RefuseTwoFilesOfOneNameThatAreKeptOneByOne)
     EXPECT_THAT(desk.statusLines, Not(Contains("Färdig!")));
     EXPECT_TRUE(desk.Package().empty());
 
-    // With the folders of their destinations they have a place each.
+    // In the folders of their destinations they have a place each.
     desk.options.CreateFolderStructureInFolderSetupFiles = kOn;
     EXPECT_EQ(Run(CheckOneByOneNames), Check::Passed);
     Last()[Destination] = "destdir\\";

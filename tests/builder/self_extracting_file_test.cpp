@@ -408,8 +408,8 @@ TEST_F(SelfExtractingFile, TellsNoPathsOfTheMachineThatMadeIt)
         EXPECT_EQ(property.value.find("C:\\"), Text::npos) << property.number;
 }
 
-// Whatever write fails: no program that looks finished, and the package's files are all there.
-// What can't be set of the paths ends the step without a line of its own.
+// For each write that fails: no program is left that looks finished, and the package's files are
+// all there. A path that can't be set ends the step without a line of its own.
 TEST_F(SelfExtractingFile, IsWholeOrNotThere)
 {
     int failures = 0;

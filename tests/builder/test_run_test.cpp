@@ -241,7 +241,7 @@ TEST_F(TestRunTest, BringsTheAgreementOfTheProject)
     EXPECT_EQ(Get(kLicenseRtfName), "{\\rtf1 Avtal}");
     EXPECT_EQ(project.DialogBoxData.LicenseFilenameRtf, "C:\\Data\\avtal.rtf");
 
-    // One that was copied by hand is the project's own as well.
+    // A file that was copied there by hand is one of the project's too.
     project.DialogBoxData.LicenseFilenameRtf = "c:\\quillon\\test\\license.rtf";
     EXPECT_TRUE(Simulate());
     EXPECT_EQ(Get(kLicenseRtfName), "{\\rtf1 Avtal}");

@@ -1,4 +1,4 @@
-// Sources that behave badly while they are read, or that are far larger than memory.
+// Sources that change or fail while they are read, or that are far larger than memory.
 #pragma once
 
 #include "platform/run_error.h"

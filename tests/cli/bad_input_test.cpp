@@ -1,5 +1,5 @@
-// What users hand over by mistake, and machines by bad luck: each case has its message, its exit
-// code and what is left on disk.
+// Wrong input and failures of the machine: each case has its message, its exit code and what is
+// left on disk.
 #include "workshop.h"
 
 #include <sys/stat.h>
@@ -175,8 +175,8 @@ TEST_F(BadInput, ASourceThatMayNotBeRead)
     EXPECT_THAT(Names("out"), ElementsAreArray(kAllButTheContainer));
 }
 
-// Files whose length is a lie are what a file looks like that changes while it is read: those of
-// /proc say that they are empty, those of /sys that they fill a page.
+// Files whose stated size is wrong look like files that change while they are read: those of /proc
+// state 0 bytes, those of /sys a whole page.
 class ChangingSource : public BadInput, public testing::WithParamInterface<const char*> {};
 
 TEST_P(ChangingSource, IsRefusedByName)
@@ -209,7 +209,7 @@ TEST_F(BadInput, APictureThatMayNotBeRead)
     project.DesBackground.PictureFilename = "s:\\bild.bmp";
     const ProgramRun run = Quillonc({"create", Save(project), "--to", out}, RunAs::Nobody);
     EXPECT_EQ(run.exitCode, 1);
-    // The status lines say nothing of it.
+    // The status lines do not mention it.
     EXPECT_THAT(run.out, EndsWith("Färdig!\n"));
     EXPECT_EQ(run.err, "Åtkomst nekas till 's:\\bild.bmp'.\n");
     EXPECT_FALSE(disk.Has("out/DESOBJ.DAT"));

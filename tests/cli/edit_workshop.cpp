@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A date of its own shows a file that was written again with the same bytes.
+// With a date of its own, a file that was written again with the same bytes can be detected.
 fs::file_time_type MadeOld(const std::string& file)
 {
     const auto old = fs::last_write_time(file) - std::chrono::hours(50);
@@ -29,7 +29,7 @@ EditWorkshop::EditWorkshop()
 
 ProgramRun EditWorkshop::Edit(std::vector<std::string> words, RunAs user) const
 {
-    // "replace" has a word of its own in front of the project.
+    // "replace" has a further word before the project.
     words.insert(words.begin() + (words[0] == "replace" ? 2 : 1), project);
     return Quillonc(words, user);
 }
@@ -59,7 +59,7 @@ void EditWorkshop::ExpectRefused(const std::vector<std::string>& words, int exit
     EXPECT_EQ(run.exitCode, exitCode) << run.out;
     EXPECT_EQ(run.out, "");
     EXPECT_THAT(run.err, testing::HasSubstr(err));
-    EXPECT_TRUE(disk.Get("p.qnp") == before); // a long list is nothing to print
+    EXPECT_TRUE(disk.Get("p.qnp") == before); // a long list is not printed
     EXPECT_EQ(fs::last_write_time(project), date);
     EXPECT_EQ(Names(""), names);
 }
@@ -70,7 +70,7 @@ void EditWorkshop::ExpectUntouched(const std::vector<std::string>& words) const
     const auto date = MadeOld(project);
     EXPECT_THAT(Done(words), testing::EndsWith("Projektet är oförändrat.\n"));
     EXPECT_EQ(DoneAsObject(words)["changed"], false);
-    EXPECT_TRUE(disk.Get("p.qnp") == before); // a long list is nothing to print
+    EXPECT_TRUE(disk.Get("p.qnp") == before); // a long list is not printed
     EXPECT_EQ(fs::last_write_time(project), date);
 }
 

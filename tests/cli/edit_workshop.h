@@ -13,16 +13,16 @@ protected:
 
     /// A call on the project "p.qnp" of the workshop.
     ProgramRun Edit(std::vector<std::string> words, RunAs user = RunAs::Self) const;
-    /// The same, which must get its work done; what it prints comes back.
+    /// The same for a call that has to succeed; returns what it prints.
     std::string Done(std::vector<std::string> words) const;
     /// The same with --json.
     Json DoneAsObject(std::vector<std::string> words) const;
 
-    /// The call ends with this code and says this, and the project and the folder it is in are as
-    /// they were, to the date.
+    /// The call ends with this code and this message, and the project and its folder are unchanged,
+    /// with their dates.
     void ExpectRefused(const std::vector<std::string>& words, int exitCode, const std::string& err,
                        RunAs user = RunAs::Self) const;
-    /// The call is done and leaves the project as it is.
+    /// The call succeeds and leaves the project as it is.
     void ExpectUntouched(const std::vector<std::string>& words) const;
 
     /// The project as `quillonc show` prints it.

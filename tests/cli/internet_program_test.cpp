@@ -164,7 +164,7 @@ TEST_F(InternetProgram, IsNamedByQuilloncAsDamagedOrWithABrokenSignature)
             EXPECT_EQ(run.exitCode, 3) << call;
             EXPECT_THAT(run.err, HasSubstr("self.exe' är skadad: ")) << call;
         }
-    // Unpacking does not hang on the signature, but whoever looks at it sees it.
+    // Unpacking does not depend on the signature, but a check of it finds the change.
     disk.Put("out/self.exe", Damaged(whole, whole.size() - 40));
     const ProgramRun verified = Quillonc({"verify", Made()});
     EXPECT_EQ(verified.exitCode, 1);

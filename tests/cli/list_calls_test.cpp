@@ -65,7 +65,7 @@ TEST_F(ListCalls, SortsByEachKeyOfTheDialog)
     ExpectRefused({"sort", "--by", "component"}, 1, "Projektet har inga komponenter.");
     ExpectRefused({"sort", "--by", "size"}, 2, "kan ej vara 'size'");
     Done({"sort", "--by", "destination"});
-    // What is in an order of its own keeps it.
+    // A list in an order of its own keeps it.
     ExpectUntouched({"refresh"});
     ExpectUntouched({"sort", "--by", "destination"});
     EXPECT_EQ(DoneAsObject({"sort"})["by"], "name");
@@ -179,7 +179,7 @@ TEST_F(ListCalls, LeaveAProjectAloneThatMayNotBeWritten)
     ExpectRefused({"remove", "1"}, 1, "är ingen vanlig fil, eller så är den skrivskyddad.");
     chmod(project.c_str(), 0644);
     ExpectRefused({"remove", "1"}, 1, "Åtkomst nekas", RunAs::Nobody);
-    // A folder that anyone may write to makes nobody the owner of its files.
+    // A user who may write to the folder may still not replace another user's file.
     chmod(disk.Path().c_str(), 0777);
     ExpectRefused({"remove", "1"}, 1, "Åtkomst nekas", RunAs::Nobody);
     EXPECT_EQ(disk.Get("p.qnp"), before);

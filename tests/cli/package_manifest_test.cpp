@@ -101,7 +101,7 @@ using Files = std::map<std::string, std::string>;
 
 class KilledCreate : public Manifest {
 protected:
-    // What an unfinished run leaves beside a package is none of it.
+    // Files that an unfinished run leaves beside a package are no part of it.
     Files PackageFiles() const
     {
         Files files;

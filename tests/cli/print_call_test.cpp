@@ -17,7 +17,7 @@ protected:
     {
         disk.Put("src/Läs mig.txt", "text");
         project = SaveProjectOf({"Läs mig.txt"});
-        // The library keeps what it knows of fonts until the program ends, and beyond.
+        // The library keeps its data about fonts until the program ends.
         disk.Put("leaks.txt", "leak:libfontconfig\n");
         environment["LSAN_OPTIONS"] = "print_suppressions=0:suppressions=" + disk.Path("leaks.txt");
     }

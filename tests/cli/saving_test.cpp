@@ -120,7 +120,7 @@ TEST_F(Saving, LeavesTheProjectOnAFullDisk)
     full.Folder().Put("p.qnp", before);
     project = full.Folder().Path("p.qnp");
     full.Folder().Put("filler", "");
-    // Whatever room is left fills up.
+    // Fills all room that is left.
     const int filler = open(full.Folder().Path("filler").c_str(), O_WRONLY);
     const std::string page(4096, 'x');
     while (write(filler, page.data(), page.size()) > 0) {
@@ -155,7 +155,7 @@ TEST_F(Saving, AProjectIsWholeWheneverACallIsKilled)
     int killedBefore = 0;
     int killedBehind = 0;
     PutProject(before);
-    // Between two changes there is nothing that a kill could leave otherwise.
+    // A kill between two changes can leave nothing else.
     for (int change = 1;; ++change) {
         const KilledProgram run = RunAndKill(call, environment, change);
         ASSERT_TRUE(run.canTrace);

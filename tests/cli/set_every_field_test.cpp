@@ -29,7 +29,7 @@ bool IsFlag(Stored form)
            form == Stored::AsFlagWhenOn || form == Stored::AsFlagReadAsNumber;
 }
 
-/// A flag other than it is in a new project.
+/// The value that a flag does not have in a new project.
 void Turn(FieldCase& one, Stored form, bool isOn)
 {
     one.value = std::string(1, isOn ? '0' : '1');

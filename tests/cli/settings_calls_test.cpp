@@ -64,7 +64,7 @@ TEST_F(SettingsCalls, RefusesANewProjectThatCanBeNone)
     refused({"--name", std::string(200, 'n'), "--destination", "C:\\A"}, 2, "rymmer högst 199");
     refused({"--name", "A", "--destination", "C:"}, 1, "måste innehålla ett katalognamn");
     refused({"--name", "A", "--destination", "%SYSDIR\\A"}, 1, "som variabel i huvudkatalogen!");
-    // One that is there is nobody's to overwrite.
+    // An existing project must not be overwritten.
     ExpectRefused({"new", "--name", "A", "--destination", "C:\\A"}, 1, "finns redan.");
     const ProgramRun lost =
         Quillonc({"new", disk.Path("gone/p.qnp"), "--name", "A", "--destination", "C:\\A"});
@@ -228,7 +228,7 @@ TEST_F(SettingsCalls, RefusesALineThatWouldReplaceAnotherList)
     ExpectRefused({"set", "RunScriptAfter=[configuration]"}, 1,
                   "det som finns under 'Registry, INI-filer, AUTOEXEC.BAT och CONFIG.SYS'");
     ExpectRefused({"set", "ConfigSys=[FileList]"}, 1, "'Fillistan'");
-    // What comes first in the file is found first, and other lines are nobody's business.
+    // The first line that is found counts, and other lines are left alone.
     Done({"set", "Registry=[RunScriptBefore]", "ConfigSys=[registry]\n[AutoexecBat]"});
     EXPECT_EQ(Show()["AutoexecBat"], "SET A=1");
 }

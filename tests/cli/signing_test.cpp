@@ -79,7 +79,8 @@ protected:
         const ProgramRun other = OtherProgramsWord(name);
         EXPECT_EQ(other.exitCode, 0) << name << other.out;
     }
-    /// Nothing of a run is left, and neither outputs nor package hold the password.
+    /// No temporary file of a run is left, and neither the output nor the package holds the
+    /// password.
     void ExpectNoTraces(const ProgramRun& run) const
     {
         EXPECT_THAT(Names("tmp"), IsEmpty());
@@ -119,7 +120,7 @@ TEST_F(Signing, SignsEveryProgramOfAPackageAsTheProjectWants)
     EXPECT_THAT(OtherProgramsWord("SETUP.EXE").out,
                 AllOf(HasSubstr("Prov för Åke"), HasSubstr("https://firma.example/prov")));
     ExpectNoTraces(run);
-    // The package knows the signed bytes.
+    // The digests in the package are those of the signed files.
     EXPECT_EQ(Quillonc({"verify", out}).exitCode, 0);
 }
 
@@ -350,7 +351,7 @@ TEST_F(Signing, AChangedByteIsFound)
         std::string changed = whole;
         changed[place] = static_cast<char>(changed[place] ^ 1);
         disk.Put("out/SETUP.EXE", changed);
-        // A change in a certificate breaks the chain alone.
+        // A change in a certificate breaks only its chain.
         const ProgramSignature signature = SignatureOf("SETUP.EXE");
         EXPECT_FALSE(signature.isIntact && signature.isTrusted) << place;
         EXPECT_NE(signature.fault, "") << place;

@@ -111,7 +111,7 @@ TEST_F(FontLettersTest, ReplacesFontsThatTheMachineLacks)
 
 TEST_F(FontLettersTest, FindsLettersThatTheFontLacksInOthers)
 {
-    // The font has Latin letters only; whoever has an alpha draws it.
+    // The font has Latin letters only; an alpha is drawn from another font.
     const ScreenFont latin{.name = "DejaVu Sans Mono", .size = 40};
     const LetterMask missing = Drawn(latin, "\xEF\xBF\xBF"); // no letter at all
     EXPECT_NE(Drawn(latin, "α").coverage, missing.coverage);

@@ -66,7 +66,7 @@ TEST(JoinLetters, DrawsALineBelowAndOneThroughAlsoUnderBlanks)
     const LetterMask through = JoinLetters({.size = 28, .isStrikeOut = true}, {{}}, {5});
     EXPECT_EQ(through.top, -28 / 4 - 2);
     EXPECT_THAT(through.coverage, testing::Each(255));
-    // Seen also at the smallest sizes.
+    // It is visible at the smallest sizes too.
     EXPECT_EQ(JoinLetters({.size = 6, .isUnderlined = true}, {{}}, {5}).height, 1);
 }
 

@@ -26,7 +26,7 @@ TEST(CheckedCharInterSpace, StaysBetweenMinus10And100)
     ExpectAll(
         {{"", "0"}, {"-11", "-10"}, {"-10", "-10"}, {"101", "100"}, {"100", "100"}, {"7", "7"}},
         CheckedCharInterSpace);
-    // What is no number is none, and what follows one is dropped.
+    // A text that is no number is refused, and what follows a number is dropped.
     ExpectAll({{"abc", "0"}, {"60abc", "60"}, {"-3x", "-3"}, {"-", "0"}, {"007", "7"}},
               CheckedCharInterSpace);
 }
@@ -71,7 +71,7 @@ TEST(CheckedTextBoxSize, FitsTheSurface)
 {
     ExpectAll({{"", "50"}, {"49", "50"}, {"50", "50"}, {"400", "400"}, {"401", "400"}},
               [](const Text& entry) { return CheckedTextBoxSize(entry, 400); });
-    // Kept: the surface has the last word.
+    // Kept: the limit of the surface counts most.
     EXPECT_EQ(CheckedTextBoxSize("10", 30), "30");
 }
 

@@ -174,7 +174,7 @@ TEST_F(Pictures, BehindOneThatCantBeReadStayAsTheyWere)
     EXPECT_FALSE(boxes_[2].isVisible);
     EXPECT_EQ(record_.Pictures[2].PictureWidth, 200);
     EXPECT_EQ(record_.Pictures[1].PictureFilename, "x.bmp");
-    // The next move of the first one leaves the places of the others alone, too.
+    // The next move of the first one does not move the others either.
     boxes_[0].place.Left = 900;
     KeepPicturesInsideDesign(record_, boxes_, surface_, kScreen);
     EXPECT_EQ(record_.Pictures[0].PictureXPos, 900);
@@ -282,7 +282,7 @@ TEST_F(Logotype, StandsInALowerCorner)
     EXPECT_EQ(right.place, (SurfacePlace{9160 - 1500 - 380, 6000 - 600 - 200, 1500, 600}));
     record_.LogotypeAlignment = 1;
     EXPECT_EQ(LayOut(Measures(100, 40)).place.Left, 380);
-    record_.LogotypeAlignment = 2; // never set, and then as good as right
+    record_.LogotypeAlignment = 2; // never set, which counts as right
     EXPECT_EQ(LayOut(Measures(100, 40)).place.Left, 7280);
 }
 

@@ -63,7 +63,7 @@ TEST(ScalablePicture, OfMuchLargerPixelsGivesNearlyTheirMean)
     const Picture large = Ramp(1001, 403);
     const ScalablePicture picture(large);
     const Picture mean = Scaled(large, 60, 30);
-    // Whatever was asked for before, the pixels of a size are the same ones.
+    // The pixels of a size do not depend on the sizes that were asked for before.
     picture.InSize(500, 300, letters);
     const Picture once = picture.InSize(60, 30, letters);
     ASSERT_EQ(once.pixels.size(), mean.pixels.size());
@@ -105,7 +105,7 @@ TEST(ScalablePicture, KeepsOnlyWhatIsShown)
     EXPECT_EQ(kept.Height(), 300);
     EXPECT_EQ(kept.InSize(40, 25, letters).pixels, whole.InSize(40, 25, letters).pixels);
     EXPECT_EQ(kept.Memory(), 40 * 25 * 4);
-    // Never more than there is, and never nothing.
+    // Asking for more pixels than there are, or for none, changes nothing.
     kept.KeepOnly(800, 600);
     kept.KeepOnly(0, 25);
     EXPECT_EQ(kept.Memory(), 40 * 25 * 4);

@@ -50,7 +50,7 @@ protected:
     {
         section::DesPicture& picture = project.DesPictures.Pictures[number];
         picture.PictureFilename = "a";
-        // Places are reported from the page, of which the surface begins at 80 twips.
+        // Places count from the page, in which the surface begins at 80 twips.
         picture.PictureXPos = static_cast<Integer>(80 + 15 * left);
         picture.PictureYPos = static_cast<Integer>(80 + 15 * top);
         pictures.pictures[number] = Filled(20, 10, kRed);
@@ -196,7 +196,7 @@ TEST_F(ScreenTest, KeepsOfAPictureInItsOwnSizeWhatASmallScreenShows)
     KeepOnlyShown(pictures, Design(), 320, 240);
     EXPECT_EQ(pictures.background.Memory(), 300 * 200 * 4);
     EXPECT_TRUE(Painted(320, 240, Design()) == whole);
-    // On a large one no more is made than is seen.
+    // On a large screen only what is visible is scaled.
     pictures.background = Filled(600, 400, kRed);
     KeepOnlyShown(pictures, Design(), 1280, 960);
     Painted(1280, 960, Design());

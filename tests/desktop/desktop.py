@@ -94,7 +94,7 @@ class Control:
 def start_screen():
     """An X server of its own, and the number that it tells once it takes clients."""
     told, number = os.pipe()
-    # A server starts anew when its last client goes, and drops those that are about to connect.
+    # A server restarts when its last client ends, and drops clients that are just connecting.
     screen = subprocess.Popen(
         ["Xvfb", "-noreset", "-displayfd", str(number), "-screen", "0", "1280x900x24"],
         pass_fds=[number],

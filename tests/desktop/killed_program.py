@@ -42,7 +42,7 @@ def wait_for_name(desktop, name):
 
 
 def decline_folder(desktop):
-    # Whoever was killed has not noted that it has asked already.
+    # A killed program has not stored that the question was asked before.
     answer(desktop, PRODUCT, "Nej")
 
 
@@ -58,14 +58,14 @@ def work_and_die(desktop, home):
     desktop.click_into(name_field(desktop))
     desktop.type("Fel")
     wait_for_name(desktop, "Fel")
-    # Its own fault: what is typed is kept at once.
+    # A fault of the program itself: what was typed is saved at once.
     kill(desktop, signal.SIGSEGV)
     restart_into_copy(desktop, "Fel")
     desktop.click_into(name_field(desktop))
     before = {path: path.read_bytes() for path in copies(home)}
     desktop.keys("ctrl+a")
     desktop.type("Kvar")
-    # From outside there is no time to keep anything: what its clock has kept is all.
+    # A kill from outside leaves no time to save: only the copy made by the timer is there.
     wait_for(
         "the copy of the last edit",
         lambda: any("Kvar".encode("cp1252") in path.read_bytes() for path in copies(home)),

@@ -416,8 +416,7 @@ TEST_F(AddFile, LeavesOneRowOfAFileThatFailsTwice)
     EXPECT_EQ(list.rows[0][CopyOptions], "VS");
 }
 
-// A command that comes to a missing file again, by whatever list names it, goes on with its next
-// file.
+// A command that finds a file missing a second time, in any list, goes on with its next file.
 TEST_F(AddFile, TriesAMissingFileOnceForOneRow)
 {
     machine.files.PutFolder("C:\\D");

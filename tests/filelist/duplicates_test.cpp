@@ -13,7 +13,7 @@ namespace quillon::test {
 
 namespace {
 
-// The duplicate test as it is reported: a walk over all rows.
+// The duplicate test in its plain form, a walk over all rows.
 bool WalkOverList(const FileList& list, const Text& name, const Text& source,
                   const Text& destination)
 {
@@ -154,7 +154,7 @@ TEST(DuplicateIndex, FindsEveryRowOfALongListHoweverItIsSorted)
 
 TEST(DuplicateIndex, FindsEachOfManyRowsOfTheMiddleName)
 {
-    // A tree of a hundred folders with a file of one name in each.
+    // A tree of a hundred folders with a file of the same name in each.
     FileList list;
     for (int i = 0; i < 100; ++i)
         list.rows.push_back(MakeRow("readme.txt", "%DESTDIR\\" + NumberText(i),

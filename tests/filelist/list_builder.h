@@ -1,4 +1,4 @@
-// Short ways to lay out a file list for a test.
+// Helpers that make a file list for a test.
 #pragma once
 
 #include "project/file_list.h"

@@ -316,7 +316,7 @@ TEST_F(ListMaintenance, TellsAllDestinationsInTheirOrder)
     EXPECT_EQ(project.Files.sortKey, IconMarker);
 }
 
-// Kept: a row is looked at beside the one before it alone, by its letters as they stand.
+// Kept: a row is compared only with the one before it, and with case.
 TEST_F(ListMaintenance, TellsDestinationsInCapitalsAndSmallLettersEach)
 {
     Rows() = {MakeRow("a", "%DESTDIR\\X"), MakeRow("b", "%destdir\\x")};

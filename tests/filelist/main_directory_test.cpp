@@ -35,7 +35,7 @@ TEST(CheckMainDirectory, GivesTheFolderBackAsItIsToStand)
         // The variable is not where the drive ends, and is one of those that pass.
         {"D:\\Data\\%MYDOCUMENTS", "D:\\Data\\%MYDOCUMENTS"},
         {"C:%PROGRAMFILES\\App", "C:%PROGRAMFILES\\App"},
-        // The drive falls in any case of letters; the variable itself counts in capitals only.
+        // The drive is removed in any case of letters; the variable itself counts in capitals only.
         {"C:\\%programfiles\\App", "%programfiles\\App", {kBadVariable}},
         {"C:\\%REG1\\App", "C:\\%REG1\\App"},
         {"%REG1", "%REG1"},

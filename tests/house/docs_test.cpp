@@ -1,4 +1,4 @@
-// docs/ names only what there is: files, tests, and identifiers of the sources.
+// docs/ names only files, tests and identifiers of the sources that exist.
 #include <cctype>
 #include <filesystem>
 #include <fstream>
@@ -32,7 +32,7 @@ void AddWords(const std::string& text, std::set<std::string>& words)
             words.insert(std::exchange(word, {}));
 }
 
-/// Without the comments of C++, which may name what there was once.
+/// Without the comments of C++, which may name what no longer exists.
 std::string WithoutComments(const std::string& text)
 {
     std::string code;
@@ -116,7 +116,7 @@ bool Exists(const std::string& path)
     return false;
 }
 
-/// The change log is no page of these: it also names what went.
+/// The change log is not checked: it also names what was removed.
 std::vector<fs::path> Pages()
 {
     std::vector<fs::path> pages = {kRoot / "README.md"};

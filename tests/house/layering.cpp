@@ -10,7 +10,7 @@ namespace quillon::test {
 
 namespace {
 
-// Folders of one height do not include each other.
+// Folders of the same rank do not include each other.
 const std::map<std::string, int> kHeight = {
     {"helpers", 0},  {"platform", 1}, {"archive", 2}, {"ini", 2},       {"project", 3},
     {"rtf", 4},      {"formats", 4},  {"design", 5},  {"pictures", 6},  {"runtime", 7},
@@ -23,7 +23,7 @@ const std::set<std::string> kRuntimeUses = {"helpers",  "platform", "archive", "
                                             "project",  "rtf",      "formats", "design",
                                             "pictures", "runtime"};
 
-// Streams look at the locale, and they alone would double the size of the setup runtime.
+// Streams depend on the locale, and would double the size of the setup runtime.
 const std::set<std::string> kStreams = {"iostream", "fstream", "sstream", "iomanip", "regex"};
 
 // The libraries' headers, by how their names begin, and the folders that may use them.

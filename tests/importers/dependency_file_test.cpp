@@ -221,7 +221,7 @@ TEST_F(DependencyFile, ObeysTheFilterOfTheImporters)
 
 TEST_F(DependencyFile, PassesAFileWithoutTheSectionWithoutAWord)
 {
-    // Kept: the walk counts its gaps before it ends, so nothing is ever reported.
+    // Kept: the walk counts its gaps before it ends, so the box never comes up.
     for (const std::string file :
          {"", "[other.ocx]\r\nUses1=a.dll\r\n", "[main.ocx]\r\n", "Uses1=a.dll\r\n", "\0\x1A\xFF[",
           "[main.ocx]\r\nUse1=a.dll\r\nUses01=a.dll\r\nUses 1=a.dll\r\n"})
@@ -468,7 +468,7 @@ protected:
 } // namespace
 
 // A file that names itself a thousand times, for each of a thousand controls: a thousand million
-// lines, line by line.
+// lines if walked line by line.
 TEST_F(DependencyWork, WalksASectionOnceHoweverOftenItIsNamed)
 {
     files.Put(kSystem + "\\chart.ocx", "x");
@@ -499,7 +499,7 @@ TEST_F(DependencyWork, KnowsAFileByWhateverPathItIsNamed)
     EXPECT_LT(files.looks.size(), 181U * 20U);
 }
 
-// Nothing new comes up in it, so nothing else would ask.
+// The walk finds nothing new in it, so there is no other call.
 TEST_F(DependencyWork, AsksNowAndThenInALongWalk)
 {
     std::string file = "[chart.ocx]\r\n";
@@ -533,7 +533,7 @@ TEST_F(DependencyWork, LooksForNothingAboveADrive)
 
 namespace {
 
-// The rules of the walk and no more: nothing is remembered.
+// A plain walk by the rules, which remembers nothing.
 class PlainWalk {
 public:
     PlainWalk(FileAdding& adding, Host host) : adding_(adding), host_(host) {}

@@ -27,7 +27,7 @@ inline std::vector<Text> Missed(const ImportResult& result)
     return files;
 }
 
-/// Answers as it is reported; what it was asked is beside.
+/// Gives the answers that the test has set, and keeps the questions.
 class DeskUser : public ImportUser {
 public:
     std::optional<Text> ChooseProgramDestination(const ProgramQuestion& question) override

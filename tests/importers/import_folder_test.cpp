@@ -159,7 +159,7 @@ TEST_F(ImportFolderTest, TellsWhereAProgramForAnyMachineCanRun)
     EXPECT_THAT(FindingsText(Find()), Contains("Olika processorer: old.dll är för 32 bitar."));
 }
 
-// Fonts of a program stay its own; the font folder is for those of all.
+// The fonts in a program's folder are its own; the font folder is for those of all programs.
 TEST_F(ImportFolderTest, LeavesFontsInTheProgramsFolder)
 {
     PutProgram("Kund.exe", {});

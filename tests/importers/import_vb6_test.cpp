@@ -212,7 +212,7 @@ TEST_F(ImportVb6, TellsEachMissingFileAndGoesOn)
     EXPECT_THAT(Rows(), Not(Contains(HasSubstr("Own.ocx"))));
 }
 
-// What an import could not find counts neither as added nor, in the next import, as there.
+// A file that an import could not find does not count as added, nor as present in the next import.
 TEST_F(ImportVb6, TriesAMissingFileAgainInTheNextImport)
 {
     machine.files.RemoveFile(kSystem + "\\msvbvm60.dll");
@@ -448,7 +448,7 @@ TEST_F(ImportVb6, CopiesThePackageOnceForAllDataControls)
 {
     PutProject("Object={1}; MSADODC.OCX\r\nObject={2}; MSADODC.OCX\r\nObject={3}; MSRDC20.OCX\r\n");
     choices.cInstallMDA = true;
-    Run({{BoxKind::Critical, "Fel"}, kDone}); // it is not there, which is told once
+    Run({{BoxKind::Critical, "Fel"}, kDone}); // it is missing, which is reported once
     machine.files.Put(kRedist + "\\MDAC_TYP.EXE", "package");
     machine.files.FailFromWrite(2, 61);
     Run({kDone});
@@ -593,7 +593,7 @@ TEST_F(ImportVb6Dao, TakesAFolderOfDaoWithAPointInItsName)
     EXPECT_EQ(Row("DAO360.dll")[Source], "c:\\dao.3\\dao360.dll");
 }
 
-// Neither the questions nor the faults of the steps that are left.
+// The remaining steps ask no questions and report no faults.
 TEST_F(ImportVb6Dao, AsksAndTellsNothingMoreOnceItIsStopped)
 {
     const ExpectedBox stopped{BoxKind::Inform, "Importen är avbruten",

@@ -80,7 +80,7 @@ TEST_P(DamagedPackage, IsNeverInstalledWithABitThatHasTurned)
         const Text what = bit.file + " " + std::to_string(bit.byte) + "." + std::to_string(bit.bit);
         const bool isRefused = IsRefused(files, what);
         refused += isRefused ? 1 : 0;
-        // Another case in the manifest changes nothing; it is what such a bit makes of a letter.
+        // A changed case in the manifest has no effect; a bit can change the case of a letter.
         if (!isRefused)
             EXPECT_EQ(bit.file, "PACKAGE.SHA256") << what;
     }

@@ -1,5 +1,5 @@
-// Packages that somebody has made to reach outside: what `verify` and the setup say of a row is the
-// same, and neither looks at a file outside the package.
+// Packages that were made to reach outside: what `verify` and the setup say of a row is the same,
+// and neither reads a file outside the package.
 #include "packages/packaged_product.h"
 
 #include "formats/install_row.h"
@@ -96,7 +96,7 @@ TEST_P(HostileTree, LooksAtNothingOutsideThePackage)
     const PackageFiles whole = files;
     for (const char* folder : {"..", "..\\data", "data\\..\\..\\hemligt", "C:\\hemligt", "c:"}) {
         files = whole;
-        // What the row would reach is there, and is of the right size.
+        // The file that the row would reach exists, and has the right size.
         files["..\\prog.exe"] = files["..\\data\\prog.exe"] = whole.at("data\\prog.exe");
         ChangeFirstRow({"a source folder", "prog.exe", "%DESTDIR", folder});
         ExpectRefused(folder);

@@ -26,8 +26,8 @@ inline void PrintTo(const ProductMedium& medium, std::ostream* out)
 /// A package with every kind of file that there is. Of a tree the project's files are laid out.
 PackageFiles MakeProductPackage(const ProductMedium& medium, const Text& password = {});
 
-/// Lists the files anew, as who has changed some of them would; those outside the package are not
-/// its own.
+/// Lists the files again, as a user who has changed some of them would; those outside the package
+/// are not its own.
 void ListAgain(PackageFiles& files);
 
 struct InstalledProduct {

@@ -302,7 +302,7 @@ TEST(DecodeBitmap, FindsItsPixelsWithoutTheirPlace)
     std::string file = FileOf(EightBits());
     file.replace(10, 4, Long(0));
     EXPECT_THAT(Decoded(file).pixels, ElementsAre(kWhite, kRed, kGreen, kBlue, kGreen, kRed));
-    // A gap before the pixels belongs to nobody.
+    // A gap before the pixels is ignored.
     Bitmap gap = EightBits();
     gap.colours += "gap.";
     EXPECT_THAT(Decoded(FileOf(gap)).pixels,

@@ -43,7 +43,7 @@ TEST(DecodeJpeg, OfEachKind)
 
 TEST(DecodeJpeg, OfInks)
 {
-    // With the vendor's note 250 in all inks is nearly white, without it nearly black.
+    // With Adobe's marker, 250 in all samples is nearly white, without it nearly black.
     const Picture inverted = Decoded(TwoHalves({.components = 4}));
     EXPECT_NEAR(Red(inverted, 16, 2), 250 * 250 / 255, 4);
     EXPECT_NEAR(Red(inverted, 4, 20), 40 * 40 / 255, 4);

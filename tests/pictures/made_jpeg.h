@@ -10,10 +10,10 @@ namespace quillon::test {
 struct MadeJpeg {
     int width = 16;
     int height = 16;
-    int components = 3; // 1 grey, 3 red green blue, 4 inks
+    int components = 3; // 1 grey, 3 RGB, 4 CMYK
     bool isProgressive = false;
     int quality = 95;
-    bool hasAdobeMarker = true; // of inks only
+    bool hasAdobeMarker = true; // of CMYK files only
     int orientation = 1;
 };
 

@@ -24,7 +24,7 @@ TEST(NameIn, IsTheCommonNameOrTheOrganization)
     EXPECT_EQ(NameIn(NameWith("C", "SE").get()), "");
 }
 
-// Whoever made the certificate would write further lines into what is reported of it otherwise.
+// Otherwise the author of a certificate could add lines to what is reported of it.
 TEST(NameIn, HasNoControlCharacters)
 {
     EXPECT_EQ(NameIn(NameWith("CN", "Firma\r\nSignatur: giltig.\x1B[2J\x7F\xC2\x9B!").get()),

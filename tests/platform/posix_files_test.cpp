@@ -127,8 +127,8 @@ TEST_F(PosixFilesTest, RefusesToWriteOverAReadOnlyFileEvenForAnAdministrator)
     EXPECT_EQ(disk.Get("a.txt"), "abc");
 }
 
-/// For its life this thread meets the disk as a user without rights, even in an administrator's
-/// process, to whom nothing is forbidden.
+/// While it exists, this thread accesses the disk as a user without rights, even in an
+/// administrator's process.
 class PlainUser {
 public:
     PlainUser() : before_(setfsuid(kNobody)) {}
@@ -154,7 +154,7 @@ TEST_F(PosixFilesTest, TellsThatPermissionIsMissing)
 
 TEST_F(PosixFilesTest, TellsThatTheDiskIsFull)
 {
-    // The one device that is always full.
+    // /dev/full, a device that is always full.
     const auto full = files.OpenOutput("Z:\\dev\\full");
     EXPECT_EQ(Failure([&] { full->Write(std::as_bytes(std::span("abc"))); }), 61);
 }
@@ -295,7 +295,7 @@ TEST_F(PosixFilesTest, CopiesContentAndDateAndReplacesTheTarget)
     EXPECT_EQ(files.Status("S:\\to.bin").modified, (LocalTime{2003, 5, 6, 7, 8, 9}));
 }
 
-/// For its life no file may grow beyond this size; a write that would fails.
+/// While it exists, no file may grow beyond this size; a write that would fails.
 class SizeLimit {
 public:
     explicit SizeLimit(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN))

@@ -176,8 +176,9 @@ TEST_F(PosixMachineTest, TakesTheDecimalSignFromTheUsersLocaleAndLeavesTheProces
 
 TEST_F(PosixMachineTest, KnowsADecimalComma)
 {
-    // A locale with nothing but a decimal comma, in the form that the C library compiles one to:
-    // head, where each of its six fields begins, the fields. No machine need have one installed.
+    // A locale with a decimal comma and no other property, in the form that the C library compiles
+    // one to: header, where each of its six fields begins, the fields. The machine need not have
+    // one installed.
     constexpr std::string_view kNumbersWithComma(
         "\x14\x11\x03\x20\x06\0\0\0"
         "\x20\0\0\0\x22\0\0\0\x23\0\0\0\x24\0\0\0\x28\0\0\0\x2C\0\0\0"
@@ -185,7 +186,7 @@ TEST_F(PosixMachineTest, KnowsADecimalComma)
         59);
     disk.Put("locales/comma/LC_NUMERIC", std::string(kNumbersWithComma));
 #ifdef QUILLON_SANITIZED
-    // The C library never gives its own copy of LOCPATH back.
+    // The C library never frees its own copy of LOCPATH.
     const __lsan::ScopedDisabler leaksOfTheLibrary;
 #endif
     PosixHost host(Settings());

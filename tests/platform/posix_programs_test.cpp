@@ -41,10 +41,10 @@ TEST_F(Programs, ReadTheirInputOverAPipe)
     ProgramOrder order{.program = "cat", .input = "hemligt"};
     order.arguments = {{"", Kind::InputAsFile}};
     EXPECT_EQ(programs.Run(order, {}).output, "hemligt");
-    // Nobody need read it.
+    // The program need not read it.
     EXPECT_EQ(Shell("exit 0", std::string(kMaxProgramInput, 'x')).exitCode, 0);
     EXPECT_THROW(Shell("cat", std::string(kMaxProgramInput + 1, 'x')), RunError);
-    // Nor is it among the arguments that everybody sees.
+    // Nor is it among the arguments, which all users can see.
     EXPECT_THAT(Shell("tr '\\0' ' ' < /proc/$$/cmdline", "hemligt").output,
                 testing::Not(testing::HasSubstr("hemligt")));
 }

@@ -1,4 +1,4 @@
-// Saving on real disks: full ones, foreign files, killed programs, links.
+// Saving on real disks: full ones, files of other users, killed programs, links.
 #include "platform/posix/posix_files.h"
 #include "platform/run_error.h"
 #include "platform/saved_file.h"
@@ -89,7 +89,8 @@ TEST_F(PosixSaving, LeavesTheOldFileOnAFullDisk)
     EXPECT_EQ(NamesIn(full.Folder().Path()), Listed{"a.qnp"});
 }
 
-/// Whoever asks the disk is this user; needs an administrator to begin with.
+/// While this object lives, the process has the rights of this user; needs an administrator to
+/// begin with.
 class DiskUser {
 public:
     explicit DiskUser(uid_t user)
@@ -281,7 +282,7 @@ TEST_F(PosixSaving, ANewFileOrTheOldOneIsThereWheneverTheProgramIsKilled)
         EXPECT_TRUE(content == "old" || content == "new") << content;
         if (content == "new")
             EXPECT_EQ(disk.Get("a.qnp.bak"), "old");
-        // The next program is kept out by nothing, and clears what is left.
+        // The next program is not kept out, and removes what is left.
         EXPECT_NE(LockSavedFile(files, kPath, LockWait::None), nullptr);
         SaveWholeFile(files, kPath, "old");
         fs::remove(disk.Path("a.qnp.bak"));

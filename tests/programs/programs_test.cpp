@@ -125,7 +125,8 @@ std::set<std::string> ImportsOf(const fs::path& path)
     return names;
 }
 
-// Windows looks for all others in the program's own folder first, where anybody may have laid one.
+// Windows looks for all other libraries in the program's own folder first, to which others may have
+// added one.
 TEST(SetupRuntime, ImportsOnlyWhatWindowsTakesFromItsOwnFolder)
 {
     const std::set<std::string> safe = {"kernel32.dll", "msvcrt.dll"};
@@ -198,7 +199,7 @@ TEST(SetupRuntime, RunsNoDataAsCode)
     });
 }
 
-// A 32-bit program that does not say so takes any address on its stack for a handler.
+// A 32-bit program without this mark accepts any address on its stack as a handler.
 TEST(SetupRuntime, TakesNoHandlerOfExceptionsFromItsStack)
 {
     constexpr unsigned kNoHandlers = 0x0400;

@@ -11,8 +11,8 @@ using test::ProjectOnDisk;
 
 namespace {
 
-// A user who answers nothing and remembers everything: a cut file may name a picture that is not
-// there, so that the boxes can't be laid ready.
+// A user who answers nothing and records everything: a cut file may name a picture that does not
+// exist, so that the boxes can't be prepared.
 class Witness : public test::ScriptedAsk {
 public:
     void Warn(const Text& title, const Text&) override { titles.push_back(title); }

@@ -98,8 +98,7 @@ ReadEnd LoadWithPicture(ProjectOnDisk& disk, const std::string& bytes)
     return disk.Load(bytes);
 }
 
-// A tool may lie where no path of Windows-1252 leads to; its own picture is found again all the
-// same.
+// The path of the tool may not fit into Windows-1252; its own picture is found again all the same.
 TEST(DefaultBitmap, IsStoredByNameWhereItsPathDoesNotFit)
 {
     const Text folders[] = {"C:\\verktyg Ω", "C:\\" + Text(190, 'x')};

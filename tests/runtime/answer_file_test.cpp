@@ -43,7 +43,7 @@ TEST_F(AnswerFileTest, SavesTheAnswersAndTakesThemAgain)
     EXPECT_EQ(switches.scope, InstallScope::AllUsers);
 }
 
-// What nobody has chosen is the next machine's own.
+// A name that the user has not chosen is taken from the next machine.
 TEST_F(AnswerFileTest, SavesNoNamesThatTheMachineHasGiven)
 {
     project.DialogBoxData.GetNameCompanyFromRegistry = kOn;

@@ -36,7 +36,7 @@ TEST(SoundKinds, AreThoseThatWindowsPlays)
     EXPECT_EQ(device(""), "");
 }
 
-/// A player that ends a round after so many looks, and is stopped after so many rounds.
+/// A player whose round ends after so many queries, and that is stopped after so many rounds.
 struct Player {
     int looksOfARound = 3;
     int rounds = 2;

@@ -108,7 +108,7 @@ TEST(BackgroundWriterTest, GoesOnWithTheNextFileAfterOneThatFailed)
         RecordingOutput full;
         full.failsAt = 0;
         BackgroundWriter::File file(writer, full);
-        // Far enough for a piece to be handed over, whose failure nobody asks for.
+        // Far enough for a piece to be handed over, whose failure is not asked for.
         file.Add(std::as_bytes(std::span(bytes)).first(200'000));
     }
     RecordingOutput output;

@@ -1,4 +1,4 @@
-// Cancel during the installation is heard at each of its stages, not while files are copied alone.
+// Cancel works at each stage of the installation, not only while files are copied.
 #include "setup_fixture.h"
 
 #include "runtime/uninstall_entry_key.h"

@@ -1,4 +1,4 @@
-// A package whose files somebody exchanges after they were held against its manifest.
+// A package whose files are replaced after they were compared with its manifest.
 #include "setup_fixture.h"
 
 #include "formats/package_contents.h"
@@ -117,7 +117,7 @@ TEST_F(ExchangedPackage, LendsItsProgramsToScriptsAsCopiesInThePrivateFolder)
     target.onProgram = [&](const ProgramRun& run) {
         EXPECT_EQ(run.program, copy);
         EXPECT_EQ(memory.files.Get(run.program), "verktyg.exe");
-        // What is in the package's folder is of no use to anybody by then.
+        // A change to the package's folder has no effect by then.
         memory.files.Put(tool, "exchanged");
     };
     target.programCodes[copy] = 7;

@@ -257,7 +257,7 @@ TEST_F(CopyOptionsTest, PProtectsTheFileAndUninstallRemovesIt)
 
 struct SharedCase {
     bool exists;
-    int countBefore; // 0: nobody has counted
+    int countBefore; // 0: there is no count
     std::uint32_t countDuring;
     bool staysAfterwards;
 };

@@ -1,4 +1,4 @@
-// Files that programs hold open, and what the user, or nobody, says to that.
+// Files that programs hold open, and the answers of a user, or of a setup without one.
 #include "setup_fixture.h"
 
 #include "runtime/files_in_use.h"
@@ -127,7 +127,7 @@ TEST_F(FilesInUse, EndTheRunWhereTheUserCancels)
     EXPECT_FALSE(Free({{BoxKind::YesNoCancel, kTitle, "", Answer::Cancel}}));
 }
 
-// Before Windows Vista nobody knows which program it is, and the user has to close it.
+// Before Windows Vista the programs are not known, and the user has to close them.
 TEST_F(FilesInUse, AreNamedThemselvesWhereTheSystemKnowsNoPrograms)
 {
     programs.knowsNames = false;

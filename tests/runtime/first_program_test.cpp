@@ -96,7 +96,7 @@ TEST_F(FirstProgramTest, BeginsAgainOrEndsWhereItGoesBack)
     ask = &again;
     target.onProgram = [&](const ProgramRun&) { EndWith(target.programsRun.size() < 4 ? 2 : 0); };
     EXPECT_EQ(Install(""), ExitCode::Done);
-    // With nobody to ask it would go on for ever.
+    // Without a user to ask it would go on for ever.
     ask = nullptr;
     target.onProgram = [](const ProgramRun&) {};
     EndWith(2);
@@ -114,7 +114,7 @@ TEST_F(FirstProgramTest, GivesTheMainFolderFromTheRegistry)
     EXPECT_EQ(Install(), ExitCode::Done) << Log();
     EXPECT_EQ(memory.files.Get("E:\\Egen mapp\\prog.exe"), "program");
     EXPECT_THAT(Log(), HasSubstr("Ny mapp för installationen: E:\\Egen mapp"));
-    // What is typed goes before it.
+    // A folder on the command line has precedence.
     EXPECT_EQ(Install("/S /D=E:\\Annan"), ExitCode::Done);
     EXPECT_EQ(memory.files.Get("E:\\Annan\\prog.exe"), "program");
     // Another value changes nothing.

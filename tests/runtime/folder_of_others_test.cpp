@@ -1,4 +1,4 @@
-// A folder that somebody else has made: what is installed there could be exchanged.
+// A folder that another user has made: programs that are installed there could be replaced.
 #include "setup_fixture.h"
 
 #include "runtime/install/trusted_folders.h"
@@ -52,7 +52,8 @@ TEST_F(FolderOfOthers, IsTheOneThatTheUserHasChosen)
     EXPECT_EQ(Install("/S /D=C:\\Egen"), ExitCode::Done) << Log();
 }
 
-// The root of a drive belongs to the system or, on a disk from elsewhere, to nobody known here.
+// The root of a drive belongs to the system or, on a disk from another machine, to a user unknown
+// here.
 TEST_F(FolderOfOthers, IsNoRootAndNoFolderOnADiskThatIsCarriedAbout)
 {
     target.ofOthers.insert("C:\\");
@@ -123,7 +124,7 @@ TEST_F(PartInFolderOfOthers, NeedsNoFileOfTheList)
     ExpectRefused("C:\\Ulla\\Skrivbord");
 }
 
-// Administrators alone may write to these, whoever owns them.
+// Only administrators may write to these, even if another user owns them.
 TEST_F(PartInFolderOfOthers, GoesToTheFoldersOfTheSystem)
 {
     AddFile("a.dll", "%SYSDIR", "a");

@@ -1,5 +1,5 @@
-// A package that asks for everything at once, and a machine on which much of it is there already:
-// what the tests of failures and of the way back install.
+// A package that uses every feature, and a machine on which much of it exists already: the product
+// for the tests of failures and of the rollback.
 #pragma once
 
 #include "setup_fixture.h"

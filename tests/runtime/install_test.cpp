@@ -119,7 +119,7 @@ TEST_F(InstallTest, LeavesTheMachineAsItWasWhereverItFails)
         ASSERT_EQ(State().registry, before.registry) << failAt << "\n" << Log();
         ASSERT_EQ(State(), before) << failAt << "\n" << Log();
     }
-    // The loop has gone through every change that the installation makes.
+    // The loop has reached every change that the installation makes.
     EXPECT_GT(failAt, 100);
 }
 
@@ -146,7 +146,7 @@ TEST_F(InstallTest, TellsAFullDiskByItsOwnCode)
     FillMachine();
     FillPackage();
     const MachineState before = State();
-    // From here on nothing can be written at all, and the way back must not need to.
+    // From here on no write succeeds, and the rollback must not need one.
     for (int n = 2; n < 30; ++n) {
         memory.files.FailFromWrite(n, ErrorNumber::kDiskFull);
         ASSERT_EQ(Install(), ExitCode::DiskFull) << n;

@@ -109,7 +109,7 @@ TEST_P(ChangeOfATransaction, IsUndoneTwiceWithoutHarm)
     const Text journal = memory.files.Get(kJournalPath);
     EXPECT_EQ(Finish(), EarlierRun::Finished);
     EXPECT_EQ(State(), before);
-    // The way back was killed just before it removed the journal.
+    // The rollback was killed just before it removed the journal.
     memory.files.Put(kJournalPath, journal);
     EXPECT_EQ(Finish(), EarlierRun::Finished);
     EXPECT_EQ(State(), before);

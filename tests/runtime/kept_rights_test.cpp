@@ -1,4 +1,5 @@
-// Text files that setup and uninstaller write anew: their rights and attributes are what they were.
+// Text files that setup and uninstaller write again: their rights and attributes are what they
+// were.
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
 #include "runtime/ini_files/ini_changes.h"

@@ -22,7 +22,7 @@ using test::kMain;
 
 namespace {
 
-// Ends everything at once: nothing that the setup itself would still do happens.
+// Ends everything at once, without the setup's own clean-up.
 struct Killed {};
 
 } // namespace
@@ -84,7 +84,7 @@ protected:
     }
 
     const Text kUninstaller = kMain + "\\QNXUNIN.EXE";
-    // What ended last was killed after its commit, and its journal may have gone since.
+    // The last run was killed after its commit, so its journal may have been removed since.
     bool wasCommitted = false;
 
     bool Finish()
@@ -92,8 +92,8 @@ protected:
         ActionLog log;
         if (FinishInterrupted({host, target, log}, kMain) == EarlierRun::Incomplete)
             return false;
-        // Killed before its journal was there, or after it went, a setup has left nothing but its
-        // note.
+        // A setup that was killed before it made its journal, or after it removed it, has left
+        // nothing but its note.
         ForgetStartedSetups(target, "Exempel");
         return true;
     }
@@ -193,7 +193,7 @@ TEST_F(KilledSetup, IsPutRightWhereTheProductIsUpgraded)
     EXPECT_GT(KillEverywhere(), 150);
 }
 
-// The last moment before the installation is committed has the longest way back.
+// Just before the commit, the rollback has the most to undo.
 TEST_F(KilledSetup, IsPutRightWhereverTheWayBackOfAnUpgradeIsKilled)
 {
     FillMachine();
@@ -222,7 +222,7 @@ TEST_F(KilledSetup, IsPutRightWhereverTheWayBackOfAnUpgradeIsKilled)
     EXPECT_GT(steps, 50);
 }
 
-// Whatever ends the way back at whichever of its steps: the program that the user starts is never
+// If the rollback is interrupted at any of its steps, the program that the user starts is never
 // beside another version of what it starts.
 TEST_F(KilledSetup, LeavesNoUninstallerOfAnotherVersionAtAnyStepOfTheWayBack)
 {
@@ -442,7 +442,7 @@ TEST_F(KilledSetup, StopsBeforeAnythingIsWrittenWhereAnotherOneBegins)
     EXPECT_EQ(State(), before);
 }
 
-// Whoever may write beside the product could otherwise have any file moved by an administrator.
+// A user who may write beside the product could otherwise have any file moved by an administrator.
 TEST_F(KilledSetup, BelievesNoJournalOfSomebodyElse)
 {
     const Text journal = "C:\\Program\\~qnsetup-Exempel.tmp";
@@ -455,8 +455,8 @@ TEST_F(KilledSetup, BelievesNoJournalOfSomebodyElse)
     EXPECT_THAT(Log(), HasSubstr(journal));
 }
 
-// Whoever may write to a folder above the product's can lay the lock there too. It is of no use to
-// them: a journal has to be of somebody who is believed.
+// A user who may write to a folder above the product's can put the lock there too. It has no
+// effect, since a journal counts only if it belongs to a trusted user.
 TEST_F(KilledSetup, BelievesNoJournalOfSomebodyElseBesideTheirLock)
 {
     AddFile("prog.exe", "%DESTDIR", "program");
@@ -471,8 +471,8 @@ TEST_F(KilledSetup, BelievesNoJournalOfSomebodyElseBesideTheirLock)
     }
 }
 
-// The list of programs and the note of a started setup lead to folders that nothing else vouches
-// for. One journal that is believed says nothing of the others on the way to the same folder.
+// The list of programs and the note of a started setup lead to folders that nothing else confirms.
+// One trusted journal says nothing of the others on the way to the same folder.
 TEST_F(KilledSetup, BelievesNoJournalOfSomebodyElseWhereAnEarlierRunLeads)
 {
     AddFile("prog.exe", "%DESTDIR", "program");
@@ -503,8 +503,8 @@ TEST_F(KilledSetup, TakesNoLockOfSomebodyElse)
     EXPECT_TRUE(memory.files.FileExists(journal));
 }
 
-// A server may know its users by names that this machine does not. What a new file gets there is
-// ours, and so is a journal with the same.
+// A server may have users that this machine does not know. The owner of a new file there is ours,
+// and so is a journal with the same owner.
 TEST_F(KilledSetup, BelievesOnAServerWhoMakesTheFilesThere)
 {
     AddFile("prog.exe", "%DESTDIR", "program");
@@ -556,13 +556,13 @@ TEST_F(KilledSetup, TakesOnlyItsOwnUserOffASharedFile)
         ASSERT_TRUE(Finish());
         EXPECT_EQ(CountOfUsers(target, shared), counted);
         EXPECT_EQ(memory.files.Get(shared), "v1") << "the other product needs it";
-        // Nothing is left that could count down once more.
+        // No record is left that could lower the count once more.
         ASSERT_TRUE(Finish());
         EXPECT_EQ(CountOfUsers(target, shared), counted);
     }
 }
 
-// However often it is killed while it puts the machine right.
+// Even if it is killed several times while it repairs the machine.
 TEST_F(KilledSetup, TakesNoUserOffASharedFileTwice)
 {
     const Text shared = "C:\\Gemensamt\\delad.dll";
@@ -614,7 +614,7 @@ TEST_F(KilledSetup, LeavesAValueThatSomebodyElseHasWrittenSince)
     EXPECT_EQ(Install("/S /PASSWORD=fel"), ExitCode::Done) << Log();
     EXPECT_THAT(Log(), HasSubstr("SOFTWARE\\Firma :: Antal: värdet har ändrats efter"));
     EXPECT_THAT(Log(), HasSubstr("SOFTWARE\\Firma :: Bort: värdet har ändrats efter"));
-    // Whoever has removed it has left nothing to lose.
+    // A value that was removed is restored, since nothing is overwritten by that.
     Restore(start);
     killBehindBoth();
     target.RemoveValue(key, "Antal");

@@ -1,5 +1,4 @@
-// The language files that are laid beside the tool: each one says everything that the reference
-// says.
+// The language files that come with the tool: each one has all texts of the reference.
 #include "helpers/ansi_text.h"
 #include "runtime/texts/language_file.h"
 

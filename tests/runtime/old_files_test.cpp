@@ -50,7 +50,7 @@ TEST_F(OldFilesTest, GoWhereNobodyHasChangedThem)
     EXPECT_THAT(Log(), HasSubstr("Tar bort " + kOld + ", som inte ingår i den nya versionen"));
     EXPECT_FALSE(memory.files.DirExists(ExtractDirectory(kOld)));
     EXPECT_THAT(Log(), HasSubstr("Tar bort mappen " + ExtractDirectory(kOld)));
-    // A file that somebody puts there now is nobody's but theirs.
+    // A file that another user puts there now stays.
     memory.files.Put(kOld, "användarens");
     EXPECT_EQ(UninstallProduct(), ExitCode::Done);
     EXPECT_EQ(memory.files.Get(kOld), "användarens");
@@ -58,7 +58,7 @@ TEST_F(OldFilesTest, GoWhereNobodyHasChangedThem)
     EXPECT_EQ(State().registry, before.registry);
 }
 
-// With the folders that they were in, as far as the product made them and nobody needs them.
+// With the folders that they were in, as far as the product made them and no other file is in them.
 TEST_F(OldFilesTest, TakeTheirFoldersAlong)
 {
     memory.files.PutFolder(kMain + "\\Fanns");
@@ -108,7 +108,7 @@ TEST_F(OldFilesTest, StayWhereSomebodyHasChangedThem)
         EXPECT_THAT(Log(),
                     HasSubstr("Hoppar över " + kOld + ": filen har ändrats efter den förra"));
     }
-    // As it was, it goes with the next update.
+    // A file that was not changed is removed with the next update.
     memory.files.Put(kOld, "old text");
     Update();
     EXPECT_FALSE(memory.files.FileExists(kOld));
@@ -132,7 +132,7 @@ TEST_F(OldFilesTest, StayInAComponentThatIsNotChosenThisTime)
     project.FileComponents[0].CompDefault = 0;
     ASSERT_EQ(Install(), ExitCode::Done);
     EXPECT_EQ(memory.files.Get(kOld), "old text");
-    // It is still known what it holds.
+    // Its content is still recorded.
     EXPECT_EQ(Count(kOld), 1U);
     Update();
     EXPECT_FALSE(memory.files.FileExists(kOld));
@@ -146,7 +146,7 @@ TEST_F(OldFilesTest, StayWhereTheyWereNotOursOrAreOthersToo)
     AddFile("kvar.txt", "%DESTDIR", "kept", "*");
     ASSERT_EQ(Install(), ExitCode::Done);
     Update();
-    // Written over what was there before: the uninstaller knows what to do with it.
+    // It replaced a file that was there before; the uninstaller handles it by its record.
     EXPECT_TRUE(memory.files.FileExists(kOld));
     EXPECT_TRUE(memory.files.FileExists(kMain + "\\kvar.txt"));
     EXPECT_THAT(Log(), HasSubstr("delad.dll: filen är registrerad eller delas"));

@@ -1,5 +1,5 @@
-// What is started or installed from the private folder is what the package lists, whoever may write
-// to the package's folder.
+// What is started or installed from the private folder is what the package lists, even if others
+// can write to the package's folder.
 #include "runtime/package/package_copy.h"
 
 #include "formats/package.h"

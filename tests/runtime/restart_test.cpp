@@ -134,7 +134,7 @@ TEST_F(RestartTest, ThatWindowsRefusesMakesNoLogThatNobodyWanted)
     EXPECT_FALSE(memory.files.FileExists("L:\\r.json"));
 }
 
-// The code is the caller's, and says nothing of what the machine does.
+// The code is the one that the caller asked for, and does not say what the machine does.
 TEST_F(RestartTest, DoesNotComeFromACodeAlone)
 {
     options.RestartWindows = kOn;

@@ -1,5 +1,5 @@
-// A user of the pages whose steps are laid ready: what is done on each page that comes up, and
-// which button is pressed then. A page beyond them fails the test and cancels.
+// A user of the pages whose steps are prepared: what is done on each page that comes up, and which
+// button is pressed then. A page for which there is no step fails the test and cancels.
 #pragma once
 
 #include "runtime/pages/page.h"

@@ -1,5 +1,5 @@
-// A small product as a package in memory, a machine to install it on, and what stood on that
-// machine before. The package's archive is a list of texts; one can be damaged.
+// A small product as a package in memory, a machine to install it on, and the files of that machine
+// before. The package's archive is a list of texts; one can be damaged.
 #pragma once
 
 #include "memory_target.h"
@@ -89,7 +89,7 @@ public:
 
     /// Files that a program holds open: they can be neither moved nor removed.
     std::set<Text> inUse;
-    /// Files of programs that run: they can be moved, but not removed.
+    /// Files of running programs: they can be moved, but not removed.
     std::set<Text> running;
     /// Files that others alone may move.
     std::set<Text> withoutRights;

@@ -18,7 +18,7 @@ class SetupProgramTest : public test::SetupFixture {
 protected:
     SetupProgramTest() { AddFile("prog.exe", "%DESTDIR", "program"); }
 
-    // Installs, and holds that nothing has changed afterwards.
+    // Installs, and checks that nothing has changed afterwards.
     ExitCode InstallInVain(const Text& switches = "/S")
     {
         const MachineState before = State();

@@ -172,7 +172,7 @@ TEST_F(StartedSetups, AreNotedForTheUserWhereTheMachineMayNotBeWrittenTo)
     EXPECT_THROW(NoteStartedSetup(target, "Exempel", InstallScope::Project, kChosen), RunError);
 }
 
-// Whoever can write to the registry of the user could otherwise lead the setup anywhere.
+// A user who can write to the user's registry could otherwise lead the setup to any folder.
 TEST_F(StartedSetups, CountOnlyWhereAJournalIsThatNoOtherUserHasMade)
 {
     for (const RegistryData& data :

@@ -235,7 +235,7 @@ TEST(ReadSwitches, ShowsProgressAloneWherePassive)
     }
 }
 
-// Nobody may be there to answer one.
+// No user may be there to answer a box.
 TEST(AllowsBoxes, AgreesWithTheSetup)
 {
     for (const char* line :

@@ -1,4 +1,4 @@
-// A setup of one file that nobody attends, and what it writes for programs.
+// A setup of one file that runs without a user, and the logs that it writes for programs.
 #pragma once
 
 #include "setup_fixture.h"

@@ -1,5 +1,5 @@
-// The setup as deployment tools run it: its switches, the codes it ends with, and what it reports
-// programs.
+// The setup as deployment tools run it: its switches, the codes it ends with, and the log that it
+// writes for programs.
 #include "scripted_pages.h"
 #include "unattended_fixture.h"
 
@@ -264,7 +264,7 @@ TEST_F(UnattendedTest, WritesItsResultWithoutALog)
     EXPECT_EQ(last["result"], "failed");
     EXPECT_EQ(last["code"], 1603);
     EXPECT_EQ(last["error"], "ingen mapp");
-    // Nobody asked for one, and one that can't be written.
+    // None was asked for, and one that can't be written.
     JsonLog(memory.files, memory.machine, {}).End(ExitCode::Failed, RunEnd::Stopped, "ingen mapp");
     EXPECT_THROW(JsonLog(memory.files, memory.machine, {{}, {}, "Q:\\borta\\r.json"}), RunError);
     EXPECT_FALSE(memory.files.FileExists("Q:\\borta\\r.json"));

@@ -105,7 +105,7 @@ TEST_F(UnicodeIni, IsLeftAloneWhereItIsNotWhole)
     }
 }
 
-// Another program may have saved it anew in the meantime.
+// Another program may have saved the file again in the meantime.
 TEST_F(UnicodeIni, IsGivenBackInTheFormThatItHasByThen)
 {
     memory.files.Put(kPath, "[\xC4renden]\r\nx=\xE5\r\n");

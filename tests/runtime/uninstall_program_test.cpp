@@ -1,5 +1,4 @@
-// The uninstaller as its user meets it: what it shows before and after, and with which code it
-// ends.
+// The uninstaller as a whole: what it shows before and after, and its exit codes.
 #include "setup_fixture.h"
 
 #include "platform/run_error.h"
@@ -392,7 +391,7 @@ TEST_F(UninstallProgramTest, ShowsItsSwitchesAndTheVersionAndRemovesNothing)
     project.Version.ProductVersion = "1.2";
     ASSERT_EQ(Install(), ExitCode::Done);
     const test::MachineState before = State();
-    otherSetupRuns = true; // which it waits for nobody to end
+    otherSetupRuns = true; // it does not wait for that one
     EXPECT_EQ(RunProgram("/version", {{BoxKind::Inform, kTitle, "Exempel, version 1.2"}}),
               ExitCode::Done);
     EXPECT_EQ(RunProgram("/? /LOG=L:\\l.txt", {{BoxKind::Inform, kTitle}}), ExitCode::Done);

@@ -317,8 +317,8 @@ TEST_F(UninstallTest, LeavesAFileThatAnotherProductHasCountedAndThisOneHasNot)
     EXPECT_THAT(Log(), HasSubstr("filen används av andra program"));
 }
 
-// An uninstallation that is ended from outside, or that fails at one change, at every change in
-// turn. What is begun again then leaves what one in a single run leaves.
+// An uninstallation that is interrupted, or that fails at one change, for every change in turn. A
+// second run then leaves the same as a single complete one.
 class UninstallAgainTest : public UninstallTest {
 protected:
     UninstallAgainTest()
@@ -409,7 +409,7 @@ TEST_F(UninstallAgainTest, FinishesWhatWasEndedFromOutside)
                                      target.TextAt(kFirma, "A") == "<none>";
         EXPECT_TRUE(isAlmostThrough || (HasEntry() && HasProgram() && HasLog())) << number;
         EXPECT_TRUE(HasLog() || !HasProgram()) << number;
-        if (!HasLog()) { // by then nobody knows any more which folders are the product's
+        if (!HasLog()) { // without it the product's folders are not known
             EXPECT_FALSE(memory.files.DirExists(kMain + "\\Bin")) << number;
             continue;
         }
@@ -569,7 +569,7 @@ TEST_F(UninstallTest, BelievesNoLogOfSomebodyElse)
     EXPECT_TRUE(IsTrusted(files, target, log, program));
     target.ofOthers.insert(log);
     EXPECT_FALSE(IsTrusted(files, target, log, program));
-    // Who has made the program too has installed the product.
+    // The user who made the program too is the one who installed the product.
     target.ofOthers.insert(program);
     EXPECT_TRUE(IsTrusted(files, target, log, program));
 }
@@ -588,7 +588,7 @@ TEST_F(UninstallTest, GoesOnBehindNoLogOfSomebodyElse)
     EXPECT_EQ(memory.files.Get("C:\\Annan\\offer.txt"), "offer");
 }
 
-// The file that waits would be any file that the uninstaller may remove.
+// Otherwise the uninstaller could be made to remove any file as the one that waits.
 TEST_F(UninstallTest, TakesBackNoReplacementWhosePathLeadsElsewhere)
 {
     const Text place = kMain + "\\ny.dll";

@@ -76,7 +76,7 @@ TEST_F(UninstallerFilesTest, StayWhereAnotherProductNeedsThem)
         EXPECT_FALSE(memory.files.FileExists(path)) << path;
 }
 
-// Whoever starts it until then reads that the product is gone already.
+// A user who starts it until then is told that the product has been removed already.
 TEST_F(UninstallerFilesTest, GoAtTheNextStartWhereTheProgramCantGoBefore)
 {
     ASSERT_EQ(Install(), ExitCode::Done);

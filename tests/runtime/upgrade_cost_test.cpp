@@ -1,6 +1,6 @@
-// What an upgrade asks of the disk, counted call by call, so that nothing hangs on the machine's
-// speed: it grows with the number of files and no faster, and is never much dearer than a fresh
-// installation.
+// The calls that an upgrade makes to the disk, counted, so that the result does not depend on the
+// machine's speed: their number grows with the number of files and no faster, and is never much
+// larger than for a fresh installation.
 #include "setup_fixture.h"
 
 namespace quillon {

@@ -1,4 +1,4 @@
-// A main window that writes down what it is reported.
+// A main window that records the calls that it gets.
 #pragma once
 
 #include "shell/main_window.h"

@@ -239,7 +239,7 @@ TEST_F(SavingOverFiles, SeesWhatAnotherProgramHasChanged)
     session.knownFile.content = LookAtFile(memory.files, kPath).content;
     EXPECT_EQ(SaveProject(session), SaveEnd::Done);
     EXPECT_EQ(memory.files.Get(kPath), whole);
-    // A file that has gone is written anew.
+    // A file that no longer exists is written again.
     memory.files.RemoveFile(kPath);
     EXPECT_EQ(SaveProject(session), SaveEnd::Done);
     EXPECT_EQ(memory.files.Get(kPath), whole);

@@ -28,7 +28,7 @@ ExpectedBox SaveQuestion(Answer answer)
             "Vissa inställningar har ändrats. Vill du spara dessa?", answer};
 }
 
-/// A session with a script of its own: what was not asked fails the test when it ends.
+/// A session with a script of its own: a box that was not asked for fails the test at its end.
 struct Desk {
     explicit Desk(std::deque<ExpectedBox> boxes = {}, std::deque<ScriptedAsk::Choice> choices = {})
         : ask(std::move(boxes))
@@ -377,7 +377,7 @@ TEST(SaveProjectCommandTest, AsksBeforeItWritesOverWhatAnotherProgramHasMade)
     }
 }
 
-/// A user who takes the time for another change while the question is there.
+/// A user who makes another change while the question is shown.
 class SlowAsk : public ScriptedAsk {
 public:
     using ScriptedAsk::ScriptedAsk;

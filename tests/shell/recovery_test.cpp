@@ -28,7 +28,7 @@ ExpectedBox Offer(const Text& project, Answer answer)
             answer};
 }
 
-/// A run of the program on a machine that outlives it.
+/// A run of the program on a machine that lives longer.
 struct OneRun {
     explicit OneRun(MemoryHost& machine, std::deque<ExpectedBox> boxes = {})
         : ask(std::move(boxes)), session(NewSession(machine.host, ask, "C:\\Tool", "C:\\Data"))

@@ -1,4 +1,4 @@
-// An output that only counts, where the bytes themselves matter to nobody.
+// An output that only counts its bytes and drops them.
 #pragma once
 
 #include "platform/file_system.h"

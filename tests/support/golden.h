@@ -10,7 +10,8 @@ namespace quillon::test {
 /// The bytes of a file below tests/golden; a test failure where there is none.
 std::string GoldenFile(const std::string& name);
 
-/// Tells the first difference by line and byte; a whole file in a failure message helps nobody.
+/// Reports the first difference by line and byte, since a whole file in a failure message would be
+/// useless.
 testing::AssertionResult SameBytes(const std::string& actual, const std::string& expected);
 
 } // namespace quillon::test

@@ -1,5 +1,5 @@
 // A program that is ended by SIGKILL at a moment that a test can name: before its n-th change of a
-// file. The system counts its calls, so nothing hangs on time.
+// file. The system calls are counted, so the result does not depend on time.
 #pragma once
 
 #include <map>

@@ -170,7 +170,7 @@ const MemoryFiles::Node& MemoryFiles::Existing(const Text& path) const
 FileStatus MemoryFiles::Status(const Text& path) const
 {
     if (nodes.count(KeyOf(path)) == 0 && DirExists(path))
-        return {.isFolder = true}; // a drive's root, which nobody put there
+        return {.isFolder = true}; // a drive's root, which exists without an entry
     return Existing(path).status;
 }
 

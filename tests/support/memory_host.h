@@ -1,5 +1,5 @@
-// A machine in memory: its disks are maps, its clock stands where the test puts it, and it fails
-// when it is told to.
+// A machine in memory: its disks are maps, its clock is set by the test, and it fails when the test
+// wants it.
 #pragma once
 
 #include "platform/host.h"

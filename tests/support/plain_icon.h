@@ -5,7 +5,7 @@
 
 namespace quillon::test {
 
-/// A picture of this size in an icon file, as a bitmap or as PNG; what is in it matters to nobody.
+/// A picture of this size in an icon file, as a bitmap or as PNG; its contents are arbitrary.
 inline std::string PlainIconPicture(std::size_t size, bool isPng)
 {
     std::string picture(size, isPng ? 'p' : 'b');

@@ -13,7 +13,7 @@ struct ProgramRun {
     std::string err;
 };
 
-// Nothing is forbidden to an administrator, so tests of missing rights run as nobody.
+// Nothing is forbidden to an administrator, so tests of missing rights run as the user "nobody".
 enum class RunAs { Self, Nobody };
 
 /// `environment` is set over the one of the test.

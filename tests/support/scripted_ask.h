@@ -1,6 +1,6 @@
-// A user whose answers are laid ready. Every box that comes up must be the next one of the script,
-// by its title and, where the script has one, by its text; a box that nobody expected fails the
-// test, and so does one that never came.
+// A user with prepared answers. Every box that comes up must be the next one of the script, by its
+// title and, where the script has one, by its text; an unexpected box fails the test, and so does
+// one that never came.
 #pragma once
 
 #include "platform/ask.h"

@@ -1,5 +1,5 @@
-// A folder on the real disk that goes when the test ends, and plain ways to put files into it that
-// do not lean on the code under test.
+// A folder on the real disk that is removed when the test ends, and simple functions to put files
+// into it that do not use the code under test.
 #pragma once
 
 #include <filesystem>

@@ -1,5 +1,5 @@
-// What is wrong with a window for those who look at it, hear it read aloud or use its keys. Each
-// function gives the faults as lines to print; a window without any gives none.
+// Faults of a window for users who look at it, hear it read aloud or use its keys. Each function
+// gives the faults as lines to print; none for a window without any.
 #pragma once
 
 #include <string>

@@ -18,7 +18,7 @@ extern "C" const char* __lsan_default_suppressions()
            "libQt6Widgets\n";
 }
 
-// What the screen in memory says about itself would bury the messages of a failed test.
+// Messages of the screen in memory would hide those of a failed test.
 static void TellMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (text.contains("This plugin does not support") || text.contains("XDG_RUNTIME_DIR"))

@@ -38,7 +38,7 @@ protected:
     {
         return prefix.Run(OnZ(package / "SETUP.EXE"), switches + R"( /LOG="C:\logg.txt")");
     }
-    /// There is nobody to press a button.
+    /// No user is there to press a button.
     void LeaveOutPages()
     {
         section::DialogBoxes& pages = product.project.DialogBoxes;

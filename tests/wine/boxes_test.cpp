@@ -1,4 +1,4 @@
-// What the setup shows to its user, and that it shows nothing where nobody is there.
+// What the setup shows to its user, and that it shows nothing where there is no user.
 #include "wine/driven_setup.h"
 #include "wine/package.h"
 #include "wine/registry_text.h"
@@ -37,7 +37,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LanguageCase{"FINNISH.LNG",
                                  "OK 1\nOK|Peruuta 2\nKyllä|Ei 7\nKyllä|Ei|Peruuta 2\n"}));
 
-// Nobody is there to close a box or to send a debugger away: a run that waited for that would hang.
+// No user is there to close a box or a debugger: a run that waited for that would hang.
 TEST(UnattendedSetup, EndsAtOnceWhereItCrashes)
 {
     constexpr unsigned kAccessViolation = 0xC0000005;

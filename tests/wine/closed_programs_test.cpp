@@ -64,7 +64,7 @@ TEST_F(ClosedPrograms, AreNamedHoweverManyTheyAreAndStartedAgain)
     EXPECT_EQ(ReadBytes(prefix.OnHost(kHeld)), "new");
 }
 
-// They are named once more, and the file ends the installation where the user leaves them.
+// They are named once more, and the file ends the installation where the user does not close them.
 TEST_F(ClosedPrograms, MayRefuseToEnd)
 {
     Set("programs=1\r\nrefuses=1\r\n");

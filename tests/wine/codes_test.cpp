@@ -60,7 +60,7 @@ TEST_F(SetupCodes, WriteFilesOfTheirOwnNamesWhereNoneIsGiven)
     EXPECT_THAT(TakeFile(temp, "QNXUNIN-", ".LOG"), HasSubstr("\\Data\\a.txt"));
 }
 
-// A setup that showed something would wait for somebody: nobody is there.
+// A setup that showed something would wait for a user, and there is none.
 TEST_F(SetupCodes, AreTheSameByAnyWordForSilence)
 {
     Make();
@@ -130,7 +130,7 @@ TEST_F(SetupCodes, TellOfAFullDisk)
     }
 }
 
-// Somebody has cleared up too thoroughly.
+// The folder for temporary files was removed.
 TEST_F(SetupCodes, AreThoseOfAnyOtherRunWithoutAFolderForTemporaryFiles)
 {
     Make();

@@ -41,7 +41,7 @@ TEST_F(DamagedPackage, IsRefusedWhicheverOfItsFilesHasABitThatTurned)
     std::mt19937 random(42);
     for (const auto& entry : fs::directory_iterator(package)) {
         const std::string file = entry.path().filename();
-        // Whatever a damaged starter does, it does not do it to a package; that one is below.
+        // A damaged starter may fail in any way; it has a test of its own below.
         if (file == "SETUP.EXE" || file == "PACKAGE.SHA256")
             continue;
         for (int i = 0; i < 3; ++i) {
@@ -87,7 +87,7 @@ TEST_F(DamagedPackage, IsRefusedWithoutALibraryOrASetup)
     EXPECT_FALSE(IsInstalled());
 }
 
-// Nobody may be there to close it.
+// No user may be there to close it.
 TEST_F(DamagedPackage, IsRefusedWithoutABoxWhereBoxesAreNotWanted)
 {
     UseNoScreen(prefix);

@@ -106,7 +106,7 @@ TEST_F(PagesWithFewer, WaysToCancelStillLetAnAgreementBeDeclined)
         "Installation av Provpaket Åäö: Vill du avbryta installationen?\ncode 1602\n");
 }
 
-// The same script without the switch: the test above looks at what it means to.
+// The same script without the switch, which shows that the test above tests the right thing.
 TEST_F(PagesWithFewer, WaysToCancelAreThereOtherwise)
 {
     const std::string log =

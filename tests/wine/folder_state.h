@@ -7,8 +7,8 @@
 
 namespace quillon::test {
 
-/// Each path below the folder, in lower case as names of Windows are the same, with what says that
-/// a file was changed; a folder has "folder".
+/// Each path below the folder, in lower case since Windows ignores case, with a text that changes
+/// with the file; a folder has "folder".
 using FolderState = std::map<std::string, std::string>;
 
 FolderState StateOf(const std::filesystem::path& folder);

@@ -87,8 +87,8 @@ TEST_F(KilledSetup, IsRepeatedAndLeavesNothingOfTheKilledOne)
     EXPECT_EQ(FolderDifference(before, StateOf(prefix_.DriveC())), "changed: windows/win.ini\n");
 }
 
-// A journal is obeyed by whose it is. Wine shows a file of another Unix user as somebody else's,
-// and only an administrator can make one.
+// A journal is trusted by its owner. Wine shows a file of another Unix user as another user's, and
+// only an administrator can make one.
 TEST_F(KilledSetup, IsBelievedOnlyFromWhoeverRunsTheSetup)
 {
     const fs::path victim = prefix_.DriveC() / "victim.txt";

@@ -22,10 +22,10 @@ PackageOrder ExampleOrder();
 std::string ReadBytes(const std::filesystem::path& path);
 void WriteBytes(const std::filesystem::path& path, const std::string& bytes);
 
-/// Lists all files of a package anew, as who changes one by hand does.
+/// Lists all files of a package again, as a user who changes one by hand does.
 void WriteManifest(const std::filesystem::path& package);
 
-/// Replaces a key's line in QNSETUP.INF, and lists the package's files anew.
+/// Replaces a key's line in QNSETUP.INF, and lists the package's files again.
 void ChangeSetupKey(const std::filesystem::path& package, const std::string& key,
                     const std::string& value);
 

@@ -279,8 +279,8 @@ TEST_F(SetupPages, AreThoseOfOneSetupAtATime)
                                                  ": Vill du avbryta installationen?\ncode 1602\n");
 }
 
-// For eyes: each page as Wine paints it, in build/<preset>/screens/setup, in each language. The
-// programs that packages carry show them all; their twins show the Swedish ones.
+// Pictures to look at: each page as Wine paints it, in build/<preset>/screens/setup, in each
+// language. The programs that packages carry show them all; the 64-bit ones show the Swedish ones.
 class SetupPictures : public SetupPages, public testing::WithParamInterface<const char*> {
 protected:
     void SetUp() override { fs::create_directories(shots_); }

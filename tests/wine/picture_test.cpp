@@ -64,8 +64,8 @@ TEST(WindowsPictures, HaveThePixelsThatTheToolShows)
     int count = 0;
     for (const auto& entry :
          fs::directory_iterator(fs::path(QUILLON_SOURCE_FOLDER) / "fuzz/corpus/picture_file")) {
-        // What fuzzing found has no extension: damaged JPEG files among it, which each decoder
-        // mends in a way of its own.
+        // Files found by fuzzing have no extension. Among them are damaged JPEG files, which each
+        // decoder repairs differently.
         if (!entry.path().has_extension())
             continue;
         const auto file = WorkFolder() / entry.path().filename();

@@ -1,5 +1,5 @@
-// Libraries that somebody has laid beside the programs, under the names of the system's own: none
-// of the programs takes them.
+// Libraries that were put beside the programs under the names of the system's own: none of the
+// programs loads them.
 #include "runtime/pages/page.h"
 #include "wine/driven_setup.h"
 #include "wine/package.h"

@@ -5,7 +5,7 @@
 set -eu
 
 suite=bookworm
-# The second one is how Wine knows of several displays. Whoever changes this list counts up the number
+# The second one is how Wine knows of several displays. A change of this list needs a higher number
 # in the folder's name, here and in run-wine.sh.
 packages=wine32,libxinerama1
 root=${QUILLON_WINE32_ROOT:-${XDG_CACHE_HOME:-$HOME/.cache}/quillon/wine32-root-2}
@@ -46,7 +46,7 @@ if [ ! -x "$root/usr/lib/wine/wine" ]; then
         >"$root.log" 2>&1 9>&- || { tail -5 "$root.log" >&2; exit 1; }
     as_root rm -rf "$part/var/cache/apt" "$part/var/lib/apt/lists" "$part/usr/share/doc" \
         "$part/usr/share/man" "$part/usr/share/locale"
-    # Everybody may put prefixes here and run programs on them.
+    # All users may put prefixes here and run programs on them.
     as_root chmod 1777 "$part/tmp"
     as_root mv -T "$part" "$root"
     trap - EXIT

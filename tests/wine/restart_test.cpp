@@ -78,7 +78,7 @@ TEST_F(RestartedMachine, IsLeftAloneUnderSilenceWhateverTheCode)
     EXPECT_EQ(Drive(" /S /RESTARTEXITCODE=1641", "end\n"), "code 1641\n");
 }
 
-// Nobody would hear of it beforehand.
+// The user would not be told beforehand.
 TEST_F(RestartedMachine, IsLeftAloneWhereBoxesAreSuppressed)
 {
     EXPECT_EQ(Drive(" /SUPPRESSMSGBOXES", "page Välkommen\npress 1\npage Komponenter\npress 1\n"

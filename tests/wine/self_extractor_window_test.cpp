@@ -154,7 +154,7 @@ TEST_F(SelfExtractorWindow, SpeaksTheLanguageOfThePackage)
               Box("The switch /extract needs a folder.", SelfExtractCode::kBadSwitch));
 }
 
-// For eyes: build/<preset>/screens/setup.
+// A picture to look at: build/<preset>/screens/setup.
 TEST_F(SelfExtractorWindow, IsPictured)
 {
     const VirtualDisplay display;

@@ -48,7 +48,7 @@ TEST(SmallPackage, UpdatesAnEarlierVersion)
     ExpectInstalled(prefix, second);
 }
 
-// Nothing vouches for the files but the container itself.
+// Without a manifest, only the container checks the files.
 TEST(SmallPackage, IsNotInstalledWithADamageThatNoManifestTellsOf)
 {
     SampleProduct product;

@@ -117,7 +117,7 @@ TEST_F(SetupSwitches, SaveTheAnswersAndTakeThemAgain)
     EXPECT_THAT(Result()["error"].get<std::string>(), HasSubstr("/LOADINF=C:\\borta.inf"));
 }
 
-// A setup that showed something would wait for somebody: nobody is there.
+// A setup that showed something would wait for a user, and there is none.
 TEST_F(SetupSwitches, ShowNothingAndNameTheOneThatIsWrong)
 {
     Make();

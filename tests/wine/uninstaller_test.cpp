@@ -1,4 +1,4 @@
-// The uninstaller against what crashes in it and against what somebody has laid in its way.
+// The uninstaller against crashing registrations and against planted journals and libraries.
 #include "wine/driven_setup.h"
 #include "wine/package.h"
 #include "wine/registry_text.h"
@@ -155,7 +155,7 @@ TEST_F(Uninstaller, TakesSwitchesThatAreQuotedAsAWhole)
     EXPECT_TRUE(fs::exists(prefix.OnHost("C:\\en logg.txt")));
 }
 
-// Whoever starts it may go on as soon as its process has ended.
+// A caller may go on as soon as its process has ended.
 TEST_F(Uninstaller, HasDoneItsWorkWhenItEnds)
 {
     Install();
@@ -192,7 +192,7 @@ TEST_F(Uninstaller, LeavesAProgramThatRunsToTheNextStart)
 
 class UninstallerWindows : public Uninstaller {
 protected:
-    // There is no screen, and Wine has to know it, or it makes no window.
+    // There is no screen. Wine has to be told so, or it makes no windows.
     void SetUp() override
     {
         UseNoScreen(prefix);

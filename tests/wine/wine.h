@@ -46,7 +46,7 @@ public:
     /// A whole command line, as the system's list of installed programs keeps one.
     unsigned RunCommandLine(const std::string& commandLine) const;
 
-    /// Starts the machine anew, which removes what could not go while it ran.
+    /// Restarts the machine, which removes what could not be removed while it ran.
     void Restart() const;
     /// Waits until every program in the prefix has ended by itself.
     void WaitForAll() const;

@@ -1,4 +1,4 @@
-// What the other tests lean on.
+// What the other tests depend on.
 #include "wine/wine.h"
 
 #include <fstream>

@@ -80,7 +80,7 @@ TEST_F(DlgCompressOptionsTest, OnlyWhatIsCompressedTogetherCanBeSmall)
     EXPECT_TRUE(form.cSmallContainer->isEnabled());
     Click(form, "cKeepCompressedFilesOneAndOne");
     EXPECT_FALSE(form.cSmallContainer->isEnabled());
-    // What was chosen is still there when the way is free again.
+    // The earlier choice is still there when the option is enabled again.
     EXPECT_TRUE(form.cSmallContainer->isChecked());
 }
 

@@ -12,8 +12,8 @@ namespace {
 
 const ExpectedBox kFirstDisk{BoxKind::OkCancel, "Diskett", "Stoppa in diskett nr 1!"};
 
-/// A user in whose presence more happens: `onBox` runs as each box comes up, `onProcessEvents` as
-/// often as the window is let live.
+/// A user during whose boxes something happens: `onBox` runs as each box comes up,
+/// `onProcessEvents` each time that events are handled.
 class WatchedAsk : public ScriptedAsk {
 public:
     using ScriptedAsk::ScriptedAsk;
@@ -418,7 +418,7 @@ TEST_F(DlgCreateTest, NothingCanBeChangedOrClosedWhileItRuns)
         EXPECT_TRUE(window.isVisible());
         SavePicture(form, "DlgCreate_running");
     };
-    // Many files, so that the run takes the time in which windows are let live.
+    // Many files, so that the run takes long enough for events to be handled.
     for (int i = 0; i < 3000; ++i)
         AddFile(NumberText(i).append(".bin"), Text(2000, static_cast<char>('a' + i % 20)));
     Click(form, "cmdCreate");
@@ -669,7 +669,7 @@ TEST_F(DlgCreateTest, LooksRight)
     SaveDarkPicture(form, "DlgCreate");
 }
 
-/// A signing program that refuses, and remembers what it was handed.
+/// A signing program that refuses, and records its input.
 class RefusingPrograms : public ProgramRunner {
 public:
     bool IsInstalled(const Text&) const override { return true; }

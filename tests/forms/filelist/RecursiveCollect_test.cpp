@@ -9,7 +9,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// A user whose window comes to life while the walk is on.
+// A user whose window gets events while the walk runs.
 class LiveAsk : public ScriptedAsk {
 public:
     using ScriptedAsk::ScriptedAsk;

@@ -78,7 +78,7 @@ TEST_F(DlgImportVBNetProjectTest, StaysOpenForAProjectOfAnotherKind)
     EXPECT_TRUE(form.isVisible());
 }
 
-// It is hidden once its questions are answered; many libraries are worth a window again.
+// The dialog is hidden after its questions, and shown again for many libraries.
 TEST_F(DlgImportVBNetProjectTest, ShowsItsProgressAmongManyLibrariesAndStopsThere)
 {
     class WatchingAsk : public ScriptedAsk {

@@ -121,7 +121,7 @@ TEST_F(PrintFileListTest, ShowsThePrintersOfThisMachine)
     OnNextDialog([&](QDialog& dialog) {
         const auto& form = static_cast<PrintFileList&>(dialog);
         EXPECT_EQ(form.objectName(), "PrintFileList");
-        // Whatever this machine has: printing is offered with a printer only, the PDF always.
+        // On any machine: printing is offered only with a printer, the PDF always.
         EXPECT_EQ(form.cmdPrint->isEnabled(), form.cbPrinter != nullptr);
         EXPECT_TRUE(form.cmdSavePdf->isEnabled());
         isShown = true;

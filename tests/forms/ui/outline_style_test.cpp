@@ -107,7 +107,7 @@ TEST_F(OutlineStyleTest, OutlinesControlsSoThatTheyAreSeenInLight)
     Measure(QPalette(QColor(0xef, 0xef, 0xef)), "light");
 }
 
-// The measure sees what it is to see.
+// Shows that the measurement finds such faults.
 TEST_F(OutlineStyleTest, IsMissedWhereTheUsualStyleDraws)
 {
     QApplication::setPalette(DarkPalette());

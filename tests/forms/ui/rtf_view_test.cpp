@@ -1,4 +1,4 @@
-// Formatted text as a user reads it, and files made to bring the program down.
+// Formatted text as a user reads it, and files made to crash the program.
 #include "ui/rtf_view.h"
 
 #include "support/window_test.h"
@@ -36,8 +36,7 @@ struct Endless {
 
 class EndlessText : public RtfViewTest, public testing::WithParamInterface<Endless> {};
 
-// Whatever grows without end is shown as far as somebody could read, and shown at once: the test
-// program would not come to its end otherwise.
+// Endless contents are shown up to a limit, and quickly; otherwise the test program would not end.
 TEST_P(EndlessText, IsShownFromItsBeginningToTheLimit)
 {
     Show(Repeated(GetParam().piece, GetParam().count));

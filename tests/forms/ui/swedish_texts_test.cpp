@@ -104,7 +104,8 @@ protected:
         });
         QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, widget.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&widget, &event);
-        // Fields run their menu beside their own code, scroll bars in it.
+        // A field's menu runs asynchronously, that of a scroll bar does not return before it is
+        // closed.
         EXPECT_TRUE(QTest::qWaitFor([&] { return hasShown; }));
     }
 

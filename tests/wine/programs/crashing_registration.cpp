@@ -1,4 +1,4 @@
-// A library that brings its process down when it has to register itself.
+// A library that crashes its process when it has to register itself.
 #include <windows.h>
 
 extern "C" __declspec(dllexport) HRESULT WINAPI DllRegisterServer()

@@ -1,4 +1,4 @@
-// A library that registers itself without complaint and brings its process down when it has to take
+// A library that registers itself without a failure and crashes its process when it has to take
 // that back.
 #include <windows.h>
 

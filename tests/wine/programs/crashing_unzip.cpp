@@ -1,4 +1,4 @@
-// Looks like the library that unpacks a package's files, and brings down the setup that calls it.
+// Looks like the library that unpacks a package's files, and crashes the setup that calls it.
 #define EXPORTED extern "C" __declspec(dllexport)
 
 namespace {

@@ -387,7 +387,7 @@ void CheckLockedFolder(Checks& checks, FileSystem& files, const Text& folder)
     checks.Expect(!files.DirExists(locked), "removing a locked folder");
 }
 
-// Of a file that is written anew.
+// For a file that is written again.
 void CheckCopiedRights(Checks& checks, FileSystem& files, const Text& folder)
 {
     constexpr DWORD kAttributes =
@@ -412,7 +412,7 @@ void CheckCopiedRights(Checks& checks, FileSystem& files, const Text& folder)
     files.RemoveFile(first);
 }
 
-// Until it is closed nobody else can make another file of it.
+// Until it is closed, others can't replace it by another file.
 void CheckHeldFile(Checks& checks, FileSystem& files, const Text& folder)
 {
     const Text path = JoinPath(folder, "held.dat");
