@@ -8,9 +8,9 @@
 # TURNS=100 is how often, SEED=n repeats a run (it is printed). QUILLON_WINE and the work folder:
 # bench/wine_setup.sh.
 #
-# Wine's own programs go on, so that a turn takes a second or two. What is killed is told by the
-# prefix in its environment and by its name; all of it dies by one call, so that no part of the setup
-# does anything about the end of another one.
+# Wine's own programs go on, so that a turn takes a second or two. The processes to kill are found
+# by the prefix in their environment and by their names; one call kills all of them, so that no part
+# of the setup can react to the end of another one.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/prepare.sh
@@ -23,7 +23,8 @@ mkdir "$work/was"
 main="$work/prefix/drive_c/Program Files/Dödad"
 failed=0
 
-# make_version NUMBER: of the second one, half of the files are others, some are new and some are gone.
+# make_version NUMBER: the second version has other contents in half of the files, some new files,
+# and lacks some.
 make_version() {
     local version=$1 project=$work/dodad-$1.qnp sources=$work/files-$1
     mkdir -p "$sources"/{a,b,c,"$version"}
@@ -39,12 +40,12 @@ make_version() {
     make_package "$project" "$work/package-$version"
 }
 
-# The uninstaller clears up behind its own end.
+# The uninstaller removes its own files after its end.
 own_processes() { processes '(SETUP|QNS32X|QNREG32|QNXUNIN)\.'; }
 wait_for_end() { while [ -n "$(own_processes)" ]; do sleep 0.02; done; }
 
-# What is on the machine: every file of its own with its content, every other one with its size and
-# time, every folder, the registry but for the part that Wine writes as it goes.
+# What is on the machine: every file of the setup's own with its content, every other one with its
+# size and time, every folder, the registry but for the part that Wine writes as it goes.
 state() {
     wait_for_end
     (cd "$work/prefix/drive_c" && find . -type d ! -name 'QN*.TMP' -print &&
@@ -78,8 +79,8 @@ kill_at() {
     "$@" >"$work/log" 2>&1 &
     local running=$!
     sleep "$(awk -v ms="$moment" 'BEGIN { printf "%.3f", ms / 1000 }')"
-    # A program that was about to start is seen by the next look alone; without its parent, Wine lets
-    # it wait for ever.
+    # A program that is just being started is found only by the next look; without its parent, Wine
+    # lets it wait for ever.
     local victims
     while victims=$(own_processes) && [ -n "$victims" ]; do
         # shellcheck disable=SC2086
@@ -101,7 +102,7 @@ compare() {
     fi
 }
 
-# At each even turn the killed setup is one of a new version over the former one.
+# In each second turn the killed setup is one of a new version over the former one.
 one_turn() {
     local version=1 length=$fresh
     if [ $((turn % 2)) = 0 ]; then
@@ -115,7 +116,7 @@ one_turn() {
         compare "installed-$version"
         [ $((turn % 3)) != 0 ] || kill_at "$(random_below "$removal")" uninstall
     fi
-    # An uninstaller that was killed behind its last step has left nothing to begin again.
+    # An uninstaller that was killed after its last step has left nothing to repeat.
     [ ! -e "$main/QNXUNIN.EXE" ] || put_right uninstall
     compare before
 }

@@ -80,7 +80,7 @@ void WholeScreenFirst(benchmark::State& state)
     }
 }
 
-/// As it is painted anew, for example when a page of the setup went away.
+/// As it is painted again, for example when a page of the setup is closed.
 void WholeScreenAgain(benchmark::State& state)
 {
     Desk desk;
@@ -89,7 +89,7 @@ void WholeScreenAgain(benchmark::State& state)
         desk.Paint(3840, 2160);
 }
 
-/// Each step has another size, so everything is scaled anew.
+/// Each step has another size, so everything is scaled again.
 void ResizeStep(benchmark::State& state)
 {
     Desk desk;

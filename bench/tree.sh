@@ -1,5 +1,5 @@
-# The tree that bench/create.sh and bench/unpack.sh work on, as a folder and as a project; to be read
-# by them, with `work` as their folder and `bin` as that of the benchmark programs.
+# The tree that bench/create.sh and bench/unpack.sh work on, as a folder and as a project. Both
+# scripts source this one, with `work` as their folder and `bin` as that of the benchmark programs.
 
 input=$work/input
 

@@ -63,7 +63,8 @@ make_program
 wine wineboot --init >"$work/log" 2>&1 || { cat "$work/log" >&2; exit 1; }
 for ((i = 0; i <= runs; ++i)); do
     rm -rf "$place/out"
-    # What Wine takes to start a program is none of ours; the first run waits for its services.
+    # The time that Wine takes to start a program is not counted; the first run waits for its
+    # services.
     run "$place/start" '/?'
     run "$place/unpack" /S "/extract:$(on_z "$place/out")"
 done

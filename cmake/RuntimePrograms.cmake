@@ -1,6 +1,7 @@
-# The programs of the setup runtime, for the cross build. What several of them share lies directly in
-# src/runtime/win32 and is a part of the runtime library; what belongs to one lies in a folder there
-# that is named after it.
+# The programs of the setup runtime, for the cross build. The sources directly in src/runtime/win32
+# are a part of the runtime library, from which each program links what it uses. A folder below,
+# named after a program, has what is compiled for that program alone: its entry point, its resources
+# and further sources. `lean` is a library of its own, which all programs are linked with.
 set(win32 ${CMAKE_CURRENT_SOURCE_DIR}/runtime/win32)
 
 # Below all other libraries, so that the linker meets it behind them and before libstdc++.
@@ -12,9 +13,9 @@ target_link_libraries(quillon_options INTERFACE quillon_lean ${delayed})
 # Programs begin at wWinMain. They are compiled in one piece at the link, since GCC 12 breaks down over
 # symbols that two pieces of a program share, and now and then over the one piece that it makes of them.
 target_link_options(quillon_options INTERFACE -municode -flto-partition=none)
-# Loaded where nobody can know, and no data runs as code. A 32-bit program registers no handler of
-# exceptions, so that none that somebody lays on its stack is taken for one; 64-bit programs keep theirs in
-# a table that can't be written.
+# Programs are loaded at random addresses, and data are not executable. A 32-bit program registers
+# no exception handlers, so that none on its stack is accepted; 64-bit programs have theirs in a
+# read-only table.
 target_link_options(quillon_options INTERFACE -Wl,--dynamicbase,--nxcompat)
 if(QUILLON_TARGET_MACHINE STREQUAL "i686")
   target_link_options(quillon_options INTERFACE -Wl,--no-seh -Wl,-u,_kLoadConfiguration)
@@ -34,10 +35,9 @@ function(quillon_runtime_program source file folder)
   get_filename_component(ending ${file} LAST_EXT)
   if(ending STREQUAL ".DLL")
     add_library(${source} SHARED ${sources})
-    # Only the program itself: nobody links against an import library of it.
+    # No import library is made, since no program links against one.
     set_target_properties(${source} PROPERTIES ENABLE_EXPORTS OFF)
-    # The compiler would keep every function for others to call; what the .def file names is all
-    # that anybody calls.
+    # Otherwise every function would be kept for callers; only those in the .def file are called.
     target_link_options(${source} PRIVATE -fwhole-program)
   else()
     add_executable(${source} WIN32 ${sources})

@@ -18,7 +18,7 @@ function(quillon_unity target)
     cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${folder})
     list(APPEND absolute ${source})
   endforeach()
-  # Grouped anew when a source changes what it keeps to itself.
+  # Grouped again when a source changes what it keeps to itself.
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/cmake/unity_groups.py)
   execute_process(
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/cmake/unity_groups.py ${QUILLON_UNITY_LINES}

@@ -108,7 +108,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     ResetToNewProject(project, state, kToolFolder);
 
     const ReadEnd end = desk.Load(project);
-    // Nothing came in then; what becomes of a new project is no news.
+    // Nothing was read, so the project is a new one.
     if (end == ReadEnd::Refused)
         return 0;
     Require(project.Files.rows.size() <= kMaxRows);

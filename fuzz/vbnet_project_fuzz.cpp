@@ -1,5 +1,5 @@
 // Visual Basic .NET project files of any content: references come in bounded numbers, each with its
-// braces, and an included file is reported in upper case.
+// braces, and an included file is given back in upper case.
 #include "importers/project_lines.h"
 #include "importers/vb_project.h"
 #include "importers/vbnet_project.h"

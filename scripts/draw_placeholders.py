@@ -7,7 +7,7 @@ change; the pictures are kept as files."""
 import os
 import sys
 
-sys.dont_write_bytecode = True  # the other script's, which nobody needs twice
+sys.dont_write_bytecode = True  # no compiled copy of the other script
 
 from draw_tabs import lines_of_circle, lines_of_path, write
 

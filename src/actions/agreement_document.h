@@ -12,8 +12,8 @@ namespace quillon {
 /// Nothing where the user cancelled, or chose a file whose name a project can't hold.
 std::optional<Text> ChooseRtfFile(Text& folder, Ask& ask);
 
-/// Opens the document in the program that the system assigns to it; a message box reports a
-/// failure.
+/// Opens the document in the program that the system assigns to it; a failure is shown in a message
+/// box.
 void OpenRtfFile(const Text& path, Machine& machine, Ask& ask);
 
 } // namespace quillon

@@ -9,7 +9,7 @@
 
 namespace quillon {
 
-/// The maxLength list that the project file holds, in bytes on file.
+/// The longest list that the project file holds, in bytes on file.
 inline constexpr int kMaxIniListLength = 32767;
 
 /// Whether so much more can be at the end of the list; where not, a box says so.

@@ -63,7 +63,7 @@ std::vector<Text> LanguageFiles(const FileSystem& files, const LanguageFolders& 
     return names;
 }
 
-// Kept: a name that has the extension somewhere gets no second one.
+// Kept: a name that has the extension anywhere gets no second one.
 Text LanguageFileName(std::string_view typed)
 {
     Text name = UpperCase(TrimBlanks(typed));

@@ -1,5 +1,5 @@
 // The language files of the setup: which there are, and how a new one is made from the reference.
-// What is in them is the setup's own matter.
+// The texts in them are read by the setup alone.
 #pragma once
 
 #include "platform/ask.h"

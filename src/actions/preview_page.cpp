@@ -37,7 +37,7 @@ const VariableName& NamedVariable(const Text& name)
     return *std::ranges::find(kVariableNames, name, &VariableName::name);
 }
 
-/// The maxLength variable that is at this place of a text, or null.
+/// The longest variable that is at this place of a text, or null.
 const VariableValue* VariableAt(std::string_view text, const std::vector<VariableValue>& known)
 {
     const VariableValue* best = nullptr;

@@ -20,16 +20,16 @@ void DesignPage::BeginProject()
     isPending_ = true;
 }
 
-// After another tab only a project that has just been opened is laid out; everything else is when
-// the tab comes in front.
+// While the tab is hidden, only a project that has just been opened is laid out; everything else
+// waits until the tab is shown.
 void DesignPage::ShowSession()
 {
     if (isPending_ || isVisible())
         LayOut();
 }
 
-/// After another tab a page has its size as soon as the window is on the screen: one that opens
-/// maximized was smaller before.
+/// A hidden page has its size as soon as the window is on the screen; before that, a window that
+/// opens maximized is smaller.
 bool DesignPage::HasSize() const
 {
     const QWindow* window = this->window()->windowHandle();

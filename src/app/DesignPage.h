@@ -17,7 +17,7 @@ public:
 
     DesignScreen& Screen() { return *screen_; }
 
-    /// Called once all objects are laid out anew, which may have moved them inside the surface.
+    /// Called once all objects are laid out again, which may have moved them inside the surface.
     std::function<void()> onLaidOut;
 
 protected:

@@ -32,7 +32,7 @@ bool CanRedo(const QPlainTextEdit& area)
     return area.document()->isRedoAvailable();
 }
 
-/// What `use` says of the field that has the keyboard; false where none has.
+/// The result of `use` for the field that has the keyboard; false where none has.
 template <class Use>
 bool OfField(const QWidget& window, Use use)
 {

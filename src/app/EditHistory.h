@@ -1,7 +1,6 @@
 // Undo and redo of the main window. A command, with all dialogs that it opens, is one step; so is
-// what is changed on a page until the window waits for its user again. What is typed into a field
-// of a page becomes a step when the field is left: as long as the keyboard is in it, it undoes by
-// itself.
+// what is changed on a page until the window waits for input again. What is typed into a field of a
+// page becomes a step when the field is left; until then Undo acts on the field alone.
 #pragma once
 
 #include "shell/main_window.h"

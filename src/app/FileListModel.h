@@ -1,5 +1,5 @@
-// The rows of the project as the file list shows them. They are read where they lie; whoever
-// changes them calls `ShowRows`.
+// The rows of the project as the file list shows them. They are read where they lie; code that
+// changes them must call `ShowRows`.
 #pragma once
 
 #include "filelist/view/columns.h"
@@ -12,7 +12,7 @@ class FileListModel : public QAbstractTableModel {
 public:
     explicit FileListModel(const FileList& files) : files_(files) {}
 
-    /// All rows anew. Nothing is selected afterwards.
+    /// Shows all rows again. Nothing is selected afterwards.
     void ShowRows();
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -15,17 +15,18 @@ namespace {
 // The widths of the columns are twips of a font 13 pixels high; they grow with the user's font.
 constexpr int kFontOfTwips = 13;
 
-// What is shown on demand only.
+// The columns that are not always shown.
 constexpr int kComponentWidth = 320;
-constexpr int kLessForComponents = 350; // off the destination's width
+constexpr int kLessForComponents = 350; // taken from the destination's width
 constexpr int kSourceWidth = 4200;
 
-// A name that is longer leaves the other columns their room; it is cut, and a tip shows the whole.
+// A longer name is cut, so that the other columns keep their room; a tool tip shows it whole.
 constexpr int kMaxNameLetters = 45;
 
 constexpr double kUsualDpi = 96;
 
-// Wide fonts need more than the twips of the columns with texts of one length.
+// The longest text of a column whose texts all have one length: in a wide font the width in twips
+// is too small for it.
 QString WidestText(Column column)
 {
     switch (column) {

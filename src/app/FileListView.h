@@ -16,7 +16,7 @@ class FileListView : public QTreeView {
 public:
     FileListView(const Project& project, quillon::Settings& settings);
 
-    /// The rows anew, these of them selected.
+    /// Shows the rows again with these selected.
     void ShowRows(const std::vector<std::size_t>& selectedRows);
     /// Row numbers, ascending.
     std::vector<std::size_t> SelectedRows() const;
@@ -29,7 +29,7 @@ public:
     /// Component numbers are shown while the project has components.
     void ShowComponentColumns();
 
-    // What the user does to the list; set by who carries it out.
+    // Called for what the user does with the list; the page that holds the list sets them.
     std::function<void(const Text& header)> onColumnClick;
     std::function<void()> onSelection;
     std::function<void()> onDoubleClick;
@@ -65,7 +65,7 @@ private:
     const Project& project_;
     quillon::Settings& settings_;
     FileListModel model_;
-    // The room that the maxLength name asks for.
+    // The width that the longest name needs.
     int widestName_ = 0;
     // Widths that change while this is set are not the user's.
     bool isArranging_ = false;

@@ -39,7 +39,7 @@ void FilesPage::OpenFind()
 
 void FilesPage::dragEnterEvent(QDragEnterEvent* event)
 {
-    // A project is the window's to open.
+    // A dropped project is opened by the main window.
     if (onDrop && event->mimeData()->hasUrls() && !DroppedProject(*event->mimeData(), paths_))
         event->acceptProposedAction();
 }

@@ -29,8 +29,8 @@ public:
     /// Takes in the files that another program has dropped here or laid on the clipboard.
     void TakeFiles(const QMimeData& files);
 
-    /// Called once the files are taken, so that whoever was dragged from does not wait. `refused`
-    /// are names of what has no Windows path.
+    /// Called once the files are taken, so that the program that they were dragged from need not
+    /// wait. `refused` are names of what has no Windows path.
     std::function<void(const std::vector<Text>& paths, const std::vector<Text>& refused)> onDrop;
 
 protected:

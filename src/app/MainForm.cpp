@@ -108,7 +108,8 @@ void MainForm::MakeStatusBar()
     unsavedPane_ = new QLabel;
     unsavedPane_->setObjectName("MainStatusBarUnsaved");
     statusBar()->addPermanentWidget(unsavedPane_);
-    // Everything may change the project, so the window looks before it waits for its user.
+    // Any event may change the project, so its state is compared each time before the window waits
+    // for input.
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             [this] {
                 edits_->NotePageEdit();
@@ -126,7 +127,8 @@ void MainForm::ShowUnsavedChanges()
 
 void MainForm::ConnectEdits()
 {
-    // What was typed on the tab before this one is no part of what laying out this one corrects.
+    // Laying out this tab may correct places. What was typed on the tab before must not become a
+    // part of that step.
     connect(MainTab_, &QTabWidget::currentChanged, this,
             [this] { edits_->GoToTab(SelectedTab()); });
     auto& design = static_cast<DesignPage&>(PageOf(Tab::Design));
@@ -287,14 +289,14 @@ void MainForm::ShowStatusText(const Text& text)
         statusBar()->clearMessage();
     else
         statusBar()->showMessage(ToQt(text));
-    // The command that sets it is about to keep the window from painting.
+    // The window does not paint while the command that sets the text works.
     statusBar()->repaint();
 }
 
 void MainForm::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
-    // The window is to be seen before a long project is read or a question comes up.
+    // The window is shown before a long project is read or a question comes up.
     if (auto activate = std::exchange(onFirstActivation, nullptr))
         QTimer::singleShot(0, this, std::move(activate));
 }
@@ -312,7 +314,8 @@ void MainForm::dropEvent(QDropEvent* event)
         return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    // The question that may come up must not hold up the program that was dragged from.
+    // A question may come up, and the program that the project was dragged from must not wait for
+    // its answer.
     QTimer::singleShot(0, this, [this, project] {
         RunGuarded([&] { OpenChosenProject(session_, *this, *project); }, {});
     });

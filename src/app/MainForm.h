@@ -57,10 +57,10 @@ public:
     void Run(Action action, const Text& editName);
 
     EditHistory& Edits() { return *edits_; }
-    /// What an undone step has changed.
+    /// Shows what an undone step has changed.
     void ShowRestored(const ProjectHistory::Restored& restored);
 
-    /// What a status text of a long command says; an empty one gives the bar back.
+    /// Shows the status text of a long command; an empty one gives the bar back.
     void ShowStatusText(const Text& text);
 
     /// Run once, after the first time that the window is shown.

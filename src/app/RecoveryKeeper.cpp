@@ -19,7 +19,7 @@ RecoveryKeeper::RecoveryKeeper(MainForm& form, RecoveryCopy& copy, int milliseco
                      &timer_, [this] { Look(); });
 }
 
-// Before the window waits, since everything may change the project.
+// Looked at before the window waits, since any event may change the project.
 void RecoveryKeeper::Look()
 {
     if (form_.GetSession().state.ProjectIsDirty == kOff) {

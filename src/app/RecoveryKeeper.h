@@ -1,4 +1,4 @@
-// Keeps a copy of what is not saved, while the user works.
+// Keeps a copy of the unsaved project while the user works.
 #pragma once
 
 #include "shell/recovery.h"
@@ -16,7 +16,7 @@ public:
     /// project counts as saved.
     RecoveryKeeper(MainForm& form, RecoveryCopy& copy, int milliseconds = kRecoverySeconds * 1000);
 
-    /// Now, whatever is in the copy already.
+    /// Writes the copy now, even where it holds this state already.
     void Keep();
 
 private:

@@ -57,7 +57,8 @@ void RegistryPage::AddVariable()
         AppendLines(editRegistryList, *variable);
 }
 
-// The list is free text, but what would not come back from the file is reported while it is typed.
+// The list is free text. A line that would not come back from the file is reported while it is
+// typed.
 void RegistryPage::ShowWarning()
 {
     const auto line = FindUnsavableLine(&section::Lists::Registry, session_.project.Lists.Registry);

@@ -173,7 +173,7 @@ void ShowLook(QMainWindow& window, BarsStyle style)
     }
 }
 
-/// Belongs to the window and gives its bars their look anew after a change of palette or font.
+/// Belongs to the window and sets the look of its bars again after a change of palette or font.
 class BarsWatch : public QObject {
 public:
     explicit BarsWatch(QMainWindow& window) : QObject(&window), window_(window)

@@ -87,7 +87,8 @@ QMenu* CommandBars::ConnectHelp(QMenu* menu)
 QAction* CommandBars::MakeAction(const Command& command)
 {
     const CommandId id = command.id;
-    // What has no place in a menu is read aloud, and shown where the bar is too narrow, by its tip.
+    // A button without a menu entry is read aloud by its tool tip, which also shows it where the
+    // bar is too narrow.
     const std::string_view caption = command.caption.empty() ? command.tooltip : command.caption;
     auto* action = new QAction(ToQt(caption), &window_);
     action->setObjectName(QString("cmd%1").arg(static_cast<int>(id)));

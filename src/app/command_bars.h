@@ -1,5 +1,5 @@
-// The menu bar and the toolbar "Standard", built from the table of commands. A toolbar is built
-// anew for each tab.
+// The menu bar and the toolbar "Standard", built from the table of commands. The toolbar is built
+// again for each tab.
 #pragma once
 
 #include "shell/command_table.h"

@@ -91,7 +91,7 @@ int main(int argc, char** argv)
     RestoreWindowPlace(form, session.Settings.WindowPlace);
     form.show();
     const int exitCode = QApplication::exec();
-    // Whatever was not saved then was not to be saved.
+    // The window has been closed in the regular way, so what is unsaved was not to be saved.
     copy.Remove();
     return exitCode;
 }

@@ -9,7 +9,7 @@ namespace quillon {
 
 class MainForm;
 
-/// Made anew each time that it opens, so it is always in line with the project.
+/// Built each time that it opens, so that it always fits the project.
 QMenu* MakePopupFileList(MainForm& form);
 
 /// Opens the menu there and leaves it open.

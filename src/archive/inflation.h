@@ -1,5 +1,6 @@
 // What unpacking needs of zlib, as functions that are handed in: the setup takes them from the
-// library that travels with each package, everybody else from the zlib that is linked.
+// library that travels with each package, all other programs from the zlib that they are linked
+// with.
 #pragma once
 
 struct z_stream_s;

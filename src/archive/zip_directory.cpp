@@ -12,11 +12,11 @@ namespace quillon::zip {
 namespace {
 
 constexpr std::uint64_t kMaxCommentLength = 0xFFFF;
-// Deflate spends at least two bits on 258 bytes. A larger size is false, and is there to make a
-// reader reserve the space.
+// Deflate spends at least two bits on 258 bytes. A larger size is false, and could make a reader
+// reserve too much memory.
 constexpr std::uint64_t kMaxExpansion = 1032;
 
-/// Where the directory is and what it shall hold.
+/// Where the directory is, and how many entries and bytes it must have.
 struct Place {
     std::uint64_t position = 0;
     std::uint64_t size = 0;
@@ -87,8 +87,8 @@ std::optional<Record> RecordAt(InputFile& archive, std::uint64_t position)
     throw ZipError(ZipError::Kind::NotAnArchive, "filen är inget ZIP-arkiv");
 }
 
-// The end record is the one whose comment reaches exactly to the end of the file. Where a comment
-// holds a second such record, the archive means two things at once.
+// The end record is the one whose comment reaches exactly to the end of the file. An archive whose
+// comment holds a second such record is ambiguous.
 std::uint64_t FindEndRecord(InputFile& archive)
 {
     const std::uint64_t size = archive.Size();
@@ -234,7 +234,7 @@ ZipEntry ReadEntry(DirectoryCursor& cursor, const Place& place, Directory::Exten
     return entry;
 }
 
-// Entries that share bytes are how a small file pretends to be an enormous one.
+// A small file can pretend to be enormous by entries that share bytes.
 void SetExtentEnds(std::vector<Directory::Extent>& extents, const Place& place)
 {
     std::ranges::sort(extents, {}, &Directory::Extent::begin);

@@ -36,8 +36,8 @@ struct Extras {
     std::optional<AesExtra> aes;
 };
 
-/// The extra fields that matter. `extras.zip64` comes in with those numbers set that it shall
-/// bring. Throws `ZipError`.
+/// The extra fields that are used. In `extras.zip64` the caller has set those numbers whose true
+/// value is in the extra field. Throws `ZipError`.
 void ReadExtras(std::span<const std::byte> bytes, Extras& extras);
 
 [[noreturn]] void RefuseArchive(const char* what);

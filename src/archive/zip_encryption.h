@@ -34,7 +34,7 @@ public:
 
     void Encrypt(std::span<std::byte> bytes);
     void Decrypt(std::span<std::byte> bytes);
-    /// To be asked once, after the last byte.
+    /// Called once, after the last byte.
     Authentication Finish();
 
 private:

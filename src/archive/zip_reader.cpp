@@ -78,13 +78,13 @@ private:
         stream_.next_out = reinterpret_cast<Bytef*>(out_.data());
         stream_.avail_out = static_cast<uInt>(out_.size());
         const int result = inflation_.go(&stream_, Z_NO_FLUSH);
-        // No progress is what it answers when the last full buffer was all that there was.
+        // zlib answers "no progress" when the last full buffer already held the rest of the output.
         Require(result == Z_OK || result == Z_STREAM_END || result == Z_BUF_ERROR,
                 "packade data går ej att packa upp");
         isDone_ = result == Z_STREAM_END;
         output.Write(std::span<const std::byte>(out_).first(out_.size() - stream_.avail_out));
         if (isDone_)
-            stream_.avail_out = 1; // nothing more waits in the stream
+            stream_.avail_out = 1; // no output is left in the stream
     }
 
     const Inflation& inflation_;

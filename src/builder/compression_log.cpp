@@ -44,7 +44,7 @@ void CompressionLog::Write(Host& host, const Text& target, Integer result)
     for (const Text& line : lines_)
         text.append(line).append(kLineBreak);
     text.append("Resultat: " + NumberText(result)).append(kLineBreak);
-    // A package is worth more than the log about it: where the log can't be written, it is missing.
+    // A log that can't be written must not make the packing fail.
     RunErrorNumber([&] {
         WriteWholeFile(host.files, path, EarlierLog(host.files, path) + AnsiText::ToBytes(text));
     });

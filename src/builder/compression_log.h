@@ -15,7 +15,7 @@ public:
     void AddEntry(const ZipEntryReport& entry);
     /// The file that ended the work.
     void AddFailure(const Text& path, Integer result);
-    /// Writes what was added after what the file holds; a log that has grown large begins anew.
+    /// Appends what was added to the file. A log that has grown large is begun again.
     void Write(Host& host, const Text& target, Integer result);
 
 private:

@@ -294,7 +294,7 @@ CreateResult RunCreate(CreateRun& run)
         RestoreFilesAside(run);
         return result;
     } catch (const RunError& error) {
-        // Kept: the buttons stay disabled until the form is opened anew.
+        // Kept: the buttons stay disabled until the form is opened again.
         run.failure = error;
         LeavePackage(run);
         RestoreFilesAside(run);

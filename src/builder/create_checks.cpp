@@ -21,7 +21,7 @@ constexpr std::string_view kFilesForSystemFolder[] = {"OLEPRO32.DLL", "OLEAUT32.
                                                       "MSVCRT.DLL", "COMCAT.DLL"};
 constexpr std::string_view kOneSystemOnly = "SHDOCVW.DLL";
 
-// A text no longer than this is the root of a drive, which is never questioned.
+// A path no longer than this is the root of a drive, for which no question is asked.
 constexpr std::size_t kMaxDriveRootLength = 3;
 
 template <class Names>

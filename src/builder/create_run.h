@@ -37,20 +37,21 @@ struct CreateRun {
 
     // The rows of the file list are in another order than before.
     bool isListSorted = false;
-    // An answer in the middle of the pipeline ended it.
+    // The user cancelled at a question in the middle of the pipeline.
     bool isCancelled = false;
     // The package lacks something although the status lines end as after a success.
     bool isIncomplete = false;
-    // What the machine could not do, where a status line reports it without the file.
+    // The failure of the machine, for status lines that do not name the file.
     std::optional<RunError> failure = {};
-    // The same of a container; its status lines have a number and no name.
+    // The same for a container, whose status lines show a number only.
     std::optional<CompressionFailure> compressionFailure = {};
     // Which program could not be signed, and why; a sentence.
     Text signingFailure = {};
 
     // Where the files are made while an older package is in the destination; empty otherwise.
     Text stagingFolder = {};
-    // What the package consists of so far, below its folder; of a tree without the project's files.
+    // The files of the package so far, relative to its folder; for a CD tree without the project's
+    // files.
     std::vector<Text> packageFiles = {};
     // The pieces of the container where it was cut: their disks may be out of the drive by now.
     std::vector<ManifestLine> piecesOnDisks = {};

@@ -55,7 +55,7 @@ InstallRow MakeInstallRow(const FileListRow& row, Long number, const FileSystem&
 void WriteRow(AnsiTextFile& file, const InstallRow& row)
 {
     const Text line = InstallRowLine(row);
-    // A question mark in place of a letter would send the runtime after another file.
+    // A character outside Windows-1252 would become '?', and the setup would look for another file.
     if (!AnsiText::Holds(line))
         throw RunError(ErrorNumber::kBadFileName, row.name);
     file.Line(line);

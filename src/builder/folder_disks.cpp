@@ -75,7 +75,7 @@ void FolderDisks::RemoveDisksBehind(int lastDisk)
         const Text piece = JoinPath(folder, kFileContainerName);
         if (!host_.files.FileExists(piece))
             return;
-        // What cannot go stays, and so does a folder that holds something of the user's.
+        // A piece that can't be removed stays, and so does a folder that holds other files.
         RunErrorNumber([&] {
             host_.files.RemoveFile(piece);
             host_.files.RemoveFolder(folder);

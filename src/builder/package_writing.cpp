@@ -79,7 +79,7 @@ struct FileToDigest {
     Text path;
 };
 
-// The files of a tree are laid out by the user, later on; what has to lie there is known now.
+// The user lays the files of a tree out later; their digests are known now.
 void AddTree(const CreateRun& run, std::vector<FileToDigest>& found)
 {
     for (const FileListRow& row : run.project.Files.rows) {
@@ -150,7 +150,7 @@ Step BeginPackage(CreateRun& run)
                           files.DirCreate(StagingFolder(run));
     if (isStaged)
         run.stagingFolder = StagingFolder(run);
-    // Where it can't be written nothing else can, and the step that follows reports it.
+    // Where it can't be written, the next step fails too and reports it.
     RunErrorNumber([&] { WriteUnfinishedManifest(files, run.BuildFolder()); });
     return Step::GoOn;
 }

@@ -1,4 +1,4 @@
-// Deleting what a run replaces or cleans away, where it matters to nobody whether it was there.
+// Deletes what a run replaces or cleans away, whether or not it exists.
 #pragma once
 
 #include "platform/file_system.h"

@@ -7,7 +7,7 @@ namespace quillon {
 
 namespace {
 
-// Less than this is copied sooner than anyone notices.
+// A smaller file is copied without a noticeable delay.
 constexpr std::uint64_t kLarge = 4 * 1024 * 1024;
 constexpr std::chrono::milliseconds kBetweenEvents{30};
 

@@ -81,7 +81,7 @@ bool CopyLanguageFile(TestRun& run, const Text& folder)
            Fail(run, kTestTitle, error, "språkfilen '" + name + "' skulle kopieras");
 }
 
-// Where the project names none, that of an earlier test run is not this project's.
+// The file of an earlier test run must not stay where this project names none.
 bool CopyAgreement(TestRun& run, const Text& folder)
 {
     if (run.project.DialogBoxes.LicenseInfoRtfDlg != 1)

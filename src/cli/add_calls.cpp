@@ -48,7 +48,7 @@ void TellFullList(const ProjectEdit& edit)
         throw CallFailure{FullListText() + " Inget är sparat.", Exit::Stopped};
 }
 
-// The rows that came in addition to the first ones; `places` says where each is now.
+// The rows that were added in addition to those before; `places` says where each is now.
 std::vector<std::size_t> NewRows(const std::optional<NewPlaces>& places, std::size_t rowsBefore)
 {
     std::vector<std::size_t> rows;
@@ -63,7 +63,7 @@ Exit SaveAdded(ProjectEdit& edit, const std::vector<std::size_t>& added,
 {
     Text line = "Adderade filer: " + CountText(added.size());
     Json members = {{"added", RowsJson(edit.Files(), added)}};
-    // Kept: a file that is in the list already, or hidden, is passed without a word.
+    // Kept: a file that is in the list already, or hidden, is passed over silently.
     if (seen) {
         const std::size_t passed = *seen - added.size() - edit.ask.refusals.size();
         line += ", överhoppade (finns redan eller dolda): " + CountText(passed);
@@ -115,7 +115,7 @@ TreeToAdd ChooseTreeFrom(const CallContext& context, ProjectEdit& edit)
     return *tree;
 }
 
-// A section that names no file is mostly a wrong file; the window passes it without a word.
+// A section that names no file is mostly a wrong file; the window passes over it silently.
 void RequireSectionWithFiles(const FileSystem& files, const Text& depFile, const Text& binary)
 {
     ProfileReader reader;

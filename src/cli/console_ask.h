@@ -1,4 +1,4 @@
-// The user of a program that nobody sits before: boxes are printed and answered from the switches.
+// The user of a program without a window: boxes are printed and answered from the switches.
 #pragma once
 
 #include "platform/ask.h"

@@ -30,7 +30,8 @@ Text WordOfMedium(Medium medium)
     return Text(std::ranges::find(kMediumWords, medium, &MediumWord::medium)->word);
 }
 
-// A switch that could have no effect is a mistake, unlike a project's choice for another medium.
+// A switch without an effect is a mistake, unlike a project's setting, which may be meant for
+// another medium.
 void ChooseSmallContainer(const Arguments& arguments, CreateForm& form)
 {
     for (const char* other : {"--no-compress", "--separate"})
@@ -44,8 +45,8 @@ void ChooseSmallContainer(const Arguments& arguments, CreateForm& form)
     form.SmallContainer = 1;
 }
 
-// The order is that of a user's hands: choosing a medium puts that medium's last folder into the
-// form, so the folder is reported afterwards.
+// In the order in which a user would do it: choosing a medium puts that medium's last folder into
+// the form, so the folder is set after it.
 CreateForm FillForm(const CallContext& context, Session& session)
 {
     const Arguments& arguments = context.arguments;

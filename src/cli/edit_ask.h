@@ -13,7 +13,7 @@ struct PreparedAnswers {
     Text line;                       // of the box for a line of text
     std::optional<Text> destination; // else what the dialog would open with
     Text componentNr;                // empty for none
-    bool confirms = false;           // the call's own name is the Yes to its question
+    bool confirms = false;           // answers Yes where the call itself is the confirmation
 };
 
 class EditAsk : public ConsoleAsk {

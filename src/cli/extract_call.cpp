@@ -142,7 +142,7 @@ private:
         CheckInside(folder);
         if (file.isFolder)
             return;
-        // A link in the place of a file goes, and what it leads to stays.
+        // A link in the place of a file is removed; what it leads to stays.
         if (files_.FileExists(file.path))
             files_.RemoveFile(file.path);
         const auto output = files_.OpenNew(file.path);

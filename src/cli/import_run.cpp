@@ -65,7 +65,7 @@ bool ImportRun::EditIcon(FileListRow& row, const Text&)
     return true;
 }
 
-// What a check refused, or what was answered so that the import ends.
+// Ends the call with the box of a check that refused, or with the answer that ended the import.
 void ImportRun::RequireFinished(ImportEnd end)
 {
     if (end == ImportEnd::Refused && !edit.ask.boxes.empty())

@@ -37,7 +37,7 @@ std::vector<std::size_t> SelectByOperands(const CallContext& context, const File
     return SelectRows(files, std::span(context.arguments.operands).subspan(first, count));
 }
 
-// The mark of a vanished file stays on its row when the file comes back.
+// A row that is marked as vanished keeps the mark when its file comes back.
 std::vector<std::size_t> RowsWithoutFile(const FileList& list, const FileSystem& files)
 {
     std::vector<std::size_t> rows;

@@ -32,7 +32,7 @@ Exit RunCall(const Arguments& arguments)
     } catch (const CallFailure& failure) {
         return context.Fail(failure.text, failure.exit);
     } catch (const RunError& error) {
-        // Most failures name their file; the others are of the one that the call works on.
+        // Most failures name their file; of the others it is the file that the call works on.
         return context.Fail(FailureText(error, arguments.operands.empty()
                                                    ? Text()
                                                    : Text(arguments.operands.front())),
@@ -40,7 +40,7 @@ Exit RunCall(const Arguments& arguments)
     }
 }
 
-// Also after a call: who asks there wants to know what it takes.
+// True also where the switch follows a call, as in "create --help".
 bool AsksForHelp(const std::vector<std::string>& arguments)
 {
     const auto last = std::ranges::find(arguments, "--");
@@ -74,7 +74,7 @@ int main(int argc, char** argv)
 {
     InstallSignalHandlers();
     const Exit exit = Run({argv + 1, argv + argc});
-    // A script must not take a cut output for a whole one.
+    // A script must not take truncated output for all of it.
     std::cout.flush();
     if (std::cout)
         return static_cast<int>(exit);

@@ -10,7 +10,7 @@ namespace quillon::cli {
 namespace {
 
 // The tool takes a file that it can't read for one without any keys, and refuses it as no project;
-// a script deserves the real reason.
+// a script gets the real reason.
 void RequireReadable(const FileSystem& files, const Text& path)
 {
     if (files.DirExists(path))

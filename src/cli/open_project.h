@@ -6,7 +6,7 @@
 
 namespace quillon::cli {
 
-/// Nothing read is more than a part of a file; the tool itself goes on with a part in silence.
+/// Whether all of the file was read. The tool itself goes on with a part silently.
 enum class Opened { Whole, InPart };
 
 /// Opens the project as the tool does when a user opens one. Throws `CallFailure` for a file that

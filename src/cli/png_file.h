@@ -10,7 +10,7 @@ namespace quillon::cli {
 
 class PngFile {
 public:
-    /// Packs the pixels in their own place; they are no pixels any more afterwards.
+    /// Uses the pixels' own memory for the packing.
     PngFile(std::vector<Pixel> pixels, int width, int height);
 
     std::string_view Bytes() const { return {bytes_.get(), size_}; }

@@ -21,7 +21,7 @@ namespace quillon::cli {
 namespace {
 
 constexpr const char* kNothingSaved = " Inget är sparat.";
-// Of a value that is reported, in characters; a whole agreement would bury what is said about it.
+// In characters. A longer value, such as a whole agreement, is cut in messages.
 constexpr std::size_t kMaxShownLength = 60;
 
 Text BeginningOf(const Text& value)
@@ -58,7 +58,7 @@ void EachSetting(const Json& settings, Visit visit)
     }
 }
 
-// The project as it is read next time must have what the call has changed.
+// What the call has changed must be the same when the project is read again.
 void RequireChangesAgain(const Json& wanted, const Json& before, const Json& again)
 {
     EachSetting(wanted, [&](const Text& name, const Json& value, const Json::json_pointer& place) {
@@ -67,8 +67,8 @@ void RequireChangesAgain(const Json& wanted, const Json& before, const Json& aga
     });
 }
 
-// And all else must be what it would have been without the call. `unchanged` is what a project
-// file gives back that the project was saved to before the call.
+// Everything else must be read as it would have been without the call. `unchanged` is what a file
+// gives back to which the project was saved before the call.
 void RequireNothingElseChanged(const Json& wanted, const Json& before, const Json& again,
                                const Json& unchanged)
 {
@@ -107,7 +107,8 @@ ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin beg
       session(NewSession(context.host, ask, context.toolFolder)), context_(context), path_(path),
       isNew_(begin == Begin::WithANewProject)
 {
-    // Where it fails, so does the reading or the saving, whose messages say more.
+    // A lock that can't be taken is ignored, since the reading or the saving then fails too, with a
+    // better message.
     RunErrorNumber([&] { Lock(); });
     if (!isNew_) {
         if (OpenProject(session, path) == Opened::InPart)
@@ -117,7 +118,7 @@ ProjectEdit::ProjectEdit(const CallContext& context, const Text& path, Begin beg
     }
     if (!isNew_)
         bytesBefore_ = ReadWholeFile(context.host.files, path);
-    // What was reported while opening is no fault of the work that follows.
+    // The boxes that came up while opening must not end the call.
     ask.refusals.clear();
     KeepStoredOrder(Files());
     settingsBefore_ = SettingsJson(session.project);
@@ -195,7 +196,7 @@ void ProjectEdit::RequireSameAgain(const Text& file)
     const Json wanted = SettingsJson(session.project);
     const Json read = SettingsJson(again);
     RequireChangesAgain(wanted, settingsBefore_, read);
-    // Most projects are read as they were saved, and need no second look.
+    // Most projects are read as they were saved and need no further comparison.
     if (wanted != read)
         RequireNothingElseChanged(wanted, settingsBefore_, read, SettingsOfUnchangedProject(file));
     RequireSameRows(Files().rows, again.Files.rows);
@@ -210,7 +211,7 @@ Project ProjectEdit::ReadAgain(const Text& file) const
     return std::move(again.project);
 }
 
-// What the file of the project would give back had it been saved without the call.
+// What would be read if the project had been saved without the call.
 Json ProjectEdit::SettingsOfUnchangedProject(const Text& file) const
 {
     std::ostream nowhere(nullptr);
@@ -224,7 +225,8 @@ Json ProjectEdit::SettingsOfUnchangedProject(const Text& file) const
     return SettingsJson(unchanged);
 }
 
-// The lock keeps out who asks for it; an editor, or a disk that knows no locks, does not.
+// The lock works only among programs that ask for it: an editor does not, and some disks have no
+// locks.
 void ProjectEdit::RequireNobodyElseSaved() const
 {
     const FileSystem& files = context_.host.files;

@@ -8,9 +8,9 @@ namespace quillon::cli {
 
 /// "Version.ProductName", "DesPictures.PictureFilename2" and "FileComponent3.CompName" (which is
 /// also "FileComponents.CompName3") are keys; a list's name alone, such as "Registry", is its text.
-/// Case is ignored. The value is reported as a user writes it: a number, a flag as 1 or 0, a text
-/// with its line breaks. Throws `UsageError` for a field that isn't there and for a value that it
-/// can't hold.
+/// Case is ignored. The value is given as a user types it: a number, a flag as 1 or 0, a text with
+/// its line breaks. Throws `UsageError` for a field that isn't there and for a value that it can't
+/// hold.
 void SetField(Project& project, const Text& field, const Text& value);
 
 } // namespace quillon::cli

@@ -1,4 +1,4 @@
-// quillonc resave: reads a project and saves it anew, as a user does who opens and saves it.
+// quillonc resave: reads a project and saves it again, as a user does who opens and saves it.
 #include "actions/unsavable_line.h"
 #include "cli/calls.h"
 #include "cli/console_ask.h"

@@ -12,7 +12,7 @@ namespace quillon::cli {
 ///
 /// "3", "2-5" and "1,4-6" are numbers, counted from 1 as the list shows them. All else is a name,
 /// case ignored: "*" stands for any characters, "?" for one. "name:3" is the file "3". Throws
-/// `CallFailure` for a pattern that selects nothing, which is mostly a slip of the pen, and
+/// `CallFailure` for a pattern that selects nothing, which is mostly a typing error, and
 /// `UsageError` for one that can't select anything.
 std::vector<std::size_t> SelectRows(const FileList& files, std::span<const std::string> patterns);
 

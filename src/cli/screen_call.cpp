@@ -54,7 +54,7 @@ Text FaultText(const ScreenFileFault& fault)
     return PictureFaultText(fault.fault, fault.file);
 }
 
-/// What the user would miss in the picture ends the call; all of it is reported.
+/// What is missing from the picture ends the call; all of it is reported.
 void RequireAllFiles(const ScreenFiles& files)
 {
     Text text;

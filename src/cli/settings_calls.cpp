@@ -12,8 +12,8 @@ namespace quillon::cli {
 
 namespace {
 
-// The rules of the main folder's field in the window. Nobody is there to correct it, so what the
-// window only reports ends the call.
+// The rules of the main folder's field in the window. No user can correct the value here, so what
+// the window only reports ends the call.
 void CheckMainFolder(ProjectEdit& edit)
 {
     Text& folder = edit.session.project.InstallDirectories.DestinationDirectory;

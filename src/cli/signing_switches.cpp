@@ -12,7 +12,7 @@ namespace {
 constexpr const char* kPasswordVariable = "QUILLON_SIGN_PASSWORD";
 constexpr std::string_view kNoTimeStamp = "none";
 
-/// A path, or the address of something in a token as it is.
+/// A path, or the address of something in a token, which is taken as it is.
 Text FileOrAddress(const CallContext& context, const std::string& option)
 {
     const Text value = context.arguments.Value(option).value_or("");

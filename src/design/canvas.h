@@ -36,7 +36,7 @@ PixelRect Intersect(const PixelRect& a, const PixelRect& b);
 PixelRect RectAt(int left, int top, int width, int height);
 
 /// A part of an image that lies somewhere else. Painting never leaves `clip`, so that a small part
-/// can be painted anew.
+/// can be painted again.
 struct Canvas {
     Pixel* pixels = nullptr;
     int width = 0;
@@ -62,7 +62,7 @@ inline Pixel Over(Pixel over, Pixel under)
            ((green + (green >> 8)) & 0x0000FF00) + (rest << 24);
 }
 
-/// An opaque colour as it is where only a part of it, 0 to 255, covers what is below.
+/// An opaque colour as a pixel of that coverage, 0 to 255.
 Pixel Covering(Pixel colour, Pixel coverage);
 
 } // namespace quillon

@@ -17,7 +17,7 @@ std::vector<Text> ChangingPictures(const section::DesPicturesAnim& record);
 /// `kMaxChangingPictures`.
 void SetChangingPictures(section::DesPicturesAnim& record, const std::vector<Text>& files);
 
-/// Whether a list of so many takes one more; the user is informed where not.
+/// Whether a list of so many takes one more; where not, a box says so.
 bool MayAddChangingPicture(std::size_t count, Ask& ask);
 
 } // namespace quillon

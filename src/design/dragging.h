@@ -21,8 +21,8 @@ struct DragRect {
     bool operator==(const DragRect&) const = default;
 };
 
-/// One drag, from the press to the release. The mouse's points are twips from the object's own top
-/// left, as its window reports them.
+/// One drag, from the press to the release. Mouse positions are twips from the object's own top
+/// left, as its window gives them.
 class DesDrag {
 public:
     DesDrag(const SurfacePlace& object, const SurfacePlace& surface, ScreenMetrics screen, Long x,

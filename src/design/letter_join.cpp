@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-// No line on a screen is longer; a larger mask would only be a mistake in a record.
+// No line on a screen is longer; a larger mask can only come from a wrong record.
 constexpr int kMaxMaskWidth = 1 << 15;
 // Lines below and through letters, as parts of the letters' size.
 constexpr int kRuleThickness = 14;

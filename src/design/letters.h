@@ -1,5 +1,5 @@
-// The seam to the system's fonts: how wide letters are and what they look like. Where they stand,
-// in which colour and with which shadow is decided by who paints.
+// The interface to the system's fonts: how wide letters are and what they look like. Their places,
+// colours and shadows are up to the caller.
 #pragma once
 
 #include "helpers/text.h"

@@ -18,14 +18,14 @@ constexpr std::int64_t kMaxStored = std::numeric_limits<Integer>::max();
 struct Limits {
     std::int64_t min;
     std::int64_t max = kMaxStored;
-    // What the size of the surface allows beside that.
+    // The limit that the size of the surface sets.
     std::int64_t surface = kMaxStored;
 };
 
 Text Within(const Text& entry, const Limits& limits)
 {
     const std::int64_t number = std::clamp(LeadingNumber(entry), limits.min, limits.max);
-    // Kept: the surface has the last word, even where it is smaller than the smallest size.
+    // Kept: the limit of the surface counts even where it is below the smallest size.
     return NumberText(std::min(number, limits.surface));
 }
 

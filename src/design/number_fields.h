@@ -1,5 +1,5 @@
 // What the number fields of the design's editors turn into when they are left. A bad entry is
-// corrected without a word; what follows a number is dropped.
+// corrected silently; what follows a number is dropped.
 #pragma once
 
 #include "helpers/number_text.h"

@@ -10,19 +10,19 @@ namespace quillon {
 
 namespace {
 
-// What an oversized picture leaves free of the surface.
+// The margin that an oversized picture leaves on the surface.
 constexpr Long kOversizeMargin = 30;
-// Where the logotype is from the left, from the right and from below.
+// The logotype's distances from the left, the right and the lower edge.
 constexpr Long kLogotypeSide = 380;
 constexpr Long kLogotypeBelow = 200;
 // A refused logotype's place.
 constexpr Long kNoLogotype = 10;
 constexpr Colour kDarkGrey = 0x1F1F1F;
-// The text of a text box: from its sides, below its heading, above its lower edge.
+// The text of a text box: its distances from the sides, the heading and the lower edge.
 constexpr Long kTextSide = 60;
 constexpr Long kBelowHeading = 210;
 constexpr Long kAboveEdge = 30;
-// What the frame of a text box takes of its height.
+// The height that the frame of a text box takes.
 constexpr Long kTextBoxFrame = 15;
 
 Long Half(Long twips)

@@ -33,8 +33,8 @@ Long ClampDesY(const SurfacePlace& surface, ScreenMetrics screen, Long y, Long h
 /// The size of the picture in a file, in pixels. Throws `RunError` where there is none.
 using MeasurePicture = std::function<PixelSize(const Text& file)>;
 
-/// One of the three free pictures. The box is what the mouse takes hold of; a stretched picture
-/// fills it, another one is in it in its own size.
+/// One of the three free pictures. The box is the area that reacts to the mouse; a stretched
+/// picture fills it, any other is in it in its own size.
 struct PictureBox {
     SurfacePlace place;
     bool isVisible = false;

@@ -16,7 +16,7 @@ struct OverviewRow {
     bool operator==(const OverviewRow&) const = default;
 };
 
-/// Kept: a file that can't be measured ends the list without a word.
+/// Kept: a file that can't be measured ends the list silently.
 std::vector<OverviewRow> DesOverview(const Project& project, const FileSystem& files,
                                      const RTFboxFolders& texts);
 

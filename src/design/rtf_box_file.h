@@ -25,8 +25,8 @@ Text StoredRTFfilename(const Text& typed);
 /// folder, or that Windows can't hold, is none.
 bool CheckRTFfilename(const Text& typed, Ask& ask);
 
-/// What becomes of the file that the new one takes the place of. One that the editor did not show
-/// whole is kept beside it.
+/// What happens to the file that the new one replaces. One that the editor did not show whole is
+/// kept beside it.
 enum class OldRtfFile { Replaced, Kept };
 
 /// Writes the file beside its name first, so that one that was there stays whole until the new one

@@ -72,7 +72,7 @@ void ScalablePicture::Crop(const PixelRect& part)
 {
     if (draw_ || halves_.empty())
         return;
-    // Of pixels that are fewer than the picture has by itself, those that the part is in.
+    // Where fewer pixels are kept than the picture has, those that cover the part.
     const Picture& whole = halves_[0];
     const auto down = [](int place, int kept, int own) {
         return static_cast<int>(PixelCount(place, kept) / own);

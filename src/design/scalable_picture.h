@@ -1,5 +1,5 @@
 // A picture of the screen in whatever size it is painted: pixels that are scaled, or a drawing that
-// is drawn anew in each size.
+// is drawn again in each size.
 #pragma once
 
 #include "design/letters.h"
@@ -16,7 +16,7 @@ public:
     using Draw = std::function<Picture(int width, int height, Letters& letters)>;
 
     ScalablePicture() = default;
-    /// Not explicit: pixels are a picture of their own size.
+    /// Not explicit: pixels are a picture in their own size.
     ScalablePicture(Picture pixels); // NOLINT(google-explicit-constructor)
     /// Pixels of a picture that is larger than what was kept of it.
     ScalablePicture(int width, int height, Picture pixels);
@@ -34,15 +34,14 @@ public:
     /// Keeps no more than what showing the picture in that size takes; its own size stays. Every
     /// other size is made of these pixels from now on. A drawing stays as it is.
     void KeepOnly(int width, int height);
-    /// Leaves that part of the picture, which is a picture of its own from now on. A drawing stays
-    /// whole.
+    /// Keeps only that part, which is the whole picture from now on. A drawing is not cropped.
     void Crop(const PixelRect& part);
     /// What is kept of it, in bytes.
     std::int64_t Memory() const;
 
-    /// The last size asked for is kept, since a window asks for the same one at each paint. The
-    /// result lives until the next call, which therefore is no other thread's. A drawing that would
-    /// be larger than any screen is empty.
+    /// The last size is kept, since a window asks for the same one at each paint. The result is
+    /// valid until the next call, so only one thread may use the picture. A drawing that would be
+    /// larger than any screen is empty.
     const Picture& InSize(int width, int height, Letters& letters) const;
 
 private:

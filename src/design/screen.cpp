@@ -207,7 +207,7 @@ private:
     SurfacePaint paint_;
 };
 
-// Where only the arithmetic is asked: no letter is drawn and no pixel painted.
+// For the arithmetic alone: no letter is drawn and no pixel painted.
 struct NoLetters : Letters {
     FontHeight Height(const ScreenFont&) override { return {}; }
     std::vector<int> Advances(const ScreenFont&, const Text&) override { return {}; }

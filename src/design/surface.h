@@ -52,7 +52,7 @@ void SetBlend(SurfacePaint& paint, const section::DesBackground& background);
 
 inline constexpr int kInvalidPicture = 481;
 
-/// Kept: of the ways in which a picture can fail only these two say a word.
+/// Kept: a box is shown for only two of the ways in which a picture can fail.
 void ShowErrorBoxIfPictureError(Ask& ask, int errorNumber);
 
 } // namespace quillon

@@ -45,7 +45,7 @@ ScreenFont TitleFont(const section::DesTitle& title, double scale)
                       title.TitleFontItalic, scale);
 }
 
-// Works its way down from the top in pixels of the author's surface.
+// Lays the parts out from the top down, in pixels of the author's surface.
 class Layout {
 public:
     Layout(Letters& letters, const TitleRecords& records, const ScreenScale& scale, int width)

@@ -69,7 +69,7 @@ void WriteDisks(DiagnosisWriter& writer, const Host& host, const DiskSize& diskS
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
         const Text root = Text(1, letter) + ":\\";
         const DriveKind kind = host.files.DriveType(root);
-        // A floppy drive would be switched on for nothing.
+        // Asking a floppy drive would start its motor.
         if (kind == DriveKind::NoRoot || kind == DriveKind::Unknown || kind == DriveKind::Removable)
             continue;
         try {

@@ -17,7 +17,7 @@ Text GetCompDirFromListEntry(std::string_view entry);
 /// "1" to "9", or an empty text.
 Text GetCompNrFromListEntry(std::string_view entry);
 
-/// What a typed number is worth: "1" to "9" for a component in use, else an empty text.
+/// The component of a typed number: "1" to "9" for a component in use, else an empty text.
 Text UsableComponentNumber(const Text& typed, const Project& project, char decimalSign);
 
 } // namespace quillon

@@ -133,7 +133,7 @@ std::optional<NewPlaces> ChangeDestinationCommand(const ListWork& work,
 
 std::vector<Text> DestinationsOf(const FileList& files)
 {
-    // Looking at them must not change the order of the list, so they are sorted beside it.
+    // A copy is sorted, since showing the destinations must not change the order of the list.
     FileList byDestination;
     for (const FileListRow& row : files.rows)
         if (!row[Destination].empty())

@@ -1,5 +1,5 @@
-// The colours of the setup's background. Tool and setup paint it with their own means, from the
-// same arithmetic, so that what is previewed is what comes.
+// The colours of the setup's background. Tool and setup paint it by different means from the same
+// arithmetic, so that the preview shows the same colours.
 #pragma once
 
 #include "project/records.h"

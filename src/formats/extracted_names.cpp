@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-/// Every part must be a name: what a setup makes of a variable is known there, and not here.
+/// Every part must be a valid name: the value that a setup gives a variable is not known here.
 std::optional<Text> IfPlain(const Text& name)
 {
     Text joined;

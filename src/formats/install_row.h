@@ -30,7 +30,8 @@ struct InstallRow {
     bool operator==(const InstallRow&) const = default;
 };
 
-/// The number that the row's component begins with; 0, or any that no component has, is none.
+/// The number that the row's component begins with; 0, or a number that no component has, means
+/// none.
 int ComponentNumberOf(const InstallRow& row);
 
 /// The row as its line, without line end.

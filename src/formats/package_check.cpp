@@ -59,8 +59,8 @@ void CheckSize(const InstallRow& row, std::uint64_t size, Faults& faults)
 void CheckMissing(const Package& package, std::size_t number, Faults& faults)
 {
     const RowBytes& bytes = package.bytes[number];
-    // One line about a container that is gone or damaged says it for all of its rows, and one about
-    // a row's names for the file that was not looked for.
+    // A missing or damaged container is reported once for all of its rows; and a row with a bad
+    // name is reported for that, not for its file too.
     const bool isToldAlready = bytes.path.empty() && !package.container;
     if (!isToldAlready)
         faults.push_back(RowLabel(package.rows[number]) + "filen saknas i paketet" +

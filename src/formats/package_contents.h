@@ -17,8 +17,8 @@ std::vector<Text> FixedFilesOf(const SetupInformation& setup, const std::vector<
 std::vector<Text> ContainerPieces(const SetupInformation& setup,
                                   const std::vector<InstallRow>& rows);
 
-/// True of the files that only help a user to start the setup. Who has renamed the one, or left the
-/// other behind, has a package that installs all the same.
+/// True of the files that only help a user to start the setup. A package in which one was renamed,
+/// or the other left out, can be installed all the same.
 bool OnlyStartsTheSetup(const SetupInformation& setup, const Text& name);
 
 } // namespace quillon

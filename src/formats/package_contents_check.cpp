@@ -38,7 +38,7 @@ void CheckMissing(const FileSystem& files, const Package& package, std::vector<T
             faults.push_back(name + " saknas.");
 }
 
-// A manifest that lost its last lines must not let through what they were about.
+// A manifest that lost its last lines must not hide that the files in them are missing.
 void CheckUnlisted(const Package& package, const std::vector<Text>& needed,
                    std::vector<Text>& faults)
 {

@@ -5,8 +5,8 @@
 
 namespace quillon {
 
-/// Tells each file that is missing, and each that is not what the manifest says. A package without
-/// a manifest has it that nothing is missing.
+/// Reports each file that is missing, and each that is not what the manifest says. A package
+/// without a manifest is reported to lack it.
 void CheckContents(const FileSystem& files, const Package& package, std::vector<Text>& faults);
 
 } // namespace quillon

@@ -30,7 +30,7 @@ Text UnknownVariableIn(std::string_view destination);
 /// What is wrong, in words that go on after a colon, without a dot at the end; Swedish.
 Text PathFaultText(PathFault fault);
 
-/// The same as a sentence: "Namnet 'aux' fungerar inte i Windows: ...". Empty where nothing exists
+/// The same as a sentence: "Namnet 'aux' fungerar inte i Windows: ...". Empty where nothing is
 /// wrong.
 Text NameFaultText(std::string_view name);
 Text RowNameFaultText(std::string_view name);

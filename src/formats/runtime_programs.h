@@ -18,18 +18,18 @@ inline constexpr const char* kTestSetup = "Qns32x.exe";
 inline constexpr RuntimeProgram kUnzipLibrary = {"DUNZIP32.DLL", "DUNZIP32.DLL"};
 inline constexpr RuntimeProgram kRegistryHelper = {"QNREG32.EXE", "QNREG32.BIN"};
 inline constexpr RuntimeProgram kSecondRegistryHelper = {"QNXREG2.EXE", "QNXREG2.BIN"};
-// Begins the names of the commands by which the system starts it.
+// The names of the commands by which the system starts it begin with this.
 inline constexpr const char* kRunOnceName = "QNXREG2";
 // Stands before the package where that is one program.
 inline constexpr RuntimeProgram kSelfExtractor = {"QNSELFX.EXE", nullptr};
 inline constexpr RuntimeProgram kUninstaller = {"QNXUNIN.EXE", "QNXUNIN.BIN"};
-// The uninstaller's own log is called by it.
+// The name of the uninstaller's own log begins with this.
 inline constexpr const char* kUninstallerLogName = "QNXUNIN";
-// Under which name the uninstaller's file lies in a private folder until it can go.
+// The name of the uninstaller's file in a private folder, until it can be removed.
 inline constexpr const char* kMovedUninstaller = "QNXUNIN.TMP";
-// Installed beside the uninstaller: the digest of `kSetup`, which the uninstaller compares before
-// it starts that program. There `kSetup` has its name of a package, because a user who started it
-// by itself would see nothing happen.
+// Installed beside the uninstaller: the digest of `kSetup`, which the uninstaller checks before it
+// starts that program. There `kSetup` has the name that it has in a package, since a user who
+// started it directly would see nothing happen.
 inline constexpr const char* kUninstallerManifest = "QNXUNIN.SHA256";
 // Says what the uninstaller has to remove, see `install_journal_name.h`.
 inline constexpr const char* kInstallJournal = "QNXUNIN.LOG";

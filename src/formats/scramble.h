@@ -1,5 +1,5 @@
 // Keeps a password in a setup information file from being read at a glance. It is a disguise and no
-// encryption: whoever has this code reads it, and the setup runtime has it.
+// encryption: everyone who has this code can undo it, and the setup has it.
 #pragma once
 
 #include "helpers/text.h"

@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-// "1 024"; larger numbers than that are counted in the next unit.
+// "1 024"; larger numbers are given in the next unit.
 Text InGroups(std::uint64_t number)
 {
     constexpr std::uint64_t kGroup = 1000;
@@ -21,11 +21,11 @@ Text InGroups(std::uint64_t number)
 
 } // namespace
 
-// Whole numbers alone: the setup has no room for the conversion of others.
+// In whole numbers, since the setup has no room for the conversion of floating ones.
 Text SizeText(std::uint64_t kilobytes, char decimalSign)
 {
     constexpr std::uint64_t kStep = 1024;
-    // From here on nobody counts in the smaller unit.
+    // From this number on the next unit is used.
     constexpr std::uint64_t kMax = 10'000;
     constexpr const char* kUnits[] = {" kB", " MB", " GB"};
     std::uint64_t unitSize = 1;

@@ -1,4 +1,4 @@
-// The text of a file whose encoding nobody says: by its byte order mark, else by its bytes.
+// The text of a file whose encoding is not stated: by its byte order mark, else by its bytes.
 #pragma once
 
 #include "helpers/text.h"

@@ -16,7 +16,7 @@ struct ProgramInfo {
     ProgramMachine machine = ProgramMachine::Other;
     bool isLibrary = false;
     /// Names as the program spells them, each once. Without those that are loaded at first use
-    /// only, which may be missing for as long as nobody uses them.
+    /// only, which may be missing as long as they are not used.
     std::vector<Text> imports;
     std::vector<Text> delayedImports;
 

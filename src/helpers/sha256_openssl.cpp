@@ -1,7 +1,7 @@
 #ifndef _WIN32
 
-// The functions that take a state from outside are called deprecated, and there are no others that
-// need no memory.
+// The functions that take a state from outside are deprecated; there are no others that allocate no
+// memory.
 #define OPENSSL_SUPPRESS_DEPRECATED
 
 #include "helpers/sha256_blocks.h"

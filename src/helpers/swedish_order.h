@@ -6,9 +6,8 @@
 
 namespace quillon {
 
-/// Compared byte by byte, the keys of two texts are in that order; two texts share a key only
-/// where they are equal. ASCII texts are their own keys. Whoever ignores case gives texts in one
-/// case.
+/// Compared byte by byte, the keys of two texts are in that order; two texts share a key only where
+/// they are equal. ASCII texts are their own keys. To ignore case, pass texts in one case.
 Text SwedishOrderKey(std::string_view text);
 
 } // namespace quillon

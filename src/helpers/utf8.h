@@ -1,5 +1,5 @@
-// Walking over UTF-8. A byte that starts no valid sequence is taken as U+FFFD and skipped alone, so
-// that no text, however damaged, can stop the walk.
+// Walking over UTF-8. A byte that starts no valid sequence is taken as U+FFFD and skipped by
+// itself, so that a damaged text never stops the walk.
 #pragma once
 
 #include <string>

@@ -119,7 +119,7 @@ struct Block {
     std::size_t valueLength;
 };
 
-/// Takes the block at the front of `bytes`; nothing, and an end of the walk, where there is none.
+/// Takes the block at the front of `bytes`; nothing where there is none, which ends the walk.
 std::optional<Block> TakeBlock(std::string_view& bytes)
 {
     constexpr std::size_t kHeaderSize = 6;
@@ -173,7 +173,7 @@ void TakeTexts(std::string_view languages, FileVersionData& data)
 }
 
 /// "1.2.3.4" of the two numbers that hold two parts each; empty where all are 0, which means that
-/// nobody set them.
+/// they were not set.
 Text FourNumbers(std::string_view fixed, std::size_t position)
 {
     const std::uint32_t high = LongAt(fixed, position);

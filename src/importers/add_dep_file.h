@@ -8,9 +8,9 @@
 
 namespace quillon {
 
-/// Where each of the former rows is afterwards; nothing where the user changed his mind. The
-/// component itself is not added. `lastDepFileDir` is where the file dialog opens, and takes the
-/// folder of the dependency file.
+/// Where each of the former rows is afterwards; nothing where the user cancelled. The component
+/// itself is not added. `lastDepFileDir` is where the file dialog opens, and takes the folder of
+/// the dependency file.
 std::optional<NewPlaces> AddDepFileCommand(const ListWork& work, Text& lastDepFileDir);
 
 } // namespace quillon

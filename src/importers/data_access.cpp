@@ -26,8 +26,8 @@ std::optional<Text> SharedTool(const RowImport& import, const Text& key, const T
     return text && text->empty() ? std::nullopt : text;
 }
 
-// The registered path is that of the library; some setups have noted its folder alone, in whose
-// name there may be a point too.
+// The registered path is that of the library; some setups have registered its folder alone, whose
+// name may contain a dot too.
 bool NamesLibrary(const Text& path)
 {
     const Text lower = LowerCase(path);
@@ -98,14 +98,14 @@ void AskForDataAccess(RowImport& import, Vb6Choices& choices, DataAccessQuestion
         choices.cInstallMDA = true;
 }
 
-// A dry run writes nothing; the row then has the size and date of what would be copied.
+// A dry run writes nothing; the row then has the size and date of the file that would be copied.
 Text CopyForSetup(const RowImport& import, const Text& package)
 {
     if (import.Work().isDryRun)
         return package;
     FileSystem& files = import.GetHost().files;
     const Text folder = JoinPath(import.Work().ownFolder, "Temp\\Mda");
-    files.DirCreate(folder); // what fails here fails again below
+    files.DirCreate(folder); // a failure here comes again below
     const Text copy = JoinPath(folder, kDataAccessArchive);
     files.CopyContent(package, copy);
     return copy;

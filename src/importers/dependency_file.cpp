@@ -15,7 +15,7 @@ constexpr int kMaxMisses = 15;
 constexpr int kValueLimit = 200;
 constexpr int kStepsBetweenLooks = 1000;
 
-// Dependency files hold some hundred lines. A larger one than this is something else by that name.
+// Dependency files hold some hundred lines. A larger file is something else under that name.
 constexpr std::uint64_t kMaxDepFileSize = std::uint64_t{32} << 20;
 constexpr std::size_t kMaxBytesHeld = std::size_t{64} << 20;
 
@@ -39,8 +39,8 @@ Text KeyOf(const Text& path)
     return LowerCase(ResolvePath(path));
 }
 
-// Of folders that give the same files for all values. "C:\A\." is another than "C:\A": from there
-// "..\" leads to C:\A, and every path has a point.
+// Folders with the same key give the same files for all values. "C:\A\." and "C:\A" differ: from
+// the first one "..\" leads to C:\A, and every path below it has a dot.
 Text KeyOfBase(const Text& folder)
 {
     const Text above = folder.substr(0, folder.rfind('\\') + 1);
@@ -85,7 +85,7 @@ DependencyFiles::Outcome DependencyFiles::Walk(const DepSection& section)
     ask_.ShowStatusText("Adderar filer...");
     try {
         // Kept: the walk never ends at its first number, so this box doesn't come up, and a file
-        // without the section is passed without a word.
+        // without the section is passed over silently.
         if (AddFilesOf(section, *ReaderFor(section.DepFile), done) == 1 && !isStopped_) {
             ask_.Inform("Inga filer hittades",
                         "Hittade inga matchande filer i DEP-filen. Kontrollera att du valt rätt "

@@ -36,12 +36,12 @@ class DependencyWatch {
 public:
     virtual ~DependencyWatch() = default;
 
-    /// Comes before each file, and now and then where a walk comes to none that is new; false ends
-    /// the walk.
+    /// Called before each file, and from time to time while a walk finds no new one; false ends the
+    /// walk.
     virtual bool MayGoOn(const Text& file) = 0;
     /// The file was not added, without a failure: the list may have it already.
     virtual void LeftOut(const FileToAdd& file) = 0;
-    /// The file failed, which ends the walk through its section; a box comes next.
+    /// The file failed, which ends the walk through its section; a box follows.
     virtual void Failed(const FileToAdd& file, const Text& depFile) = 0;
 };
 

@@ -26,7 +26,7 @@ Text TextOf(const Json& object, const char* key)
     return found != object.end() && found->is_string() ? found->get<Text>() : Text();
 }
 
-// The most telling of several: the desktop's framework is on that of all programs.
+// Of several frameworks the one beside Microsoft.NETCore.App, which the others include.
 const Json* FrameworkOf(const Json& options)
 {
     if (const auto one = options.find("framework"); one != options.end() && one->is_object())

@@ -1,5 +1,5 @@
-// The import of a Visual Basic 5.0 project. It knows no data controls, no dependency files, and
-// ticks no boxes by itself.
+// The import of a Visual Basic 5.0 project. It handles no data controls and no dependency files,
+// and ticks no boxes of its own accord.
 #pragma once
 
 #include "importers/import_work.h"

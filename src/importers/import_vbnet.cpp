@@ -37,7 +37,7 @@ constexpr const char* kDone =
 
 constexpr const char* kComponents = "projektets COM-komponenter";
 
-// So many libraries are added before a window could be seen.
+// Up to this number the import ends before a window could be seen.
 constexpr std::size_t kFewLibraries = 20;
 
 class VbNetImport {
@@ -79,7 +79,7 @@ public:
             for (const Text& line : IncludedFileLines(project.lines))
                 std::ranges::copy(data_.LibrariesOfWrappersIn(line), std::back_inserter(libraries));
         } catch (const RunError&) {
-            return true; // reported when the references were read
+            return true; // reported by the reading of the references
         }
         if (!libraries.empty() && !HasComponents())
             return false;

@@ -25,7 +25,7 @@ public:
     virtual bool EditIcon(FileListRow& row, const Text& title) = 0;
 
     virtual void HideDialog() {}
-    /// Shows the dialog again for work that takes its time after the program's questions.
+    /// Shows the dialog again for long work after the questions about the program.
     virtual void ShowDialog() {}
     virtual void UpdateStatusBar() {}
     /// Comes before each file that is looked at; false stops the import.
@@ -61,7 +61,7 @@ enum class NotAdded {
     OfTheBuild
 };
 
-/// True of what no setup of the program needs; false of what the user may have to see to.
+/// True for what no setup of the program needs; false for what the user may have to add himself.
 bool IsNeverNeeded(NotAdded why);
 
 struct NotAddedFile {

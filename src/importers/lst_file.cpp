@@ -13,7 +13,7 @@ namespace {
 constexpr int kMaxKeys = 5000;
 constexpr int kValueLimit = 200;
 
-// Setup lists hold some hundred lines. A larger one than this is something else by that name.
+// Setup lists hold some hundred lines. A larger file is something else under that name.
 constexpr std::int64_t kMaxLstMegabytes = 32;
 
 // Carries the wizard's own setup, which has no use in one of this tool.

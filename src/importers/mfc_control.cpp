@@ -11,7 +11,7 @@ bool NeedsMfc(const ImportData& data, Host host, const Text& fileName)
 {
     if (data.IsMfcControl(fileName))
         return true;
-    // The system folder has no such control, whatever file the name may lead to.
+    // A name with a folder is no control of the system folder, whatever file it leads to.
     if (HasFolder(fileName))
         return false;
     const auto info =

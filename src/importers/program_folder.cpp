@@ -16,7 +16,7 @@ namespace quillon {
 
 namespace {
 
-// What a project can hold; a folder with more is none of one program.
+// The most rows that a project can hold; a folder with more files is not that of one program.
 constexpr std::size_t kMaxFiles = kMaxRows;
 constexpr std::size_t kMaxDepth = 64;
 constexpr std::uint64_t kMaxRuntimeConfigSize = std::uint64_t{1} << 20;
@@ -234,7 +234,7 @@ DotNetNeed FindDotNet(const FileSystem& files, const ProgramFolder& folder,
         if (files.Status(config).size <= kMaxRuntimeConfigSize)
             return NeedOfRuntimeConfig(ReadWholeFile(files, config));
     } catch (const RunError&) {
-        // Reported as a damaged one.
+        // It is reported as a damaged one.
     }
     return {.kind = DotNetNeed::Kind::Core,
             .name = ".NET",

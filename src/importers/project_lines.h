@@ -8,8 +8,8 @@
 
 namespace quillon {
 
-// Project files hold some hundred short lines. What goes beyond these is damaged, or is something
-// else by that name.
+// Project files hold some hundred short lines. A file beyond these limits is damaged, or is
+// something else under that name.
 inline constexpr std::size_t kMaxProjectBytes = std::size_t{4} << 20;
 inline constexpr std::size_t kMaxProjectLineLength = 4096;
 

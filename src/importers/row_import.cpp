@@ -56,7 +56,7 @@ void RowImport::Pass(const Text& file, NotAdded why)
     Pass(file, why, file);
 }
 
-// Files of one name from several folders are reported each.
+// Files of the same name from several folders are reported one by one.
 void RowImport::Pass(const Text& file, NotAdded why, const Text& path)
 {
     const NotAddedFile entry{file, why};
@@ -142,7 +142,7 @@ bool RowImport::Add(const FileToAdd& file)
     return false;
 }
 
-// A file that this import has added before needs no word.
+// A file that this import has added before is not reported.
 void RowImport::LeftOut(const FileToAdd& file)
 {
     const auto row = file.CheckDuplicates ? RowOfFile(file) : std::nullopt;
@@ -152,7 +152,7 @@ void RowImport::LeftOut(const FileToAdd& file)
         Pass(file.FileName, NotAdded::AlreadyListed, file.SourcePath);
 }
 
-// The walk of the dependency file ends here, and nobody knows what else it names.
+// The walk of the dependency file ends here, so the files that it names after this one are unknown.
 void RowImport::Failed(const FileToAdd& file, const Text& depFile)
 {
     Pass(file.FileName, WhyNotAdded(file), file.SourcePath);
@@ -223,14 +223,14 @@ void RowImport::AddProgramIcon()
         row[IconDocReader] = kDocumentReaders.front();
     }
     work_.user.EditIcon(row, "Skriv in ikon-uppgifter för " + row[Filename]);
-    // Without a title the user has changed his mind. An icon from before the import stays.
+    // The user left the title empty, so no icon is wanted. An icon from before the import stays.
     if (row[IconDesc].empty() && !hadIcon) {
         row[IconMarker].clear();
         row[IconDocReader].clear();
     }
 }
 
-// Of rows without their source only those count that have got one.
+// A row without its source counts only if this import has filled it.
 std::vector<std::size_t> RowImport::AddedRows(const NewPlaces& places) const
 {
     std::vector<std::size_t> added;

@@ -20,7 +20,7 @@ public:
     RowImport(const RowImport&) = delete;
     RowImport& operator=(const RowImport&) = delete;
 
-    // `AlreadyReported`: it was missing before in this import, which has reported it.
+    // `AlreadyReported`: the file is missing, and this import has reported it before.
     enum class Added { Yes, AlreadyThere, LeftOut, Missing, AlreadyReported };
 
     /// A file of the system folder. One that has a row already is not added twice; a row that is
@@ -29,7 +29,8 @@ public:
     void AddSystemFiles(std::span<const SystemFile> files);
     /// A file for redistribution, with copy options of its own. Kept: there is no duplicate test.
     void AddRedistFiles(const Text& folder, std::span<const RedistFile> files);
-    /// Any other file; false where it was refused. Throws where the file fails and traps nothing.
+    /// Any other file; false where it was refused. A file that fails throws unless it has
+    /// `TrapErrors`.
     bool Add(const FileToAdd& file);
 
     /// A file that an ActiveX file of the system folder needs.
@@ -86,8 +87,8 @@ private:
     std::optional<std::size_t> programRow_;
     Text programDestination_;
     std::vector<NotAddedFile> notAdded_;
-    // The rows by their names in lower case, as far as they were looked at. A folder that is
-    // imported again would else compare each of its files with each row.
+    // The rows by their names in lower case, as far as they were looked at. Without this, importing
+    // a folder again would compare each of its files with each row.
     std::unordered_multimap<Text, std::size_t> rowsByName_;
     std::size_t rowsLookedAt_ = 0;
     std::unordered_set<Text> reported_;           // the names in `notAdded_`

@@ -20,7 +20,7 @@ struct VbModule {
 };
 std::optional<VbModule> ModuleIn(std::string_view line);
 
-// No project has as many; a file that names more is none.
+// No project has as many; a file that names more is no project.
 inline constexpr std::size_t kMaxReferences = 1000;
 
 /// The message where a file holds more; `what` is "ActiveX-filer".

@@ -29,8 +29,8 @@ std::string ReadableBytes(const FileSystem& files, const Text& path)
     try {
         return ReadWholeFile(files, path);
     } catch (const RunError&) {
-        // The profile functions know no failure: a file that can't be read has no keys, and whoever
-        // needs one of them says so in words of its own.
+        // The profile functions report no failure: a file that can't be read has no keys, and the
+        // caller that needs one of them reports that it is missing.
         return {};
     }
 }

@@ -15,7 +15,7 @@
 
 namespace quillon {
 
-/// Holds the current file and the current section; both stay until they are set anew. With no file
+/// Holds the current file and the current section; both stay until they are set again. With no file
 /// or no such section every key is missing.
 class ProfileReader {
 public:
@@ -23,7 +23,7 @@ public:
     ProfileReader(const ProfileReader&) = delete;
     ProfileReader& operator=(const ProfileReader&) = delete;
 
-    /// Reads the file afresh. One that can't be read is a file without any key.
+    /// Reads the file again. One that can't be read is a file without any key.
     void SetIniFile(const FileSystem& files, const Text& path);
     /// The same for a file that is already in memory.
     void SetIniBytes(std::string bytes);

@@ -169,7 +169,7 @@ int JpegReduction(const JpegHeader& header, std::size_t fileSize, std::int64_t m
     for (const int reduction : {1, 2, 4, 8}) {
         const std::int64_t kept =
             std::int64_t{Reduced(header.width, reduction)} * Reduced(header.height, reduction);
-        // A picture that is turned is there twice for a moment.
+        // While a picture is turned, its pixels are in memory twice.
         const std::int64_t copies = header.orientation == 1 ? 1 : 2;
         if (kept <= kMaxPicturePixels &&
             static_cast<std::int64_t>(fileSize) + scans +

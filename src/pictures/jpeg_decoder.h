@@ -1,4 +1,4 @@
-// The seam to the system's decoder of JPEG pictures.
+// The interface to the system's decoder of JPEG pictures.
 #pragma once
 
 #include "design/picture.h"
@@ -17,7 +17,7 @@ struct JpegRequest {
     // How much memory the decoder may take for itself, in bytes.
     std::uint64_t memory = 0;
 
-    /// As large as what is asked for, with pixels that nobody has set yet.
+    /// A picture of the size that is asked for, whose pixels are not set.
     Picture MakePicture() const
     {
         const auto reduced = [this](int side) { return (side + reduction - 1) / reduction; };

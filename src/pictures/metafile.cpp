@@ -106,8 +106,8 @@ Picture DrawAt(const Metafile& file, int width, int height, Letters& letters)
             return picture;
         break;
     }
-    // Too much for smooth edges. Where it is too much without them too, what was drawn so far
-    // stays.
+    // Too much for smooth edges. Where the work is too much even without them, what was drawn so
+    // far is kept.
     return PlayAt(file, width, height, 1, letters, isExhausted);
 }
 

@@ -95,7 +95,7 @@ void MetafilePlayer::CreateUnused(const Record&)
 
 void MetafilePlayer::CreatePatternBrush(const Record&)
 {
-    // Its pixels depend on a device that there no longer is.
+    // Its pixels depend on a device that no longer exists.
     AddBrush({.colour = kGrey});
 }
 

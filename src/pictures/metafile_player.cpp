@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-// Nobody nests deeper; a file that does is no drawing.
+// No real drawing nests deeper.
 constexpr std::size_t kMaxSaved = 256;
 constexpr std::size_t kMaxHoles = 32;
 constexpr int kWorkOfRecord = 50;

@@ -1,5 +1,5 @@
 // A picture file that can't be shown: as a failure with the number that users and callers know, and
-// in words.
+// as a text.
 #pragma once
 
 #include "pictures/picture_file.h"
@@ -32,7 +32,7 @@ std::optional<PictureError> PictureErrorOf(Work work)
 /// A sentence that names the file and says what is wrong with it.
 Text PictureFaultText(PictureFault fault, const Text& file);
 
-/// A sentence for the one who chose the file: what to do.
+/// A sentence for the user who chose the file: what to do.
 Text PictureFaultAdvice(PictureFault fault);
 
 } // namespace quillon

@@ -2,9 +2,9 @@
 // metafiles, distinguished by what is in the file. Tool and setup read them by this code, so that
 // both show the same pixels; only what a JPEG file holds is decoded by the system's own means.
 //
-// Files come from anywhere. Whatever is in one, reading it ends soon and takes no more than 256 MiB
-// with all that it needs on the way; what is damaged or too large gives a reason. Who keeps several
-// pictures gives each one only what the others leave.
+// Files come from anywhere. Reading one always ends soon and takes no more than 256 MiB in all;
+// what is damaged or too large gives a reason. A caller that keeps several pictures gives each one
+// only what the others leave.
 #pragma once
 
 #include "design/scalable_picture.h"

@@ -97,8 +97,8 @@ Pixel Combined(Combination combination, Pixel source, Pixel below)
     return bits | kOpaquePixel;
 }
 
-// What is not painted yet counts as white paper. A combination that leaves the paper white leaves
-// it unpainted, so that a mask and its picture do not bring a white box with them.
+// What is not painted yet counts as white paper. A combination that would paint it white leaves it
+// unpainted, so that a picture drawn with its mask has no white box round it.
 Pixel Result(Pixel result, Pixel before)
 {
     return before >> 24 != 255 && result == Over(before, kPaper) ? before : result;
@@ -194,7 +194,7 @@ void Raster::Cover(int x, int y, Pixel colour, Pixel coverage)
 {
     Pixel& pixel = canvas_.Row(y)[x];
     const Pixel over = Covering(colour, coverage);
-    // As if on paper that is seen through: its alpha grows with the colour.
+    // The colour is mixed as on opaque paper; the alpha grows with the coverage.
     const Pixel below = pixel >> 24;
     const Pixel mixed = Over(over, pixel) & 0xFFFFFF;
     const Pixel alpha = coverage + (below * (255 - coverage) + 127) / 255;

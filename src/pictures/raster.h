@@ -1,6 +1,6 @@
-// A raster that outlines are filled on, without smoothing: who wants smooth edges fills a larger
-// one and makes it smaller, so that neighbours meet without a seam and colours that are combined
-// with what is below come out exactly.
+// A raster that outlines are filled on, without smoothing. For smooth edges, fill a larger raster
+// and make it smaller, so that neighbours meet without a gap and colours that are combined with
+// what is below come out exactly.
 #pragma once
 
 #include "design/canvas.h"
@@ -39,7 +39,7 @@ struct RasterClip {
     std::vector<PixelRect> holes;
 };
 
-/// What may still be done, in pixels. A file of a million shapes must end some time.
+/// The work that is left, in pixels, so that a file of a million shapes comes to an end.
 class WorkBudget {
 public:
     explicit WorkBudget(std::int64_t work) : work_(work) {}

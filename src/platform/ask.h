@@ -1,6 +1,6 @@
 // The user, as the logic sees one: boxes to answer, choices to make, lines to read. The desktop
-// tool shows windows, the command-line program prints and answers from its switches, and the tests
-// have their answers laid ready.
+// tool shows windows, the command-line program prints and answers from its switches, and tests have
+// prepared answers.
 #pragma once
 
 #include "helpers/text.h"
@@ -46,7 +46,7 @@ public:
     virtual void Critical(const Text& title, const Text& text) = 0;
 
     /// A Yes/No question with an exclamation mark.
-    /// `stops` says which answer ends the command, for a program that has nobody to ask.
+    /// `stops` is the answer that ends the command, for a program without a user who could answer.
     enum class Stops { OnYes, OnNo };
     virtual bool YesNo(const Text& title, const Text& text, Stops stops) = 0;
     /// An OK/Cancel question; true is OK. Cancel always ends the command.

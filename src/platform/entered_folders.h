@@ -1,5 +1,5 @@
-// The folders that a walk through a tree is in, so that a link back up does not lead it round for
-// ever.
+// The folders that a walk through a tree is in, so that a link to a folder above does not make it
+// endless.
 #pragma once
 
 #include <algorithm>
@@ -10,8 +10,8 @@ namespace quillon {
 
 class EnteredFolders {
 public:
-    /// Whether the walk is in this folder already. Of one without an identity, which is 0, nobody
-    /// knows.
+    /// Whether the walk is in this folder already. False for a folder without an identity, which is
+    /// 0.
     bool Has(std::uint64_t identity) const
     {
         return identity != 0 && std::ranges::find(entered_, identity) != entered_.end();

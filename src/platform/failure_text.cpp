@@ -6,7 +6,7 @@ namespace quillon {
 
 namespace {
 
-// What users can't be expected to know by its number.
+// The failures whose number alone tells a user nothing.
 Text Explanation(int number)
 {
     return number == ErrorNumber::kDeviceIo

@@ -1,4 +1,4 @@
-// A failure of the machine in words for the one who has to mend it.
+// A `RunError` as a line for the user: why a file or folder could not be read or written.
 #pragma once
 
 #include "platform/run_error.h"

@@ -60,8 +60,8 @@ public:
     virtual void Close() = 0;
 };
 
-/// Keeps other programs out for as long as it lives. The system lets go of it when its program
-/// ends, however it ends.
+/// Keeps other programs out while it exists. The system releases it when its program ends, in
+/// whatever way.
 class FileLock {
 public:
     virtual ~FileLock() = default;
@@ -94,8 +94,8 @@ public:
     /// Removes a file of `OpenNew` that the program which made it can no longer remove, because it
     /// was killed. Everything else stays, and nothing is thrown.
     virtual void RemoveAbandoned(const Text& /*path*/) {}
-    /// Makes the lock file and takes it; it goes with the lock. Nothing comes back where another
-    /// program has it. A disk that knows no locks gives one that keeps nobody out.
+    /// Creates the lock file and locks it; the file is removed with the lock. Nothing comes back
+    /// where another program has the lock. On a disk without locks the lock has no effect.
     virtual std::unique_ptr<FileLock> Lock(const Text& /*path*/, LockWait)
     {
         return std::make_unique<FileLock>();
@@ -109,9 +109,9 @@ public:
     /// An empty folder only.
     virtual void RemoveFolder(const Text& path) = 0;
     virtual void Rename(const Text& from, const Text& to) = 0;
-    /// Puts a finished file in the place of another on the same disk, which nobody ever finds half
-    /// written or missing. Rights, owner and links of the one that was there live on. Throws where
-    /// they can't, and both files are then as they were.
+    /// Puts a finished file in the place of another on the same disk; at no time is the file half
+    /// written or missing. Rights, owner and links of the one that was there are kept. Throws where
+    /// they can't be, and both files are then as they were.
     virtual void Replace(const Text& from, const Text& to) { Rename(from, to); }
     /// The file under a second name as well, which must be free; a copy where the disk has no
     /// links.

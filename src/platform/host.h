@@ -1,4 +1,4 @@
-// All of the outside world that the logic needs, made once in main() and handed down.
+// All access of the logic to the system, made once in main() and handed down.
 #pragma once
 
 #include "platform/file_system.h"

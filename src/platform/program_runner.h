@@ -1,5 +1,4 @@
-// Programs of others that do a part of the work. They are run to their end, and what they say comes
-// back.
+// Runs other programs for a part of the work, to their end, and returns their output.
 #pragma once
 
 #include "helpers/text.h"
@@ -40,7 +39,7 @@ struct ProgramOutcome {
     bool tookTooLong = false;
 };
 
-/// A folder that nobody else can look into or write to. It goes, with all that is in it.
+/// A private folder of this user. It is removed with all that is in it.
 class WorkFolder {
 public:
     virtual ~WorkFolder() = default;

@@ -1,4 +1,4 @@
-// How everything that the user owns comes onto the disk: projects, settings, changed INI files.
+// How everything that the user owns is written to the disk: projects, settings, changed INI files.
 //
 // The new bytes go into a temporary file beside the old one, "name.tmp1" and so on, which is
 // brought to the disk and then takes the old one's place in one step. Whatever happens on the way,

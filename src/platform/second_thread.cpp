@@ -10,7 +10,7 @@ void SystemThread::Work()
 {
     try {
         work();
-    } catch (...) { // the owner gets it
+    } catch (...) { // thrown in the owner's thread
         failure = std::current_exception();
     }
 }

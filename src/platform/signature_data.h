@@ -11,7 +11,7 @@
 namespace quillon {
 
 struct SignatureInfo {
-    // The signature is by the certificate that it names, and over this very program.
+    // The signature was made with the key of its certificate, over this program.
     bool isIntact = false;
     // The certificate is one for programs, and it leads to a root that this machine trusts: at the
     // time of the stamp, where that is trusted as well, else today.

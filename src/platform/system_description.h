@@ -1,4 +1,4 @@
-// The machine in words, for whoever helps its user.
+// The machine in words, for the support.
 #pragma once
 
 #include "helpers/text.h"

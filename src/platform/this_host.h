@@ -1,5 +1,5 @@
-// The host of the system that a program is built for. Whatever lies above this folder gets the
-// machine through here, so that a port to another system changes this file alone.
+// The host of the system that a program is built for. All folders above this one get the machine
+// through here, so that a port to another system changes this file alone.
 #pragma once
 
 #ifdef _WIN32

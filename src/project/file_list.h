@@ -41,20 +41,19 @@ struct FileListRow {
 };
 
 inline constexpr const char* kEmptyFolderName = "<Dir>";
-/// What is in place of the destination, or of the size, of a file that is no longer there.
+/// Stands in place of the destination, or of the size, of a file that is no longer there.
 inline constexpr const char* kFileIsGone = "<Filen saknas>";
 
 // Row numbers are 16-bit, so a file list holds no more rows than this.
 inline constexpr std::size_t kMaxRows = 32767;
 
-/// The rows in the order that the user sees, and by what that order came about.
+/// The rows in the order that the user sees, and what they are sorted by.
 struct FileList {
     std::vector<FileListRow> rows;
 
     Column sortKey = Filename;
     bool sortDescending = false;
-    // While sorting is on, the view keeps the order of the key; rows added later go where they
-    // belong.
+    // While the list is sorted, the view keeps that order; new rows are put in their places.
     bool sorted = true;
 };
 

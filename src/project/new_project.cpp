@@ -23,7 +23,7 @@ void SetDefaultBitmaps(Project& project, const Text& toolFolder)
 
 void ResetState(OpenProjectState& state)
 {
-    // Kept: the last of the destination choices outlives New.
+    // Kept: New does not reset the last of the destination choices.
     Text lastChoice = std::move(state.DestinationDirectoryChoices.back());
     state = {};
     state.DestinationDirectoryChoices.back() = std::move(lastChoice);

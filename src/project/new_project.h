@@ -1,4 +1,4 @@
-// A new project, and what of the one before it lives on.
+// A new project, and what it keeps of the one before.
 #pragma once
 
 #include "project/records.h"

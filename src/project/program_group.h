@@ -5,8 +5,8 @@
 
 namespace quillon {
 
-/// A group without a name takes the project's, in the project itself. Kept: whoever shows or writes
-/// the group calls this, so that looking at it changes the project.
+/// A group without a name takes the project's, in the project itself. Kept: the code that shows or
+/// writes the group calls this, so that showing it changes the project.
 void FillEmptyProgramGroup(Project& project);
 
 /// Whose menu the group goes to. A project can have both marks, where all users count, or none.

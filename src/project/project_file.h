@@ -25,7 +25,7 @@ struct ScreenMetrics {
 void WriteProjectFile(Project& project, const Text& path, Host& host, Ask& ask,
                       const ScreenMetrics& screen = {});
 
-/// The same up to the last step: the file is closed, and its place is for the caller to give.
+/// The same without the last step: the file is closed, and the caller puts it into its place.
 void WriteProject(Project& project, SavedFile& file, Host& host, Ask& ask,
                   const ScreenMetrics& screen = {});
 
@@ -37,7 +37,7 @@ enum class ReadEnd {
     Whole,
     Refused, // no project file; the box said so and nothing was changed
     Damaged, // the file ends inside its first list; the box said so
-    Stopped, // a list, or the header of one, is missing its end or itself; silent
+    Stopped, // a list, or the header of one, is missing or has no end; silent
     RowsCut, // a line of the file list is no whole row; silent, and all rows before it are there
     // The number of rows is missing, no number, or smaller than that of the rows, which are then
     // not all read; silent.

@@ -118,7 +118,7 @@ void AfterReading(section::InstallOptionsInternet& options,
         options = {.SelfExtractFilename = "Self.exe", .ExpandEXEInWinTempMap = kOff};
 }
 
-// A disk that can't answer has no such picture; only here does a failure not end the reading.
+// A disk that can't answer has no such picture. This failure alone does not end the reading.
 bool IsPictureThere(const FileSystem& files, const Text& path)
 {
     try {

@@ -25,8 +25,8 @@ Text Pixels(Integer twips, int twipsPerPixel)
     return NumberText(RoundToEven(static_cast<double>(twips) / twipsPerPixel));
 }
 
-/// The picture of a tool whose folder can't be in the file: in a tool that reads it, wherever
-/// that one lies, it is the default picture again.
+/// The picture of a tool whose folder can't be written to the file: every tool that reads this
+/// takes its own default picture.
 Text DlgBitmapOnFile(const Text& path, int limit)
 {
     const bool isDefault = EqualIgnoreCase(ExtractFilename(path), kDefaultDlgBitmapName);
@@ -141,7 +141,7 @@ private:
         }
     }
 
-    Text line_; // kept for its memory: a project has hundreds of settings
+    Text line_; // reused, since a project has hundreds of settings
     AnsiTextFile& file_;
     const ScreenMetrics& screen_;
 };

@@ -62,7 +62,7 @@ struct RtfFont {
 struct RtfText {
     std::vector<RtfFont> fonts;
     std::vector<RtfParagraph> paragraphs;
-    /// Why the text may end too early: the file does, or it has more than anybody would read.
+    /// Why the text may end too early: the file does, or it exceeds a limit.
     enum class Fault { None, Cut, TooLong } fault = Fault::None;
 };
 

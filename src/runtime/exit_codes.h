@@ -1,6 +1,6 @@
-// The codes by which the setup and the uninstaller answer whoever started them. The numbers are
-// those that Windows itself uses for the same ends, so that scripts and deployment tools know them;
-// what Windows has no number for begins at 20001, where it has none of any kind.
+// The exit codes of the setup and the uninstaller. The numbers are those that Windows itself uses
+// for the same ends, so that scripts and deployment tools know them; what Windows has no number for
+// begins at 20001, where it has none of any kind.
 #pragma once
 
 #include "helpers/text.h"

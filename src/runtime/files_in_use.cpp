@@ -80,7 +80,7 @@ bool FreeFiles(const InUseInput& input, const std::vector<Text>& paths)
         const Answer answer = AskUser(input, text);
         if (answer != Answer::Yes)
             return answer == Answer::No;
-        // Whoever goes on running is named once more.
+        // A program that is still running is named once more.
         if (!programs.empty())
             Close(input);
     }

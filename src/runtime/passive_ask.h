@@ -1,4 +1,4 @@
-// Progress, and nobody to ask: what /passive shows.
+// Progress without questions: what /passive shows.
 #pragma once
 
 #include "runtime/silent_ask.h"

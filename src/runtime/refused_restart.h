@@ -1,6 +1,6 @@
-// A restart of the machine that Windows refuses once the setup has asked for it. The logs are ended
-// before that, since the system may end the setup as soon as it agrees; where it does not, they are
-// corrected afterwards.
+// A restart of the machine that Windows refuses after the setup has asked for it. The logs are
+// ended before the restart, since the system may end the setup as soon as it agrees; where it
+// refuses, they are corrected afterwards.
 #pragma once
 
 #include "platform/file_system.h"

@@ -1,4 +1,4 @@
-// Whether the machine is started anew once a product is installed.
+// Whether the machine is restarted after a product was installed.
 #pragma once
 
 #include "platform/ask.h"
@@ -14,13 +14,13 @@ struct RestartInput {
     const LanguageTexts& texts;
     Text title;            // of the setup's boxes
     bool isNeeded = false; // a file takes its place then
-    // False where nobody is shown a box, under /norestart, and where the user may not start the
-    // machine anew: it goes on running then.
+    // False where no box is shown, under /norestart, and where the user may not restart the
+    // machine: it then goes on running.
     bool mayRestart = true;
 };
 
-/// `Done`, `RestartNeeded`, or `RestartStarted` for whoever called the setup to start the machine
-/// anew as the last thing of all.
+/// `Done`, `RestartNeeded`, or `RestartStarted` for a caller that has to restart the machine as its
+/// last action.
 ExitCode DecideRestart(const RestartInput& input);
 
 } // namespace quillon

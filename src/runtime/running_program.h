@@ -1,4 +1,4 @@
-// The file of a program that runs, such as the uninstaller itself.
+// The file of a running program, such as the uninstaller itself.
 #pragma once
 
 #include "helpers/text.h"
@@ -9,8 +9,8 @@ namespace quillon {
 class RunningProgram {
 public:
     virtual ~RunningProgram() = default;
-    /// Gets the file out of its folder; it goes as soon as the program has ended. Nothing happens
-    /// where `path` is not its place, or where it can't be moved.
+    /// Moves the file out of its folder; it is removed as soon as the program has ended. Nothing
+    /// happens where `path` is not the file's path, or where it can't be moved.
     virtual void MoveAway(const Text& path) = 0;
 };
 

@@ -73,7 +73,7 @@ private:
     const LanguageTexts& texts_;
     SetupInformation setup_; // with what the user has chosen
     PassiveAsk withoutBoxes_;
-    Ask& ask_;            // the pages alone have a user who is asked under /SUPPRESSMSGBOXES
+    Ask& ask_;            // under /SUPPRESSMSGBOXES only the pages may ask
     UserChoices choices_; // of the pages that were left by Next
     InstallScope scope_;
     Text destination_; // empty: the project's own
@@ -96,7 +96,7 @@ ExitCode SetupProgram::Fail(ExitCode code, const Text& text)
     return code;
 }
 
-// Everything else is over before the first change is made to the machine.
+// Everything above is finished before the first change to the machine.
 ExitCode SetupProgram::Work()
 {
     OpenLog();
@@ -170,8 +170,8 @@ void SetupProgram::TakeSwitches()
     ChooseScope();
 }
 
-// An update stays with whom its earlier version was installed for, so that the product is installed
-// once.
+// An update is installed for the same users as the earlier version, so that the product is
+// installed once.
 void SetupProgram::ChooseScope()
 {
     if (const auto earlier = FindEarlierVersion(setup_, input_.host, input_.target, scope_))
@@ -200,14 +200,14 @@ void SetupProgram::RunProgramBefore()
     destination_ = folder.value_or("");
 }
 
-// What somebody has typed goes before what programs say.
+// A folder from the command line has precedence over one that a program has given.
 void SetupProgram::FindDestination()
 {
     if (!input_.switches.destination.empty())
         destination_ = input_.switches.destination;
     if (!destination_.empty())
         return;
-    // A program that has run before may have changed what is installed, but for whom is settled.
+    // The first program may have changed which version is installed; the scope is already decided.
     const auto earlier = FindEarlierVersion(setup_, input_.host, input_.target, scope_);
     isUpdate_ = earlier && earlier->scope == scope_;
     if (isUpdate_)
@@ -301,7 +301,7 @@ void SetupProgram::LogSound()
         log_.Skipped(texts_[Message::PartSound], {Message::SkipNoSound});
 }
 
-// The product is installed: whatever happens here takes nothing back.
+// The product is installed: a failure from here on undoes nothing.
 ExitCode SetupProgram::TellTheEnd(const InstallResult& result)
 {
     if (result.needsRestart)
@@ -330,14 +330,15 @@ ExitCode SetupProgram::TellTheEnd(const InstallResult& result)
     return code;
 }
 
-// Never unannounced, and nothing is promised that the user has no right to.
+// The machine is never restarted without a notice, and no restart is announced that the user has no
+// right to.
 bool SetupProgram::MayRestart() const
 {
     return MayAsk(input_.switches) && !input_.switches.noRestart &&
            (input_.mayRestart == nullptr || input_.mayRestart());
 }
 
-// What is asked for is shown also where boxes are not wanted, but never under /S.
+// The answer to /? and the like is shown also where boxes are suppressed, but never under /S.
 ExitCode SetupProgram::Tell(const std::vector<Text>& lines)
 {
     Text whole;
@@ -350,7 +351,7 @@ ExitCode SetupProgram::Tell(const std::vector<Text>& lines)
     return ExitCode::Done;
 }
 
-// From its start on the logs are the uninstaller's, which writes them anew.
+// From here on the uninstaller writes the logs again.
 ExitCode SetupProgram::Uninstall()
 {
     const RunProgramToEnd run = [this](const Text& program, const Text& arguments) {

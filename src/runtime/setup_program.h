@@ -22,10 +22,10 @@ struct SetupInput {
     Ask& ask;
     OpenContainer openContainer;
     Switches switches;
-    Text workFolder; // exists, and is removed by the caller
+    Text workFolder; // exists; the caller removes it
     // Shows the pages of the package; null where nobody is to be asked.
     PageView* pages = nullptr;
-    // Of the screen behind the pages; null where nothing is to be heard.
+    // The sound of the screen behind the pages; null for none.
     BackgroundSound* sound = nullptr;
     bool otherSetupRuns = false; // another one on this machine
     // Starts a program or opens a document for the user; throws `RunError`.
@@ -34,14 +34,14 @@ struct SetupInput {
     RunProgramToEnd runToEnd = {}; // for /UNINSTALL
     // Whether this user may start the machine anew; null: yes.
     bool (*mayRestart)() = nullptr;
-    // Opens a file that nobody can change or exchange until it is closed; null: as any file.
+    // Opens a file that others can't change or replace until it is closed; null: as any file.
     std::unique_ptr<InputFile> (*openHeld)(const Text& path) = nullptr;
 };
 
 struct SetupEnd {
     ExitCode code = ExitCode::Done;
-    // What the caller does as the last thing of all. The code alone does not say so: a script, or
-    // the uninstaller that was started, may end with any.
+    // The last action of the caller. It does not follow from the code alone: a script, or the
+    // uninstaller that was started, may end with any.
     bool startsMachineAnew = false;
     LogFiles logs = {}; // that were written, for `LogRefusedRestart`
     Text title = {};    // of the setup's boxes

@@ -39,7 +39,7 @@ struct VariableSources {
     InstallScope scope = InstallScope::Project;
 };
 
-/// The names of the registration page before anybody has chosen any.
+/// The names of the registration page before the user has changed them.
 section::LicenseData ProposedUser(const SetupInformation& setup, const Machine& machine);
 
 SetupVariables MakeSetupVariables(const VariableSources& sources);

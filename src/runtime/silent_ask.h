@@ -1,4 +1,4 @@
-// Nobody to ask: /S shows nothing at all. Questions take the answer that changes least.
+// A user who sees nothing, as under /S. Questions get the answer that changes least.
 #pragma once
 
 #include "platform/ask.h"

@@ -93,27 +93,26 @@ public:
     /// Puts `from` in the place of `to` when the machine starts next; an empty `to` removes `from`.
     virtual void MoveAtRestart(const Text& from, const Text& to) = 0;
 
-    /// Starts the program with the setup's own rights, in its own folder, and waits for its end;
-    /// the code that it ends with. Windows of the setup stay alive meanwhile. Throws where it can't
-    /// be started.
+    /// Starts the program with the setup's own rights, in its own folder, and waits for its end.
+    /// Returns its exit code. The setup's windows keep working meanwhile. Throws where it can't be
+    /// started.
     virtual int RunProgram(const ProgramRun& run) = 0;
 
-    /// Leaves a file to administrators and the system alone, where an administrator does this and
-    /// the disk knows of rights.
+    /// Restricts a file to administrators and the system, where an administrator calls this and the
+    /// disk has rights.
     virtual void CloseToOthers(const Text& path) = 0;
     /// Gives a file the rights and the attributes (read-only, hidden, system) of another one on the
     /// same disk, whose place it is about to take.
     virtual void CopyRights(const Text& from, const Text& to) = 0;
-    /// False where somebody else made `path` than who makes files now, such as `own`.
+    /// False where another user made `path` than the one who makes files now, such as `own`.
     virtual bool HaveSameOwner(const Text& path, const Text& own) const = 0;
     /// Whether the file belongs to administrators, to the system or to the user who runs this, so
-    /// that nobody with fewer rights can have made it. True on a disk without owners.
+    /// that no user with fewer rights can have made it. True on a disk without owners.
     virtual bool IsOfTrustedUser(const Text& path) const = 0;
-    /// Such a file for reading; nothing comes back where it belongs to somebody else. Nobody can
-    /// write to it, or give another file its name, while it is open. Throws as
-    /// `FileSystem::OpenInput` does.
+    /// Opens such a file for reading; nothing comes back where it belongs to another user. While it
+    /// is open, it can't be written to or replaced. Throws as `FileSystem::OpenInput` does.
     virtual std::unique_ptr<InputFile> OpenOfTrustedUser(const Text& path) const = 0;
-    /// Whether what is there leads to another folder.
+    /// Whether the path is a link to another folder.
     virtual bool IsLink(const Text& folder) const = 0;
     /// Whether two paths lead to one file, however they are spelt. False where one is missing.
     virtual bool IsSameFile(const Text& path, const Text& other) const = 0;

@@ -41,7 +41,7 @@ void LogWindow(ActionLog& log, const TestWindow& window)
         log.Line(Message::LogNote, line);
 }
 
-// As the user of the setup would be led, but for the installation itself.
+// Leads the author through the pages as the user of the setup, without an installation.
 void LeadThroughPages(const TestInput& input, LoadedPackage& package)
 {
     PageChain chain({input.host, input.target, input.ask, package.texts, package.setup,
@@ -88,7 +88,7 @@ LoadedPackage LoadForTest(const FileSystem& files, const Text& folder, TestMode 
     if (mode == TestMode::Preview)
         return LoadSetupInformation(files, folder);
     LoadedPackage package = LoadPackage(files, folder);
-    // The author learns of it here, and no user of the package does.
+    // A message for the author; the user of a package never sees it.
     if (!package.fault)
         package.fault = FaultOfScripts(package.setup, package.texts);
     return package;

@@ -1,5 +1,5 @@
-// What the user has chosen, on the pages or by switches. Where nothing was chosen, the project
-// holds.
+// What the user has chosen, on the pages or by switches. What was not chosen is as the project has
+// it.
 #pragma once
 
 #include "formats/setup_information.h"
@@ -21,7 +21,7 @@ struct UserChoices {
     std::array<Component, kComponentCount> components; // component n is at n - 1
 };
 
-/// What has been chosen now goes before what was chosen earlier.
+/// A choice made now replaces an earlier one.
 void AddChoices(const UserChoices& chosen, UserChoices& choices);
 
 /// Puts the choices into the project as if they had been its own. The main folder is not among

@@ -1,6 +1,6 @@
 // The folder that a run of a setup, or of a program that unpacks one, has for itself among
-// temporary files: how it is called, and the lock in it, which tells the folder of a living run
-// from one that was left behind.
+// temporary files: its name, and the lock in it, which tells the folder of a running setup from one
+// that was left behind.
 #pragma once
 
 #include "helpers/number_text.h"
@@ -9,7 +9,7 @@ namespace quillon {
 
 inline constexpr const char* kWorkFolderLock = "LOCK";
 
-// What stands round the number in its name.
+// The parts of its name before and after the number.
 inline constexpr const char* kWorkFolderPrefix = "QN";
 inline constexpr const char* kWorkFolderSuffix = ".TMP";
 
@@ -19,7 +19,7 @@ inline Text WorkFolderName(Long number)
     return kWorkFolderPrefix + NumberText(number) + kWorkFolderSuffix;
 }
 
-/// Whether the name, in capitals, is such a one.
+/// Whether the name, in capitals, has this form.
 inline bool IsWorkFolderName(std::string_view name)
 {
     constexpr std::size_t kDigits = std::string_view(kWorkFolderPrefix).size();

@@ -62,7 +62,7 @@ void RemoveAbandonedWorkFolders(FileSystem& files, const Text& tempFolder,
         const Text folder = JoinPath(tempFolder, entry.name);
         if (!entry.status.isFolder || !IsWorkFolderName(UpperCase(entry.name)) || isLink(folder))
             continue;
-        // Another user's folder, or one with more in it, stays.
+        // Another user's folder, or one that holds more files, stays.
         RunErrorNumber([&] { RemoveWorkFolder(files, folder); });
     }
 }

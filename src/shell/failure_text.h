@@ -1,4 +1,4 @@
-// Failures in words for the one who has to mend them.
+// Failures of the packing and of a run of Create, as lines for the user that name the file.
 #pragma once
 
 #include "builder/create_run.h"
@@ -6,9 +6,10 @@
 
 namespace quillon {
 
-/// What ended an archive, in a line that names the file; the status lines show its number alone.
+/// Why an archive could not be made, in a line that names the file; the status lines show its
+/// number alone.
 Text FailureText(const CompressionFailure& failure);
-/// The same of a run of Create that failed; its status lines and boxes often name no file.
+/// Why a run of Create failed; its status lines and boxes often name no file.
 Text FailureText(const CreateRun& run);
 
 } // namespace quillon

@@ -15,7 +15,7 @@ std::vector<HelpPage> PagesOf(const FileSystem& files, const Text& path)
     try {
         return ReadHelpPages(ReadWholeFile(files, path));
     } catch (const RunError&) {
-        return {}; // opening it says why
+        return {}; // opening it shows the reason
     }
 }
 

@@ -10,7 +10,7 @@ namespace quillon {
 /// kind in the program that the system has for it. Reports it where neither can be done.
 void ShowHelp(Session& session, const HelpRequest& request = {});
 
-/// Tells what whoever helps the user has to know.
+/// Says what the user has to give to the support: version, settings, project file.
 void ShowSupport(Session& session);
 
 } // namespace quillon

@@ -23,8 +23,8 @@ KnownFile LookAtFile(const FileSystem& files, const Text& path);
 
 bool IsSameFile(const FileSystem& files, const Text& left, const Text& right);
 
-/// Whether the file at the path is the known one with another content; one that has gone can be
-/// written anew without a loss.
+/// Whether the file at the path is the known one with another content; a file that no longer exists
+/// can be written again without a loss.
 bool HasChangedSince(const FileSystem& files, const KnownFile& known, const Text& path);
 
 } // namespace quillon

@@ -55,7 +55,7 @@ std::optional<ReadEnd> LoadProject(Session& session)
     if (session.state.ProjectFileName.empty())
         return std::nullopt;
     const BusyWith busy(session.ask, "Öppnar projekt...");
-    // Before the reading: what is changed meanwhile shows then.
+    // Before the reading, so that a change in the meantime is noticed.
     session.knownFile = LookAtFile(session.host.files, session.state.ProjectFileName);
     session.project.Files.rows.clear();
     const ReadEnd end = ReadProjectFile(session.project, session.state.ProjectFileName,
@@ -100,7 +100,7 @@ void HandleRecentFilesMenu(Session& session)
     const Text& file = session.state.ProjectFileName;
     if (file.empty())
         return;
-    // Names are compared with case. The oldest makes room where the file is a new one.
+    // Names are compared with case. A new file replaces the oldest one.
     auto& recent = session.RecentFiles;
     auto place = std::find(recent.begin(), recent.end(), file);
     if (place == recent.end())

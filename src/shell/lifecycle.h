@@ -8,16 +8,16 @@
 
 namespace quillon {
 
-/// Reads the file that `ProjectFileName` names over the project that is open; only the file list
-/// is emptied first. The project counts as unchanged afterwards and its name enters the recent
-/// files, whatever came of the reading. Nothing happens, and nothing comes back, when the name is
+/// Reads the file that `ProjectFileName` names over the project that is open; only the file list is
+/// emptied first. The project counts as unchanged afterwards and its name enters the recent files,
+/// whether or not it could be read. Nothing happens, and nothing comes back, when the name is
 /// empty.
 std::optional<ReadEnd> LoadProject(Session& session);
 
 enum class SaveEnd {
     Done,
-    // Another program has changed the file since it was read or saved; nothing was written. Who
-    // wants to write over it all the same makes its content the one of `knownFile`.
+    // Another program has changed the file since it was read or saved; nothing was written. To
+    // write over it all the same, the caller stores its present content in `knownFile`.
     ChangedByOthers
 };
 

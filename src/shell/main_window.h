@@ -1,5 +1,5 @@
-// What commands ask of the main window. It shows the session and never keeps a copy of it: whoever
-// changes the session says here what is to be shown anew.
+// What commands ask of the main window. It shows the session and never keeps a copy of it: code
+// that changes the session says here what has to be shown again.
 #pragma once
 
 #include <cstddef>
@@ -27,7 +27,7 @@ public:
     virtual void SelectTab(Tab tab) = 0;
     virtual Tab SelectedTab() const = 0;
 
-    /// The rows of the file list anew, these of them selected; then `UpdateStatusBar`.
+    /// Shows the rows of the file list again with these selected; then calls `UpdateStatusBar`.
     virtual void ShowFileList(const std::vector<std::size_t>& selectedRows) = 0;
     /// The numbers of the selected rows, ascending.
     virtual std::vector<std::size_t> SelectedRows() const = 0;

@@ -33,7 +33,7 @@ FileQuestion ProjectFileQuestion(const Session& session, const Text& title)
     return question;
 }
 
-/// The answer is for what is there when the question is asked, not for what comes meanwhile.
+/// The answer is for the state that the question is about, not for changes made while it is shown.
 bool AgreesToWriteOver(Session& session)
 {
     const Text& path = session.state.ProjectFileName;
@@ -114,7 +114,7 @@ void OpenRecentFile(Session& session, MainWindow& window, std::size_t slot)
 {
     if (slot >= session.RecentFiles.size() || session.RecentFiles[slot].empty())
         return;
-    // Saving the project that is open moves the slots; the user chose the name, not the place.
+    // Saving the open project moves the slots; the name that the user chose counts, not the place.
     const Text file = session.RecentFiles[slot];
     window.SelectTab(Tab::Files);
     if (AskSaveChanges(session, window) == SaveChanges::Cancel)

@@ -1,5 +1,5 @@
-// The commands that change which project is open and whether it is saved, and the question that
-// precedes them: is what has changed to be saved?
+// The commands that change which project is open and whether it is saved, and the question before
+// them whether to save the changes.
 #pragma once
 
 #include "shell/main_window.h"

@@ -48,7 +48,7 @@ void ProjectHistory::MergeIntoLastStep(Changed changed)
     states_[current_] = std::move(now);
 }
 
-// Whoever clears the flag has saved the project as it is now.
+// Code that clears the flag has saved the project in its present state.
 void ProjectHistory::NoteSaving()
 {
     if (state_.ProjectIsDirty != kOff || states_[current_].isDirty == kOff)
@@ -79,7 +79,7 @@ std::shared_ptr<const ProjectHistory::RowNumbers> ProjectHistory::LookAtRows()
     RowNumbers numbers;
     numbers.reserve(project_.Files.rows.size());
     Text packed;
-    // Most rows keep their place, or move by a few; only others are looked up.
+    // Most rows keep their place, or move by a few; only the others are looked up.
     auto expected = before.begin();
     for (const FileListRow& row : project_.Files.rows) {
         PackRow(row, packed);
@@ -129,7 +129,7 @@ void ProjectHistory::FitIntoMemory()
 {
     if (Bytes() <= maxBytes_)
         return;
-    // Rows of steps that were undone and then passed over may be all that is too much.
+    // Dropping the rows of steps that can no longer be redone may be enough.
     DropUnusedRows();
     while (Bytes() > maxBytes_ && current_ > 1) {
         // Many at a time: to look for the rows that are still in use takes longer than a step.

@@ -1,11 +1,11 @@
 // What has been done to the open project, step by step, to be undone and done again.
 //
-// Nothing reports to the history what a step did: whoever runs a command compares the project
-// before and after, by `Record`. So a command can't forget to be undoable. A state of the project
-// is its settings as packed bytes and its rows as numbers of a pool that holds each distinct row
-// once; a state shares with the one before it what did not change. With 32,767 rows a state whose
-// rows changed takes 128 KB and the rows that are new. Steps that no longer fit into the memory
-// that is set aside for all are forgotten, the oldest first; the last one always stays.
+// Commands do not report to the history what they did: the caller of a command compares the project
+// before and after, by `Record`. So every command can be undone. A state of the project is its
+// settings as packed bytes and its rows as numbers of a pool that holds each distinct row once; a
+// state shares with the one before it what did not change. With 32,767 rows a state whose rows
+// changed takes 128 KB and the rows that are new. Steps that exceed the memory set aside for all
+// are forgotten, the oldest first; the last one always stays.
 //
 // Each state knows whether the project counted as changed in it. Saving makes the one that is saved
 // the only unchanged one, so going back to it, from either side, shows the project as unchanged.
@@ -28,7 +28,7 @@ public:
     /// Another project is open: what was done to the one before can't be undone any more.
     void Begin();
 
-    // What may have changed. To compare the rows of a long list takes a few milliseconds.
+    // What may have changed. Comparing the rows of a long list takes a few milliseconds.
     enum class Changed { Settings, SettingsAndRows };
 
     /// What has changed since the last call becomes a step of this name; false where nothing has.

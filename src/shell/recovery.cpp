@@ -26,7 +26,7 @@ constexpr const char* kContentKey = "Content";
 constexpr const char* kNoContent = "none";
 constexpr const char* kWholeKey = "Whole";
 constexpr int kMaxValueLength = 5000;
-// More programs than anybody runs.
+// More than the number of programs that run at the same time.
 constexpr int kPlaces = 99;
 
 Text RecoveryFolder(const Session& session)
@@ -68,7 +68,8 @@ void RemoveIfThere(FileSystem& files, const Text& path)
 
 void RemovePlace(FileSystem& files, const Text& place)
 {
-    // The copy first: what is left of a place must not look like a copy without a name.
+    // The copy first: a place whose removal fails half-way must not look like a copy without a
+    // name.
     RemoveIfThere(files, CopyOf(place));
     RemoveIfThere(files, NameFileOf(place));
 }
@@ -89,8 +90,8 @@ void WriteKnownFile(FileSystem& files, const Text& place, const KnownFile& known
     WriteProfileValue(files, NameFileOf(place), kSection, kWholeKey, known.isInProject ? "1" : "0");
 }
 
-/// The project's file as the program knew it that left the copy, so that saving asks where another
-/// one has changed the file since.
+/// The project's file as the program knew it that left the copy, so that saving asks the user if
+/// the file was changed since.
 KnownFile ReadKnownFile(const FileSystem& files, const Text& place, const Text& project)
 {
     ProfileReader reader;
@@ -154,7 +155,7 @@ bool RecoveryCopy::Keep()
 {
     if (!lock_)
         return false;
-    SilentAsk nobody; // a copy is written after whatever is going on
+    SilentAsk nobody; // no question may come up for a copy
     // Writing fills an empty program group, which is the user's to save.
     const Text group = session_.project.ProgramGroup.ProgramGroup;
     const bool isWritten =
@@ -185,7 +186,7 @@ void OfferLeftCopies(Session& session, MainWindow& window, RecoveryCopy& own)
         const Text place = PlaceIn(folder, number);
         if (!files.FileExists(CopyOf(place)))
             continue;
-        // Held while the user thinks, so that no other program offers it, too.
+        // Held while the question is shown, so that no other program offers the copy too.
         const auto lock = LockOf(files, place);
         if (!lock)
             continue;

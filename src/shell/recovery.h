@@ -1,9 +1,9 @@
-// Copies of what is not saved, for the day on which the program ends without asking.
+// Copies of unsaved work, in case the program ends unexpectedly.
 //
 // Each running program has a place of its own in the folder "Recovery" of the tool's data: "1.qnp"
 // with the project, "1.ini" with the name of the file that it belongs to and its digest, and
-// "1.lock", which the system lets go of however the program ends. So a copy whose lock is free was
-// left behind. It is a project file like any other, written as a whole or not at all.
+// "1.lock", which the system releases when the program ends in any way. So a copy whose lock is
+// free was left behind. It is a project file like any other, written as a whole or not at all.
 #pragma once
 
 #include "shell/main_window.h"
@@ -23,7 +23,7 @@ public:
 
     /// Writes the open project as it is in memory, which stays as it is; false where that failed.
     bool Keep();
-    /// The project is saved, or is not to be saved.
+    /// To be called when the project was saved, or is not to be saved.
     void Remove();
 
 private:

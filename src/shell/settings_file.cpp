@@ -53,7 +53,7 @@ private:
             value = reader_.ReadIniBoolean(key);
     }
 
-    // No setting has a number of this size.
+    // Larger than any setting.
     void Read(const Text&, SettingForm, int, Long&) {}
 
     Integer NumberOr(const Text& key, Integer whenUnusable) const
@@ -172,14 +172,14 @@ void WriteDataToIniFile(const Session& session)
     if (path.empty() || !files.DirCreate(ExtractDirectory(path)))
         return;
     try {
-        // Another program of the tool may be about to change its own keys.
+        // Another instance of the tool may be changing its own keys.
         const auto lock = LockSavedFile(files, path, LockWait::UntilFree);
         std::string bytes = files.FileExists(path) ? ReadWholeFile(files, path) : std::string();
         SettingsWriter writer(bytes);
         VisitSettings(writer, session);
         SaveWholeFile(files, path, bytes);
     } catch (const RunError&) {
-        // The next start has the settings of the last one.
+        // A failure is ignored: the next start has the settings of the last one.
     }
 }
 

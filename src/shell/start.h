@@ -8,7 +8,8 @@
 
 namespace quillon {
 
-/// Everything but the project: start values, what the last run left, where projects lie.
+/// Everything but the project: start values, the settings of the last run, the folders for
+/// projects.
 void StartSession(Session& session);
 
 /// The first project, the window as the settings want it, the project that the command line names

@@ -80,7 +80,7 @@ std::vector<Text> LinesOfDiagnosis(const FileSystem& files, const Text& path)
     return lines;
 }
 
-/// The copy's name. One that was opened among the reports is not written over.
+/// The copy's name. A project that was opened from the folder of reports is not overwritten.
 Text AttachedName(const OpenProjectState& state, const Text& ownFolder)
 {
     const Text title = ProjectTitle(state.ProjectFileName);

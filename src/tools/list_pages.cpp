@@ -101,7 +101,7 @@ private:
 
     void PrintRow(const FileListRow& row)
     {
-        // Kept: nothing is cut, so a long destination runs into the size.
+        // Kept: texts are not cut, so a long destination runs into the size.
         for (const PrintedColumn& column : kPrintedColumns)
             Print(column.x, lineY_, 8, false, row[column.column]);
         lineY_ += kRowHeight;

@@ -45,7 +45,7 @@ Text Megabytes(double kilobytes, char decimalSign)
     return FormatNumber(kilobytes / 1024, "0.0", decimalSign);
 }
 
-/// A count that no number can hold is as good as none: the entries themselves end the list then.
+/// A count that no number can hold is ignored: the list then ends at its first empty entry.
 std::size_t EntryCount(const ProfileReader& reader)
 {
     try {

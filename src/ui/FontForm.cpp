@@ -40,7 +40,7 @@ FontForm::FontForm(const FontChoice& current, Ask& ask, QWidget* parent)
 void FontForm::MakeControls(Ask& ask)
 {
     Named(NAMED(ComboFontName), new QFontComboBox);
-    // A font that this machine lacks keeps its name.
+    // The name of a font that this machine lacks is kept.
     ComboFontName->setEditable(true);
     ComboFontName->setEditText(ToQt(Chosen.name));
     Named(NAMED(ComboFontSize), new QComboBox);

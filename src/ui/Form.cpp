@@ -116,8 +116,9 @@ Piece Form::OkCancel()
     Button(NAMED(cmdCancel), "Avbryt", [this] { reject(); });
     cmdOK->setDefault(true);
     cmdOK->setMinimumWidth(cmdCancel->sizeHint().width());
-    // A press by mouse leaves no field: the box of a check would take the release, and the button
-    // stay down. OK leaves the field when it is pressed whole, and Cancel wants no checks.
+    // Pressing the button with the mouse does not take the focus: the box of a field's check would
+    // take the release of the mouse button, and the button would stay down. OK moves the focus out
+    // of the field when it is clicked, and Cancel needs no checks.
     for (QPushButton* button : {cmdOK, cmdCancel})
         button->setFocusPolicy(Qt::TabFocus);
     return HBox({Stretch(), cmdOK, cmdCancel});
@@ -147,8 +148,8 @@ bool Form::event(QEvent* event)
     return isHandled;
 }
 
-// A layout does not ask for the lines that running text has in a narrow form. Before a form is
-// shown it may be narrower than it ever can be, which would open it much too high.
+// A layout does not ask running text for its height at a given width. Before a form is shown it may
+// be narrower than it ever is on the screen, which would open it much too high.
 void Form::KeepTextWhole()
 {
     if (layout() && layout()->hasHeightForWidth())
@@ -158,7 +159,7 @@ void Form::KeepTextWhole()
 
 void Form::PressOk()
 {
-    // A field that is still being typed in is left now, with its checks.
+    // Takes the focus out of a field that is being typed in, so that its checks run.
     if (QWidget* focus = focusWidget(); focus && cmdOK)
         cmdOK->setFocus();
     const auto isTooLong = [](const Limit& limit) {

@@ -62,7 +62,7 @@ protected:
 
     bool event(QEvent* event) override;
 
-    /// Whether OK may close the form; where not, it has shown why.
+    /// Whether OK may close the form; where not, it has shown the reason.
     virtual bool MayClose() { return true; }
     /// After the bound fields on OK: what else is to be stored.
     virtual void Store() {}

@@ -13,14 +13,14 @@ struct Session;
 class LinkLabel : public QLabel {
 public:
     LinkLabel(const Text& text, std::function<void()> open);
-    /// Opens a document or an address in the program that the system has for it; says where that
-    /// can't be done.
+    /// Opens a document or an address in the program that the system has for it; a failure is shown
+    /// in a box.
     LinkLabel(Session& session, const Text& text, const Text& target);
 
     void ShowLink(const Text& text);
 };
 
-/// Opens a document, a folder or an address; reports it where that can't be done.
+/// Opens a document, a folder or an address; a failure is shown in a box.
 void OpenOrTell(Session& session, const Text& target);
 
 } // namespace quillon

@@ -1,5 +1,5 @@
 // One tab of the main window. A page shows a part of the session, writes edits straight back to it,
-// and is notified when to show it anew.
+// and is called when it has to show the session again.
 #pragma once
 
 #include "ui/form_kit.h"

@@ -34,7 +34,7 @@ public:
     std::optional<Long> ChooseColour(Long current) override;
     std::optional<FontChoice> ChooseFont(const FontChoice& current) override;
 
-    // Status lines belong to the form that shows them, which puts itself in between.
+    // Status lines belong to the form that shows them, whose own `Ask` takes them.
     void AddStatusLine(const Text&) override {}
     void ShowProgress(std::uint64_t, std::uint64_t) override {}
     void ShowBusyPointer(bool busy) override;

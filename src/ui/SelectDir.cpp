@@ -189,7 +189,7 @@ QStandardItem* SelectDir::ItemBelow(QStandardItem* item, const Text& name)
     for (int row = 0; row < item->rowCount(); ++row)
         if (EqualIgnoreCase(FromQt(item->child(row)->text()), name))
             return item->child(row);
-    // A hidden folder, or one made since: it exists, so it shows.
+    // A folder that is hidden, or was made since, is shown because it exists.
     auto* made = FolderItem(JoinPath(PathOf(item), name), name, NamedIcon("folder"));
     item->appendRow(made);
     return made;
@@ -218,7 +218,7 @@ void SelectDir::FollowTree()
 Text SelectDir::TypedFolder() const
 {
     const Text typed = TrimBlanks(FromQt(sDirectory->text()));
-    // In its plain form: rows take their sources from it, and compare them as texts.
+    // Normalized, since rows take their sources from it and compare them as texts.
     return ResolvePath(WindowsPathOf(typed, paths_));
 }
 
@@ -259,7 +259,7 @@ bool SelectDir::MayClose()
         return Refuse("Ogiltig katalog", "Katalogen '" + folder + "' är längre än " +
                                              NumberText(kMaxPathBytes) +
                                              " tecken! Välj en annan katalog.");
-    // "C:Data" has no place that is the same for everybody.
+    // "C:Data" depends on the current folder.
     const bool isWhole = folder.size() > 2 && folder[2] == '\\';
     if (isWhole && !RootOf(folder).empty() && files_.DirExists(folder))
         return true;

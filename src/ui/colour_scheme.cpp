@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kMaxWait = 200; // milliseconds
 
-// Without an address the bus would be started for us, which takes its time.
+// Without an address, Qt would start a bus, which takes time.
 bool HasBus()
 {
     return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
@@ -77,7 +77,7 @@ QPalette DarkPalette()
 
 void ApplyColourScheme()
 {
-    // A style of the desktop's own brings its colours along.
+    // A desktop's own style has its own colours.
     const bool isOurs =
         QApplication::style()->objectName().compare("fusion", Qt::CaseInsensitive) == 0;
     if (!isOurs)

@@ -24,7 +24,7 @@ private:
         if (isPuttingIn_ || TypesOn(text))
             return;
         through_.reset();
-        // Whoever deletes his way back over "%PROGRAMFILES\" does not want it once more at "%PR".
+        // While the user deletes "%PROGRAMFILES\" from its end, "%PR" must not be completed again.
         const bool isDeleting = last_.size() > text.size() && last_.startsWith(text);
         const auto completed = CompleteVariablePrefix(FromQt(text), table_);
         if (isDeleting || !completed)

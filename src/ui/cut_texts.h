@@ -1,5 +1,4 @@
-// What a list, a tree or a table has no room for can still be read: a tip shows the text of a cell
-// that is cut, under the mouse.
+// Tool tips for the cells of lists, trees and tables whose text is cut.
 #pragma once
 
 class QCoreApplication;

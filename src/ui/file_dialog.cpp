@@ -42,8 +42,8 @@ bool IsPattern(const QString& typed)
     return typed.contains('*') || typed.contains('?');
 }
 
-/// Qt's own dialog everywhere, since that of a desktop speaks the desktop's language and knows no
-/// drive letters.
+/// Qt's own dialog on every desktop, since that of a desktop speaks the desktop's language and has
+/// no drive letters.
 class FileDialog : public QFileDialog {
 public:
     FileDialog(const FileQuestion& question, const HostPaths& paths, QWidget* parent);
@@ -90,7 +90,7 @@ FileDialog::FileDialog(const FileQuestion& question, const HostPaths& paths, QWi
     name->selectAll();
 }
 
-/// Qt turns the button off for a name that is no file of this machine's. A pattern is none either.
+/// Qt disables the button for a name that is no file of this machine, and for a pattern.
 void FileDialog::AcceptWindowsPaths()
 {
     auto* field = findChild<QLineEdit*>("fileNameEdit");
@@ -105,7 +105,7 @@ void FileDialog::AcceptWindowsPaths()
 
 void FileDialog::OpenFolder(const Text& folder)
 {
-    // Where there is no such folder Qt opens the one that was chosen in last.
+    // Where there is no such folder, Qt opens the last one in which a file was chosen.
     const auto hostFolder = folder.empty() ? std::nullopt : paths_.toHost(folder);
     if (hostFolder && QDir(QString::fromStdString(*hostFolder)).exists())
         setDirectory(QString::fromStdString(*hostFolder));
@@ -132,8 +132,8 @@ void FileDialog::accept()
         QFileDialog::accept();
 }
 
-/// While `"a.txt" "b.txt"` is typed, Qt selects the first of them in the list, and would then take
-/// the selection for the answer.
+/// While `"a.txt" "b.txt"` is typed, Qt selects the first of them in the list, and would then
+/// return that selection.
 void FileDialog::PreferTypedNames()
 {
     auto* field = findChild<QLineEdit*>("fileNameEdit");
@@ -197,7 +197,7 @@ bool FileDialog::TakeTypedWindowsPath()
     return true;
 }
 
-/// Whether a chosen file has a name that no project can hold. It would vanish from the project, or
+/// Whether a chosen file has a name that no project can hold. In the project it would be lost, or
 /// name another file.
 bool FileDialog::RefusesAFile()
 {

@@ -6,7 +6,7 @@ namespace quillon {
 
 namespace {
 
-// What a frame usually takes of the screen's points, since a window gets its own too late.
+// The usual size of a window's frame in points. The frame of a window itself is known too late.
 constexpr QMargins kUsualFrame(4, 40, 4, 4);
 
 QMargins FrameOf(const QWidget& window)
@@ -26,7 +26,7 @@ public:
         setWidgetResizable(true);
         setFrameShape(QFrame::NoFrame);
         setFocusPolicy(Qt::NoFocus);
-        // The keyboard may get into a control by an access letter.
+        // An access letter may move the focus to a control that is out of view.
         connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
             if (now && isAncestorOf(now))
                 BringIntoView(*now);
@@ -49,12 +49,12 @@ public:
 protected:
     bool focusNextPrevChild(bool next) override
     {
-        // Without the scrolling of Qt's own, which pushes captions out of sight.
+        // Not QScrollArea's version, whose scrolling pushes captions out of sight.
         return QAbstractScrollArea::focusNextPrevChild(next);
     }
 
 private:
-    /// Sideways only where nothing of the control could be seen.
+    /// Scrolls sideways only where nothing of the control could be seen.
     void BringIntoView(QWidget& control)
     {
         const int before = horizontalScrollBar()->value();
@@ -108,7 +108,7 @@ void ScrollContents(QWidget& window, const QSize& room)
 {
     QWidget* const focus = window.focusWidget();
     QLayout* const whole = window.layout();
-    // Inside the window from the start, so that the controls keep their order for the Tab key.
+    // Inside the window from the start, so that the Tab order of the controls stays the same.
     auto* area = new ScrollArea(&window);
     auto* contents = new QWidget(area);
     area->Show(contents);

@@ -86,7 +86,7 @@ QGroupBox* Frame(const Text& caption, Pieces pieces)
 {
     auto* frame = new QGroupBox(ToQt(caption));
     frame->setLayout(VBox(pieces).layout);
-    // A lone field in a frame has the frame's caption for a name.
+    // A field without a caption of its own has the frame's caption as its accessible name.
     for (const Piece& piece : pieces)
         if (piece.widget && piece.widget->inherits("QLineEdit") &&
             piece.widget->accessibleName().isEmpty())

@@ -24,14 +24,14 @@ Tones TonesOf(const QPalette& palette, QIcon::Mode mode)
     const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
     switch (mode) {
     case QIcon::Disabled:
-        // Grey, and both tones alike: nothing here is to catch the eye.
+        // Grey, and both tones alike, since the button is disabled.
         return {Mixed(background, text, 0.35), Mixed(background, text, 0.35)};
     case QIcon::Selected: {
         const QColor onSelection = palette.color(QPalette::Active, QPalette::HighlightedText);
         return {onSelection, onSelection};
     }
     default:
-        // A little softer than the text, since lines are heavier than letters.
+        // A little softer than the text, since lines look heavier than letters.
         return {Mixed(text, background, 0.15), AccentColour(palette)};
     }
 }
@@ -77,7 +77,7 @@ QPixmap SvgIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State 
 QPixmap SvgIconEngine::scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State, qreal)
 {
     const Tones tones = TonesOf(QGuiApplication::palette(), mode);
-    // The colours are part of the key, so that nothing stale shows after a change of palette.
+    // The colours are part of the key, so that a change of palette makes new pictures.
     const QString key = QString("quillon/%1/%2x%3/%4/%5")
                             .arg(name_)
                             .arg(size.width())

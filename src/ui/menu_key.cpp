@@ -17,7 +17,7 @@ public:
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() != Qt::Key_F10 || key->modifiers() != Qt::ShiftModifier)
             return false;
-        // The window knows who has the keyboard and where the menu belongs.
+        // The window finds the widget with the focus and the place of the menu.
         QContextMenuEvent menu(QContextMenuEvent::Keyboard, {}, {}, {});
         QCoreApplication::sendEvent(static_cast<QWidget*>(watched)->window()->windowHandle(),
                                     &menu);

@@ -1,5 +1,6 @@
-// Qt's own style outlines fields, boxes and options in a shade of the window, which is hard to tell
-// from a dark one. Here they are drawn in a colour that stands out from what is round it and in it.
+// Qt's own style outlines fields, boxes and options in a shade of the window's colour, which is
+// hard to see on a dark one. This style uses a colour with enough contrast to what is round the
+// outline and inside it.
 #pragma once
 
 #include <QColor>

@@ -15,13 +15,13 @@ namespace quillon {
 
 namespace {
 
-// Beyond these a file is a mistake, or made to bring the program down.
+// A larger file is a mistake, or made to crash the program.
 constexpr std::uint64_t kMaxBytes = 128U << 20;
 constexpr qint64 kMaxPixels = 30'000'000;
 constexpr int kMaxIcons = 64;
 constexpr int kMaxIconSize = 1024;
 
-// What the setup shows too is read by the code that the setup reads it by.
+// Kinds that the setup shows too are read by the same code as in the setup.
 constexpr const char* kFormats[] = {"gif", "ico", "png"};
 
 /// Reads the pictures of one file, whose bytes it holds.

@@ -1,5 +1,5 @@
-// Pictures that users choose, read through the machine's files. They come from anywhere: a file
-// that is damaged, huge or no picture at all is simply no picture.
+// Pictures that users choose, read through the machine's files. A file that is damaged, huge or no
+// picture at all is treated as no picture.
 #pragma once
 
 #include "platform/file_system.h"

@@ -55,8 +55,8 @@ private:
         }
     }
 
-    /// The time that Qt takes for a block grows with its square. What nobody writes as one
-    /// paragraph goes on in another.
+    /// Qt's time for a block grows with the square of its length, so longer paragraphs than any
+    /// writer makes are cut into several.
     void KeepBlockShort(const RtfParagraph& paragraph, const QString& piece)
     {
         lettersOfBlock_ += piece.size();

@@ -1,5 +1,5 @@
 // Formatted text on white paper, as an agreement is printed: whatever colours the desktop has, a
-// writer chose the inks for white. To be read only.
+// writer chose the colours of the text for white paper. To be read only.
 #pragma once
 
 #include "platform/file_system.h"
@@ -13,14 +13,14 @@ class RtfView : public QTextEdit {
 public:
     explicit RtfView(const Text& accessibleName);
 
-    /// Shows the file, or says in its place why it can't be shown. A file that ends too early is
-    /// shown with a word about it above.
+    /// Shows the file, or says in its place why it can't be shown. Above a file that ends too early
+    /// a line says so.
     void ShowFile(const FileSystem& files, const Text& path);
 
     void ShowText(const RtfText& text);
     void ShowNote(const Text& note);
 
-    /// What was said about the file; empty where it is shown whole.
+    /// The note about the file; empty where it is shown whole.
     const QString& ShownNote() const { return note_; }
 
     QSize sizeHint() const override;

@@ -1,5 +1,5 @@
 // The table behind SwedishTexts: Qt's own context and English source, and the Swedish text. A text
-// of Qt that is not here shows in English, so a new kind of window brings its rows along.
+// of Qt that is not here is shown in English, so new kinds of windows need new rows.
 #pragma once
 
 namespace quillon {

@@ -52,7 +52,7 @@ void TellTooLong(QWidget* field, int maxLength)
     QApplication::beep();
 }
 
-// The text that was put into an area by the change that its watcher is notified of.
+// The text that the last change has put into an area, for an object that is called at each change.
 class AddedText {
 public:
     explicit AddedText(QPlainTextEdit* area) : area_(area)
@@ -64,7 +64,7 @@ public:
                          });
     }
 
-    /// Has it selected; nothing is where nothing was added since the last call.
+    /// A cursor that selects it; without a selection where nothing was added since the last call.
     QTextCursor Take()
     {
         const int end =
@@ -83,9 +83,9 @@ private:
     int added_ = 0;
 };
 
-// Takes back out of an area what was just put in and cannot stay. What stood there before is never
-// cut, not even where a project came with more than may be typed; and of a piece that is too long
-// nothing is taken, since half of it might go unnoticed.
+// Removes from an area what was just put in and is not allowed. The text before it is never cut,
+// not even where a project has more than may be typed; and of a piece that is too long nothing is
+// kept, since the loss of a part might go unnoticed.
 class AreaLimit : public QObject {
 public:
     AreaLimit(QPlainTextEdit* area, int maxLength)
@@ -158,7 +158,7 @@ public:
     {
         connect(field, &QLineEdit::inputRejected, this, [this] { TellOfRoom(); });
         connect(field, &QLineEdit::textEdited, this, [this](const QString& text) { Undo(text); });
-        // What the signal says may have been taken back already.
+        // The text in the signal may have been removed already.
         connect(field, &QLineEdit::textChanged, this, [this] { before_ = field_->text(); });
     }
 
@@ -207,7 +207,7 @@ public:
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
             return false;
-        // A key that is ignored goes on to the form; with Ctrl or Shift it ends here.
+        // An ignored key event goes on to the form, but not with Ctrl or Shift.
         const bool isPlain = !(key->modifiers() & ~Qt::KeypadModifier);
         event->setAccepted(!isPlain);
         return true;
@@ -235,12 +235,12 @@ public:
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        // A window that is closed or destroyed takes the focus too; its fields are not read any
-        // more. A field on a tab that is hidden by another one is.
+        // A window that is closed or destroyed takes the focus too, but its fields are not read any
+        // more. A field on a tab that another tab hides is still read.
         const bool isShown = static_cast<QWidget*>(parent())->window()->isVisible();
         if (event->type() == QEvent::FocusOut && isShown && !isLeaving_) {
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-            // A menu or another window on top is no leaving.
+            // A menu or another window on top does not count.
             if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) {
                 // A box that `leave` shows takes the focus once more.
                 isLeaving_ = true;
@@ -260,7 +260,7 @@ private:
 
 void LimitTyping(QLineEdit* field, int maxLength)
 {
-    // Setting it cuts what a project may have come with.
+    // Setting the limit cuts the text of a project that is longer.
     if (maxLength > 0)
         field->setMaxLength(std::max(maxLength, static_cast<int>(field->text().size())));
     new LineLimit(field);

@@ -25,8 +25,8 @@ bool WarnIfTooLong(QWidget* field, int maxLength);
 /// Enter presses the form's default button, and breaks that are pasted become blanks.
 void KeepOneLine(QPlainTextEdit* area);
 
-/// What is in the area, blank for blank: Qt's own plain text makes usual blanks of those that
-/// do not break.
+/// The text of the area with its blanks: Qt's own plain text replaces non-breaking blanks by usual
+/// ones.
 QString TypedText(const QPlainTextEdit* area);
 
 /// Runs `leave` whenever the keyboard leaves the widget for another one of its window.

@@ -31,8 +31,8 @@ DlgInstallOptions::DlgInstallOptions(Session& session, QWidget* parent)
     XTab->addTab(internetTab_ = InternetTab(), "Internet");
     XTab->addTab(SignTab(), "Signering");
     Arrange(VBox({Growing(XTab), OkCancel()}));
-    // As with OK, a press by mouse must not make the file name be left, whose box would take the
-    // release.
+    // As with OK, pressing one of these with the mouse must not move the focus out of the file
+    // name's field: the box of its check would take the release of the mouse button.
     for (QPushButton* button : {cmdBrowseIcon, CmdInternetAdvanced})
         button->setFocusPolicy(Qt::TabFocus);
     GatherSigning();
@@ -257,7 +257,7 @@ void DlgInstallOptions::LeaveSelfExtractFilename()
         return;
     isReturning_ = true;
     tSelfExtractFilename->setFocus();
-    // Another tab that was pressed comes up only now.
+    // Later, since the tab that was clicked is shown only after this event.
     QTimer::singleShot(0, this, [this] { ReturnToSelfExtractFilename(); });
 }
 

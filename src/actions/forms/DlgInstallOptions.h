@@ -77,7 +77,7 @@ private:
     std::array<QCheckBox*, kTargetSystems.size()> systems_{}; // in the order of kTargetSystems
     std::vector<QWidget*> signing_;                           // what only a signature needs
     QWidget* internetTab_ = nullptr;
-    // On the way back to a file name that was refused when its field was left.
+    // Set while the focus goes back to a file name that was refused when its field was left.
     bool isReturning_ = false;
 };
 

@@ -21,7 +21,7 @@ protected:
     void Store() override;
 
 private:
-    /// Lists the files anew, this one selected; none where it is not among them.
+    /// Lists the files again, with this one selected; none where it is not among them.
     void ShowFiles(const Text& selected);
     LanguageFolders Folders() const;
     Text SelectedFile() const;

@@ -1,5 +1,5 @@
-// The test for the .NET Framework on its own, for whoever has just brought in a project that needs
-// it.
+// The test for the .NET Framework in a dialog of its own, shown after the import of a project that
+// needs it.
 #pragma once
 
 #include "actions/forms/NetFrameworkForm.h"

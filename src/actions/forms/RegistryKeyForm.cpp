@@ -12,8 +12,8 @@ namespace {
 
 constexpr int kKeyCharacters = 60;
 
-// A field that is reached by keys selects its text, and the first letter would replace a preset
-// that is there to be gone on with.
+// A field that gets the focus by the keyboard selects its text, and the first letter typed would
+// replace the preset, which is meant to be continued.
 class SubKeyField : public QLineEdit {
 protected:
     void focusInEvent(QFocusEvent* event) override

@@ -29,7 +29,8 @@ QLabel* UnsavableLineNote(QLabel*& member, const char* name, QPlainTextEdit* are
     const auto line = UnsavableLineIn(area, list);
     QLabel* note = Named(member, name, Note({}));
     note->setText(WarningOf(line));
-    // One that is to be seen comes up with its form; shown now, it would be a window of its own.
+    // A note that has to be visible is shown with its form; shown now, it would become a window of
+    // its own.
     if (!line)
         note->hide();
     QObject::connect(area, &QPlainTextEdit::textChanged, note, [note, area, list] {

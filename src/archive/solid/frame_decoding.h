@@ -1,6 +1,6 @@
 // What unpacking a frame of Zstandard needs, as functions that are handed in: the setup takes them
-// from the library that travels with a package of that kind, everybody else from the one that is
-// linked. Plain C, since the library has nothing of the C++ library.
+// from the library that travels with a package of that kind, all other programs from the library
+// that they are linked with. Plain C, since the library uses nothing of the C++ library.
 #pragma once
 
 #include <cstddef>

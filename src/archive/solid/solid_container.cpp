@@ -153,7 +153,7 @@ void SolidContainer::State::Read(std::span<std::byte> bytes)
             OpenFrame(frame);
         const auto count = static_cast<std::size_t>(
             std::min<std::uint64_t>(bytes.size(), EndOf(frame) - position));
-        // A frame that turns out to be damaged is not gone on with.
+        // A frame that turns out to be damaged is not read any further.
         open.reset();
         frames.Read(bytes.first(count));
         position += count;

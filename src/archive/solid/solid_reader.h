@@ -1,6 +1,6 @@
 // Reads a solid payload: many files packed as one stream, alone or at the end of a program, signed
-// or not. The whole file is hashed before anything of it is believed, and what it says is checked
-// nevertheless, since whoever made the file made the hash too.
+// or not. The whole file is hashed before any of it is used, and its contents are checked
+// nevertheless, since an attacker can make the hash fit.
 #pragma once
 
 #include "archive/solid/solid_table.h"
@@ -20,7 +20,7 @@ public:
     virtual void End() = 0;
 
 protected:
-    ~SolidSink() = default; // nobody owns one by this class
+    ~SolidSink() = default; // never deleted through this class
 };
 
 class SolidReader {

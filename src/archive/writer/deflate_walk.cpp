@@ -262,10 +262,10 @@ private:
     void WalkSymbols()
     {
         for (;;) {
-            reader_.Refill(); // holds a match with all that belongs to it: 48 bits
+            reader_.Refill(); // enough bits for a match with its distance: 48
             Codes::Entry entry = lengths_.Next(reader_.Bits());
             reader_.Drop(entry.bits);
-            if (entry.symbol < kEndOfBlock) { // most often more letters follow
+            if (entry.symbol < kEndOfBlock) { // most often another literal follows
                 entry = lengths_.Next(reader_.Bits());
                 reader_.Drop(entry.bits);
             }

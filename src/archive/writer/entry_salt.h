@@ -10,11 +10,11 @@
 
 namespace quillon {
 
-// What matters about a salt is that no two different data ever share one under the same password:
-// they would share a key stream, and whoever has both could tell one from the other. So it is an
-// HMAC over what is encrypted itself. Its key comes from the password by many rounds, more than
-// those of the format; so a salt, which anybody can read, helps nobody to try passwords faster. All
-// that it reveals is that two entries are the same in name and content.
+// No two different data may share a salt under the same password: they would share a key stream,
+// and the difference of the two could be computed. So the salt is an HMAC over the data itself. Its
+// key comes from the password by more rounds than those of the format; so the salt, which is stored
+// in plain, does not make guessing passwords faster. All that it reveals is that two entries are
+// the same in name and content.
 class SaltMaker {
 public:
     explicit SaltMaker(const Text& password);

@@ -19,8 +19,8 @@ struct FileContent {
     LocalTime modified;
 };
 
-/// One for each path, in their order. A file that can't be read is like no other; who packs it will
-/// tell why. `processEvents` is called often.
+/// One for each path, in their order. A file that can't be read is like no other; the packing
+/// reports why. `processEvents` is called often.
 std::vector<FileContent> FindEqualFiles(const FileSystem& files, const std::vector<Text>& paths,
                                         const std::function<void()>& processEvents);
 

@@ -18,15 +18,15 @@
 
 namespace quillon {
 
-/// How many threads to start: `wanted`, or as many as the machine has where that is 0, at least one
-/// and at max `max`.
+/// How many threads to start: `wanted`, or as many as the machine has where that is 0; at least one
+/// and at most `max`.
 inline unsigned ThreadCount(unsigned wanted, unsigned max)
 {
     return std::clamp(wanted > 0 ? wanted : std::thread::hardware_concurrency(), 1U, max);
 }
 
-/// `Worker` is made once for each thread, by copying nothing: `make()` runs in the thread itself.
-/// It is called with a `Job&` and answers a `Result`. What it throws comes out of `Next`.
+/// `Worker` is made by `make()` in each thread, without copying. It is called with a `Job&` and
+/// returns a `Result`. What it throws is thrown by `Next`.
 template <class Job, class Result>
 class OrderedWorkers {
 public:
@@ -36,7 +36,7 @@ public:
         for (unsigned i = 0; i < threads; ++i)
             threads_.emplace_back([this, make] { Run(make); });
     }
-    /// Jobs that nobody has begun are dropped.
+    /// Jobs that were not begun are dropped.
     ~OrderedWorkers()
     {
         {
@@ -111,7 +111,7 @@ private:
             try {
                 slot->result.emplace(worker(slot->job));
             } catch (...) {
-                // Whatever it is, the thread that asks for the result throws it on.
+                // Any exception is stored and thrown again in the thread that asks for the result.
                 slot->failure = std::current_exception();
             }
             const std::lock_guard lock(mutex_);

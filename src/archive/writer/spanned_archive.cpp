@@ -53,7 +53,7 @@ private:
         } while (EqualIgnoreCase(PiecePath(), pieceBefore) && IsPreviousDisk());
     }
 
-    // A disk that nobody changed would lose the piece that was just written to it.
+    // Where the disk was not changed, writing would replace the piece that was just written to it.
     bool IsPreviousDisk() const
     {
         if (!files_.FileExists(PiecePath()))
@@ -63,7 +63,7 @@ private:
                files_.OpenInput(PiecePath())->Read(begin) == begin.size() && begin == pieceBegin_;
     }
 
-    // An older piece of that name makes way for the new one, so its room counts.
+    // An older piece of that name is replaced, so its size counts as free.
     std::uint64_t FreeSpace() const
     {
         const Text path = PiecePath();

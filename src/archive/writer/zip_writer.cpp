@@ -192,7 +192,7 @@ bool ZipWriting::Share(std::size_t first, std::size_t repeat)
     return true;
 }
 
-// The CRC shows which are worth a second look; the bytes decide.
+// The CRC shows which files to compare; only equal bytes decide.
 bool ZipWriting::RepeatsWritten(const Pending& pending, const PackedBlock& packed)
 {
     if (!watch_.onEqual || !pending.block.IsWhole())
@@ -343,7 +343,7 @@ void ZipWriting::BeginEncryption(const Pending& pending, const PackedBlock& pack
 void ZipWriting::EndEncryption(const Pending& pending)
 {
     EncryptionState& encryption = encryptions_.front();
-    // The salt was made for another content than what was encrypted under it.
+    // The file has changed since its first reading, which the salt was made from.
     if (encryption.crc != entry_.crc)
         throw CompressionFailure(CompressionResult::kSourceChanged, *pending.block.path);
     output_.Write(encryption.cipher->Finish());

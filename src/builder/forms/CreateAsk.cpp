@@ -6,7 +6,7 @@ namespace quillon {
 
 namespace {
 
-// Often enough for the eye, seldom enough to cost nothing beside the packing.
+// Often enough for a smooth display, seldom enough not to slow the packing down.
 constexpr qint64 kMillisecondsBetweenEvents = 30;
 
 } // namespace

@@ -41,16 +41,16 @@ public:
     void Beep() override { user_.Beep(); }
     void ProcessEvents() override;
 
-    /// Shows the lines that still wait.
+    /// Shows the lines that are still held back.
     void Flush();
 
 private:
-    /// The real user, who sees every line before a box comes up.
+    /// The real user; all lines are shown before a box comes up.
     Ask& User();
 
     Ask& user_;
     Shown shown_;
-    // A list of many thousand files would spend its time on painting each line by itself.
+    // With many thousand files, painting each line at once would take most of the time.
     std::vector<Text> waiting_;
     QElapsedTimer since_;
 };

@@ -168,7 +168,7 @@ bool DlgCreate::eventFilter(QObject* watched, QEvent* event)
     const bool isMouseOver = event->type() == QEvent::MouseMove || event->type() == QEvent::Leave;
     if (isMouseOver && (watched == this || watched == FrameType))
         Highlight(nullptr);
-    // The main window outlives the run that works for it.
+    // The main window must not be closed during a run.
     if (event->type() == QEvent::Close && watched != this && isRunning_) {
         event->ignore();
         return true;
@@ -176,7 +176,7 @@ bool DlgCreate::eventFilter(QObject* watched, QEvent* event)
     return Form::eventFilter(watched, event);
 }
 
-// Brings the controls in line with the form's state; they answer with no changes of their own.
+// Brings the controls in line with the form's state; their own reactions are off meanwhile.
 void DlgCreate::ShowState()
 {
     isShowingState_ = true;

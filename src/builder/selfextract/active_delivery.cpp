@@ -18,7 +18,7 @@ namespace Attribute = SelfExtractAttribute;
 
 namespace {
 
-// What the program itself has to know. Paths of the machine that made it stay there.
+// The attributes that the program itself needs. Paths of this machine are left out.
 constexpr std::uint32_t kCarried[] = {Attribute::kUnpackPlace,    Attribute::kUnpackFolder,
                                       Attribute::kProgram,        Attribute::kShowsMessage,
                                       Attribute::kMessageTitle,   Attribute::kMessageText,

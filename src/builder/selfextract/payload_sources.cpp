@@ -95,7 +95,7 @@ bool IsContainer(const Text& name)
     return EqualIgnoreCase(name, kFileContainerName) || EqualIgnoreCase(name, kDesignContainerName);
 }
 
-// Its time is that of the run, and the same input shall give the same bytes.
+// Its time would be that of the run, but the same input has to give the same bytes.
 bool IsWrittenByCreate(const Text& name)
 {
     for (const char* made : {kFileListName, kSetupInformationName, kFileContainerName,

@@ -274,7 +274,7 @@ bool BuildSelfExtractingFile(CreateRun& run)
         return TellFailure(run, number);
     }
     if (SignProgram(run, input.result, name) == Step::Stop) {
-        // Nobody shall take it for the signed one.
+        // A program without its signature must not be taken for the signed one.
         RemoveQuietly(run.host.files, input.result);
         return false;
     }

@@ -20,10 +20,10 @@ constexpr std::uint64_t kSlowDisk = 10'000'000; // bytes a second
 constexpr std::string_view kStampFailed = "timestamping failed";
 
 struct KnownFault {
-    std::string_view output; // a part of what the signing program says
+    std::string_view output; // of the signing program's output, in a message
     const char* text;
 };
-// The first that occurs counts.
+// The first text that is found counts.
 constexpr KnownFault kKnownFaults[] = {
     {"Login to token failed", "PIN-koden stämmer inte, eller så är nyckelenheten låst."},
     {"Wrong password", "Lösenordet till nyckeln stämmer inte, eller så är nyckelfilen skadad."},
@@ -86,7 +86,7 @@ Text CodeSigner::Sign(const Text& source, const Text& signedFile, const OnWait& 
     for (const TimeStampServer& server : servers) {
         Text fault = Try(source, signedFile, &server, onWait);
         if (fault.find(kStampFailed) == Text::npos) {
-            // The further files begin with the kind that this service knows.
+            // The next files begin with this service and kind of stamp, which has worked.
             if (fault.empty())
                 order_.servers = {server};
             return fault;
@@ -129,8 +129,8 @@ Text CodeSigner::Try(const Text& source, const Text& signedFile, const TimeStamp
     return fault;
 }
 
-// The program's own word is not enough: what goes to the users is read again. A root that this
-// machine does not know is no fault, since a company may have its own.
+// The exit code of the signing program is not enough: the signed file is read and checked. An
+// unknown root is no fault, since a company may have its own.
 Text CodeSigner::FaultOfSignature(const Text& signedFile)
 {
     const ProgramSignature signature = ReadProgramSignature(*files_.OpenInput(signedFile));

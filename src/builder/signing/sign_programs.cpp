@@ -18,7 +18,7 @@ void Refuse(CreateRun& run, const Text& what, const Text& reason)
     run.signingFailure = what.empty() ? reason : "'" + what + "' kan ej signeras: " + reason;
 }
 
-// A failure of the machine has words for who has to mend it, and the program may be missing.
+// Failures of the machine as a text for the user, also where the signing program is missing.
 template <class Work>
 Text FaultOf(Work work)
 {

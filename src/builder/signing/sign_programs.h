@@ -10,7 +10,8 @@ namespace quillon {
 
 class CodeSigner;
 
-/// Asks for a text that nobody may read along. Nothing where the user cancels or nobody is there.
+/// Asks for a text that is not shown while it is typed. Nothing where the user cancels, or where
+/// there is no user.
 using PasswordQuestion = std::function<std::optional<Text>(const Text& title, const Text& prompt)>;
 
 /// What a caller of Create hands in, so that its run can sign. It belongs to one run.

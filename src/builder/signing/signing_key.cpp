@@ -103,7 +103,7 @@ bool IsLockedPvk(std::string_view bytes)
 
 SigningKey KeyFor(const section::Sign& sign, const SigningChoices& choices)
 {
-    // A named certificate comes with its own key, or has it in itself.
+    // A named certificate has its own key, or contains it.
     const bool namesCertificate = !choices.certificate.empty();
     SigningKey key;
     key.certificate = namesCertificate ? choices.certificate : sign.SignSPCFilename;

@@ -18,8 +18,8 @@ protected:
     /// What an entry becomes when its field is left.
     using EntryCheck = std::function<Text(const Text& entry)>;
 
-    /// When a number is checked beside on leaving its field: where the user changed it only, so
-    /// that one from elsewhere stays as it is, or on each OK.
+    /// Whether a number is checked only when the user has changed it, so that one from elsewhere
+    /// stays as it is, or also on each OK.
     enum class OnOk { ChecksWhatIsChanged, ChecksAlways };
     /// A field for a number of a record.
     QLineEdit* NumberField(QLineEdit*& member, const char* name, Integer& value, EntryCheck check,

@@ -14,7 +14,7 @@ class DesignObject : public QWidget {
 public:
     DesignObject(const char* name, const Text& accessibleName, QWidget* parent);
 
-    /// What the surrounding window knows and is notified of.
+    /// What an object asks its window for, and what it calls there.
     struct Surround {
         std::function<SurfacePlace()> surface;
         ScreenMetrics screen;

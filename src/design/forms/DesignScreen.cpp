@@ -180,7 +180,7 @@ void DesignScreen::DrawDesPictures()
 {
     session_.ask.ShowBusyPointer(true);
     std::optional<PictureError> failure = LayOutDesPictures();
-    // What stayed behind it may have taken its room.
+    // Pictures that were kept from before may take the memory that this one needs.
     if (failure && failure->Fault() == PictureFault::TooLarge) {
         ForgetPictures();
         failure = LayOutDesPictures();
@@ -205,7 +205,7 @@ void DesignScreen::ShowPictures()
 void DesignScreen::MovePicture(std::size_t index, const SurfacePlace& place)
 {
     boxes_[index].place = place;
-    // Also where the last pass did not come as far as this picture.
+    // Also where the last reading ended before this picture.
     boxes_[index].isUnread = false;
     KeepPicturesInsideDesign(session_.project.DesPictures, boxes_, place_, session_.surface.screen);
     ShowPictures();
@@ -275,7 +275,7 @@ void DesignScreen::DrawDesTextBox()
     ShowObject(object, layout.box, layout.isVisible);
 }
 
-// Kept: here the box is always filled; whether the setup fills it is the record's matter.
+// Kept: here the box is always filled, whatever the record says for the setup.
 void DesignScreen::PaintLabels(QImage& image, double scale)
 {
     PaintTextPanel(CanvasOf(image), letters_, RectAt(0, 0, image.width(), image.height()),

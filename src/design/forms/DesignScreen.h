@@ -26,9 +26,9 @@ public:
 
     Session& GetSession() { return session_; }
 
-    // Each lays one object out anew. What the layout corrects is kept in the record. A picture that
-    // can't be shown is reported once, and its name stays in the record; as long as it is missing,
-    // the status bar says why.
+    // Each lays one object out again. What the layout corrects is kept in the record. A picture
+    // that can't be shown is reported once, and its name stays in the record; as long as it is
+    // missing, the status bar says why.
     void DrawDesBackground();
     void DrawDesTitle();
     void DrawDesPictures();
@@ -40,7 +40,7 @@ public:
     void HideDesObjects();
 
     enum class PictureStep { Background, Pictures, Logotype };
-    /// The next time that step reports again what it can't show: the user has set it anew.
+    /// The user has set the picture of that step again, so a failure is reported again.
     void ReportAgain(PictureStep step) { reported_.erase(step); }
     /// The project is another one, or was read again: nothing of what was shown stays, and all
     /// steps report again.

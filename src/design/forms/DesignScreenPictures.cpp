@@ -41,7 +41,7 @@ void DesignScreen::ForgetPictures()
 std::optional<PictureError> DesignScreen::LayOutDesPictures()
 {
     section::DesPictures& record = session_.project.DesPictures;
-    // A slot keeps its picture until it is read anew: it stays behind one that can't be read.
+    // A slot keeps its picture until it is read again, also while an earlier picture can't be read.
     for (std::size_t i = 0; i < boxes_.size(); ++i)
         if (boxes_[i].file != record.Pictures[i].PictureFilename)
             pictures_[i] = {};
@@ -117,8 +117,8 @@ bool DesignScreen::IsUnreported(PictureStep step, const Text& file)
 
 void DesignScreen::TellPictureError(PictureStep step, const PictureError& error)
 {
-    // A box tells of a file that is no picture; one that is missing or can't be read may turn out
-    // to be none later.
+    // A file that is no picture is reported once in a box, and again after it was missing or could
+    // not be read in between.
     if (error.Number() != kInvalidPicture)
         reported_.erase(step);
     else if (IsUnreported(step, error.Path()))
@@ -143,7 +143,7 @@ void DesignScreen::TellTooLargeLogotype()
 
 void DesignScreen::ShowWhyMissing(PictureStep step, const Text& why)
 {
-    // What others say in the status bar stays there.
+    // A text that something else has put into the status bar stays.
     if (why.empty() && !whyMissing_.contains(step))
         return;
     if (why.empty())

@@ -28,7 +28,7 @@ QPushButton* Toggle(QPushButton* button)
     button->setCheckable(true);
     // The selection keeps the keyboard.
     button->setFocusPolicy(Qt::TabFocus);
-    // Dark styles hardly show that a button is down.
+    // Dark styles hardly show that a button is pressed.
     QObject::connect(button, &QPushButton::toggled, button, [button](bool isOn) {
         QPalette palette;
         if (isOn) {
@@ -41,8 +41,8 @@ QPushButton* Toggle(QPushButton* button)
     return button;
 }
 
-/// Takes of what is pasted or dropped no more than the file can hold, so that nothing seems to be
-/// there that a save would lose: no pictures, and tables as text.
+/// Takes of what is pasted or dropped only what the file can hold, so that nothing shows that a
+/// save would lose: no pictures, and tables as text.
 class RtfEdit : public QTextEdit {
 protected:
     bool canInsertFromMimeData(const QMimeData* source) const override
@@ -183,8 +183,8 @@ void DlgDesRTFbox::ChooseRTFfont()
 {
     const QTextCharFormat now = RTFbox->currentCharFormat();
     const QFont font = RTFbox->currentFont();
-    // The chooser knows whole points; half a point of the text stays as long as nobody chooses
-    // another size.
+    // The dialog has whole points only; a text with half a point keeps it unless another size is
+    // chosen.
     const auto points =
         static_cast<Integer>(font.pointSizeF() > 0 ? font.pointSizeF() : kUsualPoints);
     const QColor colour =
@@ -244,7 +244,7 @@ bool DlgDesRTFbox::MayClose()
     return CheckRTFfilename(FromQt(tRTFfilename->text()), session_.ask) && SaveText();
 }
 
-// Before the record is stored, so that a text that can't be saved stays in the editor.
+// Before the record is stored: where the text can't be saved, the editor stays open with it.
 bool DlgDesRTFbox::SaveText()
 {
     const Text name = StoredRTFfilename(FromQt(tRTFfilename->text()));

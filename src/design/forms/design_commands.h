@@ -1,4 +1,4 @@
-// The commands of the menu "Objekt": each opens the editor of an object and lays out anew what its
+// The commands of the menu "Objekt": each opens the editor of an object and lays out again what its
 // OK changes.
 #pragma once
 

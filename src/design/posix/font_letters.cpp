@@ -22,7 +22,7 @@ namespace quillon {
 
 namespace {
 
-// A design has a handful; a hostile text box could name thousands.
+// A design uses a handful of fonts; a hostile text box could name thousands.
 constexpr std::size_t kMaxOpenFaces = 64;
 constexpr FT_Int32 kLoadFlags = FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_LIGHT;
 // How much thicker an outline becomes to simulate a missing bold one, as a part of its size.

@@ -111,7 +111,8 @@ std::optional<std::size_t> FileAdding::AddOrRefuse(const FileToAdd& file)
         filled[ComponentNumber] = file.ComponentNr;
         filled[Extension] = ExtensionFromFirstDot(file.FileName);
         filled[Source] = stored;
-        // Kept: a font goes to the font folder whatever the user chose, who may move it then.
+        // Kept: a font goes to the font folder whatever destination the user chose; he can change
+        // it then.
         if (!file.KeepsFontHere && EqualIgnoreCase(filled[Extension], "ttf"))
             filled[Destination] = "%FONTDIR";
     });

@@ -33,8 +33,8 @@ struct FileToAdd {
     bool PassOverUnreadable = false; // without a box
 };
 
-/// One command's additions to a file list. While it lives, new rows are at the end of the list
-/// and nobody else may sort or shorten it; `Finish`, or its end, brings a sorted list into order
+/// One command's additions to a file list. While this object lives, new rows are at the end of the
+/// list, and no other code may sort or shorten it; `Finish` or the destructor sorts a sorted list
 /// again. So a command that adds thousands of rows sorts once.
 class FileAdding {
 public:

@@ -38,8 +38,8 @@ bool LieInOneFolder(const std::vector<Text>& paths)
         paths, [&](const Text& path) { return EqualIgnoreCase(ExtractDirectory(path), folder); });
 }
 
-// With several files a duplicate is left out without a word. An empty list is not searched: the
-// files of a folder have names of their own. Those of several folders may not.
+// With several files a duplicate is left out silently. An empty list is not searched, since the
+// files of a folder have names of their own; those of several folders may not.
 void AddManyFiles(FileAdding& adding, const std::vector<Text>& paths, const AddTarget& target,
                   bool listHadRows)
 {

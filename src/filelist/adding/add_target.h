@@ -34,7 +34,7 @@ void RefuseFilesInRoot(Ask& ask);
 /// Runs `add`; false, with a box, when it failed. The rows made so far stay.
 bool RunAdding(const ListWork& work, const std::function<void()>& add);
 
-/// What a command that added rows does last: the project counts as changed if there are more rows
+/// The last step of a command that added rows: the project counts as changed if there are more rows
 /// than `rowsBefore`.
 void NoteAddedRows(const ListWork& work, std::size_t rowsBefore);
 

@@ -33,7 +33,8 @@ public:
 private:
     bool HasRows() const { return !work_.project.Files.rows.empty(); }
     bool IsAlone() const { return paths_.size() == 1; }
-    // Files and folders from different places may have one name, whatever the list holds.
+    // Files and folders from different places may have the same name, also where the list was
+    // empty.
     bool Searches() const { return !IsAlone() || listHadRows_; }
 
     bool Added(const Text& path)

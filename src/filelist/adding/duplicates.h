@@ -29,9 +29,9 @@ namespace quillon {
 /// True if any row has this name, ignoring case.
 bool IsFilenameInFileList(const FileList& list, std::string_view fileName);
 
-/// Answers the duplicate test while rows are appended to a list. Whoever appends a row calls
-/// `NoteNewRow` when its name, source and destination are set, and leaves these alone until the
-/// index is gone.
+/// Answers the duplicate test while rows are appended to a list. The code that appends a row calls
+/// `NoteNewRow` when its name, source and destination are set, and does not change these while the
+/// index exists.
 class DuplicateIndex {
 public:
     explicit DuplicateIndex(const FileList& list);

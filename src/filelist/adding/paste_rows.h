@@ -8,9 +8,9 @@
 
 namespace quillon {
 
-/// Adds the rows whole. Duplicates are left out, without a word where there are several rows; the
-/// first row that the list can't hold ends the command with a box, and the rows before it stay.
-/// What comes back is the numbers of the new rows, ascending.
+/// Adds the rows whole. Duplicates are left out, silently where there are several rows; the first
+/// row that the list can't hold ends the command with a box, and the rows before it stay. Returns
+/// the numbers of the new rows, ascending.
 std::vector<std::size_t> PasteRows(const ListWork& work, std::span<const FileListRow> rows);
 
 } // namespace quillon

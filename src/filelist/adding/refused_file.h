@@ -1,5 +1,5 @@
 // What keeps a file on disk from becoming a row: a project, the end user's Windows or the package
-// could not hold it, and would lose it or another file without a word.
+// could not hold it, and would silently lose it or another file.
 #pragma once
 
 #include "platform/file_system.h"

@@ -12,9 +12,9 @@ namespace quillon {
 /// A part of the browser, which only the browser's own setup may bring.
 bool IsNeverAdded(std::string_view fileName);
 
-/// Adds the file as `FileAdding` does, unless it is one to be left out, which happens without a
-/// word. On Windows XP the guarded system files come from the folder of files for redistribution,
-/// and are left out where the machine has none.
+/// Adds the file as `FileAdding` does, unless it is one to be left out, which happens silently. On
+/// Windows XP the guarded system files come from the folder of files for redistribution, and are
+/// left out where the machine has none.
 std::optional<std::size_t> AddFileToFileListView_UseFilter(FileAdding& adding,
                                                            const Machine& machine, FileToAdd file);
 

@@ -24,7 +24,7 @@ DlgChCompNr::DlgChCompNr(const Text& number, Session& session, QWidget* parent)
     tInputData->selectAll();
 }
 
-// Kept: a number that is no component in use goes without a word.
+// Kept: a number that is no component in use is removed silently.
 void DlgChCompNr::LeaveInputData()
 {
     tInputData->setText(ToQt(UsableComponentNumber(FromQt(tInputData->text()), session_.project,

@@ -18,7 +18,7 @@ protected:
 
     /// The last rows of both dialogs: whether there is an icon, where else, OK and Cancel.
     Piece Ending();
-    /// Whoever types here wants an icon.
+    /// Typing into this field ticks the box for an icon.
     void TickAddIconOnTyping(QLineEdit* field);
     /// False, with a box and the caret in the field, where its text can't be in a row.
     bool CanStore(QLineEdit* field);

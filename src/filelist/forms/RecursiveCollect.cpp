@@ -13,7 +13,7 @@ namespace quillon {
 
 namespace {
 
-// A folder of many files must not hold the count still.
+// Also within a folder, so that one with many files does not stop the count.
 constexpr int kFilesBetweenLooks = 200;
 
 } // namespace
@@ -57,7 +57,7 @@ void RecursiveCollect::Start()
     sSearchStatus->setText("Söker...");
     lblSummary->clear();
     cmdStart->setDefault(true);
-    cmdStart->setEnabled(false); // the events of a running walk must not begin another one
+    cmdStart->setEnabled(false); // or an event could begin a second walk
     const auto sizeBefore = SumOfSizes(files.rows, work_.host.machine.DecimalSign());
     QElapsedTimer time;
     time.start();
@@ -111,7 +111,7 @@ void RecursiveCollect::CountFile()
 void RecursiveCollect::ProcessEvents()
 {
     sNumberFiles->setText(QString::number(seen_));
-    // Closing does not stop the walk, but without this window in front the user could reach the
+    // Closing does not stop the walk, but without this window in front the user could change the
     // list that is being filled.
     if (isVisible())
         work_.ask.ProcessEvents();

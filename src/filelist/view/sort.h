@@ -20,12 +20,12 @@ using NewPlaces = std::vector<std::size_t>;
 /// Brings the rows into the order that the list keeps; one that isn't sorted stays as it is.
 NewPlaces SortRows(FileList& list);
 
-/// Sorts by this key from now on.
+/// Sorts by this key now, and keeps the list sorted by it.
 NewPlaces SortRowsBy(FileList& list, Column key, bool descending = false);
 
-/// Rows that come from a file keep its order, whoever reads it. The list is sorted by name from
-/// then on where they are by name, else it is not sorted, and its duplicates are looked for in
-/// all of it.
+/// Keeps the order of rows that were read from a file. A list whose rows are in order of their
+/// names counts as sorted by name from then on, any other as not sorted, so that duplicates are
+/// looked for in all of it.
 void KeepStoredOrder(FileList& list);
 
 /// A click on the column with this header.

@@ -15,8 +15,8 @@ public:
     QTreeWidget* ListOfFiles = nullptr;
 };
 
-/// Opens the list, unless the user has ended the import himself where nothing more is reported, or
-/// there is nothing to see to.
+/// Opens the list of files that were not added. Does nothing where the user has stopped the import,
+/// or where the list has no file that the user has to see to.
 void ShowNotAddedFiles(const ImportResult& result, QWidget* parent);
 
 } // namespace quillon

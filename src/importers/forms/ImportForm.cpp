@@ -52,7 +52,8 @@ Piece ImportForm::Progress()
     Named(NAMED(sImportStatus), new QLabel);
     Named(NAMED(pbImport), new QProgressBar, "Import pågår");
     pbImport->setTextVisible(false);
-    // Idle it would look like a field to type in; the window keeps its size all the same.
+    // An idle progress bar would look like a field to type in, so it is hidden; the window keeps
+    // its size all the same.
     QSizePolicy policy = pbImport->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     pbImport->setSizePolicy(policy);
@@ -107,7 +108,7 @@ void ImportForm::StartImport()
                          .toolFolder = session.options.ToolFolder,
                          .ownFolder = session.options.OwnFolder});
     });
-    // What a check has refused can be mended in the dialog.
+    // The dialog stays open, so that the user can correct what a check has refused.
     if (result.end == ImportEnd::Refused)
         return;
     result_ = std::move(result);
@@ -137,7 +138,8 @@ void ImportForm::ShowRunning(bool isRunning)
         sImportStatus->clear();
 }
 
-// But the way to stop. What a rule of the form has disabled stays disabled after the run.
+// All but the button that stops the run. A control that was disabled before is not enabled by the
+// end of the run.
 void ImportForm::DisableControls()
 {
     for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
@@ -182,7 +184,7 @@ bool ImportForm::MayGoOn(const Text& file)
 bool ImportForm::ShowStep(const Text& step)
 {
     sImportStatus->setText(ToQt(step));
-    // Once the dialog is gone nothing keeps the user from the list that is being filled.
+    // Without the dialog in front of it, the user could change the list that is being filled.
     if (isVisible())
         context_.session.ask.ProcessEvents();
     return !isStopWanted_;

@@ -36,7 +36,7 @@ Decoding& DecodingOf(j_common_ptr jpeg)
     std::longjmp(DecodingOf(jpeg).failure, 1);
 }
 
-// Faults that the decoder gets over are nobody's business.
+// The decoder's warnings and traces are ignored.
 void Ignore(j_common_ptr) {}
 void IgnoreLevel(j_common_ptr, int) {}
 
@@ -49,8 +49,8 @@ void LimitScans(j_common_ptr common)
         Fail(common);
 }
 
-// Inks to light. Programs of one vendor store them the other way round and leave a note that they
-// do; all others that are met with follow them.
+// CMYK samples to RGB. In a file with Adobe's marker the samples are inverted; without it they are
+// plain.
 void PixelsFromCmyk(const JSAMPLE* inks, int width, bool areInverted, Pixel* out)
 {
     const auto light = [areInverted](unsigned coverage) {

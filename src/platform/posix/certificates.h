@@ -1,4 +1,4 @@
-// Certificates as OpenSSL holds them, for who reads signatures.
+// Certificates as OpenSSL holds them, for the code that reads signatures.
 #pragma once
 
 #include "helpers/closer.h"

@@ -37,12 +37,12 @@ struct FaultPlan {
     std::unique_ptr<char[]> stack = std::make_unique<char[]>(kStackBytes);
 };
 
-// A handler gets nothing but the signal.
+// A signal handler gets no data but the signal, so the plan is a variable of this file.
 const FaultPlan* plan = nullptr;
 
 void Write(int file, const char* text)
 {
-    // Nobody is left to hear of a failure.
+    // A failure could not be reported any more.
     [[maybe_unused]] const ssize_t count = write(file, text, std::strlen(text));
 }
 
@@ -78,7 +78,7 @@ void HandleFault(int signal)
 {
     WriteNote(signal);
     Rescue();
-    // It has its old effect again by now.
+    // The handler is removed by now (SA_RESETHAND), so this signal ends the program.
     raise(signal);
 }
 

@@ -1,5 +1,5 @@
-// What a program does when it is about to be ended by a fault of its own: a write to nowhere, an
-// exception that nobody catches.
+// What a program does when a fault of its own is about to end it: an invalid memory access, an
+// exception that is not caught.
 #pragma once
 
 #include <functional>

@@ -1,5 +1,5 @@
-// Locks that the system takes back when a program ends, be it killed. They lie on open files, so a
-// lock file that is left over locks nobody out.
+// Locks that the system releases when a program ends, also when it is killed. They are on open
+// files, so a lock file that is left over keeps no program out.
 #pragma once
 
 #include "platform/file_system.h"
@@ -21,7 +21,8 @@ bool IsFileAt(const Descriptor& file, const std::string& hostPath);
 /// not open leaves the reason in errno.
 Descriptor OpenLockFile(const std::string& hostPath);
 
-/// The lock file goes while the lock is still held, so that nobody else's is removed.
+/// The lock file is removed while the lock is still held, so that no other program's lock file is
+/// removed.
 class PosixFileLock : public FileLock {
 public:
     PosixFileLock(Descriptor file, std::string hostPath);

@@ -20,9 +20,9 @@ constexpr std::int64_t kSecond = 1000 * kMillisecond;
 constexpr std::int64_t kTickOfTheKernel = 20 * kMillisecond;
 constexpr std::int64_t kTickOfWholeSeconds = 2 * kSecond + kTickOfTheKernel;
 
-// While this program fills a folder, the stamp moves all the time and can't show another program's
-// change from its own; the listing is renewed so often, but never for more than a small part of the
-// time, since a folder of many files takes long to list.
+// While this program fills a folder, the stamp changes all the time and can't show another
+// program's change; the listing is then renewed at intervals, which are long enough that listing a
+// large folder takes only a small part of the time.
 constexpr std::int64_t kRenewWhileFilling = 100 * kMillisecond;
 constexpr std::int64_t kListingTimesToWait = 20;
 

@@ -73,7 +73,7 @@ void RefuseReadOnly(const Text& path, const std::string& hostPath)
         throw RunError(ErrorNumber::kPathFileAccess, path);
 }
 
-/// Non-blocking, so that a pipe that nobody writes to can't hold the program up.
+/// Non-blocking, so that opening a pipe without a writer does not block.
 Descriptor OpenToRead(const Text& path, const std::string& hostPath)
 {
     Descriptor file(open(hostPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
@@ -87,9 +87,9 @@ Descriptor OpenToRead(const Text& path, const std::string& hostPath)
     return file;
 }
 
-/// Gives a finished file the owner and the rights of the one that it shall replace; false where
-/// that is not for this user to do. Where the group may do what the owner may, a file of another
-/// user can become this user's: it stays open to all who work on it.
+/// Gives a finished file the owner and the rights of the one that it replaces; false where this
+/// user may not. Where the group has the same rights as the owner, a file of another user can
+/// become this user's, since it stays open to the group.
 bool TakesOver(const std::string& hostPath, const struct stat& own, const struct stat& old)
 {
     const bool isOthers = own.st_uid != old.st_uid;
@@ -204,7 +204,7 @@ std::unique_ptr<OutputFile> PosixFiles::OpenNew(const Text& path)
     if (!file.IsOpen())
         Fail(path, hostPath, Doing::Writing);
     drives_.Names().NoteCreated(hostPath);
-    // Between its making and its lock, another program can take the file for an abandoned one.
+    // Another program can take the new file for an abandoned one before it is locked.
     if (TakeLock(file, LockWait::None) == LockResult::Busy || !IsFileAt(file, hostPath))
         return nullptr;
     return std::make_unique<PosixOutputFile>(std::move(file), path, PosixOutputFile::Held::Yes);
@@ -230,7 +230,7 @@ std::unique_ptr<FileLock> PosixFiles::Lock(const Text& path, LockWait wait)
             Fail(path, hostPath, Doing::Writing);
         if (TakeLock(file, wait) == LockResult::Busy)
             return nullptr;
-        // The one who had it has removed the file: a lock on that is worth nothing.
+        // The former holder has removed the file, so a lock on it would keep no one out.
         if (IsFileAt(file, hostPath))
             return std::make_unique<PosixFileLock>(std::move(file), hostPath);
     }

@@ -42,8 +42,8 @@ void CloseEnd(Descriptor& end)
     const Descriptor closedHere = std::move(end);
 }
 
-// What is written before the program starts fits into the pipe, so nobody has to wait for a reader
-// and none can be gone.
+// All input fits into the pipe, so it is written before the program starts: the write can neither
+// block nor fail for want of a reader.
 Descriptor InputOf(const ProgramOrder& order)
 {
     if (order.input.size() > kMaxProgramInput)
@@ -58,7 +58,7 @@ Descriptor InputOf(const ProgramOrder& order)
 /// The child's part: nothing here may take memory, since another thread may hold the heap's lock.
 [[noreturn]] void BecomeProgram(char* const* arguments, int input, int output)
 {
-    // Without a terminal no program can ask the user past the tool.
+    // Without a terminal the program can't ask the user directly.
     setsid();
     if (dup2(input, STDIN_FILENO) >= 0 && dup2(output, STDOUT_FILENO) >= 0 &&
         dup2(output, STDERR_FILENO) >= 0)

@@ -20,12 +20,13 @@ constexpr TerminatingSignal kTerminatingSignals[] = {
     {SIGXCPU, "Avbrutet: den tillåtna processortiden är slut (SIGXCPU).\n"},
 };
 
-// Calls only what may be called from a handler. The signal has its old effect again by now.
+// Calls only functions that a signal handler may call. The handler is removed by now
+// (SA_RESETHAND), so the second signal ends the program.
 void ReportAndRaise(int signal)
 {
     for (const TerminatingSignal& entry : kTerminatingSignals)
         if (entry.signal == signal) {
-            // Nobody is left to hear of a failure.
+            // A failure could not be reported any more.
             [[maybe_unused]] const ssize_t count =
                 write(STDERR_FILENO, entry.line, std::strlen(entry.line));
         }

@@ -1,4 +1,4 @@
-// Signals that would end a program without a word.
+// Signals that would end a program silently.
 #pragma once
 
 namespace quillon {

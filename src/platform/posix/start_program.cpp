@@ -94,7 +94,7 @@ bool StartDetached(const std::vector<std::string>& command)
     int status = 0;
     while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
-    // The pipe closes by itself when the program starts; a byte in it is the news that it did not.
+    // The pipe closes when the program starts; a byte in it means that it did not.
     char failed = 0;
     ssize_t count = read(reading.Number(), &failed, 1);
     while (count < 0 && errno == EINTR)

@@ -32,7 +32,7 @@ PosixThread::PosixThread()
     try {
         thread_ = std::thread([this] { Run(); });
     } catch (const std::system_error&) {
-        // The owner does the work.
+        // Without a thread, the owner of this object does the work itself.
     }
 }
 

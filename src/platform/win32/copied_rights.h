@@ -1,5 +1,5 @@
-// Rights and attributes that one file has of another: of a text file that is written anew, its
-// reader and its users notice nothing but its new lines.
+// Rights and attributes that a file takes over from another, so that a text file that is written
+// again differs in nothing but its lines.
 #pragma once
 
 #include <windows.h>

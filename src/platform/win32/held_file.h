@@ -1,12 +1,12 @@
-// A file that stays what it is for as long as it is read.
+// A file that can't be changed while it is read.
 #pragma once
 
 #include "platform/file_system.h"
 
 namespace quillon {
 
-/// Nobody can write to the file, give another one its name or remove it until it is closed. Throws
-/// as `FileSystem::OpenInput` does, and where somebody writes to it at the moment.
+/// Until the file is closed, no other program can write to it, give another file its name or remove
+/// it. Throws as `FileSystem::OpenInput` does, and where another program has it open for writing.
 std::unique_ptr<InputFile> OpenHeldFile(const Text& path);
 
 } // namespace quillon

@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// Keeps nobody from doing anything with the file meanwhile.
+/// Others may read, write and remove the file while it is open.
 inline constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 class FileHandle {

@@ -1,5 +1,5 @@
-// Whether a folder's owner may be trusted: by itself, since it takes much of the system's library
-// that the self-extractor does without.
+// Whether a folder's owner may be trusted. In a file of its own, since it links much of the
+// system's library, which the self-extractor does without.
 #include "platform/win32/locked_folder.h"
 #include "platform/win32/owner_of.h"
 
@@ -41,7 +41,7 @@ bool IsCurrentUser(PSID owner)
     return known && EqualSid(owner, reinterpret_cast<TOKEN_USER*>(user)->User.Sid);
 }
 
-// A disk without owners says that everything belongs to everybody.
+// Some disks without owners report Everyone as the owner.
 bool IsTrustedOwner(PSID owner)
 {
     return owner == nullptr || IsWellKnown(owner, WinWorldSid) || IsTrustedUser(owner);

@@ -60,7 +60,7 @@ FileHandle OpenOrFail(const Text& path, DWORD access, DWORD sharing, DWORD creat
     return file;
 }
 
-// Windows refuses by itself, but Wine lets an administrator through.
+// Windows refuses this, but Wine allows it to an administrator.
 void RefuseReadOnly(const Text& path)
 {
     const DWORD attributes = AttributesOf(path);
@@ -159,7 +159,7 @@ void WinFiles::RemoveAbandoned(const Text& path)
 
 std::unique_ptr<FileLock> WinFiles::Lock(const Text& path, LockWait wait)
 {
-    constexpr DWORD kPause = 20; // milliseconds; Windows notifies nobody when a file is free again
+    constexpr DWORD kPause = 20; // milliseconds; Windows does not notify when a file is free
     for (;;) {
         FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                                     FILE_FLAG_DELETE_ON_CLOSE, nullptr));
@@ -177,8 +177,8 @@ bool WinFiles::DirCreate(const Text& path)
 {
     if (DirExists(path))
         return true;
-    // A folder above that fails shows at the last one. The functions for paths would cut a long
-    // one.
+    // A failure at a folder above shows at the last one. The functions for paths would cut a long
+    // path.
     const std::size_t last = path.find_last_of("\\/");
     if (last != Text::npos && last > 0 && path[last - 1] != ':')
         DirCreate(path.substr(0, last));

@@ -75,7 +75,7 @@ bool TakeUser(Switches& answers, std::string_view key, const Text& value)
     return false;
 }
 
-// A key that there is not, such as one of a later version, says nothing.
+// An unknown key, such as one of a later version, is ignored.
 bool TakeAnswer(Switches& answers, const ScannedLine& line)
 {
     const Text value(line.value);
@@ -189,7 +189,8 @@ void SaveAnswers(FileSystem& files, const Text& path, const Answers& answers)
     for (const auto& [scope, word] : kScopes)
         if (scope == answers.scope)
             add("Scope", word);
-    // Names that nobody has chosen are those of the machine, and the next one has its own.
+    // Names that the user has not chosen are those of the machine, so they are not written for the
+    // next one.
     for (const UserKey& one : kUserKeys)
         if (answers.choices.user)
             add(one.key, (*answers.choices.user).*one.field);

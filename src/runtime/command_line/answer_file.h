@@ -1,5 +1,6 @@
 // The answers of an installation as an INI file: /SAVEINF= writes them, /LOADINF= gives them to the
-// next one. A switch on the command line goes before the file's answer. The password is no answer.
+// next one. A switch on the command line has precedence over the file. The password is not among
+// the answers.
 #pragma once
 
 #include "formats/setup_information.h"

@@ -11,7 +11,7 @@ namespace quillon {
 
 // All words for "show nothing"; deployment tools have one each.
 inline constexpr const char* kSilentWords[] = {"S", "SILENT", "VERYSILENT", "QUIET", "Q", "QN"};
-// The others that keep boxes away, which nobody may be there to answer.
+// Further switches that suppress boxes, since no user may be there to answer them.
 inline constexpr const char* kBoxlessWords[] = {"PASSIVE", "QB", "SUPPRESSMSGBOXES"};
 
 // How the starters hand down to the program proper where the package is, and that it is to be the
@@ -123,7 +123,7 @@ bool HasSilentSwitch(const Char* line)
     return HasSwitchOf(line, kSilentWords);
 }
 
-/// Whether a box may be shown that somebody has to answer.
+/// Whether a box may be shown that a user has to answer.
 template <class Char>
 bool AllowsBoxes(const Char* line)
 {

@@ -22,7 +22,7 @@ constexpr const char* kEllipsis = "\u2026";
 constexpr std::pair<std::string_view, TestMode> kTestModes[] = {
     {kTestSwitch, TestMode::Test}, {kPreviewSwitch, TestMode::Preview}};
 
-// Nobody can be shown both.
+// A run is either a test or a preview.
 bool SetTestMode(Switches& switches, std::string_view name)
 {
     for (const auto& [word, mode] : kTestModes)
@@ -34,7 +34,7 @@ bool SetTestMode(Switches& switches, std::string_view name)
     return false;
 }
 
-// One thing at a time.
+// Only one task at a time.
 bool SetTask(Switches& switches, SetupTask task)
 {
     const bool isOther =
@@ -57,7 +57,7 @@ bool ShowProgressAlone(Switches& switches)
     return true;
 }
 
-// Asks for what the setup does anyhow.
+// The setup does this in any case, so the switch has no effect.
 bool TakeAsGiven(Switches&)
 {
     return true;
@@ -75,7 +75,7 @@ constexpr PlainSwitch kPlainSwitches[] = {
     {"NORESTART",        [](Switches& switches) { return switches.noRestart = true; }},
     {"CLOSEAPPLICATIONS",   [](Switches& switches) { switches.closeApplications = CloseApplications::Always; return true; }},
     {"NOCLOSEAPPLICATIONS", [](Switches& switches) { switches.closeApplications = CloseApplications::Never; return true; }},
-    // Nobody is asked whether to begin at all.
+    // /SP-: suppresses a first question that this setup does not ask.
     {"SP-",              TakeAsGiven},
     {"SUPPRESSMSGBOXES", [](Switches& switches) { return switches.suppressBoxes = true; }},
     {"NOCANCEL",         [](Switches& switches) { switches.canCancel = false; return true; }},
@@ -281,7 +281,7 @@ UninstallerCommand ReadUninstallerCommand(std::string_view commandLine)
     for (const auto& [name, mode] : kTestModes)
         if (command.switches.testMode == mode && !command.switches.badSwitch)
             command.switches.badSwitch = "/" + Text(name);
-    // It neither plans nor unpacks.
+    // A test makes no plan and unpacks nothing.
     const SetupTask task = command.switches.task;
     if ((task == SetupTask::Plan || task == SetupTask::Extract) && !command.switches.badSwitch)
         command.switches.badSwitch = task == SetupTask::Plan ? "/PLAN" : "/EXTRACT";

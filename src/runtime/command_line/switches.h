@@ -53,7 +53,7 @@ struct Switches {
     std::vector<std::pair<int, Text>> componentFolders; // by their numbers, from the same
 };
 
-/// False where nobody is shown a box: under /S, /passive and /SUPPRESSMSGBOXES.
+/// False where no box is shown: under /S, /passive and /SUPPRESSMSGBOXES.
 inline bool MayAsk(const Switches& switches)
 {
     return !switches.silent && !switches.suppressBoxes;

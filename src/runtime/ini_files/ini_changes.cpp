@@ -49,7 +49,8 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
     IniRecords records;
     for (const IniLine& line : lines)
         ApplyIniLine(work, *file, line, records);
-    // The first record is the last that is taken back: by then the lines after it have gone.
+    // The first record is the last that is taken back; the lines after it have been removed by
+    // then.
     if (!lastLine.empty() && file->ini.OpenLastLine().empty())
         work.journal.Add(record::IniOpenEnd{path, file->Decoded(lastLine)});
     for (JournalRecord& record : records)
@@ -63,7 +64,7 @@ void WriteIniFile(const IniWork& work, std::span<const IniLine> lines)
                               .keepsRights = true});
 }
 
-// A file that has become something else since holds nothing of ours any more.
+// A file that has been replaced by something else since then holds nothing of ours.
 template <class Work>
 void Change(const FileRewriting& rewriting, const Text& path, Work work)
 {

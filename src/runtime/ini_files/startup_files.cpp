@@ -56,7 +56,7 @@ std::size_t FindLine(std::string_view bytes, std::string_view line)
     return found;
 }
 
-// Set up from another disk than C:, Windows still starts from its boot disk.
+// Where the setup runs from another disk than C:, Windows still starts from its boot disk.
 Text BootFolder(const Target& target)
 {
     const auto folder = target.ReadValue(
@@ -95,7 +95,8 @@ void StartupFile::Add(const Text& lines)
         return;
     if (!existed)
         work_.journal.Add(record::IniFile{path_});
-    // The first record is the last that is taken back: by then the lines after it have gone.
+    // The first record is the last that is taken back; the lines after it have been removed by
+    // then.
     if (!lastLine.empty())
         work_.journal.Add(record::IniOpenEnd{path_, AnsiText::FromBytes(lastLine)});
     for (JournalRecord& record : records_)

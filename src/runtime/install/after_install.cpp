@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-// A document, not a package.
+// More than any document has.
 constexpr std::uint64_t kMaxDocumentSize = 16 * 1024 * 1024;
 
 void Try(const AfterInstallInput& input, const Reason& part, const Text& path,

@@ -17,7 +17,7 @@ struct AfterInstallInput {
     const LanguageTexts& texts;
     const SetupInformation& setup;
     const SetupVariables& variables;
-    bool silent = false; // nobody is there to see a program
+    bool silent = false; // null: there is no user to see a program
     bool showsDocument = true;
 };
 

@@ -40,7 +40,7 @@ void BackgroundWriter::File::HandOver()
 {
     const std::span<const std::byte> bytes(writer_.filling_);
     writer_.thread_.Start([this, bytes] { Write(bytes); });
-    // Nobody reads the other one any more: its work has ended before this one was begun.
+    // The other buffer is free: its work has ended before this one was begun.
     std::swap(writer_.filling_, writer_.written_);
     writer_.filling_.clear();
     writer_.filling_.reserve(kPieceSize);

@@ -10,7 +10,7 @@ namespace quillon {
 
 class BackgroundWriter {
 public:
-    /// One file at a time. It waits at its end, so that nobody writes to the output afterwards.
+    /// One file at a time. The destructor waits, so that the output is not written to afterwards.
     class File {
     public:
         File(BackgroundWriter& writer, OutputFile& output);

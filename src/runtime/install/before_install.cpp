@@ -60,7 +60,7 @@ void KeepHelpers(const HelperCopies& input)
                             JoinPath(input.workFolder, helper), input.manifest, input.texts);
 }
 
-// What is needed at the very end has to be there before the first file is written.
+// The files that are needed last must be there before the first file is written.
 void CheckHelpers(const FileSystem& files, const Text& workFolder, const InstallPlan& plan,
                   const LanguageTexts& texts)
 {

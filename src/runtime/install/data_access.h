@@ -24,8 +24,8 @@ struct DataAccessInput {
     bool silent = false;
 };
 
-/// True where the machine has to be started anew for it. Nothing is thrown: the product is
-/// installed, and what happens here is logged.
+/// True where it needs a restart of the machine. Never throws: the product is installed, and what
+/// happens here is logged.
 bool InstallDataAccess(const DataAccessInput& input);
 
 } // namespace quillon

@@ -86,7 +86,7 @@ FileInstaller::Outcome FileInstaller::InstallOne(const PlannedFile& file)
     return atRestart ? Outcome::AtRestart : Outcome::Written;
 }
 
-// In one question: where a name is new, some file systems read the whole folder to say so.
+// Both in one question: where a name is new, some file systems read the whole folder to answer.
 std::optional<FileStatus> FileInstaller::StatusAt(const Text& path) const
 {
     std::optional<FileStatus> status;
@@ -166,13 +166,13 @@ bool FileInstaller::Put(const PlannedFile& file, const Text& staged, bool replac
     }
 }
 
-// A file that was there before and that nobody counted has a user already.
+// A file that was there before, without a count, has a user already.
 void FileInstaller::CountSharedFile(const PlannedFile& file, bool existed)
 {
     if (journal_.Has<record::Shared>(file.path))
         return;
     const std::uint32_t before = CountOfUsers(input_.target, file.path).value_or(existed ? 1 : 0);
-    // The key first, since it can go only when the count in it has gone.
+    // The key first, since it can be removed only after the count in it.
     transaction_.MakeKey(SharedFilesKey());
     journal_.Add(record::Shared{file.path});
     transaction_.WriteValue(SharedFilesKey(), file.path, NumberData(before + 1),

@@ -21,7 +21,7 @@ public:
     const std::vector<Text>& FilesToRegisterAtRestart() const { return toRegisterAtRestart_; }
     const std::vector<PlannedFile>& Fonts() const { return fonts_; }
 
-    /// Of the files that are the product's own now, whether written anew or kept from an earlier
+    /// The files that are the product's own now, whether newly written or kept from an earlier
     /// version of it.
     std::uint64_t InstalledBytes() const { return installed_; }
 

@@ -54,7 +54,7 @@ std::optional<Text> FirstProgram::Run()
     }
     Copy();
     int code = Start();
-    // Before it there is nothing to go back to: the user leaves the setup, or begins again.
+    // There is no page before it to go back to: the user leaves the setup, or begins again.
     while (IsCode(program_.ReturnValueBack, code) && !IsCode(program_.ReturnValueExit, code)) {
         const Text title =
             input_.texts(Message::Title, input_.setup.project.ProjectName.ProjectName);

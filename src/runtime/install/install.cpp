@@ -109,14 +109,15 @@ void Installation::DoEverything()
     RegisterAtRestart();
     RemoveOldFiles({input_.host, input_.target, transaction_, journal_, input_.log, input_.plan},
                    earlierRecords_, contents_);
-    // The last moment at which the user can cancel.
+    // The user can cancel here for the last time.
     input_.ask.ProcessEvents();
     SaveJournal();
     transaction_.Commit();
 }
 
-// The journal of an earlier installation of the same product goes on: what it made is ours too. One
-// of a user with fewer rights does not: the uninstaller will believe what is in ours.
+// Continues the journal of an earlier installation of the same product, so that the uninstaller
+// removes what that one made too. A journal of a user with fewer rights is not continued, since the
+// uninstaller trusts whatever is in ours.
 void Installation::BeginJournal()
 {
     if (!input_.plan.hasUninstaller)
@@ -139,7 +140,7 @@ void Installation::SaveJournal()
     FileSystem& files = input_.host.files;
     const Text staged = transaction_.StagingPath(path);
     journal_.Save(files, staged);
-    // The uninstaller will believe it.
+    // The uninstaller trusts this file, so others must not be able to change it.
     input_.target.CloseToOthers(staged);
     transaction_.PutFile({staged, path, files.FileExists(path), InstallTransaction::Recorded::No});
     input_.log.Line(Message::LogWritesOwnFile, path);
@@ -152,8 +153,8 @@ void Installation::RecordTexts()
             journal_.Add(record::Message{KeyOf(Message(i)).key, input_.texts[Message(i)]});
 }
 
-// Of products that share a main folder, the last to go takes along the folder that the first one
-// made.
+// Where products share a main folder, the last one that is removed also removes the folder that the
+// first one made.
 void Installation::ShareMainFolder()
 {
     const Text inside = LowerCase(input_.plan.mainFolder) + "\\";
@@ -255,7 +256,7 @@ void Installation::RegisterFonts()
     }
 }
 
-// What it holds shows an update whether somebody has changed it.
+// With its content, so that an update sees whether it was changed.
 void Installation::MakeShortcut(const PlannedShortcut& planned)
 {
     const FileSystem& files = input_.host.files;

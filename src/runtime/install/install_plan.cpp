@@ -43,7 +43,7 @@ std::optional<Reason> ReasonToSkip(const PlanInput& input, const InstallRow& row
     return std::nullopt;
 }
 
-// A folder without a drive lies below the main folder.
+// A folder without a drive is below the main folder.
 Text DestinationOf(const PlanInput& input, const InstallRow& row)
 {
     // Windows takes a slash for a backslash, so both have to look the same to the tests below.
@@ -54,7 +54,7 @@ Text DestinationOf(const PlanInput& input, const InstallRow& row)
         isBelow ? JoinPath(input.variables.Value(NameOf(VariableMeaning::MainFolder)), folder)
                 : folder;
     const bool isTree = input.setup.project.Media.TargetMedia == int(Medium::CdTree);
-    // What the variables stand for is known here alone.
+    // The values of the variables are known only here.
     if (FaultOfRow(row, isTree) != PathFault::None || !IsAbsolutePath(whole) ||
         FaultOfFolder(whole) != PathFault::None)
         throw DamagedPackage(input.texts, {Message::PackageBadFolder, row.name, row.destination});
@@ -111,7 +111,7 @@ void PlanIni(const PlanInput& input, InstallPlan& plan)
     for (const IniList::Unreadable& line : list.unreadable)
         plan.skipped.push_back({input.texts(Message::PartIniLine, line.line), {line.reason}});
     for (IniLine& line : list.lines) {
-        // As the system itself does with a bare name.
+        // A bare name is in the Windows folder, as for the system's own functions.
         const Text file = input.variables.ExpandPath(line.file);
         line.file =
             IsAbsolutePath(file) ? file : JoinPath(input.host.machine.GetWindowsDir(), file);

@@ -210,7 +210,7 @@ bool OldFiles::IsGone(const Text& path)
     return !reason;
 }
 
-// What has not been written anew is still what it was.
+// Contents of files that were not written again are still as recorded.
 void OldFiles::KeepContents(const std::set<Text>& gone) const
 {
     for (const auto& [key, content] : contents_)
@@ -218,8 +218,8 @@ void OldFiles::KeepContents(const std::set<Text>& gone) const
             work_.journal.Add(content);
 }
 
-// Those that the product made and that nothing of the new version lies in. What somebody else has
-// put there keeps them.
+// Folders that the product made and in which the new version puts nothing. One in which other files
+// are found stays.
 void OldFiles::NoteFolders(const Text& path)
 {
     for (Text at = ExtractDirectory(path);
@@ -245,7 +245,8 @@ EarlierJournal ReadEarlierJournal(const FileSystem& files, const Target& target,
         return earlier;
     if (auto records = ReadInstallJournal(ReadWholeFile(files, path)))
         earlier.records = std::move(*records);
-    // They are reported anew, and would come to more with each installation.
+    // This installation writes these records again; if they were kept, there would be more with
+    // each one.
     std::erase_if(earlier.records, [&](const JournalRecord& record) {
         if (const auto* const content = std::get_if<record::Content>(&record))
             earlier.contents[LowerCase(content->path)] = *content;

@@ -17,8 +17,8 @@ struct EarlierJournal {
     KnownContents contents;
 };
 
-/// What the journal of an earlier installation says; nothing where there is none, or somebody with
-/// fewer rights has made it.
+/// The journal of an earlier installation; empty where there is none, or where a user with fewer
+/// rights has made it.
 EarlierJournal ReadEarlierJournal(const FileSystem& files, const Target& target, const Text& path);
 
 struct OldFile {
@@ -41,9 +41,8 @@ struct OldFilesWork {
 };
 
 /// Removes the files of the earlier version that are as they were installed and that no row of the
-/// new one names, and the folders of the product that this empties. The others stay, and the log
-/// says why. The first `earlierRecords` of the journal
-/// are those of the earlier version.
+/// new one names, and the folders of the product that this empties. All others stay, and the log
+/// says why. The first `earlierRecords` of the journal are those of the earlier version.
 void RemoveOldFiles(const OldFilesWork& work, std::size_t earlierRecords,
                     const KnownContents& contents);
 

@@ -6,13 +6,13 @@
 
 namespace quillon {
 
-/// By its program or by the document that a viewer opens.
+/// True where its program is in that folder, or the document that a viewer opens.
 bool LeadsInto(const Text& folder, const Shortcut& shortcut);
 
 bool IsShortcut(const Text& path);
 
-/// Those that the journal names, and those that lead into the main folder all the same. In the
-/// group of a new project, products of many makers lie side by side.
+/// The shortcuts that the journal names, and of all others those that lead into the main folder:
+/// the group of a new project may hold the shortcuts of other makers' products.
 std::vector<Text> OldShortcuts(const FileSystem& files, const Target& target,
                                const InstallJournal& journal, const InstallPlan& plan);
 

@@ -16,8 +16,8 @@ namespace quillon {
 
 namespace {
 
-// The version that the list of programs names; empty where the product's folder has gone, and
-// nothing is left that could be newer.
+// The version in the list of programs; empty where the product's folder does not exist any more, so
+// that no newer version can be there.
 Text InstalledVersion(const SetupInput& input, const Text& product, InstallScope scope)
 {
     const RegistryKey entry = UninstallEntryKey(product, scope);
@@ -28,7 +28,7 @@ Text InstalledVersion(const SetupInput& input, const Text& product, InstallScope
     return input.host.files.DirExists(textAt(kInstallLocation)) ? textAt(kDisplayVersion) : Text();
 }
 
-// An archive that somebody could change meanwhile is refused.
+// An archive that another program has open for writing is refused.
 std::unique_ptr<InputFile> OpenArchive(const SetupInput& input, const LoadedPackage& package)
 {
     const FileSystem& files = input.host.files;
@@ -75,7 +75,7 @@ void CheckPackage(const LoadedPackage& package)
         throw DamagedPackage(texts, *fault);
     const Project& project = package.setup.project;
     const Text& starter = project.InstallOptions.SetupName;
-    // The tool's own text for such a name would tell the end user nothing.
+    // The tool's own text for such a name would mean nothing to the end user.
     if (FaultOfName(starter) != PathFault::None ||
         IsNameOfPackageFile(starter, project.Language.LanguageFile))
         throw DamagedPackage(texts, {Message::PackageFileDamaged, kSetupInformationName});

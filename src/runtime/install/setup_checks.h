@@ -1,6 +1,5 @@
-// What the setup finds out before it asks its user anything, each by itself: whether the command
-// line, the package and the machine are such that it may go on. Each check ends the
-// setup by a `SetupFailure`.
+// What the setup checks before it asks its user anything: the command line, the package and the
+// machine. Each check ends the setup by a `SetupFailure`.
 #pragma once
 
 #include "runtime/setup_program.h"
@@ -28,14 +27,14 @@ std::unique_ptr<InputFile> CheckFiles(const SetupCheck& check);
 bool HasPassword(const Switches& switches, const SetupInformation& setup);
 void CheckPassword(const SetupInput& input, const LoadedPackage& package);
 
-/// Whether somebody is asked about what the project only warns about. A plan asks nobody.
+/// Whether the user is asked about what the project only warns about. For a plan no user is asked.
 bool MayWarn(const Switches& switches);
 
 /// Whether the product is meant for this system. Asks about one that the project only warns about.
 void CheckSystem(const SetupCheck& check);
 
-/// Whether a newer version of the product is installed. Where nobody is asked whether the older one
-/// replaces it, the setup ends.
+/// Whether a newer version of the product is installed. Where no user is asked whether the older
+/// one may replace it, the setup ends.
 void CheckInstalledVersion(const SetupCheck& check);
 
 } // namespace quillon

@@ -1,5 +1,5 @@
-// Whose the folders are that a setup writes into. Who has made a folder decides who may write to
-// it, and so what the product's programs are.
+// The owners of the folders that a setup writes into. The owner of a folder decides who may write
+// to it, and so could replace the product's programs.
 #pragma once
 
 #include "runtime/install/install_plan.h"
@@ -7,8 +7,8 @@
 
 namespace quillon {
 
-/// Ends the setup where another user has made the folder, or one above it. Users of other machines,
-/// whose folders lie on shares and on disks that are carried about, are not compared.
+/// Ends the setup where another user owns the folder, or one above it. Owners on shares and on
+/// removable disks are not compared, since they may be users of other machines.
 void CheckFolder(const SetupCheck& check, const Text& folder);
 
 /// Every folder outside the main one that the plan writes a file, a shortcut or an INI file into,

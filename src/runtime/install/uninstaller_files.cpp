@@ -55,9 +55,9 @@ std::array<Text, 2> FilesOfUninstaller(const Text& mainFolder)
             JoinPath(mainFolder, RuntimePrograms::kUninstallerManifest)};
 }
 
-// Whenever the setup is killed, the program that the user starts is there only while what it starts
-// is there and is what the digest says, so that it can put right what is left: it goes first and
-// comes last.
+// The program that the user starts is removed first and put back last: at every moment at which the
+// setup may be killed, it exists only if what it starts exists too and fits the digest, so that it
+// can repair the rest.
 void PutUninstallerFiles(FileSystem& files, const Text& helpersFolder, const Text& mainFolder,
                          InstallTransaction& transaction)
 {

@@ -1,6 +1,6 @@
 // What the uninstaller consists of in a product's main folder, beside the journal: the program that
 // the user starts (`UninstallerPath`), the setup proper, which it starts, and the digest by which
-// it knows that.
+// it checks that one.
 #pragma once
 
 #include "platform/file_system.h"
@@ -11,8 +11,8 @@ namespace quillon {
 
 class InstallTransaction;
 
-/// What the uninstaller starts, and the file with its digest. Neither has to be there: earlier
-/// versions were one program.
+/// What the uninstaller starts, and the file with its digest. Both may be missing: earlier versions
+/// were a single program.
 std::array<Text, 2> FilesOfUninstaller(const Text& mainFolder);
 
 /// Puts all three from the folder with the package's programs into their places. The journal does

@@ -21,7 +21,7 @@ void FinishEarlierRuns(const EarlierRunsInput& input)
     for (const InstallScope scope : {InstallScope::AllUsers, InstallScope::CurrentUser}) {
         const auto installed =
             input.target.ReadValue(UninstallEntryKey(product, scope), kInstallLocation);
-        // Anything may stand in such a value.
+        // The value may hold any text, since others can write it.
         if (const auto folder = installed ? TextOf(*installed) : std::nullopt;
             folder && IsAbsolutePath(*folder))
             folders.insert(*folder);

@@ -1,4 +1,5 @@
-// What an installation of the product has left that was ended from outside, wherever it was to go.
+// The remains of an installation of the product that was interrupted from outside, in whatever
+// folder.
 #pragma once
 
 #include "runtime/log/action_log.h"
@@ -17,10 +18,9 @@ struct EarlierRunsInput {
     InstallScope scope;
 };
 
-/// Takes it back, or clears it away: for this installation's main folder, for the package's own,
-/// for those where the list of programs says that the product is, and for the one that the setup
-/// has noted when it began. Ends the setup where
-/// something could not be taken back.
+/// Undoes it, or clears it away: in this installation's main folder, in the package's own, in those
+/// that the list of programs names for the product, and in the one that the setup noted when it
+/// began. Ends the setup where something could not be undone.
 void FinishEarlierRuns(const EarlierRunsInput& input);
 
 } // namespace quillon

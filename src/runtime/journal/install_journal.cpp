@@ -103,7 +103,7 @@ void InstallJournal::Add(JournalRecord record)
     index_.insert(&records_.back());
 }
 
-// Nobody looks for one by its path, and as a line it takes a third of the memory.
+// Contents are never looked up by path, and as text a record takes a third of the memory.
 void InstallJournal::AddContent(const JournalRecord& content)
 {
     if (contents_.empty() || contents_.back().size() >= kPieceSize)

@@ -45,7 +45,7 @@ public:
     void Forget(const std::set<Text>& paths);
     /// Without those of contents, which stand at the end of the file.
     const std::deque<JournalRecord>& Records() const { return records_; }
-    /// They precede all others.
+    /// These records are before all others.
     void TakeOver(std::vector<JournalRecord> earlier);
 
 private:
@@ -54,8 +54,8 @@ private:
     // Kind and subject, in lower case.
     static Text KeyOf(const JournalRecord& record);
 
-    // Finds a record by its key, which is made when it is asked for: kept, the keys would take as
-    // much memory as the records.
+    // Finds a record by its key, which is made at each comparison: stored keys would take as much
+    // memory as the records.
     struct KeyHash {
         using is_transparent = void;
         std::size_t operator()(const Text& key) const { return std::hash<Text>{}(key); }
@@ -76,7 +76,7 @@ private:
         }
     };
 
-    // Some hundred bytes for each file, which never move: a vector that grows holds them twice.
+    // Records have some hundred bytes and never move: a growing vector would hold them twice.
     std::deque<JournalRecord> records_;
     std::deque<Text> contents_; // lines, in pieces
     std::unordered_set<const JournalRecord*, KeyHash, KeyEqual> index_;

@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-// The first free name for a second copy of the file; there are seldom more than a few.
+// The first free name for a second copy of the file; there are hardly ever more than a few.
 Text BackupPath(const FileSystem& files, const Text& path)
 {
     Text backup = path + ".bak";
@@ -68,7 +68,7 @@ void InstallTransaction::Move(const Text& from, const Text& to, const Text& plac
 
 void InstallTransaction::MoveAside(const Text& path)
 {
-    // After the file itself on the way back.
+    // When undoing, this comes after the file itself.
     if (installJournal_.Has<record::Registered>(path))
         journal_.Note(record::RegisteredBefore{path});
     if (installJournal_.Has<record::Font>(path))
@@ -88,8 +88,9 @@ void InstallTransaction::MoveBack(const Text& path)
     movedAside_.erase(aside);
 }
 
-// What is at the place from now on is ours. Where a former file was moved aside just before, its
-// coming back is all that has to be done; where steps lie between the two, the new file goes first.
+// From now on the file at the place is the product's. Where a former file was moved aside in the
+// step just before, undoing that step is enough; where steps lie between the two, the new file has
+// to be removed first.
 void InstallTransaction::NoteNewFile(const NewFile& file)
 {
     const auto aside = movedAside_.find(LowerCase(file.path));

@@ -30,7 +30,7 @@ struct Folder {
     bool operator==(const Folder&) const = default;
 };
 
-/// Was there before us, and we have put something into it.
+/// The folder was there before, and files of the product were put into it.
 struct Place {
     Text path;
     bool operator==(const Place&) const = default;
@@ -61,7 +61,7 @@ struct Shared {
     bool operator==(const Shared&) const = default;
 };
 
-/// The system has been notified of the font.
+/// The font was announced to running programs.
 struct Font {
     Text path;
     bool operator==(const Font&) const = default;
@@ -135,15 +135,14 @@ struct IniValue {
     bool operator==(const IniValue&) const = default;
 };
 
-/// A line that we have added to a file which the system reads when it starts.
+/// A line that the setup has added to a file which the system reads when it starts.
 struct StartupLine {
     Text path;
     Text line; // its bytes, as Windows-1252
     bool operator==(const StartupLine&) const = default;
 };
 
-/// What a file that we wrote holds: of one that is still so nothing is lost when an update removes
-/// it.
+/// The content of a file as installed: an update may remove a file whose content is still this.
 struct Content {
     Text path;
     std::uint64_t size = 0;
@@ -164,8 +163,8 @@ struct MovedAside {
     bool operator==(const MovedAside&) const = default;
 };
 
-/// A new file stands at the path, put there some steps after the former one was moved aside. It has
-/// gone already, or never came, where nothing is aside.
+/// A new file at the path, put there some steps after the former one was moved aside. Where no
+/// former file is aside any more, the new one is not there either.
 struct InsteadOf {
     Text path;
     Text aside;
@@ -193,13 +192,13 @@ struct RemovedKey {
     bool operator==(const RemovedKey&) const = default;
 };
 
-/// The file that stood there before was registered too, by an earlier installation.
+/// The file that was there before was registered too, by an earlier installation.
 struct RegisteredBefore {
     Text path;
     bool operator==(const RegisteredBefore&) const = default;
 };
 
-/// The font that stood there before was announced too, by an earlier installation.
+/// The font that was there before was announced too, by an earlier installation.
 struct AnnouncedBefore {
     Text path;
     bool operator==(const AnnouncedBefore&) const = default;
@@ -211,7 +210,7 @@ struct LeavingFolder {
     bool operator==(const LeavingFolder&) const = default;
 };
 
-/// The transaction is through: what is left to do is to clear away.
+/// The transaction is committed: what is left to do is to clear away.
 struct Committed {
     bool operator==(const Committed&) const = default;
 };

@@ -62,7 +62,8 @@ void RecordedPaths::Note(std::size_t index, const JournalRecord& record)
     }
 }
 
-// The record before it says that the file was replaced, which has not happened yet.
+// The record before this one says that the file was replaced, but the replacement still waits for
+// the restart.
 void RecordedPaths::NotePending(std::size_t index, const record::AtRestart& move)
 {
     if (move.to.empty() || !host_.files.FileExists(move.from))
@@ -86,7 +87,7 @@ void RecordedPaths::FindWhatGoes()
     }
 }
 
-// A file that others have counted, and this product not, is others' as well.
+// A file that others have counted and this product has not is shared too.
 bool RecordedPaths::IsShared(const Text& path) const
 {
     const Text key = LowerCase(path);
@@ -142,8 +143,8 @@ bool RecordedPaths::IsBelowMadeFolder(const Text& folder) const
     return false;
 }
 
-// Links above what the product made are the machine owner's own arrangement. What it made was no
-// link when it was made.
+// Links above the folders that the product made are set up by the machine's owner. The product's
+// own folders were no links when they were made.
 bool RecordedPaths::HasLinkInPath(const Text& folder) const
 {
     if (!IsBelowMadeFolder(folder))

@@ -1,5 +1,5 @@
-// What a product's journal says as a whole about each path, found out before the first record is
-// taken back: taking one back changes what the others are judged by.
+// What a product's journal as a whole says about each path. It is evaluated before the first record
+// is undone, since undoing one changes what the others depend on.
 #pragma once
 
 #include "platform/host.h"
@@ -23,8 +23,8 @@ public:
     /// The shared files that other products use too, and that this product has counted.
     const std::set<Text>& ToRelease() const { return toRelease_; }
 
-    /// Whether the file of the `Replaced` record is to stay: because it is the former one again, or
-    /// waits to be replaced, or for the reason of `WasInWindows`.
+    /// Whether the file of the `Replaced` record stays: because the former file is back, because
+    /// the new one still waits for the restart, or for the reason of `WasInWindows`.
     bool KeepsReplaced(std::size_t index) const;
     /// Whether the file was in the Windows folder before the installation, where other programs may
     /// need it, and has no backup that comes back.
@@ -35,8 +35,8 @@ public:
     /// Replacements that still wait for the machine's next start.
     const std::vector<record::AtRestart>& Pending() const { return pending_; }
 
-    /// Why nothing at that path may be touched; nothing where it may. A journal leads only into the
-    /// folders that it names, and through no link that has been put in their place.
+    /// Why nothing at that path may be touched; nothing where it may. A journal is followed only
+    /// into the folders that it names, and through no link that was put in their place.
     std::optional<Message> WhyOutOfReach(const Text& path) const;
     /// Whether the folder, or one above it that the product made, is a link by now.
     bool IsBehindLink(const Text& folder) const

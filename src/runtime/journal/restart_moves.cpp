@@ -118,7 +118,7 @@ void ForgetRemovals(Target& target, const std::set<Text>& places)
     });
 }
 
-// The move of the file is forgotten last, so that all of this can be begun again.
+// The move of the file is removed last, so that all of this can be repeated.
 void RemoveWaitingFile(FileSystem& files, Target& target, const record::AtRestart& move)
 {
     const Text place = LowerCase(ExtractDirectory(move.to) + "\\");

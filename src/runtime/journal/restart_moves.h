@@ -8,19 +8,19 @@
 
 namespace quillon {
 
-/// The system makes no move of that file any more. Nothing happens where it would have made none.
+/// Removes that file's move from the list of the system, if there is one.
 void ForgetMoveAtRestart(Target& target, const Text& from);
 
-/// What an earlier setup of this kind has left to wait for one of these places (in lower case) is
-/// out of date: it goes, and so does its move. What waits for them by others' doing stays. Nor is
-/// what lies there removed.
+/// Removes the files of earlier setups of this kind that wait for one of these places (in lower
+/// case), with their moves, since they are out of date. Moves of other programs stay, and so do the
+/// files at the places.
 void ForgetMovesTo(FileSystem& files, Target& target, const std::set<Text>& places);
 
-/// The system removes no file at one of these places (in lower case) any more: an uninstaller that
-/// found it in use has asked for that before the product was installed again.
+/// Takes the removal of a file at one of these places (in lower case) off the list of the system:
+/// an uninstaller that found it in use asked for it before the product was installed again.
 void ForgetRemovals(Target& target, const std::set<Text>& places);
 
-/// The file that waits goes, and a folder of its own beside the place that it was for.
+/// Removes the file that waits, and its temporary folder beside the place that it was for.
 void RemoveWaitingFile(FileSystem& files, Target& target, const record::AtRestart& move);
 
 /// Whether the system removes the file when the machine starts next.

@@ -29,8 +29,8 @@ public:
     }
 
     bool UndoAll(const std::vector<JournalRecord>& steps);
-    /// Takes our user off the counts that others have changed since. What is done twice would take
-    /// off another's, so nothing may lead here again.
+    /// Takes this product off the counts that others have changed since. Doing so twice would take
+    /// another product off, so the journal is removed before this.
     void LowerCounts();
     /// Removes a temporary folder with all but what has to stay.
     void EmptyTempFolder(const Text& folder, const Paths& staying);
@@ -51,7 +51,7 @@ private:
     void Undo(const record::Font& font);
     void Undo(const record::AnnouncedBefore& font);
     void Undo(const record::AtRestart& move) { ForgetMoveAtRestart(target_, move.from); }
-    // What is no step of a transaction, or nothing to take back.
+    // Records that are no steps of a transaction, or need no undoing.
     template <class Record>
     void Undo(const Record&)
     {
@@ -77,7 +77,7 @@ bool Rollback::UndoAll(const std::vector<JournalRecord>& steps)
     for (std::size_t left = steps.size(); left > 0; --left) {
         try {
             std::visit([&](const auto& step) { Undo(step); }, steps[left - 1]);
-        } catch (const std::exception& error) { // whatever it is, the steps before it have to go on
+        } catch (const std::exception& error) { // the steps before must be undone
             whole = false;
             log_.CannotUndo(error);
         }
@@ -99,7 +99,7 @@ void Rollback::Undo(const record::Folder& folder)
         target_.MoveAtRestart(folder.path, "");
 }
 
-// Who has counted it since needs it.
+// A file that another product has counted since is needed by that one.
 void Rollback::Undo(const record::File& file)
 {
     if (counts_.count(LowerCase(file.path)) == 0)
@@ -135,8 +135,8 @@ void Rollback::Undo(const record::Key& key)
         target_.RemoveKey(key.key);
 }
 
-// Whether somebody has changed the value since the setup wrote it. The journal of an older setup
-// does not say what was written; a value that is gone can't be overwritten.
+// Whether the value was changed since the setup wrote it. The journal of an older setup does not
+// say what was written. A value that no longer exists can't be overwritten by undoing.
 bool Rollback::IsOthersNow(const record::FormerValue& value)
 {
     const auto written = std::exchange(written_, std::nullopt);
@@ -206,7 +206,7 @@ void Rollback::Undo(const record::AnnouncedBefore& font)
         target_.AnnounceFont(font.path, true);
 }
 
-// A program that runs can't be removed, but it can be moved.
+// The file of a running program can't be removed, but it can be moved.
 void Rollback::MakeWay(const Text& path)
 {
     if (!files_.FileExists(path))
@@ -251,7 +251,7 @@ void Rollback::EmptyTempFolder(const Text& folder, const Paths& staying)
         target_.MoveAtRestart(folder, "");
 }
 
-// Places that are by now as this transaction wants them.
+// The places whose file is already the one that this transaction wants.
 Paths PlacesDone(const std::vector<JournalRecord>& steps)
 {
     Paths places;
@@ -265,7 +265,7 @@ Paths PlacesDone(const std::vector<JournalRecord>& steps)
     return places;
 }
 
-// True for the beginning of a journal in which no step stands yet.
+// True for the beginning of a journal that has no step yet.
 bool HasNoStep(const std::string& bytes)
 {
     return (kTransactionJournal + Text(kLineBreak)).starts_with(bytes);
@@ -284,7 +284,7 @@ bool FinishOne(const RollbackInput& input, const Text& path)
     const auto lock = files.Lock(LockPathOf(path), LockWait::None);
     if (!lock)
         throw RunError(ErrorNumber::kPermissionDenied, path);
-    // Whoever may write to a folder above a product's could have laid both.
+    // A user who may write to a folder above a product's could have made both files.
     const bool isLockOurs = IsOfOwnUser(files, input.target, LockPathOf(path));
     const auto bytes = ReadOwnJournal(files, input.target, path);
     if (!isLockOurs || !bytes)
@@ -335,7 +335,8 @@ bool Undo(const RollbackInput& input, const std::vector<JournalRecord>& steps,
     if (!rollback.UndoAll(steps))
         return false;
     removeJournal();
-    // Killed here, the setup leaves a count that is too high: the file stays, and that is all.
+    // A setup that is killed here leaves a count that is too high, whose only effect is that the
+    // file stays.
     rollback.LowerCounts();
     return true;
 }

@@ -32,10 +32,9 @@ void CleanUp(const RollbackInput& input, const std::vector<JournalRecord>& steps
 
 enum class EarlierRun { None, Finished, Incomplete };
 
-/// Brings to its end what an installation to that folder has left behind that was ended from
-/// outside: a committed one is cleared away, any other is taken back. Incomplete where something
-/// could not be taken back. Throws where such an installation is still at work, or where its
-/// journal is none to believe.
+/// Finishes an installation to that folder that was interrupted from outside: a committed one is
+/// cleared away, any other is taken back. Incomplete where something could not be taken back.
+/// Throws where such an installation is still at work, or where its journal may not be trusted.
 EarlierRun FinishInterrupted(const RollbackInput& input, const Text& mainFolder);
 
 /// Takes the write protection off first, if there is one.

@@ -76,7 +76,7 @@ std::vector<Text> FoldersOfStartedSetups(const FileSystem& files, const Target& 
     for (const RegistryRoot root : kRoots) {
         const auto data = target.ReadValue(KeyOf(root, product), kMainFolder);
         const Text folder = data ? TextOf(*data).value_or("") : Text();
-        // Anything may stand there.
+        // The value may hold any text, since others can write it.
         if (IsAbsolutePath(folder) && HasTrustedJournal(files, target, folder))
             folders.push_back(folder);
     }

@@ -91,7 +91,7 @@ void TransactionJournal::Begin(const Text& mainFolder, const Text& product)
         throw RunError(ErrorNumber::kPermissionDenied, path_);
     if (!IsOfOwnUser(host_.files, target_, LockPathOf(path_)))
         throw RunError(ErrorNumber::kPathFileAccess, LockPathOf(path_));
-    // What others may have laid here is no journal of ours.
+    // A file that another user may have made is no journal of this program.
     file_ = host_.files.OpenNew(path_);
     if (!file_)
         throw RunError(ErrorNumber::kPathFileAccess, path_);
@@ -117,8 +117,8 @@ Text TransactionJournal::TempPath(const Text& folder)
     return JoinPath(place.path, NumberText(++place.files));
 }
 
-// The number is left to chance: what an earlier run has given to the system to be moved at the next
-// start must not meet another file under its name.
+// The number is random: a move that an earlier run has left to the next restart must not find
+// another file under its name.
 void TransactionJournal::MakeTempFolder(const Text& beside, TempFolder& folder)
 {
     do
@@ -135,8 +135,8 @@ void TransactionJournal::Commit()
     if (file_)
         file_->Flush();
     Note(record::Committed{});
-    // Whoever finds that line clears away what the way back would need, so that there is none from
-    // here on: a disk that fails now is no reason to go it.
+    // The next run that finds this line removes what a rollback would need, so from here on there
+    // is none, even if the disk fails now.
     if (file_)
         RunErrorNumber([&] { file_->Flush(); });
 }

@@ -49,11 +49,11 @@ std::vector<Text> JournalPaths(const Text& mainFolder);
 /// Beside the journal, for as long as its installation runs.
 Text LockPathOf(const Text& journalPath);
 
-/// Whether such a file, a journal or its lock, may be believed: it belongs to administrators, to
-/// the system or to the user who runs this. On a server, which may know its users by names of its
-/// own, it belongs to whom a new file there belongs.
+/// Whether such a file, a journal or its lock, may be trusted: it belongs to administrators, to the
+/// system or to the user who runs this. On a server with users of its own, it belongs to the user
+/// to whom a new file there belongs.
 bool IsOfOwnUser(FileSystem& files, const Target& target, const Text& path);
-/// All bytes of a journal that may be believed; nothing of any other. Throws as
+/// All bytes of a journal that may be trusted; nothing of any other. Throws as
 /// `FileSystem::OpenInput` does.
 std::optional<std::string> ReadOwnJournal(FileSystem& files, const Target& target,
                                           const Text& path);
@@ -62,8 +62,8 @@ class TransactionJournal {
 public:
     TransactionJournal(Host& host, Target& target) : host_(host), target_(target) {}
 
-    /// From now on each step is on the disk before it is made. Throws where another
-    /// installation to the same folder is at work.
+    /// From now on each step is on the disk before it is made. Throws where another installation to
+    /// the same folder is at work.
     void Begin(const Text& mainFolder, const Text& product);
     void Note(JournalRecord step);
     /// About so many steps are still to come: where there are some ten thousand, growing bit by bit

@@ -78,7 +78,7 @@ void ActionLog::Close()
         if (file)
             file->Close();
     } catch (const RunError&) {
-        // The disk gave out at the very end; what it took is there to read.
+        // The disk is full. The log keeps what has been written so far.
     }
 }
 

@@ -52,8 +52,8 @@ private:
 /// A line of the readable log, with its time and its end.
 Text LogLine(const Machine& machine, std::string_view text);
 
-/// Opens the logs. Where one can't be made the failure is thrown on, but `log` has the file of the
-/// result where that can be made, so that it at least can say why.
+/// Opens the logs. Where one can't be made the failure is thrown, but `log` still has the file of
+/// the result where that can be made, so that the reason is written to it.
 void OpenLogs(ActionLog& log, FileSystem& files, const Machine& machine, const LogFiles& paths,
               const LanguageTexts& texts);
 

@@ -59,7 +59,7 @@ void CloseFile(std::unique_ptr<OutputFile> file)
         RunErrorNumber([&] { file->Close(); });
 }
 
-// A script may end the setup with any code, and everything is undone then.
+// A script may end the setup with any code; everything is undone then.
 const char* NameOfStop(ExitCode code)
 {
     const bool isOfSuccess = code == ExitCode::Done || code == ExitCode::RestartNeeded ||

@@ -14,7 +14,7 @@ namespace quillon {
 
 namespace {
 
-// Each part of a destination as a name that leads nowhere else.
+// Each part of a destination as a valid name, so that none leads out of the folder.
 Text FolderBelow(const Text& destination)
 {
     const Text mainFolder = Text(NameOf(VariableMeaning::MainFolder));

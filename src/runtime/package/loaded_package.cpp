@@ -41,7 +41,7 @@ void ReadLanguageFile(const FileSystem& files, const Text& path, LoadedPackage& 
     });
 }
 
-// Without it everything is said in Swedish.
+// Without the language file, all texts are in Swedish.
 void ReadLanguage(const FileSystem& files, const Text& folder, LoadedPackage& package)
 {
     const Text& name = package.setup.project.Language.LanguageFile;

@@ -20,12 +20,12 @@ struct LoadedPackage {
     std::optional<Reason> fault; // what is wrong with the package
 };
 
-/// Reads both INF files and the language file. `fault` names what is missing. A language
-/// file of that name goes before the project's own.
+/// Reads both INF files and the language file. `fault` says what is missing. `languageFile` is the
+/// name of a language file to use instead of the project's own.
 LoadedPackage LoadPackage(const FileSystem& files, const Text& packageFolder,
                           const Text& languageFile = {});
 
-/// The same without the file list, of files that may be made for a preview alone.
+/// The same without the file list, also from files that were made for a preview.
 LoadedPackage LoadSetupInformation(const FileSystem& files, const Text& packageFolder);
 
 } // namespace quillon

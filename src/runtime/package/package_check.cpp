@@ -43,7 +43,7 @@ private:
             Refuse({Message::PackageFileDamaged, kManifestName});
     }
 
-    // A manifest that has lost lines would let through what they were about.
+    // A manifest that has lost lines must not hide that the files in them are missing.
     void CheckListed() const
     {
         std::vector<Text> needed = FixedFilesOf(input_.setup, input_.rows);

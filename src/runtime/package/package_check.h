@@ -1,5 +1,5 @@
-// The package against its manifest, before anything is written: what a scratched disk, a download
-// that broke off or a hand in between has changed is found here and nowhere later.
+// Compares the package with its manifest before anything is written, so that damage by a scratched
+// disk, a broken download or a changed file is found here and nowhere later.
 #pragma once
 
 #include "formats/install_row.h"
@@ -24,8 +24,8 @@ struct PackageCheckInput {
 };
 
 /// Throws `SetupFailure` for the first file that is missing, is not listed, or is not what the
-/// manifest says. The pieces of the later disks are left to whoever puts the disks in. A package
-/// without a manifest passes, and the log says so.
+/// manifest says. The pieces on later disks are left to the caller that asks for the disks. A
+/// package without a manifest passes, and the log says so.
 void CheckAgainstManifest(const PackageCheckInput& input);
 
 } // namespace quillon

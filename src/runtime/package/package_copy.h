@@ -1,6 +1,6 @@
 // Files of the package that the setup copies to its private folder, to start or to install them
-// from there. The copy is compared with the manifest, and not the file in the package: nobody else
-// can change the copy, while the package may lie where anybody can.
+// from there. The copy is compared with the manifest, not the file in the package: others may be
+// able to change the package, but not the copy.
 #pragma once
 
 #include "formats/package_manifest.h"

@@ -48,7 +48,7 @@ PackageReader::~PackageReader()
         RunErrorNumber([&] { input_.host.files.RemoveFile(joinedFile_); });
 }
 
-// Nothing has been changed yet, so a file that is not there is the package's fault alone.
+// Nothing has been changed yet, so a missing file is a fault of the package.
 void PackageReader::FindInContainerOrRefuse()
 {
     try {
@@ -163,7 +163,7 @@ bool PackageReader::HasBytes(const InstallRow& row) const
     return entries_.contains(row.number);
 }
 
-// Of a file that lies by itself.
+// For a file outside the archives.
 Text PackageReader::PathOf(const InstallRow& row) const
 {
     return LooseFilePath(input_.packageFolder, input_.setup, row);

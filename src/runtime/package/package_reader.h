@@ -39,8 +39,8 @@ public:
     PackageReader(const PackageReader&) = delete;
     PackageReader& operator=(const PackageReader&) = delete;
 
-    /// Reads everything once: lengths everywhere, and every CRC in an archive that no manifest has
-    /// vouched for. Throws `ZipError`, or `SetupFailure`.
+    /// Reads everything once: all lengths, and every CRC in an archive that was not compared with a
+    /// manifest. Throws `ZipError`, or `SetupFailure`.
     void CheckEverything();
 
     /// False on a row that makes a folder, and on one that never had a source.

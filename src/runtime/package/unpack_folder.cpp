@@ -21,8 +21,8 @@ UnpackFolder::UnpackFolder(FileSystem& files, FolderGuard& guard, const Text& ba
     throw RunError(ErrorNumber::kPathFileAccess, base);
 }
 
-// The folder above is looked at once a lock below it is held: from then on nobody can put a link in
-// its place.
+// The folder above is checked while a lock below it is held, which keeps it from being replaced by
+// a link.
 bool UnpackFolder::TakeBase(const Text& base)
 {
     if (!files_.DirExists(base) && !files_.DirCreate(base))
@@ -46,7 +46,7 @@ bool UnpackFolder::TakeFolder()
     path_ = JoinPath(base_, WorkFolderName(static_cast<Long>(guard_.Number())));
     if (!guard_.MakeClosed(path_))
         return false;
-    // Another run that clears up may have come first.
+    // Another run may have removed it at the same time.
     RunErrorNumber([&] { lock_ = files_.Lock(JoinPath(path_, kWorkFolderLock), LockWait::None); });
     return lock_ != nullptr;
 }
@@ -71,7 +71,7 @@ void UnpackFolder::RemoveLeftOvers()
     }
 }
 
-// The lock's file goes with the lock.
+// The lock's file is removed with the lock.
 void UnpackFolder::RemoveAll(const Text& folder) const
 {
     for (const FolderEntry& entry : files_.List(folder)) {

@@ -1,29 +1,28 @@
-// The folder that a self-extracting program unpacks to for the length of one run. What stands there
-// already is not trusted: whoever could write beside it may have laid it out. So each run has a
-// fresh folder of its own, closed to others, and holds a lock in it, which also keeps the folders
-// above it from being moved away or exchanged.
+// The folder that a self-extracting program unpacks to for one run. Existing folders are not
+// trusted, since others may have made them. So each run makes a new folder, closed to others, and
+// holds a lock in it, which also keeps the folders above it from being moved or exchanged.
 #pragma once
 
 #include "platform/file_system.h"
 
 namespace quillon {
 
-/// What only the system itself can say and do.
+/// The calls of the system that this needs.
 class FolderGuard {
 public:
-    /// Makes a folder that nobody else may write to; false where something has the name already.
-    /// Throws `RunError` where none can be made.
+    /// Makes a folder that no other user may write to; false where the name is taken. Throws
+    /// `RunError` where none can be made.
     virtual bool MakeClosed(const Text& path) = 0;
-    /// Whether the path leads elsewhere.
+    /// Whether the path is a link.
     virtual bool IsLink(const Text& path) const = 0;
     /// Whether both belong to one user. What an administrator has made belongs to administrators,
-    /// and nobody else can give them anything.
+    /// and no other user can give them anything.
     virtual bool HaveSameOwner(const Text& path, const Text& other) const = 0;
     /// A number that no other run has at the same time.
     virtual unsigned Number() = 0;
 
 protected:
-    ~FolderGuard() = default; // nobody owns one by this class
+    ~FolderGuard() = default; // never deleted through this class
 };
 
 class UnpackFolder {

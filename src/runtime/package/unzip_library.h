@@ -1,6 +1,6 @@
-// The face of DUNZIP32.DLL, the library that unpacks a package's files: plain C, so that program
-// and library share nothing but these declarations and zlib's record of a stream. What an archive
-// says of itself is read by the setup, which catches what is wrong with it.
+// The interface of DUNZIP32.DLL, the library that unpacks a package's files: plain C, so that
+// program and library share only these declarations and zlib's record of a stream. The setup reads
+// the archive's own data, and reports what is wrong with them.
 #pragma once
 
 #include "archive/solid/frame_decoding.h"

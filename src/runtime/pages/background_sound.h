@@ -31,7 +31,7 @@ inline const SoundKind* KindOfSound(std::string_view file)
     return nullptr;
 }
 
-/// What opens the file for the commands of `PlayOverAndOver`.
+/// The command that opens the file, for `PlayOverAndOver`.
 inline Text OpenSoundCommand(const SoundKind& kind, std::string_view path)
 {
     return "open \"" + Text(path) + "\" type " + kind.device + " alias quillon";
@@ -65,9 +65,9 @@ class BackgroundSound {
 public:
     virtual ~BackgroundSound() = default;
 
-    /// Begins to play, over and over, and waits for nothing. Nothing is thrown.
+    /// Begins to play, over and over, without waiting. Never throws.
     virtual void Start() = 0;
-    /// Whether it has turned out by now that it can't be played.
+    /// Whether it is known by now that it can't be played.
     virtual bool HasFailed() const = 0;
 };
 

@@ -5,10 +5,9 @@
 
 namespace quillon {
 
-/// Components are given by their names or numbers, with commas between them; "!" in front leaves
-/// one out. As soon as one is wanted, all that are not named are left out; otherwise they stay as
-/// the project has them. The word that names none of the project's components comes back, if there
-/// is one.
+/// Components are given by their names or numbers, separated by commas; "!" in front excludes one.
+/// If any is chosen, all that are not named are excluded; otherwise they stay as the project has
+/// them. Returns the first word that is none of the project's components, if there is one.
 std::optional<Text> TakeComponents(std::string_view list, const SetupInformation& setup,
                                    UserChoices& choices);
 

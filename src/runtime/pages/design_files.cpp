@@ -107,7 +107,7 @@ private:
             throw RunError(ErrorNumber::kFileNotFound, path);
         return *entry;
     }
-    // When the first file is asked for; a package without such files has no archive of them.
+    // Opened when the first file is asked for; a package without such files has no archive of them.
     void Open() const
     {
         if (std::exchange(isOpened_, true))
@@ -146,7 +146,7 @@ ScalablePicture DesignFiles::SidePicture(const Text& name) const
     if (name.empty())
         return StandardSidePicture();
     PictureResult result = ReadPictureFile(*files_, name);
-    // The page is worth more than its picture.
+    // A picture that can't be shown must not stop the page, so the standard one takes its place.
     return result.fault == PictureFault::None ? std::move(result.picture)
                                               : ScalablePicture(StandardSidePicture());
 }

@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-// What a package has whose author never saw the design's tab.
+// The size of a surface whose author never opened the design's tab.
 constexpr int kUsualWidth = 640;
 constexpr int kUsualHeight = 480;
 

@@ -17,7 +17,7 @@ public:
     DesignScreen(const DesignScreen&) = delete;
     DesignScreen& operator=(const DesignScreen&) = delete;
 
-    /// While a page is shown the free pictures may have to stand back.
+    /// While a page is shown, the free pictures may have to be hidden.
     void Paint(const Canvas& canvas, Letters& letters, bool isPageShown) const;
 
     /// How long each of the changing pictures is shown, in milliseconds; 0 where nothing changes.
@@ -26,7 +26,7 @@ public:
     /// can't be shown is passed over.
     PixelRect ShowNext();
 
-    /// Expands the variables of its texts anew; whether one of them reads differently then.
+    /// Expands the variables of its texts again; true if one of them has changed by that.
     bool SetVariables(const SetupVariables& variables);
 
     int Width() const { return width_; }

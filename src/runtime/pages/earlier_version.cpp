@@ -18,7 +18,7 @@ std::optional<Text> FolderNamedBy(const Target& target, const RegistryKey& key, 
     const auto text = data ? TextOf(*data) : std::nullopt;
     if (!text)
         return std::nullopt;
-    // Programs also write down their own path, often in quotation marks.
+    // Programs also register their own path, often in quotation marks.
     const Text path = RemoveLastBackslash(TrimBlanks(RemoveQuotes(*text)));
     return IsAbsolutePath(path + "\\") ? std::optional(path) : std::nullopt;
 }
@@ -51,7 +51,7 @@ std::optional<Text> FolderOfProduct(const SetupInformation& setup, const FileSys
     return holds ? std::optional(folder) : std::nullopt;
 }
 
-// The one that the list of programs names.
+// The folder that the list of programs names.
 std::optional<EarlierVersion> ListedVersion(const SetupInformation& setup, const FileSystem& files,
                                             const Target& target, InstallScope wanted)
 {

@@ -27,7 +27,7 @@ enum class PageKind {
     InstallCompleted,
 };
 
-/// What a control is about. A page has each at most once, so that it names the control, too.
+/// The meaning of a control. A page has each at most once, so it also identifies the control.
 enum class PageField {
     None,
     BodyText,
@@ -58,7 +58,7 @@ enum class PieceKind {
     Paragraph, // text as high as its lines, up to a limit
     Rest,      // text that takes what room the other pieces leave
     Paper,     // the same, to be read: on paper, in a frame
-    RichPaper, // the same from RTF
+    RichPaper, // the same, read-only, in a frame
     Entry,     // a line to type in, its label before it or above
     Password,  // the same, each letter shown as an asterisk
     List,      // one of several lines, below its label
@@ -108,7 +108,7 @@ struct SetupPage {
     std::vector<PagePiece> pieces;
     PageButtons buttons = PageButtons::BackNextCancel;
     bool canGoBack = true;
-    bool canCancel = true; // where not, the button is grey, and Esc and the window's own do nothing
+    bool canCancel = true;             // else the button is grey, and Esc and closing do nothing
     PageField focus = PageField::None; // None: the button that leads on
 
     PagePiece* Find(PageField field)
@@ -139,7 +139,7 @@ public:
     /// Shows the page until the user wants to leave it. What is in its fields is in `page`
     /// afterwards.
     virtual PageAction Show(SetupPage& page, const PageListener& listener) = 0;
-    /// The pages are done with for now: something else shows what happens.
+    /// The pages are closed for now: something else shows the progress.
     virtual void Hide() = 0;
     /// What the variables stand for with the choices so far, for texts behind the pages. Called
     /// before each page, and once more when the choices are complete.

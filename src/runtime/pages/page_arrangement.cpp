@@ -72,7 +72,7 @@ private:
         top_ += room + Down(kGap);
     }
 
-    /// Without its label; what grows has none of its own.
+    /// Without its label; a piece that grows has no height of its own.
     int OwnHeight(const PagePiece& piece) const
     {
         switch (piece.kind) {
@@ -146,7 +146,7 @@ private:
         }
         placed.field = {left_, top_, right_, top_ + height};
         if (HasLabelBefore(piece)) {
-            // On the height of the letters in the field.
+            // Centred on the height of the letters in the field.
             const int inset = (height - Down(kLineHeight)) / 2;
             placed.label = {left_, top_ + inset, left_ + labels, top_ + inset + Down(kLineHeight)};
             placed.field.left += labels;

@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-// A package without a password, and a user who has given it already, are not asked for one.
+// No password is asked for where the package has none, or where it was given already.
 std::vector<PageKind> PagesBefore(const PageInput& input)
 {
     std::vector<PageKind> pages = PagesOf(input.setup);
@@ -37,7 +37,7 @@ PageChain::End PageChain::ShowPages(PageView& view)
     for (std::size_t at = 0; at < pages.size();) {
         SetupPage page = MakePage(state_, pages[at]);
         page.canGoBack = at > 0;
-        // Who declines an agreement can't be made to go on.
+        // The user can't go on without accepting the agreement.
         page.canCancel = input_.canCancel || page.buttons == PageButtons::BackYesNo;
         switch (Show(view, page)) {
         case PageAction::Back:

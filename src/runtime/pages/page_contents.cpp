@@ -16,7 +16,7 @@ namespace {
 using section::DialogBoxData;
 using section::LicenseData;
 
-// An agreement is a document, not a package.
+// More than any agreement has.
 constexpr std::uint64_t kMaxAgreementSize = 16 * 1024 * 1024;
 constexpr int kMaxDescriptionHeight = 17; // dialog units
 
@@ -272,7 +272,7 @@ private:
         page_.focus = PageField::Group;
     }
 
-    // What will be done, so that the user can go back where it is not what was meant.
+    // A summary, so that the user can still go back and change something.
     Text WithSummary() const
     {
         Text text = OwnText();

@@ -88,7 +88,7 @@ int SelectedComponent(const PageState& state, const SetupPage& page)
     return isOne ? numbers[std::size_t(list->selected)] : 0;
 }
 
-// Only a folder that the user has changed: any other goes on to follow the main one.
+// Only a folder that the user has changed is stored: any other keeps following the main one.
 void StoreComponentFolder(PageState& state, const SetupPage& page, int number)
 {
     const PagePiece* const entry = page.Find(PageField::Folder);
@@ -124,7 +124,7 @@ bool MayTakeFolder(PageState& state, const SetupPage& page)
     const Text folder = TypedFolder(page);
     if (!IsFolder(folder))
         return RefuseFolder(state, TextOf(page, PageField::Folder));
-    // What the user can still leave out is no reason to refuse the place.
+    // Components that the user can still leave out do not count.
     if (!HasRoom(state, state.MinSpace()))
         return false;
     const bool warns = state.setup.project.DialogBoxData.WarnIfDestDirExists != kOff &&
@@ -222,7 +222,7 @@ void ShowComponent(const PageState& state, SetupPage& page)
     const int number = SelectedComponent(state, page);
     if (number == 0)
         return;
-    // As the page says it of the first one.
+    // The page shows the first component in the same way when it opens.
     const auto& component = state.setup.project.FileComponents[std::size_t(number) - 1];
     const SetupVariables variables = state.Variables();
     const bool expands =
@@ -247,7 +247,7 @@ void StoreAnswers(PageState& state, const SetupPage& page)
         StoreUser(state, page);
         break;
     case PageKind::Destination:
-        // One that is none is shown again as it was typed.
+        // An invalid folder is shown again as it was typed.
         if (const Text folder = TypedFolder(page); folder != state.MainFolder())
             state.choices.destination = folder;
         break;

@@ -55,10 +55,10 @@ SetupPage MakeDocumentPage(const PageState& state, const Text& title, const std:
 /// Takes what has been typed and ticked.
 void StoreAnswers(PageState& state, const SetupPage& page);
 
-/// Whether the page's answers will do; the user is informed where not.
+/// Whether the page's answers are valid; where not, a box says so.
 bool MayLeavePage(PageState& state, SetupPage& page);
 
-/// What follows from a change of the field, on the same page.
+/// Updates the page after a change of the field.
 void ReactTo(PageState& state, SetupPage& page, PageField field);
 
 /// Where the groups of programs are made.

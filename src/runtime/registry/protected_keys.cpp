@@ -193,7 +193,7 @@ bool TakesFirst(Parts& key, std::string_view name)
     return true;
 }
 
-// What 32-bit programs see stands once more below this name.
+// The part for 32-bit programs has the same keys once more below this name.
 void ForgetWow64(Parts& key)
 {
     if (!key.empty() && EqualIgnoreCase(key[0], "Wow6432Node"))

@@ -1,6 +1,6 @@
-// The registry keys that belong to the system and to everybody's programs. No setup and no
-// uninstaller removes one of them with all that is below it, whatever a list or a journal says: a
-// variable that turns out empty makes such a key of a harmless one.
+// The registry keys that belong to the system and to all programs. No setup and no uninstaller
+// removes one of them with all that is below it, whatever a list or a journal says: a variable that
+// turns out empty can make such a key of a harmless one.
 #pragma once
 
 #include "runtime/target.h"

@@ -33,8 +33,8 @@ Text PlainSubKey(std::string_view subKey);
 /// True for a key that the system itself lives in, and for a root.
 bool IsSystemKey(const RegistryKey& key);
 
-/// True where a line would take the system along: a whole key of its own with all below it. A
-/// variable that turns out empty makes such a key of a harmless one.
+/// True where a line would remove a whole key of the system with all that is below it. A variable
+/// that turns out empty can make such a key of a harmless one.
 bool RemovesSystemKey(const RegistryLine& line);
 
 struct RegistryListLine {

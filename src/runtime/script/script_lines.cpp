@@ -216,7 +216,7 @@ private:
         return true;
     }
 
-    // The branch before ends here, at an Else or an End; each If has one Else at most.
+    // The branch before this command ends here, at an Else or an End; each If has one Else at most.
     Fault CloseBranch(bool opensAnother)
     {
         std::vector<ScriptCommand>& commands = script_.commands;

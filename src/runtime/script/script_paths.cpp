@@ -9,8 +9,7 @@ namespace quillon {
 
 namespace {
 
-// The folders that the setup uses whatever a script says. A link above one of them is the machine
-// owner's own arrangement.
+// The folders that the setup uses in any case. Links above them are set up by the machine's owner.
 constexpr VariableMeaning kKnownFolders[] = {
     VariableMeaning::MainFolder,
     VariableMeaning::SystemFolder,

@@ -25,7 +25,7 @@ private:
     Reason reason_;
 };
 
-// A program is started by what its name ends with.
+// A program is started by the extension of its name.
 Text ScriptProgramFor(const Text& name)
 {
     for (const char* copy : kScriptPrograms)
@@ -191,8 +191,8 @@ Text ScriptRun::PathIn(const Text& argument) const
     return path;
 }
 
-// To a folder, the file keeps its name. One that the product did not bring keeps a second name, and
-// has its own again when the product is uninstalled.
+// Copied to a folder, the file keeps its name. A file that it replaces and that is not the
+// product's own is kept as a backup, which is put back when the product is uninstalled.
 void ScriptRun::Copy(const Text& from, const Text& to)
 {
     const Text place = files_.DirExists(to) ? JoinPath(to, ExtractFilename(from)) : to;
@@ -224,8 +224,8 @@ void ScriptRun::Delete(const Text& path)
     input_.log.Line(Message::LogRemoves, path);
 }
 
-// A copy and a removal, of which each can be taken back any number of times. The user's own file is
-// still the user's under its new name.
+// As a copy and a removal, each of which can be undone any number of times. A file of the user's
+// stays the user's under its new name.
 void ScriptRun::Rename(const Text& from, const Text& to)
 {
     if (files_.FileExists(to) || files_.DirExists(to))
@@ -257,8 +257,8 @@ void ScriptRun::WriteRegistry(const Text& text)
     ApplyRegistryLine({work_.transaction, work_.journal, input_.log}, line);
 }
 
-// Beside the package anybody may have laid a program, and libraries for it: there only the
-// package's own are started, and from a copy that nobody else can exchange.
+// Others may have put programs and libraries beside the package: of that folder only the package's
+// own programs are started, and from a copy that others can't replace.
 Text ScriptRun::ProgramToStart(const Text& program) const
 {
     const Text folder = variables_.Value(NameOf(VariableMeaning::SetupFolder)) + "\\";

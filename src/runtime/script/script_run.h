@@ -3,8 +3,8 @@
 // can't be done ends the installation.
 //
 // A script reaches no further than the setup itself: a path has to be whole and plain, and to lead
-// through no link but those above the folders that the setup uses anyway. Whoever may write to a
-// folder on the way could lead an administrator's setup elsewhere by a link.
+// through no link but those above the folders that the setup uses anyway. A user who may write to a
+// folder on the way could otherwise lead an administrator's setup elsewhere by a link.
 #pragma once
 
 #include "runtime/install/install.h"

@@ -62,7 +62,7 @@ std::optional<Reason> ReasonOf(const std::exception& error)
         return ReasonOf(*machine);
     if (const auto* archive = dynamic_cast<const ZipError*>(&error))
         return ReasonOf(*archive);
-    // Where the user has cancelled there is nothing to explain.
+    // No reason is given where the user has cancelled.
     if (const auto* setup = dynamic_cast<const SetupFailure*>(&error))
         return *setup->what() == 0 ? std::optional(Reason{Message::ReasonCancelled}) : std::nullopt;
     return Reason{Message::ReasonUnexpected};

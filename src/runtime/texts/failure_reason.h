@@ -21,7 +21,7 @@ std::optional<Reason> ReasonOf(const std::exception& error);
 
 Text FailureReason(const std::exception& error, const LanguageTexts& texts);
 
-/// What an installation that the error has ended says to its user, and the code that it ends with.
+/// The message for the user after the error has ended an installation, and the exit code.
 SetupFailure FailureOfSetup(const std::exception& error, const LanguageTexts& texts);
 
 /// Ends the installation because of the package itself: nothing has been changed yet.

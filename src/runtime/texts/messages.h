@@ -304,8 +304,8 @@ struct MessageKey {
 };
 const MessageKey& KeyOf(Message message);
 
-/// True for the texts that the uninstaller shows or logs. The package with its language file is far
-/// away by then, so an installation records them.
+/// True for the texts that the uninstaller shows or logs. An installation records them, since the
+/// uninstaller has no access to the package with its language file.
 bool IsOfUninstaller(Message message);
 
 /// Why something is so, before it is said in the language of the package: logic that finds a reason

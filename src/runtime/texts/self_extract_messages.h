@@ -13,7 +13,7 @@ inline constexpr StarterMessage kDiskFull = StarterMessages::kNoRoom;
 inline constexpr StarterMessage kFailed{"Msg_ExeFailed", "Installationen kan inte packas upp: '%1'."};
 inline constexpr StarterMessage kHelp{"Msg_ExeHelp", "/extract:mapp packar upp filerna i mappen och installerar ingenting. /version visar version. Andra växlar går vidare till installationsprogrammet."};
 inline constexpr StarterMessage kNoFolder{"Msg_ExeNoFolder", "Växeln /extract behöver en mapp."};
-inline constexpr StarterMessage kUnpacking{"Msg_Extract", ""}; // nothing is shown then
+inline constexpr StarterMessage kUnpacking{"Msg_Extract", ""}; // the window is not shown then
 } // namespace SelfExtractMessages
 // clang-format on
 

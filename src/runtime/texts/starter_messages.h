@@ -1,5 +1,5 @@
-// The texts of a starter before there is a language file or a journal to look into, or where that
-// lacks it: the keys of those two, and the text in Swedish. The programs carry these texts alone.
+// The texts of a starter before a language file or a journal can be read, or where that lacks them:
+// the keys of those two, and the text in Swedish. The programs carry these texts alone.
 #pragma once
 
 namespace quillon {

@@ -1,6 +1,5 @@
-// The texts that the starter shows, which come before there is room for anything: read from the
-// language file by as little code as will do, without allocating. What the file may be, and what
-// counts in it, is as in `language_file.h`.
+// The texts that the starter shows before the setup proper runs: read from the language file by as
+// little code as possible, without allocating. Encodings and rules are those of `language_file.h`.
 #pragma once
 
 #include <string_view>

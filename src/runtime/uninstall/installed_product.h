@@ -28,7 +28,7 @@ struct JournalToRewrite {
     const Text& path;
 };
 
-/// Writes the journal anew without the records that count those shared files; the paths are in
+/// Writes the journal again without the records that count those shared files; the paths are in
 /// lower case.
 void ForgetSharedFiles(const JournalToRewrite& journal, const std::vector<JournalRecord>& records,
                        const std::set<Text>& paths);
@@ -36,14 +36,14 @@ void ForgetSharedFiles(const JournalToRewrite& journal, const std::vector<Journa
 /// Whether the journal is one of a product in the folder of that program.
 bool IsInSameFolder(const FileSystem& files, const Text& journalPath, const Text& program);
 
-/// The uninstaller takes no other journal: it would remove whatever is named in a file that
-/// somebody has given it. A journal beside the program must not belong to a user with fewer rights
+/// The uninstaller takes no other journal: it would remove whatever a file names that another user
+/// has passed to it. A journal beside the program must not belong to a user with fewer rights
 /// either, unless the program belongs to the same user.
 bool IsTrusted(const FileSystem& files, const Target& target, const Text& journalPath,
                const Text& program);
 
-/// Products that share a main folder share the uninstaller in it: true where this product's going
-/// takes along the program at `uninstaller`.
+/// Products that share a main folder share the uninstaller in it: true where removing this product
+/// also removes the program at `uninstaller`.
 bool IsUninstallerRemovedWith(const FileSystem& files, const Text& journalPath,
                               const Text& uninstaller);
 

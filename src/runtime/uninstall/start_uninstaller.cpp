@@ -20,8 +20,8 @@ std::optional<UninstallCommand> InstalledCommand(const UninstallerStart& start)
     return std::nullopt;
 }
 
-// Anybody may have written the entry of a user: only a program of ours in a place where nobody with
-// fewer rights can have put it is started with the setup's rights.
+// A user without rights can write the entry of a user: only a program of ours in a place that no
+// user with fewer rights can write to is started with the setup's rights.
 bool IsOurUninstaller(const UninstallerStart& start, const Text& program)
 {
     return EqualIgnoreCase(ExtractFilename(program), RuntimePrograms::kUninstaller.name) &&

@@ -134,7 +134,7 @@ void Uninstallation::LeaveToRestart(const Text& path)
     NoteLeft(path, input_.product.texts[Message::ReasonAtRestart]);
 }
 
-// One thing that can't be removed keeps nothing else from going.
+// A failure at one record does not stop the removal of the others.
 template <class Work>
 void Uninstallation::Attempt(const Text& what, Work work)
 {
@@ -147,8 +147,8 @@ void Uninstallation::Attempt(const Text& what, Work work)
     }
 }
 
-// The program, its journal and its entry in the system's list go when nothing else is left: whoever
-// is interrupted, or could not remove everything, can begin again.
+// The program, its journal and its entry in the system's list are removed last: an uninstallation
+// that was interrupted, or could not remove everything, can be started again.
 UninstallResult Uninstallation::Run()
 {
     const auto hold = input_.target.HoldShutdown(input_.product.texts[Message::UninstallRunning]);
@@ -193,7 +193,7 @@ void Uninstallation::UndoAll(Part part)
     }
 }
 
-// The keys above the entry can only go after it.
+// The keys above the entry can be removed only after it.
 bool Uninstallation::IsOfEntry(const JournalRecord& record) const
 {
     if (const auto* const value = std::get_if<record::Value>(&record))
@@ -274,7 +274,7 @@ void Uninstallation::RestoreBackup(const Text& path, const Text& backup)
     ForgetMoveAtRestart(input_.target, path);
 }
 
-// Behind the removal of the file that is in use now.
+// Placed behind the removal of the file that is in use now.
 void Uninstallation::PutBackAtRestart(const Text& path, const Text& backup)
 {
     ForgetMoveAtRestart(input_.target, backup);
@@ -283,8 +283,8 @@ void Uninstallation::PutBackAtRestart(const Text& path, const Text& backup)
     NoteLeft(backup, input_.product.texts(Message::ReasonBackAtRestart, path));
 }
 
-// Nothing but our journal says that the count of a file's users holds one for us, so the journal
-// forgets it first: an uninstallation that is begun again must not count down twice.
+// Only our journal says that this product is in the count of a file's users. So the journal is
+// changed first: an uninstallation that is repeated must not lower the count twice.
 void Uninstallation::ReleaseSharedFiles()
 {
     if (paths_.ToRelease().empty())
@@ -301,9 +301,9 @@ void Uninstallation::ReleaseSharedFiles()
     }
 }
 
-// The product that goes last takes a shared file along. Where the count has been lost nobody knows
-// who is last, and only a file of our own goes, by its own record. The count goes after the file,
-// so that it is still known where that fails.
+// The last product that uses a shared file removes it. Where the count is lost, the last one is
+// unknown, and a file is removed only if it has a record of its own. The count is removed after the
+// file, so that it is still known if that fails.
 void Uninstallation::RemoveSharedFile(const Text& path)
 {
     if (paths_.IsShared(path) || !CountOfUsers(input_.target, path))
@@ -346,7 +346,7 @@ void Uninstallation::RemoveKeyIfEmpty(const RegistryKey& key)
     input_.log.Line(Message::LogRemovesRegistry, KeyText(key));
 }
 
-// What UNINSTALL= asks for may have emptied keys whose own turn came before.
+// The lines of UNINSTALL= may have emptied keys whose own turn came before.
 void Uninstallation::RemoveKeysThatAreEmptyByNow()
 {
     for (const RegistryKey& key : std::exchange(keysLeft_, {}))
@@ -373,7 +373,8 @@ void Uninstallation::RemoveKeyWithAllBelow(const RegistryKey& key)
     input_.log.Line(Message::LogRemovesRegistry, KeyText(key));
 }
 
-// The file that would have taken its place at the next start goes; the one that is there stays.
+// Removes the file that would have replaced another one at the next start; the one that is there
+// stays.
 void Uninstallation::UndoRestart(const record::AtRestart& move)
 {
     const Text place = LowerCase(ExtractDirectory(move.to) + "\\");
@@ -398,7 +399,7 @@ void Uninstallation::RemoveProductItself()
     RemoveFile(input_.journalPath);
 }
 
-// Not before the uninstaller: while that can be started it has to find them.
+// After the uninstaller, which needs them as long as it can be started.
 void Uninstallation::RemoveWhatUninstallerLines(const Text& uninstaller)
 {
     for (const Text& path : FilesOfUninstaller(mainFolder_))
@@ -408,8 +409,8 @@ void Uninstallation::RemoveWhatUninstallerLines(const Text& uninstaller)
             RemoveFile(path);
 }
 
-// The main folder and those above it hold the journal, and without it nobody knows which folders
-// are the product's.
+// The main folder and those above it hold the journal, without which the product's folders are not
+// known.
 void Uninstallation::RemoveFolders(Folders which)
 {
     const Text journal = LowerCase(input_.journalPath);

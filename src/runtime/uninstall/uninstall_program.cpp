@@ -38,7 +38,7 @@ void UninstallProgram::Prepare()
     // A run that is refused, or only informs, changes nothing.
     if (GivenSwitches().badSwitch || input_.otherSetupRuns || OnlyShowsInformation())
         return;
-    // A setup that was killed is brought to its end first, so that the log says what is there.
+    // A setup that was killed is finished first, so that the log says what is there.
     FinishEarlierSetup(ExtractDirectory(input_.program));
     if (product_) {
         const Text name = product_->name;
@@ -137,7 +137,7 @@ Text UninstallProgram::InstalledVersion() const
     return data ? TextOf(*data).value_or("") : Text();
 }
 
-// What is asked for is shown also where boxes are not wanted, but never under /S.
+// The answer to /? and the like is shown also where boxes are suppressed, but never under /S.
 ExitCode UninstallProgram::Tell(Ask& ask)
 {
     const std::vector<Text> lines =

@@ -1,5 +1,5 @@
-// The uninstaller as a whole: from its command line to an exit code. What the program for Windows
-// adds is its windows, the machine's own registry, and the way its own file goes.
+// The uninstaller as a whole: from its command line to an exit code. The program for Windows adds
+// its windows, the machine's registry, and the removal of its own file.
 #pragma once
 
 #include "runtime/command_line/switches.h"
@@ -19,7 +19,7 @@ struct UninstallProgramInput {
     RunningProgram* running = nullptr; // that file, where it runs
 };
 
-/// The uninstaller's windows beside the boxes of `Ask`. Where nothing is shown, nobody cancels.
+/// The uninstaller's windows beside the boxes of `Ask`. Without windows the user can't cancel.
 class UninstallView {
 public:
     virtual ~UninstallView() = default;
@@ -35,8 +35,8 @@ public:
     UninstallProgram(const UninstallProgram&) = delete;
     UninstallProgram& operator=(const UninstallProgram&) = delete;
 
-    /// Finds the product, and brings to its end what a killed setup has left. Throws where that
-    /// can't be done, or where the log of /LOG= can't be made.
+    /// Finds the product, and finishes a setup that was killed. Throws where that can't be done, or
+    /// where the log of /LOG= can't be made.
     void Prepare();
     /// In the language of the installation, once that is known.
     const LanguageTexts& Texts() const { return texts_; }

@@ -1,5 +1,5 @@
-// The display that the setup is shown on: the one with the pointer when its first window comes,
-// since that is where its user has started it. Its other windows follow the first one.
+// The display that the setup is shown on: the one with the pointer when its first window is shown.
+// Its other windows follow the first one.
 #pragma once
 
 #include "design/canvas.h"

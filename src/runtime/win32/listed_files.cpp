@@ -6,7 +6,7 @@
 
 namespace {
 
-// As long as the longest list of files makes it, several times over.
+// Several times the size of the longest possible list of files.
 constexpr DWORD kMaxManifestSize = 64U * 1024 * 1024;
 
 HANDLE OpenToRead(const wchar_t* path)

@@ -1,19 +1,19 @@
-// A starter's look at the manifest of what it is about to start: of the package, which has to be
-// what Create wrote, or of the uninstaller. Like the starters it takes nothing from the standard
-// library that needs its code.
+// Compares files with the manifest before a starter starts them: with the manifest of the package,
+// which has to be as Create wrote it, or of the uninstaller. Like the starters it links none of the
+// standard library.
 #pragma once
 
 #include "helpers/sha256.h"
 
 #include <string_view>
 
-/// The manifest as one piece of memory, which the system takes back at the program's end.
+/// The manifest in one piece of memory, which the system frees when the program ends.
 class ListedFiles {
 public:
     /// `path` is the manifest's.
     explicit ListedFiles(const wchar_t* path);
 
-    /// False in a package without a manifest, whose files are taken as they come.
+    /// False in a package without a manifest, whose files are not compared.
     bool AreKnown() const { return isThere_; }
 
     /// Whether the file at `path` is the one that the manifest calls `name`.

@@ -21,8 +21,8 @@ struct Box {
     bool hasOkAlone;
 };
 
-// A hook gets nothing but what happens, so the box that it is for has to stand here; boxes are
-// shown by one thread, one at a time.
+// A hook gets no data of its own, so the box that it is for is stored here; one thread shows all
+// boxes, one at a time.
 const Box* shownBox = nullptr;
 
 bool IsDialog(HWND window)

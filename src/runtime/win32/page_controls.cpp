@@ -79,8 +79,8 @@ PageControls::PageControls(HWND window, const PageLetters& letters, const SetupP
                            const PageArrangement& arrangement, const PageCaptions& captions)
     : window_(window), letters_(letters), shown_(page)
 {
-    // In the order of the Tab key. A label stands right before what it names, which is how a screen
-    // reader finds the name.
+    // In the order of the Tab key. A label is right before the control that it names, since screen
+    // readers find the name there.
     AddTitle(page, arrangement);
     for (std::size_t i = 0; i < page.pieces.size(); ++i)
         AddPiece(page.pieces[i], arrangement.pieces[i]);

@@ -1,5 +1,5 @@
-// The controls of one page: real ones of the system, made from a page's description, filled, read
-// back, and gone with this object.
+// The controls of one page: real ones of the system, made from a page's description. They are
+// destroyed with this object.
 #pragma once
 
 #include "runtime/pages/page_arrangement.h"
@@ -39,7 +39,7 @@ public:
     /// Shows what has changed in the page since it was read.
     void Refresh(const SetupPage& page);
     void FocusOn(PageField field) const;
-    /// A text on paper, which takes keys that belong to the page.
+    /// Whether it is a text on paper, whose Tab, Enter and Esc belong to the page.
     bool IsPaper(HWND control) const;
 
 private:

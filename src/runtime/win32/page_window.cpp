@@ -64,7 +64,7 @@ PageWindow::PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& 
     letters_ = std::make_unique<PageLetters>(DpiOf(window_));
 }
 
-// Before it is measured: letters have another size on another display.
+// Before it is measured, since letters have another size on another display.
 void PageWindow::MoveToDisplay(const Display& display)
 {
     SetWindowPos(window_, nullptr, display.workArea.left, display.workArea.top, 0, 0,
@@ -129,8 +129,8 @@ void PageWindow::OnCommand(int id, int what)
     const int field = id - ControlId(PageField::None);
     if (field <= 0 || field >= static_cast<int>(PageField::Count))
         return;
-    // A click on a button is the same number as the change of a selection, and a line that loses
-    // the focus has another.
+    // BN_CLICKED and LBN_SELCHANGE have the same number, while a line sends EN_KILLFOCUS when it
+    // loses the focus.
     const bool isLine = id == ControlId(PageField::Folder);
     if (what == (isLine ? int(EN_KILLFOCUS)
                  : id == ControlId(PageField::Drives) || id == ControlId(PageField::Groups)
@@ -165,7 +165,8 @@ void PageWindow::Leave(PageAction action)
     action_ = action;
 }
 
-// What scrolls is there to be read: Tab, Enter and Esc belong to the page.
+// The text scrolls by the arrow and page keys. Tab, Enter and Esc must still work as on the rest of
+// the page, so the field does not get them.
 bool PageWindow::TakesKeyOfPaper(const MSG& message)
 {
     if (message.message != WM_KEYDOWN || !controls_->IsPaper(message.hwnd))
@@ -210,7 +211,8 @@ PageAction PageWindow::Show(SetupPage& page, const PageListener& listener)
     return action_.value_or(PageAction::Cancel);
 }
 
-// Pages come when the package's files have been found to be whole, and so does the screen.
+// Called when a page comes and when it goes. Pages are shown only after the package's files have
+// been checked, so the screen too is shown only then.
 void PageWindow::ShowBehind(bool isPageShown)
 {
     if (behind_ == nullptr)
@@ -237,7 +239,7 @@ void PageWindow::Build()
 {
     isBusy_ = true;
     const PageArrangement arrangement = ArrangePage(*page_, *letters_);
-    // A hidden window would become a visible one by this.
+    // WM_SETREDRAW would make a hidden window visible.
     const bool isVisible = IsWindowVisible(window_) != FALSE;
     if (isVisible)
         SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
@@ -272,7 +274,7 @@ void PageWindow::FitWindow(const PageArrangement& arrangement)
     const int height = frame.bottom - frame.top;
     RECT now{};
     GetWindowRect(window_, &now);
-    // In the middle at first; afterwards where the user has put it.
+    // In the middle at first; afterwards at the place to which the user has moved it.
     const WindowPlace place = isPlaced_ ? WindowPlace{now.left, now.top}
                                         : InTheMiddle(DisplayOf(window_).workArea, width, height);
     SetWindowPos(window_, nullptr, place.left, place.top, width, height,

@@ -1,4 +1,5 @@
-// The window of the pages. It stays the same one from page to page; what is in it is made anew.
+// The window of the pages. It stays the same from page to page; its contents are made for each
+// page.
 #pragma once
 
 #include "design/scalable_picture.h"
@@ -19,8 +20,8 @@ class PageWindow : public PageView {
 public:
     using PictureSource = std::function<ScalablePicture(const Text& bitmap)>;
 
-    /// `ask` is the window of the installation, which steps aside for the pages.
-    /// `behind` is the screen, if there is one, and is notified when a page comes and goes.
+    /// `ask` is the window of the installation, which is hidden while a page is shown.
+    /// `behind` is the screen, if there is one; it is told when a page comes and goes.
     PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& texts,
                PictureSource pictures, ScreenWindow* behind = nullptr);
     ~PageWindow() override;
@@ -58,7 +59,7 @@ private:
     SetupPage* page_ = nullptr; // while it is shown
     const PageListener* listener_ = nullptr;
     std::optional<PageAction> action_;
-    bool isBusy_ = false; // controls are being made or filled: what they say is no news
+    bool isBusy_ = false; // controls are made or filled: notifications are ignored
     bool isPlaced_ = false;
     std::optional<Text> shownBitmap_;
     ScalablePicture original_;

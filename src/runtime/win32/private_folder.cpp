@@ -21,7 +21,7 @@ Text MakePrivateFolder(Host& host)
         return (GetFileAttributesW(WidePath(path).c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
     });
     Text path;
-    // Only a folder that did not exist before is private, so its making has to say so itself.
+    // Only a new folder is private, so another name is tried where one exists already.
     do {
         path = JoinPath(parent, WorkFolderName(host.machine.Random(1000000)));
         if (MakeLockedFolder(WidePath(path).c_str()))

@@ -23,7 +23,7 @@ private:
     std::unique_ptr<FileLock> lock_; // tells a living setup's folder from one that was left behind
 };
 
-/// Such a folder that stays; its path. Throws where none can be made.
+/// The same for a folder that is not removed; its path. Throws where none can be made.
 Text MakePrivateFolder(Host& host);
 
 } // namespace quillon

@@ -10,8 +10,8 @@ namespace quillon {
 
 namespace {
 
-// Loaded in the course of a run by the system's own libraries: for windows and their looks, for the
-// rights of files, for objects and shortcuts, and for starting other programs.
+// Libraries that the system's own libraries load while a program runs: for windows and their
+// themes, for the rights of files, for COM objects and shortcuts, and for starting other programs.
 constexpr const char* kCommonLibraries[] = {
     "version.dll", "uxtheme.dll",     "comctl32.dll", "shlwapi.dll", "imm32.dll",
     "msctf.dll",   "usp10.dll",       "lpk.dll",      "dwmapi.dll",  "ntmarta.dll",
@@ -51,8 +51,8 @@ FARPROC WINAPI OnDelayedLoad(unsigned event, PDelayLoadInfo info)
     return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(loaded));
 }
 
-// The error mode keeps the box away, but not a debugger that is set up to look at crashes: it would
-// wait for somebody, and hold the files that the program had loaded.
+// The error mode suppresses the box, but not a debugger that is set up for crashes: it would wait
+// for a user, and hold the files that the program had loaded.
 LONG WINAPI EndAtOnce(EXCEPTION_POINTERS* crash)
 {
     TerminateProcess(GetCurrentProcess(), crash->ExceptionRecord->ExceptionCode);

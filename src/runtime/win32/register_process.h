@@ -3,8 +3,8 @@
 // back what an earlier one has left, the running program starts itself once more for each such
 // file.
 //
-// The file's name goes through a pipe that only the parent can hand down: named on the command
-// line, this program would load, with an administrator's rights, whatever library somebody names.
+// The file's name goes through a pipe that only the parent can pass on: if it were on the command
+// line, anyone could make this program load any library with an administrator's rights.
 #pragma once
 
 #include "helpers/text.h"

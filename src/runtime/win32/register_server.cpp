@@ -35,7 +35,7 @@ int RunHiddenAndWait(const wchar_t* program, wchar_t* commandLine)
 {
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
-    // Whatever a file shows when it registers itself, nobody is there to close it.
+    // Hidden, since no user may be there to close what the program shows.
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = SW_HIDE;
     PROCESS_INFORMATION process{};

@@ -10,7 +10,7 @@ constexpr DWORD kPlannedInstallation = 0x80040002; // planned; application, inst
 
 } // namespace
 
-// Even an administrator has to ask for it.
+// Even an administrator has to enable this right.
 bool MayRestartMachine()
 {
     HANDLE token = nullptr;
@@ -20,7 +20,7 @@ bool MayRestartMachine()
     TOKEN_PRIVILEGES rights{};
     rights.PrivilegeCount = 1;
     rights.Privileges[0].Attributes = SE_PRIVILEGE_ENABLED;
-    // It succeeds too where the user has no such right, and says so in its error alone.
+    // The call succeeds also where the user has no such right; only the last error says so.
     return LookupPrivilegeValueW(nullptr, L"SeShutdownPrivilege", &rights.Privileges[0].Luid) &&
            AdjustTokenPrivileges(token, FALSE, &rights, 0, nullptr, nullptr) &&
            GetLastError() == ERROR_SUCCESS;

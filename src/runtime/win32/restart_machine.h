@@ -1,12 +1,12 @@
-// Starts the machine anew.
+// Restarts the machine.
 #pragma once
 
 namespace quillon {
 
-/// False where Windows refuses. Programs are asked to end, and may refuse for their users.
-/// Takes the right to start the machine anew; false where the user has none.
+/// Enables the right to restart the machine; false where the user has none.
 bool MayRestartMachine();
-/// False where it goes on running, which is so where it is on its way down already.
+/// Programs are asked to end, and may refuse. False where Windows refuses, as when a shutdown is
+/// already in progress.
 bool RestartMachine();
 
 } // namespace quillon

@@ -61,7 +61,7 @@ bool RestartManager::IsHeld(const Text& path) const
 
 std::vector<Text> RestartManager::ProgramsHolding(const std::vector<Text>& files)
 {
-    // What was closed before is started again by its own session alone.
+    // Only the session that closed the programs can start them again.
     if (!hasClosed_)
         End();
     if (!isOpen_ && !Begin())

@@ -1,4 +1,4 @@
-// Windows' own knowledge of who holds which file: its Restart Manager, from Windows Vista on.
+// Which programs hold which files, by Windows' Restart Manager, from Windows Vista on.
 #pragma once
 
 #include "runtime/file_users.h"

@@ -91,7 +91,7 @@ void ScreenSound::Start()
             return;
         isUnplayable_ = !StartPlayer(OpenSoundCommand(*kind, MakeFile(*kind)));
     } catch (const RunError&) {
-        // A setup without its sound is a setup all the same.
+        // A failure of the sound must not stop the setup.
     }
 }
 

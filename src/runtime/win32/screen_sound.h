@@ -20,7 +20,7 @@ public:
     /// files alone; an empty folder means that `name` is a file already. The running program has to
     /// call `PlayForParent` first.
     ScreenSound(const DesignFiles& design, Text name, Text folder);
-    /// Silence, and no file.
+    /// Stops the sound and removes its file.
     ~ScreenSound() override;
     ScreenSound(const ScreenSound&) = delete;
     ScreenSound& operator=(const ScreenSound&) = delete;

@@ -65,7 +65,7 @@ LRESULT ScreenWindow::OnMessage(UINT message, WPARAM word, LPARAM data)
         isLeft_ = isLeft_ || word == VK_ESCAPE;
         return 0;
     case WM_CLOSE:
-        // An installation goes on; its own windows ask whether it is to end.
+        // During an installation Esc does nothing here; its own windows ask whether it is to end.
         isLeft_ = true;
         return 0;
     case WM_DISPLAYCHANGE:

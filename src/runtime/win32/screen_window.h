@@ -1,6 +1,6 @@
 // The screen behind the pages: a window over the whole of one display, behind all other windows of
-// the setup; other displays are left to their user. It is painted once into memory; of the changing
-// pictures only their place is anew.
+// the setup; other displays are not covered. It is painted once into memory; only the place of the
+// changing pictures is painted again.
 #pragma once
 
 #include "runtime/pages/design_screen.h"
@@ -25,7 +25,7 @@ public:
     ScreenWindow& operator=(const ScreenWindow&) = delete;
 
     void Show();
-    /// Until the user leaves by Esc.
+    /// Shown until the user presses Esc.
     void WaitForEscape();
     void SetPageShown(bool isShown);
     void SetVariables(const SetupVariables& variables);

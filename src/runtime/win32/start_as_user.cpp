@@ -1,7 +1,7 @@
 // Programs that a setup starts for its user. The setup has the rights of an administrator; the
-// desktop has those of whoever sits before it, so it is asked to start them. Where there is no
-// desktop to ask (Windows XP and older have no such difference of rights, and services no desktop)
-// they are started directly.
+// desktop has those of the logged-in user, so it is asked to start them. Where there is no desktop
+// to ask (Windows XP and older have no such difference of rights, and services no desktop) they are
+// started directly.
 #include "runtime/win32/start_as_user.h"
 
 #include "helpers/windows_path.h"

@@ -17,7 +17,7 @@ void Widen(wchar_t* to, const char* utf8, int room)
 }
 
 // Tells the folder from one that a killed setup has left behind, which the next setup removes. The
-// system lets go of the lock with this program, however it ends.
+// system releases the lock when this program ends, however it ends.
 bool TakeLock(Starter& starter)
 {
     JoinPaths(starter.scratch, starter.work, kWorkFolderLock);
@@ -53,8 +53,8 @@ bool MakeCommandLine(Starter& starter, const SetupLine& line)
     return true;
 }
 
-// A folder that is a program's current one can't be removed. The setup has got it from this program
-// by now, and reads the paths of its switches from there.
+// A folder that is a program's current one can't be removed. The setup has taken this one over by
+// now, and resolves the paths of its switches against it.
 void LeaveCurrentFolder(Starter& starter)
 {
     if (GetWindowsDirectoryW(starter.scratch, kMaxPathLength) > 0)
@@ -165,7 +165,7 @@ char* ReadFileOf(const wchar_t* path, DWORD& size)
 
 bool MakeWorkFolder(Starter& starter)
 {
-    wchar_t* const parent = starter.commandLine; // which is needed later only
+    wchar_t* const parent = starter.commandLine; // which is only needed later
     GetTempPathW(kMaxPathLength, parent);
     MakeFolders(parent);
     for (DWORD n = GetTickCount(), last = n + 1000; n != last; ++n) {
@@ -191,7 +191,7 @@ bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& progr
     JoinPaths(to, starter.work, program.name);
     if (!CopyFileW(starter.scratch, to, TRUE))
         return NoteFailure(starter);
-    // What comes from a CD is write-protected, and would stay.
+    // Files from a CD are write-protected and could not be removed.
     SetFileAttributesW(to, FILE_ATTRIBUTE_NORMAL);
     return !listed.AreKnown() || listed.Hold(to, program.inPackage);
 }

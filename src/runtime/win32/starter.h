@@ -1,8 +1,8 @@
 // What the two programs share that users start: SETUP32 for an installation and QNXUNIN to remove
 // the product. Both copy the setup proper from their own folder to a private one, start it there,
-// wait and end with its code; so its file can be replaced or removed meanwhile, and nobody can
-// exchange it between the look at it and its start. Written without the standard library, which
-// would be most of a starter.
+// wait and end with its code; so its file can be replaced or removed meanwhile, and others can't
+// replace it between its check and its start. Written without the standard library, which would be
+// most of a starter.
 #pragma once
 
 #include "formats/runtime_programs.h"
@@ -42,19 +42,19 @@ void JoinPaths(wchar_t* to, const wchar_t* folder, const char* name);
 /// The whole file; null where there is none or it is too large. HeapFree gives it back.
 char* ReadFileOf(const wchar_t* path, DWORD& size);
 
-/// A folder that did not exist before, so that nobody has laid anything into it; closed to others
-/// where an administrator runs the program. The folder for temporary files is made, too, where
-/// somebody has removed it.
+/// A new folder, so that others can't have put files into it; closed to others where an
+/// administrator runs the program. The folder for temporary files is made too, where it does not
+/// exist.
 bool MakeWorkFolder(Starter& starter);
 
 /// Copies the program from the starter's folder to the private one; `to` is its path there. The
-/// copy is compared with the list, and not what it was made of: nobody else can change it any more.
-/// Where it is invalid, or can't be copied, that file is the refused one.
+/// copy is compared with the list, not the original, since others can't change the copy. Where it
+/// differs, or can't be copied, that file is the refused one.
 bool CopyToWorkFolder(Starter& starter, wchar_t* to, const RuntimeProgram& program,
                       const ListedFiles& listed);
 void SetRefused(Starter& starter, const wchar_t* name);
-/// Right behind a failure to copy or to make something: where the disk is full, the folder for
-/// temporary files is what is refused. Always false.
+/// To be called right after a failure to copy or to make something: where the disk is full, the
+/// folder for temporary files is what is refused. Always false.
 bool NoteFailure(Starter& starter);
 
 struct SetupRun {
@@ -68,10 +68,11 @@ struct SetupLine {
     const wchar_t* given; // to the starter
 };
 
-/// Starts the copy and waits for it. The window goes when the setup shows one itself.
+/// Starts the copy and waits for it. The starter's window is closed when the setup shows one
+/// itself.
 SetupRun RunSetup(Starter& starter, const SetupLine& line, HWND waitWindow);
 
-/// Gives the lock back and removes the private folder, if it is empty by then.
+/// Releases the lock and removes the private folder, if it is empty by then.
 void RemoveWorkFolder(Starter& starter);
 
 /// As UTF-16, into `starter.message`.

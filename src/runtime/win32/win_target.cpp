@@ -87,7 +87,8 @@ SystemKind WinTarget::System() const
 Text WinTarget::Folder(TargetFolder folder) const
 {
     wchar_t path[MAX_PATH] = {};
-    // Not made here: a folder that is missing is made, and noted, when something goes into it.
+    // Not created by this call: a folder that is missing is created, and recorded, when something
+    // is put into it.
     if (FAILED(SHGetFolderPathW(nullptr, FolderNumber(folder) | CSIDL_FLAG_DONT_VERIFY, nullptr, 0,
                                 path)))
         return {};
@@ -237,7 +238,7 @@ bool WinTarget::IsOfTrustedUser(const Text& path) const
     return quillon::IsOfTrustedUser(WidePath(path).c_str());
 }
 
-// By the handle, since a link on the way to the file could lead elsewhere a moment later.
+// By the handle, since a path could lead through a new link a moment later.
 std::unique_ptr<InputFile> WinTarget::OpenOfTrustedUser(const Text& path) const
 {
     FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
@@ -258,7 +259,7 @@ bool WinTarget::IsLink(const Text& folder) const
     FindClose(search);
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
         return false;
-    // Other kinds of such points stand for where the contents are kept, not for another name.
+    // Other kinds of reparse points say where the contents are stored, and lead to no other name.
     return found.dwReserved0 == 0 || IsReparseTagNameSurrogate(found.dwReserved0);
 }
 

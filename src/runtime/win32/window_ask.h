@@ -25,7 +25,7 @@ public:
     void Hide();
     /// Where the window stands on the display: 1 to 3 from the left and from the top.
     void PlaceAt(int column, int row);
-    /// Boxes are shown in front of this window while this one is hidden.
+    /// While this window is hidden, boxes are shown in front of the given one.
     void SetOwner(HWND owner) { owner_ = owner; }
 
     void Inform(const Text& title, const Text& text) override;

@@ -48,7 +48,8 @@ DlgHelp::DlgHelp(std::vector<HelpPage> pages, QWidget* parent)
                  2),
          Growing(VBox({Growing(MinWidth(kPageLetters, tPage)), HBox({Stretch(), cmdClose})}), 3)}));
     connect(tSearch, &QLineEdit::textChanged, this, [this] { FilterPages(); });
-    // Enter after the words leads to what they found, and closes nothing.
+    // Enter in the field for words goes to the pages that were found, and does not close the
+    // window.
     for (const char* key : {"Return", "Enter"}) {
         auto* shortcut = new QShortcut(QKeySequence(key), tSearch);
         shortcut->setContext(Qt::WidgetShortcut);
@@ -89,7 +90,7 @@ void DlgHelp::ShowPage(const HelpPage& page)
     tPage->setMarkdown(ToQt("## " + page.title + "\n" + page.body));
 }
 
-/// The page that is shown stays where it has the words; else the first one that has them comes.
+/// The page that is shown stays if it has the words; else the first one that has them is shown.
 void DlgHelp::FilterPages()
 {
     const Text words = FromQt(tSearch->text());
@@ -130,8 +131,8 @@ void DlgHelp::Show(const HelpRequest& request)
 
 HelpWindow HelpWindowOf(QWidget& mainWindow)
 {
-    // One window for each window that help is asked in: behind a modal dialog only the dialog's own
-    // takes the mouse and the keys.
+    // One window for each window that asks for help: while a dialog is modal, only its own windows
+    // get the mouse and the keys.
     return [&mainWindow](std::vector<HelpPage> pages, const HelpRequest& request) {
         QWidget* modal = QApplication::activeModalWidget();
         QWidget* owner = modal ? modal : &mainWindow;

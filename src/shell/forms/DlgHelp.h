@@ -1,5 +1,5 @@
-// The help, to be read beside the work: its pages by chapter, a field for words that filters them,
-// and the chosen page. It stays open while the window that it belongs to is used.
+// The help: its pages by chapter, a field for words that filters them, and the chosen page. It
+// stays open while the window that it belongs to is used.
 #pragma once
 
 #include "shell/help_pages.h"
@@ -16,7 +16,7 @@ public:
     /// `pages` has at least one.
     DlgHelp(std::vector<HelpPage> pages, QWidget* parent);
 
-    /// Comes to the front at what is asked for.
+    /// Comes to the front and shows the page that is asked for.
     void Show(const HelpRequest& request);
 
     QLineEdit* tSearch = nullptr;

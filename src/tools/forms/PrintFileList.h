@@ -14,7 +14,7 @@ class PagePreview;
 /// A printer of this machine.
 struct PrinterChoice {
     Text name;
-    Text port; // where it is, or what it is, as far as the system says
+    Text port; // its place or its model, as far as the system says
 };
 
 class PrintFileList : public Form {

@@ -16,7 +16,7 @@ using section::DialogBoxData;
 constexpr int kLineCharacters = 60;
 constexpr int kLinesOfText = 4;
 
-/// As high as its maxLength text needs.
+/// As high as its longest text needs.
 void SetHeightInLines(QPlainTextEdit* area, int lines)
 {
     const int margin = static_cast<int>(area->document()->documentMargin()) + area->frameWidth();

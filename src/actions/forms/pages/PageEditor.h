@@ -22,7 +22,7 @@ protected:
     /// The caption is the name of the page.
     PageEditor(const char* name, DialogSwitch page, Session& session, QWidget* parent);
 
-    /// A line, or several, of the page's data, with the maxLength text that the project file holds.
+    /// A line, or several, of the page's data; no longer than the text that the project file holds.
     QLineEdit* Line(QLineEdit*& member, const char* name, Text section::DialogBoxData::*field);
     QPlainTextEdit* Lines(QPlainTextEdit*& member, const char* name,
                           Text section::DialogBoxData::*field);

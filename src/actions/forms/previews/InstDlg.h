@@ -1,5 +1,5 @@
-// The frame of all previews: the side picture, the bold title, room for what the page is about, a
-// line, and the buttons that every page has. Whatever the user presses, the preview just closes.
+// The frame of all previews: the side picture, the bold title, room for the contents of the page, a
+// line, and the buttons that every page has. Each button just closes the preview.
 #pragma once
 
 #include "actions/dialog_chain.h"

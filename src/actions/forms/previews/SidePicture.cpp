@@ -12,7 +12,7 @@ SidePicture::SidePicture(QSize size)
 
 void SidePicture::ShowPicture(const QImage& picture)
 {
-    // Made small once: a photograph of a camera is not to be scaled at each painting.
+    // Scaled once, since scaling a large photograph at each painting would be slow.
     const QSize room = size() * devicePixelRatioF();
     PictureView::ShowPicture(picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }

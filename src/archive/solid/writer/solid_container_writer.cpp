@@ -81,7 +81,7 @@ private:
             Advance(status_[source].size);
             return true;
         }
-        // The next ones like it may join this one.
+        // Later equal sources may share the entry of this one.
         for (std::size_t next = source; next < contents_.size(); ++next)
             if (contents_[next].original == first)
                 contents_[next].original = source;

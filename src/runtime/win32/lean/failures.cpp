@@ -58,7 +58,7 @@ void __throw_out_of_range_fmt(const char* what, ...)
 
 namespace __gnu_cxx {
 
-// Called where nobody caught an exception. The code is the one of a program that aborted.
+// Called where an exception is not caught. The code is the one of a program that aborted.
 void __verbose_terminate_handler()
 {
     ExitProcess(3);

@@ -1,7 +1,7 @@
-// The load configuration of each program: what Windows reads of a program before its first line. It
-// says that libraries come from the system's folder alone, for those that Windows loads by itself
-// before the program can say so. The linker has no way to announce it; cmake/load_configuration.py
-// finds it by its mark and does.
+// The load configuration of each program, which Windows reads before the program starts. It says
+// that libraries come from the system's folder alone, also those that Windows itself loads before
+// the program can ask for that. The linker can't write its entry; cmake/load_configuration.py finds
+// it by its mark and does.
 #include "runtime/win32/library_search.h"
 
 #include <windows.h>
@@ -13,8 +13,8 @@ namespace {
 constexpr DWORD kMark = 0x464C4E51;             // cleared when it is announced
 constexpr DWORD kNoSecurityCookie = 0x00000800; // IMAGE_GUARD_SECURITY_COOKIE_UNUSED
 
-// As Windows 8.1 knows it; the headers of the compiler stop at the handlers. On a 32-bit machine
-// the two fields of the process stand the other way round, and both are zero.
+// The layout of Windows 8.1; the compiler's headers end before these fields. On a 32-bit machine
+// the two fields of the process are in the other order, and both are zero.
 struct LoadConfiguration {
     DWORD size;
     DWORD timeStamp;
@@ -36,7 +36,7 @@ struct LoadConfiguration {
 
 } // namespace
 
-// Read by nobody in the program.
+// Not read by the program itself.
 extern "C" __attribute__((used)) const LoadConfiguration kLoadConfiguration = {
     .size = offsetof(LoadConfiguration, guardFlags) + sizeof(DWORD),
     .timeStamp = kMark,

@@ -1,5 +1,5 @@
 // QNREG32: registers the file named on its command line, or with /U takes its registration back. It
-// works in a process of its own, so that a library that fails takes no setup with it.
+// is a process of its own, so that a library that crashes does not end the setup.
 #include "runtime/win32/program_start.h"
 #include "runtime/win32/register_server.h"
 

@@ -1,6 +1,6 @@
-// QNS32X: the setup proper. The starter copies it to a private folder and hands it the package's
+// QNS32X: the setup proper. The starter copies it to a private folder and passes it the package's
 // folder, so that the disk with the package can be changed while it works. It is installed with the
-// product, whose own starter makes the uninstaller of it.
+// product, where another starter runs it as the uninstaller.
 #include "formats/runtime_programs.h"
 #include "helpers/windows_path.h"
 #include "platform/run_error.h"
@@ -46,7 +46,7 @@ Text UnzipLibrary(const FileSystem& files, const Text& packageFolder)
                : JoinPath(packageFolder, RuntimePrograms::kUnzipLibrary.inPackage);
 }
 
-// Under /S nobody is led anywhere.
+// No pages under /S.
 class NoPages : public PageView {
 public:
     PageAction Show(SetupPage&, const PageListener&) override { return PageAction::Cancel; }
@@ -59,7 +59,7 @@ Text ProjectTitle(const LoadedPackage& package)
     return package.texts(Message::Title, package.setup.project.ProjectName.ProjectName);
 }
 
-// The variables before the user has chosen anything.
+// The variables before the user has made any choice.
 SetupVariables VariablesOf(const LoadedPackage& package, const Host& host, const Target& target,
                            const Switches& switches)
 {
@@ -75,7 +75,7 @@ ScreenWindow::MakeScreen ScreenOf(const LoadedPackage& package, const DesignFile
     };
 }
 
-// No private folder either: a test leaves nothing on the machine.
+// Without a private folder, since a test leaves no files on the machine.
 ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
                        LanguageTexts& texts)
 {
@@ -100,7 +100,7 @@ ExitCode TestOnWindows(HINSTANCE instance, Host& host, const Switches& switches,
                         }},
                        package);
     };
-    // For its boxes; it is shown where the installation would be.
+    // Only for its boxes, which are shown where those of an installation would be.
     WindowAsk boxes(instance, ProjectTitle(package), package.texts, WindowAsk::CanCancel::Yes,
                     screen.Handle());
     PageWindow pages(
@@ -116,7 +116,8 @@ SetupEnd InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
 {
     FileSystem& files = host.files;
     const LoadedPackage package = LoadPackage(files, switches.packageFolder, switches.languageFile);
-    // What changes nothing on the machine waits for nobody, and the uninstaller looks for itself.
+    // Only an installation looks for other setups that run: all other tasks change nothing on the
+    // machine, and the uninstaller looks itself.
     std::optional<SingleInstance> only;
     if (switches.task == SetupTask::Install)
         only.emplace();
@@ -140,7 +141,7 @@ SetupEnd InstallOnWindows(HINSTANCE instance, Host& host, const Switches& switch
         switches.canCancel ? WindowAsk::CanCancel::Yes : WindowAsk::CanCancel::No;
     if (switches.passive || switches.task != SetupTask::Install) {
         WindowAsk window(instance, ProjectTitle(package), package.texts, canCancel);
-        // The others have a box to show, or a program with a window of its own.
+        // All other tasks show a box, or start a program with a window of its own.
         const bool hasProgress = switches.task == SetupTask::Install ||
                                  switches.task == SetupTask::Extract ||
                                  switches.task == SetupTask::Plan;
@@ -187,7 +188,7 @@ int RunSetupProgram(HINSTANCE instance, const Text& line)
     try {
         end = RunOnWindows(instance, switches, texts);
     } catch (const std::exception& error) {
-        // Nothing was changed: what an installation does is undone before a failure comes here.
+        // Nothing has changed: an installation that fails is undone before the exception gets here.
         WinFiles files;
         WinMachine machine;
         const SetupFailure failure = FailBeforeSetup({files, machine}, switches, error, texts);
@@ -195,12 +196,12 @@ int RunSetupProgram(HINSTANCE instance, const Text& line)
         if (MayAsk(switches))
             ShowMessageBox(nullptr, {"Quillon", failure.what(), MB_OK | MB_ICONSTOP}, texts);
     }
-    // By now the setup has left nothing behind.
+    // The setup has removed its temporary files by now.
     if (end.startsMachineAnew && !RestartMachine()) {
         end.code = CodeToEndWith(ExitCode::RestartNeeded, switches);
         WinFiles files;
         LogRefusedRestart({files, WinMachine(), texts, end.logs, end.code});
-        // A restart was announced or agreed to, so somebody waits for it.
+        // A restart was announced or agreed to, so the user has to know that there is none.
         ShowMessageBox(
             nullptr, {end.title, texts[Message::RestartNeeded], MB_OK | MB_ICONINFORMATION}, texts);
     }

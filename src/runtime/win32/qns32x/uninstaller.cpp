@@ -44,8 +44,9 @@ private:
     const bool hasLists_;
 };
 
-// The starter waits for this program in the main folder, and so can't be removed there. In its
-// private folder, which this program lies in, it finds itself and clears up when it ends.
+// The starter's file is in the main folder. The starter waits for this program, so its file can't
+// be deleted; it is moved into the private folder that this program runs from. When the starter
+// ends, it finds itself there and has the folder removed.
 class WaitingStarter : public RunningProgram {
 public:
     WaitingStarter(const FileSystem& files, const Text& path) : files_(files), path_(path) {}
@@ -73,7 +74,7 @@ ExitCode RunOnWindows(HINSTANCE instance, UninstallProgram& program, const Switc
         NoWindows none;
         return program.Run(silent, none);
     }
-    // What has been removed can't be brought back half-way.
+    // No cancelling, since what has been removed can't be brought back.
     WindowAsk window(instance, program.Title(), program.Texts(), WindowAsk::CanCancel::No);
     PassiveAsk passive(window);
     Windows windows(instance, window, !switches.passive);

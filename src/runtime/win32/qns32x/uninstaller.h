@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// To its exit code; what fails has been shown by then.
+/// Returns its exit code; failures have been shown by then.
 int RunUninstaller(HINSTANCE instance, const StarterLine& from);
 
 } // namespace quillon

@@ -25,7 +25,7 @@ void FindJournal(wchar_t* path, const Starter& starter, const wchar_t* line)
     *path = 0;
 }
 
-// The installation has left the texts of its language in its journal.
+// The installation has recorded the texts of its language in its journal.
 void ReadMessage(Starter& starter, const wchar_t* line, const StarterMessage& message)
 {
     SetMessage(starter, message.swedish);

@@ -70,7 +70,7 @@ HANDLE TakeHandle(const wchar_t*& digits)
 
 int CleanUp(Starter& starter, HANDLE parent, HANDLE ownFile)
 {
-    // Without a parent that waits to be followed, somebody else has started this.
+    // Without a parent to wait for, the program was not started by the uninstaller.
     if (WaitForSingleObject(parent, INFINITE) != WAIT_OBJECT_0)
         return 1;
     JoinPaths(starter.scratch, starter.folder, RuntimePrograms::kMovedUninstaller);

@@ -1,6 +1,7 @@
-// How the uninstaller's own file goes. A running program can't be deleted, but it can be moved: out
-// of the product's folder, so that the folder can go, into the private one that is closed to
-// others. There a copy of this program waits for its end and deletes what is left.
+// How the uninstaller's starter removes its own file. A running program can't be deleted, but it
+// can be moved: out of the product's folder, so that the folder can be removed, into the private
+// one that is closed to others. There a copy of this program waits for its end and deletes what is
+// left.
 #pragma once
 
 #include "runtime/win32/starter.h"

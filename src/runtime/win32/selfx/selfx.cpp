@@ -1,4 +1,4 @@
-// QNSELFX: what stands before the payload of a self-extracting program. It believes nothing of the
+// QNSELFX: the program in front of the payload of a self-extracting program. It uses nothing of the
 // payload before all of it is hashed, unpacks it to a closed folder, starts the setup there with
 // the switches that it was given itself, waits, cleans up and ends with the setup's code.
 #include "archive/solid/solid_error.h"

@@ -51,7 +51,7 @@ bool IsElevated()
     const FileHandle owned(token);
     DWORD isElevated = 0;
     DWORD size = 0;
-    // Systems before Vista don't know the question.
+    // Systems before Vista do not know this information class.
     return !GetTokenInformation(token, TokenElevation, &isElevated, sizeof isElevated, &size) ||
            isElevated != 0;
 }

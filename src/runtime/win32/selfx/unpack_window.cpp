@@ -14,7 +14,7 @@ constexpr DWORD kLookEvery = 50; // milliseconds
 
 LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM word, LPARAM data)
 {
-    // What is half unpacked can't be left; it takes seconds.
+    // The unpacking can't be cancelled; it takes seconds.
     if (message == WM_CLOSE)
         return 0;
     return DefWindowProcW(window, message, word, data);
