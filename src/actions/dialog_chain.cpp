@@ -15,7 +15,7 @@ using Rivals = std::pair<DialogSwitch, DialogSwitch>;
 constexpr Rivals kAgreements{&DialogBoxes::LicenseInfoDlg, &DialogBoxes::LicenseInfoRtfDlg};
 constexpr Rivals kDestinations{&DialogBoxes::DestinationDlg, &DialogBoxes::DestinationDriveDlg};
 
-/// The other one of the two; null where the page is none of them.
+/// The one of the two pages that excludes this one; null where the page is neither.
 DialogSwitch RivalOf(DialogSwitch page, const Rivals& rivals)
 {
     if (page == rivals.first)

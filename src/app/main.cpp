@@ -36,7 +36,7 @@ void TellComplaints(const std::vector<Text>& complaints, Ask& ask)
         ask.Warn(Text(kProductName), lines);
 }
 
-/// What is not saved outlives a fault of the program, and the support hears of it.
+/// Saves unsaved work when the program crashes, and writes a note for the support.
 void PrepareForFaults(const Session& session, const HostPaths& paths, RecoveryCopy& copy)
 {
     const auto note = paths.toHost(FaultNoteFile(session.options.OwnFolder));

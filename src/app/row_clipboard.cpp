@@ -37,7 +37,7 @@ void PasteRows(MainForm& form)
         return;
     const auto added =
         PasteRows(ListWork{session.project, session.state, session.host, session.ask}, rows);
-    // Where nothing came, what was selected stays so.
+    // Where no rows were added, the selection stays.
     form.ShowFileList(added.empty() ? form.SelectedRows() : added);
 }
 

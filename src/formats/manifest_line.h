@@ -16,7 +16,7 @@ struct ManifestLineText {
     std::string_view name;   // below the package's folder, with '/' between folders
 };
 
-/// Takes the first line off `text`; nothing where that is none of the form, or has no end.
+/// Takes the first line off `text`; nothing where it does not have the form, or has no end.
 std::optional<ManifestLineText> ParseManifestLine(std::string_view& text);
 
 Sha256Digest DigestOfDigits(std::string_view digits);

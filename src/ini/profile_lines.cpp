@@ -47,7 +47,7 @@ bool EqualFolded(std::string_view left, std::string_view right)
     });
 }
 
-// FNV-1a.
+// The hash FNV-1a.
 std::size_t FoldedHash(std::string_view bytes)
 {
     const ByteTable& lowerCase = LowerCaseTable();

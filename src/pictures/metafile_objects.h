@@ -67,7 +67,7 @@ public:
         }
     }
 
-    /// Null where there is none of that number.
+    /// Null where no object has that number.
     const MetafileObject* Find(std::size_t number) const
     {
         return number < objects_.size() ? &objects_[number] : nullptr;

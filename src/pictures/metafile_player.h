@@ -59,7 +59,7 @@ private:
     };
     static const Call kCalls[];
 
-    // State: metafile_player.cpp.
+    // The state of drawing, in metafile_player.cpp.
     void SaveDC(const Record& record);
     void RestoreDC(const Record& record);
     void SetBkMode(const Record& record);
@@ -78,7 +78,7 @@ private:
     void ExcludeClipRect(const Record& record);
     void OffsetClipRgn(const Record& record);
 
-    // Objects: metafile_objects.cpp.
+    // The objects, in metafile_objects.cpp.
     void SelectObject(const Record& record);
     void DeleteObject(const Record& record);
     void CreatePenIndirect(const Record& record);
@@ -90,7 +90,7 @@ private:
     void CreatePatternBrush(const Record& record);
     void DIBCreatePatternBrush(const Record& record);
 
-    // Shapes: metafile_shapes.cpp.
+    // The shapes, in metafile_shapes.cpp.
     void MoveTo(const Record& record);
     void LineTo(const Record& record);
     void Polygon(const Record& record);
@@ -104,14 +104,14 @@ private:
     void Chord(const Record& record);
     void SetPixel(const Record& record);
 
-    // Bitmaps: metafile_bitmaps.cpp.
+    // The bitmaps, in metafile_bitmaps.cpp.
     void PatBlt(const Record& record);
     void DIBBitBlt(const Record& record);
     void DIBStretchBlt(const Record& record);
     void StretchDIBits(const Record& record);
     void SetDIBitsToDevice(const Record& record);
 
-    // Text: metafile_text.cpp.
+    // The text, in metafile_text.cpp.
     void WriteText(const Record& record);
     void WriteExtendedText(const Record& record);
 

@@ -1,5 +1,5 @@
-// What vouches for a signature of the kind that Windows' programs carry (PKCS #7 signed data with
-// the digest of the program in it), by the system's own library.
+// Checks a signature of the kind that Windows' programs carry (PKCS #7 signed data with the digest
+// of the program in it), by the system's own library.
 #pragma once
 
 #include "helpers/sha256.h"

@@ -1,6 +1,6 @@
 // What is done about files that programs hold open before they are replaced or removed: the user is
-// shown which programs, and they are closed where the user or the command line wants that. What is
-// held all the same is left to the machine's next start, or ends the installation, as ever.
+// shown which programs, and they are closed where the user or the command line wants that. A file
+// that is still held is left to the machine's next start, or ends the installation.
 #pragma once
 
 #include "platform/ask.h"

@@ -23,7 +23,7 @@ struct SetupInput {
     OpenContainer openContainer;
     Switches switches;
     Text workFolder; // exists; the caller removes it
-    // Shows the pages of the package; null where nobody is to be asked.
+    // Shows the pages of the package; null where the user is not asked.
     PageView* pages = nullptr;
     // The sound of the screen behind the pages; null for none.
     BackgroundSound* sound = nullptr;
@@ -32,7 +32,7 @@ struct SetupInput {
     std::function<void(const Text& file, const Text& arguments)> startAsUser = {};
     FileUsers* users = nullptr;    // null: nothing is known of programs that hold files
     RunProgramToEnd runToEnd = {}; // for /UNINSTALL
-    // Whether this user may start the machine anew; null: yes.
+    // Whether this user may restart the machine; null: yes.
     bool (*mayRestart)() = nullptr;
     // Opens a file that others can't change or replace until it is closed; null: as any file.
     std::unique_ptr<InputFile> (*openHeld)(const Text& path) = nullptr;

@@ -92,7 +92,7 @@ QImage ImageOf(const ScalablePicture& picture)
         .copy();
 }
 
-/// Nothing where it is none of those that the setup shows.
+/// Nothing where it is not of a kind that the setup shows.
 std::optional<QImage> ReadShownBySetup(const FileSystem& files, const Text& path)
 {
     const PictureResult read = ReadPictureFile(files, path);

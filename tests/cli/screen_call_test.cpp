@@ -26,7 +26,7 @@ struct Png {
 
 class ScreenCall : public Workshop {
 protected:
-    /// From red down to blue, without a word.
+    /// From red down to blue, without any text.
     Project Made() const
     {
         Project made = MakeProject({});

@@ -39,7 +39,7 @@ public:
     }
 };
 
-// Loads a file whose read must stop without a word.
+// Loads a file whose reading must stop silently.
 void ExpectSilentStop(const std::string& bytes, const char* what)
 {
     ProjectOnDisk disk;

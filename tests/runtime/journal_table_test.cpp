@@ -78,10 +78,10 @@ TEST_P(NoLineOfAJournal, IsRefused)
 INSTANTIATE_TEST_SUITE_P(
     , NoLineOfAJournal,
     testing::Values("", "ANNAT\tx", "FILE", "FILE\ta\tb", "file\ta", "BACKUP\ta", "COMMITTED\tx",
-                    // No root of the registry.
+                    // A root that the registry does not have.
                     "UNINSTALLKEY\tHKEY_CURRENT_USE\tFirma", "KEY\t\tFirma",
                     "UNINSTALLVALUE\tX\tFirma\tv", "VALUE\tX\tFirma\tv\t1\t\t\t",
-                    // No data.
+                    // A value without data.
                     "VALUE\tHKEY_CURRENT_USER\tFirma\tv\t\t\t\t",
                     "VALUE\tHKEY_CURRENT_USER\tFirma\tv\t4\t0Z\t\t",
                     "VALUE\tHKEY_CURRENT_USER\tFirma\tv\t4\t00\t\tFF",

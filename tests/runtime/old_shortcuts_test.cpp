@@ -67,7 +67,7 @@ TEST_F(OldShortcutsTest, StayWhereSomebodyHasChangedThem)
     Update();
     ExpectKept(kOnDesktop, "filen har ändrats efter den förra");
     EXPECT_FALSE(memory.files.FileExists(kInGroup));
-    // It is still the product's own, and goes with it.
+    // It still belongs to the product, and is removed with it.
     EXPECT_EQ(UninstallProduct(), ExitCode::Done) << Log();
     EXPECT_FALSE(memory.files.FileExists(kOnDesktop));
 }

@@ -190,7 +190,7 @@ TEST_F(ScriptTestOfSetup, GoesByFilesFoldersRegistryAndVariables)
         {"%PROJECTNAME <> Exempel", false},
         {"%EGEN = \"ett två\"", true},
         {"%EXITCODE = 0", true},
-        {"YES \"Vill du?\"", false}, // nobody to ask
+        {"YES \"Vill du?\"", false}, // no user to ask
     };
     Text script = "SET %EGEN \"ett två\"\r\n";
     for (std::size_t i = 0; i < std::size(conditions); ++i)

@@ -1,4 +1,4 @@
-// Packages with a bit that has turned, in the hands of the real programs: nothing is installed, and
+// Packages in which one bit was changed, run with the real programs: nothing is installed, and
 // nothing crashes.
 #include "wine/driven_setup.h"
 #include "wine/folder_state.h"

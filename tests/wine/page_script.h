@@ -6,13 +6,13 @@
 
 namespace quillon::test {
 
-// Buttons of pages and boxes.
+// The buttons of pages and boxes.
 inline constexpr int kNext = 1;
 inline constexpr int kCancel = 2;
 inline constexpr int kBack = 3;
 inline constexpr int kYes = 6;
 inline constexpr int kNo = 7;
-// Keys.
+// The codes of keys.
 inline constexpr int kEnter = 13;
 inline constexpr int kEscape = 27;
 inline constexpr int kSpace = 32;

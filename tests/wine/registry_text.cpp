@@ -85,8 +85,8 @@ bool RegistryText::HasKey(const std::string& key) const
     return keys_.contains(LowerCase(key));
 }
 
-// Wine writes here, anew at each start, which screen and which devices it found; and that its own
-// debugger has run, which the setup's programs start none of.
+// At each start Wine writes here which screen and which devices it found, and that its own debugger
+// has run; the setup's programs never start that.
 bool IsWinesOwn(const std::string& key)
 {
     return key == "hkcu\\software\\wine\\winedbg" ||

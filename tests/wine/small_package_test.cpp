@@ -1,4 +1,4 @@
-// Packages whose FILEDATA.DAT is a solid container, in the hands of the real programs.
+// Packages whose FILEDATA.DAT is a solid container, installed by the real programs.
 #include "wine/folder_state.h"
 #include "wine/sample_product.h"
 

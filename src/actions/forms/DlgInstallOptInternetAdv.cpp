@@ -100,7 +100,7 @@ void DlgInstallOptInternetAdv::SelectRegKey()
     ShowWarning();
 }
 
-// What belongs to the program goes with it, as it does when the project is saved without one.
+// Without a program its settings are cleared too, as when the project is saved.
 void DlgInstallOptInternetAdv::Reset()
 {
     edited_.program = {};

@@ -63,7 +63,7 @@ void DlgLanguage::AddLanguage()
         return;
     const Text before = SelectedFile();
     ShowFiles(*added);
-    // A name that ends otherwise is none of the list.
+    // A file with another extension is not in the list.
     if (SelectedFile().empty())
         ShowFiles(before);
 }

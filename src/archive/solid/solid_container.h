@@ -11,8 +11,8 @@
 // come one
 //   behind the other.
 // - The packed bytes of a frame are compared with their SHA-256 before the first of them is
-//   unpacked, and the index against its own. Whoever made the file made the digests too, so what
-//   comes out is measured nevertheless.
+//   unpacked, and the index with its own. An attacker can make the digests fit, so the sizes of
+//   what comes out are checked nevertheless.
 #pragma once
 
 #include "archive/container.h"

@@ -24,7 +24,8 @@ inline constexpr Integer kNoReadAccess = 18;
 /// An archive that can't be finished.
 class CompressionFailure : public std::exception {
 public:
-    /// `path` is the source, or what could not be written; empty where no file is to blame.
+    /// `path` is the source, or what could not be written; empty where the failure concerns no
+    /// file.
     CompressionFailure(Integer result, Text path);
 
     Integer Result() const { return result_; }

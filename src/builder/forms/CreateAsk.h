@@ -1,5 +1,6 @@
 // The user of a running Create: boxes go to the real one, status lines and progress to the form,
-// and pending events run from time to time, so that the window stays alive in the one thread.
+// and pending events are handled from time to time, so that the single thread keeps the window
+// responsive.
 #pragma once
 
 #include "platform/ask.h"

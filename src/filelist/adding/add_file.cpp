@@ -140,7 +140,7 @@ std::optional<std::size_t> FileAdding::AddSystemFile(const Text& fileName, bool 
     const Text folder = host_.machine.GetSystemDir();
     if (folder.empty())
         throw RunError(ErrorNumber::kFileNotFound, fileName);
-    // A name with a folder is none of the system folder, even where the folder leads there.
+    // A name with a folder is no file of the system folder, even where it leads there.
     if (HasFolder(fileName))
         throw RunError(ErrorNumber::kFileNotFound, fileName);
     const Text path = LowerCase(JoinPath(folder, fileName));

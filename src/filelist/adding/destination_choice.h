@@ -20,7 +20,7 @@ std::optional<Text> MakeDestination(DestinationQuestion::Place place, const Text
 std::vector<Text> RecentDestinationDirectories(const OpenProjectState& state);
 
 /// Puts a folder of the user's own in front of what the dropdown offers. One that it holds already
-/// keeps its place; what falls off the end is forgotten.
+/// keeps its place; the last one beyond the limit is dropped.
 void RememberDestination(OpenProjectState& state, const Text& destination);
 
 /// The variables that are offered while a folder of the user's own is typed. The system's folders

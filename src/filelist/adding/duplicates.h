@@ -11,7 +11,7 @@
 //   so a collision costs a comparison and no wrong answer.
 // - Case is ignored as Windows ignores it, by capitals. Those of the names are kept, since each is
 //   needed twice; sources and destinations are much longer, and theirs are made when asked for.
-// - The list must not change but by appending while an index lives. It is made anew for each
+// - The list must not change but by appending while an index exists. It is made for each
 //   command, in one walk over the rows.
 //
 // Rejected: a binary search, which needs the list sorted by name and broke where many names were

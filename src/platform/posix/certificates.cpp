@@ -15,7 +15,7 @@ using Store = std::unique_ptr<X509_STORE, Closer<X509_STORE_free>>;
 using Certificate = std::unique_ptr<X509, Closer<X509_free>>;
 using StoreContext = std::unique_ptr<X509_STORE_CTX, Closer<X509_STORE_CTX_free>>;
 
-// The names come from whoever made the certificate, and are printed to terminals and logs.
+// Anyone can make a certificate, and these names are printed to terminals and logs.
 Text WithoutControls(std::string_view text)
 {
     Text printable;

@@ -25,8 +25,8 @@ struct MachineSettings {
     std::vector<Text> complaints;
 };
 
-/// "S=/srv/src;A=/mnt/floppy" as drives. Z: and C: are not to be had, since paths of this machine
-/// and of its Windows folders lean on them.
+/// "S=/srv/src;A=/mnt/floppy" as drives. Z: and C: can't be set, since paths of this machine and of
+/// its Windows folders depend on them.
 void AddDrives(std::string_view list, MachineSettings& settings);
 
 MachineSettings ReadMachineSettings();

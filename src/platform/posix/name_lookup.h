@@ -10,11 +10,11 @@
 //   A folder's time stamps (modified, changed) and identity say whether it changed, but in ticks:
 //   10 ms on usual file systems, up to 2 s on those that store whole seconds. A listing counts as
 //   settled only when it was made more than a tick after the last change; an unsettled one is made
-//   anew at the next look-up.
+//   again at the next look-up.
 // - This program fills folders itself, and its own changes move the stamps. It notes them in the
 //   listing (`NoteCreated`, `NoteRemoved`), which then counts for 100 ms, or for 20 times as long
 //   as it took to list, so that listing stays below a twentieth of the work.
-// - Memory: beyond 300,000 names all listings are dropped, and those still needed are made anew.
+// - Memory: beyond 300,000 names all listings are dropped, and those still needed are made again.
 //
 // Rejected: inotify (not on network file systems, and events come late); trusting a listing for a
 // fixed time (finds no file that was just made); storing the true case in the project (its format

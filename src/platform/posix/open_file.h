@@ -42,7 +42,8 @@ private:
 
 class PosixOutputFile : public OutputFile {
 public:
-    /// A file that is held stays open until the object goes, since its lock goes with it.
+    /// A file that is held stays open until the object is destroyed, since closing it releases its
+    /// lock.
     enum class Held { No, Yes };
 
     PosixOutputFile(Descriptor file, Text path, Held held = Held::No);

@@ -55,7 +55,7 @@ std::vector<std::string> DataFolders()
     return folders;
 }
 
-/// The text of a desktop entry; empty where there is none of this name.
+/// The text of a desktop entry; empty where no entry has this name.
 std::string ReadDesktopEntry(const std::string& name)
 {
     // "kde-kate.desktop" may occur as "kde/kate.desktop".

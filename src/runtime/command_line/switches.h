@@ -62,7 +62,7 @@ inline bool MayAsk(const Switches& switches)
 /// `commandLine` is what follows the program's own name.
 Switches ReadSwitches(std::string_view commandLine);
 
-/// Sets the field of a switch with a value; false where there is none of that name, or its value is
+/// Sets the field of a switch with a value; false where no switch has that name, or its value is
 /// invalid.
 bool SetSwitch(Switches& switches, std::string_view name, const Text& value);
 

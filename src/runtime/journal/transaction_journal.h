@@ -6,7 +6,7 @@
 //
 // - Taking back writes nothing to a disk, so that a full one can't stop it: a file that is replaced
 //   is moved aside on its own disk and comes back by one rename.
-// - Taking back can be ended from outside too, and is then begun anew. So each step looks at what
+// - Taking back can be ended from outside too, and is then begun again. So each step looks at what
 //   there is before it does anything, and a step done twice does no harm. That is why
 //   `InstallTransaction` notes no `File` at a place whose former file is aside: it would be removed
 //   after it came back.
@@ -71,7 +71,7 @@ public:
     void Expect(std::size_t steps) { steps_.reserve(steps_.size() + steps); }
     /// A free name on the disk of `folder`, which exists, for a file of the transaction's own.
     Text TempPath(const Text& folder);
-    /// Nothing is taken back from here on, unless this throws.
+    /// From here on nothing can be undone, unless this throws.
     void Commit();
     /// Removes the journal, when everything is taken back or cleared away.
     void End();

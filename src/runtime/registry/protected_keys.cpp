@@ -24,7 +24,7 @@ struct Rule {
     Covers covers;
 };
 
-// Below HKEY_LOCAL_MACHINE.
+// The keys below HKEY_LOCAL_MACHINE.
 constexpr Rule kMachine[] = {
     {"BCD00000000", Covers::Tree}, {"COMPONENTS", Covers::Tree}, {"HARDWARE", Covers::Tree},
     {"SAM", Covers::Tree},         {"SECURITY", Covers::Tree},   {"SYSTEM", Covers::Tree},

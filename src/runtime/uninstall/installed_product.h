@@ -1,5 +1,5 @@
 // A product as the journal of its installation describes it, and which of such journals the
-// uninstaller believes.
+// uninstaller trusts.
 #pragma once
 
 #include "platform/file_system.h"

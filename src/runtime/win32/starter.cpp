@@ -61,7 +61,7 @@ void LeaveCurrentFolder(Starter& starter)
         SetCurrentDirectoryW(starter.scratch);
 }
 
-// Into `starter.scratch`.
+// The result is in `starter.scratch`.
 void ComposeRefusal(Starter& starter)
 {
     wchar_t* const mark = wcsstr(starter.message, L"%1");

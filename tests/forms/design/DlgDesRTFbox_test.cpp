@@ -255,7 +255,7 @@ TEST_F(DlgDesRTFboxTest, KeepsAFileThatItDidNotShowWhole)
         EXPECT_TRUE(machine.files.Get(path).starts_with("{\\rtf1"));
         machine.files.RemoveFile(path + ".bak");
     }
-    // One that was shown whole gives way; another one of the name that is typed does not.
+    // A file that was shown whole is replaced; another one of the typed name is not.
     DlgDesRTFbox again(session, nullptr);
     ShowActive(again);
     Click(again, "cmdOK");

@@ -32,7 +32,7 @@
 //   aside                waits for a message box and moves it into the corner of the desktop
 //   pointer X Y          moves the pointer there, in pixels of the desktop
 //   where                logs left, top, right and bottom of the page in the desktop
-//   hold FILE            keeps the file open, so that nobody moves it
+//   hold FILE            keeps the file open, so that it can't be moved
 //   release              lets go of it
 //   watch                from now on is asked when the session is to end, and says no
 //   session              waits until the session was to end, and logs it
