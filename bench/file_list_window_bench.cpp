@@ -1,8 +1,8 @@
 // What the window's file list takes with as many rows as a project can hold, against a tenth of
 // them: showing the rows with the first paint, selecting all, a sort by a click, a step of the
 // arrow key.
-#include "app/FileListView.h"
 #include "app/MainForm.h"
+#include "app/file_list/FileListView.h"
 #include "filelist/view/sort.h"
 #include "support/one_file_host.h"
 

@@ -39,7 +39,7 @@ quillon_forms(tools)
 # Linked, but not needed by who includes the forms.
 target_link_libraries(quillon_tools_forms INTERFACE $<LINK_ONLY:Qt6::PrintSupport>)
 
-file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/app/*.cpp
+file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/app/*.cpp
      ${CMAKE_CURRENT_SOURCE_DIR}/app/*.h)
 list(FILTER sources EXCLUDE REGEX "/main[.]cpp$")
 add_library(quillon_app STATIC ${sources})

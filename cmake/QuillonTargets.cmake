@@ -63,7 +63,8 @@ function(quillon_library folder)
   file(GLOB sources CONFIGURE_DEPENDS ${here}/*.cpp ${here}/*.h ${here}/*/*.cpp ${here}/*/*.h)
   list(FILTER sources EXCLUDE REGEX "^${here}/(forms|posix|program|solid|win32|writer)/")
   if(WIN32)
-    file(GLOB system CONFIGURE_DEPENDS ${here}/win32/*.cpp)
+    file(GLOB system CONFIGURE_DEPENDS ${here}/win32/*.cpp ${here}/win32/*/*.cpp)
+    list(FILTER system EXCLUDE REGEX "/win32/programs/")
   else()
     file(GLOB system CONFIGURE_DEPENDS ${here}/posix/*.cpp)
   endif()
@@ -110,7 +111,7 @@ endfunction()
 
 # quillon_test(<folder> [linked libraries...]): one fat test program for each folder of tests/.
 function(quillon_test folder)
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
   if(NOT sources)
     return()

@@ -1,11 +1,11 @@
-# The programs of the setup runtime, for the cross build. The sources directly in src/runtime/win32
-# are a part of the runtime library, from which each program links what it uses. A folder below,
-# named after a program, has what is compiled for that program alone: its entry point, its resources
-# and further sources. `lean` is a library of its own, which all programs are linked with.
-set(win32 ${CMAKE_CURRENT_SOURCE_DIR}/runtime/win32)
+# The programs of the setup runtime, for the cross build. The folders of src/runtime/win32 are a part
+# of the runtime library, from which each program links what it uses. A folder below `programs`, named
+# after a program, has what is compiled for that program alone: its entry point, its resources and
+# further sources. `lean` is a library of its own, which all programs are linked with.
+set(programs ${CMAKE_CURRENT_SOURCE_DIR}/runtime/win32/programs)
 
 # Below all other libraries, so that the linker meets it behind them and before libstdc++.
-add_library(quillon_lean STATIC ${win32}/lean/failures.cpp ${win32}/lean/load_configuration.cpp)
+add_library(quillon_lean STATIC ${programs}/lean/failures.cpp ${programs}/lean/load_configuration.cpp)
 target_include_directories(quillon_lean PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 include(DelayLoad)
 add_dependencies(quillon_lean quillon_delayed_libraries)
@@ -26,8 +26,8 @@ find_program(QUILLON_PYTHON python3 REQUIRED)
 
 # quillon_runtime_program(<folder of the sources> <file name> <folder> [linked libraries...])
 function(quillon_runtime_program source file folder)
-  file(GLOB sources CONFIGURE_DEPENDS ${win32}/${source}/*.cpp ${win32}/${source}/*.rc
-       ${win32}/${source}/*.def)
+  file(GLOB sources CONFIGURE_DEPENDS ${programs}/${source}/*.cpp ${programs}/${source}/*.rc
+       ${programs}/${source}/*.def)
   if(NOT sources MATCHES "[.]cpp")
     return()
   endif()
@@ -60,7 +60,7 @@ quillon_runtime_program(dunzip32 DUNZIP32.DLL ${release})
 # The same with the decoder of Zstandard, for packages with a solid container.
 quillon_runtime_program(dunzip32_solid DUNZIP32.DLL ${release}/Solid zstd_decoder)
 if(TARGET dunzip32_solid)
-  target_sources(dunzip32_solid PRIVATE ${win32}/dunzip32/dunzip32.cpp)
+  target_sources(dunzip32_solid PRIVATE ${programs}/dunzip32/dunzip32.cpp)
 endif()
 quillon_runtime_program(qnreg32 QNREG32.EXE ${release})
 quillon_runtime_program(qnxreg2 QNXREG2.EXE ${release})

@@ -1,6 +1,6 @@
 """load_configuration.py PROGRAM: announces the load configuration of a Windows program in its header.
 
-src/runtime/win32/lean/load_configuration.cpp puts it there under a mark, which is cleared here."""
+src/runtime/win32/programs/lean/load_configuration.cpp puts it there under a mark, which is cleared here."""
 import struct
 import sys
 

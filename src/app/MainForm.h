@@ -2,12 +2,12 @@
 // session's; what its commands do is in the table of actions.
 #pragma once
 
-#include "app/actions.h"
+#include "app/commands/actions.h"
 #include "shell/main_window.h"
 #include "shell/project_history.h"
 #include "shell/session.h"
-#include "ui/Page.h"
-#include "ui/host_paths.h"
+#include "ui/dialogs/host_paths.h"
+#include "ui/kit/Page.h"
 
 #include <QMainWindow>
 #include <array>

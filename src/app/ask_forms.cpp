@@ -2,7 +2,7 @@
 
 #include "filelist/forms/DlgVariables.h"
 #include "filelist/forms/list_commands.h"
-#include "ui/QtAsk.h"
+#include "ui/dialogs/QtAsk.h"
 
 namespace quillon {
 

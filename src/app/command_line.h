@@ -1,7 +1,7 @@
 // The command line: all of it is the path of one project. There are no switches.
 #pragma once
 
-#include "ui/host_paths.h"
+#include "ui/dialogs/host_paths.h"
 
 #include <span>
 

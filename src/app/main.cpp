@@ -1,10 +1,10 @@
 // quillon: the desktop program. Its whole command line is the path of one project.
 #include "app/MainForm.h"
-#include "app/RecoveryKeeper.h"
-#include "app/appearance.h"
 #include "app/ask_forms.h"
 #include "app/command_line.h"
-#include "app/window_place.h"
+#include "app/history/RecoveryKeeper.h"
+#include "app/window/appearance.h"
+#include "app/window/window_place.h"
 #include "helpers/product.h"
 #include "platform/this_host.h"
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"
@@ -12,7 +12,7 @@
 #include "shell/projects_folder.h"
 #include "shell/start.h"
 #include "tools/fault_note.h"
-#include "ui/QtAsk.h"
+#include "ui/dialogs/QtAsk.h"
 
 #include <QtWidgets>
 

@@ -1,8 +1,8 @@
-#include "app/bars_look.h"
+#include "app/window/bars_look.h"
 
 #include "app/MainForm.h"
 #include "support/window_test.h"
-#include "ui/colour_scheme.h"
+#include "ui/look/colour_scheme.h"
 
 #include <fstream>
 #include <set>

@@ -1,4 +1,4 @@
-#include "app/ComponentsPage.h"
+#include "app/pages/ComponentsPage.h"
 
 #include "support/window_test.h"
 

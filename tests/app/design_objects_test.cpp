@@ -1,6 +1,6 @@
 // The objects on the tab "Design": where they are, how they are moved, what opens their editors.
-#include "app/DesignPage.h"
 #include "app/MainForm.h"
+#include "app/pages/DesignPage.h"
 #include "design/forms/design_commands.h"
 #include "design/number_fields.h"
 #include "support/window_test.h"

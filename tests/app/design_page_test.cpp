@@ -1,8 +1,8 @@
 // The tab "Design": what the surface shows of the background's record, and how large it is.
-#include "app/DesignPage.h"
+#include "app/pages/DesignPage.h"
 
-#include "app/EditHistory.h"
 #include "app/MainForm.h"
+#include "app/history/EditHistory.h"
 #include "design/forms/ColorblendBackground.h"
 #include "design/forms/design_commands.h"
 #include "support/window_test.h"

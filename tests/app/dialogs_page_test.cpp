@@ -1,10 +1,10 @@
-#include "app/DialogsPage.h"
+#include "app/pages/DialogsPage.h"
 
 #include "helpers/windows_path.h"
 #include "support/bitmap_maker.h"
 #include "support/window_test.h"
-#include "ui/PathLabel.h"
-#include "ui/PictureView.h"
+#include "ui/controls/PathLabel.h"
+#include "ui/controls/PictureView.h"
 
 namespace quillon::test {
 namespace {

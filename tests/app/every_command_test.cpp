@@ -1,6 +1,6 @@
 // Every command of the menus and toolbars has an effect.
 #include "app/MainForm.h"
-#include "app/actions.h"
+#include "app/commands/actions.h"
 #include "shell/command_table.h"
 #include "support/window_test.h"
 

@@ -31,7 +31,7 @@
 #include "actions/forms/previews/InstDlgNameCompany.h"
 #include "actions/forms/previews/InstDlgPassword.h"
 #include "app/MainForm.h"
-#include "app/window_place.h"
+#include "app/window/window_place.h"
 #include "builder/forms/DlgCompressOptions.h"
 #include "builder/forms/DlgCreate.h"
 #include "builder/forms/DlgTest.h"
@@ -86,10 +86,10 @@
 #include "tools/forms/ProjectManager.h"
 #include "tools/forms/WizBugReportQuestions.h"
 #include "tools/forms/WizBugReportReport.h"
-#include "ui/FontForm.h"
-#include "ui/SelectDir.h"
-#include "ui/XInputBox.h"
-#include "ui/form_help.h"
+#include "ui/dialogs/FontForm.h"
+#include "ui/dialogs/SelectDir.h"
+#include "ui/dialogs/XInputBox.h"
+#include "ui/dialogs/form_help.h"
 
 #include <gmock/gmock.h>
 

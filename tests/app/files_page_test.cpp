@@ -1,7 +1,7 @@
 // The tab "Fillista" in its window: what the list shows, and what keys, clicks and drops do to it.
-#include "app/FileListView.h"
-#include "app/FilesPage.h"
 #include "app/MainForm.h"
+#include "app/file_list/FileListView.h"
+#include "app/pages/FilesPage.h"
 
 #include "filelist/list_builder.h"
 #include "shell/settings_file.h"

@@ -1,6 +1,6 @@
-#include "app/FileListView.h"
-#include "app/FindBar.h"
 #include "app/MainForm.h"
+#include "app/file_list/FileListView.h"
+#include "app/file_list/FindBar.h"
 #include "filelist/list_builder.h"
 #include "support/window_test.h"
 

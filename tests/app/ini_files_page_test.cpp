@@ -1,4 +1,4 @@
-#include "app/IniFilesPage.h"
+#include "app/pages/IniFilesPage.h"
 
 #include "actions/ini_list.h"
 #include "app/MainForm.h"

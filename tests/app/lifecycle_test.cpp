@@ -1,7 +1,7 @@
 // The life of projects and of the window, driven by the commands' ids.
 #include "app/MainForm.h"
 #include "app/command_line.h"
-#include "app/window_place.h"
+#include "app/window/window_place.h"
 #include "platform/run_error.h"
 #include "shell/command_table.h"
 #include "shell/forms/DlgCreateFoldersAtMyDoc.h"

@@ -1,6 +1,6 @@
 // The commands for single files, the popup menu and the double click, run from the window.
-#include "app/FileListView.h"
 #include "app/MainForm.h"
+#include "app/file_list/FileListView.h"
 
 #include "filelist/list_builder.h"
 #include "support/window_test.h"

@@ -1,4 +1,4 @@
-#include "app/ProjectHeader.h"
+#include "app/pages/ProjectHeader.h"
 
 #include "project/project_file.h"
 #include "support/window_test.h"

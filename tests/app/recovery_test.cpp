@@ -1,7 +1,7 @@
 // What is kept of unsaved work when the program ends unexpectedly: the program is really killed,
 // and a second one finds what the first one left.
 #include "app/MainForm.h"
-#include "app/RecoveryKeeper.h"
+#include "app/history/RecoveryKeeper.h"
 #include "platform/this_host.h"
 #include "project/new_project.h"
 #include "shell/fake_window.h"

@@ -1,4 +1,4 @@
-#include "app/RegistryPage.h"
+#include "app/pages/RegistryPage.h"
 
 #include "support/window_test.h"
 

@@ -2,8 +2,8 @@
 // window.
 #include "filelist/forms/row_commands.h"
 
-#include "app/FileListView.h"
 #include "app/MainForm.h"
+#include "app/file_list/FileListView.h"
 #include "filelist/list_builder.h"
 #include "support/window_test.h"
 

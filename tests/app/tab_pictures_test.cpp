@@ -1,4 +1,4 @@
-#include "app/tab_pictures.h"
+#include "app/window/tab_pictures.h"
 
 #include "support/window_test.h"
 

@@ -1,8 +1,8 @@
 // Undo and redo by keys, menu and pages, as their user meets them.
-#include "app/EditHistory.h"
-#include "app/FileListView.h"
 #include "app/MainForm.h"
-#include "app/edit_name.h"
+#include "app/file_list/FileListView.h"
+#include "app/history/EditHistory.h"
+#include "app/history/edit_name.h"
 #include "filelist/list_builder.h"
 #include "shell/command_table.h"
 #include "support/window_test.h"

@@ -6,7 +6,7 @@
 #include "actions/forms/previews/SidePicture.h"
 #include "support/bitmap_maker.h"
 #include "support/window_test.h"
-#include "ui/RunningText.h"
+#include "ui/controls/RunningText.h"
 
 #include <fstream>
 #include <sstream>

@@ -61,7 +61,7 @@ TEST(House, FindsPlantedViolations)
         {"actions/ini_list.cpp", "importers/lst_file.h"},
         {"filelist/components.cpp", "filelist/forms/DlgIcon.h"},
         {"actions/ini_list.cpp", "actions/forms/pages/PageEditor.h"},
-        {"shell/session.cpp", "ui/Form.h"},
+        {"shell/session.cpp", "ui/kit/Form.h"},
         {"builder/forms/DlgCreate.cpp", "app/MainForm.h"},
         {"cli/main.cpp", "platform/posix/posix_host.h"},
         {"app/main.cpp", "platform/posix/signals.h"},
@@ -90,13 +90,13 @@ TEST(House, LetsThroughWhatIsInOrder)
         {"platform/this_host.h", "platform/posix/posix_host.h"},
         {"platform/posix/posix_host.h", "platform/posix/posix_machine.h"},
         {"filelist/forms/DlgIcon.cpp", "filelist/components.h"},
-        {"filelist/forms/DlgIcon.cpp", "ui/Form.h"},
-        {"runtime/win32/win_target.cpp", "platform/win32/wide_text.h"},
-        {"ui/QtAsk.cpp", "QWidget", true},
+        {"filelist/forms/DlgIcon.cpp", "ui/kit/Form.h"},
+        {"runtime/win32/machine/win_target.cpp", "platform/win32/wide_text.h"},
+        {"ui/dialogs/QtAsk.cpp", "QWidget", true},
         {"platform/posix/posix_files.cpp", "sys/stat.h", true},
         {"builder/create.cpp", "algorithm", true},
         {"archive/zip_reader.cpp", "zlib.h", true},
-        {"ui/colour_scheme.cpp", "QtDBus/QDBusMessage", true},
+        {"ui/look/colour_scheme.cpp", "QtDBus/QDBusMessage", true},
     };
     for (const Include& include : sound)
         EXPECT_TRUE(Violations(include).empty()) << include.file << " includes " << include.target;

@@ -4,7 +4,7 @@
 
 #include "builder/create_desk.h"
 #include "runtime/exit_codes.h"
-#include "runtime/memory_target.h"
+#include "runtime/support/memory_target.h"
 
 #include <ostream>
 

@@ -1,5 +1,5 @@
 // Cancel works at each stage of the installation, not only while files are copied.
-#include "setup_fixture.h"
+#include "runtime/support/setup_fixture.h"
 
 #include "runtime/uninstall_entry_key.h"
 

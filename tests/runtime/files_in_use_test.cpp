@@ -1,5 +1,5 @@
 // Files that programs hold open, and the answers of a user, or of a setup without one.
-#include "setup_fixture.h"
+#include "runtime/support/setup_fixture.h"
 
 #include "runtime/files_in_use.h"
 

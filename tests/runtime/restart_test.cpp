@@ -2,7 +2,7 @@
 
 #include "helpers/number_text.h"
 #include "runtime/refused_restart.h"
-#include "setup_fixture.h"
+#include "runtime/support/setup_fixture.h"
 
 #include <gmock/gmock.h>
 

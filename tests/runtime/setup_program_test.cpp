@@ -1,5 +1,5 @@
-#include "scripted_pages.h"
-#include "setup_fixture.h"
+#include "runtime/support/scripted_pages.h"
+#include "runtime/support/setup_fixture.h"
 
 #include "platform/run_error.h"
 #include "runtime/install/file_installer.h"

@@ -1,6 +1,6 @@
 #include "runtime/setup_variables.h"
 
-#include "memory_target.h"
+#include "runtime/support/memory_target.h"
 #include "support/memory_host.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #include "runtime/test_mode.h"
 
-#include "memory_target.h"
 #include "platform/run_error.h"
 #include "runtime/pages/page_order.h"
 #include "runtime/silent_ask.h"
-#include "scripted_pages.h"
+#include "runtime/support/memory_target.h"
+#include "runtime/support/scripted_pages.h"
 #include "support/golden.h"
 #include "support/memory_host.h"
 #include "support/scripted_ask.h"

@@ -1,7 +1,7 @@
 // The setup as deployment tools run it: its switches, the codes it ends with, and the log that it
 // writes for programs.
-#include "scripted_pages.h"
-#include "unattended_fixture.h"
+#include "runtime/support/scripted_pages.h"
+#include "runtime/support/unattended_fixture.h"
 
 #include "platform/run_error.h"
 #include "runtime/uninstall_entry_key.h"

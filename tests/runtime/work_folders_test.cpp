@@ -1,6 +1,6 @@
 #include "runtime/work_folders.h"
 
-#include "setup_fixture.h"
+#include "runtime/support/setup_fixture.h"
 
 #include <gtest/gtest.h>
 

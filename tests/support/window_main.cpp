@@ -1,9 +1,9 @@
 // main() of the tests that drive windows: real widgets on a screen in memory, with all that the
 // program sets up before its first window but the desktop's wishes.
-#include "ui/cut_texts.h"
-#include "ui/menu_key.h"
-#include "ui/outline_style.h"
-#include "ui/swedish_texts.h"
+#include "ui/controls/cut_texts.h"
+#include "ui/kit/menu_key.h"
+#include "ui/look/outline_style.h"
+#include "ui/swedish/swedish_texts.h"
 
 #include <QApplication>
 #include <cstdio>

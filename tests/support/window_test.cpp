@@ -1,7 +1,7 @@
 #include "support/window_test.h"
 
 #include "support/window_looks.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>

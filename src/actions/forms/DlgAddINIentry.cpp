@@ -1,9 +1,9 @@
 #include "actions/forms/DlgAddINIentry.h"
 
 #include "actions/ini_list.h"
-#include "ui/complete_variable.h"
+#include "ui/controls/complete_variable.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

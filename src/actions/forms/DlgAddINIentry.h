@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/ask.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

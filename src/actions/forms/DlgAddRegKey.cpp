@@ -1,8 +1,8 @@
 #include "actions/forms/DlgAddRegKey.h"
 
-#include "ui/complete_variable.h"
+#include "ui/controls/complete_variable.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

@@ -1,7 +1,7 @@
 // Lines that the setup adds to the startup files of the older systems.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QLabel;
 

@@ -4,7 +4,7 @@
 #include "actions/kept_path.h"
 #include "project/text_limits.h"
 #include "shell/session.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

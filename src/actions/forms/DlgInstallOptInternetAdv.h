@@ -3,7 +3,7 @@
 #pragma once
 
 #include "actions/install_options.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QLabel;
 

@@ -4,8 +4,8 @@
 #include "actions/kept_path.h"
 #include "project/text_limits.h"
 #include "shell/session.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

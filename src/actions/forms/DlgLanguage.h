@@ -2,7 +2,7 @@
 #pragma once
 
 #include "actions/language_files.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QListWidget;
 

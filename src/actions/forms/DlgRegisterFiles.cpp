@@ -3,9 +3,9 @@
 #include "actions/forms/list_editor.h"
 #include "shell/help.h"
 #include "shell/session.h"
-#include "ui/list_area.h"
+#include "ui/controls/list_area.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

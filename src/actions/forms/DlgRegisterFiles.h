@@ -2,7 +2,7 @@
 #pragma once
 
 #include "actions/after_install.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QLabel;
 

@@ -1,7 +1,7 @@
 // Programs that the setup starts when it has finished.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

@@ -1,7 +1,7 @@
 // The scripts that the setup runs before and after it copies files.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QLabel;
 class QTabWidget;

@@ -1,7 +1,7 @@
 // What the two dialogs share in which the setup's test for the .NET Framework is chosen.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QGroupBox;
 

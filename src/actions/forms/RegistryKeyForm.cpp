@@ -1,8 +1,8 @@
 #include "actions/forms/RegistryKeyForm.h"
 
 #include "platform/registry_roots.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "actions/registry_list.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

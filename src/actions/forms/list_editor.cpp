@@ -1,8 +1,8 @@
 #include "actions/forms/list_editor.h"
 
-#include "ui/list_area.h"
+#include "ui/controls/list_area.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

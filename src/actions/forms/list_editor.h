@@ -2,7 +2,7 @@
 #pragma once
 
 #include "actions/unsavable_line.h"
-#include "ui/form_kit.h"
+#include "ui/kit/form_kit.h"
 
 class QLabel;
 class QPlainTextEdit;

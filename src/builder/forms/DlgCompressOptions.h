@@ -2,7 +2,7 @@
 #pragma once
 
 #include "builder/create_form.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

@@ -11,10 +11,10 @@
 #include "shell/failure_text.h"
 #include "shell/main_window.h"
 #include "shell/session.h"
-#include "ui/XInputBox.h"
-#include "ui/icons.h"
+#include "ui/dialogs/XInputBox.h"
+#include "ui/kit/typed_text.h"
+#include "ui/look/icons.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

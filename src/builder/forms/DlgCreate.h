@@ -3,8 +3,8 @@
 #pragma once
 
 #include "builder/create.h"
-#include "ui/Form.h"
-#include "ui/host_paths.h"
+#include "ui/dialogs/host_paths.h"
+#include "ui/kit/Form.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // The test run: what it does in a few words, and the button that starts it.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

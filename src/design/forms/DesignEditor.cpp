@@ -2,9 +2,9 @@
 
 #include "design/transparent_colours.h"
 #include "shell/session.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 #include <algorithm>

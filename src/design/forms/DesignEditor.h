@@ -3,8 +3,8 @@
 #pragma once
 
 #include "project/design_keys.h"
-#include "ui/ColourButton.h"
-#include "ui/Form.h"
+#include "ui/controls/ColourButton.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

@@ -1,7 +1,7 @@
 // Every file that the design uses, with its size.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QTreeWidget;
 

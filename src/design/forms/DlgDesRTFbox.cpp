@@ -8,10 +8,10 @@
 #include "rtf/rtf_losses.h"
 #include "rtf/rtf_writer.h"
 #include "shell/session.h"
+#include "ui/controls/rtf_document.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_colour.h"
 #include "ui/qt_text.h"
-#include "ui/rtf_document.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

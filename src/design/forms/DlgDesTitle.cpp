@@ -6,7 +6,7 @@
 #include "design/number_fields.h"
 #include "project/text_limits.h"
 #include "shell/session.h"
-#include "ui/UpDownArrows.h"
+#include "ui/controls/UpDownArrows.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

@@ -2,7 +2,7 @@
 
 #include "design/forms/choose_file.h"
 #include "shell/session.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

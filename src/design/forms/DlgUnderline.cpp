@@ -3,7 +3,7 @@
 #include "design/number_fields.h"
 #include "shell/help.h"
 #include "shell/session.h"
-#include "ui/UpDownArrows.h"
+#include "ui/controls/UpDownArrows.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

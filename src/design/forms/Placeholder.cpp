@@ -1,7 +1,7 @@
 #include "design/forms/Placeholder.h"
 
 #include "helpers/windows_path.h"
-#include "ui/picture.h"
+#include "ui/controls/picture.h"
 
 #include <QPainter>
 

@@ -2,8 +2,8 @@
 
 #include "filelist/components.h"
 #include "shell/session.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

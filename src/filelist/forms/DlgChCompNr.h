@@ -1,7 +1,7 @@
 // The number of the component that files belong to.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

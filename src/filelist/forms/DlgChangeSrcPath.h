@@ -1,7 +1,7 @@
 // The path that a row's file is taken from.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

@@ -3,8 +3,8 @@
 #include "filelist/forms/DlgCompMoreDataAdv.h"
 #include "project/text_limits.h"
 #include "shell/session.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

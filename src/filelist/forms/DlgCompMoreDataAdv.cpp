@@ -1,7 +1,7 @@
 #include "filelist/forms/DlgCompMoreDataAdv.h"
 
 #include "project/text_limits.h"
-#include "ui/typed_text.h"
+#include "ui/kit/typed_text.h"
 
 #include <QtWidgets>
 

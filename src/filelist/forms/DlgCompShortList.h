@@ -1,7 +1,7 @@
 // The choice of the component that new files belong to.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QListWidget;
 

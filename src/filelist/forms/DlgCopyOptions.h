@@ -2,7 +2,7 @@
 #pragma once
 
 #include "filelist/options/copy_options.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

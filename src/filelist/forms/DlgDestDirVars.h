@@ -1,7 +1,7 @@
 // The variables that a destination can begin with, to pick one from.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QListWidget;
 

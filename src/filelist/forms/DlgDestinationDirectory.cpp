@@ -3,9 +3,9 @@
 #include "filelist/adding/destination_choice.h"
 #include "filelist/forms/DlgDestDirVars.h"
 #include "helpers/windows_path.h"
-#include "ui/complete_variable.h"
+#include "ui/controls/complete_variable.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

@@ -4,7 +4,7 @@
 
 #include "platform/ask.h"
 #include "shell/session.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

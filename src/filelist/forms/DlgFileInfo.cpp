@@ -3,7 +3,7 @@
 #include "filelist/forms/DlgMDADetails.h"
 #include "filelist/options/file_info.h"
 #include "shell/session.h"
-#include "ui/ShownField.h"
+#include "ui/controls/ShownField.h"
 
 #include <QtWidgets>
 

@@ -1,7 +1,7 @@
 // What there is to know about the file of a row; nothing is changed here.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

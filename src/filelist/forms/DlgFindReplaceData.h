@@ -2,7 +2,7 @@
 #pragma once
 
 #include "filelist/replace_rows.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

@@ -1,10 +1,10 @@
 #include "filelist/forms/DlgIcon.h"
 
 #include "shell/session.h"
-#include "ui/PathLabel.h"
-#include "ui/complete_variable.h"
+#include "ui/controls/PathLabel.h"
+#include "ui/controls/complete_variable.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

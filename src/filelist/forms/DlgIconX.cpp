@@ -2,8 +2,8 @@
 
 #include "shell/help.h"
 #include "shell/session.h"
-#include "ui/PictureView.h"
-#include "ui/picture.h"
+#include "ui/controls/PictureView.h"
+#include "ui/controls/picture.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

@@ -1,7 +1,7 @@
 // How the setup installs the package of Microsoft's data access components.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

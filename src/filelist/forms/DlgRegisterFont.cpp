@@ -2,7 +2,7 @@
 
 #include "filelist/row_text.h"
 #include "shell/session.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "filelist/options/font_row.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

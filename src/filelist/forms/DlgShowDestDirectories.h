@@ -2,7 +2,7 @@
 #pragma once
 
 #include "project/file_list.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QLabel;
 class QListWidget;

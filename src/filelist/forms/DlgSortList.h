@@ -2,7 +2,7 @@
 #pragma once
 
 #include "project/records.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 #include <vector>
 

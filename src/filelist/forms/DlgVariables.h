@@ -1,7 +1,7 @@
 // The variables with their values here: a preview, or a list to pick one from.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 #include <optional>
 

@@ -3,7 +3,7 @@
 #include "filelist/forms/DlgIconOptions.h"
 #include "filelist/row_text.h"
 #include "shell/session.h"
-#include "ui/complete_variable.h"
+#include "ui/controls/complete_variable.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

@@ -4,7 +4,7 @@
 
 #include "filelist/adding/tree_walk.h"
 #include "filelist/list_work.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QLabel;
 

@@ -4,7 +4,7 @@
 #include "platform/failure_text.h"
 #include "shell/help.h"
 #include "shell/session.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

@@ -1,7 +1,7 @@
 // Shows which files of a wizard's setup list the file list still lacks. It adds nothing itself.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QListWidget;
 

@@ -1,7 +1,7 @@
 #include "importers/forms/DlgImportFolder.h"
 
 #include "helpers/windows_path.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

@@ -1,6 +1,6 @@
 #include "importers/forms/DlgImportVB6Project.h"
 
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

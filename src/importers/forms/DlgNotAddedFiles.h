@@ -2,7 +2,7 @@
 #pragma once
 
 #include "importers/import_work.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QTreeWidget;
 

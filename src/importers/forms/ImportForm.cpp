@@ -3,7 +3,7 @@
 #include "helpers/windows_path.h"
 #include "importers/forms/DlgNotAddedFiles.h"
 #include "shell/moved_rows.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

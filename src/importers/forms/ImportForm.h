@@ -4,7 +4,7 @@
 
 #include "importers/forms/import_forms.h"
 #include "importers/import_data.h"
-#include "ui/form_help.h"
+#include "ui/dialogs/form_help.h"
 
 class QLabel;
 class QProgressBar;

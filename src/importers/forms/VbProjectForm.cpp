@@ -1,6 +1,6 @@
 #include "importers/forms/VbProjectForm.h"
 
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 
 #include <QtWidgets>
 

@@ -1,7 +1,7 @@
 // What the program is and which version of it runs.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QLabel;
 

@@ -1,7 +1,7 @@
 // The one-time offer to make a folder for projects in My Documents.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QLabel;
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "shell/main_window.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QTabWidget;
 

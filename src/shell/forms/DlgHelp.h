@@ -3,7 +3,7 @@
 #pragma once
 
 #include "shell/help_pages.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QTextBrowser;
 class QTreeWidget;

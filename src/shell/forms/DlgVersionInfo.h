@@ -1,7 +1,7 @@
 // Information about the product that the setup and its version dialogs show.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

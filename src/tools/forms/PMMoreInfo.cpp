@@ -1,6 +1,6 @@
 #include "tools/forms/PMMoreInfo.h"
 
-#include "ui/ShownField.h"
+#include "ui/controls/ShownField.h"
 
 #include <QtWidgets>
 

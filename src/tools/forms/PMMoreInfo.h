@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tools/project_list.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

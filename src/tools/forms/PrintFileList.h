@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tools/list_pages.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QLabel;
 

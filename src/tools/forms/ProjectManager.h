@@ -3,7 +3,7 @@
 #pragma once
 
 #include "tools/project_list.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QTreeWidget;
 class QTreeWidgetItem;

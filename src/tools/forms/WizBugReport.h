@@ -3,7 +3,7 @@
 #pragma once
 
 #include "tools/bug_report.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 #include <memory>
 

@@ -4,9 +4,9 @@
 #include "platform/failure_text.h"
 #include "shell/session.h"
 #include "tools/fault_note.h"
-#include "ui/LinkLabel.h"
+#include "ui/controls/LinkLabel.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

@@ -6,8 +6,8 @@
 #include "shell/session.h"
 #include "tools/diagnosis_program.h"
 #include "tools/fault_note.h"
-#include "ui/LinkLabel.h"
-#include "ui/list_area.h"
+#include "ui/controls/LinkLabel.h"
+#include "ui/controls/list_area.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

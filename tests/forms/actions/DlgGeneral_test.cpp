@@ -2,7 +2,7 @@
 
 #include "support/bitmap_maker.h"
 #include "support/window_test.h"
-#include "ui/PictureView.h"
+#include "ui/controls/PictureView.h"
 
 namespace quillon::test {
 namespace {

@@ -1,7 +1,7 @@
 #include "actions/forms/DlgInstallOptInternetAdv.h"
 
 #include "support/window_test.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 
 namespace quillon::test {
 namespace {

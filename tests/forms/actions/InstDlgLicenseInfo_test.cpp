@@ -5,7 +5,7 @@
 #include "actions/forms/pages/DlgLicenseInfoRtf.h"
 #include "actions/forms/previews/InstDlgLicenseInfoRtf.h"
 #include "forms/preview_test.h"
-#include "ui/rtf_view.h"
+#include "ui/controls/rtf_view.h"
 
 namespace quillon::test {
 namespace {

@@ -3,7 +3,7 @@
 #include "design/rtf_box_file.h"
 #include "rtf/rtf_text.h"
 #include "support/window_test.h"
-#include "ui/ColourButton.h"
+#include "ui/controls/ColourButton.h"
 
 namespace quillon::test {
 namespace {

@@ -12,8 +12,8 @@
 #include "shell/help_pages.h"
 #include "shell/lifecycle.h"
 #include "support/window_test.h"
-#include "ui/PathLabel.h"
-#include "ui/UpDownArrows.h"
+#include "ui/controls/PathLabel.h"
+#include "ui/controls/UpDownArrows.h"
 
 namespace quillon::test {
 namespace {

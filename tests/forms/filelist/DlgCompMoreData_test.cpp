@@ -3,7 +3,7 @@
 
 #include "filelist/forms/DlgCompMoreDataAdv.h"
 #include "support/window_test.h"
-#include "ui/typed_text.h"
+#include "ui/kit/typed_text.h"
 
 namespace quillon::test {
 namespace {

@@ -3,7 +3,7 @@
 #include "filelist/list_builder.h"
 #include "support/icon_maker.h"
 #include "support/window_test.h"
-#include "ui/PictureView.h"
+#include "ui/controls/PictureView.h"
 
 namespace quillon::test {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "filelist/list_builder.h"
 #include "support/window_test.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 
 namespace quillon::test {
 namespace {

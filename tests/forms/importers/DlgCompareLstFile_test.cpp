@@ -1,7 +1,7 @@
 #include "importers/forms/DlgCompareLstFile.h"
 
 #include "support/window_test.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 
 namespace quillon::test {
 namespace {

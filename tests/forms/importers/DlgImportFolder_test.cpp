@@ -2,7 +2,7 @@
 
 #include "forms/import_form_test.h"
 #include "support/linked_program.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 #include "importers/forms/DlgImportVBNetProject.h"
 
 #include "forms/import_form_test.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 
 #include <gmock/gmock.h>
 

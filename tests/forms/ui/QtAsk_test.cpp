@@ -1,5 +1,5 @@
 // The boxes of the desktop program, their pictures above all.
-#include "ui/QtAsk.h"
+#include "ui/dialogs/QtAsk.h"
 
 #include "support/window_test.h"
 

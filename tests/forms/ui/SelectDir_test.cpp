@@ -1,4 +1,4 @@
-#include "ui/SelectDir.h"
+#include "ui/dialogs/SelectDir.h"
 
 #include "platform/run_error.h"
 #include "support/window_test.h"

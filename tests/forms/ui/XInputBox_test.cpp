@@ -1,7 +1,7 @@
-#include "ui/XInputBox.h"
+#include "ui/dialogs/XInputBox.h"
 
 #include "support/window_test.h"
-#include "ui/QtAsk.h"
+#include "ui/dialogs/QtAsk.h"
 
 namespace quillon::test {
 namespace {

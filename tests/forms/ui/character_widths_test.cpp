@@ -1,4 +1,4 @@
-#include "ui/character_widths.h"
+#include "ui/controls/character_widths.h"
 
 #include "support/window_test.h"
 

@@ -1,7 +1,7 @@
-#include "ui/colour_scheme.h"
+#include "ui/look/colour_scheme.h"
 
 #include "support/window_test.h"
-#include "ui/colours.h"
+#include "ui/look/colours.h"
 
 #include <QtDBus/QDBusVariant>
 

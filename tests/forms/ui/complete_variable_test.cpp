@@ -1,4 +1,4 @@
-#include "ui/complete_variable.h"
+#include "ui/controls/complete_variable.h"
 
 #include "support/window_test.h"
 

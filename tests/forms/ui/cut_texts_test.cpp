@@ -1,4 +1,4 @@
-#include "ui/cut_texts.h"
+#include "ui/controls/cut_texts.h"
 
 #include "support/window_test.h"
 

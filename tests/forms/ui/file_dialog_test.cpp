@@ -1,4 +1,4 @@
-#include "ui/file_dialog.h"
+#include "ui/dialogs/file_dialog.h"
 
 #include "support/temp_folder.h"
 #include "support/window_test.h"

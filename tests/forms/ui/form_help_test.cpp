@@ -1,4 +1,4 @@
-#include "ui/form_help.h"
+#include "ui/dialogs/form_help.h"
 
 #include <QtWidgets>
 #include <gmock/gmock.h>

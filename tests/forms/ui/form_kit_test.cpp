@@ -1,5 +1,5 @@
 // The shape that all forms share, on a small form of its own.
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 #include "support/window_test.h"
 

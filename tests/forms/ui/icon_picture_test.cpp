@@ -1,7 +1,7 @@
 // Icon files as they are shown: all their sizes beside each other.
 #include "support/icon_maker.h"
 #include "support/window_test.h"
-#include "ui/picture.h"
+#include "ui/controls/picture.h"
 
 namespace quillon::test {
 namespace {

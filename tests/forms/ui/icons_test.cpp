@@ -1,8 +1,8 @@
-#include "ui/icons.h"
+#include "ui/look/icons.h"
 
 #include "shell/command_table.h"
 #include "support/window_test.h"
-#include "ui/colours.h"
+#include "ui/look/colours.h"
 
 #include <map>
 #include <set>

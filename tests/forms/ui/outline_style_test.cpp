@@ -1,9 +1,9 @@
 // The outlines of controls against what is round them, measured in the pixels that are shown.
-#include "ui/outline_style.h"
+#include "ui/look/outline_style.h"
 
 #include "support/window_test.h"
-#include "ui/colour_scheme.h"
-#include "ui/colours.h"
+#include "ui/look/colour_scheme.h"
+#include "ui/look/colours.h"
 
 namespace quillon::test {
 namespace {

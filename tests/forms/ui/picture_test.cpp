@@ -1,5 +1,5 @@
 // Pictures from users, good and bad.
-#include "ui/picture.h"
+#include "ui/controls/picture.h"
 
 #include "support/window_test.h"
 

@@ -1,5 +1,5 @@
 // Formatted text as a user reads it, and files made to crash the program.
-#include "ui/rtf_view.h"
+#include "ui/controls/rtf_view.h"
 
 #include "support/window_test.h"
 

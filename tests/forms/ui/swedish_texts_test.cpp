@@ -1,4 +1,4 @@
-#include "ui/swedish_texts.h"
+#include "ui/swedish/swedish_texts.h"
 
 #include "support/window_test.h"
 

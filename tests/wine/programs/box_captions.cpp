@@ -6,8 +6,8 @@
 #include "platform/whole_file.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
-#include "runtime/win32/message_box.h"
-#include "runtime/win32/program_start.h"
+#include "runtime/win32/processes/program_start.h"
+#include "runtime/win32/windows/message_box.h"
 
 #include <windows.h>
 

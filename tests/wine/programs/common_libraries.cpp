@@ -1,7 +1,7 @@
 // Takes the way of a system that can't be told to look in its own folder only: loads beforehand
 // what is asked for by name later, then asks for it. Ends with the number of libraries that came
 // from elsewhere.
-#include "runtime/win32/program_start.h"
+#include "runtime/win32/processes/program_start.h"
 
 #include <windows.h>
 

@@ -52,8 +52,8 @@
 #include "platform/whole_file.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
-#include "runtime/win32/list_window.h"
-#include "runtime/win32/page_letters.h"
+#include "runtime/win32/windows/list_window.h"
+#include "runtime/win32/windows/page_letters.h"
 #include "window_look.h"
 
 #include <windows.h>

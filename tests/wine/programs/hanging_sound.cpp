@@ -4,7 +4,7 @@
 #include "platform/whole_file.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win_files.h"
-#include "runtime/win32/screen_sound.h"
+#include "runtime/win32/screen/screen_sound.h"
 
 #include <windows.h>
 

@@ -6,7 +6,7 @@
 #include "platform/win32/win_files.h"
 #include "platform/win32/win_machine.h"
 #include "runtime/silent_ask.h"
-#include "runtime/win32/gdi_letters.h"
+#include "runtime/win32/screen/gdi_letters.h"
 
 #include <windows.h>
 

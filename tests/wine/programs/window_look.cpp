@@ -1,6 +1,6 @@
 #include "window_look.h"
 
-#include "runtime/win32/page_letters.h"
+#include "runtime/win32/windows/page_letters.h"
 
 namespace quillon {
 

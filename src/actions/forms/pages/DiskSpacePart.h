@@ -3,7 +3,7 @@
 #pragma once
 
 #include "actions/forms/previews/previews.h"
-#include "ui/form_kit.h"
+#include "ui/kit/form_kit.h"
 
 #include <QWidget>
 #include <optional>

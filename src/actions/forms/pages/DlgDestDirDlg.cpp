@@ -5,8 +5,8 @@
 #include "actions/update_reference.h"
 #include "project/text_limits.h"
 #include "shell/session.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

@@ -1,8 +1,8 @@
 #include "actions/forms/pages/DlgLicenseInfo.h"
 
 #include "actions/forms/previews/previews.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

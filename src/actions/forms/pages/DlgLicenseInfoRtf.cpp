@@ -3,7 +3,7 @@
 #include "actions/agreement_document.h"
 #include "actions/forms/previews/previews.h"
 #include "shell/session.h"
-#include "ui/PathLabel.h"
+#include "ui/controls/PathLabel.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

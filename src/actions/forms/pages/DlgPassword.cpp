@@ -2,8 +2,8 @@
 
 #include "actions/forms/previews/previews.h"
 #include "actions/install_password.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

@@ -1,7 +1,7 @@
 // The group in the Start menu that the setup makes for the program's icons.
 #pragma once
 
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 namespace quillon {
 

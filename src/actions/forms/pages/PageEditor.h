@@ -4,7 +4,7 @@
 
 #include "actions/dialog_chain.h"
 #include "project/records.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 #include <functional>
 

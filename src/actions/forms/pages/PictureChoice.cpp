@@ -2,10 +2,10 @@
 
 #include "actions/dialog_bitmap.h"
 #include "shell/session.h"
-#include "ui/PathLabel.h"
-#include "ui/PictureView.h"
-#include "ui/form_kit.h"
-#include "ui/picture.h"
+#include "ui/controls/PathLabel.h"
+#include "ui/controls/PictureView.h"
+#include "ui/controls/picture.h"
+#include "ui/kit/form_kit.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

@@ -4,8 +4,8 @@
 #include "actions/preview_page.h"
 #include "formats/page_layout.h"
 #include "shell/session.h"
-#include "ui/RunningText.h"
-#include "ui/picture.h"
+#include "ui/controls/RunningText.h"
+#include "ui/controls/picture.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

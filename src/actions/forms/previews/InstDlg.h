@@ -3,7 +3,7 @@
 #pragma once
 
 #include "actions/dialog_chain.h"
-#include "ui/Form.h"
+#include "ui/kit/Form.h"
 
 class QVBoxLayout;
 

@@ -5,9 +5,9 @@
 #include "formats/page_layout.h"
 #include "project/text_limits.h"
 #include "shell/session.h"
-#include "ui/RunningText.h"
+#include "ui/controls/RunningText.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
-#include "ui/typed_text.h"
 
 #include <QtWidgets>
 

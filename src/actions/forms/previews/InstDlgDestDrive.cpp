@@ -6,8 +6,8 @@
 #include "formats/page_layout.h"
 #include "platform/volume_name.h"
 #include "shell/session.h"
-#include "ui/RunningText.h"
-#include "ui/icons.h"
+#include "ui/controls/RunningText.h"
+#include "ui/look/icons.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>

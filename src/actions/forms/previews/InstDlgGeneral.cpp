@@ -1,6 +1,6 @@
 #include "actions/forms/previews/InstDlgGeneral.h"
 
-#include "ui/RunningText.h"
+#include "ui/controls/RunningText.h"
 
 #include <QtWidgets>
 

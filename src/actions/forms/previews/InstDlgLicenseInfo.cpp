@@ -1,7 +1,7 @@
 #include "actions/forms/previews/InstDlgLicenseInfo.h"
 
 #include "formats/page_layout.h"
-#include "ui/RunningText.h"
+#include "ui/controls/RunningText.h"
 
 #include <QtWidgets>
 

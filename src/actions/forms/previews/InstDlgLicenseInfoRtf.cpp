@@ -2,8 +2,8 @@
 
 #include "formats/page_layout.h"
 #include "shell/session.h"
-#include "ui/RunningText.h"
-#include "ui/rtf_view.h"
+#include "ui/controls/RunningText.h"
+#include "ui/controls/rtf_view.h"
 
 #include <QtWidgets>
 

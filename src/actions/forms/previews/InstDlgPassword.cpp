@@ -4,8 +4,8 @@
 #include "formats/page_layout.h"
 #include "helpers/line_breaks.h"
 #include "project/text_limits.h"
-#include "ui/RunningText.h"
-#include "ui/typed_text.h"
+#include "ui/controls/RunningText.h"
+#include "ui/kit/typed_text.h"
 
 #include <QtWidgets>
 

@@ -1,7 +1,7 @@
 // The picture at the left of a setup's page: as high as the page, without a frame, its shape kept.
 #pragma once
 
-#include "ui/PictureView.h"
+#include "ui/controls/PictureView.h"
 
 namespace quillon {
 

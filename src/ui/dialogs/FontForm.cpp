@@ -1,0 +1,105 @@
+#include "ui/dialogs/FontForm.h"
+
+#include "ui/controls/ColourButton.h"
+#include "ui/qt_text.h"
+
+#include <QtWidgets>
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr int kMinSize = 1;
+constexpr int kMaxSize = 200;
+constexpr int kSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
+constexpr int kSampleHeight = 4; // usual lines
+
+} // namespace
+
+FontForm::FontForm(const FontChoice& current, Ask& ask, QWidget* parent)
+    : Form("FontForm", "Teckensnitt", parent), Chosen(current)
+{
+    MakeControls(ask);
+    auto* looks = new QVBoxLayout;
+    for (QCheckBox* box : {cBold, cItalic, cUnderline, cStrikeThrough})
+        looks->addWidget(box);
+    looks->addWidget(cmdColor);
+    cUnderline->setVisible(Chosen.isUnderlined.has_value());
+    cStrikeThrough->setVisible(Chosen.isStruckOut.has_value());
+    cmdColor->setVisible(Chosen.colour.has_value());
+    Arrange(VBox({
+        Fields({{"&Teckensnitt:", ComboFontName}, {"&Storlek (punkter):", ComboFontSize}}),
+        Frame("Utseende", {looks}),
+        Growing(Frame("Exempel", {Growing(sSample)})),
+        OkCancel(),
+    }));
+    ShowSample();
+}
+
+void FontForm::MakeControls(Ask& ask)
+{
+    Named(NAMED(ComboFontName), new QFontComboBox);
+    // The name of a font that this machine lacks is kept.
+    ComboFontName->setEditable(true);
+    ComboFontName->setEditText(ToQt(Chosen.name));
+    Named(NAMED(ComboFontSize), new QComboBox);
+    ComboFontSize->setEditable(true);
+    ComboFontSize->setValidator(new QIntValidator(kMinSize, kMaxSize, ComboFontSize));
+    for (const int size : kSizes)
+        ComboFontSize->addItem(QString::number(size));
+    ComboFontSize->setEditText(QString::number(Chosen.size));
+    const auto box = [this](QCheckBox*& member, const char* name, const char* caption, bool on) {
+        Named(member, name, new QCheckBox(QString::fromUtf8(caption)))->setChecked(on);
+        connect(member, &QCheckBox::toggled, this, [this] { ShowSample(); });
+    };
+    box(NAMED(cBold), "&Fet", Chosen.isBold);
+    box(NAMED(cItalic), "&Kursiv", Chosen.isItalic);
+    box(NAMED(cUnderline), "&Understruken", Chosen.isUnderlined.value_or(false));
+    box(NAMED(cStrikeThrough), "&Genomstruken", Chosen.isStruckOut.value_or(false));
+    Named(NAMED(cmdColor), new ColourButton("F&ärg...", ask, [this] { ShowSample(); }));
+    cmdColor->SetColour(Chosen.colour.value_or(0));
+    Named(NAMED(sSample), new QLabel("AaBbÅåÄäÖö 123"), "Exempel");
+    sSample->setAlignment(Qt::AlignCenter);
+    sSample->setMinimumHeight(kSampleHeight * fontMetrics().lineSpacing());
+    sSample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+    connect(ComboFontName, &QComboBox::editTextChanged, this, [this] { ShowSample(); });
+    connect(ComboFontSize, &QComboBox::editTextChanged, this, [this] { ShowSample(); });
+}
+
+FontChoice FontForm::Shown() const
+{
+    FontChoice font = Chosen;
+    font.name = FromQt(ComboFontName->currentText().trimmed());
+    if (font.name.empty())
+        font.name = Chosen.name;
+    font.size =
+        static_cast<Integer>(std::clamp(ComboFontSize->currentText().toInt(), kMinSize, kMaxSize));
+    font.isBold = cBold->isChecked();
+    font.isItalic = cItalic->isChecked();
+    if (font.isUnderlined)
+        font.isUnderlined = cUnderline->isChecked();
+    if (font.isStruckOut)
+        font.isStruckOut = cStrikeThrough->isChecked();
+    if (font.colour)
+        font.colour = cmdColor->GetColour();
+    return font;
+}
+
+void FontForm::ShowSample()
+{
+    const FontChoice shown = Shown();
+    QFont font(ToQt(shown.name), shown.size);
+    font.setBold(shown.isBold);
+    font.setItalic(shown.isItalic);
+    font.setUnderline(shown.isUnderlined.value_or(false));
+    font.setStrikeOut(shown.isStruckOut.value_or(false));
+    sSample->setFont(font);
+}
+
+void FontForm::Store()
+{
+    Chosen = Shown();
+}
+
+} // namespace quillon
