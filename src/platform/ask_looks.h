@@ -17,6 +17,9 @@ struct FontChoice {
     std::optional<bool> isUnderlined;
     std::optional<bool> isStruckOut;
     std::optional<Long> colour; // 0x00BBGGRR
+    // The longest name that the project file holds, in bytes there; 0: the name goes into a file
+    // that holds any.
+    int maxNameLength = 0;
 
     bool operator==(const FontChoice&) const = default;
 };

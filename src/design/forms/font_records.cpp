@@ -1,6 +1,7 @@
 #include "design/forms/font_records.h"
 
 #include "design/font_description.h"
+#include "project/text_limits.h"
 
 namespace quillon {
 
@@ -18,7 +19,8 @@ FontChoice TitleFontOf(const section::DesTitle& title)
     return {.name = title.TitleFontName,
             .size = title.TitleFontSize,
             .isBold = title.TitleFontBold != kOff,
-            .isItalic = title.TitleFontItalic != kOff};
+            .isItalic = title.TitleFontItalic != kOff,
+            .maxNameLength = MaxTextLength(&section::DesTitle::TitleFontName)};
 }
 
 void SetTitleFont(section::DesTitle& title, const FontChoice& font)
@@ -35,7 +37,8 @@ FontChoice FontOf(const DesTextBox& box, const BoxFont& fields)
             .size = box.*fields.size,
             .isBold = box.*fields.bold != kOff,
             .isItalic = box.*fields.italic != kOff,
-            .colour = box.*fields.colour};
+            .colour = box.*fields.colour,
+            .maxNameLength = MaxTextLength(fields.name)};
 }
 
 void SetFont(DesTextBox& box, const BoxFont& fields, const FontChoice& font)

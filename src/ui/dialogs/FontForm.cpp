@@ -1,6 +1,9 @@
 #include "ui/dialogs/FontForm.h"
 
+#include "helpers/ansi_text.h"
+#include "platform/ask.h"
 #include "ui/controls/ColourButton.h"
+#include "ui/kit/typed_text.h"
 #include "ui/qt_text.h"
 
 #include <QtWidgets>
@@ -18,9 +21,11 @@ constexpr int kSampleHeight = 4; // usual lines
 } // namespace
 
 FontForm::FontForm(const FontChoice& current, Ask& ask, QWidget* parent)
-    : Form("FontForm", "Teckensnitt", parent), Chosen(current)
+    : Form("FontForm", "Teckensnitt", parent), Chosen(current), ask_(ask)
 {
-    MakeControls(ask);
+    MakeName();
+    MakeSize();
+    MakeLooks();
     auto* looks = new QVBoxLayout;
     for (QCheckBox* box : {cBold, cItalic, cUnderline, cStrikeThrough})
         looks->addWidget(box);
@@ -37,18 +42,31 @@ FontForm::FontForm(const FontChoice& current, Ask& ask, QWidget* parent)
     ShowSample();
 }
 
-void FontForm::MakeControls(Ask& ask)
+void FontForm::MakeName()
 {
     Named(NAMED(ComboFontName), new QFontComboBox);
     // The name of a font that this machine lacks is kept.
     ComboFontName->setEditable(true);
     ComboFontName->setEditText(ToQt(Chosen.name));
+    // Of any length, since a family of the list would be cut into another name: OK refuses it.
+    if (Chosen.maxNameLength > 0)
+        LimitTyping(ComboFontName->lineEdit(), 0);
+    connect(ComboFontName, &QComboBox::editTextChanged, this, [this] { ShowSample(); });
+}
+
+void FontForm::MakeSize()
+{
     Named(NAMED(ComboFontSize), new QComboBox);
     ComboFontSize->setEditable(true);
     ComboFontSize->setValidator(new QIntValidator(kMinSize, kMaxSize, ComboFontSize));
     for (const int size : kSizes)
         ComboFontSize->addItem(QString::number(size));
     ComboFontSize->setEditText(QString::number(Chosen.size));
+    connect(ComboFontSize, &QComboBox::editTextChanged, this, [this] { ShowSample(); });
+}
+
+void FontForm::MakeLooks()
+{
     const auto box = [this](QCheckBox*& member, const char* name, const char* caption, bool on) {
         Named(member, name, new QCheckBox(QString::fromUtf8(caption)))->setChecked(on);
         connect(member, &QCheckBox::toggled, this, [this] { ShowSample(); });
@@ -57,14 +75,12 @@ void FontForm::MakeControls(Ask& ask)
     box(NAMED(cItalic), "&Kursiv", Chosen.isItalic);
     box(NAMED(cUnderline), "&Understruken", Chosen.isUnderlined.value_or(false));
     box(NAMED(cStrikeThrough), "&Genomstruken", Chosen.isStruckOut.value_or(false));
-    Named(NAMED(cmdColor), new ColourButton("F&ärg...", ask, [this] { ShowSample(); }));
+    Named(NAMED(cmdColor), new ColourButton("F&ärg...", ask_, [this] { ShowSample(); }));
     cmdColor->SetColour(Chosen.colour.value_or(0));
     Named(NAMED(sSample), new QLabel("AaBbÅåÄäÖö 123"), "Exempel");
     sSample->setAlignment(Qt::AlignCenter);
     sSample->setMinimumHeight(kSampleHeight * fontMetrics().lineSpacing());
     sSample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-    connect(ComboFontName, &QComboBox::editTextChanged, this, [this] { ShowSample(); });
-    connect(ComboFontSize, &QComboBox::editTextChanged, this, [this] { ShowSample(); });
 }
 
 FontChoice FontForm::Shown() const
@@ -95,6 +111,22 @@ void FontForm::ShowSample()
     font.setUnderline(shown.isUnderlined.value_or(false));
     font.setStrikeOut(shown.isStruckOut.value_or(false));
     sSample->setFont(font);
+}
+
+// The list holds the machine's own families, whatever their names are.
+bool FontForm::MayClose()
+{
+    if (Chosen.maxNameLength == 0)
+        return true;
+    const Text name = Shown().name;
+    if (AnsiText::Holds(name))
+        return !WarnIfTooLong(ComboFontName->lineEdit(), Chosen.maxNameLength);
+    ask_.Critical("Ogiltiga tecken hittade",
+                  "Teckensnittet '" + name +
+                      "' kan ej väljas. Namnet innehåller tecken som inte kan lagras i ett "
+                      "projekt. Välj ett annat teckensnitt.");
+    ComboFontName->setFocus();
+    return false;
 }
 
 void FontForm::Store()

@@ -29,12 +29,17 @@ public:
     QLabel* sSample = nullptr;
 
 protected:
+    bool MayClose() override;
     void Store() override;
 
 private:
-    void MakeControls(Ask& ask);
+    void MakeName();
+    void MakeSize();
+    void MakeLooks();
     FontChoice Shown() const;
     void ShowSample();
+
+    Ask& ask_;
 };
 
 } // namespace quillon

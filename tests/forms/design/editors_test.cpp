@@ -9,33 +9,14 @@
 #include "design/forms/DlgDesTitle.h"
 #include "design/forms/DlgSound.h"
 #include "design/forms/DlgUnderline.h"
+#include "forms/design/design_editors_test.h"
 #include "shell/help_pages.h"
 #include "shell/lifecycle.h"
-#include "support/window_test.h"
 #include "ui/controls/PathLabel.h"
 #include "ui/controls/UpDownArrows.h"
 
 namespace quillon::test {
 namespace {
-
-class DesignEditorsTest : public WindowTest {
-protected:
-    DesignEditorsTest()
-    {
-        session.surface.width = 640;
-        session.surface.height = 480;
-    }
-
-    Project& project = session.project;
-};
-
-/// Types an entry, leaves the field and gives what it became.
-Text Left(QWidget& form, const char* name, const Text& entry)
-{
-    Type(form, name, entry);
-    Find<QWidget>(form, "cmdCancel").setFocus();
-    return TextIn(form, name);
-}
 
 TEST_F(DesignEditorsTest, BackgroundStoresItsFields)
 {
@@ -427,9 +408,11 @@ TEST_F(DesignEditorsTest, TitleKeepsANewFontOnCancel)
     ask.colours = {0xFF};
     Click(form, "cmdTitleFont");
     Click(form, "cmdTitleColor");
-    EXPECT_EQ(
-        ask.shownFonts.front(),
-        (FontChoice{.name = "Times New Roman", .size = 26, .isBold = true, .isItalic = true}));
+    EXPECT_EQ(ask.shownFonts.front(), (FontChoice{.name = "Times New Roman",
+                                                  .size = 26,
+                                                  .isBold = true,
+                                                  .isItalic = true,
+                                                  .maxNameLength = 199}));
     EXPECT_EQ(form.sTitleFont->text(), "Arial, 20 pt, ej fet, ej kursiv");
     Click(form, "cmdCancel");
     EXPECT_EQ(project.DesTitle.TitleFontName, "Arial");
@@ -553,6 +536,7 @@ TEST_F(DesignEditorsTest, TextboxStoresItsFields)
     ask.fonts = {FontChoice{.name = "Courier", .size = 8, .colour = 0x44}};
     Click(form, "cmdTextBoxFont");
     EXPECT_EQ(ask.shownFonts.front().colour, 0);
+    EXPECT_EQ(ask.shownFonts.front().maxNameLength, 199);
     EXPECT_EQ(form.sBoxTextFont->text(), "Courier, 8 pt, ej fet, ej kursiv");
     EXPECT_EQ(Left(form, "tWidth", "49"), "50");
     EXPECT_EQ(Left(form, "tWidth", "641"), "640");
