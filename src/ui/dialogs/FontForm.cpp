@@ -58,6 +58,8 @@ void FontForm::MakeSize()
 {
     Named(NAMED(ComboFontSize), new QComboBox);
     ComboFontSize->setEditable(true);
+    // A 1 that is typed is meant, and not the beginning of a 10.
+    ComboFontSize->setCompleter(nullptr);
     ComboFontSize->setValidator(new QIntValidator(kMinSize, kMaxSize, ComboFontSize));
     for (const int size : kSizes)
         ComboFontSize->addItem(QString::number(size));
@@ -83,14 +85,22 @@ void FontForm::MakeLooks()
     sSample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
 }
 
+// A size of the project that can't be typed stays until another one is chosen.
+Integer FontForm::ShownSize() const
+{
+    const QString size = ComboFontSize->currentText();
+    if (size.isEmpty() || size == QString::number(Chosen.size))
+        return Chosen.size;
+    return static_cast<Integer>(std::clamp(size.toInt(), kMinSize, kMaxSize));
+}
+
 FontChoice FontForm::Shown() const
 {
     FontChoice font = Chosen;
     font.name = FromQt(ComboFontName->currentText().trimmed());
     if (font.name.empty())
         font.name = Chosen.name;
-    font.size =
-        static_cast<Integer>(std::clamp(ComboFontSize->currentText().toInt(), kMinSize, kMaxSize));
+    font.size = ShownSize();
     font.isBold = cBold->isChecked();
     font.isItalic = cItalic->isChecked();
     if (font.isUnderlined)
@@ -105,7 +115,7 @@ FontChoice FontForm::Shown() const
 void FontForm::ShowSample()
 {
     const FontChoice shown = Shown();
-    QFont font(ToQt(shown.name), shown.size);
+    QFont font(ToQt(shown.name), std::clamp<int>(shown.size, kMinSize, kMaxSize));
     font.setBold(shown.isBold);
     font.setItalic(shown.isItalic);
     font.setUnderline(shown.isUnderlined.value_or(false));

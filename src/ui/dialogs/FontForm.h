@@ -37,6 +37,7 @@ private:
     void MakeSize();
     void MakeLooks();
     FontChoice Shown() const;
+    Integer ShownSize() const;
     void ShowSample();
 
     Ask& ask_;

@@ -8,6 +8,16 @@ namespace {
 
 class FontFormTest : public WindowTest {
 protected:
+    /// What a size becomes that is typed in the place of `stored`; an empty one is taken away.
+    Integer SizeAfter(Integer stored, const Text& typed)
+    {
+        FontForm form({.name = "Arial", .size = stored}, ask, nullptr);
+        ShowActive(form);
+        TypeOver(*form.ComboFontSize, typed);
+        Click(form, "cmdOK");
+        return form.Chosen.size;
+    }
+
     static void TypeOver(QComboBox& list, const Text& text)
     {
         list.setFocus();
@@ -79,6 +89,37 @@ TEST_F(FontFormTest, AnswersWithWhatIsChosen)
     Click(cancelled, "cmdCancel");
     EXPECT_FALSE(cancelled.OK);
     EXPECT_EQ(cancelled.Chosen, ofProject);
+}
+
+TEST_F(FontFormTest, BoundsASizeThatIsTyped)
+{
+    EXPECT_EQ(SizeAfter(10, "1"), 1);
+    EXPECT_EQ(SizeAfter(10, "200"), 200);
+    EXPECT_EQ(SizeAfter(10, "0"), 1);
+    EXPECT_EQ(SizeAfter(10, "201"), 200);
+    EXPECT_EQ(SizeAfter(10, "999"), 200);
+    EXPECT_EQ(SizeAfter(10, "1000"), 100) << "there is no room for the last digit";
+}
+
+TEST_F(FontFormTest, TakesASizeAsItIsTypedAlsoWhereALongerOneIsInTheList)
+{
+    for (const Integer size : std::initializer_list<Integer>{1, 2, 3, 4, 7})
+        EXPECT_EQ(SizeAfter(10, FromQt(QString::number(size))), size);
+}
+
+TEST_F(FontFormTest, KeepsASizeThatNobodyChoosesAnotherFor)
+{
+    for (const Integer stored : std::initializer_list<Integer>{0, -12, 300, 32767, 13}) {
+        FontForm form({.name = "Arial", .size = stored}, ask, nullptr);
+        ShowActive(form);
+        Click(form, "cItalic");
+        EXPECT_GT(form.sSample->font().pointSize(), 0) << "the sample can be seen";
+        EXPECT_LE(form.sSample->font().pointSize(), 200);
+        Click(form, "cmdOK");
+        EXPECT_EQ(form.Chosen.size, stored);
+        EXPECT_EQ(SizeAfter(stored, ""), stored) << "emptied";
+        EXPECT_EQ(SizeAfter(stored, "12"), 12);
+    }
 }
 
 TEST_F(FontFormTest, TakesNoCharacterThatAProjectCantHold)
