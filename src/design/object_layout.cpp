@@ -115,17 +115,17 @@ Integer StoredPosition(Long twips)
 Long ClampDesX(const SurfacePlace& surface, ScreenMetrics screen, Long x, Long w)
 {
     if (surface.Left > x)
-        return surface.Left;
+        return StoredPosition(surface.Left);
     const Long right = surface.Left + surface.Width - screen.TPPX;
-    return right < x + w ? right - w : x;
+    return StoredPosition(right < x + w ? right - w : x);
 }
 
 Long ClampDesY(const SurfacePlace& surface, ScreenMetrics screen, Long y, Long h)
 {
     if (surface.Top >= y)
-        return surface.Top + screen.TPPY;
+        return StoredPosition(surface.Top + screen.TPPY);
     const Long bottom = surface.Top + surface.Height - screen.TPPY;
-    return bottom < y + h ? bottom - h : y;
+    return StoredPosition(bottom < y + h ? bottom - h : y);
 }
 
 void LayOutPictures(section::DesPictures& record, PictureBoxes& boxes, SurfacePlace& surface,

@@ -2,8 +2,8 @@
 // Nothing here draws; the windows move their controls to what is answered.
 //
 // Places are twips in the coordinates of the tab's page, as the surface's own place is. They are
-// worked out in 32 bits; what a record keeps of them has 16, so a place beyond 32767 twips is
-// stored as 32767.
+// worked out in 32 bits; a record keeps 16 of them. On a surface wider than 32767 twips no object
+// goes beyond that: it would be shown at one place, and stored and installed at another.
 #pragma once
 
 #include "design/surface.h"
@@ -25,7 +25,7 @@ Long PixelsOf(Long twips, Long twipsPerPixel);
 /// The height of the machine's screen.
 Long ScreenHeightInPixels(Long screenHeight, ScreenMetrics screen);
 
-/// The left edge that keeps an object of width `w` inside the surface.
+/// The left edge that keeps an object of width `w` inside the surface, as far as records reach.
 Long ClampDesX(const SurfacePlace& surface, ScreenMetrics screen, Long x, Long w);
 /// The same from top to bottom. Kept: here an object at the very top is moved one pixel down.
 Long ClampDesY(const SurfacePlace& surface, ScreenMetrics screen, Long y, Long h);

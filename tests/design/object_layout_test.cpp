@@ -64,6 +64,20 @@ TEST(Clamps, ReckonWithTheScreensOwnPixels)
     EXPECT_EQ(ClampDesY(kSurface, screen, 30000, 0), 6060);
 }
 
+// Wider and higher than the places that a record can hold.
+constexpr SurfacePlace kWideSurface{.Left = 80, .Top = 80, .Width = 90000, .Height = 60000};
+
+TEST(Clamps, GiveNoPlaceThatARecordCantHold)
+{
+    EXPECT_EQ(ClampDesX(kWideSurface, kScreen, 32767, 100), 32767);
+    EXPECT_EQ(ClampDesX(kWideSurface, kScreen, 32768, 100), 32767);
+    EXPECT_EQ(ClampDesX(kWideSurface, kScreen, 200000, 100), 32767);
+    EXPECT_EQ(ClampDesX(kWideSurface, kScreen, 100, 200000), -32768);
+    EXPECT_EQ(ClampDesY(kWideSurface, kScreen, 32768, 100), 32767);
+    EXPECT_EQ(ClampDesY(kWideSurface, kScreen, 200000, 100), 32767);
+    EXPECT_EQ(ClampDesY(kWideSurface, kScreen, 100, 200000), -32768);
+}
+
 TEST(PixelsOf, RoundsAHalfToTheEvenNeighbour)
 {
     EXPECT_EQ(PixelsOf(45, 10), 4);
@@ -425,6 +439,32 @@ TEST_F(TextBox, IsShownByItsFlag)
 {
     record_.ShowTextBox = kOn;
     EXPECT_TRUE(LayOut().isVisible);
+}
+
+TEST(LayOutOnAWideSurface, ShowsWhatTheRecordsKeep)
+{
+    section::DesTextBox text{.BoxCenter = kOn, .BoxPlaceBelowTitle = kOn};
+    const SurfacePlace box = LayOutTextBox(text, kWideSurface, kScreen, 3000, 285).box;
+    EXPECT_EQ(box.Left, 32767) << "its middle would be at 43500";
+    EXPECT_EQ(box.Top, 32767);
+    EXPECT_EQ(text.BoxXPos, 32767);
+    EXPECT_EQ(text.BoxYPos, 32767);
+    section::DesRTFbox rtf{.RTFboxHeight = 32767, .RTFboxXPos = 32767, .RTFboxYPos = 2800};
+    const SurfacePlace high = LayOutRTFbox(rtf, kWideSurface, kScreen).place;
+    EXPECT_EQ(high.Left, 32767);
+    EXPECT_EQ(high.Top, -32768);
+    EXPECT_EQ(rtf.RTFboxXPos, 32767);
+    EXPECT_EQ(rtf.RTFboxYPos, -32768);
+    section::DesPictures pictures;
+    PictureBoxes boxes;
+    SurfacePlace surface = kWideSurface;
+    LayOutPictures(pictures, boxes, surface, kScreen, Measures(10, 10));
+    boxes[1].place.Left = boxes[1].place.Top = 50000;
+    KeepPicturesInsideDesign(pictures, boxes, surface, kScreen);
+    EXPECT_EQ(boxes[1].place.Left, 32767);
+    EXPECT_EQ(boxes[1].place.Top, 32767);
+    EXPECT_EQ(pictures.Pictures[1].PictureXPos, 32767);
+    EXPECT_EQ(pictures.Pictures[1].PictureYPos, 32767);
 }
 
 TEST(LayOutRTFbox, KeepsTheBoxInsideAndStoresItsPlace)
