@@ -231,6 +231,28 @@ TEST_F(DesignPageTest, SaysInTheStatusBarWhyAPictureIsMissing)
     page.Screen().DrawDesBackground();
 }
 
+TEST_F(DesignPageTest, SaysNothingMoreOfABackgroundPictureThatWasTakenAway)
+{
+    Background() = {.Type = 2, .PictureFilename = "C:\\borta.bmp"};
+    DesignPage& page = Show();
+    QTest::qWait(0);
+    ASSERT_FALSE(ask.statusTexts.empty());
+    EXPECT_NE(ask.statusTexts.back(), "");
+    OnNextDialog([](QDialog& dialog) {
+        Click(dialog, "cmdReset");
+        Click(dialog, "cmdOK");
+    });
+    EditDesBackground(page.Screen());
+    EXPECT_EQ(Background().Type, 2);
+    EXPECT_EQ(ask.statusTexts.back(), "");
+    // Of the project before, nothing is said of another one.
+    Background().PictureFilename = "C:\\borta.bmp";
+    page.Screen().DrawDesBackground();
+    EXPECT_NE(ask.statusTexts.back(), "");
+    page.BeginProject();
+    EXPECT_EQ(ask.statusTexts.back(), "");
+}
+
 TEST_F(DesignPageTest, TellsAgainOfAPictureThatTheUserSetsAnew)
 {
     machine.files.Put("C:\\bild.bmp", "no picture at all");

@@ -152,6 +152,7 @@ void DesignScreen::MakePictures(const DesignObject::Surround& surround)
 void DesignScreen::BeginProject()
 {
     reported_.clear();
+    ForgetWhyMissing();
     ForgetPictures();
 }
 
@@ -317,9 +318,7 @@ void DesignScreen::HideDesObjects()
         picture->hide();
     for (const auto& [kind, object] : objects_)
         object->hide();
-    for (const PictureStep step :
-         {PictureStep::Background, PictureStep::Pictures, PictureStep::Logotype})
-        ShowWhyMissing(step, {});
+    ForgetWhyMissing();
 }
 
 void DesignScreen::PlaceSurface(QSize tab, int captionHeight)

@@ -93,6 +93,7 @@ private:
     void TellTooLargeLogotype();
     /// Has the status bar say why a picture is missing; an empty text says that none is.
     void ShowWhyMissing(PictureStep step, const Text& why);
+    void ForgetWhyMissing();
     void ShowDragRect(const std::optional<DragRect>& rect);
 
     Session& session_;

@@ -123,9 +123,11 @@ void DesignScreen::TellPictureError(PictureStep step, const PictureError& error)
         reported_.erase(step);
     else if (IsUnreported(step, error.Path()))
         ShowErrorBoxIfPictureError(session_.ask, error.Number());
-    if (!error.Path().empty())
-        ShowWhyMissing(step, PictureFaultText(error.Fault(), error.Path()) + " " +
-                                 PictureFaultAdvice(error.Fault()));
+    // No picture is chosen: nothing is missing.
+    if (error.Path().empty())
+        return ShowWhyMissing(step, {});
+    ShowWhyMissing(step, PictureFaultText(error.Fault(), error.Path()) + " " +
+                             PictureFaultAdvice(error.Fault()));
 }
 
 void DesignScreen::TellShown(PictureStep step)
@@ -139,6 +141,13 @@ void DesignScreen::TellTooLargeLogotype()
     ShowWhyMissing(PictureStep::Logotype, {});
     if (IsUnreported(PictureStep::Logotype, session_.project.DesLogotype.LogotypeFilename))
         TellLogotypeTooLarge(session_.ask);
+}
+
+void DesignScreen::ForgetWhyMissing()
+{
+    for (const PictureStep step :
+         {PictureStep::Background, PictureStep::Pictures, PictureStep::Logotype})
+        ShowWhyMissing(step, {});
 }
 
 void DesignScreen::ShowWhyMissing(PictureStep step, const Text& why)
