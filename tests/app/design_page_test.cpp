@@ -253,6 +253,32 @@ TEST_F(DesignPageTest, SaysNothingMoreOfABackgroundPictureThatWasTakenAway)
     EXPECT_EQ(ask.statusTexts.back(), "");
 }
 
+TEST_F(DesignPageTest, SaysNothingOfItsPicturesBehindAnotherTab)
+{
+    MainForm form(session);
+    ShowActive(form);
+    QTest::qWait(0);
+    ASSERT_EQ(form.SelectedTab(), Tab::Files);
+    Background() = {.Type = 2, .PictureFilename = "C:\\borta.bmp"};
+    session.project.DesPictures.Pictures[0].PictureFilename = "C:\\borta.bmp";
+    session.project.DesLogotype.LogotypeFilename = "C:\\borta.bmp";
+    const auto said = ask.statusTexts;
+    for (const CommandId editor : {CommandId::Background, CommandId::Logotype, CommandId::Title}) {
+        OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdOK"); });
+        form.RunCommand(editor);
+    }
+    OnNextDialog([](QDialog& dialog) { Click(dialog, "cmdOK"); });
+    EditDesPictures(form.Design(), 0);
+    form.ShowProject(); // as after opening it
+    QTest::qWait(0);
+    EXPECT_EQ(ask.statusTexts, said);
+    form.SelectTab(Tab::Design);
+    QTest::qWait(0);
+    EXPECT_NE(ask.statusTexts.back().find("C:\\borta.bmp"), Text::npos);
+    form.SelectTab(Tab::Files);
+    EXPECT_EQ(ask.statusTexts.back(), "");
+}
+
 TEST_F(DesignPageTest, TellsAgainOfAPictureThatTheUserSetsAnew)
 {
     machine.files.Put("C:\\bild.bmp", "no picture at all");

@@ -152,8 +152,9 @@ void DesignScreen::ForgetWhyMissing()
 
 void DesignScreen::ShowWhyMissing(PictureStep step, const Text& why)
 {
-    // A text that something else has put into the status bar stays.
-    if (why.empty() && !whyMissing_.contains(step))
+    // What others say in the status bar stays there. Behind another tab nothing is missing that
+    // can be seen; the tab that comes in front is drawn anew.
+    if (why.empty() ? !whyMissing_.contains(step) : !isVisible())
         return;
     if (why.empty())
         whyMissing_.erase(step);
