@@ -33,7 +33,10 @@ DlgUnderline::DlgUnderline(Session& session, QWidget* parent)
     Button(NAMED(CmdHelp), "&Hjälp", [this] { ShowHelp(session_, {CommandId::Underline}); });
     MakeHeight();
     for (QRadioButton* kind : {oNoUnderline, oSimpleUnderline, oMistyUnderline, oBlendUnderline})
-        connect(kind, &QRadioButton::clicked, this, [this] { ChooseKind(); });
+        connect(kind, &QRadioButton::toggled, this, [this](bool isChosen) {
+            if (isChosen)
+                ChooseKind();
+        });
     EnableColours();
     Arrange(VBox({
         HBox({
@@ -61,7 +64,6 @@ void DlgUnderline::SetUnderlineTypeNr(int n)
     const std::array kinds = {oNoUnderline, oSimpleUnderline, oMistyUnderline, oBlendUnderline};
     kinds[n >= 0 && n < static_cast<int>(kinds.size()) ? static_cast<std::size_t>(n) : 0]
         ->setChecked(true);
-    ChooseKind();
 }
 
 void DlgUnderline::MakeHeight()
@@ -89,6 +91,7 @@ void DlgUnderline::EnableColours()
     CmdColor2->setEnabled(choice.takesColor2);
 }
 
+// The one that is chosen already keeps the height that was typed for it.
 void DlgUnderline::ChooseKind()
 {
     const UnderlineChoice choice = ChoiceOf(UnderlineKind(GetUnderlineTypeNr()));
