@@ -60,12 +60,10 @@ Piece DlgDesBackground::ColourFrame()
     labBlendDepth->setBuddy(tBlendDepth);
     tBlendDepth->setAccessibleName("Toningens djup i procent");
     EnableDepth();
-    // Kept: trying a direction marks the project changed, also where Cancel follows.
-    connect(ComboBlendDirection, &QComboBox::currentIndexChanged, this, [this] {
-        EnableDepth();
-        FillDepth();
-        session_.state.ProjectIsDirty = kOn;
-    });
+    connect(ComboBlendDirection, &QComboBox::currentIndexChanged, this,
+            [this] { ChooseDirection(); });
+    // The one that is shown can be chosen, too.
+    connect(ComboBlendDirection, &QComboBox::activated, this, [this] { ChooseDirection(); });
     return Frame({}, {HBox({cmdBackColor, cmdBackColor2, Stretch()}),
                       Fields({{"&Toning:", ComboBlendDirection}}),
                       HBox({labBlendDepth, tBlendDepth, Stretch()})});
@@ -94,6 +92,14 @@ void DlgDesBackground::EnableDepth()
     const bool isBlend = ComboBlendDirection->currentIndex() > 0;
     labBlendDepth->setEnabled(isBlend);
     tBlendDepth->setEnabled(isBlend);
+}
+
+// Kept: trying a direction marks the project changed, also where Cancel follows.
+void DlgDesBackground::ChooseDirection()
+{
+    EnableDepth();
+    FillDepth();
+    session_.state.ProjectIsDirty = kOn;
 }
 
 // An empty depth of the record means the same, and stays until a direction is chosen.

@@ -29,6 +29,7 @@ protected:
 private:
     Piece ColourFrame();
     Piece PictureFrame();
+    void ChooseDirection();
     void EnableDepth();
     void FillDepth();
 
