@@ -2,6 +2,7 @@
 
 #include "builder/source_address.h"
 #include "filelist/adding/system_files.h"
+#include "formats/document_viewers.h"
 #include "formats/install_row.h"
 #include "formats/section_document.h"
 #include "helpers/ansi_text.h"
@@ -11,21 +12,6 @@
 namespace quillon {
 
 namespace {
-
-struct Viewer {
-    std::string_view name;
-    int code;
-};
-
-constexpr Viewer kViewers[] = {{"Notepad", 1}, {"Winhelp", 2}, {"WordPad", 3}, {"Write", 4}};
-
-int ViewerCode(const Text& name)
-{
-    for (const Viewer& viewer : kViewers)
-        if (viewer.name == name)
-            return viewer.code;
-    return 0;
-}
 
 InstallRow MakeInstallRow(const FileListRow& row, Long number, const FileSystem& files)
 {
@@ -39,7 +25,7 @@ InstallRow MakeInstallRow(const FileListRow& row, Long number, const FileSystem&
                     .iconParameters = row[IconPar],
                     .workFolder = row[IconWorkDir],
                     .iconFile = row[IconFile],
-                    .viewer = ViewerCode(row[IconDocReader])};
+                    .viewer = int(ViewerNamed(row[IconDocReader]))};
     if (row.HasSource()) {
         // The very path that the container reads, so that size and content are of one file.
         const Text source = ConvertLongFilenameToShortFilename(files, row[Source]);

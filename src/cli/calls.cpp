@@ -1,4 +1,5 @@
 #include "cli/calls.h"
+#include "cli/medium_words.h"
 
 #include <utility>
 #include <vector>
@@ -34,7 +35,7 @@ std::vector<Call> WritingCalls()
     return {
         {"create",
          {"PROJEKT"},
-         {{"--medium", "MEDIUM", "Medium i stället för projektets eget", "floppy|cd|tree|internet"},
+         {{"--medium", "MEDIUM", "Medium i stället för projektets eget", kMediumChoice},
           {"--to", "KATALOG", "Destinationskatalog i stället för projektets egen"},
           {"--os", "SYSTEM", "Alla Windows, eller endast ME, 2000 och XP", "all|new"},
           {"--no-compress", nullptr, "Lagra filerna utan komprimering"},

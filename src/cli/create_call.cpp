@@ -4,6 +4,7 @@
 #include "cli/box_json.h"
 #include "cli/calls.h"
 #include "cli/console_ask.h"
+#include "cli/medium_words.h"
 #include "cli/open_project.h"
 #include "cli/signing_switches.h"
 
@@ -16,20 +17,6 @@ namespace quillon::cli {
 
 namespace {
 
-struct MediumWord {
-    std::string_view word;
-    Medium medium;
-};
-constexpr std::array<MediumWord, 4> kMediumWords{{{"floppy", Medium::Floppy},
-                                                  {"cd", Medium::CompressedCd},
-                                                  {"tree", Medium::CdTree},
-                                                  {"internet", Medium::Internet}}};
-
-Text WordOfMedium(Medium medium)
-{
-    return Text(std::ranges::find(kMediumWords, medium, &MediumWord::medium)->word);
-}
-
 // A switch without an effect is a mistake, unlike a project's setting, which may be meant for
 // another medium.
 void ChooseSmallContainer(const Arguments& arguments, CreateForm& form)
@@ -38,8 +25,8 @@ void ChooseSmallContainer(const Arguments& arguments, CreateForm& form)
         if (arguments.Has(other))
             throw UsageError{Text("--small och ") + other + " utesluter varandra."};
     if (form.TargetMedia != Medium::CompressedCd)
-        throw UsageError{"--small gäller bara mediet cd, inte " + WordOfMedium(form.TargetMedia) +
-                         "."};
+        throw UsageError{"--small gäller bara mediet cd, inte " +
+                         Text(WordOfMedium(form.TargetMedia)) + "."};
     form.UseCompression = 1;
     form.KeepCompressedFilesOneAndOne = 0;
     form.SmallContainer = 1;

@@ -1,5 +1,6 @@
 // quillonc list and quillonc verify: what is in a finished package, and whether it is whole.
 #include "cli/calls.h"
+#include "cli/medium_words.h"
 #include "cli/package_source.h"
 #include "formats/served_rows.h"
 #include "helpers/hex.h"
@@ -131,17 +132,8 @@ const char* KindOf(const PackageSource& source)
 
 Json MediumJson(const Package& package)
 {
-    switch (Medium(package.setup.project.Media.TargetMedia)) {
-    case Medium::Floppy:
-        return "floppy";
-    case Medium::CompressedCd:
-        return "cd";
-    case Medium::CdTree:
-        return "tree";
-    case Medium::Internet:
-        return "internet";
-    }
-    return {};
+    const std::string_view word = WordOfMedium(Medium(package.setup.project.Media.TargetMedia));
+    return word.empty() ? Json() : Json(word);
 }
 
 Json VerifiedJson(const PackageSource& source, const std::vector<Text>& faults)

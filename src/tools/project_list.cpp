@@ -1,6 +1,7 @@
 #include "tools/project_list.h"
 
 #include "filelist/view/totals.h"
+#include "formats/package_files.h"
 #include "helpers/date_text.h"
 #include "helpers/windows_path.h"
 #include "ini/profile_reader.h"
@@ -30,10 +31,10 @@ Text EntryKey(std::size_t number)
 
 Text MediumName(std::int64_t targetMedia)
 {
-    switch (targetMedia) {
-    case 1:
+    switch (Medium(targetMedia)) {
+    case Medium::Floppy:
         return "Diskett";
-    case 4:
+    case Medium::Internet:
         return "Internet";
     default:
         return "CD/DVD";

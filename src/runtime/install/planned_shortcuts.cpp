@@ -1,5 +1,6 @@
 #include "runtime/install/planned_shortcuts.h"
 
+#include "formats/document_viewers.h"
 #include "formats/icon_marker.h"
 #include "formats/runtime_programs.h"
 #include "formats/setup_names.h"
@@ -30,27 +31,28 @@ Places PlacesOf(const PlanInput& input)
     return forAll && !input.target.Folder(TargetFolder::CommonPrograms).empty() ? kCommon : kOwn;
 }
 
-// The program that shows a document, by the row's viewer code.
-Text ViewerProgram(const PlanInput& input, int viewer)
+// Empty where the system assigns one.
+Text ViewerProgram(const PlanInput& input, DocumentViewer viewer)
 {
     const Text windows = input.host.machine.GetWindowsDir();
     switch (viewer) {
-    case 1:
+    case DocumentViewer::Notepad:
         return JoinPath(windows, "NOTEPAD.EXE");
-    case 2:
+    case DocumentViewer::WinHelp:
         return JoinPath(windows, "WINHLP32.EXE");
-    case 3:
+    case DocumentViewer::WordPad:
         return input.host.machine
             .ReadRegistryValue(
                 RegistryRoot::LocalMachine,
                 "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\WORDPAD.EXE", "")
             .value_or(JoinPath(input.host.machine.GetProgramFilesDir(),
                                "Windows NT\\Accessories\\WORDPAD.EXE"));
-    case 4:
+    case DocumentViewer::Write:
         return JoinPath(windows, "WRITE.EXE");
-    default:
-        return {};
+    case DocumentViewer::OfSystem:
+        break;
     }
+    return {}; // also for a number of a later version
 }
 
 // An icon file's row carries the command line that the icon starts: a program, in quotation marks
@@ -82,7 +84,7 @@ Shortcut ShortcutOf(const PlanInput& input, const PlannedFile& file)
         shortcut.workFolder = ExtractDirectory(file.path);
     shortcut.program = file.path;
     shortcut.arguments = TrimBlanks(input.variables.Expand(row.iconParameters));
-    if (const Text viewer = ViewerProgram(input, row.viewer); !viewer.empty()) {
+    if (const Text viewer = ViewerProgram(input, DocumentViewer(row.viewer)); !viewer.empty()) {
         const Text more = shortcut.arguments.empty() ? "" : " " + shortcut.arguments;
         shortcut.arguments = "\"" + file.path + "\"" + more;
         shortcut.program = viewer;
