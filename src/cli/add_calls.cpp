@@ -194,14 +194,13 @@ Exit AddByDepFile(const CallContext& context)
         RequireReadableFile(context.host.files, file);
     RequireSectionWithFiles(context.host.files, edit.ask.prepared.oneFileEach[0],
                             edit.ask.prepared.oneFileEach[1]);
-    const std::size_t rowsBefore = edit.Files().rows.size();
     Text folder;
-    const auto places = AddDepFileCommand(edit.Work(), folder);
+    const auto rows = AddDepFileCommand(edit.Work(), folder);
     if (!edit.ask.refusals.empty())
         TellFullList(edit);
-    if (!places)
+    if (!rows)
         edit.ask.EndCall();
-    return SaveAdded(edit, NewRows(places, rowsBefore), std::nullopt);
+    return SaveAdded(edit, rows->added, std::nullopt);
 }
 
 } // namespace quillon::cli

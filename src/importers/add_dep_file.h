@@ -8,9 +8,17 @@
 
 namespace quillon {
 
-/// Where each of the former rows is afterwards; nothing where the user cancelled. The component
-/// itself is not added. `lastDepFileDir` is where the file dialog opens, and takes the folder of
-/// the dependency file.
-std::optional<NewPlaces> AddDepFileCommand(const ListWork& work, Text& lastDepFileDir);
+struct DepFileRows {
+    // Where each of the former rows is afterwards.
+    NewPlaces places;
+    // The places of the rows that the command has made or filled, ascending.
+    std::vector<std::size_t> added;
+};
+
+/// Nothing where the user changed his mind. The component itself is not added. A file that is
+/// missing leaves a row without its source and ends the walk, which is told; once the file is
+/// there, the command fills that row and adds the rest. `lastDepFileDir` is where the file dialog
+/// opens, and takes the folder of the dependency file.
+std::optional<DepFileRows> AddDepFileCommand(const ListWork& work, Text& lastDepFileDir);
 
 } // namespace quillon

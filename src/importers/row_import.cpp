@@ -15,15 +15,6 @@ namespace quillon {
 
 namespace {
 
-std::vector<std::size_t> RowsWithoutSource(const FileList& files)
-{
-    std::vector<std::size_t> rows;
-    for (std::size_t i = 0; i < files.rows.size(); ++i)
-        if (LacksSource(files.rows[i]))
-            rows.push_back(i);
-    return rows;
-}
-
 /// The first row that has a file and this trait.
 template <class Trait>
 std::optional<std::size_t> FirstRow(const FileList& files, Trait trait)
@@ -37,8 +28,7 @@ std::optional<std::size_t> FirstRow(const FileList& files, Trait trait)
 } // namespace
 
 RowImport::RowImport(const ImportWork& work)
-    : work_(work), rowsBefore_(work.list.project.Files.rows.size()),
-      withoutSourceBefore_(RowsWithoutSource(work.list.project.Files)),
+    : work_(work), rowsBefore_(work.list.project.Files.rows.size()), own_(work.list.project.Files),
       adding_(work.list.project.Files, work.list.host, work.list.ask,
               FileAdding::RowsWithoutSource::AreFilled),
       dependencies_(adding_, work.list.host, work.list.ask, this)
@@ -69,14 +59,9 @@ bool RowImport::PassIfListed(const Text& name)
     const auto row = FirstRow(Files(), [&](const FileListRow& listed) {
         return EqualIgnoreCase(listed[Filename], name);
     });
-    if (row && !IsOfThisImport(*row))
+    if (row && !own_.Has(*row))
         Pass(name, NotAdded::AlreadyListed);
     return row.has_value();
-}
-
-bool RowImport::IsOfThisImport(std::size_t row) const
-{
-    return row >= rowsBefore_ || std::ranges::binary_search(withoutSourceBefore_, row);
 }
 
 std::optional<std::size_t> RowImport::SystemRow(const Text& name, const Text& path) const
@@ -95,7 +80,7 @@ RowImport::Added RowImport::AddSystemFile(const Text& name, bool isRuntimeFile)
         return Added::AlreadyReported;
     const Text path = LowerCase(JoinPath(GetHost().machine.GetSystemDir(), name));
     if (const auto row = SystemRow(name, path)) {
-        if (!IsOfThisImport(*row))
+        if (!own_.Has(*row))
             Pass(name, NotAdded::AlreadyListed);
         return Added::AlreadyThere;
     }
@@ -148,7 +133,7 @@ void RowImport::LeftOut(const FileToAdd& file)
     const auto row = file.CheckDuplicates ? RowOfFile(file) : std::nullopt;
     if (!row)
         Pass(file.FileName, WhyNotAdded(file), file.SourcePath);
-    else if (!IsOfThisImport(*row))
+    else if (!own_.Has(*row))
         Pass(file.FileName, NotAdded::AlreadyListed, file.SourcePath);
 }
 
@@ -230,22 +215,11 @@ void RowImport::AddProgramIcon()
     }
 }
 
-// A row without its source counts only if this import has filled it.
-std::vector<std::size_t> RowImport::AddedRows(const NewPlaces& places) const
-{
-    std::vector<std::size_t> added;
-    for (std::size_t row = 0; row < places.size(); ++row)
-        if (IsOfThisImport(row) && !LacksSource(Files().rows[places[row]]))
-            added.push_back(places[row]);
-    std::ranges::sort(added);
-    return added;
-}
-
 ImportResult RowImport::Finish(ImportEnd end)
 {
     NoteAddedRows(work_.list, rowsBefore_);
     ImportResult result{.end = end, .places = adding_.Finish(), .notAdded = std::move(notAdded_)};
-    result.added = AddedRows(result.places);
+    result.added = own_.Added(Files(), result.places);
     if (!result.added.empty())
         work_.list.state.ProjectIsDirty = kOn;
     if (isProgramNew_ && programRow_)

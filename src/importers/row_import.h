@@ -4,6 +4,7 @@
 
 #include "importers/dependency_file.h"
 #include "importers/import_work.h"
+#include "importers/rows_of_command.h"
 #include "importers/runtime_lists.h"
 
 #include <functional>
@@ -70,15 +71,13 @@ private:
 
     void Pass(const Text& file, NotAdded why, const Text& path);
     FileList& Files() const { return work_.list.project.Files; }
-    bool IsOfThisImport(std::size_t row) const;
     std::optional<std::size_t> SystemRow(const Text& name, const Text& path) const;
     std::optional<std::size_t> RowOfFile(const FileToAdd& file);
     NotAdded WhyNotAdded(const FileToAdd& file) const;
-    std::vector<std::size_t> AddedRows(const NewPlaces& places) const;
 
     const ImportWork& work_;
     std::size_t rowsBefore_;
-    std::vector<std::size_t> withoutSourceBefore_;
+    RowsOfCommand own_;
     FileAdding adding_;
     DependencyFiles dependencies_;
     bool isStopped_ = false;

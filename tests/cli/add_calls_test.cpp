@@ -7,8 +7,11 @@
 namespace quillon::test {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
 
 class AddCalls : public EditWorkshop {
 protected:
@@ -314,6 +317,20 @@ TEST_F(AddCalls, RefusesDependencyFilesThatAreNone)
     ExpectRefused({"add-dep", Src("Other/gone.dep"), Src("Other/main.ocx")}, 3, "finns inte.");
     ExpectRefused({"add-dep", Src("Other/lost.dep"), Src("Other/gone.ocx")}, 3, "finns inte.");
     ExpectRefused({"add-dep", Src("Other/lost.dep"), Src("Other/main.ocx")}, 1, "lost.dll");
+}
+
+TEST_F(AddCalls, FillsTheRowOfADependencyThatHasComeSince)
+{
+    disk.Put("src/Other/main.ocx", "component");
+    disk.Put("src/Other/main.dep", "[main.ocx]\r\nUses1=late.dll\r\nUses2=c.txt\r\n");
+    const std::vector<std::string> words = {"add-dep", Src("Other/main.dep"), Src("Other/main.ocx"),
+                                            "--continue"};
+    EXPECT_EQ(Done(words), "Adderade filer: 0\n") << "a row without its file is no addition";
+    EXPECT_THAT(Rows(Filename), ElementsAre("late.dll"));
+    disk.Put("src/Other/late.dll", "library");
+    EXPECT_EQ(Done(words), "Adderade filer: 2\n");
+    EXPECT_THAT(Rows(Filename), ElementsAre("c.txt", "late.dll"));
+    EXPECT_THAT(Rows(Source), Each(Not(IsEmpty())));
 }
 
 TEST_F(AddCalls, ComesToAnEndWithADependencyFileThatNamesItself)

@@ -16,6 +16,11 @@ namespace {
 const Text kDep = "C:\\Data\\Dep\\Chart.dep";
 const Text kComponent = "D:\\Bin\\Chart.OCX";
 
+const ExpectedBox kCut{
+    BoxKind::Warn, "Alla filer är ej adderade",
+    "Filen 'Chart.dep' är ej läst till slutet, eftersom en fil i den inte kunde adderas.\r\n"
+    "\r\nLägg den fil som saknas på plats och välj kommandot igen."};
+
 class AddDepFile : public testing::Test {
 protected:
     AddDepFile()
@@ -28,18 +33,20 @@ protected:
         machine.files.Put("D:\\Bin\\one.dep", "[one.dll]\r\nUses1=two.dll\r\n");
     }
 
-    std::optional<NewPlaces> Run(std::deque<std::vector<Text>> chosen,
-                                 std::deque<ExpectedBox> boxes = {})
+    void PutDep(const std::string& keys) { machine.files.Put(kDep, "[chart.ocx]\r\n" + keys); }
+
+    std::optional<DepFileRows> Run(std::deque<std::vector<Text>> chosen,
+                                   std::deque<ExpectedBox> boxes = {})
     {
         ScriptedAsk ask(std::move(boxes));
         for (std::vector<Text>& choice : chosen)
             ask.choices.push_back({std::move(choice)});
-        const auto places = AddDepFileCommand({project, state, machine.host, ask}, lastDepFileDir);
+        auto rows = AddDepFileCommand({project, state, machine.host, ask}, lastDepFileDir);
         EXPECT_TRUE(ask.choices.empty());
         EXPECT_FALSE(ask.busyPointer);
         questions = ask.questions;
         statusTexts = ask.statusTexts;
-        return places;
+        return rows;
     }
 
     MemoryHost machine;
@@ -55,7 +62,10 @@ protected:
 TEST_F(AddDepFile, AddsWhatTheComponentNeedsButNotTheComponent)
 {
     project.Files.rows = {MakeRow("readme.txt")};
-    EXPECT_EQ(Run({{kDep}, {kComponent}, {"%DESTDIR\\Lib"}}), (NewPlaces{0, 1, 2, 3}));
+    const auto rows = Run({{kDep}, {kComponent}, {"%DESTDIR\\Lib"}});
+    ASSERT_TRUE(rows);
+    EXPECT_EQ(rows->places, (NewPlaces{0, 1, 2, 3}));
+    EXPECT_THAT(rows->added, ElementsAre(1, 2, 3));
     EXPECT_THAT(NamesOf(project.Files), ElementsAre("readme.txt", "one.dll", "up.dll", "two.dll"));
     EXPECT_EQ(project.Files.rows[2][Source], "d:\\up.dll");
     for (std::size_t i = 1; i < 4; ++i)
@@ -109,10 +119,55 @@ TEST_F(AddDepFile, TakesAComponentInADrivesRoot)
 TEST_F(AddDepFile, TellsOfAFailureAndMarksWhatWasAdded)
 {
     machine.files.RemoveFile("D:\\up.dll");
-    EXPECT_TRUE(Run({{kDep}, {kComponent}, {"%SYSDIR"}},
-                    {{BoxKind::Critical, "Fel", "Filen 'd:\\up.dll' finns inte."}}));
+    const auto rows = Run({{kDep}, {kComponent}, {"%SYSDIR"}},
+                          {{BoxKind::Critical, "Fel", "Filen 'd:\\up.dll' finns inte."}, kCut});
     EXPECT_THAT(NamesOf(project.Files), ElementsAre("one.dll", "up.dll", "two.dll"));
+    EXPECT_THAT(rows->added, ElementsAre(0, 2)) << "not the row without a file";
     EXPECT_EQ(state.ProjectIsDirty, kOn);
+}
+
+TEST_F(AddDepFile, GoesOnOnceTheMissingFileIsThere)
+{
+    PutDep("Uses1=late.dll\r\nUses2=one.dll\r\n");
+    const ExpectedBox missing{BoxKind::Critical, "Fel", "Filen 'd:\\bin\\late.dll' finns inte."};
+    Run({{kDep}, {kComponent}, {"%SYSDIR"}}, {missing, kCut});
+    EXPECT_THAT(NamesOf(project.Files), ElementsAre("late.dll", "two.dll"));
+
+    // Still missing, it has no second row.
+    state.ProjectIsDirty = kOff;
+    Run({{kDep}, {kComponent}, {"%SYSDIR"}}, {missing, kCut});
+    EXPECT_THAT(NamesOf(project.Files), ElementsAre("late.dll", "two.dll"));
+    EXPECT_EQ(state.ProjectIsDirty, kOff);
+
+    machine.files.Put("D:\\Bin\\late.dll", "x");
+    const auto rows = Run({{kDep}, {kComponent}, {"%SYSDIR"}});
+    EXPECT_THAT(NamesOf(project.Files), ElementsAre("late.dll", "two.dll", "one.dll"));
+    EXPECT_EQ(project.Files.rows[0][Source], "d:\\bin\\late.dll");
+    EXPECT_THAT(rows->added, ElementsAre(0, 2));
+}
+
+TEST_F(AddDepFile, MarksTheProjectWhereItOnlyFillsARow)
+{
+    PutDep("Uses1=late.dll\r\n");
+    Run({{kDep}, {kComponent}, {"%SYSDIR"}}, {{BoxKind::Critical, "Fel"}, kCut});
+    state.ProjectIsDirty = kOff;
+    machine.files.Put("D:\\Bin\\late.dll", "x");
+    Run({{kDep}, {kComponent}, {"%SYSDIR"}});
+    EXPECT_THAT(NamesOf(project.Files), ElementsAre("late.dll"));
+    EXPECT_EQ(state.ProjectIsDirty, kOn);
+}
+
+TEST_F(AddDepFile, NamesEachFileThatItDidNotReadToItsEnd)
+{
+    machine.files.Put("D:\\Bin\\one.dep", "[one.dll]\r\nUses1=gone.dll\r\n");
+    machine.files.RemoveFile("D:\\up.dll");
+    Run({{kDep}, {kComponent}, {"%SYSDIR"}},
+        {{BoxKind::Critical, "Fel", "Filen 'd:\\up.dll' finns inte."},
+         {BoxKind::Critical, "Fel", "Filen 'd:\\bin\\gone.dll' finns inte."},
+         {BoxKind::Warn, "Alla filer är ej adderade",
+          "Filen 'Chart.dep' är ej läst till slutet, eftersom en fil i den inte kunde adderas.\r\n"
+          "Filen 'One.DEP' är ej läst till slutet, eftersom en fil i den inte kunde adderas.\r\n"
+          "\r\nLägg den fil som saknas på plats och välj kommandot igen."}});
 }
 
 } // namespace quillon::test

@@ -7,11 +7,11 @@ namespace quillon {
 
 void AddDepFileInWindow(Session& session, MainWindow& window)
 {
-    const auto places =
+    const auto rows =
         AddDepFileCommand(ListWork{session.project, session.state, session.host, session.ask},
                           session.LastDepFileDir);
-    if (places)
-        ShowMovedRows(window, *places);
+    if (rows)
+        ShowMovedRows(window, rows->places);
 }
 
 } // namespace quillon
