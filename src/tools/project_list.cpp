@@ -3,6 +3,7 @@
 #include "filelist/view/totals.h"
 #include "formats/package_files.h"
 #include "helpers/date_text.h"
+#include "helpers/drive_path.h"
 #include "helpers/windows_path.h"
 #include "ini/profile_reader.h"
 #include "ini/profile_writer.h"
@@ -110,6 +111,31 @@ std::set<Text> LowerCased(const std::vector<Text>& paths)
     return lower;
 }
 
+// A folder that is not there may lie on a stick that is out or a share that is offline. Only where
+// the folder is there has the file gone from it.
+bool MayComeBack(const FileSystem& files, const Text& path)
+{
+    return files.FileExists(path) ||
+           (IsWindowsPath(path) && !files.DirExists(ExtractDirectory(ResolvePath(path))));
+}
+
+/// `wanted` with the entries of the list that were not shown and may come back, each behind the one
+/// that it stood behind.
+std::vector<Text> WithAbsent(const FileSystem& files, const ProjectList& read,
+                             std::vector<Text> wanted)
+{
+    const std::set<Text> shown = LowerCased(PathsOf(read.projects));
+    std::size_t place = 0;
+    for (const Text& path : read.paths) {
+        const bool isShown = shown.count(LowerCase(path)) > 0;
+        if (place < wanted.size() && EqualIgnoreCase(wanted[place], path))
+            ++place;
+        else if (!isShown && MayComeBack(files, path))
+            wanted.insert(wanted.begin() + static_cast<std::ptrdiff_t>(place++), path);
+    }
+    return wanted;
+}
+
 /// What this program has changed, on top of what the file holds now.
 std::vector<Text> Merged(const std::vector<Text>& read, const std::vector<Text>& wanted,
                          const std::vector<Text>& onFile)
@@ -162,12 +188,13 @@ void SaveProjectList(FileSystem& files, const Text& settingsFile, const ProjectL
 {
     if (!files.DirCreate(ExtractDirectory(settingsFile)))
         throw RunError(ErrorNumber::kPathNotFound, settingsFile);
+    const std::vector<Text> wanted = WithAbsent(files, read, PathsOf(projects));
     const auto lock = LockSavedFile(files, settingsFile, LockWait::UntilFree);
     std::string bytes =
         files.FileExists(settingsFile) ? ReadWholeFile(files, settingsFile) : std::string();
     ProfileReader reader;
     reader.SetIniBytes(bytes);
-    SetEntries(bytes, Merged(read.paths, PathsOf(projects), EntriesOf(reader)));
+    SetEntries(bytes, Merged(read.paths, wanted, EntriesOf(reader)));
     SaveWholeFile(files, settingsFile, bytes);
 }
 

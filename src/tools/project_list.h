@@ -53,9 +53,11 @@ struct ProjectList {
 /// whose file is gone is passed over; the first empty entry ends the list.
 ProjectList ReadProjectList(const Host& host, const Text& settingsFile);
 
-/// Writes `projects` as the list, in their order. Entries that another program of the tool has
-/// added since `read` was read stay, and those that it has removed are gone here as well. Throws
-/// `RunError` when the settings file can't be written.
+/// Writes `projects` as the list, in their order. An entry of `read` that was passed over is
+/// forgotten where its folder is there and its file is not; where the folder is away too, with its
+/// drive perhaps, the entry keeps its place behind the one before it. Entries that another program
+/// of the tool has added since `read` was read stay, and those that it has removed are gone here as
+/// well. Throws `RunError` when the settings file can't be written.
 void SaveProjectList(FileSystem& files, const Text& settingsFile, const ProjectList& read,
                      const std::vector<ListedProject>& projects);
 

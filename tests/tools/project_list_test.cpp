@@ -131,6 +131,77 @@ TEST_F(ProjectListTest, PassesOverWhatHasGoneAndForgetsItWhenSaved)
     EXPECT_THAT(Read().paths, ElementsAre("C:\\A\\a.qnp", "C:\\B\\b.qnp"));
 }
 
+// A stick that is out, a share that is offline, a letter that is not mapped.
+TEST_F(ProjectListTest, KeepsWhatIsOnlyAwayAtItsPlace)
+{
+    PutSettings("[ProjectManager]\r\nProjectFiles=7\r\nPF1=E:\\P\\stick.qnp\r\n"
+                "PF2=C:\\A\\a.qnp\r\nPF3=\\\\server\\share\\s.qnp\r\nPF4=F:\\X\\f.qnp\r\n"
+                "PF5=C:\\A\\gone.qnp\r\nPF6=C:\\B\\b.qnp\r\nPF7=C:/away/w.qnp\r\n");
+    EXPECT_THAT(Names(), ElementsAre("Alfa", "Beta")) << "they are hidden meanwhile";
+    const ProjectList list = Read();
+    SaveProjectList(machine.files, kSettings, list, list.projects);
+    EXPECT_THAT(Read().paths,
+                ElementsAre("E:\\P\\stick.qnp", "C:\\A\\a.qnp", "\\\\server\\share\\s.qnp",
+                            "F:\\X\\f.qnp", "C:\\B\\b.qnp", "C:/away/w.qnp"))
+        << "only a file that has gone from its folder is forgotten";
+    machine.files.Put("F:\\X\\f.qnp", ProjectBytes("Fi"));
+    EXPECT_THAT(Names(), ElementsAre("Alfa", "Fi", "Beta"));
+}
+
+TEST_F(ProjectListTest, KeepsWhatIsAwayWhereRowsGoAndCome)
+{
+    PutSettings("[ProjectManager]\r\nProjectFiles=3\r\nPF1=C:\\A\\a.qnp\r\n"
+                "PF2=E:\\P\\stick.qnp\r\nPF3=C:\\B\\b.qnp\r\n");
+    const ProjectList list = Read();
+    SaveProjectList(machine.files, kSettings, list, {list.projects[1], {.path = "C:\\C\\c.qnp"}});
+    EXPECT_THAT(Read().paths, ElementsAre("E:\\P\\stick.qnp", "C:\\B\\b.qnp", "C:\\C\\c.qnp"));
+}
+
+TEST_F(ProjectListTest, KeepsWhatComesBackWhileTheListIsOpen)
+{
+    PutSettings("[ProjectManager]\r\nProjectFiles=2\r\nPF1=E:\\stick.qnp\r\n"
+                "PF2=C:\\A\\a.qnp\r\n");
+    const ProjectList list = Read();
+    machine.files.Put("E:\\stick.qnp", ProjectBytes("Sticka"));
+    SaveProjectList(machine.files, kSettings, list, list.projects);
+    EXPECT_THAT(Names(), ElementsAre("Sticka", "Alfa"));
+}
+
+TEST_F(ProjectListTest, KeepsWhatLiesInTheRootOfADriveThatIsAway)
+{
+    struct FilesWithoutStick : MemoryFiles {
+        bool DirExists(const Text& path) const override
+        {
+            return path != "E:\\" && MemoryFiles::DirExists(path);
+        }
+    };
+    FilesWithoutStick files;
+    const Host host{files, machine.machine};
+    files.Put(kSettings, "[ProjectManager]\r\nProjectFiles=2\r\nPF1=E:\\stick.qnp\r\n"
+                         "PF2=C:\\gone.qnp\r\n");
+    SaveProjectList(files, kSettings, ReadProjectList(host, kSettings), {});
+    EXPECT_THAT(ReadProjectList(host, kSettings).paths, ElementsAre("E:\\stick.qnp"));
+}
+
+TEST_F(ProjectListTest, LetsGoWhatIsAwayWhereAnotherProgramHasForgottenIt)
+{
+    PutSettings("[ProjectManager]\r\nProjectFiles=2\r\nPF1=E:\\stick.qnp\r\n"
+                "PF2=C:\\A\\a.qnp\r\n");
+    const ProjectList list = Read();
+    PutSettings("[ProjectManager]\r\nProjectFiles=1\r\nPF1=C:\\A\\a.qnp\r\n");
+    SaveProjectList(machine.files, kSettings, list, list.projects);
+    EXPECT_THAT(Read().paths, ElementsAre("C:\\A\\a.qnp"));
+}
+
+TEST_F(ProjectListTest, ForgetsAnEntryThatIsNoPath)
+{
+    PutSettings("[ProjectManager]\r\nProjectFiles=3\r\nPF1=utf-8:C:\\\xD0.qnp\r\n"
+                "PF2=lost.qnp\r\nPF3=C:\\A\\a.qnp\r\n");
+    const ProjectList list = Read();
+    SaveProjectList(machine.files, kSettings, list, list.projects);
+    EXPECT_THAT(Read().paths, ElementsAre("C:\\A\\a.qnp"));
+}
+
 TEST_F(ProjectListTest, IsWrittenInItsOrderAndLeavesAllElse)
 {
     PutSettings("[Options]\r\nCBarsCurrentStyle=2\r\n");
