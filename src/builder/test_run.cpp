@@ -9,6 +9,8 @@
 #include "formats/test_switches.h"
 #include "helpers/windows_path.h"
 #include "platform/missing_program.h"
+#include "platform/saved_file.h"
+#include "platform/whole_file.h"
 
 namespace quillon {
 
@@ -100,13 +102,24 @@ bool CopyAgreement(TestRun& run, const Text& folder)
            Fail(run, kTestTitle, error, "licensavtalet '" + source + "' skulle kopieras");
 }
 
-/// The setup reads its files from its own folder, so it is copied to where they are written.
+bool HasContent(const FileSystem& files, const Text& path, const std::string& bytes)
+{
+    return files.FileExists(path) && files.Status(path).size == bytes.size() &&
+           ReadWholeFile(files, path) == bytes;
+}
+
+/// The setup reads its files from its own folder, so it is copied to where they are written. A test
+/// that is still open runs from the former copy, which nobody may write into.
 void BringRuntime(TestRun& run, const Text& runtime)
 {
     const Text ofTool =
         JoinPath(run.options.ToolFolder, "Test\\" + Text(RuntimePrograms::kTestSetup));
-    if (!EqualIgnoreCase(runtime, ofTool))
-        run.host.files.CopyContent(ofTool, runtime);
+    if (EqualIgnoreCase(runtime, ofTool))
+        return;
+    FileSystem& files = run.host.files;
+    const std::string bytes = ReadWholeFile(files, ofTool);
+    if (!HasContent(files, runtime, bytes))
+        SaveWholeFile(files, runtime, bytes);
 }
 
 bool StartRuntime(TestRun& run, const char* title, std::string_view switchName)

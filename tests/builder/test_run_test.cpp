@@ -365,6 +365,38 @@ TEST_F(TestRunTest, RunsInTheUsersFolderWhereTheToolsIsClosed)
                             Pair(own + "\\Test\\Qns32x.exe", "/PREVIEW")));
 }
 
+TEST_F(TestRunTest, LeavesTheSetupAloneThatAnOpenTestRunsFrom)
+{
+    desk.options.OwnFolder = "C:\\Data\\Quillon";
+    const Text own = desk.options.OwnFolder + "\\Test\\Qns32x.exe";
+    EXPECT_TRUE(Simulate());
+    const auto running = desk.machine.files.At(own).bytes;
+    EXPECT_TRUE(Simulate());
+    EXPECT_TRUE(Preview());
+    EXPECT_EQ(desk.machine.files.At(own).bytes, running) << "it is not even written anew";
+
+    // A newer one of the same size takes its place; what runs keeps its bytes.
+    desk.machine.files.Put(kRuntime, "RUNTIME");
+    EXPECT_TRUE(Simulate());
+    EXPECT_EQ(desk.machine.files.Get(own), "RUNTIME");
+    EXPECT_EQ(*running, "runtime");
+}
+
+TEST_F(TestRunTest, KeepsTheFormerSetupWhereTheNewOneCanNotBeCopied)
+{
+    desk.options.OwnFolder = "C:\\Data\\Quillon";
+    const Text own = desk.options.OwnFolder + "\\Test\\Qns32x.exe";
+    EXPECT_TRUE(Preview());
+    desk.machine.files.Put(kRuntime, "a newer runtime");
+    desk.machine.files.RefuseOutput(own + ".tmp1", 61);
+    EXPECT_FALSE(
+        Preview({{BoxKind::Critical, "Kan ej förhandsgranska",
+                  "Fel #61 inträffade när 32-bitars inladdaren 'QNS32X.EXE' skulle anropas!"}}));
+    EXPECT_EQ(desk.machine.files.Get(own), "runtime");
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->Number(), 61);
+}
+
 /// A machine that can't run what the setup is.
 class WithoutWine : public test::FixedMachine {
 public:
