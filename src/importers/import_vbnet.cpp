@@ -47,8 +47,8 @@ public:
     {
     }
 
-    /// False where the file is a project of another kind, or names components that this machine
-    /// can't have.
+    /// False where the file is a project of another kind, or names components of a system folder
+    /// that is not there.
     bool AddReferences()
     {
         ProjectLines project;
@@ -120,33 +120,57 @@ private:
         return HasSystemFolder(import_.GetHost(), import_.GetAsk(), kComponents);
     }
 
+    // Components that are not registered, or lie elsewhere, need no system folder.
     bool AddReferences(const ComReferences& references)
     {
-        if (!references.list.empty() && !HasComponents())
+        std::vector<Text> paths;
+        for (const ComReference& reference : references.list)
+            paths.push_back(RegisteredPath(reference));
+        const bool needsFolder = std::ranges::any_of(paths, [&](const Text& path) {
+            return !path.empty() && !IsPartOfWindows(path) && IsInSystemFolder(path);
+        });
+        if (needsFolder && !HasComponents())
             return false;
         if (references.isCut)
             Tell(TooManyReferencesText(choices_.sVBPfile, "referenser"));
-        for (const ComReference& reference : references.list)
-            if (!import_.IsStopped())
-                AddReference(reference);
+        for (std::size_t i = 0; i < paths.size() && !import_.IsStopped(); ++i)
+            AddReference(references.list[i], paths[i]);
         return true;
     }
 
-    void AddReference(const ComReference& reference)
+    /// Empty where it is not registered.
+    Text RegisteredPath(const ComReference& reference) const
     {
-        const auto path = import_.GetHost().machine.ReadRegistryValue(
-            RegistryRoot::ClassesRoot,
-            "TypeLib\\" + reference.guid + "\\" + reference.major + "." + reference.minor +
-                "\\0\\win32",
-            "");
-        if (!path || path->empty())
+        return import_.GetHost()
+            .machine
+            .ReadRegistryValue(RegistryRoot::ClassesRoot,
+                               "TypeLib\\" + reference.guid + "\\" + reference.major + "." +
+                                   reference.minor + "\\0\\win32",
+                               "")
+            .value_or("");
+    }
+
+    static bool IsPartOfWindows(const Text& path)
+    {
+        const Text name = ExtractFilename(path);
+        return IsNeverAdded(name) || EqualIgnoreCase(name, "STDOLE2.TLB");
+    }
+
+    // Whatever is registered may lie there on a machine that has no such folder.
+    bool IsInSystemFolder(const Text& path) const
+    {
+        return ContainsText(LowerCase(path), LowerCase(import_.GetHost().machine.GetSystemDir()));
+    }
+
+    void AddReference(const ComReference& reference, const Text& path)
+    {
+        if (path.empty())
             return import_.Pass(reference.guid, NotAdded::NotRegistered);
-        const Text name = ExtractFilename(*path);
-        if (IsNeverAdded(name) || EqualIgnoreCase(name, "STDOLE2.TLB"))
+        const Text name = ExtractFilename(path);
+        if (IsPartOfWindows(path))
             return import_.Pass(name, NotAdded::PartOfWindows);
-        const Text systemFolder = LowerCase(import_.GetHost().machine.GetSystemDir());
-        if (!ContainsText(LowerCase(*path), systemFolder))
-            return import_.Pass(*path, NotAdded::OutsideSystemFolder);
+        if (!IsInSystemFolder(path))
+            return import_.Pass(path, NotAdded::OutsideSystemFolder);
         if (import_.PassIfListed(name))
             return;
         const bool isOcx = ContainsText(LowerCase(name), ".ocx");

@@ -238,13 +238,33 @@ TEST_F(ImportVbNet, TellsWhatToSetWhereComponentsNeedASystemFolderThatIsNotThere
         "Systemkatalogen 'C:\\WINDOWS\\SYSTEM32' finns inte eller är tom, så projektets "
         "COM-komponenter kan ej hämtas. Kopiera systemkatalogen från en dator med Windows och "
         "Visual Basic dit, eller låt QUILLON_DRIVE_C ange en katalog där den finns."};
-    PutProject(Reference("A", "2", "0"));
-    EXPECT_EQ(Run({noFolder}).end, ImportEnd::Refused);
+    RegisterTypes("{A}\\2.0", kSystem + "\\mscomctl.ocx");
+    PutProject(Reference("E", "1", "0") + Reference("A", "2", "0"));
+    const ImportResult refused = Run({noFolder});
+    EXPECT_EQ(refused.end, ImportEnd::Refused);
+    EXPECT_THAT(Missed(refused), IsEmpty()) << "nothing was looked for";
     PutProject("", "<Include>\r\nRelPath = \"Tools.vb\"\r\n");
     EXPECT_EQ(Run({noFolder}).end, ImportEnd::Refused);
     EXPECT_THAT(Rows(), IsEmpty());
     PutProject("");
     EXPECT_EQ(Run({kDone}).end, ImportEnd::Done) << "nothing of it is needed";
+}
+
+TEST_F(ImportVbNet, NeedsNoSystemFolderForComponentsThatItPassesOver)
+{
+    machine.files.RemoveFile(kSystem + "\\kernel32.dll");
+    RegisterTypes("{C}\\2.0", kSystem + "\\STDOLE2.TLB");
+    RegisterTypes("{D}\\1.0", "C:\\Program\\Own\\own.ocx");
+    RegisterTypes("{F}\\1.0", "");
+    PutProject(Reference("C", "2", "0") + Reference("D", "1", "0") + Reference("E", "1", "0") +
+               Reference("F", "1", "0"));
+    const ImportResult result = Run({kDone});
+    EXPECT_EQ(result.end, ImportEnd::Done);
+    EXPECT_THAT(Missed(result), ElementsAre("STDOLE2.TLB: hör till Windows och läggs aldrig in",
+                                            "C:\\Program\\Own\\own.ocx: ligger utanför "
+                                            "systemkatalogen",
+                                            "{E}: saknas i registry", "{F}: saknas i registry"));
+    EXPECT_THAT(Rows(), ElementsAre("Kund.exe %DESTDIR\\Bin D"));
 }
 
 TEST_F(ImportVbNet, TellsAProjectThatNamesTooManyComponents)
