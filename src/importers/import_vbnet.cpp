@@ -40,6 +40,12 @@ constexpr const char* kComponents = "projektets COM-komponenter";
 // Up to this number the import ends before a window could be seen.
 constexpr std::size_t kFewLibraries = 20;
 
+// Nobody knows a library by its GUID alone.
+Text NameOf(const ComReference& reference)
+{
+    return reference.name.empty() ? reference.guid : reference.name + " (" + reference.guid + ")";
+}
+
 class VbNetImport {
 public:
     VbNetImport(RowImport& import, const ImportData& data, const VbNetChoices& choices)
@@ -165,7 +171,7 @@ private:
     void AddReference(const ComReference& reference, const Text& path)
     {
         if (path.empty())
-            return import_.Pass(reference.guid, NotAdded::NotRegistered);
+            return import_.Pass(NameOf(reference), NotAdded::NotRegistered);
         const Text name = ExtractFilename(path);
         if (IsPartOfWindows(path))
             return import_.Pass(name, NotAdded::PartOfWindows);

@@ -26,7 +26,13 @@ std::optional<ComReferences> ComReferencesOf(const std::vector<Text>& lines)
     if (list == lines.end())
         return std::nullopt;
     ComReferences references;
+    Text name;
     for (auto line = list + 1; line != lines.end(); ++line) {
+        // The name stands before the GUID, in the lines of the same reference.
+        if (ContainsText(*line, "<Reference"))
+            name.clear();
+        if (TrimBlanks(*line).starts_with("Name = \""))
+            name = InQuotes(*line);
         if (!ContainsText(*line, "Guid = \"{"))
             continue;
         // Kept: the two versions are the next two lines, whatever is there.
@@ -35,7 +41,8 @@ std::optional<ComReferences> ComReferencesOf(const std::vector<Text>& lines)
             break;
         references.list.push_back({.guid = "{" + StrBetween(*line, "{", "}") + "}",
                                    .major = InQuotes(*(line + 1)),
-                                   .minor = InQuotes(*(line + 2))});
+                                   .minor = InQuotes(*(line + 2)),
+                                   .name = name});
         line += 2;
     }
     return references;

@@ -14,6 +14,7 @@ struct ComReference {
     Text guid; // with its braces
     Text major;
     Text minor;
+    Text name = {}; // as the project calls it; empty where it does not
 
     bool operator==(const ComReference&) const = default;
 };

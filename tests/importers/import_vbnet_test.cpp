@@ -83,6 +83,25 @@ TEST_F(ImportVbNet, AddsComponentsProgramAndTheLibrariesBesideIt)
                 ElementsAre("hide", "status", "destination", "status", "status", "icon"));
 }
 
+TEST_F(ImportVbNet, CallsAnUnregisteredReferenceAsTheProjectDoes)
+{
+    PutProject("<Reference\r\nName = \"MSComctlLib\"\r\nGuid = \"{A}\"\r\n"
+               "VersionMajor = \"2\"\r\nVersionMinor = \"0\"\r\n/>\r\n" +
+               Reference("B", "1", "0"));
+    EXPECT_THAT(Missed(Run({kDone})),
+                ElementsAre("MSComctlLib ({A}): saknas i registry", "{B}: saknas i registry"));
+}
+
+TEST_F(ImportVbNet, NeverAddsTheBrowser)
+{
+    PutAll(kSystem, {"shdocvw.dll"});
+    RegisterTypes("{A}\\1.1", kSystem + "\\ShDocVw.dll");
+    PutProject(Reference("A", "1", "1"));
+    EXPECT_THAT(Missed(Run({kDone})),
+                ElementsAre("ShDocVw.dll: hör till Windows och läggs aldrig in"));
+    EXPECT_THAT(Rows(), ElementsAre("Kund.exe %DESTDIR\\Bin D"));
+}
+
 TEST_F(ImportVbNet, GivesTheIconToTheProgram)
 {
     PutAll("C:\\Proj\\bin", {"Other.dll"});

@@ -32,9 +32,23 @@ TEST(ComReferencesOf, FindsGuidAndBothVersions)
                               "      Guid = \"{0}\"\r\n      VersionMajor = \"1\"\r\n"
                               "      VersionMinor = \"17\"\r\n"));
     ASSERT_TRUE(references);
-    EXPECT_THAT(references->list,
-                ElementsAre(ComReference{"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}", "2", "0"},
-                            ComReference{"{0}", "1", "17"}));
+    EXPECT_THAT(references->list, ElementsAre(ComReference{"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}",
+                                                           "2", "0", "MSComctlLib"},
+                                              ComReference{"{0}", "1", "17"}))
+        << "a name is that of its own reference";
+}
+
+TEST(ComReferencesOf, TakesNoOtherAttributeForTheName)
+{
+    const auto references =
+        ComReferencesOf(Lines("<References>\r\n<Reference\r\nAssemblyName = \"Interop\"\r\n"
+                              "Name = \"R\xE4knare\r\nGuid = \"{0}\"\r\nVersionMajor = \"1\"\r\n"
+                              "VersionMinor = \"0\"\r\n<Reference\r\nName = \"R\xE4knare\"\r\n"
+                              "AssemblyName = \"Interop\"\r\nGuid = \"{1}\"\r\n"
+                              "VersionMajor = \"1\"\r\nVersionMinor = \"0\"\r\n"));
+    ASSERT_TRUE(references);
+    EXPECT_THAT(references->list, ElementsAre(ComReference{"{0}", "1", "0"},
+                                              ComReference{"{1}", "1", "0", "Räknare"}));
 }
 
 TEST(ComReferencesOf, TakesTheNextTwoLinesWhateverTheyHold)
