@@ -114,6 +114,21 @@ TEST(HelpPages, HaveIdsOfTheirOwnAndLinksThatLeadSomewhere)
     EXPECT_GT(links, 20U);
 }
 
+// What one import does and another does not is no secret of their windows.
+TEST(HelpPages, TellTheImportsApart)
+{
+    const auto pages = ShippedPages();
+    const auto tells = [&](const Text& id, std::initializer_list<const char*> words) {
+        const HelpPage* page = FindHelpPage(pages, id);
+        ASSERT_TRUE(page) << id;
+        for (const char* const word : words)
+            EXPECT_TRUE(ContainsText(page->body, word)) << id << ": " << word;
+    };
+    tells("cmd201", {"`.dep`-filer följs inte"});
+    tells("cmd202", {"DAO 3.5", "DAO 3.6", "ADO-data", "RDO-data", "MDAC", "Mfc42", "DEP-filer"});
+    tells("cmd203", {".vbproj", ".csproj", "läggs inte till"});
+}
+
 TEST(Help, IsShownInTheSessionsWindow)
 {
     Desk desk({});
