@@ -155,10 +155,8 @@ void AddVb5Dao35(RowImport& import)
     if (!library) {
         import.Pass("DAO2535.tlb", NotAdded::NotRegistered);
         import.Pass("DAO350.dll", NotAdded::NotRegistered);
-        import.ShowBusy(false);
         import.GetAsk().Critical("Fel", "Kan ej hitta DAO-filerna 'DAO2535.tlb' och 'DAO350.dll' "
                                         "på din hårddisk!");
-        import.ShowBusy(true);
         return;
     }
     const Text folder = FolderOfLibrary(*library);

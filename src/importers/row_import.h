@@ -57,7 +57,8 @@ public:
     bool IsStopped() const { return isStopped_; }
     ImportResult Finish(ImportEnd end);
 
-    /// Shows the busy pointer, which must be off before anything is asked.
+    /// Shows the busy pointer. `Ask` lifts it for its own questions; it must be off before the
+    /// windows of `ImportUser`.
     void ShowBusy(bool isBusy);
 
     Host GetHost() const { return work_.list.host; }

@@ -88,6 +88,7 @@ public:
     virtual void ClearStatusLines() {}
     /// How far a long step is, in bytes. `total` 0 ends the display of progress.
     virtual void ShowProgress(std::uint64_t done, std::uint64_t total) = 0;
+    /// The pointer of a command at work; it is lifted for as long as a question is up.
     virtual void ShowBusyPointer(bool busy) = 0;
     /// What the status bar says while a command takes its time; an empty text gives the bar back.
     virtual void ShowStatusText(const Text&) {}

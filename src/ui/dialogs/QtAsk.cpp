@@ -20,6 +20,34 @@ QWidget* WindowInFront()
     return modal ? modal : QApplication::activeWindow();
 }
 
+/// One question over the window in front. A command may ask in the midst of its work, and a busy
+/// pointer would say that there is nothing to click: it is away for as long as the question is up.
+class Question {
+public:
+    Question()
+    {
+        while (const QCursor* pointer = QApplication::overrideCursor()) {
+            lifted_.push_back(*pointer);
+            QApplication::restoreOverrideCursor();
+        }
+    }
+    ~Question()
+    {
+        while (!lifted_.empty()) {
+            QApplication::setOverrideCursor(lifted_.back());
+            lifted_.pop_back();
+        }
+    }
+    Question(const Question&) = delete;
+    Question& operator=(const Question&) = delete;
+
+    QWidget* Parent() const { return parent_; }
+
+private:
+    QWidget* parent_ = WindowInFront();
+    std::vector<QCursor> lifted_; // the innermost first
+};
+
 struct BoxButton {
     QMessageBox::StandardButton button;
     const char* caption;
@@ -29,7 +57,8 @@ struct BoxButton {
 QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const Text& title, const Text& text,
                                     std::initializer_list<BoxButton> buttons)
 {
-    QMessageBox box(icon, ToQt(title), ToQt(text), QMessageBox::NoButton, WindowInFront());
+    const Question asking;
+    QMessageBox box(icon, ToQt(title), ToQt(text), QMessageBox::NoButton, asking.Parent());
     box.setTextFormat(Qt::PlainText);
     box.setObjectName("MsgBox");
     ShowOwnPicture(box);
@@ -87,28 +116,33 @@ Answer QtAsk::YesNoCancel(const Text& title, const Text& text)
 
 std::optional<Text> QtAsk::OpenFile(const FileQuestion& question)
 {
-    return ChooseFileToOpen(question, paths_, WindowInFront());
+    const Question asking;
+    return ChooseFileToOpen(question, paths_, asking.Parent());
 }
 
 std::vector<Text> QtAsk::OpenFiles(const FileQuestion& question)
 {
-    return ChooseFilesToOpen(question, paths_, WindowInFront());
+    const Question asking;
+    return ChooseFilesToOpen(question, paths_, asking.Parent());
 }
 
 std::optional<Text> QtAsk::SaveFile(const FileQuestion& question)
 {
-    return ChooseFileToSave(question, paths_, WindowInFront());
+    const Question asking;
+    return ChooseFileToSave(question, paths_, asking.Parent());
 }
 
 std::optional<Text> QtAsk::SelectDir(const Text& text, const Text& folder)
 {
-    quillon::SelectDir form(host_.files, *this, text, folder, WindowInFront(), paths_);
+    const Question asking;
+    quillon::SelectDir form(host_.files, *this, text, folder, asking.Parent(), paths_);
     return form.ShowModal() ? std::optional(form.Folder) : std::nullopt;
 }
 
 std::optional<Text> QtAsk::XInputBox(const Text& title, const Text& prompt)
 {
-    quillon::XInputBox form(title, prompt, WindowInFront());
+    const Question asking;
+    quillon::XInputBox form(title, prompt, asking.Parent());
     return form.ShowModal() ? std::optional(form.Input) : std::nullopt;
 }
 
@@ -116,26 +150,30 @@ std::optional<Text> QtAsk::ChooseDestination(const DestinationQuestion& question
 {
     if (!onChooseDestination)
         return {};
-    return onChooseDestination(question, WindowInFront());
+    const Question asking;
+    return onChooseDestination(question, asking.Parent());
 }
 
 std::optional<Text> QtAsk::ChooseComponent(const std::vector<Text>& entries)
 {
     if (!onChooseComponent)
         return {};
-    return onChooseComponent(entries, WindowInFront());
+    const Question asking;
+    return onChooseComponent(entries, asking.Parent());
 }
 
 std::optional<Text> QtAsk::ChooseVariable()
 {
     if (!onChooseVariable)
         return {};
-    return onChooseVariable(WindowInFront());
+    const Question asking;
+    return onChooseVariable(asking.Parent());
 }
 
 std::optional<Long> QtAsk::ChooseColour(Long current)
 {
-    QColorDialog form(ToQtColour(current), WindowInFront());
+    const Question asking;
+    QColorDialog form(ToQtColour(current), asking.Parent());
     form.setOption(QColorDialog::DontUseNativeDialog);
     if (form.exec() != QDialog::Accepted)
         return {};
@@ -144,7 +182,8 @@ std::optional<Long> QtAsk::ChooseColour(Long current)
 
 std::optional<FontChoice> QtAsk::ChooseFont(const FontChoice& current)
 {
-    FontForm form(current, *this, WindowInFront());
+    const Question asking;
+    FontForm form(current, *this, asking.Parent());
     return form.ShowModal() ? std::optional(form.Chosen) : std::nullopt;
 }
 

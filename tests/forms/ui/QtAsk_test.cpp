@@ -24,7 +24,9 @@ protected:
         return picture;
     }
 
-    QtAsk user{machine.host, HostPaths{}};
+    QtAsk user{machine.host,
+               HostPaths{.toHost = [](const Text&) { return std::nullopt; },
+                         .toWindows = [](const std::string& path) { return "Z:" + path; }}};
 };
 
 TEST_F(QtAskTest, HasOwnPicturesInItsBoxes)
@@ -45,6 +47,63 @@ TEST_F(QtAskTest, HasOwnPicturesInItsBoxes)
     const QColor filled = critical.pixelColor(critical.width() / 4, critical.height() / 2);
     EXPECT_EQ(filled.alpha(), 255);
     EXPECT_GT(filled.red(), 150);
+}
+
+// Commands ask in the midst of their work, one inside the other.
+TEST_F(QtAskTest, LiftsTheBusyPointerWhileItAsks)
+{
+    const std::function<void()> questions[] = {
+        [&] { user.Inform("Info", "?"); },
+        [&] { user.Warn("Info", "?"); },
+        [&] { user.Critical("Fel", "?"); },
+        [&] { user.YesNo("Fel", "?", Ask::Stops::OnNo); },
+        [&] { user.OkCancel("Fel", "?"); },
+        [&] { user.YesNoCancel("Fel", "?"); },
+        [&] { user.OpenFile({.title = "Öppna"}); },
+        [&] { user.OpenFiles({.title = "Öppna"}); },
+        [&] { user.SaveFile({.title = "Spara"}); },
+        [&] { user.SelectDir("Katalog", ""); },
+        [&] { user.XInputBox("Rad", "Skriv"); },
+        [&] { user.ChooseColour(0); },
+        [&] { user.ChooseFont({}); },
+    };
+    user.ShowBusyPointer(true);
+    user.ShowBusyPointer(true);
+    int asked = 0;
+    for (const auto& question : questions) {
+        OnNextDialog([&](QDialog&) {
+            ++asked;
+            EXPECT_EQ(QApplication::overrideCursor(), nullptr) << asked;
+        });
+        question();
+        ASSERT_NE(QApplication::overrideCursor(), nullptr) << asked;
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    }
+    EXPECT_EQ(asked, 13);
+    user.ShowBusyPointer(false);
+    EXPECT_NE(QApplication::overrideCursor(), nullptr) << "both commands are still at work";
+    user.ShowBusyPointer(false);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(QtAskTest, LiftsTheBusyPointerForTheChoicesOfTheFileList)
+{
+    int asked = 0;
+    const auto choose = [&](auto&&...) -> std::optional<Text> {
+        ++asked;
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr) << asked;
+        return "x";
+    };
+    user.onChooseDestination = choose;
+    user.onChooseComponent = choose;
+    user.onChooseVariable = choose;
+    user.ShowBusyPointer(true);
+    user.ChooseDestination({});
+    user.ChooseComponent({});
+    user.ChooseVariable();
+    EXPECT_EQ(asked, 3);
+    EXPECT_NE(QApplication::overrideCursor(), nullptr);
+    user.ShowBusyPointer(false);
 }
 
 } // namespace
