@@ -82,6 +82,24 @@ TEST_F(ImportVb5, AddsDao35)
     EXPECT_EQ(Row("MSVCRT40.dll")[Source], LowerCase(kSystem) + "\\msvcrt40.dll");
 }
 
+// Version 5 knows neither dependency files nor data controls nor what a control is built with.
+TEST_F(ImportVb5, TakesItsControlsForNoMoreThanTheyAre)
+{
+    PutAll(kSystem, {"msadodc.ocx", "msrdc20.ocx", "msstdfmt.dll", "rdocurs.dll", "helper.dll"});
+    machine.files.Put(kSystem + "\\own.ocx",
+                      MakeLinkedProgram({.isLibrary = true, .imports = {"MFC42.DLL"}}));
+    machine.files.Put(kSystem + "\\own.dep", "[own.ocx]\r\nUses1=helper.dll\r\n");
+    machine.files.Put(kVbp, "Object={1}; MSADODC.OCX\r\nObject={2}; MSRDC20.OCX\r\n"
+                            "Object={3}; own.ocx\r\nObject={4}; grid32.ocx\r\n");
+    Run({kDone});
+    const auto rows = Rows();
+    EXPECT_THAT(std::vector<Text>(rows.begin() + 7, rows.end()),
+                ElementsAre("Msadodc.ocx %SYSDIR VRAW", "Msrdc20.ocx %SYSDIR VRAW",
+                            "own.ocx %SYSDIR VRAW", "grid32.ocx %SYSDIR VRAW",
+                            "Kund.exe %DESTDIR\\Bin D"));
+    EXPECT_FALSE(choices.cImportActiveXSysFiles);
+}
+
 TEST_F(ImportVb5, TakesTheFolderOfDaoWhereTheRegistryNamesItAlone)
 {
     PutAll(kSystem, {"msjter35.dll", "msjint35.dll", "msvcrt40.dll", "msjet35.dll", "vbajet32.dll",

@@ -1,5 +1,6 @@
 #include "importers/import_vb6.h"
 
+#include "filelist/list_builder.h"
 #include "import_context.h"
 #include "importers/vb_project.h"
 
@@ -546,6 +547,74 @@ TEST_F(ImportVb6Dao, AddsDao35)
                                        "MSVCRT40.dll %SYSDIR VAW"));
     EXPECT_EQ(Row("DAO2535.tlb")[Source], "c:\\dao\\dao2535.tlb");
     EXPECT_EQ(Row("MSVCRT40.dll")[Source], LowerCase(kRedist) + "\\msvcrt40.dll");
+}
+
+// A library's own key goes before the common one, which is there as well.
+TEST_F(ImportVb6Dao, TakesEachFileOfDao35FromItsOwnKeyFirst)
+{
+    const Text shared = "SOFTWARE\\Microsoft\\Shared Tools\\";
+    choices.cImportDAO35 = true;
+    PutAll("C:\\Lib", {"dao350.dll", "dao2535.tlb"});
+    PutAll("C:\\Typ", {"dao350.dll", "dao2535.tlb"});
+    Register(shared + "DAO350", "Path", "C:\\DAO\\DAO350.DLL");
+    Register(shared + "DAO350.DLL", "Path", "C:\\Lib\\DAO350.DLL");
+    Run({kDone});
+    EXPECT_EQ(Row("DAO350.dll")[Source], "c:\\lib\\dao350.dll");
+    EXPECT_EQ(Row("DAO2535.tlb")[Source], "c:\\dao\\dao2535.tlb")
+        << "the types have the common key, not that of the library";
+    project.Files.rows.clear();
+    Register(shared + "DAO2535.TLB", "Path", "C:\\Typ\\DAO2535.TLB");
+    Run({kDone});
+    EXPECT_EQ(Row("DAO350.dll")[Source], "c:\\lib\\dao350.dll");
+    EXPECT_EQ(Row("DAO2535.tlb")[Source], "c:\\typ\\dao2535.tlb");
+}
+
+TEST_F(ImportVb6Dao, TakesDao36FromItsOwnKeyFirst)
+{
+    choices.cImportDAO36 = true;
+    PutAll("C:\\Common\\DAO", {"dao360.dll"});
+    Register("SOFTWARE\\Microsoft\\Shared Tools", "SharedFilesDir", "C:\\Common\\");
+    Register("SOFTWARE\\Microsoft\\Shared Tools\\DAO360.DLL", "Path", "C:\\DAO\\DAO360.DLL");
+    Run({kDone});
+    EXPECT_EQ(Row("DAO360.dll")[Source], "c:\\dao\\dao360.dll");
+}
+
+// Kept: the order in which a project gets its lists.
+TEST_F(ImportVb6Dao, AddsAllItsListsInOrder)
+{
+    choices.cImportDAO35 = choices.cImportDAO36 = choices.cImportADO = choices.cImportRDO =
+        choices.cInstallMDA = choices.cImportActiveXSysFiles = choices.MDAQuestionAsked = true;
+    PutAll(kSystem, {"vb6stkit.dll"});
+    machine.files.Put(kRedist + "\\MDAC_TYP.EXE", "package");
+    Register("SOFTWARE\\Microsoft\\Shared Tools\\DAO350", "Path", "C:\\DAO\\DAO350.DLL");
+    Register("SOFTWARE\\Microsoft\\Shared Tools\\DAO360.DLL", "Path", "C:\\DAO\\DAO360.DLL");
+    PutProject("Module=basSetup1; Setup1.bas\r\nObject={1}; COMDLG32.OCX\r\n");
+    Run({kDone});
+    EXPECT_THAT(NamesOf(project.Files),
+                ElementsAre("ASYCFILT.dll", "COMCAT.dll", "OLEPRO32.dll", "OLEAUT32.dll",
+                            "STDOLE2.tlb", "MSVBVM60.dll", "Comdlg32.ocx",
+                            // DAO 3.5
+                            "VB5DB.dll", "MsRepl35.dll", "MSRD2x35.dll", "EXPSRV.dll",
+                            "VBAJet32.dll", "MSJInt35.dll", "MSJtEr35.dll", "MSJet35.dll",
+                            "DAO350.dll", "DAO2535.tlb", "MSVCRT40.dll",
+                            // DAO 3.6
+                            "msjtes40.dll", "msrepl40.dll", "msrd3x40.dll", "msrd2x40.dll",
+                            "mswdat10.dll", "mswstr10.dll", "msjint40.dll", "msjter40.dll",
+                            "msjet40.dll", "DAO360.dll",
+                            // ADO, RDO, their package, MFC, the modules
+                            "Msstdfmt.dll", "Msadodc.ocx", "Rdocurs.dll", "Msrdc20.ocx",
+                            "MDAC_TYP.ZIP", "Mfc42.dll", "Msvcrt.dll", "Vb6stkit.dll", "Kund.exe"));
+}
+
+TEST_F(ImportVb6, AddsThePackageAmongTheControlsWhereADataControlComes)
+{
+    PutProject("Object={1}; MSADODC.OCX\r\nObject={2}; COMDLG32.OCX\r\n");
+    machine.files.Put(kRedist + "\\MDAC_TYP.EXE", "package");
+    choices.cInstallMDA = true;
+    Run({kDone});
+    EXPECT_THAT(RowsFrom(6), ElementsAre("Msadodc.ocx %SYSDIR VRAW", "Msstdfmt.dll %SYSDIR VRAW",
+                                         "MDAC_TYP.ZIP %DESTDIR W", "Comdlg32.ocx %SYSDIR VRAW",
+                                         "Kund.exe %DESTDIR\\Bin D"));
 }
 
 TEST_F(ImportVb6Dao, FindsDao35ByItsCommonKey)

@@ -77,6 +77,15 @@ TEST(MissingFromFileList, TakesTheNameOutOfItsValue)
             << value;
 }
 
+// The mark is part of the value, and what the limit cuts off is not looked at.
+TEST(MissingFromFileList, CutsValuesAtTheirLimit)
+{
+    const std::string longest(199, 'x'); // and a NUL
+    const auto missing = Missing("[Bootstrap Files]\r\nFile1=" + longest + "y\r\nFile2=@" +
+                                 longest + "\r\n[Setup1 Files]\r\nFile1=" + longest + ",a.dll\r\n");
+    EXPECT_THAT(missing, Optional(ElementsAre(longest, longest.substr(1), longest)));
+}
+
 TEST(MissingFromFileList, ComparesNamesOnly)
 {
     const std::vector<FileListRow> rows = {MakeRow("å.DLL", "%SYSDIR", "c:\\x\\å.dll"),
