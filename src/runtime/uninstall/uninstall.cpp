@@ -88,7 +88,8 @@ private:
     void RemoveFolder(const Text& folder);
     bool HoldsOnlyWhatGoes(const Text& folder) const;
     bool IsOfEntry(const JournalRecord& record) const;
-    bool StartsAnotherUninstaller();
+    Text JournalOfEntry() const;
+    void RemoveEntry();
     void Stays(const Text& what, const Reason& reason);
     void NoteLeft(const Text& what, const Text& why);
     void LeaveToRestart(const Text& path);
@@ -159,8 +160,8 @@ UninstallResult Uninstallation::Run()
         Attempt(move.from, [&] { UndoRestart(move); });
     RemoveKeysThatAreEmptyByNow();
     RemoveFolders(Folders::Others);
-    if (!partly_ && !StartsAnotherUninstaller())
-        UndoAll(Part::Entry);
+    if (!partly_)
+        RemoveEntry();
     if (!partly_)
         Attempt(input_.journalPath, [&] { RemoveProductItself(); });
     RemoveFolders(Folders::OfProductItself);
@@ -169,17 +170,28 @@ UninstallResult Uninstallation::Run()
     return {partly_ ? ExitCode::Failed : done, std::move(left_)};
 }
 
-// The product may have been installed in another folder since. Its entry starts that one's
-// uninstaller, and goes with it.
-bool Uninstallation::StartsAnotherUninstaller()
+/// The journal that the entry's uninstaller obeys; empty where it names none.
+Text Uninstallation::JournalOfEntry() const
 {
     const auto data = input_.target.ReadValue(entry_, kUninstallString);
-    const auto command = data ? TextOf(*data) : std::nullopt;
-    if (!command || EqualIgnoreCase(files_.ShortPath(ReadUninstallCommand(*command).journal),
-                                    files_.ShortPath(input_.journalPath)))
-        return false;
-    input_.log.Skipped(KeyText(entry_), {Message::ReasonValueChanged});
-    return true;
+    return ReadUninstallCommand(data ? TextOf(*data).value_or("") : Text()).journal;
+}
+
+// The product may have been installed in another folder since. Its entry starts that one's
+// uninstaller, and goes with it. Where another copy was there before, its entry comes back, but not
+// that of a copy that has gone meanwhile.
+void Uninstallation::RemoveEntry()
+{
+    const Text journal = JournalOfEntry();
+    if (!journal.empty() &&
+        !EqualIgnoreCase(files_.ShortPath(journal), files_.ShortPath(input_.journalPath))) {
+        input_.log.Skipped(KeyText(entry_), {Message::ReasonValueChanged});
+        return;
+    }
+    UndoAll(Part::Entry);
+    const Text former = JournalOfEntry();
+    if (!former.empty() && !files_.FileExists(former))
+        Attempt(KeyText(entry_), [&] { RemoveKeyWithAllBelow(entry_); });
 }
 
 void Uninstallation::UndoAll(Part part)

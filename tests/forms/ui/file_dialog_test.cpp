@@ -146,7 +146,7 @@ TEST_F(FileDialogTest, GivesASavedNameWithADotItsExtensionToo)
     };
     EXPECT_EQ(saved("Räkna 1.2"), "C:\\Data\\Räkna 1.2.qnp");
     EXPECT_EQ(saved("C:\\Data\\nytt"), "C:\\Data\\nytt.qnp");
-    EXPECT_EQ(saved("c:\\data\\version 2.0"), "C:\\Data\\version 2.0.qnp");
+    EXPECT_EQ(saved("c:\\Data\\version 2.0"), "C:\\Data\\version 2.0.qnp");
     EXPECT_EQ(saved("nytt.QNP"), "C:\\Data\\nytt.QNP");
 }
 
