@@ -71,22 +71,22 @@ def bitmap(rows):
 def png(rows):
     def chunk(kind, data):
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
-    head = struct.pack(">IIBBBBB", len(rows), len(rows), 8, 6, 0, 0, 0)
+    header = struct.pack(">IIBBBBB", len(rows), len(rows), 8, 6, 0, 0, 0)
     data = b"".join(b"\0" + b"".join(bytes(dot) for dot in row) for row in rows)
-    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", zlib.compress(data, 9))
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(data, 9))
             + chunk(b"IEND", b""))
 
 
 def main(path):
     pictures = [(side, bitmap(drawn(side))) for side in BITMAP_SIDES] + [(PNG_SIDE, png(drawn(PNG_SIDE)))]
     position = 6 + 16 * len(pictures)
-    head, body = struct.pack("<HHH", 0, 1, len(pictures)), b""
+    header, body = struct.pack("<HHH", 0, 1, len(pictures)), b""
     for side, picture in pictures:
-        head += struct.pack("<BBBBHHII", side % 256, side % 256, 0, 0, 1, 32, len(picture),
-                            position + len(body))
+        header += struct.pack("<BBBBHHII", side % 256, side % 256, 0, 0, 1, 32, len(picture),
+                              position + len(body))
         body += picture
     with open(path, "wb") as file:
-        file.write(head + body)
+        file.write(header + body)
 
 
 if __name__ == "__main__":

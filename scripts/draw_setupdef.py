@@ -65,10 +65,10 @@ def main(path):
     pixels = b"".join(bytes(index[c] for c in row) + padding for row in reversed(rows))
     colours = b"".join(struct.pack("<BBBB", b, g, r, 0) for r, g, b in palette)
     start = 14 + 40 + len(colours)
-    head = struct.pack("<2sIHHI", b"BM", start + len(pixels), 0, 0, start)
-    head += struct.pack("<IiiHHIIiiII", 40, WIDTH, HEIGHT, 1, 8, 0, len(pixels), 2835, 2835, 256, 0)
+    header = struct.pack("<2sIHHI", b"BM", start + len(pixels), 0, 0, start)
+    header += struct.pack("<IiiHHIIiiII", 40, WIDTH, HEIGHT, 1, 8, 0, len(pixels), 2835, 2835, 256, 0)
     with open(path, "wb") as file:
-        file.write(head + colours + pixels)
+        file.write(header + colours + pixels)
 
 
 if __name__ == "__main__":

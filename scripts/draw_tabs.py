@@ -111,10 +111,10 @@ def pixel(drawing, column, row, side, grid):
         hits = sum(hit(lines, (column + (i + .5) / SAMPLES) * grid / side,
                        (row + (j + .5) / SAMPLES) * grid / side)
                    for i in range(SAMPLES) for j in range(SAMPLES))
-        ink = share * hits / SAMPLES ** 2
-        over = ink + alpha * (1 - ink)
+        coverage = share * hits / SAMPLES ** 2
+        over = coverage + alpha * (1 - coverage)
         if over:
-            colour = tuple((t * ink + c * alpha * (1 - ink)) / over for t, c in zip(tone, colour))
+            colour = tuple((t * coverage + c * alpha * (1 - coverage)) / over for t, c in zip(tone, colour))
         alpha = over
     red, green, blue = (round(c) for c in colour)
     return struct.pack("<BBBB", blue, green, red, round(alpha * 255))
@@ -124,12 +124,12 @@ def write(drawing, path, side=SIDE, grid=GRID):
     pixels = b"".join(pixel(drawing, column, row, side, grid) for row in reversed(range(side))
                       for column in range(side))
     start = 14 + 108
-    head = struct.pack("<2sIHHI", b"BM", start + len(pixels), 0, 0, start)
-    head += struct.pack("<IiiHHIIiiII", 108, side, side, 1, 32, 3, len(pixels), 2835, 2835, 0, 0)
-    head += struct.pack("<IIII", 0xff0000, 0xff00, 0xff, 0xff000000)
-    head += b"BGRs" + b"\0" * 48
+    header = struct.pack("<2sIHHI", b"BM", start + len(pixels), 0, 0, start)
+    header += struct.pack("<IiiHHIIiiII", 108, side, side, 1, 32, 3, len(pixels), 2835, 2835, 0, 0)
+    header += struct.pack("<IIII", 0xff0000, 0xff00, 0xff, 0xff000000)
+    header += b"BGRs" + b"\0" * 48
     with open(path, "wb") as file:
-        file.write(head + pixels)
+        file.write(header + pixels)
 
 
 def main(root):

@@ -41,7 +41,7 @@ TEST(DecodeJpeg, OfEachKind)
         }
 }
 
-TEST(DecodeJpeg, OfInks)
+TEST(DecodeJpeg, OfCmyk)
 {
     // With Adobe's marker, 250 in all samples is nearly white, without it nearly black.
     const Picture inverted = Decoded(TwoHalves({.components = 4}));

@@ -61,7 +61,7 @@ TEST(DecodeMetafile, HasTheSizeOfItsHeader)
         EXPECT_EQ(DecodePicture(bytes).fault, PictureFault::Damaged);
 }
 
-TEST(DecodeMetafile, WithoutAHeadHasTheSizeOfItsWindow)
+TEST(DecodeMetafile, WithoutAHeaderHasTheSizeOfItsWindow)
 {
     EXPECT_EQ(DecodePicture(MadeMetafile().Window(5, 5, 300, -200).File()).picture.Width(), 300);
     EXPECT_EQ(DecodePicture(MadeMetafile().Window(5, 5, 300, -200).File()).picture.Height(), 200);

@@ -153,7 +153,7 @@ TEST_F(ListPagesTest, FillsTheFirstPage)
     EXPECT_THAT(RowYs(pages[1]), IsEmpty());
 }
 
-TEST_F(ListPagesTest, EndsOnAPageOfHeadsWhereTheLastRowFillsAPage)
+TEST_F(ListPagesTest, EndsOnAPageOfHeadingsWhereTheLastRowFillsAPage)
 {
     AddRows(52);
     const PrintedPage page = Pages()[1];

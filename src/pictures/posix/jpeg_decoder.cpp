@@ -51,14 +51,14 @@ void LimitScans(j_common_ptr common)
 
 // CMYK samples to RGB. In a file with Adobe's marker the samples are inverted; without it they are
 // plain.
-void PixelsFromCmyk(const JSAMPLE* inks, int width, bool areInverted, Pixel* out)
+void PixelsFromCmyk(const JSAMPLE* samples, int width, bool areInverted, Pixel* out)
 {
     const auto light = [areInverted](unsigned coverage) {
         return areInverted ? coverage : 255 - coverage;
     };
-    for (int x = 0; x < width; ++x, inks += 4) {
-        const unsigned black = light(inks[3]);
-        const auto part = [&](int i) { return (light(inks[i]) * black + 127) / 255; };
+    for (int x = 0; x < width; ++x, samples += 4) {
+        const unsigned black = light(samples[3]);
+        const auto part = [&](int i) { return (light(samples[i]) * black + 127) / 255; };
         out[x] = 0xFF000000 | part(0) << 16 | part(1) << 8 | part(2);
     }
 }
@@ -66,15 +66,15 @@ void PixelsFromCmyk(const JSAMPLE* inks, int width, bool areInverted, Pixel* out
 void ReadLines(Decoding& decoding)
 {
     jpeg_decompress_struct& jpeg = decoding.jpeg;
-    const bool areInks = jpeg.out_color_space == JCS_CMYK;
+    const bool isCmyk = jpeg.out_color_space == JCS_CMYK;
     const auto width = static_cast<int>(jpeg.output_width);
     while (jpeg.output_scanline < jpeg.output_height) {
         Pixel* row =
             decoding.picture->pixels.data() + std::size_t{jpeg.output_scanline} * jpeg.output_width;
-        JSAMPROW line = areInks ? decoding.line : reinterpret_cast<JSAMPROW>(row);
+        JSAMPROW line = isCmyk ? decoding.line : reinterpret_cast<JSAMPROW>(row);
         if (jpeg_read_scanlines(&jpeg, &line, 1) != 1)
             Fail(reinterpret_cast<j_common_ptr>(&jpeg));
-        if (areInks)
+        if (isCmyk)
             PixelsFromCmyk(line, width, jpeg.saw_Adobe_marker, row);
     }
 }
@@ -95,9 +95,9 @@ void Start(Decoding& decoding, std::string_view bytes, const JpegRequest& reques
         Fail(reinterpret_cast<j_common_ptr>(&jpeg));
     jpeg.scale_num = 1;
     jpeg.scale_denom = static_cast<unsigned>(request.reduction);
-    const bool areInks = jpeg.jpeg_color_space == JCS_CMYK || jpeg.jpeg_color_space == JCS_YCCK;
+    const bool isCmyk = jpeg.jpeg_color_space == JCS_CMYK || jpeg.jpeg_color_space == JCS_YCCK;
     // In memory the order of these bytes is that of a pixel.
-    jpeg.out_color_space = areInks ? JCS_CMYK : JCS_EXT_BGRA;
+    jpeg.out_color_space = isCmyk ? JCS_CMYK : JCS_EXT_BGRA;
     jpeg.dct_method = JDCT_ISLOW;
 }
 

@@ -43,22 +43,22 @@ public:
 
     PageArrangement Arrange()
     {
-        result_.width = Across(kPageWidth);
-        const int pageHeight = Down(kPageHeight);
+        result_.width = HorizontalPixels(kPageWidth);
+        const int pageHeight = VerticalPixels(kPageHeight);
         result_.picture = {0, 0, pageHeight * kPictureWidthInPixels / kPictureHeightInPixels,
                            pageHeight};
-        left_ = result_.picture.right + Across(kMargin);
-        right_ = result_.width - Across(kMargin);
-        top_ = Down(kMargin);
+        left_ = result_.picture.right + HorizontalPixels(kMargin);
+        right_ = result_.width - HorizontalPixels(kMargin);
+        top_ = VerticalPixels(kMargin);
         PlaceTitle();
-        PlacePieces(pageHeight - Down(kMargin));
+        PlacePieces(pageHeight - VerticalPixels(kMargin));
         PlaceButtons(pageHeight);
         return std::move(result_);
     }
 
 private:
-    int Across(double units) const { return Rounded(units * ruler_.UnitAcross()); }
-    int Down(double units) const { return Rounded(units * ruler_.UnitDown()); }
+    int HorizontalPixels(double units) const { return Rounded(units * ruler_.UnitWidth()); }
+    int VerticalPixels(double units) const { return Rounded(units * ruler_.UnitHeight()); }
     static int Rounded(double pixels) { return static_cast<int>(RoundToEven(pixels)); }
 
     void PlaceTitle()
@@ -66,10 +66,10 @@ private:
         if (page_.title.empty())
             return;
         const int height = ruler_.TextHeight(page_.title, right_ - left_, true);
-        const int room = std::min(height, Down(kMaxTitleHeight));
+        const int room = std::min(height, VerticalPixels(kMaxTitleHeight));
         result_.title = {left_, top_, right_, top_ + room};
         result_.titleScrolls = height > room;
-        top_ += room + Down(kGap);
+        top_ += room + VerticalPixels(kGap);
     }
 
     /// Without its label; a piece that grows has no height of its own.
@@ -79,18 +79,18 @@ private:
         case PieceKind::Paragraph:
             // A description that changes keeps its room.
             return piece.field == PageField::ComponentText
-                       ? Down(piece.maxHeight)
+                       ? VerticalPixels(piece.maxHeight)
                        : std::min(ruler_.TextHeight(piece.text, right_ - left_, false),
-                                  Down(piece.maxHeight));
+                                  VerticalPixels(piece.maxHeight));
         case PieceKind::Entry:
         case PieceKind::Password:
-            return Down(kEntryHeight);
+            return VerticalPixels(kEntryHeight);
         case PieceKind::Button:
-            return Down(kButtonHeight);
+            return VerticalPixels(kButtonHeight);
         case PieceKind::Value:
-            return Down(kLineHeight);
+            return VerticalPixels(kLineHeight);
         case PieceKind::CheckBox:
-            return Down(kBoxHeight);
+            return VerticalPixels(kBoxHeight);
         default:
             return 0;
         }
@@ -98,7 +98,7 @@ private:
 
     int LabelHeight(const PagePiece& piece) const
     {
-        return HasLabelAbove(piece) ? Down(kLineHeight) + Down(kAfterLabel) : 0;
+        return HasLabelAbove(piece) ? VerticalPixels(kLineHeight) + VerticalPixels(kAfterLabel) : 0;
     }
 
     // Labels in a row of lines are in a column of their own.
@@ -108,7 +108,7 @@ private:
         for (const PagePiece& piece : page_.pieces)
             if (HasLabelBefore(piece))
                 width = std::max(width, ruler_.LineWidth(piece.label));
-        return width + Across(kGap);
+        return width + HorizontalPixels(kGap);
     }
 
     void PlacePieces(int bottom)
@@ -116,11 +116,11 @@ private:
         int fixed = 0;
         int growing = 0;
         for (const PagePiece& piece : page_.pieces) {
-            fixed += OwnHeight(piece) + LabelHeight(piece) + Down(GapBehind(piece));
+            fixed += OwnHeight(piece) + LabelHeight(piece) + VerticalPixels(GapBehind(piece));
             growing += Grows(piece.kind) ? 1 : 0;
         }
         if (!page_.pieces.empty())
-            fixed -= Down(GapBehind(page_.pieces.back()));
+            fixed -= VerticalPixels(GapBehind(page_.pieces.back()));
         const int rest = std::max(0, bottom - top_ - fixed);
         const int labels = LabelColumn();
         for (const PagePiece& piece : page_.pieces) {
@@ -141,49 +141,52 @@ private:
     {
         PlacedPiece placed;
         if (HasLabelAbove(piece)) {
-            placed.label = {left_, top_, right_, top_ + Down(kLineHeight)};
+            placed.label = {left_, top_, right_, top_ + VerticalPixels(kLineHeight)};
             top_ += LabelHeight(piece);
         }
         placed.field = {left_, top_, right_, top_ + height};
         if (HasLabelBefore(piece)) {
             // Centred on the height of the letters in the field.
-            const int inset = (height - Down(kLineHeight)) / 2;
-            placed.label = {left_, top_ + inset, left_ + labels, top_ + inset + Down(kLineHeight)};
+            const int inset = (height - VerticalPixels(kLineHeight)) / 2;
+            placed.label = {left_, top_ + inset, left_ + labels,
+                            top_ + inset + VerticalPixels(kLineHeight)};
             placed.field.left += labels;
         }
         if (!piece.button.empty()) {
             placed.button = placed.field;
             placed.button.left = right_ - ButtonWidth(piece.button);
-            placed.field.right = placed.button.left - Across(kButtonGap);
+            placed.field.right = placed.button.left - HorizontalPixels(kButtonGap);
         }
         if (piece.kind == PieceKind::Button)
             placed.field.right = left_ + ButtonWidth(piece.label);
         const bool isText = piece.kind == PieceKind::Paragraph || piece.kind == PieceKind::Rest;
         placed.scrolls = isText && ruler_.TextHeight(piece.text, right_ - left_, false) > height;
-        top_ += height + Down(GapBehind(piece));
+        top_ += height + VerticalPixels(GapBehind(piece));
         return placed;
     }
 
     int ButtonWidth(const Text& caption) const
     {
-        return std::max(Across(kButtonWidth), ruler_.LineWidth(caption) + Across(2 * kGap));
+        return std::max(HorizontalPixels(kButtonWidth),
+                        ruler_.LineWidth(caption) + HorizontalPixels(2 * kGap));
     }
 
     void PlaceButtons(int pageHeight)
     {
         result_.line = pageHeight;
-        const int top = pageHeight + kLineThickness + Down(kMargin);
-        result_.height = top + Down(kButtonHeight) + Down(kMargin);
+        const int top = pageHeight + kLineThickness + VerticalPixels(kMargin);
+        result_.height = top + VerticalPixels(kButtonHeight) + VerticalPixels(kMargin);
         const auto button = [&](int right) {
-            return PixelRect{right - Across(kButtonWidth), top, right, top + Down(kButtonHeight)};
+            return PixelRect{right - HorizontalPixels(kButtonWidth), top, right,
+                             top + VerticalPixels(kButtonHeight)};
         };
         if (page_.buttons == PageButtons::Finish) {
             result_.forward = button(right_);
             return;
         }
         result_.away = button(right_);
-        result_.forward = button(result_.away.left - Across(kMargin));
-        result_.back = button(result_.forward.left - Across(kButtonGap));
+        result_.forward = button(result_.away.left - HorizontalPixels(kMargin));
+        result_.back = button(result_.forward.left - HorizontalPixels(kButtonGap));
     }
 
     const SetupPage& page_;

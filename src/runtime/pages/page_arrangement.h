@@ -13,8 +13,8 @@ public:
     virtual ~PageRuler() = default;
 
     // A dialog unit in pixels.
-    virtual double UnitAcross() const = 0;
-    virtual double UnitDown() const = 0;
+    virtual double UnitWidth() const = 0;
+    virtual double UnitHeight() const = 0;
     /// The height of a text that is broken into lines of that width.
     virtual int TextHeight(const Text& text, int width, bool isTitle) const = 0;
     /// The width of a line; '&' marks an access letter and takes no room.

@@ -82,7 +82,7 @@ TEST_F(Icons, StandOnEveryButtonAndInTheMenus)
     EXPECT_TRUE(NamedIcon("no-such-picture").isNull());
 }
 
-TEST_F(Icons, HaveInkAndDifferFromEachOther)
+TEST_F(Icons, AreDrawnAndDifferFromEachOther)
 {
     std::map<QByteArray, int> seen;
     // Commands that do the same thing to another file, or in another place.

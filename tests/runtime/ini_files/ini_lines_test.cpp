@@ -34,7 +34,7 @@ TEST(ReadIniLines, TellsWhyALineIsNone)
     EXPECT_EQ(list.unreadable[3].reason, Message::SkipIniUnreadable);
     EXPECT_EQ(list.unreadable[4].line, "=1");
     EXPECT_EQ(list.unreadable[5].reason, Message::SkipIniComment);
-    // A new file head ends the section above it.
+    // A new file header ends the section above it.
     EXPECT_EQ(list.unreadable[6].line, "w=1");
     ASSERT_EQ(list.lines.size(), 1U);
 }

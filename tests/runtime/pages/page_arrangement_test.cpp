@@ -24,8 +24,8 @@ namespace fs = std::filesystem;
 /// Letters are 6 pixels wide and 13 high, those of titles half as large again.
 class EvenRuler : public PageRuler {
 public:
-    double UnitAcross() const override { return 1.5; }
-    double UnitDown() const override { return 1.625; }
+    double UnitWidth() const override { return 1.5; }
+    double UnitHeight() const override { return 1.625; }
     int TextHeight(const Text& text, int width, bool isTitle) const override
     {
         const int letter = isTitle ? 9 : 6;

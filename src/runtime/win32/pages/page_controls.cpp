@@ -179,7 +179,7 @@ HWND PageControls::AddRichPaper(const PagePiece& piece, const PlacedPiece& place
     // Unlike a plain field, this one would begin its lines at its very edge.
     RECT inside{};
     GetClientRect(made, &inside);
-    const int margin = static_cast<int>(4 * letters_.UnitAcross());
+    const int margin = static_cast<int>(4 * letters_.UnitWidth());
     InflateRect(&inside, -margin, -margin);
     SendMessageW(made, EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inside));
     SendMessageW(made, EM_EXLIMITTEXT, 0, static_cast<LPARAM>(piece.text.size()) + 1);

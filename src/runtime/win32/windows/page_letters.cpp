@@ -70,8 +70,8 @@ void PageLetters::Measure()
     GetTextExtentPoint32W(device_, kAlphabet, kLetters, &size);
     TEXTMETRICW metrics{};
     GetTextMetricsW(device_, &metrics);
-    unitAcross_ = double(size.cx) / kLetters / 4;
-    unitDown_ = double(metrics.tmHeight) / 8;
+    unitWidth_ = double(size.cx) / kLetters / 4;
+    unitHeight_ = double(metrics.tmHeight) / 8;
 }
 
 int PageLetters::TextHeight(const Text& text, int width, bool isTitle) const

@@ -16,8 +16,8 @@ public:
     PageLetters(const PageLetters&) = delete;
     PageLetters& operator=(const PageLetters&) = delete;
 
-    double UnitAcross() const override { return unitAcross_; }
-    double UnitDown() const override { return unitDown_; }
+    double UnitWidth() const override { return unitWidth_; }
+    double UnitHeight() const override { return unitHeight_; }
     int TextHeight(const Text& text, int width, bool isTitle) const override;
     int LineWidth(const Text& line) const override;
 
@@ -30,8 +30,8 @@ private:
     HDC device_ = nullptr;
     HFONT font_ = nullptr;
     HFONT titleFont_ = nullptr;
-    double unitAcross_ = 0;
-    double unitDown_ = 0;
+    double unitWidth_ = 0;
+    double unitHeight_ = 0;
 };
 
 /// The scale of the display that the window is on; without one, that of the system.
