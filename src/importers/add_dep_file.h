@@ -15,9 +15,9 @@ struct DepFileRows {
     std::vector<std::size_t> added;
 };
 
-/// Nothing where the user changed his mind. The component itself is not added. A file that is
-/// missing leaves a row without its source and ends the walk, which is told; once the file is
-/// there, the command fills that row and adds the rest. `lastDepFileDir` is where the file dialog
+/// Nothing where the user cancelled. The component itself is not added. A missing file leaves a row
+/// without its source and ends the walk, and a box says so; once the file is there, the command
+/// fills that row and adds the rest. `lastDepFileDir` is where the file dialog
 /// opens, and takes the folder of the dependency file.
 std::optional<DepFileRows> AddDepFileCommand(const ListWork& work, Text& lastDepFileDir);
 

@@ -172,6 +172,18 @@ TEST_F(TemporaryNames, OfTheUsersOwnFilesAreThereAfterAFailureAndANo)
     EXPECT_FALSE(HasFolderAside());
 }
 
+// Killed between the two, a run has moved one of them aside and not the other.
+TEST_F(TemporaryNames, AreBothKeptWhereARunWasKilledBetweenThem)
+{
+    Put("PROGRAM.OLD\\INSTALL.ZIP", "an archive of the user's");
+    Put("INSTALL.ADX", "a text of the user's");
+    EXPECT_EQ(desk.Create(), CreateResult::Done);
+    EXPECT_THAT(desk.Package(), ElementsAre("INSTALL.ADX", "INSTALL.ZIP", "self.exe"));
+    EXPECT_EQ(desk.Get("INSTALL.ZIP"), "an archive of the user's");
+    EXPECT_EQ(desk.Get("INSTALL.ADX"), "a text of the user's");
+    EXPECT_FALSE(HasFolderAside());
+}
+
 TEST_F(TemporaryNames, AreRestoredAfterARunThatWasKilled)
 {
     Put("PROGRAM.OLD\\INSTALL.ZIP", "an archive of the user's");

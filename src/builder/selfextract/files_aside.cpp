@@ -5,14 +5,13 @@
 #include "formats/package_files.h"
 #include "helpers/windows_path.h"
 
-#include <algorithm>
-
 namespace quillon {
 
 namespace {
 
 // A folder, since the files of folders are not packed.
 constexpr const char* kAsideFolder = "PROGRAM.OLD";
+// The description goes last, since it says of both whose they are.
 constexpr const char* kTemporaryNames[] = {kSelfExtractArchive, kSelfExtractProject};
 
 bool IsSelfExtracting(const CreateRun& run)
@@ -46,25 +45,13 @@ void MoveAside(CreateRun& run, const Text& name)
     files.Rename(path, aside);
 }
 
-bool HasTemporaryNamesAside(const CreateRun& run)
+/// Whether the file of that name is one that a run of Create has made: the description of an
+/// earlier run says so of both, and what a killed run has moved aside says it of what came in its
+/// place.
+bool IsTemporary(const CreateRun& run, const char* name)
 {
-    return std::ranges::any_of(kTemporaryNames, [&](const char* name) {
-        return run.host.files.FileExists(PathAside(run, name));
-    });
-}
-
-// Both are of an earlier run where its description is there, or where a killed one has already
-// moved aside what had these names before it.
-bool AreTemporaryFilesOurs(const CreateRun& run)
-{
-    return HasTemporaryNamesAside(run) ||
+    return run.host.files.FileExists(PathAside(run, name)) ||
            IsSelfExtractProject(run.host.files, JoinPath(run.DestDir, kSelfExtractProject));
-}
-
-void RemoveTemporaryFiles(CreateRun& run)
-{
-    for (const char* name : kTemporaryNames)
-        RemoveQuietly(run.host.files, JoinPath(run.DestDir, name));
 }
 
 void RestoreProgram(CreateRun& run)
@@ -81,15 +68,19 @@ void RestoreProgram(CreateRun& run)
         files.Rename(aside, path);
 }
 
-// Our own make room: a failed run would leave them, but the user's files have these names.
-void RestoreTemporaryNames(CreateRun& run)
+// Beside a description of ours the next run would take the user's archive for one of Create's.
+void RestoreTemporaryName(CreateRun& run, const char* name)
 {
-    if (!HasTemporaryNamesAside(run))
+    FileSystem& files = run.host.files;
+    const Text aside = PathAside(run, name);
+    if (!files.FileExists(aside))
         return;
-    RemoveTemporaryFiles(run);
-    for (const char* name : kTemporaryNames)
-        if (run.host.files.FileExists(PathAside(run, name)))
-            run.host.files.Rename(PathAside(run, name), JoinPath(run.DestDir, name));
+    const Text description = JoinPath(run.DestDir, kSelfExtractProject);
+    if (IsSelfExtractProject(files, description))
+        RemoveQuietly(files, description);
+    const Text path = JoinPath(run.DestDir, name);
+    RemoveQuietly(files, path);
+    files.Rename(aside, path);
 }
 
 } // namespace
@@ -98,10 +89,10 @@ void MoveFilesAside(CreateRun& run)
 {
     if (!IsSelfExtracting(run))
         return;
-    if (AreTemporaryFilesOurs(run))
-        RemoveTemporaryFiles(run);
-    else
-        for (const char* name : kTemporaryNames)
+    for (const char* name : kTemporaryNames)
+        if (IsTemporary(run, name))
+            RemoveQuietly(run.host.files, JoinPath(run.DestDir, name));
+        else
             MoveAside(run, name);
     if (const Text name = ProgramName(run); !name.empty())
         MoveAside(run, name);
@@ -112,7 +103,8 @@ void RestoreFilesAside(CreateRun& run)
     if (!IsSelfExtracting(run))
         return;
     RunErrorNumber([&] { RestoreProgram(run); });
-    RunErrorNumber([&] { RestoreTemporaryNames(run); });
+    for (const char* name : kTemporaryNames)
+        RunErrorNumber([&] { RestoreTemporaryName(run, name); });
     const Text folder = JoinPath(run.DestDir, kAsideFolder);
     RunErrorNumber([&] {
         if (run.host.files.DirExists(folder) && run.host.files.List(folder).empty())

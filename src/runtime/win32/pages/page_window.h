@@ -21,7 +21,7 @@ public:
     using PictureSource = std::function<ScalablePicture(const Text& bitmap)>;
 
     /// `ask` is the window of the installation, which is hidden while a page is shown.
-    /// `behind` is the screen, if there is one; it is told when a page comes and goes.
+    /// `behind` is the screen, if there is one; it is notified when a page is shown or hidden.
     PageWindow(HINSTANCE instance, WindowAsk& ask, const LanguageTexts& texts,
                PictureSource pictures, ScreenWindow* behind = nullptr);
     ~PageWindow() override;

@@ -17,7 +17,7 @@ void StartProgram();
 HMODULE LoadFromSystemFolder(const char* name);
 
 /// Loads from the system's folder, by its absolute path, what Windows itself asks for by the name
-/// alone while a program runs. Only needed on systems that can't be told where to look: those
+/// alone while a program runs. Only needed on systems that have no setting for where to look: those
 /// before Windows 8 without an update of 2011.
 void LoadCommonLibraries();
 
